@@ -1,0 +1,53 @@
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+
+# Options, warnings and helpers that every folder shares.
+
+set(kelmar_older_default OFF)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(kelmar_older_default ON)
+endif()
+option(KELMAR_OLDER_HOSTS "Build the paths for older dialog hosts (print-settings ticket, slider notifications)"
+       ${kelmar_older_default})
+option(KELMAR_WERROR "Treat compiler warnings as errors" OFF)
+option(KELMAR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(KELMAR_BUILD_TESTS "Build the tests" ON)
+option(KELMAR_BUILD_BENCH "Build the benchmarks" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(KELMAR_CCACHE ccache)
+if(KELMAR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_C_COMPILER_LAUNCHER ${KELMAR_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${KELMAR_CCACHE})
+endif()
+
+add_library(kelmar_options INTERFACE)
+target_include_directories(kelmar_options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(kelmar_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
+                                                $<$<BOOL:${KELMAR_WERROR}>:-Werror>)
+target_compile_definitions(
+  kelmar_options
+  INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+            KELMAR_OLDER_HOSTS=$<BOOL:${KELMAR_OLDER_HOSTS}>)
+if(KELMAR_SANITIZE)
+  target_compile_options(kelmar_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                  -fno-omit-frame-pointer)
+  target_link_options(kelmar_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ...)
+function(kelmar_room name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  add_library(${name} OBJECT ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC kelmar_options ${ARG_LIBS})
+endfunction()

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/text_field.h"
+
+#include <functional>
+
+// Keeps a code field to at most five decimal digits while the user types and pads it to five when editing ends.
+// Stateless; registered under "QVCodeAssistant_M880" for layouts.
+class QVCodeAssistant_M880 : public platform::TextFieldDelegate
+{
+public:
+    QVCodeAssistant_M880();
+    // `beep` stands in for the system's beep; by default QApplication::beep().
+    explicit QVCodeAssistant_M880(std::function<void()> beep);
+
+    void controlTextDidChange(platform::TextField *control, const QVariantMap &userInfo) override;
+    // Always true.
+    bool controlTextShouldEndEditing(platform::TextField *control, QLineEdit *fieldEditor) override;
+
+private:
+    std::function<void()> m_beep;
+};

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/key_value_object.h"
+#include "platform/layout_loader.h"
+#include "platform/print_dialog.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QSlider>
+#include <QStringList>
+#include <QVariant>
+
+#include <memory>
+#include <optional>
+
+class QVPDEManager_M880;
+
+extern const QString QVOptionChangedNotification; // "QVOptionChanged"
+
+// The panel protocol inside the plug-in.
+class QVCocoaPDE_M880 : public platform::PrintDialogPanel
+{
+public:
+    virtual QStringList supportedPPDOptionKeys() = 0;
+};
+
+// Observed key path to slider; exists only where the slider path of older hosts is in use.
+using SliderRegistry = QMultiMap<QString, QPointer<QSlider>>;
+
+// What every panel shares: pending choices of its PPD options as keyed values, its layout, save, restore, summary.
+// For an option keyword K it answers K (the choice keyword), K + "Choices" (list of choice dictionaries) and
+// K + "Choice" (index of the choice). Every set of K or K + "Choices" is posted on the manager's notification
+// centre under that key. Nothing reaches the PPD or the host before a save. Owned by the host through
+// PrintDialogPanel; holds the manager.
+class QVPDE_M880 : public platform::KeyValueObject, public QVCocoaPDE_M880, public platform::LayoutOwner
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList supportedPPDOptionKeys READ supportedPPDOptionKeys)
+public:
+    // The panel of class T for one dialog; null when its initWithManager() declines.
+    template <typename T> static std::unique_ptr<platform::PrintDialogPanel>
+    pdeWithManager(std::shared_ptr<QVPDEManager_M880> manager)
+    {
+        auto panel = std::make_unique<T>();
+        if (!panel->initWithManager(std::move(manager)))
+            return nullptr;
+        return panel;
+    }
+    QVPDE_M880();
+    ~QVPDE_M880() override;
+
+    // Loads choice lists and layout. False makes the panel useless; raises Exception when the layout does not fit.
+    virtual bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager);
+    // Name of the layout for a model; empty for a panel without an interface. Nil means that the class loads none.
+    virtual QString nibNameForModel(const QString &model) const;
+
+    const std::shared_ptr<QVPDEManager_M880> &manager() const { return m_manager; }
+    void setManager(std::shared_ptr<QVPDEManager_M880> manager);
+    QString panelName() override;
+    void setPanelName(const QString &name);
+    QString panelKind() override { return m_panelKind; }
+    void setPanelKind(const QString &kind);
+    // Sets the kind "com.kelmar.pde." + identifier.
+    void setPanelIdentifier(const QString &identifier);
+    QWidget *panelView() override { return m_view; }
+    QStringList supportedPPDOptionKeys() override { return m_supportedPPDOptionKeys.value_or(QStringList()); }
+    void setSupportedPPDOptionKeys(const QStringList &keys);
+    const std::optional<QStringList> &supportedExtensionOptionKeys() const { return m_supportedExtensionOptionKeys; }
+    void setSupportedExtensionOptionKeys(const QStringList &keys);
+
+    QVariant valueForKey(const QString &key) override;
+    // An index outside the choice list raises Exception (range); a nil value of an option raises invalid argument.
+    void setValueForKey(const QVariant &value, const QString &key) override;
+    // The PPD's default choice keyword of an option; nil when it has none.
+    QVariant defaultValueForKey(const QString &key);
+    void setDefaultValueForKey(const QString &key);
+    // The digits of a code held in PREFIX1 to PREFIX5, and back. A code needs five characters; a shorter one raises
+    // Exception (range).
+    QString composeCodeForOption(const QString &prefix);
+    void decomposeCodeForOption(const QString &code, const QString &prefix);
+
+    // Both always true; an Exception inside them is logged.
+    bool restoreValuesAndReturnError(QString *error) override;
+    bool saveValuesAndReturnError(QString *error) override;
+    QMap<QString, QString> summaryInfo() override;
+    // Text of the marked choice of an option; nil string when it has none or should not be shown.
+    virtual QString summaryForKey(const QString &key);
+    bool shouldHide() override { return true; }
+    void willShow() override {}
+
+    platform::KeyValueObject *keyValueObject() override { return this; }
+    std::vector<platform::Outlet> outlets() override;
+    void observeValueForKeyPathOfObjectChangeContext(const QString &keyPath, platform::KeyValueObject *object,
+                                                     const QVariantMap &change, QObject *context) override;
+    // Action of sliders on the older-host path.
+    void sliderDidMove(QObject *sender);
+
+protected:
+    std::optional<QStringList> m_supportedPPDOptionKeys; // nil until first built
+
+private:
+    bool supportsOption(const QString &option);
+    void loadChoiceLists();
+    void loadInterface();
+
+    QWidget *m_view = nullptr; // outlet; belongs to the layout
+    QString m_panelName;
+    QString m_panelKind;
+    std::shared_ptr<QVPDEManager_M880> m_manager;
+    platform::TopLevelObjects m_topLevelNibObjects;
+    std::optional<QStringList> m_supportedExtensionOptionKeys;
+    QVariantMap m_ppdOptionValues;
+    QVariantMap m_extensionOptionValues;
+    std::unique_ptr<SliderRegistry> m_updaterInfo;
+    bool m_ignoreSliderNotifications = false;
+};

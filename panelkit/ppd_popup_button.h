@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/notification_center.h"
+
+#include <QComboBox>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class QVPDEManager_M880;
+class QVPDE_M880;
+
+// A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value and greys out the
+// choices that conflict with the panel's other values, saying why in the tooltip. Belongs to its layout; the panel
+// (its data source) is watched, not owned. Never changes the selection by itself.
+class QVPopUpButton_M880 : public QComboBox
+{
+    Q_OBJECT
+    // Index of the selected item; nil when none of the items is selected.
+    Q_PROPERTY(QVariant selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
+public:
+    explicit QVPopUpButton_M880(QWidget *parent = nullptr);
+    ~QVPopUpButton_M880() override;
+
+    // Rebuilds menu, conflict set, observers and binding. A null panel gives an empty menu. Observers of an earlier
+    // call stay. Nothing is greyed out before the first relevant change.
+    void setDataSourceAndOptionName(QVPDE_M880 *panel, const QString &optionName);
+    // Decides anew which items are enabled, unless the notification is of this pop-up's own option.
+    void ppdValueHasChanged(const platform::Notification &notification);
+
+    const QString &optionName() const { return m_optionName; }
+    const QSet<QString> &conflictableOptions() const { return m_conflictableOptions; }
+    bool isItemEnabled(int index) const;
+    QVariant selectedIndex() const;
+    void setSelectedIndex(const QVariant &index);
+
+Q_SIGNALS:
+    void selectedIndexChanged();
+
+private:
+    void addChoice(const QVariantMap &choice);
+    // The option whose current value forbids the choice; nil string when none does.
+    QString conflictingOption(const QString &choice) const;
+    void setItemState(int index, const QString &conflictingOption);
+
+    QString m_optionName;
+    QSet<QString> m_conflictableOptions;
+    std::shared_ptr<QVPDEManager_M880> m_manager;
+    QPointer<QVPDE_M880> m_dataSource;
+};

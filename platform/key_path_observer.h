@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/export.h"
+#include "platform/key_value_object.h"
+
+#include <QMetaObject>
+#include <QPointer>
+
+#include <vector>
+
+namespace platform {
+
+// Watches one key path of one object, also when an object on the way is replaced. Owned by whoever wants to
+// know; ends quietly when the watched object dies.
+class KELMAR_PLATFORM_EXPORT KeyPathObserver : public QObject
+{
+    Q_OBJECT
+public:
+    KeyPathObserver(KeyValueObject *object, const QString &keyPath, QObject *parent = nullptr);
+    ~KeyPathObserver() override;
+
+Q_SIGNALS:
+    // The value at the path may have changed; read it anew.
+    void changed();
+
+private:
+    void hook();
+    void onKey(qsizetype depth, const QString &key);
+
+    QPointer<KeyValueObject> m_object;
+    QStringList m_keys;
+    std::vector<QMetaObject::Connection> m_connections;
+};
+
+} // namespace platform

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/export.h"
+
+#include <QLoggingCategory>
+
+// One category a room, so that a user can turn each on or off with QT_LOGGING_RULES and finds its lines in
+// the journal. Messages never hold codes or passwords.
+KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPlatform();
+KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPlugin();
+KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPanels();
+KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcDevice();
+KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcHost();

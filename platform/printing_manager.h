@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/export.h"
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+#include <QVariantMap>
+
+#include <optional>
+
+struct ppd_file_s;
+
+namespace platform {
+
+// The printer a session prints to. A value.
+struct Printer
+{
+    QString name;      // CUPS destination, "queue" or "queue/instance"
+    QString deviceUri; // as CUPS tells it; nil when unknown
+};
+
+// A job's key-value store. Owned by the host, lives as long as its dialog.
+class KELMAR_PLATFORM_EXPORT PrintSettings
+{
+public:
+    QVariant value(const QString &key) const { return m_values.value(key); }
+    // A nil value removes the key.
+    void setValue(const QString &key, const QVariant &value);
+    const QVariantMap &values() const { return m_values; }
+
+private:
+    QVariantMap m_values;
+};
+
+// A ticket of an older dialog host: a named store with one dictionary of PPD choices. A dictionary that was
+// never set is missing, which is something else than an empty one.
+struct Ticket
+{
+    std::optional<QVariantMap> ppdDictionary;
+};
+
+// One dialog's session. Owned by the host; the PPD is borrowed and outlives the session.
+struct PrintSession
+{
+    std::optional<Printer> printer;
+    ppd_file_s *ppd = nullptr;
+    QHash<QString, Ticket> tickets;
+};
+
+} // namespace platform
+
+using OSStatus = qint32; // 0 is success
+using PMPrintSettings = platform::PrintSettings *;
+using PMPrintSession = platform::PrintSession *;
+using PMPrinter = const platform::Printer *;
+using PMTicketRef = platform::Ticket *;
+
+constexpr OSStatus kPMNoError = 0;
+constexpr OSStatus kPMInvalidParameter = -30877;
+constexpr OSStatus kPMKeyNotFound = -9589;
+
+// Null handles give kPMInvalidParameter and leave the result nil or null; results must not be null.
+
+KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key, QVariant *value);
+// A nil value removes the key. `locked` is accepted and has no effect: nobody but the host may lock a setting.
+KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
+                                                        const QVariant &value, bool locked);
+KELMAR_PLATFORM_EXPORT OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *printer);
+KELMAR_PLATFORM_EXPORT OSStatus PMPrinterCopyDeviceURI(PMPrinter printer, QString *uri);
+KELMAR_PLATFORM_EXPORT OSStatus GetPPDRefFromSession(PMPrintSession session, ppd_file_s **ppd);
+
+#if KELMAR_OLDER_HOSTS
+KELMAR_PLATFORM_EXPORT OSStatus PMSessionGetTicketFromSession(PMPrintSession session, const QString &name,
+                                                              PMTicketRef *ticket);
+// Both indices are 0 for the one dictionary a ticket has. The dictionary is borrowed from the ticket.
+KELMAR_PLATFORM_EXPORT OSStatus PMTicketGetPPDDict(PMTicketRef ticket, quint32 nodeIndex1, quint32 nodeIndex2,
+                                                   QVariantMap **dictionary);
+#endif
