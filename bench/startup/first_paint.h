@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QEvent>
+#include <QFile>
+#include <QObject>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+// Reports when a window has been painted for the first time, in the form that bench/startup/run.py reads, and ends
+// the program. The launcher leaves the start time, CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
+class FirstPaint : public QObject
+{
+public:
+    explicit FirstPaint(QWidget *window) : QObject(window), m_window(window) { window->installEventFilter(this); }
+
+    static long residentKilobytes()
+    {
+        QFile status(QStringLiteral("/proc/self/status"));
+        if (!status.open(QIODevice::ReadOnly))
+            return 0;
+        const QList<QByteArray> lines = status.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            if (line.startsWith("VmRSS:"))
+                return line.mid(6).trimmed().split(' ').first().toLong();
+        }
+        return 0;
+    }
+
+    static double sinceStartMilliseconds()
+    {
+        timespec now{};
+        clock_gettime(CLOCK_MONOTONIC, &now);
+        const char *start = std::getenv("KELMAR_T0_NS");
+        const long long nowNs = now.tv_sec * 1000000000LL + now.tv_nsec;
+        return start ? static_cast<double>(nowNs - std::atoll(start)) / 1e6 : 0.0;
+    }
+
+    [[noreturn]] static void report()
+    {
+        std::printf("first-paint-ms %.3f\nresident-kb %ld\n", sinceStartMilliseconds(), residentKilobytes());
+        std::fflush(stdout);
+        std::_Exit(0);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == m_window && event->type() == QEvent::Paint && !m_seen) {
+            m_seen = true;
+            // The backing store is flushed after this event; a zero timer runs after the flush.
+            QTimer::singleShot(0, this, [] { report(); });
+        }
+        return false;
+    }
+
+private:
+    QWidget *m_window;
+    bool m_seen = false;
+};

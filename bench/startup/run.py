@@ -1,0 +1,107 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""Process start to first paint, and resident memory, of kelmar-print beside a bare Qt dialog and Qt's print dialog.
+
+All three run in turn on one Xvfb and one private cupsd, so the ratios hold on any machine. Exits 1 when a goal is
+missed. Usage: run.py BUILDDIR [REPETITIONS]
+"""
+import os
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+PAINT_GOAL = 1.2  # times the bare dialog
+SOURCE = Path(__file__).resolve().parents[2]
+CUPSD = SOURCE / "scripts/lib/private-cupsd.sh"
+
+
+def launch(command, environment):
+    """Runs a program with the time just before exec in KELMAR_T0_NS; gives its figures."""
+    reading, writing = os.pipe()
+    pid = os.fork()
+    if pid == 0:
+        os.dup2(writing, 1)
+        os.dup2(os.open(os.devnull, os.O_WRONLY), 2)
+        environment["KELMAR_T0_NS"] = str(time.clock_gettime_ns(time.CLOCK_MONOTONIC))
+        os.execve(command[0], command, environment)
+    os.close(writing)
+    with os.fdopen(reading) as stream:
+        text = stream.read()
+    _, status = os.waitpid(pid, 0)
+    if status != 0:
+        raise SystemExit(f"{command[0]} failed: {text}")
+    figures = dict(line.split() for line in text.splitlines() if len(line.split()) == 2)
+    return float(figures["first-paint-ms"]), int(figures["resident-kb"])
+
+
+def measure(programs, environment, repetitions):
+    """Interleaved runs; the first round only warms the caches."""
+    samples = {name: [] for name in programs}
+    for turn in range(repetitions + 1):
+        for name, command in programs.items():
+            figures = launch(command, dict(environment))
+            if turn:
+                samples[name].append(figures)
+    return {
+        name: (statistics.median(s[0] for s in rows), statistics.median(s[1] for s in rows))
+        for name, rows in samples.items()
+    }
+
+
+def start_display(folder):
+    reading, writing = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+        pass_fds=[writing], stderr=subprocess.DEVNULL)
+    os.close(writing)
+    with os.fdopen(reading) as stream:
+        number = stream.readline().strip()
+    return server, f":{number}"
+
+
+def main():
+    build = Path(sys.argv[1]).resolve()
+    repetitions = int(sys.argv[2]) if len(sys.argv) > 2 else 15
+    failures = 0
+    with tempfile.TemporaryDirectory() as name:
+        folder = Path(name)
+        folder.chmod(0o755)
+        for part in ("home", "runtime"):
+            (folder / part).mkdir(mode=0o700)
+        server, display = start_display(folder)
+        try:
+            subprocess.run([CUPSD, "start", folder / "cups"], check=True, stdout=subprocess.DEVNULL)
+            subprocess.run([CUPSD, "add-queue", folder / "cups", "office", build / "ppds/kelm880.ppd"],
+                           check=True, stdout=subprocess.DEVNULL)
+            environment = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM="xcb", HOME=str(folder / "home"),
+                               XDG_RUNTIME_DIR=str(folder / "runtime"), LC_ALL="C.UTF-8",
+                               CUPS_SERVER=str(folder / "cups/cups.sock"))
+            document = str(SOURCE / "demo/sample.pdf")
+            figures = measure({
+                "bare Qt dialog": [str(build / "bench/qt_floor")],
+                "kelmar-print": [str(build / "bin/kelmar-print"), "-d", "office", "--startup-time", document],
+                "Qt print dialog, options shown": [str(build / "bench/qt_print_dialog"), "office"],
+            }, environment, repetitions)
+        finally:
+            subprocess.run([CUPSD, "stop", folder / "cups"], check=False, stdout=subprocess.DEVNULL)
+            server.terminate()
+            server.wait()
+    floor = figures["bare Qt dialog"]
+    for name, (paint, resident) in figures.items():
+        print(f"{name:32} {paint:7.1f} ms  {paint / floor[0]:5.2f} x  {resident:7.0f} kB")
+    own, peer = figures["kelmar-print"], figures["Qt print dialog, options shown"]
+    if own[0] > PAINT_GOAL * floor[0]:
+        print(f"MISSED: first paint takes {own[0] / floor[0]:.2f} times the bare dialog; the goal is {PAINT_GOAL}")
+        failures += 1
+    if own[1] >= peer[1]:
+        print("MISSED: resident memory is not below that of Qt's print dialog")
+        failures += 1
+    return 1 if failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

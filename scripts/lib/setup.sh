@@ -1,0 +1,58 @@
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+# shellcheck shell=bash
+# Sourced by the scripts: the Debian packages that building, testing and the demo need, and the configure step.
+
+build_packages=(
+    g++ cmake ninja-build ccache pkg-config
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libqt6svg6
+    libcups2-dev cups-ppdc libsnmp-dev libavahi-compat-libdnssd-dev libbenchmark-dev
+)
+run_packages=(
+    cups-daemon cups-client cups-filters ghostscript file libqt6gui6 qt6-qpa-plugins
+    snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
+    avahi-daemon avahi-utils dbus-daemon libnss-mdns iproute2 util-linux procps
+)
+check_packages=(clang-format)
+
+say() { printf '== %s\n' "$*"; }
+
+# Installs those of the given packages that are not there yet. Asks apt only when something is missing.
+ensure_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    say "Installing ${missing[*]}"
+    local sudo=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}; install them as root." >&2; return 1; }
+        sudo=(sudo)
+    fi
+    # The daemons are started privately by the scripts; packages must not start theirs.
+    local policy=/usr/sbin/policy-rc.d made_policy=
+    if [ "$(id -u)" -eq 0 ] && [ ! -e $policy ]; then
+        printf '#!/bin/sh\nexit 101\n' >$policy && chmod 755 $policy && made_policy=1
+    fi
+    local status=0
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >/dev/null &&
+        "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+            "${missing[@]}" >/dev/null || status=$?
+    [ -n "$made_policy" ] && rm -f $policy
+    [ $status -eq 0 ] || echo "apt-get could not install: ${missing[*]}" >&2
+    return $status
+}
+
+# Configures a preset when it has not been, then builds it. Quick when nothing changed.
+build_preset() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+        cat "build-$preset.log" >&2
+        rm -f "build-$preset.log"
+        return 1
+    }
+    rm -f "build-$preset.log"
+    cmake --build --preset "$preset" "$@"
+}
