@@ -15,18 +15,19 @@
 
 namespace platform {
 
-// Links one property of a target (usually a widget) to a key path of an object. A child of its target; goes with
-// it, or with unbind(). Two-way where the property has a notify signal, can be written and the transformer
-// reverses; else one-way towards the target. Neither side echoes the other. When the object's setter raises, the
-// exception is logged and the target goes back to what the key holds.
+// Links one property of a target (usually a widget) to a key path of an object. A child of its target; goes
+// with it, or with unbind(). Two-way where the property has a notify signal, can be written and the
+// transformer reverses; else one-way towards the target. Neither side echoes the other. When the object's
+// setter raises, the exception is logged and the target goes back to what the key holds.
 class KELMAR_PLATFORM_EXPORT Binding : public QObject
 {
     Q_OBJECT
 public:
-    // Binds and brings the target to the key's value at once. A null object makes a binding that does nothing.
-    // Raises Exception when the target has no such property or the object no such key.
-    // A binding of the same property of the same target is replaced.
-    static Binding *bind(QObject *target, const QString &property, KeyValueObject *object, const QString &keyPath,
+    // Binds and brings the target to the key's value at once. A null object makes a binding that does
+    // nothing. Raises Exception when the target has no such property or the object no such key. A binding of
+    // the same property of the same target is replaced.
+    static Binding *bind(QObject *target, const QString &property, KeyValueObject *object,
+                         const QString &keyPath,
                          std::shared_ptr<const ValueTransformer> transformer = nullptr);
     // The binding of a property, or null.
     static Binding *infoForBinding(const QObject *target, const QString &property);
@@ -49,6 +50,8 @@ private Q_SLOTS:
 private:
     Binding(QObject *target, const QMetaProperty &property, KeyValueObject *object, const QString &keyPath,
             std::shared_ptr<const ValueTransformer> transformer);
+
+    void show(const QVariant &value);
 
     QMetaProperty m_property;
     QPointer<KeyValueObject> m_object;

@@ -35,8 +35,8 @@ public:
     static const QString panelTypeKey;      // "PanelType"
     static const QString printerModelsKey;  // "PrinterModels", a list of wildcards of PPD model names
 
-    // Null with a message that names the file and what is wrong with it: no folder, no Info.json, broken JSON,
-    // a missing or mistyped required key (all but the version and the models).
+    // Null with a message that names the file and what is wrong with it: no folder, no Info.json, broken
+    // JSON, a missing or mistyped required key (all but the version and the models).
     static std::shared_ptr<Bundle> open(const QString &folder, const QLocale &locale, QString *error);
     ~Bundle();
     Bundle(const Bundle &) = delete;
@@ -51,10 +51,11 @@ public:
     // Full path of layouts/NAME.ui, whether or not the file exists.
     QString layoutPath(const QString &name) const;
 
-    // The text for `key` in the default string table; where there is none, `value`; where that is nil or empty,
-    // the key itself.
+    // The text for `key` in the default string table; where there is none, `value`; where that is nil or
+    // empty, the key itself.
     QString localizedStringForKey(const QString &key, const QString &value = QString()) const;
-    // A text of a layout or of code, by the class (context) it stands in; `source` where there is no translation.
+    // A text of a layout or of code, by the class (context) it stands in; `source` where there is no
+    // translation.
     QString translate(const char *context, const char *source, const char *disambiguation = nullptr) const;
 
     // Loads the code and gives its root component, which must be a `PrintDialogExtension` of the class that

@@ -18,10 +18,10 @@ namespace platform {
 class KELMAR_PLATFORM_EXPORT Exception : public std::runtime_error
 {
 public:
-    static const QString undefinedKeyName;     // "UndefinedKeyException"
-    static const QString rangeName;            // "RangeException"
-    static const QString invalidArgumentName;  // "InvalidArgumentException"
-    static const QString layoutName;           // "LayoutException"
+    static const QString undefinedKeyName;    // "UndefinedKeyException"
+    static const QString rangeName;           // "RangeException"
+    static const QString invalidArgumentName; // "InvalidArgumentException"
+    static const QString layoutName;          // "LayoutException"
 
     Exception(const QString &name, const QString &reason, const QVariantMap &userInfo = {});
     Exception(const Exception &) = default;

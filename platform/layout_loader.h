@@ -22,12 +22,14 @@ class KeyValueObject;
 struct Outlet
 {
     QString name;
-    // Takes the widget; false when it is of the wrong class.
+    // Takes the widget; false when it is of the wrong class. Takes null when the layout is given up after
+    // all.
     std::function<bool(QWidget *)> fill;
 };
 
 // An outlet that is a plain pointer field. The widget belongs to the layout.
-template <typename W> Outlet outlet(const QString &name, W **field)
+template <typename W>
+Outlet outlet(const QString &name, W **field)
 {
     return {name, [field](QWidget *w) { return (*field = qobject_cast<W *>(w)) != nullptr; }};
 }
@@ -53,16 +55,18 @@ public:
 using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 
 // Loads layouts/NAME.ui of the bundle for an owner: fills its outlets, makes the bindings of the dynamic
-// properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`, and
-// translates its texts with the bundle's strings. Every declared outlet must be filled.
-// Raises Exception (layoutName) naming the file, the widget and the outlet, key, property, transformer, action or
-// delegate that does not fit; nothing is left behind then.
-KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner);
+// properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`,
+// and translates its texts with the bundle's strings. Every declared outlet must be filled. Raises Exception
+// (layoutName) naming the file, the widget and the outlet, key, property, transformer, action or delegate
+// that does not fit; nothing is left behind then.
+KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
+                                                  LayoutOwner *owner);
 
 // Makes widgets of `className` available to layouts. The last registration of a name counts.
 using WidgetFactory = std::function<QWidget *(QWidget *parent)>;
 KELMAR_PLATFORM_EXPORT void registerLayoutWidget(const QString &className, WidgetFactory factory);
-template <typename W> void registerLayoutWidget(const QString &className)
+template <typename W>
+void registerLayoutWidget(const QString &className)
 {
     registerLayoutWidget(className, [](QWidget *parent) -> QWidget * { return new W(parent); });
 }

@@ -26,9 +26,10 @@ struct Notification
     QVariantMap userInfo;
 };
 
-// Publish and subscribe by name, in one thread. Delivery is synchronous, in order of registration. An observer
-// registered while a notification is delivered does not get that one; one removed meanwhile is not called any
-// more. Registering twice delivers twice. A destroyed observer is skipped, so forgetting to remove is harmless.
+// Publish and subscribe by name, in one thread. Delivery is synchronous, in order of registration. An
+// observer registered while a notification is delivered does not get that one; one removed meanwhile is not
+// called any more. Registering twice delivers twice. A destroyed observer is skipped, so forgetting to remove
+// is harmless.
 class KELMAR_PLATFORM_EXPORT NotificationCenter
 {
 public:

@@ -48,8 +48,8 @@ class KELMAR_PLATFORM_EXPORT BlockingWorkHost
 {
 public:
     virtual ~BlockingWorkHost();
-    // `what` is localised plain text such as "Asking the printer for its colour profiles"; the host has painted
-    // it when this returns.
+    // `what` is localised plain text such as "Asking the printer for its colour profiles"; the host has
+    // painted it when this returns.
     virtual void willBlock(const QString &what) = 0;
     virtual void didBlock() = 0;
 };

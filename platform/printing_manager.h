@@ -65,8 +65,10 @@ constexpr OSStatus kPMKeyNotFound = -9589;
 
 // Null handles give kPMInvalidParameter and leave the result nil or null; results must not be null.
 
-KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key, QVariant *value);
-// A nil value removes the key. `locked` is accepted and has no effect: nobody but the host may lock a setting.
+KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key,
+                                                        QVariant *value);
+// A nil value removes the key. `locked` is accepted and has no effect: nobody but the host may lock a
+// setting.
 KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
                                                         const QVariant &value, bool locked);
 KELMAR_PLATFORM_EXPORT OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *printer);

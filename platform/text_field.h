@@ -33,8 +33,8 @@ public:
     static std::shared_ptr<TextFieldDelegate> delegateForName(const QString &name);
 };
 
-// A line edit that commits its text when editing ends: on Return, on losing the focus, and when its window is told
-// to end editing. Bind `stringValue`; it keeps the last committed text while the user types.
+// A line edit that commits its text when editing ends: on Return, on losing the focus, and when its window is
+// told to end editing. Bind `stringValue`; it keeps the last committed text while the user types.
 class KELMAR_PLATFORM_EXPORT TextField : public QLineEdit
 {
     Q_OBJECT
@@ -49,15 +49,20 @@ public:
     void setStringValue(const QString &text);
     // True from the user's first change to the commit.
     bool isEditing() const { return m_editing; }
-    // Commits what was typed; false when the delegate keeps the field in editing. True at once when not editing.
+    // Commits what was typed; false when the delegate keeps the field in editing. True at once when not
+    // editing.
     bool endEditing();
 
-    // The window of `view` gives up its first responder: a pending edit anywhere in it is committed, then the focus
-    // is dropped. Null is allowed.
+    // The window of `view` gives up its first responder: a pending edit anywhere in it is committed, then the
+    // focus is dropped. Null is allowed.
     static void resignFirstResponder(QWidget *view);
 
 Q_SIGNALS:
     void stringValueCommitted();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     void userEdited();

@@ -24,11 +24,13 @@ public:
     virtual bool allowsReverseTransformation() const { return false; }
     // Key side to control side. A nil (invalid) value is a value like any other.
     virtual QVariant transformedValue(const QVariant &value) const = 0;
-    // Control side to key side; only called where allowsReverseTransformation() is true. The default gives nil.
+    // Control side to key side; only called where allowsReverseTransformation() is true. The default gives
+    // nil.
     virtual QVariant reverseTransformedValue(const QVariant &value) const;
 
     // The process-wide register of named transformers. A later one of the same name replaces the earlier.
-    static void setValueTransformerForName(std::shared_ptr<const ValueTransformer> transformer, const QString &name);
+    static void setValueTransformerForName(std::shared_ptr<const ValueTransformer> transformer,
+                                           const QString &name);
     // Null when no transformer has that name.
     static std::shared_ptr<const ValueTransformer> valueTransformerForName(const QString &name);
 };

@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/bundle.h"
+
+#include "platform/logging.h"
+#include "platform/print_dialog.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QPluginLoader>
+#include <QTranslator>
+
+#include <algorithm>
+#include <optional>
+
+#include <fnmatch.h>
+
+namespace platform {
+
+const QString Bundle::identifierKey = QStringLiteral("CFBundleIdentifier");
+const QString Bundle::versionKey = QStringLiteral("CFBundleVersion");
+const QString Bundle::executableKey = QStringLiteral("CFBundleExecutable");
+const QString Bundle::principalClassKey = QStringLiteral("PrincipalClass");
+const QString Bundle::panelTypeKey = QStringLiteral("PanelType");
+const QString Bundle::printerModelsKey = QStringLiteral("PrinterModels");
+
+namespace {
+
+// What is wrong with the contents of an Info.json; empty when nothing is.
+QString problemOf(const QJsonObject &info)
+{
+    for (const QString &key :
+         {Bundle::identifierKey, Bundle::executableKey, Bundle::principalClassKey, Bundle::panelTypeKey}) {
+        if (!info.contains(key))
+            return QStringLiteral("\"%1\" is missing").arg(key);
+        if (info.value(key).toString().isEmpty())
+            return QStringLiteral("\"%1\" is not a text, or empty").arg(key);
+    }
+    const QString executable = info.value(Bundle::executableKey).toString();
+    if (executable.contains(QLatin1Char('/')) || executable.startsWith(QLatin1Char('.')))
+        return QStringLiteral("\"%1\" is \"%2\", which is not the name of a file inside the bundle")
+            .arg(Bundle::executableKey, executable);
+    const QJsonValue models = info.value(Bundle::printerModelsKey);
+    const QJsonArray list = models.toArray();
+    const bool areTexts =
+        std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
+    if (!models.isUndefined() && (!models.isArray() || !areTexts))
+        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
+    return {};
+}
+
+// Contents of an Info.json; nothing with a message that begins with the file when they cannot be used.
+std::optional<QJsonObject> readInfo(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+        return std::nullopt;
+    }
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        *error =
+            QStringLiteral("%1: %2 at offset %3").arg(path, parseError.errorString()).arg(parseError.offset);
+        return std::nullopt;
+    }
+    const QString problem =
+        document.isObject() ? problemOf(document.object()) : QStringLiteral("the document is not an object");
+    if (!problem.isEmpty()) {
+        *error = QStringLiteral("%1: %2").arg(path, problem);
+        return std::nullopt;
+    }
+    return document.object();
+}
+
+// Suffixes of string tables to look for, most wanted first: each language of the locale, then the same
+// without its territory and script, and English after all.
+QStringList tableSuffixes(const QLocale &locale)
+{
+    QStringList suffixes;
+    for (QString language : locale.uiLanguages()) {
+        language.replace(QLatin1Char('-'), QLatin1Char('_'));
+        for (qsizetype end = language.size(); end > 0; end = language.lastIndexOf(QLatin1Char('_'))) {
+            language.truncate(end);
+            if (!suffixes.contains(language))
+                suffixes.append(language);
+        }
+    }
+    if (!suffixes.contains(QLatin1String("en")))
+        suffixes.append(QStringLiteral("en"));
+    return suffixes;
+}
+
+// "OrbM880" for "libOrbM880.so".
+QString baseName(const QString &executable)
+{
+    QString name = executable;
+    if (name.startsWith(QLatin1String("lib")))
+        name.remove(0, 3);
+    return name.left(name.indexOf(QLatin1String(".so")));
+}
+
+} // namespace
+
+std::shared_ptr<Bundle> Bundle::open(const QString &folder, const QLocale &locale, QString *error)
+{
+    QString ignored;
+    QString *message = error ? error : &ignored;
+    if (!QFileInfo(folder).isDir()) {
+        *message = QStringLiteral("%1: there is no such folder").arg(folder);
+        return nullptr;
+    }
+    const QString absolute = QFileInfo(folder).absoluteFilePath();
+    const std::optional<QJsonObject> info = readInfo(absolute + QStringLiteral("/Info.json"), message);
+    if (!info)
+        return nullptr;
+    return std::shared_ptr<Bundle>(new Bundle(absolute, *info, locale));
+}
+
+Bundle::Bundle(QString folder, QJsonObject info, const QLocale &locale)
+    : m_folder(std::move(folder)), m_info(std::move(info)), m_languages(tableSuffixes(locale))
+{
+}
+
+Bundle::~Bundle() = default;
+
+QVariant Bundle::infoValueForKey(const QString &key) const
+{
+    return m_info.value(key).toVariant();
+}
+
+bool Bundle::servesModel(const QString &modelName) const
+{
+    // Not QRegularExpression's wildcards: their "*" stops at a "/", which model names contain.
+    const QByteArray name = modelName.toUtf8();
+    const QJsonArray patterns = m_info.value(printerModelsKey).toArray();
+    return std::any_of(patterns.begin(), patterns.end(), [&name](const QJsonValue &pattern) {
+        return fnmatch(pattern.toString().toUtf8().constData(), name.constData(), FNM_NOESCAPE) == 0;
+    });
+}
+
+QString Bundle::layoutPath(const QString &name) const
+{
+    return m_folder + QStringLiteral("/layouts/") + name + QStringLiteral(".ui");
+}
+
+QString Bundle::localizedStringForKey(const QString &key, const QString &value) const
+{
+    const QByteArray source = key.toUtf8();
+    for (const auto &translator : translators()) {
+        const QString text = translator->translate("Localizable", source.constData());
+        if (!text.isEmpty())
+            return text;
+    }
+    return value.isEmpty() ? key : value;
+}
+
+QString Bundle::translate(const char *context, const char *source, const char *disambiguation) const
+{
+    for (const auto &translator : translators()) {
+        const QString text = translator->translate(context, source, disambiguation);
+        if (!text.isEmpty())
+            return text;
+    }
+    return QString::fromUtf8(source);
+}
+
+const std::vector<std::unique_ptr<QTranslator>> &Bundle::translators() const
+{
+    if (m_stringsLoaded)
+        return m_translators;
+    m_stringsLoaded = true;
+    const QString prefix = m_folder + QStringLiteral("/strings/") +
+                           baseName(m_info.value(executableKey).toString()) + QLatin1Char('_');
+    for (const QString &language : m_languages) {
+        const QString path = prefix + language + QStringLiteral(".qm");
+        if (!QFileInfo::exists(path))
+            continue;
+        auto translator = std::make_unique<QTranslator>();
+        if (translator->load(path))
+            m_translators.push_back(std::move(translator));
+        else
+            qCWarning(lcPlatform).noquote() << QStringLiteral("%1: not a usable string table").arg(path);
+    }
+    return m_translators;
+}
+
+PrintDialogExtension *Bundle::principalObject(QString *error)
+{
+    const QString path = m_folder + QLatin1Char('/') + m_info.value(executableKey).toString();
+    const auto fail = [&](const QString &what) -> PrintDialogExtension * {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, what);
+        return nullptr;
+    };
+    if (!QFileInfo(path).isFile())
+        return fail(QStringLiteral("there is no such file"));
+    if (!m_loader) {
+        m_loader = std::make_unique<QPluginLoader>(path);
+        m_loader->setLoadHints(QLibrary::PreventUnloadHint);
+    }
+    const QString className = m_loader->metaData().value(QLatin1String("className")).toString();
+    if (className.isEmpty())
+        return fail(m_loader->errorString());
+    const QString principalClass = m_info.value(principalClassKey).toString();
+    if (className != principalClass)
+        return fail(QStringLiteral("the root component is %1, not %2").arg(className, principalClass));
+    QObject *root = m_loader->instance();
+    if (!root)
+        return fail(m_loader->errorString());
+    auto *extension = qobject_cast<PrintDialogExtension *>(root);
+    if (!extension)
+        return fail(QStringLiteral("%1 is no print-dialog extension").arg(className));
+    return extension;
+}
+
+} // namespace platform

@@ -1,0 +1,275 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/layout_loader.h"
+
+#include "platform/binding.h"
+#include "platform/bundle.h"
+#include "platform/exception.h"
+#include "platform/key_value_object.h"
+#include "platform/layout_strings_p.h"
+#include "platform/logging.h"
+#include "platform/text_field.h"
+#include "platform/value_transformer.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QMetaMethod>
+#include <QUiLoader>
+
+#include <algorithm>
+
+namespace platform {
+
+LayoutOwner::~LayoutOwner() = default;
+
+namespace {
+
+using WidgetFactories = QHash<QString, WidgetFactory>;
+
+WidgetFactories &widgetFactories()
+{
+    static const WidgetFactory textField = [](QWidget *parent) -> QWidget * { return new TextField(parent); };
+    static WidgetFactories factories{{QStringLiteral("platform::TextField"), textField},
+                                     {QStringLiteral("TextField"), textField}};
+    return factories;
+}
+
+// Builds widgets of registered classes, and notes what the base class would silently replace by something
+// else.
+class WidgetBuilder : public QUiLoader
+{
+public:
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        const auto factory = widgetFactories().constFind(className);
+        QWidget *widget = nullptr;
+        if (factory != widgetFactories().constEnd())
+            widget = (*factory)(parent);
+        else if (!className.contains(QLatin1String("::")))
+            widget = QUiLoader::createWidget(className, parent, name);
+        const bool isKnown = factory != widgetFactories().constEnd() || className == QLatin1String("Line") ||
+                             (widget && className == QLatin1String(widget->metaObject()->className()));
+        if (!isKnown && m_problem.isEmpty())
+            m_problem = QStringLiteral("widget \"%1\" is of the unknown class \"%2\"").arg(name, className);
+        if (widget)
+            widget->setObjectName(name);
+        return widget;
+    }
+    const QString &problem() const { return m_problem; }
+
+private:
+    QString m_problem;
+};
+
+// Calls an action of the owner; a child of the widget that is clicked.
+class ActionCall : public QObject
+{
+    Q_OBJECT
+public:
+    ActionCall(QWidget *sender, Action action)
+        : QObject(sender), m_sender(sender), m_action(std::move(action))
+    {
+    }
+
+public Q_SLOTS:
+    void run()
+    {
+        // The action may do away with the widget, and with this.
+        const auto call = m_action.run;
+        try {
+            call(m_sender);
+        } catch (const Exception &exception) {
+            qCWarning(lcPlatform).noquote() << exception.description();
+        }
+    }
+
+private:
+    QWidget *m_sender;
+    Action m_action;
+};
+
+// One loading of one layout.
+class LayoutLoading
+{
+public:
+    LayoutLoading(const Bundle &bundle, const QString &path, LayoutOwner *owner)
+        : m_bundle(bundle), m_path(path), m_owner(owner)
+    {
+    }
+    TopLevelObjects run();
+
+private:
+    [[noreturn]] void fail(const QString &what) const;
+    [[noreturn]] void fail(const QObject *object, const QString &what) const;
+    std::unique_ptr<QWidget> build() const;
+    void fillOutlets(QWidget *root);
+    void connectObject(QObject *object);
+    void makeBinding(QObject *object, const QString &property, const QVariant &value);
+    void connectAction(QObject *object, const QVariant &value);
+    void connectDelegate(QObject *object, const QVariant &value);
+
+    const Bundle &m_bundle;
+    QString m_path;
+    LayoutOwner *m_owner;
+    std::vector<Action> m_actions;
+    std::vector<Outlet> m_filled;
+};
+
+void LayoutLoading::fail(const QString &what) const
+{
+    throw Exception(Exception::layoutName, QStringLiteral("%1: %2").arg(m_path, what),
+                    {{QStringLiteral("file"), m_path}});
+}
+
+void LayoutLoading::fail(const QObject *object, const QString &what) const
+{
+    fail(QStringLiteral("widget \"%1\": %2").arg(object->objectName(), what));
+}
+
+TopLevelObjects LayoutLoading::run()
+{
+    std::unique_ptr<QWidget> root = build();
+    m_actions = m_owner->actions();
+    try {
+        fillOutlets(root.get());
+        connectObject(root.get());
+        const auto objects = root->findChildren<QObject *>();
+        for (QObject *object : objects)
+            connectObject(object);
+    } catch (const Exception &) {
+        for (const Outlet &outlet : m_filled)
+            outlet.fill(nullptr);
+        throw;
+    }
+    TopLevelObjects topLevel;
+    topLevel.push_back(std::move(root));
+    return topLevel;
+}
+
+std::unique_ptr<QWidget> LayoutLoading::build() const
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly))
+        fail(file.errorString());
+    QString error;
+    QByteArray form = translatedForm(file.readAll(), m_bundle, &error);
+    if (form.isNull())
+        fail(error);
+    QBuffer buffer(&form);
+    buffer.open(QIODevice::ReadOnly);
+    WidgetBuilder builder;
+    builder.setTranslationEnabled(false);
+    builder.setWorkingDirectory(QFileInfo(m_path).dir());
+    std::unique_ptr<QWidget> root(builder.load(&buffer));
+    if (!builder.problem().isEmpty())
+        fail(builder.problem());
+    if (!root)
+        fail(builder.errorString());
+    return root;
+}
+
+void LayoutLoading::fillOutlets(QWidget *root)
+{
+    for (Outlet &outlet : m_owner->outlets()) {
+        QWidget *widget = root->objectName() == outlet.name ? root : root->findChild<QWidget *>(outlet.name);
+        if (!widget)
+            fail(QStringLiteral("there is no widget for outlet \"%1\"").arg(outlet.name));
+        m_filled.push_back(outlet);
+        if (!outlet.fill(widget))
+            fail(widget, QStringLiteral("outlet \"%1\" takes no %2")
+                             .arg(outlet.name, QString::fromUtf8(widget->metaObject()->className())));
+    }
+}
+
+void LayoutLoading::connectObject(QObject *object)
+{
+    const QList<QByteArray> names = object->dynamicPropertyNames();
+    for (const QByteArray &name : names) {
+        const QVariant value = object->property(name.constData());
+        if (name.startsWith("bind_"))
+            makeBinding(object, QString::fromUtf8(name.mid(5)), value);
+        else if (name == "action")
+            connectAction(object, value);
+        else if (name == "delegate")
+            connectDelegate(object, value);
+    }
+}
+
+void LayoutLoading::makeBinding(QObject *object, const QString &property, const QVariant &value)
+{
+    const QString text = value.toString();
+    const QStringList parts = text.split(QLatin1Char('|'));
+    const QString keyPath = parts.first().trimmed();
+    const QString transformerName = parts.size() > 1 ? parts[1].trimmed() : QString();
+    const QStringList keys = keyPath.split(QLatin1Char('.'));
+    const bool isPath = std::none_of(keys.begin(), keys.end(), [](const QString &key) {
+        return key.isEmpty() || key.contains(QLatin1Char(' '));
+    });
+    if (!isPath || parts.size() > 2 || (parts.size() == 2 && transformerName.isEmpty()))
+        fail(object, QStringLiteral("bind_%1 is \"%2\", not \"key.path\" or \"key.path | Transformer\"")
+                         .arg(property, text));
+
+    std::shared_ptr<const ValueTransformer> transformer;
+    if (parts.size() == 2) {
+        transformer = ValueTransformer::valueTransformerForName(transformerName);
+        if (!transformer)
+            fail(object,
+                 QStringLiteral("bind_%1: there is no transformer \"%2\"").arg(property, transformerName));
+    }
+    try {
+        Binding::bind(object, property, m_owner->keyValueObject(), keyPath, std::move(transformer));
+    } catch (const Exception &exception) {
+        fail(object, QStringLiteral("bind_%1 = \"%2\": %3").arg(property, text, exception.reason()));
+    }
+}
+
+void LayoutLoading::connectAction(QObject *object, const QVariant &value)
+{
+    const QString name = value.toString();
+    const auto action = std::find_if(m_actions.begin(), m_actions.end(),
+                                     [&name](const Action &candidate) { return candidate.name == name; });
+    if (action == m_actions.end())
+        fail(object, QStringLiteral("there is no action \"%1\"").arg(name));
+    const QMetaObject *meta = object->metaObject();
+    const int clicked = meta->indexOfSignal("clicked()");
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget || clicked < 0)
+        fail(object, QStringLiteral("action \"%1\": a %2 is never clicked")
+                         .arg(name, QString::fromUtf8(meta->className())));
+    auto *call = new ActionCall(widget, *action);
+    const QMetaObject *callMeta = call->metaObject();
+    QObject::connect(widget, meta->method(clicked), call, callMeta->method(callMeta->indexOfSlot("run()")));
+}
+
+void LayoutLoading::connectDelegate(QObject *object, const QVariant &value)
+{
+    const QString name = value.toString();
+    auto *field = qobject_cast<TextField *>(object);
+    if (!field)
+        fail(object, QStringLiteral("delegate \"%1\": a %2 is no text field")
+                         .arg(name, QString::fromUtf8(object->metaObject()->className())));
+    std::shared_ptr<TextFieldDelegate> delegate = TextFieldDelegate::delegateForName(name);
+    if (!delegate)
+        fail(object, QStringLiteral("there is no delegate \"%1\"").arg(name));
+    field->setDelegate(std::move(delegate));
+}
+
+} // namespace
+
+TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner)
+{
+    return LayoutLoading(bundle, bundle.layoutPath(name), owner).run();
+}
+
+void registerLayoutWidget(const QString &className, WidgetFactory factory)
+{
+    widgetFactories().insert(className, std::move(factory));
+}
+
+} // namespace platform
+
+#include "layout_loader.moc"

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/print_dialog.h"
+
+namespace platform {
+
+PrintDialogHost::~PrintDialogHost() = default;
+ConstraintResolvingHost::~ConstraintResolvingHost() = default;
+BlockingWorkHost::~BlockingWorkHost() = default;
+PrintDialogPanel::~PrintDialogPanel() = default;
+PrintDialogExtension::~PrintDialogExtension() = default;
+
+BlockingWork::BlockingWork(PrintDialogHost *host, const QString &what)
+    : m_host(dynamic_cast<BlockingWorkHost *>(host))
+{
+    if (m_host)
+        m_host->willBlock(what);
+}
+
+BlockingWork::~BlockingWork()
+{
+    if (m_host)
+        m_host->didBlock();
+}
+
+} // namespace platform
