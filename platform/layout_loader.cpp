@@ -13,6 +13,7 @@
 #include "platform/value_transformer.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -60,10 +61,25 @@ public:
         return widget;
     }
     const QString &problem() const { return m_problem; }
+    void forgetProblem() { m_problem.clear(); }
 
 private:
     QString m_problem;
 };
+
+// Qt's loader loads every Designer plug-in it finds when it is made, Qt Quick among them, for tens of
+// milliseconds and classes that no layout may use. So it is made once, while no folder of plug-ins is known.
+WidgetBuilder &widgetBuilder()
+{
+    static const std::unique_ptr<WidgetBuilder> builder = [] {
+        const QStringList pluginFolders = QCoreApplication::libraryPaths();
+        QCoreApplication::setLibraryPaths({});
+        auto made = std::make_unique<WidgetBuilder>();
+        QCoreApplication::setLibraryPaths(pluginFolders);
+        return made;
+    }();
+    return *builder;
+}
 
 // Calls an action of the owner; a child of the widget that is clicked.
 class ActionCall : public QObject
@@ -161,7 +177,8 @@ std::unique_ptr<QWidget> LayoutLoading::build() const
         fail(error);
     QBuffer buffer(&form);
     buffer.open(QIODevice::ReadOnly);
-    WidgetBuilder builder;
+    WidgetBuilder &builder = widgetBuilder();
+    builder.forgetProblem();
     builder.setTranslationEnabled(false);
     builder.setWorkingDirectory(QFileInfo(m_path).dir());
     std::unique_ptr<QWidget> root(builder.load(&buffer));
