@@ -7,8 +7,8 @@
 
 #include <functional>
 
-// Keeps a code field to at most five decimal digits while the user types and pads it to five when editing ends.
-// Stateless; registered under "QVCodeAssistant_M880" for layouts.
+// Keeps a code field to at most five decimal digits while the user types and pads it to five when editing
+// ends. Stateless; registered under "QVCodeAssistant_M880" for layouts.
 class QVCodeAssistant_M880 : public platform::TextFieldDelegate
 {
 public:

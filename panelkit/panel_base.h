@@ -7,7 +7,7 @@
 #include "platform/layout_loader.h"
 #include "platform/print_dialog.h"
 
-#include <QHash>
+#include <QMap>
 #include <QPointer>
 #include <QSlider>
 #include <QStringList>
@@ -27,21 +27,31 @@ public:
     virtual QStringList supportedPPDOptionKeys() = 0;
 };
 
-// Observed key path to slider; exists only where the slider path of older hosts is in use.
-using SliderRegistry = QMultiMap<QString, QPointer<QSlider>>;
+// Implemented as well by a panel class that has its layout loaded by the base.
+class QVPDELoading_M880
+{
+public:
+    virtual ~QVPDELoading_M880();
+    // Name of the layout for a printer model; empty for a panel without an interface.
+    virtual QString nibNameForModel(const QString &model) const = 0;
+};
 
-// What every panel shares: pending choices of its PPD options as keyed values, its layout, save, restore, summary.
-// For an option keyword K it answers K (the choice keyword), K + "Choices" (list of choice dictionaries) and
-// K + "Choice" (index of the choice). Every set of K or K + "Choices" is posted on the manager's notification
-// centre under that key. Nothing reaches the PPD or the host before a save. Owned by the host through
-// PrintDialogPanel; holds the manager.
+// Observed key path to slider; exists only where the slider path of older hosts is in use.
+using SliderRegistry = QMap<QString, QPointer<QSlider>>;
+
+// What every panel shares: pending choices of its PPD options as keyed values, its layout, save, restore,
+// summary. For an option keyword K it answers K (the choice keyword), K + "Choices" (list of choice
+// dictionaries) and K + "Choice" (index of the choice). Every set of K or K + "Choices" is posted on the
+// manager's notification centre under that key. Nothing reaches the PPD or the host before a save. Owned by
+// the host through PrintDialogPanel; holds the manager.
 class QVPDE_M880 : public platform::KeyValueObject, public QVCocoaPDE_M880, public platform::LayoutOwner
 {
     Q_OBJECT
     Q_PROPERTY(QStringList supportedPPDOptionKeys READ supportedPPDOptionKeys)
 public:
     // The panel of class T for one dialog; null when its initWithManager() declines.
-    template <typename T> static std::unique_ptr<platform::PrintDialogPanel>
+    template <typename T>
+    static std::unique_ptr<platform::PrintDialogPanel>
     pdeWithManager(std::shared_ptr<QVPDEManager_M880> manager)
     {
         auto panel = std::make_unique<T>();
@@ -52,10 +62,12 @@ public:
     QVPDE_M880();
     ~QVPDE_M880() override;
 
-    // Loads choice lists and layout. False makes the panel useless; raises Exception when the layout does not fit.
+    // Registers what layouts name: the value transformers, the code assistant and the pop-up button. Runs on
+    // the first use of a panel class; repeating it changes nothing.
+    static void initialize();
+    // Loads choice lists and, for a class that implements QVPDELoading_M880, the layout. False without a
+    // manager; raises Exception when the layout is missing or does not fit. An override calls this one first.
     virtual bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager);
-    // Name of the layout for a model; empty for a panel without an interface. Nil means that the class loads none.
-    virtual QString nibNameForModel(const QString &model) const;
 
     const std::shared_ptr<QVPDEManager_M880> &manager() const { return m_manager; }
     void setManager(std::shared_ptr<QVPDEManager_M880> manager);
@@ -68,17 +80,21 @@ public:
     QWidget *panelView() override { return m_view; }
     QStringList supportedPPDOptionKeys() override { return m_supportedPPDOptionKeys.value_or(QStringList()); }
     void setSupportedPPDOptionKeys(const QStringList &keys);
-    const std::optional<QStringList> &supportedExtensionOptionKeys() const { return m_supportedExtensionOptionKeys; }
+    const std::optional<QStringList> &supportedExtensionOptionKeys() const
+    {
+        return m_supportedExtensionOptionKeys;
+    }
     void setSupportedExtensionOptionKeys(const QStringList &keys);
 
     QVariant valueForKey(const QString &key) override;
-    // An index outside the choice list raises Exception (range); a nil value of an option raises invalid argument.
+    // An index outside the choice list raises Exception (range); a nil value of an option raises Exception
+    // (invalid argument).
     void setValueForKey(const QVariant &value, const QString &key) override;
     // The PPD's default choice keyword of an option; nil when it has none.
     QVariant defaultValueForKey(const QString &key);
     void setDefaultValueForKey(const QString &key);
-    // The digits of a code held in PREFIX1 to PREFIX5, and back. A code needs five characters; a shorter one raises
-    // Exception (range).
+    // The digits of a code held in PREFIX1 to PREFIX5, and back. A code needs five characters; a shorter one
+    // raises Exception (range).
     QString composeCodeForOption(const QString &prefix);
     void decomposeCodeForOption(const QString &code, const QString &prefix);
 
@@ -103,8 +119,11 @@ protected:
 
 private:
     bool supportsOption(const QString &option);
+    QVariant choiceIndex(const QString &option);
+    void setChoiceIndex(const QVariant &index, const QString &option);
+    void setOptionValue(const QVariant &value, const QString &key);
     void loadChoiceLists();
-    void loadInterface();
+    void loadInterface(const QString &nibName);
 
     QWidget *m_view = nullptr; // outlet; belongs to the layout
     QString m_panelName;

@@ -12,24 +12,25 @@
 #include <QVariant>
 
 #include <memory>
+#include <vector>
 
 class QVPDEManager_M880;
 class QVPDE_M880;
 
-// A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value and greys out the
-// choices that conflict with the panel's other values, saying why in the tooltip. Belongs to its layout; the panel
-// (its data source) is watched, not owned. Never changes the selection by itself.
+// A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value and greys out
+// the choices that conflict with the panel's other values, saying why in the tooltip. Belongs to its layout;
+// the panel (its data source) is watched, not owned. Never changes the selection by itself.
 class QVPopUpButton_M880 : public QComboBox
 {
     Q_OBJECT
-    // Index of the selected item; nil when none of the items is selected.
+    // Index of the selected item; nil when no item is selected. An index outside the menu selects none.
     Q_PROPERTY(QVariant selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
 public:
     explicit QVPopUpButton_M880(QWidget *parent = nullptr);
     ~QVPopUpButton_M880() override;
 
-    // Rebuilds menu, conflict set, observers and binding. A null panel gives an empty menu. Observers of an earlier
-    // call stay. Nothing is greyed out before the first relevant change.
+    // Rebuilds menu, conflict set, observers and binding. A null panel gives an empty menu. Observers of an
+    // earlier call stay. Nothing is greyed out before the first relevant change.
     void setDataSourceAndOptionName(QVPDE_M880 *panel, const QString &optionName);
     // Decides anew which items are enabled, unless the notification is of this pop-up's own option.
     void ppdValueHasChanged(const platform::Notification &notification);
@@ -43,11 +44,24 @@ public:
 Q_SIGNALS:
     void selectedIndexChanged();
 
+protected:
+    // Only a pop-up with the focus turns with the wheel; over any other the wheel scrolls the panel.
+    void wheelEvent(QWheelEvent *event) override;
+
 private:
+    struct CurrentChoice
+    {
+        QString option;
+        QString choice;
+    };
+
     void addChoice(const QVariantMap &choice);
-    // The option whose current value forbids the choice; nil string when none does.
-    QString conflictingOption(const QString &choice) const;
-    void setItemState(int index, const QString &conflictingOption);
+    // The panel's present choices of the options that can conflict with this one.
+    std::vector<CurrentChoice> currentChoices() const;
+    // Plain text that says which choice of which other option stands in the way.
+    QString reason(const CurrentChoice &obstacle) const;
+    // Greys out an item that has an obstacle, and frees one for which it is null.
+    void setItemState(int index, const CurrentChoice *obstacle);
 
     QString m_optionName;
     QSet<QString> m_conflictableOptions;

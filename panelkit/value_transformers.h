@@ -5,7 +5,8 @@
 
 #include "platform/value_transformer.h"
 
-// "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; nil is true. Back to "True" or "False".
+// "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; nil is true. Back to "True" or
+// "False".
 class QVBooleanTransformer_M880 : public platform::ValueTransformer
 {
 public:
@@ -28,3 +29,6 @@ public:
 // A number's truth; of a string the first character only: t, y or a digit but 0 is true. Anything else, nil
 // included, is false. Deliberately another rule than the boolean transformer's.
 bool QVBooleanValue(const QVariant &value);
+
+// A number cut to an integer, or the integer a text starts with; 0 for anything else.
+qint32 integerValue(const QVariant &value);

@@ -13,8 +13,8 @@
 struct PanelClass;
 class QVVersionInfo_M880;
 
-// The root component of the bundle. The host makes it once per loading and asks it for the panels of each dialog;
-// it keeps nothing of a dialog.
+// The root component of the bundle. The host makes it once per loading and asks it for the panels of each
+// dialog; it keeps nothing of a dialog.
 class QVPDEFactory_M880 : public QObject, public platform::PrintDialogExtension
 {
     Q_OBJECT
@@ -28,10 +28,10 @@ public:
     bool initWithBundle(std::shared_ptr<platform::Bundle> bundle) override;
     // The panel classes of this build in roster order.
     std::vector<PanelClass> loadablePDEs() const;
-    // Nil unless `type` is the print-dialog panel type. A panel class that declines is skipped; one that raises
-    // platform::Exception is logged and skipped; anything else thrown passes on.
-    std::optional<platform::PrintDialogPanels> PDEPanelsForTypeWithHostInfo(const QString &type,
-                                                                            platform::PrintDialogHost *host) override;
+    // Nil unless `type` is the print-dialog panel type. A panel class that declines is skipped; one that
+    // raises platform::Exception is logged and skipped; anything else thrown passes on.
+    std::optional<platform::PrintDialogPanels>
+    PDEPanelsForTypeWithHostInfo(const QString &type, platform::PrintDialogHost *host) override;
 
 private:
     std::shared_ptr<const QVVersionInfo_M880> m_managerVersion;

@@ -18,13 +18,13 @@
 namespace platform {
 class Bundle;
 class PrintDialogHost;
-}
+} // namespace platform
 class QVPPD_M880;
 class QVVersionInfo_M880;
 
-// The shared context of one print dialog: PPD, host, bundle, model and the notification centre through which its
-// panels talk. Made by the factory, shared by the panels; lives as long as any of them. The host is borrowed and
-// outlives it. Main thread only.
+// The shared context of one print dialog: PPD, host, bundle, model and the notification centre through which
+// its panels talk. Made by the factory, shared by the panels; lives as long as any of them. The host is
+// borrowed and outlives it. Main thread only.
 class QVPDEManager_M880
 {
 public:
@@ -47,7 +47,10 @@ public:
     void setHost(platform::PrintDialogHost *host);
     const QString &currentModel() const { return m_currentModel; }
     void setCurrentModel(const QString &model);
-    const std::shared_ptr<platform::NotificationCenter> &notificationCenter() const { return m_notificationCenter; }
+    const std::shared_ptr<platform::NotificationCenter> &notificationCenter() const
+    {
+        return m_notificationCenter;
+    }
     void setNotificationCenter(std::shared_ptr<platform::NotificationCenter> center);
     // Null for a printer without a PPD.
     const std::shared_ptr<QVPPD_M880> &ppd() const { return m_ppd; }
@@ -58,12 +61,13 @@ public:
     // The text in the bundle's default string table, the key itself where there is none.
     QString localizedStringForKey(const QString &key) const;
 
-    // The choice of each keyword: marked, else default, else from the print settings; keywords without any are left
-    // out. An empty list means every option of the PPD. Nil where the host takes no part in constraint resolution,
-    // except on builds for older hosts, which read the session's ticket (and give nil for an empty list).
+    // The choice of each keyword: marked, else default, else from the print settings; keywords without any
+    // are left out. An empty list means every option of the PPD. Nil where the host takes no part in
+    // constraint resolution, except on builds for older hosts, which read the session's ticket (and give nil
+    // for an empty list).
     std::optional<QVariantMap> ppdDictionaryForOptions(const QStringList &keys) const;
-    // Tells the host of each keyword, then marks the choice in the PPD, or writes the print settings when the value
-    // is no string or the PPD has no such option. An empty list means every key of the dictionary.
+    // Tells the host of each keyword, then marks the choice in the PPD, or writes the print settings when the
+    // value is no string or the PPD has no such option. An empty list means every key of the dictionary.
     void setPpdDictionaryForOptions(const QVariantMap &dictionary, const QStringList &keys);
 
 private:

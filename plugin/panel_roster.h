@@ -20,11 +20,12 @@ struct PanelClass
 {
     QString className;
     // Makes a panel for one dialog; null when the class declines. May raise platform::Exception.
-    std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)> pdeWithManager;
+    std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>
+        pdeWithManager;
 };
 
-// The panel classes that registered themselves, in a process-wide register. Registration happens while the code is
-// loaded, before any dialog; a class of the same name replaces the earlier one.
+// The panel classes that registered themselves, in a process-wide register. Registration happens while the
+// code is loaded, before any dialog; a class of the same name replaces the earlier one.
 class PanelRoster
 {
 public:
@@ -41,8 +42,10 @@ public:
 };
 
 // Registers panel class T under its name. Put one in the panel's source file:
-//     static const PanelRegistration<QVPDEPrintMode_M880> registration(QStringLiteral("QVPDEPrintMode_M880"));
-template <typename T> struct PanelRegistration
+//     static const PanelRegistration<QVPDEPrintMode_M880>
+//     registration(QStringLiteral("QVPDEPrintMode_M880"));
+template <typename T>
+struct PanelRegistration
 {
     explicit PanelRegistration(const QString &className)
     {

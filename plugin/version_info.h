@@ -7,13 +7,13 @@
 
 #include <memory>
 
-// An immutable dotted version number of one to three parts. Compared part by part as whole numbers, so 1.10 is
-// greater than 1.9, and 1.1 equals 1.01. Shared freely.
+// An immutable dotted version number of one to three parts. Compared part by part as whole numbers, so 1.10
+// is greater than 1.9, and 1.1 equals 1.01. Shared freely.
 class QVVersionInfo_M880
 {
 public:
-    // Null when the string is nil or empty, or has more than three parts. A part counts up to its first non-digit;
-    // one without leading digits is 0.
+    // Null when the string is nil or empty, or has more than three parts. A part counts up to its first
+    // non-digit; one without leading digits is 0.
     static std::shared_ptr<const QVVersionInfo_M880> versionInfoWithString(const QString &string);
 
     qint32 majorPart() const { return m_major; }
@@ -40,7 +40,8 @@ private:
     QString m_reformatted;
 };
 
-// Kernel releases that divide older dialog hosts from newer ones, for comparison with the manager's Darwin version.
+// Kernel releases that divide older dialog hosts from newer ones, for comparison with the manager's Darwin
+// version.
 extern const QString QVTigerDarwinVersion;       // "8.0"
 extern const QString QVLeopardDarwinVersion;     // "9.0"
 extern const QString QVSnowLeopardDarwinVersion; // "10.0"

@@ -19,7 +19,7 @@ struct ppd_file_s;
 namespace platform {
 class Bundle;
 class PrintDialogHost;
-}
+} // namespace platform
 class QVVersionInfo_M880;
 
 extern const QString QVPPDChoiceKey; // "QVPPDChoice"
@@ -39,9 +39,11 @@ struct QVPPDChoice_M880
     bool operator==(const QVPPDChoice_M880 &) const = default;
 };
 
-// The printer's PPD as strings. Wraps the host's ppd_file_t, which it neither opens nor closes and which outlives
-// it; marks are made in that record, for everyone to see. One a dialog, shared through the manager. Keywords are
-// exact and case-sensitive where nothing else is said. Strings are UTF-8 in the PPD.
+// The printer's PPD as strings. Wraps the host's ppd_file_t, which it neither opens nor closes and which
+// outlives it; marks are made in that record, for everyone to see. One a dialog, shared through the manager.
+// Options, choices and attributes are found as libcups finds them, ignoring case; constraints and every list
+// of keywords are exact. Strings are UTF-8 in the PPD; what is not valid UTF-8 is left out of lists and nil
+// elsewhere.
 class QVPPD_M880
 {
 public:
@@ -77,7 +79,8 @@ public:
     // Does nothing unless both are strings.
     void markChoiceForOption(const QVariant &choice, const QVariant &option);
     // Nil string when nothing is marked. A null bundle means no localisation, also below.
-    QString localizedMarkedChoiceForOptionWithBundle(const QString &option, const platform::Bundle *bundle) const;
+    QString localizedMarkedChoiceForOptionWithBundle(const QString &option,
+                                                     const platform::Bundle *bundle) const;
     // Nil string when the option is missing.
     QString localizedOptionNameWithBundle(const QString &option, const platform::Bundle *bundle) const;
     // The values of every attribute of that name in PPD order; empty when there is none.

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QStringView>
+
+#include <optional>
+
+// The decimal number a text starts with.
+struct LeadingInteger
+{
+    qint32 value;     // kept within 32 bits: a larger number counts as the largest
+    qsizetype length; // UTF-16 units up to its last digit, white space before it included
+};
+
+// Skips leading white space, takes an optional sign and reads decimal digits of any script up to the first
+// character that is none. Nil when there is no digit.
+std::optional<LeadingInteger> leadingInteger(QStringView text);
