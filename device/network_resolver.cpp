@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "device/network_resolver.h"
+
+#include "device/bonjour_wait.h"
+#include "device/device_uri.h"
+
+#include <QMutexLocker>
+#include <QRecursiveMutex>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <arpa/inet.h>
+#include <netdb.h>
+#include <netinet/in.h>
+
+#include <array>
+#include <limits>
+#include <optional>
+
+const QString QVResolvedKey = QStringLiteral("ResolvesTo");
+const QString QVAgeKey = QStringLiteral("AgeOfResolution");
+const QString QVDoesntResolve = QStringLiteral("_%%DoesntResolve%%_");
+
+namespace {
+
+constexpr double cacheLifeSeconds = 120.0;
+
+ResolverServices &services()
+{
+    static ResolverServices current = ResolverServices::system();
+    return current;
+}
+
+struct ResolverState
+{
+    ResolverState()
+    {
+        QVResolverCache.reserve(5);
+        // The cache's own date lies among the hosts.
+        QVResolverCache.insert(QVAgeKey, services().now());
+    }
+
+    QRecursiveMutex lock;
+    QHash<QString, QVariant> QVResolverCache;
+};
+
+ResolverState &state()
+{
+    static ResolverState current;
+    return current;
+}
+
+// Nil for text that is not ASCII, or that a C string would cut short.
+std::optional<QByteArray> asciiBytes(const QString &text)
+{
+    for (const QChar c : text) {
+        if (c.unicode() == 0 || c.unicode() > 0x7f)
+            return std::nullopt;
+    }
+    return text.toLatin1();
+}
+
+QString stringFromAscii(const char *text)
+{
+    if (text == nullptr)
+        return {};
+    const QByteArray bytes(text);
+    for (const char c : bytes) {
+        if (static_cast<unsigned char>(c) > 0x7f)
+            return {};
+    }
+    return QString::fromLatin1(bytes);
+}
+
+double ageInSeconds(const QDateTime &written)
+{
+    const QDateTime now = services().now();
+    if (!written.isValid() || !now.isValid())
+        return std::numeric_limits<double>::quiet_NaN();
+    return static_cast<double>(written.msecsTo(now)) / 1000.0;
+}
+
+} // namespace
+
+ResolverServices ResolverServices::system()
+{
+    return {.now = [] { return QDateTime::currentDateTimeUtc(); },
+            .hostByName = [](const char *name, int family) { return ::gethostbyname2(name, family); },
+            .resolveService = bonjour::resolveService};
+}
+
+void QVNetworkResolver_M880::setServices(ResolverServices replacement)
+{
+    services() = std::move(replacement);
+}
+
+void QVNetworkResolver_M880::initialize()
+{
+    state();
+}
+
+QHash<QString, QVariant> QVNetworkResolver_M880::cache()
+{
+    const QMutexLocker lock(&state().lock);
+    return state().QVResolverCache;
+}
+
+QString QVNetworkResolver_M880::ipFromPrintSession(PMPrintSession session)
+{
+    // Neither status counts: without a printer or a URI there is no host, and so no address.
+    PMPrinter printer = nullptr;
+    PMSessionGetCurrentPrinter(session, &printer);
+    QString uri;
+    PMPrinterCopyDeviceURI(printer, &uri);
+    return resolveToIP(hostOfDeviceUri(uri));
+}
+
+QString QVNetworkResolver_M880::resolveToIP(const QString &host)
+{
+    if (host.isNull())
+        return {};
+    const QMutexLocker lock(&state().lock);
+    // Only a failure is worth remembering: a printer may get another address at any time.
+    if (checkCacheForHost(host) == QVDoesntResolve)
+        return {};
+    QVNetworkResolver_M880 resolver;
+    const QString address = resolver.resolve(host);
+    addToCacheForHost(address, host);
+    return address;
+}
+
+QString QVNetworkResolver_M880::resolve(const QString &host)
+{
+    if (stringIsAnIP(host))
+        return host;
+    const QString address = resolveFromBonjour(host);
+    return address.isNull() ? resolveFromHostname(host) : address;
+}
+
+QString QVNetworkResolver_M880::checkCacheForHost(const QString &host)
+{
+    // The cache's own date is no record: read as one it has no age, so it is never fresh.
+    const QVariantMap record = state().QVResolverCache.value(host).toMap();
+    if (!(ageInSeconds(record.value(QVAgeKey).toDateTime()) < cacheLifeSeconds))
+        return {};
+    return record.value(QVResolvedKey).toString();
+}
+
+void QVNetworkResolver_M880::addToCacheForHost(const QString &address, const QString &host)
+{
+    if (host.isNull())
+        return;
+    state().QVResolverCache.insert(host, QVariantMap{{QVResolvedKey, address.isNull() ? QVDoesntResolve : address},
+                                                     {QVAgeKey, services().now()}});
+}
+
+bool QVNetworkResolver_M880::stringIsAnIP(const QString &text) const
+{
+    const std::optional<QByteArray> bytes = asciiBytes(text);
+    if (!bytes)
+        return false;
+    std::array<unsigned char, sizeof(in6_addr)> parsed{};
+    if (::inet_pton(AF_INET, bytes->constData(), parsed.data()) == 1)
+        return true;
+    const qsizetype percent = bytes->indexOf('%');
+    if (percent < 0)
+        return ::inet_pton(AF_INET6, bytes->constData(), parsed.data()) == 1;
+    const bool hasScope = percent + 1 < bytes->size();
+    return hasScope && ::inet_pton(AF_INET6, bytes->left(percent).constData(), parsed.data()) == 1;
+}
+
+QString QVNetworkResolver_M880::resolveFromBonjour(const QString &host)
+{
+    const QStringList labels = host.split(u'.');
+    if (labels.size() != 4 && !(labels.size() == 5 && labels.at(4).isEmpty()))
+        return {};
+    const std::optional<QByteArray> name = asciiBytes(labels.at(0));
+    const std::optional<QByteArray> type = asciiBytes(labels.at(1) + u'.' + labels.at(2) + u'.');
+    const std::optional<QByteArray> domain = asciiBytes(labels.at(3) + u'.');
+    if (!name || !type || !domain)
+        return {};
+    setIP({});
+    services().resolveService(name->constData(), type->constData(), domain->constData(), ResolverCallback, this);
+    return m_tempIP;
+}
+
+QString QVNetworkResolver_M880::resolveFromHostname(const QString &name) const
+{
+    const std::optional<QByteArray> bytes = asciiBytes(name);
+    if (name.isNull() || !bytes)
+        return {};
+    const hostent *found = services().hostByName(bytes->constData(), AF_INET);
+    if (found == nullptr)
+        found = services().hostByName(bytes->constData(), AF_INET6);
+    if (found == nullptr || found->h_addr_list == nullptr || found->h_addr_list[0] == nullptr)
+        return {};
+    std::array<char, 256> text{};
+    ::inet_ntop(found->h_addrtype, found->h_addr_list[0], text.data(), static_cast<socklen_t>(text.size()));
+    return text.front() == '\0' ? QString() : stringFromAscii(text.data());
+}
+
+void DNSSD_API ResolverCallback(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType, const char *,
+                                const char *hostTarget, uint16_t, uint16_t, const unsigned char *, void *context)
+{
+    auto *resolver = static_cast<QVNetworkResolver_M880 *>(context);
+    resolver->setIP(resolver->resolveFromHostname(stringFromAscii(hostTarget)));
+}

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/printing_manager.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+#include <QVariant>
+
+#include <dns_sd.h>
+
+#include <functional>
+
+struct hostent;
+
+// The two entries of a cache record, and the address that stands for "none".
+extern const QString QVResolvedKey;   // "ResolvesTo"
+extern const QString QVAgeKey;        // "AgeOfResolution"
+extern const QString QVDoesntResolve; // "_%%DoesntResolve%%_"
+
+// What the resolver asks of the system.
+struct ResolverServices
+{
+    std::function<QDateTime()> now;
+    // As gethostbyname2(3); the answer is valid until the next call.
+    std::function<hostent *(const char *name, int family)> hostByName;
+    // As bonjour::resolveService().
+    std::function<void(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
+                       void *context)>
+        resolveService;
+
+    static ResolverServices system();
+};
+
+// Finds the numeric address of a printer: of a literal address, a Bonjour service name or a host name, tried in that
+// order. Blocks the calling thread: up to 5 seconds for Bonjour and two name look-ups. A host that failed is not
+// asked for again for 120 seconds; a host that succeeded is looked up anew each time. The cache lives as long as
+// the process. Calls from several threads wait for each other. Every failure is nil.
+class QVNetworkResolver_M880
+{
+public:
+    // Sets up the cache; runs by itself before the first use.
+    static void initialize();
+    // Of the session's current printer, by the host of its device URI, whatever its scheme.
+    static QString ipFromPrintSession(PMPrintSession session);
+    static QString resolveToIP(const QString &host);
+
+    // The address or QVDoesntResolve written less than 120 seconds ago, else nil. Takes no lock; nor does the next.
+    static QString checkCacheForHost(const QString &host);
+    // A nil address is kept as QVDoesntResolve; a nil host is ignored.
+    static void addToCacheForHost(const QString &address, const QString &host);
+    // A copy of the cache: by host a record of QVResolvedKey and QVAgeKey, and the date of the cache itself.
+    static QHash<QString, QVariant> cache();
+
+    // Takes the place of the system, for all later calls.
+    static void setServices(ResolverServices services);
+
+    // IPv4 or IPv6 in text form. An IPv6 address may have a scope id ("fe80::1%eth0"): a link-local printer cannot
+    // be reached without it, no name look-up would find it, and net-snmp takes it as it stands.
+    bool stringIsAnIP(const QString &text) const;
+    // Four labels, or five with an empty last one: "Office Printer._ipp._tcp.local" or the same with a final dot.
+    QString resolveFromBonjour(const QString &host);
+    // IPv4 before IPv6.
+    QString resolveFromHostname(const QString &name) const;
+    void setIP(const QString &address) { m_tempIP = address; }
+    const QString &tempIP() const { return m_tempIP; }
+
+private:
+    QString resolve(const QString &host);
+
+    QString m_tempIP; // set by the last Bonjour reply
+};
+
+// The reply of a Bonjour resolution; `context` is the resolver. Only the target host counts.
+void DNSSD_API ResolverCallback(DNSServiceRef service, DNSServiceFlags flags, uint32_t interfaceIndex,
+                                DNSServiceErrorType error, const char *fullName, const char *hostTarget,
+                                uint16_t port, uint16_t txtLength, const unsigned char *txtRecord, void *context);

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+// Identifiers of text encodings as the print system numbers them.
+enum StringEncoding : quint32 {
+    NSASCIIStringEncoding = 1,
+    NSJapaneseEUCStringEncoding = 3,
+    NSISOLatin1StringEncoding = 5,
+    NSShiftJISStringEncoding = 8,
+    NSISOLatin2StringEncoding = 9,
+    NSWindowsCP1251StringEncoding = 11,
+    NSWindowsCP1252StringEncoding = 12,
+    NSWindowsCP1254StringEncoding = 14,
+    NSWindowsCP1250StringEncoding = 15,
+    NSISO2022JPStringEncoding = 21,
+};
+
+// The encoding for an IANA character-set number (MIBenum). ASCII for those not known here and for UTF-8.
+quint32 stringEncodingForCharacterSet(qint64 mibEnum);
+// The converter name for iconv(3); null for a number not listed above.
+const char *iconvNameOfStringEncoding(quint32 encoding);
+// Nil when the bytes are not valid in the encoding, or the system cannot convert from it. The text of no bytes is
+// empty, not nil.
+QString decodedString(QByteArrayView bytes, quint32 encoding);
