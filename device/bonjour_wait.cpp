@@ -15,8 +15,8 @@
 
 namespace {
 
-// Stands between the daemon's library and the caller's reply function: notes that the reply came, and keeps an
-// exception from running through C code.
+// Stands between the daemon's library and the caller's reply function: notes that the reply came, and keeps
+// an exception from running through C code.
 struct Relay
 {
     DNSServiceResolveReply reply;
@@ -26,8 +26,8 @@ struct Relay
 };
 
 void DNSSD_API relayReply(DNSServiceRef service, DNSServiceFlags flags, uint32_t interfaceIndex,
-                          DNSServiceErrorType error, const char *fullName, const char *hostTarget, uint16_t port,
-                          uint16_t txtLength, const unsigned char *txtRecord, void *context)
+                          DNSServiceErrorType error, const char *fullName, const char *hostTarget,
+                          uint16_t port, uint16_t txtLength, const unsigned char *txtRecord, void *context)
 {
     auto *relay = static_cast<Relay *>(context);
     if (relay->replied)
@@ -61,12 +61,12 @@ bool bonjour::waitForReply(int descriptor, std::chrono::milliseconds budget,
     return false;
 }
 
-void bonjour::resolveService(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
-                             void *context)
+void bonjour::resolveService(const char *name, const char *type, const char *domain,
+                             DNSServiceResolveReply reply, void *context)
 {
     // Avahi's library reminds the user on stderr that the program could use another interface of it.
     const ScopedEnvironment quiet{{"AVAHI_COMPAT_NOWARN", "1"}};
-    Relay relay{reply, context};
+    Relay relay{.reply = reply, .context = context, .thrown = nullptr};
     DNSServiceRef started = nullptr;
     // The error is told by the missing reference.
     DNSServiceResolve(&started, 0, 0, name, type, domain, relayReply, &relay);

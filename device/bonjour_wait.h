@@ -16,13 +16,13 @@ constexpr std::chrono::milliseconds replyBudget{5000};
 
 enum class Progress { Pending, Replied, Failed };
 
-// Runs `process` each time the descriptor is readable until it replied or failed or the budget is used up. Any
-// descriptor number will do. True when it replied.
+// Runs `process` each time the descriptor is readable until it replied or failed or the budget is used up.
+// Any descriptor number will do. True when it replied.
 bool waitForReply(int descriptor, std::chrono::milliseconds budget, const std::function<Progress()> &process);
 
-// Looks up where a service instance runs and gives the daemon's first answer, which may be an error, to `reply`
-// before it returns. `reply` is not called when the daemon is away or silent for the length of the budget. What
-// `reply` throws passes on to the caller.
+// Looks up where a service instance runs and gives the daemon's first answer, which may be an error, to
+// `reply` before it returns. `reply` is not called when the daemon is away or silent for the length of the
+// budget. What `reply` throws passes on to the caller.
 void resolveService(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                     void *context);
 

@@ -10,8 +10,8 @@
 #include <array>
 #include <limits>
 
-// Device URIs are written by CUPS, so CUPS reads them. A general URL class refuses the spaces that a Bonjour name
-// has after decoding, and does not know CUPS's "[v1.fe80::1+eth0]" for an address with a scope id.
+// Device URIs are written by CUPS, so CUPS reads them. A general URL class refuses the spaces that a Bonjour
+// name has after decoding, and does not know CUPS's "[v1.fe80::1+eth0]" for an address with a scope id.
 QString hostOfDeviceUri(const QString &uri)
 {
     const QByteArray text = uri.toUtf8();

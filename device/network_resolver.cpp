@@ -152,8 +152,9 @@ void QVNetworkResolver_M880::addToCacheForHost(const QString &address, const QSt
 {
     if (host.isNull())
         return;
-    state().QVResolverCache.insert(host, QVariantMap{{QVResolvedKey, address.isNull() ? QVDoesntResolve : address},
-                                                     {QVAgeKey, services().now()}});
+    state().QVResolverCache.insert(host,
+                                   QVariantMap{{QVResolvedKey, address.isNull() ? QVDoesntResolve : address},
+                                               {QVAgeKey, services().now()}});
 }
 
 bool QVNetworkResolver_M880::stringIsAnIP(const QString &text) const
@@ -182,7 +183,8 @@ QString QVNetworkResolver_M880::resolveFromBonjour(const QString &host)
     if (!name || !type || !domain)
         return {};
     setIP({});
-    services().resolveService(name->constData(), type->constData(), domain->constData(), ResolverCallback, this);
+    services().resolveService(name->constData(), type->constData(), domain->constData(), ResolverCallback,
+                              this);
     return m_tempIP;
 }
 
@@ -202,7 +204,8 @@ QString QVNetworkResolver_M880::resolveFromHostname(const QString &name) const
 }
 
 void DNSSD_API ResolverCallback(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType, const char *,
-                                const char *hostTarget, uint16_t, uint16_t, const unsigned char *, void *context)
+                                const char *hostTarget, uint16_t, uint16_t, const unsigned char *,
+                                void *context)
 {
     auto *resolver = static_cast<QVNetworkResolver_M880 *>(context);
     resolver->setIP(resolver->resolveFromHostname(stringFromAscii(hostTarget)));

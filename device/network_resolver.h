@@ -35,10 +35,10 @@ struct ResolverServices
     static ResolverServices system();
 };
 
-// Finds the numeric address of a printer: of a literal address, a Bonjour service name or a host name, tried in that
-// order. Blocks the calling thread: up to 5 seconds for Bonjour and two name look-ups. A host that failed is not
-// asked for again for 120 seconds; a host that succeeded is looked up anew each time. The cache lives as long as
-// the process. Calls from several threads wait for each other. Every failure is nil.
+// Finds the numeric address of a printer: of a literal address, a Bonjour service name or a host name, tried
+// in that order. Blocks the calling thread: up to 5 seconds for Bonjour and two name look-ups. A host that
+// failed is not asked for again for 120 seconds; a host that succeeded is looked up anew each time. The cache
+// lives as long as the process. Calls from several threads wait for each other. Every failure is nil.
 class QVNetworkResolver_M880
 {
 public:
@@ -48,7 +48,8 @@ public:
     static QString ipFromPrintSession(PMPrintSession session);
     static QString resolveToIP(const QString &host);
 
-    // The address or QVDoesntResolve written less than 120 seconds ago, else nil. Takes no lock; nor does the next.
+    // The address or QVDoesntResolve written less than 120 seconds ago, else nil. Takes no lock; nor does the
+    // next.
     static QString checkCacheForHost(const QString &host);
     // A nil address is kept as QVDoesntResolve; a nil host is ignored.
     static void addToCacheForHost(const QString &address, const QString &host);
@@ -58,10 +59,11 @@ public:
     // Takes the place of the system, for all later calls.
     static void setServices(ResolverServices services);
 
-    // IPv4 or IPv6 in text form. An IPv6 address may have a scope id ("fe80::1%eth0"): a link-local printer cannot
-    // be reached without it, no name look-up would find it, and net-snmp takes it as it stands.
+    // IPv4 or IPv6 in text form. An IPv6 address may have a scope id ("fe80::1%eth0"): a link-local printer
+    // cannot be reached without it, no name look-up would find it, and net-snmp takes it as it stands.
     bool stringIsAnIP(const QString &text) const;
-    // Four labels, or five with an empty last one: "Office Printer._ipp._tcp.local" or the same with a final dot.
+    // Four labels, or five with an empty last one: "Office Printer._ipp._tcp.local" or the same with a final
+    // dot.
     QString resolveFromBonjour(const QString &host);
     // IPv4 before IPv6.
     QString resolveFromHostname(const QString &name) const;
@@ -77,4 +79,5 @@ private:
 // The reply of a Bonjour resolution; `context` is the resolver. Only the target host counts.
 void DNSSD_API ResolverCallback(DNSServiceRef service, DNSServiceFlags flags, uint32_t interfaceIndex,
                                 DNSServiceErrorType error, const char *fullName, const char *hostTarget,
-                                uint16_t port, uint16_t txtLength, const unsigned char *txtRecord, void *context);
+                                uint16_t port, uint16_t txtLength, const unsigned char *txtRecord,
+                                void *context);

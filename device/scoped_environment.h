@@ -7,8 +7,9 @@
 #include <string>
 #include <vector>
 
-// Sets environment variables that are not set yet, and unsets those again at the end of the scope. For libraries
-// that are configured by nothing else. Main thread only, like everything that touches the environment.
+// Sets environment variables that are not set yet, and unsets those again at the end of the scope. For
+// libraries that are configured by nothing else. Main thread only, like everything that touches the
+// environment.
 class ScopedEnvironment
 {
 public:

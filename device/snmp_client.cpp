@@ -25,6 +25,31 @@ constexpr long timeoutMicroseconds = 1'000'000;
 constexpr std::array<SnmpOid, 12> prtGeneralCurrentLocalization{1, 3, 6, 1, 2, 1, 43, 5, 1, 1, 2, 1};
 constexpr std::array<SnmpOid, 13> prtLocalizationCharacterSet{1, 3, 6, 1, 2, 1, 43, 7, 1, 1, 4, 1, 0};
 
+// Null when net-snmp cannot open one.
+void *openSession(const QString &address)
+{
+    const SnmpLibrary &library = SnmpLibrary::instance();
+    {
+        // The first call reads configuration and MIB files. All OIDs here are numbers, so no MIB is needed,
+        // and a machine without them gets no warnings; nor are folders made for certificates that v2c does
+        // not use.
+        const ScopedEnvironment quiet{{"MIBS", ""}, {"MIBDIRS", ""}, {"SNMP_PERSISTENT_DIR", "/dev/null"}};
+        library.tap_init_snmp("KelmarPDE");
+    }
+    // A bare IPv6 address, with or without a scope id, is taken as it stands.
+    QByteArray peername = address.toUtf8();
+    QByteArray community = QByteArrayLiteral("public");
+    netsnmp_session session{};
+    library.tap_snmp_sess_init(&session);
+    session.peername = peername.data();
+    session.version = SNMP_VERSION_2c;
+    session.retries = retries;
+    session.timeout = timeoutMicroseconds;
+    session.community = reinterpret_cast<unsigned char *>(community.data());
+    session.community_len = static_cast<size_t>(community.size());
+    return library.tap_snmp_sess_open(&session);
+}
+
 } // namespace
 
 bool QVSNMP_M880::loadLibrary()
@@ -46,7 +71,8 @@ QVSNMP_M880::LibraryState QVSNMP_M880::libraryState()
 {
     const SnmpLibrary &library = SnmpLibrary::instance();
 #define KELMAR_SLOT_VALUE(name) reinterpret_cast<quintptr>(library.tap_##name),
-    return {library.libraryLoaded, library.snmpLibrary != nullptr, {KELMAR_SNMP_ENTRY_POINTS(KELMAR_SLOT_VALUE)}};
+    return {
+        library.libraryLoaded, library.snmpLibrary != nullptr, {KELMAR_SNMP_ENTRY_POINTS(KELMAR_SLOT_VALUE)}};
 #undef KELMAR_SLOT_VALUE
 }
 
@@ -63,42 +89,13 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    // A client that did not come to be leaves the library counted, so its destructor must not run.
-    std::unique_ptr<QVSNMP_M880> client(new QVSNMP_M880);
-    if (!client->openSession(address)) {
-        loadLibrary(); // makes up for the destructor's unloading
+    void *session = openSession(address);
+    if (session == nullptr)
         return fail(QVSNMPArchitectureMismatch);
-    }
-    return client;
+    return std::unique_ptr<QVSNMP_M880>(new QVSNMP_M880(session));
 }
 
-bool QVSNMP_M880::openSession(const QString &address)
-{
-    const SnmpLibrary &library = SnmpLibrary::instance();
-    {
-        // The first call reads configuration and MIB files. All OIDs here are numbers, so no MIB is needed, and a
-        // machine without them gets no warnings; nor are folders made for certificates that v2c does not use.
-        const ScopedEnvironment quiet{{"MIBS", ""}, {"MIBDIRS", ""}, {"SNMP_PERSISTENT_DIR", "/dev/null"}};
-        library.tap_init_snmp("KelmarPDE");
-    }
-    // A bare IPv6 address, with or without a scope id, is taken as it stands.
-    QByteArray peername = address.toUtf8();
-    QByteArray community = QByteArrayLiteral("public");
-    netsnmp_session session{};
-    library.tap_snmp_sess_init(&session);
-    session.peername = peername.data();
-    session.version = SNMP_VERSION_2c;
-    session.retries = retries;
-    session.timeout = timeoutMicroseconds;
-    session.community = reinterpret_cast<unsigned char *>(community.data());
-    session.community_len = static_cast<size_t>(community.size());
-    m_theSession = library.tap_snmp_sess_open(&session);
-    if (m_theSession == nullptr)
-        return false;
-    m_lastError = 0;
-    m_charSet = NSASCIIStringEncoding;
-    return true;
-}
+QVSNMP_M880::QVSNMP_M880(void *session) : m_theSession(session), m_charSet(NSASCIIStringEncoding) {}
 
 QVSNMP_M880::~QVSNMP_M880()
 {
@@ -114,8 +111,9 @@ void QVSNMP_M880::closeSession()
 qint32 QVSNMP_M880::lastError() const
 {
     const SnmpLibrary &library = SnmpLibrary::instance();
-    const netsnmp_session *session =
-        m_theSession == nullptr || library.libraryLoaded == 0 ? nullptr : library.tap_snmp_sess_session(m_theSession);
+    const netsnmp_session *session = m_theSession == nullptr || library.libraryLoaded == 0
+                                         ? nullptr
+                                         : library.tap_snmp_sess_session(m_theSession);
     return session == nullptr ? m_lastError : session->s_errno;
 }
 
@@ -140,7 +138,8 @@ QVariant QVSNMP_M880::sendRequestWithSize(const SnmpOid *oid, size_t size)
     return value;
 }
 
-std::optional<QVariantList> QVSNMP_M880::sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size, quint32 count)
+std::optional<QVariantList> QVSNMP_M880::sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size,
+                                                                         quint32 count)
 {
     m_rowsOfLastColumn.clear();
     if (size == 0)

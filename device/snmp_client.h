@@ -21,10 +21,10 @@ extern const QString QVSNMPArchitectureMismatch; // "SNMPArchMismatch", no usabl
 
 using SnmpOid = unsigned long; // net-snmp's oid
 
-// Reads single values from a printer with SNMP version 2c, community "public". net-snmp is opened at run time when the
-// first client is made and closed when the last one goes. Owned by whoever asks; main thread only. A request
-// blocks up to 3 seconds (1 second, two retries). Nil (an invalid QVariant) is every failure: time-out, an error
-// status, a type that is not read.
+// Reads single values from a printer with SNMP version 2c, community "public". net-snmp is opened at run time
+// when the first client is made and closed when the last one goes. Owned by whoever asks; main thread only. A
+// request blocks up to 3 seconds (1 second, two retries). Nil (an invalid QVariant) is every failure:
+// time-out, an error status, a type that is not read.
 class QVSNMP_M880
 {
 public:
@@ -43,8 +43,8 @@ public:
     };
     static LibraryState libraryState();
 
-    // Opens a session to a host name, Bonjour name or address. Null with one of the identifiers above in `error`
-    // (which may be null, and is left alone on success); the load count then keeps its increment.
+    // Opens a session to a host name, Bonjour name or address. Null with one of the identifiers above in
+    // `error` (which may be null, and is left alone on success); the load count then keeps its increment.
     static std::unique_ptr<QVSNMP_M880> initWithHostAndReturnError(const QString &host, QString *error);
     // Counts the library down. Does not close the session: closeSession() comes first.
     ~QVSNMP_M880();
@@ -52,8 +52,8 @@ public:
     QVSNMP_M880 &operator=(const QVSNMP_M880 &) = delete;
 
     QVariant sendRequestWithSize(const SnmpOid *oid, size_t size);
-    // One request after the other for `count` rows at most, up to the first that gives nil. The last element of
-    // `oid` is counted up with each row. Empty strings are left out. Nil instead of an empty list.
+    // One request after the other for `count` rows at most, up to the first that gives nil. The last element
+    // of `oid` is counted up with each row. Empty strings are left out. Nil instead of an empty list.
     std::optional<QVariantList> sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size, quint32 count);
     // The row (last element of its OID) of each value of the latest column read.
     const QList<quint32> &rowsOfLastColumn() const { return m_rowsOfLastColumn; }
@@ -71,12 +71,11 @@ public:
     void closeSession();
 
 private:
-    QVSNMP_M880() = default;
-    bool openSession(const QString &address);
+    explicit QVSNMP_M880(void *session);
 
-    void *m_theSession = nullptr; // net-snmp's single-session handle
+    void *m_theSession; // net-snmp's single-session handle
     qint32 m_lastError = 0;
-    quint32 m_charSet = 0;
+    quint32 m_charSet;
     bool m_returnStringsAsData = false;
     QList<quint32> m_rowsOfLastColumn;
 };

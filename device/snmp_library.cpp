@@ -11,8 +11,8 @@ void DynamicLibraryCloser::operator()(void *handle) const
         qCWarning(lcDevice, "Error: %s", ::dlerror());
 }
 
-// The name Debian 12 has, the one of a development package, then later and earlier ones. The calls used have the
-// same form in all of them.
+// The name Debian 12 has, the one of a development package, then later and earlier ones. The calls used have
+// the same form in all of them.
 SnmpLibrary::SnmpLibrary()
     : names{"libnetsnmp.so.40", "libnetsnmp.so",    "libnetsnmp.so.45", "libnetsnmp.so.44",
             "libnetsnmp.so.42", "libnetsnmp.so.41", "libnetsnmp.so.35"}
@@ -31,14 +31,14 @@ bool SnmpLibrary::load()
     // Only the first call looks. After a failure the later ones are told that all is well; see isUsable().
     if (libraryLoaded++ != 0)
         return true;
-    snmpLibrary.reset();
     for (const QByteArray &name : names) {
         snmpLibrary.reset(::dlopen(name.constData(), RTLD_NOW | RTLD_LOCAL));
         if (snmpLibrary)
             break;
     }
-#define KELMAR_LOOK_UP(name)                                                                                      \
-    tap_##name = snmpLibrary ? reinterpret_cast<decltype(tap_##name)>(::dlsym(snmpLibrary.get(), #name)) : nullptr;
+#define KELMAR_LOOK_UP(name)                                                                                 \
+    tap_##name =                                                                                             \
+        snmpLibrary ? reinterpret_cast<decltype(tap_##name)>(::dlsym(snmpLibrary.get(), #name)) : nullptr;
     KELMAR_SNMP_ENTRY_POINTS(KELMAR_LOOK_UP)
 #undef KELMAR_LOOK_UP
     return isUsable();

@@ -3,27 +3,28 @@
 
 #pragma once
 
+// The first of these must come first.
 #include <net-snmp/net-snmp-config.h>
-// (the library's headers stand on the one above)
+
 #include <net-snmp/net-snmp-includes.h>
 
+#include <QByteArray>
 #include <QList>
-#include <QtTypes>
 
 #include <dlfcn.h>
 
 #include <memory>
 
 // The entry points of net-snmp that are used, in the order in which they are looked up. The one list of them.
-#define KELMAR_SNMP_ENTRY_POINTS(X)                                                                               \
-    X(init_snmp)                                                                                                  \
-    X(snmp_add_null_var)                                                                                          \
-    X(snmp_free_pdu)                                                                                              \
-    X(snmp_pdu_create)                                                                                            \
-    X(snmp_sess_close)                                                                                            \
-    X(snmp_sess_init)                                                                                             \
-    X(snmp_sess_open)                                                                                             \
-    X(snmp_sess_session)                                                                                          \
+#define KELMAR_SNMP_ENTRY_POINTS(X)                                                                          \
+    X(init_snmp)                                                                                             \
+    X(snmp_add_null_var)                                                                                     \
+    X(snmp_free_pdu)                                                                                         \
+    X(snmp_pdu_create)                                                                                       \
+    X(snmp_sess_close)                                                                                       \
+    X(snmp_sess_init)                                                                                        \
+    X(snmp_sess_open)                                                                                        \
+    X(snmp_sess_session)                                                                                     \
     X(snmp_sess_synch_response)
 
 struct DynamicLibraryCloser

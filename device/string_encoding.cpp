@@ -16,8 +16,8 @@ struct CharacterSet
     StringEncoding encoding;
 };
 
-// 8 (ISO-8859-5), 2000 and 2001 (printer variants of Latin 1) and 2003 have no encoding of their own: each takes
-// the one listed that comes closest.
+// 8 (ISO-8859-5), 2000 and 2001 (printer variants of Latin 1) and 2003 have no encoding of their own: each
+// takes the one listed that comes closest.
 constexpr std::array characterSets{
     CharacterSet{4, NSISOLatin1StringEncoding},        CharacterSet{5, NSISOLatin2StringEncoding},
     CharacterSet{8, NSWindowsCP1251StringEncoding},    CharacterSet{17, NSShiftJISStringEncoding},
@@ -30,8 +30,8 @@ constexpr std::array characterSets{
 
 QString decodedAscii(QByteArrayView bytes)
 {
-    const bool ascii = std::all_of(bytes.begin(), bytes.end(),
-                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    const bool ascii =
+        std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
     if (!ascii)
         return {};
     return bytes.isEmpty() ? QStringLiteral("") : QString::fromLatin1(bytes);
@@ -84,14 +84,15 @@ QString decodedString(QByteArrayView bytes, quint32 encoding)
     if (!converter)
         return {};
     QByteArray input = bytes.toByteArray();
-    QByteArray output(input.size() * 4 + 16, '\0'); // no byte of these encodings becomes more than three of UTF-8
+    QByteArray output(input.size() * 4 + 16,
+                      '\0'); // no byte of these encodings becomes more than three of UTF-8
     char *from = input.data();
     char *to = output.data();
     auto fromLeft = static_cast<size_t>(input.size());
     auto toLeft = static_cast<size_t>(output.size());
     constexpr auto failed = static_cast<size_t>(-1);
-    if (::iconv(converter.get(), &from, &fromLeft, &to, &toLeft) == failed
-        || ::iconv(converter.get(), nullptr, nullptr, &to, &toLeft) == failed)
+    if (::iconv(converter.get(), &from, &fromLeft, &to, &toLeft) == failed ||
+        ::iconv(converter.get(), nullptr, nullptr, &to, &toLeft) == failed)
         return {};
     return QString::fromUtf8(output.constData(), to - output.constData());
 }

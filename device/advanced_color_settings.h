@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "device/snmp_client.h"
+#include "platform/key_value_object.h"
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+#include <QWidget>
+
+namespace platform {
+class Bundle;
+class PrintDialogHost;
+} // namespace platform
+
+// Keys of the print settings; values are decimal text.
+extern const QString QVRgbSourceProfileIndexKey;       // "com.kelmar.pde.advancedcolorsettings.rgb-source"
+extern const QString QVCmykSourceProfileIndexKey;      // "....cmyk-source"
+extern const QString QVCmykDestinationProfileIndexKey; // "....cmyk-dest"
+extern const QString QVRenderingIntentKey;             // "....rendering-intent"
+extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only", "1" or "0"
+
+// The colour profiles that a printer holds, what the user chose among them, and whether the printer could be
+// asked. Its keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed
+// and outlive it. The device is asked by restore and by updateFromSNMP() alone, and blocks the thread
+// meanwhile; the host is told before. Main thread only.
+//
+// Each list of names has a list of the device's numbers beside it, which the selections refer to: a profile
+// without a name has a number but no place in the lists. An empty list is one that was never read.
+class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool useConstraintHandling READ useConstraintHandling WRITE setUseConstraintHandling)
+    Q_PROPERTY(bool applyToDeviceColorOnly READ applyToDeviceColorOnly WRITE setApplyToDeviceColorOnly)
+    Q_PROPERTY(QStringList rgbSourceProfiles READ rgbSourceProfiles WRITE setRgbSourceProfiles)
+    Q_PROPERTY(QStringList cmykSourceProfiles READ cmykSourceProfiles WRITE setCmykSourceProfiles)
+    Q_PROPERTY(
+        QStringList cmykDestinationProfiles READ cmykDestinationProfiles WRITE setCmykDestinationProfiles)
+    Q_PROPERTY(QVariantList rgbSourceProfileRows READ rgbSourceProfileRows)
+    Q_PROPERTY(QVariantList cmykSourceProfileRows READ cmykSourceProfileRows)
+    Q_PROPERTY(QVariantList cmykDestinationProfileRows READ cmykDestinationProfileRows)
+    Q_PROPERTY(
+        quint32 selectedRgbSourceProfile READ selectedRgbSourceProfile WRITE setSelectedRgbSourceProfile)
+    Q_PROPERTY(
+        quint32 selectedCmykSourceProfile READ selectedCmykSourceProfile WRITE setSelectedCmykSourceProfile)
+    Q_PROPERTY(quint32 selectedCmykDestinationProfile READ selectedCmykDestinationProfile WRITE
+                   setSelectedCmykDestinationProfile)
+    Q_PROPERTY(quint32 renderingIntent READ renderingIntent WRITE setRenderingIntent)
+    Q_PROPERTY(QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason)
+    Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled)
+public:
+    // Enabled, with nothing read yet. `view` is the widget whose window ends its text editing on save; may be
+    // null.
+    QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
+                                        QWidget *view);
+    ~QVAdvancedColorSettingsManager_M880() override;
+
+    // Reads lists and defaults from the device, unless disabled. A failure disables with a localised reason
+    // and leaves what was read before. `sender` does not matter.
+    void updateFromSNMP(QObject *sender = nullptr);
+    // Enables, asks the device, and puts the stored selections over its defaults. Always true; `error` is
+    // left alone.
+    bool restoreValuesAndReturnError(QString *error);
+    // Ends text editing and writes the selections, or removes them while disabled. Always true.
+    bool saveValuesAndReturnError(QString *error);
+    // The reason is kept when disabling, and nil when enabling.
+    void setSnmpEnabledWithReason(bool enabled, const QString &reason);
+    void willShow() {}
+
+    bool useConstraintHandling() const { return m_useConstraintHandling; }
+    void setUseConstraintHandling(bool on);
+    bool applyToDeviceColorOnly() const { return m_applyToDeviceColorOnly; }
+    void setApplyToDeviceColorOnly(bool on);
+    const QStringList &rgbSourceProfiles() const { return m_rgbSourceProfiles.names; }
+    const QStringList &cmykSourceProfiles() const { return m_cmykSourceProfiles.names; }
+    const QStringList &cmykDestinationProfiles() const { return m_cmykDestinationProfiles.names; }
+    // Names given here are numbered from 1.
+    void setRgbSourceProfiles(const QStringList &names);
+    void setCmykSourceProfiles(const QStringList &names);
+    void setCmykDestinationProfiles(const QStringList &names);
+    const QVariantList &rgbSourceProfileRows() const { return m_rgbSourceProfiles.rows; }
+    const QVariantList &cmykSourceProfileRows() const { return m_cmykSourceProfiles.rows; }
+    const QVariantList &cmykDestinationProfileRows() const { return m_cmykDestinationProfiles.rows; }
+    quint32 selectedRgbSourceProfile() const { return m_selectedRgbSourceProfile; }
+    void setSelectedRgbSourceProfile(quint32 number);
+    quint32 selectedCmykSourceProfile() const { return m_selectedCmykSourceProfile; }
+    void setSelectedCmykSourceProfile(quint32 number);
+    quint32 selectedCmykDestinationProfile() const { return m_selectedCmykDestinationProfile; }
+    void setSelectedCmykDestinationProfile(quint32 number);
+    quint32 renderingIntent() const { return m_renderingIntent; }
+    void setRenderingIntent(quint32 number);
+    const QString &snmpUnavailableReason() const { return m_snmpUnavailableReason; }
+    void setSnmpUnavailableReason(const QString &reason);
+    bool snmpEnabled() const { return m_snmpEnabled; }
+    void setSnmpEnabled(bool enabled);
+
+private:
+    // The names of one column of the device's tables, and the device's number for each.
+    struct ProfileList
+    {
+        QString key;
+        QStringList names;
+        QVariantList rows;
+    };
+
+    template <typename T>
+    void assign(const QString &key, T &field, const T &value);
+    void setProfiles(ProfileList &list, const QStringList &names, const QVariantList &rows);
+    bool readProfiles(QVSNMP_M880 &client, ProfileList &list, SnmpOid column, quint32 rowCount);
+    bool readDefaults(QVSNMP_M880 &client);
+    QVariantMap valuesToSave() const;
+    void applyStoredValues(const QVariantMap &stored);
+
+    platform::PrintDialogHost *m_host;
+    QPointer<QWidget> m_view;
+    const platform::Bundle *m_bundle;
+    bool m_useConstraintHandling;
+    bool m_applyToDeviceColorOnly = false;
+    ProfileList m_rgbSourceProfiles;
+    ProfileList m_cmykSourceProfiles;
+    ProfileList m_cmykDestinationProfiles;
+    quint32 m_selectedRgbSourceProfile = 0;
+    quint32 m_selectedCmykSourceProfile = 0;
+    quint32 m_selectedCmykDestinationProfile = 0;
+    quint32 m_renderingIntent = 0;
+    QString m_snmpUnavailableReason;
+    bool m_snmpEnabled = true;
+};

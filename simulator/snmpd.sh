@@ -1,0 +1,58 @@
+#!/bin/sh
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+
+# A simulated printer: snmpd on port 161 of a loopback address, serving the tables of a device file.
+#
+#   snmpd.sh start DIR ADDRESS DEVICEFILE   returns when it answers; DIR gets its configuration, log and pid file
+#   snmpd.sh run DIR ADDRESS DEVICEFILE     the same in the foreground; says "NET-SNMP version" when it answers
+#   snmpd.sh stop DIR
+#
+# Port 161 needs root, or a network namespace of one's own.
+set -eu
+
+usage() {
+    sed -n 's/^#   //p' "$0" >&2
+    exit 2
+}
+
+configure() {
+    here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
+    [ -r "$3" ] || { echo "snmpd.sh: cannot read $3" >&2; exit 1; }
+    device=$(CDPATH='' cd -- "$(dirname -- "$3")" && pwd)/$(basename -- "$3")
+    mkdir -p "$1"
+    agent="$(command -v python3) $here/agent.py $device"
+    # Reads the file and ends: says what is wrong with it before snmpd hides that in its log.
+    $agent </dev/null || exit 1
+    case $2 in
+        *:*) listen="udp6:[$2]:161" access="rocommunity6 public" ;;
+        *) listen="udp:$2:161" access="rocommunity public" ;;
+    esac
+    # Each subtree gets an agent process of its own.
+    cat >"$1/snmpd.conf" <<CONF
+$access
+pass_persist .1.3.6.1.4.1.5309 $agent
+pass_persist .1.3.6.1.2.1.43 $agent
+CONF
+    export MIBS="" MIBDIRS="" SNMPCONFPATH="$1" SNMP_PERSISTENT_DIR="$1"
+}
+
+daemon=$(PATH=$PATH:/usr/sbin command -v snmpd) || { echo "snmpd.sh: snmpd is not installed" >&2; exit 1; }
+case "${1:-}:$#" in
+    start:4)
+        configure "$2" "$3" "$4"
+        # The parent returns once the port is open.
+        "$daemon" -Lf "$2/snmpd.log" -C -c "$2/snmpd.conf" -p "$2/snmpd.pid" "$listen" ||
+            { tail -n 3 "$2/snmpd.log" >&2; exit 1; }
+        ;;
+    run:4)
+        configure "$2" "$3" "$4"
+        exec "$daemon" -f -Lo -C -c "$2/snmpd.conf" "$listen"
+        ;;
+    stop:2)
+        pid=$(cat "$2/snmpd.pid") || exit 1
+        kill "$pid"
+        rm -f "$2/snmpd.pid"
+        ;;
+    *) usage ;;
+esac
