@@ -1,0 +1,144 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+# A CUPS server of one's own in a folder, for tests and the demo. Its printers keep their jobs (capture-backend).
+#   run DIR                      become the server, in the foreground
+#   start DIR                    the same in the background; returns when it answers
+#   stop DIR                     end the one that start began; returns when it is gone
+#   add-queue DIR NAME PPD URI   a queue that accepts jobs; PPD may be - for none; no address is ever contacted
+#   wait-job DIR JOB [SECONDS]   return when the job has been captured (10 seconds)
+#   options DIR JOB              the backend's fifth argument: the job's options as they arrived
+# Programs reach the server with CUPS_SERVER=DIR/cups.sock. Exit code 77: CUPS is not installed.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+system_bin=${KELMAR_CUPS_SERVERBIN:-/usr/lib/cups}
+schemes="capture socket ipp ipps lpd http https usb dnssd"
+PATH=$PATH:/usr/sbin
+
+fail() { # MESSAGE [CODE]
+    echo "private-cupsd: $1" >&2
+    exit "${2:-1}"
+}
+
+prepare() {
+    local name
+    command -v cupsd >/dev/null || fail "cupsd is not installed (Debian: cups-daemon)" 77
+    mkdir -p "$dir"/{etc/ppd,spool/tmp,cache,state,log,bin/backend,jobs}
+    # cupsd's filters and backends run as another user, who has to get through.
+    chmod 755 "$dir" "$dir"/{etc,spool,cache,state,log,bin,bin/backend}
+    chmod 1777 "$dir/jobs" "$dir/spool/tmp"
+    # A socket address holds 108 bytes.
+    [ "${#sock}" -lt 104 ] || fail "the path $sock is too long for a socket"
+    for name in cgi-bin daemon driver filter monitor notifier; do
+        [ ! -e "$system_bin/$name" ] || ln -sfn "$system_bin/$name" "$dir/bin/$name"
+    done
+    for name in $schemes; do
+        install -m 755 "$here/capture-backend" "$dir/bin/backend/$name"
+    done
+    cat >"$dir/cupsd.conf" <<CONF
+LogLevel ${KELMAR_CUPS_LOGLEVEL:-warn}
+Listen $sock
+Browsing Off
+WebInterface No
+DefaultShared No
+DefaultAuthType None
+PreserveJobHistory Yes
+PreserveJobFiles No
+MaxLogSize 0
+DirtyCleanInterval 0
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  JobPrivateAccess all
+  JobPrivateValues none
+  SubscriptionPrivateAccess all
+  SubscriptionPrivateValues none
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+CONF
+    local user=lp group=lp
+    [ "$(id -u)" -eq 0 ] || { user=$(id -un) group=$(id -gn); }
+    cat >"$dir/cups-files.conf" <<CONF
+ServerRoot $dir/etc
+RequestRoot $dir/spool
+TempDir $dir/spool/tmp
+CacheDir $dir/cache
+StateDir $dir/state
+ServerBin $dir/bin
+AccessLog $dir/log/access_log
+ErrorLog $dir/log/error_log
+PageLog $dir/log/page_log
+User $user
+Group $group
+SystemGroup $(id -gn)
+CONF
+}
+
+run() {
+    prepare
+    exec cupsd -f -c "$dir/cupsd.conf" -s "$dir/cups-files.conf"
+}
+
+start() {
+    [ ! -e "$dir/cupsd.pid" ] || fail "a server is running in $dir"
+    prepare
+    cupsd -f -c "$dir/cupsd.conf" -s "$dir/cups-files.conf" >"$dir/log/output" 2>&1 &
+    echo $! >"$dir/cupsd.pid"
+    local pid=$! tries
+    for tries in {1..200}; do
+        ! lpstat -h "$sock" -r 2>/dev/null | grep -q 'is running' || return 0
+        kill -0 "$pid" 2>/dev/null || break
+        sleep 0.05
+    done
+    cat "$dir/log/output" "$dir/log/error_log" >&2 2>/dev/null || true
+    stop
+    fail "the server does not answer"
+}
+
+stop() {
+    local pid tries
+    pid=$(cat "$dir/cupsd.pid" 2>/dev/null) || return 0
+    kill "$pid" 2>/dev/null || true
+    for tries in {1..200}; do
+        kill -0 "$pid" 2>/dev/null || break
+        sleep 0.05
+    done
+    rm -f "$dir/cupsd.pid"
+}
+
+add_queue() { # NAME PPD URI
+    local model=(-P "$2")
+    [ "$2" != - ] || model=()
+    # lpadmin warns at each call that drivers are going away.
+    lpadmin -h "$sock" -p "$1" -E -v "$3" "${model[@]}" 2> >(grep -v deprecated >&2)
+}
+
+wait_job() { # JOB SECONDS
+    local tries
+    for ((tries = 0; tries < $2 * 20; tries++)); do
+        [ ! -e "$dir/jobs/$1.args" ] || return 0
+        sleep 0.05
+    done
+    fail "job $1 has not arrived within $2 seconds"
+}
+
+[ $# -ge 2 ] || { sed -n '4,12s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
+verb=$1 dir=$2
+shift 2
+mkdir -p "$dir"
+dir=$(cd "$dir" && pwd)
+sock=$dir/cups.sock
+case $verb/$# in
+run/0) run ;;
+start/0) start ;;
+stop/0) stop ;;
+add-queue/3) add_queue "$@" ;;
+wait-job/1) wait_job "$1" 10 ;;
+wait-job/2) wait_job "$1" "$2" ;;
+options/1) mapfile -d '' -t args <"$dir/jobs/$1.args" && echo "${args[4]}" ;;
+*) fail "do not know '$verb' with $# arguments" 2 ;;
+esac
