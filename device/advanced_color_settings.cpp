@@ -79,7 +79,7 @@ QVariantList rowsFromOne(qsizetype count)
 
 quint32 numberOf(const QVariant &value)
 {
-    return static_cast<quint32>(integerValue(value));
+    return static_cast<quint32>(wholeNumber(value));
 }
 
 } // namespace

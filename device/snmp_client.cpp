@@ -167,8 +167,8 @@ void QVSNMP_M880::determineDefaultCharsetForPrinter()
     if (!localization.isValid())
         return;
     auto oid = prtLocalizationCharacterSet;
-    oid.back() = static_cast<quint32>(integerValue(localization));
+    oid.back() = static_cast<quint32>(wholeNumber(localization));
     const QVariant characterSet = sendRequestWithSize(oid.data(), oid.size());
     if (characterSet.isValid())
-        m_charSet = stringEncodingForCharacterSet(integerValue(characterSet));
+        m_charSet = stringEncodingForCharacterSet(wholeNumber(characterSet));
 }

@@ -8,7 +8,7 @@
 
 #include <cstdlib>
 
-qint64 integerValue(const QVariant &value)
+qint64 wholeNumber(const QVariant &value)
 {
     switch (value.typeId()) {
     case QMetaType::QString:
