@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "panelkit/panel_base.h"
+
+#include <QVariantList>
+#include <QWidget>
+
+namespace platform {
+struct Notification;
+}
+class QVAdvancedColorSettingsManager_M880;
+class QVPopUpButton_M880;
+
+// The panel "Color Settings 1": the basic colour options and, where the printer offers the image type
+// "Advanced", a second view with the colour profiles that the device holds. One of the two views is shown at
+// a time.
+class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880
+{
+    Q_OBJECT
+    Q_PROPERTY(bool hasResolution READ hasResolution WRITE setHasResolution)
+    Q_PROPERTY(bool hasAdvanced READ hasAdvanced WRITE setHasAdvanced)
+    // Whether the image type is "Advanced". What is set here is kept, but never read.
+    Q_PROPERTY(bool advancedSelected READ advancedSelected WRITE setAdvancedSelected)
+    Q_PROPERTY(QWidget *currentView READ currentView WRITE setCurrentView)
+    // Null without an advanced view.
+    Q_PROPERTY(platform::KeyValueObject *advancedColorSettingsManager READ advancedColorSettingsObject)
+    // Localised names of the rendering intents and the numbers that the device has for them.
+    Q_PROPERTY(QStringList renderingIntentNames READ renderingIntentNames)
+    Q_PROPERTY(QVariantList renderingIntentNumbers READ renderingIntentNumbers)
+public:
+    QVPDEColorSettings1_M880();
+    ~QVPDEColorSettings1_M880() override;
+
+    QString nibNameForModel(const QString &model) const override;
+    bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager) override;
+    QStringList supportedPPDOptionKeys() override;
+    std::vector<platform::Outlet> outlets() override;
+    std::vector<platform::Action> actions() override;
+
+    bool hasResolution() const { return m_hasResolution; }
+    void setHasResolution(bool has);
+    bool hasAdvanced() const { return m_hasAdvanced; }
+    void setHasAdvanced(bool has);
+    bool advancedSelected();
+    void setAdvancedSelected(bool selected);
+    QVAdvancedColorSettingsManager_M880 *advancedColorSettingsManager() const;
+    void setAdvancedColorSettingsManager(std::unique_ptr<QVAdvancedColorSettingsManager_M880> settings);
+    platform::KeyValueObject *advancedColorSettingsObject() const;
+    QStringList renderingIntentNames() const;
+    QVariantList renderingIntentNumbers() const;
+
+    QWidget *currentView() const { return m_currentView; }
+    // Shows a view alone, at once.
+    void setCurrentView(QWidget *view);
+    // Switches to a view within half a second; it is the current view from the start. Does nothing for the
+    // view that is current already.
+    void animateViewIn(QWidget *view);
+    void goToAdvanced(QWidget *sender);
+    void goBack(QWidget *sender);
+    // The image type has changed.
+    void showAdvancedView(const platform::Notification &notification);
+    // Asks the device again; blocks while it does.
+    void reloadDefaultSNMPValues(QWidget *sender);
+
+    bool restoreValuesAndReturnError(QString *error) override;
+    bool saveValuesAndReturnError(QString *error) override;
+    void willShow() override;
+
+private:
+    void makeAdvancedColorSettings();
+
+    QVPopUpButton_M880 *m_colorType = nullptr;
+    QVPopUpButton_M880 *m_resolution = nullptr;
+    QVPopUpButton_M880 *m_halftone = nullptr;
+    QVPopUpButton_M880 *m_imageType = nullptr;
+    QVPopUpButton_M880 *m_blackOverPrint = nullptr;
+    QVPopUpButton_M880 *m_pureBlackAndGray = nullptr;
+    QWidget *m_basicView = nullptr;
+    QWidget *m_advancedView = nullptr;
+    QWidget *m_currentView = nullptr;
+    bool m_hasResolution = false;
+    bool m_hasAdvanced = false;
+    bool m_advancedSelected = false;
+    std::unique_ptr<QVAdvancedColorSettingsManager_M880> m_advancedColorSettingsManager;
+};

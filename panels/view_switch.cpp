@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/view_switch.h"
+
+#include <QEasingCurve>
+#include <QGraphicsOpacityEffect>
+#include <QWidget>
+
+namespace {
+
+QRect atY(const QRect &frame, int y)
+{
+    return {QPoint(frame.x(), y), frame.size()};
+}
+
+// Moves only: the superview may resize its views meanwhile.
+void place(QWidget *view, const ViewMove &move, qreal progress, qreal opacity)
+{
+    const qreal y = move.startFrame.y() + (move.endFrame.y() - move.startFrame.y()) * progress;
+    view->move(move.endFrame.x(), qRound(y));
+    auto *effect = qobject_cast<QGraphicsOpacityEffect *>(view->graphicsEffect());
+    if (!effect) {
+        effect = new QGraphicsOpacityEffect(view);
+        view->setGraphicsEffect(effect);
+    }
+    effect->setOpacity(opacity);
+}
+
+} // namespace
+
+ViewSwitchFrames framesForSwitch(const QRect &outgoing, const QRect &incoming, SwitchDirection direction)
+{
+    const int sign = direction == SwitchDirection::ToAdvanced ? 1 : -1;
+    return {{atY(outgoing, 0), atY(outgoing, sign * outgoing.height())},
+            {atY(incoming, -sign * incoming.height()), atY(incoming, 0)}};
+}
+
+ViewSwitch *ViewSwitch::start(QWidget *outgoing, QWidget *incoming, SwitchDirection direction)
+{
+    const auto frames = framesForSwitch(outgoing->geometry(), incoming->geometry(), direction);
+    // Turning round half way: a switch and its way back run through the same pictures in opposite order, so
+    // the new one begins at the picture that is on the screen.
+    std::chrono::milliseconds elapsed{0};
+    if (const ViewSwitch *running = runningIn(outgoing->parentWidget())) {
+        elapsed = duration - std::chrono::milliseconds(running->m_clock.currentTime());
+        cancelIn(outgoing->parentWidget());
+    }
+    return new ViewSwitch(outgoing, incoming, frames, elapsed);
+}
+
+void ViewSwitch::cancelIn(QWidget *superview)
+{
+    delete runningIn(superview);
+}
+
+ViewSwitch *ViewSwitch::runningIn(const QWidget *superview)
+{
+    return superview->findChild<ViewSwitch *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+ViewSwitch::ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames,
+                       std::chrono::milliseconds elapsed)
+    : QObject(outgoing->parentWidget()), m_outgoing(outgoing), m_incoming(incoming), m_frames(frames)
+{
+    // Its two halves mirror each other, or turning round would jump.
+    m_clock.setEasingCurve(QEasingCurve::InOutCubic);
+    m_clock.setStartValue(0.0);
+    m_clock.setEndValue(1.0);
+    m_clock.setDuration(int(duration.count()));
+    connect(&m_clock, &QVariantAnimation::valueChanged, this, &ViewSwitch::showProgress);
+    connect(&m_clock, &QAbstractAnimation::finished, this, &ViewSwitch::finish);
+    showProgress();
+    m_outgoing->show();
+    m_incoming->show();
+    m_incoming->raise();
+    m_clock.start();
+    m_clock.setCurrentTime(int(elapsed.count())); // the whole duration ends it here
+}
+
+ViewSwitch::~ViewSwitch()
+{
+    m_clock.disconnect(this);
+    letGo();
+}
+
+qreal ViewSwitch::progress() const
+{
+    return m_clock.currentValue().toReal();
+}
+
+void ViewSwitch::showProgress()
+{
+    if (m_outgoing)
+        place(m_outgoing, m_frames.outgoing, progress(), 1 - progress());
+    if (m_incoming)
+        place(m_incoming, m_frames.incoming, progress(), progress());
+}
+
+void ViewSwitch::finish()
+{
+    if (m_outgoing)
+        m_outgoing->hide();
+    if (m_incoming)
+        m_incoming->setGeometry(QRect(m_frames.incoming.endFrame.topLeft(), m_incoming->size()));
+    letGo();
+    // No longer to be found by one that starts before the event loop comes round to deleting it.
+    setParent(nullptr);
+    deleteLater();
+}
+
+void ViewSwitch::letGo()
+{
+    for (QWidget *view : {m_outgoing.data(), m_incoming.data()}) {
+        if (view)
+            view->setGraphicsEffect(nullptr);
+    }
+    m_outgoing.clear();
+    m_incoming.clear();
+}

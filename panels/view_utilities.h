@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QRectF>
+
+class QWidget;
+
+// Where a view stands in its superview.
+namespace QVViewUtilities_M880 {
+
+// The view's own size, centred in the superview's frame, not rounded; all zeros for a view without a
+// superview.
+QRectF centeredInSuperviewFrame(const QWidget *view);
+// Moves the view there, to whole pixels; a view without a superview goes to 0, 0.
+void centerInSuperview(QWidget *view);
+
+} // namespace QVViewUtilities_M880

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QSlider>
+#include <QVariant>
+
+#include <optional>
+
+// A slider over the numeric choices of a PPD option. What the user does ends on a number the option has a
+// choice for; no other ever leaves the slider. A value that comes from the option is only shown, never
+// corrected: one that lies beyond the range puts the thumb at the nearer end and stays as it is until the
+// user moves the thumb.
+class QVChoiceSlider_M880 : public QSlider
+{
+    Q_OBJECT
+    // The option's choice dictionaries. Choices that are no whole numbers, or lie outside the range, are left
+    // out; without any the thumb cannot be moved.
+    Q_PROPERTY(QVariant choices READ choices WRITE setChoices)
+    // Takes the place of the slider's own property of that name: writing shows, and only the user notifies.
+    Q_PROPERTY(int value READ value WRITE showValue NOTIFY valueChosen USER true)
+public:
+    explicit QVChoiceSlider_M880(QWidget *parent = nullptr);
+
+    QVariant choices() const { return m_choices; }
+    void setChoices(const QVariant &choices);
+    void showValue(int value);
+
+Q_SIGNALS:
+    void valueChosen(int value);
+
+protected:
+    void sliderChange(SliderChange change) override;
+
+private:
+    void adjustAction(int action);
+    QList<int> positions() const;
+    // The position nearest to `wanted`; of two equally near the one nearer to where the thumb is.
+    std::optional<int> nearestPosition(int wanted) const;
+    // The first position at or beyond `wanted` as seen from the thumb, else the last one on that side.
+    std::optional<int> positionTowards(int wanted) const;
+
+    QVariant m_choices;
+    QList<int> m_numbers; // ascending
+    int m_shown = 0;      // where the thumb last rested
+    bool m_showing = false;
+    bool m_settling = false;
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/widgets/neutral_button.h"
+
+#include "platform/layout_loader.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
+
+namespace {
+
+const bool registered = [] {
+    platform::registerLayoutWidget<QVNeutralButton_M880>(QStringLiteral("QVNeutralButton_M880"));
+    return true;
+}();
+
+// An arrow that turns back, in a square of 16 units.
+QPainterPath backArrow()
+{
+    const QRectF circle(3.5, 3.5, 9, 9);
+    QPainterPath path;
+    path.arcMoveTo(circle, 150);
+    path.arcTo(circle, 150, -285);
+    const QPointF tip = QPainterPath(path).elementAt(0);
+    path.moveTo(tip + QPointF(-0.6, -4.2));
+    path.lineTo(tip);
+    path.lineTo(tip + QPointF(4.2, -0.4));
+    return path;
+}
+
+} // namespace
+
+QVNeutralButton_M880::QVNeutralButton_M880(QWidget *parent) : QToolButton(parent)
+{
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setEnabled(false);
+}
+
+void QVNeutralButton_M880::setValue(int value)
+{
+    m_value = value;
+    setEnabled(m_allowed && m_value != 0);
+}
+
+void QVNeutralButton_M880::setAllowed(bool allowed)
+{
+    m_allowed = allowed;
+    setEnabled(m_allowed && m_value != 0);
+}
+
+QSize QVNeutralButton_M880::sizeHint() const
+{
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) + 8;
+    return {side, side};
+}
+
+// Drawn here, since not every icon theme has such an arrow, in the colour that texts have.
+void QVNeutralButton_M880::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+
+    QColor ink = palette().color(QPalette::Active, QPalette::ButtonText);
+    ink.setAlphaF(isEnabled() ? 0.85F : 0.2F);
+    const qreal scale = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) / 16.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(rect()).center());
+    painter.scale(scale, scale);
+    painter.translate(-8, -8);
+    painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(backArrow());
+}

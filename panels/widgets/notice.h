@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+// A line of plain text with an icon that says why something beside it cannot be used. Takes its place in the
+// layout only while there is a text.
+class QVNotice_M880 : public QFrame
+{
+    Q_OBJECT
+    // A nil or empty text hides the notice.
+    Q_PROPERTY(QString text READ text WRITE setText)
+    // Something went wrong, rather than is so.
+    Q_PROPERTY(bool warning READ isWarning WRITE setWarning)
+public:
+    explicit QVNotice_M880(QWidget *parent = nullptr);
+
+    QString text() const;
+    void setText(const QString &text);
+    bool isWarning() const { return m_warning; }
+    void setWarning(bool warning);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void updateIcon();
+
+    QLabel *m_icon;
+    QLabel *m_text;
+    bool m_warning = false;
+};

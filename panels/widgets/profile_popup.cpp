@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/widgets/profile_popup.h"
+
+#include "platform/layout_loader.h"
+
+#include <QSignalBlocker>
+
+namespace {
+
+const bool registered = [] {
+    platform::registerLayoutWidget<QVProfilePopUp_M880>(QStringLiteral("QVProfilePopUp_M880"));
+    return true;
+}();
+
+} // namespace
+
+QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : QComboBox(parent)
+{
+    // A device may call its profiles anything; the pop-up keeps its width.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
+}
+
+void QVProfilePopUp_M880::setProfileNames(const QVariant &names)
+{
+    m_names = names;
+    rebuild();
+}
+
+void QVProfilePopUp_M880::setProfileRows(const QVariant &rows)
+{
+    m_rows = rows;
+    rebuild();
+}
+
+void QVProfilePopUp_M880::setSelectedProfile(const QVariant &number)
+{
+    m_selected = number;
+    rebuild();
+}
+
+void QVProfilePopUp_M880::setUnnamedText(const QString &text)
+{
+    m_unnamedText = text;
+    rebuild();
+}
+
+void QVProfilePopUp_M880::choose(int index)
+{
+    const QVariant number = itemData(index);
+    if (number == m_selected)
+        return;
+    m_selected = number;
+    Q_EMIT profileChosen();
+}
+
+void QVProfilePopUp_M880::rebuild()
+{
+    const QSignalBlocker silent(this);
+    clear();
+    const QStringList names = m_names.toStringList();
+    const QVariantList rows = m_rows.toList();
+    uint number = 0;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        number = i < rows.size() ? rows.at(i).toUInt() : number + 1;
+        addItem(names.at(i), number);
+    }
+    if (!m_selected.isValid()) {
+        setCurrentIndex(-1);
+        return;
+    }
+    const uint selected = m_selected.toUInt();
+    if (findData(selected) < 0)
+        addItem(m_unnamedText.arg(selected), selected);
+    setCurrentIndex(findData(selected));
+}
