@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <net-snmp/net-snmp-config.h>
+
+#include <net-snmp/net-snmp-includes.h>
+
+// Exported by the stub library as `stub_control`: what it was asked, and what it is to answer.
+struct StubControl
+{
+    int inits, closes, requests, frees;
+    char application[32], peer[64], community[16];
+    const char *mibsWhileInit;
+    netsnmp_session opened;
+    netsnmp_pdu request;
+    oid lastSubid;
+
+    bool failOpen, noResponse;
+    int status;
+    netsnmp_pdu response;
+    netsnmp_variable_list variable;
+};

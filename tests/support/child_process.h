@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProcess>
+
+#include <csignal>
+#include <memory>
+#include <sys/prctl.h>
+
+// A server that a test runs: in the foreground, ended with the test whatever becomes of it.
+struct ChildProcessStopper
+{
+    void operator()(QProcess *process) const
+    {
+        process->terminate();
+        if (!process->waitForFinished(5000))
+            process->kill();
+        process->waitForFinished(1000);
+        delete process;
+    }
+};
+using ChildProcess = std::unique_ptr<QProcess, ChildProcessStopper>;
+
+// Starts a program and waits until it has written `readyText`. Null, with its output in `error`, when it does
+// not.
+inline ChildProcess startChildProcess(const QString &program, const QStringList &arguments,
+                                      const QByteArray &readyText, QString *error, int milliseconds = 15000)
+{
+    ChildProcess process(new QProcess);
+    process->setProcessChannelMode(QProcess::MergedChannels);
+    process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    process->start(program, arguments, QIODevice::ReadOnly);
+    QByteArray output;
+    QElapsedTimer clock;
+    clock.start();
+    while (!output.contains(readyText)) {
+        const qint64 left = milliseconds - clock.elapsed();
+        if (left <= 0 || !process->waitForReadyRead(static_cast<int>(left))) {
+            *error = QStringLiteral("%1: %2 %3")
+                         .arg(program, process->errorString(), QString::fromLocal8Bit(output));
+            return nullptr;
+        }
+        output += process->readAll();
+    }
+    return process;
+}

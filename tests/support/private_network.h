@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+// Moves the calling thread, and the threads and processes it starts from now on, into a network of its own
+// with nothing but a loopback interface: port 161 is free, and no name look-up or packet leaves. Needs root,
+// or a process of one thread where user namespaces are allowed. Nil, or why it cannot be done.
+QString enterPrivateNetwork();
+// The same and a mount namespace of its own, for programs with fixed paths: `hosts` takes the place of
+// /etc/hosts, and the folder `emptied` is an empty one.
+QString enterPrivateNetworkWithFiles(const QString &hosts, const QString &emptied);
