@@ -78,21 +78,26 @@ std::optional<QJsonObject> readInfo(const QString &path, QString *error)
     return document.object();
 }
 
-// Suffixes of string tables to look for, most wanted first: each language of the locale, then the same
-// without its territory and script, and English after all.
+// Suffixes of string tables to look for, most wanted first: the spellings of each language of the locale from
+// the most exact to the language alone, and English after all.
 QStringList tableSuffixes(const QLocale &locale)
 {
     QStringList suffixes;
-    for (QString language : locale.uiLanguages()) {
-        language.replace(QLatin1Char('-'), QLatin1Char('_'));
-        for (qsizetype end = language.size(); end > 0; end = language.lastIndexOf(QLatin1Char('_'))) {
-            language.truncate(end);
-            if (!suffixes.contains(language))
-                suffixes.append(language);
-        }
+    const auto append = [&suffixes](const QString &suffix) {
+        if (!suffix.isEmpty() && !suffixes.contains(suffix))
+            suffixes.append(suffix);
+    };
+    QString language; // of the spellings before
+    const QStringList spellings = locale.uiLanguages();
+    for (const QString &spelling : spellings) {
+        const QString next = spelling.section(QLatin1Char('-'), 0, 0);
+        if (next != language)
+            append(language);
+        language = next;
+        append(QString(spelling).replace(QLatin1Char('-'), QLatin1Char('_')));
     }
-    if (!suffixes.contains(QLatin1String("en")))
-        suffixes.append(QStringLiteral("en"));
+    append(language);
+    append(QStringLiteral("en"));
     return suffixes;
 }
 

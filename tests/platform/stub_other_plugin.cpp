@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include <QObject>
+
+// A Qt plug-in of the right class name that does something else.
+class StubExtension : public QObject
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.kelmar.PrintDialogExtension/1.0")
+};
+
+#include "stub_other_plugin.moc"
