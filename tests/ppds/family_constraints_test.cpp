@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ppd/constraint_table.h"
+#include "tests/ppds/family.h"
+
+#include <QTest>
+
+#include <span>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Choices of one option, with the names the table takes.
+struct Option
+{
+    ppd_option_t *record;
+    QString keyword;
+    QStringList choices;
+};
+
+std::vector<Option> optionsOf(ppd_file_t *ppd)
+{
+    std::vector<Option> options;
+    for (const ppd_group_t &group : std::span(ppd->groups, size_t(ppd->num_groups))) {
+        for (ppd_option_t &record : std::span(group.options, size_t(group.num_options))) {
+            Option option{&record, QString::fromUtf8(record.keyword), {}};
+            // libcups lets PageRegion stand for PageSize in every constraint; it is a second name, not a
+            // choice of the user's, and no program offers it.
+            if (option.keyword == u"PageRegion"_s)
+                continue;
+            for (const ppd_choice_t &choice : std::span(record.choices, size_t(record.num_choices)))
+                option.choices.append(QString::fromUtf8(choice.choice));
+            options.push_back(option);
+        }
+    }
+    return options;
+}
+
+// libcups can exchange the mark of one option, but remove only all marks.
+void unmark(ppd_file_t *ppd, const Option &option)
+{
+    for (ppd_choice_t &choice : std::span(option.record->choices, size_t(option.record->num_choices))) {
+        if (choice.marked)
+            cupsArrayRemove(ppd->marked, &choice);
+        choice.marked = 0;
+    }
+    // Constraints on the page size look here.
+    if (option.keyword == u"PageSize"_s) {
+        for (ppd_size_t &size : std::span(ppd->sizes, size_t(ppd->num_sizes)))
+            size.marked = 0;
+    }
+}
+
+} // namespace
+
+// The table must forbid exactly the pairs of choices that libcups reports as a conflict when both are marked.
+class FamilyConstraintsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithLibcups_data();
+    void agreesWithLibcups();
+
+private:
+    // Compares each choice of one option with all choices of those after it; adds the forbidden pairs.
+    void compare(ppd_file_t *ppd, const ConstraintTable &table, const Option &first,
+                 std::span<const Option> others, int &forbidden);
+};
+
+void FamilyConstraintsTest::agreesWithLibcups_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(family.size()); ++i)
+        QTest::newRow(family[size_t(i)].file) << i;
+}
+
+void FamilyConstraintsTest::compare(ppd_file_t *ppd, const ConstraintTable &table, const Option &first,
+                                    std::span<const Option> others, int &forbidden)
+{
+    for (const QString &choice1 : first.choices) {
+        ppdMarkOption(ppd, first.record->keyword, choice1.toUtf8().constData());
+        for (const Option &second : others) {
+            for (const QString &choice2 : second.choices) {
+                // Nothing else is marked, so every conflict is this pair's. The call ends with the full check
+                // and answers what ppdConflicts would.
+                const bool conflict =
+                    ppdMarkOption(ppd, second.record->keyword, choice2.toUtf8().constData()) > 0;
+                forbidden += conflict;
+                const bool agrees =
+                    table.conflicts(first.keyword, choice1, second.keyword, choice2) == conflict &&
+                    table.conflicts(second.keyword, choice2, first.keyword, choice1) == conflict;
+                QVERIFY2(agrees, qPrintable(u"%1 %2 with %3 %4"_s.arg(first.keyword, choice1, second.keyword,
+                                                                      choice2)));
+            }
+            unmark(ppd, second);
+        }
+    }
+    unmark(ppd, first);
+}
+
+void FamilyConstraintsTest::agreesWithLibcups()
+{
+    QFETCH(int, index);
+    const PpdFile ppd = openFamilyPpd(family[size_t(index)]);
+    QVERIFY(ppd);
+    const ConstraintTable table(ppd.get());
+    const std::vector<Option> options = optionsOf(ppd.get());
+    QCOMPARE(cupsArrayCount(ppd->marked), 0);
+
+    int forbidden = 0;
+    for (size_t i = 0; i < options.size(); ++i) {
+        compare(ppd.get(), table, options[i], std::span(options).subspan(i + 1), forbidden);
+        if (QTest::currentTestFailed())
+            return;
+    }
+    // ppdc writes each line of the source in both directions, and no line of ours says the same twice.
+    QCOMPARE(forbidden * 2, ppd->num_consts);
+}
+
+QTEST_GUILESS_MAIN(FamilyConstraintsTest)
+#include "family_constraints_test.moc"
