@@ -50,20 +50,33 @@ public:
         QWidget *widget = nullptr;
         if (factory != widgetFactories().constEnd())
             widget = (*factory)(parent);
-        else if (!className.contains(QLatin1String("::")))
+        else
             widget = QUiLoader::createWidget(className, parent, name);
         const bool isKnown = factory != widgetFactories().constEnd() || className == QLatin1String("Line") ||
                              (widget && className == QLatin1String(widget->metaObject()->className()));
-        if (!isKnown && m_problem.isEmpty())
-            m_problem = QStringLiteral("widget \"%1\" is of the unknown class \"%2\"").arg(name, className);
+        if (!isKnown)
+            note(QStringLiteral("widget"), name, className);
         if (widget)
             widget->setObjectName(name);
         return widget;
+    }
+    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
+    {
+        QLayout *layout = QUiLoader::createLayout(className, parent, name);
+        if (!layout)
+            note(QStringLiteral("layout"), name, className);
+        return layout;
     }
     const QString &problem() const { return m_problem; }
     void forgetProblem() { m_problem.clear(); }
 
 private:
+    void note(const QString &what, const QString &name, const QString &className)
+    {
+        if (m_problem.isEmpty())
+            m_problem = QStringLiteral("%1 \"%2\" is of the unknown class \"%3\"").arg(what, name, className);
+    }
+
     QString m_problem;
 };
 

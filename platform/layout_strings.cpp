@@ -12,7 +12,14 @@ namespace platform {
 
 namespace {
 
-// Copies the element under the reader, a text that can be translated, with its translation.
+// Keys and names of operations are no texts, though Designer offers them to translators by default.
+bool isText(const QString &property)
+{
+    return !property.startsWith(QLatin1String("bind_")) && property != QLatin1String("action") &&
+           property != QLatin1String("delegate");
+}
+
+// Copies the <string> element under the reader, translated unless it says that it is not to be.
 void translateText(QXmlStreamReader &reader, QXmlStreamWriter &writer, const Bundle &bundle,
                    const QByteArray &context)
 {
@@ -37,6 +44,7 @@ QByteArray translatedForm(const QByteArray &form, const Bundle &bundle, QString 
     QXmlStreamReader reader(form);
     QXmlStreamWriter writer(&translated);
     QByteArray context;
+    QString property; // the one under the reader
     int depth = 0;
     while (!reader.atEnd()) {
         reader.readNext();
@@ -44,9 +52,11 @@ QByteArray translatedForm(const QByteArray &form, const Bundle &bundle, QString 
             const QString name = reader.readElementText();
             context = name.toUtf8();
             writer.writeTextElement(QStringLiteral("class"), name);
-        } else if (reader.isStartElement() && reader.name() == QLatin1String("string")) {
+        } else if (reader.isStartElement() && reader.name() == QLatin1String("string") && isText(property)) {
             translateText(reader, writer, bundle, context);
         } else if (!reader.hasError() && reader.tokenType() != QXmlStreamReader::EndDocument) {
+            if (reader.name() == QLatin1String("property"))
+                property = reader.attributes().value(QLatin1String("name")).toString(); // none at its end
             depth += reader.isStartElement() ? 1 : reader.isEndElement() ? -1 : 0;
             writer.writeCurrentToken(reader);
         }

@@ -85,7 +85,7 @@ QByteArray widget(const QByteArray &cls, const QByteArray &name, const QByteArra
     for (const QByteArray &property : properties) {
         const qsizetype equals = property.indexOf('=');
         contents += element("property", "name=\"" + property.left(equals) + "\" stdset=\"0\"",
-                            "<string notr=\"true\">" + property.mid(equals + 1) + "</string>");
+                            "<string>" + property.mid(equals + 1) + "</string>");
     }
     return element("widget", "class=\"" + cls + "\" name=\"" + name + '"', contents);
 }
@@ -232,6 +232,11 @@ void LayoutLoaderTest::misfitsAreNamed_data()
     row("unknown class", title + '\n' + widget("QSlidr", "bar"), {q("widget \"bar\""), q("\"QSlidr\"")});
     row("unregistered class", title + '\n' + widget("Unregistered", "bar"),
         {q("\"bar\""), q("\"Unregistered\"")});
+    row("unknown layout",
+        title + '\n' +
+            element("widget", "class=\"QFrame\" name=\"box\"",
+                    element("layout", "class=\"QVBoxLayot\" name=\"row\"", {})),
+        {q("\"row\""), q("\"QVBoxLayot\"")});
     row("unknown property", slider("bind_valu=number"), {q("\"bar\""), q("bind_valu"), q("QSlider")});
     row("unknown key", slider("bind_value=numbr"), {q("\"bar\""), q("bind_value"), q("\"numbr\"")});
     row("unknown key in a path", slider("bind_value=stranger.number"), {q("\"bar\""), q("\"stranger\"")});
