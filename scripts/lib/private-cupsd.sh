@@ -129,8 +129,8 @@ wait_job() { # JOB SECONDS
 [ $# -ge 2 ] || { sed -n '4,12s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
 verb=$1 dir=$2
 shift 2
-mkdir -p "$dir"
-dir=$(cd "$dir" && pwd)
+case $verb in run | start) mkdir -p "$dir" ;; esac
+dir=$(cd "$dir" && pwd) || exit 2
 sock=$dir/cups.sock
 case $verb/$# in
 run/0) run ;;
