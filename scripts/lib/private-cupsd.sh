@@ -114,7 +114,10 @@ add_queue() { # NAME PPD URI
     local model=(-P "$2")
     [ "$2" != - ] || model=()
     # lpadmin warns at each call that drivers are going away.
-    lpadmin -h "$sock" -p "$1" -E -v "$3" "${model[@]}" 2> >(grep -v deprecated >&2)
+    local said status=0
+    said=$(lpadmin -h "$sock" -p "$1" -E -v "$3" "${model[@]}" 2>&1) || status=$?
+    grep -v deprecated <<<"$said" >&2 || true
+    return $status
 }
 
 wait_job() { # JOB SECONDS
