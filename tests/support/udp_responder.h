@@ -61,4 +61,8 @@ struct SnmpReply
     QByteArray value;
     // Written as the value's length instead of the true one, unless negative.
     qsizetype announcedLength = -1;
+    // Bytes of the whole that are sent, all unless it is negative.
+    qsizetype cutAfter = -1;
+    // Another loopback address to send it from.
+    const char *from = nullptr;
 };

@@ -1,0 +1,320 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "device/advanced_color_settings.h"
+#include "platform/bundle.h"
+#include "platform/print_dialog.h"
+#include "platform/text_field.h"
+#include "tests/support/private_network.h"
+#include "tests/support/simulated_printer.h"
+#include "tests/support/test_bundle.h"
+#include "tests/support/udp_responder.h"
+
+#include <QSignalSpy>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <dlfcn.h>
+
+using Settings = QVAdvancedColorSettingsManager_M880;
+
+namespace {
+
+class OlderHost : public platform::PrintDialogHost, public platform::BlockingWorkHost
+{
+public:
+    PMPrintSettings printSettings() override { return &settings; }
+    PMPrintSession printSession() override { return &session; }
+    ppd_file_s *ppdFile() override { return nullptr; }
+    void willBlock(const QString &what) override
+    {
+        announced += what;
+        if (onBlock)
+            onBlock();
+    }
+    void didBlock() override { ++finished; }
+
+    platform::PrintSettings settings;
+    platform::PrintSession session{.printer = platform::Printer{u"q"_qs, u"socket://127.0.0.2:9100"_qs},
+                                   .tickets = {}};
+    QStringList announced;
+    int finished = 0;
+    std::function<void()> onBlock;
+};
+
+class Host : public OlderHost, public platform::ConstraintResolvingHost
+{
+public:
+    void willChangePPDOptionKeyValuePpdChoice(const QString &, const QVariant &) override {}
+};
+
+QByteArray shippedDevice()
+{
+    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/simulator/orbm880.device"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Profile tables of two names each, rows and columns as the device numbers them; `defaults` are rows of
+// column 5.
+UdpResponder::Handler tables(const QSet<int> &columns, const QByteArray &defaults)
+{
+    return [=](const QByteArray &request) -> QList<UdpResponder::Reply> {
+        SnmpReply reply(request);
+        const int column = reply.oid.at(reply.oid.size() - 3);
+        const int row = reply.oid.back();
+        if (column == 5 && row <= defaults.size())
+            reply.withInteger(defaults.at(row - 1));
+        else if (column != 5 && columns.contains(column) && row <= 2)
+            reply.withString("profile " + QByteArray::number(column) + QByteArray::number(row));
+        return {{reply.encoded()}};
+    };
+}
+
+} // namespace
+
+class TestAdvancedColorSettings : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void readsTheSimulatedPrinter();
+    void aFailedColumnDisables_data();
+    void aFailedColumnDisables();
+    void onlySomeDefaults();
+    void restoreAndSave_data();
+    void restoreAndSave();
+    void failedPrinterDropsAndRemoves();
+    void reasonIsLocalised();
+    void hostWithoutConstraintHandling();
+    void saveEndsTextEditing();
+#if KELMAR_OLDER_HOSTS
+    void ticketOfAnOlderHost();
+#endif
+
+private:
+    TestBundle m_bundleFolder;
+    std::shared_ptr<platform::Bundle> m_bundle;
+};
+
+void TestAdvancedColorSettings::initTestCase()
+{
+    const QString whyNot = enterPrivateNetwork();
+    if (!whyNot.isNull())
+        QSKIP(qPrintable(whyNot));
+    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
+    m_bundleFolder.writeStrings(u"en"_qs, u"Localizable"_qs,
+                                {{u"SNMPCannotConnect"_qs, u"The printer cannot be reached."_qs},
+                                 {u"AskingPrinter"_qs, u"Asking…"_qs}});
+    m_bundle = m_bundleFolder.open();
+}
+
+void TestAdvancedColorSettings::cleanup()
+{
+    QVSNMP_M880::setLibraryNames({"libnetsnmp.so.40"});
+    while (QVSNMP_M880::libraryState().libraryLoaded != 0)
+        QVSNMP_M880::unloadLibrary();
+}
+
+void TestAdvancedColorSettings::readsTheSimulatedPrinter()
+{
+    const SimulatedPrinter printer("127.0.0.2", shippedDevice());
+    QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
+    Host host;
+    Settings settings(&host, m_bundle.get(), nullptr);
+    QVERIFY(settings.snmpEnabled() && settings.useConstraintHandling() && host.announced.isEmpty());
+    const QSignalSpy changes(&settings, &platform::KeyValueObject::valueDidChange);
+    settings.updateFromSNMP();
+    QVERIFY2(settings.snmpEnabled(), qPrintable(settings.snmpUnavailableReason()));
+    QCOMPARE(settings.valueForKey(u"rgbSourceProfiles"_qs).toStringList(),
+             (QStringList{u"sRGB IEC61966-2.1"_qs, u"Adobe RGB (1998)"_qs, u"Office RGB"_qs}));
+    // Row 3 has no name.
+    QCOMPARE(settings.cmykSourceProfiles().size(), 3);
+    QCOMPARE(settings.valueForKey(u"cmykSourceProfileRows"_qs).toList(), (QVariantList{1U, 2U, 4U}));
+    QCOMPARE(settings.cmykDestinationProfiles().size(), 5);
+    QCOMPARE(settings.selectedRgbSourceProfile(), 1U);
+    QCOMPARE(settings.selectedCmykSourceProfile(), 2U);
+    QCOMPARE(settings.selectedCmykDestinationProfile(), 1U);
+    QVERIFY(changes.contains({u"cmykSourceProfiles"_qs}) && changes.contains({u"cmykSourceProfileRows"_qs}));
+    QCOMPARE(host.announced, QStringList{u"Asking…"_qs});
+    QCOMPARE(host.finished, 1);
+}
+
+void TestAdvancedColorSettings::aFailedColumnDisables_data()
+{
+    QTest::addColumn<int>("missing");
+    for (int column = 2; column <= 5; ++column)
+        QTest::addRow("column %d", column) << column;
+}
+
+void TestAdvancedColorSettings::aFailedColumnDisables()
+{
+    QFETCH(int, missing);
+    QSet<int> columns{2, 3, 4};
+    columns.remove(missing);
+    const UdpResponder device("127.0.0.2",
+                              tables(columns, missing == 5 ? QByteArray() : QByteArray("\7\6\5\4")));
+    Host host;
+    host.onBlock = [&] { QCOMPARE(device.requestCount(), 0); }; // told before the first question
+    Settings settings(&host, m_bundle.get(), nullptr);
+    settings.setCmykSourceProfiles({u"read earlier"_qs});
+    settings.updateFromSNMP();
+    QVERIFY(!settings.snmpEnabled());
+    QCOMPARE(settings.snmpUnavailableReason(), u"The printer cannot be reached."_qs);
+    // Every column was asked for: two rows and the one that ends it, or the first that fails.
+    QCOMPARE(device.requestCount(), missing == 5 ? 3 * 3 + 1 : 2 * 3 + 1 + 4);
+    QCOMPARE(settings.rgbSourceProfiles().isEmpty(), missing == 2);
+    QCOMPARE(settings.cmykSourceProfiles().size(), missing == 3 ? 1 : 2);
+    QCOMPARE(settings.cmykDestinationProfiles().isEmpty(), missing == 4);
+    QCOMPARE(settings.renderingIntent(), missing == 5 ? 0U : 4U);
+    settings.updateFromSNMP(); // once failed, it stays so
+    QCOMPARE(host.announced.size(), 1);
+}
+
+void TestAdvancedColorSettings::onlySomeDefaults()
+{
+    const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5"));
+    Host host;
+    Settings settings(&host, m_bundle.get(), nullptr);
+    settings.setSelectedRgbSourceProfile(9);
+    settings.updateFromSNMP();
+    QVERIFY(settings.snmpEnabled());
+    QCOMPARE(settings.cmykDestinationProfiles(), (QStringList{u"profile 41"_qs, u"profile 42"_qs}));
+    QCOMPARE(settings.selectedRgbSourceProfile(), 9U);
+}
+
+void TestAdvancedColorSettings::restoreAndSave_data()
+{
+    QTest::addColumn<QVariantList>("stored"); // in the order of the keys, nil where absent
+    QTest::addColumn<QStringList>("saved");
+    const QVariant nil;
+    const auto row = [](const char *name, const QVariantList &stored, const QStringList &saved) {
+        QTest::newRow(name) << stored << saved;
+    };
+    const auto texts = [](const char *list) { return QString::fromLatin1(list).split(u' '); };
+    row("device defaults", {nil, nil, nil, nil, nil}, texts("7 6 5 4 0"));
+    row("each but the destination", {u"1"_qs, u"2"_qs, nil, u"3"_qs, u"1"_qs}, texts("1 2 5 3 1"));
+    row("destination crosses to source", {nil, u"2"_qs, u"5"_qs, nil, nil}, texts("7 5 5 4 0"));
+    row("destination alone", {nil, nil, u"8"_qs, nil, nil}, texts("7 8 5 4 0"));
+    row("numbers and odd texts", {12, u" 13x"_qs, nil, u"none"_qs, u" yes"_qs}, texts("12 13 5 0 1"));
+    row("large and negative", {u"4294967295"_qs, u"-1"_qs, nil, nil, u"0"_qs},
+        texts("4294967295 4294967295 5 4 0"));
+    row("a switch that is not one", {nil, nil, nil, nil, u"on"_qs}, texts("7 6 5 4 0"));
+    row("a boolean", {nil, nil, nil, nil, true}, texts("7 6 5 4 1"));
+}
+
+void TestAdvancedColorSettings::restoreAndSave()
+{
+    QFETCH(QVariantList, stored);
+    QFETCH(QStringList, saved);
+    const QStringList keys{QVRgbSourceProfileIndexKey, QVCmykSourceProfileIndexKey,
+                           QVCmykDestinationProfileIndexKey, QVRenderingIntentKey,
+                           QVApplyToDeviceColorOnlyKey};
+    const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
+    Host host;
+    for (qsizetype i = 0; i < keys.size(); ++i)
+        host.settings.setValue(keys.at(i), stored.at(i));
+    Settings settings(&host, m_bundle.get(), nullptr);
+    QVERIFY(settings.restoreValuesAndReturnError(nullptr));
+    QVERIFY(settings.saveValuesAndReturnError(nullptr));
+    QStringList got;
+    for (const QString &key : keys)
+        got += host.settings.value(key).toString();
+    QCOMPARE(got, saved);
+    QVERIFY(settings.valueForKey(u"snmpEnabled"_qs).toBool());
+}
+
+void TestAdvancedColorSettings::failedPrinterDropsAndRemoves()
+{
+    Host host;
+    host.session.printer->deviceUri = u"usb:///dev/usb/lp0"_qs;
+    host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_qs);
+    host.settings.setValue(u"PageSize"_qs, u"A4"_qs);
+    Settings settings(&host, m_bundle.get(), nullptr);
+    QVERIFY(settings.restoreValuesAndReturnError(nullptr));
+    QCOMPARE(settings.selectedRgbSourceProfile(), 0U);
+    QVERIFY(settings.saveValuesAndReturnError(nullptr));
+    QCOMPARE(host.settings.values(), (QVariantMap{{u"PageSize"_qs, u"A4"_qs}}));
+    // Asked again by the next restore, and fit again once the printer is there.
+    const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
+    host.session.printer->deviceUri = u"socket://127.0.0.2"_qs;
+    settings.restoreValuesAndReturnError(nullptr);
+    QVERIFY(settings.snmpEnabled() && settings.snmpUnavailableReason().isNull());
+}
+
+void TestAdvancedColorSettings::reasonIsLocalised()
+{
+    QVSNMP_M880::setLibraryNames({"libkelmar-no-such-library.so.1"});
+    Host host;
+    Settings settings(&host, m_bundle.get(), nullptr);
+    // No text in this bundle, so the key itself; the second attempt must end as the first did.
+    for (int i = 0; i < 2; ++i) {
+        settings.restoreValuesAndReturnError(nullptr);
+        QCOMPARE(settings.snmpUnavailableReason(), u"SNMPArchMismatch"_qs);
+        QVERIFY(!settings.snmpEnabled());
+    }
+    settings.setSnmpEnabledWithReason(true, u"not kept"_qs);
+    QVERIFY(settings.snmpUnavailableReason().isNull());
+}
+
+void TestAdvancedColorSettings::hostWithoutConstraintHandling()
+{
+#if KELMAR_OLDER_HOSTS
+    QSKIP("reads the ticket here");
+#endif
+    const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
+    OlderHost host;
+    host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_qs);
+    const QVariantMap before = host.settings.values();
+    Settings settings(&host, m_bundle.get(), nullptr);
+    settings.restoreValuesAndReturnError(nullptr);
+    QCOMPARE(settings.selectedRgbSourceProfile(), 7U);
+    settings.saveValuesAndReturnError(nullptr);
+    QCOMPARE(host.settings.values(), before);
+}
+
+void TestAdvancedColorSettings::saveEndsTextEditing()
+{
+    QWidget window;
+    auto *field = new platform::TextField(&window);
+    auto *view = new QWidget(&window);
+    window.show();
+    field->setFocus();
+    QTest::keyClicks(field, u"17"_qs);
+    QVERIFY(field->stringValue().isEmpty());
+    Host host;
+    Settings settings(&host, m_bundle.get(), view);
+    settings.saveValuesAndReturnError(nullptr);
+    QCOMPARE(field->stringValue(), u"17"_qs);
+}
+
+#if KELMAR_OLDER_HOSTS
+void TestAdvancedColorSettings::ticketOfAnOlderHost()
+{
+    const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
+    OlderHost host;
+    Settings settings(&host, m_bundle.get(), nullptr);
+    // Without a ticket, or without its dictionary, nothing is read, written or asked.
+    host.session.tickets.insert(u"PMPrintSettingsTicket"_qs, {});
+    settings.restoreValuesAndReturnError(nullptr);
+    settings.saveValuesAndReturnError(nullptr);
+    QCOMPARE(device.requestCount(), 0);
+    QVERIFY(!host.session.tickets.value(u"PMPrintSettingsTicket"_qs).ppdDictionary);
+
+    host.session.tickets[u"PMPrintSettingsTicket"_qs].ppdDictionary =
+        QVariantMap{{QVRenderingIntentKey, u"2"_qs}};
+    settings.restoreValuesAndReturnError(nullptr);
+    QCOMPARE(settings.renderingIntent(), 2U);
+    settings.saveValuesAndReturnError(nullptr);
+    const auto &dictionary = host.session.tickets[u"PMPrintSettingsTicket"_qs].ppdDictionary;
+    QCOMPARE(dictionary->size(), 5);
+    QCOMPARE(dictionary->value(QVRgbSourceProfileIndexKey), QVariant(u"7"_qs));
+    settings.setSnmpEnabledWithReason(false, u"away"_qs);
+    settings.saveValuesAndReturnError(nullptr);
+    QVERIFY(dictionary->isEmpty());
+    QVERIFY(host.settings.values().isEmpty());
+}
+#endif
+
+QTEST_MAIN(TestAdvancedColorSettings)
+#include "test_advanced_color_settings.moc"

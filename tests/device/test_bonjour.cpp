@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The resolver against a real avahi-daemon, in a network of the test's own.
+
+#include "device/network_resolver.h"
+#include "tests/support/child_process.h"
+#include "tests/support/private_network.h"
+
+#include <QElapsedTimer>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+class TestBonjour : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void resolves_data();
+    void resolves();
+    void beyond1024Descriptors();
+    void nobodyAnswers();
+    void daemonStopped(); // last: it stays stopped
+
+private:
+    QString write(const char *name, const QString &text);
+    void start(ChildProcess &process, const char *program, const QStringList &arguments,
+               const char *readyText);
+
+    QTemporaryDir m_folder;
+    ChildProcess m_bus, m_avahi, m_service;
+};
+
+QString TestBonjour::write(const char *name, const QString &text)
+{
+    QFile file(m_folder.filePath(QString::fromLatin1(name)));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
+        qFatal("%s", qPrintable(file.errorString()));
+    return file.fileName();
+}
+
+void TestBonjour::start(ChildProcess &process, const char *program, const QStringList &arguments,
+                        const char *readyText)
+{
+    QString error;
+    process = startChildProcess(QString::fromLatin1(program), arguments, readyText, &error);
+    QVERIFY2(process, qPrintable(error));
+}
+
+void TestBonjour::initTestCase()
+{
+    qputenv("PATH", qgetenv("PATH") + ":/usr/sbin");
+    for (const auto &program : {u"dbus-daemon"_qs, u"avahi-daemon"_qs, u"avahi-publish-service"_qs}) {
+        if (QStandardPaths::findExecutable(program).isEmpty())
+            QSKIP(qPrintable(program + u" is not installed"_qs));
+    }
+    // The name that Avahi's library gives for a host ends in a dot; this stands in for a resolver that knows
+    // mDNS.
+    const QString hosts = write("hosts", u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_qs);
+    const QString whyNot = enterPrivateNetworkWithFiles(hosts, u"/run/avahi-daemon"_qs);
+    if (!whyNot.isNull())
+        QSKIP(qPrintable(whyNot));
+
+    const QString bus = u"unix:path="_qs + m_folder.filePath(u"bus"_qs);
+    const QString busConf = write("dbus.conf", uR"(<busconfig><type>system</type><listen>%1</listen>
+        <auth>EXTERNAL</auth><policy context="default"><allow user="*"/><allow own="*"/><allow send_type="method_call"/>
+        <allow send_type="signal"/><allow send_type="method_return"/><allow send_type="error"/>
+        <allow receive_type="method_call"/><allow receive_type="signal"/><allow receive_type="method_return"/>
+        <allow receive_type="error"/></policy></busconfig>)"_qs.arg(bus));
+    const QString avahiConf =
+        write("avahi.conf", u"[server]\nhost-name=orb-m880\nuse-ipv6=no\nallow-interfaces=lo\n"
+                            "[wide-area]\nenable-wide-area=no\n"
+                            "[publish]\npublish-workstation=no\npublish-hinfo=no\n"_qs);
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.toLatin1());
+    start(m_bus, "dbus-daemon",
+          {u"--config-file="_qs + busConf, u"--nofork"_qs, u"--nopidfile"_qs, u"--print-address"_qs},
+          "unix:");
+    start(m_avahi, "avahi-daemon",
+          {u"-f"_qs, avahiConf, u"--no-drop-root"_qs, u"--no-chroot"_qs, u"--no-rlimits"_qs},
+          "startup complete");
+    start(m_service, "avahi-publish-service", {u"Office Printer"_qs, u"_ipp._tcp"_qs, u"631"_qs},
+          "Established");
+}
+
+void TestBonjour::cleanupTestCase()
+{
+    for (ChildProcess *process : {&m_service, &m_avahi, &m_bus})
+        process->reset();
+}
+
+void TestBonjour::resolves_data()
+{
+    QTest::addColumn<QString>("uri");
+    QTest::newRow("as CUPS writes it") << u"dnssd://Office%20Printer._ipp._tcp.local/?uuid=1"_qs;
+    QTest::newRow("with a final dot") << u"dnssd://Office%20Printer._ipp._tcp.local./"_qs;
+}
+
+void TestBonjour::resolves()
+{
+    QFETCH(QString, uri);
+    platform::PrintSession session;
+    session.printer = platform::Printer{u"office"_qs, uri};
+    QCOMPARE(QVNetworkResolver_M880::ipFromPrintSession(&session), u"127.0.0.77"_qs);
+}
+
+void TestBonjour::beyond1024Descriptors()
+{
+    rlimit limit{};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, 4096);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    std::vector<int> taken;
+    while (taken.empty() || (taken.back() >= 0 && taken.back() < 1100))
+        taken.push_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const bool enough = taken.back() >= 0;
+    const QString address = QVNetworkResolver_M880::resolveToIP(u"Office Printer._ipp._tcp.local"_qs);
+    for (const int fd : taken)
+        ::close(fd);
+    if (!enough)
+        QSKIP("no descriptors beyond 1024 here");
+    QCOMPARE(address, u"127.0.0.77"_qs);
+}
+
+void TestBonjour::nobodyAnswers()
+{
+    int asked = 0;
+    QDateTime now = QDateTime::currentDateTimeUtc();
+    ResolverServices services = ResolverServices::system();
+    services.now = [&now] { return now; };
+    services.resolveService = [&asked, system = services.resolveService](auto... arguments) {
+        ++asked;
+        system(arguments...);
+    };
+    QVNetworkResolver_M880::setServices(services);
+    const QString host = u"Nobody._ipp._tcp.local"_qs;
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(QVNetworkResolver_M880::resolveToIP(host).isNull());
+    QVERIFY2(clock.elapsed() < 5500, qPrintable(QString::number(clock.elapsed())));
+    now = now.addMSecs(119'900);
+    QVERIFY(QVNetworkResolver_M880::resolveToIP(host).isNull());
+    QCOMPARE(asked, 1);
+    QVNetworkResolver_M880::setServices(ResolverServices::system());
+}
+
+void TestBonjour::daemonStopped()
+{
+    m_service.reset();
+    m_avahi.reset();
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(QVNetworkResolver_M880::resolveToIP(u"Office Printer._ipp._tcp.local"_qs).isNull());
+    QVERIFY2(clock.elapsed() < 5500, qPrintable(QString::number(clock.elapsed())));
+}
+
+QTEST_GUILESS_MAIN(TestBonjour)
+#include "test_bonjour.moc"

@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The client with the real net-snmp, against a real agent and against a device that answers as none should.
+
+#include "device/snmp_client.h"
+#include "device/string_encoding.h"
+#include "tests/support/private_network.h"
+#include "tests/support/simulated_printer.h"
+#include "tests/support/udp_responder.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+
+#include <dlfcn.h>
+
+using Column = std::array<SnmpOid, 18>;
+
+namespace {
+
+constexpr Column column(SnmpOid number)
+{
+    return {1, 3, 6, 1, 4, 1, 5309, 2, 3, 50, 1, 3, 30, 1, 1, number, 1, 1};
+}
+
+struct SessionCloser
+{
+    void operator()(QVSNMP_M880 *client) const
+    {
+        client->closeSession();
+        delete client;
+    }
+};
+using Client = std::unique_ptr<QVSNMP_M880, SessionCloser>;
+
+Client clientFor(const char *address)
+{
+    return Client(QVSNMP_M880::initWithHostAndReturnError(QString::fromLatin1(address), nullptr).release());
+}
+
+} // namespace
+
+using Replies = QList<UdpResponder::Reply>;
+using Alteration = std::function<void(SnmpReply &)>;
+
+class TestSnmpDevice : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void readsColumnsOfARealAgent();
+    void takesTheCharacterSetOfARealAgent();
+    void opensAndClosesTheRealLibrary();
+    void oneDatagramARow();
+    void oddReplies_data();
+    void oddReplies();
+    void silenceAndLateAnswers();
+};
+
+void TestSnmpDevice::initTestCase()
+{
+    const QString whyNot = enterPrivateNetwork();
+    if (!whyNot.isNull())
+        QSKIP(qPrintable(whyNot));
+    // net-snmp has no way to give back all its memory through the calls used; mapped, it is not taken for
+    // lost.
+    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
+}
+
+void TestSnmpDevice::readsColumnsOfARealAgent()
+{
+    QString error;
+    const SimulatedPrinter printer("127.0.0.1",
+                                   "[rgb-source]\n1 = sRGB\n2 =\n3 = Adobe RGB\n4 = last\n"
+                                   "[cmyk-source]\n1 = one\n3 = three\n"
+                                   "[cmyk-destination]\n1 = plain\n2 = B\\xfcro\n3 = never read\n"
+                                   "[defaults]\nrgb-source = 7\n");
+    QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
+    const Client client = clientFor("127.0.0.1");
+    QVERIFY(client);
+
+    Column oid = column(2);
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 4),
+             (QVariantList{u"sRGB"_qs, u"Adobe RGB"_qs, u"last"_qs}));
+    QCOMPARE(oid.back(), SnmpOid(5));
+    QCOMPARE(client->rowsOfLastColumn(), (QList<quint32>{1, 3, 4}));
+    oid = column(3); // ends where a row is missing
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"one"_qs});
+    oid = column(4); // ends where a name is not ASCII
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"plain"_qs});
+    client->setReturnsStringsAsData(true);
+    oid = column(4);
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 2),
+             (QVariantList{QByteArray("plain"), QByteArray("B\xfcro")}));
+    oid = column(5);
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 4), QVariantList{7});
+    oid = column(6);
+    QVERIFY(!client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 4));
+    QVERIFY(client->rowsOfLastColumn().isEmpty());
+}
+
+void TestSnmpDevice::takesTheCharacterSetOfARealAgent()
+{
+    const SimulatedPrinter printer("::1", "[rgb-source]\n1 = B\\xfcro\n"
+                                          "[printer-mib]\ncurrent-localization = 2\ncharacter-set-2 = 4\n");
+    QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
+    const Client client = clientFor("::1");
+    QVERIFY(client);
+    const Column oid = column(2);
+    QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
+    client->determineDefaultCharsetForPrinter();
+    QCOMPARE(client->charSet(), quint32(NSISOLatin1StringEncoding));
+    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"Büro"_qs));
+}
+
+void TestSnmpDevice::opensAndClosesTheRealLibrary()
+{
+    const UdpResponder device("127.0.0.2", [](const QByteArray &request) -> Replies {
+        return {{SnmpReply(request).withString("again").encoded()}};
+    });
+    const Column oid = column(2);
+    for (int i = 0; i < 3; ++i) {
+        const Client client = clientFor("127.0.0.2");
+        QVERIFY(client);
+        QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"again"_qs));
+    }
+    QCOMPARE(QVSNMP_M880::libraryState().libraryLoaded, 0U);
+    QVERIFY(!QVSNMP_M880::libraryState().isOpen);
+}
+
+void TestSnmpDevice::oneDatagramARow()
+{
+    int row = 0;
+    const UdpResponder device("127.0.0.2", [&row](const QByteArray &request) -> Replies {
+        return {
+            {++row == 4 ? SnmpReply(request).encoded() : SnmpReply(request).withString("name").encoded()}};
+    });
+    const Client client = clientFor("127.0.0.2");
+    Column oid = column(2);
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15)->size(), 3);
+    QCOMPARE(device.requestCount(), 4);
+}
+
+void TestSnmpDevice::oddReplies_data()
+{
+    QTest::addColumn<Alteration>("alter");
+    QTest::addColumn<bool>("thenGood"); // a proper answer follows at once
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *name, Alteration alter, bool thenGood, const QVariant &value) {
+        QTest::newRow(name) << std::move(alter) << thenGood << value;
+    };
+    const QVariant good = u"good"_qs;
+    const auto type = [](unsigned char tag) {
+        return [tag](SnmpReply &reply) { reply.withInteger(1).type = tag; };
+    };
+    const auto announced = [](qsizetype length) {
+        return [length](SnmpReply &reply) { reply.announcedLength = length; };
+    };
+
+    // What net-snmp drops, so that the proper answer counts.
+    for (const qsizetype kept : {0, 1, 10, 30, 55})
+        QTest::addRow("cut after %lld bytes", qlonglong(kept))
+            << Alteration([kept](SnmpReply &reply) { reply.cutAfter = kept; }) << true << good;
+    row("longer than announced", announced(2), true, good);
+    row("shorter than announced", announced(0x7fffff), true, good);
+    row(
+        "another request id", [](SnmpReply &reply) { reply.requestId.back() ^= 1; }, true, good);
+    row(
+        "version 1", [](SnmpReply &reply) { reply.version = QByteArray(1, '\0'); }, true, good);
+    row(
+        "integer without bytes", [](SnmpReply &reply) { reply.withString("").type = SnmpReply::integer; },
+        true, good);
+    row("unknown type", type(0x4a), true, good);
+    row("boolean", type(0x01), true, good);
+    // What it lets through.
+    row("time ticks", type(0x43), false, {});
+    row("error status", [](SnmpReply &reply) { reply.errorStatus = 2; }, false, {});
+    row(
+        "60,000 bytes", [](SnmpReply &reply) { reply.withString(QByteArray(60000, 'x')); }, false,
+        QString(60000, u'x'));
+    // Answers are told apart by their request id alone: a printer may answer from another of its addresses.
+    row(
+        "another community", [](SnmpReply &reply) { reply.community = "private"; }, true, u"odd"_qs);
+    row(
+        "another address", [](SnmpReply &reply) { reply.from = "127.0.0.3"; }, true, u"odd"_qs);
+}
+
+void TestSnmpDevice::oddReplies()
+{
+    QFETCH(Alteration, alter);
+    QFETCH(bool, thenGood);
+    QFETCH(QVariant, value);
+    const UdpResponder device("127.0.0.2", [&](const QByteArray &request) -> Replies {
+        SnmpReply odd = SnmpReply(request).withString("odd");
+        alter(odd);
+        Replies replies{{odd.encoded(), odd.from}};
+        if (thenGood)
+            replies.append({SnmpReply(request).withString("good").encoded()});
+        return replies;
+    });
+    QVERIFY(device.isListening());
+    const Client client = clientFor("127.0.0.2");
+    const Column oid = column(2);
+    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), value);
+    QCOMPARE(device.requestCount(), 1);
+}
+
+void TestSnmpDevice::silenceAndLateAnswers()
+{
+    Replies late;
+    bool answering = false;
+    const UdpResponder device("127.0.0.2", [&](const QByteArray &request) -> Replies {
+        Replies now = answering ? std::exchange(late, {}) : Replies();
+        (answering ? now : late)
+            .append({SnmpReply(request).withString(answering ? "now" : "late").encoded()});
+        return now;
+    });
+    const Client client = clientFor("127.0.0.2");
+    const Column oid = column(2);
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
+    QVERIFY(clock.elapsed() >= 2900 && clock.elapsed() < 4000);
+    QCOMPARE(device.requestCount(), 3);
+    answering = true;
+    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"now"_qs));
+    QCOMPARE(device.requestCount(), 4);
+}
+
+QTEST_GUILESS_MAIN(TestSnmpDevice)
+#include "test_snmp_device.moc"
