@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/batch/arguments.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+#include <QMap>
+
+#include <string_view>
+
+namespace host {
+
+namespace {
+
+struct ArgumentsText
+{
+    Q_DECLARE_TR_FUNCTIONS(ArgumentsText)
+};
+
+struct OptionText
+{
+    QStringList names;
+    QString value; // what it takes; empty for a switch
+    QString description;
+};
+
+QList<OptionText> optionTexts()
+{
+    using T = ArgumentsText;
+    const auto names = [](std::initializer_list<const char *> list) {
+        QStringList result;
+        for (const char *name : list)
+            result.append(QLatin1String(name));
+        return result;
+    };
+    return {
+        {names({"d", "printer"}), T::tr("NAME"), T::tr("Print to this queue or preset (queue/preset).")},
+        {names({"n", "copies"}), T::tr("NUMBER"), T::tr("Number of copies.")},
+        {names({"P", "pages"}), T::tr("LIST"), T::tr("Pages to print, for example 1-3,8.")},
+        {names({"t", "title"}), T::tr("TEXT"), T::tr("Title of the job.")},
+        {names({"h", "server"}), T::tr("HOST"), T::tr("Print server to use, HOST or HOST:PORT.")},
+        {names({"s", "set"}), T::tr("KEY=VALUE"),
+         T::tr("Set an option of the printer, or a key of a panel such as departmentCode.")},
+        {names({"set-file"}), T::tr("KEY=FILE"),
+         T::tr("The same with the value read from a file's first line.")},
+        {names({"o"}), T::tr("NAME=VALUE"),
+         T::tr("The same; names unknown here are handed to the print system.")},
+        {names({"batch"}), {}, T::tr("Print without opening a window.")},
+        {names({"resolve"}), {}, T::tr("Accept the proposal when settings cannot be used together.")},
+        {names({"summary"}), {}, T::tr("Write the summary of the settings.")},
+        {names({"list-options"}), {}, T::tr("Write the options of the printer and their choices.")},
+        {names({"json"}), {}, T::tr("Write results and errors as JSON.")},
+        {names({"ppd"}), T::tr("FILE"), T::tr("Take the options from this PPD file instead of a queue.")},
+        {names({"bundle"}), T::tr("FOLDER"),
+         T::tr("Load the panels of this bundle instead of the installed ones.")},
+        {names({"panel"}), T::tr("NAME"),
+         T::tr("Open the dialog at this pane: general, more, summary, or a panel's name or kind.")},
+        {names({"screenshot"}), T::tr("FILE"), T::tr("Write a picture of the dialog and exit.")},
+        {names({"color-scheme"}), T::tr("NAME"), T::tr("Colours of the dialog: light or dark.")},
+        {names({"startup-time"}), {}, T::tr("Open the dialog, write how long it took and exit.")},
+        {names({"help"}), {}, T::tr("Show this help.")},
+        {names({"version"}), {}, T::tr("Show the version.")},
+    };
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    for (const OptionText &option : optionTexts())
+        parser->addOption(QCommandLineOption(option.names, option.description, option.value));
+    parser->addPositionalArgument(ArgumentsText::tr("FILE"),
+                                  ArgumentsText::tr("Documents to print; “-” is the standard input."),
+                                  ArgumentsText::tr("[FILE...]"));
+}
+
+bool readFirstLine(const QString &path, QString *line, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = ArgumentsText::tr("The file “%1” cannot be read: %2.").arg(path, file.errorString());
+        return false;
+    }
+    *line = QString::fromUtf8(file.readLine()).trimmed();
+    return true;
+}
+
+bool addAssignment(const QString &name, const QString &word, Arguments *arguments, QString *error)
+{
+    if (name == QLatin1String("n") || name == QLatin1String("copies")) {
+        arguments->assignments.append({QStringLiteral("copies"), word});
+        return true;
+    }
+    if (name == QLatin1String("P") || name == QLatin1String("pages")) {
+        arguments->assignments.append({QStringLiteral("page-ranges"), word});
+        return true;
+    }
+    const qsizetype equals = word.indexOf(QLatin1Char('='));
+    const bool passOn = name == QLatin1String("o");
+    if (equals < 1 && !(passOn && equals < 0 && !word.isEmpty())) {
+        *error =
+            ArgumentsText::tr("“%1” is not of the form KEY=VALUE.").arg(word.section(QLatin1Char('='), 0, 0));
+        return false;
+    }
+    // As lp has it, a bare name switches on and "no" before it switches off.
+    QString key = word.left(equals < 0 ? word.size() : equals);
+    QString value = equals < 0 ? QStringLiteral("true") : word.mid(equals + 1);
+    if (equals < 0 && key.startsWith(QLatin1String("no")) && key.size() > 2) {
+        key = key.mid(2);
+        value = QStringLiteral("false");
+    }
+    if (name == QLatin1String("set-file") && !readFirstLine(word.mid(equals + 1), &value, error))
+        return false;
+    arguments->assignments.append({key, value, passOn});
+    return true;
+}
+
+// Options keep their order among each other, so that settings apply in the order given.
+bool readAssignments(const QCommandLineParser &parser, Arguments *arguments, QString *error)
+{
+    const QStringList wanted = {QStringLiteral("n"),        QStringLiteral("copies"), QStringLiteral("P"),
+                                QStringLiteral("pages"),    QStringLiteral("s"),      QStringLiteral("set"),
+                                QStringLiteral("set-file"), QStringLiteral("o")};
+    const QMap<QString, QString> sameAs = {{QStringLiteral("copies"), QStringLiteral("n")},
+                                           {QStringLiteral("pages"), QStringLiteral("P")},
+                                           {QStringLiteral("set"), QStringLiteral("s")}};
+    QMap<QString, qsizetype> used;
+    for (const QString &name : parser.optionNames()) {
+        if (!wanted.contains(name))
+            continue;
+        const QString word = parser.values(name).value(used[sameAs.value(name, name)]++);
+        if (!addAssignment(name, word, arguments, error))
+            return false;
+    }
+    return true;
+}
+
+QString problemOf(const Arguments &arguments)
+{
+    using T = ArgumentsText;
+    if (!arguments.colorScheme.isEmpty() && arguments.colorScheme != QLatin1String("light") &&
+        arguments.colorScheme != QLatin1String("dark"))
+        return T::tr("--color-scheme takes light or dark.");
+    if (arguments.batch && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
+        return T::tr("--batch needs a printer to print to; --ppd alone names none.");
+    if (arguments.batch && !arguments.screenshot.isEmpty())
+        return T::tr("--batch and --screenshot do not go together.");
+    if (arguments.resolve && arguments.needsWindow())
+        return T::tr("--resolve goes with --batch or --summary.");
+    if (arguments.json && arguments.needsWindow())
+        return T::tr("--json goes with --batch, --summary or --list-options.");
+    return {};
+}
+
+bool hasWord(int argc, const char *const *argv, std::initializer_list<std::string_view> words)
+{
+    for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i) {
+        const std::string_view given = argv[i];
+        for (const std::string_view word : words) {
+            if (given == word ||
+                (given.substr(0, word.size()) == word && given.substr(word.size(), 1) == "="))
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+std::optional<Arguments> parseArguments(const QStringList &words, QString *error)
+{
+    QCommandLineParser parser;
+    addOptions(&parser);
+    if (!parser.parse(words)) {
+        *error = parser.errorText();
+        return std::nullopt;
+    }
+    const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };
+    const auto value = [&](const char *name) { return parser.value(QLatin1String(name)); };
+    Arguments arguments;
+    arguments.help = isSet("help");
+    arguments.version = isSet("version");
+    arguments.batch = isSet("batch");
+    arguments.summary = isSet("summary");
+    arguments.listOptions = isSet("list-options");
+    arguments.json = isSet("json");
+    arguments.resolve = isSet("resolve");
+    arguments.startupTime = isSet("startup-time");
+    arguments.printer = value("printer");
+    arguments.server = value("server");
+    arguments.ppdFile = value("ppd");
+    arguments.title = value("title");
+    arguments.screenshot = value("screenshot");
+    arguments.panel = value("panel");
+    arguments.colorScheme = value("color-scheme");
+    arguments.bundles = parser.values(QStringLiteral("bundle"));
+    arguments.files = parser.positionalArguments();
+    if (!readAssignments(parser, &arguments, error))
+        return std::nullopt;
+    *error = problemOf(arguments);
+    return error->isEmpty() ? std::optional(arguments) : std::nullopt;
+}
+
+QString helpText()
+{
+    QString text = ArgumentsText::tr("Usage: kelmar-print [OPTION...] [FILE...]\n"
+                                     "Print documents, with a dialog for the settings or without one.\n\n");
+    for (const OptionText &option : optionTexts()) {
+        QStringList names;
+        for (const QString &name : option.names)
+            names.append((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
+        QString left = QStringLiteral("  ") + names.join(QStringLiteral(", "));
+        if (!option.value.isEmpty())
+            left += QLatin1Char(' ') + option.value;
+        text += left.leftJustified(28) + QLatin1Char(' ') + option.description + QLatin1Char('\n');
+    }
+    text += ArgumentsText::tr(
+        "\nExit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,\n"
+        "4 cancelled. The manual page kelmar-print(1) tells more.\n");
+    return text;
+}
+
+bool runsWithoutWindow(int argc, const char *const *argv)
+{
+    return hasWord(argc, argv, {"--batch", "--summary", "--list-options", "--help", "--version"});
+}
+
+bool takesScreenshot(int argc, const char *const *argv)
+{
+    return hasWord(argc, argv, {"--screenshot"});
+}
+
+} // namespace host

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace host {
+
+// How the program ends.
+enum ExitCode {
+    ExitSuccess = 0,
+    ExitFailure = 1,  // the printer, the server or a file
+    ExitUsage = 2,    // the command line, or a value that a setting does not take
+    ExitConflict = 3, // settings that cannot be used together
+    ExitCancelled = 4 // the user closed the dialog without printing
+};
+
+// What the command line asks for. A value.
+struct Arguments
+{
+    struct Assignment
+    {
+        QString key;
+        QString value;
+        bool passOn = false; // -o: a name that nobody here knows is a job option for the print system
+    };
+
+    bool help = false;
+    bool version = false;
+    bool batch = false;
+    bool summary = false;
+    bool listOptions = false;
+    bool json = false;
+    bool resolve = false;
+    bool startupTime = false;
+    QString printer;
+    QString server; // empty for the one of the environment
+    QString ppdFile;
+    QString title;
+    QString screenshot;
+    QString panel;
+    QString colorScheme; // "light", "dark" or empty for the desktop's
+    QStringList bundles;
+    QList<Assignment> assignments; // in the order given
+    QStringList files;             // "-" is the standard input
+
+    bool needsWindow() const { return !batch && !summary && !listOptions; }
+};
+
+// Nil with a message when the command line cannot be understood. The first word is the program's name.
+std::optional<Arguments> parseArguments(const QStringList &words, QString *error);
+// The text of --help.
+QString helpText();
+// Whether the program will run without a window, told before Qt reads the command line.
+bool runsWithoutWindow(int argc, const char *const *argv);
+bool takesScreenshot(int argc, const char *const *argv);
+
+} // namespace host

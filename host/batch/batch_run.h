@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/batch/arguments.h"
+#include "host/batch/results.h"
+#include "host/core/extensions.h"
+#include "host/core/print_system.h"
+
+#include <memory>
+
+class QTemporaryFile;
+
+namespace host {
+
+// Opens the session that a command line asks for: of a queue, of a queue with another PPD, or of a PPD file
+// alone. Null with an error when that cannot be done.
+std::unique_ptr<DialogSession> openSession(const Arguments &arguments, PrintSystem &system,
+                                           Extensions &extensions, PrintError *error);
+
+// Applies the command line's settings in order. `passedOn` gets the job options that are nobody's business
+// here.
+bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<JobOption> *passedOn,
+                      PrintError *error);
+
+// One run without a window: the same panels through the same contract, settings from the command line,
+// results as text or JSON. Needs a QApplication, since panels are made of widgets.
+class BatchRun
+{
+public:
+    BatchRun(const Arguments &arguments, PrintSystem &system, Extensions &extensions);
+    ~BatchRun();
+
+    // Where "-" is read from; the standard input unless set.
+    void setInput(QIODevice *input) { m_input = input; }
+    // The exit code; what there is to tell goes to the writer.
+    int run(ResultWriter *writer);
+
+private:
+    ExitCode perform();
+    bool openDocuments();
+    ExitCode settleConflicts();
+    ExitCode submit();
+    ExitCode fail(const PrintError &error);
+
+    const Arguments &m_arguments;
+    PrintSystem &m_system;
+    Extensions &m_extensions;
+    QIODevice *m_input = nullptr;
+    std::unique_ptr<QTemporaryFile> m_spool;
+    std::unique_ptr<DialogSession> m_session;
+    QList<Document> m_documents;
+    QList<JobOption> m_passedOn;
+    BatchResult m_result;
+};
+
+} // namespace host

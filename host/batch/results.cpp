@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/batch/results.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace host {
+
+namespace {
+
+struct ResultText
+{
+    Q_DECLARE_TR_FUNCTIONS(ResultText)
+};
+
+QJsonObject toJson(const OptionChoice &choice)
+{
+    return {{QStringLiteral("option"), choice.option},
+            {QStringLiteral("choice"), choice.choice},
+            {QStringLiteral("optionText"), choice.optionText},
+            {QStringLiteral("choiceText"), choice.choiceText}};
+}
+
+QJsonArray toJson(const QList<OptionChoice> &choices)
+{
+    QJsonArray array;
+    for (const OptionChoice &choice : choices)
+        array.append(toJson(choice));
+    return array;
+}
+
+QJsonObject toJson(const PpdOption &option)
+{
+    QJsonArray choices;
+    for (const PpdOption::Choice &choice : option.choices)
+        choices.append(
+            QJsonObject{{QStringLiteral("choice"), choice.keyword}, {QStringLiteral("text"), choice.text}});
+    return {
+        {QStringLiteral("option"), option.keyword},       {QStringLiteral("text"), option.text},
+        {QStringLiteral("group"), option.groupText},      {QStringLiteral("default"), option.defaultChoice},
+        {QStringLiteral("current"), option.markedChoice}, {QStringLiteral("choices"), choices}};
+}
+
+QJsonObject toJson(const SubmittedJob &job, const QString &queue)
+{
+    return {{QStringLiteral("id"), job.id},
+            {QStringLiteral("queue"), queue},
+            {QStringLiteral("state"), job.status.code()},
+            {QStringLiteral("stateText"), job.status.text()},
+            {QStringLiteral("printerStopped"), job.status.printerStopped},
+            {QStringLiteral("differences"), QJsonArray::fromStringList(job.differences)}};
+}
+
+QJsonArray toJson(const QList<SummarySection> &sections)
+{
+    QJsonArray array;
+    for (const SummarySection &section : sections) {
+        QJsonArray entries;
+        for (const auto &[name, value] : section.entries)
+            entries.append(QJsonObject{{QStringLiteral("name"), name}, {QStringLiteral("value"), value}});
+        array.append(
+            QJsonObject{{QStringLiteral("title"), section.title}, {QStringLiteral("entries"), entries}});
+    }
+    return array;
+}
+
+QJsonArray toJson(const QList<Conflict> &conflicts)
+{
+    QJsonArray array;
+    for (const Conflict &conflict : conflicts)
+        array.append(toJson(conflict.sides));
+    return array;
+}
+
+QString sidesText(const QList<OptionChoice> &sides)
+{
+    QStringList texts;
+    for (const OptionChoice &side : sides)
+        texts.append(side.text());
+    return texts.join(QStringLiteral(" – "));
+}
+
+} // namespace
+
+QJsonObject toJson(const BatchResult &result)
+{
+    QJsonObject object;
+    if (!result.printer.isEmpty())
+        object[QStringLiteral("printer")] = result.printer;
+    if (result.hasSummary)
+        object[QStringLiteral("summary")] = toJson(result.summary);
+    if (result.hasOptions) {
+        QJsonArray options;
+        for (const PpdOption &option : result.options)
+            options.append(toJson(option));
+        object[QStringLiteral("options")] = options;
+        QJsonArray keys;
+        for (const auto &[panel, key] : result.panelKeys)
+            keys.append(QJsonObject{{QStringLiteral("panel"), panel}, {QStringLiteral("key"), key}});
+        object[QStringLiteral("panelKeys")] = keys;
+    }
+    if (result.job)
+        object[QStringLiteral("job")] = toJson(*result.job, result.queue);
+    if (!result.resolved.isEmpty())
+        object[QStringLiteral("resolved")] = toJson(result.resolved);
+    if (!result.notices.isEmpty())
+        object[QStringLiteral("notices")] = QJsonArray::fromStringList(result.notices);
+    if (result.error) {
+        object[QStringLiteral("error")] = QJsonObject{{QStringLiteral("code"), result.error.code()},
+                                                      {QStringLiteral("message"), result.error.message}};
+    }
+    if (!result.conflicts.isEmpty()) {
+        object[QStringLiteral("error")] = QJsonObject{
+            {QStringLiteral("code"), QStringLiteral("conflict")},
+            {QStringLiteral("message"), ResultText::tr("These settings cannot be used together.")},
+            {QStringLiteral("conflicts"), toJson(result.conflicts)},
+            {QStringLiteral("proposal"), toJson(result.proposal.value_or(Resolution()))}};
+    }
+    return object;
+}
+
+void ResultWriter::write(const BatchResult &result, bool asJson)
+{
+    if (asJson)
+        m_out->write(QJsonDocument(toJson(result)).toJson());
+    else
+        writeText(result);
+}
+
+void ResultWriter::writeText(const BatchResult &result)
+{
+    for (const QString &notice : result.notices)
+        complain(notice);
+    for (const OptionChoice &change : result.resolved)
+        complain(ResultText::tr("Changed to end a conflict: %1").arg(change.text()));
+    if (result.hasOptions)
+        writeOptions(result);
+    for (const SummarySection &section : result.summary) {
+        print(section.title);
+        for (const auto &[name, value] : section.entries)
+            print(QStringLiteral("    %1: %2").arg(name, value));
+    }
+    if (result.job)
+        writeJob(result);
+    writeConflicts(result);
+    if (result.error)
+        complain(result.error.message);
+}
+
+void ResultWriter::writeOptions(const BatchResult &result)
+{
+    QString group;
+    for (const PpdOption &option : result.options) {
+        if (option.groupText != group)
+            print(group = option.groupText);
+        QStringList choices;
+        for (const PpdOption::Choice &choice : option.choices)
+            choices.append((choice.keyword == option.markedChoice ? QStringLiteral("*") : QString()) +
+                           choice.keyword);
+        print(
+            QStringLiteral("    %1/%2: %3").arg(option.keyword, option.text, choices.join(QLatin1Char(' '))));
+    }
+    if (!result.panelKeys.isEmpty())
+        print(ResultText::tr("Keys of the panels"));
+    for (const auto &[panel, key] : result.panelKeys)
+        print(QStringLiteral("    %1 (%2)").arg(key, panel));
+}
+
+void ResultWriter::writeJob(const BatchResult &result)
+{
+    print(ResultText::tr("request id is %1-%2 (%3 file(s))")
+              .arg(result.queue)
+              .arg(result.job->id)
+              .arg(result.fileCount));
+    print(ResultText::tr("Job %1: %2.").arg(result.job->id).arg(result.job->status.text()));
+    for (const QString &difference : result.job->differences)
+        complain(difference);
+}
+
+void ResultWriter::writeConflicts(const BatchResult &result)
+{
+    if (result.conflicts.isEmpty())
+        return;
+    complain(ResultText::tr("These settings cannot be used together:"));
+    for (const Conflict &conflict : result.conflicts)
+        complain(QStringLiteral("  ") + sidesText(conflict.sides));
+    if (result.proposal) {
+        complain(ResultText::tr("Proposal (accepted with --resolve):"));
+        for (const OptionChoice &change : *result.proposal)
+            complain(QStringLiteral("  ") + change.text());
+    }
+}
+
+} // namespace host

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+namespace host {
+
+struct OptionChoice;
+
+// Announced changes of PPD options and print settings, from the first announcement of each keyword to the
+// moment when all calls have returned and one can see what became of it.
+class ChangeLedger
+{
+public:
+    struct Entry
+    {
+        QString keyword;
+        QVariant before;
+        bool byUser = true; // false when no save of the user's panel asked for it
+    };
+
+    // Later announcements of the same keyword keep the first value.
+    void announce(const QString &keyword, const QVariant &before, bool byUser);
+    bool isEmpty() const { return m_entries.isEmpty(); }
+    // Empties the ledger.
+    QList<Entry> take();
+
+private:
+    QList<Entry> m_entries;
+};
+
+// Equal in type and value: "3" is something else than 3.
+bool sameValue(const QVariant &a, const QVariant &b);
+
+// One sentence for each group of options that ended at the same choice: "Cyan, Magenta were reset to 0."
+// `isDefault` tells, item by item, whether the choice is the printer's default.
+QStringList changeNotices(const QList<OptionChoice> &changes, const QList<bool> &isDefault);
+
+} // namespace host

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QMap>
+#include <QMetaType>
+#include <QString>
+
+namespace host {
+
+// A queue of the print server, or a preset of one ("queue/instance"). A value.
+struct Destination
+{
+    QString queue;
+    QString instance; // empty for the queue itself
+    QString info;     // what people call the printer; may be empty
+    QString location;
+    QString makeAndModel;
+    QString deviceUri;
+    QString printerUri; // the queue's own address on the print server
+    bool isDefault = false;
+    bool accepting = true;
+    bool stopped = false;
+    QMap<QString, QString> options; // the user's and the queue's own settings, as libcups gives them
+
+    QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
+    // For lists: the printer's everyday name, and the preset where it is one.
+    QString displayName() const;
+};
+
+// The queue and the instance of "queue/instance".
+std::pair<QString, QString> splitDestinationName(const QString &name);
+
+// Which printer was used last, kept in the user's settings file.
+class RememberedPrinter
+{
+public:
+    QString name() const; // empty when there is none
+    void setName(const QString &name);
+};
+
+} // namespace host
+
+Q_DECLARE_METATYPE(host::Destination)

@@ -1,0 +1,374 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/dialog_session.h"
+
+#include "host/core/extensions.h"
+#include "platform/exception.h"
+#include "platform/key_value_object.h"
+#include "platform/logging.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+// Panels declare the PPD options that they handle under this key.
+const QString supportedKeywordsKey = QStringLiteral("supportedPPDOptionKeys");
+
+// Nests; for calls into panels.
+class Busy
+{
+public:
+    explicit Busy(int *depth) : m_depth(depth) { ++*m_depth; }
+    ~Busy() { --*m_depth; }
+    Busy(const Busy &) = delete;
+    Busy &operator=(const Busy &) = delete;
+
+private:
+    int *m_depth;
+};
+
+// What libcups reports about a printer among a destination's options.
+bool describesPrinter(const QString &name)
+{
+    return name.startsWith(QLatin1String("printer-")) || name.startsWith(QLatin1String("marker-")) ||
+           name == QLatin1String("device-uri") || name == QLatin1String("auth-info-required");
+}
+
+// Settings of panels bear names in reverse domain order.
+bool isPanelSetting(const QString &name)
+{
+    return name.contains(QLatin1Char('.'));
+}
+
+QStringList keywordsOf(platform::PrintDialogPanel *panel)
+{
+    platform::KeyValueObject *object = panel->keyValueObject();
+    const bool declares =
+        object->metaObject()->indexOfProperty(supportedKeywordsKey.toLatin1().constData()) >= 0;
+    return declares ? object->valueForKey(supportedKeywordsKey).toStringList() : QStringList();
+}
+
+} // namespace
+
+DialogSession::DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd)
+    : m_destination(destination), m_ppd(std::move(ppd))
+{
+    m_printSession.printer = platform::Printer{destination.name(), destination.deviceUri};
+    m_printSession.ppd = ppdFile();
+    if (m_ppd)
+        m_ppd->markOptions(destination.options);
+    for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
+        if (isPanelSetting(it.key()))
+            m_printSettings.setValue(it.key(), it.value());
+    }
+    const int copies = destination.options.value(QStringLiteral("copies")).toInt();
+    m_general.copies = std::clamp(copies, 1, GeneralSettings::maxCopies);
+}
+
+DialogSession::~DialogSession()
+{
+    m_panels.clear();
+}
+
+void DialogSession::loadPanels(Extensions &extensions)
+{
+    if (!m_ppd)
+        return;
+    auto panels = extensions.panelsFor(m_ppd->modelName(), this, &m_notices);
+    for (auto &panel : panels) {
+        QStringList keywords = keywordsOf(panel.get());
+        m_panels.push_back({std::move(panel), std::move(keywords), {}, false});
+    }
+    for (size_t i = 0; i < m_panels.size(); ++i)
+        watch(i);
+    settle();
+}
+
+void DialogSession::watch(size_t index)
+{
+    connect(m_panels[index].panel->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
+            [this, index](const QString &key) {
+                Panel &panel = m_panels[index];
+                if (!panel.restored)
+                    panel.touched.insert(key);
+            });
+}
+
+int DialogSession::panelOfKeyword(const QString &keyword) const
+{
+    for (size_t i = 0; i < m_panels.size(); ++i) {
+        if (m_panels[i].keywords.contains(keyword))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+void DialogSession::restoreUpTo(int index)
+{
+    for (size_t i = 0; i < m_panels.size() && static_cast<int>(i) <= index; ++i) {
+        if (!m_panels[i].restored)
+            restore(m_panels[i]);
+        settle();
+    }
+}
+
+void DialogSession::restore(Panel &panel)
+{
+    const Busy busy(&m_busy);
+    panel.restored = true; // also when it fails: a second attempt would ask a device that is away again
+    QString error;
+    try {
+        if (!panel.panel->restoreValuesAndReturnError(&error))
+            m_notices.append(tr("“%1” could not be prepared: %2").arg(panel.panel->panelName(), error));
+    } catch (const std::exception &exception) {
+        m_notices.append(tr("“%1” could not be prepared: %2")
+                             .arg(panel.panel->panelName(), QString::fromUtf8(exception.what())));
+    }
+}
+
+void DialogSession::save()
+{
+    for (size_t i = 0; i < m_panels.size(); ++i) {
+        if (m_panels[i].restored)
+            savePanel(i);
+    }
+    settle();
+}
+
+void DialogSession::savePanel(size_t index)
+{
+    const Busy busy(&m_busy);
+    platform::PrintDialogPanel *panel = m_panels[index].panel.get();
+    m_saving = static_cast<int>(index);
+    QString error;
+    try {
+        if (!panel->saveValuesAndReturnError(&error))
+            m_notices.append(
+                tr("The settings of “%1” could not be saved: %2").arg(panel->panelName(), error));
+    } catch (const std::exception &exception) {
+        m_notices.append(tr("The settings of “%1” could not be saved: %2")
+                             .arg(panel->panelName(), QString::fromUtf8(exception.what())));
+    }
+    m_saving = -1;
+}
+
+QStringList DialogSession::otherKeywords() const
+{
+    QStringList others;
+    if (!m_ppd)
+        return others;
+    const QStringList general = generalOptionKeywords(*m_ppd);
+    for (const QString &keyword : m_ppd->optionKeywords()) {
+        const bool shown = general.contains(keyword) || panelOfKeyword(keyword) >= 0;
+        if (!shown && !m_ppd->isInstallable(keyword) && keyword != QLatin1String("Collate"))
+            others.append(keyword);
+    }
+    return others;
+}
+
+bool DialogSession::markChoice(const QString &keyword, const QString &choice)
+{
+    if (!m_ppd || !m_ppd->mark(keyword, choice))
+        return false;
+    m_lastUserKeyword = keyword;
+    setOnPanels(keyword, choice);
+    settle();
+    return true;
+}
+
+void DialogSession::setOnPanels(const QString &keyword, const QString &choice)
+{
+    const Busy busy(&m_busy);
+    for (const Panel &panel : m_panels) {
+        if (!panel.restored || !panel.keywords.contains(keyword))
+            continue;
+        try {
+            panel.panel->keyValueObject()->setValueForKey(choice, keyword);
+        } catch (const platform::Exception &exception) {
+            qCWarning(lcHost).noquote() << exception.description();
+        }
+    }
+}
+
+QList<Conflict> DialogSession::conflicts() const
+{
+    return m_ppd ? m_ppd->conflicts() : QList<Conflict>();
+}
+
+std::optional<Resolution> DialogSession::proposal() const
+{
+    return m_ppd ? m_ppd->resolution(m_lastUserKeyword) : std::nullopt;
+}
+
+void DialogSession::apply(const Resolution &resolution)
+{
+    for (const OptionChoice &change : resolution) {
+        m_ppd->mark(change.option, change.choice);
+        m_savedKeywords.insert(change.option);
+    }
+    for (const OptionChoice &change : resolution)
+        setOnPanels(change.option, change.choice);
+    save();
+    Q_EMIT changed();
+}
+
+QStringList DialogSession::takeNotices()
+{
+    return std::exchange(m_notices, {});
+}
+
+void DialogSession::willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice)
+{
+    Q_UNUSED(choice) // what really happens to the option is looked at when the call is over
+    const bool byUser = m_saving >= 0 && panelOfKeyword(keyword) == m_saving;
+    m_ledger.announce(keyword, currentValue(keyword), byUser);
+    if (m_busy == 0)
+        settleLater();
+}
+
+QVariant DialogSession::currentValue(const QString &keyword) const
+{
+    if (m_ppd && m_ppd->hasOption(keyword)) {
+        const QString choice = m_ppd->markedChoice(keyword);
+        return choice.isEmpty() ? QVariant() : QVariant(choice);
+    }
+    return m_printSettings.value(keyword);
+}
+
+void DialogSession::putBack(const QString &keyword, const QVariant &value)
+{
+    if (sameValue(currentValue(keyword), value))
+        return;
+    if (m_ppd && m_ppd->hasOption(keyword))
+        m_ppd->mark(keyword, value.toString());
+    else
+        m_printSettings.setValue(keyword, value);
+}
+
+void DialogSession::settleLater()
+{
+    if (std::exchange(m_settleQueued, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            settle();
+            Q_EMIT changed();
+        },
+        Qt::QueuedConnection);
+}
+
+void DialogSession::settle()
+{
+    m_settleQueued = false;
+    QList<OptionChoice> unasked;
+    QList<bool> isDefault;
+    for (const ChangeLedger::Entry &entry : m_ledger.take()) {
+        const int owner = panelOfKeyword(entry.keyword);
+        const Panel *panel = owner < 0 ? nullptr : &m_panels[static_cast<size_t>(owner)];
+        // A panel that saves itself before it was restored writes defaults for what it has never read. Only
+        // what it has set on purpose counts; the rest stays in the job as it came.
+        if (panel && !panel->restored && !panel->touched.contains(entry.keyword)) {
+            putBack(entry.keyword, entry.before);
+            continue;
+        }
+        m_savedKeywords.insert(entry.keyword);
+        const QVariant after = currentValue(entry.keyword);
+        if (sameValue(entry.before, after))
+            continue;
+        if (entry.byUser) {
+            m_lastUserKeyword = entry.keyword;
+        } else if (m_ppd && m_ppd->hasOption(entry.keyword)) {
+            unasked.append(m_ppd->described(entry.keyword, after.toString()));
+            isDefault.append(after.toString() == m_ppd->defaultChoice(entry.keyword));
+        }
+    }
+    m_notices += changeNotices(unasked, isDefault);
+}
+
+void DialogSession::willBlock(const QString &what)
+{
+    Q_EMIT blockingBegan(what);
+}
+
+void DialogSession::didBlock()
+{
+    Q_EMIT blockingEnded();
+}
+
+SummarySection DialogSession::generalSummary() const
+{
+    SummarySection section{tr("General"), {}};
+    section.entries.append({tr("Printer"), m_destination.displayName()});
+    section.entries.append({tr("Copies"), QLocale().toString(m_general.copies)});
+    if (m_general.copies > 1)
+        section.entries.append({tr("Collate"), m_general.collate ? tr("On") : tr("Off")});
+    section.entries.append({tr("Pages"), m_general.pages.isEmpty() ? tr("All") : m_general.pages});
+    if (!m_ppd)
+        return section;
+    for (const QString &keyword : generalOptionKeywords(*m_ppd) + otherKeywords()) {
+        const OptionChoice choice = m_ppd->described(keyword, m_ppd->markedChoice(keyword));
+        if (!choice.choice.isEmpty())
+            section.entries.append({choice.optionText, choice.choiceText});
+    }
+    return section;
+}
+
+QList<SummarySection> DialogSession::summary() const
+{
+    QList<SummarySection> sections{generalSummary()};
+    for (const Panel &panel : m_panels) {
+        SummarySection section{panel.panel->panelName(), {}};
+        const QMap<QString, QString> info = panel.panel->summaryInfo();
+        for (auto it = info.begin(); it != info.end(); ++it)
+            section.entries.append({it.key(), it.value()});
+        if (!section.entries.isEmpty())
+            sections.append(section);
+    }
+    return sections;
+}
+
+QList<JobOption> DialogSession::markedOptions() const
+{
+    QList<JobOption> options;
+    if (!m_ppd)
+        return options;
+    QSet<QString> wanted = m_savedKeywords;
+    for (const OptionChoice &change : m_ppd->changedChoices())
+        wanted.insert(change.option);
+    for (const QString &keyword : m_ppd->optionKeywords()) {
+        const QString choice = m_ppd->markedChoice(keyword);
+        if (wanted.contains(keyword) && !choice.isEmpty() && !GeneralSettings::covers(keyword))
+            options.append({keyword, choice});
+    }
+    return options;
+}
+
+QList<JobOption> DialogSession::preferences() const
+{
+    QList<JobOption> options;
+    for (auto it = m_destination.options.begin(); it != m_destination.options.end(); ++it) {
+        const bool decidedHere = GeneralSettings::covers(it.key()) || isPanelSetting(it.key()) ||
+                                 (m_ppd && m_ppd->takesOption(it.key()));
+        if (!describesPrinter(it.key()) && !decidedHere)
+            options.append({it.key(), it.value(), JobOption::Kind::Preference});
+    }
+    return options;
+}
+
+QList<JobOption> DialogSession::jobOptions() const
+{
+    QList<JobOption> options = markedOptions();
+    const QVariantMap &settings = m_printSettings.values();
+    for (auto it = settings.begin(); it != settings.end(); ++it)
+        options.append({it.key(), it.value().toString()});
+    return options + m_general.jobOptions() + preferences();
+}
+
+} // namespace host

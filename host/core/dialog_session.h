@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/change_ledger.h"
+#include "host/core/destination.h"
+#include "host/core/general_settings.h"
+#include "host/core/ppd_document.h"
+#include "platform/print_dialog.h"
+#include "platform/printing_manager.h"
+
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace host {
+
+class Extensions;
+
+// A part of the summary: what one pane stands at.
+struct SummarySection
+{
+    QString title;
+    QList<std::pair<QString, QString>> entries;
+};
+
+// One dialog for one printer: its PPD, the job's settings and the plug-in's panels, and their host. Works
+// without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown,
+// together with those before it; only restored panels are saved. Owns everything it hands out.
+class DialogSession : public QObject,
+                      public platform::PrintDialogHost,
+                      public platform::ConstraintResolvingHost,
+                      public platform::BlockingWorkHost
+{
+    Q_OBJECT
+public:
+    // `ppd` may be null. Marks what the destination's options say.
+    DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd);
+    ~DialogSession() override;
+
+    // Makes the panels of the extensions that serve the printer; problems become notices.
+    void loadPanels(Extensions &extensions);
+
+    const Destination &destination() const { return m_destination; }
+    PpdDocument *ppd() const { return m_ppd.get(); }
+    GeneralSettings &general() { return m_general; }
+    const GeneralSettings &general() const { return m_general; }
+
+    int panelCount() const { return static_cast<int>(m_panels.size()); }
+    platform::PrintDialogPanel *panel(int index) const
+    {
+        return m_panels.at(static_cast<size_t>(index)).panel.get();
+    }
+    QStringList panelKeywords(int index) const { return m_panels.at(static_cast<size_t>(index)).keywords; }
+    bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
+    // The panel that handles a PPD option, or -1.
+    int panelOfKeyword(const QString &keyword) const;
+    // Makes a panel ready to be shown or set; restores it and those before it unless that has been done.
+    void restoreUpTo(int index);
+    // Saves every restored panel.
+    void save();
+    // Options of the PPD that neither the general pane nor a panel shows, without those for installed units.
+    QStringList otherKeywords() const;
+
+    // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it.
+    bool markChoice(const QString &keyword, const QString &choice);
+    QList<Conflict> conflicts() const;
+    // libcups's way out of the conflicts that leaves the user's last change as it is, where there is one.
+    std::optional<Resolution> proposal() const;
+    void apply(const Resolution &resolution);
+    // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
+    QStringList takeNotices();
+
+    QList<SummarySection> summary() const;
+    // Every choice that is not the printer's default, every choice that a panel has saved, every setting of a
+    // panel, the general settings, and the user's own defaults for the printer as far as nothing else decides
+    // about them.
+    QList<JobOption> jobOptions() const;
+
+    PMPrintSettings printSettings() override { return &m_printSettings; }
+    PMPrintSession printSession() override { return &m_printSession; }
+    ppd_file_s *ppdFile() override { return m_ppd ? m_ppd->record() : nullptr; }
+    void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) override;
+    void willBlock(const QString &what) override;
+    void didBlock() override;
+
+Q_SIGNALS:
+    // New notices can be taken, or choices have changed behind a shown pane.
+    void changed();
+    // Emitted directly: paint now, since the next thing blocks. Pairs may nest.
+    void blockingBegan(const QString &what);
+    void blockingEnded();
+
+private:
+    struct Panel
+    {
+        std::unique_ptr<platform::PrintDialogPanel> panel;
+        QStringList keywords;
+        QSet<QString> touched; // set by the panel's own code before it was restored
+        bool restored = false;
+    };
+
+    void watch(size_t index);
+    void restore(Panel &panel);
+    void savePanel(size_t index);
+    void setOnPanels(const QString &keyword, const QString &choice);
+    QVariant currentValue(const QString &keyword) const;
+    void putBack(const QString &keyword, const QVariant &value);
+    // Works through the changes that panels have announced, once their calls have returned.
+    void settle();
+    void settleLater();
+    SummarySection generalSummary() const;
+    QList<JobOption> markedOptions() const;
+    QList<JobOption> preferences() const;
+
+    Destination m_destination;
+    std::unique_ptr<PpdDocument> m_ppd;
+    platform::PrintSettings m_printSettings;
+    platform::PrintSession m_printSession;
+    GeneralSettings m_general;
+    ChangeLedger m_ledger;
+    QStringList m_notices;
+    QSet<QString> m_savedKeywords;
+    QString m_lastUserKeyword;
+    int m_saving = -1;
+    int m_busy = 0; // calls of this object into panels that are under way
+    bool m_settleQueued = false;
+    std::vector<Panel> m_panels; // go first
+};
+
+} // namespace host

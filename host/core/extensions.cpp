@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/extensions.h"
+
+#include "platform/bundle.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+#include <optional>
+
+namespace host {
+
+const QString printDialogPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
+
+namespace {
+
+struct ExtensionsText
+{
+    Q_DECLARE_TR_FUNCTIONS(ExtensionsText)
+};
+
+std::optional<platform::PrintDialogPanels> panelsOf(platform::PrintDialogExtension *extension,
+                                                    platform::PrintDialogHost *host, QString *error)
+{
+    try {
+        return extension->PDEPanelsForTypeWithHostInfo(printDialogPanelType, host);
+    } catch (const std::exception &exception) {
+        *error = QString::fromUtf8(exception.what());
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Extensions::Extensions(QStringList bundleFolders) : m_folders(std::move(bundleFolders)) {}
+
+Extensions::~Extensions() = default;
+
+QStringList Extensions::installedBundles(const QString &programFolder)
+{
+    QStringList found;
+    for (const QString &place : {programFolder, programFolder + QStringLiteral("/../lib/kelmar-print")}) {
+        const QDir folder(place);
+        for (const QString &name : folder.entryList({QStringLiteral("*.bundle")}, QDir::Dirs, QDir::Name))
+            found.append(folder.absoluteFilePath(name));
+        if (!found.isEmpty())
+            break;
+    }
+    return found;
+}
+
+void Extensions::open(QStringList *problems)
+{
+    m_opened = true;
+    for (const QString &folder : m_folders) {
+        QString error;
+        if (auto bundle = platform::Bundle::open(folder, QLocale::system(), &error))
+            m_loaded.push_back({std::move(bundle), nullptr});
+        else
+            problems->append(ExtensionsText::tr("The print extension cannot be used: %1").arg(error));
+    }
+}
+
+platform::PrintDialogExtension *Extensions::principalObject(Loaded *loaded, QString *error)
+{
+    if (loaded->extension)
+        return loaded->extension;
+    platform::PrintDialogExtension *extension = loaded->bundle->principalObject(error);
+    if (extension && extension->initWithBundle(loaded->bundle))
+        loaded->extension = extension;
+    return loaded->extension;
+}
+
+platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, platform::PrintDialogHost *host,
+                                                  QStringList *problems)
+{
+    if (!m_opened)
+        open(problems);
+    platform::PrintDialogPanels panels;
+    for (Loaded &loaded : m_loaded) {
+        const auto &bundle = loaded.bundle;
+        const QString type = bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
+        if (type != printDialogPanelType || !bundle->servesModel(modelName))
+            continue;
+        QString error;
+        auto *extension = principalObject(&loaded, &error);
+        auto made = extension ? panelsOf(extension, host, &error) : std::nullopt;
+        if (made)
+            std::move(made->begin(), made->end(), std::back_inserter(panels));
+        else if (!error.isEmpty())
+            problems->append(ExtensionsText::tr("The print extension cannot be used: %1").arg(error));
+    }
+    return panels;
+}
+
+} // namespace host

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/general_settings.h"
+
+#include "host/core/ppd_document.h"
+
+namespace host {
+
+QList<JobOption> GeneralSettings::jobOptions() const
+{
+    using Kind = JobOption::Kind;
+    QList<JobOption> options;
+    options.append({QStringLiteral("copies"), QString::number(copies), Kind::Attribute});
+    if (copies > 1) {
+        const QString collated = QStringLiteral("separate-documents-collated-copies");
+        const QString uncollated = QStringLiteral("separate-documents-uncollated-copies");
+        options.append(
+            {QStringLiteral("multiple-document-handling"), collate ? collated : uncollated, Kind::Attribute});
+        // Filters of older print systems listen to this one.
+        options.append(
+            {QStringLiteral("Collate"), collate ? QStringLiteral("True") : QStringLiteral("False")});
+    }
+    if (!pages.isEmpty())
+        options.append({QStringLiteral("page-ranges"), pages, Kind::Attribute});
+    return options;
+}
+
+bool GeneralSettings::covers(const QString &name)
+{
+    return name == QLatin1String("copies") || name == QLatin1String("page-ranges") ||
+           name == QLatin1String("multiple-document-handling") ||
+           name.compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0;
+}
+
+QStringList generalOptionKeywords(const PpdDocument &ppd)
+{
+    // Several names for one thing: the first that the PPD has is shown.
+    const QList<QStringList> wanted = {{QStringLiteral("PageSize")},
+                                       {QStringLiteral("MediaType")},
+                                       {QStringLiteral("InputSlot")},
+                                       {QStringLiteral("Duplex"), QStringLiteral("JCLDuplex"),
+                                        QStringLiteral("EFDuplex"), QStringLiteral("EFDuplexing"),
+                                        QStringLiteral("ARDuplex"), QStringLiteral("KD03Duplex")}};
+    QStringList keywords;
+    for (const QStringList &names : wanted) {
+        for (const QString &name : names) {
+            if (ppd.hasOption(name)) {
+                keywords.append(name);
+                break;
+            }
+        }
+    }
+    return keywords;
+}
+
+} // namespace host

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/job.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace host {
+
+class PpdDocument;
+
+// What every printer can be asked, whatever its driver: the job's copies and pages. A value.
+struct GeneralSettings
+{
+    int copies = 1; // 1 to maxCopies
+    bool collate = true;
+    QString pages; // normalised ranges; empty for all
+
+    static constexpr int maxCopies = 9999;
+
+    // As job options; what the print system does anyway is left out.
+    QList<JobOption> jobOptions() const;
+    // Whether a job option of this name is decided by these settings.
+    static bool covers(const QString &name);
+};
+
+// The options of the general pane that this PPD has, in the order they are shown: paper size and type, tray,
+// two-sided.
+QStringList generalOptionKeywords(const PpdDocument &ppd);
+
+} // namespace host

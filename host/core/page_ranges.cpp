@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/page_ranges.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+namespace host {
+
+namespace {
+
+constexpr int lastPage = std::numeric_limits<int>::max();
+
+struct Range
+{
+    int first = 1;
+    int last = lastPage;
+};
+
+struct PageRangesText
+{
+    Q_DECLARE_TR_FUNCTIONS(PageRangesText)
+};
+
+std::optional<int> pageNumber(const QString &text, int whenEmpty)
+{
+    if (text.isEmpty())
+        return whenEmpty;
+    bool ok = false;
+    const int number = text.toInt(&ok);
+    if (!ok || number < 1 || text.startsWith(QLatin1Char('+')))
+        return std::nullopt;
+    return number;
+}
+
+std::optional<Range> parseRange(const QString &text)
+{
+    const qsizetype dash = text.indexOf(QLatin1Char('-'));
+    if (dash < 0) {
+        const auto page = text.isEmpty() ? std::nullopt : pageNumber(text, 1);
+        return page ? std::optional(Range{*page, *page}) : std::nullopt;
+    }
+    if (text.size() == 1)
+        return std::nullopt;
+    const auto first = pageNumber(text.left(dash).trimmed(), 1);
+    const auto last = pageNumber(text.mid(dash + 1).trimmed(), lastPage);
+    if (!first || !last || *first > *last)
+        return std::nullopt;
+    return Range{*first, *last};
+}
+
+QString rangeText(const Range &range)
+{
+    if (range.first == range.last)
+        return QString::number(range.first);
+    const QString last = range.last == lastPage ? QString() : QString::number(range.last);
+    return QString::number(range.first) + QLatin1Char('-') + last;
+}
+
+std::vector<Range> merged(std::vector<Range> ranges)
+{
+    std::sort(ranges.begin(), ranges.end(), [](const Range &a, const Range &b) { return a.first < b.first; });
+    std::vector<Range> result;
+    for (const Range &range : ranges) {
+        const bool touches =
+            !result.empty() && (result.back().last == lastPage || range.first <= result.back().last + 1);
+        if (touches)
+            result.back().last = std::max(result.back().last, range.last);
+        else
+            result.push_back(range);
+    }
+    return result;
+}
+
+} // namespace
+
+std::optional<QString> normalizedPageRanges(const QString &text, QString *error)
+{
+    if (text.trimmed().isEmpty())
+        return QString();
+    QString plain = text;
+    plain.replace(QChar(0x2013), QLatin1Char('-')); // an en dash, as typists and word processors make it
+    std::vector<Range> ranges;
+    for (const QString &part : plain.split(QLatin1Char(','))) {
+        const auto range = parseRange(part.trimmed());
+        if (!range) {
+            if (error)
+                *error =
+                    PageRangesText::tr("“%1” is not a page or a range of pages; write for example 1-3, 8.")
+                        .arg(part.trimmed());
+            return std::nullopt;
+        }
+        ranges.push_back(*range);
+    }
+    QStringList texts;
+    for (const Range &range : merged(std::move(ranges)))
+        texts.append(rangeText(range));
+    return texts.join(QLatin1Char(','));
+}
+
+} // namespace host

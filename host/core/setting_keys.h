@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/dialog_session.h"
+#include "host/core/print_error.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace host {
+
+// Sets values by name, as a person at a control would: a PPD option keyword, a key or key path that a panel
+// answers, or one of the general settings "copies", "collate" and "page-ranges". A panel that answers is
+// restored first, set through its key-value object, and saved. Lives for one round of settings.
+class SettingKeys
+{
+public:
+    explicit SettingKeys(DialogSession *session) : m_session(session) {}
+
+    // False with an error in plain words, and nothing changed, when there is no such key or it does not take
+    // the value. The error never repeats a value that may be a code.
+    bool set(const QString &key, const QString &value, PrintError *error);
+    // Whether set() has something to set under this key, whatever the value.
+    bool knows(const QString &key) const;
+    // The keys that panels answer beside PPD options, as "panel kind" and "key".
+    QList<std::pair<QString, QString>> panelKeys() const;
+
+private:
+    bool setGeneral(const QString &key, const QString &value, PrintError *error);
+    bool setOption(const QString &keyword, const QString &value, PrintError *error);
+    bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
+    int panelOfKey(const QString &keyPath) const;
+
+    DialogSession *m_session;
+};
+
+} // namespace host
