@@ -158,7 +158,7 @@ QString Bundle::localizedStringForKey(const QString &key, const QString &value) 
 {
     const QByteArray source = key.toUtf8();
     for (const auto &translator : translators()) {
-        const QString text = translator->translate("Localizable", source.constData());
+        QString text = translator->translate("Localizable", source.constData());
         if (!text.isEmpty())
             return text;
     }
@@ -168,7 +168,7 @@ QString Bundle::localizedStringForKey(const QString &key, const QString &value) 
 QString Bundle::translate(const char *context, const char *source, const char *disambiguation) const
 {
     for (const auto &translator : translators()) {
-        const QString text = translator->translate(context, source, disambiguation);
+        QString text = translator->translate(context, source, disambiguation);
         if (!text.isEmpty())
             return text;
     }

@@ -297,7 +297,7 @@ TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwne
 
 void registerLayoutWidget(const QString &className, WidgetFactory factory)
 {
-    widgetFactories().insert(className, std::move(factory));
+    widgetFactories()[className] = std::move(factory);
 }
 
 } // namespace platform

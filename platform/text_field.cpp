@@ -23,7 +23,7 @@ TextFieldDelegate::~TextFieldDelegate() = default;
 
 void TextFieldDelegate::setDelegateForName(std::shared_ptr<TextFieldDelegate> delegate, const QString &name)
 {
-    delegates->insert(name, std::move(delegate));
+    (*delegates)[name] = std::move(delegate);
 }
 
 std::shared_ptr<TextFieldDelegate> TextFieldDelegate::delegateForName(const QString &name)

@@ -24,7 +24,7 @@ QVariant ValueTransformer::reverseTransformedValue(const QVariant &) const
 void ValueTransformer::setValueTransformerForName(std::shared_ptr<const ValueTransformer> transformer,
                                                   const QString &name)
 {
-    transformers->insert(name, std::move(transformer));
+    (*transformers)[name] = std::move(transformer);
 }
 
 std::shared_ptr<const ValueTransformer> ValueTransformer::valueTransformerForName(const QString &name)
