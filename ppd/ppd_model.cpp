@@ -58,15 +58,13 @@ std::span<const ppd_choice_t> choices(const ppd_option_t *option)
                                              : std::span<ppd_choice_t>();
 }
 
-// Nil when there is no record or one of its texts is not valid UTF-8.
+// Nil when there is no record or its keyword is not valid UTF-8.
 std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
 {
     if (!record)
         return std::nullopt;
     QVPPDChoice_M880 choice{stringFromUtf8(record->choice), stringFromUtf8(record->text)};
-    if (choice.choice.isNull() || choice.text.isNull())
-        return std::nullopt;
-    return choice;
+    return choice.choice.isNull() ? std::nullopt : std::optional(choice);
 }
 
 QString localizedChoiceText(const QString &option, const QString &choice, const QString &text,
@@ -167,7 +165,8 @@ std::optional<QMap<QString, QString>> QVPPD_M880::choicesWithValuesForOptionOrde
     QMap<QString, QString> texts;
     QStringList keywords;
     for (const ppd_choice_t &record : records) {
-        if (const auto choice = choiceFromRecord(&record)) {
+        const auto choice = choiceFromRecord(&record);
+        if (choice && !choice->text.isNull()) {
             texts.insert(choice->choice, choice->text);
             keywords.append(choice->choice);
         }

@@ -27,7 +27,8 @@ extern const QString QVPPDTextKey;   // "QVPPDText"
 extern const QString QVPPDOptionKey; // "QVPPDOption"
 extern const QString QVPPDNameKey;   // "QVPPDName"
 
-// One choice of an option: its keyword in the PPD and the text a user reads.
+// One choice of an option: its keyword in the PPD and the text a user reads, nil when that is not valid
+// UTF-8.
 struct QVPPDChoice_M880
 {
     QString choice;

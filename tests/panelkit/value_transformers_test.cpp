@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panelkit/value_transformers.h"
+
+#include <QTest>
+
+class ValueTransformersTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsBooleans_data();
+    void readsBooleans();
+    void writesBooleans();
+    void convertsNumbers_data();
+    void convertsNumbers();
+    void writesNumbers();
+};
+
+void ValueTransformersTest::readsBooleans_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("transformed");    // by the transformer
+    QTest::addColumn<bool>("firstCharacter"); // by the function
+    const auto text = [](const char *value, bool transformed, bool firstCharacter) {
+        QTest::addRow("\"%s\"", value) << QVariant(QString::fromUtf8(value)) << transformed << firstCharacter;
+    };
+    text("TRUE", true, true);
+    text("Enabled", true, false);
+    text("YES", true, true);
+    text("1", true, true);
+    text("-1", true, false);
+    text(" 7", true, false);
+    text("01", true, false);
+    text("7x", true, true);
+    text("Yesterday", false, true);
+    text("T", false, true);
+    text("False", false, false);
+    text("no", false, false);
+    text("None", false, false);
+    text("0", false, false);
+    text("", false, false);
+    text("\u00b2", false, false); // superscript two
+    text("\u0663", true, false);  // Arabic-Indic digit three
+    QTest::newRow("nil") << QVariant() << true << false;
+    QTest::newRow("true") << QVariant(true) << true << true;
+    QTest::newRow("false") << QVariant(false) << false << false;
+    QTest::newRow("0") << QVariant(0) << false << false;
+    QTest::newRow("2") << QVariant(2) << true << true;
+    QTest::newRow("0.5") << QVariant(0.5) << false << true;
+    QTest::newRow("list") << QVariant(QVariantList{1}) << false << false;
+}
+
+void ValueTransformersTest::readsBooleans()
+{
+    QFETCH(QVariant, value);
+    QFETCH(bool, transformed);
+    QFETCH(bool, firstCharacter);
+    const QVariant result = QVBooleanTransformer_M880().transformedValue(value);
+    QCOMPARE(result.metaType(), QVBooleanTransformer_M880().transformedValueClass());
+    QCOMPARE(result.toBool(), transformed);
+    QCOMPARE(QVBooleanValue(value), firstCharacter);
+}
+
+void ValueTransformersTest::writesBooleans()
+{
+    const QVBooleanTransformer_M880 transformer;
+    QCOMPARE(transformer.reverseTransformedValue(true), QVariant(QStringLiteral("True")));
+    QCOMPARE(transformer.reverseTransformedValue(false), QVariant(QStringLiteral("False")));
+    QCOMPARE(transformer.reverseTransformedValue(QStringLiteral("yes")), QVariant(QStringLiteral("True")));
+    QCOMPARE(transformer.reverseTransformedValue({}), QVariant(QStringLiteral("False")));
+}
+
+void ValueTransformersTest::convertsNumbers_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("number");
+    QTest::newRow("digits and more") << QVariant(QStringLiteral("600dpi")) << 600;
+    QTest::newRow("sign after blanks") << QVariant(QStringLiteral("  -5")) << -5;
+    QTest::newRow("no digits") << QVariant(QStringLiteral("abc")) << 0;
+    QTest::newRow("sign alone") << QVariant(QStringLiteral("-")) << 0;
+    QTest::newRow("beyond 32 bits") << QVariant(QStringLiteral("-99999999999999999999")) << INT_MIN;
+    QTest::newRow("number") << QVariant(5) << 5;
+    QTest::newRow("true") << QVariant(true) << 1;
+    QTest::newRow("nil") << QVariant() << 0;
+}
+
+void ValueTransformersTest::convertsNumbers()
+{
+    QFETCH(QVariant, value);
+    QFETCH(int, number);
+    const QVariant result = QVNumberTransformer_M880().transformedValue(value);
+    QCOMPARE(result.metaType(), QMetaType::fromType<int>());
+    QCOMPARE(result.toInt(), number);
+}
+
+void ValueTransformersTest::writesNumbers()
+{
+    const QVNumberTransformer_M880 transformer;
+    QCOMPARE(transformer.reverseTransformedValue(0).metaType(), QMetaType::fromType<QString>());
+    QCOMPARE(transformer.reverseTransformedValue(0), QVariant(QStringLiteral("0")));
+    QCOMPARE(transformer.reverseTransformedValue(-5), QVariant(QStringLiteral("-5")));
+    QVERIFY(!transformer.reverseTransformedValue({}).isValid());
+}
+
+QTEST_APPLESS_MAIN(ValueTransformersTest)
+#include "value_transformers_test.moc"

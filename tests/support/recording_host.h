@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/print_dialog.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+// A dialog host of the older kind: job settings, a session, a PPD, and a count of how often it was asked for
+// that.
+class RecordingHost : public platform::PrintDialogHost
+{
+public:
+    explicit RecordingHost(ppd_file_s *ppd = nullptr) : ppd(ppd) {}
+
+    PMPrintSettings printSettings() override { return &settings; }
+    PMPrintSession printSession() override { return &session; }
+    ppd_file_s *ppdFile() override;
+
+    platform::PrintSettings settings;
+    platform::PrintSession session;
+    ppd_file_s *ppd;
+    int ppdRequests = 0;
+};
+
+// A host that takes part in constraint resolution and can show that it waits; keeps what it is told, in
+// order.
+class ResolvingRecordingHost : public RecordingHost,
+                               public platform::ConstraintResolvingHost,
+                               public platform::BlockingWorkHost
+{
+public:
+    using RecordingHost::RecordingHost;
+
+    void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) override;
+    void willBlock(const QString &what) override;
+    void didBlock() override;
+
+    std::vector<std::pair<QString, QVariant>> told;
+    // Called, when set, each time before `told` grows.
+    std::function<void(const QString &keyword)> onTold;
+    QStringList blockingWork;
+    int blockingDepth = 0;
+};
