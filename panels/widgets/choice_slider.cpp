@@ -6,7 +6,11 @@
 #include "platform/layout_loader.h"
 #include "ppd/ppd_model.h"
 
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QStylePainter>
 
 #include <algorithm>
 #include <cstdlib>
@@ -17,6 +21,8 @@ const bool registered = [] {
     platform::registerLayoutWidget<QVChoiceSlider_M880>(QStringLiteral("QVChoiceSlider_M880"));
     return true;
 }();
+
+constexpr qreal railHeight = 4; // px
 
 } // namespace
 
@@ -40,6 +46,7 @@ void QVChoiceSlider_M880::setChoices(const QVariant &choices)
             m_numbers += number;
     }
     std::sort(m_numbers.begin(), m_numbers.end());
+    QWidget::update();
 }
 
 void QVChoiceSlider_M880::showValue(int value)
@@ -71,6 +78,55 @@ void QVChoiceSlider_M880::sliderChange(SliderChange change)
     m_shown = value();
     if (moved && !m_showing)
         Q_EMIT valueChosen(m_shown);
+}
+
+// Styles fill a groove from its lower end, which says nothing of a deviation from neutral; the thumb is
+// theirs.
+void QVChoiceSlider_M880::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    painter.save();
+    drawScale(&painter, option);
+    painter.restore();
+    option.subControls = QStyle::SC_SliderHandle;
+    option.tickPosition = tickPosition();
+    painter.drawComplexControl(QStyle::CC_Slider, option);
+}
+
+void QVChoiceSlider_M880::drawScale(QPainter *painter, const QStyleOptionSlider &option) const
+{
+    const QRect groove = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const QRect thumb = style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    const int span = groove.width() - thumb.width();
+    const auto xOf = [&](int number) {
+        const int offset =
+            QStyle::sliderPositionFromValue(minimum(), maximum(), number, span, option.upsideDown);
+        return groove.x() + offset + thumb.width() / 2.0;
+    };
+    const qreal middle = QRectF(thumb).center().y();
+
+    QColor ink = palette().color(QPalette::WindowText);
+    ink.setAlphaF(isEnabled() ? 0.25F : 0.15F);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(ink);
+    const QRectF rail(xOf(minimum()), middle - railHeight / 2, 0, railHeight);
+    painter->drawRoundedRect(QRectF(rail.topLeft(), QPointF(xOf(maximum()), rail.bottom())).normalized(),
+                             railHeight / 2, railHeight / 2);
+    if (isEnabled()) {
+        painter->setBrush(palette().color(QPalette::Highlight));
+        painter->drawRect(
+            QRectF(QPointF(xOf(0), rail.top()), QPointF(xOf(sliderPosition()), rail.bottom())).normalized());
+    }
+    if (tickPosition() == NoTicks)
+        return;
+    ink.setAlphaF(isEnabled() ? 0.5F : 0.25F);
+    painter->setBrush(ink);
+    const qreal top = middle + thumb.height() / 2.0 + 1;
+    for (const int number : positions())
+        painter->drawRect(QRectF(qRound(xOf(number)), top, 1, number == 0 ? 5 : 3));
 }
 
 QList<int> QVChoiceSlider_M880::positions() const

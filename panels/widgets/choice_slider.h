@@ -9,6 +9,9 @@
 
 #include <optional>
 
+class QPainter;
+class QStyleOptionSlider;
+
 // A slider over the numeric choices of a PPD option. What the user does ends on a number the option has a
 // choice for; no other ever leaves the slider. A value that comes from the option is only shown, never
 // corrected: one that lies beyond the range puts the thumb at the nearer end and stays as it is until the
@@ -33,9 +36,11 @@ Q_SIGNALS:
 
 protected:
     void sliderChange(SliderChange change) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void adjustAction(int action);
+    void drawScale(QPainter *painter, const QStyleOptionSlider &option) const;
     QList<int> positions() const;
     // The position nearest to `wanted`; of two equally near the one nearer to where the thumb is.
     std::optional<int> nearestPosition(int wanted) const;

@@ -18,17 +18,16 @@ const bool registered = [] {
     return true;
 }();
 
-// An arrow that turns back, in a square of 16 units.
+// An arrow that turns back to the left, in a square of 16 units.
 QPainterPath backArrow()
 {
-    const QRectF circle(3.5, 3.5, 9, 9);
-    QPainterPath path;
-    path.arcMoveTo(circle, 150);
-    path.arcTo(circle, 150, -285);
-    const QPointF tip = QPainterPath(path).elementAt(0);
-    path.moveTo(tip + QPointF(-0.6, -4.2));
-    path.lineTo(tip);
-    path.lineTo(tip + QPointF(4.2, -0.4));
+    QPainterPath path(QPointF(5.5, 2.5));
+    path.lineTo(2.5, 5.5);
+    path.lineTo(5.5, 8.5);
+    path.moveTo(2.5, 5.5);
+    path.lineTo(9.5, 5.5);
+    path.arcTo(QRectF(5.5, 5.5, 8, 8), 90, -180);
+    path.lineTo(6.5, 13.5);
     return path;
 }
 

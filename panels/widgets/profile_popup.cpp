@@ -67,11 +67,12 @@ void QVProfilePopUp_M880::rebuild()
         number = i < rows.size() ? rows.at(i).toUInt() : number + 1;
         addItem(names.at(i), number);
     }
-    if (!m_selected.isValid()) {
+    const uint selected = m_selected.toUInt();
+    // The device counts from 1, so 0 before any list was read is no selection yet.
+    if (!m_selected.isValid() || (names.isEmpty() && selected == 0)) {
         setCurrentIndex(-1);
         return;
     }
-    const uint selected = m_selected.toUInt();
     if (findData(selected) < 0)
         addItem(m_unnamedText.arg(selected), selected);
     setCurrentIndex(findData(selected));
