@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QStyle>
 
 namespace {
@@ -19,6 +20,7 @@ const bool registered = [] {
 }();
 
 constexpr int cornerRadius = 6; // px
+constexpr int leastWidth = 280; // px
 
 } // namespace
 
@@ -54,6 +56,19 @@ void QVNotice_M880::setWarning(bool warning)
 {
     m_warning = warning;
     updateIcon();
+}
+
+QSize QVNotice_M880::minimumSizeHint() const
+{
+    const int width = isVisible() ? this->width() : leastWidth;
+    return {leastWidth, heightForWidth(qMax(width, leastWidth))};
+}
+
+void QVNotice_M880::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry();
 }
 
 void QVNotice_M880::changeEvent(QEvent *event)

@@ -23,8 +23,11 @@ public:
     void setText(const QString &text);
     bool isWarning() const { return m_warning; }
     void setWarning(bool warning);
+    // As high as the text needs in the width that the notice has, so that nobody cuts its last line off.
+    QSize minimumSizeHint() const override;
 
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
