@@ -25,7 +25,7 @@ QList<QWidget *> QVViewStack_M880::views() const
 
 QSize QVViewStack_M880::sizeHint() const
 {
-    QSize largest;
+    QSize largest = minimumSizeHint();
     for (const QWidget *view : views())
         largest = largest.expandedTo(view->sizeHint());
     return largest;
