@@ -46,7 +46,14 @@ void QVChoiceSlider_M880::setChoices(const QVariant &choices)
             m_numbers += number;
     }
     std::sort(m_numbers.begin(), m_numbers.end());
+    setEnabled(m_allowed && !positions().isEmpty());
     QWidget::update();
+}
+
+void QVChoiceSlider_M880::setAllowed(bool allowed)
+{
+    m_allowed = allowed;
+    setEnabled(m_allowed && !positions().isEmpty());
 }
 
 void QVChoiceSlider_M880::showValue(int value)

@@ -22,6 +22,8 @@ class QVChoiceSlider_M880 : public QSlider
     // The option's choice dictionaries. Choices that are no whole numbers, or lie outside the range, are left
     // out; without any the thumb cannot be moved.
     Q_PROPERTY(QVariant choices READ choices WRITE setChoices)
+    // Whether the slider may be used at all, choices or not.
+    Q_PROPERTY(bool allowed READ isAllowed WRITE setAllowed)
     // Takes the place of the slider's own property of that name: writing shows, and only the user notifies.
     Q_PROPERTY(int value READ value WRITE showValue NOTIFY valueChosen USER true)
 public:
@@ -29,6 +31,8 @@ public:
 
     QVariant choices() const { return m_choices; }
     void setChoices(const QVariant &choices);
+    bool isAllowed() const { return m_allowed; }
+    void setAllowed(bool allowed);
     void showValue(int value);
 
 Q_SIGNALS:
@@ -48,6 +52,7 @@ private:
     std::optional<int> positionTowards(int wanted) const;
 
     QVariant m_choices;
+    bool m_allowed = true;
     QList<int> m_numbers; // ascending
     int m_shown = 0;      // where the thumb last rested
     bool m_showing = false;

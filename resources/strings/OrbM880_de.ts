@@ -283,8 +283,8 @@
         <translation>Fünf Ziffern, mit denen Sie einen vertraulichen Auftrag am Drucker freigeben</translation>
     </message>
     <message>
-        <source>Enter it at the printer to release a private job.</source>
-        <translation>Am Drucker einzugeben, um einen vertraulichen Auftrag freizugeben.</translation>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>Zum Freigeben am Drucker eingeben.</translation>
     </message>
     <message>
         <source>&amp;Department code:</source>
@@ -403,7 +403,7 @@
     </message>
     <message>
         <source>Black &amp;overprint:</source>
-        <translation>Schwarz überdr&amp;ucken:</translation>
+        <translation>Schwarz &amp;überdrucken:</translation>
     </message>
     <message>
         <source>Black overprint</source>
@@ -467,7 +467,7 @@
     </message>
     <message>
         <source>CMYK &amp;destination:</source>
-        <translation>CMYK-&amp;Ziel:</translation>
+        <translation>CMYK-Z&amp;iel:</translation>
     </message>
     <message>
         <source>CMYK destination profile</source>
@@ -494,7 +494,7 @@
         <translation>Absicht %1</translation>
     </message>
     <message>
-        <source>Apply to device &amp;colors only</source>
+        <source>&amp;Apply to device colors only</source>
         <translation>&amp;Nur auf Gerätefarben anwenden</translation>
     </message>
     <message>
@@ -502,7 +502,7 @@
         <translation>Lässt Farben unverändert, die ein eigenes Profil mitbringen</translation>
     </message>
     <message>
-        <source>&amp;Reload from Printer</source>
+        <source>Re&amp;load from Printer</source>
         <translation>Vom Drucker n&amp;eu laden</translation>
     </message>
     <message>

@@ -283,8 +283,8 @@
         <translation>Five digits that you enter at the printer to release a private job</translation>
     </message>
     <message>
-        <source>Enter it at the printer to release a private job.</source>
-        <translation>Enter it at the printer to release a private job.</translation>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>Enter it at the printer to release the job.</translation>
     </message>
     <message>
         <source>&amp;Department code:</source>
@@ -494,16 +494,16 @@
         <translation>Intent %1</translation>
     </message>
     <message>
-        <source>Apply to device &amp;colors only</source>
-        <translation>Apply to device &amp;colors only</translation>
+        <source>&amp;Apply to device colors only</source>
+        <translation>&amp;Apply to device colors only</translation>
     </message>
     <message>
         <source>Leaves colors alone that bring a profile of their own</source>
         <translation>Leaves colors alone that bring a profile of their own</translation>
     </message>
     <message>
-        <source>&amp;Reload from Printer</source>
-        <translation>&amp;Reload from Printer</translation>
+        <source>Re&amp;load from Printer</source>
+        <translation>Re&amp;load from Printer</translation>
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults</source>

@@ -283,8 +283,8 @@
         <translation>Cinq chiffres à saisir sur l’imprimante pour libérer une tâche confidentielle</translation>
     </message>
     <message>
-        <source>Enter it at the printer to release a private job.</source>
-        <translation>À saisir sur l’imprimante pour libérer une tâche confidentielle.</translation>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>À saisir sur l’imprimante pour libérer la tâche.</translation>
     </message>
     <message>
         <source>&amp;Department code:</source>
@@ -494,7 +494,7 @@
         <translation>Mode %1</translation>
     </message>
     <message>
-        <source>Apply to device &amp;colors only</source>
+        <source>&amp;Apply to device colors only</source>
         <translation>&amp;Appliquer aux couleurs d’appareil seulement</translation>
     </message>
     <message>
@@ -502,8 +502,8 @@
         <translation>Ne touche pas aux couleurs qui ont leur propre profil</translation>
     </message>
     <message>
-        <source>&amp;Reload from Printer</source>
-        <translation>&amp;Recharger depuis l’imprimante</translation>
+        <source>Re&amp;load from Printer</source>
+        <translation>Re&amp;charger depuis l’imprimante</translation>
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults</source>

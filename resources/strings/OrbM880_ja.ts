@@ -283,8 +283,8 @@
         <translation>プライベート印刷を実行するときにプリンターで入力する5桁の数字</translation>
     </message>
     <message>
-        <source>Enter it at the printer to release a private job.</source>
-        <translation>プライベート印刷を実行するときにプリンターで入力します。</translation>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>印刷を実行するときにプリンターで入力します。</translation>
     </message>
     <message>
         <source>&amp;Department code:</source>
@@ -494,7 +494,7 @@
         <translation>インテント %1</translation>
     </message>
     <message>
-        <source>Apply to device &amp;colors only</source>
+        <source>&amp;Apply to device colors only</source>
         <translation>デバイスカラーのみに適用(&amp;A)</translation>
     </message>
     <message>
@@ -502,7 +502,7 @@
         <translation>独自のプロファイルを持つ色には適用しません</translation>
     </message>
     <message>
-        <source>&amp;Reload from Printer</source>
+        <source>Re&amp;load from Printer</source>
         <translation>プリンターから再読み込み(&amp;L)</translation>
     </message>
     <message>
