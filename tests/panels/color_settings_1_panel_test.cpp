@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/color_settings_1_panel.h"
+
+#include "device/advanced_color_settings.h"
+#include "panelkit/ppd_popup_button.h"
+#include "panels/color_settings_2_panel.h"
+#include "panels/view_switch.h"
+#include "panels/view_utilities.h"
+#include "panels/widgets/notice.h"
+#include "panels/widgets/profile_popup.h"
+#include "plugin/manager.h"
+#include "tests/panels/panel_fixture.h"
+
+#include <QCheckBox>
+#include <QGraphicsEffect>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *basicView(QVPDE_M880 *panel)
+{
+    return widget<QWidget>(panel->panelView(), "basicView");
+}
+
+QWidget *advancedView(QVPDE_M880 *panel)
+{
+    return widget<QWidget>(panel->panelView(), "advancedView");
+}
+
+bool isAtRest(const QWidget *shown, const QWidget *hidden)
+{
+    return !ViewSwitch::runningIn(shown->parentWidget()) && shown->isVisible() && !hidden->isVisible() &&
+           shown->geometry() == shown->parentWidget()->rect() && !shown->graphicsEffect() &&
+           !hidden->graphicsEffect();
+}
+
+} // namespace
+
+class ColorSettings1PanelTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void centring_data();
+    void centring();
+    void framesOfASwitch();
+    void switchesWithoutBlocking();
+    void turnsRoundHalfWay();
+    void showingAndResizingDuringASwitch();
+    void imageTypeLeadsToTheAdvancedView();
+    void plainModelHasNoAdvancedView();
+    void basicControls();
+    void unreachablePrinterIsSaidInPlace();
+    void profilesCarryTheDevicesNumbers();
+    void unnamedNumberIsKept();
+    void deviceSettingsAreSavedFirst();
+};
+
+void ColorSettings1PanelTest::centring_data()
+{
+    QTest::addColumn<QSize>("around");
+    QTest::addColumn<QRectF>("frame");
+    QTest::newRow("even") << QSize(500, 400) << QRectF(50, 50, 400, 300);
+    QTest::newRow("half a pixel") << QSize(501, 401) << QRectF(50.5, 50.5, 400, 300);
+    QTest::newRow("larger than around") << QSize(300, 300) << QRectF(-50, 0, 400, 300);
+    QTest::newRow("no superview") << QSize() << QRectF(0, 0, 0, 0);
+}
+
+void ColorSettings1PanelTest::centring()
+{
+    QFETCH(const QSize, around);
+    QFETCH(const QRectF, frame);
+    QWidget superview;
+    superview.resize(around);
+    QWidget view(around.isValid() ? &superview : nullptr);
+    view.setGeometry(7, 7, 400, 300);
+    QCOMPARE(QVViewUtilities_M880::centeredInSuperviewFrame(&view), frame);
+    QVViewUtilities_M880::centerInSuperview(&view);
+    QCOMPARE(view.geometry(), QRect(frame.topLeft().toPoint(), QSize(400, 300)));
+}
+
+void ColorSettings1PanelTest::framesOfASwitch()
+{
+    const QRect basic(20, 35, 400, 300);
+    const QRect advanced(20, 10, 400, 350);
+    const ViewSwitchFrames there = framesForSwitch(basic, advanced, SwitchDirection::ToAdvanced);
+    QCOMPARE(there.outgoing.startFrame, QRect(20, 0, 400, 300));
+    QCOMPARE(there.outgoing.endFrame, QRect(20, 300, 400, 300));
+    QCOMPARE(there.incoming.startFrame, QRect(20, -350, 400, 350));
+    QCOMPARE(there.incoming.endFrame, QRect(20, 0, 400, 350));
+
+    const ViewSwitchFrames back = framesForSwitch(advanced, basic, SwitchDirection::Back);
+    QCOMPARE(back.outgoing.startFrame, QRect(20, 0, 400, 350));
+    QCOMPARE(back.outgoing.endFrame, QRect(20, -350, 400, 350));
+    QCOMPARE(back.incoming.startFrame, QRect(20, 300, 400, 300));
+    QCOMPARE(back.incoming.endFrame, QRect(20, 0, 400, 300));
+}
+
+void ColorSettings1PanelTest::switchesWithoutBlocking()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel);
+    QWidget *basic = basicView(panel);
+    QWidget *advanced = advancedView(panel);
+    QVERIFY(isAtRest(basic, advanced));
+    panel->goBack(nullptr); // the current view already
+    QVERIFY(!ViewSwitch::runningIn(view));
+
+    QElapsedTimer time;
+    time.start();
+    panel->goToAdvanced(nullptr);
+    QCOMPARE(panel->currentView(), advanced);
+    const QPointer<ViewSwitch> running = ViewSwitch::runningIn(view);
+    QVERIFY(running);
+    QCOMPARE(running->frames(), framesForSwitch(view->rect(), view->rect(), SwitchDirection::ToAdvanced));
+    QVERIFY(basic->isVisible() && advanced->isVisible());
+    QTRY_VERIFY(running && running->progress() > 0.3);
+    QVERIFY(basic->y() > 0 && advanced->y() < 0);
+    QVERIFY(basic->graphicsEffect() && advanced->graphicsEffect());
+    QTRY_VERIFY(isAtRest(advanced, basic));
+    QVERIFY2(time.elapsed() >= 450, qPrintable(QString::number(time.elapsed())));
+
+    QTest::mouseClick(widget<QPushButton>(view, "backButton"), Qt::LeftButton);
+    QCOMPARE(panel->currentView(), basic);
+    QVERIFY(basic->y() > 0); // comes from where it went
+    QTRY_VERIFY(isAtRest(basic, advanced));
+}
+
+void ColorSettings1PanelTest::turnsRoundHalfWay()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel);
+    QWidget *basic = basicView(panel);
+    QWidget *advanced = advancedView(panel);
+    panel->goToAdvanced(nullptr);
+    for (QWidget *incoming : {basic, advanced, basic}) {
+        const QPointer<ViewSwitch> running = ViewSwitch::runningIn(view);
+        QTRY_VERIFY(running && running->progress() > 0.25);
+        const int basicY = basic->y();
+        const int advancedY = advanced->y();
+        panel->animateViewIn(incoming);
+        QVERIFY(!running); // one at a time
+        QCOMPARE(panel->currentView(), incoming);
+        // Nothing jumps, but for a frame's worth of time.
+        QVERIFY(qAbs(basic->y() - basicY) <= view->height() / 10);
+        QVERIFY(qAbs(advanced->y() - advancedY) <= view->height() / 10);
+        QCOMPARE(ViewSwitch::runningIn(view)->frames().incoming.endFrame.y(), 0);
+    }
+    QTRY_VERIFY(isAtRest(basic, advanced));
+}
+
+void ColorSettings1PanelTest::showingAndResizingDuringASwitch()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    QWidget *view = dialog.show(panel);
+    panel->goToAdvanced(nullptr);
+    view->resize(view->width() + 80, view->height() + 60);
+    QTRY_VERIFY(isAtRest(advancedView(panel), basicView(panel)));
+
+    auto *stray = new QWidget(view);
+    stray->show();
+    panel->goBack(nullptr);
+    panel->goToAdvanced(nullptr);
+    panel->willShow();
+    QCOMPARE(panel->currentView(), basicView(panel));
+    QVERIFY(isAtRest(basicView(panel), advancedView(panel)));
+    QVERIFY(!stray->isVisible());
+}
+
+void ColorSettings1PanelTest::imageTypeLeadsToTheAdvancedView()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel);
+    const auto *button = widget<QPushButton>(view, "advancedButton");
+    QVERIFY(button->isVisible() && !button->isEnabled());
+    QSignalSpy changes(panel, &platform::KeyValueObject::valueDidChange);
+
+    auto *imageType = widget<QVPopUpButton_M880>(view, "imageType");
+    imageType->setFocus();
+    QTest::keyClick(imageType, Qt::Key_End); // "Advanced"
+    QCOMPARE(panel->currentView(), advancedView(panel));
+    QVERIFY(panel->advancedSelected());
+    QVERIFY(advancedView(panel)->isAncestorOf(view->focusWidget()));
+    QTRY_VERIFY(isAtRest(advancedView(panel), basicView(panel)));
+
+    panel->setValueForKey(u"General"_s, u"ImageType"_s);
+    QCOMPARE(panel->currentView(), advancedView(panel));
+    QVERIFY(!panel->advancedSelected());
+    QCOMPARE(changes.count(QVariantList{u"advancedSelected"_s}), 2);
+    panel->setAdvancedSelected(true);
+    QVERIFY(!panel->advancedSelected());
+
+    // From any panel, as long as it goes through the dialog's notification centre.
+    panel->willShow();
+    panel->manager()->notificationCenter()->postNotification(
+        u"ImageType"_s, nullptr, {{platform::NSKeyValueChangeNewKey, u"Advanced"_s}});
+    QCOMPARE(panel->currentView(), advancedView(panel));
+}
+
+void ColorSettings1PanelTest::plainModelHasNoAdvancedView()
+{
+    PanelFixture dialog("kel310");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    QCOMPARE(panel->panelKind(), u"com.kelmar.pde.color-settings-1"_s);
+    const QStringList keys{u"ColorType"_s, u"Halftone"_s,       u"TonerSave"_s,
+                           u"ImageType"_s, u"BlackOverPrint"_s, u"PureBlackGray"_s};
+    QCOMPARE(panel->supportedPPDOptionKeys(), keys);
+    QVERIFY(!panel->hasAdvanced() && !panel->hasResolution());
+    QVERIFY(!panel->advancedColorSettingsManager());
+
+    const QWidget *view = dialog.show(panel);
+    QVERIFY(!widget<QPushButton>(view, "advancedButton")->isVisible());
+    QVERIFY(!widget<QLabel>(view, "resolutionLabel")->isVisible());
+    QVERIFY(!widget<QVPopUpButton_M880>(view, "resolution")->isVisible());
+    panel->reloadDefaultSNMPValues(nullptr);
+    panel->saveValuesAndReturnError(nullptr);
+    QVERIFY(dialog.host.blockingWork.isEmpty()); // no device was asked
+}
+
+void ColorSettings1PanelTest::basicControls()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel);
+    QCOMPARE(panel->supportedPPDOptionKeys().last(), u"Resolution"_s);
+    QVERIFY(widget<QVPopUpButton_M880>(view, "resolution")->isVisible());
+    QTest::mouseClick(widget<QCheckBox>(view, "tonerSave"), Qt::LeftButton, {}, QPoint(8, 8));
+    QCOMPARE(panel->valueForKey(u"TonerSave"_s).toString(), u"True"_s);
+    QVERIFY(!widget<QVPopUpButton_M880>(view, "halftone")->isItemEnabled(1)); // detail takes toner
+    panel->saveValuesAndReturnError(nullptr);
+    QCOMPARE(dialog.marked(u"TonerSave"_s), u"True"_s);
+    panel->setValueForKey(u"False"_s, u"TonerSave"_s);
+    QVERIFY(!widget<QCheckBox>(view, "tonerSave")->isChecked());
+}
+
+void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
+{
+    PanelFixture dialog("kelm880", QLocale(QLocale::German));
+    dialog.host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_s);
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel); // the session has no printer
+    QCOMPARE(dialog.host.blockingWork, QStringList{u"Farbprofile werden vom Drucker abgefragt…"_s});
+    panel->setCurrentView(advancedView(panel));
+    const auto *notice = widget<QVNotice_M880>(view, "unavailableNotice");
+    QVERIFY(notice->isVisible());
+    QVERIFY2(notice->text().startsWith(u"Der Drucker ist nicht erreichbar"), qPrintable(notice->text()));
+    for (const char *name : {"rgbSource", "cmykSource", "cmykDestination", "renderingIntent",
+                             "applyToDeviceColorOnly", "reloadButton"})
+        QVERIFY2(!widget<QWidget>(view, name)->isEnabled(), name);
+    QVERIFY(widget<QPushButton>(view, "backButton")->isEnabled());
+
+    panel->saveValuesAndReturnError(nullptr);
+    QVERIFY(!dialog.host.settings.value(QVRgbSourceProfileIndexKey).isValid());
+    QCOMPARE(dialog.host.blockingWork.size(), 1); // saving asks nobody
+}
+
+void ColorSettings1PanelTest::profilesCarryTheDevicesNumbers()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    const QWidget *view = dialog.show(panel);
+    auto *device = panel->advancedColorSettingsManager();
+    device->setSnmpEnabledWithReason(true, QString());
+    QVERIFY(!widget<QVNotice_M880>(view, "unavailableNotice")->isVisible());
+    device->setRgbSourceProfiles({u"sRGB"_s, u"Adobe <b>RGB</b>"_s, u"Display P3"_s});
+    device->setSelectedRgbSourceProfile(2);
+    panel->setCurrentView(advancedView(panel));
+    auto *rgb = widget<QVProfilePopUp_M880>(view, "rgbSource");
+    QVERIFY(rgb->isEnabled());
+    QCOMPARE(rgb->currentText(), u"Adobe <b>RGB</b>"_s);
+
+    rgb->setFocus();
+    QTest::keyClick(rgb, Qt::Key_Down);
+    QCOMPARE(device->selectedRgbSourceProfile(), 3U);
+    auto *intent = widget<QVProfilePopUp_M880>(view, "renderingIntent");
+    QCOMPARE(intent->currentText(), u"Perceptual"_s);
+    intent->setFocus();
+    QTest::keyClick(intent, Qt::Key_End);
+    QCOMPARE(device->renderingIntent(), 3U);
+    QTest::keyClick(widget<QCheckBox>(view, "applyToDeviceColorOnly"), Qt::Key_Space);
+    QVERIFY(device->applyToDeviceColorOnly());
+}
+
+void ColorSettings1PanelTest::unnamedNumberIsKept()
+{
+    // A row without a name has a number but no place in the list.
+    QVProfilePopUp_M880 popUp;
+    popUp.setUnnamedText(u"Profile %1"_s);
+    QSignalSpy chosen(&popUp, &QVProfilePopUp_M880::profileChosen);
+    popUp.setSelectedProfile(7U);
+    popUp.setProfileNames(QStringList{u"First"_s, u"Third"_s});
+    popUp.setProfileRows(QVariantList{1U, 3U});
+    QCOMPARE(popUp.currentText(), u"Profile 7"_s);
+    QCOMPARE(popUp.count(), 3);
+    popUp.setSelectedProfile(2U);
+    QCOMPARE(popUp.currentText(), u"Profile 2"_s);
+    popUp.setSelectedProfile(3U);
+    QCOMPARE(popUp.currentText(), u"Third"_s);
+    QCOMPARE(popUp.count(), 2);
+    QVERIFY(chosen.isEmpty());
+    QTest::keyClick(&popUp, Qt::Key_Up);
+    QCOMPARE(popUp.selectedProfile().toUInt(), 1U);
+    QCOMPARE(chosen.size(), 1);
+}
+
+void ColorSettings1PanelTest::deviceSettingsAreSavedFirst()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
+    dialog.show(panel);
+    panel->advancedColorSettingsManager()->setSnmpEnabledWithReason(true, QString());
+    panel->advancedColorSettingsManager()->setRenderingIntent(3);
+    QStringList seen;
+    dialog.host.onTold = [&](const QString &) {
+        seen += dialog.host.settings.value(QVRenderingIntentKey).toString();
+    };
+    QVERIFY(panel->saveValuesAndReturnError(nullptr));
+    QVERIFY(!seen.isEmpty());
+    QCOMPARE(seen.first(), u"3"_s);
+}
+
+QTEST_MAIN(ColorSettings1PanelTest)
+#include "color_settings_1_panel_test.moc"

@@ -1,0 +1,304 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/color_settings_2_panel.h"
+
+#include "panelkit/ppd_popup_button.h"
+#include "panels/color_settings_1_panel.h"
+#include "panels/widgets/choice_slider.h"
+#include "panels/widgets/notice.h"
+#include "panels/widgets/signed_value_label.h"
+#include "plugin/manager.h"
+#include "tests/panels/panel_fixture.h"
+#include "tests/support/inline_ppd.h"
+
+#include <QAbstractButton>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList balanceKeys{u"ColorBalanceCyan"_s, u"ColorBalanceMagenta"_s, u"ColorBalanceYellow"_s,
+                              u"ColorBalanceBlack"_s};
+
+// Where the thumb of a slider stands when it shows a number.
+QPoint thumbAt(const QSlider *slider, int number)
+{
+    struct Access : QSlider
+    {
+        using QSlider::initStyleOption;
+    };
+    QStyleOptionSlider option;
+    (slider->*(&Access::initStyleOption))(&option);
+    option.sliderPosition = number;
+    return slider->style()
+        ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
+        .center();
+}
+
+void drag(QSlider *slider, int from, int to)
+{
+    QTest::mousePress(slider, Qt::LeftButton, {}, thumbAt(slider, from));
+    QTest::mouseMove(slider, (thumbAt(slider, from) + thumbAt(slider, to)) / 2);
+    QTest::mouseMove(slider, thumbAt(slider, to));
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, thumbAt(slider, to));
+}
+
+QString value(QVPDE_M880 *panel, const QString &key)
+{
+    return panel->valueForKey(key).toString();
+}
+
+// Sharpness in three coarse steps, and nothing else that the panel serves.
+InlinePpd coarsePpd()
+{
+    return InlinePpd(ppdOption("SharpnessVRN/Sharpness", {"0", "-4", "4"}));
+}
+
+} // namespace
+
+class ColorSettings2PanelTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void optionsFollowTheModel_data();
+    void optionsFollowTheModel();
+    void slidersMoveByKeyboardAndMouse();
+    void neutralButtons();
+    void colorModeResetsAndAllowsBalance();
+    void onlyAnAnnouncedColorModeCounts();
+    void neverOnAPositionWithoutChoice_data();
+    void neverOnAPositionWithoutChoice();
+    void stepsSkipWhatIsMissing();
+    void foreignValueIsShownNotChanged_data();
+    void foreignValueIsShownNotChanged();
+    void sliderOfAMissingOptionStandsStill();
+    void signedTexts_data();
+    void signedTexts();
+};
+
+void ColorSettings2PanelTest::optionsFollowTheModel_data()
+{
+    QTest::addColumn<QByteArray>("ppd");
+    QTest::addColumn<int>("options");
+    QTest::addColumn<QString>("layout");
+    QTest::newRow("with background") << QByteArray("kelm880") << 9 << "ColorSettings2";
+    QTest::newRow("without background") << QByteArray("kelo2600") << 8 << "ColorSettings2-2600c";
+}
+
+void ColorSettings2PanelTest::optionsFollowTheModel()
+{
+    QFETCH(const QByteArray, ppd);
+    QFETCH(const int, options);
+    PanelFixture dialog(ppd);
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    QCOMPARE(panel->panelKind(), u"com.kelmar.pde.color-settings-2"_s);
+    QTEST(panel->nibNameForModel(panel->manager()->currentModel()), "layout");
+    QCOMPARE(panel->supportedPPDOptionKeys().size(), options);
+    const QWidget *view = dialog.show(panel);
+    QCOMPARE(view->findChildren<QSlider *>().size(), options);
+    QCOMPARE(view->findChild<QSlider *>(u"backgroundSlider"_s) != nullptr, options == 9);
+}
+
+void ColorSettings2PanelTest::slidersMoveByKeyboardAndMouse()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    QWidget *view = dialog.show(panel);
+    auto *slider = widget<QVChoiceSlider_M880>(view, "sharpnessSlider");
+    const auto *label = widget<QVSignedValueLabel_M880>(view, "sharpnessValue");
+
+    QTest::keyClick(view, Qt::Key_S, Qt::AltModifier);
+    QVERIFY(slider->hasFocus());
+    QTest::keyClick(slider, Qt::Key_Right);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"1"_s);
+    QTest::keyClick(slider, Qt::Key_PageUp);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"3"_s);
+    QCOMPARE(label->text(), u"+3"_s);
+    QTest::keyClick(slider, Qt::Key_Home);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"-5"_s);
+    drag(slider, -5, 2);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"2"_s);
+
+    panel->setValueForKey(u"-4"_s, u"SharpnessVRN"_s);
+    QCOMPARE(slider->value(), -4);
+    QCOMPARE(label->text(), u"−4"_s);
+}
+
+void ColorSettings2PanelTest::neutralButtons()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    const QWidget *view = dialog.show(panel);
+    auto *contrast = widget<QAbstractButton>(view, "contrastNeutral");
+    QVERIFY(!contrast->isEnabled());
+    for (const QString &key : panel->supportedPPDOptionKeys())
+        panel->setValueForKey(u"3"_s, key);
+    QVERIFY(contrast->isEnabled());
+    QTest::mouseClick(contrast, Qt::LeftButton);
+    QCOMPARE(value(panel, u"ContrastVRN"_s), u"0"_s);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"3"_s);
+    QVERIFY(!contrast->isEnabled());
+
+    QTest::mouseClick(widget<QAbstractButton>(view, "resetAllButton"), Qt::LeftButton);
+    for (const QString &key : panel->supportedPPDOptionKeys())
+        QCOMPARE(value(panel, key), u"0"_s);
+}
+
+void ColorSettings2PanelTest::colorModeResetsAndAllowsBalance()
+{
+    PanelFixture dialog("kelm880");
+    auto *colors = dialog.panel<QVPDEColorSettings1_M880>();
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    const QWidget *view = dialog.show(panel);
+    const auto *slider = widget<QSlider>(view, "yellowSlider");
+    const auto *notice = widget<QVNotice_M880>(view, "colorBalanceNotice");
+    for (const QString &key : balanceKeys)
+        panel->setValueForKey(u"2"_s, key);
+    panel->setValueForKey(u"2"_s, u"SharpnessVRN"_s);
+    panel->saveValuesAndReturnError(nullptr);
+    QVERIFY(!notice->isVisible());
+    dialog.host.told.clear();
+
+    colors->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    QVERIFY(!panel->colorBalanceAllowed());
+    QVERIFY(!slider->isEnabled());
+    QVERIFY(widget<QSlider>(view, "sharpnessSlider")->isEnabled());
+    QVERIFY(notice->isVisible());
+    QCOMPARE(notice->text(), u"Color balance is not available in the color mode “Black and White”."_s);
+    // The job knows before anybody saves.
+    for (const QString &key : balanceKeys) {
+        QCOMPARE(value(panel, key), u"0"_s);
+        QCOMPARE(dialog.marked(key), u"0"_s);
+        QVERIFY(std::ranges::count(dialog.host.told, std::pair<QString, QVariant>(key, u"0"_s)) == 1);
+    }
+    QCOMPARE(dialog.marked(u"SharpnessVRN"_s), u"2"_s);
+
+    dialog.host.told.clear();
+    colors->setValueForKey(u"Color"_s, u"ColorType"_s);
+    QVERIFY(panel->colorBalanceAllowed());
+    QVERIFY(slider->isEnabled());
+    QVERIFY(!notice->isVisible());
+    QCOMPARE(value(panel, u"ColorBalanceYellow"_s), u"0"_s);
+    QVERIFY(dialog.host.told.empty());
+}
+
+void ColorSettings2PanelTest::onlyAnAnnouncedColorModeCounts()
+{
+    InlinePpd ppd(ppdOption("ColorType", {"Mono", "Color"}) + ppdOption("ColorBalanceCyan", {"0", "1"}) +
+                  ppdConstraint("ColorType Mono", "ColorBalanceCyan 1"));
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    panel->restoreValuesAndReturnError(nullptr);
+    QVERIFY(panel->colorBalanceAllowed());
+    dialog.panel<QVPDEColorSettings1_M880>()->restoreValuesAndReturnError(nullptr);
+    QVERIFY(!panel->colorBalanceAllowed());
+}
+
+void ColorSettings2PanelTest::neverOnAPositionWithoutChoice_data()
+{
+    QTest::addColumn<int>("wanted");
+    QTest::addColumn<int>("reached");
+    QTest::newRow("a choice") << 4 << 4;
+    QTest::newRow("nearest above") << 3 << 4;
+    QTest::newRow("nearest below") << -5 << -4;
+    QTest::newRow("back to where it was") << 1 << 0;
+    QTest::newRow("half way stays") << 2 << 0;
+}
+
+void ColorSettings2PanelTest::neverOnAPositionWithoutChoice()
+{
+    QFETCH(const int, wanted);
+    QFETCH(const int, reached);
+    const InlinePpd ppd = coarsePpd();
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "sharpnessSlider");
+    QStringList seen;
+    connect(panel, &platform::KeyValueObject::valueDidChange, this, [&](const QString &key) {
+        if (key == u"SharpnessVRN")
+            seen += value(panel, key);
+    });
+    drag(slider, 0, wanted);
+    QCOMPARE(slider->value(), reached);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), QString::number(reached));
+    for (const QString &number : std::as_const(seen))
+        QVERIFY2(number == u"0" || number == u"4" || number == u"-4", qPrintable(number));
+}
+
+void ColorSettings2PanelTest::stepsSkipWhatIsMissing()
+{
+    const InlinePpd ppd = coarsePpd();
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "sharpnessSlider");
+    slider->setFocus();
+    QStringList reached;
+    for (const Qt::Key key :
+         {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
+        QTest::keyClick(slider, key);
+        reached += value(panel, u"SharpnessVRN"_s);
+    }
+    QCOMPARE(reached, QStringList({u"4"_s, u"4"_s, u"0"_s, u"-4"_s, u"-4"_s, u"4"_s}));
+}
+
+void ColorSettings2PanelTest::foreignValueIsShownNotChanged_data()
+{
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("beyond the range") << "9"
+                                      << "+9";
+    QTest::newRow("between choices") << "3"
+                                     << "+3";
+    QTest::newRow("no number") << "Custom"
+                               << "0";
+}
+
+void ColorSettings2PanelTest::foreignValueIsShownNotChanged()
+{
+    QFETCH(const QString, choice);
+    const InlinePpd ppd = coarsePpd();
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    QWidget *view = dialog.show(panel);
+    panel->setValueForKey(choice, u"SharpnessVRN"_s);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), choice);
+    QTEST(widget<QVSignedValueLabel_M880>(view, "sharpnessValue")->text(), "label");
+    view->resize(view->width() + 50, view->height());
+    panel->saveValuesAndReturnError(nullptr);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), choice);
+}
+
+void ColorSettings2PanelTest::sliderOfAMissingOptionStandsStill()
+{
+    const InlinePpd ppd = coarsePpd();
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "cyanSlider");
+    QVERIFY(!slider->isEnabled());
+    panel->setColorBalanceAllowed(true);
+    QVERIFY(!slider->isEnabled());
+    slider->setValue(3);
+    QCOMPARE(slider->value(), 0);
+}
+
+void ColorSettings2PanelTest::signedTexts_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("above") << 3 << "+3";
+    QTest::newRow("neutral") << 0 << "0";
+    QTest::newRow("below") << -2 << "−2";
+    QTest::newRow("lowest") << std::numeric_limits<int>::min() << "−2147483648";
+}
+
+void ColorSettings2PanelTest::signedTexts()
+{
+    QFETCH(const int, number);
+    QTEST(QVSignedValueLabel_M880::textForValue(number), "text");
+}
+
+QTEST_MAIN(ColorSettings2PanelTest)
+#include "color_settings_2_panel_test.moc"

@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/color_settings_1_panel.h"
+#include "platform/bundle.h"
+#include "tests/panels/panel_fixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QComboBox>
+#include <QFile>
+#include <QKeySequence>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <cups/ppd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList languages{u"en"_s, u"de"_s, u"fr"_s, u"ja"_s};
+
+QString describe(const QWidget *widget)
+{
+    const QSize wanted = widget->sizeHint();
+    return u"%1 “%2” in %3 is %4x%5, wants %6x%7"_s
+        .arg(widget->objectName(), widget->property("text").toString(), widget->window()->windowTitle())
+        .arg(widget->width())
+        .arg(widget->height())
+        .arg(wanted.width())
+        .arg(wanted.height());
+}
+
+// The room a widget lacks for its text; 0 by 0 where it lacks none.
+QSize clipped(const QWidget *widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    QSize wanted(widget->sizeHint().width(), widget->minimumSizeHint().height());
+    if (label && label->wordWrap())
+        wanted = {label->width(), label->heightForWidth(label->width())};
+    return {qMax(0, wanted.width() - widget->width()), qMax(0, wanted.height() - widget->height())};
+}
+
+bool showsText(const QWidget *widget)
+{
+    return qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget) ||
+           qobject_cast<const QComboBox *>(widget);
+}
+
+// Texts to be translated, by the context they are looked up in.
+QList<std::pair<QByteArray, QString>> textsOfLayout(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    QXmlStreamReader reader(&file);
+    QByteArray context;
+    QList<std::pair<QByteArray, QString>> texts;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == u"class" && context.isEmpty())
+            context = reader.readElementText().toUtf8();
+        else if (reader.name() == u"string" && reader.attributes().value("notr"_L1) != u"true")
+            texts.emplace_back(context, reader.readElementText());
+    }
+    return texts;
+}
+
+QStringList localizableKeys()
+{
+    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/resources/strings/localizable_keys.cpp"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("the list of keys cannot be read");
+    QStringList keys;
+    static const QRegularExpression key(u"\"Localizable\", \"([^\"]+)\""_s);
+    auto matches = key.globalMatch(QString::fromUtf8(file.readAll()));
+    while (matches.hasNext())
+        keys += matches.next().captured(1);
+    return keys;
+}
+
+// What a PPD says in a language: for "Translation OPTION" and for "OPTION CHOICE". Read from its lines, as
+// libcups keeps those of one language only.
+QHash<QString, QString> ppdTexts(const QByteArray &ppdName, const QString &language)
+{
+    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(QString::fromLatin1(ppdName)));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(file.fileName()));
+    const QRegularExpression line(u"^\\*%1\\.(\\w+ [^/]+)/(.*): \"\"$"_s.arg(language),
+                                  QRegularExpression::MultilineOption);
+    QHash<QString, QString> texts;
+    auto matches = line.globalMatch(QString::fromUtf8(file.readAll()));
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        texts.insert(match.captured(1), match.captured(2));
+    }
+    return texts;
+}
+
+} // namespace
+
+class PanelLayoutsTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void fitAndCanBeReached_data();
+    void fitAndCanBeReached();
+    void everyTextIsTranslated_data();
+    void everyTextIsTranslated();
+    void textsAgreeWithThePpd_data();
+    void textsAgreeWithThePpd();
+
+private:
+    void checkView(QWidget *view);
+};
+
+void PanelLayoutsTest::fitAndCanBeReached_data()
+{
+    QTest::addColumn<QByteArray>("ppd");
+    QTest::addColumn<QString>("language");
+    for (const QByteArray ppd : {"kelm880", "kelo2600"}) {
+        for (const QString &language : languages)
+            QTest::addRow("%s %s", ppd.constData(), qPrintable(language)) << ppd << language;
+    }
+}
+
+void PanelLayoutsTest::fitAndCanBeReached()
+{
+    QFETCH(const QByteArray, ppd);
+    QFETCH(const QString, language);
+    PanelFixture dialog(ppd, QLocale(language));
+    for (const auto &panel : dialog.panels()) {
+        auto *base = dynamic_cast<QVPDE_M880 *>(panel.get());
+        QWidget *view = dialog.show(base);
+        view->setWindowTitle(panel->panelName());
+        // Where two settings forbid each other the panel must have room for saying so.
+        if (base->supportedPPDOptionKeys().contains(u"ColorType"_s))
+            base->setValueForKey(u"Mono"_s, u"ColorType"_s);
+        view->resize(view->minimumSizeHint());
+        checkView(view);
+        if (auto *colors = dynamic_cast<QVPDEColorSettings1_M880 *>(base); colors && colors->hasAdvanced()) {
+            colors->setCurrentView(widget<QWidget>(view, "advancedView"));
+            checkView(view);
+        }
+        view->hide();
+    }
+}
+
+void PanelLayoutsTest::checkView(QWidget *view)
+{
+    QCoreApplication::processEvents();
+    QHash<QString, QString> mnemonics;
+    for (QWidget *widget : view->findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        if (showsText(widget))
+            QVERIFY2(clipped(widget) == QSize(0, 0), qPrintable(describe(widget)));
+        QVERIFY2(view->rect().contains(QRect(widget->mapTo(view, QPoint()), widget->size())),
+                 qPrintable(describe(widget)));
+        const QString mnemonic = QKeySequence::mnemonic(widget->property("text").toString()).toString();
+        const auto *label = qobject_cast<QLabel *>(widget);
+        if ((label && label->buddy()) || (qobject_cast<QAbstractButton *>(widget) && !mnemonic.isEmpty())) {
+            QVERIFY2(!mnemonic.isEmpty(), qPrintable(describe(widget)));
+            QVERIFY2(!mnemonics.contains(mnemonic),
+                     qPrintable(describe(widget) + u" and "_s + mnemonics.value(mnemonic)));
+            mnemonics.insert(mnemonic, describe(widget));
+        }
+        if (widget->focusPolicy() & Qt::TabFocus) {
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(describe(widget)));
+            QVERIFY2(!widget->toolTip().isEmpty(), qPrintable(describe(widget)));
+        }
+    }
+}
+
+void PanelLayoutsTest::everyTextIsTranslated_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : languages)
+        QTest::addRow("%s", qPrintable(language)) << language;
+}
+
+void PanelLayoutsTest::everyTextIsTranslated()
+{
+    QFETCH(const QString, language);
+    const QString folder = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle");
+    QTranslator table;
+    QVERIFY(table.load(folder + u"/strings/OrbM880_%1.qm"_s.arg(language)));
+    for (const char *layout : {"PrintMode", "ColorSettings1", "ColorSettings2", "ColorSettings2-2600c"}) {
+        for (const auto &[context, text] :
+             textsOfLayout(folder + u"/layouts/%1.ui"_s.arg(QLatin1String(layout))))
+            QVERIFY2(!table.translate(context.constData(), text.toUtf8().constData()).isEmpty(),
+                     qPrintable(text));
+    }
+    const QStringList keys = localizableKeys();
+    QVERIFY(keys.size() > 40);
+    for (const QString &key : keys)
+        QVERIFY2(!table.translate("Localizable", key.toUtf8().constData()).isEmpty(), qPrintable(key));
+}
+
+void PanelLayoutsTest::textsAgreeWithThePpd_data()
+{
+    fitAndCanBeReached_data();
+}
+
+// The host shows the PPD's wording, the panels that of the string tables; the user must find one dialog.
+void PanelLayoutsTest::textsAgreeWithThePpd()
+{
+    QFETCH(const QByteArray, ppd);
+    QFETCH(const QString, language);
+    PanelFixture dialog(ppd, QLocale(language));
+    const QHash<QString, QString> translated = ppdTexts(ppd, language);
+    QCOMPARE(translated.isEmpty(), language == u"en");
+    int compared = 0;
+    for (const auto &panel : dialog.panels()) {
+        for (const QString &key : dynamic_cast<QVPDE_M880 *>(panel.get())->supportedPPDOptionKeys()) {
+            const ppd_option_t *option = ppdFindOption(dialog.host.ppd, key.toLatin1().constData());
+            if (!option || key.contains(u"Digit"_s))
+                continue;
+            QString text = translated.value(u"Translation "_s + key, QString::fromUtf8(option->text));
+            QCOMPARE(dialog.bundle()->localizedStringForKey(key), text);
+            for (int i = 0; i < option->num_choices; ++i) {
+                const QString choice = QString::fromLatin1(option->choices[i].choice);
+                text = translated.value(key + u' ' + choice, QString::fromUtf8(option->choices[i].text));
+                QCOMPARE(dialog.bundle()->localizedStringForKey(key + u':' + choice, text), text);
+                ++compared;
+            }
+        }
+    }
+    QVERIFY(compared > 100);
+}
+
+QTEST_MAIN(PanelLayoutsTest)
+#include "panel_layouts_test.moc"

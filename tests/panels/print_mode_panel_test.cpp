@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "panels/print_mode_panel.h"
+
+#include "panelkit/ppd_popup_button.h"
+#include "platform/text_field.h"
+#include "tests/panels/panel_fixture.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class PrintModePanelTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void startsWithZeroCodes();
+    void modelWithoutPassword();
+    void keyboardDrivesModeAndPassword();
+    void departmentCodeFollowsItsSwitch();
+    void codeFieldKeepsFiveDigits_data();
+    void codeFieldKeepsFiveDigits();
+    void saveCommitsWhatIsBeingTyped();
+    void codesAreTheirDigits();
+    void summaryShowsCodesBehindTheirChoice();
+    void greyedChoiceSaysWhy();
+};
+
+void PrintModePanelTest::startsWithZeroCodes()
+{
+    const PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    QCOMPARE(panel->panelKind(), u"com.kelmar.pde.print-mode"_s);
+    QCOMPARE(panel->panelName(), u"Print Mode"_s);
+    QCOMPARE(panel->supportedPPDOptionKeys().size(), 14);
+    QCOMPARE(panel->supportedPPDOptionKeys().last(), u"DINDigit5"_s);
+    QCOMPARE(panel->departmentCode(), u"00000"_s);
+    QCOMPARE(panel->privatePassword(), u"00000"_s);
+    QVERIFY(panel->hasPrintMode());
+}
+
+void PrintModePanelTest::modelWithoutPassword()
+{
+    PanelFixture dialog("kelo110");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    QCOMPARE(panel->supportedPPDOptionKeys().size(), 9);
+    QVERIFY(!panel->hasPrintMode());
+    panel->setPrivatePassword(u"12345"_s);
+    QCOMPARE(panel->privatePassword(), u"00000"_s);
+
+    const QWidget *view = dialog.show(panel);
+    QVERIFY(!widget<QLabel>(view, "passwordLabel")->isVisible());
+    QVERIFY(!widget<QLabel>(view, "passwordHint")->isVisible());
+    QVERIFY(!widget<platform::TextField>(view, "passwordField")->isVisible());
+    QVERIFY(widget<platform::TextField>(view, "departmentCodeField")->isVisible());
+    // Even a value that this model's PPD does not offer leaves the summary without an error.
+    panel->setValueForKey(u"Private"_s, u"PrintMode"_s);
+    QCOMPARE(panel->summaryForKey(u"PrintMode"_s), u"Normal"_s);
+}
+
+void PrintModePanelTest::keyboardDrivesModeAndPassword()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    QWidget *view = dialog.show(panel);
+    auto *password = widget<platform::TextField>(view, "passwordField");
+    QVERIFY(!password->isEnabled());
+    QSignalSpy changes(panel, &platform::KeyValueObject::valueDidChange);
+
+    QTest::keyClick(view, Qt::Key_M, Qt::AltModifier); // the label's mnemonic
+    QVERIFY(widget<QVPopUpButton_M880>(view, "printModePopUp")->hasFocus());
+    QTest::keyClick(view->focusWidget(), Qt::Key_Down);
+    QCOMPARE(panel->valueForKey(u"PrintMode"_s).toString(), u"Private"_s);
+    QVERIFY(changes.contains(QVariantList{u"isPrivate"_s}));
+    QVERIFY(panel->isPrivate());
+    QVERIFY(password->isEnabled());
+
+    QTest::keyClick(view->focusWidget(), Qt::Key_Tab);
+    QVERIFY(password->hasFocus());
+    QTest::keyClicks(password, u"1234"_s);
+    QCOMPARE(panel->privatePassword(), u"00000"_s); // not before editing ends
+    QTest::keyClick(password, Qt::Key_Return);
+    QCOMPARE(panel->privatePassword(), u"01234"_s);
+    QCOMPARE(password->text(), u"01234"_s);
+
+    QTest::keyClick(widget<QVPopUpButton_M880>(view, "printModePopUp"), Qt::Key_Up);
+    QVERIFY(!password->isEnabled());
+    QCOMPARE(panel->privatePassword(), u"01234"_s);
+}
+
+void PrintModePanelTest::departmentCodeFollowsItsSwitch()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    const QWidget *view = dialog.show(panel);
+    const auto *field = widget<platform::TextField>(view, "departmentCodeField");
+    QVERIFY(!field->isEnabled());
+    panel->setValueForKey(u"True"_s, u"DeptCode"_s);
+    QVERIFY(field->isEnabled());
+    panel->setDepartmentCode(u"01230"_s);
+    QCOMPARE(field->text(), u"01230"_s);
+}
+
+void PrintModePanelTest::codeFieldKeepsFiveDigits_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("committed");
+
+    QTest::newRow("a letter among digits") << "12a34"
+                                           << "1234"
+                                           << "01234";
+    QTest::newRow("a sixth digit") << "123456"
+                                   << "12345"
+                                   << "12345";
+    QTest::newRow("letters only") << "abc"
+                                  << ""
+                                  << "00000";
+    QTest::newRow("a sign") << "-42"
+                            << "42"
+                            << "00042";
+}
+
+void PrintModePanelTest::codeFieldKeepsFiveDigits()
+{
+    QFETCH(const QString, typed);
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    const QWidget *view = dialog.show(panel);
+    panel->setValueForKey(u"True"_s, u"DeptCode"_s);
+    auto *field = widget<platform::TextField>(view, "departmentCodeField");
+    QTest::mouseDClick(field, Qt::LeftButton); // selects the code that is there
+    QTest::keyClicks(field, typed);
+    QTEST(field->text(), "shown");
+    QTest::keyClick(field, Qt::Key_Tab);
+    QTEST(field->text(), "committed");
+    QTEST(panel->departmentCode(), "committed");
+}
+
+void PrintModePanelTest::saveCommitsWhatIsBeingTyped()
+{
+    PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    const QWidget *view = dialog.show(panel);
+    panel->setValueForKey(u"Private"_s, u"PrintMode"_s);
+    auto *password = widget<platform::TextField>(view, "passwordField");
+    QTest::mouseClick(password, Qt::LeftButton);
+    password->selectAll();
+    QTest::keyClicks(password, u"54321"_s);
+    dialog.host.told.clear();
+
+    QVERIFY(panel->saveValuesAndReturnError(nullptr));
+    QCOMPARE(dialog.marked(u"PrintMode"_s), u"Private"_s);
+    QStringList told;
+    for (const auto &[keyword, choice] : dialog.host.told) {
+        if (keyword.startsWith(u"DINDigit"))
+            told += choice.toString();
+    }
+    QCOMPARE(told.join(QString()), u"54321"_s);
+    QCOMPARE(dialog.marked(u"DINDigit1"_s), u"5"_s);
+}
+
+void PrintModePanelTest::codesAreTheirDigits()
+{
+    const PanelFixture dialog("kelm880");
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    QSignalSpy changes(panel, &platform::KeyValueObject::valueDidChange);
+    panel->setDepartmentCode(u"01230"_s);
+    QCOMPARE(changes.count(QVariantList{u"departmentCode"_s}), 5); // once for each digit
+    QStringList digits;
+    for (int position = 1; position <= 5; ++position)
+        digits += panel->valueForKey(u"DCDigit%1"_s.arg(position)).toString();
+    QCOMPARE(digits.join(QString()), u"01230"_s);
+    QCOMPARE(panel->privatePassword(), u"00000"_s);
+
+    changes.clear();
+    panel->setValueForKey(u"7"_s, u"DINDigit5"_s);
+    QVERIFY(changes.contains(QVariantList{u"privatePassword"_s}));
+    QCOMPARE(panel->valueForKey(u"privatePassword"_s).toString(), u"00007"_s);
+}
+
+void PrintModePanelTest::summaryShowsCodesBehindTheirChoice()
+{
+    PanelFixture dialog("kelm880", QLocale(QLocale::English));
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    panel->restoreValuesAndReturnError(nullptr);
+    panel->setValueForKey(u"Private"_s, u"PrintMode"_s);
+    panel->setPrivatePassword(u"12345"_s);
+    panel->setValueForKey(u"True"_s, u"DeptCode"_s);
+    panel->setDepartmentCode(u"01230"_s);
+    // The wording is that of what was saved last.
+    QCOMPARE(panel->summaryForKey(u"PrintMode"_s), u"Normal (12345)"_s);
+    panel->saveValuesAndReturnError(nullptr);
+
+    const QMap<QString, QString> expected{{u"Print Mode"_s, u"Private (12345)"_s},
+                                          {u"Department Code"_s, u"On (01230)"_s},
+                                          {u"Distinguish Thin Lines"_s, u"On"_s},
+                                          {u"Skip Blank Pages"_s, u"Off"_s}};
+    QCOMPARE(panel->summaryInfo(), expected);
+
+    panel->setValueForKey(u"False"_s, u"DeptCode"_s);
+    panel->saveValuesAndReturnError(nullptr);
+    QCOMPARE(panel->summaryForKey(u"DeptCode"_s), u"Off"_s);
+}
+
+void PrintModePanelTest::greyedChoiceSaysWhy()
+{
+    PanelFixture dialog("kelm880", QLocale(QLocale::German));
+    auto *panel = dialog.panel<QVPDEPrintMode_M880>();
+    const QWidget *view = dialog.show(panel);
+    const auto *mode = widget<QVPopUpButton_M880>(view, "printModePopUp");
+    const int proof = mode->findText(u"Probedruck"_s);
+    QVERIFY(mode->isItemEnabled(proof));
+    panel->setValueForKey(u"True"_s, u"BlankPage"_s);
+    QVERIFY(!mode->isItemEnabled(proof));
+    const QString why = mode->itemData(proof, Qt::ToolTipRole).toString();
+    QVERIFY2(why.contains(u"„Leere Seiten überspringen“ auf „Ein“"), qPrintable(why));
+}
+
+QTEST_MAIN(PrintModePanelTest)
+#include "print_mode_panel_test.moc"
