@@ -3,9 +3,9 @@
 
 #include "device/advanced_color_settings.h"
 #include "platform/bundle.h"
-#include "platform/print_dialog.h"
 #include "platform/text_field.h"
 #include "tests/support/private_network.h"
+#include "tests/support/recording_host.h"
 #include "tests/support/simulated_printer.h"
 #include "tests/support/test_bundle.h"
 #include "tests/support/udp_responder.h"
@@ -20,32 +20,19 @@ using Settings = QVAdvancedColorSettingsManager_M880;
 
 namespace {
 
-class OlderHost : public platform::PrintDialogHost, public platform::BlockingWorkHost
+class Host : public ResolvingRecordingHost
 {
 public:
-    PMPrintSettings printSettings() override { return &settings; }
-    PMPrintSession printSession() override { return &session; }
-    ppd_file_s *ppdFile() override { return nullptr; }
+    Host() { session.printer = printer; }
     void willBlock(const QString &what) override
     {
-        announced += what;
+        ResolvingRecordingHost::willBlock(what);
         if (onBlock)
             onBlock();
     }
-    void didBlock() override { ++finished; }
 
-    platform::PrintSettings settings;
-    platform::PrintSession session{.printer = platform::Printer{u"q"_qs, u"socket://127.0.0.2:9100"_qs},
-                                   .tickets = {}};
-    QStringList announced;
-    int finished = 0;
+    static inline const platform::Printer printer{u"q"_qs, u"socket://127.0.0.2:9100"_qs};
     std::function<void()> onBlock;
-};
-
-class Host : public OlderHost, public platform::ConstraintResolvingHost
-{
-public:
-    void willChangePPDOptionKeyValuePpdChoice(const QString &, const QVariant &) override {}
 };
 
 QByteArray shippedDevice()
@@ -122,7 +109,7 @@ void TestAdvancedColorSettings::readsTheSimulatedPrinter()
     QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
     Host host;
     Settings settings(&host, m_bundle.get(), nullptr);
-    QVERIFY(settings.snmpEnabled() && settings.useConstraintHandling() && host.announced.isEmpty());
+    QVERIFY(settings.snmpEnabled() && settings.useConstraintHandling() && host.blockingWork.isEmpty());
     const QSignalSpy changes(&settings, &platform::KeyValueObject::valueDidChange);
     settings.updateFromSNMP();
     QVERIFY2(settings.snmpEnabled(), qPrintable(settings.snmpUnavailableReason()));
@@ -136,8 +123,8 @@ void TestAdvancedColorSettings::readsTheSimulatedPrinter()
     QCOMPARE(settings.selectedCmykSourceProfile(), 2U);
     QCOMPARE(settings.selectedCmykDestinationProfile(), 1U);
     QVERIFY(changes.contains({u"cmykSourceProfiles"_qs}) && changes.contains({u"cmykSourceProfileRows"_qs}));
-    QCOMPARE(host.announced, QStringList{u"Asking…"_qs});
-    QCOMPARE(host.finished, 1);
+    QCOMPARE(host.blockingWork, QStringList{u"Asking…"_qs});
+    QCOMPARE(host.blockingDepth, 0);
 }
 
 void TestAdvancedColorSettings::aFailedColumnDisables_data()
@@ -168,7 +155,7 @@ void TestAdvancedColorSettings::aFailedColumnDisables()
     QCOMPARE(settings.cmykDestinationProfiles().isEmpty(), missing == 4);
     QCOMPARE(settings.renderingIntent(), missing == 5 ? 0U : 4U);
     settings.updateFromSNMP(); // once failed, it stays so
-    QCOMPARE(host.announced.size(), 1);
+    QCOMPARE(host.blockingWork.size(), 1);
 }
 
 void TestAdvancedColorSettings::onlySomeDefaults()
@@ -263,7 +250,8 @@ void TestAdvancedColorSettings::hostWithoutConstraintHandling()
     QSKIP("reads the ticket here");
 #endif
     const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
-    OlderHost host;
+    RecordingHost host;
+    host.session.printer = Host::printer;
     host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_qs);
     const QVariantMap before = host.settings.values();
     Settings settings(&host, m_bundle.get(), nullptr);
@@ -292,7 +280,8 @@ void TestAdvancedColorSettings::saveEndsTextEditing()
 void TestAdvancedColorSettings::ticketOfAnOlderHost()
 {
     const UdpResponder device("127.0.0.2", tables({2, 3, 4}, "\7\6\5\4"));
-    OlderHost host;
+    RecordingHost host;
+    host.session.printer = Host::printer;
     Settings settings(&host, m_bundle.get(), nullptr);
     // Without a ticket, or without its dictionary, nothing is read, written or asked.
     host.session.tickets.insert(u"PMPrintSettingsTicket"_qs, {});
