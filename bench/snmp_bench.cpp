@@ -153,9 +153,8 @@ int main()
         std::printf("not measured: %s\n", qPrintable(whyNot));
         return 0;
     }
-    // One answer for all, made once but for the request id, so that the device costs little.
-    const UdpResponder device(address, [](const QByteArray &request) -> QList<UdpResponder::Reply> {
-        return {{SnmpReply(request).withString("CMYK destination profile 01").encoded()}};
+    const UdpResponder device(address, [](const SnmpReply &reply) -> SnmpReplies {
+        return {reply.withString("CMYK destination profile 01")};
     });
     firstClient();
     const auto client = QVSNMP_M880::initWithHostAndReturnError(QString::fromLatin1(address), nullptr);

@@ -45,15 +45,14 @@ QByteArray shippedDevice()
 // column 5.
 UdpResponder::Handler tables(const QSet<int> &columns, const QByteArray &defaults)
 {
-    return [=](const QByteArray &request) -> QList<UdpResponder::Reply> {
-        SnmpReply reply(request);
+    return [=](const SnmpReply &reply) -> SnmpReplies {
         const int column = reply.oid.at(reply.oid.size() - 3);
         const int row = reply.oid.back();
         if (column == 5 && row <= defaults.size())
-            reply.withInteger(defaults.at(row - 1));
-        else if (column != 5 && columns.contains(column) && row <= 2)
-            reply.withString("profile " + QByteArray::number(column) + QByteArray::number(row));
-        return {{reply.encoded()}};
+            return {reply.withInteger(defaults.at(row - 1))};
+        if (column != 5 && columns.contains(column) && row <= 2)
+            return {reply.withString("profile " + QByteArray::number(column) + QByteArray::number(row))};
+        return {reply};
     };
 }
 

@@ -50,20 +50,36 @@ QByteArray take(QByteArray &from)
     return content;
 }
 
+SnmpReply replyTo(QByteArray request)
+{
+    SnmpReply reply;
+    QByteArray message = take(request);
+    reply.version = take(message);
+    reply.community = take(message);
+    QByteArray pdu = take(message);
+    reply.requestId = take(pdu);
+    take(pdu); // error status
+    take(pdu); // error index
+    QByteArray variables = take(pdu);
+    QByteArray variable = take(variables);
+    reply.oid = take(variable);
+    return reply;
+}
+
 } // namespace
 
 UdpResponder::UdpResponder(const char *address, Handler handler)
     : m_handler(std::move(handler)), m_socket(boundSocket(address, 161)), m_stop(::eventfd(0, EFD_CLOEXEC))
 {
-    if (isListening())
-        m_thread = std::thread([this] { run(); });
+    if (m_socket < 0)
+        qFatal("port 161 of %s is taken", address);
+    m_thread = std::thread([this] { run(); });
 }
 
 UdpResponder::~UdpResponder()
 {
     ::eventfd_write(m_stop, 1);
-    if (m_thread.joinable())
-        m_thread.join();
+    m_thread.join();
     ::close(m_stop);
     ::close(m_socket);
 }
@@ -71,58 +87,38 @@ UdpResponder::~UdpResponder()
 void UdpResponder::run()
 {
     std::array<pollfd, 2> waited{pollfd{m_socket, POLLIN, 0}, pollfd{m_stop, POLLIN, 0}};
+    QByteArray buffer(0x1000, Qt::Uninitialized);
     while (::poll(waited.data(), waited.size(), -1) > 0 && waited[1].revents == 0) {
-        QByteArray request(0x10000, Qt::Uninitialized);
         sockaddr_in peer{};
         socklen_t peerSize = sizeof peer;
-        auto *peerAddress = reinterpret_cast<sockaddr *>(&peer);
-        const ssize_t size = ::recvfrom(m_socket, request.data(), static_cast<size_t>(request.size()), 0,
-                                        peerAddress, &peerSize);
+        auto *to = reinterpret_cast<sockaddr *>(&peer);
+        const ssize_t size =
+            ::recvfrom(m_socket, buffer.data(), static_cast<size_t>(buffer.size()), 0, to, &peerSize);
         if (size < 0)
             continue;
         ++m_requestCount;
-        request.truncate(size);
-        for (const Reply &reply : m_handler(request)) {
-            const int other = reply.from == nullptr ? -1 : boundSocket(reply.from, 0);
-            ::sendto(other < 0 ? m_socket : other, reply.bytes.constData(),
-                     static_cast<size_t>(reply.bytes.size()), 0, peerAddress, peerSize);
-            if (other >= 0)
+        for (const SnmpReply &reply : m_handler(replyTo(buffer.first(size)))) {
+            const QByteArray bytes = reply.encoded();
+            const int other = reply.from == nullptr ? m_socket : boundSocket(reply.from, 0);
+            ::sendto(other, bytes.constData(), static_cast<size_t>(bytes.size()), 0, to, peerSize);
+            if (other != m_socket)
                 ::close(other);
         }
     }
 }
 
-SnmpReply::SnmpReply(const QByteArray &request)
+SnmpReply SnmpReply::with(unsigned char newType, const QByteArray &newValue) const
 {
-    QByteArray rest = request;
-    QByteArray message = take(rest);
-    version = take(message);
-    community = take(message);
-    QByteArray pdu = take(message);
-    requestId = take(pdu);
-    take(pdu); // error status
-    take(pdu); // error index
-    QByteArray variables = take(pdu);
-    QByteArray variable = take(variables);
-    oid = take(variable);
-}
-
-SnmpReply &SnmpReply::withString(const QByteArray &text)
-{
-    type = octetString;
-    value = text;
-    return *this;
-}
-
-SnmpReply &SnmpReply::withInteger(char number)
-{
-    type = integer;
-    value = QByteArray(1, number);
-    return *this;
+    SnmpReply reply = *this;
+    reply.type = newType;
+    reply.value = newValue;
+    return reply;
 }
 
 QByteArray SnmpReply::encoded() const
 {
+    if (!instead.isNull())
+        return instead;
     const QByteArray variable = tlv(0x30, tlv(0x06, oid) + tlv(type, value, announcedLength));
     const QByteArray pdu = tlv(0x02, requestId) + tlv(0x02, QByteArray(1, errorStatus)) +
                            tlv(0x02, QByteArray(1, 0)) + tlv(0x30, variable);
