@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/window/window_run.h"
 
 #include <QApplication>
 #include <QFile>
@@ -21,12 +22,14 @@ void choosePlatform(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int runBatch(const Arguments &arguments, QFile *out, QFile *err)
+int run(const Arguments &arguments, QFile *out, QFile *err)
 {
     CupsPrintSystem system;
     const QString folder = QApplication::applicationDirPath();
     Extensions extensions(arguments.bundles.isEmpty() ? Extensions::installedBundles(folder)
                                                       : arguments.bundles);
+    if (arguments.needsWindow())
+        return runWindow(arguments, system, extensions, out, err);
     ResultWriter writer(out, err);
     return BatchRun(arguments, system, extensions).run(&writer);
 }
@@ -56,5 +59,5 @@ int main(int argc, char **argv)
     }
     if (!arguments->server.isEmpty())
         qputenv("CUPS_SERVER", arguments->server.toUtf8());
-    return runBatch(*arguments, &out, &err);
+    return run(*arguments, &out, &err);
 }

@@ -75,6 +75,7 @@ public:
     void apply(const Resolution &resolution);
     // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
     QStringList takeNotices();
+    void addNotice(const QString &notice) { m_notices.append(notice); }
 
     QList<SummarySection> summary() const;
     // Every choice that is not the printer's default, every choice that a panel has saved, every setting of a

@@ -288,7 +288,14 @@ QList<OptionChoice> PpdDocument::changedChoices() const
     return changed;
 }
 
-QList<PpdDocument::Constraint> PpdDocument::constraints() const
+const QList<PpdDocument::Constraint> &PpdDocument::constraints() const
+{
+    if (!m_constraints)
+        m_constraints = readConstraints();
+    return *m_constraints;
+}
+
+QList<PpdDocument::Constraint> PpdDocument::readConstraints() const
 {
     QList<Constraint> result;
     // libcups takes the longer form alone where a PPD has it.
@@ -308,19 +315,51 @@ QList<PpdDocument::Constraint> PpdDocument::constraints() const
     return result;
 }
 
+// Whether a term of a constraint holds among the marks.
+bool PpdDocument::isMet(const QString &keyword, const QString &choice) const
+{
+    const ppd_choice_t *now = marked(m_ppd, keyword);
+    if (!now)
+        return false;
+    return choice.isEmpty() ? !isOffChoice(text(now->choice)) : choice == text(now->choice);
+}
+
 std::optional<Conflict> PpdDocument::activeConflict(const Constraint &constraint) const
 {
     Conflict conflict;
     for (const auto &[keyword, choice] : constraint) {
         const ppd_choice_t *now = marked(m_ppd, keyword);
-        if (!now || !now->option->conflicted)
+        if (!now || !now->option->conflicted || !isMet(keyword, choice))
             return std::nullopt;
-        const QString current = text(now->choice);
-        if (choice.isEmpty() ? isOffChoice(current) : choice != current)
-            return std::nullopt;
-        conflict.sides.append(described(text(now->option->keyword), current));
+        conflict.sides.append(described(text(now->option->keyword), text(now->choice)));
     }
     return conflict;
+}
+
+QMap<QString, OptionChoice> PpdDocument::forbiddenChoices(const QString &keyword) const
+{
+    QMap<QString, OptionChoice> forbidden;
+    const auto subject = option(keyword);
+    if (!subject)
+        return forbidden;
+    for (const Constraint &constraint : constraints()) {
+        const auto own = std::find_if(constraint.begin(), constraint.end(),
+                                      [&](const auto &term) { return term.first == subject->keyword; });
+        const auto other = std::find_if(constraint.begin(), constraint.end(),
+                                        [&](const auto &term) { return term.first != subject->keyword; });
+        if (own == constraint.end() || other == constraint.end())
+            continue;
+        const bool othersHold = std::all_of(constraint.begin(), constraint.end(), [&](const auto &term) {
+            return term.first == subject->keyword || isMet(term.first, term.second);
+        });
+        if (!othersHold)
+            continue;
+        for (const PpdOption::Choice &choice : subject->choices) {
+            if (own->second.isEmpty() ? !isOffChoice(choice.keyword) : own->second == choice.keyword)
+                forbidden.insert(choice.keyword, described(other->first, markedChoice(other->first)));
+        }
+    }
+    return forbidden;
 }
 
 QList<Conflict> PpdDocument::conflicts() const

@@ -103,6 +103,9 @@ public:
 
     // The conflicts that libcups sees among the marks.
     QList<Conflict> conflicts() const;
+    // The choices of an option that the PPD forbids together with what is marked for other options, each with
+    // one of those that stand in its way.
+    QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword) const;
     // Nil when there is no conflict or libcups finds no way out. `keep` is left as it is where that is
     // possible.
     std::optional<Resolution> resolution(const QString &keep = QString()) const;
@@ -112,11 +115,14 @@ private:
 
     // One constraint of the PPD: choices by option. An empty choice stands for any but the off choice.
     using Constraint = QList<std::pair<QString, QString>>;
-    QList<Constraint> constraints() const;
+    const QList<Constraint> &constraints() const; // read once
+    QList<Constraint> readConstraints() const;
+    bool isMet(const QString &keyword, const QString &choice) const;
     std::optional<Conflict> activeConflict(const Constraint &constraint) const;
     bool isInstallableOption(const ppd_option_s *option) const;
 
     ppd_file_s *m_ppd = nullptr;
+    mutable std::optional<QList<Constraint>> m_constraints;
 };
 
 } // namespace host

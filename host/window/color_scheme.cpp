@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/color_scheme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QToolTip>
+
+namespace host {
+
+namespace {
+
+struct Scheme
+{
+    QColor window, base, raised, text, disabled, accent, onAccent, line, dark;
+};
+
+const Scheme lightScheme{{0xf6, 0xf6, 0xf7}, {0xff, 0xff, 0xff}, {0xfb, 0xfb, 0xfb},
+                         {0x1f, 0x22, 0x27}, {0x9a, 0x9d, 0xa3}, {0x1c, 0x6f, 0xc4},
+                         {0xff, 0xff, 0xff}, {0xd9, 0xda, 0xdd}, {0xa6, 0xa8, 0xad}};
+const Scheme darkScheme{{0x2a, 0x2c, 0x30}, {0x21, 0x23, 0x26}, {0x3a, 0x3d, 0x42},
+                        {0xe9, 0xea, 0xec}, {0x84, 0x87, 0x8d}, {0x3d, 0x8a, 0xdb},
+                        {0xff, 0xff, 0xff}, {0x46, 0x49, 0x4f}, {0x18, 0x19, 0x1b}};
+
+QPalette paletteOf(const Scheme &scheme)
+{
+    QPalette palette(scheme.text, scheme.raised, scheme.line, scheme.dark, scheme.line, scheme.text,
+                     scheme.onAccent, scheme.base, scheme.window);
+    palette.setColor(QPalette::Light, scheme.raised.lighter(110));
+    palette.setColor(QPalette::Midlight, scheme.line);
+    palette.setColor(QPalette::Highlight, scheme.accent);
+    palette.setColor(QPalette::HighlightedText, scheme.onAccent);
+    palette.setColor(QPalette::Link, scheme.accent);
+    palette.setColor(QPalette::AlternateBase, scheme.window);
+    palette.setColor(QPalette::ToolTipBase, scheme.raised);
+    palette.setColor(QPalette::ToolTipText, scheme.text);
+    palette.setColor(QPalette::PlaceholderText, scheme.disabled);
+    palette.setColor(QPalette::Shadow, scheme.dark);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, scheme.disabled);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, scheme.line);
+    return palette;
+}
+
+} // namespace
+
+void applyColorScheme(const QString &name)
+{
+    const bool dark = name == QLatin1String("dark");
+    if (!dark && name != QLatin1String("light"))
+        return;
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(paletteOf(dark ? darkScheme : lightScheme));
+    QToolTip::setPalette(QApplication::palette());
+}
+
+} // namespace host

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/message_bar.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+constexpr int iconSize = 20; // pixels
+
+QLabel *plainLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFocusPolicy(Qt::NoFocus);
+    return label;
+}
+
+QColor mixed(const QColor &a, const QColor &b, qreal share)
+{
+    return QColor::fromRgbF(static_cast<float>(a.redF() * share + b.redF() * (1 - share)),
+                            static_cast<float>(a.greenF() * share + b.greenF() * (1 - share)),
+                            static_cast<float>(a.blueF() * share + b.blueF() * (1 - share)));
+}
+
+} // namespace
+
+MessageBar::MessageBar(QWidget *parent)
+    : QFrame(parent), m_icon(new QLabel(this)), m_title(plainLabel(this)), m_lines(plainLabel(this)),
+      m_buttonRow(new QHBoxLayout)
+{
+    QFont bold = m_title->font();
+    bold.setWeight(QFont::DemiBold);
+    m_title->setFont(bold);
+    m_icon->setFixedSize(iconSize, iconSize);
+    m_buttonRow->setSpacing(8);
+
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addWidget(m_title);
+    texts->addWidget(m_lines);
+    texts->addLayout(m_buttonRow);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(14, 10, 12, 10);
+    row->setSpacing(12);
+    row->addWidget(m_icon, 0, Qt::AlignTop);
+    row->addLayout(texts, 1);
+    hide();
+}
+
+QString MessageBar::text() const
+{
+    return m_lines->isHidden() ? m_title->text() : m_title->text() + QLatin1Char('\n') + m_lines->text();
+}
+
+void MessageBar::showMessage(Kind kind, const QString &title, const QStringList &lines,
+                             const QStringList &answers)
+{
+    m_kind = kind;
+    const auto icon = kind == Kind::Notice  ? QStyle::SP_MessageBoxInformation
+                      : kind == Kind::Error ? QStyle::SP_MessageBoxCritical
+                                            : QStyle::SP_MessageBoxWarning;
+    m_icon->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(iconSize, iconSize));
+    m_title->setText(title);
+    m_lines->setText(lines.join(QLatin1Char('\n')));
+    m_lines->setVisible(!lines.isEmpty());
+    qDeleteAll(m_buttons);
+    m_buttons.clear();
+    delete m_buttonRow->takeAt(0);
+    m_buttonRow->addStretch(1);
+    for (qsizetype i = 0; i < answers.size(); ++i)
+        addButton(answers.at(i), static_cast<int>(i));
+    if (answers.isEmpty())
+        addButton(tr("&Close"), -1);
+    setAccessibleName(text());
+    show();
+    update();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void MessageBar::addButton(const QString &text, int index)
+{
+    auto *button = new QPushButton(text, this);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, index] {
+        hide();
+        Q_EMIT answered(index);
+    });
+    m_buttonRow->addWidget(button);
+    m_buttons.append(button);
+}
+
+QColor MessageBar::accent() const
+{
+    switch (m_kind) {
+    case Kind::Notice:
+        return palette().color(QPalette::Highlight);
+    case Kind::Question:
+        return QColor(0xe0, 0x9a, 0x1c);
+    case Kind::Error:
+        break;
+    }
+    return QColor(0xd0, 0x3b, 0x3b);
+}
+
+void MessageBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(mixed(accent(), palette().color(QPalette::Window), 0.55));
+    painter.setBrush(mixed(accent(), palette().color(QPalette::Window), 0.14));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+}
+
+} // namespace host

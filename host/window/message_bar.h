@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QFrame>
+#include <QString>
+#include <QStringList>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace host {
+
+// A bar above the pages that tells something and may offer answers. Hidden until it has something to say.
+// Texts are plain text; screen readers are told when it appears.
+class MessageBar : public QFrame
+{
+    Q_OBJECT
+public:
+    enum class Kind { Notice, Question, Error };
+
+    explicit MessageBar(QWidget *parent = nullptr);
+
+    // Shows a message in place of the one before. `answers` become buttons; without any there is one that
+    // closes the bar.
+    void showMessage(Kind kind, const QString &title, const QStringList &lines,
+                     const QStringList &answers = {});
+    Kind kind() const { return m_kind; }
+    bool isShowing() const { return !isHidden(); }
+    QString text() const; // title and lines, for tests and screen readers
+    QList<QPushButton *> buttons() const { return m_buttons; }
+
+Q_SIGNALS:
+    // Which answer was pressed, or -1 for closing the bar. The bar hides itself first.
+    void answered(int index);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void addButton(const QString &text, int index);
+    QColor accent() const;
+
+    Kind m_kind = Kind::Notice;
+    QLabel *m_icon;
+    QLabel *m_title;
+    QLabel *m_lines;
+    QHBoxLayout *m_buttonRow;
+    QList<QPushButton *> m_buttons;
+};
+
+} // namespace host

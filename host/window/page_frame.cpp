@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/page_frame.h"
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+class PageScroll : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize minimumSizeHint() const override
+    {
+        const int inner = widget() ? widget()->minimumSizeHint().width() : 0;
+        return {inner + verticalScrollBar()->sizeHint().width(), 120};
+    }
+    QSize sizeHint() const override
+    {
+        const QSize inner = widget() ? widget()->sizeHint() : QSize();
+        return {inner.width() + verticalScrollBar()->sizeHint().width(), inner.height()};
+    }
+};
+
+} // namespace
+
+PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
+    : QWidget(parent), m_scroll(new PageScroll(this)), m_content(content)
+{
+    auto *heading = new QLabel(title, this);
+    heading->setTextFormat(Qt::PlainText);
+    QFont large = heading->font();
+    large.setPointSizeF(large.pointSizeF() * 1.35);
+    large.setWeight(QFont::DemiBold);
+    heading->setFont(large);
+    heading->setContentsMargins(24, 8, 24, 0);
+
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(content);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    content->show();
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(heading);
+    column->addWidget(m_scroll, 1);
+}
+
+PageFrame::~PageFrame() = default;
+
+void PageFrame::releaseContent()
+{
+    if (m_content && m_scroll->widget() == m_content) {
+        m_scroll->takeWidget();
+        m_content->hide();
+        m_content->setParent(nullptr);
+    }
+}
+
+} // namespace host

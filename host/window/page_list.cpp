@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/page_list.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace host {
+
+namespace {
+
+constexpr int sideMargin = 10; // pixels around the list's items
+constexpr int textMargin = 12;
+constexpr int narrowest = 170;
+
+// Rows with air, the current one on a rounded ground.
+class PageDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QFontMetrics metrics(option.font);
+        return {metrics.horizontalAdvance(index.data().toString()) + 2 * textMargin, metrics.height() + 16};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const bool selected = option.state & QStyle::State_Selected;
+        const QRectF ground = QRectF(option.rect).adjusted(0.5, 1.5, -0.5, -1.5);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        if (selected) {
+            painter->setBrush(option.palette.brush(QPalette::Active, QPalette::Highlight));
+            painter->drawRoundedRect(ground, 6, 6);
+        } else if (option.state & QStyle::State_MouseOver) {
+            QColor hover = option.palette.color(QPalette::Text);
+            hover.setAlphaF(0.07F);
+            painter->setBrush(hover);
+            painter->drawRoundedRect(ground, 6, 6);
+        }
+        if (selected && (option.state & QStyle::State_HasFocus) &&
+            (option.state & QStyle::State_KeyboardFocusChange)) {
+            painter->setBrush(Qt::NoBrush);
+            painter->setPen(QPen(option.palette.color(QPalette::HighlightedText), 1, Qt::DotLine));
+            painter->drawRoundedRect(ground.adjusted(2, 2, -2, -2), 4, 4);
+        }
+        painter->setPen(
+            option.palette.color(QPalette::Active, selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(option.rect.adjusted(textMargin, 0, -textMargin, 0),
+                          Qt::AlignVCenter | Qt::AlignLeading, index.data().toString());
+        painter->restore();
+    }
+};
+
+} // namespace
+
+PageList::PageList(QWidget *parent) : QListWidget(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setItemDelegate(new PageDelegate(this));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportMargins(sideMargin, sideMargin, sideMargin, sideMargin);
+    setMouseTracking(true);
+    setUniformItemSizes(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setAccessibleName(tr("Pages of the dialog"));
+    takePalette();
+}
+
+void PageList::addPage(const QString &title)
+{
+    addItem(title);
+    updateGeometry();
+}
+
+QSize PageList::sizeHint() const
+{
+    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin), 240};
+}
+
+void PageList::changeEvent(QEvent *event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::ApplicationPaletteChange)
+        takePalette();
+}
+
+// The list and the margin around its rows in one colour.
+void PageList::takePalette()
+{
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+}
+
+} // namespace host

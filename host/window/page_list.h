@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QListWidget>
+
+namespace host {
+
+// The names of the pages at the side of the dialog, one of them current. As wide as its longest name.
+class PageList : public QListWidget
+{
+    Q_OBJECT
+public:
+    explicit PageList(QWidget *parent = nullptr);
+
+    void addPage(const QString &title);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {sizeHint().width(), 0}; }
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void takePalette();
+};
+
+} // namespace host

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/dialog_session.h"
+#include "host/core/extensions.h"
+#include "host/core/print_system.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QTemporaryFile;
+class QVBoxLayout;
+
+namespace host {
+
+class GeneralPage;
+class MessageBar;
+class MorePage;
+class PageFrame;
+class PageList;
+class PrinterPicker;
+class ResultPage;
+class SummaryPage;
+
+// What the window is opened for. A value.
+struct PrintTask
+{
+    QStringList files; // "-" is the standard input
+    QString title;     // of the job; the first file's name when empty
+    QString printer;   // destination name; empty for the one used last, else the default
+    QString ppdFile;   // shows the options of this PPD instead of the queue's
+    QString firstPage; // name of the page to open at; empty for the first
+    // Runs once on the first session, before anything is shown: settings of the command line.
+    std::function<bool(DialogSession *, PrintError *)> prepare;
+};
+
+// The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
+// one and takes the general choices along. The print system and the extensions are borrowed and outlive it.
+class PrintWindow : public QDialog
+{
+    Q_OBJECT
+public:
+    PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task);
+    ~PrintWindow() override;
+
+    // Opens the first session. False with an error only when the task itself cannot be done, such as a
+    // setting that the printer does not have; a printer or server that is away is shown in the window.
+    bool open(PrintError *error);
+    // Job options besides those of the session.
+    void passOn(const QList<JobOption> &options) { m_passedOn = options; }
+    DialogSession *session() const { return m_session.get(); }
+    const std::optional<SubmittedJob> &job() const { return m_job; }
+    MessageBar *messageBar() const { return m_bar; }
+    // The row of a page by name ("general", "more", "summary", a panel's kind, its last part, or its title);
+    // -1 when there is none.
+    int pageNamed(const QString &name) const;
+    void showPage(int row);
+
+public Q_SLOTS:
+    void print();
+    void loadPrinterList();
+    void retry();
+
+private:
+    struct Page
+    {
+        QString title;
+        QString name;
+        PageFrame *frame;
+        int panel = -1;
+    };
+
+    void buildHeader(QVBoxLayout *column);
+    void buildBody(QVBoxLayout *column);
+    void buildFooter(QVBoxLayout *column);
+    std::optional<Destination> firstDestination(PrintError *error);
+    std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
+    std::unique_ptr<DialogSession> sessionFor(const Destination &destination, PrintError *error);
+    void adopt(std::unique_ptr<DialogSession> session);
+    void carryOver(const DialogSession &from, DialogSession *to);
+    void buildPages();
+    void addPage(const QString &title, const QString &name, QWidget *content, int panel = -1);
+    void dropPages();
+    void pickPrinter(const QString &name);
+    bool leaveCurrentPage();
+    void afterChange();
+    void sessionChanged();
+    void showNotices();
+    bool showConflicts();
+    void answer(int index);
+    void showError(const PrintError &error);
+    void showBusy(const QString &what);
+    void showIdle();
+    bool openDocuments(QList<Document> *documents, PrintError *error);
+    void showResult();
+
+    PrintSystem &m_system;
+    Extensions &m_extensions;
+    PrintTask m_task;
+    std::unique_ptr<DialogSession> m_session;
+    std::unique_ptr<QTemporaryFile> m_spool;
+    std::vector<Page> m_pages;
+    int m_currentPage = -1;
+    bool m_askingConflict = false;
+    QList<JobOption> m_passedOn;
+    std::optional<Resolution> m_proposal;
+    std::optional<SubmittedJob> m_job;
+
+    PrinterPicker *m_picker;
+    PageList *m_list;
+    MessageBar *m_bar;
+    QStackedWidget *m_stack;
+    QWidget *m_body;
+    ResultPage *m_result;
+    QLabel *m_status;
+    QPushButton *m_cancel;
+    QPushButton *m_print;
+    GeneralPage *m_general = nullptr;
+    MorePage *m_more = nullptr;
+    SummaryPage *m_summary = nullptr;
+    int m_busyDepth = 0;
+};
+
+} // namespace host

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/destination.h"
+
+#include <QList>
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+
+namespace host {
+
+// The list of printers and, below it, how the chosen one is. Shows the chosen one alone until it gets the
+// whole list.
+class PrinterPicker : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit PrinterPicker(QWidget *parent = nullptr);
+
+    void setPrinters(const QList<Destination> &printers);
+    // Shows a printer without announcing it; adds it where the list lacks it.
+    void setCurrent(const Destination &printer);
+    // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
+    void setFixedText(const QString &text);
+    QComboBox *box() const { return m_box; }
+
+Q_SIGNALS:
+    // The user chose another printer, by destination name.
+    void picked(const QString &name);
+
+private:
+    void describe(const Destination &printer);
+
+    QComboBox *m_box;
+    QLabel *m_state;
+    QString m_current;
+};
+
+} // namespace host

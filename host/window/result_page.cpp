@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/result_page.h"
+
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+namespace host {
+
+namespace {
+
+constexpr int iconSize = 48; // pixels
+constexpr std::chrono::seconds between(1);
+
+QLabel *centredLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+ResultPage::ResultPage(QWidget *parent)
+    : QWidget(parent), m_icon(centredLabel(this)), m_title(centredLabel(this)), m_state(centredLabel(this)),
+      m_notes(centredLabel(this))
+{
+    QFont large = m_title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.35);
+    large.setWeight(QFont::DemiBold);
+    m_title->setFont(large);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(40, 24, 40, 24);
+    column->setSpacing(10);
+    column->addStretch(2);
+    for (QLabel *label : {m_icon, m_title, m_state, m_notes})
+        column->addWidget(label);
+    column->addStretch(3);
+    m_timer.setInterval(between);
+    connect(&m_timer, &QTimer::timeout, this, [this] { showStatus(m_query()); });
+}
+
+void ResultPage::showJob(const QString &printer, const SubmittedJob &job, StatusQuery query)
+{
+    m_query = std::move(query);
+    m_id = job.id;
+    m_icon->setPixmap(
+        style()->standardIcon(QStyle::SP_DialogApplyButton, nullptr, this).pixmap(iconSize, iconSize));
+    m_title->setText(tr("Sent to “%1”").arg(printer));
+    m_notes->setText(job.differences.join(QLatin1Char('\n')));
+    m_notes->setVisible(!job.differences.isEmpty());
+    showStatus(job.status);
+}
+
+void ResultPage::showStatus(const JobStatus &status)
+{
+    // A server that does not answer just now tells nothing new.
+    if (status.state == JobStatus::State::Unknown && !m_state->text().isEmpty())
+        return;
+    m_state->setText(tr("Job %1: %2").arg(m_id).arg(status.text()));
+    setAccessibleName(text());
+    if (status.isFinal())
+        m_timer.stop();
+    else if (!m_timer.isActive())
+        m_timer.start();
+}
+
+QString ResultPage::text() const
+{
+    return m_title->text() + QLatin1Char('\n') + m_state->text();
+}
+
+} // namespace host

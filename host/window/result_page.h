@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/job.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
+
+namespace host {
+
+// What became of the job: its number and its state, which keeps up with the print server for as long as it is
+// shown.
+class ResultPage : public QWidget
+{
+    Q_OBJECT
+public:
+    using StatusQuery = std::function<JobStatus()>;
+
+    explicit ResultPage(QWidget *parent = nullptr);
+    void showJob(const QString &printer, const SubmittedJob &job, StatusQuery query);
+    QString text() const;
+
+private:
+    void showStatus(const JobStatus &status);
+
+    QLabel *m_icon;
+    QLabel *m_title;
+    QLabel *m_state;
+    QLabel *m_notes;
+    QTimer m_timer;
+    StatusQuery m_query;
+    int m_id = 0;
+};
+
+} // namespace host
