@@ -75,12 +75,12 @@ def main():
         server, display = start_display(folder)
         try:
             subprocess.run([CUPSD, "start", folder / "cups"], check=True, stdout=subprocess.DEVNULL)
-            subprocess.run([CUPSD, "add-queue", folder / "cups", "office", build / "ppds/kelm880.ppd"],
+            subprocess.run([CUPSD, "add-queue", folder / "cups", "office", build / "ppds/kelm880.ppd", "socket://127.0.0.42:9100"],
                            check=True, stdout=subprocess.DEVNULL)
             environment = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM="xcb", HOME=str(folder / "home"),
                                XDG_RUNTIME_DIR=str(folder / "runtime"), LC_ALL="C.UTF-8",
                                CUPS_SERVER=str(folder / "cups/cups.sock"))
-            document = str(SOURCE / "demo/sample.pdf")
+            document = str(SOURCE / "demo/report.pdf")
             figures = measure({
                 "bare Qt dialog": [str(build / "bench/qt_floor")],
                 "kelmar-print": [str(build / "bin/kelmar-print"), "-d", "office", "--startup-time", document],
