@@ -25,7 +25,6 @@ constexpr const char *conflictText =
 
 QVPopUpButton_M880::QVPopUpButton_M880(QWidget *parent) : QComboBox(parent)
 {
-    setModel(new QStandardItemModel(this));
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::currentIndexChanged, this, &QVPopUpButton_M880::selectedIndexChanged);
 }

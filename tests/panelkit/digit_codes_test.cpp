@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class DigitCodesTest : public QObject
 {
     Q_OBJECT
@@ -42,11 +44,11 @@ void DigitCodesTest::filtersWhileTyping_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("left");
     QTest::addColumn<int>("beeps");
-    QTest::newRow("letter between digits") << QStringLiteral("12a34") << QStringLiteral("1234") << 1;
-    QTest::newRow("sixth digit") << QStringLiteral("123456") << QStringLiteral("12345") << 1;
-    QTest::newRow("letter after five digits") << QStringLiteral("12345x") << QStringLiteral("12345") << 1;
-    QTest::newRow("nothing to remove") << QStringLiteral("00420") << QStringLiteral("00420") << 0;
-    QTest::newRow("signs and blanks") << QStringLiteral("-1 2+") << QStringLiteral("12") << 3;
+    QTest::newRow("letter between digits") << u"12a34"_s << u"1234"_s << 1;
+    QTest::newRow("sixth digit") << u"123456"_s << u"12345"_s << 1;
+    QTest::newRow("letter after five digits") << u"12345x"_s << u"12345"_s << 1;
+    QTest::newRow("nothing to remove") << u"00420"_s << u"00420"_s << 0;
+    QTest::newRow("signs and blanks") << u"-1 2+"_s << u"12"_s << 3;
 }
 
 void DigitCodesTest::filtersWhileTyping()
@@ -64,24 +66,24 @@ void DigitCodesTest::filtersWhatIsPasted()
         QTest::keySequence(m_field.get(), QKeySequence::Paste);
         return m_field->text();
     };
-    QCOMPARE(paste(QStringLiteral("abc")), QString());
-    QCOMPARE(paste(QStringLiteral("a1b2c3d4e5f6")), QStringLiteral("12345"));
+    QCOMPARE(paste(u"abc"_s), QString());
+    QCOMPARE(paste(u"a1b2c3d4e5f6"_s), u"12345"_s);
     QCOMPARE(m_beeps, 2); // once a change, however much was removed
     m_field->clear();
-    const QString arabicIndic = QStringLiteral("٤٢");
+    const QString arabicIndic = u"٤٢"_s;
     QCOMPARE(paste(arabicIndic), arabicIndic);
     QCOMPARE(m_beeps, 2);
 }
 
 void DigitCodesTest::keepsTheCursorInItsPlace()
 {
-    QTest::keyClicks(m_field.get(), QStringLiteral("12345"));
+    QTest::keyClicks(m_field.get(), u"12345"_s);
     m_field->setCursorPosition(1);
-    QTest::keyClicks(m_field.get(), QStringLiteral("9"));
-    QCOMPARE(m_field->text(), QStringLiteral("19234"));
+    QTest::keyClicks(m_field.get(), u"9"_s);
+    QCOMPARE(m_field->text(), u"19234"_s);
     QCOMPARE(m_field->cursorPosition(), 2);
     m_field->setCursorPosition(5);
-    QTest::keyClicks(m_field.get(), QStringLiteral("x"));
+    QTest::keyClicks(m_field.get(), u"x"_s);
     QCOMPARE(m_field->cursorPosition(), 5);
 }
 
@@ -109,7 +111,7 @@ void DigitCodesTest::padsWhenEditingEnds()
 {
     QFETCH(QString, text);
     QFETCH(QString, code);
-    QTest::keyClicks(m_field.get(), QStringLiteral("1"));
+    QTest::keyClicks(m_field.get(), u"1"_s);
     m_field->setText(text);
     QSignalSpy committed(m_field.get(), &platform::TextField::stringValueCommitted);
     QTest::keyClick(m_field.get(), Qt::Key_Return);
@@ -128,11 +130,9 @@ QByteArray digitOptions()
     return body + ppdOption("No1", {"7"}) + ppdOption("No2", {"8"}) + ppdOption("No3", {"9"});
 }
 
-const QString prefix = QStringLiteral("DCDigit");
-const QStringList digitKeys{QStringLiteral("DCDigit1"), QStringLiteral("DCDigit2"),
-                            QStringLiteral("DCDigit3"), QStringLiteral("DCDigit4"),
-                            QStringLiteral("DCDigit5"), QStringLiteral("No1"),
-                            QStringLiteral("No2"),      QStringLiteral("No3")};
+const QString prefix = u"DCDigit"_s;
+const QStringList digitKeys{u"DCDigit1"_s, u"DCDigit2"_s, u"DCDigit3"_s, u"DCDigit4"_s,
+                            u"DCDigit5"_s, u"No1"_s,      u"No2"_s,      u"No3"_s};
 
 } // namespace
 
@@ -140,32 +140,31 @@ void DigitCodesTest::composesDigitsInOrder()
 {
     const SampleDialog dialog(digitOptions());
     SamplePanel panel(dialog, digitKeys);
-    QCOMPARE(panel.composeCodeForOption(prefix), QStringLiteral("00000"));
+    QCOMPARE(panel.composeCodeForOption(prefix), u"00000"_s);
     for (int i = 0; i < 5; ++i)
         panel.setValueForKey(QString::number(i + 1), digitKeys[i]);
-    QCOMPARE(panel.composeCodeForOption(prefix), QStringLiteral("12345"));
-    QCOMPARE(panel.composeCodeForOption(QStringLiteral("No")),
-             QStringLiteral("78")); // as many as the prefix is long
+    QCOMPARE(panel.composeCodeForOption(prefix), u"12345"_s);
+    QCOMPARE(panel.composeCodeForOption(u"No"_s),
+             u"78"_s); // as many as the prefix is long
 }
 
 void DigitCodesTest::decomposesIntoDigits()
 {
     const SampleDialog dialog(digitOptions());
     SamplePanel panel(dialog, digitKeys);
-    panel.decomposeCodeForOption(QStringLiteral("01230"), prefix);
+    panel.decomposeCodeForOption(u"01230"_s, prefix);
     QStringList digits;
     for (int i = 0; i < 5; ++i)
         digits.append(panel.valueForKey(digitKeys[i]).toString());
-    QCOMPARE(digits.join(u','), QStringLiteral("0,1,2,3,0"));
+    QCOMPARE(digits.join(u','), u"0,1,2,3,0"_s);
 }
 
 void DigitCodesTest::refusesShortCodes()
 {
     const SampleDialog dialog(digitOptions());
     SamplePanel panel(dialog, digitKeys);
-    QVERIFY_EXCEPTION_THROWN(panel.decomposeCodeForOption(QStringLiteral("1234"), prefix),
-                             platform::Exception);
-    QCOMPARE(panel.composeCodeForOption(prefix), QStringLiteral("00000"));
+    QVERIFY_EXCEPTION_THROWN(panel.decomposeCodeForOption(u"1234"_s, prefix), platform::Exception);
+    QCOMPARE(panel.composeCodeForOption(prefix), u"00000"_s);
 }
 
 QTEST_MAIN(DigitCodesTest)

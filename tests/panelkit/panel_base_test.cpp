@@ -10,13 +10,15 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using platform::Exception;
 
 namespace {
 
-const QString colorType = QStringLiteral("ColorType");
-const QString halftone = QStringLiteral("Halftone");
-const QString serial = QStringLiteral("Serial");
+const QString colorType = u"ColorType"_s;
+const QString halftone = u"Halftone"_s;
+const QString serial = u"Serial"_s;
 const QStringList keys{colorType, halftone, serial};
 
 const QByteArray ppdBody =
@@ -47,15 +49,13 @@ class PanelBaseTest : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void answersOptionKeys();
-    void setsByIndex();
+    void setsByIndexAndRefusesOthers();
     void announcesAChangeInOrder();
-    void refusesWhatItCannotHold();
     void restores();
     void restoreStopsAtAnException();
     void saves();
     void saveCommitsTheEditInProgress();
-    void summarisesWhatIsMarked();
-    void namesItself();
+    void namesItselfAndItsOptions();
     void loadsItsLayout();
     void livesWithoutManagerOrInterface();
 };
@@ -64,23 +64,23 @@ void PanelBaseTest::answersOptionKeys()
 {
     const SampleDialog dialog(ppdBody);
     SamplePanel panel(dialog, keys);
-    const QVariantList choices = panel.valueForKey(QStringLiteral("ColorTypeChoices")).toList();
+    const QVariantList choices = panel.valueForKey(u"ColorTypeChoices"_s).toList();
     QCOMPARE(choices.size(), 3);
-    QCOMPARE(choices[2].toMap(), (QVariantMap{{QVPPDChoiceKey, QStringLiteral("Mono")},
-                                              {QVPPDTextKey, QStringLiteral("Black & White")}}));
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Auto"))); // the PPD's default
-    QCOMPARE(panel.valueForKey(QStringLiteral("ColorTypeChoice")), QVariant(0));
-    panel.setValueForKey(QStringLiteral("Sepia"), colorType);
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Sepia")));
+    QCOMPARE(choices[2].toMap(),
+             (QVariantMap{{QVPPDChoiceKey, u"Mono"_s}, {QVPPDTextKey, u"Black & White"_s}}));
+    QCOMPARE(panel.valueForKey(colorType), QVariant(u"Auto"_s)); // the PPD's default
+    QCOMPARE(panel.valueForKey(u"ColorTypeChoice"_s), QVariant(0));
+    panel.setValueForKey(u"Sepia"_s, colorType);
+    QCOMPARE(panel.valueForKey(colorType), QVariant(u"Sepia"_s));
     for (const char *nil : {"ColorTypeChoice", "Serial", "SerialChoice", "SerialChoices"})
         QVERIFY2(!panel.valueForKey(QString::fromLatin1(nil)).isValid(), nil);
     // Options of the PPD that are none of the panel's, and keys of nobody.
     for (const char *undefined : {"Paper", "PaperChoice", "PaperChoices", "Choice"})
         QVERIFY_EXCEPTION_THROWN(panel.valueForKey(QString::fromLatin1(undefined)), Exception);
-    QCOMPARE(panel.valueForKey(QStringLiteral("supportedPPDOptionKeys")).toStringList(), keys);
+    QCOMPARE(panel.valueForKey(u"supportedPPDOptionKeys"_s).toStringList(), keys);
 }
 
-void PanelBaseTest::setsByIndex()
+void PanelBaseTest::setsByIndexAndRefusesOthers()
 {
     const SampleDialog dialog(ppdBody);
     SamplePanel panel(dialog, keys);
@@ -90,19 +90,24 @@ void PanelBaseTest::setsByIndex()
             QCOMPARE(change.object, &panel);
             posted.append(change.userInfo.value(platform::NSKeyValueChangeNewKey).toString());
         });
-    const QString index = QStringLiteral("ColorTypeChoice");
+    const QString index = u"ColorTypeChoice"_s;
     panel.setValueForKey(2, index);
-    panel.setValueForKey(QStringLiteral("1st"), index);
-    QCOMPARE(posted, (QStringList{QStringLiteral("Mono"), QStringLiteral("Color")}));
-    for (const int outside : {-1, 3}) {
+    panel.setValueForKey(u"1st"_s, index);
+    QCOMPARE(posted, (QStringList{u"Mono"_s, u"Color"_s}));
+    const auto refusal = [&panel](const QVariant &value, const QString &key) {
         try {
-            panel.setValueForKey(outside, index);
-            QFAIL("an index outside the list was taken");
+            panel.setValueForKey(value, key);
         } catch (const Exception &exception) {
-            QCOMPARE(exception.name(), Exception::rangeName);
+            return exception.name();
         }
-    }
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Color")));
+        return QString();
+    };
+    QCOMPARE(refusal(-1, index), Exception::rangeName);
+    QCOMPARE(refusal(3, index), Exception::rangeName);
+    QCOMPARE(refusal(0, u"SerialChoice"_s), Exception::rangeName);
+    QCOMPARE(refusal({}, colorType), Exception::invalidArgumentName);
+    QCOMPARE(refusal(u"Bond"_s, u"Paper"_s), Exception::undefinedKeyName);
+    QCOMPARE(panel.valueForKey(colorType), QVariant(u"Color"_s));
     dialog.manager->notificationCenter()->removeObserver(this);
 }
 
@@ -112,8 +117,8 @@ void PanelBaseTest::announcesAChangeInOrder()
     SamplePanel panel(dialog, keys);
     QStringList events;
     const auto note = [&](const char *what, const QString &key) {
-        events.append(QStringLiteral("%1 %2 %3")
-                          .arg(QString::fromLatin1(what), key, panel.valueForKey(colorType).toString()));
+        events.append(
+            u"%1 %2 %3"_s.arg(QString::fromLatin1(what), key, panel.valueForKey(colorType).toString()));
     };
     using platform::KeyValueObject;
     connect(&panel, &KeyValueObject::valueWillChange, this, [&](const QString &key) { note("will", key); });
@@ -121,38 +126,27 @@ void PanelBaseTest::announcesAChangeInOrder()
     QObject observer;
     dialog.manager->notificationCenter()->addObserver(
         &observer, colorType, [&](const platform::Notification &change) { note("post", change.name); });
-    panel.setValueForKey(QStringLiteral("Mono"), colorType);
+    panel.setValueForKey(u"Mono"_s, colorType);
     QCOMPARE(events.join(u", "),
              QStringLiteral("will ColorType Auto, will ColorTypeChoice Auto, "
                             "did ColorTypeChoice Mono, did ColorType Mono, post ColorType Mono"));
 }
 
-void PanelBaseTest::refusesWhatItCannotHold()
-{
-    const SampleDialog dialog(ppdBody);
-    SamplePanel panel(dialog, keys);
-    QVERIFY_EXCEPTION_THROWN(panel.setValueForKey({}, colorType), Exception);
-    QVERIFY_EXCEPTION_THROWN(panel.setValueForKey(QStringLiteral("Bond"), QStringLiteral("Paper")),
-                             Exception);
-    QVERIFY_EXCEPTION_THROWN(panel.setValueForKey(0, QStringLiteral("SerialChoice")), Exception);
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Auto")));
-}
-
 void PanelBaseTest::restores()
 {
     SampleDialog dialog(ppdBody);
-    dialog.manager->ppd()->markChoiceForOption(QStringLiteral("Mono"), colorType);
-    dialog.host.settings.setValue(serial, QStringLiteral("007"));
+    dialog.manager->ppd()->markChoiceForOption(u"Mono"_s, colorType);
+    dialog.host.settings.setValue(serial, u"007"_s);
     SamplePanel panel(dialog, keys);
-    panel.setValueForKey(QStringLiteral("Coarse"), halftone);
+    panel.setValueForKey(u"Coarse"_s, halftone);
     QVERIFY(panel.restoreValuesAndReturnError(nullptr));
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Mono")));
-    QCOMPARE(panel.valueForKey(halftone), QVariant(QStringLiteral("Fine")));
-    QCOMPARE(panel.valueForKey(serial), QVariant(QStringLiteral("007")));
+    QCOMPARE(panel.valueForKey(colorType), QVariant(u"Mono"_s));
+    QCOMPARE(panel.valueForKey(halftone), QVariant(u"Fine"_s));
+    QCOMPARE(panel.valueForKey(serial), QVariant(u"007"_s));
 
     dialog.manager->setUseConstraintHandling(false); // a host that gives no values back
     QVERIFY(panel.restoreValuesAndReturnError(nullptr));
-    QCOMPARE(panel.valueForKey(colorType), QVariant(QStringLiteral("Auto")));
+    QCOMPARE(panel.valueForKey(colorType), QVariant(u"Auto"_s));
 }
 
 void PanelBaseTest::restoreStopsAtAnException()
@@ -163,12 +157,10 @@ void PanelBaseTest::restoreStopsAtAnException()
     int halftoneChanges = 0;
     auto &center = *dialog.manager->notificationCenter();
     center.addObserver(&observer, colorType, [](const auto &) {
-        throw Exception(QStringLiteral("Trouble"), QStringLiteral("no colour"),
-                        {{QStringLiteral("tray"), 2}});
+        throw Exception(u"Trouble"_s, u"no colour"_s, {{u"tray"_s, 2}});
     });
     center.addObserver(&observer, halftone, [&](const auto &) { ++halftoneChanges; });
-    const Exception same(QStringLiteral("Trouble"), QStringLiteral("no colour"),
-                         {{QStringLiteral("tray"), 2}});
+    const Exception same(u"Trouble"_s, u"no colour"_s, {{u"tray"_s, 2}});
     QTest::ignoreMessage(QtWarningMsg, "Trouble: no colour");
     QTest::ignoreMessage(QtWarningMsg, qUtf8Printable(same.userInfoDescription()));
     QString error;
@@ -185,78 +177,66 @@ void PanelBaseTest::restoreStopsAtAnException()
 void PanelBaseTest::saves()
 {
     SampleDialog dialog(ppdBody);
+    const auto marked = [&] { return dialog.manager->ppd()->markedChoiceForOption(colorType)->choice; };
     SamplePanel panel(dialog, keys);
-    panel.setValueForKey(QStringLiteral("Mono"), colorType);
-    QCOMPARE(dialog.manager->ppd()->markedChoiceForOption(colorType)->choice, QStringLiteral("Auto"));
+    panel.setValueForKey(u"Mono"_s, colorType);
+    QCOMPARE(marked(), u"Auto"_s);
     QVERIFY(dialog.host.told.empty());
 
-    dialog.host.settings.setValue(serial, QStringLiteral("007"));
+    dialog.host.settings.setValue(serial, u"007"_s);
     QVERIFY(panel.saveValuesAndReturnError(nullptr));
     using Told = std::vector<std::pair<QString, QVariant>>;
-    QCOMPARE(dialog.host.told,
-             (Told{{colorType, QStringLiteral("Mono")}, {halftone, QStringLiteral("Fine")}, {serial, {}}}));
-    QCOMPARE(dialog.manager->ppd()->markedChoiceForOption(colorType)->choice, QStringLiteral("Mono"));
+    QCOMPARE(dialog.host.told, (Told{{colorType, u"Mono"_s}, {halftone, u"Fine"_s}, {serial, {}}}));
+    QCOMPARE(marked(), u"Mono"_s);
     QVERIFY(dialog.host.settings.values().isEmpty()); // the panel has no value for it, so it is gone
 }
 
 void PanelBaseTest::saveCommitsTheEditInProgress()
 {
     TestBundle files;
-    files.writeLayout(QStringLiteral("Edit"),
-                      "<widget class=\"platform::TextField\" name=\"field\"><property "
-                      "name=\"bind_stringValue\" stdset=\"0\">"
-                      "<string>Serial</string></property></widget>");
+    files.writeLayout(u"Edit"_s, "<widget class=\"platform::TextField\" name=\"field\"><property "
+                                 "name=\"bind_stringValue\" stdset=\"0\">"
+                                 "<string>Serial</string></property></widget>");
     SampleDialog dialog(ppdBody, files.open());
-    LayoutPanel panel(QStringLiteral("Edit"));
+    LayoutPanel panel(u"Edit"_s);
     panel.setSupportedPPDOptionKeys({serial});
     QVERIFY(panel.initWithManager(dialog.manager));
-    QTest::keyClicks(panel.panelView()->findChild<platform::TextField *>(), QStringLiteral("42"));
+    QTest::keyClicks(panel.panelView()->findChild<platform::TextField *>(), u"42"_s);
     QVERIFY(!panel.valueForKey(serial).isValid());
     QVERIFY(panel.saveValuesAndReturnError(nullptr));
-    QCOMPARE(dialog.host.settings.value(serial), QVariant(QStringLiteral("42")));
+    QCOMPARE(dialog.host.settings.value(serial), QVariant(u"42"_s));
 }
 
-void PanelBaseTest::summarisesWhatIsMarked()
+void PanelBaseTest::namesItselfAndItsOptions()
 {
     TestBundle files;
-    files.writeStrings(QStringLiteral("en"), QStringLiteral("Localizable"),
-                       {{colorType, QStringLiteral("Colour mode")}});
+    files.writeStrings(u"en"_s, u"Localizable"_s,
+                       {{colorType, u"Colour mode"_s}, {u"Toner"_s, u"Ink & Toner"_s}});
     const SampleDialog dialog(ppdBody, files.open());
     SamplePanel panel(dialog, keys);
-    panel.setValueForKey(QStringLiteral("Mono"), colorType); // pending, so not in the summary
+    panel.setPanelName(u"Toner"_s);
+    panel.setPanelIdentifier(u"toner"_s);
+    QCOMPARE(panel.panelName(), u"Ink & Toner"_s);
+    QCOMPARE(panel.panelKind(), u"com.kelmar.pde.toner"_s);
+    panel.setValueForKey(u"Mono"_s, colorType); // pending, so not in the summary
     QCOMPARE(panel.summaryInfo(),
-             (QMap<QString, QString>{{QStringLiteral("Colour mode"), QStringLiteral("Automatic")},
-                                     {QStringLiteral("Half Tone"), QStringLiteral("Fine")}}));
-}
-
-void PanelBaseTest::namesItself()
-{
-    TestBundle files;
-    files.writeStrings(QStringLiteral("en"), QStringLiteral("Localizable"),
-                       {{QStringLiteral("Toner"), QStringLiteral("Ink & Toner")}});
-    const SampleDialog dialog(ppdBody, files.open());
-    SamplePanel panel(dialog, {});
-    panel.setPanelName(QStringLiteral("Toner"));
-    panel.setPanelIdentifier(QStringLiteral("toner"));
-    QCOMPARE(panel.panelName(), QStringLiteral("Ink & Toner"));
-    QCOMPARE(panel.panelKind(), QStringLiteral("com.kelmar.pde.toner"));
-    QVERIFY(panel.shouldHide());
+             (QMap<QString, QString>{{u"Colour mode"_s, u"Automatic"_s}, {u"Half Tone"_s, u"Fine"_s}}));
 }
 
 void PanelBaseTest::loadsItsLayout()
 {
     TestBundle files;
-    files.writeLayout(QStringLiteral("Sheet-M880"), "<widget class=\"QVPopUpButton_M880\" name=\"popUp\"/>",
-                      {QStringLiteral("QVPopUpButton_M880")});
+    files.writeLayout(u"Sheet-M880"_s, "<widget class=\"QVPopUpButton_M880\" name=\"popUp\"/>",
+                      {u"QVPopUpButton_M880"_s});
     const SampleDialog dialog(ppdBody, files.open());
-    dialog.manager->setCurrentModel(QStringLiteral("M880"));
-    LayoutPanel panel(QStringLiteral("Sheet-%1"));
+    dialog.manager->setCurrentModel(u"M880"_s);
+    LayoutPanel panel(u"Sheet-%1"_s);
     QVERIFY(panel.initWithManager(dialog.manager));
     QVERIFY(panel.panelView()->findChild<QVPopUpButton_M880 *>());
-    panel.setValueForKey(QStringLiteral("hello"), QStringLiteral("remark"));
-    QCOMPARE(panel.remark(), QStringLiteral("hello"));
+    panel.setValueForKey(u"hello"_s, u"remark"_s);
+    QCOMPARE(panel.remark(), u"hello"_s);
 
-    LayoutPanel missing(QStringLiteral("Nowhere-%1"));
+    LayoutPanel missing(u"Nowhere-%1"_s);
     QVERIFY_EXCEPTION_THROWN(missing.initWithManager(dialog.manager), Exception);
     LayoutPanel without(QString{});
     QVERIFY(without.initWithManager(dialog.manager));
@@ -265,7 +245,7 @@ void PanelBaseTest::loadsItsLayout()
 
 void PanelBaseTest::livesWithoutManagerOrInterface()
 {
-    LayoutPanel orphan(QStringLiteral("Sheet"));
+    LayoutPanel orphan(u"Sheet"_s);
     QVERIFY(!orphan.initWithManager(nullptr));
     SampleDialog dialog(ppdBody);
     dialog.manager->setPpd(nullptr);

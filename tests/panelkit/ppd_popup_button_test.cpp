@@ -11,12 +11,14 @@
 #include <QTextDocumentFragment>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString colorType = QStringLiteral("ColorType");
-const QString balance = QStringLiteral("Balance");
-const QString duplex = QStringLiteral("Duplex");
-const QString foreign = QStringLiteral("Foreign");
+const QString colorType = u"ColorType"_s;
+const QString balance = u"Balance"_s;
+const QString duplex = u"Duplex"_s;
+const QString foreign = u"Foreign"_s;
 const QStringList keys{colorType, balance, duplex};
 
 const QByteArray ppdBody = ppdOption("ColorType/Colour <u>Type</u>",
@@ -58,7 +60,6 @@ class PpdPopUpButtonTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void showsTheChoices();
     void followsAndSetsTheValue();
     void greysOutWhatConflicts();
     void ignoresItsOwnOption();
@@ -70,42 +71,37 @@ private Q_SLOTS:
     void outlivesItsPanel();
 };
 
-void PpdPopUpButtonTest::showsTheChoices()
-{
-    Setting s(colorType);
-    QCOMPARE(s.popUp.itemText(2), QStringLiteral("Black & <i>White</i>"));
-    QCOMPARE(s.popUp.itemData(2).toMap(),
-             (QVPPDChoice_M880{QStringLiteral("Mono"), s.popUp.itemText(2)}).toMap());
-    QCOMPARE(s.popUp.count(), 3);
-}
-
 void PpdPopUpButtonTest::followsAndSetsTheValue()
 {
     Setting s(colorType);
+    QCOMPARE(s.popUp.count(), 3);
+    const QString text = u"Black & <i>White</i>"_s;
+    QCOMPARE(s.popUp.itemText(2), text);
+    QCOMPARE(s.popUp.itemData(2).toMap(), (QVPPDChoice_M880{u"Mono"_s, text}).toMap());
     QCOMPARE(s.popUp.selectedIndex(), QVariant(0));
     s.set(colorType, "Mono");
     QCOMPARE(s.popUp.currentIndex(), 2);
     s.popUp.setCurrentIndex(1);
-    QCOMPARE(s.panel.valueForKey(colorType), QVariant(QStringLiteral("Color")));
+    QCOMPARE(s.panel.valueForKey(colorType), QVariant(u"Color"_s));
     s.set(colorType, "Sepia"); // in none of the items
     QVERIFY(!s.popUp.selectedIndex().isValid());
-    QCOMPARE(s.panel.valueForKey(colorType), QVariant(QStringLiteral("Sepia")));
+    QCOMPARE(s.panel.valueForKey(colorType), QVariant(u"Sepia"_s));
 }
 
 void PpdPopUpButtonTest::greysOutWhatConflicts()
 {
     Setting s(balance);
-    QCOMPARE(s.enabled(), QStringLiteral("+++"));
+    QCOMPARE(s.enabled(), u"+++"_s);
     s.set(balance, "1");
     s.set(colorType, "Mono");
-    QCOMPARE(s.enabled(), QStringLiteral("+--"));
+    QCOMPARE(s.enabled(), u"+--"_s);
     QCOMPARE(s.popUp.currentIndex(), 1); // greyed, and still the selection
     s.set(duplex, "On");
     s.set(colorType, "Auto");
-    QCOMPARE(s.enabled(), QStringLiteral("+-+"));
+    QCOMPARE(s.enabled(), u"+-+"_s);
     s.set(duplex, "None");
     QCOMPARE(s.enabled(),
-             QStringLiteral("+++")); // "Foreign" is none of the panel's options, so it is not asked
+             u"+++"_s); // "Foreign" is none of the panel's options, so it is not asked
 }
 
 void PpdPopUpButtonTest::ignoresItsOwnOption()
@@ -113,9 +109,9 @@ void PpdPopUpButtonTest::ignoresItsOwnOption()
     Setting s(balance, ppdBody + ppdConstraint("Balance 0", "Balance 2"));
     QVERIFY(s.popUp.conflictableOptions().contains(balance));
     s.set(balance, "2");
-    QCOMPARE(s.enabled(), QStringLiteral("+++"));
+    QCOMPARE(s.enabled(), u"+++"_s);
     s.set(duplex, "None");
-    QCOMPARE(s.enabled(), QStringLiteral("-++"));
+    QCOMPARE(s.enabled(), u"-++"_s);
 }
 
 void PpdPopUpButtonTest::listensToConflictableOptionsOnly()
@@ -131,18 +127,17 @@ void PpdPopUpButtonTest::listensToConflictableOptionsOnly()
 void PpdPopUpButtonTest::saysWhyAChoiceIsGreyed()
 {
     TestBundle files;
-    files.writeStrings(
-        QStringLiteral("de"), QStringLiteral("QVPopUpButton_M880"),
-        {{QStringLiteral("Not available while \"%1\" is \"%2\"."), QStringLiteral("%1 steht auf %2.")}});
+    files.writeStrings(u"de"_s, u"QVPopUpButton_M880"_s,
+                       {{u"Not available while \"%1\" is \"%2\"."_s, u"%1 steht auf %2."_s}});
     Setting s(balance);
     s.set(colorType, "Mono");
-    const QString name = QStringLiteral("Colour <u>Type</u>");
-    const QString text = QStringLiteral("Black & <i>White</i>");
+    const QString name = u"Colour <u>Type</u>"_s;
+    const QString text = u"Black & <i>White</i>"_s;
     const auto toolTip = [&s] {
         const QString tip = s.popUp.itemData(1, Qt::ToolTipRole).toString();
         return QTextDocumentFragment::fromHtml(tip).toPlainText();
     };
-    const QString english = QStringLiteral("Not available while \"%1\" is \"%2\".").arg(name, text);
+    const QString english = u"Not available while \"%1\" is \"%2\"."_s.arg(name, text);
     QVERIFY(Qt::mightBeRichText(s.popUp.itemData(1, Qt::ToolTipRole).toString()));
     QCOMPARE(toolTip(), english);
     QCOMPARE(s.popUp.itemData(1, Qt::AccessibleDescriptionRole).toString(), english);
@@ -150,7 +145,7 @@ void PpdPopUpButtonTest::saysWhyAChoiceIsGreyed()
 
     s.dialog.manager->setBundle(files.open(QLocale(QLocale::German)));
     s.set(colorType, "Mono");
-    QCOMPARE(toolTip(), QStringLiteral("%1 steht auf %2.").arg(name, text));
+    QCOMPARE(toolTip(), u"%1 steht auf %2."_s.arg(name, text));
     s.set(colorType, "Auto");
     QCOMPARE(toolTip(), QString());
 }
@@ -161,7 +156,7 @@ void PpdPopUpButtonTest::isChosenFromByKeyboardAndMouse()
     s.set(duplex, "On");
     s.popUp.show();
     QTest::keyClick(&s.popUp, Qt::Key_Down); // over the greyed item
-    QCOMPARE(s.panel.valueForKey(balance), QVariant(QStringLiteral("2")));
+    QCOMPARE(s.panel.valueForKey(balance), QVariant(u"2"_s));
 
     const auto click = [&s](int row) {
         s.popUp.showPopup();
@@ -170,9 +165,9 @@ void PpdPopUpButtonTest::isChosenFromByKeyboardAndMouse()
                           list->visualRect(list->model()->index(row, 0)).topLeft() + QPoint(5, 5));
     };
     click(1); // greyed
-    QCOMPARE(s.panel.valueForKey(balance), QVariant(QStringLiteral("2")));
+    QCOMPARE(s.panel.valueForKey(balance), QVariant(u"2"_s));
     click(0);
-    QCOMPARE(s.panel.valueForKey(balance), QVariant(QStringLiteral("0")));
+    QCOMPARE(s.panel.valueForKey(balance), QVariant(u"0"_s));
 }
 
 void PpdPopUpButtonTest::turnsWithTheWheelOnlyWithFocus()
@@ -203,13 +198,13 @@ void PpdPopUpButtonTest::isRebuilt()
     QCOMPARE(s.popUp.conflictableOptions(), QSet<QString>{balance});
     QCOMPARE(s.dialog.manager->notificationCenter()->registrationCount(&s.popUp), 4);
     s.set(balance, "1");
-    QCOMPARE(s.enabled(), QStringLiteral("+-"));
+    QCOMPARE(s.enabled(), u"+-"_s);
     s.popUp.setCurrentIndex(1);
-    QCOMPARE(s.panel.valueForKey(duplex), QVariant(QStringLiteral("On")));
-    QCOMPARE(s.panel.valueForKey(balance), QVariant(QStringLiteral("1")));
+    QCOMPARE(s.panel.valueForKey(duplex), QVariant(u"On"_s));
+    QCOMPARE(s.panel.valueForKey(balance), QVariant(u"1"_s));
     s.popUp.setDataSourceAndOptionName(nullptr, duplex);
     QCOMPARE(s.popUp.count(), 0);
-    QCOMPARE(s.panel.valueForKey(duplex), QVariant(QStringLiteral("On")));
+    QCOMPARE(s.panel.valueForKey(duplex), QVariant(u"On"_s));
 }
 
 void PpdPopUpButtonTest::outlivesItsPanel()

@@ -10,40 +10,35 @@
 #include <QSlider>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString saturation = QStringLiteral("Saturation");
+const QString saturation = u"Saturation"_s;
 
-QByteArray slider(const QByteArray &name, const QByteArray &binding)
-{
-    return "<widget class=\"QSlider\" name=\"" + name +
-           "\"><property name=\"minimum\"><number>-5</number></property>"
-           "<property name=\"maximum\"><number>5</number></property>"
-           "<property name=\"orientation\"><enum>Qt::Horizontal</enum></property>" +
-           (binding.isEmpty()
-                ? QByteArray()
-                : "<property name=\"bind_value\" stdset=\"0\"><string>" + binding + "</string></property>") +
-           "</widget>";
-}
+const QByteArray layout =
+    "<widget class=\"QSlider\" name=\"knob\"><property name=\"minimum\"><number>-5</number></property>"
+    "<property name=\"maximum\"><number>5</number></property><property name=\"orientation\">"
+    "<enum>Qt::Horizontal</enum></property><property name=\"bind_value\" stdset=\"0\">"
+    "<string>Saturation | QVNumberTransformer_M880</string></property></widget>";
 
 class SliderPanel : public QVPDE_M880, public QVPDELoading_M880
 {
 public:
-    SliderPanel(const SampleDialog &dialog, const QByteArray &layout)
+    explicit SliderPanel(const SampleDialog &dialog)
     {
         TestBundle files;
-        files.writeLayout(QStringLiteral("Sliders"), layout);
+        files.writeLayout(u"Sliders"_s, layout);
         dialog.manager->setBundle(files.open());
         setSupportedPPDOptionKeys({saturation});
         initWithManager(dialog.manager);
     }
-    QString nibNameForModel(const QString &) const override { return QStringLiteral("Sliders"); }
-    QSlider *slider() { return panelView()->findChild<QSlider *>(QStringLiteral("knob")); }
+    QString nibNameForModel(const QString &) const override { return u"Sliders"_s; }
+    QSlider *slider() { return panelView()->findChild<QSlider *>(u"knob"_s); }
 };
 
 const QByteArray ppdBody =
     ppdOption("Saturation", {"0", "-5", "-4", "-3", "-2", "-1", "1", "2", "3", "4", "5"});
-const QByteArray layout = slider("knob", "Saturation | QVNumberTransformer_M880");
 
 } // namespace
 
@@ -63,27 +58,27 @@ private Q_SLOTS:
 void SliderNotificationsTest::slidersFollowAndSetTheKey()
 {
     const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog, layout);
-    panel.setValueForKey(QStringLiteral("-3"), saturation);
+    SliderPanel panel(dialog);
+    panel.setValueForKey(u"-3"_s, saturation);
     QCOMPARE(panel.slider()->value(), -3);
     QTest::keyClick(panel.slider(), Qt::Key_Right);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(QStringLiteral("-2")));
+    QCOMPARE(panel.valueForKey(saturation), QVariant(u"-2"_s));
     QCOMPARE(panel.slider()->value(), -2);
     QTest::keyClick(panel.slider(), Qt::Key_End);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(QStringLiteral("5")));
+    QCOMPARE(panel.valueForKey(saturation), QVariant(u"5"_s));
 }
 
 void SliderNotificationsTest::slidersReportWhileHeld()
 {
     const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog, layout);
+    SliderPanel panel(dialog);
     QSlider *knob = panel.slider();
     knob->setSliderDown(true);
     knob->setSliderPosition(4);
-    QTRY_COMPARE(panel.valueForKey(saturation), QVariant(QStringLiteral("4")));
+    QTRY_COMPARE(panel.valueForKey(saturation), QVariant(u"4"_s));
     knob->setSliderPosition(2);
     knob->setSliderDown(false);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(QStringLiteral("2")));
+    QCOMPARE(panel.valueForKey(saturation), QVariant(u"2"_s));
     QCOMPARE(knob->value(), 2);
 }
 
@@ -92,8 +87,8 @@ void SliderNotificationsTest::olderPathIsTakenWhereItBelongs()
     const auto system = QVPDEManager_M880::darwinVersion();
     const bool older = KELMAR_OLDER_HOSTS && system && system->compare(QVLeopardDarwinVersion) < 0;
     const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog, layout);
-    const bool bound = platform::Binding::infoForBinding(panel.slider(), QStringLiteral("value"));
+    SliderPanel panel(dialog);
+    const bool bound = platform::Binding::infoForBinding(panel.slider(), u"value"_s);
     QCOMPARE(bound, !older);
     QCOMPARE(panel.slider()->hasTracking(), !older);
 
@@ -108,19 +103,19 @@ void SliderNotificationsTest::olderPathIsTakenWhereItBelongs()
 void SliderNotificationsTest::lastSubviewDecidesTheResult()
 {
     const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog, layout);
+    SliderPanel panel(dialog);
     QWidget view;
     QWidget box(&view);
     auto *inBox = new QSlider(&box);
-    platform::Binding::bind(inBox, QStringLiteral("value"), &panel, QStringLiteral("SaturationChoice"));
+    platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
     SliderRegistry registry;
     QVERIFY(QVDetachSliderBindingsInView(&view, &registry));
-    QCOMPARE(registry.value(QStringLiteral("SaturationChoice")), inBox);
+    QCOMPARE(registry.value(u"SaturationChoice"_s), inBox);
 
-    platform::Binding::bind(inBox, QStringLiteral("value"), &panel, QStringLiteral("SaturationChoice"));
+    platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
     QWidget last(&view);
     QVERIFY(!QVDetachSliderBindingsInView(&view, &registry));
-    QVERIFY(!platform::Binding::infoForBinding(inBox, QStringLiteral("value")));
+    QVERIFY(!platform::Binding::infoForBinding(inBox, u"value"_s));
 }
 #endif
 

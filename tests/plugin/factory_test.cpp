@@ -14,31 +14,26 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A panel that is nothing but its name and its manager.
-class BarePanel : public platform::PrintDialogPanel
+struct BarePanel : platform::PrintDialogPanel
 {
-public:
-    BarePanel(QString name, std::shared_ptr<QVPDEManager_M880> manager)
-        : manager(std::move(manager)), m_name(std::move(name))
-    {
-    }
-    QString panelName() override { return m_name; }
-    QString panelKind() override { return m_name; }
+    QString panelName() override { return name; }
+    QString panelKind() override { return name; }
     QWidget *panelView() override { return nullptr; }
     QMap<QString, QString> summaryInfo() override { return {}; }
     bool shouldHide() override { return true; }
     void willShow() override {}
     bool restoreValuesAndReturnError(QString *) override { return true; }
     bool saveValuesAndReturnError(QString *) override { return true; }
-    platform::KeyValueObject *keyValueObject() override { return &m_keys; }
+    platform::KeyValueObject *keyValueObject() override { return &keys; }
 
+    QString name;
     std::shared_ptr<QVPDEManager_M880> manager;
-
-private:
-    QString m_name;
-    platform::KeyValueObject m_keys;
+    platform::KeyValueObject keys;
 };
 
 using Maker = std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>;
@@ -52,7 +47,10 @@ public:
     {
         if (!maker) {
             maker = [panelName](std::shared_ptr<QVPDEManager_M880> manager) {
-                return std::make_unique<BarePanel>(panelName, std::move(manager));
+                auto panel = std::make_unique<BarePanel>();
+                panel->name = panelName;
+                panel->manager = std::move(manager);
+                return panel;
             };
         }
         PanelRoster::registerClass({m_className, maker});
@@ -64,9 +62,9 @@ private:
     QString m_className;
 };
 
-const QString printMode = QStringLiteral("PrintMode");
-const QString colorSettings1 = QStringLiteral("ColorSettings1");
-const QString colorSettings2 = QStringLiteral("ColorSettings2");
+const QString printMode = u"PrintMode"_s;
+const QString colorSettings1 = u"ColorSettings1"_s;
+const QString colorSettings2 = u"ColorSettings2"_s;
 
 QStringList names(const platform::PrintDialogPanels &panels)
 {
@@ -87,83 +85,75 @@ class FactoryTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
+    void initTestCase();
     void declinesOtherPanelTypes();
     void offersTheClassesOfThisBuildInOrder();
     void configuresOneManagerForADialog();
-    void noticesHostsWithoutConstraintResolution();
-    void worksWithoutPpd();
+    void worksForOlderHostsAndWithoutPpd();
     void skipsAPanelThatRaises();
     void passesOtherExceptionsOn();
 
 private:
-    std::unique_ptr<TestBundle> m_files;
-    std::shared_ptr<platform::Bundle> m_bundle;
-    std::unique_ptr<InlinePpd> m_ppd;
-    std::unique_ptr<QVPDEFactory_M880> m_factory;
+    std::optional<platform::PrintDialogPanels> panelsFor(platform::PrintDialogHost *host)
+    {
+        return m_factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, host);
+    }
+
+    std::shared_ptr<platform::Bundle> m_bundle = TestBundle().open();
+    InlinePpd m_ppd{"*ModelName: \"KELMAR OrbM880Series\"\n"};
+    QVPDEFactory_M880 m_factory;
 };
 
-void FactoryTest::init()
+void FactoryTest::initTestCase()
 {
-    m_files = std::make_unique<TestBundle>();
-    m_bundle = m_files->open();
-    m_ppd = std::make_unique<InlinePpd>("*ModelName: \"KELMAR OrbM880Series\"\n");
-    m_factory = std::make_unique<QVPDEFactory_M880>();
-    QVERIFY(m_factory->initWithBundle(m_bundle));
+    QVERIFY(m_factory.initWithBundle(m_bundle));
 }
 
 void FactoryTest::declinesOtherPanelTypes()
 {
     const RosterEntry entry(printMode);
-    ResolvingRecordingHost host(m_ppd->get());
-    QVERIFY(!m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType.toLower(), &host));
+    ResolvingRecordingHost host(m_ppd.get());
+    QVERIFY(!m_factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType.toLower(), &host));
     QCOMPARE(host.ppdRequests, 0);
 }
 
 void FactoryTest::offersTheClassesOfThisBuildInOrder()
 {
-    const RosterEntry last(QStringLiteral("Watermark"));
+    const RosterEntry last(u"Watermark"_s);
     const RosterEntry second(colorSettings2);
-    const RosterEntry unknown(QStringLiteral("Stapler"));
+    const RosterEntry unknown(u"Stapler"_s);
     const RosterEntry first(printMode);
     const RosterEntry declining(colorSettings1, [](auto) { return nullptr; });
-    ResolvingRecordingHost host(m_ppd->get());
-    const auto panels = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host);
-    QCOMPARE(names(panels.value()), (QStringList{printMode, colorSettings2, QStringLiteral("Watermark")}));
+    ResolvingRecordingHost host(m_ppd.get());
+    const auto panels = panelsFor(&host);
+    QCOMPARE(names(panels.value()), (QStringList{printMode, colorSettings2, u"Watermark"_s}));
 }
 
 void FactoryTest::configuresOneManagerForADialog()
 {
     const RosterEntry first(printMode);
     const RosterEntry second(colorSettings1);
-    ResolvingRecordingHost host(m_ppd->get());
-    const auto panels = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host).value();
-    const auto others = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host).value();
+    ResolvingRecordingHost host(m_ppd.get());
+    const auto panels = panelsFor(&host).value();
+    const auto others = panelsFor(&host).value();
 
     const QVPDEManager_M880 &manager = managerOf(panels, 0);
     QCOMPARE(&managerOf(panels, 1), &manager);
     QVERIFY(&managerOf(others, 0) != &manager);
     QCOMPARE(manager.bundle(), m_bundle);
-    QCOMPARE(manager.bundleVersion()->stringValue(), QStringLiteral("1.0.0"));
+    QCOMPARE(manager.bundleVersion()->stringValue(), u"1.0.0"_s);
     QCOMPARE(manager.host(), static_cast<platform::PrintDialogHost *>(&host));
-    QCOMPARE(manager.ppd()->cupsPPD(), m_ppd->get());
-    QCOMPARE(manager.currentModel(), QStringLiteral("KELMAR OrbM880Series"));
+    QCOMPARE(manager.ppd()->cupsPPD(), m_ppd.get());
+    QCOMPARE(manager.currentModel(), u"KELMAR OrbM880Series"_s);
     QVERIFY(manager.useConstraintHandling());
 }
 
-void FactoryTest::noticesHostsWithoutConstraintResolution()
+void FactoryTest::worksForOlderHostsAndWithoutPpd()
 {
     const RosterEntry entry(printMode);
-    RecordingHost host(m_ppd->get());
-    const auto panels = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host).value();
+    RecordingHost host;
+    const auto panels = panelsFor(&host).value();
     QVERIFY(!managerOf(panels, 0).useConstraintHandling());
-}
-
-void FactoryTest::worksWithoutPpd()
-{
-    const RosterEntry entry(printMode);
-    ResolvingRecordingHost host;
-    const auto panels = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host).value();
     QVERIFY(!managerOf(panels, 0).ppd());
     QVERIFY(managerOf(panels, 0).currentModel().isNull());
 }
@@ -171,14 +161,14 @@ void FactoryTest::worksWithoutPpd()
 void FactoryTest::skipsAPanelThatRaises()
 {
     const RosterEntry failing(printMode, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
-        throw platform::Exception(platform::Exception::layoutName, QStringLiteral("PrintMode.ui is missing"));
+        throw platform::Exception(platform::Exception::layoutName, u"PrintMode.ui is missing"_s);
     });
     const RosterEntry sound(colorSettings1);
-    ResolvingRecordingHost host(m_ppd->get());
+    ResolvingRecordingHost host(m_ppd.get());
     QTest::ignoreMessage(QtWarningMsg,
                          "\"QVPDEPrintMode_M880\" was not loaded because an unexpected error occurred.");
     QTest::ignoreMessage(QtWarningMsg, "LayoutException: PrintMode.ui is missing");
-    const auto panels = m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host);
+    const auto panels = panelsFor(&host);
     QCOMPARE(names(panels.value()), (QStringList{colorSettings1}));
 }
 
@@ -187,9 +177,8 @@ void FactoryTest::passesOtherExceptionsOn()
     const RosterEntry failing(printMode, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
         throw std::runtime_error("out of luck");
     });
-    ResolvingRecordingHost host(m_ppd->get());
-    QVERIFY_EXCEPTION_THROWN(m_factory->PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host),
-                             std::runtime_error);
+    ResolvingRecordingHost host(m_ppd.get());
+    QVERIFY_EXCEPTION_THROWN(panelsFor(&host), std::runtime_error);
 }
 
 QTEST_GUILESS_MAIN(FactoryTest)

@@ -10,6 +10,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray ppdBody =
@@ -38,10 +40,10 @@ struct Dialog
     QVPDEManager_M880 manager;
 };
 
-const QString colorType = QStringLiteral("ColorType");
-const QString halftone = QStringLiteral("Halftone");
-const QString stamp = QStringLiteral("Stamp");
-const QString foreign = QStringLiteral("com.kelmar.foreign");
+const QString colorType = u"ColorType"_s;
+const QString halftone = u"Halftone"_s;
+const QString stamp = u"Stamp"_s;
+const QString foreign = u"com.kelmar.foreign"_s;
 
 } // namespace
 
@@ -52,7 +54,6 @@ private Q_SLOTS:
     void tellsVersions();
     void readsMarkedThenDefaultThenSetting();
     void readsEveryOptionWhenNoneIsNamed();
-    void readsDefaultWhereNothingIsMarked();
     void tellsTheHostBeforeItWrites();
     void writesWhatIsNoChoiceIntoTheSettings();
     void writesEveryEntryWhenNoKeyIsNamed();
@@ -68,7 +69,7 @@ private Q_SLOTS:
 
 void ManagerTest::tellsVersions()
 {
-    QCOMPARE(QVPDEManager_M880::managerVersion()->stringValue(), QStringLiteral("1.01.0"));
+    QCOMPARE(QVPDEManager_M880::managerVersion()->stringValue(), u"1.01.0"_s);
     const QString release = QSysInfo::kernelVersion();
     const auto system = QVPDEManager_M880::darwinVersion();
     QCOMPARE(bool(system), release.count(u'.') <= 2);
@@ -79,14 +80,16 @@ void ManagerTest::tellsVersions()
 void ManagerTest::readsMarkedThenDefaultThenSetting()
 {
     Dialog<ResolvingRecordingHost> dialog;
-    dialog.manager.ppd()->markChoiceForOption(QStringLiteral("Mono"), colorType);
-    for (const QString &key : {colorType, stamp, foreign})
-        dialog.host.settings.setValue(key, QStringLiteral("from settings"));
+    dialog.ppd.unmarkAll();
+    dialog.manager.ppd()->markChoiceForOption(u"Mono"_s, colorType);
+    for (const QString &key : {colorType, halftone, stamp, foreign})
+        dialog.host.settings.setValue(key, u"from settings"_s);
     const auto choices =
-        dialog.manager.ppdDictionaryForOptions({colorType, stamp, foreign, QStringLiteral("Nowhere")});
-    QCOMPARE(choices.value(), (QVariantMap{{colorType, QStringLiteral("Mono")},
-                                           {stamp, QStringLiteral("from settings")},
-                                           {foreign, QStringLiteral("from settings")}}));
+        dialog.manager.ppdDictionaryForOptions({colorType, halftone, stamp, foreign, u"Nowhere"_s});
+    QCOMPARE(choices.value(), (QVariantMap{{colorType, u"Mono"_s},
+                                           {halftone, u"Fine"_s},
+                                           {stamp, u"from settings"_s},
+                                           {foreign, u"from settings"_s}}));
 }
 
 void ManagerTest::readsEveryOptionWhenNoneIsNamed()
@@ -94,21 +97,7 @@ void ManagerTest::readsEveryOptionWhenNoneIsNamed()
     Dialog<ResolvingRecordingHost> dialog;
     dialog.host.settings.setValue(foreign, 1);
     QCOMPARE(dialog.manager.ppdDictionaryForOptions({}).value(),
-             (QVariantMap{{colorType, QStringLiteral("Auto")}, {halftone, QStringLiteral("Fine")}}));
-}
-
-void ManagerTest::readsDefaultWhereNothingIsMarked()
-{
-    InlinePpd ppd(ppdOption("ColorType", {"Auto", "Color"}));
-    ppd.unmarkAll();
-    ResolvingRecordingHost host(ppd.get());
-    host.settings.setValue(colorType, QStringLiteral("from settings"));
-    QVPDEManager_M880 manager;
-    manager.setHost(&host);
-    manager.setPpd(QVPPD_M880::ppdWithHost(&host));
-    manager.setUseConstraintHandling(true);
-    QVERIFY(!manager.ppd()->markedChoiceForOption(colorType));
-    QCOMPARE(manager.ppdDictionaryForOptions({colorType}).value().value(colorType), QStringLiteral("Auto"));
+             (QVariantMap{{colorType, u"Auto"_s}, {halftone, u"Fine"_s}}));
 }
 
 void ManagerTest::tellsTheHostBeforeItWrites()
@@ -119,32 +108,30 @@ void ManagerTest::tellsTheHostBeforeItWrites()
         before.append(keyword == colorType ? dialog.marked(colorType)
                                            : dialog.host.settings.value(keyword).toString());
     };
-    dialog.manager.setPpdDictionaryForOptions(
-        {{colorType, QStringLiteral("Mono")}, {foreign, QStringLiteral("new")}}, {foreign, colorType, stamp});
-    QCOMPARE(before, (QStringList{QString(), QStringLiteral("Auto"), QString()}));
+    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}, {foreign, u"new"_s}},
+                                              {foreign, colorType, stamp});
+    QCOMPARE(before, (QStringList{QString(), u"Auto"_s, QString()}));
     using Told = std::vector<std::pair<QString, QVariant>>;
-    QCOMPARE(dialog.host.told,
-             (Told{{foreign, QStringLiteral("new")}, {colorType, QStringLiteral("Mono")}, {stamp, {}}}));
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Mono"));
-    QCOMPARE(dialog.host.settings.values(), (QVariantMap{{foreign, QStringLiteral("new")}}));
+    QCOMPARE(dialog.host.told, (Told{{foreign, u"new"_s}, {colorType, u"Mono"_s}, {stamp, {}}}));
+    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
+    QCOMPARE(dialog.host.settings.values(), (QVariantMap{{foreign, u"new"_s}}));
 }
 
 void ManagerTest::writesWhatIsNoChoiceIntoTheSettings()
 {
     Dialog<ResolvingRecordingHost> dialog;
-    dialog.host.settings.setValue(halftone, QStringLiteral("old"));
+    dialog.host.settings.setValue(halftone, u"old"_s);
     dialog.manager.setPpdDictionaryForOptions({{colorType, 2}}, {colorType, halftone});
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Auto"));
+    QCOMPARE(dialog.marked(colorType), u"Auto"_s);
     QCOMPARE(dialog.host.settings.values(), (QVariantMap{{colorType, 2}})); // nil took the other away
 }
 
 void ManagerTest::writesEveryEntryWhenNoKeyIsNamed()
 {
     Dialog<ResolvingRecordingHost> dialog;
-    dialog.manager.setPpdDictionaryForOptions(
-        {{colorType, QStringLiteral("Color")}, {halftone, QStringLiteral("Coarse")}}, {});
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Color"));
-    QCOMPARE(dialog.marked(halftone), QStringLiteral("Coarse"));
+    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Color"_s}, {halftone, u"Coarse"_s}}, {});
+    QCOMPARE(dialog.marked(colorType), u"Color"_s);
+    QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
 }
 
 void ManagerTest::survivesWithoutHostAndPpd()
@@ -152,22 +139,22 @@ void ManagerTest::survivesWithoutHostAndPpd()
     QVPDEManager_M880 manager;
     manager.setUseConstraintHandling(true);
     manager.setBundle(nullptr);
-    manager.setPpdDictionaryForOptions({{colorType, QStringLiteral("Mono")}}, {});
+    manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {});
     QCOMPARE(manager.ppdDictionaryForOptions({colorType}).value(), QVariantMap());
     QCOMPARE(manager.localizedStringForKey(colorType), colorType);
     QVERIFY(!manager.bundleVersion());
 }
 
 #if KELMAR_OLDER_HOSTS
-const QString ticketName = QStringLiteral("PMPrintSettingsTicket");
+const QString ticketName = u"PMPrintSettingsTicket"_s;
 
 void ManagerTest::readsTheTicket()
 {
     Dialog<RecordingHost> dialog;
-    dialog.host.session.tickets[ticketName].ppdDictionary = QVariantMap{
-        {colorType, QStringLiteral("Color")}, {halftone, QStringLiteral("Fine")}, {stamp, QVariant()}};
+    dialog.host.session.tickets[ticketName].ppdDictionary =
+        QVariantMap{{colorType, u"Color"_s}, {halftone, u"Fine"_s}, {stamp, QVariant()}};
     QCOMPARE(dialog.manager.ppdDictionaryForOptions({colorType, stamp, foreign}).value(),
-             (QVariantMap{{colorType, QStringLiteral("Color")}}));
+             (QVariantMap{{colorType, u"Color"_s}}));
     QVERIFY(!dialog.manager.ppdDictionaryForOptions({}));
 }
 
@@ -175,20 +162,16 @@ void ManagerTest::writesTheTicketAndMarks()
 {
     Dialog<RecordingHost> dialog;
     auto &inTicket = dialog.host.session.tickets[ticketName].ppdDictionary;
-    inTicket = QVariantMap{{colorType, QStringLiteral("Color")}, {stamp, QStringLiteral("On")}};
-    dialog.manager.setPpdDictionaryForOptions({{colorType, QStringLiteral("Mono")},
-                                               {halftone, QStringLiteral("Coarse")},
-                                               {foreign, QStringLiteral("x")},
-                                               {stamp, QVariant()}},
-                                              {colorType, foreign, stamp});
-    QCOMPARE(inTicket.value(), (QVariantMap{{colorType, QStringLiteral("Mono")},
-                                            {foreign, QStringLiteral("x")},
-                                            {stamp, QStringLiteral("On")}}));
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Mono"));
-    QCOMPARE(dialog.marked(halftone), QStringLiteral("Fine"));
+    inTicket = QVariantMap{{colorType, u"Color"_s}, {stamp, u"On"_s}};
+    dialog.manager.setPpdDictionaryForOptions(
+        {{colorType, u"Mono"_s}, {halftone, u"Coarse"_s}, {foreign, u"x"_s}, {stamp, QVariant()}},
+        {colorType, foreign, stamp});
+    QCOMPARE(inTicket.value(), (QVariantMap{{colorType, u"Mono"_s}, {foreign, u"x"_s}, {stamp, u"On"_s}}));
+    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
+    QCOMPARE(dialog.marked(halftone), u"Fine"_s);
 
-    dialog.manager.setPpdDictionaryForOptions({{halftone, QStringLiteral("Coarse")}}, {});
-    QCOMPARE(dialog.marked(halftone), QStringLiteral("Coarse"));
+    dialog.manager.setPpdDictionaryForOptions({{halftone, u"Coarse"_s}}, {});
+    QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
     QVERIFY(dialog.host.settings.values().isEmpty());
 }
 
@@ -196,16 +179,16 @@ void ManagerTest::survivesAMissingTicket()
 {
     Dialog<RecordingHost> dialog;
     QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
-    dialog.manager.setPpdDictionaryForOptions({{colorType, QStringLiteral("Mono")}}, {colorType});
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Mono"));
+    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {colorType});
+    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
 }
 #else
 void ManagerTest::takesNoPartWithoutConstraintHandling()
 {
     Dialog<RecordingHost> dialog;
     QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
-    dialog.manager.setPpdDictionaryForOptions({{colorType, QStringLiteral("Mono")}}, {colorType});
-    QCOMPARE(dialog.marked(colorType), QStringLiteral("Auto"));
+    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {colorType});
+    QCOMPARE(dialog.marked(colorType), u"Auto"_s);
     QVERIFY(dialog.host.settings.values().isEmpty());
 }
 #endif

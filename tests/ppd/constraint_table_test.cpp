@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class ConstraintTableTest : public QObject
 {
     Q_OBJECT
@@ -33,7 +35,7 @@ void ConstraintTableTest::answersFromEitherSide_data()
     QTest::addColumn<bool>("forbidden");
     const auto row = [](const char *pairs, bool forbidden) {
         QStringList names = QString::fromLatin1(pairs).split(u' ');
-        names.replaceInStrings(QStringLiteral("(none)"), QString());
+        names.replaceInStrings(u"(none)"_s, QString());
         QTest::newRow(pairs) << names << forbidden;
     };
     row("ColorType Mono Balance 1", true);
@@ -68,12 +70,11 @@ void ConstraintTableTest::tellsConflictableOptions()
 {
     const InlinePpd ppd(body);
     const ConstraintTable table(ppd.get());
-    const QString colorType = QStringLiteral("ColorType");
-    QCOMPARE(table.conflictableOptions(colorType, QStringLiteral("Mono")),
-             (QSet<QString>{QStringLiteral("Balance"), QStringLiteral("Duplex")}));
+    const QString colorType = u"ColorType"_s;
+    QCOMPARE(table.conflictableOptions(colorType, u"Mono"_s), (QSet<QString>{u"Balance"_s, u"Duplex"_s}));
     // The option whose name is not valid text is left out, and its line with it.
-    QCOMPARE(table.conflictableOptions(colorType, QStringLiteral("Auto")), QSet<QString>());
-    QCOMPARE(table.conflictableOptions(QStringLiteral("Nowhere"), QStringLiteral("Mono")), QSet<QString>());
+    QCOMPARE(table.conflictableOptions(colorType, u"Auto"_s), QSet<QString>());
+    QCOMPARE(table.conflictableOptions(u"Nowhere"_s, u"Mono"_s), QSet<QString>());
 }
 
 void ConstraintTableTest::isEmptyWithoutConstraints()

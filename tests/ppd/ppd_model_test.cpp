@@ -9,6 +9,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A model over a PPD written out in the test.
@@ -26,11 +28,11 @@ struct Model
     std::shared_ptr<QVPPD_M880> model;
 };
 
-const QString colorType = QStringLiteral("ColorType");
-const QString mono = QStringLiteral("Mono");
+const QString colorType = u"ColorType"_s;
+const QString mono = u"Mono"_s;
 const QByteArray colorTypeOption =
     ppdOption("ColorType/Colour Type", {"Auto/Automatic", "Color/Colour", "Mono/Black & White"});
-const QString longName = QStringLiteral("An40CharacterKeywordThatLibcupsCanStillHo");
+const QString longName = u"An40CharacterKeywordThatLibcupsCanStillHo"_s;
 
 } // namespace
 
@@ -41,7 +43,6 @@ private Q_SLOTS:
     void findsThePpd();
     void readsTheHead();
     void listsOptionsOnceInPpdOrder();
-    void findsOptions_data();
     void findsOptions();
     void listsChoices();
     void hasNoChoicesForEmptyOptions();
@@ -51,7 +52,6 @@ private Q_SLOTS:
     void leavesOutInvalidText();
     void readsRepeatedAttributes();
     void readsInstallableOptions();
-    void turnsChoicesIntoDictionaries();
 };
 
 void PpdModelTest::findsThePpd()
@@ -71,9 +71,9 @@ void PpdModelTest::readsTheHead()
 {
     const Model model(
         "*FileVersion: \"1.02\"\n*ModelName: \"KELMAR Orb \xc3\x9c\"\n*PCFileName: \"KELM880.PPD\"\n");
-    QCOMPARE(model->version()->stringValue(), QStringLiteral("1.02.0"));
-    QCOMPARE(model->modelname(), QStringLiteral("KELMAR Orb Ü"));
-    QCOMPARE(model->ppdFilename(), QStringLiteral("KELM880.PPD"));
+    QCOMPARE(model->version()->stringValue(), u"1.02.0"_s);
+    QCOMPARE(model->modelname(), u"KELMAR Orb Ü"_s);
+    QCOMPARE(model->ppdFilename(), u"KELM880.PPD"_s);
     const Model bare("");
     QVERIFY(!bare->version());
     QVERIFY(bare->modelname().isNull());
@@ -85,62 +85,50 @@ void PpdModelTest::listsOptionsOnceInPpdOrder()
     const Model model(ppdGroup("Second", ppdOption("Zeta", {"a"}) + ppdOption("Mu", {"a"})) +
                       ppdGroup("First", ppdOption("Alpha", {"a"})));
     const QStringList *options = &model->allOptions();
-    QCOMPARE(*options, (QStringList{QStringLiteral("Zeta"), QStringLiteral("Mu"), QStringLiteral("Alpha")}));
+    QCOMPARE(*options, (QStringList{u"Zeta"_s, u"Mu"_s, u"Alpha"_s}));
     model->setCupsPPD(nullptr);
     QCOMPARE(&model->allOptions(), options);
     QCOMPARE(options->size(), 3);
 }
 
-void PpdModelTest::findsOptions_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<bool>("found");
-    QTest::newRow("itself") << QStringLiteral("DINDigit1") << true;
-    QTest::newRow("prefix of the first digit") << QStringLiteral("DINDigit") << true;
-    QTest::newRow("another digit") << QStringLiteral("DINDigit2") << false;
-    QTest::newRow("longest keyword") << longName.left(40) << true;
-    QTest::newRow("longer than any keyword") << longName << false;
-    QTest::newRow("cut by a null character") << QStringLiteral("DINDigit1") + QChar(u'\0') << false;
-    QTest::newRow("nil") << QString() << false;
-}
-
 void PpdModelTest::findsOptions()
 {
-    QFETCH(QString, option);
-    QFETCH(bool, found);
     // Libcups reads so long a keyword only without an asterisk and without a default.
     const QByteArray keyword = longName.left(40).toLatin1();
     const QByteArray longest =
         "*OpenUI " + keyword + ": PickOne\n*" + keyword + " 0: \"\"\n*CloseUI: " + keyword + "\n";
     const Model model(ppdOption("DINDigit1", {"0"}) + longest);
-    QCOMPARE(model->hasOption(option), found);
+    for (const QString &there : {u"DINDigit1"_s, u"DINDigit"_s, longName.left(40)})
+        QVERIFY2(model->hasOption(there), qUtf8Printable(there));
+    for (const QString &missing : {u"DINDigit2"_s, longName, u"DINDigit1"_s + QChar(u'\0'), QString()})
+        QVERIFY2(!model->hasOption(missing), qUtf8Printable(missing));
 }
 
 void PpdModelTest::listsChoices()
 {
     const Model model(colorTypeOption);
-    const QStringList keywords{QStringLiteral("Auto"), QStringLiteral("Color"), mono};
+    const QStringList keywords{u"Auto"_s, u"Color"_s, mono};
     QCOMPARE(model->choicesForOption(colorType).value(), keywords);
     QStringList order;
     const auto texts = model->choicesWithValuesForOptionOrder(colorType, &order);
     QCOMPARE(order, keywords);
-    QCOMPARE(texts.value(), (QMap<QString, QString>{{QStringLiteral("Auto"), QStringLiteral("Automatic")},
-                                                    {QStringLiteral("Color"), QStringLiteral("Colour")},
-                                                    {mono, QStringLiteral("Black & White")}}));
+    QCOMPARE(texts.value(),
+             (QMap<QString, QString>{
+                 {u"Auto"_s, u"Automatic"_s}, {u"Color"_s, u"Colour"_s}, {mono, u"Black & White"_s}}));
 }
 
 void PpdModelTest::hasNoChoicesForEmptyOptions()
 {
     const Model model(ppdOption("Empty", {}));
-    for (const QString &option : {QStringLiteral("Empty"), QStringLiteral("Missing")}) {
-        QStringList order{QStringLiteral("untouched")};
+    for (const QString &option : {u"Empty"_s, u"Missing"_s}) {
+        QStringList order{u"untouched"_s};
         QVERIFY(!model->choicesForOption(option));
         QVERIFY(!model->choicesWithValuesForOptionOrder(option, &order));
         QVERIFY(!model->localizedChoicesForOptionWithBundle(option, nullptr));
         QVERIFY(!model->defaultChoiceForOption(option));
-        QCOMPARE(order, QStringList{QStringLiteral("untouched")});
+        QCOMPARE(order, QStringList{u"untouched"_s});
     }
-    QVERIFY(model->hasOption(QStringLiteral("Empty")));
+    QVERIFY(model->hasOption(u"Empty"_s));
 }
 
 void PpdModelTest::tellsDefaultAndMarkedChoice()
@@ -148,12 +136,10 @@ void PpdModelTest::tellsDefaultAndMarkedChoice()
     Model model(colorTypeOption +
                 "*OpenUI *Odd: PickOne\n*DefaultOdd: Gone\n*Odd Here: \"\"\n*CloseUI: *Odd\n");
     model->markChoiceForOption(mono, colorType);
-    QCOMPARE(model->markedChoiceForOption(colorType).value(),
-             (QVPPDChoice_M880{mono, QStringLiteral("Black & White")}));
-    QCOMPARE(model->defaultChoiceForOption(colorType).value(),
-             (QVPPDChoice_M880{QStringLiteral("Auto"), QStringLiteral("Automatic")}));
-    QVERIFY(!model->defaultChoiceForOption(QStringLiteral("Odd")));
-    QVERIFY(!model->markedChoiceForOption(QStringLiteral("Odd")));
+    QCOMPARE(model->markedChoiceForOption(colorType).value(), (QVPPDChoice_M880{mono, u"Black & White"_s}));
+    QCOMPARE(model->defaultChoiceForOption(colorType).value(), (QVPPDChoice_M880{u"Auto"_s, u"Automatic"_s}));
+    QVERIFY(!model->defaultChoiceForOption(u"Odd"_s));
+    QVERIFY(!model->markedChoiceForOption(u"Odd"_s));
     model.ppd.unmarkAll();
     QVERIFY(!model->markedChoiceForOption(colorType));
     QVERIFY(model->localizedMarkedChoiceForOptionWithBundle(colorType, nullptr).isNull());
@@ -162,20 +148,19 @@ void PpdModelTest::tellsDefaultAndMarkedChoice()
 void PpdModelTest::marksOnlyStrings()
 {
     const Model model(colorTypeOption + ppdOption("Copies", {"0", "1"}));
-    const QString copies = QStringLiteral("Copies");
+    const QString copies = u"Copies"_s;
     model->markChoiceForOption(1, copies);
     model->markChoiceForOption(QVariant(), copies);
     model->markChoiceForOption(colorType, mono); // the wrong way round
-    QCOMPARE(model->markedChoiceForOption(copies)->choice, QStringLiteral("0"));
-    QCOMPARE(model->markedChoiceForOption(colorType)->choice, QStringLiteral("Auto"));
+    QCOMPARE(model->markedChoiceForOption(copies)->choice, u"0"_s);
+    QCOMPARE(model->markedChoiceForOption(colorType)->choice, u"Auto"_s);
 }
 
 void PpdModelTest::localizes()
 {
     TestBundle files;
-    files.writeStrings(QStringLiteral("en"), QStringLiteral("Localizable"),
-                       {{QStringLiteral("ColorType"), QStringLiteral("Colour mode")},
-                        {QStringLiteral("ColorType:Mono"), QStringLiteral("Monochrome")}});
+    files.writeStrings(u"en"_s, u"Localizable"_s,
+                       {{u"ColorType"_s, u"Colour mode"_s}, {u"ColorType:Mono"_s, u"Monochrome"_s}});
     const auto bundle = files.open();
     const Model model(colorTypeOption + ppdOption("Halftone/Half Tone", {"Auto"}));
     model->markChoiceForOption(mono, colorType);
@@ -187,48 +172,46 @@ void PpdModelTest::localizes()
             result.append(choice.text);
         return result;
     };
-    const QString automatic = QStringLiteral("Automatic");
-    const QString colour = QStringLiteral("Colour");
-    QCOMPARE(texts(bundle.get()), (QStringList{automatic, colour, QStringLiteral("Monochrome")}));
-    QCOMPARE(texts(nullptr), (QStringList{automatic, colour, QStringLiteral("Black & White")}));
+    const QString automatic = u"Automatic"_s;
+    const QString colour = u"Colour"_s;
+    QCOMPARE(texts(bundle.get()), (QStringList{automatic, colour, u"Monochrome"_s}));
+    QCOMPARE(texts(nullptr), (QStringList{automatic, colour, u"Black & White"_s}));
 
     const auto marked = [&](const platform::Bundle *b) {
         return model->localizedMarkedChoiceForOptionWithBundle(colorType, b);
     };
-    QCOMPARE(marked(bundle.get()), QStringLiteral("Monochrome"));
-    QCOMPARE(marked(nullptr), QStringLiteral("Black & White"));
+    QCOMPARE(marked(bundle.get()), u"Monochrome"_s);
+    QCOMPARE(marked(nullptr), u"Black & White"_s);
 
     const auto name = [&](const QString &option, const platform::Bundle *b) {
         return model->localizedOptionNameWithBundle(option, b);
     };
-    QCOMPARE(name(colorType, bundle.get()), QStringLiteral("Colour mode"));
-    QCOMPARE(name(colorType, nullptr), QStringLiteral("Colour Type"));
-    QCOMPARE(name(QStringLiteral("Halftone"), bundle.get()), QStringLiteral("Half Tone"));
-    QVERIFY(name(QStringLiteral("Missing"), bundle.get()).isNull());
+    QCOMPARE(name(colorType, bundle.get()), u"Colour mode"_s);
+    QCOMPARE(name(colorType, nullptr), u"Colour Type"_s);
+    QCOMPARE(name(u"Halftone"_s, bundle.get()), u"Half Tone"_s);
+    QVERIFY(name(u"Missing"_s, bundle.get()).isNull());
 }
 
 void PpdModelTest::leavesOutInvalidText()
 {
     const Model model("*ModelName: \"Orb\xff\"\n*Note First: \"cut\xc3\"\n*Note Second: \"whole\"\n" +
                       ppdOption("Paper/Pa\xffper", {"Plain/Plain paper", "Bond/Bo\xffnd"}));
-    const QString paper = QStringLiteral("Paper");
+    const QString paper = u"Paper"_s;
     QVERIFY(model->modelname().isNull());
     QVERIFY(model->localizedOptionNameWithBundle(paper, nullptr).isNull());
-    QCOMPARE(model->valuesForAttribute(QStringLiteral("Note")), QStringList{QStringLiteral("whole")});
+    QCOMPARE(model->valuesForAttribute(u"Note"_s), QStringList{u"whole"_s});
     QCOMPARE(model->choicesForOption(paper)->size(), 2); // the keywords are sound
     QCOMPARE(model->choicesWithValuesForOptionOrder(paper, nullptr)->size(), 1);
     QCOMPARE(model->localizedChoicesForOptionWithBundle(paper, nullptr)->size(), 1);
-    model->markChoiceForOption(QStringLiteral("Bond"), paper); // a mark is no less one for its text
-    QCOMPARE(model->markedChoiceForOption(paper).value(),
-             (QVPPDChoice_M880{QStringLiteral("Bond"), QString()}));
+    model->markChoiceForOption(u"Bond"_s, paper); // a mark is no less one for its text
+    QCOMPARE(model->markedChoiceForOption(paper).value(), (QVPPDChoice_M880{u"Bond"_s, QString()}));
 }
 
 void PpdModelTest::readsRepeatedAttributes()
 {
     const Model model("*Finisher Left: \"z\"\n*Finisher Right: \"a\"\n*Finisher Top: \"m\"\n");
-    QCOMPARE(model->valuesForAttribute(QStringLiteral("Finisher")),
-             (QStringList{QStringLiteral("z"), QStringLiteral("a"), QStringLiteral("m")}));
-    QCOMPARE(model->valuesForAttribute(QStringLiteral("Missing")), QStringList());
+    QCOMPARE(model->valuesForAttribute(u"Finisher"_s), (QStringList{u"z"_s, u"a"_s, u"m"_s}));
+    QCOMPARE(model->valuesForAttribute(u"Missing"_s), QStringList());
     QCOMPARE(model->valuesForAttribute(longName + longName), QStringList());
 }
 
@@ -236,21 +219,12 @@ void PpdModelTest::readsInstallableOptions()
 {
     const QByteArray options = ppdOption("Tray2", {"False", "True"}) + ppdOption("Disk", {"None", "Hard"});
     Model model(ppdGroup("InstallableOptions/Extras", options));
-    model->markChoiceForOption(QStringLiteral("True"), QStringLiteral("Tray2"));
+    model->markChoiceForOption(u"True"_s, u"Tray2"_s);
     QCOMPARE(model->chosenInstallableOptions().value(),
-             (QMap<QString, QString>{{QStringLiteral("Tray2"), QStringLiteral("True")},
-                                     {QStringLiteral("Disk"), QStringLiteral("None")}}));
+             (QMap<QString, QString>{{u"Tray2"_s, u"True"_s}, {u"Disk"_s, u"None"_s}}));
     model.ppd.unmarkAll();
     QVERIFY(model->chosenInstallableOptions().value().isEmpty());
     QVERIFY(!Model(ppdGroup("Extras/InstallableOptions", options))->chosenInstallableOptions());
-}
-
-void PpdModelTest::turnsChoicesIntoDictionaries()
-{
-    const QVPPDChoice_M880 choice{mono, QStringLiteral("Black & White")};
-    QCOMPARE(choice.toMap(), (QVariantMap{{QStringLiteral("QVPPDChoice"), mono},
-                                          {QStringLiteral("QVPPDText"), QStringLiteral("Black & White")}}));
-    QCOMPARE(QVPPDChoice_M880::fromMap(choice.toMap()), choice);
 }
 
 QTEST_GUILESS_MAIN(PpdModelTest)
