@@ -29,6 +29,10 @@ LayoutOwner::~LayoutOwner() = default;
 
 namespace {
 
+// Filled by the form itself unless a widget has this name: Designer writes a form's object name as its class,
+// which is the context of its texts, so a form cannot be called so.
+const QString viewOutlet = QStringLiteral("view");
+
 using WidgetFactories = QHash<QString, WidgetFactory>;
 
 WidgetFactories &widgetFactories()
@@ -206,6 +210,8 @@ void LayoutLoading::fillOutlets(QWidget *root)
 {
     for (Outlet &outlet : m_owner->outlets()) {
         QWidget *widget = root->objectName() == outlet.name ? root : root->findChild<QWidget *>(outlet.name);
+        if (!widget && outlet.name == viewOutlet)
+            widget = root;
         if (!widget)
             fail(QStringLiteral("there is no widget for outlet \"%1\"").arg(outlet.name));
         m_filled.push_back(outlet);

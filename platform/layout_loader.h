@@ -56,9 +56,9 @@ using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 
 // Loads layouts/NAME.ui of the bundle for an owner: fills its outlets, makes the bindings of the dynamic
 // properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`,
-// and translates its texts with the bundle's strings. Every declared outlet must be filled. Raises Exception
-// (layoutName) naming the file, the widget and the outlet, key, property, transformer, action or delegate
-// that does not fit; nothing is left behind then.
+// and translates its texts with the bundle's strings. Every declared outlet must be filled; the form itself
+// fills "view" where no widget is called so. Raises Exception (layoutName) naming the file, the widget and
+// the outlet, key, property, transformer, action or delegate that does not fit; nothing is left behind then.
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
