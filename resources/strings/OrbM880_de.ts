@@ -2,340 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Localizable</name>
-    <message>
-        <source>Print Mode</source>
-        <translation>Druckmodus</translation>
-    </message>
-    <message>
-        <source>Color Settings 1</source>
-        <translation>Farbeinstellungen 1</translation>
-    </message>
-    <message>
-        <source>Color Settings 2</source>
-        <translation>Farbeinstellungen 2</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:0</source>
-        <translation>Perzeptiv</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:1</source>
-        <translation>Relativ farbmetrisch</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:2</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:3</source>
-        <translation>Absolut farbmetrisch</translation>
-    </message>
-    <message>
-        <source>AskingPrinter</source>
-        <translation>Farbprofile werden vom Drucker abgefragt…</translation>
-    </message>
-    <message>
-        <source>SNMPCannotConnect</source>
-        <translation>Der Drucker ist nicht erreichbar, daher sind seine Farbprofile nicht bekannt. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, und öffnen Sie diesen Dialog erneut.</translation>
-    </message>
-    <message>
-        <source>SNMPArchMismatch</source>
-        <translation>Die Software zum Abfragen der Farbprofile vom Drucker (net-snmp) ist auf diesem Computer nicht verwendbar. Bitten Sie Ihre Systemverwaltung, sie zu installieren.</translation>
-    </message>
-    <message>
-        <source>SNMPUnknownError</source>
-        <translation>Die Antwort des Druckers war nicht verständlich.</translation>
-    </message>
-    <message>
-        <source>PrintMode</source>
-        <translation>Druckmodus</translation>
-    </message>
-    <message>
-        <source>PrintMode:Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>PrintMode:Private</source>
-        <translation>Vertraulicher Druck</translation>
-    </message>
-    <message>
-        <source>PrintMode:Proof</source>
-        <translation>Probedruck</translation>
-    </message>
-    <message>
-        <source>PrintMode:Hold</source>
-        <translation>Angehaltener Druck</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines</source>
-        <translation>Dünne Linien hervorheben</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines:False</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines:True</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>BlankPage</source>
-        <translation>Leere Seiten überspringen</translation>
-    </message>
-    <message>
-        <source>BlankPage:False</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>BlankPage:True</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>DeptCode</source>
-        <translation>Abteilungscode</translation>
-    </message>
-    <message>
-        <source>DeptCode:False</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>DeptCode:True</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>ColorType</source>
-        <translation>Farbmodus</translation>
-    </message>
-    <message>
-        <source>ColorType:Auto</source>
-        <translation>Automatisch</translation>
-    </message>
-    <message>
-        <source>ColorType:Color</source>
-        <translation>Vollfarbe</translation>
-    </message>
-    <message>
-        <source>ColorType:Mono</source>
-        <translation>Schwarzweiß</translation>
-    </message>
-    <message>
-        <source>ColorType:Twin</source>
-        <translation>Zweifarbig</translation>
-    </message>
-    <message>
-        <source>Halftone</source>
-        <translation>Rasterung</translation>
-    </message>
-    <message>
-        <source>Halftone:Auto</source>
-        <translation>Automatisch</translation>
-    </message>
-    <message>
-        <source>Halftone:Detail</source>
-        <translation>Detailreich</translation>
-    </message>
-    <message>
-        <source>Halftone:Smooth</source>
-        <translation>Weich</translation>
-    </message>
-    <message>
-        <source>TonerSave</source>
-        <translation>Toner sparen</translation>
-    </message>
-    <message>
-        <source>TonerSave:False</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>TonerSave:True</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>ImageType</source>
-        <translation>Bildtyp</translation>
-    </message>
-    <message>
-        <source>ImageType:General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>ImageType:Photo</source>
-        <translation>Foto</translation>
-    </message>
-    <message>
-        <source>ImageType:Presentation</source>
-        <translation>Präsentation</translation>
-    </message>
-    <message>
-        <source>ImageType:LineArt</source>
-        <translation>Strichzeichnung</translation>
-    </message>
-    <message>
-        <source>ImageType:Advanced</source>
-        <translation>Erweitert</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint</source>
-        <translation>Schwarz überdrucken</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint:False</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint:True</source>
-        <translation>Ein</translation>
-    </message>
-    <message>
-        <source>PureBlackGray</source>
-        <translation>Reines Schwarz und Grau</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Auto</source>
-        <translation>Automatisch</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:BlackGray</source>
-        <translation>Schwarz und Grau</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Black</source>
-        <translation>Nur Schwarz</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Off</source>
-        <translation>Aus</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
-    </message>
-    <message>
-        <source>Resolution:600dpi</source>
-        <translation>600 dpi</translation>
-    </message>
-    <message>
-        <source>Resolution:1200dpi</source>
-        <translation>1200 dpi</translation>
-    </message>
-    <message>
-        <source>ColorBalanceCyan</source>
-        <translation>Cyan-Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceMagenta</source>
-        <translation>Magenta-Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceYellow</source>
-        <translation>Gelb-Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceBlack</source>
-        <translation>Schwarz-Balance</translation>
-    </message>
-    <message>
-        <source>SharpnessVRN</source>
-        <translation>Schärfe</translation>
-    </message>
-    <message>
-        <source>BrightnessVRN</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>ContrastVRN</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>SaturationVRN</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>BackgroundAdjustmentVRN</source>
-        <translation>Hintergrundanpassung</translation>
-    </message>
-</context>
-<context>
-    <name>PrintMode</name>
-    <message>
-        <source>Print &amp;mode:</source>
-        <translation>Druck&amp;modus:</translation>
-    </message>
-    <message>
-        <source>Print mode</source>
-        <translation>Druckmodus</translation>
-    </message>
-    <message>
-        <source>How the printer treats the job</source>
-        <translation>Wie der Drucker mit dem Auftrag umgeht</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word:</source>
-        <translation>Kenn&amp;wort:</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Kennwort</translation>
-    </message>
-    <message>
-        <source>Five digits that you enter at the printer to release a private job</source>
-        <translation>Fünf Ziffern, mit denen Sie einen vertraulichen Auftrag am Drucker freigeben</translation>
-    </message>
-    <message>
-        <source>Enter it at the printer to release the job.</source>
-        <translation>Zum Freigeben am Drucker eingeben.</translation>
-    </message>
-    <message>
-        <source>&amp;Department code:</source>
-        <translation>&amp;Abteilungscode:</translation>
-    </message>
-    <message>
-        <source>Department code</source>
-        <translation>Abteilungscode</translation>
-    </message>
-    <message>
-        <source>Whether the job is charged to the department below</source>
-        <translation>Ob der Auftrag der Abteilung unten berechnet wird</translation>
-    </message>
-    <message>
-        <source>C&amp;ode:</source>
-        <translation>Zi&amp;ffern:</translation>
-    </message>
-    <message>
-        <source>Department code digits</source>
-        <translation>Ziffern des Abteilungscodes</translation>
-    </message>
-    <message>
-        <source>Five digits of the department that the job is charged to</source>
-        <translation>Fünf Ziffern der Abteilung, der der Auftrag berechnet wird</translation>
-    </message>
-    <message>
-        <source>Distinguish &amp;thin lines:</source>
-        <translation>&amp;Dünne Linien hervorheben:</translation>
-    </message>
-    <message>
-        <source>Distinguish thin lines</source>
-        <translation>Dünne Linien hervorheben</translation>
-    </message>
-    <message>
-        <source>Keeps very thin lines apart and visible</source>
-        <translation>Hält sehr dünne Linien getrennt und sichtbar</translation>
-    </message>
-    <message>
-        <source>Skip &amp;blank pages:</source>
-        <translation>&amp;Leere Seiten überspringen:</translation>
-    </message>
-    <message>
-        <source>Skip blank pages</source>
-        <translation>Leere Seiten überspringen</translation>
-    </message>
-    <message>
-        <source>Leaves out pages that nothing is printed on</source>
-        <translation>Lässt Seiten aus, auf denen nichts steht</translation>
-    </message>
-</context>
-<context>
     <name>ColorSettings1</name>
     <message>
         <source>Color &amp;mode:</source>
@@ -675,6 +341,340 @@
     <message>
         <source>Takes every slider back to neutral</source>
         <translation>Setzt jeden Regler auf neutral zurück</translation>
+    </message>
+</context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Print Mode</source>
+        <translation>Druckmodus</translation>
+    </message>
+    <message>
+        <source>Color Settings 1</source>
+        <translation>Farbeinstellungen 1</translation>
+    </message>
+    <message>
+        <source>Color Settings 2</source>
+        <translation>Farbeinstellungen 2</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:0</source>
+        <translation>Perzeptiv</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:1</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:2</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:3</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>AskingPrinter</source>
+        <translation>Farbprofile werden vom Drucker abgefragt…</translation>
+    </message>
+    <message>
+        <source>SNMPCannotConnect</source>
+        <translation>Der Drucker ist nicht erreichbar, daher sind seine Farbprofile nicht bekannt. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, und öffnen Sie diesen Dialog erneut.</translation>
+    </message>
+    <message>
+        <source>SNMPArchMismatch</source>
+        <translation>Die Software zum Abfragen der Farbprofile vom Drucker (net-snmp) ist auf diesem Computer nicht verwendbar. Bitten Sie Ihre Systemverwaltung, sie zu installieren.</translation>
+    </message>
+    <message>
+        <source>SNMPUnknownError</source>
+        <translation>Die Antwort des Druckers war nicht verständlich.</translation>
+    </message>
+    <message>
+        <source>PrintMode</source>
+        <translation>Druckmodus</translation>
+    </message>
+    <message>
+        <source>PrintMode:Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>PrintMode:Private</source>
+        <translation>Vertraulicher Druck</translation>
+    </message>
+    <message>
+        <source>PrintMode:Proof</source>
+        <translation>Probedruck</translation>
+    </message>
+    <message>
+        <source>PrintMode:Hold</source>
+        <translation>Angehaltener Druck</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines</source>
+        <translation>Dünne Linien hervorheben</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines:False</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines:True</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>BlankPage</source>
+        <translation>Leere Seiten überspringen</translation>
+    </message>
+    <message>
+        <source>BlankPage:False</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>BlankPage:True</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>DeptCode</source>
+        <translation>Abteilungscode</translation>
+    </message>
+    <message>
+        <source>DeptCode:False</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>DeptCode:True</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>ColorType</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>ColorType:Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>ColorType:Color</source>
+        <translation>Vollfarbe</translation>
+    </message>
+    <message>
+        <source>ColorType:Mono</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>ColorType:Twin</source>
+        <translation>Zweifarbig</translation>
+    </message>
+    <message>
+        <source>Halftone</source>
+        <translation>Rasterung</translation>
+    </message>
+    <message>
+        <source>Halftone:Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Halftone:Detail</source>
+        <translation>Detailreich</translation>
+    </message>
+    <message>
+        <source>Halftone:Smooth</source>
+        <translation>Weich</translation>
+    </message>
+    <message>
+        <source>TonerSave</source>
+        <translation>Toner sparen</translation>
+    </message>
+    <message>
+        <source>TonerSave:False</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>TonerSave:True</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>ImageType</source>
+        <translation>Bildtyp</translation>
+    </message>
+    <message>
+        <source>ImageType:General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>ImageType:Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>ImageType:Presentation</source>
+        <translation>Präsentation</translation>
+    </message>
+    <message>
+        <source>ImageType:LineArt</source>
+        <translation>Strichzeichnung</translation>
+    </message>
+    <message>
+        <source>ImageType:Advanced</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint</source>
+        <translation>Schwarz überdrucken</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint:False</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint:True</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>PureBlackGray</source>
+        <translation>Reines Schwarz und Grau</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:BlackGray</source>
+        <translation>Schwarz und Grau</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Black</source>
+        <translation>Nur Schwarz</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Resolution:600dpi</source>
+        <translation>600 dpi</translation>
+    </message>
+    <message>
+        <source>Resolution:1200dpi</source>
+        <translation>1200 dpi</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan</source>
+        <translation>Cyan-Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta</source>
+        <translation>Magenta-Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow</source>
+        <translation>Gelb-Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack</source>
+        <translation>Schwarz-Balance</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN</source>
+        <translation>Schärfe</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>ContrastVRN</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>SaturationVRN</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN</source>
+        <translation>Hintergrundanpassung</translation>
+    </message>
+</context>
+<context>
+    <name>PrintMode</name>
+    <message>
+        <source>Print &amp;mode:</source>
+        <translation>Druck&amp;modus:</translation>
+    </message>
+    <message>
+        <source>Print mode</source>
+        <translation>Druckmodus</translation>
+    </message>
+    <message>
+        <source>How the printer treats the job</source>
+        <translation>Wie der Drucker mit dem Auftrag umgeht</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>Kenn&amp;wort:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>Five digits that you enter at the printer to release a private job</source>
+        <translation>Fünf Ziffern, mit denen Sie einen vertraulichen Auftrag am Drucker freigeben</translation>
+    </message>
+    <message>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>Zum Freigeben am Drucker eingeben.</translation>
+    </message>
+    <message>
+        <source>&amp;Department code:</source>
+        <translation>&amp;Abteilungscode:</translation>
+    </message>
+    <message>
+        <source>Department code</source>
+        <translation>Abteilungscode</translation>
+    </message>
+    <message>
+        <source>Whether the job is charged to the department below</source>
+        <translation>Ob der Auftrag der Abteilung unten berechnet wird</translation>
+    </message>
+    <message>
+        <source>C&amp;ode:</source>
+        <translation>Zi&amp;ffern:</translation>
+    </message>
+    <message>
+        <source>Department code digits</source>
+        <translation>Ziffern des Abteilungscodes</translation>
+    </message>
+    <message>
+        <source>Five digits of the department that the job is charged to</source>
+        <translation>Fünf Ziffern der Abteilung, der der Auftrag berechnet wird</translation>
+    </message>
+    <message>
+        <source>Distinguish &amp;thin lines:</source>
+        <translation>&amp;Dünne Linien hervorheben:</translation>
+    </message>
+    <message>
+        <source>Distinguish thin lines</source>
+        <translation>Dünne Linien hervorheben</translation>
+    </message>
+    <message>
+        <source>Keeps very thin lines apart and visible</source>
+        <translation>Hält sehr dünne Linien getrennt und sichtbar</translation>
+    </message>
+    <message>
+        <source>Skip &amp;blank pages:</source>
+        <translation>&amp;Leere Seiten überspringen:</translation>
+    </message>
+    <message>
+        <source>Skip blank pages</source>
+        <translation>Leere Seiten überspringen</translation>
+    </message>
+    <message>
+        <source>Leaves out pages that nothing is printed on</source>
+        <translation>Lässt Seiten aus, auf denen nichts steht</translation>
     </message>
 </context>
 <context>

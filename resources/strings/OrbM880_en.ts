@@ -2,340 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>Localizable</name>
-    <message>
-        <source>Print Mode</source>
-        <translation>Print Mode</translation>
-    </message>
-    <message>
-        <source>Color Settings 1</source>
-        <translation>Color Settings 1</translation>
-    </message>
-    <message>
-        <source>Color Settings 2</source>
-        <translation>Color Settings 2</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:0</source>
-        <translation>Perceptual</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:1</source>
-        <translation>Relative colorimetric</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:2</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>RenderingIntent:3</source>
-        <translation>Absolute colorimetric</translation>
-    </message>
-    <message>
-        <source>AskingPrinter</source>
-        <translation>Asking the printer for its color profiles…</translation>
-    </message>
-    <message>
-        <source>SNMPCannotConnect</source>
-        <translation>The printer cannot be reached, so its color profiles are not known. Check that it is switched on and connected, then open this dialog again.</translation>
-    </message>
-    <message>
-        <source>SNMPArchMismatch</source>
-        <translation>The software that asks the printer for its color profiles (net-snmp) cannot be used on this computer. Ask your administrator to install it.</translation>
-    </message>
-    <message>
-        <source>SNMPUnknownError</source>
-        <translation>The printer gave an answer that could not be understood.</translation>
-    </message>
-    <message>
-        <source>PrintMode</source>
-        <translation>Print Mode</translation>
-    </message>
-    <message>
-        <source>PrintMode:Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>PrintMode:Private</source>
-        <translation>Private</translation>
-    </message>
-    <message>
-        <source>PrintMode:Proof</source>
-        <translation>Proof</translation>
-    </message>
-    <message>
-        <source>PrintMode:Hold</source>
-        <translation>Hold</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines</source>
-        <translation>Distinguish Thin Lines</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines:False</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>DistinguishThinLines:True</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>BlankPage</source>
-        <translation>Skip Blank Pages</translation>
-    </message>
-    <message>
-        <source>BlankPage:False</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>BlankPage:True</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>DeptCode</source>
-        <translation>Department Code</translation>
-    </message>
-    <message>
-        <source>DeptCode:False</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>DeptCode:True</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>ColorType</source>
-        <translation>Color Mode</translation>
-    </message>
-    <message>
-        <source>ColorType:Auto</source>
-        <translation>Automatic</translation>
-    </message>
-    <message>
-        <source>ColorType:Color</source>
-        <translation>Full Color</translation>
-    </message>
-    <message>
-        <source>ColorType:Mono</source>
-        <translation>Black and White</translation>
-    </message>
-    <message>
-        <source>ColorType:Twin</source>
-        <translation>Two-Color</translation>
-    </message>
-    <message>
-        <source>Halftone</source>
-        <translation>Halftone</translation>
-    </message>
-    <message>
-        <source>Halftone:Auto</source>
-        <translation>Automatic</translation>
-    </message>
-    <message>
-        <source>Halftone:Detail</source>
-        <translation>Detail</translation>
-    </message>
-    <message>
-        <source>Halftone:Smooth</source>
-        <translation>Smooth</translation>
-    </message>
-    <message>
-        <source>TonerSave</source>
-        <translation>Toner Save</translation>
-    </message>
-    <message>
-        <source>TonerSave:False</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>TonerSave:True</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>ImageType</source>
-        <translation>Image Type</translation>
-    </message>
-    <message>
-        <source>ImageType:General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>ImageType:Photo</source>
-        <translation>Photograph</translation>
-    </message>
-    <message>
-        <source>ImageType:Presentation</source>
-        <translation>Presentation</translation>
-    </message>
-    <message>
-        <source>ImageType:LineArt</source>
-        <translation>Line Art</translation>
-    </message>
-    <message>
-        <source>ImageType:Advanced</source>
-        <translation>Advanced</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint</source>
-        <translation>Black Overprint</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint:False</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>BlackOverPrint:True</source>
-        <translation>On</translation>
-    </message>
-    <message>
-        <source>PureBlackGray</source>
-        <translation>Pure Black and Gray</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Auto</source>
-        <translation>Automatic</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:BlackGray</source>
-        <translation>Black and Gray</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Black</source>
-        <translation>Black Only</translation>
-    </message>
-    <message>
-        <source>PureBlackGray:Off</source>
-        <translation>Off</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Resolution</translation>
-    </message>
-    <message>
-        <source>Resolution:600dpi</source>
-        <translation>600 dpi</translation>
-    </message>
-    <message>
-        <source>Resolution:1200dpi</source>
-        <translation>1200 dpi</translation>
-    </message>
-    <message>
-        <source>ColorBalanceCyan</source>
-        <translation>Cyan Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceMagenta</source>
-        <translation>Magenta Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceYellow</source>
-        <translation>Yellow Balance</translation>
-    </message>
-    <message>
-        <source>ColorBalanceBlack</source>
-        <translation>Black Balance</translation>
-    </message>
-    <message>
-        <source>SharpnessVRN</source>
-        <translation>Sharpness</translation>
-    </message>
-    <message>
-        <source>BrightnessVRN</source>
-        <translation>Brightness</translation>
-    </message>
-    <message>
-        <source>ContrastVRN</source>
-        <translation>Contrast</translation>
-    </message>
-    <message>
-        <source>SaturationVRN</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>BackgroundAdjustmentVRN</source>
-        <translation>Background Adjustment</translation>
-    </message>
-</context>
-<context>
-    <name>PrintMode</name>
-    <message>
-        <source>Print &amp;mode:</source>
-        <translation>Print &amp;mode:</translation>
-    </message>
-    <message>
-        <source>Print mode</source>
-        <translation>Print mode</translation>
-    </message>
-    <message>
-        <source>How the printer treats the job</source>
-        <translation>How the printer treats the job</translation>
-    </message>
-    <message>
-        <source>Pass&amp;word:</source>
-        <translation>Pass&amp;word:</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-    <message>
-        <source>Five digits that you enter at the printer to release a private job</source>
-        <translation>Five digits that you enter at the printer to release a private job</translation>
-    </message>
-    <message>
-        <source>Enter it at the printer to release the job.</source>
-        <translation>Enter it at the printer to release the job.</translation>
-    </message>
-    <message>
-        <source>&amp;Department code:</source>
-        <translation>&amp;Department code:</translation>
-    </message>
-    <message>
-        <source>Department code</source>
-        <translation>Department code</translation>
-    </message>
-    <message>
-        <source>Whether the job is charged to the department below</source>
-        <translation>Whether the job is charged to the department below</translation>
-    </message>
-    <message>
-        <source>C&amp;ode:</source>
-        <translation>C&amp;ode:</translation>
-    </message>
-    <message>
-        <source>Department code digits</source>
-        <translation>Department code digits</translation>
-    </message>
-    <message>
-        <source>Five digits of the department that the job is charged to</source>
-        <translation>Five digits of the department that the job is charged to</translation>
-    </message>
-    <message>
-        <source>Distinguish &amp;thin lines:</source>
-        <translation>Distinguish &amp;thin lines:</translation>
-    </message>
-    <message>
-        <source>Distinguish thin lines</source>
-        <translation>Distinguish thin lines</translation>
-    </message>
-    <message>
-        <source>Keeps very thin lines apart and visible</source>
-        <translation>Keeps very thin lines apart and visible</translation>
-    </message>
-    <message>
-        <source>Skip &amp;blank pages:</source>
-        <translation>Skip &amp;blank pages:</translation>
-    </message>
-    <message>
-        <source>Skip blank pages</source>
-        <translation>Skip blank pages</translation>
-    </message>
-    <message>
-        <source>Leaves out pages that nothing is printed on</source>
-        <translation>Leaves out pages that nothing is printed on</translation>
-    </message>
-</context>
-<context>
     <name>ColorSettings1</name>
     <message>
         <source>Color &amp;mode:</source>
@@ -675,6 +341,340 @@
     <message>
         <source>Takes every slider back to neutral</source>
         <translation>Takes every slider back to neutral</translation>
+    </message>
+</context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Print Mode</source>
+        <translation>Print Mode</translation>
+    </message>
+    <message>
+        <source>Color Settings 1</source>
+        <translation>Color Settings 1</translation>
+    </message>
+    <message>
+        <source>Color Settings 2</source>
+        <translation>Color Settings 2</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:0</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:1</source>
+        <translation>Relative colorimetric</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:2</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>RenderingIntent:3</source>
+        <translation>Absolute colorimetric</translation>
+    </message>
+    <message>
+        <source>AskingPrinter</source>
+        <translation>Asking the printer for its color profiles…</translation>
+    </message>
+    <message>
+        <source>SNMPCannotConnect</source>
+        <translation>The printer cannot be reached, so its color profiles are not known. Check that it is switched on and connected, then open this dialog again.</translation>
+    </message>
+    <message>
+        <source>SNMPArchMismatch</source>
+        <translation>The software that asks the printer for its color profiles (net-snmp) cannot be used on this computer. Ask your administrator to install it.</translation>
+    </message>
+    <message>
+        <source>SNMPUnknownError</source>
+        <translation>The printer gave an answer that could not be understood.</translation>
+    </message>
+    <message>
+        <source>PrintMode</source>
+        <translation>Print Mode</translation>
+    </message>
+    <message>
+        <source>PrintMode:Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>PrintMode:Private</source>
+        <translation>Private</translation>
+    </message>
+    <message>
+        <source>PrintMode:Proof</source>
+        <translation>Proof</translation>
+    </message>
+    <message>
+        <source>PrintMode:Hold</source>
+        <translation>Hold</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines</source>
+        <translation>Distinguish Thin Lines</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines:False</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines:True</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>BlankPage</source>
+        <translation>Skip Blank Pages</translation>
+    </message>
+    <message>
+        <source>BlankPage:False</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>BlankPage:True</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>DeptCode</source>
+        <translation>Department Code</translation>
+    </message>
+    <message>
+        <source>DeptCode:False</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>DeptCode:True</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>ColorType</source>
+        <translation>Color Mode</translation>
+    </message>
+    <message>
+        <source>ColorType:Auto</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>ColorType:Color</source>
+        <translation>Full Color</translation>
+    </message>
+    <message>
+        <source>ColorType:Mono</source>
+        <translation>Black and White</translation>
+    </message>
+    <message>
+        <source>ColorType:Twin</source>
+        <translation>Two-Color</translation>
+    </message>
+    <message>
+        <source>Halftone</source>
+        <translation>Halftone</translation>
+    </message>
+    <message>
+        <source>Halftone:Auto</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Halftone:Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>Halftone:Smooth</source>
+        <translation>Smooth</translation>
+    </message>
+    <message>
+        <source>TonerSave</source>
+        <translation>Toner Save</translation>
+    </message>
+    <message>
+        <source>TonerSave:False</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>TonerSave:True</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>ImageType</source>
+        <translation>Image Type</translation>
+    </message>
+    <message>
+        <source>ImageType:General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>ImageType:Photo</source>
+        <translation>Photograph</translation>
+    </message>
+    <message>
+        <source>ImageType:Presentation</source>
+        <translation>Presentation</translation>
+    </message>
+    <message>
+        <source>ImageType:LineArt</source>
+        <translation>Line Art</translation>
+    </message>
+    <message>
+        <source>ImageType:Advanced</source>
+        <translation>Advanced</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint</source>
+        <translation>Black Overprint</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint:False</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint:True</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>PureBlackGray</source>
+        <translation>Pure Black and Gray</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Auto</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:BlackGray</source>
+        <translation>Black and Gray</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Black</source>
+        <translation>Black Only</translation>
+    </message>
+    <message>
+        <source>PureBlackGray:Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Resolution:600dpi</source>
+        <translation>600 dpi</translation>
+    </message>
+    <message>
+        <source>Resolution:1200dpi</source>
+        <translation>1200 dpi</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan</source>
+        <translation>Cyan Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta</source>
+        <translation>Magenta Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow</source>
+        <translation>Yellow Balance</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack</source>
+        <translation>Black Balance</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN</source>
+        <translation>Sharpness</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>ContrastVRN</source>
+        <translation>Contrast</translation>
+    </message>
+    <message>
+        <source>SaturationVRN</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN</source>
+        <translation>Background Adjustment</translation>
+    </message>
+</context>
+<context>
+    <name>PrintMode</name>
+    <message>
+        <source>Print &amp;mode:</source>
+        <translation>Print &amp;mode:</translation>
+    </message>
+    <message>
+        <source>Print mode</source>
+        <translation>Print mode</translation>
+    </message>
+    <message>
+        <source>How the printer treats the job</source>
+        <translation>How the printer treats the job</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation>Pass&amp;word:</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Five digits that you enter at the printer to release a private job</source>
+        <translation>Five digits that you enter at the printer to release a private job</translation>
+    </message>
+    <message>
+        <source>Enter it at the printer to release the job.</source>
+        <translation>Enter it at the printer to release the job.</translation>
+    </message>
+    <message>
+        <source>&amp;Department code:</source>
+        <translation>&amp;Department code:</translation>
+    </message>
+    <message>
+        <source>Department code</source>
+        <translation>Department code</translation>
+    </message>
+    <message>
+        <source>Whether the job is charged to the department below</source>
+        <translation>Whether the job is charged to the department below</translation>
+    </message>
+    <message>
+        <source>C&amp;ode:</source>
+        <translation>C&amp;ode:</translation>
+    </message>
+    <message>
+        <source>Department code digits</source>
+        <translation>Department code digits</translation>
+    </message>
+    <message>
+        <source>Five digits of the department that the job is charged to</source>
+        <translation>Five digits of the department that the job is charged to</translation>
+    </message>
+    <message>
+        <source>Distinguish &amp;thin lines:</source>
+        <translation>Distinguish &amp;thin lines:</translation>
+    </message>
+    <message>
+        <source>Distinguish thin lines</source>
+        <translation>Distinguish thin lines</translation>
+    </message>
+    <message>
+        <source>Keeps very thin lines apart and visible</source>
+        <translation>Keeps very thin lines apart and visible</translation>
+    </message>
+    <message>
+        <source>Skip &amp;blank pages:</source>
+        <translation>Skip &amp;blank pages:</translation>
+    </message>
+    <message>
+        <source>Skip blank pages</source>
+        <translation>Skip blank pages</translation>
+    </message>
+    <message>
+        <source>Leaves out pages that nothing is printed on</source>
+        <translation>Leaves out pages that nothing is printed on</translation>
     </message>
 </context>
 <context>

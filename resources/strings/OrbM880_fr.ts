@@ -2,6 +2,348 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ColorSettings1</name>
+    <message>
+        <source>Color &amp;mode:</source>
+        <translation>&amp;Mode couleur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>In which colors the job is printed</source>
+        <translation>Couleurs dans lesquelles la tâche est imprimée</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>How fine the dots are</source>
+        <translation>Finesse des points imprimés</translation>
+    </message>
+    <message>
+        <source>&amp;Halftone:</source>
+        <translation>&amp;Tramage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Halftone</source>
+        <translation>Tramage</translation>
+    </message>
+    <message>
+        <source>How shades are made of dots</source>
+        <translation>Façon dont les nuances sont formées de points</translation>
+    </message>
+    <message>
+        <source>&amp;Save toner</source>
+        <translation>&amp;Économie de toner</translation>
+    </message>
+    <message>
+        <source>Prints paler to use less toner</source>
+        <translation>Imprime plus clair pour utiliser moins de toner</translation>
+    </message>
+    <message>
+        <source>&amp;Image type:</source>
+        <translation>T&amp;ype d’image&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Image type</source>
+        <translation>Type d’image</translation>
+    </message>
+    <message>
+        <source>What the pages mostly show</source>
+        <translation>Ce que les pages montrent surtout</translation>
+    </message>
+    <message>
+        <source>Color &amp;Profiles…</source>
+        <translation>&amp;Profils de couleurs…</translation>
+    </message>
+    <message>
+        <source>The color profiles of the printer, for the image type “Advanced”</source>
+        <translation>Les profils de couleurs de l’imprimante, pour le type d’image «&#xa0;Avancé&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Black &amp;overprint:</source>
+        <translation>&amp;Surimpression du noir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Black overprint</source>
+        <translation>Surimpression du noir</translation>
+    </message>
+    <message>
+        <source>Prints black text over colors instead of leaving them out below it</source>
+        <translation>Imprime le texte noir sur les couleurs au lieu de les évider</translation>
+    </message>
+    <message>
+        <source>Pure black and &amp;gray:</source>
+        <translation>Noir et &amp;gris purs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pure black and gray</source>
+        <translation>Noir et gris purs</translation>
+    </message>
+    <message>
+        <source>What is printed with black toner alone</source>
+        <translation>Ce qui est imprimé avec le seul toner noir</translation>
+    </message>
+    <message>
+        <source>‹ &amp;Back</source>
+        <translation>‹ R&amp;etour</translation>
+    </message>
+    <message>
+        <source>Back to the basic color settings</source>
+        <translation>Revenir aux réglages de base des couleurs</translation>
+    </message>
+    <message>
+        <source>Color Profiles</source>
+        <translation>Profils de couleurs</translation>
+    </message>
+    <message>
+        <source>&amp;RGB source:</source>
+        <translation>Source &amp;RVB&#xa0;:</translation>
+    </message>
+    <message>
+        <source>RGB source profile</source>
+        <translation>Profil source RVB</translation>
+    </message>
+    <message>
+        <source>How the job’s RGB colors are meant</source>
+        <translation>Signification des couleurs RVB de la tâche</translation>
+    </message>
+    <message>
+        <source>Profile %1</source>
+        <translation>Profil %1</translation>
+    </message>
+    <message>
+        <source>&amp;CMYK source:</source>
+        <translation>&amp;Source CMJN&#xa0;:</translation>
+    </message>
+    <message>
+        <source>CMYK source profile</source>
+        <translation>Profil source CMJN</translation>
+    </message>
+    <message>
+        <source>How the job’s CMYK colors are meant</source>
+        <translation>Signification des couleurs CMJN de la tâche</translation>
+    </message>
+    <message>
+        <source>CMYK &amp;destination:</source>
+        <translation>&amp;Destination CMJN&#xa0;:</translation>
+    </message>
+    <message>
+        <source>CMYK destination profile</source>
+        <translation>Profil de destination CMJN</translation>
+    </message>
+    <message>
+        <source>What the printer’s toners make of them</source>
+        <translation>Rendu de ces couleurs par les toners de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Rendering &amp;intent:</source>
+        <translation>&amp;Mode de rendu&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Mode de rendu</translation>
+    </message>
+    <message>
+        <source>What happens to colors that the printer cannot print</source>
+        <translation>Traitement des couleurs que l’imprimante ne peut pas imprimer</translation>
+    </message>
+    <message>
+        <source>Intent %1</source>
+        <translation>Mode %1</translation>
+    </message>
+    <message>
+        <source>&amp;Apply to device colors only</source>
+        <translation>&amp;Appliquer aux couleurs d’appareil seulement</translation>
+    </message>
+    <message>
+        <source>Leaves colors alone that bring a profile of their own</source>
+        <translation>Ne touche pas aux couleurs qui ont leur propre profil</translation>
+    </message>
+    <message>
+        <source>Re&amp;load from Printer</source>
+        <translation>Re&amp;charger depuis l’imprimante</translation>
+    </message>
+    <message>
+        <source>Asks the printer again for its profiles and defaults</source>
+        <translation>Redemande à l’imprimante ses profils et valeurs par défaut</translation>
+    </message>
+</context>
+<context>
+    <name>ColorSettings2</name>
+    <message>
+        <source>Color Balance</source>
+        <translation>Équilibre des couleurs</translation>
+    </message>
+    <message>
+        <source>Image Quality</source>
+        <translation>Qualité d’image</translation>
+    </message>
+    <message>
+        <source>&amp;Cyan:</source>
+        <translation>&amp;Cyan&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Cyan back to neutral</source>
+        <translation>Cyan&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>&amp;Magenta:</source>
+        <translation>&amp;Magenta&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>Magenta back to neutral</source>
+        <translation>Magenta&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>&amp;Yellow:</source>
+        <translation>&amp;Jaune&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Yellow back to neutral</source>
+        <translation>Jaune&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>Blac&amp;k:</source>
+        <translation>&amp;Noir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Black back to neutral</source>
+        <translation>Noir&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>&amp;Sharpness:</source>
+        <translation>Ne&amp;tteté&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Sharpness back to neutral</source>
+        <translation>Netteté&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>&amp;Brightness:</source>
+        <translation>&amp;Luminosité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Brightness back to neutral</source>
+        <translation>Luminosité&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>C&amp;ontrast:</source>
+        <translation>C&amp;ontraste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Contrast back to neutral</source>
+        <translation>Contraste&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>Sat&amp;uration:</source>
+        <translation>&amp;Saturation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Saturation back to neutral</source>
+        <translation>Saturation&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>Back&amp;ground:</source>
+        <translation>&amp;Fond&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fond</translation>
+    </message>
+    <message>
+        <source>Background back to neutral</source>
+        <translation>Fond&#xa0;: revenir au neutre</translation>
+    </message>
+    <message>
+        <source>Less or more cyan toner</source>
+        <translation>Moins ou plus de toner cyan</translation>
+    </message>
+    <message>
+        <source>Less or more magenta toner</source>
+        <translation>Moins ou plus de toner magenta</translation>
+    </message>
+    <message>
+        <source>Less or more yellow toner</source>
+        <translation>Moins ou plus de toner jaune</translation>
+    </message>
+    <message>
+        <source>Less or more black toner</source>
+        <translation>Moins ou plus de toner noir</translation>
+    </message>
+    <message>
+        <source>Softer or sharper edges</source>
+        <translation>Contours plus doux ou plus nets</translation>
+    </message>
+    <message>
+        <source>Darker or brighter</source>
+        <translation>Plus sombre ou plus clair</translation>
+    </message>
+    <message>
+        <source>Flatter or richer in contrast</source>
+        <translation>Moins ou plus contrasté</translation>
+    </message>
+    <message>
+        <source>Paler or stronger colors</source>
+        <translation>Couleurs plus pâles ou plus vives</translation>
+    </message>
+    <message>
+        <source>Lighter or darker page background</source>
+        <translation>Fond de page plus clair ou plus foncé</translation>
+    </message>
+    <message>
+        <source>Back to neutral</source>
+        <translation>Revenir au neutre</translation>
+    </message>
+    <message>
+        <source>&amp;Reset All</source>
+        <translation>&amp;Rétablir tout</translation>
+    </message>
+    <message>
+        <source>Takes every slider back to neutral</source>
+        <translation>Ramène tous les curseurs au neutre</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Print Mode</source>
@@ -37,7 +379,7 @@
     </message>
     <message>
         <source>SNMPCannotConnect</source>
-        <translation>L’imprimante est injoignable ; ses profils de couleurs sont donc inconnus. Vérifiez qu’elle est allumée et connectée, puis rouvrez cette boîte de dialogue.</translation>
+        <translation>L’imprimante est injoignable&#xa0;; ses profils de couleurs sont donc inconnus. Vérifiez qu’elle est allumée et connectée, puis rouvrez cette boîte de dialogue.</translation>
     </message>
     <message>
         <source>SNMPArchMismatch</source>
@@ -260,7 +602,7 @@
     <name>PrintMode</name>
     <message>
         <source>Print &amp;mode:</source>
-        <translation>&amp;Mode d’impression :</translation>
+        <translation>&amp;Mode d’impression&#xa0;:</translation>
     </message>
     <message>
         <source>Print mode</source>
@@ -272,7 +614,7 @@
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation>Mot de &amp;passe :</translation>
+        <translation>Mot de &amp;passe&#xa0;:</translation>
     </message>
     <message>
         <source>Password</source>
@@ -288,7 +630,7 @@
     </message>
     <message>
         <source>&amp;Department code:</source>
-        <translation>&amp;Code de service :</translation>
+        <translation>&amp;Code de service&#xa0;:</translation>
     </message>
     <message>
         <source>Department code</source>
@@ -300,7 +642,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>C&amp;hiffres :</translation>
+        <translation>C&amp;hiffres&#xa0;:</translation>
     </message>
     <message>
         <source>Department code digits</source>
@@ -312,7 +654,7 @@
     </message>
     <message>
         <source>Distinguish &amp;thin lines:</source>
-        <translation>Distinguer les &amp;traits fins :</translation>
+        <translation>Distinguer les &amp;traits fins&#xa0;:</translation>
     </message>
     <message>
         <source>Distinguish thin lines</source>
@@ -324,7 +666,7 @@
     </message>
     <message>
         <source>Skip &amp;blank pages:</source>
-        <translation>Ignorer les pages &amp;vierges :</translation>
+        <translation>Ignorer les pages &amp;vierges&#xa0;:</translation>
     </message>
     <message>
         <source>Skip blank pages</source>
@@ -336,359 +678,17 @@
     </message>
 </context>
 <context>
-    <name>ColorSettings1</name>
-    <message>
-        <source>Color &amp;mode:</source>
-        <translation>&amp;Mode couleur :</translation>
-    </message>
-    <message>
-        <source>Color mode</source>
-        <translation>Mode couleur</translation>
-    </message>
-    <message>
-        <source>In which colors the job is printed</source>
-        <translation>Couleurs dans lesquelles la tâche est imprimée</translation>
-    </message>
-    <message>
-        <source>&amp;Resolution:</source>
-        <translation>&amp;Résolution :</translation>
-    </message>
-    <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
-    </message>
-    <message>
-        <source>How fine the dots are</source>
-        <translation>Finesse des points imprimés</translation>
-    </message>
-    <message>
-        <source>&amp;Halftone:</source>
-        <translation>&amp;Tramage :</translation>
-    </message>
-    <message>
-        <source>Halftone</source>
-        <translation>Tramage</translation>
-    </message>
-    <message>
-        <source>How shades are made of dots</source>
-        <translation>Façon dont les nuances sont formées de points</translation>
-    </message>
-    <message>
-        <source>&amp;Save toner</source>
-        <translation>&amp;Économie de toner</translation>
-    </message>
-    <message>
-        <source>Prints paler to use less toner</source>
-        <translation>Imprime plus clair pour utiliser moins de toner</translation>
-    </message>
-    <message>
-        <source>&amp;Image type:</source>
-        <translation>T&amp;ype d’image :</translation>
-    </message>
-    <message>
-        <source>Image type</source>
-        <translation>Type d’image</translation>
-    </message>
-    <message>
-        <source>What the pages mostly show</source>
-        <translation>Ce que les pages montrent surtout</translation>
-    </message>
-    <message>
-        <source>Color &amp;Profiles…</source>
-        <translation>&amp;Profils de couleurs…</translation>
-    </message>
-    <message>
-        <source>The color profiles of the printer, for the image type “Advanced”</source>
-        <translation>Les profils de couleurs de l’imprimante, pour le type d’image « Avancé »</translation>
-    </message>
-    <message>
-        <source>Black &amp;overprint:</source>
-        <translation>&amp;Surimpression du noir :</translation>
-    </message>
-    <message>
-        <source>Black overprint</source>
-        <translation>Surimpression du noir</translation>
-    </message>
-    <message>
-        <source>Prints black text over colors instead of leaving them out below it</source>
-        <translation>Imprime le texte noir sur les couleurs au lieu de les évider</translation>
-    </message>
-    <message>
-        <source>Pure black and &amp;gray:</source>
-        <translation>Noir et &amp;gris purs :</translation>
-    </message>
-    <message>
-        <source>Pure black and gray</source>
-        <translation>Noir et gris purs</translation>
-    </message>
-    <message>
-        <source>What is printed with black toner alone</source>
-        <translation>Ce qui est imprimé avec le seul toner noir</translation>
-    </message>
-    <message>
-        <source>‹ &amp;Back</source>
-        <translation>‹ R&amp;etour</translation>
-    </message>
-    <message>
-        <source>Back to the basic color settings</source>
-        <translation>Revenir aux réglages de base des couleurs</translation>
-    </message>
-    <message>
-        <source>Color Profiles</source>
-        <translation>Profils de couleurs</translation>
-    </message>
-    <message>
-        <source>&amp;RGB source:</source>
-        <translation>Source &amp;RVB :</translation>
-    </message>
-    <message>
-        <source>RGB source profile</source>
-        <translation>Profil source RVB</translation>
-    </message>
-    <message>
-        <source>How the job’s RGB colors are meant</source>
-        <translation>Signification des couleurs RVB de la tâche</translation>
-    </message>
-    <message>
-        <source>Profile %1</source>
-        <translation>Profil %1</translation>
-    </message>
-    <message>
-        <source>&amp;CMYK source:</source>
-        <translation>&amp;Source CMJN :</translation>
-    </message>
-    <message>
-        <source>CMYK source profile</source>
-        <translation>Profil source CMJN</translation>
-    </message>
-    <message>
-        <source>How the job’s CMYK colors are meant</source>
-        <translation>Signification des couleurs CMJN de la tâche</translation>
-    </message>
-    <message>
-        <source>CMYK &amp;destination:</source>
-        <translation>&amp;Destination CMJN :</translation>
-    </message>
-    <message>
-        <source>CMYK destination profile</source>
-        <translation>Profil de destination CMJN</translation>
-    </message>
-    <message>
-        <source>What the printer’s toners make of them</source>
-        <translation>Rendu de ces couleurs par les toners de l’imprimante</translation>
-    </message>
-    <message>
-        <source>Rendering &amp;intent:</source>
-        <translation>&amp;Mode de rendu :</translation>
-    </message>
-    <message>
-        <source>Rendering intent</source>
-        <translation>Mode de rendu</translation>
-    </message>
-    <message>
-        <source>What happens to colors that the printer cannot print</source>
-        <translation>Traitement des couleurs que l’imprimante ne peut pas imprimer</translation>
-    </message>
-    <message>
-        <source>Intent %1</source>
-        <translation>Mode %1</translation>
-    </message>
-    <message>
-        <source>&amp;Apply to device colors only</source>
-        <translation>&amp;Appliquer aux couleurs d’appareil seulement</translation>
-    </message>
-    <message>
-        <source>Leaves colors alone that bring a profile of their own</source>
-        <translation>Ne touche pas aux couleurs qui ont leur propre profil</translation>
-    </message>
-    <message>
-        <source>Re&amp;load from Printer</source>
-        <translation>Re&amp;charger depuis l’imprimante</translation>
-    </message>
-    <message>
-        <source>Asks the printer again for its profiles and defaults</source>
-        <translation>Redemande à l’imprimante ses profils et valeurs par défaut</translation>
-    </message>
-</context>
-<context>
-    <name>ColorSettings2</name>
-    <message>
-        <source>Color Balance</source>
-        <translation>Équilibre des couleurs</translation>
-    </message>
-    <message>
-        <source>Image Quality</source>
-        <translation>Qualité d’image</translation>
-    </message>
-    <message>
-        <source>&amp;Cyan:</source>
-        <translation>&amp;Cyan :</translation>
-    </message>
-    <message>
-        <source>Cyan</source>
-        <translation>Cyan</translation>
-    </message>
-    <message>
-        <source>Cyan back to neutral</source>
-        <translation>Cyan : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>&amp;Magenta:</source>
-        <translation>&amp;Magenta :</translation>
-    </message>
-    <message>
-        <source>Magenta</source>
-        <translation>Magenta</translation>
-    </message>
-    <message>
-        <source>Magenta back to neutral</source>
-        <translation>Magenta : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>&amp;Yellow:</source>
-        <translation>&amp;Jaune :</translation>
-    </message>
-    <message>
-        <source>Yellow</source>
-        <translation>Jaune</translation>
-    </message>
-    <message>
-        <source>Yellow back to neutral</source>
-        <translation>Jaune : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>Blac&amp;k:</source>
-        <translation>&amp;Noir :</translation>
-    </message>
-    <message>
-        <source>Black</source>
-        <translation>Noir</translation>
-    </message>
-    <message>
-        <source>Black back to neutral</source>
-        <translation>Noir : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>&amp;Sharpness:</source>
-        <translation>Ne&amp;tteté :</translation>
-    </message>
-    <message>
-        <source>Sharpness</source>
-        <translation>Netteté</translation>
-    </message>
-    <message>
-        <source>Sharpness back to neutral</source>
-        <translation>Netteté : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>&amp;Brightness:</source>
-        <translation>&amp;Luminosité :</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Brightness back to neutral</source>
-        <translation>Luminosité : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>C&amp;ontrast:</source>
-        <translation>C&amp;ontraste :</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Contrast back to neutral</source>
-        <translation>Contraste : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>Sat&amp;uration:</source>
-        <translation>&amp;Saturation :</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Saturation back to neutral</source>
-        <translation>Saturation : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>Back&amp;ground:</source>
-        <translation>&amp;Fond :</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Fond</translation>
-    </message>
-    <message>
-        <source>Background back to neutral</source>
-        <translation>Fond : revenir au neutre</translation>
-    </message>
-    <message>
-        <source>Less or more cyan toner</source>
-        <translation>Moins ou plus de toner cyan</translation>
-    </message>
-    <message>
-        <source>Less or more magenta toner</source>
-        <translation>Moins ou plus de toner magenta</translation>
-    </message>
-    <message>
-        <source>Less or more yellow toner</source>
-        <translation>Moins ou plus de toner jaune</translation>
-    </message>
-    <message>
-        <source>Less or more black toner</source>
-        <translation>Moins ou plus de toner noir</translation>
-    </message>
-    <message>
-        <source>Softer or sharper edges</source>
-        <translation>Contours plus doux ou plus nets</translation>
-    </message>
-    <message>
-        <source>Darker or brighter</source>
-        <translation>Plus sombre ou plus clair</translation>
-    </message>
-    <message>
-        <source>Flatter or richer in contrast</source>
-        <translation>Moins ou plus contrasté</translation>
-    </message>
-    <message>
-        <source>Paler or stronger colors</source>
-        <translation>Couleurs plus pâles ou plus vives</translation>
-    </message>
-    <message>
-        <source>Lighter or darker page background</source>
-        <translation>Fond de page plus clair ou plus foncé</translation>
-    </message>
-    <message>
-        <source>Back to neutral</source>
-        <translation>Revenir au neutre</translation>
-    </message>
-    <message>
-        <source>&amp;Reset All</source>
-        <translation>&amp;Rétablir tout</translation>
-    </message>
-    <message>
-        <source>Takes every slider back to neutral</source>
-        <translation>Ramène tous les curseurs au neutre</translation>
-    </message>
-</context>
-<context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
         <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>L’équilibre des couleurs n’est pas disponible dans le mode couleur « %1 ».</translation>
+        <translation>L’équilibre des couleurs n’est pas disponible dans le mode couleur «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>QVPopUpButton_M880</name>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 </TS>
