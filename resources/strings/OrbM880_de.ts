@@ -60,7 +60,7 @@
         <translation>Was auf den Seiten überwiegend zu sehen ist</translation>
     </message>
     <message>
-        <source>Color &amp;Profiles…</source>
+        <source>Color Pro&amp;files…</source>
         <translation>Farb&amp;profile…</translation>
     </message>
     <message>
@@ -654,7 +654,7 @@
     </message>
     <message>
         <source>Distinguish &amp;thin lines:</source>
-        <translation>&amp;Dünne Linien hervorheben:</translation>
+        <translation>Dü&amp;nne Linien hervorheben:</translation>
     </message>
     <message>
         <source>Distinguish thin lines</source>

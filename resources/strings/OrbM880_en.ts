@@ -60,8 +60,8 @@
         <translation>What the pages mostly show</translation>
     </message>
     <message>
-        <source>Color &amp;Profiles…</source>
-        <translation>Color &amp;Profiles…</translation>
+        <source>Color Pro&amp;files…</source>
+        <translation>Color Pro&amp;files…</translation>
     </message>
     <message>
         <source>The color profiles of the printer, for the image type “Advanced”</source>

@@ -60,7 +60,7 @@
         <translation>Ce que les pages montrent surtout</translation>
     </message>
     <message>
-        <source>Color &amp;Profiles…</source>
+        <source>Color Pro&amp;files…</source>
         <translation>&amp;Profils de couleurs…</translation>
     </message>
     <message>

@@ -60,8 +60,8 @@
         <translation>ページの主な内容</translation>
     </message>
     <message>
-        <source>Color &amp;Profiles…</source>
-        <translation>カラープロファイル(&amp;P)…</translation>
+        <source>Color Pro&amp;files…</source>
+        <translation>カラープロファイル(&amp;F)…</translation>
     </message>
     <message>
         <source>The color profiles of the printer, for the image type “Advanced”</source>
