@@ -13,12 +13,15 @@
 #include <cstdlib>
 #include <ctime>
 
-// Reports when a window has been painted for the first time, in the form that bench/startup/run.py reads, and ends
-// the program. The launcher leaves the start time, CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
+// Reports when a window has been painted for the first time, in the form of `kelmar-print --startup-time`,
+// and ends the program. The launcher leaves the start time, CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
 class FirstPaint : public QObject
 {
 public:
-    explicit FirstPaint(QWidget *window) : QObject(window), m_window(window) { window->installEventFilter(this); }
+    explicit FirstPaint(QWidget *window) : QObject(window), m_window(window)
+    {
+        window->installEventFilter(this);
+    }
 
     static long residentKilobytes()
     {
@@ -44,7 +47,8 @@ public:
 
     [[noreturn]] static void report()
     {
-        std::printf("first-paint-ms %.3f\nresident-kb %ld\n", sinceStartMilliseconds(), residentKilobytes());
+        std::printf("process start to first paint\t%.3f\tms\nVmRSS at first paint\t%ld\tkB\n",
+                    sinceStartMilliseconds(), residentKilobytes());
         std::fflush(stdout);
         std::_Exit(0);
     }

@@ -34,8 +34,8 @@ def launch(command, environment):
     _, status = os.waitpid(pid, 0)
     if status != 0:
         raise SystemExit(f"{command[0]} failed: {text}")
-    figures = dict(line.split() for line in text.splitlines() if len(line.split()) == 2)
-    return float(figures["first-paint-ms"]), int(figures["resident-kb"])
+    figures = {line.split("\t")[0]: float(line.split("\t")[1]) for line in text.splitlines() if line.count("\t") == 2}
+    return figures["process start to first paint"], figures["VmRSS at first paint"]
 
 
 def measure(programs, environment, repetitions):
@@ -83,7 +83,8 @@ def main():
             document = str(SOURCE / "demo/report.pdf")
             figures = measure({
                 "bare Qt dialog": [str(build / "bench/qt_floor")],
-                "kelmar-print": [str(build / "bin/kelmar-print"), "-d", "office", "--startup-time", document],
+                "kelmar-print": [str(build / "bin/kelmar-print"), "-d", "office",
+                                 "--panel", "print-mode", "--startup-time", document],
                 "Qt print dialog, options shown": [str(build / "bench/qt_print_dialog"), "office"],
             }, environment, repetitions)
         finally:
