@@ -50,8 +50,9 @@ case "${1:-}:$#" in
         exec "$daemon" -f -Lo -C -c "$2/snmpd.conf" "$listen"
         ;;
     stop:2)
-        pid=$(cat "$2/snmpd.pid") || exit 1
-        kill "$pid"
+        # Stopping one that does not run is no error.
+        [ -e "$2/snmpd.pid" ] || exit 0
+        kill "$(cat "$2/snmpd.pid")"
         rm -f "$2/snmpd.pid"
         ;;
     *) usage ;;
