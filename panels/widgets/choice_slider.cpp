@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstdlib>
@@ -28,6 +29,7 @@ constexpr qreal railHeight = 4; // px
 
 QVChoiceSlider_M880::QVChoiceSlider_M880(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractSlider::actionTriggered, this, &QVChoiceSlider_M880::adjustAction);
     // Without tracking a held thumb moves and no value follows; who asks for its position must find a choice,
     // too.
@@ -166,4 +168,12 @@ std::optional<int> QVChoiceSlider_M880::positionTowards(int wanted) const
     }
     const auto beyond = std::upper_bound(all.begin(), all.end(), wanted);
     return beyond != all.begin() ? *std::prev(beyond) : std::min(all.first(), value());
+}
+
+void QVChoiceSlider_M880::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QSlider::wheelEvent(event);
+    else
+        event->ignore();
 }

@@ -41,6 +41,8 @@ Q_SIGNALS:
 protected:
     void sliderChange(SliderChange change) override;
     void paintEvent(QPaintEvent *event) override;
+    // Scrolling past it must not change it.
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void adjustAction(int action);

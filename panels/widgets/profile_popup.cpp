@@ -6,6 +6,7 @@
 #include "platform/layout_loader.h"
 
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 namespace {
 
@@ -20,6 +21,7 @@ QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : QComboBox(parent)
 {
     // A device may call its profiles anything; the pop-up keeps its width.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
 }
 
@@ -76,4 +78,12 @@ void QVProfilePopUp_M880::rebuild()
     if (findData(selected) < 0)
         addItem(m_unnamedText.arg(selected), selected);
     setCurrentIndex(findData(selected));
+}
+
+void QVProfilePopUp_M880::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
 }

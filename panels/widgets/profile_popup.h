@@ -36,6 +36,10 @@ public:
 Q_SIGNALS:
     void profileChosen();
 
+protected:
+    // Scrolling past it must not change it.
+    void wheelEvent(QWheelEvent *event) override;
+
 private:
     void choose(int index);
     void rebuild();
