@@ -80,7 +80,11 @@ void DialogSession::loadPanels(Extensions &extensions)
 {
     if (!m_ppd)
         return;
-    auto panels = extensions.panelsFor(m_ppd->modelName(), this, &m_notices);
+    adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
+}
+
+void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
+{
     for (auto &panel : panels) {
         QStringList keywords = keywordsOf(panel.get());
         m_panels.push_back({std::move(panel), std::move(keywords), {}, false});

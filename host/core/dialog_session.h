@@ -45,6 +45,7 @@ public:
 
     // Makes the panels of the extensions that serve the printer; problems become notices.
     void loadPanels(Extensions &extensions);
+    void adoptPanels(platform::PrintDialogPanels panels);
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }

@@ -286,9 +286,11 @@ void PrintWindow::dropPages()
 
 int PrintWindow::pageNamed(const QString &name) const
 {
+    // "Color Settings 1" finds "com.kelmar.pde.color-settings-1" in every language.
+    const QString kind = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
     for (size_t i = 0; i < m_pages.size(); ++i) {
         const Page &page = m_pages[i];
-        if (page.name == name || page.name.endsWith(QLatin1Char('.') + name) ||
+        if (page.name == kind || page.name.endsWith(QLatin1Char('.') + kind) ||
             page.title.compare(name, Qt::CaseInsensitive) == 0)
             return static_cast<int>(i);
     }

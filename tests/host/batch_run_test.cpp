@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/batch/batch_run.h"
+#include "tests/host/host_fixture.h"
+
+#include <QBuffer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+class BatchRunTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void commandLines_data();
+    void commandLines();
+    void settingsKeepTheirOrder();
+    void exitCodes_data();
+    void exitCodes();
+    void submitsWhatWasAsked();
+    void standardInput();
+    void conflictIsExplainedInJson();
+    void resolveAcceptsTheProposal();
+    void optionsAreListed();
+
+private:
+    int run(const QStringList &words);
+    QJsonObject json() const { return QJsonDocument::fromJson(m_out.data()).object(); }
+
+    FakePrintSystem m_system;
+    QTemporaryFile m_document;
+    QBuffer m_out, m_err, m_input;
+};
+
+void BatchRunTest::init()
+{
+    m_system = FakePrintSystem();
+    Destination office = officePrinter();
+    office.isDefault = true;
+    m_system.printers = {office, officePrinter(u"raw"_s)};
+    m_system.ppds = {{u"office"_s, officePpd()}};
+    if (!m_document.isOpen()) {
+        QVERIFY(m_document.open());
+        m_document.write("some text\n");
+        m_document.flush();
+    }
+}
+
+int BatchRunTest::run(const QStringList &words)
+{
+    for (QBuffer *buffer : {&m_out, &m_err}) {
+        buffer->close();
+        buffer->setData({});
+        buffer->open(QIODevice::WriteOnly);
+    }
+    QString error;
+    const auto arguments = parseArguments(QStringList(u"kelmar-print"_s) + words, &error);
+    if (!arguments)
+        return ExitUsage;
+    Extensions none({});
+    ResultWriter writer(&m_out, &m_err);
+    BatchRun batch(*arguments, m_system, none);
+    batch.setInput(&m_input);
+    return batch.run(&writer);
+}
+
+void BatchRunTest::commandLines_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<bool>("understood");
+    QTest::newRow("nothing") << QStringList() << true;
+    QTest::newRow("as lp") << QStringList(
+                                  {u"-d"_s, u"office"_s, u"-n2"_s, u"-o"_s, u"Duplex=None"_s, u"a.pdf"_s})
+                           << true;
+    QTest::newRow("switches of lp") << QStringList({u"-o"_s, u"landscape"_s, u"-o"_s, u"nocollate"_s})
+                                    << true;
+    QTest::newRow("unknown") << QStringList(u"--sepia"_s) << false;
+    QTest::newRow("value missing") << QStringList({u"--set"_s, u"PrintMode"_s}) << false;
+    QTest::newRow("key missing") << QStringList({u"--set"_s, u"=x"_s}) << false;
+    QTest::newRow("colours") << QStringList({u"--color-scheme"_s, u"pink"_s}) << false;
+    QTest::newRow("JSON of a window") << QStringList(u"--json"_s) << false;
+    QTest::newRow("proposal of a window") << QStringList(u"--resolve"_s) << false;
+    QTest::newRow("nowhere to print") << QStringList({u"--batch"_s, u"--ppd"_s, u"x.ppd"_s}) << false;
+}
+
+void BatchRunTest::commandLines()
+{
+    QFETCH(QStringList, words);
+    QFETCH(bool, understood);
+    QString error;
+    QCOMPARE(parseArguments(QStringList(u"kelmar-print"_s) + words, &error).has_value(), understood);
+    QCOMPARE(error.isEmpty(), understood);
+}
+
+void BatchRunTest::settingsKeepTheirOrder()
+{
+    QString error;
+    const auto arguments =
+        parseArguments({u"kelmar-print"_s, u"--set"_s, u"A=1"_s, u"-o"_s, u"B=2=3"_s, u"-n"_s, u"4"_s,
+                        u"-s"_s, u"A=5"_s, u"-o"_s, u"nofit"_s, u"--"_s, u"-file"_s},
+                       &error);
+    QVERIFY2(arguments, qPrintable(error));
+    QStringList order;
+    for (const auto &assignment : arguments->assignments)
+        order.append(assignment.key + u"="_s + assignment.value + (assignment.passOn ? u"*"_s : QString()));
+    QCOMPARE(order, QStringList({u"A=1"_s, u"B=2=3*"_s, u"copies=4"_s, u"A=5"_s, u"fit=false*"_s}));
+    QCOMPARE(arguments->files, QStringList(u"-file"_s));
+}
+
+void BatchRunTest::exitCodes_data()
+{
+    QTest::addColumn<QString>("words"); // FILE stands for the document
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("done") << u"--batch FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("raw queue") << u"--batch -d raw FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("no such printer") << u"--batch -d nowhere FILE"_s << int(ExitFailure)
+                                     << u"no-such-printer"_s;
+    QTest::newRow("no such file") << u"--batch /nowhere.pdf"_s << int(ExitFailure) << u"file-missing"_s;
+    QTest::newRow("no such option") << u"--batch --set Sepia=1 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("no such choice") << u"--batch --set Cyan=7 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("conflict") << u"--batch --set ColorType=Mono --set Cyan=2 FILE"_s << int(ExitConflict)
+                              << u"conflict"_s;
+    QTest::newRow("conflict in a summary")
+        << u"--summary --set ColorType=Mono --set Cyan=2"_s << int(ExitConflict) << u"conflict"_s;
+    QTest::newRow("proposal accepted")
+        << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
+}
+
+void BatchRunTest::exitCodes()
+{
+    QFETCH(QString, words);
+    QFETCH(int, code);
+    QFETCH(QString, error);
+    words.replace(u"FILE"_s, m_document.fileName());
+    QCOMPARE(run(words.split(u' ') + QStringList(u"--json"_s)), code);
+    QCOMPARE(json()[u"error"_s][u"code"_s].toString(), error);
+    QCOMPARE(m_system.submitted.size(), code == ExitSuccess ? 1 : 0);
+    QVERIFY(m_err.data().isEmpty()); // one JSON object says it all
+    QCOMPARE(run(words.split(u' ')), code);
+    QCOMPARE(m_err.data().isEmpty(), error.isEmpty() && !words.contains(u"--resolve"_s));
+}
+
+void BatchRunTest::submitsWhatWasAsked()
+{
+    QCOMPARE(run({u"--batch"_s, u"-n"_s, u"2"_s, u"-P"_s, u"3,1-2"_s, u"-t"_s, u"Report"_s, u"--set"_s,
+                  u"Cyan=1"_s, u"-o"_s, u"sides=two-sided-long-edge"_s, u"-o"_s, u"number-up=4"_s,
+                  m_document.fileName()}),
+             int(ExitSuccess));
+    const JobRequest job = m_system.submitted.first();
+    QCOMPARE(job.title, u"Report"_s);
+    QCOMPARE(sentValue(job.options, u"Cyan"_s), u"1"_s);
+    QCOMPARE(sentValue(job.options, u"Duplex"_s), u"DuplexNoTumble"_s);
+    QCOMPARE(sentValue(job.options, u"copies"_s), u"2"_s);
+    QCOMPARE(sentValue(job.options, u"page-ranges"_s), u"1-3"_s);
+    QCOMPARE(sentValue(job.options, u"number-up"_s), u"4"_s);
+    QVERIFY2(m_out.data().startsWith("request id is office-1 (1 file(s))\n"), m_out.data().constData());
+}
+
+void BatchRunTest::standardInput()
+{
+    QByteArray text("piped text\n");
+    m_input.setBuffer(&text);
+    QVERIFY(m_input.open(QIODevice::ReadOnly));
+    QCOMPARE(run({u"--batch"_s}), int(ExitSuccess));
+    QCOMPARE(m_system.submitted.first().documents.first().format, u"text/plain"_s);
+    m_input.close();
+}
+
+void BatchRunTest::conflictIsExplainedInJson()
+{
+    run({u"--batch"_s, u"--json"_s, u"--set"_s, u"ColorType=Mono"_s, u"--set"_s, u"Cyan=2"_s,
+         m_document.fileName()});
+    const QJsonObject error = json()[u"error"_s].toObject();
+    const QJsonArray sides = error[u"conflicts"_s][0].toArray();
+    QCOMPARE(sides.size(), 2);
+    QCOMPARE(sides[0][u"optionText"_s].toString(), u"Colour Mode"_s);
+    QCOMPARE(sides[1][u"choice"_s].toString(), u"2"_s);
+    QCOMPARE(error[u"proposal"_s][0][u"option"_s].toString(), u"ColorType"_s); // Cyan came last and stays
+}
+
+void BatchRunTest::resolveAcceptsTheProposal()
+{
+    QCOMPARE(run({u"--batch"_s, u"--json"_s, u"--resolve"_s, u"--set"_s, u"Cyan=2"_s, u"--set"_s,
+                  u"ColorType=Mono"_s, m_document.fileName()}),
+             int(ExitSuccess));
+    QCOMPARE(json()[u"resolved"_s][0][u"option"_s].toString(), u"Cyan"_s);
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"ColorType"_s), u"Mono"_s);
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"Cyan"_s), u"0"_s);
+}
+
+void BatchRunTest::optionsAreListed()
+{
+    QCOMPARE(run({u"--list-options"_s, u"--json"_s}), int(ExitSuccess));
+    const QJsonArray options = json()[u"options"_s].toArray();
+    QCOMPARE(options.size(), 8);
+    QCOMPARE(options[0][u"option"_s].toString(), u"PageSize"_s);
+    QCOMPARE(options[0][u"choices"_s][1][u"choice"_s].toString(), u"A3"_s);
+    QVERIFY(m_system.submitted.isEmpty());
+    QCOMPARE(run({u"--list-options"_s}), int(ExitSuccess));
+    QVERIFY2(m_out.data().contains("    Duplex/Two-Sided: *None DuplexNoTumble\n"), m_out.data().constData());
+}
+
+QTEST_MAIN(BatchRunTest)
+#include "batch_run_test.moc"

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/job.h"
+#include "host/core/page_ranges.h"
+#include "tests/host/host_fixture.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+// The small things of the core: page ranges, documents, and the PPD as the host sees it.
+class CoreValuesTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void pageRanges_data();
+    void pageRanges();
+    void documents_data();
+    void documents();
+    void standardInputIsSpooled();
+    void brokenPpdNamesFileAndLine();
+    void conflictNamesBothSidesOnce();
+    void resolutionKeepsTheLastChange();
+    void forbiddenChoicesSayWhy();
+    void standardOptionsBecomeMarks();
+    void changedChoicesLeaveOutUnitsAndDefaults();
+};
+
+void CoreValuesTest::pageRanges_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("expected"); // nil: refused
+    QTest::newRow("nothing is all pages") << u"  "_s << u""_s;
+    QTest::newRow("spaces") << u" 1 - 3 , 8 "_s << u"1-3,8"_s;
+    QTest::newRow("sorted and merged") << u"8,1-3,2-5,6"_s << u"1-6,8"_s;
+    QTest::newRow("open ends") << u"-2,9-"_s << u"1-2,9-"_s;
+    QTest::newRow("swallowed by an open end") << u"9-,12"_s << u"9-"_s;
+    QTest::newRow("dash of a word processor") << u"1–3"_s << u"1-3"_s;
+    for (const char *bad : {"3-1", "0", "a", "1,,2", "-", "1-2-3", "+1", "99999999999", "1;2"})
+        QTest::newRow(bad) << QString::fromLatin1(bad) << QString();
+}
+
+void CoreValuesTest::pageRanges()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, expected);
+    QString error;
+    const auto ranges = normalizedPageRanges(typed, &error);
+    QCOMPARE(ranges.has_value(), !expected.isNull());
+    QCOMPARE(ranges.value_or(QString()), expected);
+    QCOMPARE(error.isEmpty(), !expected.isNull());
+}
+
+void CoreValuesTest::documents_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("format"); // empty: refused as empty
+    QTest::newRow("PDF whatever its name") << QByteArray("%PDF-1.4\n1 0 obj\n") << u"application/pdf"_s;
+    QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0\nshowpage\n") << u"application/postscript"_s;
+    QTest::newRow("text") << QByteArray("Grüße aus dem Büro\n") << u"text/plain"_s;
+    QTest::newRow("picture") << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452") << u"image/png"_s;
+    QTest::newRow("nobody knows") << QByteArray::fromHex("00ff00ee0102aa55") << u"application/octet-stream"_s;
+    QTest::newRow("nothing") << QByteArray() << QString();
+}
+
+void CoreValuesTest::documents()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, format);
+    QTemporaryFile file(QDir::tempPath() + u"/kelmar-test-XXXXXX.txt"_s);
+    QVERIFY(file.open());
+    file.write(contents);
+    file.close();
+    PrintError error;
+    const auto document = openDocument(file.fileName(), &error);
+    QCOMPARE(document ? document->format : QString(), format);
+    QCOMPARE(error.kind, format.isEmpty() ? PrintError::Kind::EmptyDocument : PrintError::Kind::None);
+    QVERIFY(!openDocument(u"/nowhere/at all.pdf"_s, &error));
+    QCOMPARE(error.kind, PrintError::Kind::FileMissing);
+    QVERIFY(error.message.contains(u"/nowhere/at all.pdf"_s));
+}
+
+void CoreValuesTest::standardInputIsSpooled()
+{
+    QByteArray contents(200'000, 'x');
+    QBuffer input(&contents);
+    QVERIFY(input.open(QIODevice::ReadOnly));
+    PrintError error;
+    const auto spool = spoolInput(&input, &error);
+    QVERIFY(spool);
+    QFile copy(spool->fileName());
+    QVERIFY(copy.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), contents);
+    QVERIFY(!spoolInput(&input, &error)); // at its end
+    QCOMPARE(error.kind, PrintError::Kind::EmptyDocument);
+}
+
+void CoreValuesTest::brokenPpdNamesFileAndLine()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize/Size: PickOne\nno asterisk here\n");
+    file.flush();
+    PrintError error;
+    QVERIFY(!PpdDocument::open(file.fileName(), &error));
+    QCOMPARE(error.kind, PrintError::Kind::BrokenPpd);
+    QVERIFY2(error.message.contains(file.fileName()) && error.message.contains(u"line 3"_s),
+             qPrintable(error.message));
+    QVERIFY(!PpdDocument::open(u"/nowhere.ppd"_s, &error));
+    QCOMPARE(error.kind, PrintError::Kind::FileMissing);
+}
+
+void CoreValuesTest::conflictNamesBothSidesOnce()
+{
+    const auto ppd = openPpd(officePpd());
+    QVERIFY(ppd->conflicts().isEmpty());
+    QVERIFY(ppd->mark(u"ColorType"_s, u"Mono"_s));
+    QVERIFY(ppd->mark(u"Cyan"_s, u"2"_s));
+    QCOMPARE(ppd->conflicts().size(), 1); // though the PPD says it in both directions
+    const QList<OptionChoice> sides = ppd->conflicts().first().sides;
+    QCOMPARE(sides.size(), 2);
+    QCOMPARE(sides.at(0).text(), u"Colour Mode: Black and White"_s);
+    QCOMPARE(sides.at(1).text(), u"Cyan Balance: Plus 2"_s);
+    // A second one at the same time, of the form that leaves the choice open.
+    QVERIFY(ppd->mark(u"MediaType"_s, u"Thick"_s));
+    QCOMPARE(ppd->conflicts().size(), 1);
+    QVERIFY(ppd->mark(u"Duplex"_s, u"DuplexNoTumble"_s));
+    QCOMPARE(ppd->conflicts().size(), 2);
+    QVERIFY(!ppd->mark(u"Duplex"_s, u"Sideways"_s));
+    QCOMPARE(ppd->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
+}
+
+void CoreValuesTest::resolutionKeepsTheLastChange()
+{
+    const auto ppd = openPpd(officePpd());
+    QVERIFY(!ppd->resolution());
+    QVERIFY(ppd->mark(u"ColorType"_s, u"Mono"_s));
+    QVERIFY(ppd->mark(u"Cyan"_s, u"2"_s));
+    auto resolution = ppd->resolution(u"Cyan"_s);
+    QVERIFY(resolution);
+    QCOMPARE(resolution->size(), 1);
+    QCOMPARE(resolution->first().text(), u"Colour Mode: Automatic"_s);
+    resolution = ppd->resolution(u"ColorType"_s);
+    QVERIFY(resolution);
+    QCOMPARE(resolution->first().option, u"Cyan"_s);
+    QCOMPARE(ppd->markedChoice(u"Cyan"_s), u"2"_s); // a proposal changes nothing
+}
+
+void CoreValuesTest::forbiddenChoicesSayWhy()
+{
+    const auto ppd = openPpd(officePpd());
+    QVERIFY(ppd->forbiddenChoices(u"Cyan"_s).isEmpty());
+    QVERIFY(ppd->mark(u"ColorType"_s, u"Mono"_s));
+    QVERIFY(ppd->mark(u"MediaType"_s, u"Thick"_s));
+    const auto cyan = ppd->forbiddenChoices(u"Cyan"_s);
+    QCOMPARE(cyan.keys(), QStringList({u"1"_s, u"2"_s}));
+    QCOMPARE(cyan.value(u"1"_s).text(), u"Colour Mode: Black and White"_s);
+    QCOMPARE(ppd->forbiddenChoices(u"Duplex"_s).keys(), QStringList(u"DuplexNoTumble"_s));
+    QCOMPARE(ppd->forbiddenChoices(u"Staple"_s).value(u"Left"_s).text(), u"Stapler: No"_s);
+}
+
+void CoreValuesTest::standardOptionsBecomeMarks()
+{
+    const auto ppd = openPpd(officePpd());
+    ppd->markOptions(
+        {{u"sides"_s, u"two-sided-long-edge"_s}, {u"ColorType"_s, u"Mono"_s}, {u"number-up"_s, u"2"_s}});
+    QCOMPARE(ppd->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
+    QCOMPARE(ppd->markedChoice(u"ColorType"_s), u"Mono"_s);
+    QVERIFY(ppd->takesOption(u"sides"_s) && !ppd->takesOption(u"number-up"_s));
+}
+
+void CoreValuesTest::changedChoicesLeaveOutUnitsAndDefaults()
+{
+    const auto ppd = openPpd(officePpd());
+    QVERIFY(ppd->changedChoices().isEmpty());
+    QVERIFY(ppd->mark(u"Stapler"_s, u"True"_s));
+    QVERIFY(ppd->mark(u"Staple"_s, u"Left"_s));
+    QCOMPARE(ppd->changedChoices().size(), 1);
+    QCOMPARE(ppd->changedChoices().first().text(), u"Stapling: Top Left"_s);
+}
+
+QTEST_GUILESS_MAIN(CoreValuesTest)
+#include "core_values_test.moc"

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/setting_keys.h"
+#include "tests/host/host_fixture.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+// A session with two panels: colour mode in the first; balance and sharpness in the second, which resets the
+// balance and saves itself as soon as the mode goes to monochrome.
+class DialogSessionTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void panelsAreRestoredOnceAndInOrder();
+    void panelsNeverShownKeepTheirSettings();
+    void resetByAnotherPanelIsToldAndSent();
+    void resetReachesAPanelThatWasRestored();
+    void savedDefaultsAreSent();
+    void resolutionReachesPanelsWithoutRestoring();
+    void userDefaultsTravel();
+    void panelSettingsOfAPresetBecomePrintSettings();
+    void keys_data();
+    void keys();
+    void refusedValueLeavesNothingBehind();
+    void blockingWorkIsAnnounced();
+
+private:
+    void makeSession(const Destination &printer = officePrinter());
+
+    std::unique_ptr<DialogSession> m_session;
+    FakePanel *m_colour = nullptr;
+    FakePanel *m_balance = nullptr;
+};
+
+void DialogSessionTest::init()
+{
+    makeSession();
+}
+
+void DialogSessionTest::makeSession(const Destination &printer)
+{
+    m_session = std::make_unique<DialogSession>(printer, openPpd(officePpd()));
+    auto colour = std::make_unique<FakePanel>(u"Colour"_s, QStringList(u"ColorType"_s), m_session.get());
+    auto balance =
+        std::make_unique<FakePanel>(u"Balance"_s, QStringList({u"Cyan"_s, u"Sharp"_s}), m_session.get());
+    m_colour = colour.get();
+    m_balance = balance.get();
+    m_colour->onSet = [this](const QString &key, const QString &choice) {
+        if (key != u"ColorType"_s || choice != u"Mono"_s)
+            return;
+        m_balance->setValueForKey(u"0"_s, u"Cyan"_s);
+        m_balance->saveValuesAndReturnError(nullptr);
+    };
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(colour));
+    panels.push_back(std::move(balance));
+    m_session->adoptPanels(std::move(panels));
+}
+
+void DialogSessionTest::panelsAreRestoredOnceAndInOrder()
+{
+    m_session->save();
+    QCOMPARE(m_colour->restored + m_balance->restored, 0);
+    QCOMPARE(m_colour->saved + m_balance->saved, 0);
+    m_session->restoreUpTo(0);
+    QCOMPARE(m_balance->restored, 0);
+    m_session->restoreUpTo(1);
+    m_session->restoreUpTo(1);
+    QCOMPARE(m_colour->restored, 1);
+    QCOMPARE(m_balance->restored, 1);
+    m_session->save();
+    QCOMPARE(m_colour->saved, 1);
+    QCOMPARE(m_balance->saved, 1);
+    QVERIFY(m_session->takeNotices().isEmpty());
+}
+
+void DialogSessionTest::panelsNeverShownKeepTheirSettings()
+{
+    Destination printer = officePrinter();
+    printer.options = {{u"Cyan"_s, u"2"_s}, {u"Sharp"_s, u"1"_s}};
+    makeSession(printer);
+    m_session->restoreUpTo(0);
+    m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    m_session->save();
+    // The reset counts; the sharpness that the panel has never read does not become its default.
+    QCOMPARE(m_session->ppd()->markedChoice(u"Cyan"_s), u"0"_s);
+    QCOMPARE(m_session->ppd()->markedChoice(u"Sharp"_s), u"1"_s);
+    QCOMPARE(m_session->takeNotices(), QStringList(u"“Cyan Balance” was reset to “Neutral”."_s));
+    QCOMPARE(m_balance->restored, 0);
+    m_session->restoreUpTo(1);
+    QCOMPARE(m_balance->valueForKey(u"Sharp"_s).toString(), u"1"_s);
+}
+
+void DialogSessionTest::resetByAnotherPanelIsToldAndSent()
+{
+    m_session->restoreUpTo(1);
+    m_balance->setValueForKey(u"2"_s, u"Cyan"_s);
+    m_session->save();
+    QVERIFY(m_session->takeNotices().isEmpty()); // the user's own change is none
+    QSignalSpy changed(m_session.get(), &DialogSession::changed);
+    m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s); // as a control does it: nobody calls the session
+    QVERIFY(changed.wait());
+    QCOMPARE(m_session->takeNotices(), QStringList(u"“Cyan Balance” was reset to “Neutral”."_s));
+    m_session->save();
+    QCOMPARE(sentValue(m_session->jobOptions(), u"Cyan"_s), u"0"_s);
+    QCOMPARE(sentValue(m_session->jobOptions(), u"ColorType"_s), u"Mono"_s);
+    QVERIFY(m_session->conflicts().isEmpty());
+}
+
+void DialogSessionTest::resetReachesAPanelThatWasRestored()
+{
+    m_session->restoreUpTo(1);
+    QVERIFY(m_session->markChoice(u"Cyan"_s, u"1"_s));
+    QCOMPARE(m_balance->valueForKey(u"Cyan"_s).toString(), u"1"_s);
+    m_session->save();
+    QCOMPARE(m_session->ppd()->markedChoice(u"Cyan"_s), u"1"_s); // not overwritten by an old pending value
+}
+
+void DialogSessionTest::savedDefaultsAreSent()
+{
+    QVERIFY(sentValue(m_session->jobOptions(), u"Cyan"_s).isNull());
+    m_session->restoreUpTo(1);
+    m_session->save();
+    QCOMPARE(sentValue(m_session->jobOptions(), u"Cyan"_s), u"0"_s);
+    QVERIFY(sentValue(m_session->jobOptions(), u"PageSize"_s).isNull()); // no panel's, and the default
+}
+
+void DialogSessionTest::resolutionReachesPanelsWithoutRestoring()
+{
+    m_colour->onSet = nullptr;
+    m_session->restoreUpTo(1);
+    m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    m_session->save();
+    m_balance->setValueForKey(u"2"_s, u"Cyan"_s);
+    m_session->save();
+    QCOMPARE(m_session->conflicts().size(), 1);
+    const auto proposal = m_session->proposal();
+    QVERIFY(proposal);
+    QCOMPARE(proposal->first().option, u"ColorType"_s); // the balance was the last thing the user asked for
+    m_session->apply(*proposal);
+    QVERIFY(m_session->conflicts().isEmpty());
+    QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
+    QCOMPARE(m_colour->restored, 1);
+}
+
+void DialogSessionTest::userDefaultsTravel()
+{
+    Destination printer = officePrinter();
+    printer.options = {{u"sides"_s, u"two-sided-long-edge"_s},
+                       {u"number-up"_s, u"2"_s},
+                       {u"copies"_s, u"3"_s},
+                       {u"printer-info"_s, u"x"_s},
+                       {u"device-uri"_s, u"socket://a"_s}};
+    makeSession(printer);
+    const auto options = m_session->jobOptions();
+    QCOMPARE(sentValue(options, u"Duplex"_s), u"DuplexNoTumble"_s);
+    QCOMPARE(sentValue(options, u"number-up"_s), u"2"_s);
+    QCOMPARE(sentValue(options, u"copies"_s), u"3"_s);
+    for (const QString &name : {u"sides"_s, u"printer-info"_s, u"device-uri"_s})
+        QVERIFY2(sentValue(options, name).isNull(), qPrintable(name));
+}
+
+void DialogSessionTest::panelSettingsOfAPresetBecomePrintSettings()
+{
+    Destination printer = officePrinter();
+    printer.options = {{u"com.example.profile"_s, u"3"_s}};
+    makeSession(printer);
+    QCOMPARE(m_session->printSettings()->value(u"com.example.profile"_s), QVariant(u"3"_s));
+    QCOMPARE(sentValue(m_session->jobOptions(), u"com.example.profile"_s), u"3"_s);
+    PMPrintSettingsSetValue(m_session->printSettings(), u"com.example.profile"_s, {}, false);
+    QVERIFY(sentValue(m_session->jobOptions(), u"com.example.profile"_s).isNull());
+}
+
+void DialogSessionTest::keys_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("error"); // part of it; empty when the key takes the value
+    QTest::newRow("option of a panel") << u"Cyan"_s << u"1"_s << QString();
+    QTest::newRow("option of none") << u"Duplex"_s << u"DuplexNoTumble"_s << QString();
+    QTest::newRow("whatever the case") << u"Duplex"_s << u"duplexnotumble"_s << QString();
+    QTest::newRow("key of a panel") << u"code"_s << u"01230"_s << QString();
+    QTest::newRow("general") << u"copies"_s << u"3"_s << QString();
+    QTest::newRow("no such choice") << u"Cyan"_s << u"9"_s << u"Cyan has no choice “9”; it has 0 … 2."_s;
+    QTest::newRow("no such key") << u"Sepia"_s << u"1"_s << u"Sepia"_s;
+    QTest::newRow("code too short") << u"code"_s << u"1230"_s << u"code takes 5 digits."_s;
+    QTest::newRow("code too long") << u"code"_s << u"123456"_s << u"code takes 5 digits."_s;
+    QTest::newRow("copies") << u"copies"_s << u"0"_s << u"1 to 9999"_s;
+    QTest::newRow("pages") << u"page-ranges"_s << u"3-1"_s << u"3-1"_s;
+    QTest::newRow("key that cannot be set")
+        << u"supportedPPDOptionKeys"_s << u"x"_s << u"supportedPPDOptionKeys"_s;
+}
+
+void DialogSessionTest::keys()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    QFETCH(QString, error);
+    PrintError problem;
+    SettingKeys keys(m_session.get());
+    QCOMPARE(keys.set(key, value, &problem), error.isEmpty());
+    QVERIFY2(problem.message.contains(error), qPrintable(problem.message));
+    QVERIFY(error.isEmpty() == (problem.kind != PrintError::Kind::BadValue));
+    if (key == u"code"_s && error.isEmpty())
+        QCOMPARE(m_colour->code(), value);
+    else if (m_session->ppd()->hasOption(key) && error.isEmpty())
+        QCOMPARE(m_session->ppd()->markedChoice(key).toLower(), value.toLower());
+}
+
+void DialogSessionTest::refusedValueLeavesNothingBehind()
+{
+    PrintError problem;
+    SettingKeys keys(m_session.get());
+    QVERIFY(keys.set(u"code"_s, u"01230"_s, &problem));
+    QVERIFY(!keys.set(u"code"_s, u"777"_s, &problem));
+    QVERIFY(!problem.message.contains(u"777"_s)); // it may be a secret
+    QCOMPARE(m_colour->code(), u"01230"_s);
+    QCOMPARE(m_balance->restored, 0); // nobody has asked for that panel
+}
+
+void DialogSessionTest::blockingWorkIsAnnounced()
+{
+    QSignalSpy began(m_session.get(), &DialogSession::blockingBegan);
+    QSignalSpy ended(m_session.get(), &DialogSession::blockingEnded);
+    {
+        const platform::BlockingWork work(m_session.get(), u"Asking the printer"_s);
+        QCOMPARE(began.size(), 1);
+        QCOMPARE(began.first().first().toString(), u"Asking the printer"_s);
+        QCOMPARE(ended.size(), 0);
+    }
+    QCOMPARE(ended.size(), 1);
+}
+
+QTEST_MAIN(DialogSessionTest)
+#include "dialog_session_test.moc"

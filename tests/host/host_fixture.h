@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/core/dialog_session.h"
+#include "host/core/print_system.h"
+#include "platform/key_value_object.h"
+#include "tests/support/inline_ppd.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+// A PPD with paper, tray and two-sided printing, colour mode and balance, a code of five digits, and
+// constraints between them. Texts differ from keywords, so that a test sees which one is shown.
+QByteArray officePpd();
+std::unique_ptr<host::PpdDocument> openPpd(const QByteArray &body);
+host::Destination officePrinter(const QString &queue = QStringLiteral("office"));
+
+// A panel over some options: pending values, restore and save as the real ones do it, and a code in five
+// digit options.
+class FakePanel : public platform::KeyValueObject, public platform::PrintDialogPanel
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList supportedPPDOptionKeys READ supportedPPDOptionKeys)
+    Q_PROPERTY(QString code READ code WRITE setCode)
+public:
+    FakePanel(const QString &name, const QStringList &keywords, host::DialogSession *session);
+    ~FakePanel() override;
+
+    QStringList supportedPPDOptionKeys() const { return m_keywords; }
+    QString code() { return m_code; }
+    // Raises a range exception for anything shorter than five characters, and cuts anything longer.
+    void setCode(const QString &code);
+
+    QVariant valueForKey(const QString &key) override;
+    void setValueForKey(const QVariant &value, const QString &key) override;
+    QString panelName() override { return m_name; }
+    QString panelKind() override { return QStringLiteral("test.") + m_name.toLower(); }
+    QWidget *panelView() override { return m_view.get(); }
+    QMap<QString, QString> summaryInfo() override;
+    bool shouldHide() override { return true; }
+    void willShow() override { ++shown; }
+    bool restoreValuesAndReturnError(QString *error) override;
+    bool saveValuesAndReturnError(QString *error) override;
+    platform::KeyValueObject *keyValueObject() override { return this; }
+
+    // Runs after each set of an option, as an observing panel would.
+    std::function<void(const QString &key, const QString &choice)> onSet;
+    int restored = 0;
+    int saved = 0;
+    int shown = 0;
+
+private:
+    QString m_name;
+    QStringList m_keywords;
+    host::DialogSession *m_session;
+    QHash<QString, QString> m_values;
+    QString m_code = QStringLiteral("00000");
+    std::unique_ptr<QWidget> m_view;
+};
+
+// A print system without a server.
+class FakePrintSystem : public host::PrintSystem
+{
+public:
+    std::optional<QList<host::Destination>> destinations(host::PrintError *error) override;
+    std::optional<host::Destination> destination(const QString &name, host::PrintError *error) override;
+    std::unique_ptr<host::PpdDocument> ppd(const host::Destination &destination,
+                                           host::PrintError *error) override;
+    std::optional<host::SubmittedJob> submit(const host::JobRequest &request,
+                                             host::PrintError *error) override;
+    host::JobStatus jobStatus(const host::Destination &, int) override { return status; }
+    void setPasswordPrompt(PasswordPrompt) override {}
+
+    QList<host::Destination> printers;
+    QHash<QString, QByteArray> ppds; // by queue; none for a raw one
+    host::PrintError serverError;    // every request fails with it while it is set
+    host::JobStatus status;
+    QList<host::JobRequest> submitted;
+
+private:
+    bool refuses(host::PrintError *error) const;
+};
+
+// The value an option is sent with; nil when it is not sent.
+QString sentValue(const QList<host::JobOption> &options, const QString &name);
