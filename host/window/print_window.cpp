@@ -240,6 +240,12 @@ void PrintWindow::carryOver(const DialogSession &from, DialogSession *to)
     }
 }
 
+void PrintWindow::rebuildPages()
+{
+    dropPages();
+    buildPages();
+}
+
 void PrintWindow::buildPages()
 {
     m_general = new GeneralPage(m_session.get());

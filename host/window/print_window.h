@@ -64,6 +64,8 @@ public:
     // -1 when there is none.
     int pageNamed(const QString &name) const;
     void showPage(int row);
+    // Makes the pages anew from the session, when its panels have changed.
+    void rebuildPages();
 
 public Q_SLOTS:
     void print();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/window_run.h"
+#include "host/window_run.h"
 
 #include "host/batch/batch_run.h"
 #include "host/window/color_scheme.h"

@@ -1,0 +1,327 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/core/destination.h"
+#include "host/window/message_bar.h"
+#include "host/window/mnemonics.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "host/window/result_page.h"
+#include "tests/host/host_fixture.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+// The window over a print system without a server, worked with keys and clicks.
+class PrintWindowTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void printsWithTheGeneralPane();
+    void nonsensicalPagesStopPrinting();
+    void conflictIsExplainedAndResolved();
+    void forbiddenChoiceIsGreyed();
+    void serverAwayKeepsTheSettings();
+    void opensWithoutServer();
+    void otherPrinterTakesTheGeneralChoicesAlong();
+    void remembersThePrinter();
+    void brokenPpdStillPrints();
+    void panelsAreRestoredWhenShown();
+    void escapeCancels();
+    void textsAreNeverMarkup();
+    void mnemonics();
+
+private:
+    PrintWindow &open(const QString &printer = QString());
+    template <typename W>
+    W *find(const QString &name = QString())
+    {
+        return m_window->findChild<W *>(name);
+    }
+    void choose(const QString &keyword, const QString &choice);
+    QPushButton *printButton() const;
+
+    FakePrintSystem m_system;
+    Extensions m_none{{}};
+    QTemporaryFile m_document;
+    std::unique_ptr<PrintWindow> m_window;
+};
+
+void PrintWindowTest::init()
+{
+    QCoreApplication::setOrganizationName(u"kelmar-test"_s);
+    QCoreApplication::setApplicationName(u"print-window-test"_s);
+    QSettings().clear();
+    m_system = FakePrintSystem();
+    Destination office = officePrinter();
+    office.isDefault = true;
+    Destination attic = officePrinter(u"attic"_s);
+    attic.info = u"Attic"_s;
+    m_system.printers = {office, attic, officePrinter(u"raw"_s)};
+    m_system.ppds = {{u"office"_s, officePpd()}, {u"attic"_s, officePpd()}};
+    m_system.status.state = JobStatus::State::Processing;
+    if (!m_document.isOpen()) {
+        QVERIFY(m_document.open());
+        m_document.write("some text\n");
+        m_document.flush();
+    }
+}
+
+void PrintWindowTest::cleanup()
+{
+    m_window.reset();
+}
+
+PrintWindow &PrintWindowTest::open(const QString &printer)
+{
+    PrintTask task;
+    task.files = {m_document.fileName()};
+    task.printer = printer;
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    if (!m_window->open(&error))
+        qFatal("%s", qPrintable(error.message));
+    m_window->show();
+    m_window->loadPrinterList();
+    if (!QTest::qWaitForWindowActive(m_window.get()))
+        qFatal("the window does not appear");
+    return *m_window;
+}
+
+// As a user does it: the keyboard opens no list here, so the box is told and announces it.
+void PrintWindowTest::choose(const QString &keyword, const QString &choice)
+{
+    auto *box = find<QComboBox>(keyword);
+    QVERIFY2(box, qPrintable(keyword));
+    box->setCurrentIndex(box->findData(choice));
+    Q_EMIT box->activated(box->currentIndex());
+}
+
+QPushButton *PrintWindowTest::printButton() const
+{
+    for (auto *button : m_window->findChildren<QPushButton *>()) {
+        if (button->isDefault())
+            return button;
+    }
+    return nullptr;
+}
+
+void PrintWindowTest::printsWithTheGeneralPane()
+{
+    PrintWindow &window = open();
+    auto *copies = find<QSpinBox>();
+    copies->setFocus();
+    copies->selectAll();
+    QTest::keyClicks(copies, u"3"_s);
+    for (auto *radio : window.findChildren<QRadioButton *>()) {
+        if (!radio->isChecked()) {
+            QTest::mouseClick(radio, Qt::LeftButton, {}, {8, radio->height() / 2});
+            break;
+        }
+    }
+    auto *pages = window.findChildren<QLineEdit *>().last();
+    QVERIFY(pages->isEnabled());
+    QTest::keyClicks(pages, u"2-3, 1"_s);
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    QCOMPARE(m_system.submitted.size(), 1);
+    const JobRequest job = m_system.submitted.first();
+    QCOMPARE(sentValue(job.options, u"copies"_s), u"3"_s);
+    QCOMPARE(sentValue(job.options, u"page-ranges"_s), u"1-3"_s);
+    QCOMPARE(sentValue(job.options, u"Duplex"_s), u"DuplexNoTumble"_s);
+    QVERIFY2(find<ResultPage>()->text().contains(u"Job 1: printing"_s),
+             qPrintable(find<ResultPage>()->text()));
+    m_system.status.state = JobStatus::State::Completed;
+    QTRY_VERIFY(find<ResultPage>()->text().contains(u"Job 1: done"_s));
+    QTest::keyClick(&window, Qt::Key_Return);
+    QCOMPARE(window.result(), int(QDialog::Accepted));
+}
+
+void PrintWindowTest::nonsensicalPagesStopPrinting()
+{
+    PrintWindow &window = open();
+    for (auto *radio : window.findChildren<QRadioButton *>())
+        radio->click();
+    QTest::keyClicks(window.findChildren<QLineEdit *>().last(), u"3-1"_s);
+    printButton()->click();
+    QVERIFY(m_system.submitted.isEmpty());
+    QVERIFY(window.findChildren<QLineEdit *>().last()->hasFocus());
+}
+
+void PrintWindowTest::conflictIsExplainedAndResolved()
+{
+    PrintWindow &window = open();
+    // The list greys this pair out; a preset or a command line may still bring it.
+    window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
+    window.session()->markChoice(u"Cyan"_s, u"2"_s);
+    printButton()->click();
+    QVERIFY(m_system.submitted.isEmpty());
+    const QString text = window.messageBar()->text();
+    QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
+                 text.contains(u"Suggestion: Colour Mode: Automatic"_s),
+             qPrintable(text));
+    QCOMPARE(window.messageBar()->buttons().size(), 2);
+    window.messageBar()->buttons().last()->click(); // keep and review
+    QCOMPARE(window.session()->conflicts().size(), 1);
+    printButton()->click();
+    window.messageBar()->buttons().first()->click(); // apply
+    QVERIFY(window.session()->conflicts().isEmpty());
+    QVERIFY(!window.messageBar()->isShowing());
+    printButton()->click();
+    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Cyan"_s), u"2"_s);
+}
+
+void PrintWindowTest::forbiddenChoiceIsGreyed()
+{
+    open();
+    choose(u"MediaType"_s, u"Thick"_s);
+    auto *duplex = find<QComboBox>(u"Duplex"_s);
+    auto *item =
+        qobject_cast<QStandardItemModel *>(duplex->model())->item(duplex->findData(u"DuplexNoTumble"_s));
+    QVERIFY(!item->isEnabled());
+    QCOMPARE(item->toolTip(), u"Not together with Paper Type: Heavy Paper"_s);
+    choose(u"MediaType"_s, u"Plain"_s);
+    QVERIFY(item->isEnabled());
+}
+
+void PrintWindowTest::serverAwayKeepsTheSettings()
+{
+    PrintWindow &window = open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
+    printButton()->click();
+    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
+    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
+    m_system.serverError = {};
+    printButton()->click();
+    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Duplex"_s), u"DuplexNoTumble"_s);
+}
+
+void PrintWindowTest::opensWithoutServer()
+{
+    m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
+    PrintWindow &window = open();
+    QVERIFY(!window.session());
+    QVERIFY(!printButton()->isEnabled());
+    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
+    window.messageBar()->buttons().first()->click(); // try again: still away
+    QVERIFY(window.messageBar()->isShowing());
+    m_system.serverError = {};
+    window.messageBar()->buttons().first()->click();
+    QVERIFY(window.session() && printButton()->isEnabled() && !window.messageBar()->isShowing());
+}
+
+void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
+{
+    PrintWindow &window = open();
+    find<QSpinBox>()->setValue(4);
+    choose(u"PageSize"_s, u"A3"_s);
+    auto *picker = find<PrinterPicker>()->box();
+    QCOMPARE(picker->count(), 3);
+    picker->setCurrentIndex(1);
+    Q_EMIT picker->activated(1);
+    QCOMPARE(window.session()->destination().queue, u"attic"_s);
+    QCOMPARE(find<QSpinBox>()->value(), 4);
+    QCOMPARE(find<QComboBox>(u"PageSize"_s)->currentData().toString(), u"A3"_s);
+    picker->setCurrentIndex(2); // another maker's, without a PPD
+    Q_EMIT picker->activated(2);
+    QVERIFY(!find<QComboBox>(u"PageSize"_s));
+    QCOMPARE(find<PageList>()->count(), 2); // general and summary
+    printButton()->click();
+    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"copies"_s), u"4"_s);
+}
+
+void PrintWindowTest::remembersThePrinter()
+{
+    open(u"attic"_s);
+    printButton()->click();
+    QCOMPARE(open().session()->destination().queue, u"attic"_s);
+    m_system.printers.removeAt(1); // it has been taken away since: back to the default
+    QCOMPARE(open().session()->destination().queue, u"office"_s);
+}
+
+void PrintWindowTest::brokenPpdStillPrints()
+{
+    m_system.ppds.insert(u"office"_s, "no PPD at all\n");
+    PrintWindow &window = open();
+    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Notice);
+    printButton()->click();
+    QCOMPARE(m_system.submitted.size(), 1);
+}
+
+void PrintWindowTest::panelsAreRestoredWhenShown()
+{
+    PrintWindow &window = open();
+    auto first = std::make_unique<FakePanel>(u"Colour"_s, QStringList(u"ColorType"_s), window.session());
+    auto second = std::make_unique<FakePanel>(u"Balance"_s, QStringList(u"Cyan"_s), window.session());
+    FakePanel *colour = first.get(), *balance = second.get();
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(first));
+    panels.push_back(std::move(second));
+    window.session()->adoptPanels(std::move(panels));
+    window.rebuildPages();
+    QCOMPARE(colour->restored, 0);
+    auto *list = find<PageList>();
+    QCOMPARE(list->count(), 5); // general, two panels, more, summary
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(colour->restored + balance->restored, 2);
+    QCOMPARE(balance->shown, 1);
+    QCOMPARE(colour->saved, 1); // left behind
+    window.showPage(window.pageNamed(u"summary"_s));
+    QCOMPARE(balance->saved, 1);
+    const auto labels = window.findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(),
+                        [](QLabel *label) { return label->text() == u"Balance"_s; }));
+}
+
+void PrintWindowTest::escapeCancels()
+{
+    PrintWindow &window = open();
+    QSignalSpy finished(&window, &QDialog::finished);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(window.result(), int(QDialog::Rejected));
+    QVERIFY(m_system.submitted.isEmpty());
+}
+
+void PrintWindowTest::textsAreNeverMarkup()
+{
+    m_system.ppds.insert(u"office"_s, officePpd().replace("Two-Sided", "<3C>b<3E>Two<3C>/b<3E> & more"));
+    PrintWindow &window = open();
+    bool seen = false;
+    for (auto *label : window.findChildren<QLabel *>()) {
+        QVERIFY2(label->textFormat() == Qt::PlainText || !label->text().contains(u'<'),
+                 qPrintable(label->text()));
+        seen |= label->text().contains(u"Two</b"_s) || label->text().contains(u"b>T"_s);
+    }
+    QVERIFY(seen);
+}
+
+void PrintWindowTest::mnemonics()
+{
+    Mnemonics mnemonics;
+    mnemonics.reserve(u"&Printer:"_s);
+    QCOMPARE(mnemonics.assign(u"Paper"_s), u"P&aper"_s);
+    QCOMPARE(mnemonics.assign(u"Pa"_s), u"Pa"_s);
+    QCOMPARE(mnemonics.assign(u"a & b"_s), u"a && &b"_s);
+    QCOMPARE(mnemonics.assign(u"用紙"_s), u"用紙"_s);
+}
+
+QTEST_MAIN(PrintWindowTest)
+#include "print_window_test.moc"
