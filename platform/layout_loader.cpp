@@ -7,12 +7,11 @@
 #include "platform/bundle.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
-#include "platform/layout_strings_p.h"
+#include "platform/layout_translator_p.h"
 #include "platform/logging.h"
 #include "platform/text_field.h"
 #include "platform/value_transformer.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -188,17 +187,11 @@ std::unique_ptr<QWidget> LayoutLoading::build() const
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         fail(file.errorString());
-    QString error;
-    QByteArray form = translatedForm(file.readAll(), m_bundle, &error);
-    if (form.isNull())
-        fail(error);
-    QBuffer buffer(&form);
-    buffer.open(QIODevice::ReadOnly);
     WidgetBuilder &builder = widgetBuilder();
     builder.forgetProblem();
-    builder.setTranslationEnabled(false);
     builder.setWorkingDirectory(QFileInfo(m_path).dir());
-    std::unique_ptr<QWidget> root(builder.load(&buffer));
+    const LayoutTranslator::Scope texts(m_bundle);
+    std::unique_ptr<QWidget> root(builder.load(&file));
     if (!builder.problem().isEmpty())
         fail(builder.problem());
     if (!root)

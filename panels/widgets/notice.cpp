@@ -36,7 +36,6 @@ QVNotice_M880::QVNotice_M880(QWidget *parent)
     row->setSpacing(10);
     row->addWidget(m_icon, 0, Qt::AlignTop);
     row->addWidget(m_text, 1);
-    updateIcon();
     hide();
 }
 
@@ -55,13 +54,21 @@ void QVNotice_M880::setText(const QString &text)
 void QVNotice_M880::setWarning(bool warning)
 {
     m_warning = warning;
-    updateIcon();
+    if (isVisible())
+        updateIcon();
 }
 
 QSize QVNotice_M880::minimumSizeHint() const
 {
     const int width = isVisible() ? this->width() : leastWidth;
     return {leastWidth, heightForWidth(qMax(width, leastWidth))};
+}
+
+// The icon theme is asked for only when there is something to say: the first look into it takes its time.
+void QVNotice_M880::showEvent(QShowEvent *event)
+{
+    updateIcon();
+    QFrame::showEvent(event);
 }
 
 void QVNotice_M880::resizeEvent(QResizeEvent *event)
@@ -73,7 +80,9 @@ void QVNotice_M880::resizeEvent(QResizeEvent *event)
 
 void QVNotice_M880::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange)
+    const bool looksDifferent =
+        event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange;
+    if (looksDifferent && isVisible())
         updateIcon();
     QFrame::changeEvent(event);
 }
