@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/core/message_language.h"
 #include "host/window_run.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 using namespace host;
 
@@ -20,6 +23,28 @@ void choosePlatform(int argc, char **argv)
     const bool chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     if (!chosen && (runsWithoutWindow(argc, argv) || pictureWithoutDisplay))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
+void installTranslations(QApplication *app)
+{
+    for (QString language : dialogLanguages()) {
+        language.replace(QLatin1Char('-'), QLatin1Char('_'));
+        if (language.section(QLatin1Char('_'), 0, 0) == QLatin1String("en"))
+            return;
+        auto *own = new QTranslator(app);
+        if (!own->load(QStringLiteral("kelmar-print_") + language, QStringLiteral(":/i18n"),
+                       QStringLiteral("_"))) {
+            delete own;
+            continue;
+        }
+        auto *qt = new QTranslator(app);
+        if (qt->load(QStringLiteral("qtbase_") + language,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QApplication::installTranslator(qt);
+        QApplication::installTranslator(own);
+        return;
+    }
 }
 
 int run(const Arguments &arguments, QFile *out, QFile *err)
@@ -43,6 +68,7 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
+    installTranslations(&app);
     QFile out, err;
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);

@@ -28,7 +28,6 @@ struct OptionText
 
 QList<OptionText> optionTexts()
 {
-    using T = ArgumentsText;
     const auto names = [](std::initializer_list<const char *> list) {
         QStringList result;
         for (const char *name : list)
@@ -36,32 +35,43 @@ QList<OptionText> optionTexts()
         return result;
     };
     return {
-        {names({"d", "printer"}), T::tr("NAME"), T::tr("Print to this queue or preset (queue/preset).")},
-        {names({"n", "copies"}), T::tr("NUMBER"), T::tr("Number of copies.")},
-        {names({"P", "pages"}), T::tr("LIST"), T::tr("Pages to print, for example 1-3,8.")},
-        {names({"t", "title"}), T::tr("TEXT"), T::tr("Title of the job.")},
-        {names({"h", "server"}), T::tr("HOST"), T::tr("Print server to use, HOST or HOST:PORT.")},
-        {names({"s", "set"}), T::tr("KEY=VALUE"),
-         T::tr("Set an option of the printer, or a key of a panel such as departmentCode.")},
-        {names({"set-file"}), T::tr("KEY=FILE"),
-         T::tr("The same with the value read from a file's first line.")},
-        {names({"o"}), T::tr("NAME=VALUE"),
-         T::tr("The same; names unknown here are handed to the print system.")},
-        {names({"batch"}), {}, T::tr("Print without opening a window.")},
-        {names({"resolve"}), {}, T::tr("Accept the proposal when settings cannot be used together.")},
-        {names({"summary"}), {}, T::tr("Write the summary of the settings.")},
-        {names({"list-options"}), {}, T::tr("Write the options of the printer and their choices.")},
-        {names({"json"}), {}, T::tr("Write results and errors as JSON.")},
-        {names({"ppd"}), T::tr("FILE"), T::tr("Take the options from this PPD file instead of a queue.")},
-        {names({"bundle"}), T::tr("FOLDER"),
-         T::tr("Load the panels of this bundle instead of the installed ones.")},
-        {names({"panel"}), T::tr("NAME"),
-         T::tr("Open the dialog at this pane: general, more, summary, or a panel's name or kind.")},
-        {names({"screenshot"}), T::tr("FILE"), T::tr("Write a picture of the dialog and exit.")},
-        {names({"color-scheme"}), T::tr("NAME"), T::tr("Colours of the dialog: light or dark.")},
-        {names({"startup-time"}), {}, T::tr("Open the dialog, write how long it took and exit.")},
-        {names({"help"}), {}, T::tr("Show this help.")},
-        {names({"version"}), {}, T::tr("Show the version.")},
+        {names({"d", "printer"}), ArgumentsText::tr("NAME"),
+         ArgumentsText::tr("Print to this queue or preset (queue/preset).")},
+        {names({"n", "copies"}), ArgumentsText::tr("NUMBER"), ArgumentsText::tr("Number of copies.")},
+        {names({"P", "pages"}), ArgumentsText::tr("LIST"),
+         ArgumentsText::tr("Pages to print, for example 1-3,8.")},
+        {names({"t", "title"}), ArgumentsText::tr("TEXT"), ArgumentsText::tr("Title of the job.")},
+        {names({"h", "server"}), ArgumentsText::tr("HOST"),
+         ArgumentsText::tr("Print server to use, HOST or HOST:PORT.")},
+        {names({"s", "set"}), ArgumentsText::tr("KEY=VALUE"),
+         ArgumentsText::tr("Set an option of the printer, or a key of a panel such as departmentCode.")},
+        {names({"set-file"}), ArgumentsText::tr("KEY=FILE"),
+         ArgumentsText::tr("The same with the value read from a file's first line.")},
+        {names({"o"}), ArgumentsText::tr("NAME=VALUE"),
+         ArgumentsText::tr("The same; names unknown here are handed to the print system.")},
+        {names({"batch"}), {}, ArgumentsText::tr("Print without opening a window.")},
+        {names({"resolve"}),
+         {},
+         ArgumentsText::tr("Accept the proposal when settings cannot be used together.")},
+        {names({"summary"}), {}, ArgumentsText::tr("Write the summary of the settings.")},
+        {names({"list-options"}),
+         {},
+         ArgumentsText::tr("Write the options of the printer and their choices.")},
+        {names({"json"}), {}, ArgumentsText::tr("Write results and errors as JSON.")},
+        {names({"ppd"}), ArgumentsText::tr("FILE"),
+         ArgumentsText::tr("Take the options from this PPD file instead of a queue.")},
+        {names({"bundle"}), ArgumentsText::tr("FOLDER"),
+         ArgumentsText::tr("Load the panels of this bundle instead of the installed ones.")},
+        {names({"panel"}), ArgumentsText::tr("NAME"),
+         ArgumentsText::tr(
+             "Open the dialog at this pane: general, more, summary, or a panel's name or kind.")},
+        {names({"screenshot"}), ArgumentsText::tr("FILE"),
+         ArgumentsText::tr("Write a picture of the dialog and exit.")},
+        {names({"color-scheme"}), ArgumentsText::tr("NAME"),
+         ArgumentsText::tr("Colors of the dialog: light or dark.")},
+        {names({"startup-time"}), {}, ArgumentsText::tr("Open the dialog, write how long it took and exit.")},
+        {names({"help"}), {}, ArgumentsText::tr("Show this help.")},
+        {names({"version"}), {}, ArgumentsText::tr("Show the version.")},
     };
 }
 
@@ -137,18 +147,17 @@ bool readAssignments(const QCommandLineParser &parser, Arguments *arguments, QSt
 
 QString problemOf(const Arguments &arguments)
 {
-    using T = ArgumentsText;
     if (!arguments.colorScheme.isEmpty() && arguments.colorScheme != QLatin1String("light") &&
         arguments.colorScheme != QLatin1String("dark"))
-        return T::tr("--color-scheme takes light or dark.");
+        return ArgumentsText::tr("--color-scheme takes light or dark.");
     if (arguments.batch && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
-        return T::tr("--batch needs a printer to print to; --ppd alone names none.");
+        return ArgumentsText::tr("--batch needs a printer to print to; --ppd alone names none.");
     if (arguments.batch && !arguments.screenshot.isEmpty())
-        return T::tr("--batch and --screenshot do not go together.");
+        return ArgumentsText::tr("--batch and --screenshot do not go together.");
     if (arguments.resolve && arguments.needsWindow())
-        return T::tr("--resolve goes with --batch or --summary.");
+        return ArgumentsText::tr("--resolve goes with --batch or --summary.");
     if (arguments.json && arguments.needsWindow())
-        return T::tr("--json goes with --batch, --summary or --list-options.");
+        return ArgumentsText::tr("--json goes with --batch, --summary or --list-options.");
     return {};
 }
 
@@ -216,7 +225,7 @@ QString helpText()
     }
     text += ArgumentsText::tr(
         "\nExit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,\n"
-        "4 cancelled. The manual page kelmar-print(1) tells more.\n");
+        "4 canceled. The manual page kelmar-print(1) tells more.\n");
     return text;
 }
 

@@ -100,7 +100,7 @@ QString JobStatus::text() const
     case State::Stopped:
         return JobText::tr("stopped");
     case State::Cancelled:
-        return JobText::tr("cancelled");
+        return JobText::tr("canceled");
     case State::Aborted:
         return JobText::tr("aborted by the print system");
     case State::Completed:

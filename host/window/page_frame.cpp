@@ -39,7 +39,7 @@ PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
     large.setPointSizeF(large.pointSizeF() * 1.35);
     large.setWeight(QFont::DemiBold);
     heading->setFont(large);
-    heading->setContentsMargins(24, 8, 24, 0);
+    heading->setContentsMargins(24, 12, 24, 0);
 
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);

@@ -94,7 +94,7 @@ void PrintWindow::buildHeader(QVBoxLayout *column)
 void PrintWindow::buildBody(QVBoxLayout *column)
 {
     auto *messages = new QVBoxLayout;
-    messages->setContentsMargins(16, 12, 16, 0);
+    messages->setContentsMargins(16, 10, 16, 0);
     messages->addWidget(m_bar);
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
