@@ -584,6 +584,21 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::PageBook</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -621,18 +636,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Es fehlt ein Dokument oder ein Drucker dafür</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Weitere Optionen</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
         <source>Please note</source>
         <translation>Bitte beachten</translation>
     </message>
@@ -651,10 +654,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>These settings cannot be used together</source>
         <translation>Diese Einstellungen passen nicht zusammen</translation>
-    </message>
-    <message>
-        <source>&amp;Try Again</source>
-        <translation>&amp;Erneut versuchen</translation>
     </message>
     <message>
         <source>Standard input</source>
@@ -705,6 +704,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Job %1: %2</source>
         <translation>Auftrag %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnavailablePage</name>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Erneut versuchen</translation>
     </message>
 </context>
 </TS>

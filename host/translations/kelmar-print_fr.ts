@@ -584,6 +584,21 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>host::PageBook</name>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -621,18 +636,6 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Il n’y a pas de document, ou pas d’imprimante pour l’imprimer</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>Général</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>Autres options</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
-    </message>
-    <message>
         <source>Please note</source>
         <translation>À noter</translation>
     </message>
@@ -651,10 +654,6 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>These settings cannot be used together</source>
         <translation>Ces réglages sont incompatibles</translation>
-    </message>
-    <message>
-        <source>&amp;Try Again</source>
-        <translation>&amp;Réessayer</translation>
     </message>
     <message>
         <source>Standard input</source>
@@ -705,6 +704,13 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>Job %1: %2</source>
         <translation>Tâche %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnavailablePage</name>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Réessayer</translation>
     </message>
 </context>
 </TS>

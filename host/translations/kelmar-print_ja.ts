@@ -584,6 +584,21 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::PageBook</name>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定一覧</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -621,18 +636,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷する文書またはプリンターがありません</translation>
     </message>
     <message>
-        <source>General</source>
-        <translation>一般</translation>
-    </message>
-    <message>
-        <source>More Options</source>
-        <translation>その他のオプション</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>設定一覧</translation>
-    </message>
-    <message>
         <source>Please note</source>
         <translation>お知らせ</translation>
     </message>
@@ -651,10 +654,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>These settings cannot be used together</source>
         <translation>次の設定は併用できません</translation>
-    </message>
-    <message>
-        <source>&amp;Try Again</source>
-        <translation>再試行(&amp;T)</translation>
     </message>
     <message>
         <source>Standard input</source>
@@ -705,6 +704,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Job %1: %2</source>
         <translation>ジョブ %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnavailablePage</name>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>再試行(&amp;T)</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace host {
@@ -37,13 +36,12 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_title(plainLabel(this)), m_lines(plainLabel(this)),
-      m_buttonRow(new QHBoxLayout)
+    : QFrame(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(plainLabel(this)),
+      m_lines(plainLabel(this)), m_buttonRow(new QHBoxLayout)
 {
     QFont bold = m_title->font();
     bold.setWeight(QFont::DemiBold);
     m_title->setFont(bold);
-    m_icon->setFixedSize(iconSize, iconSize);
     m_buttonRow->setSpacing(8);
 
     auto *texts = new QVBoxLayout;
@@ -54,7 +52,7 @@ MessageBar::MessageBar(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(14, 10, 12, 10);
     row->setSpacing(12);
-    row->addWidget(m_icon, 0, Qt::AlignTop);
+    row->addWidget(m_glyph, 0, Qt::AlignTop);
     row->addLayout(texts, 1);
     hide();
 }
@@ -68,10 +66,7 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
                              const QStringList &answers)
 {
     m_kind = kind;
-    const auto icon = kind == Kind::Notice  ? QStyle::SP_MessageBoxInformation
-                      : kind == Kind::Error ? QStyle::SP_MessageBoxCritical
-                                            : QStyle::SP_MessageBoxWarning;
-    m_icon->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(iconSize, iconSize));
+    m_glyph->setKind(kind);
     m_title->setText(title);
     m_lines->setText(lines.join(QLatin1Char('\n')));
     m_lines->setVisible(!lines.isEmpty());
@@ -102,25 +97,13 @@ void MessageBar::addButton(const QString &text, int index)
     m_buttons.append(button);
 }
 
-QColor MessageBar::accent() const
-{
-    switch (m_kind) {
-    case Kind::Notice:
-        return palette().color(QPalette::Highlight);
-    case Kind::Question:
-        return QColor(0xe0, 0x9a, 0x1c);
-    case Kind::Error:
-        break;
-    }
-    return QColor(0xd0, 0x3b, 0x3b);
-}
-
 void MessageBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(mixed(accent(), palette().color(QPalette::Window), 0.55));
-    painter.setBrush(mixed(accent(), palette().color(QPalette::Window), 0.14));
+    const QColor accent = StatusGlyph::colorOf(m_kind, palette());
+    painter.setPen(mixed(accent, palette().color(QPalette::Window), 0.55));
+    painter.setBrush(mixed(accent, palette().color(QPalette::Window), 0.14));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/window/status_glyph.h"
+
 #include <QFrame>
 #include <QString>
 #include <QStringList>
@@ -19,7 +21,7 @@ class MessageBar : public QFrame
 {
     Q_OBJECT
 public:
-    enum class Kind { Notice, Question, Error };
+    using Kind = StatusGlyph::Kind;
 
     explicit MessageBar(QWidget *parent = nullptr);
 
@@ -41,10 +43,9 @@ protected:
 
 private:
     void addButton(const QString &text, int index);
-    QColor accent() const;
 
     Kind m_kind = Kind::Notice;
-    QLabel *m_icon;
+    StatusGlyph *m_glyph;
     QLabel *m_title;
     QLabel *m_lines;
     QHBoxLayout *m_buttonRow;

@@ -12,24 +12,18 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 class QTemporaryFile;
-class QVBoxLayout;
 
 namespace host {
 
-class GeneralPage;
 class MessageBar;
-class MorePage;
-class PageFrame;
-class PageList;
+class PageBook;
 class PrinterPicker;
 class ResultPage;
-class SummaryPage;
+class UnavailablePage;
 
 // What the window is opened for. A value.
 struct PrintTask
@@ -60,12 +54,7 @@ public:
     DialogSession *session() const { return m_session.get(); }
     const std::optional<SubmittedJob> &job() const { return m_job; }
     MessageBar *messageBar() const { return m_bar; }
-    // The row of a page by name ("general", "more", "summary", a panel's kind, its last part, or its title);
-    // -1 when there is none.
-    int pageNamed(const QString &name) const;
-    void showPage(int row);
-    // Makes the pages anew from the session, when its panels have changed.
-    void rebuildPages();
+    PageBook *book() const { return m_book; }
 
 public Q_SLOTS:
     void print();
@@ -73,28 +62,17 @@ public Q_SLOTS:
     void retry();
 
 private:
-    struct Page
-    {
-        QString title;
-        QString name;
-        PageFrame *frame;
-        int panel = -1;
-    };
+    enum class State { Unavailable, Choosing, Done };
 
-    void buildHeader(QVBoxLayout *column);
-    void buildBody(QVBoxLayout *column);
-    void buildFooter(QVBoxLayout *column);
+    void build();
+    void connectAll();
+    void showState(State state);
     std::optional<Destination> firstDestination(PrintError *error);
     std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
     std::unique_ptr<DialogSession> sessionFor(const Destination &destination, PrintError *error);
     void adopt(std::unique_ptr<DialogSession> session);
     void carryOver(const DialogSession &from, DialogSession *to);
-    void buildPages();
-    void addPage(const QString &title, const QString &name, QWidget *content, int panel = -1);
-    void dropPages();
     void pickPrinter(const QString &name);
-    bool leaveCurrentPage();
-    void afterChange();
     void sessionChanged();
     void showNotices();
     bool showConflicts();
@@ -110,25 +88,19 @@ private:
     PrintTask m_task;
     std::unique_ptr<DialogSession> m_session;
     std::unique_ptr<QTemporaryFile> m_spool;
-    std::vector<Page> m_pages;
-    int m_currentPage = -1;
     bool m_askingConflict = false;
     QList<JobOption> m_passedOn;
     std::optional<Resolution> m_proposal;
     std::optional<SubmittedJob> m_job;
 
     PrinterPicker *m_picker;
-    PageList *m_list;
     MessageBar *m_bar;
-    QStackedWidget *m_stack;
-    QWidget *m_body;
+    PageBook *m_book;
+    UnavailablePage *m_unavailable;
     ResultPage *m_result;
     QLabel *m_status;
     QPushButton *m_cancel;
     QPushButton *m_print;
-    GeneralPage *m_general = nullptr;
-    MorePage *m_more = nullptr;
-    SummaryPage *m_summary = nullptr;
     int m_busyDepth = 0;
 };
 

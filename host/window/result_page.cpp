@@ -3,8 +3,9 @@
 
 #include "host/window/result_page.h"
 
+#include "host/window/status_glyph.h"
+
 #include <QLabel>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -28,8 +29,7 @@ QLabel *centredLabel(QWidget *parent)
 } // namespace
 
 ResultPage::ResultPage(QWidget *parent)
-    : QWidget(parent), m_icon(centredLabel(this)), m_title(centredLabel(this)), m_state(centredLabel(this)),
-      m_notes(centredLabel(this))
+    : QWidget(parent), m_title(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
@@ -39,7 +39,10 @@ ResultPage::ResultPage(QWidget *parent)
     column->setContentsMargins(40, 24, 40, 24);
     column->setSpacing(10);
     column->addStretch(2);
-    for (QLabel *label : {m_icon, m_title, m_state, m_notes})
+    auto *glyph = new StatusGlyph(iconSize, this);
+    glyph->setKind(StatusGlyph::Kind::Success);
+    column->addWidget(glyph, 0, Qt::AlignHCenter);
+    for (QLabel *label : {m_title, m_state, m_notes})
         column->addWidget(label);
     column->addStretch(3);
     m_timer.setInterval(between);
@@ -50,8 +53,6 @@ void ResultPage::showJob(const QString &printer, const SubmittedJob &job, Status
 {
     m_query = std::move(query);
     m_id = job.id;
-    m_icon->setPixmap(
-        style()->standardIcon(QStyle::SP_DialogApplyButton, nullptr, this).pixmap(iconSize, iconSize));
     m_title->setText(tr("Sent to “%1”").arg(printer));
     m_notes->setText(job.differences.join(QLatin1Char('\n')));
     m_notes->setVisible(!job.differences.isEmpty());

@@ -29,7 +29,6 @@ public:
 private:
     void showStatus(const JobStatus &status);
 
-    QLabel *m_icon;
     QLabel *m_title;
     QLabel *m_state;
     QLabel *m_notes;

@@ -4,10 +4,12 @@
 #include "host/core/destination.h"
 #include "host/window/message_bar.h"
 #include "host/window/mnemonics.h"
+#include "host/window/page_book.h"
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
+#include "host/window/unavailable_page.h"
 #include "tests/host/host_fixture.h"
 
 #include <QComboBox>
@@ -218,12 +220,15 @@ void PrintWindowTest::opensWithoutServer()
     PrintWindow &window = open();
     QVERIFY(!window.session());
     QVERIFY(!printButton()->isEnabled());
-    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
-    window.messageBar()->buttons().first()->click(); // try again: still away
-    QVERIFY(window.messageBar()->isShowing());
+    auto *page = find<UnavailablePage>();
+    QVERIFY(page->isVisible());
+    QCOMPARE(page->reason(), u"the server is away"_s);
+    QTest::mouseClick(page->retryButton(), Qt::LeftButton); // still away
+    QVERIFY(page->isVisible());
     m_system.serverError = {};
-    window.messageBar()->buttons().first()->click();
-    QVERIFY(window.session() && printButton()->isEnabled() && !window.messageBar()->isShowing());
+    QTest::mouseClick(page->retryButton(), Qt::LeftButton);
+    QVERIFY(window.session() && printButton()->isEnabled() && !page->isVisible());
+    QCOMPARE(find<PrinterPicker>()->box()->count(), 3);
 }
 
 void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
@@ -274,7 +279,8 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     panels.push_back(std::move(first));
     panels.push_back(std::move(second));
     window.session()->adoptPanels(std::move(panels));
-    window.rebuildPages();
+    window.book()->setSession(window.session());
+    window.book()->showPage(0);
     QCOMPARE(colour->restored, 0);
     auto *list = find<PageList>();
     QCOMPARE(list->count(), 5); // general, two panels, more, summary
@@ -283,7 +289,7 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     QCOMPARE(colour->restored + balance->restored, 2);
     QCOMPARE(balance->shown, 1);
     QCOMPARE(colour->saved, 1); // left behind
-    window.showPage(window.pageNamed(u"summary"_s));
+    window.book()->showPage(window.book()->pageNamed(u"summary"_s));
     QCOMPARE(balance->saved, 1);
     const auto labels = window.findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(),

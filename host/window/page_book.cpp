@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/page_book.h"
+
+#include "host/core/dialog_session.h"
+#include "host/window/general_page.h"
+#include "host/window/more_page.h"
+#include "host/window/page_frame.h"
+#include "host/window/page_list.h"
+#include "host/window/separator.h"
+#include "host/window/summary_page.h"
+
+#include <QHBoxLayout>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString generalName = QStringLiteral("general");
+const QString moreName = QStringLiteral("more");
+const QString summaryName = QStringLiteral("summary");
+
+} // namespace
+
+PageBook::PageBook(QWidget *above, QWidget *parent)
+    : QWidget(parent), m_list(new PageList(this)), m_stack(new QStackedWidget(this))
+{
+    auto *messages = new QVBoxLayout;
+    messages->setContentsMargins(16, 10, 16, 0);
+    messages->addWidget(above);
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addLayout(messages);
+    right->addWidget(m_stack, 1);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_list);
+    row->addWidget(new Separator(Qt::Vertical, this));
+    row->addLayout(right, 1);
+    connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
+}
+
+PageBook::~PageBook()
+{
+    clear(); // panels own their views
+}
+
+void PageBook::setSession(DialogSession *session)
+{
+    clear();
+    m_session = session;
+    m_general = new GeneralPage(session);
+    addPage(tr("General"), generalName, m_general);
+    connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+    for (int i = 0; i < session->panelCount(); ++i) {
+        if (QWidget *view = session->panel(i)->panelView())
+            addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), view, i);
+    }
+    if (!session->otherKeywords().isEmpty()) {
+        m_more = new MorePage(session);
+        addPage(tr("More Options"), moreName, m_more);
+        connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
+    }
+    m_summary = new SummaryPage;
+    addPage(tr("Summary"), summaryName, m_summary);
+}
+
+void PageBook::addPage(const QString &title, const QString &name, QWidget *content, int panel)
+{
+    auto *frame = new PageFrame(title, content, m_stack);
+    m_pages.push_back({title, name, frame, panel});
+    m_stack->addWidget(frame);
+    const QSignalBlocker quiet(m_list); // a page is shown when somebody asks for it
+    m_list->addPage(title);
+}
+
+void PageBook::clear()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const Page &page : m_pages) {
+        if (page.panel >= 0)
+            page.frame->releaseContent();
+        delete page.frame;
+    }
+    m_pages.clear();
+    m_session = nullptr;
+    m_current = -1;
+    m_general = nullptr;
+    m_more = nullptr;
+    m_summary = nullptr;
+}
+
+int PageBook::pageNamed(const QString &name) const
+{
+    // "Color Settings 1" finds "com.kelmar.pde.color-settings-1" in every language.
+    const QString kind = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    const auto page = std::find_if(m_pages.begin(), m_pages.end(), [&](const Page &p) {
+        return p.name == kind || p.name.endsWith(QLatin1Char('.') + kind) ||
+               p.title.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return page == m_pages.end() ? -1 : static_cast<int>(page - m_pages.begin());
+}
+
+void PageBook::showPage(int row)
+{
+    if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
+        return;
+    const bool allowed = leave();
+    const Page &page = m_pages[static_cast<size_t>(row)];
+    if (allowed && page.panel >= 0) {
+        m_session->restoreUpTo(page.panel);
+        m_session->panel(page.panel)->willShow();
+    }
+    if (allowed) {
+        m_current = row;
+        m_stack->setCurrentWidget(page.frame);
+    }
+    const QSignalBlocker quiet(m_list);
+    m_list->setCurrentRow(m_current);
+    refresh();
+    if (allowed)
+        Q_EMIT shown();
+}
+
+bool PageBook::leave()
+{
+    if (m_current < 0)
+        return true;
+    const int panel = m_pages[static_cast<size_t>(m_current)].panel;
+    if (panel >= 0 && !m_session->panel(panel)->shouldHide())
+        return false;
+    m_session->save();
+    Q_EMIT left();
+    return true;
+}
+
+void PageBook::refresh()
+{
+    if (m_general)
+        m_general->refresh();
+    if (m_more)
+        m_more->refresh();
+    if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
+        m_summary->show(m_session->summary());
+}
+
+void PageBook::turn(int steps)
+{
+    if (!m_pages.empty())
+        showPage(std::clamp(m_current + steps, 0, static_cast<int>(m_pages.size()) - 1));
+}
+
+bool PageBook::checkGeneral()
+{
+    if (!m_general || m_general->problem().isEmpty())
+        return true;
+    showPage(pageNamed(generalName));
+    m_general->showProblem();
+    return false;
+}
+
+} // namespace host

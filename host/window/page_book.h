@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class QStackedWidget;
+
+namespace host {
+
+class DialogSession;
+class GeneralPage;
+class MorePage;
+class PageFrame;
+class PageList;
+class SummaryPage;
+
+// The pages of a session and the list to choose one from: the general pane, the panels, the other options,
+// the summary. Restores a panel before it is first shown, and saves when a page is left. The session is
+// borrowed; the pages go, and part from the panels' views, before it.
+class PageBook : public QWidget
+{
+    Q_OBJECT
+public:
+    // `above` is shown over the current page.
+    PageBook(QWidget *above, QWidget *parent);
+    ~PageBook() override;
+
+    void setSession(DialogSession *session);
+    void clear();
+
+    // The row of a page by name: "general", "more", "summary", a panel's kind, its last part, or its title;
+    // -1 when there is none.
+    int pageNamed(const QString &name) const;
+    int currentRow() const { return m_current; }
+    // Stays where it is when the current page must not be left.
+    void showPage(int row);
+    // Brings every page to what the session holds now.
+    void refresh();
+    // Moves `steps` pages on, as far as there are any.
+    void turn(int steps);
+
+    // Whether what is typed on the general page makes sense; shows the place where it does not.
+    bool checkGeneral();
+
+Q_SIGNALS:
+    // A page has been left, and its settings saved.
+    void left();
+    // A page is shown.
+    void shown();
+    // The user chose something that is marked at once.
+    void chosen();
+
+private:
+    struct Page
+    {
+        QString title;
+        QString name;
+        PageFrame *frame;
+        int panel = -1;
+    };
+    void addPage(const QString &title, const QString &name, QWidget *content, int panel = -1);
+    bool leave();
+
+    DialogSession *m_session = nullptr;
+    std::vector<Page> m_pages;
+    int m_current = -1;
+    PageList *m_list;
+    QStackedWidget *m_stack;
+    GeneralPage *m_general = nullptr;
+    MorePage *m_more = nullptr;
+    SummaryPage *m_summary = nullptr;
+};
+
+} // namespace host
