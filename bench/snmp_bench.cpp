@@ -151,7 +151,7 @@ int main()
     const QString whyNot = enterPrivateNetwork();
     if (!whyNot.isNull()) {
         std::printf("not measured: %s\n", qPrintable(whyNot));
-        return 0;
+        return 1;
     }
     const UdpResponder device(address, [](const SnmpReply &reply) -> SnmpReplies {
         return {reply.withString("CMYK destination profile 01")};

@@ -46,7 +46,7 @@ QVariant valueOfVariable(const netsnmp_variable_list &variable, quint32 charSet,
     switch (variable.type) {
     case ASN_BOOLEAN:
         // True by being there.
-        return variable.val.string == nullptr ? QVariant() : QVariant(true);
+        return QVariant(variable.val.string != nullptr);
     case ASN_INTEGER:
     case SNMP_NOSUCHOBJECT:
         return integerOf(variable);

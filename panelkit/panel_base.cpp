@@ -107,8 +107,11 @@ void QVPDE_M880::loadChoiceLists()
 
 void QVPDE_M880::loadInterface(const QString &nibName)
 {
-    if (nibName.isEmpty() || !m_manager->bundle())
+    if (nibName.isEmpty())
         return;
+    if (!m_manager->bundle())
+        throw platform::Exception(platform::Exception::layoutName,
+                                  QStringLiteral("There is no bundle to load \"%1\" from").arg(nibName));
     m_topLevelNibObjects = platform::loadLayout(*m_manager->bundle(), nibName, this);
     QVDetachSliderBindingsInPDE(this, &m_updaterInfo);
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());

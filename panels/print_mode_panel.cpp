@@ -142,7 +142,8 @@ QString QVPDEPrintMode_M880::summaryForKey(const QString &key)
         return QStringLiteral("%1 (%2)").arg(marked->text, composeCodeForOption(departmentDigit));
     }
     // A model without password options has no password to show, even if its PPD lets one print privately.
-    if (marked && key == printModeKey && isPrivate() && hasPrintMode())
+    if (marked && key == printModeKey && isPrivate() &&
+        supportedPPDOptionKeys().contains(passwordDigit + u'1'))
         return QStringLiteral("%1 (%2)").arg(marked->text, composeCodeForOption(passwordDigit));
     return QVPDE_M880::summaryForKey(key);
 }
