@@ -226,18 +226,19 @@ bool PpdDocument::mark(const QString &keyword, const QString &choice)
 void PpdDocument::markOptions(const QMap<QString, QString> &options)
 {
     CupsOptionList list;
-    for (auto it = options.begin(); it != options.end(); ++it)
-        list.add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
+    for (auto it = options.begin(); it != options.end(); ++it) {
+        if (takesOption(it.key()))
+            list.add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
+    }
     cupsMarkOptions(m_ppd, list.count(), list.options());
 }
 
 bool PpdDocument::takesOption(const QString &name) const
 {
-    static const QSet<QString> standardNames = {
-        QStringLiteral("media"),         QStringLiteral("sides"),
-        QStringLiteral("output-bin"),    QStringLiteral("print-color-mode"),
-        QStringLiteral("print-quality"), QStringLiteral("printer-resolution"),
-        QStringLiteral("resolution")};
+    // Color mode and quality are left to the print system: a choice of the user here must not be overruled by them.
+    static const QSet<QString> standardNames = {QStringLiteral("media"), QStringLiteral("sides"),
+                                                QStringLiteral("output-bin"), QStringLiteral("printer-resolution"),
+                                                QStringLiteral("resolution")};
     return standardNames.contains(name) || hasOption(name);
 }
 
