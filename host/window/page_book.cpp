@@ -55,29 +55,46 @@ void PageBook::setSession(DialogSession *session)
 {
     clear();
     m_session = session;
-    m_general = new GeneralPage(session);
-    addPage(tr("General"), generalName, m_general);
-    connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+    addPage(tr("General"), generalName);
     for (int i = 0; i < session->panelCount(); ++i) {
-        if (QWidget *view = session->panel(i)->panelView())
-            addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), view, i);
+        if (session->panel(i)->panelView())
+            addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
     }
-    if (!session->otherKeywords().isEmpty()) {
-        m_more = new MorePage(session);
-        addPage(tr("More Options"), moreName, m_more);
-        connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
-    }
-    m_summary = new SummaryPage;
-    addPage(tr("Summary"), summaryName, m_summary);
+    if (!session->otherKeywords().isEmpty())
+        addPage(tr("More Options"), moreName);
+    addPage(tr("Summary"), summaryName);
 }
 
-void PageBook::addPage(const QString &title, const QString &name, QWidget *content, int panel)
+void PageBook::addPage(const QString &title, const QString &name, int panel)
 {
-    auto *frame = new PageFrame(title, content, m_stack);
-    m_pages.push_back({title, name, frame, panel});
-    m_stack->addWidget(frame);
+    m_pages.push_back({title, name, panel, nullptr});
     const QSignalBlocker quiet(m_list); // a page is shown when somebody asks for it
     m_list->addPage(title);
+}
+
+void PageBook::makeFrame(Page *page)
+{
+    page->frame = new PageFrame(page->title, contentOf(*page), m_stack);
+    m_stack->addWidget(page->frame);
+}
+
+QWidget *PageBook::contentOf(const Page &page)
+{
+    if (page.panel >= 0)
+        return m_session->panel(page.panel)->panelView();
+    if (page.name == generalName) {
+        m_general = new GeneralPage(m_session);
+        connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+        return m_general;
+    }
+    if (page.name == moreName) {
+        m_more = new MorePage(m_session);
+        connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
+        return m_more;
+    }
+    m_summary = new SummaryPage;
+    m_summary->show(m_session->summary());
+    return m_summary;
 }
 
 void PageBook::clear()
@@ -85,7 +102,7 @@ void PageBook::clear()
     const QSignalBlocker quiet(m_list);
     m_list->clear();
     for (const Page &page : m_pages) {
-        if (page.panel >= 0)
+        if (page.panel >= 0 && page.frame)
             page.frame->releaseContent();
         delete page.frame;
     }
@@ -113,18 +130,21 @@ void PageBook::showPage(int row)
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
         return;
     const bool allowed = leave();
-    const Page &page = m_pages[static_cast<size_t>(row)];
-    if (allowed && page.panel >= 0) {
-        m_session->restoreUpTo(page.panel);
-        m_session->panel(page.panel)->willShow();
-    }
     if (allowed) {
+        Page &page = m_pages[static_cast<size_t>(row)];
+        if (page.panel >= 0) {
+            m_session->restoreUpTo(page.panel);
+            m_session->panel(page.panel)->willShow();
+        }
         m_current = row;
+        if (page.frame)
+            refresh();
+        else
+            makeFrame(&page);
         m_stack->setCurrentWidget(page.frame);
     }
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentRow(m_current);
-    refresh();
     if (allowed)
         Q_EMIT shown();
 }

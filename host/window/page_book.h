@@ -59,10 +59,12 @@ private:
     {
         QString title;
         QString name;
-        PageFrame *frame;
         int panel = -1;
+        PageFrame *frame = nullptr; // made when the page is first shown
     };
-    void addPage(const QString &title, const QString &name, QWidget *content, int panel = -1);
+    void addPage(const QString &title, const QString &name, int panel = -1);
+    void makeFrame(Page *page);
+    QWidget *contentOf(const Page &page);
     bool leave();
 
     DialogSession *m_session = nullptr;
