@@ -9,7 +9,6 @@
 #include "host/window/startup_clock.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QPixmap>
@@ -45,14 +44,6 @@ std::optional<QString> askForPassword(QWidget *parent, const QString &prompt)
     const QString password = QInputDialog::getText(parent, RunText::tr("Password"), prompt,
                                                    QLineEdit::Password, QString(), &accepted);
     return accepted ? std::optional(password) : std::nullopt;
-}
-
-// What can wait until the user sees the window.
-void finishLater(PrintWindow *window)
-{
-    window->loadPrinterList();
-    QApplication::setWindowIcon(
-        QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
 }
 
 int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
@@ -96,7 +87,6 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         err->write("kelmar-print: " + error.message.toUtf8() + '\n');
         return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
     }
-    int code = ExitSuccess;
     FirstPaint firstPaint(&window);
     QObject::connect(&firstPaint, &FirstPaint::done, &window, [&] {
         if (arguments.startupTime) {
@@ -104,17 +94,19 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
             QApplication::exit(ExitSuccess);
             return;
         }
-        finishLater(&window);
-        if (!arguments.screenshot.isEmpty()) {
-            code = takePicture(&window, arguments.screenshot, err);
-            QApplication::exit(code);
-        }
+        window.finishLater();
+        if (arguments.screenshot.isEmpty())
+            return;
+        // A panel may be moving still.
+        QObject::connect(new Settled(&window), &Settled::done, &window,
+                         [&] { QApplication::exit(takePicture(&window, arguments.screenshot, err)); });
     });
     QObject::connect(&window, &QDialog::finished, qApp, [&](int result) {
         QApplication::exit(result == QDialog::Accepted ? ExitSuccess : ExitCancelled);
     });
     window.show();
-    code = QApplication::exec();
+    window.update(); // it may have been shown, and painted, while a panel was waiting
+    const int code = QApplication::exec();
     tellResult(window, out);
     system.setPasswordPrompt({});
     return code;

@@ -271,3 +271,9 @@ void QVPDEColorSettings1_M880::willShow()
     if (m_advancedColorSettingsManager)
         m_advancedColorSettingsManager->willShow();
 }
+
+QString QVPDEColorSettings1_M880::unavailableReason()
+{
+    const bool failed = m_advancedColorSettingsManager && !m_advancedColorSettingsManager->snmpEnabled();
+    return failed ? m_advancedColorSettingsManager->snmpUnavailableReason() : QString();
+}

@@ -68,6 +68,8 @@ public:
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     void willShow() override;
+    // The device's, when it could not be asked.
+    QString unavailableReason() override;
 
 private:
     void makeAdvancedColorSettings();

@@ -84,6 +84,9 @@ public:
     // False with a message in `error` (which may be null) when the panel could not do it.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     virtual bool saveValuesAndReturnError(QString *error) = 0;
+    // Why some of what the panel offers cannot be used, in localised words; nil when all of it can. Known
+    // after a restore. What cannot be used does not reach the job.
+    virtual QString unavailableReason() { return {}; }
     // The object that answers the panel's keys; never null, owned by the panel.
     virtual KeyValueObject *keyValueObject() = 0;
 };

@@ -9,6 +9,7 @@
 #include "platform/logging.h"
 
 #include <QLocale>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <utility>
@@ -87,7 +88,7 @@ void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
 {
     for (auto &panel : panels) {
         QStringList keywords = keywordsOf(panel.get());
-        m_panels.push_back({std::move(panel), std::move(keywords), {}, false});
+        m_panels.push_back({std::move(panel), std::move(keywords), {}});
     }
     for (size_t i = 0; i < m_panels.size(); ++i)
         watch(i);
@@ -99,7 +100,7 @@ void DialogSession::watch(size_t index)
     connect(m_panels[index].panel->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
             [this, index](const QString &key) {
                 Panel &panel = m_panels[index];
-                if (!panel.restored)
+                if (!panel.restored && m_announcing != &panel)
                     panel.touched.insert(key);
             });
 }
@@ -113,12 +114,30 @@ int DialogSession::panelOfKeyword(const QString &keyword) const
     return -1;
 }
 
-void DialogSession::restoreUpTo(int index)
+void DialogSession::prepare(int index)
 {
-    for (size_t i = 0; i < m_panels.size() && static_cast<int>(i) <= index; ++i) {
-        if (!m_panels[i].restored)
-            restore(m_panels[i]);
+    const auto wanted = static_cast<size_t>(index);
+    if (m_panels.at(wanted).restored)
+        return;
+    for (size_t i = 0; i < wanted; ++i) {
+        if (!m_panels[i].followsChoices())
+            announceChoices(m_panels[i]);
         settle();
+    }
+    restore(m_panels[wanted]);
+    settle();
+}
+
+// Sets what is marked in the PPD, which is what a restore would read, so that the panels that listen to it
+// know.
+void DialogSession::announceChoices(Panel &panel)
+{
+    panel.announced = true;
+    const QScopedValueRollback<const Panel *> announcing(m_announcing, &panel);
+    for (const QString &keyword : std::as_const(panel.keywords)) {
+        const QString choice = m_ppd->markedChoice(keyword);
+        if (!choice.isEmpty())
+            setOnPanel(panel, keyword, choice);
     }
 }
 
@@ -188,15 +207,19 @@ bool DialogSession::markChoice(const QString &keyword, const QString &choice)
 
 void DialogSession::setOnPanels(const QString &keyword, const QString &choice)
 {
-    const Busy busy(&m_busy);
     for (const Panel &panel : m_panels) {
-        if (!panel.restored || !panel.keywords.contains(keyword))
-            continue;
-        try {
-            panel.panel->keyValueObject()->setValueForKey(choice, keyword);
-        } catch (const platform::Exception &exception) {
-            qCWarning(lcHost).noquote() << exception.description();
-        }
+        if (panel.followsChoices() && panel.keywords.contains(keyword))
+            setOnPanel(panel, keyword, choice);
+    }
+}
+
+void DialogSession::setOnPanel(const Panel &panel, const QString &keyword, const QString &choice)
+{
+    const Busy busy(&m_busy);
+    try {
+        panel.panel->keyValueObject()->setValueForKey(choice, keyword);
+    } catch (const platform::Exception &exception) {
+        qCWarning(lcHost).noquote() << exception.description();
     }
 }
 

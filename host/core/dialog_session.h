@@ -30,8 +30,8 @@ struct SummarySection
 };
 
 // One dialog for one printer: its PPD, the job's settings and the plug-in's panels, and their host. Works
-// without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown,
-// together with those before it; only restored panels are saved. Owns everything it hands out.
+// without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown;
+// only restored panels are saved. Owns everything it hands out.
 class DialogSession : public QObject,
                       public platform::PrintDialogHost,
                       public platform::ConstraintResolvingHost,
@@ -61,8 +61,10 @@ public:
     bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
     // The panel that handles a PPD option, or -1.
     int panelOfKeyword(const QString &keyword) const;
-    // Makes a panel ready to be shown or set; restores it and those before it unless that has been done.
-    void restoreUpTo(int index);
+    // Makes a panel ready to be shown or set: those before it announce how their options stand, in order, and
+    // it is restored, unless that has been done. The others are not restored for it, since a panel may ask a
+    // device that is switched off.
+    void prepare(int index);
     // Saves every restored panel.
     void save();
     // Options of the PPD that neither the general pane nor a panel shows, without those for installed units.
@@ -103,14 +105,19 @@ private:
     {
         std::unique_ptr<platform::PrintDialogPanel> panel;
         QStringList keywords;
-        QSet<QString> touched; // set by the panel's own code before it was restored
+        QSet<QString> touched;  // set by the panel's own code before it was restored
+        bool announced = false; // shows its options' choices, without having been restored
         bool restored = false;
+
+        bool followsChoices() const { return announced || restored; }
     };
 
     void watch(size_t index);
+    void announceChoices(Panel &panel);
     void restore(Panel &panel);
     void savePanel(size_t index);
     void setOnPanels(const QString &keyword, const QString &choice);
+    void setOnPanel(const Panel &panel, const QString &keyword, const QString &choice);
     QVariant currentValue(const QString &keyword) const;
     void putBack(const QString &keyword, const QVariant &value);
     // Works through the changes that panels have announced, once their calls have returned.
@@ -132,7 +139,8 @@ private:
     int m_saving = -1;
     int m_busy = 0; // calls of this object into panels that are under way
     bool m_settleQueued = false;
-    std::vector<Panel> m_panels; // go first
+    const Panel *m_announcing = nullptr; // is being told what is so, not what to change
+    std::vector<Panel> m_panels;         // go first
 };
 
 } // namespace host

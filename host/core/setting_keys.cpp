@@ -216,7 +216,7 @@ bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintE
 
 bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error)
 {
-    m_session->restoreUpTo(panel);
+    m_session->prepare(panel);
     platform::KeyValueObject *object = m_session->panel(panel)->keyValueObject();
     QString problem;
     try {
@@ -232,6 +232,9 @@ bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &v
         return false;
     }
     m_session->save();
+    const QString reason = m_session->panel(panel)->unavailableReason();
+    if (keyPath.contains(QLatin1Char('.')) && !reason.isNull())
+        m_session->addNotice(SettingText::tr("%1 is not sent with the job: %2").arg(keyPath, reason));
     return true;
 }
 

@@ -130,23 +130,23 @@ void PageBook::showPage(int row)
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
         return;
     const bool allowed = leave();
-    if (allowed) {
-        Page &page = m_pages[static_cast<size_t>(row)];
-        if (page.panel >= 0) {
-            m_session->restoreUpTo(page.panel);
-            m_session->panel(page.panel)->willShow();
-        }
-        m_current = row;
-        if (page.frame)
-            refresh();
-        else
-            makeFrame(&page);
-        m_stack->setCurrentWidget(page.frame);
-    }
     const QSignalBlocker quiet(m_list);
-    m_list->setCurrentRow(m_current);
-    if (allowed)
-        Q_EMIT shown();
+    m_list->setCurrentRow(allowed ? row : m_current); // before a panel that may make the user wait
+    if (!allowed)
+        return;
+    Page &page = m_pages[static_cast<size_t>(row)];
+    const bool isBuilt = page.frame;
+    if (!isBuilt)
+        makeFrame(&page);
+    if (page.panel >= 0) {
+        m_session->prepare(page.panel);
+        m_session->panel(page.panel)->willShow();
+    }
+    m_current = row;
+    if (isBuilt)
+        refresh();
+    m_stack->setCurrentWidget(page.frame);
+    Q_EMIT shown();
 }
 
 bool PageBook::leave()

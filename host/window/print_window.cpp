@@ -8,16 +8,20 @@
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/separator.h"
+#include "host/window/startup_clock.h"
 #include "host/window/unavailable_page.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTemporaryFile>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace host {
@@ -118,8 +122,6 @@ bool PrintWindow::open(PrintError *error)
         showError(problem);
         return true;
     }
-    if (m_task.prepare && !m_task.prepare(session.get(), error))
-        return false;
     adopt(std::move(session));
     const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
     if (row < 0) {
@@ -127,6 +129,11 @@ bool PrintWindow::open(PrintError *error)
         return false;
     }
     m_book->showPage(row);
+    // On the shown page, so that panels answer the settings as they answer the user's.
+    if (m_task.prepare && !m_task.prepare(m_session.get(), error))
+        return false;
+    m_book->refresh();
+    showNotices();
     showConflicts();
     return true;
 }
@@ -298,6 +305,13 @@ void PrintWindow::loadPrinterList()
         m_picker->setPrinters(*printers);
 }
 
+void PrintWindow::finishLater()
+{
+    loadPrinterList();
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
+}
+
 void PrintWindow::retry()
 {
     PrintError error;
@@ -322,9 +336,21 @@ void PrintWindow::showBusy(const QString &what)
     if (++m_busyDepth == 1)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     m_status->setText(what);
-    if (!isVisible())
-        show();
-    repaint(); // the next thing blocks
+    if (isVisible())
+        repaint(); // the next thing blocks
+    else
+        showPainted();
+}
+
+// Shows the window and returns when it can be seen, or when the screen takes too long about it.
+void PrintWindow::showPainted()
+{
+    QEventLoop untilPainted;
+    FirstPaint painted(this);
+    connect(&painted, &FirstPaint::done, &untilPainted, &QEventLoop::quit);
+    QTimer::singleShot(std::chrono::seconds(1), &untilPainted, &QEventLoop::quit);
+    show();
+    untilPainted.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void PrintWindow::showIdle()

@@ -33,7 +33,7 @@ struct PrintTask
     QString printer;   // destination name; empty for the one used last, else the default
     QString ppdFile;   // shows the options of this PPD instead of the queue's
     QString firstPage; // name of the page to open at; empty for the first
-    // Runs once on the first session, before anything is shown: settings of the command line.
+    // Runs once on the first session, with its first page in place: settings of the command line.
     std::function<bool(DialogSession *, PrintError *)> prepare;
 };
 
@@ -59,6 +59,8 @@ public:
 public Q_SLOTS:
     void print();
     void loadPrinterList();
+    // Does what can wait until the user sees the window.
+    void finishLater();
     void retry();
 
 private:
@@ -79,6 +81,7 @@ private:
     void answer(int index);
     void showError(const PrintError &error);
     void showBusy(const QString &what);
+    void showPainted();
     void showIdle();
     bool openDocuments(QList<Document> *documents, PrintError *error);
     void showResult();

@@ -3,6 +3,7 @@
 
 #include "host/window/startup_clock.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
 #include <QWidget>
@@ -67,6 +68,23 @@ bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
         // The paint itself comes after this filter; the queued call after the window has been flushed.
         QMetaObject::invokeMethod(this, &FirstPaint::done, Qt::QueuedConnection);
     }
+    return QObject::eventFilter(watched, event);
+}
+
+Settled::Settled(QWidget *window) : QObject(window)
+{
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(std::chrono::milliseconds(200)); // shorter than a text cursor blinks
+    connect(&m_quiet, &QTimer::timeout, this, &Settled::done);
+    connect(&m_quiet, &QTimer::timeout, this, &QObject::deleteLater);
+    QCoreApplication::instance()->installEventFilter(this);
+    m_quiet.start();
+}
+
+bool Settled::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint && m_quiet.isActive())
+        m_quiet.start();
     return QObject::eventFilter(watched, event);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 class QWidget;
 
@@ -25,6 +26,23 @@ protected:
 
 private:
     bool m_seen = false;
+};
+
+// Tells when nothing has been painted in a window for a moment: its animations are over. Deletes itself then.
+class Settled : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Settled(QWidget *window);
+
+Q_SIGNALS:
+    void done();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QTimer m_quiet;
 };
 
 // "process start to first paint" in milliseconds and the memory in use, one tab-separated line each, as of

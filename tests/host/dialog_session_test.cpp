@@ -17,7 +17,8 @@ class DialogSessionTest : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void init();
-    void panelsAreRestoredOnceAndInOrder();
+    void panelsAreRestoredOnceWhenAsked();
+    void panelsBeforeAnnounceWithoutBeingRestored();
     void panelsNeverShownKeepTheirSettings();
     void resetByAnotherPanelIsToldAndSent();
     void resetReachesAPanelThatWasRestored();
@@ -63,15 +64,15 @@ void DialogSessionTest::makeSession(const Destination &printer)
     m_session->adoptPanels(std::move(panels));
 }
 
-void DialogSessionTest::panelsAreRestoredOnceAndInOrder()
+void DialogSessionTest::panelsAreRestoredOnceWhenAsked()
 {
     m_session->save();
     QCOMPARE(m_colour->restored + m_balance->restored, 0);
     QCOMPARE(m_colour->saved + m_balance->saved, 0);
-    m_session->restoreUpTo(0);
+    m_session->prepare(0);
     QCOMPARE(m_balance->restored, 0);
-    m_session->restoreUpTo(1);
-    m_session->restoreUpTo(1);
+    m_session->prepare(1);
+    m_session->prepare(1);
     QCOMPARE(m_colour->restored, 1);
     QCOMPARE(m_balance->restored, 1);
     m_session->save();
@@ -80,12 +81,30 @@ void DialogSessionTest::panelsAreRestoredOnceAndInOrder()
     QVERIFY(m_session->takeNotices().isEmpty());
 }
 
+// A printer that is away must cost nothing to somebody who opens another panel.
+void DialogSessionTest::panelsBeforeAnnounceWithoutBeingRestored()
+{
+    Destination printer = officePrinter();
+    printer.options = {{u"ColorType"_s, u"Mono"_s}, {u"Cyan"_s, u"2"_s}};
+    makeSession(printer);
+    m_session->prepare(1);
+    QCOMPARE(m_colour->restored, 0);
+    QCOMPARE(m_balance->restored, 1);
+    QCOMPARE(m_balance->valueForKey(u"Cyan"_s).toString(), u"0"_s); // it heard of the colour mode
+    m_session->save();
+    QCOMPARE(m_colour->saved, 0);
+    QVERIFY(m_session->markChoice(u"ColorType"_s, u"Auto"_s)); // goes on hearing of it
+    QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
+    m_session->prepare(0);
+    QCOMPARE(m_colour->restored, 1);
+}
+
 void DialogSessionTest::panelsNeverShownKeepTheirSettings()
 {
     Destination printer = officePrinter();
     printer.options = {{u"Cyan"_s, u"2"_s}, {u"Sharp"_s, u"1"_s}};
     makeSession(printer);
-    m_session->restoreUpTo(0);
+    m_session->prepare(0);
     m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
     m_session->save();
     // The reset counts; the sharpness that the panel has never read does not become its default.
@@ -93,13 +112,14 @@ void DialogSessionTest::panelsNeverShownKeepTheirSettings()
     QCOMPARE(m_session->ppd()->markedChoice(u"Sharp"_s), u"1"_s);
     QCOMPARE(m_session->takeNotices(), QStringList(u"“Cyan Balance” was reset to “Neutral”."_s));
     QCOMPARE(m_balance->restored, 0);
-    m_session->restoreUpTo(1);
+    m_session->prepare(1);
     QCOMPARE(m_balance->valueForKey(u"Sharp"_s).toString(), u"1"_s);
 }
 
 void DialogSessionTest::resetByAnotherPanelIsToldAndSent()
 {
-    m_session->restoreUpTo(1);
+    m_session->prepare(0);
+    m_session->prepare(1);
     m_balance->setValueForKey(u"2"_s, u"Cyan"_s);
     m_session->save();
     QVERIFY(m_session->takeNotices().isEmpty()); // the user's own change is none
@@ -115,7 +135,7 @@ void DialogSessionTest::resetByAnotherPanelIsToldAndSent()
 
 void DialogSessionTest::resetReachesAPanelThatWasRestored()
 {
-    m_session->restoreUpTo(1);
+    m_session->prepare(1);
     QVERIFY(m_session->markChoice(u"Cyan"_s, u"1"_s));
     QCOMPARE(m_balance->valueForKey(u"Cyan"_s).toString(), u"1"_s);
     m_session->save();
@@ -125,7 +145,7 @@ void DialogSessionTest::resetReachesAPanelThatWasRestored()
 void DialogSessionTest::savedDefaultsAreSent()
 {
     QVERIFY(sentValue(m_session->jobOptions(), u"Cyan"_s).isNull());
-    m_session->restoreUpTo(1);
+    m_session->prepare(1);
     m_session->save();
     QCOMPARE(sentValue(m_session->jobOptions(), u"Cyan"_s), u"0"_s);
     QVERIFY(sentValue(m_session->jobOptions(), u"PageSize"_s).isNull()); // no panel's, and the default
@@ -134,7 +154,8 @@ void DialogSessionTest::savedDefaultsAreSent()
 void DialogSessionTest::resolutionReachesPanelsWithoutRestoring()
 {
     m_colour->onSet = nullptr;
-    m_session->restoreUpTo(1);
+    m_session->prepare(0);
+    m_session->prepare(1);
     m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
     m_session->save();
     m_balance->setValueForKey(u"2"_s, u"Cyan"_s);
