@@ -5,6 +5,7 @@
 
 #include "host/window/status_glyph.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -57,6 +58,8 @@ void ResultPage::showJob(const QString &printer, const SubmittedJob &job, Status
     m_notes->setText(job.differences.join(QLatin1Char('\n')));
     m_notes->setVisible(!job.differences.isEmpty());
     showStatus(job.status);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void ResultPage::showStatus(const JobStatus &status)

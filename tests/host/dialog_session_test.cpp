@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/core/extensions.h"
 #include "host/core/setting_keys.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/test_bundle.h"
 
+#include <QJsonArray>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void keys();
     void refusedValueLeavesNothingBehind();
     void blockingWorkIsAnnounced();
+    void brokenExtensionIsToldAndPassedOver();
 
 private:
     void makeSession(const Destination &printer = officePrinter());
@@ -256,6 +260,22 @@ void DialogSessionTest::blockingWorkIsAnnounced()
         QCOMPARE(ended.size(), 0);
     }
     QCOMPARE(ended.size(), 1);
+}
+
+void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
+{
+    TestBundle broken, codeless;
+    broken.writeFile(u"Info.json"_s, "{");
+    codeless.setInfo(u"PanelType"_s, printDialogPanelType);
+    codeless.setInfo(u"PrinterModels"_s, QJsonArray{u"Test *"_s});
+    Extensions extensions({broken.folder(), codeless.folder()});
+    DialogSession session(officePrinter(), openPpd(officePpd()));
+    session.loadPanels(extensions);
+    QCOMPARE(session.panelCount(), 0);
+    const QStringList notices = session.takeNotices();
+    QCOMPARE(notices.size(), 2);
+    QVERIFY2(notices.at(0).contains(broken.folder()), qPrintable(notices.at(0)));
+    QVERIFY2(notices.at(1).contains(codeless.folder()), qPrintable(notices.at(1)));
 }
 
 QTEST_MAIN(DialogSessionTest)

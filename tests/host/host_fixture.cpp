@@ -96,6 +96,8 @@ QMap<QString, QString> FakePanel::summaryInfo()
 bool FakePanel::restoreValuesAndReturnError(QString *)
 {
     ++restored;
+    if (onRestore)
+        onRestore();
     for (const QString &key : m_keywords)
         setValueForKey(m_session->ppd()->markedChoice(key), key);
     return true;

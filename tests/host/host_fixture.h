@@ -51,6 +51,7 @@ public:
 
     // Runs after each set of an option, as an observing panel would.
     std::function<void(const QString &key, const QString &choice)> onSet;
+    std::function<void()> onRestore;
     int restored = 0;
     int saved = 0;
     int shown = 0;

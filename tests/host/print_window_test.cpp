@@ -27,6 +27,23 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Counts how often a widget has been painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+} // namespace
+
 // The window over a print system without a server, worked with keys and clicks.
 class PrintWindowTest : public QObject
 {
@@ -44,6 +61,7 @@ private Q_SLOTS:
     void remembersThePrinter();
     void brokenPpdStillPrints();
     void panelsAreRestoredWhenShown();
+    void waitingIsPaintedBeforeItBegins();
     void escapeCancels();
     void textsAreNeverMarkup();
     void mnemonics();
@@ -294,6 +312,29 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     const auto labels = window.findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(),
                         [](QLabel *label) { return label->text() == u"Balance"_s; }));
+}
+
+void PrintWindowTest::waitingIsPaintedBeforeItBegins()
+{
+    PrintWindow &window = open();
+    auto panel = std::make_unique<FakePanel>(u"Device"_s, QStringList(u"ColorType"_s), window.session());
+    bool busyPointer = false;
+    panel->onRestore = [&] {
+        const QPixmap before = window.grab();
+        PaintCounter painted(&window);
+        const platform::BlockingWork work(window.session(), u"Asking the printer for its colour profiles"_s);
+        QVERIFY(painted.count > 0); // nothing runs the event loop in between
+        QVERIFY(window.grab().toImage() != before.toImage());
+        busyPointer =
+            QGuiApplication::overrideCursor() && QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor;
+    };
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(panel));
+    window.session()->adoptPanels(std::move(panels));
+    window.book()->setSession(window.session());
+    window.book()->showPage(1);
+    QVERIFY(busyPointer);
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 void PrintWindowTest::escapeCancels()
