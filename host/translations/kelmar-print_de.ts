@@ -435,6 +435,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 takes True or False.</source>
         <translation>%1 nimmt True oder False.</translation>
     </message>
+    <message>
+        <source>%1 is not sent with the job: %2</source>
+        <translation>%1 wird nicht mit dem Auftrag gesendet: %2</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>

@@ -435,6 +435,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>%1 takes True or False.</source>
         <translation>%1 prend True ou False.</translation>
     </message>
+    <message>
+        <source>%1 is not sent with the job: %2</source>
+        <translation>%1 n’est pas envoyé avec la tâche : %2</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>

@@ -435,6 +435,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 takes True or False.</source>
         <translation>%1 には True または False を指定してください。</translation>
     </message>
+    <message>
+        <source>%1 is not sent with the job: %2</source>
+        <translation>%1 はジョブと一緒に送信されません: %2</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>
