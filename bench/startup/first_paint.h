@@ -25,13 +25,13 @@ public:
 
     static long residentKilobytes()
     {
-        QFile status(QStringLiteral("/proc/self/status"));
-        if (!status.open(QIODevice::ReadOnly))
+        QFile rollup(QStringLiteral("/proc/self/smaps_rollup"));
+        if (!rollup.open(QIODevice::ReadOnly))
             return 0;
-        const QList<QByteArray> lines = status.readAll().split('\n');
+        const QList<QByteArray> lines = rollup.readAll().split('\n');
         for (const QByteArray &line : lines) {
-            if (line.startsWith("VmRSS:"))
-                return line.mid(6).trimmed().split(' ').first().toLong();
+            if (line.startsWith("Rss:"))
+                return line.mid(4).trimmed().split(' ').first().toLong();
         }
         return 0;
     }
@@ -47,7 +47,7 @@ public:
 
     [[noreturn]] static void report()
     {
-        std::printf("process start to first paint\t%.3f\tms\nVmRSS at first paint\t%ld\tkB\n",
+        std::printf("process start to first paint\t%.3f\tms\nresident memory at first paint\t%ld\tkB\n",
                     sinceStartMilliseconds(), residentKilobytes());
         std::fflush(stdout);
         std::_Exit(0);

@@ -35,7 +35,7 @@ def launch(command, environment):
     if status != 0:
         raise SystemExit(f"{command[0]} failed: {text}")
     figures = {line.split("\t")[0]: float(line.split("\t")[1]) for line in text.splitlines() if line.count("\t") == 2}
-    return figures["process start to first paint"], figures["VmRSS at first paint"]
+    return figures["process start to first paint"], figures["resident memory at first paint"]
 
 
 def measure(programs, environment, repetitions):

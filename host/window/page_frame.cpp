@@ -36,8 +36,7 @@ PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
     auto *heading = new QLabel(title, this);
     heading->setTextFormat(Qt::PlainText);
     QFont large = heading->font();
-    large.setPointSizeF(large.pointSizeF() * 1.35);
-    large.setWeight(QFont::DemiBold);
+    large.setPointSizeF(large.pointSizeF() * 1.5);
     heading->setFont(large);
     heading->setContentsMargins(24, 12, 24, 0);
 

@@ -44,7 +44,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     build();
     connectAll();
     showState(State::Unavailable);
-    resize(800, 600);
+    resize(780, 590);
 }
 
 PrintWindow::~PrintWindow()
