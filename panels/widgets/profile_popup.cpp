@@ -21,6 +21,7 @@ QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : QComboBox(parent)
 {
     // A device may call its profiles anything; the pop-up keeps its width.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setIconSize({0, 0}); // its policy would leave room for one, and make it taller than other pop-ups
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
 }

@@ -64,8 +64,8 @@
         <translation>Farb&amp;profile…</translation>
     </message>
     <message>
-        <source>The color profiles of the printer, for the image type “Advanced”</source>
-        <translation>Die Farbprofile des Druckers, für den Bildtyp „Erweitert“</translation>
+        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
+        <translation>Die Farbprofile des Druckers; verfügbar, solange der Bildtyp „Erweitert“ ist</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>
@@ -140,8 +140,8 @@
         <translation>CMYK-Zielprofil</translation>
     </message>
     <message>
-        <source>What the printer’s toners make of them</source>
-        <translation>Was die Toner des Druckers daraus machen</translation>
+        <source>The paper and toners that the colors are converted for</source>
+        <translation>Papier und Toner, für die die Farben umgerechnet werden</translation>
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
@@ -172,8 +172,8 @@
         <translation>Vom Drucker n&amp;eu laden</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults</source>
-        <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab</translation>
+        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab. War er nicht erreichbar, öffnen Sie stattdessen diesen Dialog erneut.</translation>
     </message>
 </context>
 <context>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>Die Antwort des Druckers war nicht verständlich.</translation>
+        <translation>Die Antwort des Druckers war nicht verständlich, daher sind seine Farbprofile nicht bekannt. Öffnen Sie diesen Dialog erneut; wenn das nicht hilft, wenden Sie sich an Ihre Systemverwaltung.</translation>
     </message>
     <message>
         <source>PrintMode</source>

@@ -64,8 +64,8 @@
         <translation>Color Pro&amp;files…</translation>
     </message>
     <message>
-        <source>The color profiles of the printer, for the image type “Advanced”</source>
-        <translation>The color profiles of the printer, for the image type “Advanced”</translation>
+        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
+        <translation>The printer’s color profiles; available while the image type is “Advanced”</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>
@@ -140,8 +140,8 @@
         <translation>CMYK destination profile</translation>
     </message>
     <message>
-        <source>What the printer’s toners make of them</source>
-        <translation>What the printer’s toners make of them</translation>
+        <source>The paper and toners that the colors are converted for</source>
+        <translation>The paper and toners that the colors are converted for</translation>
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
@@ -172,8 +172,8 @@
         <translation>Re&amp;load from Printer</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults</source>
-        <translation>Asks the printer again for its profiles and defaults</translation>
+        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <translation>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</translation>
     </message>
 </context>
 <context>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>The printer gave an answer that could not be understood.</translation>
+        <translation>The printer gave an answer that could not be understood, so its color profiles are not known. Open this dialog again; if that does not help, ask your administrator.</translation>
     </message>
     <message>
         <source>PrintMode</source>

@@ -64,8 +64,8 @@
         <translation>&amp;Profils de couleurs…</translation>
     </message>
     <message>
-        <source>The color profiles of the printer, for the image type “Advanced”</source>
-        <translation>Les profils de couleurs de l’imprimante, pour le type d’image «&#xa0;Avancé&#xa0;»</translation>
+        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
+        <translation>Les profils de couleurs de l’imprimante&#xa0;; disponibles si le type d’image est «&#xa0;Avancé&#xa0;»</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>
@@ -140,8 +140,8 @@
         <translation>Profil de destination CMJN</translation>
     </message>
     <message>
-        <source>What the printer’s toners make of them</source>
-        <translation>Rendu de ces couleurs par les toners de l’imprimante</translation>
+        <source>The paper and toners that the colors are converted for</source>
+        <translation>Le papier et les toners pour lesquels les couleurs sont converties</translation>
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
@@ -172,8 +172,8 @@
         <translation>Re&amp;charger depuis l’imprimante</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults</source>
-        <translation>Redemande à l’imprimante ses profils et valeurs par défaut</translation>
+        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <translation>Redemande à l’imprimante ses profils et valeurs par défaut. Si elle était injoignable, rouvrez plutôt cette boîte de dialogue.</translation>
     </message>
 </context>
 <context>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>La réponse de l’imprimante n’a pas été comprise.</translation>
+        <translation>La réponse de l’imprimante n’a pas été comprise&#xa0;; ses profils de couleurs sont donc inconnus. Rouvrez cette boîte de dialogue&#xa0;; si cela ne suffit pas, adressez-vous à votre administrateur.</translation>
     </message>
     <message>
         <source>PrintMode</source>

@@ -64,8 +64,8 @@
         <translation>カラープロファイル(&amp;F)…</translation>
     </message>
     <message>
-        <source>The color profiles of the printer, for the image type “Advanced”</source>
-        <translation>プリンターのカラープロファイル（画像タイプ「詳細」用）</translation>
+        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
+        <translation>プリンターのカラープロファイル（画像タイプが「詳細」のときに使用できます）</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>
@@ -140,8 +140,8 @@
         <translation>CMYK 出力プロファイル</translation>
     </message>
     <message>
-        <source>What the printer’s toners make of them</source>
-        <translation>プリンターのトナーでの再現</translation>
+        <source>The paper and toners that the colors are converted for</source>
+        <translation>色の変換先となる用紙とトナー</translation>
     </message>
     <message>
         <source>Rendering &amp;intent:</source>
@@ -172,8 +172,8 @@
         <translation>プリンターから再読み込み(&amp;L)</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults</source>
-        <translation>プロファイルと既定値をもう一度プリンターに問い合わせます</translation>
+        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <translation>プロファイルと既定値をもう一度プリンターに問い合わせます。接続できなかったときは、このダイアログを開き直してください。</translation>
     </message>
 </context>
 <context>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>プリンターからの応答を解釈できませんでした。</translation>
+        <translation>プリンターからの応答を解釈できないため、カラープロファイルを取得できません。このダイアログを開き直してください。解決しない場合は、管理者に問い合わせてください。</translation>
     </message>
     <message>
         <source>PrintMode</source>

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QAccessibleWidget>
+
+class QVChoiceSlider_M880;
+
+// What assistive technology finds at a slider: its number, and as text the signed one that stands beside it.
+// Made and owned by Qt when somebody asks, for as long as the slider lives.
+class QVSliderAccessible_M880 : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit QVSliderAccessible_M880(QVChoiceSlider_M880 *slider);
+
+    QString text(QAccessible::Text text) const override;
+    void *interface_cast(QAccessible::InterfaceType type) override;
+
+    QVariant currentValue() const override;
+    // The same as the user's moving the thumb.
+    void setCurrentValue(const QVariant &value) override;
+    QVariant maximumValue() const override;
+    QVariant minimumValue() const override;
+    QVariant minimumStepSize() const override;
+
+private:
+    QVChoiceSlider_M880 *slider() const;
+};
