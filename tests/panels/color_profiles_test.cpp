@@ -26,10 +26,10 @@ const QByteArray device =
     "[cmyk-destination]\n1 = Plain Paper\n2 = Glossy Paper\n"
     "[defaults]\nrgb-source = 1\ncmyk-source = 2\ncmyk-destination = 1\nrendering-intent = 9\n";
 
-void chooseLast(QComboBox *popUp)
+void press(QComboBox *popUp, Qt::Key key)
 {
     popUp->setFocus();
-    QTest::keyClick(popUp, Qt::Key_End);
+    QTest::keyClick(popUp, key);
 }
 
 } // namespace
@@ -77,11 +77,10 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     QCOMPARE(dialog.host.settings.value(QVCmykSourceProfileIndexKey).toString(), u"2"_s);
     QCOMPARE(dialog.host.settings.value(QVRenderingIntentKey).toString(), u"9"_s);
 
-    chooseLast(rgb);
-    chooseLast(destination);
-    cmyk->setCurrentIndex(0);
-    cmyk->setFocus();
-    QTest::keyClick(cmyk, Qt::Key_Down);
+    press(rgb, Qt::Key_End);
+    press(destination, Qt::Key_End);
+    press(cmyk, Qt::Key_Home);
+    press(cmyk, Qt::Key_Down);
     QTest::mouseClick(widget<QCheckBox>(view, "applyToDeviceColorOnly"), Qt::LeftButton, {}, QPoint(8, 8));
     panel->saveValuesAndReturnError(nullptr);
     const auto saved = [&](const QString &key) { return dialog.host.settings.value(key).toString(); };

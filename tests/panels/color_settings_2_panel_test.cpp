@@ -15,6 +15,7 @@
 #include "tests/support/inline_ppd.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QStyleOptionSlider>
 #include <QTest>
 
@@ -65,43 +66,29 @@ class ColorSettings2PanelTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void optionsFollowTheModel_data();
-    void optionsFollowTheModel();
+    void modelWithoutBackground();
     void slidersMoveByKeyboardAndMouse();
     void neutralButtons();
     void colorModeResetsAndAllowsBalance();
     void onlyAnAnnouncedColorModeCounts();
     void neverOnAPositionWithoutChoice_data();
     void neverOnAPositionWithoutChoice();
-    void stepsSkipWhatIsMissing();
     void foreignValueIsShownNotChanged_data();
     void foreignValueIsShownNotChanged();
     void sliderOfAMissingOptionStandsStill();
-    void signedTexts_data();
     void signedTexts();
 };
 
-void ColorSettings2PanelTest::optionsFollowTheModel_data()
+void ColorSettings2PanelTest::modelWithoutBackground()
 {
-    QTest::addColumn<QByteArray>("ppd");
-    QTest::addColumn<int>("options");
-    QTest::addColumn<QString>("layout");
-    QTest::newRow("with background") << QByteArray("kelm880") << 9 << "ColorSettings2";
-    QTest::newRow("without background") << QByteArray("kelo2600") << 8 << "ColorSettings2-2600c";
-}
-
-void ColorSettings2PanelTest::optionsFollowTheModel()
-{
-    QFETCH(const QByteArray, ppd);
-    QFETCH(const int, options);
-    PanelFixture dialog(ppd);
-    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
-    QCOMPARE(panel->panelKind(), u"com.kelmar.pde.color-settings-2"_s);
-    QTEST(panel->nibNameForModel(panel->manager()->currentModel()), "layout");
-    QCOMPARE(panel->supportedPPDOptionKeys().size(), options);
-    const QWidget *view = dialog.show(panel);
-    QCOMPARE(view->findChildren<QSlider *>().size(), options);
-    QCOMPARE(view->findChild<QSlider *>(u"backgroundSlider"_s) != nullptr, options == 9);
+    for (const auto &[ppd, options] : {std::pair("kelm880", 9), std::pair("kelo2600", 8)}) {
+        PanelFixture dialog(ppd);
+        auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+        const QWidget *view = dialog.show(panel);
+        QCOMPARE(panel->supportedPPDOptionKeys().size(), options);
+        QCOMPARE(view->findChildren<QSlider *>().size(), options);
+        QCOMPARE(view->findChild<QSlider *>(u"backgroundSlider"_s) != nullptr, options == 9);
+    }
 }
 
 void ColorSettings2PanelTest::slidersMoveByKeyboardAndMouse()
@@ -124,6 +111,10 @@ void ColorSettings2PanelTest::slidersMoveByKeyboardAndMouse()
     QTest::keyClick(slider, Qt::Key_PageUp);
     QCOMPARE(value(panel, u"SharpnessVRN"_s), u"3"_s);
     QCOMPARE(label->text(), u"+3"_s);
+    QAccessibleInterface *heard = QAccessible::queryAccessibleInterface(slider);
+    QCOMPARE(heard->text(QAccessible::Value), u"+3"_s);
+    heard->valueInterface()->setCurrentValue(4);
+    QCOMPARE(value(panel, u"SharpnessVRN"_s), u"4"_s);
     QTest::keyClick(slider, Qt::Key_Home);
     QCOMPARE(value(panel, u"SharpnessVRN"_s), u"-5"_s);
     drag(slider, -5, 2);
@@ -206,61 +197,48 @@ void ColorSettings2PanelTest::onlyAnAnnouncedColorModeCounts()
 
 void ColorSettings2PanelTest::neverOnAPositionWithoutChoice_data()
 {
-    QTest::addColumn<int>("wanted");
-    QTest::addColumn<int>("reached");
-    QTest::newRow("a choice") << 4 << 4;
-    QTest::newRow("nearest above") << 3 << 4;
-    QTest::newRow("nearest below") << -5 << -4;
-    QTest::newRow("back to where it was") << 1 << 0;
-    QTest::newRow("half way stays") << 2 << 0;
+    QTest::addColumn<QList<int>>("moves"); // keys, and numbers that the thumb is dragged to
+    QTest::addColumn<QList<int>>("reached");
+    QTest::newRow("to a choice") << QList<int>{4} << QList{4};
+    QTest::newRow("nearest above") << QList<int>{3} << QList{4};
+    QTest::newRow("nearest below") << QList<int>{-5} << QList{-4};
+    QTest::newRow("back to where it was") << QList<int>{1} << QList{0};
+    QTest::newRow("half way stays") << QList<int>{2} << QList{0};
+    QTest::newRow("steps skip") << QList<int>{Qt::Key_Right, Qt::Key_Right, Qt::Key_Left} << QList{4, 4, 0};
+    QTest::newRow("pages and ends") << QList<int>{Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}
+                                    << QList{-4, -4, 4};
 }
 
 void ColorSettings2PanelTest::neverOnAPositionWithoutChoice()
 {
-    QFETCH(const int, wanted);
-    QFETCH(const int, reached);
+    QFETCH(const QList<int>, moves);
     const InlinePpd ppd = coarsePpd();
     PanelFixture dialog(ppd.get());
     auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
     auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "sharpnessSlider");
-    QStringList seen;
+    const QStringList choices{u"0"_s, u"4"_s, u"-4"_s};
     connect(panel, &platform::KeyValueObject::valueDidChange, this, [&](const QString &key) {
-        if (key == u"SharpnessVRN")
-            seen += value(panel, key);
+        QVERIFY(key != u"SharpnessVRN" || choices.contains(value(panel, key)));
     });
-    drag(slider, 0, wanted);
-    QCOMPARE(slider->value(), reached);
-    QCOMPARE(value(panel, u"SharpnessVRN"_s), QString::number(reached));
-    for (const QString &number : std::as_const(seen))
-        QVERIFY2(number == u"0" || number == u"4" || number == u"-4", qPrintable(number));
-}
-
-void ColorSettings2PanelTest::stepsSkipWhatIsMissing()
-{
-    const InlinePpd ppd = coarsePpd();
-    PanelFixture dialog(ppd.get());
-    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
-    auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "sharpnessSlider");
     slider->setFocus();
-    QStringList reached;
-    for (const Qt::Key key :
-         {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
-        QTest::keyClick(slider, key);
-        reached += value(panel, u"SharpnessVRN"_s);
+    QList<int> reached;
+    for (const int move : moves) {
+        if (move > slider->maximum())
+            QTest::keyClick(slider, Qt::Key(move));
+        else
+            drag(slider, 0, move);
+        reached += value(panel, u"SharpnessVRN"_s).toInt();
+        QCOMPARE(slider->value(), reached.last());
     }
-    QCOMPARE(reached, QStringList({u"4"_s, u"4"_s, u"0"_s, u"-4"_s, u"-4"_s, u"4"_s}));
+    QTEST(reached, "reached");
 }
 
 void ColorSettings2PanelTest::foreignValueIsShownNotChanged_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::addColumn<QString>("label");
-    QTest::newRow("beyond the range") << "9"
-                                      << "+9";
-    QTest::newRow("between choices") << "3"
-                                     << "+3";
-    QTest::newRow("no number") << "Custom"
-                               << "0";
+    for (const auto &[choice, label] : {std::pair("9", "+9"), std::pair("3", "+3"), std::pair("Custom", "0")})
+        QTest::newRow(choice) << choice << label;
 }
 
 void ColorSettings2PanelTest::foreignValueIsShownNotChanged()
@@ -291,20 +269,11 @@ void ColorSettings2PanelTest::sliderOfAMissingOptionStandsStill()
     QCOMPARE(slider->value(), 0);
 }
 
-void ColorSettings2PanelTest::signedTexts_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("above") << 3 << "+3";
-    QTest::newRow("neutral") << 0 << "0";
-    QTest::newRow("below") << -2 << "−2";
-    QTest::newRow("lowest") << std::numeric_limits<int>::min() << "−2147483648";
-}
-
 void ColorSettings2PanelTest::signedTexts()
 {
-    QFETCH(const int, number);
-    QTEST(QVSignedValueLabel_M880::textForValue(number), "text");
+    const auto text = &QVSignedValueLabel_M880::textForValue;
+    QCOMPARE(QStringList({text(3), text(0), text(-2)}), QStringList({u"+3"_s, u"0"_s, u"−2"_s}));
+    QCOMPARE(text(std::numeric_limits<int>::min()), u"−2147483648"_s);
 }
 
 QTEST_MAIN(ColorSettings2PanelTest)

@@ -27,12 +27,19 @@ const QStringList languages{u"en"_s, u"de"_s, u"fr"_s, u"ja"_s};
 QString describe(const QWidget *widget)
 {
     const QSize wanted = widget->sizeHint();
-    return u"%1 “%2” in %3 is %4x%5, wants %6x%7"_s
-        .arg(widget->objectName(), widget->property("text").toString(), widget->window()->windowTitle())
+    return u"%1 “%2” is %3x%4, wants %5x%6"_s.arg(widget->objectName(), widget->property("text").toString())
         .arg(widget->width())
         .arg(widget->height())
         .arg(wanted.width())
         .arg(wanted.height());
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    return file.readAll();
 }
 
 // The room a widget lacks for its text; 0 by 0 where it lacks none.
@@ -54,10 +61,7 @@ bool showsText(const QWidget *widget)
 // Texts to be translated, by the context they are looked up in.
 QList<std::pair<QByteArray, QString>> textsOfLayout(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
-    QXmlStreamReader reader(&file);
+    QXmlStreamReader reader(contents(path));
     QByteArray context;
     QList<std::pair<QByteArray, QString>> texts;
     while (!reader.atEnd()) {
@@ -73,12 +77,10 @@ QList<std::pair<QByteArray, QString>> textsOfLayout(const QString &path)
 
 QStringList localizableKeys()
 {
-    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/resources/strings/localizable_keys.cpp"));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("the list of keys cannot be read");
+    const QByteArray file = contents(KELMAR_SOURCE_DIR "/resources/strings/localizable_keys.cpp"_L1);
     QStringList keys;
     static const QRegularExpression key(u"\"Localizable\", \"([^\"]+)\""_s);
-    auto matches = key.globalMatch(QString::fromUtf8(file.readAll()));
+    auto matches = key.globalMatch(QString::fromUtf8(file));
     while (matches.hasNext())
         keys += matches.next().captured(1);
     return keys;
@@ -88,13 +90,12 @@ QStringList localizableKeys()
 // libcups keeps those of one language only.
 QHash<QString, QString> ppdTexts(const QByteArray &ppdName, const QString &language)
 {
-    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(QString::fromLatin1(ppdName)));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(file.fileName()));
+    const QByteArray file =
+        contents(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(QLatin1String(ppdName)));
     const QRegularExpression line(u"^\\*%1\\.(\\w+ [^/]+)/(.*): \"\"$"_s.arg(language),
                                   QRegularExpression::MultilineOption);
     QHash<QString, QString> texts;
-    auto matches = line.globalMatch(QString::fromUtf8(file.readAll()));
+    auto matches = line.globalMatch(QString::fromUtf8(file));
     while (matches.hasNext()) {
         const auto match = matches.next();
         texts.insert(match.captured(1), match.captured(2));
@@ -114,6 +115,7 @@ private Q_SLOTS:
     void everyTextIsTranslated();
     void textsAgreeWithThePpd_data();
     void textsAgreeWithThePpd();
+    void panelsHaveGermanNames();
 
 private:
     void checkView(QWidget *view);
@@ -137,7 +139,6 @@ void PanelLayoutsTest::fitAndCanBeReached()
     for (const auto &panel : dialog.panels()) {
         auto *base = dynamic_cast<QVPDE_M880 *>(panel.get());
         QWidget *view = dialog.show(base);
-        view->setWindowTitle(panel->panelName());
         // Where two settings forbid each other the panel must have room for saying so.
         if (base->supportedPPDOptionKeys().contains(u"ColorType"_s))
             base->setValueForKey(u"Mono"_s, u"ColorType"_s);
@@ -233,6 +234,15 @@ void PanelLayoutsTest::textsAgreeWithThePpd()
         }
     }
     QVERIFY(compared > 100);
+}
+
+void PanelLayoutsTest::panelsHaveGermanNames()
+{
+    const PanelFixture dialog("kelm880", QLocale(QLocale::German));
+    QSet<QString> names;
+    for (const auto &panel : dialog.panels())
+        names += panel->panelName();
+    QCOMPARE(names, QSet({u"Druckmodus"_s, u"Farbeinstellungen 1"_s, u"Farbeinstellungen 2"_s}));
 }
 
 QTEST_MAIN(PanelLayoutsTest)
