@@ -21,7 +21,7 @@ namespace {
 
 // Row 2 of the CMYK sources has no name.
 const QByteArray device =
-    "[rgb-source]\n1 = sRGB\n2 = Adobe RGB\n"
+    "[rgb-source]\n1 = sRGB\n2 = Adobe <b>RGB</b>\n"
     "[cmyk-source]\n1 = ISO Coated\n2 =\n3 = Japan Color\n"
     "[cmyk-destination]\n1 = Plain Paper\n2 = Glossy Paper\n"
     "[defaults]\nrgb-source = 1\ncmyk-source = 2\ncmyk-destination = 1\nrendering-intent = 9\n";
@@ -82,9 +82,13 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     press(cmyk, Qt::Key_Home);
     press(cmyk, Qt::Key_Down);
     QTest::mouseClick(widget<QCheckBox>(view, "applyToDeviceColorOnly"), Qt::LeftButton, {}, QPoint(8, 8));
+    QStringList profilesWhenTold; // the device's settings go first
+    dialog.host.onTold = [&](const QString &) {
+        profilesWhenTold += dialog.host.settings.value(QVRgbSourceProfileIndexKey).toString();
+    };
     panel->saveValuesAndReturnError(nullptr);
+    QCOMPARE(profilesWhenTold.value(0), u"2"_s);
     const auto saved = [&](const QString &key) { return dialog.host.settings.value(key).toString(); };
-    QCOMPARE(saved(QVRgbSourceProfileIndexKey), u"2"_s);
     QCOMPARE(saved(QVCmykSourceProfileIndexKey), u"3"_s);
     QCOMPARE(saved(QVCmykDestinationProfileIndexKey), u"2"_s);
     QCOMPARE(saved(QVApplyToDeviceColorOnlyKey), u"1"_s);
@@ -96,7 +100,7 @@ void ColorProfilesTest::choicesTravelWithTheJob()
 
     // The next dialog of this job: the stored destination comes back as the source, as it always has.
     panel->restoreValuesAndReturnError(nullptr);
-    QCOMPARE(rgb->currentText(), u"Adobe RGB"_s);
+    QCOMPARE(rgb->currentText(), u"Adobe <b>RGB</b>"_s);
     QCOMPARE(cmyk->currentText(), u"Profile 2"_s);
     QCOMPARE(destination->currentText(), u"Plain Paper"_s);
     QVERIFY(widget<QCheckBox>(view, "applyToDeviceColorOnly")->isChecked());

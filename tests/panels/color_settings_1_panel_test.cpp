@@ -55,7 +55,6 @@ private Q_SLOTS:
     void imageTypeLeadsToTheAdvancedView();
     void plainModelHasNoAdvancedView();
     void unreachablePrinterIsSaidInPlace();
-    void profilesCarryTheDevicesNumbers();
     void unnamedNumberIsKept();
 };
 
@@ -230,40 +229,6 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
     panel->saveValuesAndReturnError(nullptr);
     QVERIFY(!dialog.host.settings.value(QVRgbSourceProfileIndexKey).isValid());
     QCOMPARE(dialog.host.blockingWork.size(), 1); // saving asks nobody
-}
-
-void ColorSettings1PanelTest::profilesCarryTheDevicesNumbers()
-{
-    PanelFixture dialog("kelm880");
-    auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
-    const QWidget *view = dialog.show(panel);
-    auto *device = panel->advancedColorSettingsManager();
-    device->setSnmpEnabledWithReason(true, QString());
-    QVERIFY(!widget<QVNotice_M880>(view, "unavailableNotice")->isVisible());
-    device->setRgbSourceProfiles({u"sRGB"_s, u"Adobe <b>RGB</b>"_s, u"Display P3"_s});
-    device->setSelectedRgbSourceProfile(2);
-    panel->setCurrentView(advancedView(panel));
-    auto *rgb = widget<QVProfilePopUp_M880>(view, "rgbSource");
-    QVERIFY(rgb->isEnabled());
-    QCOMPARE(rgb->currentText(), u"Adobe <b>RGB</b>"_s);
-
-    rgb->setFocus();
-    QTest::keyClick(rgb, Qt::Key_Down);
-    QCOMPARE(device->selectedRgbSourceProfile(), 3U);
-    auto *intent = widget<QVProfilePopUp_M880>(view, "renderingIntent");
-    QCOMPARE(intent->currentText(), u"Perceptual"_s);
-    intent->setFocus();
-    QTest::keyClick(intent, Qt::Key_End);
-    QTest::keyClick(widget<QCheckBox>(view, "applyToDeviceColorOnly"), Qt::Key_Space);
-    QVERIFY(device->applyToDeviceColorOnly());
-
-    // The device's settings are in the job before it hears of the first option.
-    QStringList seen;
-    dialog.host.onTold = [&](const QString &) {
-        seen += dialog.host.settings.value(QVRenderingIntentKey).toString();
-    };
-    QVERIFY(panel->saveValuesAndReturnError(nullptr));
-    QCOMPARE(seen.value(0), u"3"_s);
 }
 
 // A row without a name has a number but no place in the list.
