@@ -27,7 +27,9 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 # What a print dialog costs is loading it: every page of code that is mapped counts, and hardly a loop.
 set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
-add_link_options($<$<CONFIG:Release>:-Wl,--gc-sections> $<$<CONFIG:Release>:-Wl,--as-needed>)
+foreach(flag --gc-sections --as-needed -z,noseparate-code -z,pack-relative-relocs)
+  add_link_options($<$<CONFIG:Release>:-Wl,${flag}>)
+endforeach()
 add_compile_options($<$<CONFIG:Release>:-ffunction-sections> $<$<CONFIG:Release>:-fdata-sections>)
 
 find_program(KELMAR_CCACHE ccache)

@@ -44,7 +44,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     build();
     connectAll();
     showState(State::Unavailable);
-    resize(780, 590);
+    resize(720, 560);
 }
 
 PrintWindow::~PrintWindow()

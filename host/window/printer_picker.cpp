@@ -14,6 +14,7 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 {
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->setMinimumContentsLength(24);
+    m_box->setMaximumWidth(420);
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setAccessibleName(tr("Printer"));
     m_state->setTextFormat(Qt::PlainText);
@@ -32,8 +33,8 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->setVerticalSpacing(4);
     grid->addWidget(label, 0, 0);
     grid->addWidget(m_box, 0, 1);
-    grid->addWidget(m_state, 1, 1);
-    grid->setColumnStretch(1, 1);
+    grid->addWidget(m_state, 1, 1, 1, 2);
+    grid->setColumnStretch(2, 1);
     connect(m_box, &QComboBox::activated, this, [this] {
         const QString name = m_box->currentData().value<Destination>().name();
         if (name != m_current)
