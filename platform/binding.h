@@ -24,8 +24,8 @@ class KELMAR_PLATFORM_EXPORT Binding : public QObject
     Q_OBJECT
 public:
     // Binds and brings the target to the key's value at once. A null object makes a binding that does
-    // nothing. Raises Exception when the target has no such property or the object no such key. A binding of
-    // the same property of the same target is replaced.
+    // nothing. Raises Exception when the target has no such writable property or the object no such key. A
+    // binding of the same property of the same target is replaced.
     static Binding *bind(QObject *target, const QString &property, KeyValueObject *object,
                          const QString &keyPath,
                          std::shared_ptr<const ValueTransformer> transformer = nullptr);

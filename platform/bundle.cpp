@@ -6,7 +6,6 @@
 #include "platform/logging.h"
 #include "platform/print_dialog.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>

@@ -22,8 +22,9 @@ namespace platform {
 class PrintDialogExtension;
 
 // A folder with Info.json, the code of a plug-in, layouts and string tables. Opening it reads Info.json and
-// loads no code. Shared by the host and everything the plug-in makes. Its strings are loaded on first use,
-// for the language given when it was opened, English where that language has no table.
+// loads no code. Shared by the host and everything the plug-in makes. Its string tables are loaded on first
+// use. Each text is looked up by itself: in the tables of the language given when the bundle was opened, the
+// most exact spelling first ("de_CH", then "de"), then in the English one. So a table may lack texts.
 class KELMAR_PLATFORM_EXPORT Bundle
 {
 public:
@@ -71,7 +72,7 @@ private:
     QJsonObject m_info;
     QStringList m_languages;
     mutable bool m_stringsLoaded = false;
-    mutable std::vector<std::unique_ptr<QTranslator>> m_translators; // preferred language first, English last
+    mutable std::vector<std::unique_ptr<QTranslator>> m_translators; // in the order of looking up
     std::unique_ptr<QPluginLoader> m_loader;
 };
 

@@ -76,6 +76,14 @@ std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &pr
     return result;
 }
 
+// The object that has the last of `keys`, found from `object` by those before; null with a nil on the way.
+KeyValueObject *holderOfLast(KeyValueObject *object, const QStringList &keys)
+{
+    for (qsizetype i = 0; object && i < keys.size() - 1; ++i)
+        object = objectOnPath(object, keys[i], object->valueForKey(keys[i]));
+    return object;
+}
+
 // One addObserverForKeyPath(); a child of the observed object.
 class ObserverRegistration : public KeyPathObserver
 {
@@ -102,13 +110,13 @@ KeyValueObject *objectOnPath(const KeyValueObject *holder, const QString &key, c
     if (!value.isValid())
         return nullptr;
     const QMetaType type = value.metaType();
-    if (!type.flags().testFlag(QMetaType::PointerToQObject))
-        raiseUndefinedKey(holder, key, QStringLiteral("no object with keys of its own under key"));
-    auto *object = *static_cast<QObject *const *>(value.constData());
+    const bool isObject = type.flags().testFlag(QMetaType::PointerToQObject);
+    QObject *object = isObject ? *static_cast<QObject *const *>(value.constData()) : nullptr;
     auto *keyed = qobject_cast<KeyValueObject *>(object);
     // An object in destruction is no KeyValueObject any more; its declared type tells it from a wrong class.
-    const bool declared = type.metaObject() && type.metaObject()->inherits(&KeyValueObject::staticMetaObject);
-    if (object && !keyed && !declared)
+    const bool isDeclared =
+        type.metaObject() && type.metaObject()->inherits(&KeyValueObject::staticMetaObject);
+    if (!isObject || (object && !keyed && !isDeclared))
         raiseUndefinedKey(holder, key, QStringLiteral("no object with keys of its own under key"));
     return keyed;
 }
@@ -145,21 +153,16 @@ void KeyValueObject::setValueForKey(const QVariant &value, const QString &key)
 
 QVariant KeyValueObject::valueForKeyPath(const QString &keyPath)
 {
-    KeyValueObject *object = this;
     const QStringList keys = keyPath.split(QLatin1Char('.'));
-    for (qsizetype i = 0; i < keys.size() - 1 && object; ++i)
-        object = objectOnPath(object, keys[i], object->valueForKey(keys[i]));
-    return object ? object->valueForKey(keys.last()) : QVariant();
+    KeyValueObject *holder = holderOfLast(this, keys);
+    return holder ? holder->valueForKey(keys.last()) : QVariant();
 }
 
 void KeyValueObject::setValueForKeyPath(const QVariant &value, const QString &keyPath)
 {
-    KeyValueObject *object = this;
     const QStringList keys = keyPath.split(QLatin1Char('.'));
-    for (qsizetype i = 0; i < keys.size() - 1 && object; ++i)
-        object = objectOnPath(object, keys[i], object->valueForKey(keys[i]));
-    if (object)
-        object->setValueForKey(value, keys.last());
+    if (KeyValueObject *holder = holderOfLast(this, keys))
+        holder->setValueForKey(value, keys.last());
 }
 
 void KeyValueObject::willChangeValueForKey(const QString &key)

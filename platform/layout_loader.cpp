@@ -49,13 +49,9 @@ class WidgetBuilder : public QUiLoader
 public:
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        const auto factory = widgetFactories().constFind(className);
-        QWidget *widget = nullptr;
-        if (factory != widgetFactories().constEnd())
-            widget = (*factory)(parent);
-        else
-            widget = QUiLoader::createWidget(className, parent, name);
-        const bool isKnown = factory != widgetFactories().constEnd() || className == QLatin1String("Line") ||
+        const WidgetFactory factory = widgetFactories().value(className);
+        QWidget *widget = factory ? factory(parent) : QUiLoader::createWidget(className, parent, name);
+        const bool isKnown = factory || className == QLatin1String("Line") ||
                              (widget && className == QLatin1String(widget->metaObject()->className()));
         if (!isKnown)
             note(QStringLiteral("widget"), name, className);

@@ -15,7 +15,7 @@ namespace platform {
 
 class TextField;
 
-// User-info key of a text-change notification that holds the field editor (a QLineEdit *).
+// User-info key of a text-change notification that holds the field editor: a QObject * that is a QLineEdit.
 KELMAR_PLATFORM_EXPORT extern const QString NSFieldEditor;
 
 // Takes part in the editing of text fields. Stateless, so one instance serves several fields; shared.
@@ -23,7 +23,7 @@ class KELMAR_PLATFORM_EXPORT TextFieldDelegate
 {
 public:
     virtual ~TextFieldDelegate();
-    // After each change by the user. `userInfo` holds the field editor under NSFieldEditor as a QObject *.
+    // After each change by the user. `userInfo` holds the field editor under NSFieldEditor.
     virtual void controlTextDidChange(TextField *control, const QVariantMap &userInfo) = 0;
     // Before the text is committed; false keeps the field in editing. May set the control's text.
     virtual bool controlTextShouldEndEditing(TextField *control, QLineEdit *fieldEditor) = 0;

@@ -10,6 +10,7 @@
 #include <QTest>
 
 using platform::Bundle;
+using namespace Qt::StringLiterals;
 
 class BundleTest : public QObject
 {
@@ -17,13 +18,9 @@ class BundleTest : public QObject
 private Q_SLOTS:
     void unusableInfoNamesFileAndProblem_data();
     void unusableInfoNamesFileAndProblem();
-    void folderWithoutBundle();
-    void servesModel_data();
+    void foldersWithoutReadableInfo();
     void servesModel();
-    void stringsFallBack_data();
     void stringsFallBack();
-    void brokenStringTableIsLoggedAndPassedOver();
-    void unusableCodeNamesFileAndProblem_data();
     void unusableCodeNamesFileAndProblem();
     void principalObject();
 };
@@ -33,21 +30,16 @@ void BundleTest::unusableInfoNamesFileAndProblem_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QJsonValue>("value");
     QTest::addColumn<QString>("problem");
-    const QJsonValue missing(QJsonValue::Undefined);
-    QTest::newRow("no identifier") << Bundle::identifierKey << missing << "is missing";
-    QTest::newRow("no panel type") << Bundle::panelTypeKey << missing << "is missing";
-    QTest::newRow("identifier of a wrong type") << Bundle::identifierKey << QJsonValue(7) << "not a text";
-    QTest::newRow("empty principal class") << Bundle::principalClassKey << QJsonValue(QString()) << "empty";
-    QTest::newRow("path to a file elsewhere")
-        << Bundle::executableKey << QJsonValue(QStringLiteral("/usr/lib/libc.so")) << "inside the bundle";
-    QTest::newRow("way out of the folder")
-        << Bundle::executableKey << QJsonValue(QStringLiteral("../lib.so")) << "inside the bundle";
-    QTest::newRow("parent folder") << Bundle::executableKey << QJsonValue(QStringLiteral(".."))
-                                   << "inside the bundle";
-    QTest::newRow("models as a text")
-        << Bundle::printerModelsKey << QJsonValue(QStringLiteral("KELMAR")) << "list";
-    QTest::newRow("models as numbers")
-        << Bundle::printerModelsKey << QJsonValue(QJsonArray{1}) << "list of texts";
+    const auto row = [](const char *name, const QString &key, const QJsonValue &value, const char *problem) {
+        QTest::newRow(name) << key << value << problem;
+    };
+    row("missing", Bundle::panelTypeKey, QJsonValue::Undefined, "is missing");
+    row("wrong type", Bundle::identifierKey, 7, "not a text");
+    row("empty", Bundle::principalClassKey, QString(), "empty");
+    row("file elsewhere", Bundle::executableKey, u"/usr/lib/libc.so"_s, "inside the bundle");
+    row("parent folder", Bundle::executableKey, u".."_s, "inside the bundle");
+    row("models as a text", Bundle::printerModelsKey, u"KELMAR"_s, "list of texts");
+    row("models as numbers", Bundle::printerModelsKey, QJsonArray{1}, "list of texts");
 }
 
 void BundleTest::unusableInfoNamesFileAndProblem()
@@ -59,173 +51,96 @@ void BundleTest::unusableInfoNamesFileAndProblem()
     files.setInfo(key, value);
     QString error;
     QVERIFY(!Bundle::open(files.folder(), QLocale(), &error));
-    QVERIFY2(error.startsWith(files.folder() + QStringLiteral("/Info.json: ")), qPrintable(error));
+    QVERIFY2(error.startsWith(files.folder() + u"/Info.json: "_s), qPrintable(error));
     QVERIFY2(error.contains(key) && error.contains(problem), qPrintable(error));
     QVERIFY(!Bundle::open(files.folder(), QLocale(), nullptr));
 }
 
-void BundleTest::folderWithoutBundle()
+void BundleTest::foldersWithoutReadableInfo()
 {
     TestBundle files;
     QString error;
-    QVERIFY(!Bundle::open(files.folder() + QStringLiteral("/nowhere"), QLocale(), &error));
-    QVERIFY2(error.contains(QStringLiteral("nowhere")), qPrintable(error));
-
-    for (const char *contents : {"{\"CFBundleIdentifier\": ", "[1]", ""}) {
-        files.writeFile(QStringLiteral("Info.json"), contents);
+    const QString nowhere = files.folder() + u"/nowhere"_s;
+    QVERIFY(!Bundle::open(nowhere, QLocale(), &error));
+    QCOMPARE(error, nowhere + u": there is no such folder"_s);
+    const QString info = files.folder() + u"/Info.json"_s;
+    for (const char *contents : {"{\"CFBundleIdentifier\": ", "[1]", "", "no file"}) {
+        files.writeFile(u"Info.json"_s, contents);
+        if (qstrcmp(contents, "no file") == 0)
+            QVERIFY(QFile::remove(info));
+        error.clear();
         QVERIFY(!Bundle::open(files.folder(), QLocale(), &error));
-        QVERIFY2(error.startsWith(files.folder() + QStringLiteral("/Info.json: ")), qPrintable(error));
+        QVERIFY2(error.startsWith(info + u": "_s), qPrintable(error));
     }
-    QVERIFY(QFile::remove(files.folder() + QStringLiteral("/Info.json")));
-    QVERIFY(!Bundle::open(files.folder(), QLocale(), &error));
-    QVERIFY2(error.startsWith(files.folder() + QStringLiteral("/Info.json: ")), qPrintable(error));
-}
-
-void BundleTest::servesModel_data()
-{
-    QTest::addColumn<QJsonValue>("patterns");
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<bool>("served");
-    const QJsonValue family = QJsonArray{QStringLiteral("Other"), QStringLiteral("KELMAR Orb*")};
-    QTest::newRow("family") << family << "KELMAR OrbM880Series" << true;
-    QTest::newRow("slash in the name") << family << "KELMAR Orb310/313Series" << true;
-    QTest::newRow("not from the start") << family << "My KELMAR OrbM880Series" << false;
-    QTest::newRow("another maker") << family << "Laser 1" << false;
-    QTest::newRow("no name") << family << QString() << false;
-    QTest::newRow("no patterns") << QJsonValue(QJsonValue::Undefined) << "KELMAR OrbM880Series" << false;
 }
 
 void BundleTest::servesModel()
 {
-    QFETCH(QJsonValue, patterns);
-    QFETCH(QString, model);
     TestBundle files;
-    files.setInfo(Bundle::printerModelsKey, patterns);
-    QTEST(files.open()->servesModel(model), "served");
-}
-
-void BundleTest::stringsFallBack_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("language") << "de_DE"
-                              << "Duplex"
-                              << ""
-                              << "Beidseitig";
-    QTest::newRow("territory without a table") << "de_AT"
-                                               << "Duplex"
-                                               << ""
-                                               << "Beidseitig";
-    QTest::newRow("territory with a table") << "de_CH"
-                                            << "Duplex"
-                                            << ""
-                                            << "Doppelseitig";
-    QTest::newRow("from territory to language") << "de_CH"
-                                                << "Tray"
-                                                << ""
-                                                << "Fach";
-    QTest::newRow("to English") << "de_DE"
-                                << "Stapler"
-                                << ""
-                                << "Staple unit";
-    QTest::newRow("language without a table") << "fi_FI"
-                                              << "Duplex"
-                                              << ""
-                                              << "Two-sided";
-    QTest::newRow("C locale") << "C"
-                              << "Duplex"
-                              << ""
-                              << "Two-sided";
-    QTest::newRow("given text") << "de_DE"
-                                << "Unknown"
-                                << "given"
-                                << "given";
-    QTest::newRow("key itself") << "de_DE"
-                                << "Unknown"
-                                << ""
-                                << "Unknown";
+    files.setInfo(Bundle::printerModelsKey, QJsonArray{u"Other"_s, u"KELMAR Orb*"_s});
+    QVERIFY(files.open()->servesModel(u"KELMAR Orb310/313Series"_s));
+    QVERIFY(!files.open()->servesModel(u"My KELMAR OrbM880Series"_s));
+    files.setInfo(Bundle::printerModelsKey, QJsonValue::Undefined);
+    QVERIFY(!files.open()->servesModel(u"KELMAR OrbM880Series"_s));
 }
 
 void BundleTest::stringsFallBack()
 {
-    static const auto files = [] {
-        auto made = std::make_unique<TestBundle>();
-        const QString context = QStringLiteral("Localizable");
-        made->writeStrings(QStringLiteral("en"), context,
-                           {{QStringLiteral("Duplex"), QStringLiteral("Two-sided")},
-                            {QStringLiteral("Stapler"), QStringLiteral("Staple unit")}});
-        made->writeStrings(QStringLiteral("de"), context,
-                           {{QStringLiteral("Duplex"), QStringLiteral("Beidseitig")},
-                            {QStringLiteral("Tray"), QStringLiteral("Fach")}});
-        made->writeStrings(QStringLiteral("de_CH"), context,
-                           {{QStringLiteral("Duplex"), QStringLiteral("Doppelseitig")}});
-        return made;
-    }();
-    QFETCH(QString, locale);
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    const auto bundle = files->open(QLocale(locale));
-    QTEST(bundle->localizedStringForKey(key, value), "text");
-    // Texts of code stand under their own context, which this table does not have.
-    QCOMPARE(bundle->translate("SomeClass", "Duplex"), QStringLiteral("Duplex"));
-}
-
-void BundleTest::brokenStringTableIsLoggedAndPassedOver()
-{
     TestBundle files;
-    files.writeFile(QStringLiteral("strings/Test_de.qm"), "no string table");
-    files.writeStrings(QStringLiteral("en"), QStringLiteral("Localizable"),
-                       {{QStringLiteral("Duplex"), QStringLiteral("Two-sided")}});
-    const auto bundle = files.open(QLocale(QLocale::German));
-    const QString path = files.folder() + QStringLiteral("/strings/Test_de.qm: not a usable string table");
-    QTest::ignoreMessage(QtWarningMsg, qPrintable(path));
-    QCOMPARE(bundle->localizedStringForKey(QStringLiteral("Duplex")), QStringLiteral("Two-sided"));
-}
-
-void BundleTest::unusableCodeNamesFileAndProblem_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("principalClass");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("no file") << QString() << "StubExtension"
-                             << "no such file";
-    QTest::newRow("no plug-in") << QStringLiteral(KELMAR_SOURCE_DIR "/LICENSE") << "StubExtension"
-                                << "libTest.so";
-    QTest::newRow("another class") << QStringLiteral(STUB_EXTENSION) << "Expected"
-                                   << "StubExtension, not Expected";
-    QTest::newRow("no extension") << QStringLiteral(STUB_OTHER_PLUGIN) << "StubExtension"
-                                  << "no print-dialog extension";
+    const auto write = [&files](const QString &language, const QMap<QString, QString> &texts) {
+        files.writeStrings(language, u"Localizable"_s, texts);
+    };
+    write(u"en"_s, {{u"Duplex"_s, u"Two-sided"_s}, {u"Stapler"_s, u"Staple unit"_s}});
+    write(u"de"_s, {{u"Duplex"_s, u"Beidseitig"_s}, {u"Tray"_s, u"Fach"_s}});
+    write(u"de_CH"_s, {{u"Duplex"_s, u"Doppelseitig"_s}});
+    files.writeFile(u"strings/Test_fi.qm"_s, "no string table");
+    const auto text = [&files](const QString &locale, const QString &key, const QString &value = {}) {
+        return files.open(QLocale(locale))->localizedStringForKey(key, value);
+    };
+    QCOMPARE(text(u"de_CH"_s, u"Duplex"_s), u"Doppelseitig"_s);
+    QCOMPARE(text(u"de_CH"_s, u"Tray"_s), u"Fach"_s);
+    QCOMPARE(text(u"de_AT"_s, u"Duplex"_s), u"Beidseitig"_s);
+    QCOMPARE(text(u"de_DE"_s, u"Stapler"_s, u"given"_s), u"Staple unit"_s);
+    QCOMPARE(text(u"de_DE"_s, u"Unknown"_s, u"given"_s), u"given"_s);
+    QCOMPARE(text(u"de_DE"_s, u"Unknown"_s), u"Unknown"_s);
+    QCOMPARE(text(u"C"_s, u"Duplex"_s), u"Two-sided"_s);
+    const QString warning = files.folder() + u"/strings/Test_fi.qm: not a usable string table"_s;
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    QCOMPARE(text(u"fi_FI"_s, u"Duplex"_s), u"Two-sided"_s);
+    // Texts of code stand under their own context, which these tables do not have.
+    QCOMPARE(files.open()->translate("SomeClass", "Duplex"), u"Duplex"_s);
 }
 
 void BundleTest::unusableCodeNamesFileAndProblem()
 {
-    QFETCH(QString, code);
-    QFETCH(QString, principalClass);
-    QFETCH(QString, problem);
     TestBundle files;
-    files.setInfo(Bundle::principalClassKey, principalClass);
-    if (!code.isNull())
-        files.copyFile(code, QStringLiteral("libTest.so"));
+    files.setInfo(Bundle::principalClassKey, u"Expected"_s);
+    const QString path = files.folder() + u"/libTest.so: "_s;
     QString error;
     QVERIFY(!files.open()->principalObject(&error));
-    QVERIFY2(error.startsWith(files.folder() + QStringLiteral("/libTest.so: ")), qPrintable(error));
-    QVERIFY2(error.contains(problem), qPrintable(error));
+    QCOMPARE(error, path + u"there is no such file"_s);
+    const QList<std::pair<QString, QString>> unusable{
+        {QStringLiteral(KELMAR_SOURCE_DIR "/LICENSE"), {}},
+        {QStringLiteral(STUB_EXTENSION), u"the root component is StubExtension, not Expected"_s},
+        {QStringLiteral(STUB_OTHER_PLUGIN), u"Expected is no print-dialog extension"_s}};
+    for (const auto &[code, problem] : unusable) {
+        files.copyFile(code, u"libTest.so"_s);
+        error.clear();
+        QVERIFY(!files.open()->principalObject(&error));
+        QVERIFY2(error.startsWith(path + problem), qPrintable(error));
+    }
 }
 
 void BundleTest::principalObject()
 {
     TestBundle files;
-    files.copyFile(QStringLiteral(STUB_EXTENSION), QStringLiteral("libTest.so"));
+    files.copyFile(QStringLiteral(STUB_EXTENSION), u"libTest.so"_s);
     const auto bundle = files.open();
     QString error;
     platform::PrintDialogExtension *extension = bundle->principalObject(&error);
     QVERIFY2(extension, qPrintable(error));
     QCOMPARE(bundle->principalObject(&error), extension);
-    QVERIFY(extension->initWithBundle(bundle));
-    QVERIFY(extension->PDEPanelsForTypeWithHostInfo(QStringLiteral("test-panels"), nullptr));
-    QVERIFY(!extension->PDEPanelsForTypeWithHostInfo(QStringLiteral("Test-panels"), nullptr));
+    QVERIFY(extension->PDEPanelsForTypeWithHostInfo(u"stub"_s, nullptr));
 }
 
 QTEST_GUILESS_MAIN(BundleTest)

@@ -3,8 +3,8 @@
 
 #include <QObject>
 
-// A Qt plug-in of the right class name that does something else.
-class StubExtension : public QObject
+// A Qt plug-in that does something else.
+class Expected : public QObject
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.kelmar.PrintDialogExtension/1.0")

@@ -10,12 +10,12 @@
 #include <QVBoxLayout>
 
 using platform::TextField;
-using platform::TextFieldDelegate;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 // Upper-cases while typing, adds a full stop at the end, and keeps a text with a "?" in editing.
-class Punctuation : public TextFieldDelegate
+class Punctuation : public platform::TextFieldDelegate
 {
 public:
     void controlTextDidChange(TextField *control, const QVariantMap &userInfo) override
@@ -26,29 +26,11 @@ public:
     }
     bool controlTextShouldEndEditing(TextField *control, QLineEdit *fieldEditor) override
     {
-        if (fieldEditor->text().contains(QLatin1Char('?')))
+        if (fieldEditor->text().contains(u'?'))
             return false;
-        control->setStringValue(fieldEditor->text() + QLatin1Char('.'));
+        control->setStringValue(fieldEditor->text() + u'.');
         return true;
     }
-};
-
-// Two fields and a default button in a dialog that is never shown.
-struct Form
-{
-    Form()
-    {
-        auto *column = new QVBoxLayout(&dialog);
-        column->addWidget(&first);
-        column->addWidget(&second);
-        column->addWidget(&print);
-        print.setDefault(true);
-        first.setDelegate(std::make_shared<Punctuation>());
-    }
-    QDialog dialog;
-    TextField first;
-    TextField second;
-    QPushButton print;
 };
 
 } // namespace
@@ -57,121 +39,115 @@ class TextFieldTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void init();
+    void cleanup() { m_dialog.reset(); }
     void returnCommitsThroughTheDelegate();
-    void refusedReturnDoesNotReachTheDefaultButton();
+    void refusedTextStaysInEditing();
     void losingTheFocusCommits();
-    void contextMenuDoesNotCommit();
     void settingTheValueEndsEditing();
     void resigningInAWindowNeverShown();
-    void resigningKeepsARefusedEdit();
     void commitMayDestroyOtherFields();
+
+private:
+    // Two fields, the first with a delegate, and a default button in a dialog that is not shown.
+    std::unique_ptr<QDialog> m_dialog;
+    TextField *m_first = nullptr;
+    TextField *m_second = nullptr;
+    QPushButton *m_print = nullptr;
 };
+
+void TextFieldTest::init()
+{
+    m_dialog = std::make_unique<QDialog>();
+    auto *column = new QVBoxLayout(m_dialog.get());
+    column->addWidget(m_first = new TextField);
+    column->addWidget(m_second = new TextField);
+    column->addWidget(m_print = new QPushButton);
+    m_print->setDefault(true);
+    m_first->setDelegate(std::make_shared<Punctuation>());
+}
 
 void TextFieldTest::returnCommitsThroughTheDelegate()
 {
-    Form form;
-    QSignalSpy committed(&form.first, &TextField::stringValueCommitted);
-    QTest::keyClick(&form.first, Qt::Key_Return); // nothing was typed
+    QSignalSpy committed(m_first, &TextField::stringValueCommitted);
+    QTest::keyClick(m_first, Qt::Key_Return); // nothing was typed
     QCOMPARE(committed.count(), 0);
-    QTest::keyClicks(&form.first, QStringLiteral("ab"));
-    QCOMPARE(form.first.text(), QStringLiteral("AB"));
-    QCOMPARE(form.first.stringValue(), QString());
-    QVERIFY(form.first.isEditing());
-    QTest::keyClick(&form.first, Qt::Key_Enter);
-    QCOMPARE(form.first.text(), QStringLiteral("AB."));
-    QCOMPARE(form.first.stringValue(), QStringLiteral("AB."));
-    QCOMPARE(committed.count(), 1);
-    QVERIFY(form.first.endEditing());
+    QTest::keyClicks(m_first, u"ab"_s);
+    QCOMPARE(m_first->text(), u"AB"_s);
+    QCOMPARE(m_first->stringValue(), QString());
+    QTest::keyClick(m_first, Qt::Key_Enter);
+    QCOMPARE(m_first->text(), u"AB."_s);
+    QCOMPARE(m_first->stringValue(), u"AB."_s);
+    QVERIFY(m_first->endEditing());
     QCOMPARE(committed.count(), 1);
 }
 
-void TextFieldTest::refusedReturnDoesNotReachTheDefaultButton()
+void TextFieldTest::refusedTextStaysInEditing()
 {
-    Form form;
-    form.dialog.show();
-    QSignalSpy printed(&form.print, &QPushButton::clicked);
-    QTest::keyClicks(&form.first, QStringLiteral("?"));
-    QTest::keyClick(&form.first, Qt::Key_Return);
-    QVERIFY(form.first.isEditing());
-    QCOMPARE(printed.count(), 0);
-    QTest::keyClick(&form.first, Qt::Key_Backspace);
-    QTest::keyClick(&form.first, Qt::Key_Return);
-    QVERIFY(!form.first.isEditing());
+    m_dialog->show();
+    QSignalSpy printed(m_print, &QPushButton::clicked);
+    m_first->setFocus();
+    QTest::keyClicks(m_first, u"?"_s);
+    QTest::keyClick(m_first, Qt::Key_Return);
+    TextField::resignFirstResponder(m_print);
+    QVERIFY(m_first->isEditing());
+    QCOMPARE(m_dialog->focusWidget(), m_first);
+    QCOMPARE(printed.count(), 0); // the default button
+    QTest::keyClick(m_first, Qt::Key_Backspace);
+    QTest::keyClick(m_first, Qt::Key_Return);
+    QVERIFY(!m_first->isEditing());
     QCOMPARE(printed.count(), 1);
 }
 
 void TextFieldTest::losingTheFocusCommits()
 {
-    Form form;
-    form.dialog.show();
-    form.dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form.dialog));
-    form.first.setFocus();
-    QTest::keyClicks(&form.first, QStringLiteral("x"));
-    QTest::keyClick(&form.first, Qt::Key_Tab);
-    QVERIFY(form.second.hasFocus());
-    QCOMPARE(form.first.stringValue(), QStringLiteral("X."));
-}
-
-void TextFieldTest::contextMenuDoesNotCommit()
-{
-    Form form;
-    QTest::keyClicks(&form.first, QStringLiteral("x"));
-    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
-    QCoreApplication::sendEvent(&form.first, &toMenu);
-    QVERIFY(form.first.isEditing());
+    m_dialog->show();
+    m_dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    m_first->setFocus();
+    QTest::keyClicks(m_first, u"x"_s);
+    QFocusEvent toContextMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(m_first, &toContextMenu);
+    QVERIFY(m_first->isEditing());
+    QTest::keyClick(m_first, Qt::Key_Tab);
+    QVERIFY(m_second->hasFocus());
+    QCOMPARE(m_first->stringValue(), u"X."_s);
 }
 
 void TextFieldTest::settingTheValueEndsEditing()
 {
-    Form form;
-    QSignalSpy committed(&form.first, &TextField::stringValueCommitted);
-    QTest::keyClicks(&form.first, QStringLiteral("x"));
-    form.first.setStringValue(QStringLiteral("set"));
-    QVERIFY(!form.first.isEditing());
-    QVERIFY(form.first.endEditing());
-    QCOMPARE(form.first.text(), QStringLiteral("set"));
+    QSignalSpy committed(m_first, &TextField::stringValueCommitted);
+    QTest::keyClicks(m_first, u"x"_s);
+    m_first->setStringValue(u"set"_s);
+    QVERIFY(m_first->endEditing());
+    QCOMPARE(m_first->text(), u"set"_s);
     QCOMPARE(committed.count(), 0);
 }
 
 void TextFieldTest::resigningInAWindowNeverShown()
 {
-    Form form;
-    form.second.setFocus();
-    QTest::keyClicks(&form.first, QStringLiteral("a"));
-    QTest::keyClicks(&form.second, QStringLiteral("b"));
-    TextField::resignFirstResponder(&form.print);
-    QCOMPARE(form.first.stringValue(), QStringLiteral("A."));
-    QCOMPARE(form.second.stringValue(), QStringLiteral("b"));
-    QVERIFY(!form.dialog.focusWidget());
+    m_second->setFocus();
+    QTest::keyClicks(m_first, u"a"_s);
+    QTest::keyClicks(m_second, u"b"_s);
+    TextField::resignFirstResponder(m_print);
+    QCOMPARE(m_first->stringValue(), u"A."_s);
+    QCOMPARE(m_second->stringValue(), u"b"_s);
+    QVERIFY(!m_dialog->focusWidget());
     TextField::resignFirstResponder(nullptr);
 
     TextField alone; // a window of its own
-    QTest::keyClicks(&alone, QStringLiteral("c"));
+    QTest::keyClicks(&alone, u"c"_s);
     TextField::resignFirstResponder(&alone);
-    QCOMPARE(alone.stringValue(), QStringLiteral("c"));
-}
-
-void TextFieldTest::resigningKeepsARefusedEdit()
-{
-    Form form;
-    form.first.setFocus();
-    QTest::keyClicks(&form.first, QStringLiteral("?"));
-    TextField::resignFirstResponder(&form.dialog);
-    QVERIFY(form.first.isEditing());
-    QCOMPARE(form.dialog.focusWidget(), &form.first);
+    QCOMPARE(alone.stringValue(), u"c"_s);
 }
 
 void TextFieldTest::commitMayDestroyOtherFields()
 {
-    QWidget window;
-    auto *first = new TextField(&window);
-    auto *second = new TextField(&window);
-    connect(first, &TextField::stringValueCommitted, second, [second] { delete second; });
-    QTest::keyClicks(first, QStringLiteral("a"));
-    QTest::keyClicks(second, QStringLiteral("b"));
-    TextField::resignFirstResponder(first);
-    QCOMPARE(window.findChildren<TextField *>(), QList<TextField *>{first});
+    connect(m_first, &TextField::stringValueCommitted, m_second, [this] { delete m_second; });
+    QTest::keyClicks(m_first, u"a"_s);
+    QTest::keyClicks(m_second, u"b"_s);
+    TextField::resignFirstResponder(m_first);
+    QCOMPARE(m_dialog->findChildren<TextField *>(), QList<TextField *>{m_first});
 }
 
 QTEST_MAIN(TextFieldTest)

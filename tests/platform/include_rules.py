@@ -1,0 +1,126 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""Checks what each room includes and what the bundle is linked from. Run by ctest as
+include_rules.py WIDGET-HEADERS NINJA BUILD BUNDLE-CODE: Qt's folder of widget headers, the ninja program, the build
+folder, and the path of the bundle's shared object.
+"""
+import pathlib
+import posixpath
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+# Which folders the files of a folder may include from.
+ROOMS = {
+    "platform": {"platform"},
+    "ppd": {"ppd", "platform"},
+    "plugin": {"plugin", "ppd", "platform"},
+    "panelkit": {"panelkit", "plugin", "ppd", "platform"},
+    "device": {"device", "platform"},
+    "panels": {"panels", "panelkit", "plugin", "ppd", "device", "platform"},
+    "host": {"host", "platform"},
+}
+OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
+IN_BUNDLE = {"panelkit", "panels", "plugin", "ppd", "device"}
+
+EXAMPLES = [  # file, header, whether the one may include the other
+    ("panels/print_mode_panel.cpp", "panels/print_mode_panel.h", True),
+    ("panels/print_mode_panel.cpp", "panels/color_settings_1_panel.h", False),
+    ("panels/color_settings_2_panel.cpp", "panels/view_utilities.h", True),
+    ("panels/color_settings_1_panel.h", "device/advanced_color_settings.h", True),
+    ("plugin/manager.cpp", "panelkit/panel_base.h", False),
+    ("ppd/ppd_model.cpp", "plugin/version_info.h", True),
+    ("ppd/ppd_model.cpp", "plugin/manager.h", False),
+    ("ppd/ppd_model.cpp", "QComboBox", False),
+    ("ppd/ppd_model.cpp", "cups/ppd.h", True),
+    ("panelkit/panel_base.cpp", "cups/ppd.h", False),
+    ("host/window/print_window.cpp", "cups/ppd.h", False),
+    ("host/window/print_window.cpp", "QtWidgets/QDialog", True),
+    ("host/core/session.cpp", "QtWidgets/QDialog", False),
+    ("host/core/session.cpp", "ppd/ppd_model.h", False),
+    ("platform/bundle.cpp", "tests/support/test_bundle.h", False),
+    ("device/advanced_color_settings.cpp", "QWidget", True),
+    ("device/advanced_color_settings.cpp", "QLabel", False),
+    ("device/snmp_client.cpp", "net-snmp/net-snmp-config.h", True),
+]
+
+
+def panel_of(path):
+    """print_mode_panel for panels/print_mode_panel.h, None for other files."""
+    match = re.fullmatch(r"panels/(\w+_panel)\.(h|cpp)", path)
+    return match and match[1]
+
+
+def violation(file, header, widget_headers):
+    """Why a file must not include a header, or None when it may. Both are paths below the source folder."""
+    room, header_room = file.split("/")[0], header.split("/")[0]
+    in_core = file.startswith("host/core/")
+    if header == "cups/ppd.h" and room != "ppd" and not in_core:
+        return "the PPD interface of libcups is used by ppd/ and one file of host/core/"
+    is_widget = header.startswith("QtWidgets") or (widget_headers / header.split("/")[-1]).exists()
+    its_window_ends_text_editing = room == "device" and header == "QWidget"
+    if is_widget and (in_core or room in ("ppd", "device")) and not its_window_ends_text_editing:
+        return "there are no widgets here"
+    if room == "ppd" and header == "plugin/version_info.h":
+        return None
+    if header_room in OURS and header_room not in ROOMS[room]:
+        return f"{room}/ must not know {header_room}/"
+    if panel_of(header) not in (None, panel_of(file)):
+        return "only a panel's own source includes it"
+    return None
+
+
+def includes_of(room):
+    """(file, line, header) of every include in the sources of a room."""
+    for path in sorted((ROOT / room).rglob("*")):
+        if path.suffix in (".h", ".cpp", ".c"):
+            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+                if match := re.match(r'\s*#\s*include\s*[<"]([^>"]+)[>"]', line):
+                    yield path.relative_to(ROOT).as_posix(), number, match[1]
+
+
+def linked_sources(link_command):
+    """The source of every object file of a link command. CMake builds ROOM/SOURCE into
+    ROOM/CMakeFiles/TARGET.dir/SOURCE.o, with "__" for each ".."; what moc makes is in TARGET_autogen."""
+    for room, source in re.findall(r"(\S+)/CMakeFiles/[^/ ]+\.dir/(\S+)\.o\b", link_command):
+        yield posixpath.normpath(f"{room}/{source.replace('__/', '../')}")
+
+
+def main(widget_headers, ninja, build, bundle_code):
+    faults = []
+    widget_headers = pathlib.Path(widget_headers)
+    for file, header, allowed in EXAMPLES:
+        if (violation(file, header, widget_headers) is None) != allowed:
+            faults.append(f"the rules are broken: {file} includes {header}")
+
+    doors = []
+    for room in ROOMS:
+        includes = list(includes_of(room))
+        if not includes:
+            faults.append(f"{room}/: no sources found")
+        for file, line, header in includes:
+            if reason := violation(file, header, widget_headers):
+                faults.append(f"{file}:{line}: {header}: {reason}")
+            if room == "host" and header == "cups/ppd.h":
+                doors.append(f"{file}:{line}")
+    if len(doors) > 1:
+        faults.append(f"the host has more than one door to PPDs: {', '.join(doors)}")
+
+    command = [ninja, "-C", build, "-t", "commands", "-s", posixpath.relpath(bundle_code, build)]
+    linked = subprocess.run(command, capture_output=True, text=True, check=True).stdout
+    sources = list(linked_sources(linked))
+    missing = IN_BUNDLE - {source.split("/")[0] for source in sources}
+    faults += [f"{room}/: nothing of it is in the bundle" for room in sorted(missing)]
+    for source in sources:
+        if source.split("/")[0] not in IN_BUNDLE and source != "resources/OrbM880_autogen/mocs_compilation.cpp":
+            faults.append(f"{source}: must not be in the bundle")
+    for archive in re.findall(r"\S+\.a\b", linked):
+        faults.append(f"{archive}: must not be in the bundle")
+    print("\n".join(faults))
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
