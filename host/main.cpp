@@ -14,15 +14,30 @@ using namespace host;
 
 namespace {
 
-// Qt needs to know before it starts whether there will be a window.
-void choosePlatform(int argc, char **argv)
+struct MainText
 {
+    Q_DECLARE_TR_FUNCTIONS(MainText)
+};
+
+// Tells Qt, before it starts, to do without a display where there is none or where no window will be shown.
+// False when there is none: Qt would end the program.
+bool choosePlatform(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return true;
     const bool hasDisplay =
         qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    const bool pictureWithoutDisplay = takesScreenshot(argc, argv) && !hasDisplay;
-    const bool chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    if (!chosen && (runsWithoutWindow(argc, argv) || pictureWithoutDisplay))
+    if (!hasDisplay || runsWithoutWindow(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    return hasDisplay;
+}
+
+// The platform without a display says of every window that it takes no hints about its size.
+QtMessageHandler standardHandler = nullptr;
+void dropOffscreenRemark(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message != QLatin1String("This plugin does not support propagateSizeHints()"))
+        standardHandler(type, context, message);
 }
 
 // The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
@@ -63,8 +78,10 @@ int run(const Arguments &arguments, QFile *out, QFile *err)
 
 int main(int argc, char **argv)
 {
-    choosePlatform(argc, argv);
+    const bool hasDisplay = choosePlatform(argc, argv);
     QApplication app(argc, argv);
+    if (QApplication::platformName() == QLatin1String("offscreen"))
+        standardHandler = qInstallMessageHandler(dropOffscreenRemark);
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
@@ -82,6 +99,13 @@ int main(int argc, char **argv)
         out.write(arguments->help ? helpText().toUtf8()
                                   : QByteArrayLiteral("kelmar-print " KELMAR_VERSION "\n"));
         return ExitSuccess;
+    }
+    if (arguments->needsWindow() && arguments->screenshot.isEmpty() && !hasDisplay) {
+        err.write("kelmar-print: " +
+                  MainText::tr("There is no display to open the dialog on. Use --batch to print without it.")
+                      .toUtf8() +
+                  "\n");
+        return ExitFailure;
     }
     if (!arguments->server.isEmpty())
         qputenv("CUPS_SERVER", arguments->server.toUtf8());

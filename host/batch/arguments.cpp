@@ -234,9 +234,4 @@ bool runsWithoutWindow(int argc, const char *const *argv)
     return hasWord(argc, argv, {"--batch", "--summary", "--list-options", "--help", "--version"});
 }
 
-bool takesScreenshot(int argc, const char *const *argv)
-{
-    return hasWord(argc, argv, {"--screenshot"});
-}
-
 } // namespace host

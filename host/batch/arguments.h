@@ -58,6 +58,5 @@ std::optional<Arguments> parseArguments(const QStringList &words, QString *error
 QString helpText();
 // Whether the program will run without a window, told before Qt reads the command line.
 bool runsWithoutWindow(int argc, const char *const *argv);
-bool takesScreenshot(int argc, const char *const *argv);
 
 } // namespace host

@@ -287,6 +287,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>MainText</name>
+    <message>
+        <source>There is no display to open the dialog on. Use --batch to print without it.</source>
+        <translation>Es gibt keinen Bildschirm für den Dialog. Mit --batch wird ohne ihn gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>

@@ -287,6 +287,13 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>MainText</name>
+    <message>
+        <source>There is no display to open the dialog on. Use --batch to print without it.</source>
+        <translation>Aucun écran pour afficher la boîte de dialogue. Utilisez --batch pour imprimer sans elle.</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>

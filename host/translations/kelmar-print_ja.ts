@@ -287,6 +287,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>MainText</name>
+    <message>
+        <source>There is no display to open the dialog on. Use --batch to print without it.</source>
+        <translation>ダイアログを表示する画面がありません。--batch を使うとダイアログなしで印刷できます。</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>

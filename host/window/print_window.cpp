@@ -44,7 +44,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     build();
     connectAll();
     showState(State::Unavailable);
-    resize(720, 560);
+    resize(720, 600);
 }
 
 PrintWindow::~PrintWindow()
