@@ -91,9 +91,10 @@ bool QVPDE_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)
 
 void QVPDE_M880::loadChoiceLists()
 {
+    const QStringList options = supportedPPDOptionKeys(); // settles the list even without a PPD
     if (!m_manager->ppd())
         return;
-    for (const QString &option : supportedPPDOptionKeys()) {
+    for (const QString &option : options) {
         const auto choices =
             m_manager->ppd()->localizedChoicesForOptionWithBundle(option, m_manager->bundle().get());
         if (!choices)
@@ -152,6 +153,11 @@ void QVPDE_M880::setSupportedPPDOptionKeys(const QStringList &keys)
     m_supportedPPDOptionKeys = keys;
 }
 
+const std::optional<QStringList> &QVPDE_M880::supportedExtensionOptionKeys() const
+{
+    return m_supportedExtensionOptionKeys;
+}
+
 void QVPDE_M880::setSupportedExtensionOptionKeys(const QStringList &keys)
 {
     m_supportedExtensionOptionKeys = keys;
@@ -176,8 +182,10 @@ QVariant QVPDE_M880::choiceIndex(const QString &option)
 {
     const QVariantList choices = valueForKey(option + choicesSuffix).toList();
     const QVariant current = valueForKey(option);
+    if (current.typeId() != QMetaType::QString) // a number is no keyword, however it is spelt
+        return {};
     const auto found = std::ranges::find_if(choices, [&current](const QVariant &choice) {
-        return current.isValid() && choice.toMap().value(QVPPDChoiceKey).toString() == current.toString();
+        return choice.toMap().value(QVPPDChoiceKey).toString() == current.toString();
     });
     return found == choices.end() ? QVariant() : QVariant(int(found - choices.begin()));
 }
@@ -309,6 +317,7 @@ void QVPDE_M880::sliderDidMove(QObject *sender)
 void QVPDE_M880::observeValueForKeyPathOfObjectChangeContext(const QString &, platform::KeyValueObject *,
                                                              const QVariantMap &change, QObject *context)
 {
+    // Through the property, as a binding does: a slider may tell what it is shown from what it is moved to.
     if (auto *slider = qobject_cast<QSlider *>(context))
-        slider->setValue(qRound(change.value(platform::NSKeyValueChangeNewKey).toDouble()));
+        slider->setProperty("value", qRound(change.value(platform::NSKeyValueChangeNewKey).toDouble()));
 }

@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "panelkit/panel_protocols.h"
 #include "platform/key_value_object.h"
 #include "platform/layout_loader.h"
-#include "platform/print_dialog.h"
 
 #include <QMap>
 #include <QPointer>
@@ -19,22 +19,6 @@
 class QVPDEManager_M880;
 
 extern const QString QVOptionChangedNotification; // "QVOptionChanged"
-
-// The panel protocol inside the plug-in.
-class QVCocoaPDE_M880 : public platform::PrintDialogPanel
-{
-public:
-    virtual QStringList supportedPPDOptionKeys() = 0;
-};
-
-// Implemented as well by a panel class that has its layout loaded by the base.
-class QVPDELoading_M880
-{
-public:
-    virtual ~QVPDELoading_M880();
-    // Name of the layout for a printer model; empty for a panel without an interface.
-    virtual QString nibNameForModel(const QString &model) const = 0;
-};
 
 // Observed key path to slider; exists only where the slider path of older hosts is in use.
 using SliderRegistry = QMap<QString, QPointer<QSlider>>;
@@ -51,13 +35,10 @@ class QVPDE_M880 : public platform::KeyValueObject, public QVCocoaPDE_M880, publ
 public:
     // The panel of class T for one dialog; null when its initWithManager() declines.
     template <typename T>
-    static std::unique_ptr<platform::PrintDialogPanel>
-    pdeWithManager(std::shared_ptr<QVPDEManager_M880> manager)
+    static std::unique_ptr<T> pdeWithManager(std::shared_ptr<QVPDEManager_M880> manager)
     {
         auto panel = std::make_unique<T>();
-        if (!panel->initWithManager(std::move(manager)))
-            return nullptr;
-        return panel;
+        return panel->initWithManager(std::move(manager)) ? std::move(panel) : nullptr;
     }
     QVPDE_M880();
     ~QVPDE_M880() override;
@@ -80,10 +61,7 @@ public:
     QWidget *panelView() override { return m_view; }
     QStringList supportedPPDOptionKeys() override { return m_supportedPPDOptionKeys.value_or(QStringList()); }
     void setSupportedPPDOptionKeys(const QStringList &keys);
-    const std::optional<QStringList> &supportedExtensionOptionKeys() const
-    {
-        return m_supportedExtensionOptionKeys;
-    }
+    const std::optional<QStringList> &supportedExtensionOptionKeys() const;
     void setSupportedExtensionOptionKeys(const QStringList &keys);
 
     QVariant valueForKey(const QString &key) override;

@@ -15,8 +15,15 @@ bool isNumber(const QVariant &value)
 {
     switch (value.typeId()) {
     case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
     case QMetaType::Int:
     case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
     case QMetaType::Double:
@@ -27,12 +34,18 @@ bool isNumber(const QVariant &value)
     }
 }
 
-// The text of a value; a boolean counts as the number it is.
+// The text of a value. A boolean and a small integer count as the numbers they are, not as words and letters.
 QString textualDescription(const QVariant &value)
 {
-    if (value.typeId() == QMetaType::Bool)
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
         return QString::number(value.toInt());
-    return value.toString();
+    default:
+        return value.toString();
+    }
 }
 
 qint32 leadingIntegerOrZero(const QString &text)

@@ -55,11 +55,13 @@ public:
     QVPPD_M880 &operator=(const QVPPD_M880 &) = delete;
 
     ppd_file_s *cupsPPD() const { return m_ppd; }
+    // Null is allowed: no option and no attribute is found then.
     void setCupsPPD(ppd_file_s *ppd) { m_ppd = ppd; }
     // Of the attribute "FileVersion"; null when the PPD has none.
     const std::shared_ptr<const QVVersionInfo_M880> &version() const { return m_version; }
+    // Nil when the PPD names no model.
     const QString &modelname() const { return m_modelname; }
-    // The file name the PPD declares for itself, not where it was read from.
+    // The file name the PPD declares for itself, not where it was read from; nil when it declares none.
     QString ppdFilename() const;
 
     // Every option keyword of the top-level groups in PPD order; built once.
@@ -99,7 +101,7 @@ private:
     void loadConstraints();
 
     ppd_file_s *m_ppd = nullptr;
-    quint64 m_encoding = 0; // kept for the record's layout; never set
+    quint64 m_encoding = 0; // declared, never set: every text is read as UTF-8
     std::shared_ptr<const QVVersionInfo_M880> m_version;
     QString m_modelname;
     ConstraintTable m_constraints;

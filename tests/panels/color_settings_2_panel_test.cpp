@@ -237,8 +237,10 @@ void ColorSettings2PanelTest::foreignValueIsShownNotChanged_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::addColumn<QString>("label");
-    for (const auto &[choice, label] : {std::pair("9", "+9"), std::pair("3", "+3"), std::pair("Custom", "0")})
-        QTest::newRow(choice) << choice << label;
+    QTest::addColumn<int>("thumb");
+    QTest::newRow("beyond the range") << u"9"_s << u"+9"_s << 5;
+    QTest::newRow("between choices") << u"3"_s << u"+3"_s << 3;
+    QTest::newRow("no number") << u"Custom"_s << u"0"_s << 0;
 }
 
 void ColorSettings2PanelTest::foreignValueIsShownNotChanged()
@@ -251,6 +253,7 @@ void ColorSettings2PanelTest::foreignValueIsShownNotChanged()
     panel->setValueForKey(choice, u"SharpnessVRN"_s);
     QCOMPARE(value(panel, u"SharpnessVRN"_s), choice);
     QTEST(widget<QVSignedValueLabel_M880>(view, "sharpnessValue")->text(), "label");
+    QTEST(widget<QVChoiceSlider_M880>(view, "sharpnessSlider")->value(), "thumb");
     view->resize(view->width() + 50, view->height());
     panel->saveValuesAndReturnError(nullptr);
     QCOMPARE(value(panel, u"SharpnessVRN"_s), choice);

@@ -109,6 +109,7 @@ class PanelLayoutsTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void makeUpTheDialogInOrder();
     void fitAndCanBeReached_data();
     void fitAndCanBeReached();
     void everyTextIsTranslated_data();
@@ -120,6 +121,25 @@ private Q_SLOTS:
 private:
     void checkView(QWidget *view);
 };
+
+void PanelLayoutsTest::makeUpTheDialogInOrder()
+{
+    PanelFixture dialog("kelm880");
+    QStringList kinds;
+    for (const auto &panel : dialog.panels())
+        kinds += panel->panelKind();
+    const QString kind = u"com.kelmar.pde.%1"_s;
+    QCOMPARE(kinds, (QStringList{kind.arg(u"print-mode"), kind.arg(u"color-settings-1"),
+                                 kind.arg(u"color-settings-2")}));
+
+    QVPDEFactory_M880 factory; // without a bundle there are no layouts, so no panel comes about
+    factory.initWithBundle(nullptr);
+    for (const QString &name : {u"PrintMode"_s, u"ColorSettings1"_s, u"ColorSettings2"_s}) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"QVPDE%1_M880\" was not loaded"_s.arg(name)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"no bundle to load \"%1"_s.arg(name)));
+    }
+    QVERIFY(factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &dialog.host)->empty());
+}
 
 void PanelLayoutsTest::fitAndCanBeReached_data()
 {

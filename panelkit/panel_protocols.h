@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/print_dialog.h"
+
+#include <QString>
+#include <QStringList>
+
+// The panel protocol inside the plug-in.
+class QVCocoaPDE_M880 : public platform::PrintDialogPanel
+{
+public:
+    virtual QStringList supportedPPDOptionKeys() = 0;
+};
+
+// Implemented as well by a panel class that has its layout loaded by the base.
+class QVPDELoading_M880
+{
+public:
+    virtual ~QVPDELoading_M880();
+    // Name of the layout for a printer model; empty for a panel without an interface.
+    virtual QString nibNameForModel(const QString &model) const = 0;
+};
