@@ -47,77 +47,61 @@ class SliderNotificationsTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void slidersFollowAndSetTheKey();
-    void slidersReportWhileHeld();
-    void olderPathIsTakenWhereItBelongs();
+    void slidersFollowAndSetTheKey()
+    {
+        const SampleDialog dialog(ppdBody);
+        SliderPanel panel(dialog);
+        QSlider *knob = panel.slider();
+        panel.setValueForKey(u"-3"_s, saturation);
+        QCOMPARE(knob->value(), -3);
+        QTest::keyClick(knob, Qt::Key_Right);
+        QCOMPARE(panel.valueForKey(saturation), QVariant(u"-2"_s));
+        QCOMPARE(knob->value(), -2);
+        knob->setSliderDown(true);
+        knob->setSliderPosition(4);
+        QTRY_COMPARE(panel.valueForKey(saturation), QVariant(u"4"_s)); // while it is held
+        knob->setSliderPosition(2);
+        knob->setSliderDown(false);
+        QCOMPARE(panel.valueForKey(saturation), QVariant(u"2"_s));
+        QCOMPARE(knob->value(), 2);
+    }
+
+    void olderPathIsTakenWhereItBelongs()
+    {
+        const auto system = QVPDEManager_M880::darwinVersion();
+        const bool older = KELMAR_OLDER_HOSTS && system && system->compare(QVLeopardDarwinVersion) < 0;
+        const SampleDialog dialog(ppdBody);
+        SliderPanel panel(dialog);
+        QCOMPARE(platform::Binding::infoForBinding(panel.slider(), u"value"_s) == nullptr, older);
+        QCOMPARE(panel.slider()->hasTracking(), !older);
+
+        std::unique_ptr<SliderRegistry> registry;
+        QVERIFY(!QVDetachSliderBindingsInPDE(&panel, &registry)); // nothing is left to take off
+        QCOMPARE(bool(registry), older);
+        QVERIFY(!QVDetachSliderBindingsInPDE(&panel, nullptr));
+        QVERIFY(!QVAttachNotificationsForSlidersInPDE(&panel, registry.get()));
+    }
+
 #if KELMAR_OLDER_HOSTS
-    void lastSubviewDecidesTheResult();
+    void lastSubviewDecidesTheResult()
+    {
+        const SampleDialog dialog(ppdBody);
+        SliderPanel panel(dialog);
+        QWidget view;
+        QWidget box(&view);
+        auto *inBox = new QSlider(&box);
+        platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
+        SliderRegistry registry;
+        QVERIFY(QVDetachSliderBindingsInView(&view, &registry));
+        QCOMPARE(registry.value(u"SaturationChoice"_s), inBox);
+
+        platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
+        QWidget last(&view);
+        QVERIFY(!QVDetachSliderBindingsInView(&view, &registry));
+        QVERIFY(!platform::Binding::infoForBinding(inBox, u"value"_s));
+    }
 #endif
 };
-
-void SliderNotificationsTest::slidersFollowAndSetTheKey()
-{
-    const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog);
-    panel.setValueForKey(u"-3"_s, saturation);
-    QCOMPARE(panel.slider()->value(), -3);
-    QTest::keyClick(panel.slider(), Qt::Key_Right);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(u"-2"_s));
-    QCOMPARE(panel.slider()->value(), -2);
-    QTest::keyClick(panel.slider(), Qt::Key_End);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(u"5"_s));
-}
-
-void SliderNotificationsTest::slidersReportWhileHeld()
-{
-    const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog);
-    QSlider *knob = panel.slider();
-    knob->setSliderDown(true);
-    knob->setSliderPosition(4);
-    QTRY_COMPARE(panel.valueForKey(saturation), QVariant(u"4"_s));
-    knob->setSliderPosition(2);
-    knob->setSliderDown(false);
-    QCOMPARE(panel.valueForKey(saturation), QVariant(u"2"_s));
-    QCOMPARE(knob->value(), 2);
-}
-
-void SliderNotificationsTest::olderPathIsTakenWhereItBelongs()
-{
-    const auto system = QVPDEManager_M880::darwinVersion();
-    const bool older = KELMAR_OLDER_HOSTS && system && system->compare(QVLeopardDarwinVersion) < 0;
-    const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog);
-    const bool bound = platform::Binding::infoForBinding(panel.slider(), u"value"_s);
-    QCOMPARE(bound, !older);
-    QCOMPARE(panel.slider()->hasTracking(), !older);
-
-    std::unique_ptr<SliderRegistry> registry;
-    QVERIFY(!QVDetachSliderBindingsInPDE(&panel, &registry)); // nothing is left to take off
-    QCOMPARE(bool(registry), older);
-    QVERIFY(!QVDetachSliderBindingsInPDE(&panel, nullptr));
-    QVERIFY(!QVAttachNotificationsForSlidersInPDE(&panel, registry.get()));
-}
-
-#if KELMAR_OLDER_HOSTS
-void SliderNotificationsTest::lastSubviewDecidesTheResult()
-{
-    const SampleDialog dialog(ppdBody);
-    SliderPanel panel(dialog);
-    QWidget view;
-    QWidget box(&view);
-    auto *inBox = new QSlider(&box);
-    platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
-    SliderRegistry registry;
-    QVERIFY(QVDetachSliderBindingsInView(&view, &registry));
-    QCOMPARE(registry.value(u"SaturationChoice"_s), inBox);
-
-    platform::Binding::bind(inBox, u"value"_s, &panel, u"SaturationChoice"_s);
-    QWidget last(&view);
-    QVERIFY(!QVDetachSliderBindingsInView(&view, &registry));
-    QVERIFY(!platform::Binding::infoForBinding(inBox, u"value"_s));
-}
-#endif
 
 QTEST_MAIN(SliderNotificationsTest)
 #include "slider_notifications_test.moc"

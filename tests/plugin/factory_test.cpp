@@ -42,18 +42,22 @@ using Maker = std::function<std::unique_ptr<platform::PrintDialogPanel>(std::sha
 class RosterEntry
 {
 public:
-    explicit RosterEntry(const QString &panelName, Maker maker = nullptr)
+    using Maker =
+        std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>;
+
+    RosterEntry(const QString &panelName, Maker maker)
         : m_className(PanelRoster::classNameForPanel(panelName))
     {
-        if (!maker) {
-            maker = [panelName](std::shared_ptr<QVPDEManager_M880> manager) {
-                auto panel = std::make_unique<BarePanel>();
-                panel->name = panelName;
-                panel->manager = std::move(manager);
-                return panel;
-            };
-        }
-        PanelRoster::registerClass({m_className, maker});
+        PanelRoster::registerClass({m_className, std::move(maker)});
+    }
+    explicit RosterEntry(const QString &panelName)
+        : RosterEntry(panelName, [panelName](std::shared_ptr<QVPDEManager_M880> manager) {
+              auto panel = std::make_unique<BarePanel>();
+              panel->name = panelName;
+              panel->manager = std::move(manager);
+              return panel;
+          })
+    {
     }
     ~RosterEntry() { PanelRoster::unregisterClass(m_className); }
     Q_DISABLE_COPY_MOVE(RosterEntry)
@@ -62,17 +66,10 @@ private:
     QString m_className;
 };
 
+const QString panelType = u"BDB091F4-E57F-11D3-B5CC-0050E4603277"_s;
 const QString printMode = u"PrintMode"_s;
 const QString colorSettings1 = u"ColorSettings1"_s;
 const QString colorSettings2 = u"ColorSettings2"_s;
-
-QStringList names(const platform::PrintDialogPanels &panels)
-{
-    QStringList result;
-    for (const auto &panel : panels)
-        result.append(panel->panelName());
-    return result;
-}
 
 const QVPDEManager_M880 &managerOf(const platform::PrintDialogPanels &panels, size_t index)
 {
@@ -85,101 +82,85 @@ class FactoryTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void declinesOtherPanelTypes();
-    void offersTheClassesOfThisBuildInOrder();
-    void configuresOneManagerForADialog();
-    void worksForOlderHostsAndWithoutPpd();
-    void skipsAPanelThatRaises();
-    void passesOtherExceptionsOn();
+    void initTestCase() { QVERIFY(m_factory.initWithBundle(m_bundle)); }
+
+    void declinesOtherPanelTypes()
+    {
+        const RosterEntry entry(printMode);
+        ResolvingRecordingHost host(m_ppd.get());
+        QVERIFY(!m_factory.PDEPanelsForTypeWithHostInfo(panelType.toLower(), &host));
+        QCOMPARE(host.ppdRequests, 0);
+    }
+
+    void makesThePanelsOfThisBuildInOrder()
+    {
+        const RosterEntry last(u"Watermark"_s);
+        const RosterEntry second(colorSettings2);
+        const RosterEntry unknown(u"Stapler"_s);
+        const RosterEntry first(printMode);
+        const RosterEntry declining(colorSettings1, [](auto) { return nullptr; });
+        const RosterEntry failing(u"Fax"_s, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
+            throw platform::Exception(platform::Exception::layoutName, u"Fax.ui is missing"_s);
+        });
+        ResolvingRecordingHost host(m_ppd.get());
+        QTest::ignoreMessage(QtWarningMsg,
+                             "\"QVPDEFax_M880\" was not loaded because an unexpected error occurred.");
+        QTest::ignoreMessage(QtWarningMsg, "LayoutException: Fax.ui is missing");
+        QStringList names;
+        for (const auto &panel : panelsFor(&host))
+            names.append(panel->panelName());
+        QCOMPARE(names, (QStringList{printMode, colorSettings2, u"Watermark"_s}));
+    }
+
+    void configuresOneManagerForADialog()
+    {
+        const RosterEntry first(printMode);
+        const RosterEntry second(colorSettings1);
+        ResolvingRecordingHost host(m_ppd.get());
+        const auto panels = panelsFor(&host);
+        const auto others = panelsFor(&host);
+        const QVPDEManager_M880 &manager = managerOf(panels, 0);
+        QCOMPARE(&managerOf(panels, 1), &manager);
+        QVERIFY(&managerOf(others, 0) != &manager);
+        QCOMPARE(manager.bundle(), m_bundle);
+        QCOMPARE(manager.bundleVersion()->stringValue(), u"1.0.0"_s);
+        QCOMPARE(manager.host(), static_cast<platform::PrintDialogHost *>(&host));
+        QCOMPARE(manager.ppd()->cupsPPD(), m_ppd.get());
+        QCOMPARE(manager.currentModel(), u"KELMAR OrbM880Series"_s);
+        QVERIFY(manager.useConstraintHandling());
+    }
+
+    void worksForOlderHostsAndWithoutHostOrPpd()
+    {
+        const RosterEntry entry(printMode);
+        RecordingHost older;
+        for (platform::PrintDialogHost *host : {static_cast<platform::PrintDialogHost *>(&older), {}}) {
+            const auto panels = panelsFor(host);
+            QVERIFY(!managerOf(panels, 0).useConstraintHandling());
+            QVERIFY(!managerOf(panels, 0).ppd());
+            QVERIFY(managerOf(panels, 0).currentModel().isNull());
+        }
+    }
+
+    void passesOtherExceptionsOn()
+    {
+        const RosterEntry failing(printMode, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
+            throw std::runtime_error("out of luck");
+        });
+        ResolvingRecordingHost host(m_ppd.get());
+        QVERIFY_EXCEPTION_THROWN(panelsFor(&host), std::runtime_error);
+    }
 
 private:
-    std::optional<platform::PrintDialogPanels> panelsFor(platform::PrintDialogHost *host)
+    platform::PrintDialogPanels panelsFor(platform::PrintDialogHost *host)
     {
-        return m_factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, host);
+        return std::move(m_factory.PDEPanelsForTypeWithHostInfo(panelType, host).value());
     }
 
     std::shared_ptr<platform::Bundle> m_bundle = TestBundle().open();
     InlinePpd m_ppd{"*ModelName: \"KELMAR OrbM880Series\"\n"};
     QVPDEFactory_M880 m_factory;
 };
-
-void FactoryTest::initTestCase()
-{
-    QVERIFY(m_factory.initWithBundle(m_bundle));
-}
-
-void FactoryTest::declinesOtherPanelTypes()
-{
-    const RosterEntry entry(printMode);
-    ResolvingRecordingHost host(m_ppd.get());
-    QVERIFY(!m_factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType.toLower(), &host));
-    QCOMPARE(host.ppdRequests, 0);
-}
-
-void FactoryTest::offersTheClassesOfThisBuildInOrder()
-{
-    const RosterEntry last(u"Watermark"_s);
-    const RosterEntry second(colorSettings2);
-    const RosterEntry unknown(u"Stapler"_s);
-    const RosterEntry first(printMode);
-    const RosterEntry declining(colorSettings1, [](auto) { return nullptr; });
-    ResolvingRecordingHost host(m_ppd.get());
-    const auto panels = panelsFor(&host);
-    QCOMPARE(names(panels.value()), (QStringList{printMode, colorSettings2, u"Watermark"_s}));
-}
-
-void FactoryTest::configuresOneManagerForADialog()
-{
-    const RosterEntry first(printMode);
-    const RosterEntry second(colorSettings1);
-    ResolvingRecordingHost host(m_ppd.get());
-    const auto panels = panelsFor(&host).value();
-    const auto others = panelsFor(&host).value();
-
-    const QVPDEManager_M880 &manager = managerOf(panels, 0);
-    QCOMPARE(&managerOf(panels, 1), &manager);
-    QVERIFY(&managerOf(others, 0) != &manager);
-    QCOMPARE(manager.bundle(), m_bundle);
-    QCOMPARE(manager.bundleVersion()->stringValue(), u"1.0.0"_s);
-    QCOMPARE(manager.host(), static_cast<platform::PrintDialogHost *>(&host));
-    QCOMPARE(manager.ppd()->cupsPPD(), m_ppd.get());
-    QCOMPARE(manager.currentModel(), u"KELMAR OrbM880Series"_s);
-    QVERIFY(manager.useConstraintHandling());
-}
-
-void FactoryTest::worksForOlderHostsAndWithoutPpd()
-{
-    const RosterEntry entry(printMode);
-    RecordingHost host;
-    const auto panels = panelsFor(&host).value();
-    QVERIFY(!managerOf(panels, 0).useConstraintHandling());
-    QVERIFY(!managerOf(panels, 0).ppd());
-    QVERIFY(managerOf(panels, 0).currentModel().isNull());
-}
-
-void FactoryTest::skipsAPanelThatRaises()
-{
-    const RosterEntry failing(printMode, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
-        throw platform::Exception(platform::Exception::layoutName, u"PrintMode.ui is missing"_s);
-    });
-    const RosterEntry sound(colorSettings1);
-    ResolvingRecordingHost host(m_ppd.get());
-    QTest::ignoreMessage(QtWarningMsg,
-                         "\"QVPDEPrintMode_M880\" was not loaded because an unexpected error occurred.");
-    QTest::ignoreMessage(QtWarningMsg, "LayoutException: PrintMode.ui is missing");
-    const auto panels = panelsFor(&host);
-    QCOMPARE(names(panels.value()), (QStringList{colorSettings1}));
-}
-
-void FactoryTest::passesOtherExceptionsOn()
-{
-    const RosterEntry failing(printMode, [](auto) -> std::unique_ptr<platform::PrintDialogPanel> {
-        throw std::runtime_error("out of luck");
-    });
-    ResolvingRecordingHost host(m_ppd.get());
-    QVERIFY_EXCEPTION_THROWN(panelsFor(&host), std::runtime_error);
-}
 
 QTEST_GUILESS_MAIN(FactoryTest)
 #include "factory_test.moc"

@@ -3,8 +3,10 @@
 
 #include "platform/bundle.h"
 #include "plugin/manager.h"
+#include "plugin/model_names.h"
 #include "plugin/version_info.h"
 #include "ppd/ppd_model.h"
+#include "tests/ppds/family.h"
 #include "tests/support/inline_ppd.h"
 #include "tests/support/recording_host.h"
 
@@ -47,151 +49,108 @@ const QString foreign = u"com.kelmar.foreign"_s;
 
 } // namespace
 
+// Hosts of the newer kind are read and written through the PPD's marks and the job's settings, those of the
+// older kind through the ticket of their session.
 class ManagerTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void tellsVersions();
-    void readsMarkedThenDefaultThenSetting();
-    void readsEveryOptionWhenNoneIsNamed();
-    void tellsTheHostBeforeItWrites();
-    void writesWhatIsNoChoiceIntoTheSettings();
-    void writesEveryEntryWhenNoKeyIsNamed();
-    void survivesWithoutHostAndPpd();
+    void tellsVersions()
+    {
+        QCOMPARE(QVPDEManager_M880::managerVersion()->stringValue(), u"1.01.0"_s);
+        const QString release = QSysInfo::kernelVersion();
+        const auto system = QVPDEManager_M880::darwinVersion();
+        QCOMPARE(bool(system), release.count(u'.') <= 2);
+        if (system)
+            QCOMPARE(system->compare(release), 0);
+    }
+
+    void namesTheModelsAsTheirPpdsDo()
+    {
+        const std::array names{QVAlder, QVBirch,  QVCedar, QVDogwood, QVElm,
+                               QVFir,   QVGinkgo, QVHazel, QVIvy,     QVJuniper};
+        for (size_t i = 0; i < family.size(); ++i)
+            QCOMPARE(names.at(i), QString::fromLatin1(family.at(i).modelName));
+    }
+
+    void readsMarkedThenDefaultThenSetting()
+    {
+        Dialog<ResolvingRecordingHost> dialog;
+        for (const QString &key : {colorType, halftone, stamp, foreign})
+            dialog.host.settings.setValue(key, u"from settings"_s);
+        dialog.ppd.unmarkAll();
+        dialog.manager.ppd()->markChoiceForOption(u"Mono"_s, colorType);
+        QVariantMap expected{{colorType, u"Mono"_s}, {halftone, u"Fine"_s}, {stamp, u"from settings"_s}};
+        QCOMPARE(dialog.manager.ppdDictionaryForOptions({}).value(), expected);
+        expected.insert(foreign, u"from settings"_s);
+        QCOMPARE(dialog.manager.ppdDictionaryForOptions({colorType, halftone, stamp, foreign, u"Nowhere"_s})
+                     .value(),
+                 expected);
+    }
+
+    void tellsTheHostBeforeItWrites()
+    {
+        Dialog<ResolvingRecordingHost> dialog;
+        dialog.host.settings.setValue(stamp, u"old"_s);
+        QStringList before;
+        dialog.host.onTold = [&](const QString &keyword) {
+            before.append(dialog.marked(colorType) + dialog.host.settings.value(keyword).toString());
+        };
+        // A number is no choice, so it becomes a setting; nil takes a setting away.
+        dialog.manager.setPpdDictionaryForOptions(
+            {{colorType, u"Mono"_s}, {foreign, u"new"_s}, {halftone, 2}},
+            {foreign, colorType, stamp, halftone});
+        QCOMPARE(before, (QStringList{u"Auto"_s, u"Auto"_s, u"Monoold"_s, u"Mono"_s}));
+        using Told = std::vector<std::pair<QString, QVariant>>;
+        QCOMPARE(dialog.host.told,
+                 (Told{{foreign, u"new"_s}, {colorType, u"Mono"_s}, {stamp, {}}, {halftone, 2}}));
+        QCOMPARE(dialog.marked(colorType), u"Mono"_s);
+        QCOMPARE(dialog.marked(halftone), u"Fine"_s);
+        QCOMPARE(dialog.host.settings.values(), (QVariantMap{{foreign, u"new"_s}, {halftone, 2}}));
+        dialog.host.onTold = nullptr;
+        dialog.manager.setPpdDictionaryForOptions({{halftone, u"Coarse"_s}}, {}); // no keys: all entries
+        QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
+    }
+
+    void survivesWithoutHostAndPpd()
+    {
+        QVPDEManager_M880 manager;
+        manager.setUseConstraintHandling(true);
+        manager.setBundle(nullptr);
+        manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {});
+        QCOMPARE(manager.ppdDictionaryForOptions({colorType}).value(), QVariantMap());
+        QCOMPARE(manager.localizedStringForKey(colorType), colorType);
+        QVERIFY(!manager.bundleVersion());
+    }
+
+    void servesOlderHostsWhereTheBuildHasThem()
+    {
+        Dialog<RecordingHost> dialog;
+        const QVariantMap choices{
+            {colorType, u"Mono"_s}, {halftone, u"Coarse"_s}, {foreign, u"x"_s}, {stamp, QVariant()}};
+        // Without a ticket nothing is read, and marks are all that is written.
+        QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
+        dialog.manager.setPpdDictionaryForOptions(choices, {colorType});
+        QCOMPARE(dialog.marked(colorType), KELMAR_OLDER_HOSTS ? u"Mono"_s : u"Auto"_s);
 #if KELMAR_OLDER_HOSTS
-    void readsTheTicket();
-    void writesTheTicketAndMarks();
-    void survivesAMissingTicket();
-#else
-    void takesNoPartWithoutConstraintHandling();
+        auto &inTicket = dialog.host.session.tickets[u"PMPrintSettingsTicket"_s].ppdDictionary;
+        inTicket = QVariantMap{{colorType, u"Color"_s}, {halftone, u"Fine"_s}, {stamp, QVariant()}};
+        QCOMPARE(dialog.manager.ppdDictionaryForOptions({colorType, stamp, foreign}).value(),
+                 (QVariantMap{{colorType, u"Color"_s}}));
+        QVERIFY(!dialog.manager.ppdDictionaryForOptions({}));
+
+        inTicket->insert(stamp, u"On"_s);
+        dialog.manager.setPpdDictionaryForOptions(choices, {colorType, foreign, stamp});
+        QCOMPARE(inTicket.value(),
+                 (QVariantMap{
+                     {colorType, u"Mono"_s}, {halftone, u"Fine"_s}, {foreign, u"x"_s}, {stamp, u"On"_s}}));
+        QCOMPARE(dialog.marked(halftone), u"Fine"_s);
+        dialog.manager.setPpdDictionaryForOptions({{halftone, u"Coarse"_s}}, {});
+        QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
 #endif
+        QVERIFY(dialog.host.settings.values().isEmpty());
+    }
 };
-
-void ManagerTest::tellsVersions()
-{
-    QCOMPARE(QVPDEManager_M880::managerVersion()->stringValue(), u"1.01.0"_s);
-    const QString release = QSysInfo::kernelVersion();
-    const auto system = QVPDEManager_M880::darwinVersion();
-    QCOMPARE(bool(system), release.count(u'.') <= 2);
-    if (system)
-        QCOMPARE(system->compare(release), 0);
-}
-
-void ManagerTest::readsMarkedThenDefaultThenSetting()
-{
-    Dialog<ResolvingRecordingHost> dialog;
-    dialog.ppd.unmarkAll();
-    dialog.manager.ppd()->markChoiceForOption(u"Mono"_s, colorType);
-    for (const QString &key : {colorType, halftone, stamp, foreign})
-        dialog.host.settings.setValue(key, u"from settings"_s);
-    const auto choices =
-        dialog.manager.ppdDictionaryForOptions({colorType, halftone, stamp, foreign, u"Nowhere"_s});
-    QCOMPARE(choices.value(), (QVariantMap{{colorType, u"Mono"_s},
-                                           {halftone, u"Fine"_s},
-                                           {stamp, u"from settings"_s},
-                                           {foreign, u"from settings"_s}}));
-}
-
-void ManagerTest::readsEveryOptionWhenNoneIsNamed()
-{
-    Dialog<ResolvingRecordingHost> dialog;
-    dialog.host.settings.setValue(foreign, 1);
-    QCOMPARE(dialog.manager.ppdDictionaryForOptions({}).value(),
-             (QVariantMap{{colorType, u"Auto"_s}, {halftone, u"Fine"_s}}));
-}
-
-void ManagerTest::tellsTheHostBeforeItWrites()
-{
-    Dialog<ResolvingRecordingHost> dialog;
-    QStringList before;
-    dialog.host.onTold = [&](const QString &keyword) {
-        before.append(keyword == colorType ? dialog.marked(colorType)
-                                           : dialog.host.settings.value(keyword).toString());
-    };
-    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}, {foreign, u"new"_s}},
-                                              {foreign, colorType, stamp});
-    QCOMPARE(before, (QStringList{QString(), u"Auto"_s, QString()}));
-    using Told = std::vector<std::pair<QString, QVariant>>;
-    QCOMPARE(dialog.host.told, (Told{{foreign, u"new"_s}, {colorType, u"Mono"_s}, {stamp, {}}}));
-    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
-    QCOMPARE(dialog.host.settings.values(), (QVariantMap{{foreign, u"new"_s}}));
-}
-
-void ManagerTest::writesWhatIsNoChoiceIntoTheSettings()
-{
-    Dialog<ResolvingRecordingHost> dialog;
-    dialog.host.settings.setValue(halftone, u"old"_s);
-    dialog.manager.setPpdDictionaryForOptions({{colorType, 2}}, {colorType, halftone});
-    QCOMPARE(dialog.marked(colorType), u"Auto"_s);
-    QCOMPARE(dialog.host.settings.values(), (QVariantMap{{colorType, 2}})); // nil took the other away
-}
-
-void ManagerTest::writesEveryEntryWhenNoKeyIsNamed()
-{
-    Dialog<ResolvingRecordingHost> dialog;
-    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Color"_s}, {halftone, u"Coarse"_s}}, {});
-    QCOMPARE(dialog.marked(colorType), u"Color"_s);
-    QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
-}
-
-void ManagerTest::survivesWithoutHostAndPpd()
-{
-    QVPDEManager_M880 manager;
-    manager.setUseConstraintHandling(true);
-    manager.setBundle(nullptr);
-    manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {});
-    QCOMPARE(manager.ppdDictionaryForOptions({colorType}).value(), QVariantMap());
-    QCOMPARE(manager.localizedStringForKey(colorType), colorType);
-    QVERIFY(!manager.bundleVersion());
-}
-
-#if KELMAR_OLDER_HOSTS
-const QString ticketName = u"PMPrintSettingsTicket"_s;
-
-void ManagerTest::readsTheTicket()
-{
-    Dialog<RecordingHost> dialog;
-    dialog.host.session.tickets[ticketName].ppdDictionary =
-        QVariantMap{{colorType, u"Color"_s}, {halftone, u"Fine"_s}, {stamp, QVariant()}};
-    QCOMPARE(dialog.manager.ppdDictionaryForOptions({colorType, stamp, foreign}).value(),
-             (QVariantMap{{colorType, u"Color"_s}}));
-    QVERIFY(!dialog.manager.ppdDictionaryForOptions({}));
-}
-
-void ManagerTest::writesTheTicketAndMarks()
-{
-    Dialog<RecordingHost> dialog;
-    auto &inTicket = dialog.host.session.tickets[ticketName].ppdDictionary;
-    inTicket = QVariantMap{{colorType, u"Color"_s}, {stamp, u"On"_s}};
-    dialog.manager.setPpdDictionaryForOptions(
-        {{colorType, u"Mono"_s}, {halftone, u"Coarse"_s}, {foreign, u"x"_s}, {stamp, QVariant()}},
-        {colorType, foreign, stamp});
-    QCOMPARE(inTicket.value(), (QVariantMap{{colorType, u"Mono"_s}, {foreign, u"x"_s}, {stamp, u"On"_s}}));
-    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
-    QCOMPARE(dialog.marked(halftone), u"Fine"_s);
-
-    dialog.manager.setPpdDictionaryForOptions({{halftone, u"Coarse"_s}}, {});
-    QCOMPARE(dialog.marked(halftone), u"Coarse"_s);
-    QVERIFY(dialog.host.settings.values().isEmpty());
-}
-
-void ManagerTest::survivesAMissingTicket()
-{
-    Dialog<RecordingHost> dialog;
-    QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
-    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {colorType});
-    QCOMPARE(dialog.marked(colorType), u"Mono"_s);
-}
-#else
-void ManagerTest::takesNoPartWithoutConstraintHandling()
-{
-    Dialog<RecordingHost> dialog;
-    QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
-    dialog.manager.setPpdDictionaryForOptions({{colorType, u"Mono"_s}}, {colorType});
-    QCOMPARE(dialog.marked(colorType), u"Auto"_s);
-    QVERIFY(dialog.host.settings.values().isEmpty());
-}
-#endif
 
 QTEST_GUILESS_MAIN(ManagerTest)
 #include "manager_test.moc"

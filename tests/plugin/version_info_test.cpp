@@ -5,76 +5,64 @@
 
 #include <QTest>
 
+#include <array>
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 class VersionInfoTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void parses_data(); // no parts: rejected
-    void parses();
-    void compares_data();
-    void compares();
+    void parses()
+    {
+        struct Case
+        {
+            QString text;
+            std::array<int, 3> parts;
+            QString reformatted; // nil where the text is no version
+        };
+        const Case cases[]{
+            {u"10"_s, {10, 0, 0}, u"10.0.0"_s},
+            {u"8.0"_s, {8, 0, 0}, u"8.0.0"_s},
+            {u"1.01"_s, {1, 1, 0}, u"1.01.0"_s},
+            {u"9.8.007"_s, {9, 8, 7}, u"9.8.007"_s},
+            {u"1..2"_s, {1, 0, 2}, u"1.0.2"_s},
+            {u"1.a"_s, {1, 0, 0}, u"1.0.0"_s},
+            {u"1.3b2"_s, {1, 3, 0}, u"1.003.0"_s},
+            {u" -2.+4"_s, {-2, 4, 0}, u"-2.04.0"_s},
+            {u"6.1.0-18-amd64"_s, {6, 1, 0}, u"6.1.0000000000"_s},
+            {u"99999999999"_s, {2147483647, 0, 0}, u"2147483647.0.0"_s},
+            {u"10.4.11.1"_s, {}, {}},
+            {u""_s, {}, {}},
+            {{}, {}, {}},
+        };
+        for (const Case &one : cases) {
+            const auto version = QVVersionInfo_M880::versionInfoWithString(one.text);
+            QVERIFY2(bool(version) == !one.reformatted.isNull(), qUtf8Printable(one.text));
+            if (!version)
+                continue;
+            QCOMPARE(version->stringValue(), one.reformatted);
+            QCOMPARE((std::array{version->majorPart(), version->minorPart(), version->otherPart()}),
+                     one.parts);
+            QCOMPARE(version->description(), u'v' + one.reformatted);
+        }
+    }
+
+    void compares()
+    {
+        const std::tuple<QString, QString, int> cases[]{
+            {u"1.1"_s, u"1.01"_s, 0}, // precision does not count
+            {u"1.10"_s, u"1.9"_s, 1}, // whole numbers, not decimals
+            {u"9.9.9"_s, u"10.0"_s, -1}, {u"1.2.3"_s, u"1.2.4"_s, -1}, {u"1"_s, u"1.0.0"_s, 0},
+        };
+        for (const auto &[left, right, order] : cases) {
+            QCOMPARE(QVVersionInfo_M880::versionInfoWithString(left)->compare(right), order);
+            const auto other = QVVersionInfo_M880::versionInfoWithString(left);
+            QCOMPARE(QVVersionInfo_M880::versionInfoWithString(right)->compare(*other), -order);
+        }
+    }
 };
-
-void VersionInfoTest::parses_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QList<int>>("parts");
-    QTest::addColumn<QString>("reformatted");
-    const auto row = [](const char *text, QList<int> parts, const char *reformatted) {
-        QTest::newRow(text) << QString::fromLatin1(text) << parts << QString::fromLatin1(reformatted);
-    };
-    row("10", {10, 0, 0}, "10.0.0");
-    row("8.0", {8, 0, 0}, "8.0.0");
-    row("1.01", {1, 1, 0}, "1.01.0");
-    row("9.8.007", {9, 8, 7}, "9.8.007");
-    row("1..2", {1, 0, 2}, "1.0.2");
-    row("1.a", {1, 0, 0}, "1.0.0");
-    row("1.3b2", {1, 3, 0}, "1.003.0");
-    row(" -2.+4", {-2, 4, 0}, "-2.04.0");
-    row("6.1.0-18-amd64", {6, 1, 0}, "6.1.0000000000");
-    row("10.4.11.1", {}, "");
-    row("", {}, "");
-    QTest::newRow("nil") << QString() << QList<int>() << QString();
-    row("99999999999", {2147483647, 0, 0}, "2147483647.0.0");
-}
-
-void VersionInfoTest::parses()
-{
-    QFETCH(QString, text);
-    QFETCH(QList<int>, parts);
-    QFETCH(QString, reformatted);
-    const auto version = QVVersionInfo_M880::versionInfoWithString(text);
-    QCOMPARE(bool(version), !parts.isEmpty());
-    if (!version)
-        return;
-    QCOMPARE((QList<int>{version->majorPart(), version->minorPart(), version->otherPart()}), parts);
-    QCOMPARE(version->stringValue(), reformatted);
-    QCOMPARE(version->description(), u'v' + reformatted);
-}
-
-void VersionInfoTest::compares_data()
-{
-    QTest::addColumn<QString>("left");
-    QTest::addColumn<QString>("right");
-    QTest::addColumn<int>("order");
-    QTest::newRow("precision does not count") << u"1.1"_s << u"1.01"_s << 0;
-    QTest::newRow("whole numbers, not decimals") << u"1.10"_s << u"1.9"_s << 1;
-    QTest::newRow("major first") << u"9.9.9"_s << u"10.0"_s << -1;
-    QTest::newRow("third part") << u"1.2.3"_s << u"1.2.4"_s << -1;
-    QTest::newRow("missing parts are 0") << u"1"_s << u"1.0.0"_s << 0;
-}
-
-void VersionInfoTest::compares()
-{
-    QFETCH(QString, left);
-    QFETCH(QString, right);
-    QFETCH(int, order);
-    const auto version = QVVersionInfo_M880::versionInfoWithString(left);
-    QCOMPARE(version->compare(right), order);
-    QCOMPARE(QVVersionInfo_M880::versionInfoWithString(right)->compare(*version), -order);
-}
 
 QTEST_GUILESS_MAIN(VersionInfoTest)
 #include "version_info_test.moc"
