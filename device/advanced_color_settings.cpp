@@ -82,6 +82,62 @@ quint32 numberOf(const QVariant &value)
     return static_cast<quint32>(wholeNumber(value));
 }
 
+bool readDefaults(QVSNMP_M880 &client, QVAdvancedColorSettingsManager_M880 &settings)
+{
+    ColumnOid oid = firstRowOf(defaultsColumn);
+    const std::optional<QVariantList> values =
+        client.sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), defaultsRowCount);
+    if (!values)
+        return false;
+    // A device that knows only some of its defaults has none that could be told apart.
+    if (values->size() == defaultsRowCount) {
+        settings.setSelectedRgbSourceProfile(numberOf(values->at(0)));
+        settings.setSelectedCmykSourceProfile(numberOf(values->at(1)));
+        settings.setSelectedCmykDestinationProfile(numberOf(values->at(2)));
+        settings.setRenderingIntent(numberOf(values->at(3)));
+    }
+    return true;
+}
+
+void applyStoredValues(const QVariantMap &stored, QVAdvancedColorSettingsManager_M880 &settings)
+{
+    const auto apply = [&stored](const QString &key, auto &&set) {
+        const QVariant value = stored.value(key);
+        if (value.isValid())
+            set(value);
+    };
+    apply(QVRgbSourceProfileIndexKey,
+          [&settings](const QVariant &v) { settings.setSelectedRgbSourceProfile(numberOf(v)); });
+    apply(QVCmykSourceProfileIndexKey,
+          [&settings](const QVariant &v) { settings.setSelectedCmykSourceProfile(numberOf(v)); });
+    // A stored destination goes to the CMYK source, and the destination stays the device's own default: that
+    // is how jobs have always been restored, and presets were saved with it.
+    apply(QVCmykDestinationProfileIndexKey,
+          [&settings](const QVariant &v) { settings.setSelectedCmykSourceProfile(numberOf(v)); });
+    apply(QVRenderingIntentKey, [&settings](const QVariant &v) { settings.setRenderingIntent(numberOf(v)); });
+    apply(QVApplyToDeviceColorOnlyKey,
+          [&settings](const QVariant &v) { settings.setApplyToDeviceColorOnly(booleanValue(v)); });
+}
+
+// None while disabled.
+QVariantMap valuesToSave(const QVAdvancedColorSettingsManager_M880 &settings)
+{
+    if (!settings.snmpEnabled())
+        return {};
+    return {{QVRgbSourceProfileIndexKey, QString::number(settings.selectedRgbSourceProfile())},
+            {QVCmykSourceProfileIndexKey, QString::number(settings.selectedCmykSourceProfile())},
+            {QVCmykDestinationProfileIndexKey, QString::number(settings.selectedCmykDestinationProfile())},
+            {QVRenderingIntentKey, QString::number(settings.renderingIntent())},
+            {QVApplyToDeviceColorOnlyKey, QString::number(settings.applyToDeviceColorOnly() ? 1 : 0)}};
+}
+
+template <typename T>
+void assign(platform::KeyValueObject *object, const QString &key, T &field, const T &value)
+{
+    const platform::KeyChange change(object, key);
+    field = value;
+}
+
 } // namespace
 
 QVAdvancedColorSettingsManager_M880::QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host,
@@ -100,8 +156,6 @@ QVAdvancedColorSettingsManager_M880::QVAdvancedColorSettingsManager_M880(platfor
         setKeysTriggerChangeNotificationsForDependentKey(cls, {list->key}, rowsKey);
     }
 }
-
-QVAdvancedColorSettingsManager_M880::~QVAdvancedColorSettingsManager_M880() = default;
 
 void QVAdvancedColorSettingsManager_M880::updateFromSNMP(QObject *)
 {
@@ -129,7 +183,7 @@ void QVAdvancedColorSettingsManager_M880::updateFromSNMP(QObject *)
     disableUnless(readProfiles(*client, m_cmykSourceProfiles, cmykSourceColumn, sourceRowCount));
     disableUnless(
         readProfiles(*client, m_cmykDestinationProfiles, cmykDestinationColumn, destinationRowCount));
-    disableUnless(readDefaults(*client));
+    disableUnless(readDefaults(*client, *this));
 }
 
 bool QVAdvancedColorSettingsManager_M880::readProfiles(QVSNMP_M880 &client, ProfileList &list, SnmpOid column,
@@ -150,23 +204,6 @@ bool QVAdvancedColorSettingsManager_M880::readProfiles(QVSNMP_M880 &client, Prof
     return true;
 }
 
-bool QVAdvancedColorSettingsManager_M880::readDefaults(QVSNMP_M880 &client)
-{
-    ColumnOid oid = firstRowOf(defaultsColumn);
-    const std::optional<QVariantList> values =
-        client.sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), defaultsRowCount);
-    if (!values)
-        return false;
-    // A device that knows only some of its defaults has none that could be told apart.
-    if (values->size() == defaultsRowCount) {
-        setSelectedRgbSourceProfile(numberOf(values->at(0)));
-        setSelectedCmykSourceProfile(numberOf(values->at(1)));
-        setSelectedCmykDestinationProfile(numberOf(values->at(2)));
-        setRenderingIntent(numberOf(values->at(3)));
-    }
-    return true;
-}
-
 bool QVAdvancedColorSettingsManager_M880::restoreValuesAndReturnError(QString *)
 {
     QVariantMap stored;
@@ -184,45 +221,14 @@ bool QVAdvancedColorSettingsManager_M880::restoreValuesAndReturnError(QString *)
     updateFromSNMP();
     // What the device cannot confirm is dropped.
     if (m_snmpEnabled)
-        applyStoredValues(stored);
+        applyStoredValues(stored, *this);
     return true;
-}
-
-void QVAdvancedColorSettingsManager_M880::applyStoredValues(const QVariantMap &stored)
-{
-    const auto apply = [&stored](const QString &key, auto &&set) {
-        const QVariant value = stored.value(key);
-        if (value.isValid())
-            set(value);
-    };
-    apply(QVRgbSourceProfileIndexKey,
-          [this](const QVariant &v) { setSelectedRgbSourceProfile(numberOf(v)); });
-    apply(QVCmykSourceProfileIndexKey,
-          [this](const QVariant &v) { setSelectedCmykSourceProfile(numberOf(v)); });
-    // A stored destination goes to the CMYK source, and the destination stays the device's own default: that
-    // is how jobs have always been restored, and presets were saved with it.
-    apply(QVCmykDestinationProfileIndexKey,
-          [this](const QVariant &v) { setSelectedCmykSourceProfile(numberOf(v)); });
-    apply(QVRenderingIntentKey, [this](const QVariant &v) { setRenderingIntent(numberOf(v)); });
-    apply(QVApplyToDeviceColorOnlyKey,
-          [this](const QVariant &v) { setApplyToDeviceColorOnly(booleanValue(v)); });
-}
-
-QVariantMap QVAdvancedColorSettingsManager_M880::valuesToSave() const
-{
-    if (!m_snmpEnabled)
-        return {};
-    return {{QVRgbSourceProfileIndexKey, QString::number(m_selectedRgbSourceProfile)},
-            {QVCmykSourceProfileIndexKey, QString::number(m_selectedCmykSourceProfile)},
-            {QVCmykDestinationProfileIndexKey, QString::number(m_selectedCmykDestinationProfile)},
-            {QVRenderingIntentKey, QString::number(m_renderingIntent)},
-            {QVApplyToDeviceColorOnlyKey, QString::number(m_applyToDeviceColorOnly ? 1 : 0)}};
 }
 
 bool QVAdvancedColorSettingsManager_M880::saveValuesAndReturnError(QString *)
 {
     platform::TextField::resignFirstResponder(m_view);
-    const QVariantMap values = valuesToSave(); // nil for every key while disabled
+    const QVariantMap values = valuesToSave(*this);
     if (m_useConstraintHandling) {
         for (const QString &key : settingsKeys())
             PMPrintSettingsSetValue(m_host->printSettings(), key, values.value(key), false);
@@ -248,13 +254,6 @@ void QVAdvancedColorSettingsManager_M880::setSnmpEnabledWithReason(bool enabled,
     setSnmpUnavailableReason(enabled ? QString() : reason);
 }
 
-template <typename T>
-void QVAdvancedColorSettingsManager_M880::assign(const QString &key, T &field, const T &value)
-{
-    const platform::KeyChange change(this, key);
-    field = value;
-}
-
 void QVAdvancedColorSettingsManager_M880::setProfiles(ProfileList &list, const QStringList &names,
                                                       const QVariantList &rows)
 {
@@ -265,12 +264,12 @@ void QVAdvancedColorSettingsManager_M880::setProfiles(ProfileList &list, const Q
 
 void QVAdvancedColorSettingsManager_M880::setUseConstraintHandling(bool on)
 {
-    assign(QStringLiteral("useConstraintHandling"), m_useConstraintHandling, on);
+    assign(this, QStringLiteral("useConstraintHandling"), m_useConstraintHandling, on);
 }
 
 void QVAdvancedColorSettingsManager_M880::setApplyToDeviceColorOnly(bool on)
 {
-    assign(QStringLiteral("applyToDeviceColorOnly"), m_applyToDeviceColorOnly, on);
+    assign(this, QStringLiteral("applyToDeviceColorOnly"), m_applyToDeviceColorOnly, on);
 }
 
 void QVAdvancedColorSettingsManager_M880::setRgbSourceProfiles(const QStringList &names)
@@ -290,30 +289,30 @@ void QVAdvancedColorSettingsManager_M880::setCmykDestinationProfiles(const QStri
 
 void QVAdvancedColorSettingsManager_M880::setSelectedRgbSourceProfile(quint32 number)
 {
-    assign(QStringLiteral("selectedRgbSourceProfile"), m_selectedRgbSourceProfile, number);
+    assign(this, QStringLiteral("selectedRgbSourceProfile"), m_selectedRgbSourceProfile, number);
 }
 
 void QVAdvancedColorSettingsManager_M880::setSelectedCmykSourceProfile(quint32 number)
 {
-    assign(QStringLiteral("selectedCmykSourceProfile"), m_selectedCmykSourceProfile, number);
+    assign(this, QStringLiteral("selectedCmykSourceProfile"), m_selectedCmykSourceProfile, number);
 }
 
 void QVAdvancedColorSettingsManager_M880::setSelectedCmykDestinationProfile(quint32 number)
 {
-    assign(QStringLiteral("selectedCmykDestinationProfile"), m_selectedCmykDestinationProfile, number);
+    assign(this, QStringLiteral("selectedCmykDestinationProfile"), m_selectedCmykDestinationProfile, number);
 }
 
 void QVAdvancedColorSettingsManager_M880::setRenderingIntent(quint32 number)
 {
-    assign(QStringLiteral("renderingIntent"), m_renderingIntent, number);
+    assign(this, QStringLiteral("renderingIntent"), m_renderingIntent, number);
 }
 
 void QVAdvancedColorSettingsManager_M880::setSnmpUnavailableReason(const QString &reason)
 {
-    assign(QStringLiteral("snmpUnavailableReason"), m_snmpUnavailableReason, reason);
+    assign(this, QStringLiteral("snmpUnavailableReason"), m_snmpUnavailableReason, reason);
 }
 
 void QVAdvancedColorSettingsManager_M880::setSnmpEnabled(bool enabled)
 {
-    assign(QStringLiteral("snmpEnabled"), m_snmpEnabled, enabled);
+    assign(this, QStringLiteral("snmpEnabled"), m_snmpEnabled, enabled);
 }

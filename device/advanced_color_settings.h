@@ -7,7 +7,6 @@
 #include "platform/key_value_object.h"
 
 #include <QPointer>
-#include <QString>
 #include <QStringList>
 #include <QVariantList>
 #include <QWidget>
@@ -53,17 +52,14 @@ class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
     Q_PROPERTY(QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason)
     Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled)
 public:
-    // Enabled, with nothing read yet. `view` is the widget whose window ends its text editing on save; may be
-    // null.
+    // Enabled, with nothing read yet. The window of `view`, which may be null, ends its text editing on save.
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
                                         QWidget *view);
-    ~QVAdvancedColorSettingsManager_M880() override;
 
     // Reads lists and defaults from the device, unless disabled. A failure disables with a localised reason
     // and leaves what was read before. `sender` does not matter.
     void updateFromSNMP(QObject *sender = nullptr);
-    // Enables, asks the device, and puts the stored selections over its defaults. Always true; `error` is
-    // left alone.
+    // Enables, asks the device, and puts the stored selections over its defaults. Always true, without error.
     bool restoreValuesAndReturnError(QString *error);
     // Ends text editing and writes the selections, or removes them while disabled. Always true.
     bool saveValuesAndReturnError(QString *error);
@@ -107,13 +103,8 @@ private:
         QVariantList rows;
     };
 
-    template <typename T>
-    void assign(const QString &key, T &field, const T &value);
     void setProfiles(ProfileList &list, const QStringList &names, const QVariantList &rows);
     bool readProfiles(QVSNMP_M880 &client, ProfileList &list, SnmpOid column, quint32 rowCount);
-    bool readDefaults(QVSNMP_M880 &client);
-    QVariantMap valuesToSave() const;
-    void applyStoredValues(const QVariantMap &stored);
 
     platform::PrintDialogHost *m_host;
     QPointer<QWidget> m_view;

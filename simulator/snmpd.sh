@@ -21,20 +21,24 @@ configure() {
     [ -r "$3" ] || { echo "snmpd.sh: cannot read $3" >&2; exit 1; }
     device=$(CDPATH='' cd -- "$(dirname -- "$3")" && pwd)/$(basename -- "$3")
     mkdir -p "$1"
-    agent="$(command -v python3) $here/agent.py $device"
+    folder=$(CDPATH='' cd -- "$1" && pwd) # snmpd changes to the root folder
     # Reads the file and ends: says what is wrong with it before snmpd hides that in its log.
-    $agent </dev/null || exit 1
+    python3 "$here/agent.py" "$device" </dev/null || exit 1
+    # snmpd splits a command at its spaces, whatever the quotes; so the paths come in by the environment.
+    export SIMULATOR_AGENT="$here/agent.py" SIMULATOR_DEVICE="$device"
+    # shellcheck disable=SC2016  # expanded by the shell that snmpd starts
+    agent='/bin/sh -c exec${IFS}python3${IFS}"$SIMULATOR_AGENT"${IFS}"$SIMULATOR_DEVICE"'
     case $2 in
         *:*) listen="udp6:[$2]:161" access="rocommunity6 public" ;;
         *) listen="udp:$2:161" access="rocommunity public" ;;
     esac
     # Each subtree gets an agent process of its own.
-    cat >"$1/snmpd.conf" <<CONF
+    cat >"$folder/snmpd.conf" <<CONF
 $access
 pass_persist .1.3.6.1.4.1.5309 $agent
 pass_persist .1.3.6.1.2.1.43 $agent
 CONF
-    export MIBS="" MIBDIRS="" SNMPCONFPATH="$1" SNMP_PERSISTENT_DIR="$1"
+    export MIBS="" MIBDIRS="" SNMPCONFPATH="$folder" SNMP_PERSISTENT_DIR="$folder"
 }
 
 daemon=$(PATH=$PATH:/usr/sbin command -v snmpd) || { echo "snmpd.sh: snmpd is not installed" >&2; exit 1; }
@@ -42,12 +46,12 @@ case "${1:-}:$#" in
     start:4)
         configure "$2" "$3" "$4"
         # The parent returns once the port is open.
-        "$daemon" -Lf "$2/snmpd.log" -C -c "$2/snmpd.conf" -p "$2/snmpd.pid" "$listen" ||
-            { tail -n 3 "$2/snmpd.log" >&2; exit 1; }
+        "$daemon" -Lf "$folder/snmpd.log" -C -c "$folder/snmpd.conf" -p "$folder/snmpd.pid" "$listen" ||
+            { tail -n 3 "$folder/snmpd.log" >&2; exit 1; }
         ;;
     run:4)
         configure "$2" "$3" "$4"
-        exec "$daemon" -f -Lo -C -c "$2/snmpd.conf" "$listen"
+        exec "$daemon" -f -Lo -C -c "$folder/snmpd.conf" "$listen"
         ;;
     stop:2)
         # Stopping one that does not run is no error.

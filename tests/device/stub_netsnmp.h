@@ -10,15 +10,13 @@
 // Exported by the stub library as `stub_control`: what it was asked, and what it is to answer.
 struct StubControl
 {
-    int inits, closes, requests, frees;
+    int inits, closes, frees;
     char application[32], peer[64], community[16];
     const char *mibsWhileInit;
     netsnmp_session opened;
     netsnmp_pdu request;
-    oid lastSubid;
 
-    bool failOpen, noResponse;
-    int status;
+    bool failOpen;
     netsnmp_pdu response;
-    netsnmp_variable_list variable;
+    netsnmp_variable_list variable, last; // the first of the response, and one that may come after it
 };

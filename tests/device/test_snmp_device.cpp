@@ -10,6 +10,7 @@
 #include "tests/support/udp_responder.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QtTest>
 
@@ -39,29 +40,30 @@ Client clientFor(const char *address)
     return Client(QVSNMP_M880::initWithHostAndReturnError(QString::fromLatin1(address), nullptr).release());
 }
 
-constexpr int repliesPerRequest = 20;
-constexpr int repliesPerRow = 25'000; // for each of four rows
+// Broken answers that the client takes, in each of four ways to decode them; 100,000 where damage shows.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int mutatedRepliesTaken = 25'000;
+#else
+constexpr int mutatedRepliesTaken = 5'000;
+#endif
 
 // One seed, so that a finding comes again.
 class Mutator
 {
 public:
+    // Broken behind the head, which has to be right: net-snmp drops an answer that it cannot match.
     SnmpReply mutated(SnmpReply reply)
     {
-        static constexpr std::array<unsigned char, 10> types{0x01, 0x02, 0x04, 0x05, 0x06,
-                                                             0x40, 0x43, 0x46, 0x80, 0x82};
-        reply.type = types.at(below(types.size()));
-        reply.value = randomBytes(below(below(8) == 0 ? 3000 : 24));
-        if (below(4) == 0)
-            reply.announcedLength = below(below(2) == 0 ? 0x100 : 0x1000000);
+        static constexpr std::array<unsigned char, 8> types{0x04, 0x04, 0x04, 0x02, 0x06, 0x43, 0x46, 0x80};
+        reply.type = types.at(static_cast<size_t>(below(types.size())));
+        const bool isText = reply.type == SnmpReply::octetString;
+        reply.value = randomBytes(below(isText && below(8) == 0 ? 3000 : isText ? 24 : 9));
         if (below(16) == 0)
-            reply.errorStatus = static_cast<char>(below(256));
+            reply.announcedLength = below(below(2) == 0 ? 0x100 : 0x1000000);
         QByteArray bytes = reply.encoded();
-        // Mostly behind the request id, since net-snmp drops an answer it cannot match before the client sees
-        // it.
-        const qsizetype from = below(3) == 0 ? 0 : std::min<qsizetype>(bytes.size(), 32);
-        for (int changes = below(4); changes > 0 && from < bytes.size(); --changes)
-            change(bytes, from + below(static_cast<size_t>(bytes.size() - from)));
+        const qsizetype head = bytes.indexOf(reply.oid);
+        for (int changes = below(3); changes > 0 && head < bytes.size(); --changes)
+            change(bytes, head + below(static_cast<size_t>(bytes.size() - head)));
         reply.instead = bytes;
         return reply;
     }
@@ -81,7 +83,7 @@ private:
 
     void change(QByteArray &bytes, qsizetype at)
     {
-        switch (below(5)) {
+        switch (below(8)) {
         case 0:
             bytes.truncate(at);
             break;
@@ -89,9 +91,6 @@ private:
             bytes.insert(at, randomBytes(below(9)));
             break;
         case 2:
-            bytes.remove(at, below(9));
-            break;
-        case 3:
             bytes.replace(at, 5, QByteArray("\x84\xff\xff\xff\xff", 5)); // a length near 2^32
             break;
         default:
@@ -114,7 +113,7 @@ private Q_SLOTS:
     void readsColumnsOfARealAgent();
     void takesTheCharacterSetOfARealAgent();
     void opensAndClosesTheRealLibrary();
-    void oneDatagramARow();
+    void isQuietWithoutConfiguration();
     void oddReplies_data();
     void oddReplies();
     void silenceAndLateAnswers();
@@ -134,6 +133,8 @@ void TestSnmpDevice::initTestCase()
     // lost.
     ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
     // net-snmp has a word for thousands of these answers.
+    if (qEnvironmentVariableIsSet("SNMPCONFPATH"))
+        return;
     QFile quiet(m_configuration.filePath(u"snmp.conf"_qs));
     QVERIFY(quiet.open(QIODevice::WriteOnly) && quiet.write("logOption n\n") > 0);
     qputenv("SNMPCONFPATH", m_configuration.path().toLocal8Bit());
@@ -199,16 +200,20 @@ void TestSnmpDevice::opensAndClosesTheRealLibrary()
     QVERIFY(!QVSNMP_M880::libraryState().isOpen);
 }
 
-void TestSnmpDevice::oneDatagramARow()
+// In a process of its own, as net-snmp reads its configuration once; one without the snmp.conf that keeps
+// this one quiet.
+void TestSnmpDevice::isQuietWithoutConfiguration()
 {
-    int row = 0;
-    const UdpResponder device("127.0.0.2", [&row](const SnmpReply &reply) -> SnmpReplies {
-        return {++row == 4 ? reply : reply.withString("name")};
-    });
-    const Client client = clientFor("127.0.0.2");
-    Column oid = column(2);
-    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15)->size(), 3);
-    QCOMPARE(device.requestCount(), 4);
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"MIBS"_qs);
+    for (const auto &name : {u"SNMPCONFPATH"_qs, u"MIBDIRS"_qs})
+        environment.insert(name, u"/nonexistent"_qs);
+    child.setProcessEnvironment(environment);
+    child.start(QCoreApplication::applicationFilePath(), {u"opensAndClosesTheRealLibrary"_qs});
+    QVERIFY(child.waitForFinished());
+    QCOMPARE(child.readAllStandardError(), QByteArray());
+    QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
 }
 
 void TestSnmpDevice::oddReplies_data()
@@ -223,31 +228,28 @@ void TestSnmpDevice::oddReplies_data()
     const auto type = [](unsigned char tag) {
         return [tag](SnmpReply &reply) { reply = reply.with(tag, QByteArray(1, 1)); };
     };
-    const auto announced = [](qsizetype length) {
-        return [length](SnmpReply &reply) { reply.announcedLength = length; };
-    };
 
     // What net-snmp drops, so that the proper answer counts.
     for (const qsizetype kept : {0, 1, 10, 30, 55})
         QTest::addRow("cut after %lld bytes", qlonglong(kept))
-            << Alteration([kept](SnmpReply &reply) { reply.cutAfter = kept; }) << true << good;
-    row("longer than announced", announced(2), true, good);
-    row("shorter than announced", announced(0x7fffff), true, good);
+            << Alteration([kept](SnmpReply &reply) { reply.instead = reply.encoded().first(kept); }) << true
+            << good;
+    for (const qsizetype length : {2, 0x7fffff})
+        QTest::addRow("announced as %lld bytes", qlonglong(length))
+            << Alteration([length](SnmpReply &reply) { reply.announcedLength = length; }) << true << good;
     row(
         "another request id", [](SnmpReply &reply) { reply.requestId.back() ^= 1; }, true, good);
     row(
-        "version 1", [](SnmpReply &reply) { reply.version = QByteArray(1, '\0'); }, true, good);
+        "version 1", [](SnmpReply &reply) { reply.version.back() = '\0'; }, true, good);
     row(
-        "integer without bytes", [](SnmpReply &reply) { reply = reply.with(SnmpReply::integer, {}); }, true,
-        good);
+        "integer without bytes", [](SnmpReply &reply) { reply = reply.with(0x02, {}); }, true, good);
     row("unknown type", type(0x4a), true, good);
     row("boolean", type(0x01), true, good);
     // What it lets through.
     row("time ticks", type(0x43), false, {});
     row("error status", [](SnmpReply &reply) { reply.errorStatus = 2; }, false, {});
     row(
-        "60,000 bytes", [](SnmpReply &reply) { reply.value = QByteArray(60000, 'x'); }, false,
-        QString(60000, u'x'));
+        "60,000 bytes", [](SnmpReply &reply) { reply.value.fill('x', 60000); }, false, QString(60000, u'x'));
     // Answers are told apart by their request id alone: a printer may answer from another of its addresses.
     row(
         "another community", [](SnmpReply &reply) { reply.community = "private"; }, true, u"odd"_qs);
@@ -292,7 +294,8 @@ void TestSnmpDevice::silenceAndLateAnswers()
 }
 
 // A great many broken answers. What counts is that nothing is damaged, which the sanitizers tell, and that
-// proper answers in between still come through.
+// proper answers in between still come through. Each request is answered by broken ones and then by a number
+// that they do not give: what ends otherwise has taken one of them.
 void TestSnmpDevice::mutatedReplies_data()
 {
     QTest::addColumn<int>("characterSet"); // IANA MIBenum
@@ -309,10 +312,9 @@ void TestSnmpDevice::mutatedReplies()
     QFETCH(bool, asData);
     Mutator mutator;
     std::atomic<bool> hostile = false;
-    std::atomic<int> sent = 0;
     const UdpResponder device("127.0.0.2", [&](const SnmpReply &reply) {
         SnmpReplies replies;
-        for (int i = 0; hostile && i < repliesPerRequest; ++i, ++sent)
+        for (int i = 0; hostile && i < 2; ++i) // net-snmp may drop the first
             replies.append(mutator.mutated(reply));
         replies.append(reply.withInteger(static_cast<char>(characterSet)));
         return replies;
@@ -322,10 +324,19 @@ void TestSnmpDevice::mutatedReplies()
     client->setReturnsStringsAsData(asData);
     hostile = true;
     const Column oid = column(2);
+    int requests = 2;
+    int taken = 0;
     int values = 0;
-    while (sent < repliesPerRow)
-        values += client->sendRequestWithSize(oid.data(), oid.size()).isValid() ? 1 : 0;
-    QVERIFY(values > 0);
+    for (; taken < mutatedRepliesTaken; ++requests) {
+        const QVariant value = client->sendRequestWithSize(oid.data(), oid.size());
+        if (value == QVariant(characterSet))
+            continue;
+        ++taken;
+        values += value.isValid() ? 1 : 0;
+    }
+    qInfo("%d requests, %d broken answers taken, %d of them as a value", requests, taken, values);
+    QVERIFY(values > 0 && values < taken);
+    QCOMPARE(device.requestCount(), requests); // none was lost and asked again
     hostile = false;
     QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(characterSet));
 }

@@ -5,6 +5,7 @@
 
 #include "tests/support/child_process.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 // simulator/snmpd.sh on port 161 of a loopback address, for the length of an object's life.
@@ -31,7 +32,7 @@ public:
     const QString &error() const { return m_error; }
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/simulated printer XXXXXX")};
     QString m_error;
     ChildProcess m_process;
 };

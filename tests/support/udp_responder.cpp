@@ -122,6 +122,5 @@ QByteArray SnmpReply::encoded() const
     const QByteArray variable = tlv(0x30, tlv(0x06, oid) + tlv(type, value, announcedLength));
     const QByteArray pdu = tlv(0x02, requestId) + tlv(0x02, QByteArray(1, errorStatus)) +
                            tlv(0x02, QByteArray(1, 0)) + tlv(0x30, variable);
-    const QByteArray message = tlv(0x30, tlv(0x02, version) + tlv(0x04, community) + tlv(0xa2, pdu));
-    return cutAfter < 0 ? message : message.first(cutAfter);
+    return tlv(0x30, tlv(0x02, version) + tlv(0x04, community) + tlv(0xa2, pdu));
 }

@@ -26,7 +26,6 @@ struct SnmpReply
     unsigned char type = noSuchInstance;
     QByteArray value;
     qsizetype announcedLength = -1; // written as the value's length, unless negative
-    qsizetype cutAfter = -1;        // bytes of the whole that are sent; all when negative
     QByteArray instead;             // sent instead of all this, unless nil
     const char *from = nullptr;     // another loopback address to send it from
 };
