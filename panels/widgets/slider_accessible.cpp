@@ -55,7 +55,10 @@ QVariant QVSliderAccessible_M880::currentValue() const
 
 void QVSliderAccessible_M880::setCurrentValue(const QVariant &value)
 {
-    slider()->setValue(value.toInt());
+    // As a hand does it, so that whoever listens to the slider's actions hears of it.
+    slider()->setSliderDown(true);
+    slider()->setSliderPosition(value.toInt());
+    slider()->setSliderDown(false);
 }
 
 QVariant QVSliderAccessible_M880::maximumValue() const
