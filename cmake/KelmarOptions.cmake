@@ -25,6 +25,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# Where the platform library and the bundles are installed: the program looks there, beside its own folder.
+set(KELMAR_PRIVATE_DIR lib/kelmar-print)
+
 # What a print dialog costs is loading it: every page of code that is mapped counts, and hardly a loop.
 set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
 foreach(flag --gc-sections --as-needed -z,noseparate-code -z,pack-relative-relocs)

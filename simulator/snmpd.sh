@@ -56,7 +56,13 @@ case "${1:-}:$#" in
     stop:2)
         # Stopping one that does not run is no error.
         [ -e "$2/snmpd.pid" ] || exit 0
-        kill "$(cat "$2/snmpd.pid")"
+        pid=$(cat "$2/snmpd.pid")
+        kill "$pid" 2>/dev/null || true
+        tries=0
+        while kill -0 "$pid" 2>/dev/null && [ $tries -lt 100 ]; do
+            tries=$((tries + 1))
+            sleep 0.05
+        done
         rm -f "$2/snmpd.pid"
         ;;
     *) usage ;;

@@ -27,7 +27,10 @@ def launch(command, environment):
         os.dup2(writing, 1)
         os.dup2(os.open(os.devnull, os.O_WRONLY), 2)
         environment["KELMAR_T0_NS"] = str(time.clock_gettime_ns(time.CLOCK_MONOTONIC))
-        os.execve(command[0], command, environment)
+        try:
+            os.execve(command[0], command, environment)
+        finally:
+            os._exit(127)
     os.close(writing)
     with os.fdopen(reading) as stream:
         text = stream.read()

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Not compiled: names, for lupdate, the keys that the plug-in looks up in the default string table. A key is a
-// panel's name, a PPD option, an option and a choice of it, or what the device services report.
+// Not compiled: names, for lupdate, the keys that the plug-in looks up in the default string table. A key is
+// a panel's name, a PPD option, an option and a choice of it, or what the device services report.
 const char *const keys[] = {
     QT_TRANSLATE_NOOP("Localizable", "Print Mode"),
     QT_TRANSLATE_NOOP("Localizable", "Color Settings 1"),

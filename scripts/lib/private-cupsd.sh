@@ -102,11 +102,17 @@ start() {
 stop() {
     local pid tries
     pid=$(cat "$dir/cupsd.pid" 2>/dev/null) || return 0
+    # The number may be another program's by now.
+    if ! grep -qF "$dir/cupsd.conf" "/proc/$pid/cmdline" 2>/dev/null; then
+        rm -f "$dir/cupsd.pid"
+        return 0
+    fi
     kill "$pid" 2>/dev/null || true
     for tries in {1..200}; do
         kill -0 "$pid" 2>/dev/null || break
         sleep 0.05
     done
+    kill -KILL "$pid" 2>/dev/null || true
     rm -f "$dir/cupsd.pid"
 }
 

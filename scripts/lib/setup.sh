@@ -17,38 +17,38 @@ check_packages=(clang-format)
 
 say() { printf '== %s\n' "$*"; }
 
-# Installs those of the given packages that are not there yet. Asks apt only when something is missing.
-ensure_packages() {
-    local missing=() package
+# Installs those of the given packages that are not there yet. Asks apt only when something is missing. A subshell, so
+# that what it puts in place for apt goes again however it ends.
+ensure_packages() (
+    missing=()
     for package in "$@"; do
         dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
     done
-    [ ${#missing[@]} -eq 0 ] && return 0
+    [ ${#missing[@]} -eq 0 ] && exit 0
     say "Installing ${missing[*]}"
-    local sudo=()
+    sudo=()
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}; install them as root." >&2; return 1; }
+        command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}; install them as root." >&2; exit 1; }
         sudo=(sudo)
     fi
     # The daemons are started privately by the scripts; packages must not start theirs.
-    local policy=/usr/sbin/policy-rc.d made_policy=
-    if [ "$(id -u)" -eq 0 ] && [ ! -e $policy ]; then
-        printf '#!/bin/sh\nexit 101\n' >$policy && chmod 755 $policy && made_policy=1
+    policy=/usr/sbin/policy-rc.d status=0
+    if [ ! -e $policy ]; then
+        printf '#!/bin/sh\nexit 101\n' | "${sudo[@]}" install -m 755 /dev/stdin $policy
+        trap '"${sudo[@]}" rm -f '$policy EXIT
     fi
-    local status=0
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >/dev/null &&
         "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
             "${missing[@]}" >/dev/null || status=$?
-    [ -n "$made_policy" ] && rm -f $policy
     [ $status -eq 0 ] || echo "apt-get could not install: ${missing[*]}" >&2
-    return $status
-}
+    exit $status
+)
 
 # Configures a preset when it has not been, then builds it. Quick when nothing changed.
 build_preset() {
     local preset=$1
     shift
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"
         return 1
