@@ -22,6 +22,18 @@ struct BatchText
 // A proposal may uncover the next conflict; a PPD that never comes to rest must not hold the run.
 constexpr int mostProposals = 8;
 
+// Marks the options that a standard name such as "media" stands for, as the user's choices.
+bool markStandardName(const Arguments::Assignment &assignment, DialogSession *session, PrintError *error)
+{
+    const QMap<QString, QString> choices = session->ppd()->standardChoices(assignment.key, assignment.value);
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        session->markChoice(it.key(), it.value());
+    if (choices.isEmpty())
+        *error = {PrintError::Kind::BadValue,
+                  BatchText::tr("%1: this printer has no “%2”.").arg(assignment.key, assignment.value)};
+    return !choices.isEmpty();
+}
+
 QString titleOf(const QList<Document> &documents)
 {
     return documents.isEmpty() ? QString() : documents.first().name;
@@ -57,10 +69,10 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<
     SettingKeys keys(session);
     for (const Arguments::Assignment &assignment : arguments.assignments) {
         if (assignment.passOn && !keys.knows(assignment.key)) {
-            if (session->ppd() && session->ppd()->takesOption(assignment.key))
-                session->ppd()->markOptions({{assignment.key, assignment.value}});
-            else
+            if (!session->ppd() || !session->ppd()->takesOption(assignment.key))
                 passedOn->append({assignment.key, assignment.value, JobOption::Kind::Attribute});
+            else if (!markStandardName(assignment, session, error))
+                return false;
         } else if (!keys.set(assignment.key, assignment.value, error)) {
             return false;
         }

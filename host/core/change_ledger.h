@@ -25,7 +25,6 @@ public:
 
     // Later announcements of the same keyword keep the first value.
     void announce(const QString &keyword, const QVariant &before, bool byUser);
-    bool isEmpty() const { return m_entries.isEmpty(); }
     // Empties the ledger.
     QList<Entry> take();
 

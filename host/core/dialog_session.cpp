@@ -68,8 +68,7 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
         if (isPanelSetting(it.key()))
             m_printSettings.setValue(it.key(), it.value());
     }
-    const int copies = destination.options.value(QStringLiteral("copies")).toInt();
-    m_general.copies = std::clamp(copies, 1, GeneralSettings::maxCopies);
+    m_general = GeneralSettings::from(destination.options, m_ppd.get());
 }
 
 DialogSession::~DialogSession()

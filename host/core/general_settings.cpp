@@ -3,9 +3,41 @@
 
 #include "host/core/general_settings.h"
 
+#include "host/core/page_ranges.h"
 #include "host/core/ppd_document.h"
 
+#include <algorithm>
+
 namespace host {
+
+namespace {
+
+bool isOff(const QString &value)
+{
+    return value.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0 ||
+           value.compare(QLatin1String("No"), Qt::CaseInsensitive) == 0 ||
+           value.compare(QLatin1String("Off"), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options, const PpdDocument *ppd)
+{
+    GeneralSettings settings;
+    settings.copies = std::clamp(options.value(QStringLiteral("copies")).toInt(), 1, maxCopies);
+    settings.pages =
+        normalizedPageRanges(options.value(QStringLiteral("page-ranges")), nullptr).value_or(QString());
+    if (ppd)
+        settings.collate = !isOff(ppd->markedChoice(QStringLiteral("Collate")));
+    for (auto it = options.begin(); it != options.end(); ++it) {
+        if (it.key().compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
+            settings.collate = !isOff(it.value());
+    }
+    const QString handling = options.value(QStringLiteral("multiple-document-handling"));
+    if (!handling.isEmpty())
+        settings.collate = !handling.contains(QLatin1String("uncollated"));
+    return settings;
+}
 
 QList<JobOption> GeneralSettings::jobOptions() const
 {

@@ -6,6 +6,7 @@
 #include "host/core/job.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -22,6 +23,9 @@ struct GeneralSettings
 
     static constexpr int maxCopies = 9999;
 
+    // The user's defaults among a destination's options, and the PPD's for collating; `ppd` may be null. What
+    // is no such value is passed over.
+    static GeneralSettings from(const QMap<QString, QString> &options, const PpdDocument *ppd);
     // As job options; what the print system does anyway is left out.
     QList<JobOption> jobOptions() const;
     // Whether a job option of this name is decided by these settings.

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 
 #include <cups/ppd.h>
 
@@ -73,6 +72,20 @@ QList<std::pair<QString, QString>> constraintTerms(const QString &value)
 bool isShadowOfPageSize(const char *keyword)
 {
     return qstrcmp(keyword, "PageRegion") == 0;
+}
+
+// The options that libcups marks for a standard job option. Color mode and quality are left to the print
+// system: a choice of the user here must not be overruled by them.
+QStringList optionsOfStandardName(const QString &name)
+{
+    static const QMap<QString, QString> keywords = {
+        {QStringLiteral("media"), QStringLiteral("PageSize InputSlot MediaType")},
+        {QStringLiteral("sides"),
+         QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
+        {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
+        {QStringLiteral("printer-resolution"), QStringLiteral("Resolution SetResolution JCLResolution")},
+        {QStringLiteral("resolution"), QStringLiteral("Resolution SetResolution JCLResolution")}};
+    return keywords.value(name).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -143,11 +156,6 @@ QString PpdDocument::modelName() const
     return text(m_ppd->modelname);
 }
 
-QString PpdDocument::nickName() const
-{
-    return text(m_ppd->nickname);
-}
-
 QStringList PpdDocument::optionKeywords() const
 {
     QStringList keywords;
@@ -173,17 +181,14 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
     option.text = record->text[0] ? text(record->text) : option.keyword;
     option.defaultChoice = text(record->defchoice);
     option.markedChoice = markedChoice(option.keyword);
-    option.isBoolean = record->ui == PPD_UI_BOOLEAN;
     for (int i = 0; i < record->num_choices; ++i) {
         const ppd_choice_t &choice = record->choices[i];
         if (qstrcmp(choice.choice, "Custom") != 0)
             option.choices.append({text(choice.choice), text(choice.text[0] ? choice.text : choice.choice)});
     }
     forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &group, const ppd_option_t &other) {
-        if (&other == record) {
-            option.group = text(group.name);
+        if (&other == record)
             option.groupText = text(group.text);
-        }
     });
     return option;
 }
@@ -235,30 +240,60 @@ void PpdDocument::markOptions(const QMap<QString, QString> &options)
 
 bool PpdDocument::takesOption(const QString &name) const
 {
-    // Color mode and quality are left to the print system: a choice of the user here must not be overruled by them.
-    static const QSet<QString> standardNames = {QStringLiteral("media"), QStringLiteral("sides"),
-                                                QStringLiteral("output-bin"), QStringLiteral("printer-resolution"),
-                                                QStringLiteral("resolution")};
-    return standardNames.contains(name) || hasOption(name);
+    const QStringList standsFor = optionsOfStandardName(name);
+    return hasOption(name) || std::any_of(standsFor.begin(), standsFor.end(),
+                                          [this](const QString &keyword) { return hasOption(keyword); });
 }
 
-QMap<QString, QString> PpdDocument::marks() const
+QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const QString &value)
 {
-    QMap<QString, QString> marks;
-    for (const QString &keyword : optionKeywords()) {
-        const QString choice = markedChoice(keyword);
-        if (!choice.isEmpty())
-            marks.insert(keyword, choice);
+    const bool isList = name == QLatin1String("media");
+    QMap<QString, QString> result;
+    for (const QString &part : isList ? value.split(QLatin1Char(',')) : QStringList(value)) {
+        const QMap<QString, QString> choices = choicesMarkedBy(name, part.trimmed());
+        if (choices.isEmpty())
+            return {};
+        result.insert(choices);
     }
-    return marks;
+    return result;
 }
 
-void PpdDocument::restoreMarks(const QMap<QString, QString> &marks)
+// libcups does not tell what it marks for a name. So each option that it may mark is set to another choice
+// first; what has moved from there was meant.
+QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const QString &value)
 {
-    for (auto it = marks.begin(); it != marks.end(); ++it) {
-        if (markedChoice(it.key()) != it.value())
-            mark(it.key(), it.value());
+    QMap<QString, QString> before, decoys, result;
+    for (const QString &keyword : optionsOfStandardName(name)) {
+        const auto subject = option(keyword);
+        if (!subject || subject->markedChoice.isEmpty())
+            continue;
+        before.insert(keyword, subject->markedChoice);
+        for (const PpdOption::Choice &choice : subject->choices) {
+            if (choice.keyword != subject->markedChoice && mark(keyword, choice.keyword)) {
+                decoys.insert(keyword, choice.keyword);
+                break;
+            }
+        }
     }
+    const auto markedByValue = [&] {
+        CupsOptionList list;
+        list.add(name.toUtf8().constData(), value.toUtf8().constData());
+        cupsMarkOptions(m_ppd, list.count(), list.options());
+        for (auto it = before.begin(); it != before.end(); ++it) {
+            const QString now = markedChoice(it.key());
+            if (now != decoys.value(it.key(), it.value()))
+                result.insert(it.key(), now);
+        }
+    };
+    markedByValue();
+    // A value may be the decoy itself; from where things stood it is a change.
+    for (auto it = before.begin(); it != before.end(); ++it)
+        mark(it.key(), it.value());
+    decoys.clear();
+    markedByValue();
+    for (auto it = before.begin(); it != before.end(); ++it)
+        mark(it.key(), it.value());
+    return result;
 }
 
 bool PpdDocument::isInstallable(const QString &keyword) const

@@ -40,13 +40,11 @@ struct PpdOption
     };
     QString keyword;
     QString text;
-    QString group;
     QString groupText;
     QString defaultChoice;
     QString markedChoice;  // empty when nothing is marked
     QList<Choice> choices; // without those that take a value of their own
 
-    bool isBoolean = false;
     bool hasChoice(const QString &choice) const;
 };
 
@@ -76,7 +74,6 @@ public:
 
     ppd_file_s *record() const { return m_ppd; }
     QString modelName() const;
-    QString nickName() const;
 
     QStringList optionKeywords() const; // in PPD order
     bool hasOption(const QString &keyword) const;
@@ -96,8 +93,9 @@ public:
     void markOptions(const QMap<QString, QString> &options);
     // Whether markOptions() turns an option of this name into marks.
     bool takesOption(const QString &name) const;
-    QMap<QString, QString> marks() const;
-    void restoreMarks(const QMap<QString, QString> &marks);
+    // The choices that a standard name such as "media" stands for with this value, by option. Empty when the
+    // PPD has none for it, or for one of several values in a list. What is marked stays as it is.
+    QMap<QString, QString> standardChoices(const QString &name, const QString &value);
     // Marked choices that are not the default, in PPD order, without installable options.
     QList<OptionChoice> changedChoices() const;
 
@@ -119,6 +117,7 @@ private:
     QList<Constraint> readConstraints() const;
     bool isMet(const QString &keyword, const QString &choice) const;
     std::optional<Conflict> activeConflict(const Constraint &constraint) const;
+    QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
     bool isInstallableOption(const ppd_option_s *option) const;
 
     ppd_file_s *m_ppd = nullptr;

@@ -60,8 +60,13 @@ bool isDigits(const QString &text)
 }
 
 // What a value of this key looks like, told by the one it holds.
-QString shapeError(const QString &key, const QString &current, const QString &given)
+QString shapeError(const QString &key, const QVariant &value, const QString &given)
 {
+    if (value.metaType().id() == QMetaType::Bool)
+        return SettingText::tr("%1 takes True or False.").arg(key);
+    if (value.metaType().id() != QMetaType::QString)
+        return SettingText::tr("%1 does not take this value.").arg(key);
+    const QString current = value.toString();
     if (isDigits(current))
         return SettingText::tr("%1 takes %2 digits.").arg(key).arg(current.size());
     if (current.size() != given.size())
@@ -118,16 +123,17 @@ bool holds(const QVariant &now, const QString &given)
 QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const PpdDocument &ppd,
                const QString &keyPath, const QString &value)
 {
-    const QString before = object->valueForKeyPath(keyPath).toString();
+    const QVariant before = object->valueForKeyPath(keyPath);
     try {
         object->setValueForKeyPath(value, keyPath);
     } catch (const platform::Exception &exception) {
-        const bool isShape = exception.name() == platform::Exception::rangeName && !before.isEmpty();
+        const bool isShape =
+            exception.name() == platform::Exception::rangeName && !before.toString().isEmpty();
         return isShape ? shapeError(keyPath, before, value)
                        : QStringLiteral("%1: %2").arg(keyPath, exception.reason());
     }
     const auto stray = snapshot->strayOption(ppd);
-    if (stray && !isDigits(before))
+    if (stray && !isDigits(before.toString()))
         return SettingText::tr("%1 does not take this value: %2 has only %3.")
             .arg(keyPath, stray->keyword, choicesInWords(*stray));
     if (stray || !holds(object->valueForKeyPath(keyPath), value))

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void exitCodes_data();
     void exitCodes();
     void submitsWhatWasAsked();
+    void defaultsOfTheUser_data();
+    void defaultsOfTheUser();
     void standardInput();
     void conflictIsExplainedInJson();
     void resolveAcceptsTheProposal();
@@ -125,6 +127,10 @@ void BatchRunTest::exitCodes_data()
     QTest::newRow("no such file") << u"--batch /nowhere.pdf"_s << int(ExitFailure) << u"file-missing"_s;
     QTest::newRow("no such option") << u"--batch --set Sepia=1 FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such choice") << u"--batch --set Cyan=7 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("no such size") << u"--batch -o media=Foo FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("no such sides") << u"--batch -o sides=foo FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("sizes as they are")
+        << u"--batch -o media=A4 -o media=A3 FILE"_s << int(ExitSuccess) << QString();
     QTest::newRow("conflict") << u"--batch --set ColorType=Mono --set Cyan=2 FILE"_s << int(ExitConflict)
                               << u"conflict"_s;
     QTest::newRow("conflict in a summary")
@@ -161,6 +167,30 @@ void BatchRunTest::submitsWhatWasAsked()
     QCOMPARE(sentValue(job.options, u"page-ranges"_s), u"1-3"_s);
     QCOMPARE(sentValue(job.options, u"number-up"_s), u"4"_s);
     QVERIFY2(m_out.data().startsWith("request id is office-1 (1 file(s))\n"), m_out.data().constData());
+}
+
+void BatchRunTest::defaultsOfTheUser_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("sentName");
+    QTest::addColumn<QString>("sent");
+    QTest::newRow("collate") << u"collate"_s << u"false"_s << u"Collate"_s << u"False"_s;
+    QTest::newRow("PPD keyword") << u"Collate"_s << u"False"_s << u"Collate"_s << u"False"_s;
+    QTest::newRow("standard name") << u"multiple-document-handling"_s
+                                   << u"separate-documents-uncollated-copies"_s << u"Collate"_s << u"False"_s;
+    QTest::newRow("pages") << u"page-ranges"_s << u"4,2-3"_s << u"page-ranges"_s << u"2-4"_s;
+    QTest::newRow("no pages") << u"page-ranges"_s << u"all"_s << u"page-ranges"_s << QString();
+}
+
+void BatchRunTest::defaultsOfTheUser()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, value);
+    QFETCH(QString, sentName);
+    m_system.printers.first().options = {{u"copies"_s, u"2"_s}, {name, value}};
+    QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
+    QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
 }
 
 void BatchRunTest::standardInput()
