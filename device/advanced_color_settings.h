@@ -33,12 +33,14 @@ extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only
 class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool useConstraintHandling READ useConstraintHandling WRITE setUseConstraintHandling)
-    Q_PROPERTY(bool applyToDeviceColorOnly READ applyToDeviceColorOnly WRITE setApplyToDeviceColorOnly)
-    Q_PROPERTY(QStringList rgbSourceProfiles READ rgbSourceProfiles WRITE setRgbSourceProfiles)
-    Q_PROPERTY(QStringList cmykSourceProfiles READ cmykSourceProfiles WRITE setCmykSourceProfiles)
     Q_PROPERTY(
-        QStringList cmykDestinationProfiles READ cmykDestinationProfiles WRITE setCmykDestinationProfiles)
+        bool useConstraintHandling READ useConstraintHandling WRITE setUseConstraintHandling STORED false)
+    Q_PROPERTY(bool applyToDeviceColorOnly READ applyToDeviceColorOnly WRITE setApplyToDeviceColorOnly)
+    Q_PROPERTY(QStringList rgbSourceProfiles READ rgbSourceProfiles WRITE setRgbSourceProfiles STORED false)
+    Q_PROPERTY(
+        QStringList cmykSourceProfiles READ cmykSourceProfiles WRITE setCmykSourceProfiles STORED false)
+    Q_PROPERTY(QStringList cmykDestinationProfiles READ cmykDestinationProfiles WRITE
+                   setCmykDestinationProfiles STORED false)
     Q_PROPERTY(QVariantList rgbSourceProfileRows READ rgbSourceProfileRows)
     Q_PROPERTY(QVariantList cmykSourceProfileRows READ cmykSourceProfileRows)
     Q_PROPERTY(QVariantList cmykDestinationProfileRows READ cmykDestinationProfileRows)
@@ -49,8 +51,9 @@ class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
     Q_PROPERTY(quint32 selectedCmykDestinationProfile READ selectedCmykDestinationProfile WRITE
                    setSelectedCmykDestinationProfile)
     Q_PROPERTY(quint32 renderingIntent READ renderingIntent WRITE setRenderingIntent)
-    Q_PROPERTY(QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason)
-    Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled)
+    Q_PROPERTY(
+        QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason STORED false)
+    Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled STORED false)
 public:
     // Enabled, with nothing read yet. The window of `view`, which may be null, ends its text editing on save.
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,

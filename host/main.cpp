@@ -92,7 +92,9 @@ int main(int argc, char **argv)
     QString error;
     const auto arguments = parseArguments(QApplication::arguments(), &error);
     if (!arguments) {
-        err.write("kelmar-print: " + error.toUtf8() + "\n");
+        BatchResult result;
+        result.error = {PrintError::Kind::BadValue, error};
+        ResultWriter(&out, &err).write(result, QApplication::arguments().contains(QLatin1String("--json")));
         return ExitUsage;
     }
     if (arguments->help || arguments->version) {

@@ -20,11 +20,12 @@ class QVPopUpButton_M880;
 class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880
 {
     Q_OBJECT
-    Q_PROPERTY(bool hasResolution READ hasResolution WRITE setHasResolution)
-    Q_PROPERTY(bool hasAdvanced READ hasAdvanced WRITE setHasAdvanced)
+    // Inner state is not stored: users and scripts do not set it by name.
+    Q_PROPERTY(bool hasResolution READ hasResolution WRITE setHasResolution STORED false)
+    Q_PROPERTY(bool hasAdvanced READ hasAdvanced WRITE setHasAdvanced STORED false)
     // Whether the image type is "Advanced". What is set here is kept, but never read.
-    Q_PROPERTY(bool advancedSelected READ advancedSelected WRITE setAdvancedSelected)
-    Q_PROPERTY(QWidget *currentView READ currentView WRITE setCurrentView)
+    Q_PROPERTY(bool advancedSelected READ advancedSelected WRITE setAdvancedSelected STORED false)
+    Q_PROPERTY(QWidget *currentView READ currentView WRITE setCurrentView STORED false)
     // Null without an advanced view.
     Q_PROPERTY(platform::KeyValueObject *advancedColorSettingsManager READ advancedColorSettingsObject)
     // Localised names of the rendering intents and the numbers that the device has for them.

@@ -15,7 +15,7 @@ struct Notification;
 class QVPDEColorSettings2_M880 : public QVPDE_M880, public QVPDELoading_M880
 {
     Q_OBJECT
-    Q_PROPERTY(bool colorBalanceAllowed READ colorBalanceAllowed WRITE setColorBalanceAllowed)
+    Q_PROPERTY(bool colorBalanceAllowed READ colorBalanceAllowed WRITE setColorBalanceAllowed STORED false)
     // Why colour balance is not allowed, in the user's language; empty while it is.
     Q_PROPERTY(QString colorBalanceReason READ colorBalanceReason)
 public:

@@ -17,7 +17,7 @@ class QVPDEPrintMode_M880 : public QVPDE_M880, public QVPDELoading_M880
     Q_PROPERTY(QString departmentCode READ departmentCode WRITE setDepartmentCode)
     Q_PROPERTY(QString privatePassword READ privatePassword WRITE setPrivatePassword)
     Q_PROPERTY(bool isPrivate READ isPrivate)
-    Q_PROPERTY(bool hasPrintMode READ hasPrintMode WRITE setHasPrintMode)
+    Q_PROPERTY(bool hasPrintMode READ hasPrintMode WRITE setHasPrintMode STORED false)
 public:
     QVPDEPrintMode_M880();
 

@@ -104,6 +104,11 @@ void DialogSession::watch(size_t index)
             });
 }
 
+platform::PrintDialogPanel *DialogSession::panel(int index) const
+{
+    return m_panels.at(static_cast<size_t>(index)).panel.get();
+}
+
 int DialogSession::panelOfKeyword(const QString &keyword) const
 {
     for (size_t i = 0; i < m_panels.size(); ++i) {

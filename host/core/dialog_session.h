@@ -7,27 +7,20 @@
 #include "host/core/destination.h"
 #include "host/core/general_settings.h"
 #include "host/core/ppd_document.h"
+#include "host/core/session_panel.h"
+#include "host/core/summary_section.h"
 #include "platform/print_dialog.h"
 #include "platform/printing_manager.h"
 
 #include <QObject>
 #include <QSet>
-#include <QStringList>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace host {
 
 class Extensions;
-
-// A part of the summary: what one pane stands at.
-struct SummarySection
-{
-    QString title;
-    QList<std::pair<QString, QString>> entries;
-};
 
 // One dialog for one printer: its PPD, the job's settings and the plug-in's panels, and their host. Works
 // without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown;
@@ -53,10 +46,7 @@ public:
     const GeneralSettings &general() const { return m_general; }
 
     int panelCount() const { return static_cast<int>(m_panels.size()); }
-    platform::PrintDialogPanel *panel(int index) const
-    {
-        return m_panels.at(static_cast<size_t>(index)).panel.get();
-    }
+    platform::PrintDialogPanel *panel(int index) const;
     QStringList panelKeywords(int index) const { return m_panels.at(static_cast<size_t>(index)).keywords; }
     bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
     // The panel that handles a PPD option, or -1.
@@ -101,16 +91,7 @@ Q_SIGNALS:
     void blockingEnded();
 
 private:
-    struct Panel
-    {
-        std::unique_ptr<platform::PrintDialogPanel> panel;
-        QStringList keywords;
-        QSet<QString> touched;  // set by the panel's own code before it was restored
-        bool announced = false; // shows its options' choices, without having been restored
-        bool restored = false;
-
-        bool followsChoices() const { return announced || restored; }
-    };
+    using Panel = SessionPanel;
 
     void watch(size_t index);
     void announceChoices(Panel &panel);

@@ -102,6 +102,12 @@ bool PpdOption::hasChoice(const QString &choice) const
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
 {
+    return openNamed(path, PpdDocumentText::tr("The PPD file “%1”").arg(path), error);
+}
+
+std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const QString &name,
+                                                    PrintError *error)
+{
     const QFileInfo info(path);
     if (!info.isFile()) {
         *error = {PrintError::Kind::FileMissing, PpdDocumentText::tr("There is no PPD file “%1”.").arg(path)};
@@ -117,9 +123,8 @@ std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *
     if (!ppd) {
         int line = 0;
         const QString what = text(ppdErrorString(ppdLastError(&line)));
-        *error = {
-            PrintError::Kind::BrokenPpd,
-            PpdDocumentText::tr("The PPD file “%1” is broken: line %2: %3.").arg(path).arg(line).arg(what)};
+        *error = {PrintError::Kind::BrokenPpd,
+                  PpdDocumentText::tr("%1 is broken: line %2: %3.").arg(name).arg(line).arg(what)};
         return nullptr;
     }
     ppdLocalize(ppd);
@@ -139,10 +144,11 @@ std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, PrintErr
         *error = lastCupsError(queue);
         return nullptr;
     }
-    auto document = open(QFile::decodeName(path), error);
+    auto document =
+        openNamed(QFile::decodeName(path), PpdDocumentText::tr("The PPD of “%1”").arg(queue), error);
     QFile::remove(QFile::decodeName(path)); // a copy or a link in the folder for temporary files
     if (!document)
-        error->message.replace(QFile::decodeName(path), queue);
+        error->message.replace(QFile::decodeName(path), queue); // where the copy cannot be read
     return document;
 }
 

@@ -110,6 +110,9 @@ public:
 
 private:
     explicit PpdDocument(ppd_file_s *ppd) : m_ppd(ppd) {}
+    // `name` is what an error calls the PPD.
+    static std::unique_ptr<PpdDocument> openNamed(const QString &path, const QString &name,
+                                                  PrintError *error);
 
     // One constraint of the PPD: choices by option. An empty choice stands for any but the off choice.
     using Constraint = QList<std::pair<QString, QString>>;

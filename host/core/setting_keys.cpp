@@ -47,11 +47,28 @@ PrintError noSuchChoice(const PpdOption &option, const QString &choice)
                         .arg(option.keyword, choice, choicesInWords(option)));
 }
 
-// A key of the panel's own that can be set: a declared property, not one that every object has.
-bool isOwnKey(const QMetaObject *cls, const QString &key)
+// The object that a property holds, such as the settings of a device within a panel's; null for other values.
+platform::KeyValueObject *objectOf(platform::KeyValueObject *owner, const QMetaProperty &property)
 {
-    const int index = cls->indexOfProperty(key.toUtf8().constData());
-    return index >= platform::KeyValueObject::staticMetaObject.propertyCount();
+    return qobject_cast<platform::KeyValueObject *>(qvariant_cast<QObject *>(property.read(owner)));
+}
+
+// Every key and key path that can be set: writable properties, declared by the class itself, that are not
+// marked as inner state (STORED false).
+QStringList settableKeys(platform::KeyValueObject *object)
+{
+    QStringList keys;
+    const QMetaObject *cls = object->metaObject();
+    for (int i = platform::KeyValueObject::staticMetaObject.propertyCount(); i < cls->propertyCount(); ++i) {
+        const QMetaProperty property = cls->property(i);
+        const QString key = QString::fromUtf8(property.name());
+        if (property.isWritable() && property.isStored())
+            keys.append(key);
+        else if (platform::KeyValueObject *inner = objectOf(object, property))
+            for (const QString &innerKey : settableKeys(inner))
+                keys.append(key + QLatin1Char('.') + innerKey);
+    }
+    return keys;
 }
 
 bool isDigits(const QString &text)
@@ -246,9 +263,8 @@ bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &v
 
 int SettingKeys::panelOfKey(const QString &keyPath) const
 {
-    const QString key = keyPath.section(QLatin1Char('.'), 0, 0);
     for (int i = 0; i < m_session->panelCount(); ++i) {
-        if (isOwnKey(m_session->panel(i)->keyValueObject()->metaObject(), key))
+        if (settableKeys(m_session->panel(i)->keyValueObject()).contains(keyPath))
             return i;
     }
     return -1;
@@ -256,14 +272,13 @@ int SettingKeys::panelOfKey(const QString &keyPath) const
 
 QList<std::pair<QString, QString>> SettingKeys::panelKeys() const
 {
-    QList<std::pair<QString, QString>> keys;
+    const QString general = QStringLiteral("general");
+    QList<std::pair<QString, QString>> keys = {{general, QStringLiteral("copies")},
+                                               {general, QStringLiteral("collate")},
+                                               {general, QStringLiteral("page-ranges")}};
     for (int i = 0; i < m_session->panelCount(); ++i) {
-        const QMetaObject *cls = m_session->panel(i)->keyValueObject()->metaObject();
-        for (int p = platform::KeyValueObject::staticMetaObject.propertyCount(); p < cls->propertyCount();
-             ++p) {
-            if (cls->property(p).isWritable())
-                keys.append({m_session->panel(i)->panelKind(), QString::fromUtf8(cls->property(p).name())});
-        }
+        for (const QString &key : settableKeys(m_session->panel(i)->keyValueObject()))
+            keys.append({m_session->panel(i)->panelKind(), key});
     }
     return keys;
 }

@@ -24,7 +24,8 @@ public:
     bool set(const QString &key, const QString &value, PrintError *error);
     // Whether set() has something to set under this key, whatever the value.
     bool knows(const QString &key) const;
-    // The keys that panels answer beside PPD options, as "panel kind" and "key".
+    // The keys that can be set beside PPD options, as "panel kind" and "key"; "general" stands for the
+    // settings that every printer has.
     QList<std::pair<QString, QString>> panelKeys() const;
 
 private:

@@ -187,6 +187,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>BatchText</name>
     <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
+    </message>
+    <message>
         <source>Standard input</source>
         <translation>Standardeingabe</translation>
     </message>
@@ -316,8 +320,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Sie dürfen die PPD-Datei „%1“ nicht lesen.</translation>
     </message>
     <message>
-        <source>The PPD file “%1” is broken: line %2: %3.</source>
-        <translation>Die PPD-Datei „%1“ ist fehlerhaft: Zeile %2: %3.</translation>
+        <source>The PPD file “%1”</source>
+        <translation>Die PPD-Datei „%1“</translation>
+    </message>
+    <message>
+        <source>The PPD of “%1”</source>
+        <translation>Die PPD von „%1“</translation>
+    </message>
+    <message>
+        <source>%1 is broken: line %2: %3.</source>
+        <translation>%1 ist fehlerhaft: Zeile %2: %3.</translation>
     </message>
 </context>
 <context>

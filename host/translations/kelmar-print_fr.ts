@@ -187,6 +187,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
 <context>
     <name>BatchText</name>
     <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1 : cette imprimante ne connaît pas « %2 ».</translation>
+    </message>
+    <message>
         <source>Standard input</source>
         <translation>Entrée standard</translation>
     </message>
@@ -316,8 +320,16 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Vous n’avez pas le droit de lire le fichier PPD « %1 ».</translation>
     </message>
     <message>
-        <source>The PPD file “%1” is broken: line %2: %3.</source>
-        <translation>Le fichier PPD « %1 » est défectueux : ligne %2 : %3.</translation>
+        <source>The PPD file “%1”</source>
+        <translation>Le fichier PPD « %1 »</translation>
+    </message>
+    <message>
+        <source>The PPD of “%1”</source>
+        <translation>Le PPD de « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 is broken: line %2: %3.</source>
+        <translation>%1 est défectueux : ligne %2 : %3.</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>BatchText</name>
     <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: このプリンターには「%2」がありません。</translation>
+    </message>
+    <message>
         <source>Standard input</source>
         <translation>標準入力</translation>
     </message>
@@ -316,8 +320,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>PPD ファイル「%1」を読む権限がありません。</translation>
     </message>
     <message>
-        <source>The PPD file “%1” is broken: line %2: %3.</source>
-        <translation>PPD ファイル「%1」は壊れています: %2 行目: %3。</translation>
+        <source>The PPD file “%1”</source>
+        <translation>PPD ファイル「%1」</translation>
+    </message>
+    <message>
+        <source>The PPD of “%1”</source>
+        <translation>「%1」の PPD</translation>
+    </message>
+    <message>
+        <source>%1 is broken: line %2: %3.</source>
+        <translation>%1は壊れています: %2 行目: %3。</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,7 @@ void BatchRunTest::optionsAreListed()
     QCOMPARE(options.size(), 8);
     QCOMPARE(options[0][u"option"_s].toString(), u"PageSize"_s);
     QCOMPARE(options[0][u"choices"_s][1][u"choice"_s].toString(), u"A3"_s);
+    QCOMPARE(json()[u"panelKeys"_s][2][u"key"_s].toString(), u"page-ranges"_s);
     QVERIFY(m_system.submitted.isEmpty());
     QCOMPARE(run({u"--list-options"_s}), int(ExitSuccess));
     QVERIFY2(m_out.data().contains("    Duplex/Two-Sided: *None DuplexNoTumble\n"), m_out.data().constData());

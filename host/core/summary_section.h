@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <utility>
+
+namespace host {
+
+// A part of the summary: what one pane stands at. A value.
+struct SummarySection
+{
+    QString title;
+    QList<std::pair<QString, QString>> entries;
+};
+
+} // namespace host
