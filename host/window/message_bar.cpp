@@ -89,6 +89,7 @@ void MessageBar::addButton(const QString &text, int index)
 {
     auto *button = new QPushButton(text, this);
     button->setAutoDefault(false);
+    button->setMinimumWidth(96);
     connect(button, &QPushButton::clicked, this, [this, index] {
         hide();
         Q_EMIT answered(index);

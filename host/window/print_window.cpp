@@ -232,17 +232,22 @@ void PrintWindow::sessionChanged()
 
 void PrintWindow::showNotices()
 {
-    const QStringList notices = m_session->takeNotices();
-    if (!notices.isEmpty() && !m_askingConflict)
-        m_bar->showMessage(MessageBar::Kind::Notice, tr("Please note"), notices);
+    const QStringList fresh = m_session->takeNotices();
+    m_notices += fresh;
+    const bool known = fresh.isEmpty() && m_bar->isShowing();
+    if (m_notices.isEmpty() || m_askingConflict || known)
+        return;
+    m_bar->showMessage(MessageBar::Kind::Notice, tr("Please note"), m_notices);
 }
 
 bool PrintWindow::showConflicts()
 {
     const QList<Conflict> conflicts = m_session->conflicts();
     if (conflicts.isEmpty()) {
-        if (std::exchange(m_askingConflict, false))
+        if (std::exchange(m_askingConflict, false)) {
             m_bar->hide();
+            showNotices();
+        }
         return false;
     }
     QStringList lines;
@@ -271,26 +276,34 @@ bool PrintWindow::showConflicts()
 void PrintWindow::answer(int index)
 {
     const bool accepted = std::exchange(m_askingConflict, false) && m_proposal && index == applyProposal;
-    if (!accepted)
-        return;
-    m_session->apply(*m_proposal);
-    showConflicts();
+    if (m_bar->kind() == MessageBar::Kind::Notice)
+        m_notices.clear();
+    if (accepted) {
+        m_session->apply(*m_proposal);
+        showConflicts();
+    }
+    if (m_session)
+        showNotices();
 }
 
 void PrintWindow::pickPrinter(const QString &name)
 {
+    if (!m_session) { // the settings of the task are still to be made
+        m_task.printer = name;
+        reopen();
+        return;
+    }
     PrintError error;
     auto session = makeSession(name, &error);
     if (!session) {
         showError(error);
-        if (m_session)
-            m_picker->setCurrent(m_session->destination());
+        m_picker->setCurrent(m_session->destination());
         return;
     }
     m_bar->hide();
     m_askingConflict = false;
-    if (m_session)
-        carryOver(*m_session, session.get());
+    m_notices.clear();
+    carryOver(*m_session, session.get());
     adopt(std::move(session));
     m_book->showPage(0);
     showConflicts();
@@ -308,15 +321,40 @@ void PrintWindow::loadPrinterList()
 void PrintWindow::finishLater()
 {
     loadPrinterList();
+    checkDocuments();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
 }
 
-void PrintWindow::retry()
+void PrintWindow::checkDocuments()
+{
+    for (const QString &path : m_task.files) {
+        PrintError error;
+        if (path == QLatin1String("-") || !m_session || openDocument(path, &error))
+            continue;
+        if (m_askingConflict)
+            m_notices.append(error.message);
+        else
+            showError(error);
+        return;
+    }
+}
+
+// A printer that cannot do what the task asks for is not offered without it.
+void PrintWindow::reopen()
 {
     PrintError error;
-    if (!open(&error))
-        showError(error);
+    if (open(&error))
+        return;
+    m_book->clear();
+    m_session.reset();
+    m_notices.clear();
+    showError(error);
+}
+
+void PrintWindow::retry()
+{
+    reopen();
     loadPrinterList();
 }
 

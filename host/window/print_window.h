@@ -79,6 +79,8 @@ private:
     void showNotices();
     bool showConflicts();
     void answer(int index);
+    void reopen();
+    void checkDocuments();
     void showError(const PrintError &error);
     void showBusy(const QString &what);
     void showPainted();
@@ -92,6 +94,7 @@ private:
     std::unique_ptr<DialogSession> m_session;
     std::unique_ptr<QTemporaryFile> m_spool;
     bool m_askingConflict = false;
+    QStringList m_notices; // not yet closed by the user
     QList<JobOption> m_passedOn;
     std::optional<Resolution> m_proposal;
     std::optional<SubmittedJob> m_job;

@@ -18,6 +18,19 @@ namespace {
 constexpr int iconSize = 48; // pixels
 constexpr std::chrono::seconds between(1);
 
+StatusGlyph::Kind kindOf(JobStatus::State state)
+{
+    switch (state) {
+    case JobStatus::State::Aborted:
+        return StatusGlyph::Kind::Error;
+    case JobStatus::State::Cancelled:
+    case JobStatus::State::Stopped:
+        return StatusGlyph::Kind::Notice;
+    default:
+        return StatusGlyph::Kind::Success;
+    }
+}
+
 QLabel *centredLabel(QWidget *parent)
 {
     auto *label = new QLabel(parent);
@@ -30,7 +43,8 @@ QLabel *centredLabel(QWidget *parent)
 } // namespace
 
 ResultPage::ResultPage(QWidget *parent)
-    : QWidget(parent), m_title(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
+    : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
+      m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
@@ -40,9 +54,7 @@ ResultPage::ResultPage(QWidget *parent)
     column->setContentsMargins(40, 24, 40, 24);
     column->setSpacing(10);
     column->addStretch(2);
-    auto *glyph = new StatusGlyph(iconSize, this);
-    glyph->setKind(StatusGlyph::Kind::Success);
-    column->addWidget(glyph, 0, Qt::AlignHCenter);
+    column->addWidget(m_glyph, 0, Qt::AlignHCenter);
     for (QLabel *label : {m_title, m_state, m_notes})
         column->addWidget(label);
     column->addStretch(3);
@@ -67,7 +79,9 @@ void ResultPage::showStatus(const JobStatus &status)
     // A server that does not answer just now tells nothing new.
     if (status.state == JobStatus::State::Unknown && !m_state->text().isEmpty())
         return;
-    m_state->setText(tr("Job %1: %2").arg(m_id).arg(status.text()));
+    m_glyph->setKind(kindOf(status.state));
+    const QString state = tr("Job %1: %2").arg(m_id).arg(status.text());
+    m_state->setText(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message);
     setAccessibleName(text());
     if (status.isFinal())
         m_timer.stop();

@@ -14,6 +14,8 @@ class QLabel;
 
 namespace host {
 
+class StatusGlyph;
+
 // What became of the job: its number and its state, which keeps up with the print server for as long as it is
 // shown.
 class ResultPage : public QWidget
@@ -29,6 +31,7 @@ public:
 private:
     void showStatus(const JobStatus &status);
 
+    StatusGlyph *m_glyph;
     QLabel *m_title;
     QLabel *m_state;
     QLabel *m_notes;

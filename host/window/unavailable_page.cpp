@@ -21,6 +21,7 @@ UnavailablePage::UnavailablePage(QWidget *parent)
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_reason->setFont(large);
     m_retry->setAutoDefault(false);
+    m_retry->setMinimumWidth(96);
     auto *glyph = new StatusGlyph(48, this);
     glyph->setKind(StatusGlyph::Kind::Error);
 

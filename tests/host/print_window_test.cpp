@@ -54,6 +54,8 @@ private Q_SLOTS:
     void printsWithTheGeneralPane();
     void nonsensicalPagesStopPrinting();
     void conflictIsExplainedAndResolved();
+    void noticesOutliveAQuestion();
+    void settingsOfTheTaskReachThePickedPrinter();
     void forbiddenChoiceIsGreyed();
     void serverAwayKeepsTheSettings();
     void opensWithoutServer();
@@ -204,6 +206,49 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     QVERIFY(!window.messageBar()->isShowing());
     printButton()->click();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Cyan"_s), u"2"_s);
+}
+
+void PrintWindowTest::noticesOutliveAQuestion()
+{
+    PrintWindow &window = open();
+    window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
+    window.session()->markChoice(u"Cyan"_s, u"2"_s);
+    window.session()->addNotice(u"first"_s);
+    printButton()->click();
+    window.session()->addNotice(u"second"_s);
+    printButton()->click();
+    MessageBar *bar = window.messageBar();
+    QCOMPARE(bar->kind(), MessageBar::Kind::Question);
+    bar->buttons().last()->click(); // keep and review
+    QCOMPARE(bar->kind(), MessageBar::Kind::Notice);
+    QVERIFY2(bar->text().endsWith(u"first\nsecond"_s), qPrintable(bar->text()));
+    bar->buttons().first()->click();
+    QVERIFY(!bar->isShowing());
+}
+
+void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
+{
+    PrintTask task;
+    task.files = {m_document.fileName()};
+    task.printer = u"nosuch"_s;
+    task.prepare = [](DialogSession *session, PrintError *error) {
+        if (session->ppd())
+            session->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s);
+        else
+            *error = {PrintError::Kind::BadValue, u"no such setting"_s};
+        return session->ppd() != nullptr;
+    };
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->loadPrinterList();
+    auto *picker = find<PrinterPicker>();
+    Q_EMIT picker->picked(u"raw"_s);
+    QVERIFY(!m_window->session());
+    QCOMPARE(find<UnavailablePage>()->reason(), u"no such setting"_s);
+    Q_EMIT picker->picked(u"attic"_s);
+    m_window->print();
+    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Duplex"_s), u"DuplexNoTumble"_s);
 }
 
 void PrintWindowTest::forbiddenChoiceIsGreyed()
