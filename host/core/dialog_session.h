@@ -44,16 +44,14 @@ public:
     PpdDocument *ppd() const { return m_ppd.get(); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
-
     int panelCount() const { return static_cast<int>(m_panels.size()); }
     platform::PrintDialogPanel *panel(int index) const;
     QStringList panelKeywords(int index) const { return m_panels.at(static_cast<size_t>(index)).keywords; }
     bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
     // The panel that handles a PPD option, or -1.
     int panelOfKeyword(const QString &keyword) const;
-    // Makes a panel ready to be shown or set: those before it announce how their options stand, in order, and
-    // it is restored, unless that has been done. The others are not restored for it, since a panel may ask a
-    // device that is switched off.
+    // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
+    // their options stand. These are not restored, since a panel may ask a device that is switched off.
     void prepare(int index);
     // Saves every restored panel.
     void save();
@@ -71,9 +69,8 @@ public:
     void addNotice(const QString &notice) { m_notices.append(notice); }
 
     QList<SummarySection> summary() const;
-    // Every choice that is not the printer's default, every choice that a panel has saved, every setting of a
-    // panel, the general settings, and the user's own defaults for the printer as far as nothing else decides
-    // about them.
+    // Choices other than the printer's defaults, what panels have saved or set, the general settings, and the
+    // user's own defaults for the printer as far as nothing else decides about them.
     QList<JobOption> jobOptions() const;
 
     PMPrintSettings printSettings() override { return &m_printSettings; }
