@@ -4,7 +4,7 @@
 #include "host/window/message_bar.h"
 
 #include <QAccessible>
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -37,7 +37,7 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(plainLabel(this)),
-      m_lines(plainLabel(this)), m_buttonRow(new QHBoxLayout)
+      m_lines(plainLabel(this)), m_row(new QBoxLayout(QBoxLayout::TopToBottom)), m_buttonRow(new QHBoxLayout)
 {
     QFont bold = m_title->font();
     bold.setWeight(QFont::DemiBold);
@@ -45,15 +45,17 @@ MessageBar::MessageBar(QWidget *parent)
     m_buttonRow->setSpacing(8);
 
     auto *texts = new QVBoxLayout;
-    texts->setSpacing(4);
+    texts->setSpacing(1);
     texts->addWidget(m_title);
     texts->addWidget(m_lines);
-    texts->addLayout(m_buttonRow);
+    m_row->setSpacing(4);
+    m_row->addLayout(texts, 1);
+    m_row->addLayout(m_buttonRow);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(14, 10, 12, 10);
+    row->setContentsMargins(14, 5, 12, 5);
     row->setSpacing(12);
     row->addWidget(m_glyph, 0, Qt::AlignTop);
-    row->addLayout(texts, 1);
+    row->addLayout(m_row, 1);
     hide();
 }
 
@@ -72,8 +74,12 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     m_lines->setVisible(!lines.isEmpty());
     qDeleteAll(m_buttons);
     m_buttons.clear();
-    delete m_buttonRow->takeAt(0);
-    m_buttonRow->addStretch(1);
+    while (QLayoutItem *item = m_buttonRow->takeAt(0))
+        delete item;
+    // A single button stands beside the text, which keeps the bar low.
+    m_row->setDirection(answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (answers.size() > 1)
+        m_buttonRow->addStretch(1);
     for (qsizetype i = 0; i < answers.size(); ++i)
         addButton(answers.at(i), static_cast<int>(i));
     if (answers.isEmpty())

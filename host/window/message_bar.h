@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+class QBoxLayout;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -48,6 +49,7 @@ private:
     StatusGlyph *m_glyph;
     QLabel *m_title;
     QLabel *m_lines;
+    QBoxLayout *m_row;
     QHBoxLayout *m_buttonRow;
     QList<QPushButton *> m_buttons;
 };
