@@ -579,7 +579,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>host::MessageBar</name>
     <message>
-        <source>&amp;Close</source>
+        <source>C&amp;lose</source>
         <translation>S&amp;chließen</translation>
     </message>
 </context>
@@ -671,8 +671,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>&amp;Vorschlag anwenden</translation>
     </message>
     <message>
-        <source>&amp;Keep and Review</source>
-        <translation>&amp;Behalten und prüfen</translation>
+        <source>Keep and Re&amp;view</source>
+        <translation>Behalten &amp;und prüfen</translation>
     </message>
     <message>
         <source>These settings cannot be used together</source>

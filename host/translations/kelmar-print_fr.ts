@@ -579,7 +579,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
 <context>
     <name>host::MessageBar</name>
     <message>
-        <source>&amp;Close</source>
+        <source>C&amp;lose</source>
         <translation>&amp;Fermer</translation>
     </message>
 </context>
@@ -671,7 +671,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>A&amp;ppliquer la suggestion</translation>
     </message>
     <message>
-        <source>&amp;Keep and Review</source>
+        <source>Keep and Re&amp;view</source>
         <translation>&amp;Garder et vérifier</translation>
     </message>
     <message>

@@ -579,8 +579,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>host::MessageBar</name>
     <message>
-        <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
     </message>
 </context>
 <context>
@@ -671,8 +671,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>提案を適用(&amp;L)</translation>
     </message>
     <message>
-        <source>&amp;Keep and Review</source>
-        <translation>そのまま確認(&amp;K)</translation>
+        <source>Keep and Re&amp;view</source>
+        <translation>そのまま確認(&amp;V)</translation>
     </message>
     <message>
         <source>These settings cannot be used together</source>

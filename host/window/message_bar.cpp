@@ -83,7 +83,7 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     for (qsizetype i = 0; i < answers.size(); ++i)
         addButton(answers.at(i), static_cast<int>(i));
     if (answers.isEmpty())
-        addButton(tr("&Close"), -1);
+        addButton(tr("C&lose"), -1);
     setAccessibleName(text());
     show();
     update();

@@ -266,7 +266,7 @@ bool PrintWindow::showConflicts()
         lines.append(tr("Suggestion: %1").arg(changes.join(QStringLiteral(", "))));
         answers.append(tr("App&ly Suggestion"));
     }
-    answers.append(tr("&Keep and Review"));
+    answers.append(tr("Keep and Re&view"));
     m_askingConflict = true;
     m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
                        answers);
