@@ -5,12 +5,10 @@
 
 #include "platform/layout_loader.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QResizeEvent>
-#include <QStyle>
 
 namespace {
 
@@ -21,16 +19,30 @@ const bool registered = [] {
 
 constexpr int cornerRadius = 6; // px
 constexpr int leastWidth = 280; // px
+constexpr int glyphSize = 18;   // px
+
+// An "i" or a "!" on a disc, on a field of 20 by 20.
+void drawGlyph(QPainter &painter, const QColor &color, bool warning)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(QRectF(1, 1, 18, 18));
+    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(10, warning ? 5.5 : 9.5), QPointF(10, warning ? 10.5 : 14.5));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QPointF(10, warning ? 14 : 6.2), 1.2, 1.2);
+}
 
 } // namespace
 
 QVNotice_M880::QVNotice_M880(QWidget *parent)
-    : QFrame(parent), m_icon(new QLabel(this)), m_text(new QLabel(this))
+    : QFrame(parent), m_icon(new QWidget(this)), m_text(new QLabel(this))
 {
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_icon->setAccessibleName(QString());
+    m_icon->setFixedSize(glyphSize, glyphSize);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(12, 8, 12, 8);
     row->setSpacing(10);
@@ -54,21 +66,13 @@ void QVNotice_M880::setText(const QString &text)
 void QVNotice_M880::setWarning(bool warning)
 {
     m_warning = warning;
-    if (isVisible())
-        updateIcon();
+    update();
 }
 
 QSize QVNotice_M880::minimumSizeHint() const
 {
     const int width = isVisible() ? this->width() : leastWidth;
     return {leastWidth, heightForWidth(qMax(width, leastWidth))};
-}
-
-// The icon theme is asked for only when there is something to say: the first look into it takes its time.
-void QVNotice_M880::showEvent(QShowEvent *event)
-{
-    updateIcon();
-    QFrame::showEvent(event);
 }
 
 void QVNotice_M880::resizeEvent(QResizeEvent *event)
@@ -78,19 +82,11 @@ void QVNotice_M880::resizeEvent(QResizeEvent *event)
         updateGeometry();
 }
 
-void QVNotice_M880::changeEvent(QEvent *event)
-{
-    const bool looksDifferent =
-        event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange;
-    if (looksDifferent && isVisible())
-        updateIcon();
-    QFrame::changeEvent(event);
-}
-
 // A tint of the highlight over the window's own colour stays quiet in light and in dark palettes.
 void QVNotice_M880::paintEvent(QPaintEvent *)
 {
-    QColor tint = m_warning ? QColor(0xe6, 0x9f, 0x00) : palette().color(QPalette::Highlight);
+    const QColor color = m_warning ? QColor(0xe6, 0x9f, 0x00) : palette().color(QPalette::Highlight);
+    QColor tint = color;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     tint.setAlphaF(0.55F);
@@ -98,11 +94,7 @@ void QVNotice_M880::paintEvent(QPaintEvent *)
     tint.setAlphaF(0.14F);
     painter.setBrush(tint);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-}
-
-void QVNotice_M880::updateIcon()
-{
-    const auto which = m_warning ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    m_icon->setPixmap(style()->standardIcon(which, nullptr, this).pixmap(size));
+    painter.translate(m_icon->pos());
+    painter.scale(m_icon->width() / 20.0, m_icon->height() / 20.0);
+    drawGlyph(painter, color, m_warning);
 }

@@ -27,15 +27,11 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void updateIcon();
-
-    QLabel *m_icon;
+    QWidget *m_icon; // keeps the place of the glyph
     QLabel *m_text;
     bool m_warning = false;
 };
