@@ -8,6 +8,7 @@ namespace platform {
 PrintDialogHost::~PrintDialogHost() = default;
 ConstraintResolvingHost::~ConstraintResolvingHost() = default;
 BlockingWorkHost::~BlockingWorkHost() = default;
+PanelProblemHost::~PanelProblemHost() = default;
 PrintDialogPanel::~PrintDialogPanel() = default;
 PrintDialogExtension::~PrintDialogExtension() = default;
 

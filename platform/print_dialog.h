@@ -54,6 +54,15 @@ public:
     virtual void didBlock() = 0;
 };
 
+// Implemented as well by a host that can tell the user about a panel that could not be made.
+class KELMAR_PLATFORM_EXPORT PanelProblemHost
+{
+public:
+    virtual ~PanelProblemHost();
+    // The panel of this class is missing from the dialog; `reason` is plain text that names what and where.
+    virtual void panelFailed(const QString &className, const QString &reason) = 0;
+};
+
 // Says for the length of a scope that the dialog's thread may block. Nothing happens when the host does not
 // implement BlockingWorkHost or is null.
 class KELMAR_PLATFORM_EXPORT BlockingWork

@@ -72,6 +72,8 @@ QVPDEFactory_M880::PDEPanelsForTypeWithHostInfo(const QString &type, platform::P
             qCWarning(lcPlugin).noquote().nospace()
                 << '"' << panelClass.className << "\" was not loaded because an unexpected error occurred.";
             qCWarning(lcPlugin).noquote() << exception.description();
+            if (auto *problems = dynamic_cast<platform::PanelProblemHost *>(host))
+                problems->panelFailed(panelClass.className, exception.reason());
         }
     }
     return panels;

@@ -83,6 +83,11 @@ void DialogSession::loadPanels(Extensions &extensions)
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
 }
 
+void DialogSession::panelFailed(const QString &, const QString &reason)
+{
+    addNotice(tr("A page of the printer's settings cannot be shown: %1").arg(reason));
+}
+
 void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
 {
     for (auto &panel : panels) {

@@ -28,7 +28,8 @@ class Extensions;
 class DialogSession : public QObject,
                       public platform::PrintDialogHost,
                       public platform::ConstraintResolvingHost,
-                      public platform::BlockingWorkHost
+                      public platform::BlockingWorkHost,
+                      public platform::PanelProblemHost
 {
     Q_OBJECT
 public:
@@ -79,6 +80,7 @@ public:
     void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) override;
     void willBlock(const QString &what) override;
     void didBlock() override;
+    void panelFailed(const QString &className, const QString &reason) override;
 
 Q_SIGNALS:
     // New notices can be taken, or choices have changed behind a shown pane.

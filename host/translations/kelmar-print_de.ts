@@ -485,6 +485,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>host::DialogSession</name>
     <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
+    </message>
+    <message>
         <source>“%1” could not be prepared: %2</source>
         <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
     </message>

@@ -485,6 +485,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
 <context>
     <name>host::DialogSession</name>
     <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
+    </message>
+    <message>
         <source>“%1” could not be prepared: %2</source>
         <translation>« %1 » n’a pas pu être préparé : %2</translation>
     </message>

@@ -485,6 +485,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>host::DialogSession</name>
     <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>プリンターの設定のページを表示できません: %1</translation>
+    </message>
+    <message>
         <source>“%1” could not be prepared: %2</source>
         <translation>「%1」を準備できませんでした: %2</translation>
     </message>

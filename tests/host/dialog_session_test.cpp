@@ -34,6 +34,7 @@ private Q_SLOTS:
     void refusedValueLeavesNothingBehind();
     void blockingWorkIsAnnounced();
     void brokenExtensionIsToldAndPassedOver();
+    void panelThatCannotBeMadeIsTold();
 
 private:
     void makeSession(const Destination &printer = officePrinter());
@@ -276,6 +277,16 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
     QCOMPARE(notices.size(), 2);
     QVERIFY2(notices.at(0).contains(broken.folder()), qPrintable(notices.at(0)));
     QVERIFY2(notices.at(1).contains(codeless.folder()), qPrintable(notices.at(1)));
+}
+
+void DialogSessionTest::panelThatCannotBeMadeIsTold()
+{
+    platform::PrintDialogHost *const host = m_session.get();
+    auto *problems = dynamic_cast<platform::PanelProblemHost *>(host); // as a plug-in finds it
+    QVERIFY(problems);
+    problems->panelFailed(u"Fax"_s, u"Fax.ui is missing"_s);
+    QCOMPARE(m_session->takeNotices(),
+             QStringList(u"A page of the printer's settings cannot be shown: Fax.ui is missing"_s));
 }
 
 QTEST_MAIN(DialogSessionTest)

@@ -110,6 +110,7 @@ private Q_SLOTS:
         for (const auto &panel : panelsFor(&host))
             names.append(panel->panelName());
         QCOMPARE(names, (QStringList{printMode, colorSettings2, u"Watermark"_s}));
+        QCOMPARE(host.failedPanels, QStringList(u"QVPDEFax_M880: Fax.ui is missing"_s));
     }
 
     void configuresOneManagerForADialog()

@@ -27,3 +27,8 @@ void ResolvingRecordingHost::didBlock()
 {
     --blockingDepth;
 }
+
+void ResolvingRecordingHost::panelFailed(const QString &className, const QString &reason)
+{
+    failedPanels.append(className + QStringLiteral(": ") + reason);
+}

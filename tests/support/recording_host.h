@@ -32,7 +32,8 @@ public:
 // order.
 class ResolvingRecordingHost : public RecordingHost,
                                public platform::ConstraintResolvingHost,
-                               public platform::BlockingWorkHost
+                               public platform::BlockingWorkHost,
+                               public platform::PanelProblemHost
 {
 public:
     using RecordingHost::RecordingHost;
@@ -40,10 +41,12 @@ public:
     void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) override;
     void willBlock(const QString &what) override;
     void didBlock() override;
+    void panelFailed(const QString &className, const QString &reason) override;
 
     std::vector<std::pair<QString, QVariant>> told;
     // Called, when set, each time before `told` grows.
     std::function<void(const QString &keyword)> onTold;
     QStringList blockingWork;
+    QStringList failedPanels; // "class: reason"
     int blockingDepth = 0;
 };
