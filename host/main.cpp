@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
-#include "host/core/message_language.h"
+#include "host/printing/message_language.h"
 #include "host/window_run.h"
 
 #include <QApplication>

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "host/batch/arguments.h"
-#include "host/core/extensions.h"
-#include "host/core/print_system.h"
+#include "host/printing/print_system.h"
+#include "host/session/extensions.h"
 
 class QIODevice;
 

@@ -5,7 +5,7 @@
 
 #include "panelkit/panel_base.h"
 #include "platform/exception.h"
-#include "plugin/leading_integer.h"
+#include "platform/leading_integer.h"
 
 #include <QApplication>
 
@@ -71,7 +71,7 @@ void QVCodeAssistant_M880::controlTextDidChange(platform::TextField *, const QVa
 bool QVCodeAssistant_M880::controlTextShouldEndEditing(platform::TextField *control, QLineEdit *fieldEditor)
 {
     const QString text = fieldEditor->text();
-    const auto number = leadingInteger(text);
+    const auto number = platform::leadingInteger(text);
     const qint32 value = number ? number->value : 0;
     const bool isWhole = number && QStringView(text).sliced(number->length).trimmed().isEmpty();
     const bool isLoose = !isWhole && value >= 1 && value <= 99998;

@@ -9,7 +9,7 @@
 #include "platform/exception.h"
 #include "platform/logging.h"
 #include "plugin/manager.h"
-#include "plugin/version_info.h"
+#include "ppd/version_info.h"
 
 #include <QSlider>
 #include <QTimer>

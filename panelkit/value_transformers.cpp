@@ -3,7 +3,7 @@
 
 #include "panelkit/value_transformers.h"
 
-#include "plugin/leading_integer.h"
+#include "platform/leading_integer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,7 +50,7 @@ QString textualDescription(const QVariant &value)
 
 qint32 leadingIntegerOrZero(const QString &text)
 {
-    const auto number = leadingInteger(text);
+    const auto number = platform::leadingInteger(text);
     return number ? number->value : 0;
 }
 

@@ -5,6 +5,8 @@
 
 namespace platform {
 
+const QString printDialogPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
+
 PrintDialogHost::~PrintDialogHost() = default;
 ConstraintResolvingHost::~ConstraintResolvingHost() = default;
 BlockingWorkHost::~BlockingWorkHost() = default;

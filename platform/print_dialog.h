@@ -22,6 +22,9 @@ namespace platform {
 class Bundle;
 class KeyValueObject;
 
+// The type of the panels that a print dialog shows: what a host asks for and a bundle declares.
+KELMAR_PLATFORM_EXPORT extern const QString printDialogPanelType; // "BDB091F4-E57F-11D3-B5CC-0050E4603277"
+
 // What a plug-in may ask of the dialog host. Implemented and owned by the host; outlives every panel.
 class KELMAR_PLATFORM_EXPORT PrintDialogHost
 {

@@ -8,10 +8,8 @@
 #include "platform/logging.h"
 #include "plugin/manager.h"
 #include "plugin/panel_roster.h"
-#include "plugin/version_info.h"
 #include "ppd/ppd_model.h"
-
-const QString QVPrintDialogPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
+#include "ppd/version_info.h"
 
 namespace {
 
@@ -59,7 +57,7 @@ std::vector<PanelClass> QVPDEFactory_M880::loadablePDEs() const
 std::optional<platform::PrintDialogPanels>
 QVPDEFactory_M880::PDEPanelsForTypeWithHostInfo(const QString &type, platform::PrintDialogHost *host)
 {
-    if (type != QVPrintDialogPanelType)
+    if (type != platform::printDialogPanelType)
         return std::nullopt;
 
     const auto manager = managerForDialog(m_myself, host);

@@ -38,5 +38,3 @@ private:
     std::shared_ptr<const QVVersionInfo_M880> m_managerVersion;
     std::shared_ptr<platform::Bundle> m_myself;
 };
-
-extern const QString QVPrintDialogPanelType; // "BDB091F4-E57F-11D3-B5CC-0050E4603277"

@@ -5,8 +5,8 @@
 
 #include "platform/bundle.h"
 #include "platform/print_dialog.h"
-#include "plugin/version_info.h"
 #include "ppd/ppd_model.h"
+#include "ppd/version_info.h"
 
 #include <sys/utsname.h>
 

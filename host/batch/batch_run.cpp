@@ -3,7 +3,7 @@
 
 #include "host/batch/batch_run.h"
 
-#include "host/core/setting_keys.h"
+#include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
 #include <QFile>

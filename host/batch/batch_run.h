@@ -5,8 +5,8 @@
 
 #include "host/batch/arguments.h"
 #include "host/batch/results.h"
-#include "host/core/extensions.h"
-#include "host/core/print_system.h"
+#include "host/printing/print_system.h"
+#include "host/session/extensions.h"
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "host/core/dialog_session.h"
-#include "host/core/job.h"
+#include "host/printing/job.h"
+#include "host/session/dialog_session.h"
 
 #include <QIODevice>
 #include <QJsonObject>

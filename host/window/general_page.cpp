@@ -3,8 +3,8 @@
 
 #include "host/window/general_page.h"
 
-#include "host/core/dialog_session.h"
-#include "host/core/page_ranges.h"
+#include "host/session/dialog_session.h"
+#include "host/session/page_ranges.h"
 #include "host/window/option_form.h"
 
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 
 #include "host/window/more_page.h"
 
-#include "host/core/dialog_session.h"
+#include "host/session/dialog_session.h"
 #include "host/window/option_form.h"
 
 #include <QGridLayout>

@@ -3,7 +3,7 @@
 
 #include "host/window/page_book.h"
 
-#include "host/core/dialog_session.h"
+#include "host/session/dialog_session.h"
 #include "host/window/general_page.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"

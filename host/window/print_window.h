@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "host/core/dialog_session.h"
-#include "host/core/extensions.h"
-#include "host/core/print_system.h"
+#include "host/printing/print_system.h"
+#include "host/session/dialog_session.h"
+#include "host/session/extensions.h"
 
 #include <QDialog>
 

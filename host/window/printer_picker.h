@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/core/destination.h"
+#include "host/printing/destination.h"
 
 #include <QList>
 #include <QWidget>

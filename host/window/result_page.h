@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/core/job.h"
+#include "host/printing/job.h"
 
 #include <QTimer>
 #include <QWidget>

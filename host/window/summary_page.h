@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/core/dialog_session.h"
+#include "host/session/dialog_session.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/job.h"
-#include "host/core/page_ranges.h"
+#include "host/printing/job.h"
+#include "host/session/page_ranges.h"
 #include "tests/host/host_fixture.h"
 
 #include <QBuffer>

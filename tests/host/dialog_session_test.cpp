@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/extensions.h"
-#include "host/core/setting_keys.h"
+#include "host/session/extensions.h"
+#include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/test_bundle.h"
 
@@ -267,7 +267,7 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
 {
     TestBundle broken, codeless;
     broken.writeFile(u"Info.json"_s, "{");
-    codeless.setInfo(u"PanelType"_s, printDialogPanelType);
+    codeless.setInfo(u"PanelType"_s, platform::printDialogPanelType);
     codeless.setInfo(u"PrinterModels"_s, QJsonArray{u"Test *"_s});
     Extensions extensions({broken.folder(), codeless.folder()});
     DialogSession session(officePrinter(), openPpd(officePpd()));

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "host/core/dialog_session.h"
-#include "host/core/print_system.h"
+#include "host/printing/print_system.h"
+#include "host/session/dialog_session.h"
 #include "platform/key_value_object.h"
 #include "tests/support/inline_ppd.h"
 

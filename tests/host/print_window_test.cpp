@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/destination.h"
+#include "host/printing/destination.h"
 #include "host/window/message_bar.h"
 #include "host/window/mnemonics.h"
 #include "host/window/page_book.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
-#include "host/core/setting_keys.h"
+#include "host/session/setting_keys.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/print_window.h"

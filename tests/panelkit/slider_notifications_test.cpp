@@ -3,7 +3,7 @@
 
 #include "panelkit/slider_notifications.h"
 #include "platform/binding.h"
-#include "plugin/version_info.h"
+#include "ppd/version_info.h"
 #include "tests/panelkit/sample_panel.h"
 #include "tests/support/test_bundle.h"
 

@@ -10,7 +10,7 @@
 #include "panels/widgets/signed_value_label.h"
 #include "platform/binding.h"
 #include "plugin/manager.h"
-#include "plugin/version_info.h"
+#include "ppd/version_info.h"
 #include "tests/panels/panel_fixture.h"
 #include "tests/support/inline_ppd.h"
 

@@ -44,7 +44,7 @@ void PanelFixture::makePanels(const QLocale &locale)
     if (!m_bundle)
         qFatal("%s", qPrintable(error));
     m_factory.initWithBundle(m_bundle);
-    m_panels = std::move(*m_factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &host));
+    m_panels = std::move(*m_factory.PDEPanelsForTypeWithHostInfo(platform::printDialogPanelType, &host));
 }
 
 QWidget *PanelFixture::show(QVPDE_M880 *panel)

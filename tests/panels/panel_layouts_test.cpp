@@ -138,7 +138,7 @@ void PanelLayoutsTest::makeUpTheDialogInOrder()
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"QVPDE%1_M880\" was not loaded"_s.arg(name)));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"no bundle to load \"%1"_s.arg(name)));
     }
-    QVERIFY(factory.PDEPanelsForTypeWithHostInfo(QVPrintDialogPanelType, &dialog.host)->empty());
+    QVERIFY(factory.PDEPanelsForTypeWithHostInfo(platform::printDialogPanelType, &dialog.host)->empty());
 }
 
 void PanelLayoutsTest::fitAndCanBeReached_data()

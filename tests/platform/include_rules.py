@@ -22,6 +22,14 @@ ROOMS = {
     "panels": {"panels", "panelkit", "plugin", "ppd", "device", "platform"},
     "host": {"host", "platform"},
 }
+# The same between the folders of the host; files in host/ itself may include from all of them.
+HOST_ROOMS = {
+    "printing": {"printing"},
+    "session": {"session", "printing"},
+    "batch": {"batch", "session", "printing"},
+    "window": {"window", "session", "printing"},
+}
+WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/batch/")
 OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
 IN_BUNDLE = {"panelkit", "panels", "plugin", "ppd", "device"}
 
@@ -31,15 +39,21 @@ EXAMPLES = [  # file, header, whether the one may include the other
     ("panels/color_settings_2_panel.cpp", "panels/view_utilities.h", True),
     ("panels/color_settings_1_panel.h", "device/advanced_color_settings.h", True),
     ("plugin/manager.cpp", "panelkit/panel_base.h", False),
-    ("ppd/ppd_model.cpp", "plugin/version_info.h", True),
+    ("plugin/manager.cpp", "ppd/version_info.h", True),
     ("ppd/ppd_model.cpp", "plugin/manager.h", False),
     ("ppd/ppd_model.cpp", "QComboBox", False),
     ("ppd/ppd_model.cpp", "cups/ppd.h", True),
     ("panelkit/panel_base.cpp", "cups/ppd.h", False),
     ("host/window/print_window.cpp", "cups/ppd.h", False),
     ("host/window/print_window.cpp", "QtWidgets/QDialog", True),
-    ("host/core/session.cpp", "QtWidgets/QDialog", False),
-    ("host/core/session.cpp", "ppd/ppd_model.h", False),
+    ("host/session/dialog_session.cpp", "QtWidgets/QDialog", False),
+    ("host/session/dialog_session.cpp", "ppd/ppd_model.h", False),
+    ("host/session/dialog_session.cpp", "host/printing/job.h", True),
+    ("host/printing/job.cpp", "host/session/dialog_session.h", False),
+    ("host/batch/batch_run.cpp", "host/window/print_window.h", False),
+    ("host/window_run.cpp", "host/batch/batch_run.h", True),
+    ("host/session/dialog_session.cpp", "cups/ppd.h", False),
+    ("host/printing/ppd_document.cpp", "cups/ppd.h", True),
     ("platform/bundle.cpp", "tests/support/test_bundle.h", False),
     ("device/advanced_color_settings.cpp", "QWidget", True),
     ("device/advanced_color_settings.cpp", "QLabel", False),
@@ -53,20 +67,25 @@ def panel_of(path):
     return match and match[1]
 
 
+def host_room(path):
+    """The folder of a file below host/, None for files in host/ itself and for all others."""
+    parts = path.split("/")
+    return parts[1] if parts[0] == "host" and len(parts) > 2 else None
+
+
 def violation(file, header, widget_headers):
     """Why a file must not include a header, or None when it may. Both are paths below the source folder."""
     room, header_room = file.split("/")[0], header.split("/")[0]
-    in_core = file.startswith("host/core/")
-    if header == "cups/ppd.h" and room != "ppd" and not in_core:
-        return "the PPD interface of libcups is used by ppd/ and one file of host/core/"
+    if header == "cups/ppd.h" and not file.startswith(("ppd/", "host/printing/")):
+        return "the PPD interface of libcups is used by ppd/ and one file of host/printing/"
     is_widget = header.startswith("QtWidgets") or (widget_headers / header.split("/")[-1]).exists()
     its_window_ends_text_editing = room == "device" and header == "QWidget"
-    if is_widget and (in_core or room in ("ppd", "device")) and not its_window_ends_text_editing:
+    if is_widget and file.startswith(WITHOUT_WIDGETS) and not its_window_ends_text_editing:
         return "there are no widgets here"
-    if room == "ppd" and header == "plugin/version_info.h":
-        return None
     if header_room in OURS and header_room not in ROOMS[room]:
         return f"{room}/ must not know {header_room}/"
+    if host_room(header) and host_room(file) and host_room(header) not in HOST_ROOMS[host_room(file)]:
+        return f"host/{host_room(file)}/ must not know host/{host_room(header)}/"
     if panel_of(header) not in (None, panel_of(file)):
         return "only a panel's own source includes it"
     return None

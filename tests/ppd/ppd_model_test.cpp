@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "plugin/version_info.h"
 #include "ppd/ppd_model.h"
+#include "ppd/version_info.h"
 #include "tests/support/inline_ppd.h"
 #include "tests/support/recording_host.h"
 #include "tests/support/test_bundle.h"

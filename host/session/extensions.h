@@ -13,9 +13,6 @@
 
 namespace host {
 
-// The panel type that this dialog serves.
-extern const QString printDialogPanelType; // "BDB091F4-E57F-11D3-B5CC-0050E4603277"
-
 // The plug-in bundles of the program. Their Info.json is read on first use, their code only for a printer
 // that they serve. Outlives every dialog, whose panels run that code.
 class Extensions

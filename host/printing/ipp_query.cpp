@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/ipp_query.h"
+#include "host/printing/ipp_query.h"
 
 #include <array>
 

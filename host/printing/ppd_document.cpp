@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/ppd_document.h"
+#include "host/printing/ppd_document.h"
 
-#include "host/core/cups_handles.h"
-#include "host/core/message_language.h"
+#include "host/printing/cups_handles.h"
+#include "host/printing/message_language.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/setting_keys.h"
+#include "host/session/setting_keys.h"
 
-#include "host/core/page_ranges.h"
+#include "host/session/page_ranges.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
 

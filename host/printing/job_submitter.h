@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "host/core/ipp_query.h"
-#include "host/core/job.h"
+#include "host/printing/ipp_query.h"
+#include "host/printing/job.h"
 
 #include <optional>
 

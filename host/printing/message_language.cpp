@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/message_language.h"
+#include "host/printing/message_language.h"
 
 #include <QLocale>
 

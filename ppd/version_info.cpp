@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "plugin/version_info.h"
+#include "ppd/version_info.h"
 
-#include "plugin/leading_integer.h"
+#include "platform/leading_integer.h"
 
 #include <QStringList>
 
@@ -17,7 +17,7 @@ namespace {
 
 qint32 integerValue(QStringView part)
 {
-    const auto number = leadingInteger(part);
+    const auto number = platform::leadingInteger(part);
     return number ? number->value : 0;
 }
 

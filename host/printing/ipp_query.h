@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/core/cups_handles.h"
+#include "host/printing/cups_handles.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/general_settings.h"
+#include "host/session/general_settings.h"
 
-#include "host/core/page_ranges.h"
-#include "host/core/ppd_document.h"
+#include "host/printing/ppd_document.h"
+#include "host/session/page_ranges.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/page_ranges.h"
+#include "host/session/page_ranges.h"
 
 #include <QCoreApplication>
 #include <QStringList>

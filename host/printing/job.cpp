@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/job.h"
+#include "host/printing/job.h"
 
 #include <QCoreApplication>
 #include <QDir>

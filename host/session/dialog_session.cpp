@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/dialog_session.h"
+#include "host/session/dialog_session.h"
 
-#include "host/core/extensions.h"
+#include "host/session/extensions.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
 #include "platform/logging.h"

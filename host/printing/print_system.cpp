@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/print_system.h"
+#include "host/printing/print_system.h"
 
-#include "host/core/cups_handles.h"
-#include "host/core/ipp_query.h"
-#include "host/core/job_submitter.h"
+#include "host/printing/cups_handles.h"
+#include "host/printing/ipp_query.h"
+#include "host/printing/job_submitter.h"
 
 #include <QCoreApplication>
 

@@ -3,9 +3,13 @@
 
 #pragma once
 
+#include "platform/export.h"
+
 #include <QStringView>
 
 #include <optional>
+
+namespace platform {
 
 // The decimal number a text starts with.
 struct LeadingInteger
@@ -16,4 +20,6 @@ struct LeadingInteger
 
 // Skips leading white space, takes an optional sign and reads decimal digits of any script up to the first
 // character that is none. Nil when there is no digit.
-std::optional<LeadingInteger> leadingInteger(QStringView text);
+KELMAR_PLATFORM_EXPORT std::optional<LeadingInteger> leadingInteger(QStringView text);
+
+} // namespace platform

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "host/core/dialog_session.h"
-#include "host/core/print_error.h"
+#include "host/printing/print_error.h"
+#include "host/session/dialog_session.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/core/print_error.h"
+#include "host/printing/print_error.h"
 
 #include <QList>
 #include <QMap>

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "host/core/destination.h"
-#include "host/core/job.h"
-#include "host/core/ppd_document.h"
+#include "host/printing/destination.h"
+#include "host/printing/job.h"
+#include "host/printing/ppd_document.h"
 
 #include <QList>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/change_ledger.h"
+#include "host/session/change_ledger.h"
 
-#include "host/core/ppd_document.h"
+#include "host/printing/ppd_document.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/extensions.h"
+#include "host/session/extensions.h"
 
 #include "platform/bundle.h"
 
@@ -12,8 +12,6 @@
 #include <optional>
 
 namespace host {
-
-const QString printDialogPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
 
 namespace {
 
@@ -26,7 +24,7 @@ std::optional<platform::PrintDialogPanels> panelsOf(platform::PrintDialogExtensi
                                                     platform::PrintDialogHost *host, QString *error)
 {
     try {
-        return extension->PDEPanelsForTypeWithHostInfo(printDialogPanelType, host);
+        return extension->PDEPanelsForTypeWithHostInfo(platform::printDialogPanelType, host);
     } catch (const std::exception &exception) {
         *error = QString::fromUtf8(exception.what());
     }
@@ -83,7 +81,7 @@ platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, plat
     for (Loaded &loaded : m_loaded) {
         const auto &bundle = loaded.bundle;
         const QString type = bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
-        if (type != printDialogPanelType || !bundle->servesModel(modelName))
+        if (type != platform::printDialogPanelType || !bundle->servesModel(modelName))
             continue;
         QString error;
         auto *extension = principalObject(&loaded, &error);

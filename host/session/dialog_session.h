@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include "host/core/change_ledger.h"
-#include "host/core/destination.h"
-#include "host/core/general_settings.h"
-#include "host/core/ppd_document.h"
-#include "host/core/session_panel.h"
-#include "host/core/summary_section.h"
+#include "host/printing/destination.h"
+#include "host/printing/ppd_document.h"
+#include "host/session/change_ledger.h"
+#include "host/session/general_settings.h"
+#include "host/session/session_panel.h"
+#include "host/session/summary_section.h"
 #include "platform/print_dialog.h"
 #include "platform/printing_manager.h"
 

@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "plugin/leading_integer.h"
+#include "platform/leading_integer.h"
 
 #include <QChar>
 
 #include <algorithm>
 #include <limits>
+
+namespace platform {
 
 std::optional<LeadingInteger> leadingInteger(QStringView text)
 {
@@ -26,3 +28,5 @@ std::optional<LeadingInteger> leadingInteger(QStringView text)
         return std::nullopt;
     return LeadingInteger{qint32(negative ? -magnitude : magnitude), at};
 }
+
+} // namespace platform

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/core/print_error.h"
+#include "host/printing/print_error.h"
 
 #include <QCoreApplication>
 

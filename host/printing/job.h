@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "host/core/destination.h"
-#include "host/core/print_error.h"
+#include "host/printing/destination.h"
+#include "host/printing/print_error.h"
 
 #include <QList>
 #include <QString>

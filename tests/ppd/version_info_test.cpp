@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "plugin/version_info.h"
+#include "ppd/version_info.h"
 
 #include <QTest>
 
