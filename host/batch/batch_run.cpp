@@ -3,12 +3,10 @@
 
 #include "host/batch/batch_run.h"
 
+#include "host/printing/opened_printer.h"
 #include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryFile>
 
 namespace host {
 
@@ -34,34 +32,7 @@ bool markStandardName(const Arguments::Assignment &assignment, DialogSession *se
     return !choices.isEmpty();
 }
 
-QString titleOf(const QList<Document> &documents)
-{
-    return documents.isEmpty() ? QString() : documents.first().name;
-}
-
 } // namespace
-
-std::unique_ptr<DialogSession> openSession(const Arguments &arguments, PrintSystem &system,
-                                           Extensions &extensions, PrintError *error)
-{
-    Destination destination;
-    const bool hasQueue = !arguments.printer.isEmpty() || arguments.ppdFile.isEmpty();
-    if (hasQueue) {
-        const auto found = system.destination(arguments.printer, error);
-        if (!found)
-            return nullptr;
-        destination = *found;
-    } else {
-        destination.info = QFileInfo(arguments.ppdFile).fileName();
-    }
-    auto ppd = arguments.ppdFile.isEmpty() ? system.ppd(destination, error)
-                                           : PpdDocument::open(arguments.ppdFile, error);
-    if (!ppd && *error)
-        return nullptr;
-    auto session = std::make_unique<DialogSession>(destination, std::move(ppd));
-    session->loadPanels(extensions);
-    return session;
-}
 
 bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<JobOption> *passedOn,
                       PrintError *error)
@@ -101,8 +72,7 @@ ExitCode BatchRun::perform()
     if (m_arguments.batch && !openDocuments())
         return ExitFailure;
     PrintError error;
-    m_session = openSession(m_arguments, m_system, m_extensions, &error);
-    if (!m_session)
+    if (!openSession(&error))
         return fail(error);
     m_result.printer = m_session->destination().name();
     if (!applyAssignments(m_arguments, m_session.get(), &m_passedOn, &error))
@@ -126,27 +96,23 @@ ExitCode BatchRun::perform()
 
 bool BatchRun::openDocuments()
 {
-    QStringList files = m_arguments.files;
-    if (files.isEmpty())
-        files.append(QStringLiteral("-"));
-    for (const QString &path : files) {
-        std::optional<Document> document;
-        if (path == QLatin1String("-")) {
-            QFile standardInput;
-            if (!m_input && standardInput.open(stdin, QIODevice::ReadOnly))
-                m_input = &standardInput;
-            m_spool = spoolInput(m_input, &m_result.error);
-            m_input = nullptr;
-            document = m_spool ? openDocument(m_spool->fileName(), &m_result.error) : std::nullopt;
-            if (document)
-                document->name = BatchText::tr("Standard input");
-        } else {
-            document = openDocument(path, &m_result.error);
-        }
-        if (!document)
-            return false;
-        m_documents.append(*document);
+    const QStringList files =
+        m_arguments.files.isEmpty() ? QStringList{QStringLiteral("-")} : m_arguments.files;
+    return m_documents.open(files, m_input, &m_result.error);
+}
+
+// A queue whose PPD is broken would print without what was asked for.
+bool BatchRun::openSession(PrintError *error)
+{
+    auto opened = openPrinter(m_system, {m_arguments.printer, m_arguments.ppdFile}, error);
+    if (!opened)
+        return false;
+    if (opened->ppdProblem) {
+        *error = opened->ppdProblem;
+        return false;
     }
+    m_session = std::make_unique<DialogSession>(opened->destination, std::move(opened->ppd));
+    m_session->loadPanels(m_extensions);
     return true;
 }
 
@@ -170,16 +136,16 @@ ExitCode BatchRun::settleConflicts()
 
 ExitCode BatchRun::submit()
 {
-    JobRequest request{m_session->destination(), m_documents, m_arguments.title,
+    JobRequest request{m_session->destination(), m_documents.documents(), m_arguments.title,
                        m_session->jobOptions() + m_passedOn};
     if (request.title.isEmpty())
-        request.title = titleOf(m_documents);
+        request.title = m_documents.title();
     PrintError error;
     m_result.job = m_system.submit(request, &error);
     if (!m_result.job)
         return fail(error);
     m_result.queue = request.destination.queue;
-    m_result.fileCount = m_documents.size();
+    m_result.fileCount = m_documents.documents().size();
     return ExitSuccess;
 }
 

@@ -10,14 +10,7 @@
 
 #include <memory>
 
-class QTemporaryFile;
-
 namespace host {
-
-// Opens the session that a command line asks for: of a queue, of a queue with another PPD, or of a PPD file
-// alone. Null with an error when that cannot be done.
-std::unique_ptr<DialogSession> openSession(const Arguments &arguments, PrintSystem &system,
-                                           Extensions &extensions, PrintError *error);
 
 // Applies the command line's settings in order. `passedOn` gets the job options that are nobody's business
 // here.
@@ -40,6 +33,7 @@ public:
 private:
     ExitCode perform();
     bool openDocuments();
+    bool openSession(PrintError *error);
     ExitCode settleConflicts();
     ExitCode submit();
     ExitCode fail(const PrintError &error);
@@ -48,9 +42,8 @@ private:
     PrintSystem &m_system;
     Extensions &m_extensions;
     QIODevice *m_input = nullptr;
-    std::unique_ptr<QTemporaryFile> m_spool;
     std::unique_ptr<DialogSession> m_session;
-    QList<Document> m_documents;
+    DocumentList m_documents;
     QList<JobOption> m_passedOn;
     BatchResult m_result;
 };

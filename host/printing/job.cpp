@@ -4,11 +4,6 @@
 #include "host/printing/job.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QMimeDatabase>
-#include <QTemporaryFile>
 
 #include <array>
 
@@ -21,71 +16,7 @@ struct JobText
     Q_DECLARE_TR_FUNCTIONS(JobText)
 };
 
-constexpr qint64 spoolBlock = 64 * 1024;
-
-void describeFormat(Document *document)
-{
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(document->path, QMimeDatabase::MatchContent);
-    document->format = type.name();
-    document->formatText = type.comment();
-    document->otherFormats = type.allAncestors();
-    // Programs with names of their own that hold what every printer takes.
-    document->otherFormats.removeAll(QStringLiteral("application/octet-stream"));
-}
-
 } // namespace
-
-std::optional<Document> openDocument(const QString &path, PrintError *error)
-{
-    using Kind = PrintError::Kind;
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        *error = {Kind::FileMissing, JobText::tr("There is no file “%1”.").arg(path)};
-        return std::nullopt;
-    }
-    if (info.isDir()) {
-        *error = {Kind::FileMissing, JobText::tr("“%1” is a folder, not a document.").arg(path)};
-        return std::nullopt;
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        const auto kind = info.isReadable() ? Kind::Other : Kind::NoPermission;
-        *error = {kind, JobText::tr("The file “%1” cannot be read: %2.").arg(path, file.errorString())};
-        return std::nullopt;
-    }
-    if (file.read(1).isEmpty()) {
-        *error = {Kind::EmptyDocument, JobText::tr("The file “%1” is empty.").arg(path)};
-        return std::nullopt;
-    }
-    Document document{path, info.fileName(), {}, {}, {}};
-    describeFormat(&document);
-    return document;
-}
-
-std::unique_ptr<QTemporaryFile> spoolInput(QIODevice *input, PrintError *error)
-{
-    auto spool = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/kelmar-print-XXXXXX"));
-    if (!spool->open()) {
-        *error = {PrintError::Kind::Other,
-                  JobText::tr("No temporary file can be made: %1.").arg(spool->errorString())};
-        return nullptr;
-    }
-    while (true) {
-        const QByteArray block = input->read(spoolBlock);
-        if (block.isEmpty())
-            break;
-        if (spool->write(block) != block.size()) {
-            *error = {PrintError::Kind::Other, JobText::tr("The temporary file “%1” cannot be written: %2.")
-                                                   .arg(spool->fileName(), spool->errorString())};
-            return nullptr;
-        }
-    }
-    if (!spool->flush() || spool->size() == 0) {
-        *error = {PrintError::Kind::EmptyDocument, JobText::tr("Nothing came from the standard input.")};
-        return nullptr;
-    }
-    return spool;
-}
 
 QString JobStatus::text() const
 {

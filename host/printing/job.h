@@ -4,16 +4,12 @@
 #pragma once
 
 #include "host/printing/destination.h"
+#include "host/printing/documents.h"
 #include "host/printing/print_error.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
-
-#include <optional>
-
-class QIODevice;
-class QTemporaryFile;
 
 namespace host {
 
@@ -32,23 +28,6 @@ struct JobOption
     Kind kind = Kind::Choice;
     bool operator==(const JobOption &) const = default;
 };
-
-// A file to print.
-struct Document
-{
-    QString path;
-    QString name;             // for people and the job's title
-    QString format;           // MIME type as far as the content tells, else "application/octet-stream"
-    QString formatText;       // the type in words; may be empty
-    QStringList otherFormats; // more general types that this one is a kind of, nearest first
-};
-
-// Looks at a file before it is printed: whether it is there, may be read, holds anything, and what it is.
-std::optional<Document> openDocument(const QString &path, PrintError *error);
-
-// Copies what `input` gives until its end into a file that lives as long as the result, for printing what
-// another program writes. Null with an error when nothing can be read or written.
-std::unique_ptr<QTemporaryFile> spoolInput(QIODevice *input, PrintError *error);
 
 // Everything a job is made of.
 struct JobRequest

@@ -13,14 +13,12 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QTemporaryFile>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -163,31 +161,23 @@ std::optional<Destination> PrintWindow::firstDestination(PrintError *error)
     return std::nullopt;
 }
 
-std::unique_ptr<DialogSession> PrintWindow::makeSession(const QString &printer, PrintError *error)
+std::optional<OpenedPrinter> PrintWindow::openPrinterOfTask(const QString &printer, PrintError *error)
 {
-    if (printer.isEmpty() && !m_task.ppdFile.isEmpty()) {
-        Destination nowhere;
-        nowhere.info = QFileInfo(m_task.ppdFile).fileName();
-        return sessionFor(nowhere, error);
-    }
-    const auto destination =
-        printer.isEmpty() ? firstDestination(error) : m_system.destination(printer, error);
-    return destination ? sessionFor(*destination, error) : nullptr;
+    if (!printer.isEmpty() || !m_task.ppdFile.isEmpty())
+        return openPrinter(m_system, {printer, m_task.ppdFile}, error);
+    const auto destination = firstDestination(error);
+    return destination ? openPrinter(m_system, *destination, QString(), error) : std::nullopt;
 }
 
-std::unique_ptr<DialogSession> PrintWindow::sessionFor(const Destination &destination, PrintError *error)
+// A queue whose PPD is broken still prints, with what every printer can be asked.
+std::unique_ptr<DialogSession> PrintWindow::makeSession(const QString &printer, PrintError *error)
 {
-    PrintError problem;
-    const bool fromFile = !m_task.ppdFile.isEmpty();
-    auto ppd = fromFile ? PpdDocument::open(m_task.ppdFile, &problem) : m_system.ppd(destination, &problem);
-    // A queue whose PPD is broken still prints, with what every printer can be asked.
-    if (!ppd && problem && (fromFile || problem.kind != PrintError::Kind::BrokenPpd)) {
-        *error = problem;
+    auto opened = openPrinterOfTask(printer, error);
+    if (!opened)
         return nullptr;
-    }
-    auto session = std::make_unique<DialogSession>(destination, std::move(ppd));
-    if (problem)
-        session->addNotice(problem.message);
+    auto session = std::make_unique<DialogSession>(opened->destination, std::move(opened->ppd));
+    if (opened->ppdProblem)
+        session->addNotice(opened->ppdProblem.message);
     session->loadPanels(m_extensions);
     return session;
 }
@@ -399,27 +389,6 @@ void PrintWindow::showIdle()
     m_status->clear();
 }
 
-bool PrintWindow::openDocuments(QList<Document> *documents, PrintError *error)
-{
-    for (const QString &path : m_task.files) {
-        std::optional<Document> document;
-        if (path != QLatin1String("-")) {
-            document = openDocument(path, error);
-        } else {
-            QFile input;
-            if (!m_spool && input.open(stdin, QIODevice::ReadOnly))
-                m_spool = spoolInput(&input, error);
-            document = m_spool ? openDocument(m_spool->fileName(), error) : std::nullopt;
-            if (document)
-                document->name = tr("Standard input");
-        }
-        if (!document)
-            return false;
-        documents->append(*document);
-    }
-    return true;
-}
-
 void PrintWindow::print()
 {
     if (m_job || !m_print->isEnabled())
@@ -430,16 +399,16 @@ void PrintWindow::print()
     sessionChanged();
     if (showConflicts())
         return;
-    QList<Document> documents;
     PrintError error;
-    if (!openDocuments(&documents, &error)) {
+    if (!m_documents.open(m_task.files, nullptr, &error)) {
         showError(error);
         return;
     }
     showBusy(tr("Sending the document to the print server…"));
-    const QString title = m_task.title.isEmpty() ? documents.first().name : m_task.title;
+    const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
     m_job = m_system.submit(
-        {m_session->destination(), documents, title, m_session->jobOptions() + m_passedOn}, &error);
+        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions() + m_passedOn},
+        &error);
     showIdle();
     if (!m_job) {
         showError(error);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/printing/opened_printer.h"
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
 #include "host/session/extensions.h"
@@ -15,7 +16,6 @@
 
 class QLabel;
 class QPushButton;
-class QTemporaryFile;
 
 namespace host {
 
@@ -70,8 +70,8 @@ private:
     void connectAll();
     void showState(State state);
     std::optional<Destination> firstDestination(PrintError *error);
+    std::optional<OpenedPrinter> openPrinterOfTask(const QString &printer, PrintError *error);
     std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
-    std::unique_ptr<DialogSession> sessionFor(const Destination &destination, PrintError *error);
     void adopt(std::unique_ptr<DialogSession> session);
     void carryOver(const DialogSession &from, DialogSession *to);
     void pickPrinter(const QString &name);
@@ -85,14 +85,13 @@ private:
     void showBusy(const QString &what);
     void showPainted();
     void showIdle();
-    bool openDocuments(QList<Document> *documents, PrintError *error);
     void showResult();
 
     PrintSystem &m_system;
     Extensions &m_extensions;
     PrintTask m_task;
     std::unique_ptr<DialogSession> m_session;
-    std::unique_ptr<QTemporaryFile> m_spool;
+    DocumentList m_documents;
     bool m_askingConflict = false;
     QStringList m_notices; // not yet closed by the user
     QList<JobOption> m_passedOn;

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/background.h"
+
+#include <QMetaObject>
+#include <QObject>
+#include <QPointer>
+
+#include <atomic>
+#include <exception>
+#include <thread>
+
+namespace platform {
+
+namespace {
+
+std::atomic<int> worksUnderWay{0};
+
+std::shared_ptr<Waiter> &currentWaiter()
+{
+    thread_local std::shared_ptr<Waiter> waiter;
+    return waiter;
+}
+
+// What a caller and its work share. Outlives a caller that gives up.
+struct CallState
+{
+    std::atomic<bool> ended{false};
+    std::exception_ptr thrown; // written before `ended`
+};
+
+// `work` and all that it holds are gone before `afterwards` runs.
+void runDetached(std::function<void()> work, std::function<void()> afterwards)
+{
+    ++worksUnderWay;
+    std::thread([work = std::move(work), afterwards = std::move(afterwards)]() mutable {
+        work();
+        work = nullptr;
+        afterwards();
+        afterwards = nullptr;
+        --worksUnderWay;
+    }).detach();
+}
+
+} // namespace
+
+Waiter::~Waiter() = default;
+
+Waiter::Scope::Scope(std::shared_ptr<Waiter> waiter)
+    : m_previous(std::exchange(currentWaiter(), std::move(waiter)))
+{
+}
+
+Waiter::Scope::~Scope()
+{
+    currentWaiter() = std::move(m_previous);
+}
+
+bool Background::call(std::function<void()> work)
+{
+    const std::shared_ptr<Waiter> waiter = currentWaiter();
+    if (!waiter) {
+        work();
+        return true;
+    }
+    if (waiter->isGivenUp())
+        return false;
+    auto state = std::make_shared<CallState>();
+    runDetached(
+        [state, work = std::move(work)] {
+            try {
+                work();
+            } catch (...) {
+                state->thrown = std::current_exception();
+            }
+        },
+        [state, waiter] {
+            state->ended = true;
+            waiter->wake();
+        });
+    if (!waiter->wait([state] { return state->ended.load(); }))
+        return false;
+    if (state->thrown)
+        std::rethrow_exception(state->thrown);
+    return true;
+}
+
+void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)
+{
+    // Carries the end of the work to this thread, where alone one can tell whether the receiver is still
+    // there.
+    const std::shared_ptr<QObject> courier(new QObject, [](QObject *object) { object->deleteLater(); });
+    auto deliver = [receiver = QPointer<QObject>(receiver), done = std::move(done)] {
+        if (receiver)
+            done();
+    };
+    runDetached(std::move(work), [courier, deliver = std::move(deliver)] {
+        QMetaObject::invokeMethod(courier.get(), deliver, Qt::QueuedConnection);
+    });
+}
+
+bool Background::isUnderWay()
+{
+    return worksUnderWay > 0;
+}
+
+} // namespace platform

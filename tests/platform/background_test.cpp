@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/background.h"
+#include "platform/exception.h"
+
+#include <QEventLoop>
+#include <QObject>
+#include <QPointer>
+#include <QSemaphore>
+#include <QTest>
+#include <QThread>
+
+using namespace platform;
+
+namespace {
+
+// Runs an event loop until the work has ended or `giveUp` is called.
+class LoopWaiter : public Waiter
+{
+public:
+    bool isGivenUp() const override { return m_givenUp; }
+    bool wait(const std::function<bool()> &ended) override
+    {
+        m_ended = ended;
+        if (!ended() && !m_givenUp)
+            m_loop.exec();
+        return ended();
+    }
+    void wake() override
+    {
+        QMetaObject::invokeMethod(&m_loop, [this] {
+            if (m_ended && m_ended())
+                m_loop.quit();
+        });
+    }
+    void giveUp()
+    {
+        m_givenUp = true;
+        m_loop.quit();
+    }
+
+private:
+    QEventLoop m_loop;
+    std::function<bool()> m_ended;
+    bool m_givenUp = false;
+};
+
+} // namespace
+
+class BackgroundTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void callsStraightWithoutAWaiter();
+    void keepsEventsGoingWhileItWaits();
+    void dropsWhatWasGivenUp();
+    void carriesExceptionsOver();
+    void startsWithoutWaiting();
+    void leavesAReceiverAloneThatIsGone();
+};
+
+void BackgroundTest::callsStraightWithoutAWaiter()
+{
+    const auto thread = callBeside([] { return QThread::currentThreadId(); });
+    QCOMPARE(thread.value(), QThread::currentThreadId());
+}
+
+void BackgroundTest::keepsEventsGoingWhileItWaits()
+{
+    const Waiter::Scope scope(std::make_shared<LoopWaiter>());
+    QSemaphore painted;
+    QMetaObject::invokeMethod(
+        this, [&] { painted.release(); }, Qt::QueuedConnection);
+    const auto answer = callBeside([&] { return painted.tryAcquire(1, 10'000) ? 7 : 0; });
+    QCOMPARE(answer.value(), 7);
+}
+
+void BackgroundTest::dropsWhatWasGivenUp()
+{
+    const auto waiter = std::make_shared<LoopWaiter>();
+    const Waiter::Scope scope(waiter);
+    const auto release = std::make_shared<QSemaphore>();
+    QMetaObject::invokeMethod(
+        this, [waiter] { waiter->giveUp(); }, Qt::QueuedConnection);
+    const auto kept = std::make_shared<int>(0);
+    QVERIFY(!callBeside([release, kept] {
+        release->acquire();
+        return *kept;
+    }));
+    bool started = false;
+    QVERIFY(!Background::call([&] { started = true; }));
+    QVERIFY(!started);
+    QVERIFY(Background::isUnderWay());
+    release->release();
+    QTRY_VERIFY(!Background::isUnderWay());
+    QCOMPARE(kept.use_count(), 1);
+}
+
+void BackgroundTest::carriesExceptionsOver()
+{
+    const Waiter::Scope scope(std::make_shared<LoopWaiter>());
+    QVERIFY_THROWS_EXCEPTION(Exception, Background::call([] {
+                                 throw Exception(Exception::rangeName, QStringLiteral("too far"));
+                             }));
+}
+
+void BackgroundTest::startsWithoutWaiting()
+{
+    QObject receiver;
+    int answer = 0;
+    Qt::HANDLE deliveredOn = nullptr;
+    startBeside(
+        &receiver, [] { return 5; },
+        [&](int result) {
+            answer = result;
+            deliveredOn = QThread::currentThreadId();
+        });
+    QCOMPARE(answer, 0);
+    QTRY_COMPARE(answer, 5);
+    QCOMPARE(deliveredOn, QThread::currentThreadId());
+}
+
+void BackgroundTest::leavesAReceiverAloneThatIsGone()
+{
+    QSemaphore release;
+    bool delivered = false;
+    auto receiver = std::make_unique<QObject>();
+    startBeside(
+        receiver.get(),
+        [&] {
+            release.acquire();
+            return 0;
+        },
+        [&](int) { delivered = true; });
+    receiver.reset();
+    release.release();
+    QTRY_VERIFY(!Background::isUnderWay());
+    QCoreApplication::processEvents();
+    QVERIFY(!delivered);
+}
+
+QTEST_GUILESS_MAIN(BackgroundTest)
+#include "background_test.moc"
