@@ -8,7 +8,9 @@
 #include <QPointer>
 
 #include <atomic>
+#include <condition_variable>
 #include <exception>
+#include <mutex>
 #include <thread>
 
 namespace platform {
@@ -27,6 +29,15 @@ std::shared_ptr<Waiter> &currentWaiter()
 struct CallState
 {
     std::atomic<bool> ended{false};
+    std::exception_ptr thrown; // written before `ended`
+};
+
+// The same for one that waits no longer than a limit.
+struct LimitedCall
+{
+    std::mutex mutex;
+    std::condition_variable change;
+    bool ended = false;
     std::exception_ptr thrown; // written before `ended`
 };
 
@@ -84,6 +95,42 @@ bool Background::call(std::function<void()> work)
     if (state->thrown)
         std::rethrow_exception(state->thrown);
     return true;
+}
+
+bool Background::call(std::function<void()> work, std::chrono::milliseconds limit)
+{
+    if (isGivenUp())
+        return false;
+    auto state = std::make_shared<LimitedCall>();
+    runDetached(
+        [state, work = std::move(work)] {
+            try {
+                work();
+            } catch (...) {
+                state->thrown = std::current_exception();
+            }
+        },
+        [state] {
+            const std::lock_guard lock(state->mutex);
+            state->ended = true;
+            state->change.notify_all();
+        });
+    // Beside this thread in turn, where it must not block.
+    const auto ended = callBeside([state, until = std::chrono::steady_clock::now() + limit] {
+        std::unique_lock lock(state->mutex);
+        return state->change.wait_until(lock, until, [&] { return state->ended; });
+    });
+    if (!ended.value_or(false))
+        return false;
+    if (state->thrown)
+        std::rethrow_exception(state->thrown);
+    return true;
+}
+
+bool Background::isGivenUp()
+{
+    const std::shared_ptr<Waiter> waiter = currentWaiter();
+    return waiter && waiter->isGivenUp();
 }
 
 void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)

@@ -5,6 +5,7 @@
 
 #include "platform/export.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -52,6 +53,11 @@ public:
     // Runs `work` beside this thread and returns true when it has ended, false when the user gave up. Without
     // a waiter on this thread it is called straight. What it throws comes out here.
     static bool call(std::function<void()> work);
+    // For work that may never end: runs it beside this thread always, and gives up on it as well when it has
+    // not ended within `limit`.
+    static bool call(std::function<void()> work, std::chrono::milliseconds limit);
+    // Whether the user has given up on what this thread waits for.
+    static bool isGivenUp();
     // Runs `work` beside this thread and returns at once; `done` is called by the event loop of the calling
     // thread when it has ended, unless `receiver` is gone by then. `work` must not throw.
     static void start(std::function<void()> work, QObject *receiver, std::function<void()> done);
@@ -60,12 +66,13 @@ public:
     static bool isUnderWay();
 };
 
-// The result of `work`; nil when the user gave up waiting for it.
-template <typename Work, typename Result = std::invoke_result_t<Work>>
-std::optional<Result> callBeside(Work work)
+// The result of `work`; nil when the user gave up waiting for it, or when it took longer than the limit that
+// may follow.
+template <typename Work, typename... Limit>
+std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)
 {
-    auto result = std::make_shared<std::optional<Result>>();
-    if (!Background::call([result, work = std::move(work)]() mutable { result->emplace(work()); }))
+    auto result = std::make_shared<std::optional<std::invoke_result_t<Work>>>();
+    if (!Background::call([result, work = std::move(work)]() mutable { result->emplace(work()); }, limit...))
         return std::nullopt;
     return std::move(*result);
 }

@@ -12,6 +12,7 @@
 #include <QThread>
 
 using namespace platform;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -55,6 +56,8 @@ private Q_SLOTS:
     void callsStraightWithoutAWaiter();
     void keepsEventsGoingWhileItWaits();
     void dropsWhatWasGivenUp();
+    void givesUpAtTheLimit_data();
+    void givesUpAtTheLimit();
     void carriesExceptionsOver();
     void startsWithoutWaiting();
     void leavesAReceiverAloneThatIsGone();
@@ -89,12 +92,35 @@ void BackgroundTest::dropsWhatWasGivenUp()
         return *kept;
     }));
     bool started = false;
-    QVERIFY(!Background::call([&] { started = true; }));
+    QVERIFY(Background::isGivenUp());
+    QVERIFY(!Background::call([&] { started = true; }) && !Background::call([&] { started = true; }, 1s));
     QVERIFY(!started);
     QVERIFY(Background::isUnderWay());
     release->release();
     QTRY_VERIFY(!Background::isUnderWay());
     QCOMPARE(kept.use_count(), 1);
+}
+
+void BackgroundTest::givesUpAtTheLimit_data()
+{
+    QTest::addColumn<bool>("hasWaiter");
+    QTest::newRow("blocking") << false;
+    QTest::newRow("beside a thread that waits") << true;
+}
+
+void BackgroundTest::givesUpAtTheLimit()
+{
+    QFETCH(bool, hasWaiter);
+    const Waiter::Scope scope(hasWaiter ? std::make_shared<LoopWaiter>() : nullptr);
+    const auto release = std::make_shared<QSemaphore>();
+    const auto wait = [release] { return release->tryAcquire(1, 10'000); };
+    QVERIFY(!callBeside(wait, 50ms));
+    QVERIFY(Background::isUnderWay() && !Background::isGivenUp());
+    release->release(2);
+    QCOMPARE(callBeside(wait, 10s), true);
+    QVERIFY_THROWS_EXCEPTION(Exception,
+                             Background::call([] { throw Exception(Exception::rangeName, {}); }, 10s));
+    QTRY_VERIFY(!Background::isUnderWay());
 }
 
 void BackgroundTest::carriesExceptionsOver()
