@@ -4,49 +4,79 @@
 #include "device/bonjour_wait.h"
 
 #include "device/dnssd_handles.h"
-#include "device/scoped_environment.h"
+#include "platform/background.h"
 
-#include <QDeadlineTimer>
+#include <QByteArray>
 
 #include <poll.h>
 
 #include <cerrno>
-#include <exception>
+#include <optional>
 
 namespace {
 
-// Stands between the daemon's library and the caller's reply function: notes that the reply came, and keeps
-// an exception from running through C code.
-struct Relay
+struct Service
 {
-    DNSServiceResolveReply reply;
-    void *context;
-    bool replied = false;
-    std::exception_ptr thrown;
+    QByteArray name, type, domain;
 };
 
-void DNSSD_API relayReply(DNSServiceRef service, DNSServiceFlags flags, uint32_t interfaceIndex,
-                          DNSServiceErrorType error, const char *fullName, const char *hostTarget,
-                          uint16_t port, uint16_t txtLength, const unsigned char *txtRecord, void *context)
+// What a DNSServiceResolveReply is told. Texts are nil where they were null.
+struct Reply
 {
-    auto *relay = static_cast<Relay *>(context);
-    if (relay->replied)
-        return;
-    relay->replied = true;
-    try {
-        relay->reply(service, flags, interfaceIndex, error, fullName, hostTarget, port, txtLength, txtRecord,
-                     relay->context);
-    } catch (...) {
-        relay->thrown = std::current_exception();
+    DNSServiceFlags flags;
+    uint32_t interfaceIndex;
+    DNSServiceErrorType error;
+    QByteArray fullName, hostTarget;
+    uint16_t port;
+    QByteArray txtRecord;
+};
+
+void DNSSD_API keepFirstReply(DNSServiceRef, DNSServiceFlags flags, uint32_t interfaceIndex,
+                              DNSServiceErrorType error, const char *fullName, const char *hostTarget,
+                              uint16_t port, uint16_t txtLength, const unsigned char *txtRecord,
+                              void *context)
+{
+    auto *kept = static_cast<std::optional<Reply> *>(context);
+    if (!*kept)
+        *kept = Reply{flags,
+                      interfaceIndex,
+                      error,
+                      fullName,
+                      hostTarget,
+                      port,
+                      {reinterpret_cast<const char *>(txtRecord), txtLength}};
+}
+
+std::optional<Reply> replyFor(const Service &asked, const QDeadlineTimer &deadline)
+{
+    std::optional<Reply> reply;
+    DNSServiceRef started = nullptr;
+    // The error is told by the missing reference.
+    DNSServiceResolve(&started, 0, 0, asked.name.constData(), asked.type.constData(),
+                      asked.domain.constData(), keepFirstReply, &reply);
+    DnsServiceHandle service(started);
+    if (!service)
+        return std::nullopt;
+    const int descriptor = DNSServiceRefSockFD(service.get());
+    if (descriptor == -1) {
+        // Nothing is left that could be told of the end: the reference is given up, not deallocated.
+        static_cast<void>(service.release());
+        return std::nullopt;
     }
+    // One readable descriptor need not mean a reply: Avahi's library takes two or three reads for one.
+    bonjour::waitForReply(descriptor, deadline, [&] {
+        if (DNSServiceProcessResult(service.get()) != kDNSServiceErr_NoError)
+            return bonjour::Progress::Failed;
+        return reply ? bonjour::Progress::Replied : bonjour::Progress::Pending;
+    });
+    return reply;
 }
 
 } // namespace
 
-bool bonjour::waitForReply(int descriptor, std::chrono::milliseconds budget,
+bool bonjour::waitForReply(int descriptor, const QDeadlineTimer &deadline,
                            const std::function<Progress()> &process)
 {
-    const QDeadlineTimer deadline(budget);
     do {
         pollfd waited{.fd = descriptor, .events = POLLIN, .revents = 0};
         const int ready = ::poll(&waited, 1, static_cast<int>(deadline.remainingTime()));
@@ -64,28 +94,15 @@ bool bonjour::waitForReply(int descriptor, std::chrono::milliseconds budget,
 void bonjour::resolveService(const char *name, const char *type, const char *domain,
                              DNSServiceResolveReply reply, void *context)
 {
-    // Avahi's library reminds the user on stderr that the program could use another interface of it.
-    const ScopedEnvironment quiet{{"AVAHI_COMPAT_NOWARN", "1"}};
-    Relay relay{.reply = reply, .context = context, .thrown = nullptr};
-    DNSServiceRef started = nullptr;
-    // The error is told by the missing reference.
-    DNSServiceResolve(&started, 0, 0, name, type, domain, relayReply, &relay);
-    DnsServiceHandle service(started);
-    if (!service)
+    const auto told =
+        platform::callBeside([asked = Service{name, type, domain},
+                              deadline = QDeadlineTimer(replyBudget)] { return replyFor(asked, deadline); },
+                             replyBudget);
+    const std::optional<Reply> first = told.value_or(std::nullopt);
+    if (!first)
         return;
-    const int descriptor = DNSServiceRefSockFD(service.get());
-    if (descriptor == -1) {
-        // Nothing is left that could be told of the end: the reference is given up, not deallocated.
-        static_cast<void>(service.release());
-        return;
-    }
-    // One readable descriptor need not mean a reply: Avahi's library takes two or three reads for one.
-    waitForReply(descriptor, replyBudget, [&] {
-        if (DNSServiceProcessResult(service.get()) != kDNSServiceErr_NoError)
-            return Progress::Failed;
-        return relay.replied ? Progress::Replied : Progress::Pending;
-    });
-    service.reset();
-    if (relay.thrown)
-        std::rethrow_exception(relay.thrown);
+    const auto textOf = [](const QByteArray &text) { return text.isNull() ? nullptr : text.constData(); };
+    reply(nullptr, first->flags, first->interfaceIndex, first->error, textOf(first->fullName),
+          textOf(first->hostTarget), first->port, static_cast<uint16_t>(first->txtRecord.size()),
+          reinterpret_cast<const unsigned char *>(first->txtRecord.constData()), context);
 }

@@ -3,26 +3,30 @@
 
 #pragma once
 
+#include <QDeadlineTimer>
+
 #include <dns_sd.h>
 
 #include <chrono>
 #include <functional>
 
-// The wait for a reply of the Bonjour daemon, in the calling thread.
+// Questions to the Bonjour daemon.
 namespace bonjour {
 
-// For one resolution, from the start of the wait to the reply, whatever the number of reads in between.
+// For one resolution as a whole: reaching the daemon, and the wait for its reply.
 constexpr std::chrono::milliseconds replyBudget{5000};
 
 enum class Progress { Pending, Replied, Failed };
 
-// Runs `process` each time the descriptor is readable until it replied or failed or the budget is used up.
+// Runs `process` each time the descriptor is readable until it replied or failed or the deadline has passed.
 // Any descriptor number will do. True when it replied.
-bool waitForReply(int descriptor, std::chrono::milliseconds budget, const std::function<Progress()> &process);
+bool waitForReply(int descriptor, const QDeadlineTimer &deadline, const std::function<Progress()> &process);
 
 // Looks up where a service instance runs and gives the daemon's first answer, which may be an error, to
-// `reply` before it returns. `reply` is not called when the daemon is away or silent for the length of the
-// budget. What `reply` throws passes on to the caller.
+// `reply` before it returns, on the calling thread; the reference that `reply` gets is null. `reply` is not
+// called when the daemon is away or silent for the length of the budget. The daemon's library may wait far
+// longer than that, and for ever for a bus that does not speak: it is called beside this thread, and is left
+// to itself when the time is over.
 void resolveService(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                     void *context);
 

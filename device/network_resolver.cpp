@@ -5,6 +5,7 @@
 
 #include "device/bonjour_wait.h"
 #include "device/device_uri.h"
+#include "platform/background.h"
 
 #include <QMutexLocker>
 #include <QRecursiveMutex>
@@ -16,8 +17,10 @@
 #include <netinet/in.h>
 
 #include <array>
+#include <cerrno>
 #include <limits>
 #include <optional>
+#include <vector>
 
 const QString QVResolvedKey = QStringLiteral("ResolvesTo");
 const QString QVAgeKey = QStringLiteral("AgeOfResolution");
@@ -82,12 +85,29 @@ double ageInSeconds(const QDateTime &written)
     return static_cast<double>(written.msecsTo(now)) / 1000.0;
 }
 
+// The plain form of the call keeps its answer where the next call on any thread overwrites it.
+QByteArray addressByName(const QByteArray &name, int family)
+{
+    std::vector<char> room(1024);
+    hostent entry{};
+    hostent *found = nullptr;
+    int error = 0;
+    while (::gethostbyname2_r(name.constData(), family, &entry, room.data(), room.size(), &found, &error) ==
+           ERANGE)
+        room.resize(room.size() * 2);
+    if (found == nullptr || found->h_addr_list == nullptr || found->h_addr_list[0] == nullptr)
+        return {};
+    std::array<char, 256> text{};
+    ::inet_ntop(found->h_addrtype, found->h_addr_list[0], text.data(), static_cast<socklen_t>(text.size()));
+    return {text.data()};
+}
+
 } // namespace
 
 ResolverServices ResolverServices::system()
 {
     return {.now = [] { return QDateTime::currentDateTimeUtc(); },
-            .hostByName = [](const char *name, int family) { return ::gethostbyname2(name, family); },
+            .addressOfHost = addressByName,
             .resolveService = bonjour::resolveService};
 }
 
@@ -127,7 +147,9 @@ QString QVNetworkResolver_M880::resolveToIP(const QString &host)
         return {};
     QVNetworkResolver_M880 resolver;
     const QString address = resolver.resolve(host);
-    addToCacheForHost(address, host);
+    // Nobody knows whether a host fails that was given up on.
+    if (!address.isNull() || !platform::Background::isGivenUp())
+        addToCacheForHost(address, host);
     return address;
 }
 
@@ -193,14 +215,11 @@ QString QVNetworkResolver_M880::resolveFromHostname(const QString &name) const
     const std::optional<QByteArray> bytes = asciiBytes(name);
     if (name.isNull() || !bytes)
         return {};
-    const hostent *found = services().hostByName(bytes->constData(), AF_INET);
-    if (found == nullptr)
-        found = services().hostByName(bytes->constData(), AF_INET6);
-    if (found == nullptr || found->h_addr_list == nullptr || found->h_addr_list[0] == nullptr)
-        return {};
-    std::array<char, 256> text{};
-    ::inet_ntop(found->h_addrtype, found->h_addr_list[0], text.data(), static_cast<socklen_t>(text.size()));
-    return text.front() == '\0' ? QString() : stringFromAscii(text.data());
+    const auto address = platform::callBeside([name = *bytes, addressOfHost = services().addressOfHost] {
+        const QByteArray ipv4 = addressOfHost(name, AF_INET);
+        return ipv4.isEmpty() ? addressOfHost(name, AF_INET6) : ipv4;
+    });
+    return address && !address->isEmpty() ? stringFromAscii(address->constData()) : QString();
 }
 
 void DNSSD_API ResolverCallback(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType, const char *,

@@ -5,6 +5,7 @@
 
 #include "platform/printing_manager.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QHash>
 #include <QString>
@@ -13,8 +14,6 @@
 #include <dns_sd.h>
 
 #include <functional>
-
-struct hostent;
 
 // The two entries of a cache record, and the address that stands for "none".
 extern const QString QVResolvedKey;   // "ResolvesTo"
@@ -25,8 +24,8 @@ extern const QString QVDoesntResolve; // "_%%DoesntResolve%%_"
 struct ResolverServices
 {
     std::function<QDateTime()> now;
-    // As gethostbyname2(3); the answer is valid until the next call.
-    std::function<hostent *(const char *name, int family)> hostByName;
+    // The first address of gethostbyname2(3) as text; empty when there is none. Called on any thread.
+    std::function<QByteArray(const QByteArray &name, int family)> addressOfHost;
     // As bonjour::resolveService().
     std::function<void(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                        void *context)>
@@ -36,9 +35,10 @@ struct ResolverServices
 };
 
 // Finds the numeric address of a printer: of a literal address, a Bonjour service name or a host name, tried
-// in that order. Blocks the calling thread: up to 5 seconds for Bonjour and two name look-ups. A host that
-// failed is not asked for again for 120 seconds; a host that succeeded is looked up anew each time. The cache
-// lives as long as the process. Calls from several threads wait for each other. Every failure is nil.
+// in that order. Returns when it is done, after up to 5 seconds for Bonjour and two name look-ups, which run
+// beside a thread that has a platform::Waiter. A host that failed is not asked for again for 120 seconds, one
+// that was given up on is; a host that succeeded is looked up anew each time. The cache lives as long as the
+// process. Calls from several threads wait for each other. Every failure is nil.
 class QVNetworkResolver_M880
 {
 public:

@@ -12,6 +12,26 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include <csignal>
+
+namespace {
+
+// Takes connections, until the process ends, that nobody looks at.
+void listenInSilence(const QByteArray &path)
+{
+    sockaddr_un name{.sun_family = AF_UNIX, .sun_path = {}};
+    QVERIFY(path.size() < qsizetype(sizeof name.sun_path));
+    std::copy(path.begin(), path.end(), std::begin(name.sun_path));
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    QCOMPARE(::bind(fd, reinterpret_cast<const sockaddr *>(&name), sizeof name), 0);
+    QCOMPARE(::listen(fd, 5), 0);
+}
+
+} // namespace
+
 class TestBonjour : public QObject
 {
     Q_OBJECT
@@ -20,7 +40,7 @@ private Q_SLOTS:
     void resolves_data();
     void resolves();
     void silence_data();
-    void silence(); // last: the daemon stays stopped
+    void silence(); // last: daemon and bus go, a row each
 
 private:
     QString write(const char *name, const QString &text);
@@ -99,20 +119,29 @@ void TestBonjour::resolves()
 
 void TestBonjour::silence_data()
 {
+    using Change = std::function<void()>;
     QTest::addColumn<QString>("host");
-    QTest::addColumn<bool>("stopped");
-    QTest::newRow("nobody answers") << u"Nobody._ipp._tcp.local"_qs << false;
-    QTest::newRow("daemon stopped") << u"Office Printer._ipp._tcp.local"_qs << true;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("nobody answers") << u"Nobody._ipp._tcp.local"_qs << Change([] {});
+    QTest::newRow("the daemon hangs")
+        << u"Office Printer._ipp._tcp.local"_qs
+        << Change([this] { ::kill(static_cast<pid_t>(m_avahi->processId()), SIGSTOP); });
+    QTest::newRow("there is no daemon") << u"Office Printer._ipp._tcp.local."_qs << Change([this] {
+        ::kill(static_cast<pid_t>(m_avahi->processId()), SIGKILL);
+        m_avahi->waitForFinished();
+    });
+    QTest::newRow("the bus does not speak") << u"office printer._ipp._tcp.local"_qs << Change([this] {
+        m_bus.reset();
+        QFile::remove(m_folder.filePath(u"bus"_qs));
+        listenInSilence(QFile::encodeName(m_folder.filePath(u"bus"_qs)));
+    });
 }
 
 void TestBonjour::silence()
 {
     QFETCH(QString, host);
-    QFETCH(bool, stopped);
-    if (stopped) {
-        m_service.reset();
-        m_avahi.reset();
-    }
+    QFETCH(std::function<void()>, change);
+    change();
     QElapsedTimer clock;
     clock.start();
     QVERIFY(QVNetworkResolver_M880::resolveToIP(host).isNull());

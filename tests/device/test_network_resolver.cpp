@@ -4,13 +4,17 @@
 #include "device/bonjour_wait.h"
 #include "device/device_uri.h"
 #include "device/network_resolver.h"
+#include "tests/support/loop_waiter.h"
 
 #include <QElapsedTimer>
+#include <QSemaphore>
 #include <QtTest>
 
-#include <arpa/inet.h>
-#include <netdb.h>
+#include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
+
+#include <csignal>
 
 #include <array>
 #include <future>
@@ -25,13 +29,14 @@ public:
     {
         Resolver::setServices(
             {.now = [this] { return now; },
-             .hostByName = [this](const char *name, int family) { return lookUp(name, family); },
+             .addressOfHost = [this](const QByteArray &name, int family) { return lookUp(name, family); },
              .resolveService =
                  [this](const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                         void *context) {
                      asked += QStringLiteral("%1|%2|%3")
                                   .arg(QLatin1String(name), QLatin1String(type), QLatin1String(domain));
-                     reply(nullptr, 0, 0, 0, nullptr, serviceTarget, 0, 0, nullptr, context);
+                     if (servicesAnswer)
+                         reply(nullptr, 0, 0, 0, nullptr, serviceTarget, 0, 0, nullptr, context);
                  }});
     }
     ~FakeSystem() { Resolver::setServices(ResolverServices::system()); }
@@ -39,27 +44,18 @@ public:
     QDateTime now = QDateTime::fromSecsSinceEpoch(1'000'000'000);
     QHash<QByteArray, const char *> ipv4, ipv6;
     const char *serviceTarget = nullptr; // of every service; an error reply has none
+    bool servicesAnswer = true;
     bool throws = false;
     QStringList asked; // services as name|type|domain, hosts as name/4 or name/6
 
 private:
-    hostent *lookUp(const char *name, int family)
+    QByteArray lookUp(const QByteArray &name, int family)
     {
         asked += QStringLiteral("%1/%2").arg(QLatin1String(name), family == AF_INET ? u"4" : u"6");
         if (throws)
             throw std::runtime_error("look-up");
-        const char *text = (family == AF_INET ? ipv4 : ipv6).value(name);
-        if (text == nullptr)
-            return nullptr;
-        ::inet_pton(family, text, m_bytes.data());
-        m_found.h_addrtype = family;
-        m_found.h_addr_list = m_list.data();
-        return &m_found;
+        return (family == AF_INET ? ipv4 : ipv6).value(name);
     }
-
-    std::array<char, 16> m_bytes{};
-    std::array<char *, 2> m_list{m_bytes.data(), nullptr};
-    hostent m_found{};
 };
 
 class TestNetworkResolver : public QObject
@@ -74,6 +70,8 @@ private Q_SLOTS:
     void successIsAskedAnew();
     void nilHost();
     void lockIsReleasedWhenALookUpThrows();
+    void whatWasGivenUpIsAskedAnew();
+    void silentServiceHasNoEarlierAddress();
     void waitsForAReply();
 };
 
@@ -198,16 +196,57 @@ void TestNetworkResolver::lockIsReleasedWhenALookUpThrows()
     QVERIFY(!Resolver::cache().contains(u"throws.example"_qs));
 }
 
+void TestNetworkResolver::whatWasGivenUpIsAskedAnew()
+{
+    const QString host = u"Slow._ipp._tcp.local"_qs;
+    const auto answer = std::make_shared<QSemaphore>();
+    Resolver::setServices({.now = [] { return QDateTime::currentDateTimeUtc(); },
+                           .addressOfHost =
+                               [answer](const QByteArray &, int) {
+                                   answer->acquire();
+                                   return QByteArray("10.0.0.1");
+                               },
+                           .resolveService = [](auto...) {}});
+    const auto waiter = std::make_shared<LoopWaiter>();
+    {
+        const platform::Waiter::Scope scope(waiter);
+        QTimer::singleShot(10, this, [&] { waiter->giveUp(); });
+        QVERIFY(Resolver::resolveToIP(host).isNull());
+        QVERIFY(Resolver::resolveToIP(host).isNull()); // at once
+    }
+    QVERIFY(!Resolver::cache().contains(host));
+    answer->release(2);
+    QCOMPARE(Resolver::resolveToIP(host), u"10.0.0.1"_qs);
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    Resolver::setServices(ResolverServices::system());
+}
+
+void TestNetworkResolver::silentServiceHasNoEarlierAddress()
+{
+    FakeSystem system;
+    system.servicesAnswer = false;
+    Resolver resolver;
+    resolver.setIP(u"10.0.0.1"_qs);
+    QVERIFY(resolver.resolveFromBonjour(u"Orb._ipp._tcp.local"_qs).isNull());
+}
+
 void TestNetworkResolver::waitsForAReply()
 {
     using bonjour::Progress;
     constexpr std::chrono::milliseconds budget(50);
     std::array<int, 2> ends{};
     QCOMPARE(::pipe(ends.data()), 0);
+    // A signal does not end it.
+    ::signal(SIGALRM, [](int) {});
+    const itimerval soon{{0, 10'000}, {0, 10'000}};
+    QCOMPARE(::setitimer(ITIMER_REAL, &soon, nullptr), 0);
     QElapsedTimer clock;
     clock.start();
     const auto never = [] { return Progress::Pending; };
     QVERIFY(!bonjour::waitForReply(ends[0], budget, never));
+    QVERIFY(clock.elapsed() >= 50);
+    const itimerval off{};
+    ::setitimer(ITIMER_REAL, &off, nullptr);
     // A descriptor that is always readable and never gives a reply ends it no later.
     QCOMPARE(::write(ends[1], "abc", 3), 3);
     QVERIFY(!bonjour::waitForReply(ends[0], budget, never));

@@ -3,8 +3,8 @@
 
 #include "platform/background.h"
 #include "platform/exception.h"
+#include "tests/support/loop_waiter.h"
 
-#include <QEventLoop>
 #include <QObject>
 #include <QPointer>
 #include <QSemaphore>
@@ -13,41 +13,6 @@
 
 using namespace platform;
 using namespace std::chrono_literals;
-
-namespace {
-
-// Runs an event loop until the work has ended or `giveUp` is called.
-class LoopWaiter : public Waiter
-{
-public:
-    bool isGivenUp() const override { return m_givenUp; }
-    bool wait(const std::function<bool()> &ended) override
-    {
-        m_ended = ended;
-        if (!ended() && !m_givenUp)
-            m_loop.exec();
-        return ended();
-    }
-    void wake() override
-    {
-        QMetaObject::invokeMethod(&m_loop, [this] {
-            if (m_ended && m_ended())
-                m_loop.quit();
-        });
-    }
-    void giveUp()
-    {
-        m_givenUp = true;
-        m_loop.quit();
-    }
-
-private:
-    QEventLoop m_loop;
-    std::function<bool()> m_ended;
-    bool m_givenUp = false;
-};
-
-} // namespace
 
 class BackgroundTest : public QObject
 {
