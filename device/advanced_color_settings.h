@@ -25,8 +25,9 @@ extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only
 
 // The colour profiles that a printer holds, what the user chose among them, and whether the printer could be
 // asked. Its keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed
-// and outlive it. The device is asked by restore and by updateFromSNMP() alone, and blocks the thread
-// meanwhile; the host is told before. Main thread only.
+// and outlive it. The device is asked by restore and by updateFromSNMP() alone, which return when it is done;
+// the host is told before. A user who does not wait gets what a device that does not answer gives. Main thread
+// only.
 //
 // Each list of names has a list of the device's numbers beside it, which the selections refer to: a profile
 // without a name has a number but no place in the lists. An empty list is one that was never read.
@@ -59,8 +60,9 @@ public:
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
                                         QWidget *view);
 
-    // Reads lists and defaults from the device, unless disabled. A failure disables with a localised reason
-    // and leaves what was read before. `sender` does not matter.
+    // Reads lists and defaults from the device, unless disabled: who asks again after a failure enables
+    // first. A failure disables with a localised reason and leaves what was read before. `sender` does not
+    // matter.
     void updateFromSNMP(QObject *sender = nullptr);
     // Enables, asks the device, and puts the stored selections over its defaults. Always true, without error.
     bool restoreValuesAndReturnError(QString *error);

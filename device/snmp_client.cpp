@@ -4,11 +4,14 @@
 #include "device/snmp_client.h"
 
 #include "device/network_resolver.h"
-#include "device/scoped_environment.h"
 #include "device/snmp_library.h"
 #include "device/snmp_value.h"
 #include "device/string_encoding.h"
 #include "device/value_conversion.h"
+#include "platform/background.h"
+
+#include <utility>
+#include <vector>
 
 const QString QVSNMPUnknownError = QStringLiteral("SNMPUnknownError");
 const QString QVSNMPCannotConnect = QStringLiteral("SNMPCannotConnect");
@@ -25,29 +28,56 @@ constexpr long timeoutMicroseconds = 1'000'000;
 constexpr std::array<SnmpOid, 12> prtGeneralCurrentLocalization{1, 3, 6, 1, 2, 1, 43, 5, 1, 1, 2, 1};
 constexpr std::array<SnmpOid, 13> prtLocalizationCharacterSet{1, 3, 6, 1, 2, 1, 43, 7, 1, 1, 4, 1, 0};
 
-// Null when net-snmp cannot open one.
-void *openSession(const QString &address)
+// What a version of net-snmp with a longer session writes behind ours is not read, and damages nothing.
+struct RoomySession
 {
-    const SnmpLibrary &library = SnmpLibrary::instance();
-    {
-        // The first call reads configuration and MIB files. All OIDs here are numbers, so no MIB is needed,
-        // and a machine without them gets no warnings; nor are folders made for certificates that v2c does
-        // not use.
-        const ScopedEnvironment quiet{{"MIBS", ""}, {"MIBDIRS", ""}, {"SNMP_PERSISTENT_DIR", "/dev/null"}};
-        library.tap_init_snmp("KelmarPDE");
-    }
+    netsnmp_session known{};
+    std::array<std::byte, 512> beyond{};
+};
+
+// Without a handle when net-snmp cannot open one.
+std::shared_ptr<SnmpSession> openedSession(const SnmpCalls &calls, const QString &address)
+{
     // A bare IPv6 address, with or without a scope id, is taken as it stands.
     QByteArray peername = address.toUtf8();
     QByteArray community = QByteArrayLiteral("public");
-    netsnmp_session session{};
-    library.tap_snmp_sess_init(&session);
+    RoomySession room;
+    netsnmp_session &session = room.known;
+    calls.tap_snmp_sess_init(&session);
     session.peername = peername.data();
     session.version = SNMP_VERSION_2c;
     session.retries = retries;
     session.timeout = timeoutMicroseconds;
     session.community = reinterpret_cast<unsigned char *>(community.data());
     session.community_len = static_cast<size_t>(community.size());
-    return library.tap_snmp_sess_open(&session);
+    return std::make_shared<SnmpSession>(calls, calls.tap_snmp_sess_open(&session));
+}
+
+struct Request
+{
+    std::shared_ptr<SnmpSession> session;
+    std::vector<SnmpOid> oid;
+    quint32 charSet;
+    bool stringsAsData;
+};
+
+QVariant answerTo(const Request &asked)
+{
+    const SnmpCalls &calls = asked.session->calls;
+    netsnmp_pdu *request = calls.tap_snmp_pdu_create(SNMP_MSG_GET);
+    if (request == nullptr)
+        return {};
+    calls.tap_snmp_add_null_var(request, asked.oid.data(), asked.oid.size());
+    netsnmp_pdu *answer = nullptr;
+    const int status = calls.tap_snmp_sess_synch_response(asked.session->handle, request, &answer);
+    const SnmpPduHandle response(answer, {calls.tap_snmp_free_pdu});
+    if (status != STAT_SUCCESS || !response || response->errstat != SNMP_ERR_NOERROR)
+        return {};
+    QVariant value;
+    for (const netsnmp_variable_list *variable = response->variables; variable != nullptr;
+         variable = variable->next_variable)
+        value = valueOfVariable(*variable, asked.charSet, asked.stringsAsData);
+    return value;
 }
 
 } // namespace
@@ -83,19 +113,29 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
             *error = identifier;
         return nullptr;
     };
+    SnmpLibrary &library = SnmpLibrary::instance();
     // The count vouches for no more than an earlier attempt, hence the second look.
-    if (!loadLibrary() || !SnmpLibrary::instance().isUsable())
+    if (!loadLibrary() || !library.isUsable())
         return fail(QVSNMPArchitectureMismatch);
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    void *session = openSession(address);
-    if (session == nullptr)
+    if (!library.initialize("KelmarPDE"))
         return fail(QVSNMPArchitectureMismatch);
-    return std::unique_ptr<QVSNMP_M880>(new QVSNMP_M880(session));
+    const SnmpCalls &calls = library;
+    auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });
+    if (!session)
+        return fail(QVSNMPCannotConnect);
+    if ((*session)->handle == nullptr)
+        return fail(QVSNMPArchitectureMismatch);
+    return std::unique_ptr<QVSNMP_M880>(new QVSNMP_M880(std::move(*session)));
 }
 
-QVSNMP_M880::QVSNMP_M880(void *session) : m_theSession(session), m_charSet(NSASCIIStringEncoding) {}
+QVSNMP_M880::QVSNMP_M880(std::shared_ptr<SnmpSession> session)
+    : m_theSession(std::move(session)), m_charSet(NSASCIIStringEncoding)
+{
+    m_theSession->isToBeClosed = false; // unless closeSession() says so
+}
 
 QVSNMP_M880::~QVSNMP_M880()
 {
@@ -104,38 +144,33 @@ QVSNMP_M880::~QVSNMP_M880()
 
 void QVSNMP_M880::closeSession()
 {
-    if (m_theSession != nullptr)
-        SnmpLibrary::instance().tap_snmp_sess_close(m_theSession);
+    if (!m_theSession)
+        return;
+    m_theSession->isToBeClosed = true;
+    m_theSession.reset();
+}
+
+bool QVSNMP_M880::isIdle() const
+{
+    return m_theSession.use_count() == 1 && SnmpLibrary::instance().libraryLoaded != 0;
 }
 
 qint32 QVSNMP_M880::lastError() const
 {
-    const SnmpLibrary &library = SnmpLibrary::instance();
-    const netsnmp_session *session = m_theSession == nullptr || library.libraryLoaded == 0
-                                         ? nullptr
-                                         : library.tap_snmp_sess_session(m_theSession);
+    const netsnmp_session *session =
+        isIdle() ? m_theSession->calls.tap_snmp_sess_session(m_theSession->handle) : nullptr;
     return session == nullptr ? m_lastError : session->s_errno;
 }
 
 QVariant QVSNMP_M880::sendRequestWithSize(const SnmpOid *oid, size_t size)
 {
-    const SnmpLibrary &library = SnmpLibrary::instance();
-    if (m_theSession == nullptr || library.libraryLoaded == 0)
+    if (!isIdle())
         return {};
-    netsnmp_pdu *request = library.tap_snmp_pdu_create(SNMP_MSG_GET);
-    if (request == nullptr)
-        return {};
-    library.tap_snmp_add_null_var(request, oid, size);
-    netsnmp_pdu *answer = nullptr;
-    const int status = library.tap_snmp_sess_synch_response(m_theSession, request, &answer);
-    const SnmpPduHandle response(answer);
-    if (status != STAT_SUCCESS || !response || response->errstat != SNMP_ERR_NOERROR)
-        return {};
-    QVariant value;
-    for (const netsnmp_variable_list *variable = response->variables; variable != nullptr;
-         variable = variable->next_variable)
-        value = valueOfVariable(*variable, m_charSet, m_returnStringsAsData);
-    return value;
+    const auto value = platform::callBeside(
+        [request = Request{m_theSession, {oid, oid + size}, m_charSet, m_returnStringsAsData}] {
+            return answerTo(request);
+        });
+    return value.value_or(QVariant());
 }
 
 std::optional<QVariantList> QVSNMP_M880::sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size,

@@ -21,10 +21,13 @@ extern const QString QVSNMPArchitectureMismatch; // "SNMPArchMismatch", no usabl
 
 using SnmpOid = unsigned long; // net-snmp's oid
 
+struct SnmpSession;
+
 // Reads single values from a printer with SNMP version 2c, community "public". net-snmp is opened at run time
-// when the first client is made and closed when the last one goes. Owned by whoever asks; main thread only. A
-// request blocks up to 3 seconds (1 second, two retries). Nil (an invalid QVariant) is every failure:
-// time-out, an error status, a type that is not read.
+// when the first client is made and closed when the last one goes; it reads no configuration. Owned by
+// whoever asks; main thread only. A request returns when it is done, after up to 3 seconds (1 second, two
+// retries); it runs beside a thread that has a platform::Waiter. Nil (an invalid QVariant) is every failure:
+// time-out, an error status, a type that is not read, a user who did not wait.
 class QVSNMP_M880
 {
 public:
@@ -65,15 +68,18 @@ public:
     // Whether strings come as the bytes the printer sent.
     bool returnsStringsAsData() const { return m_returnStringsAsData; }
     void setReturnsStringsAsData(bool asData) { m_returnStringsAsData = asData; }
-    // errno of the session's last failed system call; 0 without a session.
+    // errno of the session's last failed system call; 0 without a session, and while a request that was given
+    // up on runs on it.
     qint32 lastError() const;
-    // Call once, as the last thing before the client goes.
+    // Call once, as the last thing before the client goes. A request that was given up on ends first.
     void closeSession();
 
 private:
-    explicit QVSNMP_M880(void *session);
+    explicit QVSNMP_M880(std::shared_ptr<SnmpSession> session);
+    // Whether requests may be made on the session: not while one that was given up on runs on it.
+    bool isIdle() const;
 
-    void *m_theSession; // net-snmp's single-session handle
+    std::shared_ptr<SnmpSession> m_theSession;
     qint32 m_lastError = 0;
     quint32 m_charSet;
     bool m_returnStringsAsData = false;

@@ -11,13 +11,8 @@ void DynamicLibraryCloser::operator()(void *handle) const
         qCWarning(lcDevice, "Error: %s", ::dlerror());
 }
 
-// The name Debian 12 has, the one of a development package, then later and earlier ones. The calls used have
-// the same form in all of them.
-SnmpLibrary::SnmpLibrary()
-    : names{"libnetsnmp.so.40", "libnetsnmp.so",    "libnetsnmp.so.45", "libnetsnmp.so.44",
-            "libnetsnmp.so.42", "libnetsnmp.so.41", "libnetsnmp.so.35"}
-{
-}
+// The structures of this version are the ones compiled in; later ones write past the session of earlier ones.
+SnmpLibrary::SnmpLibrary() : names{"libnetsnmp.so.40"} {}
 
 SnmpLibrary &SnmpLibrary::instance()
 {
@@ -32,7 +27,7 @@ bool SnmpLibrary::load()
     if (libraryLoaded++ != 0)
         return true;
     for (const QByteArray &name : names) {
-        snmpLibrary.reset(::dlopen(name.constData(), RTLD_NOW | RTLD_LOCAL));
+        snmpLibrary.reset(::dlopen(name.constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
         if (snmpLibrary)
             break;
     }
@@ -51,6 +46,35 @@ bool SnmpLibrary::isUsable() const
     KELMAR_SNMP_ENTRY_POINTS(KELMAR_CHECK)
 #undef KELMAR_CHECK
     return complete;
+}
+
+bool SnmpLibrary::configure()
+{
+#define KELMAR_LOOK_UP(name)                                                                                 \
+    const auto name = reinterpret_cast<decltype(&::name)>(::dlsym(snmpLibrary.get(), #name));                \
+    if (name == nullptr)                                                                                     \
+        return false;
+    KELMAR_SNMP_CONFIGURATION_POINTS(KELMAR_LOOK_UP)
+#undef KELMAR_LOOK_UP
+    // All OIDs are numbers, so no MIB is needed, and a machine without them gets no warnings; v2c has neither
+    // users nor certificates that would have to be kept.
+    for (const int setting : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DONT_LOAD_HOST_FILES,
+                              NETSNMP_DS_LIB_DONT_PERSIST_STATE, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,
+                              NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE})
+        netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, setting, 1);
+    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_MIBDIRS, "");
+    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_CONFIGURATION_DIR, "/dev/null");
+    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_PERSISTENT_DIR, "/dev/null");
+    return netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG) != nullptr;
+}
+
+bool SnmpLibrary::initialize(const char *application)
+{
+    if (m_configured != tap_init_snmp && !configure())
+        return false;
+    m_configured = tap_init_snmp;
+    tap_init_snmp(application);
+    return true;
 }
 
 void SnmpLibrary::unload()

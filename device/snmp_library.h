@@ -27,6 +27,12 @@
     X(snmp_sess_session)                                                                                     \
     X(snmp_sess_synch_response)
 
+// What keeps the user's files and the environment out of it, and its remarks off the terminal.
+#define KELMAR_SNMP_CONFIGURATION_POINTS(X)                                                                  \
+    X(netsnmp_ds_set_boolean)                                                                                \
+    X(netsnmp_ds_set_string)                                                                                 \
+    X(netsnmp_register_loghandler)
+
 struct DynamicLibraryCloser
 {
     // Logs when it fails.
@@ -34,8 +40,18 @@ struct DynamicLibraryCloser
 };
 using DynamicLibraryHandle = std::unique_ptr<void, DynamicLibraryCloser>;
 
-// net-snmp as the dynamic loader found it. One a process; never linked. Main thread only, no lock.
-struct SnmpLibrary
+// The entry points as they were found. Work that may outlive the client that asked for it has a copy.
+struct SnmpCalls
+{
+#define KELMAR_DECLARE_SLOT(name) decltype(&::name) tap_##name = nullptr;
+    KELMAR_SNMP_ENTRY_POINTS(KELMAR_DECLARE_SLOT)
+#undef KELMAR_DECLARE_SLOT
+};
+
+// net-snmp as the dynamic loader found it. One a process; never linked. Main thread only, no lock. The code
+// of a library that was opened once stays in memory: it leaves callbacks behind, and a request that was given
+// up on may still be under way in it.
+struct SnmpLibrary : SnmpCalls
 {
     static SnmpLibrary &instance();
 
@@ -43,17 +59,18 @@ struct SnmpLibrary
     void unload();
     // Whether every entry point may be called: load() says so once only.
     bool isUsable() const;
+    // init_snmp(), after it was told to read no file. False when it cannot be told.
+    bool initialize(const char *application);
 
     quint32 libraryLoaded = 0; // load() calls without their unload(), a failed first one included
     DynamicLibraryHandle snmpLibrary;
     QList<QByteArray> names; // tried in order until one opens
 
-#define KELMAR_DECLARE_SLOT(name) decltype(&::name) tap_##name = nullptr;
-    KELMAR_SNMP_ENTRY_POINTS(KELMAR_DECLARE_SLOT)
-#undef KELMAR_DECLARE_SLOT
-
 private:
     SnmpLibrary();
+    bool configure();
+
+    decltype(&::init_snmp) m_configured = nullptr; // of the library that was configured last
 };
 
 // What a closed library leaves in the slots, so that a stale call fails loudly.
@@ -62,6 +79,26 @@ constexpr quintptr poisonedEntryPoint = 0xDEADBEEF;
 // A response. (A request belongs to net-snmp once it is sent.)
 struct SnmpPduFreer
 {
-    void operator()(netsnmp_pdu *pdu) const { SnmpLibrary::instance().tap_snmp_free_pdu(pdu); }
+    decltype(&::snmp_free_pdu) free;
+    void operator()(netsnmp_pdu *pdu) const { free(pdu); }
 };
 using SnmpPduHandle = std::unique_ptr<netsnmp_pdu, SnmpPduFreer>;
+
+// An open session. Shared by the client and its requests, so that one that was given up on can end.
+struct SnmpSession
+{
+    SnmpSession(const SnmpCalls &entryPoints, void *openedHandle) : calls(entryPoints), handle(openedHandle)
+    {
+    }
+    ~SnmpSession()
+    {
+        if (isToBeClosed && handle != nullptr)
+            calls.tap_snmp_sess_close(handle);
+    }
+    SnmpSession(const SnmpSession &) = delete;
+    SnmpSession &operator=(const SnmpSession &) = delete;
+
+    const SnmpCalls calls;
+    void *const handle; // net-snmp's single-session handle; null when it could not be opened
+    bool isToBeClosed = true;
+};

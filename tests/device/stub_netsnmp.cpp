@@ -19,12 +19,12 @@ STUB StubControl stub_control{};
 STUB void init_snmp(const char *type)
 {
     ++stub_control.inits;
-    stub_control.mibsWhileInit = getenv("MIBS");
     strncpy(stub_control.application, type, sizeof stub_control.application - 1);
 }
 STUB void snmp_sess_init(netsnmp_session *session)
 {
-    *session = {};
+    // As a version does whose session is longer.
+    memset(static_cast<void *>(session), 0, sizeof *session + 8);
 }
 STUB void *snmp_sess_open(netsnmp_session *session)
 {
@@ -33,6 +33,19 @@ STUB void *snmp_sess_open(netsnmp_session *session)
     strncpy(stub_control.community, reinterpret_cast<const char *>(session->community),
             session->community_len);
     return stub_control.failOpen ? nullptr : &stub_control.opened;
+}
+STUB int netsnmp_ds_set_boolean(int, int, int)
+{
+    return SNMPERR_SUCCESS;
+}
+STUB int netsnmp_ds_set_string(int, int, const char *)
+{
+    return SNMPERR_SUCCESS;
+}
+STUB netsnmp_log_handler *netsnmp_register_loghandler(int, int)
+{
+    static netsnmp_log_handler handler;
+    return &handler;
 }
 STUB int snmp_sess_close(void *)
 {

@@ -12,7 +12,6 @@ struct StubControl
 {
     int inits, closes, frees;
     char application[32], peer[64], community[16];
-    const char *mibsWhileInit;
     netsnmp_session opened;
     netsnmp_pdu request;
 

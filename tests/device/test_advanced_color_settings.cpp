@@ -4,6 +4,7 @@
 #include "device/advanced_color_settings.h"
 #include "platform/bundle.h"
 #include "platform/text_field.h"
+#include "tests/support/loop_waiter.h"
 #include "tests/support/private_network.h"
 #include "tests/support/recording_host.h"
 #include "tests/support/simulated_printer.h"
@@ -13,8 +14,6 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QtTest>
-
-#include <dlfcn.h>
 
 using Settings = QVAdvancedColorSettingsManager_M880;
 
@@ -69,6 +68,8 @@ private Q_SLOTS:
     void restoreAndSave();
     void failedPrinterDropsAndRemoves();
     void reasonIsLocalised();
+    void userWhoDoesNotWait();
+    void leavesNoSessionOpen();
     void saveEndsTextEditing();
 #if KELMAR_OLDER_HOSTS
     void ticketOfAnOlderHost();
@@ -86,7 +87,6 @@ void TestAdvancedColorSettings::initTestCase()
     const QString whyNot = enterPrivateNetwork();
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
-    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
     m_bundleFolder.writeStrings(u"en"_qs, u"Localizable"_qs,
                                 {{u"SNMPCannotConnect"_qs, u"The printer cannot be reached."_qs},
                                  {u"AskingPrinter"_qs, u"Asking…"_qs}});
@@ -230,6 +230,33 @@ void TestAdvancedColorSettings::reasonIsLocalised()
     }
     settings.setSnmpEnabledWithReason(true, u"not kept"_qs);
     QVERIFY(settings.snmpUnavailableReason().isNull());
+}
+
+void TestAdvancedColorSettings::userWhoDoesNotWait()
+{
+    const UdpResponder silent("127.0.0.2", [](const SnmpReply &) { return SnmpReplies(); });
+    Host host;
+    Settings settings(&host, m_bundle.get(), nullptr);
+    const auto waiter = std::make_shared<LoopWaiter>();
+    const platform::Waiter::Scope scope(waiter);
+    QTimer::singleShot(50, this, [&] { waiter->giveUp(); });
+    QElapsedTimer clock;
+    clock.start();
+    settings.updateFromSNMP();
+    QVERIFY(clock.elapsed() < 1000);
+    QCOMPARE(settings.snmpUnavailableReason(), u"The printer cannot be reached."_qs);
+    QVERIFY(settings.saveValuesAndReturnError(nullptr) && host.settings.values().isEmpty());
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+}
+
+void TestAdvancedColorSettings::leavesNoSessionOpen()
+{
+    const UdpResponder device("127.0.0.2", tables());
+    const auto openFiles = [] { return QDir(u"/proc/self/fd"_qs).entryList(QDir::System).size(); };
+    const auto before = openFiles();
+    Host host;
+    Settings(&host, m_bundle.get(), nullptr).updateFromSNMP();
+    QCOMPARE(openFiles(), before);
 }
 
 void TestAdvancedColorSettings::saveEndsTextEditing()

@@ -5,6 +5,7 @@
 
 #include "device/snmp_client.h"
 #include "device/string_encoding.h"
+#include "tests/support/loop_waiter.h"
 #include "tests/support/private_network.h"
 #include "tests/support/simulated_printer.h"
 #include "tests/support/udp_responder.h"
@@ -14,7 +15,7 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
-#include <dlfcn.h>
+#include <sys/stat.h>
 
 using Column = std::array<SnmpOid, 18>;
 
@@ -113,15 +114,14 @@ private Q_SLOTS:
     void readsColumnsOfARealAgent();
     void takesTheCharacterSetOfARealAgent();
     void opensAndClosesTheRealLibrary();
-    void isQuietWithoutConfiguration();
+    void takesNoConfiguration_data();
+    void takesNoConfiguration();
+    void userWhoDoesNotWait();
     void oddReplies_data();
     void oddReplies();
     void silenceAndLateAnswers();
     void mutatedReplies_data();
     void mutatedReplies();
-
-private:
-    QTemporaryDir m_configuration;
 };
 
 void TestSnmpDevice::initTestCase()
@@ -129,15 +129,6 @@ void TestSnmpDevice::initTestCase()
     const QString whyNot = enterPrivateNetwork();
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
-    // net-snmp has no way to give back all its memory through the calls used; mapped, it is not taken for
-    // lost.
-    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
-    // net-snmp has a word for thousands of these answers.
-    if (qEnvironmentVariableIsSet("SNMPCONFPATH"))
-        return;
-    QFile quiet(m_configuration.filePath(u"snmp.conf"_qs));
-    QVERIFY(quiet.open(QIODevice::WriteOnly) && quiet.write("logOption n\n") > 0);
-    qputenv("SNMPCONFPATH", m_configuration.path().toLocal8Bit());
 }
 
 void TestSnmpDevice::readsColumnsOfARealAgent()
@@ -200,20 +191,45 @@ void TestSnmpDevice::opensAndClosesTheRealLibrary()
     QVERIFY(!QVSNMP_M880::libraryState().isOpen);
 }
 
-// In a process of its own, as net-snmp reads its configuration once; one without the snmp.conf that keeps
-// this one quiet.
-void TestSnmpDevice::isQuietWithoutConfiguration()
+// In a process of its own, as net-snmp reads its configuration once.
+void TestSnmpDevice::takesNoConfiguration_data()
 {
+    QTest::addColumn<QString>("variable"); // names the folder of the configuration
+    QTest::addColumn<QString>("folder");   // of the files, below that
+    QTest::newRow("none") << u"MIBDIRS"_qs << u"absent"_qs;
+    QTest::newRow("of the user") << u"HOME"_qs << u".snmp"_qs;
+    QTest::newRow("of the environment") << u"SNMPCONFPATH"_qs << u"."_qs;
+}
+
+void TestSnmpDevice::takesNoConfiguration()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, folder);
+    const QTemporaryDir root;
+    const QString log = root.filePath(u"log"_qs);
+    const QDir files(root.filePath(folder));
+    QVERIFY(QDir().mkpath(files.filePath(u"hosts"_qs)));
+    // Each would hang whoever reads it, overwrite a file, or ask another port.
+    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"hosts/127.0.0.2.conf"_qs)).constData(), 0600), 0);
+    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"snmp.local.conf"_qs)).constData(), 0600), 0);
+    QFile configuration(files.filePath(u"snmp.conf"_qs));
+    QVERIFY(configuration.open(QIODevice::WriteOnly));
+    configuration.write("logOption f " + QFile::encodeName(log) + "\ndefaultPort 9\n");
+    configuration.close();
+
     QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(u"MIBS"_qs);
-    for (const auto &name : {u"SNMPCONFPATH"_qs, u"MIBDIRS"_qs})
-        environment.insert(name, u"/nonexistent"_qs);
+    environment.insert(u"SNMPCONFPATH"_qs, u"/nonexistent"_qs);
+    if (variable == u"HOME")
+        environment.remove(u"SNMPCONFPATH"_qs);
+    environment.insert(variable, root.path());
     child.setProcessEnvironment(environment);
     child.start(QCoreApplication::applicationFilePath(), {u"opensAndClosesTheRealLibrary"_qs});
-    QVERIFY(child.waitForFinished());
+    QVERIFY(child.waitForFinished(10'000));
     QCOMPARE(child.readAllStandardError(), QByteArray());
     QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
+    QVERIFY(!QFile::exists(log));
 }
 
 void TestSnmpDevice::oddReplies_data()
@@ -291,6 +307,44 @@ void TestSnmpDevice::silenceAndLateAnswers()
     answering = true;
     QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"now"_qs));
     QCOMPARE(device.requestCount(), 4);
+}
+
+// The request ends by itself, and closes its session; others are made meanwhile.
+void TestSnmpDevice::userWhoDoesNotWait()
+{
+    const UdpResponder silent("127.0.0.3", [](const SnmpReply &) { return SnmpReplies(); });
+    const UdpResponder device("127.0.0.2",
+                              [](const SnmpReply &reply) { return SnmpReplies{reply.withString("here")}; });
+    const auto openFiles = [] { return QDir(u"/proc/self/fd"_qs).entryList(QDir::System).size(); };
+    const auto before = openFiles();
+    const Column oid = column(2);
+    QElapsedTimer clock;
+    clock.start();
+    {
+        const auto waiter = std::make_shared<LoopWaiter>();
+        const platform::Waiter::Scope scope(waiter);
+        const Client client = clientFor("127.0.0.3");
+        QVERIFY(client);
+        QTimer::singleShot(50, this, [&] { waiter->giveUp(); });
+        QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
+        QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
+        QCOMPARE(client->lastError(), 0);
+        QString error;
+        QVERIFY(!QVSNMP_M880::initWithHostAndReturnError(u"127.0.0.2"_qs, &error));
+        QCOMPARE(error, u"SNMPCannotConnect"_qs);
+        QVSNMP_M880::unloadLibrary(); // what that attempt left counted
+    }
+    QCOMPARE(QVSNMP_M880::libraryState().libraryLoaded, 0U);
+    {
+        const platform::Waiter::Scope scope(std::make_shared<LoopWaiter>());
+        const Client client = clientFor("127.0.0.2");
+        for (int i = 0; i < 100; ++i)
+            QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"here"_qs));
+    }
+    QVERIFY(clock.elapsed() < 2000);
+    QVERIFY(platform::Background::isUnderWay() && openFiles() > before);
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    QCOMPARE(openFiles(), before);
 }
 
 // A great many broken answers. What counts is that nothing is damaged, which the sanitizers tell, and that

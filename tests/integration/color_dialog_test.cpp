@@ -23,7 +23,6 @@
 #include <QSlider>
 #include <QTest>
 
-#include <dlfcn.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -120,8 +119,6 @@ void ColorDialogTest::initTestCase()
         QSKIP(qPrintable(missing));
     if (const QString whyNot = enterPrivateNetwork(); !whyNot.isNull())
         QSKIP(qPrintable(whyNot));
-    // Kept loaded, so that what the library holds on to until the end of the process is still reachable then.
-    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
     const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
