@@ -246,8 +246,11 @@ void QVPDEColorSettings1_M880::showAdvancedView(const platform::Notification &no
 
 void QVPDEColorSettings1_M880::reloadDefaultSNMPValues(QWidget *sender)
 {
-    if (m_advancedColorSettingsManager)
-        m_advancedColorSettingsManager->updateFromSNMP(sender);
+    if (!m_advancedColorSettingsManager)
+        return;
+    // A printer that did not answer may do so now; the settings would not ask by themselves.
+    m_advancedColorSettingsManager->setSnmpEnabledWithReason(true, {});
+    m_advancedColorSettingsManager->updateFromSNMP(sender);
 }
 
 bool QVPDEColorSettings1_M880::restoreValuesAndReturnError(QString *error)

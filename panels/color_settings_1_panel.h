@@ -63,7 +63,7 @@ public:
     void goBack(QWidget *sender);
     // The image type has changed.
     void showAdvancedView(const platform::Notification &notification);
-    // Asks the device again; blocks while it does.
+    // Asks the device again, also one that could not be asked before; returns when it is done.
     void reloadDefaultSNMPValues(QWidget *sender);
 
     bool restoreValuesAndReturnError(QString *error) override;

@@ -5,7 +5,12 @@
 
 #include "platform/layout_loader.h"
 
+#include <QHelpEvent>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace {
@@ -68,7 +73,9 @@ void QVProfilePopUp_M880::rebuild()
     uint number = 0;
     for (qsizetype i = 0; i < names.size(); ++i) {
         number = i < rows.size() ? rows.at(i).toUInt() : number + 1;
-        addItem(names.at(i), number);
+        addItem(names.at(i).simplified(), number);
+        setItemData(count() - 1, Qt::convertFromPlainText(names.at(i), Qt::WhiteSpaceNormal),
+                    Qt::ToolTipRole);
     }
     const uint selected = m_selected.toUInt();
     // The device counts from 1, so 0 before any list was read is no selection yet.
@@ -79,6 +86,35 @@ void QVProfilePopUp_M880::rebuild()
     if (findData(selected) < 0)
         addItem(m_unnamedText.arg(selected), selected);
     setCurrentIndex(findData(selected));
+}
+
+QString QVProfilePopUp_M880::elided(const QString &text) const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    constexpr int margins = 4; // of the styles' labels within the field
+    return fontMetrics().elidedText(text, Qt::ElideRight, field.width() - margins);
+}
+
+bool QVProfilePopUp_M880::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || elided(currentText()) == currentText())
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), currentData(Qt::ToolTipRole).toString(),
+                       this);
+    return true;
+}
+
+void QVProfilePopUp_M880::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    option.currentText = elided(option.currentText);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void QVProfilePopUp_M880::wheelEvent(QWheelEvent *event)

@@ -8,7 +8,8 @@
 
 // A pop-up of names that the device told, each with the number by which the device knows it. A selected
 // number that no name belongs to gets an item of its own and stays selected; showing, listing anew or looking
-// never changes the selection, only the user does.
+// never changes the selection, only the user does. A name is shown on one line, cut with an ellipsis where it
+// is too long, and whole in the tooltip.
 class QVProfilePopUp_M880 : public QComboBox
 {
     Q_OBJECT
@@ -37,12 +38,15 @@ Q_SIGNALS:
     void profileChosen();
 
 protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     // Scrolling past it must not change it.
     void wheelEvent(QWheelEvent *event) override;
 
 private:
     void choose(int index);
     void rebuild();
+    QString elided(const QString &text) const;
 
     QVariant m_names;
     QVariant m_rows;

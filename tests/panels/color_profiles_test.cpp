@@ -13,8 +13,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include <dlfcn.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,8 +46,6 @@ void ColorProfilesTest::initTestCase()
     const QString whyNot = enterPrivateNetwork();
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
-    // Kept loaded, so that what the library holds on to until the end of the process is still reachable then.
-    ::dlopen("libnetsnmp.so.40", RTLD_NOW | RTLD_NODELETE);
 }
 
 void ColorProfilesTest::choicesTravelWithTheJob()
@@ -57,10 +53,15 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     const SimulatedPrinter printer("127.0.0.2", device);
     QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
     PanelFixture dialog("kelm880");
-    dialog.host.session.printer = platform::Printer{u"orb"_s, u"socket://127.0.0.2:9100"_s};
+    dialog.host.session.printer = platform::Printer{u"orb"_s, u"socket:///away"_s};
     auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
     const QWidget *view = dialog.show(panel);
     panel->setCurrentView(widget<QWidget>(view, "advancedView"));
+    // A printer that could not be asked may be asked again.
+    QVERIFY(widget<QVNotice_M880>(view, "unavailableNotice")->isVisible());
+    dialog.host.session.printer->deviceUri = u"socket://127.0.0.2:9100"_s;
+    auto *reload = widget<QPushButton>(view, "reloadButton");
+    QTest::mouseClick(reload, Qt::LeftButton);
     QVERIFY2(!widget<QVNotice_M880>(view, "unavailableNotice")->isVisible(),
              qPrintable(panel->advancedColorSettingsManager()->snmpUnavailableReason()));
     auto *rgb = widget<QVProfilePopUp_M880>(view, "rgbSource");
@@ -94,9 +95,9 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     QCOMPARE(saved(QVApplyToDeviceColorOnlyKey), u"1"_s);
 
     // Asking again brings the device's own selections back, and is announced.
-    QTest::mouseClick(widget<QPushButton>(view, "reloadButton"), Qt::LeftButton);
+    QTest::mouseClick(reload, Qt::LeftButton);
     QCOMPARE(rgb->currentText(), u"sRGB"_s);
-    QCOMPARE(dialog.host.blockingWork.size(), 2);
+    QCOMPARE(dialog.host.blockingWork.size(), 3);
 
     // The next dialog of this job: the stored destination comes back as the source, as it always has.
     panel->restoreValuesAndReturnError(nullptr);

@@ -15,10 +15,13 @@
 
 #include <QCheckBox>
 #include <QGraphicsEffect>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +59,7 @@ private Q_SLOTS:
     void plainModelHasNoAdvancedView();
     void unreachablePrinterIsSaidInPlace();
     void unnamedNumberIsKept();
+    void longNameIsCutAndWholeInTheTooltip();
 };
 
 void ColorSettings1PanelTest::centring()
@@ -221,10 +225,11 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
     const auto *notice = widget<QVNotice_M880>(view, "unavailableNotice");
     QVERIFY(notice->isVisible());
     QVERIFY2(notice->text().startsWith(u"Der Drucker ist nicht erreichbar"), qPrintable(notice->text()));
-    for (const char *name : {"rgbSource", "cmykSource", "cmykDestination", "renderingIntent",
-                             "applyToDeviceColorOnly", "reloadButton"})
+    for (const char *name :
+         {"rgbSource", "cmykSource", "cmykDestination", "renderingIntent", "applyToDeviceColorOnly"})
         QVERIFY2(!widget<QWidget>(view, name)->isEnabled(), name);
-    QVERIFY(widget<QPushButton>(view, "backButton")->isEnabled());
+    for (const char *name : {"reloadButton", "backButton"})
+        QVERIFY2(widget<QWidget>(view, name)->isEnabled(), name);
 
     panel->saveValuesAndReturnError(nullptr);
     QVERIFY(!dialog.host.settings.value(QVRgbSourceProfileIndexKey).isValid());
@@ -249,6 +254,28 @@ void ColorSettings1PanelTest::unnamedNumberIsKept()
     QTest::keyClick(&popUp, Qt::Key_Up);
     QCOMPARE(popUp.selectedProfile().toUInt(), 1U);
     QCOMPARE(chosen.size(), 1);
+}
+
+void ColorSettings1PanelTest::longNameIsCutAndWholeInTheTooltip()
+{
+    QVProfilePopUp_M880 popUp;
+    popUp.resize(120, popUp.sizeHint().height());
+    const auto picture = [&](const QString &name) {
+        popUp.setProfileNames(QStringList{name});
+        popUp.setSelectedProfile(1U);
+        return popUp.grab().toImage();
+    };
+    // What comes after the cut does not show.
+    const QString name = u"Coated <b>paper</b>\nand "_s + QString(100, u'x');
+    QCOMPARE(picture(name), picture(name + u"y"_s));
+    QVERIFY(picture(u"Coated"_s) != picture(u"Coated\npaper"_s));
+    QCOMPARE(picture(u"Coated paper"_s), picture(u"Coated\npaper"_s));
+    picture(name);
+    QHelpEvent hover(QEvent::ToolTip, {}, popUp.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&popUp, &hover);
+    const QString tip = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+    QCOMPARE(tip.simplified(), name.simplified());
+    QToolTip::hideText();
 }
 
 QTEST_MAIN(ColorSettings1PanelTest)
