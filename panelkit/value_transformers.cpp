@@ -74,7 +74,7 @@ qint32 integerValue(const QVariant &value)
 bool QVBooleanValue(const QVariant &value)
 {
     if (isNumber(value))
-        return value.toBool();
+        return value.toDouble() != 0; // toBool() rounds first
     if (value.typeId() != QMetaType::QString || value.toString().isEmpty())
         return false;
     const QChar first = value.toString().front().toLower();

@@ -40,14 +40,15 @@ QVChoiceSlider_M880::QVChoiceSlider_M880(QWidget *parent) : QSlider(Qt::Horizont
 void QVChoiceSlider_M880::setChoices(const QVariant &choices)
 {
     m_choices = choices;
-    m_numbers.clear();
+    m_keywords.clear();
     for (const QVariant &choice : choices.toList()) {
+        const QString keyword = choice.toMap().value(QVPPDChoiceKey).toString();
         bool isNumber = false;
-        const int number = choice.toMap().value(QVPPDChoiceKey).toString().toInt(&isNumber);
-        if (isNumber)
-            m_numbers += number;
+        const int number = keyword.toInt(&isNumber);
+        // Where several mean the same number, the plain one counts.
+        if (isNumber && (!m_keywords.contains(number) || keyword == QString::number(number)))
+            m_keywords.insert(number, keyword);
     }
-    std::sort(m_numbers.begin(), m_numbers.end());
     setEnabled(m_allowed && !positions().isEmpty());
     QWidget::update();
 }
@@ -58,10 +59,16 @@ void QVChoiceSlider_M880::setAllowed(bool allowed)
     setEnabled(m_allowed && !positions().isEmpty());
 }
 
-void QVChoiceSlider_M880::showValue(int value)
+QVariant QVChoiceSlider_M880::chosenValue() const
+{
+    const auto keyword = m_keywords.constFind(value());
+    return keyword == m_keywords.cend() ? QVariant(value()) : QVariant(*keyword);
+}
+
+void QVChoiceSlider_M880::showValue(const QVariant &value)
 {
     const QScopedValueRollback showing(m_showing, true);
-    setValue(value);
+    setValue(value.toInt());
 }
 
 // Keys, wheel and mouse announce where they want the thumb before the value follows; here it is led to a
@@ -141,7 +148,7 @@ void QVChoiceSlider_M880::drawScale(QPainter *painter, const QStyleOptionSlider 
 QList<int> QVChoiceSlider_M880::positions() const
 {
     QList<int> inRange;
-    std::copy_if(m_numbers.begin(), m_numbers.end(), std::back_inserter(inRange),
+    std::copy_if(m_keywords.keyBegin(), m_keywords.keyEnd(), std::back_inserter(inRange),
                  [this](int number) { return number >= minimum() && number <= maximum(); });
     return inRange;
 }

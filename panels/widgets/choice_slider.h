@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QSlider>
 #include <QVariant>
 
@@ -24,8 +25,9 @@ class QVChoiceSlider_M880 : public QSlider
     Q_PROPERTY(QVariant choices READ choices WRITE setChoices)
     // Whether the slider may be used at all, choices or not.
     Q_PROPERTY(bool allowed READ isAllowed WRITE setAllowed)
-    // Takes the place of the slider's own property of that name: writing shows, and only the user notifies.
-    Q_PROPERTY(int value READ value WRITE showValue NOTIFY valueChosen USER true)
+    // Takes the place of the slider's own property of that name: writing shows a number, reading gives the
+    // keyword of the choice at the thumb ("+1"), and only the user notifies.
+    Q_PROPERTY(QVariant value READ chosenValue WRITE showValue NOTIFY valueChosen USER true)
 public:
     explicit QVChoiceSlider_M880(QWidget *parent = nullptr);
 
@@ -33,7 +35,9 @@ public:
     void setChoices(const QVariant &choices);
     bool isAllowed() const { return m_allowed; }
     void setAllowed(bool allowed);
-    void showValue(int value);
+    // A number where the option has no choice.
+    QVariant chosenValue() const;
+    void showValue(const QVariant &value);
 
 Q_SIGNALS:
     void valueChosen(int value);
@@ -55,8 +59,8 @@ private:
 
     QVariant m_choices;
     bool m_allowed = true;
-    QList<int> m_numbers; // ascending
-    int m_shown = 0;      // where the thumb last rested
+    QMap<int, QString> m_keywords; // of the choices that are numbers
+    int m_shown = 0;               // where the thumb last rested
     bool m_showing = false;
     bool m_settling = false;
 };

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void neverOnAPositionWithoutChoice();
     void foreignValueIsShownNotChanged_data();
     void foreignValueIsShownNotChanged();
+    void keywordWithASignIsWritten();
     void sliderOfAMissingOptionStandsStill();
     void signedTexts();
 };
@@ -257,6 +258,20 @@ void ColorSettings2PanelTest::foreignValueIsShownNotChanged()
     view->resize(view->width() + 50, view->height());
     panel->saveValuesAndReturnError(nullptr);
     QCOMPARE(value(panel, u"SharpnessVRN"_s), choice);
+}
+
+void ColorSettings2PanelTest::keywordWithASignIsWritten()
+{
+    if (KELMAR_OLDER_HOSTS)
+        QSKIP("The sliders of older hosts write plain numbers.");
+    const InlinePpd ppd(ppdOption("SharpnessVRN/Sharpness", {"-1", "0", "+1"}));
+    PanelFixture dialog(ppd.get());
+    auto *panel = dialog.panel<QVPDEColorSettings2_M880>();
+    auto *slider = widget<QVChoiceSlider_M880>(dialog.show(panel), "sharpnessSlider");
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_End);
+    panel->saveValuesAndReturnError(nullptr);
+    QCOMPARE(dialog.marked(u"SharpnessVRN"_s), u"+1"_s);
 }
 
 void ColorSettings2PanelTest::sliderOfAMissingOptionStandsStill()
