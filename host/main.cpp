@@ -86,6 +86,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
     installTranslations(&app);
+    speakDialogLanguage();
+    // Avahi's library tells users on stderr that a bundle could use another interface of it.
+    qputenv("AVAHI_COMPAT_NOWARN", "1");
     QFile out, err;
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);

@@ -3,40 +3,26 @@
 
 #include "host/printing/message_language.h"
 
+#include <QByteArray>
 #include <QLocale>
 
 #include <clocale>
 
 namespace host {
 
-namespace {
-
-const char *const variable = "LC_MESSAGES";
-
-}
-
 QStringList dialogLanguages()
 {
     return QLocale::system().uiLanguages();
 }
 
-MessageLanguage::MessageLanguage()
-    : m_locale(setlocale(LC_MESSAGES, nullptr)), m_environment(qgetenv(variable)),
-      m_hadEnvironment(qEnvironmentVariableIsSet(variable))
+void speakDialogLanguage()
 {
+    const QByteArray language = dialogLanguages().value(0, QStringLiteral("en")).toLatin1().replace('-', '_');
+    if (QByteArray(setlocale(LC_MESSAGES, nullptr)).startsWith(language))
+        return;
     // libcups looks at the environment only while the C locale is "C".
     setlocale(LC_MESSAGES, "C");
-    const QString language = dialogLanguages().value(0, QStringLiteral("en"));
-    qputenv(variable, language.toLatin1().replace('-', '_') + ".UTF-8");
-}
-
-MessageLanguage::~MessageLanguage()
-{
-    if (m_hadEnvironment)
-        qputenv(variable, m_environment);
-    else
-        qunsetenv(variable);
-    setlocale(LC_MESSAGES, m_locale.constData());
+    qputenv("LC_MESSAGES", language + ".UTF-8");
 }
 
 } // namespace host

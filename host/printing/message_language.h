@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QStringList>
 
 namespace host {
@@ -11,21 +10,9 @@ namespace host {
 // The languages of the dialog, preferred first, as "de-DE"; from the environment, LANGUAGE included.
 QStringList dialogLanguages();
 
-// For the length of a scope libcups speaks the dialog's language. It asks the C locale, which knows nothing
-// of LANGUAGE and falls back to English on machines that have not generated the user's locale. Main thread
-// only.
-class MessageLanguage
-{
-public:
-    MessageLanguage();
-    ~MessageLanguage();
-    MessageLanguage(const MessageLanguage &) = delete;
-    MessageLanguage &operator=(const MessageLanguage &) = delete;
-
-private:
-    QByteArray m_locale;
-    QByteArray m_environment;
-    bool m_hadEnvironment = false;
-};
+// Has libcups speak the dialog's language from now on. It asks the C locale, which knows nothing of LANGUAGE
+// and falls back to English on machines that have not generated the user's locale. Changes the environment:
+// call once, at the start of the program, before there is another thread.
+void speakDialogLanguage();
 
 } // namespace host

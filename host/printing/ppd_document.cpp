@@ -4,7 +4,6 @@
 #include "host/printing/ppd_document.h"
 
 #include "host/printing/cups_handles.h"
-#include "host/printing/message_language.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -118,7 +117,6 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
                   PpdDocumentText::tr("You are not allowed to read the PPD file “%1”.").arg(path)};
         return nullptr;
     }
-    const MessageLanguage language;
     ppd_file_t *ppd = ppdOpenFile(QFile::encodeName(path).constData());
     if (!ppd) {
         int line = 0;
