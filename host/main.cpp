@@ -32,11 +32,14 @@ bool choosePlatform(int argc, char **argv)
     return hasDisplay;
 }
 
-// The platform without a display says of every window that it takes no hints about its size.
+// The platform without a display says of every window that it takes no hints about its size, and Qt says at
+// its start where it puts what a session without XDG_RUNTIME_DIR has no place for, as under cron: neither
+// helps a user.
 QtMessageHandler standardHandler = nullptr;
-void dropOffscreenRemark(QtMsgType type, const QMessageLogContext &context, const QString &message)
+void dropRemarksOfQt(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (message != QLatin1String("This plugin does not support propagateSizeHints()"))
+    if (message != QLatin1String("This plugin does not support propagateSizeHints()") &&
+        !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         standardHandler(type, context, message);
 }
 
@@ -79,9 +82,8 @@ int run(const Arguments &arguments, QFile *out, QFile *err)
 int main(int argc, char **argv)
 {
     const bool hasDisplay = choosePlatform(argc, argv);
+    standardHandler = qInstallMessageHandler(dropRemarksOfQt);
     QApplication app(argc, argv);
-    if (QApplication::platformName() == QLatin1String("offscreen"))
-        standardHandler = qInstallMessageHandler(dropOffscreenRemark);
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));

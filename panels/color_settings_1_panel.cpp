@@ -16,7 +16,7 @@
 
 namespace {
 
-const PanelRegistration<QVPDEColorSettings1_M880> registration(QStringLiteral("QVPDEColorSettings1_M880"));
+const PanelRegistration<QVPDEColorSettings1_M880> registration("ColorSettings1");
 
 const QString imageTypeKey = QStringLiteral("ImageType");
 const QString resolutionKey = QStringLiteral("Resolution");

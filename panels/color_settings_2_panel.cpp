@@ -12,7 +12,7 @@
 
 namespace {
 
-const PanelRegistration<QVPDEColorSettings2_M880> registration(QStringLiteral("QVPDEColorSettings2_M880"));
+const PanelRegistration<QVPDEColorSettings2_M880> registration("ColorSettings2");
 
 const QString colorTypeKey = QStringLiteral("ColorType");
 const QString neutral = QStringLiteral("0");

@@ -11,7 +11,7 @@
 
 namespace {
 
-const PanelRegistration<QVPDEPrintMode_M880> registration(QStringLiteral("QVPDEPrintMode_M880"));
+const PanelRegistration<QVPDEPrintMode_M880> registration("PrintMode");
 
 const QString printModeKey = QStringLiteral("PrintMode");
 const QString departmentKey = QStringLiteral("DeptCode");

@@ -20,15 +20,13 @@ std::map<QString, PanelClass> &registeredClasses()
 
 const QStringList &PanelRoster::panelNames()
 {
-    static const QStringList names{
-        QStringLiteral("PrintMode"),
-        QStringLiteral("ColorSettings1"),
-        QStringLiteral("ColorSettings2"),
-        QStringLiteral("DocStore"),
-        QStringLiteral("Fax"),
-        QStringLiteral("Watermark"),
-    };
-    return names;
+    static const QStringList list = [] {
+        QStringList texts;
+        for (const std::string_view name : names)
+            texts.append(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
+        return texts;
+    }();
+    return list;
 }
 
 QString PanelRoster::classNameForPanel(const QString &panelName)

@@ -6,8 +6,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace platform {
@@ -30,6 +33,8 @@ class PanelRoster
 {
 public:
     // The panel names tried for every printer, in the order of the dialog.
+    static constexpr auto names = std::to_array<std::string_view>(
+        {"PrintMode", "ColorSettings1", "ColorSettings2", "DocStore", "Fax", "Watermark"});
     static const QStringList &panelNames();
     // "QVPDE" + panel name + "_M880".
     static QString classNameForPanel(const QString &panelName);
@@ -41,14 +46,28 @@ public:
     static const PanelClass *classNamed(const QString &className);
 };
 
-// Registers panel class T under its name. Put one in the panel's source file:
-//     static const PanelRegistration<QVPDEPrintMode_M880>
-//     registration(QStringLiteral("QVPDEPrintMode_M880"));
+void theRosterHasNoPanelOfThatName(); // what the compiler says of a name that is not in PanelRoster::names
+
+// A name of the roster; no other compiles.
+struct RosterName
+{
+    consteval RosterName(const char *name) : text(name)
+    {
+        if (std::find(PanelRoster::names.begin(), PanelRoster::names.end(), text) == PanelRoster::names.end())
+            theRosterHasNoPanelOfThatName();
+    }
+    std::string_view text;
+};
+
+// Registers panel class T, "QVPDE" + panel name + "_M880". Put one in the panel's source file:
+//     const PanelRegistration<QVPDEPrintMode_M880> registration("PrintMode");
 template <typename T>
 struct PanelRegistration
 {
-    explicit PanelRegistration(const QString &className)
+    explicit PanelRegistration(RosterName name)
     {
+        const QString panel = QString::fromLatin1(name.text.data(), static_cast<qsizetype>(name.text.size()));
+        const QString className = PanelRoster::classNameForPanel(panel);
         PanelRoster::registerClass({className, [](std::shared_ptr<QVPDEManager_M880> manager) {
                                         return T::template pdeWithManager<T>(std::move(manager));
                                     }});

@@ -78,13 +78,13 @@ ExitCode BatchRun::perform()
     if (!applyAssignments(m_arguments, m_session.get(), &m_passedOn, &error))
         return fail(error);
     m_session->save();
+    const ExitCode settled = settleConflicts();
     if (m_arguments.listOptions) {
         m_result.hasOptions = true;
         for (const QString &keyword : m_session->ppd() ? m_session->ppd()->optionKeywords() : QStringList())
             m_result.options.append(*m_session->ppd()->option(keyword));
         m_result.panelKeys = SettingKeys(m_session.get()).panelKeys();
     }
-    const ExitCode settled = settleConflicts();
     if (m_arguments.summary) {
         m_result.hasSummary = true;
         m_result.summary = m_session->summary();
@@ -145,7 +145,8 @@ ExitCode BatchRun::submit()
     if (!m_result.job)
         return fail(error);
     m_result.queue = request.destination.queue;
-    m_result.fileCount = m_documents.documents().size();
+    for (const Document &document : m_documents.documents())
+        m_result.documents.append(document.name);
     return ExitSuccess;
 }
 

@@ -44,10 +44,11 @@ QJsonObject toJson(const PpdOption &option)
         {QStringLiteral("current"), option.markedChoice}, {QStringLiteral("choices"), choices}};
 }
 
-QJsonObject toJson(const SubmittedJob &job, const QString &queue)
+QJsonObject toJson(const SubmittedJob &job, const QString &queue, const QStringList &documents)
 {
     return {{QStringLiteral("id"), job.id},
             {QStringLiteral("queue"), queue},
+            {QStringLiteral("documents"), QJsonArray::fromStringList(documents)},
             {QStringLiteral("state"), job.status.code()},
             {QStringLiteral("stateText"), job.status.text()},
             {QStringLiteral("printerStopped"), job.status.printerStopped},
@@ -103,7 +104,7 @@ QJsonObject toJson(const BatchResult &result)
         object[QStringLiteral("panelKeys")] = keys;
     }
     if (result.job)
-        object[QStringLiteral("job")] = toJson(*result.job, result.queue);
+        object[QStringLiteral("job")] = toJson(*result.job, result.queue, result.documents);
     if (!result.resolved.isEmpty())
         object[QStringLiteral("resolved")] = toJson(result.resolved);
     if (!result.notices.isEmpty())
@@ -174,7 +175,10 @@ void ResultWriter::writeJob(const BatchResult &result)
     print(ResultText::tr("request id is %1-%2 (%3 file(s))")
               .arg(result.queue)
               .arg(result.job->id)
-              .arg(result.fileCount));
+              .arg(result.documents.size()));
+    // One document is the job's title as a rule; several share it.
+    for (const QString &document : result.documents.size() > 1 ? result.documents : QStringList())
+        print(QStringLiteral("    ") + document);
     print(ResultText::tr("Job %1: %2.").arg(result.job->id).arg(result.job->status.text()));
     for (const QString &difference : result.job->differences)
         complain(difference);

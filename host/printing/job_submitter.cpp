@@ -3,6 +3,8 @@
 
 #include "host/printing/job_submitter.h"
 
+#include "host/printing/utf8_text.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -165,7 +167,7 @@ int JobSubmitter::createJob(PrintError *error)
 {
     IppPointer request = printerRequest(IPP_OP_CREATE_JOB, m_printerUri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 m_request.title.toUtf8().left(static_cast<qsizetype>(maxIppName)).constData());
+                 utf8Beginning(m_request.title, static_cast<qsizetype>(maxIppName)).constData());
     for (const JobOption &option : m_options)
         addOption(request.get(), option);
     const IppPointer answer = ask(std::move(request));

@@ -4,6 +4,7 @@
 #include "host/printing/ppd_document.h"
 
 #include "host/printing/cups_handles.h"
+#include "host/printing/ppd_texts.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -125,7 +126,7 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
                   PpdDocumentText::tr("%1 is broken: line %2: %3.").arg(name).arg(line).arg(what)};
         return nullptr;
     }
-    ppdLocalize(ppd);
+    localizePpdTexts(ppd);
     ppdMarkDefaults(ppd);
     return std::unique_ptr<PpdDocument>(new PpdDocument(ppd));
 }

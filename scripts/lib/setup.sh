@@ -14,6 +14,7 @@ run_packages=(
     avahi-daemon avahi-utils dbus-daemon libnss-mdns iproute2 util-linux bsdextrautils procps
 )
 check_packages=(clang-format)
+room_packages=(mmdebstrap git ccache iproute2)
 
 say() { printf '== %s\n' "$*"; }
 
@@ -44,10 +45,12 @@ ensure_packages() (
     exit $status
 )
 
-# Configures a preset when it has not been, then builds it. Quick when nothing changed.
+# Configures a preset when it has not been, then builds it. Quick when nothing changed. What one clone has compiled,
+# another takes from the compiler cache, wherever it lies.
 build_preset() {
     local preset=$1
     shift
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"

@@ -5,6 +5,7 @@
 #include "tests/host/host_fixture.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryFile>
@@ -166,7 +167,12 @@ void BatchRunTest::submitsWhatWasAsked()
     QCOMPARE(sentValue(job.options, u"copies"_s), u"2"_s);
     QCOMPARE(sentValue(job.options, u"page-ranges"_s), u"1-3"_s);
     QCOMPARE(sentValue(job.options, u"number-up"_s), u"4"_s);
-    QVERIFY2(m_out.data().startsWith("request id is office-1 (1 file(s))\n"), m_out.data().constData());
+    QVERIFY2(m_out.data().startsWith("request id is office-1 (1 file(s))\nJob 1"), m_out.data().constData());
+    QTemporaryFile other;
+    QVERIFY(other.open() && other.write("more text\n") > 0 && other.flush());
+    QCOMPARE(run({u"--batch"_s, m_document.fileName(), other.fileName()}), int(ExitSuccess));
+    for (const QTemporaryFile *file : {&m_document, &other})
+        QVERIFY(m_out.data().contains("\n    " + QFileInfo(file->fileName()).fileName().toUtf8() + "\n"));
 }
 
 void BatchRunTest::defaultsOfTheUser_data()
@@ -223,6 +229,10 @@ void BatchRunTest::resolveAcceptsTheProposal()
     QCOMPARE(json()[u"resolved"_s][0][u"option"_s].toString(), u"Cyan"_s);
     QCOMPARE(sentValue(m_system.submitted.first().options, u"ColorType"_s), u"Mono"_s);
     QCOMPARE(sentValue(m_system.submitted.first().options, u"Cyan"_s), u"0"_s);
+    QCOMPARE(
+        run({u"--list-options"_s, u"--resolve"_s, u"--set"_s, u"Cyan=2"_s, u"--set"_s, u"ColorType=Mono"_s}),
+        int(ExitSuccess));
+    QVERIFY2(m_out.data().contains("Balance: *0 "), m_out.data().constData());
 }
 
 void BatchRunTest::optionsAreListed()

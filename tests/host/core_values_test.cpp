@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/job.h"
+#include "host/printing/utf8_text.h"
 #include "host/session/page_ranges.h"
 #include "tests/host/host_fixture.h"
 
@@ -25,6 +26,9 @@ private Q_SLOTS:
     void documents();
     void standardInputIsSpooled();
     void brokenPpdNamesFileAndLine();
+    void textsOfAPpd_data();
+    void textsOfAPpd();
+    void titlesEndBetweenCharacters();
     void conflictNamesBothSidesOnce();
     void resolutionKeepsTheLastChange();
     void forbiddenChoicesSayWhy();
@@ -114,6 +118,43 @@ void CoreValuesTest::brokenPpdNamesFileAndLine()
              qPrintable(error.message));
     QVERIFY(!PpdDocument::open(u"/nowhere.ppd"_s, &error));
     QCOMPARE(error.kind, PrintError::Kind::FileMissing);
+}
+
+void CoreValuesTest::textsOfAPpd_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("translation");
+    QTest::addColumn<QString>("shown");
+    const QByteArray wide = QByteArrayLiteral("\xe7\x94\xbb");
+    QTest::newRow("translated") << QByteArray("Gloss") << QByteArray("Glossy") << u"Glossy"_s;
+    QTest::newRow("translation is empty") << QByteArray("Gloss") << QByteArray("") << u"Gloss"_s;
+    // A field of libcups holds 80 bytes.
+    QTest::newRow("translation is cut") << QByteArray("Gloss") << wide.repeated(30) << QString(26, u'画');
+    QTest::newRow("its own text is cut")
+        << "a" + wide.repeated(30) << QByteArray("") << u'a' + QString(26, u'画');
+    QTest::newRow("fits") << "aa" + wide.repeated(26) << QByteArray("") << u"aa"_s + QString(26, u'画');
+}
+
+void CoreValuesTest::textsOfAPpd()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, translation);
+    const auto ppd = openPpd("*LanguageEncoding: UTF-8\n*cupsLanguages: \"de\"\n" +
+                             ppdOption("Coat/Coating", {"None/None", "Gloss/" + text}) + "*de.Coat Gloss/" +
+                             translation + ": \"\"\n");
+    QVERIFY(ppd);
+    QTEST(ppd->option(u"Coat"_s)->choices.last().text, "shown");
+}
+
+void CoreValuesTest::titlesEndBetweenCharacters()
+{
+    for (const QString &character : {u"a"_s, u"é"_s, u"画"_s, u"🖨"_s}) {
+        for (qsizetype bytes = 0; bytes < 9; ++bytes) {
+            const qsizetype size = character.toUtf8().size();
+            QCOMPARE(utf8Beginning(character.repeated(9), bytes), character.toUtf8().repeated(bytes / size));
+        }
+        QCOMPARE(utf8Beginning(character, 9), character.toUtf8());
+    }
 }
 
 void CoreValuesTest::conflictNamesBothSidesOnce()

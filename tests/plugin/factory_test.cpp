@@ -42,9 +42,6 @@ using Maker = std::function<std::unique_ptr<platform::PrintDialogPanel>(std::sha
 class RosterEntry
 {
 public:
-    using Maker =
-        std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>;
-
     RosterEntry(const QString &panelName, Maker maker)
         : m_className(PanelRoster::classNameForPanel(panelName))
     {

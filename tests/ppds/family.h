@@ -22,7 +22,7 @@ struct FamilyModel
     bool background;
 };
 
-inline constexpr std::array<FamilyModel, 10> family{{
+inline constexpr auto family = std::to_array<FamilyModel>({
     {"kelo110", "KELMAR Orbis110Series PS", false, false, false, true},
     {"kelo2200", "KELMAR Orbis2200Series PS", true, false, false, true},
     {"kel310", "KELMAR Orb310/313Series", true, false, false, true},
@@ -33,7 +33,7 @@ inline constexpr std::array<FamilyModel, 10> family{{
     {"kelo2600", "KELMAR Orbis2600cSeries", true, false, true, false},
     {"kelm880", "KELMAR OrbM880Series", true, true, true, true},
     {"kel2900c", "KELMAR Orb2900CSeries", true, true, true, true},
-}};
+});
 
 struct PpdClose
 {

@@ -3,6 +3,7 @@
 
 #include "tests/ppds/family.h"
 
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QProcess>
@@ -210,6 +211,9 @@ void FamilyPpdsTest::namesDiffer()
         QCOMPARE(QByteArray(ppd->pcfilename).toLower(), QByteArray(model.file) + ".ppd");
         QVERIFY2(qstrlen(model.file) <= 8, model.file);
     }
+    // Each model that was built stands in the table, so that the tests look at it.
+    QCOMPARE(QDir(QFileInfo(familyPath(family.front())).path()).entryList({u"*.ppd"_s}).size(),
+             qsizetype(family.size()));
     QCOMPARE(fileNames.size(), qsizetype(family.size()));
     QCOMPARE(shortNames.size(), qsizetype(family.size()));
 }

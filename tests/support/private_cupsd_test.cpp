@@ -36,7 +36,6 @@ private Q_SLOTS:
     void initTestCase();
     void optionsArriveAsChosen();
     void anyDeviceUriIsCaptured();
-    void rejectingQueueTakesNothing();
     void queuesOutliveARestart();
 
 private:
@@ -92,15 +91,6 @@ void PrivateCupsdTest::anyDeviceUriIsCaptured()
     QCOMPARE(job->deviceUri, u"socket://127.0.0.42:9100"_s);
     QVERIFY(job->data.startsWith("%!PS-Adobe-3.0"));
     QVERIFY(!m_server.waitForNextJob(1));
-}
-
-void PrivateCupsdTest::rejectingQueueTakesNothing()
-{
-    QVERIFY2(m_server.setAccepting(u"office"_s, false), qPrintable(m_server.problem()));
-    QCOMPARE(print("office"), 0);
-    QCOMPARE(cupsLastError(), IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS);
-    QVERIFY2(m_server.setAccepting(u"office"_s, true), qPrintable(m_server.problem()));
-    QVERIFY(m_server.waitForJob(print("office")));
 }
 
 void PrivateCupsdTest::queuesOutliveARestart()
