@@ -139,10 +139,9 @@ Engine linesAsWritten(const ppd_file_s *ppd, bool (*isName)(std::string_view))
 Engine linesAsUnderstood(ppd_file_s *ppd)
 {
     Collector collector([ppd](const Term &term) { return termOfPpd(ppd, term); });
+    collector.addPairs(ppd);
     const char *longForm = "cupsUIConstraints";
     const ppd_attr_t *attribute = ppd ? ppdFindAttr(ppd, longForm, nullptr) : nullptr;
-    if (!attribute)
-        collector.addPairs(ppd);
     for (; attribute; attribute = ppdFindNextAttr(ppd, longForm, nullptr)) {
         if (attribute->value)
             addTerms(attribute->value, &collector);

@@ -18,9 +18,9 @@ namespace constraints {
 // options and choices. A line with a name that `isName` refuses is left out.
 Engine linesAsWritten(const ppd_file_s *ppd, bool (*isName)(std::string_view));
 
-// As libcups understands them: cupsUIConstraints alone where the PPD has them; names as the PPD's options and
-// choices spell them; lines that name others left out. Choices of PageRegion are choices of PageSize, which
-// is what libcups takes for either.
+// As libcups understands them: the same lines, and cupsUIConstraints of one term or more; names as the PPD's
+// options and choices spell them; lines that name others left out. Choices of PageRegion are choices of
+// PageSize, which is what libcups takes for either.
 Engine linesAsUnderstood(ppd_file_s *ppd);
 
 // Whether two names are the same to libcups, which ignores the case of ASCII letters.
