@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int popUps = 20;
-constexpr double changeGoal = 1.0; // milliseconds
+constexpr double changeGoal = 0.1; // milliseconds
 
 QStringList panelOptions()
 {

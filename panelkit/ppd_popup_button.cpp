@@ -43,6 +43,7 @@ void QVPopUpButton_M880::setDataSourceAndOptionName(QVPDE_M880 *panel, const QSt
     m_dataSource = panel;
     clear();
     m_conflictableOptions.clear();
+    m_numberedPpd.reset();
     if (panel) {
         for (const QVariant &choice : panel->valueForKey(optionName + QStringLiteral("Choices")).toList())
             addChoice(choice.toMap());
@@ -68,29 +69,72 @@ void QVPopUpButton_M880::ppdValueHasChanged(const platform::Notification &notifi
 {
     if (notification.name == m_optionName || !m_dataSource || !m_manager || !m_manager->ppd())
         return;
-    const auto others = currentChoices();
-    const QVPPD_M880 &ppd = *m_manager->ppd();
-    for (int index = 0; index < count(); ++index) {
-        const QString choice = itemData(index).toMap().value(QVPPDChoiceKey).toString();
-        const auto obstacle = std::ranges::find_if(others, [&](const CurrentChoice &other) {
-            return ppd.optionWithChoiceConflictsWithOptionWithChoice(m_optionName, choice, other.option,
-                                                                     other.choice);
-        });
-        setItemState(index, obstacle == others.end() ? nullptr : &*obstacle);
+    if (!hasNumbers()) {
+        takeNumbers();
+        for (int index = 0; index < count(); ++index)
+            decide(index);
+        return;
+    }
+    // A choice of the own option may stand in the way of others of it; that counts from the next change on.
+    for (CurrentChoice &other : m_others) {
+        if (other.option == notification.name || other.option == m_optionName)
+            follow(&other);
     }
 }
 
-std::vector<QVPopUpButton_M880::CurrentChoice> QVPopUpButton_M880::currentChoices() const
+// Only items that the choice before or the one now forbids can have changed.
+void QVPopUpButton_M880::follow(CurrentChoice *other)
 {
-    std::vector<CurrentChoice> choices;
-    for (const QString &option : m_dataSource->supportedPPDOptionKeys()) {
+    const constraints::Choice before = other->number;
+    readChoice(other);
+    if (other->number == before)
+        return;
+    const ConstraintTable &table = m_numberedPpd->constraintTable();
+    for (int index = 0; index < count(); ++index) {
+        const constraints::Choice own = m_itemNumbers[size_t(index)];
+        if (table.conflicts(own, before) || table.conflicts(own, other->number))
+            decide(index);
+    }
+}
+
+bool QVPopUpButton_M880::hasNumbers() const
+{
+    return m_numberedPpd && m_numberedPpd == m_manager->ppd() &&
+           m_numberedOptions == m_dataSource->supportedPPDOptionKeys();
+}
+
+void QVPopUpButton_M880::takeNumbers()
+{
+    m_numberedPpd = m_manager->ppd();
+    m_numberedOptions = m_dataSource->supportedPPDOptionKeys();
+    const ConstraintTable &table = m_numberedPpd->constraintTable();
+    const constraints::Option own = table.optionNumber(m_optionName);
+    m_itemNumbers.clear();
+    for (int index = 0; index < count(); ++index)
+        m_itemNumbers.push_back(
+            table.choiceNumber(own, itemData(index).toMap().value(QVPPDChoiceKey).toString()));
+    m_others.clear();
+    for (const QString &option : std::as_const(m_numberedOptions)) {
         if (!m_conflictableOptions.contains(option))
             continue;
-        const QVariant value = m_dataSource->valueForKey(option);
-        if (value.isValid())
-            choices.push_back({option, value.toString()});
+        m_others.push_back({option, {}, table.optionNumber(option), ConstraintTable::none});
+        readChoice(&m_others.back());
     }
-    return choices;
+}
+
+void QVPopUpButton_M880::readChoice(CurrentChoice *other) const
+{
+    other->choice = m_dataSource->valueForKey(other->option).toString();
+    other->number = m_numberedPpd->constraintTable().choiceNumber(other->optionNumber, other->choice);
+}
+
+void QVPopUpButton_M880::decide(int index)
+{
+    const constraints::Choice own = m_itemNumbers[size_t(index)];
+    const auto obstacle = std::ranges::find_if(m_others, [&](const CurrentChoice &other) {
+        return m_numberedPpd->constraintTable().conflicts(own, other.number);
+    });
+    setItemState(index, obstacle == m_others.end() ? nullptr : &*obstacle);
 }
 
 QString QVPopUpButton_M880::reason(const CurrentChoice &obstacle) const

@@ -184,12 +184,10 @@ QVPPD_M880::localizedChoicesForOptionWithBundle(const QString &option, const pla
         return std::nullopt;
     QList<QVPPDChoice_M880> result;
     for (const ppd_choice_t &record : records) {
-        const QString keyword = stringFromUtf8(record.choice);
-        if (keyword.isNull())
-            continue;
-        const QString text = localizedChoiceText(option, keyword, stringFromUtf8(record.text), bundle);
-        if (!text.isNull())
-            result.append({keyword, text});
+        const auto choice = choiceFromRecord(&record);
+        if (choice && !choice->text.isNull()) // as without a bundle, which would put the key in its place
+            result.append(
+                {choice->choice, localizedChoiceText(option, choice->choice, choice->text, bundle)});
     }
     return result;
 }

@@ -92,6 +92,8 @@ public:
     bool optionWithChoiceConflictsWithOptionWithChoice(const QString &option1, const QString &choice1,
                                                        const QString &option2, const QString &choice2) const;
     QSet<QString> conflictableOptionsForOptionWithChoice(const QString &option, const QString &choice) const;
+    // The same questions by numbers; lives as long as this object.
+    const ConstraintTable &constraintTable() const { return m_constraints; }
     // Option to marked choice of the group named "InstallableOptions"; nil when the PPD has no such group.
     std::optional<QMap<QString, QString>> chosenInstallableOptions() const;
 

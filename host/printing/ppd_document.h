@@ -18,6 +18,8 @@ struct ppd_option_s;
 
 namespace host {
 
+class PpdConstraints;
+
 // An option set to one of its choices, with the words a user reads.
 struct OptionChoice
 {
@@ -51,7 +53,7 @@ struct PpdOption
 // Choices that the PPD forbids together and that are marked all the same.
 struct Conflict
 {
-    QList<OptionChoice> sides; // two or more, in PPD order of their options
+    QList<OptionChoice> sides; // in PPD order of their options
     bool operator==(const Conflict &) const = default;
 };
 
@@ -104,27 +106,24 @@ public:
     // The choices of an option that the PPD forbids together with what is marked for other options, each with
     // one of those that stand in its way.
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword) const;
+    // Another number whenever that answer may have changed for the option.
+    quint32 forbiddenRevision(const QString &keyword) const;
     // Nil when there is no conflict or libcups finds no way out. `keep` is left as it is where that is
     // possible.
     std::optional<Resolution> resolution(const QString &keep = QString()) const;
 
 private:
-    explicit PpdDocument(ppd_file_s *ppd) : m_ppd(ppd) {}
+    explicit PpdDocument(ppd_file_s *ppd);
     // `name` is what an error calls the PPD.
     static std::unique_ptr<PpdDocument> openNamed(const QString &path, const QString &name,
                                                   PrintError *error);
 
-    // One constraint of the PPD: choices by option. An empty choice stands for any but the off choice.
-    using Constraint = QList<std::pair<QString, QString>>;
-    const QList<Constraint> &constraints() const; // read once
-    QList<Constraint> readConstraints() const;
-    bool isMet(const QString &keyword, const QString &choice) const;
-    std::optional<Conflict> activeConflict(const Constraint &constraint) const;
+    PpdConstraints &constraints() const; // read when first asked for
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
     bool isInstallableOption(const ppd_option_s *option) const;
 
     ppd_file_s *m_ppd = nullptr;
-    mutable std::optional<QList<Constraint>> m_constraints;
+    mutable std::unique_ptr<PpdConstraints> m_constraints;
 };
 
 } // namespace host

@@ -120,6 +120,7 @@ private Q_SLOTS:
         QVERIFY(s.popUp.itemData(0, Qt::ToolTipRole).toString().isEmpty());
 
         s.dialog.manager->setBundle(files.open(QLocale(QLocale::German)));
+        s.set(colorType, "Auto");
         s.set(colorType, "Mono");
         QCOMPARE(toolTip(), u"%1 steht auf %2."_s.arg(name, text));
         s.set(colorType, "Auto");

@@ -15,12 +15,13 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 # Which folders the files of a folder may include from.
 ROOMS = {
     "platform": {"platform"},
-    "ppd": {"ppd", "platform"},
+    "constraints": {"constraints"},
+    "ppd": {"ppd", "constraints", "platform"},
     "plugin": {"plugin", "ppd", "platform"},
-    "panelkit": {"panelkit", "plugin", "ppd", "platform"},
+    "panelkit": {"panelkit", "plugin", "ppd", "constraints", "platform"},
     "device": {"device", "platform"},
     "panels": {"panels", "panelkit", "plugin", "ppd", "device", "platform"},
-    "host": {"host", "platform"},
+    "host": {"host", "constraints", "platform"},
 }
 # The same between the folders of the host; files in host/ itself may include from all of them.
 HOST_ROOMS = {
@@ -31,7 +32,7 @@ HOST_ROOMS = {
 }
 WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/batch/")
 OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
-IN_BUNDLE = {"panelkit", "panels", "plugin", "ppd", "device"}
+IN_BUNDLE = {"constraints", "panelkit", "panels", "plugin", "ppd", "device"}
 
 EXAMPLES = [  # file, header, whether the one may include the other
     ("panels/print_mode_panel.cpp", "panels/print_mode_panel.h", True),
@@ -41,6 +42,12 @@ EXAMPLES = [  # file, header, whether the one may include the other
     ("plugin/manager.cpp", "panelkit/panel_base.h", False),
     ("plugin/manager.cpp", "ppd/version_info.h", True),
     ("ppd/ppd_model.cpp", "plugin/manager.h", False),
+    ("ppd/constraint_table.cpp", "constraints/engine.h", True),
+    ("constraints/engine.cpp", "ppd/constraint_table.h", False),
+    ("constraints/engine.cpp", "QString", False),
+    ("constraints/engine.cpp", "cups/ppd.h", False),
+    ("host/printing/ppd_constraints.cpp", "constraints/ppd_rules.h", True),
+    ("host/session/dialog_session.cpp", "constraints/ppd_rules.h", False),
     ("ppd/ppd_model.cpp", "QComboBox", False),
     ("ppd/ppd_model.cpp", "cups/ppd.h", True),
     ("panelkit/panel_base.cpp", "cups/ppd.h", False),
@@ -76,8 +83,12 @@ def host_room(path):
 def violation(file, header, widget_headers):
     """Why a file must not include a header, or None when it may. Both are paths below the source folder."""
     room, header_room = file.split("/")[0], header.split("/")[0]
-    if header == "cups/ppd.h" and not file.startswith(("ppd/", "host/printing/")):
-        return "the PPD interface of libcups is used by ppd/ and one file of host/printing/"
+    if header == "cups/ppd.h" and not file.startswith(("ppd/", "constraints/ppd_", "host/printing/")):
+        return "the PPD interface of libcups is used by ppd/, constraints/ppd_*.cpp and one file of host/printing/"
+    if room == "constraints" and header.startswith("Q"):
+        return "the constraint engine is plain C++"
+    if room == "host" and header_room == "constraints" and host_room(file) != "printing":
+        return "constraints are asked of the PPD document"
     is_widget = header.startswith("QtWidgets") or (widget_headers / header.split("/")[-1]).exists()
     its_window_ends_text_editing = room == "device" and header == "QWidget"
     if is_widget and file.startswith(WITHOUT_WIDGETS) and not its_window_ends_text_editing:

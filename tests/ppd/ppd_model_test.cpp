@@ -161,7 +161,10 @@ private Q_SLOTS:
         QCOMPARE(model->valuesForAttribute(u"Note"_s), QStringList{u"whole"_s});
         QCOMPARE(model->choicesForOption(paper)->size(), 2); // the keywords are sound
         QCOMPARE(model->choicesWithValuesForOptionOrder(paper, nullptr)->size(), 1);
-        QCOMPARE(model->localizedChoicesForOptionWithBundle(paper, nullptr)->size(), 1);
+        const TestBundle files;
+        const auto bundle = files.open();
+        for (const auto &source : {std::shared_ptr<platform::Bundle>(), bundle})
+            QCOMPARE(model->localizedChoicesForOptionWithBundle(paper, source.get())->size(), 1);
         model->markChoiceForOption(u"Bond"_s, paper); // a mark is no less one for its text
         QCOMPARE(model->markedChoiceForOption(paper).value(), (QVPPDChoice_M880{u"Bond"_s, QString()}));
     }

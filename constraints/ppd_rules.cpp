@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "constraints/ppd_rules.h"
+
+#include "constraints/ppd_lines.h"
+
+#include <cups/ppd.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+namespace constraints {
+
+namespace {
+
+bool isOffName(std::string_view choice)
+{
+    constexpr std::array<std::string_view, 3> off{"None", "Off", "False"};
+    return std::ranges::any_of(off, [choice](auto name) { return isSameName(name, choice); });
+}
+
+} // namespace
+
+PpdRules::PpdRules(ppd_file_s *ppd)
+    : m_ppd(ppd), m_engine(linesAsUnderstood(ppd)), m_state(&m_engine), m_pageSize(none)
+{
+    for (Option option = 0; option < m_engine.optionCount(); ++option) {
+        const std::string name(m_engine.optionName(option));
+        if (const ppd_option_t *record = ppdFindOption(ppd, name.c_str()))
+            m_options.emplace_back(record, option);
+        if (isSameName(name, pageSizeName))
+            m_pageSize = option;
+    }
+    std::ranges::sort(m_options);
+    refresh();
+}
+
+std::vector<const ppd_choice_s *> PpdRules::markedChoices() const
+{
+    std::vector<const ppd_choice_s *> marked;
+    cupsArraySave(m_ppd->marked);
+    for (void *choice = cupsArrayFirst(m_ppd->marked); choice; choice = cupsArrayNext(m_ppd->marked))
+        marked.push_back(static_cast<const ppd_choice_t *>(choice));
+    cupsArrayRestore(m_ppd->marked);
+    return marked;
+}
+
+std::vector<PpdRules::Mark> PpdRules::marksOf(const std::vector<const ppd_choice_s *> &marked) const
+{
+    std::vector<Mark> marks;
+    for (const ppd_choice_t *choice : marked) {
+        const ppd_option_t *record = choice->option;
+        const auto found =
+            std::ranges::lower_bound(m_options, record, {}, [](auto &entry) { return entry.first; });
+        if (found != m_options.end() && found->first == record)
+            marks.emplace_back(found->second, choice);
+    }
+    std::ranges::sort(marks);
+    return marks;
+}
+
+void PpdRules::refresh()
+{
+    auto marked = markedChoices();
+    const ppd_size_t *size = ppdPageSize(m_ppd, nullptr);
+    if (marked == m_marked && size == m_size)
+        return;
+    auto marks = marksOf(marked);
+    const auto ofOption = [](const std::vector<Mark> &all, Option option) {
+        return std::ranges::equal_range(all, option, {}, [](const Mark &mark) { return mark.first; });
+    };
+    const bool sizeChanged = std::exchange(m_size, size) != size;
+    for (Option option = 0; option < m_engine.optionCount(); ++option) {
+        const auto now = ofOption(marks, option);
+        if (!std::ranges::equal(now, ofOption(m_marks, option)) || (sizeChanged && option == m_pageSize))
+            setMarks(option, now);
+    }
+    m_marked = std::move(marked);
+    m_marks = std::move(marks);
+}
+
+void PpdRules::setMarks(Option option, std::span<const Mark> marks)
+{
+    std::vector<Choice> chosen;
+    bool isOn = false;
+    for (const Mark &mark : marks) {
+        isOn |= !isOffName(mark.second->choice);
+        if (option != m_pageSize)
+            chosen.push_back(m_engine.findChoice(option, mark.second->choice));
+    }
+    // libcups keeps the size apart from the marks: marking a PageRegion takes the mark from PageSize.
+    if (option == m_pageSize && m_size) {
+        const auto [first, end] = m_engine.choicesOf(option);
+        for (Choice choice = first; choice < end; ++choice) {
+            if (isSameName(m_engine.choiceName(choice), m_size->name))
+                chosen.push_back(choice);
+        }
+    }
+    m_state.set(option, chosen, isOn);
+    m_state.touch(option);
+}
+
+std::vector<PpdRules::Forbidden> PpdRules::forbiddenChoices(std::string_view option) const
+{
+    std::vector<Forbidden> forbidden;
+    const Option number = m_engine.findOption(option);
+    if (number == none)
+        return forbidden;
+    const ppd_option_t *record = ppdFindOption(m_ppd, std::string(option).c_str());
+    for (int i = 0; record && i < record->num_choices; ++i) {
+        const std::string_view name = record->choices[i].choice;
+        const Line line = m_state.obstacle(number, m_engine.findChoice(number, name), !isOffName(name));
+        if (line != none)
+            forbidden.push_back({name, line});
+    }
+    return forbidden;
+}
+
+std::uint32_t PpdRules::revision(std::string_view option) const
+{
+    const Option number = m_engine.findOption(option);
+    return number == none ? 0 : m_state.revision(number);
+}
+
+} // namespace constraints
