@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/batch/terminal_login.h"
+#include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
 
@@ -9,6 +11,9 @@
 #include <QFile>
 #include <QLibraryInfo>
 #include <QTranslator>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace host;
 
@@ -65,9 +70,29 @@ void installTranslations(QApplication *app)
     }
 }
 
+// Takes the places of standard streams that were closed: no file of the program may get there. What is written
+// or read there fails all the same.
+void occupyStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            (void)!open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // the lowest free number
+    }
+}
+
+// What Qt has left of the command line; as bytes, since file names need not be UTF-8.
+QStringList commandLine(int argc, char **argv)
+{
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(fileNameFromBytes(argv[i]));
+    return words;
+}
+
 int run(const Arguments &arguments, QFile *out, QFile *err)
 {
     CupsPrintSystem system;
+    system.setLoginPrompt(askOnTerminal);
     const QString folder = QApplication::applicationDirPath();
     Extensions extensions(arguments.bundles.isEmpty() ? Extensions::installedBundles(folder)
                                                       : arguments.bundles);
@@ -81,6 +106,7 @@ int run(const Arguments &arguments, QFile *out, QFile *err)
 
 int main(int argc, char **argv)
 {
+    occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(dropRemarksOfQt);
     QApplication app(argc, argv);
@@ -95,11 +121,12 @@ int main(int argc, char **argv)
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);
     QString error;
-    const auto arguments = parseArguments(QApplication::arguments(), &error);
+    const QStringList words = commandLine(argc, argv);
+    const auto arguments = parseArguments(words, &error);
     if (!arguments) {
         BatchResult result;
         result.error = {PrintError::Kind::BadValue, error};
-        ResultWriter(&out, &err).write(result, QApplication::arguments().contains(QLatin1String("--json")));
+        ResultWriter(&out, &err).write(result, words.contains(QLatin1String("--json")));
         return ExitUsage;
     }
     if (arguments->help || arguments->version) {

@@ -5,12 +5,11 @@
 
 #include "host/batch/batch_run.h"
 #include "host/window/color_scheme.h"
+#include "host/window/login_dialog.h"
 #include "host/window/print_window.h"
 #include "host/window/startup_clock.h"
 
 #include <QApplication>
-#include <QInputDialog>
-#include <QLineEdit>
 #include <QPixmap>
 
 #include <unistd.h>
@@ -38,12 +37,11 @@ PrintTask taskOf(const Arguments &arguments)
     return task;
 }
 
-std::optional<QString> askForPassword(QWidget *parent, const QString &prompt)
+int exitCodeOf(const PrintWindow &window)
 {
-    bool accepted = false;
-    const QString password = QInputDialog::getText(parent, RunText::tr("Password"), prompt,
-                                                   QLineEdit::Password, QString(), &accepted);
-    return accepted ? std::optional(password) : std::nullopt;
+    if (!window.submission())
+        return ExitCancelled;
+    return window.submission()->isAccepted() ? ExitSuccess : ExitUnknown;
 }
 
 int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
@@ -55,12 +53,16 @@ int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
     return ExitFailure;
 }
 
-void tellResult(const PrintWindow &window, QIODevice *out)
+void tellResult(const PrintWindow &window, QIODevice *out, QIODevice *err)
 {
-    if (!window.job())
+    if (!window.submission())
         return;
+    if (!window.submission()->isAccepted()) {
+        err->write("kelmar-print: " + window.submission()->error.message.toUtf8() + '\n');
+        return;
+    }
     const QString id =
-        QStringLiteral("%1-%2").arg(window.session()->destination().queue).arg(window.job()->id);
+        QStringLiteral("%1-%2").arg(window.session()->destination().queue).arg(window.submission()->job.id);
     out->write(RunText::tr("request id is %1").arg(id).toUtf8() + '\n');
 }
 
@@ -81,7 +83,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     };
     PrintWindow window(system, extensions, task);
     opened = &window;
-    system.setPasswordPrompt([&window](const QString &prompt) { return askForPassword(&window, prompt); });
+    system.setLoginPrompt([&window](const LoginQuestion &question) { return askForLogin(question, &window); });
     PrintError error;
     if (!window.open(&error)) {
         err->write("kelmar-print: " + error.message.toUtf8() + '\n');
@@ -101,14 +103,12 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         QObject::connect(new Settled(&window), &Settled::done, &window,
                          [&] { QApplication::exit(takePicture(&window, arguments.screenshot, err)); });
     });
-    QObject::connect(&window, &QDialog::finished, qApp, [&](int result) {
-        QApplication::exit(result == QDialog::Accepted ? ExitSuccess : ExitCancelled);
-    });
+    QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     window.show();
     window.update(); // it may have been shown, and painted, while a panel was waiting
     const int code = QApplication::exec();
-    tellResult(window, out);
-    system.setPasswordPrompt({});
+    tellResult(window, out, err);
+    system.setLoginPrompt({});
     return code;
 }
 

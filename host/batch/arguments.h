@@ -14,10 +14,11 @@ namespace host {
 // How the program ends.
 enum ExitCode {
     ExitSuccess = 0,
-    ExitFailure = 1,  // the printer, the server or a file
-    ExitUsage = 2,    // the command line, or a value that a setting does not take
-    ExitConflict = 3, // settings that cannot be used together
-    ExitCancelled = 4 // the user closed the dialog without printing
+    ExitFailure = 1,   // the printer, the server or a file
+    ExitUsage = 2,     // the command line, or a value that a setting does not take
+    ExitConflict = 3,  // settings that cannot be used together
+    ExitCancelled = 4, // the user closed the dialog without printing
+    ExitUnknown = 5    // the job was sent, and the answer to it was lost: it may print
 };
 
 // What the command line asks for. A value.

@@ -60,11 +60,24 @@ BatchRun::~BatchRun() = default;
 
 int BatchRun::run(ResultWriter *writer)
 {
+    if (m_arguments.batch)
+        m_result.submission.emplace();
+    // Before anything is sent: what cannot be told must not be done.
+    if (m_arguments.json && !writer->begin())
+        return ExitFailure;
     const ExitCode code = perform();
     if (m_session)
         m_result.notices = m_session->takeNotices() + m_result.notices;
-    writer->write(m_result, m_arguments.json);
-    return code;
+    const int result = told(writer, code);
+    m_signals.reset();
+    return result;
+}
+
+// A job that is on its way is no failure, whatever became of the lines about it.
+int BatchRun::told(ResultWriter *writer, ExitCode code)
+{
+    const bool isWritten = writer->write(m_result, m_arguments.json);
+    return isWritten || code != ExitSuccess || m_result.submission ? code : ExitFailure;
 }
 
 ExitCode BatchRun::perform()
@@ -140,14 +153,21 @@ ExitCode BatchRun::submit()
                        m_session->jobOptions() + m_passedOn};
     if (request.title.isEmpty())
         request.title = m_documents.title();
-    PrintError error;
-    m_result.job = m_system.submit(request, &error);
-    if (!m_result.job)
-        return fail(error);
+    m_signals.emplace();
+    m_result.submission = m_system.submit(request, {});
     m_result.queue = request.destination.queue;
     for (const Document &document : m_documents.documents())
         m_result.documents.append(document.name);
-    return ExitSuccess;
+    m_result.error = m_result.submission->error;
+    switch (m_result.submission->outcome) {
+    case Submission::Outcome::Accepted:
+        return ExitSuccess;
+    case Submission::Outcome::Unknown:
+        return ExitUnknown;
+    case Submission::Outcome::Rejected:
+        break;
+    }
+    return ExitFailure;
 }
 
 ExitCode BatchRun::fail(const PrintError &error)

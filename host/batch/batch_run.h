@@ -5,6 +5,7 @@
 
 #include "host/batch/arguments.h"
 #include "host/batch/results.h"
+#include "host/printing/held_signals.h"
 #include "host/printing/print_system.h"
 #include "host/session/extensions.h"
 
@@ -27,7 +28,8 @@ public:
 
     // Where "-" is read from; the standard input unless set.
     void setInput(QIODevice *input) { m_input = input; }
-    // The exit code; what there is to tell goes to the writer.
+    // The exit code; what there is to tell goes to the writer. A signal that came while the job was sent ends
+    // the program when it has been told.
     int run(ResultWriter *writer);
 
 private:
@@ -37,6 +39,7 @@ private:
     ExitCode settleConflicts();
     ExitCode submit();
     ExitCode fail(const PrintError &error);
+    int told(ResultWriter *writer, ExitCode code);
 
     const Arguments &m_arguments;
     PrintSystem &m_system;
@@ -46,6 +49,7 @@ private:
     DocumentList m_documents;
     QList<JobOption> m_passedOn;
     BatchResult m_result;
+    std::optional<HeldSignals> m_signals; // from the submission until its outcome is told
 };
 
 } // namespace host

@@ -4,6 +4,7 @@
 #include "host/batch/results.h"
 
 #include <QCoreApplication>
+#include <QFileDevice>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -103,8 +104,10 @@ QJsonObject toJson(const BatchResult &result)
             keys.append(QJsonObject{{QStringLiteral("panel"), panel}, {QStringLiteral("key"), key}});
         object[QStringLiteral("panelKeys")] = keys;
     }
-    if (result.job)
-        object[QStringLiteral("job")] = toJson(*result.job, result.queue, result.documents);
+    if (result.submission)
+        object[QStringLiteral("outcome")] = result.submission->code();
+    if (result.submission && result.submission->job.id > 0)
+        object[QStringLiteral("job")] = toJson(result.submission->job, result.queue, result.documents);
     if (!result.resolved.isEmpty())
         object[QStringLiteral("resolved")] = toJson(result.resolved);
     if (!result.notices.isEmpty())
@@ -123,12 +126,30 @@ QJsonObject toJson(const BatchResult &result)
     return object;
 }
 
-void ResultWriter::write(const BatchResult &result, bool asJson)
+bool ResultWriter::begin()
+{
+    m_hasBegun = true;
+    put("{");
+    return finish();
+}
+
+bool ResultWriter::write(const BatchResult &result, bool asJson)
 {
     if (asJson)
-        m_out->write(QJsonDocument(toJson(result)).toJson());
+        put(QJsonDocument(toJson(result)).toJson().mid(m_hasBegun ? 1 : 0));
     else
         writeText(result);
+    return finish();
+}
+
+// Whether all of it arrived, which a file tells no earlier than here.
+bool ResultWriter::finish()
+{
+    auto *file = qobject_cast<QFileDevice *>(m_out);
+    m_isTaken = (!file || file->flush()) && m_isTaken;
+    if (!m_isTaken)
+        complain(ResultText::tr("The result cannot be written: %1.").arg(m_out->errorString()));
+    return m_isTaken;
 }
 
 void ResultWriter::writeText(const BatchResult &result)
@@ -144,7 +165,7 @@ void ResultWriter::writeText(const BatchResult &result)
         for (const auto &[name, value] : section.entries)
             print(QStringLiteral("    %1: %2").arg(name, value));
     }
-    if (result.job)
+    if (result.submission && result.submission->isAccepted())
         writeJob(result);
     writeConflicts(result);
     if (result.error)
@@ -172,15 +193,16 @@ void ResultWriter::writeOptions(const BatchResult &result)
 
 void ResultWriter::writeJob(const BatchResult &result)
 {
+    const SubmittedJob &job = result.submission->job;
     print(ResultText::tr("request id is %1-%2 (%3 file(s))")
               .arg(result.queue)
-              .arg(result.job->id)
+              .arg(job.id)
               .arg(result.documents.size()));
     // One document is the job's title as a rule; several share it.
     for (const QString &document : result.documents.size() > 1 ? result.documents : QStringList())
         print(QStringLiteral("    ") + document);
-    print(ResultText::tr("Job %1: %2.").arg(result.job->id).arg(result.job->status.text()));
-    for (const QString &difference : result.job->differences)
+    print(ResultText::tr("Job %1: %2.").arg(job.id).arg(job.status.text()));
+    for (const QString &difference : job.differences)
         complain(difference);
 }
 

@@ -24,7 +24,7 @@ struct BatchResult
     QList<PpdOption> options; // when asked for
     QList<std::pair<QString, QString>> panelKeys;
     bool hasOptions = false;
-    std::optional<SubmittedJob> job;
+    std::optional<Submission> submission; // when something was to be printed
     QString queue;
     QStringList documents; // of the job, by name
     QList<OptionChoice> resolved; // changes made to end conflicts
@@ -40,18 +40,24 @@ class ResultWriter
 {
 public:
     ResultWriter(QIODevice *out, QIODevice *err) : m_out(out), m_err(err) {}
-    void write(const BatchResult &result, bool asJson);
+    // Writes the beginning of a JSON result. Like write(), false, with a complaint, when `out` does not take it.
+    bool begin();
+    bool write(const BatchResult &result, bool asJson);
 
 private:
     void writeText(const BatchResult &result);
     void writeOptions(const BatchResult &result);
     void writeJob(const BatchResult &result);
     void writeConflicts(const BatchResult &result);
-    void print(const QString &line) { m_out->write(line.toUtf8() + '\n'); }
+    void print(const QString &line) { put(line.toUtf8() + '\n'); }
+    void put(const QByteArray &bytes) { m_isTaken = m_out->write(bytes) == bytes.size() && m_isTaken; }
+    bool finish();
     void complain(const QString &line) { m_err->write("kelmar-print: " + line.toUtf8() + '\n'); }
 
     QIODevice *m_out;
     QIODevice *m_err;
+    bool m_hasBegun = false;
+    bool m_isTaken = true; // whether `out` has taken everything so far
 };
 
 QJsonObject toJson(const BatchResult &result);

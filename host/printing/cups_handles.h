@@ -16,6 +16,12 @@ struct IppDeleter
 };
 using IppPointer = std::unique_ptr<ipp_t, IppDeleter>;
 
+struct HttpDeleter
+{
+    void operator()(http_t *connection) const { httpClose(connection); }
+};
+using HttpPointer = std::unique_ptr<http_t, HttpDeleter>;
+
 struct DestinationDeleter
 {
     void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }

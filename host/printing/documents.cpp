@@ -3,12 +3,23 @@
 
 #include "host/printing/documents.h"
 
+#include "host/printing/file_name.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QMimeDatabase>
-#include <QTemporaryFile>
+#include <QXmlStreamReader>
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace host {
 
@@ -20,66 +31,162 @@ struct DocumentText
 };
 
 constexpr qint64 spoolBlock = 64 * 1024;
+constexpr unsigned headSize = 64 * 1024; // bytes that tell what a document is
 
-void describeFormat(Document *document)
+struct GzipCloser
 {
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(document->path, QMimeDatabase::MatchContent);
+    void operator()(gzFile file) const { gzclose(file); }
+};
+
+// The beginning of a file, uncompressed as the print server will see it. Takes the descriptor over.
+QByteArray headOf(int fd)
+{
+    const std::unique_ptr<gzFile_s, GzipCloser> file(gzdopen(fd, "rb"));
+    if (!file) {
+        ::close(fd);
+        return {};
+    }
+    QByteArray head(headSize, Qt::Uninitialized);
+    head.truncate(std::max(gzread(file.get(), head.data(), headSize), 0));
+    return head;
+}
+
+bool isSvg(const QByteArray &head)
+{
+    QXmlStreamReader reader(head);
+    return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
+}
+
+// Pictures whose file is text to who does not know better.
+bool isDrawingInText(const QMimeType &type, const QByteArray &head)
+{
+    return (type.name().startsWith(QLatin1String("image/")) && type.inherits(QStringLiteral("text/plain"))) ||
+           isSvg(head);
+}
+
+void describeFormat(Document *document, const QByteArray &head)
+{
+    const QMimeType type = QMimeDatabase().mimeTypeForData(head);
     document->format = type.name();
     document->formatText = type.comment();
-    document->otherFormats = type.allAncestors();
-    // Programs with names of their own that hold what every printer takes.
-    document->otherFormats.removeAll(QStringLiteral("application/octet-stream"));
+    document->isDrawingInText = isDrawingInText(type, head);
+    if (document->isDrawingInText && !type.name().startsWith(QLatin1String("image/"))) {
+        const QMimeType svg = QMimeDatabase().mimeTypeForName(QStringLiteral("image/svg+xml"));
+        document->format = QStringLiteral("image/svg+xml");
+        document->formatText = svg.comment();
+    }
+}
+
+std::optional<struct stat> statusOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(fileNameToBytes(path).constData(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+// A file without a name in the folder for temporary files; -1 with errno set.
+int namelessFile(const QByteArray &folder)
+{
+    const int fd = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
+    if (fd >= 0)
+        return fd;
+    // Not every file system knows them.
+    QByteArray path = folder + "/kelmar-print-XXXXXX";
+    const int named = ::mkostemp(path.data(), O_CLOEXEC);
+    if (named >= 0)
+        ::unlink(path.constData());
+    return named;
+}
+
+PrintError spoolProblem(const QString &reason)
+{
+    return {PrintError::Kind::Other,
+            DocumentText::tr("What is to be printed cannot be kept in the folder “%1”: %2.")
+                .arg(QDir::tempPath(), reason)};
+}
+
+// An open file by a name that anyone in this program can open again.
+QString pathOfHandle(int fd)
+{
+    return QStringLiteral("/proc/self/fd/%1").arg(fd);
+}
+
+QString nameOf(const QString &path)
+{
+    return readableFileName(path.section(QLatin1Char('/'), -1));
 }
 
 } // namespace
 
+bool isStream(const QString &path)
+{
+    const auto status = statusOf(path);
+    return status && (S_ISFIFO(status->st_mode) || S_ISSOCK(status->st_mode) ||
+                      (S_ISCHR(status->st_mode) && path.startsWith(QLatin1String("/dev/stdin"))));
+}
+
 std::optional<Document> openDocument(const QString &path, PrintError *error)
 {
     using Kind = PrintError::Kind;
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        *error = {Kind::FileMissing, DocumentText::tr("There is no file “%1”.").arg(path)};
+    const QString shown = readableFileName(path);
+    const auto status = statusOf(path);
+    if (!status && (errno == ENOENT || errno == ENOTDIR)) {
+        *error = {Kind::FileMissing, DocumentText::tr("There is no file “%1”.").arg(shown)};
         return std::nullopt;
     }
-    if (info.isDir()) {
-        *error = {Kind::FileMissing, DocumentText::tr("“%1” is a folder, not a document.").arg(path)};
+    if (status && S_ISDIR(status->st_mode)) {
+        *error = {Kind::FileMissing, DocumentText::tr("“%1” is a folder, not a document.").arg(shown)};
         return std::nullopt;
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        const auto kind = info.isReadable() ? Kind::Other : Kind::NoPermission;
-        *error = {kind, DocumentText::tr("The file “%1” cannot be read: %2.").arg(path, file.errorString())};
+    if (status && !S_ISREG(status->st_mode) && !isStream(path)) {
+        *error = {Kind::FileMissing, DocumentText::tr("“%1” is a device, not a document.").arg(shown)};
         return std::nullopt;
     }
-    if (file.read(1).isEmpty()) {
-        *error = {Kind::EmptyDocument, DocumentText::tr("The file “%1” is empty.").arg(path)};
+    Document document;
+    document.path = path;
+    document.name = nameOf(path);
+    if (isStream(path))
+        return document;
+    QFile file;
+    QString problem;
+    if (!openForReading(&file, path, &problem)) {
+        const auto kind = errno == EACCES ? Kind::NoPermission : Kind::Other;
+        *error = {kind, DocumentText::tr("The file “%1” cannot be read: %2.").arg(shown, problem)};
         return std::nullopt;
     }
-    Document document{path, info.fileName(), {}, {}, {}};
-    describeFormat(&document);
+    document.size = file.size();
+    if (document.size == 0) {
+        *error = {Kind::EmptyDocument, DocumentText::tr("The file “%1” is empty.").arg(shown)};
+        return std::nullopt;
+    }
+    describeFormat(&document, headOf(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0)));
     return document;
 }
 
-std::unique_ptr<QTemporaryFile> spoolInput(QIODevice *input, PrintError *error)
+std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error)
 {
-    auto spool = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/kelmar-print-XXXXXX"));
-    if (!spool->open()) {
-        *error = {PrintError::Kind::Other,
-                  DocumentText::tr("No temporary file can be made: %1.").arg(spool->errorString())};
+    auto spool = std::make_unique<QFile>();
+    const int fd = namelessFile(QFile::encodeName(QDir::tempPath()));
+    if (fd < 0 || !spool->open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        *error = spoolProblem(qt_error_string(errno));
         return nullptr;
     }
+    QByteArray block(spoolBlock, Qt::Uninitialized);
     while (true) {
-        const QByteArray block = input->read(spoolBlock);
-        if (block.isEmpty())
+        const qint64 count = input->read(block.data(), block.size());
+        const auto *file = qobject_cast<QFileDevice *>(input);
+        if (count <= 0 && file && file->error() != QFileDevice::NoError) {
+            *error = {PrintError::Kind::Other, DocumentText::tr("The standard input cannot be read: %1.")
+                                                   .arg(input->errorString())};
+            return nullptr;
+        }
+        if (count <= 0)
             break;
-        if (spool->write(block) != block.size()) {
-            *error = {PrintError::Kind::Other,
-                      DocumentText::tr("The temporary file “%1” cannot be written: %2.")
-                          .arg(spool->fileName(), spool->errorString())};
+        if (spool->write(block.constData(), count) != count) {
+            *error = spoolProblem(spool->errorString());
             return nullptr;
         }
     }
-    if (!spool->flush() || spool->size() == 0) {
+    if (spool->size() == 0) {
         *error = {PrintError::Kind::EmptyDocument, DocumentText::tr("Nothing came from the standard input.")};
         return nullptr;
     }
@@ -95,7 +202,8 @@ bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *
 {
     m_documents.clear();
     for (const QString &path : paths) {
-        auto document = path == QLatin1String("-") ? openInput(input, error) : openDocument(path, error);
+        const bool isKept = path == QLatin1String("-") || m_spools.count(path) > 0 || isStream(path);
+        const auto document = isKept ? openOne(path, input, error) : openDocument(path, error);
         if (!document)
             return false;
         m_documents.append(*document);
@@ -103,16 +211,26 @@ bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *
     return true;
 }
 
-std::optional<Document> DocumentList::openInput(QIODevice *input, PrintError *error)
+// What is read once: from the first call on, the copy.
+std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *input, PrintError *error)
 {
-    QFile standardInput;
-    if (!input && standardInput.open(stdin, QIODevice::ReadOnly))
-        input = &standardInput;
-    if (!m_spool && input)
-        m_spool = spoolInput(input, error);
-    auto document = m_spool ? openDocument(m_spool->fileName(), error) : std::nullopt;
+    const bool isInput = path == QLatin1String("-");
+    std::unique_ptr<QFile> &spool = m_spools[path];
+    if (!spool) {
+        QFile own;
+        QString problem;
+        const bool isOpen = isInput ? input || own.open(stdin, QIODevice::ReadOnly)
+                                    : openForReading(&own, path, &problem);
+        if (!isOpen) {
+            *error = {PrintError::Kind::Other, DocumentText::tr("The file “%1” cannot be read: %2.")
+                                                   .arg(readableFileName(path), problem)};
+            return std::nullopt;
+        }
+        spool = spoolInput(isInput && input ? input : &own, error);
+    }
+    auto document = spool ? openDocument(pathOfHandle(spool->handle()), error) : std::nullopt;
     if (document)
-        document->name = DocumentText::tr("Standard input");
+        document->name = isInput ? DocumentText::tr("Standard input") : nameOf(path);
     return document;
 }
 

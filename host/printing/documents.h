@@ -5,38 +5,44 @@
 
 #include "host/printing/print_error.h"
 
+#include <QFile>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <memory>
 #include <optional>
-#include <vector>
 
 class QIODevice;
-class QTemporaryFile;
 
 namespace host {
 
-// A file to print.
+// A file to print. Names of files are as file_name.h has them.
 struct Document
 {
     QString path;
-    QString name;             // for people and the job's title
-    QString format;           // MIME type as far as the content tells, else "application/octet-stream"
-    QString formatText;       // the type in words; may be empty
-    QStringList otherFormats; // more general types that this one is a kind of, nearest first
+    QString name;       // for people and the job's title
+    QString format;     // MIME type as far as the content tells, else "application/octet-stream"
+    QString formatText; // the type in words; may be empty
+    qint64 size = 0;    // bytes
+    bool isDrawingInText = false; // a picture that is written as text, such as SVG
 };
 
+// Whether what is there can be read once only: a pipe, a socket, a terminal.
+bool isStream(const QString &path);
+
 // Looks at a file before it is printed: whether it is there, may be read, holds anything, and what it is.
+// A stream's type is not known before it has been read.
 std::optional<Document> openDocument(const QString &path, PrintError *error);
 
-// Copies what `input` gives until its end into a file that lives as long as the result, for printing what
-// another program writes. Null with an error when nothing can be read or written.
-std::unique_ptr<QTemporaryFile> spoolInput(QIODevice *input, PrintError *error);
+// Copies what `input` gives until its end into a file that has no name, and so is gone with the result
+// whatever becomes of the program. Null with an error, which names the folder, when nothing can be read or
+// not all of it can be written.
+std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error);
 
 // The documents of one job, in the order they are printed. Owns the temporary files that hold what came from
-// another program; they go with it.
+// pipes; they go with it.
 class DocumentList
 {
 public:
@@ -45,18 +51,18 @@ public:
     DocumentList(DocumentList &&) noexcept;
     DocumentList &operator=(DocumentList &&) noexcept;
 
-    // Opens each path; "-" is `input`, or the standard input where that is null. An input is read once and
-    // kept, so a second call does not find it empty. False with an error that names the first that fails.
+    // Opens each path; "-" is `input`, or the standard input where that is null. What can be read once only
+    // is kept, so a second call does not find it empty. False with an error that names the first that fails.
     bool open(const QStringList &paths, QIODevice *input, PrintError *error);
     const QList<Document> &documents() const { return m_documents; }
     // What a job of these documents is called: the first one's name; empty without documents.
     QString title() const;
 
 private:
-    std::optional<Document> openInput(QIODevice *input, PrintError *error);
+    std::optional<Document> openOne(const QString &path, QIODevice *input, PrintError *error);
 
     QList<Document> m_documents;
-    std::unique_ptr<QTemporaryFile> m_spool;
+    std::map<QString, std::unique_ptr<QFile>> m_spools; // by path
 };
 
 } // namespace host

@@ -18,19 +18,6 @@ QString enumText(ipp_attribute_t *attribute)
     return numbers.join(QLatin1Char(','));
 }
 
-QString valueText(ipp_attribute_t *attribute)
-{
-    if (ippGetValueTag(attribute) == IPP_TAG_ENUM)
-        return enumText(attribute);
-    QByteArray buffer(2048, '\0');
-    const size_t length = ippAttributeString(attribute, buffer.data(), static_cast<size_t>(buffer.size()));
-    if (length >= static_cast<size_t>(buffer.size())) {
-        buffer.resize(static_cast<qsizetype>(length) + 1);
-        ippAttributeString(attribute, buffer.data(), static_cast<size_t>(buffer.size()));
-    }
-    return QString::fromUtf8(buffer.constData());
-}
-
 QMap<QString, QString> defaultsOf(ipp_t *answer)
 {
     static const QLatin1String suffix("-default");
@@ -54,9 +41,28 @@ IppPointer printerRequest(ipp_op_t operation, const QByteArray &printerUri)
     return request;
 }
 
-IppPointer ask(IppPointer request)
+QByteArray resourceOf(const QByteArray &printerUri)
 {
-    return IppPointer(cupsDoRequest(CUPS_HTTP_DEFAULT, request.release(), "/"));
+    std::array<char, HTTP_MAX_URI> scheme{}, user{}, host{}, resource{};
+    int port = 0;
+    const auto size = [](const auto &buffer) { return static_cast<int>(buffer.size()); };
+    const http_uri_status_t status = httpSeparateURI(
+        HTTP_URI_CODING_ALL, printerUri.constData(), scheme.data(), size(scheme), user.data(), size(user),
+        host.data(), size(host), &port, resource.data(), size(resource));
+    return status >= HTTP_URI_STATUS_OK ? QByteArray(resource.data()) : QByteArrayLiteral("/");
+}
+
+QString valueText(ipp_attribute_t *attribute)
+{
+    if (ippGetValueTag(attribute) == IPP_TAG_ENUM)
+        return enumText(attribute);
+    QByteArray buffer(2048, '\0');
+    const size_t length = ippAttributeString(attribute, buffer.data(), static_cast<size_t>(buffer.size()));
+    if (length >= static_cast<size_t>(buffer.size())) {
+        buffer.resize(static_cast<qsizetype>(length) + 1);
+        ippAttributeString(attribute, buffer.data(), static_cast<size_t>(buffer.size()));
+    }
+    return QString::fromUtf8(buffer.constData());
 }
 
 QString attributeText(ipp_t *answer, const char *name)
@@ -84,7 +90,8 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
     return ippGetInteger(attribute, 0);
 }
 
-std::optional<QueueFacts> queryQueue(const QByteArray &printerUri)
+std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
+                                     const QString &name, PrintError *error)
 {
     static const std::array<const char *, 5> wanted = {"printer-is-accepting-jobs", "printer-state",
                                                        "printer-state-message", "document-format-supported",
@@ -92,9 +99,12 @@ std::optional<QueueFacts> queryQueue(const QByteArray &printerUri)
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
-    const IppPointer answer = ask(std::move(request));
-    if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+    const Reply reply = server->ask(std::move(request), "/"); // whoever looks needs no login
+    if (!reply.succeeded()) {
+        *error = reply.error(name);
         return std::nullopt;
+    }
+    const IppPointer &answer = reply.message;
     QueueFacts facts;
     facts.accepting = attributeInteger(answer.get(), "printer-is-accepting-jobs", 1) != 0;
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;

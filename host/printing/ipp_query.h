@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/printing/cups_handles.h"
+#include "host/printing/server_connection.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -14,16 +14,16 @@
 
 namespace host {
 
-// Small pieces of IPP that libcups's convenience calls have no word for. All requests go over the thread's
-// default connection, which libcups opens again when the server comes back.
+// Small pieces of IPP that libcups's convenience calls have no word for.
 
 // A request about one printer, with the user's name.
 IppPointer printerRequest(ipp_op_t operation, const QByteArray &printerUri);
-// Sends it; the answer's status is cupsLastError(). Null when there was no answer.
-IppPointer ask(IppPointer request);
+// Where requests about a printer are posted: its own place at the server, which may want a login.
+QByteArray resourceOf(const QByteArray &printerUri);
 
 // The value of an attribute as text; a nil string when the answer lacks it.
 QString attributeText(ipp_t *answer, const char *name);
+QString valueText(ipp_attribute_t *attribute);
 QStringList attributeTexts(ipp_t *answer, const char *name);
 int attributeInteger(ipp_t *answer, const char *name, int otherwise);
 
@@ -37,8 +37,9 @@ struct QueueFacts
     QMap<QString, QString> defaults; // job options it adds to every job by itself
 };
 
-// Nil when the server does not know the queue or does not answer; cupsLastError() tells which.
-std::optional<QueueFacts> queryQueue(const QByteArray &printerUri);
+// Nil with an error when the server does not know the queue, which people call `name`, or does not answer.
+std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
+                                     const QString &name, PrintError *error);
 // "ipp://localhost/printers/NAME" with the name escaped.
 QByteArray printerUriOfQueue(const QString &queue);
 

@@ -50,4 +50,10 @@ QString JobStatus::code() const
     return QLatin1String(codes.at(static_cast<size_t>(state)));
 }
 
+QString Submission::code() const
+{
+    static const std::array<const char *, 3> codes = {"accepted", "rejected", "unknown"};
+    return QLatin1String(codes.at(static_cast<size_t>(outcome)));
+}
+
 } // namespace host

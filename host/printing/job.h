@@ -11,6 +11,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace host {
 
 // One option of a job as the server is told it.
@@ -56,6 +58,30 @@ struct SubmittedJob
     int id = 0;
     JobStatus status;
     QStringList differences; // localised; where the server accepted something else than was sent
+};
+
+// What became of a job that was to be sent. A value.
+struct Submission
+{
+    enum class Outcome {
+        Accepted, // the server has all of it
+        Rejected, // it will not print
+        Unknown   // the server's answer was lost: it may print
+    };
+    Outcome outcome = Outcome::Rejected;
+    SubmittedJob job; // its id is 0 where none was made
+    PrintError error; // why it was not accepted, or why that is not known
+
+    bool isAccepted() const { return outcome == Outcome::Accepted; }
+    QString code() const; // for scripts
+};
+
+// Who looks on while a job is sent. Both are called on the thread that sends it, often; empty ones are not.
+struct SubmissionWatch
+{
+    std::function<void(qint64 sent, qint64 total)> progress; // bytes of all documents together
+    // True ends the submission: the job is cancelled at the server, and the error says so if that failed.
+    std::function<bool()> isCancelled;
 };
 
 } // namespace host

@@ -3,10 +3,16 @@
 
 #include "host/printing/job_submitter.h"
 
+#include "host/printing/file_name.h"
+#include "host/printing/held_signals.h"
+#include "host/printing/job_attributes.h"
 #include "host/printing/utf8_text.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QUuid>
+
+#include <chrono>
 
 namespace host {
 
@@ -17,109 +23,69 @@ struct SubmitText
     Q_DECLARE_TR_FUNCTIONS(SubmitText)
 };
 
-constexpr size_t maxIppName = 255; // bytes
+constexpr qsizetype maxIppName = 255; // bytes
+// How long a server that breaks off may take to come back until a job is given up for not known.
+constexpr std::chrono::seconds recoveryTime(6);
 
-void addOption(ipp_t *request, const JobOption &option)
+constexpr char undecidedFormat[] = "application/octet-stream"; // the server looks for itself
+constexpr char rawFormat[] = "application/vnd.cups-raw";
+
+// No longer than the server takes, and no half character.
+QByteArray nameBytes(const QString &text)
 {
-    const QByteArray name = option.name.toUtf8();
-    const QByteArray value = option.value.toUtf8();
-    if (option.kind != JobOption::Kind::Choice) {
-        CupsOptionList list;
-        list.add(name.constData(), value.constData());
-        cupsEncodeOptions2(request, list.count(), list.options(), IPP_TAG_JOB);
-        return;
-    }
-    // libcups would make a boolean of "True", which reaches filters without its value, and a collection of
-    // braces.
-    const ipp_tag_t type = static_cast<size_t>(value.size()) > maxIppName ? IPP_TAG_TEXT : IPP_TAG_NAME;
-    ippAddString(request, IPP_TAG_JOB, type, name.constData(), nullptr, value.constData());
+    return utf8Beginning(text, maxIppName);
 }
 
-bool isPageList(const QString &name)
+bool isYes(const QString &value)
 {
-    return name == QLatin1String("page-ranges");
+    return value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0 ||
+           value.compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0 ||
+           value.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0;
 }
 
-// Values compare as the server writes them: without quotes, booleans by meaning, open ranges by their bounds.
-QString comparable(const QString &name, QString value)
+PrintError unreadable(const QString &path, const QString &reason)
 {
-    if (isPageList(name)) {
-        value.replace(QLatin1String("2147483647"), QString());
-        return value;
-    }
-    return value.compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0 ? QStringLiteral("true")
-                                                                         : value.toLower();
-}
-
-JobStatus::State jobState(int ippState)
-{
-    switch (ippState) {
-    case IPP_JSTATE_PENDING:
-        return JobStatus::State::Pending;
-    case IPP_JSTATE_HELD:
-        return JobStatus::State::Held;
-    case IPP_JSTATE_PROCESSING:
-        return JobStatus::State::Processing;
-    case IPP_JSTATE_STOPPED:
-        return JobStatus::State::Stopped;
-    case IPP_JSTATE_CANCELED:
-        return JobStatus::State::Cancelled;
-    case IPP_JSTATE_ABORTED:
-        return JobStatus::State::Aborted;
-    case IPP_JSTATE_COMPLETED:
-        return JobStatus::State::Completed;
-    default:
-        return JobStatus::State::Unknown;
-    }
-}
-
-IppPointer askForJob(const QByteArray &printerUri, int jobId)
-{
-    IppPointer request = printerRequest(IPP_OP_GET_JOB_ATTRIBUTES, printerUri);
-    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", jobId);
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
-    IppPointer answer = ask(std::move(request));
-    return cupsLastError() <= IPP_STATUS_OK_CONFLICTING ? std::move(answer) : nullptr;
+    return {PrintError::Kind::FileMissing,
+            SubmitText::tr("The file “%1” cannot be read: %2.").arg(readableFileName(path), reason)};
 }
 
 } // namespace
 
-JobSubmitter::JobSubmitter(const JobRequest &request)
-    : m_request(request), m_options(request.options), m_printerUri(request.destination.printerUri.toUtf8())
+JobSubmitter::JobSubmitter(const JobRequest &request, const SubmissionWatch &watch, LoginKeeper *login)
+    : m_request(request), m_watch(watch), m_login(login), m_options(withLastWords(request.options)),
+      m_printerUri(request.destination.printerUri.isEmpty() ? printerUriOfQueue(request.destination.queue)
+                                                            : request.destination.printerUri.toUtf8()),
+      m_resource(resourceOf(m_printerUri)),
+      m_token("urn:uuid:" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces)), m_server(login),
+      m_lookup(login, m_printerUri)
 {
-    if (m_printerUri.isEmpty())
-        m_printerUri = printerUriOfQueue(request.destination.queue);
+    m_server.setStop([this] { return isCancelled(); });
+    m_lookup.setStop([this] { return isCancelled(); });
 }
 
-std::optional<SubmittedJob> JobSubmitter::submit(PrintError *error)
+bool JobSubmitter::isCancelled() const
 {
-    if (!checkQueue(error))
-        return std::nullopt;
-    dropServerDefaults();
-    SubmittedJob job;
-    job.id = createJob(error);
-    if (job.id == 0)
-        return std::nullopt;
+    return HeldSignals::isPending() || (m_watch.isCancelled && m_watch.isCancelled());
+}
+
+Submission JobSubmitter::submit()
+{
+    PrintError problem;
+    if (!checkQueue(&problem) || !createJob(&problem))
+        return rejected(problem);
     for (qsizetype i = 0; i < m_request.documents.size(); ++i) {
-        if (!sendDocument(job.id, i, error)) {
-            cupsCancelJob2(CUPS_HTTP_DEFAULT, m_request.destination.queue.toUtf8().constData(), job.id, 0);
-            return std::nullopt;
-        }
+        if (!sendDocument(i, &problem))
+            return concluded(problem);
     }
-    job.differences = readBack(job.id);
-    job.status = queryJobStatus(m_printerUri, job.id);
-    job.status.printerStopped |= m_queue.stopped;
-    return job;
+    return accepted();
 }
 
 bool JobSubmitter::checkQueue(PrintError *error)
 {
     const QString name = m_request.destination.displayName();
-    const auto queue = queryQueue(m_printerUri);
-    if (!queue) {
-        *error = lastCupsError(name);
+    const auto queue = queryQueue(&m_server, m_printerUri, name, error);
+    if (!queue)
         return false;
-    }
     m_queue = *queue;
     if (!m_queue.accepting) {
         const QString reason =
@@ -128,120 +94,187 @@ bool JobSubmitter::checkQueue(PrintError *error)
                   SubmitText::tr("The printer “%1” is not accepting jobs at the moment.").arg(name) + reason};
         return false;
     }
-    return chooseFormats(m_queue.formats, error);
-}
-
-bool JobSubmitter::chooseFormats(const QStringList &supported, PrintError *error)
-{
-    const QString undecided = QStringLiteral("application/octet-stream"); // the server looks for itself
+    takeOptions();
     for (const Document &document : m_request.documents) {
-        QString format;
-        for (const QString &candidate : QStringList(document.format) + document.otherFormats) {
-            if (format.isEmpty() && (supported.contains(candidate) || candidate == undecided))
-                format = candidate;
-        }
-        if (format.isEmpty() && supported.isEmpty())
-            format = undecided;
-        if (format.isEmpty()) {
-            const QString type = document.formatText.isEmpty() ? document.format : document.formatText;
-            *error = {PrintError::Kind::UnsupportedFormat,
-                      SubmitText::tr(
-                          "“%1” cannot be printed: the printer “%2” does not take documents of the type %3.")
-                          .arg(document.name, m_request.destination.displayName(), type)};
+        const auto format = formatOf(document, error);
+        if (!format)
             return false;
-        }
-        m_formats.append(format.toUtf8());
+        m_formats.append(*format);
+        m_total += document.size;
     }
     return true;
 }
 
-void JobSubmitter::dropServerDefaults()
+void JobSubmitter::takeOptions()
 {
     m_options.removeIf([this](const JobOption &option) {
-        return option.kind == JobOption::Kind::Preference &&
-               m_queue.defaults.value(option.name) == option.value;
+        const bool isRaw = option.name == QLatin1String("raw");
+        const bool isFormat = option.name == QLatin1String("document-format");
+        if (isRaw && isYes(option.value))
+            m_forcedFormat = rawFormat;
+        else if (isFormat)
+            m_forcedFormat = option.value.toUtf8();
+        const bool isServers = option.kind == JobOption::Kind::Preference &&
+                               m_queue.defaults.value(option.name) == option.value;
+        return isRaw || isFormat || isServers;
     });
 }
 
-int JobSubmitter::createJob(PrintError *error)
+// The server knows best what its filters take, and looks into documents. But it would take a drawing in XML
+// for the text that it is written in.
+std::optional<QByteArray> JobSubmitter::formatOf(const Document &document, PrintError *error) const
+{
+    if (!m_forcedFormat.isEmpty())
+        return m_forcedFormat;
+    const QStringList &supported = m_queue.formats;
+    const bool looks = supported.isEmpty() || supported.contains(QLatin1String(undecidedFormat));
+    if (looks && !document.isDrawingInText)
+        return undecidedFormat;
+    if (supported.contains(document.format))
+        return document.format.toUtf8();
+    const QString type = document.formatText.isEmpty() ? document.format : document.formatText;
+    *error = {PrintError::Kind::UnsupportedFormat,
+              SubmitText::tr("“%1” cannot be printed: the printer “%2” does not take documents of the type %3.")
+                  .arg(document.name, m_request.destination.displayName(), type)};
+    return std::nullopt;
+}
+
+bool JobSubmitter::createJob(PrintError *error)
 {
     IppPointer request = printerRequest(IPP_OP_CREATE_JOB, m_printerUri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                 utf8Beginning(m_request.title, static_cast<qsizetype>(maxIppName)).constData());
+                 nameBytes(m_request.title).constData());
+    ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, tokenAttribute, nullptr, m_token.constData());
     for (const JobOption &option : m_options)
-        addOption(request.get(), option);
-    const IppPointer answer = ask(std::move(request));
-    const int id = attributeInteger(answer.get(), "job-id", 0);
-    if (id == 0 || cupsLastError() > IPP_STATUS_OK_CONFLICTING) {
-        *error = lastCupsError(m_request.destination.displayName());
-        return 0;
+        addJobOption(request.get(), option);
+    Reply reply = m_server.ask(std::move(request), m_resource);
+    if (reply.succeeded()) {
+        m_id = attributeInteger(reply.message.get(), "job-id", 0);
+        if (m_id > 0)
+            return true;
+        m_id = 0;
+        reply.fate = Reply::Fate::Lost; // a success that names no job is none
+        reply.wasGarbled = true;
     }
-    return id;
+    *error = reply.error(m_request.destination.displayName());
+    // Without documents it does not print, but should not stay in the queue either.
+    JobOnServer made;
+    if (reply.fate == Reply::Fate::Lost && reply.wasSentWhole &&
+        m_lookup.byToken(0, m_token, QDeadlineTimer(recoveryTime), &made) == JobLookup::Result::Found)
+        m_lookup.cancel(made.id);
+    return false;
 }
 
-bool JobSubmitter::sendDocument(int jobId, qsizetype index, PrintError *error)
+IppPointer JobSubmitter::documentRequest(qsizetype index) const
+{
+    IppPointer request = printerRequest(IPP_OP_SEND_DOCUMENT, m_printerUri);
+    ipp_t *message = request.get();
+    ippAddInteger(message, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", m_id);
+    ippAddString(message, IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                 nameBytes(m_request.documents.at(index).name).constData());
+    ippAddString(message, IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 m_formats.at(index).constData());
+    ippAddBoolean(message, IPP_TAG_OPERATION, "last-document", index == m_request.documents.size() - 1);
+    return request;
+}
+
+bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
 {
     const Document &document = m_request.documents.at(index);
-    const QByteArray queue = m_request.destination.queue.toUtf8();
-    QFile file(document.path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = {PrintError::Kind::FileMissing,
-                  SubmitText::tr("The file “%1” cannot be read: %2.").arg(document.path, file.errorString())};
+    QFile file;
+    QString problem;
+    if (!openForReading(&file, document.path, &problem)) {
+        *error = unreadable(document.path, problem);
         return false;
     }
-    const bool last = index == m_request.documents.size() - 1;
-    http_status_t status =
-        cupsStartDocument(CUPS_HTTP_DEFAULT, queue.constData(), jobId, document.name.toUtf8().constData(),
-                          m_formats.at(index).constData(), last);
-    while (status == HTTP_STATUS_CONTINUE) {
-        const QByteArray block = file.read(64 * 1024);
-        if (block.isEmpty())
-            break;
-        status =
-            cupsWriteRequestData(CUPS_HTTP_DEFAULT, block.constData(), static_cast<size_t>(block.size()));
+    qint64 ofThis = 0;
+    const Reply reply =
+        m_server.send(documentRequest(index), m_resource, &file, [this, &ofThis](qint64 sent) {
+            ofThis = sent;
+            if (m_watch.progress)
+                m_watch.progress(m_sent + sent, m_total);
+        });
+    m_sent += ofThis;
+    m_kilobytes += (ofThis + 1023) / 1024;
+    if (reply.succeeded()) {
+        m_mayPrint = true;
+        return true;
     }
-    if (file.error() != QFileDevice::NoError) {
-        *error = {PrintError::Kind::Other,
-                  SubmitText::tr("The file “%1” cannot be read: %2.").arg(document.path, file.errorString())};
-        return false;
+    if (reply.fate == Reply::Fate::Lost && reply.wasSentWhole) {
+        m_mayPrint = true;
+        m_mayBeWhole = index == m_request.documents.size() - 1;
     }
-    const bool sent = status == HTTP_STATUS_CONTINUE &&
-                      cupsFinishDocument(CUPS_HTTP_DEFAULT, queue.constData()) <= IPP_STATUS_OK_CONFLICTING;
-    if (!sent)
-        *error = lastCupsError(m_request.destination.displayName());
-    return sent;
+    *error = file.error() != QFileDevice::NoError ? unreadable(document.path, file.errorString())
+                                                  : reply.error(m_request.destination.displayName());
+    return false;
 }
 
-QStringList JobSubmitter::readBack(int jobId) const
+// The server counts what it has; banners that it adds count too.
+bool JobSubmitter::isWhole(const JobOnServer &job) const
 {
-    const IppPointer job = askForJob(m_printerUri, jobId);
-    if (!job)
-        return {};
-    QStringList differences;
-    for (const JobOption &option : m_options) {
-        const QString kept = attributeText(job.get(), option.name.toUtf8().constData());
-        if (kept.isNull()) {
-            differences.append(SubmitText::tr("The print server did not take “%1”.").arg(option.name));
-        } else if (comparable(option.name, kept) != comparable(option.name, option.value)) {
-            // The values stay out of it: some are codes.
-            differences.append(SubmitText::tr("The print server took another value for “%1” than was sent.")
-                                   .arg(option.name));
-        }
-    }
-    return differences;
+    return !job.isIncoming && (job.kilobytes < 0 || job.kilobytes >= m_kilobytes);
 }
 
-JobStatus queryJobStatus(const QByteArray &printerUri, int jobId)
+// Something went wrong after the job was made: finds out what the server has of it.
+Submission JobSubmitter::concluded(const PrintError &why)
 {
-    JobStatus status;
-    const IppPointer job = askForJob(printerUri, jobId);
-    if (!job)
-        return status;
-    status.state = jobState(attributeInteger(job.get(), "job-state", 0));
-    status.message = attributeText(job.get(), "job-printer-state-message");
-    status.printerStopped =
-        attributeTexts(job.get(), "job-state-reasons").contains(QStringLiteral("printer-stopped"));
-    return status;
+    JobOnServer found;
+    const auto result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
+    if (result != JobLookup::Result::Found)
+        return m_mayPrint ? unknown(why) : rejected(why);
+    if (m_mayBeWhole && isWhole(found))
+        return accepted(std::move(found));
+    return cancelled(why, found);
+}
+
+Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &found)
+{
+    const bool confirmed = m_lookup.cancel(found.id);
+    JobOnServer after;
+    const bool isThere = m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) ==
+                         JobLookup::Result::Found;
+    const bool isOver = isThere && after.status.isFinal();
+    if (m_mayPrint && (!isOver || after.hasBegun))
+        return unknown(why);
+    if (confirmed || isOver)
+        return rejected(why);
+    PrintError more = why;
+    more.message += QLatin1Char(' ') + SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id);
+    return rejected(more);
+}
+
+Submission JobSubmitter::rejected(const PrintError &why) const
+{
+    Submission result{Submission::Outcome::Rejected, {}, why};
+    if (why.kind == PrintError::Kind::ConnectionLost)
+        result.error.message += QLatin1Char(' ') + SubmitText::tr("Nothing was printed.");
+    return result;
+}
+
+Submission JobSubmitter::unknown(const PrintError &why) const
+{
+    Submission result{Submission::Outcome::Unknown, {m_id, {}, {}}, why};
+    result.error.message +=
+        QLatin1Char(' ') + SubmitText::tr("It is not known whether the job was accepted. It may print; look "
+                                          "at the queue before printing again.");
+    return result;
+}
+
+Submission JobSubmitter::accepted(JobOnServer found)
+{
+    Submission result;
+    result.outcome = Submission::Outcome::Accepted;
+    result.job.id = m_id;
+    if (!found.attributes &&
+        m_lookup.byToken(m_id, m_token, QDeadlineTimer(0), &found) != JobLookup::Result::Found) {
+        result.job.differences.append(
+            SubmitText::tr("The print server did not tell which settings it kept for the job."));
+        return result;
+    }
+    result.job.differences = differencesOf(m_options, found.attributes.get());
+    result.job.status = found.status;
+    result.job.status.printerStopped |= m_queue.stopped;
+    return result;
 }
 
 } // namespace host

@@ -14,7 +14,11 @@
 #include <cups/ppd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <functional>
+
+#include <fcntl.h>
+#include <sys/mman.h>
 
 // The one place where the host meets the PPD interface that libcups means to drop one day.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -85,12 +89,6 @@ PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd) {}
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
 {
-    return openNamed(path, PpdDocumentText::tr("The PPD file “%1”").arg(path), error);
-}
-
-std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const QString &name,
-                                                    PrintError *error)
-{
     const QFileInfo info(path);
     if (!info.isFile()) {
         *error = {PrintError::Kind::FileMissing, PpdDocumentText::tr("There is no PPD file “%1”.").arg(path)};
@@ -101,7 +99,28 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
                   PpdDocumentText::tr("You are not allowed to read the PPD file “%1”.").arg(path)};
         return nullptr;
     }
-    ppd_file_t *ppd = ppdOpenFile(QFile::encodeName(path).constData());
+    return adopt(ppdOpenFile(QFile::encodeName(path).constData()),
+                 PpdDocumentText::tr("The PPD file “%1”").arg(path), error);
+}
+
+// libcups reads from files only; this one is in memory, so that no disk can cut it short.
+std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, const QByteArray &content,
+                                                  PrintError *error)
+{
+    QFile file;
+    const int fd = memfd_create("ppd", MFD_CLOEXEC);
+    if (fd < 0 || !file.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle) ||
+        file.write(content) != content.size() || !file.seek(0)) {
+        *error = {PrintError::Kind::Other, PpdDocumentText::tr("There is no memory for the PPD of “%1”: %2.")
+                                               .arg(queue, qt_error_string(errno))};
+        return nullptr;
+    }
+    return adopt(ppdOpenFd(fcntl(fd, F_DUPFD_CLOEXEC, 0)), PpdDocumentText::tr("The PPD of “%1”").arg(queue),
+                 error);
+}
+
+std::unique_ptr<PpdDocument> PpdDocument::adopt(ppd_file_s *ppd, const QString &name, PrintError *error)
+{
     if (!ppd) {
         int line = 0;
         const QString what = text(ppdErrorString(ppdLastError(&line)));
@@ -112,26 +131,6 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
     localizePpdTexts(ppd);
     ppdMarkDefaults(ppd);
     return std::unique_ptr<PpdDocument>(new PpdDocument(ppd));
-}
-
-std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, PrintError *error)
-{
-    char path[1024] = "";
-    time_t modified = 0;
-    const http_status_t status =
-        cupsGetPPD3(CUPS_HTTP_DEFAULT, queue.toUtf8().constData(), &modified, path, sizeof path);
-    if (status == HTTP_STATUS_NOT_FOUND)
-        return nullptr;
-    if (status != HTTP_STATUS_OK) {
-        *error = lastCupsError(queue);
-        return nullptr;
-    }
-    auto document =
-        openNamed(QFile::decodeName(path), PpdDocumentText::tr("The PPD of “%1”").arg(queue), error);
-    QFile::remove(QFile::decodeName(path)); // a copy or a link in the folder for temporary files
-    if (!document)
-        error->message.replace(QFile::decodeName(path), queue); // where the copy cannot be read
-    return document;
 }
 
 PpdDocument::~PpdDocument()

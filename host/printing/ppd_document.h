@@ -5,6 +5,7 @@
 
 #include "host/printing/print_error.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -68,8 +69,9 @@ class PpdDocument
 public:
     // Null with an error that names the file, and the line where the PPD is broken.
     static std::unique_ptr<PpdDocument> open(const QString &path, PrintError *error);
-    // The PPD of a queue, asked from the print server. Null without an error for a queue that has none.
-    static std::unique_ptr<PpdDocument> ofQueue(const QString &queue, PrintError *error);
+    // The PPD that the print server keeps for a queue.
+    static std::unique_ptr<PpdDocument> ofQueue(const QString &queue, const QByteArray &content,
+                                                PrintError *error);
     ~PpdDocument();
     PpdDocument(const PpdDocument &) = delete;
     PpdDocument &operator=(const PpdDocument &) = delete;
@@ -115,8 +117,7 @@ public:
 private:
     explicit PpdDocument(ppd_file_s *ppd);
     // `name` is what an error calls the PPD.
-    static std::unique_ptr<PpdDocument> openNamed(const QString &path, const QString &name,
-                                                  PrintError *error);
+    static std::unique_ptr<PpdDocument> adopt(ppd_file_s *ppd, const QString &name, PrintError *error);
 
     PpdConstraints &constraints() const; // read when first asked for
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);

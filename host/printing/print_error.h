@@ -15,6 +15,7 @@ struct PrintError
         NoSuchPrinter,
         NoPrinters,
         ServerAway,
+        ConnectionLost,
         QueueRejecting,
         NotAuthorised,
         FileMissing,
@@ -23,6 +24,7 @@ struct PrintError
         UnsupportedFormat,
         BrokenPpd,
         BadValue,
+        Cancelled,
         Other
     };
 
@@ -33,9 +35,5 @@ struct PrintError
     // The kind as scripts know it, such as "no-such-printer". Never localised.
     QString code() const;
 };
-
-// What the last request to the print server failed with. `printer` is the name the user knows it by, or empty
-// when the request was not about one printer.
-PrintError lastCupsError(const QString &printer);
 
 } // namespace host

@@ -18,19 +18,6 @@ struct PrintSystemText
     Q_DECLARE_TR_FUNCTIONS(PrintSystemText)
 };
 
-// libcups keeps the pointer until it is asked again.
-thread_local QByteArray givenPassword;
-
-const char *passwordForCups(const char *prompt, http_t *, const char *, const char *, void *userData)
-{
-    const auto &ask = *static_cast<const PrintSystem::PasswordPrompt *>(userData);
-    const auto password = ask ? ask(QString::fromUtf8(prompt)) : std::nullopt;
-    if (!password)
-        return nullptr;
-    givenPassword = password->toUtf8();
-    return givenPassword.constData();
-}
-
 QString optionOf(const cups_dest_t *destination, const char *name)
 {
     return QString::fromUtf8(cupsGetOption(name, destination->num_options, destination->options));
@@ -55,14 +42,10 @@ Destination fromCups(const cups_dest_t *record)
     return destination;
 }
 
-// libcups does not tell a server that is away from one that has no default printer.
-PrintError noDefaultPrinter()
+QByteArray uriOf(const Destination &destination)
 {
-    if (!ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS))) ||
-        cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return lastCupsError(QString());
-    return {PrintError::Kind::NoSuchPrinter,
-            PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+    return destination.printerUri.isEmpty() ? printerUriOfQueue(destination.queue)
+                                            : destination.printerUri.toUtf8();
 }
 
 int collectDestination(void *list, unsigned, cups_dest_t *record)
@@ -75,28 +58,24 @@ int collectDestination(void *list, unsigned, cups_dest_t *record)
 
 PrintSystem::~PrintSystem() = default;
 
-CupsPrintSystem::CupsPrintSystem()
+// libcups does not tell a server that is away from one that has no printers.
+std::optional<PrintError> CupsPrintSystem::problemOfServer()
 {
-    cupsSetPasswordCB2(passwordForCups, &m_prompt);
-}
-
-CupsPrintSystem::~CupsPrintSystem()
-{
-    cupsSetPasswordCB2(nullptr, nullptr);
-}
-
-void CupsPrintSystem::setPasswordPrompt(PasswordPrompt prompt)
-{
-    m_prompt = std::move(prompt);
+    const Reply reply =
+        ServerConnection(&m_login).ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)), "/");
+    const bool isThere = reply.succeeded() ||
+                         (reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND);
+    return isThere ? std::nullopt : std::optional(reply.error({}));
 }
 
 std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *error)
 {
     QList<Destination> list;
+    ServerConnection::askNobody();
     // The server's own queues; searching the network would take a second and is the server's business.
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collectDestination, &list);
-    if (list.isEmpty() && cupsLastError() == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE) {
-        *error = lastCupsError(QString());
+    if (const auto problem = list.isEmpty() ? problemOfServer() : std::nullopt) {
+        *error = *problem;
         return std::nullopt;
     }
     return list;
@@ -105,38 +84,49 @@ std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *erro
 std::optional<Destination> CupsPrintSystem::destination(const QString &name, PrintError *error)
 {
     const auto [queue, instance] = splitDestinationName(name);
+    ServerConnection server(&m_login);
     // libcups would search the network for a queue that the server does not know, and not say that the server
     // is away.
-    if (!name.isEmpty() && !queryQueue(printerUriOfQueue(queue))) {
-        *error = lastCupsError(name);
+    if (!name.isEmpty() && !queryQueue(&server, printerUriOfQueue(queue), name, error))
         return std::nullopt;
-    }
+    ServerConnection::askNobody();
     const QByteArray queueBytes = queue.toUtf8();
     const QByteArray instanceBytes = instance.toUtf8();
+    http_t *handle = server.handle();
     const CupsDestinationPointer record(
-        cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.isEmpty() ? nullptr : queueBytes.constData(),
-                         instance.isEmpty() ? nullptr : instanceBytes.constData()));
+        handle ? cupsGetNamedDest(handle, name.isEmpty() ? nullptr : queueBytes.constData(),
+                                  instance.isEmpty() ? nullptr : instanceBytes.constData())
+               : nullptr);
     if (record)
         return fromCups(record.get());
-    *error = name.isEmpty() ? noDefaultPrinter() : lastCupsError(name);
+    if (const auto problem = problemOfServer())
+        *error = *problem;
+    else if (name.isEmpty())
+        *error = {PrintError::Kind::NoSuchPrinter,
+                  PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+    else
+        *error = {PrintError::Kind::NoSuchPrinter,
+                  PrintSystemText::tr("There is no printer called “%1”.").arg(name)};
     return std::nullopt;
 }
 
 std::unique_ptr<PpdDocument> CupsPrintSystem::ppd(const Destination &destination, PrintError *error)
 {
-    return PpdDocument::ofQueue(destination.queue, error);
+    ServerConnection server(&m_login);
+    const auto content = server.fetch(resourceOf(uriOf(destination)) + ".ppd", maxPpdSize, error);
+    return content ? PpdDocument::ofQueue(destination.queue, *content, error) : nullptr;
 }
 
-std::optional<SubmittedJob> CupsPrintSystem::submit(const JobRequest &request, PrintError *error)
+Submission CupsPrintSystem::submit(const JobRequest &request, const SubmissionWatch &watch)
 {
-    return JobSubmitter(request).submit(error);
+    return JobSubmitter(request, watch, &m_login).submit();
 }
 
 JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
-    return queryJobStatus(destination.printerUri.isEmpty() ? printerUriOfQueue(destination.queue)
-                                                           : destination.printerUri.toUtf8(),
-                          jobId);
+    JobOnServer job;
+    JobLookup(&m_login, uriOf(destination)).byId(jobId, &job);
+    return job.status;
 }
 
 } // namespace host

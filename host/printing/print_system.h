@@ -6,10 +6,10 @@
 #include "host/printing/destination.h"
 #include "host/printing/job.h"
 #include "host/printing/ppd_document.h"
+#include "host/printing/server_connection.h"
 
 #include <QList>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -28,30 +28,31 @@ public:
     virtual std::optional<Destination> destination(const QString &name, PrintError *error) = 0;
     // Null without an error for a queue that has no PPD.
     virtual std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) = 0;
-    virtual std::optional<SubmittedJob> submit(const JobRequest &request, PrintError *error) = 0;
+    // Sends a job and tells what became of it. A signal held by HeldSignals cancels it, as the watch can.
+    virtual Submission submit(const JobRequest &request, const SubmissionWatch &watch) = 0;
     virtual JobStatus jobStatus(const Destination &destination, int jobId) = 0;
-    // Who is asked for a password where the server wants one; nil means no. Without it such requests are
-    // refused.
-    using PasswordPrompt = std::function<std::optional<QString>(const QString &prompt)>;
-    virtual void setPasswordPrompt(PasswordPrompt prompt) = 0;
+    // Who is asked where the server wants a user name and a password; nil means no. Without it such requests
+    // are refused. One answer does for all.
+    virtual void setLoginPrompt(LoginPrompt prompt) = 0;
 };
 
 // The print system that libcups knows: the server of CUPS_SERVER or client.conf.
 class CupsPrintSystem : public PrintSystem
 {
 public:
-    CupsPrintSystem();
-    ~CupsPrintSystem() override;
+    static constexpr qint64 maxPpdSize = 32 * 1024 * 1024; // bytes
 
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
-    std::optional<SubmittedJob> submit(const JobRequest &request, PrintError *error) override;
+    Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
-    void setPasswordPrompt(PasswordPrompt prompt) override;
+    void setLoginPrompt(LoginPrompt prompt) override { m_login.prompt = std::move(prompt); }
 
 private:
-    PasswordPrompt m_prompt;
+    std::optional<PrintError> problemOfServer();
+
+    LoginKeeper m_login;
 };
 
 } // namespace host

@@ -3,6 +3,8 @@
 
 #include "host/window/print_window.h"
 
+#include "host/printing/file_name.h"
+#include "host/printing/held_signals.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
@@ -36,7 +38,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
       m_cancel(new QPushButton(tr("Cancel"), this)), m_print(new QPushButton(tr("&Print"), this))
 {
-    const QString document = m_task.files.isEmpty() ? QString() : QFileInfo(m_task.files.first()).fileName();
+    const QString document = m_task.files.isEmpty() ? QString() : readableFileName(QFileInfo(m_task.files.first()).fileName());
     setWindowTitle(document.isEmpty() || document == QLatin1String("-") ? tr("Print")
                                                                         : tr("Print “%1”").arg(document));
     build();
@@ -89,7 +91,7 @@ void PrintWindow::connectAll()
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
-    connect(m_cancel, &QPushButton::clicked, this, [this] { m_job ? accept() : reject(); });
+    connect(m_cancel, &QPushButton::clicked, this, [this] { m_submission ? accept() : reject(); });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this), &QShortcut::activated, this,
             [this] { m_book->turn(1); });
@@ -320,7 +322,7 @@ void PrintWindow::checkDocuments()
 {
     for (const QString &path : m_task.files) {
         PrintError error;
-        if (path == QLatin1String("-") || !m_session || openDocument(path, &error))
+        if (path == QLatin1String("-") || isStream(path) || !m_session || openDocument(path, &error))
             continue;
         if (m_askingConflict)
             m_notices.append(error.message);
@@ -391,7 +393,7 @@ void PrintWindow::showIdle()
 
 void PrintWindow::print()
 {
-    if (m_job || !m_print->isEnabled())
+    if (m_submission || !m_print->isEnabled())
         return;
     if (!m_book->checkGeneral())
         return;
@@ -406,14 +408,15 @@ void PrintWindow::print()
     }
     showBusy(tr("Sending the document to the print server…"));
     const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
-    m_job = m_system.submit(
-        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions() + m_passedOn},
-        &error);
+    const HeldSignals held;
+    const Submission submission = m_system.submit(
+        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions() + m_passedOn}, {});
     showIdle();
-    if (!m_job) {
-        showError(error);
+    if (submission.outcome == Submission::Outcome::Rejected) {
+        showError(submission.error);
         return;
     }
+    m_submission = submission;
     RememberedPrinter().setName(m_session->destination().name());
     showResult();
 }
@@ -421,8 +424,9 @@ void PrintWindow::print()
 void PrintWindow::showResult()
 {
     const Destination destination = m_session->destination();
-    m_result->showJob(destination.displayName(), *m_job,
-                      [this, destination] { return m_system.jobStatus(destination, m_job->id); });
+    m_result->showSubmission(destination.displayName(), *m_submission, [this, destination] {
+        return m_system.jobStatus(destination, m_submission->job.id);
+    });
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);

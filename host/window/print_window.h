@@ -52,7 +52,8 @@ public:
     // Job options besides those of the session.
     void passOn(const QList<JobOption> &options) { m_passedOn = options; }
     DialogSession *session() const { return m_session.get(); }
-    const std::optional<SubmittedJob> &job() const { return m_job; }
+    // What became of the job; nil before there is one, and when it was not accepted.
+    const std::optional<Submission> &submission() const { return m_submission; }
     MessageBar *messageBar() const { return m_bar; }
     PageBook *book() const { return m_book; }
 
@@ -96,7 +97,7 @@ private:
     QStringList m_notices; // not yet closed by the user
     QList<JobOption> m_passedOn;
     std::optional<Resolution> m_proposal;
-    std::optional<SubmittedJob> m_job;
+    std::optional<Submission> m_submission;
 
     PrinterPicker *m_picker;
     MessageBar *m_bar;

@@ -25,6 +25,7 @@ StatusGlyph::Kind kindOf(JobStatus::State state)
         return StatusGlyph::Kind::Error;
     case JobStatus::State::Cancelled:
     case JobStatus::State::Stopped:
+    case JobStatus::State::Unknown:
         return StatusGlyph::Kind::Notice;
     default:
         return StatusGlyph::Kind::Success;
@@ -62,16 +63,29 @@ ResultPage::ResultPage(QWidget *parent)
     connect(&m_timer, &QTimer::timeout, this, [this] { showStatus(m_query()); });
 }
 
-void ResultPage::showJob(const QString &printer, const SubmittedJob &job, StatusQuery query)
+void ResultPage::showSubmission(const QString &printer, const Submission &submission, StatusQuery query)
 {
+    const SubmittedJob &job = submission.job;
     m_query = std::move(query);
     m_id = job.id;
-    m_title->setText(tr("Sent to “%1”").arg(printer));
     m_notes->setText(job.differences.join(QLatin1Char('\n')));
     m_notes->setVisible(!job.differences.isEmpty());
-    showStatus(job.status);
+    if (submission.isAccepted()) {
+        m_title->setText(tr("Sent to “%1”").arg(printer));
+        showStatus(job.status);
+    } else {
+        showUnknown(printer, submission);
+    }
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+}
+
+void ResultPage::showUnknown(const QString &printer, const Submission &submission)
+{
+    m_title->setText(tr("Perhaps sent to “%1”").arg(printer));
+    m_glyph->setKind(StatusGlyph::Kind::Notice);
+    m_state->setText(submission.error.message);
+    setAccessibleName(text());
 }
 
 void ResultPage::showStatus(const JobStatus &status)

@@ -16,8 +16,8 @@ namespace host {
 
 class StatusGlyph;
 
-// What became of the job: its number and its state, which keeps up with the print server for as long as it is
-// shown.
+// What became of a job that was accepted, or may have been: its number and its state, which keeps up with the
+// print server for as long as it is shown; or that nobody knows.
 class ResultPage : public QWidget
 {
     Q_OBJECT
@@ -25,10 +25,11 @@ public:
     using StatusQuery = std::function<JobStatus()>;
 
     explicit ResultPage(QWidget *parent = nullptr);
-    void showJob(const QString &printer, const SubmittedJob &job, StatusQuery query);
+    void showSubmission(const QString &printer, const Submission &submission, StatusQuery query);
     QString text() const;
 
 private:
+    void showUnknown(const QString &printer, const Submission &submission);
     void showStatus(const JobStatus &status);
 
     StatusGlyph *m_glyph;

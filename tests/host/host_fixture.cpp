@@ -148,15 +148,16 @@ std::unique_ptr<PpdDocument> FakePrintSystem::ppd(const Destination &destination
     return document;
 }
 
-std::optional<SubmittedJob> FakePrintSystem::submit(const JobRequest &request, PrintError *error)
+Submission FakePrintSystem::submit(const JobRequest &request, const SubmissionWatch &)
 {
-    if (refuses(error))
-        return std::nullopt;
+    Submission submission;
+    if (refuses(&submission.error))
+        return submission;
     submitted.append(request);
-    SubmittedJob job;
-    job.id = static_cast<int>(submitted.size());
-    job.status = status;
-    return job;
+    submission.outcome = outcome;
+    submission.job.id = static_cast<int>(submitted.size());
+    submission.job.status = status;
+    return submission;
 }
 
 QString sentValue(const QList<JobOption> &options, const QString &name)

@@ -73,15 +73,15 @@ public:
     std::optional<host::Destination> destination(const QString &name, host::PrintError *error) override;
     std::unique_ptr<host::PpdDocument> ppd(const host::Destination &destination,
                                            host::PrintError *error) override;
-    std::optional<host::SubmittedJob> submit(const host::JobRequest &request,
-                                             host::PrintError *error) override;
+    host::Submission submit(const host::JobRequest &request, const host::SubmissionWatch &) override;
     host::JobStatus jobStatus(const host::Destination &, int) override { return status; }
-    void setPasswordPrompt(PasswordPrompt) override {}
+    void setLoginPrompt(host::LoginPrompt) override {}
 
     QList<host::Destination> printers;
     QHash<QString, QByteArray> ppds; // by queue; none for a raw one
     host::PrintError serverError;    // every request fails with it while it is set
     host::JobStatus status;
+    host::Submission::Outcome outcome = host::Submission::Outcome::Accepted;
     QList<host::JobRequest> submitted;
 
 private:

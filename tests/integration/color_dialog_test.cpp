@@ -167,8 +167,8 @@ void ColorDialogTest::resolve(const QString &keyword, const QString &choice, con
 std::optional<CapturedJob> ColorDialogTest::printedJob()
 {
     m_window->print();
-    if (m_window->job())
-        return m_server.waitForJob(m_window->job()->id);
+    if (m_window->submission())
+        return m_server.waitForJob(m_window->submission()->job.id);
     qWarning() << m_window->messageBar()->text();
     return std::nullopt;
 }

@@ -231,12 +231,12 @@ void PrintJobTest::serverStoppedBehindAnOpenDialog()
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
     QVERIFY2(window.messageBar()->text().contains(u"cannot be reached"_s),
              qPrintable(window.messageBar()->text()));
-    QVERIFY(!window.job());
+    QVERIFY(!window.submission());
 
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     window.print();
-    QVERIFY2(window.job(), qPrintable(window.messageBar()->text()));
-    const auto job = m_server.waitForJob(window.job()->id);
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    const auto job = m_server.waitForJob(window.submission()->job.id);
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
     QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);

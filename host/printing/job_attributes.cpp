@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/job_attributes.h"
+
+#include "host/printing/ipp_query.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct AttributesText
+{
+    Q_DECLARE_TR_FUNCTIONS(AttributesText)
+};
+
+constexpr size_t maxIppName = 255; // bytes
+
+// Banners are two, before and behind; the server writes down the second one also where there is none.
+QString meaning(const QByteArray &name, ipp_attribute_t *attribute)
+{
+    QString text = valueText(attribute);
+    if (name == "job-sheets" && text.endsWith(QLatin1String(",none")))
+        text.chop(5);
+    return text;
+}
+
+} // namespace
+
+QList<JobOption> withLastWords(const QList<JobOption> &options)
+{
+    QList<JobOption> kept;
+    QSet<QString> seen;
+    for (auto it = options.crbegin(); it != options.crend(); ++it) {
+        if (!seen.contains(it->name))
+            kept.append(*it);
+        seen.insert(it->name);
+    }
+    std::reverse(kept.begin(), kept.end());
+    return kept;
+}
+
+void addJobOption(ipp_t *request, const JobOption &option)
+{
+    const QByteArray name = option.name.toUtf8();
+    const QByteArray value = option.value.toUtf8();
+    if (option.kind != JobOption::Kind::Choice) {
+        CupsOptionList list;
+        list.add(name.constData(), value.constData());
+        cupsEncodeOptions2(request, list.count(), list.options(), IPP_TAG_JOB);
+        return;
+    }
+    // libcups would make a boolean of "True", which reaches filters without its value, and a collection of
+    // braces.
+    const ipp_tag_t type = static_cast<size_t>(value.size()) > maxIppName ? IPP_TAG_TEXT : IPP_TAG_NAME;
+    ippAddString(request, IPP_TAG_JOB, type, name.constData(), nullptr, value.constData());
+}
+
+QStringList differencesOf(const QList<JobOption> &options, ipp_t *kept)
+{
+    QStringList differences;
+    for (const JobOption &option : options) {
+        const QByteArray name = option.name.toUtf8();
+        const IppPointer asSent(ippNew());
+        addJobOption(asSent.get(), option);
+        ipp_attribute_t *sent = ippFindAttribute(asSent.get(), name.constData(), IPP_TAG_ZERO);
+        ipp_attribute_t *found = ippFindAttribute(kept, name.constData(), IPP_TAG_ZERO);
+        if (!sent || !found)
+            differences.append(AttributesText::tr("The print server did not take “%1”.").arg(option.name));
+        else if (meaning(name, sent) != meaning(name, found))
+            differences.append(
+                AttributesText::tr("The print server took another value for “%1” than was sent.")
+                    .arg(option.name));
+    }
+    return differences;
+}
+
+} // namespace host

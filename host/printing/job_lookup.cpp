@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/job_lookup.h"
+
+#include "host/printing/ipp_query.h"
+
+#include <QThread>
+
+#include <array>
+
+namespace host {
+
+namespace {
+
+constexpr unsigned long betweenTries = 200; // milliseconds
+
+JobStatus::State jobState(int ippState)
+{
+    switch (ippState) {
+    case IPP_JSTATE_PENDING:
+        return JobStatus::State::Pending;
+    case IPP_JSTATE_HELD:
+        return JobStatus::State::Held;
+    case IPP_JSTATE_PROCESSING:
+        return JobStatus::State::Processing;
+    case IPP_JSTATE_STOPPED:
+        return JobStatus::State::Stopped;
+    case IPP_JSTATE_CANCELED:
+        return JobStatus::State::Cancelled;
+    case IPP_JSTATE_ABORTED:
+        return JobStatus::State::Aborted;
+    case IPP_JSTATE_COMPLETED:
+        return JobStatus::State::Completed;
+    default:
+        return JobStatus::State::Unknown;
+    }
+}
+
+JobOnServer read(IppPointer attributes)
+{
+    JobOnServer job;
+    ipp_t *message = attributes.get();
+    job.id = attributeInteger(message, "job-id", 0);
+    job.status.state = jobState(attributeInteger(message, "job-state", 0));
+    job.status.message = attributeText(message, "job-printer-state-message");
+    const QStringList reasons = attributeTexts(message, "job-state-reasons");
+    job.status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
+    job.isIncoming = reasons.contains(QLatin1String("job-incoming"));
+    job.hasBegun = ippFindAttribute(message, "time-at-processing", IPP_TAG_INTEGER) != nullptr;
+    job.kilobytes = attributeInteger(message, "job-k-octets", -1);
+    job.token = attributeText(message, tokenAttribute).toUtf8();
+    job.attributes = std::move(attributes);
+    return job;
+}
+
+} // namespace
+
+JobLookup::JobLookup(LoginKeeper *login, QByteArray printerUri)
+    : m_login(login), m_printerUri(std::move(printerUri)), m_resource(resourceOf(m_printerUri))
+{
+}
+
+void JobLookup::setStop(std::function<bool()> stop)
+{
+    m_stop = std::move(stop);
+}
+
+IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
+{
+    IppPointer request = printerRequest(operation, m_printerUri);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
+    return request;
+}
+
+JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
+{
+    IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+    ServerConnection server(m_login);
+    server.setStop(m_stop);
+    Reply reply = server.ask(std::move(request), m_resource);
+    if (reply.succeeded()) {
+        *job = read(std::move(reply.message));
+        return job->id == id ? Result::Found : Result::NoAnswer;
+    }
+    const bool isGone =
+        reply.fate == Reply::Fate::Answered &&
+        (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
+    return isGone ? Result::NotThere : Result::NoAnswer;
+}
+
+JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
+{
+    static const std::array<const char *, 2> wanted = {"job-id", tokenAttribute};
+    IppPointer request = printerRequest(IPP_OP_GET_JOBS, m_printerUri);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "all");
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    ServerConnection server(m_login);
+    server.setStop(m_stop);
+    const Reply reply = server.ask(std::move(request), m_resource);
+    if (!reply.succeeded())
+        return Result::NoAnswer;
+    int id = 0;
+    int found = 0;
+    ipp_t *answer = reply.message.get();
+    for (ipp_attribute_t *a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        if (!ippGetName(a))
+            id = 0; // the next job
+        else if (qstrcmp(ippGetName(a), "job-id") == 0)
+            id = ippGetInteger(a, 0);
+        else if (qstrcmp(ippGetName(a), tokenAttribute) == 0 && token == ippGetString(a, 0, nullptr))
+            found = -1;
+        if (found < 0 && id > 0)
+            found = id;
+    }
+    return found > 0 ? byId(found, job) : Result::NotThere;
+}
+
+JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline,
+                                     JobOnServer *job)
+{
+    while (true) {
+        Result result = id > 0 ? byId(id, job) : Result::NotThere;
+        if (result == Result::Found && job->token != token)
+            result = Result::NotThere;
+        if (result == Result::NotThere)
+            result = search(token, job);
+        if (result != Result::NoAnswer || deadline.hasExpired() || (m_stop && m_stop()))
+            return result;
+        QThread::msleep(betweenTries);
+    }
+}
+
+bool JobLookup::cancel(int id)
+{
+    ServerConnection server(m_login);
+    return server.ask(jobRequest(IPP_OP_CANCEL_JOB, id), m_resource).succeeded();
+}
+
+} // namespace host

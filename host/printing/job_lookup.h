@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/printing/job.h"
+#include "host/printing/server_connection.h"
+
+#include <QDeadlineTimer>
+
+namespace host {
+
+// The attribute that marks each job of ours. Its type, a URI, is one that the server keeps and does not hand
+// to filters.
+inline constexpr char tokenAttribute[] = "kelmar-submission";
+
+// A job as the server knows it.
+struct JobOnServer
+{
+    int id = 0;
+    JobStatus status;
+    bool isIncoming = false; // documents are still expected
+    bool hasBegun = false;   // it has been, or is being, printed
+    int kilobytes = -1;      // of its documents, each rounded up; -1 where the server does not say
+    QByteArray token;
+    IppPointer attributes;
+};
+
+// One printer's jobs, asked for anew at each call. Blocks. A value for one use; the login outlives it.
+class JobLookup
+{
+public:
+    enum class Result { Found, NotThere, NoAnswer };
+
+    JobLookup(LoginKeeper *login, QByteArray printerUri);
+    // Looked at while it waits; true ends the wait.
+    void setStop(std::function<bool()> stop);
+
+    Result byId(int id, JobOnServer *job);
+    // Tries until the server answers. Only a job with this token counts: after a breakdown a server may give
+    // a number again. `id` is 0 where it is not known.
+    Result byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline, JobOnServer *job);
+    // Whether the server confirmed it.
+    bool cancel(int id);
+
+private:
+    Result search(const QByteArray &token, JobOnServer *job);
+    IppPointer jobRequest(ipp_op_t operation, int id) const;
+
+    LoginKeeper *m_login;
+    QByteArray m_printerUri;
+    QByteArray m_resource;
+    std::function<bool()> m_stop;
+};
+
+} // namespace host

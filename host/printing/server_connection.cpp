@@ -1,0 +1,351 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/server_connection.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+
+#include <cerrno>
+
+namespace host {
+
+namespace {
+
+struct ServerText
+{
+    Q_DECLARE_TR_FUNCTIONS(ServerText)
+};
+
+constexpr qint64 blockSize = 64 * 1024;
+constexpr int mostLogins = 3; // requests that the server refuses only after it has read them
+
+bool isErrorStatus(http_status_t status)
+{
+    return status >= HTTP_STATUS_BAD_REQUEST;
+}
+
+// The server's own words, where it has any that say more than a status.
+QString detailOf(ipp_t *answer, ipp_status_t status)
+{
+    ipp_attribute_t *message = answer ? ippFindAttribute(answer, "status-message", IPP_TAG_TEXT) : nullptr;
+    const QString words = message ? QString::fromUtf8(ippGetString(message, 0, nullptr)) : QString();
+    return words.isEmpty() || words.startsWith(QLatin1String("successful-ok"))
+               ? QString::fromUtf8(ippErrorString(status))
+               : words;
+}
+
+PrintError refusedLogin(const QString &printer)
+{
+    return {PrintError::Kind::NotAuthorised,
+            printer.isEmpty()
+                ? ServerText::tr("The print server %1 wants a user name and a password.")
+                      .arg(ServerConnection::serverName())
+                : ServerText::tr("The printer “%1” wants a user name and a password.").arg(printer)};
+}
+
+} // namespace
+
+// libcups asks a function of the thread for passwords. Outside of requests that is one that refuses: its own
+// would ask on the terminal.
+class LoginScope
+{
+public:
+    explicit LoginScope(ServerConnection *connection)
+    {
+        if (connection->m_login->given)
+            cupsSetUser(connection->m_login->given->user.toUtf8().constData());
+        cupsSetPasswordCB2(
+            [](const char *, http_t *, const char *, const char *, void *self) {
+                return static_cast<ServerConnection *>(self)->nextPassword();
+            },
+            connection);
+    }
+    ~LoginScope() { ServerConnection::askNobody(); }
+    LoginScope(const LoginScope &) = delete;
+    LoginScope &operator=(const LoginScope &) = delete;
+};
+
+struct ServerConnection::Upload
+{
+    QIODevice *document;
+    const std::function<void(qint64)> &progress;
+    qint64 start = 0;
+};
+
+bool Reply::succeeded() const
+{
+    return fate == Fate::Answered && status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+PrintError Reply::error(const QString &printer) const
+{
+    using Kind = PrintError::Kind;
+    const QString server = ServerConnection::serverName();
+    switch (fate) {
+    case Fate::NotSent:
+        return {Kind::ServerAway, ServerText::tr("The print server %1 cannot be reached.").arg(server)};
+    case Fate::Lost:
+        return {Kind::ConnectionLost,
+                wasGarbled
+                    ? ServerText::tr("The print server %1 gave an answer that cannot be understood.")
+                          .arg(server)
+                    : ServerText::tr("The connection to the print server %1 broke off.").arg(server)};
+    case Fate::Stopped:
+        return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
+    case Fate::Refused:
+        if (httpStatus == HTTP_STATUS_UNAUTHORIZED || httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED)
+            return refusedLogin(printer);
+        if (httpStatus == HTTP_STATUS_FORBIDDEN)
+            return {Kind::NotAuthorised, ServerText::tr("The print server %1 does not let you do this (%2).")
+                                             .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};
+        return {Kind::Other, ServerText::tr("The print server %1 refused the request (%2).")
+                                 .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};
+    case Fate::Answered:
+        break;
+    }
+    const QString detail = detailOf(message.get(), status);
+    switch (status) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+        if (!printer.isEmpty())
+            return {Kind::NoSuchPrinter, ServerText::tr("There is no printer called “%1”.").arg(printer)};
+        return {Kind::NoPrinters, ServerText::tr("No printer has been set up.")};
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+        return {Kind::QueueRejecting,
+                ServerText::tr("The printer “%1” is not accepting jobs at the moment.").arg(printer)};
+    case IPP_STATUS_ERROR_FORBIDDEN:
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_ACCOUNT_AUTHORIZATION_FAILED:
+    case IPP_STATUS_ERROR_ACCOUNT_CLOSED:
+    case IPP_STATUS_ERROR_ACCOUNT_LIMIT_REACHED:
+        return {Kind::NotAuthorised,
+                ServerText::tr("You are not allowed to print to “%1” (%2).").arg(printer, detail)};
+    case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
+        return {Kind::UnsupportedFormat,
+                ServerText::tr("The printer “%1” cannot print documents of this type.").arg(printer)};
+    default:
+        return {Kind::Other, ServerText::tr("The print server reports: %1").arg(detail)};
+    }
+}
+
+ServerConnection::ServerConnection(LoginKeeper *login) : m_login(login) {}
+
+ServerConnection::~ServerConnection() = default;
+
+void ServerConnection::askNobody()
+{
+    cupsSetPasswordCB2(
+        [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; },
+        nullptr);
+}
+
+QString ServerConnection::serverName()
+{
+    return QString::fromUtf8(cupsServer());
+}
+
+bool ServerConnection::connect()
+{
+    if (m_http)
+        return true;
+    m_offeredLogin = false;
+    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTime,
+                              nullptr));
+    if (!m_http)
+        return false;
+    const auto moves = [](http_t *, void *self) {
+        return static_cast<ServerConnection *>(self)->goesOn() ? 1 : 0;
+    };
+    httpSetTimeout(m_http.get(), 1.0, moves, this); // seconds between looks
+    m_idle.start();
+    return true;
+}
+
+bool ServerConnection::goesOn()
+{
+    return m_idle.elapsed() < idleTime && !(m_stop && m_stop());
+}
+
+const char *ServerConnection::nextPassword()
+{
+    const bool again = m_offeredLogin;
+    if (again || !m_login->given) {
+        const QString user = QString::fromUtf8(cupsUser());
+        m_login->given = m_login->prompt ? m_login->prompt({serverName(), user, again}) : std::nullopt;
+        m_idle.restart(); // people take their time
+    }
+    if (!m_login->given)
+        return nullptr;
+    m_offeredLogin = true;
+    cupsSetUser(m_login->given->user.toUtf8().constData());
+    m_password = m_login->given->password.toUtf8();
+    return m_password.constData();
+}
+
+Reply ServerConnection::ask(IppPointer request, const QByteArray &resource)
+{
+    return exchange(std::move(request), resource, nullptr);
+}
+
+Reply ServerConnection::send(IppPointer request, const QByteArray &resource, QIODevice *document,
+                             const std::function<void(qint64)> &progress)
+{
+    Upload upload{document, progress, document->pos()};
+    return exchange(std::move(request), resource, &upload);
+}
+
+Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource, Upload *upload)
+{
+    const LoginScope scope(this);
+    Reply reply;
+    for (int attempt = 0; attempt < mostLogins; ++attempt) {
+        if (!connect())
+            return {};
+        m_idle.restart();
+        reply = exchangeOnce(request.get(), resource, upload);
+        if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
+            m_http.reset(); // what else comes on it belongs to this request
+        // Refused for want of a login, which libcups has by now: the server has done nothing with it.
+        const bool isWorthAnother = reply.fate == Reply::Fate::Refused && reply.wasSentWhole &&
+                                    reply.httpStatus == HTTP_STATUS_UNAUTHORIZED;
+        if (!isWorthAnother || (upload && !upload->document->seek(upload->start)))
+            break;
+    }
+    return reply;
+}
+
+Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource, Upload *upload)
+{
+    Reply reply;
+    const size_t length = upload ? CUPS_LENGTH_VARIABLE : ippLength(request);
+    const http_status_t status = cupsSendRequest(m_http.get(), request, resource.constData(), length);
+    if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK) {
+        reply.httpStatus = status;
+        if (status == HTTP_STATUS_SERVICE_UNAVAILABLE)
+            reply.fate = Reply::Fate::NotSent;
+        else
+            reply.fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
+        if (reply.fate == Reply::Fate::Lost && m_stop && m_stop())
+            reply.fate = Reply::Fate::Stopped;
+        return reply;
+    }
+    if (upload && !writeDocument(upload, &reply))
+        return reply;
+    reply.wasSentWhole = true;
+    m_idle.restart();
+    readAnswer(request, resource, &reply);
+    return reply;
+}
+
+// False, with the reply's fate, when the document did not go through to its end. The request is then left
+// unfinished, so that the server drops it.
+bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
+{
+    QByteArray block(blockSize, Qt::Uninitialized);
+    qint64 sent = 0;
+    while (true) {
+        if (m_stop && m_stop()) {
+            reply->fate = Reply::Fate::Stopped;
+            return false;
+        }
+        const qint64 count = upload->document->read(block.data(), block.size());
+        if (count < 0)
+            reply->fate = Reply::Fate::Stopped;
+        if (count <= 0)
+            return count == 0;
+        const http_status_t status =
+            cupsWriteRequestData(m_http.get(), block.constData(), static_cast<size_t>(count));
+        if (status != HTTP_STATUS_CONTINUE) {
+            reply->httpStatus = status;
+            reply->fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
+            if (reply->fate == Reply::Fate::Lost && m_stop && m_stop())
+                reply->fate = Reply::Fate::Stopped;
+            return false;
+        }
+        m_idle.restart();
+        sent += count;
+        if (upload->progress)
+            upload->progress(sent);
+    }
+}
+
+void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Reply *reply)
+{
+    reply->message.reset(cupsGetResponse(m_http.get(), resource.constData()));
+    reply->httpStatus = httpGetStatus(m_http.get());
+    if (reply->message && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
+        reply->fate = Reply::Fate::Answered;
+        reply->status = ippGetStatusCode(reply->message.get());
+        return;
+    }
+    // A server that breaks down while it works on a request (5xx) may have done it.
+    const bool isRefusal =
+        (reply->httpStatus >= HTTP_STATUS_BAD_REQUEST && reply->httpStatus < HTTP_STATUS_SERVER_ERROR) ||
+        reply->httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+    reply->fate = isRefusal ? Reply::Fate::Refused : Reply::Fate::Lost;
+    reply->wasGarbled = reply->message || httpError(m_http.get()) == EINVAL ||
+                        reply->httpStatus >= HTTP_STATUS_SERVER_ERROR;
+    reply->message.reset();
+}
+
+http_status_t ServerConnection::requestFile(const QByteArray &resource)
+{
+    for (int attempt = 0; attempt < 2 * mostLogins; ++attempt) { // libcups gives each login twice
+        httpClearFields(m_http.get());
+        if (const char *login = httpGetAuthString(m_http.get()))
+            httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, login);
+        if (httpGet(m_http.get(), resource.constData()) != 0)
+            return HTTP_STATUS_ERROR;
+        http_status_t status = HTTP_STATUS_CONTINUE;
+        while (status == HTTP_STATUS_CONTINUE)
+            status = httpUpdate(m_http.get());
+        if (status != HTTP_STATUS_UNAUTHORIZED)
+            return status;
+        httpFlush(m_http.get());
+        if (cupsDoAuthentication(m_http.get(), "GET", resource.constData()) != 0)
+            return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+        if (httpReconnect2(m_http.get(), connectTime, nullptr) != 0)
+            return HTTP_STATUS_ERROR;
+        m_idle.restart();
+    }
+    return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+}
+
+std::optional<QByteArray> ServerConnection::fetch(const QByteArray &resource, qint64 limit, PrintError *error)
+{
+    const LoginScope scope(this);
+    Reply reply;
+    if (!connect()) {
+        *error = reply.error({});
+        return std::nullopt;
+    }
+    m_idle.restart();
+    reply.httpStatus = requestFile(resource);
+    QByteArray content;
+    QByteArray block(blockSize, Qt::Uninitialized);
+    while (reply.httpStatus == HTTP_STATUS_OK && content.size() <= limit) {
+        const auto count = httpRead2(m_http.get(), block.data(), static_cast<size_t>(block.size()));
+        if (count <= 0)
+            break;
+        m_idle.restart();
+        content.append(block.constData(), count);
+    }
+    // The connection waits for the next request when all of the file has come.
+    const bool isWhole = httpGetState(m_http.get()) == HTTP_STATE_WAITING && content.size() <= limit;
+    if (reply.httpStatus == HTTP_STATUS_OK && isWhole)
+        return content;
+    m_http.reset();
+    if (reply.httpStatus == HTTP_STATUS_NOT_FOUND)
+        return std::nullopt;
+    reply.fate = isErrorStatus(reply.httpStatus) ? Reply::Fate::Refused : Reply::Fate::Lost;
+    *error = reply.error({});
+    if (content.size() > limit)
+        *error = {PrintError::Kind::Other,
+                  ServerText::tr("The print server %1 sends a file of more than %2 megabytes.")
+                      .arg(serverName())
+                      .arg(limit / (1024 * 1024))};
+    return std::nullopt;
+}
+
+} // namespace host

@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""A way to a print server on which chosen requests go wrong: faulty_proxy.py LISTEN SERVER FAULT [NUMBER]
+
+LISTEN and SERVER are socket paths. The fault strikes the request NUMBER (counted from 1) of its operation, and
+every one after it:
+  create-lost create-garbage create-negative   Create-Job arrives; its answer is lost, garbage, or names job -5
+  send-lost send-garbage send-truncated        Send-Document arrives; what comes back is not the whole answer
+  send-dropped                                 Send-Document is read and goes nowhere
+  send-cut                                     the connection breaks in the middle of the document
+  login                                        everything below /printers/ needs the user "anna", password "secret"
+  none                                         all goes well
+"""
+import base64
+import http.client
+import http.server
+import os
+import socket
+import socketserver
+import struct
+import sys
+import threading
+
+listen, server, fault = sys.argv[1:4]
+first = int(sys.argv[4]) if len(sys.argv) > 4 else 1
+operations = {"create": 5, "send": 6}
+seen = {}
+lock = threading.Lock()
+
+
+class Upstream(http.client.HTTPConnection):
+    def connect(self):
+        self.sock = socket.socket(socket.AF_UNIX)
+        self.sock.connect(server)
+
+
+class Broken(Exception):
+    pass
+
+
+class Relay(http.server.BaseHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"
+
+    def log_message(self, *_):
+        pass
+
+    def address_string(self):
+        return "here"
+
+    def read_body(self):
+        if self.headers.get("Transfer-Encoding", "").lower() != "chunked":
+            return self.rfile.read(int(self.headers.get("Content-Length", 0)))
+        body = b""
+        while True:
+            line = self.rfile.readline()
+            size = int(line, 16) if line.strip() else -1
+            if size < 0:
+                raise Broken
+            body += self.rfile.read(size)
+            self.rfile.readline()
+            if size == 0:
+                return body
+            if fault == "send-cut" and body[2:4] == b"\0\6" and self.strikes("send", count=len(body) <= size) and len(body) > 20000:
+                raise Broken
+
+    def strikes(self, kind, count=True):
+        with lock:
+            if count:
+                seen[kind] = seen.get(kind, 0) + 1
+            return fault.startswith(kind) and seen.get(kind, 0) >= first
+
+    def is_admitted(self):
+        if fault != "login" or not self.path.startswith("/printers/"):
+            return True
+        return self.headers.get("Authorization") == "Basic " + base64.b64encode(b"anna:secret").decode()
+
+    def relay(self):
+        if not self.is_admitted():
+            self.close_connection = True
+            self.send_response(401)
+            self.send_header("WWW-Authenticate", 'Basic realm="CUPS"')
+            self.send_header("Content-Length", "0")
+            self.end_headers()
+            return
+        body = self.read_body()
+        operation = struct.unpack(">H", body[2:4])[0] if len(body) > 8 else 0
+        kind = next((k for k, o in operations.items() if o == operation), "")
+        hit = kind and fault != "send-cut" and self.strikes(kind)
+        if hit and fault == "send-dropped":
+            raise Broken
+        upstream = Upstream("localhost")
+        headers = {k: v for k, v in self.headers.items()
+                   if k.lower() not in ("transfer-encoding", "expect", "content-length", "authorization")}
+        upstream.request(self.command, self.path, body or None, headers)
+        answer = upstream.getresponse()
+        content = answer.read()
+        upstream.close()
+        if hit and fault.endswith("-lost"):
+            raise Broken
+        if hit and fault.endswith("-garbage"):
+            content = os.urandom(200)
+        if hit and fault == "create-negative":
+            at = content.index(b"job-id") + 8
+            content = content[:at] + struct.pack(">i", -5) + content[at + 4:]
+        self.send_response(answer.status)
+        self.send_header("Content-Type", answer.headers.get("Content-Type", "application/ipp"))
+        self.send_header("Content-Length", str(len(content)))
+        self.end_headers()
+        if hit and fault == "send-truncated":
+            self.wfile.write(content[:len(content) // 2])
+            raise Broken
+        self.wfile.write(content)
+
+    def do_POST(self):
+        try:
+            self.relay()
+        except (Broken, OSError, ValueError):
+            self.close_connection = True
+
+    do_GET = do_POST
+
+
+class Server(socketserver.ThreadingMixIn, socketserver.UnixStreamServer):
+    daemon_threads = True
+
+
+with Server(listen, Relay) as proxy:
+    print("ready", flush=True)
+    proxy.serve_forever()

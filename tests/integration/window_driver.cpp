@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Prints through the window as a user does: window_driver QUEUE TITLE FILE... Writes the outcome and the job's
+// number.
+
+#include "host/window/message_bar.h"
+#include "host/window/print_window.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+using namespace host;
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    const QStringList words = QApplication::arguments();
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.printer = words.value(1);
+    task.title = words.value(2);
+    task.files = words.mid(3);
+    PrintWindow window(system, none, task);
+    PrintError error;
+    if (!window.open(&error))
+        return 2;
+    window.show();
+    window.print();
+    const auto &submission = window.submission();
+    std::printf("%s %d %s\n", submission ? qPrintable(submission->code()) : "rejected",
+                submission ? submission->job.id : 0, qPrintable(window.messageBar()->text()));
+    return 0;
+}
