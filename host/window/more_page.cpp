@@ -8,60 +8,85 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
 
 namespace host {
 
 namespace {
 
-struct Group
-{
-    QString title;
-    QStringList keywords;
-};
-
-QList<Group> groupsOf(const DialogSession &session)
-{
-    QList<Group> groups;
-    for (const QString &keyword : session.otherKeywords()) {
-        const QString title = session.ppd()->option(keyword)->groupText;
-        if (groups.isEmpty() || groups.last().title != title)
-            groups.append({title, {}});
-        groups.last().keywords.append(keyword);
-    }
-    return groups;
-}
+constexpr qsizetype rowsInPart = 10; // built in a few milliseconds
+constexpr qsizetype rowsAtOnce = 20; // more than a window of usual height shows
 
 } // namespace
 
-MorePage::MorePage(DialogSession *session, QWidget *parent) : QWidget(parent)
+MorePage::MorePage(DialogSession *session, QWidget *parent)
+    : QWidget(parent), m_session(session), m_grid(new QGridLayout(this)), m_toBuild(partsOf(*session))
 {
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 20, 24, 20);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(10);
-    grid->setColumnStretch(2, 1);
-    Mnemonics mnemonics;
-    mnemonics.reserve(tr("&Printer:"));
-    mnemonics.reserve(tr("&Print"));
-    const QList<Group> groups = groupsOf(*session);
-    for (const Group &group : groups) {
-        if (groups.size() > 1) {
-            auto *title = new QLabel(group.title, this);
-            title->setTextFormat(Qt::PlainText);
-            QFont bold = title->font();
-            bold.setWeight(QFont::DemiBold);
-            title->setFont(bold);
-            if (&group != &groups.first())
-                title->setContentsMargins(0, 12, 0, 0);
-            grid->addWidget(title, grid->rowCount(), 0, 1, 3);
-        }
-        auto *form = new OptionForm(session, group.keywords, grid, &mnemonics, this);
-        connect(form, &OptionForm::chosen, this, &MorePage::chosen);
-        // One choice may free or forbid those of another group.
-        connect(form, &OptionForm::chosen, this, &MorePage::refresh);
-        m_forms.append(form);
+    m_grid->setContentsMargins(24, 20, 24, 20);
+    m_grid->setHorizontalSpacing(12);
+    m_grid->setVerticalSpacing(10);
+    m_grid->setColumnStretch(2, 1);
+    m_mnemonics.reserve(tr("&Printer:"));
+    m_mnemonics.reserve(tr("&Print"));
+    while (!m_toBuild.isEmpty() && m_grid->rowCount() < rowsAtOnce)
+        buildNext();
+}
+
+QList<MorePage::Part> MorePage::partsOf(const DialogSession &session) const
+{
+    QList<Part> parts;
+    QString title;
+    for (const QString &keyword : session.otherKeywords()) {
+        const QString group = session.ppd()->option(keyword)->groupText;
+        const bool begins = parts.isEmpty() || group != title;
+        if (begins || parts.last().keywords.size() == rowsInPart)
+            parts.append({begins ? group : QString(), {}});
+        title = group;
+        parts.last().keywords.append(keyword);
     }
-    grid->setRowStretch(grid->rowCount(), 1);
+    const auto groups =
+        std::count_if(parts.begin(), parts.end(), [](const Part &p) { return !p.title.isNull(); });
+    if (groups == 1)
+        parts.first().title = QString();
+    return parts;
+}
+
+void MorePage::build(const Part &part)
+{
+    if (!part.title.isNull()) {
+        auto *title = new QLabel(part.title, this);
+        title->setTextFormat(Qt::PlainText);
+        QFont bold = title->font();
+        bold.setWeight(QFont::DemiBold);
+        title->setFont(bold);
+        if (!m_forms.isEmpty())
+            title->setContentsMargins(0, 12, 0, 0);
+        m_grid->addWidget(title, m_grid->rowCount(), 0, 1, 3);
+    }
+    auto *form = new OptionForm(m_session, part.keywords, m_grid, &m_mnemonics, this);
+    connect(form, &OptionForm::chosen, this, &MorePage::chosen);
+    // One choice may free or forbid those of another part.
+    connect(form, &OptionForm::chosen, this, &MorePage::refresh);
+    m_forms.append(form);
+}
+
+void MorePage::buildNext()
+{
+    build(m_toBuild.takeFirst());
+    if (m_toBuild.isEmpty())
+        m_grid->setRowStretch(m_grid->rowCount(), 1);
+    else if (m_painted)
+        QTimer::singleShot(0, this, &MorePage::buildNext);
+}
+
+void MorePage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_painted, true) && !m_toBuild.isEmpty())
+        QTimer::singleShot(0, this, &MorePage::buildNext);
 }
 
 void MorePage::refresh()

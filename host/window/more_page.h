@@ -3,15 +3,21 @@
 
 #pragma once
 
+#include "host/window/mnemonics.h"
+
+#include <QStringList>
 #include <QWidget>
+
+class QGridLayout;
 
 namespace host {
 
 class DialogSession;
 class OptionForm;
 
-// The options of the PPD that no other page shows, such as finishing, group by group. The session is borrowed
-// and outlives the page.
+// The options of the PPD that no other page shows, such as finishing, group by group. Builds the rows that
+// fit on a screen at once, and the others bit by bit after it has been painted. The session is borrowed and
+// outlives the page.
 class MorePage : public QWidget
 {
     Q_OBJECT
@@ -22,8 +28,26 @@ public:
 Q_SIGNALS:
     void chosen(const QString &keyword);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
+    // A few rows of one group.
+    struct Part
+    {
+        QString title; // nil for rows that go on where the part before ends
+        QStringList keywords;
+    };
+    QList<Part> partsOf(const DialogSession &session) const;
+    void build(const Part &part);
+    void buildNext();
+
+    DialogSession *m_session;
+    QGridLayout *m_grid;
+    Mnemonics m_mnemonics;
+    QList<Part> m_toBuild;
     QList<OptionForm *> m_forms;
+    bool m_painted = false;
 };
 
 } // namespace host

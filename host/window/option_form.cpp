@@ -46,7 +46,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mn
     const int row = grid->rowCount();
     grid->addWidget(label, row, 0);
     grid->addWidget(box, row, 1);
-    m_rows.append({option->keyword, box});
+    m_rows.append({.keyword = option->keyword, .box = box});
     connect(box, &QComboBox::activated, this, [this, box, keyword] {
         m_session->markChoice(keyword, box->currentData().toString());
         refresh();
@@ -65,19 +65,33 @@ QComboBox *OptionForm::box(const QString &keyword) const
 
 void OptionForm::refresh()
 {
-    for (const Row &row : m_rows)
+    for (Row &row : m_rows)
         refreshRow(row);
 }
 
-void OptionForm::refreshRow(const Row &row)
+void OptionForm::refreshRow(Row &row)
 {
     const QString current = m_session->ppd()->markedChoice(row.keyword);
-    row.box->setCurrentIndex(row.box->findData(current));
+    const quint32 revision = m_session->ppd()->forbiddenRevision(row.keyword);
+    if (row.isDecided && row.current == current && row.revision == revision) {
+        row.box->setCurrentIndex(row.index);
+        return;
+    }
+    row.index = row.box->findData(current);
+    row.box->setCurrentIndex(row.index);
+    row.current = current;
+    row.revision = revision;
+    row.isDecided = true;
+    greyOut(row);
+}
+
+void OptionForm::greyOut(const Row &row)
+{
     const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
     auto *items = qobject_cast<QStandardItemModel *>(row.box->model());
     for (int i = 0; items && i < items->rowCount(); ++i) {
         const QString choice = row.box->itemData(i).toString();
-        const bool free = choice == current || !forbidden.contains(choice);
+        const bool free = choice == row.current || !forbidden.contains(choice);
         items->item(i)->setEnabled(free);
         items->item(i)->setToolTip(free ? QString()
                                         : tr("Not together with %1").arg(forbidden.value(choice).text()));

@@ -42,9 +42,15 @@ private:
     {
         QString keyword;
         QComboBox *box;
+        // What the greying was decided for; it holds while these are the same.
+        quint32 revision = 0;
+        QString current = QString();
+        int index = -1;
+        bool isDecided = false;
     };
     void addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics);
-    void refreshRow(const Row &row);
+    void refreshRow(Row &row);
+    void greyOut(const Row &row);
 
     DialogSession *m_session;
     QList<Row> m_rows;
