@@ -70,8 +70,8 @@ void installTranslations(QApplication *app)
     }
 }
 
-// Takes the places of standard streams that were closed: no file of the program may get there. What is written
-// or read there fails all the same.
+// Takes the places of standard streams that were closed: no file of the program may get there. What is
+// written or read there fails all the same.
 void occupyStandardStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -83,7 +83,8 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     };
     PrintWindow window(system, extensions, task);
     opened = &window;
-    system.setLoginPrompt([&window](const LoginQuestion &question) { return askForLogin(question, &window); });
+    system.setLoginPrompt(
+        [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
     PrintError error;
     if (!window.open(&error)) {
         err->write("kelmar-print: " + error.message.toUtf8() + '\n');

@@ -225,7 +225,8 @@ QString helpText()
     }
     text += ArgumentsText::tr(
         "\nExit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,\n"
-        "4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.\n");
+        "4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells "
+        "more.\n");
     return text;
 }
 

@@ -40,7 +40,8 @@ class ResultWriter
 {
 public:
     ResultWriter(QIODevice *out, QIODevice *err) : m_out(out), m_err(err) {}
-    // Writes the beginning of a JSON result. Like write(), false, with a complaint, when `out` does not take it.
+    // Writes the beginning of a JSON result. Like write(), false, with a complaint, when `out` does not take
+    // it.
     bool begin();
     bool write(const BatchResult &result, bool asJson);
 

@@ -92,7 +92,8 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
     (void)closer.open(terminal, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle);
     const HeldSignals signalsWait; // until the terminal echoes again
     if (question.again)
-        say(terminal, TerminalText::tr("The user name or the password was not accepted.") + QLatin1Char('\n'));
+        say(terminal,
+            TerminalText::tr("The user name or the password was not accepted.") + QLatin1Char('\n'));
     say(terminal, TerminalText::tr("User name for %1 [%2]: ").arg(question.server, question.user));
     auto user = readLine(terminal);
     if (!user)

@@ -69,6 +69,8 @@ void describeFormat(Document *document, const QByteArray &head)
     const QMimeType type = QMimeDatabase().mimeTypeForData(head);
     document->format = type.name();
     document->formatText = type.comment();
+    document->otherFormats = type.aliases() + type.allAncestors();
+    document->otherFormats.removeAll(QStringLiteral("application/octet-stream")); // says nothing
     document->isDrawingInText = isDrawingInText(type, head);
     if (document->isDrawingInText && !type.name().startsWith(QLatin1String("image/"))) {
         const QMimeType svg = QMimeDatabase().mimeTypeForName(QStringLiteral("image/svg+xml"));
@@ -166,7 +168,8 @@ std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error)
 {
     auto spool = std::make_unique<QFile>();
     const int fd = namelessFile(QFile::encodeName(QDir::tempPath()));
-    if (fd < 0 || !spool->open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+    if (fd < 0 ||
+        !spool->open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
         *error = spoolProblem(qt_error_string(errno));
         return nullptr;
     }
@@ -175,15 +178,20 @@ std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error)
         const qint64 count = input->read(block.data(), block.size());
         const auto *file = qobject_cast<QFileDevice *>(input);
         if (count <= 0 && file && file->error() != QFileDevice::NoError) {
-            *error = {PrintError::Kind::Other, DocumentText::tr("The standard input cannot be read: %1.")
-                                                   .arg(input->errorString())};
+            *error = {PrintError::Kind::Other,
+                      DocumentText::tr("The standard input cannot be read: %1.").arg(input->errorString())};
             return nullptr;
         }
         if (count <= 0)
             break;
-        if (spool->write(block.constData(), count) != count) {
-            *error = spoolProblem(spool->errorString());
-            return nullptr;
+        // A full disk takes a part first, and gives its reason with the rest.
+        for (qint64 done = 0; done < count;) {
+            const qint64 taken = spool->write(block.constData() + done, count - done);
+            if (taken <= 0) {
+                *error = spoolProblem(spool->errorString());
+                return nullptr;
+            }
+            done += taken;
         }
     }
     if (spool->size() == 0) {
@@ -219,11 +227,12 @@ std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *in
     if (!spool) {
         QFile own;
         QString problem;
-        const bool isOpen = isInput ? input || own.open(stdin, QIODevice::ReadOnly)
-                                    : openForReading(&own, path, &problem);
+        const bool isOpen =
+            isInput ? input || own.open(stdin, QIODevice::ReadOnly) : openForReading(&own, path, &problem);
         if (!isOpen) {
-            *error = {PrintError::Kind::Other, DocumentText::tr("The file “%1” cannot be read: %2.")
-                                                   .arg(readableFileName(path), problem)};
+            *error = {
+                PrintError::Kind::Other,
+                DocumentText::tr("The file “%1” cannot be read: %2.").arg(readableFileName(path), problem)};
             return std::nullopt;
         }
         spool = spoolInput(isInput && input ? input : &own, error);

@@ -22,10 +22,11 @@ namespace host {
 struct Document
 {
     QString path;
-    QString name;       // for people and the job's title
-    QString format;     // MIME type as far as the content tells, else "application/octet-stream"
-    QString formatText; // the type in words; may be empty
-    qint64 size = 0;    // bytes
+    QString name;                 // for people and the job's title
+    QString format;               // MIME type as far as the content tells, else "application/octet-stream"
+    QString formatText;           // the type in words; may be empty
+    QStringList otherFormats;     // other names of the type, and more general ones that it is a kind of
+    qint64 size = 0;              // bytes
     bool isDrawingInText = false; // a picture that is written as text, such as SVG
 };
 

@@ -9,8 +9,8 @@
 
 namespace host {
 
-// File names are bytes. These carry any of them through a QString and back: a name that is not UTF-8 keeps its
-// bytes above 127 as lone surrogates (U+DC80 to U+DCFF), which no text has.
+// File names are bytes. These carry any of them through a QString and back: a name that is not UTF-8 keeps
+// its bytes above 127 as lone surrogates (U+DC80 to U+DCFF), which no text has.
 QString fileNameFromBytes(const QByteArray &bytes);
 QByteArray fileNameToBytes(const QString &name);
 // For people: a sign of replacement for each byte that is no text.

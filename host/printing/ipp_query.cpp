@@ -46,9 +46,9 @@ QByteArray resourceOf(const QByteArray &printerUri)
     std::array<char, HTTP_MAX_URI> scheme{}, user{}, host{}, resource{};
     int port = 0;
     const auto size = [](const auto &buffer) { return static_cast<int>(buffer.size()); };
-    const http_uri_status_t status = httpSeparateURI(
-        HTTP_URI_CODING_ALL, printerUri.constData(), scheme.data(), size(scheme), user.data(), size(user),
-        host.data(), size(host), &port, resource.data(), size(resource));
+    const http_uri_status_t status =
+        httpSeparateURI(HTTP_URI_CODING_ALL, printerUri.constData(), scheme.data(), size(scheme), user.data(),
+                        size(user), host.data(), size(host), &port, resource.data(), size(resource));
     return status >= HTTP_URI_STATUS_OK ? QByteArray(resource.data()) : QByteArrayLiteral("/");
 }
 

@@ -78,15 +78,13 @@ JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
     IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
     ServerConnection server(m_login);
-    server.setStop(m_stop);
     Reply reply = server.ask(std::move(request), m_resource);
     if (reply.succeeded()) {
         *job = read(std::move(reply.message));
         return job->id == id ? Result::Found : Result::NoAnswer;
     }
-    const bool isGone =
-        reply.fate == Reply::Fate::Answered &&
-        (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
+    const bool isGone = reply.fate == Reply::Fate::Answered &&
+                        (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
     return isGone ? Result::NotThere : Result::NoAnswer;
 }
 
@@ -98,7 +96,6 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     ServerConnection server(m_login);
-    server.setStop(m_stop);
     const Reply reply = server.ask(std::move(request), m_resource);
     if (!reply.succeeded())
         return Result::NoAnswer;

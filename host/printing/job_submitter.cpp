@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QUuid>
 
+#include <algorithm>
 #include <chrono>
 
 namespace host {
@@ -49,6 +50,17 @@ PrintError unreadable(const QString &path, const QString &reason)
             SubmitText::tr("The file “%1” cannot be read: %2.").arg(readableFileName(path), reason)};
 }
 
+// What a print server would hand to the printer as it is, byte by byte: programs, archives, sound.
+bool isNothingToPrint(const Document &document, const QStringList &supported)
+{
+    const bool isPrintable = document.format.startsWith(QLatin1String("text/")) ||
+                             document.format.startsWith(QLatin1String("image/")) ||
+                             document.format == QLatin1String(undecidedFormat);
+    const QStringList names = QStringList(document.format) + document.otherFormats;
+    return !isPrintable && std::none_of(names.begin(), names.end(),
+                                        [&](const QString &name) { return supported.contains(name); });
+}
+
 } // namespace
 
 JobSubmitter::JobSubmitter(const JobRequest &request, const SubmissionWatch &watch, LoginKeeper *login)
@@ -77,7 +89,7 @@ Submission JobSubmitter::submit()
         if (!sendDocument(i, &problem))
             return concluded(problem);
     }
-    return accepted();
+    return kept();
 }
 
 bool JobSubmitter::checkQueue(PrintError *error)
@@ -114,28 +126,29 @@ void JobSubmitter::takeOptions()
             m_forcedFormat = rawFormat;
         else if (isFormat)
             m_forcedFormat = option.value.toUtf8();
-        const bool isServers = option.kind == JobOption::Kind::Preference &&
-                               m_queue.defaults.value(option.name) == option.value;
+        const bool isServers =
+            option.kind == JobOption::Kind::Preference && m_queue.defaults.value(option.name) == option.value;
         return isRaw || isFormat || isServers;
     });
 }
 
-// The server knows best what its filters take, and looks into documents. But it would take a drawing in XML
-// for the text that it is written in.
 std::optional<QByteArray> JobSubmitter::formatOf(const Document &document, PrintError *error) const
 {
     if (!m_forcedFormat.isEmpty())
         return m_forcedFormat;
     const QStringList &supported = m_queue.formats;
+    // The server knows best what its filters take, and looks into documents. But it would take a drawing in
+    // XML for the text that it is written in.
     const bool looks = supported.isEmpty() || supported.contains(QLatin1String(undecidedFormat));
-    if (looks && !document.isDrawingInText)
+    if (looks && !document.isDrawingInText && !isNothingToPrint(document, supported))
         return undecidedFormat;
     if (supported.contains(document.format))
         return document.format.toUtf8();
     const QString type = document.formatText.isEmpty() ? document.format : document.formatText;
-    *error = {PrintError::Kind::UnsupportedFormat,
-              SubmitText::tr("“%1” cannot be printed: the printer “%2” does not take documents of the type %3.")
-                  .arg(document.name, m_request.destination.displayName(), type)};
+    *error = {
+        PrintError::Kind::UnsupportedFormat,
+        SubmitText::tr("“%1” cannot be printed: the printer “%2” does not take documents of the type %3.")
+            .arg(document.name, m_request.destination.displayName(), type)};
     return std::nullopt;
 }
 
@@ -231,15 +244,17 @@ Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &fou
 {
     const bool confirmed = m_lookup.cancel(found.id);
     JobOnServer after;
-    const bool isThere = m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) ==
-                         JobLookup::Result::Found;
+    const bool isThere =
+        m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) == JobLookup::Result::Found;
     const bool isOver = isThere && after.status.isFinal();
-    if (m_mayPrint && (!isOver || after.hasBegun))
+    // A server that broke down may have forgotten that it had begun to print what it had got whole.
+    if (m_mayBeWhole || (m_mayPrint && (!isOver || after.hasBegun)))
         return unknown(why);
     if (confirmed || isOver)
         return rejected(why);
     PrintError more = why;
-    more.message += QLatin1Char(' ') + SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id);
+    more.message +=
+        QLatin1Char(' ') + SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id);
     return rejected(more);
 }
 
@@ -260,13 +275,27 @@ Submission JobSubmitter::unknown(const PrintError &why) const
     return result;
 }
 
-Submission JobSubmitter::accepted(JobOnServer found)
+// Every document has been taken. A server that breaks down right after that may forget the job.
+Submission JobSubmitter::kept()
+{
+    JobOnServer found;
+    auto result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(0), &found);
+    if (result != JobLookup::Result::NoAnswer)
+        return accepted(std::move(found));
+    result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
+    if (result == JobLookup::Result::Found && isWhole(found))
+        return accepted(std::move(found));
+    Reply broken;
+    broken.fate = Reply::Fate::Lost;
+    return unknown(broken.error(m_request.destination.displayName()));
+}
+
+Submission JobSubmitter::accepted(JobOnServer found) const
 {
     Submission result;
     result.outcome = Submission::Outcome::Accepted;
     result.job.id = m_id;
-    if (!found.attributes &&
-        m_lookup.byToken(m_id, m_token, QDeadlineTimer(0), &found) != JobLookup::Result::Found) {
+    if (!found.attributes) {
         result.job.differences.append(
             SubmitText::tr("The print server did not tell which settings it kept for the job."));
         return result;

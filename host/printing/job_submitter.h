@@ -32,7 +32,8 @@ private:
     bool createJob(PrintError *error);
     bool sendDocument(qsizetype index, PrintError *error);
     IppPointer documentRequest(qsizetype index) const;
-    Submission accepted(JobOnServer found = {});
+    Submission kept();
+    Submission accepted(JobOnServer found) const;
     Submission concluded(const PrintError &why);
     // Ends a job that is not whole.
     Submission cancelled(const PrintError &why, const JobOnServer &found);
@@ -57,8 +58,8 @@ private:
     int m_id = 0;
     qint64 m_total = 0; // bytes of all documents
     qint64 m_sent = 0;
-    qint64 m_kilobytes = 0;   // of the documents sent whole, counted as the server does
-    bool m_mayPrint = false;  // a document may have arrived
+    qint64 m_kilobytes = 0;    // of the documents sent whole, counted as the server does
+    bool m_mayPrint = false;   // a document may have arrived
     bool m_mayBeWhole = false; // all of them may have
 };
 

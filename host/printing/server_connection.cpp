@@ -55,11 +55,9 @@ public:
     {
         if (connection->m_login->given)
             cupsSetUser(connection->m_login->given->user.toUtf8().constData());
-        cupsSetPasswordCB2(
-            [](const char *, http_t *, const char *, const char *, void *self) {
-                return static_cast<ServerConnection *>(self)->nextPassword();
-            },
-            connection);
+        cupsSetPasswordCB2([](const char *, http_t *, const char *, const char *,
+                              void *self) { return static_cast<ServerConnection *>(self)->nextPassword(); },
+                           connection);
     }
     ~LoginScope() { ServerConnection::askNobody(); }
     LoginScope(const LoginScope &) = delete;
@@ -86,11 +84,11 @@ PrintError Reply::error(const QString &printer) const
     case Fate::NotSent:
         return {Kind::ServerAway, ServerText::tr("The print server %1 cannot be reached.").arg(server)};
     case Fate::Lost:
-        return {Kind::ConnectionLost,
-                wasGarbled
-                    ? ServerText::tr("The print server %1 gave an answer that cannot be understood.")
-                          .arg(server)
-                    : ServerText::tr("The connection to the print server %1 broke off.").arg(server)};
+        return {
+            Kind::ConnectionLost,
+            wasGarbled
+                ? ServerText::tr("The print server %1 gave an answer that cannot be understood.").arg(server)
+                : ServerText::tr("The connection to the print server %1 broke off.").arg(server)};
     case Fate::Stopped:
         return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
     case Fate::Refused:
@@ -150,8 +148,8 @@ bool ServerConnection::connect()
     if (m_http)
         return true;
     m_offeredLogin = false;
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTime,
-                              nullptr));
+    m_http.reset(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTime, nullptr));
     if (!m_http)
         return false;
     const auto moves = [](http_t *, void *self) {
@@ -284,8 +282,8 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
         (reply->httpStatus >= HTTP_STATUS_BAD_REQUEST && reply->httpStatus < HTTP_STATUS_SERVER_ERROR) ||
         reply->httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
     reply->fate = isRefusal ? Reply::Fate::Refused : Reply::Fate::Lost;
-    reply->wasGarbled = reply->message || httpError(m_http.get()) == EINVAL ||
-                        reply->httpStatus >= HTTP_STATUS_SERVER_ERROR;
+    reply->wasGarbled =
+        reply->message || httpError(m_http.get()) == EINVAL || reply->httpStatus >= HTTP_STATUS_SERVER_ERROR;
     reply->message.reset();
 }
 

@@ -40,8 +40,8 @@ std::optional<Login> showDialog(const LoginQuestion &question, QWidget *parent)
     auto *form = new QFormLayout(&dialog);
     if (question.again)
         form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), &dialog));
-    form->addRow(sentence(
-        LoginText::tr("The print server %1 wants to know who prints.").arg(question.server), &dialog));
+    form->addRow(sentence(LoginText::tr("The print server %1 wants to know who prints.").arg(question.server),
+                          &dialog));
     form->addRow(LoginText::tr("&User name:"), user);
     form->addRow(LoginText::tr("&Password:"), password);
     form->addRow(buttons);

@@ -38,7 +38,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
       m_cancel(new QPushButton(tr("Cancel"), this)), m_print(new QPushButton(tr("&Print"), this))
 {
-    const QString document = m_task.files.isEmpty() ? QString() : readableFileName(QFileInfo(m_task.files.first()).fileName());
+    const QString document =
+        m_task.files.isEmpty() ? QString() : readableFileName(QFileInfo(m_task.files.first()).fileName());
     setWindowTitle(document.isEmpty() || document == QLatin1String("-") ? tr("Print")
                                                                         : tr("Print “%1”").arg(document));
     build();

@@ -388,7 +388,7 @@ void PrintWindowTest::escapeCancels()
     QSignalSpy finished(&window, &QDialog::finished);
     QTest::keyClick(&window, Qt::Key_Escape);
     QCOMPARE(finished.size(), 1);
-    QCOMPARE(window.result(), int(QDialog::Rejected));
+    QVERIFY(!window.submission());
     QVERIFY(m_system.submitted.isEmpty());
 }
 

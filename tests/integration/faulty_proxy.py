@@ -8,6 +8,8 @@ every one after it:
   create-lost create-garbage create-negative   Create-Job arrives; its answer is lost, garbage, or names job -5
   send-lost send-garbage send-truncated        Send-Document arrives; what comes back is not the whole answer
   send-dropped                                 Send-Document is read and goes nowhere
+  send-vanished                                Send-Document arrives; then there is no server any more
+  send-stalled                                 nobody reads the rest of the document
   send-cut                                     the connection breaks in the middle of the document
   login                                        everything below /printers/ needs the user "anna", password "secret"
   none                                         all goes well
@@ -21,6 +23,7 @@ import socketserver
 import struct
 import sys
 import threading
+import time
 
 listen, server, fault = sys.argv[1:4]
 first = int(sys.argv[4]) if len(sys.argv) > 4 else 1
@@ -61,14 +64,15 @@ class Relay(http.server.BaseHTTPRequestHandler):
             self.rfile.readline()
             if size == 0:
                 return body
-            if fault == "send-cut" and body[2:4] == b"\0\6" and self.strikes("send", count=len(body) <= size) and len(body) > 20000:
+            if fault in ("send-cut", "send-stalled") and body[2:4] == b"\0\6" and len(body) > 20000:
+                if fault == "send-stalled":
+                    time.sleep(60)
                 raise Broken
 
-    def strikes(self, kind, count=True):
+    def strikes(self, kind):
         with lock:
-            if count:
-                seen[kind] = seen.get(kind, 0) + 1
-            return fault.startswith(kind) and seen.get(kind, 0) >= first
+            seen[kind] = seen.get(kind, 0) + 1
+            return fault.startswith(kind) and seen[kind] >= first
 
     def is_admitted(self):
         if fault != "login" or not self.path.startswith("/printers/"):
@@ -86,7 +90,7 @@ class Relay(http.server.BaseHTTPRequestHandler):
         body = self.read_body()
         operation = struct.unpack(">H", body[2:4])[0] if len(body) > 8 else 0
         kind = next((k for k, o in operations.items() if o == operation), "")
-        hit = kind and fault != "send-cut" and self.strikes(kind)
+        hit = kind and self.strikes(kind)
         if hit and fault == "send-dropped":
             raise Broken
         upstream = Upstream("localhost")
@@ -96,6 +100,8 @@ class Relay(http.server.BaseHTTPRequestHandler):
         answer = upstream.getresponse()
         content = answer.read()
         upstream.close()
+        if hit and fault == "send-vanished":
+            os._exit(0)
         if hit and fault.endswith("-lost"):
             raise Broken
         if hit and fault.endswith("-garbage"):

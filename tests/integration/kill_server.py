@@ -122,7 +122,7 @@ def main():
                 server.start()
             server.wait_until_idle()
             jobs = server.printed(title)
-            whole = [job for job, parts in jobs.items() if parts.count(files[0].stat().st_size) >= count]
+            whole = [job for job, parts in jobs.items() if sum(parts) >= count * files[0].stat().st_size]
             fault = ("lost" if outcome == "accepted" and not whole else
                      "printed all the same" if outcome == "rejected" and jobs else
                      "printed twice" if len(jobs) > 1 else "")

@@ -4,6 +4,7 @@
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
+#include "tests/support/child_process.h"
 #include "tests/support/private_cupsd.h"
 
 #include <QDir>
@@ -13,13 +14,49 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <cups/cups.h>
+
+#include <csignal>
+#include <sys/stat.h>
+
 using namespace host;
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// Programs of this process talk to another server for a while.
+class OtherServer
+{
+public:
+    explicit OtherServer(const QString &socket) : m_before(qgetenv("CUPS_SERVER"))
+    {
+        set(socket.toLocal8Bit());
+    }
+    ~OtherServer() { set(m_before); }
+    OtherServer(const OtherServer &) = delete;
+    OtherServer &operator=(const OtherServer &) = delete;
+
+private:
+    static void set(const QByteArray &socket)
+    {
+        qputenv("CUPS_SERVER", socket);
+        cupsSetServer(socket.constData());
+    }
+    QByteArray m_before;
+};
+
 const QString program = QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print");
 const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+
+QByteArray gzipped(const QByteArray &contents)
+{
+    QProcess gzip;
+    gzip.start(u"gzip"_s, {u"-c"_s});
+    gzip.write(contents);
+    gzip.closeWriteChannel();
+    gzip.waitForFinished();
+    return gzip.readAllStandardOutput();
+}
 
 struct Outcome
 {
@@ -46,11 +83,29 @@ private Q_SLOTS:
     void refusals();
     void pausedPrinterKeepsTheJob();
     void serverStoppedBehindAnOpenDialog();
+    void lostAnswers_data();
+    void lostAnswers();
+    void lostAnswerInTheWindow();
+    void signalCancelsTheJob();
+    void loginInTheWindow();
+    void loginNobodyGives();
+    void documentsAreTheServersBusiness_data();
+    void documentsAreTheServersBusiness();
+    void namesAndPipes();
+    void lastWordCounts();
+    void resultsThatCannotBeWritten_data();
+    void resultsThatCannotBeWritten();
+    void temporaryFolder();
 
 private:
     Outcome run(const QStringList &words, const QByteArray &input = {});
     // Runs a batch job that must succeed, and gives what reached the printer.
     std::optional<CapturedJob> print(const QStringList &words, const QByteArray &input = {});
+    // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
+    ChildProcess faulty(const QString &fault, int number = 1);
+    // Writes a file of the home folder and gives its path.
+    QString file(const QString &name, const QByteArray &contents);
+    int unfinishedJobs() const;
 
     PrivateCupsd m_server;
 };
@@ -240,6 +295,261 @@ void PrintJobTest::serverStoppedBehindAnOpenDialog()
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
     QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);
+}
+
+ChildProcess PrintJobTest::faulty(const QString &fault, int number)
+{
+    const QString socket = m_server.folder() + u"/faulty.sock"_s;
+    QFile::remove(socket);
+    QString problem;
+    auto proxy = startChildProcess(u"python3"_s,
+                                   {QStringLiteral(KELMAR_SOURCE_DIR "/tests/integration/faulty_proxy.py"),
+                                    socket, m_server.socketPath(), fault, QString::number(number)},
+                                   "ready", &problem);
+    if (!proxy)
+        qWarning() << problem;
+    return proxy;
+}
+
+QString PrintJobTest::file(const QString &name, const QByteArray &contents)
+{
+    QFile file(m_server.folder() + u'/' + name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qWarning() << file.errorString();
+    return file.fileName();
+}
+
+int PrintJobTest::unfinishedJobs() const
+{
+    cups_job_t *jobs = nullptr;
+    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, nullptr, 0, CUPS_WHICHJOBS_ACTIVE);
+    cupsFreeJobs(count, jobs);
+    return count;
+}
+
+void PrintJobTest::lostAnswers_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("documents");
+    QTest::addColumn<QString>("outcome");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("printed");
+    for (const char *fault : {"create-lost", "create-garbage", "create-negative", "send-cut"})
+        QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
+    for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
+        QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
+    QTest::newRow("send-vanished") << 1 << 1 << u"unknown"_s << 5 << 1;
+    QTest::newRow("send-dropped") << 1 << 1 << u"unknown"_s << 5 << 0;
+    QTest::newRow("send-dropped, second of three") << 2 << 3 << u"rejected"_s << 1 << 0;
+    QTest::newRow("send-lost, first of three") << 1 << 3 << u"rejected"_s << 1 << 0;
+    QTest::newRow("send-lost, last of three") << 3 << 3 << u"accepted"_s << 0 << 1;
+    QTest::newRow("none, three") << 1 << 3 << u"accepted"_s << 0 << 1;
+}
+
+void PrintJobTest::lostAnswers()
+{
+    QFETCH(int, number);
+    QFETCH(int, documents);
+    const auto proxy = faulty(QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0), number);
+    QVERIFY(proxy);
+    const QString large = file(u"large.txt"_s, QByteArray(200'000, 'x'));
+    const QList<int> before = m_server.capturedJobs();
+    QStringList words{u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s};
+    for (int i = 0; i < documents; ++i)
+        words.append(large);
+    const Outcome outcome = run(words);
+    QTEST(outcome.json[u"outcome"_s].toString(), "outcome");
+    QTEST(outcome.code, "code");
+    const QString message = outcome.json[u"error"_s][u"message"_s].toString();
+    QCOMPARE(message.isEmpty(), outcome.code == 0);
+    for (const QString &nonsense : {u"uccess"_s, u"successful-ok"_s, u"No such file"_s})
+        QVERIFY2(!message.contains(nonsense), qPrintable(message));
+    QTRY_COMPARE(unfinishedJobs(), 0);
+    QFETCH(int, printed);
+    QTRY_COMPARE(m_server.capturedJobs().size() - before.size(), printed);
+    if (outcome.code == 0)
+        QCOMPARE(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt())->data.size(),
+                 documents * 200'000);
+}
+
+void PrintJobTest::lostAnswerInTheWindow()
+{
+    auto proxy = faulty(u"send-vanished"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"other"_s;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.print();
+    QVERIFY(window.submission());
+    QCOMPARE(window.submission()->outcome, Submission::Outcome::Unknown);
+    QVERIFY(window.findChild<ResultPage *>()->text().contains(u"look at the queue before printing again"_s));
+    QVERIFY(m_server.waitForNextJob());
+}
+
+void PrintJobTest::signalCancelsTheJob()
+{
+    const auto proxy = faulty(u"send-stalled"_s);
+    QVERIFY(proxy);
+    const QList<int> before = m_server.capturedJobs();
+    QProcess process;
+    process.start(program, {u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s,
+                            file(u"huge.txt"_s, QByteArray(4'000'000, 'x'))});
+    QTRY_COMPARE(unfinishedJobs(), 1);
+    process.terminate();
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit); // ended by the signal
+    QVERIFY2(process.readAllStandardError().contains("canceled"), "nothing was told");
+    QCOMPARE(unfinishedJobs(), 0);
+    QCOMPARE(m_server.capturedJobs(), before);
+}
+
+void PrintJobTest::loginInTheWindow()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"office"_s;
+    PrintError error;
+    {
+        PrintWindow window(system, none, task); // nobody answers
+        QVERIFY(window.open(&error));
+        QVERIFY(!window.session()); // rather than one without the printer's settings
+    }
+    QList<bool> asked;
+    system.setLoginPrompt([&](const LoginQuestion &question) {
+        asked.append(question.again);
+        return std::optional<Login>({u"anna"_s, question.again ? u"secret"_s : u"wrong"_s});
+    });
+    PrintWindow window(system, none, task);
+    QVERIFY(window.open(&error));
+    QVERIFY(window.session() && window.session()->ppd());
+    window.print();
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QVERIFY(m_server.waitForJob(window.submission()->job.id));
+    QCOMPARE(asked, QList<bool>({false, true})); // once, and once more after the wrong one
+    cupsSetUser(nullptr);
+}
+
+void PrintJobTest::loginNobodyGives()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const QList<int> before = m_server.capturedJobs();
+    const Outcome outcome =
+        run({u"--batch"_s, u"-d"_s, u"office"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s, document});
+    QCOMPARE(outcome.code, 1);
+    QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), u"not-authorised"_s);
+    QCOMPARE(unfinishedJobs(), 0);
+    QCOMPARE(m_server.capturedJobs(), before);
+}
+
+void PrintJobTest::documentsAreTheServersBusiness_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<int>("code");
+    const QByteArray drawing = "<?xml version=\"1.0\"?>\n<!-- " + QByteArray(500, '-').replace("--", "- ") +
+                               " -->\n<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>\n";
+    const QByteArray postScript = "%!PS\n72 72 moveto 99 99 lineto stroke showpage\n";
+    const QByteArray bitmap = QByteArray::fromHex("424d3a0000000000000036000000280000000100000001000000"
+                                                  "0100180000000000040000000000000000000000000000000000000"
+                                                  "00000ff00");
+    QTest::newRow("bitmap") << bitmap << 0;
+    QTest::newRow("PostScript") << gzipped(postScript) << 0;
+    QTest::newRow("drawing") << drawing << 1;
+    QTest::newRow("compressed drawing") << gzipped(drawing) << 1;
+}
+
+void PrintJobTest::documentsAreTheServersBusiness()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(int, code);
+    const QList<int> before = m_server.capturedJobs();
+    const Outcome outcome = run({u"--batch"_s, file(u"document"_s, contents)});
+    QCOMPARE(outcome.code, code);
+    QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), code ? u"unsupported-format"_s : QString());
+    if (code)
+        QCOMPARE(m_server.capturedJobs(), before);
+    else
+        QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
+}
+
+void PrintJobTest::namesAndPipes()
+{
+    const QString command = u"cp \"$2\" $'caf\\xe9.pdf' && mkfifo pipe && { cat \"$2\" >pipe & } && "
+                            "exec \"$1\" --batch --json -d other $'caf\\xe9.pdf' pipe <(cat \"$2\")"_s;
+    QProcess process;
+    process.setWorkingDirectory(m_server.folder());
+    process.start(u"bash"_s, {u"-c"_s, command, u"bash"_s, program, document});
+    QVERIFY(process.waitForFinished());
+    const QByteArray out = process.readAllStandardOutput();
+    QVERIFY2(process.exitCode() == 0, (out + process.readAllStandardError()).constData());
+    const auto job = m_server.waitForJob(QJsonDocument::fromJson(out)[u"job"_s][u"id"_s].toInt());
+    QVERIFY(job);
+    QCOMPARE(job->data.size(), 3 * QFileInfo(document).size());
+}
+
+void PrintJobTest::lastWordCounts()
+{
+    const QString home = m_server.folder() + u"/.cups"_s;
+    QVERIFY(QDir().mkpath(home));
+    const QString presets = file(u".cups/lpoptions"_s, "Dest office/two number-up=2 job-priority=11\n");
+    const auto job =
+        print({u"-d"_s, u"office/two"_s, u"-o"_s, u"number-up=6"_s, u"-o"_s, u"number-up=4"_s, u"-o"_s,
+               u"job-priority=70"_s, u"-o"_s, u"example-empty="_s, u"-P"_s, u"1"_s, document});
+    QVERIFY(QFile::remove(presets));
+    QVERIFY(job);
+    QCOMPARE(job->options.value(u"number-up"_s), u"4"_s);
+    QVERIFY2(job->optionText.count(u"number-up="_s) == 1, qPrintable(job->optionText));
+    QVERIFY2(job->optionText.contains(u"example-empty="_s), qPrintable(job->optionText));
+    // One page: the server has it as the range from 1 to 1, which is no difference.
+    const Outcome outcome = run({u"--batch"_s, u"-P"_s, u"1"_s, document});
+    QCOMPARE(outcome.json[u"job"_s][u"differences"_s].toArray(), QJsonArray());
+}
+
+void PrintJobTest::resultsThatCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::newRow("summary, full") << u"--summary >/dev/full"_s;
+    QTest::newRow("options, full") << u"--list-options >/dev/full"_s;
+    QTest::newRow("JSON, closed") << u"--summary --json >&-"_s;
+    // Found out before anything is sent.
+    QTest::newRow("JSON of a job, full") << u"--batch --json \"$2\" >/dev/full"_s;
+    QTest::newRow("JSON of a job, closed") << u"--batch --json \"$2\" >&-"_s;
+}
+
+void PrintJobTest::resultsThatCannotBeWritten()
+{
+    QFETCH(QString, words);
+    const QList<int> before = m_server.capturedJobs();
+    QProcess process;
+    process.start(u"bash"_s, {u"-c"_s, u"exec \"$1\" "_s + words, u"bash"_s, program, document});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("cannot be written"));
+    QCOMPARE(m_server.capturedJobs(), before);
+}
+
+void PrintJobTest::temporaryFolder()
+{
+    const qsizetype all = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
+    QVERIFY(all > 40);
+    qputenv("TMPDIR", "/nowhere");
+    const qsizetype without = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
+    const Outcome input = run({u"--batch"_s, u"-"_s}, "text\n");
+    qunsetenv("TMPDIR");
+    QCOMPARE(without, all); // the PPD needs no file
+    QCOMPARE(input.code, 1);
+    QVERIFY(input.json[u"error"_s][u"message"_s].toString().contains(u"/nowhere"_s));
 }
 
 QTEST_MAIN(PrintJobTest)

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Prints through the window as a user does: window_driver QUEUE TITLE FILE... Writes the outcome and the job's
-// number.
+// Prints through the window as a user does: window_driver QUEUE TITLE FILE... Writes the outcome and the
+// job's number.
 
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
