@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/batch/value_sources.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
 
@@ -32,12 +33,13 @@ bool choosePlatform(int argc, char **argv)
     return hasDisplay;
 }
 
-// The platform without a display says of every window that it takes no hints about its size.
+// Log messages go to the terminal as well, and hold texts of PPDs and devices. The platform without a display
+// says of every window that it takes no hints about its size.
 QtMessageHandler standardHandler = nullptr;
-void dropOffscreenRemark(QtMsgType type, const QMessageLogContext &context, const QString &message)
+void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (message != QLatin1String("This plugin does not support propagateSizeHints()"))
-        standardHandler(type, context, message);
+        standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
 }
 
 // The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
@@ -80,8 +82,7 @@ int main(int argc, char **argv)
 {
     const bool hasDisplay = choosePlatform(argc, argv);
     QApplication app(argc, argv);
-    if (QApplication::platformName() == QLatin1String("offscreen"))
-        standardHandler = qInstallMessageHandler(dropOffscreenRemark);
+    standardHandler = qInstallMessageHandler(handleLogMessage);
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
@@ -90,8 +91,9 @@ int main(int argc, char **argv)
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);
     QString error;
-    const auto arguments = parseArguments(QApplication::arguments(), &error);
-    if (!arguments) {
+    auto arguments = parseArguments(QApplication::arguments(), &error);
+    const bool isAsking = arguments && (arguments->help || arguments->version);
+    if (!arguments || (!isAsking && !fetchValues(&*arguments, &error))) {
         BatchResult result;
         result.error = {PrintError::Kind::BadValue, error};
         ResultWriter(&out, &err).write(result, QApplication::arguments().contains(QLatin1String("--json")));
@@ -104,9 +106,8 @@ int main(int argc, char **argv)
     }
     if (arguments->needsWindow() && arguments->screenshot.isEmpty() && !hasDisplay) {
         err.write("kelmar-print: " +
-                  MainText::tr("There is no display to open the dialog on. Use --batch to print without it.")
-                      .toUtf8() +
-                  "\n");
+                  terminalLine(MainText::tr(
+                      "There is no display to open the dialog on. Use --batch to print without it.")));
         return ExitFailure;
     }
     if (!arguments->server.isEmpty())

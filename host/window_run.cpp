@@ -29,7 +29,7 @@ PrintTask taskOf(const Arguments &arguments)
     PrintTask task;
     task.files = arguments.files;
     if (task.files.isEmpty() && !isatty(STDIN_FILENO) && arguments.screenshot.isEmpty() &&
-        !arguments.startupTime)
+        !arguments.startupTime && !arguments.takesValueFromInput())
         task.files.append(QStringLiteral("-"));
     task.title = arguments.title;
     task.printer = arguments.printer;
@@ -50,8 +50,7 @@ int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
 {
     if (window->grab().save(path))
         return ExitSuccess;
-    err->write("kelmar-print: " + RunText::tr("The picture “%1” cannot be written.").arg(path).toUtf8() +
-               '\n');
+    err->write("kelmar-print: " + terminalLine(RunText::tr("The picture “%1” cannot be written.").arg(path)));
     return ExitFailure;
 }
 
@@ -61,7 +60,7 @@ void tellResult(const PrintWindow &window, QIODevice *out)
         return;
     const QString id =
         QStringLiteral("%1-%2").arg(window.session()->destination().queue).arg(window.job()->id);
-    out->write(RunText::tr("request id is %1").arg(id).toUtf8() + '\n');
+    out->write(terminalLine(RunText::tr("request id is %1").arg(id)));
 }
 
 } // namespace
@@ -84,7 +83,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     system.setPasswordPrompt([&window](const QString &prompt) { return askForPassword(&window, prompt); });
     PrintError error;
     if (!window.open(&error)) {
-        err->write("kelmar-print: " + error.message.toUtf8() + '\n');
+        err->write("kelmar-print: " + terminalLine(error.message));
         return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
     }
     FirstPaint firstPaint(&window);

@@ -35,9 +35,12 @@ public:
     static const QString principalClassKey; // "PrincipalClass"
     static const QString panelTypeKey;      // "PanelType"
     static const QString printerModelsKey;  // "PrinterModels", a list of wildcards of PPD model names
+    static const QString secretKeysKey;     // "SecretKeys", a list of options and panel keys that hold codes
 
-    // Null with a message that names the file and what is wrong with it: no folder, no Info.json, broken
-    // JSON, a missing or mistyped required key (all but the version and the models).
+    // Null with a message that names the file and what is wrong with it: no folder, no Info.json or a large
+    // one, broken JSON, a missing or mistyped required key (all but the version and the lists). So it is for
+    // a folder in which anything belongs to, or can be written by, others than the system and the user: its
+    // code would run as the user.
     static std::shared_ptr<Bundle> open(const QString &folder, const QLocale &locale, QString *error);
     ~Bundle();
     Bundle(const Bundle &) = delete;
@@ -46,6 +49,8 @@ public:
     const QString &folder() const { return m_folder; }
     // Nil when Info.json lacks the key.
     QVariant infoValueForKey(const QString &key) const;
+    // A list of texts; empty when Info.json lacks the key.
+    QStringList infoTextsForKey(const QString &key) const;
     // Whether a PPD with this model name is one of "PrinterModels".
     bool servesModel(const QString &modelName) const;
 

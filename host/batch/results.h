@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/batch/terminal_text.h"
 #include "host/printing/job.h"
 #include "host/session/dialog_session.h"
 
@@ -47,8 +48,8 @@ private:
     void writeOptions(const BatchResult &result);
     void writeJob(const BatchResult &result);
     void writeConflicts(const BatchResult &result);
-    void print(const QString &line) { m_out->write(line.toUtf8() + '\n'); }
-    void complain(const QString &line) { m_err->write("kelmar-print: " + line.toUtf8() + '\n'); }
+    void print(const QString &line) { m_out->write(terminalLine(line)); }
+    void complain(const QString &line) { m_err->write("kelmar-print: " + terminalLine(line)); }
 
     QIODevice *m_out;
     QIODevice *m_err;

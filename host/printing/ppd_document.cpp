@@ -15,7 +15,8 @@
 #include <algorithm>
 #include <functional>
 
-// The one place where the host meets the PPD interface that libcups means to drop one day.
+// The ppd_* files of this folder are the one place where the host meets the PPD interface that libcups means
+// to drop one day.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace host {
@@ -43,29 +44,26 @@ void forEachOption(ppd_group_t *groups, int count,
     }
 }
 
-bool isOffChoice(const QString &choice)
-{
-    return choice.compare(QLatin1String("None"), Qt::CaseInsensitive) == 0 ||
-           choice.compare(QLatin1String("Off"), Qt::CaseInsensitive) == 0 ||
-           choice.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0;
-}
-
 const ppd_choice_t *marked(ppd_file_t *ppd, const QString &keyword)
 {
     return ppdFindMarkedChoice(ppd, keyword.toUtf8().constData());
 }
 
-// "*Duplex DuplexNoTumble *MediaType Thick" as pairs; a bare option has an empty choice.
-QList<std::pair<QString, QString>> constraintTerms(const QString &value)
+// Whether a PPD, unpacked where it is compressed, is beyond what a PPD can be. Only a compressed one has to
+// be read for that.
+bool isTooLarge(const QString &path)
 {
-    QList<std::pair<QString, QString>> terms;
-    for (const QString &word : value.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (word.startsWith(QLatin1Char('*')))
-            terms.append({word.mid(1), QString()});
-        else if (!terms.isEmpty())
-            terms.last().second = word;
-    }
-    return terms;
+    QFile file(path);
+    if (file.size() > PpdDocument::mostBytes)
+        return true;
+    if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArrayLiteral("\x1f\x8b"))
+        return false;
+    const CupsFilePointer unpacked(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    char block[16 * 1024];
+    qint64 total = 0;
+    for (ssize_t count = 1; unpacked && count > 0 && total <= PpdDocument::mostBytes; total += count)
+        count = cupsFileRead(unpacked.get(), block, sizeof block);
+    return total > PpdDocument::mostBytes;
 }
 
 // The order in which a dialog should mark choices again: the page size last wins over what regions did to it.
@@ -97,6 +95,9 @@ QString OptionChoice::text() const
 
 bool PpdOption::hasChoice(const QString &choice) const
 {
+    QString ignored;
+    if (custom && isCustomChoice(choice))
+        return custom->read(choice, keyword, &ignored).has_value();
     return std::any_of(choices.begin(), choices.end(), [&](const Choice &c) { return c.keyword == choice; });
 }
 
@@ -118,6 +119,11 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
                   PpdDocumentText::tr("You are not allowed to read the PPD file “%1”.").arg(path)};
         return nullptr;
     }
+    if (isTooLarge(path)) {
+        *error = {PrintError::Kind::BrokenPpd,
+                  PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(mostBytes >> 20)};
+        return nullptr;
+    }
     const MessageLanguage language;
     ppd_file_t *ppd = ppdOpenFile(QFile::encodeName(path).constData());
     if (!ppd) {
@@ -129,7 +135,9 @@ std::unique_ptr<PpdDocument> PpdDocument::openNamed(const QString &path, const Q
     }
     ppdLocalize(ppd);
     ppdMarkDefaults(ppd);
-    return std::unique_ptr<PpdDocument>(new PpdDocument(ppd));
+    std::unique_ptr<PpdDocument> document(new PpdDocument(ppd));
+    document->replaceBadCustomDefaults();
+    return document;
 }
 
 std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, PrintError *error)
@@ -179,17 +187,18 @@ bool PpdDocument::hasOption(const QString &keyword) const
 
 std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 {
-    const ppd_option_t *record = ppdFindOption(m_ppd, keyword.toUtf8().constData());
+    ppd_option_t *record = ppdFindOption(m_ppd, keyword.toUtf8().constData());
     if (!record)
         return std::nullopt;
     PpdOption option;
+    option.custom = customChoiceOf(m_ppd, record);
     option.keyword = text(record->keyword);
     option.text = record->text[0] ? text(record->text) : option.keyword;
     option.defaultChoice = text(record->defchoice);
     option.markedChoice = markedChoice(option.keyword);
     for (int i = 0; i < record->num_choices; ++i) {
         const ppd_choice_t &choice = record->choices[i];
-        if (qstrcmp(choice.choice, "Custom") != 0)
+        if (!isCustomChoice(text(choice.choice)))
             option.choices.append({text(choice.choice), text(choice.text[0] ? choice.text : choice.choice)});
     }
     forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &group, const ppd_option_t &other) {
@@ -202,7 +211,15 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 QString PpdDocument::markedChoice(const QString &keyword) const
 {
     const ppd_choice_t *choice = marked(m_ppd, keyword);
-    return choice ? text(choice->choice) : QString();
+    if (!choice)
+        return {};
+    const QString name = text(choice->choice);
+    const auto custom = isCustomChoice(name) ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
+    if (!custom)
+        return name;
+    // Panels mark in the record as well.
+    const Written written = m_written.value(text(choice->option->keyword));
+    return written.inRecord == custom->current() ? written.choice : custom->current();
 }
 
 QString PpdDocument::defaultChoice(const QString &keyword) const
@@ -219,6 +236,13 @@ OptionChoice PpdDocument::described(const QString &keyword, const QString &choic
         return result;
     if (option->text[0])
         result.optionText = text(option->text);
+    const auto custom = isCustomChoice(choice) ? customChoiceOf(m_ppd, option) : std::nullopt;
+    if (custom) {
+        result.choiceText = custom->shown(choice);
+        if (custom->isSecret())
+            result.choice = QStringLiteral("Custom");
+        return result;
+    }
     const ppd_choice_t *record = ppdFindChoice(option, choice.toUtf8().constData());
     if (record && record->text[0])
         result.choiceText = text(record->text);
@@ -230,18 +254,50 @@ bool PpdDocument::mark(const QString &keyword, const QString &choice)
     ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
     if (!option || !ppdFindChoice(option, choice.toUtf8().constData()))
         return false;
+    const auto custom = isCustomChoice(choice) ? customChoiceOf(m_ppd, option) : std::nullopt;
+    QString problem;
+    if (custom && !custom->read(choice, keyword, &problem))
+        return false;
     ppdMarkOption(m_ppd, option->keyword, choice.toUtf8().constData());
+    if (custom)
+        m_written[text(option->keyword)] = {choice, customChoiceOf(m_ppd, option)->current()};
     return true;
 }
 
-void PpdDocument::markOptions(const QMap<QString, QString> &options)
+// libcups marks whatever stands in a PPD's default, "Custom.foo" included.
+void PpdDocument::replaceBadCustomDefaults()
+{
+    for (const QString &keyword : optionKeywords()) {
+        const QString choice = defaultChoice(keyword);
+        if (!isCustomChoice(choice) || mark(keyword, choice))
+            continue;
+        const auto subject = option(keyword);
+        if (subject->custom && !subject->choices.isEmpty())
+            mark(keyword, subject->choices.first().keyword);
+    }
+}
+
+QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
 {
     CupsOptionList list;
+    QStringList problems;
     for (auto it = options.begin(); it != options.end(); ++it) {
-        if (takesOption(it.key()))
+        if (!takesOption(it.key()))
+            continue;
+        const bool isSize = it.key() == QLatin1String("media");
+        const auto subject = isCustomChoice(it.value())
+                                 ? option(isSize ? QStringLiteral("PageSize") : it.key())
+                                 : std::nullopt;
+        QString problem;
+        if (!subject || !subject->custom)
             list.add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
+        else if (subject->custom->read(it.value(), subject->keyword, &problem))
+            mark(subject->keyword, it.value());
+        else
+            problems.append(problem);
     }
     cupsMarkOptions(m_ppd, list.count(), list.options());
+    return problems;
 }
 
 bool PpdDocument::takesOption(const QString &name) const
@@ -287,7 +343,8 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
         cupsMarkOptions(m_ppd, list.count(), list.options());
         for (auto it = before.begin(); it != before.end(); ++it) {
             const QString now = markedChoice(it.key());
-            if (now != decoys.value(it.key(), it.value()))
+            const bool isSound = !isCustomChoice(now) || option(it.key())->hasChoice(now);
+            if (isSound && now != decoys.value(it.key(), it.value()))
                 result.insert(it.key(), now);
         }
     };
@@ -328,125 +385,6 @@ QList<OptionChoice> PpdDocument::changedChoices() const
             changed.append(described(keyword, choice));
     }
     return changed;
-}
-
-const QList<PpdDocument::Constraint> &PpdDocument::constraints() const
-{
-    if (!m_constraints)
-        m_constraints = readConstraints();
-    return *m_constraints;
-}
-
-QList<PpdDocument::Constraint> PpdDocument::readConstraints() const
-{
-    QList<Constraint> result;
-    // libcups takes the longer form alone where a PPD has it.
-    ppd_attr_t *attribute = ppdFindAttr(m_ppd, "cupsUIConstraints", nullptr);
-    for (; attribute; attribute = ppdFindNextAttr(m_ppd, "cupsUIConstraints", nullptr)) {
-        const Constraint terms = constraintTerms(text(attribute->value));
-        if (terms.size() >= 2)
-            result.append(terms);
-    }
-    if (!result.isEmpty())
-        return result;
-    for (int i = 0; i < m_ppd->num_consts; ++i) {
-        const ppd_const_t &record = m_ppd->consts[i];
-        result.append(
-            {{text(record.option1), text(record.choice1)}, {text(record.option2), text(record.choice2)}});
-    }
-    return result;
-}
-
-// Whether a term of a constraint holds among the marks.
-bool PpdDocument::isMet(const QString &keyword, const QString &choice) const
-{
-    const ppd_choice_t *now = marked(m_ppd, keyword);
-    if (!now)
-        return false;
-    return choice.isEmpty() ? !isOffChoice(text(now->choice)) : choice == text(now->choice);
-}
-
-std::optional<Conflict> PpdDocument::activeConflict(const Constraint &constraint) const
-{
-    Conflict conflict;
-    for (const auto &[keyword, choice] : constraint) {
-        const ppd_choice_t *now = marked(m_ppd, keyword);
-        if (!now || !now->option->conflicted || !isMet(keyword, choice))
-            return std::nullopt;
-        conflict.sides.append(described(text(now->option->keyword), text(now->choice)));
-    }
-    return conflict;
-}
-
-QMap<QString, OptionChoice> PpdDocument::forbiddenChoices(const QString &keyword) const
-{
-    QMap<QString, OptionChoice> forbidden;
-    const auto subject = option(keyword);
-    if (!subject)
-        return forbidden;
-    for (const Constraint &constraint : constraints()) {
-        const auto own = std::find_if(constraint.begin(), constraint.end(),
-                                      [&](const auto &term) { return term.first == subject->keyword; });
-        const auto other = std::find_if(constraint.begin(), constraint.end(),
-                                        [&](const auto &term) { return term.first != subject->keyword; });
-        if (own == constraint.end() || other == constraint.end())
-            continue;
-        const bool othersHold = std::all_of(constraint.begin(), constraint.end(), [&](const auto &term) {
-            return term.first == subject->keyword || isMet(term.first, term.second);
-        });
-        if (!othersHold)
-            continue;
-        for (const PpdOption::Choice &choice : subject->choices) {
-            if (own->second.isEmpty() ? !isOffChoice(choice.keyword) : own->second == choice.keyword)
-                forbidden.insert(choice.keyword, described(other->first, markedChoice(other->first)));
-        }
-    }
-    return forbidden;
-}
-
-QList<Conflict> PpdDocument::conflicts() const
-{
-    if (ppdConflicts(m_ppd) == 0)
-        return {};
-    const QStringList order = optionKeywords();
-    QList<Conflict> result;
-    for (const Constraint &constraint : constraints()) {
-        auto conflict = activeConflict(constraint);
-        if (!conflict)
-            continue;
-        // Most PPDs write a constraint once in each direction.
-        std::sort(conflict->sides.begin(), conflict->sides.end(),
-                  [&](const OptionChoice &a, const OptionChoice &b) {
-                      return order.indexOf(a.option) < order.indexOf(b.option);
-                  });
-        if (!result.contains(*conflict))
-            result.append(*conflict);
-    }
-    return result;
-}
-
-std::optional<Resolution> PpdDocument::resolution(const QString &keep) const
-{
-    if (ppdConflicts(m_ppd) == 0)
-        return std::nullopt;
-    const QByteArray kept = keep.toUtf8();
-    const QByteArray choice = markedChoice(keep).toUtf8();
-    const bool hasKept = !kept.isEmpty() && !choice.isEmpty();
-    int count = 0;
-    cups_option_t *options = nullptr;
-    const int resolved = cupsResolveConflicts(m_ppd, hasKept ? kept.constData() : nullptr,
-                                              hasKept ? choice.constData() : nullptr, &count, &options);
-    Resolution changes;
-    for (int i = 0; i < count; ++i) {
-        const QString option = text(options[i].name);
-        const QString value = text(options[i].value);
-        if (hasOption(option) && markedChoice(option) != value)
-            changes.append(described(option, value));
-    }
-    cupsFreeOptions(count, options);
-    if (!resolved || changes.isEmpty())
-        return keep.isEmpty() ? std::nullopt : resolution();
-    return changes;
 }
 
 } // namespace host

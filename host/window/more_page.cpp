@@ -4,6 +4,7 @@
 #include "host/window/more_page.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/foreign_text.h"
 #include "host/window/option_form.h"
 
 #include <QGridLayout>
@@ -12,6 +13,8 @@
 namespace host {
 
 namespace {
+
+constexpr int titleWidth = 440; // pixels
 
 struct Group
 {
@@ -46,11 +49,12 @@ MorePage::MorePage(DialogSession *session, QWidget *parent) : QWidget(parent)
     const QList<Group> groups = groupsOf(*session);
     for (const Group &group : groups) {
         if (groups.size() > 1) {
-            auto *title = new QLabel(group.title, this);
+            auto *title = new QLabel(this);
             title->setTextFormat(Qt::PlainText);
             QFont bold = title->font();
             bold.setWeight(QFont::DemiBold);
             title->setFont(bold);
+            title->setText(elided(group.title, title, titleWidth));
             if (&group != &groups.first())
                 title->setContentsMargins(0, 12, 0, 0);
             grid->addWidget(title, grid->rowCount(), 0, 1, 3);
@@ -62,6 +66,25 @@ MorePage::MorePage(DialogSession *session, QWidget *parent) : QWidget(parent)
         m_forms.append(form);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+}
+
+QString MorePage::problem() const
+{
+    for (const OptionForm *form : m_forms) {
+        if (const QString problem = form->problem(); !problem.isEmpty())
+            return problem;
+    }
+    return {};
+}
+
+void MorePage::showProblem()
+{
+    for (OptionForm *form : std::as_const(m_forms)) {
+        if (!form->problem().isEmpty()) {
+            form->showProblem();
+            return;
+        }
+    }
 }
 
 void MorePage::refresh()

@@ -3,6 +3,7 @@
 
 #include "host/window/result_page.h"
 
+#include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QAccessible>
@@ -66,8 +67,8 @@ void ResultPage::showJob(const QString &printer, const SubmittedJob &job, Status
 {
     m_query = std::move(query);
     m_id = job.id;
-    m_title->setText(tr("Sent to “%1”").arg(printer));
-    m_notes->setText(job.differences.join(QLatin1Char('\n')));
+    m_title->setText(tr("Sent to “%1”").arg(oneLine(printer)));
+    m_notes->setText(wrappable(job.differences.join(QLatin1Char('\n'))));
     m_notes->setVisible(!job.differences.isEmpty());
     showStatus(job.status);
     QAccessibleEvent alert(this, QAccessible::Alert);
@@ -81,7 +82,8 @@ void ResultPage::showStatus(const JobStatus &status)
         return;
     m_glyph->setKind(kindOf(status.state));
     const QString state = tr("Job %1: %2").arg(m_id).arg(status.text());
-    m_state->setText(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message);
+    m_state->setText(
+        wrappable(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message));
     setAccessibleName(text());
     if (status.isFinal())
         m_timer.stop();
