@@ -31,11 +31,47 @@ const QString Bundle::executableKey = QStringLiteral("CFBundleExecutable");
 const QString Bundle::principalClassKey = QStringLiteral("PrincipalClass");
 const QString Bundle::panelTypeKey = QStringLiteral("PanelType");
 const QString Bundle::printerModelsKey = QStringLiteral("PrinterModels");
+const QString Bundle::protectingOptionsKey = QStringLiteral("ProtectingOptions");
 const QString Bundle::secretKeysKey = QStringLiteral("SecretKeys");
 
 namespace {
 
 constexpr qint64 mostInfoBytes = 1024 * 1024;
+
+bool isListOfTexts(const QJsonValue &value)
+{
+    const QJsonArray list = value.toArray();
+    return value.isArray() &&
+           std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
+}
+
+bool isSecret(const QJsonValue &value)
+{
+    const QJsonObject secret = value.toObject();
+    const QJsonObject usedWith = secret.value(QLatin1String("UsedWith")).toObject();
+    return secret.value(QLatin1String("Key")).isString() &&
+           isListOfTexts(secret.value(QLatin1String("Options"))) && usedWith.size() == 1 &&
+           usedWith.begin().value().isString();
+}
+
+// The same for the keys that may be left out.
+QString problemOfOptionalKeys(const QJsonObject &info)
+{
+    const QJsonValue models = info.value(Bundle::printerModelsKey);
+    if (!models.isUndefined() && !isListOfTexts(models))
+        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
+    const QJsonValue protecting = info.value(Bundle::protectingOptionsKey);
+    const QJsonObject options = protecting.toObject();
+    const bool areChoices = std::all_of(options.begin(), options.end(), isListOfTexts);
+    if (!protecting.isUndefined() && (!protecting.isObject() || !areChoices))
+        return QStringLiteral("\"%1\" is not an object of lists of texts").arg(Bundle::protectingOptionsKey);
+    const QJsonValue secrets = info.value(Bundle::secretKeysKey);
+    const QJsonArray list = secrets.toArray();
+    if (!secrets.isUndefined() && (!secrets.isArray() || !std::all_of(list.begin(), list.end(), isSecret)))
+        return QStringLiteral("\"%1\" is not a list of objects with \"Key\", \"Options\" and \"UsedWith\"")
+            .arg(Bundle::secretKeysKey);
+    return {};
+}
 
 // What is wrong with the contents of an Info.json; empty when nothing is.
 QString problemOf(const QJsonObject &info)
@@ -51,15 +87,7 @@ QString problemOf(const QJsonObject &info)
     if (executable.contains(QLatin1Char('/')) || executable.startsWith(QLatin1Char('.')))
         return QStringLiteral("\"%1\" is \"%2\", which is not the name of a file inside the bundle")
             .arg(Bundle::executableKey, executable);
-    for (const QString &key : {Bundle::printerModelsKey, Bundle::secretKeysKey}) {
-        const QJsonValue value = info.value(key);
-        const QJsonArray list = value.toArray();
-        const bool areTexts =
-            std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
-        if (!value.isUndefined() && (!value.isArray() || !areTexts))
-            return QStringLiteral("\"%1\" is not a list of texts").arg(key);
-    }
-    return {};
+    return problemOfOptionalKeys(info);
 }
 
 // What in a bundle others than the system and the user could have put there; nil when nothing is.
@@ -177,9 +205,12 @@ QVariant Bundle::infoValueForKey(const QString &key) const
     return m_info.value(key).toVariant();
 }
 
-QStringList Bundle::infoTextsForKey(const QString &key) const
+QStringList Bundle::secretKeys() const
 {
-    return infoValueForKey(key).toStringList();
+    QStringList keys;
+    for (const QJsonValue &secret : m_info.value(secretKeysKey).toArray())
+        keys += secret[u"Options"].toVariant().toStringList() + QStringList(secret[u"Key"].toString());
+    return keys;
 }
 
 bool Bundle::servesModel(const QString &modelName) const

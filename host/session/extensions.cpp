@@ -83,7 +83,7 @@ QStringList Extensions::secretKeys(const QString &modelName) const
     QStringList keys;
     for (const Loaded &loaded : m_loaded) {
         if (serves(loaded, modelName))
-            keys += loaded.bundle->infoTextsForKey(platform::Bundle::secretKeysKey);
+            keys += loaded.bundle->secretKeys();
     }
     return keys;
 }
