@@ -25,6 +25,10 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# Programs and bundles find the platform library from where they lie themselves, never from an absolute path or, as
+# an empty entry has it, from the folder somebody happens to be in.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
 # Where the platform library and the bundles are installed: the program looks there, beside its own folder.
 set(KELMAR_PRIVATE_DIR lib/kelmar-print)
 

@@ -3,6 +3,8 @@
 
 #include "host/batch/batch_run.h"
 #include "host/batch/terminal_login.h"
+#include "host/batch/terminal_text.h"
+#include "host/batch/value_sources.h"
 #include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
@@ -37,15 +39,15 @@ bool choosePlatform(int argc, char **argv)
     return hasDisplay;
 }
 
-// The platform without a display says of every window that it takes no hints about its size, and Qt says at
-// its start where it puts what a session without XDG_RUNTIME_DIR has no place for, as under cron: neither
-// helps a user.
+// Log messages go to the terminal as well, and hold texts of PPDs and devices. The platform without a display
+// says of every window that it takes no hints about its size, and Qt says at its start where it puts what a
+// session without XDG_RUNTIME_DIR has no place for, as under cron: neither helps a user.
 QtMessageHandler standardHandler = nullptr;
-void dropRemarksOfQt(QtMsgType type, const QMessageLogContext &context, const QString &message)
+void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (message != QLatin1String("This plugin does not support propagateSizeHints()") &&
         !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
-        standardHandler(type, context, message);
+        standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
 }
 
 // The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
@@ -108,7 +110,7 @@ int main(int argc, char **argv)
 {
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
-    standardHandler = qInstallMessageHandler(dropRemarksOfQt);
+    standardHandler = qInstallMessageHandler(handleLogMessage);
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
@@ -122,8 +124,9 @@ int main(int argc, char **argv)
     (void)err.open(stderr, QIODevice::WriteOnly);
     QString error;
     const QStringList words = commandLine(argc, argv);
-    const auto arguments = parseArguments(words, &error);
-    if (!arguments) {
+    auto arguments = parseArguments(words, &error);
+    const bool isAsking = arguments && (arguments->help || arguments->version);
+    if (!arguments || (!isAsking && !fetchValues(&*arguments, &error))) {
         BatchResult result;
         result.error = {PrintError::Kind::BadValue, error};
         ResultWriter(&out, &err).write(result, words.contains(QLatin1String("--json")));
@@ -136,9 +139,8 @@ int main(int argc, char **argv)
     }
     if (arguments->needsWindow() && arguments->screenshot.isEmpty() && !hasDisplay) {
         err.write("kelmar-print: " +
-                  MainText::tr("There is no display to open the dialog on. Use --batch to print without it.")
-                      .toUtf8() +
-                  "\n");
+                  terminalLine(MainText::tr(
+                      "There is no display to open the dialog on. Use --batch to print without it.")));
         return ExitFailure;
     }
     if (!arguments->server.isEmpty())

@@ -28,7 +28,7 @@ PrintTask taskOf(const Arguments &arguments)
     PrintTask task;
     task.files = arguments.files;
     if (task.files.isEmpty() && !isatty(STDIN_FILENO) && arguments.screenshot.isEmpty() &&
-        !arguments.startupTime)
+        !arguments.startupTime && !arguments.takesValueFromInput())
         task.files.append(QStringLiteral("-"));
     task.title = arguments.title;
     task.printer = arguments.printer;
@@ -48,8 +48,7 @@ int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
 {
     if (window->grab().save(path))
         return ExitSuccess;
-    err->write("kelmar-print: " + RunText::tr("The picture “%1” cannot be written.").arg(path).toUtf8() +
-               '\n');
+    err->write("kelmar-print: " + terminalLine(RunText::tr("The picture “%1” cannot be written.").arg(path)));
     return ExitFailure;
 }
 
@@ -58,12 +57,12 @@ void tellResult(const PrintWindow &window, QIODevice *out, QIODevice *err)
     if (!window.submission())
         return;
     if (!window.submission()->isAccepted()) {
-        err->write("kelmar-print: " + window.submission()->error.message.toUtf8() + '\n');
+        err->write("kelmar-print: " + terminalLine(window.submission()->error.message));
         return;
     }
     const QString id =
         QStringLiteral("%1-%2").arg(window.session()->destination().queue).arg(window.submission()->job.id);
-    out->write(RunText::tr("request id is %1").arg(id).toUtf8() + '\n');
+    out->write(terminalLine(RunText::tr("request id is %1").arg(id)));
 }
 
 } // namespace
@@ -87,7 +86,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
     PrintError error;
     if (!window.open(&error)) {
-        err->write("kelmar-print: " + error.message.toUtf8() + '\n');
+        err->write("kelmar-print: " + terminalLine(error.message));
         return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
     }
     FirstPaint firstPaint(&window);

@@ -6,6 +6,7 @@
 #include "platform/logging.h"
 #include "platform/print_dialog.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -17,7 +18,10 @@
 #include <algorithm>
 #include <optional>
 
+#include <cerrno>
 #include <fnmatch.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -27,8 +31,47 @@ const QString Bundle::executableKey = QStringLiteral("CFBundleExecutable");
 const QString Bundle::principalClassKey = QStringLiteral("PrincipalClass");
 const QString Bundle::panelTypeKey = QStringLiteral("PanelType");
 const QString Bundle::printerModelsKey = QStringLiteral("PrinterModels");
+const QString Bundle::protectingOptionsKey = QStringLiteral("ProtectingOptions");
+const QString Bundle::secretKeysKey = QStringLiteral("SecretKeys");
 
 namespace {
+
+constexpr qint64 mostInfoBytes = 1024 * 1024;
+
+bool isListOfTexts(const QJsonValue &value)
+{
+    const QJsonArray list = value.toArray();
+    return value.isArray() &&
+           std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
+}
+
+bool isSecret(const QJsonValue &value)
+{
+    const QJsonObject secret = value.toObject();
+    const QJsonObject usedWith = secret.value(QLatin1String("UsedWith")).toObject();
+    return secret.value(QLatin1String("Key")).isString() &&
+           isListOfTexts(secret.value(QLatin1String("Options"))) && usedWith.size() == 1 &&
+           usedWith.begin().value().isString();
+}
+
+// The same for the keys that may be left out.
+QString problemOfOptionalKeys(const QJsonObject &info)
+{
+    const QJsonValue models = info.value(Bundle::printerModelsKey);
+    if (!models.isUndefined() && !isListOfTexts(models))
+        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
+    const QJsonValue protecting = info.value(Bundle::protectingOptionsKey);
+    const QJsonObject options = protecting.toObject();
+    const bool areChoices = std::all_of(options.begin(), options.end(), isListOfTexts);
+    if (!protecting.isUndefined() && (!protecting.isObject() || !areChoices))
+        return QStringLiteral("\"%1\" is not an object of lists of texts").arg(Bundle::protectingOptionsKey);
+    const QJsonValue secrets = info.value(Bundle::secretKeysKey);
+    const QJsonArray list = secrets.toArray();
+    if (!secrets.isUndefined() && (!secrets.isArray() || !std::all_of(list.begin(), list.end(), isSecret)))
+        return QStringLiteral("\"%1\" is not a list of objects with \"Key\", \"Options\" and \"UsedWith\"")
+            .arg(Bundle::secretKeysKey);
+    return {};
+}
 
 // What is wrong with the contents of an Info.json; empty when nothing is.
 QString problemOf(const QJsonObject &info)
@@ -44,12 +87,26 @@ QString problemOf(const QJsonObject &info)
     if (executable.contains(QLatin1Char('/')) || executable.startsWith(QLatin1Char('.')))
         return QStringLiteral("\"%1\" is \"%2\", which is not the name of a file inside the bundle")
             .arg(Bundle::executableKey, executable);
-    const QJsonValue models = info.value(Bundle::printerModelsKey);
-    const QJsonArray list = models.toArray();
-    const bool areTexts =
-        std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
-    if (!models.isUndefined() && (!models.isArray() || !areTexts))
-        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
+    return problemOfOptionalKeys(info);
+}
+
+// What in a bundle others than the system and the user could have put there; nil when nothing is.
+QString foreignHandIn(const QString &folder)
+{
+    QStringList paths{folder};
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        paths.append(entries.next());
+    for (const QString &path : std::as_const(paths)) {
+        struct stat status = {};
+        if (stat(QFile::encodeName(path).constData(), &status) != 0)
+            return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
+        if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+            return QStringLiteral("%1: other users may write to it").arg(path);
+        if (status.st_uid != 0 && status.st_uid != geteuid())
+            return QStringLiteral("%1: it belongs to another user").arg(path);
+    }
     return {};
 }
 
@@ -57,8 +114,14 @@ QString problemOf(const QJsonObject &info)
 std::optional<QJsonObject> readInfo(const QString &path, QString *error)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: %2").arg(path, file.errorString());
+    const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile(); // opening a pipe would wait
+    if (!isFile || !file.open(QIODevice::ReadOnly)) {
+        *error =
+            QStringLiteral("%1: %2").arg(path, isFile ? file.errorString() : QStringLiteral("not a file"));
+        return std::nullopt;
+    }
+    if (file.size() > mostInfoBytes) {
+        *error = QStringLiteral("%1: larger than %2 bytes").arg(path).arg(mostInfoBytes);
         return std::nullopt;
     }
     QJsonParseError parseError;
@@ -120,6 +183,10 @@ std::shared_ptr<Bundle> Bundle::open(const QString &folder, const QLocale &local
         return nullptr;
     }
     const QString absolute = QFileInfo(folder).absoluteFilePath();
+    if (const QString problem = foreignHandIn(absolute); !problem.isNull()) {
+        *message = problem;
+        return nullptr;
+    }
     const std::optional<QJsonObject> info = readInfo(absolute + QStringLiteral("/Info.json"), message);
     if (!info)
         return nullptr;
@@ -136,6 +203,14 @@ Bundle::~Bundle() = default;
 QVariant Bundle::infoValueForKey(const QString &key) const
 {
     return m_info.value(key).toVariant();
+}
+
+QStringList Bundle::secretKeys() const
+{
+    QStringList keys;
+    for (const QJsonValue &secret : m_info.value(secretKeysKey).toArray())
+        keys += secret[u"Options"].toVariant().toStringList() + QStringList(secret[u"Key"].toString());
+    return keys;
 }
 
 bool Bundle::servesModel(const QString &modelName) const

@@ -35,9 +35,16 @@ public:
     static const QString principalClassKey; // "PrincipalClass"
     static const QString panelTypeKey;      // "PanelType"
     static const QString printerModelsKey;  // "PrinterModels", a list of wildcards of PPD model names
+    // "ProtectingOptions", an object: PPD options, each with a list of the choices that protect the user.
+    static const QString protectingOptionsKey;
+    // "SecretKeys", a list of objects: "Key", a panel's key that holds a code; "Options", a list of the PPD
+    // options that keep it; "UsedWith", an object with the one option and choice with which it is used.
+    static const QString secretKeysKey;
 
-    // Null with a message that names the file and what is wrong with it: no folder, no Info.json, broken
-    // JSON, a missing or mistyped required key (all but the version and the models).
+    // Null with a message that names the file and what is wrong with it: no folder, no Info.json or a large
+    // one, broken JSON, a missing or mistyped required key (all but the version, the models and what protects
+    // the user; these are optional, but not mistyped); a folder in which anything belongs to, or can be
+    // written by, others than the system and the user, as whom its code would run.
     static std::shared_ptr<Bundle> open(const QString &folder, const QLocale &locale, QString *error);
     ~Bundle();
     Bundle(const Bundle &) = delete;
@@ -46,6 +53,8 @@ public:
     const QString &folder() const { return m_folder; }
     // Nil when Info.json lacks the key.
     QVariant infoValueForKey(const QString &key) const;
+    // The keys and options of "SecretKeys", all that hold a code or a part of one.
+    QStringList secretKeys() const;
     // Whether a PPD with this model name is one of "PrinterModels".
     bool servesModel(const QString &modelName) const;
 

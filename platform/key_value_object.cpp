@@ -195,6 +195,19 @@ void KeyValueObject::setKeysTriggerChangeNotificationsForDependentKey(const QMet
     }
 }
 
+QStringList KeyValueObject::keysOfDependentKey(const QString &dependentKey) const
+{
+    QStringList keys;
+    for (const QMetaObject *c = metaObject(); c; c = c->superClass()) {
+        const QHash<QString, QStringList> ofClass = dependentKeys->value(c);
+        for (auto it = ofClass.begin(); it != ofClass.end(); ++it) {
+            if (it.value().contains(dependentKey))
+                keys.append(it.key());
+        }
+    }
+    return keys;
+}
+
 void KeyValueObject::addObserverForKeyPath(KeyValueObject *observer, const QString &keyPath, QObject *context)
 {
     auto *registration = new ObserverRegistration(this, observer, keyPath);

@@ -42,6 +42,8 @@ public:
     static void setKeysTriggerChangeNotificationsForDependentKey(const QMetaObject *cls,
                                                                  const QStringList &keys,
                                                                  const QString &dependentKey);
+    // The keys that were registered so for a dependent key of this object's class.
+    QStringList keysOfDependentKey(const QString &dependentKey) const;
 
     // Registers `observer` for the changes of a key path of this object: after each, its
     // observeValueForKeyPathOfObjectChangeContext() runs with the new value under NSKeyValueChangeNewKey.

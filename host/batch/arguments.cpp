@@ -5,9 +5,9 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFile>
 #include <QMap>
 
+#include <algorithm>
 #include <string_view>
 
 namespace host {
@@ -46,7 +46,10 @@ QList<OptionText> optionTexts()
         {names({"s", "set"}), ArgumentsText::tr("KEY=VALUE"),
          ArgumentsText::tr("Set an option of the printer, or a key of a panel such as departmentCode.")},
         {names({"set-file"}), ArgumentsText::tr("KEY=FILE"),
-         ArgumentsText::tr("The same with the value read from a file's first line.")},
+         ArgumentsText::tr(
+             "The same with the value read from a file's first line; “-” is the standard input.")},
+        {names({"ask"}), ArgumentsText::tr("KEY"),
+         ArgumentsText::tr("The same with the value asked for on the terminal, which does not show it.")},
         {names({"o"}), ArgumentsText::tr("NAME=VALUE"),
          ArgumentsText::tr("The same; names unknown here are handed to the print system.")},
         {names({"batch"}), {}, ArgumentsText::tr("Print without opening a window.")},
@@ -84,19 +87,9 @@ void addOptions(QCommandLineParser *parser)
                                   ArgumentsText::tr("[FILE...]"));
 }
 
-bool readFirstLine(const QString &path, QString *line, QString *error)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = ArgumentsText::tr("The file “%1” cannot be read: %2.").arg(path, file.errorString());
-        return false;
-    }
-    *line = QString::fromUtf8(file.readLine()).trimmed();
-    return true;
-}
-
 bool addAssignment(const QString &name, const QString &word, Arguments *arguments, QString *error)
 {
+    using Source = Arguments::Assignment::Source;
     if (name == QLatin1String("n") || name == QLatin1String("copies")) {
         arguments->assignments.append({QStringLiteral("copies"), word});
         return true;
@@ -106,22 +99,32 @@ bool addAssignment(const QString &name, const QString &word, Arguments *argument
         return true;
     }
     const qsizetype equals = word.indexOf(QLatin1Char('='));
+    if (name == QLatin1String("ask")) {
+        if (!word.isEmpty() && equals < 0)
+            arguments->assignments.append({word, {}, false, Source::Terminal});
+        else
+            *error = ArgumentsText::tr("--ask takes a key alone; the value is asked for.");
+        return error->isEmpty();
+    }
     const bool passOn = name == QLatin1String("o");
     if (equals < 1 && !(passOn && equals < 0 && !word.isEmpty())) {
-        *error =
-            ArgumentsText::tr("“%1” is not of the form KEY=VALUE.").arg(word.section(QLatin1Char('='), 0, 0));
+        *error = passOn ? ArgumentsText::tr("-o takes NAME=VALUE or NAME.")
+                        : ArgumentsText::tr("--%1 takes %2; there is no “=” behind a key.")
+                              .arg(name.size() == 1 ? QStringLiteral("set") : name,
+                                   name == QLatin1String("set-file") ? ArgumentsText::tr("KEY=FILE")
+                                                                     : ArgumentsText::tr("KEY=VALUE"));
         return false;
     }
     // As lp has it, a bare name switches on and "no" before it switches off.
-    QString key = word.left(equals < 0 ? word.size() : equals);
-    QString value = equals < 0 ? QStringLiteral("true") : word.mid(equals + 1);
-    if (equals < 0 && key.startsWith(QLatin1String("no")) && key.size() > 2) {
-        key = key.mid(2);
-        value = QStringLiteral("false");
+    Arguments::Assignment assignment{word.left(equals < 0 ? word.size() : equals),
+                                     equals < 0 ? QStringLiteral("true") : word.mid(equals + 1), passOn};
+    if (equals < 0 && word.startsWith(QLatin1String("no")) && word.size() > 2) {
+        assignment.key = word.mid(2);
+        assignment.value = QStringLiteral("false");
     }
-    if (name == QLatin1String("set-file") && !readFirstLine(word.mid(equals + 1), &value, error))
-        return false;
-    arguments->assignments.append({key, value, passOn});
+    if (name == QLatin1String("set-file"))
+        assignment.source = assignment.value == QLatin1String("-") ? Source::Input : Source::File;
+    arguments->assignments.append(assignment);
     return true;
 }
 
@@ -130,7 +133,7 @@ bool readAssignments(const QCommandLineParser &parser, Arguments *arguments, QSt
 {
     const QStringList wanted = {QStringLiteral("n"),        QStringLiteral("copies"), QStringLiteral("P"),
                                 QStringLiteral("pages"),    QStringLiteral("s"),      QStringLiteral("set"),
-                                QStringLiteral("set-file"), QStringLiteral("o")};
+                                QStringLiteral("set-file"), QStringLiteral("ask"),    QStringLiteral("o")};
     const QMap<QString, QString> sameAs = {{QStringLiteral("copies"), QStringLiteral("n")},
                                            {QStringLiteral("pages"), QStringLiteral("P")},
                                            {QStringLiteral("set"), QStringLiteral("s")}};
@@ -152,6 +155,10 @@ QString problemOf(const Arguments &arguments)
         return ArgumentsText::tr("--color-scheme takes light or dark.");
     if (arguments.batch && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
         return ArgumentsText::tr("--batch needs a printer to print to; --ppd alone names none.");
+    const bool readsDocument =
+        arguments.files.contains(QLatin1String("-")) || (arguments.batch && arguments.files.isEmpty());
+    if (arguments.takesValueFromInput() && readsDocument)
+        return ArgumentsText::tr("The standard input cannot be a value and a document at once.");
     if (arguments.batch && !arguments.screenshot.isEmpty())
         return ArgumentsText::tr("--batch and --screenshot do not go together.");
     if (arguments.resolve && arguments.needsWindow())
@@ -159,6 +166,21 @@ QString problemOf(const Arguments &arguments)
     if (arguments.json && arguments.needsWindow())
         return ArgumentsText::tr("--json goes with --batch, --summary or --list-options.");
     return {};
+}
+
+// Qt's own message lists unknown letters one by one: those of "-p12345" are a code.
+QString parseProblem(const QCommandLineParser &parser)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    if (unknown.isEmpty())
+        return parser.errorText();
+    const QString name = unknown.first();
+    const bool isWord =
+        std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetter() || c == u'-'; });
+    if (!isWord)
+        return ArgumentsText::tr("There is an option on the command line that this program does not have.");
+    return ArgumentsText::tr("There is no option “%1”.")
+        .arg((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
 }
 
 bool hasWord(int argc, const char *const *argv, std::initializer_list<std::string_view> words)
@@ -176,12 +198,19 @@ bool hasWord(int argc, const char *const *argv, std::initializer_list<std::strin
 
 } // namespace
 
+bool Arguments::takesValueFromInput() const
+{
+    return std::any_of(assignments.begin(), assignments.end(), [](const Assignment &assignment) {
+        return assignment.source == Assignment::Source::Input;
+    });
+}
+
 std::optional<Arguments> parseArguments(const QStringList &words, QString *error)
 {
     QCommandLineParser parser;
     addOptions(&parser);
     if (!parser.parse(words)) {
-        *error = parser.errorText();
+        *error = parseProblem(parser);
         return std::nullopt;
     }
     const auto isSet = [&](const char *name) { return parser.isSet(QLatin1String(name)); };

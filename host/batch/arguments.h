@@ -29,6 +29,11 @@ struct Arguments
         QString key;
         QString value;
         bool passOn = false; // -o: a name that nobody here knows is a job option for the print system
+        // Where the value comes from; the file's path is the value until fetchValues() has read it.
+        enum class Source { CommandLine, File, Input, Terminal };
+        Source source = Source::CommandLine;
+
+        bool isSecret() const { return source != Source::CommandLine; }
     };
 
     bool help = false;
@@ -50,10 +55,13 @@ struct Arguments
     QList<Assignment> assignments; // in the order given
     QStringList files;             // "-" is the standard input
 
+    // Whether a value is read from the standard input, which then is no document.
+    bool takesValueFromInput() const;
     bool needsWindow() const { return !batch && !summary && !listOptions; }
 };
 
-// Nil with a message when the command line cannot be understood. The first word is the program's name.
+// Nil with a message when the command line cannot be understood. The first word is the program's name. The
+// message repeats no value: any may be a code in the wrong place.
 std::optional<Arguments> parseArguments(const QStringList &words, QString *error);
 // The text of --help.
 QString helpText();

@@ -28,8 +28,21 @@ bool markStandardName(const Arguments::Assignment &assignment, DialogSession *se
         session->markChoice(it.key(), it.value());
     if (choices.isEmpty())
         *error = {PrintError::Kind::BadValue,
-                  BatchText::tr("%1: this printer has no “%2”.").arg(assignment.key, assignment.value)};
+                  assignment.isSecret()
+                      ? BatchText::tr("%1 does not take this value.").arg(assignment.key)
+                      : BatchText::tr("%1: this printer has no “%2”.").arg(assignment.key, assignment.value)};
     return !choices.isEmpty();
+}
+
+// An option without the code that it may hold.
+PpdOption listed(const DialogSession &session, const QString &keyword)
+{
+    PpdOption option = *session.ppd()->option(keyword);
+    if (session.isSecret(keyword)) {
+        option.markedChoice.clear();
+        option.defaultChoice.clear();
+    }
+    return option;
 }
 
 } // namespace
@@ -44,7 +57,7 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<
                 passedOn->append({assignment.key, assignment.value, JobOption::Kind::Attribute});
             else if (!markStandardName(assignment, session, error))
                 return false;
-        } else if (!keys.set(assignment.key, assignment.value, error)) {
+        } else if (!keys.set(assignment.key, assignment.value, error, assignment.isSecret())) {
             return false;
         }
     }
@@ -95,7 +108,7 @@ ExitCode BatchRun::perform()
     if (m_arguments.listOptions) {
         m_result.hasOptions = true;
         for (const QString &keyword : m_session->ppd() ? m_session->ppd()->optionKeywords() : QStringList())
-            m_result.options.append(*m_session->ppd()->option(keyword));
+            m_result.options.append(listed(*m_session, keyword));
         m_result.panelKeys = SettingKeys(m_session.get()).panelKeys();
     }
     if (m_arguments.summary) {

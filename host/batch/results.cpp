@@ -33,16 +33,31 @@ QJsonArray toJson(const QList<OptionChoice> &choices)
     return array;
 }
 
+QJsonObject toJson(const CustomChoice &custom)
+{
+    QJsonArray parameters;
+    for (const CustomParameter &parameter : custom.parameters)
+        parameters.append(QJsonObject{{QStringLiteral("name"), parameter.keyword},
+                                      {QStringLiteral("text"), parameter.text},
+                                      {QStringLiteral("type"), parameter.typeName()},
+                                      {QStringLiteral("minimum"), parameter.minimum},
+                                      {QStringLiteral("maximum"), parameter.maximum}});
+    return {{QStringLiteral("text"), custom.text}, {QStringLiteral("parameters"), parameters}};
+}
+
 QJsonObject toJson(const PpdOption &option)
 {
     QJsonArray choices;
     for (const PpdOption::Choice &choice : option.choices)
         choices.append(
             QJsonObject{{QStringLiteral("choice"), choice.keyword}, {QStringLiteral("text"), choice.text}});
-    return {
+    QJsonObject object{
         {QStringLiteral("option"), option.keyword},       {QStringLiteral("text"), option.text},
         {QStringLiteral("group"), option.groupText},      {QStringLiteral("default"), option.defaultChoice},
         {QStringLiteral("current"), option.markedChoice}, {QStringLiteral("choices"), choices}};
+    if (option.custom)
+        object[QStringLiteral("custom")] = toJson(*option.custom);
+    return object;
 }
 
 QJsonObject toJson(const SubmittedJob &job, const QString &queue, const QStringList &documents)
@@ -136,7 +151,7 @@ bool ResultWriter::begin()
 bool ResultWriter::write(const BatchResult &result, bool asJson)
 {
     if (asJson)
-        put(QJsonDocument(toJson(result)).toJson().mid(m_hasBegun ? 1 : 0));
+        put(terminalJson(QJsonDocument(toJson(result)).toJson()).mid(m_hasBegun ? 1 : 0));
     else
         writeText(result);
     return finish();
@@ -182,8 +197,12 @@ void ResultWriter::writeOptions(const BatchResult &result)
         for (const PpdOption::Choice &choice : option.choices)
             choices.append((choice.keyword == option.markedChoice ? QStringLiteral("*") : QString()) +
                            choice.keyword);
+        if (isCustomChoice(option.markedChoice))
+            choices.append(QLatin1Char('*') + option.markedChoice);
         print(
             QStringLiteral("    %1/%2: %3").arg(option.keyword, option.text, choices.join(QLatin1Char(' '))));
+        if (option.custom)
+            print(QStringLiteral("        ") + ResultText::tr("and %1").arg(option.custom->inWords()));
     }
     if (!result.panelKeys.isEmpty())
         print(ResultText::tr("Keys of the panels"));

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/batch/terminal_text.h"
 #include "host/printing/job.h"
 #include "host/session/dialog_session.h"
 
@@ -50,10 +51,10 @@ private:
     void writeOptions(const BatchResult &result);
     void writeJob(const BatchResult &result);
     void writeConflicts(const BatchResult &result);
-    void print(const QString &line) { put(line.toUtf8() + '\n'); }
+    void print(const QString &line) { put(terminalLine(line)); }
     void put(const QByteArray &bytes) { m_isTaken = m_out->write(bytes) == bytes.size() && m_isTaken; }
     bool finish();
-    void complain(const QString &line) { m_err->write("kelmar-print: " + line.toUtf8() + '\n'); }
+    void complain(const QString &line) { m_err->write("kelmar-print: " + terminalLine(line)); }
 
     QIODevice *m_out;
     QIODevice *m_err;

@@ -28,6 +28,12 @@ struct DestinationDeleter
 };
 using CupsDestinationPointer = std::unique_ptr<cups_dest_t, DestinationDeleter>;
 
+struct CupsFileCloser
+{
+    void operator()(cups_file_t *file) const { cupsFileClose(file); }
+};
+using CupsFilePointer = std::unique_ptr<cups_file_t, CupsFileCloser>;
+
 // A list of options as libcups passes it around: a count and an array that grows.
 class CupsOptionList
 {
@@ -41,6 +47,10 @@ public:
     {
         m_count = cupsAddOption(name, value, m_count, &m_options);
     }
+    // Adds what a text such as "name=value other='two words'" says; braces around it are taken off.
+    void parse(const char *text) { m_count = cupsParseOptions(text, m_count, &m_options); }
+    // Null when the list has no such option.
+    const char *value(const char *name) const { return cupsGetOption(name, m_count, m_options); }
     int count() const { return m_count; }
     cups_option_t *options() const { return m_options; }
 

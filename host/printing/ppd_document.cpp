@@ -20,7 +20,8 @@
 #include <fcntl.h>
 #include <sys/mman.h>
 
-// The one place where the host meets the PPD interface that libcups means to drop one day.
+// The ppd_* files of this folder are the one place where the host meets the PPD interface that libcups means
+// to drop one day.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace host {
@@ -53,6 +54,23 @@ const ppd_choice_t *marked(ppd_file_t *ppd, const QString &keyword)
     return ppdFindMarkedChoice(ppd, keyword.toUtf8().constData());
 }
 
+// Whether a PPD, unpacked where it is compressed, is beyond what a PPD can be. Only a compressed one has to
+// be read for that.
+bool isTooLarge(const QString &path)
+{
+    QFile file(path);
+    if (file.size() > PpdDocument::mostBytes)
+        return true;
+    if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArrayLiteral("\x1f\x8b"))
+        return false;
+    const CupsFilePointer unpacked(cupsFileOpen(QFile::encodeName(path).constData(), "r"));
+    char block[16 * 1024];
+    qint64 total = 0;
+    for (ssize_t count = 1; unpacked && count > 0 && total <= PpdDocument::mostBytes; total += count)
+        count = cupsFileRead(unpacked.get(), block, sizeof block);
+    return total > PpdDocument::mostBytes;
+}
+
 // The order in which a dialog should mark choices again: the page size last wins over what regions did to it.
 bool isShadowOfPageSize(const char *keyword)
 {
@@ -82,6 +100,9 @@ QString OptionChoice::text() const
 
 bool PpdOption::hasChoice(const QString &choice) const
 {
+    QString ignored;
+    if (custom && isCustomChoice(choice))
+        return custom->read(choice, keyword, &ignored).has_value();
     return std::any_of(choices.begin(), choices.end(), [&](const Choice &c) { return c.keyword == choice; });
 }
 
@@ -99,8 +120,13 @@ std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *
                   PpdDocumentText::tr("You are not allowed to read the PPD file “%1”.").arg(path)};
         return nullptr;
     }
-    return adopt(ppdOpenFile(QFile::encodeName(path).constData()),
-                 PpdDocumentText::tr("The PPD file “%1”").arg(path), error);
+    const QString name = PpdDocumentText::tr("The PPD file “%1”").arg(path);
+    if (isTooLarge(path)) {
+        *error = {PrintError::Kind::BrokenPpd,
+                  PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(mostBytes >> 20)};
+        return nullptr;
+    }
+    return adopt(ppdOpenFile(QFile::encodeName(path).constData()), name, error);
 }
 
 // libcups reads from files only; this one is in memory, so that no disk can cut it short.
@@ -130,7 +156,9 @@ std::unique_ptr<PpdDocument> PpdDocument::adopt(ppd_file_s *ppd, const QString &
     }
     localizePpdTexts(ppd);
     ppdMarkDefaults(ppd);
-    return std::unique_ptr<PpdDocument>(new PpdDocument(ppd));
+    std::unique_ptr<PpdDocument> document(new PpdDocument(ppd));
+    document->replaceBadCustomDefaults();
+    return document;
 }
 
 PpdDocument::~PpdDocument()
@@ -160,17 +188,18 @@ bool PpdDocument::hasOption(const QString &keyword) const
 
 std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 {
-    const ppd_option_t *record = ppdFindOption(m_ppd, keyword.toUtf8().constData());
+    ppd_option_t *record = ppdFindOption(m_ppd, keyword.toUtf8().constData());
     if (!record)
         return std::nullopt;
     PpdOption option;
+    option.custom = customChoiceOf(m_ppd, record);
     option.keyword = text(record->keyword);
     option.text = record->text[0] ? text(record->text) : option.keyword;
     option.defaultChoice = text(record->defchoice);
     option.markedChoice = markedChoice(option.keyword);
     for (int i = 0; i < record->num_choices; ++i) {
         const ppd_choice_t &choice = record->choices[i];
-        if (qstrcmp(choice.choice, "Custom") != 0)
+        if (!isCustomChoice(text(choice.choice)))
             option.choices.append({text(choice.choice), text(choice.text[0] ? choice.text : choice.choice)});
     }
     forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &group, const ppd_option_t &other) {
@@ -183,7 +212,15 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 QString PpdDocument::markedChoice(const QString &keyword) const
 {
     const ppd_choice_t *choice = marked(m_ppd, keyword);
-    return choice ? text(choice->choice) : QString();
+    if (!choice)
+        return {};
+    const QString name = text(choice->choice);
+    const auto custom = isCustomChoice(name) ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
+    if (!custom)
+        return name;
+    // Panels mark in the record as well.
+    const Written written = m_written.value(text(choice->option->keyword));
+    return written.inRecord == custom->current() ? written.choice : custom->current();
 }
 
 QString PpdDocument::defaultChoice(const QString &keyword) const
@@ -200,6 +237,13 @@ OptionChoice PpdDocument::described(const QString &keyword, const QString &choic
         return result;
     if (option->text[0])
         result.optionText = text(option->text);
+    const auto custom = isCustomChoice(choice) ? customChoiceOf(m_ppd, option) : std::nullopt;
+    if (custom) {
+        result.choiceText = custom->shown(choice);
+        if (custom->isSecret())
+            result.choice = QStringLiteral("Custom");
+        return result;
+    }
     const ppd_choice_t *record = ppdFindChoice(option, choice.toUtf8().constData());
     if (record && record->text[0])
         result.choiceText = text(record->text);
@@ -211,18 +255,50 @@ bool PpdDocument::mark(const QString &keyword, const QString &choice)
     ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
     if (!option || !ppdFindChoice(option, choice.toUtf8().constData()))
         return false;
+    const auto custom = isCustomChoice(choice) ? customChoiceOf(m_ppd, option) : std::nullopt;
+    QString problem;
+    if (custom && !custom->read(choice, keyword, &problem))
+        return false;
     ppdMarkOption(m_ppd, option->keyword, choice.toUtf8().constData());
+    if (custom)
+        m_written[text(option->keyword)] = {choice, customChoiceOf(m_ppd, option)->current()};
     return true;
 }
 
-void PpdDocument::markOptions(const QMap<QString, QString> &options)
+// libcups marks whatever stands in a PPD's default, "Custom.foo" included.
+void PpdDocument::replaceBadCustomDefaults()
+{
+    for (const QString &keyword : optionKeywords()) {
+        const QString choice = defaultChoice(keyword);
+        if (!isCustomChoice(choice) || mark(keyword, choice))
+            continue;
+        const auto subject = option(keyword);
+        if (subject->custom && !subject->choices.isEmpty())
+            mark(keyword, subject->choices.first().keyword);
+    }
+}
+
+QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
 {
     CupsOptionList list;
+    QStringList problems;
     for (auto it = options.begin(); it != options.end(); ++it) {
-        if (takesOption(it.key()))
+        if (!takesOption(it.key()))
+            continue;
+        const bool isSize = it.key() == QLatin1String("media");
+        const auto subject = isCustomChoice(it.value())
+                                 ? option(isSize ? QStringLiteral("PageSize") : it.key())
+                                 : std::nullopt;
+        QString problem;
+        if (!subject || !subject->custom)
             list.add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
+        else if (subject->custom->read(it.value(), subject->keyword, &problem))
+            mark(subject->keyword, it.value());
+        else
+            problems.append(problem);
     }
     cupsMarkOptions(m_ppd, list.count(), list.options());
+    return problems;
 }
 
 bool PpdDocument::takesOption(const QString &name) const
@@ -268,7 +344,8 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
         cupsMarkOptions(m_ppd, list.count(), list.options());
         for (auto it = before.begin(); it != before.end(); ++it) {
             const QString now = markedChoice(it.key());
-            if (now != decoys.value(it.key(), it.value()))
+            const bool isSound = !isCustomChoice(now) || option(it.key())->hasChoice(now);
+            if (isSound && now != decoys.value(it.key(), it.value()))
                 result.insert(it.key(), now);
         }
     };
@@ -338,7 +415,12 @@ std::optional<Resolution> PpdDocument::resolution(const QString &keep) const
     if (ppdConflicts(m_ppd) == 0)
         return std::nullopt;
     const QByteArray kept = keep.toUtf8();
-    const QByteArray choice = markedChoice(keep).toUtf8();
+    // By libcups's own keyword, which is "Custom" for every choice with values.
+    const auto keywordOf = [this](const QString &option) {
+        const ppd_choice_t *choice = marked(m_ppd, option);
+        return choice ? text(choice->choice) : QString();
+    };
+    const QByteArray choice = keywordOf(keep).toUtf8();
     const bool hasKept = !kept.isEmpty() && !choice.isEmpty();
     int count = 0;
     cups_option_t *options = nullptr;
@@ -348,7 +430,7 @@ std::optional<Resolution> PpdDocument::resolution(const QString &keep) const
     for (int i = 0; i < count; ++i) {
         const QString option = text(options[i].name);
         const QString value = text(options[i].value);
-        if (hasOption(option) && markedChoice(option) != value)
+        if (hasOption(option) && keywordOf(option) != value)
             changes.append(described(option, value));
     }
     cupsFreeOptions(count, options);

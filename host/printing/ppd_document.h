@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/printing/ppd_option.h"
 #include "host/printing/print_error.h"
 
 #include <QByteArray>
@@ -21,53 +22,15 @@ namespace host {
 
 class PpdConstraints;
 
-// An option set to one of its choices, with the words a user reads.
-struct OptionChoice
-{
-    QString option;
-    QString choice;
-    QString optionText;
-    QString choiceText;
-
-    // "Two-Sided: Long Edge".
-    QString text() const;
-    bool operator==(const OptionChoice &) const = default;
-};
-
-struct PpdOption
-{
-    struct Choice
-    {
-        QString keyword;
-        QString text;
-    };
-    QString keyword;
-    QString text;
-    QString groupText;
-    QString defaultChoice;
-    QString markedChoice;  // empty when nothing is marked
-    QList<Choice> choices; // without those that take a value of their own
-
-    bool hasChoice(const QString &choice) const;
-};
-
-// Choices that the PPD forbids together and that are marked all the same.
-struct Conflict
-{
-    QList<OptionChoice> sides; // in PPD order of their options
-    bool operator==(const Conflict &) const = default;
-};
-
-// What libcups proposes to end every conflict.
-using Resolution = QList<OptionChoice>;
-
 // A printer's PPD, opened, localised and marked with its defaults. Owns the record that panels work on;
-// outlives them. The only door to libcups's PPD interface in the host. Texts are in the user's language where
-// the PPD has it.
+// outlives them. Texts are in the user's language where the PPD has it. Choices that take values are written
+// with them, as in "Custom.300x400" (ppd_custom.h), here and wherever choices of a PPD go.
 class PpdDocument
 {
 public:
-    // Null with an error that names the file, and the line where the PPD is broken.
+    // Null with an error that names the file, and the line where the PPD is broken. A file beyond
+    // `mostBytes`, compressed or not, is refused unread.
+    static constexpr qint64 mostBytes = 32 * 1024 * 1024;
     static std::unique_ptr<PpdDocument> open(const QString &path, PrintError *error);
     // The PPD that the print server keeps for a queue.
     static std::unique_ptr<PpdDocument> ofQueue(const QString &queue, const QByteArray &content,
@@ -89,12 +52,12 @@ public:
     // With the words for it; the keywords themselves where the PPD has no such option or choice.
     OptionChoice described(const QString &keyword, const QString &choice) const;
 
-    // False, and nothing changed, when the PPD has no such option or choice. Sizes such as "Custom.100x200mm"
-    // count as choices where the option takes them.
+    // False, and nothing changed, when the PPD has no such option or choice, or does not take its values.
     bool mark(const QString &keyword, const QString &choice);
     // Marks what a destination's or a command's options say, standard names such as "media" and "sides"
-    // included; options that the PPD knows nothing of are passed over.
-    void markOptions(const QMap<QString, QString> &options);
+    // included; options that the PPD knows nothing of are passed over. Gives what is wrong, in a user's
+    // words, with values that an option does not take and that are left out.
+    QStringList markOptions(const QMap<QString, QString> &options);
     // Whether markOptions() turns an option of this name into marks.
     bool takesOption(const QString &name) const;
     // The choices that a standard name such as "media" stands for with this value, by option. Empty when the
@@ -122,9 +85,17 @@ private:
     PpdConstraints &constraints() const; // read when first asked for
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
     bool isInstallableOption(const ppd_option_s *option) const;
+    void replaceBadCustomDefaults();
 
     ppd_file_s *m_ppd = nullptr;
     mutable std::unique_ptr<PpdConstraints> m_constraints;
+    // A custom choice as it was written, in the user's unit, and as the record holds it.
+    struct Written
+    {
+        QString choice;
+        QString inRecord;
+    };
+    QMap<QString, Written> m_written; // by option
 };
 
 } // namespace host

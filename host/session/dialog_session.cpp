@@ -63,7 +63,7 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
     m_printSession.printer = platform::Printer{destination.name(), destination.deviceUri};
     m_printSession.ppd = ppdFile();
     if (m_ppd)
-        m_ppd->markOptions(destination.options);
+        m_notices += m_ppd->markOptions(destination.options);
     for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
         if (isPanelSetting(it.key()))
             m_printSettings.setValue(it.key(), it.value());
@@ -81,6 +81,14 @@ void DialogSession::loadPanels(Extensions &extensions)
     if (!m_ppd)
         return;
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
+    m_secretKeys = extensions.secretKeys(m_ppd->modelName());
+}
+
+bool DialogSession::isSecret(const QString &key) const
+{
+    const auto option = m_ppd ? m_ppd->option(key) : std::nullopt;
+    return m_secretKeys.contains(option ? option->keyword : key) ||
+           (option && option->custom && option->custom->isSecret());
 }
 
 void DialogSession::panelFailed(const QString &, const QString &reason)

@@ -51,6 +51,8 @@ public:
     bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
     // The panel that handles a PPD option, or -1.
     int panelOfKeyword(const QString &keyword) const;
+    // Whether an option or a panel's key holds a code, which nobody but its user may see.
+    bool isSecret(const QString &key) const;
     // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
     // their options stand. These are not restored, since a panel may ask a device that is switched off.
     void prepare(int index);
@@ -115,6 +117,7 @@ private:
     ChangeLedger m_ledger;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;
+    QStringList m_secretKeys;
     QString m_lastUserKeyword;
     int m_saving = -1;
     int m_busy = 0; // calls of this object into panels that are under way

@@ -72,6 +72,22 @@ platform::PrintDialogExtension *Extensions::principalObject(Loaded *loaded, QStr
     return loaded->extension;
 }
 
+bool Extensions::serves(const Loaded &loaded, const QString &modelName)
+{
+    const QString type = loaded.bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
+    return type == platform::printDialogPanelType && loaded.bundle->servesModel(modelName);
+}
+
+QStringList Extensions::secretKeys(const QString &modelName) const
+{
+    QStringList keys;
+    for (const Loaded &loaded : m_loaded) {
+        if (serves(loaded, modelName))
+            keys += loaded.bundle->secretKeys();
+    }
+    return keys;
+}
+
 platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                                   QStringList *problems)
 {
@@ -79,9 +95,7 @@ platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, plat
         open(problems);
     platform::PrintDialogPanels panels;
     for (Loaded &loaded : m_loaded) {
-        const auto &bundle = loaded.bundle;
-        const QString type = bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
-        if (type != platform::printDialogPanelType || !bundle->servesModel(modelName))
+        if (!serves(loaded, modelName))
             continue;
         QString error;
         auto *extension = principalObject(&loaded, &error);

@@ -32,6 +32,10 @@ public:
     platform::PrintDialogPanels panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                           QStringList *problems);
 
+    // The options and panel keys that hold codes on this model, as the bundles that serve it say. The one
+    // place where that is known; the bundles have to be open, as they are once panels were asked for.
+    QStringList secretKeys(const QString &modelName) const;
+
 private:
     struct Loaded
     {
@@ -39,6 +43,7 @@ private:
         platform::PrintDialogExtension *extension = nullptr; // null until its code is needed; the bundle's
     };
     void open(QStringList *problems);
+    static bool serves(const Loaded &loaded, const QString &modelName);
     platform::PrintDialogExtension *principalObject(Loaded *loaded, QString *error);
 
     QStringList m_folders;

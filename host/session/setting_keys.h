@@ -20,8 +20,9 @@ public:
     explicit SettingKeys(DialogSession *session) : m_session(session) {}
 
     // False with an error in plain words, and nothing changed, when there is no such key or it does not take
-    // the value. The error never repeats a value that may be a code.
-    bool set(const QString &key, const QString &value, PrintError *error);
+    // the value. The error never repeats a value that is a code: one of a secret key, or of any key when the
+    // value came by a way for secrets.
+    bool set(const QString &key, const QString &value, PrintError *error, bool valueIsSecret = false);
     // Whether set() has something to set under this key, whatever the value.
     bool knows(const QString &key) const;
     // The keys that can be set beside PPD options, as "panel kind" and "key"; "general" stands for the
@@ -33,8 +34,12 @@ private:
     bool setOption(const QString &keyword, const QString &value, PrintError *error);
     bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
     int panelOfKey(const QString &keyPath) const;
+    QStringList keysOfPanel(int panel) const;
+    // "A has no choice “B”; it has C.", without B where that may be a code.
+    PrintError noSuchChoice(const PpdOption &option, const QString &choice) const;
 
     DialogSession *m_session;
+    bool m_valueIsSecret = false;
 };
 
 } // namespace host

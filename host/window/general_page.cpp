@@ -107,7 +107,7 @@ void GeneralPage::addPages(QGridLayout *grid)
 
 void GeneralPage::pagesEdited()
 {
-    const QString text = problem();
+    const QString text = pagesProblem();
     m_problem->setText(text);
     // While the user is still typing "3-" or "3," nothing is wrong yet.
     const bool unfinished =
@@ -121,6 +121,12 @@ void GeneralPage::pagesEdited()
 
 QString GeneralPage::problem() const
 {
+    const QString pages = pagesProblem();
+    return pages.isEmpty() && m_form ? m_form->problem() : pages;
+}
+
+QString GeneralPage::pagesProblem() const
+{
     if (m_allPages->isChecked())
         return {};
     if (m_pages->text().trimmed().isEmpty())
@@ -132,7 +138,11 @@ QString GeneralPage::problem() const
 
 void GeneralPage::showProblem()
 {
-    m_problem->setText(problem());
+    if (pagesProblem().isEmpty()) {
+        m_form->showProblem();
+        return;
+    }
+    m_problem->setText(pagesProblem());
     m_problem->show();
     m_pages->setFocus();
     m_pages->selectAll();

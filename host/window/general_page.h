@@ -39,6 +39,7 @@ private:
     void addCopies(QGridLayout *grid);
     void addPages(QGridLayout *grid);
     void pagesEdited();
+    QString pagesProblem() const;
 
     DialogSession *m_session;
     QSpinBox *m_copies;

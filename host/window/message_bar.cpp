@@ -3,6 +3,8 @@
 
 #include "host/window/message_bar.h"
 
+#include "host/window/foreign_text.h"
+
 #include <QAccessible>
 #include <QBoxLayout>
 #include <QLabel>
@@ -69,8 +71,9 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
 {
     m_kind = kind;
     m_glyph->setKind(kind);
-    m_title->setText(title);
-    m_lines->setText(lines.join(QLatin1Char('\n')));
+    m_title->setText(wrappable(title));
+    m_lines->setText(wrappable(lines.join(QLatin1Char('\n'))));
+    m_lines->setToolTip(tooltipOf(lines.join(QLatin1Char('\n'))));
     m_lines->setVisible(!lines.isEmpty());
     qDeleteAll(m_buttons);
     m_buttons.clear();

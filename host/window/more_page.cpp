@@ -4,6 +4,7 @@
 #include "host/window/more_page.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/foreign_text.h"
 #include "host/window/option_form.h"
 
 #include <QGridLayout>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr qsizetype rowsInPart = 10; // built in a few milliseconds
 constexpr qsizetype rowsAtOnce = 20; // more than a window of usual height shows
+constexpr int titleWidth = 440; // pixels
 
 } // namespace
 
@@ -57,11 +59,12 @@ QList<MorePage::Part> MorePage::partsOf(const DialogSession &session) const
 void MorePage::build(const Part &part)
 {
     if (!part.title.isNull()) {
-        auto *title = new QLabel(part.title, this);
+        auto *title = new QLabel(this);
         title->setTextFormat(Qt::PlainText);
         QFont bold = title->font();
         bold.setWeight(QFont::DemiBold);
         title->setFont(bold);
+        title->setText(elided(part.title, title, titleWidth));
         if (!m_forms.isEmpty())
             title->setContentsMargins(0, 12, 0, 0);
         m_grid->addWidget(title, m_grid->rowCount(), 0, 1, 3);
@@ -87,6 +90,25 @@ void MorePage::paintEvent(QPaintEvent *event)
     QWidget::paintEvent(event);
     if (!std::exchange(m_painted, true) && !m_toBuild.isEmpty())
         QTimer::singleShot(0, this, &MorePage::buildNext);
+}
+
+QString MorePage::problem() const
+{
+    for (const OptionForm *form : m_forms) {
+        if (const QString problem = form->problem(); !problem.isEmpty())
+            return problem;
+    }
+    return {};
+}
+
+void MorePage::showProblem()
+{
+    for (OptionForm *form : std::as_const(m_forms)) {
+        if (!form->problem().isEmpty()) {
+            form->showProblem();
+            return;
+        }
+    }
 }
 
 void MorePage::refresh()

@@ -24,6 +24,10 @@ class MorePage : public QWidget
 public:
     explicit MorePage(DialogSession *session, QWidget *parent = nullptr);
     void refresh();
+    // Nil string when everything typed here makes sense.
+    QString problem() const;
+    // Puts the cursor where the problem is.
+    void showProblem();
 
 Q_SIGNALS:
     void chosen(const QString &keyword);

@@ -4,19 +4,27 @@
 #include "host/window/option_form.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/custom_editor.h"
+#include "host/window/foreign_text.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QStandardItemModel>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
 
 constexpr int boxWidth = 240; // pixels, as in the panels
+constexpr int mostWidth = 360;
+constexpr int labelWidth = 220;
 
-}
+const QString customItem = QStringLiteral("Custom");
+
+} // namespace
 
 OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid,
                        Mnemonics *mnemonics, QObject *parent)
@@ -30,28 +38,62 @@ OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGri
 void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics)
 {
     const auto option = m_session->ppd()->option(keyword);
-    if (!option || option->choices.isEmpty())
+    if (!option || (option->choices.isEmpty() && !option->custom))
         return;
     auto *box = new QComboBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);
+    box->setMaximumWidth(mostWidth);
     box->setObjectName(option->keyword);
-    box->setAccessibleName(option->text);
+    box->setAccessibleName(oneLine(option->text));
     for (const PpdOption::Choice &choice : option->choices)
-        box->addItem(choice.text, choice.keyword);
-    auto *label =
-        new QLabel(tr("%1:", "label of a field").arg(mnemonics->assign(option->text)), grid->parentWidget());
+        box->addItem(oneLine(choice.text), choice.keyword);
+    if (option->custom)
+        box->addItem(tr("%1…", "Custom, whose values are asked for").arg(oneLine(option->custom->text)),
+                     customItem);
+    auto *label = new QLabel(grid->parentWidget());
     label->setTextFormat(Qt::PlainText);
+    label->setText(
+        tr("%1:", "label of a field").arg(mnemonics->assign(elided(option->text, label, labelWidth))));
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     label->setBuddy(box);
     const int row = grid->rowCount();
     grid->addWidget(label, row, 0);
     grid->addWidget(box, row, 1);
     m_rows.append({.keyword = option->keyword, .box = box});
-    connect(box, &QComboBox::activated, this, [this, box, keyword] {
-        m_session->markChoice(keyword, box->currentData().toString());
-        refresh();
-        Q_EMIT chosen(keyword);
-    });
+    const qsizetype index = m_rows.size() - 1;
+    if (option->custom) {
+        CustomEditor *editor = new CustomEditor(*option->custom, option->text, grid->parentWidget());
+        m_rows.last().editor = editor;
+        grid->addWidget(editor, row + 1, 1);
+        connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
+    }
+    connect(box, &QComboBox::activated, this, [this, index] { choose(index); });
+}
+
+void OptionForm::choose(qsizetype index)
+{
+    Row &row = m_rows[index];
+    row.awaitsValues = false;
+    const QString choice = row.box->currentData().toString();
+    if (row.editor && choice == customItem) {
+        row.editor->show();
+        row.editor->setFocus();
+        markCustom(index);
+        return;
+    }
+    m_session->markChoice(row.keyword, choice);
+    refresh();
+    Q_EMIT chosen(row.keyword);
+}
+
+// What is not complete yet is not marked; the form keeps it, and says so.
+void OptionForm::markCustom(qsizetype index)
+{
+    Row &row = m_rows[index];
+    row.awaitsValues = !m_session->markChoice(row.keyword, row.editor->choice());
+    refresh();
+    if (!row.awaitsValues)
+        Q_EMIT chosen(row.keyword);
 }
 
 QComboBox *OptionForm::box(const QString &keyword) const
@@ -63,6 +105,22 @@ QComboBox *OptionForm::box(const QString &keyword) const
     return nullptr;
 }
 
+QString OptionForm::problem() const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [](const Row &r) { return r.awaitsValues; });
+    return row == m_rows.end() ? QString() : row->editor->problem();
+}
+
+void OptionForm::showProblem()
+{
+    for (const Row &row : std::as_const(m_rows)) {
+        if (row.awaitsValues) {
+            row.editor->showProblem();
+            return;
+        }
+    }
+}
+
 void OptionForm::refresh()
 {
     for (Row &row : m_rows)
@@ -71,7 +129,14 @@ void OptionForm::refresh()
 
 void OptionForm::refreshRow(Row &row)
 {
-    const QString current = m_session->ppd()->markedChoice(row.keyword);
+    const QString marked = m_session->ppd()->markedChoice(row.keyword);
+    const bool isCustom = row.editor && (row.awaitsValues || isCustomChoice(marked));
+    const QString current = isCustom ? customItem : marked;
+    if (row.editor) {
+        row.editor->setVisible(isCustom);
+        if (isCustom && !row.awaitsValues)
+            row.editor->setChoice(marked);
+    }
     const quint32 revision = m_session->ppd()->forbiddenRevision(row.keyword);
     if (row.isDecided && row.current == current && row.revision == revision) {
         row.box->setCurrentIndex(row.index);
@@ -93,8 +158,8 @@ void OptionForm::greyOut(const Row &row)
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == row.current || !forbidden.contains(choice);
         items->item(i)->setEnabled(free);
-        items->item(i)->setToolTip(free ? QString()
-                                        : tr("Not together with %1").arg(forbidden.value(choice).text()));
+        items->item(i)->setToolTip(
+            free ? QString() : tooltipOf(tr("Not together with %1").arg(forbidden.value(choice).text())));
     }
 }
 

@@ -15,11 +15,12 @@ class QGridLayout;
 
 namespace host {
 
+class CustomEditor;
 class DialogSession;
 
-// Rows of a page, one for each of some PPD options: a label and a list of the choices. Choices that something
-// else stands in the way of are greyed and say why. Belongs to the page whose grid it fills; the session is
-// borrowed and outlives it.
+// Rows of a page, one for each of some PPD options: a label, a list of the choices, and below it the values
+// of a custom choice while that is the one. Choices that something else stands in the way of are greyed and
+// say why. Belongs to the page whose grid it fills; the session is borrowed and outlives it.
 class OptionForm : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,10 @@ public:
                QObject *parent);
 
     QComboBox *box(const QString &keyword) const;
+    // What keeps a custom choice that the user has begun from being marked; nil when nothing does.
+    QString problem() const;
+    // Puts the cursor there.
+    void showProblem();
 
 public Q_SLOTS:
     // Shows what is marked now.
@@ -42,6 +47,8 @@ private:
     {
         QString keyword;
         QComboBox *box;
+        CustomEditor *editor = nullptr; // null for an option without a custom choice
+        bool awaitsValues = false;      // a custom choice is begun, and its values are not complete
         // What the greying was decided for; it holds while these are the same.
         quint32 revision = 0;
         QString current = QString();
@@ -49,6 +56,8 @@ private:
         bool isDecided = false;
     };
     void addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics);
+    void choose(qsizetype index);
+    void markCustom(qsizetype index);
     void refreshRow(Row &row);
     void greyOut(const Row &row);
 

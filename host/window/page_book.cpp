@@ -177,13 +177,19 @@ void PageBook::turn(int steps)
         showPage(std::clamp(m_current + steps, 0, static_cast<int>(m_pages.size()) - 1));
 }
 
-bool PageBook::checkGeneral()
+bool PageBook::checkTyped()
 {
-    if (!m_general || m_general->problem().isEmpty())
-        return true;
-    showPage(pageNamed(generalName));
-    m_general->showProblem();
-    return false;
+    if (m_general && !m_general->problem().isEmpty()) {
+        showPage(pageNamed(generalName));
+        m_general->showProblem();
+        return false;
+    }
+    if (m_more && !m_more->problem().isEmpty()) {
+        showPage(pageNamed(moreName));
+        m_more->showProblem();
+        return false;
+    }
+    return true;
 }
 
 } // namespace host

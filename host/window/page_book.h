@@ -44,7 +44,7 @@ public:
     void turn(int steps);
 
     // Whether what is typed on the general page makes sense; shows the place where it does not.
-    bool checkGeneral();
+    bool checkTyped();
 
 Q_SIGNALS:
     // A page has been left, and its settings saved.

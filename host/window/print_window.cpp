@@ -396,7 +396,7 @@ void PrintWindow::print()
 {
     if (m_submission || !m_print->isEnabled())
         return;
-    if (!m_book->checkGeneral())
+    if (!m_book->checkTyped())
         return;
     m_session->save();
     sessionChanged();

@@ -3,6 +3,9 @@
 
 #include "host/window/printer_picker.h"
 
+#include "host/window/elided_label.h"
+#include "host/window/foreign_text.h"
+
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -10,14 +13,13 @@
 namespace host {
 
 PrinterPicker::PrinterPicker(QWidget *parent)
-    : QWidget(parent), m_box(new QComboBox(this)), m_state(new QLabel(this))
+    : QWidget(parent), m_box(new QComboBox(this)), m_state(new ElidedLabel(this))
 {
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->setMinimumContentsLength(24);
     m_box->setMaximumWidth(420);
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setAccessibleName(tr("Printer"));
-    m_state->setTextFormat(Qt::PlainText);
     m_state->setIndent(2);
     QPalette muted = m_state->palette();
     QColor colour = muted.color(QPalette::WindowText);
@@ -46,7 +48,7 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers)
 {
     m_box->clear();
     for (const Destination &printer : printers)
-        m_box->addItem(printer.displayName(), QVariant::fromValue(printer));
+        m_box->addItem(oneLine(printer.displayName()), QVariant::fromValue(printer));
     m_box->setCurrentIndex(-1);
     for (int i = 0; i < m_box->count(); ++i) {
         if (m_box->itemData(i).value<Destination>().name() == m_current)
@@ -63,7 +65,7 @@ void PrinterPicker::setCurrent(const Destination &printer)
             index = i;
     }
     if (index < 0) {
-        m_box->addItem(printer.displayName(), QVariant::fromValue(printer));
+        m_box->addItem(oneLine(printer.displayName()), QVariant::fromValue(printer));
         index = m_box->count() - 1;
     }
     m_box->setCurrentIndex(index);
@@ -73,9 +75,9 @@ void PrinterPicker::setCurrent(const Destination &printer)
 void PrinterPicker::setFixedText(const QString &text)
 {
     m_box->clear();
-    m_box->addItem(text);
+    m_box->addItem(oneLine(text));
     m_box->setEnabled(false);
-    m_state->setText(tr("Options of a PPD file; there is no printer to print on"));
+    m_state->showText(tr("Options of a PPD file; there is no printer to print on"));
 }
 
 void PrinterPicker::describe(const Destination &printer)
@@ -91,7 +93,7 @@ void PrinterPicker::describe(const Destination &printer)
         parts.append(printer.location);
     if (!printer.makeAndModel.isEmpty())
         parts.append(printer.makeAndModel);
-    m_state->setText(parts.join(QStringLiteral("  ·  ")));
+    m_state->showText(parts.join(QStringLiteral("  ·  ")));
 }
 
 } // namespace host

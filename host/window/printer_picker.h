@@ -9,9 +9,10 @@
 #include <QWidget>
 
 class QComboBox;
-class QLabel;
 
 namespace host {
+
+class ElidedLabel;
 
 // The list of printers and, below it, how the chosen one is. Shows the chosen one alone until it gets the
 // whole list.
@@ -36,7 +37,7 @@ private:
     void describe(const Destination &printer);
 
     QComboBox *m_box;
-    QLabel *m_state;
+    ElidedLabel *m_state;
     QString m_current;
 };
 

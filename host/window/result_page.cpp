@@ -3,6 +3,7 @@
 
 #include "host/window/result_page.h"
 
+#include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QAccessible>
@@ -68,10 +69,10 @@ void ResultPage::showSubmission(const QString &printer, const Submission &submis
     const SubmittedJob &job = submission.job;
     m_query = std::move(query);
     m_id = job.id;
-    m_notes->setText(job.differences.join(QLatin1Char('\n')));
+    m_notes->setText(wrappable(job.differences.join(QLatin1Char('\n'))));
     m_notes->setVisible(!job.differences.isEmpty());
     if (submission.isAccepted()) {
-        m_title->setText(tr("Sent to “%1”").arg(printer));
+        m_title->setText(tr("Sent to “%1”").arg(oneLine(printer)));
         showStatus(job.status);
     } else {
         showUnknown(printer, submission);
@@ -82,9 +83,9 @@ void ResultPage::showSubmission(const QString &printer, const Submission &submis
 
 void ResultPage::showUnknown(const QString &printer, const Submission &submission)
 {
-    m_title->setText(tr("Perhaps sent to “%1”").arg(printer));
+    m_title->setText(tr("Perhaps sent to “%1”").arg(oneLine(printer)));
     m_glyph->setKind(StatusGlyph::Kind::Notice);
-    m_state->setText(submission.error.message);
+    m_state->setText(wrappable(submission.error.message));
     setAccessibleName(text());
 }
 
@@ -95,7 +96,8 @@ void ResultPage::showStatus(const JobStatus &status)
         return;
     m_glyph->setKind(kindOf(status.state));
     const QString state = tr("Job %1: %2").arg(m_id).arg(status.text());
-    m_state->setText(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message);
+    m_state->setText(
+        wrappable(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message));
     setAccessibleName(text());
     if (status.isFinal())
         m_timer.stop();

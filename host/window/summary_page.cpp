@@ -3,11 +3,19 @@
 
 #include "host/window/summary_page.h"
 
+#include "host/window/foreign_text.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace host {
+
+namespace {
+
+constexpr int nameWidth = 240; // pixels
+
+}
 
 SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent)
 {
@@ -36,7 +44,7 @@ void SummaryPage::show(const QList<SummarySection> &sections)
 
 void SummaryPage::addTitle(const QString &title, bool first)
 {
-    auto *label = new QLabel(title, m_sheet);
+    auto *label = new QLabel(oneLine(title), m_sheet);
     label->setTextFormat(Qt::PlainText);
     QFont bold = label->font();
     bold.setWeight(QFont::DemiBold);
@@ -48,14 +56,15 @@ void SummaryPage::addTitle(const QString &title, bool first)
 void SummaryPage::addEntry(const QString &name, const QString &value)
 {
     const int row = m_grid->rowCount();
-    auto *left = new QLabel(name, m_sheet);
+    auto *left = new QLabel(m_sheet);
     left->setTextFormat(Qt::PlainText);
+    left->setText(elided(name, left, nameWidth));
     QPalette muted = left->palette();
     QColor colour = muted.color(QPalette::WindowText);
     colour.setAlphaF(0.72F);
     muted.setColor(QPalette::WindowText, colour);
     left->setPalette(muted);
-    auto *right = new QLabel(value, m_sheet);
+    auto *right = new QLabel(wrappable(value), m_sheet);
     right->setTextFormat(Qt::PlainText);
     right->setWordWrap(true);
     right->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

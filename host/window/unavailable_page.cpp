@@ -3,6 +3,7 @@
 
 #include "host/window/unavailable_page.h"
 
+#include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QLabel>
@@ -38,7 +39,7 @@ UnavailablePage::UnavailablePage(QWidget *parent)
 
 void UnavailablePage::setReason(const QString &reason)
 {
-    m_reason->setText(reason);
+    m_reason->setText(wrappable(reason));
     setAccessibleName(reason);
 }
 

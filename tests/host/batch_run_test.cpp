@@ -27,6 +27,9 @@ private Q_SLOTS:
     void submitsWhatWasAsked();
     void defaultsOfTheUser_data();
     void defaultsOfTheUser();
+    void customValues_data();
+    void customValues();
+    void customDefaultsNobodyTouched();
     void standardInput();
     void conflictIsExplainedInJson();
     void resolveAcceptsTheProposal();
@@ -46,8 +49,8 @@ void BatchRunTest::init()
     m_system = FakePrintSystem();
     Destination office = officePrinter();
     office.isDefault = true;
-    m_system.printers = {office, officePrinter(u"raw"_s)};
-    m_system.ppds = {{u"office"_s, officePpd()}};
+    m_system.printers = {office, officePrinter(u"raw"_s), officePrinter(u"custom"_s)};
+    m_system.ppds = {{u"office"_s, officePpd()}, {u"custom"_s, customPpd()}};
     if (!m_document.isOpen()) {
         QVERIFY(m_document.open());
         m_document.write("some text\n");
@@ -197,6 +200,67 @@ void BatchRunTest::defaultsOfTheUser()
     m_system.printers.first().options = {{u"copies"_s, u"2"_s}, {name, value}};
     QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
     QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
+}
+
+void BatchRunTest::customValues_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("problem"); // nil when it is taken
+    QTest::newRow("points") << u"PageSize"_s << u"Custom.300x400"_s << QString();
+    QTest::newRow("millimetres") << u"PageSize"_s << u"Custom.100x200.5mm"_s << QString();
+    QTest::newRow("no size") << u"PageSize"_s << u"Custom.foo"_s << u"sizes from 72 × 72 to 1000 × 2000 pt"_s;
+    QTest::newRow("no value") << u"PageSize"_s << u"Custom"_s << u"sizes from"_s;
+    QTest::newRow("too large") << u"PageSize"_s << u"Custom.99999x99999"_s << u"sizes from"_s;
+    QTest::newRow("no unit") << u"PageSize"_s << u"Custom.100x200lightyears"_s << u"sizes from"_s;
+    QTest::newRow("number") << u"StpGamma"_s << u"Custom.1.5"_s << QString();
+    QTest::newRow("beyond the range") << u"StpGamma"_s << u"Custom.4.1"_s << u"a number from 0.1 to 4"_s;
+    QTest::newRow("whole number") << u"Density"_s << u"Custom.-5"_s << QString();
+    QTest::newRow("fraction") << u"Density"_s << u"Custom.1.5"_s << u"a whole number from -5 to 5"_s;
+    QTest::newRow("several") << u"Stamp"_s << u"{Words=top\\ secret Angle=45}"_s << QString();
+    QTest::newRow("one of several") << u"Stamp"_s << u"Custom.draft"_s << u"{Words=… Angle=…}"_s;
+    QTest::newRow("several beyond") << u"Stamp"_s << u"{Words=draft Angle=91}"_s << u"from 0 to 90"_s;
+    QTest::newRow("password") << u"Lock"_s << u"Custom.s3cret"_s << QString();
+    QTest::newRow("short password") << u"Lock"_s << u"Custom.s3c"_s << u"a password of 4 to 8 characters"_s;
+    QTest::newRow("where there is none") << u"MediaSource"_s << u"Custom.1"_s << u"no option"_s;
+}
+
+void BatchRunTest::customValues()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, value);
+    QFETCH(QString, problem);
+    const QStringList words{u"-d"_s, u"custom"_s, u"--set"_s, option + u'=' + value};
+    const int code = run(words + QStringList({u"--batch"_s, u"--json"_s, m_document.fileName()}));
+    QCOMPARE(code, int(problem.isNull() ? ExitSuccess : ExitUsage));
+    if (!problem.isNull()) {
+        const QString message = json()[u"error"_s][u"message"_s].toString();
+        QVERIFY2(message.contains(problem) && !message.contains(u"s3c"_s), qPrintable(message));
+        return;
+    }
+    QCOMPARE(sentValue(m_system.submitted.first().options, option), value);
+    for (const QString &what : {u"--summary"_s, u"--list-options"_s}) {
+        QCOMPARE(run(words + QStringList(what)), int(ExitSuccess));
+        QVERIFY2(m_out.data().contains("Custom") && !m_out.data().contains("s3c"), m_out.data().constData());
+    }
+}
+
+// From a preset, or from the administrator: whatever stands in the destination's options or in its PPD.
+void BatchRunTest::customDefaultsNobodyTouched()
+{
+    m_system.ppds[u"custom"_s].replace("*DefaultDensity: Normal", "*DefaultDensity: Custom.2");
+    m_system.printers.last().options = {
+        {u"media"_s, u"Custom.300x400"_s}, {u"StpGamma"_s, u"Custom.1.5"_s}, {u"Lock"_s, u"Custom.1"_s}};
+    QCOMPARE(run({u"-d"_s, u"custom"_s, u"--batch"_s, u"--json"_s, u"--summary"_s, m_document.fileName()}),
+             0);
+    const QList<JobOption> sent = m_system.submitted.first().options;
+    QCOMPARE(sentValue(sent, u"PageSize"_s), u"Custom.300x400"_s);
+    QCOMPARE(sentValue(sent, u"StpGamma"_s), u"Custom.1.5"_s);
+    QCOMPARE(sentValue(sent, u"Lock"_s), QString());
+    QVERIFY(json()[u"notices"_s][0].toString().contains(u"Lock takes"_s));
+    const QByteArray summary = QJsonDocument(json()[u"summary"_s].toArray()).toJson();
+    for (const char *shown : {"Custom (300 × 400 pt)", "Custom (1.5)", "Custom (2)"})
+        QVERIFY2(summary.contains(shown), summary.constData());
 }
 
 void BatchRunTest::standardInput()

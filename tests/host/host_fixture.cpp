@@ -5,6 +5,7 @@
 
 #include "platform/exception.h"
 
+#include <QFile>
 #include <QTemporaryFile>
 
 using namespace host;
@@ -30,6 +31,15 @@ QByteArray officePpd()
     body += ppdConstraint("MediaType Thick", "Duplex");
     body += ppdConstraint("Stapler False", "Staple Left");
     return body;
+}
+
+QByteArray customPpd()
+{
+    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/custom_values.ppd"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s", qPrintable(file.errorString()));
+    (void)file.readLine(); // openPpd() writes it
+    return file.readAll();
 }
 
 std::unique_ptr<PpdDocument> openPpd(const QByteArray &body)

@@ -18,6 +18,8 @@
 // A PPD with paper, tray and two-sided printing, colour mode and balance, a code of five digits, and
 // constraints between them. Texts differ from keywords, so that a test sees which one is shown.
 QByteArray officePpd();
+// One whose options take sizes, numbers, texts and passwords of the user's own: custom_values.ppd.
+QByteArray customPpd();
 std::unique_ptr<host::PpdDocument> openPpd(const QByteArray &body);
 host::Destination officePrinter(const QString &queue = QStringLiteral("office"));
 

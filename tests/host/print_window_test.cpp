@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/destination.h"
+#include "host/window/elided_label.h"
 #include "host/window/message_bar.h"
 #include "host/window/mnemonics.h"
 #include "host/window/page_book.h"
@@ -13,6 +14,7 @@
 #include "tests/host/host_fixture.h"
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -65,7 +67,10 @@ private Q_SLOTS:
     void panelsAreRestoredWhenShown();
     void waitingIsPaintedBeforeItBegins();
     void escapeCancels();
+    void customSizeIsTyped();
+    void unfinishedPasswordStopsPrinting();
     void textsAreNeverMarkup();
+    void longTextsKeepTheWindow();
     void mnemonics();
 
 private:
@@ -392,10 +397,88 @@ void PrintWindowTest::escapeCancels()
     QVERIFY(m_system.submitted.isEmpty());
 }
 
+void PrintWindowTest::customSizeIsTyped()
+{
+    m_system.ppds.insert(u"office"_s, customPpd());
+    PrintWindow &window = open();
+    auto *width = find<QDoubleSpinBox>(u"Width"_s);
+    auto *unit = find<QComboBox>(u"unit"_s);
+    QVERIFY(!width->isVisible());
+    choose(u"PageSize"_s, u"Custom"_s);
+    QVERIFY(width->isVisible() && width->hasFocus());
+    unit->setCurrentIndex(unit->findData(u"cm"_s));
+    Q_EMIT unit->activated(unit->currentIndex());
+    width->selectAll();
+    QTest::keyClicks(width, u"10"_s);
+    auto *height = find<QDoubleSpinBox>(u"Height"_s);
+    height->setFocus();
+    height->selectAll();
+    QTest::keyClicks(height, u"20.5"_s);
+    QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x20.5cm"_s);
+    QTest::keyClicks(height, u"0"_s); // nothing but what the printer takes can be typed
+    height->selectAll();
+    QTest::keyClicks(height, u"999"_s);
+    height->interpretText();
+    QVERIFY(height->value() <= 2000 / 72.0 * 2.54);
+    choose(u"PageSize"_s, u"A4"_s);
+    QVERIFY(!width->isVisible());
+    QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"A4"_s);
+    // From elsewhere, finer than the field shows: the editor follows and changes nothing.
+    QVERIFY(window.session()->markChoice(u"PageSize"_s, u"Custom.100.123x200mm"_s));
+    Q_EMIT window.session()->changed();
+    QVERIFY(width->isVisible());
+    QCOMPARE(unit->currentData().toString(), u"mm"_s);
+    window.print();
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"PageSize"_s), u"Custom.100.123x200mm"_s);
+}
+
+void PrintWindowTest::unfinishedPasswordStopsPrinting()
+{
+    m_system.ppds.insert(u"office"_s, customPpd());
+    PrintWindow &window = open();
+    auto *book = find<PageBook>();
+    book->showPage(book->pageNamed(u"more"_s));
+    choose(u"Lock"_s, u"Custom"_s);
+    auto *field = find<QLineEdit>(u"Secret"_s);
+    QCOMPARE(field->echoMode(), QLineEdit::Password);
+    QTest::keyClicks(field, u"s3c"_s);
+    book->showPage(0);
+    window.print();
+    QVERIFY(m_system.submitted.isEmpty());
+    QVERIFY(field->hasFocus());
+    QTest::keyClicks(field, u"retandmuchmore"_s); // no longer than the printer takes
+    window.print();
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"Lock"_s), u"Custom.s3cretan"_s);
+}
+
+void PrintWindowTest::longTextsKeepTheWindow()
+{
+    const QString nonsense = QString(1000, u'W') + u'\n' + QString(200, u'\n');
+    Destination &office = m_system.printers.first();
+    office.location = nonsense;
+    office.info = nonsense;
+    m_system.ppds[u"office"_s]
+        .replace("Paper Type", QByteArray(79, 'W'))
+        .replace("Plain Paper", QByteArray(79, 'W'));
+    PrintWindow &window = open();
+    QVERIFY2(window.width() <= 800 && window.height() <= 700,
+             qPrintable(u"%1 × %2"_s.arg(window.width()).arg(window.height())));
+    window.session()->addNotice(nonsense);
+    Q_EMIT window.session()->changed();
+    QVERIFY(window.minimumSizeHint().width() <= 800 && window.minimumSizeHint().height() <= 700);
+    auto *state = find<PrinterPicker>()->findChild<ElidedLabel *>();
+    QVERIFY(state->toolTip().size() > 500);
+}
+
 void PrintWindowTest::textsAreNeverMarkup()
 {
-    m_system.ppds.insert(u"office"_s, officePpd().replace("Two-Sided", "<3C>b<3E>Two<3C>/b<3E> & more"));
+    m_system.ppds.insert(u"office"_s, officePpd()
+                                          .replace("Two-Sided", "<3C>b<3E>Two<3C>/b<3E> & more")
+                                          .replace("Heavy Paper", "<3C>b<3E>Heavy<3C>/b<3E>"));
     PrintWindow &window = open();
+    choose(u"MediaType"_s, u"Thick"_s);
+    auto *items = qobject_cast<QStandardItemModel *>(find<QComboBox>(u"Duplex"_s)->model());
+    QVERIFY2(items->item(1)->toolTip().contains(u"&lt;b&gt;Heavy"_s), qPrintable(items->item(1)->toolTip()));
     bool seen = false;
     for (auto *label : window.findChildren<QLabel *>()) {
         QVERIFY2(label->textFormat() == Qt::PlainText || !label->text().contains(u'<'),

@@ -74,6 +74,8 @@ class PrintJobTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void privateJobArrivesWhole();
+    void customValuesArriveWhole_data();
+    void customValuesArriveWhole();
     void balanceIsResetWithMonochrome();
     void conflictStopsUnlessResolved();
     void presetOfTheUserCounts();
@@ -120,6 +122,9 @@ void PrintJobTest::initTestCase()
     for (const QString &queue : {u"office"_s, u"paused"_s, u"rejecting"_s})
         QVERIFY2(m_server.addQueue(queue, ppd), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
+    QVERIFY2(
+        m_server.addQueue(u"custom"_s, QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/custom_values.ppd")),
+        qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
     QVERIFY(m_server.setPaused(u"paused"_s, true));
     QVERIFY(m_server.setAccepting(u"rejecting"_s, false));
@@ -168,6 +173,30 @@ void PrintJobTest::privateJobArrivesWhole()
                  qPrintable(option + u" in "_s + text));
     QCOMPARE(job->copies, 2);
     QCOMPARE(job->title, u"report.pdf"_s);
+}
+
+void PrintJobTest::customValuesArriveWhole_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("printed"); // among the PostScript of the real filters
+    QTest::newRow("size") << u"PageSize"_s << u"Custom.300x400"_s
+                          << QByteArray("%%HiResBoundingBox: 0 0 300.00 400.00");
+    QTest::newRow("number") << u"StpGamma"_s << u"Custom.1.5"_s << QByteArray("*CustomStpGamma True\n1.5");
+    QTest::newRow("two values") << u"Stamp"_s << u"{Words=top\\ secret Angle=45}"_s
+                                << QByteArray("*CustomStamp True\n(top secret)\n45");
+    QTest::newRow("password") << u"Lock"_s << u"Custom.s3cret"_s << QByteArray("*CustomLock True\n(s3cret)");
+}
+
+void PrintJobTest::customValuesArriveWhole()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, value);
+    QFETCH(QByteArray, printed);
+    const auto job = print({u"-d"_s, u"custom"_s, u"--set"_s, option + u'=' + value, document});
+    QVERIFY(job);
+    QCOMPARE(job->options.value(option), value);
+    QVERIFY2(job->data.contains(printed), job->data.left(4000).constData());
 }
 
 void PrintJobTest::balanceIsResetWithMonochrome()

@@ -39,6 +39,7 @@ void BundleTest::unusableInfoNamesFileAndProblem_data()
     row("file elsewhere", Bundle::executableKey, u"/usr/lib/libc.so"_s, "inside the bundle");
     row("parent folder", Bundle::executableKey, u".."_s, "inside the bundle");
     row("models as a text", Bundle::printerModelsKey, u"KELMAR"_s, "list of texts");
+    row("secret keys as a text", Bundle::secretKeysKey, u"code"_s, "list of texts");
     row("models as numbers", Bundle::printerModelsKey, QJsonArray{1}, "list of texts");
 }
 
@@ -72,6 +73,9 @@ void BundleTest::foldersWithoutReadableInfo()
         QVERIFY(!Bundle::open(files.folder(), QLocale(), &error));
         QVERIFY2(error.startsWith(info + u": "_s), qPrintable(error));
     }
+    files.writeFile(u"Info.json"_s, QByteArray(2 << 20, ' '));
+    QVERIFY(!Bundle::open(files.folder(), QLocale(), &error));
+    QVERIFY2(error.startsWith(info + u": larger than"_s), qPrintable(error));
 }
 
 void BundleTest::servesModel()

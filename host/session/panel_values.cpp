@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/panel_values.h"
+
+#include "host/printing/ppd_document.h"
+#include "platform/exception.h"
+#include "platform/key_value_object.h"
+#include "platform/logging.h"
+
+#include <QCoreApplication>
+#include <QMetaProperty>
+
+#include <algorithm>
+#include <limits>
+
+namespace host {
+
+namespace {
+
+struct PanelValueText
+{
+    Q_DECLARE_TR_FUNCTIONS(PanelValueText)
+};
+
+// The object that a property holds, such as the settings of a device within a panel's; null for other values.
+platform::KeyValueObject *objectOf(platform::KeyValueObject *owner, const QMetaProperty &property)
+{
+    return qobject_cast<platform::KeyValueObject *>(qvariant_cast<QObject *>(property.read(owner)));
+}
+
+QMetaProperty propertyOf(const QObject *object, const QString &key)
+{
+    return object->metaObject()->property(object->metaObject()->indexOfProperty(key.toUtf8().constData()));
+}
+
+// The property at the end of a key path; an invalid one for an option of the panel.
+QMetaProperty propertyAt(platform::KeyValueObject *object, const QString &keyPath)
+{
+    const QStringList keys = keyPath.split(QLatin1Char('.'));
+    for (qsizetype i = 0; object && i < keys.size() - 1; ++i)
+        object = objectOf(object, propertyOf(object, keys.at(i)));
+    return object ? propertyOf(object, keys.last()) : QMetaProperty();
+}
+
+bool isDigits(const QString &text)
+{
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+template <typename Number>
+QVariant wholeNumber(const QString &text, QString *problem)
+{
+    const bool isSigned = std::numeric_limits<Number>::is_signed;
+    const QString digits = isSigned && text.startsWith(QLatin1Char('-')) ? text.mid(1) : text;
+    bool fits = false;
+    const QVariant value = isSigned ? QVariant::fromValue(static_cast<Number>(text.toLongLong(&fits)))
+                                    : QVariant::fromValue(static_cast<Number>(text.toULongLong(&fits)));
+    // What does not fit has become another number.
+    if (isDigits(digits) && fits && value.toString().toLongLong() == text.toLongLong())
+        return value;
+    *problem = PanelValueText::tr("takes a whole number from %1 to %2")
+                   .arg(std::numeric_limits<Number>::min())
+                   .arg(std::numeric_limits<Number>::max());
+    return {};
+}
+
+QVariant switchOf(const QString &text, QString *problem)
+{
+    const auto on = switchValue(text);
+    if (!on)
+        *problem = PanelValueText::tr("takes True or False");
+    return on ? QVariant(*on) : QVariant();
+}
+
+// The text as a value of this type; nil and what the type takes when it is none.
+QVariant typed(const QString &text, QMetaType type, QString *problem)
+{
+    switch (type.id()) {
+    case QMetaType::Bool:
+        return switchOf(text, problem);
+    case QMetaType::Int:
+        return wholeNumber<qint32>(text, problem);
+    case QMetaType::UInt:
+        return wholeNumber<quint32>(text, problem);
+    case QMetaType::QString:
+    case QMetaType::UnknownType: // an option of the PPD
+        return text;
+    default:
+        *problem = PanelValueText::tr("cannot be set by a text");
+        return {};
+    }
+}
+
+// What a text of this key looks like, told by the one it holds.
+QString shapeOf(const QString &current)
+{
+    if (isDigits(current))
+        return PanelValueText::tr("takes %1 digits").arg(current.size());
+    if (!current.isEmpty())
+        return PanelValueText::tr("takes %1 characters").arg(current.size());
+    return PanelValueText::tr("does not take this value");
+}
+
+// The options of a panel as they are, to go back to.
+class PanelSnapshot
+{
+public:
+    PanelSnapshot(platform::KeyValueObject *object, const QStringList &keywords) : m_object(object)
+    {
+        for (const QString &keyword : keywords)
+            m_values.insert(keyword, object->valueForKey(keyword));
+    }
+    void putBack()
+    {
+        for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+            if (it.value().isValid() && m_object->valueForKey(it.key()) != it.value())
+                m_object->setValueForKey(it.value(), it.key());
+        }
+    }
+    // The first option that now has a choice which the PPD does not know.
+    QString strayOption(const PpdDocument &ppd)
+    {
+        for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+            const auto option = ppd.option(it.key());
+            if (option && m_object->valueForKey(it.key()) != it.value() &&
+                !option->hasChoice(m_object->valueForKey(it.key()).toString()))
+                return it.key();
+        }
+        return {};
+    }
+
+private:
+    platform::KeyValueObject *m_object;
+    QVariantMap m_values;
+};
+
+// What is wrong; empty when the key has taken the value.
+QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const PpdDocument &ppd,
+               const QString &keyPath, const QString &value)
+{
+    QString problem;
+    const QVariant given = typed(value, propertyAt(object, keyPath).metaType(), &problem);
+    if (!problem.isEmpty())
+        return problem;
+    const QString before = object->valueForKeyPath(keyPath).toString();
+    try {
+        object->setValueForKeyPath(given, keyPath);
+    } catch (const platform::Exception &exception) {
+        qCDebug(lcHost).noquote() << exception.name(); // the reason may hold the value
+        return shapeOf(before);
+    }
+    const QString stray = snapshot->strayOption(ppd);
+    if (!stray.isNull() && !isDigits(before))
+        return PanelValueText::tr("does not take this value: %1 has only %2")
+            .arg(stray, choicesInWords(ppd, stray));
+    return stray.isNull() && object->valueForKeyPath(keyPath) == given ? QString() : shapeOf(before);
+}
+
+} // namespace
+
+std::optional<bool> switchValue(const QString &text)
+{
+    const auto isOneOf = [&](std::initializer_list<const char *> words) {
+        return std::any_of(words.begin(), words.end(), [&](const char *word) {
+            return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+        });
+    };
+    if (isOneOf({"true", "yes", "enabled"}))
+        return true;
+    if (isOneOf({"false", "no", "disabled", "none"}))
+        return false;
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? std::optional(number != 0) : std::nullopt;
+}
+
+QStringList settableKeys(platform::KeyValueObject *object, const QStringList &keywords)
+{
+    QStringList keys;
+    const QMetaObject *cls = object->metaObject();
+    for (int i = platform::KeyValueObject::staticMetaObject.propertyCount(); i < cls->propertyCount(); ++i) {
+        const QMetaProperty property = cls->property(i);
+        const QString key = QString::fromUtf8(property.name());
+        const QStringList parts = object->keysOfDependentKey(key);
+        const bool isHere =
+            parts.isEmpty() || std::any_of(parts.begin(), parts.end(),
+                                           [&](const QString &part) { return keywords.contains(part); });
+        if (property.isWritable() && property.isStored()) {
+            if (isHere)
+                keys.append(key);
+        } else if (platform::KeyValueObject *inner = objectOf(object, property)) {
+            for (const QString &innerKey : settableKeys(inner, keywords))
+                keys.append(key + QLatin1Char('.') + innerKey);
+        }
+    }
+    return keys;
+}
+
+QString setPanelValue(platform::KeyValueObject *object, const QStringList &keywords, const PpdDocument &ppd,
+                      const QString &keyPath, const QString &value)
+{
+    QString problem;
+    try {
+        PanelSnapshot snapshot(object, keywords);
+        problem = trySet(object, &snapshot, ppd, keyPath, value);
+        if (!problem.isEmpty())
+            snapshot.putBack();
+    } catch (const platform::Exception &exception) {
+        qCDebug(lcHost).noquote() << exception.name();
+        problem = PanelValueText::tr("does not take this value");
+    }
+    return problem.isEmpty() ? QString()
+                             : PanelValueText::tr("%1 %2.", "a key, and what it takes").arg(keyPath, problem);
+}
+
+QString choicesInWords(const PpdDocument &ppd, const QString &keyword)
+{
+    const auto option = ppd.option(keyword);
+    QStringList keywords;
+    for (const PpdOption::Choice &choice : option ? option->choices : QList<PpdOption::Choice>())
+        keywords.append(choice.keyword);
+    if (keywords.isEmpty())
+        return PanelValueText::tr("none");
+    if (keywords.size() > 2 && isDigits(keywords.first()) && isDigits(keywords.last()))
+        return QStringLiteral("%1 … %2").arg(keywords.first(), keywords.last());
+    return keywords.join(QStringLiteral(", "));
+}
+
+} // namespace host

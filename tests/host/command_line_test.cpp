@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/support/test_bundle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString program = QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print");
+const QString ppds = QStringLiteral(KELMAR_BINARY_DIR "/ppds/");
+
+struct Outcome
+{
+    int code = -1;
+    QByteArray out, err;
+};
+
+Outcome run(const QStringList &words, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(program, words);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(20000)) {
+        process.kill();
+        process.waitForFinished();
+        return {};
+    }
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+} // namespace
+
+// The program as it is called, with the PPDs of the family and no print server.
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void values_data();
+    void values();
+    void secretsAreNotRepeated_data();
+    void secretsAreNotRepeated();
+    void valuesFromElsewhere();
+    void askedOnTheTerminal();
+    void endlessFilesAreRefused_data();
+    void endlessFilesAreRefused();
+    void bundleOfOthersIsNotLoaded_data();
+    void bundleOfOthersIsNotLoaded();
+    void nothingReachesTheTerminalRaw();
+
+private:
+    QString write(const QString &name, const QByteArray &contents);
+    QTemporaryDir m_folder;
+};
+
+void CommandLineTest::initTestCase()
+{
+    QVERIFY(m_folder.isValid());
+    qputenv("CUPS_SERVER", "/nowhere/cups.sock");
+}
+
+QString CommandLineTest::write(const QString &name, const QByteArray &contents)
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("%s", qPrintable(file.errorString()));
+    return file.fileName();
+}
+
+void CommandLineTest::values_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("values");   // some that give the same
+    QTest::addColumn<QByteArray>("error"); // empty when they are taken
+    const QString advanced = u"advancedColorSettingsManager."_s;
+    const QString onOff = advanced + u"applyToDeviceColorOnly"_s;
+    const QString intent = advanced + u"renderingIntent"_s;
+    const auto row = [](const char *name, const QString &key, const QString &values, const char *error = "",
+                        const char *model = "kelm880") {
+        QTest::newRow(name) << QString::fromLatin1(model) << key << values << QByteArray(error);
+    };
+    row("on and off", onOff, u"True yes ENABLED 2 -1 False no 0 None"_s);
+    row("no switch", onOff, u"on off 01x Yesterday 1.5"_s, "takes True or False.");
+    row("number", intent, u"0 3 4294967295"_s);
+    row("no number", intent, u"-1 99999999999 4294967296 0x1 1.0 +1 three"_s,
+        "takes a whole number from 0 to 4294967295.");
+    row("code", u"privatePassword"_s, u"00000 12345"_s);
+    row("no code", u"privatePassword"_s, u"123 1234567 abcde"_s, "takes 5 digits.");
+    row("model without passwords", u"privatePassword"_s, u"00000 12345"_s, "This printer has no option",
+        "kelo110");
+}
+
+void CommandLineTest::values()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, key);
+    QFETCH(QString, values);
+    QFETCH(QByteArray, error);
+    for (const QString &value : values.split(u' ')) {
+        const Outcome outcome =
+            run({u"--summary"_s, u"--ppd"_s, ppds + model + u".ppd"_s, u"--set"_s, key + u'=' + value});
+        QVERIFY2(outcome.code == (error.isEmpty() ? 0 : 2), qPrintable(value));
+        QVERIFY2(outcome.err.contains(error), outcome.err.constData());
+    }
+}
+
+void CommandLineTest::secretsAreNotRepeated_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::newRow("no equals sign") << u"--set privatePassword:86419"_s;
+    QTest::newRow("digit") << u"--set DINDigit1=86419"_s;
+    QTest::newRow("code in another option") << u"--set-file PrintMode=FILE"_s;
+    QTest::newRow("code in another setting") << u"--set-file page-ranges=FILE"_s;
+    QTest::newRow("code in place of its file") << u"--set-file privatePassword=86419"_s;
+    QTest::newRow("as an option") << u"-p86419"_s;
+    QTest::newRow("asked for") << u"--ask privatePassword=86419"_s;
+}
+
+void CommandLineTest::secretsAreNotRepeated()
+{
+    QFETCH(QString, words);
+    words.replace(u"FILE"_s, write(u"code"_s, "86419\n"));
+    const Outcome outcome =
+        run(QStringList({u"--summary"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s}) + words.split(u' '));
+    QCOMPARE(outcome.code, 2);
+    for (const char *part : {"86419", "'8'", "8, 6"})
+        QVERIFY2(!outcome.err.contains(part), outcome.err.constData());
+    QVERIFY(outcome.err.size() > 20);
+}
+
+void CommandLineTest::valuesFromElsewhere()
+{
+    const QStringList list{u"--summary"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s};
+    const Outcome two =
+        run(list + QStringList({u"--set-file"_s, u"ColorType=-"_s, u"--set-file"_s, u"PrintMode=-"_s}),
+            "Mono\r\nPrivate\nrest");
+    QCOMPARE(two.code, 0);
+    QVERIFY2(two.out.contains("Black and White") && two.out.contains("Private"), two.out.constData());
+    QCOMPARE(run(list + QStringList({u"--set-file"_s, u"ColorType=-"_s})).code, 2);     // there is no line
+    QCOMPARE(run({u"--batch"_s, u"--set-file"_s, u"ColorType=-"_s}, "Mono\n").code, 2); // nor a document
+    // Codes set before are not listed either.
+    const Outcome listed = run({u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--set"_s,
+                                u"PrintMode=Private"_s, u"--set"_s, u"privatePassword=99999"_s});
+    QVERIFY2(listed.out.contains("DINDigit1/") && !listed.out.contains("*9"), listed.out.constData());
+}
+
+void CommandLineTest::askedOnTheTerminal()
+{
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    QVERIFY(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+    const QByteArray name(ptsname(terminal));
+    QProcess process;
+    process.setChildProcessModifier([&name] {
+        setsid();
+        ioctl(open(name.constData(), O_RDWR), TIOCSCTTY, 0);
+    });
+    process.start(program, {u"--summary"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--set"_s,
+                            u"PrintMode=Private"_s, u"--ask"_s, u"privatePassword"_s});
+    QVERIFY(process.waitForStarted());
+    QByteArray shown(256, '\0');
+    shown.resize(read(terminal, shown.data(), 256)); // returns with the prompt
+    QVERIFY2(shown.contains("privatePassword"), shown.constData());
+    QCOMPARE(::write(terminal, "86419\n", 6), 6);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 0);
+    QByteArray echoed(256, '\0');
+    echoed.resize(std::max<ssize_t>(0, read(terminal, echoed.data(), 256)));
+    QVERIFY2(!echoed.contains('8'), echoed.constData());
+    close(terminal);
+}
+
+void CommandLineTest::endlessFilesAreRefused_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("value") << QStringList(
+        {u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--set-file"_s, u"privatePassword=/dev/zero"_s});
+    QTest::newRow("PPD") << QStringList({u"--ppd"_s, u"/dev/zero"_s});
+    QTest::newRow("large PPD") << QStringList({u"--ppd"_s, m_folder.filePath(u"large.ppd"_s)});
+    QTest::newRow("packed PPD") << QStringList({u"--ppd"_s, m_folder.filePath(u"packed.ppd.gz"_s)});
+}
+
+void CommandLineTest::endlessFilesAreRefused()
+{
+    QFETCH(QStringList, words);
+    const QString large = write(u"large.ppd"_s, "*PPD-Adobe: \"4.3\"\n");
+    QVERIFY(QFile::resize(large, 1LL << 30)); // sparse
+    if (words.last().endsWith(u".gz"_s))
+        QCOMPARE(QProcess::execute(
+                     u"sh"_s, {u"-c"_s, u"head -c 50000000 /dev/zero | gzip -1 >\"$0\""_s, words.last()}),
+                 0);
+    const Outcome outcome = run(QStringList(u"--summary"_s) + words);
+    QVERIFY(outcome.code == 1 || outcome.code == 2);
+    QVERIFY(!outcome.err.isEmpty());
+}
+
+void CommandLineTest::bundleOfOthersIsNotLoaded_data()
+{
+    QTest::addColumn<QString>("path"); // within the bundle
+    QTest::addColumn<int>("mode");
+    QTest::newRow("folder") << u"."_s << 0777;
+    QTest::newRow("code") << u"libOrbM880.so"_s << 0664;
+    QTest::newRow("layout") << u"layouts/PrintMode.ui"_s << 0646;
+}
+
+void CommandLineTest::bundleOfOthersIsNotLoaded()
+{
+    QFETCH(QString, path);
+    QFETCH(int, mode);
+    const QTemporaryDir folder;
+    const QString bundle = folder.filePath(u"OrbM880.bundle"_s);
+    QCOMPARE(QProcess::execute(u"cp"_s,
+                               {u"-r"_s, QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle"), bundle}),
+             0);
+    const QStringList words{u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--bundle"_s, bundle};
+    const Outcome before = run(words);
+    QVERIFY2(before.out.contains("departmentCode"), before.err.constData());
+    QCOMPARE(chmod(QFile::encodeName(bundle + u'/' + path).constData(), static_cast<mode_t>(mode)), 0);
+    const Outcome outcome = run(words);
+    QVERIFY(!outcome.out.contains("departmentCode"));
+    QVERIFY2(outcome.err.contains("other users may write to it"), outcome.err.constData());
+}
+
+void CommandLineTest::nothingReachesTheTerminalRaw()
+{
+    const QString ppd =
+        write(u"evil.ppd"_s, "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*ModelName: \"x\"\n"
+                             "*OpenUI *Evil/A<1B>]0;owned<07>B: PickOne\n*DefaultEvil: One\n"
+                             "*Evil One/C<0A>D<E280AE>E<C29B>31m: \"\"\n*CloseUI: *Evil\n");
+    for (const char *what : {"--list-options", "--summary"}) {
+        for (const QStringList &form : {QStringList(), QStringList(u"--json"_s)}) {
+            const Outcome outcome = run(QStringList{QString::fromLatin1(what), u"--ppd"_s, ppd} + form);
+            QCOMPARE(outcome.code, 0);
+            for (const char *raw : {"\x1b", "\x07", "\nD", "\u202e", "\u009b"})
+                QVERIFY2(!outcome.out.contains(raw), outcome.out.constData());
+            QVERIFY2(outcome.out.contains(form.isEmpty() ? "A\\x1b]0;" : "A\\u001b]0;"),
+                     outcome.out.constData());
+        }
+    }
+    const Outcome refused = run({u"--summary"_s, u"--ppd"_s, ppd, u"--set"_s, u"Evil=\x1b[31m"_s});
+    QCOMPARE(refused.code, 2);
+    QVERIFY2(!refused.err.contains('\x1b'), refused.err.constData());
+}
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "command_line_test.moc"

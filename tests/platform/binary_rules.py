@@ -1,0 +1,39 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""Every program and library of a build looks for libraries beside itself alone, binds its symbols at the start, and has
+its tables write-protected. An empty entry of a search path would stand for the folder a user happens to be in.
+
+Usage: binary_rules.py BUILD
+"""
+import pathlib
+import re
+import subprocess
+import sys
+
+
+def faults_of(path):
+    dynamic = subprocess.run(["readelf", "-dlW", path], capture_output=True, text=True, check=True).stdout
+    for search in re.findall(r"\((?:RPATH|RUNPATH)\).*\[(.*)\]", dynamic):
+        for entry in search.split(":"):
+            if not re.match(r"\$ORIGIN(/|$)", entry):
+                yield f"looks for libraries in “{entry}”"
+    if not re.search(r"\(FLAGS(_1)?\).*\b(BIND_NOW|NOW)\b", dynamic):
+        yield "binds symbols late"
+    if "GNU_RELRO" not in dynamic:
+        yield "has no write-protected tables"
+
+
+def main(build):
+    binaries = [path for folder in ("bin", "tests") for path in sorted((pathlib.Path(build) / folder).rglob("*"))
+                if path.is_file() and not path.is_symlink() and path.suffix != ".o"
+                and path.read_bytes()[:4] == b"\x7fELF"]
+    names = {path.name for path in binaries}
+    faults = [f"{name}: not found" for name in ("kelmar-print", "libOrbM880.so") if name not in names]
+    faults += [f"{path}: {fault}" for path in binaries for fault in faults_of(path)]
+    print("\n".join(faults))
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
