@@ -56,6 +56,10 @@ QString valueText(ipp_attribute_t *attribute)
 {
     if (ippGetValueTag(attribute) == IPP_TAG_ENUM)
         return enumText(attribute);
+    // The form of several values escapes blanks and quotes.
+    const char *single = ippGetCount(attribute) == 1 ? ippGetString(attribute, 0, nullptr) : nullptr;
+    if (single)
+        return QString::fromUtf8(single);
     QByteArray buffer(2048, '\0');
     const size_t length = ippAttributeString(attribute, buffer.data(), static_cast<size_t>(buffer.size()));
     if (length >= static_cast<size_t>(buffer.size())) {

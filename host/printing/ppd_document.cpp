@@ -199,7 +199,7 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
     option.markedChoice = markedChoice(option.keyword);
     for (int i = 0; i < record->num_choices; ++i) {
         const ppd_choice_t &choice = record->choices[i];
-        if (!isCustomChoice(text(choice.choice)))
+        if (!option.custom || qstrcmp(choice.choice, "Custom") != 0)
             option.choices.append({text(choice.choice), text(choice.text[0] ? choice.text : choice.choice)});
     }
     forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &group, const ppd_option_t &other) {
@@ -215,7 +215,8 @@ QString PpdDocument::markedChoice(const QString &keyword) const
     if (!choice)
         return {};
     const QString name = text(choice->choice);
-    const auto custom = isCustomChoice(name) ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
+    const auto custom =
+        name == QLatin1String("Custom") ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
     if (!custom)
         return name;
     // Panels mark in the record as well.

@@ -125,7 +125,7 @@ void CommandLineTest::secretsAreNotRepeated_data()
     QTest::newRow("no equals sign") << u"--set privatePassword:86419"_s;
     QTest::newRow("digit") << u"--set DINDigit1=86419"_s;
     QTest::newRow("code in another option") << u"--set-file PrintMode=FILE"_s;
-    QTest::newRow("code in another setting") << u"--set-file page-ranges=FILE"_s;
+    QTest::newRow("code in another setting") << u"--set-file copies=FILE"_s;
     QTest::newRow("code in place of its file") << u"--set-file privatePassword=86419"_s;
     QTest::newRow("as an option") << u"-p86419"_s;
     QTest::newRow("asked for") << u"--ask privatePassword=86419"_s;

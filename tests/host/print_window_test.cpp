@@ -264,7 +264,7 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     auto *item =
         qobject_cast<QStandardItemModel *>(duplex->model())->item(duplex->findData(u"DuplexNoTumble"_s));
     QVERIFY(!item->isEnabled());
-    QCOMPARE(item->toolTip(), u"Not together with Paper Type: Heavy Paper"_s);
+    QVERIFY(item->toolTip().contains(u"Not together with Paper Type: Heavy Paper"_s));
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
 }

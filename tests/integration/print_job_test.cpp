@@ -193,7 +193,10 @@ void PrintJobTest::customValuesArriveWhole()
     QFETCH(QString, option);
     QFETCH(QString, value);
     QFETCH(QByteArray, printed);
-    const auto job = print({u"-d"_s, u"custom"_s, u"--set"_s, option + u'=' + value, document});
+    const Outcome outcome =
+        run({u"--batch"_s, u"-d"_s, u"custom"_s, u"--set"_s, option + u'=' + value, document});
+    QCOMPARE(outcome.json[u"job"_s][u"differences"_s].toArray(), QJsonArray());
+    const auto job = m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt());
     QVERIFY(job);
     QCOMPARE(job->options.value(option), value);
     QVERIFY2(job->data.contains(printed), job->data.left(4000).constData());

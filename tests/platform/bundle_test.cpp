@@ -39,7 +39,7 @@ void BundleTest::unusableInfoNamesFileAndProblem_data()
     row("file elsewhere", Bundle::executableKey, u"/usr/lib/libc.so"_s, "inside the bundle");
     row("parent folder", Bundle::executableKey, u".."_s, "inside the bundle");
     row("models as a text", Bundle::printerModelsKey, u"KELMAR"_s, "list of texts");
-    row("secret keys as a text", Bundle::secretKeysKey, u"code"_s, "list of texts");
+    row("secret keys as a text", Bundle::secretKeysKey, u"code"_s, "list of objects");
     row("models as numbers", Bundle::printerModelsKey, QJsonArray{1}, "list of texts");
 }
 
