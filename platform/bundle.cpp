@@ -27,8 +27,45 @@ const QString Bundle::executableKey = QStringLiteral("CFBundleExecutable");
 const QString Bundle::principalClassKey = QStringLiteral("PrincipalClass");
 const QString Bundle::panelTypeKey = QStringLiteral("PanelType");
 const QString Bundle::printerModelsKey = QStringLiteral("PrinterModels");
+const QString Bundle::protectingOptionsKey = QStringLiteral("ProtectingOptions");
+const QString Bundle::secretKeysKey = QStringLiteral("SecretKeys");
 
 namespace {
+
+bool isListOfTexts(const QJsonValue &value)
+{
+    const QJsonArray list = value.toArray();
+    return value.isArray() &&
+           std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
+}
+
+bool isSecret(const QJsonValue &value)
+{
+    const QJsonObject secret = value.toObject();
+    const QJsonObject usedWith = secret.value(QLatin1String("UsedWith")).toObject();
+    return secret.value(QLatin1String("Key")).isString() &&
+           isListOfTexts(secret.value(QLatin1String("Options"))) && usedWith.size() == 1 &&
+           usedWith.begin().value().isString();
+}
+
+// The same for the keys that may be left out.
+QString problemOfOptionalKeys(const QJsonObject &info)
+{
+    const QJsonValue models = info.value(Bundle::printerModelsKey);
+    if (!models.isUndefined() && !isListOfTexts(models))
+        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
+    const QJsonValue protecting = info.value(Bundle::protectingOptionsKey);
+    const QJsonObject options = protecting.toObject();
+    const bool areChoices = std::all_of(options.begin(), options.end(), isListOfTexts);
+    if (!protecting.isUndefined() && (!protecting.isObject() || !areChoices))
+        return QStringLiteral("\"%1\" is not an object of lists of texts").arg(Bundle::protectingOptionsKey);
+    const QJsonValue secrets = info.value(Bundle::secretKeysKey);
+    const QJsonArray list = secrets.toArray();
+    if (!secrets.isUndefined() && (!secrets.isArray() || !std::all_of(list.begin(), list.end(), isSecret)))
+        return QStringLiteral("\"%1\" is not a list of objects with \"Key\", \"Options\" and \"UsedWith\"")
+            .arg(Bundle::secretKeysKey);
+    return {};
+}
 
 // What is wrong with the contents of an Info.json; empty when nothing is.
 QString problemOf(const QJsonObject &info)
@@ -44,13 +81,7 @@ QString problemOf(const QJsonObject &info)
     if (executable.contains(QLatin1Char('/')) || executable.startsWith(QLatin1Char('.')))
         return QStringLiteral("\"%1\" is \"%2\", which is not the name of a file inside the bundle")
             .arg(Bundle::executableKey, executable);
-    const QJsonValue models = info.value(Bundle::printerModelsKey);
-    const QJsonArray list = models.toArray();
-    const bool areTexts =
-        std::all_of(list.begin(), list.end(), [](const QJsonValue &v) { return v.isString(); });
-    if (!models.isUndefined() && (!models.isArray() || !areTexts))
-        return QStringLiteral("\"%1\" is not a list of texts").arg(Bundle::printerModelsKey);
-    return {};
+    return problemOfOptionalKeys(info);
 }
 
 // Contents of an Info.json; nothing with a message that begins with the file when they cannot be used.

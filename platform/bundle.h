@@ -35,9 +35,15 @@ public:
     static const QString principalClassKey; // "PrincipalClass"
     static const QString panelTypeKey;      // "PanelType"
     static const QString printerModelsKey;  // "PrinterModels", a list of wildcards of PPD model names
+    // "ProtectingOptions", an object: PPD options, each with a list of the choices that protect the user.
+    static const QString protectingOptionsKey;
+    // "SecretKeys", a list of objects: "Key", a panel's key that holds a code; "Options", a list of the PPD
+    // options that keep it; "UsedWith", an object with the one option and choice with which it is used.
+    static const QString secretKeysKey;
 
     // Null with a message that names the file and what is wrong with it: no folder, no Info.json, broken
-    // JSON, a missing or mistyped required key (all but the version and the models).
+    // JSON, a missing or mistyped required key (all but the version, the models and what protects the user;
+    // these are optional, but not mistyped).
     static std::shared_ptr<Bundle> open(const QString &folder, const QLocale &locale, QString *error);
     ~Bundle();
     Bundle(const Bundle &) = delete;
