@@ -166,8 +166,10 @@ int JobSubmitter::createJob(PrintError *error)
     IppPointer request = printerRequest(IPP_OP_CREATE_JOB, m_printerUri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  m_request.title.toUtf8().left(static_cast<qsizetype>(maxIppName)).constData());
-    for (const JobOption &option : m_options)
-        addOption(request.get(), option);
+    for (const JobOption &option : m_options) {
+        if (option.kind != JobOption::Kind::Shown)
+            addOption(request.get(), option);
+    }
     const IppPointer answer = ask(std::move(request));
     const int id = attributeInteger(answer.get(), "job-id", 0);
     if (id == 0 || cupsLastError() > IPP_STATUS_OK_CONFLICTING) {
@@ -218,6 +220,8 @@ QStringList JobSubmitter::readBack(int jobId) const
     QStringList differences;
     for (const JobOption &option : m_options) {
         const QString kept = attributeText(job.get(), option.name.toUtf8().constData());
+        if (kept.isNull() && option.kind == JobOption::Kind::Shown)
+            continue;
         if (kept.isNull()) {
             differences.append(SubmitText::tr("The print server did not take “%1”.").arg(option.name));
         } else if (comparable(option.name, kept) != comparable(option.name, option.value)) {

@@ -55,6 +55,16 @@ Destination fromCups(const cups_dest_t *record)
     return destination;
 }
 
+// Where the administrator has set another default than the PPD, libcups lists the one of the PPD.
+void correctDefaults(const QueueFacts &facts, Destination *destination)
+{
+    for (auto it = facts.overruledDefaults.begin(); it != facts.overruledDefaults.end(); ++it) {
+        auto listed = destination->options.find(it.key());
+        if (listed != destination->options.end() && *listed == it.value())
+            *listed = facts.defaults.value(it.key());
+    }
+}
+
 // libcups does not tell a server that is away from one that has no default printer.
 PrintError noDefaultPrinter()
 {
@@ -107,7 +117,8 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     const auto [queue, instance] = splitDestinationName(name);
     // libcups would search the network for a queue that the server does not know, and not say that the server
     // is away.
-    if (!name.isEmpty() && !queryQueue(printerUriOfQueue(queue))) {
+    auto facts = name.isEmpty() ? std::nullopt : queryQueue(printerUriOfQueue(queue));
+    if (!name.isEmpty() && !facts) {
         *error = lastCupsError(name);
         return std::nullopt;
     }
@@ -116,8 +127,13 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     const CupsDestinationPointer record(
         cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.isEmpty() ? nullptr : queueBytes.constData(),
                          instance.isEmpty() ? nullptr : instanceBytes.constData()));
-    if (record)
-        return fromCups(record.get());
+    if (record) {
+        Destination destination = fromCups(record.get());
+        if (!facts)
+            facts = queryQueue(printerUriOfQueue(destination.queue));
+        correctDefaults(facts.value_or(QueueFacts()), &destination);
+        return destination;
+    }
     *error = name.isEmpty() ? noDefaultPrinter() : lastCupsError(name);
     return std::nullopt;
 }

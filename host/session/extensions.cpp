@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include <optional>
+#include <utility>
 
 namespace host {
 
@@ -52,7 +53,8 @@ QStringList Extensions::installedBundles(const QString &programFolder)
 
 void Extensions::open(QStringList *problems)
 {
-    m_opened = true;
+    if (std::exchange(m_opened, true))
+        return;
     for (const QString &folder : m_folders) {
         QString error;
         if (auto bundle = platform::Bundle::open(folder, QLocale::system(), &error))
@@ -72,16 +74,30 @@ platform::PrintDialogExtension *Extensions::principalObject(Loaded *loaded, QStr
     return loaded->extension;
 }
 
+bool Extensions::serves(const Loaded &loaded, const QString &modelName)
+{
+    const QString type = loaded.bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
+    return type == platform::printDialogPanelType && loaded.bundle->servesModel(modelName);
+}
+
+Protection Extensions::protectionFor(const QString &modelName, QStringList *problems)
+{
+    open(problems);
+    Protection protection;
+    for (const Loaded &loaded : m_loaded) {
+        if (serves(loaded, modelName))
+            protection.add(Protection::from(*loaded.bundle));
+    }
+    return protection;
+}
+
 platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                                   QStringList *problems)
 {
-    if (!m_opened)
-        open(problems);
+    open(problems);
     platform::PrintDialogPanels panels;
     for (Loaded &loaded : m_loaded) {
-        const auto &bundle = loaded.bundle;
-        const QString type = bundle->infoValueForKey(platform::Bundle::panelTypeKey).toString();
-        if (type != platform::printDialogPanelType || !bundle->servesModel(modelName))
+        if (!serves(loaded, modelName))
             continue;
         QString error;
         auto *extension = principalObject(&loaded, &error);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/session/protection.h"
 #include "platform/print_dialog.h"
 
 #include <QString>
@@ -27,6 +28,8 @@ public:
     // The *.bundle folders that belong to a program in this folder: beside it, then in ../lib/kelmar-print.
     static QStringList installedBundles(const QString &programFolder);
 
+    // What the bundles that serve this model say of protection. Opens them, as the next one does.
+    Protection protectionFor(const QString &modelName, QStringList *problems);
     // The panels of every bundle that serves the dialog's panel type and this model, in order. What goes
     // wrong with a bundle is told in `problems`, and the others go on.
     platform::PrintDialogPanels panelsFor(const QString &modelName, platform::PrintDialogHost *host,
@@ -39,6 +42,7 @@ private:
         platform::PrintDialogExtension *extension = nullptr; // null until its code is needed; the bundle's
     };
     void open(QStringList *problems);
+    static bool serves(const Loaded &loaded, const QString &modelName);
     platform::PrintDialogExtension *principalObject(Loaded *loaded, QString *error);
 
     QStringList m_folders;

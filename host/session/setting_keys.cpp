@@ -53,24 +53,6 @@ platform::KeyValueObject *objectOf(platform::KeyValueObject *owner, const QMetaP
     return qobject_cast<platform::KeyValueObject *>(qvariant_cast<QObject *>(property.read(owner)));
 }
 
-// Every key and key path that can be set: writable properties, declared by the class itself, that are not
-// marked as inner state (STORED false).
-QStringList settableKeys(platform::KeyValueObject *object)
-{
-    QStringList keys;
-    const QMetaObject *cls = object->metaObject();
-    for (int i = platform::KeyValueObject::staticMetaObject.propertyCount(); i < cls->propertyCount(); ++i) {
-        const QMetaProperty property = cls->property(i);
-        const QString key = QString::fromUtf8(property.name());
-        if (property.isWritable() && property.isStored())
-            keys.append(key);
-        else if (platform::KeyValueObject *inner = objectOf(object, property))
-            for (const QString &innerKey : settableKeys(inner))
-                keys.append(key + QLatin1Char('.') + innerKey);
-    }
-    return keys;
-}
-
 bool isDigits(const QString &text)
 {
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
@@ -160,11 +142,27 @@ QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const 
 
 } // namespace
 
+QStringList settableKeys(platform::KeyValueObject *object)
+{
+    QStringList keys;
+    const QMetaObject *cls = object->metaObject();
+    for (int i = platform::KeyValueObject::staticMetaObject.propertyCount(); i < cls->propertyCount(); ++i) {
+        const QMetaProperty property = cls->property(i);
+        const QString key = QString::fromUtf8(property.name());
+        if (property.isWritable() && property.isStored())
+            keys.append(key);
+        else if (platform::KeyValueObject *inner = objectOf(object, property))
+            for (const QString &innerKey : settableKeys(inner))
+                keys.append(key + QLatin1Char('.') + innerKey);
+    }
+    return keys;
+}
+
 bool SettingKeys::set(const QString &key, const QString &value, PrintError *error)
 {
     if (GeneralSettings::covers(key) && key != QLatin1String("multiple-document-handling"))
         return setGeneral(key, value, error);
-    const int panel = panelOfKey(key);
+    const int panel = m_session->panelOfSetting(key);
     if (m_session->ppd() && m_session->ppd()->hasOption(key))
         return setOption(key, value, error);
     if (panel >= 0)
@@ -176,7 +174,7 @@ bool SettingKeys::set(const QString &key, const QString &value, PrintError *erro
 bool SettingKeys::knows(const QString &key) const
 {
     return GeneralSettings::covers(key) || (m_session->ppd() && m_session->ppd()->hasOption(key)) ||
-           panelOfKey(key) >= 0;
+           m_session->panelOfSetting(key) >= 0;
 }
 
 bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintError *error)
@@ -254,20 +252,12 @@ bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &v
         *error = badValue(problem);
         return false;
     }
+    m_session->noteChosen({keyPath, value});
     m_session->save();
     const QString reason = m_session->panel(panel)->unavailableReason();
     if (keyPath.contains(QLatin1Char('.')) && !reason.isNull())
         m_session->addNotice(SettingText::tr("%1 is not sent with the job: %2").arg(keyPath, reason));
     return true;
-}
-
-int SettingKeys::panelOfKey(const QString &keyPath) const
-{
-    for (int i = 0; i < m_session->panelCount(); ++i) {
-        if (settableKeys(m_session->panel(i)->keyValueObject()).contains(keyPath))
-            return i;
-    }
-    return -1;
 }
 
 QList<std::pair<QString, QString>> SettingKeys::panelKeys() const

@@ -9,7 +9,15 @@
 #include <QString>
 #include <QStringList>
 
+namespace platform {
+class KeyValueObject;
+}
+
 namespace host {
+
+// Every key and key path of an object that can be set: writable properties, declared by the class itself,
+// that are not marked as inner state (STORED false).
+QStringList settableKeys(platform::KeyValueObject *object);
 
 // Sets values by name, as a person at a control would: a PPD option keyword, a key or key path that a panel
 // answers, or one of the general settings "copies", "collate" and "page-ranges". A panel that answers is
@@ -32,7 +40,6 @@ private:
     bool setGeneral(const QString &key, const QString &value, PrintError *error);
     bool setOption(const QString &keyword, const QString &value, PrintError *error);
     bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
-    int panelOfKey(const QString &keyPath) const;
 
     DialogSession *m_session;
 };
