@@ -162,7 +162,7 @@ std::optional<SubmittedJob> FakePrintSystem::submit(const JobRequest &request, P
 QString sentValue(const QList<JobOption> &options, const QString &name)
 {
     for (const JobOption &option : options) {
-        if (option.name == name)
+        if (option.name == name && option.kind != JobOption::Kind::Shown)
             return option.value;
     }
     return {};

@@ -253,7 +253,7 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
 
 void PrintWindowTest::forbiddenChoiceIsGreyed()
 {
-    open();
+    PrintWindow &window = open();
     choose(u"MediaType"_s, u"Thick"_s);
     auto *duplex = find<QComboBox>(u"Duplex"_s);
     auto *item =
@@ -262,6 +262,11 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     QCOMPARE(item->toolTip(), u"Not together with Paper Type: Heavy Paper"_s);
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    window.session()->markChoice(u"MediaType"_s, u"Thick"_s); // conflicts; the way back stays open
+    window.book()->refresh();
+    const auto *model = qobject_cast<QStandardItemModel *>(duplex->model());
+    QVERIFY(model->item(duplex->findData(u"None"_s))->isEnabled());
 }
 
 void PrintWindowTest::serverAwayKeepsTheSettings()

@@ -40,6 +40,11 @@ void BundleTest::unusableInfoNamesFileAndProblem_data()
     row("parent folder", Bundle::executableKey, u".."_s, "inside the bundle");
     row("models as a text", Bundle::printerModelsKey, u"KELMAR"_s, "list of texts");
     row("models as numbers", Bundle::printerModelsKey, QJsonArray{1}, "list of texts");
+    row("protection as a list", Bundle::protectingOptionsKey, QJsonArray{u"PrintMode"_s}, "object of lists");
+    row("protecting choice alone", Bundle::protectingOptionsKey, QJsonObject{{u"PrintMode"_s, u"Private"_s}},
+        "object of lists");
+    row("secret without its use", Bundle::secretKeysKey,
+        QJsonArray{QJsonObject{{u"Key"_s, u"code"_s}, {u"Options"_s, QJsonArray{u"Digit1"_s}}}}, "UsedWith");
 }
 
 void BundleTest::unusableInfoNamesFileAndProblem()
