@@ -9,24 +9,23 @@ namespace host {
 
 QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStringList &options)
 {
-    QStringList keywords;
+    QStringList choices;
     for (const QString &keyword : PpdDocument::optionsOfStandardName(name)) {
         const bool isMeant = options.isEmpty() || options.contains(keyword);
         if (isMeant && !ppd->markedChoice(keyword).isEmpty())
-            keywords.append(keyword);
+            choices.append(ppd->markedChoice(keyword));
     }
-    QStringList choices;
-    for (const QString &keyword : keywords)
-        choices.append(ppd->markedChoice(keyword));
-    QStringList candidates{choices.join(QLatin1Char(','))};
+    if (choices.isEmpty())
+        return {};
+    QStringList candidates{choices.join(QLatin1Char(',')), choices.first()};
     if (name == QLatin1String("sides"))
         candidates = {QStringLiteral("one-sided"), QStringLiteral("two-sided-long-edge"),
                       QStringLiteral("two-sided-short-edge")};
     for (const QString &candidate : candidates) {
         const QMap<QString, QString> meant = ppd->standardChoices(name, candidate);
         bool holds = !meant.isEmpty();
-        for (const QString &keyword : keywords)
-            holds &= meant.value(keyword) == ppd->markedChoice(keyword);
+        for (auto it = meant.begin(); it != meant.end(); ++it)
+            holds &= it.value() == ppd->markedChoice(it.key());
         if (holds)
             return candidate;
     }

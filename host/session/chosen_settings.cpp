@@ -32,7 +32,7 @@ bool isCollating(const QString &value)
 }
 
 // The options that a standard name such as "media" stands for.
-bool chooseStandardName(DialogSession *session, const ChosenSetting &setting, PrintError *error)
+bool chooseStandardName(DialogSession *session, ChosenSetting setting, PrintError *error)
 {
     const QMap<QString, QString> choices = session->ppd()->standardChoices(setting.key, setting.value);
     if (choices.isEmpty()) {
@@ -42,6 +42,8 @@ bool chooseStandardName(DialogSession *session, const ChosenSetting &setting, Pr
     }
     for (auto it = choices.begin(); it != choices.end(); ++it)
         session->markChoice(it.key(), it.value());
+    setting.options = choices.keys();
+    session->noteChosen(setting);
     return true;
 }
 
@@ -49,19 +51,18 @@ bool chooseStandardName(DialogSession *session, const ChosenSetting &setting, Pr
 
 void ChosenSettings::add(const ChosenSetting &setting)
 {
-    remove(setting.key);
+    m_settings.removeIf([&](const ChosenSetting &earlier) {
+        return hasKey(earlier, setting.key) || setting.options.contains(earlier.key) ||
+               earlier.options == QStringList(setting.key);
+    });
     m_settings.append(setting);
-}
-
-void ChosenSettings::remove(const QString &key)
-{
-    m_settings.removeIf([&](const ChosenSetting &setting) { return hasKey(setting, key); });
 }
 
 bool ChosenSettings::contains(const QString &key) const
 {
-    return std::any_of(m_settings.begin(), m_settings.end(),
-                       [&](const ChosenSetting &setting) { return hasKey(setting, key); });
+    return std::any_of(m_settings.begin(), m_settings.end(), [&](const ChosenSetting &setting) {
+        return hasKey(setting, key) || setting.options.contains(key);
+    });
 }
 
 ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
@@ -95,8 +96,8 @@ bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *er
     if (!isJobOption)
         return keys.set(setting.key, setting.value, error);
     const bool standsForOptions = session->ppd() && session->ppd()->takesOption(setting.key);
-    if (standsForOptions && !chooseStandardName(session, setting, error))
-        return false;
+    if (standsForOptions)
+        return chooseStandardName(session, setting, error);
     session->noteChosen(setting);
     return true;
 }

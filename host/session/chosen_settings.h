@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace host {
 
@@ -23,8 +24,9 @@ struct ChosenSetting
     QString key;
     QString value;
     Kind kind = Kind::Key;
-    QString text = {};     // what people call it, without the value of a code
-    bool protects = false; // it protects the user, as private printing does
+    QStringList options = {}; // of the PPD: what a standard name stood for
+    QString text = {};        // what people call it, without the value of a code
+    bool protects = false;    // it protects the user, as private printing does
 };
 
 // What has been chosen for a job, in the order it was set. What is sent, what another printer takes over and
@@ -32,9 +34,9 @@ struct ChosenSetting
 class ChosenSettings
 {
 public:
-    // Takes the place of an earlier choice under the same key, at the end.
+    // Takes the place, at the end, of earlier choices that it decides about anew.
     void add(const ChosenSetting &setting);
-    void remove(const QString &key);
+    // Whether this key, or a standard name that stands for this option of the PPD, has been chosen.
     bool contains(const QString &key) const;
     const QList<ChosenSetting> &inOrder() const { return m_settings; }
 

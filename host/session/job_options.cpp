@@ -6,6 +6,7 @@
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
 #include "host/printing/standard_names.h"
+#include "host/session/page_ranges.h"
 
 #include <algorithm>
 
@@ -121,7 +122,8 @@ QList<JobOption> defaults(const JobOptionSources &sources)
         else if (!sources.ppd || !sources.ppd->hasOption(it.key()))
             options.append({it.key(), it.value(), Kind::Preference});
     }
-    if (all.contains(pageRangesName) && sources.general.pages.isEmpty())
+    const auto pages = normalizedPageRanges(all.value(pageRangesName), nullptr);
+    if (!pages.value_or(QString()).isEmpty() && sources.general.pages.isEmpty())
         options.append({pageRangesName, allPages, Kind::Attribute});
     return options;
 }

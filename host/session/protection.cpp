@@ -107,7 +107,9 @@ std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Pro
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen)
 {
     for (const Protection::Secret &secret : protection.secrets) {
-        if (!protection.protects(secret.option, secret.choice) || !ppd.hasOption(secret.option))
+        const auto option = ppd.option(secret.option);
+        if (!protection.protects(secret.option, secret.choice) || !option ||
+            !option->hasChoice(secret.choice))
             continue;
         const bool isUsed = ppd.markedChoice(secret.option) == secret.choice;
         const QString use = ppd.described(secret.option, secret.choice).text();
