@@ -73,15 +73,10 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     applyColorScheme(arguments.colorScheme);
     QGuiApplication::setDesktopFileName(QStringLiteral("kelmar-print"));
     PrintTask task = taskOf(arguments);
-    PrintWindow *opened = nullptr;
-    task.prepare = [&](DialogSession *session, PrintError *error) {
-        QList<JobOption> passedOn;
-        const bool done = applyAssignments(arguments, session, &passedOn, error);
-        opened->passOn(passedOn);
-        return done;
+    task.prepare = [&arguments](DialogSession *session, PrintError *error) {
+        return applyAssignments(arguments, session, error);
     };
     PrintWindow window(system, extensions, task);
-    opened = &window;
     system.setLoginPrompt(
         [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
     PrintError error;

@@ -205,14 +205,6 @@ QVariant Bundle::infoValueForKey(const QString &key) const
     return m_info.value(key).toVariant();
 }
 
-QStringList Bundle::secretKeys() const
-{
-    QStringList keys;
-    for (const QJsonValue &secret : m_info.value(secretKeysKey).toArray())
-        keys += secret[u"Options"].toVariant().toStringList() + QStringList(secret[u"Key"].toString());
-    return keys;
-}
-
 bool Bundle::servesModel(const QString &modelName) const
 {
     // Not QRegularExpression's wildcards: their "*" stops at a "/", which model names contain.

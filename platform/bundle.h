@@ -53,8 +53,6 @@ public:
     const QString &folder() const { return m_folder; }
     // Nil when Info.json lacks the key.
     QVariant infoValueForKey(const QString &key) const;
-    // The keys and options of "SecretKeys", all that hold a code or a part of one.
-    QStringList secretKeys() const;
     // Whether a PPD with this model name is one of "PrinterModels".
     bool servesModel(const QString &modelName) const;
 

@@ -4,6 +4,7 @@
 #include "host/batch/batch_run.h"
 
 #include "host/printing/opened_printer.h"
+#include "host/session/chosen_settings.h"
 #include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
@@ -20,20 +21,6 @@ struct BatchText
 // A proposal may uncover the next conflict; a PPD that never comes to rest must not hold the run.
 constexpr int mostProposals = 8;
 
-// Marks the options that a standard name such as "media" stands for, as the user's choices.
-bool markStandardName(const Arguments::Assignment &assignment, DialogSession *session, PrintError *error)
-{
-    const QMap<QString, QString> choices = session->ppd()->standardChoices(assignment.key, assignment.value);
-    for (auto it = choices.begin(); it != choices.end(); ++it)
-        session->markChoice(it.key(), it.value());
-    if (choices.isEmpty())
-        *error = {PrintError::Kind::BadValue,
-                  assignment.isSecret()
-                      ? BatchText::tr("%1 does not take this value.").arg(assignment.key)
-                      : BatchText::tr("%1: this printer has no “%2”.").arg(assignment.key, assignment.value)};
-    return !choices.isEmpty();
-}
-
 // An option without the code that it may hold.
 PpdOption listed(const DialogSession &session, const QString &keyword)
 {
@@ -47,19 +34,15 @@ PpdOption listed(const DialogSession &session, const QString &keyword)
 
 } // namespace
 
-bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<JobOption> *passedOn,
-                      PrintError *error)
+bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintError *error)
 {
-    SettingKeys keys(session);
+    using Kind = ChosenSetting::Kind;
     for (const Arguments::Assignment &assignment : arguments.assignments) {
-        if (assignment.passOn && !keys.knows(assignment.key)) {
-            if (!session->ppd() || !session->ppd()->takesOption(assignment.key))
-                passedOn->append({assignment.key, assignment.value, JobOption::Kind::Attribute});
-            else if (!markStandardName(assignment, session, error))
-                return false;
-        } else if (!keys.set(assignment.key, assignment.value, error, assignment.isSecret())) {
+        const Kind kind = assignment.passOn ? Kind::JobOption : Kind::Key;
+        ChosenSetting setting{assignment.key, assignment.value, kind};
+        setting.isSecret = assignment.isSecret();
+        if (!choose(session, setting, error))
             return false;
-        }
     }
     return true;
 }
@@ -101,7 +84,7 @@ ExitCode BatchRun::perform()
     if (!openSession(&error))
         return fail(error);
     m_result.printer = m_session->destination().name();
-    if (!applyAssignments(m_arguments, m_session.get(), &m_passedOn, &error))
+    if (!applyAssignments(m_arguments, m_session.get(), &error))
         return fail(error);
     m_session->save();
     const ExitCode settled = settleConflicts();
@@ -111,6 +94,8 @@ ExitCode BatchRun::perform()
             m_result.options.append(listed(*m_session, keyword));
         m_result.panelKeys = SettingKeys(m_session.get()).panelKeys();
     }
+    if (const QString gap = m_session->protectionGap(); !gap.isNull())
+        m_session->addNotice(gap);
     if (m_arguments.summary) {
         m_result.hasSummary = true;
         m_result.summary = m_session->summary();
@@ -156,14 +141,19 @@ ExitCode BatchRun::settleConflicts()
     if (conflicts.isEmpty())
         return ExitSuccess;
     m_result.conflicts = conflicts;
-    m_result.proposal = m_session->proposal();
+    QString givenUp;
+    m_result.proposal = m_session->proposal(&givenUp);
+    if (!givenUp.isNull())
+        m_session->addNotice(
+            BatchText::tr("No way out was found that keeps “%1”: change one of the settings yourself.")
+                .arg(givenUp));
     return ExitConflict;
 }
 
 ExitCode BatchRun::submit()
 {
     JobRequest request{m_session->destination(), m_documents.documents(), m_arguments.title,
-                       m_session->jobOptions() + m_passedOn};
+                       m_session->jobOptions()};
     if (request.title.isEmpty())
         request.title = m_documents.title();
     m_signals.emplace();

@@ -13,10 +13,8 @@
 
 namespace host {
 
-// Applies the command line's settings in order. `passedOn` gets the job options that are nobody's business
-// here.
-bool applyAssignments(const Arguments &arguments, DialogSession *session, QList<JobOption> *passedOn,
-                      PrintError *error);
+// Makes the command line's settings in order.
+bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintError *error);
 
 // One run without a window: the same panels through the same contract, settings from the command line,
 // results as text or JSON. Needs a QApplication, since panels are made of widgets.
@@ -47,7 +45,6 @@ private:
     QIODevice *m_input = nullptr;
     std::unique_ptr<DialogSession> m_session;
     DocumentList m_documents;
-    QList<JobOption> m_passedOn;
     BatchResult m_result;
     std::optional<HeldSignals> m_signals; // from the submission until its outcome is told
 };

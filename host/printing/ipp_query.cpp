@@ -18,16 +18,19 @@ QString enumText(ipp_attribute_t *attribute)
     return numbers.join(QLatin1Char(','));
 }
 
-QMap<QString, QString> defaultsOf(ipp_t *answer)
+// The administrator's defaults come before those that the server makes out of the PPD under the same name,
+// and they alone are put into jobs.
+void readDefaults(ipp_t *answer, QueueFacts *facts)
 {
     static const QLatin1String suffix("-default");
-    QMap<QString, QString> defaults;
     for (ipp_attribute_t *a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
         const QString name = QString::fromUtf8(ippGetName(a));
-        if (name.endsWith(suffix))
-            defaults.insert(name.chopped(suffix.size()), valueText(a));
+        if (!name.endsWith(suffix))
+            continue;
+        const QString option = name.chopped(suffix.size());
+        (facts->defaults.contains(option) ? facts->overruledDefaults : facts->defaults)
+            .insert(option, valueText(a));
     }
-    return defaults;
 }
 
 } // namespace
@@ -114,7 +117,7 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
-    facts.defaults = defaultsOf(answer.get());
+    readDefaults(answer.get(), &facts);
     return facts;
 }
 

@@ -35,6 +35,8 @@ struct QueueFacts
     QString stateMessage;
     QStringList formats;             // MIME types it takes
     QMap<QString, QString> defaults; // job options it adds to every job by itself
+    // What the PPD would have under a name of `defaults` that the administrator has set otherwise.
+    QMap<QString, QString> overruledDefaults;
 };
 
 // Nil with an error when the server does not know the queue, which people call `name`, or does not answer.

@@ -20,10 +20,12 @@ struct JobOption
 {
     enum class Kind {
         Choice, // a choice of the printer's PPD or a setting of a panel: sent as a name, exactly as it stands
-        Attribute, // a job option of the print system, such as "copies": sent in the type libcups knows for
-                   // it
-        Preference // the same, from the user's defaults for the printer: left out where the server adds it
-                   // anyway
+        Attribute,  // a job option of the print system, such as "copies": sent in the type libcups knows for
+                    // it
+        Preference, // the same, from the user's defaults for the printer: left out where the server adds it
+                    // anyway
+        Shown // not sent: what the printer does by itself, as the user has seen it; the job must not say
+              // otherwise
     };
     QString name;
     QString value;

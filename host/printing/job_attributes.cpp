@@ -70,9 +70,14 @@ QStringList differencesOf(const QList<JobOption> &options, ipp_t *kept)
         addJobOption(asSent.get(), option);
         ipp_attribute_t *sent = ippFindAttribute(asSent.get(), name.constData(), IPP_TAG_ZERO);
         ipp_attribute_t *found = ippFindAttribute(kept, name.constData(), IPP_TAG_ZERO);
+        if (!found && option.kind == JobOption::Kind::Shown)
+            continue;
         if (!sent || !found)
             differences.append(AttributesText::tr("The print server did not take “%1”.").arg(option.name));
-        else if (meaning(name, sent) != meaning(name, found))
+        else if (meaning(name, sent)
+                     .compare(meaning(name, found), option.kind == JobOption::Kind::Shown
+                                                        ? Qt::CaseInsensitive
+                                                        : Qt::CaseSensitive) != 0)
             differences.append(
                 AttributesText::tr("The print server took another value for “%1” than was sent.")
                     .arg(option.name));

@@ -158,8 +158,10 @@ bool JobSubmitter::createJob(PrintError *error)
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  nameBytes(m_request.title).constData());
     ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, tokenAttribute, nullptr, m_token.constData());
-    for (const JobOption &option : m_options)
-        addJobOption(request.get(), option);
+    for (const JobOption &option : m_options) {
+        if (option.kind != JobOption::Kind::Shown)
+            addJobOption(request.get(), option);
+    }
     Reply reply = m_server.ask(std::move(request), m_resource);
     if (reply.succeeded()) {
         m_id = attributeInteger(reply.message.get(), "job-id", 0);

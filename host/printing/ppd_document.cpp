@@ -77,20 +77,6 @@ bool isShadowOfPageSize(const char *keyword)
     return qstrcmp(keyword, "PageRegion") == 0;
 }
 
-// The options that libcups marks for a standard job option. Color mode and quality are left to the print
-// system: a choice of the user here must not be overruled by them.
-QStringList optionsOfStandardName(const QString &name)
-{
-    static const QMap<QString, QString> keywords = {
-        {QStringLiteral("media"), QStringLiteral("PageSize InputSlot MediaType")},
-        {QStringLiteral("sides"),
-         QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
-        {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
-        {QStringLiteral("printer-resolution"), QStringLiteral("Resolution SetResolution JCLResolution")},
-        {QStringLiteral("resolution"), QStringLiteral("Resolution SetResolution JCLResolution")}};
-    return keywords.value(name).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 } // namespace
 
 QString OptionChoice::text() const
@@ -300,6 +286,18 @@ QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
     }
     cupsMarkOptions(m_ppd, list.count(), list.options());
     return problems;
+}
+
+QStringList PpdDocument::optionsOfStandardName(const QString &name)
+{
+    static const QMap<QString, QString> keywords = {
+        {QStringLiteral("media"), QStringLiteral("PageSize InputSlot MediaType")},
+        {QStringLiteral("sides"),
+         QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
+        {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
+        {QStringLiteral("printer-resolution"), QStringLiteral("Resolution SetResolution JCLResolution")},
+        {QStringLiteral("resolution"), QStringLiteral("Resolution SetResolution JCLResolution")}};
+    return keywords.value(name).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 bool PpdDocument::takesOption(const QString &name) const

@@ -60,6 +60,9 @@ public:
     QStringList markOptions(const QMap<QString, QString> &options);
     // Whether markOptions() turns an option of this name into marks.
     bool takesOption(const QString &name) const;
+    // The options that libcups marks for a standard name; empty for other names. Color mode and quality are
+    // left to the print system: a choice of the user here must not be overruled by them.
+    static QStringList optionsOfStandardName(const QString &name);
     // The choices that a standard name such as "media" stands for with this value, by option. Empty when the
     // PPD has none for it, or for one of several values in a list. What is marked stays as it is.
     QMap<QString, QString> standardChoices(const QString &name, const QString &value);

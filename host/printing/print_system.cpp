@@ -42,6 +42,16 @@ Destination fromCups(const cups_dest_t *record)
     return destination;
 }
 
+// Where the administrator has set another default than the PPD, libcups lists the one of the PPD.
+void correctDefaults(const QueueFacts &facts, Destination *destination)
+{
+    for (auto it = facts.overruledDefaults.begin(); it != facts.overruledDefaults.end(); ++it) {
+        auto listed = destination->options.find(it.key());
+        if (listed != destination->options.end() && *listed == it.value())
+            *listed = facts.defaults.value(it.key());
+    }
+}
+
 QByteArray uriOf(const Destination &destination)
 {
     return destination.printerUri.isEmpty() ? printerUriOfQueue(destination.queue)
@@ -87,8 +97,12 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     ServerConnection server(&m_login);
     // libcups would search the network for a queue that the server does not know, and not say that the server
     // is away.
-    if (!name.isEmpty() && !queryQueue(&server, printerUriOfQueue(queue), name, error))
-        return std::nullopt;
+    std::optional<QueueFacts> facts;
+    if (!name.isEmpty()) {
+        facts = queryQueue(&server, printerUriOfQueue(queue), name, error);
+        if (!facts)
+            return std::nullopt;
+    }
     ServerConnection::askNobody();
     const QByteArray queueBytes = queue.toUtf8();
     const QByteArray instanceBytes = instance.toUtf8();
@@ -97,8 +111,14 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         handle ? cupsGetNamedDest(handle, name.isEmpty() ? nullptr : queueBytes.constData(),
                                   instance.isEmpty() ? nullptr : instanceBytes.constData())
                : nullptr);
-    if (record)
-        return fromCups(record.get());
+    if (record) {
+        Destination destination = fromCups(record.get());
+        PrintError ignored;
+        if (!facts)
+            facts = queryQueue(&server, printerUriOfQueue(destination.queue), destination.queue, &ignored);
+        correctDefaults(facts.value_or(QueueFacts()), &destination);
+        return destination;
+    }
     if (const auto problem = problemOfServer())
         *error = *problem;
     else if (name.isEmpty())

@@ -4,11 +4,12 @@
 #include "host/session/dialog_session.h"
 
 #include "host/session/extensions.h"
+#include "host/session/job_options.h"
+#include "host/session/setting_keys.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
 #include "platform/logging.h"
 
-#include <QLocale>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -34,19 +35,6 @@ private:
     int *m_depth;
 };
 
-// What libcups reports about a printer among a destination's options.
-bool describesPrinter(const QString &name)
-{
-    return name.startsWith(QLatin1String("printer-")) || name.startsWith(QLatin1String("marker-")) ||
-           name == QLatin1String("device-uri") || name == QLatin1String("auth-info-required");
-}
-
-// Settings of panels bear names in reverse domain order.
-bool isPanelSetting(const QString &name)
-{
-    return name.contains(QLatin1Char('.'));
-}
-
 QStringList keywordsOf(platform::PrintDialogPanel *panel)
 {
     platform::KeyValueObject *object = panel->keyValueObject();
@@ -68,7 +56,8 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
         if (isPanelSetting(it.key()))
             m_printSettings.setValue(it.key(), it.value());
     }
-    m_general = GeneralSettings::from(destination.options, m_ppd.get());
+    m_startingGeneral = m_general = GeneralSettings::from(destination.options);
+    tellUnknownDefaults();
 }
 
 DialogSession::~DialogSession()
@@ -80,15 +69,38 @@ void DialogSession::loadPanels(Extensions &extensions)
 {
     if (!m_ppd)
         return;
+    m_protection = extensions.protectionFor(m_ppd->modelName(), &m_notices);
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
-    m_secretKeys = extensions.secretKeys(m_ppd->modelName());
 }
 
 bool DialogSession::isSecret(const QString &key) const
 {
     const auto option = m_ppd ? m_ppd->option(key) : std::nullopt;
-    return m_secretKeys.contains(option ? option->keyword : key) ||
+    return m_protection.secretOf(option ? option->keyword : key) ||
            (option && option->custom && option->custom->isSecret());
+}
+
+// A choice that the PPD does not have is not marked, and a filter would take its own default for it.
+void DialogSession::tellUnknownDefaults()
+{
+    QStringList unknown;
+    for (auto it = m_destination.options.begin(); m_ppd && it != m_destination.options.end(); ++it) {
+        const auto option = m_ppd->option(it.key());
+        if (!option || option->choices.isEmpty() || GeneralSettings::covers(it.key()))
+            continue;
+        const QString &value = it.value();
+        const bool isCustom =
+            value.startsWith(QLatin1String("Custom.")) || value.startsWith(QLatin1Char('{'));
+        const bool isKnown =
+            std::any_of(option->choices.begin(), option->choices.end(), [&](const auto &choice) {
+                return choice.keyword.compare(value, Qt::CaseInsensitive) == 0;
+            });
+        if (!isKnown && !isCustom)
+            unknown.append(option->text);
+    }
+    if (!unknown.isEmpty())
+        addNotice(tr("Your defaults for this printer ask for choices that it does not have: %1.")
+                      .arg(unknown.join(QStringLiteral(", "))));
 }
 
 void DialogSession::panelFailed(const QString &, const QString &reason)
@@ -100,7 +112,7 @@ void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
 {
     for (auto &panel : panels) {
         QStringList keywords = keywordsOf(panel.get());
-        m_panels.push_back({std::move(panel), std::move(keywords), {}});
+        m_panels.push_back({std::move(panel), std::move(keywords), {}, {}});
     }
     for (size_t i = 0; i < m_panels.size(); ++i)
         watch(i);
@@ -129,6 +141,20 @@ int DialogSession::panelOfKeyword(const QString &keyword) const
             return static_cast<int>(i);
     }
     return -1;
+}
+
+int DialogSession::panelOfSetting(const QString &keyPath) const
+{
+    for (size_t i = 0; i < m_panels.size(); ++i) {
+        if (settableKeysOf(static_cast<int>(i)).contains(keyPath))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+QStringList DialogSession::settableKeysOf(int panel) const
+{
+    return settableKeys(this->panel(panel)->keyValueObject(), panelKeywords(panel));
 }
 
 void DialogSession::prepare(int index)
@@ -170,6 +196,34 @@ void DialogSession::restore(Panel &panel)
         m_notices.append(tr("“%1” could not be prepared: %2")
                              .arg(panel.panel->panelName(), QString::fromUtf8(exception.what())));
     }
+    lookAtKeys(panel, false);
+}
+
+// Keys of a panel beside its PPD options, such as the profiles of a device. What differs from the last look
+// has been chosen since.
+void DialogSession::lookAtKeys(Panel &panel, bool areChosen)
+{
+    platform::KeyValueObject *object = panel.panel->keyValueObject();
+    for (const QString &key : settableKeys(object, panel.keywords)) {
+        const QVariant value = object->valueForKeyPath(key);
+        if (areChosen && !sameValue(value, panel.keyValues.value(key)))
+            noteChosen({key, value.toString()});
+        panel.keyValues.insert(key, value);
+    }
+}
+
+// A panel that cannot reach its device takes the settings for it out of the job.
+void DialogSession::tellDropped(const Panel &panel, const QVariantMap &before)
+{
+    QStringList dropped;
+    for (auto it = before.begin(); it != before.end(); ++it) {
+        if (!m_printSettings.value(it.key()).isValid())
+            dropped.append(it.key().section(QLatin1Char('.'), -1));
+    }
+    if (!dropped.isEmpty())
+        addNotice(tr("Stored settings of “%1” are not sent with the job (%2): %3")
+                      .arg(panel.panel->panelName(), dropped.join(QStringLiteral(", ")),
+                           panel.panel->unavailableReason()));
 }
 
 void DialogSession::save()
@@ -186,6 +240,7 @@ void DialogSession::savePanel(size_t index)
     const Busy busy(&m_busy);
     platform::PrintDialogPanel *panel = m_panels[index].panel.get();
     m_saving = static_cast<int>(index);
+    const QVariantMap settings = m_printSettings.values();
     QString error;
     try {
         if (!panel->saveValuesAndReturnError(&error))
@@ -196,6 +251,8 @@ void DialogSession::savePanel(size_t index)
                              .arg(panel->panelName(), QString::fromUtf8(exception.what())));
     }
     m_saving = -1;
+    lookAtKeys(m_panels[index], true);
+    tellDropped(m_panels[index], settings);
 }
 
 QStringList DialogSession::otherKeywords() const
@@ -217,9 +274,15 @@ bool DialogSession::markChoice(const QString &keyword, const QString &choice)
     if (!m_ppd || !m_ppd->mark(keyword, choice))
         return false;
     m_lastUserKeyword = keyword;
+    noteChosen({keyword, choice});
     setOnPanels(keyword, choice);
     settle();
     return true;
+}
+
+void DialogSession::noteChosen(const ChosenSetting &setting)
+{
+    m_chosen.add(setting.text.isNull() ? inWords(*this, setting) : setting);
 }
 
 void DialogSession::setOnPanels(const QString &keyword, const QString &choice)
@@ -245,9 +308,14 @@ QList<Conflict> DialogSession::conflicts() const
     return m_ppd ? m_ppd->conflicts() : QList<Conflict>();
 }
 
-std::optional<Resolution> DialogSession::proposal() const
+std::optional<Resolution> DialogSession::proposal(QString *givenUp) const
 {
-    return m_ppd ? m_ppd->resolution(m_lastUserKeyword) : std::nullopt;
+    return m_ppd ? protectingResolution(*m_ppd, m_protection, m_lastUserKeyword, givenUp) : std::nullopt;
+}
+
+QString DialogSession::protectionGap() const
+{
+    return m_ppd ? host::protectionGap(*m_ppd, m_protection, m_chosen) : QString();
 }
 
 void DialogSession::apply(const Resolution &resolution)
@@ -255,6 +323,7 @@ void DialogSession::apply(const Resolution &resolution)
     for (const OptionChoice &change : resolution) {
         m_ppd->mark(change.option, change.choice);
         m_savedKeywords.insert(change.option);
+        noteChosen({change.option, change.choice});
     }
     for (const OptionChoice &change : resolution)
         setOnPanels(change.option, change.choice);
@@ -328,6 +397,7 @@ void DialogSession::settle()
             continue;
         if (entry.byUser) {
             m_lastUserKeyword = entry.keyword;
+            noteChosen({entry.keyword, after.toString()});
         } else if (m_ppd && m_ppd->hasOption(entry.keyword)) {
             unasked.append(m_ppd->described(entry.keyword, after.toString()));
             isDefault.append(after.toString() == m_ppd->defaultChoice(entry.keyword));
@@ -346,27 +416,14 @@ void DialogSession::didBlock()
     Q_EMIT blockingEnded();
 }
 
-SummarySection DialogSession::generalSummary() const
+QList<SummarySection> DialogSession::summary()
 {
-    SummarySection section{tr("General"), {}};
-    section.entries.append({tr("Printer"), m_destination.displayName()});
-    section.entries.append({tr("Copies"), QLocale().toString(m_general.copies)});
-    if (m_general.copies > 1)
-        section.entries.append({tr("Collate"), m_general.collate ? tr("On") : tr("Off")});
-    section.entries.append({tr("Pages"), m_general.pages.isEmpty() ? tr("All") : m_general.pages});
-    if (!m_ppd)
-        return section;
-    for (const QString &keyword : generalOptionKeywords(*m_ppd) + otherKeywords()) {
-        const OptionChoice choice = m_ppd->described(keyword, m_ppd->markedChoice(keyword));
-        if (!choice.choice.isEmpty())
-            section.entries.append({choice.optionText, choice.choiceText});
+    for (Panel &panel : m_panels) {
+        if (!panel.followsChoices())
+            announceChoices(panel);
     }
-    return section;
-}
-
-QList<SummarySection> DialogSession::summary() const
-{
-    QList<SummarySection> sections{generalSummary()};
+    settle();
+    QList<SummarySection> sections{generalSummary(*this)};
     for (const Panel &panel : m_panels) {
         SummarySection section{panel.panel->panelName(), {}};
         const QMap<QString, QString> info = panel.panel->summaryInfo();
@@ -378,41 +435,10 @@ QList<SummarySection> DialogSession::summary() const
     return sections;
 }
 
-QList<JobOption> DialogSession::markedOptions() const
-{
-    QList<JobOption> options;
-    if (!m_ppd)
-        return options;
-    QSet<QString> wanted = m_savedKeywords;
-    for (const OptionChoice &change : m_ppd->changedChoices())
-        wanted.insert(change.option);
-    for (const QString &keyword : m_ppd->optionKeywords()) {
-        const QString choice = m_ppd->markedChoice(keyword);
-        if (wanted.contains(keyword) && !choice.isEmpty() && !GeneralSettings::covers(keyword))
-            options.append({keyword, choice});
-    }
-    return options;
-}
-
-QList<JobOption> DialogSession::preferences() const
-{
-    QList<JobOption> options;
-    for (auto it = m_destination.options.begin(); it != m_destination.options.end(); ++it) {
-        const bool decidedHere = GeneralSettings::covers(it.key()) || isPanelSetting(it.key()) ||
-                                 (m_ppd && m_ppd->takesOption(it.key()));
-        if (!describesPrinter(it.key()) && !decidedHere)
-            options.append({it.key(), it.value(), JobOption::Kind::Preference});
-    }
-    return options;
-}
-
 QList<JobOption> DialogSession::jobOptions() const
 {
-    QList<JobOption> options = markedOptions();
-    const QVariantMap &settings = m_printSettings.values();
-    for (auto it = settings.begin(); it != settings.end(); ++it)
-        options.append({it.key(), it.value().toString()});
-    return options + m_general.jobOptions() + preferences();
+    return host::jobOptions(
+        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(), m_general});
 }
 
 } // namespace host

@@ -6,7 +6,9 @@
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
 #include "host/session/change_ledger.h"
+#include "host/session/chosen_settings.h"
 #include "host/session/general_settings.h"
+#include "host/session/protection.h"
 #include "host/session/session_panel.h"
 #include "host/session/summary_section.h"
 #include "platform/print_dialog.h"
@@ -40,11 +42,14 @@ public:
     // Makes the panels of the extensions that serve the printer; problems become notices.
     void loadPanels(Extensions &extensions);
     void adoptPanels(platform::PrintDialogPanels panels);
+    const Protection &protection() const { return m_protection; }
+    void setProtection(const Protection &protection) { m_protection = protection; }
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
+    const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before anybody chose
     int panelCount() const { return static_cast<int>(m_panels.size()); }
     platform::PrintDialogPanel *panel(int index) const;
     QStringList panelKeywords(int index) const { return m_panels.at(static_cast<size_t>(index)).keywords; }
@@ -53,6 +58,10 @@ public:
     int panelOfKeyword(const QString &keyword) const;
     // Whether an option or a panel's key holds a code, which nobody but its user may see.
     bool isSecret(const QString &key) const;
+    // The panel that answers a key or key path beside the PPD options, or -1.
+    int panelOfSetting(const QString &keyPath) const;
+    // The keys and key paths beside PPD options that a panel lets itself be set by.
+    QStringList settableKeysOf(int panel) const;
     // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
     // their options stand. These are not restored, since a panel may ask a device that is switched off.
     void prepare(int index);
@@ -63,17 +72,25 @@ public:
 
     // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it.
     bool markChoice(const QString &keyword, const QString &choice);
+    // What has been chosen so far: here, in panels that were saved, and by others who note it.
+    const ChosenSettings &chosen() const { return m_chosen; }
+    void noteChosen(const ChosenSetting &setting);
     QList<Conflict> conflicts() const;
-    // libcups's way out of the conflicts that leaves the user's last change as it is, where there is one.
-    std::optional<Resolution> proposal() const;
+    // libcups's way out of the conflicts that leaves the user's last change as it is, where there is one; but
+    // none that gives up what protects the user. Where every way does, `givenUp` (may be null) says what.
+    std::optional<Resolution> proposal(QString *givenUp = nullptr) const;
     void apply(const Resolution &resolution);
     // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
     QStringList takeNotices();
     void addNotice(const QString &notice) { m_notices.append(notice); }
 
-    QList<SummarySection> summary() const;
-    // Choices other than the printer's defaults, what panels have saved or set, the general settings, and the
-    // user's own defaults for the printer as far as nothing else decides about them.
+    // What is missing for the protection that has been chosen, in words: a code without private printing, or
+    // the reverse. Nil when nothing is.
+    QString protectionGap() const;
+
+    // Panels that have not been restored are first told how their options stand.
+    QList<SummarySection> summary();
+    // What is sent with the job; see host/session/job_options.h.
     QList<JobOption> jobOptions() const;
 
     PMPrintSettings printSettings() override { return &m_printSettings; }
@@ -105,19 +122,21 @@ private:
     // Works through the changes that panels have announced, once their calls have returned.
     void settle();
     void settleLater();
-    SummarySection generalSummary() const;
-    QList<JobOption> markedOptions() const;
-    QList<JobOption> preferences() const;
+    void lookAtKeys(Panel &panel, bool areChosen);
+    void tellDropped(const Panel &panel, const QVariantMap &before);
+    void tellUnknownDefaults();
 
     Destination m_destination;
     std::unique_ptr<PpdDocument> m_ppd;
     platform::PrintSettings m_printSettings;
     platform::PrintSession m_printSession;
     GeneralSettings m_general;
+    GeneralSettings m_startingGeneral;
+    Protection m_protection;
+    ChosenSettings m_chosen;
     ChangeLedger m_ledger;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;
-    QStringList m_secretKeys;
     QString m_lastUserKeyword;
     int m_saving = -1;
     int m_busy = 0; // calls of this object into panels that are under way

@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include <optional>
+#include <utility>
 
 namespace host {
 
@@ -52,7 +53,8 @@ QStringList Extensions::installedBundles(const QString &programFolder)
 
 void Extensions::open(QStringList *problems)
 {
-    m_opened = true;
+    if (std::exchange(m_opened, true))
+        return;
     for (const QString &folder : m_folders) {
         QString error;
         if (auto bundle = platform::Bundle::open(folder, QLocale::system(), &error))
@@ -78,21 +80,21 @@ bool Extensions::serves(const Loaded &loaded, const QString &modelName)
     return type == platform::printDialogPanelType && loaded.bundle->servesModel(modelName);
 }
 
-QStringList Extensions::secretKeys(const QString &modelName) const
+Protection Extensions::protectionFor(const QString &modelName, QStringList *problems)
 {
-    QStringList keys;
+    open(problems);
+    Protection protection;
     for (const Loaded &loaded : m_loaded) {
         if (serves(loaded, modelName))
-            keys += loaded.bundle->secretKeys();
+            protection.add(Protection::from(*loaded.bundle));
     }
-    return keys;
+    return protection;
 }
 
 platform::PrintDialogPanels Extensions::panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                                   QStringList *problems)
 {
-    if (!m_opened)
-        open(problems);
+    open(problems);
     platform::PrintDialogPanels panels;
     for (Loaded &loaded : m_loaded) {
         if (!serves(loaded, modelName))

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/session/protection.h"
 #include "platform/print_dialog.h"
 
 #include <QString>
@@ -27,14 +28,12 @@ public:
     // The *.bundle folders that belong to a program in this folder: beside it, then in ../lib/kelmar-print.
     static QStringList installedBundles(const QString &programFolder);
 
+    // What the bundles that serve this model say of protection. Opens them, as the next one does.
+    Protection protectionFor(const QString &modelName, QStringList *problems);
     // The panels of every bundle that serves the dialog's panel type and this model, in order. What goes
     // wrong with a bundle is told in `problems`, and the others go on.
     platform::PrintDialogPanels panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                           QStringList *problems);
-
-    // The options and panel keys that hold codes on this model, as the bundles that serve it say. The one
-    // place where that is known; the bundles have to be open, as they are once panels were asked for.
-    QStringList secretKeys(const QString &modelName) const;
 
 private:
     struct Loaded

@@ -21,14 +21,12 @@ bool isOff(const QString &value)
 
 } // namespace
 
-GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options, const PpdDocument *ppd)
+GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options)
 {
     GeneralSettings settings;
     settings.copies = std::clamp(options.value(QStringLiteral("copies")).toInt(), 1, maxCopies);
     settings.pages =
         normalizedPageRanges(options.value(QStringLiteral("page-ranges")), nullptr).value_or(QString());
-    if (ppd)
-        settings.collate = !isOff(ppd->markedChoice(QStringLiteral("Collate")));
     for (auto it = options.begin(); it != options.end(); ++it) {
         if (it.key().compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
             settings.collate = !isOff(it.value());

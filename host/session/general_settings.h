@@ -23,9 +23,9 @@ struct GeneralSettings
 
     static constexpr int maxCopies = 9999;
 
-    // The user's defaults among a destination's options, and the PPD's for collating; `ppd` may be null. What
-    // is no such value is passed over.
-    static GeneralSettings from(const QMap<QString, QString> &options, const PpdDocument *ppd);
+    // The user's and the queue's defaults among a destination's options. What is no such value is passed
+    // over. A PPD's default for collating counts for nothing: it is set to suit the filters, not the user.
+    static GeneralSettings from(const QMap<QString, QString> &options);
     // As job options; what the print system does anyway is left out.
     QList<JobOption> jobOptions() const;
     // Whether a job option of this name is decided by these settings.

@@ -7,6 +7,7 @@
 
 #include <QSet>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -18,6 +19,7 @@ struct SessionPanel
     std::unique_ptr<platform::PrintDialogPanel> panel;
     QStringList keywords;
     QSet<QString> touched;  // set by the panel's own code before it was restored
+    QVariantMap keyValues;  // of the keys that can be set, as last looked at; since it was restored
     bool announced = false; // shows its options' choices, without having been restored
     bool restored = false;
 

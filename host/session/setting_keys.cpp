@@ -32,7 +32,7 @@ bool SettingKeys::set(const QString &key, const QString &value, PrintError *erro
     m_valueIsSecret = valueIsSecret || m_session->isSecret(key);
     if (GeneralSettings::covers(key) && key != QLatin1String("multiple-document-handling"))
         return setGeneral(key, value, error);
-    const int panel = panelOfKey(key);
+    const int panel = m_session->panelOfSetting(key);
     if (m_session->ppd() && m_session->ppd()->hasOption(key))
         return setOption(key, value, error);
     if (panel >= 0)
@@ -44,7 +44,7 @@ bool SettingKeys::set(const QString &key, const QString &value, PrintError *erro
 bool SettingKeys::knows(const QString &key) const
 {
     return GeneralSettings::covers(key) || (m_session->ppd() && m_session->ppd()->hasOption(key)) ||
-           panelOfKey(key) >= 0;
+           m_session->panelOfSetting(key) >= 0;
 }
 
 bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintError *error)
@@ -129,25 +129,12 @@ bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &v
         *error = badValue(problem);
         return false;
     }
+    m_session->noteChosen({keyPath, value});
     m_session->save();
     const QString reason = m_session->panel(panel)->unavailableReason();
     if (keyPath.contains(QLatin1Char('.')) && !reason.isNull())
         m_session->addNotice(SettingText::tr("%1 is not sent with the job: %2").arg(keyPath, reason));
     return true;
-}
-
-QStringList SettingKeys::keysOfPanel(int panel) const
-{
-    return settableKeys(m_session->panel(panel)->keyValueObject(), m_session->panelKeywords(panel));
-}
-
-int SettingKeys::panelOfKey(const QString &keyPath) const
-{
-    for (int i = 0; i < m_session->panelCount(); ++i) {
-        if (keysOfPanel(i).contains(keyPath))
-            return i;
-    }
-    return -1;
 }
 
 QList<std::pair<QString, QString>> SettingKeys::panelKeys() const
@@ -157,7 +144,7 @@ QList<std::pair<QString, QString>> SettingKeys::panelKeys() const
                                                {general, QStringLiteral("collate")},
                                                {general, QStringLiteral("page-ranges")}};
     for (int i = 0; i < m_session->panelCount(); ++i) {
-        for (const QString &key : keysOfPanel(i))
+        for (const QString &key : m_session->settableKeysOf(i))
             keys.append({m_session->panel(i)->panelKind(), key});
     }
     return keys;

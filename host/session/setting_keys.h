@@ -33,8 +33,6 @@ private:
     bool setGeneral(const QString &key, const QString &value, PrintError *error);
     bool setOption(const QString &keyword, const QString &value, PrintError *error);
     bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
-    int panelOfKey(const QString &keyPath) const;
-    QStringList keysOfPanel(int panel) const;
     // "A has no choice “B”; it has C.", without B where that may be a code.
     PrintError noSuchChoice(const PpdOption &option, const QString &choice) const;
 

@@ -125,6 +125,11 @@ int PageBook::pageNamed(const QString &name) const
     return page == m_pages.end() ? -1 : static_cast<int>(page - m_pages.begin());
 }
 
+QString PageBook::currentName() const
+{
+    return m_current < 0 ? QString() : m_pages[static_cast<size_t>(m_current)].name;
+}
+
 void PageBook::showPage(int row)
 {
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))

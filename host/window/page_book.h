@@ -36,6 +36,8 @@ public:
     // -1 when there is none.
     int pageNamed(const QString &name) const;
     int currentRow() const { return m_current; }
+    // Of the page that is shown, for pageNamed(); empty when none is.
+    QString currentName() const;
     // Stays where it is when the current page must not be left.
     void showPage(int row);
     // Brings every page to what the session holds now.

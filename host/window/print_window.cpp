@@ -5,6 +5,7 @@
 
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
+#include "host/session/carry_over.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
@@ -23,6 +24,8 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace host {
 
@@ -205,18 +208,6 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     showNotices();
 }
 
-void PrintWindow::carryOver(const DialogSession &from, DialogSession *to)
-{
-    to->general() = from.general();
-    if (!from.ppd() || !to->ppd())
-        return;
-    for (const QString &keyword : generalOptionKeywords(*from.ppd())) {
-        const QString choice = from.ppd()->markedChoice(keyword);
-        if (choice != from.ppd()->defaultChoice(keyword))
-            to->markChoice(keyword, choice);
-    }
-}
-
 void PrintWindow::sessionChanged()
 {
     m_book->refresh();
@@ -241,7 +232,7 @@ bool PrintWindow::showConflicts()
             m_bar->hide();
             showNotices();
         }
-        return false;
+        return showProtectionGap();
     }
     QStringList lines;
     for (const Conflict &conflict : conflicts) {
@@ -250,7 +241,11 @@ bool PrintWindow::showConflicts()
             sides.append(side.text());
         lines.append(QStringLiteral("•  ") + sides.join(QStringLiteral("  –  ")));
     }
-    m_proposal = m_session->proposal();
+    QString givenUp;
+    m_proposal = m_session->proposal(&givenUp);
+    if (!givenUp.isNull())
+        lines.append(
+            tr("No way out was found that keeps “%1”: change one of the settings yourself.").arg(givenUp));
     QStringList answers;
     if (m_proposal) {
         QStringList changes;
@@ -263,6 +258,17 @@ bool PrintWindow::showConflicts()
     m_askingConflict = true;
     m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
                        answers);
+    return true;
+}
+
+// Tells each gap once; true when it has. Who prints is held up by it that once.
+bool PrintWindow::showProtectionGap()
+{
+    const QString gap = m_session->protectionGap();
+    if (std::exchange(m_toldGap, gap) == gap || gap.isNull())
+        return false;
+    m_session->addNotice(gap);
+    showNotices();
     return true;
 }
 
@@ -296,9 +302,15 @@ void PrintWindow::pickPrinter(const QString &name)
     m_bar->hide();
     m_askingConflict = false;
     m_notices.clear();
-    carryOver(*m_session, session.get());
+    m_toldGap.clear();
+    m_session->save(); // what the page that is shown has pending
+    const QString page = m_book->currentName();
+    m_book->clear(); // before the session, whose panels own views in it
+    const auto earlier = std::move(m_session);
     adopt(std::move(session));
-    m_book->showPage(0);
+    carryOver(*earlier, m_session.get());
+    m_book->showPage(std::max(m_book->pageNamed(page), 0));
+    showNotices();
     showConflicts();
 }
 
@@ -411,7 +423,7 @@ void PrintWindow::print()
     const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
     const HeldSignals held;
     const Submission submission = m_system.submit(
-        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions() + m_passedOn}, {});
+        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions()}, {});
     showIdle();
     if (submission.outcome == Submission::Outcome::Rejected) {
         showError(submission.error);

@@ -33,12 +33,13 @@ struct PrintTask
     QString printer;   // destination name; empty for the one used last, else the default
     QString ppdFile;   // shows the options of this PPD instead of the queue's
     QString firstPage; // name of the page to open at; empty for the first
-    // Runs once on the first session, with its first page in place: settings of the command line.
+    // Runs once on the first session, with its first page in place: settings of the command line. Later
+    // sessions get them with whatever else has been chosen.
     std::function<bool(DialogSession *, PrintError *)> prepare;
 };
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
-// one and takes the general choices along. The print system and the extensions are borrowed and outlive it.
+// one and takes along what has been chosen. The print system and the extensions are borrowed and outlive it.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -49,8 +50,6 @@ public:
     // Opens the first session. False with an error only when the task itself cannot be done, such as a
     // setting that the printer does not have; a printer or server that is away is shown in the window.
     bool open(PrintError *error);
-    // Job options besides those of the session.
-    void passOn(const QList<JobOption> &options) { m_passedOn = options; }
     DialogSession *session() const { return m_session.get(); }
     // What became of the job; nil before there is one, and when it was not accepted.
     const std::optional<Submission> &submission() const { return m_submission; }
@@ -74,7 +73,7 @@ private:
     std::optional<OpenedPrinter> openPrinterOfTask(const QString &printer, PrintError *error);
     std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
     void adopt(std::unique_ptr<DialogSession> session);
-    void carryOver(const DialogSession &from, DialogSession *to);
+    bool showProtectionGap();
     void pickPrinter(const QString &name);
     void sessionChanged();
     void showNotices();
@@ -95,7 +94,7 @@ private:
     DocumentList m_documents;
     bool m_askingConflict = false;
     QStringList m_notices; // not yet closed by the user
-    QList<JobOption> m_passedOn;
+    QString m_toldGap;     // in the protection of the job
     std::optional<Resolution> m_proposal;
     std::optional<Submission> m_submission;
 

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void exitCodes_data();
     void exitCodes();
     void submitsWhatWasAsked();
+    void lastWordOfTheUserCounts_data();
+    void lastWordOfTheUserCounts();
     void defaultsOfTheUser_data();
     void defaultsOfTheUser();
     void customValues_data();
@@ -176,6 +178,43 @@ void BatchRunTest::submitsWhatWasAsked()
     QCOMPARE(run({u"--batch"_s, m_document.fileName(), other.fileName()}), int(ExitSuccess));
     for (const QTemporaryFile *file : {&m_document, &other})
         QVERIFY(m_out.data().contains("\n    " + QFileInfo(file->fileName()).fileName().toUtf8() + "\n"));
+}
+
+void BatchRunTest::lastWordOfTheUserCounts_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("sent");
+    QTest::newRow("over a preset") << u"-o job-priority=70"_s << u"job-priority"_s << u"70"_s;
+    QTest::newRow("over itself") << u"-o job-sheets=standard -o job-sheets=none"_s << u"job-sheets"_s
+                                 << u"none"_s;
+    QTest::newRow("over the PPD's default") << u"--set Duplex=None"_s << u"Duplex"_s << u"None"_s;
+    QTest::newRow("over a default of that name") << u"--set Duplex=None"_s << u"sides"_s << u"one-sided"_s;
+    QTest::newRow("in the words of the standard") << u"-o sides=one-sided"_s << u"Duplex"_s << u"None"_s;
+    QTest::newRow("over a size that nobody has") << u"--set PageSize=A3"_s << u"media"_s << u"A3"_s;
+    QTest::newRow("a size that nobody has") << QString() << u"media"_s << u"Foo"_s;
+    QTest::newRow("how copies are collated")
+        << u"-n 2 -o multiple-document-handling=separate-documents-uncollated-copies"_s << u"Collate"_s
+        << u"False"_s;
+    QTest::newRow("how documents are joined") << u"-n 2 -o multiple-document-handling=single-document"_s
+                                              << u"multiple-document-handling"_s << u"single-document"_s;
+}
+
+void BatchRunTest::lastWordOfTheUserCounts()
+{
+    QFETCH(QString, words);
+    QFETCH(QString, name);
+    m_system.printers.first().options = {
+        {u"job-priority"_s, u"20"_s}, {u"sides"_s, u"two-sided-long-edge"_s}, {u"media"_s, u"Foo"_s}};
+    QStringList all = words.split(u' ', Qt::SkipEmptyParts);
+    QCOMPARE(run(QStringList(u"--batch"_s) + all + QStringList(m_document.fileName())), int(ExitSuccess));
+    const QList<JobOption> options = m_system.submitted.first().options;
+    QTEST(sentValue(options, name), "sent");
+    QSet<QString> names;
+    for (const JobOption &option : options) {
+        QVERIFY2(!names.contains(option.name.toLower()), qPrintable(option.name));
+        names.insert(option.name.toLower());
+    }
 }
 
 void BatchRunTest::defaultsOfTheUser_data()

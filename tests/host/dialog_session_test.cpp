@@ -25,6 +25,7 @@ private Q_SLOTS:
     void panelsNeverShownKeepTheirSettings();
     void resetByAnotherPanelIsToldAndSent();
     void resetReachesAPanelThatWasRestored();
+    void keywordAnnouncedTwiceKeepsItsFirstValue();
     void savedDefaultsAreSent();
     void resolutionReachesPanelsWithoutRestoring();
     void userDefaultsTravel();
@@ -147,6 +148,18 @@ void DialogSessionTest::resetReachesAPanelThatWasRestored()
     QCOMPARE(m_session->ppd()->markedChoice(u"Cyan"_s), u"1"_s); // not overwritten by an old pending value
 }
 
+void DialogSessionTest::keywordAnnouncedTwiceKeepsItsFirstValue()
+{
+    for (const char *choice : {"1", "2"}) { // between two saves of a panel nobody looks
+        m_session->willChangePPDOptionKeyValuePpdChoice(u"Cyan"_s, QLatin1String(choice));
+        m_session->ppd()->mark(u"Cyan"_s, QLatin1String(choice));
+        m_balance->setValueForKey(QLatin1String(choice), u"Cyan"_s);
+    }
+    m_session->ppd()->mark(u"Cyan"_s, u"0"_s); // and in the end all is as it was
+    m_session->save();
+    QVERIFY(m_session->takeNotices().isEmpty());
+}
+
 void DialogSessionTest::savedDefaultsAreSent()
 {
     QVERIFY(sentValue(m_session->jobOptions(), u"Cyan"_s).isNull());
@@ -248,6 +261,14 @@ void DialogSessionTest::refusedValueLeavesNothingBehind()
     QVERIFY(!problem.message.contains(u"777"_s)); // it may be a secret
     QCOMPARE(m_colour->code(), u"01230"_s);
     QCOMPARE(m_balance->restored, 0); // nobody has asked for that panel
+    // A value may have changed an option before it is found not to fit.
+    m_colour->onSet = {};
+    connect(m_colour, &platform::KeyValueObject::valueDidChange, m_colour, [this](const QString &key) {
+        if (key == u"code"_s && m_colour->code() == u"99999"_s)
+            m_colour->setValueForKey(u"Sepia"_s, u"ColorType"_s);
+    });
+    QVERIFY(!keys.set(u"code"_s, u"99999"_s, &problem));
+    QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
 }
 
 void DialogSessionTest::blockingWorkIsAnnounced()

@@ -173,7 +173,7 @@ Submission FakePrintSystem::submit(const JobRequest &request, const SubmissionWa
 QString sentValue(const QList<JobOption> &options, const QString &name)
 {
     for (const JobOption &option : options) {
-        if (option.name == name)
+        if (option.name == name && option.kind != JobOption::Kind::Shown)
             return option.value;
     }
     return {};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/destination.h"
+#include "host/session/chosen_settings.h"
 #include "host/window/elided_label.h"
 #include "host/window/message_bar.h"
 #include "host/window/mnemonics.h"
@@ -237,11 +238,9 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     task.files = {m_document.fileName()};
     task.printer = u"nosuch"_s;
     task.prepare = [](DialogSession *session, PrintError *error) {
-        if (session->ppd())
-            session->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s);
-        else
-            *error = {PrintError::Kind::BadValue, u"no such setting"_s};
-        return session->ppd() != nullptr;
+        return host::choose(session, {u"Duplex"_s, u"DuplexNoTumble"_s}, error) &&
+               host::choose(session, {u"sides"_s, u"two-sided-long-edge"_s, ChosenSetting::Kind::JobOption},
+                            error);
     };
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     PrintError error;
@@ -250,15 +249,17 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     auto *picker = find<PrinterPicker>();
     Q_EMIT picker->picked(u"raw"_s);
     QVERIFY(!m_window->session());
-    QCOMPARE(find<UnavailablePage>()->reason(), u"no such setting"_s);
+    QVERIFY(find<UnavailablePage>()->reason().contains(u"“Duplex”"_s));
     Q_EMIT picker->picked(u"attic"_s);
+    Q_EMIT picker->picked(u"raw"_s); // knows the standard name alone
+    QVERIFY2(!m_window->messageBar()->isShowing(), qPrintable(m_window->messageBar()->text()));
     m_window->print();
-    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Duplex"_s), u"DuplexNoTumble"_s);
+    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"sides"_s), u"two-sided-long-edge"_s);
 }
 
 void PrintWindowTest::forbiddenChoiceIsGreyed()
 {
-    open();
+    PrintWindow &window = open();
     choose(u"MediaType"_s, u"Thick"_s);
     auto *duplex = find<QComboBox>(u"Duplex"_s);
     auto *item =
@@ -267,6 +268,11 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     QVERIFY(item->toolTip().contains(u"Not together with Paper Type: Heavy Paper"_s));
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    window.session()->markChoice(u"MediaType"_s, u"Thick"_s); // conflicts; the way back stays open
+    window.book()->refresh();
+    const auto *model = qobject_cast<QStandardItemModel *>(duplex->model());
+    QVERIFY(model->item(duplex->findData(u"None"_s))->isEnabled());
 }
 
 void PrintWindowTest::serverAwayKeepsTheSettings()

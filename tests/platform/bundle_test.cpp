@@ -41,6 +41,11 @@ void BundleTest::unusableInfoNamesFileAndProblem_data()
     row("models as a text", Bundle::printerModelsKey, u"KELMAR"_s, "list of texts");
     row("secret keys as a text", Bundle::secretKeysKey, u"code"_s, "list of objects");
     row("models as numbers", Bundle::printerModelsKey, QJsonArray{1}, "list of texts");
+    row("protection as a list", Bundle::protectingOptionsKey, QJsonArray{u"PrintMode"_s}, "object of lists");
+    row("protecting choice alone", Bundle::protectingOptionsKey, QJsonObject{{u"PrintMode"_s, u"Private"_s}},
+        "object of lists");
+    row("secret without its use", Bundle::secretKeysKey,
+        QJsonArray{QJsonObject{{u"Key"_s, u"code"_s}, {u"Options"_s, QJsonArray{u"Digit1"_s}}}}, "UsedWith");
 }
 
 void BundleTest::unusableInfoNamesFileAndProblem()

@@ -134,6 +134,11 @@ bool PrivateCupsd::setDefaultQueue(const QString &name)
     return runClient(u"lpadmin"_s, {u"-d"_s, name});
 }
 
+bool PrivateCupsd::setJobDefault(const QString &queue, const QString &option, const QString &value)
+{
+    return runClient(u"lpadmin"_s, {u"-p"_s, queue, u"-o"_s, option + u"-default="_s + value});
+}
+
 bool PrivateCupsd::setAccepting(const QString &name, bool accepting)
 {
     return runClient(accepting ? u"cupsaccept"_s : u"cupsreject"_s, {name});

@@ -61,6 +61,8 @@ public:
     bool addQueue(const QString &name, const QString &ppdFile,
                   const QString &deviceUri = QStringLiteral("capture:/"));
     bool setDefaultQueue(const QString &name);
+    // A default that an administrator gives a queue, such as "sides" or "media".
+    bool setJobDefault(const QString &queue, const QString &option, const QString &value);
     // A rejecting queue takes no new jobs; a paused one takes and keeps them.
     bool setAccepting(const QString &name, bool accepting);
     bool setPaused(const QString &name, bool paused);

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/standard_names.h"
+
+#include "host/printing/ppd_document.h"
+
+namespace host {
+
+QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStringList &options)
+{
+    QStringList choices;
+    for (const QString &keyword : PpdDocument::optionsOfStandardName(name)) {
+        const bool isMeant = options.isEmpty() || options.contains(keyword);
+        if (isMeant && !ppd->markedChoice(keyword).isEmpty())
+            choices.append(ppd->markedChoice(keyword));
+    }
+    if (choices.isEmpty())
+        return {};
+    QStringList candidates{choices.join(QLatin1Char(',')), choices.first()};
+    if (name == QLatin1String("sides"))
+        candidates = {QStringLiteral("one-sided"), QStringLiteral("two-sided-long-edge"),
+                      QStringLiteral("two-sided-short-edge")};
+    for (const QString &candidate : candidates) {
+        const QMap<QString, QString> meant = ppd->standardChoices(name, candidate);
+        bool holds = !meant.isEmpty();
+        for (auto it = meant.begin(); it != meant.end(); ++it)
+            holds &= it.value() == ppd->markedChoice(it.key());
+        if (holds)
+            return candidate;
+    }
+    return {};
+}
+
+} // namespace host

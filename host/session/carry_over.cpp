@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/carry_over.h"
+
+#include "host/session/dialog_session.h"
+
+#include <QCoreApplication>
+
+namespace host {
+
+namespace {
+
+struct CarryOverText
+{
+    Q_DECLARE_TR_FUNCTIONS(CarryOverText)
+};
+
+void carryGeneral(const DialogSession &from, DialogSession *to)
+{
+    const GeneralSettings &chosen = from.general();
+    const GeneralSettings &start = from.startingGeneral();
+    GeneralSettings &general = to->general();
+    if (chosen.copies != start.copies)
+        general.copies = chosen.copies;
+    if (chosen.collate != start.collate)
+        general.collate = chosen.collate;
+    if (chosen.pages != start.pages)
+        general.pages = chosen.pages;
+}
+
+} // namespace
+
+void carryOver(const DialogSession &from, DialogSession *to)
+{
+    QStringList protections, others;
+    for (const ChosenSetting &setting : from.chosen().inOrder()) {
+        PrintError error;
+        if (choose(to, setting, &error))
+            continue;
+        to->noteChosen(setting);
+        QStringList &missed = setting.protects ? protections : others;
+        if (!missed.contains(setting.text))
+            missed.append(setting.text);
+    }
+    carryGeneral(from, to);
+    const QString separator = QStringLiteral(", ");
+    if (!protections.isEmpty())
+        to->addNotice(CarryOverText::tr("This printer does not have “%1”: the job will not be protected.")
+                          .arg(protections.join(separator)));
+    if (!others.isEmpty())
+        to->addNotice(CarryOverText::tr("This printer does not take over: %1.").arg(others.join(separator)));
+}
+
+} // namespace host

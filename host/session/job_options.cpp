@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/job_options.h"
+
+#include "host/printing/destination.h"
+#include "host/printing/ppd_document.h"
+#include "host/printing/standard_names.h"
+#include "host/session/page_ranges.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+using Kind = JobOption::Kind;
+
+const QString pageRangesName = QStringLiteral("page-ranges");
+const QString allPages = QStringLiteral("1-2147483647"); // what the print system takes for "1-"
+
+// What libcups reports about a printer among a destination's options.
+bool describesPrinter(const QString &name)
+{
+    return name.startsWith(QLatin1String("printer-")) || name.startsWith(QLatin1String("marker-")) ||
+           name == QLatin1String("device-uri") || name == QLatin1String("auth-info-required");
+}
+
+bool isStandardName(const PpdDocument *ppd, const QString &name)
+{
+    return ppd && ppd->takesOption(name) && !ppd->hasOption(name);
+}
+
+// Keeps the first of each name; the server takes names without regard to case.
+class OnePerName
+{
+public:
+    void add(const JobOption &option)
+    {
+        if (m_names.contains(option.name.toLower()))
+            return;
+        m_names.insert(option.name.toLower());
+        m_options.append(option);
+    }
+    void add(const QList<JobOption> &options)
+    {
+        for (const JobOption &option : options)
+            add(option);
+    }
+    const QList<JobOption> &options() const { return m_options; }
+
+private:
+    QSet<QString> m_names;
+    QList<JobOption> m_options;
+};
+
+// Job options of the user that no option of the PPD stands for.
+QList<JobOption> passedOn(const JobOptionSources &sources)
+{
+    QList<JobOption> options;
+    for (const ChosenSetting &setting : sources.chosen.inOrder()) {
+        const bool isMarked = sources.ppd && sources.ppd->takesOption(setting.key);
+        if (setting.kind == ChosenSetting::Kind::JobOption && !isMarked)
+            options.append({setting.key, setting.value, Kind::Attribute});
+    }
+    return options;
+}
+
+// Marks that are sent, or, with `Shown`, the others.
+QList<JobOption> marks(const JobOptionSources &sources, Kind kind)
+{
+    QList<JobOption> options;
+    if (!sources.ppd)
+        return options;
+    QSet<QString> sent = sources.savedOptions;
+    for (const OptionChoice &change : sources.ppd->changedChoices())
+        sent.insert(change.option);
+    for (const QString &keyword : sources.ppd->optionKeywords()) {
+        const QString choice = sources.ppd->markedChoice(keyword);
+        const bool isSent = sent.contains(keyword) || sources.chosen.contains(keyword);
+        const bool isShown = !isSent && !sources.ppd->isInstallable(keyword);
+        const bool isWanted = kind == Kind::Shown ? isShown : isSent;
+        if (isWanted && !choice.isEmpty() && !GeneralSettings::covers(keyword))
+            options.append({keyword, choice, kind});
+    }
+    return options;
+}
+
+// Whether the user has chosen something that this standard name may stand for.
+bool isDecided(const JobOptionSources &sources, const QString &name)
+{
+    const QStringList keywords = PpdDocument::optionsOfStandardName(name);
+    return std::any_of(keywords.begin(), keywords.end(),
+                       [&](const QString &keyword) { return sources.chosen.contains(keyword); });
+}
+
+// A default of the queue or the user under a standard name. The server adds those of the queue to each job
+// that lacks the name, whatever is sent under the keyword of the PPD, and the filters would see both.
+JobOption standardDefault(const JobOptionSources &sources, const QString &name, const QString &value)
+{
+    const QMap<QString, QString> choices = sources.ppd->standardChoices(name, value);
+    if (choices.isEmpty() && !isDecided(sources, name))
+        return {name, value, Kind::Preference}; // nothing is marked for it
+    bool holds = !choices.isEmpty();
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        holds &= sources.ppd->markedChoice(it.key()) == it.value();
+    const QString now =
+        holds ? value
+              : standardValueOfMarks(sources.ppd, name, choices.isEmpty() ? QStringList() : choices.keys());
+    return {name, now, holds || now.isEmpty() ? Kind::Shown : Kind::Attribute};
+}
+
+QList<JobOption> defaults(const JobOptionSources &sources)
+{
+    QList<JobOption> options;
+    const QMap<QString, QString> &all = sources.destination.options;
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        if (describesPrinter(it.key()) || isPanelSetting(it.key()) || GeneralSettings::covers(it.key()))
+            continue;
+        if (isStandardName(sources.ppd, it.key()))
+            options.append(standardDefault(sources, it.key(), it.value()));
+        else if (!sources.ppd || !sources.ppd->hasOption(it.key()))
+            options.append({it.key(), it.value(), Kind::Preference});
+    }
+    const auto pages = normalizedPageRanges(all.value(pageRangesName), nullptr);
+    if (!pages.value_or(QString()).isEmpty() && sources.general.pages.isEmpty())
+        options.append({pageRangesName, allPages, Kind::Attribute});
+    return options;
+}
+
+} // namespace
+
+bool isPanelSetting(const QString &name)
+{
+    return name.contains(QLatin1Char('.'));
+}
+
+QList<JobOption> jobOptions(const JobOptionSources &sources)
+{
+    OnePerName options;
+    options.add(passedOn(sources));
+    options.add(marks(sources, Kind::Choice));
+    for (auto it = sources.printSettings.begin(); it != sources.printSettings.end(); ++it)
+        options.add(JobOption{it.key(), it.value().toString()});
+    options.add(sources.general.jobOptions());
+    options.add(defaults(sources));
+    options.add(marks(sources, Kind::Shown));
+    if (sources.ppd && sources.ppd->takesOption(QStringLiteral("sides")))
+        options.add(JobOption{QStringLiteral("sides"),
+                              standardValueOfMarks(sources.ppd, QStringLiteral("sides"), {}), Kind::Shown});
+    return options.options();
+}
+
+} // namespace host

@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/batch/batch_run.h"
+#include "host/session/chosen_settings.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "platform/key_value_object.h"
+#include "tests/support/private_cupsd.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QStringList privateJob{u"--set"_s, u"PrintMode=Private"_s, u"--set"_s, u"privatePassword=12345"_s};
+
+// Argument 5 of a filter holds this word.
+bool arrived(const CapturedJob &job, const QString &option)
+{
+    return (u' ' + job.optionText + u' ').contains(u' ' + option + u' ');
+}
+
+} // namespace
+
+// What was chosen is what is printed: the program's two front ends with the family's bundle and PPDs, against
+// a real print server.
+class ChosenSettingsTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void privateJobStaysPrivateOnAnotherPrinter();
+    void choiceBeatsTheQueuesDefault();
+    void defaultThatAppearsLaterIsTold();
+    void waysOutKeepPrivatePrinting_data();
+    void waysOutKeepPrivatePrinting();
+    void gapsInTheProtection_data();
+    void gapsInTheProtection();
+    void gapHoldsUpTheWindowOnce();
+    void presetIsShownAndWhatIsDroppedTold();
+    void copiesAreCollatedAsChosen_data();
+    void copiesAreCollatedAsChosen();
+
+private:
+    int run(const QStringList &words);
+    QString notices() const;
+    std::optional<CapturedJob> printed();
+    PrintWindow &open(const QString &printer, const QList<ChosenSetting> &settings = {});
+    void pick(const QString &printer);
+
+    PrivateCupsd m_server;
+    std::optional<CupsPrintSystem> m_system;
+    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    std::unique_ptr<PrintWindow> m_window;
+    QJsonObject m_json;
+};
+
+void ChosenSettingsTest::initTestCase()
+{
+    if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
+        QSKIP(qPrintable(missing));
+    qputenv("HOME", m_server.folder().toLocal8Bit()); // libcups looks once, when it is first used
+    m_system.emplace();
+    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    const QString ppds = QStringLiteral(KELMAR_BINARY_DIR "/ppds/");
+    for (const QString &queue : {u"office"_s, u"second"_s, u"admin"_s})
+        QVERIFY2(m_server.addQueue(queue, ppds + u"kelm880.ppd"_s), qPrintable(m_server.problem()));
+    QVERIFY(m_server.addQueue(u"small"_s, ppds + u"kelo110.ppd"_s)); // no private printing
+    QVERIFY(m_server.addQueue(u"diskless"_s, ppds + u"kelo2200.ppd"_s));
+    QVERIFY(m_server.setJobDefault(u"admin"_s, u"sides"_s, u"two-sided-long-edge"_s));
+}
+
+void ChosenSettingsTest::cleanup()
+{
+    m_window.reset();
+}
+
+int ChosenSettingsTest::run(const QStringList &words)
+{
+    QString problem;
+    const auto arguments = parseArguments(QStringList({u"kelmar-print"_s, u"--json"_s}) + words, &problem);
+    if (!arguments)
+        return -1;
+    QBuffer out, err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    ResultWriter writer(&out, &err);
+    const int code = BatchRun(*arguments, *m_system, m_extensions).run(&writer);
+    m_json = QJsonDocument::fromJson(out.data()).object();
+    return code;
+}
+
+QString ChosenSettingsTest::notices() const
+{
+    QStringList lines;
+    for (const QJsonValue &notice : m_json[u"notices"_s].toArray())
+        lines.append(notice.toString());
+    return lines.join(u'\n');
+}
+
+std::optional<CapturedJob> ChosenSettingsTest::printed()
+{
+    const QJsonObject job = m_json[u"job"_s].toObject();
+    if (!job[u"differences"_s].toArray().isEmpty())
+        qWarning() << job;
+    return m_server.waitForJob(m_window ? m_window->job()->id : job[u"id"_s].toInt());
+}
+
+PrintWindow &ChosenSettingsTest::open(const QString &printer, const QList<ChosenSetting> &settings)
+{
+    PrintTask task;
+    task.files = {document};
+    task.printer = printer;
+    task.prepare = [settings](DialogSession *session, PrintError *error) {
+        return std::all_of(settings.begin(), settings.end(),
+                           [&](const ChosenSetting &setting) { return choose(session, setting, error); });
+    };
+    m_window = std::make_unique<PrintWindow>(*m_system, m_extensions, task);
+    PrintError error;
+    if (!m_window->open(&error))
+        qFatal("%s", qPrintable(error.message));
+    m_window->show();
+    return *m_window;
+}
+
+void ChosenSettingsTest::pick(const QString &printer)
+{
+    Q_EMIT m_window->findChild<PrinterPicker *>()->picked(printer);
+}
+
+void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
+{
+    PrintWindow &window = open(u"office"_s, {{u"PrintMode"_s, u"Private"_s},
+                                             {u"privatePassword"_s, u"12345"_s},
+                                             {u"job-priority"_s, u"70"_s, ChosenSetting::Kind::JobOption}});
+    window.book()->showPage(window.book()->pageNamed(u"color-settings-2"_s));
+    const int panel = window.session()->panelOfKeyword(u"SharpnessVRN"_s);
+    window.session()->panel(panel)->keyValueObject()->setValueForKey(u"2"_s, u"SharpnessVRN"_s); // a slider
+    pick(u"small"_s);
+    QCOMPARE(window.book()->currentName().section(u'.', -1), u"color-settings-2"_s);
+    const QString text = window.messageBar()->text();
+    QVERIFY2(text.startsWith(u"Please note\nThis printer does not have “Print Mode: Private”"_s),
+             qPrintable(text));
+    QVERIFY2(!text.contains(u"12345"_s), qPrintable(text));
+    pick(u"second"_s); // has it again
+    window.print();
+    QVERIFY2(window.job(), qPrintable(window.messageBar()->text()));
+    const auto job = printed();
+    QVERIFY(job);
+    for (const QString &option :
+         {u"PrintMode=Private"_s, u"DINDigit1=1"_s, u"DINDigit5=5"_s, u"SharpnessVRN=2"_s})
+        QVERIFY2(arrived(*job, option), qPrintable(option + u" in "_s + job->optionText));
+    QVERIFY(window.job()->differences.isEmpty()); // the priority, which filters do not see
+}
+
+void ChosenSettingsTest::choiceBeatsTheQueuesDefault()
+{
+    QCOMPARE(run({u"--batch"_s, u"-d"_s, u"admin"_s, document}), int(ExitSuccess));
+    auto job = printed();
+    QVERIFY(job && job->data.contains("*Duplex DuplexNoTumble"));
+    QCOMPARE(run({u"--batch"_s, u"-d"_s, u"admin"_s, u"--set"_s, u"Duplex=None"_s, document}),
+             int(ExitSuccess));
+    job = printed();
+    QVERIFY(job && job->data.contains("*Duplex None"));
+    QVERIFY2(arrived(*job, u"sides=one-sided"_s), qPrintable(job->optionText));
+    QVERIFY(m_json[u"job"_s][u"differences"_s].toArray().isEmpty());
+}
+
+void ChosenSettingsTest::defaultThatAppearsLaterIsTold()
+{
+    PrintWindow &window = open(u"second"_s);
+    QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"two-sided-long-edge"_s));
+    window.print(); // as "Off", which is what its user sees
+    QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"one-sided"_s));
+    QVERIFY2(window.job(), qPrintable(window.messageBar()->text()));
+    QVERIFY2(window.job()->differences.join(u' ').contains(u"sides"_s),
+             qPrintable(window.job()->differences.join(u' ')));
+}
+
+void ChosenSettingsTest::waysOutKeepPrivatePrinting_data()
+{
+    QTest::addColumn<QString>("printer");
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<int>("code");
+    const QStringList kept{u"--set"_s, u"JobRetention=Week"_s};
+    QTest::newRow("retention gives way") << u"office"_s << privateJob + kept << int(ExitSuccess);
+    QTest::newRow("whichever came last") << u"office"_s << kept + privateJob << int(ExitSuccess);
+    QTest::newRow("no hard disk") << u"diskless"_s << privateJob << int(ExitConflict);
+}
+
+void ChosenSettingsTest::waysOutKeepPrivatePrinting()
+{
+    QFETCH(QString, printer);
+    QFETCH(QStringList, words);
+    QFETCH(int, code);
+    QCOMPARE(run(QStringList({u"--batch"_s, u"--resolve"_s, u"-d"_s, printer, document}) + words), code);
+    if (code == ExitConflict) {
+        QVERIFY2(notices().contains(u"keeps “Print Mode: Private”"_s), qPrintable(notices()));
+        open(printer, {{u"PrintMode"_s, u"Private"_s}, {u"privatePassword"_s, u"12345"_s}});
+        QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
+        QCOMPARE(m_window->messageBar()->buttons().size(), 1); // nothing to apply
+        QVERIFY(m_window->messageBar()->text().contains(u"keeps “Print Mode: Private”"_s));
+        return;
+    }
+    const auto job = printed();
+    QVERIFY(job && arrived(*job, u"PrintMode=Private"_s) && arrived(*job, u"JobRetention=None"_s));
+}
+
+void ChosenSettingsTest::gapsInTheProtection_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("no code") << privateJob.mid(0, 2)
+                             << u"“Print Mode: Private” has been chosen, but no code"_s;
+    QTest::newRow("no private printing") << privateJob.mid(2) << u"A code has been given, but not"_s;
+    QTest::newRow("both") << privateJob << QString();
+    QTest::newRow("neither") << QStringList() << QString();
+}
+
+void ChosenSettingsTest::gapsInTheProtection()
+{
+    QFETCH(QStringList, words);
+    QFETCH(QString, notice);
+    QCOMPARE(run(QStringList({u"--summary"_s, u"-d"_s, u"office"_s}) + words), int(ExitSuccess));
+    QVERIFY2(notices().startsWith(notice) && notices().isEmpty() == notice.isEmpty(), qPrintable(notices()));
+    const QByteArray summary = QJsonDocument(m_json[u"summary"_s].toArray()).toJson();
+    QCOMPARE(summary.contains("12345"), words == privateJob); // shown where it protects
+}
+
+void ChosenSettingsTest::gapHoldsUpTheWindowOnce()
+{
+    PrintWindow &window = open(u"office"_s);
+    window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
+    const int panel = window.session()->panelOfKeyword(u"PrintMode"_s);
+    window.session()->panel(panel)->keyValueObject()->setValueForKey(u"Private"_s, u"PrintMode"_s);
+    window.print();
+    QVERIFY(!window.job());
+    QVERIFY2(window.messageBar()->text().contains(u"no code has been given"_s),
+             qPrintable(window.messageBar()->text()));
+    window.print();
+    QVERIFY(window.job());
+}
+
+void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()
+{
+    QVERIFY(QDir(m_server.folder()).mkpath(u".cups"_s));
+    QFile file(m_server.folder() + u"/.cups/lpoptions"_s);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        "Dest office/mine PrintMode=Private DINDigit1=1 DINDigit2=2 DINDigit3=3 DINDigit4=4 DINDigit5=5 "
+        "com.kelmar.pde.advancedcolorsettings.rgb-source=3\n");
+    file.close();
+    QCOMPARE(run({u"--summary"_s, u"-d"_s, u"office/mine"_s}), int(ExitSuccess));
+    const QByteArray summary = QJsonDocument(m_json[u"summary"_s].toArray()).toJson();
+    QVERIFY2(summary.contains("Private (12345)"), summary.constData());
+    QVERIFY2(notices().isEmpty(), qPrintable(notices()));
+    // The queue's device has no address that could be asked for its profiles.
+    QCOMPARE(run({u"--batch"_s, u"-d"_s, u"office/mine"_s, u"--set"_s, u"ImageType=Photo"_s, document}),
+             int(ExitSuccess));
+    QVERIFY2(notices().contains(u"“Color Settings 1” are not sent with the job (rgb-source)"_s),
+             qPrintable(notices()));
+}
+
+void ChosenSettingsTest::copiesAreCollatedAsChosen_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("collate");
+    for (const QString &file : {u"report.pdf"_s, u"report.ps"_s, u"note.txt"_s}) {
+        for (const QString &collate : {u"True"_s, u"False"_s})
+            QTest::addRow("%s %s", qPrintable(file), qPrintable(collate)) << file << collate;
+    }
+}
+
+void ChosenSettingsTest::copiesAreCollatedAsChosen()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, collate);
+    QCOMPARE(run({u"--batch"_s, u"-d"_s, u"office"_s, u"-n"_s, u"3"_s, u"--set"_s, u"collate="_s + collate,
+                  QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + file}),
+             int(ExitSuccess));
+    const auto job = printed();
+    QVERIFY(job);
+    // The device repeats the pages, and is told how.
+    QVERIFY(job->data.contains("%%BeginFeature: *Collate " + collate.toLatin1() + '\n'));
+    QCOMPARE(job->data.count("%%BeginFeature: *Collate "), 1);
+    QVERIFY(job->data.contains("*NumCopies 3\n"));
+}
+
+QTEST_MAIN(ChosenSettingsTest)
+#include "chosen_settings_test.moc"
