@@ -26,7 +26,7 @@ struct BatchResult
     bool hasOptions = false;
     std::optional<SubmittedJob> job;
     QString queue;
-    QStringList documents; // of the job, by name
+    QStringList documents;        // of the job, by name
     QList<OptionChoice> resolved; // changes made to end conflicts
     QStringList notices;
     PrintError error;

@@ -77,7 +77,7 @@ def violation(file, header, widget_headers):
     """Why a file must not include a header, or None when it may. Both are paths below the source folder."""
     room, header_room = file.split("/")[0], header.split("/")[0]
     if header == "cups/ppd.h" and not file.startswith(("ppd/", "host/printing/")):
-        return "the PPD interface of libcups is used by ppd/ and one file of host/printing/"
+        return "the PPD interface of libcups is used by ppd/ and the ppd_ files of host/printing/"
     is_widget = header.startswith("QtWidgets") or (widget_headers / header.split("/")[-1]).exists()
     its_window_ends_text_editing = room == "device" and header == "QWidget"
     if is_widget and file.startswith(WITHOUT_WIDGETS) and not its_window_ends_text_editing:
