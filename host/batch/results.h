@@ -27,7 +27,7 @@ struct BatchResult
     bool hasOptions = false;
     std::optional<Submission> submission; // when something was to be printed
     QString queue;
-    QStringList documents; // of the job, by name
+    QStringList documents;        // of the job, by name
     QList<OptionChoice> resolved; // changes made to end conflicts
     QStringList notices;
     PrintError error;
