@@ -44,8 +44,7 @@ private:
 
     QByteArray option(int number)
     {
-        static const QByteArrayList plainNames{"A",    "B",    "None",   "Off", "False",
-                                               "True", "Tray_1", "OFFSET"};
+        static const QByteArrayList plainNames{"A", "B", "None", "Off", "False", "True", "Tray_1", "OFFSET"};
         const QByteArray name =
             number == 0 && below(2) == 0 ? "PageSize" : "Opt" + QByteArray::number(number);
         QByteArrayList choices;
