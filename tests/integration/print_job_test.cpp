@@ -17,7 +17,7 @@
 #include <cups/cups.h>
 
 #include <csignal>
-#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -491,6 +491,8 @@ void PrintJobTest::namesAndPipes()
     process.setWorkingDirectory(m_server.folder());
     process.start(u"bash"_s, {u"-c"_s, command, u"bash"_s, program, document});
     QVERIFY(process.waitForFinished());
+    // A name that QTemporaryDir could not remove.
+    QCOMPARE(::unlink((m_server.folder().toLocal8Bit() + "/caf\xe9.pdf").constData()), 0);
     const QByteArray out = process.readAllStandardOutput();
     QVERIFY2(process.exitCode() == 0, (out + process.readAllStandardError()).constData());
     const auto job = m_server.waitForJob(QJsonDocument::fromJson(out)[u"job"_s][u"id"_s].toInt());
@@ -514,6 +516,7 @@ void PrintJobTest::lastWordCounts()
     // One page: the server has it as the range from 1 to 1, which is no difference.
     const Outcome outcome = run({u"--batch"_s, u"-P"_s, u"1"_s, document});
     QCOMPARE(outcome.json[u"job"_s][u"differences"_s].toArray(), QJsonArray());
+    QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
 }
 
 void PrintJobTest::resultsThatCannotBeWritten_data()
