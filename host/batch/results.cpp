@@ -157,13 +157,18 @@ bool ResultWriter::write(const BatchResult &result, bool asJson)
     return finish();
 }
 
-// Whether all of it arrived, which a file tells no earlier than here.
+// Whether all of it arrived, which a file tells no earlier than here. Complaints go out as well: a signal may
+// end the program next.
 bool ResultWriter::finish()
 {
-    auto *file = qobject_cast<QFileDevice *>(m_out);
-    m_isTaken = (!file || file->flush()) && m_isTaken;
+    const auto flush = [](QIODevice *device) {
+        auto *file = qobject_cast<QFileDevice *>(device);
+        return !file || file->flush();
+    };
+    m_isTaken = flush(m_out) && m_isTaken;
     if (!m_isTaken)
         complain(ResultText::tr("The result cannot be written: %1.").arg(m_out->errorString()));
+    flush(m_err);
     return m_isTaken;
 }
 

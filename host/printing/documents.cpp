@@ -85,6 +85,13 @@ std::optional<struct stat> statusOf(const QString &path)
     return ::stat(fileNameToBytes(path).constData(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
+// Qt has no words for a folder that is not there.
+QString temporaryFolder()
+{
+    const QString folder = QDir::tempPath();
+    return folder.isEmpty() ? qEnvironmentVariable("TMPDIR") : folder;
+}
+
 // A file without a name in the folder for temporary files; -1 with errno set.
 int namelessFile(const QByteArray &folder)
 {
@@ -103,7 +110,7 @@ PrintError spoolProblem(const QString &reason)
 {
     return {PrintError::Kind::Other,
             DocumentText::tr("What is to be printed cannot be kept in the folder “%1”: %2.")
-                .arg(QDir::tempPath(), reason)};
+                .arg(temporaryFolder(), reason)};
 }
 
 // An open file by a name that anyone in this program can open again.
@@ -167,7 +174,7 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
 std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error)
 {
     auto spool = std::make_unique<QFile>();
-    const int fd = namelessFile(QFile::encodeName(QDir::tempPath()));
+    const int fd = namelessFile(QFile::encodeName(temporaryFolder()));
     if (fd < 0 ||
         !spool->open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
         *error = spoolProblem(qt_error_string(errno));

@@ -18,6 +18,7 @@ struct ServerText
 };
 
 constexpr qint64 blockSize = 64 * 1024;
+constexpr char basicScheme[] = "Basic";
 constexpr int mostLogins = 3; // requests that the server refuses only after it has read them
 
 bool isErrorStatus(http_status_t status)
@@ -156,8 +157,19 @@ bool ServerConnection::connect()
         return static_cast<ServerConnection *>(self)->goesOn() ? 1 : 0;
     };
     httpSetTimeout(m_http.get(), 1.0, moves, this); // seconds between looks
+    if (!m_login->accepted.isEmpty())
+        httpSetAuthString(m_http.get(), basicScheme, m_login->accepted.constData());
     m_idle.start();
     return true;
+}
+
+// Other schemes answer a question of the server, which is another one each time.
+void ServerConnection::keepLogin()
+{
+    const QByteArray login = httpGetAuthString(m_http.get());
+    const QByteArray prefix = QByteArray(basicScheme) + ' ';
+    if (login.startsWith(prefix))
+        m_login->accepted = login.mid(prefix.size());
 }
 
 bool ServerConnection::goesOn()
@@ -274,6 +286,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
     reply->httpStatus = httpGetStatus(m_http.get());
     if (reply->message && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
         reply->fate = Reply::Fate::Answered;
+        keepLogin();
         reply->status = ippGetStatusCode(reply->message.get());
         return;
     }
@@ -331,8 +344,10 @@ std::optional<QByteArray> ServerConnection::fetch(const QByteArray &resource, qi
     }
     // The connection waits for the next request when all of the file has come.
     const bool isWhole = httpGetState(m_http.get()) == HTTP_STATE_WAITING && content.size() <= limit;
-    if (reply.httpStatus == HTTP_STATUS_OK && isWhole)
+    if (reply.httpStatus == HTTP_STATUS_OK && isWhole) {
+        keepLogin();
         return content;
+    }
     m_http.reset();
     if (reply.httpStatus == HTTP_STATUS_NOT_FOUND)
         return std::nullopt;

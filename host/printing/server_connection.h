@@ -40,6 +40,9 @@ struct LoginKeeper
 {
     LoginPrompt prompt; // empty: nobody is asked, and what needs a login is refused
     std::optional<Login> given;
+    // What was accepted, as the server's HTTP side wants it: sent along from the start on later connections,
+    // since a refusal may cross with the request and end as a broken connection.
+    QByteArray accepted;
 };
 
 // What became of one request.
@@ -110,6 +113,7 @@ private:
     void readAnswer(ipp_t *request, const QByteArray &resource, Reply *reply);
     http_status_t requestFile(const QByteArray &resource);
     const char *nextPassword();
+    void keepLogin();
     bool goesOn();
 
     LoginKeeper *m_login;

@@ -17,7 +17,7 @@
 #include <cups/cups.h>
 
 #include <csignal>
-#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -523,6 +523,8 @@ void PrintJobTest::namesAndPipes()
     process.setWorkingDirectory(m_server.folder());
     process.start(u"bash"_s, {u"-c"_s, command, u"bash"_s, program, document});
     QVERIFY(process.waitForFinished());
+    // A name that QTemporaryDir could not remove.
+    QCOMPARE(::unlink((m_server.folder().toLocal8Bit() + "/caf\xe9.pdf").constData()), 0);
     const QByteArray out = process.readAllStandardOutput();
     QVERIFY2(process.exitCode() == 0, (out + process.readAllStandardError()).constData());
     const auto job = m_server.waitForJob(QJsonDocument::fromJson(out)[u"job"_s][u"id"_s].toInt());
@@ -546,6 +548,7 @@ void PrintJobTest::lastWordCounts()
     // One page: the server has it as the range from 1 to 1, which is no difference.
     const Outcome outcome = run({u"--batch"_s, u"-P"_s, u"1"_s, document});
     QCOMPARE(outcome.json[u"job"_s][u"differences"_s].toArray(), QJsonArray());
+    QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
 }
 
 void PrintJobTest::resultsThatCannotBeWritten_data()
@@ -575,13 +578,13 @@ void PrintJobTest::temporaryFolder()
 {
     const qsizetype all = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
     QVERIFY(all > 40);
-    qputenv("TMPDIR", "/nowhere");
+    qputenv("TMPDIR", "/dev/null/nowhere"); // nobody can make it
     const qsizetype without = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
     const Outcome input = run({u"--batch"_s, u"-"_s}, "text\n");
     qunsetenv("TMPDIR");
     QCOMPARE(without, all); // the PPD needs no file
     QCOMPARE(input.code, 1);
-    QVERIFY(input.json[u"error"_s][u"message"_s].toString().contains(u"/nowhere"_s));
+    QVERIFY(input.json[u"error"_s][u"message"_s].toString().contains(u"/dev/null/nowhere"_s));
 }
 
 QTEST_MAIN(PrintJobTest)
