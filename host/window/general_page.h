@@ -35,10 +35,16 @@ public:
 Q_SIGNALS:
     void chosen(const QString &keyword);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void addCopies(QGridLayout *grid);
+    void enableCollate();
     void addPages(QGridLayout *grid);
     void pagesEdited();
+    void setProblemShown(bool shown);
+    void paintProblem();
 
     DialogSession *m_session;
     QSpinBox *m_copies;

@@ -40,9 +40,6 @@ MorePage::MorePage(DialogSession *session, QWidget *parent) : QWidget(parent)
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(10);
     grid->setColumnStretch(2, 1);
-    Mnemonics mnemonics;
-    mnemonics.reserve(tr("&Printer:"));
-    mnemonics.reserve(tr("&Print"));
     const QList<Group> groups = groupsOf(*session);
     for (const Group &group : groups) {
         if (groups.size() > 1) {
@@ -55,7 +52,7 @@ MorePage::MorePage(DialogSession *session, QWidget *parent) : QWidget(parent)
                 title->setContentsMargins(0, 12, 0, 0);
             grid->addWidget(title, grid->rowCount(), 0, 1, 3);
         }
-        auto *form = new OptionForm(session, group.keywords, grid, &mnemonics, this);
+        auto *form = new OptionForm(session, group.keywords, grid, this);
         connect(form, &OptionForm::chosen, this, &MorePage::chosen);
         // One choice may free or forbid those of another group.
         connect(form, &OptionForm::chosen, this, &MorePage::refresh);

@@ -4,11 +4,11 @@
 #include "host/window/option_form.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/mnemonics.h"
+#include "platform/choice_box.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QStandardItemModel>
 
 namespace host {
 
@@ -19,27 +19,27 @@ constexpr int boxWidth = 240; // pixels, as in the panels
 }
 
 OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid,
-                       Mnemonics *mnemonics, QObject *parent)
+                       QObject *parent)
     : QObject(parent), m_session(session)
 {
     for (const QString &keyword : keywords)
-        addRow(keyword, grid, mnemonics);
+        addRow(keyword, grid);
     refresh();
 }
 
-void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics)
+void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
 {
     const auto option = m_session->ppd()->option(keyword);
     if (!option || option->choices.isEmpty())
         return;
-    auto *box = new QComboBox(grid->parentWidget());
+    auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);
     box->setObjectName(option->keyword);
     box->setAccessibleName(option->text);
     for (const PpdOption::Choice &choice : option->choices)
         box->addItem(choice.text, choice.keyword);
     auto *label =
-        new QLabel(tr("%1:", "label of a field").arg(mnemonics->assign(option->text)), grid->parentWidget());
+        new QLabel(tr("%1:", "label of a field").arg(Mnemonics::escaped(option->text)), grid->parentWidget());
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     label->setBuddy(box);
@@ -54,7 +54,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mn
     });
 }
 
-QComboBox *OptionForm::box(const QString &keyword) const
+platform::ChoiceBox *OptionForm::box(const QString &keyword) const
 {
     for (const Row &row : m_rows) {
         if (row.keyword == keyword)
@@ -74,13 +74,13 @@ void OptionForm::refreshRow(const Row &row)
     const QString current = m_session->ppd()->markedChoice(row.keyword);
     row.box->setCurrentIndex(row.box->findData(current));
     const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
-    auto *items = qobject_cast<QStandardItemModel *>(row.box->model());
-    for (int i = 0; items && i < items->rowCount(); ++i) {
+    for (int i = 0; i < row.box->count(); ++i) {
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == current || !forbidden.contains(choice);
-        items->item(i)->setEnabled(free);
-        items->item(i)->setToolTip(free ? QString()
-                                        : tr("Not together with %1").arg(forbidden.value(choice).text()));
+        const OptionChoice obstacle = forbidden.value(choice);
+        row.box->setObstacle(i, free ? QString()
+                                     : tr("Not available while \"%1\" is \"%2\".")
+                                           .arg(obstacle.optionText, obstacle.choiceText));
     }
 }
 

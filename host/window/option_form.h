@@ -3,15 +3,16 @@
 
 #pragma once
 
-#include "host/window/mnemonics.h"
-
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
-class QComboBox;
 class QGridLayout;
+
+namespace platform {
+class ChoiceBox;
+}
 
 namespace host {
 
@@ -24,10 +25,9 @@ class OptionForm : public QObject
 {
     Q_OBJECT
 public:
-    OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, Mnemonics *mnemonics,
-               QObject *parent);
+    OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, QObject *parent);
 
-    QComboBox *box(const QString &keyword) const;
+    platform::ChoiceBox *box(const QString &keyword) const;
 
 public Q_SLOTS:
     // Shows what is marked now.
@@ -41,9 +41,9 @@ private:
     struct Row
     {
         QString keyword;
-        QComboBox *box;
+        platform::ChoiceBox *box;
     };
-    void addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics);
+    void addRow(const QString &keyword, QGridLayout *grid);
     void refreshRow(const Row &row);
 
     DialogSession *m_session;

@@ -25,8 +25,8 @@ class PageBook : public QWidget
 {
     Q_OBJECT
 public:
-    // `above` is shown over the current page.
-    PageBook(QWidget *above, QWidget *parent);
+    // `below` is shown under the current page, where it moves nothing that is on it.
+    PageBook(QWidget *below, QWidget *parent);
     ~PageBook() override;
 
     void setSession(DialogSession *session);
@@ -42,6 +42,11 @@ public:
     void refresh();
     // Moves `steps` pages on, as far as there are any.
     void turn(int steps);
+    // How wide it must be to show the current page without scrolling sideways.
+    int wantedWidth() const;
+    PageList *list() const { return m_list; }
+    // What holds the pages.
+    QWidget *pages() const;
 
     // Whether what is typed on the general page makes sense; shows the place where it does not.
     bool checkGeneral();
@@ -66,6 +71,7 @@ private:
     void makeFrame(Page *page);
     QWidget *contentOf(const Page &page);
     bool leave();
+    void followFocus(QWidget *now);
 
     DialogSession *m_session = nullptr;
     std::vector<Page> m_pages;

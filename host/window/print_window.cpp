@@ -3,13 +3,19 @@
 
 #include "host/window/print_window.h"
 
+#include "host/window/access_keys.h"
+#include "host/window/dialog_button.h"
+#include "host/window/focus_ring.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/page_list.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/separator.h"
 #include "host/window/startup_clock.h"
+#include "host/window/tab_order.h"
 #include "host/window/unavailable_page.h"
+#include "platform/key_value_object.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -17,28 +23,51 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace host {
 
 namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
+constexpr int textShare = 4;     // of the window's height, for the texts of the message bar
 
+// What a window's screen has free, less the frame around the window.
+QSize freeRoom(const QWidget *window)
+{
+    const QSize room = window->screen()->availableSize();
+    const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    return room.shrunkBy(frame);
 }
+
+// "“one.pdf”, “two.pdf”"; empty for the standard input.
+QString namesOf(const QStringList &files)
+{
+    QStringList names;
+    for (const QString &file : files) {
+        if (file != QLatin1String("-"))
+            names.append(PrintWindow::tr("“%1”").arg(QFileInfo(file).fileName()));
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+} // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
       m_bar(new MessageBar(this)), m_book(new PageBook(m_bar, this)),
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
-      m_cancel(new QPushButton(tr("Cancel"), this)), m_print(new QPushButton(tr("&Print"), this))
+      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
+      m_keys(new AccessKeys(
+          this, {m_picker, m_print, m_cancel, m_book->pages(), m_unavailable, m_result, m_bar}))
 {
-    const QString document = m_task.files.isEmpty() ? QString() : QFileInfo(m_task.files.first()).fileName();
-    setWindowTitle(document.isEmpty() || document == QLatin1String("-") ? tr("Print")
-                                                                        : tr("Print “%1”").arg(document));
+    const QString documents = namesOf(m_task.files);
+    setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
+    new FocusRing(this);
     build();
     connectAll();
     showState(State::Unavailable);
@@ -56,9 +85,6 @@ void PrintWindow::build()
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
     m_print->setDefault(true);
-    m_cancel->setAutoDefault(false);
-    for (QPushButton *button : {m_cancel, m_print})
-        button->setMinimumWidth(96);
     auto *footer = new QHBoxLayout;
     footer->setContentsMargins(20, 12, 20, 14);
     footer->setSpacing(10);
@@ -81,7 +107,9 @@ void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
+    connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
+    connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::chosen, this, [this] {
         sessionChanged();
         showConflicts();
@@ -106,6 +134,44 @@ void PrintWindow::showState(State state)
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
         m_print->setEnabled(false);
+    arrange();
+}
+
+void PrintWindow::arrange()
+{
+    chainTabOrder(
+        {m_picker, m_book->list(), m_book->pages(), m_unavailable, m_result, m_bar, m_cancel, m_print});
+    m_keys->assign();
+    fit();
+}
+
+void PrintWindow::setRoom(const QSize &room)
+{
+    m_room = room;
+    fit();
+}
+
+// Wide enough for the page, and never larger than the screen.
+void PrintWindow::fit()
+{
+    const QSize room = m_room.isValid() ? m_room : freeRoom(this);
+    const int wanted = m_book->isHidden() ? 0 : m_book->wantedWidth();
+    setMinimumSize(layout()->minimumSize().boundedTo(room));
+    resize(size().expandedTo({wanted, 0}).boundedTo(room));
+}
+
+void PrintWindow::showEvent(QShowEvent *event)
+{
+    fit();
+    QDialog::showEvent(event);
+    if (!focusWidget())
+        m_book->list()->setFocus();
+}
+
+void PrintWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    m_bar->setTextLimit(height() / textShare);
 }
 
 bool PrintWindow::open(PrintError *error)
@@ -194,6 +260,9 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setCurrent(m_session->destination());
     else
         m_picker->setFixedText(m_session->destination().displayName());
+    for (int i = 0; i < m_session->panelCount(); ++i)
+        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
+                &PrintWindow::recheckLater);
     m_book->setSession(m_session.get());
     showState(State::Choosing);
     m_print->setEnabled(hasQueue && !m_task.files.isEmpty());
@@ -257,10 +326,32 @@ bool PrintWindow::showConflicts()
         answers.append(tr("App&ly Suggestion"));
     }
     answers.append(tr("Keep and Re&view"));
-    m_askingConflict = true;
+    const bool known = std::exchange(m_askingConflict, true) && m_bar->isShowing() &&
+                       m_bar->text().endsWith(lines.join(QLatin1Char('\n')));
+    if (known) // not read out again
+        return true;
     m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
                        answers);
     return true;
+}
+
+// What a panel has changed is marked when it is saved; until then nobody knows whether a conflict that the
+// user is asked about has gone.
+void PrintWindow::recheckLater()
+{
+    if (!m_askingConflict || std::exchange(m_recheckQueued, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_askingConflict && m_session) {
+                m_session->save();
+                sessionChanged();
+                showConflicts();
+            }
+            m_recheckQueued = false;
+        },
+        Qt::QueuedConnection);
 }
 
 void PrintWindow::answer(int index)
@@ -397,8 +488,10 @@ void PrintWindow::print()
         return;
     m_session->save();
     sessionChanged();
-    if (showConflicts())
+    if (showConflicts()) {
+        m_bar->takeFocus();
         return;
+    }
     PrintError error;
     if (!m_documents.open(m_task.files, nullptr, &error)) {
         showError(error);
@@ -421,11 +514,13 @@ void PrintWindow::print()
 void PrintWindow::showResult()
 {
     const Destination destination = m_session->destination();
-    m_result->showJob(destination.displayName(), *m_job,
+    m_result->showJob(destination.displayName(), namesOf(m_task.files), *m_job,
                       [this, destination] { return m_system.jobStatus(destination, m_job->id); });
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);
+    m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
+    m_cancel->setAccessibleDescription(m_result->text());
     m_cancel->setFocus();
 }
 

@@ -14,11 +14,13 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 {
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->setMinimumContentsLength(24);
-    m_box->setMaximumWidth(420);
+    m_box->setMinimumWidth(160);
+    m_box->setMaximumWidth(qMax(420, 32 * m_box->fontMetrics().averageCharWidth()));
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setAccessibleName(tr("Printer"));
     m_state->setTextFormat(Qt::PlainText);
     m_state->setIndent(2);
+    m_state->setWordWrap(true);
     QPalette muted = m_state->palette();
     QColor colour = muted.color(QPalette::WindowText);
     colour.setAlphaF(0.72F);

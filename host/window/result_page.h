@@ -25,18 +25,23 @@ public:
     using StatusQuery = std::function<JobStatus()>;
 
     explicit ResultPage(QWidget *parent = nullptr);
-    void showJob(const QString &printer, const SubmittedJob &job, StatusQuery query);
+    // `documents` are their names, for the user; may be empty.
+    void showJob(const QString &printer, const QString &documents, const SubmittedJob &job,
+                 StatusQuery query);
     QString text() const;
 
 private:
     void showStatus(const JobStatus &status);
+    QString sentence(const JobStatus &status) const;
 
     StatusGlyph *m_glyph;
     QLabel *m_title;
+    QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
     QTimer m_timer;
     StatusQuery m_query;
+    QString m_printer;
     int m_id = 0;
 };
 

@@ -6,7 +6,6 @@
 #include "platform/layout_loader.h"
 
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 namespace {
 
@@ -17,12 +16,11 @@ const bool registered = [] {
 
 } // namespace
 
-QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : QComboBox(parent)
+QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : ChoiceBox(parent)
 {
     // A device may call its profiles anything; the pop-up keeps its width.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setIconSize({0, 0}); // its policy would leave room for one, and make it taller than other pop-ups
-    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
 }
 
@@ -79,12 +77,4 @@ void QVProfilePopUp_M880::rebuild()
     if (findData(selected) < 0)
         addItem(m_unnamedText.arg(selected), selected);
     setCurrentIndex(findData(selected));
-}
-
-void QVProfilePopUp_M880::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }

@@ -259,7 +259,8 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     auto *item =
         qobject_cast<QStandardItemModel *>(duplex->model())->item(duplex->findData(u"DuplexNoTumble"_s));
     QVERIFY(!item->isEnabled());
-    QCOMPARE(item->toolTip(), u"Not together with Paper Type: Heavy Paper"_s);
+    QCOMPARE(item->accessibleDescription(),
+             u"Not available while \"Paper Type\" is \"Heavy Paper\"."_s);
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
 }
@@ -408,11 +409,14 @@ void PrintWindowTest::textsAreNeverMarkup()
 void PrintWindowTest::mnemonics()
 {
     Mnemonics mnemonics;
-    mnemonics.reserve(u"&Printer:"_s);
+    QVERIFY(mnemonics.claim(u"&Printer:"_s));
+    QVERIFY(!mnemonics.claim(u"&Paper"_s));
     QCOMPARE(mnemonics.assign(u"Paper"_s), u"P&aper"_s);
     QCOMPARE(mnemonics.assign(u"Pa"_s), u"Pa"_s);
-    QCOMPARE(mnemonics.assign(u"a & b"_s), u"a && &b"_s);
-    QCOMPARE(mnemonics.assign(u"用紙"_s), u"用紙"_s);
+    QCOMPARE(mnemonics.assign(Mnemonics::escaped(u"a & b"_s)), u"a && &b"_s);
+    QCOMPARE(mnemonics.assign(u"Pa&rt of it"_s), u"Part &of it"_s); // the beginning of a word, if possible
+    QCOMPARE(mnemonics.assign(u"用紙:"_s), u"用紙(&C):"_s);
+    QCOMPARE(mnemonics.assign(u"部数(&P):"_s), u"部数(&D):"_s);
 }
 
 QTEST_MAIN(PrintWindowTest)
