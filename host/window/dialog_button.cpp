@@ -38,6 +38,12 @@ void DialogButton::paintEvent(QPaintEvent *event)
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    // The frame around a button with the focus would not stand out from its ground.
+    if (hasFocus()) {
+        painter.setPen(QPen(ink, 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 2, 2);
+    }
     option.palette.setColor(QPalette::ButtonText, ink);
     painter.drawControl(QStyle::CE_PushButtonLabel, option);
 }

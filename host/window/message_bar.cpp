@@ -67,7 +67,7 @@ MessageBar::MessageBar(QWidget *parent)
     m_row->addWidget(m_scroll, 1);
     m_row->addLayout(m_buttonRow);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(14, 6, 12, 6);
+    row->setContentsMargins(14, 6, 8, 6);
     row->setSpacing(12);
     row->addWidget(m_glyph, 0, Qt::AlignTop);
     row->addLayout(m_row, 1);
@@ -127,6 +127,7 @@ void MessageBar::addButton(const QString &text, int index)
         if (byKeyboard)
             giveFocusBack();
         Q_EMIT answered(index);
+        Q_EMIT buttonsChanged();
     });
     m_buttonRow->addWidget(button);
     m_buttons.append(button);

@@ -44,7 +44,7 @@ public:
 Q_SIGNALS:
     // Which answer was pressed, or -1 for closing the bar. The bar hides itself first.
     void answered(int index);
-    // Its buttons are others than before.
+    // Its buttons are others than before, or gone.
     void buttonsChanged();
 
 protected:

@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -28,22 +27,15 @@ const QString summaryName = QStringLiteral("summary");
 
 } // namespace
 
-PageBook::PageBook(QWidget *below, QWidget *parent)
+PageBook::PageBook(QWidget *parent)
     : QWidget(parent), m_list(new PageList(this)), m_stack(new QStackedWidget(this))
 {
-    auto *messages = new QVBoxLayout;
-    messages->setContentsMargins(16, 0, 16, 10);
-    messages->addWidget(below);
-    auto *right = new QVBoxLayout;
-    right->setSpacing(0);
-    right->addWidget(m_stack, 1);
-    right->addLayout(messages);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_list);
     row->addWidget(new Separator(Qt::Vertical, this));
-    row->addLayout(right, 1);
+    row->addWidget(m_stack, 1);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { followFocus(now); });
@@ -66,6 +58,20 @@ void PageBook::setSession(DialogSession *session)
     if (!session->otherKeywords().isEmpty())
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
+    fitList();
+}
+
+// The list has the width of its names, but leaves the pages the larger part of a narrow window.
+void PageBook::fitList()
+{
+    const int least = m_list->minimumSizeHint().width();
+    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
+}
+
+void PageBook::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitList();
 }
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)

@@ -25,8 +25,7 @@ class PageBook : public QWidget
 {
     Q_OBJECT
 public:
-    // `below` is shown under the current page, where it moves nothing that is on it.
-    PageBook(QWidget *below, QWidget *parent);
+    explicit PageBook(QWidget *parent);
     ~PageBook() override;
 
     void setSession(DialogSession *session);
@@ -59,6 +58,9 @@ Q_SIGNALS:
     // The user chose something that is marked at once.
     void chosen();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     struct Page
     {
@@ -72,6 +74,7 @@ private:
     QWidget *contentOf(const Page &page);
     bool leave();
     void followFocus(QWidget *now);
+    void fitList();
 
     DialogSession *m_session = nullptr;
     std::vector<Page> m_pages;

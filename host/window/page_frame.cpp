@@ -37,18 +37,25 @@ PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
     heading->setContentsMargins(24, 12, 24, 0);
     heading->setWordWrap(true);
 
+    // The heading scrolls along: a low window has better use for its place.
+    auto *sheet = new QWidget;
+    auto *lines = new QVBoxLayout(sheet);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    lines->addWidget(heading);
+    lines->addWidget(content, 1);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setWidget(content);
+    m_scroll->setWidget(sheet);
     m_scroll->viewport()->setAutoFillBackground(false);
+    sheet->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
     content->show();
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(heading);
     column->addWidget(m_scroll, 1);
 }
 
@@ -56,7 +63,7 @@ PageFrame::~PageFrame() = default;
 
 int PageFrame::wantedWidth() const
 {
-    const int inner = m_content ? m_content->minimumSizeHint().width() : 0;
+    const int inner = m_scroll->widget()->minimumSizeHint().width();
     return inner + m_scroll->verticalScrollBar()->sizeHint().width();
 }
 
@@ -74,8 +81,7 @@ void PageFrame::reveal(QWidget *control)
 
 void PageFrame::releaseContent()
 {
-    if (m_content && m_scroll->widget() == m_content) {
-        m_scroll->takeWidget();
+    if (m_content && isAncestorOf(m_content)) {
         m_content->hide();
         m_content->setParent(nullptr);
     }

@@ -71,7 +71,7 @@ PageList::PageList(QWidget *parent) : QListWidget(parent)
     setViewportMargins(sideMargin, sideMargin, sideMargin, sideMargin);
     setMouseTracking(true);
     setUniformItemSizes(true);
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setAccessibleName(tr("Pages of the dialog"));
     takePalette();
 }

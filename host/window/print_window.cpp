@@ -34,7 +34,8 @@ namespace host {
 namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
-constexpr int textShare = 4;     // of the window's height, for the texts of the message bar
+constexpr int textShare = 6;     // of the window's height, for the texts of the message bar
+constexpr int roomyLines = 24;   // that the window is high; a lower one saves space
 
 // What a window's screen has free, less the frame around the window.
 QSize freeRoom(const QWidget *window)
@@ -59,7 +60,7 @@ QString namesOf(const QStringList &files)
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(m_bar, this)),
+      m_bar(new MessageBar(this)), m_book(new PageBook(this)),
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
       m_keys(new AccessKeys(
@@ -81,16 +82,17 @@ PrintWindow::~PrintWindow()
 
 void PrintWindow::build()
 {
-    m_picker->setContentsMargins(20, 16, 20, 12);
     m_status->setTextFormat(Qt::PlainText);
     m_status->setWordWrap(true);
     m_print->setDefault(true);
-    auto *footer = new QHBoxLayout;
-    footer->setContentsMargins(20, 12, 20, 14);
-    footer->setSpacing(10);
-    footer->addWidget(m_status, 1);
-    footer->addWidget(m_cancel);
-    footer->addWidget(m_print);
+    m_footer = new QHBoxLayout;
+    m_footer->setSpacing(10);
+    m_footer->addWidget(m_status, 1);
+    m_footer->addWidget(m_cancel);
+    m_footer->addWidget(m_print);
+    // Under the pages, where it moves nothing that the user is about to press.
+    m_messages = new QHBoxLayout;
+    m_messages->addWidget(m_bar);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -100,7 +102,9 @@ void PrintWindow::build()
     for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_result})
         column->addWidget(part, 1);
     column->addWidget(new Separator(Qt::Horizontal, this));
-    column->addLayout(footer);
+    column->addLayout(m_messages);
+    column->addLayout(m_footer);
+    setCompact(false);
 }
 
 void PrintWindow::connectAll()
@@ -128,6 +132,8 @@ void PrintWindow::connectAll()
 void PrintWindow::showState(State state)
 {
     m_book->setVisible(state == State::Choosing);
+    if (state != State::Choosing)
+        m_bar->hide();
     m_unavailable->setVisible(state == State::Unavailable);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done);
@@ -142,6 +148,7 @@ void PrintWindow::arrange()
     chainTabOrder(
         {m_picker, m_book->list(), m_book->pages(), m_unavailable, m_result, m_bar, m_cancel, m_print});
     m_keys->assign();
+    setCompact(height() < roomyLines * fontMetrics().height());
     fit();
 }
 
@@ -172,6 +179,14 @@ void PrintWindow::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     m_bar->setTextLimit(height() / textShare);
+    setCompact(height() < roomyLines * fontMetrics().height());
+}
+
+void PrintWindow::setCompact(bool compact)
+{
+    m_picker->setCompact(compact);
+    m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
+    m_messages->setContentsMargins(16, m_bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
 }
 
 bool PrintWindow::open(PrintError *error)

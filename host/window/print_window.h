@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 
+class QHBoxLayout;
 class QLabel;
 
 namespace host {
@@ -79,6 +80,7 @@ private:
     // Tab order, access keys and size follow what is shown.
     void arrange();
     void fit();
+    void setCompact(bool compact);
     std::optional<Destination> firstDestination(PrintError *error);
     std::optional<OpenedPrinter> openPrinterOfTask(const QString &printer, PrintError *error);
     std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
@@ -119,6 +121,8 @@ private:
     DialogButton *m_cancel;
     DialogButton *m_print;
     AccessKeys *m_keys;
+    QHBoxLayout *m_footer;
+    QHBoxLayout *m_messages;
     QSize m_room; // null for what the screen has free
     int m_busyDepth = 0;
 };

@@ -80,6 +80,12 @@ void PrinterPicker::setFixedText(const QString &text)
     m_state->setText(tr("Options of a PPD file; there is no printer to print on"));
 }
 
+void PrinterPicker::setCompact(bool compact)
+{
+    setContentsMargins(20, compact ? 8 : 16, 20, compact ? 8 : 12);
+    m_state->setVisible(!compact);
+}
+
 void PrinterPicker::describe(const Destination &printer)
 {
     QStringList parts;
@@ -94,6 +100,8 @@ void PrinterPicker::describe(const Destination &printer)
     if (!printer.makeAndModel.isEmpty())
         parts.append(printer.makeAndModel);
     m_state->setText(parts.join(QStringLiteral("  ·  ")));
+    m_box->setToolTip(m_state->text());
+    m_box->setAccessibleDescription(m_state->text());
 }
 
 } // namespace host
