@@ -86,8 +86,9 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 
 std::optional<QueueFacts> queryQueue(const QByteArray &printerUri)
 {
-    static const std::array<const char *, 5> wanted = {"printer-is-accepting-jobs", "printer-state",
-                                                       "printer-state-message", "document-format-supported",
+    static const std::array<const char *, 6> wanted = {"printer-is-accepting-jobs", "printer-state",
+                                                       "printer-state-message", "printer-state-reasons",
+                                                       "document-format-supported",
                                                        "printer-defaults"};
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
@@ -99,6 +100,7 @@ std::optional<QueueFacts> queryQueue(const QByteArray &printerUri)
     facts.accepting = attributeInteger(answer.get(), "printer-is-accepting-jobs", 1) != 0;
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
+    facts.stateReasons = attributeTexts(answer.get(), "printer-state-reasons");
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
     facts.defaults = defaultsOf(answer.get());
     return facts;

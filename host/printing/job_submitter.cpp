@@ -3,6 +3,8 @@
 
 #include "host/printing/job_submitter.h"
 
+#include "host/printing/reasons.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -120,8 +122,8 @@ bool JobSubmitter::checkQueue(PrintError *error)
     }
     m_queue = *queue;
     if (!m_queue.accepting) {
-        const QString reason =
-            m_queue.stateMessage.isEmpty() ? QString() : QStringLiteral(" ") + m_queue.stateMessage;
+        const QString why = reasonText(m_queue.stateReasons, m_queue.stateMessage);
+        const QString reason = why.isEmpty() ? why : QStringLiteral(" ") + why;
         *error = {PrintError::Kind::QueueRejecting,
                   SubmitText::tr("The printer “%1” is not accepting jobs at the moment.").arg(name) + reason};
         return false;
@@ -236,9 +238,19 @@ JobStatus queryJobStatus(const QByteArray &printerUri, int jobId)
     if (!job)
         return status;
     status.state = jobState(attributeInteger(job.get(), "job-state", 0));
-    status.message = attributeText(job.get(), "job-printer-state-message");
-    status.printerStopped =
-        attributeTexts(job.get(), "job-state-reasons").contains(QStringLiteral("printer-stopped"));
+    QString message = attributeText(job.get(), "job-printer-state-message");
+    QStringList reasons = attributeTexts(job.get(), "job-state-reasons");
+    status.printerStopped = reasons.contains(QStringLiteral("printer-stopped"));
+    reasons += attributeTexts(job.get(), "job-printer-state-reasons");
+    // Of a job that has not begun the server tells nothing about its printer.
+    const auto queue = status.state == JobStatus::State::Pending ? queryQueue(printerUri) : std::nullopt;
+    if (queue) {
+        status.printerStopped |= queue->stopped;
+        reasons += queue->stateReasons;
+        if (message.isEmpty())
+            message = queue->stateMessage;
+    }
+    status.message = reasonText(reasons, message);
     return status;
 }
 

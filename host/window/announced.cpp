@@ -35,6 +35,8 @@ void makeAnnounced(QWidget *widget)
 void announce(QWidget *widget, const QString &text)
 {
     widget->setAccessibleName(text);
+    if (!widget->isVisible()) // it will be read out when it appears
+        return;
     QAccessibleEvent shown(widget, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
     QAccessibleEvent alert(widget, QAccessible::Alert);

@@ -11,7 +11,8 @@ namespace host {
 // they announce without its having the focus. To be called when the widget is made.
 void makeAnnounced(QWidget *widget);
 
-// Gives such a widget what it says as its name, and has it read out; to be called while it is shown.
+// Gives such a widget what it says as its name, and has it read out: at once where it is shown already, else
+// when it appears.
 void announce(QWidget *widget, const QString &text);
 
 } // namespace host

@@ -99,11 +99,10 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     if (answers.isEmpty())
         addButton(tr("C&lose"), -1);
     m_buttons.first()->setAccessibleDescription(text());
-    setAccessibleName(text());
+    announce(this, text());
     show();
     fitTexts();
     update();
-    announce(this, text());
     Q_EMIT buttonsChanged();
     if (hadFocus)
         takeFocus();

@@ -56,7 +56,7 @@ public:
         const QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
         painter->drawText(
             place, Qt::AlignVCenter | Qt::AlignLeading,
-            QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideRight, place.width()));
+            QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width()));
         painter->restore();
     }
 };
@@ -85,7 +85,7 @@ void PageList::addPage(const QString &title)
 
 QSize PageList::sizeHint() const
 {
-    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin), 240};
+    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin + 4), 240};
 }
 
 void PageList::changeEvent(QEvent *event)

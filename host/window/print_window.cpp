@@ -35,6 +35,7 @@ namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int textShare = 6;     // of the window's height, for the texts of the message bar
+constexpr int usualLines = 34;   // that the window is high where there is room for it
 constexpr int roomyLines = 24;   // that the window is high; a lower one saves space
 
 // What a window's screen has free, less the frame around the window.
@@ -72,7 +73,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     build();
     connectAll();
     showState(State::Unavailable);
-    resize(720, 600);
+    resize(720, qMax(600, usualLines * fontMetrics().height()));
 }
 
 PrintWindow::~PrintWindow()
