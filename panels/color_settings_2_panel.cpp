@@ -90,8 +90,9 @@ QString QVPDEColorSettings2_M880::colorBalanceReason() const
     const char *reason = QT_TRANSLATE_NOOP("QVPDEColorSettings2_M880",
                                            "Color balance is not available while \"%1\" is \"%2\".");
     const auto &bundle = manager()->bundle();
-    const QString name = manager()->ppd() ? manager()->ppd()->localizedOptionNameWithBundle(colorTypeKey, bundle.get())
-                                          : colorTypeKey;
+    const QString name = manager()->ppd()
+                             ? manager()->ppd()->localizedOptionNameWithBundle(colorTypeKey, bundle.get())
+                             : colorTypeKey;
     return bundle->translate("QVPDEColorSettings2_M880", reason).arg(name, textOfColorType());
 }
 

@@ -14,8 +14,7 @@ std::optional<DecimalDigit> decimalDigitAt(QStringView text, qsizetype at)
 {
     if (at >= text.size())
         return std::nullopt;
-    const bool isPair =
-        text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
     const char32_t character =
         isPair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : char32_t(text[at].unicode());
     if (!QChar::isDigit(character))

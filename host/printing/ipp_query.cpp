@@ -87,9 +87,8 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 std::optional<QueueFacts> queryQueue(const QByteArray &printerUri)
 {
     static const std::array<const char *, 6> wanted = {"printer-is-accepting-jobs", "printer-state",
-                                                       "printer-state-message", "printer-state-reasons",
-                                                       "document-format-supported",
-                                                       "printer-defaults"};
+                                                       "printer-state-message",     "printer-state-reasons",
+                                                       "document-format-supported", "printer-defaults"};
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());

@@ -78,9 +78,10 @@ void OptionForm::refreshRow(const Row &row)
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == current || !forbidden.contains(choice);
         const OptionChoice obstacle = forbidden.value(choice);
-        row.box->setObstacle(i, free ? QString()
-                                     : tr("Not available while \"%1\" is \"%2\".")
-                                           .arg(obstacle.optionText, obstacle.choiceText));
+        row.box->setObstacle(
+            i,
+            free ? QString()
+                 : tr("Not available while \"%1\" is \"%2\".").arg(obstacle.optionText, obstacle.choiceText));
     }
 }
 

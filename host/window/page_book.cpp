@@ -37,8 +37,7 @@ PageBook::PageBook(QWidget *parent)
     row->addWidget(new Separator(Qt::Vertical, this));
     row->addWidget(m_stack, 1);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget *, QWidget *now) { followFocus(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
 }
 
 PageBook::~PageBook()

@@ -8,43 +8,26 @@
 #include "host/window/focus_ring.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
-#include "host/window/page_list.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
-#include "host/window/separator.h"
 #include "host/window/startup_clock.h"
-#include "host/window/tab_order.h"
 #include "host/window/unavailable_page.h"
 #include "platform/key_value_object.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
-#include <QVBoxLayout>
-#include <QWindow>
 
 namespace host {
 
 namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
-constexpr int textShare = 6;     // of the window's height, for the texts of the message bar
 constexpr int usualLines = 34;   // that the window is high where there is room for it
-constexpr int roomyLines = 24;   // that the window is high; a lower one saves space
-
-// What a window's screen has free, less the frame around the window.
-QSize freeRoom(const QWidget *window)
-{
-    const QSize room = window->screen()->availableSize();
-    const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
-    return room.shrunkBy(frame);
-}
 
 // "“one.pdf”, “two.pdf”"; empty for the standard input.
 QString namesOf(const QStringList &files)
@@ -61,11 +44,11 @@ QString namesOf(const QStringList &files)
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(this)),
-      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
+      m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
+      m_result(new ResultPage(this)), m_status(new QLabel(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
-      m_keys(new AccessKeys(
-          this, {m_picker, m_print, m_cancel, m_book->pages(), m_unavailable, m_result, m_bar}))
+      m_keys(new AccessKeys(this,
+                            {m_print, m_picker, m_cancel, m_book->pages(), m_unavailable, m_result, m_bar}))
 {
     const QString documents = namesOf(m_task.files);
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
@@ -79,33 +62,6 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
 PrintWindow::~PrintWindow()
 {
     m_book->clear(); // before the session, whose panels own views in it
-}
-
-void PrintWindow::build()
-{
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
-    m_print->setDefault(true);
-    m_footer = new QHBoxLayout;
-    m_footer->setSpacing(10);
-    m_footer->addWidget(m_status, 1);
-    m_footer->addWidget(m_cancel);
-    m_footer->addWidget(m_print);
-    // Under the pages, where it moves nothing that the user is about to press.
-    m_messages = new QHBoxLayout;
-    m_messages->addWidget(m_bar);
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_picker);
-    column->addWidget(new Separator(Qt::Horizontal, this));
-    for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_result})
-        column->addWidget(part, 1);
-    column->addWidget(new Separator(Qt::Horizontal, this));
-    column->addLayout(m_messages);
-    column->addLayout(m_footer);
-    setCompact(false);
 }
 
 void PrintWindow::connectAll()
@@ -142,52 +98,6 @@ void PrintWindow::showState(State state)
     if (state != State::Choosing)
         m_print->setEnabled(false);
     arrange();
-}
-
-void PrintWindow::arrange()
-{
-    chainTabOrder(
-        {m_picker, m_book->list(), m_book->pages(), m_unavailable, m_result, m_bar, m_cancel, m_print});
-    m_keys->assign();
-    setCompact(height() < roomyLines * fontMetrics().height());
-    fit();
-}
-
-void PrintWindow::setRoom(const QSize &room)
-{
-    m_room = room;
-    fit();
-}
-
-// Wide enough for the page, and never larger than the screen.
-void PrintWindow::fit()
-{
-    const QSize room = m_room.isValid() ? m_room : freeRoom(this);
-    const int wanted = m_book->isHidden() ? 0 : m_book->wantedWidth();
-    setMinimumSize(layout()->minimumSize().boundedTo(room));
-    resize(size().expandedTo({wanted, 0}).boundedTo(room));
-}
-
-void PrintWindow::showEvent(QShowEvent *event)
-{
-    fit();
-    QDialog::showEvent(event);
-    if (!focusWidget())
-        m_book->list()->setFocus();
-}
-
-void PrintWindow::resizeEvent(QResizeEvent *event)
-{
-    QDialog::resizeEvent(event);
-    m_bar->setTextLimit(height() / textShare);
-    setCompact(height() < roomyLines * fontMetrics().height());
-}
-
-void PrintWindow::setCompact(bool compact)
-{
-    m_picker->setCompact(compact);
-    m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
-    m_messages->setContentsMargins(16, m_bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
 }
 
 bool PrintWindow::open(PrintError *error)
@@ -276,15 +186,20 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setCurrent(m_session->destination());
     else
         m_picker->setFixedText(m_session->destination().displayName());
-    for (int i = 0; i < m_session->panelCount(); ++i)
-        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
-                &PrintWindow::recheckLater);
-    m_book->setSession(m_session.get());
+    showSession();
     showState(State::Choosing);
     m_print->setEnabled(hasQueue && !m_task.files.isEmpty());
     m_print->setToolTip(m_print->isEnabled() ? QString()
                                              : tr("There is no document or no printer to print it on"));
     showNotices();
+}
+
+void PrintWindow::showSession()
+{
+    for (int i = 0; i < m_session->panelCount(); ++i)
+        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
+                &PrintWindow::recheckLater);
+    m_book->setSession(m_session.get());
 }
 
 void PrintWindow::carryOver(const DialogSession &from, DialogSession *to)

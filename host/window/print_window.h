@@ -57,6 +57,8 @@ public:
     const std::optional<SubmittedJob> &job() const { return m_job; }
     MessageBar *messageBar() const { return m_bar; }
     PageBook *book() const { return m_book; }
+    // Shows the session's pages anew, as after its panels have become others.
+    void showSession();
     // How large the window may be, instead of what its screen has free.
     void setRoom(const QSize &room);
 

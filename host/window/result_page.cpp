@@ -47,8 +47,7 @@ QLabel *centredLabel(QWidget *parent)
 
 ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
-      m_documents(centredLabel(this)),
-      m_state(centredLabel(this)), m_notes(centredLabel(this))
+      m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
     makeAnnounced(this);
     QFont large = m_title->font();
@@ -102,8 +101,9 @@ QString ResultPage::sentence(const JobStatus &status) const
 {
     QString sentence = tr("Job %1: %2").arg(m_id).arg(status.text());
     if (status.state == JobStatus::State::Held)
-        sentence += QLatin1Char('\n') +
-                    tr("A private job is printed once you enter its code at the printer “%1”.").arg(m_printer);
+        sentence +=
+            QLatin1Char('\n') +
+            tr("A private job is printed once you enter its code at the printer “%1”.").arg(m_printer);
     return status.message.isEmpty() ? sentence : sentence + QLatin1Char('\n') + status.message;
 }
 

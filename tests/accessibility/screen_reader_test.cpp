@@ -16,8 +16,8 @@ const QString python = u"/usr/bin/python3"_s;
 
 } // namespace
 
-// A whole job as somebody works it who sees nothing of the window: over the accessibility bus, on a display, a
-// bus and a print server of the test's own.
+// A whole job as somebody works it who sees nothing of the window: over the accessibility bus, on a display,
+// a bus and a print server of the test's own.
 class ScreenReaderTest : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,10 @@ void ScreenReaderTest::privateJobIsTold()
     qputenv("HOME", server.folder().toLocal8Bit());
     QProcess run;
     run.setProcessChannelMode(QProcess::MergedChannels);
-    QStringList words{u"-a"_s, u"dbus-run-session"_s, u"--"_s, python,
+    QStringList words{u"-a"_s,
+                      u"dbus-run-session"_s,
+                      u"--"_s,
+                      python,
                       QStringLiteral(KELMAR_SOURCE_DIR "/tests/accessibility/private_job.py"),
                       QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print")};
     words += {u"-d"_s, u"office"_s};

@@ -154,7 +154,8 @@ void DialogPagesTest::checkKeys()
     QHash<QString, QString> owners;
     for (QWidget *widget : m_window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<QLabel *>(widget);
-        const bool keyed = label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        const bool keyed =
+            label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
         const QString text = widget->property("text").toString();
         if (!keyed || text.isEmpty() || !widget->isVisible())
             continue;
@@ -206,7 +207,8 @@ QList<QWidget *> DialogPagesTest::walk()
         const QWidget *now = m_window->focusWidget();
         const QRect place(now->mapTo(m_window.get(), QPoint()), now->size());
         if (!m_window->rect().intersects(place) || now->visibleRegion().isEmpty())
-            QTest::qFail(qPrintable(nameOf(now) + u" has the focus where nobody sees it"_s), __FILE__, __LINE__);
+            QTest::qFail(qPrintable(nameOf(now) + u" has the focus where nobody sees it"_s), __FILE__,
+                         __LINE__);
         stops.append(m_window->focusWidget());
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
     } while (m_window->focusWidget() != first && stops.size() < 100);
