@@ -99,6 +99,7 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     if (answers.isEmpty())
         addButton(tr("C&lose"), -1);
     m_buttons.first()->setAccessibleDescription(text());
+    m_scroll->setAccessibleName(text()); // a stop of the keyboard where it scrolls
     announce(this, text());
     show();
     fitTexts();
