@@ -27,9 +27,13 @@ QString padded(qint32 code)
 QString leadingDigits(const QString &text)
 {
     QString digits;
-    for (const QChar character : text) {
-        if (character.isDigit() && digits.size() < codeLength)
-            digits.append(character);
+    for (qsizetype at = 0, found = 0; at < text.size() && found < codeLength;) {
+        const auto digit = platform::decimalDigitAt(text, at);
+        if (digit) {
+            digits += QStringView(text).sliced(at, digit->length);
+            ++found;
+        }
+        at += digit ? digit->length : 1;
     }
     return digits;
 }
@@ -54,6 +58,11 @@ void replaceText(QLineEdit *editor, const QString &text)
 QVCodeAssistant_M880::QVCodeAssistant_M880() : QVCodeAssistant_M880(&QApplication::beep) {}
 
 QVCodeAssistant_M880::QVCodeAssistant_M880(std::function<void()> beep) : m_beep(std::move(beep)) {}
+
+bool QVCodeAssistant_M880::acceptsText(const QString &text) const
+{
+    return leadingDigits(text) == text;
+}
 
 void QVCodeAssistant_M880::controlTextDidChange(platform::TextField *, const QVariantMap &userInfo)
 {

@@ -16,6 +16,8 @@ public:
     // `beep` stands in for the system's beep; by default QApplication::beep().
     explicit QVCodeAssistant_M880(std::function<void()> beep);
 
+    // Whether it is at most five digits and nothing else.
+    bool acceptsText(const QString &text) const override;
     void controlTextDidChange(platform::TextField *control, const QVariantMap &userInfo) override;
     // Always true.
     bool controlTextShouldEndEditing(platform::TextField *control, QLineEdit *fieldEditor) override;

@@ -9,10 +9,6 @@
 #include "plugin/manager.h"
 #include "ppd/ppd_model.h"
 
-#include <QStandardItemModel>
-#include <QTextDocument>
-#include <QWheelEvent>
-
 #include <algorithm>
 
 namespace {
@@ -23,9 +19,8 @@ constexpr const char *conflictText =
 
 } // namespace
 
-QVPopUpButton_M880::QVPopUpButton_M880(QWidget *parent) : QComboBox(parent)
+QVPopUpButton_M880::QVPopUpButton_M880(QWidget *parent) : ChoiceBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::currentIndexChanged, this, &QVPopUpButton_M880::selectedIndexChanged);
 }
 
@@ -154,18 +149,7 @@ QString QVPopUpButton_M880::reason(const CurrentChoice &obstacle) const
 
 void QVPopUpButton_M880::setItemState(int index, const CurrentChoice *obstacle)
 {
-    auto *item = static_cast<QStandardItemModel *>(model())->item(index);
-    item->setEnabled(!obstacle);
-    const QString text = obstacle ? reason(*obstacle) : QString();
-    item->setAccessibleDescription(text);
-    // Tool tips guess whether they hold markup, so the plain text is given to them as markup that says the
-    // same.
-    item->setToolTip(obstacle ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
-}
-
-bool QVPopUpButton_M880::isItemEnabled(int index) const
-{
-    return (model()->flags(model()->index(index, modelColumn(), rootModelIndex())) & Qt::ItemIsEnabled) != 0;
+    setObstacle(index, obstacle ? reason(*obstacle) : QString());
 }
 
 QVariant QVPopUpButton_M880::selectedIndex() const
@@ -177,12 +161,4 @@ void QVPopUpButton_M880::setSelectedIndex(const QVariant &index)
 {
     const int position = index.isValid() ? index.toInt() : -1;
     setCurrentIndex(position < count() ? position : -1);
-}
-
-void QVPopUpButton_M880::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "constraints/engine.h"
+#include "platform/choice_box.h"
 #include "platform/notification_center.h"
 
-#include <QComboBox>
 #include <QPointer>
 #include <QSet>
 #include <QString>
@@ -21,9 +21,9 @@ class QVPDE_M880;
 class QVPPD_M880;
 
 // A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value and greys out
-// the choices that conflict with the panel's other values, saying why in the tooltip. Belongs to its layout;
+// the choices that conflict with the panel's other values, saying why. Belongs to its layout;
 // the panel (its data source) is watched, not owned. Never changes the selection by itself.
-class QVPopUpButton_M880 : public QComboBox
+class QVPopUpButton_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
     // Index of the selected item; nil when no item is selected. An index outside the menu selects none.
@@ -41,16 +41,11 @@ public:
 
     const QString &optionName() const { return m_optionName; }
     const QSet<QString> &conflictableOptions() const { return m_conflictableOptions; }
-    bool isItemEnabled(int index) const;
     QVariant selectedIndex() const;
     void setSelectedIndex(const QVariant &index);
 
 Q_SIGNALS:
     void selectedIndexChanged();
-
-protected:
-    // Only a pop-up with the focus turns with the wheel; over any other the wheel scrolls the panel.
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     struct CurrentChoice

@@ -14,6 +14,9 @@
 #include "plugin/panel_roster.h"
 #include "ppd/ppd_model.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
+
 namespace {
 
 const PanelRegistration<QVPDEColorSettings1_M880> registration("ColorSettings1");
@@ -220,6 +223,11 @@ void QVPDEColorSettings1_M880::animateViewIn(QWidget *view)
     {
         const platform::KeyChange change(this, QStringLiteral("currentView"));
         m_currentView = view;
+    }
+    // Whatever scrolls the panel shows the new view from its beginning.
+    for (QWidget *around = panelView()->parentWidget(); around; around = around->parentWidget()) {
+        if (auto *scroll = qobject_cast<QScrollArea *>(around))
+            scroll->verticalScrollBar()->setValue(0);
     }
     // The keyboard must not stay in a view that is on its way out.
     QWidget *control = takesFocus ? firstControlIn(view) : nullptr;

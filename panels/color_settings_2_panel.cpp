@@ -88,8 +88,12 @@ QString QVPDEColorSettings2_M880::colorBalanceReason() const
     if (m_colorBalanceAllowed)
         return {};
     const char *reason = QT_TRANSLATE_NOOP("QVPDEColorSettings2_M880",
-                                           "Color balance is not available in the color mode “%1”.");
-    return manager()->bundle()->translate("QVPDEColorSettings2_M880", reason).arg(textOfColorType());
+                                           "Color balance is not available while \"%1\" is \"%2\".");
+    const auto &bundle = manager()->bundle();
+    const QString name = manager()->ppd()
+                             ? manager()->ppd()->localizedOptionNameWithBundle(colorTypeKey, bundle.get())
+                             : colorTypeKey;
+    return bundle->translate("QVPDEColorSettings2_M880", reason).arg(name, textOfColorType());
 }
 
 // Cyan at one step stands for all four balances: the printers forbid them together or not at all.

@@ -10,6 +10,18 @@
 
 namespace platform {
 
+std::optional<DecimalDigit> decimalDigitAt(QStringView text, qsizetype at)
+{
+    if (at >= text.size())
+        return std::nullopt;
+    const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    const char32_t character =
+        isPair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : char32_t(text[at].unicode());
+    if (!QChar::isDigit(character))
+        return std::nullopt;
+    return DecimalDigit{QChar::digitValue(character), isPair ? 2 : 1};
+}
+
 std::optional<LeadingInteger> leadingInteger(QStringView text)
 {
     qsizetype at = 0;
@@ -22,8 +34,10 @@ std::optional<LeadingInteger> leadingInteger(QStringView text)
     const qint64 limit = qint64(std::numeric_limits<qint32>::max()) + (negative ? 1 : 0);
     const qsizetype firstDigit = at;
     qint64 magnitude = 0;
-    for (; at < text.size() && text[at].isDigit(); ++at)
-        magnitude = std::min(magnitude * 10 + text[at].digitValue(), limit);
+    while (const auto digit = decimalDigitAt(text, at)) {
+        magnitude = std::min(magnitude * 10 + digit->value, limit);
+        at += digit->length;
+    }
     if (at == firstDigit)
         return std::nullopt;
     return LeadingInteger{qint32(negative ? -magnitude : magnitude), at};

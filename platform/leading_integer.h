@@ -11,6 +11,16 @@
 
 namespace platform {
 
+// A decimal digit of any script.
+struct DecimalDigit
+{
+    int value;        // 0 to 9
+    qsizetype length; // UTF-16 units
+};
+
+// The digit at a place of a text; nil where there is none, and behind its end.
+KELMAR_PLATFORM_EXPORT std::optional<DecimalDigit> decimalDigitAt(QStringView text, qsizetype at);
+
 // The decimal number a text starts with.
 struct LeadingInteger
 {

@@ -6,7 +6,11 @@
 #include <QFocusEvent>
 #include <QHash>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPointer>
+#include <QValidator>
+
+#include <utility>
 
 namespace platform {
 
@@ -19,7 +23,34 @@ Q_GLOBAL_STATIC(Delegates, delegates)
 
 } // namespace
 
+// Keeps out what the delegate would change. Whatever the line edit then does to take the change back leaves
+// its undo history whole, which setting another text would not.
+class TextField::Gate : public QValidator
+{
+public:
+    explicit Gate(TextField *field) : QValidator(field), m_field(field) {}
+    State validate(QString &input, int &cursor) const override
+    {
+        if (!m_field->m_delegate || m_field->m_delegate->acceptsText(input))
+            return Acceptable;
+        // Changes that come by no event of the field, as from its menu, are looked at later.
+        if (!std::exchange(m_field->m_rejected, Rejected{input, cursor}))
+            QMetaObject::invokeMethod(m_field, &TextField::handleRejected, Qt::QueuedConnection);
+        return Invalid;
+    }
+    // A text that a program has set may end an edit as it is.
+    void fixup(QString &) const override {}
+
+private:
+    TextField *m_field;
+};
+
 TextFieldDelegate::~TextFieldDelegate() = default;
+
+bool TextFieldDelegate::acceptsText(const QString &) const
+{
+    return true;
+}
 
 void TextFieldDelegate::setDelegateForName(std::shared_ptr<TextFieldDelegate> delegate, const QString &name)
 {
@@ -34,6 +65,7 @@ std::shared_ptr<TextFieldDelegate> TextFieldDelegate::delegateForName(const QStr
 TextField::TextField(QWidget *parent) : QLineEdit(parent)
 {
     connect(this, &QLineEdit::textEdited, this, &TextField::userEdited);
+    setValidator(new Gate(this));
 }
 
 TextField::~TextField() = default;
@@ -69,6 +101,9 @@ void TextField::resignFirstResponder(QWidget *view)
         return;
     const QPointer<QWidget> window(view->window());
     // A commit runs the code of a panel, which may do away with other fields.
+    const QPointer<QWidget> responder(window->focusWidget());
+    auto *focused = qobject_cast<TextField *>(responder);
+    const bool wasEdited = focused && focused->isEditing();
     QList<QPointer<TextField>> fields;
     if (auto *field = qobject_cast<TextField *>(window))
         fields.append(field);
@@ -79,29 +114,102 @@ void TextField::resignFirstResponder(QWidget *view)
         if (field)
             field->endEditing();
     }
-    QWidget *responder = window ? window->focusWidget() : nullptr;
-    if (!responder)
-        return;
-    auto *field = qobject_cast<TextField *>(responder);
-    if (!field || !field->isEditing()) // its delegate may have kept it in editing
+    // Its delegate may have kept it in editing.
+    if (wasEdited && responder && !focused->isEditing())
         responder->clearFocus();
+}
+
+void TextField::setColumns(int columns)
+{
+    m_columns = columns;
+    updateGeometry();
+}
+
+QSize TextField::sizeHint() const
+{
+    return m_columns > 0 ? minimumSizeHint() : QLineEdit::sizeHint();
+}
+
+QSize TextField::minimumSizeHint() const
+{
+    QSize size = QLineEdit::minimumSizeHint();
+    const QFontMetrics metrics = fontMetrics();
+    if (m_columns > 0) // in place of the one character that a line edit always has room for
+        size.rwidth() += m_columns * metrics.horizontalAdvance(u'0') - metrics.maxWidth();
+    return size;
+}
+
+bool TextField::event(QEvent *event)
+{
+    const QPointer<TextField> self(this); // a commit may do away with it
+    const bool handled = QLineEdit::event(event);
+    if (self)
+        handleRejected();
+    return handled;
 }
 
 void TextField::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && !endEditing()) {
-        event->accept(); // a dialog's default button must not be clicked for a text that is not finished
+    if (isReturn && m_editing) {
+        // Not for the dialog's default button: the user sees first what has become of the text.
+        event->accept();
+        endEditing();
         return;
     }
     QLineEdit::keyPressEvent(event);
 }
 
+void TextField::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    m_selectsOnRelease = event->reason() == Qt::MouseFocusReason;
+}
+
+void TextField::mouseReleaseEvent(QMouseEvent *event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(m_selectsOnRelease, false) && !hasSelectedText())
+        selectAll();
+}
+
 void TextField::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) // its context menu
+    // Neither for its context menu nor for another window, from which the user will come back to it.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         endEditing();
+}
+
+void TextField::handleRejected()
+{
+    const auto rejected = std::exchange(m_rejected, std::nullopt);
+    if (!rejected || !m_delegate || rejected->text == text())
+        return;
+    QLineEdit editor;
+    editor.setText(rejected->text);
+    editor.setCursorPosition(rejected->cursor);
+    m_editing = true;
+    m_delegate->controlTextDidChange(this, {{NSFieldEditor, QVariant::fromValue<QObject *>(&editor)}});
+    replaceByUser(editor.text(), editor.cursorPosition());
+}
+
+// As if the user had typed it over what is different, so that it can be undone in one step.
+void TextField::replaceByUser(const QString &wanted, int cursor)
+{
+    const QString present = text();
+    const qsizetype shorter = qMin(present.size(), wanted.size());
+    qsizetype head = 0;
+    while (head < shorter && present[head] == wanted[head])
+        ++head;
+    qsizetype tail = 0;
+    while (tail < shorter - head && present[present.size() - 1 - tail] == wanted[wanted.size() - 1 - tail])
+        ++tail;
+    if (present != wanted) {
+        setSelection(int(head), int(present.size() - head - tail));
+        insert(wanted.sliced(head, wanted.size() - head - tail));
+    }
+    setCursorPosition(cursor);
 }
 
 void TextField::userEdited()

@@ -100,9 +100,9 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error)
 {
-    static const std::array<const char *, 5> wanted = {"printer-is-accepting-jobs", "printer-state",
-                                                       "printer-state-message", "document-format-supported",
-                                                       "printer-defaults"};
+    static const std::array<const char *, 6> wanted = {"printer-is-accepting-jobs", "printer-state",
+                                                       "printer-state-message",     "printer-state-reasons",
+                                                       "document-format-supported", "printer-defaults"};
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
@@ -116,6 +116,7 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.accepting = attributeInteger(answer.get(), "printer-is-accepting-jobs", 1) != 0;
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
+    facts.stateReasons = attributeTexts(answer.get(), "printer-state-reasons");
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
     readDefaults(answer.get(), &facts);
     return facts;

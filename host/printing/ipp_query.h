@@ -33,6 +33,7 @@ struct QueueFacts
     bool accepting = true;
     bool stopped = false;
     QString stateMessage;
+    QStringList stateReasons;        // keywords
     QStringList formats;             // MIME types it takes
     QMap<QString, QString> defaults; // job options it adds to every job by itself
     // What the PPD would have under a name of `defaults` that the administrator has set otherwise.

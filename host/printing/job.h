@@ -48,7 +48,7 @@ struct JobStatus
     enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed };
     State state = State::Unknown;
     bool printerStopped = false; // it waits because its printer has been stopped
-    QString message;             // the server's own words about it; may be empty
+    QString message;             // why, for the user; may be empty
 
     bool isFinal() const { return state >= State::Cancelled; }
     QString text() const; // localised

@@ -4,6 +4,7 @@
 #include "host/printing/job_lookup.h"
 
 #include "host/printing/ipp_query.h"
+#include "host/printing/reasons.h"
 
 #include <QThread>
 
@@ -43,8 +44,9 @@ JobOnServer read(IppPointer attributes)
     ipp_t *message = attributes.get();
     job.id = attributeInteger(message, "job-id", 0);
     job.status.state = jobState(attributeInteger(message, "job-state", 0));
-    job.status.message = attributeText(message, "job-printer-state-message");
     const QStringList reasons = attributeTexts(message, "job-state-reasons");
+    job.status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
+                                    attributeText(message, "job-printer-state-message"));
     job.status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
     job.isIncoming = reasons.contains(QLatin1String("job-incoming"));
     job.hasBegun = ippFindAttribute(message, "time-at-processing", IPP_TAG_INTEGER) != nullptr;

@@ -6,6 +6,7 @@
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/job_attributes.h"
+#include "host/printing/reasons.h"
 #include "host/printing/utf8_text.h"
 
 #include <QCoreApplication>
@@ -100,8 +101,8 @@ bool JobSubmitter::checkQueue(PrintError *error)
         return false;
     m_queue = *queue;
     if (!m_queue.accepting) {
-        const QString reason =
-            m_queue.stateMessage.isEmpty() ? QString() : QStringLiteral(" ") + m_queue.stateMessage;
+        const QString why = reasonText(m_queue.stateReasons, m_queue.stateMessage);
+        const QString reason = why.isEmpty() ? why : QStringLiteral(" ") + why;
         *error = {PrintError::Kind::QueueRejecting,
                   SubmitText::tr("The printer “%1” is not accepting jobs at the moment.").arg(name) + reason};
         return false;

@@ -6,6 +6,7 @@
 #include "host/printing/cups_handles.h"
 #include "host/printing/ipp_query.h"
 #include "host/printing/job_submitter.h"
+#include "host/printing/reasons.h"
 
 #include <QCoreApplication>
 
@@ -146,6 +147,17 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
     JobOnServer job;
     JobLookup(&m_login, uriOf(destination)).byId(jobId, &job);
+    if (job.status.state != JobStatus::State::Pending)
+        return job.status;
+    // Of a job that has not begun the server tells nothing about its printer.
+    PrintError ignored;
+    ServerConnection server(&m_login);
+    const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
+    if (queue) {
+        job.status.printerStopped |= queue->stopped;
+        if (job.status.message.isEmpty())
+            job.status.message = reasonText(queue->stateReasons, queue->stateMessage);
+    }
     return job.status;
 }
 

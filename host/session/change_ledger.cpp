@@ -25,6 +25,7 @@ struct Group
     QStringList options;
     QString choice;
     bool isDefault = false;
+    OptionChoice cause;
 };
 
 QString sentence(const Group &group)
@@ -37,17 +38,23 @@ QString sentence(const Group &group)
         text = group.isDefault
                    ? ChangeText::tr("These were reset to “%2”: %1.", "a list of options, a choice")
                    : ChangeText::tr("These were changed to “%2”: %1.", "a list of options, a choice");
-    return text.arg(group.options.join(QStringLiteral(", ")), group.choice);
+    text = text.arg(group.options.join(QStringLiteral(", ")), group.choice);
+    if (!group.cause.option.isEmpty())
+        text +=
+            QLatin1Char(' ') +
+            ChangeText::tr("The reason: “%1” is “%2”.").arg(group.cause.optionText, group.cause.choiceText);
+    return text;
 }
 
 } // namespace
 
-void ChangeLedger::announce(const QString &keyword, const QVariant &before, bool byUser)
+void ChangeLedger::announce(const QString &keyword, const QVariant &before, bool byUser,
+                            const OptionChoice &cause)
 {
     const bool known = std::any_of(m_entries.begin(), m_entries.end(),
                                    [&](const Entry &entry) { return entry.keyword == keyword; });
     if (!known)
-        m_entries.append({keyword, before, byUser});
+        m_entries.append({keyword, before, byUser, cause});
 }
 
 QList<ChangeLedger::Entry> ChangeLedger::take()
@@ -60,17 +67,17 @@ bool sameValue(const QVariant &a, const QVariant &b)
     return a.metaType() == b.metaType() && a == b;
 }
 
-QStringList changeNotices(const QList<OptionChoice> &changes, const QList<bool> &isDefault)
+QStringList changeNotices(const QList<UnaskedChange> &changes)
 {
     QList<Group> groups;
-    for (qsizetype i = 0; i < changes.size(); ++i) {
-        const OptionChoice &change = changes.at(i);
+    for (const UnaskedChange &item : changes) {
+        const QString &choice = item.change.choiceText;
         auto group = std::find_if(groups.begin(), groups.end(), [&](const Group &g) {
-            return g.choice == change.choiceText && g.isDefault == isDefault.at(i);
+            return g.choice == choice && g.isDefault == item.isDefault && g.cause == item.cause;
         });
         if (group == groups.end())
-            group = groups.insert(groups.end(), {{}, change.choiceText, isDefault.at(i)});
-        group->options.append(change.optionText);
+            group = groups.insert(groups.end(), {{}, choice, item.isDefault, item.cause});
+        group->options.append(item.change.optionText);
     }
     QStringList sentences;
     for (const Group &group : groups)

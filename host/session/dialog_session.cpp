@@ -5,7 +5,7 @@
 
 #include "host/session/extensions.h"
 #include "host/session/job_options.h"
-#include "host/session/setting_keys.h"
+#include "host/session/panel_values.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
 #include "platform/logging.h"
@@ -126,7 +126,35 @@ void DialogSession::watch(size_t index)
                 Panel &panel = m_panels[index];
                 if (!panel.restored && m_announcing != &panel)
                     panel.touched.insert(key);
+                noteSetting(static_cast<int>(index), key);
             });
+}
+
+// Whatever follows from a setting follows before control returns to the event loop.
+void DialogSession::noteSetting(int panel, const QString &key)
+{
+    if (!m_panels[static_cast<size_t>(panel)].keywords.contains(key))
+        return;
+    if (m_justSet.isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { m_justSet.clear(); }, Qt::QueuedConnection);
+    m_justSet.insert(panel, {++m_settings, key});
+}
+
+OptionChoice DialogSession::causeBesides(int owner) const
+{
+    std::pair<int, QString> latest;
+    int panel = -1;
+    for (auto it = m_justSet.begin(); it != m_justSet.end(); ++it) {
+        if (it.key() != owner && it->first > latest.first) {
+            latest = it.value();
+            panel = it.key();
+        }
+    }
+    if (panel < 0 || !m_ppd)
+        return {};
+    const auto &set = m_panels[static_cast<size_t>(panel)].panel;
+    return m_ppd->described(latest.second, set->keyValueObject()->valueForKey(latest.second).toString());
 }
 
 platform::PrintDialogPanel *DialogSession::panel(int index) const
@@ -339,8 +367,9 @@ QStringList DialogSession::takeNotices()
 void DialogSession::willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice)
 {
     Q_UNUSED(choice) // what really happens to the option is looked at when the call is over
-    const bool byUser = m_saving >= 0 && panelOfKeyword(keyword) == m_saving;
-    m_ledger.announce(keyword, currentValue(keyword), byUser);
+    const int owner = panelOfKeyword(keyword);
+    const bool byUser = m_saving >= 0 && owner == m_saving;
+    m_ledger.announce(keyword, currentValue(keyword), byUser, byUser ? OptionChoice() : causeBesides(owner));
     if (m_busy == 0)
         settleLater();
 }
@@ -380,8 +409,7 @@ void DialogSession::settleLater()
 void DialogSession::settle()
 {
     m_settleQueued = false;
-    QList<OptionChoice> unasked;
-    QList<bool> isDefault;
+    QList<UnaskedChange> unasked;
     for (const ChangeLedger::Entry &entry : m_ledger.take()) {
         const int owner = panelOfKeyword(entry.keyword);
         const Panel *panel = owner < 0 ? nullptr : &m_panels[static_cast<size_t>(owner)];
@@ -399,11 +427,11 @@ void DialogSession::settle()
             m_lastUserKeyword = entry.keyword;
             noteChosen({entry.keyword, after.toString()});
         } else if (m_ppd && m_ppd->hasOption(entry.keyword)) {
-            unasked.append(m_ppd->described(entry.keyword, after.toString()));
-            isDefault.append(after.toString() == m_ppd->defaultChoice(entry.keyword));
+            unasked.append({m_ppd->described(entry.keyword, after.toString()),
+                            after.toString() == m_ppd->defaultChoice(entry.keyword), entry.cause});
         }
     }
-    m_notices += changeNotices(unasked, isDefault);
+    m_notices += changeNotices(unasked);
 }
 
 void DialogSession::willBlock(const QString &what)

@@ -112,12 +112,15 @@ private:
     using Panel = SessionPanel;
 
     void watch(size_t index);
+    void noteSetting(int panel, const QString &key);
     void announceChoices(Panel &panel);
     void restore(Panel &panel);
     void savePanel(size_t index);
     void setOnPanels(const QString &keyword, const QString &choice);
     void setOnPanel(const Panel &panel, const QString &keyword, const QString &choice);
     QVariant currentValue(const QString &keyword) const;
+    // What another panel than `owner` has just been set to; empty for nothing.
+    OptionChoice causeBesides(int owner) const;
     void putBack(const QString &keyword, const QVariant &value);
     // Works through the changes that panels have announced, once their calls have returned.
     void settle();
@@ -138,6 +141,8 @@ private:
     QStringList m_notices;
     QSet<QString> m_savedKeywords;
     QString m_lastUserKeyword;
+    QMap<int, std::pair<int, QString>> m_justSet; // by panel: how many came before it, and the option
+    int m_settings = 0;
     int m_saving = -1;
     int m_busy = 0; // calls of this object into panels that are under way
     bool m_settleQueued = false;

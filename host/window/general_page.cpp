@@ -5,9 +5,11 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/page_ranges.h"
+#include "host/window/contrast.h"
 #include "host/window/option_form.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,12 +33,8 @@ GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
     addCopies(grid);
     addPages(grid);
     if (session->ppd()) {
-        Mnemonics mnemonics;
-        for (const QString &text :
-             {tr("&Printer:"), tr("&Print"), tr("&Copies:"), tr("C&ollate"), tr("&All"), tr("&Range:")})
-            mnemonics.reserve(text);
         grid->setRowMinimumHeight(grid->rowCount(), 12);
-        m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, &mnemonics, this);
+        m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
     grid->setRowStretch(grid->rowCount(), 1);
@@ -50,11 +48,10 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_copies->setMinimumWidth(90);
     m_copies->setAccessibleName(tr("Copies"));
     m_collate->setChecked(m_session->general().collate);
-    m_collate->setEnabled(m_copies->value() > 1);
-    m_collate->setToolTip(tr("Print each copy whole before the next one begins"));
+    enableCollate();
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
         m_session->general().copies = copies;
-        m_collate->setEnabled(copies > 1);
+        enableCollate();
     });
     connect(m_collate, &QCheckBox::toggled, this, [this](bool on) { m_session->general().collate = on; });
 
@@ -70,6 +67,14 @@ void GeneralPage::addCopies(QGridLayout *grid)
     grid->addLayout(row, 0, 1);
 }
 
+void GeneralPage::enableCollate()
+{
+    const bool several = m_copies->value() > 1;
+    m_collate->setEnabled(several);
+    m_collate->setToolTip(several ? tr("Print each copy whole before the next one begins")
+                                  : tr("Not available while \"%1\" is \"%2\".").arg(tr("Copies")).arg(1));
+}
+
 void GeneralPage::addPages(QGridLayout *grid)
 {
     const QString pages = m_session->general().pages;
@@ -82,9 +87,7 @@ void GeneralPage::addPages(QGridLayout *grid)
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_problem->hide();
-    QPalette red = m_problem->palette();
-    red.setColor(QPalette::WindowText, QColor(0xd0, 0x3b, 0x3b));
-    m_problem->setPalette(red);
+    paintProblem();
     connect(m_somePages, &QRadioButton::toggled, this, [this](bool on) {
         m_pages->setEnabled(on);
         if (on)
@@ -112,7 +115,7 @@ void GeneralPage::pagesEdited()
     // While the user is still typing "3-" or "3," nothing is wrong yet.
     const bool unfinished =
         m_pages->text().trimmed().endsWith(QLatin1Char(',')) || m_pages->text().trimmed().isEmpty();
-    m_problem->setVisible(!text.isEmpty() && !unfinished);
+    setProblemShown(!text.isEmpty() && !unfinished);
     QString ignored;
     m_session->general().pages = m_somePages->isChecked()
                                      ? normalizedPageRanges(m_pages->text(), &ignored).value_or(QString())
@@ -143,9 +146,30 @@ void GeneralPage::showProblem()
         return;
     }
     m_problem->setText(pagesProblem());
-    m_problem->show();
+    setProblemShown(true);
     m_pages->setFocus();
     m_pages->selectAll();
+}
+
+// Who listens to the field hears of it as of something that belongs to the field.
+void GeneralPage::setProblemShown(bool shown)
+{
+    m_problem->setVisible(shown);
+    m_pages->setAccessibleDescription(shown ? m_problem->text() : QString());
+}
+
+void GeneralPage::paintProblem()
+{
+    QPalette red = palette();
+    red.setColor(QPalette::WindowText, errorInk(red));
+    m_problem->setPalette(red);
+}
+
+void GeneralPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_problem)
+        paintProblem();
 }
 
 void GeneralPage::refresh()

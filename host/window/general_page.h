@@ -35,11 +35,17 @@ public:
 Q_SIGNALS:
     void chosen(const QString &keyword);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void addCopies(QGridLayout *grid);
+    void enableCollate();
     void addPages(QGridLayout *grid);
     void pagesEdited();
     QString pagesProblem() const;
+    void setProblemShown(bool shown);
+    void paintProblem();
 
     DialogSession *m_session;
     QSpinBox *m_copies;

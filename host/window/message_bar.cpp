@@ -3,13 +3,16 @@
 
 #include "host/window/message_bar.h"
 
+#include "host/window/announced.h"
+#include "host/window/dialog_button.h"
 #include "host/window/foreign_text.h"
 
-#include <QAccessible>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace host {
@@ -38,27 +41,39 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(plainLabel(this)),
-      m_lines(plainLabel(this)), m_row(new QBoxLayout(QBoxLayout::TopToBottom)), m_buttonRow(new QHBoxLayout)
+    : QFrame(parent), m_glyph(new StatusGlyph(iconSize, this)), m_scroll(new QScrollArea(this)),
+      m_title(plainLabel(nullptr)), m_lines(plainLabel(nullptr)),
+      m_row(new QBoxLayout(QBoxLayout::TopToBottom)), m_buttonRow(new QHBoxLayout)
 {
+    makeAnnounced(this);
     QFont bold = m_title->font();
     bold.setWeight(QFont::DemiBold);
     m_title->setFont(bold);
     m_buttonRow->setSpacing(8);
 
-    auto *texts = new QVBoxLayout;
+    auto *sheet = new QWidget;
+    auto *texts = new QVBoxLayout(sheet);
+    texts->setContentsMargins(0, 0, 0, 0);
     texts->setSpacing(1);
     texts->addWidget(m_title);
     texts->addWidget(m_lines);
-    m_row->setSpacing(4);
-    m_row->addLayout(texts, 1);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidget(sheet);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    sheet->setAutoFillBackground(false);
+    m_scroll->setMinimumWidth(100);
+    m_row->setSpacing(6);
+    m_row->addWidget(m_scroll, 1);
     m_row->addLayout(m_buttonRow);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(14, 5, 12, 5);
+    row->setContentsMargins(14, 6, 8, 6);
     row->setSpacing(12);
     row->addWidget(m_glyph, 0, Qt::AlignTop);
     row->addLayout(m_row, 1);
     hide();
+    connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
 }
 
 QString MessageBar::text() const
@@ -75,10 +90,8 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     m_lines->setText(wrappable(lines.join(QLatin1Char('\n'))));
     m_lines->setToolTip(tooltipOf(lines.join(QLatin1Char('\n'))));
     m_lines->setVisible(!lines.isEmpty());
-    qDeleteAll(m_buttons);
-    m_buttons.clear();
-    while (QLayoutItem *item = m_buttonRow->takeAt(0))
-        delete item;
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    removeButtons();
     // A single button stands beside the text, which keeps the bar low.
     m_row->setDirection(answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (answers.size() > 1)
@@ -87,24 +100,79 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
         addButton(answers.at(i), static_cast<int>(i));
     if (answers.isEmpty())
         addButton(tr("C&lose"), -1);
-    setAccessibleName(text());
+    m_buttons.first()->setAccessibleDescription(text());
+    m_scroll->setAccessibleName(text()); // a stop of the keyboard where it scrolls
+    announce(this, text());
     show();
+    fitTexts();
     update();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Q_EMIT buttonsChanged();
+    if (hadFocus)
+        takeFocus();
+}
+
+void MessageBar::removeButtons()
+{
+    qDeleteAll(m_buttons);
+    m_buttons.clear();
+    while (QLayoutItem *item = m_buttonRow->takeAt(0))
+        delete item;
 }
 
 void MessageBar::addButton(const QString &text, int index)
 {
-    auto *button = new QPushButton(text, this);
-    button->setAutoDefault(false);
-    button->setMinimumWidth(96);
+    auto *button = new DialogButton(text, this);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
     connect(button, &QPushButton::clicked, this, [this, index] {
+        const bool byKeyboard = isAncestorOf(QApplication::focusWidget());
         hide();
+        if (byKeyboard)
+            giveFocusBack();
         Q_EMIT answered(index);
+        Q_EMIT buttonsChanged();
     });
     m_buttonRow->addWidget(button);
     m_buttons.append(button);
+}
+
+void MessageBar::takeFocus()
+{
+    if (!m_buttons.isEmpty() && isShowing())
+        m_buttons.first()->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageBar::noteFocus(QWidget *old, QWidget *now)
+{
+    if (old && now && isAncestorOf(now) && !isAncestorOf(old))
+        m_before = old;
+}
+
+void MessageBar::giveFocusBack()
+{
+    if (m_before && m_before->isVisible() && m_before->isEnabled())
+        m_before->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageBar::setTextLimit(int pixels)
+{
+    m_limit = pixels;
+    fitTexts();
+}
+
+void MessageBar::fitTexts()
+{
+    const int width = m_scroll->viewport()->width();
+    const int wanted = m_scroll->widget()->layout()->totalHeightForWidth(width);
+    const int line = m_title->fontMetrics().height();
+    m_scroll->setFixedHeight(qBound(line, wanted, qMax(line, m_limit)));
+    // Texts that scroll can be read with the keyboard, too.
+    m_scroll->setFocusPolicy(wanted > m_limit ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    fitTexts();
 }
 
 void MessageBar::paintEvent(QPaintEvent *)

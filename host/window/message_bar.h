@@ -6,6 +6,7 @@
 #include "host/window/status_glyph.h"
 
 #include <QFrame>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -13,11 +14,12 @@ class QBoxLayout;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 
 namespace host {
 
-// A bar above the pages that tells something and may offer answers. Hidden until it has something to say.
-// Texts are plain text; screen readers are told when it appears.
+// A bar under the pages that tells something and may offer answers. Hidden until it has something to say.
+// Texts are plain text, and scroll where they are long; screen readers are told when it appears.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -34,24 +36,38 @@ public:
     bool isShowing() const { return !isHidden(); }
     QString text() const; // title and lines, for tests and screen readers
     QList<QPushButton *> buttons() const { return m_buttons; }
+    // The keyboard goes to the first answer, and back to where it was once the bar has been answered.
+    void takeFocus();
+    // How high the texts may be, in pixels, before they scroll.
+    void setTextLimit(int pixels);
 
 Q_SIGNALS:
     // Which answer was pressed, or -1 for closing the bar. The bar hides itself first.
     void answered(int index);
+    // Its buttons are others than before, or gone.
+    void buttonsChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void addButton(const QString &text, int index);
+    void removeButtons();
+    void fitTexts();
+    void noteFocus(QWidget *old, QWidget *now);
+    void giveFocusBack();
 
     Kind m_kind = Kind::Notice;
     StatusGlyph *m_glyph;
+    QScrollArea *m_scroll;
     QLabel *m_title;
     QLabel *m_lines;
     QBoxLayout *m_row;
     QHBoxLayout *m_buttonRow;
     QList<QPushButton *> m_buttons;
+    QPointer<QWidget> m_before; // had the focus before it came here
+    int m_limit = 200;
 };
 
 } // namespace host

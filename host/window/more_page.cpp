@@ -20,7 +20,7 @@ namespace {
 
 constexpr qsizetype rowsInPart = 10; // built in a few milliseconds
 constexpr qsizetype rowsAtOnce = 20; // more than a window of usual height shows
-constexpr int titleWidth = 440; // pixels
+constexpr int titleWidth = 440;      // pixels
 
 } // namespace
 
@@ -31,8 +31,6 @@ MorePage::MorePage(DialogSession *session, QWidget *parent)
     m_grid->setHorizontalSpacing(12);
     m_grid->setVerticalSpacing(10);
     m_grid->setColumnStretch(2, 1);
-    m_mnemonics.reserve(tr("&Printer:"));
-    m_mnemonics.reserve(tr("&Print"));
     while (!m_toBuild.isEmpty() && m_grid->rowCount() < rowsAtOnce)
         buildNext();
 }
@@ -69,7 +67,7 @@ void MorePage::build(const Part &part)
             title->setContentsMargins(0, 12, 0, 0);
         m_grid->addWidget(title, m_grid->rowCount(), 0, 1, 3);
     }
-    auto *form = new OptionForm(m_session, part.keywords, m_grid, &m_mnemonics, this);
+    auto *form = new OptionForm(m_session, part.keywords, m_grid, this);
     connect(form, &OptionForm::chosen, this, &MorePage::chosen);
     // One choice may free or forbid those of another part.
     connect(form, &OptionForm::chosen, this, &MorePage::refresh);

@@ -6,11 +6,11 @@
 #include "host/session/dialog_session.h"
 #include "host/window/custom_editor.h"
 #include "host/window/foreign_text.h"
+#include "host/window/mnemonics.h"
+#include "platform/choice_box.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QStandardItemModel>
 
 #include <algorithm>
 
@@ -27,20 +27,20 @@ const QString customItem = QStringLiteral("Custom");
 } // namespace
 
 OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid,
-                       Mnemonics *mnemonics, QObject *parent)
+                       QObject *parent)
     : QObject(parent), m_session(session)
 {
     for (const QString &keyword : keywords)
-        addRow(keyword, grid, mnemonics);
+        addRow(keyword, grid);
     refresh();
 }
 
-void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics)
+void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
 {
     const auto option = m_session->ppd()->option(keyword);
     if (!option || (option->choices.isEmpty() && !option->custom))
         return;
-    auto *box = new QComboBox(grid->parentWidget());
+    auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);
     box->setMaximumWidth(mostWidth);
     box->setObjectName(option->keyword);
@@ -53,7 +53,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mn
     auto *label = new QLabel(grid->parentWidget());
     label->setTextFormat(Qt::PlainText);
     label->setText(
-        tr("%1:", "label of a field").arg(mnemonics->assign(elided(option->text, label, labelWidth))));
+        tr("%1:", "label of a field").arg(Mnemonics::escaped(elided(option->text, label, labelWidth))));
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     label->setBuddy(box);
     const int row = grid->rowCount();
@@ -96,7 +96,7 @@ void OptionForm::markCustom(qsizetype index)
         Q_EMIT chosen(row.keyword);
 }
 
-QComboBox *OptionForm::box(const QString &keyword) const
+platform::ChoiceBox *OptionForm::box(const QString &keyword) const
 {
     for (const Row &row : m_rows) {
         if (row.keyword == keyword)
@@ -153,13 +153,14 @@ void OptionForm::refreshRow(Row &row)
 void OptionForm::greyOut(const Row &row)
 {
     const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
-    auto *items = qobject_cast<QStandardItemModel *>(row.box->model());
-    for (int i = 0; items && i < items->rowCount(); ++i) {
+    for (int i = 0; i < row.box->count(); ++i) {
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == row.current || !forbidden.contains(choice);
-        items->item(i)->setEnabled(free);
-        items->item(i)->setToolTip(
-            free ? QString() : tooltipOf(tr("Not together with %1").arg(forbidden.value(choice).text())));
+        const OptionChoice obstacle = forbidden.value(choice);
+        row.box->setObstacle(
+            i,
+            free ? QString()
+                 : tr("Not available while \"%1\" is \"%2\".").arg(obstacle.optionText, obstacle.choiceText));
     }
 }
 

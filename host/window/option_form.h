@@ -3,15 +3,16 @@
 
 #pragma once
 
-#include "host/window/mnemonics.h"
-
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
-class QComboBox;
 class QGridLayout;
+
+namespace platform {
+class ChoiceBox;
+}
 
 namespace host {
 
@@ -25,10 +26,9 @@ class OptionForm : public QObject
 {
     Q_OBJECT
 public:
-    OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, Mnemonics *mnemonics,
-               QObject *parent);
+    OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, QObject *parent);
 
-    QComboBox *box(const QString &keyword) const;
+    platform::ChoiceBox *box(const QString &keyword) const;
     // What keeps a custom choice that the user has begun from being marked; nil when nothing does.
     QString problem() const;
     // Puts the cursor there.
@@ -46,7 +46,7 @@ private:
     struct Row
     {
         QString keyword;
-        QComboBox *box;
+        platform::ChoiceBox *box;
         CustomEditor *editor = nullptr; // null for an option without a custom choice
         bool awaitsValues = false;      // a custom choice is begun, and its values are not complete
         // What the greying was decided for; it holds while these are the same.
@@ -55,7 +55,7 @@ private:
         int index = -1;
         bool isDecided = false;
     };
-    void addRow(const QString &keyword, QGridLayout *grid, Mnemonics *mnemonics);
+    void addRow(const QString &keyword, QGridLayout *grid);
     void choose(qsizetype index);
     void markCustom(qsizetype index);
     void refreshRow(Row &row);

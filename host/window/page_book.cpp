@@ -11,9 +11,9 @@
 #include "host/window/separator.h"
 #include "host/window/summary_page.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -27,23 +27,17 @@ const QString summaryName = QStringLiteral("summary");
 
 } // namespace
 
-PageBook::PageBook(QWidget *above, QWidget *parent)
+PageBook::PageBook(QWidget *parent)
     : QWidget(parent), m_list(new PageList(this)), m_stack(new QStackedWidget(this))
 {
-    auto *messages = new QVBoxLayout;
-    messages->setContentsMargins(16, 10, 16, 0);
-    messages->addWidget(above);
-    auto *right = new QVBoxLayout;
-    right->setSpacing(0);
-    right->addLayout(messages);
-    right->addWidget(m_stack, 1);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_list);
     row->addWidget(new Separator(Qt::Vertical, this));
-    row->addLayout(right, 1);
+    row->addWidget(m_stack, 1);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
 }
 
 PageBook::~PageBook()
@@ -63,6 +57,20 @@ void PageBook::setSession(DialogSession *session)
     if (!session->otherKeywords().isEmpty())
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
+    fitList();
+}
+
+// The list has the width of its names, but leaves the pages the larger part of a narrow window.
+void PageBook::fitList()
+{
+    const int least = m_list->minimumSizeHint().width();
+    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
+}
+
+void PageBook::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitList();
 }
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
@@ -134,6 +142,8 @@ void PageBook::showPage(int row)
 {
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
         return;
+    QWidget *const focus = window()->focusWidget();
+    const bool wasOnPage = focus && m_stack->isAncestorOf(focus);
     const bool allowed = leave();
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentRow(allowed ? row : m_current); // before a panel that may make the user wait
@@ -151,6 +161,9 @@ void PageBook::showPage(int row)
     if (isBuilt)
         refresh();
     m_stack->setCurrentWidget(page.frame);
+    page.frame->scrollToTop();
+    if (wasOnPage) // it would go to whatever comes next
+        m_list->setFocus();
     Q_EMIT shown();
 }
 
@@ -180,6 +193,23 @@ void PageBook::turn(int steps)
 {
     if (!m_pages.empty())
         showPage(std::clamp(m_current + steps, 0, static_cast<int>(m_pages.size()) - 1));
+}
+
+int PageBook::wantedWidth() const
+{
+    const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
+    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() : 0;
+}
+
+QWidget *PageBook::pages() const
+{
+    return m_stack;
+}
+
+void PageBook::followFocus(QWidget *now)
+{
+    if (now && m_current >= 0 && m_stack->isAncestorOf(now))
+        m_pages[static_cast<size_t>(m_current)].frame->reveal(now);
 }
 
 bool PageBook::checkTyped()

@@ -25,8 +25,7 @@ class PageBook : public QWidget
 {
     Q_OBJECT
 public:
-    // `above` is shown over the current page.
-    PageBook(QWidget *above, QWidget *parent);
+    explicit PageBook(QWidget *parent);
     ~PageBook() override;
 
     void setSession(DialogSession *session);
@@ -44,6 +43,11 @@ public:
     void refresh();
     // Moves `steps` pages on, as far as there are any.
     void turn(int steps);
+    // How wide it must be to show the current page without scrolling sideways.
+    int wantedWidth() const;
+    PageList *list() const { return m_list; }
+    // What holds the pages.
+    QWidget *pages() const;
 
     // Whether what is typed on the general page makes sense; shows the place where it does not.
     bool checkTyped();
@@ -55,6 +59,9 @@ Q_SIGNALS:
     void shown();
     // The user chose something that is marked at once.
     void chosen();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct Page
@@ -68,6 +75,8 @@ private:
     void makeFrame(Page *page);
     QWidget *contentOf(const Page &page);
     bool leave();
+    void followFocus(QWidget *now);
+    void fitList();
 
     DialogSession *m_session = nullptr;
     std::vector<Page> m_pages;

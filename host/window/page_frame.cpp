@@ -16,11 +16,7 @@ class PageScroll : public QScrollArea
 public:
     using QScrollArea::QScrollArea;
 
-    QSize minimumSizeHint() const override
-    {
-        const int inner = widget() ? widget()->minimumSizeHint().width() : 0;
-        return {inner + verticalScrollBar()->sizeHint().width(), 120};
-    }
+    QSize minimumSizeHint() const override { return {160, 40}; }
     QSize sizeHint() const override
     {
         const QSize inner = widget() ? widget()->sizeHint() : QSize();
@@ -39,29 +35,53 @@ PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
     large.setPointSizeF(large.pointSizeF() * 1.5);
     heading->setFont(large);
     heading->setContentsMargins(24, 12, 24, 0);
+    heading->setWordWrap(true);
 
+    // The heading scrolls along: a low window has better use for its place.
+    auto *sheet = new QWidget;
+    auto *lines = new QVBoxLayout(sheet);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    lines->addWidget(heading);
+    lines->addWidget(content, 1);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setWidget(content);
+    m_scroll->setWidget(sheet);
     m_scroll->viewport()->setAutoFillBackground(false);
+    sheet->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
     content->show();
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(heading);
     column->addWidget(m_scroll, 1);
 }
 
 PageFrame::~PageFrame() = default;
 
+int PageFrame::wantedWidth() const
+{
+    const int inner = m_scroll->widget()->minimumSizeHint().width();
+    return inner + m_scroll->verticalScrollBar()->sizeHint().width();
+}
+
+void PageFrame::scrollToTop()
+{
+    m_scroll->verticalScrollBar()->setValue(0);
+    m_scroll->horizontalScrollBar()->setValue(0);
+}
+
+void PageFrame::reveal(QWidget *control)
+{
+    if (m_content && m_content->isAncestorOf(control))
+        m_scroll->ensureWidgetVisible(control, 12, 12);
+}
+
 void PageFrame::releaseContent()
 {
-    if (m_content && m_scroll->widget() == m_content) {
-        m_scroll->takeWidget();
+    if (m_content && isAncestorOf(m_content)) {
         m_content->hide();
         m_content->setParent(nullptr);
     }

@@ -9,8 +9,7 @@
 
 namespace host {
 
-// One page of the dialog: a heading and what is below it, which scrolls up and down where the window is too
-// low and is never cut at its sides.
+// One page of the dialog: a heading and what is below it, which scrolls where the window is too small for it.
 class PageFrame : public QWidget
 {
     Q_OBJECT
@@ -20,6 +19,11 @@ public:
 
     // For content that belongs to somebody else: parts from it before that one takes it away.
     void releaseContent();
+    // How wide it must be to show everything without scrolling sideways.
+    int wantedWidth() const;
+    void scrollToTop();
+    // Brings a control of the page into view.
+    void reveal(QWidget *control);
 
 private:
     QScrollArea *m_scroll;

@@ -3,6 +3,8 @@
 
 #include "host/window/page_list.h"
 
+#include "host/window/contrast.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -43,16 +45,18 @@ public:
             painter->setBrush(hover);
             painter->drawRoundedRect(ground, 6, 6);
         }
-        if (selected && (option.state & QStyle::State_HasFocus) &&
-            (option.state & QStyle::State_KeyboardFocusChange)) {
+        const QColor ink =
+            selected ? highlightInk(option.palette) : option.palette.color(QPalette::Active, QPalette::Text);
+        painter->setPen(ink);
+        if (selected && (option.state & QStyle::State_HasFocus)) {
             painter->setBrush(Qt::NoBrush);
-            painter->setPen(QPen(option.palette.color(QPalette::HighlightedText), 1, Qt::DotLine));
-            painter->drawRoundedRect(ground.adjusted(2, 2, -2, -2), 4, 4);
+            painter->setPen(QPen(ink, 2));
+            painter->drawRoundedRect(ground.adjusted(3, 3, -3, -3), 4, 4);
         }
-        painter->setPen(
-            option.palette.color(QPalette::Active, selected ? QPalette::HighlightedText : QPalette::Text));
-        painter->drawText(option.rect.adjusted(textMargin, 0, -textMargin, 0),
-                          Qt::AlignVCenter | Qt::AlignLeading, index.data().toString());
+        const QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
+        painter->drawText(
+            place, Qt::AlignVCenter | Qt::AlignLeading,
+            QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width()));
         painter->restore();
     }
 };
@@ -75,12 +79,13 @@ PageList::PageList(QWidget *parent) : QListWidget(parent)
 void PageList::addPage(const QString &title)
 {
     addItem(title);
+    item(count() - 1)->setToolTip(title);
     updateGeometry();
 }
 
 QSize PageList::sizeHint() const
 {
-    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin), 240};
+    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin + 4), 240};
 }
 
 void PageList::changeEvent(QEvent *event)

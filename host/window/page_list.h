@@ -7,7 +7,8 @@
 
 namespace host {
 
-// The names of the pages at the side of the dialog, one of them current. As wide as its longest name.
+// The names of the pages at the side of the dialog, one of them current. As wide as its longest name where
+// there is room for it.
 class PageList : public QListWidget
 {
     Q_OBJECT
@@ -16,7 +17,7 @@ public:
 
     void addPage(const QString &title);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return {sizeHint().width(), 0}; }
+    QSize minimumSizeHint() const override { return {120, 0}; }
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -6,24 +6,25 @@
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
 #include "host/session/carry_over.h"
+#include "host/window/access_keys.h"
+#include "host/window/dialog_button.h"
+#include "host/window/focus_ring.h"
+#include "host/window/foreign_text.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
-#include "host/window/separator.h"
 #include "host/window/startup_clock.h"
 #include "host/window/unavailable_page.h"
+#include "platform/key_value_object.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -32,23 +33,36 @@ namespace host {
 namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
+constexpr int usualLines = 34;   // that the window is high where there is room for it
 
+// "“one.pdf”, “two.pdf”"; empty for the standard input.
+QString namesOf(const QStringList &files)
+{
+    QStringList names;
+    for (const QString &file : files) {
+        if (file != QLatin1String("-"))
+            names.append(PrintWindow::tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
+    }
+    return names.join(QStringLiteral(", "));
 }
+
+} // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(m_bar, this)),
-      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)), m_status(new QLabel(this)),
-      m_cancel(new QPushButton(tr("Cancel"), this)), m_print(new QPushButton(tr("&Print"), this))
+      m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
+      m_result(new ResultPage(this)), m_status(new QLabel(this)),
+      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
+      m_keys(new AccessKeys(this,
+                            {m_print, m_picker, m_cancel, m_book->pages(), m_unavailable, m_result, m_bar}))
 {
-    const QString document =
-        m_task.files.isEmpty() ? QString() : readableFileName(QFileInfo(m_task.files.first()).fileName());
-    setWindowTitle(document.isEmpty() || document == QLatin1String("-") ? tr("Print")
-                                                                        : tr("Print “%1”").arg(document));
+    const QString documents = namesOf(m_task.files);
+    setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
+    new FocusRing(this);
     build();
     connectAll();
     showState(State::Unavailable);
-    resize(720, 600);
+    resize(720, qMax(600, usualLines * fontMetrics().height()));
 }
 
 PrintWindow::~PrintWindow()
@@ -56,38 +70,13 @@ PrintWindow::~PrintWindow()
     m_book->clear(); // before the session, whose panels own views in it
 }
 
-void PrintWindow::build()
-{
-    m_picker->setContentsMargins(20, 16, 20, 12);
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
-    m_print->setDefault(true);
-    m_cancel->setAutoDefault(false);
-    for (QPushButton *button : {m_cancel, m_print})
-        button->setMinimumWidth(96);
-    auto *footer = new QHBoxLayout;
-    footer->setContentsMargins(20, 12, 20, 14);
-    footer->setSpacing(10);
-    footer->addWidget(m_status, 1);
-    footer->addWidget(m_cancel);
-    footer->addWidget(m_print);
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(m_picker);
-    column->addWidget(new Separator(Qt::Horizontal, this));
-    for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_result})
-        column->addWidget(part, 1);
-    column->addWidget(new Separator(Qt::Horizontal, this));
-    column->addLayout(footer);
-}
-
 void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
+    connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
+    connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::chosen, this, [this] {
         sessionChanged();
         showConflicts();
@@ -106,12 +95,15 @@ void PrintWindow::connectAll()
 void PrintWindow::showState(State state)
 {
     m_book->setVisible(state == State::Choosing);
+    if (state != State::Choosing)
+        m_bar->hide();
     m_unavailable->setVisible(state == State::Unavailable);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done);
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
         m_print->setEnabled(false);
+    arrange();
 }
 
 bool PrintWindow::open(PrintError *error)
@@ -200,12 +192,20 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setCurrent(m_session->destination());
     else
         m_picker->setFixedText(m_session->destination().displayName());
-    m_book->setSession(m_session.get());
+    showSession();
     showState(State::Choosing);
     m_print->setEnabled(hasQueue && !m_task.files.isEmpty());
     m_print->setToolTip(m_print->isEnabled() ? QString()
                                              : tr("There is no document or no printer to print it on"));
     showNotices();
+}
+
+void PrintWindow::showSession()
+{
+    for (int i = 0; i < m_session->panelCount(); ++i)
+        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
+                &PrintWindow::recheckLater);
+    m_book->setSession(m_session.get());
 }
 
 void PrintWindow::sessionChanged()
@@ -255,7 +255,10 @@ bool PrintWindow::showConflicts()
         answers.append(tr("App&ly Suggestion"));
     }
     answers.append(tr("Keep and Re&view"));
-    m_askingConflict = true;
+    const bool known = std::exchange(m_askingConflict, true) && m_bar->isShowing() &&
+                       m_bar->text().endsWith(lines.join(QLatin1Char('\n')));
+    if (known) // not read out again
+        return true;
     m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
                        answers);
     return true;
@@ -270,6 +273,25 @@ bool PrintWindow::showProtectionGap()
     m_session->addNotice(gap);
     showNotices();
     return true;
+}
+
+// What a panel has changed is marked when it is saved; until then nobody knows whether a conflict that the
+// user is asked about has gone.
+void PrintWindow::recheckLater()
+{
+    if (!m_askingConflict || std::exchange(m_recheckQueued, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_askingConflict && m_session) {
+                m_session->save();
+                sessionChanged();
+                showConflicts();
+            }
+            m_recheckQueued = false;
+        },
+        Qt::QueuedConnection);
 }
 
 void PrintWindow::answer(int index)
@@ -412,8 +434,10 @@ void PrintWindow::print()
         return;
     m_session->save();
     sessionChanged();
-    if (showConflicts())
+    if (showConflicts()) {
+        m_bar->takeFocus();
         return;
+    }
     PrintError error;
     if (!m_documents.open(m_task.files, nullptr, &error)) {
         showError(error);
@@ -437,12 +461,14 @@ void PrintWindow::print()
 void PrintWindow::showResult()
 {
     const Destination destination = m_session->destination();
-    m_result->showSubmission(destination.displayName(), *m_submission, [this, destination] {
-        return m_system.jobStatus(destination, m_submission->job.id);
-    });
+    m_result->showSubmission(
+        destination.displayName(), namesOf(m_task.files), *m_submission,
+        [this, destination] { return m_system.jobStatus(destination, m_submission->job.id); });
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);
+    m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
+    m_cancel->setAccessibleDescription(m_result->text());
     m_cancel->setFocus();
 }
 

@@ -14,11 +14,13 @@
 #include <memory>
 #include <optional>
 
+class QHBoxLayout;
 class QLabel;
-class QPushButton;
 
 namespace host {
 
+class AccessKeys;
+class DialogButton;
 class MessageBar;
 class PageBook;
 class PrinterPicker;
@@ -55,6 +57,10 @@ public:
     const std::optional<Submission> &submission() const { return m_submission; }
     MessageBar *messageBar() const { return m_bar; }
     PageBook *book() const { return m_book; }
+    // Shows the session's pages anew, as after its panels have become others.
+    void showSession();
+    // How large the window may be, instead of what its screen has free.
+    void setRoom(const QSize &room);
 
 public Q_SLOTS:
     void print();
@@ -63,12 +69,20 @@ public Q_SLOTS:
     void finishLater();
     void retry();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     enum class State { Unavailable, Choosing, Done };
 
     void build();
     void connectAll();
     void showState(State state);
+    // Tab order, access keys and size follow what is shown.
+    void arrange();
+    void fit();
+    void setCompact(bool compact);
     std::optional<Destination> firstDestination(PrintError *error);
     std::optional<OpenedPrinter> openPrinterOfTask(const QString &printer, PrintError *error);
     std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
@@ -78,6 +92,7 @@ private:
     void sessionChanged();
     void showNotices();
     bool showConflicts();
+    void recheckLater();
     void answer(int index);
     void reopen();
     void checkDocuments();
@@ -93,6 +108,7 @@ private:
     std::unique_ptr<DialogSession> m_session;
     DocumentList m_documents;
     bool m_askingConflict = false;
+    bool m_recheckQueued = false;
     QStringList m_notices; // not yet closed by the user
     QString m_toldGap;     // in the protection of the job
     std::optional<Resolution> m_proposal;
@@ -104,8 +120,12 @@ private:
     UnavailablePage *m_unavailable;
     ResultPage *m_result;
     QLabel *m_status;
-    QPushButton *m_cancel;
-    QPushButton *m_print;
+    DialogButton *m_cancel;
+    DialogButton *m_print;
+    AccessKeys *m_keys;
+    QHBoxLayout *m_footer;
+    QHBoxLayout *m_messages;
+    QSize m_room; // null for what the screen has free
     int m_busyDepth = 0;
 };
 

@@ -17,10 +17,12 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 {
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->setMinimumContentsLength(24);
-    m_box->setMaximumWidth(420);
+    m_box->setMinimumWidth(160);
+    m_box->setMaximumWidth(qMax(420, 32 * m_box->fontMetrics().averageCharWidth()));
     m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setAccessibleName(tr("Printer"));
     m_state->setIndent(2);
+    m_state->setWordWrap(true);
     QPalette muted = m_state->palette();
     QColor colour = muted.color(QPalette::WindowText);
     colour.setAlphaF(0.72F);
@@ -80,6 +82,12 @@ void PrinterPicker::setFixedText(const QString &text)
     m_state->showText(tr("Options of a PPD file; there is no printer to print on"));
 }
 
+void PrinterPicker::setCompact(bool compact)
+{
+    setContentsMargins(20, compact ? 8 : 16, 20, compact ? 8 : 12);
+    m_state->setVisible(!compact);
+}
+
 void PrinterPicker::describe(const Destination &printer)
 {
     QStringList parts;
@@ -93,7 +101,10 @@ void PrinterPicker::describe(const Destination &printer)
         parts.append(printer.location);
     if (!printer.makeAndModel.isEmpty())
         parts.append(printer.makeAndModel);
-    m_state->showText(parts.join(QStringLiteral("  ·  ")));
+    const QString state = parts.join(QStringLiteral("  ·  "));
+    m_state->showText(state);
+    m_box->setToolTip(tooltipOf(state));
+    m_box->setAccessibleDescription(oneLine(state));
 }
 
 } // namespace host

@@ -27,6 +27,8 @@ public:
     void setCurrent(const Destination &printer);
     // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
     void setFixedText(const QString &text);
+    // Leaves out how the printer is, for want of room.
+    void setCompact(bool compact);
     QComboBox *box() const { return m_box; }
 
 Q_SIGNALS:

@@ -3,10 +3,10 @@
 
 #include "host/window/result_page.h"
 
+#include "host/window/announced.h"
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -19,14 +19,17 @@ namespace {
 constexpr int iconSize = 48; // pixels
 constexpr std::chrono::seconds between(1);
 
-StatusGlyph::Kind kindOf(JobStatus::State state)
+StatusGlyph::Kind kindOf(const JobStatus &status)
 {
-    switch (state) {
+    if (status.printerStopped && !status.isFinal())
+        return StatusGlyph::Kind::Notice;
+    switch (status.state) {
     case JobStatus::State::Aborted:
         return StatusGlyph::Kind::Error;
     case JobStatus::State::Cancelled:
     case JobStatus::State::Stopped:
     case JobStatus::State::Unknown:
+    case JobStatus::State::Held:
         return StatusGlyph::Kind::Notice;
     default:
         return StatusGlyph::Kind::Success;
@@ -46,8 +49,9 @@ QLabel *centredLabel(QWidget *parent)
 
 ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
-      m_state(centredLabel(this)), m_notes(centredLabel(this))
+      m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
+    makeAnnounced(this);
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
     large.setWeight(QFont::DemiBold);
@@ -57,36 +61,38 @@ ResultPage::ResultPage(QWidget *parent)
     column->setSpacing(10);
     column->addStretch(2);
     column->addWidget(m_glyph, 0, Qt::AlignHCenter);
-    for (QLabel *label : {m_title, m_state, m_notes})
+    for (QLabel *label : {m_title, m_documents, m_state, m_notes})
         column->addWidget(label);
     column->addStretch(3);
     m_timer.setInterval(between);
     connect(&m_timer, &QTimer::timeout, this, [this] { showStatus(m_query()); });
 }
 
-void ResultPage::showSubmission(const QString &printer, const Submission &submission, StatusQuery query)
+void ResultPage::showSubmission(const QString &printer, const QString &documents,
+                                const Submission &submission, StatusQuery query)
 {
     const SubmittedJob &job = submission.job;
+    m_printer = oneLine(printer);
     m_query = std::move(query);
     m_id = job.id;
+    m_documents->setText(wrappable(documents));
+    m_documents->setVisible(!documents.isEmpty());
     m_notes->setText(wrappable(job.differences.join(QLatin1Char('\n'))));
     m_notes->setVisible(!job.differences.isEmpty());
     if (submission.isAccepted()) {
-        m_title->setText(tr("Sent to “%1”").arg(oneLine(printer)));
+        m_title->setText(tr("Sent to “%1”").arg(m_printer));
         showStatus(job.status);
     } else {
-        showUnknown(printer, submission);
+        showUnknown(submission);
     }
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
-void ResultPage::showUnknown(const QString &printer, const Submission &submission)
+void ResultPage::showUnknown(const Submission &submission)
 {
-    m_title->setText(tr("Perhaps sent to “%1”").arg(oneLine(printer)));
+    m_title->setText(tr("Perhaps sent to “%1”").arg(m_printer));
     m_glyph->setKind(StatusGlyph::Kind::Notice);
     m_state->setText(wrappable(submission.error.message));
-    setAccessibleName(text());
+    announce(this, text());
 }
 
 void ResultPage::showStatus(const JobStatus &status)
@@ -94,20 +100,33 @@ void ResultPage::showStatus(const JobStatus &status)
     // A server that does not answer just now tells nothing new.
     if (status.state == JobStatus::State::Unknown && !m_state->text().isEmpty())
         return;
-    m_glyph->setKind(kindOf(status.state));
-    const QString state = tr("Job %1: %2").arg(m_id).arg(status.text());
-    m_state->setText(
-        wrappable(status.message.isEmpty() ? state : state + QLatin1Char('\n') + status.message));
-    setAccessibleName(text());
+    m_glyph->setKind(kindOf(status));
+    const QString state = wrappable(sentence(status));
+    if (state != m_state->text()) {
+        m_state->setText(state);
+        announce(this, text());
+    }
     if (status.isFinal())
         m_timer.stop();
     else if (!m_timer.isActive())
         m_timer.start();
 }
 
+QString ResultPage::sentence(const JobStatus &status) const
+{
+    QString sentence = tr("Job %1: %2").arg(m_id).arg(status.text());
+    if (status.state == JobStatus::State::Held)
+        sentence +=
+            QLatin1Char('\n') +
+            tr("A private job is printed once you enter its code at the printer “%1”.").arg(m_printer);
+    return status.message.isEmpty() ? sentence : sentence + QLatin1Char('\n') + status.message;
+}
+
 QString ResultPage::text() const
 {
-    return m_title->text() + QLatin1Char('\n') + m_state->text();
+    QStringList lines{m_title->text(), m_documents->text(), m_state->text()};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace host

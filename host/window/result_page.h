@@ -25,19 +25,24 @@ public:
     using StatusQuery = std::function<JobStatus()>;
 
     explicit ResultPage(QWidget *parent = nullptr);
-    void showSubmission(const QString &printer, const Submission &submission, StatusQuery query);
+    // `documents` are their names, for the user; may be empty.
+    void showSubmission(const QString &printer, const QString &documents, const Submission &submission,
+                        StatusQuery query);
     QString text() const;
 
 private:
-    void showUnknown(const QString &printer, const Submission &submission);
+    void showUnknown(const Submission &submission);
     void showStatus(const JobStatus &status);
+    QString sentence(const JobStatus &status) const;
 
     StatusGlyph *m_glyph;
     QLabel *m_title;
+    QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
     QTimer m_timer;
     StatusQuery m_query;
+    QString m_printer;
     int m_id = 0;
 };
 

@@ -18,6 +18,7 @@ public:
     // `size` in pixels, both ways.
     StatusGlyph(int size, QWidget *parent);
     void setKind(Kind kind);
+    Kind kind() const { return m_kind; }
     static QColor colorOf(Kind kind, const QPalette &palette);
 
 protected:

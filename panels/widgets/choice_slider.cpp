@@ -179,8 +179,14 @@ std::optional<int> QVChoiceSlider_M880::positionTowards(int wanted) const
 
 void QVChoiceSlider_M880::wheelEvent(QWheelEvent *event)
 {
-    if (hasFocus())
-        QSlider::wheelEvent(event);
-    else
+    if (!hasFocus()) {
         event->ignore();
+        return;
+    }
+    // Qt would take as many steps a notch as lines are scrolled.
+    m_turned += event->angleDelta().y();
+    for (; std::abs(m_turned) >= QWheelEvent::DefaultDeltasPerStep;
+         m_turned -= m_turned > 0 ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep)
+        triggerAction(m_turned > 0 ? SliderSingleStepAdd : SliderSingleStepSub);
+    event->accept();
 }

@@ -45,7 +45,7 @@ Q_SIGNALS:
 protected:
     void sliderChange(SliderChange change) override;
     void paintEvent(QPaintEvent *event) override;
-    // Scrolling past it must not change it.
+    // One step a notch. Scrolling past it must not change it.
     void wheelEvent(QWheelEvent *event) override;
 
 private:
@@ -63,4 +63,5 @@ private:
     int m_shown = 0;               // where the thumb last rested
     bool m_showing = false;
     bool m_settling = false;
+    int m_turned = 0; // by the wheel, in eighths of a degree, since the last step
 };

@@ -43,6 +43,10 @@ QVNeutralButton_M880::QVNeutralButton_M880(QWidget *parent) : QToolButton(parent
 void QVNeutralButton_M880::setValue(int value)
 {
     m_value = value;
+    // Pressed, it has nothing left to do: the keyboard goes back to the slider rather than on to what
+    // follows.
+    if (m_value == 0 && hasFocus())
+        focusPreviousChild();
     setEnabled(m_allowed && m_value != 0);
 }
 

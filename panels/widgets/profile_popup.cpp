@@ -11,7 +11,6 @@
 #include <QStylePainter>
 #include <QTextDocument>
 #include <QToolTip>
-#include <QWheelEvent>
 
 namespace {
 
@@ -22,12 +21,11 @@ const bool registered = [] {
 
 } // namespace
 
-QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : QComboBox(parent)
+QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : ChoiceBox(parent)
 {
     // A device may call its profiles anything; the pop-up keeps its width.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setIconSize({0, 0}); // its policy would leave room for one, and make it taller than other pop-ups
-    setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
 }
 
@@ -101,7 +99,7 @@ QString QVProfilePopUp_M880::elided(const QString &text) const
 bool QVProfilePopUp_M880::event(QEvent *event)
 {
     if (event->type() != QEvent::ToolTip || elided(currentText()) == currentText())
-        return QComboBox::event(event);
+        return platform::ChoiceBox::event(event);
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), currentData(Qt::ToolTipRole).toString(),
                        this);
     return true;
@@ -115,12 +113,4 @@ void QVProfilePopUp_M880::paintEvent(QPaintEvent *)
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     option.currentText = elided(option.currentText);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
-}
-
-void QVProfilePopUp_M880::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }

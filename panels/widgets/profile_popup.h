@@ -3,14 +3,15 @@
 
 #pragma once
 
-#include <QComboBox>
+#include "platform/choice_box.h"
+
 #include <QVariant>
 
 // A pop-up of names that the device told, each with the number by which the device knows it. A selected
 // number that no name belongs to gets an item of its own and stays selected; showing, listing anew or looking
 // never changes the selection, only the user does. A name is shown on one line, cut with an ellipsis where it
 // is too long, and whole in the tooltip.
-class QVProfilePopUp_M880 : public QComboBox
+class QVProfilePopUp_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
     // A list of strings, shown as plain text; nil is empty.
@@ -40,8 +41,6 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    // Scrolling past it must not change it.
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void choose(int index);

@@ -12,6 +12,7 @@ run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters ghostscript file libqt6gui6 qt6-qpa-plugins
     snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
     avahi-daemon avahi-utils dbus-daemon libnss-mdns iproute2 util-linux bsdextrautils procps
+    at-spi2-core python3-pyatspi qt6-translations-l10n
 )
 check_packages=(clang-format)
 room_packages=(mmdebstrap git ccache iproute2)

@@ -116,7 +116,10 @@ void DialogSessionTest::panelsNeverShownKeepTheirSettings()
     // The reset counts; the sharpness that the panel has never read does not become its default.
     QCOMPARE(m_session->ppd()->markedChoice(u"Cyan"_s), u"0"_s);
     QCOMPARE(m_session->ppd()->markedChoice(u"Sharp"_s), u"1"_s);
-    QCOMPARE(m_session->takeNotices(), QStringList(u"“Cyan Balance” was reset to “Neutral”."_s));
+    QCOMPARE(
+        m_session->takeNotices(),
+        QStringList(
+            u"“Cyan Balance” was reset to “Neutral”. The reason: “Colour Mode” is “Black and White”."_s));
     QCOMPARE(m_balance->restored, 0);
     m_session->prepare(1);
     QCOMPARE(m_balance->valueForKey(u"Sharp"_s).toString(), u"1"_s);
@@ -132,7 +135,10 @@ void DialogSessionTest::resetByAnotherPanelIsToldAndSent()
     QSignalSpy changed(m_session.get(), &DialogSession::changed);
     m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s); // as a control does it: nobody calls the session
     QVERIFY(changed.wait());
-    QCOMPARE(m_session->takeNotices(), QStringList(u"“Cyan Balance” was reset to “Neutral”."_s));
+    QCOMPARE(
+        m_session->takeNotices(),
+        QStringList(
+            u"“Cyan Balance” was reset to “Neutral”. The reason: “Colour Mode” is “Black and White”."_s));
     m_session->save();
     QCOMPARE(sentValue(m_session->jobOptions(), u"Cyan"_s), u"0"_s);
     QCOMPARE(sentValue(m_session->jobOptions(), u"ColorType"_s), u"Mono"_s);

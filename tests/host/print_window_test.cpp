@@ -5,26 +5,20 @@
 #include "host/session/chosen_settings.h"
 #include "host/window/elided_label.h"
 #include "host/window/message_bar.h"
-#include "host/window/mnemonics.h"
 #include "host/window/page_book.h"
 #include "host/window/page_list.h"
-#include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/unavailable_page.h"
-#include "tests/host/host_fixture.h"
+#include "tests/host/window_fixture.h"
 
-#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardItemModel>
-#include <QTemporaryFile>
 #include <QTest>
 
 using namespace host;
@@ -48,12 +42,12 @@ public:
 } // namespace
 
 // The window over a print system without a server, worked with keys and clicks.
-class PrintWindowTest : public QObject
+class PrintWindowTest : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { reset(); }
+    void cleanup() { m_window.reset(); }
     void printsWithTheGeneralPane();
     void nonsensicalPagesStopPrinting();
     void conflictIsExplainedAndResolved();
@@ -72,82 +66,7 @@ private Q_SLOTS:
     void unfinishedPasswordStopsPrinting();
     void textsAreNeverMarkup();
     void longTextsKeepTheWindow();
-    void mnemonics();
-
-private:
-    PrintWindow &open(const QString &printer = QString());
-    template <typename W>
-    W *find(const QString &name = QString())
-    {
-        return m_window->findChild<W *>(name);
-    }
-    void choose(const QString &keyword, const QString &choice);
-    QPushButton *printButton() const;
-
-    FakePrintSystem m_system;
-    Extensions m_none{{}};
-    QTemporaryFile m_document;
-    std::unique_ptr<PrintWindow> m_window;
 };
-
-void PrintWindowTest::init()
-{
-    QCoreApplication::setOrganizationName(u"kelmar-test"_s);
-    QCoreApplication::setApplicationName(u"print-window-test"_s);
-    QSettings().clear();
-    m_system = FakePrintSystem();
-    Destination office = officePrinter();
-    office.isDefault = true;
-    Destination attic = officePrinter(u"attic"_s);
-    attic.info = u"Attic"_s;
-    m_system.printers = {office, attic, officePrinter(u"raw"_s)};
-    m_system.ppds = {{u"office"_s, officePpd()}, {u"attic"_s, officePpd()}};
-    m_system.status.state = JobStatus::State::Processing;
-    if (!m_document.isOpen()) {
-        QVERIFY(m_document.open());
-        m_document.write("some text\n");
-        m_document.flush();
-    }
-}
-
-void PrintWindowTest::cleanup()
-{
-    m_window.reset();
-}
-
-PrintWindow &PrintWindowTest::open(const QString &printer)
-{
-    PrintTask task;
-    task.files = {m_document.fileName()};
-    task.printer = printer;
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
-    PrintError error;
-    if (!m_window->open(&error))
-        qFatal("%s", qPrintable(error.message));
-    m_window->show();
-    m_window->loadPrinterList();
-    if (!QTest::qWaitForWindowActive(m_window.get()))
-        qFatal("the window does not appear");
-    return *m_window;
-}
-
-// As a user does it: the keyboard opens no list here, so the box is told and announces it.
-void PrintWindowTest::choose(const QString &keyword, const QString &choice)
-{
-    auto *box = find<QComboBox>(keyword);
-    QVERIFY2(box, qPrintable(keyword));
-    box->setCurrentIndex(box->findData(choice));
-    Q_EMIT box->activated(box->currentIndex());
-}
-
-QPushButton *PrintWindowTest::printButton() const
-{
-    for (auto *button : m_window->findChildren<QPushButton *>()) {
-        if (button->isDefault())
-            return button;
-    }
-    return nullptr;
-}
 
 void PrintWindowTest::printsWithTheGeneralPane()
 {
@@ -265,7 +184,7 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     auto *item =
         qobject_cast<QStandardItemModel *>(duplex->model())->item(duplex->findData(u"DuplexNoTumble"_s));
     QVERIFY(!item->isEnabled());
-    QVERIFY(item->toolTip().contains(u"Not together with Paper Type: Heavy Paper"_s));
+    QCOMPARE(item->accessibleDescription(), u"Not available while \"Paper Type\" is \"Heavy Paper\"."_s);
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
@@ -492,16 +411,6 @@ void PrintWindowTest::textsAreNeverMarkup()
         seen |= label->text().contains(u"Two</b"_s) || label->text().contains(u"b>T"_s);
     }
     QVERIFY(seen);
-}
-
-void PrintWindowTest::mnemonics()
-{
-    Mnemonics mnemonics;
-    mnemonics.reserve(u"&Printer:"_s);
-    QCOMPARE(mnemonics.assign(u"Paper"_s), u"P&aper"_s);
-    QCOMPARE(mnemonics.assign(u"Pa"_s), u"Pa"_s);
-    QCOMPARE(mnemonics.assign(u"a & b"_s), u"a && &b"_s);
-    QCOMPARE(mnemonics.assign(u"用紙"_s), u"用紙"_s);
 }
 
 QTEST_MAIN(PrintWindowTest)

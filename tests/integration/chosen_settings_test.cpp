@@ -115,7 +115,7 @@ std::optional<CapturedJob> ChosenSettingsTest::printed()
     const QJsonObject job = m_json[u"job"_s].toObject();
     if (!job[u"differences"_s].toArray().isEmpty())
         qWarning() << job;
-    return m_server.waitForJob(m_window ? m_window->job()->id : job[u"id"_s].toInt());
+    return m_server.waitForJob(m_window ? m_window->submission()->job.id : job[u"id"_s].toInt());
 }
 
 PrintWindow &ChosenSettingsTest::open(const QString &printer, const QList<ChosenSetting> &settings)
@@ -156,13 +156,13 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
     QVERIFY2(!text.contains(u"12345"_s), qPrintable(text));
     pick(u"second"_s); // has it again
     window.print();
-    QVERIFY2(window.job(), qPrintable(window.messageBar()->text()));
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     const auto job = printed();
     QVERIFY(job);
     for (const QString &option :
          {u"PrintMode=Private"_s, u"DINDigit1=1"_s, u"DINDigit5=5"_s, u"SharpnessVRN=2"_s})
         QVERIFY2(arrived(*job, option), qPrintable(option + u" in "_s + job->optionText));
-    QVERIFY(window.job()->differences.isEmpty()); // the priority, which filters do not see
+    QVERIFY(window.submission()->job.differences.isEmpty()); // the priority, which filters do not see
 }
 
 void ChosenSettingsTest::choiceBeatsTheQueuesDefault()
@@ -184,9 +184,9 @@ void ChosenSettingsTest::defaultThatAppearsLaterIsTold()
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"two-sided-long-edge"_s));
     window.print(); // as "Off", which is what its user sees
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"one-sided"_s));
-    QVERIFY2(window.job(), qPrintable(window.messageBar()->text()));
-    QVERIFY2(window.job()->differences.join(u' ').contains(u"sides"_s),
-             qPrintable(window.job()->differences.join(u' ')));
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QVERIFY2(window.submission()->job.differences.join(u' ').contains(u"sides"_s),
+             qPrintable(window.submission()->job.differences.join(u' ')));
 }
 
 void ChosenSettingsTest::waysOutKeepPrivatePrinting_data()
@@ -246,11 +246,11 @@ void ChosenSettingsTest::gapHoldsUpTheWindowOnce()
     const int panel = window.session()->panelOfKeyword(u"PrintMode"_s);
     window.session()->panel(panel)->keyValueObject()->setValueForKey(u"Private"_s, u"PrintMode"_s);
     window.print();
-    QVERIFY(!window.job());
+    QVERIFY(!window.submission());
     QVERIFY2(window.messageBar()->text().contains(u"no code has been given"_s),
              qPrintable(window.messageBar()->text()));
     window.print();
-    QVERIFY(window.job());
+    QVERIFY(window.submission());
 }
 
 void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -68,6 +69,33 @@ private Q_SLOTS:
         m_field->clear();
         const QString arabicIndic = u"٤٢"_s;
         QCOMPARE(paste(arabicIndic), arabicIndic);
+        QCOMPARE(m_beeps, 2);
+        m_field->clear();
+        const QString mathematical = QString::fromUcs4(U"\U0001D7DC\U0001D7DA\U0001D7D8x\U0001D7D9789", 8);
+        QCOMPARE(paste(mathematical), QString::fromUcs4(U"\U0001D7DC\U0001D7DA\U0001D7D8\U0001D7D97", 5));
+        QTest::keyClick(m_field.get(), Qt::Key_Return);
+        QCOMPARE(m_field->stringValue(), u"42017"_s);
+    }
+
+    void undoSurvivesWhatIsRefused()
+    {
+        m_field->setText(u"00000"_s);
+        m_field->selectAll();
+        QTest::keyClicks(m_field.get(), u"12x3"_s);
+        QCOMPARE(m_field->text(), u"123"_s);
+        QApplication::clipboard()->setText(u"4y567"_s);
+        QTest::keySequence(m_field.get(), QKeySequence::Paste);
+        QCOMPARE(m_field->text(), u"12345"_s);
+        QCOMPARE(m_beeps, 2);
+        QStringList back;
+        while (m_field->isUndoAvailable()) {
+            QTest::keySequence(m_field.get(), QKeySequence::Undo);
+            back += m_field->text();
+        }
+        QCOMPARE(back.last(), u"00000"_s);
+        QCOMPARE(back.filter(QRegularExpression(u"[^0-9]"_s)), QStringList());
+        QTest::keySequence(m_field.get(), QKeySequence::Redo);
+        QVERIFY(m_field->text() != u"00000"_s);
         QCOMPARE(m_beeps, 2);
     }
 

@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QTest>
 #include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -145,6 +146,18 @@ private Q_SLOTS:
         QCOMPARE(s.panel.valueForKey(balance), QVariant(u"2"_s));
         click(0);
         QCOMPARE(s.panel.valueForKey(balance), QVariant(u"0"_s));
+
+        s.popUp.showPopup();
+        QAbstractItemView *list = s.popUp.view();
+        QTest::keyClick(list, Qt::Key_Down); // upon the greyed item, which says why it is
+        QCOMPARE(list->currentIndex().row(), 1);
+        QVERIFY(!list->currentIndex().data(Qt::AccessibleDescriptionRole).toString().isEmpty());
+        QVERIFY(QToolTip::text().contains(u"Not available while"_s));
+        QTest::keyClick(list, Qt::Key_Return); // which does not choose it
+        QCOMPARE(s.panel.valueForKey(balance), QVariant(u"0"_s));
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(s.panel.valueForKey(balance), QVariant(u"2"_s));
     }
 
     void turnsWithTheWheelOnlyWithFocus()

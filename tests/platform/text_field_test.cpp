@@ -21,7 +21,7 @@ public:
     void controlTextDidChange(TextField *control, const QVariantMap &userInfo) override
     {
         auto *editor = qobject_cast<QLineEdit *>(userInfo.value(platform::NSFieldEditor).value<QObject *>());
-        QCOMPARE(editor, control);
+        QCOMPARE(editor, control); // nothing is kept out
         editor->setText(editor->text().toUpper());
     }
     bool controlTextShouldEndEditing(TextField *control, QLineEdit *fieldEditor) override
@@ -47,6 +47,7 @@ private Q_SLOTS:
     void settingTheValueEndsEditing();
     void resigningInAWindowNeverShown();
     void commitMayDestroyOtherFields();
+    void firstClickSelectsAll();
 
 private:
     // Two fields, the first with a delegate, and a default button in a dialog that is not shown.
@@ -96,6 +97,9 @@ void TextFieldTest::refusedTextStaysInEditing()
     QTest::keyClick(m_first, Qt::Key_Backspace);
     QTest::keyClick(m_first, Qt::Key_Return);
     QVERIFY(!m_first->isEditing());
+    QCOMPARE(m_first->text(), u"."_s);
+    QCOMPARE(printed.count(), 0);
+    QTest::keyClick(m_first, Qt::Key_Return);
     QCOMPARE(printed.count(), 1);
 }
 
@@ -108,6 +112,9 @@ void TextFieldTest::losingTheFocusCommits()
     QTest::keyClicks(m_first, u"x"_s);
     QFocusEvent toContextMenu(QEvent::FocusOut, Qt::PopupFocusReason);
     QCoreApplication::sendEvent(m_first, &toContextMenu);
+    QVERIFY(m_first->isEditing());
+    QFocusEvent toOtherWindow(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(m_first, &toOtherWindow);
     QVERIFY(m_first->isEditing());
     QTest::keyClick(m_first, Qt::Key_Tab);
     QVERIFY(m_second->hasFocus());
@@ -128,11 +135,18 @@ void TextFieldTest::resigningInAWindowNeverShown()
 {
     m_second->setFocus();
     QTest::keyClicks(m_first, u"a"_s);
-    QTest::keyClicks(m_second, u"b"_s);
     TextField::resignFirstResponder(m_print);
     QCOMPARE(m_first->stringValue(), u"A."_s);
+    QCOMPARE(m_dialog->focusWidget(), m_second); // no edit of its own
+    QTest::keyClicks(m_second, u"b"_s);
+    TextField::resignFirstResponder(m_print);
     QCOMPARE(m_second->stringValue(), u"b"_s);
     QVERIFY(!m_dialog->focusWidget());
+    m_print->setFocus();
+    QTest::keyClicks(m_first, u"c"_s);
+    TextField::resignFirstResponder(m_print);
+    QVERIFY(!m_first->isEditing());
+    QCOMPARE(m_dialog->focusWidget(), m_print);
     TextField::resignFirstResponder(nullptr);
 
     TextField alone; // a window of its own
@@ -148,6 +162,20 @@ void TextFieldTest::commitMayDestroyOtherFields()
     QTest::keyClicks(m_second, u"b"_s);
     TextField::resignFirstResponder(m_first);
     QCOMPARE(m_dialog->findChildren<TextField *>(), QList<TextField *>{m_first});
+}
+
+void TextFieldTest::firstClickSelectsAll()
+{
+    m_second->setText(u"00000"_s);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    m_first->setFocus();
+    QTest::mouseClick(m_second, Qt::LeftButton, {}, {8, m_second->height() / 2});
+    QTest::keyClicks(m_second, u"4"_s);
+    QCOMPARE(m_second->text(), u"4"_s);
+    QTest::mouseClick(m_second, Qt::LeftButton, {}, {4, m_second->height() / 2}); // puts the cursor there
+    QTest::keyClicks(m_second, u"2"_s);
+    QCOMPARE(m_second->text(), u"24"_s);
 }
 
 QTEST_MAIN(TextFieldTest)

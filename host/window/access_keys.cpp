@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/access_keys.h"
+
+#include "host/window/mnemonics.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QLabel>
+
+namespace host {
+
+namespace {
+
+const char *const textProperty = "text";
+
+// Labels and buttons whose text may hold an access key, hidden ones included.
+QList<QWidget *> keyedWidgets(QWidget *part)
+{
+    QList<QWidget *> found;
+    QList<QWidget *> all = part->findChildren<QWidget *>();
+    all.prepend(part);
+    for (QWidget *widget : std::as_const(all)) {
+        const auto *label = qobject_cast<QLabel *>(widget);
+        const bool keyed =
+            label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        if (keyed && !widget->property(textProperty).toString().isEmpty())
+            found.append(widget);
+    }
+    return found;
+}
+
+} // namespace
+
+AccessKeys::AccessKeys(QWidget *window, const QList<QWidget *> &parts)
+    : QObject(window), m_window(window), m_parts(parts)
+{
+}
+
+QString AccessKeys::ownText(QWidget *widget) const
+{
+    const QString text = widget->property(textProperty).toString();
+    const auto known = m_texts.find(widget);
+    return known != m_texts.end() && known->shown == text ? known->own : text;
+}
+
+void AccessKeys::assign()
+{
+    m_queued = false;
+    Mnemonics keys;
+    QHash<QWidget *, Texts> texts;
+    for (QWidget *part : std::as_const(m_parts)) {
+        QList<QWidget *> without;
+        for (QWidget *widget : keyedWidgets(part)) {
+            if (texts.contains(widget))
+                continue;
+            widget->installEventFilter(this);
+            const QString own = ownText(widget);
+            texts.insert(widget, {own, own});
+            if (!widget->isVisibleTo(m_window) || keys.claim(own))
+                continue;
+            if (qobject_cast<QLabel *>(widget) || !Mnemonics::keyOf(own).isNull())
+                without.append(widget);
+        }
+        for (QWidget *widget : std::as_const(without))
+            texts[widget].shown = keys.assign(texts[widget].own);
+    }
+    m_texts = texts;
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        if (it.key()->property(textProperty).toString() != it->shown)
+            it.key()->setProperty(textProperty, it->shown);
+    }
+}
+
+void AccessKeys::assignLater()
+{
+    if (!std::exchange(m_queued, true))
+        QMetaObject::invokeMethod(this, &AccessKeys::assign, Qt::QueuedConnection);
+}
+
+bool AccessKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent ||
+        event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        assignLater();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace host

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class QWidget;
+
+namespace host {
+
+// Sees to it that no two texts on the screen have the same access key, whoever wrote or translated them: the
+// parts of a window choose one after the other, and where a key is taken the text gets another. Labels of
+// fields that ask for none get one, too. Follows what is shown and hidden. A child of its window.
+class AccessKeys : public QObject
+{
+    Q_OBJECT
+public:
+    // Earlier parts have the first choice. They belong to the window and outlive this object.
+    AccessKeys(QWidget *window, const QList<QWidget *> &parts);
+
+    // Looks at what is shown now.
+    void assign();
+    // The same, once control returns to the event loop, however often it is asked for.
+    void assignLater();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Texts
+    {
+        QString own;   // as it was set by whoever made the widget
+        QString shown; // as it was left here
+    };
+    QString ownText(QWidget *widget) const;
+
+    QWidget *m_window;
+    QList<QWidget *> m_parts;
+    QHash<QWidget *, Texts> m_texts; // of the widgets seen last
+    bool m_queued = false;
+};
+
+} // namespace host

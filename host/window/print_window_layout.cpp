@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// How the window's parts are laid out, and how they share what room there is.
+
+#include "host/window/access_keys.h"
+#include "host/window/dialog_button.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "host/window/result_page.h"
+#include "host/window/separator.h"
+#include "host/window/tab_order.h"
+#include "host/window/unavailable_page.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace host {
+
+namespace {
+
+constexpr int textShare = 6;   // of the window's height, for the texts of the message bar
+constexpr int roomyLines = 24; // that the window is high; a lower one saves space
+
+// What a window's screen has free, less the frame around the window.
+QSize freeRoom(const QWidget *window)
+{
+    const QSize room = window->screen()->availableSize();
+    const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    return room.shrunkBy(frame);
+}
+
+} // namespace
+
+void PrintWindow::build()
+{
+    m_status->setTextFormat(Qt::PlainText);
+    m_status->setWordWrap(true);
+    m_print->setDefault(true);
+    m_footer = new QHBoxLayout;
+    m_footer->setSpacing(10);
+    m_footer->addWidget(m_status, 1);
+    m_footer->addWidget(m_cancel);
+    m_footer->addWidget(m_print);
+    // Under the pages, where it moves nothing that the user is about to press.
+    m_messages = new QHBoxLayout;
+    m_messages->addWidget(m_bar);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_picker);
+    column->addWidget(new Separator(Qt::Horizontal, this));
+    for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_result})
+        column->addWidget(part, 1);
+    column->addWidget(new Separator(Qt::Horizontal, this));
+    column->addLayout(m_messages);
+    column->addLayout(m_footer);
+    setCompact(false);
+}
+
+void PrintWindow::arrange()
+{
+    chainTabOrder(
+        {m_picker, m_book->list(), m_book->pages(), m_unavailable, m_result, m_bar, m_cancel, m_print});
+    m_keys->assign();
+    setCompact(height() < roomyLines * fontMetrics().height());
+    fit();
+}
+
+void PrintWindow::setRoom(const QSize &room)
+{
+    m_room = room;
+    fit();
+}
+
+// Wide enough for the page, and never larger than the screen.
+void PrintWindow::fit()
+{
+    const QSize room = m_room.isValid() ? m_room : freeRoom(this);
+    const int wanted = m_book->isHidden() ? 0 : m_book->wantedWidth();
+    setMinimumSize(layout()->minimumSize().boundedTo(room));
+    resize(size().expandedTo({wanted, 0}).boundedTo(room));
+}
+
+void PrintWindow::showEvent(QShowEvent *event)
+{
+    fit();
+    QDialog::showEvent(event);
+    if (!focusWidget())
+        m_book->list()->setFocus();
+}
+
+void PrintWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    m_bar->setTextLimit(height() / textShare);
+    setCompact(height() < roomyLines * fontMetrics().height());
+}
+
+void PrintWindow::setCompact(bool compact)
+{
+    m_picker->setCompact(compact);
+    m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
+    m_messages->setContentsMargins(16, m_bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
+}
+
+} // namespace host

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "platform/choice_box.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QStandardItemModel>
+#include <QTextDocument>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace platform {
+
+ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+ChoiceBox::~ChoiceBox() = default;
+
+void ChoiceBox::setObstacle(int index, const QString &reason)
+{
+    auto *item = static_cast<QStandardItemModel *>(model())->item(index);
+    item->setEnabled(reason.isEmpty());
+    item->setAccessibleDescription(reason);
+    // Tool tips guess whether they hold markup, so the plain text is given to them as markup that says the
+    // same.
+    item->setToolTip(reason.isEmpty() ? QString() : Qt::convertFromPlainText(reason, Qt::WhiteSpaceNormal));
+}
+
+bool ChoiceBox::isItemEnabled(int index) const
+{
+    return (model()->flags(model()->index(index, modelColumn(), rootModelIndex())) & Qt::ItemIsEnabled) != 0;
+}
+
+void ChoiceBox::showPopup()
+{
+    QComboBox::showPopup();
+    // The list is made when it is first shown, and has filters of its own, which are to come later.
+    if (!std::exchange(m_listens, true))
+        view()->installEventFilter(this);
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+bool ChoiceBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && m_listens && watched == view()) {
+        const auto *press = static_cast<QKeyEvent *>(event);
+        const int row = (press->modifiers() & ~Qt::KeypadModifier) ? -1 : rowFor(press->key());
+        if (row >= 0) {
+            showRow(row);
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+int ChoiceBox::rowFor(int key) const
+{
+    const int now = view()->currentIndex().row();
+    const int last = count() - 1;
+    switch (key) {
+    case Qt::Key_Up:
+        return std::max(0, now - 1);
+    case Qt::Key_Down:
+        return std::min(last, now + 1);
+    case Qt::Key_Home:
+        return std::min(0, last);
+    case Qt::Key_End:
+        return last;
+    default:
+        return -1;
+    }
+}
+
+// An item that cannot be selected is none the less the current one, which is drawn and told as such.
+void ChoiceBox::showRow(int row)
+{
+    const QModelIndex index = model()->index(row, modelColumn(), rootModelIndex());
+    view()->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    view()->scrollTo(index);
+    const QRect place = view()->visualRect(index);
+    const QString why = index.data(Qt::ToolTipRole).toString();
+    QToolTip::showText(view()->viewport()->mapToGlobal(place.bottomLeft()), why, view()->viewport(), place);
+}
+
+} // namespace platform

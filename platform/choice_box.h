@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/export.h"
+
+#include <QComboBox>
+
+namespace platform {
+
+// A list of choices of which some may be greyed for now. In the open list the arrow keys reach those, too,
+// and whoever looks at one, or listens to it, is told why; choosing one does nothing. Scrolling past the box
+// never changes it. Its items are those of QComboBox's own model.
+class KELMAR_PLATFORM_EXPORT ChoiceBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit ChoiceBox(QWidget *parent = nullptr);
+    ~ChoiceBox() override;
+
+    // Greys an item and says why in plain text; an empty reason frees it. The index must be one of an item.
+    void setObstacle(int index, const QString &reason);
+    bool isItemEnabled(int index) const;
+
+    void showPopup() override;
+
+protected:
+    // Only a box with the focus turns with the wheel; over any other the wheel scrolls what the box is in.
+    void wheelEvent(QWheelEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    // The row an arrow key leads to in the open list, greyed or not; -1 for any other key.
+    int rowFor(int key) const;
+    void showRow(int row);
+
+    bool m_listens = false; // to its list
+};
+
+} // namespace platform

@@ -1,0 +1,86 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""Works the dialog over the accessibility bus, as a screen reader finds it: a private job that begins with two
+settings that exclude each other. Prints what the bus told, and fails when something was not announced.
+
+Usage: private_job.py PROGRAM ARGUMENT...  (within an X display and a session bus of its own)"""
+
+import os
+import subprocess
+import sys
+
+import pyatspi
+from gi.repository import GLib
+
+PATIENCE = 15  # seconds for the whole
+EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
+          "object:property-change:accessible-name", "object:property-change:accessible-description")
+
+
+class Session:
+    def __init__(self, command):
+        self.log = []
+        self.problem = "nothing happened"
+        # What must have been told, and what is pressed after it. The first question was there before anybody
+        # listened.
+        self.steps = [(None, "Keep and Review"), (None, "Print"), ("cannot be used together", "Apply Suggestion"),
+                      (None, "Print"), ("Sent to", "Close")]
+        for name in EVENTS:
+            pyatspi.Registry.registerEventListener(self.note, name)
+        environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
+                           QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.process = subprocess.Popen(command, env=environment)
+        GLib.timeout_add(100, self.proceed)
+        GLib.timeout_add_seconds(PATIENCE, self.give_up)
+
+    def note(self, event):
+        try:
+            role, name = event.source.getRoleName(), event.source.name
+        except (GLib.GError, LookupError, RuntimeError):
+            return  # gone already
+        entry = (str(event.type), role, name, event.detail1)
+        self.log.append(entry)
+        print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
+
+    def was_announced(self, words):
+        return any(kind == "object:state-changed:showing" and role == "notification" and shown and words in name
+                   for kind, role, name, shown in self.log)
+
+    def proceed(self):
+        if self.process.poll() is not None:
+            self.problem = None if not self.steps and self.process.returncode == 0 else "the program has ended"
+            pyatspi.Registry.stop()
+            return False
+        if self.steps:
+            words, button = self.steps[0]
+            self.problem = "not announced: %s" % words
+            if words is None or self.was_announced(words):
+                self.problem = "there is no button %s" % button
+                if self.press(button):
+                    self.steps.pop(0)
+        return True
+
+    def press(self, name):
+        for application in pyatspi.Registry.getDesktop(0):
+            found = application and pyatspi.findDescendant(
+                application, lambda a: a.getRole() == pyatspi.ROLE_PUSH_BUTTON and a.name == name and
+                a.getState().contains(pyatspi.STATE_SHOWING) and a.getState().contains(pyatspi.STATE_ENABLED))
+            if found:
+                print("--- pressing %s (%s)" % (name, found.description.replace("\n", " / ")), flush=True)
+                actions = found.queryAction()
+                names = [actions.getName(i) for i in range(actions.nActions)]
+                actions.doAction(names.index("Press"))
+                return True
+        return False
+
+    def give_up(self):
+        self.process.kill()
+        pyatspi.Registry.stop()
+        return False
+
+
+session = Session(sys.argv[1:])
+pyatspi.Registry.start()
+if session.problem:
+    sys.exit("private_job.py: %s" % session.problem)

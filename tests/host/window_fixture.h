@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/window/print_window.h"
+#include "tests/host/host_fixture.h"
+
+#include <QComboBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryFile>
+#include <QTest>
+
+#include <memory>
+
+// A window over a print system without a server: two printers with a PPD, one without, and a document. Base
+// of a test.
+class WindowFixture : public QObject
+{
+    Q_OBJECT
+protected:
+    void reset()
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("kelmar-test"));
+        QCoreApplication::setApplicationName(QStringLiteral("print-window-test"));
+        QSettings().clear();
+        m_system = FakePrintSystem();
+        host::Destination office = officePrinter();
+        office.isDefault = true;
+        host::Destination attic = officePrinter(QStringLiteral("attic"));
+        attic.info = QStringLiteral("Attic");
+        m_system.printers = {office, attic, officePrinter(QStringLiteral("raw"))};
+        m_system.ppds = {{QStringLiteral("office"), officePpd()}, {QStringLiteral("attic"), officePpd()}};
+        m_system.status.state = host::JobStatus::State::Processing;
+        if (!m_document.isOpen()) {
+            QVERIFY(m_document.open());
+            m_document.write("some text\n");
+            m_document.flush();
+        }
+    }
+    host::PrintWindow &open(const QString &printer = QString())
+    {
+        host::PrintTask task;
+        task.files = {m_document.fileName()};
+        task.printer = printer;
+        m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
+        host::PrintError error;
+        if (!m_window->open(&error))
+            qFatal("%s", qPrintable(error.message));
+        m_window->show();
+        m_window->loadPrinterList();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the window does not appear");
+        return *m_window;
+    }
+    template <typename W>
+    W *find(const QString &name = QString())
+    {
+        return m_window->findChild<W *>(name);
+    }
+    // As a user does it: the keyboard opens no list here, so the box is told and announces it.
+    void choose(const QString &keyword, const QString &choice)
+    {
+        auto *box = find<QComboBox>(keyword);
+        QVERIFY2(box, qPrintable(keyword));
+        box->setCurrentIndex(box->findData(choice));
+        Q_EMIT box->activated(box->currentIndex());
+    }
+    QPushButton *printButton() const
+    {
+        for (auto *button : m_window->findChildren<QPushButton *>()) {
+            if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Print"))
+                return button;
+        }
+        return nullptr;
+    }
+
+    FakePrintSystem m_system;
+    host::Extensions m_none{{}};
+    QTemporaryFile m_document;
+    std::unique_ptr<host::PrintWindow> m_window;
+};

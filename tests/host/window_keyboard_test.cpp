@@ -1,0 +1,237 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/color_scheme.h"
+#include "host/window/contrast.h"
+#include "host/window/focus_ring.h"
+#include "host/window/message_bar.h"
+#include "host/window/mnemonics.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/result_page.h"
+#include "host/window/status_glyph.h"
+#include "platform/text_field.h"
+#include "tests/host/window_fixture.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSignalSpy>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+// The window as it is worked without a mouse, and what it looks like to whoever needs it to be clear.
+class WindowKeyboardTest : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { reset(); }
+    void cleanup() { m_window.reset(); }
+    void savingAPanelLeavesTheFocus();
+    void returnPressesTheButtonWithTheFocus();
+    void questionTakesTheFocusAndGivesItBack();
+    void conflictGoesWithItsCause();
+    void secondClickDoesNotCloseTheResult();
+    void resultNamesEverything_data();
+    void resultNamesEverything();
+    void errorBelongsToItsField();
+    void colorsStandOut_data();
+    void colorsStandOut();
+    void mnemonics();
+
+private:
+    // Panels for the colour mode and the balance in place of the session's.
+    FakePanel *showPanels(PrintWindow &window);
+};
+
+FakePanel *WindowKeyboardTest::showPanels(PrintWindow &window)
+{
+    auto first = std::make_unique<FakePanel>(u"Colour"_s, QStringList(u"ColorType"_s), window.session());
+    auto second = std::make_unique<FakePanel>(u"Balance"_s, QStringList(u"Cyan"_s), window.session());
+    FakePanel *colour = first.get();
+    new platform::TextField(colour->panelView());
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(first));
+    panels.push_back(std::move(second));
+    window.session()->adoptPanels(std::move(panels));
+    window.showSession();
+    window.book()->showPage(0);
+    return colour;
+}
+
+void WindowKeyboardTest::savingAPanelLeavesTheFocus()
+{
+    PrintWindow &window = open();
+    showPanels(window);
+    auto *list = find<PageList>();
+    list->setFocus();
+    for (int row = 1; row < list->count(); ++row) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Down);
+        QCOMPARE(window.book()->currentRow(), row);
+        QCOMPARE(window.focusWidget(), list);
+    }
+    // The field that is on its way out with its page hands the keyboard to the list.
+    window.book()->showPage(1);
+    auto *field = find<platform::TextField>();
+    field->setFocus();
+    QTest::keyClicks(field, u"7"_s);
+    QTest::keyClick(field, Qt::Key_PageDown, Qt::ControlModifier);
+    QCOMPARE(field->stringValue(), u"7"_s);
+    QCOMPARE(window.focusWidget(), list);
+}
+
+void WindowKeyboardTest::returnPressesTheButtonWithTheFocus()
+{
+    PrintWindow &window = open();
+    QVERIFY(printButton()->isDefault());
+    QPushButton *cancel = nullptr;
+    for (auto *button : window.findChildren<QPushButton *>())
+        cancel = button->text() == u"Cancel"_s ? button : cancel;
+    cancel->setFocus(Qt::TabFocusReason);
+    QCOMPARE(find<FocusRing>()->target(), cancel);
+    QVERIFY(cancel->isDefault() && !printButton()->isDefault());
+    QTest::keyClick(cancel, Qt::Key_Return);
+    QCOMPARE(window.result(), int(QDialog::Rejected));
+    QVERIFY(m_system.submitted.isEmpty());
+}
+
+void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
+{
+    PrintWindow &window = open();
+    window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
+    window.session()->markChoice(u"Cyan"_s, u"2"_s);
+    auto *box = find<QComboBox>(u"Duplex"_s);
+    box->setFocus();
+    const QPoint before = box->mapTo(&window, QPoint());
+    QTest::keyClick(box, Qt::Key_P, Qt::ControlModifier);
+    MessageBar *bar = window.messageBar();
+    QCOMPARE(window.focusWidget(), bar->buttons().first());
+    QCOMPARE(QAccessible::queryAccessibleInterface(bar)->role(), QAccessible::Notification);
+    QCOMPARE(QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Name), bar->text());
+    QCoreApplication::processEvents();
+    QCOMPARE(box->mapTo(&window, QPoint()), before); // not pushed away
+    QTest::keyClick(bar->buttons().first(), Qt::Key_Return);
+    QVERIFY(!bar->isShowing() && window.session()->conflicts().isEmpty());
+    QCOMPARE(window.focusWidget(), box);
+}
+
+void WindowKeyboardTest::conflictGoesWithItsCause()
+{
+    PrintWindow &window = open();
+    FakePanel *colour = showPanels(window);
+    window.book()->showPage(1);
+    window.session()->markChoice(u"Cyan"_s, u"2"_s);
+    colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    window.print();
+    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Question);
+    colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // as its control does it
+    QTRY_VERIFY(!window.messageBar()->isShowing());
+}
+
+void WindowKeyboardTest::secondClickDoesNotCloseTheResult()
+{
+    PrintWindow &window = open();
+    QSignalSpy finished(&window, &QDialog::finished);
+    const QPoint place = printButton()->mapTo(&window, printButton()->rect().center());
+    QTest::mouseClick(printButton(), Qt::LeftButton);
+    QCOMPARE(m_system.submitted.size(), 1);
+    QCoreApplication::processEvents();
+    QWidget *under = window.childAt(place);
+    QVERIFY(qobject_cast<QPushButton *>(under)); // which is why
+    QTest::mouseDClick(under, Qt::LeftButton);
+    QCOMPARE(finished.count(), 0);
+    QTest::keyClick(&window, Qt::Key_Return); // the keyboard need not wait
+    QCOMPARE(finished.count(), 1);
+}
+
+void WindowKeyboardTest::resultNamesEverything_data()
+{
+    QTest::addColumn<JobStatus>("status");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<StatusGlyph::Kind>("sign");
+    JobStatus status;
+    status.state = JobStatus::State::Held;
+    QTest::newRow("held") << status << u"enter its code at the printer “Attic”"_s
+                          << StatusGlyph::Kind::Notice;
+    status.state = JobStatus::State::Pending;
+    status.printerStopped = true;
+    status.message = u"The printer is out of paper."_s;
+    QTest::newRow("stopped") << status << u"stopped\nThe printer is out of paper."_s
+                             << StatusGlyph::Kind::Notice;
+    QTest::newRow("done") << JobStatus{JobStatus::State::Completed, true, {}} << u"done"_s
+                          << StatusGlyph::Kind::Success;
+}
+
+void WindowKeyboardTest::resultNamesEverything()
+{
+    QFETCH(const JobStatus, status);
+    QFETCH(const QString, text);
+    QFETCH(const StatusGlyph::Kind, sign);
+    ResultPage page;
+    page.showSubmission(u"Attic"_s, u"“one.pdf”, “two.pdf”"_s,
+                        {Submission::Outcome::Accepted, {7, status, {}}, {}}, [status] { return status; });
+    QVERIFY2(page.text().contains(text) && page.text().contains(u"“one.pdf”, “two.pdf”"_s),
+             qPrintable(page.text()));
+    QCOMPARE(page.findChild<StatusGlyph *>()->kind(), sign);
+}
+
+void WindowKeyboardTest::errorBelongsToItsField()
+{
+    PrintWindow &window = open();
+    for (auto *radio : window.findChildren<QRadioButton *>())
+        radio->click();
+    auto *pages = window.findChildren<QLineEdit *>().last();
+    const auto description = [pages] {
+        return QAccessible::queryAccessibleInterface(pages)->text(QAccessible::Description);
+    };
+    const QString usual = description();
+    QTest::keyClicks(pages, u"3-1"_s);
+    QVERIFY(description() != usual);
+    QTest::keyClick(pages, Qt::Key_Backspace);
+    QTest::keyClicks(pages, u"4"_s);
+    QCOMPARE(description(), usual);
+}
+
+void WindowKeyboardTest::colorsStandOut_data()
+{
+    QTest::addColumn<QString>("scheme");
+    QTest::newRow("light") << u"light"_s;
+    QTest::newRow("dark") << u"dark"_s;
+}
+
+void WindowKeyboardTest::colorsStandOut()
+{
+    QFETCH(const QString, scheme);
+    applyColorScheme(scheme);
+    const QPalette palette = QApplication::palette();
+    const QColor window = palette.color(QPalette::Window);
+    const QColor highlight = palette.color(QPalette::Highlight);
+    const auto check = [](const char *what, const QColor &a, const QColor &b, qreal least) {
+        QVERIFY2(contrast(a, b) >= least,
+                 qPrintable(u"%1 %2"_s.arg(QLatin1String(what)).arg(contrast(a, b))));
+    };
+    check("error", errorInk(palette), window, textContrast);
+    check("selected row", highlightInk(palette), highlight, textContrast);
+    check("default button", highlight, window, markContrast);
+    check("ring on the window", focusInk(palette), window, markContrast);
+    check("ring on a field", focusInk(palette), palette.color(QPalette::Base), markContrast);
+    QCOMPARE(qRound(contrast(Qt::black, Qt::white)), 21);
+}
+
+void WindowKeyboardTest::mnemonics()
+{
+    Mnemonics mnemonics;
+    QVERIFY(mnemonics.claim(u"&Printer:"_s));
+    QVERIFY(!mnemonics.claim(u"&Paper"_s));
+    QCOMPARE(mnemonics.assign(u"Paper"_s), u"P&aper"_s);
+    QCOMPARE(mnemonics.assign(u"Pa"_s), u"Pa"_s);
+    QCOMPARE(mnemonics.assign(Mnemonics::escaped(u"a & b"_s)), u"a && &b"_s);
+    QCOMPARE(mnemonics.assign(u"Pa&rt of it"_s), u"Part &of it"_s); // the beginning of a word, if possible
+    QCOMPARE(mnemonics.assign(u"用紙:"_s), u"用紙(&C):"_s);
+    QCOMPARE(mnemonics.assign(u"部数(&P):"_s), u"部数(&D):"_s);
+}
+
+QTEST_MAIN(WindowKeyboardTest)
+#include "window_keyboard_test.moc"

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/color_scheme.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "tests/host/host_fixture.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QKeySequence>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTranslator>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+
+QByteArray familyPpd()
+{
+    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A window like one with a real queue, whose device nobody asks.
+class FamilyPrintSystem : public FakePrintSystem
+{
+public:
+    FamilyPrintSystem()
+    {
+        Destination office = officePrinter();
+        office.isDefault = true;
+        office.makeAndModel = u"KELMAR OrbM880Series"_s;
+        office.location = u"Second floor, beside the kitchen"_s;
+        office.deviceUri = u"file:/dev/null"_s;
+        printers = {office};
+        ppds.insert(u"office"_s, familyPpd());
+    }
+};
+
+QString nameOf(const QWidget *widget)
+{
+    for (const QString &name : {widget->accessibleName(), widget->property("text").toString()}) {
+        if (!name.isEmpty())
+            return QString(name).remove(u'&');
+    }
+    return QString::fromLatin1(widget->metaObject()->className());
+}
+
+} // namespace
+
+// Every page of the dialog over a PPD of the family, with the message bar shown, in the language of the
+// environment. With KELMAR_PICTURES set to a folder, leaves a picture of each there.
+class DialogPagesTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void everyPage_data();
+    void everyPage();
+
+private:
+    void checkKeys();
+    void checkInside(const QSize &room);
+    // Presses Tab until it comes round, and gives what had the focus.
+    QList<QWidget *> walk();
+    void checkTabOrder();
+    int partOf(const QWidget *widget) const;
+    void takePicture(const QString &page) const;
+
+    QString m_language;
+    FamilyPrintSystem m_system;
+    std::unique_ptr<PrintWindow> m_window;
+};
+
+void DialogPagesTest::initTestCase()
+{
+    m_language = qEnvironmentVariable("LANGUAGE").left(2);
+    for (const QString &file : {QStringLiteral(KELMAR_BINARY_DIR "/host/kelmar-print_") + m_language,
+                                u"/usr/share/qt6/translations/qtbase_"_s + m_language}) {
+        auto *translator = new QTranslator(this);
+        if (translator->load(file))
+            QApplication::installTranslator(translator);
+        else if (m_language != u"en")
+            QFAIL(qPrintable(file));
+    }
+}
+
+void DialogPagesTest::everyPage_data()
+{
+    QTest::addColumn<QSize>("room");
+    QTest::addColumn<int>("points");
+    QTest::addColumn<QString>("scheme");
+    QTest::newRow("800x600") << QSize(800, 600) << 10 << u"light"_s;
+    QTest::newRow("1024x600 at 2") << QSize(512, 300) << 10 << u"dark"_s;
+    QTest::newRow("1366x768 at 1.5") << QSize(910, 512) << 10 << u"light"_s;
+    QTest::newRow("1280x1024 at 2") << QSize(640, 512) << 10 << u"dark"_s;
+    QTest::newRow("28 points") << QSize(1280, 960) << 28 << u"light"_s;
+}
+
+void DialogPagesTest::everyPage()
+{
+    QFETCH(const QSize, room);
+    QFETCH(const int, points);
+    QFETCH(const QString, scheme);
+    applyColorScheme(scheme);
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    Extensions extensions(Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin")));
+    PrintTask task;
+    task.files = {document};
+    m_window = std::make_unique<PrintWindow>(m_system, extensions, task);
+    m_window->setRoom(room);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
+    m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
+    m_window->print();
+    QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
+    const int pages = m_window->book()->list()->count();
+    QVERIFY(pages >= 5);
+    for (int page = 0; page < pages; ++page) {
+        if (page > 0) {
+            m_window->book()->list()->setFocus();
+            QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+        }
+        QCOMPARE(m_window->book()->currentRow(), page);
+        QVERIFY(m_window->messageBar()->isShowing());
+        QCoreApplication::processEvents();
+        checkKeys();
+        checkInside(room);
+        takePicture(QString::number(page));
+        checkTabOrder();
+    }
+    m_window.reset();
+}
+
+void DialogPagesTest::checkKeys()
+{
+    QHash<QString, QString> owners;
+    for (QWidget *widget : m_window->findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<QLabel *>(widget);
+        const bool keyed =
+            label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        const QString text = widget->property("text").toString();
+        if (!keyed || text.isEmpty() || !widget->isVisible())
+            continue;
+        const QString key = QKeySequence::mnemonic(text).toString();
+        QVERIFY2(!key.isEmpty() || !label, qPrintable(text + u" has none"_s));
+        QVERIFY2(key.isEmpty() || !owners.contains(key),
+                 qPrintable(key + u": "_s + text + u" and "_s + owners.value(key)));
+        owners.insert(key, text);
+    }
+    QVERIFY(owners.size() > 4);
+}
+
+void DialogPagesTest::checkInside(const QSize &room)
+{
+    QVERIFY2(m_window->width() <= room.width() && m_window->height() <= room.height(),
+             qPrintable(u"%1x%2"_s.arg(m_window->width()).arg(m_window->height())));
+    int seen = 0;
+    for (auto *button : m_window->findChildren<QPushButton *>()) {
+        const QRect place(button->mapTo(m_window.get(), QPoint()), button->size());
+        if (button->parentWidget() != m_window.get() && button->parentWidget() != m_window->messageBar())
+            continue;
+        ++seen;
+        QVERIFY2(m_window->rect().contains(place) && button->width() >= button->sizeHint().width() &&
+                     button->height() >= button->minimumSizeHint().height(),
+                 qPrintable(nameOf(button)));
+    }
+    QCOMPARE(seen, 4); // Cancel, Print, and the bar's
+}
+
+int DialogPagesTest::partOf(const QWidget *widget) const
+{
+    const auto *picker = m_window->findChild<PrinterPicker *>();
+    const QList<const QWidget *> parts{picker, m_window->book()->list(), m_window->book()->pages(),
+                                       m_window->messageBar()};
+    for (int i = 0; i < parts.size(); ++i) {
+        if (parts[i] == widget || parts[i]->isAncestorOf(widget))
+            return i;
+    }
+    const auto *pushed = qobject_cast<const QPushButton *>(widget);
+    return pushed && pushed->text().contains(u"&"_s) ? 5 : 4; // "Cancel" is pressed by Escape
+}
+
+QList<QWidget *> DialogPagesTest::walk()
+{
+    QWidget *first = m_window->findChild<PrinterPicker *>()->box();
+    first->setFocus();
+    QList<QWidget *> stops;
+    do {
+        const QWidget *now = m_window->focusWidget();
+        const QRect place(now->mapTo(m_window.get(), QPoint()), now->size());
+        if (!m_window->rect().intersects(place) || now->visibleRegion().isEmpty())
+            QTest::qFail(qPrintable(nameOf(now) + u" has the focus where nobody sees it"_s), __FILE__,
+                         __LINE__);
+        stops.append(m_window->focusWidget());
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+    } while (m_window->focusWidget() != first && stops.size() < 100);
+    return stops;
+}
+
+void DialogPagesTest::checkTabOrder()
+{
+    const QList<QWidget *> stops = walk();
+    QStringList names;
+    int part = 0;
+    for (const QWidget *stop : stops) {
+        names.append(nameOf(stop));
+        QVERIFY2(partOf(stop) >= part, qPrintable(names.join(u" > "_s)));
+        part = partOf(stop);
+    }
+    QCOMPARE(part, 5);
+    if (qEnvironmentVariableIsSet("KELMAR_PICTURES"))
+        qInfo().noquote() << m_window->book()->list()->currentItem()->text() + u": "_s + names.join(u" > "_s);
+}
+
+void DialogPagesTest::takePicture(const QString &page) const
+{
+    const QString folder = qEnvironmentVariable("KELMAR_PICTURES");
+    if (folder.isEmpty())
+        return;
+    const QString name =
+        u"%1_%2_%3.png"_s.arg(m_language, QString::fromLatin1(QTest::currentDataTag()).remove(u' '), page);
+    m_window->grab().save(QDir(folder).filePath(name));
+}
+
+QTEST_MAIN(DialogPagesTest)
+#include "dialog_pages_test.moc"
