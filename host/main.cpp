@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/portal_run.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
 
@@ -62,6 +63,13 @@ void installTranslations(QApplication *app)
     }
 }
 
+int runForService(bool hasDisplay)
+{
+    CupsPrintSystem system;
+    Extensions extensions(Extensions::installedBundles(QApplication::applicationDirPath()));
+    return runDialogRequest(system, extensions, hasDisplay);
+}
+
 int run(const Arguments &arguments, QFile *out, QFile *err)
 {
     CupsPrintSystem system;
@@ -86,6 +94,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
     installTranslations(&app);
+    if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
+        return runForService(hasDisplay);
     QFile out, err;
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);

@@ -70,7 +70,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
               QIODevice *err)
 {
     applyColorScheme(arguments.colorScheme);
-    QGuiApplication::setDesktopFileName(QStringLiteral("kelmar-print"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.kelmar.Print"));
     PrintTask task = taskOf(arguments);
     PrintWindow *opened = nullptr;
     task.prepare = [&](DialogSession *session, PrintError *error) {

@@ -48,6 +48,13 @@ struct PpdOption
     bool hasChoice(const QString &choice) const;
 };
 
+// A sheet of paper, and the margins that the printer leaves white; all in millimetres.
+struct PaperSize
+{
+    double width = 0, height = 0;
+    double left = 0, right = 0, top = 0, bottom = 0;
+};
+
 // Choices that the PPD forbids together and that are marked all the same.
 struct Conflict
 {
@@ -80,6 +87,8 @@ public:
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
     QString defaultChoice(const QString &keyword) const;
+    // The measures of a choice of PageSize; nil when the PPD does not tell them.
+    std::optional<PaperSize> paperSize(const QString &choice) const;
     // Whether it stands for a unit that is or is not installed.
     bool isInstallable(const QString &keyword) const;
     // With the words for it; the keywords themselves where the PPD has no such option or choice.

@@ -55,19 +55,34 @@ Destination fromCups(const cups_dest_t *record)
     return destination;
 }
 
+PrintError noDefault()
+{
+    return {PrintError::Kind::NoSuchPrinter,
+            PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+}
+
+PrintError onlyOpensDialog(const Destination &destination)
+{
+    return {
+        PrintError::Kind::NoSuchPrinter,
+        PrintSystemText::tr("“%1” opens the print dialog and prints nothing itself; choose another printer.")
+            .arg(destination.displayName())};
+}
+
 // libcups does not tell a server that is away from one that has no default printer.
 PrintError noDefaultPrinter()
 {
     if (!ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS))) ||
         cupsLastError() > IPP_STATUS_OK_CONFLICTING)
         return lastCupsError(QString());
-    return {PrintError::Kind::NoSuchPrinter,
-            PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+    return noDefault();
 }
 
 int collectDestination(void *list, unsigned, cups_dest_t *record)
 {
-    static_cast<QList<Destination> *>(list)->append(fromCups(record));
+    const Destination destination = fromCups(record);
+    if (!destination.opensDialog())
+        static_cast<QList<Destination> *>(list)->append(destination);
     return 1;
 }
 
@@ -116,8 +131,13 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     const CupsDestinationPointer record(
         cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.isEmpty() ? nullptr : queueBytes.constData(),
                          instance.isEmpty() ? nullptr : instanceBytes.constData()));
-    if (record)
-        return fromCups(record.get());
+    if (record) {
+        const Destination destination = fromCups(record.get());
+        if (!destination.opensDialog())
+            return destination;
+        *error = name.isEmpty() ? noDefault() : onlyOpensDialog(destination);
+        return std::nullopt;
+    }
     *error = name.isEmpty() ? noDefaultPrinter() : lastCupsError(name);
     return std::nullopt;
 }

@@ -39,6 +39,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     const QString document = m_task.files.isEmpty() ? QString() : QFileInfo(m_task.files.first()).fileName();
     setWindowTitle(document.isEmpty() || document == QLatin1String("-") ? tr("Print")
                                                                         : tr("Print “%1”").arg(document));
+    if (!m_task.acceptLabel.isEmpty())
+        m_print->setText(m_task.acceptLabel);
     build();
     connectAll();
     showState(State::Unavailable);
@@ -179,6 +181,8 @@ std::unique_ptr<DialogSession> PrintWindow::makeSession(const QString &printer, 
     if (opened->ppdProblem)
         session->addNotice(opened->ppdProblem.message);
     session->loadPanels(m_extensions);
+    if (m_task.begin && !m_session)
+        m_task.begin(session.get());
     return session;
 }
 
@@ -196,7 +200,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setFixedText(m_session->destination().displayName());
     m_book->setSession(m_session.get());
     showState(State::Choosing);
-    m_print->setEnabled(hasQueue && !m_task.files.isEmpty());
+    m_print->setEnabled(hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty()));
     m_print->setToolTip(m_print->isEnabled() ? QString()
                                              : tr("There is no document or no printer to print it on"));
     showNotices();
@@ -399,6 +403,11 @@ void PrintWindow::print()
     sessionChanged();
     if (showConflicts())
         return;
+    if (m_task.settingsOnly) {
+        RememberedPrinter().setName(m_session->destination().name());
+        accept();
+        return;
+    }
     PrintError error;
     if (!m_documents.open(m_task.files, nullptr, &error)) {
         showError(error);

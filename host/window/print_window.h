@@ -35,6 +35,11 @@ struct PrintTask
     QString firstPage; // name of the page to open at; empty for the first
     // Runs once on the first session, with its first page in place: settings of the command line.
     std::function<bool(DialogSession *, PrintError *)> prepare;
+    // Runs once on the first session, before any page: where another program wants the dialog to begin.
+    std::function<void(DialogSession *)> begin;
+    // The settings are the answer: another program has the document, and nothing is printed here.
+    bool settingsOnly = false;
+    QString acceptLabel; // of the button that prints; empty for the usual one
 };
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
