@@ -59,6 +59,7 @@ private:
     bool takeDocument(PrintError *error);
     QString documentPath() const;
     QString jobTitle() const;
+    QString windowTitle() const;
     StartingSettings start() const;
     int submit();
     bool send(const StoredJob &job, PrintError *error);
@@ -110,8 +111,12 @@ bool RequestRun::takeDocument(PrintError *error)
             platform::privateCopy(given.get(), QDir::tempPath().toStdString(), platform::longestDocument);
     else
         errno = EBADF;
-    if (m_document)
+    if (m_document && ::lseek(m_document.get(), 0, SEEK_END) > 0)
         return true;
+    if (m_document) {
+        *error = {PrintError::Kind::EmptyDocument, PortalText::tr("It is empty.")};
+        return false;
+    }
     *error =
         errno == EFBIG
             ? PrintError{PrintError::Kind::Other, PortalText::tr("It is larger than 2 GB.")}
@@ -131,6 +136,16 @@ QString RequestRun::jobTitle() const
 {
     const QString base = textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
     return base.isEmpty() ? textOf(m_request, "title") : base;
+}
+
+// Who wants settings gives the title of the dialog, who has a document that of the document.
+QString RequestRun::windowTitle() const
+{
+    const QString title = jobTitle();
+    if (title.isEmpty())
+        return PortalText::tr("Print");
+    const bool isForDialog = kind() == QLatin1String("choose") && title == textOf(m_request, "title");
+    return isForDialog ? title : PortalText::tr("Print “%1”").arg(title);
 }
 
 StartingSettings RequestRun::start() const
@@ -202,6 +217,7 @@ PrintTask RequestRun::task(const StartingSettings &start)
     if (m_document)
         task.files = {documentPath()};
     task.title = jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    task.documentName = task.title;
     task.settingsOnly = kind() == QLatin1String("choose");
     task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
     task.begin = [start](DialogSession *session) { beginWith(start, session); };
@@ -214,9 +230,7 @@ int RequestRun::openDialog()
     for (const auto &[name, value] : begin.jobOptions)
         m_passedOn.append({name, value, JobOption::Kind::Attribute});
     PrintWindow window(m_system, m_extensions, task(begin));
-    const QString title = jobTitle();
-    window.setWindowTitle(title.isEmpty() ? PortalText::tr("Print")
-                                          : PortalText::tr("Print “%1”").arg(title));
+    window.setWindowTitle(windowTitle());
     window.passOn(m_passedOn);
     const ParentWindow parent(&window, textOf(m_request, "parent"),
                               m_request.value(QLatin1String("modal")).toBool());

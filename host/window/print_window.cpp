@@ -415,9 +415,11 @@ void PrintWindow::print()
     }
     showBusy(tr("Sending the document to the print server…"));
     const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
+    QList<Document> documents = m_documents.documents();
+    if (!m_task.documentName.isEmpty())
+        documents.first().name = m_task.documentName;
     m_job = m_system.submit(
-        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions() + m_passedOn},
-        &error);
+        {m_session->destination(), documents, title, m_session->jobOptions() + m_passedOn}, &error);
     showIdle();
     if (!m_job) {
         showError(error);

@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <fcntl.h>
+
 using namespace host;
 using namespace Qt::StringLiterals;
 
@@ -46,6 +48,8 @@ private Q_SLOTS:
     void refusals();
     void pausedPrinterKeepsTheJob();
     void serverStoppedBehindAnOpenDialog();
+    void documentOfAnApplicationIsSent();
+    void queueOfTheDialogIsNoPrinter();
 
 private:
     Outcome run(const QStringList &words, const QByteArray &input = {});
@@ -59,6 +63,7 @@ void PrintJobTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
+    qputenv("KELMAR_DIALOG_BACKEND", KELMAR_BINARY_DIR "/backend/kelmar-dialog");
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
     const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
@@ -240,6 +245,62 @@ void PrintJobTest::serverStoppedBehindAnOpenDialog()
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
     QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);
+}
+
+// As the service asks for it: the request on the input, the document as a descriptor.
+void PrintJobTest::documentOfAnApplicationIsSent()
+{
+    const auto send = [](const QString &printer, const QString &path) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return QByteArray("no document");
+        const int fd = file.handle();
+        const QJsonObject job{{u"printer"_s, printer},
+                              {u"options"_s, QJsonArray{QJsonArray{u"PrintMode"_s, u"Private"_s, 0},
+                                                        QJsonArray{u"copies"_s, u"2"_s, 1}}}};
+        QProcess process;
+        process.setChildProcessModifier([fd] { ::fcntl(fd, F_SETFD, 0); });
+        process.start(program, {u"--dialog-request"_s});
+        process.write(QJsonDocument(QJsonObject{{u"kind"_s, u"submit"_s},
+                                                {u"title"_s, u"Letter"_s},
+                                                {u"document"_s, fd},
+                                                {u"job"_s, job}})
+                          .toJson(QJsonDocument::Compact) +
+                      '\n');
+        while (!process.canReadLine() && process.waitForReadyRead(20000))
+            continue;
+        const QByteArray answer = process.readLine();
+        process.kill(); // it may be showing what went wrong
+        process.waitForFinished();
+        return answer;
+    };
+    QCOMPARE(send(u"office"_s, document), QByteArray("{\"response\":0}\n"));
+    auto job = m_server.waitForNextJob();
+    while (job && job->title != "Letter"_L1) // others may not have been looked at
+        job = m_server.waitForNextJob();
+    QVERIFY(job);
+    QCOMPARE(job->copies, 2);
+    QCOMPARE(job->options.value(u"PrintMode"_s), u"Private"_s);
+    QCOMPARE(send(u"nowhere"_s, document), QByteArray("{\"response\":2}\n"));
+    QCOMPARE(send(u"office"_s, u"/dev/null"_s), QByteArray("{\"response\":2}\n"));
+    QVERIFY(m_server.capturedJobs().last() == job->id);
+}
+
+void PrintJobTest::queueOfTheDialogIsNoPrinter()
+{
+    QVERIFY(m_server.addQueue(u"dialog"_s,
+                              QStringLiteral(KELMAR_BINARY_DIR "/packaging/queue/kelmar-dialog.ppd"),
+                              u"kelmar-dialog:/"_s));
+    QVERIFY(m_server.setDefaultQueue(u"dialog"_s));
+    CupsPrintSystem system;
+    PrintError error;
+    const auto all = system.destinations(&error);
+    QVERIFY(all && !all->isEmpty());
+    for (const Destination &destination : *all)
+        QVERIFY(destination.queue != u"dialog"_s);
+    QVERIFY(!system.destination(QString(), &error));
+    QVERIFY(!system.destination(u"dialog"_s, &error));
+    QVERIFY2(error.message.contains(u"opens the print dialog"_s), qPrintable(error.message));
 }
 
 QTEST_MAIN(PrintJobTest)
