@@ -48,9 +48,9 @@ QString noticeAbout(const NamedValues &jobOptions)
 {
     QStringList parts;
     for (const auto &[name, value] : jobOptions) {
-        if (name == QLatin1String("number-up"))
+        if (name == QLatin1String("number-up") && value != QLatin1String("1"))
             parts.append(ApplicationText::tr("%1 pages on each side").arg(value));
-        else if (name == QLatin1String("outputorder"))
+        else if (name == QLatin1String("outputorder") && value == QLatin1String("reverse"))
             parts.append(ApplicationText::tr("last page first"));
     }
     return parts.isEmpty()

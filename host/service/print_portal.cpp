@@ -70,7 +70,8 @@ uint PrintPortal::Print(const QDBusObjectPath &handle, const QString &app_id, co
     const bool isFull = m_life.isFull();
     PortalCall *call = newCall();
     platform::UniqueFd document = platform::UniqueFd::duplicate(fd.fileDescriptor());
-    if (!document || isFull) { // the token stays good
+    const bool isTaken = connection().objectRegisteredAt(handle.path());
+    if (!document || isFull || isTaken) { // the token stays good
         call->refuse();
         return 0;
     }

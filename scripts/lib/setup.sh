@@ -11,7 +11,7 @@ build_packages=(
 run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters ghostscript file libqt6gui6 qt6-qpa-plugins
     snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
-    avahi-daemon avahi-utils dbus-daemon libnss-mdns iproute2 util-linux bsdextrautils procps
+    avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
 )
 check_packages=(clang-format)
 

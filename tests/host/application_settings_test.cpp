@@ -137,7 +137,7 @@ void ApplicationSettingsTest::optionsOfAPrintedJob()
     const auto session = this->session();
     const NamedValues options = {{u"media"_s, u"A3"_s},        {u"sides"_s, u"two-sided-short-edge"_s},
                                  {u"page-ranges"_s, u"2-1"_s}, {u"Collate"_s, u"false"_s},
-                                 {u"number-up"_s, u"2"_s},     {u"job-uuid"_s, u"urn:uuid:1"_s},
+                                 {u"number-up"_s, u"1"_s},     {u"job-uuid"_s, u"urn:uuid:1"_s},
                                  {u"HardDisk"_s, u"True"_s}};
     const StartingSettings start = startingSettings(options, 100000);
     beginWith(start, session.get());
@@ -146,7 +146,8 @@ void ApplicationSettingsTest::optionsOfAPrintedJob()
     QCOMPARE(session->general().pages, QString());
     QCOMPARE(session->ppd()->markedChoice(u"PageSize"_s), u"A3"_s);
     QCOMPARE(session->ppd()->markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
-    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"2"_s}}));
+    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"1"_s}}));
+    QCOMPARE(session->takeNotices(), QStringList());
 }
 
 void ApplicationSettingsTest::rawQueue()
