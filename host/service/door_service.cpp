@@ -32,6 +32,9 @@ bool DoorService::start()
     m_bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                   QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                   SLOT(busHasGone()));
+    // Types of arguments that nothing has been called with yet; introspection leaves them out otherwise.
+    qRegisterMetaType<QDBusObjectPath>();
+    qRegisterMetaType<QDBusUnixFileDescriptor>();
     const auto exported = QDBusConnection::ExportScriptableSlots;
     if (!m_bus.registerObject(PrintPortal::objectPath(), &m_portal, exported) ||
         !m_bus.registerObject(DocumentDoor::objectPath(), &m_documents, exported))
