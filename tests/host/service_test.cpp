@@ -372,7 +372,7 @@ void ServiceTest::aThousandRequestsLeaveNothing()
     ask(20);
     QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
     const qsizetype files = entries(u"/fd"_s), threads = entries(u"/task"_s);
-    const qint64 before = privateKilobytes();
+    [[maybe_unused]] const qint64 before = privateKilobytes();
     ask(1000);
     QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
     QTRY_COMPARE_WITH_TIMEOUT(entries(u"/fd"_s), files, patience);
