@@ -5,6 +5,7 @@
 #include "host/batch/terminal_login.h"
 #include "host/batch/terminal_text.h"
 #include "host/batch/value_sources.h"
+#include "host/portal_run.h"
 #include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
@@ -91,6 +92,13 @@ QStringList commandLine(int argc, char **argv)
     return words;
 }
 
+int runForService(bool hasDisplay)
+{
+    CupsPrintSystem system;
+    Extensions extensions(Extensions::installedBundles(QApplication::applicationDirPath()));
+    return runDialogRequest(system, extensions, hasDisplay);
+}
+
 int run(const Arguments &arguments, QFile *out, QFile *err)
 {
     CupsPrintSystem system;
@@ -119,6 +127,8 @@ int main(int argc, char **argv)
     speakDialogLanguage();
     // Avahi's library tells users on stderr that a bundle could use another interface of it.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
+    if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
+        return runForService(hasDisplay);
     QFile out, err;
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);

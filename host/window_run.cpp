@@ -71,7 +71,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
               QIODevice *err)
 {
     applyColorScheme(arguments.colorScheme);
-    QGuiApplication::setDesktopFileName(QStringLiteral("kelmar-print"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.kelmar.Print"));
     PrintTask task = taskOf(arguments);
     task.prepare = [&arguments](DialogSession *session, PrintError *error) {
         return applyAssignments(arguments, session, error);

@@ -39,6 +39,7 @@ class CupsOptionList
 {
 public:
     CupsOptionList() = default;
+    explicit CupsOptionList(const char *text) : m_count(cupsParseOptions(text, 0, &m_options)) {}
     ~CupsOptionList() { cupsFreeOptions(m_count, m_options); }
     CupsOptionList(const CupsOptionList &) = delete;
     CupsOptionList &operator=(const CupsOptionList &) = delete;
@@ -55,8 +56,8 @@ public:
     cups_option_t *options() const { return m_options; }
 
 private:
-    int m_count = 0;
     cups_option_t *m_options = nullptr;
+    int m_count = 0; // after the array, which parsing fills first
 };
 
 } // namespace host

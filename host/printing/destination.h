@@ -27,6 +27,8 @@ struct Destination
     QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
     // For lists: the printer's everyday name, and the preset where it is one.
     QString displayName() const;
+    // The queue that opens this dialog: for other programs to print to, never for the dialog itself.
+    bool opensDialog() const { return deviceUri.startsWith(QLatin1String("kelmar-dialog:")); }
 };
 
 // The queue and the instance of "queue/instance".

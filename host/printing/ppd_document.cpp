@@ -300,6 +300,21 @@ QStringList PpdDocument::optionsOfStandardName(const QString &name)
     return keywords.value(name).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
+std::optional<PaperSize> PpdDocument::paperSize(const QString &choice) const
+{
+    constexpr double millimetres = 25.4 / 72; // a point
+    const ppd_size_t *size = ppdPageSize(m_ppd, choice.toUtf8().constData());
+    if (!size)
+        return std::nullopt;
+    const auto mm = [](float points) { return static_cast<double>(points) * millimetres; };
+    return PaperSize{mm(size->width),
+                     mm(size->length),
+                     mm(size->left),
+                     mm(size->width - size->right),
+                     mm(size->length - size->top),
+                     mm(size->bottom)};
+}
+
 bool PpdDocument::takesOption(const QString &name) const
 {
     const QStringList standsFor = optionsOfStandardName(name);

@@ -22,6 +22,13 @@ namespace host {
 
 class PpdConstraints;
 
+// A sheet of paper, and the margins that the printer leaves white; all in millimetres.
+struct PaperSize
+{
+    double width = 0, height = 0;
+    double left = 0, right = 0, top = 0, bottom = 0;
+};
+
 // A printer's PPD, opened, localised and marked with its defaults. Owns the record that panels work on;
 // outlives them. Texts are in the user's language where the PPD has it. Choices that take values are written
 // with them, as in "Custom.300x400" (ppd_custom.h), here and wherever choices of a PPD go.
@@ -47,6 +54,8 @@ public:
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
     QString defaultChoice(const QString &keyword) const;
+    // The measures of a choice of PageSize; nil when the PPD does not tell them.
+    std::optional<PaperSize> paperSize(const QString &choice) const;
     // Whether it stands for a unit that is or is not installed.
     bool isInstallable(const QString &keyword) const;
     // With the words for it; the keywords themselves where the PPD has no such option or choice.

@@ -59,9 +59,25 @@ QByteArray uriOf(const Destination &destination)
                                             : destination.printerUri.toUtf8();
 }
 
+PrintError noDefault()
+{
+    return {PrintError::Kind::NoSuchPrinter,
+            PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+}
+
+PrintError onlyOpensDialog(const Destination &destination)
+{
+    return {
+        PrintError::Kind::NoSuchPrinter,
+        PrintSystemText::tr("“%1” opens the print dialog and prints nothing itself; choose another printer.")
+            .arg(destination.displayName())};
+}
+
 int collectDestination(void *list, unsigned, cups_dest_t *record)
 {
-    static_cast<QList<Destination> *>(list)->append(fromCups(record));
+    const Destination destination = fromCups(record);
+    if (!destination.opensDialog())
+        static_cast<QList<Destination> *>(list)->append(destination);
     return 1;
 }
 
@@ -118,13 +134,15 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         if (!facts)
             facts = queryQueue(&server, printerUriOfQueue(destination.queue), destination.queue, &ignored);
         correctDefaults(facts.value_or(QueueFacts()), &destination);
-        return destination;
+        if (!destination.opensDialog())
+            return destination;
+        *error = name.isEmpty() ? noDefault() : onlyOpensDialog(destination);
+        return std::nullopt;
     }
     if (const auto problem = problemOfServer())
         *error = *problem;
     else if (name.isEmpty())
-        *error = {PrintError::Kind::NoSuchPrinter,
-                  PrintSystemText::tr("No default printer has been set; choose a printer by name.")};
+        *error = noDefault();
     else
         *error = {PrintError::Kind::NoSuchPrinter,
                   PrintSystemText::tr("There is no printer called “%1”.").arg(name)};

@@ -59,6 +59,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     const QString documents = namesOf(m_task.files);
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
+    if (!m_task.acceptLabel.isEmpty())
+        m_print->setText(m_task.acceptLabel);
     build();
     connectAll();
     showState(State::Unavailable);
@@ -177,6 +179,8 @@ std::unique_ptr<DialogSession> PrintWindow::makeSession(const QString &printer, 
     if (opened->ppdProblem)
         session->addNotice(opened->ppdProblem.message);
     session->loadPanels(m_extensions);
+    if (m_task.begin && !m_session)
+        m_task.begin(session.get());
     return session;
 }
 
@@ -194,7 +198,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setFixedText(m_session->destination().displayName());
     showSession();
     showState(State::Choosing);
-    m_print->setEnabled(hasQueue && !m_task.files.isEmpty());
+    m_print->setEnabled(hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty()));
     m_print->setToolTip(m_print->isEnabled() ? QString()
                                              : tr("There is no document or no printer to print it on"));
     showNotices();
@@ -438,6 +442,11 @@ void PrintWindow::print()
         m_bar->takeFocus();
         return;
     }
+    if (m_task.settingsOnly) {
+        RememberedPrinter().setName(m_session->destination().name());
+        accept();
+        return;
+    }
     PrintError error;
     if (!m_documents.open(m_task.files, nullptr, &error)) {
         showError(error);
@@ -446,8 +455,11 @@ void PrintWindow::print()
     showBusy(tr("Sending the document to the print server…"));
     const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
     const HeldSignals held;
-    const Submission submission = m_system.submit(
-        {m_session->destination(), m_documents.documents(), title, m_session->jobOptions()}, {});
+    QList<Document> documents = m_documents.documents();
+    if (!m_task.documentName.isEmpty())
+        documents.first().name = m_task.documentName;
+    const Submission submission =
+        m_system.submit({m_session->destination(), documents, title, m_session->jobOptions()}, {});
     showIdle();
     if (submission.outcome == Submission::Outcome::Rejected) {
         showError(submission.error);

@@ -8,6 +8,7 @@
 #   add-queue DIR NAME PPD URI   a queue that accepts jobs; PPD may be - for none; no address is ever contacted
 #   wait-job DIR JOB [SECONDS]   return when the job has been captured (10 seconds)
 #   options DIR JOB              the backend's fifth argument: the job's options as they arrived
+# Where KELMAR_DIALOG_BACKEND names the backend of the dialog's queue, the server has it, with the mode it needs.
 # Programs reach the server with CUPS_SERVER=DIR/cups.sock. Exit code 77: CUPS is not installed.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -60,6 +61,8 @@ DirtyCleanInterval 0
   </Limit>
 </Policy>
 CONF
+    cat "$here/../../packaging/queue/policy.conf" >>"$dir/cupsd.conf"
+    [ -z "${KELMAR_DIALOG_BACKEND:-}" ] || install -m 700 "$KELMAR_DIALOG_BACKEND" "$dir/bin/backend/kelmar-dialog"
     local user=lp group=lp
     [ "$(id -u)" -eq 0 ] || { user=$(id -un) group=$(id -gn); }
     cat >"$dir/cups-files.conf" <<CONF

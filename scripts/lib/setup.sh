@@ -6,12 +6,12 @@
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libqt6svg6
-    libcups2-dev zlib1g-dev cups-ppdc libsnmp-dev libavahi-compat-libdnssd-dev libbenchmark-dev
+    libcups2-dev zlib1g-dev cups-ppdc libsnmp-dev libavahi-compat-libdnssd-dev libbenchmark-dev libsystemd-dev
 )
 run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters ghostscript file libqt6gui6 qt6-qpa-plugins
     snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
-    avahi-daemon avahi-utils dbus-daemon libnss-mdns iproute2 util-linux bsdextrautils procps
+    avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n
 )
 check_packages=(clang-format)

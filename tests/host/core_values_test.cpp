@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/job.h"
+#include "host/printing/message_language.h"
 #include "host/printing/utf8_text.h"
 #include "host/session/page_ranges.h"
 #include "tests/host/host_fixture.h"
@@ -20,6 +21,7 @@ class CoreValuesTest : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase() { speakDialogLanguage(); }
     void pageRanges_data();
     void pageRanges();
     void documents_data();

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void opensWithoutServer();
     void otherPrinterTakesTheGeneralChoicesAlong();
     void remembersThePrinter();
+    void settingsAreTheAnswer();
     void brokenPpdStillPrints();
     void panelsAreRestoredWhenShown();
     void waitingIsPaintedBeforeItBegins();
@@ -251,6 +252,25 @@ void PrintWindowTest::remembersThePrinter()
     QCOMPARE(open().session()->destination().queue, u"attic"_s);
     m_system.printers.removeAt(1); // it has been taken away since: back to the default
     QCOMPARE(open().session()->destination().queue, u"office"_s);
+}
+
+void PrintWindowTest::settingsAreTheAnswer()
+{
+    PrintTask task;
+    task.settingsOnly = true;
+    task.acceptLabel = u"&Continue"_s;
+    task.begin = [](DialogSession *session) { session->general().copies = 3; };
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    const auto buttons = m_window->findChildren<QPushButton *>();
+    const auto accept = std::find_if(buttons.begin(), buttons.end(), [](auto *b) { return b->isDefault(); });
+    QVERIFY(accept != buttons.end());
+    QCOMPARE((*accept)->text(), u"&Continue"_s);
+    QCOMPARE(find<QSpinBox>()->value(), 3);
+    (*accept)->click();
+    QCOMPARE(m_window->result(), int(QDialog::Accepted));
+    QVERIFY(m_system.submitted.isEmpty());
 }
 
 void PrintWindowTest::brokenPpdStillPrints()

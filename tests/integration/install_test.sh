@@ -11,3 +11,10 @@ summary=$(env -u LD_LIBRARY_PATH "$prefix/bin/kelmar-print" --ppd "$1/ppds/kelm8
     --set DeptCode=True --set departmentCode=01230)
 grep -q '(01230)' <<<"$summary" || { echo "$summary" && exit 1; }
 [ -f "$prefix/share/man/man1/kelmar-print.1" ]
+for file in dbus-1/services/org.kelmar.Print1.service kelmar-print/queue/{kelmar-dialog.ppd,policy.conf} \
+    xdg-desktop-portal/portals/00-kelmar.portal kio/servicemenus/org.kelmar.Print.desktop Thunar/sendto/org.kelmar.Print.desktop; do
+    [ -f "$prefix/share/$file" ] || { echo "$file is missing" && exit 1; }
+done
+# cupsd runs a backend as root only with this mode; a desktop entry that names types becomes the default program for them.
+[ "$(stat -c %a "$prefix/lib/cups/backend/kelmar-dialog")" = 700 ]
+if grep "^MimeType" "$prefix/share/applications/org.kelmar.Print.desktop"; then exit 1; fi

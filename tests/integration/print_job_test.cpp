@@ -17,6 +17,7 @@
 #include <cups/cups.h>
 
 #include <csignal>
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace host;
@@ -98,6 +99,8 @@ private Q_SLOTS:
     void resultsThatCannotBeWritten_data();
     void resultsThatCannotBeWritten();
     void temporaryFolder();
+    void documentOfAnApplicationIsSent();
+    void queueOfTheDialogIsNoPrinter();
 
 private:
     Outcome run(const QStringList &words, const QByteArray &input = {});
@@ -116,6 +119,7 @@ void PrintJobTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
+    qputenv("KELMAR_DIALOG_BACKEND", KELMAR_BINARY_DIR "/backend/kelmar-dialog");
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
     const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
@@ -585,6 +589,62 @@ void PrintJobTest::temporaryFolder()
     QCOMPARE(without, all); // the PPD needs no file
     QCOMPARE(input.code, 1);
     QVERIFY(input.json[u"error"_s][u"message"_s].toString().contains(u"/dev/null/nowhere"_s));
+}
+
+// As the service asks for it: the request on the input, the document as a descriptor.
+void PrintJobTest::documentOfAnApplicationIsSent()
+{
+    const auto send = [](const QString &printer, const QString &path) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            return QByteArray("no document");
+        const int fd = file.handle();
+        const QJsonObject job{{u"printer"_s, printer},
+                              {u"options"_s, QJsonArray{QJsonArray{u"PrintMode"_s, u"Private"_s, 0},
+                                                        QJsonArray{u"copies"_s, u"2"_s, 1}}}};
+        QProcess process;
+        process.setChildProcessModifier([fd] { ::fcntl(fd, F_SETFD, 0); });
+        process.start(program, {u"--dialog-request"_s});
+        process.write(QJsonDocument(QJsonObject{{u"kind"_s, u"submit"_s},
+                                                {u"title"_s, u"Letter"_s},
+                                                {u"document"_s, fd},
+                                                {u"job"_s, job}})
+                          .toJson(QJsonDocument::Compact) +
+                      '\n');
+        while (!process.canReadLine() && process.waitForReadyRead(20000))
+            continue;
+        const QByteArray answer = process.readLine();
+        process.kill(); // it may be showing what went wrong
+        process.waitForFinished();
+        return answer;
+    };
+    QCOMPARE(send(u"office"_s, document), QByteArray("{\"response\":0}\n"));
+    auto job = m_server.waitForNextJob();
+    while (job && job->title != "Letter"_L1) // others may not have been looked at
+        job = m_server.waitForNextJob();
+    QVERIFY(job);
+    QCOMPARE(job->copies, 2);
+    QCOMPARE(job->options.value(u"PrintMode"_s), u"Private"_s);
+    QCOMPARE(send(u"nowhere"_s, document), QByteArray("{\"response\":2}\n"));
+    QCOMPARE(send(u"office"_s, u"/dev/null"_s), QByteArray("{\"response\":2}\n"));
+    QVERIFY(m_server.capturedJobs().last() == job->id);
+}
+
+void PrintJobTest::queueOfTheDialogIsNoPrinter()
+{
+    QVERIFY(m_server.addQueue(u"dialog"_s,
+                              QStringLiteral(KELMAR_BINARY_DIR "/packaging/queue/kelmar-dialog.ppd"),
+                              u"kelmar-dialog:/"_s));
+    QVERIFY(m_server.setDefaultQueue(u"dialog"_s));
+    CupsPrintSystem system;
+    PrintError error;
+    const auto all = system.destinations(&error);
+    QVERIFY(all && !all->isEmpty());
+    for (const Destination &destination : *all)
+        QVERIFY(destination.queue != u"dialog"_s);
+    QVERIFY(!system.destination(QString(), &error));
+    QVERIFY(!system.destination(u"dialog"_s, &error));
+    QVERIFY2(error.message.contains(u"opens the print dialog"_s), qPrintable(error.message));
 }
 
 QTEST_MAIN(PrintJobTest)

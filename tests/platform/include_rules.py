@@ -29,8 +29,11 @@ HOST_ROOMS = {
     "session": {"session", "printing"},
     "batch": {"batch", "session", "printing"},
     "window": {"window", "session", "printing"},
+    "service": {"service"},
+    "backend": {"backend"},
 }
-WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/batch/")
+WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/batch/", "host/service/",
+                   "host/backend/")
 OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
 IN_BUNDLE = {"constraints", "panelkit", "panels", "plugin", "ppd", "device"}
 
@@ -59,6 +62,9 @@ EXAMPLES = [  # file, header, whether the one may include the other
     ("host/printing/job.cpp", "host/session/dialog_session.h", False),
     ("host/batch/batch_run.cpp", "host/window/print_window.h", False),
     ("host/window_run.cpp", "host/batch/batch_run.h", True),
+    ("host/portal_run.cpp", "host/service/portal_settings.h", True),
+    ("host/service/print_portal.cpp", "host/printing/job.h", False),
+    ("host/service/main.cpp", "QApplication", False),
     ("host/session/dialog_session.cpp", "cups/ppd.h", False),
     ("host/printing/ppd_document.cpp", "cups/ppd.h", True),
     ("host/printing/ppd_document.h", "cups/ppd.h", False),

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/application_settings.h"
+
+#include "host/session/page_ranges.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct ApplicationText
+{
+    Q_DECLARE_TR_FUNCTIONS(ApplicationText)
+};
+
+const QString pageSize = QStringLiteral("PageSize");
+
+// An option that holds one character of a code: it has many choices, all of one character.
+bool isPartOfCode(const PpdOption &option)
+{
+    constexpr qsizetype fewestDigits = 8;
+    return option.choices.size() >= fewestDigits &&
+           std::all_of(option.choices.begin(), option.choices.end(),
+                       [](const PpdOption::Choice &choice) { return choice.keyword.size() == 1; });
+}
+
+void mark(const QString &name, const QString &value, DialogSession *session)
+{
+    PpdDocument *ppd = session->ppd();
+    if (ppd->hasOption(name)) {
+        if (!ppd->isInstallable(name))
+            session->markChoice(name, value);
+        return;
+    }
+    if (!ppd->takesOption(name))
+        return;
+    const QMap<QString, QString> choices = ppd->standardChoices(name, value);
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        session->markChoice(it.key(), it.value());
+}
+
+QString noticeAbout(const NamedValues &jobOptions)
+{
+    QStringList parts;
+    for (const auto &[name, value] : jobOptions) {
+        if (name == QLatin1String("number-up") && value != QLatin1String("1"))
+            parts.append(ApplicationText::tr("%1 pages on each side").arg(value));
+        else if (name == QLatin1String("outputorder") && value == QLatin1String("reverse"))
+            parts.append(ApplicationText::tr("last page first"));
+    }
+    return parts.isEmpty()
+               ? QString()
+               : ApplicationText::tr("The application asks for: %1.").arg(parts.join(QStringLiteral(", ")));
+}
+
+// What the print server does to the pages whatever the printer is.
+bool isForServer(const QString &name)
+{
+    static const QStringList names = {
+        QStringLiteral("number-up"),     QStringLiteral("number-up-layout"),
+        QStringLiteral("page-border"),   QStringLiteral("outputorder"),
+        QStringLiteral("page-set"),      QStringLiteral("orientation-requested"),
+        QStringLiteral("landscape"),     QStringLiteral("fit-to-page"),
+        QStringLiteral("print-scaling"), QStringLiteral("mirror"),
+        QStringLiteral("page-left"),     QStringLiteral("page-right"),
+        QStringLiteral("page-top"),      QStringLiteral("page-bottom")};
+    return names.contains(name);
+}
+
+bool isOn(const QString &value)
+{
+    return value.compare(QLatin1String("false"), Qt::CaseInsensitive) != 0;
+}
+
+} // namespace
+
+StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
+{
+    StartingSettings start;
+    start.copies = std::clamp(copies, 1, GeneralSettings::maxCopies);
+    for (const auto &[name, value] : jobOptions) {
+        if (name == QLatin1String("multiple-document-handling"))
+            start.collate = !value.contains(QLatin1String("uncollated"));
+        else if (name.compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
+            start.collate = isOn(value);
+        else if (name == QLatin1String("page-ranges"))
+            start.pages = value;
+        else if (isForServer(name))
+            start.jobOptions.append({name, value});
+        else
+            start.choices.append({name, value});
+    }
+    return start;
+}
+
+void beginWith(const StartingSettings &start, DialogSession *session)
+{
+    GeneralSettings &general = session->general();
+    general.copies = start.copies;
+    general.collate = start.collate.value_or(general.collate);
+    general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
+    if (session->ppd()) {
+        for (const auto &[name, value] : start.choices)
+            mark(name, value, session);
+    }
+    if (const QString notice = noticeAbout(start.jobOptions); !notice.isEmpty())
+        session->addNotice(notice);
+}
+
+ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats)
+{
+    const QString pdf = QStringLiteral("pdf");
+    ApplicationChoice choice{session.destination().name(),
+                             session.general().pages,
+                             {},
+                             formats.isEmpty() || formats.contains(pdf) ? pdf : formats.first()};
+    const PpdDocument *ppd = session.ppd();
+    const QStringList general = ppd ? generalOptionKeywords(*ppd) : QStringList();
+    for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {
+        const auto option = ppd->option(keyword);
+        const bool isChanged = option->markedChoice != option->defaultChoice;
+        const bool isTold = general.contains(keyword) || isChanged;
+        if (isTold && !option->markedChoice.isEmpty() && !ppd->isInstallable(keyword) &&
+            !GeneralSettings::covers(keyword) && !isPartOfCode(*option))
+            choice.choices.append({keyword, option->markedChoice});
+    }
+    return choice;
+}
+
+Paper paperOf(const DialogSession &session)
+{
+    const PpdDocument *ppd = session.ppd();
+    const QString keyword = ppd ? ppd->markedChoice(pageSize) : QString();
+    const auto size = keyword.isEmpty() ? std::nullopt : ppd->paperSize(keyword);
+    if (!size)
+        return {};
+    return {keyword,     ppd->described(pageSize, keyword).choiceText,
+            size->width, size->height,
+            size->left,  size->right,
+            size->top,   size->bottom};
+}
+
+} // namespace host

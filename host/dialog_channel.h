@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/unique_fd.h"
+
+#include <QJsonObject>
+#include <QObject>
+
+#include <optional>
+
+namespace host {
+
+// How a process that opens one dialog for the service talks to it: a request comes on the standard input,
+// answers go to the standard output, one JSON object a line. Takes both over for the life of the process:
+// whatever else writes to the standard output writes to the standard error from then on.
+class DialogChannel : public QObject
+{
+    Q_OBJECT
+public:
+    DialogChannel();
+
+    // Waits for the request. Nil when none comes, or it is none.
+    std::optional<QJsonObject> readRequest();
+    // The end of the input is looked for from now on.
+    void watch();
+    void write(const QJsonObject &answer);
+
+Q_SIGNALS:
+    // Whoever asked does not want the dialog any more, or is gone.
+    void closed();
+
+private:
+    platform::UniqueFd m_answers;
+};
+
+} // namespace host

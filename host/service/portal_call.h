@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/service/dialog_process.h"
+#include "host/service/service_life.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace host {
+
+// One call of the portal and the dialog it opens: answers the call once, and is on the bus under the call's
+// handle until then, so that the portal can take it back. Deletes itself when the dialog is gone.
+class PortalCall : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
+public:
+    // What a call results in when the dialog was accepted.
+    using Results = std::function<QVariantMap(const QJsonObject &answer)>;
+
+    PortalCall(ServiceLife &life, const QDBusConnection &bus, const QDBusMessage &message);
+
+    // `handle` is where the request is exported. `isJob` means that the user has decided already: the request
+    // can be forgotten, the work goes on.
+    void run(const QString &handle, const QJsonObject &request, platform::UniqueFd document, bool isJob,
+             const Results &results);
+    // Answers without a dialog.
+    void refuse();
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void Close();
+
+private:
+    void reply(uint response, const QVariantMap &results = {});
+
+    ServiceLife::Use m_use;
+    QDBusConnection m_bus;
+    QDBusMessage m_message;
+    QString m_handle; // empty when nothing is exported
+    DialogProcess m_dialog;
+    bool m_isJob = false;
+    bool m_replied = false;
+};
+
+} // namespace host

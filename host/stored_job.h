@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/printing/job.h"
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+namespace host {
+
+// What the user has decided about a document that comes later. Holds codes: it goes to the service and comes
+// back from there, and to nobody else. A value.
+struct StoredJob
+{
+    QString printer; // destination name
+    QString title;   // empty for the document's own
+    QList<JobOption> options;
+
+    static StoredJob fromJson(const QJsonObject &object);
+    QJsonObject toJson() const;
+};
+
+} // namespace host

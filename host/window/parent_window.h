@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QWidget;
+class QWindow;
+
+namespace host {
+
+// Puts a dialog in front of another program's window, as the print portal names it ("x11:600003"). Where the
+// name is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet
+// shown; this object outlives its showing.
+class ParentWindow
+{
+public:
+    ParentWindow(QWidget *dialog, const QString &handle, bool modal);
+    ~ParentWindow();
+
+private:
+    QWidget *m_dialog;
+    std::unique_ptr<QWindow> m_foreign;
+};
+
+} // namespace host

@@ -1,0 +1,386 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/service/token_store.h"
+#include "tests/support/child_process.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString portalName = u"org.freedesktop.impl.portal.desktop.kelmar"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString connectionName = u"service-test"_s;
+constexpr int patience = 20000; // milliseconds, on a machine that does other things too
+
+struct Answer
+{
+    int response = -1; // -1 when the call failed
+    QVariantMap results;
+    uint token() const { return results.value(u"token"_s).toUInt(); }
+    QVariantMap map(const QString &name) const
+    {
+        return qdbus_cast<QVariantMap>(results.value(name).value<QDBusArgument>());
+    }
+};
+
+Answer answerOf(const QDBusMessage &reply)
+{
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return {};
+    return {reply.arguments().value(0).toInt(),
+            qdbus_cast<QVariantMap>(reply.arguments().value(1).value<QDBusArgument>())};
+}
+
+} // namespace
+
+// The service on a bus of its own, called as the portal and the queue call it; a script stands in for the
+// dialog.
+class ServiceTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void answersSettingsPageSetupAndToken();
+    void nonsenseInEveryField_data();
+    void nonsenseInEveryField();
+    void tokenRules();
+    void oldTokensGo();
+    void dialogThatFails_data();
+    void dialogThatFails();
+    void closeDuringTheDialog();
+    void sameHandleTwice();
+    void documentFromTheQueue();
+    void leavesWhenIdle();
+    void goesWithTheBus();
+    void aThousandRequestsLeaveNothing();
+
+private:
+    void startService(const QStringList &arguments = {});
+    QDBusMessage prepareCall(const QString &title, const QVariantMap &settings = {},
+                             const QString &appId = {}, const QString &handle = {});
+    QDBusMessage printCall(uint token, const QString &appId = {}, const QString &title = u"T"_s);
+    Answer call(const QDBusMessage &message)
+    {
+        return answerOf(m_bus.call(message, QDBus::BlockWithGui, patience));
+    }
+    bool serviceIsGone() const { return m_service->state() == QProcess::NotRunning; }
+    QByteArray log(const QString &suffix = {}) const
+    {
+        QFile file(m_folder->filePath(u"log"_s) + suffix);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QJsonObject lastRequest() const
+    {
+        return QJsonDocument::fromJson(log().trimmed().split('\n').last()).object();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    ChildProcess m_daemon;
+    ChildProcess m_service;
+    QDBusConnection m_bus{connectionName};
+    int m_calls = 0;
+};
+
+void ServiceTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    const QString address = u"unix:path="_s + m_folder->filePath(u"bus"_s);
+    QString error;
+    m_daemon = startChildProcess(
+        u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s, u"--address="_s + address},
+        "unix:", &error);
+    if (!m_daemon)
+        QSKIP(qPrintable(error));
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
+    qputenv("STUB_LOG", m_folder->filePath(u"log"_s).toUtf8());
+    m_bus = QDBusConnection::connectToBus(address, connectionName);
+    QVERIFY(m_bus.isConnected());
+}
+
+void ServiceTest::cleanup()
+{
+    QDBusConnection::disconnectFromBus(connectionName);
+    m_bus = QDBusConnection(connectionName);
+    m_service.reset();
+    m_daemon.reset();
+}
+
+void ServiceTest::startService(const QStringList &arguments)
+{
+    m_service.reset(new QProcess);
+    m_service->setProcessChannelMode(QProcess::ForwardedChannels);
+    m_service->start(
+        QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print-service"),
+        QStringList{u"--dialog-program"_s, QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/stub_dialog.sh")} +
+            arguments);
+    const auto hasName = [this] {
+        const auto reply = m_bus.call(QDBusMessage::createMethodCall(
+            u"org.freedesktop.DBus"_s, u"/"_s, u"org.freedesktop.DBus"_s, u"ListNames"_s));
+        return reply.arguments().value(0).toStringList().contains(u"org.kelmar.Print1"_s);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hasName(), patience);
+}
+
+QDBusMessage ServiceTest::prepareCall(const QString &title, const QVariantMap &settings, const QString &appId,
+                                      const QString &handle)
+{
+    auto message = QDBusMessage::createMethodCall(portalName, portalPath,
+                                                  u"org.freedesktop.impl.portal.Print"_s, u"PreparePrint"_s);
+    const QString path = handle.isEmpty() ? u"/request/r%1"_s.arg(++m_calls) : handle;
+    message << QVariant::fromValue(QDBusObjectPath(path)) << appId << u"x11:zz"_s << title << settings
+            << QVariantMap{{u"Width"_s, 210.0}, {u"Height"_s, 297.0}} << QVariantMap{{u"modal"_s, u"x"_s}};
+    return message;
+}
+
+QDBusMessage ServiceTest::printCall(uint token, const QString &appId, const QString &title)
+{
+    QTemporaryFile file;
+    if (!file.open() || file.write("the document") < 0 || !file.flush())
+        qFatal("no temporary file");
+    auto message = QDBusMessage::createMethodCall(portalName, portalPath,
+                                                  u"org.freedesktop.impl.portal.Print"_s, u"Print"_s);
+    message << QVariant::fromValue(QDBusObjectPath(u"/request/r%1"_s.arg(++m_calls))) << appId << QString()
+            << title << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle()))
+            << QVariantMap{{u"token"_s, token}};
+    return message;
+}
+
+void ServiceTest::answersSettingsPageSetupAndToken()
+{
+    startService();
+    const Answer answer = call(prepareCall(u"T"_s, {{u"n-copies"_s, u"3"_s}}));
+    QCOMPARE(answer.response, 0);
+    QVERIFY(answer.token() != 0);
+    QCOMPARE(answer.map(u"settings"_s), (QVariantMap{{u"printer"_s, u"office"_s}}));
+    QCOMPARE(answer.map(u"page-setup"_s), (QVariantMap{{u"PPDName"_s, u"A4"_s}}));
+    const QJsonObject request = lastRequest();
+    QCOMPARE(request.value("settings"_L1).toObject(), (QJsonObject{{u"n-copies"_s, u"3"_s}}));
+    QCOMPARE(request.value("pageSetup"_L1).toObject().value("Width"_L1).toDouble(), 210.0);
+    QCOMPARE(call(prepareCall(u"cancel"_s)).response, 1);
+}
+
+void ServiceTest::nonsenseInEveryField_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QVariantMap>("settings");
+    QTest::addColumn<int>("kept"); // settings that reach the dialog
+    const QString odd = u"\u0001\n\"\\ <b>%1%s\u202e"_s;
+    QVariantMap many;
+    for (int i = 0; i < 20000; ++i)
+        many.insert(QString::number(i), u"x"_s);
+    QTest::newRow("odd texts") << odd << QVariantMap{{odd, odd}} << 1;
+    QTest::newRow("long texts") << QString(200000, u'x')
+                                << QVariantMap{{QString(1000, u'k'), u"x"_s}, {u"v"_s, QString(100000, u'x')}}
+                                << 0;
+    QTest::newRow("other types") << u"T"_s
+                                 << QVariantMap{{u"a"_s, QStringList(u"x"_s)},
+                                                {u"b"_s, QVariantMap{{u"c"_s, 1}}},
+                                                {u"c"_s, QByteArray("\0\1", 2)},
+                                                {u"d"_s, qQNaN()},
+                                                {u""_s, u"x"_s},
+                                                {u"e"_s, true}}
+                                 << 1;
+    QTest::newRow("many") << u"T"_s << many << 4096;
+}
+
+void ServiceTest::nonsenseInEveryField()
+{
+    QFETCH(QString, title);
+    QFETCH(QVariantMap, settings);
+    QFETCH(int, kept);
+    startService();
+    const Answer answer = call(prepareCall(title, settings, QString(100000, u'a')));
+    QCOMPARE(answer.response, 0);
+    QVERIFY(answer.results.contains(u"settings"_s) && answer.results.contains(u"page-setup"_s));
+    QCOMPARE(lastRequest().value("settings"_L1).toObject().size(), kept);
+    QVERIFY(lastRequest().value("title"_L1).toString().size() <= 1000);
+}
+
+void ServiceTest::tokenRules()
+{
+    startService();
+    const Answer chosen = call(prepareCall(u"T"_s, {}, u"org.example.App"_s));
+    QVERIFY(!QString::fromUtf8(QJsonDocument::fromVariant(chosen.map(u"settings"_s)).toJson())
+                 .contains(u"12345"_s));
+    const auto kindOf = [this](uint token, const QString &appId) {
+        if (call(printCall(token, appId)).response != 0)
+            return u"refused"_s;
+        return lastRequest().value("kind"_L1).toString();
+    };
+    QCOMPARE(kindOf(chosen.token(), u"org.example.Other"_s), u"print"_s); // the dialog opens
+    QVERIFY(!lastRequest().contains("job"_L1));
+    QCOMPARE(kindOf(chosen.token(), u"org.example.App"_s), u"submit"_s);
+    QVERIFY(lastRequest().value("job"_L1).toObject().contains("options"_L1));
+    QCOMPARE(kindOf(chosen.token(), u"org.example.App"_s), u"print"_s); // good once
+    QCOMPARE(kindOf(0, u"org.example.App"_s), u"print"_s);
+    QCOMPARE(kindOf(4711, {}), u"print"_s);
+    QCOMPARE(log(u".document"_s), QByteArray("the document").repeated(5));
+}
+
+void ServiceTest::oldTokensGo()
+{
+    host::TokenStore tokens(std::chrono::milliseconds(30));
+    QSignalSpy emptied(&tokens, &host::TokenStore::emptied);
+    const uint first = tokens.add(u"a"_s, {});
+    QVERIFY(tokens.add(u"a"_s, {}) != first);
+    QVERIFY(emptied.wait(patience));
+    QVERIFY(tokens.isEmpty());
+    QVERIFY(!tokens.take(first, u"a"_s));
+}
+
+void ServiceTest::dialogThatFails_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::newRow("crash") << u"crash"_s;
+    QTest::newRow("garbage") << u"garbage"_s;
+    QTest::newRow("endless") << u"endless"_s;
+}
+
+void ServiceTest::dialogThatFails()
+{
+    QFETCH(QString, title);
+    startService();
+    const auto other = m_bus.asyncCall(prepareCall(u"wait"_s), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
+    QCOMPARE(call(prepareCall(title)).response, 2);
+    QCOMPARE(call(printCall(0, {}, title)).response, 2);
+    QVERIFY(!other.isFinished()); // nothing else is touched
+    QCOMPARE(call(prepareCall(u"T"_s)).response, 0);
+}
+
+void ServiceTest::closeDuringTheDialog()
+{
+    startService();
+    QDBusPendingCallWatcher pending(m_bus.asyncCall(prepareCall(u"wait"_s, {}, {}, u"/request/mine"_s)));
+    QSignalSpy finished(&pending, &QDBusPendingCallWatcher::finished);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
+    const auto close = QDBusMessage::createMethodCall(portalName, u"/request/mine"_s,
+                                                      u"org.freedesktop.impl.portal.Request"_s, u"Close"_s);
+    QCOMPARE(m_bus.call(close).type(), QDBusMessage::ReplyMessage);
+    QVERIFY(!finished.isEmpty() || finished.wait(patience));
+    QCOMPARE(answerOf(pending.reply()).response, 2);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
+    QCOMPARE(m_bus.call(close).type(), QDBusMessage::ErrorMessage);
+}
+
+void ServiceTest::sameHandleTwice()
+{
+    startService();
+    const auto first = m_bus.asyncCall(prepareCall(u"wait"_s, {}, {}, u"/request/mine"_s), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
+    QCOMPARE(call(prepareCall(u"T"_s, {}, {}, u"/request/mine"_s)).response, 2);
+    QCOMPARE(call(prepareCall(u"T"_s, {}, {}, portalPath)).response, 2);
+    QCOMPARE(call(prepareCall(u"T"_s)).response, 0); // the portal is there still
+    QVERIFY(!first.isFinished());
+}
+
+void ServiceTest::documentFromTheQueue()
+{
+    startService();
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write("PDF") == 3 && file.flush());
+    const auto open = [&](const QByteArray &title) {
+        auto message = QDBusMessage::createMethodCall(u"org.kelmar.Print1"_s, u"/org/kelmar/Print1"_s,
+                                                      u"org.kelmar.Print1"_s, u"OpenDocument"_s);
+        message << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())) << title << 3U
+                << QByteArray("sides=one-sided \xff");
+        return m_bus.call(message, QDBus::BlockWithGui, patience).type();
+    };
+    QCOMPARE(open("Letter \xff\xfe"), QDBusMessage::ReplyMessage);
+    QCOMPARE(lastRequest().value("title"_L1).toString(), u"Letter \ufffd\ufffd"_s);
+    QCOMPARE(lastRequest().value("copies"_L1).toInt(), 3);
+    QCOMPARE(log(u".document"_s), QByteArray("PDF"));
+    QCOMPARE(open("wait"), QDBusMessage::ReplyMessage); // is seen, and open still
+    QCOMPARE(open("crash"), QDBusMessage::ErrorMessage);
+}
+
+void ServiceTest::leavesWhenIdle()
+{
+    startService({u"--idle"_s, u"1"_s});
+    QSignalSpy left(m_service.get(), &QProcess::finished);
+    const Answer chosen = call(prepareCall(u"T"_s));
+    QCOMPARE(chosen.response, 0);
+    QVERIFY(!left.wait(2000)); // a token is open
+    QCOMPARE(call(printCall(chosen.token())).response, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(serviceIsGone(), patience);
+    QCOMPARE(m_service->exitCode(), 0);
+}
+
+void ServiceTest::goesWithTheBus()
+{
+    startService();
+    QDBusConnection::disconnectFromBus(connectionName);
+    m_daemon.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(serviceIsGone(), patience);
+}
+
+void ServiceTest::aThousandRequestsLeaveNothing()
+{
+    qunsetenv("STUB_LOG");
+    startService();
+    const QString process = u"/proc/%1"_s.arg(m_service->processId());
+    const auto entries = [&process](const QString &folder) {
+        return QDir(process + folder)
+            .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+            .size();
+    };
+    const auto children = [&process] {
+        QFile file(process + u"/task/"_s + process.section(u'/', -1) + u"/children"_s);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray("?");
+    };
+    const auto privateKilobytes = [&process] {
+        QFile file(process + u"/smaps_rollup"_s);
+        qint64 sum = 0;
+        if (!file.open(QIODevice::ReadOnly))
+            return sum;
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            if (line.startsWith("Private_Dirty:"))
+                sum += line.simplified().split(' ').value(1).toLongLong();
+        }
+        return sum;
+    };
+    const auto ask = [this](int times) {
+        constexpr int atOnce = 10;
+        for (int i = 0; i < times; i += atOnce) {
+            QList<QDBusPendingCall> calls;
+            for (int j = 0; j < atOnce; ++j)
+                calls.append(m_bus.asyncCall(prepareCall(j ? u"cancel"_s : u"crash"_s), patience));
+            for (QDBusPendingCall &pending : calls) {
+                pending.waitForFinished();
+                QVERIFY(answerOf(pending.reply()).response > 0);
+            }
+        }
+    };
+    ask(20);
+    QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
+    const qsizetype files = entries(u"/fd"_s), threads = entries(u"/task"_s);
+    [[maybe_unused]] const qint64 before = privateKilobytes();
+    ask(1000);
+    QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(entries(u"/fd"_s), files, patience);
+    QCOMPARE(entries(u"/task"_s), threads);
+#if !defined(__SANITIZE_ADDRESS__) // which keeps what was freed
+    QVERIFY2(privateKilobytes() - before < 300, qPrintable(QString::number(privateKilobytes() - before)));
+#endif
+}
+
+QTEST_GUILESS_MAIN(ServiceTest)
+#include "service_test.moc"

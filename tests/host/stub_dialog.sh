@@ -1,0 +1,25 @@
+#!/bin/bash
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+# Stands in for the dialog: does what the title of the request says, and notes requests in $STUB_LOG.
+read -r line
+[ -z "${STUB_LOG:-}" ] || printf '%s\n' "$line" >>"$STUB_LOG"
+case $line in
+*'"title":"crash"'*) kill -KILL $$ ;;
+*'"title":"garbage"'*) printf 'no json\n[1]\n{"response":"x"}\n' ;;
+*'"title":"endless"'*) tr '\0' x </dev/zero ;;
+*'"title":"silent"'*) cat >/dev/null ;;
+*'"title":"cancel"'*) echo '{"response":1}' ;;
+*'"title":"wait"'*)
+    echo '{"event":"shown"}'
+    cat >/dev/null # until it is told to go
+    [ -z "${STUB_LOG:-}" ] || echo gone >>"$STUB_LOG"
+    ;;
+*'"kind":"choose"'*)
+    echo '{"response":0,"settings":{"printer":"office"},"pageSetup":{"PPDName":"A4"},"job":{"printer":"office","options":[["Code","12345",0]]}}'
+    ;;
+*)
+    [[ $line =~ '"document":'([0-9]+) ]] && [ -z "${STUB_LOG:-}" ] || cat "/proc/self/fd/${BASH_REMATCH[1]}" >>"$STUB_LOG.document"
+    printf '{"event":"shown"}\n{"response":0}\n'
+    ;;
+esac

@@ -1,0 +1,149 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+# The backend of the dialog's queue, called as cupsd calls it and by a real cupsd, with a session of the user nobody in
+# which a script stands in for the dialog. Usage: dialog_backend_test.sh BUILDDIR. Needs root; exit code 77 says so.
+set -uo pipefail
+root=$(cd "$(dirname "$0")/../.." && pwd)
+build=$1
+uid=65534 gid=65534
+[ "$(id -u)" -eq 0 ] || { echo "SKIP   : needs root" && exit 77; }
+[ -n "${KELMAR_BACKEND_TEST:-}" ] || KELMAR_BACKEND_TEST=1 exec unshare -m --propagation private "$0" "$build"
+
+work=$(mktemp -d /tmp/kelmar-backend.XXXXXX)
+runtime=/run/user/$uid
+failed=0
+pids=()
+cleanup() {
+    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
+    "$root/scripts/lib/private-cupsd.sh" stop "$work/cups"
+    rm -rf "$work"
+}
+trap cleanup EXIT
+chmod 755 "$work"
+mkdir -p /run/user
+mount -t tmpfs tmpfs /run/user
+mount -t tmpfs -o mode=1777 tmpfs /var/tmp
+install -d -m 700 -o $uid -g $gid "$work/home"
+export CUPS_SERVER=$work/cups/cups.sock
+
+become_user() { # COMMAND...: for the background, where the pid is then the command's
+    exec setpriv --reuid $uid --regid $gid --clear-groups env -i PATH="$PATH" HOME="$work/home" XDG_RUNTIME_DIR=$runtime \
+        DBUS_SESSION_BUS_ADDRESS=unix:path=$runtime/bus STUB_LOG="$work/home/log" CUPS_SERVER="$CUPS_SERVER" \
+        ASAN_OPTIONS="${ASAN_OPTIONS:-}" "$@"
+}
+as_user() { (become_user "$@"); }
+
+expect() { # WHAT CODE TEXT COMMAND...: the exit code, and what the error output has to contain
+    local code=0
+    "${@:4}" >"$work/out" 2>"$work/err" </dev/null || code=$?
+    [ $code -eq "$2" ] && { [ -z "$3" ] || grep -qF -- "$3" "$work/err"; } && return
+    echo "FAIL: $1: exit code $code instead of $2; said: $(cat "$work/err")"
+    failed=1
+}
+
+backend() { # ARGUMENTS...: as cupsd runs it
+    env -i PATH="$PATH" AUTH_UID="${auth-$uid}" DEVICE_URI="${device:-kelmar-dialog:/}" SECRET=of-root \
+        ASAN_OPTIONS="${ASAN_OPTIONS:-}" "$build/backend/kelmar-dialog" "$@"
+}
+
+printf 'the document' >"$work/job"
+chmod 600 "$work/job" # root's, as cupsd's spool is
+
+# ---- who it is that prints
+for auth in "" x 0x10 -1 " 65534" 65534x 4294967295 99999999999999999999; do
+    expect "AUTH_UID '$auth'" 3 "signed in on this computer" backend 1 root T 1 "" "$work/job"
+done
+auth=0 expect "root" 3 "(root)" backend 1 nobody T 1 "" "$work/job"
+auth=54321 expect "unknown user" 3 "no user with the number 54321" backend 1 nobody T 1 "" "$work/job"
+unset auth
+expect "no AUTH_UID" 3 "signed in" env -i "$build/backend/kelmar-dialog" 1 nobody T 1 "" "$work/job"
+
+# ---- where the session is
+expect "no session" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
+install -d -m 755 "$runtime" # root's
+expect "another's folder" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
+chown $uid:$gid "$runtime" && chmod 700 "$runtime"
+dbus-daemon --session --nofork --address=unix:path="$work/elsewhere" >/dev/null 2>&1 &
+pids+=($!)
+ln -s "$work/elsewhere" "$runtime/bus"
+expect "a link to another bus" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
+rm "$runtime/bus"
+become_user dbus-daemon --session --nofork --address=unix:path=$runtime/bus >/dev/null 2>&1 &
+pids+=($!)
+for tries in {1..100}; do [ -S $runtime/bus ] && break || sleep 0.1; done
+device=kelmar-dialog:/?wait=2 expect "no service" 3 "did not open" backend 1 nobody T 1 "" "$work/job"
+become_user "$build/bin/kelmar-print-service" --dialog-program "$root/tests/host/stub_dialog.sh" 2>/dev/null &
+pids+=($!)
+has_service() { as_user dbus-send --session --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.ListNames 2>/dev/null | grep -q org.kelmar.Print1; }
+for tries in {1..100}; do has_service && break || sleep 0.1; done
+
+# ---- what is handed over
+log=$work/home/log
+accepted() { # WHAT TEXT ARGUMENTS...: taken, with this text in the request, the document whole
+    rm -f "$log" "$log.document"
+    expect "$1" 0 "" backend "${@:3}"
+    for tries in {1..50}; do [ -s "$log.document" ] && break || sleep 0.1; done
+    [ "$(cat "$log.document")" = "the document" ] || { echo "FAIL: $1: the document is not whole" && failed=1; }
+    grep -qF -- "$2" "$log" || { echo "FAIL: $1: the request lacks $2: $(cut -c 1-300 "$log")" && failed=1; }
+    [ "$(stat -c %u "$log")" -eq $uid ] || { echo "FAIL: $1: not the user's process" && failed=1; }
+}
+accepted "another's name" '"copies":3' 1 root T 3 "sides=one-sided" "$work/job"
+accepted "a hostile title" '\"}$(id)`id`' 1 nobody $'"}$(id)`id`\n\xff\xfe\x01<b>' 1 "" "$work/job"
+accepted "a long title" '"title":"xxxxxxxxxx' 1 nobody "$(printf 'x%.0s' {1..100000})" 1 "$(printf 'a=b %.0s' {1..20000})" "$work/job"
+for copies in 0 -5 99999999999 1e3 ""; do
+    accepted "copies '$copies'" '"copies":1' 1 nobody T "$copies" "" "$work/job"
+done
+from_pipe() { cat "$work/job" | backend 1 nobody T 1 ""; }
+rm -f "$log.document"
+from_pipe || { echo "FAIL: a document from a filter" && failed=1; }
+
+# ---- files that are none of it
+ln -s "$work/job" "$work/link"
+mkfifo "$work/fifo"
+truncate -s 3G "$work/large"
+for file in link fifo missing .; do
+    expect "job file $file" 3 "cannot be opened" timeout 10 bash -c "$(declare -f backend); uid=$uid build=$build; backend 1 nobody T 1 '' $work/$file"
+done
+expect "a large document" 3 "larger than 2 GB" backend 1 nobody T 1 "" "$work/large"
+
+# ---- a dialog that fails, and what the process is while it waits
+expect "a crash" 3 "did not open" backend 1 nobody crash 1 "" "$work/job"
+device=kelmar-dialog:/?wait=3 expect "no answer" 3 "did not open" backend 1 nobody silent 1 "" "$work/job" &
+waiting=$!
+child= facts=
+for tries in {1..50}; do
+    child=$(pgrep -P $waiting -f kelmar-dialog | head -n 1)
+    [ -n "$child" ] && grep -q "^Uid:[[:space:]]$uid" "/proc/$child/status" 2>/dev/null && break || sleep 0.05
+done
+facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/status" | tr -s '\t ' ' ')
+wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 0000000000000000\nCapEff: 0000000000000000\nNoNewPrivs: 1' \
+    $uid $uid $uid $uid $gid $gid $gid $gid $gid)
+[ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
+wait $waiting
+[ -z "$(ls -A /var/tmp)" ] || { echo "FAIL: left in /var/tmp: $(ls -A /var/tmp)" && failed=1; }
+
+# ---- through a real cupsd
+KELMAR_DIALOG_BACKEND=$build/backend/kelmar-dialog "$root/scripts/lib/private-cupsd.sh" start "$work/cups" || exit 1
+"$root/scripts/lib/private-cupsd.sh" add-queue "$work/cups" kelmar "$build/packaging/queue/kelmar-dialog.ppd" "kelmar-dialog:/?wait=3"
+lpadmin -p kelmar -o printer-op-policy=kelmar-dialog -o printer-is-shared=false 2>/dev/null
+document=$root/demo/report.pdf
+rm -f "$log" "$log.document"
+as_user lp -d kelmar -n 3 -o sides=two-sided-long-edge -t "A letter" "$document" >/dev/null
+for tries in {1..100}; do cmp -s "$log.document" "$document" && break || sleep 0.1; done
+cmp "$log.document" "$document" || failed=1
+for text in '"title":"A letter"' '"copies":3' 'sides=two-sided-long-edge'; do
+    grep -qF -- "$text" "$log" || { echo "FAIL: through cupsd: no $text in $(cat "$log")" && failed=1; }
+done
+expect "in another's name" 1 "" as_user lp -U root -d kelmar "$document"
+held() { # WHAT TEXT: the last job waits, and both it and the queue say why
+    for tries in {1..100}; do lpstat -p kelmar | grep -qF -- "$2" && break || sleep 0.1; done
+    lpstat -p kelmar | grep -qF -- "$2" || { echo "FAIL: $1: lpstat says $(lpstat -p kelmar)" && failed=1; }
+    lpstat -p kelmar | grep -q disabled && echo "FAIL: $1: the queue has stopped" && failed=1
+    [ "$(lpstat -o kelmar | wc -l)" -eq "$3" ] || { echo "FAIL: $1: the job is lost: $(lpstat -o)" && failed=1; }
+}
+as_user lp -d kelmar -t crash "$document" >/dev/null
+held "a dialog that fails" "The dialog did not open" 1
+lp -d kelmar "$document" >/dev/null
+held "root" "signed in on this computer" 2 # cupsd names root to no backend
+[ $failed -eq 0 ] || { cat "$work/cups/log/error_log"; exit 1; }
