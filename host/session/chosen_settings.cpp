@@ -43,7 +43,7 @@ bool chooseStandardName(DialogSession *session, ChosenSetting setting, PrintErro
         return false;
     }
     for (auto it = choices.begin(); it != choices.end(); ++it)
-        session->markChoice(it.key(), it.value());
+        session->markChoice(it.key(), it.value(), setting.isSecret);
     setting.options = choices.keys();
     session->noteChosen(setting);
     return true;
@@ -75,6 +75,8 @@ ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
     if (secret && ppd)
         setting.text =
             ChosenText::tr("the code for “%1”").arg(ppd->described(secret->option, secret->choice).text());
+    else if (ppd && ppd->hasOption(setting.key) && setting.isSecret)
+        setting.text = ppd->described(setting.key, {}).optionText;
     else if (ppd && ppd->hasOption(setting.key))
         setting.text = ppd->described(setting.key, setting.value).text();
     else if (panel >= 0)

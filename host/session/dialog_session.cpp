@@ -297,19 +297,27 @@ QStringList DialogSession::otherKeywords() const
     return others;
 }
 
-bool DialogSession::markChoice(const QString &keyword, const QString &choice)
+bool DialogSession::markChoice(const QString &keyword, const QString &choice, bool isSecret)
 {
     if (!m_ppd || !m_ppd->mark(keyword, choice))
         return false;
     m_lastUserKeyword = keyword;
-    noteChosen({keyword, choice});
+    ChosenSetting setting{keyword, choice};
+    setting.isSecret = isSecret;
+    noteChosen(setting);
     setOnPanels(keyword, choice);
     settle();
     return true;
 }
 
-void DialogSession::noteChosen(const ChosenSetting &setting)
+void DialogSession::noteChosen(ChosenSetting setting)
 {
+    // A panel repeats, when it is saved, what it was set to.
+    const auto &earlier = m_chosen.inOrder();
+    setting.isSecret |=
+        isSecret(setting.key) || std::any_of(earlier.begin(), earlier.end(), [&](const ChosenSetting &known) {
+            return known.isSecret && known.key == setting.key && known.value == setting.value;
+        });
     m_chosen.add(setting.text.isNull() ? inWords(*this, setting) : setting);
 }
 

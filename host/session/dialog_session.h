@@ -71,10 +71,10 @@ public:
     QStringList otherKeywords() const;
 
     // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it.
-    bool markChoice(const QString &keyword, const QString &choice);
+    bool markChoice(const QString &keyword, const QString &choice, bool isSecret = false);
     // What has been chosen so far: here, in panels that were saved, and by others who note it.
     const ChosenSettings &chosen() const { return m_chosen; }
-    void noteChosen(const ChosenSetting &setting);
+    void noteChosen(ChosenSetting setting);
     QList<Conflict> conflicts() const;
     // libcups's way out of the conflicts that leaves the user's last change as it is, where there is one; but
     // none that gives up what protects the user. Where every way does, `givenUp` (may be null) says what.

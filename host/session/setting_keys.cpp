@@ -114,7 +114,7 @@ bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintE
     const int panel = m_session->panelOfKeyword(option->keyword);
     if (panel >= 0)
         return setOnPanel(panel, option->keyword, choice, error);
-    if (m_session->markChoice(option->keyword, choice))
+    if (m_session->markChoice(option->keyword, choice, m_valueIsSecret))
         return true;
     *error = noSuchChoice(*option, value);
     return false;
@@ -129,7 +129,9 @@ bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &v
         *error = badValue(problem);
         return false;
     }
-    m_session->noteChosen({keyPath, value});
+    ChosenSetting setting{keyPath, value};
+    setting.isSecret = m_valueIsSecret;
+    m_session->noteChosen(setting);
     m_session->save();
     const QString reason = m_session->panel(panel)->unavailableReason();
     if (keyPath.contains(QLatin1Char('.')) && !reason.isNull())

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/session/carry_over.h"
 #include "host/session/extensions.h"
 #include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void keys_data();
     void keys();
     void refusedValueLeavesNothingBehind();
+    void secretValueIsNotRepeatedElsewhere();
     void blockingWorkIsAnnounced();
     void brokenExtensionIsToldAndPassedOver();
     void panelThatCannotBeMadeIsTold();
@@ -275,6 +277,17 @@ void DialogSessionTest::refusedValueLeavesNothingBehind()
     });
     QVERIFY(!keys.set(u"code"_s, u"99999"_s, &problem));
     QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
+}
+
+void DialogSessionTest::secretValueIsNotRepeatedElsewhere()
+{
+    PrintError problem;
+    SettingKeys keys(m_session.get());
+    QVERIFY(keys.set(u"Cyan"_s, u"2"_s, &problem, true)); // of a panel
+    QVERIFY(keys.set(u"Duplex"_s, u"DuplexNoTumble"_s, &problem, true));
+    DialogSession raw(officePrinter(u"raw"_s), nullptr);
+    carryOver(*m_session, &raw);
+    QCOMPARE(raw.takeNotices(), QStringList(u"This printer does not take over: Cyan Balance, Two-Sided."_s));
 }
 
 void DialogSessionTest::blockingWorkIsAnnounced()
