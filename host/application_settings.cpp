@@ -6,6 +6,7 @@
 #include "host/session/page_ranges.h"
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -20,10 +21,15 @@ struct ApplicationText
 
 const QString pageSize = QStringLiteral("PageSize");
 
-// An option that holds one character of a code: it has many choices, all of one character.
-bool isPartOfCode(const PpdOption &option)
+// Whether an option holds a code, or a part of one. Where no bundle tells, one that has many choices, all of
+// one character, is taken for a part.
+bool isSecret(const DialogSession &session, const PpdOption &option)
 {
     constexpr qsizetype fewestDigits = 8;
+    if (session.isSecret(option.keyword))
+        return true;
+    if (!session.protection().secrets.isEmpty())
+        return false;
     return option.choices.size() >= fewestDigits &&
            std::all_of(option.choices.begin(), option.choices.end(),
                        [](const PpdOption::Choice &choice) { return choice.keyword.size() == 1; });
@@ -126,10 +132,16 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
         const bool isChanged = option->markedChoice != option->defaultChoice;
         const bool isTold = general.contains(keyword) || isChanged;
         if (isTold && !option->markedChoice.isEmpty() && !ppd->isInstallable(keyword) &&
-            !GeneralSettings::covers(keyword) && !isPartOfCode(*option))
+            !GeneralSettings::covers(keyword) && !isSecret(session, *option))
             choice.choices.append({keyword, option->markedChoice});
     }
     return choice;
+}
+
+QList<JobOption> jobOptionsForMadePages(DialogSession *session)
+{
+    const QScopedValueRollback<QString> pages(session->general().pages, QString());
+    return session->jobOptions();
 }
 
 Paper paperOf(const DialogSession &session)

@@ -18,6 +18,8 @@ void beginWith(const StartingSettings &start, DialogSession *session);
 // What an application may know of a session's settings: nothing that could be part of a code, and nothing of
 // a panel's own.
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats);
+// The options of a job whose pages an application makes as they were chosen: all of them are printed.
+QList<JobOption> jobOptionsForMadePages(DialogSession *session);
 // The paper that a session has chosen; without measures where the printer has no PPD.
 Paper paperOf(const DialogSession &session);
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void start();
     void whatComesBack();
     void secretsStayHere();
+    void madePagesAreAllPrinted();
     void optionsOfAPrintedJob();
     void rawQueue();
 
@@ -130,6 +131,23 @@ void ApplicationSettingsTest::secretsStayHere()
     const StoredJob again = StoredJob::fromJson(job.toJson());
     QCOMPARE(again.options, job.options);
     QCOMPARE(sentValue(again.options, digits.last()), u"7"_s);
+
+    DialogSession custom(officePrinter(), openPpd(customPpd()));
+    QVERIFY(custom.markChoice(u"Lock"_s, u"Custom.12345"_s));
+    QVERIFY(custom.markChoice(u"Density"_s, u"Custom.3"_s));
+    QCOMPARE(choiceForApplication(custom, {}).choices.last(), std::pair(u"Density"_s, u"Custom.3"_s));
+}
+
+void ApplicationSettingsTest::madePagesAreAllPrinted()
+{
+    Destination printer = officePrinter();
+    for (const char *wanted : {"", "1-2147483647"}) { // the second one against a default of the queue
+        DialogSession session(printer, openPpd(officePpd()));
+        session.general().pages = u"2-3"_s;
+        QCOMPARE(sentValue(jobOptionsForMadePages(&session), u"page-ranges"_s), QLatin1String(wanted));
+        QCOMPARE(session.general().pages, u"2-3"_s);
+        printer.options.insert(u"page-ranges"_s, u"1-2"_s);
+    }
 }
 
 void ApplicationSettingsTest::optionsOfAPrintedJob()
