@@ -7,6 +7,7 @@
 #include <QSocketNotifier>
 
 #include <csignal>
+#include <poll.h>
 
 namespace host {
 
@@ -36,6 +37,13 @@ std::optional<QJsonObject> DialogChannel::readRequest()
     }
     const QJsonDocument document = QJsonDocument::fromJson(line);
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
+}
+
+// Nobody writes anything after the request.
+bool DialogChannel::isClosed() const
+{
+    pollfd input = {STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 0) > 0;
 }
 
 void DialogChannel::watch()

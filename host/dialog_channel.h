@@ -23,6 +23,8 @@ public:
 
     // Waits for the request. Nil when none comes, or it is none.
     std::optional<QJsonObject> readRequest();
+    // Whether whoever asked has gone already. Before watch().
+    bool isClosed() const;
     // The end of the input is looked for from now on.
     void watch();
     void write(const QJsonObject &answer);

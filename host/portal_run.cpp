@@ -6,6 +6,7 @@
 #include "host/application_settings.h"
 #include "host/batch/arguments.h"
 #include "host/dialog_channel.h"
+#include "host/printing/held_signals.h"
 #include "host/printing/option_text.h"
 #include "host/session/chosen_settings.h"
 #include "host/stored_job.h"
@@ -29,6 +30,9 @@ struct PortalText
 {
     Q_DECLARE_TR_FUNCTIONS(PortalText)
 };
+
+// How long an application may leave its document unfinished without another byte; milliseconds.
+constexpr int stall = 60'000;
 
 enum Response { Done = 0, Cancelled = 1, Other = 2 };
 
@@ -77,6 +81,7 @@ private:
     QJsonObject m_request;
     platform::UniqueFd m_document;
     QStringList m_differences;
+    std::optional<HeldSignals> m_signals; // while a document is sent and what became of it is answered
 };
 
 int RequestRun::run()
@@ -106,8 +111,8 @@ bool RequestRun::takeDocument(PrintError *error)
 {
     const platform::UniqueFd given(m_request.value(QLatin1String("document")).toInt(-1));
     if (given)
-        m_document =
-            platform::privateCopy(given.get(), QDir::tempPath().toStdString(), platform::longestDocument);
+        m_document = platform::privateCopy(given.get(), QDir::tempPath().toStdString(),
+                                           platform::longestDocument, stall);
     else
         errno = EBADF;
     if (m_document && ::lseek(m_document.get(), 0, SEEK_END) > 0)
@@ -159,6 +164,7 @@ StartingSettings RequestRun::start() const
 // The application does not look at what becomes of its document, so the user is told here.
 int RequestRun::submit()
 {
+    m_signals.emplace();
     const StoredJob job = StoredJob::fromJson(m_request.value(QLatin1String("job")).toObject());
     PrintError error;
     const bool sent = send(job, &error);
@@ -168,6 +174,7 @@ int RequestRun::submit()
     else if (!m_differences.isEmpty())
         tell(PortalText::tr("The document was sent to “%1”, but not quite as asked for.").arg(job.printer),
              m_differences.join(QLatin1Char('\n')));
+    m_signals.reset();
     return code;
 }
 
@@ -194,6 +201,7 @@ bool RequestRun::send(const StoredJob &job, PrintError *error)
 void RequestRun::tell(const QString &text, const QString &details)
 {
     qWarning("%s %s", qPrintable(text), qPrintable(details));
+    m_signals.reset(); // a box does not keep the desktop from ending
     if (!m_hasDisplay)
         return;
     QMessageBox box(QMessageBox::Warning, PortalText::tr("Print"), text + QStringLiteral("\n\n") + details);
@@ -238,15 +246,16 @@ int RequestRun::openDialog()
     }
     FirstPaint firstPaint(&window);
     QObject::connect(&firstPaint, &FirstPaint::done, &window, [&] {
+        if (kind() == QLatin1String("document") && m_channel.isClosed()) { // the queue keeps its job
+            window.reject();
+            return;
+        }
         m_channel.write({{QStringLiteral("event"), QStringLiteral("shown")}});
         window.finishLater();
         m_channel.watch();
     });
-    if (kind() != QLatin1String("document")) {
-        QObject::connect(&m_channel, &DialogChannel::closed, &window, [&window] {
-            if (!window.submission()) // what has been printed is reported to the end
-                window.reject();
-        });
+    if (kind() == QLatin1String("choose")) { // who owns a document is seen to the end
+        QObject::connect(&m_channel, &DialogChannel::closed, &window, &PrintWindow::reject);
     }
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     window.show();
@@ -260,16 +269,14 @@ int RequestRun::openDialog()
 
 QJsonObject RequestRun::chosen(const PrintWindow &window) const
 {
-    const DialogSession &session = *window.session();
+    DialogSession &session = *window.session();
     QStringList formats;
     const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
     for (const QJsonValue &format : abilities.value(QLatin1String("formats")).toArray())
         formats.append(format.toString());
-    StoredJob job{session.destination().name(),
-                  textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename"),
-                  session.jobOptions()};
-    // The application makes these pages and no others.
-    job.options.removeIf([](const JobOption &option) { return option.name == QLatin1String("page-ranges"); });
+    const StoredJob job{session.destination().name(),
+                        textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename"),
+                        jobOptionsForMadePages(&session)};
     return {
         {QStringLiteral("response"), Done},
         {QStringLiteral("settings"),

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <poll.h>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -49,9 +50,10 @@ constexpr off_t longestDocument = off_t{2} * 1024 * 1024 * 1024;
 
 // Copies all of `source`, from its beginning where it has one to go back to, into a new file of `folder` that
 // loses its name at once: it follows no link, nobody else can open it, and it goes with its last descriptor.
-// Blocks. None, with errno, when there are more than `limit` bytes (EFBIG) or something cannot be read or
+// Blocks, at most for `patience` (milliseconds; -1: for ever) each time that nothing comes. None, with errno,
+// when there are more than `limit` bytes (EFBIG), nothing comes (ETIMEDOUT) or something cannot be read or
 // written.
-inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit)
+inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit, int patience = -1)
 {
     struct stat facts = {};
     if (::fstat(source, &facts) != 0)
@@ -68,6 +70,14 @@ inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit)
     char block[64 * 1024];
     off_t total = 0;
     while (true) {
+        pollfd input = {source, POLLIN, 0};
+        const int ready = ::poll(&input, 1, patience);
+        if (ready < 0 && errno == EINTR)
+            continue;
+        if (ready == 0)
+            errno = ETIMEDOUT;
+        if (ready <= 0)
+            return {};
         const ssize_t got = ::read(source, block, sizeof block);
         if (got == 0)
             break;

@@ -7,6 +7,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 
 #include <memory>
 
@@ -22,8 +23,14 @@ class OpenedDocument : public QObject
 {
 public:
     OpenedDocument(ServiceLife &life, const QDBusConnection &bus, const QDBusMessage &message)
-        : m_use(life), m_bus(bus), m_message(message), m_dialog(life.dialogProgram(), this)
+        : m_use(life), m_bus(bus), m_message(message), m_dialog(life.dialogProgram(), this),
+          m_caller(message.service(), bus, QDBusServiceWatcher::WatchForUnregistration)
     {
+        // A queue that does not wait any more keeps its job; the same document is not opened beside it.
+        connect(&m_caller, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+            if (!m_replied)
+                m_dialog.close();
+        });
         connect(&m_dialog, &DialogProcess::shown, this, [this] { reply(m_message.createReply()); });
         connect(&m_dialog, &DialogProcess::ended, this, [this] {
             reply(m_message.createErrorReply(QStringLiteral("org.kelmar.Print1.Error.NoDialog"),
@@ -47,6 +54,7 @@ private:
     QDBusConnection m_bus;
     QDBusMessage m_message;
     DialogProcess m_dialog;
+    QDBusServiceWatcher m_caller;
     bool m_replied = false;
 };
 

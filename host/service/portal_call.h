@@ -27,8 +27,8 @@ public:
 
     PortalCall(ServiceLife &life, const QDBusConnection &bus, const QDBusMessage &message);
 
-    // `handle` is where the request is exported. `isJob` means that the user has decided already: the request
-    // can be forgotten, the work goes on.
+    // `handle` is where the request is exported. `isJob` means that there is a document: the request can be
+    // forgotten, the work goes on.
     void run(const QString &handle, const QJsonObject &request, platform::UniqueFd document, bool isJob,
              const Results &results);
     // Answers without a dialog.

@@ -80,7 +80,7 @@ uint PrintPortal::Print(const QDBusObjectPath &handle, const QString &app_id, co
                                     parent_window, title, options);
     if (job)
         request.insert(QStringLiteral("job"), *job);
-    call->run(handle.path(), request, std::move(document), job.has_value(),
+    call->run(handle.path(), request, std::move(document), true,
               [](const QJsonObject &) { return QVariantMap(); });
     return 0;
 }

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void dialogThatFails_data();
     void dialogThatFails();
     void closeDuringTheDialog();
+    void documentOutlivesItsRequest();
     void sameHandleTwice();
     void documentFromTheQueue();
     void leavesWhenIdle();
@@ -281,6 +282,23 @@ void ServiceTest::closeDuringTheDialog()
     QCOMPARE(m_bus.call(close).type(), QDBusMessage::ErrorMessage);
 }
 
+void ServiceTest::documentOutlivesItsRequest()
+{
+    startService();
+    const auto taken = [this](const QDBusMessage &call) {
+        const auto pending = m_bus.asyncCall(call, patience);
+        const qsizetype before = log().size();
+        QTRY_VERIFY_WITH_TIMEOUT(log().size() > before, patience);
+        const QString handle = call.arguments().first().value<QDBusObjectPath>().path();
+        m_bus.call(QDBusMessage::createMethodCall(portalName, handle,
+                                                  u"org.freedesktop.impl.portal.Request"_s, u"Close"_s));
+    };
+    taken(printCall(0, {}, u"wait"_s));
+    taken(prepareCall(u"wait"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
+    QCOMPARE(log().count("gone"), 1);
+}
+
 void ServiceTest::sameHandleTwice()
 {
     startService();
@@ -297,12 +315,15 @@ void ServiceTest::documentFromTheQueue()
     startService();
     QTemporaryFile file;
     QVERIFY(file.open() && file.write("PDF") == 3 && file.flush());
-    const auto open = [&](const QByteArray &title) {
+    const auto message = [&](const QByteArray &title) {
         auto message = QDBusMessage::createMethodCall(u"org.kelmar.Print1"_s, u"/org/kelmar/Print1"_s,
                                                       u"org.kelmar.Print1"_s, u"OpenDocument"_s);
         message << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())) << title << 3U
                 << QByteArray("sides=one-sided \xff");
-        return m_bus.call(message, QDBus::BlockWithGui, patience).type();
+        return message;
+    };
+    const auto open = [&](const QByteArray &title) {
+        return m_bus.call(message(title), QDBus::BlockWithGui, patience).type();
     };
     QCOMPARE(open("Letter \xff\xfe"), QDBusMessage::ReplyMessage);
     QCOMPARE(lastRequest().value("title"_L1).toString(), u"Letter \ufffd\ufffd"_s);
@@ -310,6 +331,13 @@ void ServiceTest::documentFromTheQueue()
     QCOMPARE(log(u".document"_s), QByteArray("PDF"));
     QCOMPARE(open("wait"), QDBusMessage::ReplyMessage); // is seen, and open still
     QCOMPARE(open("crash"), QDBusMessage::ErrorMessage);
+    // A caller that goes before it is seen.
+    const QString other = u"service-test-caller"_s;
+    QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), other)
+        .asyncCall(message("silent"));
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("silent"), patience);
+    QDBusConnection::disconnectFromBus(other);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
 }
 
 void ServiceTest::leavesWhenIdle()

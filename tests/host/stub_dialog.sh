@@ -8,7 +8,10 @@ case $line in
 *'"title":"crash"'*) kill -KILL $$ ;;
 *'"title":"garbage"'*) printf 'no json\n[1]\n{"response":"x"}\n' ;;
 *'"title":"endless"'*) tr '\0' x </dev/zero ;;
-*'"title":"silent"'*) cat >/dev/null ;;
+*'"title":"silent"'*)
+    cat >/dev/null
+    [ -z "${STUB_LOG:-}" ] || echo gone >>"$STUB_LOG"
+    ;;
 *'"title":"cancel"'*) echo '{"response":1}' ;;
 *'"title":"wait"'*)
     echo '{"event":"shown"}'
