@@ -71,6 +71,13 @@ bool isTooLarge(const QString &path)
     return total > PpdDocument::mostBytes;
 }
 
+PrintError tooLarge(const QString &name)
+{
+    return {
+        PrintError::Kind::BrokenPpd,
+        PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(PpdDocument::mostBytes >> 20)};
+}
+
 // The order in which a dialog should mark choices again: the page size last wins over what regions did to it.
 bool isShadowOfPageSize(const char *keyword)
 {
@@ -108,8 +115,7 @@ std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *
     }
     const QString name = PpdDocumentText::tr("The PPD file “%1”").arg(path);
     if (isTooLarge(path)) {
-        *error = {PrintError::Kind::BrokenPpd,
-                  PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(mostBytes >> 20)};
+        *error = tooLarge(name);
         return nullptr;
     }
     return adopt(ppdOpenFile(QFile::encodeName(path).constData()), name, error);
@@ -127,8 +133,12 @@ std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, const QB
                                                .arg(queue, qt_error_string(errno))};
         return nullptr;
     }
-    return adopt(ppdOpenFd(fcntl(fd, F_DUPFD_CLOEXEC, 0)), PpdDocumentText::tr("The PPD of “%1”").arg(queue),
-                 error);
+    const QString name = PpdDocumentText::tr("The PPD of “%1”").arg(queue);
+    if (isTooLarge(QStringLiteral("/proc/self/fd/%1").arg(fd))) {
+        *error = tooLarge(name);
+        return nullptr;
+    }
+    return adopt(ppdOpenFd(fcntl(fd, F_DUPFD_CLOEXEC, 0)), name, error);
 }
 
 std::unique_ptr<PpdDocument> PpdDocument::adopt(ppd_file_s *ppd, const QString &name, PrintError *error)

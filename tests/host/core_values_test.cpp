@@ -5,10 +5,13 @@
 #include "host/printing/message_language.h"
 #include "host/printing/utf8_text.h"
 #include "host/session/page_ranges.h"
+#include "platform/unique_fd.h"
 #include "tests/host/host_fixture.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
@@ -27,7 +30,9 @@ private Q_SLOTS:
     void documents_data();
     void documents();
     void standardInputIsSpooled();
+    void documentThatNeverEnds();
     void brokenPpdNamesFileAndLine();
+    void packedPpdOfAQueue();
     void textsOfAPpd_data();
     void textsOfAPpd();
     void titlesEndBetweenCharacters();
@@ -119,6 +124,25 @@ void CoreValuesTest::brokenPpdNamesFileAndLine()
              qPrintable(error.message));
     QVERIFY(!PpdDocument::open(u"/nowhere.ppd"_s, &error));
     QCOMPARE(error.kind, PrintError::Kind::FileMissing);
+}
+
+void CoreValuesTest::documentThatNeverEnds()
+{
+    int ends[2];
+    QCOMPARE(pipe(ends), 0);
+    const platform::UniqueFd reader(ends[0]), writer(ends[1]);
+    QVERIFY(!platform::privateCopy(reader.get(), QDir::tempPath().toStdString(), 10, 20));
+    QCOMPARE(errno, ETIMEDOUT);
+}
+
+void CoreValuesTest::packedPpdOfAQueue()
+{
+    QProcess gzip;
+    gzip.start(u"sh"_s, {u"-c"_s, u"head -c 50000000 /dev/zero | gzip -1"_s});
+    QVERIFY(gzip.waitForFinished());
+    PrintError error;
+    QVERIFY(!PpdDocument::ofQueue(u"office"_s, gzip.readAllStandardOutput(), &error));
+    QVERIFY2(error.message.contains(u"32 MB"_s), qPrintable(error.message));
 }
 
 void CoreValuesTest::textsOfAPpd_data()
