@@ -61,7 +61,12 @@ int BatchRun::run(ResultWriter *writer)
     // Before anything is sent: what cannot be told must not be done.
     if (m_arguments.json && !writer->begin())
         return ExitFailure;
-    const ExitCode code = perform();
+    ExitCode code = prepare();
+    if (code == ExitSuccess && m_arguments.batch) {
+        if (!m_arguments.json && !writer->writeSettings(m_result))
+            return ExitFailure;
+        code = submit();
+    }
     if (m_session)
         m_result.notices = m_session->takeNotices() + m_result.notices;
     const int result = told(writer, code);
@@ -76,7 +81,7 @@ int BatchRun::told(ResultWriter *writer, ExitCode code)
     return isWritten || code != ExitSuccess || m_result.submission ? code : ExitFailure;
 }
 
-ExitCode BatchRun::perform()
+ExitCode BatchRun::prepare()
 {
     if (m_arguments.batch && !openDocuments())
         return ExitFailure;
@@ -100,9 +105,7 @@ ExitCode BatchRun::perform()
         m_result.hasSummary = true;
         m_result.summary = m_session->summary();
     }
-    if (settled != ExitSuccess)
-        return settled;
-    return m_arguments.batch ? submit() : ExitSuccess;
+    return settled;
 }
 
 bool BatchRun::openDocuments()

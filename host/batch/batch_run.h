@@ -31,7 +31,8 @@ public:
     int run(ResultWriter *writer);
 
 private:
-    ExitCode perform();
+    // Everything before anything is sent.
+    ExitCode prepare();
     bool openDocuments();
     bool openSession(PrintError *error);
     ExitCode settleConflicts();

@@ -148,6 +148,19 @@ bool ResultWriter::begin()
     return finish();
 }
 
+bool ResultWriter::writeSettings(const BatchResult &result)
+{
+    m_hasBegun = true;
+    if (result.hasOptions)
+        writeOptions(result);
+    for (const SummarySection &section : result.summary) {
+        print(section.title);
+        for (const auto &[name, value] : section.entries)
+            print(QStringLiteral("    %1: %2").arg(name, value));
+    }
+    return finish();
+}
+
 bool ResultWriter::write(const BatchResult &result, bool asJson)
 {
     if (asJson)
@@ -178,13 +191,8 @@ void ResultWriter::writeText(const BatchResult &result)
         complain(notice);
     for (const OptionChoice &change : result.resolved)
         complain(ResultText::tr("Changed to end a conflict: %1").arg(change.text()));
-    if (result.hasOptions)
-        writeOptions(result);
-    for (const SummarySection &section : result.summary) {
-        print(section.title);
-        for (const auto &[name, value] : section.entries)
-            print(QStringLiteral("    %1: %2").arg(name, value));
-    }
+    if (!m_hasBegun)
+        writeSettings(result);
     if (result.submission && result.submission->isAccepted())
         writeJob(result);
     writeConflicts(result);

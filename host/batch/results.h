@@ -44,6 +44,8 @@ public:
     // Writes the beginning of a JSON result. Like write(), false, with a complaint, when `out` does not take
     // it.
     bool begin();
+    // The same with the part of a result for people that is known before anything is printed.
+    bool writeSettings(const BatchResult &result);
     bool write(const BatchResult &result, bool asJson);
 
 private:
@@ -58,8 +60,8 @@ private:
 
     QIODevice *m_out;
     QIODevice *m_err;
-    bool m_hasBegun = false;
-    bool m_isTaken = true; // whether `out` has taken everything so far
+    bool m_hasBegun = false; // a JSON result, or the settings of one for people
+    bool m_isTaken = true;   // whether `out` has taken everything so far
 };
 
 QJsonObject toJson(const BatchResult &result);
