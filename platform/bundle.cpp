@@ -90,10 +90,12 @@ QString problemOf(const QJsonObject &info)
     return problemOfOptionalKeys(info);
 }
 
-// What in a bundle others than the system and the user could have put there; nil when nothing is.
+// What in a bundle, or around it, others than the system and the user could have put there; nil when nothing
+// is.
 QString foreignHandIn(const QString &folder)
 {
-    QStringList paths{folder};
+    const QString holder = QFileInfo(folder).path(); // whoever may write there may put another in its place
+    QStringList paths{holder, folder};
     QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext())
@@ -102,7 +104,8 @@ QString foreignHandIn(const QString &folder)
         struct stat status = {};
         if (stat(QFile::encodeName(path).constData(), &status) != 0)
             return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-        if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+        const bool isSticky = path == holder && (status.st_mode & S_ISVTX) != 0;
+        if (!isSticky && (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
             return QStringLiteral("%1: other users may write to it").arg(path);
         if (status.st_uid != 0 && status.st_uid != geteuid())
             return QStringLiteral("%1: it belongs to another user").arg(path);

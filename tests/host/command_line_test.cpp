@@ -213,6 +213,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded_data()
     QTest::addColumn<QString>("path"); // within the bundle
     QTest::addColumn<int>("mode");
     QTest::newRow("folder") << u"."_s << 0777;
+    QTest::newRow("folder around it") << u".."_s << 0777;
     QTest::newRow("code") << u"libOrbM880.so"_s << 0664;
     QTest::newRow("layout") << u"layouts/PrintMode.ui"_s << 0646;
 }
@@ -229,7 +230,8 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
     const QStringList words{u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--bundle"_s, bundle};
     const Outcome before = run(words);
     QVERIFY2(before.out.contains("departmentCode"), before.err.constData());
-    QCOMPARE(chmod(QFile::encodeName(bundle + u'/' + path).constData(), static_cast<mode_t>(mode)), 0);
+    const QByteArray part = QFile::encodeName(bundle + u'/' + path);
+    QCOMPARE(chmod(part.constData(), static_cast<mode_t>(mode)), 0);
     const Outcome outcome = run(words);
     QVERIFY(!outcome.out.contains("departmentCode"));
     QVERIFY2(outcome.err.contains("other users may write to it"), outcome.err.constData());
