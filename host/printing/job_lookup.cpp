@@ -77,10 +77,15 @@ IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 
 JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
 {
+    ServerConnection server(m_login);
+    return byId(id, &server, job);
+}
+
+JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer *job)
+{
     IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
-    ServerConnection server(m_login);
-    Reply reply = server.ask(std::move(request), m_resource);
+    Reply reply = server->ask(std::move(request), m_resource);
     if (reply.succeeded()) {
         *job = read(std::move(reply.message));
         return job->id == id ? Result::Found : Result::NoAnswer;

@@ -37,6 +37,8 @@ public:
     void setStop(std::function<bool()> stop);
 
     Result byId(int id, JobOnServer *job);
+    // The same on a connection of the caller's.
+    Result byId(int id, ServerConnection *server, JobOnServer *job);
     // Tries until the server answers. Only a job with this token counts: after a breakdown a server may give
     // a number again. `id` is 0 where it is not known.
     Result byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline, JobOnServer *job);

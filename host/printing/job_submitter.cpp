@@ -278,13 +278,18 @@ Submission JobSubmitter::unknown(const PrintError &why) const
     return result;
 }
 
-// Every document has been taken. A server that breaks down right after that may forget the job.
+// Every document has been taken. A server that breaks down right after that may forget the job; one that did
+// not may have printed it and keep no history, which only its connection tells apart.
 Submission JobSubmitter::kept()
 {
     JobOnServer found;
-    auto result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(0), &found);
-    if (result != JobLookup::Result::NoAnswer)
+    const quint64 connection = m_server.number();
+    auto result = m_lookup.byId(m_id, &m_server, &found);
+    const bool isSameServer = connection != 0 && m_server.number() == connection;
+    if (result == JobLookup::Result::Found && found.token == m_token && (isSameServer || isWhole(found)))
         return accepted(std::move(found));
+    if (result == JobLookup::Result::NotThere && isSameServer)
+        return accepted({});
     result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
     if (result == JobLookup::Result::Found && isWhole(found))
         return accepted(std::move(found));

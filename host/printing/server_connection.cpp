@@ -7,6 +7,7 @@
 #include <QIODevice>
 
 #include <cerrno>
+#include <sys/socket.h>
 
 namespace host {
 
@@ -163,6 +164,16 @@ bool ServerConnection::connect()
     return true;
 }
 
+// libcups opens it anew by itself, so the kernel's number of the socket is what tells.
+quint64 ServerConnection::number() const
+{
+    quint64 cookie = 0;
+    socklen_t size = sizeof cookie;
+    const bool isKnown =
+        m_http && getsockopt(httpGetFd(m_http.get()), SOL_SOCKET, SO_COOKIE, &cookie, &size) == 0;
+    return isKnown ? cookie : 0;
+}
+
 // Other schemes answer a question of the server, which is another one each time.
 void ServerConnection::keepLogin()
 {
@@ -242,6 +253,10 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
     }
     if (upload && !writeDocument(upload, &reply))
         return reply;
+    if (upload && httpWrite2(m_http.get(), "", 0) < 0) { // the end of the document
+        reply.fate = Reply::Fate::Lost;
+        return reply;
+    }
     reply.wasSentWhole = true;
     m_idle.restart();
     readAnswer(request, resource, &reply);
@@ -282,8 +297,15 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
 
 void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Reply *reply)
 {
-    reply->message.reset(cupsGetResponse(m_http.get(), resource.constData()));
-    reply->httpStatus = httpGetStatus(m_http.get());
+    do
+        reply->httpStatus = httpUpdate(m_http.get());
+    while (reply->httpStatus == HTTP_STATUS_CONTINUE && goesOn());
+    if (reply->httpStatus == HTTP_STATUS_OK) {
+        reply->message = readMessage();
+        reply->wasGarbled = !reply->message;
+    } else if (reply->httpStatus == HTTP_STATUS_UNAUTHORIZED) {
+        reply->httpStatus = authenticate(resource);
+    }
     if (reply->message && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
         reply->fate = Reply::Fate::Answered;
         keepLogin();
@@ -295,9 +317,49 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
         (reply->httpStatus >= HTTP_STATUS_BAD_REQUEST && reply->httpStatus < HTTP_STATUS_SERVER_ERROR) ||
         reply->httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
     reply->fate = isRefusal ? Reply::Fate::Refused : Reply::Fate::Lost;
-    reply->wasGarbled =
+    reply->wasGarbled |=
         reply->message || httpError(m_http.get()) == EINVAL || reply->httpStatus >= HTTP_STATUS_SERVER_ERROR;
     reply->message.reset();
+}
+
+// Null when what comes is no message, or one without end: libcups's own function would read on as long as
+// something comes.
+IppPointer ServerConnection::readMessage()
+{
+    struct Source
+    {
+        ServerConnection *server;
+        qint64 left;
+    } source{this, longestAnswer};
+    const auto read = [](void *context, ipp_uchar_t *buffer, size_t size) -> ssize_t {
+        auto *from = static_cast<Source *>(context);
+        from->left -= static_cast<qint64>(size);
+        size_t done = 0;
+        while (done < size && from->left >= 0 && from->server->goesOn()) {
+            const ssize_t count =
+                httpRead2(from->server->m_http.get(), reinterpret_cast<char *>(buffer) + done, size - done);
+            if (count <= 0)
+                break;
+            done += static_cast<size_t>(count);
+            from->server->m_idle.restart();
+        }
+        return done == size ? static_cast<ssize_t>(size) : -1;
+    };
+    IppPointer message(ippNew());
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippReadIO(&source, read, 1, nullptr, message.get());
+    return state == IPP_STATE_DATA ? std::move(message) : nullptr;
+}
+
+// Asks for a login that the next request bears, on a connection of its own. What the refusal was about, or
+// that there is no login.
+http_status_t ServerConnection::authenticate(const QByteArray &resource)
+{
+    if (cupsDoAuthentication(m_http.get(), "POST", resource.constData()) != 0)
+        return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
+    httpReconnect2(m_http.get(), connectTime, nullptr);
+    return HTTP_STATUS_UNAUTHORIZED;
 }
 
 http_status_t ServerConnection::requestFile(const QByteArray &resource)

@@ -78,6 +78,8 @@ class ServerConnection
 public:
     static constexpr int connectTime = 10'000; // milliseconds
     static constexpr int idleTime = 30'000;    // milliseconds without a byte going either way
+    static constexpr qint64 longestAnswer =
+        16 * 1024 * 1024; // bytes; the jobs of a busy queue are some 100 KB
 
     explicit ServerConnection(LoginKeeper *login); // borrowed
     ~ServerConnection();
@@ -95,6 +97,8 @@ public:
     // A file of the server, of at most `limit` bytes. Nil without an error where there is none.
     std::optional<QByteArray> fetch(const QByteArray &resource, qint64 limit, PrintError *error);
 
+    // Which connection it is: each time it is opened it gets another number. 0 while it is closed.
+    quint64 number() const;
     // For libcups's own calls; null when the server cannot be reached.
     http_t *handle() { return connect() ? m_http.get() : nullptr; }
     // Keeps libcups from asking on the terminal in calls that are made without this class, on this thread.
@@ -111,6 +115,8 @@ private:
     Reply exchangeOnce(ipp_t *request, const QByteArray &resource, Upload *upload);
     bool writeDocument(Upload *upload, Reply *reply);
     void readAnswer(ipp_t *request, const QByteArray &resource, Reply *reply);
+    IppPointer readMessage();
+    http_status_t authenticate(const QByteArray &resource);
     http_status_t requestFile(const QByteArray &resource);
     const char *nextPassword();
     void keepLogin();
