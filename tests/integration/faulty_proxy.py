@@ -6,6 +6,8 @@
 LISTEN and SERVER are socket paths. The fault strikes the request NUMBER (counted from 1) of its operation, and
 every one after it:
   create-lost create-garbage create-negative   Create-Job arrives; its answer is lost, garbage, or names job -5
+  create-endless                               the answer to Create-Job never ends
+  send-forgotten                               Send-Document is answered; from then on nothing is known of jobs
   send-lost send-garbage send-truncated        Send-Document arrives; what comes back is not the whole answer
   send-dropped                                 Send-Document is read and goes nowhere
   send-vanished                                Send-Document arrives; then there is no server any more
@@ -30,6 +32,10 @@ first = int(sys.argv[4]) if len(sys.argv) > 4 else 1
 operations = {"create": 5, "send": 6}
 seen = {}
 lock = threading.Lock()
+
+
+def attribute(tag, name, value):
+    return struct.pack(">BH", tag, len(name)) + name + struct.pack(">H", len(value)) + value
 
 
 class Upstream(http.client.HTTPConnection):
@@ -89,6 +95,11 @@ class Relay(http.server.BaseHTTPRequestHandler):
             return
         body = self.read_body()
         operation = struct.unpack(">H", body[2:4])[0] if len(body) > 8 else 0
+        if fault == "send-forgotten" and seen.get("send") and operation in (9, 10):
+            self.answer(200, body[:2] + struct.pack(">H", 0x406 if operation == 9 else 0) + body[4:8] + b"\1" +
+                        attribute(0x47, b"attributes-charset", b"utf-8") +
+                        attribute(0x48, b"attributes-natural-language", b"en") + b"\3")
+            return
         kind = next((k for k, o in operations.items() if o == operation), "")
         hit = kind and self.strikes(kind)
         if hit and fault == "send-dropped":
@@ -109,13 +120,22 @@ class Relay(http.server.BaseHTTPRequestHandler):
         if hit and fault == "create-negative":
             at = content.index(b"job-id") + 8
             content = content[:at] + struct.pack(">i", -5) + content[at + 4:]
-        self.send_response(answer.status)
-        self.send_header("Content-Type", answer.headers.get("Content-Type", "application/ipp"))
-        self.send_header("Content-Length", str(len(content)))
-        self.end_headers()
+        if hit and fault == "create-endless":
+            self.answer(answer.status, content[:-1], 1 << 40)
+            while True:
+                self.wfile.write(attribute(0x41, b"more", b"x" * 1000) * 60)
+        self.answer(answer.status, b"", len(content), answer.headers.get("Content-Type", "application/ipp"))
         if hit and fault == "send-truncated":
             self.wfile.write(content[:len(content) // 2])
             raise Broken
+        self.wfile.write(content)
+        self.close_connection |= bool(hit and fault == "send-forgotten")
+
+    def answer(self, status, content, length=None, kind="application/ipp"):
+        self.send_response(status)
+        self.send_header("Content-Type", kind)
+        self.send_header("Content-Length", str(len(content) if length is None else length))
+        self.end_headers()
         self.wfile.write(content)
 
     def do_POST(self):

@@ -1,22 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/message_bar.h"
-#include "host/window/print_window.h"
-#include "host/window/result_page.h"
-#include "tests/support/child_process.h"
-#include "tests/support/private_cupsd.h"
+#include "host/printing/print_system.h"
+#include "tests/integration/batch_program.h"
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QPushButton>
 #include <QTest>
 
-#include <cups/cups.h>
-
-#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -24,30 +15,6 @@ using namespace host;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Programs of this process talk to another server for a while.
-class OtherServer
-{
-public:
-    explicit OtherServer(const QString &socket) : m_before(qgetenv("CUPS_SERVER"))
-    {
-        set(socket.toLocal8Bit());
-    }
-    ~OtherServer() { set(m_before); }
-    OtherServer(const OtherServer &) = delete;
-    OtherServer &operator=(const OtherServer &) = delete;
-
-private:
-    static void set(const QByteArray &socket)
-    {
-        qputenv("CUPS_SERVER", socket);
-        cupsSetServer(socket.constData());
-    }
-    QByteArray m_before;
-};
-
-const QString program = QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print");
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
 
 QByteArray gzipped(const QByteArray &contents)
 {
@@ -59,16 +26,9 @@ QByteArray gzipped(const QByteArray &contents)
     return gzip.readAllStandardOutput();
 }
 
-struct Outcome
-{
-    int code = -1;
-    QJsonObject json;
-    QByteArray errors;
-};
-
 } // namespace
 
-// The program as a script calls it, and the window, against a real print server.
+// The program as a script calls it, against a real print server: what reaches the printer.
 class PrintJobTest : public QObject
 {
     Q_OBJECT
@@ -85,13 +45,6 @@ private Q_SLOTS:
     void refusals_data();
     void refusals();
     void pausedPrinterKeepsTheJob();
-    void serverStoppedBehindAnOpenDialog();
-    void lostAnswers_data();
-    void lostAnswers();
-    void lostAnswerInTheWindow();
-    void signalCancelsTheJob();
-    void loginInTheWindow();
-    void loginNobodyGives();
     void documentsAreTheServersBusiness_data();
     void documentsAreTheServersBusiness();
     void namesAndPipes();
@@ -103,14 +56,9 @@ private Q_SLOTS:
     void queueOfTheDialogIsNoPrinter();
 
 private:
-    Outcome run(const QStringList &words, const QByteArray &input = {});
     // Runs a batch job that must succeed, and gives what reached the printer.
     std::optional<CapturedJob> print(const QStringList &words, const QByteArray &input = {});
-    // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
-    ChildProcess faulty(const QString &fault, int number = 1);
-    // Writes a file of the home folder and gives its path.
-    QString file(const QString &name, const QByteArray &contents);
-    int unfinishedJobs() const;
+    QString file(const QString &name, const QByteArray &contents) { return write(m_server, name, contents); }
 
     PrivateCupsd m_server;
 };
@@ -132,18 +80,6 @@ void PrintJobTest::initTestCase()
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
     QVERIFY(m_server.setPaused(u"paused"_s, true));
     QVERIFY(m_server.setAccepting(u"rejecting"_s, false));
-}
-
-Outcome PrintJobTest::run(const QStringList &words, const QByteArray &input)
-{
-    QProcess process;
-    process.start(program, words + QStringList(u"--json"_s));
-    process.write(input);
-    process.closeWriteChannel();
-    if (!process.waitForFinished())
-        return {};
-    return {process.exitCode(), QJsonDocument::fromJson(process.readAllStandardOutput()).object(),
-            process.readAllStandardError()};
 }
 
 std::optional<CapturedJob> PrintJobTest::print(const QStringList &words, const QByteArray &input)
@@ -303,192 +239,6 @@ void PrintJobTest::pausedPrinterKeepsTheJob()
     QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
 }
 
-void PrintJobTest::serverStoppedBehindAnOpenDialog()
-{
-    CupsPrintSystem system;
-    Extensions extensions(Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin")));
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"office"_s;
-    PrintWindow window(system, extensions, task);
-    PrintError error;
-    QVERIFY(window.open(&error));
-    window.show();
-    QVERIFY(window.session()->panelCount() == 3);
-    QVERIFY(window.session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
-
-    m_server.stop();
-    window.print();
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
-    QVERIFY2(window.messageBar()->text().contains(u"cannot be reached"_s),
-             qPrintable(window.messageBar()->text()));
-    QVERIFY(!window.submission());
-
-    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    window.print();
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
-    const auto job = m_server.waitForJob(window.submission()->job.id);
-    QVERIFY(job);
-    QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);
-}
-
-ChildProcess PrintJobTest::faulty(const QString &fault, int number)
-{
-    const QString socket = m_server.folder() + u"/faulty.sock"_s;
-    QFile::remove(socket);
-    QString problem;
-    auto proxy = startChildProcess(u"python3"_s,
-                                   {QStringLiteral(KELMAR_SOURCE_DIR "/tests/integration/faulty_proxy.py"),
-                                    socket, m_server.socketPath(), fault, QString::number(number)},
-                                   "ready", &problem);
-    if (!proxy)
-        qWarning() << problem;
-    return proxy;
-}
-
-QString PrintJobTest::file(const QString &name, const QByteArray &contents)
-{
-    QFile file(m_server.folder() + u'/' + name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qWarning() << file.errorString();
-    return file.fileName();
-}
-
-int PrintJobTest::unfinishedJobs() const
-{
-    cups_job_t *jobs = nullptr;
-    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, nullptr, 0, CUPS_WHICHJOBS_ACTIVE);
-    cupsFreeJobs(count, jobs);
-    return count;
-}
-
-void PrintJobTest::lostAnswers_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::addColumn<int>("documents");
-    QTest::addColumn<QString>("outcome");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("printed");
-    for (const char *fault : {"create-lost", "create-garbage", "create-negative", "send-cut"})
-        QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
-    for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
-        QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
-    QTest::newRow("send-vanished") << 1 << 1 << u"unknown"_s << 5 << 1;
-    QTest::newRow("send-dropped") << 1 << 1 << u"unknown"_s << 5 << 0;
-    QTest::newRow("send-dropped, second of three") << 2 << 3 << u"rejected"_s << 1 << 0;
-    QTest::newRow("send-lost, first of three") << 1 << 3 << u"rejected"_s << 1 << 0;
-    QTest::newRow("send-lost, last of three") << 3 << 3 << u"accepted"_s << 0 << 1;
-    QTest::newRow("none, three") << 1 << 3 << u"accepted"_s << 0 << 1;
-}
-
-void PrintJobTest::lostAnswers()
-{
-    QFETCH(int, number);
-    QFETCH(int, documents);
-    const auto proxy = faulty(QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0), number);
-    QVERIFY(proxy);
-    const QString large = file(u"large.txt"_s, QByteArray(200'000, 'x'));
-    const QList<int> before = m_server.capturedJobs();
-    QStringList words{u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s};
-    for (int i = 0; i < documents; ++i)
-        words.append(large);
-    const Outcome outcome = run(words);
-    QTEST(outcome.json[u"outcome"_s].toString(), "outcome");
-    QTEST(outcome.code, "code");
-    const QString message = outcome.json[u"error"_s][u"message"_s].toString();
-    QCOMPARE(message.isEmpty(), outcome.code == 0);
-    for (const QString &nonsense : {u"uccess"_s, u"successful-ok"_s, u"No such file"_s})
-        QVERIFY2(!message.contains(nonsense), qPrintable(message));
-    QTRY_COMPARE(unfinishedJobs(), 0);
-    QFETCH(int, printed);
-    QTRY_COMPARE(m_server.capturedJobs().size() - before.size(), printed);
-    if (outcome.code == 0)
-        QCOMPARE(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt())->data.size(),
-                 documents * 200'000);
-}
-
-void PrintJobTest::lostAnswerInTheWindow()
-{
-    auto proxy = faulty(u"send-vanished"_s);
-    QVERIFY(proxy);
-    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
-    CupsPrintSystem system;
-    Extensions none({});
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"other"_s;
-    PrintWindow window(system, none, task);
-    PrintError error;
-    QVERIFY(window.open(&error));
-    window.print();
-    QVERIFY(window.submission());
-    QCOMPARE(window.submission()->outcome, Submission::Outcome::Unknown);
-    QVERIFY(window.findChild<ResultPage *>()->text().contains(u"look at the queue before printing again"_s));
-    QVERIFY(m_server.waitForNextJob());
-}
-
-void PrintJobTest::signalCancelsTheJob()
-{
-    const auto proxy = faulty(u"send-stalled"_s);
-    QVERIFY(proxy);
-    const QList<int> before = m_server.capturedJobs();
-    QProcess process;
-    process.start(program, {u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s,
-                            file(u"huge.txt"_s, QByteArray(4'000'000, 'x'))});
-    QTRY_COMPARE(unfinishedJobs(), 1);
-    process.terminate();
-    QVERIFY(process.waitForFinished(10000));
-    QCOMPARE(process.exitStatus(), QProcess::CrashExit); // ended by the signal
-    QVERIFY2(process.readAllStandardError().contains("canceled"), "nothing was told");
-    QCOMPARE(unfinishedJobs(), 0);
-    QCOMPARE(m_server.capturedJobs(), before);
-}
-
-void PrintJobTest::loginInTheWindow()
-{
-    const auto proxy = faulty(u"login"_s);
-    QVERIFY(proxy);
-    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
-    CupsPrintSystem system;
-    Extensions none({});
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"office"_s;
-    PrintError error;
-    {
-        PrintWindow window(system, none, task); // nobody answers
-        QVERIFY(window.open(&error));
-        QVERIFY(!window.session()); // rather than one without the printer's settings
-    }
-    QList<bool> asked;
-    system.setLoginPrompt([&](const LoginQuestion &question) {
-        asked.append(question.again);
-        return std::optional<Login>({u"anna"_s, question.again ? u"secret"_s : u"wrong"_s});
-    });
-    PrintWindow window(system, none, task);
-    QVERIFY(window.open(&error));
-    QVERIFY(window.session() && window.session()->ppd());
-    window.print();
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
-    QVERIFY(m_server.waitForJob(window.submission()->job.id));
-    QCOMPARE(asked, QList<bool>({false, true})); // once, and once more after the wrong one
-    cupsSetUser(nullptr);
-}
-
-void PrintJobTest::loginNobodyGives()
-{
-    const auto proxy = faulty(u"login"_s);
-    QVERIFY(proxy);
-    const QList<int> before = m_server.capturedJobs();
-    const Outcome outcome =
-        run({u"--batch"_s, u"-d"_s, u"office"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s, document});
-    QCOMPARE(outcome.code, 1);
-    QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), u"not-authorised"_s);
-    QCOMPARE(unfinishedJobs(), 0);
-    QCOMPARE(m_server.capturedJobs(), before);
-}
-
 void PrintJobTest::documentsAreTheServersBusiness_data()
 {
     QTest::addColumn<QByteArray>("contents");
@@ -563,6 +313,7 @@ void PrintJobTest::resultsThatCannotBeWritten_data()
     QTest::newRow("JSON, closed") << u"--summary --json >&-"_s;
     // Found out before anything is sent.
     QTest::newRow("JSON of a job, full") << u"--batch --json \"$2\" >/dev/full"_s;
+    QTest::newRow("summary before a job, full") << u"--batch --summary \"$2\" >/dev/full"_s;
     QTest::newRow("JSON of a job, closed") << u"--batch --json \"$2\" >&-"_s;
 }
 
@@ -598,19 +349,8 @@ void PrintJobTest::documentOfAnApplicationIsSent()
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             return QByteArray("no document");
-        const int fd = file.handle();
-        const QJsonObject job{{u"printer"_s, printer},
-                              {u"options"_s, QJsonArray{QJsonArray{u"PrintMode"_s, u"Private"_s, 0},
-                                                        QJsonArray{u"copies"_s, u"2"_s, 1}}}};
         QProcess process;
-        process.setChildProcessModifier([fd] { ::fcntl(fd, F_SETFD, 0); });
-        process.start(program, {u"--dialog-request"_s});
-        process.write(QJsonDocument(QJsonObject{{u"kind"_s, u"submit"_s},
-                                                {u"title"_s, u"Letter"_s},
-                                                {u"document"_s, fd},
-                                                {u"job"_s, job}})
-                          .toJson(QJsonDocument::Compact) +
-                      '\n');
+        startSubmission(&process, printer, file.handle());
         while (!process.canReadLine() && process.waitForReadyRead(20000))
             continue;
         const QByteArray answer = process.readLine();

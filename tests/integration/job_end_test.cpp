@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/message_bar.h"
+#include "host/window/print_window.h"
+#include "host/window/result_page.h"
+#include "tests/integration/batch_program.h"
+#include "tests/support/child_process.h"
+
+#include <QTest>
+
+#include <cups/cups.h>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Programs of this process talk to another server for a while.
+class OtherServer
+{
+public:
+    explicit OtherServer(const QString &socket) : m_before(qgetenv("CUPS_SERVER"))
+    {
+        set(socket.toLocal8Bit());
+    }
+    ~OtherServer() { set(m_before); }
+    OtherServer(const OtherServer &) = delete;
+    OtherServer &operator=(const OtherServer &) = delete;
+
+private:
+    static void set(const QByteArray &socket)
+    {
+        qputenv("CUPS_SERVER", socket);
+        cupsSetServer(socket.constData());
+    }
+    QByteArray m_before;
+};
+
+} // namespace
+
+// How a job ends when something goes wrong on the way, as a script and a window are told, against a real
+// print server.
+class JobEndTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void serverStoppedBehindAnOpenDialog();
+    void lostAnswers_data();
+    void lostAnswers();
+    void lostAnswerInTheWindow();
+    void signalCancelsTheJob_data();
+    void signalCancelsTheJob();
+    void loginInTheWindow();
+    void loginNobodyGives();
+
+private:
+    // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
+    ChildProcess faulty(const QString &fault, int number = 1);
+    int unfinishedJobs() const;
+
+    PrivateCupsd m_server;
+};
+
+void JobEndTest::initTestCase()
+{
+    if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
+        QSKIP(qPrintable(missing));
+    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    qputenv("HOME", m_server.folder().toLocal8Bit());
+    QVERIFY2(m_server.addQueue(u"office"_s, QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd")),
+             qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
+    QVERIFY(m_server.setDefaultQueue(u"office"_s));
+}
+
+void JobEndTest::serverStoppedBehindAnOpenDialog()
+{
+    CupsPrintSystem system;
+    Extensions extensions(Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin")));
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"office"_s;
+    PrintWindow window(system, extensions, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.show();
+    QVERIFY(window.session()->panelCount() == 3);
+    QVERIFY(window.session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
+
+    m_server.stop();
+    window.print();
+    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
+    QVERIFY2(window.messageBar()->text().contains(u"cannot be reached"_s),
+             qPrintable(window.messageBar()->text()));
+    QVERIFY(!window.submission());
+
+    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    window.print();
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    const auto job = m_server.waitForJob(window.submission()->job.id);
+    QVERIFY(job);
+    QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);
+}
+
+ChildProcess JobEndTest::faulty(const QString &fault, int number)
+{
+    const QString socket = m_server.folder() + u"/faulty.sock"_s;
+    QFile::remove(socket);
+    QString problem;
+    auto proxy = startChildProcess(u"python3"_s,
+                                   {QStringLiteral(KELMAR_SOURCE_DIR "/tests/integration/faulty_proxy.py"),
+                                    socket, m_server.socketPath(), fault, QString::number(number)},
+                                   "ready", &problem);
+    if (!proxy)
+        qWarning() << problem;
+    return proxy;
+}
+
+int JobEndTest::unfinishedJobs() const
+{
+    cups_job_t *jobs = nullptr;
+    const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, nullptr, 0, CUPS_WHICHJOBS_ACTIVE);
+    cupsFreeJobs(count, jobs);
+    return count;
+}
+
+void JobEndTest::lostAnswers_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("documents");
+    QTest::addColumn<QString>("outcome");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("printed");
+    for (const char *fault :
+         {"create-lost", "create-garbage", "create-negative", "create-endless", "send-cut"})
+        QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
+    for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
+        QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
+    for (const char *fault : {"send-vanished", "send-forgotten"})
+        QTest::newRow(fault) << 1 << 1 << u"unknown"_s << 5 << 1;
+    QTest::newRow("send-dropped") << 1 << 1 << u"unknown"_s << 5 << 0;
+    QTest::newRow("send-dropped, second of three") << 2 << 3 << u"rejected"_s << 1 << 0;
+    QTest::newRow("send-lost, first of three") << 1 << 3 << u"rejected"_s << 1 << 0;
+    QTest::newRow("send-lost, last of three") << 3 << 3 << u"accepted"_s << 0 << 1;
+    QTest::newRow("none, three") << 1 << 3 << u"accepted"_s << 0 << 1;
+}
+
+void JobEndTest::lostAnswers()
+{
+    QFETCH(int, number);
+    QFETCH(int, documents);
+    const auto proxy = faulty(QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0), number);
+    QVERIFY(proxy);
+    const QString large = write(m_server, u"large.txt"_s, QByteArray(200'000, 'x'));
+    const QList<int> before = m_server.capturedJobs();
+    QStringList words{u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s};
+    for (int i = 0; i < documents; ++i)
+        words.append(large);
+    const Outcome outcome = run(words);
+    QTEST(outcome.json[u"outcome"_s].toString(), "outcome");
+    QTEST(outcome.code, "code");
+    const QString message = outcome.json[u"error"_s][u"message"_s].toString();
+    QCOMPARE(message.isEmpty(), outcome.code == 0);
+    for (const QString &nonsense : {u"uccess"_s, u"successful-ok"_s, u"No such file"_s})
+        QVERIFY2(!message.contains(nonsense), qPrintable(message));
+    QTRY_COMPARE(unfinishedJobs(), 0);
+    QFETCH(int, printed);
+    QTRY_COMPARE(m_server.capturedJobs().size() - before.size(), printed);
+    if (outcome.code == 0)
+        QCOMPARE(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt())->data.size(),
+                 documents * 200'000);
+}
+
+void JobEndTest::lostAnswerInTheWindow()
+{
+    auto proxy = faulty(u"send-vanished"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"other"_s;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.print();
+    QVERIFY(window.submission());
+    QCOMPARE(window.submission()->outcome, Submission::Outcome::Unknown);
+    QVERIFY(window.findChild<ResultPage *>()->text().contains(u"look at the queue before printing again"_s));
+    QVERIFY(m_server.waitForNextJob());
+}
+
+void JobEndTest::signalCancelsTheJob_data()
+{
+    QTest::addColumn<bool>("ofAnApplication");
+    QTest::newRow("batch") << false;
+    QTest::newRow("document of an application") << true;
+}
+
+void JobEndTest::signalCancelsTheJob()
+{
+    QFETCH(bool, ofAnApplication);
+    const auto proxy = faulty(u"send-stalled"_s);
+    QVERIFY(proxy);
+    const QList<int> before = m_server.capturedJobs();
+    QProcess process;
+    QFile huge(write(m_server, u"huge.txt"_s, QByteArray(4'000'000, 'x')));
+    QVERIFY(huge.open(QIODevice::ReadOnly));
+    const QString socket = m_server.folder() + u"/faulty.sock"_s;
+    if (ofAnApplication) {
+        const OtherServer scope(socket);
+        startSubmission(&process, u"other"_s, huge.handle());
+    } else {
+        process.start(program, {u"--batch"_s, u"-d"_s, u"other"_s, u"-h"_s, socket, huge.fileName()});
+    }
+    QTRY_COMPARE(unfinishedJobs(), 1);
+    process.terminate();
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit); // ended by the signal
+    QVERIFY2(process.readAllStandardError().contains("canceled"), "nothing was told");
+    QCOMPARE(unfinishedJobs(), 0);
+    QCOMPARE(m_server.capturedJobs(), before);
+}
+
+void JobEndTest::loginInTheWindow()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"office"_s;
+    PrintError error;
+    {
+        PrintWindow window(system, none, task); // nobody answers
+        QVERIFY(window.open(&error));
+        QVERIFY(!window.session()); // rather than one without the printer's settings
+    }
+    QList<bool> asked;
+    system.setLoginPrompt([&](const LoginQuestion &question) {
+        asked.append(question.again);
+        return std::optional<Login>({u"anna"_s, question.again ? u"secret"_s : u"wrong"_s});
+    });
+    PrintWindow window(system, none, task);
+    QVERIFY(window.open(&error));
+    QVERIFY(window.session() && window.session()->ppd());
+    window.print();
+    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QVERIFY(m_server.waitForJob(window.submission()->job.id));
+    QCOMPARE(asked, QList<bool>({false, true})); // once, and once more after the wrong one
+    cupsSetUser(nullptr);
+}
+
+void JobEndTest::loginNobodyGives()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const QList<int> before = m_server.capturedJobs();
+    const Outcome outcome =
+        run({u"--batch"_s, u"-d"_s, u"office"_s, u"-h"_s, m_server.folder() + u"/faulty.sock"_s, document});
+    QCOMPARE(outcome.code, 1);
+    QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), u"not-authorised"_s);
+    QCOMPARE(unfinishedJobs(), 0);
+    QCOMPARE(m_server.capturedJobs(), before);
+}
+
+QTEST_MAIN(JobEndTest)
+#include "job_end_test.moc"
