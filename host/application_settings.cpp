@@ -3,6 +3,7 @@
 
 #include "host/application_settings.h"
 
+#include "host/printing/option_text.h"
 #include "host/session/page_ranges.h"
 
 #include <QCoreApplication>
@@ -78,11 +79,6 @@ bool isForServer(const QString &name)
     return names.contains(name);
 }
 
-bool isOn(const QString &value)
-{
-    return value.compare(QLatin1String("false"), Qt::CaseInsensitive) != 0;
-}
-
 } // namespace
 
 StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
@@ -93,7 +89,7 @@ StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
         if (name == QLatin1String("multiple-document-handling"))
             start.collate = !value.contains(QLatin1String("uncollated"));
         else if (name.compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
-            start.collate = isOn(value);
+            start.collate = switchValue(value).value_or(true);
         else if (name == QLatin1String("page-ranges"))
             start.pages = value;
         else if (isForServer(name))

@@ -3,13 +3,13 @@
 
 #include "host/batch/terminal_login.h"
 
+#include "host/batch/terminal_input.h"
 #include "host/printing/held_signals.h"
+#include "platform/unique_fd.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <fcntl.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace host {
@@ -22,33 +22,6 @@ struct TerminalText
 };
 
 constexpr int mostAnswers = 3;
-constexpr qsizetype longestAnswer = 1024; // bytes
-
-// A terminal that does not show what is typed.
-class Echoless
-{
-public:
-    explicit Echoless(int terminal) : m_terminal(terminal)
-    {
-        m_isChanged = tcgetattr(terminal, &m_before) == 0;
-        termios hidden = m_before;
-        hidden.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-        m_isChanged = m_isChanged && tcsetattr(terminal, TCSAFLUSH, &hidden) == 0;
-    }
-    ~Echoless()
-    {
-        if (m_isChanged)
-            tcsetattr(m_terminal, TCSAFLUSH, &m_before);
-    }
-    Echoless(const Echoless &) = delete;
-    Echoless &operator=(const Echoless &) = delete;
-    bool isHidden() const { return m_isChanged; }
-
-private:
-    int m_terminal;
-    termios m_before = {};
-    bool m_isChanged = false;
-};
 
 void say(int terminal, const QString &text)
 {
@@ -56,25 +29,17 @@ void say(int terminal, const QString &text)
     (void)!write(terminal, bytes.constData(), static_cast<size_t>(bytes.size()));
 }
 
-// A line without its end; nil when the input ends or a signal comes before it.
+// Nil when the input ends or a signal comes before the line does.
 std::optional<QString> readLine(int terminal)
 {
-    QByteArray line;
-    char c = 0;
-    while (line.size() < longestAnswer) {
-        if (read(terminal, &c, 1) != 1)
-            return std::nullopt;
-        if (c == '\n')
-            break;
-        line += c;
-    }
-    return QString::fromUtf8(line);
+    const auto [fate, line] = readInputLine(terminal);
+    return fate == InputLine::Fate::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
 }
 
 std::optional<QString> readHidden(int terminal)
 {
-    const Echoless echoless(terminal);
-    const auto line = echoless.isHidden() ? readLine(terminal) : std::nullopt;
+    const Silence silence(terminal);
+    const auto line = silence.isActive() ? readLine(terminal) : std::nullopt;
     say(terminal, QStringLiteral("\n"));
     return line;
 }
@@ -85,11 +50,10 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
 {
     static int answers = 0;
     answers = question.again ? answers + 1 : 1;
-    const int terminal = open("/dev/tty", O_RDWR | O_CLOEXEC);
-    if (terminal < 0 || answers > mostAnswers)
+    const platform::UniqueFd file(open("/dev/tty", O_RDWR | O_CLOEXEC));
+    const int terminal = file.get();
+    if (!file || answers > mostAnswers)
         return std::nullopt;
-    QFile closer; // of the terminal, at the end
-    (void)closer.open(terminal, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle);
     const HeldSignals signalsWait; // until the terminal echoes again
     if (question.again)
         say(terminal,

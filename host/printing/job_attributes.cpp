@@ -19,8 +19,6 @@ struct AttributesText
     Q_DECLARE_TR_FUNCTIONS(AttributesText)
 };
 
-constexpr size_t maxIppName = 255; // bytes
-
 // Banners are two, before and behind; the server writes down the second one also where there is none.
 QString meaning(const QByteArray &name, ipp_attribute_t *attribute)
 {
@@ -57,7 +55,7 @@ void addJobOption(ipp_t *request, const JobOption &option)
     }
     // libcups would make a boolean of "True", which reaches filters without its value, and a collection of
     // braces.
-    const ipp_tag_t type = static_cast<size_t>(value.size()) > maxIppName ? IPP_TAG_TEXT : IPP_TAG_NAME;
+    const ipp_tag_t type = value.size() > maxIppName ? IPP_TAG_TEXT : IPP_TAG_NAME;
     ippAddString(request, IPP_TAG_JOB, type, name.constData(), nullptr, value.constData());
 }
 

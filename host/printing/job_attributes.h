@@ -8,6 +8,8 @@
 
 namespace host {
 
+inline constexpr qsizetype maxIppName = 255; // bytes
+
 // How options become attributes of a job, and whether the server kept them.
 
 // One option a name, in the order of their last words: what was said last counts.

@@ -6,6 +6,7 @@
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/job_attributes.h"
+#include "host/printing/option_text.h"
 #include "host/printing/reasons.h"
 #include "host/printing/utf8_text.h"
 
@@ -25,7 +26,6 @@ struct SubmitText
     Q_DECLARE_TR_FUNCTIONS(SubmitText)
 };
 
-constexpr qsizetype maxIppName = 255; // bytes
 // How long a server that breaks off may take to come back until a job is given up for not known.
 constexpr std::chrono::seconds recoveryTime(6);
 
@@ -36,13 +36,6 @@ constexpr char rawFormat[] = "application/vnd.cups-raw";
 QByteArray nameBytes(const QString &text)
 {
     return utf8Beginning(text, maxIppName);
-}
-
-bool isYes(const QString &value)
-{
-    return value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0 ||
-           value.compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0 ||
-           value.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0;
 }
 
 PrintError unreadable(const QString &path, const QString &reason)
@@ -123,7 +116,7 @@ void JobSubmitter::takeOptions()
     m_options.removeIf([this](const JobOption &option) {
         const bool isRaw = option.name == QLatin1String("raw");
         const bool isFormat = option.name == QLatin1String("document-format");
-        if (isRaw && isYes(option.value))
+        if (isRaw && switchValue(option.value).value_or(false))
             m_forcedFormat = rawFormat;
         else if (isFormat)
             m_forcedFormat = option.value.toUtf8();

@@ -17,4 +17,20 @@ QList<std::pair<QString, QString>> parseJobOptions(const QString &text)
     return options;
 }
 
+std::optional<bool> switchValue(const QString &text)
+{
+    const auto isOneOf = [&](std::initializer_list<const char *> words) {
+        return std::any_of(words.begin(), words.end(), [&](const char *word) {
+            return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+        });
+    };
+    if (isOneOf({"true", "yes", "on", "enabled"}))
+        return true;
+    if (isOneOf({"false", "no", "off", "disabled", "none"}))
+        return false;
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? std::optional(number != 0) : std::nullopt;
+}
+
 } // namespace host

@@ -118,10 +118,6 @@ QJsonObject applicationAbilities(const QVariantMap &options)
         options.value(QStringLiteral("supported_output_file_formats")).toStringList().mid(0, 100);
     if (!formats.isEmpty())
         abilities.insert(QStringLiteral("formats"), QJsonArray::fromStringList(formats));
-    abilities.insert(QStringLiteral("currentPage"),
-                     options.value(QStringLiteral("has_current_page")).toBool());
-    abilities.insert(QStringLiteral("selectedPages"),
-                     options.value(QStringLiteral("has_selected_pages")).toBool());
     return abilities;
 }
 

@@ -23,8 +23,7 @@ using NamedValues = QList<std::pair<QString, QString>>;
 // out.
 QJsonObject plainValues(const QVariantMap &map);
 
-// What newer applications can do, among the options of a call: "formats" (a list), "currentPage" and
-// "selectedPages" (booleans).
+// What newer applications can do, among the options of a call: "formats" (a list).
 QJsonObject applicationAbilities(const QVariantMap &options);
 
 // Where the dialog begins.

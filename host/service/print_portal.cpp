@@ -14,11 +14,10 @@ namespace {
 
 constexpr qsizetype longestText = 1000; // characters of a title or a name
 
-QJsonObject requestOf(const QString &kind, const QString &appId, const QString &parentWindow,
-                      const QString &title, const QVariantMap &options)
+QJsonObject requestOf(const QString &kind, const QString &parentWindow, const QString &title,
+                      const QVariantMap &options)
 {
     QJsonObject request{{QStringLiteral("kind"), kind},
-                        {QStringLiteral("application"), appId.left(longestText)},
                         {QStringLiteral("parent"), parentWindow.left(longestText)},
                         {QStringLiteral("title"), title.left(longestText)},
                         {QStringLiteral("modal"), options.value(QStringLiteral("modal"), true).toBool()}};
@@ -48,7 +47,7 @@ uint PrintPortal::PreparePrint(const QDBusObjectPath &handle, const QString &app
         call->refuse();
         return 0;
     }
-    QJsonObject request = requestOf(QStringLiteral("choose"), app_id, parent_window, title, options);
+    QJsonObject request = requestOf(QStringLiteral("choose"), parent_window, title, options);
     request.insert(QStringLiteral("settings"), plainValues(settings));
     request.insert(QStringLiteral("pageSetup"), plainValues(page_setup));
     request.insert(QStringLiteral("abilities"), applicationAbilities(options));
@@ -76,8 +75,8 @@ uint PrintPortal::Print(const QDBusObjectPath &handle, const QString &app_id, co
         return 0;
     }
     const auto job = m_tokens.take(options.value(QStringLiteral("token")).toUInt(), app_id);
-    QJsonObject request = requestOf(job ? QStringLiteral("submit") : QStringLiteral("print"), app_id,
-                                    parent_window, title, options);
+    QJsonObject request =
+        requestOf(job ? QStringLiteral("submit") : QStringLiteral("print"), parent_window, title, options);
     if (job)
         request.insert(QStringLiteral("job"), *job);
     call->run(handle.path(), request, std::move(document), true,

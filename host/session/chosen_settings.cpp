@@ -27,8 +27,7 @@ bool hasKey(const ChosenSetting &setting, const QString &key)
 // Whether a value of "multiple-document-handling" says no more than how copies are collated.
 bool isCollating(const QString &value)
 {
-    return value == QLatin1String("separate-documents-collated-copies") ||
-           value == QLatin1String("separate-documents-uncollated-copies");
+    return value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false);
 }
 
 // The options that a standard name such as "media" stands for.

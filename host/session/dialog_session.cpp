@@ -89,13 +89,11 @@ void DialogSession::tellUnknownDefaults()
         if (!option || option->choices.isEmpty() || GeneralSettings::covers(it.key()))
             continue;
         const QString &value = it.value();
-        const bool isCustom =
-            value.startsWith(QLatin1String("Custom.")) || value.startsWith(QLatin1Char('{'));
         const bool isKnown =
             std::any_of(option->choices.begin(), option->choices.end(), [&](const auto &choice) {
                 return choice.keyword.compare(value, Qt::CaseInsensitive) == 0;
             });
-        if (!isKnown && !isCustom)
+        if (!isKnown && !isCustomChoice(value))
             unknown.append(option->text);
     }
     if (!unknown.isEmpty())

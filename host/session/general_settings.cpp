@@ -3,23 +3,13 @@
 
 #include "host/session/general_settings.h"
 
+#include "host/printing/option_text.h"
 #include "host/printing/ppd_document.h"
 #include "host/session/page_ranges.h"
 
 #include <algorithm>
 
 namespace host {
-
-namespace {
-
-bool isOff(const QString &value)
-{
-    return value.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0 ||
-           value.compare(QLatin1String("No"), Qt::CaseInsensitive) == 0 ||
-           value.compare(QLatin1String("Off"), Qt::CaseInsensitive) == 0;
-}
-
-} // namespace
 
 GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options)
 {
@@ -29,7 +19,7 @@ GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options)
         normalizedPageRanges(options.value(QStringLiteral("page-ranges")), nullptr).value_or(QString());
     for (auto it = options.begin(); it != options.end(); ++it) {
         if (it.key().compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
-            settings.collate = !isOff(it.value());
+            settings.collate = switchValue(it.value()).value_or(true);
     }
     const QString handling = options.value(QStringLiteral("multiple-document-handling"));
     if (!handling.isEmpty())
@@ -43,10 +33,7 @@ QList<JobOption> GeneralSettings::jobOptions() const
     QList<JobOption> options;
     options.append({QStringLiteral("copies"), QString::number(copies), Kind::Attribute});
     if (copies > 1) {
-        const QString collated = QStringLiteral("separate-documents-collated-copies");
-        const QString uncollated = QStringLiteral("separate-documents-uncollated-copies");
-        options.append(
-            {QStringLiteral("multiple-document-handling"), collate ? collated : uncollated, Kind::Attribute});
+        options.append({QStringLiteral("multiple-document-handling"), handling(collate), Kind::Attribute});
         // Filters of older print systems listen to this one.
         options.append(
             {QStringLiteral("Collate"), collate ? QStringLiteral("True") : QStringLiteral("False")});
@@ -54,6 +41,12 @@ QList<JobOption> GeneralSettings::jobOptions() const
     if (!pages.isEmpty())
         options.append({QStringLiteral("page-ranges"), pages, Kind::Attribute});
     return options;
+}
+
+QString GeneralSettings::handling(bool collate)
+{
+    return collate ? QStringLiteral("separate-documents-collated-copies")
+                   : QStringLiteral("separate-documents-uncollated-copies");
 }
 
 bool GeneralSettings::covers(const QString &name)
@@ -69,9 +62,7 @@ QStringList generalOptionKeywords(const PpdDocument &ppd)
     const QList<QStringList> wanted = {{QStringLiteral("PageSize")},
                                        {QStringLiteral("MediaType")},
                                        {QStringLiteral("InputSlot")},
-                                       {QStringLiteral("Duplex"), QStringLiteral("JCLDuplex"),
-                                        QStringLiteral("EFDuplex"), QStringLiteral("EFDuplexing"),
-                                        QStringLiteral("ARDuplex"), QStringLiteral("KD03Duplex")}};
+                                       PpdDocument::optionsOfStandardName(QStringLiteral("sides"))};
     QStringList keywords;
     for (const QStringList &names : wanted) {
         for (const QString &name : names) {

@@ -28,6 +28,8 @@ struct GeneralSettings
     static GeneralSettings from(const QMap<QString, QString> &options);
     // As job options; what the print system does anyway is left out.
     QList<JobOption> jobOptions() const;
+    // The value of "multiple-document-handling" that says how copies are collated, and no more.
+    static QString handling(bool collate);
     // Whether a job option of this name is decided by these settings.
     static bool covers(const QString &name);
 };

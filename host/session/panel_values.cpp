@@ -3,6 +3,7 @@
 
 #include "host/session/panel_values.h"
 
+#include "host/printing/option_text.h"
 #include "host/printing/ppd_document.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
@@ -68,7 +69,10 @@ QVariant wholeNumber(const QString &text, QString *problem)
 
 QVariant switchOf(const QString &text, QString *problem)
 {
-    const auto on = switchValue(text);
+    // Panels have no such words: in what they store, "on" would stand for off.
+    const bool isForeign = text.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0 ||
+                           text.compare(QLatin1String("off"), Qt::CaseInsensitive) == 0;
+    const auto on = isForeign ? std::nullopt : switchValue(text);
     if (!on)
         *problem = PanelValueText::tr("takes True or False");
     return on ? QVariant(*on) : QVariant();
@@ -159,22 +163,6 @@ QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const 
 }
 
 } // namespace
-
-std::optional<bool> switchValue(const QString &text)
-{
-    const auto isOneOf = [&](std::initializer_list<const char *> words) {
-        return std::any_of(words.begin(), words.end(), [&](const char *word) {
-            return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
-        });
-    };
-    if (isOneOf({"true", "yes", "enabled"}))
-        return true;
-    if (isOneOf({"false", "no", "disabled", "none"}))
-        return false;
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? std::optional(number != 0) : std::nullopt;
-}
 
 QStringList settableKeys(platform::KeyValueObject *object, const QStringList &keywords)
 {

@@ -6,8 +6,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 namespace platform {
 class KeyValueObject;
 }
@@ -18,9 +16,6 @@ class PpdDocument;
 
 // Values given as text, for the keys of a panel.
 
-// What a switch takes: True, Yes, Enabled or a whole number other than 0; False, No, Disabled, None or 0. Nil
-// for everything else.
-std::optional<bool> switchValue(const QString &text);
 // The keys and key paths of a panel that can be set: its declared properties that can be written, without
 // inner state (STORED false) and without those that stand for options which the panel does not handle on this
 // printer.

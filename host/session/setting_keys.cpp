@@ -3,6 +3,7 @@
 
 #include "host/session/setting_keys.h"
 
+#include "host/printing/option_text.h"
 #include "host/session/page_ranges.h"
 #include "host/session/panel_values.h"
 #include "platform/key_value_object.h"
@@ -72,9 +73,7 @@ bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintErro
         general.pages = *pages;
         return true;
     }
-    const auto collate = value.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0    ? true
-                         : value.compare(QLatin1String("off"), Qt::CaseInsensitive) == 0 ? false
-                                                                                         : switchValue(value);
+    const auto collate = switchValue(value);
     if (!collate) {
         *error = badValue(SettingText::tr("%1 takes True or False.").arg(key));
         return false;
