@@ -164,9 +164,9 @@ void CoreValuesTest::textsOfAPpd()
 {
     QFETCH(QByteArray, text);
     QFETCH(QByteArray, translation);
-    const auto ppd = openPpd("*LanguageEncoding: UTF-8\n*cupsLanguages: \"de\"\n" +
-                             ppdOption("Coat/Coating", {"None/None", "Gloss/" + text}) + "*de.Coat Gloss/" +
-                             translation + ": \"\"\n");
+    const auto ppd =
+        openPpd("*cupsLanguages: \"de\"\n" + ppdOption("Coat/Coating", {"None/None", "Gloss/" + text}) +
+                "*de.Coat Gloss/" + translation + ": \"\"\n");
     QVERIFY(ppd);
     QTEST(ppd->option(u"Coat"_s)->choices.last().text, "shown");
 }
