@@ -71,9 +71,11 @@ std::optional<QString> readLine(int terminal)
     return QString::fromUtf8(line);
 }
 
-std::optional<QString> readHidden(int terminal)
+// Asks when nothing shows any more: what is typed before that is shown, and then thrown away.
+std::optional<QString> askHidden(int terminal, const QString &question)
 {
     const Echoless echoless(terminal);
+    say(terminal, question);
     const auto line = echoless.isHidden() ? readLine(terminal) : std::nullopt;
     say(terminal, QStringLiteral("\n"));
     return line;
@@ -100,8 +102,7 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
         return std::nullopt;
     if (user->isEmpty())
         user = question.user;
-    say(terminal, TerminalText::tr("Password: "));
-    const auto password = readHidden(terminal);
+    const auto password = askHidden(terminal, TerminalText::tr("Password: "));
     return password ? std::optional(Login{*user, *password}) : std::nullopt;
 }
 
