@@ -36,9 +36,11 @@ std::optional<QString> readLine(int terminal)
     return fate == InputLine::Fate::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
 }
 
-std::optional<QString> readHidden(int terminal)
+// Asks when nothing shows any more: what is typed before that is shown, and then thrown away.
+std::optional<QString> askHidden(int terminal, const QString &question)
 {
     const Silence silence(terminal);
+    say(terminal, question);
     const auto line = silence.isActive() ? readLine(terminal) : std::nullopt;
     say(terminal, QStringLiteral("\n"));
     return line;
@@ -64,8 +66,7 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
         return std::nullopt;
     if (user->isEmpty())
         user = question.user;
-    say(terminal, TerminalText::tr("Password: "));
-    const auto password = readHidden(terminal);
+    const auto password = askHidden(terminal, TerminalText::tr("Password: "));
     return password ? std::optional(Login{*user, *password}) : std::nullopt;
 }
 

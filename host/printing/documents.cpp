@@ -4,13 +4,12 @@
 #include "host/printing/documents.h"
 
 #include "host/printing/file_name.h"
+#include "host/printing/gzip_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QMimeDatabase>
 #include <QXmlStreamReader>
-
-#include <zlib.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -31,25 +30,7 @@ struct DocumentText
 };
 
 constexpr qint64 spoolBlock = 64 * 1024;
-constexpr unsigned headSize = 64 * 1024; // bytes that tell what a document is
-
-struct GzipCloser
-{
-    void operator()(gzFile file) const { gzclose(file); }
-};
-
-// The beginning of a file, uncompressed as the print server will see it. Takes the descriptor over.
-QByteArray headOf(int fd)
-{
-    const std::unique_ptr<gzFile_s, GzipCloser> file(gzdopen(fd, "rb"));
-    if (!file) {
-        ::close(fd);
-        return {};
-    }
-    QByteArray head(headSize, Qt::Uninitialized);
-    head.truncate(std::max(gzread(file.get(), head.data(), headSize), 0));
-    return head;
-}
+constexpr qint64 headSize = 64 * 1024; // bytes that tell what a document is
 
 bool isSvg(const QByteArray &head)
 {
@@ -167,7 +148,9 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
         *error = {Kind::EmptyDocument, DocumentText::tr("The file “%1” is empty.").arg(shown)};
         return std::nullopt;
     }
-    describeFormat(&document, headOf(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0)));
+    GzipFile contents(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0));
+    describeFormat(&document, contents.read(headSize));
+    document.isCompressed = contents.isCompressed();
     return document;
 }
 

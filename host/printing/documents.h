@@ -27,6 +27,7 @@ struct Document
     QString formatText;           // the type in words; may be empty
     QStringList otherFormats;     // other names of the type, and more general ones that it is a kind of
     qint64 size = 0;              // bytes
+    bool isCompressed = false;    // with gzip; the other fields are about what is in it, except the size
     bool isDrawingInText = false; // a picture that is written as text, such as SVG
 };
 

@@ -4,6 +4,7 @@
 #include "host/printing/job_submitter.h"
 
 #include "host/printing/file_name.h"
+#include "host/printing/gzip_file.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/job_attributes.h"
 #include "host/printing/option_text.h"
@@ -16,6 +17,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
+
+#include <fcntl.h>
 
 namespace host {
 
@@ -196,14 +200,18 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
         *error = unreadable(document.path, problem);
         return false;
     }
+    // A server does not look for the type of what is compressed, or forgets that it is.
+    std::optional<GzipFile> contents;
+    if (document.isCompressed)
+        contents.emplace(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0));
+    QIODevice *source = contents ? static_cast<QIODevice *>(&*contents) : &file;
     qint64 ofThis = 0;
-    const Reply reply =
-        m_server.send(documentRequest(index), m_resource, &file, [this, &ofThis](qint64 sent) {
-            ofThis = sent;
-            if (m_watch.progress)
-                m_watch.progress(m_sent + sent, m_total);
-        });
-    m_sent += ofThis;
+    const Reply reply = m_server.send(documentRequest(index), m_resource, source, [&](qint64 sent) {
+        ofThis = sent;
+        if (m_watch.progress)
+            m_watch.progress(m_sent + std::min(sent, document.size), m_total);
+    });
+    m_sent += std::min(ofThis, document.size);
     m_kilobytes += (ofThis + 1023) / 1024;
     if (reply.succeeded()) {
         m_mayPrint = true;
@@ -213,8 +221,9 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
         m_mayPrint = true;
         m_mayBeWhole = index == m_request.documents.size() - 1;
     }
-    *error = file.error() != QFileDevice::NoError ? unreadable(document.path, file.errorString())
-                                                  : reply.error(m_request.destination.displayName());
+    const bool isUnreadable = contents ? contents->hasFailed() : file.error() != QFileDevice::NoError;
+    *error = isUnreadable ? unreadable(document.path, source->errorString())
+                          : reply.error(m_request.destination.displayName());
     return false;
 }
 

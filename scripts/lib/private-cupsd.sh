@@ -8,6 +8,7 @@
 #   add-queue DIR NAME PPD URI   a queue that accepts jobs; PPD may be - for none; no address is ever contacted
 #   wait-job DIR JOB [SECONDS]   return when the job has been captured (10 seconds)
 #   options DIR JOB              the backend's fifth argument: the job's options as they arrived
+# KELMAR_CUPS_LISTEN is a further address to listen on, such as localhost:8631.
 # Where KELMAR_DIALOG_BACKEND names the backend of the dialog's queue, the server has it, with the mode it needs.
 # Programs reach the server with CUPS_SERVER=DIR/cups.sock. Exit code 77: CUPS is not installed.
 set -euo pipefail
@@ -39,6 +40,7 @@ prepare() {
     cat >"$dir/cupsd.conf" <<CONF
 LogLevel ${KELMAR_CUPS_LOGLEVEL:-warn}
 Listen $sock
+${KELMAR_CUPS_LISTEN:+Listen $KELMAR_CUPS_LISTEN}
 Browsing Off
 WebInterface No
 DefaultShared No
@@ -138,7 +140,7 @@ wait_job() { # JOB SECONDS
     fail "job $1 has not arrived within $2 seconds"
 }
 
-[ $# -ge 2 ] || { sed -n '4,12s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
+[ $# -ge 2 ] || { sed -n '4,13s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
 verb=$1 dir=$2
 shift 2
 case $verb in run | start) mkdir -p "$dir" ;; esac

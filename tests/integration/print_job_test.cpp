@@ -47,6 +47,7 @@ private Q_SLOTS:
     void pausedPrinterKeepsTheJob();
     void documentsAreTheServersBusiness_data();
     void documentsAreTheServersBusiness();
+    void documentThatEndsEarly();
     void namesAndPipes();
     void lastWordCounts();
     void resultsThatCannotBeWritten_data();
@@ -267,6 +268,22 @@ void PrintJobTest::documentsAreTheServersBusiness()
         QCOMPARE(m_server.capturedJobs(), before);
     else
         QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
+}
+
+// It looks well at its beginning; the job is there already when its end turns out to be missing.
+void PrintJobTest::documentThatEndsEarly()
+{
+    QByteArray text;
+    for (int i = 0; i < 100'000; ++i)
+        text += QByteArray::number(i) + '\n';
+    const QByteArray whole = gzipped(text);
+    const QList<int> before = m_server.capturedJobs();
+    const Outcome outcome =
+        run({u"--batch"_s, u"-d"_s, u"other"_s, file(u"cut.gz"_s, whole.first(whole.size() / 2))});
+    QCOMPARE(outcome.code, 1);
+    QVERIFY(outcome.json[u"error"_s][u"message"_s].toString().contains(u"cannot be read"_s));
+    QCOMPARE(unfinishedJobs(), 0);
+    QCOMPARE(m_server.capturedJobs(), before);
 }
 
 void PrintJobTest::namesAndPipes()

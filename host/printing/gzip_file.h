@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QIODevice>
+
+#include <memory>
+
+#include <zlib.h>
+
+namespace host {
+
+struct GzipCloser
+{
+    void operator()(gzFile file) const { gzclose(file); }
+};
+using GzipPointer = std::unique_ptr<gzFile_s, GzipCloser>;
+
+// What is in a file that gzip has compressed, for reading; any other file as it is. Its size is not known
+// beforehand. Reading fails, with errorString(), where the file is damaged or cut.
+class GzipFile : public QIODevice
+{
+public:
+    // Takes the descriptor over.
+    explicit GzipFile(int descriptor);
+
+    bool isCompressed() const; // known once something has been read
+    bool hasFailed() const { return m_hasFailed; }
+    bool seek(qint64 position) override;
+
+protected:
+    qint64 readData(char *data, qint64 size) override;
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    GzipPointer m_file;
+    bool m_hasFailed = false;
+};
+
+} // namespace host

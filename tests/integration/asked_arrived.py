@@ -1,0 +1,401 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""What was asked for beside what reached the printer: asked_arrived.py BUILD_FOLDER [WORD...]
+
+Documents of several types are printed with several options on several kinds of queues, through the real filters of
+this system, with the program and, for comparison, with lp. A row a combination: what was asked, what arrived, and where
+lp differs. With words, only the rows that contain one. Exit code 1 when something asked for did not arrive, 77 when
+what it takes is not installed.
+
+A case wants NAME=VALUE of these:
+  pages, size    of the filtered data; size in points, of every page
+  copies         how many times the printer gives each page, by itself or because the data says so
+  whole=yes      the data is the document, byte by byte
+  *NAME          a feature of the printer that the data sets up
+  NAME           an option as filters and backend are handed it
+"""
+import concurrent.futures
+import gzip
+import json
+import os
+import pathlib
+import pty
+import re
+import select
+import shlex
+import shutil
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+
+build = pathlib.Path(sys.argv[1]).resolve()
+source = pathlib.Path(__file__).resolve().parents[2]
+script = source / "scripts/lib/private-cupsd.sh"
+program = build / "bin/kelmar-print"
+A4, LETTER, A5 = "size=595x842", "size=612x792", "size=420x595"
+
+# Queue, document, words for the program, what has to arrive, and words for lp where they are others.
+CASES = [
+    # the family's own PPD
+    ("office", "report.pdf", "", f"pages=2 {A4} copies=1 *Duplex=None"),
+    ("office", "report.ps", "", f"pages=2 {A4} copies=1"),
+    ("office", "note.txt", "", f"pages=1 {A4}"),
+    ("office", "picture.png", "", f"pages=1 {A4}"),
+    ("office", "picture.bmp", "", f"pages=1 {A4}"),
+    ("office", "report.ps.gz", "", f"pages=2 {A4}"),
+    ("office", "report.pdf.gz", "", f"pages=2 {A4}"),
+    ("office", "report.pdf", "-n 3 --set collate=true", "pages=2 copies=3 *Collate=True", "-n 3 -o Collate=True"),
+    ("office", "report.pdf", "-n 3 --set collate=false", "pages=2 copies=3 *Collate=False", "-n 3 -o Collate=False"),
+    ("office", "report.ps", "-n 2 --set collate=true", "pages=2 copies=2 *Collate=True", "-n 2 -o Collate=True"),
+    ("office", "note.txt", "-n 2 --set collate=false", "pages=1 copies=2 *Collate=False", "-n 2 -o Collate=False"),
+    ("office", "five.pdf", "-P 2-3", f"pages=2 {A4} page-ranges=2-3"),
+    ("office", "five.pdf", "-P 1,4-", "pages=3"),
+    ("office", "five.ps", "-P 5", "pages=1"),
+    ("office", "five.pdf", "--set Duplex=DuplexNoTumble", "pages=5 *Duplex=DuplexNoTumble"),
+    ("office", "long.txt", "--set Duplex=DuplexTumble", "pages=3 *Duplex=DuplexTumble"),
+    ("office", "five.pdf", "-o sides=two-sided-short-edge", "pages=5 *Duplex=DuplexTumble"),
+    ("office", "report.pdf", "--set PrintMode=Private --set privatePassword=12340",
+     "*PrintMode=Private *DINDigit1=1 *DINDigit4=4 *DINDigit5=0 DINDigit5=0",
+     "-o PrintMode=Private -o DINDigit1=1 -o DINDigit2=2 -o DINDigit3=3 -o DINDigit4=4 -o DINDigit5=0"),
+    ("office", "report.ps", "--set DeptCode=True --set departmentCode=01230", "*DeptCode=True *DCDigit1=0 *DCDigit4=3",
+     "-o DeptCode=True -o DCDigit1=0 -o DCDigit2=1 -o DCDigit3=2 -o DCDigit4=3 -o DCDigit5=0"),
+    ("office", "report.pdf", "--set MediaType=Thick1 --set InputSlot=Bypass", "*MediaType=Thick1 *InputSlot=Bypass"),
+    ("office", "report.pdf", "--set PageSize=A5", f"pages=2 {A5}"),
+    ("office", "note.txt", "-o media=Letter", f"pages=1 {LETTER}"),
+    ("office", "picture.png", "--set ColorType=Mono", "pages=1 *ColorType=Mono"),
+    ("office", "five.pdf", "-o number-up=4", f"pages=2 {A4} number-up=4"),
+    ("office", "five.pdf", "-o fit-to-page -o outputorder=reverse --set PageSize=A5", f"pages=5 {A5}"),
+    # a preset of the user: two-sided, two pages on a sheet, monochrome
+    ("office/draft", "five.pdf", "", "pages=3 *Duplex=DuplexNoTumble *ColorType=Mono"),
+    ("office/draft", "five.pdf", "-o number-up=1 -o sides=one-sided", "pages=5 *Duplex=None number-up=1"),
+    ("office/draft", "five.pdf", "--set Duplex=None --set ColorType=Color", "pages=3 *Duplex=None *ColorType=Color"),
+    # defaults of the queue: two-sided, A5, two copies
+    ("admin", "five.pdf", "", f"pages=5 *Duplex=DuplexNoTumble {A5} copies=2"),
+    ("admin", "five.pdf", "--set Duplex=None --set PageSize=A4 -n 1", f"pages=5 *Duplex=None {A4} copies=1"),
+    ("admin", "long.txt", "-o sides=one-sided -o media=A4", f"*Duplex=None {A4}"),
+    # another model, and PPDs of other makers
+    ("small", "five.pdf", "-n 2 --set ColorType=Mono -P 1-4", "pages=4 copies=2 *ColorType=Mono"),
+    ("generic", "report.pdf", "", f"pages=2 {LETTER}"),
+    ("generic", "report.ps.gz", "--set Option1=True --set Duplex=DuplexNoTumble --set PageSize=A4",
+     f"pages=2 {A4} *Duplex=DuplexNoTumble"),
+    ("generic", "note.txt", "-n 3 -o media=A4", f"pages=3 {A4} copies=1"),
+    ("custom", "report.pdf", "--set PageSize=Custom.300x400", "pages=2 size=300x400 PageSize=Custom.300x400"),
+    ("custom", "note.txt", "--set StpGamma=Custom.1.5", "*CustomStpGamma=True StpGamma=Custom.1.5"),
+    # a printer that describes itself
+    ("everywhere", "report.pdf", "--set Duplex=DuplexNoTumble --set PageSize=A4",
+     f"pages=2 {A4} Duplex=DuplexNoTumble PageSize=A4"),
+    ("everywhere", "five.pdf", "-n 2 -P 2-3", "pages=2 copies=2 page-ranges=2-3"),
+    ("everywhere", "note.txt", "--set ColorModel=Gray -o media=A4", f"pages=1 {A4} ColorModel=Gray"),
+    ("everywhere", "report.ps.gz", "-o media=A4", f"pages=2 {A4}"),
+    # no PPD
+    ("raw", "report.pdf", "-n 2 -o sides=two-sided-long-edge", "whole=yes copies=2 sides=two-sided-long-edge"),
+    ("raw", "note.txt", "", "whole=yes"),
+    ("raw", "report.pdf.gz", "", f"pages=2 {A4}"),
+    # a class
+    ("team", "five.pdf", "-n 2 -o sides=two-sided-long-edge -P 1-2", "pages=2 copies=2 *Duplex=DuplexNoTumble"),
+    # a queue of another server: through one of this server's, and straight
+    ("far", "five.pdf", "-n 2 -o sides=two-sided-long-edge -o page-ranges=2-4",
+     "pages=3 copies=2 *Duplex=DuplexNoTumble"),
+    ("far", "report.ps.gz", "-o PrintMode=Private -o DINDigit1=7", "pages=2 *PrintMode=Private *DINDigit1=7"),
+    ("remote:office", "report.pdf", "--set PrintMode=Private --set privatePassword=54321 --set PageSize=A5",
+     f"pages=2 {A5} *PrintMode=Private *DINDigit1=5",
+     "-o PrintMode=Private -o DINDigit1=5 -o DINDigit2=4 -o DINDigit3=3 -o DINDigit4=2 -o DINDigit5=1 -o PageSize=A5"),
+    ("remote:office", "long.txt", "-n 2 --set Duplex=DuplexTumble", "pages=3 copies=2 *Duplex=DuplexTumble"),
+    # queues that want to know who prints: by the socket's word, and by name and password
+    ("members", "report.pdf", "-n 2 --set ColorType=Mono", "pages=2 copies=2 *ColorType=Mono"),
+    ("login:office", "five.pdf", "-P 2-3 --set PrintMode=Private --set privatePassword=11111",
+     "pages=2 *PrintMode=Private *DINDigit3=1",
+     "-P 2-3 -o PrintMode=Private -o DINDigit1=1 -o DINDigit2=1 -o DINDigit3=1 -o DINDigit4=1 -o DINDigit5=1"),
+]
+
+
+def stop_with(message, code=1):
+    print(message, file=sys.stderr)
+    sys.exit(code)
+
+
+def run(*words, **options):
+    return subprocess.run(list(map(str, words)), capture_output=True, check=False, **options)
+
+
+def must(*words, **options):
+    done = run(*words, **options)
+    if done.returncode:
+        stop_with(f"{words}: {done.stdout.decode()}{done.stderr.decode()}", 77 if done.returncode == 77 else 1)
+    return done
+
+
+def make_documents(folder):
+    for name in ("report.pdf", "report.ps", "note.txt", "picture.png"):
+        shutil.copy(source / "demo" / name, folder)
+    for name in ("report.ps", "report.pdf"):
+        (folder / f"{name}.gz").write_bytes(gzip.compress((folder / name).read_bytes()))
+    pages = "".join(f"%%Page: {n} {n}\n/Courier findfont 40 scalefont setfont 99 {99 * n} moveto ({n}) show showpage\n"
+                    for n in range(1, 6))
+    (folder / "five.ps").write_text("%!PS-Adobe-3.0\n%%Pages: 5\n%%BoundingBox: 0 0 595 842\n%%EndComments\n" + pages +
+                                    "%%EOF\n")
+    must("gs", "-q", "-o", folder / "five.pdf", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4", folder / "five.ps")
+    (folder / "long.txt").write_text("".join(f"line {n}\n" for n in range(150)))
+    row = b"\x00\x80\xff" * 40
+    (folder / "picture.bmp").write_bytes(
+        b"BM" + (54 + 40 * len(row)).to_bytes(4, "little") + bytes(4) + (54).to_bytes(4, "little") +
+        b"".join(v.to_bytes(4, "little") for v in (40, 40, 40, 1 | 24 << 16, 0, 40 * len(row), 0, 0, 0, 0)) + row * 40)
+
+
+def free_port():
+    with socket.socket() as s:
+        s.bind(("localhost", 0))
+        return s.getsockname()[1]
+
+
+class Setup:
+    """Two servers, their queues, and what stands beside them, in a folder; ends with `stop`."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        self.children = []
+        self.servers = [folder / "near", folder / "away"]
+        self.socket = self.servers[0] / "cups.sock"
+        self.port = free_port()
+
+    def start(self):
+        near, away = self.servers
+        must("bash", script, "start", near)
+        must("bash", script, "start", away, env=dict(os.environ, KELMAR_CUPS_LISTEN=f"localhost:{self.port}"))
+        backend = near / "bin/backend/ipp"  # the one that really goes to the other server
+        backend.unlink()
+        backend.symlink_to("/usr/lib/cups/backend/ipp")
+        ppds = self.folder / "ppds"
+        must("ppdc", "-d", ppds, "/usr/share/cups/drv/sample.drv")
+        family = build / "ppds/kelm880.ppd"
+        for name, ppd in [("office", family), ("admin", family), ("members", family), ("generic", ppds / "generic.ppd"),
+                          ("small", build / "ppds/kelo110.ppd"), ("raw", "-"),
+                          ("custom", source / "tests/host/custom_values.ppd")]:
+            must("bash", script, "add-queue", near, name, ppd, "capture:/")
+        must("bash", script, "add-queue", away, "office", family, "capture:/")
+        must("bash", script, "add-queue", near, "far", "-",
+             f"ipp://localhost:{self.port}/printers/office?waitjob=false")
+        defaults = ("sides-default=two-sided-long-edge", "media-default=A5", "copies-default=2")
+        self.lpadmin("-p", "admin", *(word for default in defaults for word in ("-o", default)))
+        self.lpadmin("-p", "members", "-o", "printer-op-policy=kelmar-dialog")
+        self.lpadmin("-p", "office", "-c", "team")
+        must("cupsenable", "-h", self.socket, "team")
+        must("cupsaccept", "-h", self.socket, "team")
+        self.describe_everywhere()
+        (self.folder / ".cups").mkdir()
+        (self.folder / ".cups/lpoptions").write_text(
+            "Dest office/draft sides=two-sided-long-edge number-up=2 ColorType=Mono\n")
+        self.child(["python3", source / "tests/integration/faulty_proxy.py", self.folder / "login", self.socket, "login"],
+                   lambda: (self.folder / "login").exists())
+
+    def child(self, words, is_ready, **environment):
+        log = open(self.folder / "log", "ab")
+        child = subprocess.Popen(list(map(str, words)), stdout=log, stderr=log, env=dict(os.environ, **environment))
+        self.children.append(child)
+        for _ in range(200):
+            if is_ready():
+                return
+            if child.poll() is not None:
+                break
+            time.sleep(0.05)
+        stop_with(f"{words}: " + (self.folder / "log").read_text())
+
+    def lpadmin(self, *words):
+        must("lpadmin", "-h", self.socket, *words)
+
+    def describe_everywhere(self):
+        """A queue whose PPD is made from what a printer says of itself; the printer is gone before the first job."""
+        bus = self.folder / "bus"
+        self.child(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={bus}"], bus.exists)
+        port = free_port()
+
+        def answers():
+            with socket.socket() as s:
+                return s.connect_ex(("localhost", port)) == 0
+
+        self.child(["ippeveprinter", "-2", "-r", "off", "-n", "localhost", "-p", port, "-d", self.folder, "-s", "10,10",
+                    "-f", "application/pdf,image/urf,image/pwg-raster", "-c", "/bin/true", "Everywhere"], answers,
+                   DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={bus}")
+        self.lpadmin("-p", "everywhere", "-E", "-v", f"ipp://localhost:{port}/ipp/print", "-m", "everywhere")
+        self.lpadmin("-p", "everywhere", "-v", "capture:/")
+
+    def stop(self):
+        for child in self.children:
+            child.terminate()
+            child.wait()
+        for server in self.servers:
+            run("bash", script, "stop", server)
+
+    def address(self, queue):
+        return {"remote": f"localhost:{self.port}", "login": self.folder / "login"}.get(queue.split(":")[0], self.socket)
+
+
+def on_terminal(words, environment, results):
+    """Runs a program that asks for name and password, with its results in a file; gives what it wrote."""
+    pid, terminal = pty.fork()
+    if pid == 0:
+        os.dup2(os.open(results, os.O_WRONLY | os.O_CREAT, 0o600), 1)
+        os.execvpe(words[0], words, environment)
+    said, answered = b"", 0
+    try:
+        while select.select([terminal], [], [], 20)[0] and (part := os.read(terminal, 4096)):
+            said += part
+            question = re.search(rb"(User name|Password)[^\n]*[:?] $", said[answered:])
+            if question:
+                answered = len(said)
+                os.write(terminal, b"anna\n" if question[1] == b"User name" else b"secret\n")
+    except OSError:  # the terminal's other end is closed
+        pass
+    else:
+        os.kill(pid, signal.SIGKILL)  # nothing for 20 seconds
+    os.close(terminal)
+    code = os.waitstatus_to_exitcode(os.waitpid(pid, 0)[1])
+    return code, results.read_text() + said.decode(errors="replace")
+
+
+def lp_words(words):
+    words = shlex.split(words)
+    return ["-o" if word == "--set" else word for word in words]
+
+
+class Job:
+    """One job, found by its title in what the servers have captured."""
+
+    def __init__(self, setup, title, queue, path, words):
+        self.setup, self.title, self.path = setup, title, path
+        self.words = [*map(str, words), "-h", str(setup.address(queue)), "-d", queue.split(":")[-1], "-t", title,
+                      str(path)]
+        self.needs_login = queue.startswith("login:")
+        self.was_sent = True
+        self.problem = ""
+        self.facts = {}
+
+    def send(self, command):
+        environment = dict(os.environ, HOME=str(self.setup.folder), QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
+                           LANGUAGE="en", CUPS_SERVER=str(self.setup.socket))
+        if command[0] == "lp":  # takes its server first
+            at = self.words.index("-h")
+            command = [*command, *self.words[at:at + 2]]
+            del self.words[at:at + 2]
+        words = [*map(str, command), *self.words]
+        if self.needs_login:
+            code, said = on_terminal(words, environment, self.setup.folder / f"{self.title}.json")
+        else:
+            done = run(*words, env=environment, stdin=subprocess.DEVNULL)
+            code, said = done.returncode, done.stdout.decode() + done.stderr.decode()
+        if code:
+            self.was_sent = False
+            self.problem = said.strip() or f"exit code {code}"
+        elif "--json" in words and (answer := re.search(r"^\{.*", said, re.S | re.M)):
+            differences = json.JSONDecoder().raw_decode(answer[0])[0]["job"]["differences"]
+            self.problem = "; ".join(differences)
+
+    def captured(self):
+        for server in self.setup.servers:
+            for path in (server / "jobs").glob("[0-9]*.args"):
+                arguments = path.read_bytes().decode(errors="replace").split("\0")
+                if arguments[2] == self.title:
+                    return path.with_suffix(".data"), arguments
+        return None
+
+    def look(self):
+        """Waits until the job is there, and measures it."""
+        for _ in range(600):
+            found = self.captured()
+            if found or not self.was_sent:
+                break
+            time.sleep(0.05)
+        if not found:
+            self.problem = self.problem or "nothing arrived"
+            return
+        data, arguments = found
+        content = data.read_bytes()
+        for word in shlex.split(arguments[4]):
+            name, _, value = word.partition("=")
+            self.facts[name] = value
+        for name, value in re.findall(rb"%%BeginFeature: \*(\S+) (\S+)", content):
+            self.facts["*" + name.decode()] = value.decode()
+        self.facts["copies"] = arguments[3]
+        if content == self.path.read_bytes():
+            self.facts["whole"] = "yes"
+        else:
+            self.measure_pages(data, content)
+
+    def measure_pages(self, data, content):
+        pdf = data
+        if b"%!PS" in content[:4096]:
+            self.facts["copies"] = (re.findall(rb"NumCopies (\d+)", content) or [b"1"])[-1].decode()
+            start = content.index(b"%!PS")
+            end = content.rfind(b"\x1b%-12345X")
+            pdf = self.setup.folder / f"{self.title}.pdf"
+            interpreted = run("gs", "-q", "-dNOSAFER", "-dBATCH", "-dNOPAUSE", "-sDEVICE=pdfwrite", f"-sOutputFile={pdf}",
+                              "-", input=content[start:end if end > start else None])
+            if interpreted.returncode:
+                self.problem = self.problem or "the data is no PostScript: " + interpreted.stdout.decode()[:200]
+        said = run("pdfinfo", "-l", "-1", pdf).stdout.decode()
+        count = re.search(r"^Pages:\s+(\d+)", said, re.M)
+        self.facts["pages"] = count[1] if count else "?"
+        sizes = {f"{float(w):.0f}x{float(h):.0f}" for w, h in
+                 re.findall(r"^Page +\d+ size:\s+([\d.]+) x ([\d.]+)", said, re.M)}
+        self.facts["size"] = " and ".join(sorted(sizes)) or "?"
+
+
+def main():
+    for tool in ("cupsd", "lp", "ppdc", "gs", "pdfinfo", "ippeveprinter", "dbus-daemon"):
+        if not shutil.which(tool, path=os.environ["PATH"] + ":/usr/sbin"):
+            stop_with(f"{tool} is not installed", 77)
+    os.environ["PATH"] += ":/usr/sbin"
+    with tempfile.TemporaryDirectory(prefix="kelmar-") as name:
+        setup = Setup(pathlib.Path(name))
+        setup.folder.chmod(0o755)
+        try:
+            make_documents(setup.folder)
+            setup.start()
+            return compare(setup)
+        finally:
+            setup.stop()
+
+
+def compare(setup):
+    cases = [(number, *case) for number, case in enumerate(CASES, 1)
+             if not sys.argv[2:] or any(word in " ".join(case) for word in sys.argv[2:])]
+
+    def work(case):
+        number, queue, document, words, _, *others = case
+        path = setup.folder / document
+        ours = Job(setup, f"{number:02}-program", queue, path, shlex.split(words))
+        ours.send([program, "--batch", "--json"])
+        theirs = Job(setup, f"{number:02}-lp", queue, path, lp_words(others[0] if others else words))
+        ours.look()
+        if ours.needs_login:
+            theirs.problem = "not compared"
+        else:
+            theirs.send(["lp"])
+            theirs.look()
+        return ours, theirs
+
+    wrong = 0
+    with concurrent.futures.ThreadPoolExecutor(2) as pool:
+        for case, (ours, theirs) in zip(cases, pool.map(work, cases)):
+            number, queue, document, words, wanted, *_ = case
+            wants = dict(want.split("=", 1) for want in wanted.split())
+            missing = [f"{name}={ours.facts.get(name, '(none)')} instead of {value}" for name, value in wants.items()
+                       if ours.facts.get(name) != value]
+            lp = [f"{name}={theirs.facts.get(name, '(none)')}" for name, value in wants.items()
+                  if theirs.facts.get(name) != value]
+            if theirs.problem:
+                lp = [] if ours.needs_login else lp
+                lp.insert(0, " ".join(theirs.problem.split()))
+            fault = "; ".join(([ours.problem] if ours.problem else []) + missing)
+            wrong += bool(fault)
+            print(f"{number:2} | {queue} | {document} | {words or '-'} | {wanted} | "
+                  f"{'NOT ARRIVED: ' + fault if fault else 'arrived'} | lp: {', '.join(lp) or 'the same'}", flush=True)
+    print(f"{len(cases)} combinations, {wrong} of which did not arrive as asked")
+    return 1 if wrong or not cases else 0
+
+
+sys.exit(main())
