@@ -17,7 +17,7 @@ class QObject;
 namespace platform {
 
 // How a thread that has to stay responsive passes the time while something that blocks runs beside it. A
-// dialog installs one for its thread, with Scope; threads without one simply block.
+// dialog may install one for its thread, with Scope; threads without one simply block.
 class KELMAR_PLATFORM_EXPORT Waiter
 {
 public:

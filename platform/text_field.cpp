@@ -215,6 +215,7 @@ void TextField::replaceByUser(const QString &wanted, int cursor)
 void TextField::userEdited()
 {
     m_editing = true;
+    m_rejected.reset(); // the field took the text after all, as one that was not acceptable before does
     if (m_delegate)
         m_delegate->controlTextDidChange(this, {{NSFieldEditor, QVariant::fromValue<QObject *>(this)}});
 }
