@@ -268,13 +268,21 @@ QString CustomParameter::inWords() const
 std::optional<QString> CustomParameter::read(const QString &text) const
 {
     if (isNumeric()) {
-        const auto length = type == Type::Length ? CustomLength::read(text) : std::nullopt;
-        const auto value =
-            type == Type::Length ? (length ? std::optional(length->points()) : std::nullopt) : decimal(text);
+        bool isNumber = false;
+        double number = 0; // set where it is one
+        if (type == Type::Length) {
+            const auto length = CustomLength::read(text);
+            isNumber = length.has_value();
+            number = length ? length->points() : 0;
+        } else {
+            const auto value = decimal(text);
+            isNumber = value.has_value();
+            number = value.value_or(0);
+        }
         const bool isWhole = type != Type::Whole || !text.contains(QLatin1Char('.'));
-        if (!value || !isWhole || !isWithin(*value, *this))
+        if (!isNumber || !isWhole || !isWithin(number, *this))
             return std::nullopt;
-        return type == Type::Whole ? QString::number(qRound64(*value)) : plainNumber(*value);
+        return type == Type::Whole ? QString::number(qRound64(number)) : plainNumber(number);
     }
     const bool areDigits =
         std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
