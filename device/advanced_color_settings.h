@@ -26,8 +26,8 @@ extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only
 // The colour profiles that a printer holds, what the user chose among them, and whether the printer could be
 // asked. Its keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed
 // and outlive it. The device is asked by restore and by updateFromSNMP() alone, which return when it is done;
-// the host is told before. A user who does not wait gets what a device that does not answer gives. Main thread
-// only.
+// the host is told before. A user who does not wait gets what a device that does not answer gives. Main
+// thread only.
 //
 // Each list of names has a list of the device's numbers beside it, which the selections refer to: a profile
 // without a name has a number but no place in the lists. An empty list is one that was never read.

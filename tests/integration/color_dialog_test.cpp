@@ -23,7 +23,6 @@
 #include <QSlider>
 #include <QTest>
 
-
 using namespace host;
 using namespace Qt::StringLiterals;
 
