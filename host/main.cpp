@@ -9,11 +9,15 @@
 #include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
 #include "host/window_run.h"
+#include "platform/background.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -92,11 +96,29 @@ QStringList commandLine(int argc, char **argv)
     return words;
 }
 
+// Work that nobody waits for any more must not find the libraries that it is in torn down: where there is
+// some, the program ends here and now.
+int leave(int code)
+{
+    if (platform::Background::isUnderWay()) {
+        fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
+}
+
 int runForService(bool hasDisplay)
 {
     CupsPrintSystem system;
     Extensions extensions(Extensions::installedBundles(QApplication::applicationDirPath()));
-    return runDialogRequest(system, extensions, hasDisplay);
+    return leave(runDialogRequest(system, extensions, hasDisplay));
+}
+
+int flushed(int code, QFile *out, QFile *err)
+{
+    out->flush();
+    err->flush();
+    return code;
 }
 
 int run(const Arguments &arguments, QFile *out, QFile *err)
@@ -107,9 +129,10 @@ int run(const Arguments &arguments, QFile *out, QFile *err)
     Extensions extensions(arguments.bundles.isEmpty() ? Extensions::installedBundles(folder)
                                                       : arguments.bundles);
     if (arguments.needsWindow())
-        return runWindow(arguments, system, extensions, out, err);
+        return leave(flushed(runWindow(arguments, system, extensions, out, err), out, err));
     ResultWriter writer(out, err);
-    return BatchRun(arguments, system, extensions).run(&writer);
+    const int code = BatchRun(arguments, system, extensions).run(&writer);
+    return leave(flushed(code, out, err));
 }
 
 } // namespace

@@ -257,6 +257,7 @@ int RequestRun::openDialog()
     if (kind() == QLatin1String("choose")) { // who owns a document is seen to the end
         QObject::connect(&m_channel, &DialogChannel::closed, &window, &PrintWindow::reject);
     }
+    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     window.show();
     window.update(); // it may have been shown, and painted, while a panel was waiting

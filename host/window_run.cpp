@@ -98,6 +98,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         QObject::connect(new Settled(&window), &Settled::done, &window,
                          [&] { QApplication::exit(takePicture(&window, arguments.screenshot, err)); });
     });
+    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     window.show();
     window.update(); // it may have been shown, and painted, while a panel was waiting

@@ -5,13 +5,17 @@
 
 #include <QSettings>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
 
 const QString lastPrinterKey = QStringLiteral("lastPrinter");
+const QString recentPrintersKey = QStringLiteral("recentPrinters");
+constexpr qsizetype mostRecent = 5;
 
-}
+} // namespace
 
 QString Destination::displayName() const
 {
@@ -32,11 +36,24 @@ QString RememberedPrinter::name() const
     return QSettings().value(lastPrinterKey).toString();
 }
 
+QStringList RememberedPrinter::recent() const
+{
+    QStringList names = QSettings().value(recentPrintersKey).toStringList();
+    if (names.isEmpty() && !name().isEmpty())
+        names.append(name());
+    return names;
+}
+
 void RememberedPrinter::setName(const QString &name)
 {
+    QStringList names = recent();
+    if (!names.isEmpty() && names.first() == name && this->name() == name)
+        return;
+    names.removeAll(name);
+    names.prepend(name);
     QSettings settings;
-    if (settings.value(lastPrinterKey).toString() != name)
-        settings.setValue(lastPrinterKey, name);
+    settings.setValue(lastPrinterKey, name);
+    settings.setValue(recentPrintersKey, QStringList(names.first(std::min(names.size(), mostRecent))));
 }
 
 } // namespace host

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
 
 namespace host {
 
@@ -34,11 +35,12 @@ struct Destination
 // The queue and the instance of "queue/instance".
 std::pair<QString, QString> splitDestinationName(const QString &name);
 
-// Which printer was used last, kept in the user's settings file.
+// Which printers were used lately, kept in the user's settings file.
 class RememberedPrinter
 {
 public:
-    QString name() const; // empty when there is none
+    QString name() const;       // the last one; empty when there is none
+    QStringList recent() const; // the last few, the latest first
     void setName(const QString &name);
 };
 

@@ -5,9 +5,42 @@
 
 #include "host/printing/print_system.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace host {
+
+namespace {
+
+struct OpenText
+{
+    Q_DECLARE_TR_FUNCTIONS(OpenText)
+};
+
+std::optional<Destination> firstDestination(PrintSystem &system, const QString &usedLast, PrintError *error)
+{
+    PrintError gone;
+    if (!usedLast.isEmpty()) {
+        if (auto destination = system.destination(usedLast, &gone))
+            return destination;
+        if (gone.kind == PrintError::Kind::ServerAway) {
+            *error = gone;
+            return std::nullopt;
+        }
+    }
+    if (auto destination = system.destination(QString(), error))
+        return destination;
+    if (error->kind == PrintError::Kind::ServerAway)
+        return std::nullopt;
+    const auto all = system.destinations(error);
+    if (all && !all->isEmpty())
+        return all->first();
+    if (all)
+        *error = {PrintError::Kind::NoPrinters, OpenText::tr("No printer has been set up.")};
+    return std::nullopt;
+}
+
+} // namespace
 
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const PrinterWish &wish, PrintError *error)
 {
@@ -32,6 +65,12 @@ std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const Destination 
         return std::nullopt;
     }
     return opened;
+}
+
+std::optional<OpenedPrinter> openFirstPrinter(PrintSystem &system, const QString &usedLast, PrintError *error)
+{
+    const auto destination = firstDestination(system, usedLast, error);
+    return destination ? openPrinter(system, *destination, QString(), error) : std::nullopt;
 }
 
 } // namespace host

@@ -30,10 +30,21 @@ struct PrinterWish
     QString ppdFile; // stands in for the queue's own
 };
 
-// Both ask the print system, and block. Nil with an error when the destination or the PPD file cannot be had;
-// a queue whose PPD is broken is opened without one.
+// All of these ask the print system, and block. Nil with an error when the destination or the PPD file cannot
+// be had; a queue whose PPD is broken is opened without one.
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const PrinterWish &wish, PrintError *error);
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const Destination &destination,
                                          const QString &ppdFile, PrintError *error);
+// For a dialog that was not told which: the printer of that name, which was used last, else the server's
+// default, else the first there is.
+std::optional<OpenedPrinter> openFirstPrinter(PrintSystem &system, const QString &usedLast,
+                                              PrintError *error);
+
+// What came of opening a printer.
+struct PrinterOpening
+{
+    std::optional<OpenedPrinter> printer;
+    PrintError error; // when there is no printer
+};
 
 } // namespace host

@@ -81,27 +81,78 @@ int collectDestination(void *list, unsigned, cups_dest_t *record)
     return 1;
 }
 
-} // namespace
-
-PrintSystem::~PrintSystem() = default;
-
 // libcups does not tell a server that is away from one that has no printers.
-std::optional<PrintError> CupsPrintSystem::problemOfServer()
+std::optional<PrintError> problemOfServer(LoginKeeper *login)
 {
-    const Reply reply =
-        ServerConnection(&m_login).ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)), "/");
+    const Reply reply = ServerConnection(login).ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)), "/");
     const bool isThere = reply.succeeded() ||
                          (reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND);
     return isThere ? std::nullopt : std::optional(reply.error({}));
 }
 
+} // namespace
+
+PrintSystem::~PrintSystem() = default;
+
+// One call's own knowledge of who is logged in, which it gives back when it ends.
+class CupsPrintSystem::Visit
+{
+public:
+    explicit Visit(CupsPrintSystem *system) : m_system(system)
+    {
+        const std::lock_guard lock(system->m_loginMutex);
+        m_login = system->m_login;
+        if (m_login.prompt)
+            m_login.prompt = [system](const LoginQuestion &question) { return system->askOnce(question); };
+    }
+    ~Visit()
+    {
+        const std::lock_guard lock(m_system->m_loginMutex);
+        if (!m_login.accepted.isEmpty()) {
+            m_system->m_login.given = m_login.given;
+            m_system->m_login.accepted = m_login.accepted;
+        }
+    }
+    Visit(const Visit &) = delete;
+    Visit &operator=(const Visit &) = delete;
+    LoginKeeper *login() { return &m_login; }
+
+private:
+    CupsPrintSystem *m_system;
+    LoginKeeper m_login;
+};
+
+void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
+{
+    const std::lock_guard lock(m_loginMutex);
+    m_login.prompt = std::move(prompt);
+}
+
+// Who has answered one call need not answer the others that wait for it.
+std::optional<Login> CupsPrintSystem::askOnce(const LoginQuestion &question)
+{
+    const std::lock_guard asking(m_promptMutex);
+    LoginPrompt prompt;
+    {
+        const std::lock_guard lock(m_loginMutex);
+        if (!question.again && m_login.given)
+            return m_login.given;
+        prompt = m_login.prompt;
+    }
+    const auto login = prompt ? prompt(question) : std::nullopt;
+    const std::lock_guard lock(m_loginMutex);
+    m_login.given = login;
+    return login;
+}
+
 std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *error)
 {
     QList<Destination> list;
+    Visit visit(this);
     ServerConnection::askNobody();
     // The server's own queues; searching the network would take a second and is the server's business.
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collectDestination, &list);
-    if (const auto problem = list.isEmpty() ? problemOfServer() : std::nullopt) {
+    if (const auto problem = list.isEmpty() ? problemOfServer(visit.login()) : std::nullopt) {
         *error = *problem;
         return std::nullopt;
     }
@@ -111,7 +162,8 @@ std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *erro
 std::optional<Destination> CupsPrintSystem::destination(const QString &name, PrintError *error)
 {
     const auto [queue, instance] = splitDestinationName(name);
-    ServerConnection server(&m_login);
+    Visit visit(this);
+    ServerConnection server(visit.login());
     // libcups would search the network for a queue that the server does not know, and not say that the server
     // is away.
     std::optional<QueueFacts> facts;
@@ -139,7 +191,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         *error = name.isEmpty() ? noDefault() : onlyOpensDialog(destination);
         return std::nullopt;
     }
-    if (const auto problem = problemOfServer())
+    if (const auto problem = problemOfServer(visit.login()))
         *error = *problem;
     else if (name.isEmpty())
         *error = noDefault();
@@ -151,25 +203,28 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
 
 std::unique_ptr<PpdDocument> CupsPrintSystem::ppd(const Destination &destination, PrintError *error)
 {
-    ServerConnection server(&m_login);
+    Visit visit(this);
+    ServerConnection server(visit.login());
     const auto content = server.fetch(resourceOf(uriOf(destination)) + ".ppd", maxPpdSize, error);
     return content ? PpdDocument::ofQueue(destination.queue, *content, error) : nullptr;
 }
 
 Submission CupsPrintSystem::submit(const JobRequest &request, const SubmissionWatch &watch)
 {
-    return JobSubmitter(request, watch, &m_login).submit();
+    Visit visit(this);
+    return JobSubmitter(request, watch, visit.login()).submit();
 }
 
 JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
+    Visit visit(this);
     JobOnServer job;
-    JobLookup(&m_login, uriOf(destination)).byId(jobId, &job);
+    JobLookup(visit.login(), uriOf(destination)).byId(jobId, &job);
     if (job.status.state != JobStatus::State::Pending)
         return job.status;
     // Of a job that has not begun the server tells nothing about its printer.
     PrintError ignored;
-    ServerConnection server(&m_login);
+    ServerConnection server(visit.login());
     const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
     if (queue) {
         job.status.printerStopped |= queue->stopped;
@@ -177,6 +232,20 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
             job.status.message = reasonText(queue->stateReasons, queue->stateMessage);
     }
     return job.status;
+}
+
+std::optional<Destination> CupsPrintSystem::withState(const Destination &destination)
+{
+    Visit visit(this);
+    ServerConnection server(visit.login());
+    PrintError ignored;
+    const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
+    if (!queue)
+        return std::nullopt;
+    Destination now = destination;
+    now.accepting = queue->accepting;
+    now.stopped = queue->stopped;
+    return now;
 }
 
 } // namespace host

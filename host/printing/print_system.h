@@ -11,12 +11,13 @@
 #include <QList>
 
 #include <memory>
+#include <mutex>
 #include <optional>
 
 namespace host {
 
 // What the host asks of the print system. One object a program; every call is a request to the server and
-// blocks until it has answered. Errors are in plain words.
+// blocks until it has answered. May be called on several threads at once. Errors are in plain words.
 class PrintSystem
 {
 public:
@@ -31,6 +32,8 @@ public:
     // Sends a job and tells what became of it. A signal held by HeldSignals cancels it, as the watch can.
     virtual Submission submit(const JobRequest &request, const SubmissionWatch &watch) = 0;
     virtual JobStatus jobStatus(const Destination &destination, int jobId) = 0;
+    // The same destination with the state its queue has now, asked with one request; nil when nobody answers.
+    virtual std::optional<Destination> withState(const Destination &destination) = 0;
     // Who is asked where the server wants a user name and a password; nil means no. Without it such requests
     // are refused. One answer does for all.
     virtual void setLoginPrompt(LoginPrompt prompt) = 0;
@@ -47,11 +50,15 @@ public:
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
     Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
-    void setLoginPrompt(LoginPrompt prompt) override { m_login.prompt = std::move(prompt); }
+    std::optional<Destination> withState(const Destination &destination) override;
+    void setLoginPrompt(LoginPrompt prompt) override;
 
 private:
-    std::optional<PrintError> problemOfServer();
+    class Visit;
+    std::optional<Login> askOnce(const LoginQuestion &question);
 
+    std::mutex m_loginMutex;  // guards m_login
+    std::mutex m_promptMutex; // held while somebody is asked
     LoginKeeper m_login;
 };
 

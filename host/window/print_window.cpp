@@ -5,28 +5,25 @@
 
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
-#include "host/session/carry_over.h"
+#include "host/printing/job_follower.h"
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
+#include "host/window/dialog_waiter.h"
 #include "host/window/focus_ring.h"
 #include "host/window/foreign_text.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
-#include "host/window/startup_clock.h"
 #include "host/window/unavailable_page.h"
+#include "host/window/wait_sign.h"
+#include "host/window/waiting_page.h"
 #include "platform/key_value_object.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QIcon>
-#include <QLabel>
 #include <QShortcut>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace host {
 
@@ -34,29 +31,22 @@ namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int usualLines = 34;   // that the window is high where there is room for it
-
-// "“one.pdf”, “two.pdf”"; empty for the standard input.
-QString namesOf(const QStringList &files)
-{
-    QStringList names;
-    for (const QString &file : files) {
-        if (file != QLatin1String("-"))
-            names.append(PrintWindow::tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
-    }
-    return names.join(QStringLiteral(", "));
-}
+constexpr std::chrono::seconds betweenStates(5);
 
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
       m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
-      m_result(new ResultPage(this)), m_status(new QLabel(this)),
-      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
-      m_keys(new AccessKeys(this,
-                            {m_print, m_picker, m_cancel, m_book->pages(), m_unavailable, m_result, m_bar}))
+      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
+      m_print(new DialogButton(tr("&Print"), this)), m_waitSign(new WaitSign(this)),
+      m_waiting(new WaitingPage(this)),
+      m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
+                                   m_waiting, m_result, m_bar})),
+      m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter),
+      m_follower(new JobFollower(this))
 {
-    const QString documents = namesOf(m_task.files);
+    const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
     if (!m_task.acceptLabel.isEmpty())
@@ -65,6 +55,16 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     connectAll();
     showState(State::Unavailable);
     resize(720, qMax(600, usualLines * fontMetrics().height()));
+}
+
+QString PrintWindow::documentNames() const
+{
+    QStringList names;
+    for (const QString &file : m_task.files) {
+        if (file != QLatin1String("-"))
+            names.append(tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
+    }
+    return names.join(QStringLiteral(", "));
 }
 
 PrintWindow::~PrintWindow()
@@ -85,8 +85,16 @@ void PrintWindow::connectAll()
     });
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
+    connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
+    connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
+    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
+    connect(m_follower, &JobFollower::changed, m_result, &ResultPage::showStatus);
+    connect(&m_stateTimer, &QTimer::timeout, this, &PrintWindow::askState);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
-    connect(m_cancel, &QPushButton::clicked, this, [this] { m_submission ? accept() : reject(); });
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_waiter->giveUp();
+        m_submission ? accept() : reject();
+    });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this), &QShortcut::activated, this,
             [this] { m_book->turn(1); });
@@ -100,88 +108,17 @@ void PrintWindow::showState(State state)
     if (state != State::Choosing)
         m_bar->hide();
     m_unavailable->setVisible(state == State::Unavailable);
+    m_waiting->setVisible(state == State::Waiting || state == State::Sending);
     m_result->setVisible(state == State::Done);
-    m_picker->setEnabled(state != State::Done);
+    m_picker->setEnabled(state != State::Done && state != State::Sending);
+    if (state == State::Choosing)
+        m_stateTimer.start(betweenStates);
+    else
+        m_stateTimer.stop();
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
         m_print->setEnabled(false);
     arrange();
-}
-
-bool PrintWindow::open(PrintError *error)
-{
-    PrintError problem;
-    auto session = makeSession(m_task.printer, &problem);
-    if (!session) {
-        if (!m_task.ppdFile.isEmpty()) {
-            *error = problem;
-            return false;
-        }
-        showError(problem);
-        return true;
-    }
-    adopt(std::move(session));
-    const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
-    if (row < 0) {
-        *error = {PrintError::Kind::BadValue, tr("There is no pane called “%1”.").arg(m_task.firstPage)};
-        return false;
-    }
-    m_book->showPage(row);
-    // On the shown page, so that panels answer the settings as they answer the user's.
-    if (m_task.prepare && !m_task.prepare(m_session.get(), error))
-        return false;
-    m_book->refresh();
-    showNotices();
-    showConflicts();
-    return true;
-}
-
-std::optional<Destination> PrintWindow::firstDestination(PrintError *error)
-{
-    const QString remembered = RememberedPrinter().name();
-    PrintError ignored;
-    if (!remembered.isEmpty()) {
-        if (auto destination = m_system.destination(remembered, &ignored))
-            return destination;
-        if (ignored.kind == PrintError::Kind::ServerAway) {
-            *error = ignored;
-            return std::nullopt;
-        }
-    }
-    if (auto destination = m_system.destination(QString(), error))
-        return destination;
-    if (error->kind == PrintError::Kind::ServerAway)
-        return std::nullopt;
-    // No default has been set: the first one will do.
-    const auto all = m_system.destinations(error);
-    if (all && !all->isEmpty())
-        return all->first();
-    if (all)
-        *error = {PrintError::Kind::NoPrinters, tr("No printer has been set up.")};
-    return std::nullopt;
-}
-
-std::optional<OpenedPrinter> PrintWindow::openPrinterOfTask(const QString &printer, PrintError *error)
-{
-    if (!printer.isEmpty() || !m_task.ppdFile.isEmpty())
-        return openPrinter(m_system, {printer, m_task.ppdFile}, error);
-    const auto destination = firstDestination(error);
-    return destination ? openPrinter(m_system, *destination, QString(), error) : std::nullopt;
-}
-
-// A queue whose PPD is broken still prints, with what every printer can be asked.
-std::unique_ptr<DialogSession> PrintWindow::makeSession(const QString &printer, PrintError *error)
-{
-    auto opened = openPrinterOfTask(printer, error);
-    if (!opened)
-        return nullptr;
-    auto session = std::make_unique<DialogSession>(opened->destination, std::move(opened->ppd));
-    if (opened->ppdProblem)
-        session->addNotice(opened->ppdProblem.message);
-    session->loadPanels(m_extensions);
-    if (m_task.begin && !m_session)
-        m_task.begin(session.get());
-    return session;
 }
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
@@ -198,10 +135,16 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setFixedText(m_session->destination().displayName());
     showSession();
     showState(State::Choosing);
+    allowPrinting();
+    showNotices();
+}
+
+void PrintWindow::allowPrinting()
+{
+    const bool hasQueue = !m_session->destination().queue.isEmpty();
     m_print->setEnabled(hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty()));
     m_print->setToolTip(m_print->isEnabled() ? QString()
                                              : tr("There is no document or no printer to print it on"));
-    showNotices();
 }
 
 void PrintWindow::showSession()
@@ -311,44 +254,6 @@ void PrintWindow::answer(int index)
         showNotices();
 }
 
-void PrintWindow::pickPrinter(const QString &name)
-{
-    if (!m_session) { // the settings of the task are still to be made
-        m_task.printer = name;
-        reopen();
-        return;
-    }
-    PrintError error;
-    auto session = makeSession(name, &error);
-    if (!session) {
-        showError(error);
-        m_picker->setCurrent(m_session->destination());
-        return;
-    }
-    m_bar->hide();
-    m_askingConflict = false;
-    m_notices.clear();
-    m_toldGap.clear();
-    m_session->save(); // what the page that is shown has pending
-    const QString page = m_book->currentName();
-    m_book->clear(); // before the session, whose panels own views in it
-    const auto earlier = std::move(m_session);
-    adopt(std::move(session));
-    carryOver(*earlier, m_session.get());
-    m_book->showPage(std::max(m_book->pageNamed(page), 0));
-    showNotices();
-    showConflicts();
-}
-
-void PrintWindow::loadPrinterList()
-{
-    if (m_session && m_session->destination().queue.isEmpty())
-        return;
-    PrintError error;
-    if (const auto printers = m_system.destinations(&error))
-        m_picker->setPrinters(*printers);
-}
-
 void PrintWindow::finishLater()
 {
     loadPrinterList();
@@ -371,24 +276,6 @@ void PrintWindow::checkDocuments()
     }
 }
 
-// A printer that cannot do what the task asks for is not offered without it.
-void PrintWindow::reopen()
-{
-    PrintError error;
-    if (open(&error))
-        return;
-    m_book->clear();
-    m_session.reset();
-    m_notices.clear();
-    showError(error);
-}
-
-void PrintWindow::retry()
-{
-    reopen();
-    loadPrinterList();
-}
-
 void PrintWindow::showError(const PrintError &error)
 {
     m_askingConflict = false;
@@ -398,90 +285,6 @@ void PrintWindow::showError(const PrintError &error)
     }
     m_unavailable->setReason(error.message);
     showState(State::Unavailable);
-}
-
-void PrintWindow::showBusy(const QString &what)
-{
-    if (++m_busyDepth == 1)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    m_status->setText(what);
-    if (isVisible())
-        repaint(); // the next thing blocks
-    else
-        showPainted();
-}
-
-// Shows the window and returns when it can be seen, or when the screen takes too long about it.
-void PrintWindow::showPainted()
-{
-    QEventLoop untilPainted;
-    FirstPaint painted(this);
-    connect(&painted, &FirstPaint::done, &untilPainted, &QEventLoop::quit);
-    QTimer::singleShot(std::chrono::seconds(1), &untilPainted, &QEventLoop::quit);
-    show();
-    untilPainted.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-void PrintWindow::showIdle()
-{
-    if (--m_busyDepth > 0)
-        return;
-    QApplication::restoreOverrideCursor();
-    m_status->clear();
-}
-
-void PrintWindow::print()
-{
-    if (m_submission || !m_print->isEnabled())
-        return;
-    if (!m_book->checkTyped())
-        return;
-    m_session->save();
-    sessionChanged();
-    if (showConflicts()) {
-        m_bar->takeFocus();
-        return;
-    }
-    if (m_task.settingsOnly) {
-        RememberedPrinter().setName(m_session->destination().name());
-        accept();
-        return;
-    }
-    PrintError error;
-    if (!m_documents.open(m_task.files, nullptr, &error)) {
-        showError(error);
-        return;
-    }
-    showBusy(tr("Sending the document to the print server…"));
-    const QString title = m_task.title.isEmpty() ? m_documents.title() : m_task.title;
-    const HeldSignals held;
-    QList<Document> documents = m_documents.documents();
-    if (!m_task.documentName.isEmpty())
-        documents.first().name = m_task.documentName;
-    const Submission submission =
-        m_system.submit({m_session->destination(), documents, title, m_session->jobOptions()}, {});
-    showIdle();
-    if (submission.outcome == Submission::Outcome::Rejected) {
-        showError(submission.error);
-        return;
-    }
-    m_submission = submission;
-    RememberedPrinter().setName(m_session->destination().name());
-    showResult();
-}
-
-void PrintWindow::showResult()
-{
-    const Destination destination = m_session->destination();
-    m_result->showSubmission(
-        destination.displayName(), namesOf(m_task.files), *m_submission,
-        [this, destination] { return m_system.jobStatus(destination, m_submission->job.id); });
-    showState(State::Done);
-    m_cancel->setText(tr("&Close"));
-    m_cancel->setDefault(true);
-    m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
-    m_cancel->setAccessibleDescription(m_result->text());
-    m_cancel->setFocus();
 }
 
 } // namespace host

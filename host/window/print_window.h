@@ -7,25 +7,31 @@
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
 #include "host/session/extensions.h"
+#include "platform/awaited.h"
 
 #include <QDialog>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
 #include <optional>
 
 class QHBoxLayout;
-class QLabel;
 
 namespace host {
 
 class AccessKeys;
 class DialogButton;
+class DialogWaiter;
+class HeldSignals;
+class JobFollower;
 class MessageBar;
 class PageBook;
 class PrinterPicker;
 class ResultPage;
 class UnavailablePage;
+class WaitSign;
+class WaitingPage;
 
 // What the window is opened for. A value.
 struct PrintTask
@@ -47,7 +53,9 @@ struct PrintTask
 };
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
-// one and takes along what has been chosen. The print system and the extensions are borrowed and outlive it.
+// one and takes along what has been chosen. The print system and the extensions are borrowed; they outlive it
+// and everything that is under way beside its thread when it goes. Never waits on its thread: what takes its
+// time shows a page with a way out, or a sign in the footer.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -55,8 +63,9 @@ public:
     PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task);
     ~PrintWindow() override;
 
-    // Opens the first session. False with an error only when the task itself cannot be done, such as a
-    // setting that the printer does not have; a printer or server that is away is shown in the window.
+    // Opens the first session; where the print server takes its time, later. False with an error only when
+    // the task itself cannot be done, such as a setting that the printer does not have, and that is known at
+    // once; a printer or server that is away is shown in the window, as is all that is known later.
     bool open(PrintError *error);
     DialogSession *session() const { return m_session.get(); }
     // What became of the job; nil before there is one, and when it was not accepted.
@@ -70,6 +79,7 @@ public:
 
 public Q_SLOTS:
     void print();
+    void reject() override;
     void loadPrinterList();
     // Does what can wait until the user sees the window.
     void finishLater();
@@ -78,9 +88,11 @@ public Q_SLOTS:
 protected:
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
-    enum class State { Unavailable, Choosing, Done };
+    enum class State { Unavailable, Waiting, Choosing, Sending, Done };
+    struct Sending;
 
     void build();
     void connectAll();
@@ -89,10 +101,15 @@ private:
     void arrange();
     void fit();
     void setCompact(bool compact);
-    std::optional<Destination> firstDestination(PrintError *error);
-    std::optional<OpenedPrinter> openPrinterOfTask(const QString &printer, PrintError *error);
-    std::unique_ptr<DialogSession> makeSession(const QString &printer, PrintError *error);
+    // Opens a printer; the receiver gets it now, or while the window waits.
+    void openWished(const PrinterWish &wish, std::function<void(PrinterOpening)> receiver);
+    void showFirst(PrinterOpening opening);
+    void showPicked(PrinterOpening opening);
+    void stayWithPrinter();
+    void refuse(const PrintError &error);
+    std::unique_ptr<DialogSession> makeSession(OpenedPrinter opened);
     void adopt(std::unique_ptr<DialogSession> session);
+    void allowPrinting();
     bool showProtectionGap();
     void pickPrinter(const QString &name);
     void sessionChanged();
@@ -100,35 +117,53 @@ private:
     bool showConflicts();
     void recheckLater();
     void answer(int index);
-    void reopen();
     void checkDocuments();
     void showError(const PrintError &error);
     void showBusy(const QString &what);
     void showPainted();
     void showIdle();
+    void stopWaiting();
+    void askState();
+    void send();
+    void sent(Submission submission);
     void showResult();
+    QString documentNames() const;
 
     PrintSystem &m_system;
     Extensions &m_extensions;
     PrintTask m_task;
     std::unique_ptr<DialogSession> m_session;
-    DocumentList m_documents;
+    std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
     bool m_askingConflict = false;
     bool m_recheckQueued = false;
     QStringList m_notices; // not yet closed by the user
     QString m_toldGap;     // in the protection of the job
     std::optional<Resolution> m_proposal;
     std::optional<Submission> m_submission;
+    std::shared_ptr<Sending> m_sending;  // null unless a job is on its way
+    std::unique_ptr<HeldSignals> m_held; // while one is
+    bool m_isLeaving = false;            // once that job's end is known
+    PrintError *m_taskError = nullptr;   // while open() runs
+    platform::Awaited<PrinterOpening> m_opening;
+    platform::Awaited<std::optional<QList<Destination>>> m_listing;
+    platform::Awaited<std::optional<Destination>> m_stateQuestion;
+    platform::Awaited<Submission> m_submitting;
+    QTimer m_progressTimer;
+    QTimer m_stateTimer;
 
     PrinterPicker *m_picker;
     MessageBar *m_bar;
     PageBook *m_book;
     UnavailablePage *m_unavailable;
     ResultPage *m_result;
-    QLabel *m_status;
     DialogButton *m_cancel;
     DialogButton *m_print;
+    WaitSign *m_waitSign;
+    WaitingPage *m_waiting;
     AccessKeys *m_keys;
+    std::shared_ptr<DialogWaiter> m_waiter;
+    platform::Waiter::Scope m_waiterScope;
+    JobFollower *m_follower;
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
     QSize m_room; // null for what the screen has free

@@ -14,9 +14,10 @@
 #include "host/window/separator.h"
 #include "host/window/tab_order.h"
 #include "host/window/unavailable_page.h"
+#include "host/window/wait_sign.h"
+#include "host/window/waiting_page.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -40,12 +41,10 @@ QSize freeRoom(const QWidget *window)
 
 void PrintWindow::build()
 {
-    m_status->setTextFormat(Qt::PlainText);
-    m_status->setWordWrap(true);
     m_print->setDefault(true);
     m_footer = new QHBoxLayout;
     m_footer->setSpacing(10);
-    m_footer->addWidget(m_status, 1);
+    m_footer->addWidget(m_waitSign, 1);
     m_footer->addWidget(m_cancel);
     m_footer->addWidget(m_print);
     // Under the pages, where it moves nothing that the user is about to press.
@@ -57,7 +56,7 @@ void PrintWindow::build()
     column->setSpacing(0);
     column->addWidget(m_picker);
     column->addWidget(new Separator(Qt::Horizontal, this));
-    for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_result})
+    for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_waiting, m_result})
         column->addWidget(part, 1);
     column->addWidget(new Separator(Qt::Horizontal, this));
     column->addLayout(m_messages);
@@ -67,8 +66,8 @@ void PrintWindow::build()
 
 void PrintWindow::arrange()
 {
-    chainTabOrder(
-        {m_picker, m_book->list(), m_book->pages(), m_unavailable, m_result, m_bar, m_cancel, m_print});
+    chainTabOrder({m_picker, m_book->list(), m_book->pages(), m_unavailable, m_waiting, m_result, m_bar,
+                   m_waitSign, m_cancel, m_print});
     m_keys->assign();
     setCompact(height() < roomyLines * fontMetrics().height());
     fit();

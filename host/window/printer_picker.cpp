@@ -5,15 +5,17 @@
 
 #include "host/window/elided_label.h"
 #include "host/window/foreign_text.h"
+#include "host/window/printer_box.h"
+#include "host/window/printer_list.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 
 namespace host {
 
 PrinterPicker::PrinterPicker(QWidget *parent)
-    : QWidget(parent), m_box(new QComboBox(this)), m_state(new ElidedLabel(this))
+    : QWidget(parent), m_list(new PrinterList(this)), m_box(new PrinterBox(m_list, this)),
+      m_state(new ElidedLabel(this))
 {
     m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->setMinimumContentsLength(24);
@@ -40,7 +42,7 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->addWidget(m_state, 1, 1, 1, 2);
     grid->setColumnStretch(2, 1);
     connect(m_box, &QComboBox::activated, this, [this] {
-        const QString name = m_box->currentData().value<Destination>().name();
+        const QString name = m_list->at(m_box->currentIndex()).name();
         if (name != m_current)
             Q_EMIT picked(name);
     });
@@ -48,36 +50,42 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 
 void PrinterPicker::setPrinters(const QList<Destination> &printers)
 {
-    m_box->clear();
-    for (const Destination &printer : printers)
-        m_box->addItem(oneLine(printer.displayName()), QVariant::fromValue(printer));
-    m_box->setCurrentIndex(-1);
-    for (int i = 0; i < m_box->count(); ++i) {
-        if (m_box->itemData(i).value<Destination>().name() == m_current)
-            m_box->setCurrentIndex(i);
-    }
+    m_list->setPrinters(printers, RememberedPrinter().recent());
+    m_box->setCurrentIndex(m_list->rowOf(m_current));
+}
+
+QComboBox *PrinterPicker::box() const
+{
+    return m_box;
+}
+
+void PrinterPicker::putPrinter(const Destination &printer)
+{
+    m_list->put(printer);
+    if (printer.name() == m_current)
+        describe(printer);
 }
 
 void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
-    int index = -1;
-    for (int i = 0; i < m_box->count(); ++i) {
-        if (m_box->itemData(i).value<Destination>().name() == m_current)
-            index = i;
-    }
-    if (index < 0) {
-        m_box->addItem(oneLine(printer.displayName()), QVariant::fromValue(printer));
-        index = m_box->count() - 1;
-    }
-    m_box->setCurrentIndex(index);
+    m_box->setCurrentIndex(m_list->put(printer));
     describe(printer);
+}
+
+void PrinterPicker::setAwaited(const Destination &printer)
+{
+    m_current = printer.name();
+    m_box->setCurrentIndex(m_list->put(printer));
+    m_state->showText(QString());
 }
 
 void PrinterPicker::setFixedText(const QString &text)
 {
-    m_box->clear();
-    m_box->addItem(oneLine(text));
+    Destination fixed;
+    fixed.info = text;
+    m_list->setPrinters({fixed}, {});
+    m_box->setCurrentIndex(0);
     m_box->setEnabled(false);
     m_state->showText(tr("Options of a PPD file; there is no printer to print on"));
 }
@@ -90,18 +98,7 @@ void PrinterPicker::setCompact(bool compact)
 
 void PrinterPicker::describe(const Destination &printer)
 {
-    QStringList parts;
-    if (printer.stopped)
-        parts.append(tr("Stopped: jobs wait until it is started again"));
-    else if (!printer.accepting)
-        parts.append(tr("Not accepting jobs"));
-    else
-        parts.append(tr("Ready"));
-    if (!printer.location.isEmpty())
-        parts.append(printer.location);
-    if (!printer.makeAndModel.isEmpty())
-        parts.append(printer.makeAndModel);
-    const QString state = parts.join(QStringLiteral("  ·  "));
+    const QString state = printerStateText(printer);
     m_state->showText(state);
     m_box->setToolTip(tooltipOf(state));
     m_box->setAccessibleDescription(oneLine(state));

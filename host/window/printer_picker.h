@@ -12,10 +12,12 @@ class QComboBox;
 
 namespace host {
 
+class PrinterBox;
+class PrinterList;
 class ElidedLabel;
 
 // The list of printers and, below it, how the chosen one is. Shows the chosen one alone until it gets the
-// whole list.
+// whole list, which may grow while it is shown.
 class PrinterPicker : public QWidget
 {
     Q_OBJECT
@@ -23,13 +25,17 @@ public:
     explicit PrinterPicker(QWidget *parent = nullptr);
 
     void setPrinters(const QList<Destination> &printers);
+    // One more printer, or news of one that is there.
+    void putPrinter(const Destination &printer);
     // Shows a printer without announcing it; adds it where the list lacks it.
     void setCurrent(const Destination &printer);
+    // The name of a printer that has been asked for and is not known yet.
+    void setAwaited(const Destination &printer);
     // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
     void setFixedText(const QString &text);
+    QComboBox *box() const;
     // Leaves out how the printer is, for want of room.
     void setCompact(bool compact);
-    QComboBox *box() const { return m_box; }
 
 Q_SIGNALS:
     // The user chose another printer, by destination name.
@@ -38,7 +44,8 @@ Q_SIGNALS:
 private:
     void describe(const Destination &printer);
 
-    QComboBox *m_box;
+    PrinterList *m_list;
+    PrinterBox *m_box;
     ElidedLabel *m_state;
     QString m_current;
 };

@@ -10,14 +10,11 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <chrono>
-
 namespace host {
 
 namespace {
 
 constexpr int iconSize = 48; // pixels
-constexpr std::chrono::seconds between(1);
 
 StatusGlyph::Kind kindOf(const JobStatus &status)
 {
@@ -64,16 +61,13 @@ ResultPage::ResultPage(QWidget *parent)
     for (QLabel *label : {m_title, m_documents, m_state, m_notes})
         column->addWidget(label);
     column->addStretch(3);
-    m_timer.setInterval(between);
-    connect(&m_timer, &QTimer::timeout, this, [this] { showStatus(m_query()); });
 }
 
 void ResultPage::showSubmission(const QString &printer, const QString &documents,
-                                const Submission &submission, StatusQuery query)
+                                const Submission &submission)
 {
     const SubmittedJob &job = submission.job;
     m_printer = oneLine(printer);
-    m_query = std::move(query);
     m_id = job.id;
     m_documents->setText(wrappable(documents));
     m_documents->setVisible(!documents.isEmpty());
@@ -106,10 +100,6 @@ void ResultPage::showStatus(const JobStatus &status)
         m_state->setText(state);
         announce(this, text());
     }
-    if (status.isFinal())
-        m_timer.stop();
-    else if (!m_timer.isActive())
-        m_timer.start();
 }
 
 QString ResultPage::sentence(const JobStatus &status) const

@@ -5,10 +5,7 @@
 
 #include "host/printing/job.h"
 
-#include <QTimer>
 #include <QWidget>
-
-#include <functional>
 
 class QLabel;
 
@@ -22,17 +19,15 @@ class ResultPage : public QWidget
 {
     Q_OBJECT
 public:
-    using StatusQuery = std::function<JobStatus()>;
-
     explicit ResultPage(QWidget *parent = nullptr);
     // `documents` are their names, for the user; may be empty.
-    void showSubmission(const QString &printer, const QString &documents, const Submission &submission,
-                        StatusQuery query);
+    void showSubmission(const QString &printer, const QString &documents, const Submission &submission);
+    // News of the job.
+    void showStatus(const JobStatus &status);
     QString text() const;
 
 private:
     void showUnknown(const Submission &submission);
-    void showStatus(const JobStatus &status);
     QString sentence(const JobStatus &status) const;
 
     StatusGlyph *m_glyph;
@@ -40,8 +35,6 @@ private:
     QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
-    QTimer m_timer;
-    StatusQuery m_query;
     QString m_printer;
     int m_id = 0;
 };

@@ -77,6 +77,10 @@ public:
                                            host::PrintError *error) override;
     host::Submission submit(const host::JobRequest &request, const host::SubmissionWatch &) override;
     host::JobStatus jobStatus(const host::Destination &, int) override { return status; }
+    std::optional<host::Destination> withState(const host::Destination &destination) override
+    {
+        return destination;
+    }
     void setLoginPrompt(host::LoginPrompt) override {}
 
     QList<host::Destination> printers;

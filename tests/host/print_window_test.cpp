@@ -219,8 +219,10 @@ void PrintWindowTest::opensWithoutServer()
     QCOMPARE(page->reason(), u"the server is away"_s);
     QTest::mouseClick(page->retryButton(), Qt::LeftButton); // still away
     QVERIFY(page->isVisible());
+    waitForPrinters();
     m_system.serverError = {};
     QTest::mouseClick(page->retryButton(), Qt::LeftButton);
+    waitForPrinters();
     QVERIFY(window.session() && printButton()->isEnabled() && !page->isVisible());
     QCOMPARE(find<PrinterPicker>()->box()->count(), 3);
 }
@@ -321,7 +323,7 @@ void PrintWindowTest::waitingIsPaintedBeforeItBegins()
         QVERIFY(painted.count > 0); // nothing runs the event loop in between
         QVERIFY(window.grab().toImage() != before.toImage());
         busyPointer =
-            QGuiApplication::overrideCursor() && QGuiApplication::overrideCursor()->shape() == Qt::WaitCursor;
+            QGuiApplication::overrideCursor() && QGuiApplication::overrideCursor()->shape() == Qt::BusyCursor;
     };
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(panel));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/window/print_window.h"
+#include "platform/background.h"
 #include "tests/host/host_fixture.h"
 
 #include <QComboBox>
@@ -52,7 +53,14 @@ protected:
         m_window->loadPrinterList();
         if (!QTest::qWaitForWindowActive(m_window.get()))
             qFatal("the window does not appear");
+        waitForPrinters();
         return *m_window;
+    }
+    // The list of printers is asked for beside the window.
+    static void waitForPrinters()
+    {
+        QTRY_VERIFY(!platform::Background::isUnderWay());
+        QCoreApplication::processEvents();
     }
     template <typename W>
     W *find(const QString &name = QString())

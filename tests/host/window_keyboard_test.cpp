@@ -171,7 +171,7 @@ void WindowKeyboardTest::resultNamesEverything()
     QFETCH(const StatusGlyph::Kind, sign);
     ResultPage page;
     page.showSubmission(u"Attic"_s, u"“one.pdf”, “two.pdf”"_s,
-                        {Submission::Outcome::Accepted, {7, status, {}}, {}}, [status] { return status; });
+                        {Submission::Outcome::Accepted, {7, status, {}}, {}});
     QVERIFY2(page.text().contains(text) && page.text().contains(u"“one.pdf”, “two.pdf”"_s),
              qPrintable(page.text()));
     QCOMPARE(page.findChild<StatusGlyph *>()->kind(), sign);

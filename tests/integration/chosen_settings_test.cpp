@@ -132,12 +132,15 @@ PrintWindow &ChosenSettingsTest::open(const QString &printer, const QList<Chosen
     if (!m_window->open(&error))
         qFatal("%s", qPrintable(error.message));
     m_window->show();
+    if (!QTest::qWaitFor([this] { return m_window->session() != nullptr; }))
+        qFatal("the print server has not answered");
     return *m_window;
 }
 
 void ChosenSettingsTest::pick(const QString &printer)
 {
     Q_EMIT m_window->findChild<PrinterPicker *>()->picked(printer);
+    QTRY_COMPARE(m_window->session()->destination().queue, printer);
 }
 
 void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
@@ -156,7 +159,7 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
     QVERIFY2(!text.contains(u"12345"_s), qPrintable(text));
     pick(u"second"_s); // has it again
     window.print();
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     const auto job = printed();
     QVERIFY(job);
     for (const QString &option :
@@ -183,8 +186,8 @@ void ChosenSettingsTest::defaultThatAppearsLaterIsTold()
     PrintWindow &window = open(u"second"_s);
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"two-sided-long-edge"_s));
     window.print(); // as "Off", which is what its user sees
+    QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"one-sided"_s));
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     QVERIFY2(window.submission()->job.differences.join(u' ').contains(u"sides"_s),
              qPrintable(window.submission()->job.differences.join(u' ')));
 }
@@ -250,7 +253,7 @@ void ChosenSettingsTest::gapHoldsUpTheWindowOnce()
     QVERIFY2(window.messageBar()->text().contains(u"no code has been given"_s),
              qPrintable(window.messageBar()->text()));
     window.print();
-    QVERIFY(window.submission());
+    QTRY_VERIFY(window.submission());
 }
 
 void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()

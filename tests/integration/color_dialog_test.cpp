@@ -53,7 +53,7 @@ protected:
         const auto *label = event->type() == QEvent::Paint ? qobject_cast<QLabel *>(watched) : nullptr;
         const QCursor *cursor = QApplication::overrideCursor();
         if (label && label->text().startsWith(u"Asking the printer"_s) && cursor &&
-            cursor->shape() == Qt::WaitCursor && label->height() >= label->fontMetrics().height())
+            cursor->shape() == Qt::BusyCursor && label->height() >= label->fontMetrics().height())
             shown = true;
         return false;
     }
@@ -142,6 +142,8 @@ PrintWindow &ColorDialogTest::open(const Start &start)
     m_window->show();
     if (!QTest::qWaitForWindowActive(m_window.get()))
         qFatal("the window does not appear");
+    if (!QTest::qWaitFor([this] { return m_window->session() != nullptr; }))
+        qFatal("the print server has not answered");
     return *m_window;
 }
 
@@ -166,7 +168,7 @@ void ColorDialogTest::resolve(const QString &keyword, const QString &choice, con
 std::optional<CapturedJob> ColorDialogTest::printedJob()
 {
     m_window->print();
-    if (m_window->submission())
+    if (QTest::qWaitFor([this] { return m_window->submission().has_value(); }, 15000))
         return m_server.waitForJob(m_window->submission()->job.id);
     qWarning() << m_window->messageBar()->text();
     return std::nullopt;

@@ -127,6 +127,7 @@ void DialogPagesTest::everyPage()
     QVERIFY(m_window->open(&error));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QTRY_VERIFY(m_window->session());
     m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     m_window->print();

@@ -4,6 +4,7 @@
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
+#include "host/window/unavailable_page.h"
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
 
@@ -86,11 +87,12 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
     PrintError error;
     QVERIFY(window.open(&error));
     window.show();
-    QVERIFY(window.session()->panelCount() == 3);
+    QTRY_VERIFY(window.session() && window.session()->panelCount() == 3);
     QVERIFY(window.session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
 
     m_server.stop();
     window.print();
+    QTRY_VERIFY(window.messageBar()->isShowing());
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
     QVERIFY2(window.messageBar()->text().contains(u"cannot be reached"_s),
              qPrintable(window.messageBar()->text()));
@@ -98,7 +100,7 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
 
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     window.print();
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.messageBar()->text()), 15000);
     const auto job = m_server.waitForJob(window.submission()->job.id);
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
@@ -187,8 +189,9 @@ void JobEndTest::lostAnswerInTheWindow()
     PrintWindow window(system, none, task);
     PrintError error;
     QVERIFY(window.open(&error));
+    QTRY_VERIFY(window.session());
     window.print();
-    QVERIFY(window.submission());
+    QTRY_VERIFY_WITH_TIMEOUT(window.submission(), 20000);
     QCOMPARE(window.submission()->outcome, Submission::Outcome::Unknown);
     QVERIFY(window.findChild<ResultPage *>()->text().contains(u"look at the queue before printing again"_s));
     QVERIFY(m_server.waitForNextJob());
@@ -240,6 +243,7 @@ void JobEndTest::loginInTheWindow()
     {
         PrintWindow window(system, none, task); // nobody answers
         QVERIFY(window.open(&error));
+        QTRY_VERIFY(window.findChild<UnavailablePage *>()->isVisibleTo(&window));
         QVERIFY(!window.session()); // rather than one without the printer's settings
     }
     QList<bool> asked;
@@ -249,9 +253,9 @@ void JobEndTest::loginInTheWindow()
     });
     PrintWindow window(system, none, task);
     QVERIFY(window.open(&error));
-    QVERIFY(window.session() && window.session()->ppd());
+    QTRY_VERIFY(window.session() && window.session()->ppd());
     window.print();
-    QVERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.messageBar()->text()), 15000);
     QVERIFY(m_server.waitForJob(window.submission()->job.id));
     QCOMPARE(asked, QList<bool>({false, true})); // once, and once more after the wrong one
     cupsSetUser(nullptr);

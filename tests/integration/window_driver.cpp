@@ -6,6 +6,7 @@
 
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
+#include "platform/background.h"
 
 #include <QApplication>
 
@@ -28,7 +29,15 @@ int main(int argc, char **argv)
     if (!window.open(&error))
         return 2;
     window.show();
-    window.print();
+    const auto settle = [] { // until nothing is under way any more, and everybody has heard of it
+        while (platform::Background::isUnderWay())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        QCoreApplication::processEvents();
+    };
+    settle();
+    if (window.session())
+        window.print();
+    settle();
     const auto &submission = window.submission();
     std::printf("%s %d %s\n", submission ? qPrintable(submission->code()) : "rejected",
                 submission ? submission->job.id : 0, qPrintable(window.messageBar()->text()));

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/printing/job.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+namespace host {
+
+// Asks how a job is doing, beside the thread that it lives on, until the job has ended: every second at
+// first, every five seconds when the job takes longer, one request each time. A server that does not answer
+// is asked again.
+class JobFollower : public QObject
+{
+    Q_OBJECT
+public:
+    // Called on a thread of its own; blocks.
+    using Query = std::function<JobStatus()>;
+
+    explicit JobFollower(QObject *parent = nullptr);
+    void follow(Query query);
+    void stop();
+
+Q_SIGNALS:
+    void changed(const host::JobStatus &status);
+
+private:
+    void ask();
+    void answered(int round, const JobStatus &status);
+
+    QTimer m_next;
+    Query m_query;
+    int m_asked = 0;
+    int m_round = 0; // of follow(); answers to an earlier one are dropped
+};
+
+} // namespace host

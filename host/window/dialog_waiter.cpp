@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/dialog_waiter.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+#include <chrono>
+
+namespace host {
+
+namespace {
+
+// Less than this looks immediate; a sign of waiting would only flicker.
+constexpr std::chrono::milliseconds noticeable(80);
+// Posted to the waiter when the work that it waits for may have ended.
+const QEvent::Type wakeEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Widgets, windows of pop-ups, and shortcuts belong to what they have among their parents.
+bool isWithin(const QObject *object, const QObject *part)
+{
+    while (object && object != part)
+        object = object->parent();
+    return object && part;
+}
+
+// Tells an event loop to look again when a wake event arrives.
+class WakeTarget : public QObject
+{
+public:
+    explicit WakeTarget(QEventLoop *loop, std::function<bool()> done) : m_loop(loop), m_done(std::move(done))
+    {
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == wakeEvent && m_done())
+            m_loop->quit();
+        return false;
+    }
+
+private:
+    QEventLoop *m_loop;
+    std::function<bool()> m_done;
+};
+
+} // namespace
+
+DialogWaiter::DialogWaiter(QWidget *dialog) : m_dialog(dialog) {}
+
+DialogWaiter::~DialogWaiter() = default;
+
+void DialogWaiter::beginActivity()
+{
+    if (++m_activities == 1)
+        m_givenUp = m_noticed = false;
+}
+
+void DialogWaiter::endActivity()
+{
+    if (--m_activities == 0)
+        m_givenUp = m_noticed = false;
+}
+
+bool DialogWaiter::wait(const std::function<bool()> &ended)
+{
+    QEventLoop loop;
+    WakeTarget target(&loop, [&] { return ended() || m_givenUp; });
+    installEventFilter(&target);
+    if (m_depth++ == 0)
+        qApp->installEventFilter(this);
+    QTimer notice;
+    notice.setSingleShot(true);
+    connect(&notice, &QTimer::timeout, this, [this] {
+        if (!std::exchange(m_noticed, true))
+            Q_EMIT waitingNoticed();
+    });
+    notice.start(noticeable);
+    if (!ended() && !m_givenUp && loop.exec() != 0)
+        m_givenUp = true; // the program ends
+    if (--m_depth == 0)
+        qApp->removeEventFilter(this);
+    return ended();
+}
+
+void DialogWaiter::wake()
+{
+    QCoreApplication::postEvent(this, new QEvent(wakeEvent));
+}
+
+void DialogWaiter::giveUp()
+{
+    if (m_depth == 0)
+        return;
+    m_givenUp = true;
+    wake();
+}
+
+bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!isWithin(watched, m_dialog))
+        return false;
+    if (event->type() == QEvent::Close && watched == m_dialog) {
+        giveUp();
+        return false;
+    }
+    if (!isInput(event->type()))
+        return false;
+    const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
+    if (key && key->key() == Qt::Key_Escape) {
+        giveUp();
+        return true;
+    }
+    return std::none_of(m_openParts.begin(), m_openParts.end(),
+                        [watched](const QWidget *part) { return isWithin(watched, part); });
+}
+
+} // namespace host

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/background.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class QWidget;
+
+namespace host {
+
+// Keeps a dialog alive while something on its thread waits: it paints, scrolls its own way, can be moved and
+// closed. Input reaches nothing of the dialog but the widget that gives up; Escape and the window's close
+// button give up as well. Lives in a shared pointer, since work that was given up may still wake it.
+class DialogWaiter : public QObject, public platform::Waiter
+{
+    Q_OBJECT
+public:
+    explicit DialogWaiter(QWidget *dialog);
+    ~DialogWaiter() override;
+
+    // The parts of the dialog that input still reaches while it waits, such as the button to give up.
+    void setOpenParts(const QList<QWidget *> &parts) { m_openParts = parts; }
+    // An activity is everything that one wish of the user waits for. Giving up lasts until it is over. They
+    // nest; the outermost counts.
+    void beginActivity();
+    void endActivity();
+    bool isWaiting() const { return m_depth > 0; }
+
+    bool isGivenUp() const override { return m_givenUp; }
+    bool wait(const std::function<bool()> &ended) override;
+    void wake() override;
+
+public Q_SLOTS:
+    void giveUp();
+
+Q_SIGNALS:
+    // Once an activity, when the first of its calls has taken longer than a person notices.
+    void waitingNoticed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QPointer<QWidget> m_dialog;
+    QList<QWidget *> m_openParts; // the dialog's
+    int m_activities = 0;
+    int m_depth = 0; // of nested waits
+    bool m_givenUp = false;
+    bool m_noticed = false;
+};
+
+} // namespace host

@@ -1,0 +1,378 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the window asks of the print system, and how it passes the time until the answer.
+
+#include "host/printing/held_signals.h"
+#include "host/printing/job_follower.h"
+#include "host/session/carry_over.h"
+#include "host/window/dialog_button.h"
+#include "host/window/dialog_waiter.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "host/window/result_page.h"
+#include "host/window/startup_clock.h"
+#include "host/window/wait_sign.h"
+#include "host/window/waiting_page.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+
+namespace host {
+
+namespace {
+
+// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
+constexpr std::chrono::milliseconds nearServer(50);
+constexpr std::chrono::milliseconds betweenProgress(100);
+
+PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QString &usedLast)
+{
+    PrinterOpening opening;
+    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
+    opening.printer = isAnyone ? openFirstPrinter(system, usedLast, &opening.error)
+                               : openPrinter(system, wish, &opening.error);
+    return opening;
+}
+
+} // namespace
+
+// What a submission and the window that waits for it share.
+struct PrintWindow::Sending
+{
+    std::atomic<qint64> sent{0};
+    std::atomic<qint64> total{0}; // bytes
+    std::atomic<bool> isCancelled{false};
+    std::shared_ptr<DocumentList> documents; // the work's until it has ended
+    JobRequest request;
+};
+
+bool PrintWindow::open(PrintError *error)
+{
+    m_taskError = error;
+    openWished({m_task.printer, m_task.ppdFile},
+               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+    return !std::exchange(m_taskError, nullptr) || !*error;
+}
+
+void PrintWindow::openWished(const PrinterWish &wish, std::function<void(PrinterOpening)> receiver)
+{
+    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
+    const QString usedLast = isAnyone ? RememberedPrinter().name() : QString();
+    m_opening.start(
+        this, [&system = m_system, wish, usedLast] { return openAny(system, wish, usedLast); },
+        std::move(receiver));
+    if (m_opening.deliverWithin(nearServer))
+        return;
+    if (!m_session) {
+        Destination awaited;
+        awaited.queue = wish.printer.isEmpty() ? usedLast : wish.printer;
+        if (!awaited.queue.isEmpty())
+            m_picker->setAwaited(awaited);
+    }
+    m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
+    showState(State::Waiting);
+}
+
+// A printer that cannot do what the task asks for is not offered without it.
+void PrintWindow::refuse(const PrintError &error)
+{
+    if (m_taskError) {
+        *m_taskError = error;
+        return;
+    }
+    m_book->clear();
+    m_session.reset();
+    m_notices.clear();
+    showError(error);
+}
+
+void PrintWindow::showFirst(PrinterOpening opening)
+{
+    if (!opening.printer) {
+        if (m_task.ppdFile.isEmpty())
+            showError(opening.error);
+        else
+            refuse(opening.error);
+        return;
+    }
+    adopt(makeSession(std::move(*opening.printer)));
+    const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
+    if (row < 0) {
+        refuse({PrintError::Kind::BadValue, tr("There is no pane called “%1”.").arg(m_task.firstPage)});
+        return;
+    }
+    m_book->showPage(row);
+    // On the shown page, so that panels answer the settings as they answer the user's.
+    PrintError problem;
+    if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
+        refuse(problem);
+        return;
+    }
+    m_book->refresh();
+    showNotices();
+    showConflicts();
+}
+
+// A queue whose PPD is broken still prints, with what every printer can be asked.
+std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
+{
+    auto session = std::make_unique<DialogSession>(opened.destination, std::move(opened.ppd));
+    if (opened.ppdProblem)
+        session->addNotice(opened.ppdProblem.message);
+    session->loadPanels(m_extensions);
+    if (m_task.begin && !m_session)
+        m_task.begin(session.get());
+    return session;
+}
+
+void PrintWindow::pickPrinter(const QString &name)
+{
+    if (!m_session) { // the settings of the task are still to be made
+        m_task.printer = name;
+        openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+        return;
+    }
+    m_session->save(); // what the page that is shown has pending
+    openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showPicked(std::move(opening)); });
+}
+
+void PrintWindow::showPicked(PrinterOpening opening)
+{
+    if (!opening.printer) {
+        stayWithPrinter();
+        showError(opening.error);
+        return;
+    }
+    auto session = makeSession(std::move(*opening.printer));
+    m_bar->hide();
+    m_askingConflict = false;
+    m_notices.clear();
+    m_toldGap.clear();
+    const QString page = m_book->currentName();
+    m_book->clear(); // before the session, whose panels own views in it
+    const auto earlier = std::move(m_session);
+    adopt(std::move(session));
+    carryOver(*earlier, m_session.get());
+    m_book->showPage(std::max(m_book->pageNamed(page), 0));
+    showNotices();
+    showConflicts();
+}
+
+void PrintWindow::stayWithPrinter()
+{
+    m_picker->setCurrent(m_session->destination());
+    showState(State::Choosing);
+    allowPrinting();
+}
+
+void PrintWindow::retry()
+{
+    openWished({m_task.printer, m_task.ppdFile},
+               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+    loadPrinterList();
+}
+
+void PrintWindow::stopWaiting()
+{
+    if (m_sending) {
+        m_sending->isCancelled = true;
+        m_waiting->setCancelling(tr("Canceling the job…"));
+        return;
+    }
+    m_opening.drop();
+    if (m_session)
+        stayWithPrinter();
+    else
+        showError({PrintError::Kind::ServerAway, tr("The print server has not answered yet.")});
+}
+
+void PrintWindow::loadPrinterList()
+{
+    if (m_session && m_session->destination().queue.isEmpty())
+        return;
+    using List = std::optional<QList<Destination>>;
+    m_listing.start(
+        this,
+        [&system = m_system] {
+            PrintError ignored;
+            return system.destinations(&ignored);
+        },
+        [this](const List &printers) {
+            if (printers)
+                m_picker->setPrinters(*printers);
+        });
+}
+
+void PrintWindow::askState()
+{
+    if (!m_session || m_session->destination().queue.isEmpty() || m_stateQuestion.isPending())
+        return;
+    m_stateQuestion.start(
+        this,
+        [&system = m_system, destination = m_session->destination()] {
+            return system.withState(destination);
+        },
+        [this](const std::optional<Destination> &now) {
+            if (now)
+                m_picker->putPrinter(*now);
+        });
+}
+
+void PrintWindow::showBusy(const QString &what)
+{
+    if (m_busyDepth++ > 0)
+        return;
+    m_waiter->beginActivity();
+    m_waiter->setOpenParts({m_waitSign, m_cancel});
+    m_waitSign->begin(what);
+    if (isVisible())
+        repaint();
+    else
+        showPainted();
+}
+
+// Shows the window and returns when it can be seen, or when the screen takes too long about it.
+void PrintWindow::showPainted()
+{
+    QEventLoop untilPainted;
+    FirstPaint painted(this);
+    connect(&painted, &FirstPaint::done, &untilPainted, &QEventLoop::quit);
+    QTimer::singleShot(std::chrono::seconds(1), &untilPainted, &QEventLoop::quit);
+    show();
+    untilPainted.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void PrintWindow::showIdle()
+{
+    if (--m_busyDepth > 0)
+        return;
+    m_waiter->endActivity();
+    m_waitSign->end();
+}
+
+void PrintWindow::print()
+{
+    if (m_submission || m_sending || !m_print->isEnabled() || m_book->isHidden())
+        return;
+    if (!m_book->checkTyped())
+        return;
+    m_session->save();
+    sessionChanged();
+    if (showConflicts()) {
+        m_bar->takeFocus();
+        return;
+    }
+    if (m_task.settingsOnly) {
+        RememberedPrinter().setName(m_session->destination().name());
+        accept();
+        return;
+    }
+    send();
+}
+
+void PrintWindow::send()
+{
+    m_held = std::make_unique<HeldSignals>();
+    m_sending = std::make_shared<Sending>();
+    m_sending->documents = m_documents;
+    m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
+    auto work = [&system = m_system, sending = m_sending, files = m_task.files,
+                 name = m_task.documentName]() -> Submission {
+        Submission failed;
+        if (!sending->documents->open(files, nullptr, &failed.error))
+            return failed;
+        JobRequest &request = sending->request;
+        request.documents = sending->documents->documents();
+        if (request.title.isEmpty())
+            request.title = sending->documents->title();
+        if (!name.isEmpty())
+            request.documents.first().name = name;
+        const auto progress = [&](qint64 sent, qint64 total) {
+            sending->sent = sent;
+            sending->total = total;
+        };
+        return system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+    };
+    m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
+    if (m_submitting.deliverWithin(nearServer))
+        return;
+    m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    showState(State::Sending);
+    m_waiting->cancelButton()->setFocus();
+    m_progressTimer.callOnTimeout(this, [this] {
+        if (m_sending)
+            m_waiting->setProgress(m_sending->sent, m_sending->total);
+    });
+    m_progressTimer.start(betweenProgress);
+}
+
+void PrintWindow::sent(Submission submission)
+{
+    m_progressTimer.stop();
+    m_sending.reset();
+    const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
+    if (!isRejected) {
+        m_submission = std::move(submission);
+        RememberedPrinter().setName(m_session->destination().name());
+    }
+    if (m_isLeaving) {
+        done(isRejected ? Rejected : Accepted);
+        m_held.reset();
+        return;
+    }
+    m_held.reset();
+    if (isRejected) {
+        showState(State::Choosing);
+        allowPrinting();
+        showError(submission.error);
+        return;
+    }
+    showResult();
+}
+
+void PrintWindow::showResult()
+{
+    const Destination destination = m_session->destination();
+    m_result->showSubmission(destination.displayName(), documentNames(), *m_submission);
+    if (m_submission->isAccepted() && !m_submission->job.status.isFinal())
+        m_follower->follow([&system = m_system, destination, id = m_submission->job.id] {
+            return system.jobStatus(destination, id);
+        });
+    showState(State::Done);
+    m_cancel->setText(tr("&Close"));
+    m_cancel->setDefault(true);
+    m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
+    m_cancel->setAccessibleDescription(m_result->text());
+    m_cancel->setFocus();
+}
+
+// Escape and Cancel end the sending, not the dialog.
+void PrintWindow::reject()
+{
+    if (m_sending)
+        stopWaiting();
+    else
+        QDialog::reject();
+}
+
+// Whoever closes the window does not wait for it: the job is cancelled, and its end is seen to unseen.
+void PrintWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_sending) {
+        QDialog::closeEvent(event);
+        return;
+    }
+    m_isLeaving = true;
+    stopWaiting();
+    event->accept();
+}
+
+} // namespace host

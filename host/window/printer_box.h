@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QComboBox>
+
+class QLineEdit;
+class QListView;
+
+namespace host {
+
+class PrinterList;
+class PrinterSearch;
+
+// A pop-up of printers whose list can be searched: typing narrows it to the printers that have every word.
+// Two lines for each: its name, and how it is and where. The list belongs to somebody else and outlives it.
+class PrinterBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    explicit PrinterBox(PrinterList *list, QWidget *parent = nullptr);
+
+    void showPopup() override;
+    void hidePopup() override;
+    QLineEdit *searchField() const { return m_search; }
+    QListView *listView() const { return m_view; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *makePopup();
+    void choose(const QModelIndex &index);
+    void narrow(const QString &text);
+
+    PrinterSearch *m_found;
+    QLineEdit *m_search = nullptr; // made with the pop-up, when it is first opened
+    QListView *m_view = nullptr;
+    QWidget *m_popup = nullptr;
+};
+
+} // namespace host

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/printer_list.h"
+
+#include "host/window/foreign_text.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct PrinterText
+{
+    Q_DECLARE_TR_FUNCTIONS(PrinterText)
+};
+
+} // namespace
+
+void PrinterList::setPrinters(QList<Destination> printers, const QStringList &recent)
+{
+    const auto rank = [&](const Destination &printer) {
+        const qsizetype place = recent.indexOf(printer.name());
+        return place < 0 ? recent.size() : place;
+    };
+    std::stable_sort(printers.begin(), printers.end(),
+                     [&](const Destination &a, const Destination &b) { return rank(a) < rank(b); });
+    beginResetModel();
+    m_printers = std::move(printers);
+    endResetModel();
+}
+
+int PrinterList::put(const Destination &printer)
+{
+    int row = rowOf(printer.name());
+    if (row >= 0) {
+        m_printers[row] = printer;
+        Q_EMIT dataChanged(index(row), index(row));
+        return row;
+    }
+    row = rowCount();
+    beginInsertRows({}, row, row);
+    m_printers.append(printer);
+    endInsertRows();
+    return row;
+}
+
+int PrinterList::rowOf(const QString &name) const
+{
+    const auto found = std::find_if(m_printers.begin(), m_printers.end(),
+                                    [&](const Destination &printer) { return printer.name() == name; });
+    return found == m_printers.end() ? -1 : static_cast<int>(found - m_printers.begin());
+}
+
+int PrinterList::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_printers.size());
+}
+
+QVariant PrinterList::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_printers.size())
+        return {};
+    const Destination &printer = m_printers.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return oneLine(printer.displayName());
+    case DestinationRole:
+        return QVariant::fromValue(printer);
+    case DetailRole:
+        return oneLine(printerStateText(printer));
+    case SearchRole:
+        return QStringList{printer.name(), printer.info, printer.location, printer.makeAndModel}
+            .join(QLatin1Char('\n'))
+            .toLower();
+    default:
+        return {};
+    }
+}
+
+QString printerStateText(const Destination &printer)
+{
+    QStringList parts;
+    if (printer.stopped)
+        parts.append(PrinterText::tr("Stopped: jobs wait until it is started again"));
+    else if (!printer.accepting)
+        parts.append(PrinterText::tr("Not accepting jobs"));
+    else
+        parts.append(PrinterText::tr("Ready"));
+    if (!printer.location.isEmpty())
+        parts.append(printer.location);
+    if (!printer.makeAndModel.isEmpty())
+        parts.append(printer.makeAndModel);
+    return parts.join(QStringLiteral("  ·  "));
+}
+
+void PrinterSearch::setWords(const QString &text)
+{
+    m_words = text.toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    invalidateFilter();
+}
+
+bool PrinterSearch::filterAcceptsRow(int row, const QModelIndex &parent) const
+{
+    const QString text = sourceModel()->index(row, 0, parent).data(PrinterList::SearchRole).toString();
+    return std::all_of(m_words.begin(), m_words.end(),
+                       [&](const QString &word) { return text.contains(word); });
+}
+
+} // namespace host

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/printing/destination.h"
+
+#include <QAbstractListModel>
+#include <QSortFilterProxyModel>
+
+namespace host {
+
+// The printers to choose from, those used lately first. Rows are added as they are found.
+class PrinterList : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    enum Role {
+        DestinationRole = Qt::UserRole,
+        DetailRole, // state and place, one line
+        SearchRole  // all that a search looks at, in lower case
+    };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    // Replaces everything. `recent` are destination names, the latest first.
+    void setPrinters(QList<Destination> printers, const QStringList &recent);
+    // Adds a printer, or brings the one of this name up to what it is now. Its row.
+    int put(const Destination &printer);
+    int rowOf(const QString &name) const; // -1 when there is none
+    Destination at(int row) const { return m_printers.value(row); }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    QList<Destination> m_printers;
+};
+
+// How a printer is and where it stands, in words: "Ready · Room 655".
+QString printerStateText(const Destination &printer);
+
+// Those rows of a printer list that hold every word of a search, in any order and any of name, description,
+// place and model.
+class PrinterSearch : public QSortFilterProxyModel
+{
+    Q_OBJECT
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+    void setWords(const QString &text);
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
+
+private:
+    QStringList m_words;
+};
+
+} // namespace host

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/wait_sign.h"
+
+#include "host/window/dialog_button.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+
+namespace host {
+
+namespace {
+
+constexpr int barWidth = 72; // pixels
+
+}
+
+WaitSign::WaitSign(QWidget *parent)
+    : QWidget(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
+      m_stop(new DialogButton(tr("Do &Not Wait"), this))
+{
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_bar->setRange(0, 0); // moves without telling how far
+    m_bar->setTextVisible(false);
+    m_bar->setFixedWidth(barWidth);
+    m_bar->setAccessibleName(tr("Progress"));
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(10);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_bar);
+    row->addWidget(m_stop);
+    m_bar->hide();
+    m_stop->hide();
+    connect(m_stop, &QPushButton::clicked, this, &WaitSign::stopped);
+}
+
+void WaitSign::begin(const QString &what)
+{
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    m_text->setText(what);
+}
+
+void WaitSign::offerStop()
+{
+    m_bar->show();
+    m_stop->show();
+}
+
+void WaitSign::end()
+{
+    QApplication::restoreOverrideCursor();
+    m_text->clear();
+    m_bar->hide();
+    m_stop->hide();
+}
+
+} // namespace host

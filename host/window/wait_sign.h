@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+
+namespace host {
+
+class DialogButton;
+
+// In the footer: what the dialog waits for right now, and once that takes longer, something that moves and a
+// button not to wait. Shows nothing else.
+class WaitSign : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit WaitSign(QWidget *parent = nullptr);
+    void begin(const QString &what);
+    void end();
+
+public Q_SLOTS:
+    void offerStop();
+
+Q_SIGNALS:
+    void stopped();
+
+private:
+    QLabel *m_text;
+    QProgressBar *m_bar;
+    DialogButton *m_stop;
+};
+
+} // namespace host

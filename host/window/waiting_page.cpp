@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/waiting_page.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr int barWidth = 260; // pixels
+constexpr int steps = 1000;   // of the bar, so that files of any size fit its numbers
+
+QLabel *centredLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+WaitingPage::WaitingPage(QWidget *parent)
+    : QWidget(parent), m_text(centredLabel(this)), m_amount(centredLabel(this)),
+      m_bar(new QProgressBar(this)), m_cancel(new QPushButton(this))
+{
+    QFont large = m_text->font();
+    large.setPointSizeF(large.pointSizeF() * 1.2);
+    m_text->setFont(large);
+    m_bar->setTextVisible(false);
+    m_bar->setFixedWidth(barWidth);
+    m_bar->setAccessibleName(tr("Progress"));
+    m_cancel->setAutoDefault(false);
+    m_cancel->setMinimumWidth(96);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(60, 24, 60, 24);
+    column->setSpacing(16);
+    column->addStretch(2);
+    column->addWidget(m_text);
+    column->addWidget(m_bar, 0, Qt::AlignHCenter);
+    column->addWidget(m_amount);
+    column->addWidget(m_cancel, 0, Qt::AlignHCenter);
+    column->addStretch(3);
+    connect(m_cancel, &QPushButton::clicked, this, &WaitingPage::cancelled);
+}
+
+void WaitingPage::setTask(const QString &text, const QString &cancel)
+{
+    m_text->setText(text);
+    m_cancel->setText(cancel);
+    m_cancel->setEnabled(true);
+    setAccessibleName(text);
+    setProgress(0, 0);
+}
+
+void WaitingPage::setProgress(qint64 done, qint64 total)
+{
+    const bool known = total > 0;
+    m_bar->setRange(0, known ? steps : 0);
+    m_bar->setValue(
+        known ? static_cast<int>(
+                    std::clamp<double>(static_cast<double>(done) / static_cast<double>(total), 0, 1) * steps)
+              : -1);
+    m_amount->setText(known ? tr("%1 of %2", "an amount of data, of the whole")
+                                  .arg(QLocale().formattedDataSize(done), QLocale().formattedDataSize(total))
+                            : QString());
+}
+
+void WaitingPage::setCancelling(const QString &text)
+{
+    m_text->setText(text);
+    setAccessibleName(text);
+    m_cancel->setEnabled(false);
+}
+
+QString WaitingPage::text() const
+{
+    return m_text->text();
+}
+
+} // namespace host

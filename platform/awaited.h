@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "platform/background.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <utility>
+
+namespace platform {
+
+// The result of work beside this thread, for one receiver. Only the work that was started last counts: what
+// an earlier one brings is dropped, whenever it comes. Belongs to one thread, as its context does.
+template <typename Result>
+class Awaited
+{
+public:
+    using Receiver = std::function<void(Result)>;
+
+    // `receiver` is called once, by the event loop of this thread or by deliverWithin(), unless the context
+    // or this object has gone. The work owns what it touches.
+    void start(QObject *context, std::function<Result()> work, Receiver receiver)
+    {
+        auto pending = std::make_shared<Pending>();
+        pending->receiver = std::move(receiver);
+        *m_latest = pending;
+        Background::start(
+            [pending, work = std::move(work)] {
+                Result result = work();
+                const std::lock_guard lock(pending->mutex);
+                pending->result.emplace(std::move(result));
+                pending->changed.notify_all();
+            },
+            context, [pending, latest = std::weak_ptr(m_latest)] { deliver(pending, latest.lock()); });
+    }
+    // Blocks for the result, but no longer than this. True when the receiver has been called.
+    bool deliverWithin(std::chrono::milliseconds time)
+    {
+        const std::shared_ptr<Pending> pending = *m_latest;
+        if (!pending)
+            return false;
+        {
+            std::unique_lock lock(pending->mutex);
+            if (!pending->changed.wait_for(lock, time, [&] { return pending->result.has_value(); }))
+                return false;
+        }
+        deliver(pending, m_latest);
+        return true;
+    }
+    // Nobody waits any more.
+    void drop() { m_latest->reset(); }
+    bool isPending() const { return *m_latest != nullptr; }
+
+private:
+    struct Pending
+    {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::optional<Result> result; // guarded
+        Receiver receiver;            // of the awaiting thread
+    };
+    static void deliver(const std::shared_ptr<Pending> &pending,
+                        const std::shared_ptr<std::shared_ptr<Pending>> &latest)
+    {
+        if (!latest || *latest != pending)
+            return;
+        latest->reset();
+        pending->receiver(std::move(*pending->result));
+    }
+
+    std::shared_ptr<std::shared_ptr<Pending>> m_latest = std::make_shared<std::shared_ptr<Pending>>();
+};
+
+} // namespace platform

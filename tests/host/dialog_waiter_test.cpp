@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/dialog_waiter.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace host;
+
+class DialogWaiterTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void keepsInputFromTheDialog();
+    void givesUp_data();
+    void givesUp();
+    void startsAfreshWithTheNextActivity();
+
+private:
+    // Waits for `m_release`, while `meanwhile` runs in the event loop.
+    bool waitWhile(const std::function<void()> &meanwhile);
+
+    std::unique_ptr<QDialog> m_dialog;
+    QLineEdit *m_field = nullptr;
+    QPushButton *m_giveUp = nullptr;
+    std::shared_ptr<DialogWaiter> m_waiter;
+    std::shared_ptr<QSemaphore> m_release;
+};
+
+void DialogWaiterTest::init()
+{
+    m_dialog = std::make_unique<QDialog>();
+    m_field = new QLineEdit(m_dialog.get());
+    m_giveUp = new QPushButton(QStringLiteral("Do not wait"), m_dialog.get());
+    m_giveUp->move(0, 40);
+    m_dialog->show();
+    m_field->setFocus();
+    m_waiter = std::make_shared<DialogWaiter>(m_dialog.get());
+    m_waiter->setOpenParts({m_giveUp});
+    connect(m_giveUp, &QPushButton::clicked, m_waiter.get(), &DialogWaiter::giveUp);
+    m_release = std::make_shared<QSemaphore>();
+}
+
+void DialogWaiterTest::cleanup()
+{
+    m_release->release(10);
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+}
+
+bool DialogWaiterTest::waitWhile(const std::function<void()> &meanwhile)
+{
+    const platform::Waiter::Scope scope(m_waiter);
+    QTimer::singleShot(0, m_dialog.get(), meanwhile);
+    return platform::Background::call([release = m_release] { release->acquire(); });
+}
+
+void DialogWaiterTest::keepsInputFromTheDialog()
+{
+    QSignalSpy noticed(m_waiter.get(), &DialogWaiter::waitingNoticed);
+    QVERIFY(waitWhile([&] {
+        QTest::keyClick(m_field, Qt::Key_X);
+        QTest::keyClick(m_dialog.get(), Qt::Key_Return);
+        QVERIFY(noticed.wait());
+        m_release->release();
+    }));
+    QVERIFY(m_field->text().isEmpty());
+    QVERIFY(m_dialog->isVisible());
+    QTest::keyClick(m_field, Qt::Key_X);
+    QCOMPARE(m_field->text(), QStringLiteral("x"));
+}
+
+void DialogWaiterTest::givesUp_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("button") << 0;
+    QTest::newRow("escape") << 1;
+    QTest::newRow("close") << 2;
+}
+
+void DialogWaiterTest::givesUp()
+{
+    QFETCH(int, way);
+    QVERIFY(!waitWhile([&] {
+        if (way == 0)
+            QTest::mouseClick(m_giveUp, Qt::LeftButton);
+        else if (way == 1)
+            QTest::keyClick(m_field, Qt::Key_Escape);
+        else
+            m_dialog->close();
+    }));
+    QCOMPARE(m_dialog->isVisible(), way != 2);
+}
+
+void DialogWaiterTest::startsAfreshWithTheNextActivity()
+{
+    m_waiter->beginActivity();
+    QVERIFY(!waitWhile([&] { m_waiter->giveUp(); }));
+    QVERIFY(m_waiter->isGivenUp());
+    m_waiter->endActivity();
+    m_release->release();
+    m_waiter->beginActivity();
+    QVERIFY(waitWhile([&] { m_release->release(); }));
+    m_waiter->endActivity();
+}
+
+QTEST_MAIN(DialogWaiterTest)
+#include "dialog_waiter_test.moc"

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/printer_box.h"
+#include "host/window/printer_list.h"
+#include "tests/host/host_fixture.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace host;
+
+class PrinterBoxTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void findsEveryWordAnywhere();
+    void putsRecentOnesFirst();
+    void staysQuickWithManyPrinters();
+
+private:
+    static QList<Destination> building()
+    {
+        QList<Destination> printers;
+        for (int i = 0; i < 700; ++i) {
+            Destination printer = officePrinter(QStringLiteral("q%1").arg(i));
+            printer.info = QStringLiteral("Copier %1").arg(i);
+            printer.location = QStringLiteral("Floor %1, Room %2").arg(i / 100).arg(i);
+            printers.append(printer);
+        }
+        return printers;
+    }
+};
+
+void PrinterBoxTest::findsEveryWordAnywhere()
+{
+    PrinterList list;
+    list.setPrinters(building(), {});
+    PrinterBox box(&list);
+    box.show();
+    QSignalSpy activated(&box, &QComboBox::activated);
+    box.showPopup();
+    QTest::keyClicks(box.searchField(), QStringLiteral("room 655"));
+    QCOMPARE(box.listView()->model()->rowCount(), 1);
+    QTest::keyClicks(box.searchField(), QStringLiteral(" q655 COPIER"));
+    QTest::keyClick(box.searchField(), Qt::Key_Return);
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(list.at(box.currentIndex()).queue, QStringLiteral("q655"));
+    QVERIFY(!box.searchField()->isVisible());
+
+    box.showPopup();
+    QVERIFY(box.searchField()->text().isEmpty());
+    QTest::keyClick(box.searchField(), Qt::Key_Down);
+    QTest::keyClick(box.searchField(), Qt::Key_Return);
+    QCOMPARE(list.at(box.currentIndex()).queue, QStringLiteral("q656"));
+    box.showPopup();
+    QTest::keyClicks(box.searchField(), QStringLiteral("nothing like this"));
+    QTest::keyClick(box.searchField(), Qt::Key_Return);
+    QTest::keyClick(box.searchField(), Qt::Key_Escape);
+    QCOMPARE(activated.count(), 2);
+}
+
+void PrinterBoxTest::putsRecentOnesFirst()
+{
+    PrinterList list;
+    list.setPrinters(building(), {QStringLiteral("q9"), QStringLiteral("gone"), QStringLiteral("q3")});
+    QCOMPARE(list.at(0).queue, QStringLiteral("q9"));
+    QCOMPARE(list.at(1).queue, QStringLiteral("q3"));
+    QCOMPARE(list.at(2).queue, QStringLiteral("q0"));
+
+    PrinterBox box(&list);
+    box.setCurrentIndex(1);
+    Destination moved = list.at(0);
+    moved.stopped = true;
+    QCOMPARE(list.put(moved), 0);
+    QVERIFY(list.at(0).stopped);
+    QCOMPARE(list.put(officePrinter(QStringLiteral("found"))), 700);
+    QCOMPARE(box.currentIndex(), 1);
+}
+
+void PrinterBoxTest::staysQuickWithManyPrinters()
+{
+    PrinterList list;
+    PrinterBox box(&list);
+    box.show();
+    QElapsedTimer timer;
+    timer.start();
+    list.setPrinters(building(), {});
+    box.showPopup();
+    QTest::keyClicks(box.searchField(), QStringLiteral("floor 6"));
+    QCoreApplication::processEvents();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+QTEST_MAIN(PrinterBoxTest)
+#include "printer_box_test.moc"

@@ -1,0 +1,129 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""Stands between a program and a CUPS server, and answers late or never. Usage:
+stalling_proxy.py LISTEN-SOCKET SERVER-SOCKET
+
+Reads commands from its standard input, one a line, and answers each with "ok":
+    stall WHAT   requests of this kind, from now on, get no answer: an IPP operation as hexadecimal number, "ppd"
+                 for the fetching of a PPD, "all"
+    delay MS     every answer waits this long
+    pass         let everything through again; connections that were stalled are closed
+Writes "stalled" when a request has been held back for the first time since the command. Ends with its input.
+"""
+import os
+import socket
+import sys
+import threading
+
+state = {"stall": None, "delay": 0.0, "told": False}
+lock = threading.Lock()
+released = threading.Event()
+
+
+def kind_of(request):
+    """What a request is, as the stall command names it, once enough of it has been seen; None before."""
+    head, _, body = request.partition(b"\r\n\r\n")
+    if head.startswith(b"GET") and b".ppd" in head.split(b"\r\n")[0]:
+        return "ppd"
+    if head.startswith(b"GET"):
+        return "get"
+    if b"Transfer-Encoding: chunked" in head:
+        _, _, body = body.partition(b"\r\n")
+    return f"{int.from_bytes(body[2:4], 'big'):04x}" if len(body) >= 4 else None
+
+
+def say(line):
+    sys.stdout.write(line + "\n")
+    sys.stdout.flush()
+
+
+def hold():
+    with lock:
+        if not state["told"]:
+            state["told"] = True
+            say("stalled")
+    released.wait()
+
+
+def is_stalled(kind):
+    with lock:
+        return state["stall"] is not None and state["stall"] in ("all", kind)
+
+
+def answers(server, client):
+    try:
+        while data := server.recv(65536):
+            if state["delay"]:
+                threading.Event().wait(state["delay"])
+            client.sendall(data)
+    except OSError:
+        pass
+    close(client)
+
+
+def close(*sockets):
+    for one in sockets:
+        try:
+            one.shutdown(socket.SHUT_RDWR)
+        except OSError:
+            pass
+
+
+def serve(client, server_path):
+    server = socket.socket(socket.AF_UNIX)
+    try:
+        if is_stalled("all"):
+            hold()
+            return
+        server.connect(server_path)
+        threading.Thread(target=answers, args=(server, client), daemon=True).start()
+        request, asked = b"", False
+        while data := client.recv(65536):
+            # A new request begins with its method at the start of what arrives: clients wait for answers.
+            if data.startswith((b"POST ", b"GET ")):
+                request, asked = b"", False
+            if not asked:
+                request += data
+                kind = kind_of(request)
+                asked = kind is not None
+                if asked and is_stalled(kind):
+                    hold()
+                    return
+            server.sendall(data)
+    except OSError:
+        pass
+    finally:
+        close(client, server)
+        client.close()
+
+
+def main(listen_path, server_path):
+    listener = socket.socket(socket.AF_UNIX)
+    listener.bind(listen_path)
+    os.chmod(listen_path, 0o666)
+    listener.listen(128)
+
+    def accept():
+        while True:
+            client, _ = listener.accept()
+            threading.Thread(target=serve, args=(client, server_path), daemon=True).start()
+
+    threading.Thread(target=accept, daemon=True).start()
+    say("ready")
+    for line in sys.stdin:
+        verb, *words = line.split()
+        with lock:
+            if verb == "stall":
+                released.clear()
+                state.update(stall=words[0], told=False)
+            elif verb == "delay":
+                state["delay"] = int(words[0]) / 1000
+            else:
+                state.update(stall=None, delay=0.0)
+                released.set()
+        say("ok")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
