@@ -4,6 +4,7 @@
 #include "host/window/page_book.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/policy.h"
 #include "host/window/general_page.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
@@ -24,6 +25,24 @@ namespace {
 const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
 const QString summaryName = QStringLiteral("summary");
+
+// What the administrator has fixed on the page of a panel, and who says so; nil for nothing.
+QString policyNote(const DialogSession &session, int panel)
+{
+    if (panel < 0)
+        return {};
+    const QString attribution = Policy::current().attribution();
+    if (session.isPanelLocked(panel))
+        return PageBook::tr("These settings cannot be changed. %1").arg(attribution);
+    QStringList fixed;
+    for (const QString &keyword : session.panelKeywords(panel)) {
+        const QString choice = session.rule().lockedChoice(session.ppd(), keyword);
+        if (!choice.isNull())
+            fixed.append(session.ppd()->described(keyword, choice).text());
+    }
+    return fixed.isEmpty() ? QString()
+                           : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
+}
 
 } // namespace
 
@@ -50,11 +69,14 @@ void PageBook::setSession(DialogSession *session)
     clear();
     m_session = session;
     addPage(tr("General"), generalName);
+    const Policy::Rule &rule = session->rule();
     for (int i = 0; i < session->panelCount(); ++i) {
-        if (session->panel(i)->panelView())
+        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()))
             addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
     }
-    if (!session->otherKeywords().isEmpty())
+    const QStringList others = session->otherKeywords();
+    if (!std::all_of(others.begin(), others.end(),
+                     [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); }))
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
     fitList();
@@ -82,7 +104,9 @@ void PageBook::addPage(const QString &title, const QString &name, int panel)
 
 void PageBook::makeFrame(Page *page)
 {
-    page->frame = new PageFrame(page->title, contentOf(*page), m_stack);
+    QWidget *content = contentOf(*page);
+    content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
+    page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
     m_stack->addWidget(page->frame);
 }
 
