@@ -6,6 +6,7 @@
 #include <QMetaObject>
 #include <QObject>
 #include <QPointer>
+#include <QThread>
 
 #include <atomic>
 #include <condition_variable>
@@ -137,7 +138,14 @@ void Background::start(std::function<void()> work, QObject *receiver, std::funct
 {
     // Carries the end of the work to this thread, where alone one can tell whether the receiver is still
     // there. It belongs to what it delivers: somebody may delete what waits for deletion before that arrives.
-    std::shared_ptr<QObject> courier(new QObject, [](QObject *object) { object->deleteLater(); });
+    // A delivery that the end of the program takes away goes with the event queue locked, which deleteLater()
+    // waits for.
+    std::shared_ptr<QObject> courier(new QObject, [](QObject *object) {
+        if (object->thread() == QThread::currentThread())
+            delete object;
+        else
+            object->deleteLater();
+    });
     auto deliver = [receiver = QPointer<QObject>(receiver), done = std::move(done)] {
         if (receiver)
             done();
