@@ -29,7 +29,7 @@ public:
     {
         SessionState::keepDifferences(&m_before, &m_after);
     }
-    void setBases(const SessionState &before, const SessionState &after)
+    void setBases(const Base &before, const Base &after)
     {
         m_baseBefore = before;
         m_baseAfter = after;
@@ -65,14 +65,14 @@ private:
     SessionHistory *m_history;
     QStringList m_keys;
     SessionState m_before, m_after;
-    SessionState m_baseBefore, m_baseAfter; // where it changes that
+    Base m_baseBefore, m_baseAfter; // where it changes that
     bool m_changesBase = false;
     bool m_follows = false; // closely on the step before
     bool m_isMade = false;  // the user has made it; the stack makes it again from then on
 };
 
 SessionHistory::SessionHistory(DialogSession *session)
-    : m_session(session), m_now(session->state()), m_base(m_now)
+    : m_session(session), m_now(session->state()), m_base{m_now, session->destination().instance}
 {
     m_steps.setUndoLimit(mostSteps);
 }
@@ -87,16 +87,18 @@ void SessionHistory::note()
         if (const auto *last = m_steps.command(m_steps.index() - 1))
             const_cast<Step *>(static_cast<const Step *>(last))->setChosen(now);
         m_now = std::move(now);
-        m_nextBase = false;
+        if (m_nextBase)
+            m_base = {m_now, *std::exchange(m_nextBase, std::nullopt)};
         return;
     }
     absorbNew(now);
     auto *step = new Step(this, m_now, now);
     step->setFollows(m_sinceStep.isValid() && m_sinceStep.elapsed() < oneGesture);
     m_sinceStep.start();
-    if (std::exchange(m_nextBase, false)) {
-        step->setBases(m_base, now);
-        m_base = now;
+    if (m_nextBase) {
+        const Base base{now, *std::exchange(m_nextBase, std::nullopt)};
+        step->setBases(m_base, base);
+        m_base = base;
     }
     m_now = std::move(now);
     m_steps.push(step);
@@ -126,12 +128,12 @@ void SessionHistory::absorb()
 void SessionHistory::absorbNew(const SessionState &now)
 {
     for (auto it = now.panelValues.begin(); it != now.panelValues.end(); ++it) {
-        if (!m_base.panelValues.contains(it.key()))
-            m_base.panelValues.insert(it.key(), it.value());
+        if (!m_base.state.panelValues.contains(it.key()))
+            m_base.state.panelValues.insert(it.key(), it.value());
     }
 }
 
-void SessionHistory::go(const SessionState &from, const SessionState &to, const SessionState &base)
+void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
 {
     const QScopedValueRollback<bool> going(m_isGoing, true);
     m_session->bring(from, to);

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <optional>
+
 namespace host {
 
 class DialogSession;
@@ -31,10 +33,18 @@ public:
     void absorb();
     QUndoStack *steps() { return &m_steps; }
 
-    // What changes are told by: how the session stood when it began, or when a preset was applied.
-    const SessionState &base() const { return m_base; }
-    // Takes what stands now as that; part of the step that `note()` makes next.
-    void takeBase() { m_nextBase = true; }
+    // What changes are told by: how the session stood when it began, or when a preset was applied, and the
+    // name of that.
+    struct Base
+    {
+        SessionState state;
+        QString name;
+    };
+    const Base &base() const { return m_base; }
+    // Makes what stands at the next look the base, as part of the step that it makes.
+    void takeBase(const QString &name) { m_nextBase = name; }
+    // The base that is there has another name now.
+    void setBaseName(const QString &name) { m_base.name = name; }
     // How it stood at the last look.
     const SessionState &now() const { return m_now; }
 
@@ -45,14 +55,14 @@ Q_SIGNALS:
 private:
     class Step;
     void absorbNew(const SessionState &now);
-    void go(const SessionState &from, const SessionState &to, const SessionState &base);
+    void go(const SessionState &from, const SessionState &to, const Base &base);
 
     DialogSession *m_session;
     QUndoStack m_steps;
     SessionState m_now;
-    SessionState m_base;
+    Base m_base;
     QElapsedTimer m_sinceStep;
-    bool m_nextBase = false;
+    std::optional<QString> m_nextBase;
     bool m_isQueued = false;
     bool m_isGoing = false;
 };

@@ -20,6 +20,8 @@ namespace {
 // One change may lead panels to others, which are then put right; they come to rest at once or never.
 constexpr int mostRounds = 3;
 
+const QString collatingName = QStringLiteral("multiple-document-handling");
+
 template <typename Map>
 void addDifferences(const Map &one, const Map &other, QStringList *keys)
 {
@@ -49,6 +51,9 @@ QMap<QString, QString> byName(const GeneralSettings &general)
     QMap<QString, QString> values;
     for (const JobOption &option : general.jobOptions())
         values.insert(option.name, option.value);
+    // A job has them for several copies only, and both for the same thing.
+    values.remove(QStringLiteral("Collate"));
+    values.insert(collatingName, GeneralSettings::handling(general.collate));
     return values;
 }
 
@@ -59,11 +64,6 @@ std::pair<size_t, QString> placeOf(const QString &panelKey)
 
 } // namespace
 
-QString generalValue(const GeneralSettings &general, const QString &name)
-{
-    return byName(general).value(name);
-}
-
 GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &name,
                                  const GeneralSettings &other)
 {
@@ -72,10 +72,7 @@ GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &
     const QMap<QString, QString> others = byName(other);
     if (others.contains(name))
         values.insert(name, others.value(name));
-    GeneralSettings result = GeneralSettings::from(values);
-    if (name != QLatin1String("multiple-document-handling") && name != QLatin1String("Collate"))
-        result.collate = general.collate; // is not told of a single copy
-    return result;
+    return GeneralSettings::from(values);
 }
 
 QStringList SessionState::differencesTo(const SessionState &other) const

@@ -34,10 +34,7 @@ struct SessionState
     static void keepDifferences(SessionState *one, SessionState *other);
 };
 
-// A general setting as a job has it, by the name of the print system; empty for what the print system does
-// anyway.
-QString generalValue(const GeneralSettings &general, const QString &name);
-// The settings with one of them, by name, as others have it.
+// The settings with one of them, by its name in a job, as others have it.
 GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &name,
                                  const GeneralSettings &other);
 

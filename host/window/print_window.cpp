@@ -15,6 +15,7 @@
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
+#include "host/window/settings_control.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -36,7 +37,7 @@ constexpr std::chrono::seconds betweenStates(5);
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
-    : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
+    : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)), m_settings(new SettingsControl(this)),
       m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
       m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
       m_print(new DialogButton(tr("&Print"), this)), m_waitSign(new WaitSign(this)),
@@ -69,13 +70,22 @@ QString PrintWindow::documentNames() const
 
 PrintWindow::~PrintWindow()
 {
-    m_book->clear(); // before the session, whose panels own views in it
+    letGo();
+}
+
+// Of the session, whose panels own views in the pages, before it goes.
+void PrintWindow::letGo()
+{
+    m_book->clear();
+    m_settings->setSession(nullptr);
 }
 
 void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
+    connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
     connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
+    connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
     connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
@@ -83,6 +93,10 @@ void PrintWindow::connectAll()
         sessionChanged();
         showConflicts();
     });
+    connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
+    connect(m_settings, &SettingsControl::applied, this, &PrintWindow::showConflicts);
+    connect(m_settings, &SettingsControl::presetsChanged, this, &PrintWindow::loadPrinterList);
+    connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
@@ -123,7 +137,7 @@ void PrintWindow::showState(State state)
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 {
-    m_book->clear();
+    letGo();
     m_session = std::move(session);
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
     connect(m_session.get(), &DialogSession::blockingBegan, this, &PrintWindow::showBusy);
@@ -152,11 +166,13 @@ void PrintWindow::showSession()
     for (int i = 0; i < m_session->panelCount(); ++i)
         connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
                 &PrintWindow::recheckLater);
-    m_book->setSession(m_session.get());
+    m_settings->setSession(m_session.get());
+    m_book->setSession(m_session.get(), m_settings->history());
 }
 
 void PrintWindow::sessionChanged()
 {
+    m_settings->note();
     m_book->refresh();
     showNotices();
 }

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/change_marks.h"
+
+#include "host/session/dialog_session.h"
+#include "host/session/session_changes.h"
+#include "host/session/session_history.h"
+#include "host/window/change_mark.h"
+#include "host/window/foreign_text.h"
+#include "platform/binding.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAction>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <memory>
+
+namespace host {
+
+namespace {
+
+constexpr int gap = 3; // pixels between a control and its sign
+
+bool isControl(const QWidget *widget)
+{
+    return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractButton *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+           qobject_cast<const QAbstractSlider *>(widget);
+}
+
+// Whatever a control says when its user has changed it, and when somebody else has: who looks finds out.
+void onChange(QWidget *widget, SessionHistory *history)
+{
+    const auto note = [history] { history->noteLater(); };
+    if (auto *box = qobject_cast<QComboBox *>(widget))
+        QObject::connect(box, &QComboBox::currentIndexChanged, history, note);
+    else if (auto *button = qobject_cast<QAbstractButton *>(widget))
+        QObject::connect(button, &QAbstractButton::clicked, history, note);
+    else if (auto *spin = qobject_cast<QSpinBox *>(widget))
+        QObject::connect(spin, &QSpinBox::valueChanged, history, note);
+    else if (auto *number = qobject_cast<QDoubleSpinBox *>(widget))
+        QObject::connect(number, &QDoubleSpinBox::valueChanged, history, note);
+    else if (auto *line = qobject_cast<QLineEdit *>(widget)) {
+        QObject::connect(line, &QLineEdit::textChanged, history, note);
+        QObject::connect(line, &QLineEdit::editingFinished, history, note);
+    } else if (auto *slider = qobject_cast<QAbstractSlider *>(widget))
+        QObject::connect(slider, &QAbstractSlider::valueChanged, history, note);
+}
+
+// Whether something that is shown stands there already.
+bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet)
+{
+    if (!sheet->rect().contains(place))
+        return false;
+    for (const QWidget *other : sheet->findChildren<QWidget *>()) {
+        const bool counts = other->isVisibleTo(sheet) && other != control && !other->isAncestorOf(control) &&
+                            !control->isAncestorOf(other) && !qobject_cast<const ChangeMark *>(other) &&
+                            other->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
+        if (counts && QRect(other->mapTo(sheet, QPoint()), other->size()).intersects(place))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+ChangeMarks::ChangeMarks(QWidget *page, int panel, DialogSession *session, SessionHistory *history)
+    : QObject(page->parentWidget()), m_page(page), m_panel(panel), m_session(session), m_history(history)
+{
+    refresh();
+}
+
+// The panel's controls go on without it.
+ChangeMarks::~ChangeMarks()
+{
+    for (const Control &control : std::as_const(m_controls))
+        delete control.mark;
+}
+
+void ChangeMarks::findControls()
+{
+    for (QWidget *widget : m_page->findChildren<QWidget *>()) {
+        if (m_watched.contains(widget) || !isControl(widget))
+            continue;
+        QStringList keys;
+        if (m_panel >= 0) {
+            for (const auto *binding :
+                 widget->findChildren<platform::Binding *>(QString(), Qt::FindDirectChildrenOnly)) {
+                if (binding->isTwoWay())
+                    keys += keysOfControl(*m_session, m_panel, binding->observedKeyPath());
+            }
+        } else if (const QString name = widget->objectName();
+                   GeneralSettings::covers(name) || (m_session->ppd() && m_session->ppd()->hasOption(name))) {
+            keys.append(name);
+        }
+        add(widget, keys);
+    }
+}
+
+void ChangeMarks::add(QWidget *widget, const QStringList &keys)
+{
+    m_watched.insert(widget);
+    connect(widget, &QObject::destroyed, this, [this](QObject *gone) { m_watched.remove(gone); });
+    onChange(widget, m_history);
+    if (keys.isEmpty())
+        return;
+    m_controls.append({widget, keys, {}, {}});
+    for (QWidget *around = widget; around != m_page->parentWidget(); around = around->parentWidget())
+        watch(around);
+    for (QLineEdit *inner : widget->findChildren<QLineEdit *>())
+        watch(inner); // of a spin box: it has the context menu
+}
+
+void ChangeMarks::watch(QWidget *widget)
+{
+    widget->removeEventFilter(this);
+    widget->installEventFilter(this);
+}
+
+QWidget *ChangeMarks::controlOf(const QString &key)
+{
+    findControls();
+    const auto control = std::find_if(m_controls.begin(), m_controls.end(), [&](const Control &c) {
+        return c.widget && c.keys.contains(key);
+    });
+    return control == m_controls.end() ? nullptr : control->widget;
+}
+
+void ChangeMarks::refresh()
+{
+    findControls();
+    const QStringList changed = m_history->base().state.differencesTo(m_history->now());
+    for (Control &control : m_controls) {
+        const bool isChanged =
+            std::any_of(control.keys.begin(), control.keys.end(),
+                        [&](const QString &key) { return changed.contains(key); });
+        if (control.widget)
+            show(&control, isChanged);
+    }
+}
+
+QString ChangeMarks::earlierText(const Control &control) const
+{
+    for (const SettingChange &change :
+         changesBetween(*m_session, m_history->base().state, m_history->now())) {
+        if (control.keys.contains(change.key))
+            return change.before.isEmpty() ? QString() : oneLine(change.before);
+    }
+    return {};
+}
+
+void ChangeMarks::show(Control *control, bool isChanged)
+{
+    QWidget *widget = control->widget;
+    if (!isChanged) {
+        if (control->mark) {
+            control->mark->hide();
+            control->mark->deleteLater(); // it may be what was pressed
+            control->mark = nullptr;
+            widget->setAccessibleDescription(control->ownDescription);
+        }
+        return;
+    }
+    const QString earlier = earlierText(*control);
+    if (!control->mark) {
+        control->ownDescription = widget->accessibleDescription();
+        control->mark = new ChangeMark(m_page->parentWidget());
+        connect(control->mark, &QAbstractButton::clicked, this, [this, copy = *control] { takeBack(copy); });
+    }
+    control->mark->tell(earlier);
+    widget->setAccessibleDescription(control->mark->accessibleName());
+    place(*control);
+}
+
+// Behind the control, or before it where something stands there.
+void ChangeMarks::place(const Control &control)
+{
+    QWidget *sheet = m_page->parentWidget();
+    ChangeMark *mark = control.mark;
+    QWidget *widget = control.widget;
+    mark->setVisible(widget->isVisibleTo(sheet));
+    if (mark->isHidden())
+        return;
+    const QRect around(widget->mapTo(sheet, QPoint()), widget->size());
+    const int top = around.center().y() - mark->height() / 2;
+    const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
+    const bool isRightToLeft = sheet->isRightToLeft();
+    const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
+    mark->move(isFree({first, mark->size()}, widget, sheet) ? first : second);
+    mark->raise();
+}
+
+void ChangeMarks::takeBack(const Control &control)
+{
+    putBack(m_session, m_history->base().state, control.keys);
+    m_history->note();
+    if (control.widget)
+        control.widget->setFocus(Qt::OtherFocusReason);
+}
+
+bool ChangeMarks::showMenu(const Control &control, QWidget *widget, const QPoint &place)
+{
+    auto *line = qobject_cast<QLineEdit *>(widget);
+    std::unique_ptr<QMenu> menu(line ? line->createStandardContextMenu() : new QMenu(widget));
+    auto *back = new QAction(control.mark->backText(), menu.get());
+    menu->insertAction(menu->actions().value(0), back);
+    connect(back, &QAction::triggered, this, [this, copy = control] { takeBack(copy); }, Qt::QueuedConnection);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu.release()->popup(place);
+    return true;
+}
+
+bool ChangeMarks::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+        for (const Control &control : std::as_const(m_controls)) {
+            if (control.mark && control.widget)
+                place(control);
+        }
+        return false;
+    case QEvent::ContextMenu:
+        for (const Control &control : std::as_const(m_controls)) {
+            auto *widget = qobject_cast<QWidget *>(watched);
+            if (widget && control.mark && control.widget &&
+                (control.widget == widget || control.widget->isAncestorOf(widget)))
+                return showMenu(control, widget, static_cast<QContextMenuEvent *>(event)->globalPos());
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+} // namespace host
