@@ -64,10 +64,9 @@ QList<SettingChange> changesBetween(const DialogSession &session, const SessionS
             change = {key, session.panel(panel)->panelName(), {}, {}};
         else if (after.marks.contains(key))
             change = markChange(session, key, before, after);
-        const bool isKnown =
-            std::any_of(changes.begin(), changes.end(), [&](const SettingChange &earlier) {
-                return earlier.name == change.name && change.after.isEmpty();
-            });
+        const bool isKnown = std::any_of(changes.begin(), changes.end(), [&](const SettingChange &earlier) {
+            return earlier.name == change.name && change.after.isEmpty();
+        });
         if (!change.name.isEmpty() && !isKnown) // a code has several digits
             changes.append(change);
     }

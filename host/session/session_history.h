@@ -29,6 +29,8 @@ public:
     void note();
     // The same once control returns to the event loop, however often it is called until then.
     void noteLater();
+    // What comes next is a step of its own, however soon it comes.
+    void endGesture() { m_sinceStep.invalidate(); }
     // What differs from the last look is nobody's wish, such as what a panel has read: no step.
     void absorb();
     QUndoStack *steps() { return &m_steps; }

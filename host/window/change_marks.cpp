@@ -128,9 +128,8 @@ void ChangeMarks::watch(QWidget *widget)
 QWidget *ChangeMarks::controlOf(const QString &key)
 {
     findControls();
-    const auto control = std::find_if(m_controls.begin(), m_controls.end(), [&](const Control &c) {
-        return c.widget && c.keys.contains(key);
-    });
+    const auto control = std::find_if(m_controls.begin(), m_controls.end(),
+                                      [&](const Control &c) { return c.widget && c.keys.contains(key); });
     return control == m_controls.end() ? nullptr : control->widget;
 }
 
@@ -139,9 +138,8 @@ void ChangeMarks::refresh()
     findControls();
     const QStringList changed = m_history->base().state.differencesTo(m_history->now());
     for (Control &control : m_controls) {
-        const bool isChanged =
-            std::any_of(control.keys.begin(), control.keys.end(),
-                        [&](const QString &key) { return changed.contains(key); });
+        const bool isChanged = std::any_of(control.keys.begin(), control.keys.end(),
+                                           [&](const QString &key) { return changed.contains(key); });
         if (control.widget)
             show(&control, isChanged);
     }
@@ -200,8 +198,11 @@ void ChangeMarks::place(const Control &control)
 
 void ChangeMarks::takeBack(const Control &control)
 {
+    m_history->note();
+    m_history->endGesture();
     putBack(m_session, m_history->base().state, control.keys);
     m_history->note();
+    m_history->endGesture();
     if (control.widget)
         control.widget->setFocus(Qt::OtherFocusReason);
 }
@@ -212,7 +213,8 @@ bool ChangeMarks::showMenu(const Control &control, QWidget *widget, const QPoint
     std::unique_ptr<QMenu> menu(line ? line->createStandardContextMenu() : new QMenu(widget));
     auto *back = new QAction(control.mark->backText(), menu.get());
     menu->insertAction(menu->actions().value(0), back);
-    connect(back, &QAction::triggered, this, [this, copy = control] { takeBack(copy); }, Qt::QueuedConnection);
+    connect(
+        back, &QAction::triggered, this, [this, copy = control] { takeBack(copy); }, Qt::QueuedConnection);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu.release()->popup(place);
     return true;

@@ -76,7 +76,7 @@ private:
         QString title;
         QString name;
         int panel = -1;
-        PageFrame *frame = nullptr; // made when the page is first shown
+        PageFrame *frame = nullptr;   // made when the page is first shown
         ChangeMarks *marks = nullptr; // with it
     };
     void addPage(const QString &title, const QString &name, int panel = -1);

@@ -68,12 +68,13 @@ private:
     static void paintChanged(QPainter *painter, const QRect &row, const QColor &ink,
                              Qt::LayoutDirection direction)
     {
-        const int x = direction == Qt::RightToLeft ? row.left() + textMargin - 2 : row.right() - textMargin + 2;
+        const int x =
+            direction == Qt::RightToLeft ? row.left() + textMargin - 2 : row.right() - textMargin + 2;
         const QPointF at(x, row.center().y() + 0.5);
         painter->setPen(Qt::NoPen);
         painter->setBrush(ink);
-        painter->drawPolygon(QPolygonF({at + QPointF(0, -4), at + QPointF(4, 0), at + QPointF(0, 4),
-                                        at + QPointF(-4, 0)}));
+        painter->drawPolygon(
+            QPolygonF({at + QPointF(0, -4), at + QPointF(4, 0), at + QPointF(0, 4), at + QPointF(-4, 0)}));
     }
 };
 

@@ -34,7 +34,8 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     label->setBuddy(m_name);
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
-    auto *warning = new QLabel(tr("Others who use this computer may read them in the file of the presets."), this);
+    auto *warning =
+        new QLabel(tr("Others who use this computer may read them in the file of the presets."), this);
     warning->setWordWrap(true);
     warning->setIndent(22);
     m_secrets->setVisible(offersSecrets);
@@ -70,9 +71,9 @@ bool PresetDialog::keepsSecrets() const
 void PresetDialog::check()
 {
     const QString name = m_name->text();
-    const bool isTaken = m_taken.contains(name, Qt::CaseInsensitive) &&
-                         !(m_purpose == Purpose::Rename &&
-                           name.compare(m_earlierName, Qt::CaseInsensitive) == 0);
+    const bool isTaken =
+        m_taken.contains(name, Qt::CaseInsensitive) &&
+        !(m_purpose == Purpose::Rename && name.compare(m_earlierName, Qt::CaseInsensitive) == 0);
     const bool isEmpty = name.isEmpty(); // nothing is wrong before anything is typed
     QString problem = isEmpty ? QString() : PresetStore::nameProblem(name);
     m_ok->setEnabled(problem.isNull() && !isEmpty && !(isTaken && m_purpose == Purpose::Rename));

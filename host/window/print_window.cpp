@@ -6,6 +6,7 @@
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
+#include "host/session/session_history.h"
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
@@ -37,11 +38,11 @@ constexpr std::chrono::seconds betweenStates(5);
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
-    : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)), m_settings(new SettingsControl(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
-      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
-      m_print(new DialogButton(tr("&Print"), this)), m_waitSign(new WaitSign(this)),
-      m_waiting(new WaitingPage(this)),
+    : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
+      m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
+      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
+      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
+      m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
       m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter),
@@ -263,7 +264,9 @@ void PrintWindow::answer(int index)
     if (m_bar->kind() == MessageBar::Kind::Notice)
         m_notices.clear();
     if (accepted) {
+        m_settings->history()->endGesture();
         m_session->apply(*m_proposal);
+        m_settings->history()->endGesture();
         showConflicts();
     }
     if (m_session)

@@ -289,8 +289,8 @@ void PrintWindow::send()
     m_sending = std::make_shared<Sending>();
     m_sending->documents = m_documents;
     m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
-    auto work = [&system = m_system, sending = m_sending, files = m_task.files,
-                 name = m_task.documentName, rememberUse = m_settings->rememberUse()]() -> Submission {
+    auto work = [&system = m_system, sending = m_sending, files = m_task.files, name = m_task.documentName,
+                 rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
         if (!sending->documents->open(files, nullptr, &failed.error))
             return failed;

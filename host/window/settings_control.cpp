@@ -86,6 +86,7 @@ void SettingsControl::setSession(DialogSession *session)
         m_startOptions = session->destination().options;
         m_startInstance = session->destination().instance;
         m_history = std::make_unique<SessionHistory>(session);
+        connect(m_history->steps(), &QUndoStack::indexChanged, this, &SettingsControl::showName);
         connect(m_history.get(), &SessionHistory::changed, this, [this] {
             showName();
             Q_EMIT changed();
@@ -128,7 +129,7 @@ std::function<void()> SettingsControl::rememberUse() const
 void SettingsControl::showName()
 {
     const QString name = m_history ? m_history->base().name : QString();
-    QString text = name.isEmpty()           ? tr("Defaults")
+    QString text = name.isEmpty()             ? tr("Defaults")
                    : name == printersDefaults ? tr("Printer’s Defaults")
                    : name == ownDefaults      ? tr("My Defaults")
                    : name == lastUsed         ? tr("Last Used")
@@ -236,9 +237,9 @@ QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
     if (name.startsWith(QLatin1Char('/')) && name != ownDefaults)
         return {};
     const QString wanted = name == ownDefaults ? QString() : name;
-    const auto preset =
-        std::find_if(m_lists.presets.begin(), m_lists.presets.end(),
-                     [&](const Preset &p) { return p.name.compare(wanted, Qt::CaseInsensitive) == 0; });
+    const auto preset = std::find_if(m_lists.presets.begin(), m_lists.presets.end(), [&](const Preset &p) {
+        return p.name.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
     return preset == m_lists.presets.end() ? QMap<QString, QString>() : preset->options;
 }
 
@@ -255,9 +256,11 @@ void SettingsControl::apply(const QString &name)
 {
     m_session->save();
     m_history->note();
+    m_history->endGesture();
     m_history->takeBase(name);
     applyPreset(m_session, queueOptions(), optionsOf(name));
     m_history->note();
+    m_history->endGesture();
     showName();
     Q_EMIT applied();
 }

@@ -74,9 +74,9 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         const auto worded = [](const QString &text) { return text.isEmpty() ? tr("none") : text; };
         m_changed.last().lines.append(
             {change.name,
-             hasWords ? tr("%1 → %2", "what it was, what it is")
-                            .arg(worded(change.before), worded(change.after))
-                      : tr("changed"),
+             hasWords
+                 ? tr("%1 → %2", "what it was, what it is").arg(worded(change.before), worded(change.after))
+                 : tr("changed"),
              change.key});
     }
     rebuild();
