@@ -42,8 +42,8 @@ void ChangeMark::paintEvent(QPaintEvent *)
         painter.setBrush(hover);
         painter.drawRoundedRect(rect(), 4, 4);
     }
-    painter.scale(width() / 18.0, height() / 18.0);
-    painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(-1.5, 0);
+    painter.setPen(QPen(ink, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     QPainterPath arrow;
     arrow.moveTo(4, 6.5);

@@ -17,7 +17,7 @@ public:
     // What it leads back to; empty where there are no words for it.
     void tell(const QString &earlier);
     QString backText() const { return m_backText; } // for a menu
-    QSize sizeHint() const override { return {18, 18}; }
+    QSize sizeHint() const override { return {15, 18}; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

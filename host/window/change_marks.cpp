@@ -27,7 +27,7 @@ namespace host {
 
 namespace {
 
-constexpr int gap = 3; // pixels between a control and its sign
+constexpr int gap = 1; // pixels between a control and its sign, which has a margin of its own
 
 bool isControl(const QWidget *widget)
 {
@@ -178,7 +178,7 @@ void ChangeMarks::show(Control *control, bool isChanged)
     place(*control);
 }
 
-// Behind the control, or before it where something stands there.
+// Behind the control, before it where something stands there, or else at the next free place of its line.
 void ChangeMarks::place(const Control &control)
 {
     QWidget *sheet = m_page->parentWidget();
@@ -192,7 +192,12 @@ void ChangeMarks::place(const Control &control)
     const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
     const bool isRightToLeft = sheet->isRightToLeft();
     const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
-    mark->move(isFree({first, mark->size()}, widget, sheet) ? first : second);
+    const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet); };
+    QPoint at = fits(first) || !fits(second) ? first : second;
+    const int step = isRightToLeft ? -2 : 2;
+    while (!fits(at) && at.x() >= 0 && at.x() <= sheet->width())
+        at.rx() += step;
+    mark->move(fits(at) ? at : second);
     mark->raise();
 }
 

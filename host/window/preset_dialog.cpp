@@ -34,6 +34,8 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     label->setBuddy(m_name);
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
+    m_problem->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    m_problem->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing moves when it says something
     auto *warning =
         new QLabel(tr("Others who use this computer may read them in the file of the presets."), this);
     warning->setWordWrap(true);
@@ -80,7 +82,7 @@ void PresetDialog::check()
     if (problem.isNull() && isTaken)
         problem = m_purpose == Purpose::Save ? tr("The preset of this name will be replaced.")
                                              : tr("There is already a preset of this name.");
-    m_problem->setText(problem.isNull() ? QStringLiteral(" ") : problem);
+    m_problem->setText(problem);
     m_name->setAccessibleDescription(problem);
     m_ok->setText(isTaken && m_purpose == Purpose::Save ? tr("&Replace")
                   : m_purpose == Purpose::Save          ? tr("&Save")

@@ -136,7 +136,8 @@ void SettingsControl::showName()
                                               : oneLine(name, longestName);
     if (m_history && !m_history->base().state.differencesTo(m_history->now()).isEmpty())
         text = tr("%1 (changed)", "the name of settings").arg(text);
-    const QString label = tr("Settings: %1").arg(Mnemonics::escaped(text));
+    // Some styles leave no air before the arrow of a menu.
+    const QString label = tr("Settings: %1").arg(Mnemonics::escaped(text)) + QLatin1Char(' ');
     if (m_button->text().remove(QLatin1Char('&')) != QString(label).remove(QLatin1Char('&')))
         m_button->setText(label);
     m_undo->setEnabled(m_history && m_history->steps()->canUndo() && m_button->isVisible());
@@ -170,12 +171,20 @@ void SettingsControl::openMenu()
     fillMenu();
 }
 
+bool SettingsControl::hasOwnDefaults() const
+{
+    return std::any_of(m_lists.presets.begin(), m_lists.presets.end(),
+                       [](const Preset &preset) { return preset.name.isEmpty(); });
+}
+
 void SettingsControl::addChoice(const QString &text, const QString &name)
 {
     QAction *action = m_menu->addAction(Mnemonics::escaped(text));
     action->setData(name);
     action->setCheckable(true);
-    action->setChecked(name == m_history->base().name);
+    const QString base = m_history->base().name;
+    const bool isStart = base.isEmpty() && name == (hasOwnDefaults() ? ownDefaults : printersDefaults);
+    action->setChecked(name == base || isStart);
     connect(action, &QAction::triggered, this, [this, name] { apply(name); });
 }
 
@@ -189,9 +198,7 @@ void SettingsControl::addEditing(const QString &text, const std::function<void()
 void SettingsControl::fillMenu()
 {
     m_menu->clear();
-    const bool hasOwn = std::any_of(m_lists.presets.begin(), m_lists.presets.end(),
-                                    [](const Preset &preset) { return preset.name.isEmpty(); });
-    if (hasOwn)
+    if (hasOwnDefaults())
         addChoice(tr("My Defaults"), ownDefaults);
     addChoice(tr("Printer’s Defaults"), printersDefaults);
     if (m_lists.lastUsed)

@@ -69,6 +69,7 @@ private:
     void fillMenu();
     void addChoice(const QString &text, const QString &name);
     void addChanges();
+    bool hasOwnDefaults() const;
     void addEditing(const QString &text, const std::function<void()> &run);
     void apply(const QString &name);
     void save(const QString &name, bool withSecrets);

@@ -194,8 +194,8 @@ void ChangesTest::markTakesTheChangeBack()
 void ChangesTest::panelsControlsAreUndoneAndMarked()
 {
     PrintWindow &window = open();
-    auto made = std::make_unique<FakePanel>(u"Colour"_s, QStringList({u"ColorType"_s, u"Cyan"_s}),
-                                            window.session());
+    auto made =
+        std::make_unique<FakePanel>(u"Colour"_s, QStringList({u"ColorType"_s, u"Cyan"_s}), window.session());
     FakePanel *panel = made.get();
     panel->onSet = [panel](const QString &key, const QString &choice) {
         if (key == u"ColorType"_s && choice == u"Mono"_s) // as the real one locks its sliders
