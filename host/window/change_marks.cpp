@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace host {
 
@@ -55,19 +56,28 @@ void onChange(QWidget *widget, SessionHistory *history)
         QObject::connect(slider, &QAbstractSlider::valueChanged, history, note);
 }
 
-// Whether something that is shown stands there already.
-bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet)
+// What is shown on a sheet and may be in the way of a sign.
+QList<QWidget *> obstaclesOn(const QWidget *sheet)
 {
-    if (!sheet->rect().contains(place))
-        return false;
-    for (const QWidget *other : sheet->findChildren<QWidget *>()) {
-        const bool counts = other->isVisibleTo(sheet) && other != control && !other->isAncestorOf(control) &&
-                            !control->isAncestorOf(other) && !qobject_cast<const ChangeMark *>(other) &&
-                            other->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
-        if (counts && QRect(other->mapTo(sheet, QPoint()), other->size()).intersects(place))
-            return false;
+    QList<QWidget *> obstacles;
+    for (QWidget *widget : sheet->findChildren<QWidget *>()) {
+        const bool holdsOthers =
+            !widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
+        if (widget->isVisibleTo(sheet) && !qobject_cast<const ChangeMark *>(widget) &&
+            (isControl(widget) || !holdsOthers))
+            obstacles.append(widget);
     }
-    return true;
+    return obstacles;
+}
+
+bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
+            const QList<QWidget *> &obstacles)
+{
+    return sheet->rect().contains(place) &&
+           std::none_of(obstacles.begin(), obstacles.end(), [&](const QWidget *other) {
+               return other != control && !control->isAncestorOf(other) &&
+                      QRect(other->mapTo(sheet, QPoint()), other->size()).intersects(place);
+           });
 }
 
 } // namespace
@@ -137,25 +147,19 @@ void ChangeMarks::refresh()
 {
     findControls();
     const QStringList changed = m_history->base().state.differencesTo(m_history->now());
+    const QList<SettingChange> inWords =
+        changed.isEmpty() ? QList<SettingChange>()
+                          : changesBetween(*m_session, m_history->base().state, m_history->now());
     for (Control &control : m_controls) {
         const bool isChanged = std::any_of(control.keys.begin(), control.keys.end(),
                                            [&](const QString &key) { return changed.contains(key); });
         if (control.widget)
-            show(&control, isChanged);
+            show(&control, isChanged, inWords);
     }
+    placeAll();
 }
 
-QString ChangeMarks::earlierText(const Control &control) const
-{
-    for (const SettingChange &change :
-         changesBetween(*m_session, m_history->base().state, m_history->now())) {
-        if (control.keys.contains(change.key))
-            return change.before.isEmpty() ? QString() : oneLine(change.before);
-    }
-    return {};
-}
-
-void ChangeMarks::show(Control *control, bool isChanged)
+void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChange> &changes)
 {
     QWidget *widget = control->widget;
     if (!isChanged) {
@@ -167,7 +171,9 @@ void ChangeMarks::show(Control *control, bool isChanged)
         }
         return;
     }
-    const QString earlier = earlierText(*control);
+    const auto change = std::find_if(changes.begin(), changes.end(),
+                                     [&](const SettingChange &c) { return control->keys.contains(c.key); });
+    const QString earlier = change == changes.end() ? QString() : oneLine(change->before);
     if (!control->mark) {
         control->ownDescription = widget->accessibleDescription();
         control->mark = new ChangeMark(m_page->parentWidget());
@@ -175,11 +181,23 @@ void ChangeMarks::show(Control *control, bool isChanged)
     }
     control->mark->tell(earlier);
     widget->setAccessibleDescription(control->mark->accessibleName());
-    place(*control);
+}
+
+void ChangeMarks::placeAll()
+{
+    m_isPlaceQueued = false;
+    QList<QWidget *> obstacles;
+    for (const Control &control : std::as_const(m_controls)) {
+        if (!control.mark || !control.widget)
+            continue;
+        if (obstacles.isEmpty())
+            obstacles = obstaclesOn(m_page->parentWidget());
+        place(control, obstacles);
+    }
 }
 
 // Behind the control, before it where something stands there, or else at the next free place of its line.
-void ChangeMarks::place(const Control &control)
+void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacles)
 {
     QWidget *sheet = m_page->parentWidget();
     ChangeMark *mark = control.mark;
@@ -192,7 +210,7 @@ void ChangeMarks::place(const Control &control)
     const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
     const bool isRightToLeft = sheet->isRightToLeft();
     const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
-    const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet); };
+    const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet, obstacles); };
     QPoint at = fits(first) || !fits(second) ? first : second;
     const int step = isRightToLeft ? -2 : 2;
     while (!fits(at) && at.x() >= 0 && at.x() <= sheet->width())
@@ -234,10 +252,8 @@ bool ChangeMarks::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Hide:
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
-        for (const Control &control : std::as_const(m_controls)) {
-            if (control.mark && control.widget)
-                place(control);
-        }
+        if (!std::exchange(m_isPlaceQueued, true))
+            QMetaObject::invokeMethod(this, &ChangeMarks::placeAll, Qt::QueuedConnection);
         return false;
     case QEvent::ContextMenu:
         for (const Control &control : std::as_const(m_controls)) {

@@ -16,6 +16,7 @@ namespace host {
 class ChangeMark;
 class DialogSession;
 class SessionHistory;
+struct SettingChange;
 
 // Marks the controls of a page whose settings are not what they were when the dialog opened or a preset was
 // applied: with a sign beside the control that takes the change back when it is pressed, with the same in the
@@ -49,9 +50,9 @@ private:
     void findControls();
     void add(QWidget *widget, const QStringList &keys);
     void watch(QWidget *widget);
-    QString earlierText(const Control &control) const;
-    void show(Control *control, bool isChanged);
-    void place(const Control &control);
+    void show(Control *control, bool isChanged, const QList<SettingChange> &changes);
+    void placeAll();
+    void place(const Control &control, const QList<QWidget *> &obstacles);
     void takeBack(const Control &control);
     bool showMenu(const Control &control, QWidget *widget, const QPoint &place);
 
@@ -61,6 +62,7 @@ private:
     SessionHistory *m_history;
     QList<Control> m_controls;
     QSet<QObject *> m_watched;
+    bool m_isPlaceQueued = false;
 };
 
 } // namespace host

@@ -95,7 +95,10 @@ void PrintWindow::connectAll()
         showConflicts();
     });
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
-    connect(m_settings, &SettingsControl::applied, this, &PrintWindow::showConflicts);
+    connect(m_settings, &SettingsControl::applied, this, [this] {
+        sessionChanged();
+        showConflicts();
+    });
     connect(m_settings, &SettingsControl::presetsChanged, this, &PrintWindow::loadPrinterList);
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);

@@ -3,6 +3,11 @@
 
 #include "host/batch/batch_run.h"
 #include "host/printing/preset_store.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "platform/key_value_object.h"
 #include "tests/support/private_cupsd.h"
 
 #include <QApplication>
@@ -10,7 +15,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMenu>
 #include <QProcess>
+#include <QPushButton>
 #include <QTest>
 
 using namespace host;
@@ -39,6 +46,7 @@ private Q_SLOTS:
     void initTestCase();
     void otherProgramsPrintWithThePreset();
     void presetsOfOtherProgramsAreThere();
+    void panelsTakeAPresetAndGiveItBack();
 
 private:
     int run(const QStringList &words);
@@ -128,6 +136,47 @@ void PresetTest::presetsOfOtherProgramsAreThere()
     QCOMPARE(kept[u"TonerSave"_s].toString(), u"True"_s);
     QVERIFY(runs(u"lpoptions"_s, {u"-x"_s, u"office/theirs"_s}));
     QVERIFY(preset(u"theirs"_s).isEmpty());
+}
+
+void PresetTest::panelsTakeAPresetAndGiveItBack()
+{
+    PrintError error;
+    const QString rgbSource = u"com.kelmar.pde.advancedcolorsettings.rgb-source"_s;
+    const Preset gray{
+        u"gray"_s, {{u"ColorType"_s, u"Mono"_s}, {rgbSource, u"3"_s}, {u"StapleLocation"_s, u"Nowhere"_s}}};
+    QVERIFY2(PresetStore().save(u"office"_s, gray, &error), qPrintable(error.message));
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"office"_s;
+    task.firstPage = u"color-settings-2"_s;
+    PrintWindow window(*m_system, m_extensions, task);
+    QVERIFY(window.open(&error));
+    window.show();
+    QTRY_VERIFY(window.session() && QTest::qWaitForWindowActive(&window));
+    const PpdDocument *ppd = window.session()->ppd();
+    auto *balance = window.session()->panel(window.session()->panelOfKeyword(u"ColorBalanceCyan"_s));
+    balance->keyValueObject()->setValueForKey(u"2"_s, u"ColorBalanceCyan"_s);
+    auto *button = window.findChild<QPushButton *>(u"presets"_s);
+    Q_EMIT button->menu()->aboutToShow();
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    for (QAction *action : button->menu()->actions()) {
+        if (action->text() == u"gray"_s)
+            action->trigger();
+    }
+    QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Mono0"_s);
+    QCOMPARE(window.session()->printSettings()->value(rgbSource).toString(), u"3"_s);
+    QVERIFY2(window.messageBar()->text().contains(u"Staple"_s), qPrintable(window.messageBar()->text()));
+    QTest::keyClick(window.book()->list(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Auto2"_s);
+    QCOMPARE(balance->keyValueObject()->valueForKey(u"ColorBalanceCyan"_s).toString(), u"2"_s);
+    QVERIFY(!window.session()->printSettings()->value(rgbSource).isValid());
+    QTest::keyClick(window.book()->list(), Qt::Key_Y, Qt::ControlModifier);
+    window.print();
+    QTRY_VERIFY(window.submission());
+    const auto job = m_server.waitForJob(window.submission()->job.id);
+    QVERIFY(job);
+    QCOMPARE(job->options.value(u"ColorType"_s), u"Mono"_s);
+    QCOMPARE(job->options.value(rgbSource), u"3"_s);
 }
 
 int main(int argc, char **argv)
