@@ -129,6 +129,7 @@ void PrintWindow::showState(State state)
     m_waiting->setVisible(state == State::Waiting || state == State::Sending);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done && state != State::Sending);
+    m_settings->setActive(state == State::Choosing);
     if (state == State::Choosing)
         m_stateTimer.start(betweenStates);
     else

@@ -96,6 +96,12 @@ void SettingsControl::setSession(DialogSession *session)
     showName();
 }
 
+void SettingsControl::setActive(bool active)
+{
+    m_isActive = active;
+    showName();
+}
+
 void SettingsControl::note()
 {
     if (m_history)
@@ -140,8 +146,8 @@ void SettingsControl::showName()
     const QString label = tr("Settings: %1").arg(Mnemonics::escaped(text)) + QLatin1Char(' ');
     if (m_button->text().remove(QLatin1Char('&')) != QString(label).remove(QLatin1Char('&')))
         m_button->setText(label);
-    m_undo->setEnabled(m_history && m_history->steps()->canUndo() && m_button->isVisible());
-    m_redo->setEnabled(m_history && m_history->steps()->canRedo() && m_button->isVisible());
+    m_undo->setEnabled(m_history && m_history->steps()->canUndo() && m_isActive);
+    m_redo->setEnabled(m_history && m_history->steps()->canRedo() && m_isActive);
 }
 
 SettingsControl::Lists SettingsControl::readLists(const QString &queue)
@@ -218,13 +224,21 @@ void SettingsControl::addChanges()
     const QString name = m_history->base().name;
     const QString shown = Mnemonics::escaped(oneLine(name, longestName));
     if (isPresetName(name))
-        addEditing(tr("Save “%1”").arg(shown), [this, name] { save(name, false); });
+        addEditing(tr("Save “%1”").arg(shown), [this, name] { save(name, keepsSecrets(name)); });
     addEditing(tr("Save &As…"), [this] { saveAs(); });
     if (isPresetName(name)) {
         addEditing(tr("Rename “%1”…").arg(shown), [this] { rename(); });
         addEditing(tr("Delete “%1”…").arg(shown), [this] { remove(); });
     }
     addEditing(tr("Use as My &Default for This Printer"), [this] { useAsDefault(); });
+}
+
+// Whether its user has let a preset keep codes.
+bool SettingsControl::keepsSecrets(const QString &name) const
+{
+    const QStringList options = optionsOf(name).keys();
+    return std::any_of(options.begin(), options.end(),
+                       [this](const QString &option) { return m_session->isSecret(option); });
 }
 
 QStringList SettingsControl::names() const

@@ -37,6 +37,8 @@ public:
     QPushButton *button() const { return m_button; }
     // Begins a history. Null lets go of the session before.
     void setSession(DialogSession *session);
+    // Whether settings can be changed now: not while a job is on its way, nor after.
+    void setActive(bool active);
     SessionHistory *history() const { return m_history.get(); } // null without a session
     // The user may have changed something.
     void note();
@@ -73,6 +75,7 @@ private:
     void addEditing(const QString &text, const std::function<void()> &run);
     void apply(const QString &name);
     void save(const QString &name, bool withSecrets);
+    bool keepsSecrets(const QString &name) const;
     void saveAs();
     void rename();
     void remove();
@@ -91,6 +94,7 @@ private:
     QAction *m_undo;
     QAction *m_redo;
     DialogSession *m_session = nullptr;
+    bool m_isActive = false;
     std::unique_ptr<SessionHistory> m_history;
     QMap<QString, QString> m_startOptions; // of the destination that was opened
     QString m_startInstance;
