@@ -29,6 +29,7 @@ class MessageBar;
 class PageBook;
 class PrinterPicker;
 class ResultPage;
+class SettingsControl;
 class UnavailablePage;
 class WaitSign;
 class WaitingPage;
@@ -109,6 +110,7 @@ private:
     void refuse(const PrintError &error);
     std::unique_ptr<DialogSession> makeSession(OpenedPrinter opened);
     void adopt(std::unique_ptr<DialogSession> session);
+    void letGo();
     void allowPrinting();
     bool showProtectionGap();
     void pickPrinter(const QString &name);
@@ -152,6 +154,7 @@ private:
     QTimer m_stateTimer;
 
     PrinterPicker *m_picker;
+    SettingsControl *m_settings;
     MessageBar *m_bar;
     PageBook *m_book;
     UnavailablePage *m_unavailable;

@@ -13,6 +13,7 @@
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
+#include "host/window/settings_control.h"
 #include "host/window/startup_clock.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -88,7 +89,7 @@ void PrintWindow::refuse(const PrintError &error)
         *m_taskError = error;
         return;
     }
-    m_book->clear();
+    letGo();
     m_session.reset();
     m_notices.clear();
     showError(error);
@@ -116,7 +117,9 @@ void PrintWindow::showFirst(PrinterOpening opening)
         refuse(problem);
         return;
     }
+    m_settings->absorb();
     m_book->refresh();
+    m_book->showChanges();
     showNotices();
     showConflicts();
 }
@@ -157,10 +160,11 @@ void PrintWindow::showPicked(PrinterOpening opening)
     m_notices.clear();
     m_toldGap.clear();
     const QString page = m_book->currentName();
-    m_book->clear(); // before the session, whose panels own views in it
+    letGo();
     const auto earlier = std::move(m_session);
     adopt(std::move(session));
     carryOver(*earlier, m_session.get());
+    m_settings->absorb();
     m_book->showPage(std::max(m_book->pageNamed(page), 0));
     showNotices();
     showConflicts();
@@ -272,6 +276,7 @@ void PrintWindow::print()
     }
     if (m_task.settingsOnly) {
         RememberedPrinter().setName(m_session->destination().name());
+        (void)platform::Background::call(m_settings->rememberUse());
         accept();
         return;
     }
@@ -284,8 +289,8 @@ void PrintWindow::send()
     m_sending = std::make_shared<Sending>();
     m_sending->documents = m_documents;
     m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
-    auto work = [&system = m_system, sending = m_sending, files = m_task.files,
-                 name = m_task.documentName]() -> Submission {
+    auto work = [&system = m_system, sending = m_sending, files = m_task.files, name = m_task.documentName,
+                 rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
         if (!sending->documents->open(files, nullptr, &failed.error))
             return failed;
@@ -299,7 +304,11 @@ void PrintWindow::send()
             sending->sent = sent;
             sending->total = total;
         };
-        return system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+        Submission submission =
+            system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+        if (submission.isAccepted())
+            rememberUse();
+        return submission;
     };
     m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
     if (m_submitting.deliverWithin(nearServer))

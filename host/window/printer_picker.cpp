@@ -39,7 +39,7 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->setVerticalSpacing(4);
     grid->addWidget(label, 0, 0);
     grid->addWidget(m_box, 0, 1);
-    grid->addWidget(m_state, 1, 1, 1, 2);
+    grid->addWidget(m_state, 1, 1, 1, 3);
     grid->setColumnStretch(2, 1);
     connect(m_box, &QComboBox::activated, this, [this] {
         const QString name = m_list->at(m_box->currentIndex()).name();
@@ -52,6 +52,11 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers)
 {
     m_list->setPrinters(printers, RememberedPrinter().recent());
     m_box->setCurrentIndex(m_list->rowOf(m_current));
+}
+
+void PrinterPicker::addBeside(QWidget *widget)
+{
+    static_cast<QGridLayout *>(layout())->addWidget(widget, 0, 3, Qt::AlignVCenter);
 }
 
 QComboBox *PrinterPicker::box() const

@@ -34,6 +34,8 @@ public:
     // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
     void setFixedText(const QString &text);
     QComboBox *box() const;
+    // Puts something at the end of its line.
+    void addBeside(QWidget *widget);
     // Leaves out how the printer is, for want of room.
     void setCompact(bool compact);
 
