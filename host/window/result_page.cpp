@@ -50,9 +50,7 @@ QLabel *centredLabel(QWidget *parent)
 
 ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
-      m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this)),
-      m_problem(centredLabel(this)), m_cancelJob(new QPushButton(tr("Cancel &Job"), this)),
-      m_hold(new QPushButton(this)), m_again(new QPushButton(tr("Print &Again"), this))
+      m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
     makeAnnounced(this);
     QFont large = m_title->font();
@@ -64,9 +62,19 @@ ResultPage::ResultPage(QWidget *parent)
     column->setSpacing(10);
     column->addStretch(2);
     column->addWidget(m_glyph, 0, Qt::AlignHCenter);
-    for (QLabel *label : {m_title, m_documents, m_state, m_notes, m_problem})
+    for (QLabel *label : {m_title, m_documents, m_state, m_notes})
         column->addWidget(label);
+    column->addStretch(3);
+}
+
+// Made when there is a job to do something to.
+void ResultPage::buildActions()
+{
+    m_problem = centredLabel(this);
     m_problem->hide();
+    m_cancelJob = new QPushButton(tr("Cancel &Job"), this);
+    m_hold = new QPushButton(this);
+    m_again = new QPushButton(tr("Print &Again"), this);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 12, 0, 0);
     row->setSpacing(10);
@@ -76,8 +84,10 @@ ResultPage::ResultPage(QWidget *parent)
         row->addWidget(button);
     }
     row->addStretch();
-    column->addLayout(row);
-    column->addStretch(3);
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    const int end = column->count() - 1; // before the stretch
+    column->insertWidget(end, m_problem);
+    column->insertLayout(end + 1, row);
     connect(m_cancelJob, &QPushButton::clicked, this, [this] { Q_EMIT actionWanted(JobAction::Cancel); });
     connect(m_hold, &QPushButton::clicked, this,
             [this] { Q_EMIT actionWanted(m_holds ? JobAction::Hold : JobAction::Release); });
@@ -94,6 +104,8 @@ void ResultPage::showSubmission(const QString &printer, const QString &documents
     m_documents->setVisible(!documents.isEmpty());
     m_notes->setText(wrappable(job.differences.join(QLatin1Char('\n'))));
     m_notes->setVisible(!job.differences.isEmpty());
+    if (!m_again)
+        buildActions();
     m_problem->hide();
     m_state->clear();
     if (submission.isAccepted()) {

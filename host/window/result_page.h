@@ -34,6 +34,7 @@ Q_SIGNALS:
     void printAgainWanted();
 
 private:
+    void buildActions();
     void showActions(const JobStatus &status);
     void showUnknown(const Submission &submission);
     QString sentence(const JobStatus &status) const;
@@ -43,10 +44,10 @@ private:
     QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
-    QLabel *m_problem;
-    QPushButton *m_cancelJob;
-    QPushButton *m_hold;
-    QPushButton *m_again;
+    QLabel *m_problem = nullptr;
+    QPushButton *m_cancelJob = nullptr;
+    QPushButton *m_hold = nullptr;
+    QPushButton *m_again = nullptr;
     bool m_holds = false; // what m_hold does; else it releases
     QString m_printer;
     int m_id = 0;
