@@ -85,6 +85,7 @@ void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
+    connect(m_picker, &PrinterPicker::opened, this, &PrintWindow::searchNetwork);
     connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
@@ -106,7 +107,9 @@ void PrintWindow::connectAll()
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
-    connect(m_follower, &JobFollower::changed, m_result, &ResultPage::showStatus);
+    connect(m_follower, &JobFollower::changed, this, &PrintWindow::showJob);
+    connect(m_result, &ResultPage::actionWanted, this, &PrintWindow::changeJob);
+    connect(m_result, &ResultPage::printAgainWanted, this, &PrintWindow::printAgain);
     connect(&m_stateTimer, &QTimer::timeout, this, &PrintWindow::askState);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
     connect(m_cancel, &QPushButton::clicked, this, [this] {

@@ -26,6 +26,7 @@ class DialogWaiter;
 class HeldSignals;
 class JobFollower;
 class MessageBar;
+class NetworkSearch;
 class PageBook;
 class PrinterPicker;
 class ResultPage;
@@ -82,6 +83,8 @@ public Q_SLOTS:
     void print();
     void reject() override;
     void loadPrinterList();
+    // Looks, once, for printers that the print server has no queue for.
+    void searchNetwork();
     // Does what can wait until the user sees the window.
     void finishLater();
     void retry();
@@ -129,6 +132,9 @@ private:
     void send();
     void sent(Submission submission);
     void showResult();
+    void showJob(const JobStatus &status);
+    void changeJob(JobAction action);
+    void printAgain();
     QString documentNames() const;
 
     PrintSystem &m_system;
@@ -150,6 +156,8 @@ private:
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<Submission> m_submitting;
+    platform::Awaited<PrintError> m_jobChange;
+    bool m_jobWasTold = false; // to who looks elsewhere
     QTimer m_progressTimer;
     QTimer m_stateTimer;
 
@@ -167,6 +175,7 @@ private:
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
     JobFollower *m_follower;
+    NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
     QSize m_room; // null for what the screen has free

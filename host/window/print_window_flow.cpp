@@ -5,7 +5,9 @@
 
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
+#include "host/printing/network_search.h"
 #include "host/session/carry_over.h"
+#include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
 #include "host/window/message_bar.h"
@@ -215,6 +217,17 @@ void PrintWindow::loadPrinterList()
         });
 }
 
+void PrintWindow::searchNetwork()
+{
+    if (m_networkSearch)
+        return;
+    m_networkSearch = new NetworkSearch(m_system, this);
+    connect(m_networkSearch, &NetworkSearch::found, m_picker, &PrinterPicker::putFound);
+    connect(m_networkSearch, &NetworkSearch::ended, this, [this] { m_picker->setSearching(false); });
+    m_picker->setSearching(true);
+    m_networkSearch->begin();
+}
+
 void PrintWindow::askState()
 {
     if (!m_session || m_session->destination().queue.isEmpty() || m_stateQuestion.isPending())
@@ -361,6 +374,48 @@ void PrintWindow::showResult()
     m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
     m_cancel->setAccessibleDescription(m_result->text());
     m_cancel->setFocus();
+}
+
+// Whoever looks elsewhere is told once that the job is done, and once that it needs somebody.
+void PrintWindow::showJob(const JobStatus &status)
+{
+    m_result->showStatus(status);
+    const bool isNews = status.isFinal() || status.needsSomebody();
+    if (!isNews)
+        m_jobWasTold = false;
+    else if (!std::exchange(m_jobWasTold, !status.isFinal()) && !isActiveWindow())
+        notifyDesktop(windowTitle(), m_result->text(), status.state != JobStatus::State::Completed);
+}
+
+void PrintWindow::changeJob(JobAction action)
+{
+    if (m_jobChange.isPending())
+        return;
+    m_jobChange.start(
+        this,
+        [&system = m_system, destination = m_session->destination(), id = m_submission->job.id, action] {
+            PrintError error;
+            system.changeJob(destination, id, action, &error);
+            return error;
+        },
+        [this](const PrintError &error) {
+            if (error)
+                m_result->showProblem(error.message);
+            m_follower->askSoon();
+        });
+}
+
+// The same documents with the same settings, once more.
+void PrintWindow::printAgain()
+{
+    m_follower->stop();
+    m_jobChange.drop();
+    m_submission.reset();
+    m_cancel->setText(tr("Cancel"));
+    m_cancel->setAccessibleDescription(QString());
+    m_print->setDefault(true);
+    m_jobWasTold = false;
+    send();
 }
 
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.

@@ -27,6 +27,10 @@ public:
     void setPrinters(const QList<Destination> &printers);
     // One more printer, or news of one that is there.
     void putPrinter(const Destination &printer);
+    // A printer that was found in the network.
+    void putFound(const Destination &printer);
+    // Whether more of them may come.
+    void setSearching(bool searching);
     // Shows a printer without announcing it; adds it where the list lacks it.
     void setCurrent(const Destination &printer);
     // The name of a printer that has been asked for and is not known yet.
@@ -42,6 +46,8 @@ public:
 Q_SIGNALS:
     // The user chose another printer, by destination name.
     void picked(const QString &name);
+    // The list is shown.
+    void opened();
 
 private:
     void describe(const Destination &printer);
