@@ -284,6 +284,16 @@ QString Policy::Rule::lockedChoice(const PpdDocument *ppd, const QString &keywor
     return option && option->hasChoice(choice) ? choice : QString();
 }
 
+QMap<QString, QString> Policy::Rule::lockedChoices(const PpdDocument *ppd) const
+{
+    QMap<QString, QString> choices;
+    for (const QString &keyword : locked.keys()) {
+        if (const QString choice = lockedChoice(ppd, keyword); !choice.isNull())
+            choices.insert(keyword, choice);
+    }
+    return choices;
+}
+
 void Policy::Rule::applyTo(Destination *destination, const PpdDocument *ppd) const
 {
     for (auto it = defaults.begin(); it != defaults.end(); ++it) {
@@ -292,10 +302,7 @@ void Policy::Rule::applyTo(Destination *destination, const PpdDocument *ppd) con
         if (!isLacking && !destination->options.contains(it.key()))
             destination->options.insert(it.key(), it.value());
     }
-    for (const QString &keyword : locked.keys()) {
-        if (const QString choice = lockedChoice(ppd, keyword); !choice.isNull())
-            destination->options.insert(keyword, choice);
-    }
+    destination->options.insert(lockedChoices(ppd));
 }
 
 } // namespace host

@@ -35,6 +35,7 @@ public:
         // The choice that an option is fixed to; nil where it is free, or where this printer lacks the
         // choice.
         QString lockedChoice(const PpdDocument *ppd, const QString &keyword) const;
+        QMap<QString, QString> lockedChoices(const PpdDocument *ppd) const; // all of them
         // Makes defaults and locked choices options of the destination, but for those that the printer lacks.
         void applyTo(Destination *destination, const PpdDocument *ppd) const;
     };

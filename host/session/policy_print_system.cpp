@@ -121,6 +121,19 @@ JobStatus PolicyPrintSystem::jobStatus(const Destination &destination, int jobId
     return m_system.jobStatus(destination, jobId);
 }
 
+bool PolicyPrintSystem::changeJob(const Destination &destination, int jobId, JobAction action,
+                                  PrintError *error)
+{
+    return m_system.changeJob(destination, jobId, action, error);
+}
+
+void PolicyPrintSystem::searchNetwork(const std::function<bool(const Destination &)> &found)
+{
+    m_system.searchNetwork([&](const Destination &destination) {
+        return !m_policy.offers(destination.queue) || found(destination);
+    });
+}
+
 std::optional<Destination> PolicyPrintSystem::withState(const Destination &destination)
 {
     return m_system.withState(destination);

@@ -25,6 +25,8 @@ public:
     // Rejected, with what and by whom, where a locked option has another choice or lacks its code.
     Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
+    bool changeJob(const Destination &destination, int jobId, JobAction action, PrintError *error) override;
+    void searchNetwork(const std::function<bool(const Destination &)> &found) override; // of those offered
     std::optional<Destination> withState(const Destination &destination) override;
     void setLoginPrompt(LoginPrompt prompt) override;
 

@@ -41,7 +41,7 @@ _kelmar_print()
         fi
         return
         ;;
-    -n | --copies | -P | --pages | -t | --title | -h | --server | -s | --set | --ask | -o)
+    -n | --copies | -P | --pages | -t | --title | -h | --server | -s | --set | --ask | -o | --save-preset | --delete-preset)
         return
         ;;
     esac

@@ -22,6 +22,9 @@ _arguments -s \
     '--resolve[accept the proposal when settings cannot be used together]' \
     '--summary[write the summary of the settings]' \
     '--list-options[write the options of the printer and their choices]' \
+    '--presets[write the presets of the printer]' \
+    '--save-preset[keep the settings as a preset of the printer]:name' \
+    '--delete-preset[delete a preset of the printer]:name' \
     '--json[write results and errors as JSON]' \
     '--ppd[take the options from this PPD file]:file:_files -g "*.ppd(|.gz)"' \
     '*--bundle[load the panels of this bundle]:folder:_files -/' \
