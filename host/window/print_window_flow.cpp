@@ -266,10 +266,15 @@ void PrintWindow::print()
         return;
     m_session->save();
     sessionChanged();
-    if (showConflicts()) {
+    if (showConflicts(true)) {
         m_bar->takeFocus();
         return;
     }
+    deliver();
+}
+
+void PrintWindow::deliver()
+{
     if (m_task.settingsOnly) {
         RememberedPrinter().setName(m_session->destination().name());
         accept();
