@@ -127,11 +127,14 @@ void Finder::seek()
     if (!control)
         return;
     m_sought.reset();
-    if (!control->isVisible()) // in a view of its panel that is not open
+    if (!control->parentWidget()->isVisible()) // in a view of its panel that is not open
         return;
+    control->show(); // a row that has just been built waits for its layout
     control->setFocus(Qt::OtherFocusReason);
-    page->reveal(control);
-    flash(control);
+    QTimer::singleShot(0, control, [page, control] {
+        page->reveal(control);
+        flash(control);
+    });
 }
 
 } // namespace host

@@ -7,6 +7,7 @@
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/search_bar.h"
+#include "platform/background.h"
 #include "tests/host/host_fixture.h"
 
 #include <QAbstractButton>
@@ -207,6 +208,8 @@ void PseudoLocaleTest::everyPage()
     checkTexts();
     checkRoom();
     takePicture(u"result"_s);
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    QCoreApplication::processEvents();
     m_window.reset();
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
