@@ -23,6 +23,8 @@ struct GeneralSettings
 
     static constexpr int maxCopies = 9999;
 
+    bool operator==(const GeneralSettings &) const = default;
+
     // The user's and the queue's defaults among a destination's options. What is no such value is passed
     // over. A PPD's default for collating counts for nothing: it is set to suit the filters, not the user.
     static GeneralSettings from(const QMap<QString, QString> &options);

@@ -19,17 +19,32 @@ struct SummaryText
 
 } // namespace
 
+QList<SummaryEntry> generalEntries(const GeneralSettings &general)
+{
+    QList<SummaryEntry> entries;
+    entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
+    if (general.copies > 1)
+        entries.append(
+            {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
+    entries.append(
+        {SummaryText::tr("Pages"), general.pages.isEmpty() ? SummaryText::tr("All") : general.pages});
+    return entries;
+}
+
+QString keyOfGeneralEntry(const QString &name)
+{
+    if (name == SummaryText::tr("Copies"))
+        return QStringLiteral("copies");
+    if (name == SummaryText::tr("Collate"))
+        return QStringLiteral("multiple-document-handling");
+    return name == SummaryText::tr("Pages") ? QStringLiteral("page-ranges") : QString();
+}
+
 SummarySection generalSummary(const DialogSession &session)
 {
-    const GeneralSettings &general = session.general();
     SummarySection section{SummaryText::tr("General"), {}};
     section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
-    section.entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
-    if (general.copies > 1)
-        section.entries.append(
-            {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
-    section.entries.append(
-        {SummaryText::tr("Pages"), general.pages.isEmpty() ? SummaryText::tr("All") : general.pages});
+    section.entries += generalEntries(session.general());
     if (!session.ppd())
         return section;
     for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {

@@ -26,6 +26,10 @@ GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
       m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
       m_problem(new QLabel(this))
 {
+    // By the names that a job has for them.
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
+    m_pages->setObjectName(QStringLiteral("page-ranges"));
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(24, 20, 24, 20);
     grid->setHorizontalSpacing(12);
@@ -178,8 +182,28 @@ void GeneralPage::changeEvent(QEvent *event)
 
 void GeneralPage::refresh()
 {
+    showGeneral();
     if (m_form)
         m_form->refresh();
+}
+
+// What is being typed stays, as far as it says what is set.
+void GeneralPage::showGeneral()
+{
+    const GeneralSettings general = m_session->general();
+    m_copies->setValue(general.copies);
+    m_collate->setChecked(general.collate);
+    const QString typed = m_somePages->isChecked()
+                              ? normalizedPageRanges(m_pages->text(), nullptr).value_or(QString())
+                              : QString();
+    if (typed == general.pages)
+        return;
+    const QSignalBlocker quiet(m_somePages); // which gives the field the focus
+    m_pages->setEnabled(!general.pages.isEmpty());
+    m_somePages->setChecked(!general.pages.isEmpty());
+    m_allPages->setChecked(general.pages.isEmpty());
+    m_pages->setText(general.pages);
+    pagesEdited();
 }
 
 } // namespace host

@@ -41,6 +41,7 @@ protected:
 private:
     void addCopies(QGridLayout *grid);
     void enableCollate();
+    void showGeneral();
     void addPages(QGridLayout *grid);
     void pagesEdited();
     QString pagesProblem() const;

@@ -256,8 +256,7 @@ void FindSettingTest::answersAtOnce()
 
 void FindSettingTest::greyedChoiceIsOffered()
 {
-    m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
-    m_window->book()->refresh();
+    pick(u"MediaType"_s, u"Thick1"_s);
     pick(u"Duplex"_s, u"DuplexNoTumble"_s);
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s); // nothing has changed yet
     QVERIFY2(barText().contains(u"“Two-Sided Printing: Long-Edge Binding” is not available now"_s) &&
@@ -267,6 +266,11 @@ void FindSettingTest::greyedChoiceIsOffered()
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
     QVERIFY(m_window->session()->conflicts().isEmpty() && !m_window->messageBar()->isShowing());
     QCOMPARE(box(u"Duplex"_s)->choiceKeyword(box(u"Duplex"_s)->currentIndex()), u"DuplexNoTumble"_s);
+
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier); // one step
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick1"_s);
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
 
     pick(u"MediaType"_s, u"Thick2"_s); // and this time everything stays as it is
     m_window->messageBar()->buttons().last()->click();

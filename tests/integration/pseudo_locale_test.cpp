@@ -248,6 +248,9 @@ void PseudoLocaleTest::checkRoom()
         const auto *label = qobject_cast<const QLabel *>(widget);
         const QSize wanted = label && label->wordWrap() ? QSize(0, label->heightForWidth(label->width()))
                                                         : widget->minimumSizeHint();
+        const auto *box = qobject_cast<const QComboBox *>(widget);
+        if (box && box->sizeAdjustPolicy() == QComboBox::AdjustToMinimumContentsLengthWithIcon)
+            continue; // is made to be narrower than its texts
         if (wanted.width() > widget->width() || wanted.height() > widget->height())
             QTest::qFail(qPrintable(u"clipped: %1, %2x%3 of %4x%5"_s.arg(describe(widget))
                                         .arg(widget->width())
