@@ -6,7 +6,6 @@
 #include "host/printing/option_text.h"
 #include "host/session/page_ranges.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -14,11 +13,6 @@
 namespace host {
 
 namespace {
-
-struct ApplicationText
-{
-    Q_DECLARE_TR_FUNCTIONS(ApplicationText)
-};
 
 const QString pageSize = QStringLiteral("PageSize");
 
@@ -51,34 +45,6 @@ void mark(const QString &name, const QString &value, DialogSession *session)
         session->markChoice(it.key(), it.value());
 }
 
-QString noticeAbout(const NamedValues &jobOptions)
-{
-    QStringList parts;
-    for (const auto &[name, value] : jobOptions) {
-        if (name == QLatin1String("number-up") && value != QLatin1String("1"))
-            parts.append(ApplicationText::tr("%1 pages on each side").arg(value));
-        else if (name == QLatin1String("outputorder") && value == QLatin1String("reverse"))
-            parts.append(ApplicationText::tr("last page first"));
-    }
-    return parts.isEmpty()
-               ? QString()
-               : ApplicationText::tr("The application asks for: %1.").arg(parts.join(QStringLiteral(", ")));
-}
-
-// What the print server does to the pages whatever the printer is.
-bool isForServer(const QString &name)
-{
-    static const QStringList names = {
-        QStringLiteral("number-up"),     QStringLiteral("number-up-layout"),
-        QStringLiteral("page-border"),   QStringLiteral("outputorder"),
-        QStringLiteral("page-set"),      QStringLiteral("orientation-requested"),
-        QStringLiteral("landscape"),     QStringLiteral("fit-to-page"),
-        QStringLiteral("print-scaling"), QStringLiteral("mirror"),
-        QStringLiteral("page-left"),     QStringLiteral("page-right"),
-        QStringLiteral("page-top"),      QStringLiteral("page-bottom")};
-    return names.contains(name);
-}
-
 } // namespace
 
 StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
@@ -92,7 +58,7 @@ StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
             start.collate = switchValue(value).value_or(true);
         else if (name == QLatin1String("page-ranges"))
             start.pages = value;
-        else if (isForServer(name))
+        else if (isPageOption(name))
             start.jobOptions.append({name, value});
         else
             start.choices.append({name, value});
@@ -110,8 +76,6 @@ void beginWith(const StartingSettings &start, DialogSession *session)
         for (const auto &[name, value] : start.choices)
             mark(name, value, session);
     }
-    if (const QString notice = noticeAbout(start.jobOptions); !notice.isEmpty())
-        session->addNotice(notice);
 }
 
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats)

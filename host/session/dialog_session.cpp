@@ -471,8 +471,8 @@ QList<SummarySection> DialogSession::summary()
 
 QList<JobOption> DialogSession::jobOptions() const
 {
-    return host::jobOptions(
-        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(), m_general});
+    return host::jobOptions({m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(),
+                             m_general, m_startingGeneral});
 }
 
 } // namespace host

@@ -24,6 +24,7 @@ GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options)
     const QString handling = options.value(QStringLiteral("multiple-document-handling"));
     if (!handling.isEmpty())
         settings.collate = !handling.contains(QLatin1String("uncollated"));
+    settings.layout = PageLayoutSettings::from(options);
     return settings;
 }
 

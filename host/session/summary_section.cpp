@@ -30,6 +30,8 @@ SummarySection generalSummary(const DialogSession &session)
             {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
     section.entries.append(
         {SummaryText::tr("Pages"), general.pages.isEmpty() ? SummaryText::tr("All") : general.pages});
+    for (const auto &[name, value] : general.layout.inWords())
+        section.entries.append({name, value});
     if (!session.ppd())
         return section;
     for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {

@@ -6,6 +6,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/page_ranges.h"
 #include "host/window/contrast.h"
+#include "host/window/layout_form.h"
 #include "host/window/option_form.h"
 
 #include <QCheckBox>
@@ -37,6 +38,8 @@ GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
         m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
+    m_layout = new LayoutForm(session, grid, this);
+    connect(m_layout, &LayoutForm::changed, this, &GeneralPage::pagesChanged);
     grid->setRowStretch(grid->rowCount(), 1);
 }
 
@@ -176,6 +179,7 @@ void GeneralPage::refresh()
 {
     if (m_form)
         m_form->refresh();
+    m_layout->refresh();
 }
 
 } // namespace host

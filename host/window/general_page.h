@@ -16,6 +16,7 @@ class QSpinBox;
 namespace host {
 
 class DialogSession;
+class LayoutForm;
 class OptionForm;
 
 // What every printer can be asked: copies, pages, and of paper, tray and two-sided printing what its PPD has.
@@ -34,6 +35,8 @@ public:
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
+    // Which pages are printed, or how, has become another.
+    void pagesChanged();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -55,6 +58,7 @@ private:
     QLineEdit *m_pages;
     QLabel *m_problem;
     OptionForm *m_form = nullptr;
+    LayoutForm *m_layout = nullptr;
 };
 
 } // namespace host
