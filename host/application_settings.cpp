@@ -72,6 +72,10 @@ void beginWith(const StartingSettings &start, DialogSession *session)
     general.copies = start.copies;
     general.collate = start.collate.value_or(general.collate);
     general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
+    if (start.currentPage && general.offersCurrentPage)
+        general.part = GeneralSettings::Part::CurrentPage;
+    if (start.selection && general.offersSelection)
+        general.part = GeneralSettings::Part::Selection;
     if (session->ppd()) {
         for (const auto &[name, value] : start.choices)
             mark(name, value, session);
@@ -85,6 +89,8 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
                              session.general().pages,
                              {},
                              formats.isEmpty() || formats.contains(pdf) ? pdf : formats.first()};
+    choice.currentPage = session.general().part == GeneralSettings::Part::CurrentPage;
+    choice.selection = session.general().part == GeneralSettings::Part::Selection;
     const PpdDocument *ppd = session.ppd();
     const QStringList general = ppd ? generalOptionKeywords(*ppd) : QStringList();
     for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {

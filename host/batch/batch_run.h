@@ -37,6 +37,7 @@ private:
     bool openSession(PrintError *error);
     ExitCode settleConflicts();
     ExitCode submit();
+    ExitCode writePdf();
     ExitCode fail(const PrintError &error);
     int told(ResultWriter *writer, ExitCode code);
 

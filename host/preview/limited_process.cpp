@@ -3,7 +3,7 @@
 
 #include "host/preview/limited_process.h"
 
-#include <QFileInfo>
+#include <QCoreApplication>
 
 #include <csignal>
 
@@ -118,19 +118,25 @@ void LimitedProcess::stop()
 {
     m_timer.stop();
     m_output.reset();
-    killAll();
-    m_process.reset();
+    letGo();
 }
 
-// The process, and what it has started.
-void LimitedProcess::killAll()
+// Ends the process and what it has started. Nobody waits until it is gone.
+void LimitedProcess::letGo()
 {
     if (!m_process)
         return;
-    m_process->disconnect(this);
-    if (m_process->processId() > 0)
-        ::kill(-static_cast<pid_t>(m_process->processId()), SIGKILL);
-    m_process->kill();
+    QProcess *const process = m_process.release();
+    process->disconnect(this);
+    if (process->state() == QProcess::NotRunning) {
+        process->deleteLater(); // it may be what calls this
+        return;
+    }
+    if (process->processId() > 0)
+        ::kill(-static_cast<pid_t>(process->processId()), SIGKILL);
+    process->kill();
+    process->setParent(QCoreApplication::instance());
+    connect(process, &QProcess::finished, process, &QObject::deleteLater);
 }
 
 void LimitedProcess::finish(bool isDone)
@@ -138,8 +144,7 @@ void LimitedProcess::finish(bool isDone)
     if (!m_process)
         return;
     m_timer.stop();
-    killAll();
-    m_process.release()->deleteLater(); // it is what calls this
+    letGo();
     const SharedFile output = isDone ? std::move(m_output) : nullptr;
     m_output.reset();
     Q_EMIT ended(output);

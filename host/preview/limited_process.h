@@ -75,7 +75,7 @@ Q_SIGNALS:
 
 private:
     void finish(bool isDone);
-    void killAll();
+    void letGo();
 
     Limits m_limits;
     std::unique_ptr<QProcess> m_process;

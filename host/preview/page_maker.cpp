@@ -62,7 +62,7 @@ void PageMaker::convert()
         run(Step::Convert, QStringLiteral("gs"),
             {QStringLiteral("-q"), QStringLiteral("-dBATCH"), QStringLiteral("-dNOPAUSE"),
              QStringLiteral("-dSAFER"), QStringLiteral("-sDEVICE=pdfwrite"),
-             QStringLiteral("-sOutputFile=/dev/stdout"), QStringLiteral("-sstdout=/dev/null"), document});
+             QStringLiteral("-sOutputFile=/dev/stdout"), QStringLiteral("-sstdout=%stderr"), document});
     } else if (m_document.format.startsWith(QLatin1String("image/")) && !m_document.isDrawingInText) {
         runFilter(Step::Convert, QStringLiteral("imagetopdf"));
     } else if (isA(QStringLiteral("text/plain")) && !m_document.isDrawingInText) {

@@ -5,6 +5,7 @@
 
 #include "host/preview/page_tools.h"
 #include "host/printing/documents.h"
+#include "host/printing/page_settings.h"
 
 #include <QObject>
 

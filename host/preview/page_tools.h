@@ -4,13 +4,9 @@
 #pragma once
 
 #include "host/preview/limited_process.h"
-#include "host/printing/ppd_document.h"
 
-#include <QList>
 #include <QString>
 #include <QStringList>
-
-#include <utility>
 
 namespace host {
 
@@ -23,21 +19,6 @@ struct PageTools
     static PageTools installed();
     // The path of a program; empty when it is not installed.
     QString path(const QString &program) const;
-};
-
-// What is asked for of a document's pages. Only options that say how pages are put on paper: they get onto
-// command lines, which every user of the machine can read. A value.
-struct PageSettings
-{
-    QList<std::pair<QString, QString>> options; // of the job
-    PaperSize paper;                            // without measures for A4 without margins
-    bool isMonochrome = false;
-
-    bool operator==(const PageSettings &other) const;
-    // As filters get them.
-    QString optionText() const;
-    // A PPD with nothing but this paper, for filters.
-    QByteArray ppd() const;
 };
 
 // A file in memory with this content; null when there is no memory for it.

@@ -17,7 +17,7 @@ namespace host {
 
 namespace {
 
-const QString joiner = QStringLiteral("pdfunite");
+const QString joiner = QStringLiteral("qpdf");
 
 // The permissions that a new file gets.
 mode_t usualMode()
@@ -116,8 +116,6 @@ void PdfWriter::made(const SharedFile &pdf, bool)
     m_documents.removeFirst();
     if (!m_documents.isEmpty())
         makeNext();
-    else if (m_parts.size() == 1)
-        store(m_parts.first());
     else
         join();
 }
@@ -129,10 +127,13 @@ void PdfWriter::join()
         fail(tr("%1 is not installed").arg(joiner));
         return;
     }
-    QStringList arguments;
+    // Sheets are turned for the printer; on a screen they are read as they were laid out.
+    QStringList arguments = {QStringLiteral("--empty"), QStringLiteral("--warning-exit-0"),
+                             QStringLiteral("--pages")};
     for (const SharedFile &part : std::as_const(m_parts))
         arguments.append(LimitedProcess::pathFor(part));
-    m_joiner.start({path, arguments + QStringList(QStringLiteral("/dev/stdout")), m_parts.first(), m_parts});
+    arguments += {QStringLiteral("--"), QStringLiteral("--rotate=0"), QStringLiteral("-")};
+    m_joiner.start({path, arguments, m_parts.first(), m_parts});
 }
 
 void PdfWriter::store(const SharedFile &pdf)

@@ -70,12 +70,13 @@ std::optional<PageFacts> readPageFacts(const SharedFile &text)
                                           QRegularExpression::MultilineOption);
     static const QRegularExpression size(QStringLiteral("^Page size:\\s+([\\d.]+) x ([\\d.]+) pts"),
                                          QRegularExpression::MultilineOption);
-    static const QRegularExpression turned(QStringLiteral("^Page rot:\\s+(90|270)$"),
+    static const QRegularExpression turned(QStringLiteral("^Page rot:\\s+(90|180|270)$"),
                                            QRegularExpression::MultilineOption);
     const QRegularExpressionMatch sides = size.match(said);
     PageFacts facts{count.match(said).captured(1).toInt(),
                     {sides.captured(1).toDouble(), sides.captured(2).toDouble()}};
-    if (turned.match(said).hasMatch())
+    facts.rotation = turned.match(said).captured(1).toInt();
+    if (facts.rotation % 180 != 0)
         facts.size.transpose();
     if (facts.pages < 1 || facts.pages > mostPages)
         return std::nullopt;
@@ -104,13 +105,7 @@ Preview::Preview(const PageTools &tools, QObject *parent)
         m_documentFacts = readPageFacts(output);
         Q_EMIT changed();
     });
-    connect(&m_counter, &LimitedProcess::ended, this, [this](const SharedFile &output) {
-        m_facts = readPageFacts(output);
-        if (m_facts)
-            Q_EMIT changed();
-        else
-            fail(tr("the pages cannot be counted"));
-    });
+    connect(&m_counter, &LimitedProcess::ended, this, [this](const SharedFile &output) { counted(output); });
     connect(&m_pageRenderer, &LimitedProcess::ended, this, &Preview::keepPage);
     connect(&m_thumbnailRenderer, &LimitedProcess::ended, this, &Preview::keepThumbnails);
 }
@@ -212,12 +207,12 @@ void Preview::documentMade(const SharedFile &pdf)
 
 void Preview::made(const SharedFile &pdf, bool asPrinted)
 {
-    const int wanted = m_wantedPage, thumbnail = m_wantedThumbnail;
+    const int thumbnail = m_wantedThumbnail;
     forgetPages();
     m_isStale = false;
     m_pdf = pdf;
     m_isAsPrinted = asPrinted;
-    m_wantedPage = wanted;
+    m_wantedPage = m_lookedAt;
     m_wantedThumbnail = thumbnail;
     count(&m_counter, pdf);
     renderNext();
@@ -248,10 +243,34 @@ void Preview::count(LimitedProcess *process, const SharedFile &pdf)
     process->start({m_tools.path(counter), {document}, pdf, {}, {QStringLiteral("LC_ALL=C.UTF-8")}});
 }
 
+void Preview::counted(const SharedFile &output)
+{
+    m_facts = readPageFacts(output);
+    if (!m_facts) {
+        fail(tr("the pages cannot be counted"));
+        return;
+    }
+    Q_EMIT changed();
+    for (const int index : m_pages.keys()) // drawn, and not told of before it was known how they lie
+        if (m_facts)
+            Q_EMIT pageMade(index);
+    renderNext();
+}
+
+QImage Preview::upright(const QImage *picture) const
+{
+    // Upside down is what somebody wants; sideways is how the printer takes the paper.
+    const int rotation = m_facts && m_isAsPrinted ? m_facts->rotation : 0;
+    return rotation % 180 == 0 ? *picture : picture->transformed(QTransform().rotate(-rotation));
+}
+
 QImage Preview::page(int index)
 {
-    if (const QImage *known = m_pages.object(index))
-        return *known;
+    m_lookedAt = index;
+    if (const QImage *known = m_facts ? m_pages.object(index) : nullptr)
+        return upright(known);
+    if (m_pages.contains(index))
+        return {};
     m_wantedPage = index;
     renderNext();
     return {};
@@ -260,7 +279,7 @@ QImage Preview::page(int index)
 QImage Preview::thumbnail(int index)
 {
     if (const QImage *known = m_thumbnails.object(index))
-        return *known;
+        return upright(known);
     m_wantedThumbnail = index;
     renderNext();
     return {};

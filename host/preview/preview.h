@@ -18,7 +18,8 @@ namespace host {
 struct PageFacts
 {
     int pages = 0;
-    QSizeF size; // of the first page, in points
+    QSizeF size;      // of the first page as it is shown, in points
+    int rotation = 0; // of the first page: degrees clockwise, from how it was laid out
 };
 // From what pdfinfo says of it; nil when that makes no sense.
 std::optional<PageFacts> readPageFacts(const SharedFile &text);
@@ -50,8 +51,9 @@ public:
     // Why there is nothing to see; nil when there is, or will be.
     const QString &problem() const { return m_problem; }
 
-    // A page of about this height or width in pixels, whichever is more; null when it is still to be made,
-    // which begins now: pageMade() follows. The last one asked for of each size is made first.
+    // A page as it was laid out, of about this height or width in pixels, whichever is more; null when it is
+    // still to be made, which begins now: pageMade() follows. The last one asked for of each size is made
+    // first.
     QImage page(int index);
     QImage thumbnail(int index);
     static constexpr int pagePixels = 900;
@@ -78,6 +80,8 @@ private:
     void count(LimitedProcess *process, const SharedFile &pdf);
     void render(LimitedProcess *process, int first, int last, int pixels);
     void renderNext();
+    void counted(const SharedFile &output);
+    QImage upright(const QImage *picture) const;
     void keepPage(const SharedFile &output);
     void keepThumbnails(const SharedFile &output);
     void forgetPages();
@@ -100,6 +104,7 @@ private:
     std::optional<PageFacts> m_documentFacts, m_facts;
     QString m_problem;
     QCache<int, QImage> m_pages, m_thumbnails; // cost in kilobytes
+    int m_lookedAt = -1;                       // the page that was asked for last
     int m_wantedPage = -1, m_wantedThumbnail = -1;
     int m_pageUnderWay = -1, m_thumbnailUnderWay = -1; // the first
 };

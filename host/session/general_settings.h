@@ -23,6 +23,11 @@ struct GeneralSettings
     bool collate = true;
     QString pages; // normalised ranges; empty for all
     PageLayoutSettings layout;
+    // Where another program makes the pages, it may know which one it shows, and what is selected there.
+    enum class Part { Pages, CurrentPage, Selection };
+    Part part = Part::Pages;
+    bool offersCurrentPage = false;
+    bool offersSelection = false;
 
     static constexpr int maxCopies = 9999;
 

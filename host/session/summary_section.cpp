@@ -28,8 +28,11 @@ SummarySection generalSummary(const DialogSession &session)
     if (general.copies > 1)
         section.entries.append(
             {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
-    section.entries.append(
-        {SummaryText::tr("Pages"), general.pages.isEmpty() ? SummaryText::tr("All") : general.pages});
+    QString pages = general.pages.isEmpty() ? SummaryText::tr("All") : general.pages;
+    if (general.part != GeneralSettings::Part::Pages)
+        pages = general.part == GeneralSettings::Part::CurrentPage ? SummaryText::tr("Current page")
+                                                                   : SummaryText::tr("Selection");
+    section.entries.append({SummaryText::tr("Pages"), pages});
     for (const auto &[name, value] : general.layout.inWords())
         section.entries.append({name, value});
     if (!session.ppd())

@@ -3,11 +3,15 @@
 
 #include "host/window/page_book.h"
 
+#include "host/preview/page_tools.h"
 #include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
+#include "host/session/printed_pages.h"
 #include "host/window/general_page.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
 #include "host/window/page_list.h"
+#include "host/window/preview_pane.h"
 #include "host/window/separator.h"
 #include "host/window/summary_page.h"
 
@@ -25,17 +29,27 @@ const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
 const QString summaryName = QStringLiteral("summary");
 
+// How wide the preview is, in pixels.
+constexpr int leastPreview = 160;
+constexpr int preferredPreview = 260;
+constexpr int mostPreview = 420;
+
 } // namespace
 
 PageBook::PageBook(QWidget *parent)
-    : QWidget(parent), m_list(new PageList(this)), m_stack(new QStackedWidget(this))
+    : QWidget(parent), m_list(new PageList(this)), m_area(new QWidget(this)),
+      m_stack(new QStackedWidget(m_area))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_list);
     row->addWidget(new Separator(Qt::Vertical, this));
-    row->addWidget(m_stack, 1);
+    row->addWidget(m_area, 1);
+    auto *pages = new QHBoxLayout(m_area);
+    pages->setContentsMargins(0, 0, 0, 0);
+    pages->setSpacing(0);
+    pages->addWidget(m_stack, 1);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
 }
@@ -43,6 +57,51 @@ PageBook::PageBook(QWidget *parent)
 PageBook::~PageBook()
 {
     clear(); // panels own their views
+}
+
+void PageBook::setDocuments(DocumentChoice *documents)
+{
+    m_documents = documents;
+    if (documents->paths().isEmpty())
+        return;
+    m_preview = new PreviewPane(documents, m_area);
+    m_preview->hide();
+    m_area->layout()->addWidget(m_preview);
+    connect(m_preview, &PreviewPane::documentPagesChanged, this, [this] {
+        if (m_general)
+            m_general->setPageCount(m_preview->documentPages());
+    });
+}
+
+void PageBook::beginPreview()
+{
+    if (!m_preview || std::exchange(m_previewBegun, true))
+        return;
+    updatePreview();
+    m_preview->begin(PageTools::installed());
+}
+
+bool PageBook::isGeneral() const
+{
+    return m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == generalName;
+}
+
+// Beside the general page, where there is room for both.
+void PageBook::fitPreview()
+{
+    if (!m_preview)
+        return;
+    const int room = isGeneral() ? width() - wantedWidth() + preferredPreview : 0;
+    m_preview->setVisible(room >= leastPreview);
+    if (room >= leastPreview)
+        m_preview->setFixedWidth(qMin(room, mostPreview));
+    updatePreview();
+}
+
+void PageBook::updatePreview()
+{
+    if (m_session && m_previewBegun && m_preview->isVisibleTo(this))
+        m_preview->setSettings(pageSettings(*m_session), isTwoSided(*m_session));
 }
 
 void PageBook::setSession(DialogSession *session)
@@ -71,6 +130,7 @@ void PageBook::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     fitList();
+    fitPreview();
 }
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
@@ -91,8 +151,12 @@ QWidget *PageBook::contentOf(const Page &page)
     if (page.panel >= 0)
         return m_session->panel(page.panel)->panelView();
     if (page.name == generalName) {
-        m_general = new GeneralPage(m_session);
+        m_general = new GeneralPage(m_session, m_documents);
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+        connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
+        connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
+        if (m_preview)
+            m_general->setPageCount(m_preview->documentPages());
         return m_general;
     }
     if (page.name == moreName) {
@@ -164,6 +228,7 @@ void PageBook::showPage(int row)
     page.frame->scrollToTop();
     if (wasOnPage) // it would go to whatever comes next
         m_list->setFocus();
+    fitPreview();
     Q_EMIT shown();
 }
 
@@ -187,6 +252,7 @@ void PageBook::refresh()
         m_more->refresh();
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
         m_summary->show(m_session->summary());
+    updatePreview();
 }
 
 void PageBook::turn(int steps)
@@ -198,12 +264,13 @@ void PageBook::turn(int steps)
 int PageBook::wantedWidth() const
 {
     const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
-    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() : 0;
+    const int preview = m_preview && isGeneral() ? preferredPreview : 0;
+    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
 }
 
 QWidget *PageBook::pages() const
 {
-    return m_stack;
+    return m_area;
 }
 
 void PageBook::followFocus(QWidget *now)

@@ -12,10 +12,12 @@ class QStackedWidget;
 namespace host {
 
 class DialogSession;
+class DocumentChoice;
 class GeneralPage;
 class MorePage;
 class PageFrame;
 class PageList;
+class PreviewPane;
 class SummaryPage;
 
 // The pages of a session and the list to choose one from: the general pane, the panels, the other options,
@@ -28,6 +30,10 @@ public:
     explicit PageBook(QWidget *parent);
     ~PageBook() override;
 
+    // What is printed, for the general page and a preview beside it; borrowed. Before the first session.
+    void setDocuments(DocumentChoice *documents);
+    // Starts the preview, once the window can be seen.
+    void beginPreview();
     void setSession(DialogSession *session);
     void clear();
 
@@ -59,6 +65,7 @@ Q_SIGNALS:
     void shown();
     // The user chose something that is marked at once.
     void chosen();
+    void savePdfWanted();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -77,12 +84,19 @@ private:
     bool leave();
     void followFocus(QWidget *now);
     void fitList();
+    bool isGeneral() const;
+    void fitPreview();
+    void updatePreview();
 
     DialogSession *m_session = nullptr;
     std::vector<Page> m_pages;
     int m_current = -1;
     PageList *m_list;
+    QWidget *m_area;
     QStackedWidget *m_stack;
+    DocumentChoice *m_documents = nullptr;
+    PreviewPane *m_preview = nullptr; // null where there is nothing to print
+    bool m_previewBegun = false;
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
     SummaryPage *m_summary = nullptr;
