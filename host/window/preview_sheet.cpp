@@ -23,6 +23,7 @@ void PreviewSheet::showPage(const QImage &page)
 {
     m_page = page;
     m_text.clear();
+    setAccessibleDescription({});
     scale();
 }
 
@@ -30,6 +31,7 @@ void PreviewSheet::showText(const QString &text)
 {
     m_page = QImage();
     m_text = text;
+    setAccessibleDescription(text);
     scale();
 }
 

@@ -5,6 +5,7 @@
 #include "host/window/general_page.h"
 #include "host/window/message_bar.h"
 #include "host/window/preview_pane.h"
+#include "host/window/preview_sheet.h"
 #include "tests/host/window_fixture.h"
 
 #include <QApplication>
@@ -147,14 +148,15 @@ void GeneralPageTest::rangeBeyondTheEnd()
     if (!hasPreview())
         QSKIP("cups-filters or poppler-utils is not installed");
     openWith({report});
-    QTRY_VERIFY2(find<PreviewPane>()->documentPages() == 2, qPrintable(u"%1 %2 %3"_s.arg(m_window->width()).arg(find<PreviewPane>()->isVisible()).arg(find<PreviewPane>()->findChild<QLabel *>() ? 1 : 0)));
+    const auto *sheet = find<PreviewSheet>();
+    QTRY_VERIFY2(find<PreviewPane>()->documentPages() == 2, qPrintable(sheet->accessibleDescription()));
     auto *page = find<GeneralPage>();
     for (auto *radio : page->findChildren<QRadioButton *>())
-        radio->setChecked(radio->text().contains(u"Range"_s));
+        radio->setChecked(radio->text().remove(u'&').contains(u"Range"_s));
     auto *pages = page->findChildren<QLineEdit *>().last();
     QTest::keyClicks(pages, u"2-9"_s);
     QCOMPARE(page->problem(), QString());
-    QTest::keyClicks(pages, u",7"_s);
+    QTest::keyClicks(pages, u",12"_s);
     QCOMPARE(page->problem(), u"The document has only 2 pages."_s);
     choose(u"number-up"_s, u"2"_s);
     pages->setText(u"2"_s);
@@ -174,7 +176,9 @@ void GeneralPageTest::pdfIsWritten()
     dialog->setDirectory(folder.path());
     dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"out"_s));
     QMetaObject::invokeMethod(dialog, "accept");
-    QTRY_COMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Success);
+    QTRY_VERIFY(m_window->messageBar()->isShowing());
+    QVERIFY2(m_window->messageBar()->kind() == MessageBar::Kind::Success,
+             qPrintable(m_window->messageBar()->text()));
     QFile file(folder.filePath(u"out.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF");
     QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());
