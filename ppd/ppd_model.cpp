@@ -67,10 +67,15 @@ std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
     return choice.choice.isNull() ? std::nullopt : std::optional(choice);
 }
 
+// Nil where neither the bundle nor the PPD has a text: the bundle would put the key in its place.
 QString localizedChoiceText(const QString &option, const QString &choice, const QString &text,
                             const platform::Bundle *bundle)
 {
-    return bundle ? bundle->localizedStringForKey(option + u':' + choice, text) : text;
+    if (!bundle)
+        return text;
+    const QString key = option + u':' + choice;
+    const QString found = bundle->localizedStringForKey(key, text);
+    return text.isNull() && found == key ? QString() : found;
 }
 
 } // namespace
@@ -185,9 +190,10 @@ QVPPD_M880::localizedChoicesForOptionWithBundle(const QString &option, const pla
     QList<QVPPDChoice_M880> result;
     for (const ppd_choice_t &record : records) {
         const auto choice = choiceFromRecord(&record);
-        if (choice && !choice->text.isNull()) // as without a bundle, which would put the key in its place
-            result.append(
-                {choice->choice, localizedChoiceText(option, choice->choice, choice->text, bundle)});
+        const QString text =
+            choice ? localizedChoiceText(option, choice->choice, choice->text, bundle) : QString();
+        if (!text.isNull())
+            result.append({choice->choice, text});
     }
     return result;
 }

@@ -67,7 +67,7 @@ struct Submission
 {
     enum class Outcome {
         Accepted, // the server has all of it
-        Rejected, // it will not print
+        Rejected, // it will not print, or no further
         Unknown   // the server's answer was lost: it may print
     };
     Outcome outcome = Outcome::Rejected;

@@ -6,15 +6,19 @@
 #include "host/printing/ipp_query.h"
 #include "host/printing/reasons.h"
 
+#include <QDeadlineTimer>
 #include <QThread>
 
 #include <array>
+#include <chrono>
 
 namespace host {
 
 namespace {
 
 constexpr unsigned long betweenTries = 200; // milliseconds
+// How long a server is waited for by somebody who does not want to wait, but to know what became of the job.
+constexpr std::chrono::seconds patienceAtTheEnd(3);
 
 JobStatus::State jobState(int ippState)
 {
@@ -68,6 +72,17 @@ void JobLookup::setStop(std::function<bool()> stop)
     m_stop = std::move(stop);
 }
 
+std::function<bool()> JobLookup::stopSoon() const
+{
+    return [this, left = QDeadlineTimer(QDeadlineTimer::Forever)]() mutable {
+        if (!m_stop || !m_stop())
+            return false;
+        if (left.isForever())
+            left.setRemainingTime(patienceAtTheEnd);
+        return left.hasExpired();
+    };
+}
+
 IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 {
     IppPointer request = printerRequest(operation, m_printerUri);
@@ -78,6 +93,7 @@ IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
 {
     ServerConnection server(m_login);
+    server.setStop(stopSoon());
     return byId(id, &server, job);
 }
 
@@ -92,7 +108,10 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
     }
     const bool isGone = reply.fate == Reply::Fate::Answered &&
                         (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
-    return isGone ? Result::NotThere : Result::NoAnswer;
+    if (isGone)
+        return Result::NotThere;
+    m_problem = reply.error({});
+    return Result::NoAnswer;
 }
 
 JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
@@ -103,9 +122,12 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     ServerConnection server(m_login);
+    server.setStop(stopSoon());
     const Reply reply = server.ask(std::move(request), m_resource);
-    if (!reply.succeeded())
+    if (!reply.succeeded()) {
+        m_problem = reply.error({});
         return Result::NoAnswer;
+    }
     int id = 0;
     int found = 0;
     ipp_t *answer = reply.message.get();
@@ -140,6 +162,7 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
 bool JobLookup::cancel(int id)
 {
     ServerConnection server(m_login);
+    server.setStop(stopSoon());
     return server.ask(jobRequest(IPP_OP_CANCEL_JOB, id), m_resource).succeeded();
 }
 

@@ -33,7 +33,7 @@ public:
     enum class Result { Found, NotThere, NoAnswer };
 
     JobLookup(LoginKeeper *login, QByteArray printerUri);
-    // Looked at while it waits; true ends the wait.
+    // Looked at while it waits; true ends the wait between two tries at once, and that for an answer soon.
     void setStop(std::function<bool()> stop);
 
     Result byId(int id, JobOnServer *job);
@@ -44,8 +44,11 @@ public:
     Result byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline, JobOnServer *job);
     // Whether the server confirmed it.
     bool cancel(int id);
+    // Why there was no answer, the last time that there was none.
+    const PrintError &problem() const { return m_problem; }
 
 private:
+    std::function<bool()> stopSoon() const;
     Result search(const QByteArray &token, JobOnServer *job);
     IppPointer jobRequest(ipp_op_t operation, int id) const;
 
@@ -53,6 +56,7 @@ private:
     QByteArray m_printerUri;
     QByteArray m_resource;
     std::function<bool()> m_stop;
+    PrintError m_problem;
 };
 
 } // namespace host

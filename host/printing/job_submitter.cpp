@@ -240,6 +240,8 @@ Submission JobSubmitter::concluded(const PrintError &why)
     const auto result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
     if (result != JobLookup::Result::Found)
         return m_mayPrint ? unknown(why) : rejected(why);
+    if (m_mayPrint && isCancelled())
+        return withdrawn(found);
     if (m_mayBeWhole && isWhole(found))
         return accepted(std::move(found));
     return cancelled(why, found);
@@ -261,6 +263,26 @@ Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &fou
     more.message +=
         QLatin1Char(' ') + SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id);
     return rejected(more);
+}
+
+Submission JobSubmitter::withdrawn(const JobOnServer &found)
+{
+    Reply stopped;
+    stopped.fate = Reply::Fate::Stopped;
+    PrintError why = stopped.error({});
+    const bool confirmed = m_lookup.cancel(found.id);
+    JobOnServer after;
+    const bool isThere =
+        m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) == JobLookup::Result::Found;
+    if (isThere && after.status.state == JobStatus::State::Completed)
+        return accepted(std::move(after)); // it was too late
+    if (!confirmed && !(isThere && after.status.isFinal())) {
+        why.message += QLatin1Char(' ') + SubmitText::tr("The job %1 could not be canceled.").arg(m_id);
+        return unknown(why);
+    }
+    if (found.hasBegun || after.hasBegun)
+        why.message += QLatin1Char(' ') + SubmitText::tr("Some of it may have been printed.");
+    return rejected(why);
 }
 
 Submission JobSubmitter::rejected(const PrintError &why) const
@@ -288,6 +310,11 @@ Submission JobSubmitter::kept()
     const quint64 connection = m_server.number();
     auto result = m_lookup.byId(m_id, &m_server, &found);
     const bool isSameServer = connection != 0 && m_server.number() == connection;
+    if (isCancelled()) {
+        Reply stopped;
+        stopped.fate = Reply::Fate::Stopped;
+        return concluded(stopped.error({}));
+    }
     if (result == JobLookup::Result::Found && found.token == m_token && (isSameServer || isWhole(found)))
         return accepted(std::move(found));
     if (result == JobLookup::Result::NotThere && isSameServer)
@@ -295,6 +322,8 @@ Submission JobSubmitter::kept()
     result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
     if (result == JobLookup::Result::Found && isWhole(found))
         return accepted(std::move(found));
+    if (result == JobLookup::Result::NoAnswer)
+        return unknown(m_lookup.problem());
     Reply broken;
     broken.fate = Reply::Fate::Lost;
     return unknown(broken.error(m_request.destination.displayName()));

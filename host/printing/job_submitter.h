@@ -37,6 +37,8 @@ private:
     Submission concluded(const PrintError &why);
     // Ends a job that is not whole.
     Submission cancelled(const PrintError &why, const JobOnServer &found);
+    // Ends a job that its user does not want any more, however much of it has arrived.
+    Submission withdrawn(const JobOnServer &found);
     Submission rejected(const PrintError &why) const;
     Submission unknown(const PrintError &why) const;
     bool isWhole(const JobOnServer &job) const;

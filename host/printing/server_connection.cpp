@@ -86,6 +86,11 @@ PrintError Reply::error(const QString &printer) const
     case Fate::NotSent:
         return {Kind::ServerAway, ServerText::tr("The print server %1 cannot be reached.").arg(server)};
     case Fate::Lost:
+        if (wasGivenUp)
+            return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
+        if (wasSilent)
+            return {Kind::ConnectionLost,
+                    ServerText::tr("The print server %1 has stopped answering.").arg(server)};
         return {
             Kind::ConnectionLost,
             wasGarbled
@@ -225,6 +230,10 @@ Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource,
             return {};
         m_idle.restart();
         reply = exchangeOnce(request.get(), resource, upload);
+        if (reply.fate == Reply::Fate::Lost) {
+            reply.wasGivenUp = m_stop && m_stop();
+            reply.wasSilent = m_idle.elapsed() >= idleTime;
+        }
         if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
             m_http.reset(); // what else comes on it belongs to this request
         // Refused for want of a login, which libcups has by now: the server has done nothing with it.

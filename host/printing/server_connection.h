@@ -58,6 +58,8 @@ struct Reply
     Fate fate = Fate::NotSent;
     bool wasSentWhole = false; // all of it was handed over: the server may have acted on it
     bool wasGarbled = false;   // something came back
+    bool wasSilent = false;    // lost, because nothing moved for too long
+    bool wasGivenUp = false;   // lost, because nobody here wanted to wait any more
     ipp_status_t status = IPP_STATUS_CUPS_INVALID;
     http_status_t httpStatus = HTTP_STATUS_ERROR;
     IppPointer message; // when answered

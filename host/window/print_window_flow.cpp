@@ -387,10 +387,12 @@ void PrintWindow::showResult()
     m_cancel->setFocus();
 }
 
-// Escape and Cancel end the sending, not the dialog.
+// Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.
 void PrintWindow::reject()
 {
-    if (m_sending)
+    if (m_sending && m_sending->isCancelled)
+        close();
+    else if (m_sending)
         stopWaiting();
     else
         QDialog::reject();

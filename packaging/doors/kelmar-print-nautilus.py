@@ -7,7 +7,7 @@ import subprocess
 from gi.repository import GObject, Nautilus
 
 TYPES = {"application/pdf", "application/postscript", "image/png", "image/jpeg", "image/tiff", "image/gif", "text/plain"}
-LABELS = {"de": "Drucken …", "fr": "Imprimer…", "ja": "印刷…"}
+LABELS = {"de": "Drucken …", "fr": "Imprimer…", "ja": "印刷…", "es": "Imprimir…", "it": "Stampa…"}
 
 
 class KelmarPrintMenu(GObject.GObject, Nautilus.MenuProvider):

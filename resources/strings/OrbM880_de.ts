@@ -172,7 +172,7 @@
         <translation>Vom Drucker n&amp;eu laden</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <source>Asks the printer again for its profiles and defaults.</source>
         <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab. War er nicht erreichbar, öffnen Sie stattdessen diesen Dialog erneut.</translation>
     </message>
 </context>

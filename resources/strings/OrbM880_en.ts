@@ -172,8 +172,8 @@
         <translation>Re&amp;load from Printer</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
-        <translation>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</translation>
+        <source>Asks the printer again for its profiles and defaults.</source>
+        <translation>Asks the printer again for its profiles and defaults.</translation>
     </message>
 </context>
 <context>

@@ -172,7 +172,7 @@
         <translation>Re&amp;charger depuis l’imprimante</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <source>Asks the printer again for its profiles and defaults.</source>
         <translation>Redemande à l’imprimante ses profils et valeurs par défaut. Si elle était injoignable, rouvrez plutôt cette boîte de dialogue.</translation>
     </message>
 </context>

@@ -172,7 +172,7 @@
         <translation>プリンターから再読み込み(&amp;L)</translation>
     </message>
     <message>
-        <source>Asks the printer again for its profiles and defaults. If it could not be reached, open this dialog again instead.</source>
+        <source>Asks the printer again for its profiles and defaults.</source>
         <translation>プロファイルと既定値をもう一度プリンターに問い合わせます。接続できなかったときは、このダイアログを開き直してください。</translation>
     </message>
 </context>

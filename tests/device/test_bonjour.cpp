@@ -77,7 +77,7 @@ void TestBonjour::initTestCase()
     // The name that Avahi's library gives for a host ends in a dot; this stands in for a resolver that knows
     // mDNS.
     const QString hosts = write("hosts", u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_qs);
-    const QString whyNot = enterPrivateNetworkWithFiles(hosts, u"/run/avahi-daemon"_qs);
+    const QString whyNot = enterPrivateNetworkWithFiles({{hosts, u"/etc/hosts"_qs}}, u"/run/avahi-daemon"_qs);
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
 

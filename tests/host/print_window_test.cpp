@@ -87,6 +87,7 @@ void PrintWindowTest::printsWithTheGeneralPane()
     QTest::keyClicks(pages, u"2-3, 1"_s);
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
     QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    settle();
     QCOMPARE(m_system.submitted.size(), 1);
     const JobRequest job = m_system.submitted.first();
     QCOMPARE(sentValue(job.options, u"copies"_s), u"3"_s);
@@ -107,6 +108,7 @@ void PrintWindowTest::nonsensicalPagesStopPrinting()
         radio->click();
     QTest::keyClicks(window.findChildren<QLineEdit *>().last(), u"3-1"_s);
     printButton()->click();
+    settle();
     QVERIFY(m_system.submitted.isEmpty());
     QVERIFY(window.findChildren<QLineEdit *>().last()->hasFocus());
 }
@@ -118,6 +120,7 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
     window.session()->markChoice(u"Cyan"_s, u"2"_s);
     printButton()->click();
+    settle();
     QVERIFY(m_system.submitted.isEmpty());
     const QString text = window.messageBar()->text();
     QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
@@ -127,10 +130,12 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     window.messageBar()->buttons().last()->click(); // keep and review
     QCOMPARE(window.session()->conflicts().size(), 1);
     printButton()->click();
+    settle();
     window.messageBar()->buttons().first()->click(); // apply
     QVERIFY(window.session()->conflicts().isEmpty());
     QVERIFY(!window.messageBar()->isShowing());
     printButton()->click();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Cyan"_s), u"2"_s);
 }
 
@@ -141,8 +146,10 @@ void PrintWindowTest::noticesOutliveAQuestion()
     window.session()->markChoice(u"Cyan"_s, u"2"_s);
     window.session()->addNotice(u"first"_s);
     printButton()->click();
+    settle();
     window.session()->addNotice(u"second"_s);
     printButton()->click();
+    settle();
     MessageBar *bar = window.messageBar();
     QCOMPARE(bar->kind(), MessageBar::Kind::Question);
     bar->buttons().last()->click(); // keep and review
@@ -165,15 +172,20 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     PrintError error;
     QVERIFY(m_window->open(&error));
+    settle();
     m_window->loadPrinterList();
     auto *picker = find<PrinterPicker>();
     Q_EMIT picker->picked(u"raw"_s);
+    settle();
     QVERIFY(!m_window->session());
     QVERIFY(find<UnavailablePage>()->reason().contains(u"“Duplex”"_s));
     Q_EMIT picker->picked(u"attic"_s);
+    settle();
     Q_EMIT picker->picked(u"raw"_s); // knows the standard name alone
+    settle();
     QVERIFY2(!m_window->messageBar()->isShowing(), qPrintable(m_window->messageBar()->text()));
     m_window->print();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"sides"_s), u"two-sided-long-edge"_s);
 }
 
@@ -201,10 +213,12 @@ void PrintWindowTest::serverAwayKeepsTheSettings()
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
     m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
     printButton()->click();
+    settle();
     QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
     m_system.serverError = {};
     printButton()->click();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Duplex"_s), u"DuplexNoTumble"_s);
 }
 
@@ -218,11 +232,12 @@ void PrintWindowTest::opensWithoutServer()
     QVERIFY(page->isVisible());
     QCOMPARE(page->reason(), u"the server is away"_s);
     QTest::mouseClick(page->retryButton(), Qt::LeftButton); // still away
+    settle();
     QVERIFY(page->isVisible());
-    waitForPrinters();
+    settle();
     m_system.serverError = {};
     QTest::mouseClick(page->retryButton(), Qt::LeftButton);
-    waitForPrinters();
+    settle();
     QVERIFY(window.session() && printButton()->isEnabled() && !page->isVisible());
     QCOMPARE(find<PrinterPicker>()->box()->count(), 3);
 }
@@ -236,14 +251,17 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
     QCOMPARE(picker->count(), 3);
     picker->setCurrentIndex(1);
     Q_EMIT picker->activated(1);
+    settle();
     QCOMPARE(window.session()->destination().queue, u"attic"_s);
     QCOMPARE(find<QSpinBox>()->value(), 4);
     QCOMPARE(find<QComboBox>(u"PageSize"_s)->currentData().toString(), u"A3"_s);
     picker->setCurrentIndex(2); // another maker's, without a PPD
     Q_EMIT picker->activated(2);
+    settle();
     QVERIFY(!find<QComboBox>(u"PageSize"_s));
     QCOMPARE(find<PageList>()->count(), 2); // general and summary
     printButton()->click();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"copies"_s), u"4"_s);
 }
 
@@ -251,6 +269,7 @@ void PrintWindowTest::remembersThePrinter()
 {
     open(u"attic"_s);
     printButton()->click();
+    settle();
     QCOMPARE(open().session()->destination().queue, u"attic"_s);
     m_system.printers.removeAt(1); // it has been taken away since: back to the default
     QCOMPARE(open().session()->destination().queue, u"office"_s);
@@ -265,12 +284,14 @@ void PrintWindowTest::settingsAreTheAnswer()
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     PrintError error;
     QVERIFY(m_window->open(&error));
+    settle();
     const auto buttons = m_window->findChildren<QPushButton *>();
     const auto accept = std::find_if(buttons.begin(), buttons.end(), [](auto *b) { return b->isDefault(); });
     QVERIFY(accept != buttons.end());
     QCOMPARE((*accept)->text(), u"&Continue"_s);
     QCOMPARE(find<QSpinBox>()->value(), 3);
     (*accept)->click();
+    settle();
     QCOMPARE(m_window->result(), int(QDialog::Accepted));
     QVERIFY(m_system.submitted.isEmpty());
 }
@@ -281,6 +302,7 @@ void PrintWindowTest::brokenPpdStillPrints()
     PrintWindow &window = open();
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Notice);
     printButton()->click();
+    settle();
     QCOMPARE(m_system.submitted.size(), 1);
 }
 
@@ -376,6 +398,7 @@ void PrintWindowTest::customSizeIsTyped()
     QVERIFY(width->isVisible());
     QCOMPARE(unit->currentData().toString(), u"mm"_s);
     window.print();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.first().options, u"PageSize"_s), u"Custom.100.123x200mm"_s);
 }
 
@@ -391,10 +414,12 @@ void PrintWindowTest::unfinishedPasswordStopsPrinting()
     QTest::keyClicks(field, u"s3c"_s);
     book->showPage(0);
     window.print();
+    settle();
     QVERIFY(m_system.submitted.isEmpty());
     QVERIFY(field->hasFocus());
     QTest::keyClicks(field, u"retandmuchmore"_s); // no longer than the printer takes
     window.print();
+    settle();
     QCOMPARE(sentValue(m_system.submitted.first().options, u"Lock"_s), u"Custom.s3cretan"_s);
 }
 

@@ -53,14 +53,18 @@ protected:
         m_window->loadPrinterList();
         if (!QTest::qWaitForWindowActive(m_window.get()))
             qFatal("the window does not appear");
-        waitForPrinters();
+        settle();
         return *m_window;
     }
-    // The list of printers is asked for beside the window.
-    static void waitForPrinters()
+    // Until the print system has answered all that the window has asked it beside its thread, and the window
+    // has heard of it.
+    static void settle()
     {
-        QTRY_VERIFY(!platform::Background::isUnderWay());
-        QCoreApplication::processEvents();
+        do {
+            if (!QTest::qWaitFor([] { return !platform::Background::isUnderWay(); }, 30'000))
+                qFatal("the print system does not answer");
+            QCoreApplication::processEvents();
+        } while (platform::Background::isUnderWay());
     }
     template <typename W>
     W *find(const QString &name = QString())

@@ -106,6 +106,7 @@ void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
     box->setFocus();
     const QPoint before = box->mapTo(&window, QPoint());
     QTest::keyClick(box, Qt::Key_P, Qt::ControlModifier);
+    settle();
     MessageBar *bar = window.messageBar();
     QCOMPARE(window.focusWidget(), bar->buttons().first());
     QCOMPARE(QAccessible::queryAccessibleInterface(bar)->role(), QAccessible::Notification);
@@ -125,6 +126,7 @@ void WindowKeyboardTest::conflictGoesWithItsCause()
     window.session()->markChoice(u"Cyan"_s, u"2"_s);
     colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
     window.print();
+    settle();
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Question);
     colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // as its control does it
     QTRY_VERIFY(!window.messageBar()->isShowing());

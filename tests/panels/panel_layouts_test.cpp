@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList languages{u"en"_s, u"de"_s, u"fr"_s, u"ja"_s};
+const QStringList languages{u"en"_s, u"de"_s, u"fr"_s, u"ja"_s, u"es"_s, u"it"_s};
 
 QString describe(const QWidget *widget)
 {

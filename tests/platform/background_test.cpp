@@ -25,6 +25,7 @@ private Q_SLOTS:
     void givesUpAtTheLimit();
     void carriesExceptionsOver();
     void startsWithoutWaiting();
+    void deliversThoughDeletionsComeFirst();
     void leavesAReceiverAloneThatIsGone();
 };
 
@@ -110,6 +111,19 @@ void BackgroundTest::startsWithoutWaiting()
     QCOMPARE(answer, 0);
     QTRY_COMPARE(answer, 5);
     QCOMPARE(deliveredOn, QThread::currentThreadId());
+}
+
+void BackgroundTest::deliversThoughDeletionsComeFirst()
+{
+    QObject receiver;
+    int answer = 0;
+    startBeside(
+        &receiver, [] { return 5; }, [&](int result) { answer = result; });
+    while (Background::isUnderWay()) // without events
+        QThread::yieldCurrentThread();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QCOMPARE(answer, 5);
 }
 
 void BackgroundTest::leavesAReceiverAloneThatIsGone()

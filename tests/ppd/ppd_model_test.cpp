@@ -153,18 +153,22 @@ private Q_SLOTS:
 
     void leavesOutInvalidText()
     {
-        const Model model("*ModelName: \"Orb\xff\"\n*Note First: \"cut\xc3\"\n*Note Second: \"whole\"\n" +
-                          ppdOption("Paper/Pa\xffper", {"Plain/Plain paper", "Bond/Bo\xffnd"}));
+        const Model model(
+            "*ModelName: \"Orb\xff\"\n*Note First: \"cut\xc3\"\n*Note Second: \"whole\"\n" +
+            ppdOption("Paper/Pa\xffper", {"Plain/Plain paper", "Bond/Bo\xffnd", "Card/Ca\xffrd"}));
         const QString paper = u"Paper"_s;
         QVERIFY(model->modelname().isNull());
         QVERIFY(model->localizedOptionNameWithBundle(paper, nullptr).isNull());
         QCOMPARE(model->valuesForAttribute(u"Note"_s), QStringList{u"whole"_s});
-        QCOMPARE(model->choicesForOption(paper)->size(), 2); // the keywords are sound
+        QCOMPARE(model->choicesForOption(paper)->size(), 3); // the keywords are sound
         QCOMPARE(model->choicesWithValuesForOptionOrder(paper, nullptr)->size(), 1);
-        const TestBundle files;
+        TestBundle files; // has a text for one of the two
+        files.writeStrings(u"en"_s, u"Localizable"_s, {{u"Paper:Card"_s, u"Thick"_s}});
         const auto bundle = files.open();
-        for (const auto &source : {std::shared_ptr<platform::Bundle>(), bundle})
-            QCOMPARE(model->localizedChoicesForOptionWithBundle(paper, source.get())->size(), 1);
+        QCOMPARE(model->localizedChoicesForOptionWithBundle(paper, nullptr)->size(), 1);
+        const auto localized = model->localizedChoicesForOptionWithBundle(paper, bundle.get());
+        QCOMPARE(localized.value(),
+                 (QList<QVPPDChoice_M880>{{u"Plain"_s, u"Plain paper"_s}, {u"Card"_s, u"Thick"_s}}));
         model->markChoiceForOption(u"Bond"_s, paper); // a mark is no less one for its text
         QCOMPARE(model->markedChoiceForOption(paper).value(), (QVPPDChoice_M880{u"Bond"_s, QString()}));
     }

@@ -225,6 +225,8 @@ void FamilyPpdsTest::isTranslated_data()
     QTest::newRow("German") << u"de"_s << QByteArray("de_DE.UTF-8");
     QTest::newRow("French of Canada") << u"fr"_s << QByteArray("fr_CA.UTF-8");
     QTest::newRow("Japanese") << u"ja"_s << QByteArray("ja_JP.UTF-8");
+    QTest::newRow("Spanish of Mexico") << u"es"_s << QByteArray("es_MX.UTF-8");
+    QTest::newRow("Italian") << u"it"_s << QByteArray("it_IT.UTF-8");
 }
 
 void FamilyPpdsTest::isTranslated()
@@ -258,7 +260,7 @@ void FamilyPpdsTest::catalogsHoldNothingStale()
                      qPrintable(text));
         }
     }
-    for (const QString &language : {u"de"_s, u"fr"_s, u"ja"_s}) {
+    for (const QString &language : {u"de"_s, u"fr"_s, u"ja"_s, u"es"_s, u"it"_s}) {
         const QHash<QString, QString> entries = catalog(language);
         for (auto it = entries.cbegin(); it != entries.cend(); ++it)
             QVERIFY2(used.contains(it.key()), qPrintable(language + u".po: "_s + it.key()));

@@ -27,12 +27,13 @@ using ChildProcess = std::unique_ptr<QProcess, ChildProcessStopper>;
 // Starts a program and waits until it has written `readyText`. Null, with its output in `error`, when it does
 // not.
 inline ChildProcess startChildProcess(const QString &program, const QStringList &arguments,
-                                      const QByteArray &readyText, QString *error, int milliseconds = 15000)
+                                      const QByteArray &readyText, QString *error, int milliseconds = 15000,
+                                      QIODevice::OpenMode mode = QIODevice::ReadOnly)
 {
     ChildProcess process(new QProcess);
     process->setProcessChannelMode(QProcess::MergedChannels);
     process->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
-    process->start(program, arguments, QIODevice::ReadOnly);
+    process->start(program, arguments, mode);
     QByteArray output;
     QElapsedTimer clock;
     clock.start();

@@ -45,14 +45,18 @@ QString enterPrivateNetwork()
     return bringLoopbackUp();
 }
 
-QString enterPrivateNetworkWithFiles(const QString &hosts, const QString &emptied)
+QString enterPrivateNetworkWithFiles(const QList<std::pair<QString, QString>> &files, const QString &emptied)
 {
     if (::unshare(CLONE_NEWNET | CLONE_NEWNS) != 0)
         return failure("no network and mount namespace");
     QDir().mkpath(emptied);
     if (::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        ::mount(QFile::encodeName(hosts).constData(), "/etc/hosts", nullptr, MS_BIND, nullptr) != 0 ||
         ::mount("tmpfs", QFile::encodeName(emptied).constData(), "tmpfs", 0, nullptr) != 0)
         return failure("mount");
+    for (const auto &[file, place] : files) {
+        const QByteArray from = QFile::encodeName(file);
+        if (::mount(from.constData(), QFile::encodeName(place).constData(), nullptr, MS_BIND, nullptr) != 0)
+            return failure(qPrintable(place));
+    }
     return bringLoopbackUp();
 }

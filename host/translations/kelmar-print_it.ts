@@ -1,0 +1,1292 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>ApplicationText</name>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 pagine su ogni facciata</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>l’ultima pagina per prima</translation>
+    </message>
+    <message>
+        <source>The application asks for: %1.</source>
+        <translation>L’applicazione chiede: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ArgumentsText</name>
+    <message>
+        <source>NAME</source>
+        <translation>NOME</translation>
+    </message>
+    <message>
+        <source>Print to this queue or preset (queue/preset).</source>
+        <translation>Stampa su questa coda o preimpostazione (coda/preimpostazione).</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>NUMERO</translation>
+    </message>
+    <message>
+        <source>Number of copies.</source>
+        <translation>Numero di copie.</translation>
+    </message>
+    <message>
+        <source>LIST</source>
+        <translation>ELENCO</translation>
+    </message>
+    <message>
+        <source>Pages to print, for example 1-3,8.</source>
+        <translation>Pagine da stampare, per esempio 1-3,8.</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TESTO</translation>
+    </message>
+    <message>
+        <source>Title of the job.</source>
+        <translation>Titolo del lavoro.</translation>
+    </message>
+    <message>
+        <source>HOST</source>
+        <translation>HOST</translation>
+    </message>
+    <message>
+        <source>Print server to use, HOST or HOST:PORT.</source>
+        <translation>Server di stampa da usare, HOST o HOST:PORTA.</translation>
+    </message>
+    <message>
+        <source>KEY=VALUE</source>
+        <translation>CHIAVE=VALORE</translation>
+    </message>
+    <message>
+        <source>Set an option of the printer, or a key of a panel such as departmentCode.</source>
+        <translation>Imposta un’opzione della stampante o una chiave di un pannello, come departmentCode.</translation>
+    </message>
+    <message>
+        <source>KEY=FILE</source>
+        <translation>CHIAVE=FILE</translation>
+    </message>
+    <message>
+        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <translation>Come sopra, con il valore letto dalla prima riga di un file; «-» è lo standard input.</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>CHIAVE</translation>
+    </message>
+    <message>
+        <source>The same with the value asked for on the terminal, which does not show it.</source>
+        <translation>Come sopra, con il valore chiesto sul terminale, che non lo mostra.</translation>
+    </message>
+    <message>
+        <source>NAME=VALUE</source>
+        <translation>NOME=VALORE</translation>
+    </message>
+    <message>
+        <source>The same; names unknown here are handed to the print system.</source>
+        <translation>Come sopra; i nomi qui sconosciuti sono passati al sistema di stampa.</translation>
+    </message>
+    <message>
+        <source>Print without opening a window.</source>
+        <translation>Stampa senza aprire finestre.</translation>
+    </message>
+    <message>
+        <source>Accept the proposal when settings cannot be used together.</source>
+        <translation>Accetta la proposta quando alcune impostazioni non possono essere usate insieme.</translation>
+    </message>
+    <message>
+        <source>Write the summary of the settings.</source>
+        <translation>Scrive il riepilogo delle impostazioni.</translation>
+    </message>
+    <message>
+        <source>Write the options of the printer and their choices.</source>
+        <translation>Scrive le opzioni della stampante e i relativi valori.</translation>
+    </message>
+    <message>
+        <source>Write results and errors as JSON.</source>
+        <translation>Scrive i risultati e gli errori in JSON.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>Take the options from this PPD file instead of a queue.</source>
+        <translation>Prende le opzioni da questo file PPD invece che da una coda.</translation>
+    </message>
+    <message>
+        <source>FOLDER</source>
+        <translation>CARTELLA</translation>
+    </message>
+    <message>
+        <source>Load the panels of this bundle instead of the installed ones.</source>
+        <translation>Carica i pannelli di questo pacchetto invece di quelli installati.</translation>
+    </message>
+    <message>
+        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
+        <translation>Apre la finestra di dialogo a questa pagina: general, more, summary, oppure il nome o il tipo di un pannello.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the dialog and exit.</source>
+        <translation>Salva un’immagine della finestra di dialogo ed esce.</translation>
+    </message>
+    <message>
+        <source>Colors of the dialog: light or dark.</source>
+        <translation>Colori della finestra di dialogo: light (chiari) o dark (scuri).</translation>
+    </message>
+    <message>
+        <source>Open the dialog, write how long it took and exit.</source>
+        <translation>Apre la finestra di dialogo, scrive quanto tempo è servito ed esce.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostra la versione.</translation>
+    </message>
+    <message>
+        <source>Documents to print; “-” is the standard input.</source>
+        <translation>Documenti da stampare; «-» è lo standard input.</translation>
+    </message>
+    <message>
+        <source>[FILE...]</source>
+        <translation>[FILE...]</translation>
+    </message>
+    <message>
+        <source>--ask takes a key alone; the value is asked for.</source>
+        <translation>--ask accetta solo una chiave; il valore viene chiesto a parte.</translation>
+    </message>
+    <message>
+        <source>-o takes NAME=VALUE or NAME.</source>
+        <translation>-o accetta NOME=VALORE o NOME.</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <translation>--%1 accetta %2; manca «=» dopo una chiave.</translation>
+    </message>
+    <message>
+        <source>--color-scheme takes light or dark.</source>
+        <translation>--color-scheme accetta light o dark.</translation>
+    </message>
+    <message>
+        <source>--batch needs a printer to print to; --ppd alone names none.</source>
+        <translation>--batch richiede una stampante su cui stampare; --ppd da solo non ne indica nessuna.</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be a value and a document at once.</source>
+        <translation>Lo standard input non può essere allo stesso tempo un valore e un documento.</translation>
+    </message>
+    <message>
+        <source>--batch and --screenshot do not go together.</source>
+        <translation>--batch e --screenshot non possono essere usati insieme.</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch or --summary.</source>
+        <translation>--resolve si usa con --batch o --summary.</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary or --list-options.</source>
+        <translation>--json si usa con --batch, --summary o --list-options.</translation>
+    </message>
+    <message>
+        <source>There is an option on the command line that this program does not have.</source>
+        <translation>Sulla riga di comando c’è un’opzione che questo programma non ha.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1”.</source>
+        <translation>Non esiste l’opzione «%1».</translation>
+    </message>
+    <message>
+        <source>Usage: kelmar-print [OPTION...] [FILE...]
+Print documents, with a dialog for the settings or without one.
+
+</source>
+        <translation>Uso: kelmar-print [OPZIONE...] [FILE...]
+Stampa documenti, con o senza una finestra di dialogo per le impostazioni.
+
+</translation>
+    </message>
+    <message>
+        <source>
+Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
+4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+</source>
+        <translation>
+Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non possono essere usate insieme,
+4 annullato, 5 non è noto se il lavoro sia stato accettato. Maggiori informazioni nella pagina di manuale kelmar-print(1).
+</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesText</name>
+    <message>
+        <source>The print server did not take “%1”.</source>
+        <translation>Il server di stampa non ha accettato «%1».</translation>
+    </message>
+    <message>
+        <source>The print server took another value for “%1” than was sent.</source>
+        <translation>Il server di stampa ha accettato per «%1» un valore diverso da quello inviato.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchText</name>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+    </message>
+</context>
+<context>
+    <name>CarryOverText</name>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Questa stampante non dispone di «%1»: il lavoro non sarà protetto.</translation>
+    </message>
+    <message>
+        <source>This printer does not take over: %1.</source>
+        <translation>Questa stampante non può riprendere queste impostazioni: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeText</name>
+    <message>
+        <source>“%1” was reset to “%2”.</source>
+        <translation>«%1» è stato reimpostato su «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” was changed to “%2”.</source>
+        <translation>«%1» è stato cambiato in «%2».</translation>
+    </message>
+    <message>
+        <source>These were reset to “%2”: %1.</source>
+        <comment>a list of options, a choice</comment>
+        <translation>Sono stati reimpostati su «%2»: %1.</translation>
+    </message>
+    <message>
+        <source>These were changed to “%2”: %1.</source>
+        <comment>a list of options, a choice</comment>
+        <translation>Sono stati cambiati in «%2»: %1.</translation>
+    </message>
+    <message>
+        <source>The reason: “%1” is “%2”.</source>
+        <translation>Il motivo: «%1» è impostato su «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>ChosenText</name>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 non accetta questo valore.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: questa stampante non dispone di «%2».</translation>
+    </message>
+    <message>
+        <source>the code for “%1”</source>
+        <translation>il codice per «%1»</translation>
+    </message>
+    <message>
+        <source>settings of “%1”</source>
+        <translation>impostazioni di «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentText</name>
+    <message>
+        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
+        <translation>Non è possibile conservare nella cartella «%1» ciò che deve essere stampato: %2.</translation>
+    </message>
+    <message>
+        <source>There is no file “%1”.</source>
+        <translation>Il file «%1» non esiste.</translation>
+    </message>
+    <message>
+        <source>“%1” is a folder, not a document.</source>
+        <translation>«%1» è una cartella, non un documento.</translation>
+    </message>
+    <message>
+        <source>“%1” is a device, not a document.</source>
+        <translation>«%1» è un dispositivo, non un documento.</translation>
+    </message>
+    <message>
+        <source>The file “%1” cannot be read: %2.</source>
+        <translation>Impossibile leggere il file «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is empty.</source>
+        <translation>Il file «%1» è vuoto.</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be read: %1.</source>
+        <translation>Impossibile leggere lo standard input: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing came from the standard input.</source>
+        <translation>Dallo standard input non è arrivato nulla.</translation>
+    </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Standard input</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionsText</name>
+    <message>
+        <source>The print extension cannot be used: %1</source>
+        <translation>Impossibile usare l’estensione di stampa: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JobText</name>
+    <message>
+        <source>waiting: the printer has been stopped</source>
+        <translation>in attesa: la stampante è stata fermata</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>in attesa</translation>
+    </message>
+    <message>
+        <source>on hold</source>
+        <translation>trattenuto</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>in stampa</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>fermato</translation>
+    </message>
+    <message>
+        <source>canceled</source>
+        <translation>annullato</translation>
+    </message>
+    <message>
+        <source>aborted by the print system</source>
+        <translation>interrotto dal sistema di stampa</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>completato</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+</context>
+<context>
+    <name>LoginText</name>
+    <message>
+        <source>Log In</source>
+        <translation>Accesso</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Il nome utente o la password non sono stati accettati.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Il server di stampa %1 richiede di sapere chi stampa.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>Nome &amp;utente:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Password:</translation>
+    </message>
+</context>
+<context>
+    <name>MainText</name>
+    <message>
+        <source>There is no display to open the dialog on. Use --batch to print without it.</source>
+        <translation>Non c’è alcuno schermo su cui aprire la finestra di dialogo. Usare --batch per stampare senza.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenText</name>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Non è stata configurata alcuna stampante.</translation>
+    </message>
+</context>
+<context>
+    <name>PageRangesText</name>
+    <message>
+        <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
+        <translation>«%1» non è una pagina né un intervallo di pagine; scrivere per esempio 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelValueText</name>
+    <message>
+        <source>takes a whole number from %1 to %2</source>
+        <translation>accetta un numero intero da %1 a %2</translation>
+    </message>
+    <message>
+        <source>takes True or False</source>
+        <translation>accetta True o False</translation>
+    </message>
+    <message>
+        <source>cannot be set by a text</source>
+        <translation>non può essere impostato con un testo</translation>
+    </message>
+    <message>
+        <source>takes %1 digits</source>
+        <translation>accetta %1 cifre</translation>
+    </message>
+    <message>
+        <source>takes %1 characters</source>
+        <translation>accetta %1 caratteri</translation>
+    </message>
+    <message>
+        <source>does not take this value</source>
+        <translation>non accetta questo valore</translation>
+    </message>
+    <message>
+        <source>does not take this value: %1 has only %2</source>
+        <translation>non accetta questo valore: %1 ha solo %2</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <comment>a key, and what it takes</comment>
+        <translation>%1 %2.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>PortalText</name>
+    <message>
+        <source>The document of an application cannot be printed.</source>
+        <translation>Impossibile stampare il documento di un’applicazione.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>È vuoto.</translation>
+    </message>
+    <message>
+        <source>It is larger than 2 GB.</source>
+        <translation>È più grande di 2 GB.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Impossibile leggerlo: %1.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>Stampa di «%1»</translation>
+    </message>
+    <message>
+        <source>The document has not been printed on “%1”.</source>
+        <translation>Il documento non è stato stampato su «%1».</translation>
+    </message>
+    <message>
+        <source>The document was sent to “%1”, but not quite as asked for.</source>
+        <translation>Il documento è stato inviato a «%1», ma non esattamente come richiesto.</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+</context>
+<context>
+    <name>PpdCustomText</name>
+    <message>
+        <source>Width</source>
+        <translation>Larghezza</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Altezza</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un numero intero da %1 a %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>un numero da %1 a %2</translation>
+    </message>
+    <message>
+        <source>a length from %1 to %2 pt</source>
+        <translation>una lunghezza da %1 a %2 pt</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>da %1 a %2 cifre</translation>
+    </message>
+    <message>
+        <source>a password of %1 to %2 characters</source>
+        <translation>una password da %1 a %2 caratteri</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>un testo da %1 a %2 caratteri</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 accetta %2.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>Custom (100 × 200 mm)</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>sizes from %1 × %2 to %3 × %4 pt, such as Custom.%5 (units: pt, mm, cm, m, in, ft)</source>
+        <translation>dimensioni da %1 × %2 a %3 × %4 pt, come Custom.%5 (unità: pt, mm, cm, m, in, ft)</translation>
+    </message>
+    <message>
+        <source>Custom. followed by %1</source>
+        <translation>Custom. e di seguito %1</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 è %2</translation>
+    </message>
+    <message>
+        <source>{%1}, where %2</source>
+        <translation>{%1}, dove %2</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+</context>
+<context>
+    <name>PpdDocumentText</name>
+    <message>
+        <source>%1 is too large: more than %2 MB.</source>
+        <translation>%1 è troppo grande: più di %2 MB.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>option and its choice</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>There is no PPD file “%1”.</source>
+        <translation>Il file PPD «%1» non esiste.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to read the PPD file “%1”.</source>
+        <translation>Non si dispone dei permessi per leggere il file PPD «%1».</translation>
+    </message>
+    <message>
+        <source>The PPD file “%1”</source>
+        <translation>Il file PPD «%1»</translation>
+    </message>
+    <message>
+        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <translation>Memoria insufficiente per il PPD di «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The PPD of “%1”</source>
+        <translation>Il PPD di «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is broken: line %2: %3.</source>
+        <translation>%1 è danneggiato: riga %2: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintSystemText</name>
+    <message>
+        <source>No default printer has been set; choose a printer by name.</source>
+        <translation>Non è stata definita alcuna stampante predefinita; scegliere una stampante per nome.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
+        <translation>«%1» apre la finestra di dialogo di stampa e da sola non stampa nulla; scegliere un’altra stampante.</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Non c’è alcuna stampante chiamata «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterText</name>
+    <message>
+        <source>Stopped: jobs wait until it is started again</source>
+        <translation>Ferma: i lavori attendono che venga riavviata</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Non accetta lavori</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Pronta</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectionText</name>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>È stato scelto «%1», ma non è stato fornito il codice necessario.</translation>
+    </message>
+    <message>
+        <source>A code has been given, but not “%1”: the job is not protected.</source>
+        <translation>È stato fornito un codice, ma non è stato scelto «%1»: il lavoro non è protetto.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultText</name>
+    <message>
+        <source>These settings cannot be used together.</source>
+        <translation>Queste impostazioni non possono essere usate insieme.</translation>
+    </message>
+    <message>
+        <source>The result cannot be written: %1.</source>
+        <translation>Impossibile scrivere il risultato: %1.</translation>
+    </message>
+    <message>
+        <source>Changed to end a conflict: %1</source>
+        <translation>Cambiato per risolvere un conflitto: %1</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>e %1</translation>
+    </message>
+    <message>
+        <source>Keys of the panels</source>
+        <translation>Chiavi dei pannelli</translation>
+    </message>
+    <message>
+        <source>request id is %1-%2 (%3 file(s))</source>
+        <translation>l’identificativo della richiesta è %1-%2 (%3 file)</translation>
+    </message>
+    <message>
+        <source>Job %1: %2.</source>
+        <translation>Lavoro %1: %2.</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together:</source>
+        <translation>Queste impostazioni non possono essere usate insieme:</translation>
+    </message>
+    <message>
+        <source>Proposal (accepted with --resolve):</source>
+        <translation>Proposta (si accetta con --resolve):</translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>The picture “%1” cannot be written.</source>
+        <translation>Impossibile scrivere l’immagine «%1».</translation>
+    </message>
+    <message>
+        <source>request id is %1</source>
+        <translation>l’identificativo della richiesta è %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerText</name>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Il server di stampa %1 richiede un nome utente e una password.</translation>
+    </message>
+    <message>
+        <source>The printer “%1” wants a user name and a password.</source>
+        <translation>La stampante «%1» richiede un nome utente e una password.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>Il server di stampa %1 non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>The print server %1 gave an answer that cannot be understood.</source>
+        <translation>Il server di stampa %1 ha dato una risposta incomprensibile.</translation>
+    </message>
+    <message>
+        <source>The connection to the print server %1 broke off.</source>
+        <translation>La connessione al server di stampa %1 si è interrotta.</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La stampa è stata annullata.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not let you do this (%2).</source>
+        <translation>Il server di stampa %1 non consente questa operazione (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused the request (%2).</source>
+        <translation>Il server di stampa %1 ha rifiutato la richiesta (%2).</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Non c’è alcuna stampante chiamata «%1».</translation>
+    </message>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Non è stata configurata alcuna stampante.</translation>
+    </message>
+    <message>
+        <source>The printer “%1” is not accepting jobs at the moment.</source>
+        <translation>La stampante «%1» al momento non accetta lavori.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to print to “%1” (%2).</source>
+        <translation>Non si dispone dei permessi per stampare su «%1» (%2).</translation>
+    </message>
+    <message>
+        <source>The printer “%1” cannot print documents of this type.</source>
+        <translation>La stampante «%1» non può stampare documenti di questo tipo.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Il server di stampa segnala: %1</translation>
+    </message>
+    <message>
+        <source>The print server %1 sends a file of more than %2 megabytes.</source>
+        <translation>Il server di stampa %1 invia un file di oltre %2 megabyte.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
+    <message>
+        <source>This printer has no option or setting called “%1”.</source>
+        <translation>Questa stampante non ha alcuna opzione o impostazione chiamata «%1».</translation>
+    </message>
+    <message>
+        <source>copies takes a number from 1 to %1.</source>
+        <translation>copies accetta un numero da 1 a %1.</translation>
+    </message>
+    <message>
+        <source>page-ranges does not take this value.</source>
+        <translation>page-ranges non accetta questo valore.</translation>
+    </message>
+    <message>
+        <source>%1 takes True or False.</source>
+        <translation>%1 accetta True o False.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 accetta %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no choice “%2”; it has %3.</source>
+        <translation>%1 non ha il valore «%2»; ha %3.</translation>
+    </message>
+    <message>
+        <source>%1 is not sent with the job: %2</source>
+        <translation>%1 non viene inviato con il lavoro: %2</translation>
+    </message>
+</context>
+<context>
+    <name>SubmitText</name>
+    <message>
+        <source>The file “%1” cannot be read: %2.</source>
+        <translation>Impossibile leggere il file «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The printer “%1” is not accepting jobs at the moment.</source>
+        <translation>La stampante «%1» al momento non accetta lavori.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <translation>Impossibile stampare «%1»: la stampante «%2» non accetta documenti di tipo %3.</translation>
+    </message>
+    <message>
+        <source>The unfinished job %1 could not be canceled.</source>
+        <translation>Non è stato possibile annullare il lavoro incompleto %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was printed.</source>
+        <translation>Non è stato stampato nulla.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job was accepted. It may print; look at the queue before printing again.</source>
+        <translation>Non è noto se il lavoro sia stato accettato. Potrebbe essere stampato: controllare la coda prima di stampare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The print server did not tell which settings it kept for the job.</source>
+        <translation>Il server di stampa non ha comunicato quali impostazioni ha mantenuto per il lavoro.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryText</name>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Fascicola</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutte</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalText</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Il nome utente o la password non sono stati accettati.</translation>
+    </message>
+    <message>
+        <source>User name for %1 [%2]: </source>
+        <translation>Nome utente per %1 [%2]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Password: </translation>
+    </message>
+</context>
+<context>
+    <name>ValueSourceText</name>
+    <message>
+        <source>The value of %1 cannot be read: %2.</source>
+        <translation>Impossibile leggere il valore di %1: %2.</translation>
+    </message>
+    <message>
+        <source>its first line is longer than %1 bytes</source>
+        <translation>la prima riga è più lunga di %1 byte</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>non ce n’è nessuno</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>non è un testo</translation>
+    </message>
+    <message>
+        <source>there is no terminal to ask on; --set-file takes it from a file or, as %1=-, from the standard input</source>
+        <translation>non c’è alcun terminale su cui chiederlo; --set-file lo prende da un file oppure, come %1=-, dallo standard input</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>prompt for a value</comment>
+        <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::CustomEditor</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>pollici</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <comment>points</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>Unità della dimensione carta</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>label of a field</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <comment>points, behind a number</comment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <comment>smallest size, largest size, unit</comment>
+        <translation>Da %1 a %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <translation>Le impostazioni predefinite dell’utente per questa stampante richiedono valori di cui non dispone: %1.</translation>
+    </message>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>Impossibile mostrare una pagina delle impostazioni della stampante: %1</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>Non è stato possibile preparare «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
+        <translation>Alcune impostazioni salvate di «%1» non vengono inviate con il lavoro (%2): %3</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::GeneralPage</name>
+    <message>
+        <source>C&amp;ollate</source>
+        <translation>&amp;Fascicola</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Tutte</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>&amp;Intervallo:</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copie:</translation>
+    </message>
+    <message>
+        <source>Print each copy whole before the next one begins</source>
+        <translation>Stampare ogni copia per intero prima di iniziare la successiva</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
+    </message>
+    <message>
+        <source>for example 1-3, 8</source>
+        <translation>per esempio 1-3, 8</translation>
+    </message>
+    <message>
+        <source>Pages to print</source>
+        <translation>Pagine da stampare</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pagine:</translation>
+    </message>
+    <message>
+        <source>Type which pages are to be printed, or choose all.</source>
+        <translation>Digitare le pagine da stampare oppure sceglierle tutte.</translation>
+    </message>
+</context>
+<context>
+    <name>host::MessageBar</name>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Chiu&amp;di</translation>
+    </message>
+</context>
+<context>
+    <name>host::OptionForm</name>
+    <message>
+        <source>%1…</source>
+        <comment>Custom, whose values are asked for</comment>
+        <translation>%1…</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>label of a field</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageBook</name>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Altre opzioni</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Riepilogo</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageList</name>
+    <message>
+        <source>Pages of the dialog</source>
+        <translation>Pagine della finestra di dialogo</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintWindow</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Stampa</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Stampa di %1</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>There is no document or no printer to print it on</source>
+        <translation>Manca il documento o la stampante su cui stamparlo</translation>
+    </message>
+    <message>
+        <source>Please note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>Suggerimento: %1</translation>
+    </message>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>&amp;Applica suggerimento</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Mantieni e ri&amp;vedi</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>Queste impostazioni non possono essere usate insieme</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Interrogazione del server di stampa…</translation>
+    </message>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>&amp;Non attendere</translation>
+    </message>
+    <message>
+        <source>There is no pane called “%1”.</source>
+        <translation>Non c’è alcuna pagina chiamata «%1».</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annullamento del lavoro…</translation>
+    </message>
+    <message>
+        <source>The print server has not answered yet.</source>
+        <translation>Il server di stampa non ha ancora risposto.</translation>
+    </message>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Invio del documento al server di stampa…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annulla la stampa</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterBox</name>
+    <message>
+        <source>Search by name or place</source>
+        <translation>Cerca per nome o posizione</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Cerca stampanti</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Stampanti</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterPicker</name>
+    <message>
+        <source>Printer</source>
+        <translation>Stampante</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>Stam&amp;pante:</translation>
+    </message>
+    <message>
+        <source>Options of a PPD file; there is no printer to print on</source>
+        <translation>Opzioni di un file PPD; non c’è alcuna stampante su cui stampare</translation>
+    </message>
+</context>
+<context>
+    <name>host::ReasonText</name>
+    <message>
+        <source>The printer is out of paper.</source>
+        <translation>La carta nella stampante è esaurita.</translation>
+    </message>
+    <message>
+        <source>The paper is running low.</source>
+        <translation>La carta è in esaurimento.</translation>
+    </message>
+    <message>
+        <source>Paper is jammed in the printer.</source>
+        <translation>C’è della carta inceppata nella stampante.</translation>
+    </message>
+    <message>
+        <source>The printer is out of toner.</source>
+        <translation>Il toner della stampante è esaurito.</translation>
+    </message>
+    <message>
+        <source>The toner is running low.</source>
+        <translation>Il toner è in esaurimento.</translation>
+    </message>
+    <message>
+        <source>A cover of the printer is open.</source>
+        <translation>Un coperchio della stampante è aperto.</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing.</source>
+        <translation>Manca un vassoio della carta.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Il vassoio di uscita è pieno.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off or not connected.</source>
+        <translation>La stampante è spenta o non è collegata.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer.</source>
+        <translation>La stampante non risponde.</translation>
+    </message>
+    <message>
+        <source>The printer is being connected to.</source>
+        <translation>Connessione alla stampante in corso.</translation>
+    </message>
+    <message>
+        <source>The print server is out of space.</source>
+        <translation>Il server di stampa ha esaurito lo spazio.</translation>
+    </message>
+    <message>
+        <source>The print server lacks a program for this printer.</source>
+        <translation>Al server di stampa manca un programma per questa stampante.</translation>
+    </message>
+    <message>
+        <source>The print server does not trust a program for this printer.</source>
+        <translation>Il server di stampa non considera attendibile un programma per questa stampante.</translation>
+    </message>
+</context>
+<context>
+    <name>host::ResultPage</name>
+    <message>
+        <source>Sent to “%1”</source>
+        <translation>Inviato a «%1»</translation>
+    </message>
+    <message>
+        <source>Perhaps sent to “%1”</source>
+        <translation>Forse inviato a «%1»</translation>
+    </message>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Lavoro %1: %2</translation>
+    </message>
+    <message>
+        <source>A private job is printed once you enter its code at the printer “%1”.</source>
+        <translation>Un lavoro riservato viene stampato dopo averne immesso il codice sulla stampante «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnavailablePage</name>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitSign</name>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>&amp;Non attendere</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitingPage</name>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>an amount of data, of the whole</comment>
+        <translation>%1 di %2</translation>
+    </message>
+</context>
+</TS>

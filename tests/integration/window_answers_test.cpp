@@ -1,0 +1,373 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "host/window/result_page.h"
+#include "host/window/unavailable_page.h"
+#include "host/window/wait_sign.h"
+#include "host/window/waiting_page.h"
+#include "platform/background.h"
+#include "tests/support/heartbeat.h"
+#include "tests/support/private_cupsd.h"
+#include "tests/support/private_network.h"
+#include "tests/support/silent_socket.h"
+#include "tests/support/stalling_proxy.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <csignal>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Milliseconds. Sanitizers slow the program down several times.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr qint64 longestGap = 1500;
+constexpr qint64 longestReaction = 3000;
+#else
+constexpr qint64 longestGap = 100;
+constexpr qint64 longestReaction = 200;
+#endif
+constexpr int manyQueues = 700;
+
+const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString familyPpd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
+
+// Raw queues, as the server keeps them in its configuration.
+QByteArray queueList(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += QStringLiteral("<Printer floor-%1>\nInfo Printer %1\nLocation Room %1\nDeviceURI capture:/\n"
+                               "State Idle\nAccepting Yes\nShared No\n</Printer>\n")
+                    .arg(i)
+                    .toUtf8();
+    return text;
+}
+
+} // namespace
+
+// What the user does, and what the server must have been asked by then.
+enum class Stage { Opening, Listing, Sending, Following };
+enum class Way { GiveUp, Close };
+Q_DECLARE_METATYPE(Stage)
+Q_DECLARE_METATYPE(Way)
+
+// The dialog with its bundle, while a print server, a device or a name server takes its time: whatever is
+// waited for, the dialog's thread goes on, and who wants out gets out.
+class WindowAnswersTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init() { m_heart.emplace(); }
+    void cleanup();
+    void serverNeverAnswers_data();
+    void serverNeverAnswers();
+    void serverAnswersLate();
+    void windowGoesBeforeTheAnswer_data();
+    void windowGoesBeforeTheAnswer();
+    void serverPauses();
+    void deviceIsSilent_data();
+    void deviceIsSilent();
+    void manyQueuesLoad();
+
+private:
+    void open(const QString &printer = u"office"_s);
+    QPushButton *button(const QString &text) const;
+    // Clicks, and waits for what is to come of it, which is to take no longer than people notice.
+    template <typename Condition>
+    void clickUntil(QWidget *target, Condition done, const char *what);
+    template <typename W>
+    W *find(const char *name = "") const
+    {
+        return m_window->findChild<W *>(QString::fromLatin1(name));
+    }
+
+    PrivateCupsd m_server;
+    std::optional<StallingProxy> m_proxy;
+    CupsPrintSystem m_system;
+    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    std::unique_ptr<PrintWindow> m_window;
+    std::optional<Heartbeat> m_heart;
+};
+
+void WindowAnswersTest::initTestCase()
+{
+    if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
+        QSKIP(qPrintable(missing));
+    // Whoever is asked for the address of a name is on the loopback interface, too.
+    QFile resolver(m_server.folder() + u"/resolv.conf"_s);
+    QVERIFY(resolver.open(QIODevice::WriteOnly) && resolver.write("nameserver 127.0.0.53\n") > 0);
+    resolver.close();
+    if (const QString whyNot = enterPrivateNetworkWithFiles({{resolver.fileName(), u"/etc/resolv.conf"_s}},
+                                                            u"/run/avahi-daemon"_s);
+        !whyNot.isNull())
+        QSKIP(qPrintable(whyNot));
+    QVERIFY(QDir(m_server.folder()).mkdir(u"etc"_s));
+    QFile queues(m_server.folder() + u"/etc/printers.conf"_s);
+    QVERIFY(queues.open(QIODevice::WriteOnly) && queues.write(queueList(manyQueues)) > 0);
+    queues.close();
+    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    qputenv("HOME", m_server.folder().toLocal8Bit());
+    for (const auto &[queue, address] : {std::pair(u"office"_s, u"127.0.0.2"_s),
+                                         {u"attic"_s, u"orb-m880.example"_s},
+                                         {u"halted"_s, u"127.0.0.2"_s}})
+        QVERIFY2(m_server.addQueue(queue, familyPpd, u"socket://%1:9100"_s.arg(address)),
+                 qPrintable(m_server.problem()));
+    QVERIFY(m_server.setPaused(u"halted"_s, true)); // its jobs do not end
+    QString problem;
+    m_proxy.emplace(m_server.folder() + u"/slow.sock"_s, m_server.socketPath(), &problem);
+    QVERIFY2(m_proxy->isRunning(), qPrintable(problem));
+    qputenv("CUPS_SERVER", m_proxy->socketPath().toLocal8Bit());
+    open(); // what is done once a program is not what is measured
+    QTRY_VERIFY(m_window->session());
+    m_window.reset();
+}
+
+void WindowAnswersTest::cleanup()
+{
+    if (!m_heart)
+        return;
+    const qint64 gap = m_heart->longestGap();
+    m_heart.reset();
+    m_window.reset();
+    if (m_proxy)
+        QVERIFY(m_proxy->command("pass"));
+    QTRY_VERIFY_WITH_TIMEOUT(!platform::Background::isUnderWay(), 20'000);
+    QCoreApplication::processEvents();
+    qInfo("longest gap %lld ms", gap);
+    QVERIFY2(gap < longestGap, qPrintable(u"the window did not answer for %1 ms"_s.arg(gap)));
+}
+
+void WindowAnswersTest::open(const QString &printer)
+{
+    PrintTask task;
+    task.files = {document};
+    task.printer = printer;
+    m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
+    PrintError error;
+    QVERIFY2(m_window->open(&error), qPrintable(error.message));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    m_window->finishLater();
+}
+
+QPushButton *WindowAnswersTest::button(const QString &text) const
+{
+    for (auto *button : m_window->findChildren<QPushButton *>()) {
+        if (button->isVisible() && button->text().remove(u'&') == text)
+            return button;
+    }
+    return nullptr;
+}
+
+template <typename Condition>
+void WindowAnswersTest::clickUntil(QWidget *target, Condition done, const char *what)
+{
+    QVERIFY2(target && target->isVisible() && target->isEnabled(), what);
+    QElapsedTimer clock;
+    clock.start();
+    QTest::mouseClick(target, Qt::LeftButton);
+    QVERIFY2(QTest::qWaitFor(done, 10'000), what);
+    QVERIFY2(clock.elapsed() < longestReaction,
+             qPrintable(u"%1: %2 ms"_s.arg(QLatin1String(what)).arg(clock.elapsed())));
+}
+
+void WindowAnswersTest::serverNeverAnswers_data()
+{
+    QTest::addColumn<Stage>("stage");
+    QTest::addColumn<QByteArray>("request"); // as the proxy names it
+    QTest::addColumn<Way>("way");
+    QTest::addColumn<QString>("told"); // to who gave up
+    const auto bothWays = [](const char *what, Stage stage, const char *request, const char *told = "") {
+        QTest::addRow("%s, given up", what)
+            << stage << QByteArray(request) << Way::GiveUp << QString::fromLatin1(told);
+        QTest::addRow("%s, closed", what) << stage << QByteArray(request) << Way::Close << QString();
+    };
+    const char *canceled = "Printing was canceled.";
+    bothWays("anything", Stage::Opening, "all");
+    bothWays("PPD", Stage::Opening, "ppd");
+    QTest::newRow("printer list") << Stage::Listing << QByteArray("4002") << Way::Close << QString();
+    bothWays("queue", Stage::Sending, "000b", canceled);
+    bothWays("making the job", Stage::Sending, "0005", canceled);
+    bothWays("sending", Stage::Sending, "0006", canceled);
+    bothWays("reading back", Stage::Sending, "0009",
+             "It may print; look at the queue before printing again.");
+    QTest::newRow("following") << Stage::Following << QByteArray("0009") << Way::Close << QString();
+}
+
+void WindowAnswersTest::serverNeverAnswers()
+{
+    QFETCH(Stage, stage);
+    QFETCH(QByteArray, request);
+    QFETCH(Way, way);
+    QFETCH(QString, told);
+    const auto stall = [&] { return m_proxy->command("stall " + request); };
+    const auto closed = [this] { return !m_window->isVisible(); };
+    if (stage == Stage::Opening || stage == Stage::Listing)
+        QVERIFY(stall());
+    m_heart->start();
+    open(stage == Stage::Following ? u"halted"_s : u"office"_s);
+    if (stage != Stage::Opening) {
+        QTRY_VERIFY(m_window->session());
+        if (stage == Stage::Sending)
+            QVERIFY(stall());
+    }
+    if (stage == Stage::Sending || stage == Stage::Following)
+        QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    if (stage == Stage::Following) {
+        QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
+        QVERIFY(stall());
+    }
+    QTRY_VERIFY(m_proxy->hasStalled());
+    auto *waiting = find<WaitingPage>();
+    if (stage == Stage::Opening || stage == Stage::Sending)
+        QTRY_VERIFY(waiting->isVisible());
+    if (way == Way::Close) {
+        if (stage == Stage::Sending) // the first one ends the sending
+            clickUntil(
+                button(u"Cancel"_s), [&] { return !waiting->cancelButton()->isEnabled(); }, "cancel");
+        clickUntil(button(stage == Stage::Following ? u"Close"_s : u"Cancel"_s), closed, "close");
+        return;
+    }
+    if (stage == Stage::Opening) {
+        clickUntil(
+            waiting->cancelButton(), [&] { return find<UnavailablePage>()->isVisible(); }, "do not wait");
+        QVERIFY(m_proxy->command("pass"));
+        QTest::mouseClick(find<UnavailablePage>()->retryButton(), Qt::LeftButton);
+        QTRY_VERIFY(m_window->session());
+        return;
+    }
+    clickUntil(
+        waiting->cancelButton(), [&] { return !waiting->cancelButton()->isEnabled(); }, "cancel printing");
+    QTRY_VERIFY_WITH_TIMEOUT(!waiting->isVisible(), 10'000);
+    const QString text = m_window->messageBar()->text() + find<ResultPage>()->text();
+    QVERIFY2(text.trimmed().endsWith(told), qPrintable(text));
+}
+
+void WindowAnswersTest::serverAnswersLate()
+{
+    QVERIFY(m_proxy->command("delay 300"));
+    m_heart->start();
+    open();
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->session(), 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 10'000);
+    QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(find<ResultPage>()->text().contains(u"done"_s), 10'000);
+}
+
+void WindowAnswersTest::windowGoesBeforeTheAnswer_data()
+{
+    QTest::addColumn<Stage>("stage");
+    QTest::newRow("opening") << Stage::Opening;
+    QTest::newRow("sending") << Stage::Sending;
+}
+
+void WindowAnswersTest::windowGoesBeforeTheAnswer()
+{
+    QFETCH(Stage, stage);
+    if (stage == Stage::Opening)
+        QVERIFY(m_proxy->command("delay 300"));
+    open();
+    if (stage != Stage::Opening) {
+        QTRY_VERIFY(m_window->session());
+        QVERIFY(m_proxy->command("delay 300"));
+        QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    }
+    QVERIFY(platform::Background::isUnderWay());
+    m_window.reset();
+}
+
+void WindowAnswersTest::serverPauses()
+{
+    const auto pid = static_cast<pid_t>(m_server.processId());
+    ::kill(pid, SIGSTOP);
+    m_heart->start();
+    open();
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    ::kill(pid, SIGCONT);
+    QTRY_VERIFY(m_window->session());
+    ::kill(pid, SIGSTOP);
+    QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    ::kill(pid, SIGCONT);
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
+}
+
+void WindowAnswersTest::deviceIsSilent_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QByteArray>("address"); // of who is asked
+    QTest::addColumn<int>("port");
+    QTest::newRow("device") << u"office"_s << QByteArray("127.0.0.2") << 161;
+    QTest::newRow("name server") << u"attic"_s << QByteArray("127.0.0.53") << 53;
+}
+
+void WindowAnswersTest::deviceIsSilent()
+{
+    QFETCH(QString, queue);
+    QFETCH(QByteArray, address);
+    QFETCH(int, port);
+    const SilentSocket silent(address.constData(), static_cast<quint16>(port));
+    QVERIFY(silent.isBound());
+    open(queue);
+    QTRY_VERIFY(m_window->session());
+    auto *list = m_window->book()->list();
+    const int row = m_window->book()->pageNamed(u"color-settings-1"_s);
+    // What waits does so within the click that began it: another one ends it.
+    QElapsedTimer sinceGivenUp;
+    QTimer impatience;
+    connect(&impatience, &QTimer::timeout, this, [&] {
+        QPushButton *stop = button(u"Do Not Wait"_s);
+        if (!stop || !silent.wasAsked())
+            return;
+        impatience.stop();
+        sinceGivenUp.start();
+        QTest::mouseClick(stop, Qt::LeftButton);
+    });
+    const auto clickAndGiveUp = [&](QWidget *target, const QPoint &place) {
+        silent.forget();
+        impatience.start(10);
+        QTest::mouseClick(target, Qt::LeftButton, {}, place);
+        QVERIFY(!impatience.isActive());
+        QVERIFY2(sinceGivenUp.elapsed() < longestReaction,
+                 qPrintable(QString::number(sinceGivenUp.elapsed())));
+        QVERIFY(!find<QFrame>("unavailableNotice")->property("text").toString().isEmpty());
+        QVERIFY(!button(u"Do Not Wait"_s));
+    };
+    m_heart->start();
+    clickAndGiveUp(list->viewport(), list->visualItemRect(list->item(row)).center());
+    QCOMPARE(m_window->book()->currentRow(), row);
+    QVERIFY(m_window->session()->markChoice(u"ImageType"_s, u"Advanced"_s));
+    auto *reload = find<QPushButton>("reloadButton");
+    QTRY_VERIFY(reload->isVisible());
+    clickAndGiveUp(reload, {});
+}
+
+void WindowAnswersTest::manyQueuesLoad()
+{
+    open();
+    QTRY_VERIFY(m_window->session());
+    QComboBox *box = find<PrinterPicker>()->box();
+    QTRY_VERIFY(box->count() > manyQueues);
+    clickUntil(
+        box, [] { return QApplication::activePopupWidget() != nullptr; }, "printer list");
+    QTest::keyClicks(QApplication::focusWidget(), u"room 655"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QTRY_COMPARE(m_window->session()->destination().queue, u"floor-655"_s);
+}
+
+QTEST_MAIN(WindowAnswersTest)
+#include "window_answers_test.moc"
