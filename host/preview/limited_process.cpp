@@ -38,6 +38,14 @@ void confine(int input, int output, const std::vector<int> &others, const Limite
     limit(RLIMIT_CPU, std::chrono::ceil<std::chrono::seconds>(limits.time).count());
 }
 
+// A process, and what it has started.
+void killAll(QProcess *process)
+{
+    if (process->processId() > 0)
+        ::kill(-static_cast<pid_t>(process->processId()), SIGKILL);
+    process->kill();
+}
+
 } // namespace
 
 FileView::FileView(const SharedFile &file)
@@ -68,7 +76,11 @@ LimitedProcess::LimitedProcess(QObject *parent) : QObject(parent)
 
 LimitedProcess::~LimitedProcess()
 {
-    stop();
+    if (!m_process)
+        return;
+    m_process->disconnect(this);
+    killAll(m_process.get());
+    m_process->waitForFinished(100); // a killed process is gone at once
 }
 
 QString LimitedProcess::pathFor(const SharedFile &file)
@@ -81,6 +93,12 @@ void LimitedProcess::start(const Call &call)
     stop();
     m_problem = QString();
     m_output = std::make_shared<const platform::UniqueFd>(memfd_create("pages", MFD_CLOEXEC));
+    if (!*m_output) {
+        m_problem = tr("there is not enough memory");
+        QMetaObject::invokeMethod(
+            this, [this] { Q_EMIT ended(nullptr); }, Qt::QueuedConnection);
+        return;
+    }
     m_process = std::make_unique<QProcess>();
     m_process->setProgram(call.program);
     m_process->setArguments(call.arguments);
@@ -121,7 +139,7 @@ void LimitedProcess::stop()
     letGo();
 }
 
-// Ends the process and what it has started. Nobody waits until it is gone.
+// Ends the process. Nobody waits until it is gone.
 void LimitedProcess::letGo()
 {
     if (!m_process)
@@ -132,9 +150,7 @@ void LimitedProcess::letGo()
         process->deleteLater(); // it may be what calls this
         return;
     }
-    if (process->processId() > 0)
-        ::kill(-static_cast<pid_t>(process->processId()), SIGKILL);
-    process->kill();
+    killAll(process);
     process->setParent(QCoreApplication::instance());
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
 }

@@ -280,7 +280,8 @@ QImage Preview::thumbnail(int index)
 {
     if (const QImage *known = m_thumbnails.object(index))
         return upright(known);
-    m_wantedThumbnail = index;
+    if (m_wantedThumbnail < 0) // who looks asks again for what is not there yet
+        m_wantedThumbnail = index;
     renderNext();
     return {};
 }
@@ -339,8 +340,7 @@ void Preview::keepThumbnails(const SharedFile &output)
         const QImage picture = pictures.value(index - first);
         m_thumbnails.insert(index, new QImage(picture), 1 + picture.sizeInBytes() / 1024);
     }
-    if (m_wantedThumbnail >= first && m_wantedThumbnail <= last)
-        m_wantedThumbnail = -1;
+    m_wantedThumbnail = -1;
     Q_EMIT thumbnailsMade(first, last);
     renderNext();
 }

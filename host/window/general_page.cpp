@@ -42,14 +42,30 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
         m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
-    m_layout = new LayoutForm(session, grid, this);
+    grid->setRowStretch(grid->rowCount(), 1);
+    showSides();
+}
+
+// What is further down is made when the page can be seen already.
+void GeneralPage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_isPainted, true))
+        QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
+}
+
+void GeneralPage::addLayout()
+{
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    grid->setRowStretch(grid->rowCount() - 1, 0);
+    m_layout = new LayoutForm(m_session, grid, this);
     connect(m_layout, &LayoutForm::changed, this, [this] {
         pagesEdited();
         Q_EMIT pagesChanged();
     });
     addSavePdf(grid);
-    showSides();
     grid->setRowStretch(grid->rowCount(), 1);
+    Q_EMIT grown();
 }
 
 void GeneralPage::addDocuments(QGridLayout *grid)
@@ -269,7 +285,8 @@ void GeneralPage::refresh()
 {
     if (m_form)
         m_form->refresh();
-    m_layout->refresh();
+    if (m_layout)
+        m_layout->refresh();
 }
 
 } // namespace host

@@ -46,12 +46,16 @@ Q_SIGNALS:
     // Which pages are printed, or how, has become another.
     void pagesChanged();
     void savePdfWanted();
+    // It has more controls than before.
+    void grown();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void addDocuments(QGridLayout *grid);
+    void addLayout();
     void addSavePdf(QGridLayout *grid);
     QRadioButton *addPart(GeneralSettings::Part part, const QString &text);
     QString rangesProblem() const;
@@ -76,7 +80,8 @@ private:
     QLabel *m_problem;
     QLabel *m_sides; // what the numbers of a range count
     OptionForm *m_form = nullptr;
-    LayoutForm *m_layout = nullptr;
+    LayoutForm *m_layout = nullptr; // made after the first paint
+    bool m_isPainted = false;
 };
 
 } // namespace host

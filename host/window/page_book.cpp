@@ -154,6 +154,7 @@ QWidget *PageBook::contentOf(const Page &page)
         m_general = new GeneralPage(m_session, m_documents);
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
         connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
+        connect(m_general, &GeneralPage::grown, this, &PageBook::shown);
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
         if (m_preview)
             m_general->setPageCount(m_preview->documentPages());

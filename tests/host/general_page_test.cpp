@@ -58,7 +58,7 @@ PrintWindow &GeneralPageTest::openWith(const QStringList &files)
     m_window->finishLater();
     if (!QTest::qWaitForWindowActive(m_window.get()))
         qFatal("the window does not appear");
-    waitForPrinters();
+    settle();
     return *m_window;
 }
 
@@ -121,6 +121,7 @@ void GeneralPageTest::layoutIsSent()
     else
         choose(name, value);
     printButton()->click();
+    settle();
     QCOMPARE(m_system.submitted.size(), 1);
     for (auto it = sent.begin(); it != sent.end(); ++it)
         QCOMPARE(sentValue(m_system.submitted.first().options, it.key()), it.value());
@@ -135,9 +136,11 @@ void GeneralPageTest::documentIsLeftOut()
     list->item(0)->setCheckState(Qt::Unchecked);
     list->item(1)->setCheckState(Qt::Unchecked);
     printButton()->click();
+    settle();
     QVERIFY(m_system.submitted.isEmpty());
     list->item(1)->setCheckState(Qt::Checked);
     printButton()->click();
+    settle();
     QCOMPARE(m_system.submitted.size(), 1);
     QCOMPARE(m_system.submitted.first().documents.size(), 1);
     QCOMPARE(m_system.submitted.first().documents.first().path, m_document.fileName());
