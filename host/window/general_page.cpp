@@ -65,7 +65,8 @@ void GeneralPage::addLayout()
     });
     addSavePdf(grid);
     grid->setRowStretch(grid->rowCount(), 1);
-    Q_EMIT grown();
+    // Its controls are shown by events that are queued already.
+    QMetaObject::invokeMethod(this, &GeneralPage::grown, Qt::QueuedConnection);
 }
 
 void GeneralPage::addDocuments(QGridLayout *grid)

@@ -45,7 +45,7 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
     addRow(numberUp, tr("Pages per side:"), sheetChoices(), grid);
     addRow(order, tr("Order:"), PageLayoutSettings::orders(), grid);
-    addRow(border, tr("Border:"), PageLayoutSettings::borders(), grid);
+    addRow(border, tr("Line around pages:"), PageLayoutSettings::borders(), grid);
     addRow(orientation, tr("Orientation:"), {QString(), QStringLiteral("3"), QStringLiteral("4")}, grid);
     addRow(scaling, tr("Size:"), {QString(), QStringLiteral("fit"), QStringLiteral("none")}, grid);
     addRow(pageSet, tr("Odd or even:"), PageLayoutSettings::pageSets(), grid);
