@@ -45,7 +45,7 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
     addRow(numberUp, tr("Pages per side:"), sheetChoices(), grid);
     addRow(order, tr("Order:"), PageLayoutSettings::orders(), grid);
-    addRow(border, tr("Line around pages:"), PageLayoutSettings::borders(), grid);
+    addRow(border, tr("Border:"), PageLayoutSettings::borders(), grid);
     addRow(orientation, tr("Orientation:"), {QString(), QStringLiteral("3"), QStringLiteral("4")}, grid);
     addRow(scaling, tr("Size:"), {QString(), QStringLiteral("fit"), QStringLiteral("none")}, grid);
     addRow(pageSet, tr("Odd or even:"), PageLayoutSettings::pageSets(), grid);
@@ -65,7 +65,9 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
         box->addItem(name == numberUp ? value : layoutValueText(name, value), value);
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    text->setBuddy(box);
+    // An access key for those that are wanted most: with the printer's own options there are too few letters.
+    if (name == numberUp || name == orientation)
+        text->setBuddy(box);
     const int row = grid->rowCount();
     grid->addWidget(text, row, 0);
     grid->addWidget(box, row, 1);
