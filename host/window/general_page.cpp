@@ -34,6 +34,7 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(10);
     grid->setColumnStretch(2, 1);
+    grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this)); // nothing moves when it is made
     addDocuments(grid);
     addCopies(grid);
     addPages(grid);

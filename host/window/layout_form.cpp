@@ -53,6 +53,15 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     refresh();
 }
 
+int LayoutForm::labelWidth(const QWidget *page)
+{
+    int width = 0;
+    for (const QString &label : {tr("Pages per side:"), tr("Order:"), tr("Border:"), tr("Orientation:"),
+                                 tr("Size:"), tr("Odd or even:")})
+        width = qMax(width, page->fontMetrics().horizontalAdvance(label));
+    return width + 2; // as a label has it
+}
+
 void LayoutForm::addRow(const QString &name, const QString &label, const QStringList &values,
                         QGridLayout *grid)
 {

@@ -9,6 +9,7 @@
 
 class QCheckBox;
 class QGridLayout;
+class QWidget;
 
 namespace platform {
 class ChoiceBox;
@@ -27,6 +28,9 @@ class LayoutForm : public QObject
 public:
     LayoutForm(DialogSession *session, QGridLayout *grid, QObject *parent);
 
+    // How wide its labels are in the font of a page, in pixels: a page that makes the form later keeps the
+    // place.
+    static int labelWidth(const QWidget *page);
     // Shows what the session holds now.
     void refresh();
 
