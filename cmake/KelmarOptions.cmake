@@ -10,7 +10,7 @@ endif()
 option(KELMAR_OLDER_HOSTS "Build the paths for older dialog hosts (print-settings ticket, slider notifications)"
        ${kelmar_older_default})
 option(KELMAR_WERROR "Treat compiler warnings as errors" OFF)
-option(KELMAR_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+set(KELMAR_SANITIZE OFF CACHE STRING "ON: build with the address and undefined-behaviour sanitizers; thread: with that for threads")
 option(KELMAR_BUILD_TESTS "Build the tests" ON)
 option(KELMAR_BUILD_BENCH "Build the benchmarks" OFF)
 
@@ -71,7 +71,11 @@ target_compile_definitions(
   kelmar_options
   INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
             KELMAR_OLDER_HOSTS=$<BOOL:${KELMAR_OLDER_HOSTS}>)
-if(KELMAR_SANITIZE)
+if(KELMAR_SANITIZE STREQUAL "thread")
+  target_compile_options(kelmar_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer
+                                                  -Wno-tsan) # of fences in headers of Qt
+  target_link_options(kelmar_options INTERFACE -fsanitize=thread)
+elseif(KELMAR_SANITIZE)
   target_compile_options(kelmar_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                   -fno-omit-frame-pointer)
   target_link_options(kelmar_options INTERFACE -fsanitize=address,undefined)

@@ -62,6 +62,11 @@ QList<OptionText> optionTexts()
         {names({"list-options"}),
          {},
          ArgumentsText::tr("Write the options of the printer and their choices.")},
+        {names({"presets"}), {}, ArgumentsText::tr("Write the presets of the printer.")},
+        {names({"save-preset"}), ArgumentsText::tr("NAME"),
+         ArgumentsText::tr("Keep the settings as a preset of the printer, without passwords and codes.")},
+        {names({"delete-preset"}), ArgumentsText::tr("NAME"),
+         ArgumentsText::tr("Delete a preset of the printer.")},
         {names({"json"}), {}, ArgumentsText::tr("Write results and errors as JSON.")},
         {names({"ppd"}), ArgumentsText::tr("FILE"),
          ArgumentsText::tr("Take the options from this PPD file instead of a queue.")},
@@ -166,10 +171,12 @@ QString problemOf(const Arguments &arguments)
         return ArgumentsText::tr("--batch and --screenshot do not go together.");
     if (!arguments.output.isEmpty() && !arguments.batch)
         return ArgumentsText::tr("--output goes with --batch.");
+    if (arguments.asksForPresets() && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
+        return ArgumentsText::tr("Presets belong to a printer; --ppd alone names none.");
     if (arguments.resolve && arguments.needsWindow())
-        return ArgumentsText::tr("--resolve goes with --batch or --summary.");
+        return ArgumentsText::tr("--resolve goes with --batch, --summary or --save-preset.");
     if (arguments.json && arguments.needsWindow())
-        return ArgumentsText::tr("--json goes with --batch, --summary or --list-options.");
+        return ArgumentsText::tr("--json goes with --batch, --summary, --list-options or a preset.");
     return {};
 }
 
@@ -229,6 +236,11 @@ std::optional<Arguments> parseArguments(const QStringList &words, QString *error
     arguments.json = isSet("json");
     arguments.resolve = isSet("resolve");
     arguments.startupTime = isSet("startup-time");
+    arguments.presets = isSet("presets");
+    if (isSet("save-preset"))
+        arguments.savePreset = value("save-preset");
+    if (isSet("delete-preset"))
+        arguments.deletePreset = value("delete-preset");
     arguments.printer = value("printer");
     arguments.server = value("server");
     arguments.ppdFile = value("ppd");
@@ -267,7 +279,9 @@ QString helpText()
 
 bool runsWithoutWindow(int argc, const char *const *argv)
 {
-    return hasWord(argc, argv, {"--batch", "--summary", "--list-options", "--help", "--version"});
+    return hasWord(argc, argv,
+                   {"--batch", "--summary", "--list-options", "--presets", "--save-preset", "--delete-preset",
+                    "--help", "--version"});
 }
 
 } // namespace host

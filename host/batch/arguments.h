@@ -44,6 +44,9 @@ struct Arguments
     bool json = false;
     bool resolve = false;
     bool startupTime = false;
+    bool presets = false;
+    std::optional<QString> savePreset;
+    std::optional<QString> deletePreset;
     QString printer;
     QString server; // empty for the one of the environment
     QString ppdFile;
@@ -58,7 +61,8 @@ struct Arguments
 
     // Whether a value is read from the standard input, which then is no document.
     bool takesValueFromInput() const;
-    bool needsWindow() const { return !batch && !summary && !listOptions; }
+    bool asksForPresets() const { return presets || savePreset || deletePreset; }
+    bool needsWindow() const { return !batch && !summary && !listOptions && !asksForPresets(); }
 };
 
 // Nil with a message when the command line cannot be understood. The first word is the program's name. The

@@ -5,7 +5,9 @@
 
 #include "host/preview/pdf_writer.h"
 #include "host/printing/opened_printer.h"
+#include "host/printing/preset_store.h"
 #include "host/session/chosen_settings.h"
+#include "host/session/preset_settings.h"
 #include "host/session/printed_pages.h"
 #include "host/session/setting_keys.h"
 
@@ -108,7 +110,52 @@ ExitCode BatchRun::prepare()
         m_result.hasSummary = true;
         m_result.summary = m_session->summary();
     }
+    if (settled == ExitSuccess && !changePresets(&error))
+        return fail(error);
     return settled;
+}
+
+bool BatchRun::changePresets(PrintError *error)
+{
+    const PresetStore store;
+    const QString queue = m_session->destination().queue;
+    if (m_arguments.deletePreset && !store.remove(queue, *m_arguments.deletePreset, error))
+        return false;
+    m_result.deletedPreset = m_arguments.deletePreset.value_or(QString());
+    if (m_arguments.savePreset && !savePreset(*m_arguments.savePreset, error))
+        return false;
+    if (!m_arguments.presets)
+        return true;
+    m_result.presets = store.list(queue, error);
+    for (Preset &preset : m_result.presets ? *m_result.presets : QList<Preset>()) {
+        preset.options.removeIf([&](const auto &option) { return m_session->isSecret(option.key()); });
+    }
+    return m_result.presets.has_value();
+}
+
+bool BatchRun::savePreset(const QString &name, PrintError *error)
+{
+    const PresetStore store;
+    const Destination &destination = m_session->destination();
+    if (const QString problem = PresetStore::nameProblem(name); !problem.isNull()) {
+        *error = {PrintError::Kind::BadValue, problem};
+        return false;
+    }
+    const auto known = store.list(destination.queue, error);
+    if (!known)
+        return false;
+    QMap<QString, QString> inUse;
+    for (const Preset &preset : *known) {
+        if (preset.name == destination.instance)
+            inUse = preset.options;
+    }
+    if (!store.save(destination.queue, {name, presetOptions(*m_session, inUse, false)}, error))
+        return false;
+    m_result.savedPreset = name;
+    if (hasSecrets(*m_session))
+        m_session->addNotice(
+            BatchText::tr("Passwords and codes are not kept in the preset; they are to be given each time."));
+    return true;
 }
 
 bool BatchRun::openDocuments()

@@ -36,6 +36,8 @@ private:
     bool openDocuments();
     bool openSession(PrintError *error);
     ExitCode settleConflicts();
+    bool changePresets(PrintError *error);
+    bool savePreset(const QString &name, PrintError *error);
     ExitCode submit();
     ExitCode writePdf();
     ExitCode fail(const PrintError &error);

@@ -94,6 +94,19 @@ QJsonArray toJson(const QList<Conflict> &conflicts)
     return array;
 }
 
+QJsonArray toJson(const QList<Preset> &presets)
+{
+    QJsonArray array;
+    for (const Preset &preset : presets) {
+        QJsonObject options;
+        for (auto it = preset.options.begin(); it != preset.options.end(); ++it)
+            options[it.key()] = it.value();
+        array.append(
+            QJsonObject{{QStringLiteral("name"), preset.name}, {QStringLiteral("options"), options}});
+    }
+    return array;
+}
+
 QString sidesText(const QList<OptionChoice> &sides)
 {
     QStringList texts;
@@ -123,6 +136,12 @@ QJsonObject toJson(const BatchResult &result)
             keys.append(QJsonObject{{QStringLiteral("panel"), panel}, {QStringLiteral("key"), key}});
         object[QStringLiteral("panelKeys")] = keys;
     }
+    if (result.presets)
+        object[QStringLiteral("presets")] = toJson(*result.presets);
+    if (!result.savedPreset.isEmpty())
+        object[QStringLiteral("savedPreset")] = result.savedPreset;
+    if (!result.deletedPreset.isEmpty())
+        object[QStringLiteral("deletedPreset")] = result.deletedPreset;
     if (result.submission)
         object[QStringLiteral("outcome")] = result.submission->code();
     if (result.submission && result.submission->job.id > 0)
@@ -162,6 +181,7 @@ bool ResultWriter::writeSettings(const BatchResult &result)
         for (const auto &[name, value] : section.entries)
             print(QStringLiteral("    %1: %2").arg(name, value));
     }
+    writePresets(result);
     return finish();
 }
 
@@ -227,6 +247,20 @@ void ResultWriter::writeOptions(const BatchResult &result)
         print(ResultText::tr("Keys of the panels"));
     for (const auto &[panel, key] : result.panelKeys)
         print(QStringLiteral("    %1 (%2)").arg(key, panel));
+}
+
+void ResultWriter::writePresets(const BatchResult &result)
+{
+    if (!result.deletedPreset.isEmpty())
+        print(ResultText::tr("The preset “%1” has been deleted.").arg(result.deletedPreset));
+    if (!result.savedPreset.isEmpty())
+        print(ResultText::tr("The settings have been saved as the preset “%1”.").arg(result.savedPreset));
+    const QString queue = result.printer.section(QLatin1Char('/'), 0, 0);
+    for (const Preset &preset : result.presets.value_or(QList<Preset>())) {
+        print(preset.name.isEmpty() ? queue : queue + QLatin1Char('/') + preset.name);
+        for (auto it = preset.options.begin(); it != preset.options.end(); ++it)
+            print(QStringLiteral("    %1=%2").arg(it.key(), it.value()));
+    }
 }
 
 void ResultWriter::writeJob(const BatchResult &result)

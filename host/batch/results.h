@@ -5,6 +5,7 @@
 
 #include "host/batch/terminal_text.h"
 #include "host/printing/job.h"
+#include "host/printing/preset_store.h"
 #include "host/session/dialog_session.h"
 
 #include <QIODevice>
@@ -25,6 +26,9 @@ struct BatchResult
     QList<PpdOption> options; // when asked for
     QList<std::pair<QString, QString>> panelKeys;
     bool hasOptions = false;
+    std::optional<QList<Preset>> presets; // when asked for; without codes
+    QString savedPreset;
+    QString deletedPreset;
     std::optional<Submission> submission; // when something was to be printed
     QString queue;
     QStringList documents;        // of the job, by name
@@ -52,6 +56,7 @@ public:
 private:
     void writeText(const BatchResult &result);
     void writeOptions(const BatchResult &result);
+    void writePresets(const BatchResult &result);
     void writeJob(const BatchResult &result);
     void writeConflicts(const BatchResult &result);
     void print(const QString &line) { put(terminalLine(line)); }

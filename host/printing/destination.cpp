@@ -17,6 +17,20 @@ constexpr qsizetype mostRecent = 5;
 
 } // namespace
 
+// The name that a printer announces: of "ipps://Office%20Printer._ipps._tcp.local/", all before the service.
+static QString announcedName(const QString &deviceUri)
+{
+    const QString host = deviceUri.section(QStringLiteral("://"), 1).section(QLatin1Char('/'), 0, 0);
+    const qsizetype service = host.indexOf(QLatin1String("._"));
+    return service < 0 ? QString() : host.left(service);
+}
+
+bool Destination::isSameDevice(const Destination &other) const
+{
+    const QString announced = announcedName(deviceUri);
+    return !announced.isEmpty() && announced == announcedName(other.deviceUri);
+}
+
 QString Destination::displayName() const
 {
     const QString printer = info.isEmpty() ? queue : info;

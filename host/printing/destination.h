@@ -23,11 +23,14 @@ struct Destination
     bool isDefault = false;
     bool accepting = true;
     bool stopped = false;
+    bool isOnNetwork = false;       // announces itself there, and has a queue only while it is used
     QMap<QString, QString> options; // the user's and the queue's own settings, as libcups gives them
 
     QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
     // For lists: the printer's everyday name, and the preset where it is one.
     QString displayName() const;
+    // Whether both are the same printer in the network, by the names that it announces there.
+    bool isSameDevice(const Destination &other) const;
     // The queue that opens this dialog: for other programs to print to, never for the dialog itself.
     bool opensDialog() const { return deviceUri.startsWith(QLatin1String("kelmar-dialog:")); }
 };

@@ -42,6 +42,11 @@ QString JobStatus::text() const
     return JobText::tr("unknown");
 }
 
+bool JobStatus::needsSomebody() const
+{
+    return !isFinal() && (printerStopped || state == State::Stopped);
+}
+
 QString JobStatus::code() const
 {
     static const std::array<const char *, 8> codes = {

@@ -49,11 +49,18 @@ struct JobStatus
     State state = State::Unknown;
     bool printerStopped = false; // it waits because its printer has been stopped
     QString message;             // why, for the user; may be empty
+    bool isHeldByUser = false;   // on hold until somebody releases it, and not until a time
+    int printedPages = 0;        // so far; 0 where the printer does not count
 
     bool isFinal() const { return state >= State::Cancelled; }
+    // It does not go on by itself.
+    bool needsSomebody() const;
     QString text() const; // localised
     QString code() const; // for scripts: the IPP keyword
 };
+
+// What its user can do to a job that has been accepted.
+enum class JobAction { Cancel, Hold, Release };
 
 struct SubmittedJob
 {

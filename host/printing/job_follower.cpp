@@ -35,6 +35,16 @@ void JobFollower::stop()
 {
     ++m_round;
     m_next.stop();
+    m_query = nullptr;
+}
+
+void JobFollower::askSoon()
+{
+    if (!m_query)
+        return;
+    ++m_round; // what is under way was asked before
+    m_asked = 0;
+    m_next.start(std::chrono::milliseconds(0));
 }
 
 void JobFollower::ask()

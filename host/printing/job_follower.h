@@ -25,6 +25,8 @@ public:
     explicit JobFollower(QObject *parent = nullptr);
     void follow(Query query);
     void stop();
+    // Asks now, as after something has been done to the job.
+    void askSoon();
 
 Q_SIGNALS:
     void changed(const host::JobStatus &status);

@@ -9,6 +9,7 @@
 #include <QDeadlineTimer>
 #include <QThread>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 
@@ -52,6 +53,9 @@ JobOnServer read(IppPointer attributes)
     job.status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
                                     attributeText(message, "job-printer-state-message"));
     job.status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
+    job.status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
+    job.status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
+                                       attributeInteger(message, "job-media-sheets-completed", 0));
     job.isIncoming = reasons.contains(QLatin1String("job-incoming"));
     job.hasBegun = ippFindAttribute(message, "time-at-processing", IPP_TAG_INTEGER) != nullptr;
     job.kilobytes = attributeInteger(message, "job-k-octets", -1);
@@ -159,11 +163,11 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
     }
 }
 
-bool JobLookup::cancel(int id)
+Reply JobLookup::change(ipp_op_t operation, int id)
 {
     ServerConnection server(m_login);
     server.setStop(stopSoon());
-    return server.ask(jobRequest(IPP_OP_CANCEL_JOB, id), m_resource).succeeded();
+    return server.ask(jobRequest(operation, id), m_resource);
 }
 
 } // namespace host

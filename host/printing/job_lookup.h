@@ -43,7 +43,9 @@ public:
     // a number again. `id` is 0 where it is not known.
     Result byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline, JobOnServer *job);
     // Whether the server confirmed it.
-    bool cancel(int id);
+    bool cancel(int id) { return change(IPP_OP_CANCEL_JOB, id).succeeded(); }
+    // Has the server do something to a job that needs no more than its number.
+    Reply change(ipp_op_t operation, int id);
     // Why there was no answer, the last time that there was none.
     const PrintError &problem() const { return m_problem; }
 

@@ -168,7 +168,10 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     // is away.
     std::optional<QueueFacts> facts;
     if (!name.isEmpty()) {
-        facts = queryQueue(&server, printerUriOfQueue(queue), name, error);
+        Destination wanted;
+        wanted.queue = queue;
+        wanted.info = name;
+        facts = factsOf(&server, wanted, error);
         if (!facts)
             return std::nullopt;
     }
@@ -185,6 +188,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         PrintError ignored;
         if (!facts)
             facts = queryQueue(&server, printerUriOfQueue(destination.queue), destination.queue, &ignored);
+        destination.isOnNetwork = m_network.hasFound(destination.queue);
         correctDefaults(facts.value_or(QueueFacts()), &destination);
         if (!destination.opensDialog())
             return destination;
@@ -201,6 +205,24 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     return std::nullopt;
 }
 
+// A queue for a printer in the network is made when it is first used, and again when the server has taken it
+// away since.
+std::optional<QueueFacts> CupsPrintSystem::factsOf(ServerConnection *server, const Destination &destination,
+                                                   PrintError *error)
+{
+    const QByteArray uri = uriOf(destination);
+    auto facts = queryQueue(server, uri, destination.displayName(), error);
+    if (facts || error->kind != PrintError::Kind::NoSuchPrinter || !m_network.makeQueue(destination.queue))
+        return facts;
+    *error = {};
+    return queryQueue(server, uri, destination.displayName(), error);
+}
+
+void CupsPrintSystem::searchNetwork(const std::function<bool(const Destination &)> &found)
+{
+    m_network.search(found);
+}
+
 std::unique_ptr<PpdDocument> CupsPrintSystem::ppd(const Destination &destination, PrintError *error)
 {
     Visit visit(this);
@@ -212,19 +234,24 @@ std::unique_ptr<PpdDocument> CupsPrintSystem::ppd(const Destination &destination
 Submission CupsPrintSystem::submit(const JobRequest &request, const SubmissionWatch &watch)
 {
     Visit visit(this);
+    if (m_network.hasFound(request.destination.queue)) {
+        ServerConnection server(visit.login());
+        PrintError ignored; // the job will hear of it
+        factsOf(&server, request.destination, &ignored);
+    }
     return JobSubmitter(request, watch, visit.login()).submit();
 }
 
 JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
     Visit visit(this);
+    ServerConnection server(visit.login());
     JobOnServer job;
-    JobLookup(visit.login(), uriOf(destination)).byId(jobId, &job);
+    JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
     if (job.status.state != JobStatus::State::Pending)
         return job.status;
     // Of a job that has not begun the server tells nothing about its printer.
     PrintError ignored;
-    ServerConnection server(visit.login());
     const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
     if (queue) {
         job.status.printerStopped |= queue->stopped;
@@ -232,6 +259,20 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
             job.status.message = reasonText(queue->stateReasons, queue->stateMessage);
     }
     return job.status;
+}
+
+bool CupsPrintSystem::changeJob(const Destination &destination, int jobId, JobAction action,
+                                PrintError *error)
+{
+    Visit visit(this);
+    const ipp_op_t operation = action == JobAction::Cancel ? IPP_OP_CANCEL_JOB
+                               : action == JobAction::Hold ? IPP_OP_HOLD_JOB
+                                                           : IPP_OP_RELEASE_JOB;
+    const Reply reply = JobLookup(visit.login(), uriOf(destination)).change(operation, jobId);
+    if (reply.succeeded())
+        return true;
+    *error = reply.error(destination.displayName());
+    return false;
 }
 
 std::optional<Destination> CupsPrintSystem::withState(const Destination &destination)

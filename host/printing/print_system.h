@@ -5,6 +5,7 @@
 
 #include "host/printing/destination.h"
 #include "host/printing/job.h"
+#include "host/printing/network_printers.h"
 #include "host/printing/ppd_document.h"
 #include "host/printing/server_connection.h"
 
@@ -15,6 +16,8 @@
 #include <optional>
 
 namespace host {
+
+struct QueueFacts;
 
 // What the host asks of the print system. One object a program; every call is a request to the server and
 // blocks until it has answered. May be called on several threads at once. Errors are in plain words.
@@ -32,8 +35,14 @@ public:
     // Sends a job and tells what became of it. A signal held by HeldSignals cancels it, as the watch can.
     virtual Submission submit(const JobRequest &request, const SubmissionWatch &watch) = 0;
     virtual JobStatus jobStatus(const Destination &destination, int jobId) = 0;
+    // False with an error when the server does not do it.
+    virtual bool changeJob(const Destination &destination, int jobId, JobAction action,
+                           PrintError *error) = 0;
     // The same destination with the state its queue has now, asked with one request; nil when nobody answers.
     virtual std::optional<Destination> withState(const Destination &destination) = 0;
+    // Looks for printers in the network that need no queue; destination() and all that comes after it know
+    // those that were found. False from `found`, which is called on this thread, ends the search.
+    virtual void searchNetwork(const std::function<bool(const Destination &)> &found) = 0;
     // Who is asked where the server wants a user name and a password; nil means no. Without it such requests
     // are refused. One answer does for all.
     virtual void setLoginPrompt(LoginPrompt prompt) = 0;
@@ -50,16 +59,22 @@ public:
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
     Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
+    bool changeJob(const Destination &destination, int jobId, JobAction action, PrintError *error) override;
     std::optional<Destination> withState(const Destination &destination) override;
+    void searchNetwork(const std::function<bool(const Destination &)> &found) override;
     void setLoginPrompt(LoginPrompt prompt) override;
 
 private:
     class Visit;
+    // Of a queue that must be there, or be made; nil with an error.
+    std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
+                                      PrintError *error);
     std::optional<Login> askOnce(const LoginQuestion &question);
 
     std::mutex m_loginMutex;  // guards m_login
     std::mutex m_promptMutex; // held while somebody is asked
     LoginKeeper m_login;
+    NetworkPrinters m_network;
 };
 
 } // namespace host

@@ -1,11 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/service/desktop_notification.h"
 #include "host/service/door_service.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QFile>
 #include <QFileInfo>
+
+#include <cstdio>
 
 using namespace host;
 
@@ -40,8 +45,18 @@ int main(int argc, char **argv)
     const QCommandLineOption idle(QStringLiteral("idle"),
                                   QStringLiteral("Leave after so many seconds without anything to do."),
                                   QStringLiteral("seconds"), QStringLiteral("30"));
-    parser.addOptions({program, idle});
+    const QCommandLineOption notice(
+        QStringLiteral("notify"),
+        QStringLiteral("Show a notification, which comes on the input, and leave."));
+    parser.addOptions({program, idle, notice});
     parser.process(app);
+    if (parser.isSet(notice)) {
+        QFile input;
+        return input.open(stdin, QIODevice::ReadOnly) &&
+                       showDesktopNotification(QDBusConnection::sessionBus(), input.readAll())
+                   ? 0
+                   : 1;
+    }
     bool isNumber = false;
     const double seconds = parser.value(idle).toDouble(&isNumber);
     if (!isNumber || seconds < 0 || seconds > 1'000'000) {

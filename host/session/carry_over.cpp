@@ -28,9 +28,7 @@ void carryGeneral(const DialogSession &from, DialogSession *to)
     if (chosen.pages != start.pages)
         general.pages = chosen.pages;
     general.layout.takeChanges(start.layout, chosen.layout);
-    general.part = chosen.part;
-    general.offersCurrentPage = chosen.offersCurrentPage;
-    general.offersSelection = chosen.offersSelection;
+    general.takePart(chosen);
 }
 
 } // namespace

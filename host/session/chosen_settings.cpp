@@ -59,6 +59,16 @@ void ChosenSettings::add(const ChosenSetting &setting)
     m_settings.append(setting);
 }
 
+void ChosenSettings::takeBack(const QStringList &keys, const ChosenSettings &earlier)
+{
+    const auto isOne = [&](const ChosenSetting &setting) { return keys.contains(setting.key); };
+    m_settings.removeIf(isOne);
+    for (const ChosenSetting &setting : earlier.m_settings) {
+        if (isOne(setting))
+            add(setting);
+    }
+}
+
 bool ChosenSettings::contains(const QString &key) const
 {
     return std::any_of(m_settings.begin(), m_settings.end(), [&](const ChosenSetting &setting) {

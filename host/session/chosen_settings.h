@@ -37,6 +37,8 @@ class ChosenSettings
 public:
     // Takes the place, at the end, of earlier choices that it decides about anew.
     void add(const ChosenSetting &setting);
+    // Forgets the choices of these keys, or takes them as they were earlier.
+    void takeBack(const QStringList &keys, const ChosenSettings &earlier);
     // Whether this key, or a standard name that stands for this option of the PPD, has been chosen.
     bool contains(const QString &key) const;
     const QList<ChosenSetting> &inOrder() const { return m_settings; }

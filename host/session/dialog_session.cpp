@@ -459,7 +459,7 @@ QList<SummarySection> DialogSession::summary()
     settle();
     QList<SummarySection> sections{generalSummary(*this)};
     for (const Panel &panel : m_panels) {
-        SummarySection section{panel.panel->panelName(), {}};
+        SummarySection section{panel.panel->panelName(), {}, static_cast<int>(&panel - m_panels.data())};
         const QMap<QString, QString> info = panel.panel->summaryInfo();
         for (auto it = info.begin(); it != info.end(); ++it)
             section.entries.append({it.key(), it.value()});
@@ -471,8 +471,8 @@ QList<SummarySection> DialogSession::summary()
 
 QList<JobOption> DialogSession::jobOptions() const
 {
-    return host::jobOptions({m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(),
-                             m_general, m_startingGeneral});
+    return host::jobOptions(
+        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(), m_general});
 }
 
 } // namespace host

@@ -10,6 +10,7 @@
 #include "host/session/general_settings.h"
 #include "host/session/protection.h"
 #include "host/session/session_panel.h"
+#include "host/session/session_state.h"
 #include "host/session/summary_section.h"
 #include "platform/print_dialog.h"
 #include "platform/printing_manager.h"
@@ -80,6 +81,10 @@ public:
     // none that gives up what protects the user. Where every way does, `givenUp` (may be null) says what.
     std::optional<Resolution> proposal(QString *givenUp = nullptr) const;
     void apply(const Resolution &resolution);
+    // Everything that can be set, as it stands, what panels have not saved yet included.
+    SessionState state() const;
+    // Of what differs between two states, sets all to what `to` has, on the panels too, without a notice.
+    void bring(const SessionState &from, const SessionState &to);
     // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
     QStringList takeNotices();
     void addNotice(const QString &notice) { m_notices.append(notice); }
@@ -122,6 +127,8 @@ private:
     // What another panel than `owner` has just been set to; empty for nothing.
     OptionChoice causeBesides(int owner) const;
     void putBack(const QString &keyword, const QVariant &value);
+    bool bringMarks(const SessionState &from, const SessionState &to);
+    bool bringPrintSettings(const SessionState &from, const SessionState &to);
     // Works through the changes that panels have announced, once their calls have returned.
     void settle();
     void settleLater();

@@ -44,6 +44,13 @@ QList<JobOption> GeneralSettings::jobOptions() const
     return options;
 }
 
+void GeneralSettings::takePart(const GeneralSettings &other)
+{
+    part = other.part;
+    offersCurrentPage = other.offersCurrentPage;
+    offersSelection = other.offersSelection;
+}
+
 QString GeneralSettings::handling(bool collate)
 {
     return collate ? QStringLiteral("separate-documents-collated-copies")

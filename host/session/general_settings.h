@@ -31,6 +31,10 @@ struct GeneralSettings
 
     static constexpr int maxCopies = 9999;
 
+    bool operator==(const GeneralSettings &) const = default;
+
+    // Which part another program is to print, and what it offers, as others have it.
+    void takePart(const GeneralSettings &other);
     // The user's and the queue's defaults among a destination's options. What is no such value is passed
     // over. A PPD's default for collating counts for nothing: it is set to suit the filters, not the user.
     static GeneralSettings from(const QMap<QString, QString> &options);

@@ -25,7 +25,6 @@ struct JobOptionSources
     const QSet<QString> &savedOptions; // PPD options that panels have written
     const QVariantMap &printSettings;
     const GeneralSettings &general;
-    const GeneralSettings &startingGeneral; // before anybody chose
 };
 
 // Settings of panels bear names in reverse domain order.

@@ -236,24 +236,40 @@ QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
     return options;
 }
 
-QList<std::pair<QString, QString>> PageLayoutSettings::inWords() const
+QMap<QString, QString> PageLayoutSettings::values() const
 {
-    QList<std::pair<QString, QString>> words;
+    QMap<QString, QString> values = {
+        {numberUp, QString::number(pagesPerSide)},
+        {numberUpLayout, order},
+        {pageBorder, border},
+        {pageSetName, pageSet},
+        {outputOrder, isReversed ? QStringLiteral("reverse") : QStringLiteral("normal")}};
+    if (!orientation.isEmpty())
+        values.insert(orientationRequested, orientation);
+    if (!scaling.isEmpty())
+        values.insert(printScaling, scaling);
+    return values;
+}
+
+QList<PageLayoutSettings::Words> PageLayoutSettings::inWords(bool withUsual) const
+{
     const PageLayoutSettings usual;
-    if (pagesPerSide != 1) {
-        words.append({LayoutText::tr("Pages per side"), QString::number(pagesPerSide)});
-        words.append({LayoutText::tr("Order"), layoutValueText(numberUpLayout, order)});
-    }
-    if (border != usual.border)
-        words.append({LayoutText::tr("Border"), layoutValueText(pageBorder, border)});
-    if (orientation != usual.orientation)
-        words.append({LayoutText::tr("Orientation"), layoutValueText(orientationRequested, orientation)});
-    if (scaling != usual.scaling)
-        words.append({LayoutText::tr("Size"), layoutValueText(printScaling, scaling)});
-    if (pageSet != usual.pageSet)
-        words.append({LayoutText::tr("Odd or even"), layoutValueText(pageSetName, pageSet)});
-    if (isReversed)
-        words.append({LayoutText::tr("Last page first"), LayoutText::tr("On")});
+    QList<Words> words;
+    const auto add = [&](bool isUsual, const QString &key, const QString &name, const QString &value) {
+        if (withUsual || !isUsual)
+            words.append({key, name, value});
+    };
+    add(pagesPerSide == 1, numberUp, LayoutText::tr("Pages per side"), QString::number(pagesPerSide));
+    add(pagesPerSide == 1, numberUpLayout, LayoutText::tr("Order"), layoutValueText(numberUpLayout, order));
+    add(border == usual.border, pageBorder, LayoutText::tr("Border"), layoutValueText(pageBorder, border));
+    add(orientation == usual.orientation, orientationRequested, LayoutText::tr("Orientation"),
+        layoutValueText(orientationRequested, orientation));
+    add(scaling == usual.scaling, printScaling, LayoutText::tr("Size"),
+        layoutValueText(printScaling, scaling));
+    add(pageSet == usual.pageSet, pageSetName, LayoutText::tr("Odd or even"),
+        layoutValueText(pageSetName, pageSet));
+    add(!isReversed, outputOrder, LayoutText::tr("Last page first"),
+        isReversed ? LayoutText::tr("On") : LayoutText::tr("Off"));
     return words;
 }
 

@@ -48,8 +48,16 @@ struct PageLayoutSettings
     // another name for the same are contradicted.
     QList<JobOption> jobOptions(const PageLayoutSettings &start,
                                 const QMap<QString, QString> &defaults) const;
-    // Every setting that is not the print system's own default, in words: name and value.
-    QList<std::pair<QString, QString>> inWords() const;
+    // What is set, by job option; without those that have no value.
+    QMap<QString, QString> values() const;
+    struct Words
+    {
+        QString key; // the job option
+        QString name;
+        QString value;
+    };
+    // Every setting that is not the print system's own default, or all of them, in words.
+    QList<Words> inWords(bool withUsual) const;
 
     // Whether a job option of this name is decided by these settings.
     static bool covers(const QString &name);

@@ -19,22 +19,43 @@ struct SummaryText
 
 } // namespace
 
-SummarySection generalSummary(const DialogSession &session)
+QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual)
 {
-    const GeneralSettings &general = session.general();
-    SummarySection section{SummaryText::tr("General"), {}};
-    section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
-    section.entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
+    QList<SummaryEntry> entries;
+    entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
     if (general.copies > 1)
-        section.entries.append(
+        entries.append(
             {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
     QString pages = general.pages.isEmpty() ? SummaryText::tr("All") : general.pages;
     if (general.part != GeneralSettings::Part::Pages)
         pages = general.part == GeneralSettings::Part::CurrentPage ? SummaryText::tr("Current page")
                                                                    : SummaryText::tr("Selection");
-    section.entries.append({SummaryText::tr("Pages"), pages});
-    for (const auto &[name, value] : general.layout.inWords())
-        section.entries.append({name, value});
+    entries.append({SummaryText::tr("Pages"), pages});
+    for (const PageLayoutSettings::Words &words : general.layout.inWords(withUsual))
+        entries.append({words.name, words.value});
+    return entries;
+}
+
+QString keyOfGeneralEntry(const QString &name)
+{
+    if (name == SummaryText::tr("Copies"))
+        return QStringLiteral("copies");
+    if (name == SummaryText::tr("Collate"))
+        return QStringLiteral("multiple-document-handling");
+    if (name == SummaryText::tr("Pages"))
+        return QStringLiteral("page-ranges");
+    for (const PageLayoutSettings::Words &words : PageLayoutSettings().inWords(true)) {
+        if (name == words.name)
+            return words.key;
+    }
+    return {};
+}
+
+SummarySection generalSummary(const DialogSession &session)
+{
+    SummarySection section{SummaryText::tr("General"), {}};
+    section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
+    section.entries += generalEntries(session.general(), false);
     if (!session.ppd())
         return section;
     for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {

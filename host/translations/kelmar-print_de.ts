@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>ApplicationText</name>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 Seiten auf jeder Blattseite</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>The application asks for: %1.</source>
+        <translation>Die Anwendung verlangt: %1.</translation>
+    </message>
+</context>
+<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -54,10 +69,6 @@
     <message>
         <source>KEY=FILE</source>
         <translation>SCHLÜSSEL=DATEI</translation>
-    </message>
-    <message>
-        <source>The same with the value read from a file&apos;s first line.</source>
-        <translation>Dasselbe mit dem Wert aus der ersten Zeile einer Datei.</translation>
     </message>
     <message>
         <source>NAME=VALUE</source>
@@ -132,14 +143,6 @@
         <translation>[DATEI...]</translation>
     </message>
     <message>
-        <source>The file “%1” cannot be read: %2.</source>
-        <translation>Die Datei „%1“ ist nicht lesbar: %2.</translation>
-    </message>
-    <message>
-        <source>“%1” is not of the form KEY=VALUE.</source>
-        <translation>„%1“ hat nicht die Form SCHLÜSSEL=WERT.</translation>
-    </message>
-    <message>
         <source>--color-scheme takes light or dark.</source>
         <translation>--color-scheme nimmt light oder dark.</translation>
     </message>
@@ -174,25 +177,79 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
         <translation>Farben des Dialogs: light (hell) oder dark (dunkel).</translation>
     </message>
     <message>
+        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <translation>Dasselbe mit dem Wert aus der ersten Zeile einer Datei; „-“ ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>SCHLÜSSEL</translation>
+    </message>
+    <message>
+        <source>The same with the value asked for on the terminal, which does not show it.</source>
+        <translation>Dasselbe mit dem Wert, der im Terminal abgefragt und dort nicht angezeigt wird.</translation>
+    </message>
+    <message>
+        <source>--ask takes a key alone; the value is asked for.</source>
+        <translation>--ask nimmt nur einen Schlüssel; der Wert wird abgefragt.</translation>
+    </message>
+    <message>
+        <source>-o takes NAME=VALUE or NAME.</source>
+        <translation>-o nimmt NAME=WERT oder NAME.</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <translation>--%1 nimmt %2; hinter einem Schlüssel fehlt „=“.</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be a value and a document at once.</source>
+        <translation>Die Standardeingabe kann nicht zugleich ein Wert und ein Dokument sein.</translation>
+    </message>
+    <message>
+        <source>There is an option on the command line that this program does not have.</source>
+        <translation>Die Befehlszeile enthält eine Option, die dieses Programm nicht kennt.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1”.</source>
+        <translation>Es gibt keine Option „%1“.</translation>
+    </message>
+    <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
 </source>
         <translation>
 Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nicht zusammenpassen,
-4 abgebrochen. Mehr in der Handbuchseite kelmar-print(1).
+4 abgebrochen, 5 unbekannt, ob der Auftrag angenommen wurde. Mehr in der Handbuchseite kelmar-print(1).
 </translation>
+    </message>
+</context>
+<context>
+    <name>AttributesText</name>
+    <message>
+        <source>The print server did not take “%1”.</source>
+        <translation>Der Druckserver hat „%1“ nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>The print server took another value for “%1” than was sent.</source>
+        <translation>Der Druckserver hat für „%1“ einen anderen Wert übernommen als gesendet.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>CarryOverText</name>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Dieser Drucker kennt „%1“ nicht: Der Auftrag wird nicht geschützt.</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>Standardeingabe</translation>
+        <source>This printer does not take over: %1.</source>
+        <translation>Von diesem Drucker nicht übernommen: %1.</translation>
     </message>
 </context>
 <context>
@@ -215,16 +272,36 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <comment>a list of options, a choice</comment>
         <translation>Auf „%2“ geändert wurden: %1.</translation>
     </message>
-</context>
-<context>
-    <name>ExtensionsText</name>
     <message>
-        <source>The print extension cannot be used: %1</source>
-        <translation>Die Druckerweiterung ist nicht benutzbar: %1</translation>
+        <source>The reason: “%1” is “%2”.</source>
+        <translation>Der Grund: „%1“ steht auf „%2“.</translation>
     </message>
 </context>
 <context>
-    <name>JobText</name>
+    <name>ChosenText</name>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 nimmt diesen Wert nicht an.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>the code for “%1”</source>
+        <translation>der Code für „%1“</translation>
+    </message>
+    <message>
+        <source>settings of “%1”</source>
+        <translation>Einstellungen von „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentText</name>
+    <message>
+        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
+        <translation>Die Druckdaten lassen sich nicht im Ordner „%1“ ablegen: %2.</translation>
+    </message>
     <message>
         <source>There is no file “%1”.</source>
         <translation>Es gibt keine Datei „%1“.</translation>
@@ -232,6 +309,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” is a folder, not a document.</source>
         <translation>„%1“ ist ein Ordner, kein Dokument.</translation>
+    </message>
+    <message>
+        <source>“%1” is a device, not a document.</source>
+        <translation>„%1“ ist ein Gerät, kein Dokument.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
@@ -242,17 +323,27 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Die Datei „%1“ ist leer.</translation>
     </message>
     <message>
-        <source>No temporary file can be made: %1.</source>
-        <translation>Es lässt sich keine temporäre Datei anlegen: %1.</translation>
-    </message>
-    <message>
-        <source>The temporary file “%1” cannot be written: %2.</source>
-        <translation>Die temporäre Datei „%1“ ist nicht beschreibbar: %2.</translation>
+        <source>The standard input cannot be read: %1.</source>
+        <translation>Die Standardeingabe ist nicht lesbar: %1.</translation>
     </message>
     <message>
         <source>Nothing came from the standard input.</source>
         <translation>Von der Standardeingabe kam nichts.</translation>
     </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionsText</name>
+    <message>
+        <source>The print extension cannot be used: %1</source>
+        <translation>Die Druckerweiterung ist nicht benutzbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
         <translation>wartet: der Drucker ist angehalten</translation>
@@ -291,6 +382,29 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>LoginText</name>
+    <message>
+        <source>Log In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Der Benutzername oder das Passwort wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Der Druckserver %1 möchte wissen, wer druckt.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+</context>
+<context>
     <name>MainText</name>
     <message>
         <source>There is no display to open the dialog on. Use --batch to print without it.</source>
@@ -298,10 +412,174 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>OpenText</name>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Es ist kein Drucker eingerichtet.</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>„%1“ ist weder eine Seite noch ein Seitenbereich; schreiben Sie zum Beispiel 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelValueText</name>
+    <message>
+        <source>takes a whole number from %1 to %2</source>
+        <translation>nimmt eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>takes True or False</source>
+        <translation>nimmt True oder False</translation>
+    </message>
+    <message>
+        <source>cannot be set by a text</source>
+        <translation>lässt sich nicht mit einem Text setzen</translation>
+    </message>
+    <message>
+        <source>takes %1 digits</source>
+        <translation>nimmt %1 Ziffern</translation>
+    </message>
+    <message>
+        <source>takes %1 characters</source>
+        <translation>nimmt %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>does not take this value</source>
+        <translation>nimmt diesen Wert nicht an</translation>
+    </message>
+    <message>
+        <source>does not take this value: %1 has only %2</source>
+        <translation>nimmt diesen Wert nicht an: %1 kennt nur %2</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <comment>a key, and what it takes</comment>
+        <translation>%1 %2.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>PortalText</name>
+    <message>
+        <source>The document of an application cannot be printed.</source>
+        <translation>Das Dokument einer Anwendung kann nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Es ist leer.</translation>
+    </message>
+    <message>
+        <source>It is larger than 2 GB.</source>
+        <translation>Es ist größer als 2 GB.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Es ist nicht lesbar: %1.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>„%1“ drucken</translation>
+    </message>
+    <message>
+        <source>The document has not been printed on “%1”.</source>
+        <translation>Das Dokument wurde nicht auf „%1“ gedruckt.</translation>
+    </message>
+    <message>
+        <source>The document was sent to “%1”, but not quite as asked for.</source>
+        <translation>Das Dokument wurde an „%1“ gesendet, aber nicht ganz wie gewünscht.</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+</context>
+<context>
+    <name>PpdCustomText</name>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a length from %1 to %2 pt</source>
+        <translation>eine Länge von %1 bis %2 pt</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1 bis %2 Ziffern</translation>
+    </message>
+    <message>
+        <source>a password of %1 to %2 characters</source>
+        <translation>ein Passwort von %1 bis %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>%1 bis %2 Zeichen Text</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 nimmt %2.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>Custom (100 × 200 mm)</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>sizes from %1 × %2 to %3 × %4 pt, such as Custom.%5 (units: pt, mm, cm, m, in, ft)</source>
+        <translation>Größen von %1 × %2 bis %3 × %4 pt, etwa Custom.%5 (Einheiten: pt, mm, cm, m, in, ft)</translation>
+    </message>
+    <message>
+        <source>Custom. followed by %1</source>
+        <translation>Custom. und dahinter %1</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 steht für %2</translation>
+    </message>
+    <message>
+        <source>{%1}, where %2</source>
+        <translation>{%1}, dabei: %2</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
     </message>
 </context>
 <context>
@@ -331,36 +609,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 is broken: line %2: %3.</source>
         <translation>%1 ist fehlerhaft: Zeile %2: %3.</translation>
     </message>
-</context>
-<context>
-    <name>PrintErrorText</name>
     <message>
-        <source>There is no printer called “%1”.</source>
-        <translation>Es gibt keinen Drucker namens „%1“.</translation>
+        <source>%1 is too large: more than %2 MB.</source>
+        <translation>%1 ist zu groß: mehr als %2 MB.</translation>
     </message>
     <message>
-        <source>No printer has been set up.</source>
-        <translation>Es ist kein Drucker eingerichtet.</translation>
-    </message>
-    <message>
-        <source>The print server %1 cannot be reached.</source>
-        <translation>Der Druckserver %1 ist nicht erreichbar.</translation>
-    </message>
-    <message>
-        <source>The printer “%1” is not accepting jobs at the moment.</source>
-        <translation>Der Drucker „%1“ nimmt zurzeit keine Aufträge an.</translation>
-    </message>
-    <message>
-        <source>You are not allowed to print to “%1” (%2).</source>
-        <translation>Sie dürfen auf „%1“ nicht drucken (%2).</translation>
-    </message>
-    <message>
-        <source>The printer “%1” cannot print documents of this type.</source>
-        <translation>Der Drucker „%1“ kann Dokumente dieser Art nicht drucken.</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>Der Druckserver meldet: %1</translation>
+        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <translation>Für die PPD von „%1“ steht kein Speicher zur Verfügung: %2.</translation>
     </message>
 </context>
 <context>
@@ -368,6 +623,40 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
         <translation>Es ist kein Standarddrucker eingestellt; wählen Sie einen Drucker mit Namen.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
+        <translation>„%1“ öffnet den Druckdialog und druckt selbst nichts; wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Es gibt keinen Drucker namens „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterText</name>
+    <message>
+        <source>Stopped: jobs wait until it is started again</source>
+        <translation>Angehalten: Aufträge warten, bis er wieder gestartet wird</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectionText</name>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>„%1“ ist gewählt, aber es wurde kein Code dafür angegeben.</translation>
+    </message>
+    <message>
+        <source>A code has been given, but not “%1”: the job is not protected.</source>
+        <translation>Es wurde ein Code angegeben, aber „%1“ ist nicht gewählt: Der Auftrag ist nicht geschützt.</translation>
     </message>
 </context>
 <context>
@@ -400,13 +689,17 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Proposal (accepted with --resolve):</source>
         <translation>Vorschlag (mit --resolve angenommen):</translation>
     </message>
+    <message>
+        <source>The result cannot be written: %1.</source>
+        <translation>Das Ergebnis kann nicht ausgegeben werden: %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>und %1</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
     <message>
         <source>The picture “%1” cannot be written.</source>
         <translation>Das Bild „%1“ kann nicht geschrieben werden.</translation>
@@ -417,30 +710,77 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
-    <name>SettingText</name>
+    <name>ServerText</name>
     <message>
-        <source>none</source>
-        <translation>keine</translation>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Der Druckserver %1 verlangt einen Benutzernamen und ein Passwort.</translation>
     </message>
+    <message>
+        <source>The printer “%1” wants a user name and a password.</source>
+        <translation>Der Drucker „%1“ verlangt einen Benutzernamen und ein Passwort.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>Der Druckserver %1 ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The print server %1 gave an answer that cannot be understood.</source>
+        <translation>Die Antwort des Druckservers %1 ist nicht verständlich.</translation>
+    </message>
+    <message>
+        <source>The connection to the print server %1 broke off.</source>
+        <translation>Die Verbindung zum Druckserver %1 ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not let you do this (%2).</source>
+        <translation>Der Druckserver %1 erlaubt Ihnen das nicht (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused the request (%2).</source>
+        <translation>Der Druckserver %1 hat die Anfrage abgelehnt (%2).</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Es gibt keinen Drucker namens „%1“.</translation>
+    </message>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Es ist kein Drucker eingerichtet.</translation>
+    </message>
+    <message>
+        <source>The printer “%1” is not accepting jobs at the moment.</source>
+        <translation>Der Drucker „%1“ nimmt zurzeit keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to print to “%1” (%2).</source>
+        <translation>Sie dürfen auf „%1“ nicht drucken (%2).</translation>
+    </message>
+    <message>
+        <source>The printer “%1” cannot print documents of this type.</source>
+        <translation>Der Drucker „%1“ kann Dokumente dieser Art nicht drucken.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Der Druckserver meldet: %1</translation>
+    </message>
+    <message>
+        <source>The print server %1 sends a file of more than %2 megabytes.</source>
+        <translation>Der Druckserver %1 sendet eine Datei von mehr als %2 Megabyte.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
     <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 kennt den Wert „%2“ nicht; möglich sind %3.</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 digits.</source>
-        <translation>%1 nimmt %2 Ziffern.</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 characters, not %3.</source>
-        <translation>%1 nimmt %2 Zeichen, nicht %3.</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 nimmt diesen Wert nicht an.</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value: %2 has only %3.</source>
-        <translation>%1 nimmt diesen Wert nicht an: %2 kennt nur %3.</translation>
     </message>
     <message>
         <source>This printer has no option or setting called “%1”.</source>
@@ -458,6 +798,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 is not sent with the job: %2</source>
         <translation>%1 wird nicht mit dem Auftrag gesendet: %2</translation>
     </message>
+    <message>
+        <source>page-ranges does not take this value.</source>
+        <translation>page-ranges nimmt diesen Wert nicht an.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 nimmt %2.</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>
@@ -474,28 +822,32 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Die Datei „%1“ ist nicht lesbar: %2.</translation>
     </message>
     <message>
-        <source>The print server did not take “%1”.</source>
-        <translation>Der Druckserver hat „%1“ nicht übernommen.</translation>
+        <source>The unfinished job %1 could not be canceled.</source>
+        <translation>Der unfertige Auftrag %1 konnte nicht abgebrochen werden.</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Der Druckserver hat für „%1“ einen anderen Wert übernommen als gesendet.</translation>
+        <source>Nothing was printed.</source>
+        <translation>Es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job was accepted. It may print; look at the queue before printing again.</source>
+        <translation>Es ist nicht bekannt, ob der Auftrag angenommen wurde. Möglicherweise wird er gedruckt; sehen Sie in der Warteschlange nach, bevor Sie erneut drucken.</translation>
+    </message>
+    <message>
+        <source>The print server did not tell which settings it kept for the job.</source>
+        <translation>Der Druckserver hat nicht mitgeteilt, welche Einstellungen er für den Auftrag übernommen hat.</translation>
+    </message>
+    <message>
+        <source>The job %1 could not be canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of it may have been printed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>host::DialogSession</name>
-    <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
-    </message>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Die Einstellungen von „%1“ konnten nicht gesichert werden: %2</translation>
-    </message>
+    <name>SummaryText</name>
     <message>
         <source>General</source>
         <translation>Allgemein</translation>
@@ -530,6 +882,112 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>TerminalText</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Der Benutzername oder das Passwort wurde nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>User name for %1 [%2]: </source>
+        <translation>Benutzername für %1 [%2]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Passwort: </translation>
+    </message>
+</context>
+<context>
+    <name>ValueSourceText</name>
+    <message>
+        <source>The value of %1 cannot be read: %2.</source>
+        <translation>Der Wert von %1 ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>its first line is longer than %1 bytes</source>
+        <translation>die erste Zeile ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>es gibt keinen</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>er ist kein Text</translation>
+    </message>
+    <message>
+        <source>there is no terminal to ask on; --set-file takes it from a file or, as %1=-, from the standard input</source>
+        <translation>es gibt kein Terminal für die Abfrage; --set-file nimmt ihn aus einer Datei oder, als %1=-, von der Standardeingabe</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>prompt for a value</comment>
+        <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::CustomEditor</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <comment>points</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>Einheit des Papierformats</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>label of a field</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <comment>points, behind a number</comment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <comment>smallest size, largest size, unit</comment>
+        <translation>Von %1 bis %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Die Einstellungen von „%1“ konnten nicht gesichert werden: %2</translation>
+    </message>
+    <message>
+        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <translation>Ihre Voreinstellungen für diesen Drucker verlangen Werte, die er nicht kennt: %1.</translation>
+    </message>
+    <message>
+        <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
+        <translation>Gesicherte Einstellungen von „%1“ werden nicht mit dem Auftrag gesendet (%2): %3</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -542,14 +1000,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>&amp;Range:</source>
         <translation>&amp;Bereich:</translation>
-    </message>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>D&amp;rucker:</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
@@ -579,23 +1029,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Type which pages are to be printed, or choose all.</source>
         <translation>Geben Sie die zu druckenden Seiten ein, oder wählen Sie alle.</translation>
     </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
     <message>
         <source>C&amp;lose</source>
         <translation>S&amp;chließen</translation>
-    </message>
-</context>
-<context>
-    <name>host::MorePage</name>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>D&amp;rucker:</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Drucken</translation>
     </message>
 </context>
 <context>
@@ -606,8 +1049,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1:</translation>
     </message>
     <message>
-        <source>Not together with %1</source>
-        <translation>Nicht zusammen mit %1</translation>
+        <source>%1…</source>
+        <comment>Custom, whose values are asked for</comment>
+        <translation>%1 …</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
 </context>
 <context>
@@ -647,16 +1095,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Print “%1”</source>
-        <translation>„%1“ drucken</translation>
-    </message>
-    <message>
         <source>There is no pane called “%1”.</source>
         <translation>Es gibt keinen Bereich namens „%1“.</translation>
-    </message>
-    <message>
-        <source>No printer has been set up.</source>
-        <translation>Es ist kein Drucker eingerichtet.</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>
@@ -683,16 +1123,59 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Diese Einstellungen passen nicht zusammen</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>Standardeingabe</translation>
-    </message>
-    <message>
         <source>Sending the document to the print server…</source>
         <translation>Das Dokument wird an den Druckserver gesendet …</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Der Druckserver wird abgefragt …</translation>
+    </message>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>Nich&amp;t warten</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Der Auftrag wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>The print server has not answered yet.</source>
+        <translation>Der Druckserver hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>Druck &amp;abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterBox</name>
+    <message>
+        <source>Search by name or place</source>
+        <translation>Nach Name oder Standort suchen</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Drucker suchen</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
     </message>
 </context>
 <context>
@@ -709,17 +1192,64 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Optionen einer PPD-Datei; es gibt keinen Drucker dazu</translation>
     </message>
+</context>
+<context>
+    <name>host::ReasonText</name>
     <message>
-        <source>Stopped: jobs wait until it is started again</source>
-        <translation>Angehalten: Aufträge warten, bis er wieder gestartet wird</translation>
+        <source>The printer is out of paper.</source>
+        <translation>Der Drucker hat kein Papier mehr.</translation>
     </message>
     <message>
-        <source>Not accepting jobs</source>
-        <translation>Nimmt keine Aufträge an</translation>
+        <source>The paper is running low.</source>
+        <translation>Das Papier geht zur Neige.</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
+        <source>Paper is jammed in the printer.</source>
+        <translation>Im Drucker hat sich Papier gestaut.</translation>
+    </message>
+    <message>
+        <source>The printer is out of toner.</source>
+        <translation>Der Drucker hat keinen Toner mehr.</translation>
+    </message>
+    <message>
+        <source>The toner is running low.</source>
+        <translation>Der Toner geht zur Neige.</translation>
+    </message>
+    <message>
+        <source>A cover of the printer is open.</source>
+        <translation>Eine Abdeckung des Druckers ist offen.</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing.</source>
+        <translation>Eine Papierkassette fehlt.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Das Ausgabefach ist voll.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off or not connected.</source>
+        <translation>Der Drucker ist ausgeschaltet oder nicht angeschlossen.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer.</source>
+        <translation>Der Drucker antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The printer is being connected to.</source>
+        <translation>Die Verbindung zum Drucker wird hergestellt.</translation>
+    </message>
+    <message>
+        <source>The print server is out of space.</source>
+        <translation>Der Druckserver hat keinen Speicherplatz mehr.</translation>
+    </message>
+    <message>
+        <source>The print server lacks a program for this printer.</source>
+        <translation>Dem Druckserver fehlt ein Programm für diesen Drucker.</translation>
+    </message>
+    <message>
+        <source>The print server does not trust a program for this printer.</source>
+        <translation>Der Druckserver vertraut einem Programm für diesen Drucker nicht.</translation>
     </message>
 </context>
 <context>
@@ -732,12 +1262,43 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Job %1: %2</source>
         <translation>Auftrag %1: %2</translation>
     </message>
+    <message>
+        <source>Perhaps sent to “%1”</source>
+        <translation>Vielleicht an „%1“ gesendet</translation>
+    </message>
+    <message>
+        <source>A private job is printed once you enter its code at the printer “%1”.</source>
+        <translation>Ein vertraulicher Auftrag wird gedruckt, sobald Sie seinen Code am Drucker „%1“ eingeben.</translation>
+    </message>
 </context>
 <context>
     <name>host::UnavailablePage</name>
     <message>
         <source>&amp;Try Again</source>
         <translation>&amp;Erneut versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitSign</name>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>Nich&amp;t warten</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitingPage</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>an amount of data, of the whole</comment>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>The print server %1 sends a file of more than %2 megabytes.</source>
         <translation>El servidor de impresión %1 envía un archivo de más de %2 megabytes.</translation>
     </message>
+    <message>
+        <source>The print server %1 has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingText</name>
@@ -832,6 +836,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The print server did not tell which settings it kept for the job.</source>
         <translation>El servidor de impresión no ha indicado qué ajustes ha conservado para el trabajo.</translation>
+    </message>
+    <message>
+        <source>The job %1 could not be canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of it may have been printed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

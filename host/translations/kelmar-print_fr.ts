@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ApplicationText</name>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 pages par face</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>dernière page en premier</translation>
+    </message>
+    <message>
+        <source>The application asks for: %1.</source>
+        <translation>L’application demande : %1.</translation>
+    </message>
+</context>
+<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -54,10 +69,6 @@
     <message>
         <source>KEY=FILE</source>
         <translation>CLÉ=FICHIER</translation>
-    </message>
-    <message>
-        <source>The same with the value read from a file&apos;s first line.</source>
-        <translation>Idem, la valeur étant lue sur la première ligne d’un fichier.</translation>
     </message>
     <message>
         <source>NAME=VALUE</source>
@@ -136,14 +147,6 @@
         <translation>[FICHIER...]</translation>
     </message>
     <message>
-        <source>The file “%1” cannot be read: %2.</source>
-        <translation>Le fichier « %1 » est illisible : %2.</translation>
-    </message>
-    <message>
-        <source>“%1” is not of the form KEY=VALUE.</source>
-        <translation>« %1 » n’est pas de la forme CLÉ=VALEUR.</translation>
-    </message>
-    <message>
         <source>--color-scheme takes light or dark.</source>
         <translation>--color-scheme accepte light ou dark.</translation>
     </message>
@@ -174,25 +177,79 @@ Imprime des documents, avec ou sans dialogue de réglages.
 </translation>
     </message>
     <message>
+        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <translation>Idem, la valeur étant lue sur la première ligne d’un fichier ; « - » est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>CLÉ</translation>
+    </message>
+    <message>
+        <source>The same with the value asked for on the terminal, which does not show it.</source>
+        <translation>Idem, la valeur étant demandée dans le terminal, qui ne l’affiche pas.</translation>
+    </message>
+    <message>
+        <source>--ask takes a key alone; the value is asked for.</source>
+        <translation>--ask prend seulement une clé ; la valeur est demandée ensuite.</translation>
+    </message>
+    <message>
+        <source>-o takes NAME=VALUE or NAME.</source>
+        <translation>-o prend NOM=VALEUR ou NOM.</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <translation>--%1 prend %2 ; il manque « = » après une clé.</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be a value and a document at once.</source>
+        <translation>L’entrée standard ne peut pas être à la fois une valeur et un document.</translation>
+    </message>
+    <message>
+        <source>There is an option on the command line that this program does not have.</source>
+        <translation>La ligne de commande contient une option que ce programme ne connaît pas.</translation>
+    </message>
+    <message>
+        <source>There is no option “%1”.</source>
+        <translation>Il n’y a pas d’option « %1 ».</translation>
+    </message>
+    <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
 </source>
         <translation>
 Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatibles,
-4 annulé. Voir aussi la page de manuel kelmar-print(1).
+4 annulé, 5 on ne sait pas si la tâche a été acceptée. Voir aussi la page de manuel kelmar-print(1).
 </translation>
+    </message>
+</context>
+<context>
+    <name>AttributesText</name>
+    <message>
+        <source>The print server did not take “%1”.</source>
+        <translation>Le serveur d’impression n’a pas retenu « %1 ».</translation>
+    </message>
+    <message>
+        <source>The print server took another value for “%1” than was sent.</source>
+        <translation>Le serveur d’impression a retenu pour « %1 » une autre valeur que celle envoyée.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1 : cette imprimante ne connaît pas « %2 ».</translation>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Aucune solution conservant « %1 » n’a été trouvée : modifiez vous-même l’un des réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>CarryOverText</name>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Cette imprimante ne connaît pas « %1 » : la tâche ne sera pas protégée.</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>Entrée standard</translation>
+        <source>This printer does not take over: %1.</source>
+        <translation>Cette imprimante ne reprend pas : %1.</translation>
     </message>
 </context>
 <context>
@@ -215,16 +272,36 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <comment>a list of options, a choice</comment>
         <translation>Sont passés à « %2 » : %1.</translation>
     </message>
-</context>
-<context>
-    <name>ExtensionsText</name>
     <message>
-        <source>The print extension cannot be used: %1</source>
-        <translation>L’extension d’impression est inutilisable : %1</translation>
+        <source>The reason: “%1” is “%2”.</source>
+        <translation>La raison : « %1 » est réglé sur « %2 ».</translation>
     </message>
 </context>
 <context>
-    <name>JobText</name>
+    <name>ChosenText</name>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 n’accepte pas cette valeur.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1 : cette imprimante ne connaît pas « %2 ».</translation>
+    </message>
+    <message>
+        <source>the code for “%1”</source>
+        <translation>le code de « %1 »</translation>
+    </message>
+    <message>
+        <source>settings of “%1”</source>
+        <translation>réglages de « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentText</name>
+    <message>
+        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
+        <translation>Les données à imprimer ne peuvent pas être conservées dans le dossier « %1 » : %2.</translation>
+    </message>
     <message>
         <source>There is no file “%1”.</source>
         <translation>Il n’y a pas de fichier « %1 ».</translation>
@@ -232,6 +309,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>“%1” is a folder, not a document.</source>
         <translation>« %1 » est un dossier, pas un document.</translation>
+    </message>
+    <message>
+        <source>“%1” is a device, not a document.</source>
+        <translation>« %1 » est un périphérique, pas un document.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
@@ -242,17 +323,27 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Le fichier « %1 » est vide.</translation>
     </message>
     <message>
-        <source>No temporary file can be made: %1.</source>
-        <translation>Impossible de créer un fichier temporaire : %1.</translation>
-    </message>
-    <message>
-        <source>The temporary file “%1” cannot be written: %2.</source>
-        <translation>Impossible d’écrire le fichier temporaire « %1 » : %2.</translation>
+        <source>The standard input cannot be read: %1.</source>
+        <translation>L’entrée standard est illisible : %1.</translation>
     </message>
     <message>
         <source>Nothing came from the standard input.</source>
         <translation>L’entrée standard n’a rien fourni.</translation>
     </message>
+    <message>
+        <source>Standard input</source>
+        <translation>Entrée standard</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionsText</name>
+    <message>
+        <source>The print extension cannot be used: %1</source>
+        <translation>L’extension d’impression est inutilisable : %1</translation>
+    </message>
+</context>
+<context>
+    <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
         <translation>en attente : l’imprimante est arrêtée</translation>
@@ -291,6 +382,29 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>LoginText</name>
+    <message>
+        <source>Log In</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe n’a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>Le serveur d’impression %1 demande qui imprime.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>Nom d’&amp;utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+</context>
+<context>
     <name>MainText</name>
     <message>
         <source>There is no display to open the dialog on. Use --batch to print without it.</source>
@@ -298,10 +412,174 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>OpenText</name>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Aucune imprimante n’est configurée.</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>« %1 » n’est ni une page ni une plage de pages ; écrivez par exemple 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelValueText</name>
+    <message>
+        <source>takes a whole number from %1 to %2</source>
+        <translation>prend un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>takes True or False</source>
+        <translation>prend True ou False</translation>
+    </message>
+    <message>
+        <source>cannot be set by a text</source>
+        <translation>ne peut pas être réglé par un texte</translation>
+    </message>
+    <message>
+        <source>takes %1 digits</source>
+        <translation>prend %1 chiffres</translation>
+    </message>
+    <message>
+        <source>takes %1 characters</source>
+        <translation>prend %1 caractères</translation>
+    </message>
+    <message>
+        <source>does not take this value</source>
+        <translation>n’accepte pas cette valeur</translation>
+    </message>
+    <message>
+        <source>does not take this value: %1 has only %2</source>
+        <translation>n’accepte pas cette valeur : %1 n’a que %2</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <comment>a key, and what it takes</comment>
+        <translation>%1 %2.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+</context>
+<context>
+    <name>PortalText</name>
+    <message>
+        <source>The document of an application cannot be printed.</source>
+        <translation>Le document d’une application ne peut pas être imprimé.</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>Il est vide.</translation>
+    </message>
+    <message>
+        <source>It is larger than 2 GB.</source>
+        <translation>Il dépasse 2 Go.</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>Il est illisible : %1.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>Imprimer « %1 »</translation>
+    </message>
+    <message>
+        <source>The document has not been printed on “%1”.</source>
+        <translation>Le document n’a pas été imprimé sur « %1 ».</translation>
+    </message>
+    <message>
+        <source>The document was sent to “%1”, but not quite as asked for.</source>
+        <translation>Le document a été envoyé à « %1 », mais pas tout à fait comme demandé.</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+</context>
+<context>
+    <name>PpdCustomText</name>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>un nombre de %1 à %2</translation>
+    </message>
+    <message>
+        <source>a length from %1 to %2 pt</source>
+        <translation>une longueur de %1 à %2 pt</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1 à %2 chiffres</translation>
+    </message>
+    <message>
+        <source>a password of %1 to %2 characters</source>
+        <translation>un mot de passe de %1 à %2 caractères</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>un texte de %1 à %2 caractères</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 prend %2.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>Custom (100 × 200 mm)</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>sizes from %1 × %2 to %3 × %4 pt, such as Custom.%5 (units: pt, mm, cm, m, in, ft)</source>
+        <translation>des tailles de %1 × %2 à %3 × %4 pt, comme Custom.%5 (unités : pt, mm, cm, m, in, ft)</translation>
+    </message>
+    <message>
+        <source>Custom. followed by %1</source>
+        <translation>Custom. puis %1</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 est %2</translation>
+    </message>
+    <message>
+        <source>{%1}, where %2</source>
+        <translation>{%1}, où %2</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
     </message>
 </context>
 <context>
@@ -331,36 +609,13 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>%1 is broken: line %2: %3.</source>
         <translation>%1 est défectueux : ligne %2 : %3.</translation>
     </message>
-</context>
-<context>
-    <name>PrintErrorText</name>
     <message>
-        <source>There is no printer called “%1”.</source>
-        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+        <source>%1 is too large: more than %2 MB.</source>
+        <translation>%1 est trop volumineux : plus de %2 Mo.</translation>
     </message>
     <message>
-        <source>No printer has been set up.</source>
-        <translation>Aucune imprimante n’est configurée.</translation>
-    </message>
-    <message>
-        <source>The print server %1 cannot be reached.</source>
-        <translation>Le serveur d’impression %1 est injoignable.</translation>
-    </message>
-    <message>
-        <source>The printer “%1” is not accepting jobs at the moment.</source>
-        <translation>L’imprimante « %1 » n’accepte pas de tâches actuellement.</translation>
-    </message>
-    <message>
-        <source>You are not allowed to print to “%1” (%2).</source>
-        <translation>Vous n’avez pas le droit d’imprimer sur « %1 » (%2).</translation>
-    </message>
-    <message>
-        <source>The printer “%1” cannot print documents of this type.</source>
-        <translation>L’imprimante « %1 » ne peut pas imprimer ce type de documents.</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>Le serveur d’impression signale : %1</translation>
+        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <translation>La mémoire manque pour le PPD de « %1 » : %2.</translation>
     </message>
 </context>
 <context>
@@ -368,6 +623,40 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
         <translation>Aucune imprimante par défaut n’est définie ; désignez une imprimante par son nom.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
+        <translation>« %1 » ouvre le dialogue d’impression et n’imprime rien elle-même ; choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterText</name>
+    <message>
+        <source>Stopped: jobs wait until it is started again</source>
+        <translation>Arrêtée : les tâches attendent sa remise en marche</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>N’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectionText</name>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>« %1 » a été choisi, mais aucun code n’a été indiqué.</translation>
+    </message>
+    <message>
+        <source>A code has been given, but not “%1”: the job is not protected.</source>
+        <translation>Un code a été indiqué, mais « %1 » n’a pas été choisi : la tâche n’est pas protégée.</translation>
     </message>
 </context>
 <context>
@@ -400,13 +689,17 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Proposal (accepted with --resolve):</source>
         <translation>Proposition (acceptée avec --resolve) :</translation>
     </message>
+    <message>
+        <source>The result cannot be written: %1.</source>
+        <translation>Le résultat ne peut pas être écrit : %1.</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>et %1</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
-    <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
     <message>
         <source>The picture “%1” cannot be written.</source>
         <translation>L’image « %1 » ne peut pas être écrite.</translation>
@@ -417,30 +710,77 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
-    <name>SettingText</name>
+    <name>ServerText</name>
     <message>
-        <source>none</source>
-        <translation>aucun</translation>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Le serveur d’impression %1 demande un nom d’utilisateur et un mot de passe.</translation>
     </message>
+    <message>
+        <source>The printer “%1” wants a user name and a password.</source>
+        <translation>L’imprimante « %1 » demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>Le serveur d’impression %1 est injoignable.</translation>
+    </message>
+    <message>
+        <source>The print server %1 gave an answer that cannot be understood.</source>
+        <translation>La réponse du serveur d’impression %1 est incompréhensible.</translation>
+    </message>
+    <message>
+        <source>The connection to the print server %1 broke off.</source>
+        <translation>La connexion au serveur d’impression %1 a été interrompue.</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>L’impression a été annulée.</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not let you do this (%2).</source>
+        <translation>Le serveur d’impression %1 ne vous y autorise pas (%2).</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused the request (%2).</source>
+        <translation>Le serveur d’impression %1 a refusé la requête (%2).</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+    </message>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>Aucune imprimante n’est configurée.</translation>
+    </message>
+    <message>
+        <source>The printer “%1” is not accepting jobs at the moment.</source>
+        <translation>L’imprimante « %1 » n’accepte pas de tâches actuellement.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to print to “%1” (%2).</source>
+        <translation>Vous n’avez pas le droit d’imprimer sur « %1 » (%2).</translation>
+    </message>
+    <message>
+        <source>The printer “%1” cannot print documents of this type.</source>
+        <translation>L’imprimante « %1 » ne peut pas imprimer ce type de documents.</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>Le serveur d’impression signale : %1</translation>
+    </message>
+    <message>
+        <source>The print server %1 sends a file of more than %2 megabytes.</source>
+        <translation>Le serveur d’impression %1 envoie un fichier de plus de %2 mégaoctets.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
     <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 n’a pas de choix « %2 » ; il a %3.</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 digits.</source>
-        <translation>%1 prend %2 chiffres.</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 characters, not %3.</source>
-        <translation>%1 prend %2 caractères, pas %3.</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 n’accepte pas cette valeur.</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value: %2 has only %3.</source>
-        <translation>%1 n’accepte pas cette valeur : %2 n’a que %3.</translation>
     </message>
     <message>
         <source>This printer has no option or setting called “%1”.</source>
@@ -458,6 +798,14 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>%1 is not sent with the job: %2</source>
         <translation>%1 n’est pas envoyé avec la tâche : %2</translation>
     </message>
+    <message>
+        <source>page-ranges does not take this value.</source>
+        <translation>page-ranges n’accepte pas cette valeur.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 prend %2.</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>
@@ -474,28 +822,32 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Le fichier « %1 » est illisible : %2.</translation>
     </message>
     <message>
-        <source>The print server did not take “%1”.</source>
-        <translation>Le serveur d’impression n’a pas retenu « %1 ».</translation>
+        <source>The unfinished job %1 could not be canceled.</source>
+        <translation>La tâche inachevée %1 n’a pas pu être annulée.</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Le serveur d’impression a retenu pour « %1 » une autre valeur que celle envoyée.</translation>
+        <source>Nothing was printed.</source>
+        <translation>Rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job was accepted. It may print; look at the queue before printing again.</source>
+        <translation>On ne sait pas si la tâche a été acceptée. Elle sera peut-être imprimée ; consultez la file d’attente avant de relancer l’impression.</translation>
+    </message>
+    <message>
+        <source>The print server did not tell which settings it kept for the job.</source>
+        <translation>Le serveur d’impression n’a pas indiqué quels réglages il a retenus pour la tâche.</translation>
+    </message>
+    <message>
+        <source>The job %1 could not be canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of it may have been printed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>host::DialogSession</name>
-    <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
-    </message>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>« %1 » n’a pas pu être préparé : %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Les réglages de « %1 » n’ont pas pu être enregistrés : %2</translation>
-    </message>
+    <name>SummaryText</name>
     <message>
         <source>General</source>
         <translation>Général</translation>
@@ -530,6 +882,112 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>TerminalText</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe n’a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>User name for %1 [%2]: </source>
+        <translation>Nom d’utilisateur pour %1 [%2] : </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Mot de passe : </translation>
+    </message>
+</context>
+<context>
+    <name>ValueSourceText</name>
+    <message>
+        <source>The value of %1 cannot be read: %2.</source>
+        <translation>La valeur de %1 est illisible : %2.</translation>
+    </message>
+    <message>
+        <source>its first line is longer than %1 bytes</source>
+        <translation>sa première ligne dépasse %1 octets</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>il n’y en a pas</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>ce n’est pas du texte</translation>
+    </message>
+    <message>
+        <source>there is no terminal to ask on; --set-file takes it from a file or, as %1=-, from the standard input</source>
+        <translation>aucun terminal ne permet de la demander ; --set-file la prend dans un fichier ou, avec %1=-, sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>prompt for a value</comment>
+        <translation>%1 : </translation>
+    </message>
+</context>
+<context>
+    <name>host::CustomEditor</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>po</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <comment>points</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>Unité du format du papier</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>label of a field</comment>
+        <translation>%1 :</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <comment>points, behind a number</comment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <comment>smallest size, largest size, unit</comment>
+        <translation>De %1 à %2 %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>« %1 » n’a pas pu être préparé : %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Les réglages de « %1 » n’ont pas pu être enregistrés : %2</translation>
+    </message>
+    <message>
+        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <translation>Vos valeurs par défaut pour cette imprimante demandent des choix qu’elle n’a pas : %1.</translation>
+    </message>
+    <message>
+        <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
+        <translation>Des réglages enregistrés de « %1 » ne sont pas envoyés avec la tâche (%2) : %3</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -542,14 +1000,6 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>&amp;Range:</source>
         <translation>P&amp;lage :</translation>
-    </message>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>Imp&amp;rimante :</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Imprimer</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
@@ -579,23 +1029,16 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Type which pages are to be printed, or choose all.</source>
         <translation>Saisissez les pages à imprimer, ou choisissez-les toutes.</translation>
     </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
     <message>
         <source>C&amp;lose</source>
         <translation>&amp;Fermer</translation>
-    </message>
-</context>
-<context>
-    <name>host::MorePage</name>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>Imp&amp;rimante :</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>&amp;Imprimer</translation>
     </message>
 </context>
 <context>
@@ -606,8 +1049,13 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>%1 :</translation>
     </message>
     <message>
-        <source>Not together with %1</source>
-        <translation>Incompatible avec %1</translation>
+        <source>%1…</source>
+        <comment>Custom, whose values are asked for</comment>
+        <translation>%1…</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
     </message>
 </context>
 <context>
@@ -647,16 +1095,8 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Print “%1”</source>
-        <translation>Imprimer « %1 »</translation>
-    </message>
-    <message>
         <source>There is no pane called “%1”.</source>
         <translation>Il n’y a pas de volet nommé « %1 ».</translation>
-    </message>
-    <message>
-        <source>No printer has been set up.</source>
-        <translation>Aucune imprimante n’est configurée.</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>
@@ -683,16 +1123,59 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <translation>Ces réglages sont incompatibles</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>Entrée standard</translation>
-    </message>
-    <message>
         <source>Sending the document to the print server…</source>
         <translation>Envoi du document au serveur d’impression…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Aucune solution conservant « %1 » n’a été trouvée : modifiez vous-même l’un des réglages.</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>Interrogation du serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>Ne pl&amp;us attendre</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annulation de la tâche…</translation>
+    </message>
+    <message>
+        <source>The print server has not answered yet.</source>
+        <translation>Le serveur d’impression n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annuler l’impression</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterBox</name>
+    <message>
+        <source>Search by name or place</source>
+        <translation>Rechercher par nom ou emplacement</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>Rechercher des imprimantes</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
     </message>
 </context>
 <context>
@@ -709,17 +1192,64 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Options d’un fichier PPD ; il n’y a pas d’imprimante</translation>
     </message>
+</context>
+<context>
+    <name>host::ReasonText</name>
     <message>
-        <source>Stopped: jobs wait until it is started again</source>
-        <translation>Arrêtée : les tâches attendent sa remise en marche</translation>
+        <source>The printer is out of paper.</source>
+        <translation>L’imprimante n’a plus de papier.</translation>
     </message>
     <message>
-        <source>Not accepting jobs</source>
-        <translation>N’accepte pas de tâches</translation>
+        <source>The paper is running low.</source>
+        <translation>Il reste peu de papier.</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>Prête</translation>
+        <source>Paper is jammed in the printer.</source>
+        <translation>Du papier est coincé dans l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The printer is out of toner.</source>
+        <translation>L’imprimante n’a plus de toner.</translation>
+    </message>
+    <message>
+        <source>The toner is running low.</source>
+        <translation>Il reste peu de toner.</translation>
+    </message>
+    <message>
+        <source>A cover of the printer is open.</source>
+        <translation>Un capot de l’imprimante est ouvert.</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing.</source>
+        <translation>Un bac à papier est absent.</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>Le bac de sortie est plein.</translation>
+    </message>
+    <message>
+        <source>The printer is switched off or not connected.</source>
+        <translation>L’imprimante est éteinte ou n’est pas connectée.</translation>
+    </message>
+    <message>
+        <source>The printer does not answer.</source>
+        <translation>L’imprimante ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The printer is being connected to.</source>
+        <translation>Connexion à l’imprimante en cours.</translation>
+    </message>
+    <message>
+        <source>The print server is out of space.</source>
+        <translation>Le serveur d’impression n’a plus d’espace disque.</translation>
+    </message>
+    <message>
+        <source>The print server lacks a program for this printer.</source>
+        <translation>Il manque au serveur d’impression un programme pour cette imprimante.</translation>
+    </message>
+    <message>
+        <source>The print server does not trust a program for this printer.</source>
+        <translation>Le serveur d’impression ne fait pas confiance à un programme de cette imprimante.</translation>
     </message>
 </context>
 <context>
@@ -732,12 +1262,43 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Job %1: %2</source>
         <translation>Tâche %1 : %2</translation>
     </message>
+    <message>
+        <source>Perhaps sent to “%1”</source>
+        <translation>Peut-être envoyé à « %1 »</translation>
+    </message>
+    <message>
+        <source>A private job is printed once you enter its code at the printer “%1”.</source>
+        <translation>Une tâche confidentielle est imprimée dès que vous saisissez son code sur l’imprimante « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>host::UnavailablePage</name>
     <message>
         <source>&amp;Try Again</source>
         <translation>&amp;Réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitSign</name>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>Ne pl&amp;us attendre</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitingPage</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>an amount of data, of the whole</comment>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>The print server %1 sends a file of more than %2 megabytes.</source>
         <translation>Il server di stampa %1 invia un file di oltre %2 megabyte.</translation>
     </message>
+    <message>
+        <source>The print server %1 has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingText</name>
@@ -832,6 +836,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The print server did not tell which settings it kept for the job.</source>
         <translation>Il server di stampa non ha comunicato quali impostazioni ha mantenuto per il lavoro.</translation>
+    </message>
+    <message>
+        <source>The job %1 could not be canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of it may have been printed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ApplicationText</name>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>各面に %1 ページ</translation>
+    </message>
+    <message>
+        <source>last page first</source>
+        <translation>最終ページから印刷</translation>
+    </message>
+    <message>
+        <source>The application asks for: %1.</source>
+        <translation>アプリケーションからの指定: %1。</translation>
+    </message>
+</context>
+<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -54,10 +69,6 @@
     <message>
         <source>KEY=FILE</source>
         <translation>キー=ファイル</translation>
-    </message>
-    <message>
-        <source>The same with the value read from a file&apos;s first line.</source>
-        <translation>同上。値はファイルの 1 行目から読み込みます。</translation>
     </message>
     <message>
         <source>NAME=VALUE</source>
@@ -136,14 +147,6 @@
         <translation>[ファイル...]</translation>
     </message>
     <message>
-        <source>The file “%1” cannot be read: %2.</source>
-        <translation>ファイル「%1」を読み込めません: %2。</translation>
-    </message>
-    <message>
-        <source>“%1” is not of the form KEY=VALUE.</source>
-        <translation>「%1」は「キー=値」の形式ではありません。</translation>
-    </message>
-    <message>
         <source>--color-scheme takes light or dark.</source>
         <translation>--color-scheme には light または dark を指定してください。</translation>
     </message>
@@ -174,25 +177,79 @@ Print documents, with a dialog for the settings or without one.
 </translation>
     </message>
     <message>
+        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <translation>同上。値はファイルの 1 行目から読み込みます。「-」は標準入力です。</translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>The same with the value asked for on the terminal, which does not show it.</source>
+        <translation>同上。値は端末で入力します。入力した値は表示されません。</translation>
+    </message>
+    <message>
+        <source>--ask takes a key alone; the value is asked for.</source>
+        <translation>--ask にはキーだけを指定してください。値は後で入力します。</translation>
+    </message>
+    <message>
+        <source>-o takes NAME=VALUE or NAME.</source>
+        <translation>-o には「名前=値」または「名前」を指定してください。</translation>
+    </message>
+    <message>
+        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <translation>--%1 には「%2」を指定してください。キーの後に「=」がありません。</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be a value and a document at once.</source>
+        <translation>標準入力を値と文書の両方に使うことはできません。</translation>
+    </message>
+    <message>
+        <source>There is an option on the command line that this program does not have.</source>
+        <translation>コマンドラインに、このプログラムにないオプションがあります。</translation>
+    </message>
+    <message>
+        <source>There is no option “%1”.</source>
+        <translation>オプション「%1」はありません。</translation>
+    </message>
+    <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
 </source>
         <translation>
 終了コード: 0 成功、1 失敗、2 使い方の誤り、3 併用できない設定、
-4 キャンセル。詳しくはマニュアル kelmar-print(1) を参照してください。
+4 キャンセル、5 ジョブが受け付けられたかどうか不明。詳しくはマニュアル kelmar-print(1) を参照してください。
 </translation>
+    </message>
+</context>
+<context>
+    <name>AttributesText</name>
+    <message>
+        <source>The print server did not take “%1”.</source>
+        <translation>プリントサーバーは「%1」を受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server took another value for “%1” than was sent.</source>
+        <translation>プリントサーバーは「%1」に送信した値とは別の値を採用しました。</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: このプリンターには「%2」がありません。</translation>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>CarryOverText</name>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>このプリンターには「%1」がありません。ジョブは保護されません。</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>標準入力</translation>
+        <source>This printer does not take over: %1.</source>
+        <translation>このプリンターに引き継がれない設定: %1。</translation>
     </message>
 </context>
 <context>
@@ -215,16 +272,36 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <comment>a list of options, a choice</comment>
         <translation>次の項目は「%2」に変更されました: %1。</translation>
     </message>
-</context>
-<context>
-    <name>ExtensionsText</name>
     <message>
-        <source>The print extension cannot be used: %1</source>
-        <translation>印刷拡張機能を使用できません: %1</translation>
+        <source>The reason: “%1” is “%2”.</source>
+        <translation>理由:「%1」が「%2」になっています。</translation>
     </message>
 </context>
 <context>
-    <name>JobText</name>
+    <name>ChosenText</name>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 にこの値は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: このプリンターには「%2」がありません。</translation>
+    </message>
+    <message>
+        <source>the code for “%1”</source>
+        <translation>「%1」のコード</translation>
+    </message>
+    <message>
+        <source>settings of “%1”</source>
+        <translation>「%1」の設定</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentText</name>
+    <message>
+        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
+        <translation>印刷するデータをフォルダー「%1」に保存できません: %2。</translation>
+    </message>
     <message>
         <source>There is no file “%1”.</source>
         <translation>ファイル「%1」がありません。</translation>
@@ -232,6 +309,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” is a folder, not a document.</source>
         <translation>「%1」は文書ではなくフォルダーです。</translation>
+    </message>
+    <message>
+        <source>“%1” is a device, not a document.</source>
+        <translation>「%1」は文書ではなくデバイスです。</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
@@ -242,17 +323,27 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ファイル「%1」は空です。</translation>
     </message>
     <message>
-        <source>No temporary file can be made: %1.</source>
-        <translation>一時ファイルを作成できません: %1。</translation>
-    </message>
-    <message>
-        <source>The temporary file “%1” cannot be written: %2.</source>
-        <translation>一時ファイル「%1」に書き込めません: %2。</translation>
+        <source>The standard input cannot be read: %1.</source>
+        <translation>標準入力を読み込めません: %1。</translation>
     </message>
     <message>
         <source>Nothing came from the standard input.</source>
         <translation>標準入力から何も届きませんでした。</translation>
     </message>
+    <message>
+        <source>Standard input</source>
+        <translation>標準入力</translation>
+    </message>
+</context>
+<context>
+    <name>ExtensionsText</name>
+    <message>
+        <source>The print extension cannot be used: %1</source>
+        <translation>印刷拡張機能を使用できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
         <translation>待機中: プリンターは停止しています</translation>
@@ -291,6 +382,29 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>LoginText</name>
+    <message>
+        <source>Log In</source>
+        <translation>ログイン</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>ユーザー名またはパスワードが受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants to know who prints.</source>
+        <translation>プリントサーバー %1 で印刷するにはログインが必要です。</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>ユーザー名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+</context>
+<context>
     <name>MainText</name>
     <message>
         <source>There is no display to open the dialog on. Use --batch to print without it.</source>
@@ -298,10 +412,174 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>OpenText</name>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>プリンターが設定されていません。</translation>
+    </message>
+</context>
+<context>
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>「%1」はページまたはページ範囲ではありません。例: 1-3, 8</translation>
+    </message>
+</context>
+<context>
+    <name>PanelValueText</name>
+    <message>
+        <source>takes a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数を指定してください</translation>
+    </message>
+    <message>
+        <source>takes True or False</source>
+        <translation>True または False を指定してください</translation>
+    </message>
+    <message>
+        <source>cannot be set by a text</source>
+        <translation>テキストでは設定できません</translation>
+    </message>
+    <message>
+        <source>takes %1 digits</source>
+        <translation>%1 桁の数字を指定してください</translation>
+    </message>
+    <message>
+        <source>takes %1 characters</source>
+        <translation>%1 文字で指定してください</translation>
+    </message>
+    <message>
+        <source>does not take this value</source>
+        <translation>この値は指定できません</translation>
+    </message>
+    <message>
+        <source>does not take this value: %1 has only %2</source>
+        <translation>この値は指定できません (%1 の選択肢は %2 だけです)</translation>
+    </message>
+    <message>
+        <source>%1 %2.</source>
+        <comment>a key, and what it takes</comment>
+        <translation>%1: %2。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>PortalText</name>
+    <message>
+        <source>The document of an application cannot be printed.</source>
+        <translation>アプリケーションの文書を印刷できません。</translation>
+    </message>
+    <message>
+        <source>It is empty.</source>
+        <translation>文書が空です。</translation>
+    </message>
+    <message>
+        <source>It is larger than 2 GB.</source>
+        <translation>文書が 2 GB を超えています。</translation>
+    </message>
+    <message>
+        <source>It cannot be read: %1.</source>
+        <translation>文書を読み込めません: %1。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>「%1」の印刷</translation>
+    </message>
+    <message>
+        <source>The document has not been printed on “%1”.</source>
+        <translation>文書は「%1」で印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>The document was sent to “%1”, but not quite as asked for.</source>
+        <translation>文書を「%1」に送信しましたが、一部は指定どおりではありません。</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+</context>
+<context>
+    <name>PpdCustomText</name>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>%1 から %2 までの数</translation>
+    </message>
+    <message>
+        <source>a length from %1 to %2 pt</source>
+        <translation>%1 から %2 pt までの長さ</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1 から %2 桁の数字</translation>
+    </message>
+    <message>
+        <source>a password of %1 to %2 characters</source>
+        <translation>%1 から %2 文字のパスワード</translation>
+    </message>
+    <message>
+        <source>a text of %1 to %2 characters</source>
+        <translation>%1 から %2 文字のテキスト</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 には %2 を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>name and value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>Custom (100 × 200 mm)</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>sizes from %1 × %2 to %3 × %4 pt, such as Custom.%5 (units: pt, mm, cm, m, in, ft)</source>
+        <translation>%1 × %2 から %3 × %4 pt までのサイズ (例: Custom.%5、単位: pt、mm、cm、m、in、ft)</translation>
+    </message>
+    <message>
+        <source>Custom. followed by %1</source>
+        <translation>Custom. に続けて %1</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 は %2</translation>
+    </message>
+    <message>
+        <source>{%1}, where %2</source>
+        <translation>{%1} (%2)</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
     </message>
 </context>
 <context>
@@ -331,36 +609,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 is broken: line %2: %3.</source>
         <translation>%1は壊れています: %2 行目: %3。</translation>
     </message>
-</context>
-<context>
-    <name>PrintErrorText</name>
     <message>
-        <source>There is no printer called “%1”.</source>
-        <translation>「%1」という名前のプリンターはありません。</translation>
+        <source>%1 is too large: more than %2 MB.</source>
+        <translation>%1は大きすぎます (%2 MB を超えています)。</translation>
     </message>
     <message>
-        <source>No printer has been set up.</source>
-        <translation>プリンターが設定されていません。</translation>
-    </message>
-    <message>
-        <source>The print server %1 cannot be reached.</source>
-        <translation>プリントサーバー %1 に接続できません。</translation>
-    </message>
-    <message>
-        <source>The printer “%1” is not accepting jobs at the moment.</source>
-        <translation>プリンター「%1」は現在ジョブを受け付けていません。</translation>
-    </message>
-    <message>
-        <source>You are not allowed to print to “%1” (%2).</source>
-        <translation>「%1」に印刷する権限がありません (%2)。</translation>
-    </message>
-    <message>
-        <source>The printer “%1” cannot print documents of this type.</source>
-        <translation>プリンター「%1」はこの種類の文書を印刷できません。</translation>
-    </message>
-    <message>
-        <source>The print server reports: %1</source>
-        <translation>プリントサーバーからの報告: %1</translation>
+        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <translation>「%1」の PPD に使うメモリーが足りません: %2。</translation>
     </message>
 </context>
 <context>
@@ -368,6 +623,40 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
         <translation>既定のプリンターが設定されていません。プリンターを名前で指定してください。</translation>
+    </message>
+    <message>
+        <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
+        <translation>「%1」は印刷ダイアログを開くためのもので、印刷はできません。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>「%1」という名前のプリンターはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterText</name>
+    <message>
+        <source>Stopped: jobs wait until it is started again</source>
+        <translation>停止中: 再開されるまでジョブは待機します</translation>
+    </message>
+    <message>
+        <source>Not accepting jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectionText</name>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>「%1」が選択されていますが、コードが指定されていません。</translation>
+    </message>
+    <message>
+        <source>A code has been given, but not “%1”: the job is not protected.</source>
+        <translation>コードは指定されていますが、「%1」が選択されていません。ジョブは保護されません。</translation>
     </message>
 </context>
 <context>
@@ -400,13 +689,17 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Proposal (accepted with --resolve):</source>
         <translation>提案 (--resolve で受け入れます):</translation>
     </message>
+    <message>
+        <source>The result cannot be written: %1.</source>
+        <translation>結果を出力できません: %1。</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>および %1</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
-    <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
     <message>
         <source>The picture “%1” cannot be written.</source>
         <translation>画像「%1」を書き出せません。</translation>
@@ -417,30 +710,77 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
-    <name>SettingText</name>
+    <name>ServerText</name>
     <message>
-        <source>none</source>
-        <translation>なし</translation>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>プリントサーバー %1 にはユーザー名とパスワードが必要です。</translation>
     </message>
+    <message>
+        <source>The printer “%1” wants a user name and a password.</source>
+        <translation>プリンター「%1」にはユーザー名とパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached.</source>
+        <translation>プリントサーバー %1 に接続できません。</translation>
+    </message>
+    <message>
+        <source>The print server %1 gave an answer that cannot be understood.</source>
+        <translation>プリントサーバー %1 からの応答を解釈できません。</translation>
+    </message>
+    <message>
+        <source>The connection to the print server %1 broke off.</source>
+        <translation>プリントサーバー %1 との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>The print server %1 does not let you do this (%2).</source>
+        <translation>プリントサーバー %1 でこの操作を行う権限がありません (%2)。</translation>
+    </message>
+    <message>
+        <source>The print server %1 refused the request (%2).</source>
+        <translation>プリントサーバー %1 は要求を拒否しました (%2)。</translation>
+    </message>
+    <message>
+        <source>There is no printer called “%1”.</source>
+        <translation>「%1」という名前のプリンターはありません。</translation>
+    </message>
+    <message>
+        <source>No printer has been set up.</source>
+        <translation>プリンターが設定されていません。</translation>
+    </message>
+    <message>
+        <source>The printer “%1” is not accepting jobs at the moment.</source>
+        <translation>プリンター「%1」は現在ジョブを受け付けていません。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to print to “%1” (%2).</source>
+        <translation>「%1」に印刷する権限がありません (%2)。</translation>
+    </message>
+    <message>
+        <source>The printer “%1” cannot print documents of this type.</source>
+        <translation>プリンター「%1」はこの種類の文書を印刷できません。</translation>
+    </message>
+    <message>
+        <source>The print server reports: %1</source>
+        <translation>プリントサーバーからの報告: %1</translation>
+    </message>
+    <message>
+        <source>The print server %1 sends a file of more than %2 megabytes.</source>
+        <translation>プリントサーバー %1 から届くファイルが %2 メガバイトを超えています。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingText</name>
     <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 に選択肢「%2」はありません。選択肢: %3。</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 digits.</source>
-        <translation>%1 には %2 桁の数字を指定してください。</translation>
-    </message>
-    <message>
-        <source>%1 takes %2 characters, not %3.</source>
-        <translation>%1 には %3 文字ではなく %2 文字を指定してください。</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 にこの値は指定できません。</translation>
-    </message>
-    <message>
-        <source>%1 does not take this value: %2 has only %3.</source>
-        <translation>%1 にこの値は指定できません。%2 の選択肢は %3 だけです。</translation>
     </message>
     <message>
         <source>This printer has no option or setting called “%1”.</source>
@@ -458,6 +798,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 is not sent with the job: %2</source>
         <translation>%1 はジョブと一緒に送信されません: %2</translation>
     </message>
+    <message>
+        <source>page-ranges does not take this value.</source>
+        <translation>page-ranges にこの値は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1 takes %2.</source>
+        <translation>%1 には %2 を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>SubmitText</name>
@@ -474,28 +822,32 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ファイル「%1」を読み込めません: %2。</translation>
     </message>
     <message>
-        <source>The print server did not take “%1”.</source>
-        <translation>プリントサーバーは「%1」を受け付けませんでした。</translation>
+        <source>The unfinished job %1 could not be canceled.</source>
+        <translation>未完了のジョブ %1 をキャンセルできませんでした。</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>プリントサーバーは「%1」に送信した値とは別の値を採用しました。</translation>
+        <source>Nothing was printed.</source>
+        <translation>何も印刷されませんでした。</translation>
+    </message>
+    <message>
+        <source>It is not known whether the job was accepted. It may print; look at the queue before printing again.</source>
+        <translation>ジョブが受け付けられたかどうかは不明です。印刷される可能性がありますので、もう一度印刷する前にキューを確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server did not tell which settings it kept for the job.</source>
+        <translation>プリントサーバーがジョブに採用した設定を確認できませんでした。</translation>
+    </message>
+    <message>
+        <source>The job %1 could not be canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of it may have been printed.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>host::DialogSession</name>
-    <message>
-        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>プリンターの設定のページを表示できません: %1</translation>
-    </message>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>「%1」を準備できませんでした: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>「%1」の設定を保存できませんでした: %2</translation>
-    </message>
+    <name>SummaryText</name>
     <message>
         <source>General</source>
         <translation>一般</translation>
@@ -530,6 +882,112 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>TerminalText</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>ユーザー名またはパスワードが受け付けられませんでした。</translation>
+    </message>
+    <message>
+        <source>User name for %1 [%2]: </source>
+        <translation>%1 のユーザー名 [%2]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>パスワード: </translation>
+    </message>
+</context>
+<context>
+    <name>ValueSourceText</name>
+    <message>
+        <source>The value of %1 cannot be read: %2.</source>
+        <translation>%1 の値を読み込めません: %2。</translation>
+    </message>
+    <message>
+        <source>its first line is longer than %1 bytes</source>
+        <translation>1 行目が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>there is none</source>
+        <translation>値がありません</translation>
+    </message>
+    <message>
+        <source>it is no text</source>
+        <translation>テキストではありません</translation>
+    </message>
+    <message>
+        <source>there is no terminal to ask on; --set-file takes it from a file or, as %1=-, from the standard input</source>
+        <translation>入力できる端末がありません。--set-file を使うとファイルから、%1=- とすると標準入力から値を読み込みます</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <comment>prompt for a value</comment>
+        <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::CustomEditor</name>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>cm</source>
+        <translation>cm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <comment>points</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the paper size</source>
+        <translation>用紙サイズの単位</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>label of a field</comment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <comment>points, behind a number</comment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 %3</source>
+        <comment>smallest size, largest size, unit</comment>
+        <translation>%1 から %2 %3 まで</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>A page of the printer&apos;s settings cannot be shown: %1</source>
+        <translation>プリンターの設定のページを表示できません: %1</translation>
+    </message>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>「%1」を準備できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>「%1」の設定を保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <translation>このプリンターに対するユーザーの既定値に、プリンターにない選択肢が含まれています: %1。</translation>
+    </message>
+    <message>
+        <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
+        <translation>「%1」の保存済みの設定はジョブと一緒に送信されません (%2): %3</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -542,14 +1000,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>&amp;Range:</source>
         <translation>範囲(&amp;R):</translation>
-    </message>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>プリンター(&amp;N):</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>印刷(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
@@ -579,23 +1029,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Type which pages are to be printed, or choose all.</source>
         <translation>印刷するページを入力するか、「すべて」を選んでください。</translation>
     </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」のときは使用できません。</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
     <message>
         <source>C&amp;lose</source>
         <translation>閉じる(&amp;L)</translation>
-    </message>
-</context>
-<context>
-    <name>host::MorePage</name>
-    <message>
-        <source>&amp;Printer:</source>
-        <translation>プリンター(&amp;N):</translation>
-    </message>
-    <message>
-        <source>&amp;Print</source>
-        <translation>印刷(&amp;P)</translation>
     </message>
 </context>
 <context>
@@ -606,8 +1049,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1:</translation>
     </message>
     <message>
-        <source>Not together with %1</source>
-        <translation>%1 とは併用できません</translation>
+        <source>%1…</source>
+        <comment>Custom, whose values are asked for</comment>
+        <translation>%1…</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」のときは選択できません。</translation>
     </message>
 </context>
 <context>
@@ -647,16 +1095,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷</translation>
     </message>
     <message>
-        <source>Print “%1”</source>
-        <translation>「%1」の印刷</translation>
-    </message>
-    <message>
         <source>There is no pane called “%1”.</source>
         <translation>「%1」という名前のペインはありません。</translation>
-    </message>
-    <message>
-        <source>No printer has been set up.</source>
-        <translation>プリンターが設定されていません。</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>
@@ -683,16 +1123,59 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>次の設定は併用できません</translation>
     </message>
     <message>
-        <source>Standard input</source>
-        <translation>標準入力</translation>
-    </message>
-    <message>
         <source>Sending the document to the print server…</source>
         <translation>文書をプリントサーバーに送信しています…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1の印刷</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+    </message>
+    <message>
+        <source>Asking the print server…</source>
+        <translation>プリントサーバーに問い合わせています…</translation>
+    </message>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>待機をやめる(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>ジョブをキャンセルしています…</translation>
+    </message>
+    <message>
+        <source>The print server has not answered yet.</source>
+        <translation>プリントサーバーからまだ応答がありません。</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>印刷をキャンセル(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrinterBox</name>
+    <message>
+        <source>Search by name or place</source>
+        <translation>名前または場所で検索</translation>
+    </message>
+    <message>
+        <source>Search printers</source>
+        <translation>プリンターを検索</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
     </message>
 </context>
 <context>
@@ -709,17 +1192,64 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>PPD ファイルのオプションです。印刷できるプリンターはありません</translation>
     </message>
+</context>
+<context>
+    <name>host::ReasonText</name>
     <message>
-        <source>Stopped: jobs wait until it is started again</source>
-        <translation>停止中: 再開されるまでジョブは待機します</translation>
+        <source>The printer is out of paper.</source>
+        <translation>プリンターの用紙がなくなりました。</translation>
     </message>
     <message>
-        <source>Not accepting jobs</source>
-        <translation>ジョブを受け付けていません</translation>
+        <source>The paper is running low.</source>
+        <translation>用紙が残りわずかです。</translation>
     </message>
     <message>
-        <source>Ready</source>
-        <translation>準備完了</translation>
+        <source>Paper is jammed in the printer.</source>
+        <translation>プリンターで用紙が詰まっています。</translation>
+    </message>
+    <message>
+        <source>The printer is out of toner.</source>
+        <translation>プリンターのトナーがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The toner is running low.</source>
+        <translation>トナーが残りわずかです。</translation>
+    </message>
+    <message>
+        <source>A cover of the printer is open.</source>
+        <translation>プリンターのカバーが開いています。</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing.</source>
+        <translation>給紙トレイがありません。</translation>
+    </message>
+    <message>
+        <source>The output tray is full.</source>
+        <translation>排紙トレイがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>The printer is switched off or not connected.</source>
+        <translation>プリンターの電源が入っていないか、接続されていません。</translation>
+    </message>
+    <message>
+        <source>The printer does not answer.</source>
+        <translation>プリンターが応答しません。</translation>
+    </message>
+    <message>
+        <source>The printer is being connected to.</source>
+        <translation>プリンターに接続しています。</translation>
+    </message>
+    <message>
+        <source>The print server is out of space.</source>
+        <translation>プリントサーバーの空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The print server lacks a program for this printer.</source>
+        <translation>プリントサーバーに、このプリンターに必要なプログラムがありません。</translation>
+    </message>
+    <message>
+        <source>The print server does not trust a program for this printer.</source>
+        <translation>プリントサーバーは、このプリンター用のプログラムを信頼していません。</translation>
     </message>
 </context>
 <context>
@@ -732,12 +1262,43 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Job %1: %2</source>
         <translation>ジョブ %1: %2</translation>
     </message>
+    <message>
+        <source>Perhaps sent to “%1”</source>
+        <translation>「%1」に送信した可能性があります</translation>
+    </message>
+    <message>
+        <source>A private job is printed once you enter its code at the printer “%1”.</source>
+        <translation>プライベート印刷のジョブは、プリンター「%1」でコードを入力すると印刷されます。</translation>
+    </message>
 </context>
 <context>
     <name>host::UnavailablePage</name>
     <message>
         <source>&amp;Try Again</source>
         <translation>再試行(&amp;T)</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitSign</name>
+    <message>
+        <source>Do &amp;Not Wait</source>
+        <translation>待機をやめる(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitingPage</name>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>an amount of data, of the whole</comment>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 </TS>

@@ -29,6 +29,10 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
       m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
       m_problem(new QLabel(this)), m_sides(new QLabel(this))
 {
+    // By the names that a job has for them.
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
+    m_pages->setObjectName(QStringLiteral("page-ranges"));
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(24, 20, 24, 20);
     grid->setHorizontalSpacing(12);
@@ -172,6 +176,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
 {
     auto *button = new QRadioButton(text, this);
     button->setChecked(m_session->general().part == part);
+    m_parts.append({part, button});
     connect(button, &QRadioButton::toggled, this, [this, part](bool on) {
         m_session->general().part = on ? part : GeneralSettings::Part::Pages;
         pagesEdited();
@@ -285,10 +290,37 @@ void GeneralPage::changeEvent(QEvent *event)
 
 void GeneralPage::refresh()
 {
+    showGeneral();
     if (m_form)
         m_form->refresh();
     if (m_layout)
         m_layout->refresh();
+}
+
+// What is being typed stays, as far as it says what is set.
+void GeneralPage::showGeneral()
+{
+    const GeneralSettings general = m_session->general();
+    m_copies->setValue(general.copies);
+    m_collate->setChecked(general.collate);
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        const QSignalBlocker quiet(button);
+        if (general.part == part)
+            button->setChecked(true);
+        else if (button->isChecked() && general.part == GeneralSettings::Part::Pages)
+            (general.pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+    }
+    const QString typed = m_somePages->isChecked()
+                              ? normalizedPageRanges(m_pages->text(), nullptr).value_or(QString())
+                              : QString();
+    if (typed == general.pages)
+        return;
+    const QSignalBlocker quiet(m_somePages); // which gives the field the focus
+    m_pages->setEnabled(!general.pages.isEmpty());
+    m_somePages->setChecked(!general.pages.isEmpty());
+    m_allPages->setChecked(general.pages.isEmpty());
+    m_pages->setText(general.pages);
+    pagesEdited();
 }
 
 } // namespace host

@@ -62,6 +62,7 @@ private:
     void showSides();
     void addCopies(QGridLayout *grid);
     void enableCollate();
+    void showGeneral();
     void addPages(QGridLayout *grid);
     void pagesEdited();
     QString pagesProblem() const;
@@ -78,7 +79,8 @@ private:
     QRadioButton *m_somePages;
     QLineEdit *m_pages;
     QLabel *m_problem;
-    QLabel *m_sides; // what the numbers of a range count
+    QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // that another program offers
+    QLabel *m_sides;                                                 // what the numbers of a range count
     OptionForm *m_form = nullptr;
     LayoutForm *m_layout = nullptr; // made after the first paint
     bool m_isPainted = false;

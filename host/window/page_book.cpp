@@ -7,6 +7,9 @@
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/printed_pages.h"
+#include "host/session/session_changes.h"
+#include "host/session/session_history.h"
+#include "host/window/change_marks.h"
 #include "host/window/general_page.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
@@ -104,10 +107,11 @@ void PageBook::updatePreview()
         m_preview->setSettings(pageSettings(*m_session), isTwoSided(*m_session));
 }
 
-void PageBook::setSession(DialogSession *session)
+void PageBook::setSession(DialogSession *session, SessionHistory *history)
 {
     clear();
     m_session = session;
+    m_history = history;
     addPage(tr("General"), generalName);
     for (int i = 0; i < session->panelCount(); ++i) {
         if (session->panel(i)->panelView())
@@ -135,14 +139,17 @@ void PageBook::resizeEvent(QResizeEvent *event)
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
 {
-    m_pages.push_back({title, name, panel, nullptr});
+    m_pages.push_back({title, name, panel, nullptr, nullptr});
     const QSignalBlocker quiet(m_list); // a page is shown when somebody asks for it
     m_list->addPage(title);
 }
 
 void PageBook::makeFrame(Page *page)
 {
-    page->frame = new PageFrame(page->title, contentOf(*page), m_stack);
+    QWidget *content = contentOf(*page);
+    page->frame = new PageFrame(page->title, content, m_stack);
+    if (page->name != summaryName)
+        page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     m_stack->addWidget(page->frame);
 }
 
@@ -154,7 +161,10 @@ QWidget *PageBook::contentOf(const Page &page)
         m_general = new GeneralPage(m_session, m_documents);
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
         connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
-        connect(m_general, &GeneralPage::grown, this, &PageBook::shown);
+        connect(m_general, &GeneralPage::grown, this, [this] {
+            Q_EMIT shown();
+            showChanges();
+        });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
         if (m_preview)
             m_general->setPageCount(m_preview->documentPages());
@@ -166,7 +176,8 @@ QWidget *PageBook::contentOf(const Page &page)
         return m_more;
     }
     m_summary = new SummaryPage;
-    m_summary->show(m_session->summary());
+    connect(m_summary, &SummaryPage::followed, this, &PageBook::leadTo, Qt::QueuedConnection);
+    showSummary();
     return m_summary;
 }
 
@@ -175,12 +186,14 @@ void PageBook::clear()
     const QSignalBlocker quiet(m_list);
     m_list->clear();
     for (const Page &page : m_pages) {
+        delete page.marks;
         if (page.panel >= 0 && page.frame)
             page.frame->releaseContent();
         delete page.frame;
     }
     m_pages.clear();
     m_session = nullptr;
+    m_history = nullptr;
     m_current = -1;
     m_general = nullptr;
     m_more = nullptr;
@@ -231,6 +244,7 @@ void PageBook::showPage(int row)
         m_list->setFocus();
     fitPreview();
     Q_EMIT shown();
+    showChanges();
 }
 
 bool PageBook::leave()
@@ -252,8 +266,54 @@ void PageBook::refresh()
     if (m_more)
         m_more->refresh();
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
-        m_summary->show(m_session->summary());
+        showSummary();
     updatePreview();
+}
+
+void PageBook::showSummary()
+{
+    m_summary->show(*m_session, m_session->summary(),
+                    changesBetween(*m_session, m_history->base().state, m_session->state()));
+}
+
+int PageBook::rowOf(const QString &key) const
+{
+    const int place = pageOf(*m_session, key);
+    if (place == morePage)
+        return pageNamed(moreName);
+    for (size_t row = 0; row < m_pages.size(); ++row) {
+        if (place >= 0 && m_pages[row].panel == place)
+            return static_cast<int>(row);
+    }
+    return pageNamed(generalName);
+}
+
+void PageBook::showChanges()
+{
+    if (!m_session)
+        return;
+    QSet<int> changed;
+    for (const QString &key : m_history->base().state.differencesTo(m_history->now())) {
+        if (key != QLatin1String("destination"))
+            changed.insert(rowOf(key));
+    }
+    for (int row = 0; row < static_cast<int>(m_pages.size()); ++row)
+        m_list->setChanged(row, changed.contains(row));
+    if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].marks)
+        m_pages[static_cast<size_t>(m_current)].marks->refresh();
+}
+
+void PageBook::leadTo(const QString &key)
+{
+    const int row = rowOf(key);
+    showPage(row);
+    if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
+        return;
+    QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
+    if (control && control->isEnabled())
+        control->setFocus(Qt::ShortcutFocusReason);
+    else
+        m_list->setFocus();
 }
 
 void PageBook::turn(int steps)

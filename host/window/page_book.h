@@ -13,11 +13,13 @@ namespace host {
 
 class DialogSession;
 class DocumentChoice;
+class ChangeMarks;
 class GeneralPage;
 class MorePage;
 class PageFrame;
 class PageList;
 class PreviewPane;
+class SessionHistory;
 class SummaryPage;
 
 // The pages of a session and the list to choose one from: the general pane, the panels, the other options,
@@ -34,7 +36,8 @@ public:
     void setDocuments(DocumentChoice *documents);
     // Starts the preview, once the window can be seen.
     void beginPreview();
-    void setSession(DialogSession *session);
+    // Both are borrowed.
+    void setSession(DialogSession *session, SessionHistory *history);
     void clear();
 
     // The row of a page by name: "general", "more", "summary", a panel's kind, its last part, or its title;
@@ -47,6 +50,10 @@ public:
     void showPage(int row);
     // Brings every page to what the session holds now.
     void refresh();
+    // Marks what has changed.
+    void showChanges();
+    // Shows the control of a setting, or at least its page, and gives it the focus.
+    void leadTo(const QString &key);
     // Moves `steps` pages on, as far as there are any.
     void turn(int steps);
     // How wide it must be to show the current page without scrolling sideways.
@@ -76,7 +83,8 @@ private:
         QString title;
         QString name;
         int panel = -1;
-        PageFrame *frame = nullptr; // made when the page is first shown
+        PageFrame *frame = nullptr;   // made when the page is first shown
+        ChangeMarks *marks = nullptr; // with it
     };
     void addPage(const QString &title, const QString &name, int panel = -1);
     void makeFrame(Page *page);
@@ -87,8 +95,11 @@ private:
     bool isGeneral() const;
     void fitPreview();
     void updatePreview();
+    int rowOf(const QString &key) const;
+    void showSummary();
 
     DialogSession *m_session = nullptr;
+    SessionHistory *m_history = nullptr;
     std::vector<Page> m_pages;
     int m_current = -1;
     PageList *m_list;

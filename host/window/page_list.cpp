@@ -16,6 +16,7 @@ namespace {
 constexpr int sideMargin = 10; // pixels around the list's items
 constexpr int textMargin = 12;
 constexpr int narrowest = 170;
+constexpr int changedRole = Qt::UserRole + 1;
 
 // Rows with air, the current one on a rounded ground.
 class PageDelegate : public QStyledItemDelegate
@@ -57,7 +58,23 @@ public:
         painter->drawText(
             place, Qt::AlignVCenter | Qt::AlignLeading,
             QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width()));
+        if (index.data(changedRole).toBool())
+            paintChanged(painter, option.rect, ink, option.direction);
         painter->restore();
+    }
+
+private:
+    // A small diamond in the margin behind the name.
+    static void paintChanged(QPainter *painter, const QRect &row, const QColor &ink,
+                             Qt::LayoutDirection direction)
+    {
+        const int x =
+            direction == Qt::RightToLeft ? row.left() + textMargin - 2 : row.right() - textMargin + 2;
+        const QPointF at(x, row.center().y() + 0.5);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(ink);
+        painter->drawPolygon(
+            QPolygonF({at + QPointF(0, -4), at + QPointF(4, 0), at + QPointF(0, 4), at + QPointF(-4, 0)}));
     }
 };
 
@@ -81,6 +98,16 @@ void PageList::addPage(const QString &title)
     addItem(title);
     item(count() - 1)->setToolTip(title);
     updateGeometry();
+}
+
+void PageList::setChanged(int row, bool changed)
+{
+    QListWidgetItem *page = item(row);
+    if (!page || page->data(changedRole).toBool() == changed)
+        return;
+    page->setData(changedRole, changed);
+    page->setData(Qt::AccessibleDescriptionRole, changed ? tr("has changed settings") : QString());
+    page->setToolTip(changed ? tr("%1: has changed settings", "a page").arg(page->text()) : page->text());
 }
 
 QSize PageList::sizeHint() const

@@ -16,6 +16,8 @@ public:
     explicit PageList(QWidget *parent = nullptr);
 
     void addPage(const QString &title);
+    // Whether the page has settings that were changed.
+    void setChanged(int row, bool changed);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {120, 0}; }
 

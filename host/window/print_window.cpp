@@ -6,6 +6,7 @@
 #include "host/printing/file_name.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
+#include "host/session/session_history.h"
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
@@ -15,6 +16,7 @@
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
+#include "host/window/settings_control.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -38,10 +40,10 @@ constexpr std::chrono::seconds betweenStates(5);
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)),
       m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files), m_picker(new PrinterPicker(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
-      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
-      m_print(new DialogButton(tr("&Print"), this)), m_waitSign(new WaitSign(this)),
-      m_waiting(new WaitingPage(this)),
+      m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
+      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
+      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
+      m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
       m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter),
@@ -71,13 +73,23 @@ QString PrintWindow::documentNames() const
 
 PrintWindow::~PrintWindow()
 {
-    m_book->clear(); // before the session, whose panels own views in it
+    letGo();
+}
+
+// Of the session, whose panels own views in the pages, before it goes.
+void PrintWindow::letGo()
+{
+    m_book->clear();
+    m_settings->setSession(nullptr);
 }
 
 void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
+    connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
+    connect(m_picker, &PrinterPicker::opened, this, &PrintWindow::searchNetwork);
     connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
+    connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
     connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
@@ -86,12 +98,21 @@ void PrintWindow::connectAll()
         showConflicts();
     });
     connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
+    connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
+    connect(m_settings, &SettingsControl::applied, this, [this] {
+        sessionChanged();
+        showConflicts();
+    });
+    connect(m_settings, &SettingsControl::presetsChanged, this, &PrintWindow::loadPrinterList);
+    connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
-    connect(m_follower, &JobFollower::changed, m_result, &ResultPage::showStatus);
+    connect(m_follower, &JobFollower::changed, this, &PrintWindow::showJob);
+    connect(m_result, &ResultPage::actionWanted, this, &PrintWindow::changeJob);
+    connect(m_result, &ResultPage::printAgainWanted, this, &PrintWindow::printAgain);
     connect(&m_stateTimer, &QTimer::timeout, this, &PrintWindow::askState);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
@@ -114,6 +135,7 @@ void PrintWindow::showState(State state)
     m_waiting->setVisible(state == State::Waiting || state == State::Sending);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done && state != State::Sending);
+    m_settings->setActive(state == State::Choosing);
     if (state == State::Choosing)
         m_stateTimer.start(betweenStates);
     else
@@ -126,7 +148,7 @@ void PrintWindow::showState(State state)
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 {
-    m_book->clear();
+    letGo();
     m_session = std::move(session);
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
     connect(m_session.get(), &DialogSession::blockingBegan, this, &PrintWindow::showBusy);
@@ -155,11 +177,13 @@ void PrintWindow::showSession()
     for (int i = 0; i < m_session->panelCount(); ++i)
         connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
                 &PrintWindow::recheckLater);
-    m_book->setSession(m_session.get());
+    m_settings->setSession(m_session.get());
+    m_book->setSession(m_session.get(), m_settings->history());
 }
 
 void PrintWindow::sessionChanged()
 {
+    m_settings->note();
     m_book->refresh();
     showNotices();
 }
@@ -250,7 +274,9 @@ void PrintWindow::answer(int index)
     if (m_bar->kind() == MessageBar::Kind::Notice)
         m_notices.clear();
     if (accepted) {
+        m_settings->history()->endGesture();
         m_session->apply(*m_proposal);
+        m_settings->history()->endGesture();
         showConflicts();
     }
     if (m_session)

@@ -27,10 +27,12 @@ class DialogWaiter;
 class HeldSignals;
 class JobFollower;
 class MessageBar;
+class NetworkSearch;
 class PageBook;
 class PdfSaver;
 class PrinterPicker;
 class ResultPage;
+class SettingsControl;
 class UnavailablePage;
 class WaitSign;
 class WaitingPage;
@@ -83,6 +85,8 @@ public Q_SLOTS:
     void print();
     void reject() override;
     void loadPrinterList();
+    // Looks, once, for printers that the print server has no queue for.
+    void searchNetwork();
     // Does what can wait until the user sees the window.
     void finishLater();
     void retry();
@@ -111,6 +115,7 @@ private:
     void refuse(const PrintError &error);
     std::unique_ptr<DialogSession> makeSession(OpenedPrinter opened);
     void adopt(std::unique_ptr<DialogSession> session);
+    void letGo();
     void allowPrinting();
     bool showProtectionGap();
     void pickPrinter(const QString &name);
@@ -131,6 +136,9 @@ private:
     void pdfSaved(const PrintError &error, const QString &path);
     void sent(Submission submission);
     void showResult();
+    void showJob(const JobStatus &status);
+    void changeJob(JobAction action);
+    void printAgain();
     QString documentNames() const;
 
     PrintSystem &m_system;
@@ -154,10 +162,13 @@ private:
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<Submission> m_submitting;
+    platform::Awaited<PrintError> m_jobChange;
+    bool m_jobWasTold = false; // to who looks elsewhere
     QTimer m_progressTimer;
     QTimer m_stateTimer;
 
     PrinterPicker *m_picker;
+    SettingsControl *m_settings;
     MessageBar *m_bar;
     PageBook *m_book;
     UnavailablePage *m_unavailable;
@@ -170,6 +181,7 @@ private:
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
     JobFollower *m_follower;
+    NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
     QSize m_room; // null for what the screen has free

@@ -5,8 +5,10 @@
 
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
+#include "host/printing/network_search.h"
 #include "host/session/carry_over.h"
 #include "host/session/printed_pages.h"
+#include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
 #include "host/window/message_bar.h"
@@ -15,6 +17,7 @@
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
+#include "host/window/settings_control.h"
 #include "host/window/startup_clock.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -91,7 +94,7 @@ void PrintWindow::refuse(const PrintError &error)
         *m_taskError = error;
         return;
     }
-    m_book->clear();
+    letGo();
     m_session.reset();
     m_notices.clear();
     showError(error);
@@ -119,7 +122,9 @@ void PrintWindow::showFirst(PrinterOpening opening)
         refuse(problem);
         return;
     }
+    m_settings->absorb();
     m_book->refresh();
+    m_book->showChanges();
     showNotices();
     showConflicts();
 }
@@ -160,10 +165,11 @@ void PrintWindow::showPicked(PrinterOpening opening)
     m_notices.clear();
     m_toldGap.clear();
     const QString page = m_book->currentName();
-    m_book->clear(); // before the session, whose panels own views in it
+    letGo();
     const auto earlier = std::move(m_session);
     adopt(std::move(session));
     carryOver(*earlier, m_session.get());
+    m_settings->absorb();
     m_book->showPage(std::max(m_book->pageNamed(page), 0));
     showNotices();
     showConflicts();
@@ -212,6 +218,17 @@ void PrintWindow::loadPrinterList()
             if (printers)
                 m_picker->setPrinters(*printers);
         });
+}
+
+void PrintWindow::searchNetwork()
+{
+    if (m_networkSearch)
+        return;
+    m_networkSearch = new NetworkSearch(m_system, this);
+    connect(m_networkSearch, &NetworkSearch::found, m_picker, &PrinterPicker::putFound);
+    connect(m_networkSearch, &NetworkSearch::ended, this, [this] { m_picker->setSearching(false); });
+    m_picker->setSearching(true);
+    m_networkSearch->begin();
 }
 
 void PrintWindow::askState()
@@ -276,6 +293,7 @@ void PrintWindow::print()
     }
     if (m_task.settingsOnly) {
         RememberedPrinter().setName(m_session->destination().name());
+        (void)platform::Background::call(m_settings->rememberUse());
         accept();
         return;
     }
@@ -289,7 +307,7 @@ void PrintWindow::send()
     m_sending->documents = m_documents;
     m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
     auto work = [&system = m_system, sending = m_sending, files = m_documentChoice.included(),
-                 name = m_task.documentName]() -> Submission {
+                 name = m_task.documentName, rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
         if (!sending->documents->open(files, nullptr, &failed.error))
             return failed;
@@ -303,7 +321,11 @@ void PrintWindow::send()
             sending->sent = sent;
             sending->total = total;
         };
-        return system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+        Submission submission =
+            system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+        if (submission.isAccepted())
+            rememberUse();
+        return submission;
     };
     m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
     if (m_submitting.deliverWithin(nearServer))
@@ -385,6 +407,48 @@ void PrintWindow::showResult()
     m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
     m_cancel->setAccessibleDescription(m_result->text());
     m_cancel->setFocus();
+}
+
+// Whoever looks elsewhere is told once that the job is done, and once that it needs somebody.
+void PrintWindow::showJob(const JobStatus &status)
+{
+    m_result->showStatus(status);
+    const bool isNews = status.isFinal() || status.needsSomebody();
+    if (!isNews)
+        m_jobWasTold = false;
+    else if (!std::exchange(m_jobWasTold, !status.isFinal()) && !isActiveWindow())
+        notifyDesktop(windowTitle(), m_result->text(), status.state != JobStatus::State::Completed);
+}
+
+void PrintWindow::changeJob(JobAction action)
+{
+    if (m_jobChange.isPending())
+        return;
+    m_jobChange.start(
+        this,
+        [&system = m_system, destination = m_session->destination(), id = m_submission->job.id, action] {
+            PrintError error;
+            system.changeJob(destination, id, action, &error);
+            return error;
+        },
+        [this](const PrintError &error) {
+            if (error)
+                m_result->showProblem(error.message);
+            m_follower->askSoon();
+        });
+}
+
+// The same documents with the same settings, once more.
+void PrintWindow::printAgain()
+{
+    m_follower->stop();
+    m_jobChange.drop();
+    m_submission.reset();
+    m_cancel->setText(tr("Cancel"));
+    m_cancel->setAccessibleDescription(QString());
+    m_print->setDefault(true);
+    m_jobWasTold = false;
+    send();
 }
 
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.

@@ -12,6 +12,7 @@
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/separator.h"
+#include "host/window/settings_control.h"
 #include "host/window/tab_order.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/wait_sign.h"
@@ -41,6 +42,7 @@ QSize freeRoom(const QWidget *window)
 
 void PrintWindow::build()
 {
+    m_picker->addBeside(m_settings->button());
     m_print->setDefault(true);
     m_footer = new QHBoxLayout;
     m_footer->setSpacing(10);

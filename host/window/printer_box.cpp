@@ -6,6 +6,7 @@
 #include "host/window/printer_list.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
@@ -91,6 +92,10 @@ QWidget *PrinterBox::makePopup()
     column->setContentsMargins(6, 6, 6, 6);
     column->addWidget(m_search);
     column->addWidget(m_view);
+    m_searching = new QLabel(tr("Looking for printers on the network…"), popup);
+    m_searching->setEnabled(false);
+    m_searching->hide();
+    column->addWidget(m_searching);
     m_search->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &PrinterBox::narrow);
     connect(m_view, &QListView::clicked, this, &PrinterBox::choose);
@@ -117,6 +122,13 @@ void PrinterBox::showPopup()
     m_popup->show();
     m_search->setFocus(Qt::PopupFocusReason);
     m_view->scrollTo(m_view->currentIndex(), QAbstractItemView::PositionAtCenter);
+    Q_EMIT opened();
+}
+
+void PrinterBox::setSearching(bool searching)
+{
+    if (m_searching)
+        m_searching->setVisible(searching);
 }
 
 void PrinterBox::hidePopup()

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 
+class QLabel;
 class QLineEdit;
 class QListView;
 
@@ -21,10 +22,15 @@ class PrinterBox : public QComboBox
 public:
     explicit PrinterBox(PrinterList *list, QWidget *parent = nullptr);
 
+    // Says below the list that more printers may come.
+    void setSearching(bool searching);
     void showPopup() override;
     void hidePopup() override;
     QLineEdit *searchField() const { return m_search; }
     QListView *listView() const { return m_view; }
+
+Q_SIGNALS:
+    void opened();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -37,6 +43,7 @@ private:
     PrinterSearch *m_found;
     QLineEdit *m_search = nullptr; // made with the pop-up, when it is first opened
     QListView *m_view = nullptr;
+    QLabel *m_searching = nullptr;
     QWidget *m_popup = nullptr;
 };
 

@@ -22,6 +22,13 @@ struct PrinterText
 
 void PrinterList::setPrinters(QList<Destination> printers, const QStringList &recent)
 {
+    for (const Destination &known : std::as_const(m_printers)) {
+        const auto isSame = [&](const Destination &printer) {
+            return printer.queue == known.queue || printer.isSameDevice(known);
+        };
+        if (known.isOnNetwork && std::none_of(printers.begin(), printers.end(), isSame))
+            printers.append(known);
+    }
     const auto rank = [&](const Destination &printer) {
         const qsizetype place = recent.indexOf(printer.name());
         return place < 0 ? recent.size() : place;
@@ -46,6 +53,15 @@ int PrinterList::put(const Destination &printer)
     m_printers.append(printer);
     endInsertRows();
     return row;
+}
+
+void PrinterList::putFound(const Destination &printer)
+{
+    const bool isKnown = std::any_of(m_printers.begin(), m_printers.end(), [&](const Destination &known) {
+        return known.queue == printer.queue || known.isSameDevice(printer);
+    });
+    if (!isKnown)
+        put(printer);
 }
 
 int PrinterList::rowOf(const QString &name) const
@@ -88,6 +104,8 @@ QString printerStateText(const Destination &printer)
         parts.append(PrinterText::tr("Stopped: jobs wait until it is started again"));
     else if (!printer.accepting)
         parts.append(PrinterText::tr("Not accepting jobs"));
+    else if (printer.isOnNetwork)
+        parts.append(PrinterText::tr("Found on the network"));
     else
         parts.append(PrinterText::tr("Ready"));
     if (!printer.location.isEmpty())

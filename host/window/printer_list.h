@@ -23,10 +23,13 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    // Replaces everything. `recent` are destination names, the latest first.
+    // Replaces everything but what was found in the network. `recent` are destination names, the latest
+    // first.
     void setPrinters(QList<Destination> printers, const QStringList &recent);
     // Adds a printer, or brings the one of this name up to what it is now. Its row.
     int put(const Destination &printer);
+    // Adds a printer that was found in the network, unless it has a queue.
+    void putFound(const Destination &printer);
     int rowOf(const QString &name) const; // -1 when there is none
     Destination at(int row) const { return m_printers.value(row); }
 

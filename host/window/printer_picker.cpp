@@ -39,8 +39,9 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->setVerticalSpacing(4);
     grid->addWidget(label, 0, 0);
     grid->addWidget(m_box, 0, 1);
-    grid->addWidget(m_state, 1, 1, 1, 2);
+    grid->addWidget(m_state, 1, 1, 1, 3);
     grid->setColumnStretch(2, 1);
+    connect(m_box, &PrinterBox::opened, this, &PrinterPicker::opened);
     connect(m_box, &QComboBox::activated, this, [this] {
         const QString name = m_list->at(m_box->currentIndex()).name();
         if (name != m_current)
@@ -54,6 +55,11 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers)
     m_box->setCurrentIndex(m_list->rowOf(m_current));
 }
 
+void PrinterPicker::addBeside(QWidget *widget)
+{
+    static_cast<QGridLayout *>(layout())->addWidget(widget, 0, 3, Qt::AlignVCenter);
+}
+
 QComboBox *PrinterPicker::box() const
 {
     return m_box;
@@ -64,6 +70,16 @@ void PrinterPicker::putPrinter(const Destination &printer)
     m_list->put(printer);
     if (printer.name() == m_current)
         describe(printer);
+}
+
+void PrinterPicker::putFound(const Destination &printer)
+{
+    m_list->putFound(printer);
+}
+
+void PrinterPicker::setSearching(bool searching)
+{
+    m_box->setSearching(searching);
 }
 
 void PrinterPicker::setCurrent(const Destination &printer)

@@ -27,6 +27,10 @@ public:
     void setPrinters(const QList<Destination> &printers);
     // One more printer, or news of one that is there.
     void putPrinter(const Destination &printer);
+    // A printer that was found in the network.
+    void putFound(const Destination &printer);
+    // Whether more of them may come.
+    void setSearching(bool searching);
     // Shows a printer without announcing it; adds it where the list lacks it.
     void setCurrent(const Destination &printer);
     // The name of a printer that has been asked for and is not known yet.
@@ -34,12 +38,16 @@ public:
     // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
     void setFixedText(const QString &text);
     QComboBox *box() const;
+    // Puts something at the end of its line.
+    void addBeside(QWidget *widget);
     // Leaves out how the printer is, for want of room.
     void setCompact(bool compact);
 
 Q_SIGNALS:
     // The user chose another printer, by destination name.
     void picked(const QString &name);
+    // The list is shown.
+    void opened();
 
 private:
     void describe(const Destination &printer);

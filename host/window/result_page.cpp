@@ -7,8 +7,12 @@
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace host {
 
@@ -63,6 +67,33 @@ ResultPage::ResultPage(QWidget *parent)
     column->addStretch(3);
 }
 
+// Made when there is a job to do something to.
+void ResultPage::buildActions()
+{
+    m_problem = centredLabel(this);
+    m_problem->hide();
+    m_cancelJob = new QPushButton(tr("Cancel &Job"), this);
+    m_hold = new QPushButton(this);
+    m_again = new QPushButton(tr("Print &Again"), this);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(0, 12, 0, 0);
+    row->setSpacing(10);
+    row->addStretch();
+    for (QPushButton *button : {m_cancelJob, m_hold, m_again}) {
+        button->setAutoDefault(false);
+        row->addWidget(button);
+    }
+    row->addStretch();
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    const int end = column->count() - 1; // before the stretch
+    column->insertWidget(end, m_problem);
+    column->insertLayout(end + 1, row);
+    connect(m_cancelJob, &QPushButton::clicked, this, [this] { Q_EMIT actionWanted(JobAction::Cancel); });
+    connect(m_hold, &QPushButton::clicked, this,
+            [this] { Q_EMIT actionWanted(m_holds ? JobAction::Hold : JobAction::Release); });
+    connect(m_again, &QPushButton::clicked, this, &ResultPage::printAgainWanted);
+}
+
 void ResultPage::showSubmission(const QString &printer, const QString &documents,
                                 const Submission &submission)
 {
@@ -73,6 +104,10 @@ void ResultPage::showSubmission(const QString &printer, const QString &documents
     m_documents->setVisible(!documents.isEmpty());
     m_notes->setText(wrappable(job.differences.join(QLatin1Char('\n'))));
     m_notes->setVisible(!job.differences.isEmpty());
+    if (!m_again)
+        buildActions();
+    m_problem->hide();
+    m_state->clear();
     if (submission.isAccepted()) {
         m_title->setText(tr("Sent to “%1”").arg(m_printer));
         showStatus(job.status);
@@ -86,6 +121,7 @@ void ResultPage::showUnknown(const Submission &submission)
     m_title->setText(tr("Perhaps sent to “%1”").arg(m_printer));
     m_glyph->setKind(StatusGlyph::Kind::Notice);
     m_state->setText(wrappable(submission.error.message));
+    showActions({});
     announce(this, text());
 }
 
@@ -95,6 +131,7 @@ void ResultPage::showStatus(const JobStatus &status)
     if (status.state == JobStatus::State::Unknown && !m_state->text().isEmpty())
         return;
     m_glyph->setKind(kindOf(status));
+    showActions(status);
     const QString state = wrappable(sentence(status));
     if (state != m_state->text()) {
         m_state->setText(state);
@@ -102,10 +139,33 @@ void ResultPage::showStatus(const JobStatus &status)
     }
 }
 
+// Only what the job allows: one that is over, or that nobody knows of, cannot be stopped.
+void ResultPage::showActions(const JobStatus &status)
+{
+    const bool isOpen = status.state != JobStatus::State::Unknown && !status.isFinal();
+    m_holds = status.state == JobStatus::State::Pending;
+    m_hold->setText(m_holds ? tr("&Hold") : tr("&Release"));
+    const bool canRelease = status.state == JobStatus::State::Held && status.isHeldByUser;
+    for (const auto &[button, isUseful] : {std::pair(m_cancelJob, isOpen), {m_hold, m_holds || canRelease}}) {
+        if (!isUseful && button->hasFocus())
+            m_again->setFocus();
+        button->setVisible(isUseful);
+    }
+}
+
+void ResultPage::showProblem(const QString &text)
+{
+    m_problem->setText(wrappable(text));
+    m_problem->show();
+    announce(this, text);
+}
+
 QString ResultPage::sentence(const JobStatus &status) const
 {
     QString sentence = tr("Job %1: %2").arg(m_id).arg(status.text());
-    if (status.state == JobStatus::State::Held)
+    if (status.printedPages > 0)
+        sentence += QLatin1Char('\n') + tr("Pages printed so far: %1").arg(status.printedPages);
+    if (status.state == JobStatus::State::Held && !status.isHeldByUser)
         sentence +=
             QLatin1Char('\n') +
             tr("A private job is printed once you enter its code at the printer “%1”.").arg(m_printer);

@@ -8,13 +8,14 @@
 #include <QWidget>
 
 class QLabel;
+class QPushButton;
 
 namespace host {
 
 class StatusGlyph;
 
 // What became of a job that was accepted, or may have been: its number and its state, which keeps up with the
-// print server for as long as it is shown; or that nobody knows.
+// print server for as long as it is shown, and what can be done to it; or that nobody knows.
 class ResultPage : public QWidget
 {
     Q_OBJECT
@@ -25,8 +26,16 @@ public:
     // News of the job.
     void showStatus(const JobStatus &status);
     QString text() const;
+    // What could not be done to the job.
+    void showProblem(const QString &text);
+
+Q_SIGNALS:
+    void actionWanted(host::JobAction action);
+    void printAgainWanted();
 
 private:
+    void buildActions();
+    void showActions(const JobStatus &status);
     void showUnknown(const Submission &submission);
     QString sentence(const JobStatus &status) const;
 
@@ -35,6 +44,11 @@ private:
     QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
+    QLabel *m_problem = nullptr;
+    QPushButton *m_cancelJob = nullptr;
+    QPushButton *m_hold = nullptr;
+    QPushButton *m_again = nullptr;
+    bool m_holds = false; // what m_hold does; else it releases
     QString m_printer;
     int m_id = 0;
 };

@@ -4,10 +4,14 @@
 #include "host/window/summary_page.h"
 
 #include "host/window/foreign_text.h"
+#include "host/window/link_label.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace host {
 
@@ -15,17 +19,72 @@ namespace {
 
 constexpr int nameWidth = 240; // pixels
 
+// The key of a line of the summary, whose panel names its settings as people do.
+QString keyOf(const DialogSession &session, int panel, const QString &name)
+{
+    if (panel < 0) {
+        const QString general = keyOfGeneralEntry(name);
+        if (!general.isEmpty() || !session.ppd())
+            return general;
+    }
+    const QStringList keywords = panel >= 0 ? session.panelKeywords(panel) : session.ppd()->optionKeywords();
+    for (const QString &keyword : keywords) {
+        if (session.ppd()->described(keyword, {}).optionText == name)
+            return keyword;
+    }
+    return panel >= 0 && !keywords.isEmpty() ? keywords.first() : QString();
 }
 
-SummaryPage::SummaryPage(QWidget *parent) : QWidget(parent)
+} // namespace
+
+SummaryPage::SummaryPage(QWidget *parent)
+    : QWidget(parent), m_onlyChanges(new QCheckBox(tr("S&how changes only"), this))
 {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 20, 24, 20);
+    column->setSpacing(12);
+    column->addWidget(m_onlyChanges);
     column->addStretch(1);
+    connect(m_onlyChanges, &QCheckBox::toggled, this, &SummaryPage::rebuild);
 }
 
-void SummaryPage::show(const QList<SummarySection> &sections)
+void SummaryPage::show(const DialogSession &session, const QList<SummarySection> &sections,
+                       const QList<SettingChange> &changes)
 {
+    m_all.clear();
+    for (const SummarySection &section : sections) {
+        Part part{section.title, {}};
+        for (const auto &[name, value] : section.entries)
+            part.lines.append({name, value, keyOf(session, section.panel, name)});
+        m_all.append(part);
+    }
+    m_changed.clear();
+    for (const SettingChange &change : changes) {
+        const int page = pageOf(session, change.key);
+        const QString title = page >= 0 ? session.panel(page)->panelName() : sections.first().title;
+        if (m_changed.isEmpty() || m_changed.last().title != title) {
+            const auto known = std::find_if(m_changed.begin(), m_changed.end(),
+                                            [&](const Part &part) { return part.title == title; });
+            if (known == m_changed.end())
+                m_changed.append({title, {}});
+            else
+                m_changed.move(known - m_changed.begin(), m_changed.size() - 1);
+        }
+        const bool hasWords = !change.before.isEmpty() || !change.after.isEmpty();
+        const auto worded = [](const QString &text) { return text.isEmpty() ? tr("none") : text; };
+        m_changed.last().lines.append(
+            {change.name,
+             hasWords
+                 ? tr("%1 → %2", "what it was, what it is").arg(worded(change.before), worded(change.after))
+                 : tr("changed"),
+             change.key});
+    }
+    rebuild();
+}
+
+void SummaryPage::rebuild()
+{
+    const bool hadFocus = m_sheet && m_sheet->isAncestorOf(focusWidget());
     delete m_sheet;
     m_sheet = new QWidget(this);
     m_grid = new QGridLayout(m_sheet);
@@ -33,13 +92,18 @@ void SummaryPage::show(const QList<SummarySection> &sections)
     m_grid->setHorizontalSpacing(20);
     m_grid->setVerticalSpacing(6);
     m_grid->setColumnStretch(1, 1);
-    for (const SummarySection &section : sections) {
-        addTitle(section.title, &section == &sections.first());
-        for (const auto &[name, value] : section.entries)
-            addEntry(name, value);
+    const QList<Part> &parts = m_onlyChanges->isChecked() ? m_changed : m_all;
+    for (const Part &part : parts) {
+        addTitle(part.title, &part == &parts.first());
+        for (const Line &line : part.lines)
+            addLine(line);
     }
-    static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_sheet);
+    if (parts.isEmpty())
+        addTitle(tr("Nothing has been changed."), true);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(1, m_sheet);
     m_sheet->show();
+    if (hadFocus)
+        m_onlyChanges->setFocus();
 }
 
 void SummaryPage::addTitle(const QString &title, bool first)
@@ -53,24 +117,36 @@ void SummaryPage::addTitle(const QString &title, bool first)
     m_grid->addWidget(label, m_grid->rowCount(), 0, 1, 2);
 }
 
-void SummaryPage::addEntry(const QString &name, const QString &value)
+QWidget *SummaryPage::nameWidget(const Line &line)
 {
-    const int row = m_grid->rowCount();
-    auto *left = new QLabel(m_sheet);
-    left->setTextFormat(Qt::PlainText);
-    left->setText(elided(name, left, nameWidth));
-    QPalette muted = left->palette();
+    QLabel *label = nullptr;
+    if (line.key.isEmpty()) {
+        label = new QLabel(m_sheet);
+    } else {
+        auto *link = new LinkLabel(m_sheet);
+        connect(link, &LinkLabel::followed, this, [this, key = line.key] { Q_EMIT followed(key); });
+        label = link;
+    }
+    label->setTextFormat(Qt::PlainText);
+    label->setText(elided(line.name, label, nameWidth));
+    QPalette muted = label->palette();
     QColor colour = muted.color(QPalette::WindowText);
     colour.setAlphaF(0.72F);
     muted.setColor(QPalette::WindowText, colour);
-    left->setPalette(muted);
-    auto *right = new QLabel(wrappable(value), m_sheet);
+    label->setPalette(muted);
+    return label;
+}
+
+void SummaryPage::addLine(const Line &line)
+{
+    const int row = m_grid->rowCount();
+    auto *right = new QLabel(wrappable(line.value), m_sheet);
     right->setTextFormat(Qt::PlainText);
     right->setWordWrap(true);
     right->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     right->setFocusPolicy(Qt::ClickFocus);
-    right->setAccessibleName(QStringLiteral("%1: %2").arg(name, value));
-    m_grid->addWidget(left, row, 0, Qt::AlignTop);
+    right->setAccessibleName(QStringLiteral("%1: %2").arg(line.name, line.value));
+    m_grid->addWidget(nameWidget(line), row, 0, Qt::AlignTop);
     m_grid->addWidget(right, row, 1);
 }
 

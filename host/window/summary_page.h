@@ -4,27 +4,51 @@
 #pragma once
 
 #include "host/session/dialog_session.h"
+#include "host/session/session_changes.h"
 
 #include <QWidget>
 
+class QCheckBox;
 class QGridLayout;
 
 namespace host {
 
-// What the job stands at, section by section, as text that can be read, selected and copied.
+// What the job stands at, section by section, as text that can be read, selected and copied, or only what has
+// changed, before and after. A line leads to its control.
 class SummaryPage : public QWidget
 {
     Q_OBJECT
 public:
     explicit SummaryPage(QWidget *parent = nullptr);
-    void show(const QList<SummarySection> &sections);
+    void show(const DialogSession &session, const QList<SummarySection> &sections,
+              const QList<SettingChange> &changes);
+
+Q_SIGNALS:
+    // The user wants to see the control of a setting, by the key that it has in a change.
+    void followed(const QString &key);
 
 private:
+    struct Line
+    {
+        QString name;
+        QString value;
+        QString key; // empty for what nothing leads to
+    };
+    struct Part
+    {
+        QString title;
+        QList<Line> lines;
+    };
+    void rebuild();
     void addTitle(const QString &title, bool first);
-    void addEntry(const QString &name, const QString &value);
+    void addLine(const Line &line);
+    QWidget *nameWidget(const Line &line);
 
+    QCheckBox *m_onlyChanges;
     QGridLayout *m_grid = nullptr;
     QWidget *m_sheet = nullptr;
+    QList<Part> m_all;
+    QList<Part> m_changed;
 };
 
 } // namespace host

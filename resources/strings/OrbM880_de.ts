@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults.</source>
-        <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab. War er nicht erreichbar, öffnen Sie stattdessen diesen Dialog erneut.</translation>
+        <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab.</translation>
     </message>
 </context>
 <context>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>SNMPCannotConnect</source>
-        <translation>Der Drucker ist nicht erreichbar, daher sind seine Farbprofile nicht bekannt. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, und öffnen Sie diesen Dialog erneut.</translation>
+        <translation>Der Drucker ist nicht erreichbar, daher sind seine Farbprofile nicht bekannt. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, und wählen Sie dann „Vom Drucker neu laden“.</translation>
     </message>
     <message>
         <source>SNMPArchMismatch</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>Die Antwort des Druckers war nicht verständlich, daher sind seine Farbprofile nicht bekannt. Öffnen Sie diesen Dialog erneut; wenn das nicht hilft, wenden Sie sich an Ihre Systemverwaltung.</translation>
+        <translation>Die Antwort des Druckers war nicht verständlich, daher sind seine Farbprofile nicht bekannt. Wählen Sie „Vom Drucker neu laden“; wenn das nicht hilft, wenden Sie sich an Ihre Systemverwaltung.</translation>
     </message>
     <message>
         <source>PrintMode</source>
@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>Im Farbmodus „%1“ steht die Farbbalance nicht zur Verfügung.</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Die Farbbalance ist nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
 </context>
 <context>

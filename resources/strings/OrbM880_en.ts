@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>SNMPCannotConnect</source>
-        <translation>The printer cannot be reached, so its color profiles are not known. Check that it is switched on and connected, then open this dialog again.</translation>
+        <translation>The printer cannot be reached, so its color profiles are not known. Check that it is switched on and connected, then choose “Reload from Printer”.</translation>
     </message>
     <message>
         <source>SNMPArchMismatch</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>The printer gave an answer that could not be understood, so its color profiles are not known. Open this dialog again; if that does not help, ask your administrator.</translation>
+        <translation>The printer gave an answer that could not be understood, so its color profiles are not known. Choose “Reload from Printer”; if that does not help, ask your administrator.</translation>
     </message>
     <message>
         <source>PrintMode</source>
@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>Color balance is not available in the color mode “%1”.</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Color balance is not available while “%1” is “%2”.</translation>
     </message>
 </context>
 <context>

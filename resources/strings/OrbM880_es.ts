@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>El balance de color no está disponible en el modo de color «%1».</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>El balance de color no está disponible mientras «%1» esté en «%2».</translation>
     </message>
 </context>
 <context>

@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults.</source>
-        <translation>Redemande à l’imprimante ses profils et valeurs par défaut. Si elle était injoignable, rouvrez plutôt cette boîte de dialogue.</translation>
+        <translation>Redemande à l’imprimante ses profils et valeurs par défaut.</translation>
     </message>
 </context>
 <context>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>SNMPCannotConnect</source>
-        <translation>L’imprimante est injoignable&#xa0;; ses profils de couleurs sont donc inconnus. Vérifiez qu’elle est allumée et connectée, puis rouvrez cette boîte de dialogue.</translation>
+        <translation>L’imprimante est injoignable&#xa0;; ses profils de couleurs sont donc inconnus. Vérifiez qu’elle est allumée et connectée, puis choisissez «&#xa0;Recharger depuis l’imprimante&#xa0;».</translation>
     </message>
     <message>
         <source>SNMPArchMismatch</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>La réponse de l’imprimante n’a pas été comprise&#xa0;; ses profils de couleurs sont donc inconnus. Rouvrez cette boîte de dialogue&#xa0;; si cela ne suffit pas, adressez-vous à votre administrateur.</translation>
+        <translation>La réponse de l’imprimante n’a pas été comprise&#xa0;; ses profils de couleurs sont donc inconnus. Choisissez «&#xa0;Recharger depuis l’imprimante&#xa0;»&#xa0;; si cela ne suffit pas, adressez-vous à votre administrateur.</translation>
     </message>
     <message>
         <source>PrintMode</source>
@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>L’équilibre des couleurs n’est pas disponible dans le mode couleur «&#xa0;%1&#xa0;».</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>L’équilibre des couleurs n’est pas disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>

@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>Il bilanciamento del colore non è disponibile nella modalità colore «%1».</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Il bilanciamento del colore non è disponibile quando «%1» è impostato su «%2».</translation>
     </message>
 </context>
 <context>

@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults.</source>
-        <translation>プロファイルと既定値をもう一度プリンターに問い合わせます。接続できなかったときは、このダイアログを開き直してください。</translation>
+        <translation>プロファイルと既定値をもう一度プリンターに問い合わせます。</translation>
     </message>
 </context>
 <context>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>SNMPCannotConnect</source>
-        <translation>プリンターに接続できないため、カラープロファイルを取得できません。プリンターの電源と接続を確認してから、このダイアログを開き直してください。</translation>
+        <translation>プリンターに接続できないため、カラープロファイルを取得できません。プリンターの電源と接続を確認してから、「プリンターから再読み込み」を選んでください。</translation>
     </message>
     <message>
         <source>SNMPArchMismatch</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>プリンターからの応答を解釈できないため、カラープロファイルを取得できません。このダイアログを開き直してください。解決しない場合は、管理者に問い合わせてください。</translation>
+        <translation>プリンターからの応答を解釈できないため、カラープロファイルを取得できません。「プリンターから再読み込み」を選んでください。解決しない場合は、管理者に問い合わせてください。</translation>
     </message>
     <message>
         <source>PrintMode</source>
@@ -680,8 +680,8 @@
 <context>
     <name>QVPDEColorSettings2_M880</name>
     <message>
-        <source>Color balance is not available in the color mode “%1”.</source>
-        <translation>カラーモードが「%1」のときは、カラーバランスを調整できません。</translation>
+        <source>Color balance is not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」のときは、カラーバランスを調整できません。</translation>
     </message>
 </context>
 <context>

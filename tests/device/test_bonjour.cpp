@@ -4,12 +4,9 @@
 // The resolver against a real avahi-daemon, in a network of the test's own.
 
 #include "device/network_resolver.h"
-#include "tests/support/child_process.h"
-#include "tests/support/private_network.h"
+#include "tests/support/private_bonjour.h"
 
 #include <QElapsedTimer>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/socket.h>
@@ -43,63 +40,22 @@ private Q_SLOTS:
     void silence(); // last: daemon and bus go, a row each
 
 private:
-    QString write(const char *name, const QString &text);
-    void start(ChildProcess &process, const char *program, const QStringList &arguments,
-               const char *readyText);
-
-    QTemporaryDir m_folder;
-    ChildProcess m_bus, m_avahi, m_service; // ended in the opposite order
+    PrivateBonjour m_bonjour;
+    ChildProcess m_service;
 };
-
-QString TestBonjour::write(const char *name, const QString &text)
-{
-    QFile file(m_folder.filePath(QString::fromLatin1(name)));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
-        qFatal("%s", qPrintable(file.errorString()));
-    return file.fileName();
-}
-
-void TestBonjour::start(ChildProcess &process, const char *program, const QStringList &arguments,
-                        const char *readyText)
-{
-    QString error;
-    process = startChildProcess(QString::fromLatin1(program), arguments, readyText, &error);
-    QVERIFY2(process, qPrintable(error));
-}
 
 void TestBonjour::initTestCase()
 {
-    qputenv("PATH", qgetenv("PATH") + ":/usr/sbin");
-    for (const auto &program : {u"dbus-daemon"_qs, u"avahi-daemon"_qs, u"avahi-publish-service"_qs}) {
-        if (QStandardPaths::findExecutable(program).isEmpty())
-            QSKIP(qPrintable(program + u" is not installed"_qs));
-    }
     // The name that Avahi's library gives for a host ends in a dot; this stands in for a resolver that knows
     // mDNS.
-    const QString hosts = write("hosts", u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_qs);
-    const QString whyNot = enterPrivateNetworkWithFiles({{hosts, u"/etc/hosts"_qs}}, u"/run/avahi-daemon"_qs);
+    const QString whyNot = m_bonjour.start(u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_qs);
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
-
-    const QString bus = u"unix:path="_qs + m_folder.filePath(u"bus"_qs);
-    const QString busConf = write("dbus.conf", uR"(<busconfig><type>system</type><listen>%1</listen>
-        <auth>EXTERNAL</auth><policy context="default"><allow user="*"/><allow own="*"/><allow send_type="method_call"/>
-        <allow send_type="signal"/><allow send_type="method_return"/><allow send_type="error"/>
-        <allow receive_type="method_call"/><allow receive_type="signal"/><allow receive_type="method_return"/>
-        <allow receive_type="error"/></policy></busconfig>)"_qs.arg(bus));
-    const QString avahiConf =
-        write("avahi.conf", u"[server]\nhost-name=orb-m880\nuse-ipv6=no\nallow-interfaces=lo\n"
-                            "[wide-area]\nenable-wide-area=no\n"
-                            "[publish]\npublish-workstation=no\npublish-hinfo=no\n"_qs);
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", bus.toLatin1());
-    start(m_bus, "dbus-daemon",
-          {u"--config-file="_qs + busConf, u"--nofork"_qs, u"--nopidfile"_qs, u"--print-address"_qs},
-          "unix:");
-    start(m_avahi, "avahi-daemon",
-          {u"-f"_qs, avahiConf, u"--no-drop-root"_qs, u"--no-chroot"_qs, u"--no-rlimits"_qs},
-          "startup complete");
-    start(m_service, "avahi-publish-service", {u"Office Printer"_qs, u"_ipp._tcp"_qs, u"631"_qs},
-          "Established");
+    QString error;
+    m_service = startChildProcess(u"avahi-publish-service"_qs,
+                                  {u"Office Printer"_qs, u"_ipp._tcp"_qs, u"631"_qs}, "Established", &error);
+    if (!m_service)
+        QSKIP(qPrintable(error));
 }
 
 void TestBonjour::resolves_data()
@@ -125,15 +81,15 @@ void TestBonjour::silence_data()
     QTest::newRow("nobody answers") << u"Nobody._ipp._tcp.local"_qs << Change([] {});
     QTest::newRow("the daemon hangs")
         << u"Office Printer._ipp._tcp.local"_qs
-        << Change([this] { ::kill(static_cast<pid_t>(m_avahi->processId()), SIGSTOP); });
+        << Change([this] { ::kill(static_cast<pid_t>(m_bonjour.daemon->processId()), SIGSTOP); });
     QTest::newRow("there is no daemon") << u"Office Printer._ipp._tcp.local."_qs << Change([this] {
-        ::kill(static_cast<pid_t>(m_avahi->processId()), SIGKILL);
-        m_avahi->waitForFinished();
+        ::kill(static_cast<pid_t>(m_bonjour.daemon->processId()), SIGKILL);
+        m_bonjour.daemon->waitForFinished();
     });
     QTest::newRow("the bus does not speak") << u"office printer._ipp._tcp.local"_qs << Change([this] {
-        m_bus.reset();
-        QFile::remove(m_folder.filePath(u"bus"_qs));
-        listenInSilence(QFile::encodeName(m_folder.filePath(u"bus"_qs)));
+        m_bonjour.bus.reset();
+        QFile::remove(m_bonjour.busPath());
+        listenInSilence(QFile::encodeName(m_bonjour.busPath()));
     });
 }
 

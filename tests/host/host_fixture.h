@@ -77,10 +77,16 @@ public:
                                            host::PrintError *error) override;
     host::Submission submit(const host::JobRequest &request, const host::SubmissionWatch &) override;
     host::JobStatus jobStatus(const host::Destination &, int) override { return status; }
+    bool changeJob(const host::Destination &, int, host::JobAction action, host::PrintError *) override
+    {
+        changes.append(action);
+        return true;
+    }
     std::optional<host::Destination> withState(const host::Destination &destination) override
     {
         return destination;
     }
+    void searchNetwork(const std::function<bool(const host::Destination &)> &) override {}
     void setLoginPrompt(host::LoginPrompt) override {}
 
     QList<host::Destination> printers;
@@ -89,6 +95,7 @@ public:
     host::JobStatus status;
     host::Submission::Outcome outcome = host::Submission::Outcome::Accepted;
     QList<host::JobRequest> submitted;
+    QList<host::JobAction> changes; // of jobs
 
 private:
     bool refuses(host::PrintError *error) const;

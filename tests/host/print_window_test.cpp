@@ -316,7 +316,7 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     panels.push_back(std::move(first));
     panels.push_back(std::move(second));
     window.session()->adoptPanels(std::move(panels));
-    window.book()->setSession(window.session());
+    window.showSession();
     window.book()->showPage(0);
     QCOMPARE(colour->restored, 0);
     auto *list = find<PageList>();
@@ -350,7 +350,7 @@ void PrintWindowTest::waitingIsPaintedBeforeItBegins()
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(panel));
     window.session()->adoptPanels(std::move(panels));
-    window.book()->setSession(window.session());
+    window.showSession();
     window.book()->showPage(1);
     QVERIFY(busyPointer);
     QVERIFY(!QGuiApplication::overrideCursor());

@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
@@ -50,6 +51,27 @@ Answer answerOf(const QDBusMessage &reply)
 
 } // namespace
 
+// What shows notifications; knows markup.
+class Desktop : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+public:
+    QString title, text;
+    QVariantMap hints;
+
+public Q_SLOTS:
+    QStringList GetCapabilities() { return {u"body"_s, u"body-markup"_s}; }
+    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
+                const QStringList &, const QVariantMap &given, int)
+    {
+        title = summary;
+        text = body;
+        hints = given;
+        return 1;
+    }
+};
+
 // The service on a bus of its own, called as the portal and the queue call it; a script stands in for the
 // dialog.
 class ServiceTest : public QObject
@@ -69,6 +91,7 @@ private Q_SLOTS:
     void documentOutlivesItsRequest();
     void sameHandleTwice();
     void documentFromTheQueue();
+    void notifiesTheDesktop();
     void leavesWhenIdle();
     void goesWithTheBus();
     void aThousandRequestsLeaveNothing();
@@ -338,6 +361,23 @@ void ServiceTest::documentFromTheQueue()
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("silent"), patience);
     QDBusConnection::disconnectFromBus(other);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
+}
+
+void ServiceTest::notifiesTheDesktop()
+{
+    Desktop desktop;
+    QVERIFY(
+        m_bus.registerObject(u"/org/freedesktop/Notifications"_s, &desktop, QDBusConnection::ExportAllSlots));
+    QVERIFY(m_bus.registerService(u"org.freedesktop.Notifications"_s));
+    QProcess process;
+    process.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print-service"), {u"--notify"_s});
+    process.write(R"({"title": "A & B", "text": "<b>Job 1</b>\ndone", "urgent": true})");
+    process.closeWriteChannel();
+    QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, patience);
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(desktop.title, u"A & B"_s);
+    QCOMPARE(desktop.text, u"&lt;b&gt;Job 1&lt;/b&gt;\ndone"_s); // such a desktop reads markup
+    QCOMPARE(desktop.hints.value(u"urgency"_s), QVariant::fromValue<uchar>(2));
 }
 
 void ServiceTest::leavesWhenIdle()

@@ -8,6 +8,7 @@
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
 
+#include <QPushButton>
 #include <QTest>
 
 #include <cups/cups.h>
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void lostAnswerInTheWindow();
     void signalCancelsTheJob_data();
     void signalCancelsTheJob();
+    void jobIsChangedFromTheResult();
     void loginInTheWindow();
     void loginNobodyGives();
 
@@ -227,6 +229,42 @@ void JobEndTest::signalCancelsTheJob()
     QVERIFY2(process.readAllStandardError().contains("canceled"), "nothing was told");
     QCOMPARE(unfinishedJobs(), 0);
     QCOMPARE(m_server.capturedJobs(), before);
+}
+
+void JobEndTest::jobIsChangedFromTheResult()
+{
+    QVERIFY(m_server.setPaused(u"other"_s, true));
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"other"_s;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.show();
+    QTRY_VERIFY(window.session());
+    window.print();
+    QTRY_VERIFY(window.submission());
+    auto *result = window.findChild<ResultPage *>();
+    const auto press = [result](const QString &text) {
+        for (auto *button : result->findChildren<QPushButton *>()) {
+            if (button->isVisible() && button->text().remove(u'&') == text)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+    };
+    for (const auto &[button, state] : {std::pair(u"Hold"_s, u"on hold"_s),
+                                        {u"Release"_s, u"the printer has been stopped"_s},
+                                        {u"Cancel Job"_s, u"canceled"_s}}) {
+        press(button);
+        QTRY_VERIFY2_WITH_TIMEOUT(result->text().contains(state), qPrintable(result->text()), 10000);
+    }
+    QCOMPARE(unfinishedJobs(), 0);
+    const int first = window.submission()->job.id;
+    QVERIFY(m_server.setPaused(u"other"_s, false));
+    press(u"Print Again"_s);
+    QTRY_VERIFY(window.submission() && window.submission()->job.id > first);
+    QVERIFY(m_server.waitForJob(window.submission()->job.id));
 }
 
 void JobEndTest::loginInTheWindow()

@@ -108,7 +108,8 @@ void WindowAnswersTest::initTestCase()
         QSKIP(qPrintable(missing));
     // Whoever is asked for the address of a name is on the loopback interface, too.
     QFile resolver(m_server.folder() + u"/resolv.conf"_s);
-    QVERIFY(resolver.open(QIODevice::WriteOnly) && resolver.write("nameserver 127.0.0.53\n") > 0);
+    QVERIFY(resolver.open(QIODevice::WriteOnly) &&
+            resolver.write("nameserver 127.0.0.53\noptions timeout:1 attempts:1\n") > 0);
     resolver.close();
     if (const QString whyNot = enterPrivateNetworkWithFiles({{resolver.fileName(), u"/etc/resolv.conf"_s}},
                                                             u"/run/avahi-daemon"_s);

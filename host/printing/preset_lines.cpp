@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/preset_lines.h"
+
+#include "host/printing/cups_handles.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cups/file.h>
+
+namespace host {
+
+namespace {
+
+struct PresetText
+{
+    Q_DECLARE_TR_FUNCTIONS(PresetText)
+};
+
+constexpr qsizetype longestLine = 8191; // bytes that libcups reads of one, without its end
+
+bool isSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// One line of the file; `keyword` is empty for one that names no destination.
+struct Line
+{
+    QByteArray keyword; // "Dest" or "Default", as it was written
+    QByteArray destination;
+    QByteArray options; // as they stand
+    QByteArray raw;     // with its end
+};
+
+// As libcups reads it: "\#" is the character, "#" alone begins a comment; of the others in the line nothing
+// is looked at.
+QByteArray withoutComment(QByteArray text)
+{
+    const qsizetype mark = text.indexOf('#');
+    if (mark > 0 && text.at(mark - 1) == '\\')
+        text.remove(mark - 1, 1);
+    else if (mark >= 0)
+        text.truncate(mark);
+    return text.trimmed();
+}
+
+QByteArray takeWord(QByteArray *text)
+{
+    const auto end = std::find_if(text->cbegin(), text->cend(), isSpace);
+    const QByteArray word = text->first(end - text->cbegin());
+    *text = text->sliced(word.size()).trimmed();
+    return word;
+}
+
+Line lineFrom(const QByteArray &raw)
+{
+    Line line;
+    line.raw = raw;
+    QByteArray text = withoutComment(raw);
+    const QByteArray keyword = takeWord(&text);
+    if (keyword.compare("dest", Qt::CaseInsensitive) != 0 &&
+        keyword.compare("default", Qt::CaseInsensitive) != 0)
+        return line;
+    line.keyword = keyword;
+    line.destination = takeWord(&text);
+    line.options = text;
+    return line;
+}
+
+QList<Line> linesOf(const QByteArray &content)
+{
+    QList<Line> lines;
+    for (qsizetype begin = 0; begin < content.size();) {
+        const qsizetype end = content.indexOf('\n', begin);
+        const qsizetype next = end < 0 ? content.size() : end + 1;
+        lines.append(lineFrom(content.sliced(begin, next - begin)));
+        begin = next;
+    }
+    return lines;
+}
+
+QByteArray destinationName(const QString &queue, const QString &name)
+{
+    return (name.isEmpty() ? queue : queue + QLatin1Char('/') + name).toUtf8();
+}
+
+// Names of destinations differ by more than their case.
+bool isOf(const Line &line, const QByteArray &destination)
+{
+    return !line.keyword.isEmpty() && line.destination.compare(destination, Qt::CaseInsensitive) == 0;
+}
+
+void readOptions(const QByteArray &text, QMap<QString, QString> *options)
+{
+    const CupsOptionList list(text.constData());
+    for (int i = 0; i < list.count(); ++i)
+        options->insert(QString::fromUtf8(list.options()[i].name),
+                        QString::fromUtf8(list.options()[i].value));
+}
+
+// "\#" is read as the character wherever it stands: by the reader of lines or by that of options.
+QByteArray quoted(const QString &value)
+{
+    QByteArray text;
+    bool isPlain = !value.isEmpty();
+    for (const char c : value.toUtf8()) {
+        if (c == '"' || c == '\'' || c == '\\' || c == '#')
+            text += '\\';
+        text += c;
+        isPlain &= isalnum(static_cast<unsigned char>(c)) || strchr("-_.,:;/@+%*=", c) ||
+                   static_cast<unsigned char>(c) >= 0x80;
+    }
+    return isPlain ? text : '"' + text + '"';
+}
+
+// What libcups makes of a line, for comparing.
+std::optional<QMap<QString, QString>> readBack(const QByteArray &line)
+{
+    if (line.contains('\n') || line.size() > longestLine)
+        return std::nullopt;
+    QMap<QString, QString> options;
+    readOptions(lineFrom(line).options, &options);
+    return options;
+}
+
+PrintError unwritable(const QString &option)
+{
+    return {PrintError::Kind::BadValue,
+            PresetText::tr("A preset cannot keep the value of “%1”: it holds a tab, a line break or another "
+                           "character that its file has no way to write.")
+                .arg(option)};
+}
+
+std::optional<QByteArray> optionText(const QMap<QString, QString> &options, PrintError *error)
+{
+    QByteArray text;
+    for (auto it = options.begin(); it != options.end(); ++it) {
+        const QByteArray one = ' ' + it.key().toUtf8() + '=' + quoted(it.value());
+        const bool hasControl = std::any_of(it.value().begin(), it.value().end(),
+                                            [](QChar c) { return c.category() == QChar::Other_Control; });
+        if (hasControl || readBack("Dest x" + one) != QMap<QString, QString>{{it.key(), it.value()}}) {
+            *error = unwritable(it.key());
+            return std::nullopt;
+        }
+        text += one;
+    }
+    return text;
+}
+
+} // namespace
+
+QList<Preset> presetsIn(const QByteArray &content, const QString &queue)
+{
+    QList<Preset> presets;
+    const QByteArray own = queue.toUtf8();
+    for (const Line &line : linesOf(content)) {
+        const qsizetype slash = line.destination.indexOf('/');
+        const QByteArray lineQueue = slash < 0 ? line.destination : line.destination.first(slash);
+        if (line.keyword.isEmpty() || lineQueue.compare(own, Qt::CaseInsensitive) != 0)
+            continue;
+        const QString name = slash < 0 ? QString() : QString::fromUtf8(line.destination.sliced(slash + 1));
+        auto known = std::find_if(presets.begin(), presets.end(), [&](const Preset &preset) {
+            return preset.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        if (known == presets.end())
+            known = presets.insert(presets.end(), {name, {}});
+        readOptions(line.options, &known->options);
+    }
+    return presets;
+}
+
+std::optional<QByteArray> withPreset(const QByteArray &content, const QString &queue, const Preset &preset,
+                                     PrintError *error)
+{
+    const auto options = optionText(preset.options, error);
+    if (!options)
+        return std::nullopt;
+    const QByteArray destination = destinationName(queue, preset.name);
+    QByteArray result, keyword = "Dest";
+    qsizetype place = -1;
+    for (const Line &line : linesOf(content)) {
+        if (!isOf(line, destination)) {
+            result += line.raw;
+            continue;
+        }
+        if (place < 0)
+            place = result.size();
+        if (line.keyword.compare("default", Qt::CaseInsensitive) == 0)
+            keyword = line.keyword;
+    }
+    QByteArray line = keyword + ' ' + destination + *options;
+    if (readBack(line) != preset.options) {
+        *error = {PrintError::Kind::BadValue,
+                  PresetText::tr("These are more settings than a preset can keep: its file takes %1 bytes.")
+                      .arg(longestLine)};
+        return std::nullopt;
+    }
+    line += '\n';
+    if (place < 0 && !result.isEmpty() && !result.endsWith('\n'))
+        result += '\n';
+    return result.insert(place < 0 ? result.size() : place, line);
+}
+
+QByteArray renamedPreset(const QByteArray &content, const QString &queue, const QString &from,
+                         const QString &to)
+{
+    const QByteArray earlier = destinationName(queue, from);
+    QByteArray result;
+    for (const Line &line : linesOf(content)) {
+        if (!isOf(line, earlier)) {
+            result += line.raw;
+            continue;
+        }
+        QByteArray renamed = line.raw;
+        renamed.replace(
+            renamed.indexOf(line.destination, renamed.indexOf(line.keyword) + line.keyword.size()),
+            line.destination.size(), destinationName(queue, to));
+        result += renamed;
+    }
+    return result;
+}
+
+QByteArray withoutPreset(const QByteArray &content, const QString &queue, const QString &name)
+{
+    const QByteArray destination = destinationName(queue, name);
+    QByteArray result;
+    for (const Line &line : linesOf(content)) {
+        if (!isOf(line, destination))
+            result += line.raw;
+        else if (line.keyword.compare("default", Qt::CaseInsensitive) == 0)
+            result += line.keyword + ' ' + queue.toUtf8() + '\n';
+    }
+    return result;
+}
+
+} // namespace host

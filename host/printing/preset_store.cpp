@@ -1,0 +1,367 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/preset_store.h"
+
+#include "host/printing/file_name.h"
+#include "host/printing/preset_lines.h"
+#include "platform/unique_fd.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <sys/file.h>
+
+namespace host {
+
+namespace {
+
+struct StoreText
+{
+    Q_DECLARE_TR_FUNCTIONS(StoreText)
+};
+
+constexpr int mostTries = 20; // to write while other programs do, too
+constexpr qsizetype longestName = 100;
+constexpr qint64 largestFile = 4 * 1024 * 1024; // bytes
+
+PrintError problemWith(const QString &path, int number)
+{
+    const bool isDenied = number == EACCES || number == EPERM || number == EROFS;
+    return {isDenied ? PrintError::Kind::NoPermission : PrintError::Kind::Other,
+            StoreText::tr("The presets in “%1” cannot be read or changed: %2.")
+                .arg(readableFileName(path), qt_error_string(number))};
+}
+
+std::optional<QByteArray> contentOf(int fd)
+{
+    QFile file;
+    if (::lseek(fd, 0, SEEK_SET) < 0 || !file.open(fd, QIODevice::ReadOnly, QFile::DontCloseHandle))
+        return std::nullopt;
+    const QByteArray content = file.read(largestFile + 1);
+    if (file.error() != QFile::NoError || content.size() > largestFile) {
+        errno = content.size() > largestFile ? EFBIG : EIO;
+        return std::nullopt;
+    }
+    return content;
+}
+
+struct OpenFile
+{
+    platform::UniqueFd fd; // none where there is no file yet
+    QByteArray content;
+};
+
+std::optional<OpenFile> readFile(const QString &path, PrintError *error)
+{
+    OpenFile file;
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (fd < 0 && errno == ENOENT)
+        return file;
+    file.fd = platform::UniqueFd(fd);
+    const auto content = fd < 0 ? std::nullopt : contentOf(fd);
+    if (!content) {
+        *error = problemWith(path, errno);
+        return std::nullopt;
+    }
+    file.content = *content;
+    return file;
+}
+
+// The file at the end of links, which stay.
+QString realPath(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+// For the user alone, as libcups makes it.
+bool makeFolderOf(const QString &path)
+{
+    const QString folder = QFileInfo(path).path();
+    (void)QDir().mkpath(QFileInfo(folder).path());
+    return ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0 || errno == EEXIST;
+}
+
+// Held by all who change this file with us, in every process.
+class StoreLock
+{
+public:
+    explicit StoreLock(const QString &path)
+        : m_fd(::open(QFile::encodeName(path + QStringLiteral(".kelmar-lock")).constData(),
+                      O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600))
+    {
+        if (!m_fd)
+            return;
+        int result = 0;
+        do {
+            result = ::flock(m_fd.get(), LOCK_EX);
+        } while (result != 0 && errno == EINTR);
+        if (result != 0)
+            m_fd.reset();
+    }
+    explicit operator bool() const { return static_cast<bool>(m_fd); }
+
+private:
+    platform::UniqueFd m_fd;
+};
+
+// Beside the file, with the rights and the owner of the earlier one; -1 and errno when it cannot be written.
+class NewFile
+{
+public:
+    NewFile(const QString &path, unsigned mode, int earlier) : m_path(QFile::encodeName(path))
+    {
+        m_name = m_path + ".XXXXXX";
+        m_fd = platform::UniqueFd(::mkostemp(m_name.data(), O_CLOEXEC));
+        struct stat facts = {};
+        if (m_fd && earlier >= 0 && ::fstat(earlier, &facts) == 0) {
+            mode = facts.st_mode & 07777;
+            if (::fchown(m_fd.get(), facts.st_uid, facts.st_gid) != 0)
+                mode &= 0777; // somebody else's file, which becomes ours
+        }
+        if (m_fd)
+            (void)::fchmod(m_fd.get(), mode);
+    }
+    ~NewFile()
+    {
+        if (m_fd)
+            ::unlink(m_name.constData());
+    }
+    NewFile(const NewFile &) = delete;
+    NewFile &operator=(const NewFile &) = delete;
+
+    bool write(const QByteArray &content)
+    {
+        for (qsizetype done = 0; m_fd && done < content.size();) {
+            const ssize_t put =
+                ::write(m_fd.get(), content.constData() + done, size_t(content.size() - done));
+            if (put < 0 && errno != EINTR)
+                return false;
+            done += std::max<ssize_t>(put, 0);
+        }
+        return m_fd && ::fsync(m_fd.get()) == 0;
+    }
+    bool takePlace()
+    {
+        if (::rename(m_name.constData(), m_path.constData()) != 0)
+            return false;
+        m_fd.reset();
+        return true;
+    }
+
+private:
+    QByteArray m_path;
+    QByteArray m_name;
+    platform::UniqueFd m_fd;
+};
+
+bool isSame(const std::optional<OpenFile> &file, const QByteArray &content)
+{
+    return file && file->content == content;
+}
+
+PrintError noSuchPreset(const QString &name)
+{
+    return {PrintError::Kind::BadValue, StoreText::tr("There is no preset called “%1”.").arg(name)};
+}
+
+bool holds(const QByteArray &content, const QString &queue, const QString &name)
+{
+    const QList<Preset> presets = presetsIn(content, queue);
+    return std::any_of(presets.begin(), presets.end(), [&](const Preset &preset) {
+        return preset.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
+
+PresetStore::Files PresetStore::filesOfCups()
+{
+    const QString system = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
+    Files files;
+    files.everybodys = system + QStringLiteral("/lpoptions");
+    files.users = QDir::homePath() + QStringLiteral("/.cups/lpoptions");
+    files.writesForEverybody = ::getuid() == 0;
+    return files;
+}
+
+PresetStore::Files PresetStore::filesOfLastUsed()
+{
+    const QString state =
+        qEnvironmentVariable("XDG_STATE_HOME", QDir::homePath() + QStringLiteral("/.local/state"));
+    return {{}, state + QStringLiteral("/kelmar-print/last-used"), false, 0600};
+}
+
+std::optional<QList<Preset>> PresetStore::list(const QString &queue, PrintError *error) const
+{
+    QByteArray content;
+    for (const QString &path : {m_files.everybodys, m_files.users}) {
+        if (path.isEmpty())
+            continue;
+        const auto file = readFile(path, error);
+        if (!file)
+            return std::nullopt;
+        if (!content.isEmpty() && !content.endsWith('\n'))
+            content += '\n';
+        content += file->content;
+    }
+    return presetsIn(content, queue);
+}
+
+QString PresetStore::fileOf(const QString &queue, const QString &name, PrintError *error) const
+{
+    for (const QString &path : {m_files.users, m_files.everybodys}) {
+        const auto file = path.isEmpty() ? std::nullopt : readFile(path, error);
+        if (*error)
+            return {};
+        if (file && holds(file->content, queue, name)) {
+            // A user's change to what is everybody's becomes the user's own.
+            const bool isMine = path == m_files.users || m_files.writesForEverybody;
+            return isMine ? path : m_files.users;
+        }
+    }
+    return m_files.writesForEverybody ? m_files.everybodys : m_files.users;
+}
+
+// What another program writes while we do goes into the file that ours has just replaced, or over ours: both
+// are looked at, and the change is made again on top of it.
+bool PresetStore::change(const QString &path, unsigned mode, const Change &change, PrintError *error)
+{
+    const QString target = realPath(path);
+    if (!makeFolderOf(target)) {
+        *error = problemWith(target, errno);
+        return false;
+    }
+    const StoreLock lock(target);
+    std::optional<OpenFile> earlier = lock ? readFile(target, error) : std::nullopt;
+    for (int i = 0; earlier && i < mostTries; ++i) {
+        const auto content = change(earlier->content, error);
+        if (!content)
+            return false;
+        NewFile fresh(target, mode, earlier->fd.get());
+        if (!fresh.write(*content)) {
+            *error = problemWith(target, errno);
+            return false;
+        }
+        auto now = readFile(target, error);
+        if (!isSame(now, earlier->content)) {
+            earlier = std::move(now);
+            continue;
+        }
+        if (!fresh.takePlace()) {
+            *error = problemWith(target, errno);
+            return false;
+        }
+        const auto late = earlier->fd ? contentOf(earlier->fd.get()) : std::optional(QByteArray());
+        if (late && *late != earlier->content && !late->isEmpty()) {
+            earlier = OpenFile{{}, *late};
+            continue;
+        }
+        auto written = readFile(target, error);
+        if (isSame(written, *content))
+            return true;
+        earlier = std::move(written);
+    }
+    if (!*error)
+        *error = problemWith(target, lock ? EBUSY : errno);
+    return false;
+}
+
+bool PresetStore::save(const QString &queue, const Preset &preset, PrintError *error) const
+{
+    const QString problem = preset.name.isEmpty() ? QString() : nameProblem(preset.name);
+    if (!problem.isNull()) {
+        *error = {PrintError::Kind::BadValue, problem};
+        return false;
+    }
+    const QString path = fileOf(queue, preset.name, error);
+    return !*error && change(
+                          path, m_files.mode,
+                          [&](const QByteArray &content, PrintError *problem) {
+                              return withPreset(content, queue, preset, problem);
+                          },
+                          error);
+}
+
+bool PresetStore::rename(const QString &queue, const QString &from, const QString &to,
+                         PrintError *error) const
+{
+    const QString problem = nameProblem(to);
+    if (!problem.isNull()) {
+        *error = {PrintError::Kind::BadValue, problem};
+        return false;
+    }
+    const QString path = fileOf(queue, from, error);
+    const bool isOther = from.compare(to, Qt::CaseInsensitive) != 0;
+    const auto renamed = [&](const QByteArray &content, PrintError *problem) -> std::optional<QByteArray> {
+        if (!holds(content, queue, from)) {
+            // Ours may have been made, and then another program's file be read.
+            if (holds(content, queue, to) && isOther)
+                return content;
+            *problem = noSuchPreset(from);
+            return std::nullopt;
+        }
+        if (isOther && holds(content, queue, to)) {
+            *problem = {PrintError::Kind::BadValue,
+                        StoreText::tr("There is already a preset called “%1”.").arg(to)};
+            return std::nullopt;
+        }
+        return renamedPreset(content, queue, from, to);
+    };
+    return !*error && change(path, m_files.mode, renamed, error);
+}
+
+bool PresetStore::remove(const QString &queue, const QString &name, PrintError *error) const
+{
+    const QString path = fileOf(queue, name, error);
+    if (*error)
+        return false;
+    const auto file = readFile(path, error);
+    if (!file)
+        return false;
+    if (!holds(file->content, queue, name)) {
+        const auto all = list(queue, error);
+        const bool isEverybodys = all && std::any_of(all->begin(), all->end(), [&](const Preset &preset) {
+                                      return preset.name.compare(name, Qt::CaseInsensitive) == 0;
+                                  });
+        *error = isEverybodys ? PrintError{PrintError::Kind::NoPermission,
+                                           StoreText::tr("“%1” is there for everybody on this computer; "
+                                                         "only an administrator can change it.")
+                                               .arg(name)}
+                              : noSuchPreset(name);
+        return false;
+    }
+    return change(
+        path, m_files.mode,
+        [&](const QByteArray &content, PrintError *) -> std::optional<QByteArray> {
+            return withoutPreset(content, queue, name);
+        },
+        error);
+}
+
+QString PresetStore::nameProblem(const QString &name)
+{
+    const auto is = [&](auto test) { return std::any_of(name.begin(), name.end(), test); };
+    if (name.isEmpty())
+        return StoreText::tr("A preset needs a name.");
+    if (name.toUtf8().size() > longestName)
+        return StoreText::tr("The name is too long.");
+    if (is([](QChar c) { return c.isSpace(); })) {
+        QString other = name.simplified();
+        return StoreText::tr("The name of a preset can hold no space; “%1” would do.")
+            .arg(other.replace(QLatin1Char(' '), QLatin1Char('-')));
+    }
+    if (is([](QChar c) { return c.category() == QChar::Other_Control || !c.isPrint(); }) &&
+        !is([](QChar c) { return c.isSurrogate(); }))
+        return StoreText::tr("The name of a preset can hold no control characters.");
+    if (is([](QChar c) { return QStringLiteral("/\\#\"'=").contains(c); }))
+        return StoreText::tr("The name of a preset can hold none of these: / \\ # \" ' =");
+    return {};
+}
+
+} // namespace host

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/preset_settings.h"
+
+#include "host/session/dialog_session.h"
+#include "host/session/job_options.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct PresetText
+{
+    Q_DECLARE_TR_FUNCTIONS(PresetText)
+};
+
+const QString pagesName = QStringLiteral("page-ranges");
+
+bool isSecretSetting(const DialogSession &session, const QString &name)
+{
+    const auto &chosen = session.chosen().inOrder();
+    return session.isSecret(name) || std::any_of(chosen.begin(), chosen.end(), [&](const auto &setting) {
+               return setting.isSecret && setting.key.compare(name, Qt::CaseInsensitive) == 0;
+           });
+}
+
+// What the print system does anyway.
+bool isIdle(const DialogSession &session, const JobOption &option)
+{
+    return option.name == QLatin1String("copies") && option.value == QLatin1String("1") &&
+           session.startingGeneral().copies == 1;
+}
+
+bool isKept(const DialogSession &session, const JobOption &option)
+{
+    return (option.kind == JobOption::Kind::Choice || option.kind == JobOption::Kind::Attribute) &&
+           option.name != pagesName && !isIdle(session, option);
+}
+
+bool isKnown(const DialogSession &session, const QString &name)
+{
+    return GeneralSettings::covers(name) || PageLayoutSettings::covers(name) || isPanelSetting(name) ||
+           (session.ppd() && (session.ppd()->hasOption(name) || session.ppd()->takesOption(name)));
+}
+
+// How the options of the PPD stand when these options are marked on its defaults.
+QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &options, QStringList *problems)
+{
+    QMap<QString, QString> now, marks;
+    for (const QString &keyword : ppd->optionKeywords()) {
+        if (ppd->isInstallable(keyword))
+            continue;
+        now.insert(keyword, ppd->markedChoice(keyword));
+        ppd->mark(keyword, ppd->defaultChoice(keyword));
+    }
+    *problems = ppd->markOptions(options);
+    for (auto it = now.begin(); it != now.end(); ++it)
+        marks.insert(it.key(), ppd->markedChoice(it.key()));
+    for (int round = 0; round < 2; ++round) { // one mark may take another away, as a size of a tray does
+        for (auto it = now.begin(); it != now.end(); ++it) {
+            if (!it->isEmpty() && ppd->markedChoice(it.key()) != *it)
+                ppd->mark(it.key(), *it);
+        }
+    }
+    return marks;
+}
+
+// What the page layout has taken; other values are sent as they stand.
+bool isLayout(const DialogSession &session, const QString &name, const QString &value)
+{
+    return !(session.ppd() && session.ppd()->hasOption(name)) && PageLayoutSettings().set(name, value);
+}
+
+bool isTaken(const DialogSession &session, const QString &name, const QString &value)
+{
+    const auto option = session.ppd() ? session.ppd()->option(name) : std::nullopt;
+    return !option || option->choices.isEmpty() || GeneralSettings::covers(name) ||
+           std::any_of(
+               option->choices.begin(), option->choices.end(),
+               [&](const auto &choice) { return choice.keyword.compare(value, Qt::CaseInsensitive) == 0; }) ||
+           (option->custom && option->hasChoice(value));
+}
+
+ChosenSetting chosenFrom(const DialogSession &session, const QString &name, const QString &value)
+{
+    const bool isOption = session.ppd() && session.ppd()->hasOption(name);
+    ChosenSetting setting{name, value, isOption ? ChosenSetting::Kind::Key : ChosenSetting::Kind::JobOption};
+    if (!isOption && session.ppd() && session.ppd()->takesOption(name))
+        setting.options = session.ppd()->standardChoices(name, value).keys();
+    setting.isSecret = session.isSecret(name);
+    return inWords(session, setting);
+}
+
+} // namespace
+
+QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QString, QString> &unknown,
+                                     bool withSecrets)
+{
+    QMap<QString, QString> options;
+    for (auto it = unknown.begin(); it != unknown.end(); ++it) {
+        if (!isKnown(session, it.key()) && !isSecretSetting(session, it.key()))
+            options.insert(it.key(), it.value());
+    }
+    // Whatever the destination has them from: that is not there with another preset.
+    for (const JobOption &option : session.general().layout.jobOptions({}, {}))
+        options.insert(option.name, option.value);
+    for (const JobOption &option : session.jobOptions()) {
+        if (isKept(session, option) && (withSecrets || !isSecretSetting(session, option.name)))
+            options.insert(option.name, option.value);
+    }
+    return options;
+}
+
+bool hasSecrets(const DialogSession &session)
+{
+    for (const JobOption &option : session.jobOptions()) {
+        const bool isDefault = session.ppd() && session.ppd()->defaultChoice(option.name) == option.value;
+        if (isKept(session, option) && !isDefault && isSecretSetting(session, option.name))
+            return true;
+    }
+    return false;
+}
+
+void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
+                 const QMap<QString, QString> &preset)
+{
+    const SessionState now = session->state();
+    SessionState wanted = now;
+    QMap<QString, QString> all = queueOptions;
+    all.insert(preset);
+    QStringList missed, problems;
+    if (session->ppd())
+        wanted.marks = marksOf(session->ppd(), all, &problems);
+    wanted.printSettings.clear();
+    wanted.chosen = {};
+    wanted.savedKeywords.clear();
+    wanted.instance.clear();
+    wanted.destinationOptions = queueOptions;
+    wanted.general = GeneralSettings::from(all);
+    wanted.general.pages = now.general.pages;
+    wanted.general.takePart(now.general);
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        const bool isUsers = preset.contains(it.key());
+        if (isPanelSetting(it.key()))
+            wanted.printSettings.insert(it.key(), it.value());
+        else if (isUsers && !isTaken(*session, it.key(), it.value()))
+            missed.append(session->ppd()->option(it.key())->text);
+        else if (isUsers && !GeneralSettings::covers(it.key()) && !isLayout(*session, it.key(), it.value()))
+            wanted.chosen.add(chosenFrom(*session, it.key(), it.value()));
+    }
+    session->bring(now, wanted);
+    for (const QString &problem : std::as_const(problems))
+        session->addNotice(problem);
+    if (!missed.isEmpty())
+        session->addNotice(PresetText::tr("This printer does not have what these settings ask for: %1.")
+                               .arg(missed.join(QStringLiteral(", "))));
+}
+
+} // namespace host

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+namespace host {
+
+class DialogSession;
+
+// What of a session a preset keeps: everything that is sent with a job but the pages, which belong to the
+// document. `unknown` are options of the preset in use: those that nobody here knows, such as a job's
+// priority, stay. Codes are left out unless `withSecrets`.
+QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QString, QString> &unknown,
+                                     bool withSecrets);
+// Whether there is a code that a preset would leave out.
+bool hasSecrets(const DialogSession &session);
+
+// Sets everything as a dialog would find it that opened the queue with these options. `queueOptions` are
+// those of the queue itself, `preset` the user's, which count as chosen. What the printer does not take
+// becomes a notice that names it; the pages to print stay.
+void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
+                 const QMap<QString, QString> &preset);
+
+} // namespace host

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/session_changes.h"
+
+#include "host/session/dialog_session.h"
+#include "platform/key_value_object.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+int panelInKey(const QString &key)
+{
+    bool isPanel = false;
+    const int panel = key.section(QLatin1Char('/'), 0, 0).toInt(&isPanel);
+    return isPanel && key.contains(QLatin1Char('/')) ? panel : -1;
+}
+
+SettingChange markChange(const DialogSession &session, const QString &key, const SessionState &before,
+                         const SessionState &after)
+{
+    if (session.isSecret(key))
+        return {key, inWords(session, {key, {}}).text, {}, {}};
+    const OptionChoice then = session.ppd()->described(key, before.marks.value(key));
+    const OptionChoice now = session.ppd()->described(key, after.marks.value(key));
+    return {key, now.optionText, then.choiceText, now.choiceText};
+}
+
+// By the words of the summary, which has each of them. How copies are collated is told of several only.
+void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &after,
+                       QList<SettingChange> *changes)
+{
+    QList<SettingChange> all;
+    for (const auto &[name, value] : generalEntries(after, true))
+        all.append({keyOfGeneralEntry(name), name, {}, value});
+    for (const auto &[name, value] : generalEntries(before, true)) {
+        const auto known = std::find_if(all.begin(), all.end(),
+                                        [name = name](const SettingChange &c) { return c.name == name; });
+        if (known == all.end())
+            all.append({keyOfGeneralEntry(name), name, value, {}});
+        else
+            known->before = value;
+    }
+    for (const SettingChange &change : all) {
+        const bool isCollating = change.key == QLatin1String("multiple-document-handling");
+        if (change.before != change.after && !(isCollating && before.collate == after.collate))
+            changes->append(change);
+    }
+}
+
+} // namespace
+
+QList<SettingChange> changesBetween(const DialogSession &session, const SessionState &before,
+                                    const SessionState &after)
+{
+    QList<SettingChange> changes;
+    addGeneralChanges(before.general, after.general, &changes);
+    for (const QString &key : before.differencesTo(after)) {
+        SettingChange change;
+        if (const int panel = panelInKey(key); panel >= 0 && panel < session.panelCount())
+            change = {key, session.panel(panel)->panelName(), {}, {}};
+        else if (after.marks.contains(key))
+            change = markChange(session, key, before, after);
+        const bool isKnown = std::any_of(changes.begin(), changes.end(), [&](const SettingChange &earlier) {
+            return earlier.name == change.name && change.after.isEmpty();
+        });
+        if (!change.name.isEmpty() && !isKnown) // a code has several digits
+            changes.append(change);
+    }
+    return changes;
+}
+
+int pageOf(const DialogSession &session, const QString &key)
+{
+    if (const int panel = panelInKey(key); panel >= 0)
+        return panel;
+    if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key) ||
+        generalOptionKeywords(*session.ppd()).contains(key))
+        return generalPage;
+    const int panel = session.panelOfKeyword(key);
+    return panel >= 0 ? panel : morePage;
+}
+
+QStringList keysOfControl(const DialogSession &session, int panel, const QString &keyPath)
+{
+    const QStringList keywords = session.panelKeywords(panel);
+    const QString choice = QStringLiteral("Choice");
+    if (keywords.contains(keyPath))
+        return {keyPath};
+    if (keyPath.endsWith(choice) && keywords.contains(keyPath.chopped(choice.size())))
+        return {keyPath.chopped(choice.size())};
+    if (!session.settableKeysOf(panel).contains(keyPath))
+        return {};
+    QStringList parts = session.panel(panel)->keyValueObject()->keysOfDependentKey(keyPath);
+    parts.removeIf([&](const QString &part) { return !keywords.contains(part); });
+    return parts.isEmpty() ? QStringList(QStringLiteral("%1/%2").arg(panel).arg(keyPath)) : parts;
+}
+
+void putBack(DialogSession *session, const SessionState &base, const QStringList &keys)
+{
+    const SessionState now = session->state();
+    SessionState wanted = now;
+    for (const QString &key : keys) {
+        if (base.marks.contains(key))
+            wanted.marks.insert(key, base.marks.value(key));
+        else if (base.panelValues.contains(key))
+            wanted.panelValues.insert(key, base.panelValues.value(key));
+        else
+            wanted.general = withGeneralValue(wanted.general, key, base.general);
+    }
+    wanted.chosen.takeBack(keys, base.chosen);
+    session->bring(now, wanted);
+}
+
+} // namespace host

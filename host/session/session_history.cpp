@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/session_history.h"
+
+#include "host/session/dialog_session.h"
+
+#include <QScopedValueRollback>
+#include <QUndoCommand>
+
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr int mostSteps = 200;
+constexpr qint64 oneGesture = 1000; // milliseconds between changes that are one step
+constexpr int mergeable = 1;        // all steps; whether two are one is told by what they change
+
+} // namespace
+
+class SessionHistory::Step : public QUndoCommand
+{
+public:
+    Step(SessionHistory *history, SessionState before, SessionState after)
+        : m_history(history), m_keys(before.differencesTo(after)), m_before(std::move(before)),
+          m_after(std::move(after))
+    {
+        SessionState::keepDifferences(&m_before, &m_after);
+    }
+    void setBases(const Base &before, const Base &after)
+    {
+        m_baseBefore = before;
+        m_baseAfter = after;
+        m_changesBase = true;
+    }
+    void setChosen(const SessionState &now)
+    {
+        m_after.chosen = now.chosen;
+        m_after.savedKeywords = now.savedKeywords;
+    }
+    int id() const override { return mergeable; }
+    bool mergeWith(const QUndoCommand *command) override
+    {
+        const auto *next = static_cast<const Step *>(command);
+        if (!next->m_follows || next->m_keys != m_keys || next->m_changesBase || m_changesBase)
+            return false;
+        m_after = next->m_after;
+        setObsolete(m_before.differencesTo(m_after).isEmpty());
+        return true;
+    }
+    void undo() override
+    {
+        m_history->go(m_after, m_before, m_changesBase ? m_baseBefore : m_history->m_base);
+    }
+    void redo() override
+    {
+        if (std::exchange(m_isMade, true))
+            m_history->go(m_before, m_after, m_changesBase ? m_baseAfter : m_history->m_base);
+    }
+    void setFollows(bool follows) { m_follows = follows; }
+
+private:
+    SessionHistory *m_history;
+    QStringList m_keys;
+    SessionState m_before, m_after;
+    Base m_baseBefore, m_baseAfter; // where it changes that
+    bool m_changesBase = false;
+    bool m_follows = false; // closely on the step before
+    bool m_isMade = false;  // the user has made it; the stack makes it again from then on
+};
+
+SessionHistory::SessionHistory(DialogSession *session)
+    : m_session(session), m_now(session->state()), m_base{m_now, session->destination().instance}
+{
+    m_steps.setUndoLimit(mostSteps);
+}
+
+void SessionHistory::note()
+{
+    if (m_isGoing)
+        return;
+    SessionState now = m_session->state();
+    if (m_now.differencesTo(now).isEmpty()) {
+        // A panel that has been saved repeats what was seen before.
+        if (const auto *last = m_steps.command(m_steps.index() - 1))
+            const_cast<Step *>(static_cast<const Step *>(last))->setChosen(now);
+        m_now = std::move(now);
+        if (m_nextBase)
+            m_base = {m_now, *std::exchange(m_nextBase, std::nullopt)};
+        return;
+    }
+    absorbNew(now);
+    auto *step = new Step(this, m_now, now);
+    step->setFollows(m_sinceStep.isValid() && m_sinceStep.elapsed() < oneGesture);
+    m_sinceStep.start();
+    if (m_nextBase) {
+        const Base base{now, *std::exchange(m_nextBase, std::nullopt)};
+        step->setBases(m_base, base);
+        m_base = base;
+    }
+    m_now = std::move(now);
+    m_steps.push(step);
+    Q_EMIT changed();
+}
+
+void SessionHistory::noteLater()
+{
+    if (std::exchange(m_isQueued, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isQueued = false;
+            note();
+        },
+        Qt::QueuedConnection);
+}
+
+void SessionHistory::absorb()
+{
+    m_now = m_session->state();
+    absorbNew(m_now);
+}
+
+// What a panel has read when it was first opened is what it begins with.
+void SessionHistory::absorbNew(const SessionState &now)
+{
+    for (auto it = now.panelValues.begin(); it != now.panelValues.end(); ++it) {
+        if (!m_base.state.panelValues.contains(it.key()))
+            m_base.state.panelValues.insert(it.key(), it.value());
+    }
+}
+
+void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
+{
+    const QScopedValueRollback<bool> going(m_isGoing, true);
+    m_session->bring(from, to);
+    m_base = base;
+    absorb();
+    m_sinceStep.invalidate();
+    Q_EMIT changed();
+}
+
+} // namespace host

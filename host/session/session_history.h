@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/session/session_state.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QUndoStack>
+
+#include <optional>
+
+namespace host {
+
+class DialogSession;
+
+// What the user has changed in a session, step by step, to be undone and redone. A step is whatever differs
+// between two looks at the session, so it takes along what panels did about it and settings that nobody names
+// here. Changes of the same settings that follow each other closely, as while typing, are one step. The
+// session is borrowed and outlives the history.
+class SessionHistory : public QObject
+{
+    Q_OBJECT
+public:
+    explicit SessionHistory(DialogSession *session);
+
+    // The user may have changed something: what differs from the last look becomes a step.
+    void note();
+    // The same once control returns to the event loop, however often it is called until then.
+    void noteLater();
+    // What comes next is a step of its own, however soon it comes.
+    void endGesture() { m_sinceStep.invalidate(); }
+    // What differs from the last look is nobody's wish, such as what a panel has read: no step.
+    void absorb();
+    QUndoStack *steps() { return &m_steps; }
+
+    // What changes are told by: how the session stood when it began, or when a preset was applied, and the
+    // name of that.
+    struct Base
+    {
+        SessionState state;
+        QString name;
+    };
+    const Base &base() const { return m_base; }
+    // Makes what stands at the next look the base, as part of the step that it makes.
+    void takeBase(const QString &name) { m_nextBase = name; }
+    // The base that is there has another name now.
+    void setBaseName(const QString &name) { m_base.name = name; }
+    // How it stood at the last look.
+    const SessionState &now() const { return m_now; }
+
+Q_SIGNALS:
+    // A step has been made, undone or redone.
+    void changed();
+
+private:
+    class Step;
+    void absorbNew(const SessionState &now);
+    void go(const SessionState &from, const SessionState &to, const Base &base);
+
+    DialogSession *m_session;
+    QUndoStack m_steps;
+    SessionState m_now;
+    Base m_base;
+    QElapsedTimer m_sinceStep;
+    std::optional<QString> m_nextBase;
+    bool m_isQueued = false;
+    bool m_isGoing = false;
+};
+
+} // namespace host

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/session/chosen_settings.h"
+#include "host/session/general_settings.h"
+
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace host {
+
+// Everything of a session that its user can set, as it stands at one moment: what a change is told by, and
+// what undoing it goes back to. Holds codes as well; not for logs or files. A value, of one session.
+struct SessionState
+{
+    QMap<QString, QString> marks; // by PPD option; where a panel holds another choice, that one
+    QVariantMap panelValues;      // what panels hold beside PPD options: "number of the panel/key path"
+    QVariantMap printSettings;
+    GeneralSettings general;
+    ChosenSettings chosen;
+    QSet<QString> savedKeywords;
+    QString instance; // of the destination
+    QMap<QString, QString> destinationOptions;
+
+    // The keys that have other values in another state, in a stable order: PPD options, keys of panels, and
+    // the names of general settings as a job has them.
+    QStringList differencesTo(const SessionState &other) const;
+    // Leaves out, of two states, what both have alike.
+    static void keepDifferences(SessionState *one, SessionState *other);
+};
+
+// The settings with one of them, by its name in a job, as others have it.
+GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &name,
+                                 const GeneralSettings &other);
+
+} // namespace host

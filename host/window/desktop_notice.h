@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+namespace host {
+
+// Tells somebody who looks at other windows something, in the way of their desktop, where it has one. Returns
+// at once; what speaks with the desktop is a process of its own. Texts are plain text.
+void notifyDesktop(const QString &title, const QString &text, bool isUrgent);
+
+} // namespace host

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QDialog>
+#include <QString>
+#include <QStringList>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace host {
+
+// Asks what a preset is to be called, and says at once why a name cannot be. Opened by who makes it, and
+// deletes itself when it is closed.
+class PresetDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    enum class Purpose { Save, Rename };
+
+    // `taken` are the names of the presets that are there. Codes are offered to be kept where there are any.
+    PresetDialog(Purpose purpose, const QString &name, const QStringList &taken, bool offersSecrets,
+                 QWidget *parent);
+    QString name() const;
+    bool keepsSecrets() const;
+
+private:
+    void check();
+
+    Purpose m_purpose;
+    QString m_earlierName;
+    QStringList m_taken;
+    QLineEdit *m_name;
+    QLabel *m_problem;
+    QCheckBox *m_secrets;
+    QPushButton *m_ok;
+};
+
+} // namespace host

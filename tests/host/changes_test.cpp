@@ -1,0 +1,332 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/preset_store.h"
+#include "host/window/change_mark.h"
+#include "host/window/link_label.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/preset_dialog.h"
+#include "platform/binding.h"
+#include "tests/host/window_fixture.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+// Presets, marks and undo in the window over a print system without a server, worked with keys and clicks.
+class ChangesTest : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_window.reset(); }
+    void changesAreUndoneAndRedone();
+    void resolutionIsOneStep();
+    void fieldKeepsItsOwnUndo();
+    void markTakesTheChangeBack();
+    void panelsControlsAreUndoneAndMarked();
+    void summaryShowsChangesAndLeadsToThem();
+    void presetIsSavedAppliedRenamedAndDeleted();
+    void lastUsedIsOfferedWithoutCodes();
+
+private:
+    QString marked(const QString &keyword) const { return m_window->session()->ppd()->markedChoice(keyword); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        m_window->activateWindow(); // after a dialog, there is no window manager that does it
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the window is not active");
+        QWidget *focus = m_window->focusWidget();
+        QTest::keyClick(focus ? focus : m_window.get(), key, modifiers);
+        settle();
+    }
+    void undo() { press(Qt::Key_Z, Qt::ControlModifier); }
+    void redo() { press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+    QList<ChangeMark *> marks()
+    {
+        QList<ChangeMark *> shown;
+        for (auto *mark : m_window->findChildren<ChangeMark *>()) {
+            if (mark->isVisible())
+                shown.append(mark);
+        }
+        return shown;
+    }
+    QPushButton *presets() { return find<QPushButton>(u"presets"_s); }
+    void trigger(const QString &text);
+    QStringList menuTexts();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void ChangesTest::init()
+{
+    reset();
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("HOME", m_folder->path().toLocal8Bit());
+    qputenv("CUPS_SERVERROOT", m_folder->path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", m_folder->path().toLocal8Bit() + "/state");
+}
+
+QStringList ChangesTest::menuTexts()
+{
+    Q_EMIT presets()->menu()->aboutToShow();
+    QStringList texts;
+    for (const QAction *action : presets()->menu()->actions())
+        texts.append(action->text().remove(u'&'));
+    return texts;
+}
+
+void ChangesTest::trigger(const QString &text)
+{
+    const QStringList texts = menuTexts();
+    QVERIFY2(texts.contains(text), qPrintable(texts.join(u'|')));
+    presets()->menu()->actions().at(texts.indexOf(text))->trigger();
+    settle();
+}
+
+void ChangesTest::changesAreUndoneAndRedone()
+{
+    PrintWindow &window = open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    auto *copies = find<QSpinBox>(u"copies"_s);
+    copies->setFocus();
+    QTest::keyClick(copies, Qt::Key_Up);
+    settle();
+    window.book()->showPage(window.book()->pageNamed(u"more"_s));
+    choose(u"Sharp"_s, u"1"_s);
+    QCOMPARE(window.session()->general().copies, 2);
+    undo();
+    QCOMPARE(marked(u"Sharp"_s), u"0"_s);
+    QCOMPARE(find<QComboBox>(u"Sharp"_s)->currentData().toString(), u"0"_s);
+    undo();
+    QCOMPARE(window.session()->general().copies, 1);
+    QCOMPARE(copies->value(), 1);
+    undo();
+    QCOMPARE(marked(u"Duplex"_s), u"None"_s);
+    undo(); // there is nothing more
+    for (int i = 0; i < 3; ++i)
+        redo();
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"Sharp"_s), u"DuplexNoTumble1"_s);
+    QCOMPARE(copies->value(), 2);
+    QCOMPARE(sentValue(window.session()->jobOptions(), u"Duplex"_s), u"DuplexNoTumble"_s);
+}
+
+void ChangesTest::resolutionIsOneStep()
+{
+    PrintWindow &window = open();
+    window.book()->showPage(window.book()->pageNamed(u"more"_s));
+    choose(u"Cyan"_s, u"2"_s);
+    settle();
+    choose(u"ColorType"_s, u"Mono"_s);
+    QVERIFY(window.messageBar()->isShowing());
+    window.messageBar()->buttons().first()->click(); // apply
+    QVERIFY(window.session()->conflicts().isEmpty());
+    const QString resolved = marked(u"Cyan"_s) + marked(u"ColorType"_s);
+    undo();
+    QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"2Mono"_s);
+    QVERIFY(window.messageBar()->isShowing()); // the conflict is back
+    redo();
+    QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), resolved);
+    QVERIFY(!window.messageBar()->isShowing());
+}
+
+void ChangesTest::fieldKeepsItsOwnUndo()
+{
+    PrintWindow &window = open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    auto *pages = find<QLineEdit>(u"page-ranges"_s);
+    for (auto *radio : window.findChildren<QRadioButton *>()) {
+        if (!radio->isChecked())
+            radio->click();
+    }
+    pages->setFocus();
+    QTest::keyClicks(pages, u"12"_s);
+    undo();
+    QVERIFY(pages->text() != u"12"_s);
+    QCOMPARE(marked(u"Duplex"_s), u"DuplexNoTumble"_s);
+    find<PageList>()->setFocus();
+    for (int i = 0; i < 5; ++i)
+        undo();
+    QCOMPARE(marked(u"Duplex"_s), u"None"_s);
+}
+
+void ChangesTest::markTakesTheChangeBack()
+{
+    PrintWindow &window = open();
+    QVERIFY(marks().isEmpty());
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    settle();
+    QCOMPARE(marks().size(), 1);
+    auto *box = find<QComboBox>(u"Duplex"_s);
+    QVERIFY2(box->accessibleDescription().contains(u"“Off”"_s), qPrintable(box->accessibleDescription()));
+    QVERIFY(find<PageList>()->item(0)->toolTip().contains(u"changed"_s));
+    QTest::mouseClick(marks().first(), Qt::LeftButton);
+    settle();
+    QCOMPARE(marked(u"Duplex"_s), u"None"_s);
+    QVERIFY(marks().isEmpty() && box->accessibleDescription().isEmpty());
+    QVERIFY(box->hasFocus());
+    undo();
+    QCOMPARE(marked(u"Duplex"_s), u"DuplexNoTumble"_s);
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5}, box->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(box, &asked);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().first()->text(), u"Back to “Off”"_s);
+    menu->actions().first()->trigger();
+    menu->close();
+    settle();
+    QCOMPARE(marked(u"Duplex"_s), u"None"_s);
+    QCOMPARE(window.session()->chosen().contains(u"Duplex"_s), false);
+}
+
+void ChangesTest::panelsControlsAreUndoneAndMarked()
+{
+    PrintWindow &window = open();
+    auto made =
+        std::make_unique<FakePanel>(u"Colour"_s, QStringList({u"ColorType"_s, u"Cyan"_s}), window.session());
+    FakePanel *panel = made.get();
+    panel->onSet = [panel](const QString &key, const QString &choice) {
+        if (key == u"ColorType"_s && choice == u"Mono"_s) // as the real one locks its sliders
+            panel->setValueForKey(u"0"_s, u"Cyan"_s);
+    };
+    auto *box = new QComboBox(panel->panelView());
+    box->addItems({u"00000"_s, u"12345"_s});
+    platform::Binding::bind(box, u"currentText"_s, panel, u"code"_s);
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(made));
+    window.session()->adoptPanels(std::move(panels));
+    window.showSession();
+    window.book()->showPage(1);
+    panel->setValueForKey(u"2"_s, u"Cyan"_s);
+    box->setCurrentIndex(1);
+    settle();
+    QCOMPARE(marks().size(), 1);
+    panel->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    window.session()->save();
+    window.book()->showPage(0);
+    QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"0Mono"_s);
+    undo();
+    QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"2Auto"_s);
+    QCOMPARE(panel->valueForKey(u"Cyan"_s).toString(), u"2"_s);
+    undo();
+    QCOMPARE(panel->code(), u"00000"_s);
+    redo();
+    redo();
+    QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s) + panel->code(), u"0Mono12345"_s);
+    QCOMPARE(panel->restored, 1); // no device is asked for it
+}
+
+void ChangesTest::summaryShowsChangesAndLeadsToThem()
+{
+    PrintWindow &window = open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    window.session()->general().copies = 3;
+    window.book()->showPage(window.book()->pageNamed(u"summary"_s));
+    QCheckBox *only = nullptr;
+    for (auto *box : window.findChildren<QCheckBox *>()) {
+        if (box->isVisible())
+            only = box;
+    }
+    QVERIFY(only);
+    QTest::mouseClick(only, Qt::LeftButton, {}, {8, only->height() / 2});
+    QStringList texts;
+    for (const auto *label : only->parentWidget()->findChildren<QLabel *>())
+        texts.append(label->text());
+    QVERIFY2(texts.contains(u"Off → Long Edge"_s) && texts.contains(u"1 → 3"_s),
+             qPrintable(texts.join(u'|')));
+    QVERIFY(!texts.contains(u"A4"_s));
+    for (auto *link : window.findChildren<LinkLabel *>()) {
+        if (link->text() == u"Two-Sided"_s)
+            QTest::mouseClick(link, Qt::LeftButton);
+    }
+    settle();
+    QVERIFY(find<QComboBox>(u"Duplex"_s)->hasFocus());
+}
+
+void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()
+{
+    PrintWindow &window = open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    trigger(u"Save As…"_s);
+    auto *dialog = find<PresetDialog>();
+    QVERIFY(dialog);
+    auto *name = dialog->findChild<QLineEdit *>();
+    QTest::keyClicks(name, u"two sided"_s);
+    auto *ok = dialog->findChild<QPushButton *>();
+    QVERIFY(!ok->isEnabled() || ok->text().contains(u"Cancel"_s));
+    name->clear();
+    QTest::keyClicks(name, u"both"_s);
+    QTest::keyClick(name, Qt::Key_Return);
+    settle();
+    QVERIFY2(presets()->text().contains(u"both"_s), qPrintable(presets()->text()));
+    QVERIFY(marks().isEmpty()); // what is saved is what changes are told by
+    PrintError error;
+    QCOMPARE(PresetStore().list(u"office"_s, &error)->value(0).options.value(u"Duplex"_s),
+             u"DuplexNoTumble"_s);
+    choose(u"PageSize"_s, u"A3"_s);
+    settle();
+    QVERIFY2(presets()->text().contains(u"both (changed)"_s), qPrintable(presets()->text()));
+    trigger(u"Printer’s Defaults"_s);
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"PageSize"_s), u"NoneA4"_s);
+    trigger(u"both"_s);
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"PageSize"_s), u"DuplexNoTumbleA4"_s);
+    QCOMPARE(sentValue(window.session()->jobOptions(), u"Duplex"_s), u"DuplexNoTumble"_s);
+    undo();
+    undo();
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"PageSize"_s), u"DuplexNoTumbleA3"_s);
+    QVERIFY(presets()->text().contains(u"both (changed)"_s));
+    trigger(u"Rename “both”…"_s);
+    name = find<PresetDialog>()->findChild<QLineEdit *>();
+    name->setText(u"duplex"_s);
+    QTest::keyClick(name, Qt::Key_Return);
+    settle();
+    QVERIFY(menuTexts().contains(u"duplex"_s) && !menuTexts().contains(u"both"_s));
+    trigger(u"Delete “duplex”…"_s);
+    auto *question = find<QMessageBox>();
+    for (auto *button : question->buttons()) {
+        if (question->buttonRole(button) == QMessageBox::AcceptRole)
+            button->click();
+    }
+    settle();
+    QVERIFY(!menuTexts().contains(u"duplex"_s));
+    QVERIFY(PresetStore().list(u"office"_s, &error)->isEmpty());
+    trigger(u"Use as My Default for This Printer"_s);
+    QCOMPARE(PresetStore().list(u"office"_s, &error)->value(0).options.value(u"PageSize"_s), u"A3"_s);
+    QVERIFY(menuTexts().contains(u"My Defaults"_s));
+}
+
+void ChangesTest::lastUsedIsOfferedWithoutCodes()
+{
+    open();
+    Protection protection;
+    protection.secrets.append({u"code"_s, {u"Sharp"_s}, u"Duplex"_s, u"DuplexNoTumble"_s});
+    m_window->session()->setProtection(protection);
+    QVERIFY(!menuTexts().contains(u"Last Used"_s));
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    m_window->session()->markChoice(u"Sharp"_s, u"1"_s); // stands for a code
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    QFile kept(m_folder->filePath(u"state/kelmar-print/last-used"_s));
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), "Dest office Duplex=DuplexNoTumble\n");
+    QCOMPARE(kept.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    open();
+    trigger(u"Last Used"_s);
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"Sharp"_s), u"DuplexNoTumble0"_s);
+}
+
+QTEST_MAIN(ChangesTest)
+#include "changes_test.moc"
