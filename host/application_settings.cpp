@@ -6,7 +6,6 @@
 #include "host/printing/option_text.h"
 #include "host/session/page_ranges.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -14,11 +13,6 @@
 namespace host {
 
 namespace {
-
-struct ApplicationText
-{
-    Q_DECLARE_TR_FUNCTIONS(ApplicationText)
-};
 
 const QString pageSize = QStringLiteral("PageSize");
 
@@ -51,34 +45,6 @@ void mark(const QString &name, const QString &value, DialogSession *session)
         session->markChoice(it.key(), it.value());
 }
 
-QString noticeAbout(const NamedValues &jobOptions)
-{
-    QStringList parts;
-    for (const auto &[name, value] : jobOptions) {
-        if (name == QLatin1String("number-up") && value != QLatin1String("1"))
-            parts.append(ApplicationText::tr("%1 pages on each side").arg(value));
-        else if (name == QLatin1String("outputorder") && value == QLatin1String("reverse"))
-            parts.append(ApplicationText::tr("last page first"));
-    }
-    return parts.isEmpty()
-               ? QString()
-               : ApplicationText::tr("The application asks for: %1.").arg(parts.join(QStringLiteral(", ")));
-}
-
-// What the print server does to the pages whatever the printer is.
-bool isForServer(const QString &name)
-{
-    static const QStringList names = {
-        QStringLiteral("number-up"),     QStringLiteral("number-up-layout"),
-        QStringLiteral("page-border"),   QStringLiteral("outputorder"),
-        QStringLiteral("page-set"),      QStringLiteral("orientation-requested"),
-        QStringLiteral("landscape"),     QStringLiteral("fit-to-page"),
-        QStringLiteral("print-scaling"), QStringLiteral("mirror"),
-        QStringLiteral("page-left"),     QStringLiteral("page-right"),
-        QStringLiteral("page-top"),      QStringLiteral("page-bottom")};
-    return names.contains(name);
-}
-
 } // namespace
 
 StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
@@ -92,7 +58,7 @@ StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
             start.collate = switchValue(value).value_or(true);
         else if (name == QLatin1String("page-ranges"))
             start.pages = value;
-        else if (isForServer(name))
+        else if (isPageOption(name))
             start.jobOptions.append({name, value});
         else
             start.choices.append({name, value});
@@ -106,12 +72,14 @@ void beginWith(const StartingSettings &start, DialogSession *session)
     general.copies = start.copies;
     general.collate = start.collate.value_or(general.collate);
     general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
+    if (start.currentPage && general.offersCurrentPage)
+        general.part = GeneralSettings::Part::CurrentPage;
+    if (start.selection && general.offersSelection)
+        general.part = GeneralSettings::Part::Selection;
     if (session->ppd()) {
         for (const auto &[name, value] : start.choices)
             mark(name, value, session);
     }
-    if (const QString notice = noticeAbout(start.jobOptions); !notice.isEmpty())
-        session->addNotice(notice);
 }
 
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats)
@@ -121,6 +89,8 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
                              session.general().pages,
                              {},
                              formats.isEmpty() || formats.contains(pdf) ? pdf : formats.first()};
+    choice.currentPage = session.general().part == GeneralSettings::Part::CurrentPage;
+    choice.selection = session.general().part == GeneralSettings::Part::Selection;
     const PpdDocument *ppd = session.ppd();
     const QStringList general = ppd ? generalOptionKeywords(*ppd) : QStringList();
     for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {

@@ -222,7 +222,11 @@ PrintTask RequestRun::task(const StartingSettings &start)
     task.documentName = task.title;
     task.settingsOnly = kind() == QLatin1String("choose");
     task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
-    task.begin = [start](DialogSession *session) {
+    const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
+    task.begin = [start, abilities, isAnswered = task.settingsOnly](DialogSession *session) {
+        GeneralSettings &general = session->general();
+        general.offersCurrentPage = isAnswered && abilities.value(QLatin1String("currentPage")).toBool();
+        general.offersSelection = isAnswered && abilities.value(QLatin1String("selection")).toBool();
         beginWith(start, session);
         PrintError ignored;
         for (const auto &[name, value] : start.jobOptions)

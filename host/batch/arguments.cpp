@@ -53,6 +53,8 @@ QList<OptionText> optionTexts()
         {names({"o"}), ArgumentsText::tr("NAME=VALUE"),
          ArgumentsText::tr("The same; names unknown here are handed to the print system.")},
         {names({"batch"}), {}, ArgumentsText::tr("Print without opening a window.")},
+        {names({"output"}), ArgumentsText::tr("FILE"),
+         ArgumentsText::tr("With --batch: write the pages into this PDF file instead of printing them.")},
         {names({"resolve"}),
          {},
          ArgumentsText::tr("Accept the proposal when settings cannot be used together.")},
@@ -158,7 +160,8 @@ QString problemOf(const Arguments &arguments)
     if (!arguments.colorScheme.isEmpty() && arguments.colorScheme != QLatin1String("light") &&
         arguments.colorScheme != QLatin1String("dark"))
         return ArgumentsText::tr("--color-scheme takes light or dark.");
-    if (arguments.batch && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
+    if (arguments.batch && arguments.output.isEmpty() && arguments.printer.isEmpty() &&
+        !arguments.ppdFile.isEmpty())
         return ArgumentsText::tr("--batch needs a printer to print to; --ppd alone names none.");
     const bool readsDocument =
         arguments.files.contains(QLatin1String("-")) || (arguments.batch && arguments.files.isEmpty());
@@ -166,6 +169,8 @@ QString problemOf(const Arguments &arguments)
         return ArgumentsText::tr("The standard input cannot be a value and a document at once.");
     if (arguments.batch && !arguments.screenshot.isEmpty())
         return ArgumentsText::tr("--batch and --screenshot do not go together.");
+    if (!arguments.output.isEmpty() && !arguments.batch)
+        return ArgumentsText::tr("--output goes with --batch.");
     if (arguments.asksForPresets() && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
         return ArgumentsText::tr("Presets belong to a printer; --ppd alone names none.");
     if (arguments.resolve && arguments.needsWindow())
@@ -241,6 +246,7 @@ std::optional<Arguments> parseArguments(const QStringList &words, QString *error
     arguments.ppdFile = value("ppd");
     arguments.title = value("title");
     arguments.screenshot = value("screenshot");
+    arguments.output = value("output");
     arguments.panel = value("panel");
     arguments.colorScheme = value("color-scheme");
     arguments.bundles = parser.values(QStringLiteral("bundle"));

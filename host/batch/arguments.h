@@ -52,6 +52,7 @@ struct Arguments
     QString ppdFile;
     QString title;
     QString screenshot;
+    QString output; // a PDF file to write instead of printing
     QString panel;
     QString colorScheme; // "light", "dark" or empty for the desktop's
     QStringList bundles;

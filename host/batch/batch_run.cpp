@@ -3,13 +3,16 @@
 
 #include "host/batch/batch_run.h"
 
+#include "host/preview/pdf_writer.h"
 #include "host/printing/opened_printer.h"
 #include "host/printing/preset_store.h"
 #include "host/session/chosen_settings.h"
 #include "host/session/preset_settings.h"
+#include "host/session/printed_pages.h"
 #include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 
 namespace host {
 
@@ -58,7 +61,7 @@ BatchRun::~BatchRun() = default;
 
 int BatchRun::run(ResultWriter *writer)
 {
-    if (m_arguments.batch)
+    if (m_arguments.batch && m_arguments.output.isEmpty())
         m_result.submission.emplace();
     // Before anything is sent: what cannot be told must not be done.
     if (m_arguments.json && !writer->begin())
@@ -67,7 +70,7 @@ int BatchRun::run(ResultWriter *writer)
     if (code == ExitSuccess && m_arguments.batch) {
         if (!m_arguments.json && !writer->writeSettings(m_result))
             return ExitFailure;
-        code = submit();
+        code = m_arguments.output.isEmpty() ? submit() : writePdf();
     }
     if (m_session)
         m_result.notices = m_session->takeNotices() + m_result.notices;
@@ -221,6 +224,25 @@ ExitCode BatchRun::submit()
         break;
     }
     return ExitFailure;
+}
+
+ExitCode BatchRun::writePdf()
+{
+    PdfWriter writer(PageTools::installed());
+    QEventLoop untilWritten;
+    bool isEnded = false;
+    QObject::connect(&writer, &PdfWriter::ended, &untilWritten, [&](const PrintError &error) {
+        m_result.error = error;
+        isEnded = true;
+        untilWritten.quit();
+    });
+    writer.write(m_documents.documents(), pageSettings(*m_session), m_arguments.output);
+    if (!isEnded)
+        untilWritten.exec();
+    if (m_result.error)
+        return ExitFailure;
+    m_result.output = m_arguments.output;
+    return ExitSuccess;
 }
 
 ExitCode BatchRun::fail(const PrintError &error)

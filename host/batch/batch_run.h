@@ -39,6 +39,7 @@ private:
     bool changePresets(PrintError *error);
     bool savePreset(const QString &name, PrintError *error);
     ExitCode submit();
+    ExitCode writePdf();
     ExitCode fail(const PrintError &error);
     int told(ResultWriter *writer, ExitCode code);
 

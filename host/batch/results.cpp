@@ -3,6 +3,8 @@
 
 #include "host/batch/results.h"
 
+#include "host/printing/file_name.h"
+
 #include <QCoreApplication>
 #include <QFileDevice>
 #include <QJsonArray>
@@ -120,6 +122,8 @@ QJsonObject toJson(const BatchResult &result)
     QJsonObject object;
     if (!result.printer.isEmpty())
         object[QStringLiteral("printer")] = result.printer;
+    if (!result.output.isEmpty())
+        object[QStringLiteral("output")] = readableFileName(result.output);
     if (result.hasSummary)
         object[QStringLiteral("summary")] = toJson(result.summary);
     if (result.hasOptions) {
@@ -215,6 +219,8 @@ void ResultWriter::writeText(const BatchResult &result)
         writeSettings(result);
     if (result.submission && result.submission->isAccepted())
         writeJob(result);
+    if (!result.output.isEmpty())
+        print(ResultText::tr("“%1” has been written.").arg(readableFileName(result.output)));
     writeConflicts(result);
     if (result.error)
         complain(result.error.message);

@@ -32,6 +32,7 @@ struct BatchResult
     std::optional<Submission> submission; // when something was to be printed
     QString queue;
     QStringList documents;        // of the job, by name
+    QString output;               // the PDF file that was written
     QList<OptionChoice> resolved; // changes made to end conflicts
     QStringList notices;
     PrintError error;

@@ -89,6 +89,9 @@ NamedValues serverOptions(const QJsonObject &settings)
     }
     if (textOf(settings, "reverse") == QLatin1String("true"))
         options.append({QStringLiteral("outputorder"), QStringLiteral("reverse")});
+    static const QStringList sets = {QStringLiteral("odd"), QStringLiteral("even")};
+    if (const QString set = textOf(settings, "page-set"); sets.contains(set))
+        options.append({QStringLiteral("page-set"), set});
     return options;
 }
 
@@ -118,6 +121,10 @@ QJsonObject applicationAbilities(const QVariantMap &options)
         options.value(QStringLiteral("supported_output_file_formats")).toStringList().mid(0, 100);
     if (!formats.isEmpty())
         abilities.insert(QStringLiteral("formats"), QJsonArray::fromStringList(formats));
+    if (options.value(QStringLiteral("has_current_page")).toBool())
+        abilities.insert(QStringLiteral("currentPage"), true);
+    if (options.value(QStringLiteral("has_selected_pages")).toBool())
+        abilities.insert(QStringLiteral("selection"), true);
     return abilities;
 }
 
@@ -130,6 +137,8 @@ StartingSettings startingSettings(const QJsonObject &settings, const QJsonObject
         start.collate = collate == QLatin1String("true");
     if (textOf(settings, "print-pages") == QLatin1String("ranges"))
         start.pages = movedRanges(textOf(settings, "page-ranges"), 0, 1, 0);
+    start.currentPage = textOf(settings, "print-pages") == QLatin1String("current");
+    start.selection = textOf(settings, "print-pages") == QLatin1String("selection");
     addPaper(pageSetup, &start.choices);
     for (const NameOfBoth &name : sameValues) {
         if (const QString value = textOf(settings, name.portal); !value.isEmpty())
@@ -167,7 +176,10 @@ QJsonObject settingsForApplication(const QJsonObject &sent, const ApplicationCho
     const QString ranges = movedRanges(choice.pages, 1, 0, afterAllPages);
     settings.insert(QStringLiteral("print-pages"),
                     ranges.isEmpty() ? QStringLiteral("all") : QStringLiteral("ranges"));
-    if (!ranges.isEmpty())
+    if (choice.currentPage || choice.selection)
+        settings.insert(QStringLiteral("print-pages"),
+                        choice.currentPage ? QStringLiteral("current") : QStringLiteral("selection"));
+    else if (!ranges.isEmpty())
         settings.insert(QStringLiteral("page-ranges"), ranges);
     for (const auto &[keyword, value] : choice.choices) {
         settings.insert(optionPrefix + keyword, value);

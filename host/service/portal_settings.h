@@ -23,7 +23,8 @@ using NamedValues = QList<std::pair<QString, QString>>;
 // out.
 QJsonObject plainValues(const QVariantMap &map);
 
-// What newer applications can do, among the options of a call: "formats" (a list).
+// What newer applications can do, among the options of a call: "formats" (a list), "currentPage" and
+// "selection" (that they can print these alone).
 QJsonObject applicationAbilities(const QVariantMap &options);
 
 // Where the dialog begins.
@@ -32,6 +33,8 @@ struct StartingSettings
     QString printer; // empty for no wish
     int copies = 1;
     std::optional<bool> collate;
+    bool currentPage = false; // alone, where the application knows which it is
+    bool selection = false;
     QString pages;          // as a user types them, counted from 1; empty for all
     NamedValues choices;    // PPD keyword, or standard name such as "media", and choice; later ones win
     NamedValues jobOptions; // for the print server, which does it in the application's place
@@ -45,6 +48,8 @@ struct ApplicationChoice
     QString pages;       // counted from 1; empty for all
     NamedValues choices; // PPD keyword and choice
     QString format;      // of the document that is to be made: "pdf" or "ps"
+    bool currentPage = false;
+    bool selection = false;
 };
 // The application's settings, with what was decided in place of what it sent, and without what the print
 // server does: copies, collating, order, pages on a sheet, scale.

@@ -27,6 +27,8 @@ void carryGeneral(const DialogSession &from, DialogSession *to)
         general.collate = chosen.collate;
     if (chosen.pages != start.pages)
         general.pages = chosen.pages;
+    general.layout.takeChanges(start.layout, chosen.layout);
+    general.takePart(chosen);
 }
 
 } // namespace

@@ -105,9 +105,9 @@ bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *er
         session->general().collate = !setting.value.contains(QLatin1String("uncollated"));
         return true;
     }
-    const bool isJobOption =
-        setting.kind == ChosenSetting::Kind::JobOption &&
-        (setting.key == QLatin1String("multiple-document-handling") || !keys.knows(setting.key));
+    const bool isJobOption = setting.kind == ChosenSetting::Kind::JobOption &&
+                             (setting.key == QLatin1String("multiple-document-handling") ||
+                              !keys.knows(setting.key) || !keys.takes(setting.key, setting.value));
     if (!isJobOption)
         return keys.set(setting.key, setting.value, error, setting.isSecret);
     const bool standsForOptions = session->ppd() && session->ppd()->takesOption(setting.key);

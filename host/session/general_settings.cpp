@@ -24,6 +24,7 @@ GeneralSettings GeneralSettings::from(const QMap<QString, QString> &options)
     const QString handling = options.value(QStringLiteral("multiple-document-handling"));
     if (!handling.isEmpty())
         settings.collate = !handling.contains(QLatin1String("uncollated"));
+    settings.layout = PageLayoutSettings::from(options);
     return settings;
 }
 
@@ -41,6 +42,13 @@ QList<JobOption> GeneralSettings::jobOptions() const
     if (!pages.isEmpty())
         options.append({QStringLiteral("page-ranges"), pages, Kind::Attribute});
     return options;
+}
+
+void GeneralSettings::takePart(const GeneralSettings &other)
+{
+    part = other.part;
+    offersCurrentPage = other.offersCurrentPage;
+    offersSelection = other.offersSelection;
 }
 
 QString GeneralSettings::handling(bool collate)

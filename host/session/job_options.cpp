@@ -143,6 +143,8 @@ QList<JobOption> jobOptions(const JobOptionSources &sources)
     for (auto it = sources.printSettings.begin(); it != sources.printSettings.end(); ++it)
         options.add(JobOption{it.key(), it.value().toString()});
     options.add(sources.general.jobOptions());
+    options.add(sources.general.layout.jobOptions(PageLayoutSettings::from(sources.destination.options),
+                                                  sources.destination.options));
     options.add(defaults(sources));
     options.add(marks(sources, Kind::Shown));
     if (sources.ppd && sources.ppd->takesOption(QStringLiteral("sides")))

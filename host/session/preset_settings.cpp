@@ -44,7 +44,7 @@ bool isKept(const DialogSession &session, const JobOption &option)
 
 bool isKnown(const DialogSession &session, const QString &name)
 {
-    return GeneralSettings::covers(name) || isPanelSetting(name) ||
+    return GeneralSettings::covers(name) || PageLayoutSettings::covers(name) || isPanelSetting(name) ||
            (session.ppd() && (session.ppd()->hasOption(name) || session.ppd()->takesOption(name)));
 }
 
@@ -68,6 +68,12 @@ QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &o
         }
     }
     return marks;
+}
+
+// What the page layout has taken; other values are sent as they stand.
+bool isLayout(const DialogSession &session, const QString &name, const QString &value)
+{
+    return !(session.ppd() && session.ppd()->hasOption(name)) && PageLayoutSettings().set(name, value);
 }
 
 bool isTaken(const DialogSession &session, const QString &name, const QString &value)
@@ -100,6 +106,9 @@ QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QS
         if (!isKnown(session, it.key()) && !isSecretSetting(session, it.key()))
             options.insert(it.key(), it.value());
     }
+    // Whatever the destination has them from: that is not there with another preset.
+    for (const JobOption &option : session.general().layout.jobOptions({}, {}))
+        options.insert(option.name, option.value);
     for (const JobOption &option : session.jobOptions()) {
         if (isKept(session, option) && (withSecrets || !isSecretSetting(session, option.name)))
             options.insert(option.name, option.value);
@@ -136,13 +145,14 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
     wanted.destinationOptions = queueOptions;
     wanted.general = GeneralSettings::from(all);
     wanted.general.pages = now.general.pages;
+    wanted.general.takePart(now.general);
     for (auto it = all.begin(); it != all.end(); ++it) {
         const bool isUsers = preset.contains(it.key()) || locked.contains(it.key());
         if (isPanelSetting(it.key()))
             wanted.printSettings.insert(it.key(), it.value());
         else if (isUsers && !isTaken(*session, it.key(), it.value()))
             missed.append(session->ppd()->option(it.key())->text);
-        else if (isUsers && !GeneralSettings::covers(it.key()))
+        else if (isUsers && !GeneralSettings::covers(it.key()) && !isLayout(*session, it.key(), it.value()))
             wanted.chosen.add(chosenFrom(*session, it.key(), it.value()));
     }
     session->bring(now, wanted);

@@ -34,9 +34,9 @@ void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &aft
                        QList<SettingChange> *changes)
 {
     QList<SettingChange> all;
-    for (const auto &[name, value] : generalEntries(after))
+    for (const auto &[name, value] : generalEntries(after, true))
         all.append({keyOfGeneralEntry(name), name, {}, value});
-    for (const auto &[name, value] : generalEntries(before)) {
+    for (const auto &[name, value] : generalEntries(before, true)) {
         const auto known = std::find_if(all.begin(), all.end(),
                                         [name = name](const SettingChange &c) { return c.name == name; });
         if (known == all.end())

@@ -54,6 +54,7 @@ QMap<QString, QString> byName(const GeneralSettings &general)
     // A job has them for several copies only, and both for the same thing.
     values.remove(QStringLiteral("Collate"));
     values.insert(collatingName, GeneralSettings::handling(general.collate));
+    values.insert(general.layout.values());
     return values;
 }
 
@@ -72,7 +73,9 @@ GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &
     const QMap<QString, QString> others = byName(other);
     if (others.contains(name))
         values.insert(name, others.value(name));
-    return GeneralSettings::from(values);
+    GeneralSettings result = GeneralSettings::from(values);
+    result.takePart(name == QLatin1String("page-ranges") ? other : general);
+    return result;
 }
 
 QStringList SessionState::differencesTo(const SessionState &other) const

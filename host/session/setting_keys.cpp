@@ -33,6 +33,8 @@ bool SettingKeys::set(const QString &key, const QString &value, PrintError *erro
     m_valueIsSecret = valueIsSecret || m_session->isSecret(key);
     if (GeneralSettings::covers(key) && key != QLatin1String("multiple-document-handling"))
         return setGeneral(key, value, error);
+    if (isLayout(key))
+        return setLayout(key, value, error);
     const int panel = m_session->panelOfSetting(key);
     if (m_session->ppd() && m_session->ppd()->hasOption(key))
         return setOption(key, value, error);
@@ -44,8 +46,8 @@ bool SettingKeys::set(const QString &key, const QString &value, PrintError *erro
 
 bool SettingKeys::knows(const QString &key) const
 {
-    return GeneralSettings::covers(key) || (m_session->ppd() && m_session->ppd()->hasOption(key)) ||
-           m_session->panelOfSetting(key) >= 0;
+    return GeneralSettings::covers(key) || isLayout(key) ||
+           (m_session->ppd() && m_session->ppd()->hasOption(key)) || m_session->panelOfSetting(key) >= 0;
 }
 
 bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintError *error)
@@ -80,6 +82,25 @@ bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintErro
     }
     general.collate = *collate;
     return true;
+}
+
+// A PPD may have an option of the same name, which then is meant.
+bool SettingKeys::isLayout(const QString &key) const
+{
+    return PageLayoutSettings::covers(key) && !(m_session->ppd() && m_session->ppd()->hasOption(key));
+}
+
+bool SettingKeys::takes(const QString &key, const QString &value) const
+{
+    return !isLayout(key) || PageLayoutSettings().set(key, value);
+}
+
+bool SettingKeys::setLayout(const QString &key, const QString &value, PrintError *error)
+{
+    if (m_session->general().layout.set(key, value))
+        return true;
+    *error = badValue(SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key)));
+    return false;
 }
 
 PrintError SettingKeys::noSuchChoice(const PpdOption &option, const QString &choice) const
@@ -165,7 +186,14 @@ QList<std::pair<QString, QString>> SettingKeys::panelKeys() const
     const QString general = QStringLiteral("general");
     QList<std::pair<QString, QString>> keys = {{general, QStringLiteral("copies")},
                                                {general, QStringLiteral("collate")},
-                                               {general, QStringLiteral("page-ranges")}};
+                                               {general, QStringLiteral("page-ranges")},
+                                               {general, QStringLiteral("number-up")},
+                                               {general, QStringLiteral("number-up-layout")},
+                                               {general, QStringLiteral("page-border")},
+                                               {general, QStringLiteral("orientation-requested")},
+                                               {general, QStringLiteral("page-set")},
+                                               {general, QStringLiteral("outputorder")},
+                                               {general, QStringLiteral("print-scaling")}};
     for (int i = 0; i < m_session->panelCount(); ++i) {
         for (const QString &key : m_session->settableKeysOf(i))
             keys.append({m_session->panel(i)->panelKind(), key});

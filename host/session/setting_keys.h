@@ -12,8 +12,9 @@
 namespace host {
 
 // Sets values by name, as a person at a control would: a PPD option keyword, a key or key path that a panel
-// answers, or one of the general settings "copies", "collate" and "page-ranges". A panel that answers is
-// restored first, set through its key-value object, and saved. Lives for one round of settings.
+// answers, or one of the general settings "copies", "collate", "page-ranges" and those of the page layout. A
+// panel that answers is restored first, set through its key-value object, and saved. Lives for one round of
+// settings.
 class SettingKeys
 {
 public:
@@ -25,11 +26,15 @@ public:
     bool set(const QString &key, const QString &value, PrintError *error, bool valueIsSecret = false);
     // Whether set() has something to set under this key, whatever the value.
     bool knows(const QString &key) const;
+    // False for a value that the print system may understand and the page layout does not.
+    bool takes(const QString &key, const QString &value) const;
     // The keys that can be set beside PPD options, as "panel kind" and "key"; "general" stands for the
     // settings that every printer has.
     QList<std::pair<QString, QString>> panelKeys() const;
 
 private:
+    bool isLayout(const QString &key) const;
+    bool setLayout(const QString &key, const QString &value, PrintError *error);
     bool setGeneral(const QString &key, const QString &value, PrintError *error);
     bool setOption(const QString &keyword, const QString &value, PrintError *error);
     bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);

@@ -19,15 +19,20 @@ struct SummaryText
 
 } // namespace
 
-QList<SummaryEntry> generalEntries(const GeneralSettings &general)
+QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual)
 {
     QList<SummaryEntry> entries;
     entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
     if (general.copies > 1)
         entries.append(
             {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
-    entries.append(
-        {SummaryText::tr("Pages"), general.pages.isEmpty() ? SummaryText::tr("All") : general.pages});
+    QString pages = general.pages.isEmpty() ? SummaryText::tr("All") : general.pages;
+    if (general.part != GeneralSettings::Part::Pages)
+        pages = general.part == GeneralSettings::Part::CurrentPage ? SummaryText::tr("Current page")
+                                                                   : SummaryText::tr("Selection");
+    entries.append({SummaryText::tr("Pages"), pages});
+    for (const PageLayoutSettings::Words &words : general.layout.inWords(withUsual))
+        entries.append({words.name, words.value});
     return entries;
 }
 
@@ -37,14 +42,20 @@ QString keyOfGeneralEntry(const QString &name)
         return QStringLiteral("copies");
     if (name == SummaryText::tr("Collate"))
         return QStringLiteral("multiple-document-handling");
-    return name == SummaryText::tr("Pages") ? QStringLiteral("page-ranges") : QString();
+    if (name == SummaryText::tr("Pages"))
+        return QStringLiteral("page-ranges");
+    for (const PageLayoutSettings::Words &words : PageLayoutSettings().inWords(true)) {
+        if (name == words.name)
+            return words.key;
+    }
+    return {};
 }
 
 SummarySection generalSummary(const DialogSession &session)
 {
     SummarySection section{SummaryText::tr("General"), {}};
     section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
-    section.entries += generalEntries(session.general());
+    section.entries += generalEntries(session.general(), false);
     if (!session.ppd())
         return section;
     for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {

@@ -26,7 +26,7 @@ struct SummarySection
 // What every printer can be asked, and the options of the PPD that no panel shows.
 SummarySection generalSummary(const DialogSession &session);
 // Of these, what is no option of the PPD.
-QList<SummaryEntry> generalEntries(const GeneralSettings &general);
+QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual);
 // The print system's name for one of them, by its name here; empty for a setting that has none.
 QString keyOfGeneralEntry(const QString &name);
 

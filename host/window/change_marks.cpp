@@ -108,7 +108,8 @@ void ChangeMarks::findControls()
                     keys += keysOfControl(*m_session, m_panel, binding->observedKeyPath());
             }
         } else if (const QString name = widget->objectName();
-                   GeneralSettings::covers(name) || (m_session->ppd() && m_session->ppd()->hasOption(name))) {
+                   GeneralSettings::covers(name) || PageLayoutSettings::covers(name) ||
+                   (m_session->ppd() && m_session->ppd()->hasOption(name))) {
             keys.append(name);
         }
         add(widget, keys);

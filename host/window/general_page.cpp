@@ -4,9 +4,12 @@
 #include "host/window/general_page.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
 #include "host/window/contrast.h"
+#include "host/window/document_box.h"
 #include "host/window/explanations.h"
+#include "host/window/layout_form.h"
 #include "host/window/option_form.h"
 
 #include <QCheckBox>
@@ -15,16 +18,17 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 
 namespace host {
 
-GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_copies(new QSpinBox(this)),
+GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWidget *parent)
+    : QWidget(parent), m_session(session), m_documents(documents), m_copies(new QSpinBox(this)),
       m_collate(new QCheckBox(tr("C&ollate"), this)), m_allPages(new QRadioButton(tr("&All"), this)),
       m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
-      m_problem(new QLabel(this))
+      m_problem(new QLabel(this)), m_sides(new QLabel(this))
 {
     // By the names that a job has for them.
     m_copies->setObjectName(QStringLiteral("copies"));
@@ -35,6 +39,8 @@ GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(10);
     grid->setColumnStretch(2, 1);
+    grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this)); // nothing moves when it is made
+    addDocuments(grid);
     addCopies(grid);
     addPages(grid);
     if (session->ppd()) {
@@ -43,6 +49,53 @@ GeneralPage::GeneralPage(DialogSession *session, QWidget *parent)
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+    showSides();
+}
+
+// What is further down is made when the page can be seen already.
+void GeneralPage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_isPainted, true))
+        QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
+}
+
+void GeneralPage::addLayout()
+{
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    grid->setRowStretch(grid->rowCount() - 1, 0);
+    m_layout = new LayoutForm(m_session, grid, this);
+    connect(m_layout, &LayoutForm::changed, this, [this] {
+        pagesEdited();
+        Q_EMIT pagesChanged();
+    });
+    addSavePdf(grid);
+    grid->setRowStretch(grid->rowCount(), 1);
+    // Its controls are shown by events that are queued already.
+    QMetaObject::invokeMethod(this, &GeneralPage::grown, Qt::QueuedConnection);
+}
+
+void GeneralPage::addDocuments(QGridLayout *grid)
+{
+    if (!m_documents || m_documents->paths().size() < 2)
+        return;
+    m_documentBox = new DocumentBox(m_documents, this);
+    auto *label = new QLabel(tr("Documents:"), this);
+    label->setBuddy(m_documentBox);
+    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_documentBox, 0, 1);
+}
+
+void GeneralPage::addSavePdf(QGridLayout *grid)
+{
+    if (!m_documents || m_documents->paths().isEmpty())
+        return;
+    auto *button = new QPushButton(tr("Save as PDF…"), this);
+    button->setAutoDefault(false);
+    button->setToolTip(tr("Write the pages into a file instead of printing them"));
+    grid->addWidget(button, grid->rowCount(), 1, Qt::AlignLeading);
+    connect(button, &QPushButton::clicked, this, &GeneralPage::savePdfWanted);
 }
 
 void GeneralPage::addCopies(QGridLayout *grid)
@@ -70,8 +123,8 @@ void GeneralPage::addCopies(QGridLayout *grid)
     row->addWidget(m_copies);
     row->addWidget(m_collate);
     row->addStretch(1);
-    grid->addWidget(label, 0, 0);
-    grid->addLayout(row, 0, 1);
+    grid->addWidget(label, 1, 0);
+    grid->addLayout(row, 1, 1);
 }
 
 void GeneralPage::enableCollate()
@@ -110,10 +163,44 @@ void GeneralPage::addPages(QGridLayout *grid)
     range->setSpacing(8);
     range->addWidget(m_somePages);
     range->addWidget(m_pages, 1);
-    grid->addWidget(label, 1, 0);
-    grid->addWidget(m_allPages, 1, 1);
-    grid->addLayout(range, 2, 1);
-    grid->addWidget(m_problem, 3, 1);
+    grid->addWidget(label, 2, 0);
+    grid->addWidget(m_allPages, 2, 1);
+    const GeneralSettings &general = m_session->general();
+    if (general.offersCurrentPage)
+        grid->addWidget(addPart(GeneralSettings::Part::CurrentPage, tr("Current page")), 3, 1);
+    if (general.offersSelection)
+        grid->addWidget(addPart(GeneralSettings::Part::Selection, tr("Selection")), 4, 1);
+    grid->addLayout(range, 5, 1);
+    m_sides->setWordWrap(true);
+    grid->addWidget(m_sides, 6, 1);
+    grid->addWidget(m_problem, 7, 1);
+}
+
+QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &text)
+{
+    auto *button = new QRadioButton(text, this);
+    button->setChecked(m_session->general().part == part);
+    m_parts.append({part, button});
+    connect(button, &QRadioButton::toggled, this, [this, part](bool on) {
+        m_session->general().part = on ? part : GeneralSettings::Part::Pages;
+        pagesEdited();
+    });
+    return button;
+}
+
+// The print system counts the sides that come out where several pages are put on one.
+void GeneralPage::showSides()
+{
+    const int pages = m_session->general().layout.pagesPerSide;
+    m_sides->setText(tr("The numbers count printed sides, each with %1 pages.").arg(pages));
+    m_sides->setVisible(pages > 1 && m_somePages->isChecked());
+}
+
+void GeneralPage::setPageCount(int pages)
+{
+    m_pageCount = m_documents && m_documents->paths().size() == 1 ? pages : 0;
+    if (m_somePages->isChecked())
+        pagesEdited();
 }
 
 void GeneralPage::pagesEdited()
@@ -128,27 +215,52 @@ void GeneralPage::pagesEdited()
     m_session->general().pages = m_somePages->isChecked()
                                      ? normalizedPageRanges(m_pages->text(), &ignored).value_or(QString())
                                      : QString();
+    showSides();
+    Q_EMIT pagesChanged();
 }
 
 QString GeneralPage::problem() const
 {
+    if (m_documents && !m_documents->paths().isEmpty() && m_documents->included().isEmpty())
+        return tr("Choose at least one document.");
     const QString pages = pagesProblem();
     return pages.isEmpty() && m_form ? m_form->problem() : pages;
 }
 
 QString GeneralPage::pagesProblem() const
 {
-    if (m_allPages->isChecked())
+    if (!m_somePages->isChecked())
         return {};
     if (m_pages->text().trimmed().isEmpty())
         return tr("Type which pages are to be printed, or choose all.");
     QString problem;
     (void)normalizedPageRanges(m_pages->text(), &problem);
-    return problem;
+    return problem.isEmpty() ? rangesProblem() : problem;
+}
+
+// A range that begins behind the last page prints nothing.
+QString GeneralPage::rangesProblem() const
+{
+    const int pagesPerSide = m_session->general().layout.pagesPerSide;
+    const int last = (m_pageCount + pagesPerSide - 1) / pagesPerSide;
+    QString ignored;
+    const QString ranges = normalizedPageRanges(m_pages->text(), &ignored).value_or(QString());
+    for (const QString &range : ranges.split(QLatin1Char(','))) {
+        if (m_pageCount > 0 && range.section(QLatin1Char('-'), 0, 0).toInt() > last)
+            return pagesPerSide > 1 ? tr("There are only %1 printed sides.").arg(last)
+                                    : tr("The document has only %1 pages.").arg(last);
+    }
+    return {};
 }
 
 void GeneralPage::showProblem()
 {
+    if (m_documents && !m_documents->paths().isEmpty() && m_documents->included().isEmpty()) {
+        m_problem->setText(problem());
+        m_problem->show();
+        m_documentBox->setFocus();
+        return;
+    }
     if (pagesProblem().isEmpty()) {
         m_form->showProblem();
         return;
@@ -185,6 +297,8 @@ void GeneralPage::refresh()
     showGeneral();
     if (m_form)
         m_form->refresh();
+    if (m_layout)
+        m_layout->refresh();
 }
 
 // What is being typed stays, as far as it says what is set.
@@ -193,6 +307,13 @@ void GeneralPage::showGeneral()
     const GeneralSettings general = m_session->general();
     m_copies->setValue(general.copies);
     m_collate->setChecked(general.collate);
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        const QSignalBlocker quiet(button);
+        if (general.part == part)
+            button->setChecked(true);
+        else if (button->isChecked() && general.part == GeneralSettings::Part::Pages)
+            (general.pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+    }
     const QString typed = m_somePages->isChecked()
                               ? normalizedPageRanges(m_pages->text(), nullptr).value_or(QString())
                               : QString();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/session/general_settings.h"
+
 #include <QString>
 #include <QWidget>
 
@@ -16,29 +18,48 @@ class QSpinBox;
 namespace host {
 
 class DialogSession;
+class DocumentBox;
+class DocumentChoice;
+class LayoutForm;
 class OptionForm;
 
 // What every printer can be asked: copies, pages, and of paper, tray and two-sided printing what its PPD has.
-// Writes to the session at once; the session is borrowed and outlives the page.
+// Writes to the session and the choice of documents at once; both are borrowed and outlive the page.
 class GeneralPage : public QWidget
 {
     Q_OBJECT
 public:
-    explicit GeneralPage(DialogSession *session, QWidget *parent = nullptr);
+    // `documents` may be null: nothing is printed from here.
+    explicit GeneralPage(DialogSession *session, DocumentChoice *documents = nullptr,
+                         QWidget *parent = nullptr);
 
     // Nil string when everything typed here makes sense.
     QString problem() const;
     // Puts the cursor where the problem is.
     void showProblem();
     void refresh();
+    // How many pages the current document has; 0 while that is not known.
+    void setPageCount(int pages);
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
+    // Which pages are printed, or how, has become another.
+    void pagesChanged();
+    void savePdfWanted();
+    // It has more controls than before.
+    void grown();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
+    void addDocuments(QGridLayout *grid);
+    void addLayout();
+    void addSavePdf(QGridLayout *grid);
+    QRadioButton *addPart(GeneralSettings::Part part, const QString &text);
+    QString rangesProblem() const;
+    void showSides();
     void addCopies(QGridLayout *grid);
     void enableCollate();
     void showGeneral();
@@ -49,13 +70,20 @@ private:
     void paintProblem();
 
     DialogSession *m_session;
+    DocumentChoice *m_documents;
+    DocumentBox *m_documentBox = nullptr; // null where there is no choice
+    int m_pageCount = 0;
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QRadioButton *m_allPages;
     QRadioButton *m_somePages;
     QLineEdit *m_pages;
     QLabel *m_problem;
+    QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // that another program offers
+    QLabel *m_sides;                                                 // what the numbers of a range count
     OptionForm *m_form = nullptr;
+    LayoutForm *m_layout = nullptr; // made after the first paint
+    bool m_isPainted = false;
 };
 
 } // namespace host

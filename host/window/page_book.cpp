@@ -3,8 +3,11 @@
 
 #include "host/window/page_book.h"
 
+#include "host/preview/page_tools.h"
 #include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
 #include "host/session/policy.h"
+#include "host/session/printed_pages.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
 #include "host/window/change_marks.h"
@@ -12,6 +15,7 @@
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
 #include "host/window/page_list.h"
+#include "host/window/preview_pane.h"
 #include "host/window/separator.h"
 #include "host/window/summary_page.h"
 
@@ -46,18 +50,27 @@ QString policyNote(const DialogSession &session, int panel)
     return fixed.isEmpty() ? QString()
                            : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
 }
+// How wide the preview is, in pixels.
+constexpr int leastPreview = 160;
+constexpr int preferredPreview = 260;
+constexpr int mostPreview = 420;
 
 } // namespace
 
 PageBook::PageBook(QWidget *parent)
-    : QWidget(parent), m_list(new PageList(this)), m_stack(new QStackedWidget(this))
+    : QWidget(parent), m_list(new PageList(this)), m_area(new QWidget(this)),
+      m_stack(new QStackedWidget(m_area))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_list);
     row->addWidget(new Separator(Qt::Vertical, this));
-    row->addWidget(m_stack, 1);
+    row->addWidget(m_area, 1);
+    auto *pages = new QHBoxLayout(m_area);
+    pages->setContentsMargins(0, 0, 0, 0);
+    pages->setSpacing(0);
+    pages->addWidget(m_stack, 1);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
 }
@@ -65,6 +78,51 @@ PageBook::PageBook(QWidget *parent)
 PageBook::~PageBook()
 {
     clear(); // panels own their views
+}
+
+void PageBook::setDocuments(DocumentChoice *documents)
+{
+    m_documents = documents;
+    if (documents->paths().isEmpty())
+        return;
+    m_preview = new PreviewPane(documents, m_area);
+    m_preview->hide();
+    m_area->layout()->addWidget(m_preview);
+    connect(m_preview, &PreviewPane::documentPagesChanged, this, [this] {
+        if (m_general)
+            m_general->setPageCount(m_preview->documentPages());
+    });
+}
+
+void PageBook::beginPreview()
+{
+    if (!m_preview || std::exchange(m_previewBegun, true))
+        return;
+    updatePreview();
+    m_preview->begin(PageTools::installed());
+}
+
+bool PageBook::isGeneral() const
+{
+    return m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == generalName;
+}
+
+// Beside the general page, where there is room for both.
+void PageBook::fitPreview()
+{
+    if (!m_preview)
+        return;
+    const int room = isGeneral() ? width() - wantedWidth() + preferredPreview : 0;
+    m_preview->setVisible(room >= leastPreview);
+    if (room >= leastPreview)
+        m_preview->setFixedWidth(qMin(room, mostPreview));
+    updatePreview();
+}
+
+void PageBook::updatePreview()
+{
+    if (m_session && m_previewBegun && m_preview->isVisibleTo(this))
+        m_preview->setSettings(pageSettings(*m_session), isTwoSided(*m_session));
 }
 
 void PageBook::setSession(DialogSession *session, SessionHistory *history)
@@ -97,6 +155,7 @@ void PageBook::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     fitList();
+    fitPreview();
 }
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
@@ -121,8 +180,16 @@ QWidget *PageBook::contentOf(const Page &page)
     if (page.panel >= 0)
         return m_session->panel(page.panel)->panelView();
     if (page.name == generalName) {
-        m_general = new GeneralPage(m_session);
+        m_general = new GeneralPage(m_session, m_documents);
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+        connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
+        connect(m_general, &GeneralPage::grown, this, [this] {
+            Q_EMIT shown();
+            showChanges();
+        });
+        connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
+        if (m_preview)
+            m_general->setPageCount(m_preview->documentPages());
         return m_general;
     }
     if (page.name == moreName) {
@@ -220,6 +287,7 @@ void PageBook::showPage(int row)
     page.frame->scrollToTop();
     if (wasOnPage) // it would go to whatever comes next
         m_list->setFocus();
+    fitPreview();
     Q_EMIT shown();
     showChanges();
 }
@@ -244,6 +312,7 @@ void PageBook::refresh()
         m_more->refresh();
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
         showSummary();
+    updatePreview();
 }
 
 void PageBook::showSummary()
@@ -301,12 +370,13 @@ void PageBook::turn(int steps)
 int PageBook::wantedWidth() const
 {
     const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
-    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() : 0;
+    const int preview = m_preview && isGeneral() ? preferredPreview : 0;
+    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
 }
 
 QWidget *PageBook::pages() const
 {
-    return m_stack;
+    return m_area;
 }
 
 void PageBook::followFocus(QWidget *now)

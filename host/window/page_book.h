@@ -12,11 +12,13 @@ class QStackedWidget;
 namespace host {
 
 class DialogSession;
+class DocumentChoice;
 class ChangeMarks;
 class GeneralPage;
 class MorePage;
 class PageFrame;
 class PageList;
+class PreviewPane;
 class SessionHistory;
 class SummaryPage;
 
@@ -30,6 +32,10 @@ public:
     explicit PageBook(QWidget *parent);
     ~PageBook() override;
 
+    // What is printed, for the general page and a preview beside it; borrowed. Before the first session.
+    void setDocuments(DocumentChoice *documents);
+    // Starts the preview, once the window can be seen.
+    void beginPreview();
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
@@ -73,6 +79,7 @@ Q_SIGNALS:
     void chosen();
     // The page that is shown has got more controls.
     void grown();
+    void savePdfWanted();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -93,6 +100,9 @@ private:
     bool leave();
     void followFocus(QWidget *now);
     void fitList();
+    bool isGeneral() const;
+    void fitPreview();
+    void updatePreview();
     int rowOf(const QString &key) const;
     void showSummary();
 
@@ -101,7 +111,11 @@ private:
     std::vector<Page> m_pages;
     int m_current = -1;
     PageList *m_list;
+    QWidget *m_area;
     QStackedWidget *m_stack;
+    DocumentChoice *m_documents = nullptr;
+    PreviewPane *m_preview = nullptr; // null where there is nothing to print
+    bool m_previewBegun = false;
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
     SummaryPage *m_summary = nullptr;

@@ -42,7 +42,8 @@ constexpr std::chrono::seconds betweenStates(5);
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
-    : m_system(system), m_extensions(extensions), m_task(std::move(task)), m_picker(new PrinterPicker(this)),
+    : m_system(system), m_extensions(extensions), m_task(std::move(task)),
+      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files), m_picker(new PrinterPicker(this)),
       m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
@@ -58,6 +59,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     new FocusRing(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
+    m_book->setDocuments(&m_documentChoice);
     build();
     connectAll();
     showState(State::Unavailable);
@@ -69,7 +71,7 @@ QString PrintWindow::documentNames() const
     QStringList names;
     if (!m_task.files.isEmpty() && !m_task.documentName.isEmpty())
         return tr("“%1”").arg(oneLine(m_task.documentName));
-    for (const QString &file : m_task.files) {
+    for (const QString &file : m_documentChoice.included()) {
         if (file != QLatin1String("-"))
             names.append(tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
     }
@@ -103,6 +105,7 @@ void PrintWindow::connectAll()
         sessionChanged();
         showConflicts();
     });
+    connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
     connect(m_settings, &SettingsControl::applied, this, [this] {
         sessionChanged();
@@ -319,6 +322,7 @@ void PrintWindow::finishLater()
 {
     loadPrinterList();
     checkDocuments();
+    m_book->beginPreview();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
 }

@@ -6,6 +6,7 @@
 #include "host/printing/opened_printer.h"
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
 #include "host/session/extensions.h"
 #include "platform/awaited.h"
 
@@ -31,6 +32,7 @@ class JobFollower;
 class MessageBar;
 class NetworkSearch;
 class PageBook;
+class PdfSaver;
 class PrinterPicker;
 class ResultPage;
 class SettingsControl;
@@ -136,6 +138,8 @@ private:
     void stopWaiting();
     void askState();
     void send();
+    void savePdf();
+    void pdfSaved(const PrintError &error, const QString &path);
     void sent(Submission submission);
     void showResult();
     void showJob(const JobStatus &status);
@@ -146,6 +150,8 @@ private:
     PrintSystem &m_system;
     Extensions &m_extensions;
     PrintTask m_task;
+    DocumentChoice m_documentChoice;
+    PdfSaver *m_pdfSaver = nullptr; // made when first needed
     std::unique_ptr<DialogSession> m_session;
     std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
     bool m_askingConflict = false;

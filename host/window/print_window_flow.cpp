@@ -7,11 +7,13 @@
 #include "host/printing/job_follower.h"
 #include "host/printing/network_search.h"
 #include "host/session/carry_over.h"
+#include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/pdf_saver.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
@@ -23,6 +25,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QTimer>
 
 #include <algorithm>
@@ -277,7 +280,8 @@ void PrintWindow::showIdle()
 
 void PrintWindow::print()
 {
-    if (m_submission || m_sending || !m_print->isEnabled() || m_book->isHidden())
+    if (m_submission || m_sending || (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() ||
+        m_book->isHidden())
         return;
     if (!m_book->checkTyped())
         return;
@@ -307,8 +311,8 @@ void PrintWindow::send()
     m_sending = std::make_shared<Sending>();
     m_sending->documents = m_documents;
     m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
-    auto work = [&system = m_system, sending = m_sending, files = m_task.files, name = m_task.documentName,
-                 rememberUse = m_settings->rememberUse()]() -> Submission {
+    auto work = [&system = m_system, sending = m_sending, files = m_documentChoice.included(),
+                 name = m_task.documentName, rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
         if (!sending->documents->open(files, nullptr, &failed.error))
             return failed;
@@ -339,6 +343,35 @@ void PrintWindow::send()
             m_waiting->setProgress(m_sending->sent, m_sending->total);
     });
     m_progressTimer.start(betweenProgress);
+}
+
+void PrintWindow::savePdf()
+{
+    if (m_sending || !m_book->checkTyped())
+        return;
+    m_session->save();
+    sessionChanged();
+    if (!m_pdfSaver) {
+        m_pdfSaver = new PdfSaver(this);
+        connect(m_pdfSaver, &PdfSaver::began, this, [this] { m_print->setEnabled(false); });
+        connect(m_pdfSaver, &PdfSaver::ended, this, &PrintWindow::pdfSaved);
+    }
+    const QStringList files = m_documentChoice.included();
+    const QString name = m_task.title.isEmpty() && files.first() != QLatin1String("-")
+                             ? QFileInfo(files.first()).completeBaseName()
+                             : m_task.title;
+    m_pdfSaver->save(m_documents, files, pageSettings(*m_session), name.isEmpty() ? tr("Document") : name);
+}
+
+void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
+{
+    if (m_book->isHidden()) // another printer is being opened
+        return;
+    allowPrinting();
+    if (error)
+        showError(error);
+    else
+        m_bar->showMessage(MessageBar::Kind::Success, tr("The PDF file has been written"), {path});
 }
 
 void PrintWindow::sent(Submission submission)

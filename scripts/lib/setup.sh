@@ -9,7 +9,7 @@ build_packages=(
     libcups2-dev zlib1g-dev cups-ppdc libsnmp-dev libavahi-compat-libdnssd-dev libbenchmark-dev libsystemd-dev
 )
 run_packages=(
-    cups-daemon cups-client cups-core-drivers cups-filters cups-ipp-utils poppler-utils ghostscript file libqt6gui6 qt6-qpa-plugins
+    cups-daemon cups-client cups-core-drivers cups-filters cups-ipp-utils poppler-utils qpdf ghostscript file libqt6gui6 qt6-qpa-plugins
     snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n

@@ -90,10 +90,10 @@ void ApplicationSettingsTest::whatComesBack()
                               {u"number-up"_s, u"4"_s}, {u"scale"_s, u"50"_s},     {u"page-set"_s, u"odd"_s},
                               {u"x-own"_s, u"kept"_s},  {u"odd-type"_s, 3}};
     const StartingSettings start = startingSettings(sent, {});
-    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"4"_s}, {u"outputorder"_s, u"reverse"_s}}));
+    QCOMPARE(
+        start.jobOptions,
+        (NamedValues{{u"number-up"_s, u"4"_s}, {u"outputorder"_s, u"reverse"_s}, {u"page-set"_s, u"odd"_s}}));
     beginWith(start, session.get());
-    QCOMPARE(session->takeNotices(),
-             QStringList(u"The application asks for: 4 pages on each side, last page first."_s));
     session->general().pages = u"2-3,5-"_s;
     session->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     session->markChoice(u"PageSize"_s, u"A3"_s);
@@ -105,6 +105,10 @@ void ApplicationSettingsTest::whatComesBack()
     QCOMPARE(back.value("printer"_L1).toString(), u"office"_s);
     QCOMPARE(back.value("output-file-format"_L1).toString(), u"ps"_s);
     QCOMPARE(back.value("x-own"_L1).toString(), u"kept"_s);
+    session->general().part = GeneralSettings::Part::Selection; // which the application makes
+    const QJsonObject part = settingsForApplication(sent, choiceForApplication(*session, {}));
+    QCOMPARE(part.value("print-pages"_L1).toString(), u"selection"_s);
+    QVERIFY(!part.contains("page-ranges"_L1));
     for (const char *name : {"n-copies", "collate", "reverse", "number-up", "scale", "page-set", "odd-type"})
         QVERIFY2(!back.contains(QLatin1String(name)), name);
     const QJsonObject setup = pageSetupForApplication({{u"Name"_s, u"iso_a4"_s}}, paperOf(*session));

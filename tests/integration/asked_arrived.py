@@ -10,6 +10,9 @@ what it takes is not installed.
 
 A case wants NAME=VALUE of these:
   pages, size    of the filtered data; size in points, of every page
+  text           of each page, from its top left, with "/" between pages
+  scale          of a box that is 200 points wide in the document, on the first page
+  turned=yes     the box, higher than wide in the document, lies on its side on the first page
   copies         how many times the printer gives each page, by itself or because the data says so
   whole=yes      the data is the document, byte by byte
   *NAME          a feature of the printer that the data sets up
@@ -67,7 +70,27 @@ CASES = [
     ("office", "report.pdf", "--set PageSize=A5", f"pages=2 {A5}"),
     ("office", "note.txt", "-o media=Letter", f"pages=1 {LETTER}"),
     ("office", "picture.png", "--set ColorType=Mono", "pages=1 *ColorType=Mono"),
-    ("office", "five.pdf", "-o number-up=4", f"pages=2 {A4} number-up=4"),
+    # how pages are put on paper
+    ("office", "five.pdf", "-o number-up=4", f"pages=2 {A4} text=1234/5 number-up=4"),
+    ("office", "five.pdf", "-o number-up=4 -o number-up-layout=btrl", f"pages=2 {A4} text=4231/5"),
+    ("office", "five.pdf", "--set number-up=9 --set number-up-layout=rltb", "pages=1 text=32154",
+     "-o number-up=9 -o number-up-layout=rltb"),
+    ("office", "five.ps", "-o number-up=9", f"pages=1 {A4} text=12345"),
+    ("office", "five.pdf", "-o page-set=odd", "pages=3 text=1/3/5"),
+    ("office", "five.ps", "-o page-set=even", "pages=2 text=2/4"),
+    ("office", "five.pdf", "-o outputorder=reverse", "pages=5 text=5/4/3/2/1"),
+    ("office", "five.ps", "-o outputorder=reverse", "pages=5 text=5/4/3/2/1"),
+    ("office", "five.pdf", "-P 1-2 --set outputorder=reverse --set number-up=4", "pages=2 text=5/1234",
+     "-P 1-2 -o outputorder=reverse -o number-up=4"),
+    ("office", "box.pdf", "", f"pages=1 {A4} scale=1.0 turned=no"),
+    ("office", "box.pdf", "-o print-scaling=none", f"pages=1 {A4} scale=1.0"),
+    ("office", "box.pdf", "-o print-scaling=fit", f"pages=1 {A4} scale=1.4"),
+    ("office", "box.ps", "-o print-scaling=fit", f"pages=1 {A4} scale=1.4"),
+    ("office", "large.pdf", "-o print-scaling=none", f"pages=1 {A4} scale=1.0"),
+    ("office", "large.pdf", "-o print-scaling=fit", f"pages=1 {A4} scale=0.7"),
+    ("office", "box.pdf", "-o page-border=single -o number-up=4", "pages=1 scale=1.5"),
+    ("office", "long.txt", "-o orientation-requested=4", "pages=4"),
+    ("office", "picture.png", "-o orientation-requested=4", "pages=1 turned=yes"),
     ("office", "five.pdf", "-o fit-to-page -o outputorder=reverse --set PageSize=A5", f"pages=5 {A5}"),
     # a preset of the user: two-sided, two pages on a sheet, monochrome
     ("office/draft", "five.pdf", "", "pages=3 *Duplex=DuplexNoTumble *ColorType=Mono"),
@@ -134,11 +157,15 @@ def make_documents(folder):
         shutil.copy(source / "demo" / name, folder)
     for name in ("report.ps", "report.pdf"):
         (folder / f"{name}.gz").write_bytes(gzip.compress((folder / name).read_bytes()))
-    pages = "".join(f"%%Page: {n} {n}\n/Courier findfont 40 scalefont setfont 99 {99 * n} moveto ({n}) show showpage\n"
+    pages = "".join(f"%%Page: {n} {n}\n/Courier findfont 40 scalefont setfont 99 400 moveto ({n}) show showpage\n"
                     for n in range(1, 6))
     (folder / "five.ps").write_text("%!PS-Adobe-3.0\n%%Pages: 5\n%%BoundingBox: 0 0 595 842\n%%EndComments\n" + pages +
                                     "%%EOF\n")
     must("gs", "-q", "-o", folder / "five.pdf", "-sDEVICE=pdfwrite", "-sPAPERSIZE=a4", folder / "five.ps")
+    for name, paper, size in (("box", "a5", "420 595"), ("large", "a3", "842 1191")):
+        (folder / f"{name}.ps").write_text(f"%!PS-Adobe-3.0\n%%Pages: 1\n%%BoundingBox: 0 0 {size}\n%%EndComments\n"
+                                           "%%Page: 1 1\n120 120 200 300 rectfill showpage\n%%EOF\n")
+        must("gs", "-q", "-o", folder / f"{name}.pdf", "-sDEVICE=pdfwrite", f"-sPAPERSIZE={paper}", folder / f"{name}.ps")
     (folder / "long.txt").write_text("".join(f"line {n}\n" for n in range(150)))
     row = b"\x00\x80\xff" * 40
     (folder / "picture.bmp").write_bytes(
@@ -342,6 +369,13 @@ class Job:
         sizes = {f"{float(w):.0f}x{float(h):.0f}" for w, h in
                  re.findall(r"^Page +\d+ size:\s+([\d.]+) x ([\d.]+)", said, re.M)}
         self.facts["size"] = " and ".join(sorted(sizes)) or "?"
+        sheets = run("pdftotext", "-layout", pdf, "-").stdout.decode().split("\f")[:-1]
+        self.facts["text"] = "/".join("".join(sheet.split()) for sheet in sheets)
+        box = run("gs", "-q", "-dBATCH", "-dNOPAUSE", "-sDEVICE=bbox", "-dLastPage=1", pdf).stderr
+        if corners := re.search(rb"^%%HiRes\S+ ([\d.]+) ([\d.]+) ([\d.]+) ([\d.]+)", box, re.M):
+            left, bottom, right, top = map(float, corners.groups())
+            self.facts["scale"] = f"{min(right - left, top - bottom) / 200:.1f}"
+            self.facts["turned"] = "yes" if right - left > top - bottom else "no"
 
 
 def main():

@@ -128,6 +128,7 @@ void DialogPagesTest::everyPage()
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QTRY_VERIFY(m_window->session());
+    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // what comes after the first paint
     m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     m_window->print();

@@ -27,12 +27,13 @@ ROOMS = {
 HOST_ROOMS = {
     "printing": {"printing"},
     "session": {"session", "printing"},
-    "batch": {"batch", "session", "printing"},
-    "window": {"window", "session", "printing"},
+    "preview": {"preview", "printing"},
+    "batch": {"batch", "session", "preview", "printing"},
+    "window": {"window", "session", "preview", "printing"},
     "service": {"service"},
     "backend": {"backend"},
 }
-WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/batch/", "host/service/",
+WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/preview/", "host/batch/", "host/service/",
                    "host/backend/")
 OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
 IN_BUNDLE = {"constraints", "panelkit", "panels", "plugin", "ppd", "device"}
@@ -57,6 +58,8 @@ EXAMPLES = [  # file, header, whether the one may include the other
     ("host/window/print_window.cpp", "cups/ppd.h", False),
     ("host/window/print_window.cpp", "QtWidgets/QDialog", True),
     ("host/session/dialog_session.cpp", "QtWidgets/QDialog", False),
+    ("host/preview/preview.cpp", "host/session/dialog_session.h", False),
+    ("host/preview/preview.cpp", "QLabel", False),
     ("host/session/dialog_session.cpp", "ppd/ppd_model.h", False),
     ("host/session/dialog_session.cpp", "host/printing/job.h", True),
     ("host/printing/job.cpp", "host/session/dialog_session.h", False),

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/preview/page_tools.h"
+
+#include "host/printing/file_name.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace host {
+
+PageTools PageTools::installed()
+{
+    // Filters lie where the print system has been built to look for them.
+    PageTools tools{{QStringLiteral("/usr/lib/cups/filter"), QStringLiteral("/usr/libexec/cups/filter"),
+                     QStringLiteral("/usr/lib64/cups/filter")}};
+    const QString path = qEnvironmentVariable("PATH", QStringLiteral("/usr/bin:/bin"));
+    tools.folders += path.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    return tools;
+}
+
+QString PageTools::path(const QString &program) const
+{
+    return QStandardPaths::findExecutable(program, folders);
+}
+
+SharedFile inMemory(const QByteArray &content)
+{
+    platform::UniqueFd file(memfd_create("pages", MFD_CLOEXEC));
+    if (!file || ::write(file.get(), content.data(), static_cast<size_t>(content.size())) != content.size())
+        return nullptr;
+    return std::make_shared<const platform::UniqueFd>(std::move(file));
+}
+
+SharedFile openFile(const QString &path)
+{
+    platform::UniqueFd file(::open(fileNameToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    return file ? std::make_shared<const platform::UniqueFd>(std::move(file)) : nullptr;
+}
+
+} // namespace host

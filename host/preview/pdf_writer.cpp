@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/preview/pdf_writer.h"
+
+#include "host/printing/file_name.h"
+#include "platform/background.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+const QString joiner = QStringLiteral("qpdf");
+
+// The permissions that a new file gets.
+mode_t usualMode()
+{
+    const mode_t mask = umask(0);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
+bool writeAll(int file, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t written = ::write(file, bytes.data(), static_cast<size_t>(bytes.size()));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
+
+} // namespace
+
+PrintError replaceFile(const QString &path, const SharedFile &content)
+{
+    const auto problem = [&](const QString &reason) -> PrintError {
+        return {PrintError::Kind::Other,
+                PdfWriter::tr("“%1” cannot be written: %2.").arg(readableFileName(path), reason)};
+    };
+    const QByteArray target = fileNameToBytes(path);
+    struct stat facts = {};
+    const bool isThere = lstat(target.constData(), &facts) == 0;
+    if (isThere && !S_ISREG(facts.st_mode))
+        return problem(S_ISLNK(facts.st_mode) ? PdfWriter::tr("it is a link to another file")
+                                              : PdfWriter::tr("it is not a file"));
+    // Beside the target, so that it can take its place in one step. A link that appears there meanwhile is
+    // replaced, not followed.
+    QByteArray beside = target + ".XXXXXX";
+    platform::UniqueFd file(mkostemp(beside.data(), O_CLOEXEC));
+    if (!file)
+        return problem(QString::fromLocal8Bit(std::strerror(errno)));
+    const FileView view(content);
+    const bool isWritten = writeAll(file.get(), view.bytes()) &&
+                           fchmod(file.get(), isThere ? facts.st_mode & 0777 : usualMode()) == 0 &&
+                           fsync(file.get()) == 0 && rename(beside.constData(), target.constData()) == 0;
+    if (isWritten)
+        return {};
+    const QString reason = QString::fromLocal8Bit(std::strerror(errno));
+    unlink(beside.constData());
+    return problem(reason);
+}
+
+PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
+    : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_joiner(nullptr)
+{
+    LimitedProcess::Limits limits; // nobody waits at the screen, and documents may be large
+    limits.time = std::chrono::minutes(10);
+    limits.memory *= 4;
+    limits.output *= 8;
+    m_maker.setLimits(limits);
+    m_joiner.setLimits(limits);
+    connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
+    connect(&m_maker, &PageMaker::failed, this, &PdfWriter::fail);
+    connect(&m_joiner, &LimitedProcess::ended, this, [this](const SharedFile &joined) {
+        if (joined)
+            store(joined);
+        else
+            fail(tr("%1 cannot read the document").arg(joiner));
+    });
+}
+
+void PdfWriter::write(const QList<Document> &documents, const PageSettings &settings, const QString &path)
+{
+    m_documents = documents;
+    m_settings = settings;
+    m_path = path;
+    if (m_tools.path(QStringLiteral("pdftopdf")).isEmpty())
+        fail(tr("%1 is not installed").arg(QStringLiteral("pdftopdf")));
+    else
+        makeNext();
+}
+
+void PdfWriter::makeNext()
+{
+    const SharedFile file = openFile(m_documents.first().path);
+    if (file)
+        m_maker.make(m_documents.first(), file, m_settings);
+    else
+        fail(QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+void PdfWriter::made(const SharedFile &pdf, bool)
+{
+    m_parts.append(pdf);
+    m_documents.removeFirst();
+    if (!m_documents.isEmpty())
+        makeNext();
+    else
+        join();
+}
+
+void PdfWriter::join()
+{
+    const QString path = m_tools.path(joiner);
+    if (path.isEmpty()) {
+        fail(tr("%1 is not installed").arg(joiner));
+        return;
+    }
+    // Sheets are turned for the printer; on a screen they are read as they were laid out.
+    QStringList arguments = {QStringLiteral("--empty"), QStringLiteral("--warning-exit-0"),
+                             QStringLiteral("--pages")};
+    for (const SharedFile &part : std::as_const(m_parts))
+        arguments.append(LimitedProcess::pathFor(part));
+    arguments += {QStringLiteral("--"), QStringLiteral("--rotate=0"), QStringLiteral("-")};
+    m_joiner.start({path, arguments, m_parts.first(), m_parts});
+}
+
+void PdfWriter::store(const SharedFile &pdf)
+{
+    platform::startBeside(
+        this, [path = m_path, pdf] { return replaceFile(path, pdf); },
+        [this](const PrintError &error) { Q_EMIT ended(error); });
+}
+
+void PdfWriter::fail(const QString &reason)
+{
+    const QString name = m_documents.isEmpty() ? QString() : m_documents.first().name;
+    Q_EMIT ended({PrintError::Kind::Other,
+                  name.isEmpty() ? tr("The PDF file cannot be made: %1.").arg(reason)
+                                 : tr("“%1” cannot be made into a PDF file: %2.").arg(name, reason)});
+}
+
+} // namespace host

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/printed_pages.h"
+
+#include "host/printing/standard_names.h"
+#include "host/session/dialog_session.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString pageSize = QStringLiteral("PageSize");
+
+// Names that PPDs of many makers have for the same.
+bool isMonochromeMark(const QString &keyword, const QString &choice)
+{
+    static const QStringList keywords = {QStringLiteral("colormodel"), QStringLiteral("colormode"),
+                                         QStringLiteral("colortype"), QStringLiteral("printoutmode")};
+    static const QStringList choices = {QStringLiteral("gray"),       QStringLiteral("grey"),
+                                        QStringLiteral("grayscale"),  QStringLiteral("greyscale"),
+                                        QStringLiteral("mono"),       QStringLiteral("monochrome"),
+                                        QStringLiteral("kgray"),      QStringLiteral("black"),
+                                        QStringLiteral("blackwhite"), QStringLiteral("fastgray")};
+    return keywords.contains(keyword.toLower()) && choices.contains(choice.toLower());
+}
+
+bool isMonochrome(const DialogSession &session, const QList<JobOption> &options)
+{
+    const bool isAsked = std::any_of(options.begin(), options.end(), [](const JobOption &option) {
+        return option.name == QLatin1String("print-color-mode") &&
+               option.value.contains(QLatin1String("monochrome"));
+    });
+    const QStringList keywords = session.ppd() ? session.ppd()->optionKeywords() : QStringList();
+    return isAsked || std::any_of(keywords.begin(), keywords.end(), [&](const QString &keyword) {
+               return isMonochromeMark(keyword, session.ppd()->markedChoice(keyword));
+           });
+}
+
+} // namespace
+
+PageSettings pageSettings(const DialogSession &session)
+{
+    PageSettings settings;
+    const QList<JobOption> options = session.jobOptions();
+    for (const JobOption &option : options) {
+        const bool isKnown = isPageOption(option.name) || option.name == QLatin1String("page-ranges");
+        if (isKnown && option.kind != JobOption::Kind::Shown)
+            settings.options.append({option.name, option.value});
+    }
+    settings.isMonochrome = isMonochrome(session, options);
+    const QString choice = session.ppd() ? session.ppd()->markedChoice(pageSize) : QString();
+    if (!choice.isEmpty())
+        settings.paper = session.ppd()->paperSize(choice).value_or(PaperSize());
+    return settings;
+}
+
+bool isTwoSided(const DialogSession &session)
+{
+    return session.ppd() && standardValueOfMarks(session.ppd(), QStringLiteral("sides"), {})
+                                .startsWith(QLatin1String("two-sided"));
+}
+
+} // namespace host

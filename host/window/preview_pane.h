@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/printing/page_settings.h"
+
+#include <QWidget>
+
+class QLabel;
+class QToolButton;
+
+namespace host {
+
+class DocumentChoice;
+class Preview;
+class PreviewSheet;
+class PreviewStrip;
+struct PageTools;
+
+// What the document will look like on paper: one page large, the others as a strip. Empty, and free of
+// charge, until begin(); from then on it follows the choice of documents, and works while it can be seen.
+class PreviewPane : public QWidget
+{
+    Q_OBJECT
+public:
+    // The choice is borrowed and outlives the pane.
+    PreviewPane(DocumentChoice *choice, QWidget *parent);
+    ~PreviewPane() override;
+
+    void begin(const PageTools &tools);
+    void setSettings(const PageSettings &settings, bool isTwoSided);
+    // How many pages the document itself has; 0 while that is not known.
+    int documentPages() const;
+
+    QSize sizeHint() const override { return {240, 400}; }
+
+Q_SIGNALS:
+    void documentPagesChanged();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void build();
+    void look();
+    void factsChanged();
+    void showPage(int page);
+    void showMade(int page);
+    QString caption() const;
+
+    DocumentChoice *m_choice;
+    Preview *m_preview = nullptr;
+    PageSettings m_settings;
+    bool m_isTwoSided = false;
+    int m_page = 0; // from 0
+    int m_count = 0;
+    int m_documentPages = 0;
+    PreviewSheet *m_sheet = nullptr;
+    QLabel *m_caption = nullptr;
+    QToolButton *m_back = nullptr;
+    QToolButton *m_forth = nullptr;
+    PreviewStrip *m_strip = nullptr;
+};
+
+} // namespace host

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QListView>
+
+namespace host {
+
+class Preview;
+class PreviewStripModel;
+
+// All pages of a preview, small, in a row. Only those in view are made. The preview is borrowed.
+class PreviewStrip : public QListView
+{
+    Q_OBJECT
+public:
+    PreviewStrip(Preview *preview, QWidget *parent);
+
+    void setCount(int pages);
+    int current() const { return currentIndex().row(); }
+    void setCurrent(int page);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {120, sizeHint().height()}; }
+
+Q_SIGNALS:
+    void picked(int page);
+
+protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+
+private:
+    PreviewStripModel *m_model;
+};
+
+} // namespace host

@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/preview/page_tools.h"
+#include "host/window/general_page.h"
+#include "host/window/message_bar.h"
+#include "host/window/preview_pane.h"
+#include "host/window/preview_sheet.h"
+#include "tests/host/window_fixture.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString report = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+
+} // namespace
+
+// What the general page sends, and what it knows of the documents.
+class GeneralPageTest : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init() { reset(); }
+    void cleanup() { m_window.reset(); }
+    void layoutIsSent_data();
+    void layoutIsSent();
+    void documentIsLeftOut();
+    void rangeBeyondTheEnd();
+    void pdfIsWritten();
+
+private:
+    PrintWindow &openWith(const QStringList &files);
+    QPushButton *button(const QString &text);
+    bool hasPreview() const;
+};
+
+PrintWindow &GeneralPageTest::openWith(const QStringList &files)
+{
+    PrintTask task;
+    task.files = files;
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    m_window->setRoom({1200, 900});
+    PrintError error;
+    if (!m_window->open(&error))
+        qFatal("%s", qPrintable(error.message));
+    m_window->show();
+    m_window->finishLater();
+    if (!QTest::qWaitForWindowActive(m_window.get()))
+        qFatal("the window does not appear");
+    settle();
+    return *m_window;
+}
+
+QPushButton *GeneralPageTest::button(const QString &text)
+{
+    for (auto *button : m_window->findChildren<QPushButton *>()) {
+        if (button->text().remove(u'&') == text)
+            return button;
+    }
+    return nullptr;
+}
+
+bool GeneralPageTest::hasPreview() const
+{
+    const PageTools tools = PageTools::installed();
+    return !tools.path(u"pdftopdf"_s).isEmpty() && !tools.path(u"pdftoppm"_s).isEmpty();
+}
+
+void GeneralPageTest::layoutIsSent_data()
+{
+    QTest::addColumn<QMap<QString, QString>>("defaults"); // of the queue
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("value");               // that the user chooses
+    QTest::addColumn<QMap<QString, QString>>("sent"); // nil for not at all
+    using Map = QMap<QString, QString>;
+    QTest::newRow("several") << Map() << u"number-up"_s << u"4"_s << Map{{u"number-up"_s, u"4"_s}};
+    QTest::newRow("usual") << Map() << u"number-up"_s << u"1"_s << Map{{u"number-up"_s, {}}};
+    QTest::newRow("default") << Map{{u"number-up"_s, u"2"_s}} << u"number-up"_s << u"1"_s
+                             << Map{{u"number-up"_s, u"1"_s}};
+    QTest::newRow("border") << Map() << u"page-border"_s << u"double"_s
+                            << Map{{u"page-border"_s, u"double"_s}};
+    QTest::newRow("landscape") << Map() << u"orientation-requested"_s << u"4"_s
+                               << Map{{u"orientation-requested"_s, u"4"_s}, {u"landscape"_s, {}}};
+    QTest::newRow("against an older name")
+        << Map{{u"landscape"_s, u"true"_s}} << u"orientation-requested"_s << u"3"_s
+        << Map{{u"orientation-requested"_s, u"3"_s}, {u"landscape"_s, u"false"_s}};
+    QTest::newRow("fit") << Map() << u"print-scaling"_s << u"fit"_s
+                         << Map{{u"print-scaling"_s, u"fit"_s}, {u"fit-to-page"_s, u"true"_s}};
+    QTest::newRow("actual size") << Map{{u"fit-to-page"_s, u"true"_s}} << u"print-scaling"_s << u"none"_s
+                                 << Map{{u"print-scaling"_s, u"none"_s}, {u"fit-to-page"_s, u"false"_s}};
+    QTest::newRow("odd") << Map() << u"page-set"_s << u"odd"_s << Map{{u"page-set"_s, u"odd"_s}};
+    QTest::newRow("reverse") << Map() << u"outputorder"_s << u"reverse"_s
+                             << Map{{u"outputorder"_s, u"reverse"_s}};
+    QTest::newRow("not reverse") << Map{{u"outputorder"_s, u"reverse"_s}} << u"outputorder"_s << u"normal"_s
+                                 << Map{{u"outputorder"_s, u"normal"_s}};
+}
+
+void GeneralPageTest::layoutIsSent()
+{
+    using Map = QMap<QString, QString>;
+    QFETCH(const Map, defaults);
+    QFETCH(const QString, name);
+    QFETCH(const QString, value);
+    QFETCH(const Map, sent);
+    for (Destination &printer : m_system.printers)
+        printer.options.insert(defaults);
+    open();
+    if (auto *box = find<QCheckBox>(name))
+        box->setChecked(value == u"reverse");
+    else
+        choose(name, value);
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    for (auto it = sent.begin(); it != sent.end(); ++it)
+        QCOMPARE(sentValue(m_system.submitted.first().options, it.key()), it.value());
+}
+
+void GeneralPageTest::documentIsLeftOut()
+{
+    openWith({report, m_document.fileName()});
+    auto *list = find<QListWidget>();
+    for (auto *candidate : m_window->findChildren<QListWidget *>())
+        list = candidate->count() == 2 && candidate->item(0)->text() == u"report.pdf" ? candidate : list;
+    list->item(0)->setCheckState(Qt::Unchecked);
+    list->item(1)->setCheckState(Qt::Unchecked);
+    printButton()->click();
+    settle();
+    QVERIFY(m_system.submitted.isEmpty());
+    list->item(1)->setCheckState(Qt::Checked);
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    QCOMPARE(m_system.submitted.first().documents.size(), 1);
+    QCOMPARE(m_system.submitted.first().documents.first().path, m_document.fileName());
+}
+
+void GeneralPageTest::rangeBeyondTheEnd()
+{
+    if (!hasPreview())
+        QSKIP("cups-filters or poppler-utils is not installed");
+    openWith({report});
+    const auto *sheet = find<PreviewSheet>();
+    QTRY_VERIFY2(find<PreviewPane>()->documentPages() == 2, qPrintable(sheet->accessibleDescription()));
+    auto *page = find<GeneralPage>();
+    for (auto *radio : page->findChildren<QRadioButton *>())
+        radio->setChecked(radio->text().remove(u'&').contains(u"Range"_s));
+    auto *pages = page->findChildren<QLineEdit *>().last();
+    QTest::keyClicks(pages, u"2-9"_s);
+    QCOMPARE(page->problem(), QString());
+    QTest::keyClicks(pages, u",12"_s);
+    QCOMPARE(page->problem(), u"The document has only 2 pages."_s);
+    choose(u"number-up"_s, u"2"_s);
+    pages->setText(u"2"_s);
+    QCOMPARE(page->problem(), u"There are only 1 printed sides."_s);
+}
+
+void GeneralPageTest::pdfIsWritten()
+{
+    if (!hasPreview())
+        QSKIP("cups-filters or poppler-utils is not installed");
+    const QTemporaryDir folder;
+    openWith({report});
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    button(u"Save as PDF…"_s)->click();
+    QTRY_VERIFY(find<QFileDialog>());
+    auto *dialog = find<QFileDialog>();
+    dialog->setDirectory(folder.path());
+    dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"out"_s));
+    QMetaObject::invokeMethod(dialog, "accept");
+    QTRY_VERIFY(m_window->messageBar()->isShowing());
+    QVERIFY2(m_window->messageBar()->kind() == MessageBar::Kind::Success,
+             qPrintable(m_window->messageBar()->text()));
+    QFile file(folder.filePath(u"out.pdf"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF");
+    QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());
+}
+
+QTEST_MAIN(GeneralPageTest)
+#include "general_page_test.moc"

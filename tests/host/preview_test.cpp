@@ -1,0 +1,315 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/preview/pdf_writer.h"
+#include "host/preview/preview.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString demo(const QString &name)
+{
+    return QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + name;
+}
+
+bool hasTools()
+{
+    const PageTools tools = PageTools::installed();
+    for (const QString &tool : {u"pdftoppm"_s, u"pdfinfo"_s, u"qpdf"_s, u"pdftopdf"_s, u"texttopdf"_s,
+                                u"imagetopdf"_s, u"gziptoany"_s, u"gs"_s}) {
+        if (tools.path(tool).isEmpty())
+            return false;
+    }
+    return true;
+}
+
+// A picture of two by two pixels in as many copies as pages were asked for.
+const QByteArray drawsPages = "shift; first=$1; shift 2; last=$1\n"
+                              "while [ $first -le $last ]; do printf 'P5\\n2 2\\n255\\nabcd';"
+                              " first=$((first + 1)); done\n";
+
+} // namespace
+
+class PreviewTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void showsWhatIsPrinted_data();
+    void showsWhatIsPrinted();
+    void firstPageIsQuick();
+    void survivesItsPrograms_data();
+    void survivesItsPrograms();
+    void thousandsOfPages();
+    void endsWhenNobodyLooks();
+    void writesPdf();
+    void keepsWhatItCannotReplace();
+
+private:
+    void fake(const QString &program, const QByteArray &script);
+    void fakeAll();
+    PrintError write(const PageTools &tools, const QStringList &paths, const QString &target);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void PreviewTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void PreviewTest::fake(const QString &program, const QByteArray &script)
+{
+    QFile file(m_folder->filePath(program));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\n" + script);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void PreviewTest::fakeAll()
+{
+    fake(u"pdftopdf"_s, "cat /dev/stdin\n");
+    fake(u"pdfinfo"_s, "echo 'Pages:           3'; echo 'Page size:       595 x 842 pts (A4)'\n");
+    fake(u"pdftoppm"_s, drawsPages);
+    fake(u"qpdf"_s, "cat /dev/stdin\n");
+}
+
+void PreviewTest::showsWhatIsPrinted_data()
+{
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<PageSettings>("settings");
+    QTest::addColumn<int>("pages");  // of the document
+    QTest::addColumn<int>("sides");  // that come out
+    QTest::addColumn<QSize>("size"); // of the first, in millimetres
+    const PaperSize a4{.width = 210, .height = 297}, a5{.width = 148, .height = 210};
+    const QSize A4(210, 297);
+    QTest::newRow("PDF") << u"report.pdf"_s << PageSettings{{}, a4} << 2 << 2 << A4;
+    QTest::newRow("two a side") << u"report.pdf"_s << PageSettings{{{u"number-up"_s, u"2"_s}}, a4} << 2 << 1
+                                << QSize(210, 297);
+    QTest::newRow("odd") << u"report.pdf"_s << PageSettings{{{u"page-set"_s, u"odd"_s}}, a4} << 2 << 1 << A4;
+    QTest::newRow("range") << u"report.pdf"_s << PageSettings{{{u"page-ranges"_s, u"2"_s}}, a4} << 2 << 1
+                           << A4;
+    QTest::newRow("paper") << u"report.pdf"_s << PageSettings{{}, a5} << 2 << 2 << QSize(148, 210);
+    QTest::newRow("PostScript") << u"report.ps"_s << PageSettings{{}, a4} << 2 << 2 << A4;
+    QTest::newRow("text") << u"note.txt"_s << PageSettings{{}, a4} << 1 << 1 << A4;
+    QTest::newRow("picture") << u"picture.png"_s << PageSettings{{}, a4} << 1 << 1 << A4;
+    QTest::newRow("monochrome") << u"picture.png"_s << PageSettings{{}, a4, true} << 1 << 1 << A4;
+}
+
+void PreviewTest::showsWhatIsPrinted()
+{
+    if (!hasTools())
+        QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
+    QFETCH(const QString, document);
+    QFETCH(const PageSettings, settings);
+    QFETCH(const int, pages);
+    QFETCH(const int, sides);
+    QFETCH(const QSize, size);
+    Preview preview(PageTools::installed());
+    QSignalSpy made(&preview, &Preview::pageMade);
+    preview.setSettings(settings);
+    preview.setWatched(true);
+    preview.setDocument(demo(document));
+    QVERIFY(preview.page(0).isNull());
+    QTRY_COMPARE(made.count(), 1);
+    QTRY_VERIFY2(preview.documentFacts() && preview.facts(), qPrintable(preview.problem()));
+    QCOMPARE(preview.documentFacts()->pages, pages);
+    QCOMPARE(preview.facts()->pages, sides);
+    const QImage page = preview.page(0);
+    QCOMPARE(qMax(page.width(), page.height()), Preview::pagePixels);
+    const double ratio = double(page.width()) / page.height();
+    const double upright = double(size.width()) / size.height();
+    QVERIFY2(qAbs(ratio - upright) < 0.01 || qAbs(ratio - 1 / upright) < 0.02,
+             qPrintable(QString::number(ratio)));
+    bool isColored = false, isWritten = false;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            const QRgb pixel = page.pixel(x, y);
+            isColored |= qRed(pixel) != qGreen(pixel) || qGreen(pixel) != qBlue(pixel);
+            isWritten |= qGray(pixel) < 128;
+        }
+    }
+    QVERIFY(isWritten);
+    if (document == u"picture.png"_s)
+        QCOMPARE(isColored, !settings.isMonochrome);
+}
+
+void PreviewTest::firstPageIsQuick()
+{
+    if (!hasTools())
+        QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
+    qint64 best = 10'000;
+    for (int i = 0; i < 3; ++i) { // something else may keep the machine busy
+        Preview preview(PageTools::installed());
+        QSignalSpy made(&preview, &Preview::pageMade);
+        preview.setWatched(true);
+        QElapsedTimer time;
+        time.start();
+        preview.setDocument(demo(u"report.pdf"_s));
+        (void)preview.page(0);
+        QTRY_COMPARE(made.count(), 1);
+        best = qMin(best, time.elapsed());
+    }
+    qInfo("first page after %lld ms", best);
+    QVERIFY(best < 300);
+}
+
+void PreviewTest::survivesItsPrograms_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("problem");
+    const QByteArray hangs = "exec tail -f /dev/null\n";
+    const QByteArray crashes = "kill -SEGV $$\n";
+    QTest::newRow("hanging renderer") << u"pdftoppm"_s << hangs << u"pdftoppm failed: it took too long"_s;
+    QTest::newRow("hanging filter") << u"pdftopdf"_s << hangs << u"pdftopdf failed: it took too long"_s;
+    QTest::newRow("crash") << u"pdftoppm"_s << crashes << u"pdftoppm failed: it ended unexpectedly"_s;
+    QTest::newRow("flood") << u"pdftoppm"_s << QByteArray("exec cat /dev/zero\n")
+                           << u"pdftoppm failed: it ended unexpectedly"_s;
+    QTest::newRow("flood of words") << u"pdftoppm"_s << QByteArray("cat /dev/zero >&2\n") << u"pdftoppm "_s;
+    QTest::newRow("failure") << u"pdftopdf"_s << QByteArray("exit 1\n")
+                             << u"pdftopdf cannot read the document"_s;
+    QTest::newRow("huge picture") << u"pdftoppm"_s << QByteArray("printf 'P6\\n999999 999999\\n255\\nabc'\n")
+                                  << u"pdftoppm cannot read the document"_s;
+    QTest::newRow("cut picture") << u"pdftoppm"_s << QByteArray("printf 'P6\\n90 90\\n255\\nabc'\n")
+                                 << u"pdftoppm cannot read the document"_s;
+    QTest::newRow("no number of pages")
+        << u"pdfinfo"_s << QByteArray("echo Pages: many\n") << u"the pages cannot be counted"_s;
+    QTest::newRow("too many pages") << u"pdfinfo"_s << QByteArray("echo 'Pages:  999999999'\n")
+                                    << u"the pages cannot be counted"_s;
+    QTest::newRow("missing") << u"pdftoppm"_s << QByteArray() << u"pdftoppm is not installed"_s;
+}
+
+void PreviewTest::survivesItsPrograms()
+{
+    QFETCH(const QString, program);
+    QFETCH(const QByteArray, script);
+    QFETCH(const QString, problem);
+    fakeAll();
+    if (script.isEmpty())
+        QVERIFY(QFile::remove(m_folder->filePath(program)));
+    else
+        fake(program, script);
+    Preview preview({{m_folder->path()}});
+    preview.setLimits({std::chrono::milliseconds(1000), qint64(1) << 30, 1 << 20});
+    preview.setWatched(true);
+    preview.setDocument(demo(u"report.pdf"_s));
+    (void)preview.page(0);
+    QTRY_VERIFY2(preview.problem().startsWith(problem), qPrintable(preview.problem()));
+    fakeAll(); // and the next document is shown
+    preview.setDocument(demo(u"../demo/report.pdf"_s));
+    QSignalSpy made(&preview, &Preview::pageMade);
+    (void)preview.page(0);
+    QTRY_VERIFY(!made.isEmpty());
+    QCOMPARE(preview.page(0).size(), QSize(2, 2));
+}
+
+void PreviewTest::thousandsOfPages()
+{
+    fakeAll();
+    fake(u"pdfinfo"_s, "echo 'Pages:  5000'\n");
+    fake(u"pdftoppm"_s, "echo \"$@\" >>'" + m_folder->filePath(u"calls"_s).toUtf8() + "'\n" + drawsPages);
+    Preview preview({{m_folder->path()}});
+    preview.setWatched(true);
+    preview.setDocument(demo(u"report.pdf"_s));
+    QTRY_VERIFY(preview.facts());
+    QCOMPARE(preview.facts()->pages, 5000);
+    QSignalSpy made(&preview, &Preview::thumbnailsMade);
+    QVERIFY(preview.thumbnail(4995).isNull());
+    QTRY_COMPARE(made.count(), 1);
+    QCOMPARE(made.first(), (QVariantList{4995, 4999}));
+    QVERIFY(!preview.thumbnail(4999).isNull());
+    QFile calls(m_folder->filePath(u"calls"_s));
+    QVERIFY(calls.open(QIODevice::ReadOnly));
+    QVERIFY(calls.readAll().startsWith("-f 4996 -l 5000"));
+}
+
+void PreviewTest::endsWhenNobodyLooks()
+{
+    fakeAll();
+    const QString note = m_folder->filePath(u"pid"_s);
+    fake(u"pdftoppm"_s, "echo $$ >'" + note.toUtf8() + "'\nexec tail -f /dev/null\n");
+    Preview preview({{m_folder->path()}});
+    preview.setWatched(true);
+    preview.setDocument(demo(u"report.pdf"_s));
+    (void)preview.page(0);
+    int pid = 0;
+    QTRY_VERIFY([&] {
+        QFile file(note);
+        return file.open(QIODevice::ReadOnly) && (pid = file.readAll().trimmed().toInt()) > 0;
+    }());
+    preview.setWatched(false);
+    QTRY_VERIFY(::kill(pid, 0) != 0);
+    fakeAll();
+    QSignalSpy made(&preview, &Preview::pageMade);
+    preview.setWatched(true);
+    QTRY_COMPARE(made.count(), 1);
+}
+
+PrintError PreviewTest::write(const PageTools &tools, const QStringList &paths, const QString &target)
+{
+    DocumentList documents;
+    PrintError error;
+    if (!documents.open(paths, nullptr, &error))
+        return error;
+    PdfWriter writer(tools);
+    QSignalSpy ended(&writer, &PdfWriter::ended);
+    connect(&writer, &PdfWriter::ended, this, [&](const PrintError &told) { error = told; });
+    writer.write(documents.documents(), {{{u"number-up"_s, u"2"_s}}, {}}, target);
+    if (ended.isEmpty() && !ended.wait(20'000))
+        qFatal("nothing has been written");
+    return error;
+}
+
+void PreviewTest::writesPdf()
+{
+    if (!hasTools())
+        QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
+    const QString target = m_folder->filePath(u"out.pdf"_s);
+    const PrintError error =
+        write(PageTools::installed(), {demo(u"report.pdf"_s), demo(u"note.txt"_s)}, target);
+    QVERIFY2(!error, qPrintable(error.message));
+    Preview preview(PageTools::installed());
+    preview.setWatched(true);
+    preview.setDocument(target);
+    QTRY_VERIFY(preview.documentFacts());
+    QCOMPARE(preview.documentFacts()->pages, 2);
+}
+
+void PreviewTest::keepsWhatItCannotReplace()
+{
+    fakeAll();
+    const PageTools tools{{m_folder->path()}};
+    QFile kept(m_folder->filePath(u"kept"_s));
+    QVERIFY(kept.open(QIODevice::ReadWrite));
+    kept.write("mine");
+    kept.flush();
+    const QString link = m_folder->filePath(u"link.pdf"_s);
+    QVERIFY(QFile::link(kept.fileName(), link));
+    const auto check = [&](const QString &target, const QString &reason) {
+        const PrintError error = write(tools, {demo(u"report.pdf"_s)}, target);
+        QVERIFY2(error.message.contains(reason), qPrintable(error.message));
+        kept.seek(0);
+        QCOMPARE(kept.readAll(), "mine");
+    };
+    check(link, u"link to another file"_s);
+    check(m_folder->path(), u"not a file"_s);
+    check(m_folder->filePath(u"none/out.pdf"_s), u"none/out.pdf"_s);
+    fake(u"pdftopdf"_s, "printf half; exit 1\n");
+    check(kept.fileName(), u"report.pdf"_s);
+    QCOMPARE(QDir(m_folder->path()).entryList({u"*.??????"_s}, QDir::Files), QStringList());
+}
+
+QTEST_MAIN(PreviewTest)
+#include "preview_test.moc"
