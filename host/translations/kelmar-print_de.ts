@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
-    <name>ApplicationText</name>
-    <message>
-        <source>%1 pages on each side</source>
-        <translation>%1 Seiten auf jeder Blattseite</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>letzte Seite zuerst</translation>
-    </message>
-    <message>
-        <source>The application asks for: %1.</source>
-        <translation>Die Anwendung verlangt: %1.</translation>
-    </message>
-</context>
-<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -155,14 +140,6 @@
         <translation>--batch und --screenshot passen nicht zusammen.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch or --summary.</source>
-        <translation>--resolve gehört zu --batch oder --summary.</translation>
-    </message>
-    <message>
-        <source>--json goes with --batch, --summary or --list-options.</source>
-        <translation>--json gehört zu --batch, --summary oder --list-options.</translation>
-    </message>
-    <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
 Print documents, with a dialog for the settings or without one.
 
@@ -222,6 +199,38 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 4 abgebrochen, 5 unbekannt, ob der Auftrag angenommen wurde. Mehr in der Handbuchseite kelmar-print(1).
 </translation>
     </message>
+    <message>
+        <source>With --batch: write the pages into this PDF file instead of printing them.</source>
+        <translation>Mit --batch: die Seiten in diese PDF-Datei schreiben, statt sie zu drucken.</translation>
+    </message>
+    <message>
+        <source>Write the presets of the printer.</source>
+        <translation>Die Vorgaben des Druckers ausgeben.</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <translation>Die Einstellungen als Vorgabe des Druckers speichern, ohne Passwörter und Codes.</translation>
+    </message>
+    <message>
+        <source>Delete a preset of the printer.</source>
+        <translation>Eine Vorgabe des Druckers löschen.</translation>
+    </message>
+    <message>
+        <source>--output goes with --batch.</source>
+        <translation>--output gehört zu --batch.</translation>
+    </message>
+    <message>
+        <source>Presets belong to a printer; --ppd alone names none.</source>
+        <translation>Vorgaben gehören zu einem Drucker; --ppd allein nennt keinen.</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch, --summary or --save-preset.</source>
+        <translation>--resolve gehört zu --batch, --summary oder --save-preset.</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
+        <translation>--json gehört zu --batch, --summary, --list-options oder einer Vorgabe.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -239,6 +248,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <translation>Passwörter und Codes werden in der Vorgabe nicht gespeichert; sie sind jedes Mal anzugeben.</translation>
     </message>
 </context>
 <context>
@@ -336,6 +349,37 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>Explanation</name>
+    <message>
+        <source>How many times the document is printed.</source>
+        <translation>Wie oft das Dokument gedruckt wird.</translation>
+    </message>
+    <message>
+        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
+        <translation>Druckt jedes Exemplar vollständig, bevor das nächste beginnt, sodass niemand die Seiten sortieren muss.</translation>
+    </message>
+    <message>
+        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
+        <translation>Welche Seiten gedruckt werden. Geben Sie einzelne Seiten und Bereiche durch Kommas getrennt an, zum Beispiel 1-3, 8.</translation>
+    </message>
+    <message>
+        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <translation>Das Format des Papiers, auf das gedruckt wird. Papier in diesem Format muss in einer der Papierkassetten des Druckers liegen.</translation>
+    </message>
+    <message>
+        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Wie das Papier beschaffen ist. Schweres oder gestrichenes Papier wird vom Drucker anders eingezogen und erhitzt.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Die Papierkassette, aus der das Papier genommen wird.</translation>
+    </message>
+    <message>
+        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
+        <translation>Druckt auf beide Seiten des Papiers. Die lange Kante ist für Seiten, die wie in einem Buch umgeblättert werden, die kurze für Seiten, die wie bei einem Kalender umgeblättert werden.</translation>
+    </message>
+</context>
+<context>
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
@@ -379,6 +423,157 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>canceled</source>
         <translation>abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutText</name>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Von links nach rechts, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>Von links nach rechts, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Von rechts nach links, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>Von rechts nach links, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Nach unten, dann von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Nach unten, dann von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Nach oben, dann von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Nach oben, dann von rechts nach links</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Dünne Linie</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Dicke Linie</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Zwei dünne Linien</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Zwei dicke Linien</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Wie im Dokument</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Landscape, turned around</source>
+        <translation>Querformat, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Portrait, turned around</source>
+        <translation>Hochformat, umgekehrt</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Gerade und ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Nur ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Nur gerade Seiten</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Shrink to the page or cut off</source>
+        <translation>Auf die Seite verkleinern oder abschneiden</translation>
+    </message>
+    <message>
+        <source>Shrink to the page</source>
+        <translation>Auf die Seite verkleinern</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>An die Seite anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Seite ausfüllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True oder False</translation>
+    </message>
+    <message>
+        <source>Pages per side</source>
+        <translation>Seiten pro Blattseite</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Odd or even</source>
+        <translation>Gerade oder ungerade</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
 </context>
 <context>
@@ -463,6 +658,80 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>none</source>
         <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>PolicySystemText</name>
+    <message>
+        <source>The printer “%1” is not offered here. %2</source>
+        <translation>Der Drucker „%1“ wird hier nicht angeboten. %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”.</source>
+        <translation>„%1“ muss auf „%2“ stehen.</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”, with a code.</source>
+        <translation>„%1“ muss auf „%2“ stehen, mit einem Code.</translation>
+    </message>
+</context>
+<context>
+    <name>PolicyText</name>
+    <message>
+        <source>it is not one object in braces</source>
+        <translation>es ist kein einzelnes Objekt in geschweiften Klammern</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, Zeile %2, Spalte %3: %4</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here; known are %2</source>
+        <translation>„%1“ ist hier nicht bekannt; bekannt sind %2</translation>
+    </message>
+    <message>
+        <source>“%1” takes a list of names</source>
+        <translation>„%1“ nimmt eine Liste von Namen</translation>
+    </message>
+    <message>
+        <source>“%1” takes an object of options and choices</source>
+        <translation>„%1“ nimmt ein Objekt aus Optionen und Werten</translation>
+    </message>
+    <message>
+        <source>“%1” takes a choice in quotes</source>
+        <translation>„%1“ nimmt einen Wert in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>“contact” takes a text</source>
+        <translation>„contact“ nimmt einen Text</translation>
+    </message>
+    <message>
+        <source>“rules” takes a list</source>
+        <translation>„rules“ nimmt eine Liste</translation>
+    </message>
+    <message>
+        <source>“rules” takes objects in braces</source>
+        <translation>„rules“ nimmt Objekte in geschweiften Klammern</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 1 MB.</source>
+        <translation>%1 ist größer als 1 MB.</translation>
+    </message>
+    <message>
+        <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
+        <translation>Die Druckregeln der Systemverwaltung gelten nicht, weil sie nicht lesbar sind. Bitte melden Sie Ihrer Systemverwaltung: %1</translation>
+    </message>
+    <message>
+        <source>Set by the administrator.</source>
+        <translation>Von der Systemverwaltung festgelegt.</translation>
+    </message>
+    <message>
+        <source>Set by the administrator (%1).</source>
+        <translation>Von der Systemverwaltung festgelegt (%1).</translation>
     </message>
 </context>
 <context>
@@ -619,6 +888,21 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>PresetText</name>
+    <message>
+        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <translation>Eine Vorgabe kann den Wert von „%1“ nicht speichern: Er enthält einen Tabulator, einen Zeilenumbruch oder ein anderes Zeichen, das sich in ihrer Datei nicht schreiben lässt.</translation>
+    </message>
+    <message>
+        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
+        <translation>Das sind mehr Einstellungen, als eine Vorgabe speichern kann: Die Datei fasst %1 Byte.</translation>
+    </message>
+    <message>
+        <source>This printer does not have what these settings ask for: %1.</source>
+        <translation>Dieser Drucker kennt nicht, was diese Einstellungen verlangen: %1.</translation>
+    </message>
+</context>
+<context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
@@ -646,6 +930,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Ready</source>
         <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Im Netzwerk gefunden</translation>
     </message>
 </context>
 <context>
@@ -696,6 +984,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>and %1</source>
         <translation>und %1</translation>
+    </message>
+    <message>
+        <source>“%1” has been written.</source>
+        <translation>„%1“ wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Die Vorgabe „%1“ wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>The settings have been saved as the preset “%1”.</source>
+        <translation>Die Einstellungen wurden als Vorgabe „%1“ gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -773,7 +1073,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The print server %1 has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Druckserver %1 antwortet nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1105,53 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>%1 takes %2.</source>
         <translation>%1 nimmt %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”. %3</source>
+        <translation>„%1“ muss auf „%2“ stehen. %3</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed here. %2</source>
+        <translation>„%1“ kann hier nicht geändert werden. %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreText</name>
+    <message>
+        <source>The presets in “%1” cannot be read or changed: %2.</source>
+        <translation>Die Vorgaben in „%1“ können nicht gelesen oder geändert werden: %2.</translation>
+    </message>
+    <message>
+        <source>There is no preset called “%1”.</source>
+        <translation>Es gibt keine Vorgabe namens „%1“.</translation>
+    </message>
+    <message>
+        <source>There is already a preset called “%1”.</source>
+        <translation>Es gibt bereits eine Vorgabe namens „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <translation>„%1“ ist für alle auf diesem Computer da; nur die Systemverwaltung kann diese Vorgabe ändern.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Vorgabe braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no space; “%1” would do.</source>
+        <translation>Der Name einer Vorgabe darf kein Leerzeichen enthalten; möglich wäre „%1“.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no control characters.</source>
+        <translation>Der Name einer Vorgabe darf keine Steuerzeichen enthalten.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <translation>Der Name einer Vorgabe darf keines dieser Zeichen enthalten: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -839,11 +1186,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Auftrag %1 konnte nicht abgebrochen werden.</translation>
     </message>
     <message>
         <source>Some of it may have been printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil wurde möglicherweise gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1226,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>All</source>
         <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1277,29 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1: </source>
         <comment>prompt for a value</comment>
         <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::ChangeMark</name>
+    <message>
+        <source>Back to What It Was</source>
+        <translation>Auf vorherigen Wert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Auf „%1“ zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>Geändert. %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Changed; it was “%1”</source>
+        <translation>Geändert; vorher „%1“</translation>
     </message>
 </context>
 <context>
@@ -986,6 +1364,24 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
         <translation>Gesicherte Einstellungen von „%1“ werden nicht mit dem Auftrag gesendet (%2): %3</translation>
     </message>
+    <message>
+        <source>“%1” stays “%2”. %3</source>
+        <translation>„%1“ bleibt auf „%2“. %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentBox</name>
+    <message>
+        <source>Documents to print</source>
+        <translation>Zu druckende Dokumente</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentChoice</name>
+    <message>
+        <source>Standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
 </context>
 <context>
     <name>host::GeneralPage</name>
@@ -1033,6 +1429,154 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Dokumente:</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Als PDF speichern …</translation>
+    </message>
+    <message>
+        <source>Write the pages into a file instead of printing them</source>
+        <translation>Die Seiten in eine Datei schreiben, statt sie zu drucken</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>The numbers count printed sides, each with %1 pages.</source>
+        <translation>Die Nummern zählen gedruckte Blattseiten mit je %1 Seiten.</translation>
+    </message>
+    <message>
+        <source>Choose at least one document.</source>
+        <translation>Wählen Sie mindestens ein Dokument.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Es gibt nur %1 gedruckte Blattseiten.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Das Dokument hat nur %1 Seiten.</translation>
+    </message>
+</context>
+<context>
+    <name>host::GreyedChoices</name>
+    <message>
+        <source>To use it, other settings have to change:</source>
+        <translation>Dafür müssen andere Einstellungen geändert werden:</translation>
+    </message>
+    <message>
+        <source>%1 instead of “%2”</source>
+        <comment>an option with its choice, and another choice</comment>
+        <translation>%1 statt „%2“</translation>
+    </message>
+    <message>
+        <source>This gives up “%1”, which protects your document.</source>
+        <translation>Dadurch entfällt „%1“ und damit dieser Schutz Ihres Dokuments.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Use It</source>
+        <translation>Ändern und &amp;verwenden</translation>
+    </message>
+    <message>
+        <source>Give Up Protection and &amp;Use It</source>
+        <translation>Auf Schutz verzichten und &amp;verwenden</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>Unveränder&amp;t lassen</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the way, and no change was found that clears it.</source>
+        <translation>„%1“ steht dem im Weg, und es wurde keine Änderung gefunden, die das behebt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not available now</source>
+        <translation>„%1“ ist jetzt nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>host::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Close &amp;Help</source>
+        <translation>&amp;Hilfe schließen</translation>
+    </message>
+</context>
+<context>
+    <name>host::LayoutForm</name>
+    <message>
+        <source>Page layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Pages per side:</source>
+        <translation>Seiten pro Blattseite:</translation>
+    </message>
+    <message>
+        <source>Order:</source>
+        <translation>Reihenfolge:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Rahmen:</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Skalierung:</translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation>Gerade oder ungerade:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
+    </message>
+</context>
+<context>
+    <name>host::LimitedProcess</name>
+    <message>
+        <source>it took too long</source>
+        <translation>es dauerte zu lange</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>es ist nicht genug Speicher vorhanden</translation>
+    </message>
+    <message>
+        <source>it ended unexpectedly</source>
+        <translation>das Programm wurde unerwartet beendet</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>das Programm kann nicht gestartet werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::LinkLabel</name>
+    <message>
+        <source>Shows the control of this setting</source>
+        <translation>Zeigt, wo diese Einstellung geändert werden kann</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
@@ -1072,12 +1616,213 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Summary</source>
         <translation>Zusammenfassung</translation>
     </message>
+    <message>
+        <source>These settings cannot be changed. %1</source>
+        <translation>Diese Einstellungen können nicht geändert werden. %1</translation>
+    </message>
+    <message>
+        <source>Fixed: %1. %2</source>
+        <translation>Nicht änderbar: %1. %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
         <translation>Seiten des Dialogs</translation>
+    </message>
+    <message>
+        <source>has changed settings</source>
+        <translation>enthält geänderte Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1: has changed settings</source>
+        <comment>a page</comment>
+        <translation>%1: enthält geänderte Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageMaker</name>
+    <message>
+        <source>there is no program here that shows this kind of document (%1)</source>
+        <translation>hier gibt es kein Programm, das diese Art von Dokument anzeigt (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>es ist nicht genug Speicher vorhanden</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 kann das Dokument nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfSaver</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfWriter</name>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>es ist eine Verknüpfung mit einer anderen Datei</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 kann das Dokument nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>The PDF file cannot be made: %1.</source>
+        <translation>Die PDF-Datei kann nicht erstellt werden: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <translation>Aus „%1“ kann keine PDF-Datei erstellt werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetDialog</name>
+    <message>
+        <source>Keep &amp;passwords and codes as well</source>
+        <translation>Auch &amp;Passwörter und Codes speichern</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Vorgabe umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Name der Vorgabe:</translation>
+    </message>
+    <message>
+        <source>Others who use this computer may read them in the file of the presets.</source>
+        <translation>Andere, die diesen Computer benutzen, können sie möglicherweise in der Datei der Vorgaben lesen.</translation>
+    </message>
+    <message>
+        <source>The preset of this name will be replaced.</source>
+        <translation>Die Vorgabe dieses Namens wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>There is already a preset of this name.</source>
+        <translation>Es gibt bereits eine Vorgabe dieses Namens.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+</context>
+<context>
+    <name>host::Preview</name>
+    <message>
+        <source>the document is read when it is printed</source>
+        <translation>das Dokument wird erst beim Drucken gelesen</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>the pages cannot be counted</source>
+        <translation>die Seiten können nicht gezählt werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 kann das Dokument nicht lesen</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Page after</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>No preview: %1.</source>
+        <translation>Keine Vorschau: %1.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown.</source>
+        <translation>Diese Seite kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Blatt %1, Vorderseite</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Blatt %1, Rückseite</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Shown as in the document</source>
+        <translation>Wie im Dokument angezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewStrip</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1907,26 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Ca&amp;ncel Printing</source>
         <translation>Druck &amp;abbrechen</translation>
     </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>„%1“ schützt Ihr Dokument. Wenn Sie trotzdem drucken, druckt der Drucker möglicherweise ohne diesen Schutz.</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>&amp;Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Die PDF-Datei wurde geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -1176,6 +1941,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Printers</source>
         <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Looking for printers on the network…</source>
+        <translation>Drucker werden im Netzwerk gesucht …</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +2038,148 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
         <translation>Ein vertraulicher Auftrag wird gedruckt, sobald Sie seinen Code am Drucker „%1“ eingeben.</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Auftrag &amp;abbrechen</translation>
+    </message>
+    <message>
+        <source>Print &amp;Again</source>
+        <translation>&amp;Erneut drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>Zurück&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Freigeben</translation>
+    </message>
+    <message>
+        <source>Pages printed so far: %1</source>
+        <translation>Bisher gedruckte Seiten: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::SearchBar</name>
+    <message>
+        <source>Find a setting</source>
+        <translation>Einstellung suchen</translation>
+    </message>
+    <message>
+        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
+        <translation>Geben Sie ein, was Sie suchen, in Ihren Worten oder so, wie der Druckertreiber es nennt. Die Eingabetaste (Return) führt zur Einstellung.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Suche schließen</translation>
+    </message>
+    <message>
+        <source>Settings found</source>
+        <translation>Gefundene Einstellungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) found</source>
+        <translation>
+            <numerusform>%n Einstellung gefunden</numerusform>
+            <numerusform>%n Einstellungen gefunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::SettingsControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Voreinstellungen des Druckers</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Meine Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>„%1“ speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>„%1“ umbenennen …</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>„%1“ löschen …</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>Als meine &amp;Voreinstellungen für diesen Drucker verwenden</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Vorgabe löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Die Vorgabe „%1“ löschen? Auch andere Programme verwenden sie.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryPage</name>
+    <message>
+        <source>S&amp;how changes only</source>
+        <translation>Nur Änderungen an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine Angabe</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <comment>what it was, what it is</comment>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed.</source>
+        <translation>Es wurde nichts geändert.</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>ApplicationText</name>
-    <message>
-        <source>%1 pages on each side</source>
-        <translation>%1 páginas en cada cara</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>la última página primero</translation>
-    </message>
-    <message>
-        <source>The application asks for: %1.</source>
-        <translation>La aplicación pide: %1.</translation>
-    </message>
-</context>
-<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -187,14 +172,6 @@
         <translation>--batch y --screenshot no se pueden combinar.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch or --summary.</source>
-        <translation>--resolve se usa con --batch o --summary.</translation>
-    </message>
-    <message>
-        <source>--json goes with --batch, --summary or --list-options.</source>
-        <translation>--json se usa con --batch, --summary o --list-options.</translation>
-    </message>
-    <message>
         <source>There is an option on the command line that this program does not have.</source>
         <translation>En la línea de comandos hay una opción que este programa no tiene.</translation>
     </message>
@@ -222,6 +199,38 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 4 cancelado, 5 no se sabe si se ha aceptado el trabajo. Más información en la página de manual kelmar-print(1).
 </translation>
     </message>
+    <message>
+        <source>With --batch: write the pages into this PDF file instead of printing them.</source>
+        <translation>Con --batch: guardar las páginas en este archivo PDF en lugar de imprimirlas.</translation>
+    </message>
+    <message>
+        <source>Write the presets of the printer.</source>
+        <translation>Escribir los preajustes de la impresora.</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <translation>Guardar los ajustes como preajuste de la impresora, sin contraseñas ni códigos.</translation>
+    </message>
+    <message>
+        <source>Delete a preset of the printer.</source>
+        <translation>Eliminar un preajuste de la impresora.</translation>
+    </message>
+    <message>
+        <source>--output goes with --batch.</source>
+        <translation>--output se usa con --batch.</translation>
+    </message>
+    <message>
+        <source>Presets belong to a printer; --ppd alone names none.</source>
+        <translation>Los preajustes pertenecen a una impresora; --ppd por sí solo no indica ninguna.</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch, --summary or --save-preset.</source>
+        <translation>--resolve se usa con --batch, --summary o --save-preset.</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
+        <translation>--json se usa con --batch, --summary, --list-options o un preajuste.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -239,6 +248,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>
+    </message>
+    <message>
+        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <translation>Las contraseñas y los códigos no se guardan en el preajuste; hay que indicarlos cada vez.</translation>
     </message>
 </context>
 <context>
@@ -336,6 +349,37 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>Explanation</name>
+    <message>
+        <source>How many times the document is printed.</source>
+        <translation>Cuántas veces se imprime el documento.</translation>
+    </message>
+    <message>
+        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
+        <translation>Imprime cada copia completa antes de empezar la siguiente, de modo que nadie tenga que ordenar las páginas.</translation>
+    </message>
+    <message>
+        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
+        <translation>Qué páginas se imprimen. Indique páginas sueltas e intervalos separados por comas, por ejemplo 1-3, 8.</translation>
+    </message>
+    <message>
+        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <translation>El tamaño del papel en el que se imprimen las páginas. Debe estar en una de las bandejas de la impresora.</translation>
+    </message>
+    <message>
+        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Cómo es el papel. La impresora arrastra y calienta de otra forma el papel grueso o estucado.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>La bandeja de la que se toma el papel.</translation>
+    </message>
+    <message>
+        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
+        <translation>Imprime en las dos caras del papel. El borde largo es para páginas que se pasan como las de un libro; el borde corto, para las que se pasan como las de un calendario.</translation>
+    </message>
+</context>
+<context>
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
@@ -379,6 +423,157 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>unknown</source>
         <translation>desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutText</name>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>De izquierda a derecha, luego hacia abajo</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>De izquierda a derecha, luego hacia arriba</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>De derecha a izquierda, luego hacia abajo</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>De derecha a izquierda, luego hacia arriba</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Hacia abajo, luego de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Hacia abajo, luego de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Hacia arriba, luego de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Hacia arriba, luego de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Línea fina</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Línea gruesa</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Dos líneas finas</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Dos líneas gruesas</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Como en el documento</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Landscape, turned around</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Portrait, turned around</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Páginas impares y pares</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Solo las páginas impares</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Solo las páginas pares</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Shrink to the page or cut off</source>
+        <translation>Reducir a la página o recortar</translation>
+    </message>
+    <message>
+        <source>Shrink to the page</source>
+        <translation>Reducir a la página</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Llenar la página</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True o False</translation>
+    </message>
+    <message>
+        <source>Pages per side</source>
+        <translation>Páginas por cara</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Borde</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientación</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Odd or even</source>
+        <translation>Impares o pares</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>La última página primero</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
     </message>
 </context>
 <context>
@@ -463,6 +658,80 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>none</source>
         <translation>ninguno</translation>
+    </message>
+</context>
+<context>
+    <name>PolicySystemText</name>
+    <message>
+        <source>The printer “%1” is not offered here. %2</source>
+        <translation>La impresora «%1» no se ofrece aquí. %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”.</source>
+        <translation>«%1» debe estar en «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”, with a code.</source>
+        <translation>«%1» debe estar en «%2», con un código.</translation>
+    </message>
+</context>
+<context>
+    <name>PolicyText</name>
+    <message>
+        <source>it is not one object in braces</source>
+        <translation>no es un único objeto entre llaves</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, línea %2, columna %3: %4</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here; known are %2</source>
+        <translation>«%1» no se conoce aquí; se conocen %2</translation>
+    </message>
+    <message>
+        <source>“%1” takes a list of names</source>
+        <translation>«%1» admite una lista de nombres</translation>
+    </message>
+    <message>
+        <source>“%1” takes an object of options and choices</source>
+        <translation>«%1» admite un objeto de opciones y valores</translation>
+    </message>
+    <message>
+        <source>“%1” takes a choice in quotes</source>
+        <translation>«%1» admite un valor entre comillas</translation>
+    </message>
+    <message>
+        <source>“contact” takes a text</source>
+        <translation>«contact» admite un texto</translation>
+    </message>
+    <message>
+        <source>“rules” takes a list</source>
+        <translation>«rules» admite una lista</translation>
+    </message>
+    <message>
+        <source>“rules” takes objects in braces</source>
+        <translation>«rules» admite objetos entre llaves</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 1 MB.</source>
+        <translation>%1 ocupa más de 1 MB.</translation>
+    </message>
+    <message>
+        <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
+        <translation>Las reglas de impresión del administrador no se aplican porque no se pueden leer. Informe a su administrador: %1</translation>
+    </message>
+    <message>
+        <source>Set by the administrator.</source>
+        <translation>Así lo ha fijado el administrador.</translation>
+    </message>
+    <message>
+        <source>Set by the administrator (%1).</source>
+        <translation>Así lo ha fijado el administrador (%1).</translation>
     </message>
 </context>
 <context>
@@ -619,6 +888,21 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>PresetText</name>
+    <message>
+        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <translation>Un preajuste no puede guardar el valor de «%1»: contiene un tabulador, un salto de línea u otro carácter que no se puede escribir en su archivo.</translation>
+    </message>
+    <message>
+        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
+        <translation>Son más ajustes de los que puede guardar un preajuste: su archivo admite %1 bytes.</translation>
+    </message>
+    <message>
+        <source>This printer does not have what these settings ask for: %1.</source>
+        <translation>Esta impresora no tiene lo que piden estos ajustes: %1.</translation>
+    </message>
+</context>
+<context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
@@ -646,6 +930,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Ready</source>
         <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Encontrada en la red</translation>
     </message>
 </context>
 <context>
@@ -696,6 +984,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Proposal (accepted with --resolve):</source>
         <translation>Propuesta (se acepta con --resolve):</translation>
+    </message>
+    <message>
+        <source>“%1” has been written.</source>
+        <translation>Se ha guardado «%1».</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Se ha eliminado el preajuste «%1».</translation>
+    </message>
+    <message>
+        <source>The settings have been saved as the preset “%1”.</source>
+        <translation>Los ajustes se han guardado como el preajuste «%1».</translation>
     </message>
 </context>
 <context>
@@ -773,7 +1073,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>The print server %1 has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor de impresión %1 ha dejado de responder.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1105,53 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>%1 is not sent with the job: %2</source>
         <translation>%1 no se envía con el trabajo: %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”. %3</source>
+        <translation>«%1» debe estar en «%2». %3</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed here. %2</source>
+        <translation>«%1» no se puede cambiar aquí. %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreText</name>
+    <message>
+        <source>The presets in “%1” cannot be read or changed: %2.</source>
+        <translation>No se pueden leer o cambiar los preajustes de «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>There is no preset called “%1”.</source>
+        <translation>No hay ningún preajuste llamado «%1».</translation>
+    </message>
+    <message>
+        <source>There is already a preset called “%1”.</source>
+        <translation>Ya existe un preajuste llamado «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <translation>«%1» es común a todos los usuarios de este equipo; solo un administrador puede cambiarlo.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un preajuste necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>El nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no space; “%1” would do.</source>
+        <translation>El nombre de un preajuste no puede contener espacios; serviría «%1».</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no control characters.</source>
+        <translation>El nombre de un preajuste no puede contener caracteres de control.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <translation>El nombre de un preajuste no puede contener ninguno de estos caracteres: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -839,11 +1186,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido cancelar el trabajo %1.</translation>
     </message>
     <message>
         <source>Some of it may have been printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es posible que se haya impreso una parte.</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1226,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>All</source>
         <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selección</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1277,29 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1: </source>
         <comment>prompt for a value</comment>
         <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::ChangeMark</name>
+    <message>
+        <source>Back to What It Was</source>
+        <translation>Volver al valor anterior</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Volver a «%1»</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>Cambiado. %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiado</translation>
+    </message>
+    <message>
+        <source>Changed; it was “%1”</source>
+        <translation>Cambiado; antes era «%1»</translation>
     </message>
 </context>
 <context>
@@ -986,6 +1364,24 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” stays “%2”. %3</source>
+        <translation>«%1» sigue en «%2». %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentBox</name>
+    <message>
+        <source>Documents to print</source>
+        <translation>Documentos que se van a imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentChoice</name>
+    <message>
+        <source>Standard input</source>
+        <translation>Entrada estándar</translation>
+    </message>
 </context>
 <context>
     <name>host::GeneralPage</name>
@@ -1033,6 +1429,154 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Type which pages are to be printed, or choose all.</source>
         <translation>Escriba qué páginas se van a imprimir o elija todas.</translation>
     </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Documentos:</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Guardar como PDF…</translation>
+    </message>
+    <message>
+        <source>Write the pages into a file instead of printing them</source>
+        <translation>Guardar las páginas en un archivo en lugar de imprimirlas</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>The numbers count printed sides, each with %1 pages.</source>
+        <translation>Los números cuentan caras impresas, cada una con %1 páginas.</translation>
+    </message>
+    <message>
+        <source>Choose at least one document.</source>
+        <translation>Elija al menos un documento.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Solo hay %1 caras impresas.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>El documento solo tiene %1 páginas.</translation>
+    </message>
+</context>
+<context>
+    <name>host::GreyedChoices</name>
+    <message>
+        <source>To use it, other settings have to change:</source>
+        <translation>Para usarlo hay que cambiar otros ajustes:</translation>
+    </message>
+    <message>
+        <source>%1 instead of “%2”</source>
+        <comment>an option with its choice, and another choice</comment>
+        <translation>%1 en lugar de «%2»</translation>
+    </message>
+    <message>
+        <source>This gives up “%1”, which protects your document.</source>
+        <translation>Con ello se renuncia a «%1», que protege su documento.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Use It</source>
+        <translation>Cambiar y &amp;usar</translation>
+    </message>
+    <message>
+        <source>Give Up Protection and &amp;Use It</source>
+        <translation>Renunciar a la protección y &amp;usar</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>De&amp;jar como está</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the way, and no change was found that clears it.</source>
+        <translation>«%1» lo impide y no se ha encontrado ningún cambio que lo resuelva.</translation>
+    </message>
+    <message>
+        <source>“%1” is not available now</source>
+        <translation>«%1» no está disponible ahora</translation>
+    </message>
+</context>
+<context>
+    <name>host::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Close &amp;Help</source>
+        <translation>Cerrar la a&amp;yuda</translation>
+    </message>
+</context>
+<context>
+    <name>host::LayoutForm</name>
+    <message>
+        <source>Page layout</source>
+        <translation>Disposición de las páginas</translation>
+    </message>
+    <message>
+        <source>Pages per side:</source>
+        <translation>Páginas por cara:</translation>
+    </message>
+    <message>
+        <source>Order:</source>
+        <translation>Orden:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Borde:</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientación:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation>Impares o pares:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>La última página primero</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>No disponible mientras «%1» esté en «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::LimitedProcess</name>
+    <message>
+        <source>it took too long</source>
+        <translation>ha tardado demasiado</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>it ended unexpectedly</source>
+        <translation>ha terminado de forma inesperada</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>no se puede iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>host::LinkLabel</name>
+    <message>
+        <source>Shows the control of this setting</source>
+        <translation>Muestra el control de este ajuste</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
@@ -1072,12 +1616,213 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Summary</source>
         <translation>Resumen</translation>
     </message>
+    <message>
+        <source>These settings cannot be changed. %1</source>
+        <translation>Estos ajustes no se pueden cambiar. %1</translation>
+    </message>
+    <message>
+        <source>Fixed: %1. %2</source>
+        <translation>Valores fijos: %1. %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
         <translation>Páginas del diálogo</translation>
+    </message>
+    <message>
+        <source>has changed settings</source>
+        <translation>tiene ajustes cambiados</translation>
+    </message>
+    <message>
+        <source>%1: has changed settings</source>
+        <comment>a page</comment>
+        <translation>%1: tiene ajustes cambiados</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageMaker</name>
+    <message>
+        <source>there is no program here that shows this kind of document (%1)</source>
+        <translation>en este equipo no hay ningún programa que muestre este tipo de documento (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 no está instalado</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 no puede leer el documento</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ha fallado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfSaver</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Guardar como PDF</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Archivos PDF (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfWriter</name>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>No se puede escribir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>es un enlace a otro archivo</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 no puede leer el documento</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 no está instalado</translation>
+    </message>
+    <message>
+        <source>The PDF file cannot be made: %1.</source>
+        <translation>No se puede crear el archivo PDF: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <translation>No se puede convertir «%1» en un archivo PDF: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetDialog</name>
+    <message>
+        <source>Keep &amp;passwords and codes as well</source>
+        <translation>Guardar también las con&amp;traseñas y los códigos</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Guardar ajustes</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renombrar preajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Nombre del preajuste:</translation>
+    </message>
+    <message>
+        <source>Others who use this computer may read them in the file of the presets.</source>
+        <translation>Otras personas que usan este equipo podrían leerlos en el archivo de los preajustes.</translation>
+    </message>
+    <message>
+        <source>The preset of this name will be replaced.</source>
+        <translation>Se reemplazará el preajuste que tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>There is already a preset of this name.</source>
+        <translation>Ya existe un preajuste con este nombre.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renombrar</translation>
+    </message>
+</context>
+<context>
+    <name>host::Preview</name>
+    <message>
+        <source>the document is read when it is printed</source>
+        <translation>el documento se lee al imprimirlo</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 no está instalado</translation>
+    </message>
+    <message>
+        <source>the pages cannot be counted</source>
+        <translation>no se pueden contar las páginas</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 no puede leer el documento</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ha fallado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Page after</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>No preview: %1.</source>
+        <translation>Sin vista previa: %1.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown.</source>
+        <translation>No se puede mostrar esta página.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Hoja %1, anverso</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Hoja %1, reverso</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Shown as in the document</source>
+        <translation>Se muestra como en el documento</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewStrip</name>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1907,26 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
     </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» protege su documento. Si imprime igualmente, es posible que la impresora imprima sin esa protección.</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Usar ig&amp;ualmente</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Imprimir ig&amp;ualmente</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Se ha guardado el archivo PDF</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -1176,6 +1941,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Printers</source>
         <translation>Impresoras</translation>
+    </message>
+    <message>
+        <source>Looking for printers on the network…</source>
+        <translation>Buscando impresoras en la red…</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +2038,148 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
         <translation>Un trabajo confidencial se imprime cuando usted introduce su código en la impresora «%1».</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Cancelar el &amp;trabajo</translation>
+    </message>
+    <message>
+        <source>Print &amp;Again</source>
+        <translation>Imprimir de n&amp;uevo</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>&amp;Retener</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Liberar</translation>
+    </message>
+    <message>
+        <source>Pages printed so far: %1</source>
+        <translation>Páginas impresas hasta ahora: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::SearchBar</name>
+    <message>
+        <source>Find a setting</source>
+        <translation>Buscar un ajuste</translation>
+    </message>
+    <message>
+        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
+        <translation>Escriba lo que busca, con sus propias palabras o como lo llama el controlador de la impresora. Intro lleva al ajuste.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>No se ha encontrado nada</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Settings found</source>
+        <translation>Ajustes encontrados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) found</source>
+        <translation>
+            <numerusform>%n ajuste encontrado</numerusform>
+            <numerusform>%n ajustes encontrados</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::SettingsControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valores predeterminados de la impresora</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Mis valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Últimos usados</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (con cambios)</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Ajustes: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Guardar «%1»</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Renombrar «%1»…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Eliminar «%1»…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>&amp;Usar como mis valores predeterminados para esta impresora</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Eliminar preajuste</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>¿Eliminar el preajuste «%1»? Otros programas también lo usan.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryPage</name>
+    <message>
+        <source>S&amp;how changes only</source>
+        <translation>&amp;Mostrar solo los cambios</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <comment>what it was, what it is</comment>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed.</source>
+        <translation>No se ha cambiado nada.</translation>
     </message>
 </context>
 <context>

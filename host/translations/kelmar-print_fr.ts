@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>ApplicationText</name>
-    <message>
-        <source>%1 pages on each side</source>
-        <translation>%1 pages par face</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>dernière page en premier</translation>
-    </message>
-    <message>
-        <source>The application asks for: %1.</source>
-        <translation>L’application demande : %1.</translation>
-    </message>
-</context>
-<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -159,14 +144,6 @@
         <translation>--batch et --screenshot ne vont pas ensemble.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch or --summary.</source>
-        <translation>--resolve s’emploie avec --batch ou --summary.</translation>
-    </message>
-    <message>
-        <source>--json goes with --batch, --summary or --list-options.</source>
-        <translation>--json s’emploie avec --batch, --summary ou --list-options.</translation>
-    </message>
-    <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
 Print documents, with a dialog for the settings or without one.
 
@@ -222,6 +199,38 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
 4 annulé, 5 on ne sait pas si la tâche a été acceptée. Voir aussi la page de manuel kelmar-print(1).
 </translation>
     </message>
+    <message>
+        <source>With --batch: write the pages into this PDF file instead of printing them.</source>
+        <translation>Avec --batch : écrire les pages dans ce fichier PDF au lieu de les imprimer.</translation>
+    </message>
+    <message>
+        <source>Write the presets of the printer.</source>
+        <translation>Écrire les préréglages de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <translation>Conserver les réglages comme préréglage de l’imprimante, sans les mots de passe ni les codes.</translation>
+    </message>
+    <message>
+        <source>Delete a preset of the printer.</source>
+        <translation>Supprimer un préréglage de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>--output goes with --batch.</source>
+        <translation>--output s’emploie avec --batch.</translation>
+    </message>
+    <message>
+        <source>Presets belong to a printer; --ppd alone names none.</source>
+        <translation>Les préréglages sont liés à une imprimante ; --ppd seul n’en désigne aucune.</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch, --summary or --save-preset.</source>
+        <translation>--resolve s’emploie avec --batch, --summary ou --save-preset.</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
+        <translation>--json s’emploie avec --batch, --summary, --list-options ou un préréglage.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -239,6 +248,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Aucune solution conservant « %1 » n’a été trouvée : modifiez vous-même l’un des réglages.</translation>
+    </message>
+    <message>
+        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <translation>Les mots de passe et les codes ne sont pas conservés dans le préréglage ; il faut les indiquer à chaque fois.</translation>
     </message>
 </context>
 <context>
@@ -336,6 +349,37 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>Explanation</name>
+    <message>
+        <source>How many times the document is printed.</source>
+        <translation>Le nombre de fois que le document est imprimé.</translation>
+    </message>
+    <message>
+        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
+        <translation>Imprime chaque copie en entier avant de commencer la suivante : personne n’a à trier les pages.</translation>
+    </message>
+    <message>
+        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
+        <translation>Les pages à imprimer. Indiquez des pages isolées et des plages séparées par des virgules, par exemple 1-3, 8.</translation>
+    </message>
+    <message>
+        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <translation>Le format du papier sur lequel les pages sont imprimées. Il doit se trouver dans l’un des bacs de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>La nature du papier. L’imprimante entraîne et chauffe différemment le papier épais ou couché.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Le bac dans lequel le papier est pris.</translation>
+    </message>
+    <message>
+        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
+        <translation>Imprime sur les deux faces du papier. Le bord long convient aux pages qui se tournent comme un livre, le bord court à celles qui se tournent comme un calendrier.</translation>
+    </message>
+</context>
+<context>
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
@@ -379,6 +423,157 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>unknown</source>
         <translation>inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutText</name>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>De gauche à droite, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>De gauche à droite, puis vers le haut</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>De droite à gauche, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>De droite à gauche, puis vers le haut</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Vers le bas, puis de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Vers le bas, puis de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Vers le haut, puis de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Vers le haut, puis de droite à gauche</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Trait fin</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Trait épais</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Deux traits fins</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Deux traits épais</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Comme dans le document</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Landscape, turned around</source>
+        <translation>Paysage, retourné</translation>
+    </message>
+    <message>
+        <source>Portrait, turned around</source>
+        <translation>Portrait, retourné</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Pages impaires et paires</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Pages impaires seulement</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Pages paires seulement</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Shrink to the page or cut off</source>
+        <translation>Réduire à la page ou rogner</translation>
+    </message>
+    <message>
+        <source>Shrink to the page</source>
+        <translation>Réduire à la page</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Remplir la page</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True ou False</translation>
+    </message>
+    <message>
+        <source>Pages per side</source>
+        <translation>Pages par face</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Odd or even</source>
+        <translation>Impaires ou paires</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
     </message>
 </context>
 <context>
@@ -463,6 +658,80 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>none</source>
         <translation>aucun</translation>
+    </message>
+</context>
+<context>
+    <name>PolicySystemText</name>
+    <message>
+        <source>The printer “%1” is not offered here. %2</source>
+        <translation>L’imprimante « %1 » n’est pas proposée ici. %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”.</source>
+        <translation>« %1 » doit être réglé sur « %2 ».</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”, with a code.</source>
+        <translation>« %1 » doit être réglé sur « %2 », avec un code.</translation>
+    </message>
+</context>
+<context>
+    <name>PolicyText</name>
+    <message>
+        <source>it is not one object in braces</source>
+        <translation>ce n’est pas un objet unique entre accolades</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, ligne %2, colonne %3 : %4</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here; known are %2</source>
+        <translation>« %1 » est inconnu ici ; sont connus : %2</translation>
+    </message>
+    <message>
+        <source>“%1” takes a list of names</source>
+        <translation>« %1 » prend une liste de noms</translation>
+    </message>
+    <message>
+        <source>“%1” takes an object of options and choices</source>
+        <translation>« %1 » prend un objet d’options et de choix</translation>
+    </message>
+    <message>
+        <source>“%1” takes a choice in quotes</source>
+        <translation>« %1 » prend un choix entre guillemets</translation>
+    </message>
+    <message>
+        <source>“contact” takes a text</source>
+        <translation>« contact » prend un texte</translation>
+    </message>
+    <message>
+        <source>“rules” takes a list</source>
+        <translation>« rules » prend une liste</translation>
+    </message>
+    <message>
+        <source>“rules” takes objects in braces</source>
+        <translation>« rules » prend des objets entre accolades</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 est illisible : %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 1 MB.</source>
+        <translation>%1 dépasse 1 Mo.</translation>
+    </message>
+    <message>
+        <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
+        <translation>Les règles d’impression de l’administrateur ne sont pas appliquées, car elles sont illisibles. Veuillez en informer votre administrateur : %1</translation>
+    </message>
+    <message>
+        <source>Set by the administrator.</source>
+        <translation>Défini par l’administrateur.</translation>
+    </message>
+    <message>
+        <source>Set by the administrator (%1).</source>
+        <translation>Défini par l’administrateur (%1).</translation>
     </message>
 </context>
 <context>
@@ -619,6 +888,21 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
 </context>
 <context>
+    <name>PresetText</name>
+    <message>
+        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <translation>Un préréglage ne peut pas conserver la valeur de « %1 » : elle contient une tabulation, un saut de ligne ou un autre caractère que son fichier ne permet pas d’écrire.</translation>
+    </message>
+    <message>
+        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
+        <translation>Ces réglages sont trop nombreux pour un préréglage : son fichier accepte %1 octets.</translation>
+    </message>
+    <message>
+        <source>This printer does not have what these settings ask for: %1.</source>
+        <translation>Cette imprimante n’a pas ce que ces réglages demandent : %1.</translation>
+    </message>
+</context>
+<context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
@@ -646,6 +930,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>Ready</source>
         <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trouvée sur le réseau</translation>
     </message>
 </context>
 <context>
@@ -696,6 +984,18 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>and %1</source>
         <translation>et %1</translation>
+    </message>
+    <message>
+        <source>“%1” has been written.</source>
+        <translation>« %1 » a été écrit.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>Le préréglage « %1 » a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The settings have been saved as the preset “%1”.</source>
+        <translation>Les réglages ont été enregistrés dans le préréglage « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -773,7 +1073,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The print server %1 has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur d’impression %1 ne répond plus.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1105,53 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1 takes %2.</source>
         <translation>%1 prend %2.</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”. %3</source>
+        <translation>« %1 » doit être réglé sur « %2 ». %3</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed here. %2</source>
+        <translation>« %1 » ne peut pas être modifié ici. %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreText</name>
+    <message>
+        <source>The presets in “%1” cannot be read or changed: %2.</source>
+        <translation>Les préréglages de « %1 » ne peuvent être ni lus ni modifiés : %2.</translation>
+    </message>
+    <message>
+        <source>There is no preset called “%1”.</source>
+        <translation>Il n’y a pas de préréglage nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is already a preset called “%1”.</source>
+        <translation>Il y a déjà un préréglage nommé « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <translation>« %1 » est destiné à tous les utilisateurs de cet ordinateur ; seul un administrateur peut le modifier.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un préréglage doit avoir un nom.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no space; “%1” would do.</source>
+        <translation>Le nom d’un préréglage ne peut pas contenir d’espace ; « %1 » conviendrait.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no control characters.</source>
+        <translation>Le nom d’un préréglage ne peut pas contenir de caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <translation>Le nom d’un préréglage ne peut contenir aucun de ces caractères : / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -839,11 +1186,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tâche %1 n’a pas pu être annulée.</translation>
     </message>
     <message>
         <source>Some of it may have been printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie a peut-être été imprimée.</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1226,14 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>All</source>
         <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Page actuelle</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1277,29 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>%1: </source>
         <comment>prompt for a value</comment>
         <translation>%1 : </translation>
+    </message>
+</context>
+<context>
+    <name>host::ChangeMark</name>
+    <message>
+        <source>Back to What It Was</source>
+        <translation>Revenir à la valeur d’avant</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Revenir à « %1 »</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>Modifié. %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Changed; it was “%1”</source>
+        <translation>Modifié ; c’était « %1 »</translation>
     </message>
 </context>
 <context>
@@ -986,6 +1364,24 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
         <translation>Des réglages enregistrés de « %1 » ne sont pas envoyés avec la tâche (%2) : %3</translation>
     </message>
+    <message>
+        <source>“%1” stays “%2”. %3</source>
+        <translation>« %1 » reste réglé sur « %2 ». %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentBox</name>
+    <message>
+        <source>Documents to print</source>
+        <translation>Documents à imprimer</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentChoice</name>
+    <message>
+        <source>Standard input</source>
+        <translation>Entrée standard</translation>
+    </message>
 </context>
 <context>
     <name>host::GeneralPage</name>
@@ -1033,6 +1429,154 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
     </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Documents :</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Enregistrer en PDF…</translation>
+    </message>
+    <message>
+        <source>Write the pages into a file instead of printing them</source>
+        <translation>Écrire les pages dans un fichier au lieu de les imprimer</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Page actuelle</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>The numbers count printed sides, each with %1 pages.</source>
+        <translation>Les numéros comptent les faces imprimées, de %1 pages chacune.</translation>
+    </message>
+    <message>
+        <source>Choose at least one document.</source>
+        <translation>Choisissez au moins un document.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Il n’y a que %1 faces imprimées.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Le document n’a que %1 pages.</translation>
+    </message>
+</context>
+<context>
+    <name>host::GreyedChoices</name>
+    <message>
+        <source>To use it, other settings have to change:</source>
+        <translation>Pour l’utiliser, d’autres réglages doivent changer :</translation>
+    </message>
+    <message>
+        <source>%1 instead of “%2”</source>
+        <comment>an option with its choice, and another choice</comment>
+        <translation>%1 au lieu de « %2 »</translation>
+    </message>
+    <message>
+        <source>This gives up “%1”, which protects your document.</source>
+        <translation>Cela revient à renoncer à « %1 », qui protège votre document.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Use It</source>
+        <translation>Modifier et &amp;utiliser</translation>
+    </message>
+    <message>
+        <source>Give Up Protection and &amp;Use It</source>
+        <translation>Renoncer à la protection et &amp;utiliser</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Laisser tel quel</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the way, and no change was found that clears it.</source>
+        <translation>« %1 » s’y oppose, et aucune modification permettant de lever cet obstacle n’a été trouvée.</translation>
+    </message>
+    <message>
+        <source>“%1” is not available now</source>
+        <translation>« %1 » n’est pas disponible actuellement</translation>
+    </message>
+</context>
+<context>
+    <name>host::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Close &amp;Help</source>
+        <translation>Fermer l’ai&amp;de</translation>
+    </message>
+</context>
+<context>
+    <name>host::LayoutForm</name>
+    <message>
+        <source>Page layout</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Pages per side:</source>
+        <translation>Pages par face :</translation>
+    </message>
+    <message>
+        <source>Order:</source>
+        <translation>Ordre :</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Bordure :</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation :</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation>Impaires ou paires :</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::LimitedProcess</name>
+    <message>
+        <source>it took too long</source>
+        <translation>l’opération a pris trop de temps</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la mémoire est insuffisante</translation>
+    </message>
+    <message>
+        <source>it ended unexpectedly</source>
+        <translation>le programme s’est terminé de façon inattendue</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>le programme ne peut pas être lancé</translation>
+    </message>
+</context>
+<context>
+    <name>host::LinkLabel</name>
+    <message>
+        <source>Shows the control of this setting</source>
+        <translation>Affiche la commande de ce réglage</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
@@ -1072,12 +1616,213 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Summary</source>
         <translation>Résumé</translation>
     </message>
+    <message>
+        <source>These settings cannot be changed. %1</source>
+        <translation>Ces réglages ne peuvent pas être modifiés. %1</translation>
+    </message>
+    <message>
+        <source>Fixed: %1. %2</source>
+        <translation>Imposé : %1. %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
         <translation>Pages du dialogue</translation>
+    </message>
+    <message>
+        <source>has changed settings</source>
+        <translation>contient des réglages modifiés</translation>
+    </message>
+    <message>
+        <source>%1: has changed settings</source>
+        <comment>a page</comment>
+        <translation>%1 : contient des réglages modifiés</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageMaker</name>
+    <message>
+        <source>there is no program here that shows this kind of document (%1)</source>
+        <translation>aucun programme ne permet ici d’afficher ce type de document (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 n’est pas installé</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la mémoire est insuffisante</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 ne peut pas lire le document</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 a échoué : %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfSaver</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Enregistrer en PDF</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>Fichiers PDF (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfWriter</name>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>c’est un lien vers un autre fichier</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 ne peut pas lire le document</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 n’est pas installé</translation>
+    </message>
+    <message>
+        <source>The PDF file cannot be made: %1.</source>
+        <translation>Le fichier PDF ne peut pas être créé : %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <translation>« %1 » ne peut pas être converti en fichier PDF : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetDialog</name>
+    <message>
+        <source>Keep &amp;passwords and codes as well</source>
+        <translation>Conserver aussi les mots de &amp;passe et les codes</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Enregistrer les réglages</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Renommer le préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Nom du préréglage :</translation>
+    </message>
+    <message>
+        <source>Others who use this computer may read them in the file of the presets.</source>
+        <translation>Les autres utilisateurs de cet ordinateur pourraient les lire dans le fichier des préréglages.</translation>
+    </message>
+    <message>
+        <source>The preset of this name will be replaced.</source>
+        <translation>Le préréglage de ce nom sera remplacé.</translation>
+    </message>
+    <message>
+        <source>There is already a preset of this name.</source>
+        <translation>Il y a déjà un préréglage de ce nom.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+</context>
+<context>
+    <name>host::Preview</name>
+    <message>
+        <source>the document is read when it is printed</source>
+        <translation>le document est lu au moment de l’impression</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 n’est pas installé</translation>
+    </message>
+    <message>
+        <source>the pages cannot be counted</source>
+        <translation>les pages ne peuvent pas être comptées</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 ne peut pas lire le document</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 a échoué : %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Page after</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>No preview: %1.</source>
+        <translation>Pas d’aperçu : %1.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown.</source>
+        <translation>Cette page ne peut pas être affichée.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Feuille %1, recto</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Feuille %1, verso</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Shown as in the document</source>
+        <translation>Affiché comme dans le document</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewStrip</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1907,26 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Ca&amp;ncel Printing</source>
         <translation>&amp;Annuler l’impression</translation>
     </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>« %1 » protège votre document. Si vous imprimez quand même, l’imprimante risque d’imprimer sans cette protection.</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Utiliser &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Imprimer &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Le fichier PDF a été écrit</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -1176,6 +1941,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>Printers</source>
         <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <source>Looking for printers on the network…</source>
+        <translation>Recherche d’imprimantes sur le réseau…</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +2038,148 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
         <translation>Une tâche confidentielle est imprimée dès que vous saisissez son code sur l’imprimante « %1 ».</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Annuler la &amp;tâche</translation>
+    </message>
+    <message>
+        <source>Print &amp;Again</source>
+        <translation>Imprimer à &amp;nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>&amp;Suspendre</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Libérer</translation>
+    </message>
+    <message>
+        <source>Pages printed so far: %1</source>
+        <translation>Pages imprimées jusqu’ici : %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::SearchBar</name>
+    <message>
+        <source>Find a setting</source>
+        <translation>Rechercher un réglage</translation>
+    </message>
+    <message>
+        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
+        <translation>Saisissez ce que vous cherchez, avec vos mots ou ceux du pilote de l’imprimante. La touche Entrée mène au réglage.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Aucun résultat</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Fermer la recherche</translation>
+    </message>
+    <message>
+        <source>Settings found</source>
+        <translation>Réglages trouvés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) found</source>
+        <translation>
+            <numerusform>%n réglage trouvé</numerusform>
+            <numerusform>%n réglages trouvés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::SettingsControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler la modification</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valeurs par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Mes valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Derniers réglages utilisés</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Réglages : %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Enregistrer « %1 »</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Renommer « %1 »…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Supprimer « %1 »…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>Utiliser par &amp;défaut pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Supprimer le préréglage « %1 » ? D’autres programmes l’utilisent aussi.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryPage</name>
+    <message>
+        <source>S&amp;how changes only</source>
+        <translation>Afficher uniquement les m&amp;odifications</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <comment>what it was, what it is</comment>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed.</source>
+        <translation>Rien n’a été modifié.</translation>
     </message>
 </context>
 <context>

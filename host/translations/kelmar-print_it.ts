@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
-    <name>ApplicationText</name>
-    <message>
-        <source>%1 pages on each side</source>
-        <translation>%1 pagine su ogni facciata</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>l’ultima pagina per prima</translation>
-    </message>
-    <message>
-        <source>The application asks for: %1.</source>
-        <translation>L’applicazione chiede: %1.</translation>
-    </message>
-</context>
-<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -187,14 +172,6 @@
         <translation>--batch e --screenshot non possono essere usati insieme.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch or --summary.</source>
-        <translation>--resolve si usa con --batch o --summary.</translation>
-    </message>
-    <message>
-        <source>--json goes with --batch, --summary or --list-options.</source>
-        <translation>--json si usa con --batch, --summary o --list-options.</translation>
-    </message>
-    <message>
         <source>There is an option on the command line that this program does not have.</source>
         <translation>Sulla riga di comando c’è un’opzione che questo programma non ha.</translation>
     </message>
@@ -222,6 +199,38 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 4 annullato, 5 non è noto se il lavoro sia stato accettato. Maggiori informazioni nella pagina di manuale kelmar-print(1).
 </translation>
     </message>
+    <message>
+        <source>With --batch: write the pages into this PDF file instead of printing them.</source>
+        <translation>Con --batch: scrive le pagine in questo file PDF invece di stamparle.</translation>
+    </message>
+    <message>
+        <source>Write the presets of the printer.</source>
+        <translation>Scrive le preimpostazioni della stampante.</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <translation>Conserva le impostazioni come preimpostazione della stampante, senza password né codici.</translation>
+    </message>
+    <message>
+        <source>Delete a preset of the printer.</source>
+        <translation>Elimina una preimpostazione della stampante.</translation>
+    </message>
+    <message>
+        <source>--output goes with --batch.</source>
+        <translation>--output si usa con --batch.</translation>
+    </message>
+    <message>
+        <source>Presets belong to a printer; --ppd alone names none.</source>
+        <translation>Le preimpostazioni appartengono a una stampante; --ppd da solo non ne indica nessuna.</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch, --summary or --save-preset.</source>
+        <translation>--resolve si usa con --batch, --summary o --save-preset.</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
+        <translation>--json si usa con --batch, --summary, --list-options o una preimpostazione.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -239,6 +248,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+    </message>
+    <message>
+        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <translation>Le password e i codici non vengono conservati nella preimpostazione; vanno forniti ogni volta.</translation>
     </message>
 </context>
 <context>
@@ -336,6 +349,37 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>Explanation</name>
+    <message>
+        <source>How many times the document is printed.</source>
+        <translation>Quante volte viene stampato il documento.</translation>
+    </message>
+    <message>
+        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
+        <translation>Stampa ogni copia per intero prima di iniziare la successiva, così nessuno deve riordinare le pagine.</translation>
+    </message>
+    <message>
+        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
+        <translation>Quali pagine vengono stampate. Indicare singole pagine e intervalli separati da virgole, per esempio 1-3, 8.</translation>
+    </message>
+    <message>
+        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <translation>Le dimensioni della carta su cui vengono stampate le pagine. La carta deve trovarsi in uno dei vassoi della stampante.</translation>
+    </message>
+    <message>
+        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Com’è la carta. La stampante alimenta e riscalda in modo diverso la carta pesante o patinata.</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>Il vassoio da cui viene prelevata la carta.</translation>
+    </message>
+    <message>
+        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
+        <translation>Stampa su fronte e retro del foglio. Il lato lungo è per le pagine che si girano come quelle di un libro, il lato corto per quelle che si girano come i fogli di un calendario.</translation>
+    </message>
+</context>
+<context>
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
@@ -379,6 +423,157 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>unknown</source>
         <translation>sconosciuto</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutText</name>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Da sinistra a destra, poi verso il basso</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>Da sinistra a destra, poi verso l’alto</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Da destra a sinistra, poi verso il basso</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>Da destra a sinistra, poi verso l’alto</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Verso il basso, poi da sinistra a destra</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Verso il basso, poi da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Verso l’alto, poi da sinistra a destra</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Verso l’alto, poi da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>Linea sottile</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>Linea spessa</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>Due linee sottili</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>Due linee spesse</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Come nel documento</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Landscape, turned around</source>
+        <translation>Orizzontale capovolto</translation>
+    </message>
+    <message>
+        <source>Portrait, turned around</source>
+        <translation>Verticale capovolto</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Pagine dispari e pari</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Solo le pagine dispari</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Solo le pagine pari</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>Shrink to the page or cut off</source>
+        <translation>Riduci alla pagina o taglia</translation>
+    </message>
+    <message>
+        <source>Shrink to the page</source>
+        <translation>Riduci alla pagina</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Adatta alla pagina</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Riempi la pagina</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Dimensioni reali</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True o False</translation>
+    </message>
+    <message>
+        <source>Pages per side</source>
+        <translation>Pagine per facciata</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Bordo</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientamento</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensioni</translation>
+    </message>
+    <message>
+        <source>Odd or even</source>
+        <translation>Dispari o pari</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>L’ultima pagina per prima</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
     </message>
 </context>
 <context>
@@ -463,6 +658,80 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>none</source>
         <translation>nessuno</translation>
+    </message>
+</context>
+<context>
+    <name>PolicySystemText</name>
+    <message>
+        <source>The printer “%1” is not offered here. %2</source>
+        <translation>La stampante «%1» qui non è disponibile. %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”.</source>
+        <translation>«%1» deve essere impostato su «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”, with a code.</source>
+        <translation>«%1» deve essere impostato su «%2», con un codice.</translation>
+    </message>
+</context>
+<context>
+    <name>PolicyText</name>
+    <message>
+        <source>it is not one object in braces</source>
+        <translation>non è un unico oggetto tra parentesi graffe</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1, riga %2, colonna %3: %4</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here; known are %2</source>
+        <translation>«%1» qui non è noto; sono noti %2</translation>
+    </message>
+    <message>
+        <source>“%1” takes a list of names</source>
+        <translation>«%1» accetta un elenco di nomi</translation>
+    </message>
+    <message>
+        <source>“%1” takes an object of options and choices</source>
+        <translation>«%1» accetta un oggetto di opzioni e valori</translation>
+    </message>
+    <message>
+        <source>“%1” takes a choice in quotes</source>
+        <translation>«%1» accetta un valore tra virgolette</translation>
+    </message>
+    <message>
+        <source>“contact” takes a text</source>
+        <translation>«contact» accetta un testo</translation>
+    </message>
+    <message>
+        <source>“rules” takes a list</source>
+        <translation>«rules» accetta un elenco</translation>
+    </message>
+    <message>
+        <source>“rules” takes objects in braces</source>
+        <translation>«rules» accetta oggetti tra parentesi graffe</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 1 MB.</source>
+        <translation>%1 è più grande di 1 MB.</translation>
+    </message>
+    <message>
+        <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
+        <translation>Le regole di stampa dell’amministratore non sono in vigore perché non è possibile leggerle. Informare l’amministratore: %1</translation>
+    </message>
+    <message>
+        <source>Set by the administrator.</source>
+        <translation>Lo ha stabilito l’amministratore.</translation>
+    </message>
+    <message>
+        <source>Set by the administrator (%1).</source>
+        <translation>Lo ha stabilito l’amministratore (%1).</translation>
     </message>
 </context>
 <context>
@@ -619,6 +888,21 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>PresetText</name>
+    <message>
+        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <translation>Una preimpostazione non può conservare il valore di «%1»: contiene una tabulazione, un’interruzione di riga o un altro carattere che non può essere scritto nel suo file.</translation>
+    </message>
+    <message>
+        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
+        <translation>Le impostazioni sono più di quante ne possa conservare una preimpostazione: il suo file accetta %1 byte.</translation>
+    </message>
+    <message>
+        <source>This printer does not have what these settings ask for: %1.</source>
+        <translation>Questa stampante non dispone di ciò che queste impostazioni richiedono: %1.</translation>
+    </message>
+</context>
+<context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
@@ -646,6 +930,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Ready</source>
         <translation>Pronta</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>Trovata in rete</translation>
     </message>
 </context>
 <context>
@@ -696,6 +984,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Proposal (accepted with --resolve):</source>
         <translation>Proposta (si accetta con --resolve):</translation>
+    </message>
+    <message>
+        <source>“%1” has been written.</source>
+        <translation>«%1» è stato scritto.</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>La preimpostazione «%1» è stata eliminata.</translation>
+    </message>
+    <message>
+        <source>The settings have been saved as the preset “%1”.</source>
+        <translation>Le impostazioni sono state salvate come preimpostazione «%1».</translation>
     </message>
 </context>
 <context>
@@ -773,7 +1073,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>The print server %1 has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server di stampa %1 ha smesso di rispondere.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1105,53 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>%1 is not sent with the job: %2</source>
         <translation>%1 non viene inviato con il lavoro: %2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”. %3</source>
+        <translation>«%1» deve essere impostato su «%2». %3</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed here. %2</source>
+        <translation>«%1» qui non può essere modificato. %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreText</name>
+    <message>
+        <source>The presets in “%1” cannot be read or changed: %2.</source>
+        <translation>Impossibile leggere o modificare le preimpostazioni in «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>There is no preset called “%1”.</source>
+        <translation>Non c’è alcuna preimpostazione chiamata «%1».</translation>
+    </message>
+    <message>
+        <source>There is already a preset called “%1”.</source>
+        <translation>Esiste già una preimpostazione chiamata «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <translation>«%1» è comune a tutti gli utenti di questo computer; solo un amministratore può modificarla.</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Una preimpostazione deve avere un nome.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Il nome è troppo lungo.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no space; “%1” would do.</source>
+        <translation>Il nome di una preimpostazione non può contenere spazi; andrebbe bene «%1».</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no control characters.</source>
+        <translation>Il nome di una preimpostazione non può contenere caratteri di controllo.</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <translation>Il nome di una preimpostazione non può contenere nessuno di questi caratteri: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -839,11 +1186,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile annullare il lavoro %1.</translation>
     </message>
     <message>
         <source>Some of it may have been printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una parte potrebbe essere stata stampata.</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1226,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>All</source>
         <translation>Tutte</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Pagina corrente</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selezione</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1277,29 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1: </source>
         <comment>prompt for a value</comment>
         <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::ChangeMark</name>
+    <message>
+        <source>Back to What It Was</source>
+        <translation>Torna al valore precedente</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>Torna a «%1»</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>Modificata. %1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>Changed; it was “%1”</source>
+        <translation>Modificata; prima era «%1»</translation>
     </message>
 </context>
 <context>
@@ -986,6 +1364,24 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
     </message>
+    <message>
+        <source>“%1” stays “%2”. %3</source>
+        <translation>«%1» resta impostato su «%2». %3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentBox</name>
+    <message>
+        <source>Documents to print</source>
+        <translation>Documenti da stampare</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentChoice</name>
+    <message>
+        <source>Standard input</source>
+        <translation>Standard input</translation>
+    </message>
 </context>
 <context>
     <name>host::GeneralPage</name>
@@ -1033,6 +1429,154 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Type which pages are to be printed, or choose all.</source>
         <translation>Digitare le pagine da stampare oppure sceglierle tutte.</translation>
     </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Documenti:</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>Salva come PDF…</translation>
+    </message>
+    <message>
+        <source>Write the pages into a file instead of printing them</source>
+        <translation>Scrivere le pagine in un file invece di stamparle</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Pagina corrente</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selezione</translation>
+    </message>
+    <message>
+        <source>The numbers count printed sides, each with %1 pages.</source>
+        <translation>I numeri contano le facciate stampate, ognuna con %1 pagine.</translation>
+    </message>
+    <message>
+        <source>Choose at least one document.</source>
+        <translation>Scegliere almeno un documento.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Ci sono solo %1 facciate stampate.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Il documento ha solo %1 pagine.</translation>
+    </message>
+</context>
+<context>
+    <name>host::GreyedChoices</name>
+    <message>
+        <source>To use it, other settings have to change:</source>
+        <translation>Per usarlo devono cambiare altre impostazioni:</translation>
+    </message>
+    <message>
+        <source>%1 instead of “%2”</source>
+        <comment>an option with its choice, and another choice</comment>
+        <translation>%1 invece di «%2»</translation>
+    </message>
+    <message>
+        <source>This gives up “%1”, which protects your document.</source>
+        <translation>In questo modo si rinuncia a «%1», che protegge il documento.</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Use It</source>
+        <translation>Cambia e us&amp;a</translation>
+    </message>
+    <message>
+        <source>Give Up Protection and &amp;Use It</source>
+        <translation>Rinuncia alla protezione e us&amp;a</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>&amp;Non cambiare</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the way, and no change was found that clears it.</source>
+        <translation>«%1» lo impedisce e non è stato trovato alcun cambiamento che risolva il problema.</translation>
+    </message>
+    <message>
+        <source>“%1” is not available now</source>
+        <translation>«%1» ora non è disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>host::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Close &amp;Help</source>
+        <translation>C&amp;hiudi l’aiuto</translation>
+    </message>
+</context>
+<context>
+    <name>host::LayoutForm</name>
+    <message>
+        <source>Page layout</source>
+        <translation>Disposizione delle pagine</translation>
+    </message>
+    <message>
+        <source>Pages per side:</source>
+        <translation>Pagine per facciata:</translation>
+    </message>
+    <message>
+        <source>Order:</source>
+        <translation>Ordine:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Bordo:</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientamento:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Dimensioni:</translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation>Dispari o pari:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>L’ultima pagina per prima</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::LimitedProcess</name>
+    <message>
+        <source>it took too long</source>
+        <translation>ha impiegato troppo tempo</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>memoria insufficiente</translation>
+    </message>
+    <message>
+        <source>it ended unexpectedly</source>
+        <translation>è terminato in modo imprevisto</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>non può essere avviato</translation>
+    </message>
+</context>
+<context>
+    <name>host::LinkLabel</name>
+    <message>
+        <source>Shows the control of this setting</source>
+        <translation>Mostra il controllo di questa impostazione</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
@@ -1072,12 +1616,213 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Summary</source>
         <translation>Riepilogo</translation>
     </message>
+    <message>
+        <source>These settings cannot be changed. %1</source>
+        <translation>Queste impostazioni non possono essere modificate. %1</translation>
+    </message>
+    <message>
+        <source>Fixed: %1. %2</source>
+        <translation>Valori fissi: %1. %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
         <translation>Pagine della finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>has changed settings</source>
+        <translation>contiene impostazioni modificate</translation>
+    </message>
+    <message>
+        <source>%1: has changed settings</source>
+        <comment>a page</comment>
+        <translation>%1: contiene impostazioni modificate</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageMaker</name>
+    <message>
+        <source>there is no program here that shows this kind of document (%1)</source>
+        <translation>su questo computer non c’è alcun programma che mostri questo tipo di documento (%1)</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 non è installato</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>memoria insufficiente</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 non può leggere il documento</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ha dato errore: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfSaver</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Salva come PDF</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>File PDF (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfWriter</name>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>Impossibile scrivere «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>è un collegamento a un altro file</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 non può leggere il documento</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 non è installato</translation>
+    </message>
+    <message>
+        <source>The PDF file cannot be made: %1.</source>
+        <translation>Impossibile creare il file PDF: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <translation>Impossibile convertire «%1» in un file PDF: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetDialog</name>
+    <message>
+        <source>Keep &amp;passwords and codes as well</source>
+        <translation>Conserva anche le &amp;password e i codici</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>Salva impostazioni</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Rinomina preimpostazione</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Nome della preimpostazione:</translation>
+    </message>
+    <message>
+        <source>Others who use this computer may read them in the file of the presets.</source>
+        <translation>Altre persone che usano questo computer potrebbero leggerli nel file delle preimpostazioni.</translation>
+    </message>
+    <message>
+        <source>The preset of this name will be replaced.</source>
+        <translation>La preimpostazione con questo nome verrà sostituita.</translation>
+    </message>
+    <message>
+        <source>There is already a preset of this name.</source>
+        <translation>Esiste già una preimpostazione con questo nome.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Sostituisci</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+</context>
+<context>
+    <name>host::Preview</name>
+    <message>
+        <source>the document is read when it is printed</source>
+        <translation>il documento viene letto al momento della stampa</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 non è installato</translation>
+    </message>
+    <message>
+        <source>the pages cannot be counted</source>
+        <translation>impossibile contare le pagine</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 non può leggere il documento</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 ha dato errore: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message>
+        <source>Page after</source>
+        <translation>Pagina successiva</translation>
+    </message>
+    <message>
+        <source>No preview: %1.</source>
+        <translation>Nessuna anteprima: %1.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown.</source>
+        <translation>Impossibile mostrare questa pagina.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Pagina %1 di %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Foglio %1, fronte</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Foglio %1, retro</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Shown as in the document</source>
+        <translation>Mostrata come nel documento</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewStrip</name>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1907,26 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
     </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» protegge il documento. Se si stampa comunque, la stampante potrebbe stampare senza questa protezione.</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Usa comun&amp;que</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Stampa comun&amp;que</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Il file PDF è stato scritto</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -1176,6 +1941,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Printers</source>
         <translation>Stampanti</translation>
+    </message>
+    <message>
+        <source>Looking for printers on the network…</source>
+        <translation>Ricerca di stampanti in rete…</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +2038,148 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
         <translation>Un lavoro riservato viene stampato dopo averne immesso il codice sulla stampante «%1».</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>Annulla il &amp;lavoro</translation>
+    </message>
+    <message>
+        <source>Print &amp;Again</source>
+        <translation>Stampa di n&amp;uovo</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>&amp;Trattieni</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Rilascia</translation>
+    </message>
+    <message>
+        <source>Pages printed so far: %1</source>
+        <translation>Pagine stampate finora: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::SearchBar</name>
+    <message>
+        <source>Find a setting</source>
+        <translation>Cerca un’impostazione</translation>
+    </message>
+    <message>
+        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
+        <translation>Digitare ciò che si cerca, con parole proprie o come lo chiama il driver della stampante. Invio porta all’impostazione.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nessun risultato</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Chiudi la ricerca</translation>
+    </message>
+    <message>
+        <source>Settings found</source>
+        <translation>Impostazioni trovate</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) found</source>
+        <translation>
+            <numerusform>%n impostazione trovata</numerusform>
+            <numerusform>%n impostazioni trovate</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::SettingsControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valori predefiniti</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valori predefiniti della stampante</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Valori predefiniti personali</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Ultime usate</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (con modifiche)</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Impostazioni: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Salva «%1»</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Salva &amp;come…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Rinomina «%1»…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Elimina «%1»…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>&amp;Usa come valori predefiniti personali per questa stampante</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Elimina preimpostazione</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Eliminare la preimpostazione «%1»? Anche altri programmi la usano.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryPage</name>
+    <message>
+        <source>S&amp;how changes only</source>
+        <translation>&amp;Mostra solo le modifiche</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <comment>what it was, what it is</comment>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modificato</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed.</source>
+        <translation>Non è stato modificato nulla.</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
-    <name>ApplicationText</name>
-    <message>
-        <source>%1 pages on each side</source>
-        <translation>各面に %1 ページ</translation>
-    </message>
-    <message>
-        <source>last page first</source>
-        <translation>最終ページから印刷</translation>
-    </message>
-    <message>
-        <source>The application asks for: %1.</source>
-        <translation>アプリケーションからの指定: %1。</translation>
-    </message>
-</context>
-<context>
     <name>ArgumentsText</name>
     <message>
         <source>NAME</source>
@@ -159,14 +144,6 @@
         <translation>--batch と --screenshot は併用できません。</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch or --summary.</source>
-        <translation>--resolve は --batch または --summary と併用します。</translation>
-    </message>
-    <message>
-        <source>--json goes with --batch, --summary or --list-options.</source>
-        <translation>--json は --batch、--summary、--list-options のいずれかと併用します。</translation>
-    </message>
-    <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
 Print documents, with a dialog for the settings or without one.
 
@@ -222,6 +199,38 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 4 キャンセル、5 ジョブが受け付けられたかどうか不明。詳しくはマニュアル kelmar-print(1) を参照してください。
 </translation>
     </message>
+    <message>
+        <source>With --batch: write the pages into this PDF file instead of printing them.</source>
+        <translation>--batch と併用: ページを印刷せず、この PDF ファイルに書き出します。</translation>
+    </message>
+    <message>
+        <source>Write the presets of the printer.</source>
+        <translation>プリンターのプリセットを出力します。</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <translation>設定をプリンターのプリセットとして保存します。パスワードとコードは保存しません。</translation>
+    </message>
+    <message>
+        <source>Delete a preset of the printer.</source>
+        <translation>プリンターのプリセットを削除します。</translation>
+    </message>
+    <message>
+        <source>--output goes with --batch.</source>
+        <translation>--output は --batch と併用します。</translation>
+    </message>
+    <message>
+        <source>Presets belong to a printer; --ppd alone names none.</source>
+        <translation>プリセットはプリンターごとのものです。--ppd だけではプリンターが指定されません。</translation>
+    </message>
+    <message>
+        <source>--resolve goes with --batch, --summary or --save-preset.</source>
+        <translation>--resolve は --batch、--summary、--save-preset のいずれかと併用します。</translation>
+    </message>
+    <message>
+        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
+        <translation>--json は --batch、--summary、--list-options、またはプリセットのオプションと併用します。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -239,6 +248,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+    </message>
+    <message>
+        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <translation>パスワードとコードはプリセットに保存されません。毎回指定してください。</translation>
     </message>
 </context>
 <context>
@@ -336,6 +349,37 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>Explanation</name>
+    <message>
+        <source>How many times the document is printed.</source>
+        <translation>文書を印刷する部数です。</translation>
+    </message>
+    <message>
+        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
+        <translation>1 部ずつ最後まで印刷してから次の部を印刷します。ページを並べ替える手間が省けます。</translation>
+    </message>
+    <message>
+        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
+        <translation>印刷するページです。ページ番号や範囲をコンマで区切って指定します (例: 1-3, 8)。</translation>
+    </message>
+    <message>
+        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <translation>印刷する用紙のサイズです。プリンターのいずれかのトレイにセットされている必要があります。</translation>
+    </message>
+    <message>
+        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>用紙の種類です。厚紙やコート紙では、給紙方法や定着温度が変わります。</translation>
+    </message>
+    <message>
+        <source>The tray that the paper is taken from.</source>
+        <translation>用紙を給紙するトレイです。</translation>
+    </message>
+    <message>
+        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
+        <translation>用紙の両面に印刷します。本のようにめくる場合は長辺とじ、カレンダーのようにめくる場合は短辺とじを選びます。</translation>
+    </message>
+</context>
+<context>
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
@@ -379,6 +423,157 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>unknown</source>
         <translation>不明</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutText</name>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>左から右、上から下 (横方向)</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>左から右、下から上 (横方向)</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>右から左、上から下 (横方向)</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>右から左、下から上 (横方向)</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>上から下、左から右 (縦方向)</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>上から下、右から左 (縦方向)</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>下から上、左から右 (縦方向)</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>下から上、右から左 (縦方向)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Thin line</source>
+        <translation>細線</translation>
+    </message>
+    <message>
+        <source>Thick line</source>
+        <translation>太線</translation>
+    </message>
+    <message>
+        <source>Two thin lines</source>
+        <translation>二重の細線</translation>
+    </message>
+    <message>
+        <source>Two thick lines</source>
+        <translation>二重の太線</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>文書のとおり</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Landscape, turned around</source>
+        <translation>横 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Portrait, turned around</source>
+        <translation>縦 (逆向き)</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>奇数ページと偶数ページ</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>奇数ページのみ</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>偶数ページのみ</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Shrink to the page or cut off</source>
+        <translation>ページに合わせて縮小または切り取り</translation>
+    </message>
+    <message>
+        <source>Shrink to the page</source>
+        <translation>ページに合わせて縮小</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>ページに合わせる</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>ページ全体に拡大</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True または False</translation>
+    </message>
+    <message>
+        <source>Pages per side</source>
+        <translation>1 面あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>並び順</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>枠線</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ調整</translation>
+    </message>
+    <message>
+        <source>Odd or even</source>
+        <translation>奇数/偶数ページ</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最終ページから印刷</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
     </message>
 </context>
 <context>
@@ -463,6 +658,80 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>none</source>
         <translation>なし</translation>
+    </message>
+</context>
+<context>
+    <name>PolicySystemText</name>
+    <message>
+        <source>The printer “%1” is not offered here. %2</source>
+        <translation>プリンター「%1」はここでは使用できません。%2</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”.</source>
+        <translation>「%1」は「%2」にする必要があります。</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”, with a code.</source>
+        <translation>「%1」は「%2」にして、コードを指定する必要があります。</translation>
+    </message>
+</context>
+<context>
+    <name>PolicyText</name>
+    <message>
+        <source>it is not one object in braces</source>
+        <translation>全体が波かっこで囲んだ 1 つのオブジェクトになっていません</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation>%1、%2 行 %3 列: %4</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here; known are %2</source>
+        <translation>「%1」はここでは使えません。使えるのは %2 です</translation>
+    </message>
+    <message>
+        <source>“%1” takes a list of names</source>
+        <translation>「%1」には名前のリストを指定してください</translation>
+    </message>
+    <message>
+        <source>“%1” takes an object of options and choices</source>
+        <translation>「%1」にはオプションと選択肢からなるオブジェクトを指定してください</translation>
+    </message>
+    <message>
+        <source>“%1” takes a choice in quotes</source>
+        <translation>「%1」には引用符で囲んだ選択肢を指定してください</translation>
+    </message>
+    <message>
+        <source>“contact” takes a text</source>
+        <translation>「contact」にはテキストを指定してください</translation>
+    </message>
+    <message>
+        <source>“rules” takes a list</source>
+        <translation>「rules」にはリストを指定してください</translation>
+    </message>
+    <message>
+        <source>“rules” takes objects in braces</source>
+        <translation>「rules」には波かっこで囲んだオブジェクトを指定してください</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is larger than 1 MB.</source>
+        <translation>%1 が 1 MB を超えています。</translation>
+    </message>
+    <message>
+        <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
+        <translation>管理者が定めた印刷ルールを読み込めないため、ルールは適用されていません。管理者に次の内容を伝えてください: %1</translation>
+    </message>
+    <message>
+        <source>Set by the administrator.</source>
+        <translation>管理者が設定しています。</translation>
+    </message>
+    <message>
+        <source>Set by the administrator (%1).</source>
+        <translation>管理者が設定しています (%1)。</translation>
     </message>
 </context>
 <context>
@@ -619,6 +888,21 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>PresetText</name>
+    <message>
+        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <translation>「%1」の値はプリセットに保存できません。タブ、改行など、プリセットのファイルに書き込めない文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
+        <translation>設定が多すぎてプリセットに保存できません。ファイルの上限は %1 バイトです。</translation>
+    </message>
+    <message>
+        <source>This printer does not have what these settings ask for: %1.</source>
+        <translation>この設定で指定されている次の項目は、このプリンターにありません: %1。</translation>
+    </message>
+</context>
+<context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
@@ -646,6 +930,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Ready</source>
         <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Found on the network</source>
+        <translation>ネットワークで検出</translation>
     </message>
 </context>
 <context>
@@ -696,6 +984,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>and %1</source>
         <translation>および %1</translation>
+    </message>
+    <message>
+        <source>“%1” has been written.</source>
+        <translation>「%1」を書き出しました。</translation>
+    </message>
+    <message>
+        <source>The preset “%1” has been deleted.</source>
+        <translation>プリセット「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>The settings have been saved as the preset “%1”.</source>
+        <translation>設定をプリセット「%1」として保存しました。</translation>
     </message>
 </context>
 <context>
@@ -773,7 +1073,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
     <message>
         <source>The print server %1 has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントサーバー %1 が応答しなくなりました。</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1105,53 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>%1 takes %2.</source>
         <translation>%1 には %2 を指定してください。</translation>
+    </message>
+    <message>
+        <source>“%1” has to be “%2”. %3</source>
+        <translation>「%1」は「%2」にする必要があります。%3</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed here. %2</source>
+        <translation>「%1」はここでは変更できません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreText</name>
+    <message>
+        <source>The presets in “%1” cannot be read or changed: %2.</source>
+        <translation>「%1」のプリセットを読み込みまたは変更できません: %2。</translation>
+    </message>
+    <message>
+        <source>There is no preset called “%1”.</source>
+        <translation>「%1」という名前のプリセットはありません。</translation>
+    </message>
+    <message>
+        <source>There is already a preset called “%1”.</source>
+        <translation>「%1」という名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <translation>「%1」はこのコンピューターの全ユーザー共通のプリセットです。変更できるのは管理者だけです。</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>プリセットには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no space; “%1” would do.</source>
+        <translation>プリセットの名前に空白は使えません。「%1」なら使えます。</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold no control characters.</source>
+        <translation>プリセットの名前に制御文字は使えません。</translation>
+    </message>
+    <message>
+        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <translation>プリセットの名前に次の文字は使えません: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -839,11 +1186,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ %1 をキャンセルできませんでした。</translation>
     </message>
     <message>
         <source>Some of it may have been printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>一部が印刷された可能性があります。</translation>
     </message>
 </context>
 <context>
@@ -879,6 +1226,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>All</source>
         <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>現在のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択範囲</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1277,29 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1: </source>
         <comment>prompt for a value</comment>
         <translation>%1: </translation>
+    </message>
+</context>
+<context>
+    <name>host::ChangeMark</name>
+    <message>
+        <source>Back to What It Was</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Back to “%1”</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>Changed. %1</source>
+        <translation>変更済み。%1</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>変更済み</translation>
+    </message>
+    <message>
+        <source>Changed; it was “%1”</source>
+        <translation>変更済み (元の値:「%1」)</translation>
     </message>
 </context>
 <context>
@@ -986,6 +1364,24 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
         <translation>「%1」の保存済みの設定はジョブと一緒に送信されません (%2): %3</translation>
     </message>
+    <message>
+        <source>“%1” stays “%2”. %3</source>
+        <translation>「%1」は「%2」のままです。%3</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentBox</name>
+    <message>
+        <source>Documents to print</source>
+        <translation>印刷する文書</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentChoice</name>
+    <message>
+        <source>Standard input</source>
+        <translation>標準入力</translation>
+    </message>
 </context>
 <context>
     <name>host::GeneralPage</name>
@@ -1033,6 +1429,154 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>「%1」が「%2」のときは使用できません。</translation>
     </message>
+    <message>
+        <source>Documents:</source>
+        <translation>文書:</translation>
+    </message>
+    <message>
+        <source>Save as PDF…</source>
+        <translation>PDF として保存…</translation>
+    </message>
+    <message>
+        <source>Write the pages into a file instead of printing them</source>
+        <translation>ページを印刷せずにファイルに書き出します</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>現在のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択範囲</translation>
+    </message>
+    <message>
+        <source>The numbers count printed sides, each with %1 pages.</source>
+        <translation>番号は印刷面の番号です (1 面に %1 ページ)。</translation>
+    </message>
+    <message>
+        <source>Choose at least one document.</source>
+        <translation>文書を 1 つ以上選んでください。</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>印刷面は %1 面しかありません。</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>文書は %1 ページしかありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::GreyedChoices</name>
+    <message>
+        <source>To use it, other settings have to change:</source>
+        <translation>使用するには、ほかの設定の変更が必要です:</translation>
+    </message>
+    <message>
+        <source>%1 instead of “%2”</source>
+        <comment>an option with its choice, and another choice</comment>
+        <translation>%1 (現在は「%2」)</translation>
+    </message>
+    <message>
+        <source>This gives up “%1”, which protects your document.</source>
+        <translation>文書を保護する「%1」が解除されます。</translation>
+    </message>
+    <message>
+        <source>Change and &amp;Use It</source>
+        <translation>変更して使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Give Up Protection and &amp;Use It</source>
+        <translation>保護を解除して使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Leave &amp;As It Is</source>
+        <translation>そのままにする(&amp;A)</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the way, and no change was found that clears it.</source>
+        <translation>「%1」と競合しています。解消できる変更は見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>“%1” is not available now</source>
+        <translation>「%1」は現在使用できません</translation>
+    </message>
+</context>
+<context>
+    <name>host::HelpPage</name>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Close &amp;Help</source>
+        <translation>ヘルプを閉じる(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>host::LayoutForm</name>
+    <message>
+        <source>Page layout</source>
+        <translation>ページレイアウト</translation>
+    </message>
+    <message>
+        <source>Pages per side:</source>
+        <translation>1 面あたりのページ数:</translation>
+    </message>
+    <message>
+        <source>Order:</source>
+        <translation>並び順:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>枠線:</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>向き:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>サイズ調整:</translation>
+    </message>
+    <message>
+        <source>Odd or even:</source>
+        <translation>奇数/偶数ページ:</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最終ページから印刷</translation>
+    </message>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」のときは使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::LimitedProcess</name>
+    <message>
+        <source>it took too long</source>
+        <translation>時間がかかりすぎました</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>it ended unexpectedly</source>
+        <translation>予期せず終了しました</translation>
+    </message>
+    <message>
+        <source>it cannot be started</source>
+        <translation>起動できません</translation>
+    </message>
+</context>
+<context>
+    <name>host::LinkLabel</name>
+    <message>
+        <source>Shows the control of this setting</source>
+        <translation>この設定の項目を表示します</translation>
+    </message>
 </context>
 <context>
     <name>host::MessageBar</name>
@@ -1072,12 +1616,213 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Summary</source>
         <translation>設定一覧</translation>
     </message>
+    <message>
+        <source>These settings cannot be changed. %1</source>
+        <translation>これらの設定は変更できません。%1</translation>
+    </message>
+    <message>
+        <source>Fixed: %1. %2</source>
+        <translation>固定: %1。%2</translation>
+    </message>
 </context>
 <context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
         <translation>ダイアログのページ</translation>
+    </message>
+    <message>
+        <source>has changed settings</source>
+        <translation>変更された設定があります</translation>
+    </message>
+    <message>
+        <source>%1: has changed settings</source>
+        <comment>a page</comment>
+        <translation>%1: 変更された設定があります</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageMaker</name>
+    <message>
+        <source>there is no program here that shows this kind of document (%1)</source>
+        <translation>この種類の文書 (%1) を表示できるプログラムがありません</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 がインストールされていません</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 で文書を読み込めません</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 が失敗しました: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfSaver</name>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF として保存</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF ファイル (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PdfWriter</name>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>「%1」を書き出せません: %2。</translation>
+    </message>
+    <message>
+        <source>it is a link to another file</source>
+        <translation>別のファイルへのリンクです</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 で文書を読み込めません</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 がインストールされていません</translation>
+    </message>
+    <message>
+        <source>The PDF file cannot be made: %1.</source>
+        <translation>PDF ファイルを作成できません: %1。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <translation>「%1」を PDF ファイルにできません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetDialog</name>
+    <message>
+        <source>Keep &amp;passwords and codes as well</source>
+        <translation>パスワードとコードも保存する(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Save Settings</source>
+        <translation>設定の保存</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセットの名前の変更</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>プリセットの名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Others who use this computer may read them in the file of the presets.</source>
+        <translation>このコンピューターを使うほかの人が、プリセットのファイルから読み取る可能性があります。</translation>
+    </message>
+    <message>
+        <source>The preset of this name will be replaced.</source>
+        <translation>この名前の既存のプリセットは置き換えられます。</translation>
+    </message>
+    <message>
+        <source>There is already a preset of this name.</source>
+        <translation>この名前のプリセットはすでにあります。</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換え(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>名前を変更(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>host::Preview</name>
+    <message>
+        <source>the document is read when it is printed</source>
+        <translation>文書は印刷時に読み込まれます</translation>
+    </message>
+    <message>
+        <source>%1 is not installed</source>
+        <translation>%1 がインストールされていません</translation>
+    </message>
+    <message>
+        <source>the pages cannot be counted</source>
+        <translation>ページ数を確認できません</translation>
+    </message>
+    <message>
+        <source>%1 cannot read the document</source>
+        <translation>%1 で文書を読み込めません</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 が失敗しました: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Page after</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>No preview: %1.</source>
+        <translation>プレビューなし: %1。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown.</source>
+        <translation>このページは表示できません。</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>ページ %1 / %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>%1 枚目 表</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>%1 枚目 裏</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Shown as in the document</source>
+        <translation>文書のとおりに表示しています</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewSheet</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewStrip</name>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1907,26 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Ca&amp;ncel Printing</source>
         <translation>印刷をキャンセル(&amp;C)</translation>
     </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>「%1」は文書を保護する設定です。このまま印刷すると、保護されずに印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>それでも使用(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>それでも印刷(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>PDF ファイルを書き出しました</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -1176,6 +1941,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Printers</source>
         <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Looking for printers on the network…</source>
+        <translation>ネットワーク上のプリンターを探しています…</translation>
     </message>
 </context>
 <context>
@@ -1269,6 +2038,147 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
         <translation>プライベート印刷のジョブは、プリンター「%1」でコードを入力すると印刷されます。</translation>
+    </message>
+    <message>
+        <source>Cancel &amp;Job</source>
+        <translation>ジョブをキャンセル(&amp;J)</translation>
+    </message>
+    <message>
+        <source>Print &amp;Again</source>
+        <translation>もう一度印刷(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>保留(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>保留を解除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Pages printed so far: %1</source>
+        <translation>印刷済みのページ数: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::SearchBar</name>
+    <message>
+        <source>Find a setting</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
+        <translation>探したい設定を、普段の言葉またはプリンタードライバーでの名称で入力してください。Return キーで設定に移動します。</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>検索を閉じる</translation>
+    </message>
+    <message>
+        <source>Settings found</source>
+        <translation>見つかった設定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n setting(s) found</source>
+        <translation>
+            <numerusform>%n 個の設定が見つかりました</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>host::SettingsControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>ユーザーの既定値</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (変更あり)</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>設定: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>「%1」を保存</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>「%1」の名前を変更…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>「%1」を削除…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>このプリンターのユーザーの既定値にする(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>プリセットの削除</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>プリセット「%1」を削除しますか? このプリセットはほかのプログラムでも使用されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryPage</name>
+    <message>
+        <source>S&amp;how changes only</source>
+        <translation>変更のみ表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <comment>what it was, what it is</comment>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>変更済み</translation>
+    </message>
+    <message>
+        <source>Nothing has been changed.</source>
+        <translation>変更された設定はありません。</translation>
     </message>
 </context>
 <context>
