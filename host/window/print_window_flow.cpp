@@ -39,9 +39,13 @@ constexpr std::chrono::milliseconds betweenProgress(100);
 PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QString &usedLast)
 {
     PrinterOpening opening;
-    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
-    opening.printer = isAnyone ? openFirstPrinter(system, usedLast, &opening.error)
-                               : openPrinter(system, wish, &opening.error);
+    if (!wish.isForAnyone()) {
+        opening.printer = openPrinter(system, wish, &opening.error);
+        if (!wish.mayBeGone || opening.error.kind != PrintError::Kind::NoSuchPrinter)
+            return opening;
+        opening.error = {};
+    }
+    opening.printer = openFirstPrinter(system, usedLast, &opening.error);
     return opening;
 }
 
@@ -53,6 +57,15 @@ struct PrintWindow::Sending
     std::atomic<qint64> sent{0};
     std::atomic<qint64> total{0}; // bytes
     std::atomic<bool> isCancelled{false};
+    // Until the server is asked, nothing has to be undone: the work is dropped, however long it still reads.
+    enum class Phase { Reading, Submitting, Dropped };
+    std::atomic<Phase> phase{Phase::Reading};
+    bool isToldToSend = false; // the user knows that the server is asked now
+    bool enter(Phase next)
+    {
+        Phase reading = Phase::Reading;
+        return phase.compare_exchange_strong(reading, next);
+    }
     std::shared_ptr<DocumentList> documents; // the work's until it has ended
     JobRequest request;
 };
@@ -60,25 +73,66 @@ struct PrintWindow::Sending
 bool PrintWindow::open(PrintError *error)
 {
     m_taskError = error;
-    openWished({m_task.printer, m_task.ppdFile},
-               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+    openTask();
+    // The one time that the window waits on its thread: there is nothing to be seen of it yet.
+    if (!m_opening.deliverWithin(nearServer))
+        showOpening();
     return !std::exchange(m_taskError, nullptr) || !*error;
 }
 
-void PrintWindow::openWished(const PrinterWish &wish, std::function<void(PrinterOpening)> receiver)
+void PrintWindow::openTask()
 {
-    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
-    const QString usedLast = isAnyone ? RememberedPrinter().name() : QString();
+    openWished({m_task.printer, m_task.ppdFile, m_task.printerMayBeGone},
+               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+}
+
+void PrintWindow::openWished(const PrinterWish &wish, OpeningReceiver receiver)
+{
+    const bool wantsLast = wish.isForAnyone() || wish.mayBeGone;
+    const QString usedLast = wantsLast ? RememberedPrinter().name() : QString();
+    m_whenIdle = nullptr;
     m_opening.start(
         this, [&system = m_system, wish, usedLast] { return openAny(system, wish, usedLast); },
-        std::move(receiver));
-    if (m_opening.deliverWithin(nearServer))
-        return;
+        [this, receiver = std::move(receiver)](PrinterOpening opening) {
+            receive(std::move(opening), receiver);
+        });
     if (!m_session) {
         Destination awaited;
         awaited.queue = wish.printer.isEmpty() ? usedLast : wish.printer;
         if (!awaited.queue.isEmpty())
             m_picker->setAwaited(awaited);
+    }
+    m_openingTimer.start(nearServer);
+}
+
+// A panel that waits is still on the stack, and its session with it: neither may go under it.
+void PrintWindow::receive(PrinterOpening opening, const OpeningReceiver &receiver)
+{
+    m_openingTimer.stop();
+    if (m_busyDepth == 0) {
+        receiver(std::move(opening));
+        return;
+    }
+    auto held = std::make_shared<PrinterOpening>(std::move(opening));
+    m_whenIdle = [receiver, held] { receiver(std::move(*held)); };
+}
+
+void PrintWindow::dropOpening()
+{
+    m_pickTimer.stop();
+    m_openingTimer.stop();
+    m_picked.clear();
+    m_opening.drop();
+    m_whenIdle = nullptr;
+}
+
+void PrintWindow::showOpening()
+{
+    if (!m_opening.isPending())
+        return;
+    if (m_busyDepth > 0) {
+        m_openingTimer.start(nearServer);
+        return;
     }
     m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
     showState(State::Waiting);
@@ -91,6 +145,7 @@ void PrintWindow::refuse(const PrintError &error)
         *m_taskError = error;
         return;
     }
+    m_refusal = error;
     letGo();
     m_session.reset();
     m_notices.clear();
@@ -113,6 +168,8 @@ void PrintWindow::showFirst(PrinterOpening opening)
         return;
     }
     m_book->showPage(row);
+    if (m_isDismissed) // while a panel waited
+        return;
     // On the shown page, so that panels answer the settings as they answer the user's.
     PrintError problem;
     if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
@@ -124,6 +181,7 @@ void PrintWindow::showFirst(PrinterOpening opening)
     m_book->showChanges();
     showNotices();
     showConflicts();
+    showDocumentProblem();
 }
 
 // A queue whose PPD is broken still prints, with what every printer can be asked.
@@ -140,13 +198,37 @@ std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
 
 void PrintWindow::pickPrinter(const QString &name)
 {
-    if (!m_session) { // the settings of the task are still to be made
-        m_task.printer = name;
-        openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+    if (m_busyDepth > 0) {
+        m_picker->setCurrent(m_session->destination());
         return;
     }
-    m_session->save(); // what the page that is shown has pending
-    openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showPicked(std::move(opening)); });
+    if (m_session && name == m_session->destination().name()) {
+        if (isOpening() || !m_picked.isEmpty()) {
+            dropOpening();
+            stayWithPrinter();
+        }
+        return;
+    }
+    m_print->setEnabled(false);
+    if (m_pickTimer.isActive()) {
+        dropOpening();
+        m_picked = name;
+    } else {
+        openPicked(name);
+    }
+    m_pickTimer.start();
+}
+
+void PrintWindow::openPicked(const QString &name)
+{
+    if (!m_session) { // the settings of the task are still to be made
+        m_task.printer = name;
+        m_task.printerMayBeGone = false;
+        openTask();
+        return;
+    }
+    openWished({name, m_task.ppdFile, false},
+               [this](PrinterOpening opening) { showPicked(std::move(opening)); });
 }
 
 void PrintWindow::showPicked(PrinterOpening opening)
@@ -156,6 +238,7 @@ void PrintWindow::showPicked(PrinterOpening opening)
         showError(opening.error);
         return;
     }
+    m_session->save(); // what the page that is shown has pending
     auto session = makeSession(std::move(*opening.printer));
     m_bar->hide();
     m_askingConflict = false;
@@ -177,23 +260,28 @@ void PrintWindow::stayWithPrinter()
     m_picker->setCurrent(m_session->destination());
     showState(State::Choosing);
     allowPrinting();
+    // Other pages have hidden them.
+    showNotices();
+    showConflicts();
+    showDocumentProblem();
 }
 
 void PrintWindow::retry()
 {
-    openWished({m_task.printer, m_task.ppdFile},
-               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+    openTask();
     loadPrinterList();
 }
 
 void PrintWindow::stopWaiting()
 {
+    if (dropReading())
+        return;
     if (m_sending) {
         m_sending->isCancelled = true;
         m_waiting->setCancelling(tr("Canceling the job…"));
         return;
     }
-    m_opening.drop();
+    dropOpening();
     if (m_session)
         stayWithPrinter();
     else
@@ -250,6 +338,10 @@ void PrintWindow::showBusy(const QString &what)
     m_waiter->beginActivity();
     m_waiter->setOpenParts({m_waitSign, m_cancel});
     m_waitSign->begin(what);
+    if (m_isDismissed) { // nobody waits for it, and nothing brings the window back
+        m_waiter->giveUp();
+        return;
+    }
     if (isVisible())
         repaint();
     else
@@ -273,11 +365,24 @@ void PrintWindow::showIdle()
         return;
     m_waiter->endActivity();
     m_waitSign->end();
+    // The panel has to return first.
+    QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
+}
+
+void PrintWindow::goOn()
+{
+    if (m_busyDepth > 0)
+        return;
+    if (m_recheckDue)
+        recheck();
+    if (const auto take = std::exchange(m_whenIdle, nullptr))
+        take();
 }
 
 void PrintWindow::print()
 {
-    if (m_submission || m_sending || !m_print->isEnabled() || m_book->isHidden())
+    if (m_submission || m_sending || m_busyDepth > 0 || isOpening() || !m_picked.isEmpty() ||
+        !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
         return;
@@ -305,7 +410,9 @@ void PrintWindow::send()
     auto work = [&system = m_system, sending = m_sending, files = m_task.files, name = m_task.documentName,
                  rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
-        if (!sending->documents->open(files, nullptr, &failed.error))
+        const auto isDropped = [&] { return sending->phase == Sending::Phase::Dropped; };
+        if (!sending->documents->open(files, nullptr, &failed.error, isDropped) ||
+            !sending->enter(Sending::Phase::Submitting))
             return failed;
         JobRequest &request = sending->request;
         request.documents = sending->documents->documents();
@@ -326,14 +433,38 @@ void PrintWindow::send()
     m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
     if (m_submitting.deliverWithin(nearServer))
         return;
-    m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
+    showProgress();
     showState(State::Sending);
     m_waiting->cancelButton()->setFocus();
-    m_progressTimer.callOnTimeout(this, [this] {
-        if (m_sending)
-            m_waiting->setProgress(m_sending->sent, m_sending->total);
-    });
     m_progressTimer.start(betweenProgress);
+}
+
+void PrintWindow::showProgress()
+{
+    if (!m_sending)
+        return;
+    if (m_sending->phase == Sending::Phase::Reading) {
+        if (HeldSignals::isPending()) // there is no job yet to be cancelled first
+            dropReading();
+        return;
+    }
+    if (!std::exchange(m_sending->isToldToSend, true) && !m_sending->isCancelled)
+        m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    m_waiting->setProgress(m_sending->sent, m_sending->total);
+}
+
+// True when the documents were still being read; then nothing is sent.
+bool PrintWindow::dropReading()
+{
+    if (!m_sending || !m_sending->enter(Sending::Phase::Dropped))
+        return false;
+    m_submitting.drop();
+    Submission dropped;
+    dropped.outcome = Submission::Outcome::Rejected;
+    dropped.error = {PrintError::Kind::Cancelled, tr("Printing was canceled.")};
+    sent(std::move(dropped));
+    return true;
 }
 
 void PrintWindow::sent(Submission submission)
@@ -418,6 +549,12 @@ void PrintWindow::printAgain()
     send();
 }
 
+void PrintWindow::done(int result)
+{
+    m_isDismissed = true;
+    QDialog::done(result);
+}
+
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.
 void PrintWindow::reject()
 {
@@ -432,7 +569,7 @@ void PrintWindow::reject()
 // Whoever closes the window does not wait for it: the job is cancelled, and its end is seen to unseen.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_sending) {
+    if (!m_sending || dropReading()) {
         QDialog::closeEvent(event);
         return;
     }
