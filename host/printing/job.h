@@ -48,9 +48,9 @@ struct JobStatus
     enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed };
     State state = State::Unknown;
     bool printerStopped = false; // it waits because its printer has been stopped
+    QString message;             // why, for the user; may be empty
     bool isHeldByUser = false;   // on hold until somebody releases it, and not until a time
     int printedPages = 0;        // so far; 0 where the printer does not count
-    QString message;             // why, for the user; may be empty
 
     bool isFinal() const { return state >= State::Cancelled; }
     // It does not go on by itself.

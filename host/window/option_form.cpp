@@ -5,6 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/window/custom_editor.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/mnemonics.h"
 #include "platform/choice_box.h"
@@ -44,9 +45,13 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
     box->setMinimumWidth(boxWidth);
     box->setMaximumWidth(mostWidth);
     box->setObjectName(option->keyword);
+    box->setOptionKeyword(option->keyword);
     box->setAccessibleName(oneLine(option->text));
-    for (const PpdOption::Choice &choice : option->choices)
+    box->setWhatsThis(explanationOf(option->keyword));
+    for (const PpdOption::Choice &choice : option->choices) {
         box->addItem(oneLine(choice.text), choice.keyword);
+        box->setItemData(box->count() - 1, choice.keyword, platform::ChoiceBox::choiceRole);
+    }
     if (option->custom)
         box->addItem(tr("%1…", "Custom, whose values are asked for").arg(oneLine(option->custom->text)),
                      customItem);

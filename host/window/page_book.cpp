@@ -105,6 +105,7 @@ QWidget *PageBook::contentOf(const Page &page)
     if (page.name == moreName) {
         m_more = new MorePage(m_session);
         connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
+        connect(m_more, &MorePage::grown, this, &PageBook::grown);
         return m_more;
     }
     m_summary = new SummaryPage;
@@ -148,8 +149,30 @@ QString PageBook::currentName() const
     return m_current < 0 ? QString() : m_pages[static_cast<size_t>(m_current)].name;
 }
 
+const PageBook::Page *PageBook::pageAt(int row) const
+{
+    return row < 0 || row >= static_cast<int>(m_pages.size()) ? nullptr : &m_pages[static_cast<size_t>(row)];
+}
+
+QString PageBook::nameOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->name : QString();
+}
+
+QString PageBook::titleOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->title : QString();
+}
+
+QWidget *PageBook::builtPage(int row) const
+{
+    return pageAt(row) ? pageAt(row)->frame : nullptr;
+}
+
 void PageBook::showPage(int row)
 {
+    if (row == m_current && builtPage(row))
+        m_stack->setCurrentWidget(builtPage(row));
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
         return;
     QWidget *const focus = window()->focusWidget();

@@ -132,7 +132,7 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
                  text.contains(u"Suggestion: Colour Mode: Automatic"_s),
              qPrintable(text));
-    QCOMPARE(window.messageBar()->buttons().size(), 2);
+    QCOMPARE(window.messageBar()->buttons().size(), 3);
     window.messageBar()->buttons().last()->click(); // keep and review
     QCOMPARE(window.session()->conflicts().size(), 1);
     printButton()->click();
