@@ -60,8 +60,9 @@ struct PrintTask
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
 // one and takes along what has been chosen. The print system and the extensions are borrowed; they outlive it
-// and everything that is under way beside its thread when it goes. Never waits on its thread: what takes its
-// time shows a page with a way out, or a sign in the footer.
+// and everything that is under way beside its thread when it goes. What takes its
+// time runs beside its thread and shows a page with a way out, or a sign in the footer; only open() and the
+// beginning of sending wait for a near server, 50 ms at most.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
