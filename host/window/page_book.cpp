@@ -4,6 +4,7 @@
 #include "host/window/page_book.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/policy.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
 #include "host/window/change_marks.h"
@@ -27,6 +28,24 @@ namespace {
 const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
 const QString summaryName = QStringLiteral("summary");
+
+// What the administrator has fixed on the page of a panel, and who says so; nil for nothing.
+QString policyNote(const DialogSession &session, int panel)
+{
+    if (panel < 0)
+        return {};
+    const QString attribution = Policy::current().attribution();
+    if (session.isPanelLocked(panel))
+        return PageBook::tr("These settings cannot be changed. %1").arg(attribution);
+    QStringList fixed;
+    for (const QString &keyword : session.panelKeywords(panel)) {
+        const QString choice = session.rule().lockedChoice(session.ppd(), keyword);
+        if (!choice.isNull())
+            fixed.append(session.ppd()->described(keyword, choice).text());
+    }
+    return fixed.isEmpty() ? QString()
+                           : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
+}
 
 } // namespace
 
@@ -54,11 +73,14 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     m_session = session;
     m_history = history;
     addPage(tr("General"), generalName);
+    const Policy::Rule &rule = session->rule();
     for (int i = 0; i < session->panelCount(); ++i) {
-        if (session->panel(i)->panelView())
+        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()))
             addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
     }
-    if (!session->otherKeywords().isEmpty())
+    const QStringList others = session->otherKeywords();
+    if (!std::all_of(others.begin(), others.end(),
+                     [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); }))
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
     fitList();
@@ -87,7 +109,8 @@ void PageBook::addPage(const QString &title, const QString &name, int panel)
 void PageBook::makeFrame(Page *page)
 {
     QWidget *content = contentOf(*page);
-    page->frame = new PageFrame(page->title, content, m_stack);
+    content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
+    page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     m_stack->addWidget(page->frame);

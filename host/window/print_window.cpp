@@ -69,6 +69,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
 QString PrintWindow::documentNames() const
 {
     QStringList names;
+    if (!m_task.files.isEmpty() && !m_task.documentName.isEmpty())
+        return tr("“%1”").arg(oneLine(m_task.documentName));
     for (const QString &file : m_task.files) {
         if (file != QLatin1String("-"))
             names.append(tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { m_window.reset(); }
     void printsWithTheGeneralPane();
+    void documentOfAnotherProgramHasItsTitle();
     void nonsensicalPagesStopPrinting();
     void conflictIsExplainedAndResolved();
     void noticesOutliveAQuestion();
@@ -105,6 +106,15 @@ void PrintWindowTest::printsWithTheGeneralPane()
     QTRY_VERIFY(find<ResultPage>()->text().contains(u"Job 1: done"_s));
     QTest::keyClick(&window, Qt::Key_Return);
     QCOMPARE(window.result(), int(QDialog::Accepted));
+}
+
+// Its file has no name of its own.
+void PrintWindowTest::documentOfAnotherProgramHasItsTitle()
+{
+    PrintTask task;
+    task.files = {u"/proc/self/fd/7"_s};
+    task.documentName = u"A web\npage"_s;
+    QCOMPARE(PrintWindow(m_system, m_none, task).windowTitle(), u"Print “A web page”"_s);
 }
 
 void PrintWindowTest::nonsensicalPagesStopPrinting()
