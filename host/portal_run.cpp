@@ -213,9 +213,8 @@ void RequestRun::tell(const QString &text, const QString &details)
 PrintTask RequestRun::task(const StartingSettings &start)
 {
     PrintTask task;
-    PrintError ignored;
-    if (!start.printer.isEmpty() && m_system.destination(start.printer, &ignored))
-        task.printer = start.printer;
+    task.printer = start.printer;
+    task.printerMayBeGone = true; // since the application has heard of it
     if (m_document)
         task.files = {documentPath()};
     task.title = jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
@@ -264,9 +263,11 @@ int RequestRun::openDialog()
     }
     QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
-    window.show();
-    window.update(); // it may have been shown, and painted, while a panel was waiting
-    QApplication::exec();
+    if (!window.isDismissed()) {
+        window.show();
+        window.update(); // it may have been shown, and painted, while a panel was waiting
+        QApplication::exec();
+    }
     m_system.setLoginPrompt({});
     if (window.submission())
         return answer(Done);

@@ -52,6 +52,24 @@ int takePicture(PrintWindow *window, const QString &path, QIODevice *err)
     return ExitFailure;
 }
 
+int tellRefusal(const PrintError &error, QIODevice *err)
+{
+    err->write("kelmar-print: " + terminalLine(error.message));
+    return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
+}
+
+// A panel may be moving still, or the print server be asked.
+void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err)
+{
+    QObject::connect(new Settled(window), &Settled::done, window, [=] {
+        if (window->isOpening())
+            pictureWhenSettled(window, path, err);
+        else
+            QApplication::exit(window->refusal() ? tellRefusal(window->refusal(), err)
+                                                 : takePicture(window, path, err));
+    });
+}
+
 void tellResult(const PrintWindow &window, QIODevice *out, QIODevice *err)
 {
     if (!window.submission())
@@ -79,11 +97,14 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     PrintWindow window(system, extensions, task);
     system.setLoginPrompt(
         [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
+    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
+    QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     PrintError error;
     if (!window.open(&error)) {
-        err->write("kelmar-print: " + terminalLine(error.message));
-        return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
+        return tellRefusal(error, err);
     }
+    if (window.isDismissed()) // while a panel waited
+        return exitCodeOf(window);
     FirstPaint firstPaint(&window);
     QObject::connect(&firstPaint, &FirstPaint::done, &window, [&] {
         if (arguments.startupTime) {
@@ -94,12 +115,8 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         window.finishLater();
         if (arguments.screenshot.isEmpty())
             return;
-        // A panel may be moving still.
-        QObject::connect(new Settled(&window), &Settled::done, &window,
-                         [&] { QApplication::exit(takePicture(&window, arguments.screenshot, err)); });
+        pictureWhenSettled(&window, arguments.screenshot, err);
     });
-    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
-    QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     window.show();
     window.update(); // it may have been shown, and painted, while a panel was waiting
     const int code = QApplication::exec();

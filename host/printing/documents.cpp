@@ -5,6 +5,8 @@
 
 #include "host/printing/file_name.h"
 #include "host/printing/gzip_file.h"
+#include "host/printing/held_signals.h"
+#include "platform/unique_fd.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,10 +15,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,6 +32,7 @@ struct DocumentText
 };
 
 constexpr qint64 spoolBlock = 64 * 1024;
+constexpr int betweenStops = 50;       // milliseconds
 constexpr qint64 headSize = 64 * 1024; // bytes that tell what a document is
 
 bool isSvg(const QByteArray &head)
@@ -94,6 +97,19 @@ PrintError spoolProblem(const QString &reason)
                 .arg(temporaryFolder(), reason)};
 }
 
+// Until something, or the end, can be read; false when that is not wanted any more.
+bool waitForMore(int fd, const StopWanted &stop)
+{
+    pollfd more = {fd, POLLIN, 0};
+    while (true) {
+        if (HeldSignals::isPending() || (stop && stop()))
+            return false;
+        const int ready = ::poll(&more, 1, betweenStops);
+        if (ready > 0 || (ready < 0 && errno != EINTR))
+            return true; // a read tells what is wrong
+    }
+}
+
 // An open file by a name that anyone in this program can open again.
 QString pathOfHandle(int fd)
 {
@@ -154,54 +170,97 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
     return document;
 }
 
-std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error)
+// What comes from a pipe, in a file that has no name, and so is gone with this whatever becomes of the
+// program.
+struct DocumentList::Spool
 {
-    auto spool = std::make_unique<QFile>();
+    QFile copy;
+    platform::UniqueFd source; // stays open while there is more to come; none for the standard input
+    bool isWhole = false;
+
+    bool begin(const QString &path, PrintError *error);
+    bool take(QIODevice *input, PrintError *error, const StopWanted &stop);
+
+private:
+    bool keep(const char *data, qint64 count, PrintError *error);
+};
+
+// Opening a pipe does not wait for whoever is to write into it.
+bool DocumentList::Spool::begin(const QString &path, PrintError *error)
+{
     const int fd = namelessFile(QFile::encodeName(temporaryFolder()));
     if (fd < 0 ||
-        !spool->open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
+        !copy.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
         *error = spoolProblem(qt_error_string(errno));
-        return nullptr;
+        return false;
     }
+    if (path == QLatin1String("-"))
+        return true;
+    source = platform::UniqueFd(
+        ::open(fileNameToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (source)
+        return true;
+    *error = {PrintError::Kind::Other, DocumentText::tr("The file “%1” cannot be read: %2.")
+                                           .arg(readableFileName(path), qt_error_string(errno))};
+    return false;
+}
+
+// A full disk takes a part first, and gives its reason with the rest.
+bool DocumentList::Spool::keep(const char *data, qint64 count, PrintError *error)
+{
+    for (qint64 done = 0; done < count;) {
+        const qint64 taken = copy.write(data + done, count - done);
+        if (taken <= 0) {
+            *error = spoolProblem(copy.errorString());
+            return false;
+        }
+        done += taken;
+    }
+    return true;
+}
+
+// False with an error when nothing can be read, not all of it can be written, or it was stopped.
+bool DocumentList::Spool::take(QIODevice *input, PrintError *error, const StopWanted &stop)
+{
+    const int fd = source ? source.get() : STDIN_FILENO;
     QByteArray block(spoolBlock, Qt::Uninitialized);
     while (true) {
-        const qint64 count = input->read(block.data(), block.size());
-        const auto *file = qobject_cast<QFileDevice *>(input);
-        if (count <= 0 && file && file->error() != QFileDevice::NoError) {
+        if (!input && !waitForMore(fd, stop)) {
+            *error = {PrintError::Kind::Cancelled, DocumentText::tr("Printing was canceled.")};
+            return false;
+        }
+        const qint64 count = input ? input->read(block.data(), block.size())
+                                   : ::read(fd, block.data(), static_cast<size_t>(block.size()));
+        if (!input && count < 0 && (errno == EAGAIN || errno == EINTR))
+            continue;
+        if (!input && count < 0) {
             *error = {PrintError::Kind::Other,
-                      DocumentText::tr("The standard input cannot be read: %1.").arg(input->errorString())};
-            return nullptr;
+                      DocumentText::tr("The standard input cannot be read: %1.").arg(qt_error_string(errno))};
+            return false;
         }
         if (count <= 0)
             break;
-        // A full disk takes a part first, and gives its reason with the rest.
-        for (qint64 done = 0; done < count;) {
-            const qint64 taken = spool->write(block.constData() + done, count - done);
-            if (taken <= 0) {
-                *error = spoolProblem(spool->errorString());
-                return nullptr;
-            }
-            done += taken;
-        }
+        if (!keep(block.constData(), count, error))
+            return false;
     }
-    if (spool->size() == 0) {
-        *error = {PrintError::Kind::EmptyDocument, DocumentText::tr("Nothing came from the standard input.")};
-        return nullptr;
-    }
-    return spool;
+    isWhole = true;
+    source.reset();
+    if (copy.size() > 0)
+        return true;
+    *error = {PrintError::Kind::EmptyDocument, DocumentText::tr("Nothing came from the standard input.")};
+    return false;
 }
 
 DocumentList::DocumentList() = default;
 DocumentList::~DocumentList() = default;
-DocumentList::DocumentList(DocumentList &&) noexcept = default;
-DocumentList &DocumentList::operator=(DocumentList &&) noexcept = default;
 
-bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *error)
+bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *error, const StopWanted &stop)
 {
+    const std::lock_guard opening(m_opening);
     m_documents.clear();
     for (const QString &path : paths) {
         const bool isKept = path == QLatin1String("-") || m_spools.count(path) > 0 || isStream(path);
-        const auto document = isKept ? openOne(path, input, error) : openDocument(path, error);
+        const auto document = isKept ? openOne(path, input, error, stop) : openDocument(path, error);
         if (!document)
             return false;
         m_documents.append(*document);
@@ -209,25 +268,24 @@ bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *
     return true;
 }
 
-// What is read once: from the first call on, the copy.
-std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *input, PrintError *error)
+// What is read once: from the first call on, the copy, which goes on where a call was stopped.
+std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *input, PrintError *error,
+                                              const StopWanted &stop)
 {
     const bool isInput = path == QLatin1String("-");
-    std::unique_ptr<QFile> &spool = m_spools[path];
+    std::unique_ptr<Spool> &spool = m_spools[path];
     if (!spool) {
-        QFile own;
-        QString problem;
-        const bool isOpen =
-            isInput ? input || own.open(stdin, QIODevice::ReadOnly) : openForReading(&own, path, &problem);
-        if (!isOpen) {
-            *error = {
-                PrintError::Kind::Other,
-                DocumentText::tr("The file “%1” cannot be read: %2.").arg(readableFileName(path), problem)};
+        auto begun = std::make_unique<Spool>();
+        if (!begun->begin(path, error))
             return std::nullopt;
-        }
-        spool = spoolInput(isInput && input ? input : &own, error);
+        spool = std::move(begun);
     }
-    auto document = spool ? openDocument(pathOfHandle(spool->handle()), error) : std::nullopt;
+    if (!spool->isWhole && !spool->take(isInput ? input : nullptr, error, stop)) {
+        if (error->kind != PrintError::Kind::Cancelled)
+            spool.reset();
+        return std::nullopt;
+    }
+    auto document = openDocument(pathOfHandle(spool->copy.handle()), error);
     if (document)
         document->name = isInput ? DocumentText::tr("Standard input") : nameOf(path);
     return document;

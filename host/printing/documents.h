@@ -10,8 +10,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 class QIODevice;
@@ -38,10 +40,8 @@ bool isStream(const QString &path);
 // A stream's type is not known before it has been read.
 std::optional<Document> openDocument(const QString &path, PrintError *error);
 
-// Copies what `input` gives until its end into a file that has no name, and so is gone with the result
-// whatever becomes of the program. Null with an error, which names the folder, when nothing can be read or
-// not all of it can be written.
-std::unique_ptr<QFile> spoolInput(QIODevice *input, PrintError *error);
+// Whether nobody wants any more what is being read. Called on the thread that reads.
+using StopWanted = std::function<bool()>;
 
 // The documents of one job, in the order they are printed. Owns the temporary files that hold what came from
 // pipes; they go with it.
@@ -50,21 +50,26 @@ class DocumentList
 public:
     DocumentList();
     ~DocumentList();
-    DocumentList(DocumentList &&) noexcept;
-    DocumentList &operator=(DocumentList &&) noexcept;
+    DocumentList(const DocumentList &) = delete;
+    DocumentList &operator=(const DocumentList &) = delete;
 
     // Opens each path; "-" is `input`, or the standard input where that is null. What can be read once only
     // is kept, so a second call does not find it empty. False with an error that names the first that fails.
-    bool open(const QStringList &paths, QIODevice *input, PrintError *error);
+    // Returns false soon after `stop` (may be null) has come true, whether or not more comes from a pipe;
+    // what has come is kept for the next call. Calls on several threads follow one another.
+    bool open(const QStringList &paths, QIODevice *input, PrintError *error, const StopWanted &stop = {});
     const QList<Document> &documents() const { return m_documents; }
     // What a job of these documents is called: the first one's name; empty without documents.
     QString title() const;
 
 private:
-    std::optional<Document> openOne(const QString &path, QIODevice *input, PrintError *error);
+    struct Spool;
+    std::optional<Document> openOne(const QString &path, QIODevice *input, PrintError *error,
+                                    const StopWanted &stop);
 
+    std::mutex m_opening;
     QList<Document> m_documents;
-    std::map<QString, std::unique_ptr<QFile>> m_spools; // by path
+    std::map<QString, std::unique_ptr<Spool>> m_spools; // by path
 };
 
 } // namespace host

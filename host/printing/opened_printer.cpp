@@ -17,20 +17,26 @@ struct OpenText
     Q_DECLARE_TR_FUNCTIONS(OpenText)
 };
 
+// Whether it is the printer that is missing. Any other problem meets the next one, too, and takes its time.
+bool lacksPrinter(const PrintError &error)
+{
+    return error.kind == PrintError::Kind::NoSuchPrinter || error.kind == PrintError::Kind::NoPrinters;
+}
+
 std::optional<Destination> firstDestination(PrintSystem &system, const QString &usedLast, PrintError *error)
 {
     PrintError gone;
     if (!usedLast.isEmpty()) {
         if (auto destination = system.destination(usedLast, &gone))
             return destination;
-        if (gone.kind == PrintError::Kind::ServerAway) {
+        if (!lacksPrinter(gone)) {
             *error = gone;
             return std::nullopt;
         }
     }
     if (auto destination = system.destination(QString(), error))
         return destination;
-    if (error->kind == PrintError::Kind::ServerAway)
+    if (!lacksPrinter(*error))
         return std::nullopt;
     const auto all = system.destinations(error);
     if (all && !all->isEmpty())

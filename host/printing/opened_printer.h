@@ -28,6 +28,8 @@ struct PrinterWish
 {
     QString printer; // destination name; empty for the user's default, or for none where there is a PPD file
     QString ppdFile; // stands in for the queue's own
+    bool mayBeGone = false; // a printer that is not there any more is as good as none
+    bool isForAnyone() const { return printer.isEmpty() && ppdFile.isEmpty(); }
 };
 
 // All of these ask the print system, and block. Nil with an error when the destination or the PPD file cannot

@@ -236,6 +236,7 @@ void DialogSession::announceChoices(Panel &panel)
 void DialogSession::restore(Panel &panel)
 {
     const Busy busy(&m_busy);
+    const QScopedValueRollback<const Panel *> restoring(m_restoring, &panel);
     panel.restored = true; // also when it fails: a second attempt would ask a device that is away again
     QString error;
     try {
@@ -278,7 +279,7 @@ void DialogSession::tellDropped(const Panel &panel, const QVariantMap &before)
 void DialogSession::save()
 {
     for (size_t i = 0; i < m_panels.size(); ++i) {
-        if (m_panels[i].restored)
+        if (m_panels[i].restored && &m_panels[i] != m_restoring)
             savePanel(i);
     }
     settle();

@@ -160,6 +160,7 @@ private:
     int m_saving = -1;
     int m_busy = 0; // calls of this object into panels that are under way
     bool m_settleQueued = false;
+    const Panel *m_restoring = nullptr;  // may wait for a device; what it holds means nothing yet
     const Panel *m_announcing = nullptr; // is being told what is so, not what to change
     std::vector<Panel> m_panels;         // go first
 };

@@ -3,7 +3,7 @@
 
 #include "host/window/dialog_waiter.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -83,8 +83,10 @@ DialogWaiter::~DialogWaiter() = default;
 
 void DialogWaiter::beginActivity()
 {
-    if (++m_activities == 1)
-        m_givenUp = m_noticed = false;
+    if (++m_activities > 1)
+        return;
+    m_givenUp = m_noticed = false;
+    m_sinceBegin.start();
 }
 
 void DialogWaiter::endActivity()
@@ -106,7 +108,9 @@ bool DialogWaiter::wait(const std::function<bool()> &ended)
         if (!std::exchange(m_noticed, true))
             Q_EMIT waitingNoticed();
     });
-    notice.start(noticeable);
+    // Many short calls are one long wait to who looks on.
+    const std::chrono::milliseconds passed(m_activities > 0 ? m_sinceBegin.elapsed() : 0);
+    notice.start(std::max(noticeable - passed, std::chrono::milliseconds(0)));
     if (!ended() && !m_givenUp && loop.exec() != 0)
         m_givenUp = true; // the program ends
     if (--m_depth == 0)
@@ -121,7 +125,7 @@ void DialogWaiter::wake()
 
 void DialogWaiter::giveUp()
 {
-    if (m_depth == 0)
+    if (m_depth == 0 && m_activities == 0)
         return;
     m_givenUp = true;
     wake();
@@ -136,6 +140,10 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
         return false;
     }
     if (!isInput(event->type()))
+        return false;
+    // A question that came up meanwhile, such as who prints.
+    const QWidget *question = QApplication::activeModalWidget();
+    if (question && question != m_dialog && isWithin(watched, question))
         return false;
     const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
     if (key && key->key() == Qt::Key_Escape) {

@@ -5,6 +5,7 @@
 
 #include "platform/background.h"
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -52,6 +53,7 @@ private:
     int m_depth = 0; // of nested waits
     bool m_givenUp = false;
     bool m_noticed = false;
+    QElapsedTimer m_sinceBegin; // of the activity
 };
 
 } // namespace host

@@ -38,6 +38,8 @@ namespace {
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int usualLines = 34;   // that the window is high where there is room for it
 constexpr std::chrono::seconds betweenStates(5);
+// Whoever steps through the printers faster than this wants none of those between.
+constexpr std::chrono::milliseconds betweenPicks(200);
 
 } // namespace
 
@@ -134,13 +136,29 @@ void PrintWindow::connectAll()
     });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this), &QShortcut::activated, this,
-            [this] { m_book->turn(1); });
+            [this] { turn(1); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this), &QShortcut::activated, this,
-            [this] { m_book->turn(-1); });
+            [this] { turn(-1); });
+    m_pickTimer.setSingleShot(true);
+    m_pickTimer.setInterval(betweenPicks);
+    connect(&m_pickTimer, &QTimer::timeout, this, [this] {
+        if (!m_picked.isEmpty())
+            openPicked(std::exchange(m_picked, QString()));
+    });
+    m_openingTimer.setSingleShot(true);
+    connect(&m_openingTimer, &QTimer::timeout, this, &PrintWindow::showOpening);
+    connect(&m_progressTimer, &QTimer::timeout, this, &PrintWindow::showProgress);
+}
+
+void PrintWindow::turn(int steps)
+{
+    if (m_state == State::Choosing && m_busyDepth == 0)
+        m_book->turn(steps);
 }
 
 void PrintWindow::showState(State state)
 {
+    m_state = state;
     m_book->setVisible(state == State::Choosing);
     if (state != State::Choosing)
         m_bar->hide();
@@ -281,18 +299,28 @@ void PrintWindow::recheckLater()
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (m_askingConflict && m_session) {
-                m_session->save();
-                sessionChanged();
-                showConflicts();
-            }
             m_recheckQueued = false;
+            recheck();
         },
         Qt::QueuedConnection);
 }
 
+void PrintWindow::recheck()
+{
+    m_recheckDue = m_busyDepth > 0; // a panel that is only half restored must not be saved
+    if (m_recheckDue || !m_askingConflict || !m_session)
+        return;
+    m_session->save();
+    sessionChanged();
+    showConflicts();
+}
+
 void PrintWindow::answer(int index)
 {
+    if (m_busyDepth > 0 || isOpening()) { // assistive technology presses past what keeps input away
+        m_recheckDue = m_askingConflict;
+        return;
+    }
     if (m_session)
         m_settings->history()->endGesture();
     if (m_greyed->answer(index)) {
@@ -329,16 +357,31 @@ void PrintWindow::finishLater()
 
 void PrintWindow::checkDocuments()
 {
-    for (const QString &path : m_task.files) {
-        PrintError error;
-        if (path == QLatin1String("-") || isStream(path) || !m_session || openDocument(path, &error))
-            continue;
-        if (m_askingConflict)
-            m_notices.append(error.message);
-        else
-            showError(error);
+    m_checking.start(
+        this,
+        [files = m_task.files] {
+            PrintError error;
+            for (const QString &path : files) {
+                if (path != QLatin1String("-") && !isStream(path) && !openDocument(path, &error))
+                    break;
+            }
+            return error;
+        },
+        [this](const PrintError &error) {
+            m_documentProblem = error;
+            showDocumentProblem();
+        });
+}
+
+void PrintWindow::showDocumentProblem()
+{
+    if (!m_session || m_state != State::Choosing || !m_documentProblem)
         return;
-    }
+    const PrintError error = std::exchange(m_documentProblem, {});
+    if (m_askingConflict)
+        m_notices.append(error.message);
+    else
+        showError(error);
 }
 
 void PrintWindow::showError(const PrintError &error)

@@ -43,12 +43,13 @@ class WaitingPage;
 // What the window is opened for. A value.
 struct PrintTask
 {
-    QStringList files;    // "-" is the standard input
-    QString title;        // of the job; the first file's name when empty
-    QString documentName; // of the only document, where its file's name says nothing
-    QString printer;      // destination name; empty for the one used last, else the default
-    QString ppdFile;      // shows the options of this PPD instead of the queue's
-    QString firstPage;    // name of the page to open at; empty for the first
+    QStringList files;             // "-" is the standard input
+    QString title;                 // of the job; the first file's name when empty
+    QString documentName;          // of the only document, where its file's name says nothing
+    QString printer;               // destination name; empty for the one used last, else the default
+    QString ppdFile;               // shows the options of this PPD instead of the queue's
+    QString firstPage;             // name of the page to open at; empty for the first
+    bool printerMayBeGone = false; // a printer that is not there is as good as none
     // Runs once on the first session, with its first page in place: settings of the command line. Later
     // sessions get them with whatever else has been chosen.
     std::function<bool(DialogSession *, PrintError *)> prepare;
@@ -61,8 +62,9 @@ struct PrintTask
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
 // one and takes along what has been chosen. The print system and the extensions are borrowed; they outlive it
-// and everything that is under way beside its thread when it goes. Never waits on its thread: what takes its
-// time shows a page with a way out, or a sign in the footer.
+// and everything that is under way beside its thread when it goes. What takes its
+// time runs beside its thread and shows a page with a way out, or a sign in the footer; only open() and the
+// beginning of sending wait for a near server, 50 ms at most.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -77,6 +79,12 @@ public:
     DialogSession *session() const { return m_session.get(); }
     // What became of the job; nil before there is one, and when it was not accepted.
     const std::optional<Submission> &submission() const { return m_submission; }
+    // Why the task could not be done after all, where open() could not tell yet.
+    const PrintError &refusal() const { return m_refusal; }
+    // Whether a printer is still being opened.
+    bool isOpening() const { return m_opening.isPending() || m_whenIdle; }
+    // Whether the user has closed the dialog, which may be before open() has returned.
+    bool isDismissed() const { return m_isDismissed; }
     MessageBar *messageBar() const { return m_bar; }
     PageBook *book() const { return m_book; }
     // Shows the session's pages anew, as after its panels have become others.
@@ -87,6 +95,7 @@ public:
 public Q_SLOTS:
     void print();
     void reject() override;
+    void done(int result) override;
     void loadPrinterList();
     // Looks, once, for printers that the print server has no queue for.
     void searchNetwork();
@@ -110,8 +119,14 @@ private:
     void arrange();
     void fit();
     void setCompact(bool compact);
-    // Opens a printer; the receiver gets it now, or while the window waits.
-    void openWished(const PrinterWish &wish, std::function<void(PrinterOpening)> receiver);
+    using OpeningReceiver = std::function<void(PrinterOpening)>;
+    // Opens a printer beside this thread; the receiver gets it when no panel waits.
+    void openWished(const PrinterWish &wish, OpeningReceiver receiver);
+    void openTask();
+    void openPicked(const QString &name);
+    void showOpening();
+    void receive(PrinterOpening opening, const OpeningReceiver &receiver);
+    void dropOpening();
     void showFirst(PrinterOpening opening);
     void showPicked(PrinterOpening opening);
     void stayWithPrinter();
@@ -129,13 +144,19 @@ private:
     bool showConflicts(bool toPrint = false);
     void deliver();
     void recheckLater();
+    void recheck();
+    void goOn();
+    void turn(int steps);
     void answer(int index);
     void checkDocuments();
+    void showDocumentProblem();
     void showError(const PrintError &error);
     void showBusy(const QString &what);
     void showPainted();
     void showIdle();
     void stopWaiting();
+    bool dropReading();
+    void showProgress();
     void askState();
     void send();
     void savePdf();
@@ -157,21 +178,31 @@ private:
     bool m_askingConflict = false;
     int m_printAnyway = -1; // which answer of that question it is; -1 where it is none
     bool m_recheckQueued = false;
-    QStringList m_notices; // not yet closed by the user
-    QString m_toldGap;     // in the protection of the job
+    bool m_recheckDue = false; // once no panel waits
+    QStringList m_notices;     // not yet closed by the user
+    QString m_toldGap;         // in the protection of the job
     std::optional<Resolution> m_proposal;
     std::optional<Submission> m_submission;
     std::shared_ptr<Sending> m_sending;  // null unless a job is on its way
     std::unique_ptr<HeldSignals> m_held; // while one is
     bool m_isLeaving = false;            // once that job's end is known
     PrintError *m_taskError = nullptr;   // while open() runs
+    PrintError m_refusal;
+    PrintError m_documentProblem; // not yet shown
+    bool m_isDismissed = false;
+    State m_state = State::Unavailable;
+    QString m_picked;                 // to be opened when the user has stopped stepping through printers
+    std::function<void()> m_whenIdle; // takes the printer that was opened while a panel waited
     platform::Awaited<PrinterOpening> m_opening;
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<Submission> m_submitting;
+    platform::Awaited<PrintError> m_checking;
     platform::Awaited<PrintError> m_jobChange;
     bool m_jobWasTold = false; // to who looks elsewhere
     QTimer m_progressTimer;
+    QTimer m_pickTimer;
+    QTimer m_openingTimer;
     QTimer m_stateTimer;
 
     PrinterPicker *m_picker;

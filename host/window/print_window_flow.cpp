@@ -6,7 +6,6 @@
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
 #include "host/printing/network_search.h"
-#include "host/session/carry_over.h"
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
@@ -39,15 +38,6 @@ namespace {
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
 
-PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QString &usedLast)
-{
-    PrinterOpening opening;
-    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
-    opening.printer = isAnyone ? openFirstPrinter(system, usedLast, &opening.error)
-                               : openPrinter(system, wish, &opening.error);
-    return opening;
-}
-
 } // namespace
 
 // What a submission and the window that waits for it share.
@@ -56,147 +46,29 @@ struct PrintWindow::Sending
     std::atomic<qint64> sent{0};
     std::atomic<qint64> total{0}; // bytes
     std::atomic<bool> isCancelled{false};
+    // Until the server is asked, nothing has to be undone: the work is dropped, however long it still reads.
+    enum class Phase { Reading, Submitting, Dropped };
+    std::atomic<Phase> phase{Phase::Reading};
+    bool isToldToSend = false; // the user knows that the server is asked now
+    bool enter(Phase next)
+    {
+        Phase reading = Phase::Reading;
+        return phase.compare_exchange_strong(reading, next);
+    }
     std::shared_ptr<DocumentList> documents; // the work's until it has ended
     JobRequest request;
 };
 
-bool PrintWindow::open(PrintError *error)
-{
-    m_taskError = error;
-    openWished({m_task.printer, m_task.ppdFile},
-               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
-    return !std::exchange(m_taskError, nullptr) || !*error;
-}
-
-void PrintWindow::openWished(const PrinterWish &wish, std::function<void(PrinterOpening)> receiver)
-{
-    const bool isAnyone = wish.printer.isEmpty() && wish.ppdFile.isEmpty();
-    const QString usedLast = isAnyone ? RememberedPrinter().name() : QString();
-    m_opening.start(
-        this, [&system = m_system, wish, usedLast] { return openAny(system, wish, usedLast); },
-        std::move(receiver));
-    if (m_opening.deliverWithin(nearServer))
-        return;
-    if (!m_session) {
-        Destination awaited;
-        awaited.queue = wish.printer.isEmpty() ? usedLast : wish.printer;
-        if (!awaited.queue.isEmpty())
-            m_picker->setAwaited(awaited);
-    }
-    m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
-    showState(State::Waiting);
-}
-
-// A printer that cannot do what the task asks for is not offered without it.
-void PrintWindow::refuse(const PrintError &error)
-{
-    if (m_taskError) {
-        *m_taskError = error;
-        return;
-    }
-    letGo();
-    m_session.reset();
-    m_notices.clear();
-    showError(error);
-}
-
-void PrintWindow::showFirst(PrinterOpening opening)
-{
-    if (!opening.printer) {
-        if (m_task.ppdFile.isEmpty())
-            showError(opening.error);
-        else
-            refuse(opening.error);
-        return;
-    }
-    adopt(makeSession(std::move(*opening.printer)));
-    const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
-    if (row < 0) {
-        refuse({PrintError::Kind::BadValue, tr("There is no pane called “%1”.").arg(m_task.firstPage)});
-        return;
-    }
-    m_book->showPage(row);
-    // On the shown page, so that panels answer the settings as they answer the user's.
-    PrintError problem;
-    if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
-        refuse(problem);
-        return;
-    }
-    m_settings->absorb();
-    m_book->refresh();
-    m_book->showChanges();
-    showNotices();
-    showConflicts();
-}
-
-// A queue whose PPD is broken still prints, with what every printer can be asked.
-std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
-{
-    auto session = std::make_unique<DialogSession>(opened.destination, std::move(opened.ppd));
-    if (opened.ppdProblem)
-        session->addNotice(opened.ppdProblem.message);
-    session->loadPanels(m_extensions);
-    if (m_task.begin && !m_session)
-        m_task.begin(session.get());
-    return session;
-}
-
-void PrintWindow::pickPrinter(const QString &name)
-{
-    if (!m_session) { // the settings of the task are still to be made
-        m_task.printer = name;
-        openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showFirst(std::move(opening)); });
-        return;
-    }
-    m_session->save(); // what the page that is shown has pending
-    openWished({name, m_task.ppdFile}, [this](PrinterOpening opening) { showPicked(std::move(opening)); });
-}
-
-void PrintWindow::showPicked(PrinterOpening opening)
-{
-    if (!opening.printer) {
-        stayWithPrinter();
-        showError(opening.error);
-        return;
-    }
-    auto session = makeSession(std::move(*opening.printer));
-    m_bar->hide();
-    m_askingConflict = false;
-    m_notices.clear();
-    m_toldGap.clear();
-    const QString page = m_book->currentName();
-    letGo();
-    const auto earlier = std::move(m_session);
-    adopt(std::move(session));
-    carryOver(*earlier, m_session.get());
-    m_settings->absorb();
-    m_book->showPage(std::max(m_book->pageNamed(page), 0));
-    showNotices();
-    showConflicts();
-}
-
-void PrintWindow::stayWithPrinter()
-{
-    m_picker->setCurrent(m_session->destination());
-    showState(State::Choosing);
-    allowPrinting();
-}
-
-void PrintWindow::retry()
-{
-    openWished({m_task.printer, m_task.ppdFile},
-               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
-    loadPrinterList();
-}
-
 void PrintWindow::stopWaiting()
 {
+    if (dropReading())
+        return;
     if (m_sending) {
         m_sending->isCancelled = true;
         m_waiting->setCancelling(tr("Canceling the job…"));
         return;
     }
-    m_opening.drop();
+    dropOpening();
     if (m_session)
         stayWithPrinter();
     else
@@ -253,6 +125,10 @@ void PrintWindow::showBusy(const QString &what)
     m_waiter->beginActivity();
     m_waiter->setOpenParts({m_waitSign, m_cancel});
     m_waitSign->begin(what);
+    if (m_isDismissed) { // nobody waits for it, and nothing brings the window back
+        m_waiter->giveUp();
+        return;
+    }
     if (isVisible())
         repaint();
     else
@@ -276,12 +152,24 @@ void PrintWindow::showIdle()
         return;
     m_waiter->endActivity();
     m_waitSign->end();
+    // The panel has to return first.
+    QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
+}
+
+void PrintWindow::goOn()
+{
+    if (m_busyDepth > 0)
+        return;
+    if (m_recheckDue)
+        recheck();
+    if (const auto take = std::exchange(m_whenIdle, nullptr))
+        take();
 }
 
 void PrintWindow::print()
 {
-    if (m_submission || m_sending || (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() ||
-        m_book->isHidden())
+    if (m_submission || m_sending || m_busyDepth > 0 || isOpening() || !m_picked.isEmpty() ||
+        (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
         return;
@@ -314,7 +202,9 @@ void PrintWindow::send()
     auto work = [&system = m_system, sending = m_sending, files = m_documentChoice.included(),
                  name = m_task.documentName, rememberUse = m_settings->rememberUse()]() -> Submission {
         Submission failed;
-        if (!sending->documents->open(files, nullptr, &failed.error))
+        const auto isDropped = [&] { return sending->phase == Sending::Phase::Dropped; };
+        if (!sending->documents->open(files, nullptr, &failed.error, isDropped) ||
+            !sending->enter(Sending::Phase::Submitting))
             return failed;
         JobRequest &request = sending->request;
         request.documents = sending->documents->documents();
@@ -335,19 +225,16 @@ void PrintWindow::send()
     m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
     if (m_submitting.deliverWithin(nearServer))
         return;
-    m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
+    showProgress();
     showState(State::Sending);
     m_waiting->cancelButton()->setFocus();
-    m_progressTimer.callOnTimeout(this, [this] {
-        if (m_sending)
-            m_waiting->setProgress(m_sending->sent, m_sending->total);
-    });
     m_progressTimer.start(betweenProgress);
 }
 
 void PrintWindow::savePdf()
 {
-    if (m_sending || !m_book->checkTyped())
+    if (m_sending || m_busyDepth > 0 || isOpening() || !m_book->checkTyped())
         return;
     m_session->save();
     sessionChanged();
@@ -372,6 +259,33 @@ void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
         showError(error);
     else
         m_bar->showMessage(MessageBar::Kind::Success, tr("The PDF file has been written"), {path});
+}
+
+void PrintWindow::showProgress()
+{
+    if (!m_sending)
+        return;
+    if (m_sending->phase == Sending::Phase::Reading) {
+        if (HeldSignals::isPending()) // there is no job yet to be cancelled first
+            dropReading();
+        return;
+    }
+    if (!std::exchange(m_sending->isToldToSend, true) && !m_sending->isCancelled)
+        m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    m_waiting->setProgress(m_sending->sent, m_sending->total);
+}
+
+// True when the documents were still being read; then nothing is sent.
+bool PrintWindow::dropReading()
+{
+    if (!m_sending || !m_sending->enter(Sending::Phase::Dropped))
+        return false;
+    m_submitting.drop();
+    Submission dropped;
+    dropped.outcome = Submission::Outcome::Rejected;
+    dropped.error = {PrintError::Kind::Cancelled, tr("Printing was canceled.")};
+    sent(std::move(dropped));
+    return true;
 }
 
 void PrintWindow::sent(Submission submission)
@@ -456,6 +370,12 @@ void PrintWindow::printAgain()
     send();
 }
 
+void PrintWindow::done(int result)
+{
+    m_isDismissed = true;
+    QDialog::done(result);
+}
+
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.
 void PrintWindow::reject()
 {
@@ -470,7 +390,7 @@ void PrintWindow::reject()
 // Whoever closes the window does not wait for it: the job is cancelled, and its end is seen to unseen.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_sending) {
+    if (!m_sending || dropReading()) {
         QDialog::closeEvent(event);
         return;
     }

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -154,6 +155,11 @@ void PrinterBox::choose(const QModelIndex &index)
     Q_EMIT activated(currentIndex());
 }
 
+void PrinterBox::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}
+
 bool PrinterBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_search || event->type() != QEvent::KeyPress)
@@ -168,6 +174,8 @@ bool PrinterBox::eventFilter(QObject *watched, QEvent *event)
                          : key->key() == Qt::Key_Down   ? 1
                          : key->key() == Qt::Key_PageUp ? -rowsShown
                                                         : rowsShown;
+        if (m_found->rowCount() == 0)
+            return true;
         const int row = std::clamp(m_view->currentIndex().row() + step, 0, m_found->rowCount() - 1);
         m_view->setCurrentIndex(m_found->index(row, 0));
         return true;

@@ -33,6 +33,8 @@ Q_SIGNALS:
     void opened();
 
 protected:
+    // Scrolling past the box opens no printer.
+    void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -42,11 +42,8 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->addWidget(m_state, 1, 1, 1, 3);
     grid->setColumnStretch(2, 1);
     connect(m_box, &PrinterBox::opened, this, &PrinterPicker::opened);
-    connect(m_box, &QComboBox::activated, this, [this] {
-        const QString name = m_list->at(m_box->currentIndex()).name();
-        if (name != m_current)
-            Q_EMIT picked(name);
-    });
+    connect(m_box, &QComboBox::activated, this,
+            [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
 }
 
 void PrinterPicker::setPrinters(const QList<Destination> &printers)

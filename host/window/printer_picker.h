@@ -44,7 +44,7 @@ public:
     void setCompact(bool compact);
 
 Q_SIGNALS:
-    // The user chose another printer, by destination name.
+    // The user chose a printer, by destination name; it may be the one that is shown.
     void picked(const QString &name);
     // The list is shown.
     void opened();

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void givesUp_data();
     void givesUp();
     void startsAfreshWithTheNextActivity();
+    void manyShortCallsAreOneLongWait();
+    void questionGetsItsInput();
 
 private:
     // Waits for `m_release`, while `meanwhile` runs in the event loop.
@@ -109,6 +111,32 @@ void DialogWaiterTest::startsAfreshWithTheNextActivity()
     m_waiter->beginActivity();
     QVERIFY(waitWhile([&] { m_release->release(); }));
     m_waiter->endActivity();
+}
+
+void DialogWaiterTest::manyShortCallsAreOneLongWait()
+{
+    QSignalSpy noticed(m_waiter.get(), &DialogWaiter::waitingNoticed);
+    const platform::Waiter::Scope scope(m_waiter);
+    m_waiter->beginActivity();
+    for (int i = 0; i < 6; ++i)
+        platform::Background::call([release = m_release] { release->tryAcquire(1, 40); });
+    m_waiter->endActivity();
+    QCOMPARE(noticed.count(), 1);
+}
+
+void DialogWaiterTest::questionGetsItsInput()
+{
+    QDialog question(m_dialog.get());
+    QLineEdit name(&question);
+    QVERIFY(waitWhile([&] {
+        question.open();
+        name.setFocus();
+        QTest::keyClick(&name, Qt::Key_X);
+        QTest::keyClick(&question, Qt::Key_Escape);
+        m_release->release();
+    }));
+    QCOMPARE(name.text(), QStringLiteral("x"));
+    QVERIFY(!question.isVisible());
 }
 
 QTEST_MAIN(DialogWaiterTest)

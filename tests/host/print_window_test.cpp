@@ -10,6 +10,7 @@
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/unavailable_page.h"
+#include "host/window/waiting_page.h"
 #include "tests/host/window_fixture.h"
 
 #include <QDoubleSpinBox>
@@ -19,7 +20,10 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardItemModel>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -58,6 +62,8 @@ private Q_SLOTS:
     void serverAwayKeepsTheSettings();
     void opensWithoutServer();
     void otherPrinterTakesTheGeneralChoicesAlong();
+    void printerThatIsPickedAgainStays();
+    void pipeThatBringsNothingIsLeft();
     void remembersThePrinter();
     void settingsAreTheAnswer();
     void brokenPpdStillPrints();
@@ -190,9 +196,9 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     QVERIFY(!m_window->session());
     QVERIFY(find<UnavailablePage>()->reason().contains(u"“Duplex”"_s));
     Q_EMIT picker->picked(u"attic"_s);
-    settle();
+    QTRY_VERIFY(m_window->session());
     Q_EMIT picker->picked(u"raw"_s); // knows the standard name alone
-    settle();
+    QTRY_COMPARE(m_window->session()->destination().queue, u"raw"_s);
     QVERIFY2(!m_window->messageBar()->isShowing(), qPrintable(m_window->messageBar()->text()));
     m_window->print();
     settle();
@@ -267,12 +273,50 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
     QCOMPARE(find<QComboBox>(u"PageSize"_s)->currentData().toString(), u"A3"_s);
     picker->setCurrentIndex(2); // another maker's, without a PPD
     Q_EMIT picker->activated(2);
-    settle();
-    QVERIFY(!find<QComboBox>(u"PageSize"_s));
+    QTRY_VERIFY(!find<QComboBox>(u"PageSize"_s));
     QCOMPARE(find<PageList>()->count(), 2); // general and summary
     printButton()->click();
     settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"copies"_s), u"4"_s);
+}
+
+void PrintWindowTest::printerThatIsPickedAgainStays()
+{
+    PrintWindow &window = open();
+    auto *box = find<PrinterPicker>()->box();
+    for (const int row : {1, 0}) {
+        box->setCurrentIndex(row);
+        Q_EMIT box->activated(row);
+    }
+    settle();
+    QCOMPARE(window.session()->destination().queue, u"office"_s);
+    QVERIFY(printButton()->isEnabled());
+}
+
+void PrintWindowTest::pipeThatBringsNothingIsLeft()
+{
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(u"pipe"_s);
+    QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+    PrintTask task;
+    task.files = {pipe};
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    printButton()->click();
+    auto *waiting = find<WaitingPage>();
+    QTRY_COMPARE(waiting->text(), u"Reading the document…"_s);
+    waiting->cancelButton()->click();
+    QVERIFY(!waiting->isVisible() && printButton()->isEnabled());
+    QCOMPARE(m_window->messageBar()->text(), u"Printing was canceled."_s);
+    settle();
+    printButton()->click();
+    QFile writer(pipe);
+    QVERIFY(writer.open(QIODevice::WriteOnly) && writer.write("some text\n") > 0);
+    writer.close();
+    QTRY_COMPARE(m_system.submitted.size(), 1);
+    QCOMPARE(m_system.submitted.first().documents.first().size, 10);
 }
 
 void PrintWindowTest::remembersThePrinter()

@@ -80,6 +80,7 @@ private Q_SLOTS:
     void serverPauses();
     void deviceIsSilent_data();
     void deviceIsSilent();
+    void printerArrivesWhileAPanelWaits();
     void manyQueuesLoad();
 
 private:
@@ -355,6 +356,38 @@ void WindowAnswersTest::deviceIsSilent()
     auto *reload = find<QPushButton>("reloadButton");
     QTRY_VERIFY(reload->isVisible());
     clickAndGiveUp(reload, {});
+}
+
+// The panel that waits goes with its session, but not under its own feet.
+void WindowAnswersTest::printerArrivesWhileAPanelWaits()
+{
+    const SilentSocket silent("127.0.0.2", 161);
+    QVERIFY(silent.isBound());
+    open();
+    QTRY_VERIFY(m_window->session());
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    QVERIFY(m_proxy->command("delay 100"));
+    auto *list = m_window->book()->list();
+    const int row = m_window->book()->pageNamed(u"color-settings-1"_s);
+    QTimer giveUp;
+    giveUp.setSingleShot(true);
+    connect(&giveUp, &QTimer::timeout, this, [&] {
+        QCOMPARE(m_window->session()->destination().queue, u"office"_s);
+        m_window->print(); // as assistive technology does, past what keeps input away
+        QVERIFY(!find<WaitingPage>()->isVisible());
+        QTest::mouseClick(button(u"Do Not Wait"_s), Qt::LeftButton);
+    });
+    giveUp.start(1500); // long after the answers
+    Q_EMIT find<PrinterPicker>()->picked(u"halted"_s);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+    QVERIFY(!giveUp.isActive());
+    QTRY_COMPARE(m_window->session()->destination().queue, u"halted"_s);
+    QVERIFY(m_proxy->command("delay 300"));
+    const int now = m_window->book()->currentRow();
+    Q_EMIT find<PrinterPicker>()->picked(u"office"_s);
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(m_window->book()->currentRow(), now); // of pages that nobody sees
 }
 
 void WindowAnswersTest::manyQueuesLoad()

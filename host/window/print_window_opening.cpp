@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// How the window comes to the session of a printer, the first one and those that are picked.
+
+#include "host/session/carry_over.h"
+#include "host/window/dialog_button.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/print_window.h"
+#include "host/window/printer_picker.h"
+#include "host/window/settings_control.h"
+#include "host/window/waiting_page.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
+constexpr std::chrono::milliseconds nearServer(50);
+
+PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QString &usedLast)
+{
+    PrinterOpening opening;
+    if (!wish.isForAnyone()) {
+        opening.printer = openPrinter(system, wish, &opening.error);
+        if (!wish.mayBeGone || opening.error.kind != PrintError::Kind::NoSuchPrinter)
+            return opening;
+        opening.error = {};
+    }
+    opening.printer = openFirstPrinter(system, usedLast, &opening.error);
+    return opening;
+}
+
+} // namespace
+
+bool PrintWindow::open(PrintError *error)
+{
+    m_taskError = error;
+    openTask();
+    // The one time that the window waits on its thread: there is nothing to be seen of it yet.
+    if (!m_opening.deliverWithin(nearServer))
+        showOpening();
+    return !std::exchange(m_taskError, nullptr) || !*error;
+}
+
+void PrintWindow::openTask()
+{
+    openWished({m_task.printer, m_task.ppdFile, m_task.printerMayBeGone},
+               [this](PrinterOpening opening) { showFirst(std::move(opening)); });
+}
+
+void PrintWindow::openWished(const PrinterWish &wish, OpeningReceiver receiver)
+{
+    const bool wantsLast = wish.isForAnyone() || wish.mayBeGone;
+    const QString usedLast = wantsLast ? RememberedPrinter().name() : QString();
+    m_whenIdle = nullptr;
+    m_opening.start(
+        this, [&system = m_system, wish, usedLast] { return openAny(system, wish, usedLast); },
+        [this, receiver = std::move(receiver)](PrinterOpening opening) {
+            receive(std::move(opening), receiver);
+        });
+    if (!m_session) {
+        Destination awaited;
+        awaited.queue = wish.printer.isEmpty() ? usedLast : wish.printer;
+        if (!awaited.queue.isEmpty())
+            m_picker->setAwaited(awaited);
+    }
+    m_openingTimer.start(nearServer);
+}
+
+// A panel that waits is still on the stack, and its session with it: neither may go under it.
+void PrintWindow::receive(PrinterOpening opening, const OpeningReceiver &receiver)
+{
+    m_openingTimer.stop();
+    if (m_busyDepth == 0) {
+        receiver(std::move(opening));
+        return;
+    }
+    auto held = std::make_shared<PrinterOpening>(std::move(opening));
+    m_whenIdle = [receiver, held] { receiver(std::move(*held)); };
+}
+
+void PrintWindow::dropOpening()
+{
+    m_pickTimer.stop();
+    m_openingTimer.stop();
+    m_picked.clear();
+    m_opening.drop();
+    m_whenIdle = nullptr;
+}
+
+void PrintWindow::showOpening()
+{
+    if (!m_opening.isPending())
+        return;
+    if (m_busyDepth > 0) {
+        m_openingTimer.start(nearServer);
+        return;
+    }
+    m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
+    showState(State::Waiting);
+}
+
+// A printer that cannot do what the task asks for is not offered without it.
+void PrintWindow::refuse(const PrintError &error)
+{
+    if (m_taskError) {
+        *m_taskError = error;
+        return;
+    }
+    m_refusal = error;
+    letGo();
+    m_session.reset();
+    m_notices.clear();
+    showError(error);
+}
+
+void PrintWindow::showFirst(PrinterOpening opening)
+{
+    if (!opening.printer) {
+        if (m_task.ppdFile.isEmpty())
+            showError(opening.error);
+        else
+            refuse(opening.error);
+        return;
+    }
+    adopt(makeSession(std::move(*opening.printer)));
+    const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
+    if (row < 0) {
+        refuse({PrintError::Kind::BadValue, tr("There is no pane called “%1”.").arg(m_task.firstPage)});
+        return;
+    }
+    m_book->showPage(row);
+    if (m_isDismissed) // while a panel waited
+        return;
+    // On the shown page, so that panels answer the settings as they answer the user's.
+    PrintError problem;
+    if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
+        refuse(problem);
+        return;
+    }
+    m_settings->absorb();
+    m_book->refresh();
+    m_book->showChanges();
+    showNotices();
+    showConflicts();
+    showDocumentProblem();
+}
+
+// A queue whose PPD is broken still prints, with what every printer can be asked.
+std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
+{
+    auto session = std::make_unique<DialogSession>(opened.destination, std::move(opened.ppd));
+    if (opened.ppdProblem)
+        session->addNotice(opened.ppdProblem.message);
+    session->loadPanels(m_extensions);
+    if (m_task.begin && !m_session)
+        m_task.begin(session.get());
+    return session;
+}
+
+void PrintWindow::pickPrinter(const QString &name)
+{
+    if (m_busyDepth > 0) {
+        m_picker->setCurrent(m_session->destination());
+        return;
+    }
+    if (m_session && name == m_session->destination().name()) {
+        if (isOpening() || !m_picked.isEmpty()) {
+            dropOpening();
+            stayWithPrinter();
+        }
+        return;
+    }
+    m_print->setEnabled(false);
+    if (m_pickTimer.isActive()) {
+        dropOpening();
+        m_picked = name;
+    } else {
+        openPicked(name);
+    }
+    m_pickTimer.start();
+}
+
+void PrintWindow::openPicked(const QString &name)
+{
+    if (!m_session) { // the settings of the task are still to be made
+        m_task.printer = name;
+        m_task.printerMayBeGone = false;
+        openTask();
+        return;
+    }
+    openWished({name, m_task.ppdFile, false},
+               [this](PrinterOpening opening) { showPicked(std::move(opening)); });
+}
+
+void PrintWindow::showPicked(PrinterOpening opening)
+{
+    if (!opening.printer) {
+        stayWithPrinter();
+        showError(opening.error);
+        return;
+    }
+    m_session->save(); // what the page that is shown has pending
+    auto session = makeSession(std::move(*opening.printer));
+    m_bar->hide();
+    m_askingConflict = false;
+    m_notices.clear();
+    m_toldGap.clear();
+    const QString page = m_book->currentName();
+    letGo();
+    const auto earlier = std::move(m_session);
+    adopt(std::move(session));
+    carryOver(*earlier, m_session.get());
+    m_settings->absorb();
+    m_book->showPage(std::max(m_book->pageNamed(page), 0));
+    showNotices();
+    showConflicts();
+}
+
+void PrintWindow::stayWithPrinter()
+{
+    m_picker->setCurrent(m_session->destination());
+    showState(State::Choosing);
+    allowPrinting();
+    // Other pages have hidden them.
+    showNotices();
+    showConflicts();
+    showDocumentProblem();
+}
+
+void PrintWindow::retry()
+{
+    openTask();
+    loadPrinterList();
+}
+
+} // namespace host
