@@ -8,6 +8,7 @@
 #include "host/portal_run.h"
 #include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
+#include "host/session/policy_print_system.h"
 #include "host/window_run.h"
 #include "platform/background.h"
 
@@ -107,10 +108,19 @@ int leave(int code)
     return code;
 }
 
+// Each dialog and each run tells what is wrong with a policy that cannot be read.
+Policy readPolicy()
+{
+    Policy::setCurrent(Policy::installed());
+    return Policy::current();
+}
+
 int runForService(bool hasDisplay)
 {
-    CupsPrintSystem system;
-    Extensions extensions(Extensions::installedBundles(QApplication::applicationDirPath()));
+    CupsPrintSystem server;
+    const QStringList bundles = Extensions::installedBundles(QApplication::applicationDirPath());
+    Extensions extensions(bundles);
+    PolicyPrintSystem system(server, bundles, readPolicy());
     return leave(runDialogRequest(system, extensions, hasDisplay));
 }
 
@@ -123,11 +133,13 @@ int flushed(int code, QFile *out, QFile *err)
 
 int run(const Arguments &arguments, QFile *out, QFile *err)
 {
-    CupsPrintSystem system;
-    system.setLoginPrompt(askOnTerminal);
+    CupsPrintSystem server;
+    server.setLoginPrompt(askOnTerminal);
     const QString folder = QApplication::applicationDirPath();
-    Extensions extensions(arguments.bundles.isEmpty() ? Extensions::installedBundles(folder)
-                                                      : arguments.bundles);
+    const QStringList bundles =
+        arguments.bundles.isEmpty() ? Extensions::installedBundles(folder) : arguments.bundles;
+    Extensions extensions(bundles);
+    PolicyPrintSystem system(server, bundles, readPolicy());
     if (arguments.needsWindow())
         return leave(flushed(runWindow(arguments, system, extensions, out, err), out, err));
     ResultWriter writer(out, err);

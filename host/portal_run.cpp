@@ -31,8 +31,9 @@ struct PortalText
     Q_DECLARE_TR_FUNCTIONS(PortalText)
 };
 
-// How long an application may leave its document unfinished without another byte; milliseconds.
-constexpr int stall = 60'000;
+// How long an application may leave its document unfinished: without another byte, and one byte after the
+// other. Each document that is not finished keeps one of the service's places.
+constexpr platform::Patience patience{std::chrono::minutes(1), std::chrono::minutes(10)};
 
 enum Response { Done = 0, Cancelled = 1, Other = 2 };
 
@@ -112,7 +113,7 @@ bool RequestRun::takeDocument(PrintError *error)
     const platform::UniqueFd given(m_request.value(QLatin1String("document")).toInt(-1));
     if (given)
         m_document = platform::privateCopy(given.get(), QDir::tempPath().toStdString(),
-                                           platform::longestDocument, stall);
+                                           platform::longestDocument, &patience);
     else
         errno = EBADF;
     if (m_document && ::lseek(m_document.get(), 0, SEEK_END) > 0)

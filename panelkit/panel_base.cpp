@@ -114,8 +114,34 @@ void QVPDE_M880::loadInterface(const QString &nibName)
         throw platform::Exception(platform::Exception::layoutName,
                                   QStringLiteral("There is no bundle to load \"%1\" from").arg(nibName));
     m_topLevelNibObjects = platform::loadLayout(*m_manager->bundle(), nibName, this);
+    explainControls();
     QVDetachSliderBindingsInPDE(this, &m_updaterInfo);
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());
+}
+
+// "What is this?" of the controls that the layout binds by itself; pop-ups get theirs with their option.
+void QVPDE_M880::explainControls()
+{
+    for (const auto &object : m_topLevelNibObjects) {
+        for (QWidget *control : object->findChildren<QWidget *>()) {
+            const QString key = platform::keyPathSetBy(control).section(QLatin1Char('.'), -1);
+            if (!key.isEmpty())
+                control->setWhatsThis(explanationForKey(key));
+        }
+    }
+}
+
+QString QVPDE_M880::explanationForKey(const QString &key) const
+{
+    const QString name = key + QLatin1Char('?');
+    const QString text = m_manager->bundle() ? m_manager->bundle()->localizedStringForKey(name) : name;
+    return text == name ? QString() : text;
+}
+
+QString QVPDE_M880::helpText()
+{
+    return m_manager->bundle() ? m_manager->bundle()->helpText(panelKind().section(QLatin1Char('.'), -1))
+                               : QString();
 }
 
 std::vector<platform::Outlet> QVPDE_M880::outlets()

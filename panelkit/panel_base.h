@@ -28,7 +28,10 @@ using SliderRegistry = QMap<QString, QPointer<QSlider>>;
 // dictionaries) and K + "Choice" (index of the choice). Every set of K or K + "Choices" is posted on the
 // manager's notification centre under that key. Nothing reaches the PPD or the host before a save. Owned by
 // the host through PrintDialogPanel; holds the manager.
-class QVPDE_M880 : public platform::KeyValueObject, public QVCocoaPDE_M880, public platform::LayoutOwner
+class QVPDE_M880 : public platform::KeyValueObject,
+                   public QVCocoaPDE_M880,
+                   public platform::PanelHelp,
+                   public platform::LayoutOwner
 {
     Q_OBJECT
     Q_PROPERTY(QStringList supportedPPDOptionKeys READ supportedPPDOptionKeys)
@@ -54,6 +57,11 @@ public:
     void setManager(std::shared_ptr<QVPDEManager_M880> manager);
     QString panelName() override;
     void setPanelName(const QString &name);
+    // The bundle's page that is called as the last part of the panel's kind.
+    QString helpText() override;
+    // One or two sentences on what an option or key is for: the bundle's text for its name and "?". Nil where
+    // it has none.
+    QString explanationForKey(const QString &key) const;
     QString panelKind() override { return m_panelKind; }
     void setPanelKind(const QString &kind);
     // Sets the kind "com.kelmar.pde." + identifier.
@@ -102,6 +110,7 @@ private:
     void setOptionValue(const QVariant &value, const QString &key);
     void loadChoiceLists();
     void loadInterface(const QString &nibName);
+    void explainControls();
 
     QWidget *m_view = nullptr; // outlet; belongs to the layout
     QString m_panelName;

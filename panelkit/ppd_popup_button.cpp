@@ -34,12 +34,15 @@ void QVPopUpButton_M880::setDataSourceAndOptionName(QVPDE_M880 *panel, const QSt
 {
     platform::Binding::unbind(this, selectedIndexBinding);
     m_optionName = optionName;
+    setOptionKeyword(optionName);
     m_manager = panel ? panel->manager() : nullptr;
     m_dataSource = panel;
     clear();
     m_conflictableOptions.clear();
     m_numberedPpd.reset();
     if (panel) {
+        if (m_manager)
+            setWhatsThis(panel->explanationForKey(optionName));
         for (const QVariant &choice : panel->valueForKey(optionName + QStringLiteral("Choices")).toList())
             addChoice(choice.toMap());
     }
@@ -55,6 +58,7 @@ void QVPopUpButton_M880::setDataSourceAndOptionName(QVPDE_M880 *panel, const QSt
 void QVPopUpButton_M880::addChoice(const QVariantMap &choice)
 {
     addItem(choice.value(QVPPDTextKey).toString(), choice);
+    setItemData(count() - 1, choice.value(QVPPDChoiceKey), choiceRole);
     if (m_manager && m_manager->ppd())
         m_conflictableOptions.unite(m_manager->ppd()->conflictableOptionsForOptionWithChoice(
             m_optionName, choice.value(QVPPDChoiceKey).toString()));

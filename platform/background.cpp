@@ -136,17 +136,16 @@ bool Background::isGivenUp()
 void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)
 {
     // Carries the end of the work to this thread, where alone one can tell whether the receiver is still
-    // there. It belongs to what it delivers: somebody may delete what waits for deletion before that arrives.
-    std::shared_ptr<QObject> courier(new QObject, [](QObject *object) { object->deleteLater(); });
-    auto deliver = [receiver = QPointer<QObject>(receiver), done = std::move(done)] {
+    // there. It goes with its delivery alone: handed to deleteLater() before, it may be deleted before that
+    // arrives, and what an event owns must post none when the event is dropped at the end of the program.
+    auto *courier = new QObject;
+    auto deliver = [courier, receiver = QPointer<QObject>(receiver), done = std::move(done)] {
+        courier->deleteLater();
         if (receiver)
             done();
     };
-    runDetached(std::move(work), [courier = std::move(courier), deliver = std::move(deliver)]() mutable {
-        QObject *context = courier.get();
-        QMetaObject::invokeMethod(
-            context, [courier = std::move(courier), deliver = std::move(deliver)] { deliver(); },
-            Qt::QueuedConnection);
+    runDetached(std::move(work), [courier, deliver = std::move(deliver)] {
+        QMetaObject::invokeMethod(courier, deliver, Qt::QueuedConnection);
     });
 }
 

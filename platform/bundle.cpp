@@ -37,6 +37,7 @@ const QString Bundle::secretKeysKey = QStringLiteral("SecretKeys");
 namespace {
 
 constexpr qint64 mostInfoBytes = 1024 * 1024;
+constexpr qint64 mostHelpBytes = 64 * 1024;
 
 bool isListOfTexts(const QJsonValue &value)
 {
@@ -221,6 +222,16 @@ bool Bundle::servesModel(const QString &modelName) const
 QString Bundle::layoutPath(const QString &name) const
 {
     return m_folder + QStringLiteral("/layouts/") + name + QStringLiteral(".ui");
+}
+
+QString Bundle::helpText(const QString &name) const
+{
+    for (const QString &language : m_languages) {
+        QFile page(QStringLiteral("%1/help/%2/%3.md").arg(m_folder, language, name));
+        if (page.open(QIODevice::ReadOnly) && page.size() <= mostHelpBytes)
+            return QString::fromUtf8(page.readAll());
+    }
+    return {};
 }
 
 QString Bundle::localizedStringForKey(const QString &key, const QString &value) const

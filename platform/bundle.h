@@ -59,6 +59,10 @@ public:
     // Full path of layouts/NAME.ui, whether or not the file exists.
     QString layoutPath(const QString &name) const;
 
+    // Contents of help/LANGUAGE/NAME.md in the first of the user's languages that has the page, else in
+    // English; nil where there is none. A page beyond 64 kB is none.
+    QString helpText(const QString &name) const;
+
     // The text for `key` in the default string table; where there is none, `value`; where that is nil or
     // empty, the key itself.
     QString localizedStringForKey(const QString &key, const QString &value = QString()) const;

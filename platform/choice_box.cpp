@@ -40,8 +40,11 @@ void ChoiceBox::showPopup()
 {
     QComboBox::showPopup();
     // The list is made when it is first shown, and has filters of its own, which are to come later.
-    if (!std::exchange(m_listens, true))
+    if (!std::exchange(m_listens, true)) {
         view()->installEventFilter(this);
+        view()->viewport()->installEventFilter(this);
+    }
+    m_pressedRow = -1;
 }
 
 void ChoiceBox::wheelEvent(QWheelEvent *event)
@@ -62,7 +65,31 @@ bool ChoiceBox::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return QComboBox::eventFilter(watched, event);
+    return picksGreyed(watched, event) || QComboBox::eventFilter(watched, event);
+}
+
+bool ChoiceBox::picksGreyed(QObject *watched, QEvent *event)
+{
+    if (!m_listens)
+        return false;
+    int row = -1;
+    if (watched == view() && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select)
+            row = view()->currentIndex().row();
+    } else if (watched == view()->viewport() &&
+               (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease)) {
+        const int under = view()->indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).row();
+        if (event->type() == QEvent::MouseButtonPress)
+            m_pressedRow = under;
+        else if (under == std::exchange(m_pressedRow, -1)) // not the click that opened the list
+            row = under;
+    }
+    if (row < 0 || isItemEnabled(row))
+        return false;
+    hidePopup();
+    Q_EMIT greyedPicked(row);
+    return true;
 }
 
 int ChoiceBox::rowFor(int key) const

@@ -10,8 +10,8 @@
 namespace platform {
 
 // A list of choices of which some may be greyed for now. In the open list the arrow keys reach those, too,
-// and whoever looks at one, or listens to it, is told why; choosing one does nothing. Scrolling past the box
-// never changes it. Its items are those of QComboBox's own model.
+// and whoever looks at one, or listens to it, is told why; choosing one changes nothing, but is told.
+// Scrolling past the box never changes it. Its items are those of QComboBox's own model.
 class KELMAR_PLATFORM_EXPORT ChoiceBox : public QComboBox
 {
     Q_OBJECT
@@ -23,7 +23,19 @@ public:
     void setObstacle(int index, const QString &reason);
     bool isItemEnabled(int index) const;
 
+    // The PPD option that the box sets, by which a host finds it; nil for a box of something else.
+    const QString &optionKeyword() const { return m_optionKeyword; }
+    void setOptionKeyword(const QString &keyword) { m_optionKeyword = keyword; }
+    // Of an item: the choice that it stands for.
+    static constexpr int choiceRole = Qt::UserRole + 1;
+    QString choiceKeyword(int index) const { return itemData(index, choiceRole).toString(); }
+
     void showPopup() override;
+
+Q_SIGNALS:
+    // The user has picked a greyed item in the open list, which is closed. Nothing has changed; whoever knows
+    // what stands in the way may offer to clear it.
+    void greyedPicked(int index);
 
 protected:
     // Only a box with the focus turns with the wheel; over any other the wheel scrolls what the box is in.
@@ -34,8 +46,12 @@ private:
     // The row an arrow key leads to in the open list, greyed or not; -1 for any other key.
     int rowFor(int key) const;
     void showRow(int row);
+    // Whether an event of the open list, or of what it is drawn on, picks a greyed item; tells that it does.
+    bool picksGreyed(QObject *watched, QEvent *event);
 
+    QString m_optionKeyword;
     bool m_listens = false; // to its list
+    int m_pressedRow = -1;  // in the open list
 };
 
 } // namespace platform

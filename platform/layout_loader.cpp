@@ -18,6 +18,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMetaMethod>
+#include <QMetaProperty>
 #include <QUiLoader>
 
 #include <algorithm>
@@ -288,6 +289,17 @@ void LayoutLoading::connectDelegate(QObject *object, const QVariant &value)
 TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner)
 {
     return LayoutLoading(bundle, bundle.layoutPath(name), owner).run();
+}
+
+QString keyPathSetBy(const QWidget *control)
+{
+    const QMetaObject *cls = control->metaObject();
+    for (const QByteArray &name : control->dynamicPropertyNames()) {
+        const int property = name.startsWith("bind_") ? cls->indexOfProperty(name.mid(5).constData()) : -1;
+        if (property >= 0 && cls->property(property).hasNotifySignal())
+            return control->property(name.constData()).toString().section(QLatin1Char('|'), 0, 0).trimmed();
+    }
+    return {};
 }
 
 void registerLayoutWidget(const QString &className, WidgetFactory factory)

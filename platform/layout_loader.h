@@ -62,6 +62,9 @@ using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
+// The key path that the user sets with a control of a layout; nil for a widget that only shows something.
+KELMAR_PLATFORM_EXPORT QString keyPathSetBy(const QWidget *control);
+
 // Makes widgets of `className` available to layouts. The last registration of a name counts.
 using WidgetFactory = std::function<QWidget *(QWidget *parent)>;
 KELMAR_PLATFORM_EXPORT void registerLayoutWidget(const QString &className, WidgetFactory factory);

@@ -12,6 +12,7 @@ ConstraintResolvingHost::~ConstraintResolvingHost() = default;
 BlockingWorkHost::~BlockingWorkHost() = default;
 PanelProblemHost::~PanelProblemHost() = default;
 PrintDialogPanel::~PrintDialogPanel() = default;
+PanelHelp::~PanelHelp() = default;
 PrintDialogExtension::~PrintDialogExtension() = default;
 
 BlockingWork::BlockingWork(PrintDialogHost *host, const QString &what)

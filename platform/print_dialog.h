@@ -103,6 +103,16 @@ public:
     virtual KeyValueObject *keyValueObject() = 0;
 };
 
+// Implemented as well by a panel that has help of its own.
+class KELMAR_PLATFORM_EXPORT PanelHelp
+{
+public:
+    virtual ~PanelHelp();
+    // A short page of Markdown without images, in the user's language; nil where there is none. Links name
+    // other pages, as in "summary.md", and nothing else.
+    virtual QString helpText() = 0;
+};
+
 using PrintDialogPanels = std::vector<std::unique_ptr<PrintDialogPanel>>;
 
 // The root component of a bundle's code: a QObject that implements this interface.

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
@@ -48,13 +50,43 @@ private:
 // Of one document that another program hands over; in bytes.
 constexpr off_t longestDocument = off_t{2} * 1024 * 1024 * 1024;
 
+// How long somebody waits for another program's bytes.
+struct Patience
+{
+    std::chrono::milliseconds silence; // at a stretch in which nothing comes
+    std::chrono::milliseconds whole;   // however much comes
+};
+
+// Waits until there is something to read, or the end; false with errno, ETIMEDOUT when patience is at an end.
+inline bool waitForInput(int source, const Patience *patience, std::chrono::steady_clock::time_point begun)
+{
+    using std::chrono::milliseconds;
+    while (true) {
+        milliseconds time(-1);
+        if (patience) {
+            const auto gone = std::chrono::steady_clock::now() - begun;
+            const auto left = patience->whole - std::chrono::duration_cast<milliseconds>(gone);
+            time = std::max(milliseconds(0), std::min(patience->silence, left));
+        }
+        pollfd input = {source, POLLIN, 0};
+        const int ready = time.count() == 0 ? 0 : ::poll(&input, 1, static_cast<int>(time.count()));
+        if (ready > 0)
+            return true;
+        if (ready == 0)
+            errno = ETIMEDOUT;
+        if (errno != EINTR)
+            return false;
+    }
+}
+
 // Copies all of `source`, from its beginning where it has one to go back to, into a new file of `folder` that
 // loses its name at once: it follows no link, nobody else can open it, and it goes with its last descriptor.
-// Blocks, at most for `patience` (milliseconds; -1: for ever) each time that nothing comes. None, with errno,
-// when there are more than `limit` bytes (EFBIG), nothing comes (ETIMEDOUT) or something cannot be read or
-// written.
-inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit, int patience = -1)
+// Blocks, without `patience` (may be null) as long as the source does. None, with errno, when there are more
+// than `limit` bytes (EFBIG), patience is at an end (ETIMEDOUT) or something cannot be read or written.
+inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit,
+                            const Patience *patience = nullptr)
 {
+    const auto begun = std::chrono::steady_clock::now();
     struct stat facts = {};
     if (::fstat(source, &facts) != 0)
         return {};
@@ -70,13 +102,7 @@ inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit, 
     char block[64 * 1024];
     off_t total = 0;
     while (true) {
-        pollfd input = {source, POLLIN, 0};
-        const int ready = ::poll(&input, 1, patience);
-        if (ready < 0 && errno == EINTR)
-            continue;
-        if (ready == 0)
-            errno = ETIMEDOUT;
-        if (ready <= 0)
+        if (!waitForInput(source, patience, begun))
             return {};
         const ssize_t got = ::read(source, block, sizeof block);
         if (got == 0)

@@ -46,17 +46,20 @@ QStringList keywordsOf(platform::PrintDialogPanel *panel)
 } // namespace
 
 DialogSession::DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd)
-    : m_destination(destination), m_ppd(std::move(ppd))
+    : m_rule(Policy::current().ruleFor(destination.queue)), m_destination(destination), m_ppd(std::move(ppd))
 {
+    if (const QString problem = Policy::current().problem(); !problem.isNull())
+        addNotice(problem);
+    m_rule.applyTo(&m_destination, m_ppd.get());
     m_printSession.printer = platform::Printer{destination.name(), destination.deviceUri};
     m_printSession.ppd = ppdFile();
     if (m_ppd)
-        m_notices += m_ppd->markOptions(destination.options);
-    for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
+        m_notices += m_ppd->markOptions(m_destination.options);
+    for (auto it = m_destination.options.begin(); it != m_destination.options.end(); ++it) {
         if (isPanelSetting(it.key()))
             m_printSettings.setValue(it.key(), it.value());
     }
-    m_startingGeneral = m_general = GeneralSettings::from(destination.options);
+    m_startingGeneral = m_general = GeneralSettings::from(m_destination.options);
     tellUnknownDefaults();
 }
 
@@ -70,6 +73,8 @@ void DialogSession::loadPanels(Extensions &extensions)
     if (!m_ppd)
         return;
     m_protection = extensions.protectionFor(m_ppd->modelName(), &m_notices);
+    for (auto it = m_rule.locked.begin(); it != m_rule.locked.end(); ++it) // no way out gives it up
+        m_protection.choices[it.key()].append(it.value());
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
 }
 
@@ -125,7 +130,25 @@ void DialogSession::watch(size_t index)
                 if (!panel.restored && m_announcing != &panel)
                     panel.touched.insert(key);
                 noteSetting(static_cast<int>(index), key);
+                const QString locked = m_rule.lockedChoice(m_ppd.get(), key);
+                if (!locked.isNull() && panel.panel->keyValueObject()->valueForKey(key).toString() != locked)
+                    QMetaObject::invokeMethod(
+                        this, [this, index, key] { keepLocked(index, key); }, Qt::QueuedConnection);
             });
+}
+
+// When the panel has done what follows from the change.
+void DialogSession::keepLocked(size_t index, const QString &key)
+{
+    const Panel &panel = m_panels[index];
+    const QString locked = m_rule.lockedChoice(m_ppd.get(), key);
+    if (panel.panel->keyValueObject()->valueForKey(key).toString() == locked)
+        return;
+    setOnPanel(panel, key, locked);
+    const OptionChoice kept = m_ppd->described(key, locked);
+    addNotice(
+        tr("“%1” stays “%2”. %3").arg(kept.optionText, kept.choiceText, Policy::current().attribution()));
+    Q_EMIT changed();
 }
 
 // Whatever follows from a setting follows before control returns to the event loop.
@@ -297,7 +320,10 @@ QStringList DialogSession::otherKeywords() const
 
 bool DialogSession::markChoice(const QString &keyword, const QString &choice, bool isSecret)
 {
-    if (!m_ppd || !m_ppd->mark(keyword, choice))
+    const QString locked = m_rule.lockedChoice(m_ppd.get(), keyword);
+    const int owner = panelOfKeyword(keyword);
+    const bool isFixed = (!locked.isNull() && locked != choice) || (owner >= 0 && isPanelLocked(owner));
+    if (!m_ppd || isFixed || !m_ppd->mark(keyword, choice))
         return false;
     m_lastUserKeyword = keyword;
     ChosenSetting setting{keyword, choice};

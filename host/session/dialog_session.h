@@ -8,6 +8,7 @@
 #include "host/session/change_ledger.h"
 #include "host/session/chosen_settings.h"
 #include "host/session/general_settings.h"
+#include "host/session/policy.h"
 #include "host/session/protection.h"
 #include "host/session/session_panel.h"
 #include "host/session/session_state.h"
@@ -36,7 +37,7 @@ class DialogSession : public QObject,
 {
     Q_OBJECT
 public:
-    // `ppd` may be null. Marks what the destination's options say.
+    // `ppd` may be null. Marks what the destination's options say, and the policy for its queue.
     DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd);
     ~DialogSession() override;
 
@@ -48,6 +49,9 @@ public:
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }
+    // What the administrator has laid down for this printer.
+    const Policy::Rule &rule() const { return m_rule; }
+    bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
     const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before anybody chose
@@ -71,7 +75,8 @@ public:
     // Options of the PPD that neither the general pane nor a panel shows, without those for installed units.
     QStringList otherKeywords() const;
 
-    // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it.
+    // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it,
+    // or the policy has fixed another one.
     bool markChoice(const QString &keyword, const QString &choice, bool isSecret = false);
     // What has been chosen so far: here, in panels that were saved, and by others who note it.
     const ChosenSettings &chosen() const { return m_chosen; }
@@ -118,6 +123,7 @@ private:
 
     void watch(size_t index);
     void noteSetting(int panel, const QString &key);
+    void keepLocked(size_t index, const QString &key);
     void announceChoices(Panel &panel);
     void restore(Panel &panel);
     void savePanel(size_t index);
@@ -136,6 +142,7 @@ private:
     void tellDropped(const Panel &panel, const QVariantMap &before);
     void tellUnknownDefaults();
 
+    Policy::Rule m_rule;
     Destination m_destination;
     std::unique_ptr<PpdDocument> m_ppd;
     platform::PrintSettings m_printSettings;

@@ -129,10 +129,12 @@ bool hasSecrets(const DialogSession &session)
 void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                  const QMap<QString, QString> &preset)
 {
+    const QMap<QString, QString> locked = session->rule().lockedChoices(session->ppd());
     const SessionState now = session->state();
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
     all.insert(preset);
+    all.insert(locked);
     QStringList missed, problems;
     if (session->ppd())
         wanted.marks = marksOf(session->ppd(), all, &problems);
@@ -145,7 +147,7 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
     wanted.general.pages = now.general.pages;
     wanted.general.takePart(now.general);
     for (auto it = all.begin(); it != all.end(); ++it) {
-        const bool isUsers = preset.contains(it.key());
+        const bool isUsers = preset.contains(it.key()) || locked.contains(it.key());
         if (isPanelSetting(it.key()))
             wanted.printSettings.insert(it.key(), it.value());
         else if (isUsers && !isTaken(*session, it.key(), it.value()))

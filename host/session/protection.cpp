@@ -104,6 +104,18 @@ std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Pro
     return std::nullopt;
 }
 
+QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection)
+{
+    QStringList atRisk;
+    for (const Conflict &conflict : conflicts) {
+        for (const OptionChoice &side : conflict.sides) {
+            if (protection.protects(side.option, side.choice) && !atRisk.contains(side.text()))
+                atRisk.append(side.text());
+        }
+    }
+    return atRisk;
+}
+
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen)
 {
     for (const Protection::Secret &secret : protection.secrets) {

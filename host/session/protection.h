@@ -49,6 +49,9 @@ struct Protection
 std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Protection &protection,
                                                const QString &keep, QString *givenUp);
 
+// The choices of conflicts that protect the user, in words: a printer may give up either side.
+QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection);
+
 // What is missing for the protection that has been chosen, in words: private printing without a code, or a
 // code without private printing. Nil when nothing is.
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen);

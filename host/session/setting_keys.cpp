@@ -112,6 +112,18 @@ PrintError SettingKeys::noSuchChoice(const PpdOption &option, const QString &cho
         SettingText::tr("%1 has no choice “%2”; it has %3.").arg(option.keyword, choice, choices));
 }
 
+// Words for what the policy has fixed; no error where it has fixed nothing, or the same.
+PrintError SettingKeys::lockOn(const QString &keyword, const QString &choice) const
+{
+    const QString locked = m_session->rule().lockedChoice(m_session->ppd(), keyword);
+    if (locked.isNull() || locked == choice)
+        return {};
+    const OptionChoice kept = m_session->ppd()->described(keyword, locked);
+    return {PrintError::Kind::NotAuthorised,
+            SettingText::tr("“%1” has to be “%2”. %3")
+                .arg(kept.optionText, kept.choiceText, Policy::current().attribution())};
+}
+
 bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintError *error)
 {
     const auto option = m_session->ppd()->option(keyword);
@@ -131,6 +143,10 @@ bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintE
         return false;
     }
     const QString choice = isKnown ? known->keyword : value;
+    if (const PrintError locked = lockOn(option->keyword, choice)) {
+        *error = locked;
+        return false;
+    }
     const int panel = m_session->panelOfKeyword(option->keyword);
     if (panel >= 0)
         return setOnPanel(panel, option->keyword, choice, error);
@@ -142,6 +158,12 @@ bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintE
 
 bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error)
 {
+    if (m_session->isPanelLocked(panel)) {
+        *error = {PrintError::Kind::NotAuthorised,
+                  SettingText::tr("“%1” cannot be changed here. %2")
+                      .arg(m_session->panel(panel)->panelName(), Policy::current().attribution())};
+        return false;
+    }
     m_session->prepare(panel);
     const QString problem = setPanelValue(m_session->panel(panel)->keyValueObject(),
                                           m_session->panelKeywords(panel), *m_session->ppd(), keyPath, value);

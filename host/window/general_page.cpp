@@ -8,6 +8,7 @@
 #include "host/session/page_ranges.h"
 #include "host/window/contrast.h"
 #include "host/window/document_box.h"
+#include "host/window/explanations.h"
 #include "host/window/layout_form.h"
 #include "host/window/option_form.h"
 
@@ -104,6 +105,8 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_copies->setAccelerated(true);
     m_copies->setMinimumWidth(90);
     m_copies->setAccessibleName(tr("Copies"));
+    m_copies->setWhatsThis(explanationOf(QStringLiteral("copies")));
+    m_collate->setWhatsThis(explanationOf(QStringLiteral("Collate")));
     m_collate->setChecked(m_session->general().collate);
     enableCollate();
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
@@ -137,6 +140,7 @@ void GeneralPage::addPages(QGridLayout *grid)
     const QString pages = m_session->general().pages;
     m_pages->setPlaceholderText(tr("for example 1-3, 8"));
     m_pages->setAccessibleName(tr("Pages to print"));
+    m_pages->setWhatsThis(explanationOf(QStringLiteral("page-ranges")));
     m_pages->setText(pages);
     m_allPages->setChecked(pages.isEmpty());
     m_somePages->setChecked(!pages.isEmpty());

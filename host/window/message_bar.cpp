@@ -104,6 +104,7 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     m_scroll->setAccessibleName(text()); // a stop of the keyboard where it scrolls
     announce(this, text());
     show();
+    fitButtons();
     fitTexts();
     update();
     Q_EMIT buttonsChanged();
@@ -159,6 +160,18 @@ void MessageBar::setTextLimit(int pixels)
     fitTexts();
 }
 
+// Side by side where they fit, else one below the other.
+void MessageBar::fitButtons()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int room = width() - margins.left() - margins.right() - iconSize - layout()->spacing();
+    int wanted = 0;
+    for (const QPushButton *button : std::as_const(m_buttons))
+        wanted += button->sizeHint().width() + m_buttonRow->spacing();
+    const bool fits = wanted - m_buttonRow->spacing() <= room || m_buttons.size() < 2;
+    m_buttonRow->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
 void MessageBar::fitTexts()
 {
     const int width = m_scroll->viewport()->width();
@@ -172,6 +185,7 @@ void MessageBar::fitTexts()
 void MessageBar::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
+    fitButtons();
     fitTexts();
 }
 

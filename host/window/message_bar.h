@@ -54,6 +54,7 @@ protected:
 private:
     void addButton(const QString &text, int index);
     void removeButtons();
+    void fitButtons();
     void fitTexts();
     void noteFocus(QWidget *old, QWidget *now);
     void giveFocusBack();

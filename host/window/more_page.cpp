@@ -81,6 +81,7 @@ void MorePage::buildNext()
         m_grid->setRowStretch(m_grid->rowCount(), 1);
     else if (m_painted)
         QTimer::singleShot(0, this, &MorePage::buildNext);
+    Q_EMIT grown();
 }
 
 void MorePage::paintEvent(QPaintEvent *event)

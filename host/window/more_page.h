@@ -31,6 +31,8 @@ public:
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
+    // Rows have come to those that there were.
+    void grown();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

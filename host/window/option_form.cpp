@@ -5,6 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/window/custom_editor.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/mnemonics.h"
 #include "platform/choice_box.h"
@@ -38,15 +39,20 @@ OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGri
 void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
 {
     const auto option = m_session->ppd()->option(keyword);
-    if (!option || (option->choices.isEmpty() && !option->custom))
+    if (!option || (option->choices.isEmpty() && !option->custom) ||
+        m_session->rule().hiddenOptions.contains(keyword))
         return;
     auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);
     box->setMaximumWidth(mostWidth);
     box->setObjectName(option->keyword);
+    box->setOptionKeyword(option->keyword);
     box->setAccessibleName(oneLine(option->text));
-    for (const PpdOption::Choice &choice : option->choices)
+    box->setWhatsThis(explanationOf(option->keyword));
+    for (const PpdOption::Choice &choice : option->choices) {
         box->addItem(oneLine(choice.text), choice.keyword);
+        box->setItemData(box->count() - 1, choice.keyword, platform::ChoiceBox::choiceRole);
+    }
     if (option->custom)
         box->addItem(tr("%1…", "Custom, whose values are asked for").arg(oneLine(option->custom->text)),
                      customItem);
@@ -67,7 +73,20 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
         grid->addWidget(editor, row + 1, 1);
         connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
     }
+    if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+        addAttribution(box, grid, row + 2);
     connect(box, &QComboBox::activated, this, [this, index] { choose(index); });
+}
+
+void OptionForm::addAttribution(QWidget *box, QGridLayout *grid, int row)
+{
+    const QString text = Policy::current().attribution();
+    auto *note = new QLabel(grid->parentWidget());
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setText(text);
+    box->setAccessibleDescription(text);
+    grid->addWidget(note, row, 1);
 }
 
 void OptionForm::choose(qsizetype index)
@@ -152,6 +171,11 @@ void OptionForm::refreshRow(Row &row)
 
 void OptionForm::greyOut(const Row &row)
 {
+    if (m_session->rule().lockedChoice(m_session->ppd(), row.keyword) == row.current) {
+        for (int i = 0; i < row.box->count(); ++i)
+            row.box->setObstacle(i, i == row.index ? QString() : Policy::current().attribution());
+        return;
+    }
     const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
     for (int i = 0; i < row.box->count(); ++i) {
         const QString choice = row.box->itemData(i).toString();

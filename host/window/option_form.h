@@ -56,6 +56,7 @@ private:
         bool isDecided = false;
     };
     void addRow(const QString &keyword, QGridLayout *grid);
+    static void addAttribution(QWidget *box, QGridLayout *grid, int row);
     void choose(qsizetype index);
     void markCustom(qsizetype index);
     void refreshRow(Row &row);

@@ -6,6 +6,7 @@
 #include "host/preview/page_tools.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
+#include "host/session/policy.h"
 #include "host/session/printed_pages.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
@@ -32,6 +33,23 @@ const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
 const QString summaryName = QStringLiteral("summary");
 
+// What the administrator has fixed on the page of a panel, and who says so; nil for nothing.
+QString policyNote(const DialogSession &session, int panel)
+{
+    if (panel < 0)
+        return {};
+    const QString attribution = Policy::current().attribution();
+    if (session.isPanelLocked(panel))
+        return PageBook::tr("These settings cannot be changed. %1").arg(attribution);
+    QStringList fixed;
+    for (const QString &keyword : session.panelKeywords(panel)) {
+        const QString choice = session.rule().lockedChoice(session.ppd(), keyword);
+        if (!choice.isNull())
+            fixed.append(session.ppd()->described(keyword, choice).text());
+    }
+    return fixed.isEmpty() ? QString()
+                           : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
+}
 // How wide the preview is, in pixels.
 constexpr int leastPreview = 160;
 constexpr int preferredPreview = 260;
@@ -113,11 +131,14 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     m_session = session;
     m_history = history;
     addPage(tr("General"), generalName);
+    const Policy::Rule &rule = session->rule();
     for (int i = 0; i < session->panelCount(); ++i) {
-        if (session->panel(i)->panelView())
+        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()))
             addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
     }
-    if (!session->otherKeywords().isEmpty())
+    const QStringList others = session->otherKeywords();
+    if (!std::all_of(others.begin(), others.end(),
+                     [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); }))
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
     fitList();
@@ -147,7 +168,8 @@ void PageBook::addPage(const QString &title, const QString &name, int panel)
 void PageBook::makeFrame(Page *page)
 {
     QWidget *content = contentOf(*page);
-    page->frame = new PageFrame(page->title, content, m_stack);
+    content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
+    page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     m_stack->addWidget(page->frame);
@@ -173,6 +195,7 @@ QWidget *PageBook::contentOf(const Page &page)
     if (page.name == moreName) {
         m_more = new MorePage(m_session);
         connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
+        connect(m_more, &MorePage::grown, this, &PageBook::grown);
         return m_more;
     }
     m_summary = new SummaryPage;
@@ -216,8 +239,30 @@ QString PageBook::currentName() const
     return m_current < 0 ? QString() : m_pages[static_cast<size_t>(m_current)].name;
 }
 
+const PageBook::Page *PageBook::pageAt(int row) const
+{
+    return row < 0 || row >= static_cast<int>(m_pages.size()) ? nullptr : &m_pages[static_cast<size_t>(row)];
+}
+
+QString PageBook::nameOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->name : QString();
+}
+
+QString PageBook::titleOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->title : QString();
+}
+
+QWidget *PageBook::builtPage(int row) const
+{
+    return pageAt(row) ? pageAt(row)->frame : nullptr;
+}
+
 void PageBook::showPage(int row)
 {
+    if (row == m_current && builtPage(row))
+        m_stack->setCurrentWidget(builtPage(row));
     if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
         return;
     QWidget *const focus = window()->focusWidget();

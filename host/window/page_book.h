@@ -46,7 +46,12 @@ public:
     int currentRow() const { return m_current; }
     // Of the page that is shown, for pageNamed(); empty when none is.
     QString currentName() const;
-    // Stays where it is when the current page must not be left.
+    // Of a page, for pageNamed(), and as the user reads it. Empty for no page.
+    QString nameOf(int row) const;
+    QString titleOf(int row) const;
+    // What has been built of a page so far; null before it is first shown.
+    QWidget *builtPage(int row) const;
+    // Stays where it is when the current page must not be left. What is shown over the page goes.
     void showPage(int row);
     // Brings every page to what the session holds now.
     void refresh();
@@ -72,6 +77,8 @@ Q_SIGNALS:
     void shown();
     // The user chose something that is marked at once.
     void chosen();
+    // The page that is shown has got more controls.
+    void grown();
     void savePdfWanted();
 
 protected:
@@ -89,6 +96,7 @@ private:
     void addPage(const QString &title, const QString &name, int panel = -1);
     void makeFrame(Page *page);
     QWidget *contentOf(const Page &page);
+    const Page *pageAt(int row) const;
     bool leave();
     void followFocus(QWidget *now);
     void fitList();

@@ -24,9 +24,19 @@ public:
     }
 };
 
+QLabel *noteLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setContentsMargins(24, 8, 24, 0);
+    label->setWordWrap(true);
+    return label;
+}
+
 } // namespace
 
-PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
+PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent)
     : QWidget(parent), m_scroll(new PageScroll(this)), m_content(content)
 {
     auto *heading = new QLabel(title, this);
@@ -43,6 +53,8 @@ PageFrame::PageFrame(const QString &title, QWidget *content, QWidget *parent)
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(0);
     lines->addWidget(heading);
+    if (!note.isNull())
+        lines->addWidget(noteLabel(note, this));
     lines->addWidget(content, 1);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);

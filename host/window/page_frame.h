@@ -9,12 +9,13 @@
 
 namespace host {
 
-// One page of the dialog: a heading and what is below it, which scrolls where the window is too small for it.
+// One page of the dialog: a heading, a note where there is one, and what is below them, which scrolls where
+// the window is too small for it.
 class PageFrame : public QWidget
 {
     Q_OBJECT
 public:
-    PageFrame(const QString &title, QWidget *content, QWidget *parent = nullptr);
+    PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent = nullptr);
     ~PageFrame() override;
 
     // For content that belongs to somebody else: parts from it before that one takes it away.

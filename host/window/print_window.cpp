@@ -10,13 +10,17 @@
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
+#include "host/window/finder.h"
 #include "host/window/focus_ring.h"
 #include "host/window/foreign_text.h"
+#include "host/window/greyed_choices.h"
+#include "host/window/help_desk.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/settings_control.h"
+#include "host/window/text_direction.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -47,7 +51,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
       m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter),
-      m_follower(new JobFollower(this))
+      m_follower(new JobFollower(this)), m_finder(new Finder(this)), m_greyed(new GreyedChoices(this)),
+      m_help(new HelpDesk(this))
 {
     const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
@@ -64,6 +69,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
 QString PrintWindow::documentNames() const
 {
     QStringList names;
+    if (!m_task.files.isEmpty() && !m_task.documentName.isEmpty())
+        return tr("“%1”").arg(oneLine(m_task.documentName));
     for (const QString &file : m_documentChoice.included()) {
         if (file != QLatin1String("-"))
             names.append(tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
@@ -88,9 +95,10 @@ void PrintWindow::connectAll()
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
     connect(m_picker, &PrinterPicker::opened, this, &PrintWindow::searchNetwork);
-    connect(m_book, &PageBook::left, this, &PrintWindow::showConflicts);
+    connect(m_book, &PageBook::left, this, [this] { showConflicts(); });
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
+    connect(m_book, &PageBook::grown, this, [this] { keepLabelsAligned(this); });
     connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
     connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::chosen, this, [this] {
@@ -106,6 +114,11 @@ void PrintWindow::connectAll()
     connect(m_settings, &SettingsControl::presetsChanged, this, &PrintWindow::loadPrinterList);
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
+    connect(m_finder, &Finder::partsChanged, this, &PrintWindow::arrange);
+    connect(m_help, &HelpDesk::shown, this, &PrintWindow::arrange);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_finder, &Finder::open);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, m_help,
+            &HelpDesk::toggle);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
@@ -198,9 +211,10 @@ void PrintWindow::showNotices()
     m_bar->showMessage(MessageBar::Kind::Notice, tr("Please note"), m_notices);
 }
 
-bool PrintWindow::showConflicts()
+bool PrintWindow::showConflicts(bool toPrint)
 {
     const QList<Conflict> conflicts = m_session->conflicts();
+    const bool couldPrint = std::exchange(m_printAnyway, -1) >= 0;
     if (conflicts.isEmpty()) {
         if (std::exchange(m_askingConflict, false)) {
             m_bar->hide();
@@ -228,8 +242,17 @@ bool PrintWindow::showConflicts()
         lines.append(tr("Suggestion: %1").arg(changes.join(QStringLiteral(", "))));
         answers.append(tr("App&ly Suggestion"));
     }
+    if (toPrint || couldPrint) {
+        for (const QString &protection : protectionAtRisk(conflicts, m_session->protection()))
+            lines.append(
+                tr("“%1” protects your document. If you print anyway, the printer may print without it.")
+                    .arg(protection));
+        m_printAnyway = static_cast<int>(answers.size());
+        answers.append(m_task.settingsOnly ? tr("Use An&yway") : tr("Print An&yway"));
+    }
     answers.append(tr("Keep and Re&view"));
     const bool known = std::exchange(m_askingConflict, true) && m_bar->isShowing() &&
+                       m_bar->buttons().size() == answers.size() &&
                        m_bar->text().endsWith(lines.join(QLatin1Char('\n')));
     if (known) // not read out again
         return true;
@@ -270,7 +293,17 @@ void PrintWindow::recheckLater()
 
 void PrintWindow::answer(int index)
 {
-    const bool accepted = std::exchange(m_askingConflict, false) && m_proposal && index == applyProposal;
+    if (m_session)
+        m_settings->history()->endGesture();
+    if (m_greyed->answer(index)) {
+        m_settings->history()->endGesture(); // a greyed choice and what it takes are one step
+        sessionChanged();
+        showConflicts();
+        return;
+    }
+    const bool wasConflict = std::exchange(m_askingConflict, false);
+    const bool printsAnyway = std::exchange(m_printAnyway, -1) == index && index >= 0 && wasConflict;
+    const bool accepted = wasConflict && m_proposal && index == applyProposal && !printsAnyway;
     if (m_bar->kind() == MessageBar::Kind::Notice)
         m_notices.clear();
     if (accepted) {
@@ -281,6 +314,8 @@ void PrintWindow::answer(int index)
     }
     if (m_session)
         showNotices();
+    if (printsAnyway && !showProtectionGap())
+        deliver();
 }
 
 void PrintWindow::finishLater()

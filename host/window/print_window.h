@@ -24,7 +24,10 @@ namespace host {
 class AccessKeys;
 class DialogButton;
 class DialogWaiter;
+class Finder;
+class GreyedChoices;
 class HeldSignals;
+class HelpDesk;
 class JobFollower;
 class MessageBar;
 class NetworkSearch;
@@ -121,7 +124,10 @@ private:
     void pickPrinter(const QString &name);
     void sessionChanged();
     void showNotices();
-    bool showConflicts();
+    // True when something holds printing up. `toPrint` when the user wants to print now, and may all the
+    // same.
+    bool showConflicts(bool toPrint = false);
+    void deliver();
     void recheckLater();
     void answer(int index);
     void checkDocuments();
@@ -149,6 +155,7 @@ private:
     std::unique_ptr<DialogSession> m_session;
     std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
     bool m_askingConflict = false;
+    int m_printAnyway = -1; // which answer of that question it is; -1 where it is none
     bool m_recheckQueued = false;
     QStringList m_notices; // not yet closed by the user
     QString m_toldGap;     // in the protection of the job
@@ -181,6 +188,9 @@ private:
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
     JobFollower *m_follower;
+    Finder *m_finder;
+    GreyedChoices *m_greyed;
+    HelpDesk *m_help;
     NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;

@@ -287,10 +287,15 @@ void PrintWindow::print()
         return;
     m_session->save();
     sessionChanged();
-    if (showConflicts()) {
+    if (showConflicts(true)) {
         m_bar->takeFocus();
         return;
     }
+    deliver();
+}
+
+void PrintWindow::deliver()
+{
     if (m_task.settingsOnly) {
         RememberedPrinter().setName(m_session->destination().name());
         (void)platform::Background::call(m_settings->rememberUse());

@@ -5,6 +5,7 @@
 
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
+#include "host/window/finder.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/page_list.h"
@@ -14,6 +15,7 @@
 #include "host/window/separator.h"
 #include "host/window/settings_control.h"
 #include "host/window/tab_order.h"
+#include "host/window/text_direction.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
@@ -68,9 +70,11 @@ void PrintWindow::build()
 
 void PrintWindow::arrange()
 {
-    chainTabOrder({m_picker, m_book->list(), m_book->pages(), m_unavailable, m_waiting, m_result, m_bar,
-                   m_waitSign, m_cancel, m_print});
+    chainTabOrder(QList<QWidget *>{m_picker} + m_finder->parts() +
+                  QList<QWidget *>{m_book->list(), m_book->pages(), m_unavailable, m_waiting, m_result, m_bar,
+                                   m_waitSign, m_cancel, m_print});
     m_keys->assign();
+    keepLabelsAligned(this);
     setCompact(height() < roomyLines * fontMetrics().height());
     fit();
 }

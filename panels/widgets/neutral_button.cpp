@@ -18,7 +18,7 @@ const bool registered = [] {
     return true;
 }();
 
-// An arrow that turns back to the left, in a square of 16 units.
+// An arrow that turns back to where a line begins, in a square of 16 units, for texts from left to right.
 QPainterPath backArrow()
 {
     QPainterPath path(QPointF(5.5, 2.5));
@@ -75,7 +75,7 @@ void QVNeutralButton_M880::paintEvent(QPaintEvent *)
     const qreal scale = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) / 16.0;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center());
-    painter.scale(scale, scale);
+    painter.scale(isRightToLeft() ? -scale : scale, scale);
     painter.translate(-8, -8);
     painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(backArrow());

@@ -14,6 +14,7 @@ const bool registered = [] {
     return true;
 }();
 
+constexpr char16_t leftToRightMark = u'\u200e';
 constexpr char16_t minusSign = u'\u2212'; // as wide as the plus, unlike the hyphen
 
 } // namespace
@@ -28,7 +29,8 @@ QVSignedValueLabel_M880::QVSignedValueLabel_M880(QWidget *parent) : QLabel(paren
 void QVSignedValueLabel_M880::setValue(int value)
 {
     m_value = value;
-    setText(textForValue(value));
+    // Between words from right to left a sign would change to the other side of its number.
+    setText((isRightToLeft() ? QString(QChar(leftToRightMark)) : QString()) + textForValue(value));
 }
 
 QString QVSignedValueLabel_M880::textForValue(int value)

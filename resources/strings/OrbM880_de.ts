@@ -597,6 +597,114 @@
         <source>BackgroundAdjustmentVRN</source>
         <translation>Hintergrundanpassung</translation>
     </message>
+    <message>
+        <source>PrintMode?</source>
+        <translation>Was der Drucker mit dem Auftrag tut, wenn er ankommt: gleich drucken, bis zur Eingabe eines Kennworts aufbewahren, ein Probeexemplar drucken oder anhalten.</translation>
+    </message>
+    <message>
+        <source>privatePassword?</source>
+        <translation>Fünf Ziffern Ihrer Wahl. Der Drucker bewahrt den Auftrag auf, bis Sie dieselben Ziffern an seinem Bedienfeld eingeben.</translation>
+    </message>
+    <message>
+        <source>DeptCode?</source>
+        <translation>Ob die Seiten einer Abteilung berechnet werden. Schalten Sie es ein, wenn Ihr Drucker einen Code verlangt.</translation>
+    </message>
+    <message>
+        <source>departmentCode?</source>
+        <translation>Fünf Ziffern der Abteilung, der die Seiten berechnet werden. Ihre Systemverwaltung kennt sie.</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines?</source>
+        <translation>Hält sehr dünne Linien sichtbar und getrennt, etwa in technischen Zeichnungen. Text und Bilder bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>BlankPage?</source>
+        <translation>Lässt Seiten aus, auf denen nichts gedruckt wird, und spart so Papier.</translation>
+    </message>
+    <message>
+        <source>ColorType?</source>
+        <translation>In welchen Farben der Auftrag gedruckt wird. „Automatisch“ entscheidet Seite für Seite; Schwarzweiß kostet am wenigsten.</translation>
+    </message>
+    <message>
+        <source>Resolution?</source>
+        <translation>Wie fein die Druckpunkte sind. Eine höhere Auflösung zeigt kleine Schrift und Linien schärfer und kann länger dauern.</translation>
+    </message>
+    <message>
+        <source>Halftone?</source>
+        <translation>Wie Farbtöne aus Punkten entstehen: fein für Einzelheiten in Text und Linien, weich für Fotos und Verläufe.</translation>
+    </message>
+    <message>
+        <source>TonerSave?</source>
+        <translation>Druckt blasser und verbraucht weniger Toner. Gut für Entwürfe, nicht für Dokumente zum Aufbewahren.</translation>
+    </message>
+    <message>
+        <source>ImageType?</source>
+        <translation>Was die Seiten überwiegend zeigen; die Farben werden darauf abgestimmt. Mit „Erweitert“ wählen Sie die Farbprofile selbst.</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint?</source>
+        <translation>Druckt schwarzen Text auf die Farbe darunter, statt die Stelle weiß zu lassen. So entstehen keine hellen Ränder.</translation>
+    </message>
+    <message>
+        <source>PureBlackGray?</source>
+        <translation>Druckt Schwarz oder Schwarz und Grau nur mit schwarzem Toner, damit Text und Tabellen keinen Farbstich haben.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan?</source>
+        <translation>Fügt Cyan hinzu oder nimmt es weg. Mehr Cyan macht das Bild kühler, weniger macht es rötlicher.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta?</source>
+        <translation>Fügt Magenta hinzu oder nimmt es weg. Mehr Magenta macht das Bild rosiger, weniger macht es grünlicher.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow?</source>
+        <translation>Fügt Gelb hinzu oder nimmt es weg. Mehr Gelb macht das Bild wärmer, weniger macht es bläulicher.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack?</source>
+        <translation>Fügt Schwarz hinzu oder nimmt es weg. Mehr Schwarz macht die Schatten tiefer, weniger macht sie heller.</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN?</source>
+        <translation>Wie deutlich Kanten hervortreten. Mehr zeigt Einzelheiten, weniger verbirgt Rauschen in Fotos.</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN?</source>
+        <translation>Macht die ganze Seite heller oder dunkler.</translation>
+    </message>
+    <message>
+        <source>ContrastVRN?</source>
+        <translation>Wie weit Hell und Dunkel auseinanderliegen. Zu viel verschluckt Einzelheiten in den hellsten und dunkelsten Stellen.</translation>
+    </message>
+    <message>
+        <source>SaturationVRN?</source>
+        <translation>Wie kräftig die Farben sind. Weniger macht sie grauer, mehr macht sie lebhafter.</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN?</source>
+        <translation>Wie stark ein getönter Hintergrund gedruckt wird. Verringern Sie es, wenn das Papier einer gescannten Seite grau erscheint.</translation>
+    </message>
+    <message>
+        <source>selectedRgbSourceProfile?</source>
+        <translation>Welches Profil die Farben von Bildschirmen und Kameras in Ihrem Dokument beschreibt. Die Profile liegen im Drucker.</translation>
+    </message>
+    <message>
+        <source>selectedCmykSourceProfile?</source>
+        <translation>Welches Profil die Druckfarben in Ihrem Dokument so beschreibt, wie eine Druckmaschine sie drucken würde.</translation>
+    </message>
+    <message>
+        <source>selectedCmykDestinationProfile?</source>
+        <translation>Welches Profil Papier und Toner beschreibt, mit denen der Drucker druckt.</translation>
+    </message>
+    <message>
+        <source>renderingIntent?</source>
+        <translation>Was mit Farben geschieht, die der Drucker nicht drucken kann: ob das ganze Bild angepasst wird oder nur diese Farben.</translation>
+    </message>
+    <message>
+        <source>applyToDeviceColorOnly?</source>
+        <translation>Verwendet diese Profile nur für Farben, die kein eigenes Profil mitbringen.</translation>
+    </message>
 </context>
 <context>
     <name>PrintMode</name>

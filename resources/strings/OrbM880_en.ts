@@ -597,6 +597,114 @@
         <source>BackgroundAdjustmentVRN</source>
         <translation>Background Adjustment</translation>
     </message>
+    <message>
+        <source>PrintMode?</source>
+        <translation>How the printer treats the job when it arrives: prints it at once, keeps it until you type a password, prints one copy for proof, or holds it.</translation>
+    </message>
+    <message>
+        <source>privatePassword?</source>
+        <translation>Five digits of your choice. The printer keeps the job until you type the same digits on its panel.</translation>
+    </message>
+    <message>
+        <source>DeptCode?</source>
+        <translation>Whether the pages are charged to a department. Turn it on where your printer asks for a code.</translation>
+    </message>
+    <message>
+        <source>departmentCode?</source>
+        <translation>Five digits of the department that the pages are charged to. Your administrator knows them.</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines?</source>
+        <translation>Keeps very thin lines visible and apart, as in technical drawings. Text and pictures stay as they are.</translation>
+    </message>
+    <message>
+        <source>BlankPage?</source>
+        <translation>Leaves out pages on which nothing is printed, which saves paper.</translation>
+    </message>
+    <message>
+        <source>ColorType?</source>
+        <translation>In which colors the job is printed. Automatic looks at each page; black and white costs least.</translation>
+    </message>
+    <message>
+        <source>Resolution?</source>
+        <translation>How fine the dots are. A higher resolution shows small text and lines more sharply and may take longer.</translation>
+    </message>
+    <message>
+        <source>Halftone?</source>
+        <translation>How shades are made of dots: fine for detail in text and lines, smooth for photos and gradients.</translation>
+    </message>
+    <message>
+        <source>TonerSave?</source>
+        <translation>Prints paler to use less toner. Good for drafts, not for documents that are to be kept.</translation>
+    </message>
+    <message>
+        <source>ImageType?</source>
+        <translation>What the pages mostly show; the colors are suited to it. Advanced lets you choose the color profiles yourself.</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint?</source>
+        <translation>Prints black text on top of the color below it instead of leaving the place white, so that no light edges show.</translation>
+    </message>
+    <message>
+        <source>PureBlackGray?</source>
+        <translation>Prints black, or black and gray, with black toner alone, so that text and tables show no tint.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan?</source>
+        <translation>Adds cyan or takes it away. More cyan makes the picture cooler, less makes it redder.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta?</source>
+        <translation>Adds magenta or takes it away. More magenta makes the picture pinker, less makes it greener.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow?</source>
+        <translation>Adds yellow or takes it away. More yellow makes the picture warmer, less makes it bluer.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack?</source>
+        <translation>Adds black or takes it away. More black makes shadows deeper, less makes them lighter.</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN?</source>
+        <translation>How clearly edges stand out. More shows detail, less hides noise in photos.</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN?</source>
+        <translation>Makes the whole page lighter or darker.</translation>
+    </message>
+    <message>
+        <source>ContrastVRN?</source>
+        <translation>How far light and dark are apart. Too much loses detail in the brightest and darkest places.</translation>
+    </message>
+    <message>
+        <source>SaturationVRN?</source>
+        <translation>How strong the colors are. Less makes them grayer, more makes them more vivid.</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN?</source>
+        <translation>How strongly a tinted background is printed. Take it down where the paper of a scanned page shows as gray.</translation>
+    </message>
+    <message>
+        <source>selectedRgbSourceProfile?</source>
+        <translation>Which profile describes the colors of screens and cameras in your document. The printer holds these profiles.</translation>
+    </message>
+    <message>
+        <source>selectedCmykSourceProfile?</source>
+        <translation>Which profile describes the ink colors in your document, as a press would print them.</translation>
+    </message>
+    <message>
+        <source>selectedCmykDestinationProfile?</source>
+        <translation>Which profile describes the paper and toner that the printer prints with.</translation>
+    </message>
+    <message>
+        <source>renderingIntent?</source>
+        <translation>What becomes of colors that the printer cannot print: whether the whole picture is suited or only those colors.</translation>
+    </message>
+    <message>
+        <source>applyToDeviceColorOnly?</source>
+        <translation>Uses these profiles only for colors that come without a profile of their own.</translation>
+    </message>
 </context>
 <context>
     <name>PrintMode</name>

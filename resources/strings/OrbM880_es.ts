@@ -597,6 +597,114 @@
         <source>BackgroundAdjustmentVRN</source>
         <translation>Ajuste del fondo</translation>
     </message>
+    <message>
+        <source>PrintMode?</source>
+        <translation>Qué hace la impresora con el trabajo cuando llega: imprimirlo enseguida, guardarlo hasta que escriba una contraseña, imprimir una prueba o retenerlo.</translation>
+    </message>
+    <message>
+        <source>privatePassword?</source>
+        <translation>Cinco cifras que usted elige. La impresora guarda el trabajo hasta que escriba las mismas cifras en su panel.</translation>
+    </message>
+    <message>
+        <source>DeptCode?</source>
+        <translation>Si las páginas se cargan a un departamento. Actívelo si su impresora pide un código.</translation>
+    </message>
+    <message>
+        <source>departmentCode?</source>
+        <translation>Las cinco cifras del departamento al que se cargan las páginas. Su administrador las conoce.</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines?</source>
+        <translation>Mantiene visibles y separadas las líneas muy finas, por ejemplo en dibujos técnicos. El texto y las imágenes no cambian.</translation>
+    </message>
+    <message>
+        <source>BlankPage?</source>
+        <translation>Omite las páginas en las que no se imprime nada, y así ahorra papel.</translation>
+    </message>
+    <message>
+        <source>ColorType?</source>
+        <translation>En qué colores se imprime el trabajo. El modo automático decide página por página; el blanco y negro es lo que menos cuesta.</translation>
+    </message>
+    <message>
+        <source>Resolution?</source>
+        <translation>Lo finos que son los puntos. Una resolución mayor muestra más nítidos el texto pequeño y las líneas, y puede tardar más.</translation>
+    </message>
+    <message>
+        <source>Halftone?</source>
+        <translation>Cómo se forman los tonos con puntos: finos para el detalle de textos y líneas, suaves para fotos y degradados.</translation>
+    </message>
+    <message>
+        <source>TonerSave?</source>
+        <translation>Imprime más pálido para gastar menos tóner. Bueno para borradores, no para documentos que se guardan.</translation>
+    </message>
+    <message>
+        <source>ImageType?</source>
+        <translation>Lo que más muestran las páginas; los colores se adaptan a ello. Con la opción avanzada elige usted los perfiles de color.</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint?</source>
+        <translation>Imprime el texto negro sobre el color que hay debajo en lugar de dejar el hueco en blanco, para que no aparezcan bordes claros.</translation>
+    </message>
+    <message>
+        <source>PureBlackGray?</source>
+        <translation>Imprime el negro, o el negro y el gris, solo con tóner negro, para que textos y tablas no tengan tinte.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan?</source>
+        <translation>Añade o quita cian. Más cian enfría la imagen, menos la vuelve más roja.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta?</source>
+        <translation>Añade o quita magenta. Más magenta vuelve la imagen más rosada, menos la vuelve más verde.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow?</source>
+        <translation>Añade o quita amarillo. Más amarillo vuelve la imagen más cálida, menos la vuelve más azul.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack?</source>
+        <translation>Añade o quita negro. Más negro oscurece las sombras, menos las aclara.</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN?</source>
+        <translation>Cuánto destacan los bordes. Más muestra el detalle, menos oculta el ruido de las fotos.</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN?</source>
+        <translation>Aclara u oscurece toda la página.</translation>
+    </message>
+    <message>
+        <source>ContrastVRN?</source>
+        <translation>Cuánto se separan lo claro y lo oscuro. Demasiado hace perder detalle en las zonas más claras y más oscuras.</translation>
+    </message>
+    <message>
+        <source>SaturationVRN?</source>
+        <translation>Lo intensos que son los colores. Menos los vuelve más grises, más los vuelve más vivos.</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN?</source>
+        <translation>Con qué fuerza se imprime un fondo teñido. Bájelo si el papel de una página escaneada se ve gris.</translation>
+    </message>
+    <message>
+        <source>selectedRgbSourceProfile?</source>
+        <translation>Qué perfil describe los colores de pantallas y cámaras de su documento. La impresora guarda estos perfiles.</translation>
+    </message>
+    <message>
+        <source>selectedCmykSourceProfile?</source>
+        <translation>Qué perfil describe las tintas de su documento tal como las imprimiría una imprenta.</translation>
+    </message>
+    <message>
+        <source>selectedCmykDestinationProfile?</source>
+        <translation>Qué perfil describe el papel y el tóner con los que imprime la impresora.</translation>
+    </message>
+    <message>
+        <source>renderingIntent?</source>
+        <translation>Qué ocurre con los colores que la impresora no puede imprimir: si se adapta toda la imagen o solo esos colores.</translation>
+    </message>
+    <message>
+        <source>applyToDeviceColorOnly?</source>
+        <translation>Usa estos perfiles solo para los colores que no traen un perfil propio.</translation>
+    </message>
 </context>
 <context>
     <name>PrintMode</name>

@@ -597,6 +597,114 @@
         <source>BackgroundAdjustmentVRN</source>
         <translation>Réglage du fond</translation>
     </message>
+    <message>
+        <source>PrintMode?</source>
+        <translation>Ce que l’imprimante fait du travail à son arrivée : l’imprimer aussitôt, le garder jusqu’à la saisie d’un mot de passe, en tirer une épreuve ou le mettre en attente.</translation>
+    </message>
+    <message>
+        <source>privatePassword?</source>
+        <translation>Cinq chiffres de votre choix. L’imprimante garde le travail jusqu’à ce que vous saisissiez les mêmes chiffres sur son panneau.</translation>
+    </message>
+    <message>
+        <source>DeptCode?</source>
+        <translation>Indique si les pages sont imputées à un service. Activez-le si votre imprimante demande un code.</translation>
+    </message>
+    <message>
+        <source>departmentCode?</source>
+        <translation>Les cinq chiffres du service auquel les pages sont imputées. Votre administrateur les connaît.</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines?</source>
+        <translation>Garde les traits très fins visibles et distincts, par exemple dans les dessins techniques. Le texte et les images ne changent pas.</translation>
+    </message>
+    <message>
+        <source>BlankPage?</source>
+        <translation>Omet les pages sur lesquelles rien n’est imprimé, ce qui économise du papier.</translation>
+    </message>
+    <message>
+        <source>ColorType?</source>
+        <translation>Les couleurs dans lesquelles le travail est imprimé. Le mode automatique décide page par page ; le noir et blanc coûte le moins.</translation>
+    </message>
+    <message>
+        <source>Resolution?</source>
+        <translation>La finesse des points. Une résolution plus élevée rend les petits textes et les traits plus nets et peut prendre plus de temps.</translation>
+    </message>
+    <message>
+        <source>Halftone?</source>
+        <translation>La façon dont les nuances sont faites de points : fine pour le détail des textes et des traits, douce pour les photos et les dégradés.</translation>
+    </message>
+    <message>
+        <source>TonerSave?</source>
+        <translation>Imprime plus pâle pour consommer moins de toner. Convient aux brouillons, pas aux documents à conserver.</translation>
+    </message>
+    <message>
+        <source>ImageType?</source>
+        <translation>Ce que montrent surtout les pages ; les couleurs y sont adaptées. Le mode avancé vous laisse choisir vous-même les profils de couleurs.</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint?</source>
+        <translation>Imprime le texte noir par-dessus la couleur au lieu de laisser l’emplacement blanc : aucun bord clair n’apparaît.</translation>
+    </message>
+    <message>
+        <source>PureBlackGray?</source>
+        <translation>Imprime le noir, ou le noir et le gris, avec le seul toner noir, afin que textes et tableaux n’aient pas de teinte.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan?</source>
+        <translation>Ajoute ou retire du cyan. Plus de cyan refroidit l’image, moins la rend plus rouge.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta?</source>
+        <translation>Ajoute ou retire du magenta. Plus de magenta rend l’image plus rose, moins la rend plus verte.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow?</source>
+        <translation>Ajoute ou retire du jaune. Plus de jaune réchauffe l’image, moins la rend plus bleue.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack?</source>
+        <translation>Ajoute ou retire du noir. Plus de noir approfondit les ombres, moins les éclaircit.</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN?</source>
+        <translation>La netteté des contours. Plus de netteté montre les détails, moins masque le bruit des photos.</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN?</source>
+        <translation>Éclaircit ou assombrit toute la page.</translation>
+    </message>
+    <message>
+        <source>ContrastVRN?</source>
+        <translation>L’écart entre le clair et le sombre. Trop de contraste fait perdre des détails dans les zones les plus claires et les plus sombres.</translation>
+    </message>
+    <message>
+        <source>SaturationVRN?</source>
+        <translation>L’intensité des couleurs. Moins les rend plus grises, plus les rend plus vives.</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN?</source>
+        <translation>L’intensité d’un fond teinté. Diminuez-la si le papier d’une page numérisée apparaît gris.</translation>
+    </message>
+    <message>
+        <source>selectedRgbSourceProfile?</source>
+        <translation>Le profil qui décrit les couleurs d’écrans et d’appareils photo de votre document. L’imprimante contient ces profils.</translation>
+    </message>
+    <message>
+        <source>selectedCmykSourceProfile?</source>
+        <translation>Le profil qui décrit les encres de votre document, telles qu’une presse les imprimerait.</translation>
+    </message>
+    <message>
+        <source>selectedCmykDestinationProfile?</source>
+        <translation>Le profil qui décrit le papier et le toner avec lesquels l’imprimante imprime.</translation>
+    </message>
+    <message>
+        <source>renderingIntent?</source>
+        <translation>Ce que deviennent les couleurs que l’imprimante ne peut pas imprimer : adapter toute l’image ou ces seules couleurs.</translation>
+    </message>
+    <message>
+        <source>applyToDeviceColorOnly?</source>
+        <translation>N’utilise ces profils que pour les couleurs qui n’ont pas leur propre profil.</translation>
+    </message>
 </context>
 <context>
     <name>PrintMode</name>

@@ -597,6 +597,114 @@
         <source>BackgroundAdjustmentVRN</source>
         <translation>Regolazione dello sfondo</translation>
     </message>
+    <message>
+        <source>PrintMode?</source>
+        <translation>Che cosa fa la stampante del lavoro quando arriva: stamparlo subito, tenerlo finché non digiti una password, stampare una prova o trattenerlo.</translation>
+    </message>
+    <message>
+        <source>privatePassword?</source>
+        <translation>Cinque cifre a tua scelta. La stampante tiene il lavoro finché non digiti le stesse cifre sul suo pannello.</translation>
+    </message>
+    <message>
+        <source>DeptCode?</source>
+        <translation>Se le pagine sono addebitate a un reparto. Attivalo se la stampante chiede un codice.</translation>
+    </message>
+    <message>
+        <source>departmentCode?</source>
+        <translation>Le cinque cifre del reparto a cui sono addebitate le pagine. L’amministratore le conosce.</translation>
+    </message>
+    <message>
+        <source>DistinguishThinLines?</source>
+        <translation>Mantiene visibili e distinte le linee molto sottili, per esempio nei disegni tecnici. Testo e immagini restano come sono.</translation>
+    </message>
+    <message>
+        <source>BlankPage?</source>
+        <translation>Salta le pagine su cui non si stampa nulla, e così risparmia carta.</translation>
+    </message>
+    <message>
+        <source>ColorType?</source>
+        <translation>In quali colori viene stampato il lavoro. Il modo automatico decide pagina per pagina; il bianco e nero costa meno.</translation>
+    </message>
+    <message>
+        <source>Resolution?</source>
+        <translation>Quanto sono fini i punti. Una risoluzione più alta rende più nitidi il testo piccolo e le linee, e può richiedere più tempo.</translation>
+    </message>
+    <message>
+        <source>Halftone?</source>
+        <translation>Come le sfumature nascono da punti: fini per i dettagli di testo e linee, morbide per foto e sfumature continue.</translation>
+    </message>
+    <message>
+        <source>TonerSave?</source>
+        <translation>Stampa più chiaro per consumare meno toner. Va bene per le bozze, non per i documenti da conservare.</translation>
+    </message>
+    <message>
+        <source>ImageType?</source>
+        <translation>Che cosa mostrano soprattutto le pagine; i colori vi si adattano. Con la scelta avanzata decidi tu i profili colore.</translation>
+    </message>
+    <message>
+        <source>BlackOverPrint?</source>
+        <translation>Stampa il testo nero sopra il colore invece di lasciare bianco il posto, così non appaiono bordi chiari.</translation>
+    </message>
+    <message>
+        <source>PureBlackGray?</source>
+        <translation>Stampa il nero, o il nero e il grigio, con il solo toner nero, così testi e tabelle non hanno dominanti.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceCyan?</source>
+        <translation>Aggiunge o toglie ciano. Più ciano rende l’immagine più fredda, meno la rende più rossa.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceMagenta?</source>
+        <translation>Aggiunge o toglie magenta. Più magenta rende l’immagine più rosa, meno la rende più verde.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceYellow?</source>
+        <translation>Aggiunge o toglie giallo. Più giallo rende l’immagine più calda, meno la rende più blu.</translation>
+    </message>
+    <message>
+        <source>ColorBalanceBlack?</source>
+        <translation>Aggiunge o toglie nero. Più nero rende le ombre più profonde, meno le schiarisce.</translation>
+    </message>
+    <message>
+        <source>SharpnessVRN?</source>
+        <translation>Quanto risaltano i contorni. Di più mostra i dettagli, di meno nasconde il rumore delle foto.</translation>
+    </message>
+    <message>
+        <source>BrightnessVRN?</source>
+        <translation>Schiarisce o scurisce tutta la pagina.</translation>
+    </message>
+    <message>
+        <source>ContrastVRN?</source>
+        <translation>Quanto sono distanti chiaro e scuro. Troppo fa perdere dettagli nei punti più chiari e più scuri.</translation>
+    </message>
+    <message>
+        <source>SaturationVRN?</source>
+        <translation>Quanto sono forti i colori. Di meno li rende più grigi, di più li rende più vivaci.</translation>
+    </message>
+    <message>
+        <source>BackgroundAdjustmentVRN?</source>
+        <translation>Con quanta forza viene stampato uno sfondo colorato. Abbassalo se la carta di una pagina scansionata appare grigia.</translation>
+    </message>
+    <message>
+        <source>selectedRgbSourceProfile?</source>
+        <translation>Quale profilo descrive i colori di schermi e fotocamere nel documento. I profili si trovano nella stampante.</translation>
+    </message>
+    <message>
+        <source>selectedCmykSourceProfile?</source>
+        <translation>Quale profilo descrive gli inchiostri del documento come li stamperebbe una macchina da stampa.</translation>
+    </message>
+    <message>
+        <source>selectedCmykDestinationProfile?</source>
+        <translation>Quale profilo descrive la carta e il toner con cui la stampante stampa.</translation>
+    </message>
+    <message>
+        <source>renderingIntent?</source>
+        <translation>Che cosa accade ai colori che la stampante non può stampare: se si adatta tutta l’immagine o solo quei colori.</translation>
+    </message>
+    <message>
+        <source>applyToDeviceColorOnly?</source>
+        <translation>Usa questi profili solo per i colori che non hanno un profilo proprio.</translation>
+    </message>
 </context>
 <context>
     <name>PrintMode</name>

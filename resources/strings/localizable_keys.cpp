@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Not compiled: names, for lupdate, the keys that the plug-in looks up in the default string table. A key is
-// a panel's name, a PPD option, an option and a choice of it, or what the device services report.
+// a panel's name, a PPD option, an option and a choice of it, what the device services report, or an option
+// with "?".
 const char *const keys[] = {
     QT_TRANSLATE_NOOP("Localizable", "Print Mode"),
     QT_TRANSLATE_NOOP("Localizable", "Color Settings 1"),
@@ -67,4 +68,32 @@ const char *const keys[] = {
     QT_TRANSLATE_NOOP("Localizable", "ContrastVRN"),
     QT_TRANSLATE_NOOP("Localizable", "SaturationVRN"),
     QT_TRANSLATE_NOOP("Localizable", "BackgroundAdjustmentVRN"),
+    // What an option or a key of a panel is for.
+    QT_TRANSLATE_NOOP("Localizable", "PrintMode?"),
+    QT_TRANSLATE_NOOP("Localizable", "privatePassword?"),
+    QT_TRANSLATE_NOOP("Localizable", "DeptCode?"),
+    QT_TRANSLATE_NOOP("Localizable", "departmentCode?"),
+    QT_TRANSLATE_NOOP("Localizable", "DistinguishThinLines?"),
+    QT_TRANSLATE_NOOP("Localizable", "BlankPage?"),
+    QT_TRANSLATE_NOOP("Localizable", "ColorType?"),
+    QT_TRANSLATE_NOOP("Localizable", "Resolution?"),
+    QT_TRANSLATE_NOOP("Localizable", "Halftone?"),
+    QT_TRANSLATE_NOOP("Localizable", "TonerSave?"),
+    QT_TRANSLATE_NOOP("Localizable", "ImageType?"),
+    QT_TRANSLATE_NOOP("Localizable", "BlackOverPrint?"),
+    QT_TRANSLATE_NOOP("Localizable", "PureBlackGray?"),
+    QT_TRANSLATE_NOOP("Localizable", "ColorBalanceCyan?"),
+    QT_TRANSLATE_NOOP("Localizable", "ColorBalanceMagenta?"),
+    QT_TRANSLATE_NOOP("Localizable", "ColorBalanceYellow?"),
+    QT_TRANSLATE_NOOP("Localizable", "ColorBalanceBlack?"),
+    QT_TRANSLATE_NOOP("Localizable", "SharpnessVRN?"),
+    QT_TRANSLATE_NOOP("Localizable", "BrightnessVRN?"),
+    QT_TRANSLATE_NOOP("Localizable", "ContrastVRN?"),
+    QT_TRANSLATE_NOOP("Localizable", "SaturationVRN?"),
+    QT_TRANSLATE_NOOP("Localizable", "BackgroundAdjustmentVRN?"),
+    QT_TRANSLATE_NOOP("Localizable", "selectedRgbSourceProfile?"),
+    QT_TRANSLATE_NOOP("Localizable", "selectedCmykSourceProfile?"),
+    QT_TRANSLATE_NOOP("Localizable", "selectedCmykDestinationProfile?"),
+    QT_TRANSLATE_NOOP("Localizable", "renderingIntent?"),
+    QT_TRANSLATE_NOOP("Localizable", "applyToDeviceColorOnly?"),
 };

@@ -16,6 +16,9 @@ run_packages=(
 )
 check_packages=(clang-format)
 room_packages=(mmdebstrap git ccache iproute2)
+# What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.
+package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils)
+trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
 
 say() { printf '== %s\n' "$*"; }
 

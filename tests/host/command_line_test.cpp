@@ -61,6 +61,8 @@ private Q_SLOTS:
     void bundleOfOthersIsNotLoaded_data();
     void bundleOfOthersIsNotLoaded();
     void nothingReachesTheTerminalRaw();
+    void policyIsObeyed_data();
+    void policyIsObeyed();
 
 private:
     QString write(const QString &name, const QByteArray &contents);
@@ -256,6 +258,44 @@ void CommandLineTest::nothingReachesTheTerminalRaw()
     const Outcome refused = run({u"--summary"_s, u"--ppd"_s, ppd, u"--set"_s, u"Evil=\x1b[31m"_s});
     QCOMPARE(refused.code, 2);
     QVERIFY2(!refused.err.contains('\x1b'), refused.err.constData());
+}
+
+void CommandLineTest::policyIsObeyed_data()
+{
+    QTest::addColumn<QByteArray>("policy");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("said");
+    const QByteArray locked = R"({"contact": "IT", "rules": [
+        {"locked": {"PrintMode": "Private"}, "lockedPanels": ["color-settings-2"]}]})";
+    QTest::newRow("in force") << locked << QString() << 0 << "Private"_ba;
+    QTest::newRow("the same") << locked << u"--set PrintMode=Private"_s << 0 << "Private"_ba;
+    QTest::newRow("another choice") << locked << u"--set PrintMode=Normal"_s << 1
+                                    << " has to be “Private”. Set by the administrator (IT)."_ba;
+    QTest::newRow("passed on") << locked << u"-o PrintMode=Normal"_s << 1 << "has to be “Private”."_ba;
+    QTest::newRow("on a locked panel") << locked << u"--set ColorBalanceCyan=1"_s << 1
+                                       << "cannot be changed here. Set by the administrator (IT)."_ba;
+    QTest::newRow("broken")
+        << "{\n  \"rules\": [}"_ba << QString() << 0
+        << "not in force, since they cannot be read. Please tell your administrator: FILE, "
+           "line 2, column 13: "_ba;
+}
+
+// Without a word that it does not hold no policy is left out, and no broken one keeps anybody from printing.
+void CommandLineTest::policyIsObeyed()
+{
+    QFETCH(QByteArray, policy);
+    QFETCH(QString, words);
+    QFETCH(int, code);
+    QFETCH(QByteArray, said);
+    const QString file = write(u"policy.json"_s, policy);
+    qputenv("KELMAR_PRINT_POLICY", file.toLocal8Bit());
+    const Outcome outcome = run(QStringList{u"--summary"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s} +
+                                words.split(u' ', Qt::SkipEmptyParts));
+    qunsetenv("KELMAR_PRINT_POLICY");
+    QCOMPARE(outcome.code, code);
+    const QByteArray all = outcome.out + outcome.err;
+    QVERIFY2(all.contains(said.replace("FILE", file.toLocal8Bit())), all.constData());
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)

@@ -130,8 +130,17 @@ void CoreValuesTest::documentThatNeverEnds()
 {
     int ends[2];
     QCOMPARE(pipe(ends), 0);
-    const platform::UniqueFd reader(ends[0]), writer(ends[1]);
-    QVERIFY(!platform::privateCopy(reader.get(), QDir::tempPath().toStdString(), 10, 20));
+    const platform::UniqueFd silent(ends[0]), writer(ends[1]), endless(open("/dev/zero", O_RDONLY));
+    using std::chrono::milliseconds;
+    const platform::Patience little{milliseconds(20), milliseconds(60'000)};
+    const platform::Patience littleInAll{milliseconds(60'000), milliseconds(20)};
+    const auto copy = [](int source, const platform::Patience &patience) {
+        return platform::privateCopy(source, QDir::tempPath().toStdString(), platform::longestDocument,
+                                     &patience);
+    };
+    QVERIFY(!copy(silent.get(), little));
+    QCOMPARE(errno, ETIMEDOUT);
+    QVERIFY(!copy(endless.get(), littleInAll));
     QCOMPARE(errno, ETIMEDOUT);
 }
 

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void init() { reset(); }
     void cleanup() { m_window.reset(); }
     void printsWithTheGeneralPane();
+    void documentOfAnotherProgramHasItsTitle();
     void nonsensicalPagesStopPrinting();
     void conflictIsExplainedAndResolved();
     void noticesOutliveAQuestion();
@@ -101,6 +102,15 @@ void PrintWindowTest::printsWithTheGeneralPane()
     QCOMPARE(window.result(), int(QDialog::Accepted));
 }
 
+// Its file has no name of its own.
+void PrintWindowTest::documentOfAnotherProgramHasItsTitle()
+{
+    PrintTask task;
+    task.files = {u"/proc/self/fd/7"_s};
+    task.documentName = u"A web\npage"_s;
+    QCOMPARE(PrintWindow(m_system, m_none, task).windowTitle(), u"Print “A web page”"_s);
+}
+
 void PrintWindowTest::nonsensicalPagesStopPrinting()
 {
     PrintWindow &window = open();
@@ -126,7 +136,7 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
                  text.contains(u"Suggestion: Colour Mode: Automatic"_s),
              qPrintable(text));
-    QCOMPARE(window.messageBar()->buttons().size(), 2);
+    QCOMPARE(window.messageBar()->buttons().size(), 3);
     window.messageBar()->buttons().last()->click(); // keep and review
     QCOMPARE(window.session()->conflicts().size(), 1);
     printButton()->click();

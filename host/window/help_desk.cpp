@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/help_desk.h"
+
+#include "host/printing/message_language.h"
+#include "host/window/help_page.h"
+#include "host/window/page_book.h"
+#include "host/window/page_controls.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStackedWidget>
+#include <QTextBrowser>
+
+namespace host {
+
+namespace {
+
+// Of the panel whose page this is; nil where it has none.
+QString panelHelp(const DialogSession &session, const QString &page)
+{
+    for (int i = 0; i < session.panelCount(); ++i) {
+        auto *help = dynamic_cast<platform::PanelHelp *>(session.panel(i));
+        if (help && session.panel(i)->panelKind() == page)
+            return help->helpText();
+    }
+    return {};
+}
+
+QList<HelpPage::Explained> explainedOn(const QWidget *page)
+{
+    QList<HelpPage::Explained> explained;
+    for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
+        if (!found.control->whatsThis().isEmpty())
+            explained.append({found.name, found.control->whatsThis()});
+    }
+    return explained;
+}
+
+} // namespace
+
+QString helpText(const QString &topic)
+{
+    for (QString language : dialogLanguages() + QStringList(QStringLiteral("en"))) {
+        language = language.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0);
+        QFile page(QStringLiteral(":/help/%1/%2.md").arg(language, topic));
+        if (page.open(QIODevice::ReadOnly))
+            return QString::fromUtf8(page.readAll());
+    }
+    return {};
+}
+
+HelpDesk::HelpDesk(PrintWindow *window) : QObject(window), m_window(window) {}
+
+QStackedWidget *HelpDesk::stack() const
+{
+    return static_cast<QStackedWidget *>(m_window->book()->pages());
+}
+
+bool HelpDesk::isOpen() const
+{
+    return m_page && stack()->currentWidget() == m_page;
+}
+
+void HelpDesk::toggle()
+{
+    if (isOpen()) {
+        close();
+        return;
+    }
+    const PageBook *book = m_window->book();
+    if (!m_window->session() || book->isHidden())
+        return;
+    m_before = QApplication::focusWidget();
+    if (!showTopic(book->nameOf(book->currentRow())))
+        showTopic(QStringLiteral("panel"));
+}
+
+bool HelpDesk::showTopic(const QString &topic)
+{
+    const PageBook *book = m_window->book();
+    const int row = book->pageNamed(topic);
+    const QString page = book->nameOf(row);
+    QString text = helpText(row < 0 ? topic : page);
+    if (text.isNull())
+        text = panelHelp(*m_window->session(), page);
+    if (text.isNull())
+        return false;
+    if (!m_page) {
+        m_page = new HelpPage(stack());
+        stack()->addWidget(m_page);
+        connect(m_page, &HelpPage::topicWanted, this, &HelpDesk::showTopic);
+        connect(m_page, &HelpPage::closeWanted, this, &HelpDesk::close);
+    }
+    m_page->show(text, explainedOn(book->builtPage(row)));
+    stack()->setCurrentWidget(m_page);
+    m_page->browser()->setFocus(Qt::OtherFocusReason);
+    Q_EMIT shown();
+    return true;
+}
+
+void HelpDesk::close()
+{
+    PageBook *book = m_window->book();
+    book->showPage(book->currentRow());
+    Q_EMIT shown();
+    if (m_before && m_before->isVisible() && m_before->isEnabled())
+        m_before->setFocus(Qt::OtherFocusReason);
+    else
+        book->list()->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace host

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/help_page.h"
+
+#include "host/window/dialog_button.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+const QString suffix = QStringLiteral(".md");
+
+class Browser : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int, const QUrl &) override { return {}; }
+};
+
+// More air between the lines and around the blocks than Markdown comes with.
+void space(QTextDocument *document)
+{
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        QTextBlockFormat format = block.blockFormat();
+        format.setLineHeight(125, QTextBlockFormat::ProportionalHeight);
+        format.setTopMargin(format.headingLevel() > 1 ? 14 : 2);
+        format.setBottomMargin(block.textList() ? 2 : 6);
+        cursor.setBlockFormat(format);
+    }
+}
+
+} // namespace
+
+HelpPage::HelpPage(QWidget *parent) : QWidget(parent), m_browser(new Browser(this))
+{
+    m_browser->setFrameShape(QFrame::NoFrame);
+    m_browser->setOpenLinks(false);
+    m_browser->setAccessibleName(tr("Help"));
+    m_browser->document()->setDocumentMargin(8);
+    m_browser->document()->setIndentWidth(20);
+    m_browser->viewport()->setAutoFillBackground(false);
+    QPalette clear = m_browser->palette();
+    clear.setColor(QPalette::Base, Qt::transparent);
+    m_browser->setPalette(clear);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, [this](const QUrl &link) {
+        const QString name = link.isRelative() ? link.path() : QString();
+        if (name.endsWith(suffix))
+            Q_EMIT topicWanted(name.chopped(suffix.size()));
+    });
+
+    auto *close = new DialogButton(tr("Close &Help"), this);
+    close->setAutoDefault(false);
+    connect(close, &QPushButton::clicked, this, &HelpPage::closeWanted);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(24, 6, 24, 10);
+    row->addStretch(1);
+    row->addWidget(close);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto *text = new QHBoxLayout;
+    text->setContentsMargins(16, 10, 8, 0);
+    text->addWidget(m_browser);
+    column->addLayout(text, 1);
+    column->addLayout(row);
+}
+
+void HelpPage::show(const QString &markdown, const QList<Explained> &explained)
+{
+    m_markdown = markdown;
+    m_explained = explained;
+    fill();
+}
+
+void HelpPage::fill()
+{
+    QTextDocument *document = m_browser->document();
+    document->setMarkdown(m_markdown, QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectGitHub |
+                                                                      QTextDocument::MarkdownNoHTML));
+    QTextCursor cursor(document);
+    cursor.movePosition(QTextCursor::End);
+    QTextCharFormat plain;
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::DemiBold);
+    for (const Explained &item : std::as_const(m_explained)) {
+        cursor.insertBlock(QTextBlockFormat(), plain);
+        cursor.insertText(item.name + QStringLiteral(" – "), bold);
+        cursor.insertText(item.text, plain);
+    }
+    space(document);
+    m_browser->moveCursor(QTextCursor::Start);
+}
+
+QString HelpPage::text() const
+{
+    return m_browser->toPlainText();
+}
+
+void HelpPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT closeWanted();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// Links have their colour in the document.
+void HelpPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange && !m_markdown.isEmpty())
+        fill();
+}
+
+} // namespace host

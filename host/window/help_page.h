@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+class QTextBrowser;
+
+namespace host {
+
+// A page that shows a help text in the place of the page of settings that it explains. Loads nothing, neither
+// images nor pages: links are told, and whoever owns the page shows what they name.
+class HelpPage : public QWidget
+{
+    Q_OBJECT
+public:
+    // Something on the explained page, and what it is for. Plain text.
+    struct Explained
+    {
+        QString name;
+        QString text;
+    };
+
+    explicit HelpPage(QWidget *parent);
+
+    // `markdown` is a page of the program's or a bundle's; what is explained stands below it.
+    void show(const QString &markdown, const QList<Explained> &explained);
+    // The text as it is read.
+    QString text() const;
+    QTextBrowser *browser() const { return m_browser; }
+
+Q_SIGNALS:
+    // "summary" for a link to "summary.md".
+    void topicWanted(const QString &topic);
+    void closeWanted();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void fill();
+
+    QTextBrowser *m_browser;
+    QString m_markdown;
+    QList<Explained> m_explained;
+};
+
+} // namespace host

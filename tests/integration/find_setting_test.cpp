@@ -1,0 +1,391 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/chosen_settings.h"
+#include "host/window/help_desk.h"
+#include "host/window/help_page.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/print_window.h"
+#include "host/window/search_bar.h"
+#include "platform/choice_box.h"
+#include "tests/host/host_fixture.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QTest>
+#include <QTextBrowser>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr qint64 answerTime = 1000; // milliseconds
+#else
+constexpr qint64 answerTime = 50;
+#endif
+
+QByteArray familyPpd()
+{
+    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray hugePpd()
+{
+    QByteArray options;
+    for (int i = 0; i < 700; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        options +=
+            ppdOption("Unit" + number + "/Unit Number " + number, {"Off/No", "On/Yes", "Auto/Automatic"});
+    }
+    return ppdGroup("Units/Units", options);
+}
+
+QStringList filesIn(const QString &folder)
+{
+    return QDir(folder).entryList({u"*.md"_s}, QDir::Files);
+}
+
+} // namespace
+
+// How a user finds the way in the dialog: the search, choices that are greyed, and the help. Over a PPD of
+// the family with its panels, worked with keys.
+class FindSettingTest : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup() { m_window.reset(); }
+    void leadsToTheSetting_data();
+    void leadsToTheSetting();
+    void findsNoCodes();
+    void escapeGivesTheFocusBack();
+    void answersAtOnce();
+    void greyedChoiceIsOffered();
+    void greyedChoiceOfAPanelIsOffered();
+    void protectionIsNotGivenUpSilently();
+    void printsDespiteAConflict();
+    void helpOfEveryPage();
+    void helpSpeaksEveryLanguage();
+    void controlsSayWhatTheyAreFor();
+
+private:
+    void open(const QByteArray &ppd);
+    void search(const QString &query);
+    QListWidget *results() const { return m_window->findChild<SearchBar *>()->results(); }
+    // What has been found, without the marks of direction in it.
+    QString lineOf(int row) const { return results()->item(row)->text().remove(QChar(0x200e)).simplified(); }
+    platform::ChoiceBox *box(const QString &keyword) const;
+    // Opens the list of a box and picks an item with the keyboard.
+    void pick(const QString &keyword, const QString &choice);
+    QString barText() const { return m_window->messageBar()->text(); }
+
+    FakePrintSystem m_system;
+    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    std::unique_ptr<PrintWindow> m_window;
+};
+
+void FindSettingTest::initTestCase()
+{
+    QCoreApplication::setOrganizationName(u"kelmar-test"_s);
+}
+
+void FindSettingTest::init()
+{
+    open(familyPpd());
+}
+
+void FindSettingTest::open(const QByteArray &ppd)
+{
+    m_window.reset();
+    m_system = FakePrintSystem();
+    Destination office = officePrinter();
+    office.isDefault = true;
+    office.deviceUri = u"file:/dev/null"_s;
+    m_system.printers = {office};
+    m_system.ppds.insert(u"office"_s, ppd);
+    PrintTask task;
+    task.files = {QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")};
+    m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QTRY_VERIFY(m_window->session());
+}
+
+void FindSettingTest::search(const QString &query)
+{
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_F, Qt::ControlModifier);
+    auto *bar = m_window->findChild<SearchBar *>();
+    QVERIFY(bar && bar->field()->hasFocus());
+    for (const QChar c : query) {
+        if (c.unicode() < 0x80)
+            QTest::keyClick(bar->field(), c.toLatin1());
+        else // comes from an input method
+            bar->field()->insert(c);
+    }
+}
+
+platform::ChoiceBox *FindSettingTest::box(const QString &keyword) const
+{
+    for (auto *candidate : m_window->findChildren<platform::ChoiceBox *>()) {
+        if (candidate->optionKeyword() == keyword)
+            return candidate;
+    }
+    return nullptr;
+}
+
+void FindSettingTest::pick(const QString &keyword, const QString &choice)
+{
+    platform::ChoiceBox *list = box(keyword);
+    QVERIFY2(list, qPrintable(keyword));
+    list->setFocus();
+    list->showPopup();
+    QTest::keyClick(list->view(), Qt::Key_Home);
+    for (int i = 0; i < list->count() && list->choiceKeyword(list->view()->currentIndex().row()) != choice;
+         ++i)
+        QTest::keyClick(list->view(), Qt::Key_Down);
+    QTest::keyClick(list->view(), Qt::Key_Return);
+    QVERIFY(!list->view()->isVisible());
+}
+
+void FindSettingTest::leadsToTheSetting_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("name"); // of the control, to a screen reader
+    const QString one = u"com.kelmar.pde.color-settings-1"_s;
+    QTest::newRow("general setting") << u"copies"_s << u"General › Copies"_s << u"general"_s << u"Copies"_s;
+    QTest::newRow("any order, any case")
+        << u"sided TWO long"_s << u"General › Two-Sided Printing › Long-Edge Binding"_s << u"general"_s
+        << u"Two-Sided Printing"_s;
+    QTest::newRow("keyword") << u"DistinguishThinL"_s << u"Print Mode › Distinguish Thin Lines"_s
+                             << u"com.kelmar.pde.print-mode"_s << u"Distinguish thin lines"_s;
+    QTest::newRow("accents") << u"pure blàck and grây"_s << u"Color Settings 1 › Pure Black and Gray"_s << one
+                             << u"Pure black and gray"_s;
+    QTest::newRow("choice by keyword")
+        << u"colortype mono"_s << u"Color Settings 1 › Color Mode › Black and White"_s << one
+        << u"Color mode"_s;
+    QTest::newRow("slider") << u"yellow balance"_s << u"Color Settings 2 › Yellow Balance"_s
+                            << u"com.kelmar.pde.color-settings-2"_s << u"Yellow"_s;
+    QTest::newRow("check box") << u"toner save"_s << u"Color Settings 1 › Toner Save"_s << one
+                               << u"Save toner"_s;
+    QTest::newRow("what a tool tip says") << u"charged to"_s << u"Print Mode › Department Code"_s
+                                          << u"com.kelmar.pde.print-mode"_s << u"Department code"_s;
+    QTest::newRow("other options") << u"punch"_s << u"More Options › Hole Punch"_s << u"more"_s
+                                   << u"Hole Punch"_s;
+}
+
+void FindSettingTest::leadsToTheSetting()
+{
+    QFETCH(const QString, query);
+    QFETCH(const QString, line);
+    QFETCH(const QString, page);
+    QFETCH(const QString, name);
+    search(query);
+    QVERIFY(results()->isVisible());
+    QCOMPARE(lineOf(0), line);
+    for (int row = 1; row < m_window->book()->list()->count(); ++row)
+        QVERIFY2(!m_window->book()->builtPage(row), "the search has built a page");
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(m_window->book()->currentName(), page);
+    QTRY_VERIFY(m_window->focusWidget() && m_window->book()->pages()->isAncestorOf(m_window->focusWidget()));
+    QWidget *control = m_window->focusWidget();
+    QCOMPARE(control->accessibleName().isEmpty() ? control->property("text").toString().remove(u'&')
+                                                 : control->accessibleName(),
+             name);
+    QVERIFY(!control->visibleRegion().isEmpty());
+    QVERIFY(results()->isHidden());
+}
+
+void FindSettingTest::findsNoCodes()
+{
+    for (const QString &query : {u"DINDigit1"_s, u"dcdigit 2"_s}) {
+        search(query);
+        QCOMPARE(results()->count(), 0);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+        QVERIFY(m_window->isVisible() && m_system.submitted.isEmpty()); // Return prints nothing from here
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+    }
+}
+
+void FindSettingTest::escapeGivesTheFocusBack()
+{
+    box(u"PageSize"_s)->setFocus();
+    search(u"tray"_s);
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
+    QVERIFY(results()->hasFocus());
+    QTest::keyClick(results(), Qt::Key_Down);
+    QCOMPARE(results()->currentRow(), 1);
+    QTest::keyClick(results(), Qt::Key_Escape);
+    QVERIFY(m_window->isVisible() && results()->isHidden());
+    QVERIFY(box(u"PageSize"_s)->hasFocus());
+}
+
+void FindSettingTest::answersAtOnce()
+{
+    open(hugePpd());
+    QElapsedTimer clock;
+    clock.start();
+    search(u"number 69"_s);
+    const qint64 opened = clock.restart();
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_9);
+    const qint64 answered = clock.elapsed();
+    QCOMPARE(lineOf(0), u"More Options › Unit Number 699"_s);
+    qInfo("opened and typed in %lld ms, answered in %lld ms", opened, answered);
+    QVERIFY2(answered <= answerTime, qPrintable(QString::number(answered)));
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+    QTRY_VERIFY_WITH_TIMEOUT(box(u"Unit699"_s), 10000);
+    QTRY_COMPARE(m_window->focusWidget(), static_cast<QWidget *>(box(u"Unit699"_s)));
+    QTRY_VERIFY(!m_window->focusWidget()->visibleRegion().isEmpty());
+}
+
+void FindSettingTest::greyedChoiceIsOffered()
+{
+    pick(u"MediaType"_s, u"Thick1"_s);
+    pick(u"Duplex"_s, u"DuplexNoTumble"_s);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s); // nothing has changed yet
+    QVERIFY2(barText().contains(u"“Two-Sided Printing: Long-Edge Binding” is not available now"_s) &&
+                 barText().contains(u"Paper Type: Plain Paper instead of “Thick Paper 1”"_s),
+             qPrintable(barText()));
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
+    QVERIFY(m_window->session()->conflicts().isEmpty() && !m_window->messageBar()->isShowing());
+    QCOMPARE(box(u"Duplex"_s)->choiceKeyword(box(u"Duplex"_s)->currentIndex()), u"DuplexNoTumble"_s);
+
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier); // one step
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick1"_s);
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+
+    pick(u"MediaType"_s, u"Thick2"_s); // and this time everything stays as it is
+    m_window->messageBar()->buttons().last()->click();
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
+}
+
+void FindSettingTest::greyedChoiceOfAPanelIsOffered()
+{
+    m_window->book()->showPage(m_window->book()->pageNamed(u"print-mode"_s));
+    pick(u"BlankPage"_s, u"True"_s);
+    pick(u"PrintMode"_s, u"Proof"_s);
+    QVERIFY2(barText().contains(u"Skip Blank Pages"_s), qPrintable(barText()));
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+    m_window->session()->save();
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"PrintMode"_s), u"Proof"_s);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"BlankPage"_s), u"False"_s);
+}
+
+void FindSettingTest::protectionIsNotGivenUpSilently()
+{
+    m_window->book()->showPage(m_window->book()->pageNamed(u"print-mode"_s));
+    pick(u"PrintMode"_s, u"Private"_s);
+    m_window->book()->showPage(m_window->book()->pageNamed(u"more"_s));
+    pick(u"JobRetention"_s, u"Week"_s);
+    QVERIFY2(barText().contains(u"This gives up “Print Mode: Private”"_s), qPrintable(barText()));
+    m_window->messageBar()->buttons().last()->click();
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"PrintMode"_s), u"Private"_s);
+    m_window->session()->markChoice(u"JobRetention"_s, u"Week"_s);
+    m_window->print();
+    QVERIFY2(barText().contains(u"the printer may print without it"_s), qPrintable(barText()));
+}
+
+void FindSettingTest::printsDespiteAConflict()
+{
+    m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
+    m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
+    m_window->print();
+    QVERIFY(m_system.submitted.isEmpty());
+    QCOMPARE(m_window->messageBar()->buttons().size(), 3);
+    m_window->messageBar()->buttons().at(1)->click();
+    QTRY_COMPARE(m_system.submitted.size(), 1);
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"MediaType"_s), u"Thick1"_s);
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"Duplex"_s), u"DuplexTumble"_s);
+}
+
+void FindSettingTest::helpOfEveryPage()
+{
+    QSet<QString> texts;
+    const int pages = m_window->book()->list()->count();
+    for (int page = 0; page < pages; ++page) {
+        m_window->book()->showPage(page);
+        m_window->book()->list()->setFocus();
+        QTest::keyClick(m_window.get(), Qt::Key_F1);
+        auto *help = m_window->findChild<HelpPage *>();
+        QVERIFY(help && help->isVisible());
+        QVERIFY2(help->text().startsWith(m_window->book()->titleOf(page)), qPrintable(help->text()));
+        texts.insert(help->text());
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+        QVERIFY(m_window->isVisible() && !help->isVisible() && m_window->book()->list()->hasFocus());
+    }
+    QCOMPARE(texts.size(), pages);
+    QTest::keyClick(m_window.get(), Qt::Key_F1);
+    auto *help = m_window->findChild<HelpPage *>();
+    Q_EMIT help->browser()->anchorClicked(QUrl(u"finding.md"_s));
+    QVERIFY(help->text().startsWith(u"Finding Your Way"_s));
+    Q_EMIT help->browser()->anchorClicked(QUrl(u"file:///etc/passwd"_s)); // leads nowhere
+    Q_EMIT help->browser()->anchorClicked(QUrl(u"../../passwd.md"_s));
+    QVERIFY(help->text().startsWith(u"Finding Your Way"_s));
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier); // a page takes its place
+    QVERIFY(!help->isVisible());
+}
+
+// Each language has each page, and no link leads nowhere.
+void FindSettingTest::helpSpeaksEveryLanguage()
+{
+    const QString host = QStringLiteral(KELMAR_SOURCE_DIR "/host/help/");
+    const QString bundle = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle/help/");
+    const QStringList pages = filesIn(host + u"en"_s) + filesIn(bundle + u"en"_s);
+    QVERIFY(pages.size() > 6);
+    static const QRegularExpression link(u"\\]\\(([^)]*)\\)"_s);
+    for (const QString &language : {u"en"_s, u"de"_s, u"fr"_s, u"ja"_s, u"es"_s, u"it"_s}) {
+        QCOMPARE(filesIn(host + language) + filesIn(bundle + language), pages);
+        for (const QString &page : pages) {
+            QFile file(u":/help/%1/%2"_s.arg(language, page));
+            if (!file.exists())
+                file.setFileName(bundle + language + u'/' + page);
+            QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+            const QString text = QString::fromUtf8(file.readAll());
+            QVERIFY2(text.startsWith(u"# "_s), qPrintable(file.fileName()));
+            for (auto links = link.globalMatch(text); links.hasNext();) {
+                const QString target = links.next().captured(1);
+                QVERIFY2(pages.contains(target), qPrintable(file.fileName() + u": "_s + target));
+            }
+        }
+    }
+}
+
+void FindSettingTest::controlsSayWhatTheyAreFor()
+{
+    m_window->book()->showPage(m_window->book()->pageNamed(u"print-mode"_s));
+    platform::ChoiceBox *mode = box(u"PrintMode"_s);
+    mode->setFocus();
+    const QString help = QAccessible::queryAccessibleInterface(mode)->text(QAccessible::Help);
+    QVERIFY2(help.startsWith(u"How the printer treats the job"_s), qPrintable(help));
+    QTest::keyClick(mode, Qt::Key_F1, Qt::ShiftModifier);
+    const auto shows = [] {
+        for (const QWidget *top : QApplication::topLevelWidgets()) {
+            if (top->isVisible() && top->inherits("QWhatsThat"))
+                return true;
+        }
+        return false;
+    };
+    QVERIFY(shows());
+    QTest::keyClick(mode, Qt::Key_Escape);
+}
+
+QTEST_MAIN(FindSettingTest)
+#include "find_setting_test.moc"
