@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/preview/page_tools.h"
+#include "host/window/change_mark.h"
 #include "host/window/general_page.h"
 #include "host/window/message_bar.h"
 #include "host/window/preview_pane.h"
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void cleanup() { m_window.reset(); }
     void layoutIsSent_data();
     void layoutIsSent();
+    void layoutIsUndone();
     void documentIsLeftOut();
     void rangeBeyondTheEnd();
     void pdfIsWritten();
@@ -125,6 +127,17 @@ void GeneralPageTest::layoutIsSent()
     QCOMPARE(m_system.submitted.size(), 1);
     for (auto it = sent.begin(); it != sent.end(); ++it)
         QCOMPARE(sentValue(m_system.submitted.first().options, it.key()), it.value());
+}
+
+void GeneralPageTest::layoutIsUndone()
+{
+    open();
+    choose(u"orientation-requested"_s, u"4"_s);
+    QTRY_VERIFY(find<ChangeMark>());
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QTRY_COMPARE(m_window->session()->general().layout, PageLayoutSettings());
+    QCOMPARE(find<QComboBox>(u"orientation-requested"_s)->currentIndex(), 0);
+    QTRY_VERIFY(!find<ChangeMark>());
 }
 
 void GeneralPageTest::documentIsLeftOut()
