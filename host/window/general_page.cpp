@@ -13,6 +13,7 @@
 #include "host/window/option_form.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -60,6 +61,17 @@ void GeneralPage::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
 }
 
+// Shows what has been added, in its place, before anything is painted again.
+void GeneralPage::settleLayout()
+{
+    for (QWidget *child : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child->isHidden() && !child->testAttribute(Qt::WA_WState_ExplicitShowHide))
+            child->show();
+    }
+    for (QWidget *around = this; around; around = around->isWindow() ? nullptr : around->parentWidget())
+        QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest);
+}
+
 void GeneralPage::addLayout()
 {
     auto *grid = qobject_cast<QGridLayout *>(layout());
@@ -71,8 +83,8 @@ void GeneralPage::addLayout()
     });
     addSavePdf(grid);
     grid->setRowStretch(grid->rowCount(), 1);
-    // Its controls are shown by events that are queued already.
-    QMetaObject::invokeMethod(this, &GeneralPage::grown, Qt::QueuedConnection);
+    settleLayout();
+    Q_EMIT grown();
 }
 
 void GeneralPage::addDocuments(QGridLayout *grid)

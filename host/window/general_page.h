@@ -56,6 +56,7 @@ protected:
 private:
     void addDocuments(QGridLayout *grid);
     void addLayout();
+    void settleLayout();
     void addSavePdf(QGridLayout *grid);
     QRadioButton *addPart(GeneralSettings::Part part, const QString &text);
     QString rangesProblem() const;

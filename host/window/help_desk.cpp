@@ -57,7 +57,7 @@ HelpDesk::HelpDesk(PrintWindow *window) : QObject(window), m_window(window) {}
 
 QStackedWidget *HelpDesk::stack() const
 {
-    return static_cast<QStackedWidget *>(m_window->book()->pages());
+    return m_window->book()->stack();
 }
 
 bool HelpDesk::isOpen() const

@@ -66,12 +66,12 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
                         QGridLayout *grid)
 {
     auto *box = new platform::ChoiceBox(grid->parentWidget());
-    box->setMinimumWidth(boxWidth);
     box->setMaximumWidth(mostWidth);
     box->setObjectName(name);
     box->setAccessibleName(label.chopped(1));
     for (const QString &value : values)
         box->addItem(name == numberUp ? value : layoutValueText(name, value), value);
+    box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     // An access key for those that are wanted most: with the printer's own options there are too few letters.

@@ -64,7 +64,9 @@ public:
     // How wide it must be to show the current page without scrolling sideways.
     int wantedWidth() const;
     PageList *list() const { return m_list; }
-    // What holds the pages.
+    // What shows one page at a time.
+    QStackedWidget *stack() const { return m_stack; }
+    // What holds the pages, and the preview beside them.
     QWidget *pages() const;
 
     // Whether what is typed on the general page makes sense; shows the place where it does not.
