@@ -347,6 +347,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Standard input</source>
         <translation>Standardeingabe</translation>
     </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
 </context>
 <context>
     <name>Explanation</name>
@@ -1926,6 +1930,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The PDF file has been written</source>
         <translation>Die PDF-Datei wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Das Dokument wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
     </message>
 </context>
 <context>

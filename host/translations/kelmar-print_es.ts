@@ -347,6 +347,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Standard input</source>
         <translation>Entrada estándar</translation>
     </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La impresión se ha cancelado.</translation>
+    </message>
 </context>
 <context>
     <name>Explanation</name>
@@ -1926,6 +1930,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The PDF file has been written</source>
         <translation>Se ha guardado el archivo PDF</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Leyendo el documento…</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La impresión se ha cancelado.</translation>
     </message>
 </context>
 <context>

@@ -347,6 +347,10 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
         <source>Standard input</source>
         <translation>Entrée standard</translation>
     </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>L’impression a été annulée.</translation>
+    </message>
 </context>
 <context>
     <name>Explanation</name>
@@ -1926,6 +1930,14 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>The PDF file has been written</source>
         <translation>Le fichier PDF a été écrit</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lecture du document…</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>L’impression a été annulée.</translation>
     </message>
 </context>
 <context>

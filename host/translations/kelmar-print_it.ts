@@ -347,6 +347,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Standard input</source>
         <translation>Standard input</translation>
     </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La stampa è stata annullata.</translation>
+    </message>
 </context>
 <context>
     <name>Explanation</name>
@@ -1926,6 +1930,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The PDF file has been written</source>
         <translation>Il file PDF è stato scritto</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lettura del documento…</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La stampa è stata annullata.</translation>
     </message>
 </context>
 <context>

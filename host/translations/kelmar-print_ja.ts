@@ -347,6 +347,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Standard input</source>
         <translation>標準入力</translation>
     </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を取り消しました。</translation>
+    </message>
 </context>
 <context>
     <name>Explanation</name>
@@ -1926,6 +1930,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The PDF file has been written</source>
         <translation>PDF ファイルを書き出しました</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>文書を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を取り消しました。</translation>
     </message>
 </context>
 <context>

@@ -166,8 +166,7 @@ void ColorSettings2PanelTest::colorModeResetsAndAllowsBalance()
     QVERIFY(!slider->isEnabled());
     QVERIFY(widget<QSlider>(view, "sharpnessSlider")->isEnabled());
     QVERIFY(notice->isVisible());
-    QCOMPARE(notice->text(),
-             u"Color balance is not available while “Color Mode” is “Black and White”."_s);
+    QCOMPARE(notice->text(), u"Color balance is not available while “Color Mode” is “Black and White”."_s);
     // The job knows before anybody saves.
     for (const QString &key : balanceKeys) {
         QCOMPARE(value(panel, key), u"0"_s);
