@@ -38,6 +38,17 @@ void confine(int input, int output, const std::vector<int> &others, const Limite
     limit(RLIMIT_CPU, std::chrono::ceil<std::chrono::seconds>(limits.time).count());
 }
 
+// One that has been killed may still be waited for when the program ends.
+class MortalProcess : public QProcess
+{
+public:
+    ~MortalProcess() override
+    {
+        if (state() != NotRunning)
+            waitForFinished(100); // milliseconds; a killed process is gone at once
+    }
+};
+
 // A process, and what it has started.
 void killAll(QProcess *process)
 {
@@ -80,7 +91,6 @@ LimitedProcess::~LimitedProcess()
         return;
     m_process->disconnect(this);
     killAll(m_process.get());
-    m_process->waitForFinished(100); // a killed process is gone at once
 }
 
 QString LimitedProcess::pathFor(const SharedFile &file)
@@ -99,7 +109,7 @@ void LimitedProcess::start(const Call &call)
             this, [this] { Q_EMIT ended(nullptr); }, Qt::QueuedConnection);
         return;
     }
-    m_process = std::make_unique<QProcess>();
+    m_process = std::make_unique<MortalProcess>();
     m_process->setProgram(call.program);
     m_process->setArguments(call.arguments);
     m_process->setProcessChannelMode(QProcess::ForwardedOutputChannel);
