@@ -3,6 +3,8 @@
 
 #include "host/window/page_frame.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -87,8 +89,13 @@ void PageFrame::scrollToTop()
 
 void PageFrame::reveal(QWidget *control)
 {
-    if (m_content && m_content->isAncestorOf(control))
-        m_scroll->ensureWidgetVisible(control, 12, 12);
+    if (!m_content || !m_content->isAncestorOf(control))
+        return;
+    // Where it is to be: rows that were just made are laid out later.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (m_content->layout())
+        m_content->layout()->activate();
+    m_scroll->ensureWidgetVisible(control, 12, 12);
 }
 
 void PageFrame::releaseContent()
