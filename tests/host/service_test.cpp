@@ -309,8 +309,8 @@ void ServiceTest::documentOutlivesItsRequest()
 {
     startService();
     const auto taken = [this](const QDBusMessage &call) {
-        const auto pending = m_bus.asyncCall(call, patience);
         const qsizetype before = log().size();
+        const auto pending = m_bus.asyncCall(call, patience);
         QTRY_VERIFY_WITH_TIMEOUT(log().size() > before, patience);
         const QString handle = call.arguments().first().value<QDBusObjectPath>().path();
         m_bus.call(QDBusMessage::createMethodCall(portalName, handle,
