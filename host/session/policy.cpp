@@ -50,6 +50,7 @@ class PolicyReader
 public:
     PolicyReader(const QByteArray &source, const QString &fileName) : m_source(source), m_fileName(fileName)
     {
+        m_policy.m_fileName = fileName;
     }
 
     std::optional<Policy> read(QString *error)

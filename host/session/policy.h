@@ -56,6 +56,7 @@ public:
     bool offers(const QString &queue) const;
     // Why the file lays down nothing, for whoever prints; nil when it does. Localised.
     QString problem() const { return m_problem; }
+    const QString &fileName() const { return m_fileName; } // nil where there is none
     // "Set by the administrator", with whom to ask where the file says it. Localised.
     QString attribution() const;
 
@@ -68,6 +69,7 @@ private:
     friend class PolicyReader;
 
     QString m_problem;
+    QString m_fileName;
     QString m_contact;
     QStringList m_offered; // wildcards; empty for all
     QList<Entry> m_entries;

@@ -34,6 +34,13 @@ PrintError notOffered(const Policy &policy, const QString &queue)
         PolicySystemText::tr("The printer “%1” is not offered here. %2").arg(queue, policy.attribution())};
 }
 
+PrintError noneOffered(const Policy &policy)
+{
+    return {PrintError::Kind::NoPrinters,
+            PolicySystemText::tr("The rules in %1 offer none of the printers that have been set up. %2")
+                .arg(policy.fileName(), policy.attribution())};
+}
+
 } // namespace
 
 PolicyPrintSystem::PolicyPrintSystem(PrintSystem &system, const QStringList &bundleFolders,
@@ -45,21 +52,42 @@ PolicyPrintSystem::PolicyPrintSystem(PrintSystem &system, const QStringList &bun
 std::optional<QList<Destination>> PolicyPrintSystem::destinations(PrintError *error)
 {
     auto all = m_system.destinations(error);
-    if (all)
-        all->removeIf([this](const Destination &destination) { return !m_policy.offers(destination.queue); });
-    return all;
+    if (!all || all->isEmpty())
+        return all;
+    all->removeIf([this](const Destination &destination) { return !m_policy.offers(destination.queue); });
+    if (!all->isEmpty())
+        return all;
+    *error = noneOffered(m_policy);
+    return std::nullopt;
 }
 
 std::optional<Destination> PolicyPrintSystem::destination(const QString &name, PrintError *error)
 {
     auto found = m_system.destination(name, error);
-    if (!found || m_policy.offers(found->queue))
+    if (found && m_policy.offers(found->queue))
         return found;
-    // Where nobody has asked for it, another one does as well.
-    const auto offered = name.isEmpty() ? destinations(error) : std::nullopt;
-    if (offered && !offered->isEmpty())
+    if (name.isEmpty())
+        return anyOffered(std::move(found), error);
+    if (found)
+        *error = notOffered(m_policy, found->queue);
+    return std::nullopt;
+}
+
+// Where nobody has asked for the default printer, another one does as well. Without one it stays an error,
+// but to choose by name helps nobody where there is nothing to be chosen.
+std::optional<Destination> PolicyPrintSystem::anyOffered(std::optional<Destination> standard,
+                                                         PrintError *error)
+{
+    if (!standard && error->kind != PrintError::Kind::NoSuchPrinter)
+        return std::nullopt;
+    PrintError problem;
+    const auto offered = destinations(&problem);
+    if (offered && !offered->isEmpty() && standard)
         return offered->first();
-    *error = notOffered(m_policy, found->queue);
+    if (!offered)
+        *error = problem;
+    else if (standard)
+        *error = notOffered(m_policy, standard->queue);
     return std::nullopt;
 }
 

@@ -19,6 +19,7 @@ public:
     // `bundleFolders` are those of Extensions; they say which options a code belongs to.
     PolicyPrintSystem(PrintSystem &system, const QStringList &bundleFolders, const Policy &policy);
 
+    // Fails where there are printers, but none that the policy names.
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
@@ -31,6 +32,7 @@ public:
     void setLoginPrompt(LoginPrompt prompt) override;
 
 private:
+    std::optional<Destination> anyOffered(std::optional<Destination> standard, PrintError *error);
     PrintError refusal(const JobRequest &request);
     QString lockBroken(const JobRequest &request, const PpdDocument &ppd, const Policy::Rule &rule);
 

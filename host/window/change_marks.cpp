@@ -138,10 +138,18 @@ void ChangeMarks::watch(QWidget *widget)
 
 QWidget *ChangeMarks::controlOf(const QString &key)
 {
+    return controlsOf(key).value(0);
+}
+
+QList<QWidget *> ChangeMarks::controlsOf(const QString &key)
+{
     findControls();
-    const auto control = std::find_if(m_controls.begin(), m_controls.end(),
-                                      [&](const Control &c) { return c.widget && c.keys.contains(key); });
-    return control == m_controls.end() ? nullptr : control->widget;
+    QList<QWidget *> controls;
+    for (const Control &control : std::as_const(m_controls)) {
+        if (control.widget && control.keys.contains(key))
+            controls.append(control.widget);
+    }
+    return controls;
 }
 
 void ChangeMarks::refresh()

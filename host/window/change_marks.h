@@ -33,8 +33,9 @@ public:
 
     // Looks for controls that have come, and at what has changed.
     void refresh();
-    // The control of a setting, or null.
+    // The control of a setting, or null; and all of them.
     QWidget *controlOf(const QString &key);
+    QList<QWidget *> controlsOf(const QString &key);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -12,6 +12,7 @@
 #include "host/session/session_history.h"
 #include "host/window/change_marks.h"
 #include "host/window/general_page.h"
+#include "host/window/locked_controls.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
 #include "host/window/page_list.h"
@@ -172,7 +173,21 @@ void PageBook::makeFrame(Page *page)
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
+    if (page->panel >= 0)
+        lockControls(*page);
     m_stack->addWidget(page->frame);
+}
+
+// A choice that gets past that goes back; see DialogSession.
+void PageBook::lockControls(const Page &page)
+{
+    QList<QWidget *> controls;
+    for (const QString &keyword : m_session->panelKeywords(page.panel)) {
+        if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+            controls += page.marks->controlsOf(keyword);
+    }
+    if (!controls.isEmpty())
+        new LockedControls(controls, Policy::current().attribution(), page.frame);
 }
 
 QWidget *PageBook::contentOf(const Page &page)

@@ -98,6 +98,7 @@ private:
     void addPage(const QString &title, const QString &name, int panel = -1);
     void makeFrame(Page *page);
     QWidget *contentOf(const Page &page);
+    void lockControls(const Page &page);
     const Page *pageAt(int row) const;
     bool leave();
     void followFocus(QWidget *now);

@@ -30,12 +30,14 @@ private Q_SLOTS:
     void errorsNameTheLine();
     void batchObeys_data();
     void batchObeys();
+    void saysThatItOffersNone_data();
+    void saysThatItOffersNone();
     void lockedChoiceNeedsItsCode();
     void dialogShowsWhatIsLocked();
     void panelKeepsWhatIsLocked();
 
 private:
-    static Policy lay(const char *json) // down, for this test
+    static Policy lay(const QByteArray &json) // down, for this test
     {
         QString error;
         const auto policy = Policy::parse(json, u"policy.json"_s, &error);
@@ -156,6 +158,38 @@ void PolicyTest::batchObeys()
     QCOMPARE(sentValue(sent, u"Duplex"_s), sides);
 }
 
+void PolicyTest::saysThatItOffersNone_data()
+{
+    QTest::addColumn<bool>("hasDefault");
+    QTest::addColumn<QByteArray>("queues");
+    QTest::addColumn<QString>("said");
+    const QString none =
+        u"The rules in policy.json offer none of the printers that have been set up. Set by the administrator."_s;
+    QTest::newRow("none") << true << "nowhere"_ba << none;
+    QTest::newRow("none, and no default") << false << "nowhere"_ba << none;
+    QTest::newRow("one, and no default") << false << "attic"_ba << u"no such printer"_s;
+}
+
+// With a default printer or without one; nobody has named a printer.
+void PolicyTest::saysThatItOffersNone()
+{
+    QFETCH(bool, hasDefault);
+    QFETCH(QByteArray, queues);
+    QFETCH(QString, said);
+    for (Destination &printer : m_system.printers)
+        printer.isDefault = printer.isDefault && hasDefault;
+    PolicyPrintSystem system(m_system, {}, lay("{\"queues\": [\"" + queues + "\"]}"));
+    QCOMPARE(print(system, m_none, {}), 1);
+    QVERIFY2(m_said.contains(said.toUtf8()), m_said.constData());
+    PrintTask task;
+    task.files = {m_document.fileName()};
+    m_window = std::make_unique<PrintWindow>(system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    QTRY_VERIFY(m_window->session() ? queues == "attic" : shows(said));
+}
+
 void PolicyTest::lockedChoiceNeedsItsCode()
 {
     useFamily();
@@ -190,7 +224,8 @@ void PolicyTest::dialogShowsWhatIsLocked()
     QVERIFY(!m_window->session()->markChoice(u"Duplex"_s, u"None"_s));
 }
 
-// On the page of a panel that is the printer's own the choice goes back, and the panel says so.
+// On the page of a panel that is the printer's own the control is grey; where the choice comes about all the
+// same it goes back, and the window says so.
 void PolicyTest::panelKeepsWhatIsLocked()
 {
     useFamily();
@@ -211,6 +246,9 @@ void PolicyTest::panelKeepsWhatIsLocked()
     auto *panel = session->panel(mode)->keyValueObject();
     QCOMPARE(panel->valueForKey(u"PrintMode"_s), u"Private"_s);
     QVERIFY(shows(u"Fixed: "_s));
+    const auto *box = find<platform::ChoiceBox>(u"printModePopUp"_s);
+    QVERIFY(box && !box->isEnabled());
+    QVERIFY2(box->toolTip().contains(u"Set by the administrator."_s), qPrintable(box->toolTip()));
     panel->setValueForKey(u"Normal"_s, u"PrintMode"_s);
     QTRY_COMPARE(panel->valueForKey(u"PrintMode"_s), u"Private"_s);
     QVERIFY(find<MessageBar>()->text().contains(u"Set by the administrator."_s));
