@@ -28,6 +28,10 @@ _kelmar_print()
         _filedir -d
         return
         ;;
+    --output)
+        _filedir pdf
+        return
+        ;;
     --screenshot)
         _filedir png
         return

@@ -19,6 +19,7 @@ _arguments -s \
     '*--ask[the same with the value asked for on the terminal]:key' \
     '*-o[the same; unknown names go to the print system]:name=value' \
     '--batch[print without opening a window]' \
+    '--output[write the pages into a PDF file instead of printing them]:file:_files -g "*.pdf"' \
     '--resolve[accept the proposal when settings cannot be used together]' \
     '--summary[write the summary of the settings]' \
     '--list-options[write the options of the printer and their choices]' \

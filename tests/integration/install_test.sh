@@ -10,7 +10,9 @@ cmake --install "$1" --prefix "$prefix" >/dev/null
 summary=$(env -u LD_LIBRARY_PATH "$prefix/bin/kelmar-print" --ppd "$1/ppds/kelm880.ppd" --summary \
     --set DeptCode=True --set departmentCode=01230)
 grep -q '(01230)' <<<"$summary" || { echo "$summary" && exit 1; }
-[ -f "$prefix/share/man/man1/kelmar-print.1" ]
+scripts=$(dirname "$0")/../../scripts
+"$scripts/lib/options-offered" "$prefix/bin/kelmar-print" "$prefix/share/bash-completion/completions/kelmar-print" \
+    "$prefix/share/zsh/site-functions/_kelmar-print" "$prefix"/share/man/{,de/,es/,fr/,it/,ja/}man1/kelmar-print.1
 for file in dbus-1/services/org.kelmar.Print1.service kelmar-print/queue/{kelmar-dialog.ppd,policy.conf} \
     xdg-desktop-portal/portals/00-kelmar.portal kio/servicemenus/org.kelmar.Print.desktop Thunar/sendto/org.kelmar.Print.desktop; do
     [ -f "$prefix/share/$file" ] || { echo "$file is missing" && exit 1; }
