@@ -348,6 +348,14 @@ void PageBook::showChanges()
         m_pages[static_cast<size_t>(m_current)].marks->refresh();
 }
 
+void PageBook::openViewOf(QWidget *control)
+{
+    const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
+    auto *views = panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panel(panel));
+    if (views)
+        views->showViewOf(control);
+}
+
 void PageBook::leadTo(const QString &key)
 {
     const int row = rowOf(key);
@@ -355,6 +363,8 @@ void PageBook::leadTo(const QString &key)
     if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
         return;
     QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
+    if (control)
+        openViewOf(control);
     if (control && control->isEnabled())
         control->setFocus(Qt::ShortcutFocusReason);
     else

@@ -186,6 +186,9 @@ void FindSettingTest::leadsToTheSetting_data()
                                << u"Save toner"_s;
     QTest::newRow("what a tool tip says") << u"charged to"_s << u"Print Mode › Department Code"_s
                                           << u"com.kelmar.pde.print-mode"_s << u"Department code"_s;
+    QTest::newRow("a view that is not open")
+        << u"reload from printer"_s << u"Color Settings 1 › Reload from Printer"_s << one
+        << u"Reload from Printer"_s;
     QTest::newRow("other options") << u"punch"_s << u"More Options › Hole Punch"_s << u"more"_s
                                    << u"Hole Punch"_s;
 }
