@@ -88,10 +88,6 @@ void PageBook::setDocuments(DocumentChoice *documents)
     m_preview = new PreviewPane(documents, m_area);
     m_preview->hide();
     m_area->layout()->addWidget(m_preview);
-    connect(m_preview, &PreviewPane::documentPagesChanged, this, [this] {
-        if (m_general)
-            m_general->setPageCount(m_preview->documentPages());
-    });
 }
 
 void PageBook::beginPreview()
@@ -188,8 +184,6 @@ QWidget *PageBook::contentOf(const Page &page)
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
-        if (m_preview)
-            m_general->setPageCount(m_preview->documentPages());
         return m_general;
     }
     if (page.name == moreName) {
