@@ -24,6 +24,7 @@ namespace host {
 class AccessKeys;
 class DialogButton;
 class DialogWaiter;
+class EarlierJobs;
 class Finder;
 class GreyedChoices;
 class HeldSignals;
@@ -165,6 +166,7 @@ private:
     void showResult();
     void showJob(const JobStatus &status);
     void changeJob(JobAction action);
+    std::function<JobStatus()> statusQuery() const;
     void printAgain();
     QString documentNames() const;
 
@@ -219,6 +221,7 @@ private:
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
     JobFollower *m_follower;
+    EarlierJobs *m_earlier = nullptr; // made when there is one
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
