@@ -27,6 +27,7 @@ class DialogWaiter;
 class EarlierJobs;
 class Finder;
 class GreyedChoices;
+class GuideButtons;
 class HeldSignals;
 class HelpDesk;
 class JobFollower;
@@ -168,6 +169,7 @@ private:
     void changeJob(JobAction action);
     std::function<JobStatus()> statusQuery() const;
     void printAgain();
+    void showGuide();
     QString documentNames() const;
 
     PrintSystem &m_system;
@@ -225,6 +227,7 @@ private:
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
+    GuideButtons *m_guide = nullptr;          // made once the window can be seen
     NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;

@@ -11,6 +11,7 @@
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
 #include "host/window/earlier_jobs.h"
+#include "host/window/guide_buttons.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/pdf_saver.h"
@@ -153,6 +154,8 @@ void PrintWindow::showIdle()
         return;
     m_waiter->endActivity();
     m_waitSign->end();
+    if (m_guide)
+        m_guide->setVisible(m_state == State::Choosing);
     // The panel has to return first.
     QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
 }
