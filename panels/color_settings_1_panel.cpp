@@ -235,6 +235,19 @@ void QVPDEColorSettings1_M880::animateViewIn(QWidget *view)
         control->setFocus(Qt::OtherFocusReason);
 }
 
+bool QVPDEColorSettings1_M880::offersViewOf(const QWidget *control)
+{
+    return m_hasAdvanced || !m_advancedView->isAncestorOf(control);
+}
+
+void QVPDEColorSettings1_M880::showViewOf(QWidget *control)
+{
+    for (QWidget *view : {m_basicView, m_advancedView}) {
+        if (view->isAncestorOf(control) && view != m_currentView)
+            setCurrentView(view);
+    }
+}
+
 void QVPDEColorSettings1_M880::goToAdvanced(QWidget *)
 {
     animateViewIn(m_advancedView);

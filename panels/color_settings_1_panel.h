@@ -17,7 +17,7 @@ class QVPopUpButton_M880;
 // The panel "Color Settings 1": the basic colour options and, where the printer offers the image type
 // "Advanced", a second view with the colour profiles that the device holds. One of the two views is shown at
 // a time.
-class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880
+class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880, public platform::PanelViews
 {
     Q_OBJECT
     // Inner state is not stored: users and scripts do not set it by name.
@@ -59,6 +59,9 @@ public:
     // Switches to a view within half a second; it is the current view from the start. Does nothing for the
     // view that is current already.
     void animateViewIn(QWidget *view);
+    bool offersViewOf(const QWidget *control) override;
+    // Without moving anything: whoever is led to a control looks for it where it stays.
+    void showViewOf(QWidget *control) override;
     void goToAdvanced(QWidget *sender);
     void goBack(QWidget *sender);
     // The image type has changed.

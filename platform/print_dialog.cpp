@@ -13,6 +13,7 @@ BlockingWorkHost::~BlockingWorkHost() = default;
 PanelProblemHost::~PanelProblemHost() = default;
 PrintDialogPanel::~PrintDialogPanel() = default;
 PanelHelp::~PanelHelp() = default;
+PanelViews::~PanelViews() = default;
 PrintDialogExtension::~PrintDialogExtension() = default;
 
 BlockingWork::BlockingWork(PrintDialogHost *host, const QString &what)

@@ -94,17 +94,11 @@ QList<QImage> readPictures(const SharedFile &file)
 }
 
 Preview::Preview(const PageTools &tools, QObject *parent)
-    : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_documentCounter(nullptr),
-      m_counter(nullptr), m_pageRenderer(nullptr), m_thumbnailRenderer(nullptr), m_pages(pagesRoom),
-      m_thumbnails(thumbnailsRoom)
+    : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_counter(nullptr), m_pageRenderer(nullptr),
+      m_thumbnailRenderer(nullptr), m_pages(pagesRoom), m_thumbnails(thumbnailsRoom)
 {
-    connect(&m_maker, &PageMaker::documentMade, this, &Preview::documentMade);
     connect(&m_maker, &PageMaker::made, this, &Preview::made);
     connect(&m_maker, &PageMaker::failed, this, &Preview::fail);
-    connect(&m_documentCounter, &LimitedProcess::ended, this, [this](const SharedFile &output) {
-        m_documentFacts = readPageFacts(output);
-        Q_EMIT changed();
-    });
     connect(&m_counter, &LimitedProcess::ended, this, [this](const SharedFile &output) { counted(output); });
     connect(&m_pageRenderer, &LimitedProcess::ended, this, &Preview::keepPage);
     connect(&m_thumbnailRenderer, &LimitedProcess::ended, this, &Preview::keepThumbnails);
@@ -115,7 +109,7 @@ Preview::~Preview() = default;
 void Preview::setLimits(const LimitedProcess::Limits &limits)
 {
     m_maker.setLimits(limits);
-    for (LimitedProcess *process : {&m_documentCounter, &m_counter, &m_pageRenderer, &m_thumbnailRenderer})
+    for (LimitedProcess *process : {&m_counter, &m_pageRenderer, &m_thumbnailRenderer})
         process->setLimits(limits);
 }
 
@@ -126,7 +120,6 @@ void Preview::setDocument(const QString &path)
     stopAll();
     m_path = path;
     m_opened.reset();
-    m_documentFacts.reset();
     m_problem = QString();
     forgetPages();
     Q_EMIT changed();
@@ -175,14 +168,14 @@ void Preview::setWatched(bool watched)
         renderNext();
         return;
     }
-    m_isStale = m_isStale || m_maker.isRunning() || m_counter.isRunning() || m_documentCounter.isRunning();
+    m_isStale = m_isStale || m_maker.isRunning() || m_counter.isRunning();
     stopAll();
 }
 
 void Preview::stopAll()
 {
     m_maker.stop();
-    for (LimitedProcess *process : {&m_documentCounter, &m_counter, &m_pageRenderer, &m_thumbnailRenderer})
+    for (LimitedProcess *process : {&m_counter, &m_pageRenderer, &m_thumbnailRenderer})
         process->stop();
     m_pageUnderWay = m_thumbnailUnderWay = -1;
 }
@@ -200,11 +193,6 @@ void Preview::makePages()
     m_maker.make(m_opened->document, m_opened->file, m_settings);
 }
 
-void Preview::documentMade(const SharedFile &pdf)
-{
-    count(&m_documentCounter, pdf);
-}
-
 void Preview::made(const SharedFile &pdf, bool asPrinted)
 {
     const int thumbnail = m_wantedThumbnail;
@@ -214,7 +202,7 @@ void Preview::made(const SharedFile &pdf, bool asPrinted)
     m_isAsPrinted = asPrinted;
     m_wantedPage = m_lookedAt;
     m_wantedThumbnail = thumbnail;
-    count(&m_counter, pdf);
+    m_counter.start({m_tools.path(counter), {document}, pdf, {}, {QStringLiteral("LC_ALL=C.UTF-8")}});
     renderNext();
 }
 
@@ -236,11 +224,6 @@ void Preview::forgetPages()
     for (LimitedProcess *process : {&m_counter, &m_pageRenderer, &m_thumbnailRenderer})
         process->stop();
     m_wantedPage = m_wantedThumbnail = m_pageUnderWay = m_thumbnailUnderWay = -1;
-}
-
-void Preview::count(LimitedProcess *process, const SharedFile &pdf)
-{
-    process->start({m_tools.path(counter), {document}, pdf, {}, {QStringLiteral("LC_ALL=C.UTF-8")}});
 }
 
 void Preview::counted(const SharedFile &output)

@@ -44,7 +44,6 @@ public:
     void setWatched(bool watched);
 
     // Nil until known.
-    const std::optional<PageFacts> &documentFacts() const { return m_documentFacts; }
     const std::optional<PageFacts> &facts() const { return m_facts; }
     // False where the filter that lays pages out is missing: what is shown are the document's own.
     bool isAsPrinted() const { return m_isAsPrinted; }
@@ -74,10 +73,8 @@ private:
     };
     void opened(Opened opened);
     void makePages();
-    void documentMade(const SharedFile &pdf);
     void made(const SharedFile &pdf, bool asPrinted);
     void fail(const QString &reason);
-    void count(LimitedProcess *process, const SharedFile &pdf);
     void render(LimitedProcess *process, int first, int last, int pixels);
     void renderNext();
     void counted(const SharedFile &output);
@@ -89,7 +86,6 @@ private:
 
     PageTools m_tools;
     PageMaker m_maker;
-    LimitedProcess m_documentCounter;
     LimitedProcess m_counter;
     LimitedProcess m_pageRenderer;
     LimitedProcess m_thumbnailRenderer;
@@ -101,7 +97,7 @@ private:
     bool m_isWatched = false;
     bool m_isStale = true; // the pages are to be made anew
     bool m_isAsPrinted = true;
-    std::optional<PageFacts> m_documentFacts, m_facts;
+    std::optional<PageFacts> m_facts;
     QString m_problem;
     QCache<int, QImage> m_pages, m_thumbnails; // cost in kilobytes
     int m_lookedAt = -1;                       // the page that was asked for last

@@ -3,6 +3,7 @@
 
 #include "host/window/custom_editor.h"
 
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 
 #include <QComboBox>
@@ -69,6 +70,7 @@ CustomEditor::CustomEditor(const CustomChoice &custom, const QString &option, QW
     colourHint(false);
     m_grid->addWidget(m_hint, m_grid->rowCount(), 0, 1, 2);
     setFocusProxy(m_fields.first().widget);
+    setWhatsThis(explanationOf(QStringLiteral("custom")));
     setChoice(custom.current());
     setRanges();
 }

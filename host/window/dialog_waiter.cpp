@@ -48,6 +48,12 @@ bool isInput(QEvent::Type type)
     }
 }
 
+bool isTab(const QKeyEvent &key)
+{
+    return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) &&
+           !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
 // Widgets, windows of pop-ups, and shortcuts belong to what they have among their parents.
 bool isWithin(const QObject *object, const QObject *part)
 {
@@ -150,6 +156,13 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
         giveUp();
         return true;
     }
+    if (key && isTab(*key) && watched != m_dialog) {
+        QKeyEvent step(QEvent::KeyPress, key->key(), key->modifiers());
+        QCoreApplication::sendEvent(m_dialog, &step);
+        return true;
+    }
+    if (key && isTab(*key))
+        return false;
     return std::none_of(m_openParts.begin(), m_openParts.end(),
                         [watched](const QWidget *part) { return isWithin(watched, part); });
 }

@@ -39,6 +39,72 @@ constexpr std::array explanations{
                                             "Prints on both sides of the paper. The long edge is for pages "
                                             "that are turned like a book, the short edge for those turned "
                                             "like a calendar.")},
+    Explanation{"number-up",
+                QT_TRANSLATE_NOOP("Explanation", "How many pages of the document are put on one side of the "
+                                                 "paper. They are made smaller to fit.")},
+    Explanation{
+        "number-up-layout",
+        QT_TRANSLATE_NOOP("Explanation", "In which order the pages lie when several are put on one side.")},
+    Explanation{"page-border", QT_TRANSLATE_NOOP("Explanation", "A line around each page on the paper.")},
+    Explanation{"orientation-requested",
+                QT_TRANSLATE_NOOP("Explanation", "Whether the pages are printed upright or sideways. “As in "
+                                                 "the document” leaves that to the document.")},
+    Explanation{"print-scaling",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Whether pages are made larger or smaller until they fit the paper, "
+                                  "or keep their size. What does not fit at that size is cut off.")},
+    Explanation{"page-set",
+                QT_TRANSLATE_NOOP("Explanation", "Prints every other page only, such as to print on both "
+                                                 "sides by hand: first the odd pages, then the even ones.")},
+    Explanation{"outputorder",
+                QT_TRANSLATE_NOOP("Explanation", "Prints from the end, so that the pages lie in order where "
+                                                 "the printer puts each face up on the one before.")},
+    Explanation{"all-pages", QT_TRANSLATE_NOOP("Explanation", "Prints the whole document.")},
+    Explanation{"current-page",
+                QT_TRANSLATE_NOOP("Explanation", "Prints only the page that the program shows.")},
+    Explanation{"selection",
+                QT_TRANSLATE_NOOP("Explanation", "Prints only what is selected in the program.")},
+    Explanation{"documents",
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "The files that are printed, in this order. A file without a check mark is left out.")},
+    Explanation{
+        "save-pdf",
+        QT_TRANSLATE_NOOP(
+            "Explanation",
+            "Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.")},
+    Explanation{"preview",
+                QT_TRANSLATE_NOOP("Explanation", "What comes out of the printer, as far as it is known here. "
+                                                 "Choose a small page to see it large.")},
+    Explanation{"custom",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "A choice of your own. The line below it says what the printer takes.")},
+    Explanation{
+        "printer",
+        QT_TRANSLATE_NOOP(
+            "Explanation",
+            "The printer that the document is sent to. Its list can be searched for a name or a place.")},
+    Explanation{"presets",
+                QT_TRANSLATE_NOOP("Explanation", "Settings kept under a name, those used last, and the "
+                                                 "printer’s own. Choose them here, or keep those of now.")},
+    Explanation{"pages",
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "The pages of this dialog. A diamond marks those on which something has been changed.")},
+    Explanation{"cancel",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Closes this window. What has not been sent by then is not printed.")},
+    Explanation{"print",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Sends the document to the printer with the settings of all pages.")},
+    Explanation{
+        "cancel-job",
+        QT_TRANSLATE_NOOP("Explanation", "Stops the job. Pages that have been printed by then are there.")},
+    Explanation{"hold-job", QT_TRANSLATE_NOOP("Explanation",
+                                              "Lets the job wait at the print server until you release it.")},
+    Explanation{
+        "print-again",
+        QT_TRANSLATE_NOOP("Explanation", "Sends the same documents once more with the same settings.")},
 };
 
 } // namespace

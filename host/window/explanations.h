@@ -8,7 +8,8 @@
 namespace host {
 
 // "What is this?" of a setting that the host shows itself, by the keyword of its option or the name of its
-// job attribute: one or two sentences of plain text. Nil for options that only the printer's maker knows.
+// job attribute, or of another control by a name of this table: one or two sentences of plain text. Nil for
+// options that only the printer's maker knows.
 QString explanationOf(const QString &setting);
 
 } // namespace host

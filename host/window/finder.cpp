@@ -75,14 +75,18 @@ void Finder::addPages(SettingIndex *index) const
 {
     const PageBook *book = m_window->book();
     const DialogSession *session = m_window->session();
-    QHash<QString, const QWidget *> pages;
+    QHash<QString, platform::PrintDialogPanel *> panels;
     for (int i = 0; i < session->panelCount(); ++i)
-        pages.insert(session->panel(i)->panelKind(), session->panel(i)->panelView());
+        panels.insert(session->panel(i)->panelKind(), session->panel(i));
     for (int row = 0; row < book->list()->count(); ++row) {
         const QString name = book->nameOf(row);
-        const QWidget *page = pages.value(name, book->builtPage(row));
-        for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>())
-            index->addControl({name, found.keyword, found.name, {}, {}}, contextOf(found));
+        platform::PrintDialogPanel *panel = panels.value(name);
+        auto *views = dynamic_cast<platform::PanelViews *>(panel);
+        const QWidget *page = panel ? panel->panelView() : book->builtPage(row);
+        for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
+            if (!views || views->offersViewOf(found.control))
+                index->addControl({name, found.keyword, found.name, {}, {}}, contextOf(found));
+        }
     }
 }
 
@@ -127,8 +131,7 @@ void Finder::seek()
     if (!control)
         return;
     m_sought.reset();
-    if (!control->parentWidget()->isVisible()) // in a view of its panel that is not open
-        return;
+    book->openViewOf(control);
     control->show(); // a row that has just been built waits for its layout
     control->setFocus(Qt::OtherFocusReason);
     QTimer::singleShot(0, control, [page, control] {

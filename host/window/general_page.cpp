@@ -11,6 +11,7 @@
 #include "host/window/explanations.h"
 #include "host/window/layout_form.h"
 #include "host/window/option_form.h"
+#include "host/window/range_check.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -82,9 +83,38 @@ void GeneralPage::addLayout()
         Q_EMIT pagesChanged();
     });
     addSavePdf(grid);
+    explainParts();
+    addRangeCheck();
     grid->setRowStretch(grid->rowCount(), 1);
     settleLayout();
     Q_EMIT grown();
+}
+
+void GeneralPage::explainParts()
+{
+    m_copies->setWhatsThis(explanationOf(QStringLiteral("copies")));
+    m_collate->setWhatsThis(explanationOf(QStringLiteral("Collate")));
+    m_allPages->setWhatsThis(explanationOf(QStringLiteral("all-pages")));
+    for (QWidget *range : std::initializer_list<QWidget *>{m_somePages, m_pages})
+        range->setWhatsThis(explanationOf(QStringLiteral("page-ranges")));
+    for (const auto &[part, button] : std::as_const(m_parts))
+        button->setWhatsThis(explanationOf(part == GeneralSettings::Part::Selection
+                                               ? QStringLiteral("selection")
+                                               : QStringLiteral("current-page")));
+}
+
+void GeneralPage::addRangeCheck()
+{
+    if (!m_documents || m_documents->paths().isEmpty())
+        return;
+    m_rangeCheck = new RangeCheck(m_session, m_documents, this);
+    const auto checkAgain = [this] {
+        if (m_somePages->isChecked())
+            pagesEdited();
+    };
+    connect(m_rangeCheck, &RangeCheck::known, this, checkAgain);
+    connect(m_documents, &DocumentChoice::includedChanged, this, checkAgain);
+    checkAgain();
 }
 
 void GeneralPage::addDocuments(QGridLayout *grid)
@@ -92,6 +122,7 @@ void GeneralPage::addDocuments(QGridLayout *grid)
     if (!m_documents || m_documents->paths().size() < 2)
         return;
     m_documentBox = new DocumentBox(m_documents, this);
+    m_documentBox->setWhatsThis(explanationOf(QStringLiteral("documents")));
     auto *label = new QLabel(tr("Documents:"), this);
     label->setBuddy(m_documentBox);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
@@ -106,6 +137,7 @@ void GeneralPage::addSavePdf(QGridLayout *grid)
     auto *button = new QPushButton(tr("Save as PDF…"), this);
     button->setAutoDefault(false);
     button->setToolTip(tr("Write the pages into a file instead of printing them"));
+    button->setWhatsThis(explanationOf(QStringLiteral("save-pdf")));
     grid->addWidget(button, grid->rowCount(), 1, Qt::AlignLeading);
     connect(button, &QPushButton::clicked, this, &GeneralPage::savePdfWanted);
 }
@@ -117,8 +149,6 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_copies->setAccelerated(true);
     m_copies->setMinimumWidth(90);
     m_copies->setAccessibleName(tr("Copies"));
-    m_copies->setWhatsThis(explanationOf(QStringLiteral("copies")));
-    m_collate->setWhatsThis(explanationOf(QStringLiteral("Collate")));
     m_collate->setChecked(m_session->general().collate);
     enableCollate();
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
@@ -152,7 +182,6 @@ void GeneralPage::addPages(QGridLayout *grid)
     const QString pages = m_session->general().pages;
     m_pages->setPlaceholderText(tr("for example 1-3, 8"));
     m_pages->setAccessibleName(tr("Pages to print"));
-    m_pages->setWhatsThis(explanationOf(QStringLiteral("page-ranges")));
     m_pages->setText(pages);
     m_allPages->setChecked(pages.isEmpty());
     m_somePages->setChecked(!pages.isEmpty());
@@ -208,13 +237,6 @@ void GeneralPage::showSides()
     m_sides->setVisible(pages > 1 && m_somePages->isChecked());
 }
 
-void GeneralPage::setPageCount(int pages)
-{
-    m_pageCount = m_documents && m_documents->paths().size() == 1 ? pages : 0;
-    if (m_somePages->isChecked())
-        pagesEdited();
-}
-
 void GeneralPage::pagesEdited()
 {
     const QString text = pagesProblem();
@@ -246,23 +268,8 @@ QString GeneralPage::pagesProblem() const
     if (m_pages->text().trimmed().isEmpty())
         return tr("Type which pages are to be printed, or choose all.");
     QString problem;
-    (void)normalizedPageRanges(m_pages->text(), &problem);
-    return problem.isEmpty() ? rangesProblem() : problem;
-}
-
-// A range that begins behind the last page prints nothing.
-QString GeneralPage::rangesProblem() const
-{
-    const int pagesPerSide = m_session->general().layout.pagesPerSide;
-    const int last = (m_pageCount + pagesPerSide - 1) / pagesPerSide;
-    QString ignored;
-    const QString ranges = normalizedPageRanges(m_pages->text(), &ignored).value_or(QString());
-    for (const QString &range : ranges.split(QLatin1Char(','))) {
-        if (m_pageCount > 0 && range.section(QLatin1Char('-'), 0, 0).toInt() > last)
-            return pagesPerSide > 1 ? tr("There are only %1 printed sides.").arg(last)
-                                    : tr("The document has only %1 pages.").arg(last);
-    }
-    return {};
+    const auto ranges = normalizedPageRanges(m_pages->text(), &problem);
+    return ranges && m_rangeCheck ? m_rangeCheck->problem(*ranges) : problem;
 }
 
 void GeneralPage::showProblem()

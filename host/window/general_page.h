@@ -22,6 +22,7 @@ class DocumentBox;
 class DocumentChoice;
 class LayoutForm;
 class OptionForm;
+class RangeCheck;
 
 // What every printer can be asked: copies, pages, and of paper, tray and two-sided printing what its PPD has.
 // Writes to the session and the choice of documents at once; both are borrowed and outlive the page.
@@ -38,8 +39,6 @@ public:
     // Puts the cursor where the problem is.
     void showProblem();
     void refresh();
-    // How many pages the current document has; 0 while that is not known.
-    void setPageCount(int pages);
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
@@ -58,8 +57,9 @@ private:
     void addLayout();
     void settleLayout();
     void addSavePdf(QGridLayout *grid);
+    void explainParts();
+    void addRangeCheck();
     QRadioButton *addPart(GeneralSettings::Part part, const QString &text);
-    QString rangesProblem() const;
     void showSides();
     void addCopies(QGridLayout *grid);
     void enableCollate();
@@ -73,7 +73,7 @@ private:
     DialogSession *m_session;
     DocumentChoice *m_documents;
     DocumentBox *m_documentBox = nullptr; // null where there is no choice
-    int m_pageCount = 0;
+    RangeCheck *m_rangeCheck = nullptr;   // made after the first paint; null where nothing is printed
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QRadioButton *m_allPages;

@@ -4,6 +4,7 @@
 #include "host/window/layout_form.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/explanations.h"
 #include "platform/choice_box.h"
 
 #include <QCheckBox>
@@ -69,6 +70,7 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
     box->setMaximumWidth(mostWidth);
     box->setObjectName(name);
     box->setAccessibleName(label.chopped(1));
+    box->setWhatsThis(explanationOf(name));
     for (const QString &value : values)
         box->addItem(name == numberUp ? value : layoutValueText(name, value), value);
     box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
@@ -88,6 +90,7 @@ void LayoutForm::addReverse(QGridLayout *grid)
 {
     m_reverse = new QCheckBox(tr("Last page first"), grid->parentWidget());
     m_reverse->setObjectName(QStringLiteral("outputorder"));
+    m_reverse->setWhatsThis(explanationOf(QStringLiteral("outputorder")));
     grid->addWidget(m_reverse, grid->rowCount(), 1);
     connect(m_reverse, &QCheckBox::toggled, this, [this](bool on) {
         m_session->general().layout.isReversed = on;

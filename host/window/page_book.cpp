@@ -89,10 +89,6 @@ void PageBook::setDocuments(DocumentChoice *documents)
     m_preview = new PreviewPane(documents, m_area);
     m_preview->hide();
     m_area->layout()->addWidget(m_preview);
-    connect(m_preview, &PreviewPane::documentPagesChanged, this, [this] {
-        if (m_general)
-            m_general->setPageCount(m_preview->documentPages());
-    });
 }
 
 void PageBook::beginPreview()
@@ -203,8 +199,6 @@ QWidget *PageBook::contentOf(const Page &page)
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
-        if (m_preview)
-            m_general->setPageCount(m_preview->documentPages());
         return m_general;
     }
     if (page.name == moreName) {
@@ -363,6 +357,14 @@ void PageBook::showChanges()
         m_pages[static_cast<size_t>(m_current)].marks->refresh();
 }
 
+void PageBook::openViewOf(QWidget *control)
+{
+    const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
+    auto *views = panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panel(panel));
+    if (views)
+        views->showViewOf(control);
+}
+
 void PageBook::leadTo(const QString &key)
 {
     const int row = rowOf(key);
@@ -370,6 +372,8 @@ void PageBook::leadTo(const QString &key)
     if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
         return;
     QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
+    if (control)
+        openViewOf(control);
     if (control && control->isEnabled())
         control->setFocus(Qt::ShortcutFocusReason);
     else

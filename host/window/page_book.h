@@ -57,6 +57,8 @@ public:
     void refresh();
     // Marks what has changed.
     void showChanges();
+    // Makes a control of the current page visible that is in a view of its panel that is not open.
+    void openViewOf(QWidget *control);
     // Shows the control of a setting, or at least its page, and gives it the focus.
     void leadTo(const QString &key);
     // Moves `steps` pages on, as far as there are any.

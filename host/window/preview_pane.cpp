@@ -5,6 +5,7 @@
 
 #include "host/preview/preview.h"
 #include "host/session/document_choice.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/preview_sheet.h"
 #include "host/window/preview_strip.h"
@@ -57,6 +58,7 @@ void PreviewPane::begin(const PageTools &tools)
 
 void PreviewPane::build()
 {
+    setWhatsThis(explanationOf(QStringLiteral("preview")));
     m_sheet = new PreviewSheet(this);
     m_back = pageButton(Qt::LeftArrow, tr("Page before"), this);
     m_forth = pageButton(Qt::RightArrow, tr("Page after"), this);
@@ -105,11 +107,6 @@ void PreviewPane::setSettings(const PageSettings &settings, bool isTwoSided)
     m_caption->setText(caption());
 }
 
-int PreviewPane::documentPages() const
-{
-    return m_documentPages;
-}
-
 void PreviewPane::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
@@ -126,9 +123,6 @@ void PreviewPane::hideEvent(QHideEvent *event)
 
 void PreviewPane::factsChanged()
 {
-    const int pages = m_preview->documentFacts() ? m_preview->documentFacts()->pages : 0;
-    if (std::exchange(m_documentPages, pages) != pages)
-        Q_EMIT documentPagesChanged();
     const int count = m_preview->facts() ? m_preview->facts()->pages : 0;
     if (!m_preview->problem().isNull())
         m_sheet->showText(tr("No preview: %1.").arg(wrappable(m_preview->problem())));

@@ -30,13 +30,8 @@ public:
 
     void begin(const PageTools &tools);
     void setSettings(const PageSettings &settings, bool isTwoSided);
-    // How many pages the document itself has; 0 while that is not known.
-    int documentPages() const;
 
     QSize sizeHint() const override { return {240, 400}; }
-
-Q_SIGNALS:
-    void documentPagesChanged();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -56,7 +51,6 @@ private:
     bool m_isTwoSided = false;
     int m_page = 0; // from 0
     int m_count = 0;
-    int m_documentPages = 0;
     PreviewSheet *m_sheet = nullptr;
     QLabel *m_caption = nullptr;
     QToolButton *m_back = nullptr;

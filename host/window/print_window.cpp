@@ -14,6 +14,7 @@
 #include "host/window/focus_ring.h"
 #include "host/window/foreign_text.h"
 #include "host/window/greyed_choices.h"
+#include "host/window/guide_buttons.h"
 #include "host/window/help_desk.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
@@ -167,6 +168,8 @@ void PrintWindow::showState(State state)
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done && state != State::Sending);
     m_settings->setActive(state == State::Choosing);
+    if (m_guide)
+        m_guide->setVisible(state == State::Choosing);
     if (state == State::Choosing)
         m_stateTimer.start(betweenStates);
     else
@@ -351,6 +354,7 @@ void PrintWindow::finishLater()
     loadPrinterList();
     checkDocuments();
     m_book->beginPreview();
+    showGuide();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
 }

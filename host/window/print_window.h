@@ -24,8 +24,10 @@ namespace host {
 class AccessKeys;
 class DialogButton;
 class DialogWaiter;
+class EarlierJobs;
 class Finder;
 class GreyedChoices;
+class GuideButtons;
 class HeldSignals;
 class HelpDesk;
 class JobFollower;
@@ -165,7 +167,9 @@ private:
     void showResult();
     void showJob(const JobStatus &status);
     void changeJob(JobAction action);
+    std::function<JobStatus()> statusQuery() const;
     void printAgain();
+    void showGuide();
     QString documentNames() const;
 
     PrintSystem &m_system;
@@ -219,9 +223,11 @@ private:
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
     JobFollower *m_follower;
+    EarlierJobs *m_earlier = nullptr; // made when there is one
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
+    GuideButtons *m_guide = nullptr;          // made once the window can be seen
     NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;

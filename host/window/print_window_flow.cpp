@@ -10,6 +10,8 @@
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
+#include "host/window/earlier_jobs.h"
+#include "host/window/guide_buttons.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/pdf_saver.h"
@@ -152,6 +154,8 @@ void PrintWindow::showIdle()
         return;
     m_waiter->endActivity();
     m_waitSign->end();
+    if (m_guide)
+        m_guide->setVisible(m_state == State::Choosing);
     // The panel has to return first.
     QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
 }
@@ -314,12 +318,10 @@ void PrintWindow::sent(Submission submission)
 
 void PrintWindow::showResult()
 {
-    const Destination destination = m_session->destination();
-    m_result->showSubmission(destination.displayName(), documentNames(), *m_submission);
+    m_result->showSubmission(m_session->destination().displayName(), documentNames(), *m_submission);
     if (m_submission->isAccepted() && !m_submission->job.status.isFinal())
-        m_follower->follow([&system = m_system, destination, id = m_submission->job.id] {
-            return system.jobStatus(destination, id);
-        });
+        m_follower->follow(statusQuery());
+    m_result->showEarlier(m_earlier ? m_earlier->lines() : QStringList());
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);
@@ -328,10 +330,19 @@ void PrintWindow::showResult()
     m_cancel->setFocus();
 }
 
+std::function<JobStatus()> PrintWindow::statusQuery() const
+{
+    return [&system = m_system, destination = m_session->destination(), id = m_submission->job.id] {
+        return system.jobStatus(destination, id);
+    };
+}
+
 // Whoever looks elsewhere is told once that the job is done, and once that it needs somebody.
 void PrintWindow::showJob(const JobStatus &status)
 {
     m_result->showStatus(status);
+    if (status.state != JobStatus::State::Unknown)
+        m_submission->job.status = status;
     const bool isNews = status.isFinal() || status.needsSomebody();
     if (!isNews)
         m_jobWasTold = false;
@@ -357,10 +368,21 @@ void PrintWindow::changeJob(JobAction action)
         });
 }
 
-// The same documents with the same settings, once more.
+// The same documents with the same settings, once more. What was sent before is still followed.
 void PrintWindow::printAgain()
 {
     m_follower->stop();
+    if (!m_earlier) {
+        m_earlier = new EarlierJobs(this);
+        connect(m_earlier, &EarlierJobs::changed, this,
+                [this] { m_result->showEarlier(m_earlier->lines()); });
+        connect(m_earlier, &EarlierJobs::ended, this, [this](const QString &line, const JobStatus &status) {
+            if (!isActiveWindow())
+                notifyDesktop(windowTitle(), line, status.state != JobStatus::State::Completed);
+        });
+    }
+    if (m_submission->isAccepted())
+        m_earlier->add(m_submission->job.id, m_submission->job.status, statusQuery());
     m_jobChange.drop();
     m_submission.reset();
     m_cancel->setText(tr("Cancel"));

@@ -5,7 +5,11 @@
 
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
+#include "host/window/dialog_waiter.h"
+#include "host/window/explanations.h"
 #include "host/window/finder.h"
+#include "host/window/guide_buttons.h"
+#include "host/window/help_desk.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/page_list.h"
@@ -68,11 +72,36 @@ void PrintWindow::build()
     setCompact(false);
 }
 
+// What nobody needs before the window can be seen: ways to help, and what its parts say of themselves.
+void PrintWindow::showGuide()
+{
+    if (m_guide)
+        return;
+    m_guide = new GuideButtons(this);
+    connect(m_guide, &GuideButtons::findWanted, m_finder, &Finder::open);
+    connect(m_guide, &GuideButtons::helpWanted, m_help, &HelpDesk::toggle);
+    // Its place is then taken by what is waited for.
+    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_guide, &QWidget::hide);
+    m_footer->insertWidget(0, m_guide);
+    m_guide->setVisible(m_state == State::Choosing && m_busyDepth == 0);
+    for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
+             {m_picker, QStringLiteral("printer")},
+             {m_settings->button(), QStringLiteral("presets")},
+             {m_book->list(), QStringLiteral("pages")},
+             {m_cancel, QStringLiteral("cancel")}})
+        part->setWhatsThis(explanationOf(setting));
+    if (!m_task.settingsOnly)
+        m_print->setWhatsThis(explanationOf(QStringLiteral("print")));
+    arrange();
+}
+
 void PrintWindow::arrange()
 {
-    chainTabOrder(QList<QWidget *>{m_picker} + m_finder->parts() +
-                  QList<QWidget *>{m_book->list(), m_book->pages(), m_unavailable, m_waiting, m_result, m_bar,
-                                   m_waitSign, m_cancel, m_print});
+    QList<QWidget *> parts{m_book->list(), m_book->pages(), m_unavailable, m_waiting, m_result, m_bar};
+    if (m_guide)
+        parts.append(m_guide);
+    chainTabOrder(QList<QWidget *>{m_picker} + m_finder->parts() + parts +
+                  QList<QWidget *>{m_waitSign, m_cancel, m_print});
     m_keys->assign();
     keepLabelsAligned(this);
     setCompact(height() < roomyLines * fontMetrics().height());

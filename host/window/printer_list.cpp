@@ -18,6 +18,24 @@ struct PrinterText
     Q_DECLARE_TR_FUNCTIONS(PrinterText)
 };
 
+QStringList stateParts(const Destination &printer)
+{
+    QStringList parts;
+    if (printer.stopped)
+        parts.append(PrinterText::tr("Stopped: jobs wait until it is started again"));
+    else if (!printer.accepting)
+        parts.append(PrinterText::tr("Not accepting jobs"));
+    else if (printer.isOnNetwork)
+        parts.append(PrinterText::tr("Found on the network"));
+    else
+        parts.append(PrinterText::tr("Ready"));
+    if (!printer.location.isEmpty())
+        parts.append(printer.location);
+    if (!printer.makeAndModel.isEmpty())
+        parts.append(printer.makeAndModel);
+    return parts;
+}
+
 } // namespace
 
 void PrinterList::setPrinters(QList<Destination> printers, const QStringList &recent)
@@ -88,6 +106,8 @@ QVariant PrinterList::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(printer);
     case DetailRole:
         return oneLine(printerStateText(printer));
+    case Qt::AccessibleTextRole:
+        return oneLine((QStringList(printer.displayName()) + stateParts(printer)).join(QStringLiteral(", ")));
     case SearchRole:
         return QStringList{printer.name(), printer.info, printer.location, printer.makeAndModel}
             .join(QLatin1Char('\n'))
@@ -99,20 +119,7 @@ QVariant PrinterList::data(const QModelIndex &index, int role) const
 
 QString printerStateText(const Destination &printer)
 {
-    QStringList parts;
-    if (printer.stopped)
-        parts.append(PrinterText::tr("Stopped: jobs wait until it is started again"));
-    else if (!printer.accepting)
-        parts.append(PrinterText::tr("Not accepting jobs"));
-    else if (printer.isOnNetwork)
-        parts.append(PrinterText::tr("Found on the network"));
-    else
-        parts.append(PrinterText::tr("Ready"));
-    if (!printer.location.isEmpty())
-        parts.append(printer.location);
-    if (!printer.makeAndModel.isEmpty())
-        parts.append(printer.makeAndModel);
-    return parts.join(QStringLiteral("  ·  "));
+    return stateParts(printer).join(QStringLiteral("  ·  "));
 }
 
 void PrinterSearch::setWords(const QString &text)

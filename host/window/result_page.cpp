@@ -4,11 +4,12 @@
 #include "host/window/result_page.h"
 
 #include "host/window/announced.h"
+#include "host/window/centred_label.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -37,15 +38,6 @@ StatusGlyph::Kind kindOf(const JobStatus &status)
     }
 }
 
-QLabel *centredLabel(QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 ResultPage::ResultPage(QWidget *parent)
@@ -70,6 +62,8 @@ ResultPage::ResultPage(QWidget *parent)
 // Made when there is a job to do something to.
 void ResultPage::buildActions()
 {
+    m_earlier = centredLabel(this);
+    m_earlier->hide();
     m_problem = centredLabel(this);
     m_problem->hide();
     m_cancelJob = new QPushButton(tr("Cancel &Job"), this);
@@ -79,6 +73,9 @@ void ResultPage::buildActions()
     row->setContentsMargins(0, 12, 0, 0);
     row->setSpacing(10);
     row->addStretch();
+    m_cancelJob->setWhatsThis(explanationOf(QStringLiteral("cancel-job")));
+    m_hold->setWhatsThis(explanationOf(QStringLiteral("hold-job")));
+    m_again->setWhatsThis(explanationOf(QStringLiteral("print-again")));
     for (QPushButton *button : {m_cancelJob, m_hold, m_again}) {
         button->setAutoDefault(false);
         row->addWidget(button);
@@ -86,8 +83,9 @@ void ResultPage::buildActions()
     row->addStretch();
     auto *column = static_cast<QVBoxLayout *>(layout());
     const int end = column->count() - 1; // before the stretch
-    column->insertWidget(end, m_problem);
-    column->insertLayout(end + 1, row);
+    column->insertWidget(end, m_earlier);
+    column->insertWidget(end + 1, m_problem);
+    column->insertLayout(end + 2, row);
     connect(m_cancelJob, &QPushButton::clicked, this, [this] { Q_EMIT actionWanted(JobAction::Cancel); });
     connect(m_hold, &QPushButton::clicked, this,
             [this] { Q_EMIT actionWanted(m_holds ? JobAction::Hold : JobAction::Release); });
@@ -151,6 +149,14 @@ void ResultPage::showActions(const JobStatus &status)
             m_again->setFocus();
         button->setVisible(isUseful);
     }
+}
+
+void ResultPage::showEarlier(const QStringList &lines)
+{
+    if (!m_earlier)
+        return;
+    m_earlier->setText(wrappable((QStringList(tr("Sent before:")) + lines).join(QLatin1Char('\n'))));
+    m_earlier->setVisible(!lines.isEmpty());
 }
 
 void ResultPage::showProblem(const QString &text)

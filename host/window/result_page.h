@@ -25,6 +25,8 @@ public:
     void showSubmission(const QString &printer, const QString &documents, const Submission &submission);
     // News of the job.
     void showStatus(const JobStatus &status);
+    // What has become of the jobs before it, in lines; for a page that shows one.
+    void showEarlier(const QStringList &lines);
     QString text() const;
     // What could not be done to the job.
     void showProblem(const QString &text);
@@ -44,6 +46,7 @@ private:
     QLabel *m_documents;
     QLabel *m_state;
     QLabel *m_notes;
+    QLabel *m_earlier = nullptr;
     QLabel *m_problem = nullptr;
     QPushButton *m_cancelJob = nullptr;
     QPushButton *m_hold = nullptr;

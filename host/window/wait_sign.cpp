@@ -3,6 +3,7 @@
 
 #include "host/window/wait_sign.h"
 
+#include "host/window/announced.h"
 #include "host/window/dialog_button.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ WaitSign::WaitSign(QWidget *parent)
     : QWidget(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
       m_stop(new DialogButton(tr("Do &Not Wait"), this))
 {
+    makeAnnounced(this);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_bar->setRange(0, 0); // moves without telling how far
@@ -45,16 +47,19 @@ void WaitSign::begin(const QString &what)
     m_text->setText(what);
 }
 
+// What is over at once is not read out.
 void WaitSign::offerStop()
 {
     m_bar->show();
     m_stop->show();
+    announce(this, m_text->text());
 }
 
 void WaitSign::end()
 {
     QApplication::restoreOverrideCursor();
     m_text->clear();
+    setAccessibleName(QString());
     m_bar->hide();
     m_stop->hide();
 }

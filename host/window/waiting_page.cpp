@@ -3,7 +3,9 @@
 
 #include "host/window/waiting_page.h"
 
-#include <QLabel>
+#include "host/window/announced.h"
+#include "host/window/centred_label.h"
+
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
@@ -18,21 +20,13 @@ namespace {
 constexpr int barWidth = 260; // pixels
 constexpr int steps = 1000;   // of the bar, so that files of any size fit its numbers
 
-QLabel *centredLabel(QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 WaitingPage::WaitingPage(QWidget *parent)
     : QWidget(parent), m_text(centredLabel(this)), m_amount(centredLabel(this)),
       m_bar(new QProgressBar(this)), m_cancel(new QPushButton(this))
 {
+    makeAnnounced(this);
     QFont large = m_text->font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_text->setFont(large);
@@ -59,7 +53,7 @@ void WaitingPage::setTask(const QString &text, const QString &cancel)
     m_text->setText(text);
     m_cancel->setText(cancel);
     m_cancel->setEnabled(true);
-    setAccessibleName(text);
+    announce(this, text);
     setProgress(0, 0);
 }
 
@@ -79,7 +73,7 @@ void WaitingPage::setProgress(qint64 done, qint64 total)
 void WaitingPage::setCancelling(const QString &text)
 {
     m_text->setText(text);
-    setAccessibleName(text);
+    announce(this, text);
     m_cancel->setEnabled(false);
 }
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void keepsInputFromTheDialog();
     void givesUp_data();
     void givesUp();
+    void tabLeadsToTheWayOut();
     void startsAfreshWithTheNextActivity();
     void manyShortCallsAreOneLongWait();
     void questionGetsItsInput();
@@ -99,6 +100,24 @@ void DialogWaiterTest::givesUp()
             m_dialog->close();
     }));
     QCOMPARE(m_dialog->isVisible(), way != 2);
+}
+
+void DialogWaiterTest::tabLeadsToTheWayOut()
+{
+    QList<QWidget *> way;
+    QVERIFY(!waitWhile([&] {
+        for (const auto &[key, modifiers] : {std::pair(Qt::Key_Tab, Qt::NoModifier),
+                                             {Qt::Key_Tab, Qt::ShiftModifier},
+                                             {Qt::Key_Space, Qt::NoModifier},
+                                             {Qt::Key_Tab, Qt::NoModifier}}) {
+            QTest::keyClick(m_dialog->focusWidget(), key, modifiers);
+            way.append(m_dialog->focusWidget());
+        }
+        QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Space);
+        m_waiter->giveUp(); // whatever has the focus
+    }));
+    QCOMPARE(way, QList<QWidget *>({m_giveUp, m_field, m_field, m_giveUp}));
+    QVERIFY(m_field->text().isEmpty());
 }
 
 void DialogWaiterTest::startsAfreshWithTheNextActivity()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/preview/page_counter.h"
 #include "host/preview/pdf_writer.h"
 #include "host/preview/preview.h"
 
@@ -123,8 +124,10 @@ void PreviewTest::showsWhatIsPrinted()
     preview.setDocument(demo(document));
     QVERIFY(preview.page(0).isNull());
     QTRY_COMPARE(made.count(), 1);
-    QTRY_VERIFY2(preview.documentFacts() && preview.facts(), qPrintable(preview.problem()));
-    QCOMPARE(preview.documentFacts()->pages, pages);
+    QTRY_VERIFY2(preview.facts(), qPrintable(preview.problem()));
+    PageCounter counter(PageTools::installed());
+    counter.count({demo(document)}, settings);
+    QTRY_COMPARE(counter.pagesOf(demo(document)), pages);
     QCOMPARE(preview.facts()->pages, sides);
     const QImage page = preview.page(0);
     QCOMPARE(qMax(page.width(), page.height()), Preview::pagePixels);
@@ -283,8 +286,8 @@ void PreviewTest::writesPdf()
     Preview preview(PageTools::installed());
     preview.setWatched(true);
     preview.setDocument(target);
-    QTRY_VERIFY(preview.documentFacts());
-    QCOMPARE(preview.documentFacts()->pages, 2);
+    QTRY_VERIFY(preview.facts());
+    QCOMPARE(preview.facts()->pages, 2);
 }
 
 void PreviewTest::keepsWhatItCannotReplace()

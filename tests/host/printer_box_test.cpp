@@ -5,6 +5,7 @@
 #include "host/window/printer_list.h"
 #include "tests/host/host_fixture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -46,6 +47,9 @@ void PrinterBoxTest::findsEveryWordAnywhere()
     box.showPopup();
     QTest::keyClicks(box.searchField(), QStringLiteral("room 655"));
     QCOMPARE(box.listView()->model()->rowCount(), 1);
+    const QString read =
+        QAccessible::queryAccessibleInterface(box.listView())->child(0)->text(QAccessible::Name);
+    QVERIFY2(read.startsWith(QStringLiteral("Copier 655, Ready, Floor 6, Room 655")), qPrintable(read));
     QTest::keyClicks(box.searchField(), QStringLiteral(" q655 COPIER"));
     QTest::keyClick(box.searchField(), Qt::Key_Return);
     QCOMPARE(activated.count(), 1);

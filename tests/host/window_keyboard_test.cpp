@@ -10,6 +10,8 @@
 #include "host/window/page_list.h"
 #include "host/window/result_page.h"
 #include "host/window/status_glyph.h"
+#include "host/window/wait_sign.h"
+#include "host/window/waiting_page.h"
 #include "platform/text_field.h"
 #include "tests/host/window_fixture.h"
 
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void secondClickDoesNotCloseTheResult();
     void resultNamesEverything_data();
     void resultNamesEverything();
+    void waitingIsReadOut();
     void errorBelongsToItsField();
     void colorsStandOut_data();
     void colorsStandOut();
@@ -177,6 +180,21 @@ void WindowKeyboardTest::resultNamesEverything()
     QVERIFY2(page.text().contains(text) && page.text().contains(u"“one.pdf”, “two.pdf”"_s),
              qPrintable(page.text()));
     QCOMPARE(page.findChild<StatusGlyph *>()->kind(), sign);
+}
+
+void WindowKeyboardTest::waitingIsReadOut()
+{
+    WaitingPage page;
+    page.setTask(u"Asking the print server…"_s, u"Do Not Wait"_s);
+    WaitSign sign;
+    sign.begin(u"Asking the printer…"_s);
+    sign.offerStop();
+    for (const auto &[widget, text] : {std::pair<QWidget *, QString>(&page, u"Asking the print server…"_s),
+                                       {&sign, u"Asking the printer…"_s}}) {
+        QCOMPARE(QAccessible::queryAccessibleInterface(widget)->role(), QAccessible::Notification);
+        QCOMPARE(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name), text);
+    }
+    sign.end();
 }
 
 void WindowKeyboardTest::errorBelongsToItsField()

@@ -1,20 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/batch/batch_run.h"
 #include "host/session/chosen_settings.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "platform/key_value_object.h"
-#include "tests/support/private_cupsd.h"
+#include "tests/integration/batch_call.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTest>
 
 using namespace host;
@@ -71,9 +67,7 @@ void ChosenSettingsTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
-    qputenv("HOME", m_server.folder().toLocal8Bit()); // libcups looks once, when it is first used
-    m_system.emplace();
-    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
     const QString ppds = QStringLiteral(KELMAR_BINARY_DIR "/ppds/");
     for (const QString &queue : {u"office"_s, u"second"_s, u"admin"_s})
         QVERIFY2(m_server.addQueue(queue, ppds + u"kelm880.ppd"_s), qPrintable(m_server.problem()));
@@ -89,17 +83,7 @@ void ChosenSettingsTest::cleanup()
 
 int ChosenSettingsTest::run(const QStringList &words)
 {
-    QString problem;
-    const auto arguments = parseArguments(QStringList({u"kelmar-print"_s, u"--json"_s}) + words, &problem);
-    if (!arguments)
-        return -1;
-    QBuffer out, err;
-    out.open(QIODevice::WriteOnly);
-    err.open(QIODevice::WriteOnly);
-    ResultWriter writer(&out, &err);
-    const int code = BatchRun(*arguments, *m_system, m_extensions).run(&writer);
-    m_json = QJsonDocument::fromJson(out.data()).object();
-    return code;
+    return callBatch(words, *m_system, m_extensions, &m_json);
 }
 
 QString ChosenSettingsTest::notices() const

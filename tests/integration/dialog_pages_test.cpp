@@ -7,18 +7,16 @@
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
-#include "tests/host/host_fixture.h"
+#include "tests/host/family_printer.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QTranslator>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -26,28 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
-
-QByteArray familyPpd()
-{
-    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// A window like one with a real queue, whose device nobody asks.
-class FamilyPrintSystem : public FakePrintSystem
-{
-public:
-    FamilyPrintSystem()
-    {
-        Destination office = officePrinter();
-        office.isDefault = true;
-        office.makeAndModel = u"KELMAR OrbM880Series"_s;
-        office.location = u"Second floor, beside the kitchen"_s;
-        office.deviceUri = u"file:/dev/null"_s;
-        printers = {office};
-        ppds.insert(u"office"_s, familyPpd());
-    }
-};
 
 QString nameOf(const QWidget *widget)
 {
@@ -89,11 +65,7 @@ void DialogPagesTest::initTestCase()
     m_language = qEnvironmentVariable("LANGUAGE").left(2);
     for (const QString &file : {QStringLiteral(KELMAR_BINARY_DIR "/host/kelmar-print_") + m_language,
                                 u"/usr/share/qt6/translations/qtbase_"_s + m_language}) {
-        auto *translator = new QTranslator(this);
-        if (translator->load(file))
-            QApplication::installTranslator(translator);
-        else if (m_language != u"en")
-            QFAIL(qPrintable(file));
+        QVERIFY2(speakCatalog(file, this) || m_language == u"en", qPrintable(file));
     }
 }
 

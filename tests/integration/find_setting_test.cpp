@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/session/chosen_settings.h"
+#include "host/window/guide_buttons.h"
 #include "host/window/help_desk.h"
 #include "host/window/help_page.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/page_controls.h"
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/search_bar.h"
 #include "platform/choice_box.h"
-#include "tests/host/host_fixture.h"
+#include "tests/host/family_printer.h"
 
 #include <QAccessible>
 #include <QDir>
@@ -34,12 +36,6 @@ constexpr qint64 answerTime = 1000; // milliseconds
 #else
 constexpr qint64 answerTime = 50;
 #endif
-
-QByteArray familyPpd()
-{
-    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QByteArray hugePpd()
 {
@@ -77,6 +73,7 @@ private Q_SLOTS:
     void greyedChoiceOfAPanelIsOffered();
     void protectionIsNotGivenUpSilently();
     void printsDespiteAConflict();
+    void buttonsForWhoKnowsNoKeys();
     void helpOfEveryPage();
     void helpSpeaksEveryLanguage();
     void controlsSayWhatTheyAreFor();
@@ -92,7 +89,7 @@ private:
     void pick(const QString &keyword, const QString &choice);
     QString barText() const { return m_window->messageBar()->text(); }
 
-    FakePrintSystem m_system;
+    FamilyPrintSystem m_system;
     Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
     std::unique_ptr<PrintWindow> m_window;
 };
@@ -104,18 +101,13 @@ void FindSettingTest::initTestCase()
 
 void FindSettingTest::init()
 {
-    open(familyPpd());
+    open(FamilyPrintSystem::familyPpd());
 }
 
 void FindSettingTest::open(const QByteArray &ppd)
 {
     m_window.reset();
-    m_system = FakePrintSystem();
-    Destination office = officePrinter();
-    office.isDefault = true;
-    office.deviceUri = u"file:/dev/null"_s;
-    m_system.printers = {office};
-    m_system.ppds.insert(u"office"_s, ppd);
+    m_system = FamilyPrintSystem(ppd);
     PrintTask task;
     task.files = {QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")};
     m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
@@ -186,6 +178,9 @@ void FindSettingTest::leadsToTheSetting_data()
                                << u"Save toner"_s;
     QTest::newRow("what a tool tip says") << u"charged to"_s << u"Print Mode › Department Code"_s
                                           << u"com.kelmar.pde.print-mode"_s << u"Department code"_s;
+    QTest::newRow("a view that is not open")
+        << u"reload from printer"_s << u"Color Settings 1 › Reload from Printer"_s << one
+        << u"Reload from Printer"_s;
     QTest::newRow("other options") << u"punch"_s << u"More Options › Hole Punch"_s << u"more"_s
                                    << u"Hole Punch"_s;
 }
@@ -316,6 +311,34 @@ void FindSettingTest::printsDespiteAConflict()
     QCOMPARE(sentValue(m_system.submitted.first().options, u"Duplex"_s), u"DuplexTumble"_s);
 }
 
+void FindSettingTest::buttonsForWhoKnowsNoKeys()
+{
+    m_window->finishLater();
+    auto *guide = m_window->findChild<GuideButtons *>();
+    QVERIFY(guide && guide->isVisible());
+    const QList<QPushButton *> buttons = guide->findChildren<QPushButton *>();
+    QCOMPARE(buttons.at(0)->toolTip(), u"Find a setting (Ctrl+F)"_s);
+    QCOMPARE(buttons.at(1)->toolTip(), u"Help on this page (F1)"_s);
+    box(u"PageSize"_s)->setFocus();
+    QTest::mouseClick(buttons.at(0), Qt::LeftButton);
+    QVERIFY(m_window->findChild<SearchBar *>()->field()->hasFocus());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+    QVERIFY(box(u"PageSize"_s)->hasFocus());
+    QTest::mouseClick(buttons.at(1), Qt::LeftButton);
+    QVERIFY(m_window->findChild<HelpPage *>()->isVisible());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+
+    buttons.at(0)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+    QVERIFY(buttons.at(1)->hasFocus());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
+    QVERIFY(m_window->findChild<HelpPage *>()->isVisible() && m_system.submitted.isEmpty());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+    QVERIFY(buttons.at(1)->hasFocus());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(qobject_cast<QPushButton *>(m_window->focusWidget())->text(), u"Cancel"_s);
+}
+
 void FindSettingTest::helpOfEveryPage()
 {
     QSet<QString> texts;
@@ -370,6 +393,14 @@ void FindSettingTest::helpSpeaksEveryLanguage()
 
 void FindSettingTest::controlsSayWhatTheyAreFor()
 {
+    QWidget *general = m_window->book()->builtPage(0);
+    QTRY_VERIFY(general->findChild<QWidget *>(u"page-set"_s)); // what comes after the first paint
+    for (const PageControl &found : controlsOf(general)) {
+        const QWidget *explained = found.control;
+        while (explained != general && explained->whatsThis().isEmpty())
+            explained = explained->parentWidget();
+        QVERIFY2(explained != general, qPrintable(found.name));
+    }
     m_window->book()->showPage(m_window->book()->pageNamed(u"print-mode"_s));
     platform::ChoiceBox *mode = box(u"PrintMode"_s);
     mode->setFocus();

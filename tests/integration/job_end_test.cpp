@@ -8,10 +8,13 @@
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
 #include <cups/cups.h>
+
+#include <algorithm>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -265,6 +268,10 @@ void JobEndTest::jobIsChangedFromTheResult()
     press(u"Print Again"_s);
     QTRY_VERIFY(window.submission() && window.submission()->job.id > first);
     QVERIFY(m_server.waitForJob(window.submission()->job.id));
+    const QList<QLabel *> labels = result->findChildren<QLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [first](const QLabel *label) {
+        return label->isVisible() && label->text().contains(u"Job %1: canceled"_s.arg(first));
+    }));
 }
 
 void JobEndTest::loginInTheWindow()

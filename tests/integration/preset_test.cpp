@@ -1,20 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/batch/batch_run.h"
 #include "host/printing/preset_store.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "platform/key_value_object.h"
-#include "tests/support/private_cupsd.h"
+#include "tests/integration/batch_call.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMenu>
 #include <QProcess>
 #include <QPushButton>
@@ -62,29 +58,15 @@ void PresetTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
-    // libcups looks once, when it is first used.
-    qputenv("HOME", m_server.folder().toLocal8Bit());
     qputenv("CUPS_SERVERROOT", m_server.folder().toLocal8Bit() + "/everybodys");
-    m_system.emplace();
-    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
+    QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"office"_s, QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd")),
              qPrintable(m_server.problem()));
 }
 
 int PresetTest::run(const QStringList &words)
 {
-    QString problem;
-    const auto arguments =
-        parseArguments(QStringList({u"kelmar-print"_s, u"--json"_s, u"-d"_s, u"office"_s}) + words, &problem);
-    if (!arguments)
-        return -1;
-    QBuffer out, err;
-    out.open(QIODevice::WriteOnly);
-    err.open(QIODevice::WriteOnly);
-    ResultWriter writer(&out, &err);
-    const int code = BatchRun(*arguments, *m_system, m_extensions).run(&writer);
-    m_json = QJsonDocument::fromJson(out.data()).object();
-    return code;
+    return callBatch(QStringList({u"-d"_s, u"office"_s}) + words, *m_system, m_extensions, &m_json);
 }
 
 QJsonObject PresetTest::preset(const QString &name)

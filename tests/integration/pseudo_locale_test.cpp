@@ -8,14 +8,13 @@
 #include "host/window/print_window.h"
 #include "host/window/search_bar.h"
 #include "platform/background.h"
-#include "tests/host/host_fixture.h"
+#include "tests/host/family_printer.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -25,7 +24,6 @@
 #include <QSlider>
 #include <QTest>
 #include <QTextDocumentFragment>
-#include <QTranslator>
 
 #include <algorithm>
 
@@ -35,12 +33,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString folder = QStringLiteral(KELMAR_BINARY_DIR "/tests/pseudo/");
-
-QByteArray familyPpd()
-{
-    QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool hasLetters(const QString &text)
 {
@@ -114,26 +106,20 @@ private:
     void checkMirrored();
     void takePicture(const QString &page) const;
 
-    FakePrintSystem m_system;
+    FamilyPrintSystem m_system;
     QStringList m_foreign; // texts of the PPD and the printer, the longest first
     std::unique_ptr<PrintWindow> m_window;
 };
 
 void PseudoLocaleTest::initTestCase()
 {
-    Destination office = officePrinter();
-    office.isDefault = true;
-    office.makeAndModel = u"KELMAR OrbM880Series"_s;
-    office.location = u"Second floor"_s;
-    office.deviceUri = u"file:/dev/null"_s;
-    m_system.printers = {office};
-    m_system.ppds.insert(u"office"_s, familyPpd());
     noteForeign();
 }
 
 void PseudoLocaleTest::noteForeign()
 {
-    const auto ppd = openPpd(familyPpd().mid(familyPpd().indexOf('\n') + 1));
+    const QByteArray family = FamilyPrintSystem::familyPpd();
+    const auto ppd = openPpd(family.mid(family.indexOf('\n') + 1));
     QVERIFY(ppd);
     for (const QString &keyword : ppd->optionKeywords()) {
         const auto option = ppd->option(keyword);
@@ -165,9 +151,8 @@ void PseudoLocaleTest::everyPage()
     QFETCH(const Qt::LayoutDirection, direction);
     QFETCH(const QString, scheme);
     const QString language = direction == Qt::RightToLeft ? folder + u"rtl/"_s : folder + u"ltr/"_s;
-    QTranslator texts;
-    QVERIFY(texts.load(language + u"kelmar-print_pseudo.qm"_s));
-    QApplication::installTranslator(&texts);
+    QObject texts;
+    QVERIFY(speakCatalog(language + u"kelmar-print_pseudo.qm"_s, &texts));
     applyColorScheme(scheme);
     QApplication::setLayoutDirection(direction);
     Extensions extensions({language + u"OrbM880.bundle"_s});

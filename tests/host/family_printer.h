@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "tests/host/host_fixture.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTranslator>
+
+// A print system with a printer of the family, as one with a real queue looks; its device nobody asks.
+class FamilyPrintSystem : public FakePrintSystem
+{
+public:
+    explicit FamilyPrintSystem(const QByteArray &ppd = familyPpd())
+    {
+        host::Destination office = officePrinter();
+        office.isDefault = true;
+        office.makeAndModel = QStringLiteral("KELMAR OrbM880Series");
+        office.location = QStringLiteral("Second floor, beside the kitchen");
+        office.deviceUri = QStringLiteral("file:/dev/null");
+        printers = {office};
+        ppds.insert(QStringLiteral("office"), ppd);
+    }
+    static QByteArray familyPpd()
+    {
+        QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+// Makes the program speak what a catalog holds for as long as the owner lives; false when it cannot be read.
+inline bool speakCatalog(const QString &file, QObject *owner)
+{
+    auto *translator = new QTranslator(owner);
+    return translator->load(file) && QCoreApplication::installTranslator(translator);
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/batch/batch_run.h"
+#include "tests/support/private_cupsd.h"
+
+#include <QBuffer>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <optional>
+
+// Starts a print server whose user has a home of their own, and what asks it. Before anything else uses
+// libcups, which looks for both once. False with the server's problem.
+inline bool startPrivately(PrivateCupsd &server, std::optional<host::CupsPrintSystem> *system)
+{
+    qputenv("HOME", server.folder().toLocal8Bit());
+    system->emplace();
+    return server.start();
+}
+
+// A batch run within this process: its exit code, -1 for words that are no call, and what it has written.
+inline int callBatch(const QStringList &words, host::PrintSystem &system, host::Extensions &extensions,
+                     QJsonObject *written)
+{
+    QString problem;
+    const auto arguments = host::parseArguments(
+        QStringList({QStringLiteral("kelmar-print"), QStringLiteral("--json")}) + words, &problem);
+    if (!arguments)
+        return -1;
+    QBuffer out, err;
+    out.open(QIODevice::WriteOnly);
+    err.open(QIODevice::WriteOnly);
+    host::ResultWriter writer(&out, &err);
+    const int code = host::BatchRun(*arguments, system, extensions).run(&writer);
+    *written = QJsonDocument::fromJson(out.data()).object();
+    return code;
+}
