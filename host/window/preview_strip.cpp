@@ -76,7 +76,6 @@ PreviewStrip::PreviewStrip(Preview *preview, QWidget *parent)
     setIconSize(smallSize);
     setSpacing(2);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setTabKeyNavigation(false);
