@@ -244,8 +244,10 @@ def job_ended(d):
 
 @step("opened-again")
 def opened_again(d):
-    return "kelmar-print -d office/%s opens with the preset: %s, %s pages per side" % (
-        PRESET, settings_are(d, PRESET), d.box(PER_SIDE).name)
+    shows(d, PER_SIDE, "4")
+    shows(d, BORDER, "Thin line")
+    return "kelmar-print -d office/%s opens with the preset: %s, 4 pages per side, thin line" % (
+        PRESET, settings_are(d, PRESET))
 
 
 @step("delete-preset")
@@ -258,7 +260,8 @@ def delete_preset(d):
 def preset_deleted(d):
     d.keys("alt+d")
     wait("the end of the preset", lambda: saved() is None)
-    return "Delete: %s" % settings_are(d, "Defaults")
+    shows(d, "Printer:", "office")
+    return "Delete: %s, and the printer is “%s” again" % (settings_are(d, "Defaults"), d.box("Printer:").name)
 
 
 def close(d, key, code):
