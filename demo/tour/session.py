@@ -233,5 +233,6 @@ class Program:
         try:
             wait("a steady picture", steady)
         finally:
-            with open(path, "wb") as file:
-                file.write(last)
+            if last:
+                with open(path, "wb") as file:
+                    file.write(last)
