@@ -23,8 +23,8 @@ QList<QWidget *> keyedWidgets(QWidget *part)
     all.prepend(part);
     for (QWidget *widget : std::as_const(all)) {
         const auto *label = qobject_cast<QLabel *>(widget);
-        const bool keyed =
-            label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        const bool keyed = label ? label->buddy() && !label->property(AccessKeys::keylessProperty).toBool()
+                                 : qobject_cast<QAbstractButton *>(widget) != nullptr;
         if (keyed && !widget->property(textProperty).toString().isEmpty())
             found.append(widget);
     }

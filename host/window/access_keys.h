@@ -20,6 +20,9 @@ class AccessKeys : public QObject
 {
     Q_OBJECT
 public:
+    // Set to true on a label that names its field and leaves the keys to others.
+    static constexpr const char *keylessProperty = "keyless";
+
     // Earlier parts have the first choice. They belong to the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);
 

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QScrollArea>
 
 namespace host {
 
@@ -15,6 +16,10 @@ const char *const announcedProperty = "kelmarAnnounced";
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
     auto *widget = qobject_cast<QWidget *>(object);
+    // Qt's own for a scroll area ends the program when it is asked for a child that it has not, and a reader
+    // may well ask for a scroll bar that has just gone.
+    if (qobject_cast<QScrollArea *>(widget))
+        return new QAccessibleWidget(widget, QAccessible::Pane);
     return widget && widget->property(announcedProperty).isValid()
                ? new QAccessibleWidget(widget, QAccessible::Notification)
                : nullptr;

@@ -15,6 +15,12 @@ DialogButton::DialogButton(const QString &text, QWidget *parent) : QPushButton(t
     setMinimumWidth(96);
 }
 
+// With air for the frame of the focus, which is drawn inside.
+QSize DialogButton::sizeHint() const
+{
+    return QPushButton::sizeHint().grownBy({4, 0, 4, 0});
+}
+
 void DialogButton::mousePressEvent(QMouseEvent *event)
 {
     if (m_deaf.hasExpired())

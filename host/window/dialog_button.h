@@ -22,6 +22,8 @@ public:
     // another; keys do.
     void ignoreMouseFor(std::chrono::milliseconds time) { m_deaf.setRemainingTime(time); }
 
+    QSize sizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override; // of a double click, too

@@ -4,6 +4,7 @@
 #include "host/window/layout_form.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/access_keys.h"
 #include "host/window/explanations.h"
 #include "platform/choice_box.h"
 
@@ -77,8 +78,8 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     // An access key for those that are wanted most: with the printer's own options there are too few letters.
-    if (name == numberUp || name == orientation)
-        text->setBuddy(box);
+    text->setProperty(AccessKeys::keylessProperty, name != numberUp && name != orientation);
+    text->setBuddy(box); // by which screen readers name the box
     const int row = grid->rowCount();
     grid->addWidget(text, row, 0);
     grid->addWidget(box, row, 1);

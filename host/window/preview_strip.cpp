@@ -6,6 +6,7 @@
 #include "host/preview/preview.h"
 
 #include <QAbstractListModel>
+#include <QPainter>
 #include <QPixmap>
 #include <QScrollBar>
 
@@ -41,13 +42,22 @@ public:
             return QString::number(index.row() + 1);
         if (role != Qt::DecorationRole)
             return {};
-        const QImage picture = m_preview->thumbnail(index.row());
-        return picture.isNull() ? m_blank
-                                : QPixmap::fromImage(picture.scaled(smallSize, Qt::KeepAspectRatio,
-                                                                    Qt::SmoothTransformation));
+        return canvas(m_preview->thumbnail(index.row()));
     }
 
 private:
+    // All of one size, so that the numbers below stand in a row whichever way up the pages are.
+    QPixmap canvas(const QImage &picture) const
+    {
+        QPixmap pixmap = m_blank;
+        if (picture.isNull())
+            return pixmap;
+        const QImage small = picture.scaled(smallSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        QPainter(&pixmap).drawImage((smallSize.width() - small.width()) / 2,
+                                    smallSize.height() - small.height(), small);
+        return pixmap;
+    }
+
     Preview *m_preview;
     QPixmap m_blank;
     int m_count = 0;
@@ -70,6 +80,8 @@ PreviewStrip::PreviewStrip(Preview *preview, QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setTabKeyNavigation(false);
     viewport()->setAutoFillBackground(false);
+    // Of several items that have changed the view itself paints only some anew.
+    connect(preview, &Preview::thumbnailsMade, viewport(), qOverload<>(&QWidget::update));
 }
 
 QSize PreviewStrip::sizeHint() const

@@ -49,6 +49,8 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 void PrinterPicker::setPrinters(const QList<Destination> &printers)
 {
     m_list->setPrinters(printers, RememberedPrinter().recent());
+    if (m_list->rowOf(m_current) < 0) // the preset is gone, and not its printer
+        m_current = m_current.section(QLatin1Char('/'), 0, 0);
     m_box->setCurrentIndex(m_list->rowOf(m_current));
 }
 
@@ -62,8 +64,11 @@ QComboBox *PrinterPicker::box() const
     return m_box;
 }
 
-void PrinterPicker::putPrinter(const Destination &printer)
+void PrinterPicker::putPrinter(const Destination &news)
 {
+    Destination printer = news;
+    if (printer.queue == m_current && m_list->rowOf(printer.name()) < 0)
+        printer.instance.clear(); // asked about before the preset was gone
     m_list->put(printer);
     if (printer.name() == m_current)
         describe(printer);

@@ -24,9 +24,10 @@ class PrinterPicker : public QWidget
 public:
     explicit PrinterPicker(QWidget *parent = nullptr);
 
+    // The whole list. Where the chosen one was a preset that is not in it, its printer is shown.
     void setPrinters(const QList<Destination> &printers);
     // One more printer, or news of one that is there.
-    void putPrinter(const Destination &printer);
+    void putPrinter(const Destination &news);
     // A printer that was found in the network.
     void putFound(const Destination &printer);
     // Whether more of them may come.

@@ -14,6 +14,8 @@ run_packages=(
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n
 )
+# What the tour of the demo works the dialog and looks at it with.
+tour_packages=(openbox xdotool imagemagick x11-xserver-utils)
 check_packages=(clang-format)
 room_packages=(mmdebstrap git ccache iproute2)
 # What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.

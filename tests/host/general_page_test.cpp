@@ -6,6 +6,8 @@
 #include "host/window/general_page.h"
 #include "host/window/message_bar.h"
 #include "host/window/preview_pane.h"
+#include "host/window/preview_sheet.h"
+#include "host/window/preview_strip.h"
 #include "tests/host/window_fixture.h"
 
 #include <QApplication>
@@ -15,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTemporaryDir>
 
 using namespace host;
@@ -39,6 +42,7 @@ private Q_SLOTS:
     void documentIsLeftOut();
     void rangeBeyondTheEnd_data();
     void rangeBeyondTheEnd();
+    void smallPagesAppear();
     void pdfIsWritten();
 
 private:
@@ -198,6 +202,26 @@ void GeneralPageTest::rangeBeyondTheEnd()
         auto *documents = page->findChild<QListWidget *>();
         documents->item(0)->setCheckState(Qt::Unchecked);
         QTRY_COMPARE(page->problem(), u"There are only 1 printed sides."_s);
+    }
+}
+
+// On the screen, not only where somebody asks for a picture of it.
+void GeneralPageTest::smallPagesAppear()
+{
+    if (!hasPreview())
+        QSKIP("cups-filters or poppler-utils is not installed");
+    openWith({report});
+    auto *strip = find<PreviewStrip>();
+    QTRY_VERIFY(strip && strip->model()->rowCount() == 2);
+    for (int row = 0; row < 2; ++row) {
+        const auto isThere = [&] {
+            const QWidget *view = strip->viewport();
+            const QRect item = strip->visualRect(strip->model()->index(row, 0));
+            const QPoint at = view->mapTo(m_window.get(), QPoint(item.center().x(), item.top() + 20));
+            const QPixmap point = m_window->screen()->grabWindow(m_window->winId(), at.x(), at.y(), 1, 1);
+            return point.toImage().pixel(0, 0) != m_window->palette().window().color().rgb();
+        };
+        QTRY_VERIFY2(isThere(), qPrintable(QString::number(row)));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/window/printer_box.h"
 #include "host/window/printer_list.h"
+#include "host/window/printer_picker.h"
 #include "tests/host/host_fixture.h"
 
 #include <QAccessible>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void findsEveryWordAnywhere();
     void putsRecentOnesFirst();
     void staysQuickWithManyPrinters();
+    void printerOutlivesItsPreset();
 
 private:
     static QList<Destination> building()
@@ -98,6 +100,18 @@ void PrinterBoxTest::staysQuickWithManyPrinters()
     QTest::keyClicks(box.searchField(), QStringLiteral("floor 6"));
     QCoreApplication::processEvents();
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void PrinterBoxTest::printerOutlivesItsPreset()
+{
+    PrinterPicker picker;
+    Destination preset = officePrinter();
+    preset.instance = QStringLiteral("draft");
+    picker.setCurrent(preset);
+    picker.setPrinters({officePrinter(), officePrinter(QStringLiteral("other"))});
+    picker.putPrinter(preset); // news that were asked for before
+    QCOMPARE(picker.box()->count(), 2);
+    QCOMPARE(picker.box()->currentText(), officePrinter().displayName());
 }
 
 QTEST_MAIN(PrinterBoxTest)

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void helpOfEveryPage();
     void helpSpeaksEveryLanguage();
     void controlsSayWhatTheyAreFor();
+    void readersFindTheirWay();
 
 private:
     void open(const QByteArray &ppd);
@@ -416,6 +417,21 @@ void FindSettingTest::controlsSayWhatTheyAreFor()
     };
     QVERIFY(shows());
     QTest::keyClick(mode, Qt::Key_Escape);
+}
+
+// A screen reader names a box by its label, and may ask an area that scrolls for what has just gone from it.
+void FindSettingTest::readersFindTheirWay()
+{
+    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-border"_s));
+    for (auto *choices : m_window->findChildren<platform::ChoiceBox *>()) {
+        if (choices->isVisible())
+            QVERIFY2(!QAccessible::queryAccessibleInterface(choices)->relations(QAccessible::Label).isEmpty(),
+                     qPrintable(choices->objectName() + u" has no label"_s));
+    }
+    for (auto *area : m_window->findChildren<QScrollArea *>()) {
+        QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(area);
+        QVERIFY(reader->child(0) && !reader->child(reader->childCount()));
+    }
 }
 
 QTEST_MAIN(FindSettingTest)

@@ -1,0 +1,328 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""A tour of the dialog: works kelmar-print on a display of its own as a user does, looks at what came of each step, and
+keeps a picture of it. Fails at the first step that did not do what it should.
+
+Usage: tour.py CUPS DOCUMENT PICTURES (scripts/demo --tour starts it, as a user with a home of its own)
+CUPS is the folder of the private print server, whose queue "office" is printed on; DOCUMENT has eight pages."""
+
+import os
+import re
+import shutil
+import subprocess
+import sys
+
+from session import Failed, Program, Session, wait
+
+CUPS, DOCUMENT, PICTURES = sys.argv[1:4]
+PRESETS = os.path.expanduser("~/.cups/lpoptions")  # where every program of the user looks for them
+PRESET = "Handout"
+PER_SIDE, BORDER, TYPE, SIDES = "Pages per side:", "Border:", "Paper Type:", "Two-Sided Printing:"
+TONER = "Save toner"
+STEPS = []
+
+
+def step(name):
+    def add(function):
+        STEPS.append((name, function))
+        return function
+    return add
+
+
+def expect(what, is_so):
+    if not is_so:
+        raise Failed(what)
+
+
+def shows(d, label, value):
+    wait("“%s” in the box “%s”" % (value, label), lambda: d.box(label).name == value)
+
+
+def settings_are(d, name):
+    return d.get("push button", "Settings: " + name + " ").name.strip()
+
+
+def pick_settings(d, entry):
+    d.pick(d.get("push button", "Settings:"), entry)
+
+
+def saved(preset=PRESET):
+    """The preset's options as other programs read them, or nothing."""
+    try:
+        with open(PRESETS) as file:
+            lines = file.read().splitlines()
+    except FileNotFoundError:
+        return None
+    return next((line.split(" ", 2)[2] for line in lines if line.split(" ")[1:2] == ["office/" + preset]), None)
+
+
+def wait_saved(option):
+    return wait("%s in %s" % (option, PRESETS), lambda: saved() if option in (saved() or "").split() else None)
+
+
+def go_to(d, page):
+    d.click(d.get("list item", page))
+    wait("the page “%s”" % page, lambda: d.now("label", page))
+
+
+@step("opened")
+def opened(d):
+    window = d.get("dialog", "Print “handout.pdf”")
+    return "kelmar-print -d office handout.pdf opened the window %s. Preview: %s" % (
+        window.name, d.says("Page 1 of 8"))
+
+
+@step("options")
+def options(d):
+    d.choose(PER_SIDE, "2")
+    shows(d, PER_SIDE, "2")
+    d.choose(BORDER, "Thin line")
+    shows(d, BORDER, "Thin line")
+    return "Chose 2 pages per side with a thin line around each. Preview: %s. %s" % (
+        d.says("Page 1 of 4"), settings_are(d, "Defaults (changed)"))
+
+
+@step("name-preset")
+def name_preset(d):
+    pick_settings(d, "Save As")
+    window = d.get("dialog", "Save Settings")
+    d.type(PRESET)
+    wait("the name in the field", lambda: any(
+        node.queryText().getText(0, -1) == PRESET for node in d.all("text", window)))
+    return "Settings, Save As: typed the name “%s”" % PRESET
+
+
+@step("preset-made")
+def preset_made(d):
+    d.keys("Return")
+    there = wait_saved("number-up=2")
+    return "Return: %s. ~/.cups/lpoptions has office/%s: %s" % (settings_are(d, PRESET), PRESET, there)
+
+
+@step("defaults")
+def defaults(d):
+    pick_settings(d, "Printer’s Defaults")
+    shows(d, PER_SIDE, "1")
+    shows(d, BORDER, "None")
+    return "%s: 1 page per side, no border. Preview: %s" % (
+        settings_are(d, "Printer’s Defaults"), d.says("Page 1 of 8"))
+
+
+@step("preset-applied")
+def preset_applied(d):
+    pick_settings(d, PRESET)
+    shows(d, PER_SIDE, "2")
+    shows(d, BORDER, "Thin line")
+    return "%s: 2 pages per side, thin line. Preview: %s" % (settings_are(d, PRESET), d.says("Page 1 of 4"))
+
+
+@step("preset-changed")
+def preset_changed(d):
+    d.choose(PER_SIDE, "4")
+    before = settings_are(d, PRESET + " (changed)")
+    pick_settings(d, "Save “%s”" % PRESET)
+    there = wait_saved("number-up=4")
+    return "Chose 4 pages per side (%s) and saved it: %s. The file now: %s" % (
+        before, settings_are(d, PRESET), there)
+
+
+@step("search")
+def search(d):
+    d.keys("ctrl+f")
+    d.focus_on("Find a setting")
+    d.type("toner")
+    found = d.get("list", "Settings found")
+    lines = [re.sub("\u200e", "", node.name) for node in d.all("list item", found)]
+    expect("Toner Save is not the first of %s" % lines, lines and "Toner Save" in lines[0])
+    return "Ctrl+F, typed “toner”. Found: %s" % "; ".join(lines)
+
+
+@step("found")
+def found(d):
+    d.keys("Return")
+    control = d.focus_on(TONER)
+    expect("the page is not shown", d.now("label", "Color Settings 1"))
+    return "Return: Color Settings 1 is open, the keyboard is on the %s “%s”" % (control.getRoleName(), control.name)
+
+
+def toner_is_saved(d, on):
+    wait("%s to be %s" % (TONER, "on" if on else "off"),
+         lambda: d.has(d.get("check box", TONER), "CHECKED") == on)
+
+
+@step("changed")
+def changed(d):
+    d.keys("space")
+    toner_is_saved(d, True)
+    return "Space: it is on, and marked: %s" % d.get("check box", TONER).description
+
+
+@step("changes")
+def changes(d):
+    go_to(d, "Summary")
+    box = d.get("check box", "Show changes only")
+    d.click(box)
+    line = d.says("Off → On")
+    return "Summary, “Show changes only”: %s" % line
+
+
+@step("undone")
+def undone(d):
+    d.keys("ctrl+z")
+    said = d.says("Nothing has been changed.")
+    go_to(d, "Color Settings 1")
+    toner_is_saved(d, False)
+    return "Ctrl+Z: the summary says “%s”, “Save toner” is off" % said
+
+
+@step("redone")
+def redone(d):
+    d.keys("ctrl+shift+z")
+    toner_is_saved(d, True)
+    return "Ctrl+Shift+Z: “Save toner” is on again"
+
+
+@step("conflict")
+def conflict(d):
+    go_to(d, "General")
+    d.choose(TYPE, "Thick Paper 1")
+    shows(d, TYPE, "Thick Paper 1")
+    d.choose(SIDES, "Long-Edge Binding")
+    said = d.says("is not available now")
+    expect("“%s” was taken without a question" % SIDES, d.box(SIDES).name == "Off")
+    return "Chose Thick Paper 1, then two-sided printing, which is greyed with it. %s. %s" % (
+        said, d.says("instead of"))
+
+
+@step("resolved")
+def resolved(d):
+    d.click(d.get("push button", "Change and Use It"))
+    shows(d, SIDES, "Long-Edge Binding")
+    shows(d, TYPE, "Plain Paper")
+    return "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper"
+
+
+@step("resolution-undone")
+def resolution_undone(d):
+    d.keys("ctrl+z")
+    shows(d, SIDES, "Off")
+    shows(d, TYPE, "Thick Paper 1")
+    return "Ctrl+Z takes both back at once: Off, Thick Paper 1"
+
+
+@step("resolution-redone")
+def resolution_redone(d):
+    d.keys("ctrl+shift+z")
+    shows(d, SIDES, "Long-Edge Binding")
+    shows(d, TYPE, "Plain Paper")
+    return "Ctrl+Shift+Z: Long-Edge Binding, Plain Paper"
+
+
+@step("preview")
+def preview(d):
+    before = d.says("Page 1 of 2")
+    expect("no front side in “%s”" % before, "Sheet 1, front" in before)
+    d.click(d.get("push button", "Page after"))
+    after = d.says("Page 2 of 2")
+    expect("no back side in “%s”" % after, "Sheet 1, back" in after)
+    return "The preview shows %s; “Page after”: %s" % (before, after)
+
+
+@step("sent")
+def sent(d):
+    d.keys("ctrl+p")
+    return "Ctrl+P: %s" % d.says("Sent to “office”")
+
+
+@step("job-ended")
+def job_ended(d):
+    job = wait("the end of the job", lambda: next(
+        (text for text in d.texts() if re.match(r"Job \d+: done", text)), None))
+    return "The job is followed to its end: %s" % job.replace("\n", ", ")
+
+
+@step("opened-again")
+def opened_again(d):
+    shows(d, PER_SIDE, "4")
+    shows(d, BORDER, "Thin line")
+    return "kelmar-print -d office/%s opens with the preset: %s, 4 pages per side, thin line" % (
+        PRESET, settings_are(d, PRESET))
+
+
+@step("delete-preset")
+def delete_preset(d):
+    pick_settings(d, "Delete “%s”" % PRESET)
+    return "Settings, Delete: %s" % d.says("Delete the preset")
+
+
+@step("preset-deleted")
+def preset_deleted(d):
+    d.keys("alt+d")
+    wait("the end of the preset", lambda: saved() is None)
+    shows(d, "Printer:", "office")
+    return "Delete: %s, and the printer is “%s” again" % (settings_are(d, "Defaults"), d.box("Printer:").name)
+
+
+def close(d, key, code):
+    d.keys(key)
+    wait("the end of the program", lambda: d.process.poll() is not None)
+    expect("the program ended with %s, not %s" % (d.process.returncode, code), d.process.returncode == code)
+
+
+def show_arrival():
+    """What reached the printer's backend: options, and the sides in the data."""
+    arguments = os.path.join(CUPS, "jobs", "1.args")
+    wait("the job at the printer's backend", lambda: os.path.exists(arguments))
+    with open(arguments) as file:
+        options = sorted(file.read().split("\0")[4].split())
+    print("== What reached the printer's backend")
+    for option in options:
+        print("   " + option)
+    for option in ("number-up=4", "page-border=single", "Duplex=DuplexNoTumble", "TonerSave=True", "MediaType=Plain"):
+        expect("%s has not reached the printer" % option, option in options)
+    with open(os.path.join(CUPS, "jobs", "1.data"), "rb") as file:
+        sides = len(re.findall(rb"^%%Page: ", file.read(), re.M))
+    print("   8 pages of the document on %d sides of %d sheet of paper" % (sides, (sides + 1) // 2))
+    expect("%d sides reached the printer, not 2" % sides, sides == 2)
+    others = [name for name in os.listdir(os.path.join(CUPS, "jobs")) if name.endswith(".args")]
+    expect("more than one job reached the printer: %s" % others, others == ["1.args"])
+
+
+def show_presets():
+    print("== The preset is gone")
+    seen = subprocess.run(["lpoptions", "-p", "office/" + PRESET], stdout=subprocess.PIPE, check=False).stdout.decode()
+    expect("lpoptions still has %s: %s" % (PRESET, seen), "number-up=4" not in seen)
+    expect("%s still has %s" % (PRESETS, PRESET), saved() is None)
+    print("   ~/.cups/lpoptions has no office/%s, and lpoptions -p office/%s names none of its options" % (
+        PRESET, PRESET))
+
+
+def run(session):
+    dialog = None
+    os.makedirs(PICTURES, exist_ok=True)
+    for number, (name, function) in enumerate(STEPS, 1):
+        if function is opened:
+            dialog = Program(session, [shutil.which("kelmar-print"), "-d", "office", DOCUMENT])
+        elif function is opened_again:
+            close(dialog, "Return", 0)
+            dialog = Program(session, [shutil.which("kelmar-print"), "-d", "office/" + PRESET, DOCUMENT])
+        file = "%02d-%s.png" % (number, name)
+        try:
+            said = function(dialog)
+        except Failed:
+            print("%02d %s FAILED; see %s" % (number, name, file))
+            raise
+        finally:
+            dialog.picture(os.path.join(PICTURES, file))
+        print("%02d %-17s %s" % (number, name, said), flush=True)
+    close(dialog, "Escape", 4)
+
+
+try:
+    with Session() as everything:
+        run(everything)
+        show_arrival()
+        show_presets()
+except Failed as failure:
+    sys.exit("tour: %s" % failure)
