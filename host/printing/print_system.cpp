@@ -247,7 +247,9 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
     Visit visit(this);
     ServerConnection server(visit.login());
     JobOnServer job;
-    JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
+    const auto result = JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
+    if (result == JobLookup::Result::NotThere)
+        job.status.state = JobStatus::State::Gone;
     if (job.status.state != JobStatus::State::Pending)
         return job.status;
     // Of a job that has not begun the server tells nothing about its printer.

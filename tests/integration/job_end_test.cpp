@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/printing/job_follower.h"
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void signalCancelsTheJob_data();
     void signalCancelsTheJob();
     void jobIsChangedFromTheResult();
+    void forgottenJob();
     void loginInTheWindow();
     void loginNobodyGives();
 
@@ -265,6 +267,31 @@ void JobEndTest::jobIsChangedFromTheResult()
     press(u"Print Again"_s);
     QTRY_VERIFY(window.submission() && window.submission()->job.id > first);
     QVERIFY(m_server.waitForJob(window.submission()->job.id));
+}
+
+// An administrator takes it out of the history while the dialog follows it.
+void JobEndTest::forgottenJob()
+{
+    QVERIFY(m_server.setPaused(u"other"_s, true));
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"other"_s;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.show();
+    QTRY_VERIFY(window.session());
+    window.print();
+    QTRY_VERIFY(window.submission());
+    auto *follower = window.findChild<JobFollower *>();
+    QVERIFY(follower->isFollowing());
+    QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);
+    const QString text = u"no longer knows it. It may have been printed; look at the printer."_s;
+    QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().endsWith(text), 10000);
+    QVERIFY(!follower->isFollowing());
+    QVERIFY(m_server.setPaused(u"other"_s, false));
 }
 
 void JobEndTest::loginInTheWindow()
