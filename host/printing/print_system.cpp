@@ -35,6 +35,7 @@ Destination fromCups(const cups_dest_t *record)
     destination.makeAndModel = optionOf(record, "printer-make-and-model");
     destination.deviceUri = optionOf(record, "device-uri");
     destination.printerUri = optionOf(record, "printer-uri-supported");
+    destination.isStateKnown = !optionOf(record, "printer-state").isEmpty();
     destination.accepting = optionOf(record, "printer-is-accepting-jobs") != QLatin1String("false");
     destination.stopped = optionOf(record, "printer-state").toInt() == IPP_PSTATE_STOPPED;
     for (int i = 0; i < record->num_options; ++i)
@@ -286,6 +287,7 @@ std::optional<Destination> CupsPrintSystem::withState(const Destination &destina
     if (!queue)
         return std::nullopt;
     Destination now = destination;
+    now.isStateKnown = true;
     now.accepting = queue->accepting;
     now.stopped = queue->stopped;
     return now;

@@ -11,6 +11,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <tuple>
+
 namespace host {
 
 PrinterPicker::PrinterPicker(QWidget *parent)
@@ -46,10 +48,24 @@ PrinterPicker::PrinterPicker(QWidget *parent)
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
 }
 
-void PrinterPicker::setPrinters(const QList<Destination> &printers)
+void PrinterPicker::setPrinters(const QList<Destination> &printers, const QStringList &recent)
 {
-    m_list->setPrinters(printers, RememberedPrinter().recent());
-    m_box->setCurrentIndex(m_list->rowOf(m_current));
+    if (m_isFixed)
+        return;
+    Destination chosen = m_list->at(m_list->rowOf(m_current));
+    m_list->setPrinters(printers, recent);
+    if (m_list->rowOf(m_current) < 0 && !chosen.queue.isEmpty()) {
+        chosen.isStateKnown = false; // the server says nothing of it
+        m_list->put(chosen);
+    }
+    showRow(m_list->rowOf(m_current));
+}
+
+void PrinterPicker::showRow(int row)
+{
+    m_box->setCurrentIndex(row);
+    if (row >= 0)
+        describe(m_list->at(row));
 }
 
 void PrinterPicker::addBeside(QWidget *widget)
@@ -64,6 +80,8 @@ QComboBox *PrinterPicker::box() const
 
 void PrinterPicker::putPrinter(const Destination &printer)
 {
+    if (m_isFixed)
+        return;
     m_list->put(printer);
     if (printer.name() == m_current)
         describe(printer);
@@ -71,7 +89,8 @@ void PrinterPicker::putPrinter(const Destination &printer)
 
 void PrinterPicker::putFound(const Destination &printer)
 {
-    m_list->putFound(printer);
+    if (!m_isFixed)
+        m_list->putFound(printer);
 }
 
 void PrinterPicker::setSearching(bool searching)
@@ -82,21 +101,26 @@ void PrinterPicker::setSearching(bool searching)
 void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
-    m_box->setCurrentIndex(m_list->put(printer));
-    describe(printer);
+    showRow(m_list->put(printer));
 }
 
-void PrinterPicker::setAwaited(const Destination &printer)
+void PrinterPicker::setAwaited(const QString &name)
 {
-    m_current = printer.name();
-    m_box->setCurrentIndex(m_list->put(printer));
-    m_state->showText(QString());
+    m_current = name;
+    int row = m_list->rowOf(name);
+    if (row < 0) {
+        Destination awaited;
+        std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
+        row = m_list->put(awaited);
+    }
+    showRow(row);
 }
 
 void PrinterPicker::setFixedText(const QString &text)
 {
     Destination fixed;
     fixed.info = text;
+    m_isFixed = true;
     m_list->setPrinters({fixed}, {});
     m_box->setCurrentIndex(0);
     m_box->setEnabled(false);

@@ -3,6 +3,7 @@
 
 #include "host/window/printer_box.h"
 #include "host/window/printer_list.h"
+#include "host/window/printer_picker.h"
 #include "tests/host/host_fixture.h"
 
 #include <QApplication>
@@ -21,6 +22,8 @@ private Q_SLOTS:
     void findsEveryWordAnywhere();
     void putsRecentOnesFirst();
     void staysQuickWithManyPrinters();
+    void chosenPrinterIsShown_data();
+    void chosenPrinterIsShown();
 
 private:
     static QList<Destination> building()
@@ -94,6 +97,44 @@ void PrinterBoxTest::staysQuickWithManyPrinters()
     QTest::keyClicks(box.searchField(), QStringLiteral("floor 6"));
     QCoreApplication::processEvents();
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void PrinterBoxTest::chosenPrinterIsShown_data()
+{
+    using Step = std::function<void(PrinterPicker *)>;
+    QTest::addColumn<QList<Step>>("steps");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("detail"); // how it begins
+    const QString office = officePrinter().info;
+    Destination stopped = officePrinter();
+    stopped.stopped = true;
+    const Step list = [](auto *picker) { picker->setPrinters(building(), {}); };
+    const Step with = [=](auto *picker) { picker->setPrinters(building() << stopped, {}); };
+    const Step await = [](auto *picker) { picker->setAwaited(QStringLiteral("office")); };
+    const Step choose = [](auto *picker) { picker->setCurrent(officePrinter()); };
+    const Step fix = [](auto *picker) { picker->setFixedText(QStringLiteral("x.ppd")); };
+    const Step found = [](auto *picker) { picker->putFound(officePrinter(QStringLiteral("found"))); };
+    const QString unknown = QStringLiteral("State not known");
+    QTest::newRow("asked for") << QList<Step>{await} << QStringLiteral("office") << unknown;
+    QTest::newRow("asked for, known") << QList<Step>{with, await} << office << QStringLiteral("Stopped");
+    QTest::newRow("asked for, not listed") << QList<Step>{await, list} << QStringLiteral("office") << unknown;
+    QTest::newRow("asked for, listed") << QList<Step>{await, with} << office << QStringLiteral("Stopped");
+    QTest::newRow("chosen, not listed") << QList<Step>{choose, list} << office << unknown;
+    QTest::newRow("chosen, listed") << QList<Step>{choose, with} << office << QStringLiteral("Stopped");
+    QTest::newRow("fixed, list late")
+        << QList<Step>{await, fix, list, found} << QStringLiteral("x.ppd") << unknown;
+}
+
+void PrinterBoxTest::chosenPrinterIsShown()
+{
+    QFETCH(QList<std::function<void(PrinterPicker *)>>, steps);
+    PrinterPicker picker;
+    for (const auto &step : steps)
+        step(&picker);
+    QTEST(picker.box()->currentText(), "name");
+    QFETCH(QString, detail);
+    const QString shown = picker.box()->currentData(PrinterList::DetailRole).toString();
+    QVERIFY2(shown.startsWith(detail), qPrintable(shown));
 }
 
 QTEST_MAIN(PrinterBoxTest)
