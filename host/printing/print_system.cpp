@@ -103,8 +103,11 @@ public:
     {
         const std::lock_guard lock(system->m_loginMutex);
         m_login = system->m_login;
+        m_refusals = system->m_refusals;
         if (m_login.prompt)
-            m_login.prompt = [system](const LoginQuestion &question) { return system->askOnce(question); };
+            m_login.prompt = [this](const LoginQuestion &question) {
+                return m_system->askOnce(*this, question);
+            };
     }
     ~Visit()
     {
@@ -117,10 +120,15 @@ public:
     Visit(const Visit &) = delete;
     Visit &operator=(const Visit &) = delete;
     LoginKeeper *login() { return &m_login; }
+    // The login that has been tried.
+    const std::optional<Login> &tried() const { return m_login.given; }
+    // Of people to answer, when it began.
+    int refusals() const { return m_refusals; }
 
 private:
     CupsPrintSystem *m_system;
     LoginKeeper m_login;
+    int m_refusals = 0;
 };
 
 void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
@@ -129,20 +137,24 @@ void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
     m_login.prompt = std::move(prompt);
 }
 
-// Who has answered one call need not answer the others that wait for it.
-std::optional<Login> CupsPrintSystem::askOnce(const LoginQuestion &question)
+// Who has answered one call, or does not want to, need not answer the others that were under way.
+std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQuestion &question)
 {
     const std::lock_guard asking(m_promptMutex);
     LoginPrompt prompt;
     {
         const std::lock_guard lock(m_loginMutex);
-        if (!question.again && m_login.given)
+        if (m_refusals > visit.refusals())
+            return std::nullopt;
+        if (m_login.given && m_login.given != visit.tried())
             return m_login.given;
         prompt = m_login.prompt;
     }
     const auto login = prompt ? prompt(question) : std::nullopt;
     const std::lock_guard lock(m_loginMutex);
     m_login.given = login;
+    if (!login)
+        ++m_refusals;
     return login;
 }
 

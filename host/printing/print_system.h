@@ -69,11 +69,12 @@ private:
     // Of a queue that must be there, or be made; nil with an error.
     std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
                                       PrintError *error);
-    std::optional<Login> askOnce(const LoginQuestion &question);
+    std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
-    std::mutex m_loginMutex;  // guards m_login
-    std::mutex m_promptMutex; // held while somebody is asked
+    std::mutex m_loginMutex; // guards the two that follow
     LoginKeeper m_login;
+    int m_refusals = 0;       // of people to answer
+    std::mutex m_promptMutex; // held while somebody is asked
     NetworkPrinters m_network;
 };
 

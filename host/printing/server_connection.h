@@ -22,6 +22,7 @@ struct Login
 {
     QString user;
     QString password;
+    bool operator==(const Login &) const = default;
 };
 
 struct LoginQuestion
