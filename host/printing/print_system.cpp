@@ -6,6 +6,7 @@
 #include "host/printing/cups_handles.h"
 #include "host/printing/ipp_query.h"
 #include "host/printing/job_submitter.h"
+#include "host/printing/preset_store.h"
 #include "host/printing/reasons.h"
 
 #include <QCoreApplication>
@@ -72,14 +73,6 @@ PrintError onlyOpensDialog(const Destination &destination)
         PrintError::Kind::NoSuchPrinter,
         PrintSystemText::tr("“%1” opens the print dialog and prints nothing itself; choose another printer.")
             .arg(destination.displayName())};
-}
-
-int collectDestination(void *list, unsigned, cups_dest_t *record)
-{
-    const Destination destination = fromCups(record);
-    if (!destination.opensDialog())
-        static_cast<QList<Destination> *>(list)->append(destination);
-    return 1;
 }
 
 // libcups does not tell a server that is away from one that has no printers.
@@ -160,14 +153,22 @@ std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQue
 
 std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *error)
 {
-    QList<Destination> list;
     Visit visit(this);
-    ServerConnection::askNobody();
-    // The server's own queues; searching the network would take a second and is the server's business.
-    cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collectDestination, &list);
-    if (const auto problem = list.isEmpty() ? problemOfServer(visit.login()) : std::nullopt) {
-        *error = *problem;
+    ServerConnection server(visit.login());
+    const auto queues = queryQueues(&server, error);
+    if (!queues)
         return std::nullopt;
+    PrintError ignored; // without presets there are still the queues
+    const auto presets = PresetStore().names(&ignored).value_or(PresetStore::Names());
+    QList<Destination> list;
+    for (const Destination &queue : *queues) {
+        if (queue.opensDialog())
+            continue;
+        list.append(queue);
+        for (const QString &name : presets.value(queue.queue.toLower())) {
+            list.append(queue);
+            list.last().instance = name;
+        }
     }
     return list;
 }

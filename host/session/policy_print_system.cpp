@@ -58,7 +58,7 @@ std::optional<Destination> PolicyPrintSystem::destination(const QString &name, P
     // Where nobody has asked for it, another one does as well.
     const auto offered = name.isEmpty() ? destinations(error) : std::nullopt;
     if (offered && !offered->isEmpty())
-        return offered->first();
+        return m_system.destination(offered->first().name(), error);
     *error = notOffered(m_policy, found->queue);
     return std::nullopt;
 }
