@@ -56,7 +56,8 @@ public:
 
     QVariant sendRequestWithSize(const SnmpOid *oid, size_t size);
     // One request after the other for `count` rows at most, up to the first that gives nil. The last element
-    // of `oid` is counted up with each row. Empty strings are left out. Nil instead of an empty list.
+    // of `oid` is counted up with each row. Empty strings are left out. Nil instead of an empty list, and
+    // when the user has given up before the end.
     std::optional<QVariantList> sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size, quint32 count);
     // The row (last element of its OID) of each value of the latest column read.
     const QList<quint32> &rowsOfLastColumn() const { return m_rowsOfLastColumn; }

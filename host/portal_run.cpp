@@ -182,7 +182,7 @@ int RequestRun::submit()
 bool RequestRun::send(const StoredJob &job, PrintError *error)
 {
     if (m_hasDisplay)
-        m_system.setLoginPrompt([](const LoginQuestion &question) { return askForLogin(question, nullptr); });
+        m_system.setLoginPrompt([](const LoginQuestion &question) { return askForLogin(question, {}); });
     const auto destination = m_system.destination(job.printer, error);
     DocumentList documents;
     if (!destination || !documents.open({documentPath()}, nullptr, error))
@@ -241,8 +241,9 @@ int RequestRun::openDialog()
     window.setWindowTitle(windowTitle());
     const ParentWindow parent(&window, textOf(m_request, "parent"),
                               m_request.value(QLatin1String("modal")).toBool());
-    m_system.setLoginPrompt(
-        [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
+    m_system.setLoginPrompt([parent = QPointer<QWidget>(&window)](const LoginQuestion &question) {
+        return askForLogin(question, parent);
+    });
     PrintError error;
     if (!window.open(&error)) {
         qWarning("%s", qPrintable(error.message));

@@ -95,8 +95,9 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         return applyAssignments(arguments, session, error);
     };
     PrintWindow window(system, extensions, task);
-    system.setLoginPrompt(
-        [&window](const LoginQuestion &question) { return askForLogin(question, &window); });
+    system.setLoginPrompt([parent = QPointer<QWidget>(&window)](const LoginQuestion &question) {
+        return askForLogin(question, parent);
+    });
     QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     PrintError error;

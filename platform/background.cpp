@@ -19,11 +19,51 @@ namespace {
 
 std::atomic<int> worksUnderWay{0};
 
-std::shared_ptr<Waiter> &currentWaiter()
+// Where work finds the waiter of its caller. The waiter belongs to that thread: work keeps no more of it than
+// this, which is silent once the scope has ended.
+class Bell
 {
-    thread_local std::shared_ptr<Waiter> waiter;
-    return waiter;
-}
+public:
+    explicit Bell(Waiter *waiter) : m_waiter(waiter) {}
+    void ring()
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_waiter)
+            m_waiter->wake();
+    }
+    void silence()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiter = nullptr;
+    }
+
+private:
+    std::mutex m_mutex;
+    Waiter *m_waiter; // guarded
+};
+
+} // namespace
+
+struct Waiter::Installed
+{
+    explicit Installed(std::shared_ptr<Waiter> installed)
+        : waiter(std::move(installed)), bell(std::make_shared<Bell>(waiter.get()))
+    {
+    }
+    ~Installed() { bell->silence(); }
+    Installed(const Installed &) = delete;
+    Installed &operator=(const Installed &) = delete;
+    static std::shared_ptr<Installed> &current()
+    {
+        thread_local std::shared_ptr<Installed> installed;
+        return installed;
+    }
+
+    const std::shared_ptr<Waiter> waiter;
+    const std::shared_ptr<Bell> bell;
+};
+
+namespace {
 
 // What a caller and its work share. Outlives a caller that gives up.
 struct CallState
@@ -59,23 +99,24 @@ void runDetached(std::function<void()> work, std::function<void()> afterwards)
 Waiter::~Waiter() = default;
 
 Waiter::Scope::Scope(std::shared_ptr<Waiter> waiter)
-    : m_previous(std::exchange(currentWaiter(), std::move(waiter)))
+    : m_previous(std::exchange(Installed::current(),
+                               waiter ? std::make_shared<Installed>(std::move(waiter)) : nullptr))
 {
 }
 
 Waiter::Scope::~Scope()
 {
-    currentWaiter() = std::move(m_previous);
+    Installed::current() = std::move(m_previous);
 }
 
 bool Background::call(std::function<void()> work)
 {
-    const std::shared_ptr<Waiter> waiter = currentWaiter();
-    if (!waiter) {
+    const std::shared_ptr<Waiter::Installed> installed = Waiter::Installed::current();
+    if (!installed) {
         work();
         return true;
     }
-    if (waiter->isGivenUp())
+    if (installed->waiter->isGivenUp())
         return false;
     auto state = std::make_shared<CallState>();
     runDetached(
@@ -86,11 +127,11 @@ bool Background::call(std::function<void()> work)
                 state->thrown = std::current_exception();
             }
         },
-        [state, waiter] {
+        [state, bell = installed->bell] {
             state->ended = true;
-            waiter->wake();
+            bell->ring();
         });
-    if (!waiter->wait([state] { return state->ended.load(); }))
+    if (!installed->waiter->wait([state] { return state->ended.load(); }))
         return false;
     if (state->thrown)
         std::rethrow_exception(state->thrown);
@@ -129,8 +170,8 @@ bool Background::call(std::function<void()> work, std::chrono::milliseconds limi
 
 bool Background::isGivenUp()
 {
-    const std::shared_ptr<Waiter> waiter = currentWaiter();
-    return waiter && waiter->isGivenUp();
+    const std::shared_ptr<Waiter::Installed> installed = Waiter::Installed::current();
+    return installed && installed->waiter->isGivenUp();
 }
 
 void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)

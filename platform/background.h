@@ -30,8 +30,10 @@ public:
     // Makes wait() look at `ended` again. Called from any thread.
     virtual void wake() = 0;
 
-    // Installs a waiter for the current thread while it lives. Scopes nest; the waiter outlives its scope,
-    // and is kept until no work that might wake it is under way.
+    struct Installed; // one scope's
+
+    // Installs a waiter for the current thread while it lives. Scopes nest. Work that ends after the scope
+    // wakes nobody, and keeps nothing of the waiter: that is let go of, and destroyed, on this thread.
     class KELMAR_PLATFORM_EXPORT Scope
     {
     public:
@@ -41,7 +43,7 @@ public:
         Scope &operator=(const Scope &) = delete;
 
     private:
-        std::shared_ptr<Waiter> m_previous;
+        std::shared_ptr<Installed> m_previous;
     };
 };
 

@@ -21,6 +21,7 @@ struct Destination
     QString deviceUri;
     QString printerUri; // the queue's own address on the print server
     bool isDefault = false;
+    bool isStateKnown = false; // whether the two that follow come from the print server
     bool accepting = true;
     bool stopped = false;
     bool isOnNetwork = false;       // announces itself there, and has a queue only while it is used
@@ -38,7 +39,8 @@ struct Destination
 // The queue and the instance of "queue/instance".
 std::pair<QString, QString> splitDestinationName(const QString &name);
 
-// Which printers were used lately, kept in the user's settings file.
+// Which printers were used lately, kept in the user's settings file. Every call reads or writes it, and may
+// block as long as the file system does.
 class RememberedPrinter
 {
 public:

@@ -4,6 +4,7 @@
 #include "host/printing/ipp_query.h"
 
 #include <array>
+#include <utility>
 
 namespace host {
 
@@ -30,6 +31,29 @@ void readDefaults(ipp_t *answer, QueueFacts *facts)
         const QString option = name.chopped(suffix.size());
         (facts->defaults.contains(option) ? facts->overruledDefaults : facts->defaults)
             .insert(option, valueText(a));
+    }
+}
+
+// What one attribute says about a queue.
+void readQueue(ipp_attribute_t *attribute, Destination *queue)
+{
+    if (ippGetGroupTag(attribute) != IPP_TAG_PRINTER)
+        return;
+    const QByteArray name = ippGetName(attribute);
+    for (const auto &[of, text] : {std::pair("printer-name", &queue->queue),
+                                   {"printer-info", &queue->info},
+                                   {"printer-location", &queue->location},
+                                   {"printer-make-and-model", &queue->makeAndModel},
+                                   {"device-uri", &queue->deviceUri},
+                                   {"printer-uri-supported", &queue->printerUri}}) {
+        if (name == of)
+            *text = valueText(attribute);
+    }
+    if (name == "printer-is-accepting-jobs")
+        queue->accepting = ippGetBoolean(attribute, 0) != 0;
+    if (name == "printer-state") {
+        queue->isStateKnown = true;
+        queue->stopped = ippGetInteger(attribute, 0) == IPP_PSTATE_STOPPED;
     }
 }
 
@@ -120,6 +144,42 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
     readDefaults(answer.get(), &facts);
     return facts;
+}
+
+std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintError *error)
+{
+    static const std::array<const char *, 8> wanted = {
+        "printer-name", "printer-info",          "printer-location",          "printer-make-and-model",
+        "device-uri",   "printer-uri-supported", "printer-is-accepting-jobs", "printer-state"};
+    IppPointer request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_ENUM, "printer-type", 0);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_ENUM, "printer-type-mask",
+                  CUPS_PRINTER_DISCOVERED);
+    const Reply reply = server->ask(std::move(request), "/");
+    const bool hasNone = reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND;
+    if (!reply.succeeded() && !hasNone) {
+        *error = reply.error({});
+        return std::nullopt;
+    }
+    QList<Destination> queues;
+    Destination queue;
+    const auto take = [&] {
+        const Destination whole = std::exchange(queue, {});
+        if (!whole.queue.isEmpty())
+            queues.append(whole);
+    };
+    ipp_t *answer = reply.message.get();
+    for (ipp_attribute_t *a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
+        if (ippGetName(a))
+            readQueue(a, &queue);
+        else
+            take(); // the next printer
+    }
+    take();
+    return queues;
 }
 
 QByteArray printerUriOfQueue(const QString &queue)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/printing/destination.h"
 #include "host/printing/server_connection.h"
 
 #include <QByteArray>
@@ -43,6 +44,9 @@ struct QueueFacts
 // Nil with an error when the server does not know the queue, which people call `name`, or does not answer.
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error);
+// The server's own queues, as they are now, in its order: without the user's settings, and without printers
+// that it has found in the network. Nil with an error when the server does not answer.
+std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintError *error);
 // "ipp://localhost/printers/NAME" with the name escaped.
 QByteArray printerUriOfQueue(const QString &queue);
 

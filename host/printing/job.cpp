@@ -36,6 +36,9 @@ QString JobStatus::text() const
         return JobText::tr("aborted by the print system");
     case State::Completed:
         return JobText::tr("done");
+    case State::Gone:
+        return JobText::tr(
+            "the print server no longer knows it. It may have been printed; look at the printer.");
     case State::Unknown:
         break;
     }
@@ -49,9 +52,9 @@ bool JobStatus::needsSomebody() const
 
 QString JobStatus::code() const
 {
-    static const std::array<const char *, 8> codes = {
+    static const std::array<const char *, 9> codes = {
         "unknown",  "pending", "pending-held", "processing", "processing-stopped",
-        "canceled", "aborted", "completed"};
+        "canceled", "aborted", "completed",    "unknown"};
     return QLatin1String(codes.at(static_cast<size_t>(state)));
 }
 

@@ -45,7 +45,8 @@ struct JobRequest
 // How a job is doing.
 struct JobStatus
 {
-    enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed };
+    // Gone: the server knows nothing of it any more, so nobody knows how it ended.
+    enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed, Gone };
     State state = State::Unknown;
     bool printerStopped = false; // it waits because its printer has been stopped
     QString message;             // why, for the user; may be empty

@@ -58,7 +58,9 @@ void JobFollower::answered(int round, const JobStatus &status)
 {
     if (round != m_round)
         return;
-    if (!status.isFinal())
+    if (status.isFinal())
+        stop();
+    else
         m_next.start(m_asked < quickQuestions ? atFirst : later);
     Q_EMIT changed(status);
 }

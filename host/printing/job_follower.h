@@ -14,7 +14,7 @@ namespace host {
 
 // Asks how a job is doing, beside the thread that it lives on, until the job has ended: every second at
 // first, every five seconds when the job takes longer, one request each time. A server that does not answer
-// is asked again.
+// is asked again; one that does not know the job any more is not.
 class JobFollower : public QObject
 {
     Q_OBJECT
@@ -27,6 +27,7 @@ public:
     void stop();
     // Asks now, as after something has been done to the job.
     void askSoon();
+    bool isFollowing() const { return m_query != nullptr; }
 
 Q_SIGNALS:
     void changed(const host::JobStatus &status);

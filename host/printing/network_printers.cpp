@@ -83,7 +83,7 @@ bool NetworkPrinters::makeQueue(const QString &queue)
             cupsAddOption(name, value.toUtf8().constData(), record->num_options, &record->options);
     ServerConnection::askNobody();
     std::array<char, HTTP_MAX_URI> resource{};
-    return HttpPointer(cupsConnectDest(record.get(), CUPS_DEST_FLAGS_NONE, ServerConnection::connectTime,
+    return HttpPointer(cupsConnectDest(record.get(), CUPS_DEST_FLAGS_NONE, ServerPatience().connectTime,
                                        nullptr, resource.data(), resource.size(), nullptr, nullptr)) !=
            nullptr;
 }

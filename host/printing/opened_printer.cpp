@@ -40,7 +40,7 @@ std::optional<Destination> firstDestination(PrintSystem &system, const QString &
         return std::nullopt;
     const auto all = system.destinations(error);
     if (all && !all->isEmpty())
-        return all->first();
+        return system.destination(all->first().name(), error);
     if (all)
         *error = {PrintError::Kind::NoPrinters, OpenText::tr("No printer has been set up.")};
     return std::nullopt;

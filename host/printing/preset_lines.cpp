@@ -4,6 +4,7 @@
 #include "host/printing/preset_lines.h"
 
 #include "host/printing/cups_handles.h"
+#include "host/printing/destination.h"
 
 #include <QCoreApplication>
 
@@ -170,6 +171,18 @@ QList<Preset> presetsIn(const QByteArray &content, const QString &queue)
         readOptions(line.options, &known->options);
     }
     return presets;
+}
+
+QMap<QString, QStringList> presetNamesIn(const QByteArray &content)
+{
+    QMap<QString, QStringList> names;
+    for (const Line &line : linesOf(content)) {
+        const auto [queue, name] = splitDestinationName(QString::fromUtf8(line.destination));
+        QStringList &known = names[queue.toLower()];
+        if (!name.isEmpty() && !known.contains(name, Qt::CaseInsensitive))
+            known.append(name);
+    }
+    return names;
 }
 
 std::optional<QByteArray> withPreset(const QByteArray &content, const QString &queue, const Preset &preset,

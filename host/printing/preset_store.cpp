@@ -197,7 +197,20 @@ PresetStore::Files PresetStore::filesOfLastUsed()
     return {{}, state + QStringLiteral("/kelmar-print/last-used"), false, 0600};
 }
 
+std::optional<PresetStore::Names> PresetStore::names(PrintError *error) const
+{
+    const auto content = contents(error);
+    return content ? std::optional(presetNamesIn(*content)) : std::nullopt;
+}
+
 std::optional<QList<Preset>> PresetStore::list(const QString &queue, PrintError *error) const
+{
+    const auto content = contents(error);
+    return content ? std::optional(presetsIn(*content, queue)) : std::nullopt;
+}
+
+// Of all files, one after the other.
+std::optional<QByteArray> PresetStore::contents(PrintError *error) const
 {
     QByteArray content;
     for (const QString &path : {m_files.everybodys, m_files.users}) {
@@ -210,7 +223,7 @@ std::optional<QList<Preset>> PresetStore::list(const QString &queue, PrintError 
             content += '\n';
         content += file->content;
     }
-    return presetsIn(content, queue);
+    return content;
 }
 
 QString PresetStore::fileOf(const QString &queue, const QString &name, PrintError *error) const

@@ -9,6 +9,7 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -45,6 +46,9 @@ public:
 
     explicit PresetStore(Files files = filesOfCups()) : m_files(std::move(files)) {}
 
+    // Of each queue that has any, by its name in lower case: libcups minds no case.
+    using Names = QMap<QString, QStringList>;
+    std::optional<Names> names(PrintError *error) const;
     // In the order of the files. Nil with an error when a file that is there cannot be read.
     std::optional<QList<Preset>> list(const QString &queue, PrintError *error) const;
     // Adds a preset, or takes the place of the one of that name. Empty options take it away.
@@ -57,6 +61,7 @@ public:
     static QString nameProblem(const QString &name);
 
 private:
+    std::optional<QByteArray> contents(PrintError *error) const;
     // Makes new content of the old; nil with an error for a change that cannot be made.
     using Change = std::function<std::optional<QByteArray>(const QByteArray &content, PrintError *error)>;
     static bool change(const QString &path, unsigned mode, const Change &change, PrintError *error);

@@ -6,6 +6,7 @@
 #include "host/printing/cups_handles.h"
 #include "host/printing/ipp_query.h"
 #include "host/printing/job_submitter.h"
+#include "host/printing/preset_store.h"
 #include "host/printing/reasons.h"
 
 #include <QCoreApplication>
@@ -35,6 +36,7 @@ Destination fromCups(const cups_dest_t *record)
     destination.makeAndModel = optionOf(record, "printer-make-and-model");
     destination.deviceUri = optionOf(record, "device-uri");
     destination.printerUri = optionOf(record, "printer-uri-supported");
+    destination.isStateKnown = !optionOf(record, "printer-state").isEmpty();
     destination.accepting = optionOf(record, "printer-is-accepting-jobs") != QLatin1String("false");
     destination.stopped = optionOf(record, "printer-state").toInt() == IPP_PSTATE_STOPPED;
     for (int i = 0; i < record->num_options; ++i)
@@ -73,14 +75,6 @@ PrintError onlyOpensDialog(const Destination &destination)
             .arg(destination.displayName())};
 }
 
-int collectDestination(void *list, unsigned, cups_dest_t *record)
-{
-    const Destination destination = fromCups(record);
-    if (!destination.opensDialog())
-        static_cast<QList<Destination> *>(list)->append(destination);
-    return 1;
-}
-
 // libcups does not tell a server that is away from one that has no printers.
 std::optional<PrintError> problemOfServer(LoginKeeper *login)
 {
@@ -102,8 +96,11 @@ public:
     {
         const std::lock_guard lock(system->m_loginMutex);
         m_login = system->m_login;
+        m_refusals = system->m_refusals;
         if (m_login.prompt)
-            m_login.prompt = [system](const LoginQuestion &question) { return system->askOnce(question); };
+            m_login.prompt = [this](const LoginQuestion &question) {
+                return m_system->askOnce(*this, question);
+            };
     }
     ~Visit()
     {
@@ -116,10 +113,15 @@ public:
     Visit(const Visit &) = delete;
     Visit &operator=(const Visit &) = delete;
     LoginKeeper *login() { return &m_login; }
+    // The login that has been tried.
+    const std::optional<Login> &tried() const { return m_login.given; }
+    // Of people to answer, when it began.
+    int refusals() const { return m_refusals; }
 
 private:
     CupsPrintSystem *m_system;
     LoginKeeper m_login;
+    int m_refusals = 0;
 };
 
 void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
@@ -128,33 +130,45 @@ void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
     m_login.prompt = std::move(prompt);
 }
 
-// Who has answered one call need not answer the others that wait for it.
-std::optional<Login> CupsPrintSystem::askOnce(const LoginQuestion &question)
+// Who has answered one call, or does not want to, need not answer the others that were under way.
+std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQuestion &question)
 {
     const std::lock_guard asking(m_promptMutex);
     LoginPrompt prompt;
     {
         const std::lock_guard lock(m_loginMutex);
-        if (!question.again && m_login.given)
+        if (m_refusals > visit.refusals())
+            return std::nullopt;
+        if (m_login.given && m_login.given != visit.tried())
             return m_login.given;
         prompt = m_login.prompt;
     }
     const auto login = prompt ? prompt(question) : std::nullopt;
     const std::lock_guard lock(m_loginMutex);
     m_login.given = login;
+    if (!login)
+        ++m_refusals;
     return login;
 }
 
 std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *error)
 {
-    QList<Destination> list;
     Visit visit(this);
-    ServerConnection::askNobody();
-    // The server's own queues; searching the network would take a second and is the server's business.
-    cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collectDestination, &list);
-    if (const auto problem = list.isEmpty() ? problemOfServer(visit.login()) : std::nullopt) {
-        *error = *problem;
+    ServerConnection server(visit.login());
+    const auto queues = queryQueues(&server, error);
+    if (!queues)
         return std::nullopt;
+    PrintError ignored; // without presets there are still the queues
+    const auto presets = PresetStore().names(&ignored).value_or(PresetStore::Names());
+    QList<Destination> list;
+    for (const Destination &queue : *queues) {
+        if (queue.opensDialog())
+            continue;
+        list.append(queue);
+        for (const QString &name : presets.value(queue.queue.toLower())) {
+            list.append(queue);
+            list.last().instance = name;
+        }
     }
     return list;
 }
@@ -247,7 +261,9 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
     Visit visit(this);
     ServerConnection server(visit.login());
     JobOnServer job;
-    JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
+    const auto result = JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
+    if (result == JobLookup::Result::NotThere)
+        job.status.state = JobStatus::State::Gone;
     if (job.status.state != JobStatus::State::Pending)
         return job.status;
     // Of a job that has not begun the server tells nothing about its printer.
@@ -284,6 +300,7 @@ std::optional<Destination> CupsPrintSystem::withState(const Destination &destina
     if (!queue)
         return std::nullopt;
     Destination now = destination;
+    now.isStateKnown = true;
     now.accepting = queue->accepting;
     now.stopped = queue->stopped;
     return now;

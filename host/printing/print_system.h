@@ -26,7 +26,8 @@ class PrintSystem
 public:
     virtual ~PrintSystem();
 
-    // Every queue and preset. Nil with an error when the server cannot be asked; empty when there is none.
+    // Every queue and preset, to choose from: without their options, which destination() gives. Nil with an
+    // error when the server cannot be asked; empty when there is none.
     virtual std::optional<QList<Destination>> destinations(PrintError *error) = 0;
     // One of them by name ("queue" or "queue/instance"); the user's default for an empty name.
     virtual std::optional<Destination> destination(const QString &name, PrintError *error) = 0;
@@ -54,6 +55,8 @@ class CupsPrintSystem : public PrintSystem
 public:
     static constexpr qint64 maxPpdSize = 32 * 1024 * 1024; // bytes
 
+    CupsPrintSystem() : CupsPrintSystem(ServerPatience()) {}
+    explicit CupsPrintSystem(const ServerPatience &patience) { m_login.patience = patience; }
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
@@ -69,11 +72,12 @@ private:
     // Of a queue that must be there, or be made; nil with an error.
     std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
                                       PrintError *error);
-    std::optional<Login> askOnce(const LoginQuestion &question);
+    std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
-    std::mutex m_loginMutex;  // guards m_login
-    std::mutex m_promptMutex; // held while somebody is asked
+    std::mutex m_loginMutex; // guards the two that follow
     LoginKeeper m_login;
+    int m_refusals = 0;       // of people to answer
+    std::mutex m_promptMutex; // held while somebody is asked
     NetworkPrinters m_network;
 };
 

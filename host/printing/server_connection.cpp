@@ -155,8 +155,8 @@ bool ServerConnection::connect()
     if (m_http)
         return true;
     m_offeredLogin = false;
-    m_http.reset(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectTime, nullptr));
+    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                              m_login->patience.connectTime, nullptr));
     if (!m_http)
         return false;
     const auto moves = [](http_t *, void *self) {
@@ -190,7 +190,7 @@ void ServerConnection::keepLogin()
 
 bool ServerConnection::goesOn()
 {
-    return m_idle.elapsed() < idleTime && !(m_stop && m_stop());
+    return !isSilent() && !(m_stop && m_stop());
 }
 
 const char *ServerConnection::nextPassword()
@@ -232,7 +232,7 @@ Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource,
         reply = exchangeOnce(request.get(), resource, upload);
         if (reply.fate == Reply::Fate::Lost) {
             reply.wasGivenUp = m_stop && m_stop();
-            reply.wasSilent = m_idle.elapsed() >= idleTime;
+            reply.wasSilent = isSilent();
         }
         if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
             m_http.reset(); // what else comes on it belongs to this request
@@ -367,7 +367,7 @@ http_status_t ServerConnection::authenticate(const QByteArray &resource)
 {
     if (cupsDoAuthentication(m_http.get(), "POST", resource.constData()) != 0)
         return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-    httpReconnect2(m_http.get(), connectTime, nullptr);
+    httpReconnect2(m_http.get(), m_login->patience.connectTime, nullptr);
     return HTTP_STATUS_UNAUTHORIZED;
 }
 
@@ -380,14 +380,14 @@ http_status_t ServerConnection::requestFile(const QByteArray &resource)
         if (httpGet(m_http.get(), resource.constData()) != 0)
             return HTTP_STATUS_ERROR;
         http_status_t status = HTTP_STATUS_CONTINUE;
-        while (status == HTTP_STATUS_CONTINUE)
+        while (status == HTTP_STATUS_CONTINUE && goesOn())
             status = httpUpdate(m_http.get());
         if (status != HTTP_STATUS_UNAUTHORIZED)
             return status;
         httpFlush(m_http.get());
         if (cupsDoAuthentication(m_http.get(), "GET", resource.constData()) != 0)
             return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-        if (httpReconnect2(m_http.get(), connectTime, nullptr) != 0)
+        if (httpReconnect2(m_http.get(), m_login->patience.connectTime, nullptr) != 0)
             return HTTP_STATUS_ERROR;
         m_idle.restart();
     }
@@ -423,6 +423,7 @@ std::optional<QByteArray> ServerConnection::fetch(const QByteArray &resource, qi
     if (reply.httpStatus == HTTP_STATUS_NOT_FOUND)
         return std::nullopt;
     reply.fate = isErrorStatus(reply.httpStatus) ? Reply::Fate::Refused : Reply::Fate::Lost;
+    reply.wasSilent = isSilent();
     *error = reply.error({});
     if (content.size() > limit)
         *error = {PrintError::Kind::Other,

@@ -22,6 +22,7 @@ struct Login
 {
     QString user;
     QString password;
+    bool operator==(const Login &) const = default;
 };
 
 struct LoginQuestion
@@ -34,10 +35,18 @@ struct LoginQuestion
 // Asks a person; nil when they do not want to answer. Called on the thread that makes the request.
 using LoginPrompt = std::function<std::optional<Login>(const LoginQuestion &)>;
 
-// Who is asked, and what they have answered, so that one answer does for every request of a program. One
-// thread at a time.
+// How long a server is waited for, in milliseconds.
+struct ServerPatience
+{
+    int connectTime = 10'000;
+    int idleTime = 30'000; // without a byte going either way
+};
+
+// Who is asked, and what they have answered, so that one answer does for every request of a program; and how
+// long they wait. One thread at a time.
 struct LoginKeeper
 {
+    ServerPatience patience;
     LoginPrompt prompt; // empty: nobody is asked, and what needs a login is refused
     std::optional<Login> given;
     // What was accepted, as the server's HTTP side wants it: sent along from the start on later connections,
@@ -78,8 +87,6 @@ struct Reply
 class ServerConnection
 {
 public:
-    static constexpr int connectTime = 10'000; // milliseconds
-    static constexpr int idleTime = 30'000;    // milliseconds without a byte going either way
     static constexpr qint64 longestAnswer =
         16 * 1024 * 1024; // bytes; the jobs of a busy queue are some 100 KB
 
@@ -123,6 +130,7 @@ private:
     const char *nextPassword();
     void keepLogin();
     bool goesOn();
+    bool isSilent() const { return m_idle.elapsed() >= m_login->patience.idleTime; }
 
     LoginKeeper *m_login;
     HttpPointer m_http;

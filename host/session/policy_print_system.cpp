@@ -83,7 +83,7 @@ std::optional<Destination> PolicyPrintSystem::anyOffered(std::optional<Destinati
     PrintError problem;
     const auto offered = destinations(&problem);
     if (offered && !offered->isEmpty() && standard)
-        return offered->first();
+        return m_system.destination(offered->first().name(), error);
     if (!offered)
         *error = problem;
     else if (standard)

@@ -16,8 +16,8 @@ namespace host {
 
 // Keeps a dialog alive while something on its thread waits: it paints, scrolls its own way, can be moved and
 // closed. Input reaches nothing of the dialog but the widget that gives up, and the Tab key moves the focus
-// as ever, which leads there; Escape and the window's close button give up as well. Lives in a shared
-// pointer, since work that was given up may still wake it.
+// as ever, which leads there; Escape and the window's close button give up as well. Belongs to the dialog's
+// thread, also while work that was given up is under way.
 class DialogWaiter : public QObject, public platform::Waiter
 {
     Q_OBJECT

@@ -9,8 +9,12 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QThread>
-#include <QWidget>
+
+#include <future>
+#include <memory>
+#include <utility>
 
 namespace host {
 
@@ -29,40 +33,84 @@ QLabel *sentence(const QString &text, QWidget *parent)
     return label;
 }
 
-std::optional<Login> showDialog(const LoginQuestion &question, QWidget *parent)
+class LoginDialog : public QDialog
 {
-    QDialog dialog(parent);
-    dialog.setWindowTitle(LoginText::tr("Log In"));
-    auto *user = new QLineEdit(question.user, &dialog);
-    auto *password = new QLineEdit(&dialog);
-    password->setEchoMode(QLineEdit::Password);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    auto *form = new QFormLayout(&dialog);
-    if (question.again)
-        form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), &dialog));
-    form->addRow(sentence(LoginText::tr("The print server %1 wants to know who prints.").arg(question.server),
-                          &dialog));
-    form->addRow(LoginText::tr("&User name:"), user);
-    form->addRow(LoginText::tr("&Password:"), password);
-    form->addRow(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    password->setFocus();
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return Login{user->text(), password->text()};
+public:
+    LoginDialog(const LoginQuestion &question, QWidget *parent)
+        : QDialog(parent), m_user(new QLineEdit(question.user, this)), m_password(new QLineEdit(this))
+    {
+        setWindowTitle(LoginText::tr("Log In"));
+        m_password->setEchoMode(QLineEdit::Password);
+        auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+        auto *form = new QFormLayout(this);
+        if (question.again)
+            form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), this));
+        form->addRow(sentence(
+            LoginText::tr("The print server %1 wants to know who prints.").arg(question.server), this));
+        form->addRow(LoginText::tr("&User name:"), m_user);
+        form->addRow(LoginText::tr("&Password:"), m_password);
+        form->addRow(buttons);
+        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        m_password->setFocus();
+    }
+    std::optional<Login> answer() const
+    {
+        return result() == Accepted ? std::optional(Login{m_user->text(), m_password->text()}) : std::nullopt;
+    }
+
+private:
+    QLineEdit *m_user;
+    QLineEdit *m_password;
+};
+
+// What the thread that asks and the dialog share: answered once, at the latest when the dialog goes.
+class Answer
+{
+public:
+    ~Answer() { give(std::nullopt); }
+    void give(const std::optional<Login> &login)
+    {
+        if (!std::exchange(m_isGiven, true))
+            m_login.set_value(login);
+    }
+    std::future<std::optional<Login>> awaited() { return m_login.get_future(); }
+
+private:
+    std::promise<std::optional<Login>> m_login;
+    bool m_isGiven = false; // of the dialog's thread
+};
+
+void showDialog(const std::shared_ptr<Answer> &answer, const LoginQuestion &question, QWidget *parent)
+{
+    auto *dialog = new LoginDialog(question, parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setModal(true);
+    QObject::connect(dialog, &QDialog::finished, dialog,
+                     [answer, dialog] { answer->give(dialog->answer()); });
+    dialog->show();
 }
 
 } // namespace
 
-std::optional<Login> askForLogin(const LoginQuestion &question, QWidget *parent)
+// In no event loop of its own: what else the main thread waits for would end no sooner than the dialog.
+std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent)
 {
-    if (QThread::currentThread() == qApp->thread())
-        return showDialog(question, parent);
-    std::optional<Login> answer;
+    if (QThread::currentThread() == qApp->thread()) {
+        LoginDialog dialog(question, parent);
+        dialog.exec();
+        return dialog.answer();
+    }
+    auto answer = std::make_shared<Answer>();
+    auto awaited = answer->awaited();
     QMetaObject::invokeMethod(
-        qApp, [&] { answer = showDialog(question, parent); }, Qt::BlockingQueuedConnection);
-    return answer;
+        qApp,
+        [answer = std::move(answer), question, parent] {
+            if (parent)
+                showDialog(answer, question, parent);
+        },
+        Qt::QueuedConnection);
+    return awaited.get();
 }
 
 } // namespace host

@@ -5,12 +5,14 @@
 
 #include "host/printing/server_connection.h"
 
-class QWidget;
+#include <QPointer>
+#include <QWidget>
 
 namespace host {
 
 // Asks for a user name and a password in a dialog above `parent`. Nil when it is cancelled. May be called
-// from any thread; the dialog is the main thread's.
-std::optional<Login> askForLogin(const LoginQuestion &question, QWidget *parent);
+// from any thread; the dialog is the main thread's. On another one `parent` has to be there: where it goes,
+// the dialog goes with it, and nobody has answered.
+std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent);
 
 } // namespace host

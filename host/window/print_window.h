@@ -113,6 +113,12 @@ protected:
 private:
     enum class State { Unavailable, Waiting, Choosing, Sending, Done };
     struct Sending;
+    // Every printer, where the print server answers, and the names of those used lately.
+    struct Listing
+    {
+        std::optional<QList<Destination>> printers;
+        QStringList recent;
+    };
 
     void build();
     void connectAll();
@@ -125,6 +131,7 @@ private:
     // Opens a printer beside this thread; the receiver gets it when no panel waits.
     void openWished(const PrinterWish &wish, OpeningReceiver receiver);
     void openTask();
+    void awaitUsedLast();
     void openPicked(const QString &name);
     void showOpening();
     void receive(PrinterOpening opening, const OpeningReceiver &receiver);
@@ -198,7 +205,8 @@ private:
     QString m_picked;                 // to be opened when the user has stopped stepping through printers
     std::function<void()> m_whenIdle; // takes the printer that was opened while a panel waited
     platform::Awaited<PrinterOpening> m_opening;
-    platform::Awaited<std::optional<QList<Destination>>> m_listing;
+    platform::Awaited<QString> m_usedLast; // the printer's name, for want of anything else to show
+    platform::Awaited<Listing> m_listing;
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<Submission> m_submitting;
     platform::Awaited<PrintError> m_checking;

@@ -81,16 +81,15 @@ void PrintWindow::loadPrinterList()
 {
     if (m_session && m_session->destination().queue.isEmpty())
         return;
-    using List = std::optional<QList<Destination>>;
     m_listing.start(
         this,
         [&system = m_system] {
             PrintError ignored;
-            return system.destinations(&ignored);
+            return Listing{system.destinations(&ignored), RememberedPrinter().recent()};
         },
-        [this](const List &printers) {
-            if (printers)
-                m_picker->setPrinters(*printers);
+        [this](const Listing &listing) {
+            if (listing.printers)
+                m_picker->setPrinters(*listing.printers, listing.recent);
         });
 }
 
@@ -189,8 +188,11 @@ void PrintWindow::print()
 void PrintWindow::deliver()
 {
     if (m_task.settingsOnly) {
-        RememberedPrinter().setName(m_session->destination().name());
-        (void)platform::Background::call(m_settings->rememberUse());
+        (void)platform::Background::call(
+            [printer = m_session->destination().name(), rememberUse = m_settings->rememberUse()] {
+                RememberedPrinter().setName(printer);
+                rememberUse();
+            });
         accept();
         return;
     }
@@ -222,6 +224,8 @@ void PrintWindow::send()
         };
         Submission submission =
             system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
+        if (submission.outcome != Submission::Outcome::Rejected)
+            RememberedPrinter().setName(request.destination.name());
         if (submission.isAccepted())
             rememberUse();
         return submission;
@@ -297,10 +301,8 @@ void PrintWindow::sent(Submission submission)
     m_progressTimer.stop();
     m_sending.reset();
     const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
-    if (!isRejected) {
+    if (!isRejected)
         m_submission = std::move(submission);
-        RememberedPrinter().setName(m_session->destination().name());
-    }
     if (m_isLeaving) {
         done(isRejected ? Rejected : Accepted);
         m_held.reset();

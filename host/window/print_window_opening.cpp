@@ -21,7 +21,7 @@ namespace {
 // A print server that is near answers within this, and what it says is shown at once. Nobody notices.
 constexpr std::chrono::milliseconds nearServer(50);
 
-PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QString &usedLast)
+PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)
 {
     PrinterOpening opening;
     if (!wish.isForAnyone()) {
@@ -30,7 +30,7 @@ PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish, const QStri
             return opening;
         opening.error = {};
     }
-    opening.printer = openFirstPrinter(system, usedLast, &opening.error);
+    opening.printer = openFirstPrinter(system, RememberedPrinter().name(), &opening.error);
     return opening;
 }
 
@@ -41,8 +41,10 @@ bool PrintWindow::open(PrintError *error)
     m_taskError = error;
     openTask();
     // The one time that the window waits on its thread: there is nothing to be seen of it yet.
-    if (!m_opening.deliverWithin(nearServer))
+    if (!m_opening.deliverWithin(nearServer)) {
+        m_usedLast.deliverWithin(std::chrono::milliseconds(0));
         showOpening();
+    }
     return !std::exchange(m_taskError, nullptr) || !*error;
 }
 
@@ -54,21 +56,28 @@ void PrintWindow::openTask()
 
 void PrintWindow::openWished(const PrinterWish &wish, OpeningReceiver receiver)
 {
-    const bool wantsLast = wish.isForAnyone() || wish.mayBeGone;
-    const QString usedLast = wantsLast ? RememberedPrinter().name() : QString();
     m_whenIdle = nullptr;
     m_opening.start(
-        this, [&system = m_system, wish, usedLast] { return openAny(system, wish, usedLast); },
+        this, [&system = m_system, wish] { return openAny(system, wish); },
         [this, receiver = std::move(receiver)](PrinterOpening opening) {
             receive(std::move(opening), receiver);
         });
-    if (!m_session) {
-        Destination awaited;
-        awaited.queue = wish.printer.isEmpty() ? usedLast : wish.printer;
-        if (!awaited.queue.isEmpty())
-            m_picker->setAwaited(awaited);
-    }
+    if (!m_session && !wish.printer.isEmpty())
+        m_picker->setAwaited(wish.printer);
+    else if (!m_session && wish.isForAnyone())
+        awaitUsedLast();
     m_openingTimer.start(nearServer);
+}
+
+// The settings file may be as slow as the print server.
+void PrintWindow::awaitUsedLast()
+{
+    m_usedLast.start(
+        this, [] { return RememberedPrinter().name(); },
+        [this](const QString &name) {
+            if (!m_session && isOpening() && !name.isEmpty())
+                m_picker->setAwaited(name);
+        });
 }
 
 // A panel that waits is still on the stack, and its session with it: neither may go under it.

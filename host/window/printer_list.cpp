@@ -27,6 +27,8 @@ QStringList stateParts(const Destination &printer)
         parts.append(PrinterText::tr("Not accepting jobs"));
     else if (printer.isOnNetwork)
         parts.append(PrinterText::tr("Found on the network"));
+    else if (!printer.isStateKnown)
+        parts.append(PrinterText::tr("State not known"));
     else
         parts.append(PrinterText::tr("Ready"));
     if (!printer.location.isEmpty())

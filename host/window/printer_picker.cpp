@@ -11,6 +11,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <tuple>
+
 namespace host {
 
 PrinterPicker::PrinterPicker(QWidget *parent)
@@ -46,12 +48,29 @@ PrinterPicker::PrinterPicker(QWidget *parent)
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
 }
 
-void PrinterPicker::setPrinters(const QList<Destination> &printers)
+void PrinterPicker::setPrinters(const QList<Destination> &printers, const QStringList &recent)
 {
-    m_list->setPrinters(printers, RememberedPrinter().recent());
-    if (m_list->rowOf(m_current) < 0) // the preset is gone, and not its printer
-        m_current = m_current.section(QLatin1Char('/'), 0, 0);
-    m_box->setCurrentIndex(m_list->rowOf(m_current));
+    if (m_isFixed)
+        return;
+    Destination chosen = m_list->at(m_list->rowOf(m_current));
+    m_list->setPrinters(printers, recent);
+    if (m_list->rowOf(m_current) < 0) { // where a preset is gone, its printer may be there
+        const QString queue = m_current.section(QLatin1Char('/'), 0, 0);
+        if (m_list->rowOf(queue) >= 0) {
+            m_current = queue;
+        } else if (!chosen.queue.isEmpty()) {
+            chosen.isStateKnown = false; // the server says nothing of it
+            m_list->put(chosen);
+        }
+    }
+    showRow(m_list->rowOf(m_current));
+}
+
+void PrinterPicker::showRow(int row)
+{
+    m_box->setCurrentIndex(row);
+    if (row >= 0)
+        describe(m_list->at(row));
 }
 
 void PrinterPicker::addBeside(QWidget *widget)
@@ -66,6 +85,8 @@ QComboBox *PrinterPicker::box() const
 
 void PrinterPicker::putPrinter(const Destination &news)
 {
+    if (m_isFixed)
+        return;
     Destination printer = news;
     if (printer.queue == m_current && m_list->rowOf(printer.name()) < 0)
         printer.instance.clear(); // asked about before the preset was gone
@@ -76,7 +97,8 @@ void PrinterPicker::putPrinter(const Destination &news)
 
 void PrinterPicker::putFound(const Destination &printer)
 {
-    m_list->putFound(printer);
+    if (!m_isFixed)
+        m_list->putFound(printer);
 }
 
 void PrinterPicker::setSearching(bool searching)
@@ -87,21 +109,26 @@ void PrinterPicker::setSearching(bool searching)
 void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
-    m_box->setCurrentIndex(m_list->put(printer));
-    describe(printer);
+    showRow(m_list->put(printer));
 }
 
-void PrinterPicker::setAwaited(const Destination &printer)
+void PrinterPicker::setAwaited(const QString &name)
 {
-    m_current = printer.name();
-    m_box->setCurrentIndex(m_list->put(printer));
-    m_state->showText(QString());
+    m_current = name;
+    int row = m_list->rowOf(name);
+    if (row < 0) {
+        Destination awaited;
+        std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
+        row = m_list->put(awaited);
+    }
+    showRow(row);
 }
 
 void PrinterPicker::setFixedText(const QString &text)
 {
     Destination fixed;
     fixed.info = text;
+    m_isFixed = true;
     m_list->setPrinters({fixed}, {});
     m_box->setCurrentIndex(0);
     m_box->setEnabled(false);

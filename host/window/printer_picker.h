@@ -6,6 +6,7 @@
 #include "host/printing/destination.h"
 
 #include <QList>
+#include <QStringList>
 #include <QWidget>
 
 class QComboBox;
@@ -24,8 +25,9 @@ class PrinterPicker : public QWidget
 public:
     explicit PrinterPicker(QWidget *parent = nullptr);
 
-    // The whole list. Where the chosen one was a preset that is not in it, its printer is shown.
-    void setPrinters(const QList<Destination> &printers);
+    // All that the print server has; the chosen one stays in the list where it lacks it, and where it lacks
+    // only the chosen preset, its printer is shown. `recent` are destination names, the latest first.
+    void setPrinters(const QList<Destination> &printers, const QStringList &recent);
     // One more printer, or news of one that is there.
     void putPrinter(const Destination &news);
     // A printer that was found in the network.
@@ -34,9 +36,10 @@ public:
     void setSearching(bool searching);
     // Shows a printer without announcing it; adds it where the list lacks it.
     void setCurrent(const Destination &printer);
-    // The name of a printer that has been asked for and is not known yet.
-    void setAwaited(const Destination &printer);
-    // Nothing is chosen and nothing can be, as for a PPD without a queue; `text` stands in the place.
+    // The destination name of a printer that has been asked for; shows what is known of it.
+    void setAwaited(const QString &name);
+    // Nothing is chosen and nothing can be from now on, as for a PPD without a queue; `text` stands in the
+    // place.
     void setFixedText(const QString &text);
     QComboBox *box() const;
     // Puts something at the end of its line.
@@ -51,12 +54,14 @@ Q_SIGNALS:
     void opened();
 
 private:
+    void showRow(int row);
     void describe(const Destination &printer);
 
     PrinterList *m_list;
     PrinterBox *m_box;
     ElidedLabel *m_state;
-    QString m_current;
+    QString m_current; // destination name
+    bool m_isFixed = false;
 };
 
 } // namespace host

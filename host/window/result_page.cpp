@@ -32,6 +32,7 @@ StatusGlyph::Kind kindOf(const JobStatus &status)
     case JobStatus::State::Stopped:
     case JobStatus::State::Unknown:
     case JobStatus::State::Held:
+    case JobStatus::State::Gone:
         return StatusGlyph::Kind::Notice;
     default:
         return StatusGlyph::Kind::Success;

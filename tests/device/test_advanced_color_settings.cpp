@@ -68,6 +68,7 @@ private Q_SLOTS:
     void restoreAndSave();
     void failedPrinterDropsAndRemoves();
     void reasonIsLocalised();
+    void userWhoDoesNotWait_data();
     void userWhoDoesNotWait();
     void leavesNoSessionOpen();
     void saveEndsTextEditing();
@@ -232,18 +233,37 @@ void TestAdvancedColorSettings::reasonIsLocalised()
     QVERIFY(settings.snmpUnavailableReason().isNull());
 }
 
+void TestAdvancedColorSettings::userWhoDoesNotWait_data()
+{
+    QTest::addColumn<int>("requests"); // until the user gives up, and the device does not answer
+    QTest::addColumn<qsizetype>("rgbNames");
+    QTest::newRow("at once") << 1 << qsizetype(0);
+    QTest::newRow("within a list") << 2 << qsizetype(0);
+    QTest::newRow("within the defaults") << 3 * 3 + 2 << qsizetype(2);
+    QTest::newRow("at the last of the defaults") << 3 * 3 + 4 << qsizetype(2);
+}
+
 void TestAdvancedColorSettings::userWhoDoesNotWait()
 {
-    const UdpResponder silent("127.0.0.2", [](const SnmpReply &) { return SnmpReplies(); });
+    QFETCH(int, requests);
+    const auto waiter = std::make_shared<LoopWaiter>();
+    int asked = 0;
+    const UdpResponder device("127.0.0.2", [&, answer = tables()](const SnmpReply &reply) {
+        if (++asked < requests)
+            return answer(reply);
+        QMetaObject::invokeMethod(this, [&] { waiter->giveUp(); });
+        return SnmpReplies();
+    });
     Host host;
     Settings settings(&host, m_bundle.get(), nullptr);
-    const auto waiter = std::make_shared<LoopWaiter>();
     const platform::Waiter::Scope scope(waiter);
-    QTimer::singleShot(50, this, [&] { waiter->giveUp(); });
     QElapsedTimer clock;
     clock.start();
     settings.updateFromSNMP();
     QVERIFY(clock.elapsed() < 1000);
+    QTEST(settings.rgbSourceProfiles().size(), "rgbNames");
+    QCOMPARE(settings.selectedRgbSourceProfile(), 0U);
+    QVERIFY(!settings.snmpEnabled());
     QCOMPARE(settings.snmpUnavailableReason(), u"The printer cannot be reached."_qs);
     QVERIFY(settings.saveValuesAndReturnError(nullptr) && host.settings.values().isEmpty());
     QTRY_VERIFY(!platform::Background::isUnderWay());

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void startsAfreshWithTheNextActivity();
     void manyShortCallsAreOneLongWait();
     void questionGetsItsInput();
+    void goesOnItsOwnThread();
 
 private:
     // Waits for `m_release`, while `meanwhile` runs in the event loop.
@@ -156,6 +157,16 @@ void DialogWaiterTest::questionGetsItsInput()
     }));
     QCOMPARE(name.text(), QStringLiteral("x"));
     QVERIFY(!question.isVisible());
+}
+
+// Not with the work that was given up, on the thread of that.
+void DialogWaiterTest::goesOnItsOwnThread()
+{
+    QVERIFY(!waitWhile([this] { m_waiter->giveUp(); }));
+    const QPointer<DialogWaiter> waiter = m_waiter.get();
+    m_waiter.reset();
+    QVERIFY(platform::Background::isUnderWay());
+    QVERIFY(!waiter);
 }
 
 QTEST_MAIN(DialogWaiterTest)

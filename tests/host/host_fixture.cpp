@@ -61,6 +61,7 @@ Destination officePrinter(const QString &queue)
     printer.queue = queue;
     printer.info = u"Office on the second floor"_s;
     printer.deviceUri = u"socket://127.0.0.42"_s;
+    printer.isStateKnown = true;
     return printer;
 }
 

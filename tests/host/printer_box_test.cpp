@@ -24,6 +24,8 @@ private Q_SLOTS:
     void putsRecentOnesFirst();
     void staysQuickWithManyPrinters();
     void printerOutlivesItsPreset();
+    void chosenPrinterIsShown_data();
+    void chosenPrinterIsShown();
 
 private:
     static QList<Destination> building()
@@ -108,10 +110,48 @@ void PrinterBoxTest::printerOutlivesItsPreset()
     Destination preset = officePrinter();
     preset.instance = QStringLiteral("draft");
     picker.setCurrent(preset);
-    picker.setPrinters({officePrinter(), officePrinter(QStringLiteral("other"))});
+    picker.setPrinters({officePrinter(), officePrinter(QStringLiteral("other"))}, {});
     picker.putPrinter(preset); // news that were asked for before
     QCOMPARE(picker.box()->count(), 2);
     QCOMPARE(picker.box()->currentText(), officePrinter().displayName());
+}
+
+void PrinterBoxTest::chosenPrinterIsShown_data()
+{
+    using Step = std::function<void(PrinterPicker *)>;
+    QTest::addColumn<QList<Step>>("steps");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("detail"); // how it begins
+    const QString office = officePrinter().info;
+    Destination stopped = officePrinter();
+    stopped.stopped = true;
+    const Step list = [](auto *picker) { picker->setPrinters(building(), {}); };
+    const Step with = [=](auto *picker) { picker->setPrinters(building() << stopped, {}); };
+    const Step await = [](auto *picker) { picker->setAwaited(QStringLiteral("office")); };
+    const Step choose = [](auto *picker) { picker->setCurrent(officePrinter()); };
+    const Step fix = [](auto *picker) { picker->setFixedText(QStringLiteral("x.ppd")); };
+    const Step found = [](auto *picker) { picker->putFound(officePrinter(QStringLiteral("found"))); };
+    const QString unknown = QStringLiteral("State not known");
+    QTest::newRow("asked for") << QList<Step>{await} << QStringLiteral("office") << unknown;
+    QTest::newRow("asked for, known") << QList<Step>{with, await} << office << QStringLiteral("Stopped");
+    QTest::newRow("asked for, not listed") << QList<Step>{await, list} << QStringLiteral("office") << unknown;
+    QTest::newRow("asked for, listed") << QList<Step>{await, with} << office << QStringLiteral("Stopped");
+    QTest::newRow("chosen, not listed") << QList<Step>{choose, list} << office << unknown;
+    QTest::newRow("chosen, listed") << QList<Step>{choose, with} << office << QStringLiteral("Stopped");
+    QTest::newRow("fixed, list late")
+        << QList<Step>{await, fix, list, found} << QStringLiteral("x.ppd") << unknown;
+}
+
+void PrinterBoxTest::chosenPrinterIsShown()
+{
+    QFETCH(QList<std::function<void(PrinterPicker *)>>, steps);
+    PrinterPicker picker;
+    for (const auto &step : steps)
+        step(&picker);
+    QTEST(picker.box()->currentText(), "name");
+    QFETCH(QString, detail);
+    const QString shown = picker.box()->currentData(PrinterList::DetailRole).toString();
+    QVERIFY2(shown.startsWith(detail), qPrintable(shown));
 }
 
 QTEST_MAIN(PrinterBoxTest)

@@ -13,7 +13,8 @@ every one after it:
   send-vanished                                Send-Document arrives; then there is no server any more
   send-stalled                                 nobody reads the rest of the document
   send-cut                                     the connection breaks in the middle of the document
-  login                                        everything below /printers/ needs the user "anna", password "secret"
+  login                                        everything below /printers/ needs the user "anna", password "secret";
+                                               each request without them is told on the standard output
   none                                         all goes well
 """
 import base64
@@ -88,6 +89,7 @@ class Relay(http.server.BaseHTTPRequestHandler):
     def relay(self):
         if not self.is_admitted():
             self.close_connection = True
+            print("login wanted", flush=True)
             self.send_response(401)
             self.send_header("WWW-Authenticate", 'Basic realm="CUPS"')
             self.send_header("Content-Length", "0")

@@ -1,17 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/printing/job_follower.h"
+#include "host/window/login_dialog.h"
 #include "host/window/message_bar.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
 #include "host/window/unavailable_page.h"
+#include "platform/background.h"
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QTest>
 
+#include <atomic>
 #include <cups/cups.h>
 
 #include <algorithm>
@@ -58,8 +64,11 @@ private Q_SLOTS:
     void signalCancelsTheJob_data();
     void signalCancelsTheJob();
     void jobIsChangedFromTheResult();
+    void forgottenJob();
     void loginInTheWindow();
     void loginNobodyGives();
+    void loginIsRefusedOnce();
+    void loginDialogGoesWithTheWindow();
 
 private:
     // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
@@ -274,6 +283,31 @@ void JobEndTest::jobIsChangedFromTheResult()
     }));
 }
 
+// An administrator takes it out of the history while the dialog follows it.
+void JobEndTest::forgottenJob()
+{
+    QVERIFY(m_server.setPaused(u"other"_s, true));
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"other"_s;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.show();
+    QTRY_VERIFY(window.session());
+    window.print();
+    QTRY_VERIFY(window.submission());
+    auto *follower = window.findChild<JobFollower *>();
+    QVERIFY(follower->isFollowing());
+    QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);
+    const QString text = u"no longer knows it. It may have been printed; look at the printer."_s;
+    QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().endsWith(text), 10000);
+    QVERIFY(!follower->isFollowing());
+    QVERIFY(m_server.setPaused(u"other"_s, false));
+}
+
 void JobEndTest::loginInTheWindow()
 {
     const auto proxy = faulty(u"login"_s);
@@ -317,6 +351,71 @@ void JobEndTest::loginNobodyGives()
     QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), u"not-authorised"_s);
     QCOMPARE(unfinishedJobs(), 0);
     QCOMPARE(m_server.capturedJobs(), before);
+}
+
+// For all requests that were under way.
+void JobEndTest::loginIsRefusedOnce()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    std::atomic<int> asked = 0;
+    QSemaphore release;
+    system.setLoginPrompt([&](const LoginQuestion &) {
+        ++asked;
+        release.acquire();
+        return std::optional<Login>();
+    });
+    Destination office;
+    office.queue = u"office"_s;
+    std::atomic<int> refused = 0;
+    for (int i = 0; i < 2; ++i) {
+        platform::Background::start(
+            [&] {
+                PrintError error;
+                refused += !system.ppd(office, &error) && error.kind == PrintError::Kind::NotAuthorised;
+            },
+            this, [] {});
+    }
+    QByteArray said;
+    QTRY_VERIFY((said += proxy->readAll()).count("login wanted") == 2);
+    release.release(2);
+    QTRY_COMPARE(refused.load(), 2);
+    QCOMPARE(asked.load(), 1);
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+}
+
+void JobEndTest::loginDialogGoesWithTheWindow()
+{
+    const auto proxy = faulty(u"login"_s);
+    QVERIFY(proxy);
+    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.files = {document};
+    task.printer = u"office"_s;
+    PrintError error;
+    for (const bool answers : {false, true}) {
+        auto window = std::make_unique<PrintWindow>(system, none, task);
+        system.setLoginPrompt([parent = QPointer<QWidget>(window.get())](const LoginQuestion &question) {
+            return askForLogin(question, parent);
+        });
+        QVERIFY(window->open(&error));
+        window->show();
+        QTRY_VERIFY(window->findChild<QDialog *>());
+        const auto fields = window->findChild<QDialog *>()->findChildren<QLineEdit *>();
+        if (answers) {
+            fields.first()->setText(u"anna"_s);
+            QTest::keyClicks(fields.last(), u"secret"_s);
+            QTest::keyClick(fields.last(), Qt::Key_Return);
+            QTRY_VERIFY(window->session());
+        }
+        window.reset();
+        QTRY_VERIFY(!platform::Background::isUnderWay());
+    }
+    cupsSetUser(nullptr);
 }
 
 QTEST_MAIN(JobEndTest)

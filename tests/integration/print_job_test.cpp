@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/print_system.h"
+#include "platform/background.h"
 #include "tests/integration/batch_program.h"
 
 #include <QDir>
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void temporaryFolder();
     void documentOfAnApplicationIsSent();
     void queueOfTheDialogIsNoPrinter();
+    void listIsThatOfLibcups();
 
 private:
     // Runs a batch job that must succeed, and gives what reached the printer.
@@ -406,6 +408,51 @@ void PrintJobTest::queueOfTheDialogIsNoPrinter()
     QVERIFY(!system.destination(QString(), &error));
     QVERIFY(!system.destination(u"dialog"_s, &error));
     QVERIFY2(error.message.contains(u"opens the print dialog"_s), qPrintable(error.message));
+}
+
+// Which would take a connection and time-outs of its own for it.
+void PrintJobTest::listIsThatOfLibcups()
+{
+    QVERIFY(QDir(m_server.folder()).mkpath(u".cups"_s));
+    file(u".cups/lpoptions"_s,
+         "Dest other/large PageSize=A3\n# Dest paused/no a=b\nDest office sides=one-sided\n"
+         "Default office/Two\\#sided sides=two-sided-long-edge\nDest gone/small copies=1\n"
+         "Dest OFFICE/two\\#sided copies=2\nDest other/large copies=3\n");
+    const auto collect = [](void *list, unsigned, cups_dest_t *record) {
+        QStringList facts{QString::fromUtf8(record->name), QString::fromUtf8(record->instance)};
+        for (const char *name : {"printer-info", "printer-location", "printer-make-and-model", "device-uri",
+                                 "printer-uri-supported"})
+            facts.append(QString::fromUtf8(cupsGetOption(name, record->num_options, record->options)));
+        const auto is = [&](const char *name, const char *value) {
+            return qstrcmp(cupsGetOption(name, record->num_options, record->options), value) == 0;
+        };
+        if (!facts.at(5).startsWith(u"kelmar-dialog:"_s))
+            static_cast<QStringList *>(list)->append(
+                (facts << QString::number(is("printer-is-accepting-jobs", "true"))
+                       << QString::number(is("printer-state", "5")))
+                    .join(u'|'));
+        return 1;
+    };
+    // On a thread of its own, where libcups looks for the home anew.
+    const auto expectedBeside = platform::callBeside(
+        [&collect] {
+            QStringList list;
+            cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collect, &list);
+            list.sort();
+            return list;
+        },
+        std::chrono::seconds(10));
+    QVERIFY(expectedBeside);
+    PrintError error;
+    const auto all = CupsPrintSystem().destinations(&error);
+    QVERIFY2(all, qPrintable(error.message));
+    QStringList listed;
+    for (const Destination &d : *all)
+        listed.append(QStringList{d.queue, d.instance, d.info, d.location, d.makeAndModel, d.deviceUri,
+                                  d.printerUri, QString::number(d.accepting), QString::number(d.stopped)}
+                          .join(u'|'));
+    listed.sort();
+    QCOMPARE(listed.join(u'\n'), expectedBeside->join(u'\n'));
 }
 
 QTEST_MAIN(PrintJobTest)

@@ -11,6 +11,7 @@
 #include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
 #include "platform/background.h"
+#include "platform/unique_fd.h"
 #include "tests/support/heartbeat.h"
 #include "tests/support/private_cupsd.h"
 #include "tests/support/private_network.h"
@@ -20,10 +21,13 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -74,6 +78,9 @@ private Q_SLOTS:
     void cleanup();
     void serverNeverAnswers_data();
     void serverNeverAnswers();
+    void serverStopsAnswering_data();
+    void serverStopsAnswering();
+    void settingsFileNeverAnswers();
     void serverAnswersLate();
     void windowGoesBeforeTheAnswer_data();
     void windowGoesBeforeTheAnswer();
@@ -84,7 +91,7 @@ private Q_SLOTS:
     void manyQueuesLoad();
 
 private:
-    void open(const QString &printer = u"office"_s);
+    void open(const QString &printer = u"office"_s, bool isHasty = false);
     QPushButton *button(const QString &text) const;
     // Clicks, and waits for what is to come of it, which is to take no longer than people notice.
     template <typename Condition>
@@ -98,6 +105,7 @@ private:
     PrivateCupsd m_server;
     std::optional<StallingProxy> m_proxy;
     CupsPrintSystem m_system;
+    CupsPrintSystem m_hasty{ServerPatience{10'000, 1'000}}; // milliseconds
     Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
     std::unique_ptr<PrintWindow> m_window;
     std::optional<Heartbeat> m_heart;
@@ -152,12 +160,12 @@ void WindowAnswersTest::cleanup()
     QVERIFY2(gap < longestGap, qPrintable(u"the window did not answer for %1 ms"_s.arg(gap)));
 }
 
-void WindowAnswersTest::open(const QString &printer)
+void WindowAnswersTest::open(const QString &printer, bool isHasty)
 {
     PrintTask task;
     task.files = {document};
     task.printer = printer;
-    m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
+    m_window = std::make_unique<PrintWindow>(isHasty ? m_hasty : m_system, m_extensions, task);
     PrintError error;
     QVERIFY2(m_window->open(&error), qPrintable(error.message));
     m_window->show();
@@ -256,6 +264,58 @@ void WindowAnswersTest::serverNeverAnswers()
     QTRY_VERIFY_WITH_TIMEOUT(!waiting->isVisible(), 10'000);
     const QString text = m_window->messageBar()->text() + find<ResultPage>()->text();
     QVERIFY2(text.trimmed().endsWith(told), qPrintable(text));
+}
+
+void WindowAnswersTest::serverStopsAnswering_data()
+{
+    QTest::addColumn<Stage>("stage");
+    QTest::addColumn<QByteArray>("request"); // as the proxy names it
+    QTest::newRow("PPD") << Stage::Opening << QByteArray("ppd");
+    QTest::newRow("printer list") << Stage::Listing << QByteArray("4002");
+    QTest::newRow("sending") << Stage::Sending << QByteArray("0006");
+}
+
+// Nobody gives up here: the window does, and says so.
+void WindowAnswersTest::serverStopsAnswering()
+{
+    QFETCH(Stage, stage);
+    QFETCH(QByteArray, request);
+    QVERIFY(m_proxy->command("stall " + request));
+    m_heart->start();
+    open(u"office"_s, true);
+    if (stage == Stage::Sending) {
+        QTRY_VERIFY(m_window->session());
+        QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    }
+    QTRY_VERIFY(m_proxy->hasStalled());
+    QTRY_VERIFY(!platform::Background::isUnderWay());
+    if (stage == Stage::Listing)
+        return;
+    const auto text = [this] {
+        return m_window->messageBar()->text() + find<UnavailablePage>()->reason() +
+               find<ResultPage>()->text();
+    };
+    QTRY_VERIFY2(text().contains(u"has stopped answering"_s), qPrintable(text()));
+}
+
+// As on a home that is not there just now.
+void WindowAnswersTest::settingsFileNeverAnswers()
+{
+    const QString path = QSettings().fileName();
+    const QString aside = path + u".aside"_s;
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile::remove(path);
+    QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0); // who opens it waits for a writer
+    m_heart->start();
+    open(QString());
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    QVERIFY(!m_window->session());
+    QVERIFY(QFile::rename(path, aside));
+    const platform::UniqueFd writer(
+        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+    QVERIFY(QFile::remove(aside));
+    QVERIFY(writer); // somebody was waiting
+    QTRY_VERIFY(m_window->session());
 }
 
 void WindowAnswersTest::serverAnswersLate()
