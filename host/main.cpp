@@ -21,6 +21,7 @@
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 using namespace host;
@@ -124,6 +125,15 @@ int runForService(bool hasDisplay)
     return leave(runDialogRequest(system, extensions, hasDisplay));
 }
 
+// One heap for all threads: what a worker has freed, such as a PPD that it read, is used again by the others.
+// The workers wait for servers and processes, not for one another.
+void shareHeap()
+{
+#ifdef M_ARENA_MAX
+    mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 int flushed(int code, QFile *out, QFile *err)
 {
     out->flush();
@@ -151,6 +161,7 @@ int run(const Arguments &arguments, QFile *out, QFile *err)
 
 int main(int argc, char **argv)
 {
+    shareHeap();
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);

@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -13,6 +15,18 @@
 #include <algorithm>
 
 namespace platform {
+
+QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option, const QSize &icon)
+{
+    constexpr int margin = 2;  // above and below the text together, in pixels; all as QComboBox has it
+    constexpr int iconGap = 4; // between an icon and the text
+    constexpr int leastHeight = 14;
+    const QFontMetrics metrics = box.fontMetrics();
+    const int text = box.minimumContentsLength() * metrics.horizontalAdvance(QLatin1Char('X'));
+    const QSize contents(text + icon.width() + iconGap,
+                         std::max({metrics.height(), icon.height(), leastHeight}) + margin);
+    return box.style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, &box);
+}
 
 ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
 {

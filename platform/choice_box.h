@@ -7,7 +7,15 @@
 
 #include <QComboBox>
 
+class QStyleOptionComboBox;
+
 namespace platform {
+
+// The size of a pop-up with room for its minimumContentsLength() and an icon, whatever its choices are;
+// `option` is what its initStyleOption() says. The policy of QComboBox that means the same builds the list of
+// choices for that, and so does QComboBox::setIconSize().
+KELMAR_PLATFORM_EXPORT QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option,
+                                           const QSize &icon);
 
 // A list of choices of which some may be greyed for now. In the open list the arrow keys reach those, too,
 // and whoever looks at one, or listens to it, is told why; choosing one changes nothing, but is told.

@@ -43,8 +43,11 @@ QStringList Extensions::installedBundles(const QString &programFolder)
     QStringList found;
     for (const QString &place : {programFolder, programFolder + QStringLiteral("/../lib/kelmar-print")}) {
         const QDir folder(place);
-        for (const QString &name : folder.entryList({QStringLiteral("*.bundle")}, QDir::Dirs, QDir::Name))
-            found.append(folder.absoluteFilePath(name));
+        // Not by a name filter of QDir: that is a regular expression, half a megabyte at first use.
+        for (const QString &name : folder.entryList(QDir::Dirs, QDir::Name)) {
+            if (name.endsWith(QLatin1String(".bundle"), Qt::CaseInsensitive))
+                found.append(folder.absoluteFilePath(name));
+        }
         if (!found.isEmpty())
             break;
     }

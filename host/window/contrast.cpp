@@ -6,16 +6,30 @@
 #include <QPalette>
 
 #include <algorithm>
-#include <cmath>
 
 namespace host {
 
 namespace {
 
+// x to the power of 2.4 for x from 0.09 to 1: the fifth root of its twelfth power, by Newton's method from
+// above. What the window shows first needs this and nothing else of libm, whose pow() would bring 190 kB of
+// code and tables.
+qreal toThePowerOf2Point4(qreal x)
+{
+    constexpr int steps = 12; // exact from the tenth on
+    const qreal square = x * x;
+    const qreal fourth = square * square;
+    const qreal twelfth = fourth * fourth * fourth;
+    qreal root = square;
+    for (int step = 0; step < steps; ++step)
+        root -= (root - twelfth / (root * root * root * root)) / 5;
+    return root;
+}
+
 qreal luminance(const QColor &color)
 {
     const auto linear = [](float channel) {
-        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+        return channel <= 0.04045F ? channel / 12.92 : toThePowerOf2Point4((channel + 0.055) / 1.055);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }

@@ -40,12 +40,22 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 
 } // namespace
 
-MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), m_glyph(new StatusGlyph(iconSize, this)), m_scroll(new QScrollArea(this)),
-      m_title(plainLabel(nullptr)), m_lines(plainLabel(nullptr)),
-      m_row(new QBoxLayout(QBoxLayout::TopToBottom)), m_buttonRow(new QHBoxLayout)
+MessageBar::MessageBar(QWidget *parent) : QFrame(parent)
 {
     makeAnnounced(this);
+    hide();
+    connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
+}
+
+// When there is something to say: the bold font that a title takes costs a start 200 kB.
+void MessageBar::build()
+{
+    m_glyph = new StatusGlyph(iconSize, this);
+    m_scroll = new QScrollArea(this);
+    m_title = plainLabel(nullptr);
+    m_lines = plainLabel(nullptr);
+    m_row = new QBoxLayout(QBoxLayout::TopToBottom);
+    m_buttonRow = new QHBoxLayout;
     QFont bold = m_title->font();
     bold.setWeight(QFont::DemiBold);
     m_title->setFont(bold);
@@ -72,18 +82,20 @@ MessageBar::MessageBar(QWidget *parent)
     row->setSpacing(12);
     row->addWidget(m_glyph, 0, Qt::AlignTop);
     row->addLayout(m_row, 1);
-    hide();
-    connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
 }
 
 QString MessageBar::text() const
 {
+    if (!m_lines)
+        return {};
     return m_lines->isHidden() ? m_title->text() : m_title->text() + QLatin1Char('\n') + m_lines->text();
 }
 
 void MessageBar::showMessage(Kind kind, const QString &title, const QStringList &lines,
                              const QStringList &answers)
 {
+    if (!m_scroll)
+        build();
     m_kind = kind;
     m_glyph->setKind(kind);
     m_title->setText(wrappable(title));
@@ -157,7 +169,8 @@ void MessageBar::giveFocusBack()
 void MessageBar::setTextLimit(int pixels)
 {
     m_limit = pixels;
-    fitTexts();
+    if (m_scroll)
+        fitTexts();
 }
 
 // Side by side where they fit, else one below the other.
@@ -185,6 +198,8 @@ void MessageBar::fitTexts()
 void MessageBar::resizeEvent(QResizeEvent *event)
 {
     QFrame::resizeEvent(event);
+    if (!m_scroll)
+        return;
     fitButtons();
     fitTexts();
 }

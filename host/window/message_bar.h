@@ -52,6 +52,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void build();
     void addButton(const QString &text, int index);
     void removeButtons();
     void fitButtons();
@@ -60,12 +61,13 @@ private:
     void giveFocusBack();
 
     Kind m_kind = Kind::Notice;
-    StatusGlyph *m_glyph;
-    QScrollArea *m_scroll;
-    QLabel *m_title;
-    QLabel *m_lines;
-    QBoxLayout *m_row;
-    QHBoxLayout *m_buttonRow;
+    // Made with the first message.
+    StatusGlyph *m_glyph = nullptr;
+    QScrollArea *m_scroll = nullptr;
+    QLabel *m_title = nullptr;
+    QLabel *m_lines = nullptr;
+    QBoxLayout *m_row = nullptr;
+    QHBoxLayout *m_buttonRow = nullptr;
     QList<QPushButton *> m_buttons;
     QPointer<QWidget> m_before; // had the focus before it came here
     int m_limit = 200;

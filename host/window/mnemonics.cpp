@@ -3,13 +3,13 @@
 
 #include "host/window/mnemonics.h"
 
-#include <QRegularExpression>
-
 namespace host {
 
 namespace {
 
 const QString mark = QStringLiteral("&");
+const QString endings = QStringLiteral(":：….");
+constexpr qsizetype bracketLength = 4; // of "(&K)"
 
 // Where the key of a text stands; -1 where there is none.
 qsizetype placeOfKey(const QString &text)
@@ -22,6 +22,27 @@ qsizetype placeOfKey(const QString &text)
         ++i;
     }
     return -1;
+}
+
+// Where the "(&K)" of a text begins, as East Asian texts have it; -1 where there is none. By hand, as all
+// here: these texts are looked through before the window is first seen, and regular expressions cost half a
+// megabyte at first use.
+qsizetype placeOfBracket(const QString &text)
+{
+    qsizetype at = text.indexOf(QLatin1String("(&"));
+    while (at >= 0 && (text.size() < at + bracketLength || text.at(at + 2) == QLatin1Char('&') ||
+                       text.at(at + 3) != QLatin1Char(')')))
+        at = text.indexOf(QLatin1String("(&"), at + 1);
+    return at;
+}
+
+// Where what ends a label begins, such as its colon.
+qsizetype placeOfEnding(const QString &text)
+{
+    qsizetype at = text.size();
+    while (at > 0 && (text.at(at - 1).isSpace() || endings.contains(text.at(at - 1))))
+        --at;
+    return at;
 }
 
 bool isTypable(QChar c)
@@ -63,13 +84,12 @@ bool Mnemonics::claim(const QString &text)
 
 QString Mnemonics::assign(const QString &text)
 {
-    static const QRegularExpression bracketed(QStringLiteral("\\s?\\(&[^&]\\)"));
-    static const QRegularExpression ending(QStringLiteral("[\\s:：….]*$"));
     QString bare = text;
-    qsizetype bracket = -1;
-    if (const auto match = bracketed.match(text); match.hasMatch()) {
-        bracket = match.capturedStart();
-        bare.remove(bracket, match.capturedLength());
+    qsizetype bracket = placeOfBracket(text);
+    if (bracket >= 0) {
+        bare.remove(bracket, bracketLength);
+        if (bracket > 0 && bare.at(bracket - 1).isSpace())
+            bare.remove(--bracket, 1);
     } else if (const qsizetype place = placeOfKey(text); place > 0) {
         bare.remove(place - 1, 1);
     }
@@ -84,7 +104,7 @@ QString Mnemonics::assign(const QString &text)
     if (hasLetters)
         return bare;
     if (bracket < 0)
-        bracket = ending.match(bare).capturedStart();
+        bracket = placeOfEnding(bare);
     for (char key = 'A'; key <= 'Z'; ++key) {
         if (take(QLatin1Char(key)))
             return bare.insert(bracket, QStringLiteral("(&%1)").arg(QLatin1Char(key)));

@@ -4,6 +4,7 @@
 #include "host/window/printer_box.h"
 
 #include "host/window/printer_list.h"
+#include "platform/choice_box.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QListView>
 #include <QPainter>
 #include <QScreen>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -66,15 +68,22 @@ public:
 
 } // namespace
 
-PrinterBox::PrinterBox(PrinterList *list, QWidget *parent)
-    : QComboBox(parent), m_found(new PrinterSearch(this))
+PrinterBox::PrinterBox(PrinterList *list, QWidget *parent) : QComboBox(parent)
 {
     setModel(list);
-    m_found->setSourceModel(list);
+}
+
+QSize PrinterBox::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return platform::sizeForLength(*this, option, iconSize());
 }
 
 QWidget *PrinterBox::makePopup()
 {
+    m_found = new PrinterSearch(this);
+    m_found->setSourceModel(model());
     auto *popup = new QFrame(this, Qt::Popup);
     popup->setFrameStyle(QFrame::StyledPanel);
     m_search = new QLineEdit(popup);

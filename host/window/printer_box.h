@@ -24,6 +24,8 @@ public:
 
     // Says below the list that more printers may come.
     void setSearching(bool searching);
+    QSize sizeHint() const override; // whatever the printers are called
+    QSize minimumSizeHint() const override { return sizeHint(); }
     void showPopup() override;
     void hidePopup() override;
     QLineEdit *searchField() const { return m_search; }
@@ -42,8 +44,9 @@ private:
     void choose(const QModelIndex &index);
     void narrow(const QString &text);
 
-    PrinterSearch *m_found;
-    QLineEdit *m_search = nullptr; // made with the pop-up, when it is first opened
+    // Made with the pop-up, when it is first opened.
+    PrinterSearch *m_found = nullptr;
+    QLineEdit *m_search = nullptr;
     QListView *m_view = nullptr;
     QLabel *m_searching = nullptr;
     QWidget *m_popup = nullptr;

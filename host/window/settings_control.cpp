@@ -7,6 +7,7 @@
 #include "host/session/preset_settings.h"
 #include "host/session/session_history.h"
 #include "host/window/foreign_text.h"
+#include "host/window/menu_button.h"
 #include "host/window/mnemonics.h"
 #include "host/window/preset_dialog.h"
 
@@ -17,7 +18,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -48,12 +48,11 @@ QLineEdit *fieldAt(QObject *object)
 } // namespace
 
 SettingsControl::SettingsControl(QWidget *window)
-    : QObject(window), m_window(window), m_button(new QPushButton(window)), m_menu(new QMenu(m_button)),
+    : QObject(window), m_window(window), m_button(new MenuButton(window)),
       m_undo(new QAction(tr("&Undo"), window)), m_redo(new QAction(tr("&Redo"), window))
 {
     m_button->setObjectName(QStringLiteral("presets"));
     m_button->setAutoDefault(false);
-    m_button->setMenu(m_menu);
     m_button->setEnabled(false);
     m_undo->setShortcut(Qt::CTRL | Qt::Key_Z);
     m_redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
@@ -68,12 +67,24 @@ SettingsControl::SettingsControl(QWidget *window)
         m_history->steps()->redo();
         Q_EMIT applied();
     });
-    connect(m_menu, &QMenu::aboutToShow, this, &SettingsControl::openMenu);
+    connect(m_button, &MenuButton::menuWanted, this, &SettingsControl::makeMenu);
     qApp->installEventFilter(this);
     showName();
 }
 
 SettingsControl::~SettingsControl() = default;
+
+QPushButton *SettingsControl::button() const
+{
+    return m_button;
+}
+
+void SettingsControl::makeMenu()
+{
+    m_menu = new QMenu(m_button);
+    connect(m_menu, &QMenu::aboutToShow, this, &SettingsControl::openMenu);
+    m_button->setMenu(m_menu);
+}
 
 void SettingsControl::setSession(DialogSession *session)
 {

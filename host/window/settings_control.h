@@ -21,6 +21,7 @@ class QPushButton;
 namespace host {
 
 class DialogSession;
+class MenuButton;
 class SessionHistory;
 
 // The presets of the printer that is chosen, as a menu of the window, and the history of what its user has
@@ -34,7 +35,7 @@ public:
     ~SettingsControl() override;
 
     // "Settings: …"; belongs to the window.
-    QPushButton *button() const { return m_button; }
+    QPushButton *button() const;
     // Begins a history. Null lets go of the session before.
     void setSession(DialogSession *session);
     // Whether settings can be changed now: not while a job is on its way, nor after.
@@ -67,6 +68,7 @@ private:
         PrintError error;
     };
     static Lists readLists(const QString &queue);
+    void makeMenu();
     void openMenu();
     void fillMenu();
     void addChoice(const QString &text, const QString &name);
@@ -89,8 +91,8 @@ private:
     QString queue() const;
 
     QWidget *m_window;
-    QPushButton *m_button;
-    QMenu *m_menu;
+    MenuButton *m_button;
+    QMenu *m_menu = nullptr; // made when the button wants it
     QAction *m_undo;
     QAction *m_redo;
     DialogSession *m_session = nullptr;

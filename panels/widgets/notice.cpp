@@ -41,7 +41,6 @@ QVNotice_M880::QVNotice_M880(QWidget *parent)
 {
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_icon->setFixedSize(glyphSize, glyphSize);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(12, 8, 12, 8);
@@ -73,6 +72,13 @@ QSize QVNotice_M880::minimumSizeHint() const
 {
     const int width = isVisible() ? this->width() : leastWidth;
     return {leastWidth, heightForWidth(qMax(width, leastWidth))};
+}
+
+// Text that can be selected takes a whole text document, which most notices are never shown with.
+void QVNotice_M880::showEvent(QShowEvent *event)
+{
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFrame::showEvent(event);
 }
 
 void QVNotice_M880::resizeEvent(QResizeEvent *event)

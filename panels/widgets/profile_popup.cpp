@@ -23,10 +23,16 @@ const bool registered = [] {
 
 QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : ChoiceBox(parent)
 {
-    // A device may call its profiles anything; the pop-up keeps its width.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setIconSize({0, 0}); // its policy would leave room for one, and make it taller than other pop-ups
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
+}
+
+// A device may call its profiles anything; the pop-up keeps its width. Room for an icon would make it taller
+// than others.
+QSize QVProfilePopUp_M880::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return platform::sizeForLength(*this, option, QSize(0, 0));
 }
 
 void QVProfilePopUp_M880::setProfileNames(const QVariant &names)

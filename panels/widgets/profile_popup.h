@@ -35,6 +35,9 @@ public:
     QString unnamedText() const { return m_unnamedText; }
     void setUnnamedText(const QString &text);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 Q_SIGNALS:
     void profileChosen();
 
