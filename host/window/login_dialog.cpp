@@ -16,6 +16,8 @@ namespace host {
 
 namespace {
 
+constexpr int leastWidth = 380; // pixels
+
 struct LoginText
 {
     Q_DECLARE_TR_FUNCTIONS(LoginText)
@@ -38,6 +40,9 @@ std::optional<Login> showDialog(const LoginQuestion &question, QWidget *parent)
     password->setEchoMode(QLineEdit::Password);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     auto *form = new QFormLayout(&dialog);
+    form->setContentsMargins(20, 16, 20, 14);
+    form->setVerticalSpacing(10);
+    dialog.setMinimumWidth(leastWidth);
     if (question.again)
         form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), &dialog));
     form->addRow(sentence(LoginText::tr("The print server %1 wants to know who prints.").arg(question.server),
