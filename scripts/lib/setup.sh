@@ -14,6 +14,8 @@ run_packages=(
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n
 )
+# What scripts/pictures makes small pictures with.
+picture_packages=(imagemagick)
 check_packages=(clang-format)
 room_packages=(mmdebstrap git ccache iproute2)
 # What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.
