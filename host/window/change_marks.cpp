@@ -212,7 +212,9 @@ void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacle
     const bool isRightToLeft = sheet->isRightToLeft();
     const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
     const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet, obstacles); };
-    QPoint at = fits(first) || !fits(second) ? first : second;
+    const bool inColumn =
+        qobject_cast<const QAbstractSlider *>(widget); // all of them at the end of their lines
+    QPoint at = fits(first) || !fits(second) || inColumn ? first : second;
     const int step = isRightToLeft ? -2 : 2;
     while (!fits(at) && at.x() >= 0 && at.x() <= sheet->width())
         at.rx() += step;
