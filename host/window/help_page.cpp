@@ -33,12 +33,13 @@ public:
 // Like that of a page.
 void styleTitle(QTextCursor cursor, const QFont &font)
 {
-    QTextCharFormat title;
+    cursor.select(QTextCursor::BlockUnderCursor);
+    QTextCharFormat title = cursor.charFormat();
+    title.clearProperty(
+        QTextFormat::FontSizeAdjustment); // which Markdown comes with, and which goes before a size
     title.setFontWeight(QFont::Normal);
     title.setFontPointSize(font.pointSizeF() * 1.5);
-    title.setProperty(QTextFormat::FontSizeAdjustment, 0);
-    cursor.select(QTextCursor::BlockUnderCursor);
-    cursor.mergeCharFormat(title);
+    cursor.setCharFormat(title);
 }
 
 // More air between the lines and around the blocks than Markdown comes with.
