@@ -13,12 +13,14 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
+#include <QStyle>
 
 #include <algorithm>
 #include <memory>
@@ -206,7 +208,12 @@ void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacle
     mark->setVisible(widget->isVisibleTo(sheet));
     if (mark->isHidden())
         return;
-    const QRect around(widget->mapTo(sheet, QPoint()), widget->size());
+    QRect around(widget->mapTo(sheet, QPoint()), widget->size());
+    if (qobject_cast<const QCheckBox *>(widget)) { // its words may be shorter than its line
+        const QRect words(around.topLeft(),
+                          QSize(qMin(around.width(), widget->sizeHint().width()), around.height()));
+        around = QStyle::visualRect(sheet->layoutDirection(), around, words);
+    }
     const int top = around.center().y() - mark->height() / 2;
     const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
     const bool isRightToLeft = sheet->isRightToLeft();

@@ -7,7 +7,6 @@
 #include "host/window/dialog_button.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
-#include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
 #include "host/window/settings_control.h"
@@ -135,8 +134,6 @@ void PrintWindow::showFirst(PrinterOpening opening)
         return;
     }
     m_book->showPage(row);
-    if (focusWidget() == m_cancel) // where it went while there was nothing else
-        m_book->list()->setFocus(Qt::OtherFocusReason);
     if (m_isDismissed) // while a panel waited
         return;
     // On the shown page, so that panels answer the settings as they answer the user's.
