@@ -1358,11 +1358,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Die Einstellungen von „%1“ konnten nicht gesichert werden: %2</translation>
+        <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
     </message>
     <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
-        <translation>Ihre Voreinstellungen für diesen Drucker verlangen Werte, die er nicht kennt: %1.</translation>
+        <translation>Ihre Standardeinstellungen für diesen Drucker verlangen Werte, die er nicht kennt: %1.</translation>
     </message>
     <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
@@ -2114,15 +2114,15 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Defaults</source>
-        <translation>Voreinstellungen</translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Printer’s Defaults</source>
-        <translation>Voreinstellungen des Druckers</translation>
+        <translation>Standard des Druckers</translation>
     </message>
     <message>
         <source>My Defaults</source>
-        <translation>Meine Voreinstellungen</translation>
+        <translation>Mein Standard</translation>
     </message>
     <message>
         <source>Last Used</source>
@@ -2155,7 +2155,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Use as My &amp;Default for This Printer</source>
-        <translation>Als meine &amp;Voreinstellungen für diesen Drucker verwenden</translation>
+        <translation>Als meinen &amp;Standard für diesen Drucker verwenden</translation>
     </message>
     <message>
         <source>Delete Preset</source>

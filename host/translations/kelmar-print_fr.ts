@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>The same; names unknown here are handed to the print system.</source>
-        <translation>Idem ; les noms inconnus ici sont transmis au système d’impression.</translation>
+        <translation>Idem&#xa0;; les noms inconnus ici sont transmis au système d’impression.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Ouvrir le dialogue sur ce volet : general, more, summary, ou le nom ou le type d’un panneau.</translation>
+        <translation>Ouvrir le dialogue sur ce volet&#xa0;: general, more, summary, ou le nom ou le type d’un panneau.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Colors of the dialog: light or dark.</source>
-        <translation>Couleurs du dialogue : light (clair) ou dark (sombre).</translation>
+        <translation>Couleurs du dialogue&#xa0;: light (clair) ou dark (sombre).</translation>
     </message>
     <message>
         <source>Open the dialog, write how long it took and exit.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Documents to print; “-” is the standard input.</source>
-        <translation>Documents à imprimer ; « - » est l’entrée standard.</translation>
+        <translation>Documents à imprimer&#xa0;; «&#xa0;-&#xa0;» est l’entrée standard.</translation>
     </message>
     <message>
         <source>[FILE...]</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>--batch needs a printer to print to; --ppd alone names none.</source>
-        <translation>--batch demande une imprimante ; --ppd seul n’en désigne aucune.</translation>
+        <translation>--batch demande une imprimante&#xa0;; --ppd seul n’en désigne aucune.</translation>
     </message>
     <message>
         <source>--batch and --screenshot do not go together.</source>
@@ -148,14 +148,14 @@
 Print documents, with a dialog for the settings or without one.
 
 </source>
-        <translation>Usage : kelmar-print [OPTION...] [FICHIER...]
+        <translation>Usage&#xa0;: kelmar-print [OPTION...] [FICHIER...]
 Imprime des documents, avec ou sans dialogue de réglages.
 
 </translation>
     </message>
     <message>
         <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
-        <translation>Idem, la valeur étant lue sur la première ligne d’un fichier ; « - » est l’entrée standard.</translation>
+        <translation>Idem, la valeur étant lue sur la première ligne d’un fichier&#xa0;; «&#xa0;-&#xa0;» est l’entrée standard.</translation>
     </message>
     <message>
         <source>KEY</source>
@@ -167,7 +167,7 @@ Imprime des documents, avec ou sans dialogue de réglages.
     </message>
     <message>
         <source>--ask takes a key alone; the value is asked for.</source>
-        <translation>--ask prend seulement une clé ; la valeur est demandée ensuite.</translation>
+        <translation>--ask prend seulement une clé&#xa0;; la valeur est demandée ensuite.</translation>
     </message>
     <message>
         <source>-o takes NAME=VALUE or NAME.</source>
@@ -175,7 +175,7 @@ Imprime des documents, avec ou sans dialogue de réglages.
     </message>
     <message>
         <source>--%1 takes %2; there is no “=” behind a key.</source>
-        <translation>--%1 prend %2 ; il manque « = » après une clé.</translation>
+        <translation>--%1 prend %2&#xa0;; il manque «&#xa0;=&#xa0;» après une clé.</translation>
     </message>
     <message>
         <source>The standard input cannot be a value and a document at once.</source>
@@ -187,7 +187,7 @@ Imprime des documents, avec ou sans dialogue de réglages.
     </message>
     <message>
         <source>There is no option “%1”.</source>
-        <translation>Il n’y a pas d’option « %1 ».</translation>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>
@@ -195,13 +195,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
 </source>
         <translation>
-Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatibles,
+Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatibles,
 4 annulé, 5 on ne sait pas si la tâche a été acceptée. Voir aussi la page de manuel kelmar-print(1).
 </translation>
     </message>
     <message>
         <source>With --batch: write the pages into this PDF file instead of printing them.</source>
-        <translation>Avec --batch : écrire les pages dans ce fichier PDF au lieu de les imprimer.</translation>
+        <translation>Avec --batch&#xa0;: écrire les pages dans ce fichier PDF au lieu de les imprimer.</translation>
     </message>
     <message>
         <source>Write the presets of the printer.</source>
@@ -221,7 +221,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
-        <translation>Les préréglages sont liés à une imprimante ; --ppd seul n’en désigne aucune.</translation>
+        <translation>Les préréglages sont liés à une imprimante&#xa0;; --ppd seul n’en désigne aucune.</translation>
     </message>
     <message>
         <source>--resolve goes with --batch, --summary or --save-preset.</source>
@@ -236,58 +236,58 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>AttributesText</name>
     <message>
         <source>The print server did not take “%1”.</source>
-        <translation>Le serveur d’impression n’a pas retenu « %1 ».</translation>
+        <translation>Le serveur d’impression n’a pas retenu «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Le serveur d’impression a retenu pour « %1 » une autre valeur que celle envoyée.</translation>
+        <translation>Le serveur d’impression a retenu pour «&#xa0;%1&#xa0;» une autre valeur que celle envoyée.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Aucune solution conservant « %1 » n’a été trouvée : modifiez vous-même l’un des réglages.</translation>
+        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
     </message>
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Les mots de passe et les codes ne sont pas conservés dans le préréglage ; il faut les indiquer à chaque fois.</translation>
+        <translation>Les mots de passe et les codes ne sont pas conservés dans le préréglage&#xa0;; il faut les indiquer à chaque fois.</translation>
     </message>
 </context>
 <context>
     <name>CarryOverText</name>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
-        <translation>Cette imprimante ne connaît pas « %1 » : la tâche ne sera pas protégée.</translation>
+        <translation>Cette imprimante ne connaît pas «&#xa0;%1&#xa0;»&#xa0;: la tâche ne sera pas protégée.</translation>
     </message>
     <message>
         <source>This printer does not take over: %1.</source>
-        <translation>Cette imprimante ne reprend pas : %1.</translation>
+        <translation>Cette imprimante ne reprend pas&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>ChangeText</name>
     <message>
         <source>“%1” was reset to “%2”.</source>
-        <translation>« %1 » a été réinitialisé à « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» a été réinitialisé à «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” was changed to “%2”.</source>
-        <translation>« %1 » est passé à « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» est passé à «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>These were reset to “%2”: %1.</source>
         <comment>a list of options, a choice</comment>
-        <translation>Ont été réinitialisés à « %2 » : %1.</translation>
+        <translation>Ont été réinitialisés à «&#xa0;%2&#xa0;»&#xa0;: %1.</translation>
     </message>
     <message>
         <source>These were changed to “%2”: %1.</source>
         <comment>a list of options, a choice</comment>
-        <translation>Sont passés à « %2 » : %1.</translation>
+        <translation>Sont passés à «&#xa0;%2&#xa0;»&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The reason: “%1” is “%2”.</source>
-        <translation>La raison : « %1 » est réglé sur « %2 ».</translation>
+        <translation>La raison&#xa0;: «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -298,46 +298,46 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>%1: this printer has no “%2”.</source>
-        <translation>%1 : cette imprimante ne connaît pas « %2 ».</translation>
+        <translation>%1&#xa0;: cette imprimante ne connaît pas «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>the code for “%1”</source>
-        <translation>le code de « %1 »</translation>
+        <translation>le code de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>settings of “%1”</source>
-        <translation>réglages de « %1 »</translation>
+        <translation>réglages de «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>Les données à imprimer ne peuvent pas être conservées dans le dossier « %1 » : %2.</translation>
+        <translation>Les données à imprimer ne peuvent pas être conservées dans le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
-        <translation>Il n’y a pas de fichier « %1 ».</translation>
+        <translation>Il n’y a pas de fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” is a folder, not a document.</source>
-        <translation>« %1 » est un dossier, pas un document.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, pas un document.</translation>
     </message>
     <message>
         <source>“%1” is a device, not a document.</source>
-        <translation>« %1 » est un périphérique, pas un document.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un périphérique, pas un document.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
-        <translation>Le fichier « %1 » est illisible : %2.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est illisible&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file “%1” is empty.</source>
-        <translation>Le fichier « %1 » est vide.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est vide.</translation>
     </message>
     <message>
         <source>The standard input cannot be read: %1.</source>
-        <translation>L’entrée standard est illisible : %1.</translation>
+        <translation>L’entrée standard est illisible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Nothing came from the standard input.</source>
@@ -360,7 +360,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>Imprime chaque copie en entier avant de commencer la suivante : personne n’a à trier les pages.</translation>
+        <translation>Imprime chaque copie en entier avant de commencer la suivante&#xa0;: personne n’a à trier les pages.</translation>
     </message>
     <message>
         <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
@@ -387,14 +387,14 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>ExtensionsText</name>
     <message>
         <source>The print extension cannot be used: %1</source>
-        <translation>L’extension d’impression est inutilisable : %1</translation>
+        <translation>L’extension d’impression est inutilisable&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
-        <translation>en attente : l’imprimante est arrêtée</translation>
+        <translation>en attente&#xa0;: l’imprimante est arrêtée</translation>
     </message>
     <message>
         <source>waiting</source>
@@ -596,11 +596,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>&amp;User name:</source>
-        <translation>Nom d’&amp;utilisateur :</translation>
+        <translation>Nom d’&amp;utilisateur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>&amp;Mot de passe :</translation>
+        <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -621,7 +621,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>PageRangesText</name>
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
-        <translation>« %1 » n’est ni une page ni une plage de pages ; écrivez par exemple 1-3, 8.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni une page ni une plage de pages&#xa0;; écrivez par exemple 1-3, 8.</translation>
     </message>
 </context>
 <context>
@@ -652,7 +652,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>does not take this value: %1 has only %2</source>
-        <translation>n’accepte pas cette valeur : %1 n’a que %2</translation>
+        <translation>n’accepte pas cette valeur&#xa0;: %1 n’a que %2</translation>
     </message>
     <message>
         <source>%1 %2.</source>
@@ -668,15 +668,15 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>
-        <translation>L’imprimante « %1 » n’est pas proposée ici. %2</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’est pas proposée ici. %2</translation>
     </message>
     <message>
         <source>“%1” has to be “%2”.</source>
-        <translation>« %1 » doit être réglé sur « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» doit être réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
-        <translation>« %1 » doit être réglé sur « %2 », avec un code.</translation>
+        <translation>«&#xa0;%1&#xa0;» doit être réglé sur «&#xa0;%2&#xa0;», avec un code.</translation>
     </message>
 </context>
 <context>
@@ -687,39 +687,39 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
-        <translation>%1, ligne %2, colonne %3 : %4</translation>
+        <translation>%1, ligne %2, colonne %3&#xa0;: %4</translation>
     </message>
     <message>
         <source>“%1” is not known here; known are %2</source>
-        <translation>« %1 » est inconnu ici ; sont connus : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est inconnu ici&#xa0;; sont connus&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” takes a list of names</source>
-        <translation>« %1 » prend une liste de noms</translation>
+        <translation>«&#xa0;%1&#xa0;» prend une liste de noms</translation>
     </message>
     <message>
         <source>“%1” takes an object of options and choices</source>
-        <translation>« %1 » prend un objet d’options et de choix</translation>
+        <translation>«&#xa0;%1&#xa0;» prend un objet d’options et de choix</translation>
     </message>
     <message>
         <source>“%1” takes a choice in quotes</source>
-        <translation>« %1 » prend un choix entre guillemets</translation>
+        <translation>«&#xa0;%1&#xa0;» prend un choix entre guillemets</translation>
     </message>
     <message>
         <source>“contact” takes a text</source>
-        <translation>« contact » prend un texte</translation>
+        <translation>«&#xa0;contact&#xa0;» prend un texte</translation>
     </message>
     <message>
         <source>“rules” takes a list</source>
-        <translation>« rules » prend une liste</translation>
+        <translation>«&#xa0;rules&#xa0;» prend une liste</translation>
     </message>
     <message>
         <source>“rules” takes objects in braces</source>
-        <translation>« rules » prend des objets entre accolades</translation>
+        <translation>«&#xa0;rules&#xa0;» prend des objets entre accolades</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>%1 est illisible : %2</translation>
+        <translation>%1 est illisible&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is larger than 1 MB.</source>
@@ -727,7 +727,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The administrator&apos;s rules for printing are not in force, since they cannot be read. Please tell your administrator: %1</source>
-        <translation>Les règles d’impression de l’administrateur ne sont pas appliquées, car elles sont illisibles. Veuillez en informer votre administrateur : %1</translation>
+        <translation>Les règles d’impression de l’administrateur ne sont pas appliquées, car elles sont illisibles. Veuillez en informer votre administrateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Set by the administrator.</source>
@@ -754,7 +754,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation>Il est illisible : %1.</translation>
+        <translation>Il est illisible&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Print</source>
@@ -762,15 +762,15 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Print “%1”</source>
-        <translation>Imprimer « %1 »</translation>
+        <translation>Imprimer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The document has not been printed on “%1”.</source>
-        <translation>Le document n’a pas été imprimé sur « %1 ».</translation>
+        <translation>Le document n’a pas été imprimé sur «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>Le document a été envoyé à « %1 », mais pas tout à fait comme demandé.</translation>
+        <translation>Le document a été envoyé à «&#xa0;%1&#xa0;», mais pas tout à fait comme demandé.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -827,7 +827,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1: %2</source>
         <comment>name and value</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -836,7 +836,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>sizes from %1 × %2 to %3 × %4 pt, such as Custom.%5 (units: pt, mm, cm, m, in, ft)</source>
-        <translation>des tailles de %1 × %2 à %3 × %4 pt, comme Custom.%5 (unités : pt, mm, cm, m, in, ft)</translation>
+        <translation>des tailles de %1 × %2 à %3 × %4 pt, comme Custom.%5 (unités&#xa0;: pt, mm, cm, m, in, ft)</translation>
     </message>
     <message>
         <source>Custom. followed by %1</source>
@@ -860,72 +860,72 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1: %2</source>
         <comment>option and its choice</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>There is no PPD file “%1”.</source>
-        <translation>Il n’y a pas de fichier PPD « %1 ».</translation>
+        <translation>Il n’y a pas de fichier PPD «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>You are not allowed to read the PPD file “%1”.</source>
-        <translation>Vous n’avez pas le droit de lire le fichier PPD « %1 ».</translation>
+        <translation>Vous n’avez pas le droit de lire le fichier PPD «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The PPD file “%1”</source>
-        <translation>Le fichier PPD « %1 »</translation>
+        <translation>Le fichier PPD «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>The PPD of “%1”</source>
-        <translation>Le PPD de « %1 »</translation>
+        <translation>Le PPD de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 is broken: line %2: %3.</source>
-        <translation>%1 est défectueux : ligne %2 : %3.</translation>
+        <translation>%1 est défectueux&#xa0;: ligne %2&#xa0;: %3.</translation>
     </message>
     <message>
         <source>%1 is too large: more than %2 MB.</source>
-        <translation>%1 est trop volumineux : plus de %2 Mo.</translation>
+        <translation>%1 est trop volumineux&#xa0;: plus de %2 Mo.</translation>
     </message>
     <message>
         <source>There is no memory for the PPD of “%1”: %2.</source>
-        <translation>La mémoire manque pour le PPD de « %1 » : %2.</translation>
+        <translation>La mémoire manque pour le PPD de «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
-        <translation>Un préréglage ne peut pas conserver la valeur de « %1 » : elle contient une tabulation, un saut de ligne ou un autre caractère que son fichier ne permet pas d’écrire.</translation>
+        <translation>Un préréglage ne peut pas conserver la valeur de «&#xa0;%1&#xa0;»&#xa0;: elle contient une tabulation, un saut de ligne ou un autre caractère que son fichier ne permet pas d’écrire.</translation>
     </message>
     <message>
         <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Ces réglages sont trop nombreux pour un préréglage : son fichier accepte %1 octets.</translation>
+        <translation>Ces réglages sont trop nombreux pour un préréglage&#xa0;: son fichier accepte %1 octets.</translation>
     </message>
     <message>
         <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>Cette imprimante n’a pas ce que ces réglages demandent : %1.</translation>
+        <translation>Cette imprimante n’a pas ce que ces réglages demandent&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>PrintSystemText</name>
     <message>
         <source>No default printer has been set; choose a printer by name.</source>
-        <translation>Aucune imprimante par défaut n’est définie ; désignez une imprimante par son nom.</translation>
+        <translation>Aucune imprimante par défaut n’est définie&#xa0;; désignez une imprimante par son nom.</translation>
     </message>
     <message>
         <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
-        <translation>« %1 » ouvre le dialogue d’impression et n’imprime rien elle-même ; choisissez une autre imprimante.</translation>
+        <translation>«&#xa0;%1&#xa0;» ouvre le dialogue d’impression et n’imprime rien elle-même&#xa0;; choisissez une autre imprimante.</translation>
     </message>
     <message>
         <source>There is no printer called “%1”.</source>
-        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+        <translation>Il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>PrinterText</name>
     <message>
         <source>Stopped: jobs wait until it is started again</source>
-        <translation>Arrêtée : les tâches attendent sa remise en marche</translation>
+        <translation>Arrêtée&#xa0;: les tâches attendent sa remise en marche</translation>
     </message>
     <message>
         <source>Not accepting jobs</source>
@@ -944,11 +944,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>ProtectionText</name>
     <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>« %1 » a été choisi, mais aucun code n’a été indiqué.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été choisi, mais aucun code n’a été indiqué.</translation>
     </message>
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>Un code a été indiqué, mais « %1 » n’a pas été choisi : la tâche n’est pas protégée.</translation>
+        <translation>Un code a été indiqué, mais «&#xa0;%1&#xa0;» n’a pas été choisi&#xa0;: la tâche n’est pas protégée.</translation>
     </message>
 </context>
 <context>
@@ -959,7 +959,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Changed to end a conflict: %1</source>
-        <translation>Modifié pour résoudre un conflit : %1</translation>
+        <translation>Modifié pour résoudre un conflit&#xa0;: %1</translation>
     </message>
     <message>
         <source>Keys of the panels</source>
@@ -971,19 +971,19 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Job %1: %2.</source>
-        <translation>Tâche %1 : %2.</translation>
+        <translation>Tâche %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>These settings cannot be used together:</source>
-        <translation>Ces réglages sont incompatibles :</translation>
+        <translation>Ces réglages sont incompatibles&#xa0;:</translation>
     </message>
     <message>
         <source>Proposal (accepted with --resolve):</source>
-        <translation>Proposition (acceptée avec --resolve) :</translation>
+        <translation>Proposition (acceptée avec --resolve)&#xa0;:</translation>
     </message>
     <message>
         <source>The result cannot be written: %1.</source>
-        <translation>Le résultat ne peut pas être écrit : %1.</translation>
+        <translation>Le résultat ne peut pas être écrit&#xa0;: %1.</translation>
     </message>
     <message>
         <source>and %1</source>
@@ -991,22 +991,22 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>“%1” has been written.</source>
-        <translation>« %1 » a été écrit.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été écrit.</translation>
     </message>
     <message>
         <source>The preset “%1” has been deleted.</source>
-        <translation>Le préréglage « %1 » a été supprimé.</translation>
+        <translation>Le préréglage «&#xa0;%1&#xa0;» a été supprimé.</translation>
     </message>
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
-        <translation>Les réglages ont été enregistrés dans le préréglage « %1 ».</translation>
+        <translation>Les réglages ont été enregistrés dans le préréglage «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>RunText</name>
     <message>
         <source>The picture “%1” cannot be written.</source>
-        <translation>L’image « %1 » ne peut pas être écrite.</translation>
+        <translation>L’image «&#xa0;%1&#xa0;» ne peut pas être écrite.</translation>
     </message>
     <message>
         <source>request id is %1</source>
@@ -1021,7 +1021,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The printer “%1” wants a user name and a password.</source>
-        <translation>L’imprimante « %1 » demande un nom d’utilisateur et un mot de passe.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» demande un nom d’utilisateur et un mot de passe.</translation>
     </message>
     <message>
         <source>The print server %1 cannot be reached.</source>
@@ -1049,7 +1049,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>There is no printer called “%1”.</source>
-        <translation>Il n’y a pas d’imprimante nommée « %1 ».</translation>
+        <translation>Il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>No printer has been set up.</source>
@@ -1057,19 +1057,19 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The printer “%1” is not accepting jobs at the moment.</source>
-        <translation>L’imprimante « %1 » n’accepte pas de tâches actuellement.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’accepte pas de tâches actuellement.</translation>
     </message>
     <message>
         <source>You are not allowed to print to “%1” (%2).</source>
-        <translation>Vous n’avez pas le droit d’imprimer sur « %1 » (%2).</translation>
+        <translation>Vous n’avez pas le droit d’imprimer sur «&#xa0;%1&#xa0;» (%2).</translation>
     </message>
     <message>
         <source>The printer “%1” cannot print documents of this type.</source>
-        <translation>L’imprimante « %1 » ne peut pas imprimer ce type de documents.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» ne peut pas imprimer ce type de documents.</translation>
     </message>
     <message>
         <source>The print server reports: %1</source>
-        <translation>Le serveur d’impression signale : %1</translation>
+        <translation>Le serveur d’impression signale&#xa0;: %1</translation>
     </message>
     <message>
         <source>The print server %1 sends a file of more than %2 megabytes.</source>
@@ -1084,11 +1084,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>SettingText</name>
     <message>
         <source>%1 has no choice “%2”; it has %3.</source>
-        <translation>%1 n’a pas de choix « %2 » ; il a %3.</translation>
+        <translation>%1 n’a pas de choix «&#xa0;%2&#xa0;»&#xa0;; il a %3.</translation>
     </message>
     <message>
         <source>This printer has no option or setting called “%1”.</source>
-        <translation>Cette imprimante n’a pas d’option ni de réglage nommé « %1 ».</translation>
+        <translation>Cette imprimante n’a pas d’option ni de réglage nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>copies takes a number from 1 to %1.</source>
@@ -1100,7 +1100,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>%1 is not sent with the job: %2</source>
-        <translation>%1 n’est pas envoyé avec la tâche : %2</translation>
+        <translation>%1 n’est pas envoyé avec la tâche&#xa0;: %2</translation>
     </message>
     <message>
         <source>page-ranges does not take this value.</source>
@@ -1112,30 +1112,30 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>“%1” has to be “%2”. %3</source>
-        <translation>« %1 » doit être réglé sur « %2 ». %3</translation>
+        <translation>«&#xa0;%1&#xa0;» doit être réglé sur «&#xa0;%2&#xa0;». %3</translation>
     </message>
     <message>
         <source>“%1” cannot be changed here. %2</source>
-        <translation>« %1 » ne peut pas être modifié ici. %2</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être modifié ici. %2</translation>
     </message>
 </context>
 <context>
     <name>StoreText</name>
     <message>
         <source>The presets in “%1” cannot be read or changed: %2.</source>
-        <translation>Les préréglages de « %1 » ne peuvent être ni lus ni modifiés : %2.</translation>
+        <translation>Les préréglages de «&#xa0;%1&#xa0;» ne peuvent être ni lus ni modifiés&#xa0;: %2.</translation>
     </message>
     <message>
         <source>There is no preset called “%1”.</source>
-        <translation>Il n’y a pas de préréglage nommé « %1 ».</translation>
+        <translation>Il n’y a pas de préréglage nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is already a preset called “%1”.</source>
-        <translation>Il y a déjà un préréglage nommé « %1 ».</translation>
+        <translation>Il y a déjà un préréglage nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
-        <translation>« %1 » est destiné à tous les utilisateurs de cet ordinateur ; seul un administrateur peut le modifier.</translation>
+        <translation>«&#xa0;%1&#xa0;» est destiné à tous les utilisateurs de cet ordinateur&#xa0;; seul un administrateur peut le modifier.</translation>
     </message>
     <message>
         <source>A preset needs a name.</source>
@@ -1147,7 +1147,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>Le nom d’un préréglage ne peut pas contenir d’espace ; « %1 » conviendrait.</translation>
+        <translation>Le nom d’un préréglage ne peut pas contenir d’espace&#xa0;; «&#xa0;%1&#xa0;» conviendrait.</translation>
     </message>
     <message>
         <source>The name of a preset can hold no control characters.</source>
@@ -1155,22 +1155,22 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
-        <translation>Le nom d’un préréglage ne peut contenir aucun de ces caractères : / \ # &quot; &apos; =</translation>
+        <translation>Le nom d’un préréglage ne peut contenir aucun de ces caractères&#xa0;: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
     <name>SubmitText</name>
     <message>
         <source>The printer “%1” is not accepting jobs at the moment.</source>
-        <translation>L’imprimante « %1 » n’accepte pas de tâches actuellement.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’accepte pas de tâches actuellement.</translation>
     </message>
     <message>
         <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
-        <translation>« %1 » ne peut pas être imprimé : l’imprimante « %2 » n’accepte pas les documents de type %3.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être imprimé&#xa0;: l’imprimante «&#xa0;%2&#xa0;» n’accepte pas les documents de type %3.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
-        <translation>Le fichier « %1 » est illisible : %2.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est illisible&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The unfinished job %1 could not be canceled.</source>
@@ -1182,7 +1182,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>It is not known whether the job was accepted. It may print; look at the queue before printing again.</source>
-        <translation>On ne sait pas si la tâche a été acceptée. Elle sera peut-être imprimée ; consultez la file d’attente avant de relancer l’impression.</translation>
+        <translation>On ne sait pas si la tâche a été acceptée. Elle sera peut-être imprimée&#xa0;; consultez la file d’attente avant de relancer l’impression.</translation>
     </message>
     <message>
         <source>The print server did not tell which settings it kept for the job.</source>
@@ -1248,18 +1248,18 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>User name for %1 [%2]: </source>
-        <translation>Nom d’utilisateur pour %1 [%2] : </translation>
+        <translation>Nom d’utilisateur pour %1 [%2]&#xa0;: </translation>
     </message>
     <message>
         <source>Password: </source>
-        <translation>Mot de passe : </translation>
+        <translation>Mot de passe&#xa0;: </translation>
     </message>
 </context>
 <context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
-        <translation>La valeur de %1 est illisible : %2.</translation>
+        <translation>La valeur de %1 est illisible&#xa0;: %2.</translation>
     </message>
     <message>
         <source>its first line is longer than %1 bytes</source>
@@ -1275,12 +1275,12 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>there is no terminal to ask on; --set-file takes it from a file or, as %1=-, from the standard input</source>
-        <translation>aucun terminal ne permet de la demander ; --set-file la prend dans un fichier ou, avec %1=-, sur l’entrée standard</translation>
+        <translation>aucun terminal ne permet de la demander&#xa0;; --set-file la prend dans un fichier ou, avec %1=-, sur l’entrée standard</translation>
     </message>
     <message>
         <source>%1: </source>
         <comment>prompt for a value</comment>
-        <translation>%1 : </translation>
+        <translation>%1&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -1291,7 +1291,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Back to “%1”</source>
-        <translation>Revenir à « %1 »</translation>
+        <translation>Revenir à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Changed. %1</source>
@@ -1303,7 +1303,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Changed; it was “%1”</source>
-        <translation>Modifié ; c’était « %1 »</translation>
+        <translation>Modifié&#xa0;; c’était «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1333,7 +1333,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1:</source>
         <comment>label of a field</comment>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source> pt</source>
@@ -1350,27 +1350,27 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>host::DialogSession</name>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
-        <translation>Une page des réglages de l’imprimante ne peut pas être affichée : %1</translation>
+        <translation>Une page des réglages de l’imprimante ne peut pas être affichée&#xa0;: %1</translation>
     </message>
     <message>
         <source>“%1” could not be prepared: %2</source>
-        <translation>« %1 » n’a pas pu être préparé : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être préparé&#xa0;: %2</translation>
     </message>
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Les réglages de « %1 » n’ont pas pu être enregistrés : %2</translation>
+        <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
     </message>
     <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
-        <translation>Vos valeurs par défaut pour cette imprimante demandent des choix qu’elle n’a pas : %1.</translation>
+        <translation>Vos valeurs par défaut pour cette imprimante demandent des choix qu’elle n’a pas&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
-        <translation>Des réglages enregistrés de « %1 » ne sont pas envoyés avec la tâche (%2) : %3</translation>
+        <translation>Des réglages enregistrés de «&#xa0;%1&#xa0;» ne sont pas envoyés avec la tâche (%2)&#xa0;: %3</translation>
     </message>
     <message>
         <source>“%1” stays “%2”. %3</source>
-        <translation>« %1 » reste réglé sur « %2 ». %3</translation>
+        <translation>«&#xa0;%1&#xa0;» reste réglé sur «&#xa0;%2&#xa0;». %3</translation>
     </message>
 </context>
 <context>
@@ -1399,11 +1399,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>&amp;Range:</source>
-        <translation>P&amp;lage :</translation>
+        <translation>P&amp;lage&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
-        <translation>&amp;Copies :</translation>
+        <translation>&amp;Copies&#xa0;:</translation>
     </message>
     <message>
         <source>Copies</source>
@@ -1423,7 +1423,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Pages:</source>
-        <translation>Pages :</translation>
+        <translation>Pages&#xa0;:</translation>
     </message>
     <message>
         <source>Type which pages are to be printed, or choose all.</source>
@@ -1431,11 +1431,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Documents:</source>
-        <translation>Documents :</translation>
+        <translation>Documents&#xa0;:</translation>
     </message>
     <message>
         <source>Save as PDF…</source>
@@ -1474,16 +1474,16 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>host::GreyedChoices</name>
     <message>
         <source>To use it, other settings have to change:</source>
-        <translation>Pour l’utiliser, d’autres réglages doivent changer :</translation>
+        <translation>Pour l’utiliser, d’autres réglages doivent changer&#xa0;:</translation>
     </message>
     <message>
         <source>%1 instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 au lieu de « %2 »</translation>
+        <translation>%1 au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
-        <translation>Cela revient à renoncer à « %1 », qui protège votre document.</translation>
+        <translation>Cela revient à renoncer à «&#xa0;%1&#xa0;», qui protège votre document.</translation>
     </message>
     <message>
         <source>Change and &amp;Use It</source>
@@ -1499,11 +1499,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>« %1 » s’y oppose, et aucune modification permettant de lever cet obstacle n’a été trouvée.</translation>
+        <translation>«&#xa0;%1&#xa0;» s’y oppose, et aucune modification permettant de lever cet obstacle n’a été trouvée.</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
-        <translation>« %1 » n’est pas disponible actuellement</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas disponible actuellement</translation>
     </message>
 </context>
 <context>
@@ -1525,27 +1525,27 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Pages per side:</source>
-        <translation>Pages par face :</translation>
+        <translation>Pages par face&#xa0;:</translation>
     </message>
     <message>
         <source>Order:</source>
-        <translation>Ordre :</translation>
+        <translation>Ordre&#xa0;:</translation>
     </message>
     <message>
         <source>Border:</source>
-        <translation>Bordure :</translation>
+        <translation>Bordure&#xa0;:</translation>
     </message>
     <message>
         <source>Orientation:</source>
-        <translation>Orientation :</translation>
+        <translation>Orientation&#xa0;:</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
-        <translation>Impaires ou paires :</translation>
+        <translation>Impaires ou paires&#xa0;:</translation>
     </message>
     <message>
         <source>Last page first</source>
@@ -1553,7 +1553,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1594,7 +1594,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1:</source>
         <comment>label of a field</comment>
-        <translation>%1 :</translation>
+        <translation>%1&#xa0;:</translation>
     </message>
     <message>
         <source>%1…</source>
@@ -1603,7 +1603,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que « %1 » est réglé sur « %2 ».</translation>
+        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1626,7 +1626,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Fixed: %1. %2</source>
-        <translation>Imposé : %1. %2</translation>
+        <translation>Imposé&#xa0;: %1. %2</translation>
     </message>
 </context>
 <context>
@@ -1642,7 +1642,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
-        <translation>%1 : contient des réglages modifiés</translation>
+        <translation>%1&#xa0;: contient des réglages modifiés</translation>
     </message>
 </context>
 <context>
@@ -1665,7 +1665,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>%1 failed: %2</source>
-        <translation>%1 a échoué : %2</translation>
+        <translation>%1 a échoué&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1683,7 +1683,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>host::PdfWriter</name>
     <message>
         <source>“%1” cannot be written: %2.</source>
-        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it is a link to another file</source>
@@ -1703,11 +1703,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>The PDF file cannot be made: %1.</source>
-        <translation>Le fichier PDF ne peut pas être créé : %1.</translation>
+        <translation>Le fichier PDF ne peut pas être créé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>“%1” cannot be made into a PDF file: %2.</source>
-        <translation>« %1 » ne peut pas être converti en fichier PDF : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être converti en fichier PDF&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1726,7 +1726,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation>&amp;Nom du préréglage :</translation>
+        <translation>&amp;Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Others who use this computer may read them in the file of the presets.</source>
@@ -1773,7 +1773,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>%1 failed: %2</source>
-        <translation>%1 a échoué : %2</translation>
+        <translation>%1 a échoué&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1788,7 +1788,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>No preview: %1.</source>
-        <translation>Pas d’aperçu : %1.</translation>
+        <translation>Pas d’aperçu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>This page cannot be shown.</source>
@@ -1845,7 +1845,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>There is no pane called “%1”.</source>
-        <translation>Il n’y a pas de volet nommé « %1 ».</translation>
+        <translation>Il n’y a pas de volet nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>
@@ -1857,7 +1857,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Suggestion: %1</source>
-        <translation>Suggestion : %1</translation>
+        <translation>Suggestion&#xa0;: %1</translation>
     </message>
     <message>
         <source>App&amp;ly Suggestion</source>
@@ -1885,11 +1885,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Aucune solution conservant « %1 » n’a été trouvée : modifiez vous-même l’un des réglages.</translation>
+        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -1913,7 +1913,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>« %1 » protège votre document. Si vous imprimez quand même, l’imprimante risque d’imprimer sans cette protection.</translation>
+        <translation>«&#xa0;%1&#xa0;» protège votre document. Si vous imprimez quand même, l’imprimante risque d’imprimer sans cette protection.</translation>
     </message>
     <message>
         <source>Use An&amp;yway</source>
@@ -1967,11 +1967,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>&amp;Printer:</source>
-        <translation>Imp&amp;rimante :</translation>
+        <translation>Imp&amp;rimante&#xa0;:</translation>
     </message>
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
-        <translation>Options d’un fichier PPD ; il n’y a pas d’imprimante</translation>
+        <translation>Options d’un fichier PPD&#xa0;; il n’y a pas d’imprimante</translation>
     </message>
 </context>
 <context>
@@ -2037,19 +2037,19 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     <name>host::ResultPage</name>
     <message>
         <source>Sent to “%1”</source>
-        <translation>Envoyé à « %1 »</translation>
+        <translation>Envoyé à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Job %1: %2</source>
-        <translation>Tâche %1 : %2</translation>
+        <translation>Tâche %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Perhaps sent to “%1”</source>
-        <translation>Peut-être envoyé à « %1 »</translation>
+        <translation>Peut-être envoyé à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>Une tâche confidentielle est imprimée dès que vous saisissez son code sur l’imprimante « %1 ».</translation>
+        <translation>Une tâche confidentielle est imprimée dès que vous saisissez son code sur l’imprimante «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2069,7 +2069,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Pages printed so far: %1</source>
-        <translation>Pages imprimées jusqu’ici : %1</translation>
+        <translation>Pages imprimées jusqu’ici&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2135,11 +2135,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Settings: %1</source>
-        <translation>Réglages : %1</translation>
+        <translation>Réglages&#xa0;: %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
-        <translation>Enregistrer « %1 »</translation>
+        <translation>Enregistrer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
@@ -2147,11 +2147,11 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Rename “%1”…</source>
-        <translation>Renommer « %1 »…</translation>
+        <translation>Renommer «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Delete “%1”…</source>
-        <translation>Supprimer « %1 »…</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>Use as My &amp;Default for This Printer</source>
@@ -2163,7 +2163,7 @@ Codes de retour : 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatib
     </message>
     <message>
         <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>Supprimer le préréglage « %1 » ? D’autres programmes l’utilisent aussi.</translation>
+        <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;? D’autres programmes l’utilisent aussi.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>

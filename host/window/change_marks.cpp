@@ -13,12 +13,14 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSpinBox>
+#include <QStyle>
 
 #include <algorithm>
 #include <memory>
@@ -214,13 +216,20 @@ void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacle
     mark->setVisible(widget->isVisibleTo(sheet));
     if (mark->isHidden())
         return;
-    const QRect around(widget->mapTo(sheet, QPoint()), widget->size());
+    QRect around(widget->mapTo(sheet, QPoint()), widget->size());
+    if (qobject_cast<const QCheckBox *>(widget)) { // its words may be shorter than its line
+        const QRect words(around.topLeft(),
+                          QSize(qMin(around.width(), widget->sizeHint().width()), around.height()));
+        around = QStyle::visualRect(sheet->layoutDirection(), around, words);
+    }
     const int top = around.center().y() - mark->height() / 2;
     const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
     const bool isRightToLeft = sheet->isRightToLeft();
     const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
     const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet, obstacles); };
-    QPoint at = fits(first) || !fits(second) ? first : second;
+    const bool inColumn =
+        qobject_cast<const QAbstractSlider *>(widget); // all of them at the end of their lines
+    QPoint at = fits(first) || !fits(second) || inColumn ? first : second;
     const int step = isRightToLeft ? -2 : 2;
     while (!fits(at) && at.x() >= 0 && at.x() <= sheet->width())
         at.rx() += step;

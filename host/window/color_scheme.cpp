@@ -43,6 +43,16 @@ QPalette paletteOf(const Scheme &scheme)
     return palette;
 }
 
+// Of what is ticked, so that it stands out where it is not.
+void setIndicatorGround(const QColor &ground)
+{
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Active, QPalette::Base, ground);
+    palette.setColor(QPalette::Inactive, QPalette::Base, ground);
+    QApplication::setPalette(palette, "QCheckBox");
+    QApplication::setPalette(palette, "QRadioButton");
+}
+
 } // namespace
 
 void applyColorScheme(const QString &name)
@@ -52,6 +62,8 @@ void applyColorScheme(const QString &name)
         return;
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(paletteOf(dark ? darkScheme : lightScheme));
+    if (dark) // the style surrounds these with a line that is darker still
+        setIndicatorGround({0x74, 0x79, 0x82});
     QToolTip::setPalette(QApplication::palette());
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/window/custom_editor.h"
 
+#include "host/window/contrast.h"
 #include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 
@@ -202,7 +203,8 @@ void CustomEditor::setRanges()
         for (const CustomParameter &parameter : m_custom.parameters) {
             const QString limits = parameter.inWords();
             words.append(m_custom.parameters.size() > 1
-                             ? QStringLiteral("%1: %2").arg(oneLine(parameter.text, 40), limits)
+                             ? tr("%1:", "label of a field").arg(oneLine(parameter.text, 40)) +
+                                   QLatin1Char(' ') + limits
                              : limits.left(1).toUpper() + limits.mid(1));
         }
     }
@@ -228,7 +230,7 @@ void CustomEditor::colourHint(bool wrong)
     QColor colour = palette().color(QPalette::WindowText);
     colour.setAlphaF(0.72F);
     QPalette changed = m_hint->palette();
-    changed.setColor(QPalette::WindowText, wrong ? QColor(0xd0, 0x3b, 0x3b) : colour);
+    changed.setColor(QPalette::WindowText, wrong ? errorInk(palette()) : colour);
     m_hint->setPalette(changed);
 }
 

@@ -161,7 +161,7 @@ void GeneralPage::addCopies(QGridLayout *grid)
     label->setBuddy(m_copies);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     auto *row = new QHBoxLayout;
-    row->setSpacing(16);
+    row->setSpacing(24); // the sign of a change has room
     row->addWidget(m_copies);
     row->addWidget(m_collate);
     row->addStretch(1);

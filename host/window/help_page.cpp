@@ -14,6 +14,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -28,16 +30,34 @@ public:
     QVariant loadResource(int, const QUrl &) override { return {}; }
 };
 
+// Like that of a page.
+void styleTitle(QTextCursor cursor, const QFont &font)
+{
+    cursor.select(QTextCursor::BlockUnderCursor);
+    QTextCharFormat title = cursor.charFormat();
+    title.clearProperty(
+        QTextFormat::FontSizeAdjustment); // which Markdown comes with, and which goes before a size
+    title.setFontWeight(QFont::Normal);
+    title.setFontPointSize(font.pointSizeF() * 1.5);
+    cursor.setCharFormat(title);
+}
+
 // More air between the lines and around the blocks than Markdown comes with.
 void space(QTextDocument *document)
 {
+    bool wasInList = false;
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         QTextCursor cursor(block);
         QTextBlockFormat format = block.blockFormat();
         format.setLineHeight(125, QTextBlockFormat::ProportionalHeight);
-        format.setTopMargin(format.headingLevel() > 1 ? 14 : 2);
+        const bool isInList = block.textList();
+        format.setTopMargin(format.headingLevel() > 1                         ? 14
+                            : std::exchange(wasInList, isInList) && !isInList ? 10
+                                                                              : 2);
         format.setBottomMargin(block.textList() ? 2 : 6);
         cursor.setBlockFormat(format);
+        if (format.headingLevel() == 1)
+            styleTitle(cursor, document->defaultFont());
     }
 }
 

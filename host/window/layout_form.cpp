@@ -70,7 +70,7 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
     auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMaximumWidth(mostWidth);
     box->setObjectName(name);
-    box->setAccessibleName(label.chopped(1));
+    box->setAccessibleName(label.chopped(1).trimmed());
     box->setWhatsThis(explanationOf(name));
     for (const QString &value : values)
         box->addItem(name == numberUp ? value : layoutValueText(name, value), value);
@@ -138,9 +138,10 @@ void LayoutForm::refresh()
         row.box->setCurrentIndex(row.box->findData(value));
         if (row.name == order) {
             row.box->setEnabled(several);
-            row.box->setToolTip(several ? QString()
-                                        : tr("Not available while \"%1\" is \"%2\".")
-                                              .arg(tr("Pages per side:").chopped(1), QString::number(1)));
+            row.box->setToolTip(
+                several ? QString()
+                        : tr("Not available while \"%1\" is \"%2\".")
+                              .arg(tr("Pages per side:").chopped(1).trimmed(), QString::number(1)));
         }
     }
     const QSignalBlocker quiet(m_reverse);

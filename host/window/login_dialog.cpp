@@ -20,6 +20,8 @@ namespace host {
 
 namespace {
 
+constexpr int leastWidth = 380; // pixels
+
 struct LoginText
 {
     Q_DECLARE_TR_FUNCTIONS(LoginText)
@@ -43,6 +45,9 @@ public:
         m_password->setEchoMode(QLineEdit::Password);
         auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
         auto *form = new QFormLayout(this);
+        form->setContentsMargins(20, 16, 20, 14);
+        form->setVerticalSpacing(10);
+        setMinimumWidth(leastWidth);
         if (question.again)
             form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), this));
         form->addRow(sentence(

@@ -167,6 +167,7 @@ void PageBook::makeFrame(Page *page)
     QWidget *content = contentOf(*page);
     content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
+    connect(page->frame, &PageFrame::wantedWidthChanged, this, &PageBook::fitPreview);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     if (page->panel >= 0)

@@ -13,6 +13,7 @@
 #include <QAbstractSpinBox>
 #include <QLabel>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QTimer>
 #include <QVariantAnimation>
@@ -33,10 +34,11 @@ QString keywordOf(const QWidget *control)
     return platform::keyPathSetBy(control);
 }
 
-// "Copies" of "&Copies:".
+// "Copies" of "&Copies:", "部数" of "部数(&C):".
 QString bare(QString text)
 {
-    text.remove(QLatin1Char('&'));
+    static const QRegularExpression bracketedKey(QStringLiteral("\\s?\\(&[^&]\\)"));
+    text.remove(bracketedKey).remove(QLatin1Char('&'));
     while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a)))
         text.chop(1);
     return text.trimmed();

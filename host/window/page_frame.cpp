@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -66,6 +68,7 @@ PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content
     sheet->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
     content->show();
+    sheet->installEventFilter(this);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -79,6 +82,15 @@ int PageFrame::wantedWidth() const
 {
     const int inner = m_scroll->widget()->minimumSizeHint().width();
     return inner + m_scroll->verticalScrollBar()->sizeHint().width();
+}
+
+// A row has come, or a text is longer than it was.
+bool PageFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    const int wanted = event->type() == QEvent::LayoutRequest ? wantedWidth() : m_wantedWidth;
+    if (std::exchange(m_wantedWidth, wanted) != wanted)
+        Q_EMIT wantedWidthChanged();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PageFrame::scrollToTop()

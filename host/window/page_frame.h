@@ -26,9 +26,16 @@ public:
     // Brings a control of the page into view.
     void reveal(QWidget *control);
 
+Q_SIGNALS:
+    void wantedWidthChanged();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QScrollArea *m_scroll;
     QPointer<QWidget> m_content;
+    int m_wantedWidth = 0; // that was told last
 };
 
 } // namespace host

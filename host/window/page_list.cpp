@@ -15,6 +15,7 @@ namespace {
 
 constexpr int sideMargin = 10; // pixels around the list's items
 constexpr int textMargin = 12;
+constexpr int markRoom = 10; // for the sign of a change, behind the longest name
 constexpr int narrowest = 170;
 constexpr int changedRole = Qt::UserRole + 1;
 
@@ -27,7 +28,8 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         const QFontMetrics metrics(option.font);
-        return {metrics.horizontalAdvance(index.data().toString()) + 2 * textMargin, metrics.height() + 16};
+        return {metrics.horizontalAdvance(index.data().toString()) + 2 * textMargin + markRoom,
+                metrics.height() + 16};
     }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -54,7 +56,10 @@ public:
             painter->setPen(QPen(ink, 2));
             painter->drawRoundedRect(ground.adjusted(3, 3, -3, -3), 4, 4);
         }
-        const QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
+        QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
+        if (index.data(changedRole).toBool()) // the sign keeps its place where the list is narrow
+            place.setWidth(place.width() - markRoom);
+        place = QStyle::visualRect(option.direction, option.rect, place);
         painter->drawText(
             place, Qt::AlignVCenter | Qt::AlignLeading,
             QFontMetrics(option.font).elidedText(index.data().toString(), Qt::ElideMiddle, place.width()));

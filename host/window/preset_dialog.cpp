@@ -50,6 +50,7 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     for (QWidget *part : std::initializer_list<QWidget *>{label, m_name, m_problem, m_secrets, warning})
         column->addWidget(part);
     column->addSpacing(6);
+    column->addStretch(1);
     column->addWidget(buttons);
     setMinimumWidth(leastWidth);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

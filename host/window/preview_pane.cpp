@@ -160,6 +160,7 @@ void PreviewPane::showMade(int page)
         m_sheet->showText(tr("This page cannot be shown."));
     else
         m_sheet->showPage(picture);
+    m_caption->setText(caption());
 }
 
 QString PreviewPane::caption() const
@@ -172,7 +173,10 @@ QString PreviewPane::caption() const
     if (m_isTwoSided)
         lines.append((m_page % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
                          .arg(locale.toString(m_page / 2 + 1)));
-    const QSizeF size = m_preview->facts()->size * millimetres;
+    QSizeF size = m_preview->facts()->size * millimetres;
+    const QImage picture = m_preview->page(m_page);
+    if (!picture.isNull() && (picture.width() > picture.height()) != (size.width() > size.height()))
+        size.transpose(); // it is turned
     lines.append(
         tr("%1 × %2 mm").arg(locale.toString(qRound(size.width())), locale.toString(qRound(size.height()))));
     if (!m_preview->isAsPrinted())

@@ -18,6 +18,7 @@
 #include "host/window/help_desk.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/page_list.h"
 #include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/settings_control.h"
@@ -194,6 +195,8 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
         m_picker->setFixedText(m_session->destination().displayName());
     showSession();
     showState(State::Choosing);
+    if (focusWidget() == m_cancel) // where it went while there was nothing else
+        m_book->list()->setFocus(Qt::OtherFocusReason);
     allowPrinting();
     showNotices();
 }

@@ -13,6 +13,7 @@
 
 #include <QAbstractSpinBox>
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -48,7 +49,7 @@ QLineEdit *fieldAt(QObject *object)
 } // namespace
 
 SettingsControl::SettingsControl(QWidget *window)
-    : QObject(window), m_window(window), m_button(new MenuButton(window)),
+    : QObject(window), m_window(window), m_button(new MenuButton(window)), m_choices(new QActionGroup(this)),
       m_undo(new QAction(tr("&Undo"), window)), m_redo(new QAction(tr("&Redo"), window))
 {
     m_button->setObjectName(QStringLiteral("presets"));
@@ -197,6 +198,7 @@ bool SettingsControl::hasOwnDefaults() const
 void SettingsControl::addChoice(const QString &text, const QString &name)
 {
     QAction *action = m_menu->addAction(Mnemonics::escaped(text));
+    action->setActionGroup(m_choices);
     action->setData(name);
     action->setCheckable(true);
     const QString base = m_history->base().name;
@@ -371,12 +373,13 @@ void SettingsControl::rename()
 void SettingsControl::remove()
 {
     const QString name = m_history->base().name;
-    auto *question = new QMessageBox(QMessageBox::Question, tr("Delete Preset"),
+    auto *question = new QMessageBox(QMessageBox::NoIcon, tr("Delete Preset"),
                                      tr("Delete the preset “%1”? Other programs use it as well.").arg(name),
                                      QMessageBox::Cancel, m_window);
     question->setTextFormat(Qt::PlainText);
     question->setAttribute(Qt::WA_DeleteOnClose);
     auto *yes = question->addButton(tr("&Delete"), QMessageBox::AcceptRole);
+    question->setDefaultButton(QMessageBox::Cancel);
     connect(yes, &QPushButton::clicked, this, [this, name] {
         edit(
             [queue = queue(), name](const PresetStore &store) {

@@ -14,6 +14,7 @@
 #include <optional>
 
 class QAction;
+class QActionGroup;
 class QDialog;
 class QMenu;
 class QPushButton;
@@ -93,6 +94,7 @@ private:
     QWidget *m_window;
     MenuButton *m_button;
     QMenu *m_menu = nullptr; // made when the button wants it
+    QActionGroup *m_choices; // one of the settings to begin with
     QAction *m_undo;
     QAction *m_redo;
     DialogSession *m_session = nullptr;

@@ -58,28 +58,42 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
             part.lines.append({name, value, keyOf(session, section.panel, name)});
         m_all.append(part);
     }
+    showChanged(session, changes);
+    rebuild();
+}
+
+// In the order of the pages and of what is on them.
+void SummaryPage::showChanged(const DialogSession &session, const QList<SettingChange> &changes)
+{
+    QHash<QString, qsizetype> places;
+    for (const Part &part : std::as_const(m_all)) {
+        places.insert(part.title, places.size());
+        for (const Line &line : part.lines)
+            places.insert(line.key, places.size());
+    }
+    const auto place = [&](const QString &name) { return places.value(name, places.size()); };
     m_changed.clear();
     for (const SettingChange &change : changes) {
         const int page = pageOf(session, change.key);
-        const QString title = page >= 0 ? session.panel(page)->panelName() : sections.first().title;
-        if (m_changed.isEmpty() || m_changed.last().title != title) {
-            const auto known = std::find_if(m_changed.begin(), m_changed.end(),
-                                            [&](const Part &part) { return part.title == title; });
-            if (known == m_changed.end())
-                m_changed.append({title, {}});
-            else
-                m_changed.move(known - m_changed.begin(), m_changed.size() - 1);
-        }
+        const QString title = page >= 0 ? session.panel(page)->panelName() : m_all.first().title;
+        auto part = std::find_if(m_changed.begin(), m_changed.end(),
+                                 [&](const Part &known) { return known.title == title; });
+        if (part == m_changed.end())
+            part = m_changed.insert(part, {title, {}});
         const bool hasWords = !change.before.isEmpty() || !change.after.isEmpty();
         const auto worded = [](const QString &text) { return text.isEmpty() ? tr("none") : text; };
-        m_changed.last().lines.append(
+        part->lines.append(
             {change.name,
              hasWords
                  ? tr("%1 → %2", "what it was, what it is").arg(worded(change.before), worded(change.after))
                  : tr("changed"),
              change.key});
     }
-    rebuild();
+    std::stable_sort(m_changed.begin(), m_changed.end(),
+                     [&](const Part &a, const Part &b) { return place(a.title) < place(b.title); });
+    for (Part &part : m_changed)
+        std::stable_sort(part.lines.begin(), part.lines.end(),
+                         [&](const Line &a, const Line &b) { return place(a.key) < place(b.key); });
 }
 
 void SummaryPage::rebuild()

@@ -20,6 +20,12 @@ namespace {
 constexpr int barWidth = 260; // pixels
 constexpr int steps = 1000;   // of the bar, so that files of any size fit its numbers
 
+// In the units that people know.
+QString amountText(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+}
+
 } // namespace
 
 WaitingPage::WaitingPage(QWidget *parent)
@@ -65,9 +71,9 @@ void WaitingPage::setProgress(qint64 done, qint64 total)
         known ? static_cast<int>(
                     std::clamp<double>(static_cast<double>(done) / static_cast<double>(total), 0, 1) * steps)
               : -1);
-    m_amount->setText(known ? tr("%1 of %2", "an amount of data, of the whole")
-                                  .arg(QLocale().formattedDataSize(done), QLocale().formattedDataSize(total))
-                            : QString());
+    m_amount->setText(
+        known ? tr("%1 of %2", "an amount of data, of the whole").arg(amountText(done), amountText(total))
+              : QString());
 }
 
 void WaitingPage::setCancelling(const QString &text)

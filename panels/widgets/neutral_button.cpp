@@ -18,16 +18,18 @@ const bool registered = [] {
     return true;
 }();
 
-// An arrow that turns back to where a line begins, in a square of 16 units, for texts from left to right.
-QPainterPath backArrow()
+// Two arrows that meet at a line in the middle, in a square of 16 units: other than what takes a change back.
+QPainterPath toTheMiddle()
 {
-    QPainterPath path(QPointF(5.5, 2.5));
-    path.lineTo(2.5, 5.5);
-    path.lineTo(5.5, 8.5);
-    path.moveTo(2.5, 5.5);
-    path.lineTo(9.5, 5.5);
-    path.arcTo(QRectF(5.5, 5.5, 8, 8), 90, -180);
-    path.lineTo(6.5, 13.5);
+    QPainterPath path(QPointF(8, 3));
+    path.lineTo(8, 13);
+    for (const qreal side : {-1, 1}) {
+        path.moveTo(8 + side * 7, 8);
+        path.lineTo(8 + side * 2.5, 8);
+        path.moveTo(8 + side * 4.75, 5.75);
+        path.lineTo(8 + side * 2.5, 8);
+        path.lineTo(8 + side * 4.75, 10.25);
+    }
     return path;
 }
 
@@ -62,7 +64,7 @@ QSize QVNeutralButton_M880::sizeHint() const
     return {side, side};
 }
 
-// Drawn here, since not every icon theme has such an arrow, in the colour that texts have.
+// Drawn here, since not every icon theme has such arrows, in the colour that texts have.
 void QVNeutralButton_M880::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
@@ -75,8 +77,8 @@ void QVNeutralButton_M880::paintEvent(QPaintEvent *)
     const qreal scale = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) / 16.0;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center());
-    painter.scale(isRightToLeft() ? -scale : scale, scale);
+    painter.scale(scale, scale);
     painter.translate(-8, -8);
     painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(backArrow());
+    painter.drawPath(toTheMiddle());
 }

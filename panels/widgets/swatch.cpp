@@ -14,7 +14,7 @@ const bool registered = [] {
     return true;
 }();
 
-constexpr QColor ringColor(128, 128, 128, 160);
+constexpr QColor ringColor(128, 128, 128);
 
 } // namespace
 

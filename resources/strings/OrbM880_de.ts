@@ -599,7 +599,7 @@
     </message>
     <message>
         <source>PrintMode?</source>
-        <translation>Was der Drucker mit dem Auftrag tut, wenn er ankommt: gleich drucken, bis zur Eingabe eines Kennworts aufbewahren, ein Probeexemplar drucken oder anhalten.</translation>
+        <translation>Was der Drucker mit dem Auftrag tut, wenn er ankommt: gleich drucken, bis zur Eingabe eines Passworts aufbewahren, ein Probeexemplar drucken oder anhalten.</translation>
     </message>
     <message>
         <source>privatePassword?</source>
@@ -722,11 +722,11 @@
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation>Kenn&amp;wort:</translation>
+        <translation>Pass&amp;wort:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>Kennwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Five digits that you enter at the printer to release a private job</source>
@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>Zi&amp;ffern:</translation>
+        <translation>C&amp;ode:</translation>
     </message>
     <message>
         <source>Department code digits</source>

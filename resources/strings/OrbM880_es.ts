@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>Dí&amp;gitos:</translation>
+        <translation>Códi&amp;go:</translation>
     </message>
     <message>
         <source>Department code digits</source>

@@ -599,11 +599,11 @@
     </message>
     <message>
         <source>PrintMode?</source>
-        <translation>Ce que l’imprimante fait du travail à son arrivée : l’imprimer aussitôt, le garder jusqu’à la saisie d’un mot de passe, en tirer une épreuve ou le mettre en attente.</translation>
+        <translation>Ce que l’imprimante fait de la tâche à son arrivée : l’imprimer aussitôt, la garder jusqu’à la saisie d’un mot de passe, en tirer une épreuve ou la mettre en attente.</translation>
     </message>
     <message>
         <source>privatePassword?</source>
-        <translation>Cinq chiffres de votre choix. L’imprimante garde le travail jusqu’à ce que vous saisissiez les mêmes chiffres sur son panneau.</translation>
+        <translation>Cinq chiffres de votre choix. L’imprimante garde la tâche jusqu’à ce que vous saisissiez les mêmes chiffres sur son panneau.</translation>
     </message>
     <message>
         <source>DeptCode?</source>
@@ -623,7 +623,7 @@
     </message>
     <message>
         <source>ColorType?</source>
-        <translation>Les couleurs dans lesquelles le travail est imprimé. Le mode automatique décide page par page ; le noir et blanc coûte le moins.</translation>
+        <translation>Les couleurs dans lesquelles la tâche est imprimée. Le mode automatique décide page par page ; le noir et blanc coûte le moins.</translation>
     </message>
     <message>
         <source>Resolution?</source>
@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>C&amp;hiffres&#xa0;:</translation>
+        <translation>C&amp;ode&#xa0;:</translation>
     </message>
     <message>
         <source>Department code digits</source>

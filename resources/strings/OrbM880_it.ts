@@ -599,11 +599,11 @@
     </message>
     <message>
         <source>PrintMode?</source>
-        <translation>Che cosa fa la stampante del lavoro quando arriva: stamparlo subito, tenerlo finché non digiti una password, stampare una prova o trattenerlo.</translation>
+        <translation>Che cosa fa la stampante del lavoro quando arriva: stamparlo subito, tenerlo finché non viene digitata una password, stampare una prova o trattenerlo.</translation>
     </message>
     <message>
         <source>privatePassword?</source>
-        <translation>Cinque cifre a tua scelta. La stampante tiene il lavoro finché non digiti le stesse cifre sul suo pannello.</translation>
+        <translation>Cinque cifre a scelta. La stampante tiene il lavoro finché non si digitano le stesse cifre sul suo pannello.</translation>
     </message>
     <message>
         <source>DeptCode?</source>
@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>C&amp;ode:</source>
-        <translation>C&amp;ifre:</translation>
+        <translation>C&amp;odice:</translation>
     </message>
     <message>
         <source>Department code digits</source>

@@ -16,6 +16,8 @@ run_packages=(
 )
 # What the tour of the demo works the dialog and looks at it with.
 tour_packages=(openbox xdotool imagemagick x11-xserver-utils)
+# What scripts/pictures makes small pictures with.
+picture_packages=(imagemagick)
 check_packages=(clang-format)
 room_packages=(mmdebstrap git ccache iproute2)
 # What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.

@@ -23,9 +23,9 @@ public:
         printers = {office};
         ppds.insert(QStringLiteral("office"), ppd);
     }
-    static QByteArray familyPpd()
+    static QByteArray familyPpd(const QString &name = QStringLiteral("kelm880.ppd"))
     {
-        QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+        QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/") + name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 };

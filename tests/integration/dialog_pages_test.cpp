@@ -5,6 +5,7 @@
 #include "host/window/color_scheme.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/page_frame.h"
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/printer_picker.h"
@@ -49,6 +50,7 @@ private Q_SLOTS:
 
 private:
     void checkKeys();
+    void checkWidth();
     void checkInside(const QSize &room);
     // Presses Tab until it comes round, and gives what had the focus.
     QList<QWidget *> walk();
@@ -68,6 +70,11 @@ void DialogPagesTest::initTestCase()
                                 u"/usr/share/qt6/translations/qtbase_"_s + m_language}) {
         QVERIFY2(speakCatalog(file, this) || m_language == u"en", qPrintable(file));
     }
+    Destination attic = m_system.printers.first();
+    attic.queue = u"attic"_s;
+    attic.isDefault = false;
+    m_system.printers.append(attic);
+    m_system.ppds.insert(attic.queue, FamilyPrintSystem::familyPpd(u"kelo2600.ppd"_s));
 }
 
 void DialogPagesTest::everyPage_data()
@@ -79,6 +86,7 @@ void DialogPagesTest::everyPage_data()
     QTest::newRow("1024x600 at 2") << QSize(512, 300) << 10 << u"dark"_s;
     QTest::newRow("1366x768 at 1.5") << QSize(910, 512) << 10 << u"light"_s;
     QTest::newRow("1280x1024 at 2") << QSize(640, 512) << 10 << u"dark"_s;
+    QTest::newRow("1366x768") << QSize(1366, 768) << 10 << u"dark"_s;
     QTest::newRow("28 points") << QSize(1280, 960) << 28 << u"light"_s;
 }
 
@@ -102,6 +110,12 @@ void DialogPagesTest::everyPage()
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QTRY_VERIFY(m_window->session());
     QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // what comes after the first paint
+    for (const QString &printer : {u"attic"_s, u"office"_s}) {  // in a window that is wide already
+        Q_EMIT m_window->findChild<PrinterPicker *>()->picked(printer);
+        QTRY_COMPARE(m_window->session()->destination().queue, printer);
+        QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s));
+        checkWidth();
+    }
     m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     m_window->print();
@@ -144,10 +158,20 @@ void DialogPagesTest::checkKeys()
     QVERIFY(owners.size() > 4);
 }
 
+// A page has the room it wants where the window has it.
+void DialogPagesTest::checkWidth()
+{
+    const PageBook *book = m_window->book();
+    const auto *page = qobject_cast<const PageFrame *>(book->builtPage(book->currentRow()));
+    QVERIFY2(m_window->width() < book->wantedWidth() || page->width() >= page->wantedWidth(),
+             qPrintable(u"the page is %1 wide and wants %2"_s.arg(page->width()).arg(page->wantedWidth())));
+}
+
 void DialogPagesTest::checkInside(const QSize &room)
 {
     QVERIFY2(m_window->width() <= room.width() && m_window->height() <= room.height(),
              qPrintable(u"%1x%2"_s.arg(m_window->width()).arg(m_window->height())));
+    checkWidth();
     int seen = 0;
     for (auto *button : m_window->findChildren<QPushButton *>()) {
         const QRect place(button->mapTo(m_window.get(), QPoint()), button->size());

@@ -324,6 +324,7 @@ void WindowAnswersTest::serverAnswersLate()
     m_heart->start();
     open();
     QTRY_VERIFY_WITH_TIMEOUT(m_window->session(), 10'000);
+    QCOMPARE(m_window->focusWidget(), m_window->book()->list());
     QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 10'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
