@@ -382,6 +382,94 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
         <translation>Druckt auf beide Seiten des Papiers. Die lange Kante ist für Seiten, die wie in einem Buch umgeblättert werden, die kurze für Seiten, die wie bei einem Kalender umgeblättert werden.</translation>
     </message>
+    <message>
+        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
+        <translation>Wie viele Seiten des Dokuments auf eine Seite des Papiers kommen. Sie werden passend verkleinert.</translation>
+    </message>
+    <message>
+        <source>In which order the pages lie when several are put on one side.</source>
+        <translation>In welcher Reihenfolge die Seiten liegen, wenn mehrere auf eine Papierseite kommen.</translation>
+    </message>
+    <message>
+        <source>A line around each page on the paper.</source>
+        <translation>Eine Linie um jede Seite auf dem Papier.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
+        <translation>Ob die Seiten hoch oder quer gedruckt werden. „Wie im Dokument“ überlässt das dem Dokument.</translation>
+    </message>
+    <message>
+        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
+        <translation>Ob Seiten so vergrößert oder verkleinert werden, dass sie auf das Papier passen, oder ihre Größe behalten. Was dann nicht passt, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <translation>Druckt nur jede zweite Seite, etwa um beide Seiten von Hand zu bedrucken: erst die ungeraden Seiten, dann die geraden.</translation>
+    </message>
+    <message>
+        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
+        <translation>Druckt vom Ende her, damit die Seiten richtig liegen, wenn der Drucker sie mit der Schrift nach oben übereinander ablegt.</translation>
+    </message>
+    <message>
+        <source>Prints the whole document.</source>
+        <translation>Druckt das ganze Dokument.</translation>
+    </message>
+    <message>
+        <source>Prints only the page that the program shows.</source>
+        <translation>Druckt nur die Seite, die das Programm zeigt.</translation>
+    </message>
+    <message>
+        <source>Prints only what is selected in the program.</source>
+        <translation>Druckt nur, was im Programm ausgewählt ist.</translation>
+    </message>
+    <message>
+        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
+        <translation>Die Dateien, die gedruckt werden, in dieser Reihenfolge. Eine Datei ohne Häkchen wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
+        <translation>Schreibt die Seiten so, wie sie gedruckt würden, in eine PDF-Datei. An den Drucker wird nichts gesendet.</translation>
+    </message>
+    <message>
+        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
+        <translation>Was aus dem Drucker kommt, soweit es hier bekannt ist. Wählen Sie eine kleine Seite, um sie groß zu sehen.</translation>
+    </message>
+    <message>
+        <source>A choice of your own. The line below it says what the printer takes.</source>
+        <translation>Eine eigene Angabe. Die Zeile darunter sagt, was der Drucker annimmt.</translation>
+    </message>
+    <message>
+        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
+        <translation>Der Drucker, an den das Dokument gesendet wird. In seiner Liste lässt sich nach Name oder Ort suchen.</translation>
+    </message>
+    <message>
+        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
+        <translation>Unter einem Namen gespeicherte Einstellungen, die zuletzt benutzten und die des Druckers. Hier werden sie gewählt oder die jetzigen gespeichert.</translation>
+    </message>
+    <message>
+        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
+        <translation>Die Seiten dieses Dialogs. Eine Raute zeigt, auf welchen etwas geändert wurde.</translation>
+    </message>
+    <message>
+        <source>Closes this window. What has not been sent by then is not printed.</source>
+        <translation>Schließt dieses Fenster. Was bis dahin nicht gesendet ist, wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Sends the document to the printer with the settings of all pages.</source>
+        <translation>Sendet das Dokument mit den Einstellungen aller Seiten an den Drucker.</translation>
+    </message>
+    <message>
+        <source>Stops the job. Pages that have been printed by then are there.</source>
+        <translation>Bricht den Auftrag ab. Bis dahin gedruckte Seiten liegen im Drucker.</translation>
+    </message>
+    <message>
+        <source>Lets the job wait at the print server until you release it.</source>
+        <translation>Lässt den Auftrag auf dem Druckserver warten, bis Sie ihn freigeben.</translation>
+    </message>
+    <message>
+        <source>Sends the same documents once more with the same settings.</source>
+        <translation>Sendet dieselben Dokumente noch einmal mit denselben Einstellungen.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -427,6 +515,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>canceled</source>
         <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
+        <translation>der Druckserver kennt ihn nicht mehr. Er ist vielleicht gedruckt worden; sehen Sie am Drucker nach.</translation>
     </message>
 </context>
 <context>
@@ -677,6 +769,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
         <translation>„%1“ muss auf „%2“ stehen, mit einem Code.</translation>
+    </message>
+    <message>
+        <source>The rules in %1 offer none of the printers that have been set up. %2</source>
+        <translation>Die Regeln in %1 bieten keinen der eingerichteten Drucker an. %2</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1034,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Found on the network</source>
         <translation>Im Netzwerk gefunden</translation>
+    </message>
+    <message>
+        <source>State not known</source>
+        <translation>Zustand nicht bekannt</translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1488,17 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::EarlierJobs</name>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Auftrag %1: %2</translation>
+    </message>
+    <message>
+        <source>Jobs %1: %2</source>
+        <translation>Aufträge %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -1461,14 +1572,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Choose at least one document.</source>
         <translation>Wählen Sie mindestens ein Dokument.</translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Es gibt nur %1 gedruckte Blattseiten.</translation>
-    </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Das Dokument hat nur %1 Seiten.</translation>
-    </message>
 </context>
 <context>
     <name>host::GreyedChoices</name>
@@ -1504,6 +1607,30 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” is not available now</source>
         <translation>„%1“ ist jetzt nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>host::GuideButtons</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>Suchen …</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Eine Einstellung suchen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Help on this page</source>
+        <translation>Hilfe zu dieser Seite</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2102,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::RangeCheck</name>
+    <message>
+        <source>The longest document, “%1”, has only %2 printed sides.</source>
+        <translation>Das längste Dokument, „%1“, hat nur %2 gedruckte Blattseiten.</translation>
+    </message>
+    <message>
+        <source>The longest document, “%1”, has only %2 pages.</source>
+        <translation>Das längste Dokument, „%1“, hat nur %2 Seiten.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Es gibt nur %1 gedruckte Blattseiten.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Das Dokument hat nur %1 Seiten.</translation>
+    </message>
+</context>
+<context>
     <name>host::ReasonText</name>
     <message>
         <source>The printer is out of paper.</source>
@@ -2070,6 +2216,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Pages printed so far: %1</source>
         <translation>Bisher gedruckte Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Sent before:</source>
+        <translation>Vorher gesendet:</translation>
     </message>
 </context>
 <context>

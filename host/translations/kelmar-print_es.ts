@@ -382,6 +382,94 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
         <translation>Imprime en las dos caras del papel. El borde largo es para páginas que se pasan como las de un libro; el borde corto, para las que se pasan como las de un calendario.</translation>
     </message>
+    <message>
+        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
+        <translation>Cuántas páginas del documento se ponen en una cara del papel. Se reducen para que quepan.</translation>
+    </message>
+    <message>
+        <source>In which order the pages lie when several are put on one side.</source>
+        <translation>En qué orden se colocan las páginas cuando van varias en una cara.</translation>
+    </message>
+    <message>
+        <source>A line around each page on the paper.</source>
+        <translation>Una línea alrededor de cada página en el papel.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
+        <translation>Si las páginas se imprimen en vertical o en horizontal. «Como en el documento» lo deja al documento.</translation>
+    </message>
+    <message>
+        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
+        <translation>Si las páginas se agrandan o reducen hasta ajustarse al papel, o conservan su tamaño. Lo que entonces no cabe se recorta.</translation>
+    </message>
+    <message>
+        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <translation>Imprime solo una de cada dos páginas, por ejemplo para imprimir a mano por las dos caras: primero las impares y después las pares.</translation>
+    </message>
+    <message>
+        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
+        <translation>Imprime desde el final, para que las páginas queden en orden cuando la impresora deja cada una boca arriba sobre la anterior.</translation>
+    </message>
+    <message>
+        <source>Prints the whole document.</source>
+        <translation>Imprime todo el documento.</translation>
+    </message>
+    <message>
+        <source>Prints only the page that the program shows.</source>
+        <translation>Imprime solo la página que muestra el programa.</translation>
+    </message>
+    <message>
+        <source>Prints only what is selected in the program.</source>
+        <translation>Imprime solo lo que está seleccionado en el programa.</translation>
+    </message>
+    <message>
+        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
+        <translation>Los archivos que se imprimen, en este orden. Un archivo sin marca se omite.</translation>
+    </message>
+    <message>
+        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
+        <translation>Escribe las páginas, tal como se imprimirían, en un archivo PDF. No se envía nada a la impresora.</translation>
+    </message>
+    <message>
+        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
+        <translation>Lo que sale de la impresora, hasta donde se sabe aquí. Elija una página pequeña para verla grande.</translation>
+    </message>
+    <message>
+        <source>A choice of your own. The line below it says what the printer takes.</source>
+        <translation>Un valor propio. La línea de abajo dice qué acepta la impresora.</translation>
+    </message>
+    <message>
+        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
+        <translation>La impresora a la que se envía el documento. En su lista se puede buscar un nombre o un lugar.</translation>
+    </message>
+    <message>
+        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
+        <translation>Ajustes guardados con un nombre, los usados por última vez y los de la impresora. Elíjalos aquí o guarde los actuales.</translation>
+    </message>
+    <message>
+        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
+        <translation>Las páginas de este diálogo. Un rombo señala aquellas en las que se ha cambiado algo.</translation>
+    </message>
+    <message>
+        <source>Closes this window. What has not been sent by then is not printed.</source>
+        <translation>Cierra esta ventana. Lo que no se haya enviado hasta entonces no se imprime.</translation>
+    </message>
+    <message>
+        <source>Sends the document to the printer with the settings of all pages.</source>
+        <translation>Envía el documento a la impresora con los ajustes de todas las páginas.</translation>
+    </message>
+    <message>
+        <source>Stops the job. Pages that have been printed by then are there.</source>
+        <translation>Detiene el trabajo. Las páginas ya impresas quedan en la impresora.</translation>
+    </message>
+    <message>
+        <source>Lets the job wait at the print server until you release it.</source>
+        <translation>Deja el trabajo en espera en el servidor de impresión hasta que usted lo libere.</translation>
+    </message>
+    <message>
+        <source>Sends the same documents once more with the same settings.</source>
+        <translation>Envía otra vez los mismos documentos con los mismos ajustes.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -427,6 +515,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>unknown</source>
         <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
+        <translation>el servidor de impresión ya no lo conoce. Puede que se haya impreso; mire en la impresora.</translation>
     </message>
 </context>
 <context>
@@ -677,6 +769,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
         <translation>«%1» debe estar en «%2», con un código.</translation>
+    </message>
+    <message>
+        <source>The rules in %1 offer none of the printers that have been set up. %2</source>
+        <translation>Las reglas de %1 no ofrecen ninguna de las impresoras configuradas. %2</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1034,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Found on the network</source>
         <translation>Encontrada en la red</translation>
+    </message>
+    <message>
+        <source>State not known</source>
+        <translation>Estado desconocido</translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1488,17 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::EarlierJobs</name>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Trabajo %1: %2</translation>
+    </message>
+    <message>
+        <source>Jobs %1: %2</source>
+        <translation>Trabajos %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -1461,14 +1572,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Choose at least one document.</source>
         <translation>Elija al menos un documento.</translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Solo hay %1 caras impresas.</translation>
-    </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>El documento solo tiene %1 páginas.</translation>
-    </message>
 </context>
 <context>
     <name>host::GreyedChoices</name>
@@ -1504,6 +1607,30 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” is not available now</source>
         <translation>«%1» no está disponible ahora</translation>
+    </message>
+</context>
+<context>
+    <name>host::GuideButtons</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>Buscar…</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Buscar un ajuste</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Help on this page</source>
+        <translation>Ayuda sobre esta página</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2102,25 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::RangeCheck</name>
+    <message>
+        <source>The longest document, “%1”, has only %2 printed sides.</source>
+        <translation>El documento más largo, «%1», solo tiene %2 caras impresas.</translation>
+    </message>
+    <message>
+        <source>The longest document, “%1”, has only %2 pages.</source>
+        <translation>El documento más largo, «%1», solo tiene %2 páginas.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Solo hay %1 caras impresas.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>El documento solo tiene %1 páginas.</translation>
+    </message>
+</context>
+<context>
     <name>host::ReasonText</name>
     <message>
         <source>The printer is out of paper.</source>
@@ -2070,6 +2216,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Pages printed so far: %1</source>
         <translation>Páginas impresas hasta ahora: %1</translation>
+    </message>
+    <message>
+        <source>Sent before:</source>
+        <translation>Enviados antes:</translation>
     </message>
 </context>
 <context>

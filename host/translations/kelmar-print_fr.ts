@@ -382,6 +382,94 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
         <translation>Imprime sur les deux faces du papier. Le bord long convient aux pages qui se tournent comme un livre, le bord court à celles qui se tournent comme un calendrier.</translation>
     </message>
+    <message>
+        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
+        <translation>Combien de pages du document sont placées sur une face du papier. Elles sont réduites pour tenir.</translation>
+    </message>
+    <message>
+        <source>In which order the pages lie when several are put on one side.</source>
+        <translation>Dans quel ordre les pages sont placées quand une face en porte plusieurs.</translation>
+    </message>
+    <message>
+        <source>A line around each page on the paper.</source>
+        <translation>Un trait autour de chaque page sur le papier.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
+        <translation>Si les pages sont imprimées en portrait ou en paysage. « Comme dans le document » laisse ce choix au document.</translation>
+    </message>
+    <message>
+        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
+        <translation>Si les pages sont agrandies ou réduites à la taille du papier, ou gardent leur taille. Ce qui dépasse alors est coupé.</translation>
+    </message>
+    <message>
+        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <translation>N’imprime qu’une page sur deux, par exemple pour imprimer les deux faces à la main : d’abord les pages impaires, puis les paires.</translation>
+    </message>
+    <message>
+        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
+        <translation>Imprime à partir de la fin, pour que les pages soient dans l’ordre quand l’imprimante les pose face en haut l’une sur l’autre.</translation>
+    </message>
+    <message>
+        <source>Prints the whole document.</source>
+        <translation>Imprime tout le document.</translation>
+    </message>
+    <message>
+        <source>Prints only the page that the program shows.</source>
+        <translation>N’imprime que la page que montre le programme.</translation>
+    </message>
+    <message>
+        <source>Prints only what is selected in the program.</source>
+        <translation>N’imprime que ce qui est sélectionné dans le programme.</translation>
+    </message>
+    <message>
+        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
+        <translation>Les fichiers à imprimer, dans cet ordre. Un fichier non coché est laissé de côté.</translation>
+    </message>
+    <message>
+        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
+        <translation>Écrit les pages, telles qu’elles seraient imprimées, dans un fichier PDF. Rien n’est envoyé à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
+        <translation>Ce qui sort de l’imprimante, pour autant qu’on le sache ici. Choisissez une petite page pour la voir en grand.</translation>
+    </message>
+    <message>
+        <source>A choice of your own. The line below it says what the printer takes.</source>
+        <translation>Une valeur de votre choix. La ligne du dessous dit ce que l’imprimante accepte.</translation>
+    </message>
+    <message>
+        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
+        <translation>L’imprimante à laquelle le document est envoyé. On peut chercher un nom ou un lieu dans sa liste.</translation>
+    </message>
+    <message>
+        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
+        <translation>Des réglages gardés sous un nom, les derniers utilisés et ceux de l’imprimante. Choisissez-les ici, ou gardez les réglages actuels.</translation>
+    </message>
+    <message>
+        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
+        <translation>Les pages de cette boîte de dialogue. Un losange marque celles où quelque chose a été modifié.</translation>
+    </message>
+    <message>
+        <source>Closes this window. What has not been sent by then is not printed.</source>
+        <translation>Ferme cette fenêtre. Ce qui n’a pas encore été envoyé n’est pas imprimé.</translation>
+    </message>
+    <message>
+        <source>Sends the document to the printer with the settings of all pages.</source>
+        <translation>Envoie le document à l’imprimante avec les réglages de toutes les pages.</translation>
+    </message>
+    <message>
+        <source>Stops the job. Pages that have been printed by then are there.</source>
+        <translation>Arrête la tâche. Les pages déjà imprimées restent dans l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Lets the job wait at the print server until you release it.</source>
+        <translation>Fait attendre la tâche sur le serveur d’impression jusqu’à ce que vous la libériez.</translation>
+    </message>
+    <message>
+        <source>Sends the same documents once more with the same settings.</source>
+        <translation>Envoie encore une fois les mêmes documents avec les mêmes réglages.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -427,6 +515,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>unknown</source>
         <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
+        <translation>le serveur d’impression ne la connaît plus. Elle a peut-être été imprimée ; regardez à l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -677,6 +769,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
         <translation>«&#xa0;%1&#xa0;» doit être réglé sur «&#xa0;%2&#xa0;», avec un code.</translation>
+    </message>
+    <message>
+        <source>The rules in %1 offer none of the printers that have been set up. %2</source>
+        <translation>Les règles de %1 n’offrent aucune des imprimantes configurées. %2</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1034,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Found on the network</source>
         <translation>Trouvée sur le réseau</translation>
+    </message>
+    <message>
+        <source>State not known</source>
+        <translation>État inconnu</translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1488,17 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::EarlierJobs</name>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Tâche %1 : %2</translation>
+    </message>
+    <message>
+        <source>Jobs %1: %2</source>
+        <translation>Tâches %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -1461,14 +1572,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Choose at least one document.</source>
         <translation>Choisissez au moins un document.</translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Il n’y a que %1 faces imprimées.</translation>
-    </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Le document n’a que %1 pages.</translation>
-    </message>
 </context>
 <context>
     <name>host::GreyedChoices</name>
@@ -1504,6 +1607,30 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” is not available now</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas disponible actuellement</translation>
+    </message>
+</context>
+<context>
+    <name>host::GuideButtons</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>Rechercher…</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Rechercher un réglage</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Help on this page</source>
+        <translation>Aide sur cette page</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2102,25 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::RangeCheck</name>
+    <message>
+        <source>The longest document, “%1”, has only %2 printed sides.</source>
+        <translation>Le document le plus long, « %1 », n’a que %2 faces imprimées.</translation>
+    </message>
+    <message>
+        <source>The longest document, “%1”, has only %2 pages.</source>
+        <translation>Le document le plus long, « %1 », n’a que %2 pages.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Il n’y a que %1 faces imprimées.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Le document n’a que %1 pages.</translation>
+    </message>
+</context>
+<context>
     <name>host::ReasonText</name>
     <message>
         <source>The printer is out of paper.</source>
@@ -2070,6 +2216,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Pages printed so far: %1</source>
         <translation>Pages imprimées jusqu’ici&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Sent before:</source>
+        <translation>Envoyées avant :</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,94 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
         <translation>Stampa su fronte e retro del foglio. Il lato lungo è per le pagine che si girano come quelle di un libro, il lato corto per quelle che si girano come i fogli di un calendario.</translation>
     </message>
+    <message>
+        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
+        <translation>Quante pagine del documento stanno su una facciata del foglio. Vengono rimpicciolite quanto serve.</translation>
+    </message>
+    <message>
+        <source>In which order the pages lie when several are put on one side.</source>
+        <translation>In quale ordine stanno le pagine quando più di una sta su una facciata.</translation>
+    </message>
+    <message>
+        <source>A line around each page on the paper.</source>
+        <translation>Una linea intorno a ogni pagina sul foglio.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
+        <translation>Se le pagine vengono stampate in verticale o in orizzontale. «Come nel documento» lo lascia al documento.</translation>
+    </message>
+    <message>
+        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
+        <translation>Se le pagine vengono ingrandite o rimpicciolite fino a riempire il foglio, o mantengono la loro dimensione. Quel che poi non ci sta viene tagliato.</translation>
+    </message>
+    <message>
+        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <translation>Stampa solo una pagina su due, per esempio per stampare a mano sui due lati: prima le pagine dispari, poi quelle pari.</translation>
+    </message>
+    <message>
+        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
+        <translation>Stampa a partire dalla fine, così che le pagine siano in ordine quando la stampante le posa a faccia in su una sull’altra.</translation>
+    </message>
+    <message>
+        <source>Prints the whole document.</source>
+        <translation>Stampa tutto il documento.</translation>
+    </message>
+    <message>
+        <source>Prints only the page that the program shows.</source>
+        <translation>Stampa solo la pagina mostrata dal programma.</translation>
+    </message>
+    <message>
+        <source>Prints only what is selected in the program.</source>
+        <translation>Stampa solo ciò che è selezionato nel programma.</translation>
+    </message>
+    <message>
+        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
+        <translation>I file da stampare, in quest’ordine. Un file senza segno di spunta viene tralasciato.</translation>
+    </message>
+    <message>
+        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
+        <translation>Scrive le pagine, come verrebbero stampate, in un file PDF. Alla stampante non viene inviato nulla.</translation>
+    </message>
+    <message>
+        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
+        <translation>Quel che esce dalla stampante, per quanto è noto qui. Con una pagina piccola la si vede in grande.</translation>
+    </message>
+    <message>
+        <source>A choice of your own. The line below it says what the printer takes.</source>
+        <translation>Un valore a scelta. La riga sotto dice che cosa accetta la stampante.</translation>
+    </message>
+    <message>
+        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
+        <translation>La stampante a cui viene inviato il documento. Nel suo elenco si può cercare un nome o un luogo.</translation>
+    </message>
+    <message>
+        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
+        <translation>Impostazioni salvate con un nome, le ultime usate e quelle della stampante. Qui si scelgono, o si salvano quelle attuali.</translation>
+    </message>
+    <message>
+        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
+        <translation>Le pagine di questa finestra. Un rombo indica quelle in cui qualcosa è stato cambiato.</translation>
+    </message>
+    <message>
+        <source>Closes this window. What has not been sent by then is not printed.</source>
+        <translation>Chiude questa finestra. Quel che non è ancora stato inviato non viene stampato.</translation>
+    </message>
+    <message>
+        <source>Sends the document to the printer with the settings of all pages.</source>
+        <translation>Invia il documento alla stampante con le impostazioni di tutte le pagine.</translation>
+    </message>
+    <message>
+        <source>Stops the job. Pages that have been printed by then are there.</source>
+        <translation>Ferma il lavoro. Le pagine già stampate restano nella stampante.</translation>
+    </message>
+    <message>
+        <source>Lets the job wait at the print server until you release it.</source>
+        <translation>Fa attendere il lavoro sul server di stampa finché non viene rilasciato.</translation>
+    </message>
+    <message>
+        <source>Sends the same documents once more with the same settings.</source>
+        <translation>Invia ancora una volta gli stessi documenti con le stesse impostazioni.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -427,6 +515,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>unknown</source>
         <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
+        <translation>il server di stampa non lo conosce più. Forse è stato stampato; guardare alla stampante.</translation>
     </message>
 </context>
 <context>
@@ -677,6 +769,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
         <translation>«%1» deve essere impostato su «%2», con un codice.</translation>
+    </message>
+    <message>
+        <source>The rules in %1 offer none of the printers that have been set up. %2</source>
+        <translation>Le regole in %1 non offrono nessuna delle stampanti configurate. %2</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1034,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Found on the network</source>
         <translation>Trovata in rete</translation>
+    </message>
+    <message>
+        <source>State not known</source>
+        <translation>Stato sconosciuto</translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1488,17 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::EarlierJobs</name>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>Lavoro %1: %2</translation>
+    </message>
+    <message>
+        <source>Jobs %1: %2</source>
+        <translation>Lavori %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -1461,14 +1572,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Choose at least one document.</source>
         <translation>Scegliere almeno un documento.</translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Ci sono solo %1 facciate stampate.</translation>
-    </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Il documento ha solo %1 pagine.</translation>
-    </message>
 </context>
 <context>
     <name>host::GreyedChoices</name>
@@ -1504,6 +1607,30 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” is not available now</source>
         <translation>«%1» ora non è disponibile</translation>
+    </message>
+</context>
+<context>
+    <name>host::GuideButtons</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>Cerca…</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Cerca un’impostazione</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Help on this page</source>
+        <translation>Aiuto su questa pagina</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2102,25 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::RangeCheck</name>
+    <message>
+        <source>The longest document, “%1”, has only %2 printed sides.</source>
+        <translation>Il documento più lungo, «%1», ha solo %2 facciate stampate.</translation>
+    </message>
+    <message>
+        <source>The longest document, “%1”, has only %2 pages.</source>
+        <translation>Il documento più lungo, «%1», ha solo %2 pagine.</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>Ci sono solo %1 facciate stampate.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Il documento ha solo %1 pagine.</translation>
+    </message>
+</context>
+<context>
     <name>host::ReasonText</name>
     <message>
         <source>The printer is out of paper.</source>
@@ -2070,6 +2216,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Pages printed so far: %1</source>
         <translation>Pagine stampate finora: %1</translation>
+    </message>
+    <message>
+        <source>Sent before:</source>
+        <translation>Inviati prima:</translation>
     </message>
 </context>
 <context>

@@ -382,6 +382,94 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
         <translation>用紙の両面に印刷します。本のようにめくる場合は長辺とじ、カレンダーのようにめくる場合は短辺とじを選びます。</translation>
     </message>
+    <message>
+        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
+        <translation>用紙の 1 面に置く文書のページ数です。収まるように縮小されます。</translation>
+    </message>
+    <message>
+        <source>In which order the pages lie when several are put on one side.</source>
+        <translation>1 面に複数のページを置くときの並び順です。</translation>
+    </message>
+    <message>
+        <source>A line around each page on the paper.</source>
+        <translation>用紙上の各ページを囲む線です。</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
+        <translation>ページを縦に印刷するか横に印刷するかを選びます。「文書のとおり」では文書に従います。</translation>
+    </message>
+    <message>
+        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
+        <translation>ページを用紙に合うように拡大または縮小するか、元の大きさのままにするかを選びます。元の大きさで収まらない部分は切れます。</translation>
+    </message>
+    <message>
+        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <translation>1 ページおきに印刷します。たとえば手差しで両面に印刷するときは、先に奇数ページ、次に偶数ページを印刷します。</translation>
+    </message>
+    <message>
+        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
+        <translation>最後のページから印刷します。印刷面を上にして重ねるプリンターで、ページが順番どおりになります。</translation>
+    </message>
+    <message>
+        <source>Prints the whole document.</source>
+        <translation>文書全体を印刷します。</translation>
+    </message>
+    <message>
+        <source>Prints only the page that the program shows.</source>
+        <translation>プログラムが表示しているページだけを印刷します。</translation>
+    </message>
+    <message>
+        <source>Prints only what is selected in the program.</source>
+        <translation>プログラムで選択されている部分だけを印刷します。</translation>
+    </message>
+    <message>
+        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
+        <translation>この順に印刷されるファイルです。チェックのないファイルは除かれます。</translation>
+    </message>
+    <message>
+        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
+        <translation>印刷されるとおりのページを PDF ファイルに書き出します。プリンターには何も送られません。</translation>
+    </message>
+    <message>
+        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
+        <translation>ここで分かる範囲での印刷結果です。小さいページを選ぶと大きく表示されます。</translation>
+    </message>
+    <message>
+        <source>A choice of your own. The line below it says what the printer takes.</source>
+        <translation>独自の値です。プリンターが受け付ける値は下の行に表示されます。</translation>
+    </message>
+    <message>
+        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
+        <translation>文書を送るプリンターです。一覧では名前や場所で検索できます。</translation>
+    </message>
+    <message>
+        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
+        <translation>名前を付けて保存した設定、前回使った設定、プリンターの設定です。ここで選ぶか、今の設定を保存します。</translation>
+    </message>
+    <message>
+        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
+        <translation>このダイアログのページです。何かが変更されたページにはひし形が付きます。</translation>
+    </message>
+    <message>
+        <source>Closes this window. What has not been sent by then is not printed.</source>
+        <translation>このウィンドウを閉じます。まだ送られていないものは印刷されません。</translation>
+    </message>
+    <message>
+        <source>Sends the document to the printer with the settings of all pages.</source>
+        <translation>すべてのページの設定で文書をプリンターに送ります。</translation>
+    </message>
+    <message>
+        <source>Stops the job. Pages that have been printed by then are there.</source>
+        <translation>ジョブを中止します。それまでに印刷されたページはプリンターに残ります。</translation>
+    </message>
+    <message>
+        <source>Lets the job wait at the print server until you release it.</source>
+        <translation>解除するまでジョブをプリントサーバーで待たせます。</translation>
+    </message>
+    <message>
+        <source>Sends the same documents once more with the same settings.</source>
+        <translation>同じ文書を同じ設定でもう一度送ります。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -427,6 +515,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>unknown</source>
         <translation>不明</translation>
+    </message>
+    <message>
+        <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
+        <translation>プリントサーバーにこのジョブの記録がありません。印刷された可能性があります。プリンターを確認してください。</translation>
     </message>
 </context>
 <context>
@@ -677,6 +769,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” has to be “%2”, with a code.</source>
         <translation>「%1」は「%2」にして、コードを指定する必要があります。</translation>
+    </message>
+    <message>
+        <source>The rules in %1 offer none of the printers that have been set up. %2</source>
+        <translation>%1 の規則では、設定されているプリンターのどれも使えません。%2</translation>
     </message>
 </context>
 <context>
@@ -938,6 +1034,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Found on the network</source>
         <translation>ネットワークで検出</translation>
+    </message>
+    <message>
+        <source>State not known</source>
+        <translation>状態不明</translation>
     </message>
 </context>
 <context>
@@ -1388,6 +1488,17 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::EarlierJobs</name>
+    <message>
+        <source>Job %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+    <message>
+        <source>Jobs %1: %2</source>
+        <translation>ジョブ %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::GeneralPage</name>
     <message>
         <source>C&amp;ollate</source>
@@ -1461,14 +1572,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Choose at least one document.</source>
         <translation>文書を 1 つ以上選んでください。</translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>印刷面は %1 面しかありません。</translation>
-    </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>文書は %1 ページしかありません。</translation>
-    </message>
 </context>
 <context>
     <name>host::GreyedChoices</name>
@@ -1504,6 +1607,30 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” is not available now</source>
         <translation>「%1」は現在使用できません</translation>
+    </message>
+</context>
+<context>
+    <name>host::GuideButtons</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find…</source>
+        <translation>検索…</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>設定を検索</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Help on this page</source>
+        <translation>このページのヘルプ</translation>
     </message>
 </context>
 <context>
@@ -1975,6 +2102,25 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::RangeCheck</name>
+    <message>
+        <source>The longest document, “%1”, has only %2 printed sides.</source>
+        <translation>最も長い文書「%1」の印刷面は %2 面しかありません。</translation>
+    </message>
+    <message>
+        <source>The longest document, “%1”, has only %2 pages.</source>
+        <translation>最も長い文書「%1」は %2 ページしかありません。</translation>
+    </message>
+    <message>
+        <source>There are only %1 printed sides.</source>
+        <translation>印刷面は %1 面しかありません。</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>文書は %1 ページしかありません。</translation>
+    </message>
+</context>
+<context>
     <name>host::ReasonText</name>
     <message>
         <source>The printer is out of paper.</source>
@@ -2070,6 +2216,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Pages printed so far: %1</source>
         <translation>印刷済みのページ数: %1</translation>
+    </message>
+    <message>
+        <source>Sent before:</source>
+        <translation>前に送ったもの:</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,8 @@
 class FamilyPrintSystem : public FakePrintSystem
 {
 public:
-    explicit FamilyPrintSystem(const QByteArray &ppd = familyPpd())
+    FamilyPrintSystem() : FamilyPrintSystem(familyPpd(QStringLiteral("kelm880.ppd"))) {}
+    explicit FamilyPrintSystem(const QByteArray &ppd)
     {
         host::Destination office = officePrinter();
         office.isDefault = true;
@@ -23,7 +24,7 @@ public:
         printers = {office};
         ppds.insert(QStringLiteral("office"), ppd);
     }
-    static QByteArray familyPpd(const QString &name = QStringLiteral("kelm880.ppd"))
+    static QByteArray familyPpd(const QString &name)
     {
         QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/") + name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
