@@ -102,7 +102,7 @@ void FindSettingTest::initTestCase()
 
 void FindSettingTest::init()
 {
-    open(FamilyPrintSystem::familyPpd());
+    open(FamilyPrintSystem::familyPpd(u"kelm880.ppd"_s));
 }
 
 void FindSettingTest::open(const QByteArray &ppd)

@@ -118,7 +118,7 @@ void PseudoLocaleTest::initTestCase()
 
 void PseudoLocaleTest::noteForeign()
 {
-    const QByteArray family = FamilyPrintSystem::familyPpd();
+    const QByteArray family = FamilyPrintSystem::familyPpd(u"kelm880.ppd"_s);
     const auto ppd = openPpd(family.mid(family.indexOf('\n') + 1));
     QVERIFY(ppd);
     for (const QString &keyword : ppd->optionKeywords()) {
