@@ -139,6 +139,7 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
     auto *balance = window.session()->panel(window.session()->panelOfKeyword(u"ColorBalanceCyan"_s));
     balance->keyValueObject()->setValueForKey(u"2"_s, u"ColorBalanceCyan"_s);
     auto *button = window.findChild<QPushButton *>(u"presets"_s);
+    QTRY_VERIFY(button->menu());
     Q_EMIT button->menu()->aboutToShow();
     QTRY_VERIFY(!platform::Background::isUnderWay());
     for (QAction *action : button->menu()->actions()) {
