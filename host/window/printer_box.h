@@ -25,7 +25,8 @@ public:
     // Says below the list that more printers may come.
     void setSearching(bool searching);
     QSize sizeHint() const override; // whatever the printers are called
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    // Where there is little room, names are cut.
+    QSize minimumSizeHint() const override { return {minimumWidth(), sizeHint().height()}; }
     void showPopup() override;
     void hidePopup() override;
     QLineEdit *searchField() const { return m_search; }

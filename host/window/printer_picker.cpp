@@ -23,7 +23,6 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     m_box->setMinimumContentsLength(24);
     m_box->setMinimumWidth(160);
     m_box->setMaximumWidth(qMax(420, 32 * m_box->fontMetrics().averageCharWidth()));
-    m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_box->setAccessibleName(tr("Printer"));
     m_state->setIndent(2);
     m_state->setWordWrap(true);

@@ -8,6 +8,7 @@
 #include "tests/host/host_fixture.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -24,7 +25,8 @@ protected:
     void reset()
     {
         QCoreApplication::setOrganizationName(QStringLiteral("kelmar-test"));
-        QCoreApplication::setApplicationName(QStringLiteral("print-window-test"));
+        // Each test program has a settings file of its own, as several run at once.
+        QCoreApplication::setApplicationName(QFileInfo(QCoreApplication::applicationFilePath()).baseName());
         QSettings().clear();
         m_system = FakePrintSystem();
         host::Destination office = officePrinter();
