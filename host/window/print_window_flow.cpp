@@ -193,7 +193,8 @@ void PrintWindow::deliver()
                 RememberedPrinter().setName(printer);
                 rememberUse();
             });
-        accept();
+        if (!m_isDismissed) // closed while the settings file took its time
+            accept();
         return;
     }
     send();

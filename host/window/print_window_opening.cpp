@@ -57,6 +57,7 @@ void PrintWindow::openTask()
 void PrintWindow::openWished(const PrinterWish &wish, OpeningReceiver receiver)
 {
     m_whenIdle = nullptr;
+    m_usedLast.drop(); // of what was opened before
     m_opening.start(
         this, [&system = m_system, wish] { return openAny(system, wish); },
         [this, receiver = std::move(receiver)](PrinterOpening opening) {
