@@ -15,8 +15,10 @@ namespace {
 const QString counter = QStringLiteral("pdfinfo");
 
 // Which pages are printed does not change how many there are.
+// What no count depends on.
 PageSettings withoutRanges(PageSettings settings)
 {
+    settings.isMonochrome = false;
     settings.options.removeIf(
         [](const auto &option) { return option.first == QLatin1String("page-ranges"); });
     return settings;

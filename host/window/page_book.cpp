@@ -362,7 +362,7 @@ void PageBook::openViewOf(QWidget *control)
 {
     const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
     auto *views = panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panel(panel));
-    if (views)
+    if (views && views->offersViewOf(control))
         views->showViewOf(control);
 }
 

@@ -61,8 +61,9 @@ QString RangeCheck::problem(const QString &ranges)
     if (included > 1) {
         const QString name = oneLine(m_documents->name(longest));
         return pagesPerSide > 1
-                   ? tr("The longest document, “%1”, has only %2 printed sides.").arg(name).arg(last)
-                   : tr("The longest document, “%1”, has only %2 pages.").arg(name).arg(last);
+                   ? tr("The longest document, “%1”, has only %2 printed sides.")
+                         .arg(name, QString::number(last))
+                   : tr("The longest document, “%1”, has only %2 pages.").arg(name, QString::number(last));
     }
     return pagesPerSide > 1 ? tr("There are only %1 printed sides.").arg(last)
                             : tr("The document has only %1 pages.").arg(last);
