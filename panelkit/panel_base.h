@@ -6,6 +6,7 @@
 #include "panelkit/panel_protocols.h"
 #include "platform/key_value_object.h"
 #include "platform/layout_loader.h"
+#include "platform/panel_extras.h"
 
 #include <QMap>
 #include <QPointer>

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "panelkit/panel_base.h"
+#include "platform/panel_extras.h"
 
 #include <QVariantList>
 #include <QWidget>

@@ -3,6 +3,8 @@
 
 #include "platform/print_dialog.h"
 
+#include "platform/panel_extras.h"
+
 namespace platform {
 
 const QString printDialogPanelType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");

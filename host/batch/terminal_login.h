@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/printing/server_connection.h"
+#include "host/printing/login.h"
 
 namespace host {
 

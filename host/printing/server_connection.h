@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/printing/cups_handles.h"
+#include "host/printing/login.h"
 #include "host/printing/print_error.h"
 
 #include <QByteArray>
@@ -16,43 +17,6 @@
 class QIODevice;
 
 namespace host {
-
-// What a print server that wants to know who prints is told.
-struct Login
-{
-    QString user;
-    QString password;
-    bool operator==(const Login &) const = default;
-};
-
-struct LoginQuestion
-{
-    QString server;
-    QString user;       // proposed
-    bool again = false; // the last answer was not accepted
-};
-
-// Asks a person; nil when they do not want to answer. Called on the thread that makes the request.
-using LoginPrompt = std::function<std::optional<Login>(const LoginQuestion &)>;
-
-// How long a server is waited for, in milliseconds.
-struct ServerPatience
-{
-    int connectTime = 10'000;
-    int idleTime = 30'000; // without a byte going either way
-};
-
-// Who is asked, and what they have answered, so that one answer does for every request of a program; and how
-// long they wait. One thread at a time.
-struct LoginKeeper
-{
-    ServerPatience patience;
-    LoginPrompt prompt; // empty: nobody is asked, and what needs a login is refused
-    std::optional<Login> given;
-    // What was accepted, as the server's HTTP side wants it: sent along from the start on later connections,
-    // since a refusal may cross with the request and end as a broken connection.
-    QByteArray accepted;
-};
 
 // What became of one request.
 struct Reply

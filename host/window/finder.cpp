@@ -9,6 +9,7 @@
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
 #include "host/window/search_bar.h"
+#include "platform/panel_extras.h"
 
 #include <QListWidget>
 #include <QTimer>

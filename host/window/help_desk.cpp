@@ -9,6 +9,7 @@
 #include "host/window/page_controls.h"
 #include "host/window/page_list.h"
 #include "host/window/print_window.h"
+#include "platform/panel_extras.h"
 
 #include <QApplication>
 #include <QFile>

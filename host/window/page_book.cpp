@@ -19,6 +19,7 @@
 #include "host/window/preview_pane.h"
 #include "host/window/separator.h"
 #include "host/window/summary_page.h"
+#include "platform/panel_extras.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -8,6 +8,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/extensions.h"
+#include "host/window/print_task.h"
 #include "platform/awaited.h"
 
 #include <QDialog>
@@ -41,26 +42,6 @@ class SettingsControl;
 class UnavailablePage;
 class WaitSign;
 class WaitingPage;
-
-// What the window is opened for. A value.
-struct PrintTask
-{
-    QStringList files;             // "-" is the standard input
-    QString title;                 // of the job; the first file's name when empty
-    QString documentName;          // of the only document, where its file's name says nothing
-    QString printer;               // destination name; empty for the one used last, else the default
-    QString ppdFile;               // shows the options of this PPD instead of the queue's
-    QString firstPage;             // name of the page to open at; empty for the first
-    bool printerMayBeGone = false; // a printer that is not there is as good as none
-    // Runs once on the first session, with its first page in place: settings of the command line. Later
-    // sessions get them with whatever else has been chosen.
-    std::function<bool(DialogSession *, PrintError *)> prepare;
-    // Runs once on the first session, before any page: where another program wants the dialog to begin.
-    std::function<void(DialogSession *)> begin;
-    // The settings are the answer: another program has the document, and nothing is printed here.
-    bool settingsOnly = false;
-    QString acceptLabel; // of the button that prints; empty for the usual one
-};
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
 // one and takes along what has been chosen. The print system and the extensions are borrowed; they outlive it

@@ -46,6 +46,16 @@ private:
         Policy::setCurrent(*policy);
         return *policy;
     }
+    bool showsDialog(PrintSystem &system, Extensions &extensions)
+    {
+        PrintTask task;
+        task.files = {m_document.fileName()};
+        m_window = std::make_unique<PrintWindow>(system, extensions, task);
+        PrintError error;
+        const bool opened = m_window->open(&error);
+        m_window->show();
+        return opened;
+    }
     bool shows(const QString &text) const // plainly
     {
         const auto labels = m_window->findChildren<QLabel *>();
@@ -181,12 +191,7 @@ void PolicyTest::saysThatItOffersNone()
     PolicyPrintSystem system(m_system, {}, lay("{\"queues\": [\"" + queues + "\"]}"));
     QCOMPARE(print(system, m_none, {}), 1);
     QVERIFY2(m_said.contains(said.toUtf8()), m_said.constData());
-    PrintTask task;
-    task.files = {m_document.fileName()};
-    m_window = std::make_unique<PrintWindow>(system, m_none, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
+    QVERIFY(showsDialog(system, m_none));
     QTRY_VERIFY(m_window->session() ? queues == "attic" : shows(said));
 }
 
@@ -208,12 +213,7 @@ void PolicyTest::dialogShowsWhatIsLocked()
     const Policy policy = lay(R"({"contact": "<b>IT</b>", "queues": ["office", "raw"],
         "rules": [{"locked": {"Duplex": "DuplexNoTumble"}, "hiddenOptions": ["MediaType"]}]})");
     PolicyPrintSystem system(m_system, {}, policy);
-    PrintTask task;
-    task.files = {m_document.fileName()};
-    m_window = std::make_unique<PrintWindow>(system, m_none, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
+    QVERIFY(showsDialog(system, m_none));
     QTRY_VERIFY(find<QComboBox>(u"PageSize"_s));
     QVERIFY(!find<QComboBox>(u"MediaType"_s));
     auto *box = find<platform::ChoiceBox>(u"Duplex"_s);
@@ -232,12 +232,7 @@ void PolicyTest::panelKeepsWhatIsLocked()
     PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [
         {"locked": {"PrintMode": "Private"}, "lockedPanels": ["color-settings-2"]}]})"));
     Extensions extensions({m_bundle});
-    PrintTask task;
-    task.files = {m_document.fileName()};
-    m_window = std::make_unique<PrintWindow>(system, extensions, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
+    QVERIFY(showsDialog(system, extensions));
     QTRY_VERIFY(m_window->session());
     DialogSession *session = m_window->session();
     auto *book = find<PageBook>();

@@ -48,6 +48,23 @@ private:
     QByteArray m_before;
 };
 
+// The dialog on the document, without a bundle.
+struct PlainDialog
+{
+    explicit PlainDialog(const QString &printer) : window(system, none, taskAt(printer)) {}
+    static PrintTask taskAt(const QString &printer)
+    {
+        PrintTask task;
+        task.files = {document};
+        task.printer = printer;
+        return task;
+    }
+
+    CupsPrintSystem system;
+    Extensions none{QStringList()};
+    PrintWindow window;
+};
+
 } // namespace
 
 // How a job ends when something goes wrong on the way, as a script and a window are told, against a real
@@ -195,12 +212,8 @@ void JobEndTest::lostAnswerInTheWindow()
     auto proxy = faulty(u"send-vanished"_s);
     QVERIFY(proxy);
     const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
-    CupsPrintSystem system;
-    Extensions none({});
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"other"_s;
-    PrintWindow window(system, none, task);
+    PlainDialog dialog(u"other"_s);
+    PrintWindow &window = dialog.window;
     PrintError error;
     QVERIFY(window.open(&error));
     QTRY_VERIFY(window.session());
@@ -246,12 +259,8 @@ void JobEndTest::signalCancelsTheJob()
 void JobEndTest::jobIsChangedFromTheResult()
 {
     QVERIFY(m_server.setPaused(u"other"_s, true));
-    CupsPrintSystem system;
-    Extensions none({});
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"other"_s;
-    PrintWindow window(system, none, task);
+    PlainDialog dialog(u"other"_s);
+    PrintWindow &window = dialog.window;
     PrintError error;
     QVERIFY(window.open(&error));
     window.show();
@@ -287,12 +296,8 @@ void JobEndTest::jobIsChangedFromTheResult()
 void JobEndTest::forgottenJob()
 {
     QVERIFY(m_server.setPaused(u"other"_s, true));
-    CupsPrintSystem system;
-    Extensions none({});
-    PrintTask task;
-    task.files = {document};
-    task.printer = u"other"_s;
-    PrintWindow window(system, none, task);
+    PlainDialog dialog(u"other"_s);
+    PrintWindow &window = dialog.window;
     PrintError error;
     QVERIFY(window.open(&error));
     window.show();
