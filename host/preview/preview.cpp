@@ -309,7 +309,8 @@ void Preview::keepPage(const SharedFile &output)
                                : tr("%1 failed: %2").arg(renderer, problem));
         return;
     }
-    Q_EMIT pageMade(index);
+    if (m_facts) // else counted() tells of it
+        Q_EMIT pageMade(index);
     renderNext();
 }
 
