@@ -53,6 +53,8 @@ std::shared_ptr<SnmpSession> openedSession(const SnmpCalls &calls, const QString
     return std::make_shared<SnmpSession>(calls, calls.tap_snmp_sess_open(&session));
 }
 
+constexpr std::chrono::seconds startTime(5);
+
 struct Request
 {
     std::shared_ptr<SnmpSession> session;
@@ -120,13 +122,18 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    // It may read files that the environment names, which need not answer.
-    auto session = platform::callBeside([&library, calls = SnmpCalls(library), address] {
-        return library.initialize("KelmarPDE") ? openedSession(calls, address) : nullptr;
-    });
+    // It reads files that the environment names, which need not answer.
+    const auto isReady =
+        platform::callBeside([&library] { return library.initialize("KelmarPDE"); }, startTime);
+    if (!isReady)
+        return fail(QVSNMPCannotConnect);
+    if (!*isReady)
+        return fail(QVSNMPArchitectureMismatch);
+    const SnmpCalls &calls = library;
+    auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });
     if (!session)
         return fail(QVSNMPCannotConnect);
-    if (!*session || (*session)->handle == nullptr)
+    if ((*session)->handle == nullptr)
         return fail(QVSNMPArchitectureMismatch);
     return std::unique_ptr<QVSNMP_M880>(new QVSNMP_M880(std::move(*session)));
 }
