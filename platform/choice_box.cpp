@@ -35,8 +35,10 @@ void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option)
     const QRect place =
         box.style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, &box);
     const int icon = option->currentIcon.isNull() ? 0 : option->iconSize.width() + iconGap;
-    option->currentText =
-        option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, place.width() - 2 * inset - icon);
+    const int room = place.width() - 2 * inset - icon;
+    if (option->fontMetrics.horizontalAdvance(option->currentText) >
+        room) // which spares most windows code of Qt
+        option->currentText = option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, room);
 }
 
 ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)

@@ -45,7 +45,9 @@ void MenuButton::initStyleOption(QStyleOptionButton *option) const
     option->features |= QStyleOptionButton::HasMenu;
     // Where there is little room the end is cut, not both sides; the key may go with it.
     const int room = width() - sideAir - style()->pixelMetric(QStyle::PM_MenuButtonIndicator, option, this);
-    option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+    if (option->fontMetrics.horizontalAdvance(option->text) > room)
+        option->text =
+            option->fontMetrics.elidedText(option->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
 void MenuButton::paintEvent(QPaintEvent *event)

@@ -116,9 +116,9 @@ void PrintWindow::setRoom(const QSize &room)
     fit();
 }
 
-// Wide and high enough for the page, and never larger than the screen. A page much longer than others
-// scrolls, as does what would only fit a window with no room around it: where the frame and the desktop's
-// bars are is not known for certain.
+// Wide and high enough for the page, and never larger than the screen. A page that is long scrolls, as does
+// what would only fit a window with no room around it: where the frame and the desktop's bars are is not
+// known for certain.
 void PrintWindow::fit()
 {
     const QSize room = m_room.isValid() ? m_room : freeRoom(this);
@@ -126,9 +126,10 @@ void PrintWindow::fit()
     const bool isOurs = !isVisible() || height() == m_ownHeight;
     QSize wanted;
     if (!m_book->isHidden()) {
-        const int most = qMin(mostLines * line, room.height() - spareLines * line);
         const int others = m_picker->sizeHint().height() + m_footer->sizeHint().height() + 2;
-        wanted = {m_book->wantedWidth(), isOurs ? qMin(most, m_book->wantedHeight() + others) : 0};
+        const int high = m_book->wantedHeight() + others;
+        const bool grows = isOurs && high <= mostLines * line;
+        wanted = {m_book->wantedWidth(), grows ? qMin(high, room.height() - spareLines * line) : 0};
     }
     setMinimumSize(layout()->minimumSize().boundedTo(room));
     resize(size().expandedTo(wanted).boundedTo(room));
