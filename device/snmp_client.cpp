@@ -120,13 +120,13 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    if (!library.initialize("KelmarPDE"))
-        return fail(QVSNMPArchitectureMismatch);
-    const SnmpCalls &calls = library;
-    auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });
+    // It may read files that the environment names, which need not answer.
+    auto session = platform::callBeside([&library, calls = SnmpCalls(library), address] {
+        return library.initialize("KelmarPDE") ? openedSession(calls, address) : nullptr;
+    });
     if (!session)
         return fail(QVSNMPCannotConnect);
-    if ((*session)->handle == nullptr)
+    if (!*session || (*session)->handle == nullptr)
         return fail(QVSNMPArchitectureMismatch);
     return std::unique_ptr<QVSNMP_M880>(new QVSNMP_M880(std::move(*session)));
 }
