@@ -168,7 +168,7 @@ void PageBook::makeFrame(Page *page)
     QWidget *content = contentOf(*page);
     content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
-    connect(page->frame, &PageFrame::wantedWidthChanged, this, &PageBook::fitPreview);
+    connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitPreview);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     if (page->panel >= 0)
@@ -393,6 +393,12 @@ int PageBook::wantedWidth() const
     const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
     const int preview = m_preview && isGeneral() ? preferredPreview : 0;
     return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
+}
+
+int PageBook::wantedHeight() const
+{
+    const QWidget *frame = builtPage(m_current);
+    return frame ? static_cast<const PageFrame *>(frame)->wantedHeight() : 0;
 }
 
 QWidget *PageBook::pages() const

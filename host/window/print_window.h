@@ -221,7 +221,8 @@ private:
     NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
-    QSize m_room; // null for what the screen has free
+    QSize m_room;        // null for what the screen has free
+    int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
     int m_busyDepth = 0;
 };
 
