@@ -125,7 +125,7 @@ wait $waiting
 
 # ---- through a real cupsd
 KELMAR_DIALOG_BACKEND=$build/backend/kelmar-dialog "$root/scripts/lib/private-cupsd.sh" start "$work/cups" || exit 1
-"$root/scripts/lib/private-cupsd.sh" add-queue "$work/cups" kelmar "$build/packaging/queue/kelmar-dialog.ppd" "kelmar-dialog:/?wait=3"
+"$root/scripts/lib/private-cupsd.sh" add-queue "$work/cups" kelmar "$build/packaging/queue/kelmar-dialog.ppd" "kelmar-dialog:/?wait=20"
 lpadmin -p kelmar -o printer-op-policy=kelmar-dialog -o printer-is-shared=false 2>/dev/null
 document=$root/demo/report.pdf
 rm -f "$log" "$log.document"
