@@ -40,6 +40,7 @@ expect() { # WHAT CODE TEXT COMMAND...: the exit code, and what the error output
     [ $code -eq "$2" ] && { [ -z "$3" ] || grep -qF -- "$3" "$work/err"; } && return
     echo "FAIL: $1: exit code $code instead of $2; said: $(cat "$work/err")"
     failed=1
+    return 1
 }
 
 backend() { # ARGUMENTS...: as cupsd runs it
@@ -120,7 +121,7 @@ facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/stat
 wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 0000000000000000\nCapEff: 0000000000000000\nNoNewPrivs: 1' \
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
-wait $waiting
+wait $waiting || failed=1 # which it says in a process of its own
 [ -z "$(ls -A /var/tmp)" ] || { echo "FAIL: left in /var/tmp: $(ls -A /var/tmp)" && failed=1; }
 
 # ---- through a real cupsd
