@@ -320,7 +320,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
 
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
     open(u"office"_s);
-    QTRY_VERIFY(find<PrinterPicker>()->box()->count() > manyQueues);
+    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 20'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
     QVERIFY(QFile::rename(path, aside));
