@@ -18,6 +18,11 @@ class Failed(Exception):
     """What a user would have seen did not happen; says what."""
 
 
+def expect(what, is_so):
+    if not is_so:
+        raise Failed(what)
+
+
 def wait(what, condition):
     """What the condition gives as soon as that is something."""
     from gi.repository import GLib

@@ -13,7 +13,8 @@ import shutil
 import subprocess
 import sys
 
-from session import Failed, Program, Session, wait
+from arrival import show_arrival
+from session import Failed, Program, Session, expect, wait
 
 CUPS, DOCUMENT, PICTURES = sys.argv[1:4]
 PRESETS = os.path.expanduser("~/.cups/lpoptions")  # where every program of the user looks for them
@@ -28,11 +29,6 @@ def step(name):
         STEPS.append((name, function))
         return function
     return add
-
-
-def expect(what, is_so):
-    if not is_so:
-        raise Failed(what)
 
 
 def shows(d, label, value):
@@ -195,28 +191,22 @@ def conflict(d):
         said, d.says("instead of"))
 
 
-@step("resolved")
-def resolved(d):
-    d.click(d.get("push button", "Change and Use It"))
-    shows(d, SIDES, "Long-Edge Binding")
-    shows(d, TYPE, "Plain Paper")
-    return "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper"
+def ends_in(name, act, sides, paper, said):
+    """A step after which two settings, of which one forbids the other, stand so."""
+    @step(name)
+    def check(d):
+        act(d)
+        shows(d, SIDES, sides)
+        shows(d, TYPE, paper)
+        return said
 
 
-@step("resolution-undone")
-def resolution_undone(d):
-    d.keys("ctrl+z")
-    shows(d, SIDES, "Off")
-    shows(d, TYPE, "Thick Paper 1")
-    return "Ctrl+Z takes both back at once: Off, Thick Paper 1"
-
-
-@step("resolution-redone")
-def resolution_redone(d):
-    d.keys("ctrl+shift+z")
-    shows(d, SIDES, "Long-Edge Binding")
-    shows(d, TYPE, "Plain Paper")
-    return "Ctrl+Shift+Z: Long-Edge Binding, Plain Paper"
+ends_in("resolved", lambda d: d.click(d.get("push button", "Change and Use It")), "Long-Edge Binding", "Plain Paper",
+        "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper")
+ends_in("resolution-undone", lambda d: d.keys("ctrl+z"), "Off", "Thick Paper 1",
+        "Ctrl+Z takes both back at once: Off, Thick Paper 1")
+ends_in("resolution-redone", lambda d: d.keys("ctrl+shift+z"), "Long-Edge Binding", "Plain Paper",
+        "Ctrl+Shift+Z: Long-Edge Binding, Plain Paper")
 
 
 @step("preview")
@@ -270,25 +260,6 @@ def close(d, key, code):
     expect("the program ended with %s, not %s" % (d.process.returncode, code), d.process.returncode == code)
 
 
-def show_arrival():
-    """What reached the printer's backend: options, and the sides in the data."""
-    arguments = os.path.join(CUPS, "jobs", "1.args")
-    wait("the job at the printer's backend", lambda: os.path.exists(arguments))
-    with open(arguments) as file:
-        options = sorted(file.read().split("\0")[4].split())
-    print("== What reached the printer's backend")
-    for option in options:
-        print("   " + option)
-    for option in ("number-up=4", "page-border=single", "Duplex=DuplexNoTumble", "TonerSave=True", "MediaType=Plain"):
-        expect("%s has not reached the printer" % option, option in options)
-    with open(os.path.join(CUPS, "jobs", "1.data"), "rb") as file:
-        sides = len(re.findall(rb"^%%Page: ", file.read(), re.M))
-    print("   8 pages of the document on %d sides of %d sheet of paper" % (sides, (sides + 1) // 2))
-    expect("%d sides reached the printer, not 2" % sides, sides == 2)
-    others = [name for name in os.listdir(os.path.join(CUPS, "jobs")) if name.endswith(".args")]
-    expect("more than one job reached the printer: %s" % others, others == ["1.args"])
-
-
 def show_presets():
     print("== The preset is gone")
     seen = subprocess.run(["lpoptions", "-p", "office/" + PRESET], stdout=subprocess.PIPE, check=False).stdout.decode()
@@ -322,7 +293,7 @@ def run(session):
 try:
     with Session() as everything:
         run(everything)
-        show_arrival()
+        show_arrival(CUPS)
         show_presets()
 except Failed as failure:
     sys.exit("tour: %s" % failure)

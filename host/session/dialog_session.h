@@ -5,13 +5,12 @@
 
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
-#include "host/session/change_ledger.h"
 #include "host/session/chosen_settings.h"
 #include "host/session/general_settings.h"
+#include "host/session/panel_changes.h"
 #include "host/session/policy.h"
 #include "host/session/protection.h"
-#include "host/session/session_panel.h"
-#include "host/session/session_state.h"
+#include "host/session/session_panels.h"
 #include "host/session/summary_section.h"
 #include "platform/print_dialog.h"
 #include "platform/printing_manager.h"
@@ -20,7 +19,6 @@
 #include <QSet>
 
 #include <memory>
-#include <vector>
 
 namespace host {
 
@@ -55,18 +53,18 @@ public:
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
     const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before anybody chose
-    int panelCount() const { return static_cast<int>(m_panels.size()); }
-    platform::PrintDialogPanel *panel(int index) const;
-    QStringList panelKeywords(int index) const { return m_panels.at(static_cast<size_t>(index)).keywords; }
-    bool isRestored(int index) const { return m_panels.at(static_cast<size_t>(index)).restored; }
+    int panelCount() const { return m_panels.count(); }
+    platform::PrintDialogPanel *panel(int index) const { return m_panels.at(index).panel.get(); }
+    QStringList panelKeywords(int index) const { return m_panels.at(index).keywords; }
+    bool isRestored(int index) const { return m_panels.at(index).restored; }
     // The panel that handles a PPD option, or -1.
-    int panelOfKeyword(const QString &keyword) const;
+    int panelOfKeyword(const QString &keyword) const { return m_panels.ofKeyword(keyword); }
     // Whether an option or a panel's key holds a code, which nobody but its user may see.
     bool isSecret(const QString &key) const;
     // The panel that answers a key or key path beside the PPD options, or -1.
-    int panelOfSetting(const QString &keyPath) const;
+    int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
     // The keys and key paths beside PPD options that a panel lets itself be set by.
-    QStringList settableKeysOf(int panel) const;
+    QStringList settableKeysOf(int panel) const { return m_panels.settableKeysOf(panel); }
     // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
     // their options stand. These are not restored, since a panel may ask a device that is switched off.
     void prepare(int index);
@@ -86,10 +84,6 @@ public:
     // none that gives up what protects the user. Where every way does, `givenUp` (may be null) says what.
     std::optional<Resolution> proposal(QString *givenUp = nullptr) const;
     void apply(const Resolution &resolution);
-    // Everything that can be set, as it stands, what panels have not saved yet included.
-    SessionState state() const;
-    // Of what differs between two states, sets all to what `to` has, on the panels too, without a notice.
-    void bring(const SessionState &from, const SessionState &to);
     // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
     QStringList takeNotices();
     void addNotice(const QString &notice) { m_notices.append(notice); }
@@ -119,27 +113,14 @@ Q_SIGNALS:
     void blockingEnded();
 
 private:
-    using Panel = SessionPanel;
+    friend class StateKeeper; // sets what no front end may
 
-    void watch(size_t index);
-    void noteSetting(int panel, const QString &key);
-    void keepLocked(size_t index, const QString &key);
-    void announceChoices(Panel &panel);
-    void restore(Panel &panel);
-    void savePanel(size_t index);
-    void setOnPanels(const QString &keyword, const QString &choice);
-    void setOnPanel(const Panel &panel, const QString &keyword, const QString &choice);
-    QVariant currentValue(const QString &keyword) const;
-    // What another panel than `owner` has just been set to; empty for nothing.
-    OptionChoice causeBesides(int owner) const;
-    void putBack(const QString &keyword, const QVariant &value);
-    bool bringMarks(const SessionState &from, const SessionState &to);
-    bool bringPrintSettings(const SessionState &from, const SessionState &to);
+    void panelKeyChanged(int panel, const QString &key);
+    void keepLocked(int panel, const QString &key);
+    void savePanel(int index);
     // Works through the changes that panels have announced, once their calls have returned.
     void settle();
     void settleLater();
-    void lookAtKeys(Panel &panel, bool areChosen);
-    void tellDropped(const Panel &panel, const QVariantMap &before);
     void tellUnknownDefaults();
 
     Policy::Rule m_rule;
@@ -151,18 +132,12 @@ private:
     GeneralSettings m_startingGeneral;
     Protection m_protection;
     ChosenSettings m_chosen;
-    ChangeLedger m_ledger;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;
     QString m_lastUserKeyword;
-    QMap<int, std::pair<int, QString>> m_justSet; // by panel: how many came before it, and the option
-    int m_settings = 0;
-    int m_saving = -1;
-    int m_busy = 0; // calls of this object into panels that are under way
     bool m_settleQueued = false;
-    const Panel *m_restoring = nullptr;  // may wait for a device; what it holds means nothing yet
-    const Panel *m_announcing = nullptr; // is being told what is so, not what to change
-    std::vector<Panel> m_panels;         // go first
+    SessionPanels m_panels; // go first
+    PanelChanges m_changes;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/job_options.h"
+#include "host/session/session_state.h"
 
 #include <QCoreApplication>
 
@@ -130,7 +131,7 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
                  const QMap<QString, QString> &preset)
 {
     const QMap<QString, QString> locked = session->rule().lockedChoices(session->ppd());
-    const SessionState now = session->state();
+    const SessionState now = StateKeeper::stateOf(*session);
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
     all.insert(preset);
@@ -155,7 +156,7 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
         else if (isUsers && !GeneralSettings::covers(it.key()) && !isLayout(*session, it.key(), it.value()))
             wanted.chosen.add(chosenFrom(*session, it.key(), it.value()));
     }
-    session->bring(now, wanted);
+    StateKeeper(session).bring(now, wanted);
     for (const QString &problem : std::as_const(problems))
         session->addNotice(problem);
     if (!missed.isEmpty())

@@ -4,6 +4,7 @@
 #include "host/session/session_changes.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/session_state.h"
 #include "platform/key_value_object.h"
 
 #include <algorithm>
@@ -101,7 +102,7 @@ QStringList keysOfControl(const DialogSession &session, int panel, const QString
 
 void putBack(DialogSession *session, const SessionState &base, const QStringList &keys)
 {
-    const SessionState now = session->state();
+    const SessionState now = StateKeeper::stateOf(*session);
     SessionState wanted = now;
     for (const QString &key : keys) {
         if (base.marks.contains(key))
@@ -112,7 +113,7 @@ void putBack(DialogSession *session, const SessionState &base, const QStringList
             wanted.general = withGeneralValue(wanted.general, key, base.general);
     }
     wanted.chosen.takeBack(keys, base.chosen);
-    session->bring(now, wanted);
+    StateKeeper(session).bring(now, wanted);
 }
 
 } // namespace host

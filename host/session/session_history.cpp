@@ -72,7 +72,8 @@ private:
 };
 
 SessionHistory::SessionHistory(DialogSession *session)
-    : m_session(session), m_now(session->state()), m_base{m_now, session->destination().instance}
+    : m_session(session),
+      m_now(StateKeeper::stateOf(*session)), m_base{m_now, session->destination().instance}
 {
     m_steps.setUndoLimit(mostSteps);
 }
@@ -81,7 +82,7 @@ void SessionHistory::note()
 {
     if (m_isGoing)
         return;
-    SessionState now = m_session->state();
+    SessionState now = StateKeeper::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
         // A panel that has been saved repeats what was seen before.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
@@ -120,7 +121,7 @@ void SessionHistory::noteLater()
 
 void SessionHistory::absorb()
 {
-    m_now = m_session->state();
+    m_now = StateKeeper::stateOf(*m_session);
     absorbNew(m_now);
 }
 
@@ -136,7 +137,7 @@ void SessionHistory::absorbNew(const SessionState &now)
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
 {
     const QScopedValueRollback<bool> going(m_isGoing, true);
-    m_session->bring(from, to);
+    StateKeeper(m_session).bring(from, to);
     m_base = base;
     absorb();
     m_sinceStep.invalidate();

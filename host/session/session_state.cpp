@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// How a session tells what is set, and goes back to it.
-
 #include "host/session/session_state.h"
 
 #include "host/session/dialog_session.h"
@@ -58,9 +56,9 @@ QMap<QString, QString> byName(const GeneralSettings &general)
     return values;
 }
 
-std::pair<size_t, QString> placeOf(const QString &panelKey)
+std::pair<int, QString> placeOf(const QString &panelKey)
 {
-    return {panelKey.section(QLatin1Char('/'), 0, 0).toULong(), panelKey.section(QLatin1Char('/'), 1)};
+    return {panelKey.section(QLatin1Char('/'), 0, 0).toInt(), panelKey.section(QLatin1Char('/'), 1)};
 }
 
 } // namespace
@@ -105,50 +103,53 @@ void SessionState::keepDifferences(SessionState *one, SessionState *other)
     dropAlike(&one->printSettings, &other->printSettings);
 }
 
-SessionState DialogSession::state() const
+SessionState StateKeeper::stateOf(const DialogSession &session)
 {
     SessionState state;
-    for (const QString &keyword : m_ppd ? m_ppd->optionKeywords() : QStringList()) {
-        if (!m_ppd->isInstallable(keyword))
-            state.marks.insert(keyword, m_ppd->markedChoice(keyword));
+    const PpdDocument *ppd = session.ppd();
+    for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {
+        if (!ppd->isInstallable(keyword))
+            state.marks.insert(keyword, ppd->markedChoice(keyword));
     }
-    for (size_t i = 0; i < m_panels.size(); ++i) {
-        if (!m_panels[i].restored)
+    for (int i = 0; i < session.panelCount(); ++i) {
+        if (!session.isRestored(i))
             continue;
-        platform::KeyValueObject *object = m_panels[i].panel->keyValueObject();
-        for (const QString &keyword : m_panels[i].keywords) {
+        platform::KeyValueObject *object = session.m_panels.objectOf(i);
+        for (const QString &keyword : session.panelKeywords(i)) {
             const QVariant choice = object->valueForKey(keyword);
             if (choice.isValid() && state.marks.contains(keyword))
                 state.marks.insert(keyword, choice.toString());
         }
-        for (const QString &key : settableKeysOf(static_cast<int>(i))) {
+        for (const QString &key : session.settableKeysOf(i)) {
             if (object->keysOfDependentKey(key).isEmpty()) // others stand for options
                 state.panelValues.insert(QStringLiteral("%1/%2").arg(i).arg(key),
                                          object->valueForKeyPath(key));
         }
     }
-    state.printSettings = m_printSettings.values();
-    state.general = m_general;
-    state.chosen = m_chosen;
-    state.savedKeywords = m_savedKeywords;
-    state.instance = m_destination.instance;
-    state.destinationOptions = m_destination.options;
+    state.printSettings = session.m_printSettings.values();
+    state.general = session.general();
+    state.chosen = session.chosen();
+    state.savedKeywords = session.m_savedKeywords;
+    state.instance = session.destination().instance;
+    state.destinationOptions = session.destination().options;
     return state;
 }
 
 // One round; true when there was nothing left to do.
-bool DialogSession::bringMarks(const SessionState &from, const SessionState &to)
+bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
 {
-    const SessionState now = state();
+    const SessionState now = stateOf(*m_session);
+    PpdDocument *ppd = m_session->ppd();
+    SessionPanels &panels = m_session->m_panels;
     bool isThere = true;
     for (auto it = to.marks.begin(); it != to.marks.end(); ++it) {
         const bool differs = from.marks.value(it.key()) != it.value() && !it.value().isEmpty();
         if (!differs ||
-            (now.marks.value(it.key()) == it.value() && m_ppd->markedChoice(it.key()) == it.value()))
+            (now.marks.value(it.key()) == it.value() && ppd->markedChoice(it.key()) == it.value()))
             continue;
         isThere = false;
-        m_ppd->mark(it.key(), it.value());
-        setOnPanels(it.key(), it.value());
+        ppd->mark(it.key(), it.value());
+        panels.set(it.key(), it.value());
     }
     for (auto it = to.panelValues.begin(); it != to.panelValues.end(); ++it) {
         const auto before = from.panelValues.constFind(it.key());
@@ -157,8 +158,8 @@ bool DialogSession::bringMarks(const SessionState &from, const SessionState &to)
         isThere = false;
         const auto [panel, key] = placeOf(it.key());
         try {
-            if (panel < m_panels.size())
-                m_panels[panel].panel->keyValueObject()->setValueForKeyPath(*it, key);
+            if (panel < panels.count())
+                panels.objectOf(panel)->setValueForKeyPath(*it, key);
         } catch (const platform::Exception &exception) {
             qCWarning(lcHost).noquote() << exception.name();
         }
@@ -167,43 +168,44 @@ bool DialogSession::bringMarks(const SessionState &from, const SessionState &to)
 }
 
 // What a device's settings are stands in the print settings alone until a panel has read it.
-bool DialogSession::bringPrintSettings(const SessionState &from, const SessionState &to)
+bool StateKeeper::bringPrintSettings(const SessionState &from, const SessionState &to)
 {
+    platform::PrintSettings &settings = m_session->m_printSettings;
     bool isChanged = false;
     const QStringList all = from.printSettings.keys() + to.printSettings.keys();
     for (const QString &key : QSet<QString>(all.begin(), all.end())) {
         const QVariant wanted = to.printSettings.value(key);
-        if (sameValue(from.printSettings.value(key), wanted) || sameValue(m_printSettings.value(key), wanted))
+        if (sameValue(from.printSettings.value(key), wanted) || sameValue(settings.value(key), wanted))
             continue;
-        m_printSettings.setValue(key, wanted);
+        settings.setValue(key, wanted);
         isChanged = true;
     }
     return isChanged;
 }
 
-void DialogSession::bring(const SessionState &from, const SessionState &to)
+void StateKeeper::bring(const SessionState &from, const SessionState &to)
 {
-    const QStringList notices = m_notices;
-    m_destination.instance = to.instance;
-    m_destination.options = to.destinationOptions;
+    const QStringList notices = m_session->m_notices;
+    m_session->m_destination.instance = to.instance;
+    m_session->m_destination.options = to.destinationOptions;
     for (int round = 0; round < mostRounds && !bringMarks(from, to); ++round)
-        settle();
+        m_session->settle();
     QStringList keys;
     addDifferences(to.panelValues, from.panelValues, &keys);
     const bool isReadAnew = bringPrintSettings(from, to) && keys.isEmpty();
-    settle();
-    m_notices = notices;
-    for (Panel &panel : m_panels) {
-        if (isReadAnew && panel.restored)
-            restore(panel);
+    m_session->settle();
+    m_session->m_notices = notices;
+    for (int i = 0; i < m_session->panelCount(); ++i) {
+        if (isReadAnew && m_session->isRestored(i))
+            m_session->m_panels.restore(i);
     }
-    const QStringList problems = m_notices;
-    save();
-    m_notices = problems;
-    m_general = to.general;
-    m_chosen = to.chosen;
-    m_savedKeywords = to.savedKeywords;
-    Q_EMIT changed();
+    const QStringList problems = m_session->m_notices;
+    m_session->save();
+    m_session->m_notices = problems;
+    m_session->m_general = to.general;
+    m_session->m_chosen = to.chosen;
+    m_session->m_savedKeywords = to.savedKeywords;
+    Q_EMIT m_session->changed();
 }
 
 } // namespace host

@@ -10,6 +10,7 @@
 #include "host/session/printed_pages.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
+#include "host/session/session_state.h"
 #include "host/window/change_marks.h"
 #include "host/window/general_page.h"
 #include "host/window/hidden_controls.h"
@@ -338,7 +339,7 @@ void PageBook::refresh()
 void PageBook::showSummary()
 {
     m_summary->show(*m_session, m_session->summary(),
-                    changesBetween(*m_session, m_history->base().state, m_session->state()));
+                    changesBetween(*m_session, m_history->base().state, StateKeeper::stateOf(*m_session)));
 }
 
 int PageBook::rowOf(const QString &key) const

@@ -260,7 +260,7 @@ void TestAdvancedColorSettings::userWhoDoesNotWait()
     QElapsedTimer clock;
     clock.start();
     settings.updateFromSNMP();
-    QVERIFY(clock.elapsed() < 1000);
+    QVERIFY(clock.elapsed() < 2500); // a request ends by itself after three seconds
     QTEST(settings.rgbSourceProfiles().size(), "rgbNames");
     QCOMPARE(settings.selectedRgbSourceProfile(), 0U);
     QVERIFY(!settings.snmpEnabled());

@@ -101,7 +101,7 @@ void TestBonjour::silence()
     QElapsedTimer clock;
     clock.start();
     QVERIFY(QVNetworkResolver_M880::resolveToIP(host).isNull());
-    QVERIFY2(clock.elapsed() < 5500, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY2(clock.elapsed() < 9000, qPrintable(QString::number(clock.elapsed()))); // waited for once: 5000
 }
 
 QTEST_GUILESS_MAIN(TestBonjour)

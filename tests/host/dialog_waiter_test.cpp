@@ -72,7 +72,7 @@ void DialogWaiterTest::keepsInputFromTheDialog()
     QVERIFY(waitWhile([&] {
         QTest::keyClick(m_field, Qt::Key_X);
         QTest::keyClick(m_dialog.get(), Qt::Key_Return);
-        QVERIFY(noticed.wait());
+        QVERIFY(!noticed.isEmpty() || noticed.wait());
         m_release->release();
     }));
     QVERIFY(m_field->text().isEmpty());

@@ -153,7 +153,7 @@ void PreviewTest::firstPageIsQuick()
     if (!hasTools())
         QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
     qint64 best = 10'000;
-    for (int i = 0; i < 3; ++i) { // something else may keep the machine busy
+    for (int i = 0; i < 10 && best >= 300; ++i) { // something else may keep the machine busy
         Preview preview(PageTools::installed());
         QSignalSpy made(&preview, &Preview::pageMade);
         preview.setWatched(true);
@@ -161,7 +161,7 @@ void PreviewTest::firstPageIsQuick()
         time.start();
         preview.setDocument(demo(u"report.pdf"_s));
         (void)preview.page(0);
-        QTRY_COMPARE(made.count(), 1);
+        QVERIFY(made.wait());
         best = qMin(best, time.elapsed());
     }
     qInfo("first page after %lld ms", best);
@@ -204,12 +204,18 @@ void PreviewTest::survivesItsPrograms()
         QVERIFY(QFile::remove(m_folder->filePath(program)));
     else
         fake(program, script);
+    LimitedProcess::Limits limits{std::chrono::seconds(20), qint64(1) << 30, 1 << 20};
+    // Only what would go on for ever is held to a time that other programs' load can use up.
+    if (problem.endsWith(u"too long"_s) || problem == u"pdftoppm "_s)
+        limits.time = std::chrono::seconds(1);
     Preview preview({{m_folder->path()}});
-    preview.setLimits({std::chrono::milliseconds(1000), qint64(1) << 30, 1 << 20});
+    preview.setLimits(limits);
     preview.setWatched(true);
     preview.setDocument(demo(u"report.pdf"_s));
     (void)preview.page(0);
     QTRY_VERIFY2(preview.problem().startsWith(problem), qPrintable(preview.problem()));
+    limits.time = std::chrono::seconds(20);
+    preview.setLimits(limits);
     fakeAll(); // and the next document is shown
     preview.setDocument(demo(u"../demo/report.pdf"_s));
     QSignalSpy made(&preview, &Preview::pageMade);

@@ -382,11 +382,11 @@ void ServiceTest::notifiesTheDesktop()
 
 void ServiceTest::leavesWhenIdle()
 {
-    startService({u"--idle"_s, u"1"_s});
+    startService({u"--idle"_s, u"2"_s});
     QSignalSpy left(m_service.get(), &QProcess::finished);
     const Answer chosen = call(prepareCall(u"T"_s));
     QCOMPARE(chosen.response, 0);
-    QVERIFY(!left.wait(2000)); // a token is open
+    QVERIFY(!left.wait(3000)); // a token is open
     QCOMPARE(call(printCall(chosen.token())).response, 0);
     QTRY_VERIFY_WITH_TIMEOUT(serviceIsGone(), patience);
     QCOMPARE(m_service->exitCode(), 0);

@@ -24,6 +24,7 @@ import json
 import os
 import pathlib
 import pty
+import random
 import re
 import select
 import shlex
@@ -174,9 +175,16 @@ def make_documents(folder):
 
 
 def free_port():
-    with socket.socket() as s:
-        s.bind(("localhost", 0))
-        return s.getsockname()[1]
+    """Below those that the system gives to clients, which would take one between this look and its use."""
+    while True:
+        port = random.randrange(10000, 30000)
+        if not answers(socket.AF_INET, ("localhost", port)):
+            return port
+
+
+def answers(family, address):
+    with socket.socket(family) as s:
+        return s.connect_ex(address) == 0
 
 
 class Setup:
@@ -217,7 +225,7 @@ class Setup:
         (self.folder / ".cups/lpoptions").write_text(
             "Dest office/draft sides=two-sided-long-edge number-up=2 ColorType=Mono\n")
         self.child(["python3", source / "tests/integration/faulty_proxy.py", self.folder / "login", self.socket, "login"],
-                   lambda: (self.folder / "login").exists())
+                   lambda: answers(socket.AF_UNIX, str(self.folder / "login")))
 
     def child(self, words, is_ready, **environment):
         log = open(self.folder / "log", "ab")
@@ -237,15 +245,12 @@ class Setup:
     def describe_everywhere(self):
         """A queue whose PPD is made from what a printer says of itself; the printer is gone before the first job."""
         bus = self.folder / "bus"
-        self.child(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={bus}"], bus.exists)
+        self.child(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={bus}"],
+                   lambda: answers(socket.AF_UNIX, str(bus)))
         port = free_port()
-
-        def answers():
-            with socket.socket() as s:
-                return s.connect_ex(("localhost", port)) == 0
-
         self.child(["ippeveprinter", "-2", "-r", "off", "-n", "localhost", "-p", port, "-d", self.folder, "-s", "10,10",
-                    "-f", "application/pdf,image/urf,image/pwg-raster", "-c", "/bin/true", "Everywhere"], answers,
+                    "-f", "application/pdf,image/urf,image/pwg-raster", "-c", "/bin/true", "Everywhere"],
+                   lambda: answers(socket.AF_INET, ("localhost", port)),
                    DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={bus}")
         self.lpadmin("-p", "everywhere", "-E", "-v", f"ipp://localhost:{port}/ipp/print", "-m", "everywhere")
         self.lpadmin("-p", "everywhere", "-v", "capture:/")

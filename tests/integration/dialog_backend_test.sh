@@ -40,6 +40,7 @@ expect() { # WHAT CODE TEXT COMMAND...: the exit code, and what the error output
     [ $code -eq "$2" ] && { [ -z "$3" ] || grep -qF -- "$3" "$work/err"; } && return
     echo "FAIL: $1: exit code $code instead of $2; said: $(cat "$work/err")"
     failed=1
+    return 1
 }
 
 backend() { # ARGUMENTS...: as cupsd runs it
@@ -120,7 +121,7 @@ facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/stat
 wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 0000000000000000\nCapEff: 0000000000000000\nNoNewPrivs: 1' \
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
-wait $waiting
+wait $waiting || failed=1 # which it says in a process of its own
 expect "cancelled" 143 "" timeout --preserve-status 1 env -i AUTH_UID=$uid \
     "$build/backend/kelmar-dialog" 1 nobody silent 1 "" "$work/job"
 for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/null || break; sleep 0.1; done
@@ -137,7 +138,7 @@ mv $runtime/true-bus $runtime/bus
 
 # ---- through a real cupsd
 KELMAR_DIALOG_BACKEND=$build/backend/kelmar-dialog "$root/scripts/lib/private-cupsd.sh" start "$work/cups" || exit 1
-"$root/scripts/lib/private-cupsd.sh" add-queue "$work/cups" kelmar "$build/packaging/queue/kelmar-dialog.ppd" "kelmar-dialog:/?wait=3"
+"$root/scripts/lib/private-cupsd.sh" add-queue "$work/cups" kelmar "$build/packaging/queue/kelmar-dialog.ppd" "kelmar-dialog:/?wait=20"
 lpadmin -p kelmar -o printer-op-policy=kelmar-dialog -o printer-is-shared=false 2>/dev/null
 document=$root/demo/report.pdf
 rm -f "$log" "$log.document"

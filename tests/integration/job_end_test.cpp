@@ -91,6 +91,8 @@ private:
     // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
     ChildProcess faulty(const QString &fault, int number = 1);
     int unfinishedJobs() const;
+    // Pauses the queue "other" first, so that the job stays.
+    void printOnPaused(PrintWindow *window);
 
     PrivateCupsd m_server;
 };
@@ -256,17 +258,23 @@ void JobEndTest::signalCancelsTheJob()
     QCOMPARE(m_server.capturedJobs(), before);
 }
 
-void JobEndTest::jobIsChangedFromTheResult()
+void JobEndTest::printOnPaused(PrintWindow *window)
 {
     QVERIFY(m_server.setPaused(u"other"_s, true));
+    PrintError error;
+    QVERIFY(window->open(&error));
+    window->show();
+    QTRY_VERIFY(window->session());
+    window->print();
+    QTRY_VERIFY(window->submission());
+}
+
+void JobEndTest::jobIsChangedFromTheResult()
+{
     PlainDialog dialog(u"other"_s);
     PrintWindow &window = dialog.window;
-    PrintError error;
-    QVERIFY(window.open(&error));
-    window.show();
-    QTRY_VERIFY(window.session());
-    window.print();
-    QTRY_VERIFY(window.submission());
+    printOnPaused(&window);
+    QVERIFY(window.submission());
     auto *result = window.findChild<ResultPage *>();
     const auto press = [result](const QString &text) {
         for (auto *button : result->findChildren<QPushButton *>()) {
@@ -295,15 +303,10 @@ void JobEndTest::jobIsChangedFromTheResult()
 // An administrator takes it out of the history while the dialog follows it.
 void JobEndTest::forgottenJob()
 {
-    QVERIFY(m_server.setPaused(u"other"_s, true));
     PlainDialog dialog(u"other"_s);
     PrintWindow &window = dialog.window;
-    PrintError error;
-    QVERIFY(window.open(&error));
-    window.show();
-    QTRY_VERIFY(window.session());
-    window.print();
-    QTRY_VERIFY(window.submission());
+    printOnPaused(&window);
+    QVERIFY(window.submission());
     auto *follower = window.findChild<JobFollower *>();
     QVERIFY(follower->isFollowing());
     QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);

@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""What the printer of the tour got."""
+
+import os
+import re
+
+from session import expect, wait
+
+
+def show_arrival(cups):
+    """What reached the printer's backend: options, and the sides in the data. The private server's folder is `cups`."""
+    arguments = os.path.join(cups, "jobs", "1.args")
+    wait("the job at the printer's backend", lambda: os.path.exists(arguments))
+    with open(arguments) as file:
+        options = sorted(file.read().split("\0")[4].split())
+    print("== What reached the printer's backend")
+    for option in options:
+        print("   " + option)
+    for option in ("number-up=4", "page-border=single", "Duplex=DuplexNoTumble", "TonerSave=True", "MediaType=Plain"):
+        expect("%s has not reached the printer" % option, option in options)
+    with open(os.path.join(cups, "jobs", "1.data"), "rb") as file:
+        sides = len(re.findall(rb"^%%Page: ", file.read(), re.M))
+    print("   8 pages of the document on %d sides of %d sheet of paper" % (sides, (sides + 1) // 2))
+    expect("%d sides reached the printer, not 2" % sides, sides == 2)
+    others = [name for name in os.listdir(os.path.join(cups, "jobs")) if name.endswith(".args")]
+    expect("more than one job reached the printer: %s" % others, others == ["1.args"])
