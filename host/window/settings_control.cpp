@@ -6,6 +6,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/preset_settings.h"
 #include "host/session/session_history.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/menu_button.h"
 #include "host/window/mnemonics.h"
@@ -414,6 +415,8 @@ void SettingsControl::remove()
     question->setAttribute(Qt::WA_DeleteOnClose);
     auto *yes = question->addButton(tr("&Delete"), QMessageBox::AcceptRole);
     question->setDefaultButton(QMessageBox::Cancel);
+    yes->setWhatsThis(explanationOf(QStringLiteral("preset-delete")));
+    question->button(QMessageBox::Cancel)->setWhatsThis(explanationOf(QStringLiteral("preset-cancel")));
     connect(yes, &QPushButton::clicked, this, [this, name] {
         edit(
             [queue = queue(), name](const PresetStore &store) {
