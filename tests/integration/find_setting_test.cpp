@@ -131,7 +131,8 @@ void FindSettingTest::open(const QByteArray &ppd)
     m_window.reset();
     m_system = FamilyPrintSystem(ppd);
     PrintTask task;
-    task.files = {QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")};
+    for (const QString &name : {u"report.pdf"_s, u"note.txt"_s})
+        task.files.append(QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + name);
     m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
     PrintError error;
     QVERIFY(m_window->open(&error));
@@ -205,6 +206,8 @@ void FindSettingTest::leadsToTheSetting_data()
     QTest::newRow("a view that is not open")
         << u"reload from printer"_s << u"Color Settings 1 › Reload from Printer"_s << one
         << u"Reload from Printer"_s;
+    QTest::newRow("list") << u"documents"_s << u"General › Documents to print"_s << u"general"_s
+                          << u"Documents to print"_s;
     QTest::newRow("other options") << u"punch"_s << u"More Options › Hole Punch"_s << u"more"_s
                                    << u"Hole Punch"_s;
 }
