@@ -74,10 +74,11 @@ private:
                                       PrintError *error);
     std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
-    std::mutex m_loginMutex; // guards the two that follow
+    std::mutex m_loginMutex; // guards the three that follow
     LoginKeeper m_login;
-    int m_refusals = 0;       // of people to answer
-    std::mutex m_promptMutex; // held while somebody is asked
+    int m_refusals = 0;        // of people to answer
+    bool m_wasRefused = false; // and they have done nothing since
+    std::mutex m_promptMutex;  // held while somebody is asked
     NetworkPrinters m_network;
 };
 

@@ -80,7 +80,7 @@ public Q_SLOTS:
     void reject() override;
     void done(int result) override;
     void loadPrinterList();
-    // Looks, once, for printers that the print server has no queue for.
+    // Looks for printers that the print server has no queue for.
     void searchNetwork();
     // Does what can wait until the user sees the window.
     void finishLater();
@@ -133,6 +133,7 @@ private:
     // same.
     bool showConflicts(bool toPrint = false);
     void deliver();
+    void remember(const std::function<void()> &settings);
     void recheckLater();
     void recheck();
     void goOn();
