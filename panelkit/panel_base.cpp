@@ -119,7 +119,8 @@ void QVPDE_M880::loadInterface(const QString &nibName)
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());
 }
 
-// "What is this?" of the controls that the layout binds by itself; pop-ups get theirs with their option.
+// "What is this?" of the controls that the layout binds by itself; pop-ups get theirs with their option. What
+// only does something says it in its tool tip already.
 void QVPDE_M880::explainControls()
 {
     for (const auto &object : m_topLevelNibObjects) {
@@ -127,6 +128,8 @@ void QVPDE_M880::explainControls()
             const QString key = platform::keyPathSetBy(control).section(QLatin1Char('.'), -1);
             if (!key.isEmpty())
                 control->setWhatsThis(explanationForKey(key));
+            else if (control->focusPolicy() & Qt::TabFocus)
+                control->setWhatsThis(control->toolTip());
         }
     }
 }

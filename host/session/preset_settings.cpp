@@ -127,8 +127,8 @@ bool hasSecrets(const DialogSession &session)
     return false;
 }
 
-void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
-                 const QMap<QString, QString> &preset)
+SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
+                             const QMap<QString, QString> &preset, QStringList *notices)
 {
     const QMap<QString, QString> locked = session->rule().lockedChoices(session->ppd());
     const SessionState now = StateKeeper::stateOf(*session);
@@ -136,9 +136,9 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
     QMap<QString, QString> all = queueOptions;
     all.insert(preset);
     all.insert(locked);
-    QStringList missed, problems;
+    QStringList missed;
     if (session->ppd())
-        wanted.marks = marksOf(session->ppd(), all, &problems);
+        wanted.marks = marksOf(session->ppd(), all, notices);
     wanted.printSettings.clear();
     wanted.chosen = {};
     wanted.savedKeywords.clear();
@@ -156,12 +156,20 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
         else if (isUsers && !GeneralSettings::covers(it.key()) && !isLayout(*session, it.key(), it.value()))
             wanted.chosen.add(chosenFrom(*session, it.key(), it.value()));
     }
-    StateKeeper(session).bring(now, wanted);
-    for (const QString &problem : std::as_const(problems))
-        session->addNotice(problem);
     if (!missed.isEmpty())
-        session->addNotice(PresetText::tr("This printer does not have what these settings ask for: %1.")
-                               .arg(missed.join(QStringLiteral(", "))));
+        notices->append(PresetText::tr("This printer does not have what these settings ask for: %1.")
+                            .arg(missed.join(QStringLiteral(", "))));
+    return wanted;
+}
+
+void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
+                 const QMap<QString, QString> &preset)
+{
+    QStringList notices;
+    const SessionState wanted = stateWithPreset(session, queueOptions, preset, &notices);
+    StateKeeper(session).bring(StateKeeper::stateOf(*session), wanted);
+    for (const QString &notice : std::as_const(notices))
+        session->addNotice(notice);
 }
 
 } // namespace host

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/session/session_state.h"
+
 #include <QMap>
 #include <QString>
 
@@ -18,9 +20,12 @@ QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QS
 // Whether there is a code that a preset would leave out.
 bool hasSecrets(const DialogSession &session);
 
-// Sets everything as a dialog would find it that opened the queue with these options. `queueOptions` are
-// those of the queue itself, `preset` the user's, which count as chosen. What the printer does not take
-// becomes a notice that names it; the pages to print stay.
+// How a dialog would find everything that opened the queue with these options. `queueOptions` are those of
+// the queue itself, `preset` the user's, which count as chosen. What the printer does not take becomes a
+// notice that names it; the pages to print, and what panels hold beside options, stay. Changes nothing.
+SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
+                             const QMap<QString, QString> &preset, QStringList *notices);
+// Sets everything so.
 void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                  const QMap<QString, QString> &preset);
 

@@ -35,6 +35,13 @@ public:
         m_baseAfter = after;
         m_changesBase = true;
     }
+    void changeBases(const QString &name, const std::function<void(Base *)> &change)
+    {
+        for (Base *base : {&m_baseBefore, &m_baseAfter}) {
+            if (m_changesBase && base->name == name)
+                change(base);
+        }
+    }
     void setChosen(const SessionState &now)
     {
         m_after.chosen = now.chosen;
@@ -73,7 +80,8 @@ private:
 
 SessionHistory::SessionHistory(DialogSession *session)
     : m_session(session),
-      m_now(StateKeeper::stateOf(*session)), m_base{m_now, session->destination().instance}
+      m_now(StateKeeper::stateOf(*session)), m_base{m_now, session->destination().instance},
+      m_startingPanelValues(m_now.panelValues)
 {
     m_steps.setUndoLimit(mostSteps);
 }
@@ -128,10 +136,30 @@ void SessionHistory::absorb()
 // What a panel has read when it was first opened is what it begins with.
 void SessionHistory::absorbNew(const SessionState &now)
 {
-    for (auto it = now.panelValues.begin(); it != now.panelValues.end(); ++it) {
-        if (!m_base.state.panelValues.contains(it.key()))
-            m_base.state.panelValues.insert(it.key(), it.value());
+    for (QVariantMap *known : {&m_base.state.panelValues, &m_startingPanelValues}) {
+        for (auto it = now.panelValues.begin(); it != now.panelValues.end(); ++it) {
+            if (!known->contains(it.key()))
+                known->insert(it.key(), it.value());
+        }
     }
+}
+
+void SessionHistory::changeBases(const QString &name, const std::function<void(Base *)> &change)
+{
+    for (int i = 0; i < m_steps.count(); ++i)
+        const_cast<Step *>(static_cast<const Step *>(m_steps.command(i)))->changeBases(name, change);
+    if (m_base.name == name)
+        change(&m_base);
+}
+
+void SessionHistory::renameBase(const QString &from, const QString &to)
+{
+    changeBases(from, [&](Base *base) { base->name = to; });
+}
+
+void SessionHistory::replaceBase(const QString &name, const Base &base)
+{
+    changeBases(name, [&](Base *replaced) { *replaced = base; });
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <functional>
 #include <optional>
 
 namespace host {
@@ -45,8 +46,12 @@ public:
     const Base &base() const { return m_base; }
     // Makes what stands at the next look the base, as part of the step that it makes.
     void takeBase(const QString &name) { m_nextBase = name; }
-    // The base that is there has another name now.
-    void setBaseName(const QString &name) { m_base.name = name; }
+    // A base has another name now, wherever steps lead to it.
+    void renameBase(const QString &from, const QString &to);
+    // A base is no more: another takes its place, wherever steps lead to it.
+    void replaceBase(const QString &name, const Base &base);
+    // What panels held beside options before anything was changed.
+    const QVariantMap &startingPanelValues() const { return m_startingPanelValues; }
     // How it stood at the last look.
     const SessionState &now() const { return m_now; }
 
@@ -57,12 +62,14 @@ Q_SIGNALS:
 private:
     class Step;
     void absorbNew(const SessionState &now);
+    void changeBases(const QString &name, const std::function<void(Base *)> &change);
     void go(const SessionState &from, const SessionState &to, const Base &base);
 
     DialogSession *m_session;
     QUndoStack m_steps;
     SessionState m_now;
     Base m_base;
+    QVariantMap m_startingPanelValues;
     QElapsedTimer m_sinceStep;
     std::optional<QString> m_nextBase;
     bool m_isQueued = false;

@@ -107,7 +107,9 @@ void SettingIndex::addControl(const FoundSetting &control, const QString &more)
         if (!isSame)
             continue;
         isKnown = true;
-        entry.rest += QLatin1Char(' ') + name + QLatin1Char(' ') + searchable(more);
+        entry.setting.option = control.option; // what its user sees; the PPD's words still find it
+        entry.name += QLatin1Char(' ') + name;
+        entry.rest += QLatin1Char(' ') + searchable(more);
     }
     if (isKnown)
         return;

@@ -32,7 +32,7 @@ public:
     // The options of the PPD and what every printer can be asked.
     void addSession(const DialogSession &session);
     // A control of a page. `more` is what else is said of it, such as a tool tip. A control of an option that
-    // is known adds to what that is found by.
+    // is known gives that its name, and adds to what it is found by.
     void addControl(const FoundSetting &control, const QString &more);
 
     // The best first; at most so many.

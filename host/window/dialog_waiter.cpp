@@ -62,6 +62,11 @@ bool isWithin(const QObject *object, const QObject *part)
     return object && part;
 }
 
+bool takesTab(const QWidget *widget)
+{
+    return (widget->focusPolicy() & Qt::TabFocus) && widget->isVisible() && widget->isEnabled();
+}
+
 // Tells an event loop to look again when a wake event arrives.
 class WakeTarget : public QObject
 {
@@ -97,8 +102,10 @@ void DialogWaiter::beginActivity()
 
 void DialogWaiter::endActivity()
 {
-    if (--m_activities == 0)
-        m_givenUp = m_noticed = false;
+    if (--m_activities > 0)
+        return;
+    m_givenUp = m_noticed = false;
+    settleLater();
 }
 
 bool DialogWaiter::wait(const std::function<bool()> &ended)
@@ -119,8 +126,10 @@ bool DialogWaiter::wait(const std::function<bool()> &ended)
     notice.start(std::max(noticeable - passed, std::chrono::milliseconds(0)));
     if (!ended() && !m_givenUp && loop.exec() != 0)
         m_givenUp = true; // the program ends
-    if (--m_depth == 0)
+    if (--m_depth == 0) {
         qApp->removeEventFilter(this);
+        settleLater();
+    }
     return ended();
 }
 
@@ -137,6 +146,50 @@ void DialogWaiter::giveUp()
     wake();
 }
 
+bool DialogWaiter::isOpen(const QObject *object) const
+{
+    return std::any_of(m_openParts.begin(), m_openParts.end(),
+                       [object](const QWidget *part) { return isWithin(object, part); });
+}
+
+// To the next of what is open, past everything else.
+void DialogWaiter::step(bool forward)
+{
+    QWidget *const start = m_dialog->focusWidget() ? m_dialog->focusWidget() : m_dialog.data();
+    const auto next = [forward](const QWidget *widget) {
+        return forward ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    };
+    QWidget *widget = next(start);
+    while (widget != start && !(isOpen(widget) && takesTab(widget)))
+        widget = next(widget);
+    if (widget != start)
+        widget->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+}
+
+// Who waits has to return first.
+void DialogWaiter::settleLater()
+{
+    if (m_depth == 0 && m_activities == 0 && !m_left.isEmpty())
+        QMetaObject::invokeMethod(this, &DialogWaiter::settleFocus, Qt::QueuedConnection);
+}
+
+void DialogWaiter::settleFocus()
+{
+    if (m_depth > 0 || m_activities > 0 || !m_dialog)
+        return;
+    const QList<Left> left = std::exchange(m_left, {});
+    const QWidget *now = m_dialog->focusWidget();
+    QWidget *first = left.isEmpty() ? nullptr : left.first().widget.data();
+    if (first && first->isVisible() && first->isEnabled() && (!now || isOpen(now)))
+        first->setFocus(Qt::OtherFocusReason);
+    for (const Left &each : left) {
+        if (!each.widget || each.widget->hasFocus())
+            continue;
+        QFocusEvent out(QEvent::FocusOut, each.reason);
+        QCoreApplication::sendEvent(each.widget, &out);
+    }
+}
+
 bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
 {
     if (!isWithin(watched, m_dialog))
@@ -144,6 +197,14 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Close && watched == m_dialog) {
         giveUp();
         return false;
+    }
+    if (event->type() == QEvent::FocusOut && watched->isWidgetType() && !isOpen(watched)) {
+        auto *widget = static_cast<QWidget *>(watched);
+        if (widget->window() != m_dialog)
+            return false;
+        m_left.append({widget, static_cast<QFocusEvent *>(event)->reason()});
+        widget->update();
+        return true;
     }
     if (!isInput(event->type()))
         return false;
@@ -156,15 +217,11 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
         giveUp();
         return true;
     }
-    if (key && isTab(*key) && watched != m_dialog) {
-        QKeyEvent step(QEvent::KeyPress, key->key(), key->modifiers());
-        QCoreApplication::sendEvent(m_dialog, &step);
+    if (key && isTab(*key)) {
+        step(key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
         return true;
     }
-    if (key && isTab(*key))
-        return false;
-    return std::none_of(m_openParts.begin(), m_openParts.end(),
-                        [watched](const QWidget *part) { return isWithin(watched, part); });
+    return !isOpen(watched);
 }
 
 } // namespace host

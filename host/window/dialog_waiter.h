@@ -9,15 +9,15 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-
-class QWidget;
+#include <QWidget>
 
 namespace host {
 
 // Keeps a dialog alive while something on its thread waits: it paints, scrolls its own way, can be moved and
-// closed. Input reaches nothing of the dialog but the widget that gives up, and the Tab key moves the focus
-// as ever, which leads there; Escape and the window's close button give up as well. Belongs to the dialog's
-// thread, also while work that was given up is under way.
+// closed. Input reaches nothing of the dialog but the widgets that give up, and the Tab key leads there;
+// Escape and the window's close button give up as well. What loses the focus meanwhile hears of it when the
+// waiting is over, since fields commit what was typed then; where the focus is with what gave up, it goes
+// back. Belongs to the dialog's thread, also while work that was given up is under way.
 class DialogWaiter : public QObject, public platform::Waiter
 {
     Q_OBJECT
@@ -48,8 +48,19 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct Left
+    {
+        QPointer<QWidget> widget;
+        Qt::FocusReason reason;
+    };
+    bool isOpen(const QObject *object) const;
+    void step(bool forward);
+    void settleLater();
+    void settleFocus();
+
     QPointer<QWidget> m_dialog;
     QList<QWidget *> m_openParts; // the dialog's
+    QList<Left> m_left;           // have lost the focus, and were not told yet
     int m_activities = 0;
     int m_depth = 0; // of nested waits
     bool m_givenUp = false;

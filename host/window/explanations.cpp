@@ -105,6 +105,48 @@ constexpr std::array explanations{
     Explanation{
         "print-again",
         QT_TRANSLATE_NOOP("Explanation", "Sends the same documents once more with the same settings.")},
+    Explanation{"preset-name",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "What the settings are kept under. Other programs offer them "
+                                  "under this name as well.")},
+    Explanation{"preset-secrets",
+                QT_TRANSLATE_NOOP("Explanation", "Keeps what is otherwise asked for anew each time. Leave it "
+                                                 "out where others use this computer.")},
+    Explanation{"preset-save",
+                QT_TRANSLATE_NOOP("Explanation", "Keeps the settings of all pages under the name. Those of a "
+                                                 "preset that has it already are replaced.")},
+    Explanation{"preset-rename",
+                QT_TRANSLATE_NOOP("Explanation", "Gives the preset this name, also in other programs.")},
+    Explanation{"preset-delete",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Takes the preset away, also from other programs. What is set "
+                                  "in this dialog stays as it is.")},
+    Explanation{"preset-cancel",
+                QT_TRANSLATE_NOOP("Explanation", "Closes this question. The presets stay as they are.")},
+    Explanation{"login-user",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "The name that the print server knows you by. It may be another than "
+                                  "the one on this computer.")},
+    Explanation{"login-password",
+                QT_TRANSLATE_NOOP("Explanation", "The password that belongs to the user name on the print "
+                                                 "server.")},
+    Explanation{"login-ok", QT_TRANSLATE_NOOP("Explanation", "Tells the print server who you are.")},
+    Explanation{"login-cancel",
+                QT_TRANSLATE_NOOP("Explanation", "Goes on without. The print server may refuse what it asked "
+                                                 "the password for.")},
+    Explanation{"only-changes",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Leaves out what stands as the printer or the preset has it, "
+                                  "and tells what the rest was before.")},
+    Explanation{"more", QT_TRANSLATE_NOOP("Explanation",
+                                          "What this printer offers beside the other pages, in the words of "
+                                          "its maker.")},
+    Explanation{"give-up", QT_TRANSLATE_NOOP("Explanation",
+                                             "Stops what is under way. Nothing that you have set is lost.")},
+    Explanation{"try-again", QT_TRANSLATE_NOOP("Explanation", "Asks the printer or the print server anew.")},
+    Explanation{"close-help", QT_TRANSLATE_NOOP("Explanation", "Goes back to the settings.")},
+    Explanation{"find", QT_TRANSLATE_NOOP("Explanation", "Looks for a setting on all pages by its name.")},
+    Explanation{"help", QT_TRANSLATE_NOOP("Explanation", "Shows what the settings of this page are for.")},
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "host/window/guide_buttons.h"
 
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 
 #include <QHBoxLayout>
 #include <QKeySequence>
@@ -31,6 +32,8 @@ GuideButtons::GuideButtons(QWidget *parent) : QWidget(parent)
     // Without access keys: these are short in supply, and both have a key of their own.
     QPushButton *find = guideButton(tr("Find…"), tr("Find a setting"), QKeySequence::Find, this);
     QPushButton *help = guideButton(tr("Help"), tr("Help on this page"), QKeySequence::HelpContents, this);
+    find->setWhatsThis(explanationOf(QStringLiteral("find")));
+    help->setWhatsThis(explanationOf(QStringLiteral("help")));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);

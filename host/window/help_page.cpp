@@ -4,6 +4,7 @@
 #include "host/window/help_page.h"
 
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -82,6 +83,8 @@ HelpPage::HelpPage(QWidget *parent) : QWidget(parent), m_browser(new Browser(thi
 
     auto *close = new DialogButton(tr("Close &Help"), this);
     close->setAutoDefault(false);
+    close->setWhatsThis(explanationOf(QStringLiteral("close-help")));
+    m_browser->setWhatsThis(explanationOf(QStringLiteral("help")));
     connect(close, &QPushButton::clicked, this, &HelpPage::closeWanted);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(24, 6, 24, 10);

@@ -14,6 +14,7 @@ LinkLabel::LinkLabel(QWidget *parent) : QLabel(parent)
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
     setAccessibleDescription(tr("Shows the control of this setting"));
+    setWhatsThis(accessibleDescription());
 }
 
 bool LinkLabel::event(QEvent *event)

@@ -3,6 +3,8 @@
 
 #include "host/window/login_dialog.h"
 
+#include "host/window/explanations.h"
+
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -10,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QPushButton>
 #include <QThread>
 
 #include <future>
@@ -57,6 +60,12 @@ public:
         form->addRow(buttons);
         connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        for (const auto &[control, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
+                 {m_user, QStringLiteral("login-user")},
+                 {m_password, QStringLiteral("login-password")},
+                 {buttons->button(QDialogButtonBox::Ok), QStringLiteral("login-ok")},
+                 {buttons->button(QDialogButtonBox::Cancel), QStringLiteral("login-cancel")}})
+            control->setWhatsThis(explanationOf(setting));
         m_password->setFocus();
     }
     std::optional<Login> answer() const

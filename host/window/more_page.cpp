@@ -4,6 +4,7 @@
 #include "host/window/more_page.h"
 
 #include "host/session/dialog_session.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/option_form.h"
 
@@ -27,6 +28,7 @@ constexpr int titleWidth = 440;      // pixels
 MorePage::MorePage(DialogSession *session, QWidget *parent)
     : QWidget(parent), m_session(session), m_grid(new QGridLayout(this)), m_toBuild(partsOf(*session))
 {
+    setWhatsThis(explanationOf(QStringLiteral("more")));
     m_grid->setContentsMargins(24, 20, 24, 20);
     m_grid->setHorizontalSpacing(12);
     m_grid->setVerticalSpacing(10);

@@ -9,6 +9,7 @@
 #include "platform/layout_loader.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QLabel>
@@ -53,8 +54,10 @@ QString nameOf(const QWidget *control, const QList<QLabel *> &labels)
 // What stands for something else: the field of a spin box, the button that resets a neighbour, what scrolls.
 bool isPart(const QWidget *control)
 {
-    return qobject_cast<const QAbstractSpinBox *>(control->parentWidget()) ||
-           qobject_cast<const QAbstractScrollArea *>(control) || control->property("optionKey").isValid();
+    const bool onlyScrolls = qobject_cast<const QAbstractScrollArea *>(control) &&
+                             !qobject_cast<const QAbstractItemView *>(control);
+    return onlyScrolls || qobject_cast<const QAbstractSpinBox *>(control->parentWidget()) ||
+           control->property("optionKey").isValid();
 }
 
 class FlashRing : public QWidget

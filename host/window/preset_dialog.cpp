@@ -4,6 +4,7 @@
 #include "host/window/preset_dialog.h"
 
 #include "host/printing/preset_store.h"
+#include "host/window/explanations.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -43,6 +44,11 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     m_secrets->setVisible(offersSecrets);
     warning->setVisible(offersSecrets);
     m_secrets->setAccessibleDescription(warning->text());
+    m_name->setWhatsThis(explanationOf(QStringLiteral("preset-name")));
+    m_secrets->setWhatsThis(explanationOf(QStringLiteral("preset-secrets")));
+    m_ok->setWhatsThis(explanationOf(purpose == Purpose::Save ? QStringLiteral("preset-save")
+                                                              : QStringLiteral("preset-rename")));
+    buttons->button(QDialogButtonBox::Cancel)->setWhatsThis(explanationOf(QStringLiteral("preset-cancel")));
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(20, 16, 20, 14);

@@ -123,6 +123,7 @@ void PreviewPane::hideEvent(QHideEvent *event)
 
 void PreviewPane::factsChanged()
 {
+    m_picture = QSize(); // of pages that are no more; pageMade() tells of the new ones
     const int count = m_preview->facts() ? m_preview->facts()->pages : 0;
     if (!m_preview->problem().isNull())
         m_sheet->showText(tr("No preview: %1.").arg(wrappable(m_preview->problem())));
@@ -144,6 +145,7 @@ void PreviewPane::showPage(int page)
 {
     m_page = page;
     const QImage picture = m_preview->page(page);
+    m_picture = picture.size();
     if (!picture.isNull())
         m_sheet->showPage(picture);
     m_caption->setText(caption());
@@ -156,6 +158,7 @@ void PreviewPane::showMade(int page)
     if (page != m_page)
         return;
     const QImage picture = m_preview->page(page);
+    m_picture = picture.size();
     if (picture.isNull())
         m_sheet->showText(tr("This page cannot be shown."));
     else
@@ -174,8 +177,7 @@ QString PreviewPane::caption() const
         lines.append((m_page % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
                          .arg(locale.toString(m_page / 2 + 1)));
     QSizeF size = m_preview->facts()->size * millimetres;
-    const QImage picture = m_preview->page(m_page);
-    if (!picture.isNull() && (picture.width() > picture.height()) != (size.width() > size.height()))
+    if (!m_picture.isEmpty() && (m_picture.width() > m_picture.height()) != (size.width() > size.height()))
         size.transpose(); // it is turned
     lines.append(
         tr("%1 × %2 mm").arg(locale.toString(qRound(size.width())), locale.toString(qRound(size.height()))));

@@ -51,6 +51,7 @@ private:
     bool m_isTwoSided = false;
     int m_page = 0; // from 0
     int m_count = 0;
+    QSize m_picture; // of that page, as it lies; empty while it is not there
     PreviewSheet *m_sheet = nullptr;
     QLabel *m_caption = nullptr;
     QToolButton *m_back = nullptr;

@@ -3,6 +3,7 @@
 
 #include "host/window/printer_box.h"
 
+#include "host/window/explanations.h"
 #include "host/window/printer_list.h"
 #include "platform/choice_box.h"
 
@@ -96,6 +97,7 @@ QWidget *PrinterBox::makePopup()
     m_search->setPlaceholderText(tr("Search by name or place"));
     m_search->setAccessibleName(tr("Search printers"));
     m_search->setClearButtonEnabled(true);
+    popup->setWhatsThis(explanationOf(QStringLiteral("printer")));
     m_view = new QListView(popup);
     m_view->setModel(m_found);
     m_view->setItemDelegate(new PrinterDelegate(m_view));

@@ -171,7 +171,9 @@ QString ResultPage::sentence(const JobStatus &status) const
 {
     QString sentence = tr("Job %1: %2").arg(m_id).arg(status.text());
     if (status.printedPages > 0)
-        sentence += QLatin1Char('\n') + tr("Pages printed so far: %1").arg(status.printedPages);
+        sentence +=
+            QLatin1Char('\n') + (status.isFinal() ? tr("Pages printed: %1") : tr("Pages printed so far: %1"))
+                                    .arg(status.printedPages);
     if (status.state == JobStatus::State::Held && !status.isHeldByUser)
         sentence +=
             QLatin1Char('\n') +

@@ -43,6 +43,7 @@ SearchBar::SearchBar(QWidget *window, Search search)
     close->setAccessibleName(tr("Close the search"));
     close->setToolTip(tr("Close the search"));
     close->setFocusPolicy(Qt::TabFocus);
+    close->setWhatsThis(tr("Takes the search away. The settings stay as they are."));
     connect(close, &QToolButton::clicked, this, &SearchBar::close);
 
     auto *row = new QHBoxLayout(this);
@@ -53,6 +54,7 @@ SearchBar::SearchBar(QWidget *window, Search search)
     row->addWidget(close);
 
     m_results->setAccessibleName(tr("Settings found"));
+    m_results->setWhatsThis(tr("What has been found, with its page first. Return leads to the setting."));
     m_results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_results->setTextElideMode(Qt::ElideMiddle);
     m_results->setUniformItemSizes(true);

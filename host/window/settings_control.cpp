@@ -6,6 +6,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/preset_settings.h"
 #include "host/session/session_history.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/menu_button.h"
 #include "host/window/mnemonics.h"
@@ -96,6 +97,7 @@ void SettingsControl::setSession(DialogSession *session)
     m_reading.drop();
     if (session) {
         m_startOptions = session->destination().options;
+        m_queueOptions.reset();
         m_startInstance = session->destination().instance;
         m_history = std::make_unique<SessionHistory>(session);
         connect(m_history->steps(), &QUndoStack::indexChanged, this, &SettingsControl::showName);
@@ -180,6 +182,8 @@ void SettingsControl::openMenu()
         this, [queue = queue()] { return readLists(queue); },
         [this](const Lists &lists) {
             m_lists = lists;
+            if (!lists.error && !m_queueOptions) // later the files may say something else
+                m_queueOptions = queueOptions();
             if (m_menu->isVisible())
                 fillMenu();
             if (lists.error)
@@ -280,6 +284,8 @@ QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
 // The print system hands out what the printer has and what the user has set for it as one.
 QMap<QString, QString> SettingsControl::queueOptions() const
 {
+    if (m_queueOptions)
+        return *m_queueOptions;
     QMap<QString, QString> options = m_startOptions;
     const QMap<QString, QString> users = optionsOf(m_startInstance);
     options.removeIf([&](const auto &option) { return users.contains(option.key()); });
@@ -299,29 +305,52 @@ void SettingsControl::apply(const QString &name)
     Q_EMIT applied();
 }
 
-void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work, const QString &name,
-                           bool takesBase)
+void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work,
+                           const std::function<void()> &done)
 {
     m_editing.start(
         this, [work = std::move(work)] { return work(PresetStore()); },
-        [this, name, takesBase, history = m_history.get()](const PrintError &error) {
+        [this, done, history = m_history.get()](const PrintError &error) {
             if (error) {
                 Q_EMIT failed(error);
                 return;
             }
             if (m_history && m_history.get() == history) {
                 m_history->note();
-                if (takesBase) {
-                    m_history->takeBase(name);
-                    m_history->note();
-                } else {
-                    m_history->setBaseName(name);
-                }
+                done();
             }
             showName();
             Q_EMIT changed();
             Q_EMIT presetsChanged();
         });
+}
+
+// The settings stay; what is changed is told by what the printer begins with.
+void SettingsControl::forget(const QString &name)
+{
+    leaveInstance(name, {});
+    QStringList ignored;
+    SessionHistory::Base defaults{
+        stateWithPreset(m_session, queueOptions(), optionsOf(ownDefaults), &ignored), {}};
+    const SessionState now = StateKeeper::stateOf(*m_session);
+    defaults.state.panelValues = m_history->startingPanelValues();
+    defaults.state.instance = now.instance;
+    defaults.state.destinationOptions = now.destinationOptions;
+    m_history->replaceBase(name, defaults);
+}
+
+// The destination is no longer to be had by this name.
+void SettingsControl::leaveInstance(const QString &name, const QString &another)
+{
+    if (m_startInstance == name)
+        m_startInstance = another;
+    if (m_session->destination().instance != name)
+        return;
+    const SessionState now = StateKeeper::stateOf(*m_session);
+    SessionState wanted = now;
+    wanted.instance = another;
+    StateKeeper(m_session).bring(now, wanted);
+    m_history->absorb();
 }
 
 void SettingsControl::save(const QString &name, bool withSecrets)
@@ -336,7 +365,10 @@ void SettingsControl::save(const QString &name, bool withSecrets)
             (void)store.save(queue, preset, &error);
             return error;
         },
-        name, true);
+        [this, name] {
+            m_history->takeBase(name);
+            m_history->note();
+        });
 }
 
 void SettingsControl::saveAs()
@@ -363,7 +395,10 @@ void SettingsControl::rename()
                 (void)store.rename(queue, from, to, &error);
                 return error;
             },
-            to, false);
+            [this, from, to] {
+                leaveInstance(from, to);
+                m_history->renameBase(from, to);
+            });
     });
     m_dialog = dialog;
     dialog->open();
@@ -380,6 +415,8 @@ void SettingsControl::remove()
     question->setAttribute(Qt::WA_DeleteOnClose);
     auto *yes = question->addButton(tr("&Delete"), QMessageBox::AcceptRole);
     question->setDefaultButton(QMessageBox::Cancel);
+    yes->setWhatsThis(explanationOf(QStringLiteral("preset-delete")));
+    question->button(QMessageBox::Cancel)->setWhatsThis(explanationOf(QStringLiteral("preset-cancel")));
     connect(yes, &QPushButton::clicked, this, [this, name] {
         edit(
             [queue = queue(), name](const PresetStore &store) {
@@ -387,7 +424,7 @@ void SettingsControl::remove()
                 (void)store.remove(queue, name, &error);
                 return error;
             },
-            QString(), false);
+            [this, name] { forget(name); });
     });
     m_dialog = question;
     question->open();

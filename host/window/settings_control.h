@@ -83,8 +83,10 @@ private:
     void rename();
     void remove();
     void useAsDefault();
-    // Runs beside the window; then the base bears this name.
-    void edit(std::function<PrintError(const PresetStore &)> work, const QString &name, bool takesBase);
+    // Runs beside the window; then what is to be done about it here, if the session is still the same.
+    void edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done);
+    void forget(const QString &name);
+    void leaveInstance(const QString &name, const QString &another);
     void showName();
     QMap<QString, QString> optionsOf(const QString &name) const;
     QMap<QString, QString> queueOptions() const;
@@ -100,7 +102,8 @@ private:
     DialogSession *m_session = nullptr;
     bool m_isActive = false;
     std::unique_ptr<SessionHistory> m_history;
-    QMap<QString, QString> m_startOptions; // of the destination that was opened
+    QMap<QString, QString> m_startOptions;                // of the destination that was opened
+    std::optional<QMap<QString, QString>> m_queueOptions; // without the user's, once these have been read
     QString m_startInstance;
     Lists m_lists;
     QPointer<QDialog> m_dialog; // asks about the presets of this session

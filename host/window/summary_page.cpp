@@ -3,6 +3,7 @@
 
 #include "host/window/summary_page.h"
 
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/link_label.h"
 
@@ -40,6 +41,7 @@ QString keyOf(const DialogSession &session, int panel, const QString &name)
 SummaryPage::SummaryPage(QWidget *parent)
     : QWidget(parent), m_onlyChanges(new QCheckBox(tr("S&how changes only"), this))
 {
+    m_onlyChanges->setWhatsThis(explanationOf(QStringLiteral("only-changes")));
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(24, 20, 24, 20);
     column->setSpacing(12);

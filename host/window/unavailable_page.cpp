@@ -4,6 +4,7 @@
 #include "host/window/unavailable_page.h"
 
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
@@ -41,6 +42,7 @@ void UnavailablePage::setReason(const QString &reason)
 {
     m_reason->setText(wrappable(reason));
     setAccessibleName(reason);
+    m_retry->setWhatsThis(explanationOf(QStringLiteral("try-again")));
 }
 
 QString UnavailablePage::reason() const

@@ -5,6 +5,7 @@
 
 #include "host/window/announced.h"
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -51,6 +52,7 @@ void WaitSign::begin(const QString &what)
 void WaitSign::offerStop()
 {
     m_bar->show();
+    m_stop->setWhatsThis(explanationOf(QStringLiteral("give-up")));
     m_stop->show();
     announce(this, m_text->text());
 }

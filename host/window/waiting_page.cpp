@@ -6,6 +6,7 @@
 #include "host/window/announced.h"
 #include "host/window/centred_label.h"
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 
 #include <QLocale>
 #include <QProgressBar>
@@ -58,6 +59,7 @@ void WaitingPage::setTask(const QString &text, const QString &cancel)
 {
     m_text->setText(text);
     m_cancel->setText(cancel);
+    m_cancel->setWhatsThis(explanationOf(QStringLiteral("give-up")));
     m_cancel->setEnabled(true);
     announce(this, text);
     setProgress(0, 0);

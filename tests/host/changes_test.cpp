@@ -301,6 +301,16 @@ void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()
     }
     settle();
     QVERIFY(!menuTexts().contains(u"duplex"_s));
+    // The settings stay, so they differ from what the printer begins with.
+    QCOMPARE(marked(u"Duplex"_s) + marked(u"PageSize"_s), u"DuplexNoTumbleA3"_s);
+    QVERIFY2(presets()->text().contains(u"Defaults (changed)"_s), qPrintable(presets()->text()));
+    QCOMPARE(marks().size(), 2);
+    undo(); // a preset that is no more is not come back to
+    undo();
+    redo();
+    QVERIFY2(!presets()->text().contains(u"both"_s) && !presets()->text().contains(u"duplex"_s),
+             qPrintable(presets()->text()));
+    redo();
     QVERIFY(PresetStore().list(u"office"_s, &error)->isEmpty());
     trigger(u"Use as My Default for This Printer"_s);
     QCOMPARE(PresetStore().list(u"office"_s, &error)->value(0).options.value(u"PageSize"_s), u"A3"_s);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/window/dialog_waiter.h"
+#include "platform/text_field.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -23,6 +24,8 @@ private Q_SLOTS:
     void givesUp_data();
     void givesUp();
     void tabLeadsToTheWayOut();
+    void nothingIsCommittedMeanwhile_data();
+    void nothingIsCommittedMeanwhile();
     void startsAfreshWithTheNextActivity();
     void manyShortCallsAreOneLongWait();
     void questionGetsItsInput();
@@ -46,6 +49,7 @@ void DialogWaiterTest::init()
     m_giveUp = new QPushButton(QStringLiteral("Do not wait"), m_dialog.get());
     m_giveUp->move(0, 40);
     m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get())); // only then who has the focus hears of it
     m_field->setFocus();
     m_waiter = std::make_shared<DialogWaiter>(m_dialog.get());
     m_waiter->setOpenParts({m_giveUp});
@@ -117,8 +121,47 @@ void DialogWaiterTest::tabLeadsToTheWayOut()
         QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Space);
         m_waiter->giveUp(); // whatever has the focus
     }));
-    QCOMPARE(way, QList<QWidget *>({m_giveUp, m_field, m_field, m_giveUp}));
+    QCOMPARE(way, QList<QWidget *>(4, m_giveUp));
     QVERIFY(m_field->text().isEmpty());
+    QTRY_COMPARE(m_dialog->focusWidget(), m_field); // where its user was
+}
+
+void DialogWaiterTest::nothingIsCommittedMeanwhile_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("tab") << false;
+    QTest::newRow("click") << true;
+}
+
+// What a panel hears of an edit that ends comes in the midst of what it does, where it waits.
+void DialogWaiterTest::nothingIsCommittedMeanwhile()
+{
+    QFETCH(const bool, byMouse);
+    platform::TextField edited(m_dialog.get());
+    edited.move(0, 80);
+    edited.show();
+    edited.setFocus();
+    QSignalSpy committed(&edited, &platform::TextField::stringValueCommitted);
+    QSignalSpy finished(&edited, &QLineEdit::editingFinished);
+    QTest::keyClicks(&edited, QStringLiteral("12"));
+    m_waiter->beginActivity();
+    QVERIFY(waitWhile([&] {
+        if (byMouse)
+            QTest::mouseClick(m_field, Qt::LeftButton);
+        else
+            QTest::keyClick(&edited, Qt::Key_Tab);
+        QVERIFY(!edited.hasFocus());
+        m_release->release();
+    }));
+    QVERIFY(waitWhile([&] { m_release->release(); })); // the panel goes on
+    QCOMPARE(committed.count() + finished.count(), 0);
+    m_waiter->endActivity();
+    QCoreApplication::processEvents();
+    QCOMPARE(committed.count(), byMouse ? 1 : 0);
+    QCOMPARE(edited.hasFocus(), !byMouse);
+    QTest::keyClick(&edited, Qt::Key_Return);
+    QCOMPARE(committed.count(), 1);
+    QCOMPARE(edited.stringValue(), QStringLiteral("12"));
 }
 
 void DialogWaiterTest::startsAfreshWithTheNextActivity()
