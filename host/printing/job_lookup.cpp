@@ -87,6 +87,19 @@ std::function<bool()> JobLookup::stopSoon() const
     };
 }
 
+void JobLookup::prepare(ServerConnection *server) const
+{
+    server->setStop(stopSoon());
+    server->setDeadline(m_deadline);
+}
+
+JobLookup::Result JobLookup::noAnswer(const Reply &reply)
+{
+    m_problem = reply.error({});
+    m_wasSilent = reply.wasSilent;
+    return Result::NoAnswer;
+}
+
 IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 {
     IppPointer request = printerRequest(operation, m_printerUri);
@@ -97,7 +110,7 @@ IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
 {
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     return byId(id, &server, job);
 }
 
@@ -112,10 +125,7 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
     }
     const bool isGone = reply.fate == Reply::Fate::Answered &&
                         (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
-    if (isGone)
-        return Result::NotThere;
-    m_problem = reply.error({});
-    return Result::NoAnswer;
+    return isGone ? Result::NotThere : noAnswer(reply);
 }
 
 JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
@@ -126,12 +136,10 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     const Reply reply = server.ask(std::move(request), m_resource);
-    if (!reply.succeeded()) {
-        m_problem = reply.error({});
-        return Result::NoAnswer;
-    }
+    if (!reply.succeeded())
+        return noAnswer(reply);
     int id = 0;
     int found = 0;
     ipp_t *answer = reply.message.get();
@@ -148,7 +156,7 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     return found > 0 ? byId(found, job) : Result::NotThere;
 }
 
-JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline,
+JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &tries,
                                      JobOnServer *job)
 {
     while (true) {
@@ -157,7 +165,8 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
             result = Result::NotThere;
         if (result == Result::NotThere)
             result = search(token, job);
-        if (result != Result::NoAnswer || deadline.hasExpired() || (m_stop && m_stop()))
+        if (result != Result::NoAnswer || tries.hasExpired() || m_deadline.hasExpired() ||
+            (m_stop && m_stop()))
             return result;
         QThread::msleep(betweenTries);
     }
@@ -166,7 +175,7 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
 Reply JobLookup::change(ipp_op_t operation, int id)
 {
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     return server.ask(jobRequest(operation, id), m_resource);
 }
 
