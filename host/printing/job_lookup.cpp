@@ -43,20 +43,27 @@ JobStatus::State jobState(int ippState)
     }
 }
 
+JobStatus readStatus(ipp_t *message)
+{
+    JobStatus status;
+    status.state = jobState(attributeInteger(message, "job-state", 0));
+    const QStringList reasons = attributeTexts(message, "job-state-reasons");
+    status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
+                                attributeText(message, "job-printer-state-message"));
+    status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
+    status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
+    status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
+                                   attributeInteger(message, "job-media-sheets-completed", 0));
+    return status;
+}
+
 JobOnServer read(IppPointer attributes)
 {
     JobOnServer job;
     ipp_t *message = attributes.get();
     job.id = attributeInteger(message, "job-id", 0);
-    job.status.state = jobState(attributeInteger(message, "job-state", 0));
-    const QStringList reasons = attributeTexts(message, "job-state-reasons");
-    job.status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
-                                    attributeText(message, "job-printer-state-message"));
-    job.status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
-    job.status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
-    job.status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
-                                       attributeInteger(message, "job-media-sheets-completed", 0));
-    job.isIncoming = reasons.contains(QLatin1String("job-incoming"));
+    job.status = readStatus(message);
+    job.isIncoming = attributeTexts(message, "job-state-reasons").contains(QLatin1String("job-incoming"));
     job.hasBegun = ippFindAttribute(message, "time-at-processing", IPP_TAG_INTEGER) != nullptr;
     job.kilobytes = attributeInteger(message, "job-k-octets", -1);
     job.token = attributeText(message, tokenAttribute).toUtf8();
@@ -118,6 +125,31 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
 {
     IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+    return ask(std::move(request), id, server, job);
+}
+
+JobLookup::Result JobLookup::status(int id, ServerConnection *server, JobStatus *status)
+{
+    // What readStatus() reads.
+    static const std::array<const char *, 8> wanted = {"job-id",
+                                                       "job-state",
+                                                       "job-state-reasons",
+                                                       "job-printer-state-reasons",
+                                                       "job-printer-state-message",
+                                                       "job-hold-until",
+                                                       "job-impressions-completed",
+                                                       "job-media-sheets-completed"};
+    IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    JobOnServer job;
+    const Result result = ask(std::move(request), id, server, &job);
+    *status = std::move(job.status);
+    return result;
+}
+
+JobLookup::Result JobLookup::ask(IppPointer request, int id, ServerConnection *server, JobOnServer *job)
+{
     Reply reply = server->ask(std::move(request), m_resource);
     if (reply.succeeded()) {
         *job = read(std::move(reply.message));

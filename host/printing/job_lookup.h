@@ -41,6 +41,8 @@ public:
     Result byId(int id, JobOnServer *job);
     // The same on a connection of the caller's.
     Result byId(int id, ServerConnection *server, JobOnServer *job);
+    // Only how it is doing, which is a small answer.
+    Result status(int id, ServerConnection *server, JobStatus *status);
     // Tries until the server answers, or until `tries`. Only a job with this token counts: after a breakdown
     // a server may give a number again. `id` is 0 where it is not known.
     Result byToken(int id, const QByteArray &token, const QDeadlineTimer &tries, JobOnServer *job);
@@ -56,6 +58,7 @@ private:
     std::function<bool()> stopSoon() const;
     void prepare(ServerConnection *server) const;
     Result noAnswer(const Reply &reply);
+    Result ask(IppPointer request, int id, ServerConnection *server, JobOnServer *job);
     Result search(const QByteArray &token, JobOnServer *job);
     IppPointer jobRequest(ipp_op_t operation, int id) const;
 
