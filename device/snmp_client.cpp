@@ -53,6 +53,8 @@ std::shared_ptr<SnmpSession> openedSession(const SnmpCalls &calls, const QString
     return std::make_shared<SnmpSession>(calls, calls.tap_snmp_sess_open(&session));
 }
 
+constexpr std::chrono::seconds startTime(5);
+
 struct Request
 {
     std::shared_ptr<SnmpSession> session;
@@ -120,7 +122,12 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    if (!library.initialize("KelmarPDE"))
+    // It reads files that the environment names, which need not answer.
+    const auto isReady =
+        platform::callBeside([&library] { return library.initialize("KelmarPDE"); }, startTime);
+    if (!isReady)
+        return fail(QVSNMPCannotConnect);
+    if (!*isReady)
         return fail(QVSNMPArchitectureMismatch);
     const SnmpCalls &calls = library;
     auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });

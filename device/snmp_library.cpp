@@ -70,6 +70,7 @@ bool SnmpLibrary::configure()
 
 bool SnmpLibrary::initialize(const char *application)
 {
+    const std::lock_guard lock(m_initializing);
     if (m_configured != tap_init_snmp && !configure())
         return false;
     m_configured = tap_init_snmp;

@@ -14,6 +14,7 @@
 #include <dlfcn.h>
 
 #include <memory>
+#include <mutex>
 
 // The entry points of net-snmp that are used, in the order in which they are looked up. The one list of them.
 #define KELMAR_SNMP_ENTRY_POINTS(X)                                                                          \
@@ -48,9 +49,9 @@ struct SnmpCalls
 #undef KELMAR_DECLARE_SLOT
 };
 
-// net-snmp as the dynamic loader found it. One a process; never linked. Main thread only, no lock. The code
-// of a library that was opened once stays in memory: it leaves callbacks behind, and a request that was given
-// up on may still be under way in it.
+// net-snmp as the dynamic loader found it. One a process; never linked. Main thread only, but for
+// initialize(). The code of a library that was opened once stays in memory: it leaves callbacks behind, and a
+// request that was given up on may still be under way in it.
 struct SnmpLibrary : SnmpCalls
 {
     static SnmpLibrary &instance();
@@ -59,7 +60,8 @@ struct SnmpLibrary : SnmpCalls
     void unload();
     // Whether every entry point may be called: load() says so once only.
     bool isUsable() const;
-    // init_snmp(), after it was told to read no file. False when it cannot be told.
+    // init_snmp(), after it was told to read no file. False when it cannot be told. On any thread, for it
+    // reads those of MIBFILES all the same; one after the other.
     bool initialize(const char *application);
 
     quint32 libraryLoaded = 0; // load() calls without their unload(), a failed first one included
@@ -70,7 +72,8 @@ private:
     SnmpLibrary();
     bool configure();
 
-    decltype(&::init_snmp) m_configured = nullptr; // of the library that was configured last
+    std::mutex m_initializing;
+    decltype(&::init_snmp) m_configured = nullptr; // guarded; of the library that was configured last
 };
 
 // What a closed library leaves in the slots, so that a stale call fails loudly.

@@ -8,6 +8,7 @@
 #include "host/portal_run.h"
 #include "host/printing/file_name.h"
 #include "host/printing/message_language.h"
+#include "host/session/later_writes.h"
 #include "host/session/policy_print_system.h"
 #include "host/window_run.h"
 #include "platform/background.h"
@@ -102,6 +103,8 @@ QStringList commandLine(int argc, char **argv)
 // some, the program ends here and now.
 int leave(int code)
 {
+    constexpr std::chrono::seconds slowFiles(2);
+    finishWrites(slowFiles);
     if (platform::Background::isUnderWay()) {
         fflush(nullptr);
         std::_Exit(code);

@@ -28,6 +28,19 @@ QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option, co
     return box.style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, &box);
 }
 
+void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option)
+{
+    constexpr int inset = 1; // of the text on either side, in pixels; and the gap, as styles have them
+    constexpr int iconGap = 4;
+    const QRect place =
+        box.style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, &box);
+    const int icon = option->currentIcon.isNull() ? 0 : option->iconSize.width() + iconGap;
+    const int room = place.width() - 2 * inset - icon;
+    if (option->fontMetrics.horizontalAdvance(option->currentText) >
+        room) // which spares most windows code of Qt
+        option->currentText = option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, room);
+}
+
 ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -59,6 +72,12 @@ void ChoiceBox::showPopup()
         view()->viewport()->installEventFilter(this);
     }
     m_pressedRow = -1;
+}
+
+void ChoiceBox::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    elideCurrentText(*this, option);
 }
 
 void ChoiceBox::wheelEvent(QWheelEvent *event)

@@ -17,6 +17,10 @@ namespace platform {
 KELMAR_PLATFORM_EXPORT QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option,
                                            const QSize &icon);
 
+// Shortens the current text of an option that initStyleOption() has filled in to what its box shows of it,
+// with an ellipsis; styles cut it off.
+KELMAR_PLATFORM_EXPORT void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option);
+
 // A list of choices of which some may be greyed for now. In the open list the arrow keys reach those, too,
 // and whoever looks at one, or listens to it, is told why; choosing one changes nothing, but is told.
 // Scrolling past the box never changes it. Its items are those of QComboBox's own model.
@@ -46,6 +50,7 @@ Q_SIGNALS:
     void greyedPicked(int index);
 
 protected:
+    void initStyleOption(QStyleOptionComboBox *option) const override;
     // Only a box with the focus turns with the wheel; over any other the wheel scrolls what the box is in.
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -25,6 +25,15 @@ static QString announcedName(const QString &deviceUri)
     return service < 0 ? QString() : host.left(service);
 }
 
+Destination Destination::withoutState() const
+{
+    Destination unknown = *this;
+    unknown.isStateKnown = false;
+    unknown.accepting = true;
+    unknown.stopped = false;
+    return unknown;
+}
+
 bool Destination::isSameDevice(const Destination &other) const
 {
     const QString announced = announcedName(deviceUri);

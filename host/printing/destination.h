@@ -32,6 +32,8 @@ struct Destination
     QString displayName() const;
     // Whether both are the same printer in the network, by the names that it announces there.
     bool isSameDevice(const Destination &other) const;
+    // The same where the print server does not tell how it is.
+    Destination withoutState() const;
     // The queue that opens this dialog: for other programs to print to, never for the dialog itself.
     bool opensDialog() const { return deviceUri.startsWith(QLatin1String("kelmar-dialog:")); }
 };

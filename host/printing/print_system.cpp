@@ -81,7 +81,11 @@ PrintError onlyOpensDialog(const Destination &destination)
 // libcups does not tell a server that is away from one that has no printers.
 std::optional<PrintError> problemOfServer(LoginKeeper *login)
 {
-    const Reply reply = ServerConnection(login).ask(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS)), "/");
+    IppPointer request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", 1);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                 "printer-name");
+    const Reply reply = ServerConnection(login).ask(std::move(request), "/");
     const bool isThere = reply.succeeded() ||
                          (reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND);
     return isThere ? std::nullopt : std::optional(reply.error({}));
@@ -95,12 +99,19 @@ PrintSystem::~PrintSystem() = default;
 class CupsPrintSystem::Visit
 {
 public:
-    explicit Visit(CupsPrintSystem *system) : m_system(system)
+    // Who does not want to log in is asked again for what they do themselves, not for what is asked over and
+    // over by a clock.
+    enum class Cause { User, Clock };
+    explicit Visit(CupsPrintSystem *system, Cause cause = Cause::User) : m_system(system)
     {
         const std::lock_guard lock(system->m_loginMutex);
+        if (cause == Cause::User)
+            system->m_wasRefused = false;
         m_login = system->m_login;
         m_refusals = system->m_refusals;
-        if (m_login.prompt)
+        if (system->m_wasRefused)
+            m_login.prompt = nullptr;
+        else if (m_login.prompt)
             m_login.prompt = [this](const LoginQuestion &question) {
                 return m_system->askOnce(*this, question);
             };
@@ -149,6 +160,7 @@ std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQue
     const auto login = prompt ? prompt(question) : std::nullopt;
     const std::lock_guard lock(m_loginMutex);
     m_login.given = login;
+    m_wasRefused = !login;
     if (!login)
         ++m_refusals;
     return login;
@@ -261,7 +273,7 @@ Submission CupsPrintSystem::submit(const JobRequest &request, const SubmissionWa
 
 JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
-    Visit visit(this);
+    Visit visit(this, Visit::Cause::Clock);
     ServerConnection server(visit.login());
     JobStatus status;
     if (JobLookup(visit.login(), uriOf(destination)).status(jobId, &server, &status) ==
@@ -311,7 +323,7 @@ bool CupsPrintSystem::changeJob(const Destination &destination, int jobId, JobAc
 
 std::optional<Destination> CupsPrintSystem::withState(const Destination &destination)
 {
-    Visit visit(this);
+    Visit visit(this, Visit::Cause::Clock);
     ServerConnection server(visit.login());
     PrintError ignored;
     const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);

@@ -77,9 +77,10 @@ private:
                          JobStatus *status);
     std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
-    std::mutex m_loginMutex; // guards the two that follow
+    std::mutex m_loginMutex; // guards the three that follow
     LoginKeeper m_login;
     int m_refusals = 0;        // of people to answer
+    bool m_wasRefused = false; // and they have done nothing since
     std::mutex m_promptMutex;  // held while somebody is asked
     std::mutex m_waitingMutex; // guards what follows
     struct

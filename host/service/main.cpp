@@ -11,6 +11,10 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <link.h>
+#include <span>
+#include <sys/mman.h>
+#include <unistd.h>
 
 using namespace host;
 
@@ -24,6 +28,22 @@ QString dialogProgram()
     return QFileInfo(beside).isExecutable()
                ? beside
                : QFileInfo(here + QStringLiteral("/../bin/kelmar-print")).absoluteFilePath();
+}
+
+// Gives back what starting has read of one library: the part that is neither code nor variables holds symbols
+// and relocations before all. The pages are the file's own and come back when they are looked at.
+int forgetConstants(dl_phdr_info *library, size_t, void *)
+{
+    const auto pageSize = static_cast<ElfW(Addr)>(::sysconf(_SC_PAGESIZE));
+    for (const ElfW(Phdr) & part : std::span(library->dlpi_phdr, library->dlpi_phnum)) {
+        if (part.p_type != PT_LOAD || part.p_flags != PF_R)
+            continue;
+        const ElfW(Addr) begin = (library->dlpi_addr + part.p_vaddr + pageSize - 1) & ~(pageSize - 1);
+        const ElfW(Addr) end = (library->dlpi_addr + part.p_vaddr + part.p_filesz) & ~(pageSize - 1);
+        if (begin < end)
+            ::madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
+    }
+    return 0;
 }
 
 } // namespace
@@ -65,5 +85,10 @@ int main(int argc, char **argv)
     }
     const std::chrono::milliseconds idleTime(static_cast<qint64>(seconds * 1000));
     DoorService service(QDBusConnection::sessionBus(), parser.value(program), idleTime);
-    return service.start() ? QCoreApplication::exec() : 1;
+    if (!service.start())
+        return 1;
+    // The service lives beside all that its user does. What has been looked at once takes a third of its
+    // memory.
+    ::dl_iterate_phdr(forgetConstants, nullptr);
+    return QCoreApplication::exec();
 }

@@ -48,6 +48,8 @@ QString searchable(const QString &text)
 
 void SettingIndex::add(const FoundSetting &setting)
 {
+    if (!m_titles.contains(setting.page)) // the administrator does not show it
+        return;
     const QChar gap(QLatin1Char(' '));
     m_entries.append({setting, searchable(setting.option + gap + setting.keyword),
                       searchable(setting.choiceText + gap + setting.choice),
@@ -57,7 +59,8 @@ void SettingIndex::add(const FoundSetting &setting)
 void SettingIndex::addOption(const DialogSession &session, const QString &page, const QString &keyword)
 {
     const auto option = session.ppd()->option(keyword);
-    if (!option || session.isSecret(keyword) || (option->choices.isEmpty() && !option->custom))
+    if (!option || session.isSecret(keyword) || session.rule().hiddenOptions.contains(keyword) ||
+        (option->choices.isEmpty() && !option->custom))
         return;
     FoundSetting setting{page, keyword, option->text, {}, {}};
     add(setting);

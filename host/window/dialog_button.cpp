@@ -15,10 +15,10 @@ DialogButton::DialogButton(const QString &text, QWidget *parent) : QPushButton(t
     setMinimumWidth(96);
 }
 
-// With air for the frame of the focus, which is drawn inside.
+// With air beside the words, also for the frame of the focus, which is drawn inside.
 QSize DialogButton::sizeHint() const
 {
-    return QPushButton::sizeHint().grownBy({4, 0, 4, 0});
+    return QPushButton::sizeHint().grownBy({8, 0, 8, 0});
 }
 
 void DialogButton::mousePressEvent(QMouseEvent *event)

@@ -24,6 +24,7 @@ DocumentBox::DocumentBox(DocumentChoice *choice, QWidget *parent) : QListWidget(
     for (int i = 0; i < choice->paths().size(); ++i) {
         auto *item = new QListWidgetItem(oneLine(choice->name(i)), this);
         item->setToolTip(tooltipOf(choice->name(i)));
+        item->setSizeHint({0, fontMetrics().height() + 2 * rowPadding});
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(choice->isIncluded(i) ? Qt::Checked : Qt::Unchecked);
     }
@@ -37,7 +38,7 @@ DocumentBox::DocumentBox(DocumentChoice *choice, QWidget *parent) : QListWidget(
 QSize DocumentBox::sizeHint() const
 {
     const int lines = qMin(mostLines, count());
-    return {240, 2 * frameWidth() + lines * qMax(sizeHintForRow(0), fontMetrics().height())};
+    return {240, 2 * frameWidth() + lines * (fontMetrics().height() + 2 * rowPadding)};
 }
 
 } // namespace host

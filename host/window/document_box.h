@@ -17,6 +17,9 @@ class DocumentBox : public QListWidget
 public:
     DocumentBox(DocumentChoice *choice, QWidget *parent);
 
+    // Above and below each name, in pixels.
+    static constexpr int rowPadding = 3;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {120, sizeHint().height()}; }
 

@@ -85,7 +85,8 @@ void Finder::addPages(SettingIndex *index) const
         auto *views = dynamic_cast<platform::PanelViews *>(panel);
         const QWidget *page = panel ? panel->panelView() : book->builtPage(row);
         for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
-            if (!views || views->offersViewOf(found.control))
+            const bool isHidden = session->rule().hiddenOptions.contains(found.keyword);
+            if (!isHidden && (!views || views->offersViewOf(found.control)))
                 index->addControl({name, found.keyword, found.name, {}, {}}, contextOf(found));
         }
     }

@@ -26,6 +26,7 @@ private:
     void follow(QWidget *old, QWidget *now);
 
     QWidget *m_window;
+    QPointer<QWidget> m_target;
     QPointer<QFocusFrame> m_frame; // goes with the page that it is on
 };
 

@@ -7,6 +7,7 @@
 #include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
 #include "host/window/contrast.h"
+#include "host/window/dialog_button.h"
 #include "host/window/document_box.h"
 #include "host/window/explanations.h"
 #include "host/window/layout_form.h"
@@ -20,7 +21,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 
@@ -51,6 +51,8 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+    grid->setRowMinimumHeight(grid->rowCount() - 1,
+                              LayoutForm::heightIn(*grid, m_copies->sizeHint().height()));
     showSides();
 }
 
@@ -77,6 +79,7 @@ void GeneralPage::addLayout()
 {
     auto *grid = qobject_cast<QGridLayout *>(layout());
     grid->setRowStretch(grid->rowCount() - 1, 0);
+    grid->setRowMinimumHeight(grid->rowCount() - 1, 0);
     m_layout = new LayoutForm(m_session, grid, this);
     connect(m_layout, &LayoutForm::changed, this, [this] {
         pagesEdited();
@@ -126,6 +129,7 @@ void GeneralPage::addDocuments(QGridLayout *grid)
     auto *label = new QLabel(tr("Documents:"), this);
     label->setBuddy(m_documentBox);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
+    label->setContentsMargins(0, m_documentBox->frameWidth() + DocumentBox::rowPadding, 0, 0);
     grid->addWidget(label, 0, 0);
     grid->addWidget(m_documentBox, 0, 1);
 }
@@ -134,7 +138,7 @@ void GeneralPage::addSavePdf(QGridLayout *grid)
 {
     if (!m_documents || m_documents->paths().isEmpty())
         return;
-    auto *button = new QPushButton(tr("Save as PDF…"), this);
+    auto *button = new DialogButton(tr("Save as PDF…"), this);
     button->setAutoDefault(false);
     button->setToolTip(tr("Write the pages into a file instead of printing them"));
     button->setWhatsThis(explanationOf(QStringLiteral("save-pdf")));

@@ -16,6 +16,8 @@
 #include <QStackedWidget>
 #include <QTextBrowser>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -35,8 +37,12 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
 {
     QList<HelpPage::Explained> explained;
     for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
-        if (!found.control->whatsThis().isEmpty())
-            explained.append({found.name, found.control->whatsThis()});
+        // A button and the field beside it may share a text.
+        const QString text = found.control->whatsThis();
+        const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
+                                        [&](const HelpPage::Explained &told) { return told.text == text; });
+        if (!text.isEmpty() && !isTold)
+            explained.append({found.name, text});
     }
     return explained;
 }

@@ -113,7 +113,7 @@ void HelpPage::fill()
     cursor.movePosition(QTextCursor::End);
     QTextCharFormat plain;
     QTextCharFormat bold;
-    bold.setFontWeight(QFont::DemiBold);
+    bold.setFontWeight(QFont::Bold);
     for (const Explained &item : std::as_const(m_explained)) {
         cursor.insertBlock(QTextBlockFormat(), plain);
         cursor.insertText(item.name + QStringLiteral(" – "), bold);

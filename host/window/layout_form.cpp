@@ -18,6 +18,7 @@ namespace {
 
 constexpr int boxWidth = 240; // pixels, as in the panels
 constexpr int mostWidth = 360;
+constexpr int headingGap = 12; // above the heading
 
 const QString numberUp = QStringLiteral("number-up");
 const QString order = QStringLiteral("number-up-layout");
@@ -43,7 +44,7 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);
-    grid->setRowMinimumHeight(grid->rowCount(), 12);
+    grid->setRowMinimumHeight(grid->rowCount(), headingGap);
     grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
     addRow(numberUp, tr("Pages per side:"), sheetChoices(), grid);
     addRow(order, tr("Order:"), PageLayoutSettings::orders(), grid);
@@ -62,6 +63,13 @@ int LayoutForm::labelWidth(const QWidget *page)
                                  tr("Size:"), tr("Odd or even:")})
         width = qMax(width, page->fontMetrics().horizontalAdvance(label));
     return width + 2; // as a label has it
+}
+
+int LayoutForm::heightIn(const QGridLayout &grid, int controlHeight)
+{
+    constexpr int rows = 7; // boxes and the box to tick
+    const int heading = headingGap + grid.parentWidget()->fontMetrics().height();
+    return heading + rows * (grid.verticalSpacing() + controlHeight);
 }
 
 void LayoutForm::addRow(const QString &name, const QString &label, const QStringList &values,

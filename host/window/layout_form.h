@@ -31,6 +31,9 @@ public:
     // How wide its labels are in the font of a page, in pixels: a page that makes the form later keeps the
     // place.
     static int labelWidth(const QWidget *page);
+    // How high it is in a page's grid whose controls have this height, in pixels, so that the page has the
+    // room before.
+    static int heightIn(const QGridLayout &grid, int controlHeight);
     // Shows what the session holds now.
     void refresh();
 

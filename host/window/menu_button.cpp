@@ -10,6 +10,12 @@
 
 namespace host {
 
+namespace {
+
+constexpr int sideAir = 12; // pixels beside the words, on both sides together
+
+} // namespace
+
 MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
 {
     connect(this, &QPushButton::pressed, this, [this] {
@@ -23,6 +29,7 @@ MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
 QSize MenuButton::sizeHint() const
 {
     QSize hint = QPushButton::sizeHint();
+    hint.rwidth() += sideAir;
     if (menu())
         return hint;
     QStyleOptionButton option;
@@ -36,6 +43,11 @@ void MenuButton::initStyleOption(QStyleOptionButton *option) const
 {
     QPushButton::initStyleOption(option);
     option->features |= QStyleOptionButton::HasMenu;
+    // Where there is little room the end is cut, not both sides; the key may go with it.
+    const int room = width() - sideAir - style()->pixelMetric(QStyle::PM_MenuButtonIndicator, option, this);
+    if (option->fontMetrics.horizontalAdvance(option->text) > room)
+        option->text =
+            option->fontMetrics.elidedText(option->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
 void MenuButton::paintEvent(QPaintEvent *event)

@@ -57,7 +57,7 @@ void MessageBar::build()
     m_row = new QBoxLayout(QBoxLayout::TopToBottom);
     m_buttonRow = new QHBoxLayout;
     QFont bold = m_title->font();
-    bold.setWeight(QFont::DemiBold);
+    bold.setBold(true);
     m_title->setFont(bold);
     m_buttonRow->setSpacing(8);
 

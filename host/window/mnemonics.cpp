@@ -3,6 +3,8 @@
 
 #include "host/window/mnemonics.h"
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -93,10 +95,11 @@ QString Mnemonics::assign(const QString &text)
     } else if (const qsizetype place = placeOfKey(text); place > 0) {
         bare.remove(place - 1, 1);
     }
-    bool hasLetters = false;
+    // A figure in a text whose letters cannot be typed would be the only key of its kind.
+    const bool hasLetters = bracket < 0 && std::any_of(bare.cbegin(), bare.cend(),
+                                                       [](QChar c) { return isTypable(c) && c.isLetter(); });
     for (const bool atWords : {true, false}) {
-        for (qsizetype i = 0; bracket < 0 && i < bare.size(); ++i) {
-            hasLetters |= isTypable(bare.at(i));
+        for (qsizetype i = 0; hasLetters && i < bare.size(); ++i) {
             if (isTypable(bare.at(i)) && beginsWord(bare, i) >= atWords && take(bare.at(i)))
                 return bare.insert(i, mark);
         }

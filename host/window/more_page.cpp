@@ -60,7 +60,7 @@ void MorePage::build(const Part &part)
         auto *title = new QLabel(this);
         title->setTextFormat(Qt::PlainText);
         QFont bold = title->font();
-        bold.setWeight(QFont::DemiBold);
+        bold.setBold(true);
         title->setFont(bold);
         title->setText(elided(part.title, title, titleWidth));
         if (!m_forms.isEmpty())

@@ -12,6 +12,7 @@
 #include "host/session/session_history.h"
 #include "host/window/change_marks.h"
 #include "host/window/general_page.h"
+#include "host/window/hidden_controls.h"
 #include "host/window/locked_controls.h"
 #include "host/window/more_page.h"
 #include "host/window/page_frame.h"
@@ -130,13 +131,17 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     m_history = history;
     addPage(tr("General"), generalName);
     const Policy::Rule &rule = session->rule();
+    const auto hidesAll = [&rule](const QStringList &keywords) {
+        return std::all_of(keywords.begin(), keywords.end(),
+                           [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); });
+    };
     for (int i = 0; i < session->panelCount(); ++i) {
-        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()))
+        const QStringList keywords = session->panelKeywords(i);
+        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()) &&
+            (keywords.isEmpty() || !hidesAll(keywords)))
             addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
     }
-    const QStringList others = session->otherKeywords();
-    if (!std::all_of(others.begin(), others.end(),
-                     [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); }))
+    if (!hidesAll(session->otherKeywords()))
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
     fitList();
@@ -168,7 +173,7 @@ void PageBook::makeFrame(Page *page)
     QWidget *content = contentOf(*page);
     content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
-    connect(page->frame, &PageFrame::wantedWidthChanged, this, &PageBook::fitPreview);
+    connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitPreview);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     if (page->panel >= 0)
@@ -179,13 +184,17 @@ void PageBook::makeFrame(Page *page)
 // A choice that gets past that goes back; see DialogSession.
 void PageBook::lockControls(const Page &page)
 {
-    QList<QWidget *> controls;
+    QList<QWidget *> locked, hidden;
     for (const QString &keyword : m_session->panelKeywords(page.panel)) {
-        if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
-            controls += page.marks->controlsOf(keyword);
+        if (m_session->rule().hiddenOptions.contains(keyword))
+            hidden += page.marks->controlsOf(keyword);
+        else if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+            locked += page.marks->controlsOf(keyword);
     }
-    if (!controls.isEmpty())
-        new LockedControls(controls, Policy::current().attribution(), page.frame);
+    if (!locked.isEmpty())
+        new LockedControls(locked, Policy::current().attribution(), page.frame);
+    if (!hidden.isEmpty())
+        new HiddenControls(hidden, page.frame, page.frame);
 }
 
 QWidget *PageBook::contentOf(const Page &page)
@@ -376,7 +385,7 @@ void PageBook::leadTo(const QString &key)
     QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
     if (control)
         openViewOf(control);
-    if (control && control->isEnabled())
+    if (control && control->isEnabled() && !control->isHidden())
         control->setFocus(Qt::ShortcutFocusReason);
     else
         m_list->setFocus();
@@ -393,6 +402,12 @@ int PageBook::wantedWidth() const
     const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
     const int preview = m_preview && isGeneral() ? preferredPreview : 0;
     return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
+}
+
+int PageBook::wantedHeight() const
+{
+    const QWidget *frame = builtPage(m_current);
+    return frame ? static_cast<const PageFrame *>(frame)->wantedHeight() : 0;
 }
 
 QWidget *PageBook::pages() const

@@ -65,6 +65,7 @@ public:
     void turn(int steps);
     // How wide it must be to show the current page without scrolling sideways.
     int wantedWidth() const;
+    int wantedHeight() const;
     PageList *list() const { return m_list; }
     // What shows one page at a time.
     QStackedWidget *stack() const { return m_stack; }

@@ -27,13 +27,6 @@ namespace {
 constexpr std::chrono::milliseconds flashTime(1000);
 constexpr int flashMargin = 5; // pixels around the control
 
-QString keywordOf(const QWidget *control)
-{
-    if (const auto *box = qobject_cast<const platform::ChoiceBox *>(control))
-        return box->optionKeyword();
-    return platform::keyPathSetBy(control);
-}
-
 // "Copies" of "&Copies:", "部数" of "部数(&C):".
 QString bare(QString text)
 {
@@ -102,6 +95,13 @@ private:
 };
 
 } // namespace
+
+QString keywordOf(const QWidget *control)
+{
+    if (const auto *box = qobject_cast<const platform::ChoiceBox *>(control))
+        return box->optionKeyword();
+    return platform::keyPathSetBy(control);
+}
 
 QList<PageControl> controlsOf(const QWidget *page)
 {

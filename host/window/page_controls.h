@@ -25,6 +25,9 @@ QList<PageControl> controlsOf(const QWidget *page);
 // The control that sets an option, else the one of that name; null where the page has none (yet).
 QWidget *findControl(const QWidget *page, const QString &keyword, const QString &name);
 
+// The PPD option or key of a panel that a control sets; nil for a widget that sets none.
+QString keywordOf(const QWidget *control);
+
 // Shows for a moment which control is meant: a ring that glows up and fades, or stands still where the
 // platform asks for no animation. The ring is gone after a second.
 void flash(QWidget *control);

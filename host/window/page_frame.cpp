@@ -9,8 +9,6 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace host {
 
 namespace {
@@ -84,12 +82,16 @@ int PageFrame::wantedWidth() const
     return inner + m_scroll->verticalScrollBar()->sizeHint().width();
 }
 
-// A row has come, or a text is longer than it was.
+int PageFrame::wantedHeight() const
+{
+    return m_scroll->widget()->sizeHint().height();
+}
+
+// A row has come, or a text is longer than it was, if only than when the page was last hidden.
 bool PageFrame::eventFilter(QObject *watched, QEvent *event)
 {
-    const int wanted = event->type() == QEvent::LayoutRequest ? wantedWidth() : m_wantedWidth;
-    if (std::exchange(m_wantedWidth, wanted) != wanted)
-        Q_EMIT wantedWidthChanged();
+    if (event->type() == QEvent::LayoutRequest)
+        Q_EMIT laidOut();
     return QWidget::eventFilter(watched, event);
 }
 

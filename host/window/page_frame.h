@@ -22,12 +22,15 @@ public:
     void releaseContent();
     // How wide it must be to show everything without scrolling sideways.
     int wantedWidth() const;
+    // How high it is where nothing scrolls.
+    int wantedHeight() const;
     void scrollToTop();
     // Brings a control of the page into view.
     void reveal(QWidget *control);
 
 Q_SIGNALS:
-    void wantedWidthChanged();
+    // What it shows is laid out anew; it may want to be wider or narrower than before.
+    void laidOut();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -35,7 +38,6 @@ protected:
 private:
     QScrollArea *m_scroll;
     QPointer<QWidget> m_content;
-    int m_wantedWidth = 0; // that was told last
 };
 
 } // namespace host

@@ -171,7 +171,7 @@ void PrintWindow::showState(State state)
     m_settings->setActive(state == State::Choosing);
     if (m_guide)
         m_guide->setVisible(state == State::Choosing);
-    if (state == State::Choosing)
+    if (state == State::Choosing || state == State::Done)
         m_stateTimer.start(betweenStates);
     else
         m_stateTimer.stop();

@@ -80,7 +80,7 @@ public Q_SLOTS:
     void reject() override;
     void done(int result) override;
     void loadPrinterList();
-    // Looks, once, for printers that the print server has no queue for.
+    // Looks for printers that the print server has no queue for.
     void searchNetwork();
     // Does what can wait until the user sees the window.
     void finishLater();
@@ -133,6 +133,7 @@ private:
     // same.
     bool showConflicts(bool toPrint = false);
     void deliver();
+    void remember(const std::function<void()> &settings);
     void recheckLater();
     void recheck();
     void goOn();
@@ -220,7 +221,8 @@ private:
     NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
-    QSize m_room; // null for what the screen has free
+    QSize m_room;        // null for what the screen has free
+    int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
     int m_busyDepth = 0;
 };
 

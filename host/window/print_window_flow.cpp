@@ -6,6 +6,7 @@
 #include "host/printing/held_signals.h"
 #include "host/printing/job_follower.h"
 #include "host/printing/network_search.h"
+#include "host/session/later_writes.h"
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
@@ -39,6 +40,8 @@ namespace {
 // A print server that is near answers within this, and what it says is shown at once. Nobody notices.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
+// How long the list of printers waits to know which were used lately.
+constexpr std::chrono::milliseconds settingsFile(500);
 
 } // namespace
 
@@ -59,6 +62,7 @@ struct PrintWindow::Sending
     }
     std::shared_ptr<DocumentList> documents; // the work's until it has ended
     JobRequest request;
+    std::function<void()> rememberUse; // once the job has been accepted
 };
 
 void PrintWindow::stopWaiting()
@@ -85,7 +89,10 @@ void PrintWindow::loadPrinterList()
         this,
         [&system = m_system] {
             PrintError ignored;
-            return Listing{system.destinations(&ignored), RememberedPrinter().recent()};
+            Listing listing{system.destinations(&ignored), {}};
+            const auto recent = [] { return RememberedPrinter().recent(); };
+            listing.recent = platform::callBeside(recent, settingsFile).value_or(QStringList());
+            return listing;
         },
         [this](const Listing &listing) {
             if (listing.printers)
@@ -95,11 +102,11 @@ void PrintWindow::loadPrinterList()
 
 void PrintWindow::searchNetwork()
 {
-    if (m_networkSearch)
-        return;
-    m_networkSearch = new NetworkSearch(m_system, this);
-    connect(m_networkSearch, &NetworkSearch::found, m_picker, &PrinterPicker::putFound);
-    connect(m_networkSearch, &NetworkSearch::ended, this, [this] { m_picker->setSearching(false); });
+    if (!m_networkSearch) {
+        m_networkSearch = new NetworkSearch(m_system, this);
+        connect(m_networkSearch, &NetworkSearch::found, m_picker, &PrinterPicker::putFound);
+        connect(m_networkSearch, &NetworkSearch::ended, this, [this] { m_picker->setSearching(false); });
+    }
     m_picker->setSearching(true);
     m_networkSearch->begin();
 }
@@ -116,6 +123,8 @@ void PrintWindow::askState()
         [this](const std::optional<Destination> &now) {
             if (now)
                 m_picker->putPrinter(*now);
+            else if (m_session)
+                m_picker->putPrinter(m_session->destination().withoutState());
         });
 }
 
@@ -187,17 +196,22 @@ void PrintWindow::print()
 
 void PrintWindow::deliver()
 {
-    if (m_task.settingsOnly) {
-        (void)platform::Background::call(
-            [printer = m_session->destination().name(), rememberUse = m_settings->rememberUse()] {
-                RememberedPrinter().setName(printer);
-                rememberUse();
-            });
-        if (!m_isDismissed) // closed while the settings file took its time
-            accept();
+    if (!m_task.settingsOnly) {
+        send();
         return;
     }
-    send();
+    remember(m_settings->rememberUse());
+    accept();
+}
+
+// The files may be slow: nobody waits for them.
+void PrintWindow::remember(const std::function<void()> &settings)
+{
+    writeLater([printer = m_session->destination().name(), settings] {
+        RememberedPrinter().setName(printer);
+        if (settings)
+            settings();
+    });
 }
 
 void PrintWindow::send()
@@ -206,8 +220,9 @@ void PrintWindow::send()
     m_sending = std::make_shared<Sending>();
     m_sending->documents = m_documents;
     m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
+    m_sending->rememberUse = m_settings->rememberUse();
     auto work = [&system = m_system, sending = m_sending, files = m_documentChoice.included(),
-                 name = m_task.documentName, rememberUse = m_settings->rememberUse()]() -> Submission {
+                 name = m_task.documentName]() -> Submission {
         Submission failed;
         const auto isDropped = [&] { return sending->phase == Sending::Phase::Dropped; };
         if (!sending->documents->open(files, nullptr, &failed.error, isDropped) ||
@@ -223,13 +238,7 @@ void PrintWindow::send()
             sending->sent = sent;
             sending->total = total;
         };
-        Submission submission =
-            system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
-        if (submission.outcome != Submission::Outcome::Rejected)
-            RememberedPrinter().setName(request.destination.name());
-        if (submission.isAccepted())
-            rememberUse();
-        return submission;
+        return system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
     };
     m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
     if (m_submitting.deliverWithin(nearServer))
@@ -300,10 +309,12 @@ bool PrintWindow::dropReading()
 void PrintWindow::sent(Submission submission)
 {
     m_progressTimer.stop();
-    m_sending.reset();
+    const auto sending = std::move(m_sending);
     const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
-    if (!isRejected)
+    if (!isRejected) {
+        remember(submission.isAccepted() ? sending->rememberUse : nullptr);
         m_submission = std::move(submission);
+    }
     if (m_isLeaving) {
         done(isRejected ? Rejected : Accepted);
         m_held.reset();

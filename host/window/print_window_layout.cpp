@@ -35,6 +35,8 @@ namespace {
 
 constexpr int textShare = 6;   // of the window's height, for the texts of the message bar
 constexpr int roomyLines = 24; // that the window is high; a lower one saves space
+constexpr int mostLines = 58;  // that it grows to for the sake of a page
+constexpr int spareLines = 4;  // that it leaves of the screen then
 
 // What a window's screen has free, less the frame around the window.
 QSize freeRoom(const QWidget *window)
@@ -114,13 +116,25 @@ void PrintWindow::setRoom(const QSize &room)
     fit();
 }
 
-// Wide enough for the page, and never larger than the screen.
+// Wide and high enough for the page, and never larger than the screen. A page that is long scrolls, as does
+// what would only fit a window with no room around it: where the frame and the desktop's bars are is not
+// known for certain.
 void PrintWindow::fit()
 {
     const QSize room = m_room.isValid() ? m_room : freeRoom(this);
-    const int wanted = m_book->isHidden() ? 0 : m_book->wantedWidth();
+    const int line = fontMetrics().height();
+    const bool isOurs = !isVisible() || height() == m_ownHeight;
+    QSize wanted;
+    if (!m_book->isHidden()) {
+        const int others = m_picker->sizeHint().height() + m_footer->sizeHint().height() + 2;
+        const int high = m_book->wantedHeight() + others;
+        const bool grows = isOurs && high <= mostLines * line;
+        wanted = {m_book->wantedWidth(), grows ? qMin(high, room.height() - spareLines * line) : 0};
+    }
     setMinimumSize(layout()->minimumSize().boundedTo(room));
-    resize(size().expandedTo({wanted, 0}).boundedTo(room));
+    resize(size().expandedTo(wanted).boundedTo(room));
+    if (isOurs)
+        m_ownHeight = height();
 }
 
 void PrintWindow::showEvent(QShowEvent *event)

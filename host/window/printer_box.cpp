@@ -80,6 +80,12 @@ QSize PrinterBox::sizeHint() const
     return platform::sizeForLength(*this, option, iconSize());
 }
 
+void PrinterBox::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    platform::elideCurrentText(*this, option);
+}
+
 QWidget *PrinterBox::makePopup()
 {
     m_found = new PrinterSearch(this);

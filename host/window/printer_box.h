@@ -36,6 +36,7 @@ Q_SIGNALS:
     void opened();
 
 protected:
+    void initStyleOption(QStyleOptionComboBox *option) const override;
     // Scrolling past the box opens no printer.
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -84,6 +84,16 @@ void PrinterList::putFound(const Destination &printer)
         put(printer);
 }
 
+void PrinterList::remove(const QString &name)
+{
+    const int row = rowOf(name);
+    if (row < 0)
+        return;
+    beginRemoveRows({}, row, row);
+    m_printers.removeAt(row);
+    endRemoveRows();
+}
+
 int PrinterList::rowOf(const QString &name) const
 {
     const auto found = std::find_if(m_printers.begin(), m_printers.end(),

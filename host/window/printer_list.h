@@ -30,6 +30,7 @@ public:
     int put(const Destination &printer);
     // Adds a printer that was found in the network, unless it has a queue.
     void putFound(const Destination &printer);
+    void remove(const QString &name);
     int rowOf(const QString &name) const; // -1 when there is none
     Destination at(int row) const { return m_printers.value(row); }
 

@@ -51,15 +51,16 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers, const QStrin
 {
     if (m_isFixed)
         return;
-    Destination chosen = m_list->at(m_list->rowOf(m_current));
+    const Destination chosen = m_list->at(m_list->rowOf(m_current));
     m_list->setPrinters(printers, recent);
+    m_standIn.clear();
     if (m_list->rowOf(m_current) < 0) { // where a preset is gone, its printer may be there
         const QString queue = m_current.section(QLatin1Char('/'), 0, 0);
         if (m_list->rowOf(queue) >= 0) {
             m_current = queue;
         } else if (!chosen.queue.isEmpty()) {
-            chosen.isStateKnown = false; // the server says nothing of it
-            m_list->put(chosen);
+            m_list->put(chosen.withoutState()); // the server says nothing of it
+            m_standIn = m_current;
         }
     }
     showRow(m_list->rowOf(m_current));
@@ -109,18 +110,29 @@ void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
     showRow(m_list->put(printer));
+    dropStandIn();
 }
 
 void PrinterPicker::setAwaited(const QString &name)
 {
     m_current = name;
-    int row = m_list->rowOf(name);
-    if (row < 0) {
+    const bool isUnknown = m_list->rowOf(name) < 0;
+    if (isUnknown) {
         Destination awaited;
         std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
-        row = m_list->put(awaited);
+        m_list->put(awaited);
     }
-    showRow(row);
+    showRow(m_list->rowOf(name));
+    dropStandIn();
+    if (isUnknown)
+        m_standIn = name;
+}
+
+// Once another printer is chosen there is nothing more to be had of it.
+void PrinterPicker::dropStandIn()
+{
+    if (m_standIn != m_current)
+        m_list->remove(std::exchange(m_standIn, QString()));
 }
 
 void PrinterPicker::setFixedText(const QString &text)

@@ -56,11 +56,13 @@ Q_SIGNALS:
 private:
     void showRow(int row);
     void describe(const Destination &printer);
+    void dropStandIn();
 
     PrinterList *m_list;
     PrinterBox *m_box;
     ElidedLabel *m_state;
     QString m_current; // destination name
+    QString m_standIn; // the row of a printer that the list lacks, there while it is the chosen one
     bool m_isFixed = false;
 };
 

@@ -5,12 +5,12 @@
 
 #include "host/window/announced.h"
 #include "host/window/centred_label.h"
+#include "host/window/dialog_button.h"
 #include "host/window/explanations.h"
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -48,7 +48,7 @@ ResultPage::ResultPage(QWidget *parent)
     makeAnnounced(this);
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
-    large.setWeight(QFont::DemiBold);
+    large.setBold(true);
     m_title->setFont(large);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(40, 24, 40, 24);
@@ -67,9 +67,9 @@ void ResultPage::buildActions()
     m_earlier->hide();
     m_problem = centredLabel(this);
     m_problem->hide();
-    m_cancelJob = new QPushButton(tr("Cancel &Job"), this);
-    m_hold = new QPushButton(this);
-    m_again = new QPushButton(tr("Print &Again"), this);
+    m_cancelJob = new DialogButton(tr("Cancel &Job"), this);
+    m_hold = new DialogButton({}, this);
+    m_again = new DialogButton(tr("Print &Again"), this);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 12, 0, 0);
     row->setSpacing(10);

@@ -373,7 +373,7 @@ void SettingsControl::rename()
 void SettingsControl::remove()
 {
     const QString name = m_history->base().name;
-    auto *question = new QMessageBox(QMessageBox::NoIcon, tr("Delete Preset"),
+    auto *question = new QMessageBox(QMessageBox::Question, tr("Delete Preset"),
                                      tr("Delete the preset “%1”? Other programs use it as well.").arg(name),
                                      QMessageBox::Cancel, m_window);
     question->setTextFormat(Qt::PlainText);

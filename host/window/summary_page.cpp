@@ -56,6 +56,12 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         Part part{section.title, {}};
         for (const auto &[name, value] : section.entries)
             part.lines.append({name, value, keyOf(session, section.panel, name)});
+        if (section.panel >= 0) { // whose lines come in the order of the alphabet
+            const QStringList keywords = session.panelKeywords(section.panel);
+            std::stable_sort(part.lines.begin(), part.lines.end(), [&](const Line &a, const Line &b) {
+                return keywords.indexOf(a.key) < keywords.indexOf(b.key);
+            });
+        }
         m_all.append(part);
     }
     showChanged(session, changes);
@@ -125,7 +131,7 @@ void SummaryPage::addTitle(const QString &title, bool first)
     auto *label = new QLabel(oneLine(title), m_sheet);
     label->setTextFormat(Qt::PlainText);
     QFont bold = label->font();
-    bold.setWeight(QFont::DemiBold);
+    bold.setBold(true);
     label->setFont(bold);
     label->setContentsMargins(0, first ? 0 : 14, 0, 2);
     m_grid->addWidget(label, m_grid->rowCount(), 0, 1, 2);

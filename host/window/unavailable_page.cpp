@@ -3,17 +3,17 @@
 
 #include "host/window/unavailable_page.h"
 
+#include "host/window/dialog_button.h"
 #include "host/window/foreign_text.h"
 #include "host/window/status_glyph.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace host {
 
 UnavailablePage::UnavailablePage(QWidget *parent)
-    : QWidget(parent), m_reason(new QLabel(this)), m_retry(new QPushButton(tr("&Try Again"), this))
+    : QWidget(parent), m_reason(new QLabel(this)), m_retry(new DialogButton(tr("&Try Again"), this))
 {
     m_reason->setTextFormat(Qt::PlainText);
     m_reason->setAlignment(Qt::AlignCenter);

@@ -5,10 +5,10 @@
 
 #include "host/window/announced.h"
 #include "host/window/centred_label.h"
+#include "host/window/dialog_button.h"
 
 #include <QLocale>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ QString amountText(qint64 bytes)
 
 WaitingPage::WaitingPage(QWidget *parent)
     : QWidget(parent), m_text(centredLabel(this)), m_amount(centredLabel(this)),
-      m_bar(new QProgressBar(this)), m_cancel(new QPushButton(this))
+      m_bar(new QProgressBar(this)), m_cancel(new DialogButton({}, this))
 {
     makeAnnounced(this);
     QFont large = m_text->font();

@@ -5,6 +5,7 @@
 #include "host/session/policy_print_system.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
+#include "host/window/search_bar.h"
 #include "platform/choice_box.h"
 #include "platform/key_value_object.h"
 #include "tests/host/window_fixture.h"
@@ -12,6 +13,8 @@
 #include <QBuffer>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -35,6 +38,7 @@ private Q_SLOTS:
     void lockedChoiceNeedsItsCode();
     void dialogShowsWhatIsLocked();
     void panelKeepsWhatIsLocked();
+    void panelHidesOptions();
 
 private:
     static Policy lay(const QByteArray &json) // down, for this test
@@ -257,6 +261,42 @@ void PolicyTest::panelKeepsWhatIsLocked()
     printButton()->click();
     QTRY_VERIFY(shows(u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s));
     QVERIFY(m_system.submitted.isEmpty());
+}
+
+// The row of an option goes, and what is printed stays as the policy has it; a page that has nothing left is
+// not there.
+void PolicyTest::panelHidesOptions()
+{
+    useFamily();
+    PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [{"defaults": {"SharpnessVRN": "2"},
+        "hiddenOptions": ["Resolution", "SharpnessVRN", "TonerSave"], "hiddenPanels": ["print-mode"]}]})"));
+    Extensions extensions({m_bundle});
+    QVERIFY(showsDialog(system, extensions));
+    QTRY_VERIFY(m_window->session());
+    auto *book = find<PageBook>();
+    book->turn(1);
+    for (const auto &[name, isShown] :
+         {std::pair(u"resolution"_s, false), std::pair(u"resolutionLabel"_s, false),
+          std::pair(u"tonerSave"_s, false), std::pair(u"halftone"_s, true)})
+        QVERIFY2(find<QWidget>(name)->isVisible() == isShown, qPrintable(name));
+    find<QWidget>(u"resolution"_s)->show(); // as a panel might
+    QVERIFY(!find<QWidget>(u"resolution"_s)->isVisible());
+    book->turn(1);
+    for (const QString &part : {u"Label"_s, u"Slider"_s, u"Value"_s, u"Neutral"_s}) {
+        QVERIFY(!find<QWidget>(u"sharpness"_s + part)->isVisible());
+        QVERIFY(find<QWidget>(u"brightness"_s + part)->isVisible());
+    }
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::ControlModifier);
+    auto *bar = find<SearchBar>();
+    QVERIFY(bar);
+    for (const auto &[word, isFound] : {std::pair(u"SharpnessVRN"_s, false), std::pair(u"PrintMode"_s, false),
+                                        std::pair(u"BrightnessVRN"_s, true)}) {
+        bar->field()->setText(word);
+        QCOMPARE(bar->results()->count() > 0, isFound);
+    }
+    printButton()->click();
+    QTRY_COMPARE(m_system.submitted.size(), 1);
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"SharpnessVRN"_s), u"2"_s);
 }
 
 QTEST_MAIN(PolicyTest)

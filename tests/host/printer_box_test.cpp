@@ -24,6 +24,7 @@ private Q_SLOTS:
     void putsRecentOnesFirst();
     void staysQuickWithManyPrinters();
     void printerOutlivesItsPreset();
+    void goneOnceAnotherIsChosen();
     void chosenPrinterIsShown_data();
     void chosenPrinterIsShown();
 
@@ -114,6 +115,16 @@ void PrinterBoxTest::printerOutlivesItsPreset()
     picker.putPrinter(preset); // news that were asked for before
     QCOMPARE(picker.box()->count(), 2);
     QCOMPARE(picker.box()->currentText(), officePrinter().displayName());
+}
+
+void PrinterBoxTest::goneOnceAnotherIsChosen()
+{
+    PrinterPicker picker;
+    picker.setAwaited(QStringLiteral("gone"));
+    picker.setPrinters(building(), {});
+    picker.setCurrent(building().last());
+    QCOMPARE(picker.box()->count(), building().size());
+    QCOMPARE(picker.box()->currentText(), building().last().displayName());
 }
 
 void PrinterBoxTest::chosenPrinterIsShown_data()

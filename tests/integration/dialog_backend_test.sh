@@ -113,7 +113,7 @@ device=kelmar-dialog:/?wait=3 expect "no answer" 3 "did not open" backend 1 nobo
 waiting=$!
 child= facts=
 for tries in {1..50}; do
-    child=$(pgrep -P $waiting -f kelmar-dialog | head -n 1)
+    child=$(pgrep -P "$(pgrep -P $waiting -f kelmar-dialog | head -n 1)" -f kelmar-dialog | head -n 1)
     [ -n "$child" ] && grep -q "^Uid:[[:space:]]$uid" "/proc/$child/status" 2>/dev/null && break || sleep 0.05
 done
 facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/status" | tr -s '\t ' ' ')
@@ -121,6 +121,18 @@ wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 000000
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
 wait $waiting
+expect "cancelled" 143 "" timeout --preserve-status 1 env -i AUTH_UID=$uid \
+    "$build/backend/kelmar-dialog" 1 nobody silent 1 "" "$work/job"
+for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/null || break; sleep 0.1; done
+! pgrep -u $uid -a -f "$build/backend/kelmar-dialog" || { echo "FAIL: a cancelled job goes on" && failed=1; }
+# What stands there now takes connections and says nothing.
+mv $runtime/bus $runtime/true-bus
+become_user python3 -c 'import socket, sys, time
+listening = socket.socket(socket.AF_UNIX); listening.bind(sys.argv[1]); listening.listen(); time.sleep(60)' $runtime/bus &
+pids+=($!)
+for tries in {1..50}; do [ -S $runtime/bus ] && break || sleep 0.1; done
+expect "a silent bus" 3 "did not open" timeout 30 bash -c "$(declare -f backend); uid=$uid build=$build device=kelmar-dialog:/?wait=1; backend 1 nobody T 1 '' $work/job"
+mv $runtime/true-bus $runtime/bus
 [ -z "$(ls -A /var/tmp)" ] || { echo "FAIL: left in /var/tmp: $(ls -A /var/tmp)" && failed=1; }
 
 # ---- through a real cupsd

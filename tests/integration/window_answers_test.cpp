@@ -350,6 +350,17 @@ void WindowAnswersTest::settingsFileNeverAnswers()
     QVERIFY(QFile::remove(aside));
     QVERIFY(writer); // somebody was waiting
     QTRY_VERIFY(m_window->session());
+
+    QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
+    open(u"office"_s);
+    QTRY_VERIFY(find<PrinterPicker>()->box()->count() > manyQueues);
+    QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
+    QVERIFY(QFile::rename(path, aside));
+    const platform::UniqueFd other(
+        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+    QVERIFY(QFile::remove(aside));
+    QVERIFY(other);
 }
 
 void WindowAnswersTest::serverAnswersLate()
