@@ -122,14 +122,19 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 }
 
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
-                                     const QString &name, PrintError *error)
+                                     const QString &name, PrintError *error, QueueQuestion question)
 {
-    static const std::array<const char *, 6> wanted = {"printer-is-accepting-jobs", "printer-state",
-                                                       "printer-state-message",     "printer-state-reasons",
-                                                       "document-format-supported", "printer-defaults"};
+    static const std::array<const char *, 6> wanted = {"printer-state",
+                                                       "printer-state-message",
+                                                       "printer-state-reasons",
+                                                       "printer-is-accepting-jobs",
+                                                       "document-format-supported",
+                                                       "printer-defaults"};
+    constexpr int ofState = 4; // the first ones
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+                  question == QueueQuestion::State ? ofState : static_cast<int>(wanted.size()), nullptr,
+                  wanted.data());
     const Reply reply = server->ask(std::move(request), "/"); // whoever looks needs no login
     if (!reply.succeeded()) {
         *error = reply.error(name);

@@ -41,9 +41,12 @@ struct QueueFacts
     QMap<QString, QString> overruledDefaults;
 };
 
+// How much is asked: the state alone is a small answer.
+enum class QueueQuestion { Everything, State };
 // Nil with an error when the server does not know the queue, which people call `name`, or does not answer.
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
-                                     const QString &name, PrintError *error);
+                                     const QString &name, PrintError *error,
+                                     QueueQuestion question = QueueQuestion::Everything);
 // The server's own queues, as they are now, in its order: without the user's settings, and without printers
 // that it has found in the network. Nil with an error when the server does not answer.
 std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintError *error);

@@ -76,7 +76,7 @@ struct Submission
     enum class Outcome {
         Accepted, // the server has all of it
         Rejected, // it will not print, or no further
-        Unknown   // the server's answer was lost: it may print
+        Unknown   // the server's answer was lost: it may print, or be left there without its documents
     };
     Outcome outcome = Outcome::Rejected;
     SubmittedJob job; // its id is 0 where none was made

@@ -43,20 +43,27 @@ JobStatus::State jobState(int ippState)
     }
 }
 
+JobStatus readStatus(ipp_t *message)
+{
+    JobStatus status;
+    status.state = jobState(attributeInteger(message, "job-state", 0));
+    const QStringList reasons = attributeTexts(message, "job-state-reasons");
+    status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
+                                attributeText(message, "job-printer-state-message"));
+    status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
+    status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
+    status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
+                                   attributeInteger(message, "job-media-sheets-completed", 0));
+    return status;
+}
+
 JobOnServer read(IppPointer attributes)
 {
     JobOnServer job;
     ipp_t *message = attributes.get();
     job.id = attributeInteger(message, "job-id", 0);
-    job.status.state = jobState(attributeInteger(message, "job-state", 0));
-    const QStringList reasons = attributeTexts(message, "job-state-reasons");
-    job.status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
-                                    attributeText(message, "job-printer-state-message"));
-    job.status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
-    job.status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
-    job.status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
-                                       attributeInteger(message, "job-media-sheets-completed", 0));
-    job.isIncoming = reasons.contains(QLatin1String("job-incoming"));
+    job.status = readStatus(message);
+    job.isIncoming = attributeTexts(message, "job-state-reasons").contains(QLatin1String("job-incoming"));
     job.hasBegun = ippFindAttribute(message, "time-at-processing", IPP_TAG_INTEGER) != nullptr;
     job.kilobytes = attributeInteger(message, "job-k-octets", -1);
     job.token = attributeText(message, tokenAttribute).toUtf8();
@@ -87,6 +94,19 @@ std::function<bool()> JobLookup::stopSoon() const
     };
 }
 
+void JobLookup::prepare(ServerConnection *server) const
+{
+    server->setStop(stopSoon());
+    server->setDeadline(m_deadline);
+}
+
+JobLookup::Result JobLookup::noAnswer(const Reply &reply)
+{
+    m_problem = reply.error({});
+    m_wasSilent = reply.wasSilent;
+    return Result::NoAnswer;
+}
+
 IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 {
     IppPointer request = printerRequest(operation, m_printerUri);
@@ -97,7 +117,7 @@ IppPointer JobLookup::jobRequest(ipp_op_t operation, int id) const
 JobLookup::Result JobLookup::byId(int id, JobOnServer *job)
 {
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     return byId(id, &server, job);
 }
 
@@ -105,6 +125,31 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
 {
     IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "all");
+    return ask(std::move(request), id, server, job);
+}
+
+JobLookup::Result JobLookup::status(int id, ServerConnection *server, JobStatus *status)
+{
+    // What readStatus() reads.
+    static const std::array<const char *, 8> wanted = {"job-id",
+                                                       "job-state",
+                                                       "job-state-reasons",
+                                                       "job-printer-state-reasons",
+                                                       "job-printer-state-message",
+                                                       "job-hold-until",
+                                                       "job-impressions-completed",
+                                                       "job-media-sheets-completed"};
+    IppPointer request = jobRequest(IPP_OP_GET_JOB_ATTRIBUTES, id);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    JobOnServer job;
+    const Result result = ask(std::move(request), id, server, &job);
+    *status = std::move(job.status);
+    return result;
+}
+
+JobLookup::Result JobLookup::ask(IppPointer request, int id, ServerConnection *server, JobOnServer *job)
+{
     Reply reply = server->ask(std::move(request), m_resource);
     if (reply.succeeded()) {
         *job = read(std::move(reply.message));
@@ -112,10 +157,7 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
     }
     const bool isGone = reply.fate == Reply::Fate::Answered &&
                         (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
-    if (isGone)
-        return Result::NotThere;
-    m_problem = reply.error({});
-    return Result::NoAnswer;
+    return isGone ? Result::NotThere : noAnswer(reply);
 }
 
 JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
@@ -126,12 +168,10 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     const Reply reply = server.ask(std::move(request), m_resource);
-    if (!reply.succeeded()) {
-        m_problem = reply.error({});
-        return Result::NoAnswer;
-    }
+    if (!reply.succeeded())
+        return noAnswer(reply);
     int id = 0;
     int found = 0;
     ipp_t *answer = reply.message.get();
@@ -148,7 +188,7 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     return found > 0 ? byId(found, job) : Result::NotThere;
 }
 
-JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &deadline,
+JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &tries,
                                      JobOnServer *job)
 {
     while (true) {
@@ -157,7 +197,8 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
             result = Result::NotThere;
         if (result == Result::NotThere)
             result = search(token, job);
-        if (result != Result::NoAnswer || deadline.hasExpired() || (m_stop && m_stop()))
+        if (result != Result::NoAnswer || tries.hasExpired() || m_deadline.hasExpired() ||
+            (m_stop && m_stop()))
             return result;
         QThread::msleep(betweenTries);
     }
@@ -166,7 +207,7 @@ JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDea
 Reply JobLookup::change(ipp_op_t operation, int id)
 {
     ServerConnection server(m_login);
-    server.setStop(stopSoon());
+    prepare(&server);
     return server.ask(jobRequest(operation, id), m_resource);
 }
 

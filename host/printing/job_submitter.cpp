@@ -16,7 +16,6 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <chrono>
 #include <optional>
 
 #include <fcntl.h>
@@ -29,9 +28,6 @@ struct SubmitText
 {
     Q_DECLARE_TR_FUNCTIONS(SubmitText)
 };
-
-// How long a server that breaks off may take to come back until a job is given up for not known.
-constexpr std::chrono::seconds recoveryTime(6);
 
 constexpr char undecidedFormat[] = "application/octet-stream"; // the server looks for itself
 constexpr char rawFormat[] = "application/vnd.cups-raw";
@@ -81,8 +77,10 @@ bool JobSubmitter::isCancelled() const
 Submission JobSubmitter::submit()
 {
     PrintError problem;
-    if (!checkQueue(&problem) || !createJob(&problem))
+    if (!checkQueue(&problem))
         return rejected(problem);
+    if (!createJob(&problem))
+        return m_mayExist ? concluded(problem) : rejected(problem);
     for (qsizetype i = 0; i < m_request.documents.size(); ++i) {
         if (!sendDocument(i, &problem))
             return concluded(problem);
@@ -171,10 +169,8 @@ bool JobSubmitter::createJob(PrintError *error)
     }
     *error = reply.error(m_request.destination.displayName());
     // Without documents it does not print, but should not stay in the queue either.
-    JobOnServer made;
-    if (reply.fate == Reply::Fate::Lost && reply.wasSentWhole &&
-        m_lookup.byToken(0, m_token, QDeadlineTimer(recoveryTime), &made) == JobLookup::Result::Found)
-        m_lookup.cancel(made.id);
+    m_mayExist = reply.fate == Reply::Fate::Lost && reply.wasSentWhole;
+    m_wasSilent = reply.wasSilent;
     return false;
 }
 
@@ -221,6 +217,7 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
         m_mayPrint = true;
         m_mayBeWhole = index == m_request.documents.size() - 1;
     }
+    m_wasSilent = reply.wasSilent;
     const bool isUnreadable = contents ? contents->hasFailed() : file.error() != QFileDevice::NoError;
     *error = isUnreadable ? unreadable(document.path, source->errorString())
                           : reply.error(m_request.destination.displayName());
@@ -236,10 +233,15 @@ bool JobSubmitter::isWhole(const JobOnServer &job) const
 // Something went wrong after the job was made: finds out what the server has of it.
 Submission JobSubmitter::concluded(const PrintError &why)
 {
+    limitLookup();
     JobOnServer found;
-    const auto result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
+    const auto result =
+        m_lookup.byToken(m_id, m_token, QDeadlineTimer(m_login->patience.recoveryTime), &found);
+    if (result != JobLookup::Result::Found && m_mayPrint)
+        return unknown(why);
     if (result != JobLookup::Result::Found)
-        return m_mayPrint ? unknown(why) : rejected(why);
+        return result == JobLookup::Result::NotThere ? rejected(why) : leftOver(why);
+    m_id = found.id;
     if (m_mayPrint && isCancelled())
         return withdrawn(found);
     if (m_mayBeWhole && isWhole(found))
@@ -247,22 +249,23 @@ Submission JobSubmitter::concluded(const PrintError &why)
     return cancelled(why, found);
 }
 
+void JobSubmitter::limitLookup()
+{
+    const bool isShort = m_wasSilent || m_lookup.wasSilent() || isCancelled();
+    const ServerPatience &patience = m_login->patience;
+    m_lookup.setDeadline(QDeadlineTimer(isShort ? patience.recoveryTime : patience.idleTime));
+}
+
 Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &found)
 {
     const bool confirmed = m_lookup.cancel(found.id);
     JobOnServer after;
-    const bool isThere =
-        m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) == JobLookup::Result::Found;
-    const bool isOver = isThere && after.status.isFinal();
+    const auto result = m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after);
+    const bool isOver = result == JobLookup::Result::Found && after.status.isFinal();
     // A server that broke down may have forgotten that it had begun to print what it had got whole.
     if (m_mayBeWhole || (m_mayPrint && (!isOver || after.hasBegun)))
         return unknown(why);
-    if (confirmed || isOver)
-        return rejected(why);
-    PrintError more = why;
-    more.message +=
-        QLatin1Char(' ') + SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id);
-    return rejected(more);
+    return confirmed || isOver || result == JobLookup::Result::NotThere ? rejected(why) : leftOver(why);
 }
 
 Submission JobSubmitter::withdrawn(const JobOnServer &found)
@@ -302,6 +305,16 @@ Submission JobSubmitter::unknown(const PrintError &why) const
     return result;
 }
 
+Submission JobSubmitter::leftOver(const PrintError &why) const
+{
+    Submission result{Submission::Outcome::Unknown, {m_id, {}, {}}, why};
+    const QString job = m_id > 0 ? SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id)
+                                 : SubmitText::tr("An unfinished job may have been left there.");
+    result.error.message += QLatin1Char(' ') + job + QLatin1Char(' ') +
+                            SubmitText::tr("Look at the queue before printing again.");
+    return result;
+}
+
 // Every document has been taken. A server that breaks down right after that may forget the job; one that did
 // not may have printed it and keep no history, which only its connection tells apart.
 Submission JobSubmitter::kept()
@@ -319,7 +332,8 @@ Submission JobSubmitter::kept()
         return accepted(std::move(found));
     if (result == JobLookup::Result::NotThere && isSameServer)
         return accepted({});
-    result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(recoveryTime), &found);
+    limitLookup();
+    result = m_lookup.byToken(m_id, m_token, QDeadlineTimer(m_login->patience.recoveryTime), &found);
     if (result == JobLookup::Result::Found && isWhole(found))
         return accepted(std::move(found));
     if (result == JobLookup::Result::NoAnswer)

@@ -30,6 +30,8 @@ private:
     // Options that say what the documents are, and preferences that the server adds to every job by itself.
     void takeOptions();
     bool createJob(PrintError *error);
+    // From now on the server is asked what became of the job, for a limited time.
+    void limitLookup();
     bool sendDocument(qsizetype index, PrintError *error);
     IppPointer documentRequest(qsizetype index) const;
     Submission kept();
@@ -41,6 +43,8 @@ private:
     Submission withdrawn(const JobOnServer &found);
     Submission rejected(const PrintError &why) const;
     Submission unknown(const PrintError &why) const;
+    // A job without its documents may be there, which is neither found nor cancelled.
+    Submission leftOver(const PrintError &why) const;
     bool isWhole(const JobOnServer &job) const;
     bool isCancelled() const;
 
@@ -61,8 +65,10 @@ private:
     qint64 m_total = 0; // bytes of all documents
     qint64 m_sent = 0;
     qint64 m_kilobytes = 0;    // of the documents sent whole, counted as the server does
+    bool m_mayExist = false;   // the server may have made the job
     bool m_mayPrint = false;   // a document may have arrived
     bool m_mayBeWhole = false; // all of them may have
+    bool m_wasSilent = false;  // the server did not answer
 };
 
 } // namespace host

@@ -34,6 +34,9 @@ struct ServerPatience
 {
     int connectTime = 10'000;
     int idleTime = 30'000; // without a byte going either way
+    // Until a job whose fate it does not tell is given up for not known: after it broke off, to come back;
+    // after it was silent or somebody gave up, for all that it is asked then.
+    int recoveryTime = 6'000;
 };
 
 // Who is asked, and what they have answered, so that one answer does for every request of a program; and how

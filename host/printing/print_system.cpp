@@ -15,6 +15,9 @@ namespace host {
 
 namespace {
 
+// How many looks at a job that has not begun go with one question about its printer.
+constexpr int looksPerPrinter = 3;
+
 struct PrintSystemText
 {
     Q_DECLARE_TR_FUNCTIONS(PrintSystemText)
@@ -272,21 +275,36 @@ JobStatus CupsPrintSystem::jobStatus(const Destination &destination, int jobId)
 {
     Visit visit(this, Visit::Cause::Clock);
     ServerConnection server(visit.login());
-    JobOnServer job;
-    const auto result = JobLookup(visit.login(), uriOf(destination)).byId(jobId, &server, &job);
-    if (result == JobLookup::Result::NotThere)
-        job.status.state = JobStatus::State::Gone;
-    if (job.status.state != JobStatus::State::Pending)
-        return job.status;
-    // Of a job that has not begun the server tells nothing about its printer.
-    PrintError ignored;
-    const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
-    if (queue) {
-        job.status.printerStopped |= queue->stopped;
-        if (job.status.message.isEmpty())
-            job.status.message = reasonText(queue->stateReasons, queue->stateMessage);
+    JobStatus status;
+    if (JobLookup(visit.login(), uriOf(destination)).status(jobId, &server, &status) ==
+        JobLookup::Result::NotThere)
+        status.state = JobStatus::State::Gone;
+    if (status.state == JobStatus::State::Pending)
+        addPrinterState(&server, destination, jobId, &status);
+    return status;
+}
+
+void CupsPrintSystem::addPrinterState(ServerConnection *server, const Destination &destination, int jobId,
+                                      JobStatus *status)
+{
+    const auto add = [&] {
+        status->printerStopped |= m_waiting.isStopped;
+        if (status->message.isEmpty())
+            status->message = m_waiting.message;
+    };
+    {
+        const std::lock_guard lock(m_waitingMutex);
+        if (m_waiting.job == jobId && ++m_waiting.looks < looksPerPrinter)
+            return add();
     }
-    return job.status;
+    PrintError ignored;
+    const auto queue =
+        queryQueue(server, uriOf(destination), destination.displayName(), &ignored, QueueQuestion::State);
+    if (!queue)
+        return;
+    const std::lock_guard lock(m_waitingMutex);
+    m_waiting = {jobId, 0, queue->stopped, reasonText(queue->stateReasons, queue->stateMessage)};
+    add();
 }
 
 bool CupsPrintSystem::changeJob(const Destination &destination, int jobId, JobAction action,

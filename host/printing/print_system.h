@@ -72,6 +72,9 @@ private:
     // Of a queue that must be there, or be made; nil with an error.
     std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
                                       PrintError *error);
+    // What the printer of a job that has not begun says, which not each look at the job asks for anew.
+    void addPrinterState(ServerConnection *server, const Destination &destination, int jobId,
+                         JobStatus *status);
     std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
     std::mutex m_loginMutex; // guards the three that follow
@@ -79,6 +82,14 @@ private:
     int m_refusals = 0;        // of people to answer
     bool m_wasRefused = false; // and they have done nothing since
     std::mutex m_promptMutex;  // held while somebody is asked
+    std::mutex m_waitingMutex; // guards what follows
+    struct
+    {
+        int job = 0;
+        int looks = 0; // since its printer was asked
+        bool isStopped = false;
+        QString message;
+    } m_waiting; // the job that was looked at last
     NetworkPrinters m_network;
 };
 

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QIODevice>
 
+#include <algorithm>
 #include <cerrno>
 #include <sys/socket.h>
 
@@ -20,7 +21,8 @@ struct ServerText
 
 constexpr qint64 blockSize = 64 * 1024;
 constexpr char basicScheme[] = "Basic";
-constexpr int mostLogins = 3; // requests that the server refuses only after it has read them
+constexpr int betweenLooks = 1'000; // milliseconds between looks whether the server is still waited for
+constexpr int mostLogins = 3;       // requests that the server refuses only after it has read them
 
 bool isErrorStatus(http_status_t status)
 {
@@ -155,18 +157,40 @@ bool ServerConnection::connect()
     if (m_http)
         return true;
     m_offeredLogin = false;
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                              m_login->patience.connectTime, nullptr));
+    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0,
+                              nullptr)); // not connected yet
     if (!m_http)
         return false;
     const auto moves = [](http_t *, void *self) {
         return static_cast<ServerConnection *>(self)->goesOn() ? 1 : 0;
     };
-    httpSetTimeout(m_http.get(), 1.0, moves, this); // seconds between looks
+    httpSetTimeout(m_http.get(), betweenLooks / 1000.0, moves, this);
+    if (!open()) {
+        m_http.reset();
+        return false;
+    }
     if (!m_login->accepted.isEmpty())
         httpSetAuthString(m_http.get(), basicScheme, m_login->accepted.constData());
-    m_idle.start();
     return true;
+}
+
+// In short tries, because libcups asks nobody meanwhile whether to go on. One that ends early has been
+// refused.
+bool ServerConnection::open()
+{
+    const QDeadlineTimer deadline(m_login->patience.connectTime);
+    m_idle.start();
+    while (goesOn() && !deadline.hasExpired()) {
+        const int time = static_cast<int>(std::min<qint64>(betweenLooks, deadline.remainingTime()));
+        const QDeadlineTimer end(time);
+        if (httpReconnect2(m_http.get(), time, nullptr) == 0) {
+            m_idle.restart();
+            return true;
+        }
+        if (!end.hasExpired())
+            break;
+    }
+    return false;
 }
 
 // libcups opens it anew by itself, so the kernel's number of the socket is what tells.
@@ -190,7 +214,7 @@ void ServerConnection::keepLogin()
 
 bool ServerConnection::goesOn()
 {
-    return !isSilent() && !(m_stop && m_stop());
+    return !isSilent() && !isStopped();
 }
 
 const char *ServerConnection::nextPassword()
@@ -226,12 +250,16 @@ Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource,
     const LoginScope scope(this);
     Reply reply;
     for (int attempt = 0; attempt < mostLogins; ++attempt) {
-        if (!connect())
-            return {};
+        if (!connect()) {
+            reply = {};
+            if (isStopped())
+                reply.fate = Reply::Fate::Stopped;
+            return reply;
+        }
         m_idle.restart();
         reply = exchangeOnce(request.get(), resource, upload);
         if (reply.fate == Reply::Fate::Lost) {
-            reply.wasGivenUp = m_stop && m_stop();
+            reply.wasGivenUp = isStopped();
             reply.wasSilent = isSilent();
         }
         if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
@@ -256,7 +284,7 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
             reply.fate = Reply::Fate::NotSent;
         else
             reply.fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
-        if (reply.fate == Reply::Fate::Lost && m_stop && m_stop())
+        if (reply.fate == Reply::Fate::Lost && isStopped())
             reply.fate = Reply::Fate::Stopped;
         return reply;
     }
@@ -279,7 +307,7 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
     QByteArray block(blockSize, Qt::Uninitialized);
     qint64 sent = 0;
     while (true) {
-        if (m_stop && m_stop()) {
+        if (isStopped()) {
             reply->fate = Reply::Fate::Stopped;
             return false;
         }
@@ -293,7 +321,7 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
         if (status != HTTP_STATUS_CONTINUE) {
             reply->httpStatus = status;
             reply->fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
-            if (reply->fate == Reply::Fate::Lost && m_stop && m_stop())
+            if (reply->fate == Reply::Fate::Lost && isStopped())
                 reply->fate = Reply::Fate::Stopped;
             return false;
         }
@@ -367,7 +395,7 @@ http_status_t ServerConnection::authenticate(const QByteArray &resource)
 {
     if (cupsDoAuthentication(m_http.get(), "POST", resource.constData()) != 0)
         return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-    httpReconnect2(m_http.get(), m_login->patience.connectTime, nullptr);
+    open();
     return HTTP_STATUS_UNAUTHORIZED;
 }
 
@@ -387,9 +415,8 @@ http_status_t ServerConnection::requestFile(const QByteArray &resource)
         httpFlush(m_http.get());
         if (cupsDoAuthentication(m_http.get(), "GET", resource.constData()) != 0)
             return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-        if (httpReconnect2(m_http.get(), m_login->patience.connectTime, nullptr) != 0)
+        if (!open())
             return HTTP_STATUS_ERROR;
-        m_idle.restart();
     }
     return HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
 }

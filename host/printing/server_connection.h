@@ -8,6 +8,7 @@
 #include "host/printing/print_error.h"
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QString>
 
@@ -61,6 +62,8 @@ public:
 
     // Looked at between blocks and once a second while nothing moves; true ends what is under way.
     void setStop(std::function<bool()> stop) { m_stop = std::move(stop); }
+    // When the server counts as silent, however long it has been. Never, unless it is set.
+    void setDeadline(const QDeadlineTimer &deadline) { m_deadline = deadline; }
 
     Reply ask(IppPointer request, const QByteArray &resource);
     // The same with a document behind it, read from where the device stands to its end. `progress` gets the
@@ -84,6 +87,7 @@ private:
     struct Upload;
 
     bool connect();
+    bool open();
     Reply exchange(IppPointer request, const QByteArray &resource, Upload *upload);
     Reply exchangeOnce(ipp_t *request, const QByteArray &resource, Upload *upload);
     bool writeDocument(Upload *upload, Reply *reply);
@@ -94,11 +98,16 @@ private:
     const char *nextPassword();
     void keepLogin();
     bool goesOn();
-    bool isSilent() const { return m_idle.elapsed() >= m_login->patience.idleTime; }
+    bool isStopped() const { return m_stop && m_stop(); }
+    bool isSilent() const
+    {
+        return m_idle.elapsed() >= m_login->patience.idleTime || m_deadline.hasExpired();
+    }
 
     LoginKeeper *m_login;
     HttpPointer m_http;
     std::function<bool()> m_stop;
+    QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     QElapsedTimer m_idle;
     bool m_offeredLogin = false;
     QByteArray m_password; // libcups keeps the pointer until it is asked again

@@ -8,6 +8,7 @@
 #include "host/window/result_page.h"
 #include "host/window/unavailable_page.h"
 #include "platform/background.h"
+#include "platform/unique_fd.h"
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
 
@@ -21,6 +22,9 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <array>
+#include <netinet/in.h>
+#include <sys/socket.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -78,6 +82,7 @@ private Q_SLOTS:
     void lostAnswers_data();
     void lostAnswers();
     void lostAnswerInTheWindow();
+    void canceledWhileConnecting();
     void signalCancelsTheJob_data();
     void signalCancelsTheJob();
     void jobIsChangedFromTheResult();
@@ -224,6 +229,34 @@ void JobEndTest::lostAnswerInTheWindow()
     QCOMPARE(window.submission()->outcome, Submission::Outcome::Unknown);
     QVERIFY(window.findChild<ResultPage *>()->text().contains(u"look at the queue before printing again"_s));
     QVERIFY(m_server.waitForNextJob());
+}
+
+// To a server whose queue of connections is full.
+void JobEndTest::canceledWhileConnecting()
+{
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    auto *name = reinterpret_cast<sockaddr *>(&address);
+    const auto newSocket = [] { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); };
+    const platform::UniqueFd listener(newSocket());
+    QVERIFY(::bind(listener.get(), name, size) == 0 && ::listen(listener.get(), 0) == 0 &&
+            ::getsockname(listener.get(), name, &size) == 0);
+    std::array<platform::UniqueFd, 3> waiting;
+    for (platform::UniqueFd &one : waiting) {
+        one = platform::UniqueFd(newSocket());
+        ::connect(one.get(), name, size);
+    }
+    const OtherServer scope(u"127.0.0.1:%1"_s.arg(ntohs(address.sin_port)));
+    CupsPrintSystem system;
+    JobRequest request;
+    request.destination.queue = u"office"_s;
+    QElapsedTimer clock;
+    clock.start();
+    const Submission submission = system.submit(request, {{}, [&] { return clock.hasExpired(500); }});
+    QCOMPARE(submission.error.message, u"Printing was canceled."_s);
+    QVERIFY2(clock.elapsed() < 5'000, qPrintable(QString::number(clock.elapsed())));
 }
 
 void JobEndTest::signalCancelsTheJob_data()

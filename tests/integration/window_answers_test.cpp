@@ -74,7 +74,7 @@ class WindowAnswersTest : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void init() { m_heart.emplace(); }
+    void init();
     void cleanup();
     void serverNeverAnswers_data();
     void serverNeverAnswers();
@@ -91,7 +91,8 @@ private Q_SLOTS:
     void manyQueuesLoad();
 
 private:
-    void open(const QString &printer = u"office"_s, bool isHasty = false);
+    void lengthenDocument();
+    void open(const QString &printer = u"office"_s, CupsPrintSystem *system = nullptr);
     QPushButton *button(const QString &text) const;
     // Clicks, and waits for what is to come of it, which is to take no longer than people notice.
     template <typename Condition>
@@ -105,7 +106,9 @@ private:
     PrivateCupsd m_server;
     std::optional<StallingProxy> m_proxy;
     CupsPrintSystem m_system;
-    CupsPrintSystem m_hasty{ServerPatience{10'000, 1'000}}; // milliseconds
+    CupsPrintSystem m_hasty{ServerPatience{10'000, 1'000, 200}}; // milliseconds
+    CupsPrintSystem m_patient{ServerPatience{10'000, 4'000, 200}};
+    QString m_file; // what is printed
     Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
     std::unique_ptr<PrintWindow> m_window;
     std::optional<Heartbeat> m_heart;
@@ -142,9 +145,24 @@ void WindowAnswersTest::initTestCase()
     m_proxy.emplace(m_server.folder() + u"/slow.sock"_s, m_server.socketPath(), &problem);
     QVERIFY2(m_proxy->isRunning(), qPrintable(problem));
     qputenv("CUPS_SERVER", m_proxy->socketPath().toLocal8Bit());
+    m_file = document;
     open(); // what is done once a program is not what is measured
     QTRY_VERIFY(m_window->session());
     m_window.reset();
+}
+
+void WindowAnswersTest::init()
+{
+    m_heart.emplace();
+    m_file = document;
+}
+
+// More of it than the server's socket takes in.
+void WindowAnswersTest::lengthenDocument()
+{
+    m_file = m_server.folder() + u"/long.pdf"_s;
+    QFile::remove(m_file);
+    QVERIFY(QFile::copy(document, m_file) && QFile::resize(m_file, 4'000'000));
 }
 
 void WindowAnswersTest::cleanup()
@@ -162,12 +180,12 @@ void WindowAnswersTest::cleanup()
     QVERIFY2(gap < longestGap, qPrintable(u"the window did not answer for %1 ms"_s.arg(gap)));
 }
 
-void WindowAnswersTest::open(const QString &printer, bool isHasty)
+void WindowAnswersTest::open(const QString &printer, CupsPrintSystem *system)
 {
     PrintTask task;
-    task.files = {document};
+    task.files = {m_file};
     task.printer = printer;
-    m_window = std::make_unique<PrintWindow>(isHasty ? m_hasty : m_system, m_extensions, task);
+    m_window = std::make_unique<PrintWindow>(system ? *system : m_system, m_extensions, task);
     PrintError error;
     QVERIFY2(m_window->open(&error), qPrintable(error.message));
     m_window->show();
@@ -215,6 +233,9 @@ void WindowAnswersTest::serverNeverAnswers_data()
     bothWays("sending", Stage::Sending, "0006", canceled);
     bothWays("reading back", Stage::Sending, "0009",
              "It may print; look at the queue before printing again.");
+    QTest::newRow("all from sending on, given up")
+        << Stage::Sending << QByteArray("0006+") << Way::GiveUp
+        << u"could not be canceled. Look at the queue before printing again."_s;
     QTest::newRow("following") << Stage::Following << QByteArray("0009") << Way::Close << QString();
 }
 
@@ -228,6 +249,8 @@ void WindowAnswersTest::serverNeverAnswers()
     const auto closed = [this] { return !m_window->isVisible(); };
     if (stage == Stage::Opening || stage == Stage::Listing)
         QVERIFY(stall());
+    if (request == "0006+")
+        lengthenDocument();
     m_heart->start();
     open(stage == Stage::Following ? u"halted"_s : u"office"_s);
     if (stage != Stage::Opening) {
@@ -271,9 +294,16 @@ void WindowAnswersTest::serverStopsAnswering_data()
 {
     QTest::addColumn<Stage>("stage");
     QTest::addColumn<QByteArray>("request"); // as the proxy names it
-    QTest::newRow("PPD") << Stage::Opening << QByteArray("ppd");
-    QTest::newRow("printer list") << Stage::Listing << QByteArray("4002");
-    QTest::newRow("sending") << Stage::Sending << QByteArray("0006");
+    QTest::addColumn<QString>("told");
+    const QString silent = u"has stopped answering."_s;
+    const QString look = u" Look at the queue before printing again."_s;
+    QTest::newRow("PPD") << Stage::Opening << QByteArray("ppd") << silent;
+    QTest::newRow("printer list") << Stage::Listing << QByteArray("4002") << QString();
+    QTest::newRow("from making the job on")
+        << Stage::Sending << QByteArray("0005+")
+        << silent + u" An unfinished job may have been left there."_s + look;
+    QTest::newRow("from sending on") << Stage::Sending << QByteArray("0006+")
+                                     << silent + u" The unfinished job %1 could not be canceled."_s + look;
 }
 
 // Nobody gives up here: the window does, and says so.
@@ -281,22 +311,26 @@ void WindowAnswersTest::serverStopsAnswering()
 {
     QFETCH(Stage, stage);
     QFETCH(QByteArray, request);
+    QFETCH(QString, told);
     QVERIFY(m_proxy->command("stall " + request));
+    if (stage == Stage::Sending)
+        lengthenDocument();
     m_heart->start();
-    open(u"office"_s, true);
+    open(u"office"_s, stage == Stage::Sending ? &m_patient : &m_hasty);
     if (stage == Stage::Sending) {
         QTRY_VERIFY(m_window->session());
         QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     }
     QTRY_VERIFY(m_proxy->hasStalled());
-    QTRY_VERIFY(!platform::Background::isUnderWay());
-    if (stage == Stage::Listing)
-        return;
+    // A second time as long is not waited for.
+    QTRY_VERIFY_WITH_TIMEOUT(!platform::Background::isUnderWay(), 7'500);
+    if (m_window->submission())
+        told.replace(u"%1"_s, QString::number(m_window->submission()->job.id));
     const auto text = [this] {
         return m_window->messageBar()->text() + find<UnavailablePage>()->reason() +
                find<ResultPage>()->text();
     };
-    QTRY_VERIFY2(text().contains(u"has stopped answering"_s), qPrintable(text()));
+    QTRY_VERIFY2(text().contains(told), qPrintable(text()));
 }
 
 // As on a home that is not there just now.

@@ -6,7 +6,7 @@ stalling_proxy.py LISTEN-SOCKET SERVER-SOCKET
 
 Reads commands from its standard input, one a line, and answers each with "ok":
     stall WHAT   requests of this kind, from now on, get no answer: an IPP operation as hexadecimal number, "ppd"
-                 for the fetching of a PPD, "all"
+                 for the fetching of a PPD, "all"; with a "+" behind it also everything that comes after
     delay MS     every answer waits this long
     pass         let everything through again; connections that were stalled are closed
 Writes "stalled" when a request has been held back for the first time since the command. Ends with its input.
@@ -49,7 +49,9 @@ def hold():
 
 def is_stalled(kind):
     with lock:
-        return state["stall"] is not None and state["stall"] in ("all", kind)
+        if state["stall"] == kind + "+":
+            state["stall"] = "all"
+        return state["stall"] in ("all", kind)
 
 
 def answers(server, client):
