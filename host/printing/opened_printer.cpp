@@ -25,9 +25,14 @@ bool lacksPrinter(const PrintError &error)
 
 std::optional<Destination> firstDestination(PrintSystem &system, const QString &usedLast, PrintError *error)
 {
-    PrintError gone;
-    if (!usedLast.isEmpty()) {
-        if (auto destination = system.destination(usedLast, &gone))
+    // Where a preset has been deleted since, there is still its printer.
+    QStringList candidates(usedLast);
+    candidates.append(splitDestinationName(usedLast).first);
+    candidates.removeDuplicates();
+    candidates.removeAll(QString());
+    for (const QString &name : std::as_const(candidates)) {
+        PrintError gone;
+        if (auto destination = system.destination(name, &gone))
             return destination;
         if (!lacksPrinter(gone)) {
             *error = gone;

@@ -325,6 +325,12 @@ void PrintWindowTest::remembersThePrinter()
     printButton()->click();
     settle();
     QCOMPARE(open().session()->destination().queue, u"attic"_s);
+    m_system.printers[1].instance = u"draft"_s;
+    QCOMPARE(open(u"attic/draft"_s).session()->destination().instance, u"draft"_s);
+    printButton()->click();
+    settle();
+    m_system.printers[1].instance.clear(); // the preset has been deleted since, by another program
+    QCOMPARE(open().session()->destination().queue, u"attic"_s);
     m_system.printers.removeAt(1); // it has been taken away since: back to the default
     QCOMPARE(open().session()->destination().queue, u"office"_s);
 }
