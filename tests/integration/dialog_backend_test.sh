@@ -128,8 +128,9 @@ for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/n
 ! pgrep -u $uid -a -f "$build/backend/kelmar-dialog" || { echo "FAIL: a cancelled job goes on" && failed=1; }
 # What stands there now takes connections and says nothing.
 mv $runtime/bus $runtime/true-bus
-become_user python3 -c 'import socket, sys, time
-listening = socket.socket(socket.AF_UNIX); listening.bind(sys.argv[1]); listening.listen(); time.sleep(60)' $runtime/bus &
+become_user python3 -c 'import os, socket, sys, time
+listening = socket.socket(socket.AF_UNIX); listening.bind(sys.argv[1] + ".new"); listening.listen()
+os.rename(sys.argv[1] + ".new", sys.argv[1]); time.sleep(60)' $runtime/bus &
 pids+=($!)
 for tries in {1..50}; do [ -S $runtime/bus ] && break || sleep 0.1; done
 expect "a silent bus" 3 "did not open" timeout 30 bash -c "$(declare -f backend); uid=$uid build=$build device=kelmar-dialog:/?wait=1; backend 1 nobody T 1 '' $work/job"
