@@ -94,12 +94,6 @@ protected:
 private:
     enum class State { Unavailable, Waiting, Choosing, Sending, Done };
     struct Sending;
-    // Every printer, where the print server answers, and the names of those used lately.
-    struct Listing
-    {
-        std::optional<QList<Destination>> printers;
-        QStringList recent;
-    };
 
     void build();
     void connectAll();
@@ -188,7 +182,8 @@ private:
     std::function<void()> m_whenIdle; // takes the printer that was opened while a panel waited
     platform::Awaited<PrinterOpening> m_opening;
     platform::Awaited<QString> m_usedLast; // the printer's name, for want of anything else to show
-    platform::Awaited<Listing> m_listing;
+    platform::Awaited<std::optional<QList<Destination>>> m_listing;
+    platform::Awaited<QStringList> m_recent; // names of printers
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<Submission> m_submitting;
     platform::Awaited<PrintError> m_checking;

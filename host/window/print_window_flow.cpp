@@ -40,8 +40,6 @@ namespace {
 // A print server that is near answers within this, and what it says is shown at once. Nobody notices.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
-// How long the list of printers waits to know which were used lately.
-constexpr std::chrono::milliseconds settingsFile(500);
 
 } // namespace
 
@@ -89,15 +87,16 @@ void PrintWindow::loadPrinterList()
         this,
         [&system = m_system] {
             PrintError ignored;
-            Listing listing{system.destinations(&ignored), {}};
-            const auto recent = [] { return RememberedPrinter().recent(); };
-            listing.recent = platform::callBeside(recent, settingsFile).value_or(QStringList());
-            return listing;
+            return system.destinations(&ignored);
         },
-        [this](const Listing &listing) {
-            if (listing.printers)
-                m_picker->setPrinters(*listing.printers, listing.recent);
+        [this](const std::optional<QList<Destination>> &printers) {
+            if (printers)
+                m_picker->setPrinters(*printers);
         });
+    // The settings file may be slower than the print server.
+    m_recent.start(
+        this, [] { return RememberedPrinter().recent(); },
+        [this](const QStringList &recent) { m_picker->setRecent(recent); });
 }
 
 void PrintWindow::searchNetwork()

@@ -47,6 +47,8 @@ public:
         const QStyle *style = item.widget->style();
         style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
         const bool selected = item.state & QStyle::State_Selected;
+        if (!(index.flags() & Qt::ItemIsEnabled))
+            item.palette.setCurrentColorGroup(QPalette::Disabled);
         QColor colour = item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
         const QRect area = item.rect.adjusted(sidePadding, rowPadding, -sidePadding, -rowPadding);
         const auto line = [&](int which, const QString &text) {
@@ -115,6 +117,7 @@ QWidget *PrinterBox::makePopup()
     m_searching->hide();
     column->addWidget(m_searching);
     m_search->installEventFilter(this);
+    popup->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &PrinterBox::narrow);
     connect(m_view, &QListView::clicked, this, &PrinterBox::choose);
     return popup;
@@ -156,6 +159,11 @@ void PrinterBox::hidePopup()
     QComboBox::hidePopup();
 }
 
+bool PrinterBox::isPopupShown() const
+{
+    return m_popup && m_popup->isVisible();
+}
+
 void PrinterBox::narrow(const QString &text)
 {
     m_found->setWords(text);
@@ -165,10 +173,11 @@ void PrinterBox::narrow(const QString &text)
 
 void PrinterBox::choose(const QModelIndex &index)
 {
-    if (!index.isValid())
+    if (!(index.flags() & Qt::ItemIsEnabled)) // neither has an index that is none
         return;
-    hidePopup();
-    setCurrentIndex(m_found->mapToSource(index).row());
+    const QPersistentModelIndex chosen = m_found->mapToSource(index);
+    hidePopup(); // after which rows may move
+    setCurrentIndex(chosen.row());
     Q_EMIT activated(currentIndex());
 }
 
@@ -179,6 +188,8 @@ void PrinterBox::wheelEvent(QWheelEvent *event)
 
 bool PrinterBox::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_popup && event->type() == QEvent::Hide)
+        Q_EMIT closed();
     if (watched != m_search || event->type() != QEvent::KeyPress)
         return QComboBox::eventFilter(watched, event);
     auto *key = static_cast<QKeyEvent *>(event);

@@ -29,11 +29,13 @@ public:
     QSize minimumSizeHint() const override { return {minimumWidth(), sizeHint().height()}; }
     void showPopup() override;
     void hidePopup() override;
+    bool isPopupShown() const;
     QLineEdit *searchField() const { return m_search; }
     QListView *listView() const { return m_view; }
 
 Q_SIGNALS:
     void opened();
+    void closed(); // the pop-up
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <tuple>
 
 namespace host {
 
@@ -40,7 +41,7 @@ QStringList stateParts(const Destination &printer)
 
 } // namespace
 
-void PrinterList::setPrinters(QList<Destination> printers, const QStringList &recent)
+void PrinterList::setPrinters(QList<Destination> printers)
 {
     for (const Destination &known : std::as_const(m_printers)) {
         const auto isSame = [&](const Destination &printer) {
@@ -49,20 +50,42 @@ void PrinterList::setPrinters(QList<Destination> printers, const QStringList &re
         if (known.isOnNetwork && std::none_of(printers.begin(), printers.end(), isSame))
             printers.append(known);
     }
-    const auto rank = [&](const Destination &printer) {
-        const qsizetype place = recent.indexOf(printer.name());
-        return place < 0 ? recent.size() : place;
+    beginResetModel();
+    m_awaited.clear();
+    m_printers = inOrder(std::move(printers));
+    endResetModel();
+}
+
+void PrinterList::setRecent(const QStringList &recent)
+{
+    m_recent = recent;
+    const QList<Destination> before = m_printers;
+    Q_EMIT layoutAboutToBeChanged();
+    m_printers = inOrder(std::move(m_printers));
+    const QModelIndexList places = persistentIndexList();
+    QModelIndexList moved;
+    for (const QModelIndex &place : places)
+        moved.append(index(rowOf(before.at(place.row()).name())));
+    changePersistentIndexList(places, moved);
+    Q_EMIT layoutChanged();
+}
+
+QList<Destination> PrinterList::inOrder(QList<Destination> printers) const
+{
+    const auto rank = [this](const Destination &printer) {
+        const qsizetype place = m_recent.indexOf(printer.name());
+        return place < 0 ? m_recent.size() : place;
     };
     std::stable_sort(printers.begin(), printers.end(),
                      [&](const Destination &a, const Destination &b) { return rank(a) < rank(b); });
-    beginResetModel();
-    m_printers = std::move(printers);
-    endResetModel();
+    return printers;
 }
 
 int PrinterList::put(const Destination &printer)
 {
     int row = rowOf(printer.name());
+    if (isAwaited(printer.name()))
+        m_awaited.clear();
     if (row >= 0) {
         m_printers[row] = printer;
         Q_EMIT dataChanged(index(row), index(row));
@@ -78,7 +101,7 @@ int PrinterList::put(const Destination &printer)
 void PrinterList::putFound(const Destination &printer)
 {
     const bool isKnown = std::any_of(m_printers.begin(), m_printers.end(), [&](const Destination &known) {
-        return known.queue == printer.queue || known.isSameDevice(printer);
+        return (known.queue == printer.queue && !isAwaited(known.name())) || known.isSameDevice(printer);
     });
     if (!isKnown)
         put(printer);
@@ -89,9 +112,24 @@ void PrinterList::remove(const QString &name)
     const int row = rowOf(name);
     if (row < 0)
         return;
+    if (isAwaited(name))
+        m_awaited.clear();
     beginRemoveRows({}, row, row);
     m_printers.removeAt(row);
     endRemoveRows();
+}
+
+int PrinterList::putAwaited(const QString &name)
+{
+    if (const int row = rowOf(name); row >= 0)
+        return row;
+    Destination awaited;
+    std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
+    m_awaited.clear();
+    const int row = put(awaited);
+    m_awaited = name;
+    Q_EMIT dataChanged(index(row), index(row));
+    return row;
 }
 
 int PrinterList::rowOf(const QString &name) const
@@ -104,6 +142,14 @@ int PrinterList::rowOf(const QString &name) const
 int PrinterList::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_printers.size());
+}
+
+Qt::ItemFlags PrinterList::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+    return index.isValid() && isAwaited(at(index.row()).name())
+               ? usual & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable)
+               : usual;
 }
 
 QVariant PrinterList::data(const QModelIndex &index, int role) const

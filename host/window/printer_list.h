@@ -23,22 +23,32 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    // Replaces everything but what was found in the network. `recent` are destination names, the latest
-    // first.
-    void setPrinters(QList<Destination> printers, const QStringList &recent);
+    // Replaces everything but what was found in the network.
+    void setPrinters(QList<Destination> printers);
+    // The destination names of those used lately, the latest first.
+    void setRecent(const QStringList &recent);
     // Adds a printer, or brings the one of this name up to what it is now. Its row.
     int put(const Destination &printer);
     // Adds a printer that was found in the network, unless it has a queue.
     void putFound(const Destination &printer);
     void remove(const QString &name);
+    // A row for a printer that somebody has asked for and nobody has told of, unless it is there; one at a
+    // time. It cannot be chosen before put(), putFound() or setPrinters() bring the printer. Its row.
+    int putAwaited(const QString &name);
+    bool isAwaited(const QString &name) const { return !name.isEmpty() && name == m_awaited; }
     int rowOf(const QString &name) const; // -1 when there is none
     Destination at(int row) const { return m_printers.value(row); }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
+    QList<Destination> inOrder(QList<Destination> printers) const;
+
     QList<Destination> m_printers;
+    QStringList m_recent;
+    QString m_awaited; // the destination name of that row
 };
 
 // How a printer is and where it stands, in words: "Ready · Room 655".

@@ -11,7 +11,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include <tuple>
+#include <utility>
 
 namespace host {
 
@@ -43,27 +43,44 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     grid->addWidget(m_state, 1, 1, 1, 3);
     grid->setColumnStretch(2, 1);
     connect(m_box, &PrinterBox::opened, this, &PrinterPicker::opened);
+    connect(m_box, &PrinterBox::closed, this, &PrinterPicker::orderRecent);
     connect(m_box, &QComboBox::activated, this,
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
 }
 
-void PrinterPicker::setPrinters(const QList<Destination> &printers, const QStringList &recent)
+void PrinterPicker::setPrinters(const QList<Destination> &printers)
 {
     if (m_isFixed)
         return;
     const Destination chosen = m_list->at(m_list->rowOf(m_current));
-    m_list->setPrinters(printers, recent);
+    const bool isAwaited = m_list->isAwaited(m_current);
+    m_list->setPrinters(printers);
     m_standIn.clear();
     if (m_list->rowOf(m_current) < 0) { // where a preset is gone, its printer may be there
         const QString queue = m_current.section(QLatin1Char('/'), 0, 0);
         if (m_list->rowOf(queue) >= 0) {
             m_current = queue;
         } else if (!chosen.queue.isEmpty()) {
-            m_list->put(chosen.withoutState()); // the server says nothing of it
+            isAwaited ? m_list->putAwaited(m_current)
+                      : m_list->put(chosen.withoutState()); // the server says nothing of it
             m_standIn = m_current;
         }
     }
     showRow(m_list->rowOf(m_current));
+}
+
+void PrinterPicker::setRecent(const QStringList &recent)
+{
+    m_recent = recent;
+    if (!m_box->isPopupShown())
+        orderRecent();
+}
+
+void PrinterPicker::orderRecent()
+{
+    if (m_recent && !m_isFixed)
+        m_list->setRecent(*m_recent);
+    m_recent.reset();
 }
 
 void PrinterPicker::showRow(int row)
@@ -97,8 +114,11 @@ void PrinterPicker::putPrinter(const Destination &news)
 
 void PrinterPicker::putFound(const Destination &printer)
 {
-    if (!m_isFixed)
-        m_list->putFound(printer);
+    if (m_isFixed)
+        return;
+    if (printer.name() == m_standIn)
+        m_standIn.clear();
+    m_list->putFound(printer);
 }
 
 void PrinterPicker::setSearching(bool searching)
@@ -117,12 +137,7 @@ void PrinterPicker::setAwaited(const QString &name)
 {
     m_current = name;
     const bool isUnknown = m_list->rowOf(name) < 0;
-    if (isUnknown) {
-        Destination awaited;
-        std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
-        m_list->put(awaited);
-    }
-    showRow(m_list->rowOf(name));
+    showRow(m_list->putAwaited(name));
     dropStandIn();
     if (isUnknown)
         m_standIn = name;
@@ -140,7 +155,7 @@ void PrinterPicker::setFixedText(const QString &text)
     Destination fixed;
     fixed.info = text;
     m_isFixed = true;
-    m_list->setPrinters({fixed}, {});
+    m_list->setPrinters({fixed});
     m_box->setCurrentIndex(0);
     m_box->setEnabled(false);
     m_state->showText(tr("Options of a PPD file; there is no printer to print on"));

@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <optional>
+
 class QComboBox;
 
 namespace host {
@@ -26,8 +28,11 @@ public:
     explicit PrinterPicker(QWidget *parent = nullptr);
 
     // All that the print server has; the chosen one stays in the list where it lacks it, and where it lacks
-    // only the chosen preset, its printer is shown. `recent` are destination names, the latest first.
-    void setPrinters(const QList<Destination> &printers, const QStringList &recent);
+    // only the chosen preset, its printer is shown.
+    void setPrinters(const QList<Destination> &printers);
+    // The destination names of those used lately, the latest first. They come first once nobody looks at the
+    // list.
+    void setRecent(const QStringList &recent);
     // One more printer, or news of one that is there.
     void putPrinter(const Destination &news);
     // A printer that was found in the network.
@@ -36,7 +41,8 @@ public:
     void setSearching(bool searching);
     // Shows a printer without announcing it; adds it where the list lacks it.
     void setCurrent(const Destination &printer);
-    // The destination name of a printer that has been asked for; shows what is known of it.
+    // The destination name of a printer that has been asked for; shows what is known of it. Where the list
+    // lacks it, it cannot be picked before it is there, and leaves when another one is shown.
     void setAwaited(const QString &name);
     // Nothing is chosen and nothing can be from now on, as for a PPD without a queue; `text` stands in the
     // place.
@@ -55,13 +61,15 @@ Q_SIGNALS:
 
 private:
     void showRow(int row);
+    void orderRecent();
     void describe(const Destination &printer);
     void dropStandIn();
 
     PrinterList *m_list;
     PrinterBox *m_box;
     ElidedLabel *m_state;
-    QString m_current; // destination name
+    QString m_current;                   // destination name
+    std::optional<QStringList> m_recent; // until the list is in their order
     QString m_standIn; // the row of a printer that the list lacks, there while it is the chosen one
     bool m_isFixed = false;
 };
