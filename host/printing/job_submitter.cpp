@@ -308,8 +308,9 @@ Submission JobSubmitter::unknown(const PrintError &why) const
 Submission JobSubmitter::leftOver(const PrintError &why) const
 {
     Submission result{Submission::Outcome::Unknown, {m_id, {}, {}}, why};
-    const QString job = m_id > 0 ? SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id)
-                                 : SubmitText::tr("An unfinished job may have been left there.");
+    const QString job = m_id > 0
+                            ? SubmitText::tr("The unfinished job %1 could not be canceled.").arg(m_id)
+                            : SubmitText::tr("An unfinished job may have been left at the print server.");
     result.error.message += QLatin1Char(' ') + job + QLatin1Char(' ') +
                             SubmitText::tr("Look at the queue before printing again.");
     return result;

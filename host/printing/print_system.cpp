@@ -288,13 +288,14 @@ void CupsPrintSystem::addPrinterState(ServerConnection *server, const Destinatio
                                       JobStatus *status)
 {
     const auto add = [&] {
-        status->printerStopped |= m_waiting.isStopped;
+        const Waiting &waiting = m_waiting[jobId];
+        status->printerStopped |= waiting.isStopped;
         if (status->message.isEmpty())
-            status->message = m_waiting.message;
+            status->message = waiting.message;
     };
     {
         const std::lock_guard lock(m_waitingMutex);
-        if (m_waiting.job == jobId && ++m_waiting.looks < looksPerPrinter)
+        if (m_waiting.contains(jobId) && ++m_waiting[jobId].looks < looksPerPrinter)
             return add();
     }
     PrintError ignored;
@@ -303,7 +304,7 @@ void CupsPrintSystem::addPrinterState(ServerConnection *server, const Destinatio
     if (!queue)
         return;
     const std::lock_guard lock(m_waitingMutex);
-    m_waiting = {jobId, 0, queue->stopped, reasonText(queue->stateReasons, queue->stateMessage)};
+    m_waiting[jobId] = {0, queue->stopped, reasonText(queue->stateReasons, queue->stateMessage)};
     add();
 }
 
@@ -326,7 +327,8 @@ std::optional<Destination> CupsPrintSystem::withState(const Destination &destina
     Visit visit(this, Visit::Cause::Clock);
     ServerConnection server(visit.login());
     PrintError ignored;
-    const auto queue = queryQueue(&server, uriOf(destination), destination.displayName(), &ignored);
+    const auto queue =
+        queryQueue(&server, uriOf(destination), destination.displayName(), &ignored, QueueQuestion::State);
     if (!queue)
         return std::nullopt;
     Destination now = destination;

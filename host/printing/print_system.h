@@ -10,6 +10,7 @@
 #include "host/printing/server_connection.h"
 
 #include <QList>
+#include <QMap>
 
 #include <memory>
 #include <mutex>
@@ -83,13 +84,13 @@ private:
     bool m_wasRefused = false; // and they have done nothing since
     std::mutex m_promptMutex;  // held while somebody is asked
     std::mutex m_waitingMutex; // guards what follows
-    struct
+    struct Waiting
     {
-        int job = 0;
         int looks = 0; // since its printer was asked
         bool isStopped = false;
         QString message;
-    } m_waiting; // the job that was looked at last
+    };
+    QMap<int, Waiting> m_waiting; // by job
     NetworkPrinters m_network;
 };
 

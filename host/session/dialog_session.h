@@ -136,7 +136,7 @@ private:
     QSet<QString> m_savedKeywords;
     QString m_lastUserKeyword;
     bool m_settleQueued = false;
-    SessionPanels m_panels; // go first
+    SessionPanels m_panels;
     PanelChanges m_changes;
 };
 

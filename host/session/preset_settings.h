@@ -22,7 +22,8 @@ bool hasSecrets(const DialogSession &session);
 
 // How a dialog would find everything that opened the queue with these options. `queueOptions` are those of
 // the queue itself, `preset` the user's, which count as chosen. What the printer does not take becomes a
-// notice that names it; the pages to print, and what panels hold beside options, stay. Changes nothing.
+// notice that names it; the pages to print, and what panels hold beside options, stay. The marks are tried
+// out on the PPD and put back, save for options that had none.
 SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                              const QMap<QString, QString> &preset, QStringList *notices);
 // Sets everything so.

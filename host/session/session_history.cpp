@@ -66,6 +66,13 @@ public:
         if (std::exchange(m_isMade, true))
             m_history->go(m_before, m_after, m_changesBase ? m_baseAfter : m_history->m_base);
     }
+    void renameInstance(const QString &from, const QString &to)
+    {
+        for (SessionState *state : {&m_before, &m_after, &m_baseBefore.state, &m_baseAfter.state}) {
+            if (state->instance == from)
+                state->instance = to;
+        }
+    }
     void setFollows(bool follows) { m_follows = follows; }
 
 private:
@@ -160,6 +167,22 @@ void SessionHistory::renameBase(const QString &from, const QString &to)
 void SessionHistory::replaceBase(const QString &name, const Base &base)
 {
     changeBases(name, [&](Base *replaced) { *replaced = base; });
+}
+
+void SessionHistory::renameInstance(const QString &from, const QString &to)
+{
+    for (int i = 0; i < m_steps.count(); ++i)
+        const_cast<Step *>(static_cast<const Step *>(m_steps.command(i)))->renameInstance(from, to);
+    if (m_base.state.instance == from)
+        m_base.state.instance = to;
+    if (m_session->destination().instance != from)
+        return;
+    const QScopedValueRollback<bool> going(m_isGoing, true);
+    const SessionState now = StateKeeper::stateOf(*m_session);
+    SessionState wanted = now;
+    wanted.instance = to;
+    StateKeeper(m_session).bring(now, wanted);
+    absorb();
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)

@@ -50,6 +50,9 @@ public:
     void renameBase(const QString &from, const QString &to);
     // A base is no more: another takes its place, wherever steps lead to it.
     void replaceBase(const QString &name, const Base &base);
+    // The preset that the session's destination may be has another name now, or none: nothing leads back to
+    // the old.
+    void renameInstance(const QString &from, const QString &to);
     // What panels held beside options before anything was changed.
     const QVariantMap &startingPanelValues() const { return m_startingPanelValues; }
     // How it stood at the last look.

@@ -111,7 +111,7 @@ void SettingIndex::addControl(const FoundSetting &control, const QString &more)
         entry.name += QLatin1Char(' ') + name;
         entry.rest += QLatin1Char(' ') + searchable(more);
     }
-    if (isKnown)
+    if (isKnown || !m_titles.contains(control.page))
         return;
     add(control);
     m_entries.last().rest += QLatin1Char(' ') + searchable(more);

@@ -1365,8 +1365,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Ein Teil wurde möglicherweise gedruckt.</translation>
     </message>
     <message>
-        <source>An unfinished job may have been left there.</source>
-        <translation>Dort kann ein unfertiger Auftrag zurückgeblieben sein.</translation>
+        <source>An unfinished job may have been left at the print server.</source>
+        <translation>Auf dem Druckserver kann ein unfertiger Auftrag zurückgeblieben sein.</translation>
     </message>
     <message>
         <source>Look at the queue before printing again.</source>

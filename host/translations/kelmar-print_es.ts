@@ -1365,8 +1365,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Es posible que se haya impreso una parte.</translation>
     </message>
     <message>
-        <source>An unfinished job may have been left there.</source>
-        <translation>Puede que allí haya quedado un trabajo sin terminar.</translation>
+        <source>An unfinished job may have been left at the print server.</source>
+        <translation>Puede que haya quedado un trabajo sin terminar en el servidor de impresión.</translation>
     </message>
     <message>
         <source>Look at the queue before printing again.</source>

@@ -1365,8 +1365,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Une partie a peut-être été imprimée.</translation>
     </message>
     <message>
-        <source>An unfinished job may have been left there.</source>
-        <translation>Une tâche inachevée peut y être restée.</translation>
+        <source>An unfinished job may have been left at the print server.</source>
+        <translation>Une tâche inachevée peut être restée sur le serveur d’impression.</translation>
     </message>
     <message>
         <source>Look at the queue before printing again.</source>

@@ -1365,8 +1365,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Una parte potrebbe essere stata stampata.</translation>
     </message>
     <message>
-        <source>An unfinished job may have been left there.</source>
-        <translation>Lì può essere rimasto un lavoro incompleto.</translation>
+        <source>An unfinished job may have been left at the print server.</source>
+        <translation>Un lavoro incompleto può essere rimasto sul server di stampa.</translation>
     </message>
     <message>
         <source>Look at the queue before printing again.</source>

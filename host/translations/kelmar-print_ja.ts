@@ -1365,8 +1365,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>一部が印刷された可能性があります。</translation>
     </message>
     <message>
-        <source>An unfinished job may have been left there.</source>
-        <translation>未完了のジョブがサーバーに残っている可能性があります。</translation>
+        <source>An unfinished job may have been left at the print server.</source>
+        <translation>未完了のジョブがプリントサーバーに残っている可能性があります。</translation>
     </message>
     <message>
         <source>Look at the queue before printing again.</source>

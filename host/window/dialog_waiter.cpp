@@ -202,7 +202,9 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
         auto *widget = static_cast<QWidget *>(watched);
         if (widget->window() != m_dialog)
             return false;
-        m_left.append({widget, static_cast<QFocusEvent *>(event)->reason()});
+        if (std::none_of(m_left.begin(), m_left.end(),
+                         [&](const auto &left) { return left.widget == widget; }))
+            m_left.append({widget, static_cast<QFocusEvent *>(event)->reason()});
         widget->update();
         return true;
     }

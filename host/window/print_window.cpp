@@ -90,6 +90,7 @@ PrintWindow::~PrintWindow()
 // Of the session, whose panels own views in the pages, before it goes.
 void PrintWindow::letGo()
 {
+    m_stateQuestion.drop();
     m_book->clear();
     m_settings->setSession(nullptr);
 }
@@ -112,10 +113,14 @@ void PrintWindow::connectAll()
     connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
     connect(m_settings, &SettingsControl::applied, this, [this] {
+        showDestination();
         sessionChanged();
         showConflicts();
     });
-    connect(m_settings, &SettingsControl::presetsChanged, this, &PrintWindow::loadPrinterList);
+    connect(m_settings, &SettingsControl::presetsChanged, this, [this] {
+        showDestination();
+        loadPrinterList();
+    });
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
     connect(m_finder, &Finder::partsChanged, this, &PrintWindow::arrange);
@@ -188,17 +193,21 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
     connect(m_session.get(), &DialogSession::blockingBegan, this, &PrintWindow::showBusy);
     connect(m_session.get(), &DialogSession::blockingEnded, this, &PrintWindow::showIdle);
-    const bool hasQueue = !m_session->destination().queue.isEmpty();
-    if (hasQueue)
-        m_picker->setCurrent(m_session->destination());
-    else
-        m_picker->setFixedText(m_session->destination().displayName());
+    showDestination();
     showSession();
     showState(State::Choosing);
     if (focusWidget() == m_cancel) // where it went while there was nothing else
         m_book->list()->setFocus(Qt::OtherFocusReason);
     allowPrinting();
     showNotices();
+}
+
+void PrintWindow::showDestination()
+{
+    if (m_session->destination().queue.isEmpty())
+        m_picker->setFixedText(m_session->destination().displayName());
+    else
+        m_picker->setCurrent(m_session->destination());
 }
 
 void PrintWindow::allowPrinting()

@@ -118,6 +118,7 @@ private:
     std::unique_ptr<DialogSession> makeSession(OpenedPrinter opened);
     void adopt(std::unique_ptr<DialogSession> session);
     void letGo();
+    void showDestination();
     void allowPrinting();
     bool showProtectionGap();
     void pickPrinter(const QString &name);

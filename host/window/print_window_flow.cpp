@@ -112,6 +112,10 @@ void PrintWindow::searchNetwork()
 
 void PrintWindow::askState()
 {
+    if (m_state == State::Done && (!submission() || submission()->job.status.isFinal())) {
+        m_stateTimer.stop();
+        return;
+    }
     if (!m_session || m_session->destination().queue.isEmpty() || m_stateQuestion.isPending())
         return;
     m_stateQuestion.start(

@@ -129,6 +129,8 @@ void PrinterPicker::setSearching(bool searching)
 void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
+    if (m_list->isAwaited(m_current)) // it is there after all
+        m_standIn.clear();
     showRow(m_list->put(printer));
     dropStandIn();
 }

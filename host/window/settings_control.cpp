@@ -344,13 +344,7 @@ void SettingsControl::leaveInstance(const QString &name, const QString &another)
 {
     if (m_startInstance == name)
         m_startInstance = another;
-    if (m_session->destination().instance != name)
-        return;
-    const SessionState now = StateKeeper::stateOf(*m_session);
-    SessionState wanted = now;
-    wanted.instance = another;
-    StateKeeper(m_session).bring(now, wanted);
-    m_history->absorb();
+    m_history->renameInstance(name, another);
 }
 
 void SettingsControl::save(const QString &name, bool withSecrets)
