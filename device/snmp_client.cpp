@@ -53,8 +53,6 @@ std::shared_ptr<SnmpSession> openedSession(const SnmpCalls &calls, const QString
     return std::make_shared<SnmpSession>(calls, calls.tap_snmp_sess_open(&session));
 }
 
-constexpr std::chrono::seconds startTime(5);
-
 struct Request
 {
     std::shared_ptr<SnmpSession> session;
@@ -123,8 +121,7 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
     // It reads files that the environment names, which need not answer.
-    const auto isReady =
-        platform::callBeside([&library] { return library.initialize("KelmarPDE"); }, startTime);
+    const auto isReady = platform::callBeside([&library] { return library.initialize("KelmarPDE"); });
     if (!isReady)
         return fail(QVSNMPCannotConnect);
     if (!*isReady)
