@@ -82,6 +82,8 @@ void ChangesTest::init()
 QStringList ChangesTest::menuTexts()
 {
     Q_EMIT presets()->menu()->aboutToShow();
+    settle(); // the files may take longer than the menu waits for them
+    Q_EMIT presets()->menu()->aboutToShow();
     QStringList texts;
     for (const QAction *action : presets()->menu()->actions())
         texts.append(action->text().remove(u'&'));
