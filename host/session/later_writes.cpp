@@ -3,6 +3,7 @@
 
 #include "host/session/later_writes.h"
 
+#include "host/printing/destination.h"
 #include "platform/background.h"
 
 #include <condition_variable>
@@ -46,6 +47,15 @@ void writeLater(std::function<void()> write)
             writes().ended.notify_all();
         },
         nullptr, {});
+}
+
+void rememberUseLater(const QString &printer, const std::function<void()> &settings)
+{
+    writeLater([printer, settings] {
+        RememberedPrinter().setName(printer);
+        if (settings)
+            settings();
+    });
 }
 
 void finishWrites(std::chrono::milliseconds limit)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QString>
+
 #include <chrono>
 #include <functional>
 
@@ -13,6 +15,8 @@ namespace host {
 
 // Runs `write` beside this thread. It owns what it touches and must not throw.
 void writeLater(std::function<void()> write);
+// Writes that this printer has been used, and whatever else of its settings is kept then; none when empty.
+void rememberUseLater(const QString &printer, const std::function<void()> &settings);
 // For the end of the program: returns when all of it is written, or after `limit`.
 void finishWrites(std::chrono::milliseconds limit);
 
