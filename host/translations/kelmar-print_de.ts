@@ -470,6 +470,74 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Sends the same documents once more with the same settings.</source>
         <translation>Sendet dieselben Dokumente noch einmal mit denselben Einstellungen.</translation>
     </message>
+    <message>
+        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
+        <translation>Unter diesem Namen werden die Einstellungen aufbewahrt. Auch andere Programme bieten sie so an.</translation>
+    </message>
+    <message>
+        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
+        <translation>Bewahrt auf, wonach sonst jedes Mal gefragt wird. Nicht verwenden, wo andere diesen Computer benutzen.</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
+        <translation>Bewahrt die Einstellungen aller Seiten unter dem Namen auf. Die einer Vorgabe, die schon so heißt, werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>Gives the preset this name, also in other programs.</source>
+        <translation>Gibt der Vorgabe diesen Namen, auch in anderen Programmen.</translation>
+    </message>
+    <message>
+        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
+        <translation>Entfernt die Vorgabe, auch aus anderen Programmen. Was in diesem Dialog eingestellt ist, bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Closes this question. The presets stay as they are.</source>
+        <translation>Schließt diese Frage. Die Vorgaben bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
+        <translation>Der Name, unter dem der Druckserver Sie kennt. Es kann ein anderer sein als auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>The password that belongs to the user name on the print server.</source>
+        <translation>Das Passwort, das auf dem Druckserver zu dem Benutzernamen gehört.</translation>
+    </message>
+    <message>
+        <source>Tells the print server who you are.</source>
+        <translation>Teilt dem Druckserver mit, wer Sie sind.</translation>
+    </message>
+    <message>
+        <source>Goes on without. The print server may refuse what it asked the password for.</source>
+        <translation>Macht ohne weiter. Der Druckserver kann ablehnen, wofür er nach dem Passwort gefragt hat.</translation>
+    </message>
+    <message>
+        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
+        <translation>Lässt weg, was so ist, wie der Drucker oder die Vorgabe es hat, und nennt, was der Rest vorher war.</translation>
+    </message>
+    <message>
+        <source>What this printer offers beside the other pages, in the words of its maker.</source>
+        <translation>Was dieser Drucker neben den anderen Seiten anbietet, in den Worten seines Herstellers.</translation>
+    </message>
+    <message>
+        <source>Stops what is under way. Nothing that you have set is lost.</source>
+        <translation>Beendet, was gerade läuft. Nichts, was Sie eingestellt haben, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Asks the printer or the print server anew.</source>
+        <translation>Fragt den Drucker oder den Druckserver noch einmal.</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings.</source>
+        <translation>Kehrt zu den Einstellungen zurück.</translation>
+    </message>
+    <message>
+        <source>Looks for a setting on all pages by its name.</source>
+        <translation>Sucht auf allen Seiten eine Einstellung nach ihrem Namen.</translation>
+    </message>
+    <message>
+        <source>Shows what the settings of this page are for.</source>
+        <translation>Zeigt, wozu die Einstellungen dieser Seite da sind.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1295,6 +1363,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Some of it may have been printed.</source>
         <translation>Ein Teil wurde möglicherweise gedruckt.</translation>
+    </message>
+    <message>
+        <source>An unfinished job may have been left there.</source>
+        <translation>Dort kann ein unfertiger Auftrag zurückgeblieben sein.</translation>
+    </message>
+    <message>
+        <source>Look at the queue before printing again.</source>
+        <translation>Sehen Sie in der Warteschlange nach, bevor Sie erneut drucken.</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2297,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Sent before:</source>
         <translation>Vorher gesendet:</translation>
     </message>
+    <message>
+        <source>Pages printed: %1</source>
+        <translation>Gedruckte Seiten: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2250,6 +2330,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
             <numerusform>%n Einstellung gefunden</numerusform>
             <numerusform>%n Einstellungen gefunden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Takes the search away. The settings stay as they are.</source>
+        <translation>Schließt die Suche. Die Einstellungen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>What has been found, with its page first. Return leads to the setting.</source>
+        <translation>Was gefunden wurde, mit der Seite voran. Die Eingabetaste führt zur Einstellung.</translation>
     </message>
 </context>
 <context>

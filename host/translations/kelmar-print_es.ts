@@ -470,6 +470,74 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Sends the same documents once more with the same settings.</source>
         <translation>Envía otra vez los mismos documentos con los mismos ajustes.</translation>
     </message>
+    <message>
+        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
+        <translation>El nombre con el que se guardan los ajustes. Otros programas también los ofrecen con este nombre.</translation>
+    </message>
+    <message>
+        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
+        <translation>Guarda lo que de otro modo se pide cada vez. No conviene donde otras personas usan este equipo.</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
+        <translation>Guarda con el nombre los ajustes de todas las páginas. Los de un preajuste que ya lo tiene se sustituyen.</translation>
+    </message>
+    <message>
+        <source>Gives the preset this name, also in other programs.</source>
+        <translation>Da este nombre al preajuste, también en otros programas.</translation>
+    </message>
+    <message>
+        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
+        <translation>Quita el preajuste, también de otros programas. Lo ajustado en este diálogo queda como está.</translation>
+    </message>
+    <message>
+        <source>Closes this question. The presets stay as they are.</source>
+        <translation>Cierra esta pregunta. Los preajustes quedan como están.</translation>
+    </message>
+    <message>
+        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
+        <translation>El nombre con el que el servidor de impresión le conoce. Puede ser distinto del de este equipo.</translation>
+    </message>
+    <message>
+        <source>The password that belongs to the user name on the print server.</source>
+        <translation>La contraseña que corresponde al nombre de usuario en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Tells the print server who you are.</source>
+        <translation>Indica al servidor de impresión quién es usted.</translation>
+    </message>
+    <message>
+        <source>Goes on without. The print server may refuse what it asked the password for.</source>
+        <translation>Continúa sin ella. El servidor de impresión puede rechazar aquello para lo que pidió la contraseña.</translation>
+    </message>
+    <message>
+        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
+        <translation>Omite lo que está como en la impresora o en el preajuste, e indica cómo era antes lo demás.</translation>
+    </message>
+    <message>
+        <source>What this printer offers beside the other pages, in the words of its maker.</source>
+        <translation>Lo que esta impresora ofrece además de las otras páginas, en palabras de su fabricante.</translation>
+    </message>
+    <message>
+        <source>Stops what is under way. Nothing that you have set is lost.</source>
+        <translation>Detiene lo que está en curso. No se pierde nada de lo que ha ajustado.</translation>
+    </message>
+    <message>
+        <source>Asks the printer or the print server anew.</source>
+        <translation>Vuelve a preguntar a la impresora o al servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings.</source>
+        <translation>Vuelve a los ajustes.</translation>
+    </message>
+    <message>
+        <source>Looks for a setting on all pages by its name.</source>
+        <translation>Busca un ajuste por su nombre en todas las páginas.</translation>
+    </message>
+    <message>
+        <source>Shows what the settings of this page are for.</source>
+        <translation>Muestra para qué sirven los ajustes de esta página.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1295,6 +1363,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Some of it may have been printed.</source>
         <translation>Es posible que se haya impreso una parte.</translation>
+    </message>
+    <message>
+        <source>An unfinished job may have been left there.</source>
+        <translation>Puede que allí haya quedado un trabajo sin terminar.</translation>
+    </message>
+    <message>
+        <source>Look at the queue before printing again.</source>
+        <translation>Mire la cola antes de volver a imprimir.</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2297,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Sent before:</source>
         <translation>Enviados antes:</translation>
     </message>
+    <message>
+        <source>Pages printed: %1</source>
+        <translation>Páginas impresas: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2250,6 +2330,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
             <numerusform>%n ajuste encontrado</numerusform>
             <numerusform>%n ajustes encontrados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Takes the search away. The settings stay as they are.</source>
+        <translation>Cierra la búsqueda. Los ajustes quedan como están.</translation>
+    </message>
+    <message>
+        <source>What has been found, with its page first. Return leads to the setting.</source>
+        <translation>Lo que se ha encontrado, con la página delante. Intro lleva al ajuste.</translation>
     </message>
 </context>
 <context>

@@ -396,7 +396,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>Si les pages sont imprimées en portrait ou en paysage. « Comme dans le document » laisse ce choix au document.</translation>
+        <translation>Si les pages sont imprimées en portrait ou en paysage. «&#xa0;Comme dans le document&#xa0;» laisse ce choix au document.</translation>
     </message>
     <message>
         <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
@@ -404,7 +404,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
-        <translation>N’imprime qu’une page sur deux, par exemple pour imprimer les deux faces à la main : d’abord les pages impaires, puis les paires.</translation>
+        <translation>N’imprime qu’une page sur deux, par exemple pour imprimer les deux faces à la main&#xa0;: d’abord les pages impaires, puis les paires.</translation>
     </message>
     <message>
         <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
@@ -470,6 +470,74 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Sends the same documents once more with the same settings.</source>
         <translation>Envoie encore une fois les mêmes documents avec les mêmes réglages.</translation>
     </message>
+    <message>
+        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
+        <translation>Le nom sous lequel les réglages sont conservés. D’autres programmes les proposent aussi sous ce nom.</translation>
+    </message>
+    <message>
+        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
+        <translation>Conserve ce qui est sinon demandé chaque fois. À éviter là où d’autres utilisent cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
+        <translation>Conserve sous ce nom les réglages de toutes les pages. Ceux d’un préréglage qui porte déjà ce nom sont remplacés.</translation>
+    </message>
+    <message>
+        <source>Gives the preset this name, also in other programs.</source>
+        <translation>Donne ce nom au préréglage, aussi dans les autres programmes.</translation>
+    </message>
+    <message>
+        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
+        <translation>Retire le préréglage, aussi des autres programmes. Ce qui est réglé dans ce dialogue reste tel quel.</translation>
+    </message>
+    <message>
+        <source>Closes this question. The presets stay as they are.</source>
+        <translation>Ferme cette question. Les préréglages restent tels quels.</translation>
+    </message>
+    <message>
+        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
+        <translation>Le nom sous lequel le serveur d’impression vous connaît. Il peut différer de celui de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>The password that belongs to the user name on the print server.</source>
+        <translation>Le mot de passe qui va avec ce nom d’utilisateur sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Tells the print server who you are.</source>
+        <translation>Indique au serveur d’impression qui vous êtes.</translation>
+    </message>
+    <message>
+        <source>Goes on without. The print server may refuse what it asked the password for.</source>
+        <translation>Continue sans. Le serveur d’impression peut refuser ce pour quoi il a demandé le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
+        <translation>Omet ce qui est tel que l’imprimante ou le préréglage le prévoit, et indique ce que le reste était avant.</translation>
+    </message>
+    <message>
+        <source>What this printer offers beside the other pages, in the words of its maker.</source>
+        <translation>Ce que cette imprimante propose en plus des autres pages, dans les termes de son fabricant.</translation>
+    </message>
+    <message>
+        <source>Stops what is under way. Nothing that you have set is lost.</source>
+        <translation>Arrête ce qui est en cours. Rien de ce que vous avez réglé n’est perdu.</translation>
+    </message>
+    <message>
+        <source>Asks the printer or the print server anew.</source>
+        <translation>Interroge de nouveau l’imprimante ou le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings.</source>
+        <translation>Revient aux réglages.</translation>
+    </message>
+    <message>
+        <source>Looks for a setting on all pages by its name.</source>
+        <translation>Recherche un réglage par son nom dans toutes les pages.</translation>
+    </message>
+    <message>
+        <source>Shows what the settings of this page are for.</source>
+        <translation>Montre à quoi servent les réglages de cette page.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -518,7 +586,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
-        <translation>le serveur d’impression ne la connaît plus. Elle a peut-être été imprimée ; regardez à l’imprimante.</translation>
+        <translation>le serveur d’impression ne la connaît plus. Elle a peut-être été imprimée&#xa0;; regardez à l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1364,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Some of it may have been printed.</source>
         <translation>Une partie a peut-être été imprimée.</translation>
     </message>
+    <message>
+        <source>An unfinished job may have been left there.</source>
+        <translation>Une tâche inachevée peut y être restée.</translation>
+    </message>
+    <message>
+        <source>Look at the queue before printing again.</source>
+        <translation>Regardez la file d’attente avant d’imprimer de nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>SummaryText</name>
@@ -1491,11 +1567,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <name>host::EarlierJobs</name>
     <message>
         <source>Job %1: %2</source>
-        <translation>Tâche %1 : %2</translation>
+        <translation>Tâche %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Jobs %1: %2</source>
-        <translation>Tâches %1 : %2</translation>
+        <translation>Tâches %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2105,11 +2181,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <name>host::RangeCheck</name>
     <message>
         <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>Le document le plus long, « %1 », n’a que %2 faces imprimées.</translation>
+        <translation>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %2 faces imprimées.</translation>
     </message>
     <message>
         <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>Le document le plus long, « %1 », n’a que %2 pages.</translation>
+        <translation>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %2 pages.</translation>
     </message>
     <message>
         <source>There are only %1 printed sides.</source>
@@ -2219,7 +2295,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Sent before:</source>
-        <translation>Envoyées avant :</translation>
+        <translation>Envoyées avant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pages printed: %1</source>
+        <translation>Pages imprimées : %1</translation>
     </message>
 </context>
 <context>
@@ -2250,6 +2330,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
             <numerusform>%n réglage trouvé</numerusform>
             <numerusform>%n réglages trouvés</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Takes the search away. The settings stay as they are.</source>
+        <translation>Ferme la recherche. Les réglages restent tels quels.</translation>
+    </message>
+    <message>
+        <source>What has been found, with its page first. Return leads to the setting.</source>
+        <translation>Ce qui a été trouvé, la page en premier. La touche Entrée mène au réglage.</translation>
     </message>
 </context>
 <context>

@@ -470,6 +470,74 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Sends the same documents once more with the same settings.</source>
         <translation>Invia ancora una volta gli stessi documenti con le stesse impostazioni.</translation>
     </message>
+    <message>
+        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
+        <translation>Il nome con cui le impostazioni sono conservate. Anche altri programmi le offrono con questo nome.</translation>
+    </message>
+    <message>
+        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
+        <translation>Conserva ciò che altrimenti viene chiesto ogni volta. Da evitare dove altri usano questo computer.</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
+        <translation>Conserva con il nome le impostazioni di tutte le pagine. Quelle di una preimpostazione che lo ha già vengono sostituite.</translation>
+    </message>
+    <message>
+        <source>Gives the preset this name, also in other programs.</source>
+        <translation>Dà questo nome alla preimpostazione, anche negli altri programmi.</translation>
+    </message>
+    <message>
+        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
+        <translation>Elimina la preimpostazione, anche dagli altri programmi. Ciò che è impostato in questa finestra resta com’è.</translation>
+    </message>
+    <message>
+        <source>Closes this question. The presets stay as they are.</source>
+        <translation>Chiude questa domanda. Le preimpostazioni restano come sono.</translation>
+    </message>
+    <message>
+        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
+        <translation>Il nome con cui il server di stampa la conosce. Può essere diverso da quello su questo computer.</translation>
+    </message>
+    <message>
+        <source>The password that belongs to the user name on the print server.</source>
+        <translation>La password che corrisponde al nome utente sul server di stampa.</translation>
+    </message>
+    <message>
+        <source>Tells the print server who you are.</source>
+        <translation>Comunica al server di stampa chi è lei.</translation>
+    </message>
+    <message>
+        <source>Goes on without. The print server may refuse what it asked the password for.</source>
+        <translation>Continua senza. Il server di stampa può rifiutare ciò per cui ha chiesto la password.</translation>
+    </message>
+    <message>
+        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
+        <translation>Omette ciò che è come nella stampante o nella preimpostazione e indica com’era prima il resto.</translation>
+    </message>
+    <message>
+        <source>What this printer offers beside the other pages, in the words of its maker.</source>
+        <translation>Ciò che questa stampante offre oltre alle altre pagine, con le parole del produttore.</translation>
+    </message>
+    <message>
+        <source>Stops what is under way. Nothing that you have set is lost.</source>
+        <translation>Interrompe ciò che è in corso. Nulla di ciò che ha impostato va perso.</translation>
+    </message>
+    <message>
+        <source>Asks the printer or the print server anew.</source>
+        <translation>Interroga di nuovo la stampante o il server di stampa.</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings.</source>
+        <translation>Torna alle impostazioni.</translation>
+    </message>
+    <message>
+        <source>Looks for a setting on all pages by its name.</source>
+        <translation>Cerca un’impostazione per nome in tutte le pagine.</translation>
+    </message>
+    <message>
+        <source>Shows what the settings of this page are for.</source>
+        <translation>Mostra a che cosa servono le impostazioni di questa pagina.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1295,6 +1363,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Some of it may have been printed.</source>
         <translation>Una parte potrebbe essere stata stampata.</translation>
+    </message>
+    <message>
+        <source>An unfinished job may have been left there.</source>
+        <translation>Lì può essere rimasto un lavoro incompleto.</translation>
+    </message>
+    <message>
+        <source>Look at the queue before printing again.</source>
+        <translation>Guardi la coda prima di stampare di nuovo.</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2297,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Sent before:</source>
         <translation>Inviati prima:</translation>
     </message>
+    <message>
+        <source>Pages printed: %1</source>
+        <translation>Pagine stampate: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2250,6 +2330,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
             <numerusform>%n impostazione trovata</numerusform>
             <numerusform>%n impostazioni trovate</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Takes the search away. The settings stay as they are.</source>
+        <translation>Chiude la ricerca. Le impostazioni restano come sono.</translation>
+    </message>
+    <message>
+        <source>What has been found, with its page first. Return leads to the setting.</source>
+        <translation>Ciò che è stato trovato, con la pagina per prima. Invio porta all’impostazione.</translation>
     </message>
 </context>
 <context>

@@ -470,6 +470,74 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Sends the same documents once more with the same settings.</source>
         <translation>同じ文書を同じ設定でもう一度送ります。</translation>
     </message>
+    <message>
+        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
+        <translation>設定を保存する名前です。ほかのプログラムでもこの名前で表示されます。</translation>
+    </message>
+    <message>
+        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
+        <translation>通常は毎回入力する内容を保存します。ほかの人もこのコンピューターを使う場合は使用しないでください。</translation>
+    </message>
+    <message>
+        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
+        <translation>すべてのページの設定をこの名前で保存します。同じ名前のプリセットがある場合は置き換えられます。</translation>
+    </message>
+    <message>
+        <source>Gives the preset this name, also in other programs.</source>
+        <translation>プリセットをこの名前に変更します。ほかのプログラムでも同じです。</translation>
+    </message>
+    <message>
+        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
+        <translation>プリセットを削除します。ほかのプログラムでも使えなくなります。このダイアログの設定はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>Closes this question. The presets stay as they are.</source>
+        <translation>この確認を閉じます。プリセットはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
+        <translation>プリントサーバーに登録されているユーザー名です。このコンピューターのユーザー名とは異なる場合があります。</translation>
+    </message>
+    <message>
+        <source>The password that belongs to the user name on the print server.</source>
+        <translation>プリントサーバーでこのユーザー名に設定されているパスワードです。</translation>
+    </message>
+    <message>
+        <source>Tells the print server who you are.</source>
+        <translation>プリントサーバーにユーザー名とパスワードを送ります。</translation>
+    </message>
+    <message>
+        <source>Goes on without. The print server may refuse what it asked the password for.</source>
+        <translation>入力せずに続けます。プリントサーバーが、パスワードを必要とする操作を拒否することがあります。</translation>
+    </message>
+    <message>
+        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
+        <translation>プリンターやプリセットの設定と同じものを省き、変更した設定の元の値を表示します。</translation>
+    </message>
+    <message>
+        <source>What this printer offers beside the other pages, in the words of its maker.</source>
+        <translation>ほかのページにない、このプリンターの設定です。名称は製造元によるものです。</translation>
+    </message>
+    <message>
+        <source>Stops what is under way. Nothing that you have set is lost.</source>
+        <translation>実行中の処理を中止します。設定した内容は失われません。</translation>
+    </message>
+    <message>
+        <source>Asks the printer or the print server anew.</source>
+        <translation>プリンターまたはプリントサーバーにもう一度問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Goes back to the settings.</source>
+        <translation>設定に戻ります。</translation>
+    </message>
+    <message>
+        <source>Looks for a setting on all pages by its name.</source>
+        <translation>すべてのページから設定を名前で検索します。</translation>
+    </message>
+    <message>
+        <source>Shows what the settings of this page are for.</source>
+        <translation>このページの設定の説明を表示します。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1295,6 +1363,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Some of it may have been printed.</source>
         <translation>一部が印刷された可能性があります。</translation>
+    </message>
+    <message>
+        <source>An unfinished job may have been left there.</source>
+        <translation>未完了のジョブがサーバーに残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Look at the queue before printing again.</source>
+        <translation>もう一度印刷する前に、キューを確認してください。</translation>
     </message>
 </context>
 <context>
@@ -2221,6 +2297,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Sent before:</source>
         <translation>前に送ったもの:</translation>
     </message>
+    <message>
+        <source>Pages printed: %1</source>
+        <translation>印刷したページ数: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2249,6 +2329,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>
             <numerusform>%n 個の設定が見つかりました</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Takes the search away. The settings stay as they are.</source>
+        <translation>検索を閉じます。設定はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>What has been found, with its page first. Return leads to the setting.</source>
+        <translation>見つかった設定です。ページ名、設定名の順に表示します。Enter キーで設定へ移動します。</translation>
     </message>
 </context>
 <context>
