@@ -38,19 +38,19 @@ namespace {
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int usualLines = 34;   // that the window is high where there is room for it
 constexpr std::chrono::seconds betweenStates(5);
-// Whoever steps through the printers faster than this wants none of those between.
-constexpr std::chrono::milliseconds betweenPicks(200);
 
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)),
-      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files), m_sender(system, this),
-      m_job(system, this), m_picker(new PrinterPicker(this)), m_settings(new SettingsControl(this)),
-      m_bar(new MessageBar(this)), m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)),
-      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
-      m_print(new DialogButton(tr("&Print"), this)), m_waitSign(new WaitSign(this)),
-      m_waiting(new WaitingPage(this)),
+      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
+      m_opener(
+          system, [this] { return m_busyDepth > 0; }, this),
+      m_sender(system, this), m_job(system, this), m_picker(new PrinterPicker(this)),
+      m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
+      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
+      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
+      m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
       m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter), m_finder(new Finder(this)),
@@ -136,14 +136,7 @@ void PrintWindow::connectAll()
             [this] { turn(1); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this), &QShortcut::activated, this,
             [this] { turn(-1); });
-    m_pickTimer.setSingleShot(true);
-    m_pickTimer.setInterval(betweenPicks);
-    connect(&m_pickTimer, &QTimer::timeout, this, [this] {
-        if (!m_picked.isEmpty())
-            openPicked(std::exchange(m_picked, QString()));
-    });
-    m_openingTimer.setSingleShot(true);
-    connect(&m_openingTimer, &QTimer::timeout, this, &PrintWindow::showOpening);
+    connectOpener();
     connectJob();
 }
 

@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include "host/printing/opened_printer.h"
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/extensions.h"
 #include "host/window/job_sender.h"
 #include "host/window/print_task.h"
+#include "host/window/printer_opener.h"
 #include "host/window/sent_job.h"
 #include "platform/awaited.h"
 
@@ -64,7 +64,7 @@ public:
     // Why the task could not be done after all, where open() could not tell yet.
     const PrintError &refusal() const { return m_refusal; }
     // Whether a printer is still being opened.
-    bool isOpening() const { return m_opening.isPending() || m_whenIdle; }
+    bool isOpening() const { return m_opener.isOpening(); }
     // Whether the user has closed the dialog, which may be before open() has returned.
     bool isDismissed() const { return m_isDismissed; }
     MessageBar *messageBar() const { return m_bar; }
@@ -96,20 +96,17 @@ private:
     void build();
     void connectAll();
     void connectJob();
+    void connectOpener();
     void showState(State state);
     // Tab order, access keys and size follow what is shown.
     void arrange();
     void fit();
     void setCompact(bool compact);
-    using OpeningReceiver = std::function<void(PrinterOpening)>;
-    // Opens a printer beside this thread; the receiver gets it when no panel waits.
-    void openWished(const PrinterWish &wish, OpeningReceiver receiver);
+    // Shows meanwhile which printer is awaited; the receiver gets it when no panel waits.
+    void openWished(const PrinterWish &wish, PrinterOpener::Receiver receiver);
     void openTask();
-    void awaitUsedLast();
     void openPicked(const QString &name);
     void showOpening();
-    void receive(PrinterOpening opening, const OpeningReceiver &receiver);
-    void dropOpening();
     void showFirst(PrinterOpening opening);
     void showPicked(PrinterOpening opening);
     void stayWithPrinter();
@@ -163,6 +160,7 @@ private:
     QStringList m_notices;     // not yet closed by the user
     QString m_toldGap;         // in the protection of the job
     std::optional<Resolution> m_proposal;
+    PrinterOpener m_opener;
     JobSender m_sender;
     SentJob m_job;
     bool m_isLeaving = false;          // once the end of the job on its way is known
@@ -171,16 +169,10 @@ private:
     PrintError m_documentProblem; // not yet shown
     bool m_isDismissed = false;
     State m_state = State::Unavailable;
-    QString m_picked;                 // to be opened when the user has stopped stepping through printers
-    std::function<void()> m_whenIdle; // takes the printer that was opened while a panel waited
-    platform::Awaited<PrinterOpening> m_opening;
-    platform::Awaited<QString> m_usedLast; // the printer's name, for want of anything else to show
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<QStringList> m_recent; // names of printers
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<PrintError> m_checking;
-    QTimer m_pickTimer;
-    QTimer m_openingTimer;
     QTimer m_stateTimer;
 
     PrinterPicker *m_picker;

@@ -56,7 +56,7 @@ void PrintWindow::stopWaiting()
         m_waiting->setCancelling(tr("Canceling the job…"));
         return;
     }
-    dropOpening();
+    m_opener.drop();
     if (m_session)
         stayWithPrinter();
     else
@@ -157,13 +157,12 @@ void PrintWindow::goOn()
         return;
     if (m_recheckDue)
         recheck();
-    if (const auto take = std::exchange(m_whenIdle, nullptr))
-        take();
+    m_opener.deliverHeld();
 }
 
 void PrintWindow::print()
 {
-    if (submission() || m_sender.isSending() || m_busyDepth > 0 || isOpening() || !m_picked.isEmpty() ||
+    if (submission() || m_sender.isSending() || m_busyDepth > 0 || isOpening() || m_opener.isPicking() ||
         (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
