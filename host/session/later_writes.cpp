@@ -3,10 +3,13 @@
 
 #include "host/session/later_writes.h"
 
+#include "host/printing/destination.h"
 #include "platform/background.h"
 
 #include <condition_variable>
+#include <deque>
 #include <mutex>
+#include <utility>
 
 namespace host {
 
@@ -14,10 +17,10 @@ namespace {
 
 struct Writes
 {
-    std::mutex order; // held by the one that is written
-    std::mutex mutex;
+    std::mutex mutex; // guards all
     std::condition_variable ended;
-    int underWay = 0; // guarded
+    std::deque<std::function<void()>> waiting;
+    bool isWriting = false;
 };
 
 // Never destroyed: a write that hangs may outlast the program's static objects.
@@ -27,31 +30,47 @@ Writes &writes()
     return *all;
 }
 
+// One after the other: the last word on a setting is the one that was said last.
+void writeAll()
+{
+    std::unique_lock lock(writes().mutex);
+    while (!writes().waiting.empty()) {
+        const std::function<void()> write = std::move(writes().waiting.front());
+        writes().waiting.pop_front();
+        lock.unlock();
+        write();
+        lock.lock();
+    }
+    writes().isWriting = false;
+    writes().ended.notify_all();
+}
+
 } // namespace
 
 void writeLater(std::function<void()> write)
 {
     {
         const std::lock_guard lock(writes().mutex);
-        ++writes().underWay;
+        writes().waiting.push_back(std::move(write));
+        if (std::exchange(writes().isWriting, true))
+            return;
     }
-    platform::Background::start(
-        [write = std::move(write)] {
-            {
-                const std::lock_guard lock(writes().order);
-                write();
-            }
-            const std::lock_guard lock(writes().mutex);
-            --writes().underWay;
-            writes().ended.notify_all();
-        },
-        nullptr, {});
+    platform::Background::start(writeAll, nullptr, {});
+}
+
+void rememberUseLater(const QString &printer, const std::function<void()> &settings)
+{
+    writeLater([printer, settings] {
+        RememberedPrinter().setName(printer);
+        if (settings)
+            settings();
+    });
 }
 
 void finishWrites(std::chrono::milliseconds limit)
 {
     std::unique_lock lock(writes().mutex);
-    writes().ended.wait_for(lock, limit, [] { return writes().underWay == 0; });
+    writes().ended.wait_for(lock, limit, [] { return !writes().isWriting; });
 }
 
 } // namespace host

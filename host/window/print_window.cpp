@@ -4,8 +4,6 @@
 #include "host/window/print_window.h"
 
 #include "host/printing/file_name.h"
-#include "host/printing/held_signals.h"
-#include "host/printing/job_follower.h"
 #include "host/session/session_history.h"
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
@@ -40,23 +38,23 @@ namespace {
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int usualLines = 34;   // that the window is high where there is room for it
 constexpr std::chrono::seconds betweenStates(5);
-// Whoever steps through the printers faster than this wants none of those between.
-constexpr std::chrono::milliseconds betweenPicks(200);
 
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
     : m_system(system), m_extensions(extensions), m_task(std::move(task)),
-      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files), m_picker(new PrinterPicker(this)),
+      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
+      m_opener(
+          system, [this] { return m_busyDepth > 0; }, this),
+      m_sender(system, this), m_job(system, this), m_picker(new PrinterPicker(this)),
       m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
       m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
       m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
-      m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter),
-      m_follower(new JobFollower(this)), m_finder(new Finder(this)), m_greyed(new GreyedChoices(this)),
-      m_help(new HelpDesk(this))
+      m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter), m_finder(new Finder(this)),
+      m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this))
 {
     const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
@@ -132,29 +130,19 @@ void PrintWindow::connectAll()
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
-    connect(m_follower, &JobFollower::changed, this, &PrintWindow::showJob);
-    connect(m_result, &ResultPage::actionWanted, this, &PrintWindow::changeJob);
-    connect(m_result, &ResultPage::printAgainWanted, this, &PrintWindow::printAgain);
     connect(&m_stateTimer, &QTimer::timeout, this, &PrintWindow::askState);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
         m_waiter->giveUp();
-        m_submission ? accept() : reject();
+        submission() ? accept() : reject();
     });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this), &QShortcut::activated, this,
             [this] { turn(1); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this), &QShortcut::activated, this,
             [this] { turn(-1); });
-    m_pickTimer.setSingleShot(true);
-    m_pickTimer.setInterval(betweenPicks);
-    connect(&m_pickTimer, &QTimer::timeout, this, [this] {
-        if (!m_picked.isEmpty())
-            openPicked(std::exchange(m_picked, QString()));
-    });
-    m_openingTimer.setSingleShot(true);
-    connect(&m_openingTimer, &QTimer::timeout, this, &PrintWindow::showOpening);
-    connect(&m_progressTimer, &QTimer::timeout, this, &PrintWindow::showProgress);
+    connectOpener();
+    connectJob();
 }
 
 void PrintWindow::turn(int steps)

@@ -3,12 +3,14 @@
 
 #pragma once
 
-#include "host/printing/opened_printer.h"
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/extensions.h"
+#include "host/window/job_sender.h"
 #include "host/window/print_task.h"
+#include "host/window/printer_opener.h"
+#include "host/window/sent_job.h"
 #include "platform/awaited.h"
 
 #include <QDialog>
@@ -25,13 +27,10 @@ namespace host {
 class AccessKeys;
 class DialogButton;
 class DialogWaiter;
-class EarlierJobs;
 class Finder;
 class GreyedChoices;
 class GuideButtons;
-class HeldSignals;
 class HelpDesk;
-class JobFollower;
 class MessageBar;
 class NetworkSearch;
 class PageBook;
@@ -61,11 +60,11 @@ public:
     bool open(PrintError *error);
     DialogSession *session() const { return m_session.get(); }
     // What became of the job; nil before there is one, and when it was not accepted.
-    const std::optional<Submission> &submission() const { return m_submission; }
+    const std::optional<Submission> &submission() const { return m_job.submission(); }
     // Why the task could not be done after all, where open() could not tell yet.
     const PrintError &refusal() const { return m_refusal; }
     // Whether a printer is still being opened.
-    bool isOpening() const { return m_opening.isPending() || m_whenIdle; }
+    bool isOpening() const { return m_opener.isOpening(); }
     // Whether the user has closed the dialog, which may be before open() has returned.
     bool isDismissed() const { return m_isDismissed; }
     MessageBar *messageBar() const { return m_bar; }
@@ -93,24 +92,21 @@ protected:
 
 private:
     enum class State { Unavailable, Waiting, Choosing, Sending, Done };
-    struct Sending;
 
     void build();
     void connectAll();
+    void connectJob();
+    void connectOpener();
     void showState(State state);
     // Tab order, access keys and size follow what is shown.
     void arrange();
     void fit();
     void setCompact(bool compact);
-    using OpeningReceiver = std::function<void(PrinterOpening)>;
-    // Opens a printer beside this thread; the receiver gets it when no panel waits.
-    void openWished(const PrinterWish &wish, OpeningReceiver receiver);
+    // Shows meanwhile which printer is awaited; the receiver gets it when no panel waits.
+    void openWished(const PrinterWish &wish, PrinterOpener::Receiver receiver);
     void openTask();
-    void awaitUsedLast();
     void openPicked(const QString &name);
     void showOpening();
-    void receive(PrinterOpening opening, const OpeningReceiver &receiver);
-    void dropOpening();
     void showFirst(PrinterOpening opening);
     void showPicked(PrinterOpening opening);
     void stayWithPrinter();
@@ -128,7 +124,6 @@ private:
     // same.
     bool showConflicts(bool toPrint = false);
     void deliver();
-    void remember(const std::function<void()> &settings);
     void recheckLater();
     void recheck();
     void goOn();
@@ -141,17 +136,13 @@ private:
     void showPainted();
     void showIdle();
     void stopWaiting();
-    bool dropReading();
-    void showProgress();
     void askState();
     void send();
     void savePdf();
     void pdfSaved(const PrintError &error, const QString &path);
-    void sent(Submission submission);
+    void sent(const Submission &submission);
     void showResult();
-    void showJob(const JobStatus &status);
-    void changeJob(JobAction action);
-    std::function<JobStatus()> statusQuery() const;
+    void tellElsewhere(const QString &text, const JobStatus &status);
     void printAgain();
     void showGuide();
     QString documentNames() const;
@@ -170,29 +161,19 @@ private:
     QStringList m_notices;     // not yet closed by the user
     QString m_toldGap;         // in the protection of the job
     std::optional<Resolution> m_proposal;
-    std::optional<Submission> m_submission;
-    std::shared_ptr<Sending> m_sending;  // null unless a job is on its way
-    std::unique_ptr<HeldSignals> m_held; // while one is
-    bool m_isLeaving = false;            // once that job's end is known
-    PrintError *m_taskError = nullptr;   // while open() runs
+    PrinterOpener m_opener;
+    JobSender m_sender;
+    SentJob m_job;
+    bool m_isLeaving = false;          // once the end of the job on its way is known
+    PrintError *m_taskError = nullptr; // while open() runs
     PrintError m_refusal;
     PrintError m_documentProblem; // not yet shown
     bool m_isDismissed = false;
     State m_state = State::Unavailable;
-    QString m_picked;                 // to be opened when the user has stopped stepping through printers
-    std::function<void()> m_whenIdle; // takes the printer that was opened while a panel waited
-    platform::Awaited<PrinterOpening> m_opening;
-    platform::Awaited<QString> m_usedLast; // the printer's name, for want of anything else to show
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<QStringList> m_recent; // names of printers
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
-    platform::Awaited<Submission> m_submitting;
     platform::Awaited<PrintError> m_checking;
-    platform::Awaited<PrintError> m_jobChange;
-    bool m_jobWasTold = false; // to who looks elsewhere
-    QTimer m_progressTimer;
-    QTimer m_pickTimer;
-    QTimer m_openingTimer;
     QTimer m_stateTimer;
 
     PrinterPicker *m_picker;
@@ -208,8 +189,6 @@ private:
     AccessKeys *m_keys;
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_waiterScope;
-    JobFollower *m_follower;
-    EarlierJobs *m_earlier = nullptr; // made when there is one
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;

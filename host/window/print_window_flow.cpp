@@ -3,15 +3,12 @@
 
 // What the window asks of the print system, and how it passes the time until the answer.
 
-#include "host/printing/held_signals.h"
-#include "host/printing/job_follower.h"
 #include "host/printing/network_search.h"
 #include "host/session/later_writes.h"
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
 #include "host/window/dialog_waiter.h"
-#include "host/window/earlier_jobs.h"
 #include "host/window/guide_buttons.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
@@ -30,49 +27,36 @@
 #include <QFileInfo>
 #include <QTimer>
 
-#include <algorithm>
-#include <atomic>
-
 namespace host {
 
-namespace {
-
-// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
-constexpr std::chrono::milliseconds nearServer(50);
-constexpr std::chrono::milliseconds betweenProgress(100);
-
-} // namespace
-
-// What a submission and the window that waits for it share.
-struct PrintWindow::Sending
+// What the window and the job it sends tell each other.
+void PrintWindow::connectJob()
 {
-    std::atomic<qint64> sent{0};
-    std::atomic<qint64> total{0}; // bytes
-    std::atomic<bool> isCancelled{false};
-    // Until the server is asked, nothing has to be undone: the work is dropped, however long it still reads.
-    enum class Phase { Reading, Submitting, Dropped };
-    std::atomic<Phase> phase{Phase::Reading};
-    bool isToldToSend = false; // the user knows that the server is asked now
-    bool enter(Phase next)
-    {
-        Phase reading = Phase::Reading;
-        return phase.compare_exchange_strong(reading, next);
-    }
-    std::shared_ptr<DocumentList> documents; // the work's until it has ended
-    JobRequest request;
-    std::function<void()> rememberUse; // once the job has been accepted
-};
+    connect(&m_sender, &JobSender::submitting, this, [this] {
+        m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
+    });
+    connect(&m_sender, &JobSender::progressed, m_waiting, &WaitingPage::setProgress);
+    connect(&m_sender, &JobSender::ended, this, &PrintWindow::sent);
+    connect(&m_job, &SentJob::changed, m_result, &ResultPage::showStatus);
+    connect(&m_job, &SentJob::newsCame, this,
+            [this](const JobStatus &status) { tellElsewhere(m_result->text(), status); });
+    connect(&m_job, &SentJob::changeFailed, m_result, &ResultPage::showProblem);
+    connect(&m_job, &SentJob::earlierChanged, this, [this] { m_result->showEarlier(m_job.earlierLines()); });
+    connect(&m_job, &SentJob::earlierEnded, this, &PrintWindow::tellElsewhere);
+    connect(m_result, &ResultPage::actionWanted, &m_job, &SentJob::change);
+    connect(m_result, &ResultPage::printAgainWanted, this, &PrintWindow::printAgain);
+}
 
 void PrintWindow::stopWaiting()
 {
-    if (dropReading())
+    if (m_sender.dropReading())
         return;
-    if (m_sending) {
-        m_sending->isCancelled = true;
+    if (m_sender.isSending()) {
+        m_sender.cancel();
         m_waiting->setCancelling(tr("Canceling the job…"));
         return;
     }
-    dropOpening();
+    m_opener.drop();
     if (m_session)
         stayWithPrinter();
     else
@@ -177,13 +161,12 @@ void PrintWindow::goOn()
         return;
     if (m_recheckDue)
         recheck();
-    if (const auto take = std::exchange(m_whenIdle, nullptr))
-        take();
+    m_opener.deliverHeld();
 }
 
 void PrintWindow::print()
 {
-    if (m_submission || m_sending || m_busyDepth > 0 || isOpening() || !m_picked.isEmpty() ||
+    if (submission() || m_sender.isSending() || m_busyDepth > 0 || isOpening() || m_opener.isPicking() ||
         (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
@@ -203,59 +186,27 @@ void PrintWindow::deliver()
         send();
         return;
     }
-    remember(m_settings->rememberUse());
+    rememberUseLater(m_session->destination().name(), m_settings->rememberUse());
     accept();
-}
-
-// The files may be slow: nobody waits for them.
-void PrintWindow::remember(const std::function<void()> &settings)
-{
-    writeLater([printer = m_session->destination().name(), settings] {
-        RememberedPrinter().setName(printer);
-        if (settings)
-            settings();
-    });
 }
 
 void PrintWindow::send()
 {
-    m_held = std::make_unique<HeldSignals>();
-    m_sending = std::make_shared<Sending>();
-    m_sending->documents = m_documents;
-    m_sending->request = {m_session->destination(), {}, m_task.title, m_session->jobOptions()};
-    m_sending->rememberUse = m_settings->rememberUse();
-    auto work = [&system = m_system, sending = m_sending, files = m_documentChoice.included(),
-                 name = m_task.documentName]() -> Submission {
-        Submission failed;
-        const auto isDropped = [&] { return sending->phase == Sending::Phase::Dropped; };
-        if (!sending->documents->open(files, nullptr, &failed.error, isDropped) ||
-            !sending->enter(Sending::Phase::Submitting))
-            return failed;
-        JobRequest &request = sending->request;
-        request.documents = sending->documents->documents();
-        if (request.title.isEmpty())
-            request.title = sending->documents->title();
-        if (!name.isEmpty())
-            request.documents.first().name = name;
-        const auto progress = [&](qint64 sent, qint64 total) {
-            sending->sent = sent;
-            sending->total = total;
-        };
-        return system.submit(request, {progress, [&] { return sending->isCancelled.load(); }});
-    };
-    m_submitting.start(this, std::move(work), [this](Submission submission) { sent(std::move(submission)); });
-    if (m_submitting.deliverWithin(nearServer))
+    if (!m_sender.send({m_documents,
+                        m_documentChoice.included(),
+                        m_task.documentName,
+                        {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
+                        m_settings->rememberUse()}))
         return;
     m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
-    showProgress();
+    m_sender.tellProgress();
     showState(State::Sending);
     m_waiting->cancelButton()->setFocus();
-    m_progressTimer.start(betweenProgress);
 }
 
 void PrintWindow::savePdf()
 {
-    if (m_sending || m_busyDepth > 0 || isOpening() || !m_book->checkTyped())
+    if (m_sender.isSending() || m_busyDepth > 0 || isOpening() || !m_book->checkTyped())
         return;
     m_session->save();
     sessionChanged();
@@ -282,48 +233,17 @@ void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
         m_bar->showMessage(MessageBar::Kind::Success, tr("The PDF file has been written"), {path});
 }
 
-void PrintWindow::showProgress()
+void PrintWindow::sent(const Submission &submission)
 {
-    if (!m_sending)
-        return;
-    if (m_sending->phase == Sending::Phase::Reading) {
-        if (HeldSignals::isPending()) // there is no job yet to be cancelled first
-            dropReading();
-        return;
-    }
-    if (!std::exchange(m_sending->isToldToSend, true) && !m_sending->isCancelled)
-        m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
-    m_waiting->setProgress(m_sending->sent, m_sending->total);
-}
-
-// True when the documents were still being read; then nothing is sent.
-bool PrintWindow::dropReading()
-{
-    if (!m_sending || !m_sending->enter(Sending::Phase::Dropped))
-        return false;
-    m_submitting.drop();
-    Submission dropped;
-    dropped.outcome = Submission::Outcome::Rejected;
-    dropped.error = {PrintError::Kind::Cancelled, tr("Printing was canceled.")};
-    sent(std::move(dropped));
-    return true;
-}
-
-void PrintWindow::sent(Submission submission)
-{
-    m_progressTimer.stop();
-    const auto sending = std::move(m_sending);
     const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
-    if (!isRejected) {
-        remember(submission.isAccepted() ? sending->rememberUse : nullptr);
-        m_submission = std::move(submission);
-    }
+    if (!isRejected)
+        m_job.take(m_session->destination(), submission);
     if (m_isLeaving) {
         done(isRejected ? Rejected : Accepted);
-        m_held.reset();
+        m_sender.releaseSignals();
         return;
     }
-    m_held.reset();
+    m_sender.releaseSignals();
     if (isRejected) {
         showState(State::Choosing);
         allowPrinting();
@@ -335,10 +255,9 @@ void PrintWindow::sent(Submission submission)
 
 void PrintWindow::showResult()
 {
-    m_result->showSubmission(m_session->destination().displayName(), documentNames(), *m_submission);
-    if (m_submission->isAccepted() && !m_submission->job.status.isFinal())
-        m_follower->follow(statusQuery());
-    m_result->showEarlier(m_earlier ? m_earlier->lines() : QStringList());
+    m_result->showSubmission(m_session->destination().displayName(), documentNames(), *submission());
+    m_job.follow();
+    m_result->showEarlier(m_job.earlierLines());
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);
@@ -347,65 +266,20 @@ void PrintWindow::showResult()
     m_cancel->setFocus();
 }
 
-std::function<JobStatus()> PrintWindow::statusQuery() const
-{
-    return [&system = m_system, destination = m_session->destination(), id = m_submission->job.id] {
-        return system.jobStatus(destination, id);
-    };
-}
-
 // Whoever looks elsewhere is told once that the job is done, and once that it needs somebody.
-void PrintWindow::showJob(const JobStatus &status)
+void PrintWindow::tellElsewhere(const QString &text, const JobStatus &status)
 {
-    m_result->showStatus(status);
-    if (status.state != JobStatus::State::Unknown)
-        m_submission->job.status = status;
-    const bool isNews = status.isFinal() || status.needsSomebody();
-    if (!isNews)
-        m_jobWasTold = false;
-    else if (!std::exchange(m_jobWasTold, !status.isFinal()) && !isActiveWindow())
-        notifyDesktop(windowTitle(), m_result->text(), status.state != JobStatus::State::Completed);
-}
-
-void PrintWindow::changeJob(JobAction action)
-{
-    if (m_jobChange.isPending())
-        return;
-    m_jobChange.start(
-        this,
-        [&system = m_system, destination = m_session->destination(), id = m_submission->job.id, action] {
-            PrintError error;
-            system.changeJob(destination, id, action, &error);
-            return error;
-        },
-        [this](const PrintError &error) {
-            if (error)
-                m_result->showProblem(error.message);
-            m_follower->askSoon();
-        });
+    if (!isActiveWindow())
+        notifyDesktop(windowTitle(), text, status.state != JobStatus::State::Completed);
 }
 
 // The same documents with the same settings, once more. What was sent before is still followed.
 void PrintWindow::printAgain()
 {
-    m_follower->stop();
-    if (!m_earlier) {
-        m_earlier = new EarlierJobs(this);
-        connect(m_earlier, &EarlierJobs::changed, this,
-                [this] { m_result->showEarlier(m_earlier->lines()); });
-        connect(m_earlier, &EarlierJobs::ended, this, [this](const QString &line, const JobStatus &status) {
-            if (!isActiveWindow())
-                notifyDesktop(windowTitle(), line, status.state != JobStatus::State::Completed);
-        });
-    }
-    if (m_submission->isAccepted())
-        m_earlier->add(m_submission->job.id, m_submission->job.status, statusQuery());
-    m_jobChange.drop();
-    m_submission.reset();
+    m_job.setAside();
     m_cancel->setText(tr("Cancel"));
     m_cancel->setAccessibleDescription(QString());
     m_print->setDefault(true);
-    m_jobWasTold = false;
     send();
 }
 
@@ -418,9 +292,9 @@ void PrintWindow::done(int result)
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.
 void PrintWindow::reject()
 {
-    if (m_sending && m_sending->isCancelled)
+    if (m_sender.isCancelled())
         close();
-    else if (m_sending)
+    else if (m_sender.isSending())
         stopWaiting();
     else
         QDialog::reject();
@@ -429,7 +303,7 @@ void PrintWindow::reject()
 // Whoever closes the window does not wait for it: the job is cancelled, and its end is seen to unseen.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_sending || dropReading()) {
+    if (!m_sender.isSending() || m_sender.dropReading()) {
         QDialog::closeEvent(event);
         return;
     }

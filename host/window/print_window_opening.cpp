@@ -16,35 +16,12 @@
 
 namespace host {
 
-namespace {
-
-// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
-constexpr std::chrono::milliseconds nearServer(50);
-
-PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)
-{
-    PrinterOpening opening;
-    if (!wish.isForAnyone()) {
-        opening.printer = openPrinter(system, wish, &opening.error);
-        if (!wish.mayBeGone || opening.error.kind != PrintError::Kind::NoSuchPrinter)
-            return opening;
-        opening.error = {};
-    }
-    opening.printer = openFirstPrinter(system, RememberedPrinter().name(), &opening.error);
-    return opening;
-}
-
-} // namespace
-
 bool PrintWindow::open(PrintError *error)
 {
     m_taskError = error;
     openTask();
     // The one time that the window waits on its thread: there is nothing to be seen of it yet.
-    if (!m_opening.deliverWithin(nearServer)) {
-        m_usedLast.deliverWithin(std::chrono::milliseconds(0));
-        showOpening();
-    }
+    m_opener.deliverNear();
     return !std::exchange(m_taskError, nullptr) || !*error;
 }
 
@@ -54,62 +31,27 @@ void PrintWindow::openTask()
                [this](PrinterOpening opening) { showFirst(std::move(opening)); });
 }
 
-void PrintWindow::openWished(const PrinterWish &wish, OpeningReceiver receiver)
+void PrintWindow::openWished(const PrinterWish &wish, PrinterOpener::Receiver receiver)
 {
-    m_whenIdle = nullptr;
-    m_usedLast.drop(); // of what was opened before
-    m_opening.start(
-        this, [&system = m_system, wish] { return openAny(system, wish); },
-        [this, receiver = std::move(receiver)](PrinterOpening opening) {
-            receive(std::move(opening), receiver);
-        });
+    m_opener.open(wish, std::move(receiver));
     if (!m_session && !wish.printer.isEmpty())
         m_picker->setAwaited(wish.printer);
     else if (!m_session && wish.isForAnyone())
-        awaitUsedLast();
-    m_openingTimer.start(nearServer);
+        m_opener.askUsedLast();
 }
 
-// The settings file may be as slow as the print server.
-void PrintWindow::awaitUsedLast()
+void PrintWindow::connectOpener()
 {
-    m_usedLast.start(
-        this, [] { return RememberedPrinter().name(); },
-        [this](const QString &name) {
-            if (!m_session && isOpening() && !name.isEmpty())
-                m_picker->setAwaited(name);
-        });
-}
-
-// A panel that waits is still on the stack, and its session with it: neither may go under it.
-void PrintWindow::receive(PrinterOpening opening, const OpeningReceiver &receiver)
-{
-    m_openingTimer.stop();
-    if (m_busyDepth == 0) {
-        receiver(std::move(opening));
-        return;
-    }
-    auto held = std::make_shared<PrinterOpening>(std::move(opening));
-    m_whenIdle = [receiver, held] { receiver(std::move(*held)); };
-}
-
-void PrintWindow::dropOpening()
-{
-    m_pickTimer.stop();
-    m_openingTimer.stop();
-    m_picked.clear();
-    m_opening.drop();
-    m_whenIdle = nullptr;
+    connect(&m_opener, &PrinterOpener::wanted, this, &PrintWindow::openPicked);
+    connect(&m_opener, &PrinterOpener::delayed, this, &PrintWindow::showOpening);
+    connect(&m_opener, &PrinterOpener::usedLastKnown, this, [this](const QString &name) {
+        if (!m_session)
+            m_picker->setAwaited(name);
+    });
 }
 
 void PrintWindow::showOpening()
 {
-    if (!m_opening.isPending())
-        return;
-    if (m_busyDepth > 0) {
-        m_openingTimer.start(nearServer);
-        return;
-    }
     m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
     showState(State::Waiting);
 }
@@ -179,20 +121,14 @@ void PrintWindow::pickPrinter(const QString &name)
         return;
     }
     if (m_session && name == m_session->destination().name()) {
-        if (isOpening() || !m_picked.isEmpty()) {
-            dropOpening();
+        if (isOpening() || m_opener.isPicking()) {
+            m_opener.drop();
             stayWithPrinter();
         }
         return;
     }
     m_print->setEnabled(false);
-    if (m_pickTimer.isActive()) {
-        dropOpening();
-        m_picked = name;
-    } else {
-        openPicked(name);
-    }
-    m_pickTimer.start();
+    m_opener.pick(name);
 }
 
 void PrintWindow::openPicked(const QString &name)
