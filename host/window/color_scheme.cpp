@@ -11,8 +11,8 @@ namespace host {
 
 namespace {
 
-// What is disabled has a contrast of 3 at least, on windows, buttons and fields alike, and what is to be read,
-// such as links and hints in fields, one of 4.5.
+// What is disabled has a contrast of 3 at least, on windows, buttons and fields alike, and what is to be
+// read, such as links and hints in fields, one of 4.5.
 struct Scheme
 {
     QColor window, base, raised, text, disabled, hint, link, accent, onAccent, line, dark;
