@@ -130,7 +130,7 @@ def search(d):
     d.type("toner")
     found = d.get("list", "Settings found")
     lines = [re.sub("\u200e", "", node.name) for node in d.all("list item", found)]
-    expect("Toner Save is not the first of %s" % lines, lines and "Toner Save" in lines[0])
+    expect("%s is not the first of %s" % (TONER, lines), lines and TONER in lines[0])
     return "Ctrl+F, typed “toner”. Found: %s" % "; ".join(lines)
 
 
