@@ -12,6 +12,7 @@
 #include "host/printing/utf8_text.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QUuid>
 

@@ -7,8 +7,6 @@
 #include "host/printing/job.h"
 #include "host/printing/job_lookup.h"
 
-#include <QDeadlineTimer>
-
 namespace host {
 
 // Sends one job to the print server: asks the queue, makes the job, sends the documents, reads the job back.

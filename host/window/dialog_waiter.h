@@ -31,7 +31,6 @@ public:
     // nest; the outermost counts.
     void beginActivity();
     void endActivity();
-    bool isWaiting() const { return m_depth > 0; }
 
     bool isGivenUp() const override { return m_givenUp; }
     bool wait(const std::function<bool()> &ended) override;

@@ -200,6 +200,8 @@ void PrintWindow::send()
         return;
     m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
     m_sender.tellProgress();
+    if (!m_sender.isSending()) // a signal has come meanwhile
+        return;
     showState(State::Sending);
     m_waiting->cancelButton()->setFocus();
 }
