@@ -9,6 +9,7 @@
 #include "host/window/change_mark.h"
 #include "host/window/foreign_text.h"
 #include "platform/binding.h"
+#include "platform/layout_loader.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -104,11 +105,7 @@ void ChangeMarks::findControls()
             continue;
         QStringList keys;
         if (m_panel >= 0) {
-            for (const auto *binding :
-                 widget->findChildren<platform::Binding *>(QString(), Qt::FindDirectChildrenOnly)) {
-                if (binding->isTwoWay())
-                    keys += keysOfControl(*m_session, m_panel, binding->observedKeyPath());
-            }
+            keys = keysSetBy(widget);
         } else if (const QString name = widget->objectName();
                    GeneralSettings::covers(name) || PageLayoutSettings::covers(name) ||
                    (m_session->ppd() && m_session->ppd()->hasOption(name))) {
@@ -116,6 +113,21 @@ void ChangeMarks::findControls()
         }
         add(widget, keys);
     }
+}
+
+// By its bindings, or without one: a slider of an older host reports to the panel itself.
+QStringList ChangeMarks::keysSetBy(const QWidget *control) const
+{
+    QStringList keys;
+    const QString told = platform::keyPathSetBy(control);
+    bool isBound = false;
+    for (const auto *binding :
+         control->findChildren<platform::Binding *>(QString(), Qt::FindDirectChildrenOnly)) {
+        isBound = isBound || binding->observedKeyPath() == told;
+        if (binding->isTwoWay())
+            keys += keysOfControl(*m_session, m_panel, binding->observedKeyPath());
+    }
+    return isBound || told.isEmpty() ? keys : keys + keysOfControl(*m_session, m_panel, told);
 }
 
 void ChangeMarks::add(QWidget *widget, const QStringList &keys)

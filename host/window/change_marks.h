@@ -49,6 +49,7 @@ private:
         QString ownDescription;    // for who listens, without the change
     };
     void findControls();
+    QStringList keysSetBy(const QWidget *control) const;
     void add(QWidget *widget, const QStringList &keys);
     void watch(QWidget *widget);
     void show(Control *control, bool isChanged, const QList<SettingChange> &changes);
