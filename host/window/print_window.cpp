@@ -37,7 +37,6 @@ namespace {
 
 constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
 constexpr int usualLines = 34;   // that the window is high where there is room for it
-constexpr std::chrono::seconds betweenStates(5);
 
 } // namespace
 
@@ -47,8 +46,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_opener(
           system, [this] { return m_busyDepth > 0; }, this),
       m_sender(system, this), m_job(system, this), m_picker(new PrinterPicker(this)),
-      m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)), m_book(new PageBook(this)),
-      m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
+      m_news(system, m_picker), m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)),
+      m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
       m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
       m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
@@ -88,7 +87,7 @@ PrintWindow::~PrintWindow()
 // Of the session, whose panels own views in the pages, before it goes.
 void PrintWindow::letGo()
 {
-    m_stateQuestion.drop();
+    m_news.forgetChosen();
     m_book->clear();
     m_settings->setSession(nullptr);
 }
@@ -97,7 +96,6 @@ void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
-    connect(m_picker, &PrinterPicker::opened, this, &PrintWindow::searchNetwork);
     connect(m_book, &PageBook::left, this, [this] { showConflicts(); });
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
@@ -111,13 +109,13 @@ void PrintWindow::connectAll()
     connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
     connect(m_settings, &SettingsControl::applied, this, [this] {
-        showDestination();
+        m_news.setChosen(m_session->destination());
         sessionChanged();
         showConflicts();
     });
     connect(m_settings, &SettingsControl::presetsChanged, this, [this] {
-        showDestination();
-        loadPrinterList();
+        m_news.setChosen(m_session->destination());
+        m_news.loadList();
     });
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
@@ -130,7 +128,6 @@ void PrintWindow::connectAll()
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
-    connect(&m_stateTimer, &QTimer::timeout, this, &PrintWindow::askState);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
         m_waiter->giveUp();
@@ -164,10 +161,7 @@ void PrintWindow::showState(State state)
     m_settings->setActive(state == State::Choosing);
     if (m_guide)
         m_guide->setVisible(state == State::Choosing);
-    if (state == State::Choosing || state == State::Done)
-        m_stateTimer.start(betweenStates);
-    else
-        m_stateTimer.stop();
+    m_news.follow(state == State::Choosing || (state == State::Done && !submission()->job.status.isFinal()));
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
         m_print->setEnabled(false);
@@ -181,21 +175,13 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
     connect(m_session.get(), &DialogSession::blockingBegan, this, &PrintWindow::showBusy);
     connect(m_session.get(), &DialogSession::blockingEnded, this, &PrintWindow::showIdle);
-    showDestination();
+    m_news.setChosen(m_session->destination());
     showSession();
     showState(State::Choosing);
     if (focusWidget() == m_cancel) // where it went while there was nothing else
         m_book->list()->setFocus(Qt::OtherFocusReason);
     allowPrinting();
     showNotices();
-}
-
-void PrintWindow::showDestination()
-{
-    if (m_session->destination().queue.isEmpty())
-        m_picker->setFixedText(m_session->destination().displayName());
-    else
-        m_picker->setCurrent(m_session->destination());
 }
 
 void PrintWindow::allowPrinting()
@@ -351,7 +337,7 @@ void PrintWindow::answer(int index)
 
 void PrintWindow::finishLater()
 {
-    loadPrinterList();
+    m_news.loadList();
     checkDocuments();
     m_book->beginPreview();
     showGuide();

@@ -9,14 +9,13 @@
 #include "host/session/extensions.h"
 #include "host/window/job_sender.h"
 #include "host/window/print_task.h"
+#include "host/window/printer_news.h"
 #include "host/window/printer_opener.h"
 #include "host/window/sent_job.h"
 #include "platform/awaited.h"
 
 #include <QDialog>
-#include <QTimer>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -32,7 +31,6 @@ class GreyedChoices;
 class GuideButtons;
 class HelpDesk;
 class MessageBar;
-class NetworkSearch;
 class PageBook;
 class PdfSaver;
 class PrinterPicker;
@@ -78,9 +76,7 @@ public Q_SLOTS:
     void print();
     void reject() override;
     void done(int result) override;
-    void loadPrinterList();
-    // Looks for printers that the print server has no queue for.
-    void searchNetwork();
+    void loadPrinterList() { m_news.loadList(); }
     // Does what can wait until the user sees the window.
     void finishLater();
     void retry();
@@ -114,7 +110,6 @@ private:
     std::unique_ptr<DialogSession> makeSession(OpenedPrinter opened);
     void adopt(std::unique_ptr<DialogSession> session);
     void letGo();
-    void showDestination();
     void allowPrinting();
     bool showProtectionGap();
     void pickPrinter(const QString &name);
@@ -136,7 +131,6 @@ private:
     void showPainted();
     void showIdle();
     void stopWaiting();
-    void askState();
     void send();
     void savePdf();
     void pdfSaved(const PrintError &error, const QString &path);
@@ -170,13 +164,10 @@ private:
     PrintError m_documentProblem; // not yet shown
     bool m_isDismissed = false;
     State m_state = State::Unavailable;
-    platform::Awaited<std::optional<QList<Destination>>> m_listing;
-    platform::Awaited<QStringList> m_recent; // names of printers
-    platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<PrintError> m_checking;
-    QTimer m_stateTimer;
 
     PrinterPicker *m_picker;
+    PrinterNews m_news;
     SettingsControl *m_settings;
     MessageBar *m_bar;
     PageBook *m_book;
@@ -192,8 +183,7 @@ private:
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
-    GuideButtons *m_guide = nullptr;          // made once the window can be seen
-    NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
+    GuideButtons *m_guide = nullptr; // made once the window can be seen
     QHBoxLayout *m_footer;
     QHBoxLayout *m_messages;
     QSize m_room;        // null for what the screen has free

@@ -3,7 +3,6 @@
 
 // What the window asks of the print system, and how it passes the time until the answer.
 
-#include "host/printing/network_search.h"
 #include "host/session/later_writes.h"
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
@@ -14,7 +13,6 @@
 #include "host/window/page_book.h"
 #include "host/window/pdf_saver.h"
 #include "host/window/print_window.h"
-#include "host/window/printer_picker.h"
 #include "host/window/result_page.h"
 #include "host/window/settings_control.h"
 #include "host/window/startup_clock.h"
@@ -38,6 +36,10 @@ void PrintWindow::connectJob()
     connect(&m_sender, &JobSender::progressed, m_waiting, &WaitingPage::setProgress);
     connect(&m_sender, &JobSender::ended, this, &PrintWindow::sent);
     connect(&m_job, &SentJob::changed, m_result, &ResultPage::showStatus);
+    connect(&m_job, &SentJob::changed, this, [this](const JobStatus &status) {
+        if (status.isFinal())
+            m_news.follow(false);
+    });
     connect(&m_job, &SentJob::newsCame, this,
             [this](const JobStatus &status) { tellElsewhere(m_result->text(), status); });
     connect(&m_job, &SentJob::changeFailed, m_result, &ResultPage::showProblem);
@@ -61,58 +63,6 @@ void PrintWindow::stopWaiting()
         stayWithPrinter();
     else
         showError({PrintError::Kind::ServerAway, tr("The print server has not answered yet.")});
-}
-
-void PrintWindow::loadPrinterList()
-{
-    if (m_session && m_session->destination().queue.isEmpty())
-        return;
-    m_listing.start(
-        this,
-        [&system = m_system] {
-            PrintError ignored;
-            return system.destinations(&ignored);
-        },
-        [this](const std::optional<QList<Destination>> &printers) {
-            if (printers)
-                m_picker->setPrinters(*printers);
-        });
-    // The settings file may be slower than the print server.
-    m_recent.start(
-        this, [] { return RememberedPrinter().recent(); },
-        [this](const QStringList &recent) { m_picker->setRecent(recent); });
-}
-
-void PrintWindow::searchNetwork()
-{
-    if (!m_networkSearch) {
-        m_networkSearch = new NetworkSearch(m_system, this);
-        connect(m_networkSearch, &NetworkSearch::found, m_picker, &PrinterPicker::putFound);
-        connect(m_networkSearch, &NetworkSearch::ended, this, [this] { m_picker->setSearching(false); });
-    }
-    m_picker->setSearching(true);
-    m_networkSearch->begin();
-}
-
-void PrintWindow::askState()
-{
-    if (m_state == State::Done && (!submission() || submission()->job.status.isFinal())) {
-        m_stateTimer.stop();
-        return;
-    }
-    if (!m_session || m_session->destination().queue.isEmpty() || m_stateQuestion.isPending())
-        return;
-    m_stateQuestion.start(
-        this,
-        [&system = m_system, destination = m_session->destination()] {
-            return system.withState(destination);
-        },
-        [this](const std::optional<Destination> &now) {
-            if (now)
-                m_picker->putPrinter(*now);
-            else if (m_session)
-                m_picker->putPrinter(m_session->destination().withoutState());
-        });
 }
 
 void PrintWindow::showBusy(const QString &what)

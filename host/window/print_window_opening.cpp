@@ -181,7 +181,7 @@ void PrintWindow::stayWithPrinter()
 void PrintWindow::retry()
 {
     openTask();
-    loadPrinterList();
+    m_news.loadList();
 }
 
 } // namespace host
