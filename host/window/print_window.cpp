@@ -7,7 +7,6 @@
 #include "host/session/session_history.h"
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
-#include "host/window/dialog_waiter.h"
 #include "host/window/finder.h"
 #include "host/window/focus_ring.h"
 #include "host/window/foreign_text.h"
@@ -44,16 +43,15 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     : m_system(system), m_extensions(extensions), m_task(std::move(task)),
       m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
       m_opener(
-          system, [this] { return m_busyDepth > 0; }, this),
+          system, [this] { return m_wait.isUnderWay(); }, this),
       m_sender(system, this), m_job(system, this), m_picker(new PrinterPicker(this)),
       m_news(system, m_picker), m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)),
       m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
-      m_waitSign(new WaitSign(this)), m_waiting(new WaitingPage(this)),
-      m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_waitSign, m_book->pages(), m_unavailable,
+      m_wait(this, m_cancel), m_waiting(new WaitingPage(this)),
+      m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_wait.sign(), m_book->pages(), m_unavailable,
                                    m_waiting, m_result, m_bar})),
-      m_waiter(std::make_shared<DialogWaiter>(this)), m_waiterScope(m_waiter), m_finder(new Finder(this)),
-      m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this))
+      m_finder(new Finder(this)), m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this))
 {
     const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
@@ -126,11 +124,10 @@ void PrintWindow::connectAll()
             &HelpDesk::toggle);
     connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
-    connect(m_waitSign, &WaitSign::stopped, m_waiter.get(), &DialogWaiter::giveUp);
-    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_waitSign, &WaitSign::offerStop);
+    connect(&m_wait, &PanelWait::panelReturned, this, &PrintWindow::goOn);
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
-        m_waiter->giveUp();
+        m_wait.giveUp();
         submission() ? accept() : reject();
     });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
@@ -144,7 +141,7 @@ void PrintWindow::connectAll()
 
 void PrintWindow::turn(int steps)
 {
-    if (m_state == State::Choosing && m_busyDepth == 0)
+    if (m_state == State::Choosing && !m_wait.isUnderWay())
         m_book->turn(steps);
 }
 
@@ -173,8 +170,8 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     letGo();
     m_session = std::move(session);
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
-    connect(m_session.get(), &DialogSession::blockingBegan, this, &PrintWindow::showBusy);
-    connect(m_session.get(), &DialogSession::blockingEnded, this, &PrintWindow::showIdle);
+    connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
+    connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
     m_news.setChosen(m_session->destination());
     showSession();
     showState(State::Choosing);
@@ -296,7 +293,7 @@ void PrintWindow::recheckLater()
 
 void PrintWindow::recheck()
 {
-    m_recheckDue = m_busyDepth > 0; // a panel that is only half restored must not be saved
+    m_recheckDue = m_wait.isUnderWay(); // a panel that is only half restored must not be saved
     if (m_recheckDue || !m_askingConflict || !m_session)
         return;
     m_session->save();
@@ -306,7 +303,7 @@ void PrintWindow::recheck()
 
 void PrintWindow::answer(int index)
 {
-    if (m_busyDepth > 0 || isOpening()) { // assistive technology presses past what keeps input away
+    if (m_wait.isUnderWay() || isOpening()) { // assistive technology presses past what keeps input away
         m_recheckDue = m_askingConflict;
         return;
     }

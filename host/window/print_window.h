@@ -8,6 +8,7 @@
 #include "host/session/document_choice.h"
 #include "host/session/extensions.h"
 #include "host/window/job_sender.h"
+#include "host/window/panel_wait.h"
 #include "host/window/print_task.h"
 #include "host/window/printer_news.h"
 #include "host/window/printer_opener.h"
@@ -25,7 +26,6 @@ namespace host {
 
 class AccessKeys;
 class DialogButton;
-class DialogWaiter;
 class Finder;
 class GreyedChoices;
 class GuideButtons;
@@ -37,7 +37,6 @@ class PrinterPicker;
 class ResultPage;
 class SettingsControl;
 class UnavailablePage;
-class WaitSign;
 class WaitingPage;
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
@@ -64,7 +63,7 @@ public:
     // Whether a printer is still being opened.
     bool isOpening() const { return m_opener.isOpening(); }
     // Whether the user has closed the dialog, which may be before open() has returned.
-    bool isDismissed() const { return m_isDismissed; }
+    bool isDismissed() const { return m_wait.isDismissed(); }
     MessageBar *messageBar() const { return m_bar; }
     PageBook *book() const { return m_book; }
     // Shows the session's pages anew, as after its panels have become others.
@@ -127,9 +126,6 @@ private:
     void checkDocuments();
     void showDocumentProblem();
     void showError(const PrintError &error);
-    void showBusy(const QString &what);
-    void showPainted();
-    void showIdle();
     void stopWaiting();
     void send();
     void savePdf();
@@ -162,7 +158,6 @@ private:
     PrintError *m_taskError = nullptr; // while open() runs
     PrintError m_refusal;
     PrintError m_documentProblem; // not yet shown
-    bool m_isDismissed = false;
     State m_state = State::Unavailable;
     platform::Awaited<PrintError> m_checking;
 
@@ -175,11 +170,9 @@ private:
     ResultPage *m_result;
     DialogButton *m_cancel;
     DialogButton *m_print;
-    WaitSign *m_waitSign;
+    PanelWait m_wait;
     WaitingPage *m_waiting;
     AccessKeys *m_keys;
-    std::shared_ptr<DialogWaiter> m_waiter;
-    platform::Waiter::Scope m_waiterScope;
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
@@ -188,7 +181,6 @@ private:
     QHBoxLayout *m_messages;
     QSize m_room;        // null for what the screen has free
     int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
-    int m_busyDepth = 0;
 };
 
 } // namespace host

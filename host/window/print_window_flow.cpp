@@ -7,23 +7,17 @@
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
-#include "host/window/dialog_waiter.h"
-#include "host/window/guide_buttons.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/pdf_saver.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
 #include "host/window/settings_control.h"
-#include "host/window/startup_clock.h"
-#include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QEventLoop>
 #include <QFileInfo>
-#include <QTimer>
 
 namespace host {
 
@@ -65,50 +59,8 @@ void PrintWindow::stopWaiting()
         showError({PrintError::Kind::ServerAway, tr("The print server has not answered yet.")});
 }
 
-void PrintWindow::showBusy(const QString &what)
-{
-    if (m_busyDepth++ > 0)
-        return;
-    m_waiter->beginActivity();
-    m_waiter->setOpenParts({m_waitSign, m_cancel});
-    m_waitSign->begin(what);
-    if (m_isDismissed) { // nobody waits for it, and nothing brings the window back
-        m_waiter->giveUp();
-        return;
-    }
-    if (isVisible())
-        repaint();
-    else
-        showPainted();
-}
-
-// Shows the window and returns when it can be seen, or when the screen takes too long about it.
-void PrintWindow::showPainted()
-{
-    QEventLoop untilPainted;
-    FirstPaint painted(this);
-    connect(&painted, &FirstPaint::done, &untilPainted, &QEventLoop::quit);
-    QTimer::singleShot(std::chrono::seconds(1), &untilPainted, &QEventLoop::quit);
-    show();
-    untilPainted.exec(QEventLoop::ExcludeUserInputEvents);
-}
-
-void PrintWindow::showIdle()
-{
-    if (--m_busyDepth > 0)
-        return;
-    m_waiter->endActivity();
-    m_waitSign->end();
-    if (m_guide)
-        m_guide->setVisible(m_state == State::Choosing);
-    // The panel has to return first.
-    QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
-}
-
 void PrintWindow::goOn()
 {
-    if (m_busyDepth > 0)
-        return;
     if (m_recheckDue)
         recheck();
     m_opener.deliverHeld();
@@ -116,7 +68,7 @@ void PrintWindow::goOn()
 
 void PrintWindow::print()
 {
-    if (submission() || m_sender.isSending() || m_busyDepth > 0 || isOpening() || m_opener.isPicking() ||
+    if (submission() || m_sender.isSending() || m_wait.isUnderWay() || isOpening() || m_opener.isPicking() ||
         (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
@@ -158,7 +110,7 @@ void PrintWindow::send()
 
 void PrintWindow::savePdf()
 {
-    if (m_sender.isSending() || m_busyDepth > 0 || isOpening() || !m_book->checkTyped())
+    if (m_sender.isSending() || m_wait.isUnderWay() || isOpening() || !m_book->checkTyped())
         return;
     m_session->save();
     sessionChanged();
@@ -237,7 +189,7 @@ void PrintWindow::printAgain()
 
 void PrintWindow::done(int result)
 {
-    m_isDismissed = true;
+    m_wait.dismiss();
     QDialog::done(result);
 }
 

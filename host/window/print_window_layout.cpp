@@ -5,7 +5,6 @@
 
 #include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
-#include "host/window/dialog_waiter.h"
 #include "host/window/explanations.h"
 #include "host/window/finder.h"
 #include "host/window/guide_buttons.h"
@@ -54,7 +53,7 @@ void PrintWindow::build()
     m_print->setDefault(true);
     m_footer = new QHBoxLayout;
     m_footer->setSpacing(10);
-    m_footer->addWidget(m_waitSign, 1);
+    m_footer->addWidget(m_wait.sign(), 1);
     m_footer->addWidget(m_cancel);
     m_footer->addWidget(m_print);
     // Under the pages, where it moves nothing that the user is about to press.
@@ -83,9 +82,10 @@ void PrintWindow::showGuide()
     connect(m_guide, &GuideButtons::findWanted, m_finder, &Finder::open);
     connect(m_guide, &GuideButtons::helpWanted, m_help, &HelpDesk::toggle);
     // Its place is then taken by what is waited for.
-    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_guide, &QWidget::hide);
+    connect(&m_wait, &PanelWait::noticed, m_guide, &QWidget::hide);
+    connect(&m_wait, &PanelWait::ended, m_guide, [this] { m_guide->setVisible(m_state == State::Choosing); });
     m_footer->insertWidget(0, m_guide);
-    m_guide->setVisible(m_state == State::Choosing && m_busyDepth == 0);
+    m_guide->setVisible(m_state == State::Choosing && !m_wait.isUnderWay());
     for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
              {m_picker, QStringLiteral("printer")},
              {m_settings->button(), QStringLiteral("presets")},
@@ -103,7 +103,7 @@ void PrintWindow::arrange()
     if (m_guide)
         parts.append(m_guide);
     chainTabOrder(QList<QWidget *>{m_picker} + m_finder->parts() + parts +
-                  QList<QWidget *>{m_waitSign, m_cancel, m_print});
+                  QList<QWidget *>{m_wait.sign(), m_cancel, m_print});
     m_keys->assign();
     keepLabelsAligned(this);
     setCompact(height() < roomyLines * fontMetrics().height());

@@ -86,7 +86,7 @@ void PrintWindow::showFirst(PrinterOpening opening)
         return;
     }
     m_book->showPage(row);
-    if (m_isDismissed) // while a panel waited
+    if (isDismissed()) // while a panel waited
         return;
     // On the shown page, so that panels answer the settings as they answer the user's.
     PrintError problem;
@@ -116,7 +116,7 @@ std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
 
 void PrintWindow::pickPrinter(const QString &name)
 {
-    if (m_busyDepth > 0) {
+    if (m_wait.isUnderWay()) {
         m_picker->setCurrent(m_session->destination());
         return;
     }
