@@ -1483,6 +1483,41 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>提案を適用(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>それでも使用(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>それでも印刷(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>そのまま確認(&amp;V)</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>提案: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>「%1」は文書を保護する設定です。このまま印刷すると、保護されずに印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>次の設定は併用できません</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -2055,26 +2090,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷する文書またはプリンターがありません</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>お知らせ</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>提案: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>提案を適用(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>そのまま確認(&amp;V)</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>次の設定は併用できません</translation>
-    </message>
-    <message>
         <source>Sending the document to the print server…</source>
         <translation>文書をプリントサーバーに送信しています…</translation>
     </message>
@@ -2089,10 +2104,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1”</source>
         <translation>「%1」</translation>
-    </message>
-    <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
     </message>
     <message>
         <source>Asking the print server…</source>
@@ -2113,18 +2124,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Ca&amp;ncel Printing</source>
         <translation>印刷をキャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>「%1」は文書を保護する設定です。このまま印刷すると、保護されずに印刷される可能性があります。</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>それでも使用(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>それでも印刷(&amp;Y)</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2337,6 +2336,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>見つかった設定です。ページ名、設定名の順に表示します。Enter キーで設定へ移動します。</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>お知らせ</translation>
     </message>
 </context>
 <context>

@@ -34,8 +34,7 @@ namespace host {
 
 namespace {
 
-constexpr int applyProposal = 0; // an answer about a conflict; any other keeps it
-constexpr int usualLines = 34;   // that the window is high where there is room for it
+constexpr int usualLines = 34; // that the window is high where there is room for it
 
 } // namespace
 
@@ -46,6 +45,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
           system, [this] { return m_wait.isUnderWay(); }, this),
       m_sender(system, this), m_job(system, this), m_picker(new PrinterPicker(this)),
       m_news(system, m_picker), m_settings(new SettingsControl(this)), m_bar(new MessageBar(this)),
+      m_messages(m_bar, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
       m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
       m_wait(this, m_cancel), m_waiting(new WaitingPage(this)),
@@ -87,6 +87,7 @@ void PrintWindow::letGo()
 {
     m_news.forgetChosen();
     m_book->clear();
+    m_messages.clear();
     m_settings->setSession(nullptr);
 }
 
@@ -94,22 +95,22 @@ void PrintWindow::connectAll()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
-    connect(m_book, &PageBook::left, this, [this] { showConflicts(); });
+    connect(m_book, &PageBook::left, &m_messages, [this] { m_messages.check(); });
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::grown, this, [this] { keepLabelsAligned(this); });
-    connect(m_book, &PageBook::shown, this, &PrintWindow::showNotices);
+    connect(m_book, &PageBook::shown, &m_messages, &SessionMessages::showNotices);
     connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
     connect(m_book, &PageBook::chosen, this, [this] {
         sessionChanged();
-        showConflicts();
+        m_messages.check();
     });
     connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
     connect(m_settings, &SettingsControl::applied, this, [this] {
         m_news.setChosen(m_session->destination());
         sessionChanged();
-        showConflicts();
+        m_messages.check();
     });
     connect(m_settings, &SettingsControl::presetsChanged, this, [this] {
         m_news.setChosen(m_session->destination());
@@ -135,6 +136,8 @@ void PrintWindow::connectAll()
             [this] { turn(1); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this), &QShortcut::activated, this,
             [this] { turn(-1); });
+    connect(&m_messages, &SessionMessages::saved, this, &PrintWindow::sessionChanged);
+    connect(&m_messages, &SessionMessages::printWanted, this, &PrintWindow::deliver);
     connectOpener();
     connectJob();
 }
@@ -178,7 +181,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     if (focusWidget() == m_cancel) // where it went while there was nothing else
         m_book->list()->setFocus(Qt::OtherFocusReason);
     allowPrinting();
-    showNotices();
+    m_messages.showNotices();
 }
 
 void PrintWindow::allowPrinting()
@@ -192,9 +195,10 @@ void PrintWindow::allowPrinting()
 void PrintWindow::showSession()
 {
     for (int i = 0; i < m_session->panelCount(); ++i)
-        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
-                &PrintWindow::recheckLater);
+        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, &m_messages,
+                &SessionMessages::checkLater);
     m_settings->setSession(m_session.get());
+    m_messages.setSession(m_session.get(), m_settings->history());
     m_book->setSession(m_session.get(), m_settings->history());
 }
 
@@ -202,134 +206,24 @@ void PrintWindow::sessionChanged()
 {
     m_settings->note();
     m_book->refresh();
-    showNotices();
-}
-
-void PrintWindow::showNotices()
-{
-    const QStringList fresh = m_session->takeNotices();
-    m_notices += fresh;
-    const bool known = fresh.isEmpty() && m_bar->isShowing();
-    if (m_notices.isEmpty() || m_askingConflict || known)
-        return;
-    m_bar->showMessage(MessageBar::Kind::Notice, tr("Please note"), m_notices);
-}
-
-bool PrintWindow::showConflicts(bool toPrint)
-{
-    const QList<Conflict> conflicts = m_session->conflicts();
-    const bool couldPrint = std::exchange(m_printAnyway, -1) >= 0;
-    if (conflicts.isEmpty()) {
-        if (std::exchange(m_askingConflict, false)) {
-            m_bar->hide();
-            showNotices();
-        }
-        return showProtectionGap();
-    }
-    QStringList lines;
-    for (const Conflict &conflict : conflicts) {
-        QStringList sides;
-        for (const OptionChoice &side : conflict.sides)
-            sides.append(side.text());
-        lines.append(QStringLiteral("•  ") + sides.join(QStringLiteral("  –  ")));
-    }
-    QString givenUp;
-    m_proposal = m_session->proposal(&givenUp);
-    if (!givenUp.isNull())
-        lines.append(
-            tr("No way out was found that keeps “%1”: change one of the settings yourself.").arg(givenUp));
-    QStringList answers;
-    if (m_proposal) {
-        QStringList changes;
-        for (const OptionChoice &change : *m_proposal)
-            changes.append(change.text());
-        lines.append(tr("Suggestion: %1").arg(changes.join(QStringLiteral(", "))));
-        answers.append(tr("App&ly Suggestion"));
-    }
-    if (toPrint || couldPrint) {
-        for (const QString &protection : protectionAtRisk(conflicts, m_session->protection()))
-            lines.append(
-                tr("“%1” protects your document. If you print anyway, the printer may print without it.")
-                    .arg(protection));
-        m_printAnyway = static_cast<int>(answers.size());
-        answers.append(m_task.settingsOnly ? tr("Use An&yway") : tr("Print An&yway"));
-    }
-    answers.append(tr("Keep and Re&view"));
-    const bool known = std::exchange(m_askingConflict, true) && m_bar->isShowing() &&
-                       m_bar->buttons().size() == answers.size() &&
-                       m_bar->text().endsWith(lines.join(QLatin1Char('\n')));
-    if (known) // not read out again
-        return true;
-    m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
-                       answers);
-    return true;
-}
-
-// Tells each gap once; true when it has. Who prints is held up by it that once.
-bool PrintWindow::showProtectionGap()
-{
-    const QString gap = m_session->protectionGap();
-    if (std::exchange(m_toldGap, gap) == gap || gap.isNull())
-        return false;
-    m_session->addNotice(gap);
-    showNotices();
-    return true;
-}
-
-// What a panel has changed is marked when it is saved; until then nobody knows whether a conflict that the
-// user is asked about has gone.
-void PrintWindow::recheckLater()
-{
-    if (!m_askingConflict || std::exchange(m_recheckQueued, true))
-        return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_recheckQueued = false;
-            recheck();
-        },
-        Qt::QueuedConnection);
-}
-
-void PrintWindow::recheck()
-{
-    m_recheckDue = m_wait.isUnderWay(); // a panel that is only half restored must not be saved
-    if (m_recheckDue || !m_askingConflict || !m_session)
-        return;
-    m_session->save();
-    sessionChanged();
-    showConflicts();
+    m_messages.showNotices();
 }
 
 void PrintWindow::answer(int index)
 {
     if (m_wait.isUnderWay() || isOpening()) { // assistive technology presses past what keeps input away
-        m_recheckDue = m_askingConflict;
+        m_messages.checkWhenIdle();
         return;
     }
     if (m_session)
         m_settings->history()->endGesture();
-    if (m_greyed->answer(index)) {
-        m_settings->history()->endGesture(); // a greyed choice and what it takes are one step
-        sessionChanged();
-        showConflicts();
+    if (!m_greyed->answer(index)) {
+        m_messages.answer(index);
         return;
     }
-    const bool wasConflict = std::exchange(m_askingConflict, false);
-    const bool printsAnyway = std::exchange(m_printAnyway, -1) == index && index >= 0 && wasConflict;
-    const bool accepted = wasConflict && m_proposal && index == applyProposal && !printsAnyway;
-    if (m_bar->kind() == MessageBar::Kind::Notice)
-        m_notices.clear();
-    if (accepted) {
-        m_settings->history()->endGesture();
-        m_session->apply(*m_proposal);
-        m_settings->history()->endGesture();
-        showConflicts();
-    }
-    if (m_session)
-        showNotices();
-    if (printsAnyway && !showProtectionGap())
-        deliver();
+    m_settings->history()->endGesture(); // a greyed choice and what it takes are one step
+    sessionChanged();
+    m_messages.check();
 }
 
 void PrintWindow::finishLater()
@@ -365,17 +259,13 @@ void PrintWindow::showDocumentProblem()
     if (!m_session || m_state != State::Choosing || !m_documentProblem)
         return;
     const PrintError error = std::exchange(m_documentProblem, {});
-    if (m_askingConflict)
-        m_notices.append(error.message);
-    else
-        showError(error);
+    m_messages.showProblem(error);
 }
 
 void PrintWindow::showError(const PrintError &error)
 {
-    m_askingConflict = false;
     if (m_session) {
-        m_bar->showMessage(MessageBar::Kind::Error, error.message, {});
+        m_messages.showError(error);
         return;
     }
     m_unavailable->setReason(error.message);

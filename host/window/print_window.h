@@ -13,6 +13,7 @@
 #include "host/window/printer_news.h"
 #include "host/window/printer_opener.h"
 #include "host/window/sent_job.h"
+#include "host/window/session_messages.h"
 #include "platform/awaited.h"
 
 #include <QDialog>
@@ -110,16 +111,9 @@ private:
     void adopt(std::unique_ptr<DialogSession> session);
     void letGo();
     void allowPrinting();
-    bool showProtectionGap();
     void pickPrinter(const QString &name);
     void sessionChanged();
-    void showNotices();
-    // True when something holds printing up. `toPrint` when the user wants to print now, and may all the
-    // same.
-    bool showConflicts(bool toPrint = false);
     void deliver();
-    void recheckLater();
-    void recheck();
     void goOn();
     void turn(int steps);
     void answer(int index);
@@ -144,13 +138,6 @@ private:
     PdfSaver *m_pdfSaver = nullptr; // made when first needed
     std::unique_ptr<DialogSession> m_session;
     std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
-    bool m_askingConflict = false;
-    int m_printAnyway = -1; // which answer of that question it is; -1 where it is none
-    bool m_recheckQueued = false;
-    bool m_recheckDue = false; // once no panel waits
-    QStringList m_notices;     // not yet closed by the user
-    QString m_toldGap;         // in the protection of the job
-    std::optional<Resolution> m_proposal;
     PrinterOpener m_opener;
     JobSender m_sender;
     SentJob m_job;
@@ -165,6 +152,7 @@ private:
     PrinterNews m_news;
     SettingsControl *m_settings;
     MessageBar *m_bar;
+    SessionMessages m_messages;
     PageBook *m_book;
     UnavailablePage *m_unavailable;
     ResultPage *m_result;
@@ -178,7 +166,7 @@ private:
     HelpDesk *m_help;
     GuideButtons *m_guide = nullptr; // made once the window can be seen
     QHBoxLayout *m_footer;
-    QHBoxLayout *m_messages;
+    QHBoxLayout *m_barRow;
     QSize m_room;        // null for what the screen has free
     int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
 };

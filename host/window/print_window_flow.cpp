@@ -61,8 +61,7 @@ void PrintWindow::stopWaiting()
 
 void PrintWindow::goOn()
 {
-    if (m_recheckDue)
-        recheck();
+    m_messages.goOn();
     m_opener.deliverHeld();
 }
 
@@ -75,7 +74,7 @@ void PrintWindow::print()
         return;
     m_session->save();
     sessionChanged();
-    if (showConflicts(true)) {
+    if (m_messages.check(true)) {
         m_bar->takeFocus();
         return;
     }

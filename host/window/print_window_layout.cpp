@@ -57,8 +57,8 @@ void PrintWindow::build()
     m_footer->addWidget(m_cancel);
     m_footer->addWidget(m_print);
     // Under the pages, where it moves nothing that the user is about to press.
-    m_messages = new QHBoxLayout;
-    m_messages->addWidget(m_bar);
+    m_barRow = new QHBoxLayout;
+    m_barRow->addWidget(m_bar);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -68,7 +68,7 @@ void PrintWindow::build()
     for (QWidget *part : std::initializer_list<QWidget *>{m_book, m_unavailable, m_waiting, m_result})
         column->addWidget(part, 1);
     column->addWidget(new Separator(Qt::Horizontal, this));
-    column->addLayout(m_messages);
+    column->addLayout(m_barRow);
     column->addLayout(m_footer);
     setCompact(false);
 }
@@ -156,7 +156,7 @@ void PrintWindow::setCompact(bool compact)
 {
     m_picker->setCompact(compact);
     m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
-    m_messages->setContentsMargins(16, m_bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
+    m_barRow->setContentsMargins(16, m_bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
 }
 
 } // namespace host

@@ -66,7 +66,6 @@ void PrintWindow::refuse(const PrintError &error)
     m_refusal = error;
     letGo();
     m_session.reset();
-    m_notices.clear();
     showError(error);
 }
 
@@ -97,8 +96,8 @@ void PrintWindow::showFirst(PrinterOpening opening)
     m_settings->absorb();
     m_book->refresh();
     m_book->showChanges();
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
     showDocumentProblem();
 }
 
@@ -153,9 +152,6 @@ void PrintWindow::showPicked(PrinterOpening opening)
     m_session->save(); // what the page that is shown has pending
     auto session = makeSession(std::move(*opening.printer));
     m_bar->hide();
-    m_askingConflict = false;
-    m_notices.clear();
-    m_toldGap.clear();
     const QString page = m_book->currentName();
     letGo();
     const auto earlier = std::move(m_session);
@@ -163,8 +159,8 @@ void PrintWindow::showPicked(PrinterOpening opening)
     carryOver(*earlier, m_session.get());
     m_settings->absorb();
     m_book->showPage(std::max(m_book->pageNamed(page), 0));
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
 }
 
 void PrintWindow::stayWithPrinter()
@@ -173,8 +169,8 @@ void PrintWindow::stayWithPrinter()
     showState(State::Choosing);
     allowPrinting();
     // Other pages have hidden them.
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
     showDocumentProblem();
 }
 
