@@ -5,8 +5,8 @@
 
 #include "host/printing/file_name.h"
 #include "host/session/session_history.h"
-#include "host/window/access_keys.h"
 #include "host/window/dialog_button.h"
+#include "host/window/explanations.h"
 #include "host/window/finder.h"
 #include "host/window/focus_ring.h"
 #include "host/window/foreign_text.h"
@@ -48,18 +48,23 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_messages(m_bar, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
       m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
-      m_wait(this, m_cancel), m_waiting(new WaitingPage(this)),
-      m_keys(new AccessKeys(this, {m_print, m_picker, m_cancel, m_wait.sign(), m_book->pages(), m_unavailable,
-                                   m_waiting, m_result, m_bar})),
-      m_finder(new Finder(this)), m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this))
+      m_wait(this, m_cancel), m_waiting(new WaitingPage(this)), m_finder(new Finder(this)),
+      m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this)),
+      m_layout(this, {m_picker,
+                      m_book,
+                      {m_unavailable, m_waiting, m_result},
+                      m_bar,
+                      {m_wait.sign(), m_cancel, m_print},
+                      m_finder})
 {
     const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
+    m_picker->addBeside(m_settings->button());
+    m_print->setDefault(true);
     m_book->setDocuments(&m_documentChoice);
-    build();
     connectAll();
     showState(State::Unavailable);
     resize(720, qMax(600, usualLines * fontMetrics().height()));
@@ -97,10 +102,10 @@ void PrintWindow::connectAll()
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
     connect(m_book, &PageBook::left, &m_messages, [this] { m_messages.check(); });
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
-    connect(m_book, &PageBook::shown, this, &PrintWindow::arrange);
+    connect(m_book, &PageBook::shown, &m_layout, &WindowLayout::arrange);
     connect(m_book, &PageBook::grown, this, [this] { keepLabelsAligned(this); });
     connect(m_book, &PageBook::shown, &m_messages, &SessionMessages::showNotices);
-    connect(m_bar, &MessageBar::buttonsChanged, this, &PrintWindow::arrange);
+    connect(m_bar, &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrange);
     connect(m_book, &PageBook::chosen, this, [this] {
         sessionChanged();
         m_messages.check();
@@ -118,8 +123,8 @@ void PrintWindow::connectAll()
     });
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
-    connect(m_finder, &Finder::partsChanged, this, &PrintWindow::arrange);
-    connect(m_help, &HelpDesk::shown, this, &PrintWindow::arrange);
+    connect(m_finder, &Finder::partsChanged, &m_layout, &WindowLayout::arrange);
+    connect(m_help, &HelpDesk::shown, &m_layout, &WindowLayout::arrange);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_finder, &Finder::open);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, m_help,
             &HelpDesk::toggle);
@@ -165,7 +170,7 @@ void PrintWindow::showState(State state)
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
         m_print->setEnabled(false);
-    arrange();
+    m_layout.arrange();
 }
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
@@ -226,6 +231,30 @@ void PrintWindow::answer(int index)
     m_messages.check();
 }
 
+// What nobody needs before the window can be seen: ways to help, and what its parts say of themselves.
+void PrintWindow::showGuide()
+{
+    if (m_guide)
+        return;
+    m_guide = new GuideButtons(this);
+    connect(m_guide, &GuideButtons::findWanted, m_finder, &Finder::open);
+    connect(m_guide, &GuideButtons::helpWanted, m_help, &HelpDesk::toggle);
+    // Its place is then taken by what is waited for.
+    connect(&m_wait, &PanelWait::noticed, m_guide, &QWidget::hide);
+    connect(&m_wait, &PanelWait::ended, m_guide, [this] { m_guide->setVisible(m_state == State::Choosing); });
+    m_layout.addGuide(m_guide);
+    m_guide->setVisible(m_state == State::Choosing && !m_wait.isUnderWay());
+    for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
+             {m_picker, QStringLiteral("printer")},
+             {m_settings->button(), QStringLiteral("presets")},
+             {m_book->list(), QStringLiteral("pages")},
+             {m_cancel, QStringLiteral("cancel")}})
+        part->setWhatsThis(explanationOf(setting));
+    if (!m_task.settingsOnly)
+        m_print->setWhatsThis(explanationOf(QStringLiteral("print")));
+    m_layout.arrange();
+}
+
 void PrintWindow::finishLater()
 {
     m_news.loadList();
@@ -234,6 +263,20 @@ void PrintWindow::finishLater()
     showGuide();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
+}
+
+void PrintWindow::showEvent(QShowEvent *event)
+{
+    m_layout.fit();
+    QDialog::showEvent(event);
+    if (!focusWidget())
+        m_book->list()->setFocus();
+}
+
+void PrintWindow::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    m_layout.adapt();
 }
 
 void PrintWindow::checkDocuments()

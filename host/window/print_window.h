@@ -14,6 +14,7 @@
 #include "host/window/printer_opener.h"
 #include "host/window/sent_job.h"
 #include "host/window/session_messages.h"
+#include "host/window/window_layout.h"
 #include "platform/awaited.h"
 
 #include <QDialog>
@@ -21,11 +22,8 @@
 #include <memory>
 #include <optional>
 
-class QHBoxLayout;
-
 namespace host {
 
-class AccessKeys;
 class DialogButton;
 class Finder;
 class GreyedChoices;
@@ -70,7 +68,7 @@ public:
     // Shows the session's pages anew, as after its panels have become others.
     void showSession();
     // How large the window may be, instead of what its screen has free.
-    void setRoom(const QSize &room);
+    void setRoom(const QSize &room) { m_layout.setRoom(room); }
 
 public Q_SLOTS:
     void print();
@@ -89,15 +87,10 @@ protected:
 private:
     enum class State { Unavailable, Waiting, Choosing, Sending, Done };
 
-    void build();
     void connectAll();
     void connectJob();
     void connectOpener();
     void showState(State state);
-    // Tab order, access keys and size follow what is shown.
-    void arrange();
-    void fit();
-    void setCompact(bool compact);
     // Shows meanwhile which printer is awaited; the receiver gets it when no panel waits.
     void openWished(const PrinterWish &wish, PrinterOpener::Receiver receiver);
     void openTask();
@@ -160,15 +153,11 @@ private:
     DialogButton *m_print;
     PanelWait m_wait;
     WaitingPage *m_waiting;
-    AccessKeys *m_keys;
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;
     GuideButtons *m_guide = nullptr; // made once the window can be seen
-    QHBoxLayout *m_footer;
-    QHBoxLayout *m_barRow;
-    QSize m_room;        // null for what the screen has free
-    int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
+    WindowLayout m_layout;
 };
 
 } // namespace host
