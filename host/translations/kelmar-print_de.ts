@@ -1756,6 +1756,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Das Dokument wird an den Druckserver gesendet …</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Der Auftrag wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>Druck &amp;abbrechen</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Das Dokument wird gelesen …</translation>
+    </message>
+</context>
+<context>
     <name>host::LayoutForm</name>
     <message>
         <source>Page layout</source>
@@ -2090,10 +2109,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Es fehlt ein Dokument oder ein Drucker dafür</translation>
     </message>
     <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Das Dokument wird an den Druckserver gesendet …</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
@@ -2114,16 +2129,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Nich&amp;t warten</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Der Auftrag wird abgebrochen …</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Der Druckserver hat noch nicht geantwortet.</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>Druck &amp;abbrechen</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2132,10 +2139,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The PDF file has been written</source>
         <translation>Die PDF-Datei wurde geschrieben</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Das Dokument wird gelesen …</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>

@@ -1756,6 +1756,25 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Enviando el documento al servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Cancelando el trabajo…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Cancelar la impresión</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Leyendo el documento…</translation>
+    </message>
+</context>
+<context>
     <name>host::LayoutForm</name>
     <message>
         <source>Page layout</source>
@@ -2106,20 +2125,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No hay ninguna página llamada «%1».</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Cancelando el trabajo…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>El servidor de impresión aún no ha respondido.</translation>
-    </message>
-    <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Enviando el documento al servidor de impresión…</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Cancelar la impresión</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -2132,10 +2139,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The PDF file has been written</source>
         <translation>Se ha guardado el archivo PDF</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Leyendo el documento…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>

@@ -1756,6 +1756,25 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Envoi du document au serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annulation de la tâche…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annuler l’impression</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lecture du document…</translation>
+    </message>
+</context>
+<context>
     <name>host::LayoutForm</name>
     <message>
         <source>Page layout</source>
@@ -2090,10 +2109,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Il n’y a pas de document, ou pas d’imprimante pour l’imprimer</translation>
     </message>
     <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Envoi du document au serveur d’impression…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
@@ -2114,16 +2129,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Ne pl&amp;us attendre</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Annulation de la tâche…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Le serveur d’impression n’a pas encore répondu.</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Annuler l’impression</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2132,10 +2139,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The PDF file has been written</source>
         <translation>Le fichier PDF a été écrit</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Lecture du document…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>

@@ -1756,6 +1756,25 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Invio del documento al server di stampa…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annullamento del lavoro…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annulla la stampa</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lettura del documento…</translation>
+    </message>
+</context>
+<context>
     <name>host::LayoutForm</name>
     <message>
         <source>Page layout</source>
@@ -2106,20 +2125,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Non c’è alcuna pagina chiamata «%1».</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Annullamento del lavoro…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Il server di stampa non ha ancora risposto.</translation>
-    </message>
-    <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Invio del documento al server di stampa…</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Annulla la stampa</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -2132,10 +2139,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The PDF file has been written</source>
         <translation>Il file PDF è stato scritto</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Lettura del documento…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>

@@ -1756,6 +1756,25 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>文書をプリントサーバーに送信しています…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>ジョブをキャンセルしています…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>印刷をキャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>文書を読み込んでいます…</translation>
+    </message>
+</context>
+<context>
     <name>host::LayoutForm</name>
     <message>
         <source>Page layout</source>
@@ -2090,10 +2109,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷する文書またはプリンターがありません</translation>
     </message>
     <message>
-        <source>Sending the document to the print server…</source>
-        <translation>文書をプリントサーバーに送信しています…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>閉じる(&amp;C)</translation>
     </message>
@@ -2114,16 +2129,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>待機をやめる(&amp;E)</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>ジョブをキャンセルしています…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>プリントサーバーからまだ応答がありません。</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>印刷をキャンセル(&amp;C)</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2132,10 +2139,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The PDF file has been written</source>
         <translation>PDF ファイルを書き出しました</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>文書を読み込んでいます…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>

@@ -7,12 +7,11 @@
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/extensions.h"
-#include "host/window/job_sender.h"
+#include "host/window/job_desk.h"
 #include "host/window/panel_wait.h"
 #include "host/window/print_task.h"
 #include "host/window/printer_news.h"
 #include "host/window/printer_opener.h"
-#include "host/window/sent_job.h"
 #include "host/window/session_messages.h"
 #include "host/window/window_layout.h"
 #include "platform/awaited.h"
@@ -40,9 +39,9 @@ class WaitingPage;
 
 // The print dialog. Its session lives for as long as its printer is chosen; a change of printer makes a new
 // one and takes along what has been chosen. The print system and the extensions are borrowed; they outlive it
-// and everything that is under way beside its thread when it goes. What takes its
-// time runs beside its thread and shows a page with a way out, or a sign in the footer; only open() and the
-// beginning of sending wait for a near server, 50 ms at most.
+// and everything that is under way beside its thread when it goes. What takes its time runs beside its thread
+// and shows a page with a way out, or a sign in the footer; only open() and the beginning of sending wait for
+// a near server, 50 ms at most.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -56,7 +55,7 @@ public:
     bool open(PrintError *error);
     DialogSession *session() const { return m_session.get(); }
     // What became of the job; nil before there is one, and when it was not accepted.
-    const std::optional<Submission> &submission() const { return m_job.submission(); }
+    const std::optional<Submission> &submission() const { return m_jobs.submission(); }
     // Why the task could not be done after all, where open() could not tell yet.
     const PrintError &refusal() const { return m_refusal; }
     // Whether a printer is still being opened.
@@ -77,7 +76,6 @@ public Q_SLOTS:
     void loadPrinterList() { m_news.loadList(); }
     // Does what can wait until the user sees the window.
     void finishLater();
-    void retry();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -94,6 +92,7 @@ private:
     // Shows meanwhile which printer is awaited; the receiver gets it when no panel waits.
     void openWished(const PrinterWish &wish, PrinterOpener::Receiver receiver);
     void openTask();
+    void retry();
     void openPicked(const QString &name);
     void showOpening();
     void showFirst(PrinterOpening opening);
@@ -117,7 +116,8 @@ private:
     void send();
     void savePdf();
     void pdfSaved(const PrintError &error, const QString &path);
-    void sent(const Submission &submission);
+    void showSending();
+    void takeBack(const PrintError &error);
     void showResult();
     void tellElsewhere(const QString &text, const JobStatus &status);
     void printAgain();
@@ -132,9 +132,6 @@ private:
     std::unique_ptr<DialogSession> m_session;
     std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
     PrinterOpener m_opener;
-    JobSender m_sender;
-    SentJob m_job;
-    bool m_isLeaving = false;          // once the end of the job on its way is known
     PrintError *m_taskError = nullptr; // while open() runs
     PrintError m_refusal;
     PrintError m_documentProblem; // not yet shown
@@ -153,6 +150,7 @@ private:
     DialogButton *m_print;
     PanelWait m_wait;
     WaitingPage *m_waiting;
+    JobDesk m_jobs;
     Finder *m_finder;
     GreyedChoices *m_greyed;
     HelpDesk *m_help;

@@ -24,34 +24,19 @@ namespace host {
 // What the window and the job it sends tell each other.
 void PrintWindow::connectJob()
 {
-    connect(&m_sender, &JobSender::submitting, this, [this] {
-        m_waiting->setTask(tr("Sending the document to the print server…"), tr("Ca&ncel Printing"));
-    });
-    connect(&m_sender, &JobSender::progressed, m_waiting, &WaitingPage::setProgress);
-    connect(&m_sender, &JobSender::ended, this, &PrintWindow::sent);
-    connect(&m_job, &SentJob::changed, m_result, &ResultPage::showStatus);
-    connect(&m_job, &SentJob::changed, this, [this](const JobStatus &status) {
-        if (status.isFinal())
-            m_news.follow(false);
-    });
-    connect(&m_job, &SentJob::newsCame, this,
-            [this](const JobStatus &status) { tellElsewhere(m_result->text(), status); });
-    connect(&m_job, &SentJob::changeFailed, m_result, &ResultPage::showProblem);
-    connect(&m_job, &SentJob::earlierChanged, this, [this] { m_result->showEarlier(m_job.earlierLines()); });
-    connect(&m_job, &SentJob::earlierEnded, this, &PrintWindow::tellElsewhere);
-    connect(m_result, &ResultPage::actionWanted, &m_job, &SentJob::change);
+    connect(&m_jobs, &JobDesk::delayed, this, &PrintWindow::showSending);
+    connect(&m_jobs, &JobDesk::rejected, this, &PrintWindow::takeBack);
+    connect(&m_jobs, &JobDesk::sent, this, &PrintWindow::showResult);
+    connect(&m_jobs, &JobDesk::left, this, [this](bool kept) { done(kept ? Accepted : Rejected); });
+    connect(&m_jobs, &JobDesk::ended, &m_news, [this] { m_news.follow(false); });
+    connect(&m_jobs, &JobDesk::newsCame, this, &PrintWindow::tellElsewhere);
     connect(m_result, &ResultPage::printAgainWanted, this, &PrintWindow::printAgain);
 }
 
 void PrintWindow::stopWaiting()
 {
-    if (m_sender.dropReading())
+    if (m_jobs.stop())
         return;
-    if (m_sender.isSending()) {
-        m_sender.cancel();
-        m_waiting->setCancelling(tr("Canceling the job…"));
-        return;
-    }
     m_opener.drop();
     if (m_session)
         stayWithPrinter();
@@ -67,7 +52,7 @@ void PrintWindow::goOn()
 
 void PrintWindow::print()
 {
-    if (submission() || m_sender.isSending() || m_wait.isUnderWay() || isOpening() || m_opener.isPicking() ||
+    if (submission() || m_jobs.isSending() || m_wait.isUnderWay() || isOpening() || m_opener.isPicking() ||
         (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
@@ -93,23 +78,31 @@ void PrintWindow::deliver()
 
 void PrintWindow::send()
 {
-    if (!m_sender.send({m_documents,
-                        m_documentChoice.included(),
-                        m_task.documentName,
-                        {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
-                        m_settings->rememberUse()}))
-        return;
-    m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
-    m_sender.tellProgress();
-    if (!m_sender.isSending()) // a signal has come meanwhile
-        return;
+    m_jobs.send({m_documents,
+                 m_documentChoice.included(),
+                 m_task.documentName,
+                 {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
+                 m_settings->rememberUse()},
+                documentNames());
+}
+
+void PrintWindow::showSending()
+{
     showState(State::Sending);
     m_waiting->cancelButton()->setFocus();
 }
 
+// To what was to be printed.
+void PrintWindow::takeBack(const PrintError &error)
+{
+    showState(State::Choosing);
+    allowPrinting();
+    showError(error);
+}
+
 void PrintWindow::savePdf()
 {
-    if (m_sender.isSending() || m_wait.isUnderWay() || isOpening() || !m_book->checkTyped())
+    if (m_jobs.isSending() || m_wait.isUnderWay() || isOpening() || !m_book->checkTyped())
         return;
     m_session->save();
     sessionChanged();
@@ -136,31 +129,8 @@ void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
         m_bar->showMessage(MessageBar::Kind::Success, tr("The PDF file has been written"), {path});
 }
 
-void PrintWindow::sent(const Submission &submission)
-{
-    const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
-    if (!isRejected)
-        m_job.take(m_session->destination(), submission);
-    if (m_isLeaving) {
-        done(isRejected ? Rejected : Accepted);
-        m_sender.releaseSignals();
-        return;
-    }
-    m_sender.releaseSignals();
-    if (isRejected) {
-        showState(State::Choosing);
-        allowPrinting();
-        showError(submission.error);
-        return;
-    }
-    showResult();
-}
-
 void PrintWindow::showResult()
 {
-    m_result->showSubmission(m_session->destination().displayName(), documentNames(), *submission());
-    m_job.follow();
-    m_result->showEarlier(m_job.earlierLines());
     showState(State::Done);
     m_cancel->setText(tr("&Close"));
     m_cancel->setDefault(true);
@@ -179,7 +149,7 @@ void PrintWindow::tellElsewhere(const QString &text, const JobStatus &status)
 // The same documents with the same settings, once more. What was sent before is still followed.
 void PrintWindow::printAgain()
 {
-    m_job.setAside();
+    m_jobs.setAside();
     m_cancel->setText(tr("Cancel"));
     m_cancel->setAccessibleDescription(QString());
     m_print->setDefault(true);
@@ -195,9 +165,9 @@ void PrintWindow::done(int result)
 // Escape and Cancel end the sending, not the dialog; who presses again does not want to see how it ends.
 void PrintWindow::reject()
 {
-    if (m_sender.isCancelled())
+    if (m_jobs.isCancelled())
         close();
-    else if (m_sender.isSending())
+    else if (m_jobs.isSending())
         stopWaiting();
     else
         QDialog::reject();
@@ -206,13 +176,10 @@ void PrintWindow::reject()
 // Whoever closes the window does not wait for it: the job is cancelled, and its end is seen to unseen.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_sender.isSending() || m_sender.dropReading()) {
+    if (m_jobs.leave())
         QDialog::closeEvent(event);
-        return;
-    }
-    m_isLeaving = true;
-    stopWaiting();
-    event->accept();
+    else
+        event->accept();
 }
 
 } // namespace host
