@@ -22,10 +22,8 @@
 #include <QFrame>
 #include <QPushButton>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -84,7 +82,6 @@ private Q_SLOTS:
     void serverAnswersLate();
     void windowGoesBeforeTheAnswer_data();
     void windowGoesBeforeTheAnswer();
-    void serverPauses();
     void deviceIsSilent_data();
     void deviceIsSilent();
     void printerArrivesWhileAPanelWaits();
@@ -344,6 +341,13 @@ void WindowAnswersTest::settingsFileNeverAnswers()
 {
     const QString path = QSettings().fileName();
     const QString aside = path + u".aside"_s;
+    const auto release = [&] {
+        QVERIFY(QFile::rename(path, aside));
+        const platform::UniqueFd writer(
+            ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+        QVERIFY(QFile::remove(aside));
+        QVERIFY(writer); // somebody was waiting
+    };
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
     QFile::remove(path);
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0); // who opens it waits for a writer
@@ -351,11 +355,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
     open(QString());
     QTRY_VERIFY(find<WaitingPage>()->isVisible());
     QVERIFY(!m_window->session());
-    QVERIFY(QFile::rename(path, aside));
-    const platform::UniqueFd writer(
-        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
-    QVERIFY(QFile::remove(aside));
-    QVERIFY(writer); // somebody was waiting
+    release();
     QTRY_VERIFY(m_window->session());
 
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
@@ -363,11 +363,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
     QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 20'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
-    QVERIFY(QFile::rename(path, aside));
-    const platform::UniqueFd other(
-        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
-    QVERIFY(QFile::remove(aside));
-    QVERIFY(other);
+    release();
 }
 
 void WindowAnswersTest::serverAnswersLate()
@@ -403,22 +399,6 @@ void WindowAnswersTest::windowGoesBeforeTheAnswer()
     }
     QVERIFY(platform::Background::isUnderWay());
     m_window.reset();
-}
-
-void WindowAnswersTest::serverPauses()
-{
-    const auto pid = static_cast<pid_t>(m_server.processId());
-    ::kill(pid, SIGSTOP);
-    m_heart->start();
-    open();
-    QTRY_VERIFY(find<WaitingPage>()->isVisible());
-    ::kill(pid, SIGCONT);
-    QTRY_VERIFY(m_window->session());
-    ::kill(pid, SIGSTOP);
-    QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
-    QTRY_VERIFY(find<WaitingPage>()->isVisible());
-    ::kill(pid, SIGCONT);
-    QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
 }
 
 void WindowAnswersTest::deviceIsSilent_data()
