@@ -24,6 +24,7 @@
 #include <QSettings>
 #include <QTest>
 
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void serverAnswersLate();
     void windowGoesBeforeTheAnswer_data();
     void windowGoesBeforeTheAnswer();
+    void serverPauses();
     void deviceIsSilent_data();
     void deviceIsSilent();
     void printerArrivesWhileAPanelWaits();
@@ -399,6 +401,22 @@ void WindowAnswersTest::windowGoesBeforeTheAnswer()
     }
     QVERIFY(platform::Background::isUnderWay());
     m_window.reset();
+}
+
+void WindowAnswersTest::serverPauses()
+{
+    const auto pid = static_cast<pid_t>(m_server.processId());
+    ::kill(pid, SIGSTOP);
+    m_heart->start();
+    open();
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    ::kill(pid, SIGCONT);
+    QTRY_VERIFY(m_window->session());
+    ::kill(pid, SIGSTOP);
+    QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    ::kill(pid, SIGCONT);
+    QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
 }
 
 void WindowAnswersTest::deviceIsSilent_data()

@@ -48,6 +48,7 @@ public:
     // Returns when the server is gone. Connections to it are closed; calls fail until it is started again.
     void stop();
     bool isRunning() const;
+    qint64 processId() const { return m_server.processId(); }
     QString problem() const { return m_problem; }
 
     // For CUPS_SERVER.
