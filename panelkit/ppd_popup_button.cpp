@@ -3,9 +3,9 @@
 
 #include "panelkit/ppd_popup_button.h"
 
+#include "panelkit/obstacle_text.h"
 #include "panelkit/panel_base.h"
 #include "platform/binding.h"
-#include "platform/bundle.h"
 #include "plugin/manager.h"
 #include "ppd/ppd_model.h"
 
@@ -14,8 +14,6 @@
 namespace {
 
 const QString selectedIndexBinding = QStringLiteral("selectedIndex");
-constexpr const char *conflictText =
-    QT_TRANSLATE_NOOP("QVPopUpButton_M880", "Not available while \"%1\" is \"%2\".");
 
 } // namespace
 
@@ -138,17 +136,13 @@ void QVPopUpButton_M880::decide(int index)
 
 QString QVPopUpButton_M880::reason(const CurrentChoice &obstacle) const
 {
-    const auto &bundle = m_manager->bundle();
-    const QString name = m_manager->ppd()->localizedOptionNameWithBundle(obstacle.option, bundle.get());
     QString text = obstacle.choice;
     for (const QVariant &choice :
          m_dataSource->valueForKey(obstacle.option + QStringLiteral("Choices")).toList()) {
         if (choice.toMap().value(QVPPDChoiceKey).toString() == obstacle.choice)
             text = choice.toMap().value(QVPPDTextKey).toString();
     }
-    const QString sentence =
-        bundle ? bundle->translate("QVPopUpButton_M880", conflictText) : QString::fromUtf8(conflictText);
-    return sentence.arg(name, text);
+    return QVObstacleText(*m_manager, obstacle.option, text);
 }
 
 void QVPopUpButton_M880::setItemState(int index, const CurrentChoice *obstacle)

@@ -4,6 +4,7 @@
 #include "panels/color_settings_1_panel.h"
 
 #include "device/advanced_color_settings.h"
+#include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
 #include "panels/view_switch.h"
 #include "panels/view_utilities.h"
@@ -30,8 +31,9 @@ constexpr int renderingIntentCount = 4;
 
 void registerDependentKeys()
 {
-    platform::KeyValueObject::setKeysTriggerChangeNotificationsForDependentKey(
-        &QVPDEColorSettings1_M880::staticMetaObject, {imageTypeKey}, QStringLiteral("advancedSelected"));
+    for (const QString &key : {QStringLiteral("advancedSelected"), QStringLiteral("advancedHint")})
+        platform::KeyValueObject::setKeysTriggerChangeNotificationsForDependentKey(
+            &QVPDEColorSettings1_M880::staticMetaObject, {imageTypeKey}, key);
 }
 
 QWidget *firstControlIn(QWidget *view)
@@ -157,6 +159,14 @@ void QVPDEColorSettings1_M880::setAdvancedSelected(bool selected)
 {
     const platform::KeyChange change(this, QStringLiteral("advancedSelected"));
     m_advancedSelected = selected;
+}
+
+QString QVPDEColorSettings1_M880::advancedHint()
+{
+    if (advancedSelected())
+        return manager()->bundle()->translate("ColorSettings1", "The printer’s color profiles");
+    const QString choice = valueForKey(imageTypeKey).toString();
+    return QVObstacleText(*manager(), imageTypeKey, QVTextOfChoice(*manager(), imageTypeKey, choice));
 }
 
 QVAdvancedColorSettingsManager_M880 *QVPDEColorSettings1_M880::advancedColorSettingsManager() const

@@ -26,6 +26,8 @@ class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880, pu
     Q_PROPERTY(bool hasAdvanced READ hasAdvanced WRITE setHasAdvanced STORED false)
     // Whether the image type is "Advanced". What is set here is kept, but never read.
     Q_PROPERTY(bool advancedSelected READ advancedSelected WRITE setAdvancedSelected STORED false)
+    // What the advanced view has, or why it cannot be opened.
+    Q_PROPERTY(QString advancedHint READ advancedHint STORED false)
     Q_PROPERTY(QWidget *currentView READ currentView WRITE setCurrentView STORED false)
     // Null without an advanced view.
     Q_PROPERTY(platform::KeyValueObject *advancedColorSettingsManager READ advancedColorSettingsObject)
@@ -48,6 +50,7 @@ public:
     void setHasAdvanced(bool has);
     bool advancedSelected();
     void setAdvancedSelected(bool selected);
+    QString advancedHint();
     QVAdvancedColorSettingsManager_M880 *advancedColorSettingsManager() const;
     void setAdvancedColorSettingsManager(std::unique_ptr<QVAdvancedColorSettingsManager_M880> settings);
     platform::KeyValueObject *advancedColorSettingsObject() const;

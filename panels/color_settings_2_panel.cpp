@@ -3,6 +3,7 @@
 
 #include "panels/color_settings_2_panel.h"
 
+#include "panelkit/obstacle_text.h"
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
 #include "plugin/manager.h"
@@ -93,7 +94,8 @@ QString QVPDEColorSettings2_M880::colorBalanceReason() const
     const QString name = manager()->ppd()
                              ? manager()->ppd()->localizedOptionNameWithBundle(colorTypeKey, bundle.get())
                              : colorTypeKey;
-    return bundle->translate("QVPDEColorSettings2_M880", reason).arg(name, textOfColorType());
+    return bundle->translate("QVPDEColorSettings2_M880", reason)
+        .arg(name, QVTextOfChoice(*manager(), colorTypeKey, m_colorType));
 }
 
 // Cyan at one step stands for all four balances: the printers forbid them together or not at all.
@@ -123,19 +125,4 @@ void QVPDEColorSettings2_M880::resetOptionToNeutral(const QString &key)
     const auto choices = manager()->ppd() ? manager()->ppd()->choicesForOption(key) : std::nullopt;
     if (choices && choices->contains(neutral) && valueForKey(key).toString() != neutral)
         setValueForKey(neutral, key);
-}
-
-QString QVPDEColorSettings2_M880::textOfColorType() const
-{
-    const auto choices =
-        manager()->ppd()
-            ? manager()->ppd()->localizedChoicesForOptionWithBundle(colorTypeKey, manager()->bundle().get())
-            : std::nullopt;
-    if (choices) {
-        for (const QVPPDChoice_M880 &choice : *choices) {
-            if (choice.choice == m_colorType)
-                return choice.text;
-        }
-    }
-    return m_colorType;
 }

@@ -40,7 +40,6 @@ public:
 
 private:
     void resetOptionToNeutral(const QString &key);
-    QString textOfColorType() const;
 
     bool m_colorBalanceAllowed = false;
     QString m_colorType; // the last one announced; nil before

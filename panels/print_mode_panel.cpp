@@ -3,7 +3,9 @@
 
 #include "panels/print_mode_panel.h"
 
+#include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
+#include "platform/bundle.h"
 #include "plugin/manager.h"
 #include "plugin/model_names.h"
 #include "plugin/panel_roster.h"
@@ -36,6 +38,7 @@ void registerDependentKeys()
                                                                                        dependentKey);
         };
         triggers({printModeKey}, QStringLiteral("isPrivate"));
+        triggers({departmentKey}, QStringLiteral("departmentCodeHint"));
         triggers(digitKeys(departmentDigit), QStringLiteral("departmentCode"));
         triggers(digitKeys(passwordDigit), QStringLiteral("privatePassword"));
         return true;
@@ -105,6 +108,15 @@ QString QVPDEPrintMode_M880::departmentCode()
 void QVPDEPrintMode_M880::setDepartmentCode(const QString &code)
 {
     decomposeCodeForOption(code, departmentDigit);
+}
+
+QString QVPDEPrintMode_M880::departmentCodeHint()
+{
+    const QString choice = valueForKey(departmentKey).toString();
+    if (choice == u"True" || choice.isEmpty())
+        return manager()->bundle()->translate("PrintMode",
+                                              "Five digits of the department that the job is charged to");
+    return QVObstacleText(*manager(), departmentKey, QVTextOfChoice(*manager(), departmentKey, choice));
 }
 
 QString QVPDEPrintMode_M880::privatePassword()

@@ -16,6 +16,8 @@ class QVPDEPrintMode_M880 : public QVPDE_M880, public QVPDELoading_M880
     // Both codes are exactly five digits, also when set.
     Q_PROPERTY(QString departmentCode READ departmentCode WRITE setDepartmentCode)
     Q_PROPERTY(QString privatePassword READ privatePassword WRITE setPrivatePassword)
+    // What the code is for, or why there can be none.
+    Q_PROPERTY(QString departmentCodeHint READ departmentCodeHint STORED false)
     Q_PROPERTY(bool isPrivate READ isPrivate)
     Q_PROPERTY(bool hasPrintMode READ hasPrintMode WRITE setHasPrintMode STORED false)
 public:
@@ -28,6 +30,7 @@ public:
 
     QString departmentCode();
     void setDepartmentCode(const QString &code);
+    QString departmentCodeHint();
     // "00000" on a model without password options, where setting it does nothing.
     QString privatePassword();
     void setPrivatePassword(const QString &code);

@@ -64,8 +64,8 @@
         <translation>Farb&amp;profile…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>Die Farbprofile des Druckers; verfügbar, solange der Bildtyp „Erweitert“ ist</translation>
+        <source>The printer’s color profiles</source>
+        <translation>Die Farbprofile des Druckers</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

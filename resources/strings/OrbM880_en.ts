@@ -64,8 +64,8 @@
         <translation>Color Pro&amp;files…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>The printer’s color profiles; available while the image type is “Advanced”</translation>
+        <source>The printer’s color profiles</source>
+        <translation>The printer’s color profiles</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

@@ -64,8 +64,8 @@
         <translation>Per&amp;files de color…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>Los perfiles de color de la impresora; disponibles mientras el tipo de imagen sea «Avanzado»</translation>
+        <source>The printer’s color profiles</source>
+        <translation>Los perfiles de color de la impresora</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

@@ -64,8 +64,8 @@
         <translation>&amp;Profils de couleurs…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>Les profils de couleurs de l’imprimante&#xa0;; disponibles si le type d’image est «&#xa0;Avancé&#xa0;»</translation>
+        <source>The printer’s color profiles</source>
+        <translation>Les profils de couleurs de l’imprimante</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

@@ -64,8 +64,8 @@
         <translation>Pro&amp;fili colore…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>I profili colore della stampante; disponibili quando il tipo di immagine è «Avanzato»</translation>
+        <source>The printer’s color profiles</source>
+        <translation>I profili colore della stampante</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

@@ -64,8 +64,8 @@
         <translation>カラープロファイル(&amp;F)…</translation>
     </message>
     <message>
-        <source>The printer’s color profiles; available while the image type is “Advanced”</source>
-        <translation>プリンターのカラープロファイル（画像タイプが「詳細」のときに使用できます）</translation>
+        <source>The printer’s color profiles</source>
+        <translation>プリンターのカラープロファイル</translation>
     </message>
     <message>
         <source>Black &amp;overprint:</source>

@@ -78,7 +78,11 @@ void PrintModePanelTest::departmentCodeIsTypedWhereItIsOn()
     const QWidget *view = dialog.show(panel);
     auto *field = widget<platform::TextField>(view, "departmentCodeField");
     QVERIFY(!field->isEnabled());
+    const QString whyNot = u"Not available while “Department Code” is “Off”."_s;
+    QCOMPARE(field->toolTip(), whyNot);
+    QCOMPARE(field->accessibleDescription(), whyNot);
     panel->setValueForKey(u"True"_s, u"DeptCode"_s);
+    QVERIFY(field->toolTip().startsWith(u"Five digits"_s));
     panel->setDepartmentCode(u"01230"_s);
     QCOMPARE(field->text(), u"01230"_s);
     QTest::mouseDClick(field, Qt::LeftButton); // selects the code that is there
