@@ -137,7 +137,7 @@ void ChangeMarks::add(QWidget *widget, const QStringList &keys)
     onChange(widget, m_history);
     if (keys.isEmpty())
         return;
-    m_controls.append({widget, keys, {}, {}});
+    m_controls.append({widget, keys, {}, {}, {}});
     for (QWidget *around = widget; around != m_page->parentWidget(); around = around->parentWidget())
         watch(around);
     for (QLineEdit *inner : widget->findChildren<QLineEdit *>())
@@ -184,13 +184,12 @@ void ChangeMarks::refresh()
 
 void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChange> &changes)
 {
-    QWidget *widget = control->widget;
     if (!isChanged) {
         if (control->mark) {
             control->mark->hide();
             control->mark->deleteLater(); // it may be what was pressed
             control->mark = nullptr;
-            widget->setAccessibleDescription(control->ownDescription);
+            describe(control, QString());
         }
         return;
     }
@@ -198,12 +197,23 @@ void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChan
                                      [&](const SettingChange &c) { return control->keys.contains(c.key); });
     const QString earlier = change == changes.end() ? QString() : oneLine(change->before);
     if (!control->mark) {
-        control->ownDescription = widget->accessibleDescription();
         control->mark = new ChangeMark(m_page->parentWidget());
         connect(control->mark, &QAbstractButton::clicked, this, [this, copy = *control] { takeBack(copy); });
     }
     control->mark->tell(earlier);
-    widget->setAccessibleDescription(control->mark->accessibleName());
+    describe(control, control->mark->accessibleName());
+}
+
+// The control may have said something else since.
+void ChangeMarks::describe(Control *control, const QString &change)
+{
+    const QString now = control->widget->accessibleDescription();
+    if (now != control->description)
+        control->ownDescription = now;
+    QStringList parts{change, control->ownDescription};
+    parts.removeAll(QString());
+    control->description = parts.join(QStringLiteral(". "));
+    control->widget->setAccessibleDescription(control->description);
 }
 
 void ChangeMarks::placeAll()

@@ -47,11 +47,13 @@ private:
         QStringList keys;
         QPointer<ChangeMark> mark; // while it is changed
         QString ownDescription;    // for who listens, without the change
+        QString description;       // what was made of it
     };
     void findControls();
     QStringList keysSetBy(const QWidget *control) const;
     void add(QWidget *widget, const QStringList &keys);
     void watch(QWidget *widget);
+    void describe(Control *control, const QString &change);
     void show(Control *control, bool isChanged, const QList<SettingChange> &changes);
     void placeAll();
     void place(const Control &control, const QList<QWidget *> &obstacles);

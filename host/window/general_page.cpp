@@ -12,6 +12,7 @@
 #include "host/window/explanations.h"
 #include "host/window/layout_form.h"
 #include "host/window/option_form.h"
+#include "host/window/page_controls.h"
 #include "host/window/range_check.h"
 
 #include <QCheckBox>
@@ -181,6 +182,15 @@ void GeneralPage::enableCollate()
                                   : tr("Not available while \"%1\" is \"%2\".").arg(tr("Copies")).arg(1));
 }
 
+void GeneralPage::enablePages(bool some)
+{
+    m_pages->setEnabled(some);
+    m_pages->setToolTip(some ? QString()
+                             : tr("Not available while \"%1\" is \"%2\".")
+                                   .arg(bareText(tr("Pages:")), bareText(m_allPages->text())));
+    m_pages->setAccessibleDescription(m_pages->toolTip());
+}
+
 void GeneralPage::addPages(QGridLayout *grid)
 {
     const QString pages = m_session->general().pages;
@@ -189,13 +199,13 @@ void GeneralPage::addPages(QGridLayout *grid)
     m_pages->setText(pages);
     m_allPages->setChecked(pages.isEmpty());
     m_somePages->setChecked(!pages.isEmpty());
-    m_pages->setEnabled(!pages.isEmpty());
+    enablePages(!pages.isEmpty());
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_problem->hide();
     paintProblem();
     connect(m_somePages, &QRadioButton::toggled, this, [this](bool on) {
-        m_pages->setEnabled(on);
+        enablePages(on);
         if (on)
             m_pages->setFocus();
         pagesEdited();
@@ -298,7 +308,7 @@ void GeneralPage::showProblem()
 void GeneralPage::setProblemShown(bool shown)
 {
     m_problem->setVisible(shown);
-    m_pages->setAccessibleDescription(shown ? m_problem->text() : QString());
+    m_pages->setAccessibleDescription(shown ? m_problem->text() : m_pages->toolTip());
 }
 
 void GeneralPage::paintProblem()
@@ -343,7 +353,7 @@ void GeneralPage::showGeneral()
     if (typed == general.pages)
         return;
     const QSignalBlocker quiet(m_somePages); // which gives the field the focus
-    m_pages->setEnabled(!general.pages.isEmpty());
+    enablePages(!general.pages.isEmpty());
     m_somePages->setChecked(!general.pages.isEmpty());
     m_allPages->setChecked(general.pages.isEmpty());
     m_pages->setText(general.pages);

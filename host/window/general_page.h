@@ -63,6 +63,7 @@ private:
     void showSides();
     void addCopies(QGridLayout *grid);
     void enableCollate();
+    void enablePages(bool some);
     void showGeneral();
     void addPages(QGridLayout *grid);
     void pagesEdited();

@@ -28,25 +28,15 @@ namespace {
 constexpr std::chrono::milliseconds flashTime(1000);
 constexpr int flashMargin = 5; // pixels around the control
 
-// "Copies" of "&Copies:", "部数" of "部数(&C):".
-QString bare(QString text)
-{
-    static const QRegularExpression bracketedKey(QStringLiteral("\\s?\\(&[^&]\\)"));
-    text.remove(bracketedKey).remove(QLatin1Char('&'));
-    while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a)))
-        text.chop(1);
-    return text.trimmed();
-}
-
 QString nameOf(const QWidget *control, const QList<QLabel *> &labels)
 {
     if (!control->accessibleName().isEmpty())
         return control->accessibleName();
     if (const auto *button = qobject_cast<const QAbstractButton *>(control))
-        return bare(button->text());
+        return bareText(button->text());
     for (const QLabel *label : labels) {
         if (label->buddy() == control)
-            return bare(label->text());
+            return bareText(label->text());
     }
     return {};
 }
@@ -98,6 +88,15 @@ private:
 };
 
 } // namespace
+
+QString bareText(QString text)
+{
+    static const QRegularExpression bracketedKey(QStringLiteral("\\s?\\(&[^&]\\)"));
+    text.remove(bracketedKey).remove(QLatin1Char('&'));
+    while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a)))
+        text.chop(1);
+    return text.trimmed();
+}
 
 QString keywordOf(const QWidget *control)
 {

@@ -25,6 +25,8 @@ QList<PageControl> controlsOf(const QWidget *page);
 // The control that sets an option, else the one of that name; null where the page has none (yet).
 QWidget *findControl(const QWidget *page, const QString &keyword, const QString &name);
 
+// A label's text as a name: "Copies" of "&Copies:", "部数" of "部数(&C):".
+QString bareText(QString text);
 // The PPD option or key of a panel that a control sets; nil for a widget that sets none.
 QString keywordOf(const QWidget *control);
 

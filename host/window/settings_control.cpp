@@ -47,6 +47,15 @@ QLineEdit *fieldAt(QObject *object)
     return qobject_cast<QLineEdit *>(object);
 }
 
+// What a step has switched off gives the keyboard to what stands before it, which is often its switch.
+void focusBefore(QWidget *gone)
+{
+    QWidget *next = gone->previousInFocusChain();
+    while (next != gone && !((next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisible()))
+        next = next->previousInFocusChain();
+    next->setFocus(Qt::BacktabFocusReason);
+}
+
 } // namespace
 
 SettingsControl::SettingsControl(QWidget *window)
@@ -59,16 +68,8 @@ SettingsControl::SettingsControl(QWidget *window)
     m_undo->setShortcut(Qt::CTRL | Qt::Key_Z);
     m_redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
     window->addActions({m_undo, m_redo});
-    connect(m_undo, &QAction::triggered, this, [this] {
-        note(); // what is still being changed
-        m_history->steps()->undo();
-        Q_EMIT applied();
-    });
-    connect(m_redo, &QAction::triggered, this, [this] {
-        note();
-        m_history->steps()->redo();
-        Q_EMIT applied();
-    });
+    connect(m_undo, &QAction::triggered, this, [this] { step(&QUndoStack::undo); });
+    connect(m_redo, &QAction::triggered, this, [this] { step(&QUndoStack::redo); });
     connect(m_button, &MenuButton::menuWanted, this, &SettingsControl::makeMenu);
     qApp->installEventFilter(this);
     showName();
@@ -114,6 +115,16 @@ void SettingsControl::setActive(bool active)
 {
     m_isActive = active;
     showName();
+}
+
+void SettingsControl::step(void (QUndoStack::*direction)())
+{
+    const QPointer<QWidget> focus = m_window->focusWidget();
+    note(); // what is still being changed
+    (m_history->steps()->*direction)();
+    Q_EMIT applied();
+    if (focus && !(focus->isEnabled() && focus->isVisible()))
+        focusBefore(focus);
 }
 
 void SettingsControl::note()

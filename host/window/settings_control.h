@@ -18,6 +18,7 @@ class QActionGroup;
 class QDialog;
 class QMenu;
 class QPushButton;
+class QUndoStack;
 
 namespace host {
 
@@ -62,6 +63,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void step(void (QUndoStack::*direction)());
     struct Lists
     {
         QList<Preset> presets;
