@@ -163,7 +163,7 @@ void PrintWindow::showState(State state)
     m_picker->setEnabled(state != State::Done && state != State::Sending);
     m_settings->setActive(state == State::Choosing);
     if (m_guide)
-        m_guide->setVisible(state == State::Choosing);
+        m_guide->setVisible(state == State::Choosing && !isSaving());
     if (state == State::Choosing || state == State::Done)
         m_stateTimer.start(betweenStates);
     else

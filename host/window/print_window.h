@@ -135,10 +135,13 @@ private:
     void showBusy(const QString &what);
     void showPainted();
     void showIdle();
+    void showSaving();
+    void endWaitSign();
     void stopWaiting();
     void askState();
     void send();
     void savePdf();
+    bool isSaving() const;
     void pdfSaved(const PrintError &error, const QString &path);
     void sent(const Submission &submission);
     void showResult();

@@ -148,11 +148,29 @@ void PrintWindow::showIdle()
     if (--m_busyDepth > 0)
         return;
     m_waiter->endActivity();
-    m_waitSign->end();
-    if (m_guide)
-        m_guide->setVisible(m_state == State::Choosing);
+    endWaitSign();
     // The panel has to return first.
     QMetaObject::invokeMethod(this, &PrintWindow::goOn, Qt::QueuedConnection);
+}
+
+void PrintWindow::endWaitSign()
+{
+    m_waitSign->end();
+    if (isSaving() && !m_book->isHidden())
+        showSaving();
+    else if (m_guide)
+        m_guide->setVisible(m_state == State::Choosing);
+}
+
+// The dialog can be used meanwhile, but for printing.
+void PrintWindow::showSaving()
+{
+    if (!isSaving() || m_busyDepth > 0 || m_book->isHidden())
+        return;
+    if (m_guide)
+        m_guide->hide();
+    m_waitSign->begin(PdfSaver::tr("Save as PDF"));
+    m_waitSign->showMoving();
 }
 
 void PrintWindow::goOn()
@@ -167,7 +185,7 @@ void PrintWindow::goOn()
 void PrintWindow::print()
 {
     if (submission() || m_sender.isSending() || m_busyDepth > 0 || isOpening() || m_opener.isPicking() ||
-        (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
+        isSaving() || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
         return;
@@ -206,6 +224,11 @@ void PrintWindow::send()
     m_waiting->cancelButton()->setFocus();
 }
 
+bool PrintWindow::isSaving() const
+{
+    return m_pdfSaver && m_pdfSaver->isBusy();
+}
+
 void PrintWindow::savePdf()
 {
     if (m_sender.isSending() || m_busyDepth > 0 || isOpening() || !m_book->checkTyped())
@@ -214,7 +237,11 @@ void PrintWindow::savePdf()
     sessionChanged();
     if (!m_pdfSaver) {
         m_pdfSaver = new PdfSaver(this);
-        connect(m_pdfSaver, &PdfSaver::began, this, [this] { m_print->setEnabled(false); });
+        connect(m_pdfSaver, &PdfSaver::began, this, [this] {
+            constexpr std::chrono::milliseconds noticeable(300);
+            m_print->setEnabled(false);
+            QTimer::singleShot(noticeable, this, &PrintWindow::showSaving);
+        });
         connect(m_pdfSaver, &PdfSaver::ended, this, &PrintWindow::pdfSaved);
     }
     const QStringList files = m_documentChoice.included();
@@ -226,6 +253,8 @@ void PrintWindow::savePdf()
 
 void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
 {
+    if (m_busyDepth == 0)
+        endWaitSign();
     if (m_book->isHidden()) // another printer is being opened
         return;
     allowPrinting();

@@ -85,7 +85,7 @@ void PrintWindow::showGuide()
     // Its place is then taken by what is waited for.
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_guide, &QWidget::hide);
     m_footer->insertWidget(0, m_guide);
-    m_guide->setVisible(m_state == State::Choosing && m_busyDepth == 0);
+    m_guide->setVisible(m_state == State::Choosing && m_busyDepth == 0 && !isSaving());
     for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
              {m_picker, QStringLiteral("printer")},
              {m_settings->button(), QStringLiteral("presets")},
