@@ -1483,6 +1483,41 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>&amp;Vorschlag anwenden</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>&amp;Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Behalten &amp;und prüfen</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>Vorschlag: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>„%1“ schützt Ihr Dokument. Wenn Sie trotzdem drucken, druckt der Drucker möglicherweise ohne diesen Schutz.</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>Diese Einstellungen passen nicht zusammen</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -1718,6 +1753,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Close &amp;Help</source>
         <translation>&amp;Hilfe schließen</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Das Dokument wird an den Druckserver gesendet …</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Der Auftrag wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>Druck &amp;abbrechen</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Das Dokument wird gelesen …</translation>
     </message>
 </context>
 <context>
@@ -2055,30 +2109,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Es fehlt ein Dokument oder ein Drucker dafür</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>Bitte beachten</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>Vorschlag: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>&amp;Vorschlag anwenden</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>Behalten &amp;und prüfen</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>Diese Einstellungen passen nicht zusammen</translation>
-    </message>
-    <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Das Dokument wird an den Druckserver gesendet …</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
@@ -2091,10 +2121,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>„%1“</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Der Druckserver wird abgefragt …</translation>
     </message>
@@ -2103,28 +2129,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Nich&amp;t warten</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Der Auftrag wird abgebrochen …</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Der Druckserver hat noch nicht geantwortet.</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>Druck &amp;abbrechen</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>„%1“ schützt Ihr Dokument. Wenn Sie trotzdem drucken, druckt der Drucker möglicherweise ohne diesen Schutz.</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>&amp;Trotzdem verwenden</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>&amp;Trotzdem drucken</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2133,10 +2139,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The PDF file has been written</source>
         <translation>Die PDF-Datei wurde geschrieben</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Das Dokument wird gelesen …</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -2338,6 +2340,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>Was gefunden wurde, mit der Seite voran. Die Eingabetaste führt zur Einstellung.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>Bitte beachten</translation>
     </message>
 </context>
 <context>

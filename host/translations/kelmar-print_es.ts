@@ -1483,6 +1483,41 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>&amp;Aplicar sugerencia</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Usar ig&amp;ualmente</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Imprimir ig&amp;ualmente</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Mantener y re&amp;visar</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>Sugerencia: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» protege su documento. Si imprime igualmente, es posible que la impresora imprima sin esa protección.</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>Estos ajustes no se pueden usar juntos</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -1718,6 +1753,25 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Close &amp;Help</source>
         <translation>Cerrar la a&amp;yuda</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Enviando el documento al servidor de impresión…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Cancelando el trabajo…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Cancelar la impresión</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Leyendo el documento…</translation>
     </message>
 </context>
 <context>
@@ -2059,30 +2113,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No hay ningún documento o ninguna impresora en la que imprimirlo</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>Tenga en cuenta</translation>
-    </message>
-    <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>Sugerencia: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>&amp;Aplicar sugerencia</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>Mantener y re&amp;visar</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>Estos ajustes no se pueden usar juntos</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Consultando al servidor de impresión…</translation>
     </message>
@@ -2095,36 +2125,12 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No hay ninguna página llamada «%1».</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Cancelando el trabajo…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>El servidor de impresión aún no ha respondido.</translation>
     </message>
     <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Enviando el documento al servidor de impresión…</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Cancelar la impresión</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>«%1» protege su documento. Si imprime igualmente, es posible que la impresora imprima sin esa protección.</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>Usar ig&amp;ualmente</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>Imprimir ig&amp;ualmente</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2133,10 +2139,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The PDF file has been written</source>
         <translation>Se ha guardado el archivo PDF</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Leyendo el documento…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -2338,6 +2340,13 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>Lo que se ha encontrado, con la página delante. Intro lleva al ajuste.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>Tenga en cuenta</translation>
     </message>
 </context>
 <context>

@@ -1483,6 +1483,41 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>A&amp;ppliquer la suggestion</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Utiliser &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Imprimer &amp;quand même</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>&amp;Garder et vérifier</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>Suggestion&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>«&#xa0;%1&#xa0;» protège votre document. Si vous imprimez quand même, l’imprimante risque d’imprimer sans cette protection.</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>Ces réglages sont incompatibles</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -1718,6 +1753,25 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Close &amp;Help</source>
         <translation>Fermer l’ai&amp;de</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Envoi du document au serveur d’impression…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annulation de la tâche…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annuler l’impression</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lecture du document…</translation>
     </message>
 </context>
 <context>
@@ -2055,30 +2109,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Il n’y a pas de document, ou pas d’imprimante pour l’imprimer</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>À noter</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>Suggestion&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>A&amp;ppliquer la suggestion</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>&amp;Garder et vérifier</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>Ces réglages sont incompatibles</translation>
-    </message>
-    <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Envoi du document au serveur d’impression…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
@@ -2091,10 +2121,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Interrogation du serveur d’impression…</translation>
     </message>
@@ -2103,28 +2129,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Ne pl&amp;us attendre</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Annulation de la tâche…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Le serveur d’impression n’a pas encore répondu.</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Annuler l’impression</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>«&#xa0;%1&#xa0;» protège votre document. Si vous imprimez quand même, l’imprimante risque d’imprimer sans cette protection.</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>Utiliser &amp;quand même</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>Imprimer &amp;quand même</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2133,10 +2139,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The PDF file has been written</source>
         <translation>Le fichier PDF a été écrit</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Lecture du document…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -2338,6 +2340,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>Ce qui a été trouvé, la page en premier. La touche Entrée mène au réglage.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>À noter</translation>
     </message>
 </context>
 <context>

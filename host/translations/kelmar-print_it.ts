@@ -1483,6 +1483,41 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>&amp;Applica suggerimento</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>Usa comun&amp;que</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>Stampa comun&amp;que</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Mantieni e ri&amp;vedi</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>Suggerimento: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» protegge il documento. Se si stampa comunque, la stampante potrebbe stampare senza questa protezione.</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>Queste impostazioni non possono essere usate insieme</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -1718,6 +1753,25 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Close &amp;Help</source>
         <translation>C&amp;hiudi l’aiuto</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>Invio del documento al server di stampa…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>Annullamento del lavoro…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>&amp;Annulla la stampa</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lettura del documento…</translation>
     </message>
 </context>
 <context>
@@ -2059,30 +2113,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Manca il documento o la stampante su cui stamparlo</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>Nota</translation>
-    </message>
-    <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>Suggerimento: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>&amp;Applica suggerimento</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>Mantieni e ri&amp;vedi</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>Queste impostazioni non possono essere usate insieme</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Interrogazione del server di stampa…</translation>
     </message>
@@ -2095,36 +2125,12 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Non c’è alcuna pagina chiamata «%1».</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>Annullamento del lavoro…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>Il server di stampa non ha ancora risposto.</translation>
     </message>
     <message>
-        <source>Sending the document to the print server…</source>
-        <translation>Invio del documento al server di stampa…</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>&amp;Annulla la stampa</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>«%1» protegge il documento. Se si stampa comunque, la stampante potrebbe stampare senza questa protezione.</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>Usa comun&amp;que</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>Stampa comun&amp;que</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2133,10 +2139,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The PDF file has been written</source>
         <translation>Il file PDF è stato scritto</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>Lettura del documento…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -2338,6 +2340,13 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>Ciò che è stato trovato, con la pagina per prima. Invio porta all’impostazione.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>Nota</translation>
     </message>
 </context>
 <context>

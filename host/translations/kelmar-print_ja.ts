@@ -1483,6 +1483,41 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::ConflictQuestion</name>
+    <message>
+        <source>App&amp;ly Suggestion</source>
+        <translation>提案を適用(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Use An&amp;yway</source>
+        <translation>それでも使用(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Print An&amp;yway</source>
+        <translation>それでも印刷(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>そのまま確認(&amp;V)</translation>
+    </message>
+    <message>
+        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
+        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+    </message>
+    <message>
+        <source>Suggestion: %1</source>
+        <translation>提案: %1</translation>
+    </message>
+    <message>
+        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
+        <translation>「%1」は文書を保護する設定です。このまま印刷すると、保護されずに印刷される可能性があります。</translation>
+    </message>
+    <message>
+        <source>These settings cannot be used together</source>
+        <translation>次の設定は併用できません</translation>
+    </message>
+</context>
+<context>
     <name>host::CustomEditor</name>
     <message>
         <source>mm</source>
@@ -1718,6 +1753,25 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Close &amp;Help</source>
         <translation>ヘルプを閉じる(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobDesk</name>
+    <message>
+        <source>Sending the document to the print server…</source>
+        <translation>文書をプリントサーバーに送信しています…</translation>
+    </message>
+    <message>
+        <source>Canceling the job…</source>
+        <translation>ジョブをキャンセルしています…</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel Printing</source>
+        <translation>印刷をキャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>文書を読み込んでいます…</translation>
     </message>
 </context>
 <context>
@@ -2055,30 +2109,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷する文書またはプリンターがありません</translation>
     </message>
     <message>
-        <source>Please note</source>
-        <translation>お知らせ</translation>
-    </message>
-    <message>
-        <source>Suggestion: %1</source>
-        <translation>提案: %1</translation>
-    </message>
-    <message>
-        <source>App&amp;ly Suggestion</source>
-        <translation>提案を適用(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Keep and Re&amp;view</source>
-        <translation>そのまま確認(&amp;V)</translation>
-    </message>
-    <message>
-        <source>These settings cannot be used together</source>
-        <translation>次の設定は併用できません</translation>
-    </message>
-    <message>
-        <source>Sending the document to the print server…</source>
-        <translation>文書をプリントサーバーに送信しています…</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>閉じる(&amp;C)</translation>
     </message>
@@ -2091,10 +2121,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>「%1」</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>プリントサーバーに問い合わせています…</translation>
     </message>
@@ -2103,28 +2129,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>待機をやめる(&amp;E)</translation>
     </message>
     <message>
-        <source>Canceling the job…</source>
-        <translation>ジョブをキャンセルしています…</translation>
-    </message>
-    <message>
         <source>The print server has not answered yet.</source>
         <translation>プリントサーバーからまだ応答がありません。</translation>
-    </message>
-    <message>
-        <source>Ca&amp;ncel Printing</source>
-        <translation>印刷をキャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>“%1” protects your document. If you print anyway, the printer may print without it.</source>
-        <translation>「%1」は文書を保護する設定です。このまま印刷すると、保護されずに印刷される可能性があります。</translation>
-    </message>
-    <message>
-        <source>Use An&amp;yway</source>
-        <translation>それでも使用(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Print An&amp;yway</source>
-        <translation>それでも印刷(&amp;Y)</translation>
     </message>
     <message>
         <source>Document</source>
@@ -2133,10 +2139,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The PDF file has been written</source>
         <translation>PDF ファイルを書き出しました</translation>
-    </message>
-    <message>
-        <source>Reading the document…</source>
-        <translation>文書を読み込んでいます…</translation>
     </message>
     <message>
         <source>Printing was canceled.</source>
@@ -2337,6 +2339,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>What has been found, with its page first. Return leads to the setting.</source>
         <translation>見つかった設定です。ページ名、設定名の順に表示します。Enter キーで設定へ移動します。</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionMessages</name>
+    <message>
+        <source>Please note</source>
+        <translation>お知らせ</translation>
     </message>
 </context>
 <context>

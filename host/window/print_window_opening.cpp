@@ -66,7 +66,6 @@ void PrintWindow::refuse(const PrintError &error)
     m_refusal = error;
     letGo();
     m_session.reset();
-    m_notices.clear();
     showError(error);
 }
 
@@ -86,7 +85,7 @@ void PrintWindow::showFirst(PrinterOpening opening)
         return;
     }
     m_book->showPage(row);
-    if (m_isDismissed) // while a panel waited
+    if (isDismissed()) // while a panel waited
         return;
     // On the shown page, so that panels answer the settings as they answer the user's.
     PrintError problem;
@@ -97,8 +96,8 @@ void PrintWindow::showFirst(PrinterOpening opening)
     m_settings->absorb();
     m_book->refresh();
     m_book->showChanges();
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
     showDocumentProblem();
 }
 
@@ -116,7 +115,7 @@ std::unique_ptr<DialogSession> PrintWindow::makeSession(OpenedPrinter opened)
 
 void PrintWindow::pickPrinter(const QString &name)
 {
-    if (m_busyDepth > 0) {
+    if (m_wait.isUnderWay()) {
         m_picker->setCurrent(m_session->destination());
         return;
     }
@@ -153,9 +152,6 @@ void PrintWindow::showPicked(PrinterOpening opening)
     m_session->save(); // what the page that is shown has pending
     auto session = makeSession(std::move(*opening.printer));
     m_bar->hide();
-    m_askingConflict = false;
-    m_notices.clear();
-    m_toldGap.clear();
     const QString page = m_book->currentName();
     letGo();
     const auto earlier = std::move(m_session);
@@ -163,8 +159,8 @@ void PrintWindow::showPicked(PrinterOpening opening)
     carryOver(*earlier, m_session.get());
     m_settings->absorb();
     m_book->showPage(std::max(m_book->pageNamed(page), 0));
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
 }
 
 void PrintWindow::stayWithPrinter()
@@ -173,15 +169,15 @@ void PrintWindow::stayWithPrinter()
     showState(State::Choosing);
     allowPrinting();
     // Other pages have hidden them.
-    showNotices();
-    showConflicts();
+    m_messages.showNotices();
+    m_messages.check();
     showDocumentProblem();
 }
 
 void PrintWindow::retry()
 {
     openTask();
-    loadPrinterList();
+    m_news.loadList();
 }
 
 } // namespace host

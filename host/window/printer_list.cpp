@@ -51,7 +51,7 @@ void PrinterList::setPrinters(QList<Destination> printers)
             printers.append(known);
     }
     beginResetModel();
-    m_awaited.clear();
+    forgetStandIn();
     m_printers = inOrder(std::move(printers));
     endResetModel();
 }
@@ -84,8 +84,8 @@ QList<Destination> PrinterList::inOrder(QList<Destination> printers) const
 int PrinterList::put(const Destination &printer)
 {
     int row = rowOf(printer.name());
-    if (isAwaited(printer.name()))
-        m_awaited.clear();
+    if (isAwaited(printer.name())) // it is there after all
+        forgetStandIn();
     if (row >= 0) {
         m_printers[row] = printer;
         Q_EMIT dataChanged(index(row), index(row));
@@ -100,23 +100,13 @@ int PrinterList::put(const Destination &printer)
 
 void PrinterList::putFound(const Destination &printer)
 {
+    if (printer.name() == m_standIn && !m_isAwaited)
+        forgetStandIn();
     const bool isKnown = std::any_of(m_printers.begin(), m_printers.end(), [&](const Destination &known) {
         return (known.queue == printer.queue && !isAwaited(known.name())) || known.isSameDevice(printer);
     });
     if (!isKnown)
         put(printer);
-}
-
-void PrinterList::remove(const QString &name)
-{
-    const int row = rowOf(name);
-    if (row < 0)
-        return;
-    if (isAwaited(name))
-        m_awaited.clear();
-    beginRemoveRows({}, row, row);
-    m_printers.removeAt(row);
-    endRemoveRows();
 }
 
 int PrinterList::putAwaited(const QString &name)
@@ -125,11 +115,34 @@ int PrinterList::putAwaited(const QString &name)
         return row;
     Destination awaited;
     std::tie(awaited.queue, awaited.instance) = splitDestinationName(name);
-    m_awaited.clear();
-    const int row = put(awaited);
-    m_awaited = name;
+    const int row = putMissing(awaited);
+    m_isAwaited = true;
     Q_EMIT dataChanged(index(row), index(row));
     return row;
+}
+
+int PrinterList::putMissing(const Destination &printer)
+{
+    dropStandIn(printer.name());
+    m_standIn = printer.name();
+    return put(printer);
+}
+
+void PrinterList::dropStandIn(const QString &chosen)
+{
+    const int row = m_standIn == chosen ? -1 : rowOf(m_standIn);
+    if (row < 0)
+        return;
+    forgetStandIn();
+    beginRemoveRows({}, row, row);
+    m_printers.removeAt(row);
+    endRemoveRows();
+}
+
+void PrinterList::forgetStandIn()
+{
+    m_standIn.clear();
+    m_isAwaited = false;
 }
 
 int PrinterList::rowOf(const QString &name) const

@@ -31,11 +31,15 @@ public:
     int put(const Destination &printer);
     // Adds a printer that was found in the network, unless it has a queue.
     void putFound(const Destination &printer);
-    void remove(const QString &name);
-    // A row for a printer that somebody has asked for and nobody has told of, unless it is there; one at a
-    // time. It cannot be chosen before put(), putFound() or setPrinters() bring the printer. Its row.
+    // A row for a printer that somebody has asked for and nobody has told of, unless it is there. It cannot
+    // be chosen before put(), putFound() or setPrinters() bring the printer. Its row.
     int putAwaited(const QString &name);
-    bool isAwaited(const QString &name) const { return !name.isEmpty() && name == m_awaited; }
+    bool isAwaited(const QString &name) const { return m_isAwaited && name == m_standIn; }
+    // A row for a chosen printer that the list lacks, and that may still be there. Its row.
+    int putMissing(const Destination &printer);
+    // There is one row of these two kinds at a time. It goes once another printer is chosen: there is nothing
+    // more to be had of it.
+    void dropStandIn(const QString &chosen);
     int rowOf(const QString &name) const; // -1 when there is none
     Destination at(int row) const { return m_printers.value(row); }
 
@@ -44,11 +48,13 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 private:
+    void forgetStandIn();
     QList<Destination> inOrder(QList<Destination> printers) const;
 
     QList<Destination> m_printers;
     QStringList m_recent;
-    QString m_awaited; // the destination name of that row
+    QString m_standIn;        // the destination name of that row; empty where there is none
+    bool m_isAwaited = false; // nobody has told of it
 };
 
 // How a printer is and where it stands, in words: "Ready · Room 655".

@@ -11,8 +11,6 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include <utility>
-
 namespace host {
 
 PrinterPicker::PrinterPicker(QWidget *parent)
@@ -55,15 +53,13 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers)
     const Destination chosen = m_list->at(m_list->rowOf(m_current));
     const bool isAwaited = m_list->isAwaited(m_current);
     m_list->setPrinters(printers);
-    m_standIn.clear();
     if (m_list->rowOf(m_current) < 0) { // where a preset is gone, its printer may be there
         const QString queue = m_current.section(QLatin1Char('/'), 0, 0);
         if (m_list->rowOf(queue) >= 0) {
             m_current = queue;
         } else if (!chosen.queue.isEmpty()) {
             isAwaited ? m_list->putAwaited(m_current)
-                      : m_list->put(chosen.withoutState()); // the server says nothing of it
-            m_standIn = m_current;
+                      : m_list->putMissing(chosen.withoutState()); // the server says nothing of it
         }
     }
     showRow(m_list->rowOf(m_current));
@@ -114,11 +110,8 @@ void PrinterPicker::putPrinter(const Destination &news)
 
 void PrinterPicker::putFound(const Destination &printer)
 {
-    if (m_isFixed)
-        return;
-    if (printer.name() == m_standIn)
-        m_standIn.clear();
-    m_list->putFound(printer);
+    if (!m_isFixed)
+        m_list->putFound(printer);
 }
 
 void PrinterPicker::setSearching(bool searching)
@@ -129,27 +122,15 @@ void PrinterPicker::setSearching(bool searching)
 void PrinterPicker::setCurrent(const Destination &printer)
 {
     m_current = printer.name();
-    if (m_list->isAwaited(m_current)) // it is there after all
-        m_standIn.clear();
     showRow(m_list->put(printer));
-    dropStandIn();
+    m_list->dropStandIn(m_current);
 }
 
 void PrinterPicker::setAwaited(const QString &name)
 {
     m_current = name;
-    const bool isUnknown = m_list->rowOf(name) < 0;
     showRow(m_list->putAwaited(name));
-    dropStandIn();
-    if (isUnknown)
-        m_standIn = name;
-}
-
-// Once another printer is chosen there is nothing more to be had of it.
-void PrinterPicker::dropStandIn()
-{
-    if (m_standIn != m_current)
-        m_list->remove(std::exchange(m_standIn, QString()));
+    m_list->dropStandIn(m_current);
 }
 
 void PrinterPicker::setFixedText(const QString &text)

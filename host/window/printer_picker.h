@@ -63,14 +63,12 @@ private:
     void showRow(int row);
     void orderRecent();
     void describe(const Destination &printer);
-    void dropStandIn();
 
     PrinterList *m_list;
     PrinterBox *m_box;
     ElidedLabel *m_state;
     QString m_current;                   // destination name
     std::optional<QStringList> m_recent; // until the list is in their order
-    QString m_standIn; // the row of a printer that the list lacks, there while it is the chosen one
     bool m_isFixed = false;
 };
 

@@ -28,23 +28,6 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Counts how often a widget has been painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-} // namespace
-
 // The window over a print system without a server, worked with keys and clicks.
 class PrintWindowTest : public WindowFixture
 {
@@ -59,7 +42,6 @@ private Q_SLOTS:
     void noticesOutliveAQuestion();
     void settingsOfTheTaskReachThePickedPrinter();
     void forbiddenChoiceIsGreyed();
-    void serverAwayKeepsTheSettings();
     void opensWithoutServer();
     void otherPrinterTakesTheGeneralChoicesAlong();
     void printerThatIsPickedAgainStays();
@@ -68,7 +50,6 @@ private Q_SLOTS:
     void settingsAreTheAnswer();
     void brokenPpdStillPrints();
     void panelsAreRestoredWhenShown();
-    void waitingIsPaintedBeforeItBegins();
     void escapeCancels();
     void customSizeIsTyped();
     void unfinishedPasswordStopsPrinting();
@@ -221,21 +202,6 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     window.book()->refresh();
     const auto *model = qobject_cast<QStandardItemModel *>(duplex->model());
     QVERIFY(model->item(duplex->findData(u"None"_s))->isEnabled());
-}
-
-void PrintWindowTest::serverAwayKeepsTheSettings()
-{
-    PrintWindow &window = open();
-    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
-    m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
-    printButton()->click();
-    settle();
-    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
-    m_system.serverError = {};
-    printButton()->click();
-    settle();
-    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Duplex"_s), u"DuplexNoTumble"_s);
 }
 
 void PrintWindowTest::opensWithoutServer()
@@ -391,29 +357,6 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     const auto labels = window.findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(),
                         [](QLabel *label) { return label->text() == u"Balance"_s; }));
-}
-
-void PrintWindowTest::waitingIsPaintedBeforeItBegins()
-{
-    PrintWindow &window = open();
-    auto panel = std::make_unique<FakePanel>(u"Device"_s, QStringList(u"ColorType"_s), window.session());
-    bool busyPointer = false;
-    panel->onRestore = [&] {
-        const QPixmap before = window.grab();
-        PaintCounter painted(&window);
-        const platform::BlockingWork work(window.session(), u"Asking the printer for its colour profiles"_s);
-        QVERIFY(painted.count > 0); // nothing runs the event loop in between
-        QVERIFY(window.grab().toImage() != before.toImage());
-        busyPointer =
-            QGuiApplication::overrideCursor() && QGuiApplication::overrideCursor()->shape() == Qt::BusyCursor;
-    };
-    platform::PrintDialogPanels panels;
-    panels.push_back(std::move(panel));
-    window.session()->adoptPanels(std::move(panels));
-    window.showSession();
-    window.book()->showPage(1);
-    QVERIFY(busyPointer);
-    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 void PrintWindowTest::escapeCancels()

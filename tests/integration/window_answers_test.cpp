@@ -22,7 +22,6 @@
 #include <QFrame>
 #include <QPushButton>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
@@ -344,6 +343,13 @@ void WindowAnswersTest::settingsFileNeverAnswers()
 {
     const QString path = QSettings().fileName();
     const QString aside = path + u".aside"_s;
+    const auto release = [&] {
+        QVERIFY(QFile::rename(path, aside));
+        const platform::UniqueFd writer(
+            ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+        QVERIFY(QFile::remove(aside));
+        QVERIFY(writer); // somebody was waiting
+    };
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
     QFile::remove(path);
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0); // who opens it waits for a writer
@@ -351,11 +357,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
     open(QString());
     QTRY_VERIFY(find<WaitingPage>()->isVisible());
     QVERIFY(!m_window->session());
-    QVERIFY(QFile::rename(path, aside));
-    const platform::UniqueFd writer(
-        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
-    QVERIFY(QFile::remove(aside));
-    QVERIFY(writer); // somebody was waiting
+    release();
     QTRY_VERIFY(m_window->session());
 
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
@@ -363,11 +365,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
     QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 20'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
-    QVERIFY(QFile::rename(path, aside));
-    const platform::UniqueFd other(
-        ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
-    QVERIFY(QFile::remove(aside));
-    QVERIFY(other);
+    release();
 }
 
 void WindowAnswersTest::serverAnswersLate()

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/window_layout.h"
+
+#include "host/window/access_keys.h"
+#include "host/window/finder.h"
+#include "host/window/message_bar.h"
+#include "host/window/page_book.h"
+#include "host/window/page_list.h"
+#include "host/window/printer_picker.h"
+#include "host/window/separator.h"
+#include "host/window/tab_order.h"
+#include "host/window/text_direction.h"
+
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace host {
+
+namespace {
+
+constexpr int textShare = 6;   // of the window's height, for the texts of the message bar
+constexpr int roomyLines = 24; // that the window is high; a lower one saves space
+constexpr int mostLines = 58;  // that it grows to for the sake of a page
+constexpr int spareLines = 4;  // that it leaves of the screen then
+
+// What a window's screen has free, less the frame around the window.
+QSize freeRoom(const QWidget *window)
+{
+    const QSize room = window->screen()->availableSize();
+    const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    return room.shrunkBy(frame);
+}
+
+// The earlier ones have the first choice.
+QList<QWidget *> inOrderOfKeys(const WindowLayout::Parts &parts)
+{
+    QList<QWidget *> order(parts.footer.crbegin(), parts.footer.crend());
+    order.insert(1, parts.picker);
+    return order + QList<QWidget *>{parts.book->pages()} + parts.otherPages + QList<QWidget *>{parts.bar};
+}
+
+} // namespace
+
+WindowLayout::WindowLayout(QWidget *window, const Parts &parts)
+    : m_window(window), m_parts(parts), m_keys(new AccessKeys(window, inOrderOfKeys(parts))),
+      m_footer(new QHBoxLayout), m_barRow(new QHBoxLayout)
+{
+    build();
+}
+
+void WindowLayout::build()
+{
+    m_footer->setSpacing(10);
+    for (QWidget *part : std::as_const(m_parts.footer))
+        m_footer->addWidget(part, part == m_parts.footer.first() ? 1 : 0);
+    // Under the pages, where it moves nothing that the user is about to press.
+    m_barRow->addWidget(m_parts.bar);
+
+    auto *column = new QVBoxLayout(m_window);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_parts.picker);
+    column->addWidget(new Separator(Qt::Horizontal, m_window));
+    column->addWidget(m_parts.book, 1);
+    for (QWidget *page : std::as_const(m_parts.otherPages))
+        column->addWidget(page, 1);
+    column->addWidget(new Separator(Qt::Horizontal, m_window));
+    column->addLayout(m_barRow);
+    column->addLayout(m_footer);
+    setCompact(false);
+}
+
+void WindowLayout::addGuide(QWidget *guide)
+{
+    m_guide = guide;
+    m_footer->insertWidget(0, guide);
+}
+
+void WindowLayout::arrange()
+{
+    QList<QWidget *> order = QList<QWidget *>{m_parts.picker} + m_parts.finder->parts();
+    order.append({m_parts.book->list(), m_parts.book->pages()});
+    order += m_parts.otherPages;
+    order.append(m_parts.bar);
+    if (m_guide)
+        order.append(m_guide);
+    chainTabOrder(order + m_parts.footer);
+    m_keys->assign();
+    keepLabelsAligned(m_window);
+    setCompact(m_window->height() < roomyLines * m_window->fontMetrics().height());
+    fit();
+}
+
+void WindowLayout::setRoom(const QSize &room)
+{
+    m_room = room;
+    fit();
+}
+
+// A page that is long scrolls, as does what would only fit a window with no room around it: where the frame
+// and the desktop's bars are is not known for certain.
+void WindowLayout::fit()
+{
+    const QSize room = m_room.isValid() ? m_room : freeRoom(m_window);
+    const bool isOurs = !m_window->isVisible() || m_window->height() == m_ownHeight;
+    const QSize wanted = wantedSize(room, isOurs);
+    m_window->setMinimumSize(m_window->layout()->minimumSize().boundedTo(room));
+    m_window->resize(m_window->size().expandedTo(wanted).boundedTo(room));
+    if (isOurs)
+        m_ownHeight = m_window->height();
+}
+
+QSize WindowLayout::wantedSize(const QSize &room, bool mayGrow) const
+{
+    if (m_parts.book->isHidden())
+        return {};
+    const int line = m_window->fontMetrics().height();
+    const int others = m_parts.picker->sizeHint().height() + m_footer->sizeHint().height() + 2;
+    const int high = m_parts.book->wantedHeight() + others;
+    const bool grows = mayGrow && high <= mostLines * line;
+    return {m_parts.book->wantedWidth(), grows ? qMin(high, room.height() - spareLines * line) : 0};
+}
+
+void WindowLayout::adapt()
+{
+    m_parts.bar->setTextLimit(m_window->height() / textShare);
+    setCompact(m_window->height() < roomyLines * m_window->fontMetrics().height());
+}
+
+void WindowLayout::setCompact(bool compact)
+{
+    m_parts.picker->setCompact(compact);
+    m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
+    m_barRow->setContentsMargins(16, m_parts.bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
+}
+
+} // namespace host
