@@ -7,9 +7,8 @@
 
 #include <QAbstractButton>
 #include <QEvent>
-#include <QFontMetricsF>
+#include <QFontMetrics>
 #include <QLabel>
-#include <QtMath>
 
 namespace host {
 
@@ -35,16 +34,16 @@ QList<QWidget *> keyedWidgets(QWidget *part)
 
 // How much wider a text is drawn than it is measured, in pixels: Qt draws the access key by itself, so that
 // it is not moved closer to its neighbours as in "Tw", but measures the text as if it were.
-int lostKerning(const QFontMetricsF &metrics, const QString &shown)
+int lostKerning(const QFontMetrics &metrics, const QString &shown)
 {
     const qsizetype key = Mnemonics::placeOfKey(shown);
     if (key < 0)
         return 0;
     const QString before = shown.left(key - 1);
     const QString after = shown.mid(key + 1);
-    const qreal apart = metrics.horizontalAdvance(before) + metrics.horizontalAdvance(shown.at(key)) +
-                        metrics.horizontalAdvance(after);
-    return qMax(0, qCeil(apart - metrics.horizontalAdvance(before + shown.at(key) + after) - 0.1));
+    const int apart = metrics.horizontalAdvance(before) + metrics.horizontalAdvance(QString(shown.at(key))) +
+                      metrics.horizontalAdvance(after);
+    return qMax(0, apart - metrics.horizontalAdvance(before + shown.at(key) + after));
 }
 
 } // namespace
@@ -96,7 +95,7 @@ bool AccessKeys::reserveWidth(QWidget *widget, bool wasReserved)
     auto *label = qobject_cast<QLabel *>(widget);
     if (!label || label->wordWrap() || (label->minimumWidth() > 0 && !wasReserved))
         return false;
-    const int lost = lostKerning(QFontMetricsF(label->font()), label->text());
+    const int lost = lostKerning(label->fontMetrics(), label->text());
     label->setMinimumWidth(lost > 0 ? label->sizeHint().width() + lost : 0);
     return lost > 0;
 }
