@@ -58,6 +58,21 @@ void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const Q
         standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
 }
 
+// Qt's texts. Its file dialog asks for the names of kinds of files, such as "Folder", where most of its own
+// catalogues do not have them yet, and have them where it asked before.
+class QtTexts : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+
+    QString translate(const char *context, const char *text, const char *comment, int n) const override
+    {
+        const QString found = QTranslator::translate(context, text, comment, n);
+        const bool isKind = found.isEmpty() && qstrcmp(context, "QAbstractFileIconProvider") == 0;
+        return isKind ? QTranslator::translate("QFileDialog", text, comment, n) : found;
+    }
+};
+
 // The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
 void installTranslations(QApplication *app)
 {
@@ -71,7 +86,7 @@ void installTranslations(QApplication *app)
             delete own;
             continue;
         }
-        auto *qt = new QTranslator(app);
+        auto *qt = new QtTexts(app);
         if (qt->load(QStringLiteral("qtbase_") + language,
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QApplication::installTranslator(qt);

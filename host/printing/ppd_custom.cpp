@@ -418,7 +418,10 @@ std::optional<CustomChoice> customChoiceOf(ppd_file_s *ppd, ppd_option_s *option
     if (!choice)
         return std::nullopt;
     CustomChoice custom;
-    custom.text = choice->text[0] ? QString::fromUtf8(choice->text) : PpdCustomText::tr("Custom");
+    // libcups fills in its own English word where the PPD has none.
+    const QString text = QString::fromUtf8(choice->text);
+    const bool isNamed = !text.isEmpty() && text != QLatin1String("Custom");
+    custom.text = isNamed ? text : PpdCustomText::tr("Custom");
     custom.isSize = qstrcmp(option->keyword, "PageSize") == 0;
     if (custom.isSize) {
         custom.parameters = sizeParameters(ppd);

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QFontMetrics>
 #include <QLabel>
 
 namespace host {
@@ -29,6 +30,20 @@ QList<QWidget *> keyedWidgets(QWidget *part)
             found.append(widget);
     }
     return found;
+}
+
+// How much wider a text is drawn than it is measured, in pixels: Qt draws the access key by itself, so that
+// it is not moved closer to its neighbours as in "Tw", but measures the text as if it were.
+int lostKerning(const QFontMetrics &metrics, const QString &shown)
+{
+    const qsizetype key = Mnemonics::placeOfKey(shown);
+    if (key < 0)
+        return 0;
+    const QString before = shown.left(key - 1);
+    const QString after = shown.mid(key + 1);
+    const int apart = metrics.horizontalAdvance(before) + metrics.horizontalAdvance(QString(shown.at(key))) +
+                      metrics.horizontalAdvance(after);
+    return qMax(0, apart - metrics.horizontalAdvance(before + shown.at(key) + after));
 }
 
 } // namespace
@@ -66,11 +81,23 @@ void AccessKeys::assign()
         for (QWidget *widget : std::as_const(without))
             texts[widget].shown = keys.assign(texts[widget].own);
     }
-    m_texts = texts;
-    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+    for (auto it = texts.begin(); it != texts.end(); ++it) {
         if (it.key()->property(textProperty).toString() != it->shown)
             it.key()->setProperty(textProperty, it->shown);
+        it->isReserved = reserveWidth(it.key(), m_texts.value(it.key()).isReserved);
     }
+    m_texts = texts;
+}
+
+// A label that nothing else gives a width takes what its text is drawn in. True where it does.
+bool AccessKeys::reserveWidth(QWidget *widget, bool wasReserved)
+{
+    auto *label = qobject_cast<QLabel *>(widget);
+    if (!label || label->wordWrap() || (label->minimumWidth() > 0 && !wasReserved))
+        return false;
+    const int lost = lostKerning(label->fontMetrics(), label->text());
+    label->setMinimumWidth(lost > 0 ? label->sizeHint().width() + lost : 0);
+    return lost > 0;
 }
 
 void AccessKeys::assignLater()

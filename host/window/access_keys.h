@@ -37,10 +37,12 @@ protected:
 private:
     struct Texts
     {
-        QString own;   // as it was set by whoever made the widget
-        QString shown; // as it was left here
+        QString own;             // as it was set by whoever made the widget
+        QString shown;           // as it was left here
+        bool isReserved = false; // the least width is from here
     };
     QString ownText(QWidget *widget) const;
+    static bool reserveWidth(QWidget *widget, bool wasReserved);
 
     QWidget *m_window;
     QList<QWidget *> m_parts;

@@ -41,7 +41,7 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
         const QString text = found.control->whatsThis();
         const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
                                         [&](const HelpPage::Explained &told) { return told.text == text; });
-        if (!text.isEmpty() && !isTold)
+        if (!text.isEmpty() && text != found.name && !isTold)
             explained.append({found.name, text});
     }
     return explained;

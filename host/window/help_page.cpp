@@ -94,7 +94,7 @@ HelpPage::HelpPage(QWidget *parent) : QWidget(parent), m_browser(new Browser(thi
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     auto *text = new QHBoxLayout;
-    text->setContentsMargins(16, 10, 8, 0);
+    text->setContentsMargins(16, 10, 16, 0);
     text->addWidget(m_browser);
     column->addLayout(text, 1);
     column->addLayout(row);

@@ -20,6 +20,7 @@ namespace host {
 namespace {
 
 constexpr int iconSize = 20; // pixels
+constexpr int buttonGap = 8; // pixels
 
 QLabel *plainLabel(QWidget *parent)
 {
@@ -55,11 +56,11 @@ void MessageBar::build()
     m_title = plainLabel(nullptr);
     m_lines = plainLabel(nullptr);
     m_row = new QBoxLayout(QBoxLayout::TopToBottom);
-    m_buttonRow = new QHBoxLayout;
+    m_buttonRows = new QVBoxLayout;
     QFont bold = m_title->font();
     bold.setBold(true);
     m_title->setFont(bold);
-    m_buttonRow->setSpacing(8);
+    m_buttonRows->setSpacing(6);
 
     auto *sheet = new QWidget;
     auto *texts = new QVBoxLayout(sheet);
@@ -76,7 +77,7 @@ void MessageBar::build()
     m_scroll->setMinimumWidth(100);
     m_row->setSpacing(6);
     m_row->addWidget(m_scroll, 1);
-    m_row->addLayout(m_buttonRow);
+    m_row->addLayout(m_buttonRows);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(14, 6, 8, 6);
     row->setSpacing(12);
@@ -106,8 +107,6 @@ void MessageBar::showMessage(Kind kind, const QString &title, const QStringList 
     removeButtons();
     // A single button stands beside the text, which keeps the bar low.
     m_row->setDirection(answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    if (answers.size() > 1)
-        m_buttonRow->addStretch(1);
     for (qsizetype i = 0; i < answers.size(); ++i)
         addButton(answers.at(i), static_cast<int>(i));
     if (answers.isEmpty())
@@ -128,8 +127,7 @@ void MessageBar::removeButtons()
 {
     qDeleteAll(m_buttons);
     m_buttons.clear();
-    while (QLayoutItem *item = m_buttonRow->takeAt(0))
-        delete item;
+    clearRows();
 }
 
 void MessageBar::addButton(const QString &text, int index)
@@ -144,7 +142,6 @@ void MessageBar::addButton(const QString &text, int index)
         Q_EMIT answered(index);
         Q_EMIT buttonsChanged();
     });
-    m_buttonRow->addWidget(button);
     m_buttons.append(button);
 }
 
@@ -173,16 +170,47 @@ void MessageBar::setTextLimit(int pixels)
         fitTexts();
 }
 
-// Side by side where they fit, else one below the other.
+void MessageBar::clearRows()
+{
+    m_rowSizes.clear();
+    while (QLayoutItem *row = m_buttonRows->takeAt(0)) {
+        while (QLayoutItem *item = row->layout()->takeAt(0))
+            delete item;
+        delete row;
+    }
+}
+
+// As many of them side by side as fit: in a low window every row is taken from the page.
 void MessageBar::fitButtons()
 {
     const QMargins margins = layout()->contentsMargins();
     const int room = width() - margins.left() - margins.right() - iconSize - layout()->spacing();
-    int wanted = 0;
-    for (const QPushButton *button : std::as_const(m_buttons))
-        wanted += button->sizeHint().width() + m_buttonRow->spacing();
-    const bool fits = wanted - m_buttonRow->spacing() <= room || m_buttons.size() < 2;
-    m_buttonRow->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QList<int> sizes;
+    int used = 0;
+    for (const QPushButton *button : std::as_const(m_buttons)) {
+        const int wanted = button->sizeHint().width() + buttonGap;
+        if (sizes.isEmpty() || used + wanted - buttonGap > room) {
+            sizes.append(0);
+            used = 0;
+        }
+        ++sizes.last();
+        used += wanted;
+    }
+    if (sizes == m_rowSizes)
+        return;
+    clearRows();
+    m_rowSizes = sizes;
+    qsizetype next = 0;
+    for (const int size : std::as_const(sizes)) {
+        auto *row = new QHBoxLayout;
+        row->setSpacing(buttonGap);
+        m_buttonRows->addLayout(row);
+        if (m_buttons.size() > 1 &&
+            sizes.size() < m_buttons.size()) // one below the other they are of a width
+            row->addStretch(1);
+        for (int i = 0; i < size; ++i)
+            row->addWidget(m_buttons.at(next++));
+    }
 }
 
 void MessageBar::fitTexts()
@@ -190,9 +218,10 @@ void MessageBar::fitTexts()
     const int width = m_scroll->viewport()->width();
     const int wanted = m_scroll->widget()->layout()->totalHeightForWidth(width);
     const int line = m_title->fontMetrics().height();
-    m_scroll->setFixedHeight(qBound(line, wanted, qMax(line, m_limit)));
+    const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing(); // whole lines
+    m_scroll->setFixedHeight(qBound(line, wanted, most));
     // Texts that scroll can be read with the keyboard, too.
-    m_scroll->setFocusPolicy(wanted > m_limit ? Qt::TabFocus : Qt::NoFocus);
+    m_scroll->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void MessageBar::resizeEvent(QResizeEvent *event)

@@ -11,7 +11,7 @@
 #include <QStringList>
 
 class QBoxLayout;
-class QHBoxLayout;
+class QVBoxLayout;
 class QLabel;
 class QPushButton;
 class QScrollArea;
@@ -55,6 +55,7 @@ private:
     void build();
     void addButton(const QString &text, int index);
     void removeButtons();
+    void clearRows();
     void fitButtons();
     void fitTexts();
     void noteFocus(QWidget *old, QWidget *now);
@@ -67,8 +68,9 @@ private:
     QLabel *m_title = nullptr;
     QLabel *m_lines = nullptr;
     QBoxLayout *m_row = nullptr;
-    QHBoxLayout *m_buttonRow = nullptr;
+    QVBoxLayout *m_buttonRows = nullptr;
     QList<QPushButton *> m_buttons;
+    QList<int> m_rowSizes;      // how many of them are in each row
     QPointer<QWidget> m_before; // had the focus before it came here
     int m_limit = 200;
 };

@@ -13,19 +13,6 @@ const QString mark = QStringLiteral("&");
 const QString endings = QStringLiteral(":：….");
 constexpr qsizetype bracketLength = 4; // of "(&K)"
 
-// Where the key of a text stands; -1 where there is none.
-qsizetype placeOfKey(const QString &text)
-{
-    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
-        if (text.at(i) != QLatin1Char('&'))
-            continue;
-        if (text.at(i + 1) != QLatin1Char('&'))
-            return i + 1;
-        ++i;
-    }
-    return -1;
-}
-
 // Where the "(&K)" of a text begins, as East Asian texts have it; -1 where there is none. By hand, as all
 // here: these texts are looked through before the window is first seen, and regular expressions cost half a
 // megabyte at first use.
@@ -62,6 +49,18 @@ bool beginsWord(const QString &text, qsizetype at)
 QString Mnemonics::escaped(const QString &text)
 {
     return QString(text).replace(mark, QStringLiteral("&&"));
+}
+
+qsizetype Mnemonics::placeOfKey(const QString &text)
+{
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text.at(i) != QLatin1Char('&'))
+            continue;
+        if (text.at(i + 1) != QLatin1Char('&'))
+            return i + 1;
+        ++i;
+    }
+    return -1;
 }
 
 QChar Mnemonics::keyOf(const QString &text)

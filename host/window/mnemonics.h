@@ -16,6 +16,8 @@ public:
     static QString escaped(const QString &text);
     // The key a text asks for, in lower case; null where it asks for none.
     static QChar keyOf(const QString &text);
+    // Where that key stands in the text; -1 where it asks for none.
+    static qsizetype placeOfKey(const QString &text);
 
     // Takes the key that a text asks for; false when it is taken already, or it asks for none.
     bool claim(const QString &text);

@@ -165,7 +165,7 @@ void PrintWindow::showState(State state)
     m_picker->setEnabled(state != State::Done && state != State::Sending);
     m_settings->setActive(state == State::Choosing);
     if (m_guide)
-        m_guide->setVisible(state == State::Choosing);
+        m_guide->setVisible(state == State::Choosing && !isSaving());
     m_news.follow(state == State::Choosing || (state == State::Done && !submission()->job.status.isFinal()));
     m_print->setVisible(state != State::Done);
     if (state != State::Choosing)
@@ -241,7 +241,10 @@ void PrintWindow::showGuide()
     connect(m_guide, &GuideButtons::helpWanted, m_help, &HelpDesk::toggle);
     // Its place is then taken by what is waited for.
     connect(&m_wait, &PanelWait::noticed, m_guide, &QWidget::hide);
-    connect(&m_wait, &PanelWait::ended, m_guide, [this] { m_guide->setVisible(m_state == State::Choosing); });
+    connect(&m_wait, &PanelWait::ended, m_guide, [this] {
+        m_guide->setVisible(m_state == State::Choosing && !isSaving());
+        showSaving();
+    });
     m_layout.addGuide(m_guide);
     m_guide->setVisible(m_state == State::Choosing && !m_wait.isUnderWay());
     for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{

@@ -115,6 +115,8 @@ private:
     void stopWaiting();
     void send();
     void savePdf();
+    bool isSaving() const;
+    void showSaving();
     void pdfSaved(const PrintError &error, const QString &path);
     void showSending();
     void takeBack(const PrintError &error);

@@ -7,17 +7,20 @@
 #include "host/session/printed_pages.h"
 #include "host/window/desktop_notice.h"
 #include "host/window/dialog_button.h"
+#include "host/window/guide_buttons.h"
 #include "host/window/message_bar.h"
 #include "host/window/page_book.h"
 #include "host/window/pdf_saver.h"
 #include "host/window/print_window.h"
 #include "host/window/result_page.h"
 #include "host/window/settings_control.h"
+#include "host/window/wait_sign.h"
 #include "host/window/waiting_page.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QTimer>
 
 namespace host {
 
@@ -53,7 +56,7 @@ void PrintWindow::goOn()
 void PrintWindow::print()
 {
     if (submission() || m_jobs.isSending() || m_wait.isUnderWay() || isOpening() || m_opener.isPicking() ||
-        (m_pdfSaver && m_pdfSaver->isBusy()) || !m_print->isEnabled() || m_book->isHidden())
+        isSaving() || !m_print->isEnabled() || m_book->isHidden())
         return;
     if (!m_book->checkTyped())
         return;
@@ -100,6 +103,22 @@ void PrintWindow::takeBack(const PrintError &error)
     showError(error);
 }
 
+bool PrintWindow::isSaving() const
+{
+    return m_pdfSaver && m_pdfSaver->isBusy();
+}
+
+// The dialog can be used meanwhile, but for printing.
+void PrintWindow::showSaving()
+{
+    if (!isSaving() || m_wait.isUnderWay() || m_book->isHidden())
+        return;
+    if (m_guide)
+        m_guide->hide();
+    m_wait.sign()->begin(PdfSaver::tr("Save as PDF"));
+    m_wait.sign()->showMoving();
+}
+
 void PrintWindow::savePdf()
 {
     if (m_jobs.isSending() || m_wait.isUnderWay() || isOpening() || !m_book->checkTyped())
@@ -108,7 +127,11 @@ void PrintWindow::savePdf()
     sessionChanged();
     if (!m_pdfSaver) {
         m_pdfSaver = new PdfSaver(this);
-        connect(m_pdfSaver, &PdfSaver::began, this, [this] { m_print->setEnabled(false); });
+        connect(m_pdfSaver, &PdfSaver::began, this, [this] {
+            constexpr std::chrono::milliseconds noticeable(300);
+            m_print->setEnabled(false);
+            QTimer::singleShot(noticeable, this, &PrintWindow::showSaving);
+        });
         connect(m_pdfSaver, &PdfSaver::ended, this, &PrintWindow::pdfSaved);
     }
     const QStringList files = m_documentChoice.included();
@@ -120,6 +143,11 @@ void PrintWindow::savePdf()
 
 void PrintWindow::pdfSaved(const PrintError &error, const QString &path)
 {
+    if (!m_wait.isUnderWay()) {
+        m_wait.sign()->end();
+        if (m_guide)
+            m_guide->setVisible(m_state == State::Choosing);
+    }
     if (m_book->isHidden()) // another printer is being opened
         return;
     allowPrinting();

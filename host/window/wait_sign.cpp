@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -44,22 +46,31 @@ WaitSign::WaitSign(QWidget *parent)
 
 void WaitSign::begin(const QString &what)
 {
-    QApplication::setOverrideCursor(Qt::BusyCursor);
+    if (!std::exchange(m_isShowing, true))
+        QApplication::setOverrideCursor(Qt::BusyCursor);
     m_text->setText(what);
+    m_bar->hide();
+    m_stop->hide();
 }
 
 // What is over at once is not read out.
-void WaitSign::offerStop()
+void WaitSign::showMoving()
 {
     m_bar->show();
+    announce(this, m_text->text());
+}
+
+void WaitSign::offerStop()
+{
     m_stop->setWhatsThis(explanationOf(QStringLiteral("give-up")));
     m_stop->show();
-    announce(this, m_text->text());
+    showMoving();
 }
 
 void WaitSign::end()
 {
-    QApplication::restoreOverrideCursor();
+    if (std::exchange(m_isShowing, false))
+        QApplication::restoreOverrideCursor();
     m_text->clear();
     setAccessibleName(QString());
     m_bar->hide();

@@ -13,14 +13,17 @@ namespace host {
 class DialogButton;
 
 // In the footer: what the dialog waits for right now, and once that takes longer, something that moves and a
-// button not to wait. Shows nothing else.
+// button not to wait; or what is made while the dialog can be used. Shows nothing else.
 class WaitSign : public QWidget
 {
     Q_OBJECT
 public:
     explicit WaitSign(QWidget *parent = nullptr);
+    // In place of what was shown before. Ends with the next end().
     void begin(const QString &what);
     void end();
+    // That it goes on.
+    void showMoving();
 
 public Q_SLOTS:
     void offerStop();
@@ -32,6 +35,7 @@ private:
     QLabel *m_text;
     QProgressBar *m_bar;
     DialogButton *m_stop;
+    bool m_isShowing = false;
 };
 
 } // namespace host

@@ -5,7 +5,7 @@
 
 #include "platform/layout_loader.h"
 
-#include <QEvent>
+#include <QResizeEvent>
 
 namespace {
 
@@ -23,19 +23,30 @@ QList<QWidget *> QVViewStack_M880::views() const
     return findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+// Lines that wrap make a view the higher the narrower it is; what they ask for without a width is the height
+// in a narrow one.
+int QVViewStack_M880::heightFor(const QWidget &view, const QSize &hint) const
+{
+    return view.hasHeightForWidth() ? view.heightForWidth(qMax(width(), hint.width())) : hint.height();
+}
+
 QSize QVViewStack_M880::sizeHint() const
 {
     QSize largest = minimumSizeHint();
-    for (const QWidget *view : views())
-        largest = largest.expandedTo(view->sizeHint());
+    for (const QWidget *view : views()) {
+        const QSize hint = view->sizeHint();
+        largest = largest.expandedTo({hint.width(), heightFor(*view, hint)});
+    }
     return largest;
 }
 
 QSize QVViewStack_M880::minimumSizeHint() const
 {
     QSize largest;
-    for (const QWidget *view : views())
-        largest = largest.expandedTo(view->minimumSizeHint()).expandedTo(view->minimumSize());
+    for (const QWidget *view : views()) {
+        const QSize hint = view->minimumSizeHint();
+        largest = largest.expandedTo({hint.width(), heightFor(*view, hint)}).expandedTo(view->minimumSize());
+    }
     return largest;
 }
 
@@ -49,6 +60,8 @@ void QVViewStack_M880::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     fillWithViews();
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry(); // a view may be as high as its width wants it
 }
 
 // A view that needs more or less room than before, in another language or with another text, changes the

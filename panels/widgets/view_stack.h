@@ -6,7 +6,8 @@
 #include <QWidget>
 
 // The view of a panel that shows one of several views at a time. As large as the largest of its child views
-// needs, and each of them is kept as large as it; where they are and which is shown is the panel's affair.
+// needs in its width, and each of them is kept as large as it; where they are and which is shown is the
+// panel's affair.
 class QVViewStack_M880 : public QWidget
 {
     Q_OBJECT
@@ -24,4 +25,5 @@ protected:
 
 private:
     QList<QWidget *> views() const;
+    int heightFor(const QWidget &view, const QSize &hint) const;
 };

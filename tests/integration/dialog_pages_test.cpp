@@ -183,6 +183,9 @@ void DialogPagesTest::checkInside(const QSize &room)
                  qPrintable(nameOf(button)));
     }
     QCOMPARE(seen, 5); // Cancel, Print, and the bar's
+    // Of a low window, too, the page keeps its share.
+    QVERIFY2(m_window->book()->height() >= room.height() / 4,
+             qPrintable(QString::number(m_window->book()->height())));
 }
 
 int DialogPagesTest::partOf(const QWidget *widget) const

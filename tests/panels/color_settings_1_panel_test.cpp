@@ -219,8 +219,11 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
     PanelFixture dialog("kelm880", QLocale(QLocale::German));
     dialog.host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_s);
     auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
-    const QWidget *view = dialog.show(panel); // the session has no printer
+    QWidget *view = dialog.show(panel); // the session has no printer
     QCOMPARE(dialog.host.blockingWork, QStringList{u"Farbprofile werden vom Drucker abgefragt…"_s});
+    // What is said beside the profiles is not yet seen, and takes no more height than it will in this width.
+    view->resize(700, view->height());
+    QTRY_COMPARE(view->minimumSizeHint().height(), advancedView(panel)->heightForWidth(700));
     panel->setCurrentView(advancedView(panel));
     const auto *notice = widget<QVNotice_M880>(view, "unavailableNotice");
     QVERIFY(notice->isVisible());

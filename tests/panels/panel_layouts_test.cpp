@@ -121,6 +121,7 @@ private Q_SLOTS:
     void panelsHaveGermanNames();
 
 private:
+    static void resizeToLeast(QWidget *view);
     void checkView(QWidget *view);
 };
 
@@ -164,14 +165,22 @@ void PanelLayoutsTest::fitAndCanBeReached()
         // Where two settings forbid each other the panel must have room for saying so.
         if (base->supportedPPDOptionKeys().contains(u"ColorType"_s))
             base->setValueForKey(u"Mono"_s, u"ColorType"_s);
-        view->resize(view->minimumSizeHint());
+        resizeToLeast(view);
         checkView(view);
         if (auto *colors = dynamic_cast<QVPDEColorSettings1_M880 *>(base); colors && colors->hasAdvanced()) {
             colors->setCurrentView(widget<QWidget>(view, "advancedView"));
+            resizeToLeast(view);
             checkView(view);
         }
         view->hide();
     }
+}
+
+// As a layout does: the height a view needs is the one in the width that it has got.
+void PanelLayoutsTest::resizeToLeast(QWidget *view)
+{
+    view->resize(view->minimumSizeHint());
+    view->resize(view->minimumSizeHint());
 }
 
 void PanelLayoutsTest::checkView(QWidget *view)
