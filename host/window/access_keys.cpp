@@ -6,6 +6,7 @@
 #include "host/window/mnemonics.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QLabel>
@@ -87,6 +88,7 @@ void AccessKeys::assign()
         it->isReserved = reserveWidth(it.key(), m_texts.value(it.key()).isReserved);
     }
     m_texts = texts;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that nothing moves once painted
 }
 
 // A label that nothing else gives a width takes what its text is drawn in. True where it does.

@@ -184,10 +184,15 @@ void GeneralPage::enableCollate()
 
 void GeneralPage::enablePages(bool some)
 {
+    const QAbstractButton *instead = m_allPages;
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        if (button->isChecked())
+            instead = button;
+    }
     m_pages->setEnabled(some);
     m_pages->setToolTip(some ? QString()
                              : tr("Not available while \"%1\" is \"%2\".")
-                                   .arg(bareText(tr("Pages:")), bareText(m_allPages->text())));
+                                   .arg(bareText(tr("Pages:")), bareText(instead->text())));
     m_pages->setAccessibleDescription(m_pages->toolTip());
 }
 
@@ -238,6 +243,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
     m_parts.append({part, button});
     connect(button, &QRadioButton::toggled, this, [this, part](bool on) {
         m_session->general().part = on ? part : GeneralSettings::Part::Pages;
+        enablePages(m_somePages->isChecked());
         pagesEdited();
     });
     return button;

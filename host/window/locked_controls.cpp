@@ -6,19 +6,26 @@
 #include "host/window/foreign_text.h"
 
 #include <QEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 namespace host {
 
 LockedControls::LockedControls(const QList<QWidget *> &controls, const QString &reason, QObject *parent)
-    : QObject(parent)
+    : QObject(parent), m_reason(reason)
 {
     for (QWidget *control : controls) {
-        const QString own = control->toolTip();
-        control->setToolTip(tooltipOf(own.isEmpty() ? reason : reason + QLatin1Char('\n') + own));
+        tell(control);
         control->setEnabled(false);
         control->installEventFilter(this);
     }
+}
+
+void LockedControls::tell(QWidget *control)
+{
+    const QScopedValueRollback telling(m_isTelling, true);
+    const QString own = control->toolTip();
+    control->setToolTip(tooltipOf(own.isEmpty() ? m_reason : m_reason + QLatin1Char('\n') + own));
 }
 
 bool LockedControls::eventFilter(QObject *watched, QEvent *event)
@@ -26,6 +33,8 @@ bool LockedControls::eventFilter(QObject *watched, QEvent *event)
     auto *control = qobject_cast<QWidget *>(watched);
     if (control && event->type() == QEvent::EnabledChange && !control->testAttribute(Qt::WA_ForceDisabled))
         control->setEnabled(false);
+    if (control && event->type() == QEvent::ToolTipChange && !m_isTelling)
+        tell(control);
     return false;
 }
 

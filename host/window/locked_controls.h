@@ -11,7 +11,7 @@ class QWidget;
 namespace host {
 
 // Greys controls on the page of a panel that the administrator has fixed, and says so in their tool tips,
-// before what the panel says there. They stay grey when the panel enables them. The controls belong to the
+// before what the panel says there. So it stays, whatever the panel does to them. The controls belong to the
 // page, and may go first; the object is a child of what shows the page.
 class LockedControls : public QObject
 {
@@ -22,6 +22,12 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void tell(QWidget *control);
+
+    QString m_reason;
+    bool m_isTelling = false;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 
 #include "host/session/setting_index.h"
 #include "host/window/contrast.h"
+#include "host/window/mnemonics.h"
 #include "platform/choice_box.h"
 #include "platform/layout_loader.h"
 
@@ -14,7 +15,6 @@
 #include <QAbstractSpinBox>
 #include <QLabel>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QStyle>
 #include <QTimer>
 #include <QVariantAnimation>
@@ -91,8 +91,12 @@ private:
 
 QString bareText(QString text)
 {
-    static const QRegularExpression bracketedKey(QStringLiteral("\\s?\\(&[^&]\\)"));
-    text.remove(bracketedKey).remove(QLatin1Char('&'));
+    const qsizetype key = Mnemonics::placeOfKey(text);
+    const bool isBracketed = key > 1 && key + 1 < text.size() && text.at(key - 2) == QLatin1Char('(') &&
+                             text.at(key + 1) == QLatin1Char(')');
+    if (isBracketed)
+        text.remove(key - 2, 4);
+    text.remove(QLatin1Char('&'));
     while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0xff1a)))
         text.chop(1);
     return text.trimmed();

@@ -171,6 +171,7 @@ void PrintWindow::showState(State state)
     if (state != State::Choosing)
         m_print->setEnabled(false);
     m_layout.arrange();
+    showSaving();
 }
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
@@ -192,9 +193,9 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 void PrintWindow::allowPrinting()
 {
     const bool hasQueue = !m_session->destination().queue.isEmpty();
-    m_print->setEnabled(hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty()));
-    m_print->setToolTip(m_print->isEnabled() ? QString()
-                                             : tr("There is no document or no printer to print it on"));
+    const bool canPrint = hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty());
+    m_print->setEnabled(canPrint && !isSaving());
+    m_print->setToolTip(canPrint ? QString() : tr("There is no document or no printer to print it on"));
 }
 
 void PrintWindow::showSession()

@@ -44,6 +44,12 @@ WaitSign::WaitSign(QWidget *parent)
     connect(m_stop, &QPushButton::clicked, this, &WaitSign::stopped);
 }
 
+WaitSign::~WaitSign()
+{
+    if (m_isShowing)
+        QApplication::restoreOverrideCursor();
+}
+
 void WaitSign::begin(const QString &what)
 {
     if (!std::exchange(m_isShowing, true))

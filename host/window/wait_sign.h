@@ -19,6 +19,7 @@ class WaitSign : public QWidget
     Q_OBJECT
 public:
     explicit WaitSign(QWidget *parent = nullptr);
+    ~WaitSign() override;
     // In place of what was shown before. Ends with the next end().
     void begin(const QString &what);
     void end();
