@@ -73,7 +73,9 @@ void AccessKeys::assign()
                 continue;
             widget->installEventFilter(this);
             const QString own = ownText(widget);
-            texts.insert(widget, {own, own});
+            Texts known = m_texts.value(widget);
+            known.own = known.shown = own;
+            texts.insert(widget, known);
             if (!widget->isVisibleTo(m_window) || keys.claim(own))
                 continue;
             if (qobject_cast<QLabel *>(widget) || !Mnemonics::keyOf(own).isNull())
@@ -82,24 +84,31 @@ void AccessKeys::assign()
         for (QWidget *widget : std::as_const(without))
             texts[widget].shown = keys.assign(texts[widget].own);
     }
+    bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {
         if (it.key()->property(textProperty).toString() != it->shown)
             it.key()->setProperty(textProperty, it->shown);
-        it->isReserved = reserveWidth(it.key(), m_texts.value(it.key()).isReserved);
+        isWider |= reserveWidth(it.key(), &*it);
     }
     m_texts = texts;
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that nothing moves once painted
+    if (isWider && m_window->isVisible()) // so that nothing moves once painted
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
-// A label that nothing else gives a width takes what its text is drawn in. True where it does.
-bool AccessKeys::reserveWidth(QWidget *widget, bool wasReserved)
+// A label that nothing else gives a width takes what its text is drawn in. True where that is new.
+bool AccessKeys::reserveWidth(QWidget *widget, Texts *texts)
 {
     auto *label = qobject_cast<QLabel *>(widget);
-    if (!label || label->wordWrap() || (label->minimumWidth() > 0 && !wasReserved))
+    if (!label || label->wordWrap() || (label->minimumWidth() > 0 && !texts->isReserved))
         return false;
+    if (label->text() == texts->measured && label->font() == texts->font)
+        return false;
+    texts->measured = label->text();
+    texts->font = label->font();
     const int lost = lostKerning(label->fontMetrics(), label->text());
+    texts->isReserved = lost > 0;
     label->setMinimumWidth(lost > 0 ? label->sizeHint().width() + lost : 0);
-    return lost > 0;
+    return texts->isReserved;
 }
 
 void AccessKeys::assignLater()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QFont>
 #include <QHash>
 #include <QList>
 #include <QObject>
@@ -37,12 +38,14 @@ protected:
 private:
     struct Texts
     {
-        QString own;             // as it was set by whoever made the widget
-        QString shown;           // as it was left here
+        QString own;      // as it was set by whoever made the widget
+        QString shown;    // as it was left here
+        QString measured; // what the width was last reserved for, in this font
+        QFont font;
         bool isReserved = false; // the least width is from here
     };
     QString ownText(QWidget *widget) const;
-    static bool reserveWidth(QWidget *widget, bool wasReserved);
+    static bool reserveWidth(QWidget *widget, Texts *texts);
 
     QWidget *m_window;
     QList<QWidget *> m_parts;
