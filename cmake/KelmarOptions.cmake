@@ -81,9 +81,22 @@ elseif(KELMAR_SANITIZE)
   target_link_options(kelmar_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# The headers that most sources include, compiled once for all targets that use widgets: that halves the time of a build.
+# Sources still include what they use, and CMAKE_DISABLE_PRECOMPILE_HEADERS builds without; the Debian packages are built that way.
+add_library(kelmar_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
+set_target_properties(kelmar_precompiled PROPERTIES AUTOMOC OFF)
+target_link_libraries(kelmar_precompiled PRIVATE kelmar_options Qt6::Widgets)
+target_precompile_headers(kelmar_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
+function(kelmar_use_precompiled target)
+  target_precompile_headers(${target} REUSE_FROM kelmar_precompiled)
+endfunction()
+
 # An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ...)
 function(kelmar_room name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   add_library(${name} OBJECT ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC kelmar_options ${ARG_LIBS})
+  if(kelmar-platform IN_LIST ARG_LIBS)
+    kelmar_use_precompiled(${name})
+  endif()
 endfunction()

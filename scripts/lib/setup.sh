@@ -58,7 +58,7 @@ ensure_packages() (
 build_preset() {
     local preset=$1
     shift
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
     [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"
