@@ -4,10 +4,10 @@
 #include "host/window_run.h"
 
 #include "host/batch/batch_run.h"
-#include "host/window/color_scheme.h"
-#include "host/window/login_dialog.h"
+#include "host/window/look/color_scheme.h"
+#include "host/window/look/startup_clock.h"
 #include "host/window/print_window.h"
-#include "host/window/startup_clock.h"
+#include "host/window/waiting/login_dialog.h"
 
 #include <QApplication>
 #include <QPixmap>

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "host/batch/arguments.h"
+#include "host/extensions/extensions.h"
 #include "host/printing/print_system.h"
-#include "host/session/extensions.h"
 
 class QIODevice;
 

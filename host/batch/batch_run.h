@@ -5,9 +5,9 @@
 
 #include "host/batch/arguments.h"
 #include "host/batch/results.h"
+#include "host/extensions/extensions.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/print_system.h"
-#include "host/session/extensions.h"
 
 #include <memory>
 

@@ -3,8 +3,9 @@
 
 #include "host/session/dialog_session.h"
 
-#include "host/session/extensions.h"
+#include "host/extensions/extensions.h"
 #include "host/session/job_options.h"
+#include "host/session/protection_checks.h"
 #include "platform/key_value_object.h"
 
 #include <algorithm>

@@ -3,13 +3,13 @@
 
 #pragma once
 
+#include "host/extensions/protection.h"
+#include "host/policy/policy.h"
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
 #include "host/session/chosen_settings.h"
 #include "host/session/general_settings.h"
 #include "host/session/panel_changes.h"
-#include "host/session/policy.h"
-#include "host/session/protection.h"
 #include "host/session/session_panels.h"
 #include "host/session/summary_section.h"
 #include "platform/print_dialog.h"

@@ -4,6 +4,7 @@
 #include "host/session/forced_choice.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/protection_checks.h"
 
 #include <algorithm>
 #include <optional>

@@ -5,7 +5,6 @@
 
 #include "host/printing/ppd_document.h"
 #include "host/session/change_ledger.h"
-#include "host/session/dialog_session.h"
 #include "host/session/panel_values.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
@@ -109,7 +108,7 @@ void SessionPanels::restore(int index)
     const Busy busy(&m_busy);
     const QScopedValueRollback<const SessionPanel *> restoring(m_restoring, &panel);
     panel.restored = true; // also when it fails: a second attempt would ask a device that is away again
-    const QString failure = DialogSession::tr("“%1” could not be prepared: %2");
+    const QString failure = tr("“%1” could not be prepared: %2");
     QString error;
     try {
         if (!panel.panel->restoreValuesAndReturnError(&error))
@@ -125,7 +124,7 @@ void SessionPanels::save(int index)
     const Busy busy(&m_busy);
     platform::PrintDialogPanel *panel = at(index).panel.get();
     m_saving = index;
-    const QString failure = DialogSession::tr("The settings of “%1” could not be saved: %2");
+    const QString failure = tr("The settings of “%1” could not be saved: %2");
     QString error;
     try {
         if (!panel->saveValuesAndReturnError(&error))

@@ -1564,14 +1564,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
     </message>
     <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
-    </message>
-    <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
         <translation>Ihre Standardeinstellungen für diesen Drucker verlangen Werte, die er nicht kennt: %1.</translation>
     </message>
@@ -2140,10 +2132,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>The PDF file has been written</source>
         <translation>Die PDF-Datei wurde geschrieben</translation>
     </message>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>Das Drucken wurde abgebrochen.</translation>
-    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -2469,6 +2457,24 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionPanels</name>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
     </message>
 </context>
 </TS>

@@ -1568,16 +1568,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No se puede mostrar una página de los ajustes de la impresora: %1</translation>
     </message>
     <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>No se ha podido preparar «%1»: %2</translation>
-    </message>
-    <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
         <translation>Hay ajustes guardados de «%1» que no se envían con el trabajo (%2): %3</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” stays “%2”. %3</source>
@@ -2140,10 +2132,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>The PDF file has been written</source>
         <translation>Se ha guardado el archivo PDF</translation>
     </message>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>La impresión se ha cancelado.</translation>
-    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -2469,6 +2457,24 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La impresión se ha cancelado.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionPanels</name>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>No se ha podido preparar «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
     </message>
 </context>
 </TS>

@@ -1564,14 +1564,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Une page des réglages de l’imprimante ne peut pas être affichée&#xa0;: %1</translation>
     </message>
     <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être préparé&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
         <translation>Vos valeurs par défaut pour cette imprimante demandent des choix qu’elle n’a pas&#xa0;: %1.</translation>
     </message>
@@ -2140,10 +2132,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>The PDF file has been written</source>
         <translation>Le fichier PDF a été écrit</translation>
     </message>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>L’impression a été annulée.</translation>
-    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -2469,6 +2457,24 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>L’impression a été annulée.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionPanels</name>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être préparé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

@@ -1568,16 +1568,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Impossibile mostrare una pagina delle impostazioni della stampante: %1</translation>
     </message>
     <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>Non è stato possibile preparare «%1»: %2</translation>
-    </message>
-    <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
         <translation>Alcune impostazioni salvate di «%1» non vengono inviate con il lavoro (%2): %3</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
     </message>
     <message>
         <source>“%1” stays “%2”. %3</source>
@@ -2140,10 +2132,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>The PDF file has been written</source>
         <translation>Il file PDF è stato scritto</translation>
     </message>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>La stampa è stata annullata.</translation>
-    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -2469,6 +2457,24 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La stampa è stata annullata.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionPanels</name>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>Non è stato possibile preparare «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
     </message>
 </context>
 </TS>

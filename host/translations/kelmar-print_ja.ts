@@ -1564,14 +1564,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンターの設定のページを表示できません: %1</translation>
     </message>
     <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>「%1」を準備できませんでした: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>「%1」の設定を保存できませんでした: %2</translation>
-    </message>
-    <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
         <translation>このプリンターに対するユーザーの既定値に、プリンターにない選択肢が含まれています: %1。</translation>
     </message>
@@ -2140,10 +2132,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>The PDF file has been written</source>
         <translation>PDF ファイルを書き出しました</translation>
     </message>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>印刷を取り消しました。</translation>
-    </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
@@ -2468,6 +2456,24 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を取り消しました。</translation>
+    </message>
+</context>
+<context>
+    <name>host::SessionPanels</name>
+    <message>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>「%1」を準備できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>「%1」の設定を保存できませんでした: %2</translation>
     </message>
 </context>
 </TS>

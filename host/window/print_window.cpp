@@ -5,24 +5,24 @@
 
 #include "host/printing/file_name.h"
 #include "host/session/session_history.h"
-#include "host/window/dialog_button.h"
-#include "host/window/explanations.h"
-#include "host/window/finder.h"
-#include "host/window/focus_ring.h"
-#include "host/window/foreign_text.h"
-#include "host/window/greyed_choices.h"
-#include "host/window/guide_buttons.h"
-#include "host/window/help_desk.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
-#include "host/window/printer_picker.h"
-#include "host/window/result_page.h"
-#include "host/window/settings_control.h"
-#include "host/window/text_direction.h"
+#include "host/window/guide/finder.h"
+#include "host/window/guide/guide_buttons.h"
+#include "host/window/guide/help_desk.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/look/explanations.h"
+#include "host/window/look/focus_ring.h"
+#include "host/window/look/foreign_text.h"
+#include "host/window/look/text_direction.h"
+#include "host/window/messages/greyed_choices.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/presets/settings_control.h"
+#include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
-#include "host/window/wait_sign.h"
-#include "host/window/waiting_page.h"
+#include "host/window/waiting/wait_sign.h"
+#include "host/window/waiting/waiting_page.h"
 #include "platform/key_value_object.h"
 
 #include <QApplication>
@@ -49,7 +49,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
       m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
       m_wait(this, m_cancel), m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, this),
-      m_finder(new Finder(this)), m_greyed(new GreyedChoices(this)), m_help(new HelpDesk(this)),
+      m_finder(new Finder(m_book)), m_greyed(new GreyedChoices(m_bar, this)), m_help(new HelpDesk(m_book)),
       m_layout(this, {m_picker,
                       m_book,
                       {m_unavailable, m_waiting, m_result},
@@ -94,6 +94,7 @@ void PrintWindow::letGo()
     m_book->clear();
     m_messages.clear();
     m_settings->setSession(nullptr);
+    m_greyed->setSession(nullptr);
 }
 
 void PrintWindow::connectAll()
@@ -204,6 +205,7 @@ void PrintWindow::showSession()
         connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, &m_messages,
                 &SessionMessages::checkLater);
     m_settings->setSession(m_session.get());
+    m_greyed->setSession(m_session.get());
     m_messages.setSession(m_session.get(), m_settings->history());
     m_book->setSession(m_session.get(), m_settings->history());
 }

@@ -3,16 +3,16 @@
 
 #pragma once
 
+#include "host/extensions/extensions.h"
 #include "host/printing/print_system.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
-#include "host/session/extensions.h"
-#include "host/window/job_desk.h"
-#include "host/window/panel_wait.h"
+#include "host/window/jobs/job_desk.h"
+#include "host/window/messages/session_messages.h"
 #include "host/window/print_task.h"
-#include "host/window/printer_news.h"
-#include "host/window/printer_opener.h"
-#include "host/window/session_messages.h"
+#include "host/window/printers/printer_news.h"
+#include "host/window/printers/printer_opener.h"
+#include "host/window/waiting/panel_wait.h"
 #include "host/window/window_layout.h"
 #include "platform/awaited.h"
 

@@ -3,19 +3,19 @@
 
 // What the window asks of the print system, and how it passes the time until the answer.
 
-#include "host/session/later_writes.h"
+#include "host/printing/later_writes.h"
 #include "host/session/printed_pages.h"
-#include "host/window/desktop_notice.h"
-#include "host/window/dialog_button.h"
-#include "host/window/guide_buttons.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/pdf_saver.h"
+#include "host/window/guide/guide_buttons.h"
+#include "host/window/jobs/desktop_notice.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/presets/settings_control.h"
+#include "host/window/preview/pdf_saver.h"
 #include "host/window/print_window.h"
-#include "host/window/result_page.h"
-#include "host/window/settings_control.h"
-#include "host/window/wait_sign.h"
-#include "host/window/waiting_page.h"
+#include "host/window/waiting/wait_sign.h"
+#include "host/window/waiting/waiting_page.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -4,13 +4,13 @@
 // How the window comes to the session of a printer, the first one and those that are picked.
 
 #include "host/session/carry_over.h"
-#include "host/window/dialog_button.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/presets/settings_control.h"
 #include "host/window/print_window.h"
-#include "host/window/printer_picker.h"
-#include "host/window/settings_control.h"
-#include "host/window/waiting_page.h"
+#include "host/window/printers/printer_picker.h"
+#include "host/window/waiting/waiting_page.h"
 
 #include <algorithm>
 

@@ -3,10 +3,10 @@
 
 #include "host/window/unavailable_page.h"
 
-#include "host/window/dialog_button.h"
-#include "host/window/explanations.h"
-#include "host/window/foreign_text.h"
-#include "host/window/status_glyph.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/look/explanations.h"
+#include "host/window/look/foreign_text.h"
+#include "host/window/look/status_glyph.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

@@ -3,15 +3,15 @@
 
 #include "host/window/window_layout.h"
 
-#include "host/window/access_keys.h"
-#include "host/window/finder.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
-#include "host/window/printer_picker.h"
-#include "host/window/separator.h"
-#include "host/window/tab_order.h"
-#include "host/window/text_direction.h"
+#include "host/window/guide/finder.h"
+#include "host/window/look/access_keys.h"
+#include "host/window/look/separator.h"
+#include "host/window/look/tab_order.h"
+#include "host/window/look/text_direction.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/printers/printer_picker.h"
 
 #include <QHBoxLayout>
 #include <QScreen>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/application_settings.h"
-#include "host/stored_job.h"
+#include "host/portal/application_settings.h"
+#include "host/portal/stored_job.h"
 #include "tests/host/host_fixture.h"
 
 #include <QTest>

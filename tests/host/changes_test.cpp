@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/preset_store.h"
-#include "host/window/change_mark.h"
-#include "host/window/link_label.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
-#include "host/window/preset_dialog.h"
+#include "host/window/look/change_mark.h"
+#include "host/window/look/link_label.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/presets/preset_dialog.h"
 #include "platform/binding.h"
 #include "tests/host/window_fixture.h"
 

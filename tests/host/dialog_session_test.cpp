@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/extensions/extensions.h"
 #include "host/session/carry_over.h"
-#include "host/session/extensions.h"
 #include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/test_bundle.h"

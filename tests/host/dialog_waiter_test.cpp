@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/dialog_waiter.h"
+#include "host/window/waiting/dialog_waiter.h"
 #include "platform/text_field.h"
 
 #include <QDialog>

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/preview/page_tools.h"
-#include "host/window/change_mark.h"
-#include "host/window/general_page.h"
-#include "host/window/message_bar.h"
-#include "host/window/preview_pane.h"
-#include "host/window/preview_sheet.h"
-#include "host/window/preview_strip.h"
+#include "host/window/look/change_mark.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/general_page.h"
+#include "host/window/preview/preview_pane.h"
+#include "host/window/preview/preview_sheet.h"
+#include "host/window/preview/preview_strip.h"
 #include "tests/host/window_fixture.h"
 
 #include <QApplication>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
-#include "host/session/policy_print_system.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/search_bar.h"
+#include "host/policy/policy_print_system.h"
+#include "host/window/guide/search_bar.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
 #include "platform/choice_box.h"
 #include "platform/key_value_object.h"
 #include "tests/host/window_fixture.h"

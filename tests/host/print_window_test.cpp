@@ -3,14 +3,14 @@
 
 #include "host/printing/destination.h"
 #include "host/session/chosen_settings.h"
-#include "host/window/elided_label.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
-#include "host/window/printer_picker.h"
-#include "host/window/result_page.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/look/elided_label.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
-#include "host/window/waiting_page.h"
+#include "host/window/waiting/waiting_page.h"
 #include "tests/host/window_fixture.h"
 
 #include <QDoubleSpinBox>

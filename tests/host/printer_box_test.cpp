@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/printer_box.h"
-#include "host/window/printer_list.h"
-#include "host/window/printer_picker.h"
+#include "host/window/printers/printer_box.h"
+#include "host/window/printers/printer_list.h"
+#include "host/window/printers/printer_picker.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/thread_clock.h"
 

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/color_scheme.h"
-#include "host/window/contrast.h"
-#include "host/window/focus_ring.h"
-#include "host/window/message_bar.h"
-#include "host/window/mnemonics.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
-#include "host/window/result_page.h"
-#include "host/window/status_glyph.h"
-#include "host/window/wait_sign.h"
-#include "host/window/waiting_page.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/look/color_scheme.h"
+#include "host/window/look/contrast.h"
+#include "host/window/look/focus_ring.h"
+#include "host/window/look/mnemonics.h"
+#include "host/window/look/status_glyph.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/waiting/wait_sign.h"
+#include "host/window/waiting/waiting_page.h"
 #include "platform/text_field.h"
 #include "tests/host/window_fixture.h"
 

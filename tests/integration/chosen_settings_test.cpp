@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/session/chosen_settings.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
-#include "host/window/printer_picker.h"
+#include "host/window/printers/printer_picker.h"
 #include "platform/key_value_object.h"
 #include "tests/integration/batch_call.h"
 

@@ -3,8 +3,8 @@
 
 #include "host/batch/batch_run.h"
 #include "host/session/setting_keys.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
 #include "tests/support/private_cupsd.h"
 #include "tests/support/private_network.h"

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/access_keys.h"
-#include "host/window/color_scheme.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_frame.h"
-#include "host/window/page_list.h"
+#include "host/window/look/access_keys.h"
+#include "host/window/look/color_scheme.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_frame.h"
+#include "host/window/pages/page_list.h"
 #include "host/window/print_window.h"
-#include "host/window/printer_picker.h"
+#include "host/window/printers/printer_picker.h"
 #include "tests/host/family_printer.h"
 
 #include <QAbstractButton>

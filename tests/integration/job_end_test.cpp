@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/job_follower.h"
-#include "host/window/login_dialog.h"
-#include "host/window/message_bar.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/messages/message_bar.h"
 #include "host/window/print_window.h"
-#include "host/window/result_page.h"
 #include "host/window/unavailable_page.h"
+#include "host/window/waiting/login_dialog.h"
 #include "platform/background.h"
 #include "platform/unique_fd.h"
 #include "tests/integration/batch_program.h"

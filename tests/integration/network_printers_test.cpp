@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/window/print_window.h"
-#include "host/window/printer_box.h"
-#include "host/window/printer_list.h"
+#include "host/window/printers/printer_box.h"
+#include "host/window/printers/printer_list.h"
 #include "tests/support/heartbeat.h"
 #include "tests/support/private_bonjour.h"
 #include "tests/support/private_cupsd.h"

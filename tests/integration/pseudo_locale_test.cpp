@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/color_scheme.h"
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
+#include "host/window/guide/search_bar.h"
+#include "host/window/look/color_scheme.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
 #include "host/window/print_window.h"
-#include "host/window/search_bar.h"
 #include "platform/background.h"
 #include "tests/host/family_printer.h"
 

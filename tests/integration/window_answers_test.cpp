@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/message_bar.h"
-#include "host/window/page_book.h"
-#include "host/window/page_list.h"
+#include "host/window/jobs/result_page.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
 #include "host/window/print_window.h"
-#include "host/window/printer_picker.h"
-#include "host/window/result_page.h"
+#include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
-#include "host/window/wait_sign.h"
-#include "host/window/waiting_page.h"
+#include "host/window/waiting/wait_sign.h"
+#include "host/window/waiting/waiting_page.h"
 #include "platform/background.h"
 #include "platform/unique_fd.h"
 #include "tests/support/heartbeat.h"

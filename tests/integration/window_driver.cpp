@@ -4,7 +4,7 @@
 // Prints through the window as a user does: window_driver QUEUE TITLE FILE... Writes the outcome and the
 // job's number.
 
-#include "host/window/message_bar.h"
+#include "host/window/messages/message_bar.h"
 #include "host/window/print_window.h"
 #include "platform/background.h"
 

@@ -23,18 +23,32 @@ ROOMS = {
     "panels": {"panels", "panelkit", "plugin", "ppd", "device", "platform"},
     "host": {"host", "constraints", "platform"},
 }
-# The same between the folders of the host; files in host/ itself may include from all of them.
+# The same between the folders of the host; files in host/ itself may include from all of them. The folders of the window
+# are listed below; its own files may include from all of these.
+BELOW_WINDOW = {"session", "policy", "extensions", "preview", "printing"}
 HOST_ROOMS = {
     "printing": {"printing"},
-    "session": {"session", "printing"},
+    "extensions": {"extensions"},
+    "policy": {"policy", "extensions", "printing"},
+    "session": {"session", "policy", "extensions", "printing"},
     "preview": {"preview", "printing"},
-    "batch": {"batch", "session", "preview", "printing"},
-    "window": {"window", "session", "preview", "printing"},
+    "batch": {"batch", "session", "extensions", "preview", "printing"},
+    "portal": {"portal", "batch", "window", "window/look", "window/waiting", "session", "extensions", "printing", "service"},
     "service": {"service"},
     "backend": {"backend"},
+    "window/look": {"window/look"},
+    "window/waiting": {"window/waiting", "window/look", "printing"},
+    "window/preview": {"window/preview", "window/look", "preview", "session", "printing"},
+    "window/pages": {"window/pages", "window/preview", "window/look"} | BELOW_WINDOW,
+    "window/printers": {"window/printers", "window/look", "printing"},
+    "window/jobs": {"window/jobs", "window/waiting", "window/look", "printing", "session"},
+    "window/messages": {"window/messages", "window/look", "session", "printing"},
+    "window/presets": {"window/presets", "window/look", "session", "printing"},
+    "window/guide": {"window/guide", "window/pages", "window/look", "session", "printing"},
 }
-WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/session/", "host/preview/", "host/batch/", "host/service/",
-                   "host/backend/")
+HOST_ROOMS["window"] = {room for room in HOST_ROOMS if room.startswith("window/")} | BELOW_WINDOW | {"window"}
+WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/extensions/", "host/policy/", "host/session/",
+                   "host/preview/", "host/batch/", "host/service/", "host/backend/")
 OURS = ROOMS.keys() | {"tests", "simulator", "bench"}
 IN_BUNDLE = {"constraints", "panelkit", "panels", "plugin", "ppd", "device"}
 
@@ -65,7 +79,7 @@ EXAMPLES = [  # file, header, whether the one may include the other
     ("host/printing/job.cpp", "host/session/dialog_session.h", False),
     ("host/batch/batch_run.cpp", "host/window/print_window.h", False),
     ("host/window_run.cpp", "host/batch/batch_run.h", True),
-    ("host/portal_run.cpp", "host/service/portal_settings.h", True),
+    ("host/portal/portal_run.cpp", "host/service/portal_settings.h", True),
     ("host/service/print_portal.cpp", "host/printing/job.h", False),
     ("host/service/main.cpp", "QApplication", False),
     ("host/session/dialog_session.cpp", "cups/ppd.h", False),
@@ -87,8 +101,8 @@ def panel_of(path):
 
 def host_room(path):
     """The folder of a file below host/, None for files in host/ itself and for all others."""
-    parts = path.split("/")
-    return parts[1] if parts[0] == "host" and len(parts) > 2 else None
+    folder = posixpath.dirname(path)
+    return folder[len("host/"):] if folder.startswith("host/") else None
 
 
 def violation(file, header, widget_headers):
@@ -136,6 +150,9 @@ def main(widget_headers, ninja, build, bundle_code):
         if (violation(file, header, widget_headers) is None) != allowed:
             faults.append(f"the rules are broken: {file} includes {header}")
 
+    folders = {path.parent.relative_to(ROOT).as_posix() for path in (ROOT / "host").rglob("*.cpp")}
+    faults += [f"{folder}/: no rule says what it may include"
+               for folder in sorted(folders - {"host"}) if host_room(folder + "/") not in HOST_ROOMS]
     for room in ROOMS:
         includes = list(includes_of(room))
         if not includes:

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/portal/application_settings.h"
+
+#include "host/printing/option_text.h"
+#include "host/session/page_ranges.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString pageSize = QStringLiteral("PageSize");
+
+// Whether an option holds a code, or a part of one. Where no bundle tells, one that has many choices, all of
+// one character, is taken for a part.
+bool isSecret(const DialogSession &session, const PpdOption &option)
+{
+    constexpr qsizetype fewestDigits = 8;
+    if (session.isSecret(option.keyword))
+        return true;
+    if (!session.protection().secrets.isEmpty())
+        return false;
+    return option.choices.size() >= fewestDigits &&
+           std::all_of(option.choices.begin(), option.choices.end(),
+                       [](const PpdOption::Choice &choice) { return choice.keyword.size() == 1; });
+}
+
+void mark(const QString &name, const QString &value, DialogSession *session)
+{
+    PpdDocument *ppd = session->ppd();
+    if (ppd->hasOption(name)) {
+        if (!ppd->isInstallable(name))
+            session->markChoice(name, value);
+        return;
+    }
+    if (!ppd->takesOption(name))
+        return;
+    const QMap<QString, QString> choices = ppd->standardChoices(name, value);
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        session->markChoice(it.key(), it.value());
+}
+
+} // namespace
+
+StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
+{
+    StartingSettings start;
+    start.copies = std::clamp(copies, 1, GeneralSettings::maxCopies);
+    for (const auto &[name, value] : jobOptions) {
+        if (name == QLatin1String("multiple-document-handling"))
+            start.collate = !value.contains(QLatin1String("uncollated"));
+        else if (name.compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0)
+            start.collate = switchValue(value).value_or(true);
+        else if (name == QLatin1String("page-ranges"))
+            start.pages = value;
+        else if (isPageOption(name))
+            start.jobOptions.append({name, value});
+        else
+            start.choices.append({name, value});
+    }
+    return start;
+}
+
+void beginWith(const StartingSettings &start, DialogSession *session)
+{
+    GeneralSettings &general = session->general();
+    general.copies = start.copies;
+    general.collate = start.collate.value_or(general.collate);
+    general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
+    if (start.currentPage && general.offersCurrentPage)
+        general.part = GeneralSettings::Part::CurrentPage;
+    if (start.selection && general.offersSelection)
+        general.part = GeneralSettings::Part::Selection;
+    if (session->ppd()) {
+        for (const auto &[name, value] : start.choices)
+            mark(name, value, session);
+    }
+}
+
+ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats)
+{
+    const QString pdf = QStringLiteral("pdf");
+    ApplicationChoice choice{session.destination().name(),
+                             session.general().pages,
+                             {},
+                             formats.isEmpty() || formats.contains(pdf) ? pdf : formats.first()};
+    choice.currentPage = session.general().part == GeneralSettings::Part::CurrentPage;
+    choice.selection = session.general().part == GeneralSettings::Part::Selection;
+    const PpdDocument *ppd = session.ppd();
+    const QStringList general = ppd ? generalOptionKeywords(*ppd) : QStringList();
+    for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {
+        const auto option = ppd->option(keyword);
+        const bool isChanged = option->markedChoice != option->defaultChoice;
+        const bool isTold = general.contains(keyword) || isChanged;
+        if (isTold && !option->markedChoice.isEmpty() && !ppd->isInstallable(keyword) &&
+            !GeneralSettings::covers(keyword) && !isSecret(session, *option))
+            choice.choices.append({keyword, option->markedChoice});
+    }
+    return choice;
+}
+
+QList<JobOption> jobOptionsForMadePages(DialogSession *session)
+{
+    const QScopedValueRollback<QString> pages(session->general().pages, QString());
+    return session->jobOptions();
+}
+
+Paper paperOf(const DialogSession &session)
+{
+    const PpdDocument *ppd = session.ppd();
+    const QString keyword = ppd ? ppd->markedChoice(pageSize) : QString();
+    const auto size = keyword.isEmpty() ? std::nullopt : ppd->paperSize(keyword);
+    if (!size)
+        return {};
+    return {keyword,     ppd->described(pageSize, keyword).choiceText,
+            size->width, size->height,
+            size->left,  size->right,
+            size->top,   size->bottom};
+}
+
+} // namespace host

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/portal/dialog_channel.h"
+
+#include <QJsonDocument>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <poll.h>
+
+namespace host {
+
+namespace {
+
+constexpr qsizetype longestRequest = 16 * 1024 * 1024; // bytes
+
+}
+
+DialogChannel::DialogChannel() : m_answers(platform::UniqueFd::duplicate(STDOUT_FILENO))
+{
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    std::signal(SIGPIPE, SIG_IGN); // the service may go first
+}
+
+std::optional<QJsonObject> DialogChannel::readRequest()
+{
+    QByteArray line;
+    char block[4096];
+    while (!line.endsWith('\n') && line.size() < longestRequest) {
+        const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return std::nullopt;
+        line.append(block, got);
+    }
+    const QJsonDocument document = QJsonDocument::fromJson(line);
+    return document.isObject() ? std::optional(document.object()) : std::nullopt;
+}
+
+// Nobody writes anything after the request.
+bool DialogChannel::isClosed() const
+{
+    pollfd input = {STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 0) > 0;
+}
+
+void DialogChannel::watch()
+{
+    auto *notifier = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+        char block[256];
+        const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
+        if (got > 0 || (got < 0 && errno == EINTR))
+            return;
+        notifier->setEnabled(false);
+        Q_EMIT closed();
+    });
+}
+
+void DialogChannel::write(const QJsonObject &answer)
+{
+    const QByteArray line = QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
+    for (qsizetype done = 0; done < line.size();) {
+        const ssize_t put =
+            ::write(m_answers.get(), line.constData() + done, static_cast<size_t>(line.size() - done));
+        if (put < 0 && errno != EINTR)
+            return;
+        done += put > 0 ? put : 0;
+    }
+}
+
+} // namespace host

@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/portal/portal_run.h"
+
+#include "host/batch/arguments.h"
+#include "host/portal/application_settings.h"
+#include "host/portal/dialog_channel.h"
+#include "host/portal/stored_job.h"
+#include "host/printing/held_signals.h"
+#include "host/printing/option_text.h"
+#include "host/session/chosen_settings.h"
+#include "host/window/look/parent_window.h"
+#include "host/window/look/startup_clock.h"
+#include "host/window/print_window.h"
+#include "host/window/waiting/login_dialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QMessageBox>
+
+#include <cstring>
+
+namespace host {
+
+namespace {
+
+struct PortalText
+{
+    Q_DECLARE_TR_FUNCTIONS(PortalText)
+};
+
+// How long an application may leave its document unfinished: without another byte, and one byte after the
+// other. Each document that is not finished keeps one of the service's places.
+constexpr platform::Patience patience{std::chrono::minutes(1), std::chrono::minutes(10)};
+
+enum Response { Done = 0, Cancelled = 1, Other = 2 };
+
+QString textOf(const QJsonObject &object, const char *name)
+{
+    return object.value(QLatin1String(name)).toString();
+}
+
+// GTK marks the key of a label with an underscore.
+QString buttonText(QString gtkLabel)
+{
+    gtkLabel.replace(QLatin1Char('&'), QLatin1String("&&"));
+    const qsizetype mark = gtkLabel.indexOf(QLatin1Char('_'));
+    return mark < 0 ? gtkLabel : gtkLabel.replace(mark, 1, QLatin1Char('&'));
+}
+
+class RequestRun
+{
+public:
+    RequestRun(PrintSystem &system, Extensions &extensions, bool hasDisplay)
+        : m_system(system), m_extensions(extensions), m_hasDisplay(hasDisplay)
+    {
+    }
+    int run();
+
+private:
+    QString kind() const { return textOf(m_request, "kind"); }
+    bool takeDocument(PrintError *error);
+    QString documentPath() const;
+    QString jobTitle() const;
+    QString windowTitle() const;
+    StartingSettings start() const;
+    int submit();
+    bool send(const StoredJob &job, PrintError *error);
+    void tell(const QString &text, const QString &details);
+    int openDialog();
+    PrintTask task(const StartingSettings &start);
+    QJsonObject chosen(const PrintWindow &window) const;
+    int answer(const QJsonObject &answer);
+    int answer(Response response) { return answer({{QStringLiteral("response"), response}}); }
+
+    PrintSystem &m_system;
+    Extensions &m_extensions;
+    bool m_hasDisplay;
+    DialogChannel m_channel;
+    QJsonObject m_request;
+    platform::UniqueFd m_document;
+    QStringList m_differences;
+    std::optional<HeldSignals> m_signals; // while a document is sent and what became of it is answered
+};
+
+int RequestRun::run()
+{
+    const auto request = m_channel.readRequest();
+    if (!request)
+        return ExitUsage;
+    m_request = *request;
+    PrintError error;
+    if (kind() != QLatin1String("choose") && !takeDocument(&error)) {
+        const int code = answer(Other);
+        tell(PortalText::tr("The document of an application cannot be printed."), error.message);
+        return code;
+    }
+    if (kind() == QLatin1String("submit"))
+        return submit();
+    return m_hasDisplay ? openDialog() : answer(Other);
+}
+
+int RequestRun::answer(const QJsonObject &answer)
+{
+    m_channel.write(answer);
+    return answer.value(QLatin1String("response")).toInt() == Done ? ExitSuccess : ExitFailure;
+}
+
+bool RequestRun::takeDocument(PrintError *error)
+{
+    const platform::UniqueFd given(m_request.value(QLatin1String("document")).toInt(-1));
+    if (given)
+        m_document = platform::privateCopy(given.get(), QDir::tempPath().toStdString(),
+                                           platform::longestDocument, &patience);
+    else
+        errno = EBADF;
+    if (m_document && ::lseek(m_document.get(), 0, SEEK_END) > 0)
+        return true;
+    if (m_document) {
+        *error = {PrintError::Kind::EmptyDocument, PortalText::tr("It is empty.")};
+        return false;
+    }
+    *error =
+        errno == EFBIG
+            ? PrintError{PrintError::Kind::Other, PortalText::tr("It is larger than 2 GB.")}
+            : PrintError{
+                  PrintError::Kind::Other,
+                  PortalText::tr("It cannot be read: %1.").arg(QString::fromLocal8Bit(std::strerror(errno)))};
+    return false;
+}
+
+QString RequestRun::documentPath() const
+{
+    return QStringLiteral("/proc/self/fd/%1").arg(m_document.get());
+}
+
+// GTK calls every document "Print"; what it would name a file is better.
+QString RequestRun::jobTitle() const
+{
+    const QString base = textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
+    return base.isEmpty() ? textOf(m_request, "title") : base;
+}
+
+// Who wants settings gives the title of the dialog, who has a document that of the document.
+QString RequestRun::windowTitle() const
+{
+    const QString title = jobTitle();
+    if (title.isEmpty())
+        return PortalText::tr("Print");
+    const bool isForDialog = kind() == QLatin1String("choose") && title == textOf(m_request, "title");
+    return isForDialog ? title : PortalText::tr("Print “%1”").arg(title);
+}
+
+StartingSettings RequestRun::start() const
+{
+    if (kind() == QLatin1String("document"))
+        return startingSettings(parseJobOptions(textOf(m_request, "options")),
+                                m_request.value(QLatin1String("copies")).toInt(1));
+    return startingSettings(m_request.value(QLatin1String("settings")).toObject(),
+                            m_request.value(QLatin1String("pageSetup")).toObject());
+}
+
+// The application does not look at what becomes of its document, so the user is told here.
+int RequestRun::submit()
+{
+    m_signals.emplace();
+    const StoredJob job = StoredJob::fromJson(m_request.value(QLatin1String("job")).toObject());
+    PrintError error;
+    const bool sent = send(job, &error);
+    const int code = answer(sent ? Done : Other);
+    if (!sent)
+        tell(PortalText::tr("The document has not been printed on “%1”.").arg(job.printer), error.message);
+    else if (!m_differences.isEmpty())
+        tell(PortalText::tr("The document was sent to “%1”, but not quite as asked for.").arg(job.printer),
+             m_differences.join(QLatin1Char('\n')));
+    m_signals.reset();
+    return code;
+}
+
+bool RequestRun::send(const StoredJob &job, PrintError *error)
+{
+    if (m_hasDisplay)
+        m_system.setLoginPrompt([](const LoginQuestion &question) { return askForLogin(question, {}); });
+    const auto destination = m_system.destination(job.printer, error);
+    DocumentList documents;
+    if (!destination || !documents.open({documentPath()}, nullptr, error))
+        return false;
+    QList<Document> list = documents.documents();
+    QString title = job.title.isEmpty() ? textOf(m_request, "title") : job.title;
+    if (title.isEmpty())
+        title = PortalText::tr("Document");
+    list.first().name = title;
+    const Submission submission = m_system.submit({*destination, list, title, job.options}, {});
+    m_system.setLoginPrompt({});
+    *error = submission.error;
+    m_differences = submission.job.differences;
+    return submission.isAccepted();
+}
+
+void RequestRun::tell(const QString &text, const QString &details)
+{
+    qWarning("%s %s", qPrintable(text), qPrintable(details));
+    m_signals.reset(); // a box does not keep the desktop from ending
+    if (!m_hasDisplay)
+        return;
+    QMessageBox box(QMessageBox::Warning, PortalText::tr("Print"), text + QStringLiteral("\n\n") + details);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+PrintTask RequestRun::task(const StartingSettings &start)
+{
+    PrintTask task;
+    task.printer = start.printer;
+    task.printerMayBeGone = true; // since the application has heard of it
+    if (m_document)
+        task.files = {documentPath()};
+    task.title = jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    task.documentName = task.title;
+    task.settingsOnly = kind() == QLatin1String("choose");
+    task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
+    const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
+    task.begin = [start, abilities, isAnswered = task.settingsOnly](DialogSession *session) {
+        GeneralSettings &general = session->general();
+        general.offersCurrentPage = isAnswered && abilities.value(QLatin1String("currentPage")).toBool();
+        general.offersSelection = isAnswered && abilities.value(QLatin1String("selection")).toBool();
+        beginWith(start, session);
+        PrintError ignored;
+        for (const auto &[name, value] : start.jobOptions)
+            choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
+    };
+    return task;
+}
+
+int RequestRun::openDialog()
+{
+    const StartingSettings begin = start();
+    PrintWindow window(m_system, m_extensions, task(begin));
+    window.setWindowTitle(windowTitle());
+    const ParentWindow parent(&window, textOf(m_request, "parent"),
+                              m_request.value(QLatin1String("modal")).toBool());
+    m_system.setLoginPrompt([parent = QPointer<QWidget>(&window)](const LoginQuestion &question) {
+        return askForLogin(question, parent);
+    });
+    PrintError error;
+    if (!window.open(&error)) {
+        qWarning("%s", qPrintable(error.message));
+        return answer(Other);
+    }
+    FirstPaint firstPaint(&window);
+    QObject::connect(&firstPaint, &FirstPaint::done, &window, [&] {
+        if (kind() == QLatin1String("document") && m_channel.isClosed()) { // the queue keeps its job
+            window.reject();
+            return;
+        }
+        m_channel.write({{QStringLiteral("event"), QStringLiteral("shown")}});
+        window.finishLater();
+        m_channel.watch();
+    });
+    if (kind() == QLatin1String("choose")) { // who owns a document is seen to the end
+        QObject::connect(&m_channel, &DialogChannel::closed, &window, &PrintWindow::reject);
+    }
+    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
+    QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
+    if (!window.isDismissed()) {
+        window.show();
+        window.update(); // it may have been shown, and painted, while a panel was waiting
+        QApplication::exec();
+    }
+    m_system.setLoginPrompt({});
+    if (window.submission())
+        return answer(Done);
+    return window.result() == QDialog::Accepted ? answer(chosen(window)) : answer(Cancelled);
+}
+
+QJsonObject RequestRun::chosen(const PrintWindow &window) const
+{
+    DialogSession &session = *window.session();
+    QStringList formats;
+    const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
+    for (const QJsonValue &format : abilities.value(QLatin1String("formats")).toArray())
+        formats.append(format.toString());
+    const StoredJob job{session.destination().name(),
+                        textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename"),
+                        jobOptionsForMadePages(&session)};
+    return {
+        {QStringLiteral("response"), Done},
+        {QStringLiteral("settings"),
+         settingsForApplication(m_request.value(QLatin1String("settings")).toObject(),
+                                choiceForApplication(session, formats))},
+        {QStringLiteral("pageSetup"),
+         pageSetupForApplication(m_request.value(QLatin1String("pageSetup")).toObject(), paperOf(session))},
+        {QStringLiteral("job"), job.toJson()}};
+}
+
+} // namespace
+
+int runDialogRequest(PrintSystem &system, Extensions &extensions, bool hasDisplay)
+{
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.kelmar.Print"));
+    return RequestRun(system, extensions, hasDisplay).run();
+}
+
+} // namespace host

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/access_keys.h"
+
+#include "host/window/look/mnemonics.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QLabel>
+
+namespace host {
+
+namespace {
+
+const char *const textProperty = "text";
+
+// Labels and buttons whose text may hold an access key, hidden ones included.
+QList<QWidget *> keyedWidgets(QWidget *part)
+{
+    QList<QWidget *> found;
+    QList<QWidget *> all = part->findChildren<QWidget *>();
+    all.prepend(part);
+    for (QWidget *widget : std::as_const(all)) {
+        const auto *label = qobject_cast<QLabel *>(widget);
+        const bool keyed = label ? label->buddy() && !label->property(AccessKeys::keylessProperty).toBool()
+                                 : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        if (keyed && !widget->property(textProperty).toString().isEmpty())
+            found.append(widget);
+    }
+    return found;
+}
+
+// How much wider a text is drawn than it is measured, in pixels: Qt draws the access key by itself, so that
+// it is not moved closer to its neighbours as in "Tw", but measures the text as if it were.
+int lostKerning(const QFontMetrics &metrics, const QString &shown)
+{
+    const qsizetype key = Mnemonics::placeOfKey(shown);
+    if (key < 0)
+        return 0;
+    const QString before = shown.left(key - 1);
+    const QString after = shown.mid(key + 1);
+    const int apart = metrics.horizontalAdvance(before) + metrics.horizontalAdvance(QString(shown.at(key))) +
+                      metrics.horizontalAdvance(after);
+    return qMax(0, apart - metrics.horizontalAdvance(before + shown.at(key) + after));
+}
+
+} // namespace
+
+AccessKeys::AccessKeys(QWidget *window, const QList<QWidget *> &parts)
+    : QObject(window), m_window(window), m_parts(parts)
+{
+}
+
+QString AccessKeys::ownText(QWidget *widget) const
+{
+    const QString text = widget->property(textProperty).toString();
+    const auto known = m_texts.find(widget);
+    return known != m_texts.end() && known->shown == text ? known->own : text;
+}
+
+void AccessKeys::assign()
+{
+    m_queued = false;
+    Mnemonics keys;
+    QHash<QWidget *, Texts> texts;
+    for (QWidget *part : std::as_const(m_parts)) {
+        QList<QWidget *> without;
+        for (QWidget *widget : keyedWidgets(part)) {
+            if (texts.contains(widget))
+                continue;
+            widget->installEventFilter(this);
+            const QString own = ownText(widget);
+            Texts known = m_texts.value(widget);
+            known.own = known.shown = own;
+            texts.insert(widget, known);
+            if (!widget->isVisibleTo(m_window) || keys.claim(own))
+                continue;
+            if (qobject_cast<QLabel *>(widget) || !Mnemonics::keyOf(own).isNull())
+                without.append(widget);
+        }
+        for (QWidget *widget : std::as_const(without))
+            texts[widget].shown = keys.assign(texts[widget].own);
+    }
+    bool isWider = false;
+    for (auto it = texts.begin(); it != texts.end(); ++it) {
+        if (it.key()->property(textProperty).toString() != it->shown)
+            it.key()->setProperty(textProperty, it->shown);
+        isWider |= reserveWidth(it.key(), &*it);
+    }
+    m_texts = texts;
+    if (isWider && m_window->isVisible()) // so that nothing moves once painted
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+}
+
+// A label that nothing else gives a width takes what its text is drawn in. True where that is new.
+bool AccessKeys::reserveWidth(QWidget *widget, Texts *texts)
+{
+    auto *label = qobject_cast<QLabel *>(widget);
+    if (!label || label->wordWrap() || (label->minimumWidth() > 0 && !texts->isReserved))
+        return false;
+    if (label->text() == texts->measured && label->font() == texts->font)
+        return false;
+    texts->measured = label->text();
+    texts->font = label->font();
+    const int lost = lostKerning(label->fontMetrics(), label->text());
+    texts->isReserved = lost > 0;
+    label->setMinimumWidth(lost > 0 ? label->sizeHint().width() + lost : 0);
+    return texts->isReserved;
+}
+
+void AccessKeys::assignLater()
+{
+    if (!std::exchange(m_queued, true))
+        QMetaObject::invokeMethod(this, &AccessKeys::assign, Qt::QueuedConnection);
+}
+
+bool AccessKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent ||
+        event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        assignLater();
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace host

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/announced.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QScrollArea>
+
+namespace host {
+
+namespace {
+
+const char *const announcedProperty = "kelmarAnnounced";
+
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    // Qt's own for a scroll area ends the program when it is asked for a child that it has not, and a reader
+    // may well ask for a scroll bar that has just gone.
+    if (qobject_cast<QScrollArea *>(widget))
+        return new QAccessibleWidget(widget, QAccessible::Pane);
+    return widget && widget->property(announcedProperty).isValid()
+               ? new QAccessibleWidget(widget, QAccessible::Notification)
+               : nullptr;
+}
+
+} // namespace
+
+void makeAnnounced(QWidget *widget)
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(makeAccessible);
+        return true;
+    }();
+    Q_UNUSED(installed)
+    widget->setProperty(announcedProperty, true);
+}
+
+void announce(QWidget *widget, const QString &text)
+{
+    widget->setAccessibleName(text);
+    if (!widget->isVisible()) // it will be read out when it appears
+        return;
+    QAccessibleEvent shown(widget, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+    QAccessibleEvent alert(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace host

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/contrast.h"
+
+#include <QPalette>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+// x to the power of 2.4 for x from 0.09 to 1: the fifth root of its twelfth power, by Newton's method from
+// above. What the window shows first needs this and nothing else of libm, whose pow() would bring 190 kB of
+// code and tables.
+qreal toThePowerOf2Point4(qreal x)
+{
+    constexpr int steps = 12; // exact from the tenth on
+    const qreal square = x * x;
+    const qreal fourth = square * square;
+    const qreal twelfth = fourth * fourth * fourth;
+    qreal root = square;
+    for (int step = 0; step < steps; ++step)
+        root -= (root - twelfth / (root * root * root * root)) / 5;
+    return root;
+}
+
+qreal luminance(const QColor &color)
+{
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : toThePowerOf2Point4((channel + 0.055) / 1.055);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+QColor mixed(const QColor &a, const QColor &b, float share)
+{
+    return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
+                            a.greenF() + (b.greenF() - a.greenF()) * share,
+                            a.blueF() + (b.blueF() - a.blueF()) * share);
+}
+
+} // namespace
+
+qreal contrast(const QColor &a, const QColor &b)
+{
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor legible(const QColor &ink, const QColor &ground, qreal least)
+{
+    constexpr int steps = 20;
+    const QColor end = contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
+    QColor result = ink;
+    for (int step = 1; step <= steps && contrast(result, ground) < least; ++step)
+        result = mixed(ink, end, float(step) / steps);
+    return result;
+}
+
+QColor errorInk(const QPalette &palette)
+{
+    return legible(QColor(0xd0, 0x3b, 0x3b), palette.color(QPalette::Active, QPalette::Window));
+}
+
+QColor highlightInk(const QPalette &palette)
+{
+    return legible(palette.color(QPalette::Active, QPalette::HighlightedText),
+                   palette.color(QPalette::Active, QPalette::Highlight));
+}
+
+QColor focusInk(const QPalette &palette)
+{
+    QColor ink = palette.color(QPalette::Active, QPalette::Highlight);
+    for (const auto role : {QPalette::Window, QPalette::Base})
+        ink = legible(ink, palette.color(QPalette::Active, role), markContrast);
+    return ink;
+}
+
+} // namespace host

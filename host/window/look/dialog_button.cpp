@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/dialog_button.h"
+
+#include "host/window/look/contrast.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace host {
+
+DialogButton::DialogButton(const QString &text, QWidget *parent) : QPushButton(text, parent)
+{
+    setMinimumWidth(96);
+}
+
+// With air beside the words, also for the frame of the focus, which is drawn inside.
+QSize DialogButton::sizeHint() const
+{
+    return QPushButton::sizeHint().grownBy({8, 0, 8, 0});
+}
+
+void DialogButton::mousePressEvent(QMouseEvent *event)
+{
+    if (m_deaf.hasExpired())
+        QPushButton::mousePressEvent(event);
+}
+
+void DialogButton::paintEvent(QPaintEvent *event)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    if (!(option.features & QStyleOptionButton::DefaultButton) || !isEnabled()) {
+        QPushButton::paintEvent(event);
+        return;
+    }
+    const QColor ink = highlightInk(palette());
+    QColor ground = palette().color(QPalette::Active, QPalette::Highlight);
+    if (isDown())
+        ground = ground.darker(125);
+    QStylePainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    // The frame around a button with the focus would not stand out from its ground.
+    if (hasFocus()) {
+        painter.setPen(QPen(ink, 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 2, 2);
+    }
+    option.palette.setColor(QPalette::ButtonText, ink);
+    painter.drawControl(QStyle::CE_PushButtonLabel, option);
+}
+
+} // namespace host

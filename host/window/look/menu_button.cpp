@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/menu_button.h"
+
+#include <QStyle>
+#include <QStyleOptionButton>
+
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr int sideAir = 12; // pixels beside the words, on both sides together
+
+} // namespace
+
+MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
+{
+    connect(this, &QPushButton::pressed, this, [this] {
+        if (menu())
+            return; // which the button opens itself
+        wantMenu();
+        showMenu();
+    });
+}
+
+QSize MenuButton::sizeHint() const
+{
+    QSize hint = QPushButton::sizeHint();
+    hint.rwidth() += sideAir;
+    if (menu())
+        return hint;
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.rect.setSize(hint);
+    hint.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    return hint;
+}
+
+void MenuButton::initStyleOption(QStyleOptionButton *option) const
+{
+    QPushButton::initStyleOption(option);
+    option->features |= QStyleOptionButton::HasMenu;
+    // Where there is little room the end is cut, not both sides; the key may go with it.
+    const int room = width() - sideAir - style()->pixelMetric(QStyle::PM_MenuButtonIndicator, option, this);
+    if (option->fontMetrics.horizontalAdvance(option->text) > room)
+        option->text =
+            option->fontMetrics.elidedText(option->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+}
+
+void MenuButton::paintEvent(QPaintEvent *event)
+{
+    QPushButton::paintEvent(event);
+    if (!std::exchange(m_wasPainted, true))
+        QMetaObject::invokeMethod(this, &MenuButton::wantMenu, Qt::QueuedConnection);
+}
+
+void MenuButton::wantMenu()
+{
+    if (!menu())
+        Q_EMIT menuWanted();
+}
+
+} // namespace host

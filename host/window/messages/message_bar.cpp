@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/messages/message_bar.h"
+
+#include "host/window/look/announced.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/look/foreign_text.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+constexpr int iconSize = 20; // pixels
+constexpr int buttonGap = 8; // pixels
+
+QLabel *plainLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFocusPolicy(Qt::NoFocus);
+    return label;
+}
+
+QColor mixed(const QColor &a, const QColor &b, qreal share)
+{
+    return QColor::fromRgbF(static_cast<float>(a.redF() * share + b.redF() * (1 - share)),
+                            static_cast<float>(a.greenF() * share + b.greenF() * (1 - share)),
+                            static_cast<float>(a.blueF() * share + b.blueF() * (1 - share)));
+}
+
+} // namespace
+
+MessageBar::MessageBar(QWidget *parent) : QFrame(parent)
+{
+    makeAnnounced(this);
+    hide();
+    connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
+}
+
+// When there is something to say: the bold font that a title takes costs a start 200 kB.
+void MessageBar::build()
+{
+    m_glyph = new StatusGlyph(iconSize, this);
+    m_scroll = new QScrollArea(this);
+    m_title = plainLabel(nullptr);
+    m_lines = plainLabel(nullptr);
+    m_row = new QBoxLayout(QBoxLayout::TopToBottom);
+    m_buttonRows = new QVBoxLayout;
+    QFont bold = m_title->font();
+    bold.setBold(true);
+    m_title->setFont(bold);
+    m_buttonRows->setSpacing(6);
+
+    auto *sheet = new QWidget;
+    auto *texts = new QVBoxLayout(sheet);
+    texts->setContentsMargins(0, 0, 0, 0);
+    texts->setSpacing(1);
+    texts->addWidget(m_title);
+    texts->addWidget(m_lines);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidget(sheet);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    sheet->setAutoFillBackground(false);
+    m_scroll->setMinimumWidth(100);
+    m_row->setSpacing(6);
+    m_row->addWidget(m_scroll, 1);
+    m_row->addLayout(m_buttonRows);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(14, 6, 8, 6);
+    row->setSpacing(12);
+    row->addWidget(m_glyph, 0, Qt::AlignTop);
+    row->addLayout(m_row, 1);
+}
+
+QString MessageBar::text() const
+{
+    if (!m_lines)
+        return {};
+    return m_lines->isHidden() ? m_title->text() : m_title->text() + QLatin1Char('\n') + m_lines->text();
+}
+
+void MessageBar::showMessage(Kind kind, const QString &title, const QStringList &lines,
+                             const QStringList &answers)
+{
+    if (!m_scroll)
+        build();
+    m_kind = kind;
+    m_glyph->setKind(kind);
+    m_title->setText(wrappable(title));
+    m_lines->setText(wrappable(lines.join(QLatin1Char('\n'))));
+    m_lines->setToolTip(tooltipOf(lines.join(QLatin1Char('\n'))));
+    m_lines->setVisible(!lines.isEmpty());
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    removeButtons();
+    // A single button stands beside the text, which keeps the bar low.
+    m_row->setDirection(answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    for (qsizetype i = 0; i < answers.size(); ++i)
+        addButton(answers.at(i), static_cast<int>(i));
+    if (answers.isEmpty())
+        addButton(tr("C&lose"), -1);
+    m_buttons.first()->setAccessibleDescription(text());
+    m_scroll->setAccessibleName(text()); // a stop of the keyboard where it scrolls
+    announce(this, text());
+    show();
+    fitButtons();
+    fitTexts();
+    update();
+    Q_EMIT buttonsChanged();
+    if (hadFocus)
+        takeFocus();
+}
+
+void MessageBar::removeButtons()
+{
+    qDeleteAll(m_buttons);
+    m_buttons.clear();
+    clearRows();
+}
+
+void MessageBar::addButton(const QString &text, int index)
+{
+    auto *button = new DialogButton(text, this);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
+    connect(button, &QPushButton::clicked, this, [this, index] {
+        const bool byKeyboard = isAncestorOf(QApplication::focusWidget());
+        hide();
+        if (byKeyboard)
+            giveFocusBack();
+        Q_EMIT answered(index);
+        Q_EMIT buttonsChanged();
+    });
+    m_buttons.append(button);
+}
+
+void MessageBar::takeFocus()
+{
+    if (!m_buttons.isEmpty() && isShowing())
+        m_buttons.first()->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageBar::noteFocus(QWidget *old, QWidget *now)
+{
+    if (old && now && isAncestorOf(now) && !isAncestorOf(old))
+        m_before = old;
+}
+
+void MessageBar::giveFocusBack()
+{
+    if (m_before && m_before->isVisible() && m_before->isEnabled())
+        m_before->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageBar::setTextLimit(int pixels)
+{
+    m_limit = pixels;
+    if (m_scroll)
+        fitTexts();
+}
+
+void MessageBar::clearRows()
+{
+    m_rowSizes.clear();
+    while (QLayoutItem *row = m_buttonRows->takeAt(0)) {
+        while (QLayoutItem *item = row->layout()->takeAt(0))
+            delete item;
+        delete row;
+    }
+}
+
+// As many of them side by side as fit: in a low window every row is taken from the page.
+void MessageBar::fitButtons()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int room = width() - margins.left() - margins.right() - iconSize - layout()->spacing();
+    QList<int> sizes;
+    int used = 0;
+    for (const QPushButton *button : std::as_const(m_buttons)) {
+        const int wanted = button->sizeHint().width() + buttonGap;
+        if (sizes.isEmpty() || used + wanted - buttonGap > room) {
+            sizes.append(0);
+            used = 0;
+        }
+        ++sizes.last();
+        used += wanted;
+    }
+    if (sizes == m_rowSizes)
+        return;
+    clearRows();
+    m_rowSizes = sizes;
+    qsizetype next = 0;
+    for (const int size : std::as_const(sizes)) {
+        auto *row = new QHBoxLayout;
+        row->setSpacing(buttonGap);
+        m_buttonRows->addLayout(row);
+        if (m_buttons.size() > 1 &&
+            sizes.size() < m_buttons.size()) // one below the other they are of a width
+            row->addStretch(1);
+        for (int i = 0; i < size; ++i)
+            row->addWidget(m_buttons.at(next++));
+    }
+}
+
+void MessageBar::fitTexts()
+{
+    const int width = m_scroll->viewport()->width();
+    const int wanted = m_scroll->widget()->layout()->totalHeightForWidth(width);
+    const int line = m_title->fontMetrics().height();
+    const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing(); // whole lines
+    m_scroll->setFixedHeight(qBound(line, wanted, most));
+    // Texts that scroll can be read with the keyboard, too.
+    m_scroll->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    if (!m_scroll)
+        return;
+    fitButtons();
+    fitTexts();
+}
+
+void MessageBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = StatusGlyph::colorOf(m_kind, palette());
+    painter.setPen(mixed(accent, palette().color(QPalette::Window), 0.55));
+    painter.setBrush(mixed(accent, palette().color(QPalette::Window), 0.14));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+}
+
+} // namespace host

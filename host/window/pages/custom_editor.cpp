@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/custom_editor.h"
+
+#include "host/window/look/contrast.h"
+#include "host/window/look/explanations.h"
+#include "host/window/look/foreign_text.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QRegularExpressionValidator>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, where nothing has been chosen
+constexpr double usualHeight = 297 / 25.4 * 72;
+
+int decimalsOf(const QString &unit)
+{
+    return unit == QLatin1String("cm") || unit == QLatin1String("in") ? 2 : 1;
+}
+
+double roundedUp(double value, int decimals)
+{
+    const double scale = std::pow(10, decimals);
+    return std::ceil(value * scale - 1e-6) / scale;
+}
+
+double roundedDown(double value, int decimals)
+{
+    return -roundedUp(-value, decimals);
+}
+
+QString usualUnit()
+{
+    return QLocale().measurementSystem() == QLocale::MetricSystem ? QStringLiteral("mm")
+                                                                  : QStringLiteral("in");
+}
+
+} // namespace
+
+CustomEditor::CustomEditor(const CustomChoice &custom, const QString &option, QWidget *parent)
+    : QWidget(parent), m_custom(custom), m_option(option), m_grid(new QGridLayout(this)),
+      m_hint(new QLabel(this))
+{
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setHorizontalSpacing(8);
+    m_grid->setVerticalSpacing(6);
+    m_grid->setColumnStretch(1, 1);
+    if (custom.isSize) {
+        addSize();
+    } else {
+        for (const CustomParameter &parameter : custom.parameters)
+            addParameter(parameter);
+    }
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    colourHint(false);
+    m_grid->addWidget(m_hint, m_grid->rowCount(), 0, 1, 2);
+    setFocusProxy(m_fields.first().widget);
+    setWhatsThis(explanationOf(QStringLiteral("custom")));
+    setChoice(custom.current());
+    setRanges();
+}
+
+void CustomEditor::addSize()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    m_unit = new QComboBox(this);
+    for (const auto &[unit, text] :
+         {std::pair("mm", tr("mm")), std::pair("cm", tr("cm")), std::pair("in", tr("in", "inches")),
+          std::pair("pt", tr("pt", "points"))})
+        m_unit->addItem(text, QString::fromLatin1(unit));
+    m_unit->setAccessibleName(tr("Unit of the paper size"));
+    m_unit->setObjectName(QStringLiteral("unit"));
+    m_currentUnit = usualUnit();
+    m_unit->setCurrentIndex(m_unit->findData(m_currentUnit));
+    for (const CustomParameter &side : m_custom.parameters) {
+        auto *box = new QDoubleSpinBox(this);
+        box->setObjectName(side.keyword);
+        box->setAccessibleName(side.text);
+        box->setToolTip(tooltipOf(side.text));
+        box->setMinimumWidth(88);
+        box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        if (!m_sides.isEmpty())
+            row->addWidget(new QLabel(QStringLiteral("×"), this));
+        row->addWidget(box, 1);
+        m_sides.append(box);
+        m_fields.append({box, [this, box] { return plainNumber(box->value()) + m_currentUnit; },
+                         [this, box](const QString &points) {
+                             box->setValue(points.toDouble() / CustomLength::pointsIn(m_currentUnit));
+                         }});
+        connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+    }
+    row->addWidget(m_unit);
+    m_grid->addLayout(row, 0, 0, 1, 2);
+    setRanges();
+    for (qsizetype i = 0; i < m_sides.size(); ++i) {
+        const QSignalBlocker quiet(m_sides.at(i));
+        m_fields.at(i).setValue(QString::number(i == 0 ? usualWidth : usualHeight));
+    }
+    connect(m_unit, &QComboBox::activated, this, &CustomEditor::changeUnit);
+}
+
+void CustomEditor::addParameter(const CustomParameter &parameter)
+{
+    const Field field = parameter.type == CustomParameter::Type::Whole ? wholeField(parameter)
+                        : parameter.isNumeric()                        ? numberField(parameter)
+                                                                       : textField(parameter);
+    field.widget->setObjectName(parameter.keyword);
+    field.widget->setAccessibleName(QStringLiteral("%1: %2").arg(m_option, parameter.text));
+    const int row = m_grid->rowCount();
+    if (m_custom.parameters.size() > 1) {
+        auto *label = new QLabel(this);
+        label->setTextFormat(Qt::PlainText);
+        label->setText(tr("%1:", "label of a field").arg(elided(parameter.text, label, 120)));
+        m_grid->addWidget(label, row, 0);
+        m_grid->addWidget(field.widget, row, 1);
+    } else {
+        m_grid->addWidget(field.widget, row, 0, 1, 2);
+    }
+    m_fields.append(field);
+}
+
+CustomEditor::Field CustomEditor::wholeField(const CustomParameter &parameter)
+{
+    auto *box = new QSpinBox(this);
+    box->setRange(static_cast<int>(parameter.minimum), static_cast<int>(parameter.maximum));
+    connect(box, &QSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+    return {box, [box] { return QString::number(box->value()); },
+            [box](const QString &value) { box->setValue(value.toInt()); }};
+}
+
+CustomEditor::Field CustomEditor::numberField(const CustomParameter &parameter)
+{
+    const bool isLength = parameter.type == CustomParameter::Type::Length;
+    auto *box = new QDoubleSpinBox(this);
+    const double span = parameter.maximum - parameter.minimum;
+    box->setDecimals(isLength ? 1 : span > 1 ? 2 : 4);
+    box->setSingleStep(span > 20 ? 1 : span / 20);
+    box->setRange(roundedUp(parameter.minimum, box->decimals()),
+                  roundedDown(parameter.maximum, box->decimals()));
+    if (isLength)
+        box->setSuffix(tr(" pt", "points, behind a number"));
+    connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+    return {box, [box] { return plainNumber(box->value()); },
+            [box](const QString &value) { box->setValue(value.toDouble()); }};
+}
+
+CustomEditor::Field CustomEditor::textField(const CustomParameter &parameter)
+{
+    auto *field = new QLineEdit(this);
+    field->setMaxLength(static_cast<int>(std::clamp(parameter.maximum, 1.0, 1024.0)));
+    if (parameter.type == CustomParameter::Type::Digits)
+        field->setValidator(
+            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
+    if (parameter.isSecret()) {
+        field->setEchoMode(QLineEdit::Password);
+        field->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText);
+    }
+    connect(field, &QLineEdit::textEdited, this, &CustomEditor::fieldEdited);
+    return {field, [field] { return field->text(); },
+            [field](const QString &value) { field->setText(value); }};
+}
+
+void CustomEditor::setRanges()
+{
+    QStringList words;
+    if (m_custom.isSize) {
+        const int decimals = decimalsOf(m_currentUnit);
+        const double scale = CustomLength::pointsIn(m_currentUnit);
+        QStringList least, most;
+        for (qsizetype i = 0; i < m_sides.size(); ++i) {
+            const CustomParameter &side = m_custom.parameters.at(i);
+            const double from = roundedUp(side.minimum / scale, decimals);
+            const double to = roundedDown(side.maximum / scale, decimals);
+            const QSignalBlocker quiet(m_sides.at(i));
+            m_sides.at(i)->setDecimals(3); // what was given on the command line may be finer
+            m_sides.at(i)->setRange(from, to);
+            m_sides.at(i)->setDecimals(decimals);
+            m_sides.at(i)->setSingleStep(m_currentUnit == QLatin1String("in") ? 0.25 : 1);
+            least.append(QLocale().toString(from, 'f', decimals));
+            most.append(QLocale().toString(to, 'f', decimals));
+        }
+        words.append(tr("From %1 to %2 %3", "smallest size, largest size, unit")
+                         .arg(least.join(QStringLiteral(" × ")), most.join(QStringLiteral(" × ")),
+                              m_unit->currentText()));
+    } else {
+        for (const CustomParameter &parameter : m_custom.parameters) {
+            const QString limits = parameter.inWords();
+            words.append(m_custom.parameters.size() > 1
+                             ? tr("%1:", "label of a field").arg(oneLine(parameter.text, 40)) +
+                                   QLatin1Char(' ') + limits
+                             : limits.left(1).toUpper() + limits.mid(1));
+        }
+    }
+    m_hint->setText(words.join(QLatin1Char('\n')));
+}
+
+void CustomEditor::changeUnit()
+{
+    QList<double> points;
+    for (QDoubleSpinBox *side : std::as_const(m_sides))
+        points.append(side->value() * CustomLength::pointsIn(m_currentUnit));
+    m_currentUnit = m_unit->currentData().toString();
+    setRanges();
+    for (qsizetype i = 0; i < m_sides.size(); ++i) {
+        const QSignalBlocker quiet(m_sides.at(i));
+        m_fields.at(i).setValue(QString::number(points.at(i), 'f', 6));
+    }
+    fieldEdited();
+}
+
+void CustomEditor::colourHint(bool wrong)
+{
+    QColor colour = palette().color(QPalette::WindowText);
+    colour.setAlphaF(0.72F);
+    QPalette changed = m_hint->palette();
+    changed.setColor(QPalette::WindowText, wrong ? errorInk(palette()) : colour);
+    m_hint->setPalette(changed);
+}
+
+void CustomEditor::showProblem()
+{
+    colourHint(true);
+    setFocus();
+}
+
+void CustomEditor::fieldEdited()
+{
+    colourHint(false);
+    m_shown.clear();
+    Q_EMIT edited();
+}
+
+void CustomEditor::setChoice(const QString &choice)
+{
+    QString ignored;
+    const auto values = m_custom.read(choice, m_option, &ignored);
+    if (!values || choice == this->choice())
+        return;
+    const QString unit = m_custom.isSize ? CustomLength::read(choice.section(u'x', -1))->unit : QString();
+    const int known = m_unit ? m_unit->findData(unit) : -1;
+    if (known >= 0) {
+        m_currentUnit = unit;
+        m_unit->setCurrentIndex(known);
+        setRanges();
+    }
+    for (qsizetype i = 0; i < m_fields.size(); ++i) {
+        const QSignalBlocker quiet(m_fields.at(i).widget);
+        m_fields.at(i).setValue(values->at(i));
+    }
+    m_shown = choice; // which may be finer than the fields
+}
+
+QString CustomEditor::choice() const
+{
+    if (!m_shown.isEmpty())
+        return m_shown;
+    QStringList values;
+    for (const Field &field : m_fields)
+        values.append(field.value());
+    return m_custom.written(values);
+}
+
+QString CustomEditor::problem() const
+{
+    QString problem;
+    (void)m_custom.read(choice(), m_option, &problem);
+    return problem;
+}
+
+} // namespace host

@@ -1,0 +1,369 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/general_page.h"
+
+#include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
+#include "host/session/page_ranges.h"
+#include "host/window/look/contrast.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/look/explanations.h"
+#include "host/window/pages/document_box.h"
+#include "host/window/pages/layout_form.h"
+#include "host/window/pages/option_form.h"
+#include "host/window/pages/page_controls.h"
+#include "host/window/pages/range_check.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+
+namespace host {
+
+GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWidget *parent)
+    : QWidget(parent), m_session(session), m_documents(documents), m_copies(new QSpinBox(this)),
+      m_collate(new QCheckBox(tr("C&ollate"), this)), m_allPages(new QRadioButton(tr("&All"), this)),
+      m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
+      m_problem(new QLabel(this)), m_sides(new QLabel(this))
+{
+    // By the names that a job has for them.
+    m_copies->setObjectName(QStringLiteral("copies"));
+    m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
+    m_pages->setObjectName(QStringLiteral("page-ranges"));
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(24, 20, 24, 20);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(10);
+    grid->setColumnStretch(2, 1);
+    grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this)); // nothing moves when it is made
+    addDocuments(grid);
+    addCopies(grid);
+    addPages(grid);
+    if (session->ppd()) {
+        grid->setRowMinimumHeight(grid->rowCount(), 12);
+        m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
+        connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
+    }
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setRowMinimumHeight(grid->rowCount() - 1,
+                              LayoutForm::heightIn(*grid, m_copies->sizeHint().height()));
+    showSides();
+}
+
+// What is further down is made when the page can be seen already.
+void GeneralPage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (!std::exchange(m_isPainted, true))
+        QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
+}
+
+// Shows what has been added, in its place, before anything is painted again.
+void GeneralPage::settleLayout()
+{
+    for (QWidget *child : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child->isHidden() && !child->testAttribute(Qt::WA_WState_ExplicitShowHide))
+            child->show();
+    }
+    for (QWidget *around = this; around; around = around->isWindow() ? nullptr : around->parentWidget())
+        QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest);
+}
+
+void GeneralPage::addLayout()
+{
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    grid->setRowStretch(grid->rowCount() - 1, 0);
+    grid->setRowMinimumHeight(grid->rowCount() - 1, 0);
+    m_layout = new LayoutForm(m_session, grid, this);
+    connect(m_layout, &LayoutForm::changed, this, [this] {
+        pagesEdited();
+        Q_EMIT pagesChanged();
+    });
+    addSavePdf(grid);
+    explainParts();
+    addRangeCheck();
+    grid->setRowStretch(grid->rowCount(), 1);
+    settleLayout();
+    Q_EMIT grown();
+}
+
+void GeneralPage::explainParts()
+{
+    m_copies->setWhatsThis(explanationOf(QStringLiteral("copies")));
+    m_collate->setWhatsThis(explanationOf(QStringLiteral("Collate")));
+    m_allPages->setWhatsThis(explanationOf(QStringLiteral("all-pages")));
+    for (QWidget *range : std::initializer_list<QWidget *>{m_somePages, m_pages})
+        range->setWhatsThis(explanationOf(QStringLiteral("page-ranges")));
+    for (const auto &[part, button] : std::as_const(m_parts))
+        button->setWhatsThis(explanationOf(part == GeneralSettings::Part::Selection
+                                               ? QStringLiteral("selection")
+                                               : QStringLiteral("current-page")));
+}
+
+void GeneralPage::addRangeCheck()
+{
+    if (!m_documents || m_documents->paths().isEmpty())
+        return;
+    m_rangeCheck = new RangeCheck(m_session, m_documents, this);
+    const auto checkAgain = [this] {
+        if (m_somePages->isChecked())
+            pagesEdited();
+    };
+    connect(m_rangeCheck, &RangeCheck::known, this, checkAgain);
+    connect(m_documents, &DocumentChoice::includedChanged, this, checkAgain);
+    checkAgain();
+}
+
+void GeneralPage::addDocuments(QGridLayout *grid)
+{
+    if (!m_documents || m_documents->paths().size() < 2)
+        return;
+    m_documentBox = new DocumentBox(m_documents, this);
+    m_documentBox->setWhatsThis(explanationOf(QStringLiteral("documents")));
+    auto *label = new QLabel(tr("Documents:"), this);
+    label->setBuddy(m_documentBox);
+    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
+    label->setContentsMargins(0, m_documentBox->frameWidth() + DocumentBox::rowPadding, 0, 0);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_documentBox, 0, 1);
+}
+
+void GeneralPage::addSavePdf(QGridLayout *grid)
+{
+    if (!m_documents || m_documents->paths().isEmpty())
+        return;
+    auto *button = new DialogButton(tr("Save as PDF…"), this);
+    button->setAutoDefault(false);
+    button->setToolTip(tr("Write the pages into a file instead of printing them"));
+    button->setWhatsThis(explanationOf(QStringLiteral("save-pdf")));
+    grid->addWidget(button, grid->rowCount(), 1, Qt::AlignLeading);
+    connect(button, &QPushButton::clicked, this, &GeneralPage::savePdfWanted);
+}
+
+void GeneralPage::addCopies(QGridLayout *grid)
+{
+    m_copies->setRange(1, GeneralSettings::maxCopies);
+    m_copies->setValue(m_session->general().copies);
+    m_copies->setAccelerated(true);
+    m_copies->setMinimumWidth(90);
+    m_copies->setAccessibleName(tr("Copies"));
+    m_collate->setChecked(m_session->general().collate);
+    enableCollate();
+    connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
+        m_session->general().copies = copies;
+        enableCollate();
+    });
+    connect(m_collate, &QCheckBox::toggled, this, [this](bool on) { m_session->general().collate = on; });
+
+    auto *label = new QLabel(tr("&Copies:"), this);
+    label->setBuddy(m_copies);
+    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(24); // the sign of a change has room
+    row->addWidget(m_copies);
+    row->addWidget(m_collate);
+    row->addStretch(1);
+    grid->addWidget(label, 1, 0);
+    grid->addLayout(row, 1, 1);
+}
+
+void GeneralPage::enableCollate()
+{
+    const bool several = m_copies->value() > 1;
+    m_collate->setEnabled(several);
+    m_collate->setToolTip(several ? tr("Print each copy whole before the next one begins")
+                                  : tr("Not available while \"%1\" is \"%2\".").arg(tr("Copies")).arg(1));
+}
+
+void GeneralPage::enablePages(bool some)
+{
+    const QAbstractButton *instead = m_allPages;
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        if (button->isChecked())
+            instead = button;
+    }
+    m_pages->setEnabled(some);
+    m_pages->setToolTip(some ? QString()
+                             : tr("Not available while \"%1\" is \"%2\".")
+                                   .arg(bareText(tr("Pages:")), bareText(instead->text())));
+    m_pages->setAccessibleDescription(m_pages->toolTip());
+}
+
+void GeneralPage::addPages(QGridLayout *grid)
+{
+    const QString pages = m_session->general().pages;
+    m_pages->setPlaceholderText(tr("for example 1-3, 8"));
+    m_pages->setAccessibleName(tr("Pages to print"));
+    m_pages->setText(pages);
+    m_allPages->setChecked(pages.isEmpty());
+    m_somePages->setChecked(!pages.isEmpty());
+    enablePages(!pages.isEmpty());
+    m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
+    m_problem->hide();
+    paintProblem();
+    connect(m_somePages, &QRadioButton::toggled, this, [this](bool on) {
+        enablePages(on);
+        if (on)
+            m_pages->setFocus();
+        pagesEdited();
+    });
+    connect(m_pages, &QLineEdit::textChanged, this, &GeneralPage::pagesEdited);
+
+    auto *label = new QLabel(tr("Pages:"), this);
+    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    auto *range = new QHBoxLayout;
+    range->setSpacing(8);
+    range->addWidget(m_somePages);
+    range->addWidget(m_pages, 1);
+    grid->addWidget(label, 2, 0);
+    grid->addWidget(m_allPages, 2, 1);
+    const GeneralSettings &general = m_session->general();
+    if (general.offersCurrentPage)
+        grid->addWidget(addPart(GeneralSettings::Part::CurrentPage, tr("Current page")), 3, 1);
+    if (general.offersSelection)
+        grid->addWidget(addPart(GeneralSettings::Part::Selection, tr("Selection")), 4, 1);
+    grid->addLayout(range, 5, 1);
+    m_sides->setWordWrap(true);
+    grid->addWidget(m_sides, 6, 1);
+    grid->addWidget(m_problem, 7, 1);
+}
+
+QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &text)
+{
+    auto *button = new QRadioButton(text, this);
+    button->setChecked(m_session->general().part == part);
+    m_parts.append({part, button});
+    connect(button, &QRadioButton::toggled, this, [this, part](bool on) {
+        m_session->general().part = on ? part : GeneralSettings::Part::Pages;
+        enablePages(m_somePages->isChecked());
+        pagesEdited();
+    });
+    return button;
+}
+
+// The print system counts the sides that come out where several pages are put on one.
+void GeneralPage::showSides()
+{
+    const int pages = m_session->general().layout.pagesPerSide;
+    m_sides->setText(tr("The numbers count printed sides, each with %1 pages.").arg(pages));
+    m_sides->setVisible(pages > 1 && m_somePages->isChecked());
+}
+
+void GeneralPage::pagesEdited()
+{
+    const QString text = pagesProblem();
+    m_problem->setText(text);
+    // While the user is still typing "3-" or "3," nothing is wrong yet.
+    const bool unfinished =
+        m_pages->text().trimmed().endsWith(QLatin1Char(',')) || m_pages->text().trimmed().isEmpty();
+    setProblemShown(!text.isEmpty() && !unfinished);
+    QString ignored;
+    m_session->general().pages = m_somePages->isChecked()
+                                     ? normalizedPageRanges(m_pages->text(), &ignored).value_or(QString())
+                                     : QString();
+    showSides();
+    Q_EMIT pagesChanged();
+}
+
+QString GeneralPage::problem() const
+{
+    if (m_documents && !m_documents->paths().isEmpty() && m_documents->included().isEmpty())
+        return tr("Choose at least one document.");
+    const QString pages = pagesProblem();
+    return pages.isEmpty() && m_form ? m_form->problem() : pages;
+}
+
+QString GeneralPage::pagesProblem() const
+{
+    if (!m_somePages->isChecked())
+        return {};
+    if (m_pages->text().trimmed().isEmpty())
+        return tr("Type which pages are to be printed, or choose all.");
+    QString problem;
+    const auto ranges = normalizedPageRanges(m_pages->text(), &problem);
+    return ranges && m_rangeCheck ? m_rangeCheck->problem(*ranges) : problem;
+}
+
+void GeneralPage::showProblem()
+{
+    if (m_documents && !m_documents->paths().isEmpty() && m_documents->included().isEmpty()) {
+        m_problem->setText(problem());
+        m_problem->show();
+        m_documentBox->setFocus();
+        return;
+    }
+    if (pagesProblem().isEmpty()) {
+        m_form->showProblem();
+        return;
+    }
+    m_problem->setText(pagesProblem());
+    setProblemShown(true);
+    m_pages->setFocus();
+    m_pages->selectAll();
+}
+
+// Who listens to the field hears of it as of something that belongs to the field.
+void GeneralPage::setProblemShown(bool shown)
+{
+    m_problem->setVisible(shown);
+    m_pages->setAccessibleDescription(shown ? m_problem->text() : m_pages->toolTip());
+}
+
+void GeneralPage::paintProblem()
+{
+    QPalette red = palette();
+    red.setColor(QPalette::WindowText, errorInk(red));
+    m_problem->setPalette(red);
+}
+
+void GeneralPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_problem)
+        paintProblem();
+}
+
+void GeneralPage::refresh()
+{
+    showGeneral();
+    if (m_form)
+        m_form->refresh();
+    if (m_layout)
+        m_layout->refresh();
+}
+
+// What is being typed stays, as far as it says what is set.
+void GeneralPage::showGeneral()
+{
+    const GeneralSettings general = m_session->general();
+    m_copies->setValue(general.copies);
+    m_collate->setChecked(general.collate);
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        const QSignalBlocker quiet(button);
+        if (general.part == part)
+            button->setChecked(true);
+        else if (button->isChecked() && general.part == GeneralSettings::Part::Pages)
+            (general.pages.isEmpty() ? m_allPages : m_somePages)->setChecked(true);
+    }
+    const QString typed = m_somePages->isChecked()
+                              ? normalizedPageRanges(m_pages->text(), nullptr).value_or(QString())
+                              : QString();
+    if (typed == general.pages)
+        return;
+    const QSignalBlocker quiet(m_somePages); // which gives the field the focus
+    enablePages(!general.pages.isEmpty());
+    m_somePages->setChecked(!general.pages.isEmpty());
+    m_allPages->setChecked(general.pages.isEmpty());
+    m_pages->setText(general.pages);
+    pagesEdited();
+}
+
+} // namespace host

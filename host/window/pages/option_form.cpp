@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/option_form.h"
+
+#include "host/session/dialog_session.h"
+#include "host/window/look/explanations.h"
+#include "host/window/look/foreign_text.h"
+#include "host/window/look/mnemonics.h"
+#include "host/window/pages/custom_editor.h"
+#include "platform/choice_box.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr int boxWidth = 240; // pixels, as in the panels
+constexpr int mostWidth = 360;
+constexpr int labelWidth = 220;
+
+const QString customItem = QStringLiteral("Custom");
+
+} // namespace
+
+OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid,
+                       QObject *parent)
+    : QObject(parent), m_session(session)
+{
+    for (const QString &keyword : keywords)
+        addRow(keyword, grid);
+    refresh();
+}
+
+void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
+{
+    const auto option = m_session->ppd()->option(keyword);
+    if (!option || (option->choices.isEmpty() && !option->custom) ||
+        m_session->rule().hiddenOptions.contains(keyword))
+        return;
+    auto *box = new platform::ChoiceBox(grid->parentWidget());
+    box->setMinimumWidth(boxWidth);
+    box->setMaximumWidth(mostWidth);
+    box->setObjectName(option->keyword);
+    box->setOptionKeyword(option->keyword);
+    box->setAccessibleName(oneLine(option->text));
+    box->setWhatsThis(explanationOf(option->keyword));
+    for (const PpdOption::Choice &choice : option->choices) {
+        box->addItem(oneLine(choice.text), choice.keyword);
+        box->setItemData(box->count() - 1, choice.keyword, platform::ChoiceBox::choiceRole);
+    }
+    if (option->custom)
+        box->addItem(tr("%1…", "Custom, whose values are asked for").arg(oneLine(option->custom->text)),
+                     customItem);
+    auto *label = new QLabel(grid->parentWidget());
+    label->setTextFormat(Qt::PlainText);
+    label->setText(
+        tr("%1:", "label of a field").arg(Mnemonics::escaped(elided(option->text, label, labelWidth))));
+    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    label->setBuddy(box);
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(box, row, 1);
+    m_rows.append({.keyword = option->keyword, .box = box});
+    const qsizetype index = m_rows.size() - 1;
+    if (option->custom) {
+        CustomEditor *editor = new CustomEditor(*option->custom, option->text, grid->parentWidget());
+        m_rows.last().editor = editor;
+        grid->addWidget(editor, row + 1, 1);
+        connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
+    }
+    if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+        addAttribution(box, grid, row + 2);
+    connect(box, &QComboBox::activated, this, [this, index] { choose(index); });
+}
+
+void OptionForm::addAttribution(QWidget *box, QGridLayout *grid, int row)
+{
+    const QString text = Policy::current().attribution();
+    auto *note = new QLabel(grid->parentWidget());
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setText(text);
+    box->setAccessibleDescription(text);
+    grid->addWidget(note, row, 1);
+}
+
+void OptionForm::choose(qsizetype index)
+{
+    Row &row = m_rows[index];
+    row.awaitsValues = false;
+    const QString choice = row.box->currentData().toString();
+    if (row.editor && choice == customItem) {
+        row.editor->show();
+        row.editor->setFocus();
+        markCustom(index);
+        return;
+    }
+    m_session->markChoice(row.keyword, choice);
+    refresh();
+    Q_EMIT chosen(row.keyword);
+}
+
+// What is not complete yet is not marked; the form keeps it, and says so.
+void OptionForm::markCustom(qsizetype index)
+{
+    Row &row = m_rows[index];
+    row.awaitsValues = !m_session->markChoice(row.keyword, row.editor->choice());
+    refresh();
+    if (!row.awaitsValues)
+        Q_EMIT chosen(row.keyword);
+}
+
+platform::ChoiceBox *OptionForm::box(const QString &keyword) const
+{
+    for (const Row &row : m_rows) {
+        if (row.keyword == keyword)
+            return row.box;
+    }
+    return nullptr;
+}
+
+QString OptionForm::problem() const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [](const Row &r) { return r.awaitsValues; });
+    return row == m_rows.end() ? QString() : row->editor->problem();
+}
+
+void OptionForm::showProblem()
+{
+    for (const Row &row : std::as_const(m_rows)) {
+        if (row.awaitsValues) {
+            row.editor->showProblem();
+            return;
+        }
+    }
+}
+
+void OptionForm::refresh()
+{
+    for (Row &row : m_rows)
+        refreshRow(row);
+}
+
+void OptionForm::refreshRow(Row &row)
+{
+    const QString marked = m_session->ppd()->markedChoice(row.keyword);
+    const bool isCustom = row.editor && (row.awaitsValues || isCustomChoice(marked));
+    const QString current = isCustom ? customItem : marked;
+    if (row.editor) {
+        row.editor->setVisible(isCustom);
+        if (isCustom && !row.awaitsValues)
+            row.editor->setChoice(marked);
+    }
+    const quint32 revision = m_session->ppd()->forbiddenRevision(row.keyword);
+    if (row.isDecided && row.current == current && row.revision == revision) {
+        row.box->setCurrentIndex(row.index);
+        return;
+    }
+    row.index = row.box->findData(current);
+    row.box->setCurrentIndex(row.index);
+    row.current = current;
+    row.revision = revision;
+    row.isDecided = true;
+    greyOut(row);
+}
+
+void OptionForm::greyOut(const Row &row)
+{
+    if (m_session->rule().lockedChoice(m_session->ppd(), row.keyword) == row.current) {
+        for (int i = 0; i < row.box->count(); ++i)
+            row.box->setObstacle(i, i == row.index ? QString() : Policy::current().attribution());
+        return;
+    }
+    const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
+    for (int i = 0; i < row.box->count(); ++i) {
+        const QString choice = row.box->itemData(i).toString();
+        const bool free = choice == row.current || !forbidden.contains(choice);
+        const OptionChoice obstacle = forbidden.value(choice);
+        row.box->setObstacle(
+            i,
+            free ? QString()
+                 : tr("Not available while \"%1\" is \"%2\".").arg(obstacle.optionText, obstacle.choiceText));
+    }
+}
+
+} // namespace host

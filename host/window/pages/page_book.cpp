@@ -1,0 +1,440 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/page_book.h"
+
+#include "host/policy/policy.h"
+#include "host/preview/page_tools.h"
+#include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
+#include "host/session/printed_pages.h"
+#include "host/session/session_changes.h"
+#include "host/session/session_history.h"
+#include "host/session/session_state.h"
+#include "host/window/look/separator.h"
+#include "host/window/pages/change_marks.h"
+#include "host/window/pages/general_page.h"
+#include "host/window/pages/hidden_controls.h"
+#include "host/window/pages/locked_controls.h"
+#include "host/window/pages/more_page.h"
+#include "host/window/pages/page_frame.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/pages/summary_page.h"
+#include "host/window/preview/preview_pane.h"
+#include "platform/panel_extras.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString generalName = QStringLiteral("general");
+const QString moreName = QStringLiteral("more");
+const QString summaryName = QStringLiteral("summary");
+
+// What the administrator has fixed on the page of a panel, and who says so; nil for nothing.
+QString policyNote(const DialogSession &session, int panel)
+{
+    if (panel < 0)
+        return {};
+    const QString attribution = Policy::current().attribution();
+    if (session.isPanelLocked(panel))
+        return PageBook::tr("These settings cannot be changed. %1").arg(attribution);
+    QStringList fixed;
+    for (const QString &keyword : session.panelKeywords(panel)) {
+        const QString choice = session.rule().lockedChoice(session.ppd(), keyword);
+        if (!choice.isNull())
+            fixed.append(session.ppd()->described(keyword, choice).text());
+    }
+    return fixed.isEmpty() ? QString()
+                           : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
+}
+// How wide the preview is, in pixels.
+constexpr int leastPreview = 160;
+constexpr int preferredPreview = 260;
+constexpr int mostPreview = 420;
+
+} // namespace
+
+PageBook::PageBook(QWidget *parent)
+    : QWidget(parent), m_list(new PageList(this)), m_area(new QWidget(this)),
+      m_stack(new QStackedWidget(m_area))
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_list);
+    row->addWidget(new Separator(Qt::Vertical, this));
+    row->addWidget(m_area, 1);
+    auto *pages = new QHBoxLayout(m_area);
+    pages->setContentsMargins(0, 0, 0, 0);
+    pages->setSpacing(0);
+    pages->addWidget(m_stack, 1);
+    connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
+}
+
+PageBook::~PageBook()
+{
+    clear(); // panels own their views
+}
+
+void PageBook::setDocuments(DocumentChoice *documents)
+{
+    m_documents = documents;
+    if (documents->paths().isEmpty())
+        return;
+    m_preview = new PreviewPane(documents, m_area);
+    m_preview->hide();
+    m_area->layout()->addWidget(m_preview);
+}
+
+void PageBook::beginPreview()
+{
+    if (!m_preview || std::exchange(m_previewBegun, true))
+        return;
+    updatePreview();
+    m_preview->begin(PageTools::installed());
+}
+
+bool PageBook::isGeneral() const
+{
+    return m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == generalName;
+}
+
+// Beside the general page, where there is room for both.
+void PageBook::fitPreview()
+{
+    if (!m_preview)
+        return;
+    const int room = isGeneral() ? width() - wantedWidth() + preferredPreview : 0;
+    m_preview->setVisible(room >= leastPreview);
+    if (room >= leastPreview)
+        m_preview->setFixedWidth(qMin(room, mostPreview));
+    updatePreview();
+}
+
+void PageBook::updatePreview()
+{
+    if (m_session && m_previewBegun && m_preview->isVisibleTo(this))
+        m_preview->setSettings(pageSettings(*m_session), isTwoSided(*m_session));
+}
+
+void PageBook::setSession(DialogSession *session, SessionHistory *history)
+{
+    clear();
+    m_session = session;
+    m_history = history;
+    addPage(tr("General"), generalName);
+    const Policy::Rule &rule = session->rule();
+    const auto hidesAll = [&rule](const QStringList &keywords) {
+        return std::all_of(keywords.begin(), keywords.end(),
+                           [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); });
+    };
+    for (int i = 0; i < session->panelCount(); ++i) {
+        const QStringList keywords = session->panelKeywords(i);
+        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()) &&
+            (keywords.isEmpty() || !hidesAll(keywords)))
+            addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
+    }
+    if (!hidesAll(session->otherKeywords()))
+        addPage(tr("More Options"), moreName);
+    addPage(tr("Summary"), summaryName);
+    fitList();
+}
+
+// The list has the width of its names, but leaves the pages the larger part of a narrow window.
+void PageBook::fitList()
+{
+    const int least = m_list->minimumSizeHint().width();
+    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
+}
+
+void PageBook::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitList();
+    fitPreview();
+}
+
+void PageBook::addPage(const QString &title, const QString &name, int panel)
+{
+    m_pages.push_back({title, name, panel, nullptr, nullptr});
+    const QSignalBlocker quiet(m_list); // a page is shown when somebody asks for it
+    m_list->addPage(title);
+}
+
+void PageBook::makeFrame(Page *page)
+{
+    QWidget *content = contentOf(*page);
+    content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
+    page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
+    connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitPreview);
+    if (page->name != summaryName)
+        page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
+    if (page->panel >= 0)
+        lockControls(*page);
+    m_stack->addWidget(page->frame);
+}
+
+// A choice that gets past that goes back; see DialogSession.
+void PageBook::lockControls(const Page &page)
+{
+    QList<QWidget *> locked, hidden;
+    for (const QString &keyword : m_session->panelKeywords(page.panel)) {
+        if (m_session->rule().hiddenOptions.contains(keyword))
+            hidden += page.marks->controlsOf(keyword);
+        else if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+            locked += page.marks->controlsOf(keyword);
+    }
+    if (!locked.isEmpty())
+        new LockedControls(locked, Policy::current().attribution(), page.frame);
+    if (!hidden.isEmpty())
+        new HiddenControls(hidden, page.frame, page.frame);
+}
+
+QWidget *PageBook::contentOf(const Page &page)
+{
+    if (page.panel >= 0)
+        return m_session->panel(page.panel)->panelView();
+    if (page.name == generalName) {
+        m_general = new GeneralPage(m_session, m_documents);
+        connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
+        connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
+        connect(m_general, &GeneralPage::grown, this, [this] {
+            Q_EMIT shown();
+            showChanges();
+        });
+        connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
+        return m_general;
+    }
+    if (page.name == moreName) {
+        m_more = new MorePage(m_session);
+        connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
+        connect(m_more, &MorePage::grown, this, &PageBook::grown);
+        return m_more;
+    }
+    m_summary = new SummaryPage;
+    connect(m_summary, &SummaryPage::followed, this, &PageBook::leadTo, Qt::QueuedConnection);
+    showSummary();
+    return m_summary;
+}
+
+void PageBook::clear()
+{
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const Page &page : m_pages) {
+        delete page.marks;
+        if (page.panel >= 0 && page.frame)
+            page.frame->releaseContent();
+        delete page.frame;
+    }
+    m_pages.clear();
+    m_session = nullptr;
+    m_history = nullptr;
+    m_current = -1;
+    m_general = nullptr;
+    m_more = nullptr;
+    m_summary = nullptr;
+}
+
+int PageBook::pageNamed(const QString &name) const
+{
+    // "Color Settings 1" finds "com.kelmar.pde.color-settings-1" in every language.
+    const QString kind = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    const auto page = std::find_if(m_pages.begin(), m_pages.end(), [&](const Page &p) {
+        return p.name == kind || p.name.endsWith(QLatin1Char('.') + kind) ||
+               p.title.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return page == m_pages.end() ? -1 : static_cast<int>(page - m_pages.begin());
+}
+
+QString PageBook::currentName() const
+{
+    return m_current < 0 ? QString() : m_pages[static_cast<size_t>(m_current)].name;
+}
+
+const PageBook::Page *PageBook::pageAt(int row) const
+{
+    return row < 0 || row >= static_cast<int>(m_pages.size()) ? nullptr : &m_pages[static_cast<size_t>(row)];
+}
+
+QString PageBook::nameOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->name : QString();
+}
+
+QString PageBook::titleOf(int row) const
+{
+    return pageAt(row) ? pageAt(row)->title : QString();
+}
+
+QWidget *PageBook::builtPage(int row) const
+{
+    return pageAt(row) ? pageAt(row)->frame : nullptr;
+}
+
+void PageBook::showPage(int row)
+{
+    if (row == m_current && builtPage(row))
+        m_stack->setCurrentWidget(builtPage(row));
+    if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
+        return;
+    QWidget *const focus = window()->focusWidget();
+    const bool wasOnPage = focus && m_stack->isAncestorOf(focus);
+    const bool allowed = leave();
+    const QSignalBlocker quiet(m_list);
+    m_list->setCurrentRow(allowed ? row : m_current); // before a panel that may make the user wait
+    if (!allowed)
+        return;
+    Page &page = m_pages[static_cast<size_t>(row)];
+    const bool isBuilt = page.frame;
+    if (!isBuilt)
+        makeFrame(&page);
+    if (page.panel >= 0) {
+        m_session->prepare(page.panel);
+        m_session->panel(page.panel)->willShow();
+    }
+    m_current = row;
+    if (isBuilt)
+        refresh();
+    m_stack->setCurrentWidget(page.frame);
+    page.frame->scrollToTop();
+    if (wasOnPage) // it would go to whatever comes next
+        m_list->setFocus();
+    fitPreview();
+    Q_EMIT shown();
+    showChanges();
+}
+
+bool PageBook::leave()
+{
+    if (m_current < 0)
+        return true;
+    const int panel = m_pages[static_cast<size_t>(m_current)].panel;
+    if (panel >= 0 && !m_session->panel(panel)->shouldHide())
+        return false;
+    m_session->save();
+    Q_EMIT left();
+    return true;
+}
+
+void PageBook::refresh()
+{
+    if (m_general)
+        m_general->refresh();
+    if (m_more)
+        m_more->refresh();
+    if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
+        showSummary();
+    updatePreview();
+}
+
+void PageBook::showSummary()
+{
+    m_summary->show(*m_session, m_session->summary(),
+                    changesBetween(*m_session, m_history->base().state, StateKeeper::stateOf(*m_session)));
+}
+
+int PageBook::rowOf(const QString &key) const
+{
+    const int place = pageOf(*m_session, key);
+    if (place == morePage)
+        return pageNamed(moreName);
+    for (size_t row = 0; row < m_pages.size(); ++row) {
+        if (place >= 0 && m_pages[row].panel == place)
+            return static_cast<int>(row);
+    }
+    return pageNamed(generalName);
+}
+
+void PageBook::showChanges()
+{
+    if (!m_session)
+        return;
+    QSet<int> changed;
+    for (const QString &key : m_history->base().state.differencesTo(m_history->now())) {
+        if (key != QLatin1String("destination"))
+            changed.insert(rowOf(key));
+    }
+    for (int row = 0; row < static_cast<int>(m_pages.size()); ++row)
+        m_list->setChanged(row, changed.contains(row));
+    if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].marks)
+        m_pages[static_cast<size_t>(m_current)].marks->refresh();
+}
+
+void PageBook::openViewOf(QWidget *control)
+{
+    const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
+    auto *views = panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panel(panel));
+    if (views && views->offersViewOf(control))
+        views->showViewOf(control);
+}
+
+void PageBook::leadTo(const QString &key)
+{
+    const int row = rowOf(key);
+    showPage(row);
+    if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
+        return;
+    QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
+    if (control)
+        openViewOf(control);
+    if (control && control->isEnabled() && !control->isHidden())
+        control->setFocus(Qt::ShortcutFocusReason);
+    else
+        m_list->setFocus();
+}
+
+void PageBook::turn(int steps)
+{
+    if (!m_pages.empty())
+        showPage(std::clamp(m_current + steps, 0, static_cast<int>(m_pages.size()) - 1));
+}
+
+int PageBook::wantedWidth() const
+{
+    const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
+    const int preview = m_preview && isGeneral() ? preferredPreview : 0;
+    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
+}
+
+int PageBook::wantedHeight() const
+{
+    const QWidget *frame = builtPage(m_current);
+    return frame ? static_cast<const PageFrame *>(frame)->wantedHeight() : 0;
+}
+
+QWidget *PageBook::pages() const
+{
+    return m_area;
+}
+
+void PageBook::followFocus(QWidget *now)
+{
+    if (now && m_current >= 0 && m_stack->isAncestorOf(now))
+        m_pages[static_cast<size_t>(m_current)].frame->reveal(now);
+}
+
+bool PageBook::checkTyped()
+{
+    if (m_general && !m_general->problem().isEmpty()) {
+        showPage(pageNamed(generalName));
+        m_general->showProblem();
+        return false;
+    }
+    if (m_more && !m_more->problem().isEmpty()) {
+        showPage(pageNamed(moreName));
+        m_more->showProblem();
+        return false;
+    }
+    return true;
+}
+
+} // namespace host

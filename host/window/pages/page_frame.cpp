@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/page_frame.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+class PageScroll : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize minimumSizeHint() const override { return {160, 40}; }
+    QSize sizeHint() const override
+    {
+        const QSize inner = widget() ? widget()->sizeHint() : QSize();
+        return {inner.width() + verticalScrollBar()->sizeHint().width(), inner.height()};
+    }
+};
+
+QLabel *noteLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setContentsMargins(24, 8, 24, 0);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent)
+    : QWidget(parent), m_scroll(new PageScroll(this)), m_content(content)
+{
+    auto *heading = new QLabel(title, this);
+    heading->setTextFormat(Qt::PlainText);
+    QFont large = heading->font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    heading->setFont(large);
+    heading->setContentsMargins(24, 12, 24, 0);
+    heading->setWordWrap(true);
+
+    // The heading scrolls along: a low window has better use for its place.
+    auto *sheet = new QWidget;
+    auto *lines = new QVBoxLayout(sheet);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    lines->addWidget(heading);
+    if (!note.isNull())
+        lines->addWidget(noteLabel(note, this));
+    lines->addWidget(content, 1);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(sheet);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    sheet->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    content->show();
+    sheet->installEventFilter(this);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_scroll, 1);
+}
+
+PageFrame::~PageFrame() = default;
+
+int PageFrame::wantedWidth() const
+{
+    const int inner = m_scroll->widget()->minimumSizeHint().width();
+    return inner + m_scroll->verticalScrollBar()->sizeHint().width();
+}
+
+int PageFrame::wantedHeight() const
+{
+    return m_scroll->widget()->sizeHint().height();
+}
+
+// A row has come, or a text is longer than it was, if only than when the page was last hidden.
+bool PageFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        Q_EMIT laidOut();
+    return QWidget::eventFilter(watched, event);
+}
+
+void PageFrame::scrollToTop()
+{
+    m_scroll->verticalScrollBar()->setValue(0);
+    m_scroll->horizontalScrollBar()->setValue(0);
+}
+
+void PageFrame::reveal(QWidget *control)
+{
+    if (!m_content || !m_content->isAncestorOf(control))
+        return;
+    // Where it is to be: rows that were just made are laid out later.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (m_content->layout())
+        m_content->layout()->activate();
+    m_scroll->ensureWidgetVisible(control, 12, 12);
+}
+
+void PageFrame::releaseContent()
+{
+    if (m_content && isAncestorOf(m_content)) {
+        m_content->hide();
+        m_content->setParent(nullptr);
+    }
+}
+
+} // namespace host

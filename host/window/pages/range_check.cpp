@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/range_check.h"
+
+#include "host/preview/page_counter.h"
+#include "host/session/dialog_session.h"
+#include "host/session/document_choice.h"
+#include "host/session/printed_pages.h"
+#include "host/window/look/foreign_text.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+// The largest of the first pages of all ranges.
+int lastBeginning(const QString &ranges)
+{
+    int last = 0;
+    for (const QString &range : ranges.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        last = std::max(last, range.section(QLatin1Char('-'), 0, 0).toInt());
+    return last;
+}
+
+} // namespace
+
+RangeCheck::RangeCheck(DialogSession *session, DocumentChoice *documents, QObject *parent)
+    : QObject(parent), m_session(session), m_documents(documents)
+{
+}
+
+// A range that begins behind the last page prints nothing.
+QString RangeCheck::problem(const QString &ranges)
+{
+    const int beginning = lastBeginning(ranges);
+    if (beginning == 0)
+        return {};
+    if (!m_counter) {
+        m_counter = new PageCounter(PageTools::installed(), this);
+        connect(m_counter, &PageCounter::counted, this, &RangeCheck::known);
+    }
+    m_counter->count(m_documents->included(), pageSettings(*m_session));
+    int most = 0, longest = -1, included = 0;
+    for (int i = 0; i < m_documents->paths().size(); ++i) {
+        if (!m_documents->isIncluded(i))
+            continue;
+        const int pages = m_counter->pagesOf(m_documents->paths().at(i));
+        if (pages == 0) // may be the longest
+            return {};
+        ++included;
+        if (pages > most)
+            longest = i;
+        most = std::max(most, pages);
+    }
+    const int pagesPerSide = m_session->general().layout.pagesPerSide;
+    const int last = (most + pagesPerSide - 1) / pagesPerSide;
+    if (longest < 0 || beginning <= last)
+        return {};
+    if (included > 1) {
+        const QString name = oneLine(m_documents->name(longest));
+        return pagesPerSide > 1
+                   ? tr("The longest document, “%1”, has only %2 printed sides.")
+                         .arg(name, QString::number(last))
+                   : tr("The longest document, “%1”, has only %2 pages.").arg(name, QString::number(last));
+    }
+    return pagesPerSide > 1 ? tr("There are only %1 printed sides.").arg(last)
+                            : tr("The document has only %1 pages.").arg(last);
+}
+
+} // namespace host

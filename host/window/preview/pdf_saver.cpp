@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/preview/pdf_saver.h"
+
+#include "platform/background.h"
+
+#include <QFileDialog>
+#include <QStandardPaths>
+
+namespace host {
+
+PdfSaver::PdfSaver(QWidget *window) : QObject(window), m_window(window) {}
+
+void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths,
+                    const PageSettings &settings, const QString &suggestedName)
+{
+    if (m_isBusy)
+        return;
+    m_documents = documents;
+    auto *dialog = new QFileDialog(m_window, tr("Save as PDF"),
+                                   QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                                   tr("PDF files (*.pdf)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before a file is replaced
+    dialog->setDefaultSuffix(QStringLiteral("pdf"));
+    dialog->selectFile(suggestedName + QStringLiteral(".pdf"));
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this, paths, settings](const QString &path) { write(paths, settings, path); });
+    dialog->open();
+}
+
+void PdfSaver::write(const QStringList &paths, const PageSettings &settings, const QString &path)
+{
+    if (m_isBusy)
+        return;
+    m_isBusy = true;
+    Q_EMIT began();
+    platform::startBeside(
+        this,
+        [documents = m_documents, paths] {
+            PrintError error;
+            (void)documents->open(paths, nullptr, &error);
+            return error;
+        },
+        [this, settings, path](const PrintError &error) {
+            if (error) {
+                end(error, path);
+                return;
+            }
+            m_writer = std::make_unique<PdfWriter>(PageTools::installed());
+            connect(m_writer.get(), &PdfWriter::ended, this,
+                    [this, path](const PrintError &problem) { end(problem, path); });
+            m_writer->write(m_documents->documents(), settings, path);
+        });
+}
+
+void PdfSaver::end(const PrintError &error, const QString &path)
+{
+    m_isBusy = false;
+    if (m_writer)
+        m_writer.release()->deleteLater(); // it is what calls this
+    Q_EMIT ended(error, path);
+}
+
+} // namespace host

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/preview/preview_pane.h"
+
+#include "host/preview/preview.h"
+#include "host/session/document_choice.h"
+#include "host/window/look/explanations.h"
+#include "host/window/look/foreign_text.h"
+#include "host/window/preview/preview_sheet.h"
+#include "host/window/preview/preview_strip.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+constexpr double millimetres = 25.4 / 72; // a point
+
+QToolButton *pageButton(Qt::ArrowType arrow, const QString &name, QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setArrowType(arrow);
+    button->setAutoRaise(true);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+PreviewPane::PreviewPane(DocumentChoice *choice, QWidget *parent) : QWidget(parent), m_choice(choice)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+}
+
+PreviewPane::~PreviewPane() = default;
+
+void PreviewPane::begin(const PageTools &tools)
+{
+    if (m_preview)
+        return;
+    m_preview = new Preview(tools, this);
+    build();
+    connect(m_preview, &Preview::changed, this, &PreviewPane::factsChanged);
+    connect(m_preview, &Preview::pageMade, this, &PreviewPane::showMade);
+    connect(m_choice, &DocumentChoice::currentChanged, this, &PreviewPane::look);
+    m_preview->setSettings(m_settings);
+    m_preview->setWatched(isVisible());
+    look();
+}
+
+void PreviewPane::build()
+{
+    setWhatsThis(explanationOf(QStringLiteral("preview")));
+    m_sheet = new PreviewSheet(this);
+    m_back = pageButton(Qt::LeftArrow, tr("Page before"), this);
+    m_forth = pageButton(Qt::RightArrow, tr("Page after"), this);
+    m_caption = new QLabel(this);
+    m_caption->setTextFormat(Qt::PlainText);
+    m_caption->setAlignment(Qt::AlignCenter);
+    m_caption->setWordWrap(true);
+    m_strip = new PreviewStrip(m_preview, this);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_back);
+    row->addWidget(m_caption, 1);
+    row->addWidget(m_forth);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(8, 12, 8, 8);
+    column->addWidget(m_sheet, 1);
+    column->addLayout(row);
+    column->addWidget(m_strip);
+    for (QWidget *part : std::initializer_list<QWidget *>{m_back, m_forth, m_strip})
+        part->hide();
+    if (layoutDirection() == Qt::RightToLeft) {
+        m_back->setArrowType(Qt::RightArrow);
+        m_forth->setArrowType(Qt::LeftArrow);
+    }
+    connect(m_back, &QToolButton::clicked, this, [this] { m_strip->setCurrent(m_page - 1); });
+    connect(m_forth, &QToolButton::clicked, this, [this] { m_strip->setCurrent(m_page + 1); });
+    connect(m_strip, &PreviewStrip::picked, this, &PreviewPane::showPage);
+}
+
+void PreviewPane::look()
+{
+    if (m_choice->current() < 0)
+        return;
+    m_page = 0;
+    m_sheet->showText({});
+    m_preview->setDocument(m_choice->paths().at(m_choice->current()));
+    showPage(0);
+}
+
+void PreviewPane::setSettings(const PageSettings &settings, bool isTwoSided)
+{
+    m_settings = settings;
+    m_isTwoSided = isTwoSided;
+    if (!m_preview)
+        return;
+    m_preview->setSettings(settings);
+    m_caption->setText(caption());
+}
+
+void PreviewPane::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_preview)
+        m_preview->setWatched(true);
+}
+
+void PreviewPane::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_preview)
+        m_preview->setWatched(false);
+}
+
+void PreviewPane::factsChanged()
+{
+    m_picture = QSize(); // of pages that are no more; pageMade() tells of the new ones
+    const int count = m_preview->facts() ? m_preview->facts()->pages : 0;
+    if (!m_preview->problem().isNull())
+        m_sheet->showText(tr("No preview: %1.").arg(wrappable(m_preview->problem())));
+    if (count > 0 || !m_preview->problem().isNull()) {
+        m_count = count;
+        m_strip->setCount(count);
+        for (QWidget *part : std::initializer_list<QWidget *>{m_back, m_forth, m_strip})
+            part->setVisible(count > 1);
+        if (m_page >= count)
+            showPage(qMax(0, count - 1));
+    }
+    m_caption->setText(caption());
+    m_back->setEnabled(m_page > 0);
+    m_forth->setEnabled(m_page + 1 < m_count);
+}
+
+// What was shown before stays until the page is there.
+void PreviewPane::showPage(int page)
+{
+    m_page = page;
+    const QImage picture = m_preview->page(page);
+    m_picture = picture.size();
+    if (!picture.isNull())
+        m_sheet->showPage(picture);
+    m_caption->setText(caption());
+    m_back->setEnabled(m_page > 0);
+    m_forth->setEnabled(m_page + 1 < m_count);
+}
+
+void PreviewPane::showMade(int page)
+{
+    if (page != m_page)
+        return;
+    const QImage picture = m_preview->page(page);
+    m_picture = picture.size();
+    if (picture.isNull())
+        m_sheet->showText(tr("This page cannot be shown."));
+    else
+        m_sheet->showPage(picture);
+    m_caption->setText(caption());
+}
+
+QString PreviewPane::caption() const
+{
+    if (!m_preview->facts())
+        return {};
+    const QLocale locale;
+    QStringList lines;
+    lines.append(tr("Page %1 of %2").arg(locale.toString(m_page + 1), locale.toString(m_count)));
+    if (m_isTwoSided)
+        lines.append((m_page % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
+                         .arg(locale.toString(m_page / 2 + 1)));
+    QSizeF size = m_preview->facts()->size * millimetres;
+    if (!m_picture.isEmpty() && (m_picture.width() > m_picture.height()) != (size.width() > size.height()))
+        size.transpose(); // it is turned
+    lines.append(
+        tr("%1 × %2 mm").arg(locale.toString(qRound(size.width())), locale.toString(qRound(size.height()))));
+    if (!m_preview->isAsPrinted())
+        lines.append(tr("Shown as in the document"));
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace host

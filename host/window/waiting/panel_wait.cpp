@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/waiting/panel_wait.h"
+
+#include "host/window/look/startup_clock.h"
+#include "host/window/waiting/dialog_waiter.h"
+#include "host/window/waiting/wait_sign.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QTimer>
+
+namespace host {
+
+PanelWait::PanelWait(QDialog *dialog, QWidget *wayOut)
+    : m_dialog(dialog), m_sign(new WaitSign(dialog)), m_waiter(std::make_shared<DialogWaiter>(dialog)),
+      m_scope(m_waiter)
+{
+    m_waiter->setOpenParts({m_sign, wayOut});
+    connect(m_sign, &WaitSign::stopped, this, &PanelWait::giveUp);
+    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_sign, &WaitSign::offerStop);
+    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, this, &PanelWait::noticed);
+}
+
+PanelWait::~PanelWait() = default;
+
+void PanelWait::begin(const QString &what)
+{
+    if (m_depth++ > 0)
+        return;
+    m_waiter->beginActivity();
+    m_sign->begin(what);
+    if (m_isDismissed)
+        giveUp();
+    else if (m_dialog->isVisible())
+        m_dialog->repaint();
+    else
+        showPainted();
+}
+
+// Shows the dialog and returns when it can be seen, or when the screen takes too long about it.
+void PanelWait::showPainted()
+{
+    QEventLoop untilPainted;
+    FirstPaint painted(m_dialog);
+    connect(&painted, &FirstPaint::done, &untilPainted, &QEventLoop::quit);
+    QTimer::singleShot(std::chrono::seconds(1), &untilPainted, &QEventLoop::quit);
+    m_dialog->show();
+    untilPainted.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void PanelWait::end()
+{
+    if (--m_depth > 0)
+        return;
+    m_waiter->endActivity();
+    m_sign->end();
+    Q_EMIT ended();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!isUnderWay())
+                Q_EMIT panelReturned();
+        },
+        Qt::QueuedConnection);
+}
+
+void PanelWait::giveUp()
+{
+    m_waiter->giveUp();
+}
+
+} // namespace host

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/waiting/wait_sign.h"
+
+#include "host/window/look/announced.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/look/explanations.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr int barWidth = 72; // pixels
+
+}
+
+WaitSign::WaitSign(QWidget *parent)
+    : QWidget(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
+      m_stop(new DialogButton(tr("Do &Not Wait"), this))
+{
+    makeAnnounced(this);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_bar->setRange(0, 0); // moves without telling how far
+    m_bar->setTextVisible(false);
+    m_bar->setFixedWidth(barWidth);
+    m_bar->setAccessibleName(tr("Progress"));
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(10);
+    row->addWidget(m_text, 1);
+    row->addWidget(m_bar);
+    row->addWidget(m_stop);
+    m_bar->hide();
+    m_stop->hide();
+    connect(m_stop, &QPushButton::clicked, this, &WaitSign::stopped);
+}
+
+WaitSign::~WaitSign()
+{
+    if (m_isShowing)
+        QApplication::restoreOverrideCursor();
+}
+
+void WaitSign::begin(const QString &what)
+{
+    if (!std::exchange(m_isShowing, true))
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+    m_text->setText(what);
+    m_bar->hide();
+    m_stop->hide();
+}
+
+// What is over at once is not read out.
+void WaitSign::showMoving()
+{
+    m_bar->show();
+    announce(this, m_text->text());
+}
+
+void WaitSign::offerStop()
+{
+    m_stop->setWhatsThis(explanationOf(QStringLiteral("give-up")));
+    m_stop->show();
+    showMoving();
+}
+
+void WaitSign::end()
+{
+    if (std::exchange(m_isShowing, false))
+        QApplication::restoreOverrideCursor();
+    m_text->clear();
+    setAccessibleName(QString());
+    m_bar->hide();
+    m_stop->hide();
+}
+
+} // namespace host
