@@ -53,8 +53,8 @@ ensure_packages() (
     exit $status
 )
 
-# Configures a preset when it has not been, then builds it. Quick when nothing changed. What one clone has compiled,
-# another takes from the compiler cache, wherever it lies.
+# build_preset PRESET [TARGET...]: configures a preset when it has not been, then builds it, or only the targets. Quick
+# when nothing changed. What one clone has compiled, another takes from the compiler cache, wherever it lies.
 build_preset() {
     local preset=$1
     shift
@@ -65,5 +65,5 @@ build_preset() {
         return 1
     }
     rm -f "build-$preset.log"
-    cmake --build --preset "$preset" "$@"
+    cmake --build --preset "$preset" ${1:+--target "$@"}
 }
