@@ -10,7 +10,7 @@ build_packages=(
 )
 run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters cups-ipp-utils poppler-utils qpdf ghostscript file libqt6gui6 qt6-qpa-plugins
-    snmpd libsnmp40 python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
+    snmpd python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n
 )
@@ -26,13 +26,11 @@ trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
 
 say() { printf '== %s\n' "$*"; }
 
-# Installs those of the given packages that are not there yet. Asks apt only when something is missing. A subshell, so
-# that what it puts in place for apt goes again however it ends.
+# Installs those of the given packages that neither are there nor are provided by another one. Asks apt only when something
+# is missing. A subshell, so that what it puts in place for apt goes again however it ends.
 ensure_packages() (
-    missing=()
-    for package in "$@"; do
-        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
-    done
+    there() { dpkg-query -W -f '${db:Status-Status}, ${Package}, ${Provides}\n' | grep '^installed' | tr ',' '\n' | sed 's/ *(.*//; s/^ *//'; }
+    mapfile -t missing < <(LC_ALL=C comm -13 <(there | LC_ALL=C sort -u) <(printf '%s\n' "$@" | LC_ALL=C sort -u))
     [ ${#missing[@]} -eq 0 ] && exit 0
     say "Installing ${missing[*]}"
     sudo=()
