@@ -4,7 +4,10 @@
 #include "host/preview/page_counter.h"
 
 #include "host/preview/preview.h"
+#include "host/printing/file_name.h"
 #include "platform/background.h"
+
+#include <QEventLoop>
 
 #include <algorithm>
 
@@ -13,43 +16,95 @@ namespace host {
 namespace {
 
 const QString counter = QStringLiteral("pdfinfo");
-
-// Which pages are printed does not change how many there are.
-// What no count depends on.
-PageSettings withoutRanges(PageSettings settings)
-{
-    settings.isMonochrome = false;
-    settings.options.removeIf(
-        [](const auto &option) { return option.first == QLatin1String("page-ranges"); });
-    return settings;
-}
+const QString examiner = QStringLiteral("qpdf");
+const QString document = QStringLiteral("/dev/stdin");
+const QString ranges = QStringLiteral("page-ranges");
+const QString pageSet = QStringLiteral("page-set");
 
 bool isA(const Document &document, const QString &type)
 {
     return document.format == type || document.otherFormats.contains(type);
 }
 
+bool isPdf(const Document &document)
+{
+    return isA(document, QStringLiteral("application/pdf"));
+}
+
+QString valueOf(const PageSettings &settings, const QString &name)
+{
+    const auto option = std::find_if(settings.options.begin(), settings.options.end(),
+                                     [&](const auto &one) { return one.first == name; });
+    return option == settings.options.end() ? QString() : option->second;
+}
+
+// Without what has no part in how many pages a document has.
+PageSettings withoutChoiceOfPages(PageSettings settings)
+{
+    settings.isMonochrome = false;
+    settings.options.removeIf(
+        [](const auto &option) { return option.first == ranges || option.first == pageSet; });
+    return settings;
+}
+
+// Whether a side is among ranges such as "1-3,8,12-"; no ranges stand for all sides.
+bool isInRanges(int side, const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    return parts.isEmpty() || std::any_of(parts.begin(), parts.end(), [side](const QString &part) {
+               const int first = part.section(QLatin1Char('-'), 0, 0).toInt();
+               const QString last = part.section(QLatin1Char('-'), 1, 1);
+               if (!part.contains(QLatin1Char('-')))
+                   return side == first;
+               return side >= first && (last.isEmpty() || side <= last.toInt());
+           });
+}
+
+QString unreadable(const QString &name, const QString &problem)
+{
+    return PageCounter::tr("“%1” cannot be printed: %2.").arg(name, problem);
+}
+
+bool isInSet(int side, const QString &set)
+{
+    return (set != QLatin1String("even") || side % 2 == 0) && (set != QLatin1String("odd") || side % 2 != 0);
+}
+
 } // namespace
 
 PageCounter::PageCounter(const PageTools &tools, QObject *parent)
-    : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_counter(nullptr)
+    : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_process(nullptr)
 {
-    // Queued, so that the maker can be stopped: it goes on with the pages as they are printed.
-    connect(&m_maker, &PageMaker::documentMade, this, &PageCounter::made, Qt::QueuedConnection);
-    connect(&m_maker, &PageMaker::failed, this, [this] {
-        if (m_step == Step::Making)
-            finish(0);
-    });
-    connect(&m_counter, &LimitedProcess::ended, this, [this](const SharedFile &output) {
-        const auto facts = readPageFacts(output);
-        finish(facts ? facts->pages : 0);
-    });
+    // Queued, since the maker goes on after the first of these, and is stopped there.
+    connect(&m_maker, &PageMaker::documentMade, this, &PageCounter::documentMade, Qt::QueuedConnection);
+    connect(
+        &m_maker, &PageMaker::made, this, [this](const SharedFile &, bool asPrinted) { made(asPrinted); },
+        Qt::QueuedConnection);
+    connect(
+        &m_maker, &PageMaker::failed, this,
+        [this](const QString &, PageMaker::Fault fault) { failed(fault); }, Qt::QueuedConnection);
+    connect(&m_process, &LimitedProcess::ended, this, &PageCounter::ended);
 }
 
 void PageCounter::count(const QStringList &paths, const PageSettings &settings)
 {
+    begin(paths, settings, true);
+}
+
+void PageCounter::check(const QStringList &paths, const PageSettings &settings)
+{
+    begin(paths, settings, false);
+}
+
+void PageCounter::begin(const QStringList &paths, const PageSettings &settings, bool isEachCounted)
+{
     m_wanted = paths;
-    m_settings = withoutRanges(settings);
+    m_settings = withoutChoiceOfPages(settings);
+    m_ranges = valueOf(settings, ranges);
+    m_pageSet = valueOf(settings, pageSet);
+    m_pagesPerSide = qMax(1, valueOf(settings, QStringLiteral("number-up")).toInt());
+    const bool choosesPages = !m_ranges.isEmpty() || isInSet(1, m_pageSet) != isInSet(2, m_pageSet);
+    m_isEachCounted = isEachCounted || choosesPages;
     if (m_step == Step::Idle && !m_tools.path(counter).isEmpty())
         next();
 }
@@ -57,7 +112,44 @@ void PageCounter::count(const QStringList &paths, const PageSettings &settings)
 bool PageCounter::isKnown(const QString &path) const
 {
     const auto known = m_known.find(path);
-    return known != m_known.end() && (!known->dependsOnSettings || known->settings == m_settings);
+    return known != m_known.end() && (!known->wasSkipped || !m_isEachCounted) &&
+           (!known->usesSettings || known->settings == m_settings);
+}
+
+PageVerdict PageCounter::verdict() const
+{
+    if (m_tools.path(counter).isEmpty())
+        return {};
+    int most = 0;
+    bool isPagePrinted = m_wanted.isEmpty();
+    for (const QString &path : m_wanted) {
+        if (!isKnown(path))
+            return {PageVerdict::Kind::Pending};
+        const Known known = m_known.value(path);
+        if (!known.problem.isNull()) {
+            const QString name = readableFileName(path.section(QLatin1Char('/'), -1));
+            return {PageVerdict::Kind::Unreadable, path, known.problem, unreadable(name, known.problem)};
+        }
+        const int sides = (known.pages + m_pagesPerSide - 1) / m_pagesPerSide;
+        most = qMax(most, sides);
+        isPagePrinted = isPagePrinted || sides == 0 || known.isPicture;
+        for (int side = 1; side <= sides && !isPagePrinted; ++side)
+            isPagePrinted = isInRanges(side, m_ranges) && isInSet(side, m_pageSet);
+    }
+    if (isPagePrinted)
+        return {};
+    const bool areSides = m_pagesPerSide > 1;
+    QString message;
+    if (m_wanted.size() > 1)
+        message = tr("The settings leave no page of any document to print.");
+    else if (most == 1)
+        message = areSides ? tr("The settings leave no page to print: there is only one printed side.")
+                           : tr("The settings leave no page to print: the document has only one page.");
+    else
+        message = (areSides ? tr("The settings leave no page to print: there are only %1 printed sides.")
+                            : tr("The settings leave no page to print: the document has only %1 pages."))
+                      .arg(most);
+    return {PageVerdict::Kind::NoPage, {}, {}, message};
 }
 
 void PageCounter::next()
@@ -70,11 +162,11 @@ void PageCounter::next()
     }
     m_step = Step::Opening;
     m_path = *path;
-    m_result = {0, false, m_settings};
+    m_result = {.settings = m_settings};
     platform::startBeside(
         this,
         [path = m_path]() -> Opened {
-            PrintError ignored; // who prints is told
+            PrintError ignored; // the caller that prints is told
             if (path == QLatin1String("-") || isStream(path))
                 return {};
             return {openDocument(path, &ignored), openFile(path)};
@@ -85,31 +177,118 @@ void PageCounter::next()
 void PageCounter::opened(const Opened &opened)
 {
     if (!opened.document || !opened.file) {
-        finish(0);
+        finish();
         return;
     }
-    m_result.dependsOnSettings = !isA(*opened.document, QStringLiteral("application/pdf")) &&
-                                 !isA(*opened.document, QStringLiteral("application/postscript"));
+    const Document &document = *opened.document;
+    m_result.isPicture = document.format.startsWith(QLatin1String("image/"));
+    m_isPdf = isPdf(document);
+    m_isReadable = false;
+    m_result.usesSettings = !m_isPdf && !isA(document, QStringLiteral("application/postscript"));
+    m_result.wasSkipped = !m_isPdf && !m_isEachCounted;
+    if (m_result.wasSkipped) {
+        finish();
+        return;
+    }
     m_step = Step::Making;
-    m_maker.make(*opened.document, opened.file, m_result.settings);
+    m_maker.make(document, opened.file, m_result.settings);
 }
 
-void PageCounter::made(const SharedFile &pdf)
+// A PDF file goes on to the filter that prints it, which refuses files that others can still read.
+void PageCounter::documentMade(const SharedFile &pdf)
 {
     if (m_step != Step::Making)
         return;
+    m_pdf = pdf;
+    if (m_isPdf)
+        return;
     m_maker.stop();
-    m_step = Step::Counting;
-    m_counter.start(
-        {m_tools.path(counter), {QStringLiteral("/dev/stdin")}, pdf, {}, {QStringLiteral("LC_ALL=C.UTF-8")}});
+    run(Step::Counting, counter, {document});
 }
 
-void PageCounter::finish(int pages)
+void PageCounter::made(bool asPrinted)
 {
-    m_result.pages = pages;
+    if (m_step != Step::Making)
+        return;
+    m_isReadable = asPrinted;
+    run(Step::Counting, counter, {document});
+}
+
+void PageCounter::failed(PageMaker::Fault fault)
+{
+    if (m_step != Step::Making)
+        return;
+    if (m_isPdf && fault == PageMaker::Fault::Document)
+        askWhy();
+    else
+        finish();
+}
+
+void PageCounter::askWhy()
+{
+    m_result.problem = tr("it is damaged, not complete or protected");
+    if (m_pdf && !m_tools.path(examiner).isEmpty())
+        run(Step::AskingForPassword, examiner, {QStringLiteral("--requires-password"), document});
+    else
+        finish();
+}
+
+void PageCounter::run(Step step, const QString &program, const QStringList &arguments)
+{
+    m_step = step;
+    m_process.start({m_tools.path(program), arguments, m_pdf, {}, {QStringLiteral("LC_ALL=C.UTF-8")}});
+}
+
+void PageCounter::ended(const SharedFile &output)
+{
+    const bool isYes = output != nullptr;
+    if (m_step == Step::Counting) {
+        const auto facts = readPageFacts(output);
+        m_result.pages = facts ? facts->pages : 0;
+        if (!facts && m_isPdf && !m_isReadable && m_process.problem().isNull())
+            askWhy();
+        else
+            finish();
+    } else if (m_step == Step::AskingForPassword && !isYes) {
+        run(Step::AskingForRights, examiner, {QStringLiteral("--is-encrypted"), document});
+    } else {
+        if (m_step == Step::AskingForPassword)
+            m_result.problem = tr("it needs a password");
+        else
+            m_result.problem = isYes ? tr("its author does not allow it to be printed")
+                                     : tr("it is damaged or not complete");
+        finish();
+    }
+}
+
+void PageCounter::finish()
+{
+    m_pdf.reset();
     m_known.insert(m_path, m_result);
     next();
     Q_EMIT counted();
+}
+
+PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings)
+{
+    PageCounter counter(tools);
+    QStringList paths;
+    for (const Document &document : documents)
+        paths.append(document.path);
+    QEventLoop untilKnown;
+    QObject::connect(&counter, &PageCounter::counted, &untilKnown, [&] {
+        if (counter.verdict().kind != PageVerdict::Kind::Pending)
+            untilKnown.quit();
+    });
+    counter.check(paths, settings);
+    if (counter.verdict().kind == PageVerdict::Kind::Pending)
+        untilKnown.exec();
+    PageVerdict verdict = counter.verdict();
+    for (const Document &document : documents) { // a file that came from a pipe has no name of its own
+        if (verdict.kind == PageVerdict::Kind::Unreadable && document.path == verdict.path)
+            verdict.message = unreadable(document.name, verdict.problem);
+    }
+    return verdict;
 }
 
 } // namespace host

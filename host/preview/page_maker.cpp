@@ -69,7 +69,8 @@ void PageMaker::convert()
         runFilter(Step::Convert, QStringLiteral("texttopdf"));
     } else {
         const QString kind = m_document.formatText.isEmpty() ? m_document.format : m_document.formatText;
-        Q_EMIT failed(tr("there is no program here that shows this kind of document (%1)").arg(kind));
+        Q_EMIT failed(tr("there is no program here that shows this kind of document (%1)").arg(kind),
+                      Fault::Program);
     }
 }
 
@@ -98,12 +99,12 @@ void PageMaker::run(Step step, const QString &program, const QStringList &argume
     m_program = program;
     const QString path = m_tools.path(program);
     if (path.isEmpty()) {
-        Q_EMIT failed(tr("%1 is not installed").arg(program));
+        Q_EMIT failed(tr("%1 is not installed").arg(program), Fault::Program);
         return;
     }
     const SharedFile ppd = inMemory(m_settings.ppd());
     if (!ppd) {
-        Q_EMIT failed(tr("there is not enough memory"));
+        Q_EMIT failed(tr("there is not enough memory"), Fault::Program);
         return;
     }
     m_process.start({path,
@@ -116,11 +117,18 @@ void PageMaker::run(Step step, const QString &program, const QStringList &argume
 
 void PageMaker::ended(const SharedFile &output)
 {
-    if (!output || FileView(output).bytes().isEmpty()) {
+    const bool isEmpty = output && FileView(output).bytes().isEmpty();
+    if (isEmpty && m_step == Step::LayOut) {
+        Q_EMIT failed(tr("the settings leave no page of the document"), Fault::Selection);
+        return;
+    }
+    if (!output || isEmpty) {
         const QString problem = m_process.problem();
         m_pages.reset();
-        Q_EMIT failed(problem.isEmpty() ? tr("%1 cannot read the document").arg(m_program)
-                                        : tr("%1 failed: %2").arg(m_program, problem));
+        if (problem.isEmpty())
+            Q_EMIT failed(tr("%1 cannot read the document").arg(m_program), Fault::Document);
+        else
+            Q_EMIT failed(tr("%1 failed: %2").arg(m_program, problem), Fault::Program);
         return;
     }
     if (m_step == Step::LayOut) {

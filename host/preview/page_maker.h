@@ -17,6 +17,13 @@ class PageMaker : public QObject
 {
     Q_OBJECT
 public:
+    // What there are no pages for.
+    enum class Fault {
+        Document,  // a program says that it cannot be read
+        Selection, // the settings leave no page of it
+        Program    // it is missing, was ended by its limits or by an error of its own, or there is none
+    };
+
     PageMaker(const PageTools &tools, QObject *parent);
 
     void setLimits(const LimitedProcess::Limits &limits) { m_process.setLimits(limits); }
@@ -31,8 +38,8 @@ Q_SIGNALS:
     void documentMade(const host::SharedFile &pdf);
     // The pages as they are printed. Without the filter for that, the document's own.
     void made(const host::SharedFile &pdf, bool asPrinted);
-    // Why there are none: a sentence's end in words, such as "gs is not installed".
-    void failed(const QString &reason);
+    // Why there are none: the end of a sentence, such as "gs is not installed".
+    void failed(const QString &reason, host::PageMaker::Fault fault);
 
 private:
     enum class Step { Unpack, Convert, LayOut };

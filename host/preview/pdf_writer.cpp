@@ -81,7 +81,12 @@ PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     m_maker.setLimits(limits);
     m_joiner.setLimits(limits);
     connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
-    connect(&m_maker, &PageMaker::failed, this, &PdfWriter::fail);
+    connect(&m_maker, &PageMaker::failed, this, [this](const QString &reason, PageMaker::Fault fault) {
+        if (fault == PageMaker::Fault::Selection) // another document may have such pages
+            proceed(reason);
+        else
+            fail(reason);
+    });
     connect(&m_joiner, &LimitedProcess::ended, this, [this](const SharedFile &joined) {
         if (joined)
             store(joined);
@@ -113,6 +118,15 @@ void PdfWriter::makeNext()
 void PdfWriter::made(const SharedFile &pdf, bool)
 {
     m_parts.append(pdf);
+    proceed({});
+}
+
+void PdfWriter::proceed(const QString &problem)
+{
+    if (m_documents.size() == 1 && m_parts.isEmpty()) {
+        fail(problem);
+        return;
+    }
     m_documents.removeFirst();
     if (!m_documents.isEmpty())
         makeNext();

@@ -30,6 +30,8 @@ Q_SIGNALS:
 private:
     void makeNext();
     void made(const SharedFile &pdf, bool asPrinted);
+    // Goes on to the next document; with a problem when the last one gave no page.
+    void proceed(const QString &problem);
     void join();
     void store(const SharedFile &pdf);
     void fail(const QString &reason);

@@ -1879,6 +1879,49 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::PageCounter</name>
+    <message>
+        <source>it is damaged, not complete or protected</source>
+        <translation>es ist beschädigt, unvollständig oder geschützt</translation>
+    </message>
+    <message>
+        <source>it needs a password</source>
+        <translation>es erfordert ein Passwort</translation>
+    </message>
+    <message>
+        <source>its author does not allow it to be printed</source>
+        <translation>der Verfasser lässt das Drucken nicht zu</translation>
+    </message>
+    <message>
+        <source>it is damaged or not complete</source>
+        <translation>es ist beschädigt oder unvollständig</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: %2.</source>
+        <translation>„%1“ kann nicht gedruckt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page of any document to print.</source>
+        <translation>Nach den Einstellungen bleibt keine Seite der Dokumente zu drucken.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there is only one printed side.</source>
+        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Es gibt nur eine bedruckte Seite.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only one page.</source>
+        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Das Dokument hat nur eine Seite.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there are only %1 printed sides.</source>
+        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Es gibt nur %1 bedruckte Seiten.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only %1 pages.</source>
+        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Das Dokument hat nur %1 Seiten.</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -1915,6 +1958,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>the settings leave no page of the document</source>
+        <translation>nach den Einstellungen bleibt keine Seite des Dokuments übrig</translation>
     </message>
 </context>
 <context>

@@ -1879,6 +1879,49 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::PageCounter</name>
+    <message>
+        <source>it is damaged, not complete or protected</source>
+        <translation>está dañado, incompleto o protegido</translation>
+    </message>
+    <message>
+        <source>it needs a password</source>
+        <translation>requiere una contraseña</translation>
+    </message>
+    <message>
+        <source>its author does not allow it to be printed</source>
+        <translation>su autor no permite imprimirlo</translation>
+    </message>
+    <message>
+        <source>it is damaged or not complete</source>
+        <translation>está dañado o incompleto</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: %2.</source>
+        <translation>No se puede imprimir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page of any document to print.</source>
+        <translation>Con estos ajustes no queda ninguna página de los documentos por imprimir.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there is only one printed side.</source>
+        <translation>Con estos ajustes no queda ninguna página por imprimir: solo hay una cara impresa.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only one page.</source>
+        <translation>Con estos ajustes no queda ninguna página por imprimir: el documento solo tiene una página.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there are only %1 printed sides.</source>
+        <translation>Con estos ajustes no queda ninguna página por imprimir: solo hay %1 caras impresas.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only %1 pages.</source>
+        <translation>Con estos ajustes no queda ninguna página por imprimir: el documento solo tiene %1 páginas.</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -1915,6 +1958,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ha fallado: %2</translation>
+    </message>
+    <message>
+        <source>the settings leave no page of the document</source>
+        <translation>con estos ajustes no queda ninguna página del documento</translation>
     </message>
 </context>
 <context>

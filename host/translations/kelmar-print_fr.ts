@@ -1879,6 +1879,49 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::PageCounter</name>
+    <message>
+        <source>it is damaged, not complete or protected</source>
+        <translation>il est endommagé, incomplet ou protégé</translation>
+    </message>
+    <message>
+        <source>it needs a password</source>
+        <translation>un mot de passe est nécessaire</translation>
+    </message>
+    <message>
+        <source>its author does not allow it to be printed</source>
+        <translation>l’auteur n’en autorise pas l’impression</translation>
+    </message>
+    <message>
+        <source>it is damaged or not complete</source>
+        <translation>il est endommagé ou incomplet</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: %2.</source>
+        <translation>« %1 » ne peut pas être imprimé : %2.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page of any document to print.</source>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer dans les documents.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there is only one printed side.</source>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer : il n’y a qu’une face imprimée.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only one page.</source>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer : le document n’a qu’une page.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there are only %1 printed sides.</source>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer : il n’y a que %1 faces imprimées.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only %1 pages.</source>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer : le document n’a que %1 pages.</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -1915,6 +1958,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 a échoué&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the settings leave no page of the document</source>
+        <translation>avec ces réglages, il ne reste aucune page du document</translation>
     </message>
 </context>
 <context>

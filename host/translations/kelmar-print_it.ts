@@ -1879,6 +1879,49 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::PageCounter</name>
+    <message>
+        <source>it is damaged, not complete or protected</source>
+        <translation>è danneggiato, incompleto o protetto</translation>
+    </message>
+    <message>
+        <source>it needs a password</source>
+        <translation>è necessaria una password</translation>
+    </message>
+    <message>
+        <source>its author does not allow it to be printed</source>
+        <translation>l’autore non ne consente la stampa</translation>
+    </message>
+    <message>
+        <source>it is damaged or not complete</source>
+        <translation>è danneggiato o incompleto</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: %2.</source>
+        <translation>“%1” non può essere stampato: %2.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page of any document to print.</source>
+        <translation>Con queste impostazioni non resta alcuna pagina dei documenti da stampare.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there is only one printed side.</source>
+        <translation>Con queste impostazioni non resta alcuna pagina da stampare: c’è una sola facciata stampata.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only one page.</source>
+        <translation>Con queste impostazioni non resta alcuna pagina da stampare: il documento ha una sola pagina.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there are only %1 printed sides.</source>
+        <translation>Con queste impostazioni non resta alcuna pagina da stampare: ci sono solo %1 facciate stampate.</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only %1 pages.</source>
+        <translation>Con queste impostazioni non resta alcuna pagina da stampare: il documento ha solo %1 pagine.</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -1915,6 +1958,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ha dato errore: %2</translation>
+    </message>
+    <message>
+        <source>the settings leave no page of the document</source>
+        <translation>con queste impostazioni non resta alcuna pagina del documento</translation>
     </message>
 </context>
 <context>

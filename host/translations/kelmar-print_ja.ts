@@ -1879,6 +1879,49 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::PageCounter</name>
+    <message>
+        <source>it is damaged, not complete or protected</source>
+        <translation>破損しているか、不完全であるか、保護されています</translation>
+    </message>
+    <message>
+        <source>it needs a password</source>
+        <translation>パスワードが必要です</translation>
+    </message>
+    <message>
+        <source>its author does not allow it to be printed</source>
+        <translation>作成者が印刷を許可していません</translation>
+    </message>
+    <message>
+        <source>it is damaged or not complete</source>
+        <translation>破損しているか、不完全です</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be printed: %2.</source>
+        <translation>“%1” を印刷できません: %2。</translation>
+    </message>
+    <message>
+        <source>The settings leave no page of any document to print.</source>
+        <translation>この設定では、どの文書にも印刷するページがありません。</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there is only one printed side.</source>
+        <translation>この設定では、印刷するページがありません。印刷面は 1 面しかありません。</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only one page.</source>
+        <translation>この設定では、印刷するページがありません。文書は 1 ページしかありません。</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: there are only %1 printed sides.</source>
+        <translation>この設定では、印刷するページがありません。印刷面は %1 面しかありません。</translation>
+    </message>
+    <message>
+        <source>The settings leave no page to print: the document has only %1 pages.</source>
+        <translation>この設定では、印刷するページがありません。文書は %1 ページしかありません。</translation>
+    </message>
+</context>
+<context>
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
@@ -1915,6 +1958,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 が失敗しました: %2</translation>
+    </message>
+    <message>
+        <source>the settings leave no page of the document</source>
+        <translation>この設定では、印刷するページがありません</translation>
     </message>
 </context>
 <context>

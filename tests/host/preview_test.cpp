@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -49,6 +50,8 @@ private Q_SLOTS:
     void init();
     void showsWhatIsPrinted_data();
     void showsWhatIsPrinted();
+    void saysWhetherAnythingIsPrinted_data();
+    void saysWhetherAnythingIsPrinted();
     void firstPageIsQuick();
     void survivesItsPrograms_data();
     void survivesItsPrograms();
@@ -148,6 +151,70 @@ void PreviewTest::showsWhatIsPrinted()
         QCOMPARE(isColored, !settings.isMonochrome);
 }
 
+void PreviewTest::saysWhetherAnythingIsPrinted_data()
+{
+    QTest::addColumn<QStringList>("documents"); // "secret", "closed" and "cut" are made of report.pdf
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("message"); // null where something is printed
+    const QString noPage = u"The settings leave no page "_s;
+    const QStringList report{u"report.pdf"_s}; // two pages
+    QTest::newRow("all") << report << QStringList() << QString();
+    QTest::newRow("last") << report << QStringList{u"page-ranges=2"_s} << QString();
+    QTest::newRow("open range") << report << QStringList{u"page-ranges=1-"_s} << QString();
+    QTest::newRow("behind the end") << report << QStringList{u"page-ranges=3-4,9-"_s}
+                                    << noPage + u"to print: the document has only 2 pages."_s;
+    QTest::newRow("sides") << report << QStringList{u"page-ranges=2"_s, u"number-up=2"_s}
+                           << noPage + u"to print: there is only one printed side."_s;
+    QTest::newRow("even of one") << QStringList{u"note.txt"_s} << QStringList{u"page-set=even"_s}
+                                 << noPage + u"to print: the document has only one page."_s;
+    QTest::newRow("odd of one") << QStringList{u"note.txt"_s} << QStringList{u"page-set=odd"_s} << QString();
+    QTest::newRow("even in a range") << report << QStringList{u"page-set=even"_s, u"page-ranges=1"_s}
+                                     << noPage + u"to print: the document has only 2 pages."_s;
+    QTest::newRow("PostScript") << QStringList{u"report.ps"_s} << QStringList{u"page-ranges=3"_s}
+                                << noPage + u"to print: the document has only 2 pages."_s;
+    QTest::newRow("picture") << QStringList{u"picture.png"_s} << QStringList{u"page-ranges=3"_s} << QString();
+    QTest::newRow("one of two") << QStringList{u"report.pdf"_s, u"note.txt"_s}
+                                << QStringList{u"page-ranges=2"_s} << QString();
+    QTest::newRow("none of two") << QStringList{u"report.pdf"_s, u"note.txt"_s}
+                                 << QStringList{u"page-ranges=5"_s} << noPage + u"of any document"_s;
+    QTest::newRow("password") << QStringList{u"secret"_s} << QStringList()
+                              << u"“Letter” cannot be printed: it needs a password."_s;
+    QTest::newRow("no right") << QStringList{u"report.pdf"_s, u"closed"_s} << QStringList()
+                              << u"“Letter” cannot be printed: its author does not"_s;
+    QTest::newRow("cut off") << QStringList{u"cut"_s} << QStringList()
+                             << u"“Letter” cannot be printed: it is damaged or not complete."_s;
+}
+
+void PreviewTest::saysWhetherAnythingIsPrinted()
+{
+    if (!hasTools())
+        QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
+    QFETCH(const QStringList, documents);
+    QFETCH(const QStringList, options);
+    QFETCH(const QString, message);
+    const QString report = demo(u"report.pdf"_s), made = m_folder->filePath(u"made.pdf"_s);
+    QList<Document> list;
+    PrintError error;
+    for (const QString &name : documents) {
+        QStringList encrypt{u"--encrypt"_s, name == u"secret"_s ? u"open"_s : QString(), u"owner"_s,
+                            u"256"_s};
+        if (name == u"closed"_s)
+            encrypt.append(u"--print=none"_s);
+        if (name == u"secret"_s || name == u"closed"_s)
+            QCOMPARE(QProcess::execute(u"qpdf"_s, encrypt + QStringList{u"--"_s, report, made}), 0);
+        if (name == u"cut"_s)
+            QVERIFY(QFile::copy(report, made) && QFile::resize(made, 2000));
+        list.append(*openDocument(name.contains(u'.') ? demo(name) : made, &error));
+        list.last().name = u"Letter"_s;
+    }
+    PageSettings settings;
+    for (const QString &option : options)
+        settings.options.append({option.section(u'=', 0, 0), option.section(u'=', 1)});
+    const PageVerdict verdict = checkPages(PageTools::installed(), list, settings);
+    QVERIFY2(verdict.message.startsWith(message), qPrintable(verdict.message));
+    QCOMPARE(verdict.kind == PageVerdict::Kind::Printable, message.isNull());
+}
+
 void PreviewTest::firstPageIsQuick()
 {
     if (!hasTools())
@@ -183,6 +250,8 @@ void PreviewTest::survivesItsPrograms_data()
     QTest::newRow("flood of words") << u"pdftoppm"_s << QByteArray("cat /dev/zero >&2\n") << u"pdftoppm "_s;
     QTest::newRow("failure") << u"pdftopdf"_s << QByteArray("exit 1\n")
                              << u"pdftopdf cannot read the document"_s;
+    QTest::newRow("no page chosen") << u"pdftopdf"_s << QByteArray("exit 0\n")
+                                    << u"the settings leave no page of the document"_s;
     QTest::newRow("huge picture") << u"pdftoppm"_s << QByteArray("printf 'P6\\n999999 999999\\n255\\nabc'\n")
                                   << u"pdftoppm cannot read the document"_s;
     QTest::newRow("cut picture") << u"pdftoppm"_s << QByteArray("printf 'P6\\n90 90\\n255\\nabc'\n")
