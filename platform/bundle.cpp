@@ -237,8 +237,10 @@ QString Bundle::helpText(const QString &name) const
 QString Bundle::localizedStringForKey(const QString &key, const QString &value) const
 {
     const QByteArray source = key.toUtf8();
-    for (const auto &translator : translators()) {
-        QString text = translator->translate("Localizable", source.constData());
+    const auto &tables = translators();
+    const std::size_t count = value.isEmpty() ? tables.size() : m_ofUsersLanguage;
+    for (std::size_t i = 0; i < count; ++i) {
+        QString text = tables[i]->translate("Localizable", source.constData());
         if (!text.isEmpty())
             return text;
     }
@@ -262,15 +264,22 @@ const std::vector<std::unique_ptr<QTranslator>> &Bundle::translators() const
     m_stringsLoaded = true;
     const QString prefix = m_folder + QStringLiteral("/strings/") +
                            baseName(m_info.value(executableKey).toString()) + QLatin1Char('_');
-    for (const QString &language : m_languages) {
-        const QString path = prefix + language + QStringLiteral(".qm");
+    QString usersLanguage;
+    for (const QString &suffix : m_languages) {
+        const QString path = prefix + suffix + QStringLiteral(".qm");
         if (!QFileInfo::exists(path))
             continue;
         auto translator = std::make_unique<QTranslator>();
-        if (translator->load(path))
-            m_translators.push_back(std::move(translator));
-        else
+        if (!translator->load(path)) {
             qCWarning(lcPlatform).noquote() << QStringLiteral("%1: not a usable string table").arg(path);
+            continue;
+        }
+        const QString language = suffix.section(QLatin1Char('_'), 0, 0);
+        if (m_translators.empty())
+            usersLanguage = language;
+        m_translators.push_back(std::move(translator));
+        if (language == usersLanguage)
+            m_ofUsersLanguage = m_translators.size();
     }
     return m_translators;
 }

@@ -23,8 +23,8 @@ class PrintDialogExtension;
 
 // A folder with Info.json, the code of a plug-in, layouts and string tables. Opening it reads Info.json and
 // loads no code. Shared by the host and everything the plug-in makes. Its string tables are loaded on first
-// use. Each text is looked up by itself: in the tables of the language given when the bundle was opened, the
-// most exact spelling first ("de_CH", then "de"), then in the English one. So a table may lack texts.
+// use: those of the first of the user's languages that has one, the most exact spelling first ("de_CH", then
+// "de"); English where there is none. Each text is looked up by itself, so a table may lack texts.
 class KELMAR_PLATFORM_EXPORT Bundle
 {
 public:
@@ -63,8 +63,8 @@ public:
     // English; nil where there is none. A page beyond 64 kB is none.
     QString helpText(const QString &name) const;
 
-    // The text for `key` in the default string table; where there is none, `value`; where that is nil or
-    // empty, the key itself.
+    // The text for `key` in the string tables of the user's language; `value` where they lack it. Where
+    // `value` is null or empty, the text of the English table, then the key itself.
     QString localizedStringForKey(const QString &key, const QString &value = QString()) const;
     // A text of a layout or of code, by the class (context) it stands in; `source` where there is no
     // translation.
@@ -84,6 +84,7 @@ private:
     QStringList m_languages;
     mutable bool m_stringsLoaded = false;
     mutable std::vector<std::unique_ptr<QTranslator>> m_translators; // in the order of looking up
+    mutable std::size_t m_ofUsersLanguage = 0;                       // how many of them, from the first
     std::unique_ptr<QPluginLoader> m_loader;
 };
 

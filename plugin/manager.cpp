@@ -172,7 +172,7 @@ void QVPDEManager_M880::setPpd(std::shared_ptr<QVPPD_M880> ppd)
 
 QString QVPDEManager_M880::localizedStringForKey(const QString &key) const
 {
-    return m_bundle ? m_bundle->localizedStringForKey(key, key) : key;
+    return m_bundle ? m_bundle->localizedStringForKey(key) : key;
 }
 
 std::optional<QVariantMap> QVPDEManager_M880::ppdDictionaryForOptions(const QStringList &keys) const

@@ -109,13 +109,15 @@ void BundleTest::stringsFallBack()
     QCOMPARE(text(u"de_CH"_s, u"Duplex"_s), u"Doppelseitig"_s);
     QCOMPARE(text(u"de_CH"_s, u"Tray"_s), u"Fach"_s);
     QCOMPARE(text(u"de_AT"_s, u"Duplex"_s), u"Beidseitig"_s);
-    QCOMPARE(text(u"de_DE"_s, u"Stapler"_s, u"given"_s), u"Staple unit"_s);
+    QCOMPARE(text(u"de_CH"_s, u"Tray"_s, u"given"_s), u"Fach"_s);
+    QCOMPARE(text(u"de_DE"_s, u"Stapler"_s, u"given"_s), u"given"_s);
+    QCOMPARE(text(u"de_DE"_s, u"Stapler"_s), u"Staple unit"_s);
     QCOMPARE(text(u"de_DE"_s, u"Unknown"_s, u"given"_s), u"given"_s);
     QCOMPARE(text(u"de_DE"_s, u"Unknown"_s), u"Unknown"_s);
     QCOMPARE(text(u"C"_s, u"Duplex"_s), u"Two-sided"_s);
     const QString warning = files.folder() + u"/strings/Test_fi.qm: not a usable string table"_s;
     QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
-    QCOMPARE(text(u"fi_FI"_s, u"Duplex"_s), u"Two-sided"_s);
+    QCOMPARE(text(u"fi_FI"_s, u"Duplex"_s, u"given"_s), u"Two-sided"_s);
     // Texts of code stand under their own context, which these tables do not have.
     QCOMPARE(files.open()->translate("SomeClass", "Duplex"), u"Duplex"_s);
 }
