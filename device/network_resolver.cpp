@@ -85,9 +85,28 @@ double ageInSeconds(const QDateTime &written)
     return static_cast<double>(written.msecsTo(now)) / 1000.0;
 }
 
+// The address of "fe80::1%eth0" with its scope, which gethostbyname2 does not read. Empty for any other text,
+// and where there is no such interface.
+QByteArray scopedAddress(const QByteArray &text)
+{
+    addrinfo hints{};
+    hints.ai_family = AF_INET6;
+    hints.ai_flags = AI_NUMERICHOST;
+    addrinfo *found = nullptr;
+    if (::getaddrinfo(text.constData(), nullptr, &hints, &found) != 0)
+        return {};
+    std::array<char, NI_MAXHOST> address{};
+    const int status = ::getnameinfo(found->ai_addr, found->ai_addrlen, address.data(),
+                                     static_cast<socklen_t>(address.size()), nullptr, 0, NI_NUMERICHOST);
+    ::freeaddrinfo(found);
+    return status == 0 ? QByteArray(address.data()) : QByteArray();
+}
+
 // The plain form of the call keeps its answer where the next call on any thread overwrites it.
 QByteArray addressByName(const QByteArray &name, int family)
 {
+    if (name.contains('%'))
+        return family == AF_INET6 ? scopedAddress(name) : QByteArray();
     std::vector<char> room(1024);
     hostent entry{};
     hostent *found = nullptr;
@@ -185,13 +204,8 @@ bool QVNetworkResolver_M880::stringIsAnIP(const QString &text) const
     if (!bytes)
         return false;
     std::array<unsigned char, sizeof(in6_addr)> parsed{};
-    if (::inet_pton(AF_INET, bytes->constData(), parsed.data()) == 1)
-        return true;
-    const qsizetype percent = bytes->indexOf('%');
-    if (percent < 0)
-        return ::inet_pton(AF_INET6, bytes->constData(), parsed.data()) == 1;
-    const bool hasScope = percent + 1 < bytes->size();
-    return hasScope && ::inet_pton(AF_INET6, bytes->left(percent).constData(), parsed.data()) == 1;
+    return ::inet_pton(AF_INET, bytes->constData(), parsed.data()) == 1 ||
+           ::inet_pton(AF_INET6, bytes->constData(), parsed.data()) == 1;
 }
 
 QString QVNetworkResolver_M880::resolveFromBonjour(const QString &host)

@@ -59,8 +59,8 @@ public:
     // Takes the place of the system, for all later calls.
     static void setServices(ResolverServices services);
 
-    // IPv4 or IPv6 in text form. An IPv6 address may have a scope id ("fe80::1%eth0"): a link-local printer
-    // cannot be reached without it, no name look-up would find it, and net-snmp takes it as it stands.
+    // Whether inet_pton reads the text as IPv4 or IPv6. It does not read a scope id ("fe80::1%eth0"); that is
+    // left to resolveFromHostname(), which keeps the scope.
     bool stringIsAnIP(const QString &text) const;
     // Four labels, or five with an empty last one: "Office Printer._ipp._tcp.local" or the same with a final
     // dot.

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void hostOfUri();
     void resolves_data();
     void resolves();
+    void linkLocalAddressKeepsItsScope();
     void failureIsRememberedFor120Seconds();
     void successIsAskedAnew();
     void nilHost();
@@ -111,7 +112,7 @@ void TestNetworkResolver::resolves_data()
     };
     row("192.168.1.20", "192.168.1.20", "");
     row("fe80::1", "fe80::1", "");
-    row("fe80::1%eth0", "fe80::1%eth0", "");
+    row("fe80::1%eth0", "fe80::1%2", "fe80::1%eth0/4, fe80::1%eth0/6");
     row("fe80::1%", "", "fe80::1%/4, fe80::1%/6");
     row("both.example", "10.0.0.4", "both.example/4");
     row("six.example", "2001:db8::6", "six.example/4, six.example/6");
@@ -128,13 +129,21 @@ void TestNetworkResolver::resolves()
     const QString host = QString::fromUtf8(QTest::currentDataTag());
     FakeSystem system;
     system.ipv4 = {{"both.example", "10.0.0.4"}, {"orb.local.", "10.0.0.5"}};
-    system.ipv6 = {{"both.example", "2001:db8::4"}, {"six.example", "2001:db8::6"}};
+    system.ipv6 = {
+        {"both.example", "2001:db8::4"}, {"six.example", "2001:db8::6"}, {"fe80::1%eth0", "fe80::1%2"}};
     system.serviceTarget = "orb.local.";
     QCOMPARE(Resolver::resolveToIP(host), address);
     QTEST(system.asked.join(u", "), "asked");
     QCOMPARE(Resolver::cache().value(host).toMap(),
              (QVariantMap{{u"ResolvesTo"_qs, address.isEmpty() ? u"_%%DoesntResolve%%_"_qs : address},
                           {u"AgeOfResolution"_qs, system.now}}));
+}
+
+void TestNetworkResolver::linkLocalAddressKeepsItsScope()
+{
+    QVERIFY(!Resolver().stringIsAnIP(u"fe80::1%lo"_qs));
+    QCOMPARE(Resolver::resolveToIP(u"fe80::1%lo"_qs), u"fe80::1%lo"_qs);
+    QVERIFY(Resolver::resolveToIP(u"fe80::1%nosuch0"_qs).isNull());
 }
 
 void TestNetworkResolver::failureIsRememberedFor120Seconds()
