@@ -346,7 +346,11 @@ void QVPDE_M880::sliderDidMove(QObject *sender)
 void QVPDE_M880::observeValueForKeyPathOfObjectChangeContext(const QString &, platform::KeyValueObject *,
                                                              const QVariantMap &change, QObject *context)
 {
+    auto *slider = qobject_cast<QSlider *>(context);
+    if (!slider)
+        return;
+    const double value = std::clamp(floatingPointValue(change.value(platform::NSKeyValueChangeNewKey)),
+                                    double(slider->minimum()), double(slider->maximum()));
     // Through the property, as a binding does: a slider may tell what it is shown from what it is moved to.
-    if (auto *slider = qobject_cast<QSlider *>(context))
-        slider->setProperty("value", qRound(change.value(platform::NSKeyValueChangeNewKey).toDouble()));
+    slider->setProperty("value", qRound(value));
 }

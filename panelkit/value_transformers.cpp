@@ -5,6 +5,8 @@
 
 #include "platform/leading_integer.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -69,6 +71,15 @@ qint32 integerValue(const QVariant &value)
     if (isNumber(value))
         return truncated(value.toDouble());
     return value.typeId() == QMetaType::QString ? leadingIntegerOrZero(value.toString()) : 0;
+}
+
+double floatingPointValue(const QVariant &value)
+{
+    if (isNumber(value))
+        return value.toDouble();
+    static const QRegularExpression number(
+        QStringLiteral("^\\s*([+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?)"));
+    return value.typeId() == QMetaType::QString ? number.match(value.toString()).captured(1).toDouble() : 0;
 }
 
 bool QVBooleanValue(const QVariant &value)

@@ -32,3 +32,7 @@ bool QVBooleanValue(const QVariant &value);
 
 // A number cut to an integer, or the integer a text starts with; 0 for anything else.
 qint32 integerValue(const QVariant &value);
+
+// A number, or the floating-point number that a text starts with ("3dpi" is 3), read as in the C locale; 0
+// for anything else.
+double floatingPointValue(const QVariant &value);

@@ -66,6 +66,20 @@ private Q_SLOTS:
         QCOMPARE(knob->value(), 2);
     }
 
+    void showsTheFloatingPointValue()
+    {
+        const SampleDialog dialog(ppdBody);
+        SliderPanel panel(dialog);
+        const std::pair<QVariant, int> cases[]{{u"3dpi"_s, 3},    {u" -2.6 "_s, -3}, {u"+.4e1x"_s, 4},
+                                               {u"dpi"_s, 0},     {2.4, 2},          {u"1e300"_s, 5},
+                                               {u"-1e999"_s, -5}, {QVariant(), 0}};
+        for (const auto &[value, shown] : cases) {
+            panel.observeValueForKeyPathOfObjectChangeContext(
+                saturation, &panel, {{platform::NSKeyValueChangeNewKey, value}}, panel.slider());
+            QCOMPARE(panel.slider()->value(), shown);
+        }
+    }
+
     void olderPathIsTakenWhereItBelongs()
     {
         const auto system = QVPDEManager_M880::darwinVersion();
