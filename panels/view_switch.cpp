@@ -39,14 +39,8 @@ ViewSwitchFrames framesForSwitch(const QRect &outgoing, const QRect &incoming, S
 ViewSwitch *ViewSwitch::start(QWidget *outgoing, QWidget *incoming, SwitchDirection direction)
 {
     const auto frames = framesForSwitch(outgoing->geometry(), incoming->geometry(), direction);
-    // Turning round half way: a switch and its way back run through the same pictures in opposite order, so
-    // the new one begins at the picture that is on the screen.
-    std::chrono::milliseconds elapsed{0};
-    if (const ViewSwitch *running = runningIn(outgoing->parentWidget())) {
-        elapsed = duration - std::chrono::milliseconds(running->m_clock.currentTime());
-        cancelIn(outgoing->parentWidget());
-    }
-    return new ViewSwitch(outgoing, incoming, frames, elapsed);
+    cancelIn(outgoing->parentWidget()); // both move the same two views
+    return new ViewSwitch(outgoing, incoming, frames);
 }
 
 void ViewSwitch::cancelIn(QWidget *superview)
@@ -59,11 +53,9 @@ ViewSwitch *ViewSwitch::runningIn(const QWidget *superview)
     return superview->findChild<ViewSwitch *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-ViewSwitch::ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames,
-                       std::chrono::milliseconds elapsed)
+ViewSwitch::ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames)
     : QObject(outgoing->parentWidget()), m_outgoing(outgoing), m_incoming(incoming), m_frames(frames)
 {
-    // Its two halves mirror each other, or turning round would jump.
     m_clock.setEasingCurve(QEasingCurve::InOutCubic);
     m_clock.setStartValue(0.0);
     m_clock.setEndValue(1.0);
@@ -75,7 +67,6 @@ ViewSwitch::ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFra
     m_incoming->show();
     m_incoming->raise();
     m_clock.start();
-    m_clock.setCurrentTime(int(elapsed.count())); // the whole duration ends it here
 }
 
 ViewSwitch::~ViewSwitch()

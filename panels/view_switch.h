@@ -36,8 +36,8 @@ ViewSwitchFrames framesForSwitch(const QRect &outgoing, const QRect &incoming, S
 
 // Slides one view out while it fades and another in, in half a second, without blocking. Owns itself: a child
 // of the views' superview, gone when done, leaving the outgoing view hidden, the incoming one in place and
-// neither with an effect. A switch that starts while another runs in the same superview takes over from it
-// where it is.
+// neither with an effect. A switch that starts while another runs in the same superview takes its place at
+// once and runs for its whole duration, from the frames that the views have then.
 class ViewSwitch : public QObject
 {
     Q_OBJECT
@@ -56,8 +56,7 @@ public:
     qreal progress() const;
 
 private:
-    ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames,
-               std::chrono::milliseconds elapsed);
+    ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames);
     void showProgress();
     void finish();
     void letGo();
