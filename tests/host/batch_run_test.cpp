@@ -198,14 +198,18 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
         << u"False"_s;
     QTest::newRow("how documents are joined") << u"-n 2 -o multiple-document-handling=single-document"_s
                                               << u"multiple-document-handling"_s << u"single-document"_s;
+    QTest::newRow("other pages") << u"-P 4"_s << u"page-ranges"_s << u"4"_s;
+    QTest::newRow("all pages") << u"--set page-ranges="_s << u"page-ranges"_s << u"1-2147483647"_s;
 }
 
 void BatchRunTest::lastWordOfTheUserCounts()
 {
     QFETCH(QString, words);
     QFETCH(QString, name);
-    m_system.printers.first().options = {
-        {u"job-priority"_s, u"20"_s}, {u"sides"_s, u"two-sided-long-edge"_s}, {u"media"_s, u"Foo"_s}};
+    m_system.printers.first().options = {{u"job-priority"_s, u"20"_s},
+                                         {u"sides"_s, u"two-sided-long-edge"_s},
+                                         {u"media"_s, u"Foo"_s},
+                                         {u"page-ranges"_s, u"1-2"_s}};
     QStringList all = words.split(u' ', Qt::SkipEmptyParts);
     QCOMPARE(run(QStringList(u"--batch"_s) + all + QStringList(m_document.fileName())), int(ExitSuccess));
     const QList<JobOption> options = m_system.submitted.first().options;

@@ -50,6 +50,7 @@ void CoreValuesTest::pageRanges_data()
     QTest::newRow("nothing is all pages") << u"  "_s << u""_s;
     QTest::newRow("spaces") << u" 1 - 3 , 8 "_s << u"1-3,8"_s;
     QTest::newRow("sorted and merged") << u"8,1-3,2-5,6"_s << u"1-6,8"_s;
+    QTest::newRow("one within another") << u"1-8,2-3"_s << u"1-8"_s;
     QTest::newRow("open ends") << u"-2,9-"_s << u"1-2,9-"_s;
     QTest::newRow("swallowed by an open end") << u"9-,12"_s << u"9-"_s;
     QTest::newRow("dash of a word processor") << u"1–3"_s << u"1-3"_s;

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void keys();
     void refusedValueLeavesNothingBehind();
     void secretValueIsNotRepeatedElsewhere();
+    void settingsGoFromPrinterToPrinter_data();
+    void settingsGoFromPrinterToPrinter();
     void blockingWorkIsAnnounced();
     void brokenExtensionIsToldAndPassedOver();
     void panelThatCannotBeMadeIsTold();
@@ -288,6 +290,47 @@ void DialogSessionTest::secretValueIsNotRepeatedElsewhere()
     DialogSession raw(officePrinter(u"raw"_s), nullptr);
     carryOver(*m_session, &raw);
     QCOMPARE(raw.takeNotices(), QStringList(u"This printer does not take over: Cyan Balance, Two-Sided."_s));
+}
+
+void DialogSessionTest::settingsGoFromPrinterToPrinter_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("notice"); // of a printer that has none of it
+    QTest::newRow("choice") << QStringList(u"ColorType=Mono"_s)
+                            << u"This printer does not take over: Colour Mode: Black and White."_s;
+    QTest::newRow("protection") << QStringList(u"Duplex=DuplexNoTumble"_s)
+                                << u"This printer does not have “Two-Sided: Long Edge”: the job will not be "
+                                   "protected."_s;
+    QTest::newRow("protection that was taken back")
+        << QStringList({u"Duplex=DuplexNoTumble"_s, u"Duplex=None"_s})
+        << u"This printer does not take over: Two-Sided: Off."_s;
+    QTest::newRow("code without its choice")
+        << QStringList(u"code=01230"_s)
+        << u"This printer does not take over: the code for “Two-Sided: Long Edge”."_s;
+}
+
+void DialogSessionTest::settingsGoFromPrinterToPrinter()
+{
+    QFETCH(QStringList, words);
+    QFETCH(QString, notice);
+    Protection protection;
+    protection.choices = {{u"Duplex"_s, {u"DuplexNoTumble"_s}}};
+    protection.secrets = {{u"code"_s, {}, u"Duplex"_s, u"DuplexNoTumble"_s}};
+    m_session->setProtection(protection);
+    for (const QString &word : words) {
+        PrintError error;
+        const ChosenSetting setting{word.section(u'=', 0, 0), word.section(u'=', 1)};
+        QVERIFY2(choose(m_session.get(), setting, &error), qPrintable(error.message));
+    }
+    const QList<JobOption> options = m_session->jobOptions();
+    DialogSession raw(officePrinter(u"raw"_s), nullptr);
+    carryOver(*m_session, &raw);
+    QCOMPARE(raw.takeNotices(), QStringList(notice));
+    makeSession();
+    m_session->setProtection(protection);
+    carryOver(raw, m_session.get());
+    QCOMPARE(m_session->takeNotices(), QStringList());
+    QCOMPARE(m_session->jobOptions(), options);
 }
 
 void DialogSessionTest::blockingWorkIsAnnounced()

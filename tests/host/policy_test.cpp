@@ -211,6 +211,8 @@ void PolicyTest::lockedChoiceNeedsItsCode()
              m_said.constData());
     QCOMPARE(print(system, extensions, {u"-d"_s, u"office"_s, u"--set"_s, u"privatePassword=12345"_s}), 0);
     QCOMPARE(sentValue(m_system.submitted.first().options, u"PrintMode"_s), u"Private"_s);
+    PolicyPrintSystem other(m_system, {m_bundle}, lay(R"({"rules": [{"locked": {"PrintMode": "Normal"}}]})"));
+    QCOMPARE(print(other, extensions, {u"-d"_s, u"office"_s}), 0); // no code belongs to that choice
 }
 
 void PolicyTest::dialogShowsWhatIsLocked()
