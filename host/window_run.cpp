@@ -6,11 +6,15 @@
 #include "host/batch/batch_run.h"
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/startup_clock.h"
+#include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
 #include "host/window/waiting/login_dialog.h"
 
 #include <QApplication>
 #include <QPixmap>
+
+#include <memory>
+#include <optional>
 
 #include <unistd.h>
 
@@ -70,6 +74,35 @@ void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err
     });
 }
 
+// Ends the program once it is certain that there are no options to be painted.
+void failWithoutOptions(PrintWindow *window)
+{
+    QObject::connect(new Settled(window), &Settled::done, window, [window] {
+        if (window->isOpening())
+            failWithoutOptions(window);
+        else if (window->book()->isHidden())
+            QApplication::exit(ExitFailure);
+    });
+}
+
+// Writes how long the start took, and ends the program, once the options of the printer are on the screen.
+void reportStartup(PrintWindow *window, QIODevice *out)
+{
+    const auto firstPaint = std::make_shared<std::optional<StartupFigures>>();
+    // Both may be done with one paint, whose figures then are the same.
+    QObject::connect(new FirstPaint(window), &FirstPaint::done, window, [firstPaint, window] {
+        if (!window->book()->isHidden())
+            return;
+        *firstPaint = StartupFigures::now();
+        failWithoutOptions(window);
+    });
+    QObject::connect(new FirstPaint(window->book()), &FirstPaint::done, window, [firstPaint, out] {
+        const StartupFigures options = StartupFigures::now();
+        out->write(startupReport(firstPaint->value_or(options), options).toUtf8());
+        QApplication::exit(ExitSuccess);
+    });
+}
+
 void tellResult(const PrintWindow &window, QIODevice *out, QIODevice *err)
 {
     if (!window.submission())
@@ -106,13 +139,12 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     }
     if (window.isDismissed()) // while a panel waited
         return exitCodeOf(window);
+    if (arguments.startupTime)
+        reportStartup(&window, out);
     FirstPaint firstPaint(&window);
     QObject::connect(&firstPaint, &FirstPaint::done, &window, [&] {
-        if (arguments.startupTime) {
-            out->write(startupReport().toUtf8());
-            QApplication::exit(ExitSuccess);
+        if (arguments.startupTime && !window.book()->isHidden())
             return;
-        }
         window.finishLater();
         if (arguments.screenshot.isEmpty())
             return;

@@ -13,8 +13,8 @@
 #include <cstdlib>
 #include <ctime>
 
-// Reports when a window has been painted for the first time, in the form of `kelmar-print --startup-time`,
-// and ends the program. The launcher leaves the start time, CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
+// Reports when a window, which shows what the program is to show, has been painted for the first time, in the form of
+// `kelmar-print --startup-time`, and ends the program. The launcher leaves the start time, CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
 class FirstPaint : public QObject
 {
 public:
@@ -47,7 +47,7 @@ public:
 
     [[noreturn]] static void report()
     {
-        std::printf("process start to first paint\t%.3f\tms\nresident memory at first paint\t%ld\tkB\n",
+        std::printf("process start to options painted\t%.3f\tms\nresident memory with options\t%ld\tkB\n",
                     sinceStartMilliseconds(), residentKilobytes());
         std::fflush(stdout);
         std::_Exit(0);

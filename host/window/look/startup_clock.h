@@ -45,9 +45,18 @@ private:
     QTimer m_quiet;
 };
 
-// "process start to first paint" in milliseconds and the memory in use, one tab-separated line each, as of
-// now. The start is the moment that KELMAR_T0_NS gives (nanoseconds of CLOCK_MONOTONIC), else the one the
-// kernel has noted, which it does to the hundredth of a second.
-QString startupReport();
+// How long the program has run and what memory it uses, as of now.
+struct StartupFigures
+{
+    // Since the moment that KELMAR_T0_NS gives (nanoseconds of CLOCK_MONOTONIC), else since the start that
+    // the kernel has noted, to the hundredth of a second.
+    double milliseconds = 0;
+    qint64 residentKilobytes = 0;
+
+    static StartupFigures now();
+};
+
+// The output of --startup-time: four tab-separated lines with a name, a number and a unit.
+QString startupReport(const StartupFigures &firstPaint, const StartupFigures &optionsPainted);
 
 } // namespace host

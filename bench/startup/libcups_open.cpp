@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What libcups alone takes for a printer: fetches the PPD of a queue, opens it, and marks its defaults. Reports as
+// FirstPaint does. Usage: libcups_open QUEUE
+#include "bench/startup/first_paint.h"
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+// libcups marks its PPD interface as deprecated; there is none to replace it.
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+int main(int argc, char **argv)
+{
+    const char *path = argc > 1 ? cupsGetPPD(argv[1]) : nullptr;
+    ppd_file_t *ppd = path ? ppdOpenFile(path) : nullptr;
+    if (!ppd) {
+        std::fputs("the PPD cannot be opened\n", stderr);
+        return 1;
+    }
+    std::remove(path);
+    ppdMarkDefaults(ppd);
+    FirstPaint::report();
+}
