@@ -7,6 +7,7 @@
 #include "host/batch/value_sources.h"
 #include "host/policy/policy_print_system.h"
 #include "host/portal/portal_run.h"
+#include "host/printing/early_printer.h"
 #include "host/printing/file_name.h"
 #include "host/printing/later_writes.h"
 #include "host/printing/message_language.h"
@@ -18,6 +19,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -159,9 +161,23 @@ int flushed(int code, QFile *out, QFile *err)
     return code;
 }
 
-int run(const Arguments &arguments, QFile *out, QFile *err)
+// Asks for the printer of the dialog while Qt starts. Null where no dialog opens on a printer. The worker
+// reads the locale and the environment: both are set before.
+std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments, bool hasDisplay)
+{
+    const bool opens = arguments.needsWindow() && !arguments.help && !arguments.version &&
+                       (hasDisplay || !arguments.screenshot.isEmpty());
+    if (!opens || !arguments.ppdFile.isEmpty())
+        return nullptr;
+    if (!arguments.server.isEmpty())
+        qputenv("CUPS_SERVER", arguments.server.toUtf8());
+    return std::make_shared<EarlyPrinter>(arguments.printer);
+}
+
+int run(const Arguments &arguments, std::shared_ptr<EarlyPrinter> early, QFile *out, QFile *err)
 {
     CupsPrintSystem server;
+    server.setEarlyPrinter(std::move(early));
     server.setLoginPrompt(askOnTerminal);
     const QString folder = QApplication::applicationDirPath();
     const QStringList bundles =
@@ -183,22 +199,28 @@ int main(int argc, char **argv)
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);
-    QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
-    installTranslations(&app);
-    speakDialogLanguage();
     // Avahi's library tells users on stderr that a bundle could use another interface of it.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
+    setlocale(LC_ALL, ""); // as Qt will
+    speakDialogLanguage();
+    QString error;
+    const QStringList given = commandLine(argc, argv);
+    auto arguments = parseArguments(given, &error);
+    const auto early = arguments ? askEarly(*arguments, hasDisplay) : nullptr;
+    QApplication app(argc, argv);
+    installTranslations(&app);
+    speakDialogLanguage(); // Qt has set the locale again
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
         return runForService(hasDisplay);
     QFile out, err;
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);
-    QString error;
     const QStringList words = commandLine(argc, argv);
-    auto arguments = parseArguments(words, &error);
+    if (!arguments || words != given) // without what Qt has taken; messages are in the user's language now
+        arguments = parseArguments(words, &error);
     const bool isAsking = arguments && (arguments->help || arguments->version);
     if (!arguments || (!isAsking && !fetchValues(&*arguments, &error))) {
         BatchResult result;
@@ -219,5 +241,5 @@ int main(int argc, char **argv)
     }
     if (!arguments->server.isEmpty())
         qputenv("CUPS_SERVER", arguments->server.toUtf8());
-    return run(*arguments, &out, &err);
+    return run(*arguments, early, &out, &err);
 }

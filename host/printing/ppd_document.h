@@ -78,6 +78,8 @@ public:
     // Marked choices that are not the default, in PPD order, without installable options.
     QList<OptionChoice> changedChoices() const;
 
+    // Reads the constraints now, so that the first question about them does not wait for it.
+    void readConstraints() const { constraints(); }
     // The conflicts that libcups sees among the marks.
     QList<Conflict> conflicts() const;
     // The choices of an option that the PPD forbids together with what is marked for other options, each with

@@ -4,6 +4,7 @@
 #include "host/printing/print_system.h"
 
 #include "host/printing/cups_handles.h"
+#include "host/printing/early_printer.h"
 #include "host/printing/ipp_query.h"
 #include "host/printing/job_submitter.h"
 #include "host/printing/preset_store.h"
@@ -190,6 +191,8 @@ std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *erro
 
 std::optional<Destination> CupsPrintSystem::destination(const QString &name, PrintError *error)
 {
+    if (auto early = m_early ? m_early->takeDestination(name) : std::nullopt)
+        return early;
     const auto [queue, instance] = splitDestinationName(name);
     Visit visit(this);
     ServerConnection server(visit.login());
@@ -254,6 +257,8 @@ void CupsPrintSystem::searchNetwork(const std::function<bool(const Destination &
 
 std::unique_ptr<PpdDocument> CupsPrintSystem::ppd(const Destination &destination, PrintError *error)
 {
+    if (auto early = m_early ? m_early->takePpd(destination.queue) : nullptr)
+        return early;
     Visit visit(this);
     ServerConnection server(visit.login());
     const auto content = server.fetch(resourceOf(uriOf(destination)) + ".ppd", maxPpdSize, error);

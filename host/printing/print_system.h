@@ -18,6 +18,7 @@
 
 namespace host {
 
+class EarlyPrinter;
 struct QueueFacts;
 
 // What the host asks of the print system. One object a program; every call is a request to the server and
@@ -58,6 +59,9 @@ public:
 
     CupsPrintSystem() : CupsPrintSystem(ServerPatience()) {}
     explicit CupsPrintSystem(const ServerPatience &patience) { m_login.patience = patience; }
+    // What was asked for before this object was made; destination() and ppd() take from it first. Before
+    // either.
+    void setEarlyPrinter(std::shared_ptr<EarlyPrinter> early) { m_early = std::move(early); }
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
@@ -92,6 +96,7 @@ private:
     };
     QMap<int, Waiting> m_waiting; // by job
     NetworkPrinters m_network;
+    std::shared_ptr<EarlyPrinter> m_early; // may be null
 };
 
 } // namespace host
