@@ -4,60 +4,16 @@
 #include "host/preview/limited_process.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
-#include <csignal>
+#include <cerrno>
+#include <cstring>
 
 #include <sys/mman.h>
-#include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
-
-namespace {
-
-void limit(__rlimit_resource resource, qint64 most)
-{
-    const rlimit both{static_cast<rlim_t>(most), static_cast<rlim_t>(most)};
-    setrlimit(resource, &both);
-}
-
-// Runs in the child, between fork and exec: calls of the system only.
-void confine(int input, int output, const std::vector<int> &others, const LimitedProcess::Limits &limits)
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    setpgid(0, 0); // what it starts ends with it
-    dup2(input, STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    for (const int other : others)
-        fcntl(other, F_SETFD, 0);
-    limit(RLIMIT_CORE, 0);
-    limit(RLIMIT_AS, limits.memory);
-    limit(RLIMIT_FSIZE, limits.output);
-    limit(RLIMIT_CPU, std::chrono::ceil<std::chrono::seconds>(limits.time).count());
-}
-
-// One that has been killed may still be waited for when the program ends.
-class MortalProcess : public QProcess
-{
-public:
-    ~MortalProcess() override
-    {
-        if (state() != NotRunning)
-            waitForFinished(100); // milliseconds; a killed process is gone at once
-    }
-};
-
-// A process, and what it has started.
-void killAll(QProcess *process)
-{
-    if (process->processId() > 0)
-        ::kill(-static_cast<pid_t>(process->processId()), SIGKILL);
-    process->kill();
-}
-
-} // namespace
 
 FileView::FileView(const SharedFile &file)
 {
@@ -85,13 +41,7 @@ LimitedProcess::LimitedProcess(QObject *parent) : QObject(parent)
     });
 }
 
-LimitedProcess::~LimitedProcess()
-{
-    if (!m_process)
-        return;
-    m_process->disconnect(this);
-    killAll(m_process.get());
-}
+LimitedProcess::~LimitedProcess() = default;
 
 QString LimitedProcess::pathFor(const SharedFile &file)
 {
@@ -103,43 +53,35 @@ void LimitedProcess::start(const Call &call)
     stop();
     m_problem = QString();
     m_output = std::make_shared<const platform::UniqueFd>(memfd_create("pages", MFD_CLOEXEC));
-    if (!*m_output) {
-        m_problem = tr("there is not enough memory");
-        QMetaObject::invokeMethod(
-            this, [this] { Q_EMIT ended(nullptr); }, Qt::QueuedConnection);
-        return;
-    }
-    m_process = std::make_unique<MortalProcess>();
-    m_process->setProgram(call.program);
-    m_process->setArguments(call.arguments);
-    m_process->setProcessChannelMode(QProcess::ForwardedOutputChannel);
-    m_process->setInputChannelMode(QProcess::ForwardedInputChannel);
-    m_process->setStandardErrorFile(QProcess::nullDevice());
-    if (!call.environment.isEmpty())
-        m_process->setEnvironment(QProcess::systemEnvironment() + call.environment);
-    std::vector<int> others;
+    ConfinedProcess::Call confined{
+        QFile::encodeName(call.program), {}, {}, call.input->get(), m_output->get()};
+    for (const QString &argument : call.arguments)
+        confined.arguments.append(QFile::encodeName(argument));
+    for (const QString &variable : call.environment)
+        confined.environment.append(variable.toUtf8());
     for (const SharedFile &other : call.others)
-        others.push_back(other->get());
-    m_process->setChildProcessModifier(
-        [input = call.input, output = m_output, others = std::move(others), limits = m_limits] {
-            confine(input->get(), output->get(), others, limits);
-        });
-    connect(m_process.get(), &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
-        if (status == QProcess::CrashExit)
-            m_problem = tr("it ended unexpectedly");
-        finish(code == 0 && status == QProcess::NormalExit);
-    });
-    connect(
-        m_process.get(), &QProcess::errorOccurred, this,
-        [this](QProcess::ProcessError error) {
-            if (error != QProcess::FailedToStart)
-                return;
-            m_problem = tr("it cannot be started");
-            finish(false);
-        },
-        Qt::QueuedConnection);
+        confined.others.push_back(other->get());
+    m_process = std::make_unique<ConfinedProcess>();
+    connect(m_process.get(), &ConfinedProcess::ended, this, &LimitedProcess::processEnded);
     m_timer.start(m_limits.time);
-    m_process->start(QIODevice::ReadOnly);
+    if (!*m_output || !m_process->start(confined, m_limits)) {
+        m_problem = tr("it cannot be started: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
+        QMetaObject::invokeMethod(
+            m_process.get(), [this] { finish(false); }, Qt::QueuedConnection);
+    }
+}
+
+void LimitedProcess::processEnded(ConfinedProcess::End end)
+{
+    struct stat facts = {};
+    if (end == ConfinedProcess::End::NotStarted)
+        m_problem = tr("it cannot be started");
+    else if (end != ConfinedProcess::End::Done && fstat(m_output->get(), &facts) == 0 &&
+             facts.st_size >= m_limits.output)
+        m_problem = tr("it wrote too much");
+    else if (end == ConfinedProcess::End::Crashed)
+        m_problem = tr("it ended unexpectedly");
+    finish(end == ConfinedProcess::End::Done);
 }
 
 void LimitedProcess::stop()
@@ -149,20 +91,20 @@ void LimitedProcess::stop()
     letGo();
 }
 
-// Ends the process. Nobody waits until it is gone.
+// Ends the process. Nothing waits until it is gone.
 void LimitedProcess::letGo()
 {
     if (!m_process)
         return;
-    QProcess *const process = m_process.release();
+    ConfinedProcess *const process = m_process.release();
     process->disconnect(this);
-    if (process->state() == QProcess::NotRunning) {
+    if (!process->isRunning()) {
         process->deleteLater(); // it may be what calls this
         return;
     }
-    killAll(process);
     process->setParent(QCoreApplication::instance());
-    connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    connect(process, &ConfinedProcess::ended, process, &QObject::deleteLater);
+    process->kill();
 }
 
 void LimitedProcess::finish(bool isDone)

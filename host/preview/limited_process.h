@@ -3,14 +3,13 @@
 
 #pragma once
 
+#include "host/preview/confined_process.h"
 #include "platform/unique_fd.h"
 
 #include <QObject>
-#include <QProcess>
 #include <QStringList>
 #include <QTimer>
 
-#include <chrono>
 #include <memory>
 
 namespace host {
@@ -32,20 +31,15 @@ private:
     QByteArrayView m_bytes;
 };
 
-// A program that reads a document nobody trusts: it may take so long, so much memory and write so much, and
-// is killed otherwise, or with this object. It finds its document as /dev/stdin; what it writes to its
-// standard output ends up in a file in memory. Its other output is dropped. Asynchronous; at most one run at
-// a time.
+// A program that reads an untrusted document, confined (Confinement), with limits to its time, its memory and
+// what it writes; it is killed otherwise, or with this object. It finds its document as /dev/stdin; what it
+// writes to its standard output ends up in a file in memory. Its other output is dropped. Asynchronous; at
+// most one run at a time.
 class LimitedProcess : public QObject
 {
     Q_OBJECT
 public:
-    struct Limits
-    {
-        std::chrono::milliseconds time{20'000};
-        qint64 memory = qint64(1) << 30;   // bytes of address space
-        qint64 output = qint64(256) << 20; // bytes
-    };
+    using Limits = ProcessLimits;
     struct Call
     {
         QString program; // a path
@@ -63,7 +57,7 @@ public:
     void start(const Call &call);
     void stop();
     bool isRunning() const { return m_process != nullptr; }
-    // What it was ended for; nil when it ended by itself. For messages.
+    // What it was ended for; null when it ended by itself. For messages.
     const QString &problem() const { return m_problem; }
 
     // What a program calls one of the others of its call.
@@ -75,10 +69,11 @@ Q_SIGNALS:
 
 private:
     void finish(bool isDone);
+    void processEnded(ConfinedProcess::End end);
     void letGo();
 
     Limits m_limits;
-    std::unique_ptr<QProcess> m_process;
+    std::unique_ptr<ConfinedProcess> m_process;
     SharedFile m_output;
     QTimer m_timer;
     QString m_problem;

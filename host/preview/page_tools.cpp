@@ -5,14 +5,28 @@
 
 #include "host/printing/file_name.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
+
+namespace {
+
+// Whether a confined program can open the file again: without capabilities, root is a user like any other.
+bool isReadConfined(const platform::UniqueFd &file)
+{
+    struct stat facts = {};
+    return geteuid() != 0 || fstat(file.get(), &facts) != 0 || (facts.st_mode & S_IROTH) != 0 ||
+           (facts.st_uid == 0 && (facts.st_mode & S_IRUSR) != 0);
+}
+
+} // namespace
 
 PageTools PageTools::installed()
 {
@@ -40,6 +54,8 @@ SharedFile inMemory(const QByteArray &content)
 SharedFile openFile(const QString &path)
 {
     platform::UniqueFd file(::open(fileNameToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (file && !isReadConfined(file))
+        file = platform::privateCopy(file.get(), QDir::tempPath().toStdString(), platform::longestDocument);
     return file ? std::make_shared<const platform::UniqueFd>(std::move(file)) : nullptr;
 }
 

@@ -23,7 +23,8 @@ struct PageTools
 
 // A file in memory with this content; null when there is no memory for it.
 SharedFile inMemory(const QByteArray &content);
-// Opens a file for reading; null with errno.
+// Opens a file for reading; null with errno. Root gets a copy without a name of what only another user may
+// read, since programs that read documents have no rights but a user's.
 SharedFile openFile(const QString &path);
 
 } // namespace host

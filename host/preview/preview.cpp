@@ -286,6 +286,8 @@ void Preview::renderNext()
         m_pageUnderWay = m_wantedPage;
         render(&m_pageRenderer, m_pageUnderWay, m_pageUnderWay, pagePixels);
     }
+    if (m_facts && m_wantedThumbnail >= m_facts->pages) // there were more pages when it was asked for
+        m_wantedThumbnail = -1;
     // Not before the large page: that one is waited for.
     if (m_wantedThumbnail < 0 || m_thumbnailUnderWay >= 0 || !m_facts || m_pageUnderWay >= 0)
         return;

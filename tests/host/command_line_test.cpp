@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/support/hostile_program.h"
 #include "tests/support/test_bundle.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void endlessFilesAreRefused();
     void bundleOfOthersIsNotLoaded_data();
     void bundleOfOthersIsNotLoaded();
+    void documentsAreConfined_data();
+    void documentsAreConfined();
     void nothingReachesTheTerminalRaw();
     void policyIsObeyed_data();
     void policyIsObeyed();
@@ -237,6 +241,43 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
     const Outcome outcome = run(words);
     QVERIFY(!outcome.out.contains("departmentCode"));
     QVERIFY2(outcome.err.contains("other users may write to it"), outcome.err.constData());
+}
+
+void CommandLineTest::documentsAreConfined_data()
+{
+    QTest::addColumn<bool>("areProgramsHostile"); // else the document is
+    QTest::newRow("document") << false;
+    QTest::newRow("programs") << true;
+}
+
+void CommandLineTest::documentsAreConfined()
+{
+    QFETCH(const bool, areProgramsHostile);
+    const QStringList programs{u"gs"_s, u"qpdf"_s};
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"tmp"_s));
+    HostileProgram hostile(folder.filePath(u"tmp"_s));
+    const QByteArray path = qgetenv("PATH");
+    for (const QString &name : programs) {
+        const QString real = QStandardPaths::findExecutable(name);
+        if (real.isEmpty())
+            QSKIP("ghostscript or qpdf is not installed");
+        hostile.standIn(folder.filePath(name), real);
+    }
+    if (areProgramsHostile)
+        qputenv("PATH", QFile::encodeName(folder.path()) + ':' + path);
+    const QString document =
+        write(u"hostile.ps"_s, areProgramsHostile ? "%!PS\nshowpage\n" : hostile.postScript());
+    const QString target = folder.filePath(u"out.pdf"_s);
+    const Outcome outcome =
+        run({u"--batch"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--output"_s, target, document});
+    qputenv("PATH", path);
+    QVERIFY2(outcome.code == 0, outcome.err);
+    QTRY_COMPARE(hostile.damage(), QStringList());
+    QProcess counter;
+    counter.start(u"qpdf"_s, {u"--show-npages"_s, target});
+    QVERIFY(counter.waitForFinished());
+    QCOMPARE(counter.readAllStandardOutput().trimmed(), "1"); // more when anything was allowed
 }
 
 void CommandLineTest::nothingReachesTheTerminalRaw()

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/preview/confined_process.h"
+
+#include "host/preview/confinement.h"
+
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+
+#include <linux/close_range.h>
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+
+#ifndef P_PIDFD
+#define P_PIDFD 3
+#endif
+
+namespace host {
+
+namespace {
+
+// What a process says of itself before it becomes the program.
+struct Report
+{
+    unsigned missing = 0; // parts of the confinement
+    int error = 0;        // of exec
+};
+
+// All that the new process needs, as system calls take it.
+struct Launch
+{
+    const Confinement &confinement;
+    const char *program;
+    char *const *arguments;
+    char *const *environment;
+    int input, output, errors, report;
+    const std::vector<int> &others;
+    const ProcessLimits &limits;
+};
+
+void limit(__rlimit_resource resource, qint64 most) noexcept
+{
+    const rlimit64 both{static_cast<rlim64_t>(most), static_cast<rlim64_t>(most)};
+    ::syscall(SYS_prlimit64, 0, resource, &both, nullptr);
+}
+
+// Nothing is inherited but the three standard streams and what the call names.
+void keepFiles(const Launch &launch) noexcept
+{
+    constexpr unsigned mostFiles = 4096; // where the kernel does not close ranges
+    ::syscall(SYS_dup3, launch.input, STDIN_FILENO, 0);
+    ::syscall(SYS_dup3, launch.output, STDOUT_FILENO, 0);
+    ::syscall(SYS_dup3, launch.errors, STDERR_FILENO, 0);
+    if (::syscall(SYS_close_range, 3U, ~0U, CLOSE_RANGE_CLOEXEC) != 0) {
+        for (unsigned file = 3; file < mostFiles; ++file)
+            ::syscall(SYS_fcntl, file, F_SETFD, FD_CLOEXEC);
+    }
+    for (const int other : launch.others)
+        ::syscall(SYS_fcntl, other, F_SETFD, 0);
+}
+
+// Runs in the new process, which has one thread of a program with many: system calls only.
+[[noreturn]] __attribute__((no_sanitize("address", "thread", "undefined"))) void
+become(const Launch &launch) noexcept
+{
+    ::syscall(SYS_setpgid, 0, 0); // what it starts is ended with it
+    launch.confinement.enterNamespaces();
+    keepFiles(launch);
+    limit(RLIMIT_CORE, 0);
+    limit(RLIMIT_AS, launch.limits.memory);
+    limit(RLIMIT_FSIZE, launch.limits.output);
+    limit(RLIMIT_CPU, std::chrono::ceil<std::chrono::seconds>(launch.limits.time).count());
+    Report report;
+    report.missing = launch.confinement.giveUpRights();
+    const unsigned long none[16] = {};
+    ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, none, nullptr, _NSIG / 8);
+    if (report.missing != 0)
+        ::syscall(SYS_write, launch.report, &report, sizeof report);
+    ::syscall(SYS_execve, launch.program, launch.arguments, launch.environment);
+    report.error = errno;
+    ::syscall(SYS_write, launch.report, &report, sizeof report);
+    while (true)
+        ::syscall(SYS_exit_group, 127);
+}
+
+// The words as exec takes them; valid as long as the list.
+std::vector<char *> pointersTo(const QList<QByteArray> &words)
+{
+    std::vector<char *> pointers;
+    for (const QByteArray &word : words)
+        pointers.push_back(const_cast<char *>(word.constData()));
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+// Nothing of the user's environment but the time zone, which some programs write into files.
+QList<QByteArray> environmentOf(const ConfinedProcess::Call &call, const QByteArray &folder)
+{
+    QList<QByteArray> environment = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "TMPDIR=" + folder};
+    if (qEnvironmentVariableIsSet("TZ"))
+        environment.append("TZ=" + qgetenv("TZ"));
+    return environment + call.environment;
+}
+
+// Blocks signals while a process is created: a handler of this program must not run in the new one.
+class BlockedSignals
+{
+public:
+    BlockedSignals()
+    {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &m_before);
+    }
+    ~BlockedSignals() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+
+private:
+    sigset_t m_before;
+};
+
+} // namespace
+
+ConfinedProcess::~ConfinedProcess()
+{
+    delete m_notifier; // before the descriptor that it watches is closed
+    if (!isRunning())
+        return;
+    constexpr int moment = 100; // milliseconds; a killed process is gone at once
+    kill();
+    pollfd end = {m_handle.get(), POLLIN, 0};
+    if (::poll(&end, 1, moment) > 0)
+        ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(m_handle.get()), nullptr,
+                 WEXITED | __WALL);
+}
+
+bool ConfinedProcess::start(const Call &call, const ProcessLimits &limits)
+{
+    m_folder.emplace();
+    int ends[2] = {-1, -1};
+    if (m_folder->isNull() || pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return false;
+    m_report = platform::UniqueFd(ends[0]);
+    const platform::UniqueFd report(ends[1]), errors(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    Confinement confinement(call.program, m_folder->path(), call.input, limits.output);
+    const QList<QByteArray> words = QList<QByteArray>{call.program} + call.arguments;
+    const QList<QByteArray> environment = environmentOf(call, m_folder->path());
+    const std::vector<char *> arguments = pointersTo(words), variables = pointersTo(environment);
+    const Launch launch{confinement,      call.program.constData(),
+                        arguments.data(), variables.data(),
+                        call.input,       call.output,
+                        errors.get(),     report.get(),
+                        call.others,      limits};
+    {
+        const BlockedSignals blocked;
+        m_process = confinement.fork(&m_handle);
+        if (m_process == 0)
+            become(launch);
+    }
+    if (m_process < 0 || !m_handle)
+        return false;
+    m_notifier = new QSocketNotifier(m_handle.get(), QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &ConfinedProcess::reap);
+    return true;
+}
+
+void ConfinedProcess::kill()
+{
+    if (!isRunning())
+        return;
+    ::syscall(SYS_pidfd_send_signal, m_handle.get(), SIGKILL, nullptr, 0);
+    ::kill(-m_process, SIGKILL);
+}
+
+void ConfinedProcess::reap()
+{
+    m_notifier->setEnabled(false);
+    // The number stays taken until the process has been waited for. In a PID namespace nothing is left by
+    // now.
+    ::kill(-m_process, SIGKILL);
+    siginfo_t facts = {};
+    const bool isKnown = ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(m_handle.get()), &facts,
+                                  WEXITED | __WALL) == 0;
+    Report report;
+    while (::read(m_report.get(), &report, sizeof report) == sizeof report)
+        Confinement::logMissing(report.missing);
+    m_handle.reset();
+    m_folder.reset();
+    if (report.error != 0)
+        Q_EMIT ended(End::NotStarted);
+    else if (!isKnown || facts.si_code != CLD_EXITED)
+        Q_EMIT ended(End::Crashed);
+    else
+        Q_EMIT ended(facts.si_status == 0 ? End::Done : End::Failed);
+}
+
+} // namespace host

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "host/preview/private_folder.h"
+#include "platform/unique_fd.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+
+#include <chrono>
+#include <optional>
+#include <vector>
+
+class QSocketNotifier;
+
+namespace host {
+
+struct ProcessLimits
+{
+    std::chrono::milliseconds time{20'000};
+    qint64 memory = qint64(1) << 30;   // bytes of address space
+    qint64 output = qint64(256) << 20; // bytes, of each file
+};
+
+// One run of a program that reads a document, confined as Confinement has it, with a private folder for its
+// temporary files. What it has started ends with it, and all of it with this object, which waits a moment for
+// that. Lives on a thread with an event loop that outlives the process: the kernel ends the process with that
+// thread.
+class ConfinedProcess : public QObject
+{
+    Q_OBJECT
+public:
+    struct Call
+    {
+        QByteArray program;            // an absolute path
+        QList<QByteArray> arguments;   // without the program's name
+        QList<QByteArray> environment; // NAME=VALUE, beside the little that every program gets
+        int input = -1, output = -1;   // descriptors: its standard input and output
+        std::vector<int> others = {};  // it finds them under the same numbers
+    };
+    enum class End { NotStarted, Crashed, Failed, Done };
+
+    using QObject::QObject;
+    ~ConfinedProcess() override;
+
+    // Starts the program, once. False, with errno, when there is no process; a program that cannot be run
+    // ends as NotStarted.
+    bool start(const Call &call, const ProcessLimits &limits);
+    bool isRunning() const { return bool(m_handle); }
+    // Ends everything; ended() follows.
+    void kill();
+
+Q_SIGNALS:
+    // The process and all it has started are gone, and so is the folder.
+    void ended(host::ConfinedProcess::End end);
+
+private:
+    void reap();
+
+    std::optional<PrivateFolder> m_folder;
+    platform::UniqueFd m_handle; // of the process; none when it has been waited for
+    platform::UniqueFd m_report; // what it says before it becomes the program
+    pid_t m_process = -1;
+    QSocketNotifier *m_notifier = nullptr;
+};
+
+} // namespace host
