@@ -1812,16 +1812,20 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>es dauerte zu lange</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>es ist nicht genug Speicher vorhanden</translation>
-    </message>
-    <message>
         <source>it ended unexpectedly</source>
         <translation>das Programm wurde unerwartet beendet</translation>
     </message>
     <message>
         <source>it cannot be started</source>
         <translation>das Programm kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>it cannot be started: %1</source>
+        <translation>das Programm kann nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>it wrote too much</source>
+        <translation>das Programm hat zu viel ausgegeben</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +1977,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>PDF files (*.pdf)</source>
         <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
     </message>
 </context>
 <context>

@@ -1812,16 +1812,20 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>ha tardado demasiado</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>no hay memoria suficiente</translation>
-    </message>
-    <message>
         <source>it ended unexpectedly</source>
         <translation>ha terminado de forma inesperada</translation>
     </message>
     <message>
         <source>it cannot be started</source>
         <translation>no se puede iniciar</translation>
+    </message>
+    <message>
+        <source>it cannot be started: %1</source>
+        <translation>no se puede iniciar: %1</translation>
+    </message>
+    <message>
+        <source>it wrote too much</source>
+        <translation>ha escrito demasiados datos</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +1977,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>PDF files (*.pdf)</source>
         <translation>Archivos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
     </message>
 </context>
 <context>

@@ -1812,16 +1812,20 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>l’opération a pris trop de temps</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>la mémoire est insuffisante</translation>
-    </message>
-    <message>
         <source>it ended unexpectedly</source>
         <translation>le programme s’est terminé de façon inattendue</translation>
     </message>
     <message>
         <source>it cannot be started</source>
         <translation>le programme ne peut pas être lancé</translation>
+    </message>
+    <message>
+        <source>it cannot be started: %1</source>
+        <translation>le programme ne peut pas être lancé : %1</translation>
+    </message>
+    <message>
+        <source>it wrote too much</source>
+        <translation>le programme a produit trop de données</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +1977,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>PDF files (*.pdf)</source>
         <translation>Fichiers PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
     </message>
 </context>
 <context>

@@ -1812,16 +1812,20 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>ha impiegato troppo tempo</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>memoria insufficiente</translation>
-    </message>
-    <message>
         <source>it ended unexpectedly</source>
         <translation>è terminato in modo imprevisto</translation>
     </message>
     <message>
         <source>it cannot be started</source>
         <translation>non può essere avviato</translation>
+    </message>
+    <message>
+        <source>it cannot be started: %1</source>
+        <translation>non può essere avviato: %1</translation>
+    </message>
+    <message>
+        <source>it wrote too much</source>
+        <translation>ha scritto troppi dati</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +1977,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>PDF files (*.pdf)</source>
         <translation>File PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
     </message>
 </context>
 <context>

@@ -1812,16 +1812,20 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>時間がかかりすぎました</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>メモリーが足りません</translation>
-    </message>
-    <message>
         <source>it ended unexpectedly</source>
         <translation>予期せず終了しました</translation>
     </message>
     <message>
         <source>it cannot be started</source>
         <translation>起動できません</translation>
+    </message>
+    <message>
+        <source>it cannot be started: %1</source>
+        <translation>起動できません: %1</translation>
+    </message>
+    <message>
+        <source>it wrote too much</source>
+        <translation>出力が多すぎました</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +1977,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>PDF files (*.pdf)</source>
         <translation>PDF ファイル (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
     </message>
 </context>
 <context>

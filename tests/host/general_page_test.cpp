@@ -46,15 +46,17 @@ private Q_SLOTS:
     void pdfIsWritten();
 
 private:
-    PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900});
+    PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900},
+                          const QString &title = {});
     QPushButton *button(const QString &text);
     bool hasPreview() const;
 };
 
-PrintWindow &GeneralPageTest::openWith(const QStringList &files, const QSize &room)
+PrintWindow &GeneralPageTest::openWith(const QStringList &files, const QSize &room, const QString &title)
 {
     PrintTask task;
     task.files = files;
+    task.title = title;
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     m_window->setRoom(room);
     PrintError error;
@@ -230,11 +232,12 @@ void GeneralPageTest::pdfIsWritten()
     if (!hasPreview())
         QSKIP("cups-filters or poppler-utils is not installed");
     const QTemporaryDir folder;
-    openWith({report});
+    openWith({report}, {1200, 900}, u"../Page 1/2"_s);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     button(u"Save as PDF…"_s)->click();
     QTRY_VERIFY(find<QFileDialog>());
     auto *dialog = find<QFileDialog>();
+    QCOMPARE(dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->text(), u"-Page 1-2.pdf"_s);
     dialog->setDirectory(folder.path());
     dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"out"_s));
     QMetaObject::invokeMethod(dialog, "accept");

@@ -10,6 +10,24 @@
 
 namespace host {
 
+namespace {
+
+// A job's title as the name of a file: it must not lead into another folder or be hidden, and it has to fit.
+QString fileNameFor(QString title)
+{
+    constexpr int longest = 80; // characters; file systems allow 255 bytes
+    for (QChar &sign : title) {
+        if (sign == QLatin1Char('/') || sign.category() == QChar::Other_Control)
+            sign = QLatin1Char('-');
+    }
+    title = title.simplified().left(longest);
+    while (title.startsWith(QLatin1Char('.')))
+        title.remove(0, 1);
+    return (title.isEmpty() ? PdfSaver::tr("Document") : title) + QStringLiteral(".pdf");
+}
+
+} // namespace
+
 PdfSaver::PdfSaver(QWidget *window) : QObject(window), m_window(window) {}
 
 void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths,
@@ -24,7 +42,7 @@ void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStrin
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before a file is replaced
     dialog->setDefaultSuffix(QStringLiteral("pdf"));
-    dialog->selectFile(suggestedName + QStringLiteral(".pdf"));
+    dialog->selectFile(fileNameFor(suggestedName));
     connect(dialog, &QFileDialog::fileSelected, this,
             [this, paths, settings](const QString &path) { write(paths, settings, path); });
     dialog->open();
