@@ -146,7 +146,7 @@ bool ConfinedProcess::start(const Call &call, const ProcessLimits &limits)
         return false;
     m_report = platform::UniqueFd(ends[0]);
     const platform::UniqueFd report(ends[1]), errors(::open("/dev/null", O_WRONLY | O_CLOEXEC));
-    Confinement confinement(call.program, m_folder->path(), call.input, limits.output);
+    Confinement confinement(call.program, m_folder->path(), call.input, 2 * limits.output);
     const QList<QByteArray> words = QList<QByteArray>{call.program} + call.arguments;
     const QList<QByteArray> environment = environmentOf(call, m_folder->path());
     const std::vector<char *> arguments = pointersTo(words), variables = pointersTo(environment);

@@ -52,6 +52,8 @@ void LimitedProcess::start(const Call &call)
 {
     stop();
     m_problem = QString();
+    struct stat facts = {};
+    m_inputSize = fstat(call.input->get(), &facts) == 0 ? facts.st_size : 0;
     m_output = std::make_shared<const platform::UniqueFd>(memfd_create("pages", MFD_CLOEXEC));
     ConfinedProcess::Call confined{
         QFile::encodeName(call.program), {}, {}, call.input->get(), m_output->get()};
@@ -73,6 +75,8 @@ void LimitedProcess::start(const Call &call)
 
 void LimitedProcess::processEnded(ConfinedProcess::End end)
 {
+    // Programs copy their documents, and say of a file that is full what they say of a broken document.
+    const bool isLarge = m_inputSize > m_limits.output / 2;
     struct stat facts = {};
     if (end == ConfinedProcess::End::NotStarted)
         m_problem = tr("it cannot be started");
@@ -81,6 +85,8 @@ void LimitedProcess::processEnded(ConfinedProcess::End end)
         m_problem = tr("it wrote too much");
     else if (end == ConfinedProcess::End::Crashed)
         m_problem = tr("it ended unexpectedly");
+    else if (end == ConfinedProcess::End::Failed && isLarge)
+        m_problem = tr("the document is too large");
     finish(end == ConfinedProcess::End::Done);
 }
 

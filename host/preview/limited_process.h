@@ -75,6 +75,7 @@ private:
     Limits m_limits;
     std::unique_ptr<ConfinedProcess> m_process;
     SharedFile m_output;
+    qint64 m_inputSize = 0; // bytes
     QTimer m_timer;
     QString m_problem;
 };

@@ -1827,6 +1827,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>it wrote too much</source>
         <translation>das Programm hat zu viel ausgegeben</translation>
     </message>
+    <message>
+        <source>the document is too large</source>
+        <translation>das Dokument ist zu groß</translation>
+    </message>
 </context>
 <context>
     <name>host::LinkLabel</name>

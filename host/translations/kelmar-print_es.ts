@@ -1827,6 +1827,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>it wrote too much</source>
         <translation>ha escrito demasiados datos</translation>
     </message>
+    <message>
+        <source>the document is too large</source>
+        <translation>el documento es demasiado grande</translation>
+    </message>
 </context>
 <context>
     <name>host::LinkLabel</name>

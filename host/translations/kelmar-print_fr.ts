@@ -1827,6 +1827,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>it wrote too much</source>
         <translation>le programme a produit trop de données</translation>
     </message>
+    <message>
+        <source>the document is too large</source>
+        <translation>le document est trop volumineux</translation>
+    </message>
 </context>
 <context>
     <name>host::LinkLabel</name>

@@ -1827,6 +1827,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>it wrote too much</source>
         <translation>ha scritto troppi dati</translation>
     </message>
+    <message>
+        <source>the document is too large</source>
+        <translation>il documento è troppo grande</translation>
+    </message>
 </context>
 <context>
     <name>host::LinkLabel</name>

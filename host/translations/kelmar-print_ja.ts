@@ -1827,6 +1827,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>it wrote too much</source>
         <translation>出力が多すぎました</translation>
     </message>
+    <message>
+        <source>the document is too large</source>
+        <translation>文書が大きすぎます</translation>
+    </message>
 </context>
 <context>
     <name>host::LinkLabel</name>
