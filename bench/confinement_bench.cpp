@@ -116,5 +116,5 @@ int main(int argc, char **argv)
     if (hasBubblewrap)
         print("bubblewrap", median(wrapped));
     const double added = median(confined).processor - median(plain).processor;
-    return goalIsMet("confinement of a program", added, 4, "ms of processor a call") ? 0 : 1;
+    return goalIsMet("confinement of a program", added, 3, "ms of processor a call") ? 0 : 1;
 }

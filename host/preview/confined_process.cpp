@@ -64,10 +64,19 @@ void keepFiles(const Launch &launch) noexcept
         ::syscall(SYS_fcntl, other, F_SETFD, 0);
 }
 
-// Runs in the new process, which has one thread of a program with many: system calls only.
-[[noreturn]] __attribute__((no_sanitize("address", "thread", "undefined"))) void
-become(const Launch &launch) noexcept
+// Signals that this program handles or ignores have their usual meaning for the other one.
+void resetSignals() noexcept
 {
+    constexpr unsigned long usual[16] = {}; // the kernel's struct sigaction, which is smaller
+    for (int signal = 1; signal < _NSIG; ++signal)
+        ::syscall(SYS_rt_sigaction, signal, usual, nullptr, _NSIG / 8);
+    ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, usual, nullptr, _NSIG / 8);
+}
+
+// Runs in the new process, in the memory of this one: system calls only.
+__attribute__((no_sanitize("address", "thread", "undefined"))) int become(void *argument) noexcept
+{
+    const Launch &launch = *static_cast<const Launch *>(argument);
     ::syscall(SYS_setpgid, 0, 0); // what it starts is ended with it
     launch.confinement.enterNamespaces();
     keepFiles(launch);
@@ -77,8 +86,7 @@ become(const Launch &launch) noexcept
     limit(RLIMIT_CPU, std::chrono::ceil<std::chrono::seconds>(launch.limits.time).count());
     Report report;
     report.missing = launch.confinement.giveUpRights();
-    const unsigned long none[16] = {};
-    ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, none, nullptr, _NSIG / 8);
+    resetSignals();
     if (report.missing != 0)
         ::syscall(SYS_write, launch.report, &report, sizeof report);
     ::syscall(SYS_execve, launch.program, launch.arguments, launch.environment);
@@ -150,18 +158,16 @@ bool ConfinedProcess::start(const Call &call, const ProcessLimits &limits)
     const QList<QByteArray> words = QList<QByteArray>{call.program} + call.arguments;
     const QList<QByteArray> environment = environmentOf(call, m_folder->path());
     const std::vector<char *> arguments = pointersTo(words), variables = pointersTo(environment);
-    const Launch launch{confinement,      call.program.constData(),
-                        arguments.data(), variables.data(),
-                        call.input,       call.output,
-                        errors.get(),     report.get(),
-                        call.others,      limits};
+    Launch launch{confinement,      call.program.constData(),
+                  arguments.data(), variables.data(),
+                  call.input,       call.output,
+                  errors.get(),     report.get(),
+                  call.others,      limits};
     {
         const BlockedSignals blocked;
-        m_process = confinement.fork(&m_handle);
-        if (m_process == 0)
-            become(launch);
+        m_process = confinement.start(become, &launch, &m_handle);
     }
-    if (m_process < 0 || !m_handle)
+    if (m_process < 0)
         return false;
     m_notifier = new QSocketNotifier(m_handle.get(), QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &ConfinedProcess::reap);

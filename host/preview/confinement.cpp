@@ -13,7 +13,6 @@
 
 #include <linux/capability.h>
 #include <linux/landlock.h>
-#include <linux/sched.h>
 #include <linux/seccomp.h>
 #include <sched.h>
 #include <sys/mount.h>
@@ -142,34 +141,27 @@ void Confinement::allow(const char *path, quint64 access) const
     (void)addRule(m_rules.get(), place.get(), access & m_handledAccess);
 }
 
-pid_t Confinement::fork(platform::UniqueFd *handle)
+pid_t Confinement::start(int (*run)(void *), void *argument, platform::UniqueFd *handle)
 {
+    constexpr size_t room = 64 * 1024; // a new process calls the kernel, and little else
+    std::vector<std::byte> stack(room);
     for (size_t set = firstUsableSet; set < namespaceSets.size(); ++set) {
         int descriptor = -1;
-        clone_args arguments = {};
-        arguments.flags = namespaceSets[set] | CLONE_PIDFD | CLONE_CLEAR_SIGHAND;
-        arguments.pidfd = reinterpret_cast<quintptr>(&descriptor);
-        arguments.exit_signal = 0; // nothing but the descriptor tells of the end
+        // No signal tells of the end, but the descriptor.
+        const auto flags = static_cast<int>(namespaceSets[set] | CLONE_PIDFD | CLONE_VM | CLONE_VFORK);
         m_hasUsers = (namespaceSets[set] & CLONE_NEWUSER) != 0;
-        const long process = ::syscall(SYS_clone3, &arguments, sizeof arguments);
-        if (process < 0 && errno != EAGAIN && errno != ENOMEM)
-            continue;
+        const pid_t process = ::clone(run, stack.data() + room, flags, argument, &descriptor);
         if (process > 0) {
             firstUsableSet = set;
             *handle = platform::UniqueFd(descriptor);
             if ((namespaceSets[set] & CLONE_NEWPID) == 0)
                 logMissing(Namespaces);
+            return process;
         }
-        return static_cast<pid_t>(process);
+        if (errno == EAGAIN || errno == ENOMEM)
+            break;
     }
-    // A sandbox that does not know clone3().
-    m_hasUsers = false;
-    const pid_t process = _Fork();
-    if (process > 0) {
-        *handle = platform::UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
-        logMissing(Namespaces);
-    }
-    return process;
+    return -1;
 }
 
 void Confinement::enterNamespaces() const noexcept

@@ -28,9 +28,10 @@ public:
     // descriptor that the program may open again; `size` is how much it may write into the folder, in bytes.
     Confinement(const QByteArray &program, const QByteArray &folder, int document, qint64 size);
 
-    // Like fork(), into new namespaces as far as they can be had; fills in `handle`, a descriptor of the
-    // process. -1 with errno.
-    pid_t fork(platform::UniqueFd *handle);
+    // Creates a process in new namespaces, as far as they can be had, that calls `run`; fills in `handle`, a
+    // descriptor of the process. -1 with errno. As with vfork(), the process has this one's memory until
+    // exec, and this thread stands still: copying the page tables of a dialog takes longer than all the rest.
+    pid_t start(int (*run)(void *), void *argument, platform::UniqueFd *handle);
 
     // In the new process: enterNamespaces() first, giveUpRights() right before exec, since less is possible
     // afterwards. The latter returns the parts that could not be applied.
