@@ -82,8 +82,9 @@ bool takePreset(Destination *destination, PrintError *error)
     for (const Preset &preset : *presets) {
         const bool isUsed =
             preset.name.isEmpty() || preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
-        for (const QString &name : isUsed ? preset.options.keys() : QStringList())
-            destination->serverOptions.removeAll(name);
+        for (const QString &name : isUsed ? preset.options.keys() : QStringList()) // libcups minds no case
+            destination->serverOptions.removeIf(
+                [&name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
     }
     if (!isThere)
         *error = {PrintError::Kind::NoSuchPreset, PrintSystemText::tr("“%1” has no preset called “%2”.")
