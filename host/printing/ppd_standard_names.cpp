@@ -134,10 +134,8 @@ QMap<QString, QString> PpdDocument::choicesNamed(const QString &name, const QStr
 {
     for (const QString &keyword : options) {
         const auto subject = option(keyword);
-        for (const PpdOption::Choice &choice : subject ? subject->choices : QList<PpdOption::Choice>()) {
-            if (isSame(choice.keyword, name))
-                return {{keyword, choice.keyword}};
-        }
+        if (subject && subject->hasChoice(subject->spelled(name)))
+            return {{keyword, subject->spelled(name)}};
     }
     return {};
 }

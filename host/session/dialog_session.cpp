@@ -35,8 +35,8 @@ QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &be
 DialogSession::DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd)
     : m_rule(Policy::current().ruleFor(destination.queue)), m_destination(destination), m_ppd(std::move(ppd)),
       m_locks(Policy::current(), destination.queue, m_ppd.get()),
-      m_host(m_destination, m_ppd ? m_ppd->record() : nullptr), m_secrets(m_ppd.get(), {}),
-      m_panels(m_ppd.get()), m_changes(&m_panels, m_ppd.get(), &m_host.settings())
+      m_host(m_destination, m_ppd ? m_ppd->record() : nullptr), m_panels(m_ppd.get()),
+      m_changes(&m_panels, m_ppd.get(), &m_host.settings())
 {
     connect(&m_host, &PanelHost::changeAnnounced, this, &DialogSession::noteAnnounced);
     connect(&m_host, &PanelHost::blockingBegan, this, &DialogSession::blockingBegan);
@@ -86,7 +86,14 @@ void DialogSession::loadPanels(Extensions &extensions)
 void DialogSession::setProtection(const Protection &protection)
 {
     m_protection = protection;
-    m_secrets = SecretSettings(m_ppd.get(), m_protection);
+    m_secrets.reset();
+}
+
+bool DialogSession::isSecret(const QString &key) const
+{
+    if (!m_secrets)
+        m_secrets.emplace(m_ppd.get(), m_protection);
+    return m_secrets->contains(key);
 }
 
 // The user's own defaults and presets that go against the policy are told. What becomes marks stays among the
@@ -285,7 +292,7 @@ void DialogSession::apply(const Resolution &resolution)
     Resolution allowed = resolution;
     allowed.removeIf([this](const OptionChoice &change) {
         const PrintError refusal = m_locks.refusal(m_ppd.get(), change.option, change.choice);
-        if (refusal)
+        if (refusal && !m_notices.contains(refusal.message))
             addNotice(refusal.message);
         return static_cast<bool>(refusal);
     });

@@ -21,6 +21,7 @@
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 namespace host {
 
@@ -63,7 +64,7 @@ public:
     int panelOfKeyword(const QString &keyword) const { return m_panels.ofKeyword(keyword); }
     // Whether the value of an option, a panel's key or a job option is a password or a code. It is then
     // neither shown nor stored, nor told to another program.
-    bool isSecret(const QString &key) const { return m_secrets.contains(key); }
+    bool isSecret(const QString &key) const;
     // The panel that answers a key or key path beside the PPD options, or -1.
     int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
     // The keys and key paths beside PPD options that a panel lets itself be set by.
@@ -139,7 +140,7 @@ private:
     GeneralSettings m_general;
     GeneralSettings m_startingGeneral;
     Protection m_protection;
-    SecretSettings m_secrets;
+    mutable std::optional<SecretSettings> m_secrets; // found out when first asked for
     ChosenSettings m_chosen;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;

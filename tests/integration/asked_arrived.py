@@ -147,6 +147,10 @@ CASES = [
     ("everywhere", "five.pdf", "-n 2 -P 2-3", "pages=2 copies=2 page-ranges=2-3"),
     ("everywhere", "note.txt", "--set ColorModel=Gray -o media=A4", f"pages=1 {A4} ColorModel=Gray"),
     ("everywhere", "report.ps.gz", "-o media=A4", f"pages=2 {A4}"),
+    # the same, gray by default
+    ("gray", "report.pdf", "", "ColorModel=Gray", "-o ColorModel=Gray"),
+    ("gray", "report.pdf", "--set ColorModel=RGB", "ColorModel=RGB print-color-mode=color",
+     "-o ColorModel=RGB -o print-color-mode=color"),
     # no PPD
     ("raw", "report.pdf", "-n 2 -o sides=two-sided-long-edge", "whole=yes copies=2 sides=two-sided-long-edge"),
     ("raw", "note.txt", "", "whole=yes"),
@@ -294,6 +298,8 @@ class Setup:
                    DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={bus}")
         self.lpadmin("-p", "everywhere", "-E", "-v", f"ipp://localhost:{port}/ipp/print", "-m", "everywhere")
         self.lpadmin("-p", "everywhere", "-v", "capture:/")
+        self.lpadmin("-p", "gray", "-E", "-v", "capture:/", "-P", self.servers[0] / "etc/ppd/everywhere.ppd",
+                     "-o", "print-color-mode-default=monochrome")
 
     def stop(self):
         for child in self.children:
