@@ -56,7 +56,7 @@ void BatchRunTest::init()
     m_system.ppds = {{u"office"_s, officePpd() + ppdGroup("Mode/Mode", model)}, {u"custom"_s, customPpd()}};
     if (!m_document.isOpen()) {
         QVERIFY(m_document.open());
-        m_document.write("some text\n");
+        m_document.write(QByteArray("some text\n").repeated(300)); // five pages
         m_document.flush();
     }
 }
@@ -144,6 +144,7 @@ void BatchRunTest::exitCodes_data()
         << u"--summary --set ColorType=Mono --set Cyan=2"_s << int(ExitConflict) << u"conflict"_s;
     QTest::newRow("proposal accepted")
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 
 void BatchRunTest::exitCodes()
