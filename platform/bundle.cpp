@@ -91,12 +91,24 @@ QString problemOf(const QJsonObject &info)
     return problemOfOptionalKeys(info);
 }
 
-// What in a bundle, or around it, others than the system and the user could have put there; nil when nothing
+// The folders that a path leads through. Other users with write access to one of them could put another
+// bundle in its place.
+QStringList foldersAbove(const QString &path)
+{
+    QStringList folders;
+    for (QString folder = path; folder != QLatin1String("/");) {
+        folder = QFileInfo(folder).path();
+        folders.append(folder);
+    }
+    return folders;
+}
+
+// What in a bundle, or above it, others than the system and the user could have put there; nil when nothing
 // is.
 QString foreignHandIn(const QString &folder)
 {
-    const QString holder = QFileInfo(folder).path(); // whoever may write there may put another in its place
-    QStringList paths{holder, folder};
+    const QStringList holders = foldersAbove(folder) + foldersAbove(QFileInfo(folder).canonicalFilePath());
+    QStringList paths = holders + QStringList(folder);
     QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext())
@@ -105,7 +117,7 @@ QString foreignHandIn(const QString &folder)
         struct stat status = {};
         if (stat(QFile::encodeName(path).constData(), &status) != 0)
             return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-        const bool isSticky = path == holder && (status.st_mode & S_ISVTX) != 0;
+        const bool isSticky = holders.contains(path) && (status.st_mode & S_ISVTX) != 0;
         if (!isSticky && (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
             return QStringLiteral("%1: other users may write to it").arg(path);
         if (status.st_uid != 0 && status.st_uid != geteuid())

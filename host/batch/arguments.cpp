@@ -58,6 +58,9 @@ QList<OptionText> optionTexts()
         {names({"resolve"}),
          {},
          ArgumentsText::tr("Accept the proposal when settings cannot be used together.")},
+        {names({"allow-no-password"}),
+         {},
+         ArgumentsText::tr("Print even if a password or a department code is missing.")},
         {names({"summary"}), {}, ArgumentsText::tr("Write the summary of the settings.")},
         {names({"list-options"}),
          {},
@@ -169,6 +172,8 @@ QString problemOf(const Arguments &arguments)
         return ArgumentsText::tr("The standard input cannot be a value and a document at once.");
     if (arguments.batch && !arguments.screenshot.isEmpty())
         return ArgumentsText::tr("--batch and --screenshot do not go together.");
+    if (arguments.allowNoPassword && !arguments.batch)
+        return ArgumentsText::tr("--allow-no-password goes with --batch.");
     if (!arguments.output.isEmpty() && !arguments.batch)
         return ArgumentsText::tr("--output goes with --batch.");
     if (arguments.asksForPresets() && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
@@ -235,6 +240,7 @@ std::optional<Arguments> parseArguments(const QStringList &words, QString *error
     arguments.listOptions = isSet("list-options");
     arguments.json = isSet("json");
     arguments.resolve = isSet("resolve");
+    arguments.allowNoPassword = isSet("allow-no-password");
     arguments.startupTime = isSet("startup-time");
     arguments.presets = isSet("presets");
     if (isSet("save-preset"))

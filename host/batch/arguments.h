@@ -43,6 +43,7 @@ struct Arguments
     bool listOptions = false;
     bool json = false;
     bool resolve = false;
+    bool allowNoPassword = false; // print where a password or a code is missing
     bool startupTime = false;
     bool presets = false;
     std::optional<QString> savePreset;

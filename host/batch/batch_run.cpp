@@ -3,6 +3,7 @@
 
 #include "host/batch/batch_run.h"
 
+#include "host/preview/page_counter.h"
 #include "host/preview/pdf_writer.h"
 #include "host/printing/opened_printer.h"
 #include "host/printing/preset_store.h"
@@ -13,6 +14,8 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+
+#include <algorithm>
 
 namespace host {
 
@@ -37,6 +40,25 @@ PpdOption listed(const DialogSession &session, const QString &keyword)
     return option;
 }
 
+// The use of a code of which only some digits have been given, one by one; nil where there is none.
+QString useOfHalfCode(const Arguments &arguments, const DialogSession &session)
+{
+    QStringList given = session.destination().options.keys(), asked;
+    for (const Arguments::Assignment &assignment : arguments.assignments)
+        asked.append(assignment.key);
+    given += asked;
+    const auto among = [](const QStringList &names) {
+        return [&names](const QString &name) { return names.contains(name, Qt::CaseInsensitive); };
+    };
+    for (const Protection::Secret &secret : session.protection().secrets) {
+        const QStringList &digits = secret.options;
+        if (std::any_of(digits.begin(), digits.end(), among(asked)) &&
+            !std::all_of(digits.begin(), digits.end(), among(given)) && !among(asked)(secret.key))
+            return session.ppd()->described(secret.option, secret.choice).text();
+    }
+    return {};
+}
+
 } // namespace
 
 bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintError *error)
@@ -49,7 +71,11 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintE
         if (!choose(session, setting, error))
             return false;
     }
-    return true;
+    const QString use = useOfHalfCode(arguments, *session);
+    if (!use.isNull())
+        *error = {PrintError::Kind::BadValue,
+                  BatchText::tr("Only a part of the code for “%1” has been given.").arg(use)};
+    return use.isNull();
 }
 
 BatchRun::BatchRun(const Arguments &arguments, PrintSystem &system, Extensions &extensions)
@@ -94,6 +120,8 @@ ExitCode BatchRun::prepare()
     if (!openSession(&error))
         return fail(error);
     m_result.printer = m_session->destination().name();
+    if (m_session->brokenLock() && !m_session->destination().instance.isEmpty())
+        return fail(m_session->brokenLock());
     if (!applyAssignments(m_arguments, m_session.get(), &error))
         return fail(error);
     m_session->save();
@@ -104,15 +132,40 @@ ExitCode BatchRun::prepare()
             m_result.options.append(listed(*m_session, keyword));
         m_result.panelKeys = SettingKeys(m_session.get()).panelKeys();
     }
-    if (const QString gap = m_session->protectionGap(); !gap.isNull())
+    if (const QString gap = m_session->protectionGap(); !gap.isNull()) {
+        if (mayNotPrintWithProtectionGap())
+            return fail({PrintError::Kind::BadValue, gap});
         m_session->addNotice(gap);
+    }
     if (m_arguments.summary) {
         m_result.hasSummary = true;
         m_result.summary = m_session->summary();
     }
-    if (settled == ExitSuccess && !changePresets(&error))
+    if (settled == ExitSuccess && ((m_arguments.batch && !checkDocuments(&error)) || !changePresets(&error)))
         return fail(error);
     return settled;
+}
+
+// A code that the policy wants is asked for by the print system, whatever the command line allows.
+bool BatchRun::mayNotPrintWithProtectionGap() const
+{
+    if (!m_arguments.batch || !m_arguments.output.isEmpty() || m_arguments.allowNoPassword)
+        return false;
+    const Protection::Secret *code = m_session->missingCode();
+    return m_session->lacksProtection() || (code && m_session->locks().choice(code->option) != code->choice);
+}
+
+// False where nothing would be printed. What goes to the printer as it is cannot be judged.
+bool BatchRun::checkDocuments(PrintError *error)
+{
+    const ChosenSettings &chosen = m_session->chosen();
+    if (chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format")))
+        return true;
+    const PageVerdict verdict =
+        checkPages(PageTools::installed(), m_documents.documents(), pageSettings(*m_session));
+    if (!verdict.message.isNull())
+        *error = {PrintError::Kind::BadValue, verdict.message};
+    return verdict.message.isNull();
 }
 
 bool BatchRun::changePresets(PrintError *error)
@@ -248,7 +301,9 @@ ExitCode BatchRun::writePdf()
 ExitCode BatchRun::fail(const PrintError &error)
 {
     m_result.error = error;
-    return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
+    const bool isUsage =
+        error.kind == PrintError::Kind::BadValue || error.kind == PrintError::Kind::NoSuchPreset;
+    return isUsage ? ExitUsage : ExitFailure;
 }
 
 } // namespace host

@@ -36,6 +36,8 @@ private:
     bool openDocuments();
     bool openSession(PrintError *error);
     ExitCode settleConflicts();
+    bool mayNotPrintWithProtectionGap() const;
+    bool checkDocuments(PrintError *error);
     bool changePresets(PrintError *error);
     bool savePreset(const QString &name, PrintError *error);
     ExitCode submit();

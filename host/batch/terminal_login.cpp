@@ -60,6 +60,9 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
     if (question.again)
         say(terminal,
             TerminalText::tr("The user name or the password was not accepted.") + QLatin1Char('\n'));
+    if (question.isInClear)
+        say(terminal,
+            TerminalText::tr("The password will cross the network without encryption.") + QLatin1Char('\n'));
     say(terminal, TerminalText::tr("User name for %1 [%2]: ").arg(question.server, question.user));
     auto user = readLine(terminal);
     if (!user)

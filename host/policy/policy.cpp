@@ -44,7 +44,7 @@ bool names(const QStringList &panels, const QString &kind)
 
 } // namespace
 
-// Reads the values that are there, and keeps the first problem with its line.
+// Reads the values that are there, and keeps the first problem with the rule that has it.
 class PolicyReader
 {
 public:
@@ -58,9 +58,9 @@ public:
         QJsonParseError problem;
         const QJsonDocument document = QJsonDocument::fromJson(m_source, &problem);
         if (problem.error != QJsonParseError::NoError)
-            fail(qMax(0, problem.offset - 1), problem.errorString()); // it is behind what it means
+            failAt(qMax(0, problem.offset - 1), problem.errorString()); // it is behind what it means
         else if (!document.isObject())
-            fail(0, PolicyText::tr("it is not one object in braces"));
+            fail(PolicyText::tr("it is not one object in braces"));
         else
             readPolicy(document.object());
         *error = m_problem;
@@ -68,45 +68,36 @@ public:
     }
 
 private:
-    void fail(qsizetype offset, const QString &what)
-    {
-        if (m_problem.isNull())
-            m_problem = PolicyText::tr("%1, line %2, column %3: %4")
-                            .arg(m_fileName)
-                            .arg(m_source.left(offset).count('\n') + 1)
-                            .arg(columnOf(offset))
-                            .arg(what);
-    }
-
-    // In characters, from 1.
-    qsizetype columnOf(qsizetype offset) const
+    void failAt(qsizetype offset, const QString &what)
     {
         const qsizetype begin = offset > 0 ? m_source.lastIndexOf('\n', offset - 1) + 1 : 0;
-        return QString::fromUtf8(m_source.mid(begin, offset - begin)).size() + 1;
+        m_problem = PolicyText::tr("%1, line %2, column %3: %4")
+                        .arg(m_fileName)
+                        .arg(m_source.left(offset).count('\n') + 1)
+                        .arg(QString::fromUtf8(m_source.mid(begin, offset - begin)).size() + 1)
+                        .arg(what);
     }
 
-    // Where a key stands, looked for from the beginning of what it is part of.
-    qsizetype placeOf(const QString &key, qsizetype from) const
+    void fail(const QString &what)
     {
-        const QByteArray name = '"' + key.toUtf8() + '"';
-        for (qsizetype place = m_source.indexOf(name, from); place >= 0;
-             place = m_source.indexOf(name, place + 1)) {
-            if (m_source.mid(place + name.size()).trimmed().startsWith(':')) // else it is a value
-                return place;
-        }
-        return from;
+        if (m_problem.isNull())
+            m_problem = m_rule == 0 ? PolicyText::tr("%1: %2", "file, problem").arg(m_fileName, what)
+                                    : PolicyText::tr("%1, rule %2: %3", "file, number, problem")
+                                          .arg(m_fileName)
+                                          .arg(m_rule)
+                                          .arg(what);
     }
 
-    void unknownKeys(const QJsonObject &object, const QStringList &known, qsizetype from)
+    void unknownKeys(const QJsonObject &object, const QStringList &known)
     {
         for (const QString &key : object.keys()) {
             if (!known.contains(key))
-                fail(placeOf(key, from), PolicyText::tr("“%1” is not known here; known are %2")
-                                             .arg(key, known.join(QStringLiteral(", "))));
+                fail(PolicyText::tr("“%1” is not known here; known are %2")
+                         .arg(key, known.join(QStringLiteral(", "))));
         }
     }
 
-    QStringList names(const QJsonObject &object, const QString &key, qsizetype from)
+    QStringList names(const QJsonObject &object, const QString &key)
     {
         QStringList result;
         const QJsonValue value = object.value(key);
@@ -116,92 +107,61 @@ private:
             result.append(name.toString());
         }
         if (!isList)
-            fail(placeOf(key, from), PolicyText::tr("“%1” takes a list of names").arg(key));
+            fail(PolicyText::tr("“%1” takes a list of names").arg(key));
         return result;
     }
 
-    QMap<QString, QString> choices(const QJsonObject &object, const QString &key, qsizetype from)
+    QMap<QString, QString> choices(const QJsonObject &object, const QString &key)
     {
         QMap<QString, QString> result;
         const QJsonValue value = object.value(key);
-        const qsizetype here = placeOf(key, from);
         if (!value.isUndefined() && !value.isObject())
-            fail(here, PolicyText::tr("“%1” takes an object of options and choices").arg(key));
+            fail(PolicyText::tr("“%1” takes an object of options and choices").arg(key));
         const QJsonObject given = value.toObject();
         for (auto it = given.begin(); it != given.end(); ++it) {
             if (!it.value().isString())
-                fail(placeOf(it.key(), here), PolicyText::tr("“%1” takes a choice in quotes").arg(it.key()));
+                fail(PolicyText::tr("“%1” takes a choice in quotes").arg(it.key()));
             result.insert(it.key(), it.value().toString());
         }
         return result;
     }
 
-    // Where the objects in the list of rules begin.
-    QList<qsizetype> ruleBeginnings() const
-    {
-        QList<qsizetype> beginnings;
-        int depth = 0;
-        bool isText = false;
-        for (qsizetype i = placeOf(QStringLiteral("rules"), 0); i < m_source.size(); ++i) {
-            const char c = m_source.at(i);
-            if (isText && c == '\\')
-                ++i;
-            else if (c == '"')
-                isText = !isText;
-            else if (!isText && (c == '{' || c == '[')) {
-                if (c == '{' && depth == 1)
-                    beginnings.append(i);
-                ++depth;
-            } else if (!isText && (c == '}' || c == ']')) {
-                if (--depth == 0)
-                    break;
-            }
-        }
-        return beginnings;
-    }
-
     void readPolicy(const QJsonObject &object)
     {
-        unknownKeys(object, {QStringLiteral("contact"), QStringLiteral("queues"), QStringLiteral("rules")},
-                    0);
+        unknownKeys(object, {QStringLiteral("contact"), QStringLiteral("queues"), QStringLiteral("rules")});
         const QJsonValue contact = object.value(QStringLiteral("contact"));
         if (!contact.isUndefined() && !contact.isString())
-            fail(placeOf(QStringLiteral("contact"), 0), PolicyText::tr("“contact” takes a text"));
+            fail(PolicyText::tr("“contact” takes a text"));
         m_policy.m_contact = contact.toString();
-        m_policy.m_offered = names(object, QStringLiteral("queues"), 0);
+        m_policy.m_offered = names(object, QStringLiteral("queues"));
         const QJsonValue rules = object.value(QStringLiteral("rules"));
         if (!rules.isUndefined() && !rules.isArray())
-            fail(placeOf(QStringLiteral("rules"), 0), PolicyText::tr("“rules” takes a list"));
-        const QList<qsizetype> beginnings = ruleBeginnings();
-        qsizetype at = 0;
+            fail(PolicyText::tr("“rules” takes a list"));
         for (const QJsonValue &rule : rules.toArray()) {
-            if (!rule.isObject()) {
-                fail(placeOf(QStringLiteral("rules"), 0), PolicyText::tr("“rules” takes objects in braces"));
-                return;
-            }
-            readRule(rule.toObject(), beginnings.value(at++));
+            ++m_rule;
+            if (!rule.isObject())
+                fail(PolicyText::tr("“rules” takes objects in braces"));
+            readRule(rule.toObject());
         }
     }
 
-    void readRule(const QJsonObject &object, qsizetype from)
+    void readRule(const QJsonObject &object)
     {
-        unknownKeys(object,
-                    {QStringLiteral("queues"), QStringLiteral("defaults"), QStringLiteral("locked"),
-                     QStringLiteral("hiddenOptions"), QStringLiteral("hiddenPanels"),
-                     QStringLiteral("lockedPanels")},
-                    from);
-        m_policy.m_entries.append({names(object, QStringLiteral("queues"), from),
-                                   {choices(object, QStringLiteral("defaults"), from),
-                                    choices(object, QStringLiteral("locked"), from),
-                                    names(object, QStringLiteral("hiddenOptions"), from),
-                                    names(object, QStringLiteral("hiddenPanels"), from),
-                                    names(object, QStringLiteral("lockedPanels"), from)}});
+        unknownKeys(object, {QStringLiteral("queues"), QStringLiteral("defaults"), QStringLiteral("locked"),
+                             QStringLiteral("hiddenOptions"), QStringLiteral("hiddenPanels"),
+                             QStringLiteral("lockedPanels")});
+        m_policy.m_entries.append(
+            {names(object, QStringLiteral("queues")),
+             {choices(object, QStringLiteral("defaults")), choices(object, QStringLiteral("locked")),
+              names(object, QStringLiteral("hiddenOptions")), names(object, QStringLiteral("hiddenPanels")),
+              names(object, QStringLiteral("lockedPanels"))}});
     }
 
     const QByteArray m_source;
     const QString m_fileName;
     Policy m_policy;
     QString m_problem;
+    int m_rule = 0; // which one is being read, from 1; 0 for what stands outside of them
 };
 
 std::optional<Policy> Policy::parse(const QByteArray &json, const QString &fileName, QString *error)
@@ -280,17 +240,17 @@ bool Policy::Rule::locksPanel(const QString &kind) const
 
 QString Policy::Rule::lockedChoice(const PpdDocument *ppd, const QString &keyword) const
 {
-    const QString choice = locked.value(keyword);
-    const auto option = ppd && !choice.isNull() ? ppd->option(keyword) : std::nullopt;
-    return option && option->hasChoice(choice) ? choice : QString();
+    return lockedChoices(ppd).value(keyword);
 }
 
+// In the spelling of the PPD.
 QMap<QString, QString> Policy::Rule::lockedChoices(const PpdDocument *ppd) const
 {
     QMap<QString, QString> choices;
-    for (const QString &keyword : locked.keys()) {
-        if (const QString choice = lockedChoice(ppd, keyword); !choice.isNull())
-            choices.insert(keyword, choice);
+    for (auto it = locked.begin(); ppd && it != locked.end(); ++it) {
+        const auto option = ppd->option(it.key());
+        if (option && option->hasChoice(option->spelled(it.value())))
+            choices.insert(option->keyword, option->spelled(it.value()));
     }
     return choices;
 }

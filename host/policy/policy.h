@@ -40,8 +40,8 @@ public:
         void applyTo(Destination *destination, const PpdDocument *ppd) const;
     };
 
-    // Reads a policy file. Nil with an error, in words with the file's name, line and column, when it is not
-    // one.
+    // Reads a policy file. Nil with an error, in words with the file's name and the line or the rule, when it
+    // is not one.
     static std::optional<Policy> parse(const QByteArray &json, const QString &fileName, QString *error);
     // The file of this computer, /etc/kelmar-print/policy.json, or the one that KELMAR_PRINT_POLICY names;
     // empty where there is none, and with a problem where it cannot be used.

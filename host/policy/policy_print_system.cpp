@@ -19,12 +19,33 @@ struct PolicySystemText
     Q_DECLARE_TR_FUNCTIONS(PolicySystemText)
 };
 
-// What a job prints with: what is sent, else what the printer does by itself.
-QString choiceOf(const JobRequest &request, const PpdDocument &ppd, const QString &keyword)
+bool isSent(const JobOption &option)
 {
-    const auto sent = std::find_if(request.options.begin(), request.options.end(),
-                                   [&](const JobOption &option) { return option.name == keyword; });
-    return sent == request.options.end() ? ppd.defaultChoice(keyword) : sent->value;
+    return option.kind != JobOption::Kind::Shown;
+}
+
+// Whether a job brings all digits of a code, and not only those that the printer takes for none. Half a code
+// is no code.
+bool isGiven(const Protection::Secret &secret, const JobRequest &request, const PpdDocument &ppd)
+{
+    bool isMoreThanDefault = false;
+    for (const QString &part : secret.options) {
+        const auto sent =
+            std::find_if(request.options.begin(), request.options.end(), [&](const auto &option) {
+                return isSent(option) && option.name.compare(part, Qt::CaseInsensitive) == 0;
+            });
+        if (sent == request.options.end())
+            return false;
+        isMoreThanDefault |= sent->value != ppd.defaultChoice(part);
+    }
+    return isMoreThanDefault;
+}
+
+// What the server has as a default is the administrator's own.
+bool isOfServer(const JobOption &option, const Destination &destination)
+{
+    return option.kind == JobOption::Kind::Preference && destination.serverOptions.contains(option.name) &&
+           destination.options.value(option.name) == option.value;
 }
 
 PrintError notOffered(const Policy &policy, const QString &queue)
@@ -96,45 +117,43 @@ std::unique_ptr<PpdDocument> PolicyPrintSystem::ppd(const Destination &destinati
     return m_system.ppd(destination, error);
 }
 
-// Options and choices that the printer does not have cannot be wanted.
-QString PolicyPrintSystem::lockBroken(const JobRequest &request, const PpdDocument &ppd,
-                                      const Policy::Rule &rule)
+// The job as it will be printed: each of its options by itself, since filters may look at any, and all
+// together.
+PrintError PolicyPrintSystem::lockBroken(const JobRequest &request, PpdDocument *ppd, const Locks &locks)
 {
+    QMap<QString, QString> sent;
+    for (const JobOption &option : request.options) {
+        if (!isSent(option) || isOfServer(option, request.destination))
+            continue;
+        if (PrintError broken = locks.refusal(ppd, option.name, option.value))
+            return broken;
+        sent.insert(option.name, option.value);
+    }
+    ppd->markOptions(sent);
+    if (PrintError broken = locks.refusal(*ppd))
+        return broken;
     QStringList problems; // whoever opened the dialog has been told
     const std::lock_guard guard(m_mutex);
-    const Protection protection = m_extensions.protectionFor(ppd.modelName(), &problems);
-    const auto isGiven = [&](const Protection::Secret &secret) {
-        return std::any_of(secret.options.begin(), secret.options.end(), [&](const QString &part) {
-            return choiceOf(request, ppd, part) != ppd.defaultChoice(part);
-        });
-    };
-    for (const QString &keyword : rule.locked.keys()) {
-        const QString choice = rule.lockedChoice(&ppd, keyword);
-        if (choice.isNull())
-            continue;
-        const OptionChoice wanted = ppd.described(keyword, choice);
-        if (choiceOf(request, ppd, keyword) != choice)
-            return PolicySystemText::tr("“%1” has to be “%2”.").arg(wanted.optionText, wanted.choiceText);
-        for (const Protection::Secret &secret : protection.secrets) {
-            if (secret.option == keyword && secret.choice == choice && !isGiven(secret))
-                return PolicySystemText::tr("“%1” has to be “%2”, with a code.")
-                    .arg(wanted.optionText, wanted.choiceText);
-        }
+    const Protection protection = m_extensions.protectionFor(ppd->modelName(), &problems);
+    for (const Protection::Secret &secret : protection.secrets) {
+        const OptionChoice wanted = ppd->described(secret.option, secret.choice);
+        if (locks.choice(secret.option) == secret.choice && !isGiven(secret, request, *ppd))
+            return locks.refused(PolicySystemText::tr("“%1” has to be “%2”, with a code.")
+                                     .arg(wanted.optionText, wanted.choiceText));
     }
     return {};
 }
 
 PrintError PolicyPrintSystem::refusal(const JobRequest &request)
 {
-    if (!m_policy.offers(request.destination.queue))
-        return notOffered(m_policy, request.destination.queue);
-    const Policy::Rule rule = m_policy.ruleFor(request.destination.queue);
+    const QString queue = request.destination.queue;
+    if (!m_policy.offers(queue))
+        return notOffered(m_policy, queue);
+    if (m_policy.ruleFor(queue).locked.isEmpty())
+        return {};
     PrintError error;
-    const auto ppd = rule.locked.isEmpty() ? nullptr : m_system.ppd(request.destination, &error);
-    const QString broken = ppd ? lockBroken(request, *ppd, rule) : QString();
-    if (!broken.isNull())
-        return {PrintError::Kind::NotAuthorised, broken + QLatin1Char(' ') + m_policy.attribution()};
-    return error;
+    const auto ppd = m_system.ppd(request.destination, &error);
+    return ppd ? lockBroken(request, ppd.get(), Locks(m_policy, queue, ppd.get())) : error;
 }
 
 Submission PolicyPrintSystem::submit(const JobRequest &request, const SubmissionWatch &watch)

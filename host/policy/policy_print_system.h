@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/extensions/extensions.h"
+#include "host/policy/locks.h"
 #include "host/policy/policy.h"
 #include "host/printing/print_system.h"
 
@@ -23,7 +24,8 @@ public:
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
-    // Rejected, with what and by whom, where a locked option has another choice or lacks its code.
+    // Rejected, with what and by whom, where an option of the job goes against what is locked, or a locked
+    // choice lacks its code.
     Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
     bool changeJob(const Destination &destination, int jobId, JobAction action, PrintError *error) override;
@@ -34,7 +36,7 @@ public:
 private:
     std::optional<Destination> anyOffered(std::optional<Destination> standard, PrintError *error);
     PrintError refusal(const JobRequest &request);
-    QString lockBroken(const JobRequest &request, const PpdDocument &ppd, const Policy::Rule &rule);
+    PrintError lockBroken(const JobRequest &request, PpdDocument *ppd, const Locks &locks);
 
     PrintSystem &m_system;
     const Policy m_policy;

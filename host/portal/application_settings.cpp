@@ -16,23 +16,14 @@ namespace {
 
 const QString pageSize = QStringLiteral("PageSize");
 
-// Whether an option holds a code, or a part of one. Where no bundle tells, one that has many choices, all of
-// one character, is taken for a part.
-bool isSecret(const DialogSession &session, const PpdOption &option)
-{
-    constexpr qsizetype fewestDigits = 8;
-    if (session.isSecret(option.keyword))
-        return true;
-    if (!session.protection().secrets.isEmpty())
-        return false;
-    return option.choices.size() >= fewestDigits &&
-           std::all_of(option.choices.begin(), option.choices.end(),
-                       [](const PpdOption::Choice &choice) { return choice.keyword.size() == 1; });
-}
-
 void mark(const QString &name, const QString &value, DialogSession *session)
 {
     PpdDocument *ppd = session->ppd();
+    const PrintError refusal = session->locks().refusal(ppd, name, value);
+    if (refusal && ppd->takesOption(name) && !ppd->isInstallable(name))
+        session->addNotice(refusal.message);
+    if (refusal)
+        return;
     if (ppd->hasOption(name)) {
         if (!ppd->isInstallable(name))
             session->markChoice(name, value);
@@ -98,7 +89,7 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
         const bool isChanged = option->markedChoice != option->defaultChoice;
         const bool isTold = general.contains(keyword) || isChanged;
         if (isTold && !option->markedChoice.isEmpty() && !ppd->isInstallable(keyword) &&
-            !GeneralSettings::covers(keyword) && !isSecret(session, *option))
+            !GeneralSettings::covers(keyword) && !session.isSecret(keyword))
             choice.choices.append({keyword, option->markedChoice});
     }
     return choice;

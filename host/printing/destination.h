@@ -24,8 +24,11 @@ struct Destination
     bool isStateKnown = false; // whether the two that follow come from the print server
     bool accepting = true;
     bool stopped = false;
-    bool isOnNetwork = false;       // announces itself there, and has a queue only while it is used
-    QMap<QString, QString> options; // the user's and the queue's own settings, as libcups gives them
+    bool isOnNetwork = false;             // announces itself there, and has a queue only while it is used
+    QMap<QString, QString> options;       // the user's and the queue's own settings, as libcups gives them
+    QStringList serverOptions;            // the names of those that come from the print server alone
+    QMap<QString, QString> queueDefaults; // job options that the print server adds by itself
+    QString optionsProblem; // why the user's own settings could not be read, localised; nil when they could
 
     QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
     // For lists: the printer's everyday name, and the preset where it is one.

@@ -9,6 +9,7 @@
 #include "platform/unique_fd.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QMimeDatabase>
 #include <QXmlStreamReader>
@@ -33,6 +34,7 @@ struct DocumentText
 
 constexpr qint64 spoolBlock = 64 * 1024;
 constexpr int betweenStops = 50;       // milliseconds
+constexpr int writerPatience = 5'000;  // milliseconds for a program to open the other end of a named pipe
 constexpr qint64 headSize = 64 * 1024; // bytes that tell what a document is
 
 bool isSvg(const QByteArray &head)
@@ -97,17 +99,18 @@ PrintError spoolProblem(const QString &reason)
                 .arg(temporaryFolder(), reason)};
 }
 
-// Until something, or the end, can be read; false when that is not wanted any more.
-bool waitForMore(int fd, const StopWanted &stop)
+// Until something, or the end, can be read, or the time is over; false when that is not wanted any more.
+bool waitForMore(int fd, const QDeadlineTimer &deadline, const StopWanted &stop)
 {
     pollfd more = {fd, POLLIN, 0};
-    while (true) {
+    while (!deadline.hasExpired()) {
         if (HeldSignals::isPending() || (stop && stop()))
             return false;
         const int ready = ::poll(&more, 1, betweenStops);
         if (ready > 0 || (ready < 0 && errno != EINTR))
-            return true; // a read tells what is wrong
+            break; // a read tells what is wrong
     }
+    return true;
 }
 
 // An open file by a name that anyone in this program can open again.
@@ -121,13 +124,24 @@ QString nameOf(const QString &path)
     return readableFileName(path.section(QLatin1Char('/'), -1));
 }
 
+// The kernel makes some files when they are read, as in /proc, and gives their size as 0.
+bool isMadeWhenRead(const QString &path, const struct stat &status)
+{
+    char byte = 0;
+    if (!S_ISREG(status.st_mode) || status.st_size != 0)
+        return false;
+    const platform::UniqueFd fd(::open(fileNameToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+    return fd && ::read(fd.get(), &byte, 1) == 1;
+}
+
 } // namespace
 
 bool isStream(const QString &path)
 {
     const auto status = statusOf(path);
-    return status && (S_ISFIFO(status->st_mode) || S_ISSOCK(status->st_mode) ||
-                      (S_ISCHR(status->st_mode) && path.startsWith(QLatin1String("/dev/stdin"))));
+    return status &&
+           (isMadeWhenRead(path, *status) || S_ISFIFO(status->st_mode) || S_ISSOCK(status->st_mode) ||
+            (S_ISCHR(status->st_mode) && path.startsWith(QLatin1String("/dev/stdin"))));
 }
 
 std::optional<Document> openDocument(const QString &path, PrintError *error)
@@ -143,14 +157,15 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
         *error = {Kind::FileMissing, DocumentText::tr("“%1” is a folder, not a document.").arg(shown)};
         return std::nullopt;
     }
-    if (status && !S_ISREG(status->st_mode) && !isStream(path)) {
+    const bool isRead = isStream(path); // once
+    if (status && !S_ISREG(status->st_mode) && !isRead) {
         *error = {Kind::FileMissing, DocumentText::tr("“%1” is a device, not a document.").arg(shown)};
         return std::nullopt;
     }
     Document document;
     document.path = path;
     document.name = nameOf(path);
-    if (isStream(path))
+    if (isRead)
         return document;
     QFile file;
     QString problem;
@@ -174,11 +189,12 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
 // program.
 struct DocumentList::Spool
 {
+    QString path;
     QFile copy;
     platform::UniqueFd source; // stays open while there is more to come; none for the standard input
     bool isWhole = false;
 
-    bool begin(const QString &path, PrintError *error);
+    bool begin(const QString &from, PrintError *error);
     bool take(QIODevice *input, PrintError *error, const StopWanted &stop);
 
 private:
@@ -186,8 +202,9 @@ private:
 };
 
 // Opening a pipe does not wait for whoever is to write into it.
-bool DocumentList::Spool::begin(const QString &path, PrintError *error)
+bool DocumentList::Spool::begin(const QString &from, PrintError *error)
 {
+    path = from;
     const int fd = namelessFile(QFile::encodeName(temporaryFolder()));
     if (fd < 0 ||
         !copy.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {
@@ -225,7 +242,9 @@ bool DocumentList::Spool::take(QIODevice *input, PrintError *error, const StopWa
     const int fd = source ? source.get() : STDIN_FILENO;
     QByteArray block(spoolBlock, Qt::Uninitialized);
     while (true) {
-        if (!input && !waitForMore(fd, stop)) {
+        // A pipe that no program has opened for writing does not become readable; a read finds its end.
+        const QDeadlineTimer deadline(source ? writerPatience : -1);
+        if (!input && !waitForMore(fd, deadline, stop)) {
             *error = {PrintError::Kind::Cancelled, DocumentText::tr("Printing was canceled.")};
             return false;
         }
@@ -243,11 +262,14 @@ bool DocumentList::Spool::take(QIODevice *input, PrintError *error, const StopWa
         if (!keep(block.constData(), count, error))
             return false;
     }
+    const bool isInput = !source;
     isWhole = true;
     source.reset();
     if (copy.size() > 0)
         return true;
-    *error = {PrintError::Kind::EmptyDocument, DocumentText::tr("Nothing came from the standard input.")};
+    *error = {PrintError::Kind::EmptyDocument,
+              isInput ? DocumentText::tr("Nothing came from the standard input.")
+                      : DocumentText::tr("Nothing was written into “%1”.").arg(readableFileName(path))};
     return false;
 }
 

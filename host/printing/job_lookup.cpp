@@ -185,7 +185,10 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
         if (found < 0 && id > 0)
             found = id;
     }
-    return found > 0 ? byId(found, job) : Result::NotThere;
+    if (found <= 0)
+        return Result::NotThere;
+    const Result result = byId(found, job);
+    return result == Result::Found && job->token != token ? Result::NotThere : result;
 }
 
 JobLookup::Result JobLookup::byToken(int id, const QByteArray &token, const QDeadlineTimer &tries,

@@ -22,8 +22,9 @@ struct Login
 struct LoginQuestion
 {
     QString server;
-    QString user;       // proposed
-    bool again = false; // the last answer was not accepted
+    QString user;           // proposed
+    bool again = false;     // the last answer was not accepted
+    bool isInClear = false; // the answer crosses the network without encryption
 };
 
 // Asks a person; nil when they do not want to answer. Called on the thread that makes the request.

@@ -20,7 +20,9 @@ struct OpenText
 // Whether it is the printer that is missing. Any other problem meets the next one, too, and takes its time.
 bool lacksPrinter(const PrintError &error)
 {
-    return error.kind == PrintError::Kind::NoSuchPrinter || error.kind == PrintError::Kind::NoPrinters;
+    using Kind = PrintError::Kind;
+    return error.kind == Kind::NoSuchPrinter || error.kind == Kind::NoSuchPreset ||
+           error.kind == Kind::NoPrinters;
 }
 
 std::optional<Destination> firstDestination(PrintSystem &system, const QString &usedLast, PrintError *error)

@@ -3,6 +3,9 @@
 
 #include "host/printing/ppd_constraints.h"
 
+#include <QHash>
+#include <QSet>
+
 #include <algorithm>
 
 namespace host {
@@ -12,14 +15,6 @@ namespace {
 QString text(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
-
-// Most PPDs write a constraint once in each direction.
-void sortSides(QList<OptionChoice> *sides, const QStringList &order)
-{
-    std::sort(sides->begin(), sides->end(), [&](const OptionChoice &a, const OptionChoice &b) {
-        return order.indexOf(a.option) < order.indexOf(b.option);
-    });
 }
 
 } // namespace
@@ -37,21 +32,33 @@ OptionChoice PpdConstraints::side(constraints::Choice term) const
     return m_document->described(keyword, marked.isEmpty() ? text(engine.choiceName(term)) : marked);
 }
 
+// Most PPDs write a constraint once in each direction; some forbid each pair of many choices.
 QList<Conflict> PpdConstraints::conflicts()
 {
     m_rules.refresh();
     const auto broken = m_rules.brokenLines();
     if (broken.empty())
         return {};
-    const QStringList order = m_document->optionKeywords();
+    QHash<QString, qsizetype> places; // of options in the PPD
+    for (const QString &keyword : m_document->optionKeywords())
+        places.insert(keyword, places.size());
+    QHash<constraints::Choice, std::pair<qsizetype, OptionChoice>> sides;
+    QSet<QList<qsizetype>> known;
     QList<Conflict> result;
     for (const constraints::Line line : broken) {
-        Conflict conflict;
-        for (const constraints::Choice term : m_rules.engine().terms(line))
-            conflict.sides.append(side(term));
-        sortSides(&conflict.sides, order);
-        if (!result.contains(conflict))
-            result.append(conflict);
+        QMap<qsizetype, OptionChoice> inOrder;
+        for (const constraints::Choice term : m_rules.engine().terms(line)) {
+            auto described = sides.find(term);
+            if (described == sides.end()) {
+                const OptionChoice subject = side(term);
+                described = sides.insert(term, {places.value(subject.option, -1), subject});
+            }
+            inOrder.insert(described->first, described->second);
+        }
+        if (const QList<qsizetype> key = inOrder.keys(); !known.contains(key)) {
+            known.insert(key);
+            result.append({inOrder.values()});
+        }
     }
     return result;
 }

@@ -99,6 +99,14 @@ bool PpdOption::hasChoice(const QString &choice) const
     return std::any_of(choices.begin(), choices.end(), [&](const Choice &c) { return c.keyword == choice; });
 }
 
+QString PpdOption::spelled(const QString &choice) const
+{
+    const auto known = std::find_if(choices.begin(), choices.end(), [&](const Choice &c) {
+        return c.keyword.compare(choice, Qt::CaseInsensitive) == 0;
+    });
+    return known == choices.end() ? choice : known->keyword;
+}
+
 PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd) {}
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
@@ -177,9 +185,11 @@ QStringList PpdDocument::optionKeywords() const
     return keywords;
 }
 
+// The page region is the page size under another name.
 bool PpdDocument::hasOption(const QString &keyword) const
 {
-    return ppdFindOption(m_ppd, keyword.toUtf8().constData()) != nullptr;
+    const ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
+    return option && !isShadowOfPageSize(option->keyword);
 }
 
 std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
@@ -275,41 +285,6 @@ void PpdDocument::replaceBadCustomDefaults()
     }
 }
 
-QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
-{
-    CupsOptionList list;
-    QStringList problems;
-    for (auto it = options.begin(); it != options.end(); ++it) {
-        if (!takesOption(it.key()))
-            continue;
-        const bool isSize = it.key() == QLatin1String("media");
-        const auto subject = isCustomChoice(it.value())
-                                 ? option(isSize ? QStringLiteral("PageSize") : it.key())
-                                 : std::nullopt;
-        QString problem;
-        if (!subject || !subject->custom)
-            list.add(it.key().toUtf8().constData(), it.value().toUtf8().constData());
-        else if (subject->custom->read(it.value(), subject->keyword, &problem))
-            mark(subject->keyword, it.value());
-        else
-            problems.append(problem);
-    }
-    cupsMarkOptions(m_ppd, list.count(), list.options());
-    return problems;
-}
-
-QStringList PpdDocument::optionsOfStandardName(const QString &name)
-{
-    static const QMap<QString, QString> keywords = {
-        {QStringLiteral("media"), QStringLiteral("PageSize InputSlot MediaType")},
-        {QStringLiteral("sides"),
-         QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
-        {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
-        {QStringLiteral("printer-resolution"), QStringLiteral("Resolution SetResolution JCLResolution")},
-        {QStringLiteral("resolution"), QStringLiteral("Resolution SetResolution JCLResolution")}};
-    return keywords.value(name).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 std::optional<PaperSize> PpdDocument::paperSize(const QString &choice) const
 {
     constexpr double millimetres = 25.4 / 72; // a point
@@ -323,65 +298,6 @@ std::optional<PaperSize> PpdDocument::paperSize(const QString &choice) const
                      mm(size->width - size->right),
                      mm(size->length - size->top),
                      mm(size->bottom)};
-}
-
-bool PpdDocument::takesOption(const QString &name) const
-{
-    const QStringList standsFor = optionsOfStandardName(name);
-    return hasOption(name) || std::any_of(standsFor.begin(), standsFor.end(),
-                                          [this](const QString &keyword) { return hasOption(keyword); });
-}
-
-QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const QString &value)
-{
-    const bool isList = name == QLatin1String("media");
-    QMap<QString, QString> result;
-    for (const QString &part : isList ? value.split(QLatin1Char(',')) : QStringList(value)) {
-        const QMap<QString, QString> choices = choicesMarkedBy(name, part.trimmed());
-        if (choices.isEmpty())
-            return {};
-        result.insert(choices);
-    }
-    return result;
-}
-
-// libcups does not tell what it marks for a name. So each option that it may mark is set to another choice
-// first; what has moved from there was meant.
-QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const QString &value)
-{
-    QMap<QString, QString> before, decoys, result;
-    for (const QString &keyword : optionsOfStandardName(name)) {
-        const auto subject = option(keyword);
-        if (!subject || subject->markedChoice.isEmpty())
-            continue;
-        before.insert(keyword, subject->markedChoice);
-        for (const PpdOption::Choice &choice : subject->choices) {
-            if (choice.keyword != subject->markedChoice && mark(keyword, choice.keyword)) {
-                decoys.insert(keyword, choice.keyword);
-                break;
-            }
-        }
-    }
-    const auto markedByValue = [&] {
-        CupsOptionList list;
-        list.add(name.toUtf8().constData(), value.toUtf8().constData());
-        cupsMarkOptions(m_ppd, list.count(), list.options());
-        for (auto it = before.begin(); it != before.end(); ++it) {
-            const QString now = markedChoice(it.key());
-            const bool isSound = !isCustomChoice(now) || option(it.key())->hasChoice(now);
-            if (isSound && now != decoys.value(it.key(), it.value()))
-                result.insert(it.key(), now);
-        }
-    };
-    markedByValue();
-    // A value may be the decoy itself; from where things stood it is a change.
-    for (auto it = before.begin(); it != before.end(); ++it)
-        mark(it.key(), it.value());
-    decoys.clear();
-    markedByValue();
-    for (auto it = before.begin(); it != before.end(); ++it)
-        mark(it.key(), it.value());
-    return result;
 }
 
 bool PpdDocument::isInstallable(const QString &keyword) const

@@ -69,12 +69,15 @@ public:
     QStringList markOptions(const QMap<QString, QString> &options);
     // Whether markOptions() turns an option of this name into marks.
     bool takesOption(const QString &name) const;
-    // The options that libcups marks for a standard name; empty for other names. Color mode and quality are
-    // left to the print system: a choice of the user here must not be overruled by them.
+    // The options that a standard name stands for, in any case; empty for other names. Quality is left to the
+    // print system.
     static QStringList optionsOfStandardName(const QString &name);
     // The choices that a standard name such as "media" stands for with this value, by option. Empty when the
-    // PPD has none for it, or for one of several values in a list. What is marked stays as it is.
-    QMap<QString, QString> standardChoices(const QString &name, const QString &value);
+    // PPD has none for it, or for one of several values in a list. What is marked stays as it is. Without
+    // `alsoKeywords` only values count that libcups takes itself: it has trays and types of paper under their
+    // standard names alone.
+    QMap<QString, QString> standardChoices(const QString &name, const QString &value,
+                                           bool alsoKeywords = true);
     // Marked choices that are not the default, in PPD order, without installable options.
     QList<OptionChoice> changedChoices() const;
 
@@ -98,6 +101,7 @@ private:
 
     PpdConstraints &constraints() const; // read when first asked for
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
+    QMap<QString, QString> choicesNamed(const QString &name, const QStringList &options) const;
     bool isInstallableOption(const ppd_option_s *option) const;
     void replaceBadCustomDefaults();
 

@@ -43,6 +43,8 @@ struct PpdOption
 
     // One of the choices, or a custom one with values that the option takes.
     bool hasChoice(const QString &choice) const;
+    // A choice in the PPD's own spelling, whatever its case; other values as they are.
+    QString spelled(const QString &choice) const;
 };
 
 // Choices that the PPD forbids together and that are marked all the same.

@@ -5,6 +5,7 @@
 
 #include "host/printing/cups_handles.h"
 #include "host/printing/destination.h"
+#include "host/printing/file_name.h"
 
 #include <QCoreApplication>
 
@@ -85,7 +86,7 @@ QList<Line> linesOf(const QByteArray &content)
 
 QByteArray destinationName(const QString &queue, const QString &name)
 {
-    return (name.isEmpty() ? queue : queue + QLatin1Char('/') + name).toUtf8();
+    return fileNameToBytes(name.isEmpty() ? queue : queue + QLatin1Char('/') + name);
 }
 
 // Names of destinations differ by more than their case.
@@ -156,13 +157,13 @@ std::optional<QByteArray> optionText(const QMap<QString, QString> &options, Prin
 QList<Preset> presetsIn(const QByteArray &content, const QString &queue)
 {
     QList<Preset> presets;
-    const QByteArray own = queue.toUtf8();
+    const QByteArray own = fileNameToBytes(queue);
     for (const Line &line : linesOf(content)) {
         const qsizetype slash = line.destination.indexOf('/');
         const QByteArray lineQueue = slash < 0 ? line.destination : line.destination.first(slash);
         if (line.keyword.isEmpty() || lineQueue.compare(own, Qt::CaseInsensitive) != 0)
             continue;
-        const QString name = slash < 0 ? QString() : QString::fromUtf8(line.destination.sliced(slash + 1));
+        const QString name = slash < 0 ? QString() : fileNameFromBytes(line.destination.sliced(slash + 1));
         auto known = std::find_if(presets.begin(), presets.end(), [&](const Preset &preset) {
             return preset.name.compare(name, Qt::CaseInsensitive) == 0;
         });
@@ -177,7 +178,7 @@ QMap<QString, QStringList> presetNamesIn(const QByteArray &content)
 {
     QMap<QString, QStringList> names;
     for (const Line &line : linesOf(content)) {
-        const auto [queue, name] = splitDestinationName(QString::fromUtf8(line.destination));
+        const auto [queue, name] = splitDestinationName(fileNameFromBytes(line.destination));
         QStringList &known = names[queue.toLower()];
         if (!name.isEmpty() && !known.contains(name, Qt::CaseInsensitive))
             known.append(name);
@@ -244,7 +245,7 @@ QByteArray withoutPreset(const QByteArray &content, const QString &queue, const 
         if (!isOf(line, destination))
             result += line.raw;
         else if (line.keyword.compare("default", Qt::CaseInsensitive) == 0)
-            result += line.keyword + ' ' + queue.toUtf8() + '\n';
+            result += line.keyword + ' ' + fileNameToBytes(queue) + '\n';
     }
     return result;
 }

@@ -8,10 +8,13 @@
 #include "platform/unique_fd.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QThread>
+#include <QUuid>
 
 #include <algorithm>
 #include <sys/file.h>
@@ -25,7 +28,9 @@ struct StoreText
     Q_DECLARE_TR_FUNCTIONS(StoreText)
 };
 
-constexpr int mostTries = 20; // to write while other programs do, too
+constexpr int mostTries = 20;          // to write while other programs do, too
+constexpr int lockPatience = 5'000;    // milliseconds for the program that holds the lock
+constexpr unsigned long lockLook = 20; // milliseconds between tries
 constexpr qsizetype longestName = 100;
 constexpr qint64 largestFile = 4 * 1024 * 1024; // bytes
 
@@ -87,7 +92,8 @@ bool makeFolderOf(const QString &path)
     return ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0 || errno == EEXIST;
 }
 
-// Held by all who change this file with us, in every process.
+// Held by all who change this file with us, in every process. None, with errno, when another program keeps
+// it: it may be stopped.
 class StoreLock
 {
 public:
@@ -97,12 +103,16 @@ public:
     {
         if (!m_fd)
             return;
-        int result = 0;
-        do {
-            result = ::flock(m_fd.get(), LOCK_EX);
-        } while (result != 0 && errno == EINTR);
-        if (result != 0)
-            m_fd.reset();
+        const QDeadlineTimer deadline(lockPatience);
+        while (::flock(m_fd.get(), LOCK_EX | LOCK_NB) != 0) {
+            const int reason = errno;
+            if ((reason != EWOULDBLOCK && reason != EINTR) || deadline.hasExpired()) {
+                m_fd.reset();
+                errno = reason;
+                return;
+            }
+            QThread::msleep(lockLook);
+        }
     }
     explicit operator bool() const { return static_cast<bool>(m_fd); }
 
@@ -111,20 +121,22 @@ private:
 };
 
 // Beside the file, with the rights and the owner of the earlier one; -1 and errno when it cannot be written.
+// Without an earlier one it gets `mode`, less the process's umask where it is the user's own.
 class NewFile
 {
 public:
-    NewFile(const QString &path, unsigned mode, int earlier) : m_path(QFile::encodeName(path))
+    NewFile(const QString &path, unsigned mode, bool isUsers, int earlier) : m_path(QFile::encodeName(path))
     {
-        m_name = m_path + ".XXXXXX";
-        m_fd = platform::UniqueFd(::mkostemp(m_name.data(), O_CLOEXEC));
+        m_name = m_path + '.' + QUuid::createUuid().toByteArray(QUuid::Id128);
         struct stat facts = {};
-        if (m_fd && earlier >= 0 && ::fstat(earlier, &facts) == 0) {
-            mode = facts.st_mode & 07777;
-            if (::fchown(m_fd.get(), facts.st_uid, facts.st_gid) != 0)
-                mode &= 0777; // somebody else's file, which becomes ours
-        }
-        if (m_fd)
+        const bool isReplacing = earlier >= 0 && ::fstat(earlier, &facts) == 0;
+        m_fd = platform::UniqueFd(
+            ::open(m_name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, isReplacing ? 0600 : mode));
+        if (m_fd && isReplacing && ::fchown(m_fd.get(), facts.st_uid, facts.st_gid) == 0)
+            (void)::fchmod(m_fd.get(), facts.st_mode & 07777);
+        else if (m_fd && isReplacing)
+            (void)::fchmod(m_fd.get(), facts.st_mode & 0777); // somebody else's file, which becomes ours
+        else if (m_fd && !isUsers)
             (void)::fchmod(m_fd.get(), mode);
     }
     ~NewFile()
@@ -167,7 +179,8 @@ bool isSame(const std::optional<OpenFile> &file, const QByteArray &content)
 
 PrintError noSuchPreset(const QString &name)
 {
-    return {PrintError::Kind::BadValue, StoreText::tr("There is no preset called “%1”.").arg(name)};
+    return {PrintError::Kind::BadValue,
+            StoreText::tr("There is no preset called “%1”.").arg(readableFileName(name))};
 }
 
 bool holds(const QByteArray &content, const QString &queue, const QString &name)
@@ -243,7 +256,7 @@ QString PresetStore::fileOf(const QString &queue, const QString &name, PrintErro
 
 // What another program writes while we do goes into the file that ours has just replaced, or over ours: both
 // are looked at, and the change is made again on top of it.
-bool PresetStore::change(const QString &path, unsigned mode, const Change &change, PrintError *error)
+bool PresetStore::change(const QString &path, const Change &change, PrintError *error) const
 {
     const QString target = realPath(path);
     if (!makeFolderOf(target)) {
@@ -256,7 +269,7 @@ bool PresetStore::change(const QString &path, unsigned mode, const Change &chang
         const auto content = change(earlier->content, error);
         if (!content)
             return false;
-        NewFile fresh(target, mode, earlier->fd.get());
+        NewFile fresh(target, m_files.mode, path == m_files.users, earlier->fd.get());
         if (!fresh.write(*content)) {
             *error = problemWith(target, errno);
             return false;
@@ -294,7 +307,7 @@ bool PresetStore::save(const QString &queue, const Preset &preset, PrintError *e
     }
     const QString path = fileOf(queue, preset.name, error);
     return !*error && change(
-                          path, m_files.mode,
+                          path,
                           [&](const QByteArray &content, PrintError *problem) {
                               return withPreset(content, queue, preset, problem);
                           },
@@ -326,7 +339,7 @@ bool PresetStore::rename(const QString &queue, const QString &from, const QStrin
         }
         return renamedPreset(content, queue, from, to);
     };
-    return !*error && change(path, m_files.mode, renamed, error);
+    return !*error && change(path, renamed, error);
 }
 
 bool PresetStore::remove(const QString &queue, const QString &name, PrintError *error) const
@@ -350,7 +363,7 @@ bool PresetStore::remove(const QString &queue, const QString &name, PrintError *
         return false;
     }
     return change(
-        path, m_files.mode,
+        path,
         [&](const QByteArray &content, PrintError *) -> std::optional<QByteArray> {
             return withoutPreset(content, queue, name);
         },

@@ -37,7 +37,7 @@ public:
         QString everybodys; // may be empty
         QString users;
         bool writesForEverybody = false; // new presets go there, as they do for root
-        unsigned mode = 0644;            // of a new file, as libcups has it
+        unsigned mode = 0644;            // of a new file, as libcups has it; the user's own less the umask
     };
     // As libcups finds them.
     static Files filesOfCups();
@@ -64,7 +64,7 @@ private:
     std::optional<QByteArray> contents(PrintError *error) const;
     // Makes new content of the old; nil with an error for a change that cannot be made.
     using Change = std::function<std::optional<QByteArray>(const QByteArray &content, PrintError *error)>;
-    static bool change(const QString &path, unsigned mode, const Change &change, PrintError *error);
+    bool change(const QString &path, const Change &change, PrintError *error) const;
     // The file that holds a preset; where a new one goes when none does.
     QString fileOf(const QString &queue, const QString &name, PrintError *error) const;
 

@@ -12,6 +12,8 @@ QString PrintError::code() const
         return QStringLiteral("none");
     case Kind::NoSuchPrinter:
         return QStringLiteral("no-such-printer");
+    case Kind::NoSuchPreset:
+        return QStringLiteral("no-such-preset");
     case Kind::NoPrinters:
         return QStringLiteral("no-printers");
     case Kind::ServerAway:

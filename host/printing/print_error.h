@@ -13,6 +13,7 @@ struct PrintError
     enum class Kind {
         None,
         NoSuchPrinter,
+        NoSuchPreset, // of a printer that is there
         NoPrinters,
         ServerAway,
         ConnectionLost,

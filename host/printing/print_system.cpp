@@ -5,12 +5,15 @@
 
 #include "host/printing/cups_handles.h"
 #include "host/printing/early_printer.h"
+#include "host/printing/file_name.h"
 #include "host/printing/ipp_query.h"
 #include "host/printing/job_submitter.h"
 #include "host/printing/preset_store.h"
 #include "host/printing/reasons.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace host {
 
@@ -33,7 +36,7 @@ Destination fromCups(const cups_dest_t *record)
 {
     Destination destination;
     destination.queue = QString::fromUtf8(record->name);
-    destination.instance = QString::fromUtf8(record->instance);
+    destination.instance = fileNameFromBytes(record->instance);
     destination.isDefault = record->is_default != 0;
     destination.info = optionOf(record, "printer-info");
     destination.location = optionOf(record, "printer-location");
@@ -57,6 +60,36 @@ void correctDefaults(const QueueFacts &facts, Destination *destination)
         if (listed != destination->options.end() && *listed == it.value())
             *listed = facts.defaults.value(it.key());
     }
+}
+
+// libcups makes a destination of any preset's name, and passes over a file that cannot be read.
+bool takePreset(Destination *destination, PrintError *error)
+{
+    destination->serverOptions = destination->options.keys();
+    const auto presets = PresetStore().list(destination->queue, error);
+    if (!presets && destination->instance.isEmpty()) {
+        destination->optionsProblem =
+            PrintSystemText::tr("Your own defaults for this printer are not used. %1").arg(error->message);
+        *error = {};
+        return true;
+    }
+    if (!presets)
+        return false;
+    const bool isThere = destination->instance.isEmpty() ||
+                         std::any_of(presets->begin(), presets->end(), [&](const Preset &preset) {
+                             return preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
+                         });
+    for (const Preset &preset : *presets) {
+        const bool isUsed =
+            preset.name.isEmpty() || preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
+        for (const QString &name : isUsed ? preset.options.keys() : QStringList()) // libcups minds no case
+            destination->serverOptions.removeIf(
+                [&name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
+    }
+    if (!isThere)
+        *error = {PrintError::Kind::NoSuchPreset, PrintSystemText::tr("“%1” has no preset called “%2”.")
+                                                      .arg(destination->queue, destination->instance)};
+    return isThere;
 }
 
 QByteArray uriOf(const Destination &destination)
@@ -209,7 +242,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     }
     ServerConnection::askNobody();
     const QByteArray queueBytes = queue.toUtf8();
-    const QByteArray instanceBytes = instance.toUtf8();
+    const QByteArray instanceBytes = fileNameToBytes(instance);
     http_t *handle = server.handle();
     const CupsDestinationPointer record(
         handle ? cupsGetNamedDest(handle, name.isEmpty() ? nullptr : queueBytes.constData(),
@@ -222,6 +255,9 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
             facts = queryQueue(&server, printerUriOfQueue(destination.queue), destination.queue, &ignored);
         destination.isOnNetwork = m_network.hasFound(destination.queue);
         correctDefaults(facts.value_or(QueueFacts()), &destination);
+        destination.queueDefaults = facts.value_or(QueueFacts()).defaults;
+        if (!takePreset(&destination, error))
+            return std::nullopt;
         if (!destination.opensDialog())
             return destination;
         *error = name.isEmpty() ? noDefault() : onlyOpensDialog(destination);

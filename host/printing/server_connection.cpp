@@ -29,13 +29,20 @@ bool isErrorStatus(http_status_t status)
     return status >= HTTP_STATUS_BAD_REQUEST;
 }
 
+// Whether a number is of one of the classes that statuses come in: success, and errors of either side.
+bool isIppStatus(int status)
+{
+    const int kind = status >> 8;
+    return kind == 0 || kind == 4 || kind == 5;
+}
+
 // The server's own words, where it has any that say more than a status.
-QString detailOf(ipp_t *answer, ipp_status_t status)
+QString detailOf(ipp_t *answer, int status)
 {
     ipp_attribute_t *message = answer ? ippFindAttribute(answer, "status-message", IPP_TAG_TEXT) : nullptr;
     const QString words = message ? QString::fromUtf8(ippGetString(message, 0, nullptr)) : QString();
     return words.isEmpty() || words.startsWith(QLatin1String("successful-ok"))
-               ? QString::fromUtf8(ippErrorString(status))
+               ? QString::fromUtf8(ippErrorString(static_cast<ipp_status_t>(status)))
                : words;
 }
 
@@ -222,7 +229,10 @@ const char *ServerConnection::nextPassword()
     const bool again = m_offeredLogin;
     if (again || !m_login->given) {
         const QString user = QString::fromUtf8(cupsUser());
-        m_login->given = m_login->prompt ? m_login->prompt({serverName(), user, again}) : std::nullopt;
+        const bool isInClear =
+            !httpIsEncrypted(m_http.get()) && !httpAddrLocalhost(httpGetAddress(m_http.get()));
+        m_login->given =
+            m_login->prompt ? m_login->prompt({serverName(), user, again, isInClear}) : std::nullopt;
         m_idle.restart(); // people take their time
     }
     if (!m_login->given)
@@ -343,10 +353,11 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
     } else if (reply->httpStatus == HTTP_STATUS_UNAUTHORIZED) {
         reply->httpStatus = authenticate(resource);
     }
-    if (reply->message && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
+    const int status = reply->message ? int(ippGetStatusCode(reply->message.get())) : -1;
+    if (isIppStatus(status) && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
         reply->fate = Reply::Fate::Answered;
         keepLogin();
-        reply->status = ippGetStatusCode(reply->message.get());
+        reply->status = status;
         return;
     }
     // A server that breaks down while it works on a request (5xx) may have done it.

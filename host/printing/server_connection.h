@@ -30,11 +30,11 @@ struct Reply
         Stopped   // from here, on purpose or because the document could not be read
     };
     Fate fate = Fate::NotSent;
-    bool wasSentWhole = false; // all of it was handed over: the server may have acted on it
-    bool wasGarbled = false;   // something came back
-    bool wasSilent = false;    // lost, because nothing moved for too long
-    bool wasGivenUp = false;   // lost, because nobody here wanted to wait any more
-    ipp_status_t status = IPP_STATUS_CUPS_INVALID;
+    bool wasSentWhole = false;            // all of it was handed over: the server may have acted on it
+    bool wasGarbled = false;              // something came back
+    bool wasSilent = false;               // lost, because nothing moved for too long
+    bool wasGivenUp = false;              // lost, because nobody here wanted to wait any more
+    int status = IPP_STATUS_CUPS_INVALID; // an ipp_status_t; a server may send any number
     http_status_t httpStatus = HTTP_STATUS_ERROR;
     IppPointer message; // when answered
 

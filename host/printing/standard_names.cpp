@@ -21,15 +21,20 @@ QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStrin
     if (name == QLatin1String("sides"))
         candidates = {QStringLiteral("one-sided"), QStringLiteral("two-sided-long-edge"),
                       QStringLiteral("two-sided-short-edge")};
+    const bool isColorMode = name == QLatin1String("print-color-mode");
+    if (isColorMode)
+        candidates = {QStringLiteral("monochrome")};
     for (const QString &candidate : candidates) {
-        const QMap<QString, QString> meant = ppd->standardChoices(name, candidate);
+        const QMap<QString, QString> meant = ppd->standardChoices(name, candidate, false);
         bool holds = !meant.isEmpty();
         for (auto it = meant.begin(); it != meant.end(); ++it)
             holds &= it.value() == ppd->markedChoice(it.key());
         if (holds)
             return candidate;
     }
-    return {};
+    // libcups marks nothing for the other mode.
+    const bool isColor = isColorMode && !ppd->standardChoices(name, candidates.first()).isEmpty();
+    return isColor ? QStringLiteral("color") : QString();
 }
 
 } // namespace host

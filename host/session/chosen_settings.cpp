@@ -30,11 +30,31 @@ bool isCollating(const QString &value)
     return value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false);
 }
 
+// The name in its usual spelling: job options and options of a PPD count in any case, and the page region is
+// the page size.
+QString usualName(const DialogSession &session, const QString &name)
+{
+    const QString lower = name.toLower();
+    const auto option = session.ppd() ? session.ppd()->option(name) : std::nullopt;
+    const QString size = QStringLiteral("PageSize");
+    if (session.ppd() && PpdDocument::optionsOfStandardName(lower) == QStringList(size))
+        return size;
+    if (option && !GeneralSettings::covers(lower))
+        return option->keyword;
+    const bool isStandard = session.ppd() && !PpdDocument::optionsOfStandardName(lower).isEmpty();
+    return isStandard || GeneralSettings::covers(lower) || PageLayoutSettings::covers(lower) ? lower : name;
+}
+
 // The options that a standard name such as "media" stands for.
 bool chooseStandardName(DialogSession *session, ChosenSetting setting, PrintError *error)
 {
+    if (const PrintError refusal = session->locks().refusal(session->ppd(), setting.key, setting.value)) {
+        *error = refusal;
+        return false;
+    }
     const QMap<QString, QString> choices = session->ppd()->standardChoices(setting.key, setting.value);
-    if (choices.isEmpty()) {
+    const bool isLeftToFilters = setting.key == QLatin1String("print-color-mode");
+    if (choices.isEmpty() && !isLeftToFilters) {
         *error = {PrintError::Kind::BadValue,
                   setting.isSecret
                       ? ChosenText::tr("%1 does not take this value.").arg(setting.key)
@@ -98,9 +118,11 @@ ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
     return setting;
 }
 
-bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error)
+bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
 {
     SettingKeys keys(session);
+    ChosenSetting setting = wanted;
+    setting.key = usualName(*session, wanted.key);
     if (setting.key == QLatin1String("multiple-document-handling") && isCollating(setting.value)) {
         session->general().collate = !setting.value.contains(QLatin1String("uncollated"));
         return true;
@@ -113,8 +135,10 @@ bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *er
     const bool standsForOptions = session->ppd() && session->ppd()->takesOption(setting.key);
     if (standsForOptions)
         return chooseStandardName(session, setting, error);
-    session->noteChosen(setting);
-    return true;
+    *error = session->locks().refusal(session->ppd(), setting.key, setting.value);
+    if (!*error)
+        session->noteChosen(setting);
+    return !*error;
 }
 
 } // namespace host

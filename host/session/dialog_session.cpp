@@ -34,8 +34,16 @@ QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &be
 
 DialogSession::DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd)
     : m_rule(Policy::current().ruleFor(destination.queue)), m_destination(destination), m_ppd(std::move(ppd)),
-      m_panels(m_ppd.get()), m_changes(&m_panels, m_ppd.get(), &m_printSettings)
+      m_locks(Policy::current(), destination.queue, m_ppd.get()),
+      m_host(m_destination, m_ppd ? m_ppd->record() : nullptr), m_panels(m_ppd.get()),
+      m_changes(&m_panels, m_ppd.get(), &m_host.settings())
 {
+    connect(&m_host, &PanelHost::changeAnnounced, this, &DialogSession::noteAnnounced);
+    connect(&m_host, &PanelHost::blockingBegan, this, &DialogSession::blockingBegan);
+    connect(&m_host, &PanelHost::blockingEnded, this, &DialogSession::blockingEnded);
+    connect(&m_host, &PanelHost::failed, this, [this](const QString &reason) {
+        addNotice(tr("A page of the printer's settings cannot be shown: %1").arg(reason));
+    });
     connect(&m_panels, &SessionPanels::keyChanged, this, &DialogSession::panelKeyChanged);
     connect(&m_panels, &SessionPanels::failed, this, &DialogSession::addNotice);
     connect(&m_panels, &SessionPanels::chosen, this, [this](const QString &key, const QString &value) {
@@ -43,14 +51,17 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
     });
     if (const QString problem = Policy::current().problem(); !problem.isNull())
         addNotice(problem);
+    if (!m_destination.optionsProblem.isNull())
+        addNotice(m_destination.optionsProblem);
+    leaveOutForbidden();
     m_rule.applyTo(&m_destination, m_ppd.get());
-    m_printSession.printer = platform::Printer{destination.name(), destination.deviceUri};
-    m_printSession.ppd = ppdFile();
-    if (m_ppd)
+    if (m_ppd) {
         m_notices += m_ppd->markOptions(m_destination.options);
+        m_locks.mark(m_ppd.get());
+    }
     for (auto it = m_destination.options.begin(); it != m_destination.options.end(); ++it) {
         if (isPanelSetting(it.key()))
-            m_printSettings.setValue(it.key(), it.value());
+            m_host.settings().setValue(it.key(), it.value());
     }
     m_startingGeneral = m_general = GeneralSettings::from(m_destination.options);
     tellUnknownDefaults();
@@ -65,17 +76,70 @@ void DialogSession::loadPanels(Extensions &extensions)
 {
     if (!m_ppd)
         return;
-    m_protection = extensions.protectionFor(m_ppd->modelName(), &m_notices);
+    Protection protection = extensions.protectionFor(m_ppd->modelName(), &m_notices);
     for (auto it = m_rule.locked.begin(); it != m_rule.locked.end(); ++it) // no way out gives it up
-        m_protection.choices[it.key()].append(it.value());
-    adoptPanels(extensions.panelsFor(m_ppd->modelName(), this, &m_notices));
+        protection.choices[it.key()].append(it.value());
+    setProtection(protection);
+    adoptPanels(extensions.panelsFor(m_ppd->modelName(), &m_host, &m_notices));
+}
+
+void DialogSession::setProtection(const Protection &protection)
+{
+    m_protection = protection;
+    m_secrets.reset();
 }
 
 bool DialogSession::isSecret(const QString &key) const
 {
-    const auto option = m_ppd ? m_ppd->option(key) : std::nullopt;
-    return m_protection.secretOf(option ? option->keyword : key) ||
-           (option && option->custom && option->custom->isSecret());
+    if (!m_secrets)
+        m_secrets.emplace(m_ppd.get(), m_protection);
+    return m_secrets->contains(key);
+}
+
+// The user's own defaults and presets that go against the policy are told. What becomes marks stays among the
+// options, for the job contradicts there what the server would add.
+void DialogSession::leaveOutForbidden()
+{
+    const QMap<QString, QString> all = m_destination.options;
+    for (auto it = all.begin(); m_ppd && it != all.end(); ++it) {
+        const bool isGiven =
+            m_destination.serverOptions.contains(it.key()) || m_rule.defaults.value(it.key()) == it.value();
+        const PrintError refusal =
+            isGiven ? PrintError() : m_locks.refusal(m_ppd.get(), it.key(), it.value());
+        if (!refusal)
+            continue;
+        tellForbidden(refusal);
+        if (!m_ppd->takesOption(it.key()))
+            m_destination.options.remove(it.key());
+    }
+}
+
+void DialogSession::tellForbidden(const PrintError &refusal)
+{
+    if (!m_brokenLock)
+        m_brokenLock = refusal;
+    if (!m_notices.contains(refusal.message))
+        addNotice(refusal.message);
+}
+
+// A page where nothing can be changed stands as the printer's defaults and the policy have it.
+void DialogSession::lockPages()
+{
+    for (int i = 0; i < m_panels.count(); ++i) {
+        for (const QString &keyword : isPanelLocked(i) ? panelKeywords(i) : QStringList()) {
+            const auto option = m_ppd->option(keyword);
+            if (!option)
+                continue;
+            const QString begins = m_rule.defaults.value(keyword);
+            m_locks.addFromPage(keyword, option->hasChoice(begins) ? begins : option->defaultChoice);
+        }
+    }
+    leaveOutForbidden();
+    m_locks.mark(m_ppd.get());
+    for (const QString &name : m_host.settings().values().keys()) {
+        if (!m_destination.options.contains(name))
+            m_host.settings().setValue(name, {});
+    }
 }
 
 // A choice that the PPD does not have is not marked, and a filter would take its own default for it.
@@ -84,14 +148,12 @@ void DialogSession::tellUnknownDefaults()
     QStringList unknown;
     for (auto it = m_destination.options.begin(); m_ppd && it != m_destination.options.end(); ++it) {
         const auto option = m_ppd->option(it.key());
+        if (looksLikeOptionOfAPpd(it.key()) && !m_ppd->takesOption(it.key()) &&
+            !m_destination.serverOptions.contains(it.key()))
+            unknown.append(it.key());
         if (!option || option->choices.isEmpty() || GeneralSettings::covers(it.key()))
             continue;
-        const QString &value = it.value();
-        const bool isKnown =
-            std::any_of(option->choices.begin(), option->choices.end(), [&](const auto &choice) {
-                return choice.keyword.compare(value, Qt::CaseInsensitive) == 0;
-            });
-        if (!isKnown && !isCustomChoice(value))
+        if (!option->hasChoice(option->spelled(it.value())) && !isCustomChoice(it.value()))
             unknown.append(option->text);
     }
     if (!unknown.isEmpty())
@@ -99,14 +161,11 @@ void DialogSession::tellUnknownDefaults()
                       .arg(unknown.join(QStringLiteral(", "))));
 }
 
-void DialogSession::panelFailed(const QString &, const QString &reason)
-{
-    addNotice(tr("A page of the printer's settings cannot be shown: %1").arg(reason));
-}
-
 void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
 {
     m_panels.adopt(std::move(panels));
+    if (m_ppd)
+        lockPages();
     settle();
 }
 
@@ -155,9 +214,9 @@ void DialogSession::save()
 
 void DialogSession::savePanel(int index)
 {
-    const QVariantMap before = m_printSettings.values();
+    const QVariantMap before = m_host.settings().values();
     m_panels.save(index);
-    const QString dropped = droppedSettings(*panel(index), before, m_printSettings);
+    const QString dropped = droppedSettings(*panel(index), before, m_host.settings());
     if (!dropped.isNull())
         addNotice(dropped);
 }
@@ -178,7 +237,7 @@ QStringList DialogSession::otherKeywords() const
 
 bool DialogSession::markChoice(const QString &keyword, const QString &choice, bool isSecret)
 {
-    const QString locked = m_rule.lockedChoice(m_ppd.get(), keyword);
+    const QString locked = m_locks.choice(keyword);
     const int owner = panelOfKeyword(keyword);
     const bool isFixed = (!locked.isNull() && locked != choice) || (owner >= 0 && isPanelLocked(owner));
     if (!m_ppd || isFixed || !m_ppd->mark(keyword, choice))
@@ -215,17 +274,34 @@ std::optional<Resolution> DialogSession::proposal(QString *givenUp) const
 
 QString DialogSession::protectionGap() const
 {
-    return m_ppd ? host::protectionGap(*m_ppd, m_protection, m_chosen) : QString();
+    return m_ppd ? host::protectionGap(*m_ppd, m_protection, m_chosen, m_destination) : QString();
+}
+
+const Protection::Secret *DialogSession::missingCode() const
+{
+    return m_ppd ? host::missingCode(*m_ppd, m_protection, m_chosen, m_destination) : nullptr;
+}
+
+bool DialogSession::lacksProtection() const
+{
+    return m_ppd && !lackingProtection(*m_ppd, m_protection, m_chosen, m_destination).isEmpty();
 }
 
 void DialogSession::apply(const Resolution &resolution)
 {
-    for (const OptionChoice &change : resolution) {
+    Resolution allowed = resolution;
+    allowed.removeIf([this](const OptionChoice &change) {
+        const PrintError refusal = m_locks.refusal(m_ppd.get(), change.option, change.choice);
+        if (refusal && !m_notices.contains(refusal.message))
+            addNotice(refusal.message);
+        return static_cast<bool>(refusal);
+    });
+    for (const OptionChoice &change : std::as_const(allowed)) {
         m_ppd->mark(change.option, change.choice);
         m_savedKeywords.insert(change.option);
         noteChosen({change.option, change.choice});
     }
-    for (const OptionChoice &change : resolution)
+    for (const OptionChoice &change : std::as_const(allowed))
         m_panels.set(change.option, change.choice);
     save();
     Q_EMIT changed();
@@ -236,9 +312,8 @@ QStringList DialogSession::takeNotices()
     return std::exchange(m_notices, {});
 }
 
-void DialogSession::willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice)
+void DialogSession::noteAnnounced(const QString &keyword)
 {
-    Q_UNUSED(choice) // what really happens to the option is looked at when the call is over
     m_changes.announce(keyword);
     if (!m_panels.isBusy())
         settleLater();
@@ -260,24 +335,18 @@ void DialogSession::settleLater()
 void DialogSession::settle()
 {
     m_settleQueued = false;
-    const PanelChanges::Outcome outcome = m_changes.settle();
+    PanelChanges::Outcome outcome = m_changes.settle();
     for (const QString &keyword : outcome.saved)
         m_savedKeywords.insert(keyword);
     for (const ChosenSetting &setting : outcome.chosen) {
         m_lastUserKeyword = setting.key;
         noteChosen(setting);
     }
+    for (UnaskedChange &unasked : outcome.unasked) {
+        if (isSecret(unasked.change.option))
+            unasked.change.choiceText = hiddenValue();
+    }
     m_notices += changeNotices(outcome.unasked);
-}
-
-void DialogSession::willBlock(const QString &what)
-{
-    Q_EMIT blockingBegan(what);
-}
-
-void DialogSession::didBlock()
-{
-    Q_EMIT blockingEnded();
 }
 
 QList<SummarySection> DialogSession::summary()
@@ -300,7 +369,7 @@ QList<SummarySection> DialogSession::summary()
 QList<JobOption> DialogSession::jobOptions() const
 {
     return host::jobOptions(
-        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_printSettings.values(), m_general});
+        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_host.settings().values(), m_general});
 }
 
 } // namespace host

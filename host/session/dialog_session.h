@@ -4,21 +4,24 @@
 #pragma once
 
 #include "host/extensions/protection.h"
+#include "host/policy/locks.h"
 #include "host/policy/policy.h"
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
 #include "host/session/chosen_settings.h"
 #include "host/session/general_settings.h"
 #include "host/session/panel_changes.h"
+#include "host/session/panel_host.h"
+#include "host/session/secret_settings.h"
 #include "host/session/session_panels.h"
 #include "host/session/summary_section.h"
 #include "platform/print_dialog.h"
-#include "platform/printing_manager.h"
 
 #include <QObject>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 namespace host {
 
@@ -27,11 +30,7 @@ class Extensions;
 // One dialog for one printer: its PPD, the job's settings and the plug-in's panels, and their host. Works
 // without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown;
 // only restored panels are saved. Owns everything it hands out.
-class DialogSession : public QObject,
-                      public platform::PrintDialogHost,
-                      public platform::ConstraintResolvingHost,
-                      public platform::BlockingWorkHost,
-                      public platform::PanelProblemHost
+class DialogSession : public QObject
 {
     Q_OBJECT
 public:
@@ -43,12 +42,16 @@ public:
     void loadPanels(Extensions &extensions);
     void adoptPanels(platform::PrintDialogPanels panels);
     const Protection &protection() const { return m_protection; }
-    void setProtection(const Protection &protection) { m_protection = protection; }
+    void setProtection(const Protection &protection);
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }
     // What the administrator has laid down for this printer.
     const Policy::Rule &rule() const { return m_rule; }
+    // What is fixed there. No setter of this class goes against it.
+    const Locks &locks() const { return m_locks; }
+    // What of the user's own defaults or of the preset was left out for it; no error when nothing was.
+    const PrintError &brokenLock() const { return m_brokenLock; }
     bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
@@ -59,7 +62,8 @@ public:
     bool isRestored(int index) const { return m_panels.at(index).restored; }
     // The panel that handles a PPD option, or -1.
     int panelOfKeyword(const QString &keyword) const { return m_panels.ofKeyword(keyword); }
-    // Whether an option or a panel's key holds a code, which nobody but its user may see.
+    // Whether the value of an option, a panel's key or a job option is a password or a code. It is then
+    // neither shown nor stored, nor told to another program.
     bool isSecret(const QString &key) const;
     // The panel that answers a key or key path beside the PPD options, or -1.
     int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
@@ -91,19 +95,19 @@ public:
     // What is missing for the protection that has been chosen, in words: a code without private printing, or
     // the reverse. Nil when nothing is.
     QString protectionGap() const;
+    // The code that is missing for a choice, as a password is for private printing; null when none is.
+    const Protection::Secret *missingCode() const;
+    // Whether the settings that the session began with protect the user in a way that the printer lacks.
+    bool lacksProtection() const;
 
     // Panels that have not been restored are first told how their options stand.
     QList<SummarySection> summary();
     // What is sent with the job; see host/session/job_options.h.
     QList<JobOption> jobOptions() const;
 
-    PMPrintSettings printSettings() override { return &m_printSettings; }
-    PMPrintSession printSession() override { return &m_printSession; }
-    ppd_file_s *ppdFile() override { return m_ppd ? m_ppd->record() : nullptr; }
-    void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) override;
-    void willBlock(const QString &what) override;
-    void didBlock() override;
-    void panelFailed(const QString &className, const QString &reason) override;
+    // The job's settings beside the PPD, and what panels know of the session.
+    const platform::PrintSettings &printSettings() const { return m_host.settings(); }
+    PanelHost *panelHost() { return &m_host; }
 
 Q_SIGNALS:
     // New notices can be taken, or choices have changed behind a shown pane.
@@ -117,7 +121,11 @@ private:
 
     void panelKeyChanged(int panel, const QString &key);
     void keepLocked(int panel, const QString &key);
+    void leaveOutForbidden();
+    void tellForbidden(const PrintError &refusal);
+    void lockPages();
     void savePanel(int index);
+    void noteAnnounced(const QString &keyword);
     // Works through the changes that panels have announced, once their calls have returned.
     void settle();
     void settleLater();
@@ -126,11 +134,13 @@ private:
     Policy::Rule m_rule;
     Destination m_destination;
     std::unique_ptr<PpdDocument> m_ppd;
-    platform::PrintSettings m_printSettings;
-    platform::PrintSession m_printSession;
+    Locks m_locks;
+    PrintError m_brokenLock;
+    PanelHost m_host;
     GeneralSettings m_general;
     GeneralSettings m_startingGeneral;
     Protection m_protection;
+    mutable std::optional<SecretSettings> m_secrets; // found out when first asked for
     ChosenSettings m_chosen;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;

@@ -17,6 +17,7 @@ namespace {
 using Kind = JobOption::Kind;
 
 const QString pageRangesName = QStringLiteral("page-ranges");
+const QString colorModeName = QStringLiteral("print-color-mode");
 const QString allPages = QStringLiteral("1-2147483647"); // what the print system takes for "1-"
 
 // What libcups reports about a printer among a destination's options.
@@ -59,7 +60,8 @@ QList<JobOption> passedOn(const JobOptionSources &sources)
 {
     QList<JobOption> options;
     for (const ChosenSetting &setting : sources.chosen.inOrder()) {
-        const bool isMarked = sources.ppd && sources.ppd->takesOption(setting.key);
+        const bool isMarked = sources.ppd && sources.ppd->takesOption(setting.key) &&
+                              !(setting.key == colorModeName && setting.options.isEmpty());
         if (setting.kind == ChosenSetting::Kind::JobOption && !isMarked)
             options.append({setting.key, setting.value, Kind::Attribute});
     }
@@ -94,6 +96,14 @@ bool isDecided(const JobOptionSources &sources, const QString &name)
                        [&](const QString &keyword) { return sources.chosen.contains(keyword); });
 }
 
+// Whether the server would add the name with another meaning than the user's default has.
+bool serverSaysOtherwise(const JobOptionSources &sources, const QString &name,
+                         const QMap<QString, QString> &choices)
+{
+    const QMap<QString, QString> &servers = sources.destination.queueDefaults;
+    return servers.contains(name) && sources.ppd->standardChoices(name, servers.value(name)) != choices;
+}
+
 // A default of the queue or the user under a standard name. The server adds those of the queue to each job
 // that lacks the name, whatever is sent under the keyword of the PPD, and the filters would see both.
 JobOption standardDefault(const JobOptionSources &sources, const QString &name, const QString &value)
@@ -107,7 +117,9 @@ JobOption standardDefault(const JobOptionSources &sources, const QString &name, 
     const QString now =
         holds ? value
               : standardValueOfMarks(sources.ppd, name, choices.isEmpty() ? QStringList() : choices.keys());
-    return {name, now, holds || now.isEmpty() ? Kind::Shown : Kind::Attribute};
+    return {name, now,
+            now.isEmpty() || (holds && !serverSaysOtherwise(sources, name, choices)) ? Kind::Shown
+                                                                                     : Kind::Attribute};
 }
 
 QList<JobOption> defaults(const JobOptionSources &sources)
@@ -133,6 +145,12 @@ QList<JobOption> defaults(const JobOptionSources &sources)
 bool isPanelSetting(const QString &name)
 {
     return name.contains(QLatin1Char('.'));
+}
+
+bool looksLikeOptionOfAPpd(const QString &name)
+{
+    return !name.isEmpty() && name.front().isUpper() && !GeneralSettings::covers(name.toLower()) &&
+           !isPanelSetting(name) && PpdDocument::optionsOfStandardName(name).isEmpty();
 }
 
 QList<JobOption> jobOptions(const JobOptionSources &sources)

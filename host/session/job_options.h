@@ -30,6 +30,9 @@ struct JobOptionSources
 // Settings of panels bear names in reverse domain order.
 bool isPanelSetting(const QString &name);
 
+// Whether a name that a PPD does not have is one of other PPDs: the print system's own are in small letters.
+bool looksLikeOptionOfAPpd(const QString &name);
+
 // What is sent with the job, one option a name. Of several that would bear a name, the user's word comes
 // first, then the marks of the PPD and what panels have set, then the user's defaults for the printer.
 // Choices are sent that somebody has made or that are not the PPD's default; with them the standard name that

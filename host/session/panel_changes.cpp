@@ -6,6 +6,9 @@
 #include "host/session/session_panels.h"
 #include "platform/key_value_object.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace host {
 
 void PanelChanges::noteSetting(int panel, const QString &key)
@@ -36,9 +39,13 @@ OptionChoice PanelChanges::causeBesides(int owner) const
 
 void PanelChanges::announce(const QString &keyword)
 {
+    if (std::any_of(m_announced.begin(), m_announced.end(),
+                    [&](const Announced &known) { return known.keyword == keyword; }))
+        return;
     const int owner = m_panels->ofKeyword(keyword);
     const bool byUser = m_panels->saving() >= 0 && owner == m_panels->saving();
-    m_ledger.announce(keyword, currentValue(keyword), byUser, byUser ? OptionChoice() : causeBesides(owner));
+    m_announced.append(
+        {keyword, currentValue(keyword), byUser, byUser ? OptionChoice() : causeBesides(owner)});
 }
 
 QVariant PanelChanges::currentValue(const QString &keyword) const
@@ -63,7 +70,7 @@ void PanelChanges::putBack(const QString &keyword, const QVariant &value)
 PanelChanges::Outcome PanelChanges::settle()
 {
     Outcome outcome;
-    for (const ChangeLedger::Entry &entry : m_ledger.take()) {
+    for (const Announced &entry : std::exchange(m_announced, {})) {
         const int owner = m_panels->ofKeyword(entry.keyword);
         const SessionPanel *panel = owner < 0 ? nullptr : &m_panels->at(owner);
         if (panel && !panel->restored && !panel->touched.contains(entry.keyword)) {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "host/session/change_ledger.h"
+#include "host/session/change_notices.h"
 #include "host/session/chosen_settings.h"
 #include "platform/printing_manager.h"
 
@@ -46,6 +46,13 @@ public:
     Outcome settle();
 
 private:
+    struct Announced
+    {
+        QString keyword;
+        QVariant before;         // its value when it was announced first
+        bool byUser = true;      // false when no save of the user's panel asked for it
+        OptionChoice cause = {}; // what was chosen elsewhere just before; empty when nothing was
+    };
     QVariant currentValue(const QString &keyword) const;
     void putBack(const QString &keyword, const QVariant &value);
     OptionChoice causeBesides(int owner) const;
@@ -53,7 +60,7 @@ private:
     const SessionPanels *m_panels;
     PpdDocument *m_ppd;
     platform::PrintSettings *m_settings;
-    ChangeLedger m_ledger;
+    QList<Announced> m_announced;                 // each keyword once
     QMap<int, std::pair<int, QString>> m_justSet; // by panel: how many came before it, and the option
     int m_settingCount = 0;
 };

@@ -59,7 +59,7 @@ QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &o
         now.insert(keyword, ppd->markedChoice(keyword));
         ppd->mark(keyword, ppd->defaultChoice(keyword));
     }
-    *problems = ppd->markOptions(options);
+    problems->append(ppd->markOptions(options));
     for (auto it = now.begin(); it != now.end(); ++it)
         marks.insert(it.key(), ppd->markedChoice(it.key()));
     for (int round = 0; round < 2; ++round) { // one mark may take another away, as a size of a tray does
@@ -81,10 +81,7 @@ bool isTaken(const DialogSession &session, const QString &name, const QString &v
 {
     const auto option = session.ppd() ? session.ppd()->option(name) : std::nullopt;
     return !option || option->choices.isEmpty() || GeneralSettings::covers(name) ||
-           std::any_of(
-               option->choices.begin(), option->choices.end(),
-               [&](const auto &choice) { return choice.keyword.compare(value, Qt::CaseInsensitive) == 0; }) ||
-           (option->custom && option->hasChoice(value));
+           option->hasChoice(option->spelled(value));
 }
 
 ChosenSetting chosenFrom(const DialogSession &session, const QString &name, const QString &value)
@@ -95,6 +92,21 @@ ChosenSetting chosenFrom(const DialogSession &session, const QString &name, cons
         setting.options = session.ppd()->standardChoices(name, value).keys();
     setting.isSecret = session.isSecret(name);
     return inWords(session, setting);
+}
+
+// What the policy allows of a preset; the rest is told.
+QMap<QString, QString> withoutForbidden(const DialogSession *session, const QMap<QString, QString> &preset,
+                                        QStringList *notices)
+{
+    QMap<QString, QString> allowed;
+    for (auto it = preset.begin(); it != preset.end(); ++it) {
+        const PrintError refusal = session->locks().refusal(session->ppd(), it.key(), it.value());
+        if (!refusal)
+            allowed.insert(it.key(), it.value());
+        else if (!notices->contains(refusal.message))
+            notices->append(refusal.message);
+    }
+    return allowed;
 }
 
 } // namespace
@@ -128,9 +140,10 @@ bool hasSecrets(const DialogSession &session)
 }
 
 SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
-                             const QMap<QString, QString> &preset, QStringList *notices)
+                             const QMap<QString, QString> &given, QStringList *notices)
 {
-    const QMap<QString, QString> locked = session->rule().lockedChoices(session->ppd());
+    const QMap<QString, QString> &locked = session->locks().choices();
+    const QMap<QString, QString> preset = withoutForbidden(session, given, notices);
     const SessionState now = StateKeeper::stateOf(*session);
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
@@ -139,6 +152,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     QStringList missed;
     if (session->ppd())
         wanted.marks = marksOf(session->ppd(), all, notices);
+    wanted.marks.insert(locked);
     wanted.printSettings.clear();
     wanted.chosen = {};
     wanted.savedKeywords.clear();
@@ -149,6 +163,9 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     wanted.general.takePart(now.general);
     for (auto it = all.begin(); it != all.end(); ++it) {
         const bool isUsers = preset.contains(it.key()) || locked.contains(it.key());
+        if (preset.contains(it.key()) && session->ppd() && !session->ppd()->takesOption(it.key()) &&
+            looksLikeOptionOfAPpd(it.key()))
+            missed.append(it.key());
         if (isPanelSetting(it.key()))
             wanted.printSettings.insert(it.key(), it.value());
         else if (isUsers && !isTaken(*session, it.key(), it.value()))

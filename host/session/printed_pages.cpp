@@ -50,6 +50,9 @@ PageSettings pageSettings(const DialogSession &session)
         if (isKnown && option.kind != JobOption::Kind::Shown)
             settings.options.append({option.name, option.value});
     }
+    // The filters begin with an empty side then, where the number of sides is odd.
+    if (session.general().layout.isReversed && isTwoSided(session))
+        settings.options.append({QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")});
     settings.isMonochrome = isMonochrome(session, options);
     const QString choice = session.ppd() ? session.ppd()->markedChoice(pageSize) : QString();
     if (!choice.isEmpty())

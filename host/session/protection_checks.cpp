@@ -3,6 +3,7 @@
 
 #include "host/session/protection_checks.h"
 
+#include "host/printing/destination.h"
 #include "host/session/chosen_settings.h"
 
 #include <QCoreApplication>
@@ -29,12 +30,26 @@ QString givenUpBy(const Resolution &resolution, const PpdDocument &ppd, const Pr
     return {};
 }
 
-// Whether one of the options has another choice than the printer's default.
-bool isStored(const PpdDocument &ppd, const QStringList &options)
+// Whether a digit is there: chosen, or among the settings that the dialog began with.
+bool isGiven(const QString &option, const PpdDocument &ppd, const ChosenSettings &chosen,
+             const Destination &destination)
 {
-    return std::any_of(options.begin(), options.end(), [&](const QString &option) {
-        return ppd.markedChoice(option) != ppd.defaultChoice(option);
-    });
+    const QStringList stored = destination.options.keys();
+    return chosen.contains(option) || ppd.markedChoice(option) != ppd.defaultChoice(option) ||
+           stored.contains(option, Qt::CaseInsensitive);
+}
+
+// All digits are, and they are not only those that the printer takes for none. Half a code is no code.
+bool isCodeGiven(const Protection::Secret &secret, const PpdDocument &ppd, const ChosenSettings &chosen,
+                 const Destination &destination)
+{
+    const auto &options = secret.options;
+    return chosen.contains(secret.key) ||
+           (std::all_of(options.begin(), options.end(),
+                        [&](const QString &option) { return isGiven(option, ppd, chosen, destination); }) &&
+            std::any_of(options.begin(), options.end(), [&](const QString &option) {
+                return ppd.markedChoice(option) != ppd.defaultChoice(option);
+            }));
 }
 
 bool isChosen(const ChosenSettings &chosen, const Protection::Secret &secret)
@@ -75,20 +90,45 @@ QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection 
     return atRisk;
 }
 
-QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen)
+const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
+                                      const ChosenSettings &chosen, const Destination &destination)
 {
     for (const Protection::Secret &secret : protection.secrets) {
+        const bool isUsed = ppd.hasOption(secret.option) && ppd.markedChoice(secret.option) == secret.choice;
+        if (isUsed && !isCodeGiven(secret, ppd, chosen, destination))
+            return &secret;
+    }
+    return nullptr;
+}
+
+QString lackingProtection(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
+                          const Destination &destination)
+{
+    for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
+        const auto option = ppd.option(it.key());
+        if (protection.protects(it.key(), it.value()) && !(option && option->hasChoice(it.value())) &&
+            !chosen.contains(it.key()))
+            return ppd.described(it.key(), it.value()).text();
+    }
+    return {};
+}
+
+QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
+                      const Destination &destination)
+{
+    if (const QString lacking = lackingProtection(ppd, protection, chosen, destination); !lacking.isEmpty())
+        return ProtectionText::tr("This printer does not have “%1”: the job will not be protected.")
+            .arg(lacking);
+    if (const Protection::Secret *missing = missingCode(ppd, protection, chosen, destination))
+        return ProtectionText::tr("“%1” has been chosen, but no code has been given for it.")
+            .arg(ppd.described(missing->option, missing->choice).text());
+    for (const Protection::Secret &secret : protection.secrets) {
         const auto option = ppd.option(secret.option);
-        if (!protection.protects(secret.option, secret.choice) || !option ||
-            !option->hasChoice(secret.choice))
-            continue;
-        const bool isUsed = ppd.markedChoice(secret.option) == secret.choice;
-        const QString use = ppd.described(secret.option, secret.choice).text();
-        if (isUsed && !isChosen(chosen, secret) && !isStored(ppd, secret.options))
-            return ProtectionText::tr("“%1” has been chosen, but no code has been given for it.").arg(use);
-        if (!isUsed && isChosen(chosen, secret))
+        const bool isUsed = !option || option->markedChoice == secret.choice;
+        if (!isUsed && protection.protects(secret.option, secret.choice) &&
+            option->hasChoice(secret.choice) && isChosen(chosen, secret))
             return ProtectionText::tr("A code has been given, but not “%1”: the job is not protected.")
-                .arg(use);
+                .arg(ppd.described(secret.option, secret.choice).text());
     }
     return {};
 }

@@ -11,6 +11,7 @@
 namespace host {
 
 class ChosenSettings;
+struct Destination;
 
 // A way out of the conflicts that gives up nothing that protects, with `keep` as it is where that is
 // possible. Nil where there is none; where there are ways that do give up something, `givenUp` (may be null)
@@ -21,8 +22,19 @@ std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Pro
 // The choices of conflicts that protect the user, in words: a printer may give up either side.
 QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection);
 
-// What is missing for the protection that has been chosen, in words: private printing without a code, or a
-// code without private printing. Nil when nothing is.
-QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen);
+// The code that is missing for a choice that has been made: the password of private printing, or the
+// department code that is switched on. A code is there when all its digits have been chosen or stand in the
+// settings of `destination`. Null when none is missing; points into `protection`.
+const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
+                                      const ChosenSettings &chosen, const Destination &destination);
+// What protects in the settings of `destination`, such as a preset with private printing, and is not there in
+// the PPD; empty when nothing is.
+QString lackingProtection(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
+                          const Destination &destination);
+// What is missing for the protection that has been chosen, in words: all of it, a code, or the choice that
+// uses a code.
+// Nil when nothing is.
+QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
+                      const Destination &destination);
 
 } // namespace host

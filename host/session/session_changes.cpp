@@ -23,8 +23,11 @@ int panelInKey(const QString &key)
 SettingChange markChange(const DialogSession &session, const QString &key, const SessionState &before,
                          const SessionState &after)
 {
-    if (session.isSecret(key))
-        return {key, inWords(session, {key, {}}).text, {}, {}};
+    if (session.isSecret(key)) {
+        ChosenSetting secret{key, {}};
+        secret.isSecret = true;
+        return {key, inWords(session, secret).text, {}, {}};
+    }
     const OptionChoice then = session.ppd()->described(key, before.marks.value(key));
     const OptionChoice now = session.ppd()->described(key, after.marks.value(key));
     return {key, now.optionText, then.choiceText, now.choiceText};

@@ -4,7 +4,7 @@
 #include "host/session/session_panels.h"
 
 #include "host/printing/ppd_document.h"
-#include "host/session/change_ledger.h"
+#include "host/session/change_notices.h"
 #include "host/session/panel_values.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
@@ -20,19 +20,6 @@ namespace {
 
 // Panels declare the PPD options that they handle under this key.
 const QString supportedKeywordsKey = QStringLiteral("supportedPPDOptionKeys");
-
-// Nests; for calls into panels.
-class Busy
-{
-public:
-    explicit Busy(int *depth) : m_depth(depth) { ++*m_depth; }
-    ~Busy() { --*m_depth; }
-    Busy(const Busy &) = delete;
-    Busy &operator=(const Busy &) = delete;
-
-private:
-    int *m_depth;
-};
 
 QStringList keywordsOf(platform::PrintDialogPanel *panel)
 {
@@ -105,7 +92,7 @@ void SessionPanels::announceChoices(int index)
 void SessionPanels::restore(int index)
 {
     SessionPanel &panel = own(index);
-    const Busy busy(&m_busy);
+    const QScopedValueRollback<int> busy(m_busy, m_busy + 1);
     const QScopedValueRollback<const SessionPanel *> restoring(m_restoring, &panel);
     panel.restored = true; // also when it fails: a second attempt would ask a device that is away again
     const QString failure = tr("“%1” could not be prepared: %2");
@@ -121,7 +108,7 @@ void SessionPanels::restore(int index)
 
 void SessionPanels::save(int index)
 {
-    const Busy busy(&m_busy);
+    const QScopedValueRollback<int> busy(m_busy, m_busy + 1);
     platform::PrintDialogPanel *panel = at(index).panel.get();
     m_saving = index;
     const QString failure = tr("The settings of “%1” could not be saved: %2");
@@ -159,7 +146,7 @@ void SessionPanels::set(const QString &keyword, const QString &choice)
 
 void SessionPanels::setOn(int index, const QString &keyword, const QString &choice)
 {
-    const Busy busy(&m_busy);
+    const QScopedValueRollback<int> busy(m_busy, m_busy + 1);
     try {
         objectOf(index)->setValueForKey(choice, keyword);
     } catch (const platform::Exception &exception) {

@@ -126,7 +126,7 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
                                          object->valueForKeyPath(key));
         }
     }
-    state.printSettings = session.m_printSettings.values();
+    state.printSettings = session.m_host.settings().values();
     state.general = session.general();
     state.chosen = session.chosen();
     state.savedKeywords = session.m_savedKeywords;
@@ -144,7 +144,8 @@ bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
     bool isThere = true;
     for (auto it = to.marks.begin(); it != to.marks.end(); ++it) {
         const bool differs = from.marks.value(it.key()) != it.value() && !it.value().isEmpty();
-        if (!differs ||
+        const QString locked = m_session->locks().choice(it.key());
+        if (!differs || (!locked.isNull() && locked != it.value()) ||
             (now.marks.value(it.key()) == it.value() && ppd->markedChoice(it.key()) == it.value()))
             continue;
         isThere = false;
@@ -170,7 +171,7 @@ bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
 // What a device's settings are stands in the print settings alone until a panel has read it.
 bool StateKeeper::bringPrintSettings(const SessionState &from, const SessionState &to)
 {
-    platform::PrintSettings &settings = m_session->m_printSettings;
+    platform::PrintSettings &settings = m_session->m_host.settings();
     bool isChanged = false;
     const QStringList all = from.printSettings.keys() + to.printSettings.keys();
     for (const QString &key : QSet<QString>(all.begin(), all.end())) {

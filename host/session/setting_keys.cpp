@@ -112,26 +112,11 @@ PrintError SettingKeys::noSuchChoice(const PpdOption &option, const QString &cho
         SettingText::tr("%1 has no choice “%2”; it has %3.").arg(option.keyword, choice, choices));
 }
 
-// Words for what the policy has fixed; no error where it has fixed nothing, or the same.
-PrintError SettingKeys::lockOn(const QString &keyword, const QString &choice) const
-{
-    const QString locked = m_session->rule().lockedChoice(m_session->ppd(), keyword);
-    if (locked.isNull() || locked == choice)
-        return {};
-    const OptionChoice kept = m_session->ppd()->described(keyword, locked);
-    return {PrintError::Kind::NotAuthorised,
-            SettingText::tr("“%1” has to be “%2”. %3")
-                .arg(kept.optionText, kept.choiceText, Policy::current().attribution())};
-}
-
 bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintError *error)
 {
     const auto option = m_session->ppd()->option(keyword);
-    const auto known =
-        std::find_if(option->choices.begin(), option->choices.end(), [&](const PpdOption::Choice &c) {
-            return c.keyword.compare(value, Qt::CaseInsensitive) == 0;
-        });
-    const bool isKnown = known != option->choices.end();
+    const QString choice = option->spelled(value);
+    const bool isKnown = option->hasChoice(choice) && !(option->custom && isCustomChoice(choice));
     QString problem;
     if (!isKnown && isCustomChoice(value) && option->custom) {
         if (!option->custom->read(value, option->keyword, &problem)) {
@@ -142,12 +127,13 @@ bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintE
         *error = noSuchChoice(*option, value);
         return false;
     }
-    const QString choice = isKnown ? known->keyword : value;
-    if (const PrintError locked = lockOn(option->keyword, choice)) {
+    const int panel = m_session->panelOfKeyword(option->keyword);
+    const bool isOnFreePage = panel < 0 || !m_session->isPanelLocked(panel);
+    const PrintError locked = m_session->locks().refusal(m_session->ppd(), option->keyword, choice);
+    if (isOnFreePage && locked) {
         *error = locked;
         return false;
     }
-    const int panel = m_session->panelOfKeyword(option->keyword);
     if (panel >= 0)
         return setOnPanel(panel, option->keyword, choice, error);
     if (m_session->markChoice(option->keyword, choice, m_valueIsSecret))

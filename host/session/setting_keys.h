@@ -39,7 +39,6 @@ private:
     bool setOption(const QString &keyword, const QString &value, PrintError *error);
     bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
     // "A has no choice “B”; it has C.", without B where that may be a code.
-    PrintError lockOn(const QString &keyword, const QString &choice) const;
     PrintError noSuchChoice(const PpdOption &option, const QString &choice) const;
 
     DialogSession *m_session;

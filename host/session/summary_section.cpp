@@ -60,8 +60,9 @@ SummarySection generalSummary(const DialogSession &session)
         return section;
     for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {
         const OptionChoice choice = session.ppd()->described(keyword, session.ppd()->markedChoice(keyword));
+        const bool isHidden = session.isSecret(keyword) && !session.ppd()->option(keyword)->custom;
         if (!choice.choice.isEmpty())
-            section.entries.append({choice.optionText, choice.choiceText});
+            section.entries.append({choice.optionText, isHidden ? hiddenValue() : choice.choiceText});
     }
     return section;
 }

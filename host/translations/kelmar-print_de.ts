@@ -231,6 +231,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
         <translation>--json gehört zu --batch, --summary, --list-options oder einer Vorgabe.</translation>
     </message>
+    <message>
+        <source>Print even if a password or a department code is missing.</source>
+        <translation>Auch drucken, wenn ein Passwort oder ein Abteilungscode fehlt.</translation>
+    </message>
+    <message>
+        <source>--allow-no-password goes with --batch.</source>
+        <translation>--allow-no-password gehört zu --batch.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -252,6 +260,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
         <translation>Passwörter und Codes werden in der Vorgabe nicht gespeichert; sie sind jedes Mal anzugeben.</translation>
+    </message>
+    <message>
+        <source>Only a part of the code for “%1” has been given.</source>
+        <translation>Für „%1“ wurde nur ein Teil des Codes angegeben.</translation>
     </message>
 </context>
 <context>
@@ -350,6 +362,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Printing was canceled.</source>
         <translation>Das Drucken wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Nothing was written into “%1”.</source>
+        <translation>In „%1“ wurde nichts geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -762,6 +778,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>&amp;Password:</source>
         <translation>&amp;Passwort:</translation>
     </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>Das Passwort wird unverschlüsselt über das Netz übertragen.</translation>
+    </message>
 </context>
 <context>
     <name>MainText</name>
@@ -842,6 +862,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>The rules in %1 offer none of the printers that have been set up. %2</source>
         <translation>Die Regeln in %1 bieten keinen der eingerichteten Drucker an. %2</translation>
     </message>
+    <message>
+        <source>“%1” cannot be used, since settings of this printer are fixed.</source>
+        <translation>„%1“ kann nicht verwendet werden, da Einstellungen dieses Druckers festgelegt sind.</translation>
+    </message>
 </context>
 <context>
     <name>PolicyText</name>
@@ -900,6 +924,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Set by the administrator (%1).</source>
         <translation>Von der Systemverwaltung festgelegt (%1).</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, problem</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, rule %2: %3</source>
+        <comment>file, number, problem</comment>
+        <translation>%1, Regel %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1118,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>There is no printer called “%1”.</source>
         <translation>Es gibt keinen Drucker namens „%1“.</translation>
     </message>
+    <message>
+        <source>Your own defaults for this printer are not used. %1</source>
+        <translation>Ihre eigenen Standardeinstellungen für diesen Drucker werden nicht verwendet. %1</translation>
+    </message>
+    <message>
+        <source>“%1” has no preset called “%2”.</source>
+        <translation>„%1“ hat keine Vorgabe namens „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterText</name>
@@ -1117,6 +1159,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
         <translation>Es wurde ein Code angegeben, aber „%1“ ist nicht gewählt: Der Auftrag ist nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Dieser Drucker kennt „%1“ nicht: Der Auftrag wird nicht geschützt.</translation>
     </message>
 </context>
 <context>
@@ -1279,10 +1325,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 nimmt %2.</translation>
     </message>
     <message>
-        <source>“%1” has to be “%2”. %3</source>
-        <translation>„%1“ muss auf „%2“ stehen. %3</translation>
-    </message>
-    <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>„%1“ kann hier nicht geändert werden. %2</translation>
     </message>
@@ -1429,6 +1471,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Password: </source>
         <translation>Passwort: </translation>
+    </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>Das Passwort wird unverschlüsselt über das Netz übertragen.</translation>
     </message>
 </context>
 <context>

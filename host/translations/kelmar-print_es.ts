@@ -231,6 +231,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
         <translation>--json se usa con --batch, --summary, --list-options o un preajuste.</translation>
     </message>
+    <message>
+        <source>Print even if a password or a department code is missing.</source>
+        <translation>Imprimir aunque falte una contraseña o un código de departamento.</translation>
+    </message>
+    <message>
+        <source>--allow-no-password goes with --batch.</source>
+        <translation>--allow-no-password se usa con --batch.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -252,6 +260,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
         <translation>Las contraseñas y los códigos no se guardan en el preajuste; hay que indicarlos cada vez.</translation>
+    </message>
+    <message>
+        <source>Only a part of the code for “%1” has been given.</source>
+        <translation>Solo se ha indicado una parte del código para «%1».</translation>
     </message>
 </context>
 <context>
@@ -350,6 +362,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Printing was canceled.</source>
         <translation>La impresión se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>Nothing was written into “%1”.</source>
+        <translation>No se ha escrito nada en «%1».</translation>
     </message>
 </context>
 <context>
@@ -762,6 +778,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>&amp;Password:</source>
         <translation>&amp;Contraseña:</translation>
     </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>La contraseña se transmitirá por la red sin cifrar.</translation>
+    </message>
 </context>
 <context>
     <name>MainText</name>
@@ -842,6 +862,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>The rules in %1 offer none of the printers that have been set up. %2</source>
         <translation>Las reglas de %1 no ofrecen ninguna de las impresoras configuradas. %2</translation>
     </message>
+    <message>
+        <source>“%1” cannot be used, since settings of this printer are fixed.</source>
+        <translation>«%1» no se puede usar porque hay ajustes de esta impresora que están fijados.</translation>
+    </message>
 </context>
 <context>
     <name>PolicyText</name>
@@ -900,6 +924,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Set by the administrator (%1).</source>
         <translation>Así lo ha fijado el administrador (%1).</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, problem</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, rule %2: %3</source>
+        <comment>file, number, problem</comment>
+        <translation>%1, regla %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1118,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>There is no printer called “%1”.</source>
         <translation>No hay ninguna impresora llamada «%1».</translation>
     </message>
+    <message>
+        <source>Your own defaults for this printer are not used. %1</source>
+        <translation>No se usan sus propios valores predeterminados para esta impresora. %1</translation>
+    </message>
+    <message>
+        <source>“%1” has no preset called “%2”.</source>
+        <translation>«%1» no tiene ningún preajuste llamado «%2».</translation>
+    </message>
 </context>
 <context>
     <name>PrinterText</name>
@@ -1117,6 +1159,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
         <translation>Se ha indicado un código, pero no se ha elegido «%1»: el trabajo no está protegido.</translation>
+    </message>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Esta impresora no tiene «%1»: el trabajo no estará protegido.</translation>
     </message>
 </context>
 <context>
@@ -1279,10 +1325,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>%1 no se envía con el trabajo: %2</translation>
     </message>
     <message>
-        <source>“%1” has to be “%2”. %3</source>
-        <translation>«%1» debe estar en «%2». %3</translation>
-    </message>
-    <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«%1» no se puede cambiar aquí. %2</translation>
     </message>
@@ -1429,6 +1471,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Password: </source>
         <translation>Contraseña: </translation>
+    </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>La contraseña se transmitirá por la red sin cifrar.</translation>
     </message>
 </context>
 <context>

@@ -231,6 +231,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
         <translation>--json s’emploie avec --batch, --summary, --list-options ou un préréglage.</translation>
     </message>
+    <message>
+        <source>Print even if a password or a department code is missing.</source>
+        <translation>Imprimer même s’il manque un mot de passe ou un code de service.</translation>
+    </message>
+    <message>
+        <source>--allow-no-password goes with --batch.</source>
+        <translation>--allow-no-password s’utilise avec --batch.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -252,6 +260,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
         <translation>Les mots de passe et les codes ne sont pas conservés dans le préréglage&#xa0;; il faut les indiquer à chaque fois.</translation>
+    </message>
+    <message>
+        <source>Only a part of the code for “%1” has been given.</source>
+        <translation>Seule une partie du code pour «&#xa0;%1&#xa0;» a été indiquée.</translation>
     </message>
 </context>
 <context>
@@ -350,6 +362,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Printing was canceled.</source>
         <translation>L’impression a été annulée.</translation>
+    </message>
+    <message>
+        <source>Nothing was written into “%1”.</source>
+        <translation>Rien n’a été écrit dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -762,6 +778,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>&amp;Password:</source>
         <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>Le mot de passe circulera sur le réseau sans chiffrement.</translation>
+    </message>
 </context>
 <context>
     <name>MainText</name>
@@ -842,6 +862,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>The rules in %1 offer none of the printers that have been set up. %2</source>
         <translation>Les règles de %1 n’offrent aucune des imprimantes configurées. %2</translation>
     </message>
+    <message>
+        <source>“%1” cannot be used, since settings of this printer are fixed.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être utilisé, car des réglages de cette imprimante sont fixés.</translation>
+    </message>
 </context>
 <context>
     <name>PolicyText</name>
@@ -900,6 +924,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Set by the administrator (%1).</source>
         <translation>Défini par l’administrateur (%1).</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, problem</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1, rule %2: %3</source>
+        <comment>file, number, problem</comment>
+        <translation>%1, règle %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1118,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>There is no printer called “%1”.</source>
         <translation>Il n’y a pas d’imprimante nommée «&#xa0;%1&#xa0;».</translation>
     </message>
+    <message>
+        <source>Your own defaults for this printer are not used. %1</source>
+        <translation>Vos propres réglages par défaut pour cette imprimante ne sont pas utilisés. %1</translation>
+    </message>
+    <message>
+        <source>“%1” has no preset called “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de préréglage appelé «&#xa0;%2&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>PrinterText</name>
@@ -1117,6 +1159,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
         <translation>Un code a été indiqué, mais «&#xa0;%1&#xa0;» n’a pas été choisi&#xa0;: la tâche n’est pas protégée.</translation>
+    </message>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Cette imprimante ne connaît pas «&#xa0;%1&#xa0;»&#xa0;: la tâche ne sera pas protégée.</translation>
     </message>
 </context>
 <context>
@@ -1279,10 +1325,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 prend %2.</translation>
     </message>
     <message>
-        <source>“%1” has to be “%2”. %3</source>
-        <translation>«&#xa0;%1&#xa0;» doit être réglé sur «&#xa0;%2&#xa0;». %3</translation>
-    </message>
-    <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être modifié ici. %2</translation>
     </message>
@@ -1429,6 +1471,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Password: </source>
         <translation>Mot de passe&#xa0;: </translation>
+    </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>Le mot de passe circulera sur le réseau sans chiffrement.</translation>
     </message>
 </context>
 <context>

@@ -231,6 +231,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
         <translation>--json si usa con --batch, --summary, --list-options o una preimpostazione.</translation>
     </message>
+    <message>
+        <source>Print even if a password or a department code is missing.</source>
+        <translation>Stampa anche se manca una password o un codice reparto.</translation>
+    </message>
+    <message>
+        <source>--allow-no-password goes with --batch.</source>
+        <translation>--allow-no-password va usato con --batch.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -252,6 +260,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
         <translation>Le password e i codici non vengono conservati nella preimpostazione; vanno forniti ogni volta.</translation>
+    </message>
+    <message>
+        <source>Only a part of the code for “%1” has been given.</source>
+        <translation>È stata indicata solo una parte del codice per «%1».</translation>
     </message>
 </context>
 <context>
@@ -350,6 +362,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Printing was canceled.</source>
         <translation>La stampa è stata annullata.</translation>
+    </message>
+    <message>
+        <source>Nothing was written into “%1”.</source>
+        <translation>Non è stato scritto nulla in «%1».</translation>
     </message>
 </context>
 <context>
@@ -762,6 +778,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>&amp;Password:</source>
         <translation>&amp;Password:</translation>
     </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>La password attraverserà la rete senza cifratura.</translation>
+    </message>
 </context>
 <context>
     <name>MainText</name>
@@ -842,6 +862,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>The rules in %1 offer none of the printers that have been set up. %2</source>
         <translation>Le regole in %1 non offrono nessuna delle stampanti configurate. %2</translation>
     </message>
+    <message>
+        <source>“%1” cannot be used, since settings of this printer are fixed.</source>
+        <translation>«%1» non può essere usato, perché alcune impostazioni di questa stampante sono fisse.</translation>
+    </message>
 </context>
 <context>
     <name>PolicyText</name>
@@ -900,6 +924,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Set by the administrator (%1).</source>
         <translation>Lo ha stabilito l’amministratore (%1).</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, problem</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, rule %2: %3</source>
+        <comment>file, number, problem</comment>
+        <translation>%1, regola %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1118,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>There is no printer called “%1”.</source>
         <translation>Non c’è alcuna stampante chiamata «%1».</translation>
     </message>
+    <message>
+        <source>Your own defaults for this printer are not used. %1</source>
+        <translation>Le impostazioni predefinite personali per questa stampante non vengono usate. %1</translation>
+    </message>
+    <message>
+        <source>“%1” has no preset called “%2”.</source>
+        <translation>«%1» non ha una preimpostazione chiamata «%2».</translation>
+    </message>
 </context>
 <context>
     <name>PrinterText</name>
@@ -1117,6 +1159,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
         <translation>È stato fornito un codice, ma non è stato scelto «%1»: il lavoro non è protetto.</translation>
+    </message>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>Questa stampante non dispone di «%1»: il lavoro non sarà protetto.</translation>
     </message>
 </context>
 <context>
@@ -1279,10 +1325,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>%1 non viene inviato con il lavoro: %2</translation>
     </message>
     <message>
-        <source>“%1” has to be “%2”. %3</source>
-        <translation>«%1» deve essere impostato su «%2». %3</translation>
-    </message>
-    <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«%1» qui non può essere modificato. %2</translation>
     </message>
@@ -1429,6 +1471,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Password: </source>
         <translation>Password: </translation>
+    </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>La password attraverserà la rete senza cifratura.</translation>
     </message>
 </context>
 <context>

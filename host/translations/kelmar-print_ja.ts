@@ -231,6 +231,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
         <translation>--json は --batch、--summary、--list-options、またはプリセットのオプションと併用します。</translation>
     </message>
+    <message>
+        <source>Print even if a password or a department code is missing.</source>
+        <translation>パスワードまたは部門コードがなくても印刷します。</translation>
+    </message>
+    <message>
+        <source>--allow-no-password goes with --batch.</source>
+        <translation>--allow-no-password は --batch と一緒に使います。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesText</name>
@@ -252,6 +260,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
         <translation>パスワードとコードはプリセットに保存されません。毎回指定してください。</translation>
+    </message>
+    <message>
+        <source>Only a part of the code for “%1” has been given.</source>
+        <translation>「%1」のコードの一部しか指定されていません。</translation>
     </message>
 </context>
 <context>
@@ -350,6 +362,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Printing was canceled.</source>
         <translation>印刷を取り消しました。</translation>
+    </message>
+    <message>
+        <source>Nothing was written into “%1”.</source>
+        <translation>「%1」には何も書き込まれませんでした。</translation>
     </message>
 </context>
 <context>
@@ -762,6 +778,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>&amp;Password:</source>
         <translation>パスワード(&amp;P):</translation>
     </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>パスワードは暗号化されずにネットワークを流れます。</translation>
+    </message>
 </context>
 <context>
     <name>MainText</name>
@@ -842,6 +862,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>The rules in %1 offer none of the printers that have been set up. %2</source>
         <translation>%1 の規則では、設定されているプリンターのどれも使えません。%2</translation>
     </message>
+    <message>
+        <source>“%1” cannot be used, since settings of this printer are fixed.</source>
+        <translation>このプリンターには固定された設定があるため、「%1」は使用できません。</translation>
+    </message>
 </context>
 <context>
     <name>PolicyText</name>
@@ -900,6 +924,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Set by the administrator (%1).</source>
         <translation>管理者が設定しています (%1)。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, problem</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, rule %2: %3</source>
+        <comment>file, number, problem</comment>
+        <translation>%1、規則 %2: %3</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1118,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>There is no printer called “%1”.</source>
         <translation>「%1」という名前のプリンターはありません。</translation>
     </message>
+    <message>
+        <source>Your own defaults for this printer are not used. %1</source>
+        <translation>このプリンターのユーザー既定値は使用されません。%1</translation>
+    </message>
+    <message>
+        <source>“%1” has no preset called “%2”.</source>
+        <translation>「%1」に「%2」というプリセットはありません。</translation>
+    </message>
 </context>
 <context>
     <name>PrinterText</name>
@@ -1117,6 +1159,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>A code has been given, but not “%1”: the job is not protected.</source>
         <translation>コードは指定されていますが、「%1」が選択されていません。ジョブは保護されません。</translation>
+    </message>
+    <message>
+        <source>This printer does not have “%1”: the job will not be protected.</source>
+        <translation>このプリンターには「%1」がありません。ジョブは保護されません。</translation>
     </message>
 </context>
 <context>
@@ -1279,10 +1325,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1 には %2 を指定してください。</translation>
     </message>
     <message>
-        <source>“%1” has to be “%2”. %3</source>
-        <translation>「%1」は「%2」にする必要があります。%3</translation>
-    </message>
-    <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>「%1」はここでは変更できません。%2</translation>
     </message>
@@ -1429,6 +1471,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Password: </source>
         <translation>パスワード: </translation>
+    </message>
+    <message>
+        <source>The password will cross the network without encryption.</source>
+        <translation>パスワードは暗号化されずにネットワークを流れます。</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@ _arguments -s \
     '--batch[print without opening a window]' \
     '--output[write the pages into a PDF file instead of printing them]:file:_files -g "*.pdf"' \
     '--resolve[accept the proposal when settings cannot be used together]' \
+    '--allow-no-password[print even if a password or a department code is missing]' \
     '--summary[write the summary of the settings]' \
     '--list-options[write the options of the printer and their choices]' \
     '--presets[write the presets of the printer]' \

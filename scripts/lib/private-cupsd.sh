@@ -25,7 +25,7 @@ fail() { # MESSAGE [CODE]
 prepare() {
     local name
     command -v cupsd >/dev/null || fail "cupsd is not installed (Debian: cups-daemon)" 77
-    mkdir -p "$dir"/{etc/ppd,spool/tmp,cache,state,log,bin/backend,jobs}
+    mkdir -p "$dir"/{etc/ppd,etc/ssl,spool/tmp,cache,state,log,bin/backend,jobs}
     # cupsd's filters and backends run as another user, who has to get through.
     chmod 755 "$dir" "$dir"/{etc,spool,cache,state,log,bin,bin/backend}
     chmod 1777 "$dir/jobs" "$dir/spool/tmp"

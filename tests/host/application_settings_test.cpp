@@ -19,6 +19,7 @@ private Q_SLOTS:
     void start();
     void whatComesBack();
     void secretsStayHere();
+    void locksHold();
     void madePagesAreAllPrinted();
     void optionsOfAPrintedJob();
     void rawQueue();
@@ -140,6 +141,20 @@ void ApplicationSettingsTest::secretsStayHere()
     QVERIFY(custom.markChoice(u"Lock"_s, u"Custom.12345"_s));
     QVERIFY(custom.markChoice(u"Density"_s, u"Custom.3"_s));
     QCOMPARE(choiceForApplication(custom, {}).choices.last(), std::pair(u"Density"_s, u"Custom.3"_s));
+}
+
+void ApplicationSettingsTest::locksHold()
+{
+    QString error;
+    Policy::setCurrent(*Policy::parse(R"({"rules": [{"locked": {"PageSize": "A4"}}]})", u"p"_s, &error));
+    const auto session = this->session();
+    beginWith(startingSettings(NamedValues{{u"media"_s, u"A3"_s}, {u"Duplex"_s, u"DuplexTumble"_s}}, 1),
+              session.get());
+    Policy::setCurrent({});
+    QCOMPARE(session->ppd()->markedChoice(u"PageSize"_s), u"A4"_s);
+    QCOMPARE(session->ppd()->markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
+    const QStringList notices = session->takeNotices();
+    QVERIFY2(notices.value(0).contains(u"Set by the administrator."_s), qPrintable(notices.join(u' ')));
 }
 
 void ApplicationSettingsTest::madePagesAreAllPrinted()

@@ -52,10 +52,11 @@ void BatchRunTest::init()
     Destination office = officePrinter();
     office.isDefault = true;
     m_system.printers = {office, officePrinter(u"raw"_s), officePrinter(u"custom"_s)};
-    m_system.ppds = {{u"office"_s, officePpd()}, {u"custom"_s, customPpd()}};
+    const QByteArray model = ppdOption("ColorModel/Output Mode", {"RGB/Color", "Gray/Grayscale"});
+    m_system.ppds = {{u"office"_s, officePpd() + ppdGroup("Mode/Mode", model)}, {u"custom"_s, customPpd()}};
     if (!m_document.isOpen()) {
         QVERIFY(m_document.open());
-        m_document.write("some text\n");
+        m_document.write(QByteArray("some text\n").repeated(300)); // five pages
         m_document.flush();
     }
 }
@@ -143,6 +144,7 @@ void BatchRunTest::exitCodes_data()
         << u"--summary --set ColorType=Mono --set Cyan=2"_s << int(ExitConflict) << u"conflict"_s;
     QTest::newRow("proposal accepted")
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 
 void BatchRunTest::exitCodes()
@@ -193,6 +195,13 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
     QTest::newRow("in the words of the standard") << u"-o sides=one-sided"_s << u"Duplex"_s << u"None"_s;
     QTest::newRow("over a size that nobody has") << u"--set PageSize=A3"_s << u"media"_s << u"A3"_s;
     QTest::newRow("a size that nobody has") << QString() << u"media"_s << u"Foo"_s;
+    QTest::newRow("in capitals") << u"-o Copies=3"_s << u"copies"_s << u"3"_s;
+    QTest::newRow("the page region") << u"-o PageRegion=A3"_s << u"PageSize"_s << u"A3"_s;
+    QTest::newRow("the page region as a setting") << u"--set PageRegion=A3"_s << u"PageSize"_s << u"A3"_s;
+    QTest::newRow("size and type") << u"-o media=A3,Thick -o sides=one-sided"_s << u"PageSize"_s << u"A3"_s;
+    QTest::newRow("type and size") << u"-o Media=A3,thick -o sides=one-sided"_s << u"MediaType"_s
+                                   << u"Thick"_s;
+    QTest::newRow("color mode") << u"--set ColorModel=RGB"_s << u"print-color-mode"_s << u"color"_s;
     QTest::newRow("how copies are collated")
         << u"-n 2 -o multiple-document-handling=separate-documents-uncollated-copies"_s << u"Collate"_s
         << u"False"_s;
@@ -209,7 +218,8 @@ void BatchRunTest::lastWordOfTheUserCounts()
     m_system.printers.first().options = {{u"job-priority"_s, u"20"_s},
                                          {u"sides"_s, u"two-sided-long-edge"_s},
                                          {u"media"_s, u"Foo"_s},
-                                         {u"page-ranges"_s, u"1-2"_s}};
+                                         {u"page-ranges"_s, u"1-2"_s},
+                                         {u"print-color-mode"_s, u"monochrome"_s}};
     QStringList all = words.split(u' ', Qt::SkipEmptyParts);
     QCOMPARE(run(QStringList(u"--batch"_s) + all + QStringList(m_document.fileName())), int(ExitSuccess));
     const QList<JobOption> options = m_system.submitted.first().options;
@@ -232,6 +242,8 @@ void BatchRunTest::defaultsOfTheUser_data()
     QTest::newRow("standard name") << u"multiple-document-handling"_s
                                    << u"separate-documents-uncollated-copies"_s << u"Collate"_s << u"False"_s;
     QTest::newRow("pages") << u"page-ranges"_s << u"4,2-3"_s << u"page-ranges"_s << u"2-4"_s;
+    QTest::newRow("against the server's") << u"sides"_s << u"one-sided"_s << u"sides"_s << u"one-sided"_s;
+    QTest::newRow("color mode") << u"print-color-mode"_s << u"monochrome"_s << u"ColorModel"_s << u"Gray"_s;
     QTest::newRow("no pages") << u"page-ranges"_s << u"all"_s << u"page-ranges"_s << QString();
 }
 
@@ -241,6 +253,7 @@ void BatchRunTest::defaultsOfTheUser()
     QFETCH(QString, value);
     QFETCH(QString, sentName);
     m_system.printers.first().options = {{u"copies"_s, u"2"_s}, {name, value}};
+    m_system.printers.first().queueDefaults = {{u"sides"_s, u"two-sided-long-edge"_s}};
     QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
     QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
 }
@@ -346,7 +359,7 @@ void BatchRunTest::optionsAreListed()
 {
     QCOMPARE(run({u"--list-options"_s, u"--json"_s}), int(ExitSuccess));
     const QJsonArray options = json()[u"options"_s].toArray();
-    QCOMPARE(options.size(), 8);
+    QCOMPARE(options.size(), 9);
     QCOMPARE(options[0][u"option"_s].toString(), u"PageSize"_s);
     QCOMPARE(options[0][u"choices"_s][1][u"choice"_s].toString(), u"A3"_s);
     QCOMPARE(json()[u"panelKeys"_s][2][u"key"_s].toString(), u"page-ranges"_s);

@@ -220,6 +220,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded_data()
     QTest::addColumn<int>("mode");
     QTest::newRow("folder") << u"."_s << 0777;
     QTest::newRow("folder around it") << u".."_s << 0777;
+    QTest::newRow("folder above that") << u"../.."_s << 0777;
     QTest::newRow("code") << u"libOrbM880.so"_s << 0664;
     QTest::newRow("layout") << u"layouts/PrintMode.ui"_s << 0646;
 }
@@ -229,7 +230,8 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
     QFETCH(QString, path);
     QFETCH(int, mode);
     const QTemporaryDir folder;
-    const QString bundle = folder.filePath(u"OrbM880.bundle"_s);
+    QVERIFY(QDir(folder.path()).mkdir(u"lib"_s));
+    const QString bundle = folder.filePath(u"lib/OrbM880.bundle"_s);
     QCOMPARE(QProcess::execute(u"cp"_s,
                                {u"-r"_s, QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle"), bundle}),
              0);

@@ -10,11 +10,14 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+
+#include <sys/stat.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -30,6 +33,8 @@ private Q_SLOTS:
     void documents_data();
     void documents();
     void standardInputIsSpooled();
+    void filesWithoutASize_data();
+    void filesWithoutASize();
     void documentThatNeverEnds();
     void brokenPpdNamesFileAndLine();
     void packedPpdOfAQueue();
@@ -37,10 +42,14 @@ private Q_SLOTS:
     void textsOfAPpd();
     void titlesEndBetweenCharacters();
     void conflictNamesBothSidesOnce();
+    void manyConflictsAreFoundInTime();
     void resolutionKeepsTheLastChange();
     void forbiddenChoicesSayWhy();
     void standardOptionsBecomeMarks();
     void changedChoicesLeaveOutUnitsAndDefaults();
+
+private:
+    QTemporaryDir m_folder;
 };
 
 void CoreValuesTest::pageRanges_data()
@@ -112,6 +121,27 @@ void CoreValuesTest::standardInputIsSpooled()
     QCOMPARE(spool.readAll(), contents);
     QVERIFY(!DocumentList().open({u"-"_s}, &input, &error)); // at its end
     QCOMPARE(error.kind, PrintError::Kind::EmptyDocument);
+}
+
+void CoreValuesTest::filesWithoutASize_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("problem"); // nil where it can be printed
+    const QString pipe = m_folder.filePath(u"pipe"_s);
+    QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+    QTest::newRow("made when it is read") << u"/proc/self/status"_s << QString();
+    QTest::newRow("no writer") << pipe << u"Nothing was written into “%1”."_s.arg(pipe);
+}
+
+void CoreValuesTest::filesWithoutASize()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, problem);
+    PrintError error;
+    DocumentList list;
+    QCOMPARE(list.open({path}, nullptr, &error), problem.isNull());
+    QCOMPARE(error.message, problem);
+    QVERIFY(!problem.isNull() || list.documents().first().size > 100);
 }
 
 void CoreValuesTest::brokenPpdNamesFileAndLine()
@@ -212,6 +242,28 @@ void CoreValuesTest::conflictNamesBothSidesOnce()
     QCOMPARE(ppd->conflicts().size(), 2);
     QVERIFY(!ppd->mark(u"Duplex"_s, u"Sideways"_s));
     QCOMPARE(ppd->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
+}
+
+void CoreValuesTest::manyConflictsAreFoundInTime()
+{
+    constexpr int options = 300;
+    QByteArray body;
+    for (int i = 0; i < options; ++i) {
+        const QByteArray name = "O" + QByteArray::number(i);
+        body += ppdOption(name, {"A", "B"});
+        for (int other = 0; other < i; ++other)
+            body += ppdConstraint(name + " B", "O" + QByteArray::number(other) + " B");
+    }
+    const auto ppd = openPpd(ppdGroup("General/General", body));
+    QVERIFY(ppd);
+    QMap<QString, QString> all;
+    for (int i = 0; i < options; ++i)
+        all.insert(u"O%1"_s.arg(i), u"B"_s);
+    ppd->markOptions(all);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(ppd->conflicts().size(), options * (options - 1) / 2);
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void CoreValuesTest::resolutionKeepsTheLastChange()

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void secretValueIsNotRepeatedElsewhere();
     void settingsGoFromPrinterToPrinter_data();
     void settingsGoFromPrinterToPrinter();
+    void secretSettings_data();
+    void secretSettings();
     void blockingWorkIsAnnounced();
     void brokenExtensionIsToldAndPassedOver();
     void panelThatCannotBeMadeIsTold();
@@ -161,7 +163,7 @@ void DialogSessionTest::resetReachesAPanelThatWasRestored()
 void DialogSessionTest::keywordAnnouncedTwiceKeepsItsFirstValue()
 {
     for (const char *choice : {"1", "2"}) { // between two saves of a panel nobody looks
-        m_session->willChangePPDOptionKeyValuePpdChoice(u"Cyan"_s, QLatin1String(choice));
+        m_session->panelHost()->willChangePPDOptionKeyValuePpdChoice(u"Cyan"_s, QLatin1String(choice));
         m_session->ppd()->mark(u"Cyan"_s, QLatin1String(choice));
         m_balance->setValueForKey(QLatin1String(choice), u"Cyan"_s);
     }
@@ -220,9 +222,9 @@ void DialogSessionTest::panelSettingsOfAPresetBecomePrintSettings()
     Destination printer = officePrinter();
     printer.options = {{u"com.example.profile"_s, u"3"_s}};
     makeSession(printer);
-    QCOMPARE(m_session->printSettings()->value(u"com.example.profile"_s), QVariant(u"3"_s));
+    QCOMPARE(m_session->printSettings().value(u"com.example.profile"_s), QVariant(u"3"_s));
     QCOMPARE(sentValue(m_session->jobOptions(), u"com.example.profile"_s), u"3"_s);
-    PMPrintSettingsSetValue(m_session->printSettings(), u"com.example.profile"_s, {}, false);
+    PMPrintSettingsSetValue(m_session->panelHost()->printSettings(), u"com.example.profile"_s, {}, false);
     QVERIFY(sentValue(m_session->jobOptions(), u"com.example.profile"_s).isNull());
 }
 
@@ -333,12 +335,63 @@ void DialogSessionTest::settingsGoFromPrinterToPrinter()
     QCOMPARE(m_session->jobOptions(), options);
 }
 
+void DialogSessionTest::secretSettings_data()
+{
+    QTest::addColumn<QByteArray>("options"); // of a PPD
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<bool>("isSecret");
+    const auto numbers = [](int first, int last, const QByteArray &prefix = {}) {
+        QByteArrayList choices;
+        for (int i = first; i <= last; ++i)
+            choices.append(prefix + QByteArray::number(i));
+        return choices;
+    };
+    const QByteArrayList digits = numbers(0, 9);
+    const auto pair = [](const char *one, const char *two, const QByteArrayList &choices) {
+        return ppdOption(one, choices) + ppdOption(two, choices);
+    };
+    const auto row = [](const char *name, const QByteArray &options, const QString &setting, bool isSecret) {
+        QTest::newRow(name) << options << setting << isSecret;
+    };
+    row("numbered", pair("DINDigit1", "DINDigit2", digits), u"DINDigit2"_s, true);
+    row("in another case", pair("Slot1", "Slot2", digits), u"sLOT1"_s, true);
+    row("with None", pair("Box1/Box", "Box2/Box", QByteArrayList{"None"} + digits), u"Box1"_s, true);
+    row("with Off", pair("FirstBox", "SecondBox", QByteArrayList{"Off"} + numbers(1, 9)), u"FirstBox"_s,
+        true);
+    row("behind a word", pair("Box1", "Box2", numbers(0, 9, "D")), u"Box2"_s, true);
+    row("named for a code", ppdOption("JobPIN", digits), u"JobPIN"_s, true);
+    row("one scale", ppdOption("Density", digits), u"Density"_s, false);
+    row("two scales", pair("CyanDensity", "MagentaDensity", digits), u"CyanDensity"_s, false);
+    row("numbered scales", pair("Margin1", "Margin2", numbers(0, 20)), u"Margin1"_s, false);
+    row("numbered switches", pair("Bin1", "Bin2", {"False", "True"}), u"Bin1"_s, false);
+    row("kind of a password", ppdOption("PasswordKind", {"None", "Fixed"}), u"PasswordKind"_s, false);
+    row("job option", {}, u"job-password"_s, true);
+    row("job option of another printer", {}, u"DINDigit3"_s, true);
+    row("account", {}, u"job-account-id"_s, true);
+    row("pinned", {}, u"job-pinning"_s, false);
+}
+
+// Without a bundle that tells.
+void DialogSessionTest::secretSettings()
+{
+    QFETCH(QByteArray, options);
+    QFETCH(QString, setting);
+    QFETCH(bool, isSecret);
+    DialogSession session(officePrinter(), openPpd(officePpd() + ppdGroup("More/More", options)));
+    QCOMPARE(session.isSecret(setting), isSecret);
+    if (session.ppd()->hasOption(setting)) {
+        session.markChoice(setting, session.ppd()->option(setting)->choices.last().keyword);
+        const auto shown = session.summary().first().entries.last();
+        QCOMPARE(shown.second == u"•"_s, isSecret);
+    }
+}
+
 void DialogSessionTest::blockingWorkIsAnnounced()
 {
     QSignalSpy began(m_session.get(), &DialogSession::blockingBegan);
     QSignalSpy ended(m_session.get(), &DialogSession::blockingEnded);
     {
-        const platform::BlockingWork work(m_session.get(), u"Asking the printer"_s);
+        const platform::BlockingWork work(m_session->panelHost(), u"Asking the printer"_s);
         QCOMPARE(began.size(), 1);
         QCOMPARE(began.first().first().toString(), u"Asking the printer"_s);
         QCOMPARE(ended.size(), 0);
@@ -364,7 +417,7 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
 
 void DialogSessionTest::panelThatCannotBeMadeIsTold()
 {
-    platform::PrintDialogHost *const host = m_session.get();
+    platform::PrintDialogHost *const host = m_session->panelHost();
     auto *problems = dynamic_cast<platform::PanelProblemHost *>(host); // as a plug-in finds it
     QVERIFY(problems);
     problems->panelFailed(u"Fax"_s, u"Fax.ui is missing"_s);

@@ -121,7 +121,7 @@ bool FakePanel::saveValuesAndReturnError(QString *)
     ++saved;
     for (const QString &key : m_keywords) {
         const QString choice = valueForKey(key).toString();
-        m_session->willChangePPDOptionKeyValuePpdChoice(key, choice);
+        m_session->panelHost()->willChangePPDOptionKeyValuePpdChoice(key, choice);
         m_session->ppd()->mark(key, choice);
     }
     return true;

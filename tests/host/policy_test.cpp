@@ -3,6 +3,7 @@
 
 #include "host/batch/batch_run.h"
 #include "host/policy/policy_print_system.h"
+#include "host/session/preset_settings.h"
 #include "host/window/guide/search_bar.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
@@ -29,13 +30,20 @@ private Q_SLOTS:
         m_window.reset();
         Policy::setCurrent({});
     }
-    void errorsNameTheLine_data();
-    void errorsNameTheLine();
+    void errorsNameThePlace_data();
+    void errorsNameThePlace();
     void batchObeys_data();
     void batchObeys();
+    void locksHoldInEverySpelling_data();
+    void locksHoldInEverySpelling();
+    void defaultsDoNotPassLocks_data();
+    void defaultsDoNotPassLocks();
+    void nothingElsePassesLocks();
     void saysThatItOffersNone_data();
     void saysThatItOffersNone();
-    void lockedChoiceNeedsItsCode();
+    void codesAreAskedFor_data();
+    void codesAreAskedFor();
+    void presetForAModelThatProtects();
     void dialogShowsWhatIsLocked();
     void panelKeepsWhatIsLocked();
     void panelHidesOptions();
@@ -69,9 +77,9 @@ private:
     }
     int print(PrintSystem &system, Extensions &extensions, const QStringList &words);
 
-    void useFamily() // the real panels and the PPD of a real model, for the queue "office"
+    void useFamily(const QString &model = u"kelm880"_s) // its PPD for the queue "office", and the real panels
     {
-        QFile ppd(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+        QFile ppd(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(model));
         QVERIFY(ppd.open(QIODevice::ReadOnly));
         (void)ppd.readLine(); // the fixture writes it
         m_system.ppds[u"office"_s] = ppd.readAll();
@@ -96,7 +104,7 @@ int PolicyTest::print(PrintSystem &system, Extensions &extensions, const QString
     return code;
 }
 
-void PolicyTest::errorsNameTheLine_data()
+void PolicyTest::errorsNameThePlace_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("error"); // its beginning; empty for none
@@ -104,27 +112,24 @@ void PolicyTest::errorsNameTheLine_data()
     QTest::newRow("empty object") << "{}"_ba << QString();
     QTest::newRow("a rule") << rule + "}]}" << QString();
     QTest::newRow("empty file") << ""_ba << u"policy.json, line 1, column 1: "_s;
-    QTest::newRow("a list") << "[]"_ba << u"policy.json, line 1, column 1: it is not one object"_s;
+    QTest::newRow("a list") << "[]"_ba << u"policy.json: it is not one object"_s;
     QTest::newRow("no JSON") << "{\n\"queues\": [\n\"a\",]\n}"_ba
                              << u"policy.json, line 3, column 5: object"_s;
     QTest::newRow("unknown key") << "{\n\"contact\": \"ques\",\n \"ques\": []}"_ba
-                                 << u"policy.json, line 3, column 2: “ques” is not known"_s;
+                                 << u"policy.json: “ques” is not known"_s;
     QTest::newRow("unknown key of a rule")
-        << rule + "\n\"lock\": {}}]}" << u"policy.json, line 5, column 1: “lock” is not known"_s;
-    QTest::newRow("wrong type in the second rule")
-        << rule + "\n\"queues\": [\"ä\"], \"locked\": []}]}"
-        << u"policy.json, line 5, column 18: “locked” takes an object"_s;
+        << rule + "\n\"lock\": {}}]}" << u"policy.json, rule 2: “lock” is not known"_s;
+    QTest::newRow("wrong type in the second rule") << rule + "\n\"queues\": [\"ä\"], \"locked\": []}]}"
+                                                   << u"policy.json, rule 2: “locked” takes an object"_s;
     QTest::newRow("number for a choice") << rule + "\n\"defaults\": {\"B\":\"1\",\n\"C\": 2}}]}"
-                                         << u"policy.json, line 6, column 1: “C” takes a choice"_s;
-    QTest::newRow("number for a queue")
-        << "{\"queues\":\n[1]}"_ba << u"policy.json, line 1, column 2: “queues” takes a list"_s;
+                                         << u"policy.json, rule 2: “C” takes a choice"_s;
+    QTest::newRow("number for a queue") << "{\"queues\":\n[1]}"_ba << u"policy.json: “queues” takes a list"_s;
     QTest::newRow("rule of text") << "{\n\"rules\": [\"a\"]}"_ba
-                                  << u"policy.json, line 2, column 1: “rules” takes objects"_s;
-    QTest::newRow("rules of text") << "{\n\"rules\": \"a\"}"_ba
-                                   << u"policy.json, line 2, column 1: “rules” takes a list"_s;
+                                  << u"policy.json, rule 1: “rules” takes objects"_s;
+    QTest::newRow("rules of text") << "{\n\"rules\": \"a\"}"_ba << u"policy.json: “rules” takes a list"_s;
 }
 
-void PolicyTest::errorsNameTheLine()
+void PolicyTest::errorsNameThePlace()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
@@ -173,6 +178,149 @@ void PolicyTest::batchObeys()
     QCOMPARE(sentValue(sent, u"Duplex"_s), sides);
 }
 
+void PolicyTest::locksHoldInEverySpelling_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<bool>("isAllowed");
+    const auto row = [](const char *name, const QString &option, const QString &value, bool isAllowed) {
+        QTest::newRow(name) << option << value << isAllowed;
+    };
+    row("keyword", u"PageSize"_s, u"A3"_s, false);
+    row("region", u"PageRegion"_s, u"A3"_s, false);
+    row("standard name", u"media"_s, u"A3"_s, false);
+    row("capitals", u"MEDIA"_s, u"A3"_s, false);
+    row("one capital", u"Media"_s, u"iso_a3_297x420mm"_s, false);
+    row("size and tray", u"media"_s, u"A3,Tray2"_s, false);
+    row("collection", u"media-col"_s, u"{media-size={x-dimension=29700 y-dimension=42000}}"_s, false);
+    row("collection of a name", u"Media-Col"_s, u"{media-size-name=iso_a3_297x420mm}"_s, false);
+    row("collection that cannot be told", u"media-col"_s, u"{media-key=x}"_s, false);
+    row("sides", u"sides"_s, u"one-sided"_s, false);
+    row("other edge", u"Sides"_s, u"two-sided-short-edge"_s, false);
+    row("keyword in small letters", u"duplex"_s, u"none"_s, false);
+    row("past the filters", u"raw"_s, u"true"_s, false);
+    row("past the filters by format", u"document-format"_s, u"application/vnd.cups-raw"_s, false);
+    row("what may mean anything", u"output-mode"_s, u"x"_s, false);
+    row("the locked size", u"media"_s, u"a4"_s, true);
+    row("the locked size by its measures", u"media-col"_s,
+        u"{media-size={x-dimension=21000 y-dimension=29700}}"_s, true);
+    row("the locked sides", u"sides"_s, u"two-sided-long-edge"_s, true);
+    row("tray", u"InputSlot"_s, u"Tray2"_s, true);
+    row("priority", u"job-priority"_s, u"70"_s, true);
+    row("pages per side", u"number-up"_s, u"2"_s, true);
+}
+
+// By the command line, and by any other request for a job.
+void PolicyTest::locksHoldInEverySpelling()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, value);
+    QFETCH(bool, isAllowed);
+    useFamily();
+    PolicyPrintSystem system(m_system, {}, lay(R"({"rules": [
+        {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble"}}]})"));
+    QCOMPARE(print(system, m_none, {u"-d"_s, u"office"_s, u"-o"_s, option + u'=' + value}),
+             isAllowed ? 0 : 1);
+    QCOMPARE(m_system.submitted.size(), isAllowed ? 1 : 0);
+    QVERIFY2(isAllowed || m_said.contains("Set by the administrator."), m_said.constData());
+    if (isAllowed) {
+        QCOMPARE(sentValue(m_system.submitted.first().options, u"Duplex"_s), u"DuplexNoTumble"_s);
+        const QString size = sentValue(m_system.submitted.first().options, u"PageSize"_s);
+        QVERIFY2(size.isEmpty() || size == u"A4"_s, qPrintable(size)); // the PPD's default
+    }
+    m_system.submitted.clear();
+    JobRequest request{m_system.printers.first(), {}, u"T"_s, {{u"Duplex"_s, u"DuplexNoTumble"_s}}};
+    QVERIFY(system.submit(request, {}).isAccepted());
+    for (const auto kind :
+         {JobOption::Kind::Choice, JobOption::Kind::Attribute, JobOption::Kind::Preference}) {
+        request.options = {{u"Duplex"_s, u"DuplexNoTumble"_s}, {option, value, kind}};
+        QCOMPARE(system.submit(request, {}).isAccepted(), isAllowed);
+    }
+}
+
+void PolicyTest::defaultsDoNotPassLocks_data()
+{
+    QTest::addColumn<QString>("instance");
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<bool>("isServers"); // the server's own default
+    QTest::addColumn<int>("code");
+    const QString preset = u"mine"_s, none;
+    const QString balance = u"ColorBalanceCyan"_s,
+                  size = u"{media-size={x-dimension=29700 y-dimension=42000}}"_s;
+    QTest::newRow("preset") << preset << u"PageSize"_s << u"A3"_s << false << 1;
+    QTest::newRow("preset by another name") << preset << u"MEDIA"_s << u"A3"_s << false << 1;
+    QTest::newRow("preset with a collection") << preset << u"media-col"_s << size << false << 1;
+    QTest::newRow("preset for a page") << preset << balance << u"2"_s << false << 1;
+    QTest::newRow("preset for a page, beside options")
+        << preset << u"com.kelmar.pde.advancedcolorsettings.rgb-source"_s << u"3"_s << false << 1;
+    QTest::newRow("preset past the filters") << preset << u"raw"_s << u"true"_s << false << 1;
+    QTest::newRow("harmless preset") << preset << u"job-priority"_s << u"70"_s << false << 0;
+    QTest::newRow("default") << none << u"media"_s << u"A3"_s << false << 0;
+    QTest::newRow("default for a page") << none << balance << u"2"_s << false << 0;
+    QTest::newRow("default past the filters") << none << u"raw"_s << u"true"_s << false << 0;
+    QTest::newRow("the server's") << preset << u"finishings"_s << u"3"_s << true << 0;
+    QTest::newRow("the server's, otherwise") << preset << u"media"_s << u"A3"_s << true << 0;
+}
+
+// A preset that goes against a lock is refused; of the user's own defaults the rest is used, and it is told.
+void PolicyTest::defaultsDoNotPassLocks()
+{
+    QFETCH(QString, instance);
+    QFETCH(QString, option);
+    QFETCH(QString, value);
+    QFETCH(bool, isServers);
+    QFETCH(int, code);
+    useFamily();
+    Destination &office = m_system.printers.first();
+    office.instance = instance;
+    office.options = {{option, value}};
+    if (isServers)
+        office.serverOptions = office.options.keys();
+    Extensions extensions({m_bundle});
+    PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [
+        {"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})"));
+    QCOMPARE(print(system, extensions, {u"-d"_s, office.name()}), code);
+    const bool isTold = option != u"job-priority"_s && !isServers;
+    QVERIFY2(m_said.contains("Set by the administrator.") == isTold, m_said.constData());
+    if (code != 0)
+        return;
+    const QList<JobOption> sent = m_system.submitted.first().options;
+    QVERIFY(sentValue(sent, u"raw"_s).isNull());
+    QVERIFY(sentValue(sent, u"ColorBalanceCyan"_s) != u"2"_s);
+    QVERIFY(sentValue(sent, u"media"_s).isEmpty() || sentValue(sent, u"media"_s) == u"A4"_s);
+}
+
+// What a session is told to set at once: a preset of the menu, a way out of a conflict, an earlier state.
+void PolicyTest::nothingElsePassesLocks()
+{
+    useFamily();
+    lay(R"({"rules": [{"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})");
+    Extensions extensions({m_bundle});
+    PrintError error;
+    DialogSession session(m_system.printers.first(), m_system.ppd(m_system.printers.first(), &error));
+    session.loadPanels(extensions);
+    const auto stands = [&] {
+        return session.ppd()->markedChoice(u"PageSize"_s) +
+               session.ppd()->markedChoice(u"ColorBalanceCyan"_s);
+    };
+    QCOMPARE(stands(), u"A40"_s);
+    const SessionState start = StateKeeper::stateOf(session);
+    applyPreset(&session, {},
+                {{u"media"_s, u"A3"_s}, {u"ColorBalanceCyan"_s, u"2"_s}, {u"raw"_s, u"true"_s}});
+    QCOMPARE(stands(), u"A40"_s);
+    QCOMPARE(session.takeNotices().size(), 3);
+    session.apply({session.ppd()->described(u"PageSize"_s, u"A3"_s)});
+    QCOMPARE(stands(), u"A40"_s);
+    QCOMPARE(session.takeNotices().size(), 1);
+    SessionState other = start;
+    other.marks.insert(u"PageSize"_s, u"A3"_s);
+    StateKeeper(&session).bring(start, other);
+    QCOMPARE(stands(), u"A40"_s);
+    for (const JobOption &option : session.jobOptions())
+        QVERIFY2(option.name != u"raw"_s, qPrintable(option.name));
+}
+
 void PolicyTest::saysThatItOffersNone_data()
 {
     QTest::addColumn<bool>("hasDefault");
@@ -200,19 +348,63 @@ void PolicyTest::saysThatItOffersNone()
     QTRY_VERIFY(m_window->session() ? queues == "attic" : shows(said));
 }
 
-void PolicyTest::lockedChoiceNeedsItsCode()
+void PolicyTest::codesAreAskedFor_data()
 {
+    QTest::addColumn<QByteArray>("locked");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("said");
+    const QString mode = u"--set PrintMode=Private"_s, without = u" --allow-no-password"_s;
+    const QString missing = u"no code has been given for it"_s, part = u"Only a part of the code"_s;
+    const QByteArray free, locked = R"("PrintMode": "Private")";
+    const QString administrator =
+        u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s;
+    QTest::newRow("no password") << free << mode << 2 << missing;
+    QTest::newRow("allowed") << free << mode + without << 0 << missing;
+    QTest::newRow("password") << free << mode + u" --set privatePassword=12345"_s << 0 << QString();
+    QTest::newRow("half a password") << free << mode + u" -o DINDigit1=1"_s << 2 << part;
+    QTest::newRow("half a password, allowed") << free << mode + u" -o dindigit1=1"_s + without << 2 << part;
+    QTest::newRow("digit by digit")
+        << free << mode + u" -o DINDigit1=1 -o DINDigit2=0 -o DINDigit3=0 -o DINDigit4=0 -o DINDigit5=0"_s
+        << 0 << QString();
+    QTest::newRow("no department") << free << u"-o DeptCode"_s << 2 << missing;
+    QTest::newRow("department") << free << u"-o DeptCode --set departmentCode=00001"_s << 0 << QString();
+    QTest::newRow("locked") << locked << QString() << 1 << administrator;
+    QTest::newRow("locked, allowed") << locked << without << 1 << administrator;
+    QTest::newRow("locked, half a password") << locked << u"-o DINDigit1=1"_s << 2 << part;
+    const QByteArray other = R"("PrintMode": "Normal")";
+    QTest::newRow("locked to a choice without a code") << other << QString() << 0 << QString();
+    QTest::newRow("locked, password") << locked << u"--set privatePassword=12345"_s << 0 << QString();
+}
+
+void PolicyTest::codesAreAskedFor()
+{
+    QFETCH(QByteArray, locked);
+    QFETCH(QString, words);
+    QFETCH(int, code);
+    QFETCH(QString, said);
     useFamily();
     Extensions extensions({m_bundle});
-    PolicyPrintSystem system(m_system, {m_bundle},
-                             lay(R"({"rules": [{"locked": {"PrintMode": "Private"}}]})"));
-    QCOMPARE(print(system, extensions, {u"-d"_s, u"office"_s}), 1);
-    QVERIFY2(m_said.contains("“Print Mode” has to be “Private”, with a code. Set by the administrator."),
+    PolicyPrintSystem system(m_system, {m_bundle}, lay("{\"rules\": [{\"locked\": {" + locked + "}}]}"));
+    QCOMPARE(print(system, extensions, (u"-d office "_s + words).split(u' ', Qt::SkipEmptyParts)), code);
+    QVERIFY2(m_said.contains(said.toUtf8()), m_said.constData());
+    QCOMPARE(m_system.submitted.size(), code == 0 ? 1 : 0);
+}
+
+void PolicyTest::presetForAModelThatProtects()
+{
+    useFamily(u"kelo110"_s);
+    Destination &office = m_system.printers.first();
+    office.instance = u"private"_s;
+    office.options = {{u"PrintMode"_s, u"Private"_s}, {u"SecureMark"_s, u"On"_s}};
+    Extensions extensions({m_bundle});
+    QCOMPARE(print(m_system, extensions, {u"-d"_s, office.name()}), 2);
+    QVERIFY2(m_said.contains("the job will not be protected") && m_said.contains("SecureMark"),
              m_said.constData());
-    QCOMPARE(print(system, extensions, {u"-d"_s, u"office"_s, u"--set"_s, u"privatePassword=12345"_s}), 0);
-    QCOMPARE(sentValue(m_system.submitted.first().options, u"PrintMode"_s), u"Private"_s);
-    PolicyPrintSystem other(m_system, {m_bundle}, lay(R"({"rules": [{"locked": {"PrintMode": "Normal"}}]})"));
-    QCOMPARE(print(other, extensions, {u"-d"_s, u"office"_s}), 0); // no code belongs to that choice
+    QCOMPARE(print(m_system, extensions, {u"-d"_s, office.name(), u"--set"_s, u"PrintMode=Normal"_s}), 0);
+    QCOMPARE(print(m_system, extensions, {u"-d"_s, office.name(), u"--allow-no-password"_s}), 0);
+    QVERIFY2(m_said.contains("the job will not be protected"), m_said.constData());
+    QCOMPARE(m_system.submitted.size(), 2);
 }
 
 void PolicyTest::dialogShowsWhatIsLocked()

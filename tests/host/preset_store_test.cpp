@@ -11,6 +11,7 @@
 #include <cups/cups.h>
 #include <cups/file.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void whatTheFileCannotHoldIsSaid();
     void manyWritersLoseNothing();
     void everybodysAreReadAndLeftAlone();
+    void lockIsNotWaitedForWithoutEnd();
 
 private:
     QString path() const { return m_folder->filePath(u"lpoptions"_s); }
@@ -73,14 +75,31 @@ void PresetStoreTest::linesOfOthersStayAsTheyAre()
     error = {};
     QVERIFY(store.remove(u"office"_s, u"zwölf"_s, &error));
     QCOMPARE(content(), others + "Dest office/fast Duplex=None\n");
+    // A name in another encoding.
+    write(others + "Dest office/gr\xfcn a=1\n");
+    const auto list = store.list(u"office"_s, &error);
+    QVERIFY(list && list->size() == 2);
+    QVERIFY(store.rename(u"office"_s, list->last().name, u"rot"_s, &error));
+    QCOMPARE(content(), others + "Dest office/rot a=1\n");
+    write(others + "Dest office/gr\xfcn a=1\n");
+    QVERIFY(store.remove(u"office"_s, list->last().name, &error));
+    QCOMPARE(content(), others);
     // The queue's own line keeps being the default.
     QVERIFY(store.save(u"office"_s, {QString(), {{u"Duplex"_s, u"None"_s}}}, &error));
     QVERIFY(content().contains("\nDefault office Duplex=None\n"));
     QVERIFY(!store.remove(u"office"_s, u"draft"_s, &error));
     QVERIFY2(error.message.contains(u"“draft”"_s), qPrintable(error.message));
-    struct stat facts = {};
-    QCOMPARE(::stat(qPrintable(path()), &facts), 0);
-    QCOMPARE(facts.st_mode & 0777, 0644U);
+    const auto mode = [this] {
+        struct stat facts = {};
+        return ::stat(qPrintable(path()), &facts) == 0 ? facts.st_mode & 0777 : 0;
+    };
+    QCOMPARE(mode(), 0644U); // as it was written
+    QVERIFY(QFile::remove(path()));
+    error = {};
+    const mode_t mask = ::umask(077);
+    QVERIFY(store.save(u"office"_s, {u"own"_s, {{u"Duplex"_s, u"None"_s}}}, &error));
+    ::umask(mask);
+    QCOMPARE(mode(), 0600U);
 }
 
 void PresetStoreTest::valuesComeBackAsTheyWere_data()
@@ -186,6 +205,20 @@ void PresetStoreTest::everybodysAreReadAndLeftAlone()
     QVERIFY(!store.remove(u"office"_s, u"house"_s, &error));
     QCOMPARE(error.kind, PrintError::Kind::NoPermission);
     QCOMPARE(content(), "Dest office/house a=1 b=1\n");
+}
+
+void PresetStoreTest::lockIsNotWaitedForWithoutEnd()
+{
+    write("Dest office/q a=b\n");
+    QFile lock(path() + u".kelmar-lock"_s);
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    QCOMPARE(::flock(lock.handle(), LOCK_EX), 0); // by a program that has been stopped
+    PrintError error;
+    QVERIFY(!store().remove(u"office"_s, u"q"_s, &error));
+    QVERIFY2(error.message.contains(path()), qPrintable(error.message));
+    lock.close();
+    error = {};
+    QVERIFY(store().remove(u"office"_s, u"q"_s, &error));
 }
 
 QTEST_GUILESS_MAIN(PresetStoreTest)

@@ -17,6 +17,7 @@ A case wants NAME=VALUE of these:
   whole=yes      the data is the document, byte by byte
   *NAME          a feature of the printer that the data sets up
   NAME           an option as filters and backend are handed it
+  exit           the code that the program ends with; when it is not 0, nothing is printed
 """
 import concurrent.futures
 import gzip
@@ -42,7 +43,9 @@ script = source / "scripts/lib/private-cupsd.sh"
 program = build / "bin/kelmar-print"
 A4, LETTER, A5 = "size=595x842", "size=612x792", "size=420x595"
 
-# Queue, document, words for the program, what has to arrive, and words for lp where they are others.
+# Queue, document, words for the program, what has to arrive, and words for lp where they are others. Words for the
+# program may begin with variables of its environment.
+LOCKED = "KELMAR_PRINT_POLICY=locks.json "
 CASES = [
     # the family's own PPD
     ("office", "report.pdf", "", f"pages=2 {A4} copies=1 *Duplex=None"),
@@ -93,6 +96,33 @@ CASES = [
     ("office", "long.txt", "-o orientation-requested=4", "pages=4"),
     ("office", "picture.png", "-o orientation-requested=4", "pages=1 turned=yes"),
     ("office", "five.pdf", "-o fit-to-page -o outputorder=reverse --set PageSize=A5", f"pages=5 {A5}"),
+    ("office", "five.pdf", "-o Copies=3", "pages=5 copies=3", "-n 3"),
+    ("office", "five.pdf", "-o PageRegion=A5", f"pages=5 {A5}", "-o PageSize=A5"),
+    ("office", "five.pdf", "-o media=A5,Tray2", f"pages=5 {A5} *InputSlot=Tray2"),
+    ("office", "five.pdf", "-o media-col={media-size-name=iso_a5_148x210mm}", f"pages=5 {A5}"),
+    ("office", "five.pdf", "-o outputorder=reverse -o sides=two-sided-long-edge", "pages=6 text=/5/4/3/2/1"),
+    # what is not printed
+    ("office", "report.pdf", "--set PrintMode=Private", "exit=2", "-o PrintMode=Private"),
+    ("office", "report.pdf", "--set PrintMode=Private -o DINDigit1=1", "exit=2", "-o PrintMode=Private"),
+    ("office", "report.pdf", "--set PrintMode=Private --allow-no-password", "pages=2 *PrintMode=Private",
+     "-o PrintMode=Private"),
+    ("office", "report.pdf", "-o DeptCode", "exit=2"),
+    ("office/Nowhere", "report.pdf", "", "exit=2"),
+    ("office", "five.pdf", "-P 9-12", "exit=2"),
+    ("office", "five.ps", "-P 9-12", "exit=2"),
+    ("office", "box.pdf", "-o page-set=even", "exit=2"),
+    ("office", "cut.pdf", "", "exit=2"),
+    ("office", "secret.pdf", "", "exit=2"),
+    ("office", "five.pdf", "-P 9-12 --output out.pdf", "exit=2"),
+    ("office", "cut.pdf", "--output out.pdf", "exit=2"),
+    # what the administrator has locked: A4 and two-sided printing
+    ("office", "report.pdf", LOCKED, f"pages=2 {A4} *Duplex=DuplexNoTumble", ""),
+    ("office", "report.pdf", LOCKED + "-o MEDIA=A4 -o Sides=two-sided-long-edge", f"{A4} *Duplex=DuplexNoTumble", ""),
+    *(("office", "report.pdf", LOCKED + words, "exit=1", words) for words in (
+        "-o PageSize=A3", "-o MEDIA=A3", "-o Media=A3", "-o PageRegion=A3", "-o media=iso_a3_297x420mm",
+        "-o 'media-col={media-size={x-dimension=29700 y-dimension=42000}}'", "-o sides=one-sided", "-o duplex=none",
+        "-o raw", "-o document-format=application/vnd.cups-raw", "-o ColorBalanceCyan=2")),
+    *((f"office/{preset}", "report.pdf", LOCKED, "exit=1", "") for preset in ("large", "cyan", "raw")),
     # a preset of the user: two-sided, two pages on a sheet, monochrome
     ("office/draft", "five.pdf", "", "pages=3 *Duplex=DuplexNoTumble *ColorType=Mono"),
     ("office/draft", "five.pdf", "-o number-up=1 -o sides=one-sided", "pages=5 *Duplex=None number-up=1"),
@@ -101,6 +131,8 @@ CASES = [
     ("admin", "five.pdf", "", f"pages=5 *Duplex=DuplexNoTumble {A5} copies=2"),
     ("admin", "five.pdf", "--set Duplex=None --set PageSize=A4 -n 1", f"pages=5 *Duplex=None {A4} copies=1"),
     ("admin", "long.txt", "-o sides=one-sided -o media=A4", f"*Duplex=None {A4}"),
+    # the same with a preset against it, as this program writes it
+    ("admin/single", "five.pdf", "", f"pages=5 *Duplex=None {A5}"),
     # another model, and PPDs of other makers
     ("small", "five.pdf", "-n 2 --set ColorType=Mono -P 1-4", "pages=4 copies=2 *ColorType=Mono"),
     ("generic", "report.pdf", "", f"pages=2 {LETTER}"),
@@ -115,6 +147,10 @@ CASES = [
     ("everywhere", "five.pdf", "-n 2 -P 2-3", "pages=2 copies=2 page-ranges=2-3"),
     ("everywhere", "note.txt", "--set ColorModel=Gray -o media=A4", f"pages=1 {A4} ColorModel=Gray"),
     ("everywhere", "report.ps.gz", "-o media=A4", f"pages=2 {A4}"),
+    # the same, gray by default
+    ("gray", "report.pdf", "", "ColorModel=Gray", "-o ColorModel=Gray"),
+    ("gray", "report.pdf", "--set ColorModel=RGB", "ColorModel=RGB print-color-mode=color",
+     "-o ColorModel=RGB -o print-color-mode=color"),
     # no PPD
     ("raw", "report.pdf", "-n 2 -o sides=two-sided-long-edge", "whole=yes copies=2 sides=two-sided-long-edge"),
     ("raw", "note.txt", "", "whole=yes"),
@@ -129,6 +165,8 @@ CASES = [
      f"pages=2 {A5} *PrintMode=Private *DINDigit1=5",
      "-o PrintMode=Private -o DINDigit1=5 -o DINDigit2=4 -o DINDigit3=3 -o DINDigit4=2 -o DINDigit5=1 -o PageSize=A5"),
     ("remote:office", "long.txt", "-n 2 --set Duplex=DuplexTumble", "pages=3 copies=2 *Duplex=DuplexTumble"),
+    # the same server over TLS
+    ("tls:office", "report.pdf", "-n 2 --set Duplex=DuplexTumble", "pages=2 copies=2 *Duplex=DuplexTumble"),
     # queues that want to know who prints: by the socket's word, and by name and password
     ("members", "report.pdf", "-n 2 --set ColorType=Mono", "pages=2 copies=2 *ColorType=Mono"),
     ("login:office", "five.pdf", "-P 2-3 --set PrintMode=Private --set privatePassword=11111",
@@ -167,6 +205,8 @@ def make_documents(folder):
         (folder / f"{name}.ps").write_text(f"%!PS-Adobe-3.0\n%%Pages: 1\n%%BoundingBox: 0 0 {size}\n%%EndComments\n"
                                            "%%Page: 1 1\n120 120 200 300 rectfill showpage\n%%EOF\n")
         must("gs", "-q", "-o", folder / f"{name}.pdf", "-sDEVICE=pdfwrite", f"-sPAPERSIZE={paper}", folder / f"{name}.ps")
+    (folder / "cut.pdf").write_bytes((folder / "report.pdf").read_bytes()[:2000])
+    must("qpdf", "--encrypt", "open", "owner", "256", "--", folder / "report.pdf", folder / "secret.pdf")
     (folder / "long.txt").write_text("".join(f"line {n}\n" for n in range(150)))
     row = b"\x00\x80\xff" * 40
     (folder / "picture.bmp").write_bytes(
@@ -223,7 +263,11 @@ class Setup:
         self.describe_everywhere()
         (self.folder / ".cups").mkdir()
         (self.folder / ".cups/lpoptions").write_text(
-            "Dest office/draft sides=two-sided-long-edge number-up=2 ColorType=Mono\n")
+            "Dest office/draft sides=two-sided-long-edge number-up=2 ColorType=Mono\n"
+            "Dest office/large MEDIA=A3\nDest office/cyan ColorBalanceCyan=2\nDest office/raw raw=true\n"
+            "Dest admin/single Duplex=None sides=one-sided\n")
+        (self.folder / "locks.json").write_text(json.dumps({"rules": [
+            {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble"}, "lockedPanels": ["color-settings-2"]}]}))
         self.child(["python3", source / "tests/integration/faulty_proxy.py", self.folder / "login", self.socket, "login"],
                    lambda: answers(socket.AF_UNIX, str(self.folder / "login")))
 
@@ -254,6 +298,8 @@ class Setup:
                    DBUS_SYSTEM_BUS_ADDRESS=f"unix:path={bus}")
         self.lpadmin("-p", "everywhere", "-E", "-v", f"ipp://localhost:{port}/ipp/print", "-m", "everywhere")
         self.lpadmin("-p", "everywhere", "-v", "capture:/")
+        self.lpadmin("-p", "gray", "-E", "-v", "capture:/", "-P", self.servers[0] / "etc/ppd/everywhere.ppd",
+                     "-o", "print-color-mode-default=monochrome")
 
     def stop(self):
         for child in self.children:
@@ -263,7 +309,8 @@ class Setup:
             run("bash", script, "stop", server)
 
     def address(self, queue):
-        return {"remote": f"localhost:{self.port}", "login": self.folder / "login"}.get(queue.split(":")[0], self.socket)
+        far = f"localhost:{self.port}"
+        return {"remote": far, "tls": far, "login": self.folder / "login"}.get(queue.split(":")[0], self.socket)
 
 
 def on_terminal(words, environment, results):
@@ -299,16 +346,20 @@ class Job:
 
     def __init__(self, setup, title, queue, path, words):
         self.setup, self.title, self.path = setup, title, path
+        self.variables = dict(word.split("=", 1) for word in words if re.match("KELMAR_[A-Z_]+=", word))
+        words = [word for word in words if not re.match("KELMAR_[A-Z_]+=", word)]
         self.words = [*map(str, words), "-h", str(setup.address(queue)), "-d", queue.split(":")[-1], "-t", title,
                       str(path)]
         self.needs_login = queue.startswith("login:")
+        if queue.startswith("tls:"):
+            self.variables["CUPS_ENCRYPTION"] = "Required"
         self.was_sent = True
         self.problem = ""
         self.facts = {}
 
     def send(self, command):
         environment = dict(os.environ, HOME=str(self.setup.folder), QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
-                           LANGUAGE="en", CUPS_SERVER=str(self.setup.socket))
+                           LANGUAGE="en", CUPS_SERVER=str(self.setup.socket), **self.variables)
         if command[0] == "lp":  # takes its server first
             at = self.words.index("-h")
             command = [*command, *self.words[at:at + 2]]
@@ -317,8 +368,9 @@ class Job:
         if self.needs_login:
             code, said = on_terminal(words, environment, self.setup.folder / f"{self.title}.json")
         else:
-            done = run(*words, env=environment, stdin=subprocess.DEVNULL)
+            done = run(*words, env=environment, stdin=subprocess.DEVNULL, cwd=self.setup.folder)
             code, said = done.returncode, done.stdout.decode() + done.stderr.decode()
+        self.facts["exit"] = str(code)
         if code:
             self.was_sent = False
             self.problem = said.strip() or f"exit code {code}"
@@ -384,7 +436,7 @@ class Job:
 
 
 def main():
-    for tool in ("cupsd", "lp", "ppdc", "gs", "pdfinfo", "ippeveprinter", "dbus-daemon"):
+    for tool in ("cupsd", "lp", "ppdc", "gs", "qpdf", "pdfinfo", "ippeveprinter", "dbus-daemon"):
         if not shutil.which(tool, path=os.environ["PATH"] + ":/usr/sbin"):
             stop_with(f"{tool} is not installed", 77)
     os.environ["PATH"] += ":/usr/sbin"
@@ -410,7 +462,7 @@ def compare(setup):
         ours.send([program, "--batch", "--json"])
         theirs = Job(setup, f"{number:02}-lp", queue, path, lp_words(others[0] if others else words))
         ours.look()
-        if ours.needs_login:
+        if ours.needs_login or "exit=" in case[4]:
             theirs.problem = "not compared"
         else:
             theirs.send(["lp"])
@@ -422,12 +474,14 @@ def compare(setup):
         for case, (ours, theirs) in zip(cases, pool.map(work, cases)):
             number, queue, document, words, wanted, *_ = case
             wants = dict(want.split("=", 1) for want in wanted.split())
+            if wants.get("exit") == ours.facts["exit"] and not ours.captured():
+                ours.problem = ""
             missing = [f"{name}={ours.facts.get(name, '(none)')} instead of {value}" for name, value in wants.items()
                        if ours.facts.get(name) != value]
             lp = [f"{name}={theirs.facts.get(name, '(none)')}" for name, value in wants.items()
                   if theirs.facts.get(name) != value]
             if theirs.problem:
-                lp = [] if ours.needs_login else lp
+                lp = [] if theirs.problem == "not compared" else lp
                 lp.insert(0, " ".join(theirs.problem.split()))
             fault = "; ".join(([ours.problem] if ours.problem else []) + missing)
             wrong += bool(fault)

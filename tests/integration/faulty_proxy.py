@@ -6,6 +6,7 @@
 LISTEN and SERVER are socket paths. The fault strikes the request NUMBER (counted from 1) of its operation, and
 every one after it:
   create-lost create-garbage create-negative   Create-Job arrives; its answer is lost, garbage, or names job -5
+  create-nonsense                              the answer to Create-Job has a status that no server has
   create-endless                               the answer to Create-Job never ends
   send-forgotten                               Send-Document is answered; from then on nothing is known of jobs
   send-lost send-garbage send-truncated        Send-Document arrives; what comes back is not the whole answer
@@ -119,6 +120,8 @@ class Relay(http.server.BaseHTTPRequestHandler):
             raise Broken
         if hit and fault.endswith("-garbage"):
             content = os.urandom(200)
+        if hit and fault == "create-nonsense":
+            content = content[:2] + b"\xff\xff" + content[4:]
         if hit and fault == "create-negative":
             at = content.index(b"job-id") + 8
             content = content[:at] + struct.pack(">i", -5) + content[at + 4:]

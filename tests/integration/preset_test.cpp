@@ -10,6 +10,7 @@
 #include "tests/integration/batch_call.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QJsonArray>
 #include <QMenu>
 #include <QProcess>
@@ -41,7 +42,10 @@ class PresetTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void otherProgramsPrintWithThePreset();
+    void fileThatCannotBeReadIsTold();
     void presetsOfOtherProgramsAreThere();
+    void codesAreNotKept_data();
+    void codesAreNotKept();
     void panelsTakeAPresetAndGiveItBack();
 
 private:
@@ -101,6 +105,22 @@ void PresetTest::otherProgramsPrintWithThePreset()
     QCOMPARE(run({u"--delete-preset"_s, u"zwölf"_s}), int(ExitSuccess));
     QVERIFY(preset(u"zwölf"_s).isEmpty());
     QCOMPARE(run({u"--delete-preset"_s, u"zwölf"_s}), int(ExitUsage));
+    QCOMPARE(run({u"-d"_s, u"office/zwölf"_s, u"--summary"_s}), int(ExitUsage));
+    QCOMPARE(m_json[u"error"_s][u"code"_s].toString(), u"no-such-preset"_s);
+}
+
+// For root it is everybody's.
+void PresetTest::fileThatCannotBeReadIsTold()
+{
+    const PresetStore::Files files = PresetStore::filesOfCups();
+    const QString path = files.writesForEverybody ? files.everybodys : files.users;
+    (void)QFile::remove(path);
+    QVERIFY(QDir().mkpath(path)); // which root cannot read either
+    QCOMPARE(run({u"--summary"_s}), int(ExitSuccess));
+    QVERIFY2(m_json[u"notices"_s][0].toString().startsWith(u"Your own defaults"_s),
+             QJsonDocument(m_json).toJson().constData());
+    QCOMPARE(run({u"-d"_s, u"office/any"_s, u"--summary"_s}), int(ExitFailure));
+    QVERIFY(QDir().rmdir(path));
 }
 
 void PresetTest::presetsOfOtherProgramsAreThere()
@@ -118,6 +138,29 @@ void PresetTest::presetsOfOtherProgramsAreThere()
     QCOMPARE(kept[u"TonerSave"_s].toString(), u"True"_s);
     QVERIFY(runs(u"lpoptions"_s, {u"-x"_s, u"office/theirs"_s}));
     QVERIFY(preset(u"theirs"_s).isEmpty());
+}
+
+void PresetTest::codesAreNotKept_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("digits") << QStringList{u"-o"_s, u"dindigit1=7"_s, u"--set"_s, u"DCDigit2=7"_s};
+    QTest::newRow("job password") << QStringList{u"-o"_s, u"job-password=7777"_s};
+}
+
+// By a program that has no bundle to tell what a code is.
+void PresetTest::codesAreNotKept()
+{
+    QFETCH(QStringList, words);
+    const QStringList call = {u"-d"_s,   u"office"_s, u"--save-preset"_s,
+                              u"code"_s, u"--set"_s,  u"PrintMode=Private"_s};
+    Extensions none({});
+    QCOMPARE(callBatch(call + words, *m_system, none, &m_json), int(ExitSuccess));
+    QVERIFY(m_json[u"notices"_s].toArray().size() > 0);
+    const PresetStore::Files files = PresetStore::filesOfCups();
+    QFile file(files.writesForEverybody ? files.everybodys : files.users);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY2(content.contains("PrintMode=Private") && !content.contains('7'), content.constData());
 }
 
 void PresetTest::panelsTakeAPresetAndGiveItBack()
@@ -147,12 +190,12 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
             action->trigger();
     }
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Mono0"_s);
-    QCOMPARE(window.session()->printSettings()->value(rgbSource).toString(), u"3"_s);
+    QCOMPARE(window.session()->printSettings().value(rgbSource).toString(), u"3"_s);
     QVERIFY2(window.messageBar()->text().contains(u"Staple"_s), qPrintable(window.messageBar()->text()));
     QTest::keyClick(window.book()->list(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Auto2"_s);
     QCOMPARE(balance->keyValueObject()->valueForKey(u"ColorBalanceCyan"_s).toString(), u"2"_s);
-    QVERIFY(!window.session()->printSettings()->value(rgbSource).isValid());
+    QVERIFY(!window.session()->printSettings().value(rgbSource).isValid());
     QTest::keyClick(window.book()->list(), Qt::Key_Y, Qt::ControlModifier);
     window.print();
     QTRY_VERIFY(window.submission());

@@ -27,6 +27,9 @@ namespace {
 
 constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, where nothing has been chosen
 constexpr double usualHeight = 297 / 25.4 * 72;
+// What can be typed. A number beyond the printer's limits stays as it is and is told: cut off, it would be
+// another one.
+constexpr int mostTyped = 999'999;
 
 int decimalsOf(const QString &unit)
 {
@@ -103,7 +106,8 @@ void CustomEditor::addSize()
         m_fields.append({box, [this, box] { return plainNumber(box->value()) + m_currentUnit; },
                          [this, box](const QString &points) {
                              box->setValue(points.toDouble() / CustomLength::pointsIn(m_currentUnit));
-                         }});
+                         },
+                         true});
         connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
     }
     row->addWidget(m_unit);
@@ -139,10 +143,11 @@ void CustomEditor::addParameter(const CustomParameter &parameter)
 CustomEditor::Field CustomEditor::wholeField(const CustomParameter &parameter)
 {
     auto *box = new QSpinBox(this);
-    box->setRange(static_cast<int>(parameter.minimum), static_cast<int>(parameter.maximum));
+    box->setRange(static_cast<int>(std::min(parameter.minimum, -double(mostTyped))),
+                  static_cast<int>(std::max(parameter.maximum, double(mostTyped))));
     connect(box, &QSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
     return {box, [box] { return QString::number(box->value()); },
-            [box](const QString &value) { box->setValue(value.toInt()); }};
+            [box](const QString &value) { box->setValue(value.toInt()); }, true};
 }
 
 CustomEditor::Field CustomEditor::numberField(const CustomParameter &parameter)
@@ -152,13 +157,13 @@ CustomEditor::Field CustomEditor::numberField(const CustomParameter &parameter)
     const double span = parameter.maximum - parameter.minimum;
     box->setDecimals(isLength ? 1 : span > 1 ? 2 : 4);
     box->setSingleStep(span > 20 ? 1 : span / 20);
-    box->setRange(roundedUp(parameter.minimum, box->decimals()),
-                  roundedDown(parameter.maximum, box->decimals()));
+    box->setRange(std::min(parameter.minimum, -double(mostTyped)),
+                  std::max(parameter.maximum, double(mostTyped)));
     if (isLength)
         box->setSuffix(tr(" pt", "points, behind a number"));
     connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
     return {box, [box] { return plainNumber(box->value()); },
-            [box](const QString &value) { box->setValue(value.toDouble()); }};
+            [box](const QString &value) { box->setValue(value.toDouble()); }, true};
 }
 
 CustomEditor::Field CustomEditor::textField(const CustomParameter &parameter)
@@ -174,7 +179,7 @@ CustomEditor::Field CustomEditor::textField(const CustomParameter &parameter)
     }
     connect(field, &QLineEdit::textEdited, this, &CustomEditor::fieldEdited);
     return {field, [field] { return field->text(); },
-            [field](const QString &value) { field->setText(value); }};
+            [field](const QString &value) { field->setText(value); }, false};
 }
 
 void CustomEditor::setRanges()
@@ -190,7 +195,7 @@ void CustomEditor::setRanges()
             const double to = roundedDown(side.maximum / scale, decimals);
             const QSignalBlocker quiet(m_sides.at(i));
             m_sides.at(i)->setDecimals(3); // what was given on the command line may be finer
-            m_sides.at(i)->setRange(from, to);
+            m_sides.at(i)->setRange(0, mostTyped);
             m_sides.at(i)->setDecimals(decimals);
             m_sides.at(i)->setSingleStep(m_currentUnit == QLatin1String("in") ? 0.25 : 1);
             least.append(QLocale().toString(from, 'f', decimals));
@@ -242,8 +247,8 @@ void CustomEditor::showProblem()
 
 void CustomEditor::fieldEdited()
 {
-    colourHint(false);
     m_shown.clear();
+    colourHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may only be unfinished
     Q_EMIT edited();
 }
 

@@ -43,6 +43,7 @@ private:
         QWidget *widget;
         std::function<QString()> value;
         std::function<void(const QString &)> setValue;
+        bool isNumber = false;
     };
     void addSize();
     void addParameter(const CustomParameter &parameter);

@@ -19,7 +19,9 @@ PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)
     PrinterOpening opening;
     if (!wish.isForAnyone()) {
         opening.printer = openPrinter(system, wish, &opening.error);
-        if (!wish.mayBeGone || opening.error.kind != PrintError::Kind::NoSuchPrinter)
+        const bool isGone = opening.error.kind == PrintError::Kind::NoSuchPrinter ||
+                            opening.error.kind == PrintError::Kind::NoSuchPreset;
+        if (!wish.mayBeGone || !isGone)
             return opening;
         opening.error = {};
     }

@@ -55,6 +55,9 @@ public:
             form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), this));
         form->addRow(sentence(
             LoginText::tr("The print server %1 wants to know who prints.").arg(question.server), this));
+        if (question.isInClear)
+            form->addRow(
+                sentence(LoginText::tr("The password will cross the network without encryption."), this));
         form->addRow(LoginText::tr("&User name:"), m_user);
         form->addRow(LoginText::tr("&Password:"), m_password);
         form->addRow(buttons);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/session/change_ledger.h"
+#include "host/session/change_notices.h"
 
 #include "host/printing/ppd_document.h"
 
@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 
 namespace host {
 
@@ -47,20 +46,6 @@ QString sentence(const Group &group)
 }
 
 } // namespace
-
-void ChangeLedger::announce(const QString &keyword, const QVariant &before, bool byUser,
-                            const OptionChoice &cause)
-{
-    const bool known = std::any_of(m_entries.begin(), m_entries.end(),
-                                   [&](const Entry &entry) { return entry.keyword == keyword; });
-    if (!known)
-        m_entries.append({keyword, before, byUser, cause});
-}
-
-QList<ChangeLedger::Entry> ChangeLedger::take()
-{
-    return std::exchange(m_entries, {});
-}
 
 bool sameValue(const QVariant &a, const QVariant &b)
 {

@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/printing/cups_handles.h"
+#include "host/printing/ppd_document.h"
+
+#include <cups/ppd.h>
+#include <cups/pwg.h>
+
+#include <algorithm>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+
+// The part of PpdDocument that turns job options of the print system into choices of the PPD.
+namespace host {
+
+namespace {
+
+const QString mediaName = QStringLiteral("media");
+const QString mediaCollectionName = QStringLiteral("media-col");
+const QString regionName = QStringLiteral("pageregion");
+const QString pageSize = QStringLiteral("PageSize");
+
+bool isSame(const QString &one, const QString &other)
+{
+    return one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
+// The name of a size by its measures, such as "{x-dimension=21000 y-dimension=29700}"; nil where there is
+// none.
+QString sizeName(const char *collection)
+{
+    const CupsOptionList measures(collection);
+    const char *width = cupsGetOption("x-dimension", measures.count(), measures.options());
+    const char *length = cupsGetOption("y-dimension", measures.count(), measures.options());
+    const pwg_media_t *media =
+        width && length ? pwgMediaForSize(QByteArray(width).toInt(), QByteArray(length).toInt()) : nullptr;
+    return media ? QString::fromUtf8(media->pwg) : QString();
+}
+
+// The members of a "media-col", each as a value of "media"; empty where one says more than "media" can.
+QStringList mediaValues(const QString &collection)
+{
+    const CupsOptionList members(collection.toUtf8().constData());
+    QStringList values;
+    for (int i = 0; i < members.count(); ++i) {
+        const QByteArray name(members.options()[i].name);
+        if (name == "media-size")
+            values.append(sizeName(members.options()[i].value));
+        else if (name == "media-size-name" || name == "media-source" || name == "media-type")
+            values.append(QString::fromUtf8(members.options()[i].value));
+        else
+            return {};
+    }
+    return values;
+}
+
+} // namespace
+
+QStringList PpdDocument::optionsOfStandardName(const QString &name)
+{
+    static const QString media = QStringLiteral("PageSize InputSlot MediaType");
+    static const QString resolution = QStringLiteral("Resolution SetResolution JCLResolution");
+    static const QMap<QString, QString> keywords = {
+        {mediaName, media},
+        {mediaCollectionName, media},
+        {regionName, pageSize},
+        {QStringLiteral("sides"),
+         QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
+        {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
+        {QStringLiteral("print-color-mode"), QStringLiteral("ColorModel")},
+        {QStringLiteral("printer-resolution"), resolution},
+        {QStringLiteral("resolution"), resolution}};
+    return keywords.value(name.toLower()).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+bool PpdDocument::takesOption(const QString &name) const
+{
+    const QStringList standsFor = optionsOfStandardName(name);
+    return hasOption(name) || std::any_of(standsFor.begin(), standsFor.end(),
+                                          [this](const QString &keyword) { return hasOption(keyword); });
+}
+
+QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
+{
+    CupsOptionList list;
+    QStringList problems;
+    for (auto it = options.begin(); it != options.end(); ++it) {
+        if (!takesOption(it.key()))
+            continue;
+        const bool isRegion = isSame(it.key(), regionName);
+        if (isSame(it.key(), mediaCollectionName)) {
+            const QMap<QString, QString> choices = standardChoices(it.key(), it.value());
+            for (auto choice = choices.begin(); choice != choices.end(); ++choice)
+                list.add(choice.key().toUtf8().constData(), choice.value().toUtf8().constData());
+            continue;
+        }
+        const auto subject = isCustomChoice(it.value())
+                                 ? option(isRegion || isSame(it.key(), mediaName) ? pageSize : it.key())
+                                 : std::nullopt;
+        QString problem;
+        if (!subject || !subject->custom)
+            list.add((isRegion ? pageSize : it.key()).toUtf8().constData(), it.value().toUtf8().constData());
+        else if (subject->custom->read(it.value(), subject->keyword, &problem))
+            mark(subject->keyword, it.value());
+        else
+            problems.append(problem);
+    }
+    cupsMarkOptions(m_ppd, list.count(), list.options());
+    return problems;
+}
+
+QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const QString &value,
+                                                    bool alsoKeywords)
+{
+    QStringList parts(value);
+    if (isSame(name, mediaName))
+        parts = value.split(QLatin1Char(','));
+    else if (isSame(name, mediaCollectionName))
+        parts = mediaValues(value);
+    QMap<QString, QString> result;
+    for (const QString &part : std::as_const(parts)) {
+        QMap<QString, QString> choices = choicesMarkedBy(name, part.trimmed());
+        if (choices.isEmpty() && alsoKeywords)
+            choices = choicesNamed(part.trimmed(), optionsOfStandardName(name));
+        if (choices.isEmpty())
+            return {};
+        result.insert(choices);
+    }
+    return result;
+}
+
+QMap<QString, QString> PpdDocument::choicesNamed(const QString &name, const QStringList &options) const
+{
+    for (const QString &keyword : options) {
+        const auto subject = option(keyword);
+        if (subject && subject->hasChoice(subject->spelled(name)))
+            return {{keyword, subject->spelled(name)}};
+    }
+    return {};
+}
+
+// libcups does not tell what it marks for a name. So each option that it may mark is set to another choice
+// first; what has moved from there was meant.
+QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const QString &value)
+{
+    const QStringList options = optionsOfStandardName(name);
+    const QString known = isSame(name, mediaCollectionName) || isSame(name, regionName) ? mediaName : name;
+    QMap<QString, QString> before, decoys, result;
+    for (const QString &keyword : options) {
+        const auto subject = option(keyword);
+        if (!subject || subject->markedChoice.isEmpty())
+            continue;
+        before.insert(keyword, subject->markedChoice);
+        for (const PpdOption::Choice &choice : subject->choices) {
+            if (choice.keyword != subject->markedChoice && mark(keyword, choice.keyword)) {
+                decoys.insert(keyword, choice.keyword);
+                break;
+            }
+        }
+    }
+    const auto markedByValue = [&] {
+        CupsOptionList list;
+        list.add(known.toUtf8().constData(), value.toUtf8().constData());
+        cupsMarkOptions(m_ppd, list.count(), list.options());
+        for (auto it = before.begin(); it != before.end(); ++it) {
+            const QString now = markedChoice(it.key());
+            const bool isSound = !isCustomChoice(now) || option(it.key())->hasChoice(now);
+            if (isSound && now != decoys.value(it.key(), it.value()))
+                result.insert(it.key(), now);
+        }
+    };
+    markedByValue();
+    // A value may be the decoy itself; from where things stood it is a change.
+    for (auto it = before.begin(); it != before.end(); ++it)
+        mark(it.key(), it.value());
+    decoys.clear();
+    markedByValue();
+    for (auto it = before.begin(); it != before.end(); ++it)
+        mark(it.key(), it.value());
+    return result;
+}
+
+} // namespace host
