@@ -7,9 +7,11 @@
 #include "host/printing/destination.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <algorithm>
 #include <cups/file.h>
+#include <optional>
 
 namespace host {
 

@@ -5,6 +5,7 @@
 #include "platform/bundle.h"
 #include "platform/text_field.h"
 #include "tests/support/loop_waiter.h"
+#include "tests/support/paths.h"
 #include "tests/support/private_network.h"
 #include "tests/support/recording_host.h"
 #include "tests/support/simulated_printer.h"
@@ -36,7 +37,7 @@ public:
 
 QByteArray shippedDevice()
 {
-    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/simulator/orbm880.device"));
+    QFile file(sourcePath("/simulator/orbm880.device"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

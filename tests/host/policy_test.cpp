@@ -9,6 +9,7 @@
 #include "platform/choice_box.h"
 #include "platform/key_value_object.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -71,14 +72,14 @@ private:
 
     void useFamily() // the real panels and the PPD of a real model, for the queue "office"
     {
-        QFile ppd(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"));
+        QFile ppd(buildPath("/ppds/kelm880.ppd"));
         QVERIFY(ppd.open(QIODevice::ReadOnly));
         (void)ppd.readLine(); // the fixture writes it
         m_system.ppds[u"office"_s] = ppd.readAll();
         m_system.printers.first().deviceUri = u"file:/dev/null"_s; // a device that nobody asks
     }
 
-    const QString m_bundle = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle");
+    const QString m_bundle = buildPath("/bin/OrbM880.bundle");
     QByteArray m_said;
 };
 

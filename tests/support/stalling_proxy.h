@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/support/child_process.h"
+#include "tests/support/paths.h"
 
 #include <QFile>
 #include <QTest>
@@ -19,7 +20,7 @@ public:
         QFile::remove(socketPath);
         m_process = startChildProcess(
             QStringLiteral("python3"),
-            {QStringLiteral(KELMAR_SOURCE_DIR "/tests/support/stalling_proxy.py"), socketPath, serverPath},
+            {sourcePath("/tests/support/stalling_proxy.py"), socketPath, serverPath},
             "ready", error, 15000, QIODevice::ReadWrite);
     }
 
