@@ -231,9 +231,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
     QFETCH(int, mode);
     const QTemporaryDir folder;
     const QString bundle = folder.filePath(u"OrbM880.bundle"_s);
-    QCOMPARE(QProcess::execute(u"cp"_s,
-                               {u"-r"_s, buildPath("/bin/OrbM880.bundle"), bundle}),
-             0);
+    QCOMPARE(QProcess::execute(u"cp"_s, {u"-r"_s, buildPath("/bin/OrbM880.bundle"), bundle}), 0);
     const QStringList words{u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--bundle"_s, bundle};
     const Outcome before = run(words);
     QVERIFY2(before.out.contains("departmentCode"), before.err.constData());

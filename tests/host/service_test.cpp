@@ -152,10 +152,9 @@ void ServiceTest::startService(const QStringList &arguments)
 {
     m_service.reset(new QProcess);
     m_service->setProcessChannelMode(QProcess::ForwardedChannels);
-    m_service->start(
-        buildPath("/bin/kelmar-print-service"),
-        QStringList{u"--dialog-program"_s, sourcePath("/tests/host/stub_dialog.sh")} +
-            arguments);
+    m_service->start(buildPath("/bin/kelmar-print-service"),
+                     QStringList{u"--dialog-program"_s, sourcePath("/tests/host/stub_dialog.sh")} +
+                         arguments);
     const auto hasName = [this] {
         const auto reply = m_bus.call(QDBusMessage::createMethodCall(
             u"org.freedesktop.DBus"_s, u"/"_s, u"org.freedesktop.DBus"_s, u"ListNames"_s));

@@ -61,8 +61,7 @@ void PresetTest::initTestCase()
         QSKIP(qPrintable(missing));
     qputenv("CUPS_SERVERROOT", m_server.folder().toLocal8Bit() + "/everybodys");
     QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
-    QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")),
-             qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
 }
 
 int PresetTest::run(const QStringList &words)

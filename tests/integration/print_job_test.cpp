@@ -79,9 +79,8 @@ void PrintJobTest::initTestCase()
     for (const QString &queue : {u"office"_s, u"paused"_s, u"rejecting"_s})
         QVERIFY2(m_server.addQueue(queue, ppd), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
-    QVERIFY2(
-        m_server.addQueue(u"custom"_s, sourcePath("/tests/host/custom_values.ppd")),
-        qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"custom"_s, sourcePath("/tests/host/custom_values.ppd")),
+             qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
     QVERIFY(m_server.setPaused(u"paused"_s, true));
     QVERIFY(m_server.setAccepting(u"rejecting"_s, false));
@@ -396,8 +395,7 @@ void PrintJobTest::documentOfAnApplicationIsSent()
 
 void PrintJobTest::queueOfTheDialogIsNoPrinter()
 {
-    QVERIFY(m_server.addQueue(u"dialog"_s,
-                              buildPath("/packaging/queue/kelmar-dialog.ppd"),
+    QVERIFY(m_server.addQueue(u"dialog"_s, buildPath("/packaging/queue/kelmar-dialog.ppd"),
                               u"kelmar-dialog:/"_s));
     QVERIFY(m_server.setDefaultQueue(u"dialog"_s));
     CupsPrintSystem system;

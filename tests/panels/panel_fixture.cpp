@@ -40,8 +40,7 @@ PanelFixture::~PanelFixture()
 void PanelFixture::makePanels(const QLocale &locale)
 {
     QString error;
-    m_bundle =
-        platform::Bundle::open(buildPath("/bin/OrbM880.bundle"), locale, &error);
+    m_bundle = platform::Bundle::open(buildPath("/bin/OrbM880.bundle"), locale, &error);
     if (!m_bundle)
         qFatal("%s", qPrintable(error));
     m_factory.initWithBundle(m_bundle);

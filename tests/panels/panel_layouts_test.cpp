@@ -93,8 +93,7 @@ QStringList localizableKeys()
 // libcups keeps those of one language only.
 QHash<QString, QString> ppdTexts(const QByteArray &ppdName, const QString &language)
 {
-    const QByteArray file =
-        contents(buildPath("/ppds/%1.ppd").arg(QLatin1String(ppdName)));
+    const QByteArray file = contents(buildPath("/ppds/%1.ppd").arg(QLatin1String(ppdName)));
     const QRegularExpression line(u"^\\*%1\\.(\\w+ [^/]+)/(.*): \"\"$"_s.arg(language),
                                   QRegularExpression::MultilineOption);
     QHash<QString, QString> texts;
@@ -224,8 +223,7 @@ void PanelLayoutsTest::everyTextIsTranslated()
     const QString folder = buildPath("/bin/OrbM880.bundle");
     QTranslator table;
     QVERIFY(table.load(folder + u"/strings/OrbM880_%1.qm"_s.arg(language)));
-    const QFileInfoList layouts =
-        QDir(sourcePath("/resources/layouts")).entryInfoList({u"*.ui"_s});
+    const QFileInfoList layouts = QDir(sourcePath("/resources/layouts")).entryInfoList({u"*.ui"_s});
     QVERIFY(!layouts.isEmpty());
     for (const QFileInfo &layout : layouts) {
         for (const auto &[context, text] : textsOfLayout(layout.filePath()))

@@ -3,6 +3,7 @@
 
 #include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
+#include "tests/support/paths.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

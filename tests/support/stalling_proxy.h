@@ -18,10 +18,10 @@ public:
         : m_socketPath(socketPath)
     {
         QFile::remove(socketPath);
-        m_process = startChildProcess(
-            QStringLiteral("python3"),
-            {sourcePath("/tests/support/stalling_proxy.py"), socketPath, serverPath},
-            "ready", error, 15000, QIODevice::ReadWrite);
+        m_process =
+            startChildProcess(QStringLiteral("python3"),
+                              {sourcePath("/tests/support/stalling_proxy.py"), socketPath, serverPath},
+                              "ready", error, 15000, QIODevice::ReadWrite);
     }
 
     bool isRunning() const { return m_process != nullptr; }
