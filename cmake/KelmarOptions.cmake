@@ -32,9 +32,16 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 # Where the platform library and the bundles are installed: the program looks there, beside its own folder.
 set(KELMAR_PRIVATE_DIR lib/kelmar-print)
 
-# What a print dialog costs is loading it: every page of code that is mapped counts, and hardly a loop.
-set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
-foreach(flag --gc-sections --as-needed -z,noseparate-code -z,pack-relative-relocs)
+# What a print dialog costs is loading it: every page of code that is mapped counts, and hardly a loop. Flags that the user or
+# a packager gives stay as they are.
+if(CMAKE_CXX_FLAGS_RELEASE STREQUAL "-O3 -DNDEBUG") # what CMake sets where nothing was given
+  if(CMAKE_CXX_FLAGS MATCHES "(^| )-O")
+    set(CMAKE_CXX_FLAGS_RELEASE "-DNDEBUG")
+  else()
+    set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
+  endif()
+endif()
+foreach(flag --gc-sections --as-needed -z,pack-relative-relocs)
   add_link_options($<$<CONFIG:Release>:-Wl,${flag}>)
 endforeach()
 add_compile_options($<$<CONFIG:Release>:-ffunction-sections> $<$<CONFIG:Release>:-fdata-sections>)
@@ -51,9 +58,22 @@ foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -
 endforeach()
 add_compile_options(-Wformat -Werror=format-security)
 if(NOT KELMAR_SANITIZE) # the sanitizers look at the same calls, and fortifying needs an optimised build
-  add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+  include(CheckCXXSourceCompiles)
+  set(CMAKE_REQUIRED_FLAGS -O2)
+  check_cxx_source_compiles("#ifndef _FORTIFY_SOURCE\n#error\n#endif\nint main() {}" KELMAR_IS_FORTIFIED)
+  unset(CMAKE_REQUIRED_FLAGS)
+  if(NOT KELMAR_IS_FORTIFIED) # neither by the packager's flags nor by the compiler's own
+    add_compile_options($<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=3>)
+  endif()
 endif()
-add_link_options(LINKER:-z,relro LINKER:-z,now)
+add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,separate-code)
+# The files that a program starts with (crti.o) carry no note of control-flow protection, and the linker would leave it out.
+# They do no harm to a shadow stack; but they lack the landing pads of indirect branch tracking.
+include(CheckLinkerFlag)
+check_linker_flag(CXX LINKER:-z,shstk KELMAR_MARKS_SHADOW_STACK)
+if(KELMAR_HAS_fcf_protection AND KELMAR_MARKS_SHADOW_STACK)
+  add_link_options(LINKER:-z,shstk)
+endif()
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES C CXX)
 
@@ -65,12 +85,18 @@ endif()
 
 add_library(kelmar_options INTERFACE)
 target_include_directories(kelmar_options INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(kelmar_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
-                                                $<$<BOOL:${KELMAR_WERROR}>:-Werror>)
+# Set for the targets that are built with the paths for older dialog hosts; see tests/older/CMakeLists.txt.
+define_property(TARGET PROPERTY KELMAR_OLDER_HOSTS INITIALIZE_FROM_VARIABLE KELMAR_OLDER_HOSTS)
+# Not -Wconversion in tests: it warns inside QTRY_VERIFY and its like from Qt 6.8 on.
+define_property(TARGET PROPERTY KELMAR_IS_TEST INITIALIZE_FROM_VARIABLE KELMAR_IS_TEST)
+target_compile_options(
+  kelmar_options INTERFACE -Wall -Wextra -Wpedantic $<$<NOT:$<BOOL:$<TARGET_PROPERTY:KELMAR_IS_TEST>>>:-Wconversion>
+                           $<$<BOOL:${KELMAR_WERROR}>:-Werror>)
 target_compile_definitions(
   kelmar_options
   INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
-            KELMAR_OLDER_HOSTS=$<BOOL:${KELMAR_OLDER_HOSTS}>)
+            _FILE_OFFSET_BITS=64 # documents of more than 2 GiB, on a 32-bit system as well
+            KELMAR_OLDER_HOSTS=$<BOOL:$<TARGET_PROPERTY:KELMAR_OLDER_HOSTS>>)
 if(KELMAR_SANITIZE STREQUAL "thread")
   target_compile_options(kelmar_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer
                                                   -Wno-tsan) # of fences in headers of Qt
@@ -91,10 +117,14 @@ function(kelmar_use_precompiled target)
   target_precompile_headers(${target} REUSE_FROM kelmar_precompiled)
 endfunction()
 
-# An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ...)
+# An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ... [NO_MOC])
+# NO_MOC saves three steps of a build; for a folder without Q_OBJECT.
 function(kelmar_room name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "NO_MOC" "" "SOURCES;LIBS" ${ARGN})
   add_library(${name} OBJECT ${ARG_SOURCES})
+  if(ARG_NO_MOC)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  endif()
   target_link_libraries(${name} PUBLIC kelmar_options ${ARG_LIBS})
   if(kelmar-platform IN_LIST ARG_LIBS)
     kelmar_use_precompiled(${name})

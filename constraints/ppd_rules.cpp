@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 

@@ -6,6 +6,8 @@
 #include "constraints/choice_state.h"
 #include "constraints/engine.h"
 
+#include <cstdint>
+#include <span>
 #include <string_view>
 #include <utility>
 #include <vector>

@@ -3,7 +3,6 @@
 
 #include "device/bonjour_wait.h"
 
-#include "device/dnssd_handles.h"
 #include "platform/background.h"
 
 #include <QByteArray>
@@ -31,6 +30,7 @@ struct Reply
     QByteArray txtRecord;
 };
 
+#if KELMAR_HAS_DNSSD
 void DNSSD_API keepFirstReply(DNSServiceRef, DNSServiceFlags flags, uint32_t interfaceIndex,
                               DNSServiceErrorType error, const char *fullName, const char *hostTarget,
                               uint16_t port, uint16_t txtLength, const unsigned char *txtRecord,
@@ -71,6 +71,12 @@ std::optional<Reply> replyFor(const Service &asked, const QDeadlineTimer &deadli
     });
     return reply;
 }
+#else
+std::optional<Reply> replyFor(const Service &, const QDeadlineTimer &)
+{
+    return std::nullopt;
+}
+#endif
 
 } // namespace
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "device/dnssd.h"
 #include "platform/printing_manager.h"
 
 #include <QByteArray>
@@ -10,8 +11,6 @@
 #include <QHash>
 #include <QString>
 #include <QVariant>
-
-#include <dns_sd.h>
 
 #include <functional>
 

@@ -121,11 +121,12 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
     // It reads files that the environment names, which need not answer.
-    const auto isReady = platform::callBeside([&library] { return library.initialize("KelmarPDE"); });
+    const auto isReady = platform::callBeside([&library] {
+        library.initialize("KelmarPDE");
+        return true;
+    });
     if (!isReady)
         return fail(QVSNMPCannotConnect);
-    if (!*isReady)
-        return fail(QVSNMPArchitectureMismatch);
     const SnmpCalls &calls = library;
     auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });
     if (!session)

@@ -35,7 +35,8 @@ public:
     static bool loadLibrary();
     // Counts down, and closes the library at 0.
     static void unloadLibrary();
-    // File names of the library, tried in order until one opens. For the next load from 0.
+    // File names of the library, tried in order until one opens; an empty list stands for the library of the
+    // version compiled in, which is the default. For the next load from 0.
     static void setLibraryNames(const QList<QByteArray> &names);
     // For diagnosis: the load count, whether a library is open, and the nine entry points as they stand.
     struct LibraryState

@@ -11,9 +11,6 @@ void DynamicLibraryCloser::operator()(void *handle) const
         qCWarning(lcDevice, "Error: %s", ::dlerror());
 }
 
-// The structures of this version are the ones compiled in; later ones write past the session of earlier ones.
-SnmpLibrary::SnmpLibrary() : names{"libnetsnmp.so.40"} {}
-
 SnmpLibrary &SnmpLibrary::instance()
 {
     // Never destroyed: at exit net-snmp may already be half gone.
@@ -26,7 +23,9 @@ bool SnmpLibrary::load()
     // Only the first call looks. After a failure the later ones are told that all is well; see isUsable().
     if (libraryLoaded++ != 0)
         return true;
-    for (const QByteArray &name : names) {
+    // The version whose headers were compiled in: the structures of another one differ.
+    const QList<QByteArray> ownName{KELMAR_NETSNMP_SONAME};
+    for (const QByteArray &name : names.isEmpty() ? ownName : names) {
         snmpLibrary.reset(::dlopen(name.constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
         if (snmpLibrary)
             break;
@@ -48,34 +47,36 @@ bool SnmpLibrary::isUsable() const
     return complete;
 }
 
-bool SnmpLibrary::configure()
+void SnmpLibrary::configure()
 {
 #define KELMAR_LOOK_UP(name)                                                                                 \
-    const auto name = reinterpret_cast<decltype(&::name)>(::dlsym(snmpLibrary.get(), #name));                \
-    if (name == nullptr)                                                                                     \
-        return false;
+    const auto name = reinterpret_cast<decltype(&::name)>(::dlsym(snmpLibrary.get(), #name));
     KELMAR_SNMP_CONFIGURATION_POINTS(KELMAR_LOOK_UP)
 #undef KELMAR_LOOK_UP
     // All OIDs are numbers, so no MIB is needed, and a machine without them gets no warnings; v2c has neither
     // users nor certificates that would have to be kept.
-    for (const int setting : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DONT_LOAD_HOST_FILES,
-                              NETSNMP_DS_LIB_DONT_PERSIST_STATE, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,
-                              NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE})
-        netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, setting, 1);
-    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_MIBDIRS, "");
-    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_CONFIGURATION_DIR, "/dev/null");
-    netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_PERSISTENT_DIR, "/dev/null");
-    return netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG) != nullptr;
+    if (netsnmp_ds_set_boolean != nullptr) {
+        for (const int setting : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DONT_LOAD_HOST_FILES,
+                                  NETSNMP_DS_LIB_DONT_PERSIST_STATE, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,
+                                  NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE})
+            netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, setting, 1);
+    }
+    if (netsnmp_ds_set_string != nullptr) {
+        netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_MIBDIRS, "");
+        for (const int folder : {NETSNMP_DS_LIB_CONFIGURATION_DIR, NETSNMP_DS_LIB_PERSISTENT_DIR})
+            netsnmp_ds_set_string(NETSNMP_DS_LIBRARY_ID, folder, "/dev/null");
+    }
+    if (netsnmp_register_loghandler != nullptr)
+        netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG);
 }
 
-bool SnmpLibrary::initialize(const char *application)
+void SnmpLibrary::initialize(const char *application)
 {
     const std::lock_guard lock(m_initializing);
-    if (m_configured != tap_init_snmp && !configure())
-        return false;
+    if (m_configured != tap_init_snmp)
+        configure();
     m_configured = tap_init_snmp;
     tap_init_snmp(application);
-    return true;
 }
 
 void SnmpLibrary::unload()

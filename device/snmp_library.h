@@ -28,7 +28,8 @@
     X(snmp_sess_session)                                                                                     \
     X(snmp_sess_synch_response)
 
-// What keeps the user's files and the environment out of it, and its remarks off the terminal.
+// Further functions that keep the user's files and the environment out of it, and its remarks off the
+// terminal. None of them is required.
 #define KELMAR_SNMP_CONFIGURATION_POINTS(X)                                                                  \
     X(netsnmp_ds_set_boolean)                                                                                \
     X(netsnmp_ds_set_string)                                                                                 \
@@ -60,17 +61,18 @@ struct SnmpLibrary : SnmpCalls
     void unload();
     // Whether every entry point may be called: load() says so once only.
     bool isUsable() const;
-    // init_snmp(), after it was told to read no file. False when it cannot be told. On any thread, for it
-    // reads those of MIBFILES all the same; one after the other.
-    bool initialize(const char *application);
+    // Calls init_snmp(), after telling the library to read no file where it can be told. On any thread, for
+    // it reads the files of MIBFILES all the same; calls run one after the other.
+    void initialize(const char *application);
 
     quint32 libraryLoaded = 0; // load() calls without their unload(), a failed first one included
     DynamicLibraryHandle snmpLibrary;
-    QList<QByteArray> names; // tried in order until one opens
+    // File names, tried in order until one opens. An empty list stands for the version compiled in.
+    QList<QByteArray> names;
 
 private:
-    SnmpLibrary();
-    bool configure();
+    SnmpLibrary() = default;
+    void configure();
 
     std::mutex m_initializing;
     decltype(&::init_snmp) m_configured = nullptr; // guarded; of the library that was configured last

@@ -23,7 +23,7 @@ bool isObeyed(QChar c)
 
 QString hexadecimal(QChar c, int digits)
 {
-    return QStringLiteral("%1").arg(c.unicode(), digits, 16, QLatin1Char('0'));
+    return QStringLiteral("%1").arg(uint{c.unicode()}, digits, 16, QLatin1Char('0'));
 }
 
 } // namespace

@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QLocale>
 
+#include <algorithm>
+#include <exception>
+#include <iterator>
 #include <optional>
 #include <utility>
 

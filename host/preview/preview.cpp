@@ -6,10 +6,13 @@
 #include "platform/background.h"
 
 #include <QRegularExpression>
+#include <QTransform>
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 namespace host {
 

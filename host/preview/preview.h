@@ -7,8 +7,10 @@
 
 #include <QCache>
 #include <QImage>
+#include <QList>
 #include <QObject>
 #include <QSizeF>
+#include <QString>
 
 #include <optional>
 

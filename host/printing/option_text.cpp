@@ -5,6 +5,9 @@
 
 #include "host/printing/cups_handles.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 namespace host {
 
 QList<std::pair<QString, QString>> parseJobOptions(const QString &text)

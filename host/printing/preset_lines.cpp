@@ -8,9 +8,11 @@
 #include "host/printing/file_name.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 #include <algorithm>
 #include <cups/file.h>
+#include <optional>
 
 namespace host {
 

@@ -7,6 +7,11 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
 
 namespace host {
 

@@ -51,12 +51,19 @@ ensure_packages() (
     exit $status
 )
 
+# What one clone has compiled, another takes from the compiler cache, wherever it lies. With precompiled headers the cache
+# needs to be told that macros and times do not matter.
+share_compiler_cache() {
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+}
+
 # build_preset PRESET [TARGET...]: configures a preset when it has not been, then builds it, or only the targets. Quick
-# when nothing changed. What one clone has compiled, another takes from the compiler cache, wherever it lies.
+# when nothing changed.
 build_preset() {
     local preset=$1
     shift
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    share_compiler_cache
     [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 
 #include <QProcess>
@@ -37,8 +38,7 @@ void ScreenReaderTest::privateJobIsTold()
         QSKIP(qPrintable(missing));
     PrivateCupsd server;
     QVERIFY2(server.start(), qPrintable(server.problem()));
-    QVERIFY2(server.addQueue(u"office"_s, QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd")),
-             qPrintable(server.problem()));
+    QVERIFY2(server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(server.problem()));
     qputenv("HOME", server.folder().toLocal8Bit());
     QProcess run;
     run.setProcessChannelMode(QProcess::MergedChannels);
@@ -46,13 +46,13 @@ void ScreenReaderTest::privateJobIsTold()
                       u"dbus-run-session"_s,
                       u"--"_s,
                       python,
-                      QStringLiteral(KELMAR_SOURCE_DIR "/tests/accessibility/private_job.py"),
-                      QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print")};
+                      sourcePath("/tests/accessibility/private_job.py"),
+                      buildPath("/bin/kelmar-print")};
     words += {u"-d"_s, u"office"_s};
     for (const QString &setting : {u"PrintMode=Private"_s, u"privatePassword=12340"_s, u"MediaType=Thick1"_s,
                                    u"Duplex=DuplexTumble"_s})
         words += {u"--set"_s, setting};
-    run.start(u"xvfb-run"_s, words + QStringList(QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")));
+    run.start(u"xvfb-run"_s, words + QStringList(sourcePath("/demo/report.pdf")));
     QVERIFY(run.waitForFinished());
     const QByteArray log = run.readAll();
     qInfo().noquote() << log;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A library with net-snmp's entry points that does as the test says, for what no device can send and for
-// libraries that are broken.
+// A library with the entry points of net-snmp that are required, and no other. It does as the test says, for
+// what no device can send and for libraries that are broken.
 
 #include <net-snmp/net-snmp-config.h>
 
@@ -33,19 +33,6 @@ STUB void *snmp_sess_open(netsnmp_session *session)
     strncpy(stub_control.community, reinterpret_cast<const char *>(session->community),
             session->community_len);
     return stub_control.failOpen ? nullptr : &stub_control.opened;
-}
-STUB int netsnmp_ds_set_boolean(int, int, int)
-{
-    return SNMPERR_SUCCESS;
-}
-STUB int netsnmp_ds_set_string(int, int, const char *)
-{
-    return SNMPERR_SUCCESS;
-}
-STUB netsnmp_log_handler *netsnmp_register_loghandler(int, int)
-{
-    static netsnmp_log_handler handler;
-    return &handler;
 }
 STUB int snmp_sess_close(void *)
 {

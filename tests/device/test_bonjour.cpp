@@ -14,6 +14,8 @@
 
 #include <csignal>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Takes connections, until the process ends, that nobody looks at.
@@ -48,12 +50,12 @@ void TestBonjour::initTestCase()
 {
     // The name that Avahi's library gives for a host ends in a dot; this stands in for a resolver that knows
     // mDNS.
-    const QString whyNot = m_bonjour.start(u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_qs);
+    const QString whyNot = m_bonjour.start(u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_s);
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
     QString error;
-    m_service = startChildProcess(u"avahi-publish-service"_qs,
-                                  {u"Office Printer"_qs, u"_ipp._tcp"_qs, u"631"_qs}, "Established", &error);
+    m_service = startChildProcess(u"avahi-publish-service"_s, {u"Office Printer"_s, u"_ipp._tcp"_s, u"631"_s},
+                                  "Established", &error);
     if (!m_service)
         QSKIP(qPrintable(error));
 }
@@ -61,16 +63,16 @@ void TestBonjour::initTestCase()
 void TestBonjour::resolves_data()
 {
     QTest::addColumn<QString>("uri");
-    QTest::newRow("as CUPS writes it") << u"dnssd://Office%20Printer._ipp._tcp.local/?uuid=1"_qs;
-    QTest::newRow("with a final dot") << u"dnssd://Office%20Printer._ipp._tcp.local./"_qs;
+    QTest::newRow("as CUPS writes it") << u"dnssd://Office%20Printer._ipp._tcp.local/?uuid=1"_s;
+    QTest::newRow("with a final dot") << u"dnssd://Office%20Printer._ipp._tcp.local./"_s;
 }
 
 void TestBonjour::resolves()
 {
     QFETCH(QString, uri);
     platform::PrintSession session;
-    session.printer = platform::Printer{u"office"_qs, uri};
-    QCOMPARE(QVNetworkResolver_M880::ipFromPrintSession(&session), u"127.0.0.77"_qs);
+    session.printer = platform::Printer{u"office"_s, uri};
+    QCOMPARE(QVNetworkResolver_M880::ipFromPrintSession(&session), u"127.0.0.77"_s);
 }
 
 void TestBonjour::silence_data()
@@ -78,15 +80,15 @@ void TestBonjour::silence_data()
     using Change = std::function<void()>;
     QTest::addColumn<QString>("host");
     QTest::addColumn<Change>("change");
-    QTest::newRow("nobody answers") << u"Nobody._ipp._tcp.local"_qs << Change([] {});
+    QTest::newRow("nobody answers") << u"Nobody._ipp._tcp.local"_s << Change([] {});
     QTest::newRow("the daemon hangs")
-        << u"Office Printer._ipp._tcp.local"_qs
+        << u"Office Printer._ipp._tcp.local"_s
         << Change([this] { ::kill(static_cast<pid_t>(m_bonjour.daemon->processId()), SIGSTOP); });
-    QTest::newRow("there is no daemon") << u"Office Printer._ipp._tcp.local."_qs << Change([this] {
+    QTest::newRow("there is no daemon") << u"Office Printer._ipp._tcp.local."_s << Change([this] {
         ::kill(static_cast<pid_t>(m_bonjour.daemon->processId()), SIGKILL);
         m_bonjour.daemon->waitForFinished();
     });
-    QTest::newRow("the bus does not speak") << u"office printer._ipp._tcp.local"_qs << Change([this] {
+    QTest::newRow("the bus does not speak") << u"office printer._ipp._tcp.local"_s << Change([this] {
         m_bonjour.bus.reset();
         QFile::remove(m_bonjour.busPath());
         listenInSilence(QFile::encodeName(m_bonjour.busPath()));

@@ -19,6 +19,8 @@
 #include <array>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 using Resolver = QVNetworkResolver_M880;
 
 // A system with a clock, host names and Bonjour services that the test sets.
@@ -135,8 +137,8 @@ void TestNetworkResolver::resolves()
     QCOMPARE(Resolver::resolveToIP(host), address);
     QTEST(system.asked.join(u", "), "asked");
     QCOMPARE(Resolver::cache().value(host).toMap(),
-             (QVariantMap{{u"ResolvesTo"_qs, address.isEmpty() ? u"_%%DoesntResolve%%_"_qs : address},
-                          {u"AgeOfResolution"_qs, system.now}}));
+             (QVariantMap{{u"ResolvesTo"_s, address.isEmpty() ? u"_%%DoesntResolve%%_"_s : address},
+                          {u"AgeOfResolution"_s, system.now}}));
 }
 
 void TestNetworkResolver::linkLocalAddressKeepsItsScope()
@@ -149,24 +151,24 @@ void TestNetworkResolver::linkLocalAddressKeepsItsScope()
 void TestNetworkResolver::failureIsRememberedFor120Seconds()
 {
     FakeSystem system;
-    const QString host = u"Away._ipp._tcp.local"_qs;
+    const QString host = u"Away._ipp._tcp.local"_s;
     const QDateTime start = system.now;
     QVERIFY(Resolver::resolveToIP(host).isNull());
     QCOMPARE(system.asked.join(u' '),
-             u"Away|_ipp._tcp.|local. Away._ipp._tcp.local/4 Away._ipp._tcp.local/6"_qs);
+             u"Away|_ipp._tcp.|local. Away._ipp._tcp.local/4 Away._ipp._tcp.local/6"_s);
     system.ipv4 = {{"Away._ipp._tcp.local", "10.0.0.9"}, {"away._ipp._tcp.local", "10.0.0.8"}};
     system.now = start.addMSecs(119'900);
     QVERIFY(Resolver::resolveToIP(host).isNull());
     QCOMPARE(system.asked.size(), 3);
-    QCOMPARE(Resolver::resolveToIP(host.toLower()), u"10.0.0.8"_qs); // another key
+    QCOMPARE(Resolver::resolveToIP(host.toLower()), u"10.0.0.8"_s); // another key
     system.now = start.addMSecs(120'000);
-    QCOMPARE(Resolver::resolveToIP(host), u"10.0.0.9"_qs);
+    QCOMPARE(Resolver::resolveToIP(host), u"10.0.0.9"_s);
 }
 
 void TestNetworkResolver::successIsAskedAnew()
 {
     FakeSystem system;
-    const QString host = u"moving.example"_qs;
+    const QString host = u"moving.example"_s;
     for (const char *address : {"10.0.0.1", "10.0.0.2"}) {
         system.now = system.now.addSecs(1);
         system.ipv4 = {{"moving.example", address}};
@@ -175,8 +177,8 @@ void TestNetworkResolver::successIsAskedAnew()
         QCOMPARE(Resolver::cache().value(host).toMap().value(QVAgeKey), system.now);
     }
     // The cache's own date lies among the hosts; a host of that name finds it, which is no record.
-    QVERIFY(Resolver::cache().value(u"AgeOfResolution"_qs).typeId() == QMetaType::QDateTime);
-    QVERIFY(Resolver::checkCacheForHost(u"AgeOfResolution"_qs).isNull());
+    QVERIFY(Resolver::cache().value(u"AgeOfResolution"_s).typeId() == QMetaType::QDateTime);
+    QVERIFY(Resolver::checkCacheForHost(u"AgeOfResolution"_s).isNull());
 }
 
 void TestNetworkResolver::nilHost()
@@ -184,30 +186,30 @@ void TestNetworkResolver::nilHost()
     const FakeSystem system;
     const auto before = Resolver::cache();
     platform::PrintSession session;
-    Resolver::addToCacheForHost(u"10.0.0.1"_qs, {});
+    Resolver::addToCacheForHost(u"10.0.0.1"_s, {});
     QVERIFY(Resolver::ipFromPrintSession(nullptr).isNull());
     QVERIFY(Resolver::ipFromPrintSession(&session).isNull());
-    session.printer = platform::Printer{u"q"_qs, u"usb:///dev/usb/lp0"_qs};
+    session.printer = platform::Printer{u"q"_s, u"usb:///dev/usb/lp0"_s};
     QVERIFY(Resolver::ipFromPrintSession(&session).isNull());
     QVERIFY(system.asked.isEmpty());
     QCOMPARE(Resolver::cache(), before);
-    session.printer->deviceUri = u"socket://10.2.3.4:9100"_qs;
-    QCOMPARE(Resolver::ipFromPrintSession(&session), u"10.2.3.4"_qs);
+    session.printer->deviceUri = u"socket://10.2.3.4:9100"_s;
+    QCOMPARE(Resolver::ipFromPrintSession(&session), u"10.2.3.4"_s);
 }
 
 void TestNetworkResolver::lockIsReleasedWhenALookUpThrows()
 {
     FakeSystem system;
     system.throws = true;
-    QVERIFY_EXCEPTION_THROWN(Resolver::resolveToIP(u"throws.example"_qs), std::runtime_error);
-    auto other = std::async(std::launch::async, [] { return Resolver::resolveToIP(u"10.0.0.1"_qs); });
+    QVERIFY_EXCEPTION_THROWN(Resolver::resolveToIP(u"throws.example"_s), std::runtime_error);
+    auto other = std::async(std::launch::async, [] { return Resolver::resolveToIP(u"10.0.0.1"_s); });
     QCOMPARE(other.wait_for(std::chrono::seconds(5)), std::future_status::ready);
-    QVERIFY(!Resolver::cache().contains(u"throws.example"_qs));
+    QVERIFY(!Resolver::cache().contains(u"throws.example"_s));
 }
 
 void TestNetworkResolver::whatWasGivenUpIsAskedAnew()
 {
-    const QString host = u"Slow._ipp._tcp.local"_qs;
+    const QString host = u"Slow._ipp._tcp.local"_s;
     const auto answer = std::make_shared<QSemaphore>();
     Resolver::setServices({.now = [] { return QDateTime::currentDateTimeUtc(); },
                            .addressOfHost =
@@ -225,7 +227,7 @@ void TestNetworkResolver::whatWasGivenUpIsAskedAnew()
     }
     QVERIFY(!Resolver::cache().contains(host));
     answer->release(2);
-    QCOMPARE(Resolver::resolveToIP(host), u"10.0.0.1"_qs);
+    QCOMPARE(Resolver::resolveToIP(host), u"10.0.0.1"_s);
     QTRY_VERIFY(!platform::Background::isUnderWay());
     Resolver::setServices(ResolverServices::system());
 }
@@ -235,8 +237,8 @@ void TestNetworkResolver::silentServiceHasNoEarlierAddress()
     FakeSystem system;
     system.servicesAnswer = false;
     Resolver resolver;
-    resolver.setIP(u"10.0.0.1"_qs);
-    QVERIFY(resolver.resolveFromBonjour(u"Orb._ipp._tcp.local"_qs).isNull());
+    resolver.setIP(u"10.0.0.1"_s);
+    QVERIFY(resolver.resolveFromBonjour(u"Orb._ipp._tcp.local"_s).isNull());
 }
 
 void TestNetworkResolver::waitsForAReply()

@@ -11,6 +11,8 @@
 
 #include <dlfcn.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray stub = KELMAR_STUB_NETSNMP;
@@ -20,7 +22,7 @@ const QByteArray absent = "libkelmar-no-such-library.so.1";
 constexpr quintptr poison = 0xDEADBEEF;
 
 // The client for an address; null with the error, when there is one.
-std::pair<std::unique_ptr<QVSNMP_M880>, QString> opened(const QString &address = u"127.0.0.1"_qs)
+std::pair<std::unique_ptr<QVSNMP_M880>, QString> opened(const QString &address = u"127.0.0.1"_s)
 {
     QString error;
     auto client = QVSNMP_M880::initWithHostAndReturnError(address, &error);
@@ -76,21 +78,21 @@ void TestSnmpClient::failedFirstLoadIsCounted()
     QCOMPARE(count(), 1U);
     QVERIFY(QVSNMP_M880::loadLibrary());
     // What that call was told does not make the library usable.
-    QCOMPARE(opened().second, u"SNMPArchMismatch"_qs);
+    QCOMPARE(opened().second, u"SNMPArchMismatch"_s);
     QCOMPARE(count(), 3U);
 }
 
 void TestSnmpClient::failuresKeepTheCount()
 {
-    QCOMPARE(opened(QString()).second, u"SNMPCannotConnect"_qs);
+    QCOMPARE(opened(QString()).second, u"SNMPCannotConnect"_s);
     control()->failOpen = true;
-    QCOMPARE(opened().second, u"SNMPArchMismatch"_qs);
+    QCOMPARE(opened().second, u"SNMPArchMismatch"_s);
     QCOMPARE(count(), 2U);
     QVSNMP_M880::unloadLibrary();
     QVSNMP_M880::unloadLibrary();
 
     QVSNMP_M880::setLibraryNames({stubWithoutSession});
-    QCOMPARE(opened().second, u"SNMPArchMismatch"_qs);
+    QCOMPARE(opened().second, u"SNMPArchMismatch"_s);
     const auto state = QVSNMP_M880::libraryState();
     QVERIFY(state.isOpen && state.libraryLoaded == 1);
     QCOMPARE(state.entryPoints.at(7), quintptr(0)); // snmp_sess_session
@@ -111,7 +113,7 @@ void TestSnmpClient::lastUnloadClosesAndPoisons()
 
 void TestSnmpClient::opensTheSession()
 {
-    auto [client, error] = opened(u"fe80::1%lo"_qs);
+    auto [client, error] = opened(u"fe80::1%lo"_s);
     QVERIFY(client && error.isNull());
     const StubControl &told = *control();
     QCOMPARE(told.application, "KelmarPDE");
@@ -152,8 +154,8 @@ void TestSnmpClient::decodes_data()
     row("integer, too short", ASN_INTEGER, "\1\2", {});
     row("no such object, with a value", SNMP_NOSUCHOBJECT, number(9), 9);
     row("no such object", SNMP_NOSUCHOBJECT, {}, {});
-    row("string", ASN_OCTET_STR, "sRGB", u"sRGB"_qs);
-    row("string, empty", ASN_OCTET_STR, "", u""_qs);
+    row("string", ASN_OCTET_STR, "sRGB", u"sRGB"_s);
+    row("string, empty", ASN_OCTET_STR, "", u""_s);
     row("string, not ASCII", ASN_OCTET_STR, "B\xfcro", {});
     row("data", ASN_OCTET_STR, "B\xfcro", QByteArray("B\xfcro"));
     for (const auto type : {ASN_COUNTER, ASN_GAUGE, ASN_TIMETICKS, ASN_OBJECT_ID, ASN_IPADDRESS,
@@ -196,21 +198,21 @@ void TestSnmpClient::characterSets_data()
         QTest::addRow("%d %s", mibEnum, text.isNull() ? "invalid" : "")
             << mibEnum << encoding << QByteArray(bytes) << text;
     };
-    row(4, 5, "B\xfcro", u"Büro"_qs);
-    row(5, 9, "\xb1", u"ą"_qs);
-    row(8, 11, "\xd6", u"Ц"_qs);
-    row(17, 8, "\x90\x46", u"色"_qs);
+    row(4, 5, "B\xfcro", u"Büro"_s);
+    row(5, 9, "\xb1", u"ą"_s);
+    row(8, 11, "\xd6", u"Ц"_s);
+    row(17, 8, "\x90\x46", u"色"_s);
     row(17, 8, "\x90", {});
-    row(18, 3, "\xbf\xa7", u"色"_qs);
-    row(39, 21, "\x1b$B?'\x1b(B", u"色"_qs);
-    row(2000, 5, "\xe9", u"é"_qs);
-    row(2001, 5, "\xe9", u"é"_qs);
-    row(2002, 9, "\xb1", u"ą"_qs);
-    row(2003, 14, "\xfd", u"ı"_qs);
-    row(2250, 15, "\xb9", u"ą"_qs);
-    row(2251, 11, "\xd6", u"Ц"_qs);
-    row(2252, 12, "\x80", u"€"_qs);
-    row(3, 1, "plain", u"plain"_qs);
+    row(18, 3, "\xbf\xa7", u"色"_s);
+    row(39, 21, "\x1b$B?'\x1b(B", u"色"_s);
+    row(2000, 5, "\xe9", u"é"_s);
+    row(2001, 5, "\xe9", u"é"_s);
+    row(2002, 9, "\xb1", u"ą"_s);
+    row(2003, 14, "\xfd", u"ı"_s);
+    row(2250, 15, "\xb9", u"ą"_s);
+    row(2251, 11, "\xd6", u"Ц"_s);
+    row(2252, 12, "\x80", u"€"_s);
+    row(3, 1, "plain", u"plain"_s);
     row(106, 1, "B\xc3\xbcro", {});
     row(-1, 1, "\x80", {});
 }

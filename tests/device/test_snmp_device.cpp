@@ -17,6 +17,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 using Column = std::array<SnmpOid, 18>;
 
 namespace {
@@ -145,13 +147,13 @@ void TestSnmpDevice::readsColumnsOfARealAgent()
 
     Column oid = column(2);
     QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 4),
-             (QVariantList{u"sRGB"_qs, u"Adobe RGB"_qs, u"last"_qs}));
+             (QVariantList{u"sRGB"_s, u"Adobe RGB"_s, u"last"_s}));
     QCOMPARE(oid.back(), SnmpOid(5));
     QCOMPARE(client->rowsOfLastColumn(), (QList<quint32>{1, 3, 4}));
     oid = column(3); // ends where a row is missing
-    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"one"_qs});
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"one"_s});
     oid = column(4); // ends where a name is not ASCII
-    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"plain"_qs});
+    QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"plain"_s});
     client->setReturnsStringsAsData(true);
     oid = column(4);
     QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 2),
@@ -174,7 +176,7 @@ void TestSnmpDevice::takesTheCharacterSetOfARealAgent()
     QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
     client->determineDefaultCharsetForPrinter();
     QCOMPARE(client->charSet(), quint32(NSISOLatin1StringEncoding));
-    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"Büro"_qs));
+    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"Büro"_s));
 }
 
 void TestSnmpDevice::opensAndClosesTheRealLibrary()
@@ -185,7 +187,7 @@ void TestSnmpDevice::opensAndClosesTheRealLibrary()
     for (int i = 0; i < 3; ++i) {
         const Client client = clientFor("127.0.0.2");
         QVERIFY(client);
-        QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"again"_qs));
+        QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"again"_s));
     }
     QCOMPARE(QVSNMP_M880::libraryState().libraryLoaded, 0U);
     QVERIFY(!QVSNMP_M880::libraryState().isOpen);
@@ -196,9 +198,9 @@ void TestSnmpDevice::takesNoConfiguration_data()
 {
     QTest::addColumn<QString>("variable"); // names the folder of the configuration
     QTest::addColumn<QString>("folder");   // of the files, below that
-    QTest::newRow("none") << u"MIBDIRS"_qs << u"absent"_qs;
-    QTest::newRow("of the user") << u"HOME"_qs << u".snmp"_qs;
-    QTest::newRow("of the environment") << u"SNMPCONFPATH"_qs << u"."_qs;
+    QTest::newRow("none") << u"MIBDIRS"_s << u"absent"_s;
+    QTest::newRow("of the user") << u"HOME"_s << u".snmp"_s;
+    QTest::newRow("of the environment") << u"SNMPCONFPATH"_s << u"."_s;
 }
 
 void TestSnmpDevice::takesNoConfiguration()
@@ -206,26 +208,26 @@ void TestSnmpDevice::takesNoConfiguration()
     QFETCH(QString, variable);
     QFETCH(QString, folder);
     const QTemporaryDir root;
-    const QString log = root.filePath(u"log"_qs);
+    const QString log = root.filePath(u"log"_s);
     const QDir files(root.filePath(folder));
-    QVERIFY(QDir().mkpath(files.filePath(u"hosts"_qs)));
+    QVERIFY(QDir().mkpath(files.filePath(u"hosts"_s)));
     // Each would hang whoever reads it, overwrite a file, or ask another port.
-    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"hosts/127.0.0.2.conf"_qs)).constData(), 0600), 0);
-    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"snmp.local.conf"_qs)).constData(), 0600), 0);
-    QFile configuration(files.filePath(u"snmp.conf"_qs));
+    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"hosts/127.0.0.2.conf"_s)).constData(), 0600), 0);
+    QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"snmp.local.conf"_s)).constData(), 0600), 0);
+    QFile configuration(files.filePath(u"snmp.conf"_s));
     QVERIFY(configuration.open(QIODevice::WriteOnly));
     configuration.write("logOption f " + QFile::encodeName(log) + "\ndefaultPort 9\n");
     configuration.close();
 
     QProcess child;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(u"MIBS"_qs);
-    environment.insert(u"SNMPCONFPATH"_qs, u"/nonexistent"_qs);
+    environment.remove(u"MIBS"_s);
+    environment.insert(u"SNMPCONFPATH"_s, u"/nonexistent"_s);
     if (variable == u"HOME")
-        environment.remove(u"SNMPCONFPATH"_qs);
+        environment.remove(u"SNMPCONFPATH"_s);
     environment.insert(variable, root.path());
     child.setProcessEnvironment(environment);
-    child.start(QCoreApplication::applicationFilePath(), {u"opensAndClosesTheRealLibrary"_qs});
+    child.start(QCoreApplication::applicationFilePath(), {u"opensAndClosesTheRealLibrary"_s});
     QVERIFY(child.waitForFinished(10'000));
     QCOMPARE(child.readAllStandardError(), QByteArray());
     QVERIFY2(child.exitCode() == 0, child.readAllStandardOutput().constData());
@@ -240,7 +242,7 @@ void TestSnmpDevice::oddReplies_data()
     const auto row = [](const char *name, Alteration alter, bool thenGood, const QVariant &value) {
         QTest::newRow(name) << std::move(alter) << thenGood << value;
     };
-    const QVariant good = u"good"_qs;
+    const QVariant good = u"good"_s;
     const auto type = [](unsigned char tag) {
         return [tag](SnmpReply &reply) { reply = reply.with(tag, QByteArray(1, 1)); };
     };
@@ -268,9 +270,9 @@ void TestSnmpDevice::oddReplies_data()
         "60,000 bytes", [](SnmpReply &reply) { reply.value.fill('x', 60000); }, false, QString(60000, u'x'));
     // Answers are told apart by their request id alone: a printer may answer from another of its addresses.
     row(
-        "another community", [](SnmpReply &reply) { reply.community = "private"; }, true, u"odd"_qs);
+        "another community", [](SnmpReply &reply) { reply.community = "private"; }, true, u"odd"_s);
     row(
-        "another address", [](SnmpReply &reply) { reply.from = "127.0.0.3"; }, true, u"odd"_qs);
+        "another address", [](SnmpReply &reply) { reply.from = "127.0.0.3"; }, true, u"odd"_s);
 }
 
 void TestSnmpDevice::oddReplies()
@@ -305,7 +307,7 @@ void TestSnmpDevice::silenceAndLateAnswers()
     QVERIFY(clock.elapsed() >= 2900 && clock.elapsed() < 5500);
     QCOMPARE(device.requestCount(), 3);
     answering = true;
-    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"now"_qs));
+    QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"now"_s));
     QCOMPARE(device.requestCount(), 4);
 }
 
@@ -315,7 +317,7 @@ void TestSnmpDevice::userWhoDoesNotWait()
     const UdpResponder silent("127.0.0.3", [](const SnmpReply &) { return SnmpReplies(); });
     const UdpResponder device("127.0.0.2",
                               [](const SnmpReply &reply) { return SnmpReplies{reply.withString("here")}; });
-    const auto openFiles = [] { return QDir(u"/proc/self/fd"_qs).entryList(QDir::System).size(); };
+    const auto openFiles = [] { return QDir(u"/proc/self/fd"_s).entryList(QDir::System).size(); };
     const auto before = openFiles();
     const Column oid = column(2);
     {
@@ -328,8 +330,8 @@ void TestSnmpDevice::userWhoDoesNotWait()
         QVERIFY(!client->sendRequestWithSize(oid.data(), oid.size()).isValid());
         QCOMPARE(client->lastError(), 0);
         QString error;
-        QVERIFY(!QVSNMP_M880::initWithHostAndReturnError(u"127.0.0.2"_qs, &error));
-        QCOMPARE(error, u"SNMPCannotConnect"_qs);
+        QVERIFY(!QVSNMP_M880::initWithHostAndReturnError(u"127.0.0.2"_s, &error));
+        QCOMPARE(error, u"SNMPCannotConnect"_s);
         QVSNMP_M880::unloadLibrary(); // what that attempt left counted
     }
     QCOMPARE(QVSNMP_M880::libraryState().libraryLoaded, 0U);
@@ -337,7 +339,7 @@ void TestSnmpDevice::userWhoDoesNotWait()
         const platform::Waiter::Scope scope(std::make_shared<LoopWaiter>());
         const Client client = clientFor("127.0.0.2");
         for (int i = 0; i < 20; ++i)
-            QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"here"_qs));
+            QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"here"_s));
     }
     QVERIFY(platform::Background::isUnderWay() && openFiles() > before);
     QTRY_VERIFY(!platform::Background::isUnderWay());

@@ -4,6 +4,7 @@
 #include "host/portal/application_settings.h"
 #include "host/portal/stored_job.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QTest>
 
@@ -28,7 +29,7 @@ private:
     static std::unique_ptr<DialogSession> session()
     {
         PrintError error;
-        auto ppd = PpdDocument::open(QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd"), &error);
+        auto ppd = PpdDocument::open(buildPath("/ppds/kelm880.ppd"), &error);
         if (!ppd)
             qFatal("%s", qPrintable(error.message));
         return std::make_unique<DialogSession>(officePrinter(), std::move(ppd));

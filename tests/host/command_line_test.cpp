@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "tests/support/hostile_program.h"
+#include "tests/support/paths.h"
 #include "tests/support/test_bundle.h"
 
 #include <QDir>
@@ -21,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString program = QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print");
-const QString ppds = QStringLiteral(KELMAR_BINARY_DIR "/ppds/");
+const QString program = buildPath("/bin/kelmar-print");
+const QString ppds = buildPath("/ppds/");
 
 struct Outcome
 {
@@ -232,9 +233,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(u"lib"_s));
     const QString bundle = folder.filePath(u"lib/OrbM880.bundle"_s);
-    QCOMPARE(QProcess::execute(u"cp"_s,
-                               {u"-r"_s, QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle"), bundle}),
-             0);
+    QCOMPARE(QProcess::execute(u"cp"_s, {u"-r"_s, buildPath("/bin/OrbM880.bundle"), bundle}), 0);
     const QStringList words{u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--bundle"_s, bundle};
     const Outcome before = run(words);
     QVERIFY2(before.out.contains("departmentCode"), before.err.constData());

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/host/host_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -26,7 +27,7 @@ public:
     }
     static QByteArray familyPpd(const QString &name)
     {
-        QFile file(QStringLiteral(KELMAR_BINARY_DIR "/ppds/") + name);
+        QFile file(buildPath("/ppds/") + name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 };

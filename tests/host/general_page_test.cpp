@@ -9,6 +9,7 @@
 #include "host/window/preview/preview_sheet.h"
 #include "host/window/preview/preview_strip.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -25,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString report = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString report = sourcePath("/demo/report.pdf");
 
 } // namespace
 

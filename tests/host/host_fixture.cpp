@@ -4,6 +4,7 @@
 #include "tests/host/host_fixture.h"
 
 #include "platform/exception.h"
+#include "tests/support/paths.h"
 
 #include <QFile>
 #include <QTemporaryFile>
@@ -35,7 +36,7 @@ QByteArray officePpd()
 
 QByteArray customPpd()
 {
-    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/custom_values.ppd"));
+    QFile file(sourcePath("/tests/host/custom_values.ppd"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s", qPrintable(file.errorString()));
     (void)file.readLine(); // openPpd() writes it

@@ -10,6 +10,7 @@
 #include "platform/choice_box.h"
 #include "platform/key_value_object.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -80,14 +81,14 @@ private:
 
     void useFamily(const QString &model = u"kelm880"_s) // its PPD for the queue "office", and the real panels
     {
-        QFile ppd(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(model));
+        QFile ppd(buildPath("/ppds/") + model + u".ppd"_s);
         QVERIFY(ppd.open(QIODevice::ReadOnly));
         (void)ppd.readLine(); // the fixture writes it
         m_system.ppds[u"office"_s] = ppd.readAll();
         m_system.printers.first().deviceUri = u"file:/dev/null"_s; // a device that nobody asks
     }
 
-    const QString m_bundle = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle");
+    const QString m_bundle = buildPath("/bin/OrbM880.bundle");
     QByteArray m_said;
 };
 

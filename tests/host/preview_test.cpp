@@ -5,6 +5,7 @@
 #include "host/preview/pdf_writer.h"
 #include "host/preview/preview.h"
 #include "tests/support/hostile_program.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -26,7 +27,7 @@ namespace {
 
 QString demo(const QString &name)
 {
-    return QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + name;
+    return sourcePath("/demo/") + name;
 }
 
 const QStringList allTools =

@@ -3,6 +3,7 @@
 
 #include "host/service/token_store.h"
 #include "tests/support/child_process.h"
+#include "tests/support/paths.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -151,10 +152,9 @@ void ServiceTest::startService(const QStringList &arguments)
 {
     m_service.reset(new QProcess);
     m_service->setProcessChannelMode(QProcess::ForwardedChannels);
-    m_service->start(
-        QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print-service"),
-        QStringList{u"--dialog-program"_s, QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/stub_dialog.sh")} +
-            arguments);
+    m_service->start(buildPath("/bin/kelmar-print-service"),
+                     QStringList{u"--dialog-program"_s, sourcePath("/tests/host/stub_dialog.sh")} +
+                         arguments);
     const auto hasName = [this] {
         const auto reply = m_bus.call(QDBusMessage::createMethodCall(
             u"org.freedesktop.DBus"_s, u"/"_s, u"org.freedesktop.DBus"_s, u"ListNames"_s));
@@ -370,7 +370,7 @@ void ServiceTest::notifiesTheDesktop()
         m_bus.registerObject(u"/org/freedesktop/Notifications"_s, &desktop, QDBusConnection::ExportAllSlots));
     QVERIFY(m_bus.registerService(u"org.freedesktop.Notifications"_s));
     QProcess process;
-    process.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print-service"), {u"--notify"_s});
+    process.start(buildPath("/bin/kelmar-print-service"), {u"--notify"_s});
     process.write(R"({"title": "A & B", "text": "<b>Job 1</b>\ndone", "urgent": true})");
     process.closeWriteChannel();
     QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, patience);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 
 #include <QFile>
@@ -15,8 +16,8 @@
 
 // The program, as a script or the service calls it.
 
-inline const QString program = QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print");
-inline const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+inline const QString program = buildPath("/bin/kelmar-print");
+inline const QString document = sourcePath("/demo/report.pdf");
 
 struct Outcome
 {

@@ -8,6 +8,7 @@
 #include "host/window/printers/printer_picker.h"
 #include "platform/key_value_object.h"
 #include "tests/integration/batch_call.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString document = sourcePath("/demo/report.pdf");
 const QStringList privateJob{u"--set"_s, u"PrintMode=Private"_s, u"--set"_s, u"privatePassword=12345"_s};
 
 // Argument 5 of a filter holds this word.
@@ -61,7 +62,7 @@ private:
 
     PrivateCupsd m_server;
     std::optional<CupsPrintSystem> m_system;
-    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
     std::unique_ptr<PrintWindow> m_window;
     QJsonObject m_json;
 };
@@ -71,7 +72,7 @@ void ChosenSettingsTest::initTestCase()
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
     QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
-    const QString ppds = QStringLiteral(KELMAR_BINARY_DIR "/ppds/");
+    const QString ppds = buildPath("/ppds/");
     for (const QString &queue : {u"office"_s, u"second"_s, u"admin"_s})
         QVERIFY2(m_server.addQueue(queue, ppds + u"kelm880.ppd"_s), qPrintable(m_server.problem()));
     QVERIFY(m_server.addQueue(u"small"_s, ppds + u"kelo110.ppd"_s)); // no private printing
@@ -307,7 +308,7 @@ void ChosenSettingsTest::copiesAreCollatedAsChosen()
     QFETCH(QString, file);
     QFETCH(QString, collate);
     QCOMPARE(run({u"--batch"_s, u"-d"_s, u"office"_s, u"-n"_s, u"3"_s, u"--set"_s, u"collate="_s + collate,
-                  QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + file}),
+                  sourcePath("/demo/") + file}),
              int(ExitSuccess));
     const auto job = printed();
     QVERIFY(job);

@@ -6,6 +6,7 @@
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 #include "tests/support/private_network.h"
 #include "tests/support/simulated_printer.h"
@@ -28,7 +29,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString document = sourcePath("/demo/report.pdf");
 const QStringList balances{u"ColorBalanceCyan"_s, u"ColorBalanceMagenta"_s, u"ColorBalanceYellow"_s,
                            u"ColorBalanceBlack"_s};
 // Of the three lists of profiles and of the defaults; a device that answers is asked for each once.
@@ -108,7 +109,7 @@ private:
 
     PrivateCupsd m_server;
     CupsPrintSystem m_system;
-    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
     std::unique_ptr<PrintWindow> m_window;
 };
 
@@ -120,7 +121,7 @@ void ColorDialogTest::initTestCase()
         QSKIP(qPrintable(whyNot));
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
-    const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
+    const QString ppd = buildPath("/ppds/kelm880.ppd");
     for (const auto &[queue, address] :
          {std::pair(u"office"_s, u"127.0.0.2"_s), {u"attic"_s, u"127.0.0.3"_s}})
         QVERIFY2(m_server.addQueue(queue, ppd, u"socket://%1:9100"_s.arg(address)),
@@ -226,7 +227,7 @@ void ColorDialogTest::profilesTravelWithTheJob()
 {
     QFETCH(QString, queue);
     QFETCH(bool, sent);
-    QFile tables(QStringLiteral(KELMAR_SOURCE_DIR "/simulator/orbm880.device"));
+    QFile tables(sourcePath("/simulator/orbm880.device"));
     QVERIFY(tables.open(QIODevice::ReadOnly));
     const SimulatedPrinter printer("127.0.0.2", tables.readAll());
     QVERIFY2(printer.isRunning(), qPrintable(printer.error()));

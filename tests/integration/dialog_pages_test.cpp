@@ -10,6 +10,7 @@
 #include "host/window/print_window.h"
 #include "host/window/printers/printer_picker.h"
 #include "tests/host/family_printer.h"
+#include "tests/support/paths.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -25,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString document = sourcePath("/demo/report.pdf");
 
 QString nameOf(const QWidget *widget)
 {
@@ -66,7 +67,7 @@ private:
 void DialogPagesTest::initTestCase()
 {
     m_language = qEnvironmentVariable("LANGUAGE").left(2);
-    for (const QString &file : {QStringLiteral(KELMAR_BINARY_DIR "/host/kelmar-print_") + m_language,
+    for (const QString &file : {buildPath("/host/kelmar-print_") + m_language,
                                 u"/usr/share/qt6/translations/qtbase_"_s + m_language}) {
         QVERIFY2(speakCatalog(file, this) || m_language == u"en", qPrintable(file));
     }
@@ -99,7 +100,7 @@ void DialogPagesTest::everyPage()
     QFont font = QApplication::font();
     font.setPointSize(points);
     QApplication::setFont(font);
-    Extensions extensions(Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin")));
+    Extensions extensions(Extensions::installedBundles(buildPath("/bin")));
     PrintTask task;
     task.files = {document};
     m_window = std::make_unique<PrintWindow>(m_system, extensions, task);

@@ -15,6 +15,7 @@
 #include "host/window/waiting/login_dialog.h"
 #include "platform/choice_box.h"
 #include "tests/host/family_printer.h"
+#include "tests/support/paths.h"
 #include "tests/support/thread_clock.h"
 
 #include <QAccessible>
@@ -112,7 +113,7 @@ private:
     QString barText() const { return m_window->messageBar()->text(); }
 
     FamilyPrintSystem m_system;
-    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
     std::unique_ptr<PrintWindow> m_window;
 };
 
@@ -132,7 +133,7 @@ void FindSettingTest::open(const QByteArray &ppd)
     m_system = FamilyPrintSystem(ppd);
     PrintTask task;
     for (const QString &name : {u"report.pdf"_s, u"note.txt"_s})
-        task.files.append(QStringLiteral(KELMAR_SOURCE_DIR "/demo/") + name);
+        task.files.append(sourcePath("/demo/") + name);
     m_window = std::make_unique<PrintWindow>(m_system, m_extensions, task);
     PrintError error;
     QVERIFY(m_window->open(&error));
@@ -396,8 +397,8 @@ void FindSettingTest::helpOfEveryPage()
 // Each language has each page, and no link leads nowhere.
 void FindSettingTest::helpSpeaksEveryLanguage()
 {
-    const QString host = QStringLiteral(KELMAR_SOURCE_DIR "/host/help/");
-    const QString bundle = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle/help/");
+    const QString host = sourcePath("/host/help/");
+    const QString bundle = buildPath("/bin/OrbM880.bundle/help/");
     const QStringList pages = filesIn(host + u"en"_s) + filesIn(bundle + u"en"_s);
     QVERIFY(pages.size() > 6);
     static const QRegularExpression link(u"\\]\\(([^)]*)\\)"_s);

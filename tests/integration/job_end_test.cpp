@@ -11,6 +11,7 @@
 #include "platform/unique_fd.h"
 #include "tests/integration/batch_program.h"
 #include "tests/support/child_process.h"
+#include "tests/support/paths.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -108,8 +109,7 @@ void JobEndTest::initTestCase()
         QSKIP(qPrintable(missing));
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
-    QVERIFY2(m_server.addQueue(u"office"_s, QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd")),
-             qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
 }
@@ -117,7 +117,7 @@ void JobEndTest::initTestCase()
 void JobEndTest::serverStoppedBehindAnOpenDialog()
 {
     CupsPrintSystem system;
-    Extensions extensions(Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin")));
+    Extensions extensions(Extensions::installedBundles(buildPath("/bin")));
     PrintTask task;
     task.files = {document};
     task.printer = u"office"_s;
@@ -151,8 +151,8 @@ ChildProcess JobEndTest::faulty(const QString &fault, int number)
     QFile::remove(socket);
     QString problem;
     auto proxy = startChildProcess(u"python3"_s,
-                                   {QStringLiteral(KELMAR_SOURCE_DIR "/tests/integration/faulty_proxy.py"),
-                                    socket, m_server.socketPath(), fault, QString::number(number)},
+                                   {sourcePath("/tests/integration/faulty_proxy.py"), socket,
+                                    m_server.socketPath(), fault, QString::number(number)},
                                    "ready", &problem);
     if (!proxy)
         qWarning() << problem;

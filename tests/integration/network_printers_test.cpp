@@ -5,6 +5,7 @@
 #include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_list.h"
 #include "tests/support/heartbeat.h"
+#include "tests/support/paths.h"
 #include "tests/support/private_bonjour.h"
 #include "tests/support/private_cupsd.h"
 
@@ -65,7 +66,7 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     CupsPrintSystem system;
     Extensions none({});
     PrintTask task;
-    task.files = {QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")};
+    task.files = {sourcePath("/demo/report.pdf")};
     task.printer = u"office"_s;
     Heartbeat heart;
     PrintWindow window(system, none, task);

@@ -8,6 +8,7 @@
 #include "host/window/print_window.h"
 #include "platform/key_value_object.h"
 #include "tests/integration/batch_call.h"
+#include "tests/support/paths.h"
 
 #include <QApplication>
 #include <QDir>
@@ -22,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
+const QString document = sourcePath("/demo/report.pdf");
 
 bool runs(const QString &program, const QStringList &arguments)
 {
@@ -54,7 +55,7 @@ private:
 
     PrivateCupsd m_server;
     std::optional<CupsPrintSystem> m_system;
-    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
     QJsonObject m_json;
 };
 
@@ -64,8 +65,7 @@ void PresetTest::initTestCase()
         QSKIP(qPrintable(missing));
     qputenv("CUPS_SERVERROOT", m_server.folder().toLocal8Bit() + "/everybodys");
     QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
-    QVERIFY2(m_server.addQueue(u"office"_s, QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd")),
-             qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
 }
 
 int PresetTest::run(const QStringList &words)

@@ -4,6 +4,7 @@
 #include "host/printing/print_system.h"
 #include "platform/background.h"
 #include "tests/integration/batch_program.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -71,16 +72,15 @@ void PrintJobTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
-    qputenv("KELMAR_DIALOG_BACKEND", KELMAR_BINARY_DIR "/backend/kelmar-dialog");
+    qputenv("KELMAR_DIALOG_BACKEND", buildPath("/backend/kelmar-dialog").toUtf8());
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     qputenv("HOME", m_server.folder().toLocal8Bit());
-    const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
+    const QString ppd = buildPath("/ppds/kelm880.ppd");
     for (const QString &queue : {u"office"_s, u"paused"_s, u"rejecting"_s})
         QVERIFY2(m_server.addQueue(queue, ppd), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
-    QVERIFY2(
-        m_server.addQueue(u"custom"_s, QStringLiteral(KELMAR_SOURCE_DIR "/tests/host/custom_values.ppd")),
-        qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"custom"_s, sourcePath("/tests/host/custom_values.ppd")),
+             qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
     QVERIFY(m_server.setPaused(u"paused"_s, true));
     QVERIFY(m_server.setAccepting(u"rejecting"_s, false));
@@ -395,8 +395,7 @@ void PrintJobTest::documentOfAnApplicationIsSent()
 
 void PrintJobTest::queueOfTheDialogIsNoPrinter()
 {
-    QVERIFY(m_server.addQueue(u"dialog"_s,
-                              QStringLiteral(KELMAR_BINARY_DIR "/packaging/queue/kelmar-dialog.ppd"),
+    QVERIFY(m_server.addQueue(u"dialog"_s, buildPath("/packaging/queue/kelmar-dialog.ppd"),
                               u"kelmar-dialog:/"_s));
     QVERIFY(m_server.setDefaultQueue(u"dialog"_s));
     CupsPrintSystem system;

@@ -9,6 +9,7 @@
 #include "host/window/print_window.h"
 #include "platform/background.h"
 #include "tests/host/family_printer.h"
+#include "tests/support/paths.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -32,7 +33,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString folder = QStringLiteral(KELMAR_BINARY_DIR "/tests/pseudo/");
+const QString folder = buildPath("/tests/pseudo/");
 
 bool hasLetters(const QString &text)
 {
@@ -157,7 +158,7 @@ void PseudoLocaleTest::everyPage()
     QApplication::setLayoutDirection(direction);
     Extensions extensions({language + u"OrbM880.bundle"_s});
     PrintTask task;
-    task.files = {QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf")};
+    task.files = {sourcePath("/demo/report.pdf")};
     m_window = std::make_unique<PrintWindow>(m_system, extensions, task);
     m_window->setRoom(room);
     PrintError error;

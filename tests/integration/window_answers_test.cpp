@@ -13,6 +13,7 @@
 #include "platform/background.h"
 #include "platform/unique_fd.h"
 #include "tests/support/heartbeat.h"
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 #include "tests/support/private_network.h"
 #include "tests/support/silent_socket.h"
@@ -43,8 +44,8 @@ constexpr qint64 longestReaction = 200;
 #endif
 constexpr int manyQueues = 700;
 
-const QString document = QStringLiteral(KELMAR_SOURCE_DIR "/demo/report.pdf");
-const QString familyPpd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
+const QString document = sourcePath("/demo/report.pdf");
+const QString familyPpd = buildPath("/ppds/kelm880.ppd");
 
 // Raw queues, as the server keeps them in its configuration.
 QByteArray queueList(int count)
@@ -108,7 +109,7 @@ private:
     CupsPrintSystem m_hasty{ServerPatience{10'000, 1'000, 200}}; // milliseconds
     CupsPrintSystem m_patient{ServerPatience{10'000, 4'000, 200}};
     QString m_file; // what is printed
-    Extensions m_extensions{Extensions::installedBundles(QStringLiteral(KELMAR_BINARY_DIR "/bin"))};
+    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
     std::unique_ptr<PrintWindow> m_window;
     std::optional<Heartbeat> m_heart;
 };

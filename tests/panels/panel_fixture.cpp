@@ -4,6 +4,7 @@
 #include "tests/panels/panel_fixture.h"
 
 #include "platform/bundle.h"
+#include "tests/support/paths.h"
 
 #include <QTest>
 
@@ -16,7 +17,7 @@ void PanelFixture::Close::operator()(ppd_file_s *ppd) const
 
 PanelFixture::PanelFixture(const QByteArray &ppdName, const QLocale &locale)
 {
-    const QByteArray path = QByteArray(KELMAR_BINARY_DIR "/ppds/") + ppdName + ".ppd";
+    const QByteArray path = buildPath("/ppds/").toUtf8() + ppdName + ".ppd";
     m_ownPpd.reset(ppdOpenFile(path.constData()));
     if (!m_ownPpd)
         qFatal("%s cannot be opened", path.constData());
@@ -39,8 +40,7 @@ PanelFixture::~PanelFixture()
 void PanelFixture::makePanels(const QLocale &locale)
 {
     QString error;
-    m_bundle =
-        platform::Bundle::open(QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle"), locale, &error);
+    m_bundle = platform::Bundle::open(buildPath("/bin/OrbM880.bundle"), locale, &error);
     if (!m_bundle)
         qFatal("%s", qPrintable(error));
     m_factory.initWithBundle(m_bundle);

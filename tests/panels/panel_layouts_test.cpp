@@ -5,6 +5,7 @@
 #include "platform/bundle.h"
 #include "plugin/panel_roster.h"
 #include "tests/panels/panel_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -79,7 +80,7 @@ QList<std::pair<QByteArray, QString>> textsOfLayout(const QString &path)
 
 QStringList localizableKeys()
 {
-    const QByteArray file = contents(KELMAR_SOURCE_DIR "/resources/strings/localizable_keys.cpp"_L1);
+    const QByteArray file = contents(sourcePath("/resources/strings/localizable_keys.cpp"));
     QStringList keys;
     static const QRegularExpression key(u"\"Localizable\", \"([^\"]+)\""_s);
     auto matches = key.globalMatch(QString::fromUtf8(file));
@@ -92,8 +93,7 @@ QStringList localizableKeys()
 // libcups keeps those of one language only.
 QHash<QString, QString> ppdTexts(const QByteArray &ppdName, const QString &language)
 {
-    const QByteArray file =
-        contents(QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(QLatin1String(ppdName)));
+    const QByteArray file = contents(buildPath("/ppds/%1.ppd").arg(QLatin1String(ppdName)));
     const QRegularExpression line(u"^\\*%1\\.(\\w+ [^/]+)/(.*): \"\"$"_s.arg(language),
                                   QRegularExpression::MultilineOption);
     QHash<QString, QString> texts;
@@ -220,11 +220,10 @@ void PanelLayoutsTest::everyTextIsTranslated_data()
 void PanelLayoutsTest::everyTextIsTranslated()
 {
     QFETCH(const QString, language);
-    const QString folder = QStringLiteral(KELMAR_BINARY_DIR "/bin/OrbM880.bundle");
+    const QString folder = buildPath("/bin/OrbM880.bundle");
     QTranslator table;
     QVERIFY(table.load(folder + u"/strings/OrbM880_%1.qm"_s.arg(language)));
-    const QFileInfoList layouts =
-        QDir(QStringLiteral(KELMAR_SOURCE_DIR "/resources/layouts")).entryInfoList({u"*.ui"_s});
+    const QFileInfoList layouts = QDir(sourcePath("/resources/layouts")).entryInfoList({u"*.ui"_s});
     QVERIFY(!layouts.isEmpty());
     for (const QFileInfo &layout : layouts) {
         for (const auto &[context, text] : textsOfLayout(layout.filePath()))

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Every program and library of a build looks for libraries beside itself alone, binds its symbols at the start, and has
-its tables write-protected. An empty entry of a search path would stand for the folder a user happens to be in.
+"""Every program and library of a build looks for libraries beside itself alone, and shows its hardening: symbols bound at
+the start, write-protected tables, code in a segment of its own, a shadow stack, fortified functions. An empty entry of
+a search path would stand for the folder a user happens to be in.
 
 Usage: binary_rules.py BUILD
 """
@@ -22,6 +23,12 @@ def faults_of(path):
         yield "binds symbols late"
     if "GNU_RELRO" not in dynamic:
         yield "has no write-protected tables"
+    loads = re.findall(r"^ *LOAD +(0x\w+) .* (R?W? ?E?) +0x\w+$", dynamic, re.M)
+    if any("E" in flags and ("W" in flags or int(offset, 16) == 0) for offset, flags in loads) or not loads:
+        yield "has code in a segment with other data"
+    header = subprocess.run(["readelf", "-hnW", path], capture_output=True, text=True, check=True).stdout
+    if re.search(r"Machine: .*X86-64", header) and "SHSTK" not in header:
+        yield "has no note of the shadow stack"
 
 
 def main(build):
@@ -31,6 +38,10 @@ def main(build):
     names = {path.name for path in binaries}
     faults = [f"{name}: not found" for name in ("kelmar-print", "libOrbM880.so") if name not in names]
     faults += [f"{path}: {fault}" for path in binaries for fault in faults_of(path)]
+    symbols = subprocess.run(["readelf", "--dyn-syms", "-W", pathlib.Path(build) / "bin/kelmar-print"],
+                             capture_output=True, text=True, check=True).stdout
+    if not re.search(r"__\w+_chk@|__(asan|tsan)_init", symbols):
+        faults.append("kelmar-print: no function is fortified")
     print("\n".join(faults))
     return 1 if faults else 0
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/support/paths.h"
 #include "tests/support/test_bundle.h"
 
 #include "platform/print_dialog.h"
@@ -131,7 +132,7 @@ void BundleTest::unusableCodeNamesFileAndProblem()
     QVERIFY(!files.open()->principalObject(&error));
     QCOMPARE(error, path + u"there is no such file"_s);
     const QList<std::pair<QString, QString>> unusable{
-        {QStringLiteral(KELMAR_SOURCE_DIR "/LICENSE"), {}},
+        {sourcePath("/LICENSE"), {}},
         {QStringLiteral(STUB_EXTENSION), u"the root component is StubExtension, not Expected"_s},
         {QStringLiteral(STUB_OTHER_PLUGIN), u"Expected is no print-dialog extension"_s}};
     for (const auto &[code, problem] : unusable) {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "tests/support/paths.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -43,7 +45,7 @@ using PpdFile = std::unique_ptr<ppd_file_t, PpdClose>;
 
 inline QString familyPath(const FamilyModel &model)
 {
-    return QStringLiteral(KELMAR_BINARY_DIR "/ppds/%1.ppd").arg(QLatin1StringView(model.file));
+    return buildPath("/ppds/%1.ppd").arg(QLatin1StringView(model.file));
 }
 
 // Null when libcups cannot read it.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "tests/ppds/family.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -112,7 +113,7 @@ QStringList textsOf(const FamilyModel &model, const char *locale)
 
 QHash<QString, QString> catalog(const QString &language)
 {
-    QFile file(QStringLiteral(KELMAR_SOURCE_DIR "/ppds/po/%1.po").arg(language));
+    QFile file(sourcePath("/ppds/po/%1.po").arg(language));
     QHash<QString, QString> entries;
     if (!file.open(QIODevice::ReadOnly))
         return entries;

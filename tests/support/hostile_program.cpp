@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "tests/support/hostile_program.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -71,7 +72,7 @@ void HostileProgram::putBack()
 
 void HostileProgram::standIn(const QString &path, const QString &real) const
 {
-    QFile model(QStringLiteral(KELMAR_SOURCE_DIR "/tests/support/hostile_program.pl")), program(path);
+    QFile model(sourcePath("/tests/support/hostile_program.pl")), program(path);
     if (!model.open(QIODevice::ReadOnly) || !program.open(QIODevice::WriteOnly))
         qFatal("%s", qPrintable(path));
     QByteArray text = model.readAll();

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
+#include "tests/support/paths.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -24,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString script = QStringLiteral(KELMAR_SOURCE_DIR "/scripts/lib/private-cupsd.sh");
+const QString script = sourcePath("/scripts/lib/private-cupsd.sh");
 constexpr int startTime = 10000; // milliseconds; the server takes about 100
 constexpr int stopTime = 10000;  // about 2000, as cupsd looks for signals once a second
 constexpr int clientTime = 10000;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 
 #include <QTest>
@@ -11,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString ppd = QStringLiteral(KELMAR_BINARY_DIR "/ppds/kelm880.ppd");
-const QByteArray document = QByteArrayLiteral(KELMAR_SOURCE_DIR "/demo/report.ps");
+const QString ppd = buildPath("/ppds/kelm880.ppd");
+const QByteArray document = sourcePath("/demo/report.ps").toUtf8();
 
 // The job's number, 0 when the server did not take it.
 int print(const char *queue, const QMap<QByteArray, QByteArray> &options = {})

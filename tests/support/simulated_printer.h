@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/support/child_process.h"
+#include "tests/support/paths.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -23,7 +24,7 @@ public:
         }
         file.close();
         m_process =
-            startChildProcess(QStringLiteral(KELMAR_SOURCE_DIR "/simulator/snmpd.sh"),
+            startChildProcess(sourcePath("/simulator/snmpd.sh"),
                               {QStringLiteral("run"), m_folder.path(), QString::fromLatin1(address), path},
                               "NET-SNMP version", &m_error);
     }

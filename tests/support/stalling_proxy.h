@@ -4,6 +4,7 @@
 #pragma once
 
 #include "tests/support/child_process.h"
+#include "tests/support/paths.h"
 
 #include <QFile>
 #include <QTest>
@@ -17,10 +18,10 @@ public:
         : m_socketPath(socketPath)
     {
         QFile::remove(socketPath);
-        m_process = startChildProcess(
-            QStringLiteral("python3"),
-            {QStringLiteral(KELMAR_SOURCE_DIR "/tests/support/stalling_proxy.py"), socketPath, serverPath},
-            "ready", error, 15000, QIODevice::ReadWrite);
+        m_process =
+            startChildProcess(QStringLiteral("python3"),
+                              {sourcePath("/tests/support/stalling_proxy.py"), socketPath, serverPath},
+                              "ready", error, 15000, QIODevice::ReadWrite);
     }
 
     bool isRunning() const { return m_process != nullptr; }

@@ -195,8 +195,15 @@ QString printerStateText(const Destination &printer)
 
 void PrinterSearch::setWords(const QString &text)
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    beginFilterChange();
+#endif
     m_words = text.toLower().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    endFilterChange(Direction::Rows);
+#else
     invalidateFilter();
+#endif
 }
 
 bool PrinterSearch::filterAcceptsRow(int row, const QModelIndex &parent) const

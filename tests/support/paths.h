@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+// Absolute paths in the source folder and in the build folder; the relative path begins with a slash. The
+// environment variable KELMAR_TEST_BUILD names another build folder. Only one source has the folders compiled
+// in, so that the compiler cache serves the tests of every clone.
+QString sourcePath(const char *relative);
+QString buildPath(const char *relative);
