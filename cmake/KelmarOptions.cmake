@@ -13,6 +13,7 @@ option(KELMAR_WERROR "Treat compiler warnings as errors" OFF)
 set(KELMAR_SANITIZE OFF CACHE STRING "ON: build with the address and undefined-behaviour sanitizers; thread: with that for threads")
 option(KELMAR_BUILD_TESTS "Build the tests" ON)
 option(KELMAR_BUILD_BENCH "Build the benchmarks" OFF)
+option(KELMAR_BUILD_FUZZERS "Build the drivers for libFuzzer; needs clang" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -105,6 +106,9 @@ elseif(KELMAR_SANITIZE)
   target_compile_options(kelmar_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
                                                   -fno-omit-frame-pointer)
   target_link_options(kelmar_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KELMAR_BUILD_FUZZERS)
+  target_compile_options(kelmar_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # The headers that most sources include, compiled once for all targets that use widgets: that halves the time of a build.

@@ -72,7 +72,9 @@ void PpdRules::refresh()
         return;
     auto marks = marksOf(marked);
     const auto ofOption = [](const std::vector<Mark> &all, Option option) {
-        return std::ranges::equal_range(all, option, {}, [](const Mark &mark) { return mark.first; });
+        const auto first = std::ranges::lower_bound(all, option, {}, &Mark::first);
+        return std::span<const Mark>(first,
+                                     std::ranges::upper_bound(first, all.end(), option, {}, &Mark::first));
     };
     const bool sizeChanged = std::exchange(m_size, size) != size;
     for (Option option = 0; option < m_engine.optionCount(); ++option) {

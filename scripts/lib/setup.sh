@@ -19,6 +19,8 @@ tour_packages=(openbox xdotool imagemagick x11-xserver-utils)
 # What scripts/pictures makes small pictures with.
 picture_packages=(imagemagick)
 check_packages=(clang-format)
+# What scripts/fuzz builds with; its run-time library has the version of clang in its name.
+fuzz_packages=(clang)
 room_packages=(mmdebstrap git ccache iproute2)
 # What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.
 package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils)

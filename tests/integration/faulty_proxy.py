@@ -5,12 +5,15 @@
 
 LISTEN and SERVER are socket paths. The fault strikes the request NUMBER (counted from 1) of its operation, and
 every one after it:
-  create-lost create-garbage create-negative   Create-Job arrives; its answer is lost, garbage, or names job -5
+  OPERATION-lost OPERATION-garbage OPERATION-truncated
+                                               the request arrives; its answer is lost, garbage, or half an answer
+  OPERATION-dropped OPERATION-gone             the request is read and goes nowhere; the answer says that the job is gone
+                 OPERATION is ask (Get-Printer-Attributes), create (Create-Job), send (Send-Document) or look
+                 (Get-Job-Attributes)
   create-nonsense                              the answer to Create-Job has a status that no server has
-  create-endless                               the answer to Create-Job never ends
+  create-negative create-endless               the answer to Create-Job names job -5, or never ends
   send-forgotten                               Send-Document is answered; from then on nothing is known of jobs
-  send-lost send-garbage send-truncated        Send-Document arrives; what comes back is not the whole answer
-  send-dropped                                 Send-Document is read and goes nowhere
+  send-foreign                                 the answer to Send-Document is lost; all jobs bear the token of another program
   send-vanished                                Send-Document arrives; then there is no server any more
   send-stalled                                 nobody reads the rest of the document
   send-cut                                     the connection breaks in the middle of the document
@@ -31,7 +34,7 @@ import time
 
 listen, server, fault = sys.argv[1:4]
 first = int(sys.argv[4]) if len(sys.argv) > 4 else 1
-operations = {"create": 5, "send": 6}
+operations = {"create": 5, "send": 6, "look": 9, "ask": 11}
 seen = {}
 lock = threading.Lock()
 
@@ -99,13 +102,14 @@ class Relay(http.server.BaseHTTPRequestHandler):
         body = self.read_body()
         operation = struct.unpack(">H", body[2:4])[0] if len(body) > 8 else 0
         if fault == "send-forgotten" and seen.get("send") and operation in (9, 10):
-            self.answer(200, body[:2] + struct.pack(">H", 0x406 if operation == 9 else 0) + body[4:8] + b"\1" +
-                        attribute(0x47, b"attributes-charset", b"utf-8") +
-                        attribute(0x48, b"attributes-natural-language", b"en") + b"\3")
+            self.answer_status(body, 0x406 if operation == 9 else 0)
             return
         kind = next((k for k, o in operations.items() if o == operation), "")
         hit = kind and self.strikes(kind)
-        if hit and fault == "send-dropped":
+        if hit and fault.endswith("-gone"):
+            self.answer_status(body, 0x407)
+            return
+        if hit and fault.endswith("-dropped"):
             raise Broken
         upstream = Upstream("localhost")
         headers = {k: v for k, v in self.headers.items()
@@ -116,8 +120,10 @@ class Relay(http.server.BaseHTTPRequestHandler):
         upstream.close()
         if hit and fault == "send-vanished":
             os._exit(0)
-        if hit and fault.endswith("-lost"):
+        if hit and (fault.endswith("-lost") or fault == "send-foreign"):
             raise Broken
+        if fault == "send-foreign":
+            content = content.replace(b"kelmar-submission\0\x2durn:uuid:", b"kelmar-submission\0\x2durn:uuiD:")
         if hit and fault.endswith("-garbage"):
             content = os.urandom(200)
         if hit and fault == "create-nonsense":
@@ -130,7 +136,7 @@ class Relay(http.server.BaseHTTPRequestHandler):
             while True:
                 self.wfile.write(attribute(0x41, b"more", b"x" * 1000) * 60)
         self.answer(answer.status, b"", len(content), answer.headers.get("Content-Type", "application/ipp"))
-        if hit and fault == "send-truncated":
+        if hit and fault.endswith("-truncated"):
             self.wfile.write(content[:len(content) // 2])
             raise Broken
         self.wfile.write(content)
@@ -142,6 +148,11 @@ class Relay(http.server.BaseHTTPRequestHandler):
         self.send_header("Content-Length", str(len(content) if length is None else length))
         self.end_headers()
         self.wfile.write(content)
+
+    def answer_status(self, request, status):
+        self.answer(200, request[:2] + struct.pack(">H", status) + request[4:8] + b"\1" +
+                    attribute(0x47, b"attributes-charset", b"utf-8") +
+                    attribute(0x48, b"attributes-natural-language", b"en") + b"\3")
 
     def do_POST(self):
         try:

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void signalCancelsTheJob_data();
     void signalCancelsTheJob();
     void jobIsChangedFromTheResult();
+    void forgottenJob_data();
     void forgottenJob();
     void loginInTheWindow();
     void loginNobodyGives();
@@ -179,7 +180,7 @@ void JobEndTest::lostAnswers_data()
         QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
     for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
         QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
-    for (const char *fault : {"send-vanished", "send-forgotten"})
+    for (const char *fault : {"send-vanished", "send-forgotten", "send-foreign"})
         QTest::newRow(fault) << 1 << 1 << u"unknown"_s << 5 << 1;
     QTest::newRow("send-dropped") << 1 << 1 << u"unknown"_s << 5 << 0;
     QTest::newRow("send-dropped, second of three") << 2 << 3 << u"rejected"_s << 1 << 0;
@@ -334,18 +335,36 @@ void JobEndTest::jobIsChangedFromTheResult()
 }
 
 // An administrator takes it out of the history while the dialog follows it.
+void JobEndTest::forgottenJob_data()
+{
+    QTest::addColumn<QString>(
+        "fault"); // of a way to the server; none where the server itself forgets the job
+    QTest::newRow("forgotten") << QString();
+    QTest::newRow("gone") << u"look-gone"_s;
+}
+
 void JobEndTest::forgottenJob()
 {
+    QFETCH(QString, fault);
+    const auto proxy =
+        fault.isNull() ? ChildProcess() : faulty(fault, 2); // the first look follows the documents
+    std::optional<OtherServer> scope;
+    if (proxy)
+        scope.emplace(m_server.folder() + u"/faulty.sock"_s);
     PlainDialog dialog(u"other"_s);
     PrintWindow &window = dialog.window;
     printOnPaused(&window);
     QVERIFY(window.submission());
     auto *follower = window.findChild<JobFollower *>();
-    QVERIFY(follower->isFollowing());
-    QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);
+    if (!proxy) {
+        QVERIFY(follower->isFollowing());
+        QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);
+    }
     const QString text = u"no longer knows it. It may have been printed; look at the printer."_s;
     QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().endsWith(text), 10000);
     QVERIFY(!follower->isFollowing());
+    scope.reset();
+    QCOMPARE(QProcess::execute(u"cancel"_s, {u"-a"_s, u"-x"_s, u"other"_s}), 0);
     QVERIFY(m_server.setPaused(u"other"_s, false));
 }
 

@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 """Kills the print server at random moments while jobs are on their way, and compares what the program said with
-what was printed: kill_server.py BUILD_FOLDER [ROUNDS [SEED]]. Exit code 1 when they differ, 77 without CUPS."""
+what was printed: kill_server.py BUILD_FOLDER [ROUNDS [SEED [stopped]]]. With "stopped" the server is not killed but
+stops working for a while. Exit code 1 when they differ, 77 without CUPS."""
 import collections
 import json
 import os
@@ -15,8 +16,6 @@ import tempfile
 import time
 
 build = pathlib.Path(sys.argv[1]).resolve()
-rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 30
-seed = int(sys.argv[3]) if len(sys.argv) > 3 else random.randrange(10**6)
 source = pathlib.Path(__file__).resolve().parents[2]
 script = source / "scripts/lib/private-cupsd.sh"
 sizes = [10_000, 300_000, 5_000_000, 40_000_000, 150_000_000]  # bytes
@@ -36,10 +35,12 @@ class PrintServer:
             sys.stderr.write(done.stderr)
             sys.exit(done.returncode)
 
+    def signal(self, number):
+        os.kill(int((self.folder / "cupsd.pid").read_text()), number)
+
     def kill(self):
-        pid_file = self.folder / "cupsd.pid"
-        os.kill(int(pid_file.read_text()), signal.SIGKILL)
-        pid_file.unlink()
+        self.signal(signal.SIGKILL)
+        (self.folder / "cupsd.pid").unlink()
 
     def wait_until_idle(self, outcome="accepted"):
         for tries in range(600):
@@ -71,8 +72,8 @@ def document(folder, size):
     return path
 
 
-def start_program(front_end, server, title, files):
-    environment = dict(os.environ, CUPS_SERVER=str(server.socket), HOME=str(server.folder),
+def start_program(front_end, server, title, files, socket=None):
+    environment = dict(os.environ, CUPS_SERVER=str(socket or server.socket), HOME=str(server.folder),
                        QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
     words = ([build / "bin/kelmar-print", "--batch", "--json", "-d", "raw", "-t", title] if front_end == "batch"
              else [build / "tests/window_driver", "raw", title])
@@ -90,7 +91,19 @@ def said(front_end, program):
     return outcome
 
 
+def compared(outcome, jobs, needed):
+    """What was printed of a job that needs so many bytes, and what is wrong with what was said of it, if anything."""
+    whole = [job for job, parts in jobs.items() if sum(parts) >= needed]
+    fault = ("lost" if outcome == "accepted" and not whole else
+             "printed all the same" if outcome == "rejected" and jobs else
+             "printed twice" if len(jobs) > 1 else "")
+    return "all" if whole else "part" if jobs else "nothing", fault
+
+
 def main():
+    rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 30
+    seed = int(sys.argv[3]) if len(sys.argv) > 3 else random.randrange(10**6)
+    effect = sys.argv[4] if len(sys.argv) > 4 else "killed"
     wrong = 0
     tally = collections.Counter()
     with tempfile.TemporaryDirectory(prefix="kelmar-") as name:
@@ -115,28 +128,26 @@ def main():
             program = start_program(front_end, server, title, files)
             moment = chance.uniform(0.05, 1.05) * lasting[size, count]
             time.sleep(moment)
-            server.kill()
+            begin, end = ((server.kill, server.start) if effect == "killed" else
+                          (lambda: server.signal(signal.SIGSTOP), lambda: server.signal(signal.SIGCONT)))
+            begin()
             pause = chance.choice([0, 1, 3, None])  # None: until the program has ended
             if pause is not None:
                 time.sleep(pause)
-                server.start()
+                end()
             outcome = said(front_end, program)
             if pause is None:
-                server.start()
+                end()
             server.wait_until_idle(outcome)
-            jobs = server.printed(title)
-            whole = [job for job, parts in jobs.items() if sum(parts) >= count * files[0].stat().st_size]
-            fault = ("lost" if outcome == "accepted" and not whole else
-                     "printed all the same" if outcome == "rejected" and jobs else
-                     "printed twice" if len(jobs) > 1 else "")
+            printed, fault = compared(outcome, server.printed(title), count * files[0].stat().st_size)
             wrong += bool(fault)
             tally[outcome] += 1
-            print(f"{number:3} {front_end:6} {count} x {size:>9} killed after {moment:5.2f} s of "
-                  f"{lasting[size, count]:5.2f}, back after {pause} s: {outcome}, "
-                  f"{'all' if whole else 'part' if jobs else 'nothing'} printed {fault}", flush=True)
+            print(f"{number:3} {front_end:6} {count} x {size:>9} {effect} after {moment:5.2f} s of "
+                  f"{lasting[size, count]:5.2f}, back after {pause} s: {outcome}, {printed} printed {fault}", flush=True)
         server.call("stop", folder)
-    print(f"seed {seed}: {rounds} kills, {dict(tally)}, {wrong} told wrongly")
+    print(f"seed {seed}: {rounds} times {effect}, {dict(tally)}, {wrong} told wrongly")
     return 1 if wrong else 0
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())
