@@ -31,18 +31,25 @@ std::optional<uid_t> authenticatedUid()
     return uid;
 }
 
+// The scheduler exports no number for root, only the authenticated name.
+bool isRoot(const std::optional<uid_t> &uid)
+{
+    const char *name = std::getenv("AUTH_USERNAME");
+    return uid ? *uid == 0 : !std::getenv("AUTH_UID") && name && std::strcmp(name, "root") == 0;
+}
+
 } // namespace
 
 std::optional<Caller> findCaller(std::string *error)
 {
     const auto uid = authenticatedUid();
+    if (isRoot(uid)) {
+        *error = "This queue opens no dialog for the system administrator (root).";
+        return std::nullopt;
+    }
     if (!uid) {
         *error =
             "This queue opens a dialog and takes jobs only from people who are signed in on this computer.";
-        return std::nullopt;
-    }
-    if (*uid == 0) {
-        *error = "This queue opens no dialog for the system administrator (root).";
         return std::nullopt;
     }
     const passwd *entry = ::getpwuid(*uid);

@@ -7,7 +7,7 @@
 // process, which has become that user; the first waits for it.
 //
 // Usage: kelmar-dialog JOB USER TITLE COPIES OPTIONS [FILE]. USER is what the job says and is not looked at.
-// DEVICE_URI may end in ?wait=SECONDS, how long the dialog may take to open (60).
+// DEVICE_URI may end in ?wait=SECONDS, the time that the print service has to take the document (10).
 
 #include "host/backend/caller.h"
 #include "host/backend/user_bus.h"
@@ -19,6 +19,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <string_view>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
@@ -30,10 +31,18 @@ namespace {
 // stays open for everybody else.
 enum Ending { Taken = 0, Hold = 3 };
 
+// Exit code of the second process when nothing on the user's side has answered; cupsd never sees it.
+constexpr int silentCode = 4;
+
 constexpr size_t longestText = 64 * 1024; // bytes of a title or the options
 constexpr const char *spoolFolder = "/var/tmp";
-constexpr std::chrono::seconds longestCopy(600); // of a document into that
-constexpr std::chrono::seconds grace(5);         // for a bus that keeps silent itself
+// For a document that comes from a filter.
+constexpr platform::Patience filterPatience{std::chrono::minutes(1), std::chrono::minutes(10)};
+constexpr std::chrono::seconds connecting(3); // to a session bus, which answers within milliseconds
+constexpr std::chrono::seconds grace(2);
+// Jobs of a user whose session did not answer are held for this time without a further wait, since each wait
+// keeps the queue from all other users.
+constexpr std::chrono::seconds silencePenalty(30);
 
 Ending hold(const std::string &reason)
 {
@@ -54,23 +63,73 @@ unsigned numberIn(std::string_view text, unsigned least, unsigned most, unsigned
 
 std::chrono::seconds patience()
 {
+    constexpr unsigned usual = 10;
     const char *uri = std::getenv("DEVICE_URI");
     const std::string_view text = uri ? uri : "";
     constexpr std::string_view key = "?wait=";
     const size_t at = text.find(key);
     return std::chrono::seconds(
-        at == std::string_view::npos ? 60 : numberIn(text.substr(at + key.size()), 1, 3600, 60));
+        at == std::string_view::npos ? usual : numberIn(text.substr(at + key.size()), 1, 3600, usual));
 }
 
-// The job's file, which only root may open; never what a link leads to.
-platform::UniqueFd openJob(const char *path)
+// Remembers that a user's session did not answer, as the time of an empty file in the scheduler's state
+// folder, which only root may write to. Without such a folder nothing is remembered.
+class SilenceRecord
 {
-    if (!path)
-        return platform::UniqueFd::duplicate(STDIN_FILENO);
-    platform::UniqueFd file(::open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat facts = {};
-    const bool isFile = file && ::fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode);
-    return isFile ? std::move(file) : platform::UniqueFd();
+public:
+    explicit SilenceRecord(uid_t uid)
+    {
+        if (const char *folder = std::getenv("CUPS_STATEDIR"))
+            m_path = std::string(folder) + "/kelmar-dialog-silent-" + std::to_string(uid);
+    }
+    bool isRecent() const
+    {
+        struct stat facts = {};
+        if (m_path.empty() || ::lstat(m_path.c_str(), &facts) != 0)
+            return false;
+        const time_t age = ::time(nullptr) - facts.st_mtime;
+        return age >= 0 && age < silencePenalty.count();
+    }
+    void set() const
+    {
+        const platform::UniqueFd file(
+            m_path.empty() ? -1 : ::open(m_path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
+        if (file)
+            ::futimens(file.get(), nullptr);
+    }
+    void clear() const
+    {
+        if (!m_path.empty())
+            ::unlink(m_path.c_str());
+    }
+
+private:
+    std::string m_path;
+};
+
+// The job's document as a file that its user may open: the scheduler's own file, never what a link leads to,
+// given to the user, or a copy of what a filter writes. None with errno.
+platform::UniqueFd openJob(const char *path, const backend::Caller &caller)
+{
+    if (path) {
+        platform::UniqueFd file(::open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        struct stat facts = {};
+        if (!file || ::fstat(file.get(), &facts) != 0)
+            return {};
+        if (!S_ISREG(facts.st_mode) || facts.st_nlink != 1) {
+            errno = EINVAL;
+            return {};
+        }
+        if (facts.st_size > platform::longestDocument) {
+            errno = EFBIG;
+            return {};
+        }
+        return ::fchown(file.get(), caller.uid, static_cast<gid_t>(-1)) == 0 ? std::move(file)
+                                                                             : platform::UniqueFd();
+    }
+    platform::UniqueFd copy =
+        platform::privateCopy(STDIN_FILENO, spoolFolder, platform::longestDocument, &filterPatience);
+    return copy && ::fchown(copy.get(), caller.uid, caller.gid) == 0 ? std::move(copy) : platform::UniqueFd();
 }
 
 struct Words // of the job, as cupsd hands them over
@@ -78,29 +137,30 @@ struct Words // of the job, as cupsd hands them over
     const char *title, *copies, *options;
 };
 
-// The second process: the user's from its first step.
-Ending deliver(const backend::Caller &caller, const platform::UniqueFd &job, const Words &words,
-               std::chrono::seconds wait, pid_t parent)
+// The second process: the user's from its first step. The exit code.
+int deliver(const backend::Caller &caller, const platform::UniqueFd &document, const Words &words,
+            std::chrono::seconds wait, pid_t parent)
 {
     if (!backend::become(caller) || ::prctl(PR_SET_PDEATHSIG, SIGKILL) != 0 || ::getppid() != parent)
         return hold("The backend cannot act for the user of the job.");
-    const platform::UniqueFd document =
-        platform::privateCopy(job.get(), spoolFolder, platform::longestDocument);
-    if (!document)
-        return hold(errno == EFBIG
-                        ? std::string("The document is larger than 2 GB.")
-                        : std::string("The document cannot be copied: ") + std::strerror(errno) + ".");
     const backend::Handover handover{document.get(), std::string(words.title).substr(0, longestText),
                                      numberIn(words.copies, 1, 9999, 1),
                                      std::string(words.options).substr(0, longestText)};
     std::string error;
-    ::alarm(static_cast<unsigned>((wait + grace).count()));
-    return backend::handOver(caller.uid, handover, wait, &error) ? Taken : hold(error);
+    switch (backend::handOver(caller.uid, handover, connecting, wait, &error)) {
+    case backend::Delivery::Taken:
+        return Taken;
+    case backend::Delivery::Refused:
+        return hold(error);
+    case backend::Delivery::Silent:
+        break;
+    }
+    return silentCode;
 }
 
 // Users may stop the process that acts for them, and what answers on their bus need not be one: neither keeps
-// the queue from everybody else for good.
-Ending outcomeOf(pid_t process, std::chrono::seconds longest)
+// the queue from everybody else for longer than this takes.
+Ending outcomeOf(pid_t process, std::chrono::seconds longest, const SilenceRecord &silence)
 {
     const platform::UniqueFd ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
     pollfd event = {ended.get(), POLLIN, 0};
@@ -108,9 +168,15 @@ Ending outcomeOf(pid_t process, std::chrono::seconds longest)
     if (!ended || ::poll(&event, 1, static_cast<int>(time)) <= 0)
         ::kill(process, SIGKILL);
     int status = 0;
-    if (::waitpid(process, &status, 0) != process || !WIFEXITED(status))
-        return hold("The dialog did not open.");
-    return WEXITSTATUS(status) == Taken ? Taken : Hold; // it has said why
+    const bool hasEnded = ::waitpid(process, &status, 0) == process && WIFEXITED(status);
+    if (hasEnded && WEXITSTATUS(status) == Taken) {
+        silence.clear();
+        return Taken;
+    }
+    if (hasEnded && WEXITSTATUS(status) == Hold)
+        return Hold; // it has said why
+    silence.set();
+    return hold("The dialog did not open: the user's desktop session did not answer.");
 }
 
 Ending run(const Words &words, const char *path)
@@ -120,15 +186,21 @@ Ending run(const Words &words, const char *path)
     const auto caller = backend::findCaller(&error);
     if (!caller)
         return hold(error);
-    const platform::UniqueFd job = openJob(path);
+    const SilenceRecord silence(caller->uid);
+    if (silence.isRecent())
+        return hold(
+            "The user's desktop session did not answer the job before this one. Release this job later.");
+    const platform::UniqueFd job = openJob(path, *caller);
     if (!job)
-        return hold("The document of the job cannot be opened.");
+        return hold(errno == EFBIG ? std::string("The document is larger than 2 GB.")
+                                   : std::string("The document of the job cannot be opened: ") +
+                                         std::strerror(errno) + ".");
     const pid_t self = ::getpid();
     const pid_t process = ::fork();
     if (process == 0)
         ::_exit(deliver(*caller, job, words, wait, self));
     return process < 0 ? hold("The backend cannot act for the user of the job.")
-                       : outcomeOf(process, longestCopy + wait + grace);
+                       : outcomeOf(process, connecting + wait + grace, silence);
 }
 
 } // namespace

@@ -3,10 +3,11 @@
 
 #include "host/backend/user_bus.h"
 
-#include <cstring>
+#include <array>
 #include <memory>
 #include <sys/stat.h>
 #include <systemd/sd-bus.h>
+#include <unistd.h>
 
 namespace backend {
 
@@ -61,27 +62,63 @@ MessagePointer openDocument(sd_bus *bus, const Handover &handover)
     return filled ? std::move(message) : nullptr;
 }
 
+// The texts of the service stay out of the scheduler's messages, which other people read.
+struct Reason
+{
+    const char *name; // of a D-Bus error
+    const char *text;
+};
+constexpr std::array<Reason, 5> reasons = {{
+    {"org.kelmar.Print1.Error.TooManyDialogs",
+     "Too many print dialogs of this user are open. Close one of them, then release the job."},
+    {"org.kelmar.Print1.Error.NoDisplay",
+     "The dialog cannot be opened: the user's desktop session has no display."},
+    {"org.kelmar.Print1.Error.BadDocument", "The dialog did not open: the document cannot be read."},
+    {SD_BUS_ERROR_SERVICE_UNKNOWN,
+     "The dialog did not open: the print service is not installed in the user's session."},
+    {SD_BUS_ERROR_NAME_HAS_NO_OWNER,
+     "The dialog did not open: the print service is not running in the user's session."},
+}};
+
+std::string textOf(const sd_bus_error &error)
+{
+    for (const Reason &reason : reasons) {
+        if (sd_bus_error_has_name(&error, reason.name) > 0)
+            return reason.text;
+    }
+    return "The dialog did not open.";
+}
+
 } // namespace
 
-bool handOver(uid_t uid, const Handover &handover, std::chrono::seconds patience, std::string *error)
+Delivery handOver(uid_t uid, const Handover &handover, std::chrono::seconds connecting,
+                  std::chrono::seconds answering, std::string *error)
 {
     const std::string folder = "/run/user/" + std::to_string(uid);
     const std::string socket = folder + "/bus";
+    constexpr std::chrono::seconds grace(1); // the bus library keeps the time itself
+    ::alarm(static_cast<unsigned>(connecting.count()));
     const BusPointer bus = hasSession(uid, folder, socket) ? connect(socket) : nullptr;
-    if (!bus) {
+    const char *name = nullptr; // known when the bus has answered
+    if (!bus || sd_bus_get_unique_name(bus.get(), &name) < 0) {
         *error = "The dialog cannot be opened: the user has no desktop session on this computer.";
-        return false;
+        return Delivery::Refused;
     }
+    ::alarm(static_cast<unsigned>((answering + grace).count()));
     const MessagePointer message = openDocument(bus.get(), handover);
     const auto microseconds =
-        static_cast<uint64_t>(std::chrono::duration_cast<std::chrono::microseconds>(patience).count());
+        static_cast<uint64_t>(std::chrono::duration_cast<std::chrono::microseconds>(answering).count());
+    sd_bus_error problem = SD_BUS_ERROR_NULL;
     const int answer =
-        message ? sd_bus_call(bus.get(), message.get(), microseconds, nullptr, nullptr) : -ENOMEM;
+        message ? sd_bus_call(bus.get(), message.get(), microseconds, &problem, nullptr) : -ENOMEM;
+    const bool isSilent = answer == -ETIMEDOUT ||
+                          sd_bus_error_has_name(&problem, SD_BUS_ERROR_NO_REPLY) > 0 ||
+                          sd_bus_error_has_name(&problem, SD_BUS_ERROR_TIMEOUT) > 0;
+    *error = textOf(problem);
+    sd_bus_error_free(&problem);
     if (answer >= 0)
-        return true;
-    // What the service says stays out of the scheduler's messages, which other people read.
-    *error = std::string("The dialog did not open (") + std::strerror(-answer) + ").";
-    return false;
+        return Delivery::Taken;
+    return isSilent ? Delivery::Silent : Delivery::Refused;
 }
 
 } // namespace backend

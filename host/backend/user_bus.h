@@ -18,8 +18,17 @@ struct Handover
     std::string options;
 };
 
-// Hands a document to the print service on the bus of the user that this process has become, and waits until
-// its dialog can be seen. False with an error, one sentence.
-bool handOver(uid_t uid, const Handover &handover, std::chrono::seconds patience, std::string *error);
+enum class Delivery {
+    Taken,   // the service has the document
+    Refused, // by an answer, or there is no session
+    Silent   // nothing on the user's side has answered
+};
+
+// Hands a document to the print service on the bus of the user that this process has become. Waits at most
+// `connecting` for the bus and then `answering` for the service, which answers once its dialog is visible or
+// once it keeps the document itself. Sets an error, one sentence, unless the document was taken. The process
+// ends by SIGALRM when the bus exceeds its time.
+Delivery handOver(uid_t uid, const Handover &handover, std::chrono::seconds connecting,
+                  std::chrono::seconds answering, std::string *error);
 
 } // namespace backend

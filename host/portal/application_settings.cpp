@@ -61,7 +61,8 @@ void beginWith(const StartingSettings &start, DialogSession *session)
 {
     GeneralSettings &general = session->general();
     general.copies = start.copies;
-    general.collate = start.collate.value_or(general.collate);
+    if (start.copies > 1) // with one copy the value is a default of the application, not a request
+        general.collate = start.collate.value_or(general.collate);
     general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
     if (start.currentPage && general.offersCurrentPage)
         general.part = GeneralSettings::Part::CurrentPage;

@@ -39,7 +39,7 @@ std::optional<QJsonObject> DialogChannel::readRequest()
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 
-// Nobody writes anything after the request.
+// After the request comes at most the word that the caller has gone.
 bool DialogChannel::isClosed() const
 {
     pollfd input = {STDIN_FILENO, POLLIN, 0};
@@ -49,14 +49,28 @@ bool DialogChannel::isClosed() const
 void DialogChannel::watch()
 {
     auto *notifier = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
-        char block[256];
-        const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
-        if (got > 0 || (got < 0 && errno == EINTR))
-            return;
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] { read(notifier); });
+}
+
+void DialogChannel::read(QSocketNotifier *notifier)
+{
+    char block[256];
+    const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
+    if (got < 0 && errno == EINTR)
+        return;
+    if (got <= 0) {
         notifier->setEnabled(false);
         Q_EMIT closed();
-    });
+        return;
+    }
+    m_unread.append(block, got);
+    for (qsizetype end = m_unread.indexOf('\n'); end >= 0; end = m_unread.indexOf('\n')) {
+        const QJsonObject line = QJsonDocument::fromJson(m_unread.left(end)).object();
+        m_unread.remove(0, end + 1);
+        if (line.value(QLatin1String("event")) == QLatin1String("abandoned"))
+            Q_EMIT abandoned();
+    }
+    m_unread.truncate(longestRequest);
 }
 
 void DialogChannel::write(const QJsonObject &answer)

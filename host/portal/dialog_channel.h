@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class QSocketNotifier;
+
 namespace host {
 
 // How a process that opens one dialog for the service talks to it: a request comes on the standard input,
@@ -30,10 +32,15 @@ public:
     void write(const QJsonObject &answer);
 
 Q_SIGNALS:
-    // Whoever asked does not want the dialog any more, or is gone.
+    // The caller does not want the dialog any more, or the service is gone. Comes after abandoned().
     void closed();
+    // The application has left the bus.
+    void abandoned();
 
 private:
+    void read(QSocketNotifier *notifier);
+
+    QByteArray m_unread;
     platform::UniqueFd m_answers;
 };
 

@@ -6,10 +6,12 @@
 #include "host/batch/arguments.h"
 #include "host/portal/application_settings.h"
 #include "host/portal/dialog_channel.h"
+#include "host/portal/handed_document.h"
 #include "host/portal/stored_job.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/option_text.h"
 #include "host/session/chosen_settings.h"
+#include "host/window/jobs/desktop_notice.h"
 #include "host/window/look/parent_window.h"
 #include "host/window/look/startup_clock.h"
 #include "host/window/print_window.h"
@@ -19,8 +21,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QMessageBox>
-
-#include <cstring>
+#include <QTimer>
 
 namespace host {
 
@@ -30,10 +31,6 @@ struct PortalText
 {
     Q_DECLARE_TR_FUNCTIONS(PortalText)
 };
-
-// How long an application may leave its document unfinished: without another byte, and one byte after the
-// other. Each document that is not finished keeps one of the service's places.
-constexpr platform::Patience patience{std::chrono::minutes(1), std::chrono::minutes(10)};
 
 enum Response { Done = 0, Cancelled = 1, Other = 2 };
 
@@ -69,11 +66,18 @@ private:
     int submit();
     bool send(const StoredJob &job, PrintError *error);
     void tell(const QString &text, const QString &details);
+    void tellAbandoned();
     int openDialog();
     PrintTask task(const StartingSettings &start);
     QJsonObject chosen(const PrintWindow &window) const;
     int answer(const QJsonObject &answer);
     int answer(Response response) { return answer({{QStringLiteral("response"), response}}); }
+    // Answers "other" for a reason that the service knows.
+    int fail(const char *reason)
+    {
+        return answer(
+            {{QStringLiteral("response"), Other}, {QStringLiteral("reason"), QLatin1String(reason)}});
+    }
 
     PrintSystem &m_system;
     Extensions &m_extensions;
@@ -91,15 +95,19 @@ int RequestRun::run()
     if (!request)
         return ExitUsage;
     m_request = *request;
+    if (kind() == QLatin1String("lost")) {
+        tell(PortalText::tr("The document of an application cannot be printed."), jobTitle());
+        return answer(Other);
+    }
     PrintError error;
     if (kind() != QLatin1String("choose") && !takeDocument(&error)) {
-        const int code = answer(Other);
+        const int code = fail("document");
         tell(PortalText::tr("The document of an application cannot be printed."), error.message);
         return code;
     }
     if (kind() == QLatin1String("submit"))
         return submit();
-    return m_hasDisplay ? openDialog() : answer(Other);
+    return m_hasDisplay ? openDialog() : fail("display");
 }
 
 int RequestRun::answer(const QJsonObject &answer)
@@ -111,24 +119,8 @@ int RequestRun::answer(const QJsonObject &answer)
 bool RequestRun::takeDocument(PrintError *error)
 {
     const platform::UniqueFd given(m_request.value(QLatin1String("document")).toInt(-1));
-    if (given)
-        m_document = platform::privateCopy(given.get(), QDir::tempPath().toStdString(),
-                                           platform::longestDocument, &patience);
-    else
-        errno = EBADF;
-    if (m_document && ::lseek(m_document.get(), 0, SEEK_END) > 0)
-        return true;
-    if (m_document) {
-        *error = {PrintError::Kind::EmptyDocument, PortalText::tr("It is empty.")};
-        return false;
-    }
-    *error =
-        errno == EFBIG
-            ? PrintError{PrintError::Kind::Other, PortalText::tr("It is larger than 2 GB.")}
-            : PrintError{
-                  PrintError::Kind::Other,
-                  PortalText::tr("It cannot be read: %1.").arg(QString::fromLocal8Bit(std::strerror(errno)))};
-    return false;
+    m_document = openHandedDocument(given, error);
+    return static_cast<bool>(m_document);
 }
 
 QString RequestRun::documentPath() const
@@ -210,6 +202,19 @@ void RequestRun::tell(const QString &text, const QString &details)
     box.exec();
 }
 
+// The box closes by itself: the process keeps a place in the service.
+void RequestRun::tellAbandoned()
+{
+    constexpr std::chrono::seconds shown(10);
+    const QString text = PortalText::tr(
+        "The application that opened the print dialog has been closed. Nothing has been printed.");
+    if (notifyDesktopNow(PortalText::tr("Print"), text, false))
+        return;
+    QMessageBox box(QMessageBox::Information, PortalText::tr("Print"), text);
+    QTimer::singleShot(shown, &box, &QDialog::reject);
+    box.exec();
+}
+
 PrintTask RequestRun::task(const StartingSettings &start)
 {
     PrintTask task;
@@ -262,6 +267,11 @@ int RequestRun::openDialog()
     if (kind() == QLatin1String("choose")) { // who owns a document is seen to the end
         QObject::connect(&m_channel, &DialogChannel::closed, &window, &PrintWindow::reject);
     }
+    bool isAbandoned = false;
+    QObject::connect(&m_channel, &DialogChannel::abandoned, &window, [&] {
+        isAbandoned = true;
+        window.reject();
+    });
     QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     if (!window.isDismissed()) {
@@ -272,7 +282,11 @@ int RequestRun::openDialog()
     m_system.setLoginPrompt({});
     if (window.submission())
         return answer(Done);
-    return window.result() == QDialog::Accepted ? answer(chosen(window)) : answer(Cancelled);
+    if (window.result() == QDialog::Accepted)
+        return answer(chosen(window));
+    if (isAbandoned)
+        tellAbandoned();
+    return answer(Cancelled);
 }
 
 QJsonObject RequestRun::chosen(const PrintWindow &window) const

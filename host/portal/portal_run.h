@@ -13,10 +13,11 @@ namespace host {
 // be shown. The exit code.
 //
 // A request has "kind": "choose" (settings alone), "print" (with a document; the dialog stays when the
-// service goes), "document" (the same, of a queue, and from when it is seen) or "submit" (a document with the
-// "job" that a "choose" has answered). "document" is the number of an inherited descriptor. The rest is
-// optional: "title", "parent" (window handle of the portal), "modal", "acceptLabel" (with GTK's mnemonic),
-// "settings", "pageSetup", "abilities" (portal_settings.h), "copies" and "options" (of a print job).
+// service goes), "document" (the same, of a queue, and from when it is seen), "submit" (a document with the
+// "job" that a "choose" has answered) or "lost" (tells that the document "title" of a queue is lost).
+// "document" is the number of an inherited descriptor. The rest is optional: "title", "parent" (window handle
+// of the portal), "modal", "acceptLabel" (with GTK's mnemonic), "settings", "pageSetup", "abilities"
+// (portal_settings.h), "copies" and "options" (of a print job).
 int runDialogRequest(PrintSystem &system, Extensions &extensions, bool hasDisplay);
 
 } // namespace host

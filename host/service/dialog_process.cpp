@@ -6,16 +6,18 @@
 #include "host/service/log.h"
 
 #include <QJsonDocument>
+#include <QTimer>
 
 namespace host {
 
 namespace {
 
+constexpr std::chrono::seconds closingTime(20);
 constexpr qsizetype mostUnread = 4 * 1024 * 1024; // bytes; an answer is some kilobytes
 
 QJsonObject failure()
 {
-    return {{QStringLiteral("response"), 2}};
+    return {{QStringLiteral("response"), 2}, {QStringLiteral("reason"), QStringLiteral("ended")}};
 }
 
 } // namespace
@@ -44,6 +46,13 @@ void DialogProcess::start(QJsonObject request, platform::UniqueFd document)
     }
     m_process.start();
     m_process.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
+}
+
+void DialogProcess::closeAbandoned()
+{
+    m_process.write("{\"event\":\"abandoned\"}\n");
+    close();
+    QTimer::singleShot(closingTime, &m_process, &QProcess::kill);
 }
 
 void DialogProcess::read()

@@ -22,13 +22,18 @@ public:
 
     // The process inherits `document`, whose number is added to the request.
     void start(QJsonObject request, platform::UniqueFd document);
-    // Asks the dialog to go; it does, unless the user has printed with it already.
+    // Asks the dialog to close. It does, unless the user has printed with it already or it has a document and
+    // has been shown.
     void close() { m_process.closeWriteChannel(); }
+    // The same for a dialog without a document whose application has left the bus: the user is told. A dialog
+    // that does not react in time is killed.
+    void closeAbandoned();
 
 Q_SIGNALS:
     // The dialog can be seen.
     void shown();
-    // Emitted once, whatever happens. "response" is 0 (done), 1 (cancelled) or 2 (anything else).
+    // Emitted once, whatever happens. "response" is 0 (done), 1 (cancelled) or 2 (anything else); "reason" of
+    // the last is "display", "document", "ended" (the process, without an answer) or missing.
     void answered(const QJsonObject &answer);
     // The process is gone. Comes last.
     void ended();

@@ -25,9 +25,10 @@ public:
     static QString objectPath() { return QStringLiteral("/org/kelmar/Print1"); }
 
 public Q_SLOTS:
-    // Answers when the user can see the dialog; then the document is in its hands. `title` and `options`, job
-    // options as lp takes them, are bytes since nobody has looked at them yet. Answers an error when no
-    // dialog comes.
+    // Answers when the dialog is visible, or when it takes longer to open than the queue can wait; then the
+    // document is the service's. `title` and `options`, job options as lp takes them, are bytes that have not
+    // been checked yet. Answers an error, one of org.kelmar.Print1.Error.{TooManyDialogs, NoDisplay,
+    // BadDocument, NoDialog}, when the queue is to keep the job.
     Q_SCRIPTABLE void OpenDocument(const QDBusUnixFileDescriptor &document, const QByteArray &title,
                                    uint copies, const QByteArray &options);
 

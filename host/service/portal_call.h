@@ -8,6 +8,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QVariantMap>
 
@@ -16,7 +17,8 @@
 namespace host {
 
 // One call of the portal and the dialog it opens: answers the call once, and is on the bus under the call's
-// handle until then, so that the portal can take it back. Deletes itself when the dialog is gone.
+// handle until then, so that the portal can take it back. A dialog without a document closes, too, when the
+// application or the portal has left the bus. Deletes itself when the dialog is gone.
 class PortalCall : public QObject
 {
     Q_OBJECT
@@ -25,19 +27,23 @@ public:
     // What a call results in when the dialog was accepted.
     using Results = std::function<QVariantMap(const QJsonObject &answer)>;
 
-    PortalCall(ServiceLife &life, const QDBusConnection &bus, const QDBusMessage &message);
+    // `client` is the application as ServiceLife counts it.
+    PortalCall(ServiceLife &life, const QString &client, const QDBusConnection &bus,
+               const QDBusMessage &message);
 
     // `handle` is where the request is exported. `isJob` means that there is a document: the request can be
     // forgotten, the work goes on.
     void run(const QString &handle, const QJsonObject &request, platform::UniqueFd document, bool isJob,
              const Results &results);
-    // Answers without a dialog.
-    void refuse();
+    // Answers without a dialog; `reason` goes to the application.
+    void refuse(const QString &reason);
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Close();
 
 private:
+    void watchCallers(const QString &handle);
+    void callerHasGone();
     void reply(uint response, const QVariantMap &results = {});
 
     ServiceLife::Use m_use;
@@ -45,6 +51,7 @@ private:
     QDBusMessage m_message;
     QString m_handle; // empty when nothing is exported
     DialogProcess m_dialog;
+    QDBusServiceWatcher m_callers;
     bool m_isJob = false;
     bool m_replied = false;
 };

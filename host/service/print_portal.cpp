@@ -29,11 +29,17 @@ QJsonObject requestOf(const QString &kind, const QString &parentWindow, const QS
 
 } // namespace
 
-PortalCall *PrintPortal::newCall()
+PortalCall *PrintPortal::newCall(const QString &appId)
 {
     setDelayedReply(true);
     m_life.touch();
-    return new PortalCall(m_life, connection(), message());
+    const QString client = QStringLiteral("application:") + appId.left(longestText);
+    const QString refusal = m_life.refusal(client);
+    auto *call = new PortalCall(m_life, client, connection(), message());
+    if (refusal.isNull())
+        return call;
+    call->refuse(refusal);
+    return nullptr;
 }
 
 uint PrintPortal::PreparePrint(const QDBusObjectPath &handle, const QString &app_id,
@@ -41,12 +47,9 @@ uint PrintPortal::PreparePrint(const QDBusObjectPath &handle, const QString &app
                                const QVariantMap &settings, const QVariantMap &page_setup,
                                const QVariantMap &options, QVariantMap &)
 {
-    const bool isFull = m_life.isFull();
-    PortalCall *call = newCall();
-    if (isFull) {
-        call->refuse();
+    PortalCall *call = newCall(app_id);
+    if (!call)
         return 0;
-    }
     QJsonObject request = requestOf(QStringLiteral("choose"), parent_window, title, options);
     request.insert(QStringLiteral("settings"), plainValues(settings));
     request.insert(QStringLiteral("pageSetup"), plainValues(page_setup));
@@ -66,12 +69,14 @@ uint PrintPortal::Print(const QDBusObjectPath &handle, const QString &app_id, co
                         const QString &title, const QDBusUnixFileDescriptor &fd, const QVariantMap &options,
                         QVariantMap &)
 {
-    const bool isFull = m_life.isFull();
-    PortalCall *call = newCall();
+    PortalCall *call = newCall(app_id);
+    if (!call) // the token stays good
+        return 0;
     platform::UniqueFd document = platform::UniqueFd::duplicate(fd.fileDescriptor());
     const bool isTaken = connection().objectRegisteredAt(handle.path());
-    if (!document || isFull || isTaken) { // the token stays good
-        call->refuse();
+    if (!document || isTaken) {
+        call->refuse(document ? QStringLiteral("There is a request already at %1.").arg(handle.path())
+                              : QStringLiteral("There is no document."));
         return 0;
     }
     const auto job = m_tokens.take(options.value(QStringLiteral("token")).toUInt(), app_id);

@@ -43,7 +43,8 @@ public Q_SLOTS:
                             QVariantMap &results);
 
 private:
-    PortalCall *newCall();
+    // Null, with the call answered, when the application has too many requests already.
+    PortalCall *newCall(const QString &appId);
 
     ServiceLife &m_life;
     TokenStore &m_tokens;

@@ -3,6 +3,8 @@
 
 #include "host/service/service_life.h"
 
+#include "host/service/log.h"
+
 namespace host {
 
 ServiceLife::ServiceLife(const QString &dialogProgram, std::chrono::milliseconds idleTime)
@@ -15,6 +17,33 @@ ServiceLife::ServiceLife(const QString &dialogProgram, std::chrono::milliseconds
             Q_EMIT idle();
     });
     m_timer.start();
+}
+
+QString ServiceLife::refusal(const QString &client) const
+{
+    QString reason;
+    if (m_uses >= mostRequests)
+        reason = QStringLiteral("Too many print dialogs are open (%1).").arg(m_uses);
+    else if (m_usesOf.value(client) >= mostRequestsOfOne)
+        reason = QStringLiteral("Too many print dialogs of this application are open (%1).")
+                     .arg(m_usesOf.value(client));
+    if (!reason.isNull())
+        qCWarning(lcService) << "refused a request of" << client << reason;
+    return reason;
+}
+
+ServiceLife::Use::Use(ServiceLife &life, const QString &client) : m_life(life), m_client(client)
+{
+    ++m_life.m_uses;
+    ++m_life.m_usesOf[m_client];
+}
+
+ServiceLife::Use::~Use()
+{
+    --m_life.m_uses;
+    if (--m_life.m_usesOf[m_client] == 0)
+        m_life.m_usesOf.remove(m_client);
+    m_life.touch();
 }
 
 void ServiceLife::touch()

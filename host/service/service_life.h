@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -11,37 +12,37 @@
 
 namespace host {
 
-// How the service starts a dialog, how many there may be at a time, and when it is time to leave. Every
-// request under way holds one Use.
+// Knows the dialog program, limits the number of requests, and decides when the service has been idle long
+// enough to leave. Every request under way holds one Use.
 class ServiceLife : public QObject
 {
     Q_OBJECT
 public:
     static constexpr int mostRequests = 32;
+    static constexpr int mostRequestsOfOne = 8; // of one application, or of the queue
 
     ServiceLife(const QString &dialogProgram, std::chrono::milliseconds idleTime);
 
     const QString &dialogProgram() const { return m_dialogProgram; }
-    bool isFull() const { return m_uses >= mostRequests; }
+    // Why no further request of `client` is admitted, in words; null when it is. A client is an application,
+    // by its id, or the queue. Logs a refusal.
+    QString refusal(const QString &client) const;
     bool isUsed() const { return m_uses > 0; }
-    // Something has happened: the idle time begins anew.
+    // Restarts the idle time.
     void touch();
 
-    // While it lives the service is in use.
+    // Counts one request of `client` as long as it lives.
     class Use
     {
     public:
-        explicit Use(ServiceLife &life) : m_life(life) { ++m_life.m_uses; }
-        ~Use()
-        {
-            --m_life.m_uses;
-            m_life.touch();
-        }
+        Use(ServiceLife &life, const QString &client);
+        ~Use();
         Use(const Use &) = delete;
         Use &operator=(const Use &) = delete;
 
     private:
         ServiceLife &m_life;
+        QString m_client;
     };
 
 Q_SIGNALS:
@@ -50,6 +51,7 @@ Q_SIGNALS:
 private:
     QString m_dialogProgram;
     QTimer m_timer;
+    QHash<QString, int> m_usesOf; // by client; without entries of 0
     int m_uses = 0;
 };
 

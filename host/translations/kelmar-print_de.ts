@@ -974,6 +974,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Document</source>
         <translation>Dokument</translation>
     </message>
+    <message>
+        <source>It is larger than 256 MB.</source>
+        <translation>Es ist größer als 256 MB.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
+        <translation>Die Anwendung, die den Druckdialog geöffnet hat, wurde beendet. Es wurde nichts gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -974,6 +974,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Document</source>
         <translation>Documento</translation>
     </message>
+    <message>
+        <source>It is larger than 256 MB.</source>
+        <translation>Ocupa más de 256 MB.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+    <message>
+        <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
+        <translation>La aplicación que abrió el diálogo de impresión se ha cerrado. No se ha imprimido nada.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

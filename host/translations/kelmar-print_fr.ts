@@ -974,6 +974,18 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Document</source>
         <translation>Document</translation>
     </message>
+    <message>
+        <source>It is larger than 256 MB.</source>
+        <translation>Il dépasse 256 Mo.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Ce n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
+        <translation>L’application qui a ouvert la boîte de dialogue d’impression a été fermée. Rien n’a été imprimé.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -974,6 +974,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Document</source>
         <translation>Documento</translation>
     </message>
+    <message>
+        <source>It is larger than 256 MB.</source>
+        <translation>È più grande di 256 MB.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Non è un file.</translation>
+    </message>
+    <message>
+        <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
+        <translation>L’applicazione che ha aperto la finestra di stampa è stata chiusa. Non è stato stampato nulla.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

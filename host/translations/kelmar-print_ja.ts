@@ -974,6 +974,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Document</source>
         <translation>文書</translation>
     </message>
+    <message>
+        <source>It is larger than 256 MB.</source>
+        <translation>文書が 256 MB を超えています。</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>文書がファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
+        <translation>印刷ダイアログを開いたアプリケーションが終了しました。何も印刷されていません。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -13,6 +13,7 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -21,6 +22,9 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+
+#include <csignal>
+#include <fcntl.h>
 
 using namespace Qt::StringLiterals;
 
@@ -89,9 +93,14 @@ private Q_SLOTS:
     void dialogThatFails_data();
     void dialogThatFails();
     void closeDuringTheDialog();
+    void abandonedDialogsClose_data();
+    void abandonedDialogsClose();
+    void placesAreLimited();
+    void documentStaysWhereItIs();
     void documentOutlivesItsRequest();
     void sameHandleTwice();
     void documentFromTheQueue();
+    void queueDoesNotWaitForADialog();
     void notifiesTheDesktop();
     void leavesWhenIdle();
     void goesWithTheBus();
@@ -101,6 +110,13 @@ private:
     void startService(const QStringList &arguments = {});
     QDBusMessage prepareCall(const QString &title, const QVariantMap &settings = {},
                              const QString &appId = {}, const QString &handle = {});
+    QDBusMessage openCall(const QByteArray &title);
+    QByteArray dialogProcesses() const
+    {
+        const QString pid = QString::number(m_service->processId());
+        QFile file(u"/proc/%1/task/%1/children"_s.arg(pid));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray("?");
+    }
     QDBusMessage printCall(uint token, const QString &appId = {}, const QString &title = u"T"_s);
     Answer call(const QDBusMessage &message)
     {
@@ -305,6 +321,88 @@ void ServiceTest::closeDuringTheDialog()
     QCOMPARE(m_bus.call(close).type(), QDBusMessage::ErrorMessage);
 }
 
+void ServiceTest::abandonedDialogsClose_data()
+{
+    QTest::addColumn<bool>("isPortal"); // that leaves, else the application
+    QTest::addColumn<bool>("isEarly");  // before the request arrives
+    QTest::newRow("application") << false << false;
+    QTest::newRow("application, early") << false << true;
+    QTest::newRow("portal") << true << false;
+}
+
+void ServiceTest::abandonedDialogsClose()
+{
+    QFETCH(bool, isPortal);
+    QFETCH(bool, isEarly);
+    startService();
+    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString application =
+        QDBusConnection::connectToBus(address, u"application"_s).baseService().mid(1).replace(u'.', u'_');
+    QDBusConnection portal = QDBusConnection::connectToBus(address, u"portal"_s);
+    if (isEarly)
+        QDBusConnection::disconnectFromBus(u"application"_s);
+    const auto call =
+        prepareCall(u"wait"_s, {}, {}, u"/org/freedesktop/portal/desktop/request/%1/t"_s.arg(application));
+    const auto pending = portal.asyncCall(call, patience);
+    portal = QDBusConnection({});
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
+    QDBusConnection::disconnectFromBus(isPortal ? u"portal"_s : u"application"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
+    QVERIFY(log().contains(R"({"event":"abandoned"})")); // so that the user hears of it
+    QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses(), QByteArray(), patience);
+    if (!isPortal)
+        QTRY_VERIFY_WITH_TIMEOUT(pending.isFinished(), patience);
+    for (const QString &name : {u"application"_s, u"portal"_s})
+        QDBusConnection::disconnectFromBus(name);
+}
+
+void ServiceTest::placesAreLimited()
+{
+    constexpr int ofOne = 8, all = 32;
+    startService();
+    const auto fill = [this](const QString &appId) {
+        const qsizetype before = log().count("\"wait\"");
+        for (int i = 0; i < ofOne; ++i)
+            m_bus.asyncCall(prepareCall(u"wait"_s, {}, appId), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(log().count("\"wait\""), before + ofOne, patience);
+    };
+    fill(u"a"_s);
+    const Answer refused = call(prepareCall(u"T"_s, {}, u"a"_s));
+    QCOMPARE(refused.response, 2);
+    QVERIFY(refused.results.value(u"message"_s).toString().contains("Too many"_L1));
+    QCOMPARE(call(printCall(0, u"a"_s)).response, 2);
+    QCOMPARE(call(prepareCall(u"T"_s, {}, u"b"_s)).response, 0);
+    QCOMPARE(m_bus.call(openCall("T"), QDBus::BlockWithGui, patience).type(), QDBusMessage::ReplyMessage);
+    for (int i = 1; i < all / ofOne; ++i)
+        fill(QString::number(i));
+    QCOMPARE(call(prepareCall(u"T"_s, {}, u"b"_s)).response, 2);
+    const QDBusMessage ofQueue = m_bus.call(openCall("T"), QDBus::BlockWithGui, patience);
+    QCOMPARE(ofQueue.errorName(), u"org.kelmar.Print1.Error.TooManyDialogs"_s);
+    QCOMPARE(dialogProcesses().split(' ').size(), all);
+}
+
+// What an application hands over takes no space before the user has agreed to print it.
+void ServiceTest::documentStaysWhereItIs()
+{
+    constexpr qint64 size = 400 * 1024 * 1024;
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.resize(size));
+    const int fd = file.handle();
+    QProcess dialog;
+    dialog.setChildProcessModifier([fd] { ::fcntl(fd, F_SETFD, 0); });
+    dialog.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print"), {u"--dialog-request"_s});
+    dialog.write(QByteArray(R"({"kind":"print","title":"T","document":)") + QByteArray::number(fd) + "}\n");
+    QByteArray said;
+    QTRY_VERIFY_WITH_TIMEOUT((said += dialog.readAllStandardOutput()).contains("shown"), patience);
+    QFile counters(u"/proc/%1/io"_s.arg(dialog.processId()));
+    QVERIFY(counters.open(QIODevice::ReadOnly));
+    const QByteArray written = counters.readAll().split('\n').value(1); // "wchar: BYTES"
+    QVERIFY(written.startsWith("wchar: "));
+    QVERIFY2(written.mid(7).toLongLong() < size / 10, written.constData());
+    dialog.kill();
+    QVERIFY(dialog.waitForFinished(patience));
+}
+
 void ServiceTest::documentOutlivesItsRequest()
 {
     startService();
@@ -333,20 +431,23 @@ void ServiceTest::sameHandleTwice()
     QVERIFY(!first.isFinished());
 }
 
+QDBusMessage ServiceTest::openCall(const QByteArray &title)
+{
+    QTemporaryFile file;
+    if (!file.open() || file.write("PDF") < 0 || !file.flush())
+        qFatal("no temporary file");
+    auto message = QDBusMessage::createMethodCall(u"org.kelmar.Print1"_s, u"/org/kelmar/Print1"_s,
+                                                  u"org.kelmar.Print1"_s, u"OpenDocument"_s);
+    message << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())) << title << 3U
+            << QByteArray("sides=one-sided \xff");
+    return message;
+}
+
 void ServiceTest::documentFromTheQueue()
 {
     startService();
-    QTemporaryFile file;
-    QVERIFY(file.open() && file.write("PDF") == 3 && file.flush());
-    const auto message = [&](const QByteArray &title) {
-        auto message = QDBusMessage::createMethodCall(u"org.kelmar.Print1"_s, u"/org/kelmar/Print1"_s,
-                                                      u"org.kelmar.Print1"_s, u"OpenDocument"_s);
-        message << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())) << title << 3U
-                << QByteArray("sides=one-sided \xff");
-        return message;
-    };
     const auto open = [&](const QByteArray &title) {
-        return m_bus.call(message(title), QDBus::BlockWithGui, patience).type();
+        return m_bus.call(openCall(title), QDBus::BlockWithGui, patience).type();
     };
     QCOMPARE(open("Letter \xff\xfe"), QDBusMessage::ReplyMessage);
     QCOMPARE(lastRequest().value("title"_L1).toString(), u"Letter \ufffd\ufffd"_s);
@@ -357,10 +458,29 @@ void ServiceTest::documentFromTheQueue()
     // A caller that goes before it is seen.
     const QString other = u"service-test-caller"_s;
     QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), other)
-        .asyncCall(message("silent"));
+        .asyncCall(openCall("silent"));
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("silent"), patience);
     QDBusConnection::disconnectFromBus(other);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
+}
+
+// Other users wait for the queue.
+void ServiceTest::queueDoesNotWaitForADialog()
+{
+    startService();
+    const auto open = [&](const QByteArray &title) {
+        return m_bus.call(openCall(title), QDBus::BlockWithGui, patience);
+    };
+    QElapsedTimer time;
+    time.start();
+    QCOMPARE(open("message").errorName(), u"org.kelmar.Print1.Error.BadDocument"_s);
+    QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
+    QCOMPARE(open("no display").errorName(), u"org.kelmar.Print1.Error.NoDisplay"_s);
+    const QByteArray others = dialogProcesses();
+    QCOMPARE(open("silent").type(), QDBusMessage::ReplyMessage); // the service has the document
+    const QByteArray silent = dialogProcesses().mid(others.size()).trimmed();
+    QCOMPARE(::kill(silent.toInt(), SIGKILL), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains(R"("kind":"lost")"), patience); // the user is told
 }
 
 void ServiceTest::notifiesTheDesktop()
@@ -410,10 +530,6 @@ void ServiceTest::aThousandRequestsLeaveNothing()
             .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
             .size();
     };
-    const auto children = [&process] {
-        QFile file(process + u"/task/"_s + process.section(u'/', -1) + u"/children"_s);
-        return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray("?");
-    };
     const auto privateKilobytes = [&process] {
         QFile file(process + u"/smaps_rollup"_s);
         qint64 sum = 0;
@@ -438,11 +554,11 @@ void ServiceTest::aThousandRequestsLeaveNothing()
         }
     };
     ask(20);
-    QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses(), QByteArray(), patience);
     const qsizetype files = entries(u"/fd"_s), threads = entries(u"/task"_s);
     [[maybe_unused]] const qint64 before = privateKilobytes();
     ask(1000);
-    QTRY_COMPARE_WITH_TIMEOUT(children(), QByteArray(), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses(), QByteArray(), patience);
     QTRY_COMPARE_WITH_TIMEOUT(entries(u"/fd"_s), files, patience);
     QCOMPARE(entries(u"/task"_s), threads);
     const QDBusMessage tree = m_bus.call(QDBusMessage::createMethodCall(

@@ -4,19 +4,24 @@
 # Stands in for the dialog: does what the title of the request says, and notes requests in $STUB_LOG.
 read -r line
 [ -z "${STUB_LOG:-}" ] || printf '%s\n' "$line" >>"$STUB_LOG"
+follow() { # until it is told to go
+    cat >>"${STUB_LOG:-/dev/null}"
+    echo gone >>"${STUB_LOG:-/dev/null}"
+}
 case $line in
 *'"title":"crash"'*) kill -KILL $$ ;;
 *'"title":"garbage"'*) printf 'no json\n[1]\n{"response":"x"}\n' ;;
 *'"title":"endless"'*) tr '\0' x </dev/zero ;;
-*'"title":"silent"'*)
-    cat >/dev/null
-    [ -z "${STUB_LOG:-}" ] || echo gone >>"$STUB_LOG"
+*'"title":"silent"'*) follow ;;
+*'"title":"no display"'*) echo '{"response":2,"reason":"display"}' ;;
+*'"title":"message"'*)
+    echo '{"response":2,"reason":"document"}'
+    follow # as a message that the user has not closed
     ;;
 *'"title":"cancel"'*) echo '{"response":1}' ;;
 *'"title":"wait"'*)
     echo '{"event":"shown"}'
-    cat >/dev/null # until it is told to go
-    [ -z "${STUB_LOG:-}" ] || echo gone >>"$STUB_LOG"
+    follow
     ;;
 *'"kind":"choose"'*)
     echo '{"response":0,"settings":{"printer":"office"},"pageSetup":{"PPDName":"A4"},"job":{"printer":"office","options":[["Code","12345",0]]}}'

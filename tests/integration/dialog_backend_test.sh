@@ -44,7 +44,7 @@ expect() { # WHAT CODE TEXT COMMAND...: the exit code, and what the error output
 }
 
 backend() { # ARGUMENTS...: as cupsd runs it
-    env -i PATH="$PATH" AUTH_UID="${auth-$uid}" DEVICE_URI="${device:-kelmar-dialog:/}" SECRET=of-root \
+    env -i PATH="$PATH" AUTH_UID="${auth-$uid}" DEVICE_URI="${device:-kelmar-dialog:/}" SECRET=of-root CUPS_STATEDIR="${state:-}" \
         ASAN_OPTIONS="${ASAN_OPTIONS:-}" "$build/backend/kelmar-dialog" "$@"
 }
 
@@ -59,6 +59,8 @@ auth=0 expect "root" 3 "(root)" backend 1 nobody T 1 "" "$work/job"
 auth=54321 expect "unknown user" 3 "no user with the number 54321" backend 1 nobody T 1 "" "$work/job"
 unset auth
 expect "no AUTH_UID" 3 "signed in" env -i "$build/backend/kelmar-dialog" 1 nobody T 1 "" "$work/job"
+# cupsd has a number for everybody but root.
+expect "root, by its name" 3 "(root)" env -i AUTH_USERNAME=root "$build/backend/kelmar-dialog" 1 nobody T 1 "" "$work/job"
 
 # ---- where the session is
 expect "no session" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
@@ -96,6 +98,11 @@ for copies in 0 -5 99999999999 1e3 ""; do
     accepted "copies '$copies'" '"copies":1' 1 nobody T "$copies" "" "$work/job"
 done
 from_pipe() { cat "$work/job" | backend 1 nobody T 1 ""; }
+# A file is handed over, not copied.
+truncate -s 20M "$work/twenty"
+used=$(df --output=used /var/tmp | tail -n 1)
+expect "a file that stays" 0 "" backend 1 nobody wait 1 "" "$work/twenty"
+[ "$(df --output=used /var/tmp | tail -n 1)" -eq "$used" ] || { echo "FAIL: the document was copied" && failed=1; }
 rm -f "$log.document"
 from_pipe || { echo "FAIL: a document from a filter" && failed=1; }
 
@@ -122,6 +129,22 @@ wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 000000
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
 wait $waiting || failed=1 # which it says in a process of its own
+
+# ---- nothing on the user's side keeps the queue from others
+within() { # SECONDS WHAT CODE TEXT COMMAND...
+    local begun=$SECONDS
+    expect "${@:2}"
+    [ $((SECONDS - begun)) -le "$1" ] || { echo "FAIL: $2 took $((SECONDS - begun)) s" && failed=1; }
+}
+within 3 "a message of the dialog" 3 "the document cannot be read" backend 1 nobody message 1 "" "$work/job"
+within 3 "no display" 3 "has no display" backend 1 nobody "no display" 1 "" "$work/job"
+within 8 "a dialog that is slow" 0 "" backend 1 nobody silent 1 "" "$work/job"
+stop_backend() { # stops the process that acts for the user as soon as there is one
+    for tries in {1..100}; do pkill -STOP -u $uid -f "$build/backend/kelmar-dialog" && break || sleep 0.05; done
+}
+stop_backend &
+device=kelmar-dialog:/?wait=3 within 10 "a stopped backend" 3 "did not answer" backend 1 nobody silent 1 "" "$work/job"
+wait $!
 expect "cancelled" 143 "" timeout --preserve-status 1 env -i AUTH_UID=$uid \
     "$build/backend/kelmar-dialog" 1 nobody silent 1 "" "$work/job"
 for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/null || break; sleep 0.1; done
@@ -134,7 +157,14 @@ os.rename(sys.argv[1] + ".new", sys.argv[1]); time.sleep(60)' $runtime/bus &
 pids+=($!)
 for tries in {1..50}; do [ -S $runtime/bus ] && break || sleep 0.1; done
 expect "a silent bus" 3 "did not open" timeout 30 bash -c "$(declare -f backend); uid=$uid build=$build device=kelmar-dialog:/?wait=1; backend 1 nobody T 1 '' $work/job"
+mkdir "$work/state"
+state=$work/state within 6 "a silent bus, usual times" 3 "did not answer" backend 1 nobody T 1 "" "$work/job"
+state=$work/state within 1 "the job after it" 3 "the job before this one" backend 1 nobody T 1 "" "$work/job"
+auth=1 state=$work/state expect "another user's" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
 mv $runtime/true-bus $runtime/bus
+touch -d "-1 minute" "$work/state/"*
+state=$work/state expect "a minute later" 0 "" backend 1 nobody T 1 "" "$work/job"
+[ -z "$(ls "$work/state")" ] || { echo "FAIL: the silence is still remembered" && failed=1; }
 [ -z "$(ls -A /var/tmp)" ] || { echo "FAIL: left in /var/tmp: $(ls -A /var/tmp)" && failed=1; }
 
 # ---- through a real cupsd
@@ -159,5 +189,5 @@ held() { # WHAT TEXT: the last job waits, and both it and the queue say why
 as_user lp -d kelmar -t crash "$document" >/dev/null
 held "a dialog that fails" "The dialog did not open" 1
 lp -d kelmar "$document" >/dev/null
-held "root" "signed in on this computer" 2 # cupsd names root to no backend
+held "root" "(root)" 2
 [ $failed -eq 0 ] || { cat "$work/cups/log/error_log"; exit 1; }

@@ -28,27 +28,43 @@ QString serviceProgram()
                      .absoluteFilePath();
 }
 
-} // namespace
-
 // Texts go through a pipe: everybody can read the arguments of a process.
-void notifyDesktop(const QString &title, const QString &text, bool isUrgent)
+QByteArray noticeOf(const QString &title, const QString &text, bool isUrgent)
 {
     const QJsonObject notice{{QStringLiteral("title"), title},
                              {QStringLiteral("text"), text},
                              {QStringLiteral("urgent"), isUrgent}};
+    return QJsonDocument(notice).toJson(QJsonDocument::Compact);
+}
+
+// False when nothing has been shown.
+bool show(const QString &program, const QByteArray &notice)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, {QStringLiteral("--notify")});
+    if (!process.waitForStarted(longest))
+        return false;
+    process.write(notice);
+    process.closeWriteChannel();
+    if (process.waitForFinished(longest))
+        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    process.kill();
+    return false;
+}
+
+} // namespace
+
+void notifyDesktop(const QString &title, const QString &text, bool isUrgent)
+{
     platform::Background::start(
-        [program = serviceProgram(), json = QJsonDocument(notice).toJson(QJsonDocument::Compact)] {
-            QProcess process;
-            process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            process.start(program, {QStringLiteral("--notify")});
-            if (!process.waitForStarted(longest))
-                return;
-            process.write(json);
-            process.closeWriteChannel();
-            if (!process.waitForFinished(longest))
-                process.kill();
-        },
+        [program = serviceProgram(), notice = noticeOf(title, text, isUrgent)] { show(program, notice); },
         nullptr, [] {});
+}
+
+bool notifyDesktopNow(const QString &title, const QString &text, bool isUrgent)
+{
+    return show(serviceProgram(), noticeOf(title, text, isUrgent));
 }
 
 } // namespace host
