@@ -20,6 +20,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -47,12 +48,36 @@ bool choosePlatform(int argc, char **argv)
     return hasDisplay;
 }
 
+// The command line while Qt opens the display; null before and after.
+char **wordsForDisplay = nullptr;
+
+// Qt ends the program when it cannot open the display that the environment names: one that has gone, another
+// user's, or one that Qt has no plug-in for. Starts the program again without that name instead, so that what
+// needs no display works, and what does has its message.
+[[noreturn]] void startWithoutDisplay()
+{
+    bool named = false;
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "QT_QPA_PLATFORM"}) {
+        named = named || qEnvironmentVariableIsSet(variable);
+        qunsetenv(variable);
+    }
+    if (named)
+        execv("/proc/self/exe", wordsForDisplay);
+    fputs("kelmar-print: The display cannot be opened.\n", stderr);
+    std::_Exit(ExitFailure);
+}
+
 // Log messages go to the terminal as well, and hold texts of PPDs and devices. The platform without a display
 // says of every window that it takes no hints about its size, and Qt says at its start where it puts what a
 // session without XDG_RUNTIME_DIR has no place for, as under cron: neither helps a user.
 QtMessageHandler standardHandler = nullptr;
 void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    if (wordsForDisplay && type == QtFatalMsg)
+        startWithoutDisplay();
+    // The reasons of that, and what Qt tries before it has opened another display.
+    if (wordsForDisplay && qstrncmp(context.category, "qt.qpa.", 7) == 0)
+        return;
     if (message != QLatin1String("This plugin does not support propagateSizeHints()") &&
         !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
@@ -183,7 +208,10 @@ int main(int argc, char **argv)
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);
+    std::vector<char *> words(argv, argv + argc + 1); // Qt takes its own out of argv
+    wordsForDisplay = words.data();
     QApplication app(argc, argv);
+    wordsForDisplay = nullptr;
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));

@@ -13,6 +13,7 @@
 #include "host/window/look/explanations.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/foreign_text.h"
+#include "host/window/look/list_escape.h"
 #include "host/window/look/text_direction.h"
 #include "host/window/messages/greyed_choices.h"
 #include "host/window/messages/message_bar.h"
@@ -60,6 +61,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     const QString documents = documentNames();
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
+    new ListEscape(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
     m_picker->addBeside(m_settings->button());
