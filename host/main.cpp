@@ -208,8 +208,8 @@ int main(int argc, char **argv)
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);
-    std::vector<char *> words(argv, argv + argc + 1); // Qt takes its own out of argv
-    wordsForDisplay = words.data();
+    std::vector<char *> given(argv, argv + argc + 1); // Qt takes its own out of argv
+    wordsForDisplay = given.data();
     QApplication app(argc, argv);
     wordsForDisplay = nullptr;
     QApplication::setOrganizationName(QStringLiteral("kelmar"));

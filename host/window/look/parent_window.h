@@ -14,10 +14,10 @@ namespace host {
 
 class WaylandParent;
 
-// Puts a dialog in front of another program's window, as the print portal names it: "x11:" and the window's number
-// in hexadecimal, or "wayland:" and the name under which its program has exported it. Where the name is none, or the
-// desktop has no such windows, nothing happens. The dialog is borrowed and not yet shown; this object outlives its
-// showing.
+// Puts a dialog in front of another program's window, as the print portal names it: "x11:" and the window's
+// number in hexadecimal, or "wayland:" and the name under which its program has exported it. Where the name
+// is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet shown;
+// this object outlives its showing.
 class ParentWindow
 {
 public:

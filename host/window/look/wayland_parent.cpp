@@ -22,9 +22,14 @@ namespace host {
 
 namespace {
 
-template <auto destroy> struct Destroyer
+template <auto destroy>
+struct Destroyer
 {
-    template <typename T> void operator()(T *object) const { destroy(object); }
+    template <typename T>
+    void operator()(T *object) const
+    {
+        destroy(object);
+    }
 };
 
 // What the compositor offers of the protocol: its second version, or the first.
@@ -51,8 +56,8 @@ constexpr wl_registry_listener registryListener{bindImporter, ignoreRemoval};
 
 } // namespace
 
-// Its objects have an event queue of their own, beside Qt's on the same connection. It is never read again after the
-// first round trip: that the other window has gone changes nothing here.
+// Its objects have an event queue of their own, beside Qt's on the same connection. It is never read again
+// after the first round trip: that the other window has gone changes nothing here.
 class WaylandParent::Import
 {
 public:
