@@ -22,6 +22,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -49,12 +50,36 @@ bool choosePlatform(int argc, char **argv)
     return hasDisplay;
 }
 
+// The command line while Qt opens the display; null before and after.
+char **wordsForDisplay = nullptr;
+
+// Qt ends the program when it cannot open the display that the environment names: one that has gone, another
+// user's, or one that Qt has no plug-in for. Starts the program again without that name instead, so that what
+// needs no display works, and what does has its message.
+[[noreturn]] void startWithoutDisplay()
+{
+    bool named = false;
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "QT_QPA_PLATFORM"}) {
+        named = named || qEnvironmentVariableIsSet(variable);
+        qunsetenv(variable);
+    }
+    if (named)
+        execv("/proc/self/exe", wordsForDisplay);
+    fputs("kelmar-print: The display cannot be opened.\n", stderr);
+    std::_Exit(ExitFailure);
+}
+
 // Log messages go to the terminal as well, and hold texts of PPDs and devices. The platform without a display
 // says of every window that it takes no hints about its size, and Qt says at its start where it puts what a
 // session without XDG_RUNTIME_DIR has no place for, as under cron: neither helps a user.
 QtMessageHandler standardHandler = nullptr;
 void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    if (wordsForDisplay && type == QtFatalMsg)
+        startWithoutDisplay();
+    // The reasons of that, and what Qt tries before it has opened another display.
+    if (wordsForDisplay && qstrncmp(context.category, "qt.qpa.", 7) == 0)
+        return;
     if (message != QLatin1String("This plugin does not support propagateSizeHints()") &&
         !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
@@ -199,6 +224,7 @@ int main(int argc, char **argv)
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);
+    std::vector<char *> passed(argv, argv + argc + 1); // Qt takes its own out of argv
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
@@ -210,7 +236,9 @@ int main(int argc, char **argv)
     const QStringList given = commandLine(argc, argv);
     auto arguments = parseArguments(given, &error);
     const auto early = arguments ? askEarly(*arguments, hasDisplay) : nullptr;
+    wordsForDisplay = passed.data();
     QApplication app(argc, argv);
+    wordsForDisplay = nullptr;
     installTranslations(&app);
     speakDialogLanguage(); // Qt has set the locale again
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))

@@ -68,8 +68,11 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintE
         const Kind kind = assignment.passOn ? Kind::JobOption : Kind::Key;
         ChosenSetting setting{assignment.key, assignment.value, kind};
         setting.isSecret = assignment.isSecret();
-        if (!choose(session, setting, error))
-            return false;
+        if (choose(session, setting, error))
+            continue;
+        if (!assignment.passOn && !SettingKeys(session).knows(setting.key))
+            error->message += QLatin1Char(' ') + BatchText::tr("--list-options lists what there is.");
+        return false;
     }
     const QString use = useOfHalfCode(arguments, *session);
     if (!use.isNull())

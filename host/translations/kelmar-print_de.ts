@@ -182,12 +182,12 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
         <translation>Die Standardeingabe kann nicht zugleich ein Wert und ein Dokument sein.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have.</source>
-        <translation>Die Befehlszeile enthält eine Option, die dieses Programm nicht kennt.</translation>
+        <source>There is an option on the command line that this program does not have; --help lists them.</source>
+        <translation>Die Befehlszeile enthält eine Option, die dieses Programm nicht kennt; --help nennt alle.</translation>
     </message>
     <message>
-        <source>There is no option “%1”.</source>
-        <translation>Es gibt keine Option „%1“.</translation>
+        <source>There is no option “%1”; --help lists them.</source>
+        <translation>Es gibt keine Option „%1“; --help nennt alle.</translation>
     </message>
     <message>
         <source>
@@ -253,6 +253,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 </context>
 <context>
     <name>BatchText</name>
+    <message>
+        <source>--list-options lists what there is.</source>
+        <translation>--list-options zeigt, was es gibt.</translation>
+    </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>

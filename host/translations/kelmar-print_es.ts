@@ -172,12 +172,12 @@
         <translation>--batch y --screenshot no se pueden combinar.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have.</source>
-        <translation>En la línea de comandos hay una opción que este programa no tiene.</translation>
+        <source>There is an option on the command line that this program does not have; --help lists them.</source>
+        <translation>En la línea de comandos hay una opción que este programa no tiene; --help muestra todas.</translation>
     </message>
     <message>
-        <source>There is no option “%1”.</source>
-        <translation>No existe la opción «%1».</translation>
+        <source>There is no option “%1”; --help lists them.</source>
+        <translation>No existe la opción «%1»; --help muestra todas.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -253,6 +253,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 </context>
 <context>
     <name>BatchText</name>
+    <message>
+        <source>--list-options lists what there is.</source>
+        <translation>--list-options muestra las opciones y los ajustes.</translation>
+    </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>

@@ -182,12 +182,12 @@ Imprime des documents, avec ou sans dialogue de réglages.
         <translation>L’entrée standard ne peut pas être à la fois une valeur et un document.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have.</source>
-        <translation>La ligne de commande contient une option que ce programme ne connaît pas.</translation>
+        <source>There is an option on the command line that this program does not have; --help lists them.</source>
+        <translation>La ligne de commande contient une option que ce programme ne connaît pas&#xa0;; --help donne la liste des options.</translation>
     </message>
     <message>
-        <source>There is no option “%1”.</source>
-        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
+        <source>There is no option “%1”; --help lists them.</source>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;»&#xa0;; --help en donne la liste.</translation>
     </message>
     <message>
         <source>
@@ -253,6 +253,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 </context>
 <context>
     <name>BatchText</name>
+    <message>
+        <source>--list-options lists what there is.</source>
+        <translation>--list-options donne la liste des options et réglages.</translation>
+    </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>

@@ -172,12 +172,12 @@
         <translation>--batch e --screenshot non possono essere usati insieme.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have.</source>
-        <translation>Sulla riga di comando c’è un’opzione che questo programma non ha.</translation>
+        <source>There is an option on the command line that this program does not have; --help lists them.</source>
+        <translation>Sulla riga di comando c’è un’opzione che questo programma non ha; --help elenca tutte le opzioni.</translation>
     </message>
     <message>
-        <source>There is no option “%1”.</source>
-        <translation>Non esiste l’opzione «%1».</translation>
+        <source>There is no option “%1”; --help lists them.</source>
+        <translation>Non esiste l’opzione «%1»; --help elenca tutte le opzioni.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -253,6 +253,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 </context>
 <context>
     <name>BatchText</name>
+    <message>
+        <source>--list-options lists what there is.</source>
+        <translation>--list-options elenca opzioni e impostazioni.</translation>
+    </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>

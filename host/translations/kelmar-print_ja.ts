@@ -182,12 +182,12 @@ Print documents, with a dialog for the settings or without one.
         <translation>標準入力を値と文書の両方に使うことはできません。</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have.</source>
-        <translation>コマンドラインに、このプログラムにないオプションがあります。</translation>
+        <source>There is an option on the command line that this program does not have; --help lists them.</source>
+        <translation>コマンドラインに、このプログラムにないオプションがあります。一覧は --help で表示できます。</translation>
     </message>
     <message>
-        <source>There is no option “%1”.</source>
-        <translation>オプション「%1」はありません。</translation>
+        <source>There is no option “%1”; --help lists them.</source>
+        <translation>オプション「%1」はありません。一覧は --help で表示できます。</translation>
     </message>
     <message>
         <source>
@@ -253,6 +253,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 </context>
 <context>
     <name>BatchText</name>
+    <message>
+        <source>--list-options lists what there is.</source>
+        <translation>一覧は --list-options で表示できます。</translation>
+    </message>
     <message>
         <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
         <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>

@@ -12,6 +12,7 @@
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
+#include "host/window/look/list_escape.h"
 #include "host/window/look/text_direction.h"
 #include "host/window/messages/greyed_choices.h"
 #include "host/window/pages/page_book.h"
@@ -67,6 +68,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     const QString documents = m_task.namesOf(m_documentChoice.included());
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
+    new ListEscape(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
     m_picker->addBeside(m_settings->button());

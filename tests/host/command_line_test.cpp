@@ -68,6 +68,8 @@ private Q_SLOTS:
     void nothingReachesTheTerminalRaw();
     void policyIsObeyed_data();
     void policyIsObeyed();
+    void displayThatIsGone_data();
+    void displayThatIsGone();
 
 private:
     QString write(const QString &name, const QByteArray &contents);
@@ -110,6 +112,7 @@ void CommandLineTest::values_data()
     row("no code", u"privatePassword"_s, u"123 1234567 abcde"_s, "takes 5 digits.");
     row("model without passwords", u"privatePassword"_s, u"00000 12345"_s, "This printer has no option",
         "kelo110");
+    row("no such key", u"NoSuchKey"_s, u"1"_s, "“NoSuchKey”. --list-options lists what there is.");
 }
 
 void CommandLineTest::values()
@@ -148,6 +151,7 @@ void CommandLineTest::secretsAreNotRepeated()
     for (const char *part : {"86419", "'8'", "8, 6"})
         QVERIFY2(!outcome.err.contains(part), outcome.err.constData());
     QVERIFY(outcome.err.size() > 20);
+    QVERIFY(!words.startsWith(u"-p"_s) || outcome.err.contains("--help"));
 }
 
 void CommandLineTest::valuesFromElsewhere()
@@ -338,6 +342,44 @@ void CommandLineTest::policyIsObeyed()
     QCOMPARE(outcome.code, code);
     const QByteArray all = outcome.out + outcome.err;
     QVERIFY2(all.contains(said.replace("FILE", file.toLocal8Bit())), all.constData());
+}
+
+void CommandLineTest::displayThatIsGone_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QByteArray>("display");
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<int>("code");
+    const QByteArray x("DISPLAY"), wayland("WAYLAND_DISPLAY");
+    QTest::newRow("X, window") << x << ":4711"_ba << QString() << 1;
+    QTest::newRow("Wayland, window") << wayland << "kelmar-nowhere"_ba << QString() << 1;
+    QTest::newRow("X, picture") << x << ":4711"_ba << u"--screenshot FILE"_s << 0;
+    QTest::newRow("Wayland, picture") << wayland << "kelmar-nowhere"_ba << u"--screenshot FILE"_s << 0;
+    QTest::newRow("platform by name") << x << ":4711"_ba << u"-platform xcb"_s << 1;
+}
+
+void CommandLineTest::displayThatIsGone()
+{
+    QFETCH(QByteArray, variable);
+    QFETCH(QByteArray, display);
+    QFETCH(QString, words);
+    QFETCH(int, code);
+    const QString picture = m_folder.filePath(u"picture.png"_s);
+    QFile::remove(picture);
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    for (const char *other : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        qunsetenv(other);
+    qputenv(variable.constData(), display);
+    const Outcome outcome = run(QStringList{u"--ppd"_s, ppds + u"kelm880.ppd"_s} +
+                                words.replace(u"FILE"_s, picture).split(u' ', Qt::SkipEmptyParts));
+    qunsetenv(variable.constData());
+    qputenv("QT_QPA_PLATFORM", platform);
+    QCOMPARE(outcome.code, code);
+    QCOMPARE(QFile::exists(picture), code == 0);
+    if (code != 0)
+        QVERIFY2(outcome.err.startsWith("kelmar-print: ") && outcome.err.contains("isplay") &&
+                     outcome.err.count('\n') == 1,
+                 outcome.err.constData());
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)

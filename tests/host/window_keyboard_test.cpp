@@ -17,6 +17,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void cleanup() { m_window.reset(); }
     void savingAPanelLeavesTheFocus();
     void returnPressesTheButtonWithTheFocus();
+    void escapeClosesAnOpenListAlone();
     void questionTakesTheFocusAndGivesItBack();
     void conflictGoesWithItsCause();
     void secondClickDoesNotCloseTheResult();
@@ -98,6 +100,22 @@ void WindowKeyboardTest::returnPressesTheButtonWithTheFocus()
     QTest::keyClick(cancel, Qt::Key_Return);
     QCOMPARE(window.result(), int(QDialog::Rejected));
     QVERIFY(m_system.submitted.isEmpty());
+}
+
+// On Wayland the keyboard stays with the dialog's window while a list is open.
+void WindowKeyboardTest::escapeClosesAnOpenListAlone()
+{
+    PrintWindow &window = open();
+    auto *box = window.book()->findChild<QComboBox *>();
+    QVERIFY(box && box->count() > 1);
+    box->setFocus();
+    box->showPopup();
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(window.isVisible());
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
 }
 
 void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()

@@ -3,6 +3,8 @@
 
 #include "host/window/look/parent_window.h"
 
+#include "host/window/look/wayland_parent.h"
+
 #include <QGuiApplication>
 #include <QWidget>
 #include <QWindow>
@@ -11,19 +13,31 @@ namespace host {
 
 ParentWindow::ParentWindow(QWidget *dialog, const QString &handle, bool modal) : m_dialog(dialog)
 {
-    const QString prefix = QStringLiteral("x11:");
+    const QString platform = QGuiApplication::platformName();
+    const QString kind = handle.section(QLatin1Char(':'), 0, 0);
+    const QString name = handle.mid(kind.size() + 1);
+    if (kind == QLatin1String("x11") && platform == QLatin1String("xcb")) {
+        setX11Parent(name, modal);
+    } else if (kind == QLatin1String("wayland") && !name.isEmpty() &&
+               platform.startsWith(QLatin1String("wayland"))) {
+        dialog->winId(); // makes the window
+        m_exported = std::make_unique<WaylandParent>(dialog->windowHandle(), name.toUtf8());
+    }
+}
+
+void ParentWindow::setX11Parent(const QString &number, bool modal)
+{
     bool isNumber = false;
-    const qulonglong id = handle.mid(prefix.size()).toULongLong(&isNumber, 16);
-    if (!handle.startsWith(prefix) || !isNumber || id == 0 || id > 0xffffffffULL ||
-        QGuiApplication::platformName() != QLatin1String("xcb"))
+    const qulonglong id = number.toULongLong(&isNumber, 16);
+    if (!isNumber || id == 0 || id > 0xffffffffULL)
         return;
     m_foreign.reset(QWindow::fromWinId(static_cast<WId>(id)));
     if (!m_foreign)
         return;
-    dialog->winId(); // makes the window
+    m_dialog->winId(); // makes the window
     if (modal)
-        dialog->setWindowModality(Qt::WindowModal);
-    dialog->windowHandle()->setTransientParent(m_foreign.get());
+        m_dialog->setWindowModality(Qt::WindowModal);
+    m_dialog->windowHandle()->setTransientParent(m_foreign.get());
 }
 
 ParentWindow::~ParentWindow()

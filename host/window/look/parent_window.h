@@ -12,9 +12,12 @@ class QWindow;
 
 namespace host {
 
-// Puts a dialog in front of another program's window, as the print portal names it ("x11:600003"). Where the
-// name is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet
-// shown; this object outlives its showing.
+class WaylandParent;
+
+// Puts a dialog in front of another program's window, as the print portal names it: "x11:" and the window's
+// number in hexadecimal, or "wayland:" and the name under which its program has exported it. Where the name
+// is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet shown;
+// this object outlives its showing.
 class ParentWindow
 {
 public:
@@ -22,8 +25,11 @@ public:
     ~ParentWindow();
 
 private:
+    void setX11Parent(const QString &number, bool modal);
+
     QWidget *m_dialog;
     std::unique_ptr<QWindow> m_foreign;
+    std::unique_ptr<WaylandParent> m_exported;
 };
 
 } // namespace host

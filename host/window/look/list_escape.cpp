@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/look/list_escape.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace host {
+
+ListEscape::ListEscape(QWidget *dialog) : QObject(dialog)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool ListEscape::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isAnnounced = event->type() == QEvent::ShortcutOverride;
+    if ((!isAnnounced && event->type() != QEvent::KeyPress) || !watched->isWindowType() ||
+        !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel))
+        return false;
+    const bool isOpen = QApplication::activePopupWidget() != nullptr;
+    const bool hasClosed = !isAnnounced && m_listWasOpen && !isOpen;
+    m_listWasOpen = isAnnounced && isOpen;
+    return hasClosed;
+}
+
+} // namespace host
