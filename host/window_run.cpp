@@ -78,7 +78,7 @@ void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err
 void failWithoutOptions(PrintWindow *window)
 {
     QObject::connect(new Settled(window), &Settled::done, window, [window] {
-        if (window->isOpening())
+        if (!window->isSettled())
             failWithoutOptions(window);
         else if (window->book()->isHidden())
             QApplication::exit(ExitFailure);

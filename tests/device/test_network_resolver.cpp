@@ -143,9 +143,9 @@ void TestNetworkResolver::resolves()
 
 void TestNetworkResolver::linkLocalAddressKeepsItsScope()
 {
-    QVERIFY(!Resolver().stringIsAnIP(u"fe80::1%lo"_qs));
-    QCOMPARE(Resolver::resolveToIP(u"fe80::1%lo"_qs), u"fe80::1%lo"_qs);
-    QVERIFY(Resolver::resolveToIP(u"fe80::1%nosuch0"_qs).isNull());
+    QVERIFY(!Resolver().stringIsAnIP(u"fe80::1%lo"_s));
+    QCOMPARE(Resolver::resolveToIP(u"fe80::1%lo"_s), u"fe80::1%lo"_s);
+    QVERIFY(Resolver::resolveToIP(u"fe80::1%nosuch0"_s).isNull());
 }
 
 void TestNetworkResolver::failureIsRememberedFor120Seconds()

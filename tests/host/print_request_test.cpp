@@ -86,9 +86,9 @@ FakePanel *PrintRequestTest::addSlowPanel()
     FakePanel *panel = made.get();
     new QLineEdit(panel->panelView());
     panel->onRestore = [session, release = m_release] {
-        session->willBlock(u"Asking the printer…"_s);
+        session->panelHost()->willBlock(u"Asking the printer…"_s);
         platform::Background::call([release] { release->acquire(); });
-        session->didBlock();
+        session->panelHost()->didBlock();
     };
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(made));

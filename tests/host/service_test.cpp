@@ -390,7 +390,7 @@ void ServiceTest::documentStaysWhereItIs()
     const int fd = file.handle();
     QProcess dialog;
     dialog.setChildProcessModifier([fd] { ::fcntl(fd, F_SETFD, 0); });
-    dialog.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print"), {u"--dialog-request"_s});
+    dialog.start(buildPath("/bin/kelmar-print"), {u"--dialog-request"_s});
     dialog.write(QByteArray(R"({"kind":"print","title":"T","document":)") + QByteArray::number(fd) + "}\n");
     QByteArray said;
     QTRY_VERIFY_WITH_TIMEOUT((said += dialog.readAllStandardOutput()).contains("shown"), patience);
