@@ -1,58 +1,121 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Completion of kelmar-print for bash. Options come from the program's own help, queues from CUPS.
+# Completion of kelmar-print for bash. Needs nothing of bash-completion. Names and choices come from the program itself and
+# from CUPS.
 
-_kelmar_print()
-{
-    local cur prev words cword
-    _init_completion -n = || return
-    case $prev in
-    -d | --printer)
-        mapfile -t COMPREPLY < <(compgen -W "$(lpstat -e 2>/dev/null)" -- "$cur")
-        return
-        ;;
-    --panel)
-        mapfile -t COMPREPLY < <(compgen -W "general more summary print-mode" -- "$cur")
-        return
-        ;;
-    --color-scheme)
-        mapfile -t COMPREPLY < <(compgen -W "light dark" -- "$cur")
-        return
-        ;;
-    --ppd)
-        _filedir '@(ppd|ppd.gz)'
-        return
-        ;;
-    --bundle)
-        _filedir -d
-        return
-        ;;
-    --output)
-        _filedir pdf
-        return
-        ;;
-    --screenshot)
-        _filedir png
-        return
-        ;;
-    --set-file)
+# The words before the cursor, with those put together again that bash has split at "=" and ":".
+_kelmar_print_split() {
+    local i word
+    words=()
+    for ((i = 0; i <= COMP_CWORD; i++)); do
+        word=${COMP_WORDS[i]}
+        if ((i > 1)) && [[ $word == [=:]* || ${COMP_WORDS[i - 1]} == *[=:] ]]; then
+            words[${#words[@]} - 1]+=$word
+        else
+            words+=("$word")
+        fi
+    done
+}
+
+# Output of the program for the printer that the command line names.
+_kelmar_print_ask() { # OPTION
+    local -a named=()
+    local i
+    for ((i = 1; i < ${#words[@]} - 1; i++)); do
+        case ${words[i]} in
+        -d | --printer | -h | --server | --ppd | --bundle) named+=("${words[i]}" "${words[++i]}") ;;
+        --printer=* | --server=* | --ppd=* | --bundle=*) named+=("${words[i]}") ;;
+        esac
+    done
+    "${words[0]}" "${named[@]}" "$1" </dev/null 2>/dev/null
+}
+
+_kelmar_print_keys() { _kelmar_print_ask --list-options | sed -n 's|^    \([^/ ]*\)[/ ].*|\1|p'; }
+
+_kelmar_print_values() { # KEY
+    case $1 in
+    number-up) echo 1 2 4 6 9 16 ;;
+    number-up-layout) echo lrtb lrbt rltb rlbt tblr tbrl btlr btrl ;;
+    page-border) echo none single single-thick double double-thick ;;
+    orientation-requested) echo 3 4 5 6 ;;
+    page-set) echo all odd even ;;
+    outputorder) echo normal reverse ;;
+    print-scaling) echo auto auto-fit fit fill none ;;
+    collate) echo True False ;;
+    *) _kelmar_print_ask --list-options | sed -n "s|^    ${1//[!A-Za-z0-9._-]/}/.*: ||p" | tr -d '*' ;;
+    esac
+}
+
+_kelmar_print_files() { # [PATTERN]: folders, and the files that match
+    compopt -o filenames -o default 2>/dev/null # readline's own where a name is quoted
+    mapfile -t COMPREPLY < <(compgen -d -- "$cur")
+    local file
+    while IFS= read -r file; do
+        # shellcheck disable=SC2053  # a pattern
+        [[ -d $file || ${file,,} != ${1:-*} ]] || COMPREPLY+=("$file")
+    done < <(compgen -f -- "$cur")
+}
+
+_kelmar_print_among() { mapfile -t COMPREPLY < <(compgen -W "$1" -- "$cur"); }
+
+_kelmar_print() {
+    local -a words
+    local cur option=
+    COMPREPLY=()
+    _kelmar_print_split
+    cur=${words[${#words[@]} - 1]}
+    if [[ $cur == --*=* ]]; then
+        option=${cur%%=*} cur=${cur#*=}
+    elif ((${#words[@]} > 2)); then
+        option=${words[${#words[@]} - 2]}
+    fi
+    case $option in
+    -d | --printer) _kelmar_print_among "$(lpstat -e 2>/dev/null)" ;;
+    -h | --server) mapfile -t COMPREPLY < <(compgen -A hostname -- "$cur") ;;
+    -s | --set | -o)
         if [[ $cur == *=* ]]; then
             local key=${cur%%=*}
             cur=${cur#*=}
-            _filedir
-            COMPREPLY=("${COMPREPLY[@]/#/$key=}")
+            _kelmar_print_among "$(_kelmar_print_values "$key")"
+        else
+            compopt -o nospace 2>/dev/null
+            _kelmar_print_among "$(_kelmar_print_keys | sed 's/$/=/')"
         fi
-        return
         ;;
-    -n | --copies | -P | --pages | -t | --title | -h | --server | -s | --set | --ask | -o | --save-preset | --delete-preset)
-        return
+    --set-file)
+        if [[ $cur == *=* ]]; then
+            cur=${cur#*=}
+            _kelmar_print_files
+        else
+            compopt -o nospace 2>/dev/null
+            _kelmar_print_among "$(_kelmar_print_keys | sed 's/$/=/')"
+        fi
+        ;;
+    --ask) _kelmar_print_among "$(_kelmar_print_keys)" ;;
+    --save-preset | --delete-preset) _kelmar_print_among "$(_kelmar_print_ask --presets | sed -n 's|^[^ /]*/||p')" ;;
+    --panel)
+        _kelmar_print_among "general more summary print-mode color-settings-1 color-settings-2
+            $(_kelmar_print_ask --list-options |
+            sed -n 's|^    .* (.*\.\([a-z0-9-]*\))$|\1|p')"
+        ;;
+    --color-scheme) _kelmar_print_among "light dark" ;;
+    --ppd) _kelmar_print_files '@(*.ppd|*.ppd.gz)' ;;
+    --bundle) _kelmar_print_files / ;;
+    --output) _kelmar_print_files '*.pdf' ;;
+    --screenshot) _kelmar_print_files '*.png' ;;
+    -n | --copies | -P | --pages | -t | --title) ;;
+    *)
+        if [[ $cur == -* ]]; then
+            _kelmar_print_among "$("${words[0]}" --help 2>/dev/null | sed -n 's/^  \(-[^ ].*\)/\1/p' |
+                sed 's/   *.*//' | grep -oE -e '(^| )--?[A-Za-z-]+')"
+        else
+            _kelmar_print_files '*.@(pdf|ps|eps|png|jpg|jpeg|tif|tiff|gif|bmp|txt|gz)'
+        fi
         ;;
     esac
-    if [[ $cur == -* ]]; then
-        # shellcheck disable=SC2207  # options hold no spaces
-        COMPREPLY=($(compgen -W "$(_parse_help "$1")" -- "$cur"))
-        return
-    fi
-    _filedir '@(pdf|ps|eps|png|jpg|jpeg|tif|tiff|gif|txt)'
+    # A word that readline has split is completed from behind the last "=" or ":".
+    local split=${COMP_WORDS[COMP_CWORD]}
+    [[ $split != [=:] ]] || split=
+    [[ $cur == "$split" ]] || COMPREPLY=("${COMPREPLY[@]#"${cur%"$split"}"}")
 } && complete -F _kelmar_print kelmar-print

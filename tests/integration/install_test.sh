@@ -12,7 +12,8 @@ summary=$(env -u LD_LIBRARY_PATH "$prefix/bin/kelmar-print" --ppd "$1/ppds/kelm8
 grep -q '(01230)' <<<"$summary" || { echo "$summary" && exit 1; }
 scripts=$(dirname "$0")/../../scripts
 "$scripts/lib/options-offered" "$prefix/bin/kelmar-print" "$prefix/share/bash-completion/completions/kelmar-print" \
-    "$prefix/share/zsh/site-functions/_kelmar-print" "$prefix"/share/man/{,de/,es/,fr/,it/,ja/}man1/kelmar-print.1
+    "$prefix/share/zsh/site-functions/_kelmar-print" "$prefix/share/fish/vendor_completions.d/kelmar-print.fish" \
+    "$prefix"/share/man/{,de/,es/,fr/,it/,ja/}man1/kelmar-print.1
 for file in dbus-1/services/org.kelmar.Print1.service kelmar-print/queue/{kelmar-dialog.ppd,policy.conf} \
     xdg-desktop-portal/portals/00-kelmar.portal kio/servicemenus/org.kelmar.Print.desktop Thunar/sendto/org.kelmar.Print.desktop; do
     [ -f "$prefix/share/$file" ] || { echo "$file is missing" && exit 1; }

@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+# What bash offers behind each option, with a real print server that has a queue with a preset. Usage:
+# completion_test.sh BUILDDIR. Exit code 77: CUPS is not installed.
+set -uo pipefail
+tree=$(cd "$(dirname "$0")/../.." && pwd)
+build=$1
+failed=0
+server=$(mktemp -d /tmp/kelmar-test.XXXXXX)
+trap '"$tree/scripts/lib/private-cupsd.sh" stop "$server"; rm -rf "$server"' EXIT
+chmod 755 "$server"
+"$tree/scripts/lib/private-cupsd.sh" start "$server" || exit $?
+"$tree/scripts/lib/private-cupsd.sh" add-queue "$server" office "$build/ppds/kelm880.ppd" socket://127.0.0.1:9
+mkdir "$server/home"
+export HOME=$server/home CUPS_SERVER=$server/cups.sock PATH=$build/bin:$PATH
+unset CUPS_SERVERROOT # another test's home
+kelmar-print -d office --save-preset Grey --set ColorType=Mono >/dev/null || exit 1
+. "$tree/packaging/completion/kelmar-print.bash"
+cd "$tree/demo" || exit 1
+
+completed() { # WORD...: as bash splits the line before the cursor; the replies, one a line
+    COMP_WORDS=(kelmar-print "$@")
+    COMP_CWORD=$#
+    _kelmar_print
+    printf '%s\n' "${COMPREPLY[@]}"
+}
+offers() { # REPLY WORD...
+    grep -qx -e "$1" <<<"$(completed "${@:2}")" || {
+        echo "FAIL: behind '${*:2}' there is no $1, but: $(completed "${@:2}" | tr '\n' ' ')"
+        failed=1
+    }
+}
+
+# ---- every option is offered, and behind it what it takes, but where that is the user's own text
+options=$(kelmar-print --help | sed -n 's/^  \(-[^ ].*\)/\1/p' | sed 's/   *.*//')
+[ "$(wc -l <<<"$options")" -gt 15 ] || { echo "FAIL: the help has no options" && exit 1; }
+while read -r entry; do
+    for option in $(grep -oE -e '(^| )--?[A-Za-z-]+' <<<"$entry"); do
+        offers "$option" "${option%?}"
+        [[ $entry == *' '[A-Z]* ]] || continue
+        case $option in -n | --copies | -P | --pages | -t | --title) continue ;; esac
+        [ -n "$(completed -d office "$option" "")" ] || { echo "FAIL: behind $option there is nothing" && failed=1; }
+    done
+done <<<"$options"
+
+# ---- and these are the right ones
+offers office -d off
+offers office/Grey --printer = office/
+offers Duplex= -d office --set Dup
+offers DuplexNoTumble -d office --set Duplex =
+offers DuplexNoTumble -d office --set = Duplex = DuplexN
+offers False --ppd "$build/ppds/kelm880.ppd" -o TonerSave = ""
+offers 16 -o number-up = 1
+offers privatePassword= -d office --set-file priv
+offers report.pdf -d office --set-file privatePassword = rep
+offers departmentCode -d office --ask dep
+offers Grey -d office --delete-preset G
+offers report.pdf rep
+for panel in general more summary print-mode color-settings-1 color-settings-2; do offers $panel --panel ""; done
+exit $failed
