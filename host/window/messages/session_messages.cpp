@@ -19,8 +19,7 @@ using Purpose = ConflictQuestion::Purpose;
 
 const Protection::Secret *missingCode(const DialogSession *session)
 {
-    return session && session->ppd() ? missingCode(*session->ppd(), session->protection(), session->chosen())
-                                     : nullptr;
+    return session ? session->missingCode() : nullptr;
 }
 
 } // namespace
