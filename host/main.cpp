@@ -59,10 +59,11 @@ char **wordsForDisplay = nullptr;
 [[noreturn]] void startWithoutDisplay()
 {
     bool named = false;
-    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "QT_QPA_PLATFORM"}) {
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET"}) {
         named = named || qEnvironmentVariableIsSet(variable);
         qunsetenv(variable);
     }
+    qunsetenv("QT_QPA_PLATFORM");
     if (named)
         execv("/proc/self/exe", wordsForDisplay);
     fputs("kelmar-print: The display cannot be opened.\n", stderr);
@@ -78,7 +79,8 @@ void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const Q
     if (wordsForDisplay && type == QtFatalMsg)
         startWithoutDisplay();
     // The reasons of that, and what Qt tries before it has opened another display.
-    if (wordsForDisplay && qstrncmp(context.category, "qt.qpa.", 7) == 0)
+    if (wordsForDisplay && (qstrncmp(context.category, "qt.qpa.", 7) == 0 ||
+                            message.startsWith(QLatin1String("Failed to create wl_display"))))
         return;
     if (message != QLatin1String("This plugin does not support propagateSizeHints()") &&
         !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))

@@ -106,10 +106,12 @@ std::vector<char *> pointersTo(const QList<QByteArray> &words)
     return pointers;
 }
 
-// Nothing of the user's environment but the time zone, which some programs write into files.
+// Nothing of the user's environment but the folder for caches and the time zone, which some programs write
+// into files.
 QList<QByteArray> environmentOf(const ConfinedProcess::Call &call, const QByteArray &folder)
 {
-    QList<QByteArray> environment = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "TMPDIR=" + folder};
+    QList<QByteArray> environment = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "TMPDIR=" + folder,
+                                     "XDG_CACHE_HOME=" + Confinement::cacheFolder()};
     if (qEnvironmentVariableIsSet("TZ"))
         environment.append("TZ=" + qgetenv("TZ"));
     return environment + call.environment;

@@ -6,6 +6,9 @@
 #include "host/preview/system_call_filter.h"
 #include "platform/logging.h"
 
+#include <QFile>
+#include <QStandardPaths>
+
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -126,7 +129,13 @@ Confinement::Confinement(const QByteArray &program, const QByteArray &folder, in
     for (const Place &place : places)
         allow(place.path, place.access);
     allow(program.constData(), readFile | execute);
+    allow((cacheFolder() + "/fontconfig").constData(), readAll);
     (void)addRule(m_rules.get(), document, readFile); // not of use for a file in memory, which needs no rule
+}
+
+QByteArray Confinement::cacheFolder()
+{
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
 }
 
 // A place that is not there needs no rule.

@@ -28,6 +28,10 @@ public:
     // descriptor that the program may open again; `size` is how much it may write into the folder, in bytes.
     Confinement(const QByteArray &program, const QByteArray &folder, int document, qint64 size);
 
+    // The user's folder for caches (XDG_CACHE_HOME). Programs may read what fontconfig keeps there, and take
+    // much longer where the system's own cache is not up to date and this one is not known either.
+    static QByteArray cacheFolder();
+
     // Creates a process in new namespaces, as far as they can be had, that calls `run`; fills in `handle`, a
     // descriptor of the process. -1 with errno. As with vfork(), the process has this one's memory until
     // exec, and this thread stands still: copying the page tables of a dialog takes longer than all the rest.

@@ -37,7 +37,7 @@ def show_printing(window):
         print("   kept by the application:", " ".join(sorted(kept)))
     except GLib.Error as error:
         print("   GTK says:", error.message)
-    GLib.timeout_add(1500, Gtk.main_quit)  # the document is handed over after the dialog
+    GLib.timeout_add(4000, Gtk.main_quit)  # the document is handed over after the dialog
     return False
 
 
