@@ -19,6 +19,8 @@ private Q_SLOTS:
     void start();
     void whatComesBack();
     void secretsStayHere();
+    void titleOfAStoredJob_data();
+    void titleOfAStoredJob();
     void madePagesAreAllPrinted();
     void optionsOfAPrintedJob();
     void rawQueue();
@@ -141,6 +143,28 @@ void ApplicationSettingsTest::secretsStayHere()
     QVERIFY(custom.markChoice(u"Lock"_s, u"Custom.12345"_s));
     QVERIFY(custom.markChoice(u"Density"_s, u"Custom.3"_s));
     QCOMPARE(choiceForApplication(custom, {}).choices.last(), std::pair(u"Density"_s, u"Custom.3"_s));
+}
+
+void ApplicationSettingsTest::titleOfAStoredJob_data()
+{
+    QTest::addColumn<QString>("decided");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("given"); // with the document, after a dialog called "Print"
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("GTK") << QString() << u"Letter"_s << u"Print"_s << u"Letter"_s;
+    QTest::newRow("GTK on Wayland") << QString() << QString() << u"Print"_s << u"Print"_s;
+    QTest::newRow("file name") << u"letter"_s << u"Editor"_s << u"Print"_s << u"letter"_s;
+    QTest::newRow("own title") << QString() << u"Editor"_s << u"Letter"_s << u"Letter"_s;
+    QTest::newRow("none") << QString() << u"Editor"_s << QString() << u"Editor"_s;
+}
+
+void ApplicationSettingsTest::titleOfAStoredJob()
+{
+    QFETCH(QString, decided);
+    QFETCH(QString, window);
+    QFETCH(QString, given);
+    const StoredJob job{u"office"_s, decided, {}, u"Print"_s, window};
+    QTEST(StoredJob::fromJson(job.toJson()).titleFor(given), "expected");
 }
 
 void ApplicationSettingsTest::madePagesAreAllPrinted()

@@ -12,6 +12,10 @@ class QWindow;
 
 namespace host {
 
+// The title that the window of this name shows, on one line; empty where it cannot be found out, as on
+// Wayland. Asks the X server.
+QString titleOfWindow(const QString &handle);
+
 // Puts a dialog in front of another program's window, as the print portal names it ("x11:600003"). Where the
 // name is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet
 // shown; this object outlives its showing.
