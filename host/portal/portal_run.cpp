@@ -65,6 +65,10 @@ private:
         return textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
     }
     QString jobTitle() const;
+    QString shownTitle() const // for the user; never empty
+    {
+        return jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    }
     QString windowTitle() const;
     StartingSettings start() const;
     int submit();
@@ -231,7 +235,7 @@ PrintTask RequestRun::task(const StartingSettings &start)
     task.printerMayBeGone = true; // since the application has heard of it
     if (m_document)
         task.files = {documentPath()};
-    task.title = jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    task.title = shownTitle();
     task.documentName = task.title;
     task.settingsOnly = kind() == QLatin1String("choose");
     task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
@@ -306,8 +310,9 @@ QJsonObject RequestRun::chosen(const PrintWindow &window) const
     const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
     for (const QJsonValue &format : abilities.value(QLatin1String("formats")).toArray())
         formats.append(format.toString());
-    const StoredJob job{session.destination().name(), baseName(), jobOptionsForMadePages(&session),
-                        textOf(m_request, "title"), m_parentTitle};
+    const bool isEdited = window.jobTitle() != shownTitle() && !window.jobTitle().trimmed().isEmpty();
+    const StoredJob job{session.destination().name(), isEdited ? window.jobTitle().trimmed() : baseName(),
+                        jobOptionsForMadePages(&session), textOf(m_request, "title"), m_parentTitle};
     return {
         {QStringLiteral("response"), Done},
         {QStringLiteral("settings"),

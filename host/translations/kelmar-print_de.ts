@@ -538,6 +538,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Shows what the settings of this page are for.</source>
         <translation>Zeigt, wozu die Einstellungen dieser Seite da sind.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>Wie der Auftrag am Drucker und in Auftragslisten heißt.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -2546,6 +2550,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
     </message>
 </context>
 </TS>

@@ -538,6 +538,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Shows what the settings of this page are for.</source>
         <translation>Montre à quoi servent les réglages de cette page.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>Le nom de la tâche sur l’imprimante et dans les listes de tâches.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -2546,6 +2550,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titre&#xa0;:</translation>
     </message>
 </context>
 </TS>

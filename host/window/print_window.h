@@ -58,6 +58,8 @@ public:
     const std::optional<Submission> &submission() const { return m_jobs.submission(); }
     // Why the task could not be done after all, where open() could not tell yet.
     const PrintError &refusal() const { return m_refusal; }
+    // The title that the user has given the job; null where it cannot be chosen.
+    const QString &jobTitle() const { return m_documentChoice.title(); }
     // Whether a printer is still being opened.
     bool isOpening() const { return m_opener.isOpening(); }
     // Whether the user has closed the dialog, which may be before open() has returned.
