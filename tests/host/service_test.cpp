@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -85,6 +86,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void answersSettingsPageSetupAndToken();
+    void abilitiesReachTheDialog();
     void nonsenseInEveryField_data();
     void nonsenseInEveryField();
     void tokenRules();
@@ -108,7 +110,8 @@ private Q_SLOTS:
 private:
     void startService(const QStringList &arguments = {});
     QDBusMessage prepareCall(const QString &title, const QVariantMap &settings = {},
-                             const QString &appId = {}, const QString &handle = {});
+                             const QString &appId = {}, const QString &handle = {},
+                             const QVariantMap &options = {{u"modal"_s, u"x"_s}});
     QDBusMessage openCall(const QByteArray &title);
     QByteArray dialogProcesses() const
     {
@@ -180,13 +183,13 @@ void ServiceTest::startService(const QStringList &arguments)
 }
 
 QDBusMessage ServiceTest::prepareCall(const QString &title, const QVariantMap &settings, const QString &appId,
-                                      const QString &handle)
+                                      const QString &handle, const QVariantMap &options)
 {
     auto message = QDBusMessage::createMethodCall(portalName, portalPath,
                                                   u"org.freedesktop.impl.portal.Print"_s, u"PreparePrint"_s);
     const QString path = handle.isEmpty() ? u"/request/r%1"_s.arg(++m_calls) : handle;
     message << QVariant::fromValue(QDBusObjectPath(path)) << appId << u"x11:zz"_s << title << settings
-            << QVariantMap{{u"Width"_s, 210.0}, {u"Height"_s, 297.0}} << QVariantMap{{u"modal"_s, u"x"_s}};
+            << QVariantMap{{u"Width"_s, 210.0}, {u"Height"_s, 297.0}} << options;
     return message;
 }
 
@@ -215,6 +218,24 @@ void ServiceTest::answersSettingsPageSetupAndToken()
     QCOMPARE(request.value("settings"_L1).toObject(), (QJsonObject{{u"n-copies"_s, u"3"_s}}));
     QCOMPARE(request.value("pageSetup"_L1).toObject().value("Width"_L1).toDouble(), 210.0);
     QCOMPARE(call(prepareCall(u"cancel"_s)).response, 1);
+}
+
+// What applications say of themselves in later versions of the portal.
+void ServiceTest::abilitiesReachTheDialog()
+{
+    startService();
+    QCOMPARE(call(prepareCall(u"T"_s, {}, {}, {},
+                              {{u"accept_label"_s, u"_Continue"_s},
+                               {u"supported_output_file_formats"_s, QStringList{u"ps"_s, u"pdf"_s}},
+                               {u"has_current_page"_s, true},
+                               {u"has_selected_pages"_s, true}}))
+                 .response,
+             0);
+    QCOMPARE(lastRequest().value("acceptLabel"_L1).toString(), u"_Continue"_s);
+    QCOMPARE(lastRequest().value("abilities"_L1).toObject(),
+             (QJsonObject{{u"formats"_s, QJsonArray{u"ps"_s, u"pdf"_s}},
+                          {u"currentPage"_s, true},
+                          {u"selection"_s, true}}));
 }
 
 void ServiceTest::nonsenseInEveryField_data()
