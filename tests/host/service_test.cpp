@@ -359,13 +359,11 @@ void ServiceTest::abandonedDialogsClose()
     const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     QString application =
         QDBusConnection::connectToBus(address, u"application"_s).baseService().mid(1).replace(u'.', u'_');
-    QDBusConnection portal = QDBusConnection::connectToBus(address, u"portal"_s);
     if (isEarly)
         QDBusConnection::disconnectFromBus(u"application"_s);
     const auto call =
         prepareCall(u"wait"_s, {}, {}, u"/org/freedesktop/portal/desktop/request/%1/t"_s.arg(application));
-    const auto pending = portal.asyncCall(call, patience);
-    portal = QDBusConnection({});
+    const auto pending = QDBusConnection::connectToBus(address, u"portal"_s).asyncCall(call, patience);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
     QDBusConnection::disconnectFromBus(isPortal ? u"portal"_s : u"application"_s);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
