@@ -96,6 +96,7 @@ private Q_SLOTS:
     void closeDuringTheDialog();
     void abandonedDialogsClose_data();
     void abandonedDialogsClose();
+    void userHearsOfAnAbandonedDialog();
     void placesAreLimited();
     void documentStaysWhereItIs();
     void documentOutlivesItsRequest();
@@ -373,6 +374,24 @@ void ServiceTest::abandonedDialogsClose()
         QTRY_VERIFY_WITH_TIMEOUT(pending.isFinished(), patience);
     for (const QString &name : {u"application"_s, u"portal"_s})
         QDBusConnection::disconnectFromBus(name);
+}
+
+void ServiceTest::userHearsOfAnAbandonedDialog()
+{
+    Desktop desktop;
+    QVERIFY(
+        m_bus.registerObject(u"/org/freedesktop/Notifications"_s, &desktop, QDBusConnection::ExportAllSlots));
+    QVERIFY(m_bus.registerService(u"org.freedesktop.Notifications"_s));
+    QProcess dialog;
+    dialog.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print"), {u"--dialog-request"_s});
+    dialog.write("{\"kind\":\"choose\",\"title\":\"T\"}\n");
+    QByteArray said;
+    QTRY_VERIFY_WITH_TIMEOUT((said += dialog.readAllStandardOutput()).contains("shown"), patience);
+    dialog.write("{\"event\":\"abandoned\"}\n");
+    dialog.closeWriteChannel();
+    QTRY_COMPARE_WITH_TIMEOUT(dialog.state(), QProcess::NotRunning, patience);
+    QVERIFY2(desktop.text.contains("closed"_L1), qPrintable(desktop.text));
+    QVERIFY((said + dialog.readAllStandardOutput()).contains(R"({"response":1})"));
 }
 
 void ServiceTest::placesAreLimited()
