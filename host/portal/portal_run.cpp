@@ -286,6 +286,13 @@ int RequestRun::openDialog()
         isAbandoned = true;
         window.reject();
     });
+    const DocumentWatch watch(m_document.get());
+    bool isChanged = false;
+    QObject::connect(&watch, &DocumentWatch::changed, &window, [&] {
+        isChanged = !window.submission();
+        if (isChanged)
+            window.close(); // and a job that is being sent is cancelled
+    });
     QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     if (!window.isDismissed()) {
@@ -300,6 +307,12 @@ int RequestRun::openDialog()
         return answer(chosen(window));
     if (isAbandoned)
         tellAbandoned();
+    if (isChanged) {
+        const int code = fail("document");
+        tell(PortalText::tr("The document of an application cannot be printed."),
+             PortalText::tr("The application has changed it since the print dialog was opened."));
+        return code;
+    }
     return answer(Cancelled);
 }
 

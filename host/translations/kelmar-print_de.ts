@@ -956,6 +956,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>Die Anwendung, die den Druckdialog geöffnet hat, wurde beendet. Es wurde nichts gedruckt.</translation>
     </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>Die Anwendung hat es geändert, seit der Druckdialog geöffnet wurde.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

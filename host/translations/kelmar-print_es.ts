@@ -956,6 +956,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>La aplicación que abrió el diálogo de impresión se ha cerrado. No se ha imprimido nada.</translation>
     </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>La aplicación lo ha modificado desde que se abrió el diálogo de impresión.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -956,6 +956,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>L’application qui a ouvert la boîte de dialogue d’impression a été fermée. Rien n’a été imprimé.</translation>
     </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>L’application l’a modifié depuis l’ouverture de la boîte de dialogue d’impression.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -956,6 +956,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>L’applicazione che ha aperto la finestra di stampa è stata chiusa. Non è stato stampato nulla.</translation>
     </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>L’applicazione lo ha modificato dopo l’apertura della finestra di stampa.</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

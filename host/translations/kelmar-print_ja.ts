@@ -956,6 +956,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>印刷ダイアログを開いたアプリケーションが終了しました。何も印刷されていません。</translation>
     </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>印刷ダイアログを開いた後に、アプリケーションが文書を変更しました。</translation>
+    </message>
 </context>
 <context>
     <name>PpdCustomText</name>

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void secretsStayHere();
     void titleOfAStoredJob_data();
     void titleOfAStoredJob();
+    void privatePrintingWithoutACode_data();
+    void privatePrintingWithoutACode();
     void madePagesAreAllPrinted();
     void optionsOfAPrintedJob();
     void rawQueue();
@@ -165,6 +167,32 @@ void ApplicationSettingsTest::titleOfAStoredJob()
     QFETCH(QString, given);
     const StoredJob job{u"office"_s, decided, {}, u"Print"_s, window};
     QTEST(StoredJob::fromJson(job.toJson()).titleFor(given), "expected");
+}
+
+void ApplicationSettingsTest::privatePrintingWithoutACode_data()
+{
+    QTest::addColumn<QJsonObject>("settings");
+    QTest::addColumn<bool>("isMissing");
+    const QJsonObject isPrivate{{u"cups-PrintMode"_s, u"Private"_s}};
+    QTest::newRow("remembered, without the digits") << isPrivate << true;
+    QJsonObject whole = isPrivate;
+    whole.insert(u"cups-DINDigit5"_s, u"5"_s);
+    QTest::newRow("with digits") << whole << false;
+    QTest::newRow("not private") << QJsonObject{{u"cups-PrintMode"_s, u"Normal"_s}} << false;
+}
+
+// The dialog asks for the code that is missing; it knows of it from the session.
+void ApplicationSettingsTest::privatePrintingWithoutACode()
+{
+    QFETCH(QJsonObject, settings);
+    const auto session = this->session();
+    Protection protection;
+    protection.choices.insert(u"PrintMode"_s, {u"Private"_s});
+    protection.secrets.append(
+        {u"privatePassword"_s, {u"DINDigit1"_s, u"DINDigit5"_s}, u"PrintMode"_s, u"Private"_s});
+    session->setProtection(protection);
+    beginWith(startingSettings(settings, {}), session.get());
+    QTEST(!session->protectionGap().isNull(), "isMissing");
 }
 
 void ApplicationSettingsTest::madePagesAreAllPrinted()

@@ -437,6 +437,11 @@ void ServiceTest::documentStaysWhereItIs()
     const QByteArray written = counters.readAll().split('\n').value(1); // "wchar: BYTES"
     QVERIFY(written.startsWith("wchar: "));
     QVERIFY2(written.mid(7).toLongLong() < size / 10, written.constData());
+    // It must be the one that the user has agreed to.
+    QCOMPARE(file.write("x"), 1);
+    QVERIFY(file.flush());
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (said += dialog.readAllStandardOutput()).contains(R"({"reason":"document","response":2})"), patience);
     dialog.kill();
     QVERIFY(dialog.waitForFinished(patience));
 }
