@@ -416,7 +416,7 @@ void ServiceTest::placesAreLimited()
     QCOMPARE(call(prepareCall(u"T"_s, {}, u"b"_s)).response, 2);
     const QDBusMessage ofQueue = m_bus.call(openCall("T"), QDBus::BlockWithGui, patience);
     QCOMPARE(ofQueue.errorName(), u"org.kelmar.Print1.Error.TooManyDialogs"_s);
-    QCOMPARE(dialogProcesses().split(' ').size(), all);
+    QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses().split(' ').size(), all, patience);
 }
 
 // What an application hands over takes no space before the user has agreed to print it.
@@ -519,10 +519,11 @@ void ServiceTest::queueDoesNotWaitForADialog()
     QCOMPARE(open("message").errorName(), u"org.kelmar.Print1.Error.BadDocument"_s);
     QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
     QCOMPARE(open("no display").errorName(), u"org.kelmar.Print1.Error.NoDisplay"_s);
-    const QByteArray others = dialogProcesses();
+    QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses().split(' ').size(), 1, patience);
     QCOMPARE(open("silent").type(), QDBusMessage::ReplyMessage); // the service has the document
-    const QByteArray silent = dialogProcesses().mid(others.size()).trimmed();
-    QCOMPARE(::kill(silent.toInt(), SIGKILL), 0);
+    const int silent = dialogProcesses().split(' ').value(1).toInt();
+    QVERIFY(silent > 1);
+    QCOMPARE(::kill(silent, SIGKILL), 0);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains(R"("kind":"lost")"), patience); // the user is told
 }
 
@@ -585,7 +586,7 @@ void ServiceTest::aThousandRequestsLeaveNothing()
         return sum;
     };
     const auto ask = [this](int times) {
-        constexpr int atOnce = 10;
+        constexpr int atOnce = 8; // of one application
         for (int i = 0; i < times; i += atOnce) {
             QList<QDBusPendingCall> calls;
             for (int j = 0; j < atOnce; ++j)
