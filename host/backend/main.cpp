@@ -79,7 +79,8 @@ class SilenceRecord
 public:
     explicit SilenceRecord(uid_t uid)
     {
-        if (const char *folder = std::getenv("CUPS_STATEDIR"))
+        const char *folder = std::getenv("CUPS_STATEDIR");
+        if (folder && *folder)
             m_path = std::string(folder) + "/kelmar-dialog-silent-" + std::to_string(uid);
     }
     bool isRecent() const

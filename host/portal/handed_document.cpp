@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QSocketNotifier>
 #include <QStandardPaths>
 
 #include <cstring>
+#include <sys/inotify.h>
 
 namespace host {
 
@@ -41,11 +43,15 @@ PrintError unreadable(int number)
             PortalText::tr("It cannot be read: %1.").arg(QString::fromLocal8Bit(std::strerror(number)))};
 }
 
+std::string pathOf(int fd)
+{
+    return "/proc/self/fd/" + std::to_string(fd);
+}
+
 // A description of one's own for the same file, so that its position is one's own, too.
 platform::UniqueFd reopened(int fd)
 {
-    return platform::UniqueFd(
-        ::open(("/proc/self/fd/" + std::to_string(fd)).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
+    return platform::UniqueFd(::open(pathOf(fd).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
 }
 
 } // namespace
@@ -79,6 +85,18 @@ platform::UniqueFd openHandedDocument(const platform::UniqueFd &given, PrintErro
         return document;
     *error = {PrintError::Kind::EmptyDocument, PortalText::tr("It is empty.")};
     return {};
+}
+
+DocumentWatch::DocumentWatch(int document) : m_events(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
+{
+    if (document < 0 || !m_events ||
+        ::inotify_add_watch(m_events.get(), pathOf(document).c_str(), IN_MODIFY | IN_ONESHOT) < 0)
+        return;
+    auto *notifier = new QSocketNotifier(m_events.get(), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+        notifier->setEnabled(false);
+        Q_EMIT changed();
+    });
 }
 
 } // namespace host

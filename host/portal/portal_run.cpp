@@ -60,7 +60,15 @@ private:
     QString kind() const { return textOf(m_request, "kind"); }
     bool takeDocument(PrintError *error);
     QString documentPath() const;
+    QString baseName() const // of the file that the application would write
+    {
+        return textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
+    }
     QString jobTitle() const;
+    QString shownTitle() const // for the user; never empty
+    {
+        return jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    }
     QString windowTitle() const;
     StartingSettings start() const;
     int submit();
@@ -85,6 +93,7 @@ private:
     DialogChannel m_channel;
     QJsonObject m_request;
     platform::UniqueFd m_document;
+    QString m_parentTitle; // of the application's window; may be empty
     QStringList m_differences;
     std::optional<HeldSignals> m_signals; // while a document is sent and what became of it is answered
 };
@@ -128,11 +137,15 @@ QString RequestRun::documentPath() const
     return QStringLiteral("/proc/self/fd/%1").arg(m_document.get());
 }
 
-// GTK calls every document "Print"; what it would name a file is better.
+// GTK gives "Print" as the title of every dialog and document. What it would name a file is better, or what
+// its window shows.
 QString RequestRun::jobTitle() const
 {
-    const QString base = textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
-    return base.isEmpty() ? textOf(m_request, "title") : base;
+    const QString base = baseName();
+    if (!base.isEmpty())
+        return base;
+    const bool isOfDialog = kind() == QLatin1String("choose");
+    return isOfDialog && !m_parentTitle.isEmpty() ? m_parentTitle : textOf(m_request, "title");
 }
 
 // Who wants settings gives the title of the dialog, who has a document that of the document.
@@ -180,7 +193,7 @@ bool RequestRun::send(const StoredJob &job, PrintError *error)
     if (!destination || !documents.open({documentPath()}, nullptr, error))
         return false;
     QList<Document> list = documents.documents();
-    QString title = job.title.isEmpty() ? textOf(m_request, "title") : job.title;
+    QString title = job.titleFor(textOf(m_request, "title"));
     if (title.isEmpty())
         title = PortalText::tr("Document");
     list.first().name = title;
@@ -222,7 +235,7 @@ PrintTask RequestRun::task(const StartingSettings &start)
     task.printerMayBeGone = true; // since the application has heard of it
     if (m_document)
         task.files = {documentPath()};
-    task.title = jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
+    task.title = shownTitle();
     task.documentName = task.title;
     task.settingsOnly = kind() == QLatin1String("choose");
     task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
@@ -242,6 +255,7 @@ PrintTask RequestRun::task(const StartingSettings &start)
 int RequestRun::openDialog()
 {
     const StartingSettings begin = start();
+    m_parentTitle = titleOfWindow(textOf(m_request, "parent"));
     PrintWindow window(m_system, m_extensions, task(begin));
     window.setWindowTitle(windowTitle());
     const ParentWindow parent(&window, textOf(m_request, "parent"),
@@ -272,6 +286,13 @@ int RequestRun::openDialog()
         isAbandoned = true;
         window.reject();
     });
+    const DocumentWatch watch(m_document.get());
+    bool isChanged = false;
+    QObject::connect(&watch, &DocumentWatch::changed, &window, [&] {
+        isChanged = !window.submission();
+        if (isChanged)
+            window.close(); // and a job that is being sent is cancelled
+    });
     QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     if (!window.isDismissed()) {
@@ -286,6 +307,12 @@ int RequestRun::openDialog()
         return answer(chosen(window));
     if (isAbandoned)
         tellAbandoned();
+    if (isChanged) {
+        const int code = fail("document");
+        tell(PortalText::tr("The document of an application cannot be printed."),
+             PortalText::tr("The application has changed it since the print dialog was opened."));
+        return code;
+    }
     return answer(Cancelled);
 }
 
@@ -296,9 +323,9 @@ QJsonObject RequestRun::chosen(const PrintWindow &window) const
     const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
     for (const QJsonValue &format : abilities.value(QLatin1String("formats")).toArray())
         formats.append(format.toString());
-    const StoredJob job{session.destination().name(),
-                        textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename"),
-                        jobOptionsForMadePages(&session)};
+    const bool isEdited = window.jobTitle() != shownTitle() && !window.jobTitle().trimmed().isEmpty();
+    const StoredJob job{session.destination().name(), isEdited ? window.jobTitle().trimmed() : baseName(),
+                        jobOptionsForMadePages(&session), textOf(m_request, "title"), m_parentTitle};
     return {
         {QStringLiteral("response"), Done},
         {QStringLiteral("settings"),

@@ -16,8 +16,13 @@ namespace host {
 struct StoredJob
 {
     QString printer; // destination name
-    QString title;   // empty for the document's own
+    QString title;   // that was decided; empty for the document's own
     QList<JobOption> options;
+    QString dialogTitle = {}; // of the dialog; some applications call each document so, too
+    QString windowTitle = {}; // of the application's window; may be empty
+
+    // What the job is called whose document the application calls `given`. Empty when there is no name.
+    QString titleFor(const QString &given) const;
 
     static StoredJob fromJson(const QJsonObject &object);
     QJsonObject toJson() const;

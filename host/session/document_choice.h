@@ -10,7 +10,8 @@
 namespace host {
 
 // Which of the documents that a dialog was opened for are printed, and which one is looked at. Paths are as
-// file_name.h has them; "-" is the standard input.
+// file_name.h has them; "-" is the standard input. Where another program hands a document over later, there are
+// no paths, but the title of the job can be chosen.
 class DocumentChoice : public QObject
 {
     Q_OBJECT
@@ -24,6 +25,9 @@ public:
     QStringList included() const;             // in order
     int current() const { return m_current; } // -1 without documents
     void setCurrent(int index);
+    // Of the job; null where it cannot be chosen.
+    const QString &title() const { return m_title; }
+    void setTitle(const QString &title) { m_title = title; }
 
 Q_SIGNALS:
     void includedChanged();
@@ -33,6 +37,7 @@ private:
     QStringList m_paths;
     QList<bool> m_included;
     int m_current;
+    QString m_title;
 };
 
 } // namespace host

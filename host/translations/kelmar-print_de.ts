@@ -558,6 +558,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Shows what the settings of this page are for.</source>
         <translation>Zeigt, wozu die Einstellungen dieser Seite da sind.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>Wie der Auftrag am Drucker und in Auftragslisten heißt.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -989,6 +993,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>Die Anwendung, die den Druckdialog geöffnet hat, wurde beendet. Es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>Die Anwendung hat es geändert, seit der Druckdialog geöffnet wurde.</translation>
     </message>
 </context>
 <context>
@@ -2636,6 +2644,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
     </message>
 </context>
 </TS>

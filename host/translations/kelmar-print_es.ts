@@ -558,6 +558,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Shows what the settings of this page are for.</source>
         <translation>Muestra para qué sirven los ajustes de esta página.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>El nombre del trabajo en la impresora y en las listas de trabajos.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -989,6 +993,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>La aplicación que abrió el diálogo de impresión se ha cerrado. No se ha imprimido nada.</translation>
+    </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>La aplicación lo ha modificado desde que se abrió el diálogo de impresión.</translation>
     </message>
 </context>
 <context>
@@ -2636,6 +2644,13 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
     </message>
 </context>
 </TS>

@@ -558,6 +558,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Shows what the settings of this page are for.</source>
         <translation>Montre à quoi servent les réglages de cette page.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>Le nom de la tâche sur l’imprimante et dans les listes de tâches.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -989,6 +993,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>L’application qui a ouvert la boîte de dialogue d’impression a été fermée. Rien n’a été imprimé.</translation>
+    </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>L’application l’a modifié depuis l’ouverture de la boîte de dialogue d’impression.</translation>
     </message>
 </context>
 <context>
@@ -2636,6 +2644,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titre&#xa0;:</translation>
     </message>
 </context>
 </TS>

@@ -558,6 +558,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Shows what the settings of this page are for.</source>
         <translation>Mostra a che cosa servono le impostazioni di questa pagina.</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>Il nome del lavoro sulla stampante e negli elenchi dei lavori.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -989,6 +993,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>L’applicazione che ha aperto la finestra di stampa è stata chiusa. Non è stato stampato nulla.</translation>
+    </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>L’applicazione lo ha modificato dopo l’apertura della finestra di stampa.</translation>
     </message>
 </context>
 <context>
@@ -2636,6 +2644,13 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titolo:</translation>
     </message>
 </context>
 </TS>

@@ -558,6 +558,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Shows what the settings of this page are for.</source>
         <translation>このページの設定の説明を表示します。</translation>
     </message>
+    <message>
+        <source>What the job is called at the printer and in lists of jobs.</source>
+        <translation>プリンターやジョブの一覧に表示されるジョブの名前です。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -989,6 +993,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The application that opened the print dialog has been closed. Nothing has been printed.</source>
         <translation>印刷ダイアログを開いたアプリケーションが終了しました。何も印刷されていません。</translation>
+    </message>
+    <message>
+        <source>The application has changed it since the print dialog was opened.</source>
+        <translation>印刷ダイアログを開いた後に、アプリケーションが文書を変更しました。</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2643,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The settings of “%1” could not be saved: %2</source>
         <translation>「%1」の設定を保存できませんでした: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
     </message>
 </context>
 </TS>

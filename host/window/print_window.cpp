@@ -65,6 +65,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
                                                   {m_wait.sign(), m_cancel, m_print},
                                                   m_guide->finder()})
 {
+    if (m_task.settingsOnly)
+        m_documentChoice.setTitle(m_task.title);
     const QString documents = m_task.namesOf(m_documentChoice.included());
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);

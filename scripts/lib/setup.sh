@@ -7,7 +7,7 @@ build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev libqt6svg6
     libcups2-dev zlib1g-dev cups-ppdc libsnmp-dev libavahi-compat-libdnssd-dev libbenchmark-dev libseccomp-dev libsystemd-dev
-    qt6-base-private-dev libwayland-dev wayland-protocols
+    qt6-base-private-dev libwayland-dev libxcb1-dev wayland-protocols
 )
 run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters cups-ipp-utils poppler-utils qpdf ghostscript file libqt6gui6 qt6-qpa-plugins

@@ -21,6 +21,10 @@ private Q_SLOTS:
     void whatComesBack();
     void secretsStayHere();
     void locksHold();
+    void titleOfAStoredJob_data();
+    void titleOfAStoredJob();
+    void privatePrintingWithoutACode_data();
+    void privatePrintingWithoutACode();
     void madePagesAreAllPrinted();
     void optionsOfAPrintedJob();
     void rawQueue();
@@ -157,6 +161,54 @@ void ApplicationSettingsTest::locksHold()
     QCOMPARE(session->ppd()->markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
     const QStringList notices = session->takeNotices();
     QVERIFY2(notices.value(0).contains(u"Set by the administrator."_s), qPrintable(notices.join(u' ')));
+}
+
+void ApplicationSettingsTest::titleOfAStoredJob_data()
+{
+    QTest::addColumn<QString>("decided");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("given"); // with the document, after a dialog called "Print"
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("GTK") << QString() << u"Letter"_s << u"Print"_s << u"Letter"_s;
+    QTest::newRow("GTK on Wayland") << QString() << QString() << u"Print"_s << u"Print"_s;
+    QTest::newRow("file name") << u"letter"_s << u"Editor"_s << u"Print"_s << u"letter"_s;
+    QTest::newRow("own title") << QString() << u"Editor"_s << u"Letter"_s << u"Letter"_s;
+    QTest::newRow("none") << QString() << u"Editor"_s << QString() << u"Editor"_s;
+}
+
+void ApplicationSettingsTest::titleOfAStoredJob()
+{
+    QFETCH(QString, decided);
+    QFETCH(QString, window);
+    QFETCH(QString, given);
+    const StoredJob job{u"office"_s, decided, {}, u"Print"_s, window};
+    QTEST(StoredJob::fromJson(job.toJson()).titleFor(given), "expected");
+}
+
+void ApplicationSettingsTest::privatePrintingWithoutACode_data()
+{
+    QTest::addColumn<QJsonObject>("settings");
+    QTest::addColumn<bool>("isMissing");
+    const QJsonObject isPrivate{{u"cups-PrintMode"_s, u"Private"_s}};
+    QTest::newRow("remembered, without the digits") << isPrivate << true;
+    QJsonObject whole = isPrivate;
+    whole.insert(u"cups-DINDigit5"_s, u"5"_s);
+    QTest::newRow("with digits") << whole << false;
+    QTest::newRow("not private") << QJsonObject{{u"cups-PrintMode"_s, u"Normal"_s}} << false;
+}
+
+// The dialog asks for the code that is missing; it knows of it from the session.
+void ApplicationSettingsTest::privatePrintingWithoutACode()
+{
+    QFETCH(QJsonObject, settings);
+    const auto session = this->session();
+    Protection protection;
+    protection.choices.insert(u"PrintMode"_s, {u"Private"_s});
+    protection.secrets.append(
+        {u"privatePassword"_s, {u"DINDigit1"_s, u"DINDigit5"_s}, u"PrintMode"_s, u"Private"_s});
+    session->setProtection(protection);
+    beginWith(startingSettings(settings, {}), session.get());
+    QTEST(!session->protectionGap().isNull(), "isMissing");
 }
 
 void ApplicationSettingsTest::madePagesAreAllPrinted()

@@ -45,11 +45,14 @@ private Q_SLOTS:
     void rangeBeyondTheEnd();
     void smallPagesAppear();
     void pdfIsWritten();
+    void titleOfALaterDocument();
 
 private:
     PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900},
                           const QString &title = {});
+    PrintWindow &openTask(const PrintTask &task, const QSize &room = {1200, 900});
     QPushButton *button(const QString &text);
+    QLineEdit *fieldOf(const QString &label) const;
     bool hasPreview() const;
 };
 
@@ -58,6 +61,11 @@ PrintWindow &GeneralPageTest::openWith(const QStringList &files, const QSize &ro
     PrintTask task;
     task.files = files;
     task.title = title;
+    return openTask(task, room);
+}
+
+PrintWindow &GeneralPageTest::openTask(const PrintTask &task, const QSize &room)
+{
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     m_window->setRoom(room);
     PrintError error;
@@ -76,6 +84,15 @@ QPushButton *GeneralPageTest::button(const QString &text)
     for (auto *button : m_window->findChildren<QPushButton *>()) {
         if (button->text().remove(u'&') == text)
             return button;
+    }
+    return nullptr;
+}
+
+QLineEdit *GeneralPageTest::fieldOf(const QString &label) const
+{
+    for (const auto *each : m_window->findChildren<QLabel *>()) {
+        if (each->text().remove(u'&') == label)
+            return qobject_cast<QLineEdit *>(each->buddy());
     }
     return nullptr;
 }
@@ -248,6 +265,26 @@ void GeneralPageTest::pdfIsWritten()
     QFile file(folder.filePath(u"out.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF");
     QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());
+}
+
+// An application that prints later may call all of its documents the same.
+void GeneralPageTest::titleOfALaterDocument()
+{
+    PrintTask task;
+    task.settingsOnly = true;
+    task.title = u"Print"_s;
+    const PrintWindow &window = openTask(task);
+    QLineEdit *field = nullptr;
+    QTRY_VERIFY(field = fieldOf(u"Title:"_s));
+    QCOMPARE(field->text(), u"Print"_s);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, u"Letter"_s);
+    QCOMPARE(window.jobTitle(), u"Letter"_s);
+
+    openWith({report}); // is named itself
+    QTRY_VERIFY(button(u"Save as PDF…"_s));
+    QVERIFY(!fieldOf(u"Title:"_s));
 }
 
 QTEST_MAIN(GeneralPageTest)

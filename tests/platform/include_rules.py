@@ -33,7 +33,7 @@ HOST_ROOMS = {
     "session": {"session", "policy", "extensions", "printing"},
     "preview": {"preview", "printing"},
     "batch": {"batch", "session", "extensions", "preview", "printing"},
-    "portal": {"portal", "batch", "window", "window/look", "window/waiting", "session", "extensions", "printing", "service"},
+    "portal": {"portal", "batch", "window", "window/jobs", "window/look", "window/waiting", "session", "extensions", "printing", "service"},
     "service": {"service"},
     "backend": {"backend"},
     "window/look": {"window/look"},

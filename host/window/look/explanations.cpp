@@ -27,6 +27,8 @@ constexpr std::array explanations{
     Explanation{"page-ranges",
                 QT_TRANSLATE_NOOP("Explanation", "Which pages are printed. List single pages and ranges with "
                                                  "commas between them, such as 1-3, 8.")},
+    Explanation{"job-name", QT_TRANSLATE_NOOP("Explanation",
+                                              "What the job is called at the printer and in lists of jobs.")},
     Explanation{"PageSize",
                 QT_TRANSLATE_NOOP("Explanation",
                                   "The size of the paper that the pages are printed on. It has to "

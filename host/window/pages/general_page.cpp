@@ -14,6 +14,7 @@
 #include "host/window/pages/option_form.h"
 #include "host/window/pages/page_controls.h"
 #include "host/window/pages/range_check.h"
+#include "host/window/pages/title_field.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -87,6 +88,8 @@ void GeneralPage::addLayout()
         Q_EMIT pagesChanged();
     });
     addSavePdf(grid);
+    if (m_documents && !m_documents->title().isNull())
+        addTitleField(m_documents, grid, this);
     explainParts();
     addRangeCheck();
     grid->setRowStretch(grid->rowCount(), 1);

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+class QGridLayout;
+class QWidget;
+
+namespace host {
+
+class DocumentChoice;
+
+// Adds a row for the title of the job to the end of a page. Writes to `documents` at once, which is borrowed
+// and outlives the page.
+void addTitleField(DocumentChoice *documents, QGridLayout *grid, QWidget *page);
+
+} // namespace host
