@@ -257,15 +257,23 @@ DocumentList::~DocumentList() = default;
 bool DocumentList::open(const QStringList &paths, QIODevice *input, PrintError *error, const StopWanted &stop)
 {
     const std::lock_guard opening(m_opening);
-    m_documents.clear();
+    QList<Document> opened;
     for (const QString &path : paths) {
         const bool isKept = path == QLatin1String("-") || m_spools.count(path) > 0 || isStream(path);
         const auto document = isKept ? openOne(path, input, error, stop) : openDocument(path, error);
         if (!document)
             return false;
-        m_documents.append(*document);
+        opened.append(*document);
     }
+    const std::lock_guard reading(m_reading);
+    m_documents = opened;
     return true;
+}
+
+QList<Document> DocumentList::documents() const
+{
+    const std::lock_guard reading(m_reading);
+    return m_documents;
 }
 
 // What is read once: from the first call on, the copy, which goes on where a call was stopped.
@@ -293,7 +301,8 @@ std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *in
 
 QString DocumentList::title() const
 {
-    return m_documents.isEmpty() ? QString() : m_documents.first().name;
+    const QList<Document> all = documents();
+    return all.isEmpty() ? QString() : all.first().name;
 }
 
 } // namespace host

@@ -58,7 +58,8 @@ public:
     // Returns false soon after `stop` (may be null) has come true, whether or not more comes from a pipe;
     // what has come is kept for the next call. Calls on several threads follow one another.
     bool open(const QStringList &paths, QIODevice *input, PrintError *error, const StopWanted &stop = {});
-    const QList<Document> &documents() const { return m_documents; }
+    // Those of the last call that succeeded; may be called on any thread, also while open() runs on another.
+    QList<Document> documents() const;
     // What a job of these documents is called: the first one's name; empty without documents.
     QString title() const;
 
@@ -68,6 +69,7 @@ private:
                                     const StopWanted &stop);
 
     std::mutex m_opening;
+    mutable std::mutex m_reading; // for m_documents alone
     QList<Document> m_documents;
     std::map<QString, std::unique_ptr<Spool>> m_spools; // by path
 };
