@@ -61,7 +61,12 @@ void ChosenSettings::add(const ChosenSetting &setting)
 
 void ChosenSettings::takeBack(const QStringList &keys, const ChosenSettings &earlier)
 {
-    const auto isOne = [&](const ChosenSetting &setting) { return keys.contains(setting.key); };
+    // A standard name such as "media" goes with any of the options that it stands for.
+    const auto isOne = [&](const ChosenSetting &setting) {
+        return keys.contains(setting.key) ||
+               std::any_of(setting.options.begin(), setting.options.end(),
+                           [&](const QString &option) { return keys.contains(option); });
+    };
     m_settings.removeIf(isOne);
     for (const ChosenSetting &setting : earlier.m_settings) {
         if (isOne(setting))

@@ -5,7 +5,6 @@
 
 #include "host/session/dialog_session.h"
 
-#include <QScopedValueRollback>
 #include <QUndoCommand>
 
 #include <utility>
@@ -95,7 +94,7 @@ SessionHistory::SessionHistory(DialogSession *session)
 
 void SessionHistory::note()
 {
-    if (m_isGoing)
+    if (m_isPaused)
         return;
     SessionState now = StateKeeper::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
@@ -135,6 +134,12 @@ void SessionHistory::noteLater()
 }
 
 void SessionHistory::absorb()
+{
+    if (!m_isPaused)
+        lookAnew();
+}
+
+void SessionHistory::lookAnew()
 {
     m_now = StateKeeper::stateOf(*m_session);
     absorbNew(m_now);
@@ -177,20 +182,20 @@ void SessionHistory::renameInstance(const QString &from, const QString &to)
         m_base.state.instance = to;
     if (m_session->destination().instance != from)
         return;
-    const QScopedValueRollback<bool> going(m_isGoing, true);
+    const auto paused = pause();
     const SessionState now = StateKeeper::stateOf(*m_session);
     SessionState wanted = now;
     wanted.instance = to;
     StateKeeper(m_session).bring(now, wanted);
-    absorb();
+    lookAnew();
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
 {
-    const QScopedValueRollback<bool> going(m_isGoing, true);
+    const auto paused = pause();
     StateKeeper(m_session).bring(from, to);
     m_base = base;
-    absorb();
+    lookAnew();
     m_sinceStep.invalidate();
     Q_EMIT changed();
 }

@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QScopedValueRollback>
 #include <QUndoStack>
 
 #include <functional>
@@ -34,6 +35,9 @@ public:
     void endGesture() { m_sinceStep.invalidate(); }
     // What differs from the last look is nobody's wish, such as what a panel has read: no step.
     void absorb();
+    // While the result lives, note() and absorb() do nothing: for a change that lets events be handled before
+    // it is complete, as a panel does that asks its device. To be followed by one of them.
+    [[nodiscard]] QScopedValueRollback<bool> pause() { return QScopedValueRollback<bool>(m_isPaused, true); }
     QUndoStack *steps() { return &m_steps; }
 
     // What changes are told by: how the session stood when it began, or when a preset was applied, and the
@@ -64,6 +68,7 @@ Q_SIGNALS:
 
 private:
     class Step;
+    void lookAnew();
     void absorbNew(const SessionState &now);
     void changeBases(const QString &name, const std::function<void(Base *)> &change);
     void go(const SessionState &from, const SessionState &to, const Base &base);
@@ -76,7 +81,7 @@ private:
     QElapsedTimer m_sinceStep;
     std::optional<QString> m_nextBase;
     bool m_isQueued = false;
-    bool m_isGoing = false;
+    bool m_isPaused = false;
 };
 
 } // namespace host

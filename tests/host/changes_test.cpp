@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/preset_store.h"
+#include "host/session/chosen_settings.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/look/link_label.h"
 #include "host/window/messages/message_bar.h"
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void fieldKeepsItsOwnUndo();
     void markTakesTheChangeBack();
     void panelsControlsAreUndoneAndMarked();
+    void presetIsOneStepHoweverLongItTakes();
     void summaryShowsChangesAndLeadsToThem();
     void presetIsSavedAppliedRenamedAndDeleted();
     void lastUsedIsOfferedWithoutCodes();
@@ -176,8 +178,11 @@ void ChangesTest::markTakesTheChangeBack()
 {
     PrintWindow &window = open();
     QVERIFY(marks().isEmpty());
-    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    PrintError error; // by a standard name, as -o does
+    QVERIFY(host::choose(window.session(),
+                         {u"sides"_s, u"two-sided-long-edge"_s, ChosenSetting::Kind::JobOption}, &error));
     settle();
+    window.book()->refresh();
     QCOMPARE(marks().size(), 1);
     auto *box = find<QComboBox>(u"Duplex"_s);
     QVERIFY2(box->accessibleDescription().contains(u"“Off”"_s), qPrintable(box->accessibleDescription()));
@@ -189,6 +194,7 @@ void ChangesTest::markTakesTheChangeBack()
     QTest::mouseClick(marks().first(), Qt::LeftButton);
     settle();
     QCOMPARE(marked(u"Duplex"_s), u"None"_s);
+    QVERIFY(!window.session()->chosen().contains(u"Duplex"_s));
     QVERIFY(marks().isEmpty());
     QCOMPARE(box->accessibleDescription(), u"Both sides"_s);
     QVERIFY(box->hasFocus());
@@ -241,6 +247,28 @@ void ChangesTest::panelsControlsAreUndoneAndMarked()
     redo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s) + panel->code(), u"0Mono12345"_s);
     QCOMPARE(panel->restored, 1); // no device is asked for it
+}
+
+// While a panel asks its device, the session tells of what has been applied so far.
+void ChangesTest::presetIsOneStepHoweverLongItTakes()
+{
+    PrintWindow &window = open();
+    DialogSession *session = window.session();
+    auto made = std::make_unique<FakePanel>(u"Colour"_s, QStringList({u"ColorType"_s, u"Cyan"_s}), session);
+    made->onSet = [session](const QString &, const QString &) { Q_EMIT session->changed(); };
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(made));
+    session->adoptPanels(std::move(panels));
+    window.showSession();
+    window.book()->showPage(1);
+    PrintError error;
+    QVERIFY(PresetStore().save(u"office"_s, {u"grey"_s, {{u"ColorType"_s, u"Mono"_s}, {u"Sharp"_s, u"1"_s}}},
+                               &error));
+    trigger(u"grey"_s);
+    QVERIFY2(presets()->text().trimmed().endsWith(u"grey"_s), qPrintable(presets()->text())); // not changed
+    QCOMPARE(marked(u"ColorType"_s) + marked(u"Sharp"_s), u"Mono1"_s);
+    undo();
+    QCOMPARE(marked(u"ColorType"_s) + marked(u"Sharp"_s), u"Auto0"_s);
 }
 
 void ChangesTest::summaryShowsChangesAndLeadsToThem()

@@ -93,6 +93,10 @@ void SettingsControl::setSession(DialogSession *session)
 {
     m_history.reset();
     delete m_dialog;
+    if (m_menu) { // its actions are for the session before
+        m_menu->hide();
+        m_menu->clear();
+    }
     m_session = session;
     m_lists = {};
     m_reading.drop();
@@ -308,8 +312,11 @@ void SettingsControl::apply(const QString &name)
     m_session->save();
     m_history->note();
     m_history->endGesture();
+    {
+        const auto paused = m_history->pause(); // a panel may ask its device
+        applyPreset(m_session, queueOptions(), optionsOf(name));
+    }
     m_history->takeBase(name);
-    applyPreset(m_session, queueOptions(), optionsOf(name));
     m_history->note();
     m_history->endGesture();
     showName();
@@ -321,12 +328,12 @@ void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work,
 {
     m_editing.start(
         this, [work = std::move(work)] { return work(PresetStore()); },
-        [this, done, history = m_history.get()](const PrintError &error) {
+        [this, done, history = QPointer(m_history.get())](const PrintError &error) {
             if (error) {
                 Q_EMIT failed(error);
                 return;
             }
-            if (m_history && m_history.get() == history) {
+            if (history && m_history.get() == history) {
                 m_history->note();
                 done();
             }
