@@ -19,14 +19,38 @@ bool changes(const Resolution &resolution, const QString &keyword)
                        [&](const OptionChoice &change) { return change.option == keyword; });
 }
 
-// With the choice marked: a way that keeps it, and what protects if that can be.
-std::optional<Resolution> wayThatKeeps(const DialogSession &session, const QString &keyword)
+// Whether the policy keeps an option from getting a choice.
+bool isLockedAgainst(const DialogSession &session, const QString &keyword, const QString &choice)
+{
+    const QString locked = session.rule().lockedChoice(session.ppd(), keyword);
+    const int owner = session.panelOfKeyword(keyword);
+    return (!locked.isNull() && locked != choice) || (owner >= 0 && session.isPanelLocked(owner));
+}
+
+// What is locked and would be changed, as it stands now.
+QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution &resolution)
+{
+    QList<OptionChoice> locks;
+    for (const OptionChoice &change : resolution) {
+        if (isLockedAgainst(session, change.option, change.choice))
+            locks.append(session.ppd()->described(change.option, session.ppd()->markedChoice(change.option)));
+    }
+    return locks;
+}
+
+// With the choice marked: a way that keeps it and everything that is locked, and what protects if that can
+// be.
+Resolution wayThatKeeps(const DialogSession &session, const QString &keyword, QList<OptionChoice> *locks)
 {
     const auto gentle = protectingResolution(*session.ppd(), session.protection(), keyword, nullptr);
-    if (gentle && !changes(*gentle, keyword))
-        return gentle;
-    const auto any = session.ppd()->resolution(keyword);
-    return any && !changes(*any, keyword) ? any : std::nullopt;
+    for (const auto &way : {gentle, session.ppd()->resolution(keyword)}) {
+        if (!way || changes(*way, keyword))
+            continue;
+        *locks = locksAgainst(session, *way);
+        if (locks->isEmpty())
+            return *way;
+    }
+    return {};
 }
 
 } // namespace
@@ -37,14 +61,18 @@ ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const 
     PpdDocument *ppd = session->ppd();
     ForcedChoice forced;
     forced.wanted = ppd->described(keyword, choice);
+    forced.locks = locksAgainst(*session, {forced.wanted});
     forced.obstacle = ppd->forbiddenChoices(keyword).value(choice);
-    if (forced.obstacle.option.isEmpty())
+    if (forced.obstacle.option.isEmpty() || !forced.locks.isEmpty())
         return forced;
     const QString now = ppd->markedChoice(keyword);
     if (!ppd->mark(keyword, choice))
         return forced;
-    forced.changes = wayThatKeeps(*session, keyword).value_or(Resolution());
+    forced.changes = wayThatKeeps(*session, keyword, &forced.locks);
     ppd->mark(keyword, now);
+    if (forced.changes.isEmpty() && forced.locks.isEmpty() &&
+        isLockedAgainst(*session, forced.obstacle.option, {}))
+        forced.locks = {forced.obstacle};
     for (const OptionChoice &change : std::as_const(forced.changes)) {
         const OptionChoice before = ppd->described(change.option, ppd->markedChoice(change.option));
         forced.before.append(before);

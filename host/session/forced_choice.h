@@ -20,13 +20,15 @@ struct ForcedChoice
     Resolution changes;         // of other options; empty where there is no way
     QList<OptionChoice> before; // what these stand at now
     QStringList givenUp;        // what protects the user and would be lost, in words
+    // What the administrator has fixed and every way would change; nothing can be done then.
+    QList<OptionChoice> locks;
 
-    bool isPossible() const { return obstacle.option.isEmpty() || !changes.isEmpty(); }
+    bool isPossible() const { return locks.isEmpty() && (obstacle.option.isEmpty() || !changes.isEmpty()); }
     bool operator==(const ForcedChoice &) const = default;
 };
 
 // Looks for the changes; leaves the session as it is, but for panels that are saved first. A way that keeps
-// what protects the user goes before one that does not.
+// what protects the user goes before one that does not; a way that changes what is locked is none.
 ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const QString &choice);
 
 // Makes the choice and the changes, as one step. Not to be called for one that is not possible.

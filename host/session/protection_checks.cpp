@@ -75,6 +75,17 @@ QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection 
     return atRisk;
 }
 
+const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
+                                      const ChosenSettings &chosen)
+{
+    for (const Protection::Secret &secret : protection.secrets) {
+        if (ppd.hasOption(secret.option) && ppd.markedChoice(secret.option) == secret.choice &&
+            !isChosen(chosen, secret) && !isStored(ppd, secret.options))
+            return &secret;
+    }
+    return nullptr;
+}
+
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen)
 {
     for (const Protection::Secret &secret : protection.secrets) {

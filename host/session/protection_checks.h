@@ -21,6 +21,12 @@ std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Pro
 // The choices of conflicts that protect the user, in words: a printer may give up either side.
 QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection);
 
+// The first code that the job would be sent without although its use has been chosen: the password of private
+// printing, or a department code that is switched on. Null when every code that is used has been given.
+// Points into `protection`.
+const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
+                                      const ChosenSettings &chosen);
+
 // What is missing for the protection that has been chosen, in words: private printing without a code, or a
 // code without private printing. Nil when nothing is.
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen);
