@@ -62,11 +62,11 @@ int tellRefusal(const PrintError &error, QIODevice *err)
     return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
 }
 
-// A panel may be moving still, or the print server be asked.
+// Its animations are over, and neither the print server nor a panel's device is being asked.
 void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err)
 {
     QObject::connect(new Settled(window), &Settled::done, window, [=] {
-        if (window->isOpening())
+        if (!window->isSettled())
             pictureWhenSettled(window, path, err);
         else
             QApplication::exit(window->refusal() ? tellRefusal(window->refusal(), err)
@@ -78,7 +78,7 @@ void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err
 void failWithoutOptions(PrintWindow *window)
 {
     QObject::connect(new Settled(window), &Settled::done, window, [window] {
-        if (window->isOpening())
+        if (!window->isSettled())
             failWithoutOptions(window);
         else if (window->book()->isHidden())
             QApplication::exit(ExitFailure);

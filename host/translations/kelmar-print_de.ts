@@ -1516,6 +1516,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>These settings cannot be used together</source>
         <translation>Diese Einstellungen passen nicht zusammen</translation>
     </message>
+    <message>
+        <source>“%1” cannot be changed. If you print anyway, the printer may print without it.</source>
+        <translation>„%1“ kann nicht geändert werden. Wenn Sie trotzdem drucken, druckt der Drucker möglicherweise ohne diese Einstellung.</translation>
+    </message>
 </context>
 <context>
     <name>host::CustomEditor</name>
@@ -1710,6 +1714,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” is not available now</source>
         <translation>„%1“ ist jetzt nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed.</source>
+        <translation>„%1“ kann nicht geändert werden.</translation>
     </message>
 </context>
 <context>
@@ -2184,12 +2192,12 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Druckserver hat noch nicht geantwortet.</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Dokument</translation>
-    </message>
-    <message>
         <source>The PDF file has been written</source>
         <translation>Die PDF-Datei wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>Printing follows when the printer has answered.</source>
+        <translation>Gedruckt wird, sobald der Drucker geantwortet hat.</translation>
     </message>
 </context>
 <context>
@@ -2394,6 +2402,38 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Please note</source>
         <translation>Bitte beachten</translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation>Passwort fehlt</translation>
+    </message>
+    <message>
+        <source>Code missing</source>
+        <translation>Code fehlt</translation>
+    </message>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>„%1“ ist gewählt, aber es wurde kein Code dafür angegeben.</translation>
+    </message>
+    <message>
+        <source>Use Without Pass&amp;word</source>
+        <translation>Ohne &amp;Passwort verwenden</translation>
+    </message>
+    <message>
+        <source>Use &amp;Without Code</source>
+        <translation>Ohne &amp;Code verwenden</translation>
+    </message>
+    <message>
+        <source>Print Without Pass&amp;word</source>
+        <translation>Ohne &amp;Passwort drucken</translation>
+    </message>
+    <message>
+        <source>Print &amp;Without Code</source>
+        <translation>Ohne &amp;Code drucken</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Behalten &amp;und prüfen</translation>
     </message>
 </context>
 <context>

@@ -1516,6 +1516,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>These settings cannot be used together</source>
         <translation>Estos ajustes no se pueden usar juntos</translation>
     </message>
+    <message>
+        <source>“%1” cannot be changed. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» no se puede cambiar. Si imprime igualmente, es posible que la impresora imprima sin ese ajuste.</translation>
+    </message>
 </context>
 <context>
     <name>host::CustomEditor</name>
@@ -1710,6 +1714,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” is not available now</source>
         <translation>«%1» no está disponible ahora</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed.</source>
+        <translation>«%1» no se puede cambiar.</translation>
     </message>
 </context>
 <context>
@@ -2184,12 +2192,12 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>&amp;Cerrar</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
         <source>The PDF file has been written</source>
         <translation>Se ha guardado el archivo PDF</translation>
+    </message>
+    <message>
+        <source>Printing follows when the printer has answered.</source>
+        <translation>Se imprimirá en cuanto la impresora haya respondido.</translation>
     </message>
 </context>
 <context>
@@ -2394,6 +2402,38 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Please note</source>
         <translation>Tenga en cuenta</translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation>Falta la contraseña</translation>
+    </message>
+    <message>
+        <source>Code missing</source>
+        <translation>Falta el código</translation>
+    </message>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>Se ha elegido «%1», pero no se ha indicado ningún código para ello.</translation>
+    </message>
+    <message>
+        <source>Use Without Pass&amp;word</source>
+        <translation>Usar sin con&amp;traseña</translation>
+    </message>
+    <message>
+        <source>Use &amp;Without Code</source>
+        <translation>Usar sin &amp;código</translation>
+    </message>
+    <message>
+        <source>Print Without Pass&amp;word</source>
+        <translation>Imprimir sin con&amp;traseña</translation>
+    </message>
+    <message>
+        <source>Print &amp;Without Code</source>
+        <translation>Imprimir sin &amp;código</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Mantener y re&amp;visar</translation>
     </message>
 </context>
 <context>

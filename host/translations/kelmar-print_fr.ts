@@ -1516,6 +1516,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>These settings cannot be used together</source>
         <translation>Ces réglages sont incompatibles</translation>
     </message>
+    <message>
+        <source>“%1” cannot be changed. If you print anyway, the printer may print without it.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être modifié. Si vous imprimez quand même, l’imprimante risque d’imprimer sans ce réglage.</translation>
+    </message>
 </context>
 <context>
     <name>host::CustomEditor</name>
@@ -1710,6 +1714,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” is not available now</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas disponible actuellement</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être modifié.</translation>
     </message>
 </context>
 <context>
@@ -2184,12 +2192,12 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Le serveur d’impression n’a pas encore répondu.</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
         <source>The PDF file has been written</source>
         <translation>Le fichier PDF a été écrit</translation>
+    </message>
+    <message>
+        <source>Printing follows when the printer has answered.</source>
+        <translation>L’impression suivra dès que l’imprimante aura répondu.</translation>
     </message>
 </context>
 <context>
@@ -2394,6 +2402,38 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Please note</source>
         <translation>À noter</translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation>Mot de passe manquant</translation>
+    </message>
+    <message>
+        <source>Code missing</source>
+        <translation>Code manquant</translation>
+    </message>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>«&#xa0;%1&#xa0;» a été choisi, mais aucun code n’a été indiqué.</translation>
+    </message>
+    <message>
+        <source>Use Without Pass&amp;word</source>
+        <translation>Utiliser sans &amp;mot de passe</translation>
+    </message>
+    <message>
+        <source>Use &amp;Without Code</source>
+        <translation>Utiliser sans &amp;code</translation>
+    </message>
+    <message>
+        <source>Print Without Pass&amp;word</source>
+        <translation>Imprimer sans &amp;mot de passe</translation>
+    </message>
+    <message>
+        <source>Print &amp;Without Code</source>
+        <translation>Imprimer sans &amp;code</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>&amp;Garder et vérifier</translation>
     </message>
 </context>
 <context>

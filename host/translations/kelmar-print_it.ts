@@ -1516,6 +1516,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>These settings cannot be used together</source>
         <translation>Queste impostazioni non possono essere usate insieme</translation>
     </message>
+    <message>
+        <source>“%1” cannot be changed. If you print anyway, the printer may print without it.</source>
+        <translation>«%1» non può essere modificata. Se si stampa comunque, la stampante potrebbe stampare senza questa impostazione.</translation>
+    </message>
 </context>
 <context>
     <name>host::CustomEditor</name>
@@ -1710,6 +1714,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” is not available now</source>
         <translation>«%1» ora non è disponibile</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed.</source>
+        <translation>«%1» non può essere modificata.</translation>
     </message>
 </context>
 <context>
@@ -2184,12 +2192,12 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>&amp;Chiudi</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Documento</translation>
-    </message>
-    <message>
         <source>The PDF file has been written</source>
         <translation>Il file PDF è stato scritto</translation>
+    </message>
+    <message>
+        <source>Printing follows when the printer has answered.</source>
+        <translation>La stampa seguirà non appena la stampante avrà risposto.</translation>
     </message>
 </context>
 <context>
@@ -2394,6 +2402,38 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Please note</source>
         <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation>Password mancante</translation>
+    </message>
+    <message>
+        <source>Code missing</source>
+        <translation>Codice mancante</translation>
+    </message>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>È stato scelto «%1», ma non è stato fornito il codice necessario.</translation>
+    </message>
+    <message>
+        <source>Use Without Pass&amp;word</source>
+        <translation>Usa senza pass&amp;word</translation>
+    </message>
+    <message>
+        <source>Use &amp;Without Code</source>
+        <translation>Usa senza &amp;codice</translation>
+    </message>
+    <message>
+        <source>Print Without Pass&amp;word</source>
+        <translation>Stampa senza pass&amp;word</translation>
+    </message>
+    <message>
+        <source>Print &amp;Without Code</source>
+        <translation>Stampa senza &amp;codice</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>Mantieni e ri&amp;vedi</translation>
     </message>
 </context>
 <context>

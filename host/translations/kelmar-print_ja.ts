@@ -1516,6 +1516,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>These settings cannot be used together</source>
         <translation>次の設定は併用できません</translation>
     </message>
+    <message>
+        <source>“%1” cannot be changed. If you print anyway, the printer may print without it.</source>
+        <translation>「%1」は変更できません。このまま印刷すると、この設定なしで印刷される可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>host::CustomEditor</name>
@@ -1710,6 +1714,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” is not available now</source>
         <translation>「%1」は現在使用できません</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed.</source>
+        <translation>「%1」は変更できません。</translation>
     </message>
 </context>
 <context>
@@ -2184,12 +2192,12 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリントサーバーからまだ応答がありません。</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>文書</translation>
-    </message>
-    <message>
         <source>The PDF file has been written</source>
         <translation>PDF ファイルを書き出しました</translation>
+    </message>
+    <message>
+        <source>Printing follows when the printer has answered.</source>
+        <translation>プリンターが応答してから印刷します。</translation>
     </message>
 </context>
 <context>
@@ -2393,6 +2401,38 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Please note</source>
         <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation>パスワードが入力されていません</translation>
+    </message>
+    <message>
+        <source>Code missing</source>
+        <translation>コードが入力されていません</translation>
+    </message>
+    <message>
+        <source>“%1” has been chosen, but no code has been given for it.</source>
+        <translation>「%1」が選択されていますが、コードが指定されていません。</translation>
+    </message>
+    <message>
+        <source>Use Without Pass&amp;word</source>
+        <translation>パスワードなしで使用(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Use &amp;Without Code</source>
+        <translation>コードなしで使用(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Print Without Pass&amp;word</source>
+        <translation>パスワードなしで印刷(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Print &amp;Without Code</source>
+        <translation>コードなしで印刷(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Keep and Re&amp;view</source>
+        <translation>そのまま確認(&amp;V)</translation>
     </message>
 </context>
 <context>

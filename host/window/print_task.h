@@ -31,6 +31,9 @@ struct PrintTask
     // The settings are the answer: another program has the document, and nothing is printed here.
     bool settingsOnly = false;
     QString acceptLabel; // of the button that prints; empty for the usual one
+
+    // What these of its files are called, for the user. Empty for the standard input.
+    QString namesOf(const QStringList &paths) const;
 };
 
 } // namespace host

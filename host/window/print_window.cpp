@@ -3,22 +3,21 @@
 
 #include "host/window/print_window.h"
 
-#include "host/printing/file_name.h"
+#include "host/printing/later_writes.h"
+#include "host/session/carry_over.h"
+#include "host/session/printed_pages.h"
 #include "host/session/session_history.h"
-#include "host/window/guide/finder.h"
-#include "host/window/guide/guide_buttons.h"
-#include "host/window/guide/help_desk.h"
+#include "host/window/guide/guide.h"
+#include "host/window/jobs/document_check.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/dialog_button.h"
-#include "host/window/look/explanations.h"
 #include "host/window/look/focus_ring.h"
-#include "host/window/look/foreign_text.h"
 #include "host/window/look/text_direction.h"
 #include "host/window/messages/greyed_choices.h"
-#include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/settings_control.h"
+#include "host/window/preview/pdf_saver.h"
 #include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/waiting/wait_sign.h"
@@ -26,9 +25,11 @@
 #include "platform/key_value_object.h"
 
 #include <QApplication>
-#include <QFileInfo>
+#include <QCloseEvent>
 #include <QIcon>
 #include <QShortcut>
+
+#include <algorithm>
 
 namespace host {
 
@@ -36,68 +37,53 @@ namespace {
 
 constexpr int usualLines = 34; // that the window is high where there is room for it
 
+// Whether there is a printer, and something to print on it.
+bool canPrint(const PrintTask &task, const DialogSession *session)
+{
+    return session && !session->destination().queue.isEmpty() && (task.settingsOnly || !task.files.isEmpty());
+}
+
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
-    : m_system(system), m_extensions(extensions), m_task(std::move(task)),
-      m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
+    : m_task(std::move(task)), m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
       m_opener(
-          system, [this] { return m_wait.isUnderWay(); }, this),
+          system, extensions, m_task, [this] { return m_wait.isUnderWay(); },
+          [this](SessionOpener::Result result) { takeSession(std::move(result)); }),
       m_picker(new PrinterPicker(this)), m_news(system, m_picker), m_settings(new SettingsControl(this)),
-      m_bar(new MessageBar(this)),
-      m_messages(m_bar, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
-      m_book(new PageBook(this)), m_unavailable(new UnavailablePage(this)), m_result(new ResultPage(this)),
-      m_cancel(new DialogButton(tr("Cancel"), this)), m_print(new DialogButton(tr("&Print"), this)),
-      m_wait(this, m_cancel), m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, this),
-      m_finder(new Finder(m_book)), m_greyed(new GreyedChoices(m_bar, this)), m_help(new HelpDesk(m_book)),
-      m_layout(this, {m_picker,
-                      m_book,
-                      {m_unavailable, m_waiting, m_result},
-                      m_bar,
-                      {m_wait.sign(), m_cancel, m_print},
-                      m_finder})
+      m_queue(new MessageBar(this), [this] { return isSettled(); }),
+      m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
+      m_book(new PageBook(&m_documentChoice, this)), m_unavailable(new UnavailablePage(this)),
+      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
+      m_print(new DialogButton(tr("&Print"), this)), m_wait(this, {m_cancel, m_print}),
+      m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, this), m_pdf(new PdfSaver(this)),
+      m_guide(new Guide(m_book)), m_layout(this, {m_picker,
+                                                  m_book,
+                                                  {m_unavailable, m_waiting, m_result},
+                                                  m_queue.bar(),
+                                                  {m_wait.sign(), m_cancel, m_print},
+                                                  m_guide->finder()})
 {
-    const QString documents = documentNames();
+    const QString documents = m_task.namesOf(m_documentChoice.included());
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
     m_picker->addBeside(m_settings->button());
     m_print->setDefault(true);
-    m_book->setDocuments(&m_documentChoice);
-    connectAll();
+    connectParts();
+    connectWork();
     showState(State::Unavailable);
     resize(720, qMax(600, usualLines * fontMetrics().height()));
 }
 
-QString PrintWindow::documentNames() const
-{
-    QStringList names;
-    if (!m_task.files.isEmpty() && !m_task.documentName.isEmpty())
-        return tr("“%1”").arg(oneLine(m_task.documentName));
-    for (const QString &file : m_documentChoice.included()) {
-        if (file != QLatin1String("-"))
-            names.append(tr("“%1”").arg(oneLine(readableFileName(QFileInfo(file).fileName()))));
-    }
-    return names.join(QStringLiteral(", "));
-}
-
 PrintWindow::~PrintWindow()
 {
-    letGo();
+    detachSession();
 }
 
-// Of the session, whose panels own views in the pages, before it goes.
-void PrintWindow::letGo()
-{
-    m_news.forgetChosen();
-    m_book->clear();
-    m_messages.clear();
-    m_settings->setSession(nullptr);
-    m_greyed->setSession(nullptr);
-}
-
-void PrintWindow::connectAll()
+// What the user works with.
+void PrintWindow::connectParts()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
     connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
@@ -106,97 +92,206 @@ void PrintWindow::connectAll()
     connect(m_book, &PageBook::shown, &m_layout, &WindowLayout::arrange);
     connect(m_book, &PageBook::grown, this, [this] { keepLabelsAligned(this); });
     connect(m_book, &PageBook::shown, &m_messages, &SessionMessages::showNotices);
-    connect(m_bar, &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrange);
-    connect(m_book, &PageBook::chosen, this, [this] {
+    const auto settingsChanged = [this] {
         sessionChanged();
         m_messages.check();
+    };
+    connect(m_book, &PageBook::chosen, this, settingsChanged);
+    connect(m_book, &PageBook::savePdfWanted, this, [this] {
+        if (!isSettled() || m_jobs.isSending() || !m_book->checkTyped())
+            return;
+        m_session->save();
+        sessionChanged();
+        m_pdf->save(m_documents, m_documentChoice.included(), m_task.title, pageSettings(*m_session));
     });
-    connect(m_book, &PageBook::savePdfWanted, this, &PrintWindow::savePdf);
     connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
-    connect(m_settings, &SettingsControl::applied, this, [this] {
+    connect(m_settings, &SettingsControl::applied, this, [this, settingsChanged] {
         m_news.setChosen(m_session->destination());
-        sessionChanged();
-        m_messages.check();
+        settingsChanged();
     });
     connect(m_settings, &SettingsControl::presetsChanged, this, [this] {
         m_news.setChosen(m_session->destination());
         m_news.loadList();
     });
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
-    connect(m_bar, &MessageBar::answered, this, &PrintWindow::answer);
-    connect(m_finder, &Finder::partsChanged, &m_layout, &WindowLayout::arrange);
-    connect(m_help, &HelpDesk::shown, &m_layout, &WindowLayout::arrange);
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_finder, &Finder::open);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, m_help,
-            &HelpDesk::toggle);
-    connect(m_unavailable, &UnavailablePage::retryWanted, this, &PrintWindow::retry);
-    connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
-    connect(&m_wait, &PanelWait::panelReturned, this, &PrintWindow::goOn);
-    connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
-    connect(m_cancel, &QPushButton::clicked, this, [this] {
-        m_wait.giveUp();
-        submission() ? accept() : reject();
+    auto *greyed = new GreyedChoices(
+        &m_queue, [this] { return m_session.get(); }, this);
+    // A greyed choice and what it takes are one step.
+    connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_settings->history()->endGesture(); });
+    connect(greyed, &GreyedChoices::chosen, this, [this, settingsChanged] {
+        m_settings->history()->endGesture();
+        settingsChanged();
     });
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, m_print, &QPushButton::click);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this), &QShortcut::activated, this,
-            [this] { turn(1); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this), &QShortcut::activated, this,
-            [this] { turn(-1); });
     connect(&m_messages, &SessionMessages::saved, this, &PrintWindow::sessionChanged);
-    connect(&m_messages, &SessionMessages::printWanted, this, &PrintWindow::deliver);
-    connectOpener();
-    connectJob();
+    connect(&m_messages, &SessionMessages::codeWanted, m_book, &PageBook::leadTo);
+    connect(&m_messages, &SessionMessages::printWanted, this, [this] {
+        if (mayPrint())
+            deliver();
+    });
+    connect(m_queue.bar(), &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrange);
+    connect(m_guide, &Guide::partsChanged, &m_layout, &WindowLayout::arrange);
 }
 
-void PrintWindow::turn(int steps)
+// What takes its time, and the buttons that begin and end it.
+void PrintWindow::connectWork()
 {
-    if (m_state == State::Choosing && !m_wait.isUnderWay())
-        m_book->turn(steps);
+    connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
+    // The button's, so that it works while a panel waits.
+    connect(new QShortcut(QKeySequence::Print, m_print), &QShortcut::activated, m_print, &QPushButton::click);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_wait.giveUp();
+        m_state == State::Done ? accept() : reject();
+    });
+    connect(&m_opener, &SessionOpener::awaited, m_picker, &PrinterPicker::setAwaited);
+    connect(&m_opener, &SessionOpener::delayed, this, [this] {
+        m_waiting->setTask(tr("Asking the print server…"), tr("Do &Not Wait"));
+        showState(State::Waiting);
+    });
+    connect(m_unavailable, &UnavailablePage::retryWanted, this, [this] {
+        m_opener.openTask();
+        m_news.loadList();
+    });
+    connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
+    connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::makeWay);
+    connect(&m_wait, &PanelWait::acceptWanted, this, &PrintWindow::print);
+    connect(&m_wait, &PanelWait::panelReturned, this, [this] {
+        m_messages.goOn();
+        m_opener.deliverHeld();
+    });
+    connect(&m_jobs, &JobDesk::delayed, this, [this] {
+        showState(State::Sending);
+        m_waiting->cancelButton()->setFocus();
+    });
+    connect(&m_jobs, &JobDesk::rejected, this, [this](const PrintError &error) {
+        showState(State::Choosing);
+        showError(error);
+    });
+    connect(&m_jobs, &JobDesk::sent, this, [this] {
+        showState(State::Done);
+        m_cancel->setText(tr("&Close"));
+        m_cancel->setDefault(true);
+        m_cancel->ignoreMouseFor(std::chrono::milliseconds(QApplication::doubleClickInterval()));
+        m_cancel->setFocus();
+    });
+    connect(&m_jobs, &JobDesk::left, this, [this](bool kept) { done(kept ? Accepted : Rejected); });
+    connect(&m_jobs, &JobDesk::ended, &m_news, [this] {
+        if (m_state == State::Done)
+            m_news.follow(false);
+    });
+    // The same documents with the same settings, once more.
+    connect(m_result, &ResultPage::printAgainWanted, this, [this] {
+        if (!mayPrint())
+            return;
+        m_cancel->setText(tr("Cancel"));
+        m_print->setDefault(true);
+        deliver();
+    });
+    connect(m_pdf, &PdfSaver::began, m_print, [this] { m_print->setEnabled(false); });
+    connect(m_pdf, &PdfSaver::delayed, this, [this] { m_wait.setActivity(PdfSaver::tr("Save as PDF")); });
+    connect(m_pdf, &PdfSaver::ended, this, [this](const PrintError &error, const QString &path) {
+        m_wait.setActivity({});
+        allowPrinting();
+        if (error)
+            m_queue.tell(MessageQueue::Subject::File, {StatusGlyph::Kind::Error, error.message, {}, {}});
+        else
+            m_queue.tell(MessageQueue::Subject::File,
+                         {StatusGlyph::Kind::Success, tr("The PDF file has been written"), {path}, {}});
+    });
 }
 
 void PrintWindow::showState(State state)
 {
     m_state = state;
     m_book->setVisible(state == State::Choosing);
-    if (state != State::Choosing)
-        m_bar->hide();
+    m_queue.setActive(state == State::Choosing);
     m_unavailable->setVisible(state == State::Unavailable);
     m_waiting->setVisible(state == State::Waiting || state == State::Sending);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done && state != State::Sending);
     m_settings->setActive(state == State::Choosing);
-    if (m_guide)
-        m_guide->setVisible(state == State::Choosing && !isSaving());
+    m_guide->setActive(state == State::Choosing);
     m_news.follow(state == State::Choosing || (state == State::Done && !submission()->job.status.isFinal()));
     m_print->setVisible(state != State::Done);
-    if (state != State::Choosing)
-        m_print->setEnabled(false);
+    allowPrinting();
     m_layout.arrange();
-    showSaving();
+}
+
+bool PrintWindow::open(PrintError *error)
+{
+    m_opener.openTask();
+    // The one time that the window waits on its thread: there is nothing to be seen of it yet.
+    m_opener.deliverNear();
+    if (m_refusal)
+        *error = m_refusal;
+    return !m_refusal;
+}
+
+void PrintWindow::takeSession(SessionOpener::Result result)
+{
+    if (!result.session && m_session)
+        stayWithPrinter();
+    if (!result.session && result.isForTask && !m_task.ppdFile.isEmpty()) {
+        refuse(result.error);
+    } else if (!result.session) {
+        showError(result.error);
+    } else if (result.isForTask) {
+        adopt(std::move(result.session));
+        beginTask();
+    } else {
+        changePrinter(std::move(result.session));
+    }
+}
+
+// Shows the page and makes the settings that the task asks for.
+void PrintWindow::beginTask()
+{
+    const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
+    if (row < 0) {
+        refuse({PrintError::Kind::BadValue, tr("There is no pane called “%1”.").arg(m_task.firstPage)});
+        return;
+    }
+    m_book->showPage(row);
+    if (isDismissed()) // while a panel waited
+        return;
+    // On the shown page, so that panels answer the settings as they answer the user's.
+    PrintError problem;
+    if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
+        refuse(problem);
+        return;
+    }
+    m_settings->absorb();
+    m_book->refresh();
+    m_book->showChanges();
+    m_messages.check();
+}
+
+void PrintWindow::changePrinter(std::unique_ptr<DialogSession> session)
+{
+    m_session->save(); // what the page that is shown has pending
+    const QString page = m_book->currentName();
+    detachSession();
+    const auto earlier = std::move(m_session);
+    adopt(std::move(session));
+    carryOver(*earlier, m_session.get());
+    m_settings->absorb();
+    m_book->showPage(std::max(m_book->pageNamed(page), 0));
+    m_messages.check();
 }
 
 void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 {
-    letGo();
+    detachSession();
     m_session = std::move(session);
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
-    connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
-    connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
     m_news.setChosen(m_session->destination());
     showSession();
+    // After the book, which shows on its page what is awaited before the window is painted.
+    connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
+    connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
     showState(State::Choosing);
     if (focusWidget() == m_cancel) // where it went while there was nothing else
         m_book->list()->setFocus(Qt::OtherFocusReason);
-    allowPrinting();
     m_messages.showNotices();
-}
-
-void PrintWindow::allowPrinting()
-{
-    const bool hasQueue = !m_session->destination().queue.isEmpty();
-    const bool canPrint = hasQueue && (m_task.settingsOnly || !m_task.files.isEmpty());
-    m_print->setEnabled(canPrint && !isSaving());
-    m_print->setToolTip(canPrint ? QString() : tr("There is no document or no printer to print it on"));
 }
 
 void PrintWindow::showSession()
@@ -205,9 +300,61 @@ void PrintWindow::showSession()
         connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, &m_messages,
                 &SessionMessages::checkLater);
     m_settings->setSession(m_session.get());
-    m_greyed->setSession(m_session.get());
     m_messages.setSession(m_session.get(), m_settings->history());
     m_book->setSession(m_session.get(), m_settings->history());
+}
+
+// Call before the session goes: its panels own views in the pages.
+void PrintWindow::detachSession()
+{
+    m_news.forgetChosen();
+    m_book->clear();
+    m_messages.clear();
+    m_settings->setSession(nullptr);
+}
+
+// A printer that cannot do what the task asks for is not offered without it.
+void PrintWindow::refuse(const PrintError &error)
+{
+    m_refusal = error;
+    detachSession();
+    m_session.reset();
+    m_opener.refuseTask();
+    showError(error);
+}
+
+void PrintWindow::pickPrinter(const QString &name)
+{
+    if (m_wait.isUnderWay()) {
+        m_picker->setCurrent(m_session->destination());
+        return;
+    }
+    if (m_session && name == m_session->destination().name()) {
+        if (m_opener.isBusy()) {
+            m_opener.drop();
+            stayWithPrinter();
+        }
+        return;
+    }
+    m_print->setEnabled(false);
+    m_opener.pick(name);
+}
+
+void PrintWindow::stayWithPrinter()
+{
+    m_picker->setCurrent(m_session->destination());
+    showState(State::Choosing);
+}
+
+void PrintWindow::stopWaiting()
+{
+    if (m_jobs.stop())
+        return;
+    m_opener.drop();
+    if (m_session)
+        stayWithPrinter();
+    else
+        showError({PrintError::Kind::ServerAway, tr("The print server has not answered yet.")});
 }
 
 void PrintWindow::sessionChanged()
@@ -217,56 +364,78 @@ void PrintWindow::sessionChanged()
     m_messages.showNotices();
 }
 
-void PrintWindow::answer(int index)
+void PrintWindow::allowPrinting()
 {
-    if (m_wait.isUnderWay() || isOpening()) { // assistive technology presses past what keeps input away
-        m_messages.checkWhenIdle();
-        return;
-    }
-    if (m_session)
-        m_settings->history()->endGesture();
-    if (!m_greyed->answer(index)) {
-        m_messages.answer(index);
-        return;
-    }
-    m_settings->history()->endGesture(); // a greyed choice and what it takes are one step
-    sessionChanged();
-    m_messages.check();
+    const bool can = canPrint(m_task, m_session.get());
+    m_print->setEnabled(can && m_state == State::Choosing && !m_pdf->isBusy());
+    m_print->setToolTip(can ? QString() : tr("There is no document or no printer to print it on"));
 }
 
-// What nobody needs before the window can be seen: ways to help, and what its parts say of themselves.
-void PrintWindow::showGuide()
+// The one check before a job is sent, in whichever way the user asks for it. Shows what is typed wrong.
+bool PrintWindow::mayPrint()
 {
-    if (m_guide)
+    return canPrint(m_task, m_session.get()) && isSettled() && !isDismissed() && !m_jobs.isSending() &&
+           !m_pdf->isBusy() && m_book->checkTyped();
+}
+
+void PrintWindow::print()
+{
+    if (m_state != State::Choosing || m_opener.isBusy() || !m_print->isEnabled())
         return;
-    m_guide = new GuideButtons(this);
-    connect(m_guide, &GuideButtons::findWanted, m_finder, &Finder::open);
-    connect(m_guide, &GuideButtons::helpWanted, m_help, &HelpDesk::toggle);
-    // Its place is then taken by what is waited for.
-    connect(&m_wait, &PanelWait::noticed, m_guide, &QWidget::hide);
-    connect(&m_wait, &PanelWait::ended, m_guide, [this] {
-        m_guide->setVisible(m_state == State::Choosing && !isSaving());
-        showSaving();
-    });
-    m_layout.addGuide(m_guide);
-    m_guide->setVisible(m_state == State::Choosing && !m_wait.isUnderWay());
-    for (const auto &[part, setting] : std::initializer_list<std::pair<QWidget *, QString>>{
-             {m_picker, QStringLiteral("printer")},
-             {m_settings->button(), QStringLiteral("presets")},
-             {m_book->list(), QStringLiteral("pages")},
-             {m_cancel, QStringLiteral("cancel")}})
-        part->setWhatsThis(explanationOf(setting));
-    if (!m_task.settingsOnly)
-        m_print->setWhatsThis(explanationOf(QStringLiteral("print")));
-    m_layout.arrange();
+    if (m_wait.isUnderWay()) {
+        m_wait.promise(tr("Printing follows when the printer has answered."), [this] { print(); });
+        return;
+    }
+    if (!mayPrint())
+        return;
+    m_session->save();
+    sessionChanged();
+    if (!m_messages.checkToPrint())
+        deliver();
+}
+
+void PrintWindow::deliver()
+{
+    if (m_task.settingsOnly) {
+        rememberUseLater(m_session->destination().name(), m_settings->rememberUse());
+        accept();
+        return;
+    }
+    m_jobs.send({m_documents,
+                 m_documentChoice.included(),
+                 m_task.documentName,
+                 {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
+                 m_settings->rememberUse()},
+                m_task.namesOf(m_documentChoice.included()));
+}
+
+void PrintWindow::showError(const PrintError &error)
+{
+    if (m_session) {
+        m_queue.tell(MessageQueue::Subject::Outcome, {StatusGlyph::Kind::Error, error.message, {}, {}});
+        return;
+    }
+    m_unavailable->setReason(error.message);
+    showState(State::Unavailable);
 }
 
 void PrintWindow::finishLater()
 {
     m_news.loadList();
-    checkDocuments();
+    auto *check = new DocumentCheck(this);
+    connect(check, &DocumentCheck::failed, this, [this](const PrintError &error) {
+        m_queue.tell(MessageQueue::Subject::Document, {StatusGlyph::Kind::Error, error.message, {}, {}});
+    });
+    check->start(m_task.files);
     m_book->beginPreview();
-    showGuide();
+    QList<std::pair<QWidget *, QString>> explained{{m_picker, QStringLiteral("printer")},
+                                                   {m_settings->button(), QStringLiteral("presets")},
+                                                   {m_book->list(), QStringLiteral("pages")},
+                                                   {m_cancel, QStringLiteral("cancel")}};
+    if (!m_task.settingsOnly)
+        explained.append({m_print, QStringLiteral("print")});
+    m_layout.addGuide(m_guide->addButtons(explained));
+    m_layout.arrange();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));
 }
@@ -285,40 +454,37 @@ void PrintWindow::resizeEvent(QResizeEvent *event)
     m_layout.adapt();
 }
 
-void PrintWindow::checkDocuments()
+// Escape leaves things as they are where a question is asked; only else does it close the dialog.
+void PrintWindow::keyPressEvent(QKeyEvent *event)
 {
-    m_checking.start(
-        this,
-        [files = m_task.files] {
-            PrintError error;
-            for (const QString &path : files) {
-                if (path != QLatin1String("-") && !isStream(path) && !openDocument(path, &error))
-                    break;
-            }
-            return error;
-        },
-        [this](const PrintError &error) {
-            m_documentProblem = error;
-            showDocumentProblem();
-        });
+    if (!event->matches(QKeySequence::Cancel) || !m_queue.dismiss())
+        QDialog::keyPressEvent(event);
 }
 
-void PrintWindow::showDocumentProblem()
+void PrintWindow::done(int result)
 {
-    if (!m_session || m_state != State::Choosing || !m_documentProblem)
-        return;
-    const PrintError error = std::exchange(m_documentProblem, {});
-    m_messages.showProblem(error);
+    m_wait.dismiss();
+    QDialog::done(result);
 }
 
-void PrintWindow::showError(const PrintError &error)
+// Escape and Cancel end the sending, not the dialog; when pressed again, they do not wait for its end.
+void PrintWindow::reject()
 {
-    if (m_session) {
-        m_messages.showError(error);
-        return;
-    }
-    m_unavailable->setReason(error.message);
-    showState(State::Unavailable);
+    if (m_jobs.isCancelled())
+        close();
+    else if (m_jobs.isSending())
+        stopWaiting();
+    else
+        QDialog::reject();
+}
+
+// The dialog goes at once: a job that is being sent is cancelled, and its end is awaited unseen.
+void PrintWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_jobs.leave())
+        QDialog::closeEvent(event);
+    else
+        event->accept();
 }
 
 } // namespace host

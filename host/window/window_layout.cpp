@@ -121,9 +121,10 @@ QSize WindowLayout::wantedSize(const QSize &room, bool mayGrow) const
         return {};
     const int line = m_window->fontMetrics().height();
     const int others = m_parts.picker->sizeHint().height() + m_footer->sizeHint().height() + 2;
-    const int high = m_parts.book->wantedHeight() + others;
+    const QSize page = m_parts.book->wantedSize();
+    const int high = page.height() + others;
     const bool grows = mayGrow && high <= mostLines * line;
-    return {m_parts.book->wantedWidth(), grows ? qMin(high, room.height() - spareLines * line) : 0};
+    return {page.width(), grows ? qMin(high, room.height() - spareLines * line) : 0};
 }
 
 void WindowLayout::adapt()

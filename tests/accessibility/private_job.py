@@ -21,6 +21,7 @@ EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
 class Session:
     def __init__(self, command):
         self.log = []
+        self.descriptions = []  # of what was pressed
         self.problem = "nothing happened"
         # What must have been told, and what is pressed after it. The first question was there before anybody
         # listened.
@@ -43,9 +44,11 @@ class Session:
         self.log.append(entry)
         print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
 
-    def was_announced(self, words):
-        return any(kind == "object:state-changed:showing" and role == "notification" and shown and words in name
-                   for kind, role, name, shown in self.log)
+    def times_announced(self, words):
+        """How often a screen reader says it: when a notification appears, and with what it describes."""
+        shown = sum(kind == "object:state-changed:showing" and role == "notification" and shown and words in name
+                    for kind, role, name, shown in self.log)
+        return shown + sum(words in description for description in self.descriptions)
 
     def proceed(self):
         if self.process.poll() is not None:
@@ -55,10 +58,14 @@ class Session:
         if self.steps:
             words, button = self.steps[0]
             self.problem = "not announced: %s" % words
-            if words is None or self.was_announced(words):
+            if words is None or self.times_announced(words):
                 self.problem = "there is no button %s" % button
                 if self.press(button):
                     self.steps.pop(0)
+                    if words and self.times_announced(words) > 1:
+                        self.problem = "announced %d times: %s" % (self.times_announced(words), words)
+                        self.give_up()
+                        return False
         return True
 
     def press(self, name):
@@ -67,6 +74,7 @@ class Session:
                 application, lambda a: a.getRole() == pyatspi.ROLE_PUSH_BUTTON and a.name == name and
                 a.getState().contains(pyatspi.STATE_SHOWING) and a.getState().contains(pyatspi.STATE_ENABLED))
             if found:
+                self.descriptions.append(found.description)
                 print("--- pressing %s (%s)" % (name, found.description.replace("\n", " / ")), flush=True)
                 actions = found.queryAction()
                 names = [actions.getName(i) for i in range(actions.nActions)]

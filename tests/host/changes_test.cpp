@@ -181,8 +181,8 @@ void ChangesTest::markTakesTheChangeBack()
     PrintError error; // by a standard name, as -o does
     QVERIFY(host::choose(window.session(),
                          {u"sides"_s, u"two-sided-long-edge"_s, ChosenSetting::Kind::JobOption}, &error));
+    Q_EMIT window.session()->changed();
     settle();
-    window.book()->refresh();
     QCOMPARE(marks().size(), 1);
     auto *box = find<QComboBox>(u"Duplex"_s);
     QVERIFY2(box->accessibleDescription().contains(u"“Off”"_s), qPrintable(box->accessibleDescription()));

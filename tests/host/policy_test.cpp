@@ -37,6 +37,7 @@ private Q_SLOTS:
     void saysThatItOffersNone();
     void lockedChoiceNeedsItsCode();
     void dialogShowsWhatIsLocked();
+    void lockedChoiceIsNotGivenUp();
     void panelKeepsWhatIsLocked();
     void panelHidesOptions();
 
@@ -231,6 +232,25 @@ void PolicyTest::dialogShowsWhatIsLocked()
     QVERIFY(!m_window->session()->markChoice(u"Duplex"_s, u"None"_s));
 }
 
+// A choice that only a change of what is locked would allow is not offered.
+void PolicyTest::lockedChoiceIsNotGivenUp()
+{
+    PolicyPrintSystem system(m_system, {}, lay(R"({"rules": [{"locked": {"MediaType": "Thick"}}]})"));
+    QVERIFY(showsDialog(system, m_none));
+    QTRY_VERIFY(find<platform::ChoiceBox>(u"Duplex"_s));
+    auto *duplex = find<platform::ChoiceBox>(u"Duplex"_s);
+    duplex->setFocus();
+    QTRY_VERIFY(duplex->hasFocus());
+    Q_EMIT duplex->greyedPicked(duplex->findData(u"DuplexNoTumble"_s));
+    const auto *bar = find<MessageBar>();
+    QVERIFY2(bar->text().contains(u"“Paper Type: Heavy Paper” cannot be changed."_s) &&
+                 bar->text().contains(u"Set by the administrator."_s) && bar->buttons().size() == 1,
+             qPrintable(bar->text()));
+    QVERIFY(!bar->text().contains(u"protects"_s));
+    bar->buttons().first()->click();
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick"_s);
+}
+
 // On the page of a panel that is the printer's own the control is grey; where the choice comes about all the
 // same it goes back, and the window says so.
 void PolicyTest::panelKeepsWhatIsLocked()
@@ -260,8 +280,9 @@ void PolicyTest::panelKeepsWhatIsLocked()
     QVERIFY(shows(u"These settings cannot be changed. "_s));
     QVERIFY(!session->panel(colours)->panelView()->isEnabled());
     QVERIFY(!session->markChoice(u"ColorBalanceCyan"_s, u"1"_s));
-    printButton()->click(); // without a code, which is told at first
-    printButton()->click();
+    printButton()->click(); // without a code, which is asked for
+    QVERIFY(find<MessageBar>()->text().contains(u"no code has been given"_s));
+    find<MessageBar>()->buttons().first()->click(); // print without
     QTRY_VERIFY(shows(u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s));
     QVERIFY(m_system.submitted.isEmpty());
 }

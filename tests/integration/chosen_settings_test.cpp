@@ -11,6 +11,8 @@
 
 #include <QDir>
 #include <QJsonArray>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 using namespace host;
@@ -44,7 +46,8 @@ private Q_SLOTS:
     void waysOutKeepPrivatePrinting();
     void gapsInTheProtection_data();
     void gapsInTheProtection();
-    void gapHoldsUpTheWindowOnce();
+    void windowAsksForAMissingCode_data();
+    void windowAsksForAMissingCode();
     void presetIsShownAndWhatIsDroppedTold();
     void copiesAreCollatedAsChosen_data();
     void copiesAreCollatedAsChosen();
@@ -226,18 +229,47 @@ void ChosenSettingsTest::gapsInTheProtection()
     QCOMPARE(summary.contains("12345"), words == privateJob); // shown where it protects
 }
 
-void ChosenSettingsTest::gapHoldsUpTheWindowOnce()
+void ChosenSettingsTest::windowAsksForAMissingCode_data()
 {
-    PrintWindow &window = open(u"office"_s);
-    window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
-    const int panel = window.session()->panelOfKeyword(u"PrintMode"_s);
-    window.session()->panel(panel)->keyValueObject()->setValueForKey(u"Private"_s, u"PrintMode"_s);
-    window.print();
-    QVERIFY(!window.submission());
-    QVERIFY2(window.messageBar()->text().contains(u"no code has been given"_s),
-             qPrintable(window.messageBar()->text()));
-    window.print();
-    QTRY_VERIFY(window.submission());
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("choice");
+    QTest::addColumn<QString>("anyway"); // the answer that prints without
+    QTest::newRow("private") << u"PrintMode"_s << u"Private"_s << u"Print Without Password"_s;
+    QTest::newRow("department") << u"DeptCode"_s << u"True"_s << u"Print Without Code"_s;
+}
+
+void ChosenSettingsTest::windowAsksForAMissingCode()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, choice);
+    QFETCH(QString, anyway);
+    for (const bool isGiven : {true, false}) {
+        PrintWindow &window = open(u"office"_s);
+        const int panel = window.session()->panelOfKeyword(option);
+        window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
+        window.session()->panel(panel)->keyValueObject()->setValueForKey(choice, option);
+        window.book()->showPage(0);
+        for (int i = 0; i < 2; ++i) { // each time
+            window.print();
+            QVERIFY(!window.submission());
+            const MessageBar *bar = window.messageBar();
+            QVERIFY2(bar->text().contains(u"no code has been given"_s), qPrintable(bar->text()));
+            QCOMPARE(bar->buttons().first()->text().remove(u'&'), anyway);
+            QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+            QVERIFY(window.isVisible());
+        }
+        window.print();
+        auto *field = qobject_cast<QLineEdit *>(window.focusWidget());
+        QVERIFY(field && window.book()->pages()->isAncestorOf(field));
+        if (isGiven) {
+            field->selectAll();
+            QTest::keyClicks(field, u"12345"_s);
+            window.print();
+        } else {
+            window.messageBar()->buttons().first()->click();
+        }
+        QTRY_VERIFY(window.submission());
+    }
 }
 
 void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()

@@ -42,7 +42,7 @@ HOST_ROOMS = {
     "window/pages": {"window/pages", "window/preview", "window/look"} | BELOW_WINDOW,
     "window/printers": {"window/printers", "window/look", "printing"},
     "window/jobs": {"window/jobs", "window/waiting", "window/look", "printing", "session"},
-    "window/messages": {"window/messages", "window/look", "session", "printing"},
+    "window/messages": {"window/messages", "window/look", "session", "policy", "extensions", "printing"},
     "window/presets": {"window/presets", "window/look", "session", "printing"},
     "window/guide": {"window/guide", "window/pages", "window/look", "session", "printing"},
 }

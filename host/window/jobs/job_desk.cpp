@@ -3,16 +3,23 @@
 
 #include "host/window/jobs/job_desk.h"
 
+#include "host/window/jobs/desktop_notice.h"
+#include "host/window/jobs/earlier_jobs.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/waiting/waiting_page.h"
 
+#include <QWidget>
+
+#include <utility>
+
 namespace host {
 
-JobDesk::JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QObject *parent)
-    : QObject(parent), m_waiting(waiting), m_result(result), m_sender(system, this), m_job(system, this)
+JobDesk::JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QWidget *dialog)
+    : QObject(dialog), m_system(system), m_dialog(dialog), m_waiting(waiting), m_result(result),
+      m_sender(system, this), m_follower(new JobFollower(this))
 {
     connectSender();
-    connectJob();
+    connectResult();
 }
 
 void JobDesk::connectSender()
@@ -24,24 +31,15 @@ void JobDesk::connectSender()
     connect(&m_sender, &JobSender::ended, this, &JobDesk::take);
 }
 
-void JobDesk::connectJob()
+void JobDesk::connectResult()
 {
-    connect(&m_job, &SentJob::changed, m_result, &ResultPage::showStatus);
-    connect(&m_job, &SentJob::changed, this, [this](const JobStatus &status) {
-        if (status.isFinal())
-            Q_EMIT ended();
-    });
-    connect(&m_job, &SentJob::newsCame, this,
-            [this](const JobStatus &status) { Q_EMIT newsCame(m_result->text(), status); });
-    connect(&m_job, &SentJob::changeFailed, m_result, &ResultPage::showProblem);
-    connect(&m_job, &SentJob::earlierChanged, this, [this] { m_result->showEarlier(m_job.earlierLines()); });
-    connect(&m_job, &SentJob::earlierEnded, this, &JobDesk::newsCame);
-    connect(m_result, &ResultPage::actionWanted, &m_job, &SentJob::change);
+    connect(m_follower, &JobFollower::changed, this, &JobDesk::noteStatus);
+    connect(m_result, &ResultPage::actionWanted, this, &JobDesk::change);
 }
 
 void JobDesk::send(const JobSender::Order &order, const QString &documents)
 {
-    m_printer = order.request.destination;
+    m_destination = order.request.destination;
     m_documents = documents;
     if (!m_sender.send(order))
         return;
@@ -74,26 +72,92 @@ bool JobDesk::leave()
 void JobDesk::take(const Submission &submission)
 {
     const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
-    if (!isRejected)
-        m_job.take(m_printer, submission);
-    if (m_isLeaving) {
-        Q_EMIT left(!isRejected);
-        m_sender.releaseSignals();
-        return;
+    if (!isRejected) {
+        setAside();
+        m_submission = submission;
+        m_submissionDestination = m_destination;
     }
+    if (m_isLeaving)
+        Q_EMIT left(!isRejected);
     m_sender.releaseSignals();
+    if (m_isLeaving)
+        return;
     if (isRejected)
         Q_EMIT rejected(submission.error);
     else
         showResult();
 }
 
+// The job before is followed as an earlier one.
+void JobDesk::setAside()
+{
+    m_follower->stop();
+    m_change.drop();
+    m_wasTold = false;
+    if (!m_submission || !m_submission->isAccepted())
+        return;
+    if (!m_earlier) {
+        m_earlier = new EarlierJobs(this);
+        connect(m_earlier, &EarlierJobs::changed, this,
+                [this] { m_result->showEarlier(m_earlier->lines()); });
+        connect(m_earlier, &EarlierJobs::ended, this, &JobDesk::tellElsewhere);
+    }
+    m_earlier->add(m_submission->job.id, m_submission->job.status, statusQuery());
+}
+
 void JobDesk::showResult()
 {
-    m_result->showSubmission(m_printer.displayName(), m_documents, *m_job.submission());
-    m_job.follow();
-    m_result->showEarlier(m_job.earlierLines());
+    m_result->showSubmission(m_submissionDestination.displayName(), m_documents, *m_submission);
+    if (m_submission->isAccepted() && !m_submission->job.status.isFinal())
+        m_follower->follow(statusQuery());
+    m_result->showEarlier(m_earlier ? m_earlier->lines() : QStringList());
     Q_EMIT sent();
+}
+
+JobFollower::Query JobDesk::statusQuery() const
+{
+    return [&system = m_system, destination = m_submissionDestination, id = m_submission->job.id] {
+        return system.jobStatus(destination, id);
+    };
+}
+
+void JobDesk::noteStatus(const JobStatus &status)
+{
+    if (status.state != JobStatus::State::Unknown)
+        m_submission->job.status = status;
+    m_result->showStatus(status);
+    if (status.isFinal())
+        Q_EMIT ended();
+    const bool isNews = status.isFinal() || status.needsSomebody();
+    if (!isNews)
+        m_wasTold = false;
+    else if (!std::exchange(m_wasTold, !status.isFinal()))
+        tellElsewhere(m_result->text(), status);
+}
+
+// That a job has ended, or needs the user.
+void JobDesk::tellElsewhere(const QString &text, const JobStatus &status)
+{
+    if (!m_dialog->isActiveWindow())
+        notifyDesktop(m_dialog->windowTitle(), text, status.state != JobStatus::State::Completed);
+}
+
+// One change at a time; another one is ignored meanwhile.
+void JobDesk::change(JobAction action)
+{
+    if (m_change.isPending())
+        return;
+    m_change.start(
+        this,
+        [&system = m_system, destination = m_submissionDestination, id = m_submission->job.id, action] {
+            PrintError error;
+            system.changeJob(destination, id, action, &error);
+            return error;
+        },
+        [this](const PrintError &error) {
+            m_result->showProblem(error.message);
+            m_follower->askSoon();
+        });
 }
 
 } // namespace host

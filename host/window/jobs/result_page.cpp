@@ -45,7 +45,10 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
       m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
-    makeAnnounced(this);
+    // Each by itself, so that a screen reader repeats neither when the other changes or a button gets the
+    // focus.
+    makeAnnounced(m_title);
+    makeAnnounced(m_state);
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
     large.setBold(true);
@@ -66,6 +69,7 @@ void ResultPage::buildActions()
     m_earlier = centredLabel(this);
     m_earlier->hide();
     m_problem = centredLabel(this);
+    makeAnnounced(m_problem);
     m_problem->hide();
     m_cancelJob = new DialogButton(tr("Cancel &Job"), this);
     m_hold = new DialogButton({}, this);
@@ -108,7 +112,7 @@ void ResultPage::showSubmission(const QString &printer, const QString &documents
     m_problem->hide();
     m_state->clear();
     if (submission.isAccepted()) {
-        m_title->setText(tr("Sent to “%1”").arg(m_printer));
+        showTitle(tr("Sent to “%1”").arg(m_printer));
         showStatus(job.status);
     } else {
         showUnknown(submission);
@@ -117,11 +121,23 @@ void ResultPage::showSubmission(const QString &printer, const QString &documents
 
 void ResultPage::showUnknown(const Submission &submission)
 {
-    m_title->setText(tr("Perhaps sent to “%1”").arg(m_printer));
+    showTitle(tr("Perhaps sent to “%1”").arg(m_printer));
     m_glyph->setKind(StatusGlyph::Kind::Notice);
-    m_state->setText(wrappable(submission.error.message));
+    showState(wrappable(submission.error.message));
     showActions({});
-    announce(this, text());
+}
+
+void ResultPage::showTitle(const QString &title)
+{
+    m_title->setText(title);
+    announce(m_title,
+             m_documents->text().isEmpty() ? title : title + QLatin1Char('\n') + m_documents->text());
+}
+
+void ResultPage::showState(const QString &state)
+{
+    m_state->setText(state);
+    announce(m_state, state);
 }
 
 void ResultPage::showStatus(const JobStatus &status)
@@ -132,10 +148,10 @@ void ResultPage::showStatus(const JobStatus &status)
     m_glyph->setKind(kindOf(status));
     showActions(status);
     const QString state = wrappable(sentence(status));
-    if (state != m_state->text()) {
-        m_state->setText(state);
-        announce(this, text());
-    }
+    if (state == m_state->text())
+        return;
+    m_problem->hide(); // of what the job was before
+    showState(state);
 }
 
 // Only what the job allows: one that is over, or that nobody knows of, cannot be stopped.
@@ -163,8 +179,9 @@ void ResultPage::showEarlier(const QStringList &lines)
 void ResultPage::showProblem(const QString &text)
 {
     m_problem->setText(wrappable(text));
-    m_problem->show();
-    announce(this, text);
+    m_problem->setVisible(!text.isEmpty());
+    if (!text.isEmpty())
+        announce(m_problem, text);
 }
 
 QString ResultPage::sentence(const JobStatus &status) const

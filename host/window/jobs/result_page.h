@@ -28,7 +28,7 @@ public:
     // What has become of the jobs before it, in lines; for a page that shows one.
     void showEarlier(const QStringList &lines);
     QString text() const;
-    // What could not be done to the job.
+    // Why the last action failed; empty when it did not. Goes with the next news of the job.
     void showProblem(const QString &text);
 
 Q_SIGNALS:
@@ -38,6 +38,8 @@ Q_SIGNALS:
 private:
     void buildActions();
     void showActions(const JobStatus &status);
+    void showTitle(const QString &title);
+    void showState(const QString &state);
     void showUnknown(const Submission &submission);
     QString sentence(const JobStatus &status) const;
 

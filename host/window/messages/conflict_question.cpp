@@ -3,17 +3,20 @@
 
 #include "host/window/messages/conflict_question.h"
 
+#include "host/policy/policy.h"
 #include "host/session/dialog_session.h"
 #include "host/session/protection_checks.h"
-#include "host/window/messages/message_bar.h"
 
-#include <utility>
+#include <QCoreApplication>
 
 namespace host {
 
 namespace {
 
-constexpr int firstAnswer = 0; // follows the suggestion, where there is one
+struct ConflictText
+{
+    Q_DECLARE_TR_FUNCTIONS(host::ConflictQuestion)
+};
 
 QStringList described(const QList<Conflict> &conflicts)
 {
@@ -27,82 +30,75 @@ QStringList described(const QList<Conflict> &conflicts)
     return lines;
 }
 
+// What a suggestion changes, or why there is none.
+QStringList suggestionLines(const std::optional<Resolution> &suggestion, const QString &givenUp)
+{
+    if (!givenUp.isNull())
+        return {ConflictText::tr("No way out was found that keeps “%1”: change one of the settings yourself.")
+                    .arg(givenUp)};
+    if (!suggestion)
+        return {};
+    QStringList changes;
+    for (const OptionChoice &change : *suggestion)
+        changes.append(change.text());
+    return {ConflictText::tr("Suggestion: %1").arg(changes.join(QStringLiteral(", ")))};
+}
+
+// What the printer may do to the job if it is printed all the same.
+QStringList warnings(const QList<Conflict> &conflicts, const DialogSession &session)
+{
+    QStringList lines, locks;
+    for (const Conflict &conflict : conflicts) {
+        for (const OptionChoice &side : conflict.sides) {
+            const QString locked = session.rule().lockedChoice(session.ppd(), side.option);
+            if (!locked.isNull() && locked == side.choice && !locks.contains(side.text()))
+                locks.append(side.text());
+        }
+    }
+    for (const QString &lock : std::as_const(locks))
+        lines.append(ConflictText::tr("“%1” cannot be changed. If you print anyway, the printer may print "
+                                      "without it.")
+                         .arg(lock));
+    if (!locks.isEmpty())
+        lines.append(Policy::current().attribution());
+    for (const QString &protection : protectionAtRisk(conflicts, session.protection())) {
+        if (locks.contains(protection))
+            continue;
+        lines.append(ConflictText::tr("“%1” protects your document. If you print anyway, the printer may "
+                                      "print without it.")
+                         .arg(protection));
+    }
+    return lines;
+}
+
 } // namespace
 
-ConflictQuestion::ConflictQuestion(MessageBar *bar, bool settingsOnly)
-    : m_bar(bar), m_settingsOnly(settingsOnly)
-{
-}
-
-bool ConflictQuestion::ask(const DialogSession &session, bool toPrint)
+std::optional<ConflictQuestion> conflictQuestion(const DialogSession &session,
+                                                 ConflictQuestion::Purpose purpose)
 {
     const QList<Conflict> conflicts = session.conflicts();
-    const bool couldPrint = std::exchange(m_printAnyway, -1) >= 0;
-    if (conflicts.isEmpty()) {
-        if (std::exchange(m_isAsked, false))
-            m_bar->hide();
-        return false;
-    }
-    QStringList lines = described(conflicts) + suggest(session);
-    QStringList answers;
-    if (m_suggestion)
-        answers.append(tr("App&ly Suggestion"));
-    if (toPrint || couldPrint) {
-        lines += warnings(conflicts, session);
-        m_printAnyway = static_cast<int>(answers.size());
-        answers.append(m_settingsOnly ? tr("Use An&yway") : tr("Print An&yway"));
-    }
-    answers.append(tr("Keep and Re&view"));
-    show(lines, answers);
-    return true;
-}
-
-// What is told of a way out.
-QStringList ConflictQuestion::suggest(const DialogSession &session)
-{
-    QStringList lines;
+    if (conflicts.isEmpty())
+        return std::nullopt;
+    ConflictQuestion question;
+    question.message.kind = StatusGlyph::Kind::Question;
+    question.message.title = ConflictText::tr("These settings cannot be used together");
     QString givenUp;
-    m_suggestion = session.proposal(&givenUp);
-    if (!givenUp.isNull())
-        lines.append(
-            tr("No way out was found that keeps “%1”: change one of the settings yourself.").arg(givenUp));
-    if (m_suggestion) {
-        QStringList changes;
-        for (const OptionChoice &change : *m_suggestion)
-            changes.append(change.text());
-        lines.append(tr("Suggestion: %1").arg(changes.join(QStringLiteral(", "))));
+    question.suggestion = session.proposal(&givenUp);
+    question.message.lines = described(conflicts) + suggestionLines(question.suggestion, givenUp);
+    const auto add = [&question](ConflictQuestion::Answer answer, const QString &text) {
+        question.answers.append(answer);
+        question.message.answers.append(text);
+    };
+    if (question.suggestion)
+        add(ConflictQuestion::Answer::Apply, ConflictText::tr("App&ly Suggestion"));
+    if (purpose != ConflictQuestion::Purpose::Review) {
+        question.message.lines += warnings(conflicts, session);
+        add(ConflictQuestion::Answer::PrintAnyway, purpose == ConflictQuestion::Purpose::Continue
+                                                       ? ConflictText::tr("Use An&yway")
+                                                       : ConflictText::tr("Print An&yway"));
     }
-    return lines;
-}
-
-// Of what printing all the same may cost.
-QStringList ConflictQuestion::warnings(const QList<Conflict> &conflicts, const DialogSession &session) const
-{
-    QStringList lines;
-    for (const QString &protection : protectionAtRisk(conflicts, session.protection()))
-        lines.append(tr("“%1” protects your document. If you print anyway, the printer may print without it.")
-                         .arg(protection));
-    return lines;
-}
-
-void ConflictQuestion::show(const QStringList &lines, const QStringList &answers)
-{
-    const bool isKnown = std::exchange(m_isAsked, true) && m_bar->isShowing() &&
-                         m_bar->buttons().size() == answers.size() &&
-                         m_bar->text().endsWith(lines.join(QLatin1Char('\n')));
-    if (!isKnown)
-        m_bar->showMessage(MessageBar::Kind::Question, tr("These settings cannot be used together"), lines,
-                           answers);
-}
-
-ConflictQuestion::Answer ConflictQuestion::take(int index)
-{
-    const int printAnyway = std::exchange(m_printAnyway, -1);
-    if (!std::exchange(m_isAsked, false))
-        return Answer::NotAsked;
-    if (index >= 0 && index == printAnyway)
-        return Answer::PrintAnyway;
-    return m_suggestion && index == firstAnswer ? Answer::Apply : Answer::Keep;
+    add(ConflictQuestion::Answer::Keep, ConflictText::tr("Keep and Re&view"));
+    return question;
 }
 
 } // namespace host

@@ -3,52 +3,36 @@
 
 #pragma once
 
-#include "host/printing/ppd_document.h"
-
-#include <QCoreApplication>
-#include <QString>
-#include <QStringList>
+#include "host/printing/ppd_option.h"
+#include "host/window/messages/message_bar.h"
 
 #include <optional>
 
 namespace host {
 
 class DialogSession;
-class MessageBar;
 
-// Asks in a message bar what to do about settings that cannot be used together: follow a suggestion, keep
-// them, or print all the same. The bar is borrowed, and shows other things, too.
-class ConflictQuestion
+// The question about settings that cannot be used together: follow a suggestion, print all the same, or keep
+// them. A value.
+struct ConflictQuestion
 {
-    Q_DECLARE_TR_FUNCTIONS(host::ConflictQuestion)
-public:
-    enum class Answer { NotAsked, Keep, Apply, PrintAnyway };
+    enum class Purpose {
+        Review,   // the user has changed something
+        Print,    // the user wants to print, and may all the same
+        Continue, // the same where an application prints
+    };
+    enum class Answer { Keep, Apply, PrintAnyway };
 
-    // The dialog makes settings for an application, which prints.
-    ConflictQuestion(MessageBar *bar, bool settingsOnly);
+    Message message;
+    std::optional<Resolution> suggestion; // null where there is none
+    QList<Answer> answers;                // in the order of message.answers
 
-    // Asks where there are conflicts, and where there are none takes away what was asked; what stands there
-    // already is not read out again. `toPrint` offers to print all the same, until there are none. True while
-    // there are conflicts.
-    bool ask(const DialogSession &session, bool toPrint);
-    bool isAsked() const { return m_isAsked; }
-    // The bar is wanted for something else.
-    void drop() { m_isAsked = false; }
-    // What the answer of the bar means. It is asked no more then.
-    Answer take(int index);
-    // What was suggested last, where something was.
-    const std::optional<Resolution> &suggestion() const { return m_suggestion; }
-
-private:
-    QStringList suggest(const DialogSession &session);
-    QStringList warnings(const QList<Conflict> &conflicts, const DialogSession &session) const;
-    void show(const QStringList &lines, const QStringList &answers);
-
-    MessageBar *m_bar;
-    bool m_settingsOnly;
-    bool m_isAsked = false;
-    int m_printAnyway = -1; // which answer it is; -1 where it is none
-    std::optional<Resolution> m_suggestion;
+    // What an answer of the message bar means; -1 is Keep.
+    Answer meaningOf(int answer) const { return answers.value(answer, Answer::Keep); }
 };
+
+// Asks about the conflicts of a session. Null where there are none.
+std::optional<ConflictQuestion> conflictQuestion(const DialogSession &session,
+                                                 ConflictQuestion::Purpose purpose);
 
 } // namespace host

@@ -3,17 +3,56 @@
 
 #include "host/window/messages/greyed_choices.h"
 
+#include "host/policy/policy.h"
 #include "host/session/dialog_session.h"
-#include "host/window/messages/message_bar.h"
+#include "host/window/messages/message_queue.h"
 #include "platform/choice_box.h"
 
 #include <QApplication>
 
-#include <utility>
-
 namespace host {
 
-GreyedChoices::GreyedChoices(MessageBar *bar, QWidget *window) : QObject(window), m_bar(bar), m_window(window)
+namespace {
+
+// A way that keeps every protection is a plain question; other messages warn.
+Message messageOf(const ForcedChoice &forced)
+{
+    Message message;
+    message.title = GreyedChoices::tr("“%1” is not available now").arg(forced.wanted.text());
+    if (!forced.locks.isEmpty()) {
+        for (const OptionChoice &lock : forced.locks)
+            message.lines.append(GreyedChoices::tr("“%1” cannot be changed.").arg(lock.text()));
+        message.lines.append(Policy::current().attribution());
+        return message;
+    }
+    if (!forced.isPossible()) {
+        message.lines.append(
+            GreyedChoices::tr("“%1” stands in the way, and no change was found that clears it.")
+                .arg(forced.obstacle.text()));
+        return message;
+    }
+    message.lines.append(GreyedChoices::tr("To use it, other settings have to change:"));
+    for (qsizetype i = 0; i < forced.changes.size(); ++i)
+        message.lines.append(
+            QStringLiteral("•  ") +
+            GreyedChoices::tr("%1 instead of “%2”", "an option with its choice, and another choice")
+                .arg(forced.changes.at(i).text(), forced.before.at(i).choiceText));
+    for (const QString &protection : forced.givenUp)
+        message.lines.append(
+            GreyedChoices::tr("This gives up “%1”, which protects your document.").arg(protection));
+    message.answers = {forced.givenUp.isEmpty() ? GreyedChoices::tr("Change and &Use It")
+                                                : GreyedChoices::tr("Give Up Protection and &Use It"),
+                       GreyedChoices::tr("Leave &As It Is")};
+    if (forced.givenUp.isEmpty())
+        message.kind = StatusGlyph::Kind::Question;
+    return message;
+}
+
+} // namespace
+
+GreyedChoices::GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session,
+                             QWidget *window)
+    : QObject(window), m_messages(messages), m_session(std::move(session)), m_window(window)
 {
     // A list is opened by a box that has the focus.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { watch(now); });
@@ -31,50 +70,29 @@ void GreyedChoices::watch(QWidget *now)
 
 void GreyedChoices::offer(const QString &keyword, const QString &choice)
 {
-    if (m_session && m_session->ppd())
-        ask(forcedChoice(m_session, keyword, choice));
+    if (m_session() && m_session()->ppd())
+        ask(forcedChoice(m_session(), keyword, choice));
 }
 
 void GreyedChoices::ask(const ForcedChoice &forced)
 {
-    QStringList lines;
-    QStringList answers;
-    if (forced.isPossible()) {
-        lines.append(tr("To use it, other settings have to change:"));
-        for (qsizetype i = 0; i < forced.changes.size(); ++i)
-            lines.append(QStringLiteral("•  ") +
-                         tr("%1 instead of “%2”", "an option with its choice, and another choice")
-                             .arg(forced.changes.at(i).text(), forced.before.at(i).choiceText));
-        for (const QString &protection : forced.givenUp)
-            lines.append(tr("This gives up “%1”, which protects your document.").arg(protection));
-        answers.append(forced.givenUp.isEmpty() ? tr("Change and &Use It")
-                                                : tr("Give Up Protection and &Use It"));
-        answers.append(tr("Leave &As It Is"));
-    } else {
-        lines.append(tr("“%1” stands in the way, and no change was found that clears it.")
-                         .arg(forced.obstacle.text()));
-    }
-    m_bar->showMessage(forced.isPossible() && forced.givenUp.isEmpty() ? MessageBar::Kind::Question
-                                                                       : MessageBar::Kind::Notice,
-                       tr("“%1” is not available now").arg(forced.wanted.text()), lines, answers);
-    m_offer = forced;
-    m_question = m_bar->text();
-    m_bar->takeFocus();
+    m_messages->ask(MessageQueue::Subject::GreyedChoice, messageOf(forced), [this, forced](int answer) {
+        if (answer == 0 && forced.isPossible())
+            take(forced);
+    });
+    m_messages->takeFocus();
 }
 
-bool GreyedChoices::answer(int index)
+void GreyedChoices::take(const ForcedChoice &offered)
 {
-    const auto offer = std::exchange(m_offer, std::nullopt);
-    if (!offer || m_bar->text() != m_question || !m_session)
-        return false;
-    if (index != 0 || !offer->isPossible())
-        return true;
-    const ForcedChoice now = forcedChoice(m_session, offer->wanted.option, offer->wanted.choice);
-    if (now == *offer || now.obstacle.option.isEmpty())
-        choose(m_session, now);
-    else
+    const ForcedChoice now = forcedChoice(m_session(), offered.wanted.option, offered.wanted.choice);
+    if (now != offered && !(now.obstacle.option.isEmpty() && now.locks.isEmpty())) {
         ask(now); // something else has been set since
-    return true;
+        return;
+    }
+    Q_EMIT aboutToChoose();
+    choose(m_session(), now);
+    Q_EMIT chosen();
 }
 
 } // namespace host

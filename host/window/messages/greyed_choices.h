@@ -8,39 +8,39 @@
 #include <QObject>
 #include <QString>
 
-#include <optional>
+#include <functional>
 
 class QWidget;
 
 namespace host {
 
 class DialogSession;
-class MessageBar;
+class MessageQueue;
 
-// Lets the user pick what is greyed in a list of choices, on pages of the host and of panels: the message bar
-// says what would have to change, and does it when the user agrees. A child of
-// its window; the bar is borrowed.
+// Lets the user pick what is greyed in a list of choices, on pages of the host and of panels: a question says
+// what would have to change, and the changes are made when the user agrees. A child of its window; the queue
+// is borrowed.
 class GreyedChoices : public QObject
 {
     Q_OBJECT
 public:
-    GreyedChoices(MessageBar *bar, QWidget *window);
-    // Borrowed; null while there is none.
-    void setSession(DialogSession *session) { m_session = session; }
+    // `session` gives the session that is shown; null while there is none.
+    GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session, QWidget *window);
 
-    // Takes the answer given in the message bar; false when the bar asked something else.
-    bool answer(int index);
+Q_SIGNALS:
+    // A greyed choice is about to be made, with what it takes.
+    void aboutToChoose();
+    void chosen();
 
 private:
     void watch(QWidget *now);
     void offer(const QString &keyword, const QString &choice);
     void ask(const ForcedChoice &forced);
+    void take(const ForcedChoice &offered);
 
-    MessageBar *m_bar;
+    MessageQueue *m_messages;
+    std::function<DialogSession *()> m_session;
     QWidget *m_window;
-    DialogSession *m_session = nullptr;
-    std::optional<ForcedChoice> m_offer; // what the bar asks about
-    QString m_question;                  // how it stands there
 };
 
 } // namespace host

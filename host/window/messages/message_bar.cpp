@@ -43,7 +43,6 @@ QColor mixed(const QColor &a, const QColor &b, qreal share)
 
 MessageBar::MessageBar(QWidget *parent) : QFrame(parent)
 {
-    makeAnnounced(this);
     hide();
     connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
 }
@@ -62,8 +61,10 @@ void MessageBar::build()
     m_title->setFont(bold);
     m_buttonRows->setSpacing(6);
 
-    auto *sheet = new QWidget;
-    auto *texts = new QVBoxLayout(sheet);
+    // Not the bar itself: a screen reader repeats the name of what holds a button that gets the focus.
+    m_sheet = new QWidget;
+    makeAnnounced(m_sheet);
+    auto *texts = new QVBoxLayout(m_sheet);
     texts->setContentsMargins(0, 0, 0, 0);
     texts->setSpacing(1);
     texts->addWidget(m_title);
@@ -71,9 +72,9 @@ void MessageBar::build()
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setWidget(sheet);
+    m_scroll->setWidget(m_sheet);
     m_scroll->viewport()->setAutoFillBackground(false);
-    sheet->setAutoFillBackground(false);
+    m_sheet->setAutoFillBackground(false);
     m_scroll->setMinimumWidth(100);
     m_row->setSpacing(6);
     m_row->addWidget(m_scroll, 1);
@@ -92,40 +93,58 @@ QString MessageBar::text() const
     return m_lines->isHidden() ? m_title->text() : m_title->text() + QLatin1Char('\n') + m_lines->text();
 }
 
-void MessageBar::showMessage(Kind kind, const QString &title, const QStringList &lines,
-                             const QStringList &answers)
+void MessageBar::showMessage(const Message &message)
 {
+    if (isShowing() && message == m_message)
+        return;
     if (!m_scroll)
         build();
-    m_kind = kind;
-    m_glyph->setKind(kind);
-    m_title->setText(wrappable(title));
-    m_lines->setText(wrappable(lines.join(QLatin1Char('\n'))));
-    m_lines->setToolTip(tooltipOf(lines.join(QLatin1Char('\n'))));
+    m_message = message;
+    m_glyph->setKind(message.kind);
+    const QString lines = message.lines.join(QLatin1Char('\n'));
+    m_title->setText(wrappable(message.title));
+    m_lines->setText(wrappable(lines));
+    m_lines->setToolTip(tooltipOf(lines));
     m_lines->setVisible(!lines.isEmpty());
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    const QPointer<QWidget> before = m_before;
     removeButtons();
     // A single button stands beside the text, which keeps the bar low.
-    m_row->setDirection(answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    for (qsizetype i = 0; i < answers.size(); ++i)
-        addButton(answers.at(i), static_cast<int>(i));
-    if (answers.isEmpty())
+    m_row->setDirection(message.answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    for (qsizetype i = 0; i < message.answers.size(); ++i)
+        addButton(message.answers.at(i), static_cast<int>(i));
+    if (message.answers.isEmpty())
         addButton(tr("C&lose"), -1);
-    m_buttons.first()->setAccessibleDescription(text());
-    m_scroll->setAccessibleName(text()); // a stop of the keyboard where it scrolls
-    announce(this, text());
+    announce(m_sheet, text());
     show();
     fitButtons();
     fitTexts();
     update();
     Q_EMIT buttonsChanged();
+    if (!hadFocus)
+        return;
+    takeFocus();
+    m_before = before;
+}
+
+void MessageBar::hideMessage()
+{
+    if (!isShowing())
+        return;
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
+    hide();
     if (hadFocus)
-        takeFocus();
+        giveFocusBack();
+    Q_EMIT buttonsChanged();
 }
 
 void MessageBar::removeButtons()
 {
-    qDeleteAll(m_buttons);
+    for (QPushButton *button : std::as_const(m_buttons)) { // one of them may have been pressed
+        button->hide();
+        button->setParent(nullptr);
+        button->deleteLater();
+    }
     m_buttons.clear();
     clearRows();
 }
@@ -134,14 +153,7 @@ void MessageBar::addButton(const QString &text, int index)
 {
     auto *button = new DialogButton(text, this);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
-    connect(button, &QPushButton::clicked, this, [this, index] {
-        const bool byKeyboard = isAncestorOf(QApplication::focusWidget());
-        hide();
-        if (byKeyboard)
-            giveFocusBack();
-        Q_EMIT answered(index);
-        Q_EMIT buttonsChanged();
-    });
+    connect(button, &QPushButton::clicked, this, [this, index] { Q_EMIT answered(index); });
     m_buttons.append(button);
 }
 
@@ -237,7 +249,7 @@ void MessageBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor accent = StatusGlyph::colorOf(m_kind, palette());
+    const QColor accent = StatusGlyph::colorOf(m_message.kind, palette());
     painter.setPen(mixed(accent, palette().color(QPalette::Window), 0.55));
     painter.setBrush(mixed(accent, palette().color(QPalette::Window), 0.14));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);

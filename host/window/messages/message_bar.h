@@ -18,8 +18,18 @@ class QScrollArea;
 
 namespace host {
 
-// A bar under the pages that tells something and may offer answers. Hidden until it has something to say.
-// Texts are plain text, and scroll where they are long; screen readers are told when it appears.
+// What the bar shows. A value; texts are plain text.
+struct Message
+{
+    StatusGlyph::Kind kind = StatusGlyph::Kind::Notice;
+    QString title;
+    QStringList lines;
+    QStringList answers; // become buttons; without any there is one that closes the bar
+    bool operator==(const Message &) const = default;
+};
+
+// A bar under the pages that shows a message and its answers. Hidden until then. Texts scroll where they are
+// long; a screen reader announces a message once, when it appears. MessageQueue decides what is shown.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -28,11 +38,11 @@ public:
 
     explicit MessageBar(QWidget *parent = nullptr);
 
-    // Shows a message in place of the one before. `answers` become buttons; without any there is one that
-    // closes the bar.
-    void showMessage(Kind kind, const QString &title, const QStringList &lines,
-                     const QStringList &answers = {});
-    Kind kind() const { return m_kind; }
+    // Shows a message in place of the one before; the same one stays as it is.
+    void showMessage(const Message &message);
+    // Hides the bar. The keyboard goes back to where it was before it came here.
+    void hideMessage();
+    Kind kind() const { return m_message.kind; }
     bool isShowing() const { return !isHidden(); }
     QString text() const; // title and lines, for tests and screen readers
     QList<QPushButton *> buttons() const { return m_buttons; }
@@ -42,7 +52,7 @@ public:
     void setTextLimit(int pixels);
 
 Q_SIGNALS:
-    // Which answer was pressed, or -1 for closing the bar. The bar hides itself first.
+    // Which answer was pressed, or -1 for closing the bar. The message stays.
     void answered(int index);
     // Its buttons are others than before, or gone.
     void buttonsChanged();
@@ -61,10 +71,11 @@ private:
     void noteFocus(QWidget *old, QWidget *now);
     void giveFocusBack();
 
-    Kind m_kind = Kind::Notice;
+    Message m_message;
     // Made with the first message.
     StatusGlyph *m_glyph = nullptr;
     QScrollArea *m_scroll = nullptr;
+    QWidget *m_sheet = nullptr; // holds the texts; what a screen reader announces
     QLabel *m_title = nullptr;
     QLabel *m_lines = nullptr;
     QBoxLayout *m_row = nullptr;

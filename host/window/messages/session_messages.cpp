@@ -4,15 +4,29 @@
 #include "host/window/messages/session_messages.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/protection_checks.h"
 #include "host/session/session_history.h"
-#include "host/window/messages/message_bar.h"
+#include "host/window/messages/message_queue.h"
 
 #include <utility>
 
 namespace host {
 
-SessionMessages::SessionMessages(MessageBar *bar, bool settingsOnly, std::function<bool()> isHeldUp)
-    : m_bar(bar), m_isHeldUp(std::move(isHeldUp)), m_question(bar, settingsOnly)
+namespace {
+
+using Subject = MessageQueue::Subject;
+using Purpose = ConflictQuestion::Purpose;
+
+const Protection::Secret *missingCode(const DialogSession *session)
+{
+    return session && session->ppd() ? missingCode(*session->ppd(), session->protection(), session->chosen())
+                                     : nullptr;
+}
+
+} // namespace
+
+SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp)
+    : m_messages(messages), m_settingsOnly(settingsOnly), m_isHeldUp(std::move(isHeldUp))
 {
 }
 
@@ -25,7 +39,8 @@ void SessionMessages::setSession(DialogSession *session, SessionHistory *history
 void SessionMessages::clear()
 {
     setSession(nullptr, nullptr);
-    m_question.drop();
+    m_messages->clearSession();
+    m_purpose = Purpose::Review;
     m_notices.clear();
     m_toldGap.clear();
 }
@@ -34,27 +49,97 @@ void SessionMessages::showNotices()
 {
     if (!m_session)
         return;
-    const QStringList fresh = m_session->takeNotices();
-    m_notices += fresh;
-    const bool isKnown = fresh.isEmpty() && m_bar->isShowing();
-    if (m_notices.isEmpty() || m_question.isAsked() || isKnown)
-        return;
-    m_bar->showMessage(MessageBar::Kind::Notice, tr("Please note"), m_notices);
+    m_notices += m_session->takeNotices();
+    if (!m_notices.isEmpty())
+        m_messages->tell(Subject::Notices, {StatusGlyph::Kind::Notice, tr("Please note"), m_notices, {}},
+                         [this] { m_notices.clear(); });
 }
 
-bool SessionMessages::check(bool toPrint)
+bool SessionMessages::check()
 {
     if (!m_session)
         return false;
-    const bool wasAsked = m_question.isAsked();
-    if (m_question.ask(*m_session, toPrint))
-        return true;
-    if (wasAsked)
-        showNotices();
-    return tellGap();
+    showNotices();
+    if (!missingCode(m_session))
+        m_messages->withdraw(Subject::Code);
+    return askAboutConflicts(m_purpose) || tellGap();
 }
 
-// Tells each gap once; true when it has. Who prints is held up by it that once.
+bool SessionMessages::checkToPrint()
+{
+    if (askAboutConflicts(m_settingsOnly ? Purpose::Continue : Purpose::Print)) {
+        m_messages->takeFocus();
+        return true;
+    }
+    return isCodeToBeSeenTo();
+}
+
+bool SessionMessages::askAboutConflicts(Purpose purpose)
+{
+    const auto question = conflictQuestion(*m_session, purpose);
+    m_purpose = question ? purpose : Purpose::Review;
+    if (!question) {
+        m_messages->withdraw(Subject::Conflict);
+        return false;
+    }
+    m_messages->ask(Subject::Conflict, question->message,
+                    [this, question = *question](int answer) { answerConflicts(question, answer); });
+    return true;
+}
+
+void SessionMessages::answerConflicts(const ConflictQuestion &question, int answer)
+{
+    m_purpose = Purpose::Review;
+    switch (question.meaningOf(answer)) {
+    case ConflictQuestion::Answer::Apply:
+        m_history->endGesture();
+        m_session->apply(*question.suggestion);
+        m_history->endGesture();
+        check();
+        return;
+    case ConflictQuestion::Answer::PrintAnyway:
+        if (!isCodeToBeSeenTo())
+            Q_EMIT printWanted();
+        return;
+    case ConflictQuestion::Answer::Keep:
+        return;
+    }
+}
+
+bool SessionMessages::isCodeToBeSeenTo()
+{
+    if (askForCode())
+        return true;
+    if (!tellGap())
+        return false;
+    m_messages->takeFocus();
+    return true;
+}
+
+// A job that is to be protected by a code is not sent without it unless the user says so.
+bool SessionMessages::askForCode()
+{
+    const Protection::Secret *secret = missingCode(m_session);
+    if (!secret)
+        return false;
+    const bool protects = m_session->protection().protects(secret->option, secret->choice);
+    Message question;
+    question.title = protects ? tr("Password missing") : tr("Code missing");
+    question.lines = {tr("“%1” has been chosen, but no code has been given for it.")
+                          .arg(m_session->ppd()->described(secret->option, secret->choice).text())};
+    question.answers = {m_settingsOnly ? (protects ? tr("Use Without Pass&word") : tr("Use &Without Code"))
+                        : protects     ? tr("Print Without Pass&word")
+                                       : tr("Print &Without Code"),
+                        tr("Keep and Re&view")};
+    m_messages->ask(Subject::Code, question, [this](int answer) {
+        if (answer == 0)
+            Q_EMIT printWanted();
+    });
+    Q_EMIT codeWanted(secret->options.value(0, secret->key));
+    return true;
+}
+
+// Tells of each gap once; true when it has.
 bool SessionMessages::tellGap()
 {
     const QString gap = m_session->protectionGap();
@@ -65,47 +150,15 @@ bool SessionMessages::tellGap()
     return true;
 }
 
-void SessionMessages::showError(const PrintError &error)
+bool SessionMessages::isAsking() const
 {
-    m_question.drop();
-    m_bar->showMessage(MessageBar::Kind::Error, error.message, {});
+    return m_session && (m_messages->contains(Subject::Conflict) || m_messages->contains(Subject::Code));
 }
 
-void SessionMessages::showProblem(const PrintError &problem)
-{
-    if (m_question.isAsked())
-        m_notices.append(problem.message);
-    else
-        showError(problem);
-}
-
-void SessionMessages::answer(int index)
-{
-    if (!m_session)
-        return;
-    const ConflictQuestion::Answer answer = m_question.take(index);
-    if (m_bar->kind() == MessageBar::Kind::Notice)
-        m_notices.clear();
-    if (answer == ConflictQuestion::Answer::Apply)
-        applySuggestion();
-    showNotices();
-    if (answer == ConflictQuestion::Answer::PrintAnyway && !tellGap())
-        Q_EMIT printWanted();
-}
-
-void SessionMessages::applySuggestion()
-{
-    m_history->endGesture();
-    m_session->apply(*m_question.suggestion());
-    m_history->endGesture();
-    check();
-}
-
-// What a panel has changed is marked when it is saved; until then nobody knows whether a conflict that the
-// user is asked about has gone.
+// A panel marks what it has changed when it is saved; only then is it known whether a question has gone.
 void SessionMessages::checkLater()
 {
-    if (!m_question.isAsked() || std::exchange(m_isCheckQueued, true))
+    if (!isAsking() || std::exchange(m_isCheckQueued, true))
         return;
     QMetaObject::invokeMethod(
         this,
@@ -119,7 +172,7 @@ void SessionMessages::checkLater()
 void SessionMessages::recheck()
 {
     m_isCheckDue = m_isHeldUp(); // a panel that is only half restored must not be saved
-    if (m_isCheckDue || !m_question.isAsked() || !m_session)
+    if (m_isCheckDue || !isAsking())
         return;
     m_session->save();
     Q_EMIT saved();

@@ -15,34 +15,33 @@
 namespace host {
 
 class DialogSession;
+class MessageQueue;
 class SessionHistory;
 
-// What the message bar tells of a session: conflicts, what the protection of the job lacks, what went wrong,
-// and notices, which come back until the user has closed them. Belongs to its window; the bar is borrowed.
+// What a session has to say: conflicts, a code that is missing, and notices, which come back until the user
+// has closed them. Belongs to its window; the queue is borrowed.
 class SessionMessages : public QObject
 {
     Q_OBJECT
 public:
-    // While `isHeldUp` is true, as while a panel waits, nothing is saved for the sake of a question.
-    SessionMessages(MessageBar *bar, bool settingsOnly, std::function<bool()> isHeldUp);
+    // `settingsOnly` where an application prints. While `isHeldUp` is true, as while a panel waits, no panel
+    // is saved for the sake of a question.
+    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp);
 
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
-    // Lets go of both, and of everything that was told.
+    // Detaches the session, and withdraws what was said of it.
     void clear();
 
-    // Shows what the session has to tell, unless something else is being asked.
+    // Shows what the session has to tell.
     void showNotices();
-    // Asks about conflicts, or tells once of a gap in the protection. True when something holds printing up.
-    // `toPrint` when the user wants to print now, and may all the same.
-    bool check(bool toPrint = false);
-    void showError(const PrintError &error);
-    // The same, but does not take the place of a question.
-    void showProblem(const PrintError &problem);
-    // The answer that the bar was given.
-    void answer(int index);
-    // The question may have gone: looks once nothing holds it up.
-    void checkWhenIdle() { m_isCheckDue = m_question.isAsked(); }
+    // Shows notices, asks about conflicts, and tells of a gap in the protection once. True when one of them
+    // is to be seen to first.
+    bool check();
+    // The same before a job is sent; the user may print all the same, also without a code. What is asked has
+    // the focus then.
+    bool checkToPrint();
+    // Checks what could not be checked while it was held up.
     void goOn();
 
 public Q_SLOTS:
@@ -52,19 +51,27 @@ public Q_SLOTS:
 Q_SIGNALS:
     // The session's panels have been saved.
     void saved();
-    // The user prints all the same, and nothing else holds it up.
+    // The user prints all the same.
     void printWanted();
+    // A code is missing; `key` is one of the settings that its field sets. The field is to get the focus.
+    void codeWanted(const QString &key);
 
 private:
+    bool askAboutConflicts(ConflictQuestion::Purpose purpose);
+    void answerConflicts(const ConflictQuestion &question, int answer);
+    bool isCodeToBeSeenTo();
+    bool askForCode();
     bool tellGap();
     void recheck();
-    void applySuggestion();
+    bool isAsking() const;
 
-    MessageBar *m_bar;
+    MessageQueue *m_messages;
+    bool m_settingsOnly;
     std::function<bool()> m_isHeldUp;
     DialogSession *m_session = nullptr;
     SessionHistory *m_history = nullptr;
-    ConflictQuestion m_question;
+    // What the open question about conflicts offers: printing stays on offer until there are no conflicts.
+    ConflictQuestion::Purpose m_purpose = ConflictQuestion::Purpose::Review;
     QStringList m_notices; // not yet closed by the user
     QString m_toldGap;     // in the protection of the job
     bool m_isCheckQueued = false;

@@ -25,9 +25,12 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QScopedValueRollback>
+#include <QShortcut>
 #include <QStackedWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
@@ -54,6 +57,24 @@ QString policyNote(const DialogSession &session, int panel)
     return fixed.isEmpty() ? QString()
                            : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
 }
+
+// Disables what is locked on the page of a panel, and hides what the policy hides. A choice that gets past
+// that goes back; see DialogSession.
+void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, PageFrame *frame)
+{
+    QList<QWidget *> locked, hidden;
+    for (const QString &keyword : session.panelKeywords(panel)) {
+        if (session.rule().hiddenOptions.contains(keyword))
+            hidden += marks->controlsOf(keyword);
+        else if (!session.rule().lockedChoice(session.ppd(), keyword).isNull())
+            locked += marks->controlsOf(keyword);
+    }
+    if (!locked.isEmpty())
+        new LockedControls(locked, Policy::current().attribution(), frame);
+    if (!hidden.isEmpty())
+        new HiddenControls(hidden, frame, frame);
+}
+
 // How wide the preview is, in pixels.
 constexpr int leastPreview = 160;
 constexpr int preferredPreview = 260;
@@ -61,9 +82,9 @@ constexpr int mostPreview = 420;
 
 } // namespace
 
-PageBook::PageBook(QWidget *parent)
+PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
     : QWidget(parent), m_list(new PageList(this)), m_area(new QWidget(this)),
-      m_stack(new QStackedWidget(m_area))
+      m_stack(new QStackedWidget(m_area)), m_documents(documents)
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -75,23 +96,21 @@ PageBook::PageBook(QWidget *parent)
     pages->setContentsMargins(0, 0, 0, 0);
     pages->setSpacing(0);
     pages->addWidget(m_stack, 1);
+    if (!documents->paths().isEmpty()) {
+        m_preview = new PreviewPane(documents, m_area);
+        m_preview->hide();
+        pages->addWidget(m_preview);
+    }
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
+    for (const auto &[key, steps] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}})
+        connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this,
+                [this, steps = steps] { turn(steps); });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { followFocus(now); });
 }
 
 PageBook::~PageBook()
 {
     clear(); // panels own their views
-}
-
-void PageBook::setDocuments(DocumentChoice *documents)
-{
-    m_documents = documents;
-    if (documents->paths().isEmpty())
-        return;
-    m_preview = new PreviewPane(documents, m_area);
-    m_preview->hide();
-    m_area->layout()->addWidget(m_preview);
 }
 
 void PageBook::beginPreview()
@@ -102,17 +121,15 @@ void PageBook::beginPreview()
     m_preview->begin(PageTools::installed());
 }
 
-bool PageBook::isGeneral() const
+// The list has the width of its names, but leaves the pages the larger part of a narrow window. The preview
+// stands beside the general page, where there is room for both.
+void PageBook::fitParts()
 {
-    return m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == generalName;
-}
-
-// Beside the general page, where there is room for both.
-void PageBook::fitPreview()
-{
+    const int least = m_list->minimumSizeHint().width();
+    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
     if (!m_preview)
         return;
-    const int room = isGeneral() ? width() - wantedWidth() + preferredPreview : 0;
+    const int room = currentName() == generalName ? width() - wantedSize().width() + preferredPreview : 0;
     m_preview->setVisible(room >= leastPreview);
     if (room >= leastPreview)
         m_preview->setFixedWidth(qMin(room, mostPreview));
@@ -130,6 +147,7 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     clear();
     m_session = session;
     m_history = history;
+    connect(session, &DialogSession::blockingBegan, this, &PageBook::showWaiting, Qt::UniqueConnection);
     addPage(tr("General"), generalName);
     const Policy::Rule &rule = session->rule();
     const auto hidesAll = [&rule](const QStringList &keywords) {
@@ -145,21 +163,13 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     if (!hidesAll(session->otherKeywords()))
         addPage(tr("More Options"), moreName);
     addPage(tr("Summary"), summaryName);
-    fitList();
-}
-
-// The list has the width of its names, but leaves the pages the larger part of a narrow window.
-void PageBook::fitList()
-{
-    const int least = m_list->minimumSizeHint().width();
-    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
+    fitParts();
 }
 
 void PageBook::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    fitList();
-    fitPreview();
+    fitParts();
 }
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
@@ -174,28 +184,12 @@ void PageBook::makeFrame(Page *page)
     QWidget *content = contentOf(*page);
     content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
-    connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitPreview);
+    connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitParts);
     if (page->name != summaryName)
         page->marks = new ChangeMarks(content, page->panel, m_session, m_history);
     if (page->panel >= 0)
-        lockControls(*page);
+        lockControls(*m_session, page->panel, page->marks, page->frame);
     m_stack->addWidget(page->frame);
-}
-
-// A choice that gets past that goes back; see DialogSession.
-void PageBook::lockControls(const Page &page)
-{
-    QList<QWidget *> locked, hidden;
-    for (const QString &keyword : m_session->panelKeywords(page.panel)) {
-        if (m_session->rule().hiddenOptions.contains(keyword))
-            hidden += page.marks->controlsOf(keyword);
-        else if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
-            locked += page.marks->controlsOf(keyword);
-    }
-    if (!locked.isEmpty())
-        new LockedControls(locked, Policy::current().attribution(), page.frame);
-    if (!hidden.isEmpty())
-        new HiddenControls(hidden, page.frame, page.frame);
 }
 
 QWidget *PageBook::contentOf(const Page &page)
@@ -225,23 +219,24 @@ QWidget *PageBook::contentOf(const Page &page)
     return m_summary;
 }
 
+// Removing a page makes another one current and lays out the window: by then this knows of no page.
 void PageBook::clear()
 {
-    const QSignalBlocker quiet(m_list);
-    m_list->clear();
-    for (const Page &page : m_pages) {
-        delete page.marks;
-        if (page.panel >= 0 && page.frame)
-            page.frame->releaseContent();
-        delete page.frame;
-    }
-    m_pages.clear();
+    const std::vector<Page> pages = std::exchange(m_pages, {});
     m_session = nullptr;
     m_history = nullptr;
     m_current = -1;
     m_general = nullptr;
     m_more = nullptr;
     m_summary = nullptr;
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const Page &page : pages) {
+        delete page.marks;
+        if (page.panel >= 0 && page.frame)
+            page.frame->releaseContent();
+        delete page.frame;
+    }
 }
 
 int PageBook::pageNamed(const QString &name) const
@@ -253,11 +248,6 @@ int PageBook::pageNamed(const QString &name) const
                p.title.compare(name, Qt::CaseInsensitive) == 0;
     });
     return page == m_pages.end() ? -1 : static_cast<int>(page - m_pages.begin());
-}
-
-QString PageBook::currentName() const
-{
-    return m_current < 0 ? QString() : m_pages[static_cast<size_t>(m_current)].name;
 }
 
 const PageBook::Page *PageBook::pageAt(int row) const
@@ -284,33 +274,47 @@ void PageBook::showPage(int row)
 {
     if (row == m_current && builtPage(row))
         m_stack->setCurrentWidget(builtPage(row));
-    if (row < 0 || row == m_current || row >= static_cast<int>(m_pages.size()))
+    if (!pageAt(row) || row == m_current)
         return;
     QWidget *const focus = window()->focusWidget();
     const bool wasOnPage = focus && m_stack->isAncestorOf(focus);
-    const bool allowed = leave();
+    const bool allowed = !m_isPreparing && leave();
     const QSignalBlocker quiet(m_list);
-    m_list->setCurrentRow(allowed ? row : m_current); // before a panel that may make the user wait
+    m_list->setCurrentRow(allowed ? row : m_current);
     if (!allowed)
         return;
     Page &page = m_pages[static_cast<size_t>(row)];
     const bool isBuilt = page.frame;
     if (!isBuilt)
         makeFrame(&page);
-    if (page.panel >= 0) {
-        m_session->prepare(page.panel);
-        m_session->panel(page.panel)->willShow();
-    }
     m_current = row;
-    if (isBuilt)
-        refresh();
-    m_stack->setCurrentWidget(page.frame);
+    m_stack->setCurrentWidget(page.frame); // before a panel that may ask its device
     page.frame->scrollToTop();
     if (wasOnPage) // it would go to whatever comes next
         m_list->setFocus();
-    fitPreview();
+    if (page.panel >= 0)
+        prepare(page);
+    if (isBuilt)
+        refresh();
+    fitParts();
     Q_EMIT shown();
     showChanges();
+}
+
+// What happens until the panel is ready is no change by the user.
+void PageBook::prepare(const Page &page)
+{
+    const auto paused = m_history->pause();
+    const QScopedValueRollback<bool> preparing(m_isPreparing, true);
+    m_session->prepare(page.panel);
+    m_session->panel(page.panel)->willShow();
+    page.frame->setWaiting({});
+}
+
+void PageBook::showWaiting(const QString &what)
+{
+    if (m_isPreparing && m_current >= 0)
+        m_pages[static_cast<size_t>(m_current)].frame->setWaiting(what);
 }
 
 bool PageBook::leave()
@@ -379,6 +383,8 @@ void PageBook::openViewOf(QWidget *control)
 
 void PageBook::leadTo(const QString &key)
 {
+    if (!m_session) // a link of a summary that has gone
+        return;
     const int row = rowOf(key);
     showPage(row);
     if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
@@ -398,22 +404,13 @@ void PageBook::turn(int steps)
         showPage(std::clamp(m_current + steps, 0, static_cast<int>(m_pages.size()) - 1));
 }
 
-int PageBook::wantedWidth() const
+QSize PageBook::wantedSize() const
 {
-    const PageFrame *frame = m_current < 0 ? nullptr : m_pages[static_cast<size_t>(m_current)].frame;
-    const int preview = m_preview && isGeneral() ? preferredPreview : 0;
-    return frame ? m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview : 0;
-}
-
-int PageBook::wantedHeight() const
-{
-    const QWidget *frame = builtPage(m_current);
-    return frame ? static_cast<const PageFrame *>(frame)->wantedHeight() : 0;
-}
-
-QWidget *PageBook::pages() const
-{
-    return m_area;
+    const PageFrame *frame = pageAt(m_current) ? pageAt(m_current)->frame : nullptr;
+    if (!frame)
+        return {0, 0};
+    const int preview = m_preview && currentName() == generalName ? preferredPreview : 0;
+    return {m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview, frame->wantedHeight()};
 }
 
 void PageBook::followFocus(QWidget *now)

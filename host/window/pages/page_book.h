@@ -22,69 +22,58 @@ class PreviewPane;
 class SessionHistory;
 class SummaryPage;
 
-// The pages of a session and the list to choose one from: the general pane, the panels, the other options,
-// the summary. Restores a panel before it is first shown, and saves when a page is left. The session is
-// borrowed; the pages go, and part from the panels' views, before it.
+// The pages of a session and the list to choose one from. Builds a page when it is first shown, restores its
+// panel then, and saves when a page is left. Documents, session and history are borrowed; call clear() before
+// the session goes, since its panels own their views.
 class PageBook : public QWidget
 {
     Q_OBJECT
 public:
-    explicit PageBook(QWidget *parent);
+    PageBook(DocumentChoice *documents, QWidget *parent);
     ~PageBook() override;
 
-    // What is printed, for the general page and a preview beside it; borrowed. Before the first session.
-    void setDocuments(DocumentChoice *documents);
     // Starts the preview, once the window can be seen.
     void beginPreview();
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
-    // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
 
     // The row of a page by name: "general", "more", "summary", a panel's kind, its last part, or its title;
     // -1 when there is none.
     int pageNamed(const QString &name) const;
-    int currentRow() const { return m_current; }
-    // Of the page that is shown, for pageNamed(); empty when none is.
-    QString currentName() const;
-    // Of a page, for pageNamed(), and as the user reads it. Empty for no page.
+    int currentRow() const { return m_current; } // -1 for none
+    // For pageNamed(); empty for no page.
+    QString currentName() const { return nameOf(m_current); }
     QString nameOf(int row) const;
-    QString titleOf(int row) const;
+    QString titleOf(int row) const; // as the user reads it
     // What has been built of a page so far; null before it is first shown.
     QWidget *builtPage(int row) const;
-    // Stays where it is when the current page must not be left. What is shown over the page goes.
+    // Shows a page, unless the current one must not be left. While its panel asks a device, it is disabled.
     void showPage(int row);
+    // Moves `steps` pages on, as far as there are any.
+    void turn(int steps);
     // Brings every page to what the session holds now.
     void refresh();
     // Marks what has changed.
     void showChanges();
-    // Makes a control of the current page visible that is in a view of its panel that is not open.
+    // Opens the view of the current panel that holds a control.
     void openViewOf(QWidget *control);
     // Shows the control of a setting, or at least its page, and gives it the focus.
     void leadTo(const QString &key);
-    // Moves `steps` pages on, as far as there are any.
-    void turn(int steps);
-    // How wide it must be to show the current page without scrolling sideways.
-    int wantedWidth() const;
-    int wantedHeight() const;
+    // Pixels that show the current page without scrolling; 0 × 0 without a page.
+    QSize wantedSize() const;
     PageList *list() const { return m_list; }
-    // What shows one page at a time.
-    QStackedWidget *stack() const { return m_stack; }
-    // What holds the pages, and the preview beside them.
-    QWidget *pages() const;
+    QStackedWidget *stack() const { return m_stack; } // shows one page at a time
+    QWidget *pages() const { return m_area; }         // holds the stack, and the preview beside it
 
-    // Whether what is typed on the general page makes sense; shows the place where it does not.
+    // Whether what has been typed makes sense; shows the place where it does not.
     bool checkTyped();
 
 Q_SIGNALS:
-    // A page has been left, and its settings saved.
-    void left();
-    // A page is shown.
+    void left(); // and saved
     void shown();
-    // The user chose something that is marked at once.
-    void chosen();
-    // The page that is shown has got more controls.
-    void grown();
+    void chosen(); // by the user, and marked at once
+    void grown();  // the page that is shown has got more controls
     void savePdfWanted();
 
 protected:
@@ -96,19 +85,18 @@ private:
         QString title;
         QString name;
         int panel = -1;
-        PageFrame *frame = nullptr;   // made when the page is first shown
-        ChangeMarks *marks = nullptr; // with it
+        PageFrame *frame = nullptr;   // null until the page is first shown
+        ChangeMarks *marks = nullptr; // null until then, and for the summary
     };
     void addPage(const QString &title, const QString &name, int panel = -1);
     void makeFrame(Page *page);
     QWidget *contentOf(const Page &page);
-    void lockControls(const Page &page);
     const Page *pageAt(int row) const;
     bool leave();
+    void prepare(const Page &page);
+    void showWaiting(const QString &what);
     void followFocus(QWidget *now);
-    void fitList();
-    bool isGeneral() const;
-    void fitPreview();
+    void fitParts();
     void updatePreview();
     int rowOf(const QString &key) const;
     void showSummary();
@@ -117,6 +105,7 @@ private:
     SessionHistory *m_history = nullptr;
     std::vector<Page> m_pages;
     int m_current = -1;
+    bool m_isPreparing = false;
     PageList *m_list;
     QWidget *m_area;
     QStackedWidget *m_stack;

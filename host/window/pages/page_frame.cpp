@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -99,6 +101,21 @@ void PageFrame::scrollToTop()
 {
     m_scroll->verticalScrollBar()->setValue(0);
     m_scroll->horizontalScrollBar()->setValue(0);
+}
+
+void PageFrame::setWaiting(const QString &text)
+{
+    if (!m_waiting && !text.isNull()) {
+        m_waiting = noteLabel(text, this);
+        static_cast<QVBoxLayout *>(m_scroll->widget()->layout())->insertWidget(1, m_waiting);
+        m_waiting->show(); // and laid out now: the window is painted before events are handled
+        m_scroll->widget()->layout()->activate();
+        m_wasEnabled = m_content->isEnabled();
+        m_content->setEnabled(false);
+    } else if (m_waiting && text.isNull()) {
+        delete std::exchange(m_waiting, nullptr);
+        m_content->setEnabled(m_wasEnabled);
+    }
 }
 
 void PageFrame::reveal(QWidget *control)

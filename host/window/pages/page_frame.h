@@ -7,6 +7,8 @@
 #include <QScrollArea>
 #include <QWidget>
 
+class QLabel;
+
 namespace host {
 
 // One page of the dialog: a heading, a note where there is one, and what is below them, which scrolls where
@@ -25,6 +27,8 @@ public:
     // How high it is where nothing scrolls.
     int wantedHeight() const;
     void scrollToTop();
+    // Says above the content what is awaited, and disables the content until `text` is null.
+    void setWaiting(const QString &text);
     // Brings a control of the page into view.
     void reveal(QWidget *control);
 
@@ -38,6 +42,8 @@ protected:
 private:
     QScrollArea *m_scroll;
     QPointer<QWidget> m_content;
+    QLabel *m_waiting = nullptr; // null unless something is awaited
+    bool m_wasEnabled = true;    // the content, before that
 };
 
 } // namespace host

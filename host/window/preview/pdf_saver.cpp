@@ -6,11 +6,15 @@
 #include "platform/background.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace host {
 
 namespace {
+
+constexpr std::chrono::milliseconds noticeable(300);
 
 // A job's title as the name of a file: it must not lead into another folder or be hidden, and it has to fit.
 QString fileNameFor(QString title)
@@ -26,12 +30,19 @@ QString fileNameFor(QString title)
     return (title.isEmpty() ? PdfSaver::tr("Document") : title) + QStringLiteral(".pdf");
 }
 
+QString suggestedTitle(const QString &title, const QStringList &paths)
+{
+    return title.isEmpty() && paths.value(0) != QLatin1String("-")
+               ? QFileInfo(paths.value(0)).completeBaseName()
+               : title;
+}
+
 } // namespace
 
 PdfSaver::PdfSaver(QWidget *window) : QObject(window), m_window(window) {}
 
 void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths,
-                    const PageSettings &settings, const QString &suggestedName)
+                    const QString &title, const PageSettings &settings)
 {
     if (m_isBusy)
         return;
@@ -42,7 +53,7 @@ void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStrin
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before a file is replaced
     dialog->setDefaultSuffix(QStringLiteral("pdf"));
-    dialog->selectFile(fileNameFor(suggestedName));
+    dialog->selectFile(fileNameFor(suggestedTitle(title, paths)));
     connect(dialog, &QFileDialog::fileSelected, this,
             [this, paths, settings](const QString &path) { write(paths, settings, path); });
     dialog->open();
@@ -54,6 +65,10 @@ void PdfSaver::write(const QStringList &paths, const PageSettings &settings, con
         return;
     m_isBusy = true;
     Q_EMIT began();
+    QTimer::singleShot(noticeable, this, [this] {
+        if (m_isBusy)
+            Q_EMIT delayed();
+    });
     platform::startBeside(
         this,
         [documents = m_documents, paths] {

@@ -20,13 +20,16 @@ class PdfSaver : public QObject
 public:
     explicit PdfSaver(QWidget *window);
 
-    // Opens the paths in the list, which nobody else touches from began() to ended().
-    void save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths,
-              const PageSettings &settings, const QString &suggestedName);
+    // Asks for a name and opens the paths in the list. `title` is suggested as the name; where it is empty,
+    // the first file's name is.
+    void save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths, const QString &title,
+              const PageSettings &settings);
     bool isBusy() const { return m_isBusy; }
 
 Q_SIGNALS:
     void began();
+    // It takes longer than a user notices.
+    void delayed();
     // With no error when the file has been written.
     void ended(const host::PrintError &error, const QString &path);
 

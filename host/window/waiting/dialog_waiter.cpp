@@ -216,9 +216,13 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
         return false;
     const auto *key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event) : nullptr;
     if (key && key->key() == Qt::Key_Escape) {
+        Q_EMIT escaped();
         giveUp();
         return true;
     }
+    const bool isReturn = key && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
+    if (isReturn && !key->isAutoRepeat() && !isOpen(watched))
+        Q_EMIT acceptWanted();
     if (key && isTab(*key)) {
         step(key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
         return true;

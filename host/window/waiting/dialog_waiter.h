@@ -42,6 +42,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     // Once an activity, when the first of its calls has taken longer than a person notices.
     void waitingNoticed();
+    // The user has pressed Return or Enter in a part that input does not reach.
+    void acceptWanted();
+    // The user has given up with Escape.
+    void escaped();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -11,16 +11,20 @@
 #include <QEventLoop>
 #include <QTimer>
 
+#include <utility>
+
 namespace host {
 
-PanelWait::PanelWait(QDialog *dialog, QWidget *wayOut)
+PanelWait::PanelWait(QDialog *dialog, const QList<QWidget *> &openParts)
     : m_dialog(dialog), m_sign(new WaitSign(dialog)), m_waiter(std::make_shared<DialogWaiter>(dialog)),
       m_scope(m_waiter)
 {
-    m_waiter->setOpenParts({m_sign, wayOut});
+    m_waiter->setOpenParts(QList<QWidget *>{m_sign} + openParts);
     connect(m_sign, &WaitSign::stopped, this, &PanelWait::giveUp);
     connect(m_waiter.get(), &DialogWaiter::waitingNoticed, m_sign, &WaitSign::offerStop);
-    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, this, &PanelWait::noticed);
+    connect(m_waiter.get(), &DialogWaiter::waitingNoticed, this, [this] { Q_EMIT signShown(true); });
+    connect(m_waiter.get(), &DialogWaiter::acceptWanted, this, &PanelWait::acceptWanted);
+    connect(m_waiter.get(), &DialogWaiter::escaped, this, [this] { m_then = nullptr; });
 }
 
 PanelWait::~PanelWait() = default;
@@ -56,14 +60,42 @@ void PanelWait::end()
         return;
     m_waiter->endActivity();
     m_sign->end();
-    Q_EMIT ended();
+    showActivity();
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (!isUnderWay())
-                Q_EMIT panelReturned();
+            if (isUnderWay())
+                return;
+            Q_EMIT panelReturned();
+            const auto then = std::exchange(m_then, nullptr);
+            if (then && !m_isDismissed)
+                then();
         },
         Qt::QueuedConnection);
+}
+
+void PanelWait::setActivity(const QString &what)
+{
+    m_activity = what;
+    if (isUnderWay())
+        return;
+    m_sign->end();
+    showActivity();
+}
+
+void PanelWait::showActivity()
+{
+    if (!m_activity.isNull()) {
+        m_sign->begin(m_activity);
+        m_sign->showMoving();
+    }
+    Q_EMIT signShown(!m_activity.isNull());
+}
+
+void PanelWait::promise(const QString &what, std::function<void()> then)
+{
+    if (!std::exchange(m_then, std::move(then)))
+        m_sign->addNote(what);
 }
 
 void PanelWait::giveUp()

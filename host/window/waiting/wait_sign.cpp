@@ -73,6 +73,12 @@ void WaitSign::offerStop()
     showMoving();
 }
 
+void WaitSign::addNote(const QString &note)
+{
+    m_text->setText(m_text->text() + QLatin1Char('\n') + note);
+    announce(this, note);
+}
+
 void WaitSign::end()
 {
     if (std::exchange(m_isShowing, false))

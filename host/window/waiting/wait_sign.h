@@ -23,6 +23,8 @@ public:
     // In place of what was shown before. Ends with the next end().
     void begin(const QString &what);
     void end();
+    // Says something more, until end().
+    void addNote(const QString &note);
     // That it goes on.
     void showMoving();
 

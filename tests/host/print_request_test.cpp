@@ -1,0 +1,386 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/jobs/result_page.h"
+#include "host/window/messages/message_bar.h"
+#include "host/window/pages/document_box.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/printers/printer_picker.h"
+#include "host/window/waiting/waiting_page.h"
+#include "platform/choice_box.h"
+#include "tests/host/window_fixture.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSemaphore>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <sys/stat.h>
+
+using namespace host;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Opens a printer's PPD no sooner than it is let.
+class GatedPrintSystem : public FakePrintSystem
+{
+public:
+    std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override
+    {
+        if (destination.queue == gated)
+            gate.acquire();
+        return FakePrintSystem::ppd(destination, error);
+    }
+    QString gated; // queue
+    QSemaphore gate;
+};
+
+} // namespace
+
+// What the window checks, asks and remembers between the wish to print and the job, and what it says of both.
+class PrintRequestTest : public WindowFixture
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init()
+    {
+        reset();
+        m_release = std::make_shared<QSemaphore>();
+    }
+    void cleanup() { m_window.reset(); }
+    void everyWayToPrintIsChecked_data();
+    void everyWayToPrintIsChecked();
+    void nothingIsPrintedWhileAPdfIsSaved();
+    void printingFollowsAWait_data();
+    void printingFollowsAWait();
+    void escapeLeavesThingsAsTheyAre_data();
+    void escapeLeavesThingsAsTheyAre();
+    void earlierJobCounts();
+    void pdfResultWaitsForThePages();
+    void failedActionGoesWithTheNextNews();
+    void pagesGoWhileTheyAreLaidOut();
+
+private:
+    void makeConflict()
+    {
+        m_window->session()->markChoice(u"ColorType"_s, u"Mono"_s);
+        m_window->session()->markChoice(u"Cyan"_s, u"2"_s);
+    }
+    // A panel that blocks when it is restored, until `m_release` is released or the user gives up.
+    FakePanel *addSlowPanel();
+    bool pressIn(MessageBar *bar, const QString &text) const;
+    void beginSaving(const QString &target);
+
+    std::shared_ptr<QSemaphore> m_release;
+};
+
+FakePanel *PrintRequestTest::addSlowPanel()
+{
+    DialogSession *session = m_window->session();
+    auto made = std::make_unique<FakePanel>(u"Colour"_s, QStringList(u"ColorType"_s), session);
+    FakePanel *panel = made.get();
+    new QLineEdit(panel->panelView());
+    panel->onRestore = [session, release = m_release] {
+        session->willBlock(u"Asking the printer…"_s);
+        platform::Background::call([release] { release->acquire(); });
+        session->didBlock();
+    };
+    platform::PrintDialogPanels panels;
+    panels.push_back(std::move(made));
+    session->adoptPanels(std::move(panels));
+    m_window->showSession();
+    m_window->book()->showPage(0);
+    return panel;
+}
+
+bool PrintRequestTest::pressIn(MessageBar *bar, const QString &text) const
+{
+    for (QPushButton *button : bar->buttons()) {
+        if (button->text().remove(u'&') == text) {
+            button->click();
+            return true;
+        }
+    }
+    return false;
+}
+
+void PrintRequestTest::everyWayToPrintIsChecked_data()
+{
+    QTest::addColumn<bool>("anyway");
+    QTest::addColumn<QString>("range"); // null where no document is ticked instead
+    for (const bool anyway : {false, true}) {
+        const QByteArray way = anyway ? "Print Anyway, " : "Print, ";
+        QTest::newRow(way + "nonsense") << anyway << u"3-1"_s;
+        QTest::newRow(way + "empty range") << anyway << u""_s;
+        QTest::newRow(way + "no document") << anyway << QString();
+    }
+}
+
+void PrintRequestTest::everyWayToPrintIsChecked()
+{
+    QFETCH(bool, anyway);
+    QFETCH(QString, range);
+    PrintTask task;
+    task.files = {m_document.fileName(), m_document.fileName()};
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    settle();
+    if (anyway) {
+        makeConflict();
+        printButton()->click();
+        QVERIFY(m_window->messageBar()->isShowing());
+    }
+    if (range.isNull()) {
+        auto *documents = find<DocumentBox>();
+        for (int row = 0; row < documents->count(); ++row)
+            documents->item(row)->setCheckState(Qt::Unchecked);
+    } else {
+        for (auto *radio : m_window->findChildren<QRadioButton *>())
+            radio->click();
+        QTest::keyClicks(m_window->findChildren<QLineEdit *>().last(), range);
+    }
+    if (anyway)
+        QVERIFY(pressIn(m_window->messageBar(), u"Print Anyway"_s));
+    else
+        printButton()->click();
+    settle();
+    QVERIFY(m_system.submitted.isEmpty());
+    QVERIFY(m_window->book()->isVisible());
+}
+
+void PrintRequestTest::beginSaving(const QString &target)
+{
+    Q_EMIT m_window->book()->savePdfWanted();
+    auto *dialog = find<QFileDialog>();
+    QVERIFY(dialog);
+    Q_EMIT dialog->fileSelected(target);
+    dialog->reject();
+}
+
+void PrintRequestTest::nothingIsPrintedWhileAPdfIsSaved()
+{
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(u"pipe"_s);
+    QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+    PrintTask task;
+    task.files = {pipe};
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    makeConflict();
+    printButton()->click();
+    beginSaving(folder.filePath(u"saved.pdf"_s));
+    QVERIFY(pressIn(m_window->messageBar(), u"Print Anyway"_s));
+    QVERIFY(m_window->book()->isVisible() && !find<WaitingPage>()->isVisible());
+    QFile writer(pipe);
+    QVERIFY(writer.open(QIODevice::WriteOnly) && writer.write("some text\n") > 0);
+    writer.close();
+    QTRY_VERIFY(printButton()->isEnabled());
+    settle();
+    QVERIFY(m_system.submitted.isEmpty());
+}
+
+enum class Way { Click, Return, Shortcut };
+enum class End { Answer, DoNotWait, Escape };
+Q_DECLARE_METATYPE(Way)
+Q_DECLARE_METATYPE(End)
+
+void PrintRequestTest::printingFollowsAWait_data()
+{
+    QTest::addColumn<Way>("way");
+    QTest::addColumn<End>("end");
+    QTest::newRow("click, answered") << Way::Click << End::Answer;
+    QTest::newRow("Return, answered") << Way::Return << End::Answer;
+    QTest::newRow("Ctrl+P, answered") << Way::Shortcut << End::Answer;
+    QTest::newRow("click, not waited for") << Way::Click << End::DoNotWait;
+    QTest::newRow("Return, taken back") << Way::Return << End::Escape;
+}
+
+void PrintRequestTest::printingFollowsAWait()
+{
+    QFETCH(Way, way);
+    QFETCH(End, end);
+    PrintWindow &window = open();
+    FakePanel *panel = addSlowPanel();
+    window.book()->list()->setFocus();
+    bool seen = false;
+    QTimer::singleShot(0, &window, [&] {
+        // The panel's page is there at once, says what it waits for, and cannot be worked.
+        QVERIFY(panel->panelView()->isVisible() && !panel->panelView()->isEnabled());
+        const auto labels = window.book()->findChildren<QLabel *>();
+        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->isVisible() && label->text() == u"Asking the printer…"_s;
+        }));
+        for (int i = 0; i < 2; ++i) { // an impatient user prints once
+            if (way == Way::Click)
+                QTest::mouseClick(printButton(), Qt::LeftButton);
+            else if (way == Way::Return)
+                QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+            else
+                QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+        }
+        const auto signs = window.findChildren<QLabel *>();
+        QVERIFY(std::any_of(signs.begin(), signs.end(), [](const QLabel *label) {
+            return label->text().endsWith(u"Printing follows when the printer has answered."_s);
+        }));
+        QVERIFY(m_system.submitted.isEmpty());
+        QVERIFY(!window.isSettled()); // for a picture
+        seen = true;
+        if (end == End::Answer)
+            m_release->release();
+        else if (end == End::Escape)
+            QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+        else
+            QTRY_VERIFY(([&] {
+                for (auto *button : window.findChildren<QPushButton *>()) {
+                    if (button->isVisible() && button->text().remove(u'&') == u"Do Not Wait"_s) {
+                        button->click();
+                        return true;
+                    }
+                }
+                return false;
+            })());
+    });
+    QTimer::singleShot(10'000, &window, [this] { m_release->release(); }); // where a check has failed
+    window.book()->showPage(1);
+    m_release->release();
+    settle();
+    QVERIFY(seen);
+    QVERIFY(panel->panelView()->isEnabled());
+    QCOMPARE(m_system.submitted.size(), end == End::Escape ? 0 : 1);
+}
+
+void PrintRequestTest::escapeLeavesThingsAsTheyAre_data()
+{
+    QTest::addColumn<bool>("greyed");
+    QTest::newRow("conflict") << false;
+    QTest::newRow("greyed choice") << true;
+}
+
+void PrintRequestTest::escapeLeavesThingsAsTheyAre()
+{
+    QFETCH(bool, greyed);
+    PrintWindow &window = open();
+    if (greyed) {
+        choose(u"MediaType"_s, u"Thick"_s);
+        auto *duplex = find<platform::ChoiceBox>(u"Duplex"_s);
+        duplex->setFocus();
+        Q_EMIT duplex->greyedPicked(duplex->findData(u"DuplexNoTumble"_s));
+    } else {
+        makeConflict();
+        printButton()->click();
+    }
+    QVERIFY(window.messageBar()->isShowing());
+    const auto conflicts = window.session()->conflicts().size();
+    QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+    QVERIFY(window.isVisible() && !window.messageBar()->isShowing());
+    QCOMPARE(window.session()->conflicts().size(), conflicts);
+    QVERIFY(!greyed || window.session()->ppd()->markedChoice(u"MediaType"_s) == u"Thick"_s);
+    QVERIFY(m_system.submitted.isEmpty());
+    QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
+}
+
+// A job that is printed once more, and rejected then, takes nothing from the first one.
+void PrintRequestTest::earlierJobCounts()
+{
+    PrintWindow &window = open();
+    printButton()->click();
+    settle();
+    m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
+    Q_EMIT find<ResultPage>()->printAgainWanted();
+    settle();
+    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
+    window.reject();
+    QVERIFY(window.submission() && window.submission()->isAccepted());
+    QCOMPARE(window.submission()->job.id, 1);
+}
+
+void PrintRequestTest::pdfResultWaitsForThePages()
+{
+    const QTemporaryDir folder;
+    GatedPrintSystem system;
+    static_cast<FakePrintSystem &>(system) = m_system;
+    system.gated = u"attic"_s;
+    PrintTask task;
+    task.files = {folder.filePath(u"missing.txt"_s)};
+    m_window = std::make_unique<PrintWindow>(system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    Q_EMIT find<PrinterPicker>()->picked(u"attic"_s);
+    QTRY_VERIFY(find<WaitingPage>()->isVisible());
+    Q_EMIT m_window->book()->savePdfWanted(); // too late
+    QVERIFY(!find<QFileDialog>());
+    system.gate.release();
+    settle();
+    system.gated = u"office"_s;
+    beginSaving(folder.filePath(u"saved.pdf"_s));
+    Q_EMIT find<PrinterPicker>()->picked(u"office"_s);
+    QTRY_VERIFY(find<WaitingPage>()->isVisible()); // longer than it takes to find no document
+    system.gate.release();
+    settle();
+    QCOMPARE(m_window->session()->destination().queue, u"office"_s);
+    QVERIFY2(m_window->messageBar()->text().contains(u"missing.txt"_s),
+             qPrintable(m_window->messageBar()->text()));
+    m_window.reset();
+    settle();
+}
+
+void PrintRequestTest::failedActionGoesWithTheNextNews()
+{
+    ResultPage page;
+    Submission submission;
+    submission.outcome = Submission::Outcome::Accepted;
+    submission.job.status.state = JobStatus::State::Processing;
+    page.showSubmission(u"Office"_s, {}, submission);
+    const auto shows = [&page](const QString &text) {
+        const auto labels = page.findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](const QLabel *label) { return !label->isHidden() && label->text() == text; });
+    };
+    page.showProblem(u"the job cannot be cancelled"_s);
+    page.showStatus(submission.job.status);
+    QVERIFY(shows(u"the job cannot be cancelled"_s));
+    submission.job.status.state = JobStatus::State::Completed;
+    page.showStatus(submission.job.status);
+    QVERIFY(!shows(u"the job cannot be cancelled"_s));
+}
+
+// Each page, with the focus in it and its layout still to be done, while the session and its pages go.
+void PrintRequestTest::pagesGoWhileTheyAreLaidOut()
+{
+    PrintWindow &window = open();
+    const int pages = window.book()->list()->count();
+    for (int round = 0; round < 200; ++round) {
+        window.book()->showPage(round % pages);
+        for (auto *child : window.book()->pages()->findChildren<QWidget *>()) {
+            if (child->isVisible() && (child->focusPolicy() & Qt::TabFocus))
+                child->setFocus();
+            QCoreApplication::postEvent(child, new QEvent(QEvent::LayoutRequest));
+        }
+        if (round % 3 == 0)
+            QTest::keyClick(&window, Qt::Key_F1);
+        if (round % 2 == 0)
+            window.showSession();
+        else
+            Q_EMIT find<PrinterPicker>()->picked(round % 4 == 1 ? u"attic"_s : u"office"_s);
+        settle();
+        QVERIFY(window.session());
+        if (window.book()->currentRow() < 0)
+            window.book()->showPage(round % pages);
+    }
+    window.reject();
+    m_window.reset();
+}
+
+QTEST_MAIN(PrintRequestTest)
+#include "print_request_test.moc"
