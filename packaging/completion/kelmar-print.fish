@@ -69,6 +69,7 @@ complete -c kelmar-print -s o -x -a '(__kelmar_print_settings)' -d 'the same; un
 complete -c kelmar-print -l batch -d 'print without opening a window'
 complete -c kelmar-print -l output -r -d 'write the pages into a PDF file instead of printing them'
 complete -c kelmar-print -l resolve -d 'accept the proposal when settings cannot be used together'
+complete -c kelmar-print -l allow-no-password -d 'print even if a password or a department code is missing'
 complete -c kelmar-print -l summary -d 'write the summary of the settings'
 complete -c kelmar-print -l list-options -d 'write the options of the printer and their choices'
 complete -c kelmar-print -l presets -d 'write the presets of the printer'
