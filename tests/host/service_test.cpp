@@ -383,7 +383,7 @@ void ServiceTest::userHearsOfAnAbandonedDialog()
         m_bus.registerObject(u"/org/freedesktop/Notifications"_s, &desktop, QDBusConnection::ExportAllSlots));
     QVERIFY(m_bus.registerService(u"org.freedesktop.Notifications"_s));
     QProcess dialog;
-    dialog.start(QStringLiteral(KELMAR_BINARY_DIR "/bin/kelmar-print"), {u"--dialog-request"_s});
+    dialog.start(buildPath("/bin/kelmar-print"), {u"--dialog-request"_s});
     dialog.write("{\"kind\":\"choose\",\"title\":\"T\"}\n");
     QByteArray said;
     QTRY_VERIFY_WITH_TIMEOUT((said += dialog.readAllStandardOutput()).contains("shown"), patience);
