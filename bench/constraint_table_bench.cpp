@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Building the constraint table of a large PPD beside what libcups takes to parse that PPD, which every
-// dialog waits for anyway, and looking pairs up in it.
+// Building the constraint table of a large PPD compared with what libcups takes to parse that PPD, which
+// every dialog waits for anyway, and looking pairs up in it.
 
 #include "bench/goals.h"
 #include "bench/large_ppd.h"

@@ -12,5 +12,5 @@ using Medians = std::map<std::string, double>;
 // Runs the registered benchmarks as the command line says, several times each, and prints them as usual.
 Medians runBenchmarks(int argc, char **argv);
 
-// Prints what was measured beside its goal; false when it is above.
+// Prints what was measured and its goal; false when it is above.
 bool goalIsMet(const std::string &what, double measured, double limit, const std::string &unit);

@@ -20,9 +20,10 @@ using Line = std::uint32_t;
 inline constexpr std::uint32_t none = ~0U; // no such option, choice or line
 
 // What a PPD forbids together: lines of terms that must not all hold at once. Options and choices are
-// numbered once, when the engine is built, and every later question is one of numbers; who asks often keeps
-// them. Immutable. Names are bytes, compared exactly. Only options and choices that some line names have a
-// number. What an empty choice in a line stands for is not decided here: it is a choice with an empty name.
+// numbered once, when the engine is built, and every later question is one of numbers; a caller that asks
+// often keeps them. Immutable. Names are bytes, compared exactly. Only options and choices that some line
+// names have a number. What an empty choice in a line stands for is not decided here: it is a choice with an
+// empty name.
 class Engine
 {
 public:

@@ -20,8 +20,8 @@ struct ppd_size_s;
 namespace constraints {
 
 // What libcups's rules say about the marks of an open PPD, without asking libcups, whose answer takes a look
-// at every line. The PPD is borrowed and outlives it; whoever marks choices calls refresh() before the next
-// question. Names are as the PPD spells them, and views of its bytes.
+// at every line. The PPD is borrowed and outlives it; a caller that marks choices calls refresh() before the
+// next question. Names are as the PPD spells them, and views of its bytes.
 class PpdRules
 {
 public:
@@ -41,7 +41,8 @@ public:
     const Engine &engine() const { return m_engine; }
     // The lines that are broken, as ppdConflicts() counts them.
     std::vector<Line> brokenLines() const { return m_state.activeLines(); }
-    // The choices of an option that lines forbid beside the marks of other options, in the PPD's order.
+    // The choices of an option that lines forbid together with the marks of other options, in the PPD's
+    // order.
     std::vector<Forbidden> forbiddenChoices(std::string_view option) const;
     // Another number whenever forbiddenChoices() may have changed for the option.
     std::uint32_t revision(std::string_view option) const;

@@ -29,7 +29,7 @@ extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only
 // the host is told before. A user who does not wait gets what a device that does not answer gives. Main
 // thread only.
 //
-// Each list of names has a list of the device's numbers beside it, which the selections refer to: a profile
+// Each list of names goes with a list of the device's numbers, which the selections refer to: a profile
 // without a name has a number but no place in the lists. An empty list is one that was never read.
 class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
 {
@@ -60,15 +60,15 @@ public:
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
                                         QWidget *view);
 
-    // Reads lists and defaults from the device, unless disabled: who asks again after a failure enables
-    // first. A failure disables with a localised reason and leaves what was read before. `sender` does not
-    // matter.
+    // Reads lists and defaults from the device, unless disabled: to ask again after a failure, the caller
+    // enables first. A failure disables with a localised reason and leaves what was read before. `sender`
+    // does not matter.
     void updateFromSNMP(QObject *sender = nullptr);
     // Enables, asks the device, and puts the stored selections over its defaults. Always true, without error.
     bool restoreValuesAndReturnError(QString *error);
     // Ends text editing and writes the selections, or removes them while disabled. Always true.
     bool saveValuesAndReturnError(QString *error);
-    // The reason is kept when disabling, and nil when enabling.
+    // The reason is kept when disabling, and null when enabling.
     void setSnmpEnabledWithReason(bool enabled, const QString &reason);
     void willShow() {}
 

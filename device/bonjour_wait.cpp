@@ -19,7 +19,7 @@ struct Service
     QByteArray name, type, domain;
 };
 
-// What a DNSServiceResolveReply is told. Texts are nil where they were null.
+// What a DNSServiceResolveReply is told. Texts are null where they were null.
 struct Reply
 {
     DNSServiceFlags flags;

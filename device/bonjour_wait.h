@@ -25,7 +25,7 @@ bool waitForReply(int descriptor, const QDeadlineTimer &deadline, const std::fun
 // Looks up where a service instance runs and gives the daemon's first answer, which may be an error, to
 // `reply` before it returns, on the calling thread; the reference that `reply` gets is null. `reply` is not
 // called when the daemon is away or silent for the length of the budget. The daemon's library may wait far
-// longer than that, and for ever for a bus that does not speak: it is called beside this thread, and is left
+// longer than that, and for ever for a silent bus: it is called on a worker thread, and is left
 // to itself when the time is over. In a build without that library `reply` is never called.
 void resolveService(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                     void *context);

@@ -55,7 +55,7 @@ ResolverState &state()
     return current;
 }
 
-// Nil for text that is not ASCII, or that a C string would cut short.
+// Null for text that is not ASCII, or that a C string would cut short.
 std::optional<QByteArray> asciiBytes(const QString &text)
 {
     for (const QChar c : text) {
@@ -166,7 +166,7 @@ QString QVNetworkResolver_M880::resolveToIP(const QString &host)
         return {};
     QVNetworkResolver_M880 resolver;
     const QString address = resolver.resolve(host);
-    // Nobody knows whether a host fails that was given up on.
+    // Whether an abandoned look-up would have failed is not known.
     if (!address.isNull() || !platform::Background::isGivenUp())
         addToCacheForHost(address, host);
     return address;

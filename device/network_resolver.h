@@ -35,9 +35,9 @@ struct ResolverServices
 
 // Finds the numeric address of a printer: of a literal address, a Bonjour service name or a host name, tried
 // in that order. Returns when it is done, after up to 5 seconds for Bonjour and two name look-ups, which run
-// beside a thread that has a platform::Waiter. A host that failed is not asked for again for 120 seconds, one
-// that was given up on is; a host that succeeded is looked up anew each time. The cache lives as long as the
-// process. Calls from several threads wait for each other. Every failure is nil.
+// on a worker thread where the caller's thread has a platform::Waiter. A host that failed is not asked for
+// again for 120 seconds, one that was given up on is; a host that succeeded is looked up anew each time. The
+// cache lives as long as the process. Calls from several threads wait for each other. Every failure is null.
 class QVNetworkResolver_M880
 {
 public:
@@ -47,10 +47,10 @@ public:
     static QString ipFromPrintSession(PMPrintSession session);
     static QString resolveToIP(const QString &host);
 
-    // The address or QVDoesntResolve written less than 120 seconds ago, else nil. Takes no lock; nor does the
-    // next.
+    // The address or QVDoesntResolve written less than 120 seconds ago, else null. Takes no lock; nor does
+    // the next.
     static QString checkCacheForHost(const QString &host);
-    // A nil address is kept as QVDoesntResolve; a nil host is ignored.
+    // A null address is kept as QVDoesntResolve; a null host is ignored.
     static void addToCacheForHost(const QString &address, const QString &host);
     // A copy of the cache: by host a record of QVResolvedKey and QVAgeKey, and the date of the cache itself.
     static QHash<QString, QVariant> cache();

@@ -188,7 +188,7 @@ std::optional<QVariantList> QVSNMP_M880::sendBulkRequestWithSizeAndCount(SnmpOid
     values.reserve(count);
     for (quint32 i = 0; i < count; ++i) {
         const QVariant value = sendRequestWithSize(oid, size);
-        // Nobody knows what would have come: less than the device has is no column.
+        // A part of a column is no column: the rest is not known.
         if (!value.isValid() && platform::Background::isGivenUp()) {
             m_rowsOfLastColumn.clear();
             return std::nullopt;

@@ -26,8 +26,8 @@ struct SnmpSession;
 // Reads single values from a printer with SNMP version 2c, community "public". net-snmp is opened at run time
 // when the first client is made and closed when the last one goes; it reads no configuration. Owned by
 // whoever asks; main thread only. A request returns when it is done, after up to 3 seconds (1 second, two
-// retries); it runs beside a thread that has a platform::Waiter. Nil (an invalid QVariant) is every failure:
-// time-out, an error status, a type that is not read, a user who did not wait.
+// retries); it runs on a worker thread where the caller's thread has a platform::Waiter. Null (an invalid
+// QVariant) is every failure: time-out, an error status, a type that is not read, a user who did not wait.
 class QVSNMP_M880
 {
 public:
@@ -56,8 +56,8 @@ public:
     QVSNMP_M880 &operator=(const QVSNMP_M880 &) = delete;
 
     QVariant sendRequestWithSize(const SnmpOid *oid, size_t size);
-    // One request after the other for `count` rows at most, up to the first that gives nil. The last element
-    // of `oid` is counted up with each row. Empty strings are left out. Nil instead of an empty list, and
+    // One request after the other for `count` rows at most, up to the first that gives null. The last element
+    // of `oid` is counted up with each row. Empty strings are left out. Null instead of an empty list, and
     // when the user has given up before the end.
     std::optional<QVariantList> sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size, quint32 count);
     // The row (last element of its OID) of each value of the latest column read.

@@ -8,6 +8,6 @@
 #include <QVariant>
 
 // The value of one variable of a response: a 32-bit integer, a boolean, a string (or the bytes, where
-// `stringsAsData`); nil for other types, for a value that is missing or shorter than its type, and for bytes
+// `stringsAsData`); null for other types, for a value that is missing or shorter than its type, and for bytes
 // that are not valid in the encoding.
 QVariant valueOfVariable(const netsnmp_variable_list &variable, quint32 charSet, bool stringsAsData);

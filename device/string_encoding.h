@@ -26,6 +26,6 @@ enum StringEncoding : quint32 {
 quint32 stringEncodingForCharacterSet(qint64 mibEnum);
 // The converter name for iconv(3); null for a number not listed above.
 const char *iconvNameOfStringEncoding(quint32 encoding);
-// Nil when the bytes are not valid in the encoding, or the system cannot convert from it. The text of no
-// bytes is empty, not nil.
+// Null when the bytes are not valid in the encoding, or the system cannot convert from it. The text of no
+// bytes is empty, not null.
 QString decodedString(QByteArrayView bytes, quint32 encoding);

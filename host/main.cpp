@@ -143,7 +143,7 @@ QStringList commandLine(int argc, char **argv)
     return words;
 }
 
-// Work that nobody waits for any more must not find the libraries that it is in torn down: where there is
+// Abandoned work must not find the libraries that it runs in torn down: where there is
 // some, the program ends here and now.
 int leave(int code)
 {
@@ -172,8 +172,8 @@ int runForService(bool hasDisplay)
     return leave(runDialogRequest(system, extensions, hasDisplay));
 }
 
-// One heap for all threads: what a worker has freed, such as a PPD that it read, is used again by the others.
-// The workers wait for servers and processes, not for one another.
+// Use a single malloc arena, so that memory freed by a worker (such as a parsed PPD) is reused by other
+// threads. The workers wait for servers and processes, not for one another.
 void shareHeap()
 {
 #ifdef M_ARENA_MAX

@@ -60,8 +60,8 @@ public:
     void setPanelName(const QString &name);
     // The bundle's page that is called as the last part of the panel's kind.
     QString helpText() override;
-    // One or two sentences on what an option or key is for: the bundle's text for its name and "?". Nil where
-    // it has none.
+    // One or two sentences on what an option or key is for: the bundle's text for its name and "?". Null
+    // where it has none.
     QString explanationForKey(const QString &key) const;
     QString panelKind() override { return m_panelKind; }
     void setPanelKind(const QString &kind);
@@ -74,10 +74,10 @@ public:
     void setSupportedExtensionOptionKeys(const QStringList &keys);
 
     QVariant valueForKey(const QString &key) override;
-    // An index outside the choice list raises Exception (range); a nil value of an option raises Exception
+    // An index outside the choice list raises Exception (range); a null value of an option raises Exception
     // (invalid argument).
     void setValueForKey(const QVariant &value, const QString &key) override;
-    // The PPD's default choice keyword of an option; nil when it has none.
+    // The PPD's default choice keyword of an option; null when it has none.
     QVariant defaultValueForKey(const QString &key);
     void setDefaultValueForKey(const QString &key);
     // The digits of a code held in PREFIX1 to PREFIX5, and back. A code needs five characters; a shorter one
@@ -89,7 +89,7 @@ public:
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     QMap<QString, QString> summaryInfo() override;
-    // Text of the marked choice of an option; nil string when it has none or should not be shown.
+    // Text of the marked choice of an option; null string when it has none or should not be shown.
     virtual QString summaryForKey(const QString &key);
     bool shouldHide() override { return true; }
     void willShow() override {}
@@ -102,7 +102,7 @@ public:
     void sliderDidMove(QObject *sender);
 
 protected:
-    std::optional<QStringList> m_supportedPPDOptionKeys; // nil until first built
+    std::optional<QStringList> m_supportedPPDOptionKeys; // null until first built
 
 private:
     bool supportsOption(const QString &option);

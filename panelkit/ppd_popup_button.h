@@ -26,7 +26,7 @@ class QVPPD_M880;
 class QVPopUpButton_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
-    // Index of the selected item; nil when no item is selected. An index outside the menu selects none.
+    // Index of the selected item; null when no item is selected. An index outside the menu selects none.
     Q_PROPERTY(QVariant selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
 public:
     explicit QVPopUpButton_M880(QWidget *parent = nullptr);

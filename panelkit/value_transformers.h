@@ -5,7 +5,7 @@
 
 #include "platform/value_transformer.h"
 
-// "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; nil is true. Back to "True" or
+// "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; null is true. Back to "True" or
 // "False".
 class QVBooleanTransformer_M880 : public platform::ValueTransformer
 {
@@ -16,7 +16,7 @@ public:
     QVariant reverseTransformedValue(const QVariant &value) const override;
 };
 
-// The leading 32-bit integer of a text, 0 where there is none. Back to the number's text; nil stays nil.
+// The leading 32-bit integer of a text, 0 where there is none. Back to the number's text; null stays null.
 class QVNumberTransformer_M880 : public platform::ValueTransformer
 {
 public:
@@ -26,7 +26,7 @@ public:
     QVariant reverseTransformedValue(const QVariant &value) const override;
 };
 
-// A number's truth; of a string the first character only: t, y or a digit but 0 is true. Anything else, nil
+// A number's truth; of a string the first character only: t, y or a digit but 0 is true. Anything else, null
 // included, is false. Deliberately another rule than the boolean transformer's.
 bool QVBooleanValue(const QVariant &value);
 

@@ -64,7 +64,7 @@ public:
     // view that is current already.
     void animateViewIn(QWidget *view);
     bool offersViewOf(const QWidget *control) override;
-    // Without moving anything: whoever is led to a control looks for it where it stays.
+    // Without an animation: the user who was led to a control looks for it where it stays.
     void showViewOf(QWidget *control) override;
     void goToAdvanced(QWidget *sender);
     void goBack(QWidget *sender);

@@ -42,5 +42,5 @@ private:
     void resetOptionToNeutral(const QString &key);
 
     bool m_colorBalanceAllowed = false;
-    QString m_colorType; // the last one announced; nil before
+    QString m_colorType; // the last one announced; null before
 };

@@ -14,7 +14,7 @@
 
 namespace platform {
 
-// The result of work beside this thread, for one receiver. Only the work that was started last counts: what
+// The result of work on a worker thread, for one receiver. Only the work that was started last counts: what
 // an earlier one brings is dropped, whenever it comes. Belongs to one thread, as its context does.
 template <typename Result>
 class Awaited
@@ -52,7 +52,7 @@ public:
         deliver(pending, m_latest);
         return true;
     }
-    // Nobody waits any more.
+    // The result is no longer wanted.
     void drop() { m_latest->reset(); }
     bool isPending() const { return *m_latest != nullptr; }
 

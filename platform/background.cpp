@@ -156,7 +156,7 @@ bool Background::call(std::function<void()> work, std::chrono::milliseconds limi
             state->ended = true;
             state->change.notify_all();
         });
-    // Beside this thread in turn, where it must not block.
+    // On a worker thread where this thread must not block.
     const auto ended = callBeside([state, until = std::chrono::steady_clock::now() + limit] {
         std::unique_lock lock(state->mutex);
         return state->change.wait_until(lock, until, [&] { return state->ended; });

@@ -16,7 +16,7 @@ class QObject;
 
 namespace platform {
 
-// How a thread that has to stay responsive passes the time while something that blocks runs beside it. A
+// How a thread that has to stay responsive passes the time while blocking work runs on a worker thread. A
 // dialog may install one for its thread, with Scope; threads without one simply block.
 class KELMAR_PLATFORM_EXPORT Waiter
 {
@@ -33,7 +33,7 @@ public:
     struct Installed; // one scope's
 
     // Installs a waiter for the current thread while it lives. Scopes nest. Work that ends after the scope
-    // wakes nobody, and keeps nothing of the waiter: that is let go of, and destroyed, on this thread.
+    // wakes no one, and keeps nothing of the waiter: that is let go of, and destroyed, on this thread.
     class KELMAR_PLATFORM_EXPORT Scope
     {
     public:
@@ -52,15 +52,15 @@ public:
 class KELMAR_PLATFORM_EXPORT Background
 {
 public:
-    // Runs `work` beside this thread and returns true when it has ended, false when the user gave up. Without
+    // Runs `work` on a worker thread and returns true when it has ended, false when the user gave up. Without
     // a waiter on this thread it is called straight. What it throws comes out here.
     static bool call(std::function<void()> work);
-    // For work that may never end: runs it beside this thread always, and gives up on it as well when it has
+    // For work that may never end: always runs it on a worker thread, and gives up on it as well when it has
     // not ended within `limit`.
     static bool call(std::function<void()> work, std::chrono::milliseconds limit);
     // Whether the user has given up on what this thread waits for.
     static bool isGivenUp();
-    // Runs `work` beside this thread and returns at once; `done` is called by the event loop of the calling
+    // Runs `work` on a worker thread and returns at once; `done` is called by the event loop of the calling
     // thread when it has ended, unless `receiver` is gone by then. `work` must not throw.
     static void start(std::function<void()> work, QObject *receiver, std::function<void()> done);
     // Whether anything is under way on any thread. A program that ends then must not run its static
@@ -68,7 +68,7 @@ public:
     static bool isUnderWay();
 };
 
-// The result of `work`; nil when the user gave up waiting for it, or when it took longer than the limit that
+// The result of `work`; null when the user gave up waiting for it, or when it took longer than the limit that
 // may follow.
 template <typename Work, typename... Limit>
 std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)

@@ -15,7 +15,8 @@ namespace platform {
 
 namespace {
 
-// A value as the property takes it. Nil becomes the type's default value; no result when it does not convert.
+// A value as the property takes it. Null becomes the type's default value; no result when it does not
+// convert.
 std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &property)
 {
     const QMetaType type = property.metaType();

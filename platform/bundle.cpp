@@ -103,7 +103,7 @@ QStringList foldersAbove(const QString &path)
     return folders;
 }
 
-// What in a bundle, or above it, others than the system and the user could have put there; nil when nothing
+// What in a bundle, or above it, others than the system and the user could have put there; null when nothing
 // is.
 QString foreignHandIn(const QString &folder)
 {

@@ -51,7 +51,7 @@ public:
     Bundle &operator=(const Bundle &) = delete;
 
     const QString &folder() const { return m_folder; }
-    // Nil when Info.json lacks the key.
+    // Null when Info.json lacks the key.
     QVariant infoValueForKey(const QString &key) const;
     // Whether a PPD with this model name is one of "PrinterModels".
     bool servesModel(const QString &modelName) const;
@@ -60,7 +60,7 @@ public:
     QString layoutPath(const QString &name) const;
 
     // Contents of help/LANGUAGE/NAME.md in the first of the user's languages that has the page, else in
-    // English; nil where there is none. A page beyond 64 kB is none.
+    // English; null where there is none. A page beyond 64 kB is none.
     QString helpText(const QString &name) const;
 
     // The text for `key` in the string tables of the user's language; `value` where they lack it. Where

@@ -22,7 +22,7 @@ KELMAR_PLATFORM_EXPORT QSize sizeForLength(const QComboBox &box, const QStyleOpt
 KELMAR_PLATFORM_EXPORT void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option);
 
 // A list of choices of which some may be greyed for now. In the open list the arrow keys reach those, too,
-// and whoever looks at one, or listens to it, is told why; choosing one changes nothing, but is told.
+// and says why, also to a screen reader; choosing one changes nothing, but is told.
 // Scrolling past the box never changes it. Its items are those of QComboBox's own model.
 class KELMAR_PLATFORM_EXPORT ChoiceBox : public QComboBox
 {
@@ -35,7 +35,7 @@ public:
     void setObstacle(int index, const QString &reason);
     bool isItemEnabled(int index) const;
 
-    // The PPD option that the box sets, by which a host finds it; nil for a box of something else.
+    // The PPD option that the box sets, by which a host finds it; null for a box of something else.
     const QString &optionKeyword() const { return m_optionKeyword; }
     void setOptionKeyword(const QString &keyword) { m_optionKeyword = keyword; }
     // Of an item: the choice that it stands for.
@@ -45,8 +45,8 @@ public:
     void showPopup() override;
 
 Q_SIGNALS:
-    // The user has picked a greyed item in the open list, which is closed. Nothing has changed; whoever knows
-    // what stands in the way may offer to clear it.
+    // The user has picked a greyed item in the open list, which is closed. Nothing has changed; the receiver
+    // that knows what stands in the way may offer to clear it.
     void greyedPicked(int index);
 
 protected:

@@ -13,8 +13,8 @@
 
 namespace platform {
 
-// Watches one key path of one object, also when an object on the way is replaced. Owned by whoever wants to
-// know; ends quietly when the watched object dies.
+// Watches one key path of one object, also when an object on the way is replaced. Owned by the object that
+// wants to know; ends quietly when the watched object dies.
 class KELMAR_PLATFORM_EXPORT KeyPathObserver : public QObject
 {
     Q_OBJECT

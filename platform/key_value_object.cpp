@@ -60,7 +60,7 @@ bool isNumber(QMetaType type)
     return !isText && QMetaType::canConvert(type, QMetaType(QMetaType::Double));
 }
 
-// A value as a property takes it; nil stands for an empty text, list or pointer, but for no number.
+// A value as a property takes it; null stands for an empty text, list or pointer, but for no number.
 std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &property)
 {
     const QMetaType type = property.metaType();
@@ -76,7 +76,7 @@ std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &pr
     return result;
 }
 
-// The object that has the last of `keys`, found from `object` by those before; null with a nil on the way.
+// The object that has the last of `keys`, found from `object` by those before; null with a null on the way.
 KeyValueObject *holderOfLast(KeyValueObject *object, const QStringList &keys)
 {
     for (qsizetype i = 0; object && i < keys.size() - 1; ++i)

@@ -14,7 +14,7 @@ namespace platform {
 
 // An object whose values are read, set and observed by key. Without overriding, the keys are the declared Qt
 // properties. Setters announce their change with KeyChange; observers of a key that depends on it are told
-// too. Lives in the dialog's thread. Nil is the invalid QVariant.
+// too. Lives in the dialog's thread. Null is the invalid QVariant.
 class KELMAR_PLATFORM_EXPORT KeyValueObject : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     // value cannot be converted to the key's type. The setter behind the key makes the announcements.
     virtual void setValueForKey(const QVariant &value, const QString &key);
 
-    // A path is keys joined by dots; each but the last names a KeyValueObject. A nil object on the way gives
-    // nil, and a set through it does nothing.
+    // A path is keys joined by dots; each but the last names a KeyValueObject. A null object on the way gives
+    // null, and a set through it does nothing.
     QVariant valueForKeyPath(const QString &keyPath);
     void setValueForKeyPath(const QVariant &value, const QString &keyPath);
 

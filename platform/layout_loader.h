@@ -62,7 +62,7 @@ using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
-// The key path that the user sets with a control of a layout; nil for a widget that only shows something.
+// The key path that the user sets with a control of a layout; null for a widget that only shows something.
 KELMAR_PLATFORM_EXPORT QString keyPathSetBy(const QWidget *control);
 
 // Makes widgets of `className` available to layouts. The last registration of a name counts.

@@ -18,7 +18,7 @@ struct DecimalDigit
     qsizetype length; // UTF-16 units
 };
 
-// The digit at a place of a text; nil where there is none, and behind its end.
+// The digit at a place of a text; null where there is none, and behind its end.
 KELMAR_PLATFORM_EXPORT std::optional<DecimalDigit> decimalDigitAt(QStringView text, qsizetype at);
 
 // The decimal number a text starts with.
@@ -29,7 +29,7 @@ struct LeadingInteger
 };
 
 // Skips leading white space, takes an optional sign and reads decimal digits of any script up to the first
-// character that is none. Nil when there is no digit.
+// character that is none. Null when there is no digit.
 KELMAR_PLATFORM_EXPORT std::optional<LeadingInteger> leadingInteger(QStringView text);
 
 } // namespace platform

@@ -16,7 +16,7 @@ class KELMAR_PLATFORM_EXPORT PanelHelp
 {
 public:
     virtual ~PanelHelp();
-    // A short page of Markdown without images, in the user's language; nil where there is none. Links name
+    // A short page of Markdown without images, in the user's language; null where there is none. Links name
     // other pages, as in "summary.md", and nothing else.
     virtual QString helpText() = 0;
 };

@@ -42,7 +42,7 @@ class KELMAR_PLATFORM_EXPORT ConstraintResolvingHost
 {
 public:
     virtual ~ConstraintResolvingHost();
-    // A PPD option or print setting is about to get this choice; nil when it is about to be removed.
+    // A PPD option or print setting is about to get this choice; null when it is about to be removed.
     virtual void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) = 0;
 };
 
@@ -96,7 +96,7 @@ public:
     // False with a message in `error` (which may be null) when the panel could not do it.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     virtual bool saveValuesAndReturnError(QString *error) = 0;
-    // Why some of what the panel offers cannot be used, in localised words; nil when all of it can. Known
+    // Why some of what the panel offers cannot be used, in localised words; null when all of it can. Known
     // after a restore. What cannot be used does not reach the job.
     virtual QString unavailableReason() { return {}; }
     // The object that answers the panel's keys; never null, owned by the panel.
@@ -111,7 +111,7 @@ class KELMAR_PLATFORM_EXPORT PrintDialogExtension
 public:
     virtual ~PrintDialogExtension();
     virtual bool initWithBundle(std::shared_ptr<Bundle> bundle) = 0;
-    // The panels of one dialog, in order; nil when the extension does not serve panels of that type.
+    // The panels of one dialog, in order; null when the extension does not serve panels of that type.
     virtual std::optional<PrintDialogPanels> PDEPanelsForTypeWithHostInfo(const QString &type,
                                                                           PrintDialogHost *host) = 0;
 };

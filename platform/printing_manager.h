@@ -20,7 +20,7 @@ namespace platform {
 struct Printer
 {
     QString name;      // CUPS destination, "queue" or "queue/instance"
-    QString deviceUri; // as CUPS tells it; nil when unknown
+    QString deviceUri; // as CUPS tells it; null when unknown
 };
 
 // A job's key-value store. Owned by the host, lives as long as its dialog.
@@ -28,7 +28,7 @@ class KELMAR_PLATFORM_EXPORT PrintSettings
 {
 public:
     QVariant value(const QString &key) const { return m_values.value(key); }
-    // A nil value removes the key.
+    // A null value removes the key.
     void setValue(const QString &key, const QVariant &value);
     const QVariantMap &values() const { return m_values; }
 
@@ -63,11 +63,11 @@ constexpr OSStatus kPMNoError = 0;
 constexpr OSStatus kPMInvalidParameter = -30877;
 constexpr OSStatus kPMKeyNotFound = -9589;
 
-// Null handles give kPMInvalidParameter and leave the result nil or null; results must not be null.
+// Null handles give kPMInvalidParameter and leave the result null; results must not be null.
 
 KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key,
                                                         QVariant *value);
-// A nil value removes the key. `locked` is accepted and has no effect: nobody but the host may lock a
+// A null value removes the key. `locked` is accepted and has no effect: only the host may lock a
 // setting.
 KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
                                                         const QVariant &value, bool locked);

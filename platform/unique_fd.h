@@ -50,7 +50,7 @@ private:
 // Of one document that another program hands over; in bytes.
 constexpr off_t longestDocument = off_t{2} * 1024 * 1024 * 1024;
 
-// How long somebody waits for another program's bytes.
+// How long a caller waits for another program's bytes.
 struct Patience
 {
     std::chrono::milliseconds silence; // at a stretch in which nothing comes
@@ -80,9 +80,10 @@ inline bool waitForInput(int source, const Patience *patience, std::chrono::stea
 }
 
 // Copies all of `source`, from its beginning where it has one to go back to, into a new file of `folder` that
-// loses its name at once: it follows no link, nobody else can open it, and it goes with its last descriptor.
-// Blocks, without `patience` (may be null) as long as the source does. None, with errno, when there are more
-// than `limit` bytes (EFBIG), patience is at an end (ETIMEDOUT) or something cannot be read or written.
+// loses its name at once: it follows no link, no other process can open it, and it goes with its last
+// descriptor. Blocks, without `patience` (may be null) as long as the source does. None, with errno, when
+// there are more than `limit` bytes (EFBIG), patience is at an end (ETIMEDOUT) or something cannot be read or
+// written.
 inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit,
                             const Patience *patience = nullptr)
 {

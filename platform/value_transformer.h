@@ -22,10 +22,10 @@ public:
     // Type of what transformedValue() gives.
     virtual QMetaType transformedValueClass() const = 0;
     virtual bool allowsReverseTransformation() const { return false; }
-    // Key side to control side. A nil (invalid) value is a value like any other.
+    // Key side to control side. A null (invalid) value is a value like any other.
     virtual QVariant transformedValue(const QVariant &value) const = 0;
     // Control side to key side; only called where allowsReverseTransformation() is true. The default gives
-    // nil.
+    // null.
     virtual QVariant reverseTransformedValue(const QVariant &value) const;
 
     // The process-wide register of named transformers. A later one of the same name replaces the earlier.

@@ -28,7 +28,7 @@ public:
     bool initWithBundle(std::shared_ptr<platform::Bundle> bundle) override;
     // The panel classes of this build in roster order.
     std::vector<PanelClass> loadablePDEs() const;
-    // Nil unless `type` is the print-dialog panel type. A panel class that declines is skipped; one that
+    // Null unless `type` is the print-dialog panel type. A panel class that declines is skipped; one that
     // raises platform::Exception is logged and skipped; anything else thrown passes on. A null host is a
     // dialog without PPD and constraint handling.
     std::optional<platform::PrintDialogPanels>

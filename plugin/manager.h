@@ -62,8 +62,8 @@ public:
     QString localizedStringForKey(const QString &key) const;
 
     // The choice of each keyword: marked, else default, else from the print settings; keywords without any
-    // are left out. An empty list means every option of the PPD. Nil where the host takes no part in
-    // constraint resolution, except on builds for older hosts, which read the session's ticket (and give nil
+    // are left out. An empty list means every option of the PPD. Null where the host takes no part in
+    // constraint resolution, except on builds for older hosts, which read the session's ticket (and give null
     // for an empty list).
     std::optional<QVariantMap> ppdDictionaryForOptions(const QStringList &keys) const;
     // Tells the host of each keyword, then marks the choice in the PPD, or writes the print settings when the

@@ -12,7 +12,7 @@ struct ppd_file_s;
 
 // Which pairs of option choices a PPD forbids, looked up from either side. Built once from the PPD's
 // constraint lines, which are taken literally: a line without a choice has the empty string there, and no
-// choice name is special. A line with a name that is not valid UTF-8 is left out. Nil names nothing, and so
+// choice name is special. A line with a name that is not valid UTF-8 is left out. Null names nothing, and so
 // conflicts with nothing.
 class ConstraintTable
 {
@@ -32,8 +32,8 @@ public:
     QSet<QString> conflictableOptions(const QString &option, const QString &choice) const;
     bool isEmpty() const { return m_engine.lineCount() == 0; }
 
-    // For who asks often: the number of an option and of one of its choices, and the answer by numbers.
-    // `none` where no line names it; `none` conflicts with nothing.
+    // For callers that ask often: the number of an option and of one of its choices, and the answer by
+    // numbers. `none` where no line names it; `none` conflicts with nothing.
     Option optionNumber(const QString &option) const;
     Choice choiceNumber(Option option, const QString &choice) const;
     bool conflicts(Choice first, Choice second) const { return m_engine.isPair(first, second); }

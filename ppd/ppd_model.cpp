@@ -58,7 +58,7 @@ std::span<const ppd_choice_t> choices(const ppd_option_t *option)
                                              : std::span<ppd_choice_t>();
 }
 
-// Nil when there is no record or its keyword is not valid UTF-8.
+// Null when there is no record or its keyword is not valid UTF-8.
 std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
 {
     if (!record)
@@ -67,7 +67,7 @@ std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
     return choice.choice.isNull() ? std::nullopt : std::optional(choice);
 }
 
-// Nil where neither the bundle nor the PPD has a text: the bundle would put the key in its place.
+// Null where neither the bundle nor the PPD has a text: the bundle would put the key in its place.
 QString localizedChoiceText(const QString &option, const QString &choice, const QString &text,
                             const platform::Bundle *bundle)
 {

@@ -27,7 +27,7 @@ extern const QString QVPPDTextKey;   // "QVPPDText"
 extern const QString QVPPDOptionKey; // "QVPPDOption"
 extern const QString QVPPDNameKey;   // "QVPPDName"
 
-// One choice of an option: its keyword in the PPD and the text a user reads, nil when that is not valid
+// One choice of an option: its keyword in the PPD and the text a user reads, null when that is not valid
 // UTF-8.
 struct QVPPDChoice_M880
 {
@@ -43,7 +43,7 @@ struct QVPPDChoice_M880
 // The printer's PPD as strings. Wraps the host's ppd_file_t, which it neither opens nor closes and which
 // outlives it; marks are made in that record, for everyone to see. One a dialog, shared through the manager.
 // Options, choices and attributes are found as libcups finds them, ignoring case; constraints and every list
-// of keywords are exact. Strings are UTF-8 in the PPD; what is not valid UTF-8 is left out of lists and nil
+// of keywords are exact. Strings are UTF-8 in the PPD; what is not valid UTF-8 is left out of lists and null
 // elsewhere.
 class QVPPD_M880
 {
@@ -59,32 +59,32 @@ public:
     void setCupsPPD(ppd_file_s *ppd) { m_ppd = ppd; }
     // Of the attribute "FileVersion"; null when the PPD has none.
     const std::shared_ptr<const QVVersionInfo_M880> &version() const { return m_version; }
-    // Nil when the PPD names no model.
+    // Null when the PPD names no model.
     const QString &modelname() const { return m_modelname; }
-    // The file name the PPD declares for itself, not where it was read from; nil when it declares none.
+    // The file name the PPD declares for itself, not where it was read from; null when it declares none.
     QString ppdFilename() const;
 
     // Every option keyword of the top-level groups in PPD order; built once.
     const QStringList &allOptions();
     // Also true for a common prefix: "DCDigit" where the PPD has "DCDigit1".
     bool hasOption(const QString &option) const;
-    // Nil when the option is missing or has no choices; the same for the two like it below.
+    // Null when the option is missing or has no choices; the same for the two like it below.
     std::optional<QStringList> choicesForOption(const QString &option) const;
-    // Choice keyword to text; `order`, when not null, gets the keywords in PPD order (untouched on nil).
+    // Choice keyword to text; `order`, when not null, gets the keywords in PPD order (untouched on null).
     std::optional<QMap<QString, QString>> choicesWithValuesForOptionOrder(const QString &option,
                                                                           QStringList *order) const;
     std::optional<QList<QVPPDChoice_M880>>
     localizedChoicesForOptionWithBundle(const QString &option, const platform::Bundle *bundle) const;
-    // Nil when the option is missing, or its default names no choice of it.
+    // Null when the option is missing, or its default names no choice of it.
     std::optional<QVPPDChoice_M880> defaultChoiceForOption(const QString &option) const;
-    // Nil when the option is missing or nothing is marked.
+    // Null when the option is missing or nothing is marked.
     std::optional<QVPPDChoice_M880> markedChoiceForOption(const QString &option) const;
     // Does nothing unless both are strings.
     void markChoiceForOption(const QVariant &choice, const QVariant &option);
-    // Nil string when nothing is marked. A null bundle means no localisation, also below.
+    // Null string when nothing is marked. A null bundle means no localisation, also below.
     QString localizedMarkedChoiceForOptionWithBundle(const QString &option,
                                                      const platform::Bundle *bundle) const;
-    // Nil string when the option is missing.
+    // Null string when the option is missing.
     QString localizedOptionNameWithBundle(const QString &option, const platform::Bundle *bundle) const;
     // The values of every attribute of that name in PPD order; empty when there is none.
     QStringList valuesForAttribute(const QString &name) const;
@@ -94,7 +94,7 @@ public:
     QSet<QString> conflictableOptionsForOptionWithChoice(const QString &option, const QString &choice) const;
     // The same questions by numbers; lives as long as this object.
     const ConstraintTable &constraintTable() const { return m_constraints; }
-    // Option to marked choice of the group named "InstallableOptions"; nil when the PPD has no such group.
+    // Option to marked choice of the group named "InstallableOptions"; null when the PPD has no such group.
     std::optional<QMap<QString, QString>> chosenInstallableOptions() const;
 
 private:

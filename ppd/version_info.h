@@ -12,7 +12,7 @@
 class QVVersionInfo_M880
 {
 public:
-    // Null when the string is nil or empty, or has more than three parts. A part counts up to its first
+    // Null when the string is null or empty, or has more than three parts. A part counts up to its first
     // non-digit; one without leading digits is 0.
     static std::shared_ptr<const QVVersionInfo_M880> versionInfoWithString(const QString &string);
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What libcups alone takes for a printer: fetches the PPD of a queue, opens it, and marks its defaults. Reports as
-// FirstPaint does. Usage: libcups_open QUEUE
+// What libcups alone takes for a printer: fetches the PPD of a queue, opens it, and marks its defaults.
+// Reports as FirstPaint does. Usage: libcups_open QUEUE
 #include "bench/startup/first_paint.h"
 
 #include <cups/cups.h>

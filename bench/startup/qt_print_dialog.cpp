@@ -46,7 +46,7 @@ int main(int argc, char **argv)
         });
         const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
         for (QPushButton *button : buttons) {
-            // The properties button is the one beside the printer's name.
+            // The properties button is the one next to the printer's name.
             if (button->objectName() == QLatin1String("properties"))
                 button->click(); // blocks in the properties dialog's own event loop
         }

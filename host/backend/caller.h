@@ -17,7 +17,7 @@ struct Caller
     std::string name;
 };
 
-// What the scheduler has from the kernel (AUTH_UID), never what the job says of itself. Nil with an error,
+// What the scheduler has from the kernel (AUTH_UID), never what the job says of itself. Null with an error,
 // one sentence, when there is no such user, or it is root.
 std::optional<Caller> findCaller(std::string *error);
 

@@ -28,7 +28,7 @@
 namespace {
 
 // What cupsd does with the job next. A job that is held can be released when its reason is gone; the queue
-// stays open for everybody else.
+// stays open for other users.
 enum Ending { Taken = 0, Hold = 3 };
 
 // Exit code of the second process when nothing on the user's side has answered; cupsd never sees it.

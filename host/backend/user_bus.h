@@ -9,7 +9,7 @@
 
 namespace backend {
 
-// A document and what its application said about it, as bytes that nobody has looked at.
+// A document and what its application said about it, as bytes that have not been validated.
 struct Handover
 {
     int document = -1; // a descriptor; borrowed

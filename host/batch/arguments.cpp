@@ -195,7 +195,8 @@ QString parseProblem(const QCommandLineParser &parser)
     const bool isWord =
         std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetter() || c == u'-'; });
     if (!isWord)
-        return ArgumentsText::tr("There is an option on the command line that this program does not have; --help lists them.");
+        return ArgumentsText::tr(
+            "There is an option on the command line that this program does not have; --help lists them.");
     return ArgumentsText::tr("There is no option “%1”; --help lists them.")
         .arg((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
 }

@@ -28,7 +28,7 @@ struct Arguments
     {
         QString key;
         QString value;
-        bool passOn = false; // -o: a name that nobody here knows is a job option for the print system
+        bool passOn = false; // -o: an unknown name is a job option for the print system
         // Where the value comes from; the file's path is the value until fetchValues() has read it.
         enum class Source { CommandLine, File, Input, Terminal };
         Source source = Source::CommandLine;
@@ -66,7 +66,7 @@ struct Arguments
     bool needsWindow() const { return !batch && !summary && !listOptions && !asksForPresets(); }
 };
 
-// Nil with a message when the command line cannot be understood. The first word is the program's name. The
+// Null with a message when the command line cannot be understood. The first word is the program's name. The
 // message repeats no value: any may be a code in the wrong place.
 std::optional<Arguments> parseArguments(const QStringList &words, QString *error);
 // The text of --help.

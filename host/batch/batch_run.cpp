@@ -40,7 +40,7 @@ PpdOption listed(const DialogSession &session, const QString &keyword)
     return option;
 }
 
-// The use of a code of which only some digits have been given, one by one; nil where there is none.
+// The use of a code of which only some digits have been given, one by one; null where there is none.
 QString useOfHalfCode(const Arguments &arguments, const DialogSession &session)
 {
     QStringList given = session.destination().options.keys(), asked;

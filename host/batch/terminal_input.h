@@ -42,7 +42,7 @@ struct InputLine
     QByteArray bytes;
 };
 
-// Reads by single bytes: what follows the line is somebody else's. Blocks.
+// Reads by single bytes: what follows the line belongs to another reader. Blocks.
 InputLine readInputLine(int descriptor);
 
 } // namespace host

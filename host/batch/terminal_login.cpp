@@ -29,7 +29,7 @@ void say(int terminal, const QString &text)
     (void)!write(terminal, bytes.constData(), static_cast<size_t>(bytes.size()));
 }
 
-// Nil when the input ends or a signal comes before the line does.
+// Null when the input ends or a signal comes before the line does.
 std::optional<QString> readLine(int terminal)
 {
     const auto [fate, line] = readInputLine(terminal);

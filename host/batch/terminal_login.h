@@ -8,8 +8,8 @@
 namespace host {
 
 // Asks for a user name and a password on the terminal that the program belongs to, whatever its standard
-// streams are; the password is not echoed. Nil without a terminal, when the input ends or a signal comes, and
-// after a few answers that were not accepted.
+// streams are; the password is not echoed. Null without a terminal, when the input ends or a signal comes,
+// and after a few answers that were not accepted.
 std::optional<Login> askOnTerminal(const LoginQuestion &question);
 
 } // namespace host

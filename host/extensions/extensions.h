@@ -25,7 +25,7 @@ public:
     Extensions(const Extensions &) = delete;
     Extensions &operator=(const Extensions &) = delete;
 
-    // The *.bundle folders that belong to a program in this folder: beside it, then in ../lib/kelmar-print.
+    // The *.bundle folders that belong to a program in this folder: next to it, then in ../lib/kelmar-print.
     static QStringList installedBundles(const QString &programFolder);
 
     // What the bundles that serve this model say of protection. Opens them, as the next one does.

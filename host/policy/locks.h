@@ -28,7 +28,7 @@ public:
 
     bool isEmpty() const { return m_choices.isEmpty(); }
     const QMap<QString, QString> &choices() const { return m_choices; } // by keyword
-    // Nil where the option is free.
+    // Null where the option is free.
     QString choice(const QString &keyword) const { return m_choices.value(keyword); }
 
     // Why a job cannot have this option or job option, with the administrator's name; no error where it can.

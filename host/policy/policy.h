@@ -32,7 +32,7 @@ public:
         QStringList lockedPanels; // the same
         bool hidesPanel(const QString &kind) const;
         bool locksPanel(const QString &kind) const;
-        // The choice that an option is fixed to; nil where it is free, or where this printer lacks the
+        // The choice that an option is fixed to; null where it is free, or where this printer lacks the
         // choice.
         QString lockedChoice(const PpdDocument *ppd, const QString &keyword) const;
         QMap<QString, QString> lockedChoices(const PpdDocument *ppd) const; // all of them
@@ -40,8 +40,8 @@ public:
         void applyTo(Destination *destination, const PpdDocument *ppd) const;
     };
 
-    // Reads a policy file. Nil with an error, in words with the file's name and the line or the rule, when it
-    // is not one.
+    // Reads a policy file. Null with an error, in words with the file's name and the line or the rule, when
+    // it is not one.
     static std::optional<Policy> parse(const QByteArray &json, const QString &fileName, QString *error);
     // The file of this computer, /etc/kelmar-print/policy.json, or the one that KELMAR_PRINT_POLICY names;
     // empty where there is none, and with a problem where it cannot be used.
@@ -54,9 +54,9 @@ public:
     // All of a queue's rules together; where two speak of the same, the later one holds.
     Rule ruleFor(const QString &queue) const;
     bool offers(const QString &queue) const;
-    // Why the file lays down nothing, for whoever prints; nil when it does. Localised.
+    // Why the policy is not in force, for display; null when it is. Localised.
     QString problem() const { return m_problem; }
-    const QString &fileName() const { return m_fileName; } // nil where there is none
+    const QString &fileName() const { return m_fileName; } // null where there is none
     // "Set by the administrator", with whom to ask where the file says it. Localised.
     QString attribution() const;
 

@@ -94,8 +94,8 @@ std::optional<Destination> PolicyPrintSystem::destination(const QString &name, P
     return std::nullopt;
 }
 
-// Where nobody has asked for the default printer, another one does as well. Without one it stays an error,
-// but to choose by name helps nobody where there is nothing to be chosen.
+// Where the default printer was not asked for, another one does as well. Without one it stays an error,
+// but advice to choose by name does not help where there is nothing to choose.
 std::optional<Destination> PolicyPrintSystem::anyOffered(std::optional<Destination> standard,
                                                          PrintError *error)
 {
@@ -132,7 +132,7 @@ PrintError PolicyPrintSystem::lockBroken(const JobRequest &request, PpdDocument 
     ppd->markOptions(sent);
     if (PrintError broken = locks.refusal(*ppd))
         return broken;
-    QStringList problems; // whoever opened the dialog has been told
+    QStringList problems; // the user was told when the dialog opened
     const std::lock_guard guard(m_mutex);
     const Protection protection = m_extensions.protectionFor(ppd->modelName(), &problems);
     for (const Protection::Secret &secret : protection.secrets) {

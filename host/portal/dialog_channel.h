@@ -23,9 +23,9 @@ class DialogChannel : public QObject
 public:
     DialogChannel();
 
-    // Waits for the request. Nil when none comes, or it is none.
+    // Waits for the request. Null when none comes, or it is none.
     std::optional<QJsonObject> readRequest();
-    // Whether whoever asked has gone already. Before watch().
+    // Whether the caller has gone already. Before watch().
     bool isClosed() const;
     // The end of the input is looked for from now on.
     void watch();

@@ -148,7 +148,7 @@ QString RequestRun::jobTitle() const
     return isOfDialog && !m_parentTitle.isEmpty() ? m_parentTitle : textOf(m_request, "title");
 }
 
-// Who wants settings gives the title of the dialog, who has a document that of the document.
+// A request for settings gives the title of the dialog, a request with a document that of the document.
 QString RequestRun::windowTitle() const
 {
     const QString title = jobTitle();

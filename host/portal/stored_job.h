@@ -12,7 +12,7 @@
 namespace host {
 
 // What the user has decided about a document that comes later. Holds codes: it goes to the service and comes
-// back from there, and to nobody else. A value.
+// back from there, and not to the application. A value.
 struct StoredJob
 {
     QString printer; // destination name

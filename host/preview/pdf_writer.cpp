@@ -54,27 +54,27 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
     if (isThere && !S_ISREG(facts.st_mode))
         return problem(S_ISLNK(facts.st_mode) ? PdfWriter::tr("it is a link to another file")
                                               : PdfWriter::tr("it is not a file"));
-    // Beside the target, so that it can take its place in one step. A link that appears there meanwhile is
-    // replaced, not followed.
-    QByteArray beside = target + ".XXXXXX";
-    platform::UniqueFd file(mkostemp(beside.data(), O_CLOEXEC));
+    // In the folder of the target, so that it can take its place in one step. A link that appears there
+    // meanwhile is replaced, not followed.
+    QByteArray temporary = target + ".XXXXXX";
+    platform::UniqueFd file(mkostemp(temporary.data(), O_CLOEXEC));
     if (!file)
         return problem(QString::fromLocal8Bit(std::strerror(errno)));
     const FileView view(content);
     const bool isWritten = writeAll(file.get(), view.bytes()) &&
                            fchmod(file.get(), isThere ? facts.st_mode & 0777 : usualMode()) == 0 &&
-                           fsync(file.get()) == 0 && rename(beside.constData(), target.constData()) == 0;
+                           fsync(file.get()) == 0 && rename(temporary.constData(), target.constData()) == 0;
     if (isWritten)
         return {};
     const QString reason = QString::fromLocal8Bit(std::strerror(errno));
-    unlink(beside.constData());
+    unlink(temporary.constData());
     return problem(reason);
 }
 
 PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_joiner(nullptr)
 {
-    LimitedProcess::Limits limits; // nobody waits at the screen, and documents may be large
+    LimitedProcess::Limits limits; // no user waits at the screen, and documents may be large
     limits.time = std::chrono::minutes(10);
     limits.memory *= 4;
     limits.output *= 8;

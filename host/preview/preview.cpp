@@ -245,7 +245,7 @@ void Preview::counted(const SharedFile &output)
 
 QImage Preview::upright(const QImage *picture) const
 {
-    // Upside down is what somebody wants; sideways is how the printer takes the paper.
+    // Upside down is what the user asked for; sideways is how the printer takes the paper.
     const int rotation = m_facts && m_isAsPrinted ? m_facts->rotation : 0;
     return rotation % 180 == 0 ? *picture : picture->transformed(QTransform().rotate(-rotation));
 }
@@ -266,7 +266,7 @@ QImage Preview::thumbnail(int index)
 {
     if (const QImage *known = m_thumbnails.object(index))
         return upright(known);
-    if (m_wantedThumbnail < 0) // who looks asks again for what is not there yet
+    if (m_wantedThumbnail < 0) // a view asks again for what is not there yet
         m_wantedThumbnail = index;
     renderNext();
     return {};

@@ -23,14 +23,14 @@ struct PageFacts
     QSizeF size;      // of the first page as it is shown, in points
     int rotation = 0; // of the first page: degrees clockwise, from how it was laid out
 };
-// From what pdfinfo says of it; nil when that makes no sense.
+// From what pdfinfo says of it; null when that makes no sense.
 std::optional<PageFacts> readPageFacts(const SharedFile &text);
 // The pictures that pdftoppm has written one behind the other, up to the first that makes no sense.
 QList<QImage> readPictures(const SharedFile &file);
 
-// Pictures of the pages of one document as they would be printed. All of it is made by programs beside this
-// one, with limits; nothing waits. Pages are counted from 0 as they come out of the printer: sides of paper.
-// Pictures are kept as long as there is room for them.
+// Pictures of the pages of one document as they would be printed. All of it is made by programs apart from
+// this one, with limits; nothing waits. Pages are counted from 0 as they come out of the printer: sides of
+// paper. Pictures are kept as long as there is room for them.
 class Preview : public QObject
 {
     Q_OBJECT
@@ -39,17 +39,17 @@ public:
     ~Preview() override;
 
     void setLimits(const LimitedProcess::Limits &limits);
-    // Begins anew with a document; the name is that of a file (file_name.h), looked at beside this thread.
+    // Begins anew with a document; the name is that of a file (file_name.h), read on a worker thread.
     void setDocument(const QString &path);
     void setSettings(const PageSettings &settings);
-    // While nobody looks nothing runs, and nothing is forgotten.
+    // While the preview is hidden nothing runs, and nothing is forgotten.
     void setWatched(bool watched);
 
-    // Nil until known.
+    // Null until known.
     const std::optional<PageFacts> &facts() const { return m_facts; }
     // False where the filter that lays pages out is missing: what is shown are the document's own.
     bool isAsPrinted() const { return m_isAsPrinted; }
-    // Why there is nothing to see; nil when there is, or will be.
+    // Why there is nothing to see; null when there is, or will be.
     const QString &problem() const { return m_problem; }
 
     // A page as it was laid out, of about this height or width in pixels, whichever is more; null when it is

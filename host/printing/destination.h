@@ -28,7 +28,7 @@ struct Destination
     QMap<QString, QString> options;       // the user's and the queue's own settings, as libcups gives them
     QStringList serverOptions;            // the names of those that come from the print server alone
     QMap<QString, QString> queueDefaults; // job options that the print server adds by itself
-    QString optionsProblem; // why the user's own settings could not be read, localised; nil when they could
+    QString optionsProblem; // why the user's own settings could not be read, localised; null when they could
 
     QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
     // For lists: the printer's everyday name, and the preset where it is one.

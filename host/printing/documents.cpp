@@ -43,7 +43,7 @@ bool isSvg(const QByteArray &head)
     return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
 }
 
-// Pictures whose file is text to who does not know better.
+// Picture formats whose files look like text.
 bool isDrawingInText(const QMimeType &type, const QByteArray &head)
 {
     return (type.name().startsWith(QLatin1String("image/")) && type.inherits(QStringLiteral("text/plain"))) ||
@@ -201,7 +201,7 @@ private:
     bool keep(const char *data, qint64 count, PrintError *error);
 };
 
-// Opening a pipe does not wait for whoever is to write into it.
+// Opening a pipe does not wait for its writer.
 bool DocumentList::Spool::begin(const QString &from, PrintError *error)
 {
     path = from;

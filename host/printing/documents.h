@@ -40,7 +40,7 @@ bool isStream(const QString &path);
 // A stream's type is not known before it has been read.
 std::optional<Document> openDocument(const QString &path, PrintError *error);
 
-// Whether nobody wants any more what is being read. Called on the thread that reads.
+// Whether what is being read is no longer wanted. Called on the thread that reads.
 using StopWanted = std::function<bool()>;
 
 // The documents of one job, in the order they are printed. Owns the temporary files that hold what came from

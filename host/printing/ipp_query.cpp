@@ -135,7 +135,7 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   question == QueueQuestion::State ? ofState : static_cast<int>(wanted.size()), nullptr,
                   wanted.data());
-    const Reply reply = server->ask(std::move(request), "/"); // whoever looks needs no login
+    const Reply reply = server->ask(std::move(request), "/"); // listing needs no login
     if (!reply.succeeded()) {
         *error = reply.error(name);
         return std::nullopt;

@@ -22,7 +22,7 @@ IppPointer printerRequest(ipp_op_t operation, const QByteArray &printerUri);
 // Where requests about a printer are posted: its own place at the server, which may want a login.
 QByteArray resourceOf(const QByteArray &printerUri);
 
-// The value of an attribute as text; a nil string when the answer lacks it.
+// The value of an attribute as text; a null string when the answer lacks it.
 QString attributeText(ipp_t *answer, const char *name);
 QString valueText(ipp_attribute_t *attribute);
 QStringList attributeTexts(ipp_t *answer, const char *name);
@@ -43,12 +43,12 @@ struct QueueFacts
 
 // How much is asked: the state alone is a small answer.
 enum class QueueQuestion { Everything, State };
-// Nil with an error when the server does not know the queue, which people call `name`, or does not answer.
+// Null with an error when the server does not know the queue, which people call `name`, or does not answer.
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error,
                                      QueueQuestion question = QueueQuestion::Everything);
 // The server's own queues, as they are now, in its order: without the user's settings, and without printers
-// that it has found in the network. Nil with an error when the server does not answer.
+// that it has found in the network. Null with an error when the server does not answer.
 std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintError *error);
 // "ipp://localhost/printers/NAME" with the name escaped.
 QByteArray printerUriOfQueue(const QString &queue);

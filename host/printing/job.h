@@ -45,12 +45,12 @@ struct JobRequest
 // How a job is doing.
 struct JobStatus
 {
-    // Gone: the server knows nothing of it any more, so nobody knows how it ended.
+    // Gone: the server no longer knows the job, so its end is not known.
     enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed, Gone };
     State state = State::Unknown;
     bool printerStopped = false; // it waits because its printer has been stopped
     QString message;             // why, for the user; may be empty
-    bool isHeldByUser = false;   // on hold until somebody releases it, and not until a time
+    bool isHeldByUser = false;   // on hold until it is released, not until a time
     int printedPages = 0;        // so far; 0 where the printer does not count
 
     bool isFinal() const { return state >= State::Cancelled; }
@@ -86,7 +86,8 @@ struct Submission
     QString code() const; // for scripts
 };
 
-// Who looks on while a job is sent. Both are called on the thread that sends it, often; empty ones are not.
+// Observes a job while it is sent. Both functions are called often, on the thread that sends; empty ones are
+// not called.
 struct SubmissionWatch
 {
     std::function<void(qint64 sent, qint64 total)> progress; // bytes of all documents together

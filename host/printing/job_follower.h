@@ -12,7 +12,7 @@
 
 namespace host {
 
-// Asks how a job is doing, beside the thread that it lives on, until the job has ended: every second at
+// Polls the state of a job on a worker thread until the job has ended: every second at
 // first, every five seconds when the job takes longer, one request each time. A server that does not answer
 // is asked again; one that does not know the job any more is not.
 class JobFollower : public QObject

@@ -18,7 +18,7 @@ namespace host {
 namespace {
 
 constexpr unsigned long betweenTries = 200; // milliseconds
-// How long a server is waited for by somebody who does not want to wait, but to know what became of the job.
+// How long a server is given to say what became of a job that the user has given up.
 constexpr std::chrono::seconds patienceAtTheEnd(3);
 
 JobStatus::State jobState(int ippState)

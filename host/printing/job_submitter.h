@@ -23,7 +23,7 @@ public:
 private:
     // False with an error when the queue does not take this job.
     bool checkQueue(PrintError *error);
-    // The one way in which documents are told to the server, or nil with an error.
+    // The one way in which documents are told to the server, or null with an error.
     std::optional<QByteArray> formatOf(const Document &document, PrintError *error) const;
     // Options that say what the documents are, and preferences that the server adds to every job by itself.
     void takeOptions();

@@ -27,7 +27,7 @@ struct LoginQuestion
     bool isInClear = false; // the answer crosses the network without encryption
 };
 
-// Asks a person; nil when they do not want to answer. Called on the thread that makes the request.
+// Asks a person; null when they do not want to answer. Called on the thread that makes the request.
 using LoginPrompt = std::function<std::optional<Login>(const LoginQuestion &)>;
 
 // How long a server is waited for, in milliseconds.
@@ -36,16 +36,16 @@ struct ServerPatience
     int connectTime = 10'000;
     int idleTime = 30'000; // without a byte going either way
     // Until a job whose fate it does not tell is given up for not known: after it broke off, to come back;
-    // after it was silent or somebody gave up, for all that it is asked then.
+    // after it was silent or the user gave up, for all that it is asked then.
     int recoveryTime = 6'000;
 };
 
-// Who is asked, and what they have answered, so that one answer does for every request of a program; and how
+// The login prompt and its last answer, so that one answer does for every request of a program; and how
 // long they wait. One thread at a time.
 struct LoginKeeper
 {
     ServerPatience patience;
-    LoginPrompt prompt; // empty: nobody is asked, and what needs a login is refused
+    LoginPrompt prompt; // empty: the user is not asked, and what needs a login is refused
     std::optional<Login> given;
     // What was accepted, as the server's HTTP side wants it: sent along from the start on later connections,
     // since a refusal may cross with the request and end as a broken connection.

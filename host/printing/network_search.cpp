@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds betweenLooks(150);
 
 }
 
-// What a search and whoever waits for it share.
+// State shared by a search and its receiver.
 struct NetworkSearch::Finds
 {
     std::mutex mutex;

@@ -14,7 +14,7 @@ namespace host {
 
 class PrintSystem;
 
-// Looks for printers in the network beside the thread that it lives on, and tells of each soon after it was
+// Searches the network for printers on a worker thread, and reports each soon after it was
 // found. May go while it looks.
 class NetworkSearch : public QObject
 {

@@ -32,8 +32,8 @@ struct PrinterWish
     bool isForAnyone() const { return printer.isEmpty() && ppdFile.isEmpty(); }
 };
 
-// All of these ask the print system, and block. Nil with an error when the destination or the PPD file cannot
-// be had; a queue whose PPD is broken is opened without one.
+// All of these ask the print system, and block. Null with an error when the destination or the PPD file
+// cannot be had; a queue whose PPD is broken is opened without one.
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const PrinterWish &wish, PrintError *error);
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const Destination &destination,
                                          const QString &ppdFile, PrintError *error);

@@ -16,7 +16,7 @@ namespace host {
 QList<std::pair<QString, QString>> parseJobOptions(const QString &text);
 
 // What a switch takes: True, Yes, On, Enabled or a whole number other than 0; False, No, Off, Disabled, None
-// or 0; whatever the case. Nil for everything else.
+// or 0; whatever the case. Null for everything else.
 std::optional<bool> switchValue(const QString &text);
 
 } // namespace host

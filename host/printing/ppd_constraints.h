@@ -9,7 +9,7 @@
 
 namespace host {
 
-// What a document's PPD forbids beside what is marked, in the words of the document, which owns it.
+// What a document's PPD forbids together with what is marked, in the words of the document, which owns it.
 class PpdConstraints
 {
 public:

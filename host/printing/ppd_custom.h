@@ -32,7 +32,7 @@ struct CustomParameter
     QString typeName() const;
     // "a whole number from 1 to 9".
     QString inWords() const;
-    // The value in its plain form, lengths in points; nil when it is not one of this parameter.
+    // The value in its plain form, lengths in points; null when it is not one of this parameter.
     std::optional<QString> read(const QString &text) const;
 };
 
@@ -45,7 +45,7 @@ struct CustomChoice
     QList<CustomParameter> parameters;
 
     bool isSecret() const;
-    // The parameters' values in their plain form, in order; nil, and what would be taken in a user's words,
+    // The parameters' values in their plain form, in order; null, and what would be taken in a user's words,
     // when the choice is not one of this kind. `option` is what the words call the option. Words never repeat
     // a value.
     std::optional<QStringList> read(const QString &choice, const QString &option, QString *problem) const;
@@ -75,7 +75,7 @@ struct CustomLength
 bool isCustomChoice(const QString &choice);
 // A number as the print system writes it, without needless zeros.
 QString plainNumber(double number);
-// The custom choice of an option with the values that the record holds; nil when it has none.
+// The custom choice of an option with the values that the record holds; null when it has none.
 std::optional<CustomChoice> customChoiceOf(ppd_file_s *ppd, ppd_option_s *option);
 
 } // namespace host

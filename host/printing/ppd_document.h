@@ -54,7 +54,7 @@ public:
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
     QString defaultChoice(const QString &keyword) const;
-    // The measures of a choice of PageSize; nil when the PPD does not tell them.
+    // The measures of a choice of PageSize; null when the PPD does not tell them.
     std::optional<PaperSize> paperSize(const QString &choice) const;
     // Whether it stands for a unit that is or is not installed.
     bool isInstallable(const QString &keyword) const;
@@ -90,7 +90,7 @@ public:
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword) const;
     // Another number whenever that answer may have changed for the option.
     quint32 forbiddenRevision(const QString &keyword) const;
-    // Nil when there is no conflict or libcups finds no way out. `keep` is left as it is where that is
+    // Null when there is no conflict or libcups finds no way out. `keep` is left as it is where that is
     // possible.
     std::optional<Resolution> resolution(const QString &keep = QString()) const;
 

@@ -26,7 +26,7 @@ bool isSame(const QString &one, const QString &other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
-// The name of a size by its measures, such as "{x-dimension=21000 y-dimension=29700}"; nil where there is
+// The name of a size by its measures, such as "{x-dimension=21000 y-dimension=29700}"; null where there is
 // none.
 QString sizeName(const char *collection)
 {

@@ -22,7 +22,7 @@ namespace host {
 QList<Preset> presetsIn(const QByteArray &content, const QString &queue);
 // The names of all presets, by their queue in lower case.
 QMap<QString, QStringList> presetNamesIn(const QByteArray &content);
-// The content with a preset in place of its earlier lines, or at the end. Nil with an error that says what a
+// The content with a preset in place of its earlier lines, or at the end. Null with an error that says what a
 // line cannot hold.
 std::optional<QByteArray> withPreset(const QByteArray &content, const QString &queue, const Preset &preset,
                                      PrintError *error);

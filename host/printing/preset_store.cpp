@@ -120,8 +120,8 @@ private:
     platform::UniqueFd m_fd;
 };
 
-// Beside the file, with the rights and the owner of the earlier one; -1 and errno when it cannot be written.
-// Without an earlier one it gets `mode`, less the process's umask where it is the user's own.
+// In the folder of the file, with the rights and the owner of the earlier one; -1 and errno when it cannot be
+// written. Without an earlier one it gets `mode`, less the process's umask where it is the user's own.
 class NewFile
 {
 public:
@@ -135,7 +135,7 @@ public:
         if (m_fd && isReplacing && ::fchown(m_fd.get(), facts.st_uid, facts.st_gid) == 0)
             (void)::fchmod(m_fd.get(), facts.st_mode & 07777);
         else if (m_fd && isReplacing)
-            (void)::fchmod(m_fd.get(), facts.st_mode & 0777); // somebody else's file, which becomes ours
+            (void)::fchmod(m_fd.get(), facts.st_mode & 0777); // another user's file, which becomes ours
         else if (m_fd && !isUsers)
             (void)::fchmod(m_fd.get(), mode);
     }
@@ -246,7 +246,7 @@ QString PresetStore::fileOf(const QString &queue, const QString &name, PrintErro
         if (*error)
             return {};
         if (file && holds(file->content, queue, name)) {
-            // A user's change to what is everybody's becomes the user's own.
+            // A user's change to a shared preset becomes the user's own preset.
             const bool isMine = path == m_files.users || m_files.writesForEverybody;
             return isMine ? path : m_files.users;
         }

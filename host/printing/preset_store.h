@@ -24,9 +24,9 @@ struct Preset
     bool operator==(const Preset &) const = default;
 };
 
-// The presets that libcups reads, in the files where it looks for them: one for everybody and one of the
+// The presets that libcups reads, in the files where it looks for them: one for all users and one of the
 // user's, whose word counts where both name an option. Every call reads the files anew, and blocks; calls may
-// come from any thread and from several processes at once. A change is made under a lock of ours, beside the
+// come from any thread and from several processes at once. A change is made under a lock of ours, next to the
 // file, and takes its place whole: lines of others stay as they are, byte for byte. Other programs know no
 // lock: what they write while we do is looked for before and after, and kept.
 class PresetStore
@@ -41,7 +41,7 @@ public:
     };
     // As libcups finds them.
     static Files filesOfCups();
-    // Where the settings that a queue was printed with last are kept; readable by nobody else.
+    // Where the settings that a queue was printed with last are kept; readable by the user alone.
     static Files filesOfLastUsed();
 
     explicit PresetStore(Files files = filesOfCups()) : m_files(std::move(files)) {}
@@ -49,7 +49,7 @@ public:
     // Of each queue that has any, by its name in lower case: libcups minds no case.
     using Names = QMap<QString, QStringList>;
     std::optional<Names> names(PrintError *error) const;
-    // In the order of the files. Nil with an error when a file that is there cannot be read.
+    // In the order of the files. Null with an error when a file that is there cannot be read.
     std::optional<QList<Preset>> list(const QString &queue, PrintError *error) const;
     // Adds a preset, or takes the place of the one of that name. Empty options take it away.
     bool save(const QString &queue, const Preset &preset, PrintError *error) const;
@@ -57,12 +57,12 @@ public:
     bool rename(const QString &queue, const QString &from, const QString &to, PrintError *error) const;
     bool remove(const QString &queue, const QString &name, PrintError *error) const;
 
-    // Why a preset cannot bear this name, in a user's words; nil when it can.
+    // Why a preset cannot bear this name, in a user's words; null when it can.
     static QString nameProblem(const QString &name);
 
 private:
     std::optional<QByteArray> contents(PrintError *error) const;
-    // Makes new content of the old; nil with an error for a change that cannot be made.
+    // Makes new content of the old; null with an error for a change that cannot be made.
     using Change = std::function<std::optional<QByteArray>(const QByteArray &content, PrintError *error)>;
     bool change(const QString &path, const Change &change, PrintError *error) const;
     // The file that holds a preset; where a new one goes when none does.

@@ -129,11 +129,11 @@ std::optional<PrintError> problemOfServer(LoginKeeper *login)
 
 PrintSystem::~PrintSystem() = default;
 
-// One call's own knowledge of who is logged in, which it gives back when it ends.
+// The login that one call works with; it is given back when the call ends.
 class CupsPrintSystem::Visit
 {
 public:
-    // Who does not want to log in is asked again for what they do themselves, not for what is asked over and
+    // A user who declines to log in is asked again for their own actions, not for what is asked over and
     // over by a clock.
     enum class Cause { User, Clock };
     explicit Visit(CupsPrintSystem *system, Cause cause = Cause::User) : m_system(system)
@@ -178,7 +178,7 @@ void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
     m_login.prompt = std::move(prompt);
 }
 
-// Who has answered one call, or does not want to, need not answer the others that were under way.
+// An answer to one call, or a refusal, also serves the others that were under way.
 std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQuestion &question)
 {
     const std::lock_guard asking(m_promptMutex);

@@ -28,7 +28,7 @@ class PrintSystem
 public:
     virtual ~PrintSystem();
 
-    // Every queue and preset, to choose from: without their options, which destination() gives. Nil with an
+    // Every queue and preset, to choose from: without their options, which destination() gives. Null with an
     // error when the server cannot be asked; empty when there is none.
     virtual std::optional<QList<Destination>> destinations(PrintError *error) = 0;
     // One of them by name ("queue" or "queue/instance"); the user's default for an empty name.
@@ -41,12 +41,13 @@ public:
     // False with an error when the server does not do it.
     virtual bool changeJob(const Destination &destination, int jobId, JobAction action,
                            PrintError *error) = 0;
-    // The same destination with the state its queue has now, asked with one request; nil when nobody answers.
+    // The same destination with the state its queue has now, asked with one request; null when the server
+    // does not answer.
     virtual std::optional<Destination> withState(const Destination &destination) = 0;
     // Looks for printers in the network that need no queue; destination() and all that comes after it know
     // those that were found. False from `found`, which is called on this thread, ends the search.
     virtual void searchNetwork(const std::function<bool(const Destination &)> &found) = 0;
-    // Who is asked where the server wants a user name and a password; nil means no. Without it such requests
+    // Called where the server wants a user name and a password; null means no. Without it such requests
     // are refused. One answer does for all.
     virtual void setLoginPrompt(LoginPrompt prompt) = 0;
 };
@@ -74,7 +75,7 @@ public:
 
 private:
     class Visit;
-    // Of a queue that must be there, or be made; nil with an error.
+    // Of a queue that must be there, or be made; null with an error.
     std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
                                       PrintError *error);
     // What the printer of a job that has not begun says, which not each look at the job asks for anew.
@@ -86,7 +87,7 @@ private:
     LoginKeeper m_login;
     int m_refusals = 0;        // of people to answer
     bool m_wasRefused = false; // and they have done nothing since
-    std::mutex m_promptMutex;  // held while somebody is asked
+    std::mutex m_promptMutex;  // held while the user is asked
     std::mutex m_waitingMutex; // guards what follows
     struct Waiting
     {

@@ -47,7 +47,7 @@ const std::array<Known, 20> knownReasons = {{
      QT_TRANSLATE_NOOP("host::ReasonText", "The print server does not trust a program for this printer.")},
 }};
 
-// What the server says where nobody has given a reason, which the state itself tells already.
+// What the server says where no reason was given, which the state itself tells already.
 const std::array<const char *, 2> emptyWords = {"Paused", "Rejecting Jobs"};
 
 QString textOf(QString keyword)

@@ -181,7 +181,7 @@ bool ServerConnection::connect()
     return true;
 }
 
-// In short tries, because libcups asks nobody meanwhile whether to go on. One that ends early has been
+// In short tries, because libcups does not ask meanwhile whether to go on. One that ends early has been
 // refused.
 bool ServerConnection::open()
 {

@@ -33,7 +33,7 @@ struct Reply
     bool wasSentWhole = false;            // all of it was handed over: the server may have acted on it
     bool wasGarbled = false;              // something came back
     bool wasSilent = false;               // lost, because nothing moved for too long
-    bool wasGivenUp = false;              // lost, because nobody here wanted to wait any more
+    bool wasGivenUp = false;              // lost, because the caller gave up
     int status = IPP_STATUS_CUPS_INVALID; // an ipp_status_t; a server may send any number
     http_status_t httpStatus = HTTP_STATUS_ERROR;
     IppPointer message; // when answered
@@ -70,7 +70,7 @@ public:
     // bytes sent so far.
     Reply send(IppPointer request, const QByteArray &resource, QIODevice *document,
                const std::function<void(qint64)> &progress = {});
-    // A file of the server, of at most `limit` bytes. Nil without an error where there is none.
+    // A file of the server, of at most `limit` bytes. Null without an error where there is none.
     std::optional<QByteArray> fetch(const QByteArray &resource, qint64 limit, PrintError *error);
 
     // Which connection it is: each time it is opened it gets another number. 0 while it is closed.

@@ -20,7 +20,7 @@ using namespace host;
 
 namespace {
 
-// The program beside this one, as in a build folder, else in the folder that programs are installed in.
+// The program in this one's folder, as in a build folder, else in the folder that programs are installed in.
 QString dialogProgram()
 {
     const QString here = QCoreApplication::applicationDirPath();
@@ -87,7 +87,7 @@ int main(int argc, char **argv)
     DoorService service(QDBusConnection::sessionBus(), parser.value(program), idleTime);
     if (!service.start())
         return 1;
-    // The service lives beside all that its user does. What has been looked at once takes a third of its
+    // The service runs as long as the user's session. What has been looked at once takes a third of its
     // memory.
     ::dl_iterate_phdr(forgetConstants, nullptr);
     return QCoreApplication::exec();

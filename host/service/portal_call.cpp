@@ -47,7 +47,7 @@ void PortalCall::run(const QString &handle, const QJsonObject &request, platform
     m_handle = handle;
     connect(&m_dialog, &DialogProcess::answered, this, [this, results](const QJsonObject &answer) {
         const int response = answer.value(QLatin1String("response")).toInt(Other);
-        if (m_replied) // taken back; what was chosen is of no use to anybody
+        if (m_replied) // withdrawn; what was chosen is of no use any more
             return;
         if (response == Done)
             reply(Done, results(answer));

@@ -13,7 +13,7 @@
 #include <utility>
 
 // What applications tell the print portal, and are told, translated from and to the names of the print
-// system. Values come from anybody: what makes no sense is passed over.
+// system. Values are untrusted: what makes no sense is passed over.
 namespace host {
 
 // Names and values; the order counts.

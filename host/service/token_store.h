@@ -26,7 +26,7 @@ public:
 
     // Never 0, and not to be guessed from others.
     uint add(const QString &appId, const QJsonObject &job);
-    // Nil, and the token stays good for its owner, when it is another application's.
+    // Null, and the token stays good for its owner, when it is another application's.
     std::optional<QJsonObject> take(uint token, const QString &appId);
     bool isEmpty() const { return m_entries.isEmpty(); }
 

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-// A panel that cannot reach its device takes the settings for it out of the job; nil when it has not.
+// A panel that cannot reach its device takes the settings for it out of the job; null when it has not.
 QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &before,
                         const platform::PrintSettings &now)
 {

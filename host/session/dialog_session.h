@@ -55,7 +55,7 @@ public:
     bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
-    const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before anybody chose
+    const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before the first choice
     int panelCount() const { return m_panels.count(); }
     platform::PrintDialogPanel *panel(int index) const { return m_panels.at(index).panel.get(); }
     QStringList panelKeywords(int index) const { return m_panels.at(index).keywords; }
@@ -65,9 +65,9 @@ public:
     // Whether the value of an option, a panel's key or a job option is a password or a code. It is then
     // neither shown nor stored, nor told to another program.
     bool isSecret(const QString &key) const;
-    // The panel that answers a key or key path beside the PPD options, or -1.
+    // The panel that answers a key or key path other than the PPD options, or -1.
     int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
-    // The keys and key paths beside PPD options that a panel lets itself be set by.
+    // The keys and key paths other than PPD options that a panel can be set by.
     QStringList settableKeysOf(int panel) const { return m_panels.settableKeysOf(panel); }
     // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
     // their options stand. These are not restored, since a panel may ask a device that is switched off.
@@ -93,7 +93,7 @@ public:
     void addNotice(const QString &notice) { m_notices.append(notice); }
 
     // What is missing for the protection that has been chosen, in words: a code without private printing, or
-    // the reverse. Nil when nothing is.
+    // the reverse. Null when nothing is.
     QString protectionGap() const;
     // The code that is missing for a choice, as a password is for private printing; null when none is.
     const Protection::Secret *missingCode() const;

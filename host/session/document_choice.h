@@ -10,8 +10,8 @@
 namespace host {
 
 // Which of the documents that a dialog was opened for are printed, and which one is looked at. Paths are as
-// file_name.h has them; "-" is the standard input. Where another program hands a document over later, there are
-// no paths, but the title of the job can be chosen.
+// file_name.h has them; "-" is the standard input. Where another program hands a document over later, there
+// are no paths, but the title of the job can be chosen.
 class DocumentChoice : public QObject
 {
     Q_OBJECT

@@ -35,8 +35,8 @@ bool looksLikeOptionOfAPpd(const QString &name);
 
 // What is sent with the job, one option a name. Of several that would bear a name, the user's word comes
 // first, then the marks of the PPD and what panels have set, then the user's defaults for the printer.
-// Choices are sent that somebody has made or that are not the PPD's default; with them the standard name that
-// a default of the queue would otherwise contradict them under. What is marked and not sent is listed as
+// Choices are sent that were made explicitly or that are not the PPD's default; with them the standard name
+// that a default of the queue would otherwise contradict them under. What is marked and not sent is listed as
 // `Shown`, for comparing with the job that the server has made.
 QList<JobOption> jobOptions(const JobOptionSources &sources);
 

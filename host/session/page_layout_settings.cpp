@@ -205,7 +205,7 @@ QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
     const auto add = [&](const QString &name, const QString &value) {
         options.append({name, value, Kind::Attribute});
     };
-    // A default that goes by an older name would be added by the server beside what is sent.
+    // A default that goes by an older name would be added by the server to what is sent.
     const auto contradict = [&](const QString &name) {
         if (defaults.contains(name))
             add(name, QStringLiteral("false"));

@@ -78,7 +78,7 @@ QVariant switchOf(const QString &text, QString *problem)
     return on ? QVariant(*on) : QVariant();
 }
 
-// The text as a value of this type; nil and what the type takes when it is none.
+// The text as a value of this type; null and what the type takes when it is none.
 QVariant typed(const QString &text, QMetaType type, QString *problem)
 {
     switch (type.id()) {

@@ -19,7 +19,7 @@ struct ProtectionText
     Q_DECLARE_TR_FUNCTIONS(ProtectionText)
 };
 
-// The protection that a way out would give up; nil when it gives up none.
+// The protection that a way out would give up; null when it gives up none.
 QString givenUpBy(const Resolution &resolution, const PpdDocument &ppd, const Protection &protection)
 {
     for (const OptionChoice &change : resolution) {

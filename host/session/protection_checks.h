@@ -14,7 +14,7 @@ class ChosenSettings;
 struct Destination;
 
 // A way out of the conflicts that gives up nothing that protects, with `keep` as it is where that is
-// possible. Nil where there is none; where there are ways that do give up something, `givenUp` (may be null)
+// possible. Null where there is none; where there are ways that do give up something, `givenUp` (may be null)
 // says what.
 std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Protection &protection,
                                                const QString &keep, QString *givenUp);
@@ -33,7 +33,7 @@ QString lackingProtection(const PpdDocument &ppd, const Protection &protection, 
                           const Destination &destination);
 // What is missing for the protection that has been chosen, in words: all of it, a code, or the choice that
 // uses a code.
-// Nil when nothing is.
+// Null when nothing is.
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
                       const Destination &destination);
 

@@ -18,8 +18,8 @@ namespace host {
 class DialogSession;
 
 // What the user has changed in a session, step by step, to be undone and redone. A step is whatever differs
-// between two looks at the session, so it takes along what panels did about it and settings that nobody names
-// here. Changes of the same settings that follow each other closely, as while typing, are one step. The
+// between two looks at the session, so it takes along what panels did about it and settings that are not
+// named here. Changes of the same settings that follow each other closely, as while typing, are one step. The
 // session is borrowed and outlives the history.
 class SessionHistory : public QObject
 {
@@ -33,7 +33,7 @@ public:
     void noteLater();
     // What comes next is a step of its own, however soon it comes.
     void endGesture() { m_sinceStep.invalidate(); }
-    // What differs from the last look is nobody's wish, such as what a panel has read: no step.
+    // What differs from the last look was not asked for by the user, such as what a panel has read: no step.
     void absorb();
     // While the result lives, note() and absorb() do nothing: for a change that lets events be handled before
     // it is complete, as a panel does that asks its device. To be followed by one of them.
@@ -57,7 +57,7 @@ public:
     // The preset that the session's destination may be has another name now, or none: nothing leads back to
     // the old.
     void renameInstance(const QString &from, const QString &to);
-    // What panels held beside options before anything was changed.
+    // What panels held apart from options before anything was changed.
     const QVariantMap &startingPanelValues() const { return m_startingPanelValues; }
     // How it stood at the last look.
     const SessionState &now() const { return m_now; }

@@ -123,8 +123,8 @@ void SessionPanels::save(int index)
     lookAtKeys(index, true);
 }
 
-// Keys of a panel beside its PPD options, such as the profiles of a device. What differs from the last look
-// has been chosen since.
+// Keys of a panel other than its PPD options, such as the profiles of a device. What differs from the last
+// look has been chosen since.
 void SessionPanels::lookAtKeys(int index, bool areChosen)
 {
     platform::KeyValueObject *object = objectOf(index);

@@ -30,9 +30,9 @@ public:
     platform::KeyValueObject *objectOf(int index) const { return at(index).panel->keyValueObject(); }
     // The panel that handles a PPD option, or -1.
     int ofKeyword(const QString &keyword) const;
-    // The panel that answers a key or key path beside the PPD options, or -1.
+    // The panel that answers a key or key path other than the PPD options, or -1.
     int ofSetting(const QString &keyPath) const;
-    // The keys and key paths beside PPD options that a panel lets itself be set by.
+    // The keys and key paths other than PPD options that a panel can be set by.
     QStringList settableKeysOf(int index) const;
 
     // Whether a call into a panel is under way.
@@ -52,9 +52,9 @@ public:
     void setOn(int index, const QString &keyword, const QString &choice);
 
 Q_SIGNALS:
-    // A key of a panel has another value, whoever set it.
+    // A key of a panel has another value, for whatever reason.
     void keyChanged(int index, const QString &key);
-    // A panel that was saved holds another value for a key beside its PPD options than it did before.
+    // A panel that was saved holds another value for a key other than its PPD options than before.
     void chosen(const QString &key, const QString &value);
     // Localised.
     void failed(const QString &problem);

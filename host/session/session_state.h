@@ -21,7 +21,7 @@ class DialogSession;
 struct SessionState
 {
     QMap<QString, QString> marks; // by PPD option; where a panel holds another choice, that one
-    QVariantMap panelValues;      // what panels hold beside PPD options: "number of the panel/key path"
+    QVariantMap panelValues;      // what panels hold apart from PPD options: "number of the panel/key path"
     QVariantMap printSettings;
     GeneralSettings general;
     ChosenSettings chosen;

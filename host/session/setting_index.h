@@ -15,14 +15,14 @@ class DialogSession;
 struct FoundSetting
 {
     QString page;       // "general", "more", or a panel's kind
-    QString keyword;    // of the PPD option or general setting; nil for a control that sets something else
+    QString keyword;    // of the PPD option or general setting; null for a control that sets something else
     QString option;     // in words
-    QString choice;     // a choice of it, as the PPD calls it; nil for the option as a whole
+    QString choice;     // a choice of it, as the PPD calls it; null for the option as a whole
     QString choiceText; // in words
 };
 
 // Finds settings by words in any order, whole or in part, in the user's language or as the PPD has them;
-// capitals and accents make no difference. Made for one session when somebody searches for the first time;
+// capitals and accents make no difference. Made for one session when the user first searches;
 // keeps no reference to it. Codes, and the options that keep them, are not in it.
 class SettingIndex
 {

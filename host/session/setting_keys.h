@@ -28,7 +28,7 @@ public:
     bool knows(const QString &key) const;
     // False for a value that the print system may understand and the page layout does not.
     bool takes(const QString &key, const QString &value) const;
-    // The keys that can be set beside PPD options, as "panel kind" and "key"; "general" stands for the
+    // The keys that can be set apart from PPD options, as "panel kind" and "key"; "general" stands for the
     // settings that every printer has.
     QList<std::pair<QString, QString>> panelKeys() const;
 

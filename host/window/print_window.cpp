@@ -293,7 +293,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
     connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
     showState(State::Choosing);
-    if (focusWidget() == m_cancel) // where it went while there was nothing else
+    if (focusWidget() == m_cancel) // the waiting page had moved the focus to Cancel
         m_book->list()->setFocus(Qt::OtherFocusReason);
     m_messages.showNotices();
 }

@@ -31,7 +31,7 @@ QVChoiceSlider_M880::QVChoiceSlider_M880(QWidget *parent) : QSlider(Qt::Horizont
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractSlider::actionTriggered, this, &QVChoiceSlider_M880::adjustAction);
-    // Without tracking a held thumb moves and no value follows; who asks for its position must find a choice,
+    // Without tracking a held thumb moves and no value follows; a reader of its position must find a choice,
     // too.
     connect(this, &QAbstractSlider::sliderMoved, this,
             [this](int position) { setSliderPosition(nearestPosition(position).value_or(value())); });
@@ -82,7 +82,7 @@ void QVChoiceSlider_M880::adjustAction(int action)
 
 void QVChoiceSlider_M880::sliderChange(SliderChange change)
 {
-    // Whoever sets the value other than by showing it has chosen it.
+    // A value that is set other than for display is a choice of the user.
     if (change == SliderValueChange && !m_showing && !m_settling) {
         const QScopedValueRollback settling(m_settling, true);
         setValue(nearestPosition(value()).value_or(m_shown));

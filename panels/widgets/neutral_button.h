@@ -5,7 +5,7 @@
 
 #include <QToolButton>
 
-// A quiet button beside a slider that takes its value back to neutral. Can be pressed only while there is
+// A flat button next to a slider that resets it to neutral. Can be pressed only while there is
 // something to take back and the slider may be used.
 class QVNeutralButton_M880 : public QToolButton
 {

@@ -7,12 +7,12 @@
 
 class QLabel;
 
-// A line of plain text with an icon that says why something beside it cannot be used. Takes its place in the
+// A line of plain text with an icon that says why a control next to it cannot be used. Takes its place in the
 // layout only while there is a text.
 class QVNotice_M880 : public QFrame
 {
     Q_OBJECT
-    // A nil or empty text hides the notice.
+    // A null or empty text hides the notice.
     Q_PROPERTY(QString text READ text WRITE setText)
     // Something went wrong, rather than is so.
     Q_PROPERTY(bool warning READ isWarning WRITE setWarning)
@@ -23,7 +23,7 @@ public:
     void setText(const QString &text);
     bool isWarning() const { return m_warning; }
     void setWarning(bool warning);
-    // As high as the text needs in the width that the notice has, so that nobody cuts its last line off.
+    // As high as the text needs in the width that the notice has, so that its last line is not cut off.
     QSize minimumSizeHint() const override;
 
 protected:

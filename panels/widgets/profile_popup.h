@@ -14,12 +14,12 @@
 class QVProfilePopUp_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
-    // A list of strings, shown as plain text; nil is empty.
+    // A list of strings, shown as plain text; null is empty.
     Q_PROPERTY(QVariant profileNames READ profileNames WRITE setProfileNames)
-    // The device's numbers of the names, in the same order; nil or a shorter list goes on counting from
+    // The device's numbers of the names, in the same order; null or a shorter list goes on counting from
     // there.
     Q_PROPERTY(QVariant profileRows READ profileRows WRITE setProfileRows)
-    // A number of the device; nil when there is none to show.
+    // A number of the device; null when there is none to show.
     Q_PROPERTY(QVariant selectedProfile READ selectedProfile WRITE setSelectedProfile NOTIFY profileChosen)
     // How a number without a name is shown, with "%1" for the number.
     Q_PROPERTY(QString unnamedText READ unnamedText WRITE setUnnamedText)

@@ -55,7 +55,7 @@ QVariant QVSliderAccessible_M880::currentValue() const
 
 void QVSliderAccessible_M880::setCurrentValue(const QVariant &value)
 {
-    // As a hand does it, so that whoever listens to the slider's actions hears of it.
+    // As the user does it, so that receivers of the slider's actions are notified.
     slider()->setSliderDown(true);
     slider()->setSliderPosition(value.toInt());
     slider()->setSliderDown(false);

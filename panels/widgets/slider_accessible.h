@@ -7,8 +7,8 @@
 
 class QVChoiceSlider_M880;
 
-// What assistive technology finds at a slider: its number, and as text the signed one that stands beside it.
-// Made and owned by Qt when somebody asks, for as long as the slider lives.
+// What assistive technology finds at a slider: its number, and as text the signed value shown next to it.
+// Created and owned by Qt on request, for as long as the slider lives.
 class QVSliderAccessible_M880 : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:

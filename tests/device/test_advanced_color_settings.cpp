@@ -167,7 +167,7 @@ void TestAdvancedColorSettings::readsWhatThereIs()
 
 void TestAdvancedColorSettings::restoreAndSave_data()
 {
-    QTest::addColumn<QVariantList>("stored"); // in the order of the keys, nil where absent
+    QTest::addColumn<QVariantList>("stored"); // in the order of the keys, null where absent
     QTest::addColumn<QString>("saved");
     const QVariant nil;
     const auto row = [](const char *name, const QVariantList &stored, const QString &saved) {

@@ -193,7 +193,7 @@ void TestSnmpClient::characterSets_data()
     QTest::addColumn<int>("mibEnum");
     QTest::addColumn<quint32>("encoding");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text"); // nil where the bytes are not valid
+    QTest::addColumn<QString>("text"); // null where the bytes are not valid
     const auto row = [](int mibEnum, quint32 encoding, const char *bytes, const QString &text) {
         QTest::addRow("%d %s", mibEnum, text.isNull() ? "invalid" : "")
             << mibEnum << encoding << QByteArray(bytes) << text;

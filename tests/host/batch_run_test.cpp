@@ -262,7 +262,7 @@ void BatchRunTest::customValues_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("problem"); // nil when it is taken
+    QTest::addColumn<QString>("problem"); // null when it is taken
     QTest::newRow("points") << u"PageSize"_s << u"Custom.300x400"_s << QString();
     QTest::newRow("millimetres") << u"PageSize"_s << u"Custom.100x200.5mm"_s << QString();
     QTest::newRow("no size") << u"PageSize"_s << u"Custom.foo"_s << u"sizes from 72 × 72 to 1000 × 2000 pt"_s;

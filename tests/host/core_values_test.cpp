@@ -55,7 +55,7 @@ private:
 void CoreValuesTest::pageRanges_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("expected"); // nil: refused
+    QTest::addColumn<QString>("expected"); // null: refused
     QTest::newRow("nothing is all pages") << u"  "_s << u""_s;
     QTest::newRow("spaces") << u" 1 - 3 , 8 "_s << u"1-3,8"_s;
     QTest::newRow("sorted and merged") << u"8,1-3,2-5,6"_s << u"1-6,8"_s;
@@ -126,7 +126,7 @@ void CoreValuesTest::standardInputIsSpooled()
 void CoreValuesTest::filesWithoutASize_data()
 {
     QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("problem"); // nil where it can be printed
+    QTest::addColumn<QString>("problem"); // null where it can be printed
     const QString pipe = m_folder.filePath(u"pipe"_s);
     QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
     QTest::newRow("made when it is read") << u"/proc/self/status"_s << QString();

@@ -108,7 +108,7 @@ void GeneralPageTest::layoutIsSent_data()
     QTest::addColumn<QMap<QString, QString>>("defaults"); // of the queue
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");               // that the user chooses
-    QTest::addColumn<QMap<QString, QString>>("sent"); // nil for not at all
+    QTest::addColumn<QMap<QString, QString>>("sent"); // null for not at all
     using Map = QMap<QString, QString>;
     QTest::newRow("several") << Map() << u"number-up"_s << u"4"_s << Map{{u"number-up"_s, u"4"_s}};
     QTest::newRow("usual") << Map() << u"number-up"_s << u"1"_s << Map{{u"number-up"_s, {}}};

@@ -101,5 +101,5 @@ private:
     bool refuses(host::PrintError *error) const;
 };
 
-// The value an option is sent with; nil when it is not sent.
+// The value an option is sent with; null when it is not sent.
 QString sentValue(const QList<host::JobOption> &options, const QString &name);

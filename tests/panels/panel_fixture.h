@@ -37,7 +37,7 @@ public:
     const platform::PrintDialogPanels &panels() const { return m_panels; }
     // Restores a panel and shows its view as a window that has the focus.
     QWidget *show(QVPDE_M880 *panel);
-    // Keyword of the choice that the PPD has marked; nil when there is none.
+    // Keyword of the choice that the PPD has marked; null when there is none.
     QString marked(const QString &option) const;
     const std::shared_ptr<platform::Bundle> &bundle() const { return m_bundle; }
 

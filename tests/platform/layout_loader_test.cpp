@@ -90,7 +90,7 @@ private Q_SLOTS:
     void brokenFilesAreNamed();
 
 private:
-    // Why the form cannot be loaded; nil when it can, or the whole message when it does not name the file.
+    // Why the form cannot be loaded; null when it can, or the whole message when it does not name the file.
     static QString problemOf(const TestBundle &files);
 };
 

@@ -101,7 +101,7 @@ private Q_SLOTS:
         dialog.host.onTold = [&](const QString &keyword) {
             before.append(dialog.marked(colorType) + dialog.host.settings.value(keyword).toString());
         };
-        // A number is no choice, so it becomes a setting; nil takes a setting away.
+        // A number is no choice, so it becomes a setting; null takes a setting away.
         dialog.manager.setPpdDictionaryForOptions(
             {{colorType, u"Mono"_s}, {foreign, u"new"_s}, {halftone, 2}},
             {foreign, colorType, stamp, halftone});

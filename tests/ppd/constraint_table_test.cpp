@@ -60,7 +60,7 @@ private Q_SLOTS:
         // The option whose name is not valid text is left out, and its line with it.
         QCOMPARE(table.conflictableOptions(colorType, u"Auto"_s), QSet<QString>());
         QCOMPARE(table.conflictableOptions(u"Nowhere"_s, u"Mono"_s), QSet<QString>());
-        // A nil choice is not the empty one.
+        // A null choice is not the empty one.
         QVERIFY(table.conflicts(u"Duplex"_s, u""_s, u"Tray"_s, u"Two"_s));
         QVERIFY(!table.conflicts(u"Duplex"_s, QString(), u"Tray"_s, u"Two"_s));
         QVERIFY(ConstraintTable(InlinePpd(ppdOption("ColorType", {"Auto"})).get()).isEmpty());

@@ -20,7 +20,7 @@ private Q_SLOTS:
         {
             QString text;
             std::array<int, 3> parts;
-            QString reformatted; // nil where the text is no version
+            QString reformatted; // null where the text is no version
         };
         const Case cases[]{
             {u"10"_s, {10, 0, 0}, u"10.0.0"_s},

@@ -14,7 +14,7 @@
 // They go with the object.
 struct PrivateBonjour
 {
-    // Nil, or why it cannot be done here. `hosts` takes the place of /etc/hosts.
+    // Null, or why it cannot be done here. `hosts` takes the place of /etc/hosts.
     QString start(const QString &hosts)
     {
         qputenv("PATH", qgetenv("PATH") + ":/usr/sbin");

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
 #include "tests/support/paths.h"
 

@@ -26,7 +26,7 @@ struct SnmpReply
     unsigned char type = noSuchInstance;
     QByteArray value;
     qsizetype announcedLength = -1; // written as the value's length, unless negative
-    QByteArray instead;             // sent instead of all this, unless nil
+    QByteArray instead;             // sent instead of all this, unless null
     const char *from = nullptr;     // another loopback address to send it from
 };
 using SnmpReplies = QList<SnmpReply>;

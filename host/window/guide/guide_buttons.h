@@ -7,7 +7,7 @@
 
 namespace host {
 
-// In the footer, for whoever does not know the keys: a button that searches for a setting and one that opens
+// In the footer, for users who do not know the keys: a button that searches for a setting and one that opens
 // the page's help. Each names its key in its tool tip. A click leaves the focus where it is.
 class GuideButtons : public QWidget
 {

@@ -22,7 +22,7 @@ namespace host {
 
 namespace {
 
-// Of the panel whose page this is; nil where it has none.
+// Of the panel whose page this is; null where it has none.
 QString panelHelp(const DialogSession &session, const QString &page)
 {
     for (int i = 0; i < session.panelCount(); ++i) {
@@ -37,7 +37,7 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
 {
     QList<HelpPage::Explained> explained;
     for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
-        // A button and the field beside it may share a text.
+        // A button and the field next to it may share a text.
         const QString text = found.control->whatsThis();
         const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
                                         [&](const HelpPage::Explained &told) { return told.text == text; });

@@ -12,7 +12,7 @@ class QTextBrowser;
 namespace host {
 
 // A page that shows a help text in the place of the page of settings that it explains. Loads nothing, neither
-// images nor pages: links are told, and whoever owns the page shows what they name.
+// images nor pages: links are reported, and the owner of the page shows what they name.
 class HelpPage : public QWidget
 {
     Q_OBJECT

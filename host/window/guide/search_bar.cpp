@@ -20,7 +20,7 @@ namespace host {
 namespace {
 
 constexpr int mostRows = 9;
-constexpr int rowAir = 10; // pixels, beside the height of the text
+constexpr int rowAir = 10; // pixels, in addition to the height of the text
 constexpr int margin = 16; // pixels, at the sides
 
 } // namespace

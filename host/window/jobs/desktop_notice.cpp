@@ -17,7 +17,7 @@ namespace {
 
 constexpr int longest = 10'000; // milliseconds
 
-// The service beside the program, as in a build folder, else where it is installed.
+// The service in the program's folder, as in a build folder, else where it is installed.
 QString serviceProgram()
 {
     const QString here = QCoreApplication::applicationDirPath();
@@ -28,7 +28,7 @@ QString serviceProgram()
                      .absoluteFilePath();
 }
 
-// Texts go through a pipe: everybody can read the arguments of a process.
+// Texts go through a pipe: all users can read the arguments of a process.
 QByteArray noticeOf(const QString &title, const QString &text, bool isUrgent)
 {
     const QJsonObject notice{{QStringLiteral("title"), title},

@@ -7,7 +7,7 @@
 
 namespace host {
 
-// Tells somebody who looks at other windows something, in the way of their desktop, where it has one. Returns
+// Shows a desktop notification, where the desktop has them. Returns
 // at once; what speaks with the desktop is a process of its own. Texts are plain text.
 void notifyDesktop(const QString &title, const QString &text, bool isUrgent);
 // The same for a program without a window: waits up to ten seconds. False when the desktop shows nothing.

@@ -12,7 +12,8 @@ namespace host {
 
 namespace {
 
-// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
+// A print server that is near answers within this, and its answer is shown at once. The user does not notice
+// the wait.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
 
@@ -111,7 +112,7 @@ bool JobSender::dropReading()
     return true;
 }
 
-// The files of what is remembered may be slow: nobody waits for them.
+// The settings file may be slow: nothing waits for it.
 void JobSender::end(const Submission &submission)
 {
     m_progressTimer.stop();

@@ -17,7 +17,7 @@ namespace host {
 
 class HeldSignals;
 
-// Sends documents to the print server as a job, beside the dialog's thread, and tells how far it has got.
+// Sends documents to the print server as a job, on a worker thread, and reports its progress.
 // Belongs to its window and sends one job at a time. The print system is borrowed and outlives it. The
 // signals that end the program are held while a job is on its way, so that it can be cancelled first.
 class JobSender : public QObject
@@ -30,7 +30,8 @@ public:
         QStringList files;                       // to be opened in it
         QString documentName;                    // of the only document; empty for what its file is called
         JobRequest request;                      // its documents, and an empty title, come from the files
-        std::function<void()> rememberUse; // called beside, once the job has been accepted; may be empty
+        std::function<void()>
+            rememberUse; // called on a worker thread once the job has been accepted; may be empty
     };
 
     JobSender(PrintSystem &system, QObject *parent);

@@ -154,7 +154,7 @@ void ResultPage::showStatus(const JobStatus &status)
     showState(state);
 }
 
-// Only what the job allows: one that is over, or that nobody knows of, cannot be stopped.
+// Only what the job allows: one that has ended, or that is not known, cannot be stopped.
 void ResultPage::showActions(const JobStatus &status)
 {
     const bool isOpen = status.state != JobStatus::State::Unknown && !status.isFinal();

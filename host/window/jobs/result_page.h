@@ -15,7 +15,7 @@ namespace host {
 class StatusGlyph;
 
 // What became of a job that was accepted, or may have been: its number and its state, which keeps up with the
-// print server for as long as it is shown, and what can be done to it; or that nobody knows.
+// print server for as long as it is shown, and what can be done to it; or that it is not known.
 class ResultPage : public QWidget
 {
     Q_OBJECT

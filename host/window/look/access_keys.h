@@ -14,9 +14,10 @@ class QWidget;
 
 namespace host {
 
-// Sees to it that no two texts on the screen have the same access key, whoever wrote or translated them: the
-// parts of a window choose one after the other, and where a key is taken the text gets another. Labels of
-// fields that ask for none get one, too. Follows what is shown and hidden. A child of its window.
+// Ensures that no two texts on the screen have the same access key, even between host, panels and
+// translations: the parts of a window choose one after the other, and where a key is taken the text gets
+// another. Labels of fields that ask for none get one, too. Follows what is shown and hidden. A child of its
+// window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
@@ -38,7 +39,7 @@ protected:
 private:
     struct Texts
     {
-        QString own;      // as it was set by whoever made the widget
+        QString own;      // as the owner of the widget set it
         QString shown;    // as it was left here
         QString measured; // what the width was last reserved for, in this font
         QFont font;

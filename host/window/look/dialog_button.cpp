@@ -15,7 +15,7 @@ DialogButton::DialogButton(const QString &text, QWidget *parent) : QPushButton(t
     setMinimumWidth(96);
 }
 
-// With air beside the words, also for the frame of the focus, which is drawn inside.
+// With space on both sides of the words, also for the focus frame, which is drawn inside.
 QSize DialogButton::sizeHint() const
 {
     return QPushButton::sizeHint().grownBy({8, 0, 8, 0});

@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-constexpr int sideAir = 12; // pixels beside the words, on both sides together
+constexpr int sideAir = 12; // pixels on both sides of the words together
 
 } // namespace
 

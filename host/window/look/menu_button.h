@@ -19,7 +19,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    // Whoever hears it calls setMenu() before it returns.
+    // The receiver calls setMenu() before it returns.
     void menuWanted();
 
 protected:

@@ -109,7 +109,7 @@ void MessageBar::showMessage(const Message &message)
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
     const QPointer<QWidget> before = m_before;
     removeButtons();
-    // A single button stands beside the text, which keeps the bar low.
+    // A single button stands next to the text, which keeps the bar low.
     m_row->setDirection(message.answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     for (qsizetype i = 0; i < message.answers.size(); ++i)
         addButton(message.answers.at(i), static_cast<int>(i));

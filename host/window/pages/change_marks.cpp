@@ -40,7 +40,7 @@ bool isControl(const QWidget *widget)
            qobject_cast<const QAbstractSlider *>(widget);
 }
 
-// Whatever a control says when its user has changed it, and when somebody else has: who looks finds out.
+// What a control says of a change by its user, and of a change that came with another setting.
 void onChange(QWidget *widget, SessionHistory *history)
 {
     const auto note = [history] { history->noteLater(); };

@@ -19,10 +19,10 @@ class SessionHistory;
 struct SettingChange;
 
 // Marks the controls of a page whose settings are not what they were when the dialog opened or a preset was
-// applied: with a sign beside the control that takes the change back when it is pressed, with the same in the
-// control's context menu, and in words for who listens. Finds the controls by the settings that they bear: a
-// panel's by what they are bound to, those of the host's pages by their object name. Touches nothing of the
-// page itself; the signs lie over it. A child of what holds the page.
+// applied: with a sign next to the control that takes the change back when it is pressed, with the same in
+// the control's context menu, and in words for a screen reader. Finds the controls by the settings that they
+// bear: a panel's by what they are bound to, those of the host's pages by their object name. Touches nothing
+// of the page itself; the signs lie over it. A child of what holds the page.
 class ChangeMarks : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private:
         QPointer<QWidget> widget;
         QStringList keys;
         QPointer<ChangeMark> mark; // while it is changed
-        QString ownDescription;    // for who listens, without the change
+        QString ownDescription;    // for a screen reader, without the change
         QString description;       // what was made of it
     };
     void findControls();

@@ -18,7 +18,7 @@ class QLabel;
 namespace host {
 
 // Where the values of a custom choice are typed: width, height and unit of a size; otherwise a field for each
-// value, with its range. Keeps what is typed; whoever shows it marks the choice.
+// value, with its range. Keeps what is typed; its owner marks the choice.
 class CustomEditor : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     // Shows the values of a choice; what is no choice of this kind leaves the fields as they are.
     void setChoice(const QString &choice);
     QString choice() const;
-    // What is wrong with what was typed, in a user's words; nil when nothing is.
+    // What is wrong with what was typed, in a user's words; null when nothing is.
     QString problem() const;
     // Marks what is asked for as missing, until the next key, and puts the cursor there.
     void showProblem();

@@ -313,7 +313,7 @@ void GeneralPage::showProblem()
     m_pages->selectAll();
 }
 
-// Who listens to the field hears of it as of something that belongs to the field.
+// A screen reader speaks it as part of the field.
 void GeneralPage::setProblemShown(bool shown)
 {
     m_problem->setVisible(shown);

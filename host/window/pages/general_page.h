@@ -34,7 +34,7 @@ public:
     explicit GeneralPage(DialogSession *session, DocumentChoice *documents = nullptr,
                          QWidget *parent = nullptr);
 
-    // Nil string when everything typed here makes sense.
+    // Null string when everything typed here makes sense.
     QString problem() const;
     // Puts the cursor where the problem is.
     void showProblem();

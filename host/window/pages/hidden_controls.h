@@ -11,7 +11,7 @@ class QWidget;
 namespace host {
 
 // Takes controls off the page of a panel whose options the administrator does not show: each with what
-// belongs to it, which is its label, and the rest of its row where the page is a grid (the value beside a
+// belongs to it, which is its label, and the rest of its row where the page is a grid (the value next to a
 // slider, the button that resets it). They stay away when the panel shows them. The widgets belong to the
 // page, and may go first; the object is a child of what shows the page.
 class HiddenControls : public QObject

@@ -24,7 +24,7 @@ class MorePage : public QWidget
 public:
     explicit MorePage(DialogSession *session, QWidget *parent = nullptr);
     void refresh();
-    // Nil string when everything typed here makes sense.
+    // Null string when everything typed here makes sense.
     QString problem() const;
     // Puts the cursor where the problem is.
     void showProblem();
@@ -41,7 +41,7 @@ private:
     // A few rows of one group.
     struct Part
     {
-        QString title; // nil for rows that go on where the part before ends
+        QString title; // null for rows that go on where the part before ends
         QStringList keywords;
     };
     QList<Part> partsOf(const DialogSession &session) const;

@@ -29,7 +29,7 @@ public:
     OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, QObject *parent);
 
     platform::ChoiceBox *box(const QString &keyword) const;
-    // What keeps a custom choice that the user has begun from being marked; nil when nothing does.
+    // What keeps a custom choice that the user has begun from being marked; null when nothing does.
     QString problem() const;
     // Puts the cursor there.
     void showProblem();

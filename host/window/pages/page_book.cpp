@@ -40,7 +40,7 @@ const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
 const QString summaryName = QStringLiteral("summary");
 
-// What the administrator has fixed on the page of a panel, and who says so; nil for nothing.
+// What the administrator has fixed on the page of a panel, and who says so; null for nothing.
 QString policyNote(const DialogSession &session, int panel)
 {
     if (panel < 0)
@@ -175,7 +175,7 @@ void PageBook::resizeEvent(QResizeEvent *event)
 void PageBook::addPage(const QString &title, const QString &name, int panel)
 {
     m_pages.push_back({title, name, panel, nullptr, nullptr});
-    const QSignalBlocker quiet(m_list); // a page is shown when somebody asks for it
+    const QSignalBlocker quiet(m_list); // pages are built on first use
     m_list->addPage(title);
 }
 

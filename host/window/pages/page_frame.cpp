@@ -122,7 +122,7 @@ void PageFrame::reveal(QWidget *control)
 {
     if (!m_content || !m_content->isAncestorOf(control))
         return;
-    // Where it is to be: rows that were just made are laid out later.
+    // Lay out new rows first; otherwise the control's position is not final.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (m_content->layout())
         m_content->layout()->activate();

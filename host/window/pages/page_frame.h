@@ -20,7 +20,7 @@ public:
     PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent = nullptr);
     ~PageFrame() override;
 
-    // For content that belongs to somebody else: parts from it before that one takes it away.
+    // For content that belongs to another owner: detaches it before its owner deletes it.
     void releaseContent();
     // How wide it must be to show everything without scrolling sideways.
     int wantedWidth() const;

@@ -13,15 +13,15 @@ class DocumentChoice;
 class PageCounter;
 
 // Whether ranges of pages lie behind the end of every document that is printed. The documents are counted
-// when somebody asks for the first time, beside the window; without the programs for that nothing is wrong.
+// when first needed, on a worker thread; without the programs for that every range is valid.
 // Session and choice are borrowed.
 class RangeCheck : public QObject
 {
     Q_OBJECT
 public:
     RangeCheck(DialogSession *session, DocumentChoice *documents, QObject *parent);
-    // What is wrong with ranges that normalizedPageRanges() has made; nil when nothing is, and for as long as
-    // that is not known: known() follows.
+    // What is wrong with ranges that normalizedPageRanges() has made; null when nothing is, and for as long
+    // as that is not known: known() follows.
     QString problem(const QString &ranges);
 
 Q_SIGNALS:

@@ -27,7 +27,7 @@ class MenuButton;
 class SessionHistory;
 
 // The presets of the printer that is chosen, as a menu of the window, and the history of what its user has
-// changed. Reads and writes presets beside the window's thread, and nothing before the menu is first opened.
+// changed. Reads and writes presets on a worker thread, and nothing before the menu is first opened.
 // A child of the window; the session is borrowed and let go before it goes.
 class SettingsControl : public QObject
 {
@@ -85,7 +85,7 @@ private:
     void rename();
     void remove();
     void useAsDefault();
-    // Runs beside the window; then what is to be done about it here, if the session is still the same.
+    // Runs on a worker thread; `done` then runs here, if the session is still the same.
     void edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done);
     void forget(const QString &name);
     void leaveInstance(const QString &name, const QString &another);

@@ -15,7 +15,7 @@ class PrinterList;
 class PrinterSearch;
 
 // A pop-up of printers whose list can be searched: typing narrows it to the printers that have every word.
-// Two lines for each: its name, and how it is and where. The list belongs to somebody else and outlives it.
+// Two lines for each: its name, and how it is and where. The list is borrowed and outlives it.
 class PrinterBox : public QComboBox
 {
     Q_OBJECT

@@ -31,7 +31,7 @@ public:
     int put(const Destination &printer);
     // Adds a printer that was found in the network, unless it has a queue.
     void putFound(const Destination &printer);
-    // A row for a printer that somebody has asked for and nobody has told of, unless it is there. It cannot
+    // A row for a requested printer that has not been reported yet, unless it is there. It cannot
     // be chosen before put(), putFound() or setPrinters() bring the printer. Its row.
     int putAwaited(const QString &name);
     bool isAwaited(const QString &name) const { return m_isAwaited && name == m_standIn; }
@@ -54,7 +54,7 @@ private:
     QList<Destination> m_printers;
     QStringList m_recent;
     QString m_standIn;        // the destination name of that row; empty where there is none
-    bool m_isAwaited = false; // nobody has told of it
+    bool m_isAwaited = false; // it has not been reported yet
 };
 
 // How a printer is and where it stands, in words: "Ready · Room 655".

@@ -9,9 +9,10 @@ namespace host {
 
 namespace {
 
-// A print server that is near answers within this, and what it says is shown at once. Nobody notices.
+// A print server that is near answers within this, and its answer is shown at once. The user does not notice
+// the wait.
 constexpr std::chrono::milliseconds nearServer(50);
-// Whoever steps through the printers faster than this wants none of those between.
+// A user who steps through the printers faster than this wants none of those between.
 constexpr std::chrono::milliseconds betweenPicks(200);
 
 PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)

@@ -14,7 +14,7 @@
 
 namespace host {
 
-// Opens printers beside the dialog's thread, one at a time: a later one takes the place of one that is still
+// Opens printers on a worker thread, one at a time: a later one takes the place of one that is still
 // being opened. Belongs to its window. The print system is borrowed and outlives it.
 class PrinterOpener : public QObject
 {
@@ -27,13 +27,13 @@ public:
 
     // The receiver gets what is opened, unless it is dropped.
     void open(const PrinterWish &wish, Receiver receiver);
-    // Asks beside for the name of the printer used last, for want of anything else to show meanwhile.
+    // Reads the name of the printer used last on a worker thread, to be shown meanwhile.
     void askUsedLast();
     // Waits for a near server, 50 ms at most; what takes longer is told of at once.
     void deliverNear();
     // Delivers what came while it was held up.
     void deliverHeld();
-    // Nobody waits for a printer any more, nor for one that is picked.
+    // Drops the printer that is being opened and the one that was picked.
     void drop();
     // Also while it is held up.
     bool isOpening() const { return m_opening.isPending() || m_whenIdle; }

@@ -30,8 +30,8 @@ public:
     // All that the print server has; the chosen one stays in the list where it lacks it, and where it lacks
     // only the chosen preset, its printer is shown.
     void setPrinters(const QList<Destination> &printers);
-    // The destination names of those used lately, the latest first. They come first once nobody looks at the
-    // list.
+    // The destination names of those used lately, the latest first. They come first while the user does not
+    // look at the list.
     void setRecent(const QStringList &recent);
     // One more printer, or news of one that is there.
     void putPrinter(const Destination &news);

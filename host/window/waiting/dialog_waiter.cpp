@@ -121,7 +121,7 @@ bool DialogWaiter::wait(const std::function<bool()> &ended)
         if (!std::exchange(m_noticed, true))
             Q_EMIT waitingNoticed();
     });
-    // Many short calls are one long wait to who looks on.
+    // To the user, many short calls are one long wait.
     const std::chrono::milliseconds passed(m_activities > 0 ? m_sinceBegin.elapsed() : 0);
     notice.start(std::max(noticeable - passed, std::chrono::milliseconds(0)));
     if (!ended() && !m_givenUp && loop.exec() != 0)
@@ -166,7 +166,7 @@ void DialogWaiter::step(bool forward)
         widget->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
-// Who waits has to return first.
+// The waiting call has to return first.
 void DialogWaiter::settleLater()
 {
     if (m_depth == 0 && m_activities == 0 && !m_left.isEmpty())

@@ -40,7 +40,7 @@ public:
     // it back; the button not to wait does not.
     void promise(const QString &what, std::function<void()> then);
     bool isUnderWay() const { return m_depth > 0; }
-    // The user has left the dialog: nobody waits for anything any more, and nothing brings it back.
+    // The user has left the dialog: all waiting ends, and the dialog does not come back.
     void dismiss() { m_isDismissed = true; }
     bool isDismissed() const { return m_isDismissed; }
 
