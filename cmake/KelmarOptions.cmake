@@ -117,8 +117,17 @@ add_library(kelmar_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cp
 set_target_properties(kelmar_precompiled PROPERTIES AUTOMOC OFF)
 target_link_libraries(kelmar_precompiled PRIVATE kelmar_options Qt6::Widgets)
 target_precompile_headers(kelmar_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
+# A program would be compiled with -fPIE, which does not go with headers that were compiled for libraries. Some builds of Qt ask
+# for -fPIC themselves.
+get_target_property(qt_options Qt6::Core INTERFACE_COMPILE_OPTIONS)
+if(NOT "-fPIC" IN_LIST qt_options)
+  set(kelmar_pic -fPIC)
+endif()
 function(kelmar_use_precompiled target)
-  target_precompile_headers(${target} REUSE_FROM kelmar_precompiled)
+  set(precompiled kelmar_precompiled ${ARGN}) # or another target that compiles them
+  list(GET precompiled -1 precompiled)
+  target_precompile_headers(${target} REUSE_FROM ${precompiled})
+  target_compile_options(${target} PRIVATE ${kelmar_pic})
 endfunction()
 
 # An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ... [NO_MOC])

@@ -130,8 +130,15 @@ void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
     settle();
     MessageBar *bar = window.messageBar();
     QCOMPARE(window.focusWidget(), bar->buttons().first());
-    QCOMPARE(QAccessible::queryAccessibleInterface(bar)->role(), QAccessible::Notification);
-    QCOMPARE(QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Name), bar->text());
+    // A screen reader announces the texts, and does not repeat them with the buttons.
+    const auto parts = bar->findChildren<QWidget *>();
+    const auto texts = std::find_if(parts.begin(), parts.end(), [](QWidget *part) {
+        return QAccessible::queryAccessibleInterface(part)->role() == QAccessible::Notification;
+    });
+    QVERIFY(texts != parts.end());
+    QCOMPARE((*texts)->accessibleName(), bar->text());
+    QVERIFY(!(*texts)->isAncestorOf(bar->buttons().first()) && bar->accessibleName().isEmpty());
+    QVERIFY(bar->buttons().first()->accessibleDescription().isEmpty());
     QCoreApplication::processEvents();
     QCOMPARE(box->mapTo(&window, QPoint()), before); // not pushed away
     QTest::keyClick(bar->buttons().first(), Qt::Key_Return);

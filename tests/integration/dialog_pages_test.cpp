@@ -164,7 +164,7 @@ void DialogPagesTest::checkWidth()
 {
     const PageBook *book = m_window->book();
     const auto *page = qobject_cast<const PageFrame *>(book->builtPage(book->currentRow()));
-    QVERIFY2(m_window->width() < book->wantedWidth() || page->width() >= page->wantedWidth(),
+    QVERIFY2(m_window->width() < book->wantedSize().width() || page->width() >= page->wantedWidth(),
              qPrintable(u"the page is %1 wide and wants %2"_s.arg(page->width()).arg(page->wantedWidth())));
 }
 
