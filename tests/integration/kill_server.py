@@ -65,10 +65,24 @@ class PrintServer:
         return jobs
 
 
+def pdf(content):
+    """A PDF file of one page, with a stream that nothing refers to."""
+    objects = [b"<< /Type /Catalog /Pages 2 0 R >>", b"<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+               b"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] >>",
+               b"<< /Length %d >>\nstream\n%s\nendstream" % (len(content), content)]
+    data, places = b"%PDF-1.4\n", []
+    for number, text in enumerate(objects, 1):
+        places.append(len(data))
+        data += b"%d 0 obj\n%s\nendobj\n" % (number, text)
+    table = b"".join(b"%010d 00000 n \n" % place for place in places)
+    return data + b"xref\n0 5\n0000000000 65535 f \n%strailer\n<< /Size 5 /Root 1 0 R >>\nstartxref\n%d\n%%%%EOF\n" % (
+        table, len(data))
+
+
 def document(folder, size):
     path = folder / f"{size}.pdf"
     if not path.exists():
-        path.write_bytes(b"%PDF-1.4\n" + bytes(32 + i % 90 for i in range(4096)) * (size // 4096 + 1))
+        path.write_bytes(pdf(bytes(32 + i % 90 for i in range(4096)) * (size // 4096 + 1)))
     return path
 
 

@@ -389,7 +389,7 @@ void PrintJobTest::documentOfAnApplicationIsSent()
     QCOMPARE(job->copies, 2);
     QCOMPARE(job->options.value(u"PrintMode"_s), u"Private"_s);
     QCOMPARE(send(u"nowhere"_s, document), QByteArray("{\"response\":2}\n"));
-    QCOMPARE(send(u"office"_s, u"/dev/null"_s), QByteArray("{\"response\":2}\n"));
+    QCOMPARE(send(u"office"_s, u"/dev/null"_s), QByteArray("{\"reason\":\"document\",\"response\":2}\n"));
     QVERIFY(m_server.capturedJobs().last() == job->id);
 }
 
