@@ -172,7 +172,8 @@ class Program:
             (node for node in self.all() if self.has(node, "FOCUSED") and node.name == name), None))
 
     def texts(self):
-        return [node.name for node in self.all("label") if node.name]
+        """The texts of labels, and of labels that a screen reader announces."""
+        return [node.name for role in ("label", "notification") for node in self.all(role) if node.name]
 
     def says(self, words):
         """Waits for a text that holds the words; the whole of it."""
