@@ -113,7 +113,7 @@ bool writeTo(const char *path, QByteArrayView text) noexcept
 Confinement::Confinement(const QByteArray &program, const QByteArray &folder, int document, qint64 size)
     : m_folder(folder), m_folderOptions("mode=0700,nr_inodes=1000,size=" + QByteArray::number(size)),
       m_filter(&systemCallFilter()),
-      // A user without any rights in the namespace, whoever it is outside.
+      // A user without any rights in the namespace, whatever user it is outside.
       m_userMap("65534 " + QByteArray::number(geteuid()) + " 1"),
       m_groupMap("65534 " + QByteArray::number(getegid()) + " 1")
 {

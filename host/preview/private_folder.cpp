@@ -22,8 +22,8 @@ PrivateFolder::PrivateFolder()
         m_path = path;
 }
 
-// Few files are removed at once, which is what programs that are ended leave. A folder that somebody has
-// filled takes longer and is left to another thread.
+// Removes a few files at once, as a program that was ended leaves them. A folder that a program has filled
+// takes longer and is removed on a worker thread.
 void PrivateFolder::remove()
 {
     constexpr int few = 200;

@@ -464,7 +464,7 @@ void WindowAnswersTest::deviceIsSilent()
     m_heart->start();
     clickAndGiveUp(list->viewport(), list->visualItemRect(list->item(row)).center());
     QCOMPARE(m_window->book()->currentRow(), row);
-    QVERIFY(!find<QPushButton>("presets")->text().contains(u"changed"_s)); // by nobody
+    QVERIFY(!find<QPushButton>("presets")->text().contains(u"changed"_s)); // not by the user
     QVERIFY(m_window->session()->markChoice(u"ImageType"_s, u"Advanced"_s));
     auto *reload = find<QPushButton>("reloadButton");
     QTRY_VERIFY(reload->isVisible());
