@@ -25,8 +25,12 @@ void mark(const QString &name, const QString &value, DialogSession *session)
     if (refusal)
         return;
     if (ppd->hasOption(name)) {
-        if (!ppd->isInstallable(name))
-            session->markChoice(name, value);
+        if (!ppd->isInstallable(name) && session->markChoice(name, value) && session->isSecret(name)) {
+            // A digit is given even where it is the printer's default.
+            ChosenSetting digit{name, value};
+            digit.isSecret = true;
+            session->noteChosen(digit);
+        }
         return;
     }
     if (!ppd->takesOption(name))

@@ -43,10 +43,8 @@ public:
     DialogSession *session() const { return m_session.get(); } // null while there is none
     // The last job that was accepted, or may have been; null when there was none.
     const std::optional<Submission> &submission() const { return m_jobs.submission(); }
-    // Why the task could not be done after all, where open() could not tell yet.
-    const PrintError &refusal() const { return m_refusal; }
-    // The title that the user has given the job; null where it cannot be chosen.
-    const QString &jobTitle() const { return m_documentChoice.title(); }
+    const PrintError &refusal() const { return m_refusal; } // why the task failed, if open() could not tell
+    const QString &jobTitle() const { return m_documentChoice.title(); } // null unless the user chooses it
     // Whether no printer is being opened and no panel asks its device: what is shown is complete.
     bool isSettled() const { return !m_opener.isBusy() && !m_wait.isUnderWay(); }
     bool isDismissed() const { return m_wait.isDismissed(); } // closed, perhaps before open() has returned

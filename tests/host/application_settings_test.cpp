@@ -191,10 +191,11 @@ void ApplicationSettingsTest::privatePrintingWithoutACode_data()
     QTest::addColumn<bool>("isMissing");
     const QJsonObject isPrivate{{u"cups-PrintMode"_s, u"Private"_s}};
     QTest::newRow("remembered, without the digits") << isPrivate << true;
-    QJsonObject whole = isPrivate;
-    whole.insert(u"cups-DINDigit1"_s, u"1"_s);
-    QTest::newRow("one digit of two") << whole << true;
-    whole.insert(u"cups-DINDigit5"_s, u"5"_s);
+    QJsonObject half = isPrivate;
+    half.insert(u"cups-DINDigit1"_s, u"1"_s);
+    QTest::newRow("half a code") << half << true;
+    QJsonObject whole = half;
+    whole.insert(u"cups-DINDigit5"_s, u"0"_s); // the printer's default
     QTest::newRow("with digits") << whole << false;
     QTest::newRow("not private") << QJsonObject{{u"cups-PrintMode"_s, u"Normal"_s}} << false;
 }
