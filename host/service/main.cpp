@@ -63,11 +63,11 @@ int main(int argc, char **argv)
                                      QStringLiteral("The program to open dialogs with."),
                                      QStringLiteral("path"), dialogProgram());
     const QCommandLineOption idle(QStringLiteral("idle"),
-                                  QStringLiteral("Leave after so many seconds without anything to do."),
+                                  QStringLiteral("Exit after this number of idle seconds."),
                                   QStringLiteral("seconds"), QStringLiteral("30"));
     const QCommandLineOption notice(
         QStringLiteral("notify"),
-        QStringLiteral("Show a notification, which comes on the input, and leave."));
+        QStringLiteral("Show the notification from standard input and exit."));
     parser.addOptions({program, idle, notice});
     parser.process(app);
     if (parser.isSet(notice)) {
