@@ -21,7 +21,7 @@ Engine::Name Engine::store(std::string_view name)
     return stored;
 }
 
-// In the order of the names, so that they are found again by bisection.
+// In the order of the names, so that they can be found by binary search.
 std::vector<Choice> Engine::numberNames(const std::vector<Term> &terms)
 {
     std::vector<std::uint32_t> order(terms.size());
@@ -58,8 +58,7 @@ void Engine::keepLines(const std::vector<Choice> &numbers, std::span<const std::
 
 void Engine::fillRows()
 {
-    // Count what goes into each row, turn the counts into row ends, then fill each row from its end
-    // downwards.
+    // Counts the entries of each row, converts the counts into row ends, then fills each row from its end.
     m_rowStarts.assign(choiceCount() + 1, 0);
     for (const Choice choice : m_terms)
         ++m_rowStarts[choice];
@@ -94,7 +93,7 @@ bool Engine::isPair(Choice first, Choice second) const
 {
     if (first == none || second == none)
         return false;
-    // The shorter row, since one choice may stand in most lines.
+    // Search the shorter row, since one choice may occur in most lines.
     if (linesOf(second).size() < linesOf(first).size())
         std::swap(first, second);
     return std::ranges::any_of(linesOf(first), [&](Line line) {

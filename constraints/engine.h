@@ -15,34 +15,33 @@
 namespace constraints {
 
 using Option = std::uint32_t;
-using Choice = std::uint32_t; // a choice of one option; those of an option follow each other
+using Choice = std::uint32_t; // a choice of one option; the choices of an option are consecutive
 using Line = std::uint32_t;
 inline constexpr std::uint32_t none = ~0U; // no such option, choice or line
 
-// What a PPD forbids together: lines of terms that must not all hold at once. Options and choices are
-// numbered once, when the engine is built, and every later question is one of numbers; a caller that asks
-// often keeps them. Immutable. Names are bytes, compared exactly. Only options and choices that some line
-// names have a number. What an empty choice in a line stands for is not decided here: it is a choice with an
-// empty name.
+// The constraints of a PPD: lines of terms that must not all hold at the same time. Options and choices are
+// numbered once, when the engine is built, and all queries use these numbers; frequent callers should keep
+// them. Immutable. Names are bytes and compared exactly. Only options and choices that occur in a line have a
+// number. The engine does not interpret an empty choice in a line: it is a choice with an empty name.
 class Engine
 {
 public:
     Engine() = default;
-    // `lines` are the numbers of their terms one after another, each line closed by `none`; a term that a
-    // line repeats counts once. Copies the names.
+    // `lines` lists the numbers of the terms of each line, terminated by `none`; repeated terms of a line
+    // count once. Copies the names.
     Engine(const std::vector<Term> &terms, std::span<const std::uint32_t> lines);
 
     std::uint32_t optionCount() const { return std::uint32_t(m_optionNames.size()); }
     std::uint32_t choiceCount() const { return std::uint32_t(m_choiceNames.size()); }
     std::uint32_t lineCount() const { return std::uint32_t(m_lineStarts.size()) - 1; }
 
-    // `none` when no line names it.
+    // `none` if no line names it.
     Option findOption(std::string_view name) const;
     Choice findChoice(Option option, std::string_view name) const;
     std::string_view optionName(Option option) const { return nameAt(m_optionNames[option]); }
     std::string_view choiceName(Choice choice) const { return nameAt(m_choiceNames[choice]); }
     Option optionOf(Choice choice) const { return m_optionOfChoice[choice]; }
-    // From the first to behind the last; the empty choice, where lines name it, is the first.
+    // The range of choices, past-the-end included; the empty choice, if lines name it, is the first.
     std::pair<Choice, Choice> choicesOf(Option option) const
     {
         return {m_choiceStarts[option], m_choiceStarts[option + 1]};
@@ -56,7 +55,7 @@ public:
     {
         return std::span(m_rows).subspan(m_rowStarts[choice], m_rowStarts[choice + 1] - m_rowStarts[choice]);
     }
-    // Whether some line consists of just these two, in whatever order. False when one is `none`.
+    // Whether a line consists of exactly these two, in any order. False if either is `none`.
     bool isPair(Choice first, Choice second) const;
 
 private:
@@ -75,15 +74,15 @@ private:
     void keepLines(const std::vector<Choice> &numbers, std::span<const std::uint32_t> lines);
     void fillRows();
 
-    std::string m_bytes; // every name
+    std::string m_bytes; // all names
     std::vector<Name> m_optionNames;
     std::vector<Name> m_choiceNames;
-    std::vector<Choice> m_choiceStarts{0}; // of an option, and one behind the last
+    std::vector<Choice> m_choiceStarts{0}; // per option, and one past the last
     std::vector<Option> m_optionOfChoice;
     std::vector<std::uint32_t> m_lineStarts{0}; // into m_terms
     std::vector<Choice> m_terms;
     std::vector<std::uint32_t> m_rowStarts{0}; // into m_rows
-    std::vector<Line> m_rows;                  // the lines that each choice is a term of
+    std::vector<Line> m_rows;                  // the lines in which each choice is a term
 };
 
 } // namespace constraints

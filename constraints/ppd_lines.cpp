@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-// The room's door to the PPD interface that libcups means to drop one day, together with ppd_rules.cpp.
+// Together with ppd_rules.cpp the only use of the deprecated PPD interface of libcups in this module.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace constraints {
@@ -24,8 +24,8 @@ std::span<const ppd_const_t> pairsOf(const ppd_file_t *ppd)
                                       : std::span<ppd_const_t>();
 }
 
-// Collects lines, and decides about each distinct term once: what it is to be in the engine, or that lines
-// with it are left out.
+// Collects lines, and determines once for each distinct term which term it becomes in the engine, or that
+// lines with it are left out.
 class Collector
 {
 public:
@@ -66,7 +66,7 @@ private:
     Meaning m_meaning;
     TermTable m_raw;
     TermTable m_meant;
-    std::vector<std::uint32_t> m_numbers; // in m_meant, of each raw term
+    std::vector<std::uint32_t> m_numbers; // index into m_meant of each raw term
     std::vector<std::uint32_t> m_lines;
     std::size_t m_lineStart = 0;
     bool m_lineIsGood = true;
@@ -98,7 +98,7 @@ bool startsWithCustom(std::string_view option)
     return isSameName(option.substr(0, prefix.size()), prefix);
 }
 
-// The term by the PPD's own names, nothing where it has no such option or choice.
+// The term with the PPD's spelling of the names; null if the PPD has no such option or choice.
 std::optional<Term> termOfPpd(ppd_file_t *ppd, const Term &term)
 {
     const bool isCustom = startsWithCustom(term.option) && isSameName(term.choice, "True");

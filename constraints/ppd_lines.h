@@ -11,19 +11,19 @@ struct ppd_file_s;
 
 namespace constraints {
 
-// The two ways to read what a PPD forbids. Both give an engine that no longer needs the PPD; a null PPD gives
-// one without lines.
+// Two interpretations of the constraints of a PPD. The resulting engine does not refer to the PPD. A null PPD
+// results in an engine without lines.
 
-// Word for word: the pairs of the PPD's UIConstraints and NonUIConstraints, whether or not it has such
-// options and choices. A line with a name that `isName` refuses is left out.
+// Literal: the pairs of the PPD's UIConstraints and NonUIConstraints, whether or not it has these options and
+// choices. A line with a name that `isName` rejects is left out.
 Engine linesAsWritten(const ppd_file_s *ppd, bool (*isName)(std::string_view));
 
-// As libcups understands them: the same lines, and cupsUIConstraints of one term or more; names as the PPD's
-// options and choices spell them; lines that name others left out. Choices of PageRegion are choices of
-// PageSize, which is what libcups takes for either.
+// As in libcups: the same lines, and cupsUIConstraints of one or more terms. Names have the spelling of the
+// PPD's options and choices; lines with unknown names are left out. Choices of PageRegion are treated as
+// choices of PageSize, as libcups does.
 Engine linesAsUnderstood(ppd_file_s *ppd);
 
-// Whether two names are the same to libcups, which ignores the case of ASCII letters.
+// Whether libcups treats two names as equal; it ignores the case of ASCII letters.
 bool isSameName(std::string_view first, std::string_view second);
 
 inline constexpr std::string_view pageSizeName = "PageSize";

@@ -95,7 +95,7 @@ void PpdRules::setMarks(Option option, std::span<const Mark> marks)
         if (option != m_pageSize)
             chosen.push_back(m_engine.findChoice(option, mark.second->choice));
     }
-    // libcups keeps the size apart from the marks: marking a PageRegion takes the mark from PageSize.
+    // libcups stores the size separately from the marks: marking PageRegion removes the mark of PageSize.
     if (option == m_pageSize && m_size) {
         const auto [first, end] = m_engine.choicesOf(option);
         for (Choice choice = first; choice < end; ++choice) {

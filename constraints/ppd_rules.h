@@ -19,32 +19,32 @@ struct ppd_size_s;
 
 namespace constraints {
 
-// What libcups's rules say about the marks of an open PPD, without asking libcups, whose answer takes a look
-// at every line. The PPD is borrowed and outlives it; a caller that marks choices calls refresh() before the
-// next question. Names are as the PPD spells them, and views of its bytes.
+// Applies libcups's constraint rules to the marks of an open PPD, without libcups, which would evaluate every
+// line for each query. The PPD is borrowed and outlives this object. A caller that marks choices calls
+// refresh() before the next query. Names have the PPD's spelling and are views of its bytes.
 class PpdRules
 {
 public:
     struct Forbidden
     {
         std::string_view choice;
-        Line line; // one that stands in the way
+        Line line; // a line that forbids the choice
     };
 
     explicit PpdRules(ppd_file_s *ppd);
     PpdRules(const PpdRules &) = delete;
     PpdRules &operator=(const PpdRules &) = delete;
 
-    // Takes over what is marked now. Costs little when nothing has changed.
+    // Takes over the current marks. Cheap if nothing has changed.
     void refresh();
 
     const Engine &engine() const { return m_engine; }
-    // The lines that are broken, as ppdConflicts() counts them.
+    // The violated lines, as ppdConflicts() counts them.
     std::vector<Line> brokenLines() const { return m_state.activeLines(); }
-    // The choices of an option that lines forbid together with the marks of other options, in the PPD's
-    // order.
+    // The choices of an option that are forbidden together with the marks of other options, in the order of
+    // the PPD.
     std::vector<Forbidden> forbiddenChoices(std::string_view option) const;
-    // Another number whenever forbiddenChoices() may have changed for the option.
+    // A number that changes whenever the result of forbiddenChoices() for the option may have changed.
     std::uint32_t revision(std::string_view option) const;
 
 private:

@@ -13,7 +13,7 @@ constexpr std::uint32_t emptySlot = ~0U;
 constexpr std::size_t firstSize = 1024;
 constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
 
-// Plain multiplications: Qt's own hash of a short string takes ten times as long on some processors.
+// Plain multiplications: Qt's hash of a short string takes ten times as long on some processors.
 std::uint64_t mixed(std::uint64_t hash, std::string_view bytes)
 {
     for (; bytes.size() > sizeof hash; bytes.remove_prefix(sizeof hash)) {

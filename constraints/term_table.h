@@ -17,8 +17,8 @@ struct Term
     auto operator<=>(const Term &) const = default;
 };
 
-// Numbers the terms of a PPD's constraint lines while they are read: 0, 1, 2... in the order in which they
-// are first met. Names are compared byte by byte. The bytes are borrowed and outlive the table.
+// Numbers the terms of a PPD's constraint lines while they are read: 0, 1, 2... in the order of their first
+// occurrence. Names are compared byte by byte. The bytes are borrowed and outlive the table.
 class TermTable
 {
 public:
@@ -30,7 +30,7 @@ private:
     void grow();
 
     std::vector<Term> m_terms;
-    std::vector<std::uint32_t> m_hashes; // of each term
+    std::vector<std::uint32_t> m_hashes; // per term
     std::vector<std::uint32_t> m_slots;  // numbers, open addressing; a power of two
 };
 

@@ -38,7 +38,7 @@ QString leadingDigits(const QString &text)
     return digits;
 }
 
-// Shows a text in place of the present one; cursor and selection stay where they were as far as it reaches.
+// Replaces the text. Cursor and selection keep their positions as far as the new text allows.
 void replaceText(QLineEdit *editor, const QString &text)
 {
     const bool selected = editor->hasSelectedText();
@@ -90,7 +90,7 @@ bool QVCodeAssistant_M880::controlTextShouldEndEditing(platform::TextField *cont
 
 QString QVPDE_M880::composeCodeForOption(const QString &prefix)
 {
-    // The number of digits follows the prefix; those in use are longer than a code.
+    // The prefix determines the number of digits; the prefixes in use are longer than a code.
     const qsizetype count = prefix.size() < codeLength + 1 ? prefix.size() : codeLength;
     QString code;
     for (qsizetype position = 1; position <= count; ++position)

@@ -7,16 +7,16 @@
 
 #include <functional>
 
-// Keeps a code field to at most five decimal digits while the user types and pads it to five when editing
-// ends. Stateless; registered under "QVCodeAssistant_M880" for layouts.
+// Limits a code field to five decimal digits while the user types, and pads it to five when editing ends.
+// Stateless; registered under "QVCodeAssistant_M880" for layouts.
 class QVCodeAssistant_M880 : public platform::TextFieldDelegate
 {
 public:
     QVCodeAssistant_M880();
-    // `beep` stands in for the system's beep; by default QApplication::beep().
+    // `beep` replaces the system's beep; by default QApplication::beep().
     explicit QVCodeAssistant_M880(std::function<void()> beep);
 
-    // Whether it is at most five digits and nothing else.
+    // Whether the text consists of at most five digits.
     bool acceptsText(const QString &text) const override;
     void controlTextDidChange(platform::TextField *control, const QVariantMap &userInfo) override;
     // Always true.

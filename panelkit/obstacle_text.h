@@ -7,9 +7,9 @@
 
 class QVPDEManager_M880;
 
-// The words in which panels tell of choices, in the language of the manager's bundle.
+// Texts with which panels describe choices, in the language of the manager's bundle.
 
-// A choice of an option as the interface shows it; the keyword where the PPD has no such choice.
+// A choice of an option as shown in the interface; the keyword if the PPD has no such choice.
 QString QVTextOfChoice(const QVPDEManager_M880 &manager, const QString &option, const QString &choice);
-// Why a control or a choice is not available: the option that stands in its way, and the text of its choice.
+// The reason why a control or choice is not available: the conflicting option and the text of its choice.
 QString QVObstacleText(const QVPDEManager_M880 &manager, const QString &option, const QString &choiceText);

@@ -63,8 +63,8 @@ QVPDE_M880::QVPDE_M880()
 
 QVPDE_M880::~QVPDE_M880()
 {
-    // The key path given is the slider's own name, not the key it shows, so as a rule this finds no
-    // registration; those end with the panel anyway.
+    // The given key path is the slider's own name, not the key it shows, so this usually finds no
+    // registration. Registrations end with the panel in any case.
     if (m_updaterInfo) {
         for (const auto &slider : std::as_const(*m_updaterInfo))
             removeObserverForKeyPath(this, slider ? slider->objectName() : QString());
@@ -91,7 +91,7 @@ bool QVPDE_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)
 
 void QVPDE_M880::loadChoiceLists()
 {
-    const QStringList options = supportedPPDOptionKeys(); // settles the list even without a PPD
+    const QStringList options = supportedPPDOptionKeys(); // creates the list even without a PPD
     if (!m_manager->ppd())
         return;
     for (const QString &option : options) {
@@ -119,8 +119,8 @@ void QVPDE_M880::loadInterface(const QString &nibName)
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());
 }
 
-// "What is this?" of the controls that the layout binds by itself; pop-ups get theirs with their option. What
-// only does something says it in its tool tip already.
+// Sets the "What's This?" texts of controls that the layout binds directly; pop-ups get theirs with their
+// option. Buttons describe their action in their tooltip.
 void QVPDE_M880::explainControls()
 {
     for (const auto &object : m_topLevelNibObjects) {
@@ -211,7 +211,7 @@ QVariant QVPDE_M880::choiceIndex(const QString &option)
 {
     const QVariantList choices = valueForKey(option + choicesSuffix).toList();
     const QVariant current = valueForKey(option);
-    if (current.typeId() != QMetaType::QString) // a number is no keyword, however it is spelt
+    if (current.typeId() != QMetaType::QString) // a number is not a keyword, even if it is spelled like one
         return {};
     const auto found = std::ranges::find_if(choices, [&current](const QVariant &choice) {
         return choice.toMap().value(QVPPDChoiceKey).toString() == current.toString();
@@ -294,7 +294,7 @@ bool QVPDE_M880::saveValuesAndReturnError(QString *)
         platform::TextField::resignFirstResponder(m_view);
         const QStringList keys = supportedPPDOptionKeys();
         auto values = m_manager->ppdDictionaryForOptions(keys);
-        if (!values) // the host keeps no choices for this panel
+        if (!values) // the host stores no choices for this panel
             return true;
         for (const QString &key : keys) {
             const QVariant value = valueForKey(key);
@@ -338,7 +338,7 @@ void QVPDE_M880::sliderDidMove(QObject *sender)
         if (entry.value() == slider)
             key = entry.key();
     }
-    // The position is where the user holds the knob; the slider's value follows only when it is let go.
+    // The position is that of the knob while the user drags it; the slider's value changes only on release.
     if (!key.isNull())
         setValueForKeyPath(QString::number(slider->sliderPosition()), key);
 }
@@ -351,6 +351,7 @@ void QVPDE_M880::observeValueForKeyPathOfObjectChangeContext(const QString &, pl
         return;
     const double value = std::clamp(floatingPointValue(change.value(platform::NSKeyValueChangeNewKey)),
                                     double(slider->minimum()), double(slider->maximum()));
-    // Through the property, as a binding does: a slider may tell what it is shown from what it is moved to.
+    // Through the property, as a binding does, since a slider may distinguish a value set by a program from
+    // one set by the user.
     slider->setProperty("value", qRound(value));
 }

@@ -21,13 +21,13 @@ class QVPDEManager_M880;
 
 extern const QString QVOptionChangedNotification; // "QVOptionChanged"
 
-// Observed key path to slider; exists only where the slider path of older hosts is in use.
+// Maps observed key paths to sliders; used only on the slider path of older hosts.
 using SliderRegistry = QMap<QString, QPointer<QSlider>>;
 
-// What every panel shares: pending choices of its PPD options as keyed values, its layout, save, restore,
-// summary. For an option keyword K it answers K (the choice keyword), K + "Choices" (list of choice
-// dictionaries) and K + "Choice" (index of the choice). Every set of K or K + "Choices" is posted on the
-// manager's notification centre under that key. Nothing reaches the PPD or the host before a save. Owned by
+// Base class of all panels: pending choices of PPD options as keyed values, the layout, save, restore,
+// summary. For an option keyword K it has the keys K (the choice keyword), K + "Choices" (list of choice
+// dictionaries) and K + "Choice" (index of the choice). Setting K or K + "Choices" posts a notification under
+// that key on the manager's notification center. The PPD and the host are not changed before a save. Owned by
 // the host through PrintDialogPanel; holds the manager.
 class QVPDE_M880 : public platform::KeyValueObject,
                    public QVCocoaPDE_M880,
@@ -37,7 +37,7 @@ class QVPDE_M880 : public platform::KeyValueObject,
     Q_OBJECT
     Q_PROPERTY(QStringList supportedPPDOptionKeys READ supportedPPDOptionKeys)
 public:
-    // The panel of class T for one dialog; null when its initWithManager() declines.
+    // Creates the panel of class T for one dialog; null if its initWithManager() returns false.
     template <typename T>
     static std::unique_ptr<T> pdeWithManager(std::shared_ptr<QVPDEManager_M880> manager)
     {
@@ -47,21 +47,22 @@ public:
     QVPDE_M880();
     ~QVPDE_M880() override;
 
-    // Registers what layouts name: the value transformers, the code assistant and the pop-up button. Runs on
-    // the first use of a panel class; repeating it changes nothing.
+    // Registers the names used by layouts: the value transformers, the code assistant and the pop-up button.
+    // Runs on the first use of a panel class; repeated calls have no effect.
     static void initialize();
     // Loads choice lists and, for a class that implements QVPDELoading_M880, the layout. False without a
-    // manager; raises Exception when the layout is missing or does not fit. An override calls this one first.
+    // manager. Raises Exception if the layout is missing or does not match. Overrides must call this function
+    // first.
     virtual bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager);
 
     const std::shared_ptr<QVPDEManager_M880> &manager() const { return m_manager; }
     void setManager(std::shared_ptr<QVPDEManager_M880> manager);
     QString panelName() override;
     void setPanelName(const QString &name);
-    // The bundle's page that is called as the last part of the panel's kind.
+    // The help page of the bundle whose name is the last part of the panel's kind.
     QString helpText() override;
-    // One or two sentences on what an option or key is for: the bundle's text for its name and "?". Null
-    // where it has none.
+    // One or two sentences that explain an option or key: the bundle's text for its name and "?". Null if
+    // there is none.
     QString explanationForKey(const QString &key) const;
     QString panelKind() override { return m_panelKind; }
     void setPanelKind(const QString &kind);
@@ -80,16 +81,17 @@ public:
     // The PPD's default choice keyword of an option; null when it has none.
     QVariant defaultValueForKey(const QString &key);
     void setDefaultValueForKey(const QString &key);
-    // The digits of a code held in PREFIX1 to PREFIX5, and back. A code needs five characters; a shorter one
-    // raises Exception (range).
+    // Joins the digits of a code in PREFIX1 to PREFIX5, and splits them. A code has five characters; a
+    // shorter one raises Exception (range).
     QString composeCodeForOption(const QString &prefix);
     void decomposeCodeForOption(const QString &code, const QString &prefix);
 
-    // Both always true; an Exception inside them is logged.
+    // Both always return true; an Exception inside them is logged.
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     QMap<QString, QString> summaryInfo() override;
-    // Text of the marked choice of an option; null string when it has none or should not be shown.
+    // Text of the marked choice of an option; a null string if nothing is marked or the option should not be
+    // shown.
     virtual QString summaryForKey(const QString &key);
     bool shouldHide() override { return true; }
     void willShow() override {}

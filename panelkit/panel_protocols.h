@@ -15,11 +15,11 @@ public:
     virtual QStringList supportedPPDOptionKeys() = 0;
 };
 
-// Implemented as well by a panel class that has its layout loaded by the base.
+// An optional interface of a panel class whose layout is loaded by the base class.
 class QVPDELoading_M880
 {
 public:
     virtual ~QVPDELoading_M880();
-    // Name of the layout for a printer model; empty for a panel without an interface.
+    // Name of the layout for a printer model; empty for a panel without a user interface.
     virtual QString nibNameForModel(const QString &model) const = 0;
 };

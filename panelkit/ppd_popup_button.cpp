@@ -72,14 +72,15 @@ void QVPopUpButton_M880::ppdValueHasChanged(const platform::Notification &notifi
             decide(index);
         return;
     }
-    // A choice of the own option may stand in the way of others of it; that counts from the next change on.
+    // A choice of this option may conflict with other choices of the same option; that applies from the next
+    // change on.
     for (CurrentChoice &other : m_others) {
         if (other.option == notification.name || other.option == m_optionName)
             follow(&other);
     }
 }
 
-// Only items that the choice before or the one now forbids can have changed.
+// Only items that the previous or the current choice forbids can have changed.
 void QVPopUpButton_M880::follow(CurrentChoice *other)
 {
     const constraints::Choice before = other->number;

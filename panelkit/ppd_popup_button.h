@@ -20,23 +20,24 @@ class QVPDEManager_M880;
 class QVPDE_M880;
 class QVPPD_M880;
 
-// A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value and greys out
-// the choices that conflict with the panel's other values, saying why. Belongs to its layout;
-// the panel (its data source) is watched, not owned. Never changes the selection by itself.
+// A pop-up for one PPD option of a panel. Shows the option's choices, follows the panel's value, and greys
+// out the choices that conflict with the panel's other values, with the reason. Owned by its layout; the
+// panel (its data source) is observed, not owned. Never changes the selection by itself.
 class QVPopUpButton_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
-    // Index of the selected item; null when no item is selected. An index outside the menu selects none.
+    // Index of the selected item; null if no item is selected. An index outside the menu clears the
+    // selection.
     Q_PROPERTY(QVariant selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
 public:
     explicit QVPopUpButton_M880(QWidget *parent = nullptr);
     ~QVPopUpButton_M880() override;
 
-    // Rebuilds menu, conflict set, observers and binding. A null panel gives an empty menu. Observers of an
-    // earlier call stay. Nothing is greyed out before the first relevant change.
+    // Rebuilds menu, conflict set, observers and binding. A null panel results in an empty menu. Observers of
+    // earlier calls remain. Nothing is greyed out before the first relevant change.
     void setDataSourceAndOptionName(QVPDE_M880 *panel, const QString &optionName);
-    // Decides anew which items are enabled, as far as this change can affect them, unless the notification is
-    // of this pop-up's own option.
+    // Updates the enabled state of the items that this change can affect. Ignores notifications of this
+    // pop-up's own option.
     void ppdValueHasChanged(const platform::Notification &notification);
 
     const QString &optionName() const { return m_optionName; }
@@ -57,16 +58,17 @@ private:
     };
 
     void addChoice(const QVariantMap &choice);
-    // Numbers the items and the panel's present choices of the options that can conflict with this one. These
-    // numbers stay good until the panel serves other options or the dialog has another PPD.
+    // Looks up the numbers of the items and of the panel's current choices for options that can conflict with
+    // this one. These numbers stay valid until the panel supports other options or the dialog has another
+    // PPD.
     void takeNumbers();
     bool hasNumbers() const;
     void readChoice(CurrentChoice *other) const;
     void follow(CurrentChoice *other);
     void decide(int index);
-    // Plain text that says which choice of which other option stands in the way.
+    // Plain text that names the other option and its choice.
     QString reason(const CurrentChoice &obstacle) const;
-    // Greys out an item that has an obstacle, and frees one for which it is null.
+    // Greys out an item that has an obstacle, and enables an item if it is null.
     void setItemState(int index, const CurrentChoice *obstacle);
 
     QString m_optionName;

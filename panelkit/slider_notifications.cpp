@@ -18,7 +18,7 @@ namespace {
 
 const QString valueBinding = QStringLiteral("value");
 
-// A system that cannot be told to be older counts as newer.
+// A system of unknown version counts as newer.
 bool isOlderHost(const QVPDEManager_M880 *manager)
 {
     const auto system = manager ? manager->darwinVersion() : nullptr;
@@ -34,7 +34,7 @@ void report(QVPDE_M880 *panel, QSlider *slider)
     }
 }
 
-// Has a slider report to the panel when it is pressed and let go, again and again while it is held, and at
+// Makes a slider report to the panel when it is pressed and released, repeatedly while it is held, and at
 // each step by keyboard, wheel or groove.
 void sendActionToPanel(QSlider *slider, QVPDE_M880 *panel)
 {

@@ -9,16 +9,16 @@
 
 class QWidget;
 
-// Hosts older than Darwin 9.0 do not drive sliders by bindings, so there the panel drives them itself. On
-// newer systems, and in builds without KELMAR_OLDER_HOSTS, the two panel-level functions do nothing and give
+// Hosts older than Darwin 9.0 do not drive sliders by bindings, so there the panel drives them. On newer
+// systems, and in builds without KELMAR_OLDER_HOSTS, the two panel-level functions do nothing and return
 // false.
 
-// Takes the value bindings off the sliders of the panel's view and notes them in the registry, made when
-// null.
+// Removes the value bindings of the sliders in the panel's view and records them in the registry, which is
+// created if it is null.
 bool QVDetachSliderBindingsInPDE(QVPDE_M880 *panel, std::unique_ptr<SliderRegistry> *registry);
 // Makes the panel observe each key of the registry, and each slider report to the panel.
 bool QVAttachNotificationsForSlidersInPDE(QVPDE_M880 *panel, SliderRegistry *registry);
 #if KELMAR_OLDER_HOSTS
-// Gives what the last slider or sub-view looked at gave.
+// Returns the result for the last slider or sub-view that was visited.
 bool QVDetachSliderBindingsInView(QWidget *view, SliderRegistry *registry);
 #endif

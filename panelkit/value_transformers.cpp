@@ -36,7 +36,7 @@ bool isNumber(const QVariant &value)
     }
 }
 
-// The text of a value. A boolean and a small integer count as the numbers they are, not as words and letters.
+// The text of a value. Booleans and small integers are converted to digits, not to words or letters.
 QString textualDescription(const QVariant &value)
 {
     switch (value.typeId()) {
@@ -85,7 +85,7 @@ double floatingPointValue(const QVariant &value)
 bool QVBooleanValue(const QVariant &value)
 {
     if (isNumber(value))
-        return value.toDouble() != 0; // toBool() rounds first
+        return value.toDouble() != 0; // toBool() would round first
     if (value.typeId() != QMetaType::QString || value.toString().isEmpty())
         return false;
     const QChar first = value.toString().front().toLower();

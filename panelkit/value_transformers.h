@@ -5,8 +5,8 @@
 
 #include "platform/value_transformer.h"
 
-// "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; null is true. Back to "True" or
-// "False".
+// Converts "True", "enabled", "yes" in any case, and non-zero numbers, to a boolean; null is true. Reverse:
+// "True" or "False".
 class QVBooleanTransformer_M880 : public platform::ValueTransformer
 {
 public:
@@ -16,7 +16,8 @@ public:
     QVariant reverseTransformedValue(const QVariant &value) const override;
 };
 
-// The leading 32-bit integer of a text, 0 where there is none. Back to the number's text; null stays null.
+// Converts a text to its leading 32-bit integer, 0 if there is none. Reverse: the number as text; null stays
+// null.
 class QVNumberTransformer_M880 : public platform::ValueTransformer
 {
 public:
@@ -26,13 +27,13 @@ public:
     QVariant reverseTransformedValue(const QVariant &value) const override;
 };
 
-// A number's truth; of a string the first character only: t, y or a digit but 0 is true. Anything else, null
-// included, is false. Deliberately another rule than the boolean transformer's.
+// The boolean value of a number, or of the first character of a string: t, y or a digit other than 0 is true.
+// Anything else, including null, is false. This intentionally differs from the boolean transformer.
 bool QVBooleanValue(const QVariant &value);
 
-// A number cut to an integer, or the integer a text starts with; 0 for anything else.
+// A number truncated to an integer, or the integer at the beginning of a text; 0 for anything else.
 qint32 integerValue(const QVariant &value);
 
-// A number, or the floating-point number that a text starts with ("3dpi" is 3), read as in the C locale; 0
-// for anything else.
+// A number, or the floating-point number at the beginning of a text ("3dpi" is 3), in the C locale; 0 for
+// anything else.
 double floatingPointValue(const QVariant &value);

@@ -26,7 +26,7 @@ const QString imageTypeKey = QStringLiteral("ImageType");
 const QString resolutionKey = QStringLiteral("Resolution");
 const QString advancedChoice = QStringLiteral("Advanced");
 
-// As ICC profiles number them.
+// In the numbering of ICC profiles.
 constexpr int renderingIntentCount = 4;
 
 void registerDependentKeys()
@@ -182,7 +182,8 @@ platform::KeyValueObject *QVPDEColorSettings1_M880::advancedColorSettingsObject(
 void QVPDEColorSettings1_M880::setAdvancedColorSettingsManager(
     std::unique_ptr<QVAdvancedColorSettingsManager_M880> settings)
 {
-    // Declared before the change, so that the earlier object goes after everybody has looked at the new one.
+    // Declared before the change, so that the previous object is destroyed after all observers have read the
+    // new one.
     std::unique_ptr<QVAdvancedColorSettingsManager_M880> earlier;
     const platform::KeyChange change(this, QStringLiteral("advancedColorSettingsManager"));
     earlier = std::exchange(m_advancedColorSettingsManager, std::move(settings));
@@ -234,12 +235,12 @@ void QVPDEColorSettings1_M880::animateViewIn(QWidget *view)
         const platform::KeyChange change(this, QStringLiteral("currentView"));
         m_currentView = view;
     }
-    // Whatever scrolls the panel shows the new view from its beginning.
+    // Scroll areas around the panel show the new view from its top.
     for (QWidget *around = panelView()->parentWidget(); around; around = around->parentWidget()) {
         if (auto *scroll = qobject_cast<QScrollArea *>(around))
             scroll->verticalScrollBar()->setValue(0);
     }
-    // The keyboard must not stay in a view that is on its way out.
+    // The focus must not stay in the outgoing view.
     QWidget *control = takesFocus ? firstControlIn(view) : nullptr;
     if (control)
         control->setFocus(Qt::OtherFocusReason);
@@ -268,7 +269,7 @@ void QVPDEColorSettings1_M880::goBack(QWidget *)
     animateViewIn(m_basicView);
 }
 
-// Leaving "Advanced" shows no other view: the user may be reading what was set there.
+// Leaving "Advanced" does not switch the view, since the user may be reading the settings there.
 void QVPDEColorSettings1_M880::showAdvancedView(const platform::Notification &notification)
 {
     if (notification.userInfo.value(platform::NSKeyValueChangeNewKey).toString() == advancedChoice)
@@ -279,7 +280,7 @@ void QVPDEColorSettings1_M880::reloadDefaultSNMPValues(QWidget *sender)
 {
     if (!m_advancedColorSettingsManager)
         return;
-    // A printer that did not answer may do so now; the settings would not ask by themselves.
+    // A printer that did not respond may do so now; the settings do not query it again by themselves.
     m_advancedColorSettingsManager->setSnmpEnabledWithReason(true, {});
     m_advancedColorSettingsManager->updateFromSNMP(sender);
 }

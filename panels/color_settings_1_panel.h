@@ -15,23 +15,23 @@ struct Notification;
 class QVAdvancedColorSettingsManager_M880;
 class QVPopUpButton_M880;
 
-// The panel "Color Settings 1": the basic colour options and, where the printer offers the image type
-// "Advanced", a second view with the colour profiles that the device holds. One of the two views is shown at
-// a time.
+// The panel "Color Settings 1": the basic colour options and, if the printer offers the image type
+// "Advanced", a second view with the colour profiles stored in the device. One of the two views is shown at a
+// time.
 class QVPDEColorSettings1_M880 : public QVPDE_M880, public QVPDELoading_M880, public platform::PanelViews
 {
     Q_OBJECT
-    // Inner state is not stored: users and scripts do not set it by name.
+    // Internal state is not STORED, so users and scripts cannot set it by name.
     Q_PROPERTY(bool hasResolution READ hasResolution WRITE setHasResolution STORED false)
     Q_PROPERTY(bool hasAdvanced READ hasAdvanced WRITE setHasAdvanced STORED false)
-    // Whether the image type is "Advanced". What is set here is kept, but never read.
+    // Whether the image type is "Advanced". A value set here is stored, but never read.
     Q_PROPERTY(bool advancedSelected READ advancedSelected WRITE setAdvancedSelected STORED false)
-    // What the advanced view has, or why it cannot be opened.
+    // Describes the advanced view, or the reason why it cannot be opened.
     Q_PROPERTY(QString advancedHint READ advancedHint STORED false)
     Q_PROPERTY(QWidget *currentView READ currentView WRITE setCurrentView STORED false)
     // Null without an advanced view.
     Q_PROPERTY(platform::KeyValueObject *advancedColorSettingsManager READ advancedColorSettingsObject)
-    // Localised names of the rendering intents and the numbers that the device has for them.
+    // Localised names of the rendering intents, and the device's numbers for them.
     Q_PROPERTY(QStringList renderingIntentNames READ renderingIntentNames)
     Q_PROPERTY(QVariantList renderingIntentNumbers READ renderingIntentNumbers)
 public:
@@ -58,25 +58,25 @@ public:
     QVariantList renderingIntentNumbers() const;
 
     QWidget *currentView() const { return m_currentView; }
-    // Shows a view alone, at once.
+    // Shows only this view, at once.
     void setCurrentView(QWidget *view);
-    // Switches to a view within half a second; it is the current view from the start. Does nothing for the
-    // view that is current already.
+    // Switches to a view within half a second; it is the current view from the start. Does nothing if the
+    // view is already current.
     void animateViewIn(QWidget *view);
     bool offersViewOf(const QWidget *control) override;
-    // Without an animation: the user who was led to a control looks for it where it stays.
+    // Without an animation, since the caller then looks for the control at its final position.
     void showViewOf(QWidget *control) override;
     void goToAdvanced(QWidget *sender);
     void goBack(QWidget *sender);
-    // The image type has changed.
+    // Called when the image type has changed.
     void showAdvancedView(const platform::Notification &notification);
-    // Asks the device again, also one that could not be asked before; returns when it is done.
+    // Queries the device again, even if it could not be queried before. Returns when done.
     void reloadDefaultSNMPValues(QWidget *sender);
 
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     void willShow() override;
-    // The device's, when it could not be asked.
+    // The device's reason, if it could not be queried.
     QString unavailableReason() override;
 
 private:

@@ -98,7 +98,7 @@ QString QVPDEColorSettings2_M880::colorBalanceReason() const
         .arg(name, QVTextOfChoice(*manager(), colorTypeKey, m_colorType));
 }
 
-// Cyan at one step stands for all four balances: the printers forbid them together or not at all.
+// Cyan at one step represents all four balances: the printers forbid all of them or none.
 void QVPDEColorSettings2_M880::colorTypeChanged(const platform::Notification &notification)
 {
     m_colorType = notification.userInfo.value(platform::NSKeyValueChangeNewKey).toString();
@@ -119,7 +119,7 @@ void QVPDEColorSettings2_M880::resetAllToNeutral(QWidget *)
         resetOptionToNeutral(key);
 }
 
-// An option that is neutral already, or that this printer has no neutral choice for, is left alone.
+// Does nothing if the option is already neutral, or if this printer has no neutral choice for it.
 void QVPDEColorSettings2_M880::resetOptionToNeutral(const QString &key)
 {
     const auto choices = manager()->ppd() ? manager()->ppd()->choicesForOption(key) : std::nullopt;

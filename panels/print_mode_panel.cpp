@@ -153,7 +153,7 @@ QString QVPDEPrintMode_M880::summaryForKey(const QString &key)
             return marked->text;
         return QStringLiteral("%1 (%2)").arg(marked->text, composeCodeForOption(departmentDigit));
     }
-    // A model without password options has no password to show, even if its PPD lets one print privately.
+    // A model without password options has no password to show, even if its PPD offers private printing.
     if (marked && key == printModeKey && isPrivate() &&
         supportedPPDOptionKeys().contains(passwordDigit + u'1'))
         return QStringLiteral("%1 (%2)").arg(marked->text, composeCodeForOption(passwordDigit));

@@ -7,16 +7,15 @@
 
 class QVPopUpButton_M880;
 
-// The panel "Print Mode": how the job is printed (private printing takes a five-digit password), the
-// department code, thin lines and blank pages. Each code is one value here and five one-digit options in the
-// PPD.
+// The panel "Print Mode": the print mode (private printing requires a five-digit password), the department
+// code, thin lines and blank pages. Each code is one value here and five one-digit options in the PPD.
 class QVPDEPrintMode_M880 : public QVPDE_M880, public QVPDELoading_M880
 {
     Q_OBJECT
-    // Both codes are exactly five digits, also when set.
+    // Both codes always have exactly five digits.
     Q_PROPERTY(QString departmentCode READ departmentCode WRITE setDepartmentCode)
     Q_PROPERTY(QString privatePassword READ privatePassword WRITE setPrivatePassword)
-    // What the code is for, or why there can be none.
+    // Describes the purpose of the code, or why none can be entered.
     Q_PROPERTY(QString departmentCodeHint READ departmentCodeHint STORED false)
     Q_PROPERTY(bool isPrivate READ isPrivate)
     Q_PROPERTY(bool hasPrintMode READ hasPrintMode WRITE setHasPrintMode STORED false)
@@ -31,15 +30,15 @@ public:
     QString departmentCode();
     void setDepartmentCode(const QString &code);
     QString departmentCodeHint();
-    // "00000" on a model without password options, where setting it does nothing.
+    // "00000" on a model without password options, where setting it has no effect.
     QString privatePassword();
     void setPrivatePassword(const QString &code);
     bool isPrivate();
-    // Whether the model carries the password options.
+    // Whether the model has the password options.
     bool hasPrintMode() const { return m_hasPrintMode; }
     void setHasPrintMode(bool has);
 
-    // The codes stand in clear behind the choices they belong to; their digits have no lines of their own.
+    // The codes appear unencrypted after the choices they belong to; their digits have no lines of their own.
     QString summaryForKey(const QString &key) override;
 
 private:

@@ -14,7 +14,7 @@ QRect atY(const QRect &frame, int y)
     return {QPoint(frame.x(), y), frame.size()};
 }
 
-// Moves only: the superview may resize its views meanwhile.
+// Moves without resizing, since the superview may resize its views meanwhile.
 void place(QWidget *view, const ViewMove &move, qreal progress, qreal opacity)
 {
     const qreal y = move.startFrame.y() + (move.endFrame.y() - move.startFrame.y()) * progress;
@@ -95,7 +95,7 @@ void ViewSwitch::finish()
     if (m_incoming)
         m_incoming->setGeometry(QRect(m_frames.incoming.endFrame.topLeft(), m_incoming->size()));
     letGo();
-    // No longer to be found by one that starts before the event loop comes round to deleting it.
+    // Hides this object from a switch that starts before the event loop deletes it.
     setParent(nullptr);
     deleteLater();
 }

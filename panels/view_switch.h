@@ -12,8 +12,8 @@
 
 class QWidget;
 
-// One view's share in an animated switch, in its superview's coordinates, where plus y is down the screen. It
-// stays as wide and as high, and at the same x, as it was when the switch began.
+// The movement of one view during an animated switch, in the coordinates of its superview, where plus y is
+// down. The view keeps the size and the x position that it had at the start of the switch.
 struct ViewMove
 {
     QRect startFrame;
@@ -30,14 +30,14 @@ struct ViewSwitchFrames
 
 enum class SwitchDirection { ToAdvanced, Back };
 
-// The way to the advanced view goes towards plus y, the way back towards minus y: each view moves by its own
-// height, and both rest at y 0, which is where a view that fills its superview is.
+// Switching to the advanced view moves towards plus y, switching back towards minus y. Each view moves by its
+// own height and ends at y 0, which is the position of a view that fills its superview.
 ViewSwitchFrames framesForSwitch(const QRect &outgoing, const QRect &incoming, SwitchDirection direction);
 
-// Slides one view out while it fades and another in, in half a second, without blocking. Owns itself: a child
-// of the views' superview, gone when done, leaving the outgoing view hidden, the incoming one in place and
-// neither with an effect. A switch that starts while another runs in the same superview takes its place at
-// once and runs for its whole duration, from the frames that the views have then.
+// Slides one view out while it fades, and another view in, within half a second and without blocking. A child
+// of the views' superview that deletes itself when done, leaving the outgoing view hidden, the incoming view
+// in place, and neither with an effect. A new switch in the same superview replaces a running one at once and
+// runs for its full duration, starting from the current frames of the views.
 class ViewSwitch : public QObject
 {
     Q_OBJECT
@@ -45,14 +45,14 @@ public:
     static constexpr std::chrono::milliseconds duration{500};
 
     static ViewSwitch *start(QWidget *outgoing, QWidget *incoming, SwitchDirection direction);
-    // Ends a switch that runs in a superview at once; its views are shown and hidden as the caller wishes.
+    // Ends a running switch in a superview at once. The caller shows and hides the views.
     static void cancelIn(QWidget *superview);
-    // The one that runs in a superview, or null.
+    // The running switch of a superview, or null.
     static ViewSwitch *runningIn(const QWidget *superview);
     ~ViewSwitch() override;
 
     const ViewSwitchFrames &frames() const { return m_frames; }
-    // How far it has come, eased, from 0 to 1.
+    // The eased progress, from 0 to 1.
     qreal progress() const;
 
 private:

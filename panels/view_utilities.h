@@ -7,13 +7,12 @@
 
 class QWidget;
 
-// Where a view stands in its superview.
+// The position of a view in its superview.
 namespace QVViewUtilities_M880 {
 
-// The view's own size, centred in the superview's frame, not rounded; all zeros for a view without a
-// superview.
+// The view's size, centred in the superview's frame, not rounded; all zeros for a view without a superview.
 QRectF centeredInSuperviewFrame(const QWidget *view);
-// Moves the view there, to whole pixels; a view without a superview goes to 0, 0.
+// Centres the view, at whole pixels; a view without a superview moves to 0, 0.
 void centerInSuperview(QWidget *view);
 
 } // namespace QVViewUtilities_M880

@@ -14,16 +14,17 @@
 
 namespace platform {
 
-// The result of work on a worker thread, for one receiver. Only the work that was started last counts: what
-// an earlier one brings is dropped, whenever it comes. Belongs to one thread, as its context does.
+// Delivers the result of work on a worker thread to one receiver. Only the most recently started work counts;
+// results of earlier work are discarded. Used on one thread only, the thread of its context.
 template <typename Result>
 class Awaited
 {
 public:
     using Receiver = std::function<void(Result)>;
 
-    // `receiver` is called once, by the event loop of this thread or by deliverWithin(), unless the context
-    // or this object has gone. The work owns what it touches.
+    // Runs `work` on a worker thread. The event loop of this thread, or deliverWithin(), calls `receiver`
+    // once with the result, unless the context or this object has been destroyed. The work must own all data
+    // that it uses.
     void start(QObject *context, std::function<Result()> work, Receiver receiver)
     {
         auto pending = std::make_shared<Pending>();
@@ -38,7 +39,8 @@ public:
             },
             context, [pending, latest = std::weak_ptr(m_latest)] { deliver(pending, latest.lock()); });
     }
-    // Blocks for the result, but no longer than this. True when the receiver has been called.
+    // Blocks until the result has been delivered, at most for this time. Returns true if the receiver was
+    // called.
     bool deliverWithin(std::chrono::milliseconds time)
     {
         const std::shared_ptr<Pending> pending = *m_latest;
@@ -52,7 +54,7 @@ public:
         deliver(pending, m_latest);
         return true;
     }
-    // The result is no longer wanted.
+    // Discards the result of the running work.
     void drop() { m_latest->reset(); }
     bool isPending() const { return *m_latest != nullptr; }
 
@@ -61,8 +63,8 @@ private:
     {
         std::mutex mutex;
         std::condition_variable changed;
-        std::optional<Result> result; // guarded
-        Receiver receiver;            // of the awaiting thread
+        std::optional<Result> result; // guarded by the mutex
+        Receiver receiver;            // used on the awaiting thread only
     };
     static void deliver(const std::shared_ptr<Pending> &pending,
                         const std::shared_ptr<std::shared_ptr<Pending>> &latest)

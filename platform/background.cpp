@@ -19,8 +19,8 @@ namespace {
 
 std::atomic<int> worksUnderWay{0};
 
-// Where work finds the waiter of its caller. The waiter belongs to that thread: work keeps no more of it than
-// this, which is silent once the scope has ended.
+// Connects work to the waiter of its caller. The waiter belongs to the caller's thread; the work only holds
+// this object, which does nothing after the scope has ended.
 class Bell
 {
 public:
@@ -39,7 +39,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    Waiter *m_waiter; // guarded
+    Waiter *m_waiter; // guarded by the mutex
 };
 
 } // namespace
@@ -65,14 +65,14 @@ struct Waiter::Installed
 
 namespace {
 
-// What a caller and its work share. Outlives a caller that gives up.
+// State shared by a caller and its work. Outlives a caller that stops waiting.
 struct CallState
 {
     std::atomic<bool> ended{false};
     std::exception_ptr thrown; // written before `ended`
 };
 
-// The same for one that waits no longer than a limit.
+// The same for a caller that waits only for a limited time.
 struct LimitedCall
 {
     std::mutex mutex;
@@ -81,7 +81,7 @@ struct LimitedCall
     std::exception_ptr thrown; // written before `ended`
 };
 
-// `work` and all that it holds are gone before `afterwards` runs.
+// Runs `work` on a new thread. `work` and everything it holds is destroyed before `afterwards` runs.
 void runDetached(std::function<void()> work, std::function<void()> afterwards)
 {
     ++worksUnderWay;
@@ -156,7 +156,7 @@ bool Background::call(std::function<void()> work, std::chrono::milliseconds limi
             state->ended = true;
             state->change.notify_all();
         });
-    // On a worker thread where this thread must not block.
+    // On a worker thread if this thread must not block.
     const auto ended = callBeside([state, until = std::chrono::steady_clock::now() + limit] {
         std::unique_lock lock(state->mutex);
         return state->change.wait_until(lock, until, [&] { return state->ended; });
@@ -176,9 +176,10 @@ bool Background::isGivenUp()
 
 void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)
 {
-    // Carries the end of the work to this thread, where alone one can tell whether the receiver is still
-    // there. It goes with its delivery alone: handed to deleteLater() before, it may be deleted before that
-    // arrives, and what an event owns must post none when the event is dropped at the end of the program.
+    // Carries the end of the work to this thread, which alone can tell whether the receiver still exists. It
+    // is deleted only after its delivery: deleteLater() before that could delete it before the delivery
+    // arrives, and an object owned by an event must not post an event when it is dropped at the end of the
+    // program.
     auto *courier = new QObject;
     auto deliver = [courier, receiver = QPointer<QObject>(receiver), done = std::move(done)] {
         courier->deleteLater();

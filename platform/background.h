@@ -16,24 +16,24 @@ class QObject;
 
 namespace platform {
 
-// How a thread that has to stay responsive passes the time while blocking work runs on a worker thread. A
-// dialog may install one for its thread, with Scope; threads without one simply block.
+// Keeps a thread responsive while it waits for blocking work on a worker thread. A dialog may install a
+// waiter for its thread with Scope. A thread without a waiter simply blocks.
 class KELMAR_PLATFORM_EXPORT Waiter
 {
 public:
     virtual ~Waiter();
-    // Whether the user has given up on what is being waited for: calls made now fail without being started.
+    // Whether the user has stopped the current wait. Calls made now fail without being started.
     virtual bool isGivenUp() const = 0;
-    // Keeps the thread's events going. Returns true as soon as `ended()` does, false when the user gives up
-    // first. `wake()` is called, on this thread, when `ended` may have changed.
+    // Processes the thread's events until `ended()` returns true (result true) or the user stops waiting
+    // (result false). `wake()` is called on this thread when `ended` may have changed.
     virtual bool wait(const std::function<bool()> &ended) = 0;
-    // Makes wait() look at `ended` again. Called from any thread.
+    // Makes wait() evaluate `ended` again. May be called from any thread.
     virtual void wake() = 0;
 
-    struct Installed; // one scope's
+    struct Installed; // the state of one scope
 
-    // Installs a waiter for the current thread while it lives. Scopes nest. Work that ends after the scope
-    // wakes no one, and keeps nothing of the waiter: that is let go of, and destroyed, on this thread.
+    // Installs a waiter for the current thread for the lifetime of the scope. Scopes nest. Work that ends
+    // after the scope does not use the waiter, which is released and destroyed on this thread.
     class KELMAR_PLATFORM_EXPORT Scope
     {
     public:
@@ -47,29 +47,31 @@ public:
     };
 };
 
-// Blocking work: requests to the print server or a device, name look-ups. The one place that makes threads.
-// What is given up ends in the background, so work owns (by value or shared pointer) everything it touches.
+// Runs blocking work, such as name look-ups and requests to the print server or a device. All threads are
+// created here. Abandoned work continues in the background, so work must own all data that it uses, by value
+// or by shared pointer.
 class KELMAR_PLATFORM_EXPORT Background
 {
 public:
-    // Runs `work` on a worker thread and returns true when it has ended, false when the user gave up. Without
-    // a waiter on this thread it is called straight. What it throws comes out here.
+    // Runs `work` on a worker thread. Returns true when it has ended, false when the user has stopped
+    // waiting. On a thread without a waiter, `work` runs on the calling thread. Exceptions of `work` are
+    // rethrown here.
     static bool call(std::function<void()> work);
-    // For work that may never end: always runs it on a worker thread, and gives up on it as well when it has
-    // not ended within `limit`.
+    // For work that may never return: always runs on a worker thread, and is also abandoned when it has not
+    // ended within `limit`.
     static bool call(std::function<void()> work, std::chrono::milliseconds limit);
-    // Whether the user has given up on what this thread waits for.
+    // Whether the user has stopped the wait of this thread.
     static bool isGivenUp();
-    // Runs `work` on a worker thread and returns at once; `done` is called by the event loop of the calling
-    // thread when it has ended, unless `receiver` is gone by then. `work` must not throw.
+    // Runs `work` on a worker thread and returns at once. When it has ended, the event loop of the calling
+    // thread calls `done`, unless `receiver` has been destroyed. `work` must not throw.
     static void start(std::function<void()> work, QObject *receiver, std::function<void()> done);
-    // Whether anything is under way on any thread. A program that ends then must not run its static
-    // destructors.
+    // Whether work is running on any thread. If so, the program must not run its static destructors when it
+    // exits.
     static bool isUnderWay();
 };
 
-// The result of `work`; null when the user gave up waiting for it, or when it took longer than the limit that
-// may follow.
+// Returns the result of `work`. Null if the user stopped waiting, or if the work exceeded the time limit,
+// which can be passed as the second argument.
 template <typename Work, typename... Limit>
 std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)
 {
@@ -79,7 +81,7 @@ std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)
     return std::move(*result);
 }
 
-// Hands the result of `work` to `done` on the calling thread, unless `receiver` is gone by then.
+// Passes the result of `work` to `done` on the calling thread, unless `receiver` has been destroyed.
 template <typename Work, typename Done>
 void startBeside(QObject *receiver, Work work, Done done)
 {

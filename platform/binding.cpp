@@ -15,8 +15,8 @@ namespace platform {
 
 namespace {
 
-// A value as the property takes it. Null becomes the type's default value; no result when it does not
-// convert.
+// Converts a value to the type of the property. Null becomes the type's default value. No result if it cannot
+// be converted.
 std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &property)
 {
     const QMetaType type = property.metaType();
@@ -37,8 +37,8 @@ bool isSame(const QVariant &a, const QVariant &b)
     return a.metaType() == b.metaType() && a == b;
 }
 
-// Making a widget without a parent visible would open it as a window of its own. It is only no longer hidden,
-// so that it appears with the parent it gets.
+// Showing a widget without a parent would open it as a window. Instead it is only marked as not hidden, so
+// that it appears when it gets a parent.
 bool unhideWithoutShowing(QObject *target, const QMetaProperty &property, const QVariant &value)
 {
     auto *widget = qobject_cast<QWidget *>(target);
@@ -130,13 +130,13 @@ void Binding::show(const QVariant &value)
         return;
     }
     QObject *target = parent();
-    // Without a notify signal the property may say something else than was asked for: a child of a hidden
-    // window is not visible, one of a disabled panel not enabled, and both must still be told.
+    // Without a notify signal the property may differ from the value that was set: a child of a hidden window
+    // is not visible, and a child of a disabled panel is not enabled, but both must still be set.
     if (m_property.hasNotifySignal() && isSame(m_property.read(target), *shown))
         return;
     if (unhideWithoutShowing(target, m_property, *shown))
         return;
-    const QPointer<Binding> self(this); // the write may delete the target, and this with it
+    const QPointer<Binding> self(this); // writing may delete the target, and thus this object
     const bool wasUpdating = m_updating;
     m_updating = true;
     m_property.write(target, *shown);

@@ -15,23 +15,24 @@
 
 namespace platform {
 
-// Links one property of a target (usually a widget) to a key path of an object. A child of its target; goes
-// with it, or with unbind(). Two-way where the property has a notify signal, can be written and the
-// transformer reverses; else one-way towards the target. Neither side echoes the other. When the object's
-// setter raises, the exception is logged and the target goes back to what the key holds.
+// Links a property of a target (usually a widget) to a key path of an object. A child of its target; it is
+// destroyed with the target or by unbind(). The binding is two-way if the property has a notify signal and is
+// writable, and the transformer is reversible; otherwise it only updates the target. It creates no feedback
+// loops. If the setter of the object raises an exception, the exception is logged and the target is reset to
+// the value of the key.
 class KELMAR_PLATFORM_EXPORT Binding : public QObject
 {
     Q_OBJECT
 public:
-    // Binds and brings the target to the key's value at once. A null object makes a binding that does
-    // nothing. Raises Exception when the target has no such writable property or the object no such key. A
-    // binding of the same property of the same target is replaced.
+    // Creates a binding and sets the target to the value of the key. If the object is null, the binding has
+    // no effect. Raises Exception if the target has no such writable property or the object has no such key.
+    // Replaces an existing binding of the same property.
     static Binding *bind(QObject *target, const QString &property, KeyValueObject *object,
                          const QString &keyPath,
                          std::shared_ptr<const ValueTransformer> transformer = nullptr);
     // The binding of a property, or null.
     static Binding *infoForBinding(const QObject *target, const QString &property);
-    // Removes the binding of a property at once; nothing happens when there is none.
+    // Removes the binding of a property. Does nothing if there is none.
     static void unbind(QObject *target, const QString &property);
     ~Binding() override;
 
@@ -41,7 +42,7 @@ public:
     bool isTwoWay() const { return m_twoWay; }
 
 public Q_SLOTS:
-    // Brings the target to the key's value.
+    // Sets the target to the value of the key.
     void update();
 
 private Q_SLOTS:

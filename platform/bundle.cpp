@@ -55,7 +55,7 @@ bool isSecret(const QJsonValue &value)
            usedWith.begin().value().isString();
 }
 
-// The same for the keys that may be left out.
+// The same for optional keys.
 QString problemOfOptionalKeys(const QJsonObject &info)
 {
     const QJsonValue models = info.value(Bundle::printerModelsKey);
@@ -74,7 +74,7 @@ QString problemOfOptionalKeys(const QJsonObject &info)
     return {};
 }
 
-// What is wrong with the contents of an Info.json; empty when nothing is.
+// The problem in the contents of an Info.json; empty if there is none.
 QString problemOf(const QJsonObject &info)
 {
     for (const QString &key :
@@ -91,8 +91,7 @@ QString problemOf(const QJsonObject &info)
     return problemOfOptionalKeys(info);
 }
 
-// The folders that a path leads through. Other users with write access to one of them could put another
-// bundle in its place.
+// The parent folders of a path. A user with write access to one of them could replace the bundle.
 QStringList foldersAbove(const QString &path)
 {
     QStringList folders;
@@ -103,8 +102,8 @@ QStringList foldersAbove(const QString &path)
     return folders;
 }
 
-// What in a bundle, or above it, others than the system and the user could have put there; null when nothing
-// is.
+// A file in a bundle, or a folder above it, that users other than root and the current user could have
+// written; null if there is none.
 QString foreignHandIn(const QString &folder)
 {
     const QStringList holders = foldersAbove(folder) + foldersAbove(QFileInfo(folder).canonicalFilePath());
@@ -126,11 +125,11 @@ QString foreignHandIn(const QString &folder)
     return {};
 }
 
-// Contents of an Info.json; nothing with a message that begins with the file when they cannot be used.
+// Reads an Info.json. Null with a message that begins with the file name if it cannot be used.
 std::optional<QJsonObject> readInfo(const QString &path, QString *error)
 {
     QFile file(path);
-    const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile(); // opening a pipe would wait
+    const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile(); // opening a pipe would block
     if (!isFile || !file.open(QIODevice::ReadOnly)) {
         *error =
             QStringLiteral("%1: %2").arg(path, isFile ? file.errorString() : QStringLiteral("not a file"));
@@ -156,8 +155,8 @@ std::optional<QJsonObject> readInfo(const QString &path, QString *error)
     return document.object();
 }
 
-// Suffixes of string tables to look for, most wanted first: the spellings of each language of the locale from
-// the most exact to the language alone, and English after all.
+// Suffixes of string tables in order of preference: the spellings of each language of the locale from the
+// most specific to the language alone, then English.
 QStringList tableSuffixes(const QLocale &locale)
 {
     QStringList suffixes;
@@ -165,7 +164,7 @@ QStringList tableSuffixes(const QLocale &locale)
         if (!suffix.isEmpty() && !suffixes.contains(suffix))
             suffixes.append(suffix);
     };
-    QString language; // of the spellings before
+    QString language; // of the previous spellings
     const QStringList spellings = locale.uiLanguages();
     for (const QString &spelling : spellings) {
         const QString next = spelling.section(QLatin1Char('-'), 0, 0);

@@ -21,10 +21,10 @@ namespace platform {
 
 class PrintDialogExtension;
 
-// A folder with Info.json, the code of a plug-in, layouts and string tables. Opening it reads Info.json and
-// loads no code. Shared by the host and everything the plug-in makes. Its string tables are loaded on first
-// use: those of the first of the user's languages that has one, the most exact spelling first ("de_CH", then
-// "de"); English where there is none. Each text is looked up by itself, so a table may lack texts.
+// A folder with Info.json, the code of a plug-in, layouts and string tables. Opening a bundle reads Info.json
+// and loads no code. Shared by the host and the objects of the plug-in. String tables are loaded on first
+// use: those of the first of the user's languages that has one, the most specific first ("de_CH" before
+// "de"), else English. Each text is looked up separately, so tables may be incomplete.
 class KELMAR_PLATFORM_EXPORT Bundle
 {
 public:
@@ -35,44 +35,44 @@ public:
     static const QString principalClassKey; // "PrincipalClass"
     static const QString panelTypeKey;      // "PanelType"
     static const QString printerModelsKey;  // "PrinterModels", a list of wildcards of PPD model names
-    // "ProtectingOptions", an object: PPD options, each with a list of the choices that protect the user.
+    // "ProtectingOptions", an object: maps PPD options to lists of the choices that protect the user.
     static const QString protectingOptionsKey;
-    // "SecretKeys", a list of objects: "Key", a panel's key that holds a code; "Options", a list of the PPD
-    // options that keep it; "UsedWith", an object with the one option and choice with which it is used.
+    // "SecretKeys", a list of objects: "Key", a key of a panel that holds a code; "Options", the PPD options
+    // that store it; "UsedWith", an object with the option and choice with which the code is used.
     static const QString secretKeysKey;
 
-    // Null with a message that names the file and what is wrong with it: no folder, no Info.json or a large
-    // one, broken JSON, a missing or mistyped required key (all but the version, the models and what protects
-    // the user; these are optional, but not mistyped); a folder in which anything belongs to, or can be
-    // written by, others than the system and the user, as whom its code would run.
+    // Opens a bundle. Null with a message that names the file and the problem: there is no folder or
+    // Info.json; Info.json is too large, is not valid JSON, or a required key is missing or has the wrong
+    // type (the version, the models, and the keys that protect the user are optional); or a file of the
+    // folder is owned or writable by a user other than root and the current user, as whom its code would run.
     static std::shared_ptr<Bundle> open(const QString &folder, const QLocale &locale, QString *error);
     ~Bundle();
     Bundle(const Bundle &) = delete;
     Bundle &operator=(const Bundle &) = delete;
 
     const QString &folder() const { return m_folder; }
-    // Null when Info.json lacks the key.
+    // Null if Info.json lacks the key.
     QVariant infoValueForKey(const QString &key) const;
-    // Whether a PPD with this model name is one of "PrinterModels".
+    // Whether this model name of a PPD matches "PrinterModels".
     bool servesModel(const QString &modelName) const;
 
-    // Full path of layouts/NAME.ui, whether or not the file exists.
+    // Full path of layouts/NAME.ui. The file may not exist.
     QString layoutPath(const QString &name) const;
 
     // Contents of help/LANGUAGE/NAME.md in the first of the user's languages that has the page, else in
-    // English; null where there is none. A page beyond 64 kB is none.
+    // English. Null if there is no page or it exceeds 64 kB.
     QString helpText(const QString &name) const;
 
-    // The text for `key` in the string tables of the user's language; `value` where they lack it. Where
-    // `value` is null or empty, the text of the English table, then the key itself.
+    // The text for `key` from the string tables of the user's language. If they lack it, returns `value`; if
+    // that is null or empty, the text of the English table, else the key.
     QString localizedStringForKey(const QString &key, const QString &value = QString()) const;
-    // A text of a layout or of code, by the class (context) it stands in; `source` where there is no
-    // translation.
+    // The translation of a text of a layout or of code. `context` is the name of its class. Returns `source`
+    // if there is no translation.
     QString translate(const char *context, const char *source, const char *disambiguation = nullptr) const;
 
-    // Loads the code and gives its root component, which must be a `PrintDialogExtension` of the class that
-    // Info.json names. Null with a message otherwise. The object lives as long as the bundle; code is never
-    // unloaded, since widgets and transformers made by it may outlive the bundle.
+    // Loads the code and returns its root component, a `PrintDialogExtension` of the class named in
+    // Info.json. Null with a message on failure. The object lives as long as the bundle. Code is never
+    // unloaded, since its widgets and transformers may outlive the bundle.
     PrintDialogExtension *principalObject(QString *error);
 
 private:
@@ -83,8 +83,8 @@ private:
     QJsonObject m_info;
     QStringList m_languages;
     mutable bool m_stringsLoaded = false;
-    mutable std::vector<std::unique_ptr<QTranslator>> m_translators; // in the order of looking up
-    mutable std::size_t m_ofUsersLanguage = 0;                       // how many of them, from the first
+    mutable std::vector<std::unique_ptr<QTranslator>> m_translators; // in look-up order
+    mutable std::size_t m_ofUsersLanguage = 0; // number of leading translators in the user's language
     std::unique_ptr<QPluginLoader> m_loader;
 };
 

@@ -18,7 +18,7 @@ namespace platform {
 
 QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option, const QSize &icon)
 {
-    constexpr int margin = 2;  // above and below the text together, in pixels; all as QComboBox has it
+    constexpr int margin = 2;  // above and below the text together, in pixels; as in QComboBox
     constexpr int iconGap = 4; // between an icon and the text
     constexpr int leastHeight = 14;
     const QFontMetrics metrics = box.fontMetrics();
@@ -30,14 +30,14 @@ QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option, co
 
 void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option)
 {
-    constexpr int inset = 1; // of the text on either side, in pixels; and the gap, as styles have them
+    constexpr int inset = 1; // beside the text on either side, in pixels; and the gap, as in styles
     constexpr int iconGap = 4;
     const QRect place =
         box.style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, &box);
     const int icon = option->currentIcon.isNull() ? 0 : option->iconSize.width() + iconGap;
     const int room = place.width() - 2 * inset - icon;
     if (option->fontMetrics.horizontalAdvance(option->currentText) >
-        room) // which spares most windows code of Qt
+        room) // avoids loading Qt code in most windows
         option->currentText = option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, room);
 }
 
@@ -53,8 +53,7 @@ void ChoiceBox::setObstacle(int index, const QString &reason)
     auto *item = static_cast<QStandardItemModel *>(model())->item(index);
     item->setEnabled(reason.isEmpty());
     item->setAccessibleDescription(reason);
-    // Tool tips guess whether they hold markup, so the plain text is given to them as markup that says the
-    // same.
+    // Tooltips detect markup heuristically, so pass the plain text as markup with the same meaning.
     item->setToolTip(reason.isEmpty() ? QString() : Qt::convertFromPlainText(reason, Qt::WhiteSpaceNormal));
 }
 
@@ -66,7 +65,7 @@ bool ChoiceBox::isItemEnabled(int index) const
 void ChoiceBox::showPopup()
 {
     QComboBox::showPopup();
-    // The list is made when it is first shown, and has filters of its own, which are to come later.
+    // The list is created when it is first shown, with event filters of its own; install these before them.
     if (!std::exchange(m_listens, true)) {
         view()->installEventFilter(this);
         view()->viewport()->installEventFilter(this);
@@ -115,7 +114,7 @@ bool ChoiceBox::picksGreyed(QObject *watched, QEvent *event)
         const int under = view()->indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).row();
         if (event->type() == QEvent::MouseButtonPress)
             m_pressedRow = under;
-        else if (under == std::exchange(m_pressedRow, -1)) // not the click that opened the list
+        else if (under == std::exchange(m_pressedRow, -1)) // ignores the click that opened the list
             row = under;
     }
     if (row < 0 || isItemEnabled(row))
@@ -143,7 +142,7 @@ int ChoiceBox::rowFor(int key) const
     }
 }
 
-// An item that cannot be selected is none the less the current one, which is drawn and told as such.
+// A disabled item can still be the current item, which is drawn and announced as such.
 void ChoiceBox::showRow(int row)
 {
     const QModelIndex index = model()->index(row, modelColumn(), rootModelIndex());

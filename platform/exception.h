@@ -12,9 +12,9 @@
 
 namespace platform {
 
-// What the platform raises: an undefined key, an index out of range, a layout that does not fit its owner.
-// A plain value, thrown by value and caught by const reference. Only the places where a host calls in
-// (panel creation, restore, save) and where Qt's event loop would be crossed catch it.
+// Raised for misuse of the platform: an undefined key, an index out of range, a layout that does not match
+// its owner. A plain value, thrown by value and caught by const reference. It is caught only where a host
+// calls into a panel (creation, restore, save) and where it would otherwise cross Qt's event loop.
 class KELMAR_PLATFORM_EXPORT Exception : public std::runtime_error
 {
 public:
@@ -31,9 +31,9 @@ public:
     const QString &name() const { return m_name; }
     const QString &reason() const { return m_reason; }
     const QVariantMap &userInfo() const { return m_userInfo; }
-    // "name: reason", the text that is logged.
+    // "name: reason", for the log.
     QString description() const;
-    // The user info as one line of text for the log, "{}" when empty.
+    // The user info as a single line for the log; "{}" if empty.
     QString userInfoDescription() const;
 
 private:

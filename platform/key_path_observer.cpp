@@ -35,7 +35,7 @@ void KeyPathObserver::hook()
         try {
             object = objectOnPath(object, m_keys[depth], object->valueForKey(m_keys[depth]));
         } catch (const Exception &) {
-            // The reader of the path gets the exception; there is nothing further down to watch.
+            // The reader of the path gets the exception. There is nothing further along the path to observe.
             break;
         }
     }

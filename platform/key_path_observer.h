@@ -13,8 +13,8 @@
 
 namespace platform {
 
-// Watches one key path of one object, also when an object on the way is replaced. Owned by the object that
-// wants to know; ends quietly when the watched object dies.
+// Observes one key path of one object, including replacements of objects along the path. Owned by the
+// observing object. Becomes inactive when the observed object is destroyed.
 class KELMAR_PLATFORM_EXPORT KeyPathObserver : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     ~KeyPathObserver() override;
 
 Q_SIGNALS:
-    // The value at the path may have changed; read it anew.
+    // The value at the path may have changed; read it again.
     void changed();
 
 private:

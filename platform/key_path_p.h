@@ -10,8 +10,8 @@ namespace platform {
 
 class KeyValueObject;
 
-// The object that `value`, read from key `key` of `holder`, stands for on a key path. Null for null and for
-// an object in destruction; raises Exception (undefined key) for anything that has no keys of its own.
+// The object for `value`, which was read from key `key` of `holder`, as part of a key path. Null for null and
+// for an object in destruction. Raises Exception (undefined key) for values that have no keys.
 KeyValueObject *objectOnPath(const KeyValueObject *holder, const QString &key, const QVariant &value);
 
 } // namespace platform

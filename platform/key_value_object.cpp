@@ -23,7 +23,7 @@ namespace {
 using DependentKeys = QHash<const QMetaObject *, QHash<QString, QStringList>>;
 Q_GLOBAL_STATIC(DependentKeys, dependentKeys)
 
-// `key` and, each once, every key that depends on it directly or through others.
+// `key` and, once each, all keys that depend on it directly or indirectly.
 QStringList affectedKeys(const QMetaObject *cls, const QString &key)
 {
     QStringList affected{key};
@@ -60,7 +60,7 @@ bool isNumber(QMetaType type)
     return !isText && QMetaType::canConvert(type, QMetaType(QMetaType::Double));
 }
 
-// A value as a property takes it; null stands for an empty text, list or pointer, but for no number.
+// Converts a value to the type of a property. Null becomes an empty text, list or pointer, but is no number.
 std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &property)
 {
     const QMetaType type = property.metaType();
@@ -76,7 +76,8 @@ std::optional<QVariant> converted(const QVariant &value, const QMetaProperty &pr
     return result;
 }
 
-// The object that has the last of `keys`, found from `object` by those before; null with a null on the way.
+// The object that has the last of `keys`, reached from `object` through the others; null if an object on the
+// way is null.
 KeyValueObject *holderOfLast(KeyValueObject *object, const QStringList &keys)
 {
     for (qsizetype i = 0; object && i < keys.size() - 1; ++i)
@@ -84,7 +85,7 @@ KeyValueObject *holderOfLast(KeyValueObject *object, const QStringList &keys)
     return object;
 }
 
-// One addObserverForKeyPath(); a child of the observed object.
+// One call of addObserverForKeyPath(). A child of the observed object.
 class ObserverRegistration : public KeyPathObserver
 {
 public:
@@ -113,7 +114,8 @@ KeyValueObject *objectOnPath(const KeyValueObject *holder, const QString &key, c
     const bool isObject = type.flags().testFlag(QMetaType::PointerToQObject);
     QObject *object = isObject ? *static_cast<QObject *const *>(value.constData()) : nullptr;
     auto *keyed = qobject_cast<KeyValueObject *>(object);
-    // An object in destruction is no KeyValueObject any more; its declared type tells it from a wrong class.
+    // An object in destruction is no longer a KeyValueObject; its declared type distinguishes it from an
+    // object of the wrong class.
     const bool isDeclared =
         type.metaObject() && type.metaObject()->inherits(&KeyValueObject::staticMetaObject);
     if (!isObject || (object && !keyed && !isDeclared))

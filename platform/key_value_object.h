@@ -12,9 +12,9 @@
 
 namespace platform {
 
-// An object whose values are read, set and observed by key. Without overriding, the keys are the declared Qt
-// properties. Setters announce their change with KeyChange; observers of a key that depends on it are told
-// too. Lives in the dialog's thread. Null is the invalid QVariant.
+// An object whose values are read, set and observed by key. By default the keys are the declared Qt
+// properties. Setters announce changes with KeyChange; observers of dependent keys are notified as well.
+// Lives in the dialog's thread. A null value is the invalid QVariant.
 class KELMAR_PLATFORM_EXPORT KeyValueObject : public QObject
 {
     Q_OBJECT
@@ -22,36 +22,38 @@ public:
     explicit KeyValueObject(QObject *parent = nullptr);
     ~KeyValueObject() override;
 
-    // The value of a key. Raises Exception (undefined key) when the object has no such key.
+    // The value of a key. Raises Exception (undefined key) if there is no such key.
     virtual QVariant valueForKey(const QString &key);
-    // Raises Exception: undefined key when there is no such key or it is read-only, invalid argument when the
-    // value cannot be converted to the key's type. The setter behind the key makes the announcements.
+    // Sets a key. Raises Exception: undefined key if there is no such key or it is read-only, invalid
+    // argument if the value cannot be converted to the type of the key. The setter of the key announces the
+    // change.
     virtual void setValueForKey(const QVariant &value, const QString &key);
 
-    // A path is keys joined by dots; each but the last names a KeyValueObject. A null object on the way gives
-    // null, and a set through it does nothing.
+    // A path consists of keys joined by dots; all but the last key refer to a KeyValueObject. If an object
+    // along the path is null, the value is null, and setting it does nothing.
     QVariant valueForKeyPath(const QString &keyPath);
     void setValueForKeyPath(const QVariant &value, const QString &keyPath);
 
-    // Announce a change of `key` and, with it, of every key that depends on it. Calls pair up and may nest.
+    // Announce a change of `key` and of every key that depends on it. Calls must be paired and may nest.
     void willChangeValueForKey(const QString &key);
     void didChangeValueForKey(const QString &key);
 
-    // From now on a change of any of `keys` in objects of class `cls` is announced for `dependentKey` too.
-    // Meant to be called once a class; repeating it changes nothing.
+    // Registers dependencies: from now on a change of any of `keys` in objects of class `cls` is also
+    // announced for `dependentKey`. Call once per class; repeated calls have no effect.
     static void setKeysTriggerChangeNotificationsForDependentKey(const QMetaObject *cls,
                                                                  const QStringList &keys,
                                                                  const QString &dependentKey);
-    // The keys that were registered so for a dependent key of this object's class.
+    // The keys on which a key of this object's class depends, as registered above.
     QStringList keysOfDependentKey(const QString &dependentKey) const;
 
-    // Registers `observer` for the changes of a key path of this object: after each, its
-    // observeValueForKeyPathOfObjectChangeContext() runs with the new value under NSKeyValueChangeNewKey.
-    // Observer and context are borrowed; registrations end with the observer or with this object.
+    // Registers `observer` for changes of a key path of this object. After each change, its
+    // observeValueForKeyPathOfObjectChangeContext() is called with the new value under
+    // NSKeyValueChangeNewKey. Observer and context are borrowed. The registration ends when the observer or
+    // this object is destroyed.
     void addObserverForKeyPath(KeyValueObject *observer, const QString &keyPath, QObject *context);
-    // Removes the registrations of `observer` under that key path; nothing happens when there is none.
+    // Removes the registrations of `observer` for that key path. Does nothing if there are none.
     void removeObserverForKeyPath(KeyValueObject *observer, const QString &keyPath);
-    // The default does nothing.
+    // Called after a change. The default implementation does nothing.
     virtual void observeValueForKeyPathOfObjectChangeContext(const QString &keyPath, KeyValueObject *object,
                                                              const QVariantMap &change, QObject *context);
 
@@ -60,7 +62,7 @@ Q_SIGNALS:
     void valueDidChange(const QString &key);
 };
 
-// Announces the change of one key for the length of a scope.
+// Announces the change of one key for the duration of a scope.
 class KELMAR_PLATFORM_EXPORT KeyChange
 {
 public:

@@ -29,8 +29,8 @@ LayoutOwner::~LayoutOwner() = default;
 
 namespace {
 
-// Filled by the form itself unless a widget has this name: Designer writes a form's object name as its class,
-// which is the context of its texts, so a form cannot be called so.
+// Filled by the form itself unless a widget has this name. The form's own object name is not available:
+// Designer writes it as its class, which is the translation context.
 const QString viewOutlet = QStringLiteral("view");
 
 using WidgetFactories = QHash<QString, WidgetFactory>;
@@ -43,8 +43,7 @@ WidgetFactories &widgetFactories()
     return factories;
 }
 
-// Builds widgets of registered classes, and notes what the base class would silently replace by something
-// else.
+// Creates widgets of registered classes, and records names that the base class would silently replace.
 class WidgetBuilder : public QUiLoader
 {
 public:
@@ -80,8 +79,9 @@ private:
     QString m_problem;
 };
 
-// Qt's loader loads every Designer plug-in it finds when it is made, Qt Quick among them, for tens of
-// milliseconds and classes that no layout may use. So it is made once, while no folder of plug-ins is known.
+// Qt's loader loads all Designer plug-ins when it is constructed, Qt Quick included. This takes tens of
+// milliseconds and only adds classes that layouts must not use. It is therefore constructed once, while no
+// plug-in folder is set.
 WidgetBuilder &widgetBuilder()
 {
     static const std::unique_ptr<WidgetBuilder> builder = [] {
@@ -94,7 +94,7 @@ WidgetBuilder &widgetBuilder()
     return *builder;
 }
 
-// Calls an action of the owner; a child of the widget that is clicked.
+// Calls an action of the owner. A child of the clicked widget.
 class ActionCall : public QObject
 {
     Q_OBJECT
@@ -107,7 +107,7 @@ public:
 public Q_SLOTS:
     void run()
     {
-        // The action may do away with the widget, and with this.
+        // The action may delete the widget, and thus this object.
         const auto call = m_action.run;
         try {
             call(m_sender);
@@ -121,7 +121,7 @@ private:
     Action m_action;
 };
 
-// One loading of one layout.
+// Loads one layout.
 class LayoutLoading
 {
 public:

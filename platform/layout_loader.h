@@ -18,54 +18,55 @@ namespace platform {
 class Bundle;
 class KeyValueObject;
 
-// A place of a layout's owner that a widget of the same object name fills.
+// A member of a layout's owner that is set to the widget of the same object name.
 struct Outlet
 {
     QString name;
-    // Takes the widget; false when it is of the wrong class. Takes null when the layout is given up after
-    // all.
+    // Sets the widget; false if it has the wrong class. Called with null if loading the layout fails later.
     std::function<bool(QWidget *)> fill;
 };
 
-// An outlet that is a plain pointer field. The widget belongs to the layout.
+// An outlet for a plain pointer member. The layout owns the widget.
 template <typename W>
 Outlet outlet(const QString &name, W **field)
 {
     return {name, [field](QWidget *w) { return (*field = qobject_cast<W *>(w)) != nullptr; }};
 }
 
-// An operation of a layout's owner that a click calls, with the clicked widget as sender.
+// An operation of a layout's owner that is called on a click, with the clicked widget as sender.
 struct Action
 {
     QString name;
     std::function<void(QWidget *sender)> run;
 };
 
-// What a layout is loaded for. The owner outlives the layout.
+// The owner of a layout; it outlives the layout.
 class KELMAR_PLATFORM_EXPORT LayoutOwner
 {
 public:
     virtual ~LayoutOwner();
     virtual std::vector<Outlet> outlets() { return {}; }
     virtual std::vector<Action> actions() { return {}; }
-    // The object whose keys the layout's bindings name; never null.
+    // The object to whose keys the layout's bindings refer; never null.
     virtual KeyValueObject *keyValueObject() = 0;
 };
 
 using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 
-// Loads layouts/NAME.ui of the bundle for an owner: fills its outlets, makes the bindings of the dynamic
+// Loads layouts/NAME.ui of the bundle for an owner. Fills its outlets, creates the bindings from the dynamic
 // properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`,
-// and translates its texts with the bundle's strings. Every declared outlet must be filled; the form itself
-// fills "view" where no widget is called so. Raises Exception (layoutName) naming the file, the widget and
-// the outlet, key, property, transformer, action or delegate that does not fit; nothing is left behind then.
+// and translates the texts with the bundle's string tables. Every declared outlet must be filled; the form
+// itself fills "view" if no widget has that name. On failure nothing is left behind, and Exception
+// (layoutName) is raised; it names the file, the widget, and the outlet, key, property, transformer, action
+// or delegate that does not match.
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
-// The key path that the user sets with a control of a layout; null for a widget that only shows something.
+// The key path that the user sets with a control of a layout; null for a widget that only displays a value.
 KELMAR_PLATFORM_EXPORT QString keyPathSetBy(const QWidget *control);
 
-// Makes widgets of `className` available to layouts. The last registration of a name counts.
+// Makes widgets of `className` available to layouts. A later registration of the same name replaces an
+// earlier one.
 using WidgetFactory = std::function<QWidget *(QWidget *parent)>;
 KELMAR_PLATFORM_EXPORT void registerLayoutWidget(const QString &className, WidgetFactory factory);
 template <typename W>

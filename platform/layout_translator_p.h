@@ -9,13 +9,13 @@ namespace platform {
 
 class Bundle;
 
-// Gives Qt's layout builder the texts of the bundle whose layout is being loaded, and is silent at any other
-// time. Qt asks the application's translators only, so this one is installed, once and for good: it says that
-// it is empty, so that no window is told of a change of language. Owned by the application.
+// Provides Qt's layout builder with the texts of the bundle whose layout is being loaded. Qt queries only the
+// application's translators, so this one is installed permanently. It reports that it is empty, so that no
+// window receives a language change event. Owned by the application.
 class LayoutTranslator : public QTranslator
 {
 public:
-    // Lends the texts of a bundle for the length of a scope.
+    // Activates the texts of a bundle for the duration of a scope.
     class Scope
     {
     public:

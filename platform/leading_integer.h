@@ -18,18 +18,18 @@ struct DecimalDigit
     qsizetype length; // UTF-16 units
 };
 
-// The digit at a place of a text; null where there is none, and behind its end.
+// The digit at a position of a text; null if there is none, or beyond the end.
 KELMAR_PLATFORM_EXPORT std::optional<DecimalDigit> decimalDigitAt(QStringView text, qsizetype at);
 
-// The decimal number a text starts with.
+// The decimal number at the beginning of a text.
 struct LeadingInteger
 {
-    qint32 value;     // kept within 32 bits: a larger number counts as the largest
-    qsizetype length; // UTF-16 units up to its last digit, white space before it included
+    qint32 value;     // clamped to 32 bits
+    qsizetype length; // UTF-16 units up to the last digit, including leading white space
 };
 
-// Skips leading white space, takes an optional sign and reads decimal digits of any script up to the first
-// character that is none. Null when there is no digit.
+// Parses optional white space, an optional sign, and decimal digits of any script up to the first other
+// character. Null if there is no digit.
 KELMAR_PLATFORM_EXPORT std::optional<LeadingInteger> leadingInteger(QStringView text);
 
 } // namespace platform

@@ -7,8 +7,8 @@
 
 #include <QLoggingCategory>
 
-// One category a room, so that a user can turn each on or off with QT_LOGGING_RULES and finds its lines in
-// the journal. Messages never hold codes or passwords.
+// One category per module, so that users can enable each with QT_LOGGING_RULES and find its messages in the
+// journal. Messages never contain codes or passwords.
 KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPlatform();
 KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPlugin();
 KELMAR_PLATFORM_EXPORT const QLoggingCategory &lcPanels();

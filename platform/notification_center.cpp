@@ -29,7 +29,7 @@ NotificationCenter::NotificationCenter() = default;
 
 NotificationCenter::~NotificationCenter()
 {
-    // A delivery under way holds its registrations; it must not go on for a centre that is gone.
+    // A delivery in progress holds its registrations; it must stop when the center is destroyed.
     for (const auto &registration : m_registrations)
         registration->removed = true;
 }
@@ -62,7 +62,7 @@ void NotificationCenter::postNotification(const QString &name, QObject *object, 
     std::copy_if(m_registrations.begin(), m_registrations.end(), std::back_inserter(addressed),
                  [&](const auto &registration) { return registration->wants(name, object); });
     const Notification notification{name, object, userInfo};
-    // From here on a handler may change or destroy this centre.
+    // From here on a handler may change or destroy this center.
     for (const auto &registration : addressed) {
         if (registration->isLive())
             registration->handler(notification);

@@ -16,7 +16,7 @@
 
 namespace platform {
 
-// User-info key under which a change notification carries the new value.
+// User-info key of the new value in a change notification.
 KELMAR_PLATFORM_EXPORT extern const QString NSKeyValueChangeNewKey;
 
 struct Notification
@@ -26,10 +26,10 @@ struct Notification
     QVariantMap userInfo;
 };
 
-// Publish and subscribe by name, in one thread. Delivery is synchronous, in order of registration. An
-// observer registered while a notification is delivered does not get that one; one removed meanwhile is not
-// called any more. Registering twice delivers twice. A destroyed observer is skipped, so forgetting to remove
-// is harmless.
+// Publish and subscribe by name, within one thread. Delivery is synchronous, in order of registration. An
+// observer registered during the delivery of a notification does not receive it; an observer removed
+// meanwhile is not called. Registering twice delivers twice. Destroyed observers are skipped, so removing
+// them is optional.
 class KELMAR_PLATFORM_EXPORT NotificationCenter
 {
 public:
@@ -40,13 +40,13 @@ public:
     NotificationCenter(const NotificationCenter &) = delete;
     NotificationCenter &operator=(const NotificationCenter &) = delete;
 
-    // Calls `handler` for notifications called `name` from `sender`, or from any sender when that is null.
-    // `observer` must not be null; it is borrowed and only its life is watched.
+    // Calls `handler` for notifications called `name` from `sender`, or from any sender if that is null.
+    // `observer` must not be null; it is borrowed, and the registration ends when it is destroyed.
     void addObserver(QObject *observer, const QString &name, Handler handler, QObject *sender = nullptr);
-    // Forgets every registration of `observer`; nothing happens when there is none.
+    // Removes all registrations of `observer`. Does nothing if there are none.
     void removeObserver(QObject *observer);
     void postNotification(const QString &name, QObject *object, const QVariantMap &userInfo = {});
-    // Live registrations of one observer; for diagnosis.
+    // The number of active registrations of an observer; for diagnosis.
     int registrationCount(const QObject *observer) const;
 
 private:

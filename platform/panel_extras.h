@@ -11,25 +11,25 @@ class QWidget;
 
 namespace platform {
 
-// Implemented as well by a panel that has help of its own.
+// An optional interface of a panel that has a help page.
 class KELMAR_PLATFORM_EXPORT PanelHelp
 {
 public:
     virtual ~PanelHelp();
-    // A short page of Markdown without images, in the user's language; null where there is none. Links name
-    // other pages, as in "summary.md", and nothing else.
+    // A short page of Markdown without images, in the user's language; null if there is none. Links must name
+    // other pages, such as "summary.md".
     virtual QString helpText() = 0;
 };
 
-// Implemented as well by a panel that shows one of several views at a time.
+// An optional interface of a panel that shows one of several views at a time.
 class KELMAR_PLATFORM_EXPORT PanelViews
 {
 public:
     virtual ~PanelViews();
-    // Whether the user of this dialog can come to the view that a control is in.
+    // Whether the user of this dialog can switch to the view that contains a control.
     virtual bool offersViewOf(const QWidget *control) = 0;
-    // Shows the view that a control of the panel is in, at once and in its place. Does nothing where that
-    // view is shown already, and for what is in none.
+    // Switches at once to the view that contains a control of the panel. Does nothing if that view is already
+    // shown or the control is in no view.
     virtual void showViewOf(QWidget *control) = 0;
 };
 

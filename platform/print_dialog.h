@@ -22,10 +22,10 @@ namespace platform {
 class Bundle;
 class KeyValueObject;
 
-// The type of the panels that a print dialog shows: what a host asks for and a bundle declares.
+// The panel type of a print dialog, which a host requests and a bundle declares.
 KELMAR_PLATFORM_EXPORT extern const QString printDialogPanelType; // "BDB091F4-E57F-11D3-B5CC-0050E4603277"
 
-// What a plug-in may ask of the dialog host. Implemented and owned by the host; outlives every panel.
+// The interface of the dialog host for plug-ins. Implemented and owned by the host; outlives every panel.
 class KELMAR_PLATFORM_EXPORT PrintDialogHost
 {
 public:
@@ -33,41 +33,42 @@ public:
     // The job's settings; never null.
     virtual PMPrintSettings printSettings() = 0;
     virtual PMPrintSession printSession() = 0;
-    // The printer's open PPD, owned by the host; null where the printer has none.
+    // The printer's open PPD, owned by the host; null if the printer has none.
     virtual ppd_file_s *ppdFile() = 0;
 };
 
-// Implemented as well by a host that takes part in PPD constraint resolution.
+// An optional interface of a host that takes part in PPD constraint resolution.
 class KELMAR_PLATFORM_EXPORT ConstraintResolvingHost
 {
 public:
     virtual ~ConstraintResolvingHost();
-    // A PPD option or print setting is about to get this choice; null when it is about to be removed.
+    // Called before a PPD option or print setting is set to this choice, or removed if the choice is null.
     virtual void willChangePPDOptionKeyValuePpdChoice(const QString &keyword, const QVariant &choice) = 0;
 };
 
-// Implemented as well by a host that can show that it is waiting. Calls pair up and may nest.
+// An optional interface of a host that can show that it is waiting. Calls must be paired and may nest.
 class KELMAR_PLATFORM_EXPORT BlockingWorkHost
 {
 public:
     virtual ~BlockingWorkHost();
-    // `what` is localised plain text such as "Asking the printer for its colour profiles"; the host has
-    // painted it when this returns.
+    // `what` is localised plain text, such as "Asking the printer for its colour profiles". The host has
+    // painted it when this function returns.
     virtual void willBlock(const QString &what) = 0;
     virtual void didBlock() = 0;
 };
 
-// Implemented as well by a host that can tell the user about a panel that could not be made.
+// An optional interface of a host that can report a panel that could not be created.
 class KELMAR_PLATFORM_EXPORT PanelProblemHost
 {
 public:
     virtual ~PanelProblemHost();
-    // The panel of this class is missing from the dialog; `reason` is plain text that names what and where.
+    // The panel of this class is missing from the dialog. `reason` is plain text that names the cause and its
+    // place.
     virtual void panelFailed(const QString &className, const QString &reason) = 0;
 };
 
-// Says for the length of a scope that the dialog's thread may block. Nothing happens when the host does not
-// implement BlockingWorkHost or is null.
+// Announces, for the duration of a scope, that the dialog's thread may block. Does nothing if the host is
+// null or does not implement BlockingWorkHost.
 class KELMAR_PLATFORM_EXPORT BlockingWork
 {
 public:
@@ -80,26 +81,26 @@ private:
     BlockingWorkHost *m_host;
 };
 
-// One panel of a dialog. Made by a plug-in, owned by the host, gone before the host object goes.
+// One panel of a dialog. Created by a plug-in and owned by the host, which outlives it.
 class KELMAR_PLATFORM_EXPORT PrintDialogPanel
 {
 public:
     virtual ~PrintDialogPanel();
     virtual QString panelName() = 0; // localised
     virtual QString panelKind() = 0; // stable identifier
-    // Null for a panel without an interface. Owned by the panel.
+    // Null for a panel without a user interface. Owned by the panel.
     virtual QWidget *panelView() = 0;
-    // Localised option name to localised text, of what was last saved.
+    // Maps localised option names to localised values, as last saved.
     virtual QMap<QString, QString> summaryInfo() = 0;
     virtual bool shouldHide() = 0;
     virtual void willShow() = 0;
-    // False with a message in `error` (which may be null) when the panel could not do it.
+    // False if the panel failed, with a message in `error`, which may be null.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
     virtual bool saveValuesAndReturnError(QString *error) = 0;
-    // Why some of what the panel offers cannot be used, in localised words; null when all of it can. Known
-    // after a restore. What cannot be used does not reach the job.
+    // The localised reason why a part of the panel cannot be used; null if everything can be used. Known
+    // after a restore. Settings that cannot be used are not added to the job.
     virtual QString unavailableReason() { return {}; }
-    // The object that answers the panel's keys; never null, owned by the panel.
+    // The object that holds the panel's keys; never null, owned by the panel.
     virtual KeyValueObject *keyValueObject() = 0;
 };
 
@@ -111,7 +112,7 @@ class KELMAR_PLATFORM_EXPORT PrintDialogExtension
 public:
     virtual ~PrintDialogExtension();
     virtual bool initWithBundle(std::shared_ptr<Bundle> bundle) = 0;
-    // The panels of one dialog, in order; null when the extension does not serve panels of that type.
+    // The panels of one dialog, in order; null if the extension does not support this panel type.
     virtual std::optional<PrintDialogPanels> PDEPanelsForTypeWithHostInfo(const QString &type,
                                                                           PrintDialogHost *host) = 0;
 };

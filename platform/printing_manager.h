@@ -16,14 +16,14 @@ struct ppd_file_s;
 
 namespace platform {
 
-// The printer a session prints to. A value.
+// The printer of a session. A value.
 struct Printer
 {
     QString name;      // CUPS destination, "queue" or "queue/instance"
-    QString deviceUri; // as CUPS tells it; null when unknown
+    QString deviceUri; // as reported by CUPS; null if unknown
 };
 
-// A job's key-value store. Owned by the host, lives as long as its dialog.
+// A job's key-value store. Owned by the host; lives as long as its dialog.
 class KELMAR_PLATFORM_EXPORT PrintSettings
 {
 public:
@@ -37,13 +37,13 @@ private:
 };
 
 // A ticket of an older dialog host: a named store with one dictionary of PPD choices. A dictionary that was
-// never set is missing, which is something else than an empty one.
+// never set is null, which is distinct from an empty one.
 struct Ticket
 {
     std::optional<QVariantMap> ppdDictionary;
 };
 
-// One dialog's session. Owned by the host; the PPD is borrowed and outlives the session.
+// The session of one dialog. Owned by the host. The PPD is borrowed and outlives the session.
 struct PrintSession
 {
     std::optional<Printer> printer;
@@ -63,12 +63,11 @@ constexpr OSStatus kPMNoError = 0;
 constexpr OSStatus kPMInvalidParameter = -30877;
 constexpr OSStatus kPMKeyNotFound = -9589;
 
-// Null handles give kPMInvalidParameter and leave the result null; results must not be null.
+// Null handles return kPMInvalidParameter and set the result to null. Results must not be null.
 
 KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsGetValue(PMPrintSettings settings, const QString &key,
                                                         QVariant *value);
-// A null value removes the key. `locked` is accepted and has no effect: only the host may lock a
-// setting.
+// A null value removes the key. `locked` is ignored, since only the host may lock a setting.
 KELMAR_PLATFORM_EXPORT OSStatus PMPrintSettingsSetValue(PMPrintSettings settings, const QString &key,
                                                         const QVariant &value, bool locked);
 KELMAR_PLATFORM_EXPORT OSStatus PMSessionGetCurrentPrinter(PMPrintSession session, PMPrinter *printer);
@@ -78,7 +77,7 @@ KELMAR_PLATFORM_EXPORT OSStatus GetPPDRefFromSession(PMPrintSession session, ppd
 #if KELMAR_OLDER_HOSTS
 KELMAR_PLATFORM_EXPORT OSStatus PMSessionGetTicketFromSession(PMPrintSession session, const QString &name,
                                                               PMTicketRef *ticket);
-// Both indices are 0 for the one dictionary a ticket has. The dictionary is borrowed from the ticket.
+// Both indices are 0 for the only dictionary of a ticket. The dictionary is borrowed from the ticket.
 KELMAR_PLATFORM_EXPORT OSStatus PMTicketGetPPDDict(PMTicketRef ticket, quint32 nodeIndex1, quint32 nodeIndex2,
                                                    QVariantMap **dictionary);
 #endif

@@ -23,8 +23,8 @@ Q_GLOBAL_STATIC(Delegates, delegates)
 
 } // namespace
 
-// Keeps out what the delegate would change. Whatever the line edit then does to take the change back leaves
-// its undo history whole, which setting another text would not.
+// Rejects input that the delegate would change. When the line edit then reverts the change, its undo history
+// stays intact, which it would not if another text were set.
 class TextField::Gate : public QValidator
 {
 public:
@@ -33,12 +33,12 @@ public:
     {
         if (!m_field->m_delegate || m_field->m_delegate->acceptsText(input))
             return Acceptable;
-        // Changes that come by no event of the field, as from its menu, are looked at later.
+        // Changes that arrive without an event of the field, for example from its menu, are handled later.
         if (!std::exchange(m_field->m_rejected, Rejected{input, cursor}))
             QMetaObject::invokeMethod(m_field, &TextField::handleRejected, Qt::QueuedConnection);
         return Invalid;
     }
-    // A text that a program has set may end an edit as it is.
+    // A text that was set by a program may be committed unchanged.
     void fixup(QString &) const override {}
 
 private:
@@ -100,7 +100,7 @@ void TextField::resignFirstResponder(QWidget *view)
     if (!view)
         return;
     const QPointer<QWidget> window(view->window());
-    // A commit runs the code of a panel, which may do away with other fields.
+    // A commit runs code of a panel, which may delete other fields.
     const QPointer<QWidget> responder(window->focusWidget());
     auto *focused = qobject_cast<TextField *>(responder);
     const bool wasEdited = focused && focused->isEditing();
@@ -114,7 +114,7 @@ void TextField::resignFirstResponder(QWidget *view)
         if (field)
             field->endEditing();
     }
-    // Its delegate may have kept it in editing.
+    // The delegate may have kept the field in editing.
     if (wasEdited && responder && !focused->isEditing())
         responder->clearFocus();
 }
@@ -134,14 +134,14 @@ QSize TextField::minimumSizeHint() const
 {
     QSize size = QLineEdit::minimumSizeHint();
     const QFontMetrics metrics = fontMetrics();
-    if (m_columns > 0) // in place of the one character that a line edit always has room for
+    if (m_columns > 0) // replaces the width of the one character that a line edit always includes
         size.rwidth() += m_columns * metrics.horizontalAdvance(u'0') - metrics.maxWidth();
     return size;
 }
 
 bool TextField::event(QEvent *event)
 {
-    const QPointer<TextField> self(this); // a commit may do away with it
+    const QPointer<TextField> self(this); // a commit may delete the field
     const bool handled = QLineEdit::event(event);
     if (self)
         handleRejected();
@@ -152,7 +152,7 @@ void TextField::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && m_editing) {
-        // Not for the dialog's default button: the user sees first what has become of the text.
+        // Do not pass it to the dialog's default button, so that the user first sees the resulting text.
         event->accept();
         endEditing();
         return;
@@ -176,7 +176,7 @@ void TextField::mouseReleaseEvent(QMouseEvent *event)
 void TextField::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
-    // Neither for its context menu nor for another window, from which the user will come back to it.
+    // Not when a context menu opens or another window is activated, since the user will return to the field.
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         endEditing();
 }
@@ -194,7 +194,7 @@ void TextField::handleRejected()
     replaceByUser(editor.text(), editor.cursorPosition());
 }
 
-// As if the user had typed it over what is different, so that it can be undone in one step.
+// Replaces the differing part as if the user had typed it, so that it can be undone in one step.
 void TextField::replaceByUser(const QString &wanted, int cursor)
 {
     const QString present = text();
@@ -215,7 +215,7 @@ void TextField::replaceByUser(const QString &wanted, int cursor)
 void TextField::userEdited()
 {
     m_editing = true;
-    m_rejected.reset(); // the field took the text after all, as one that was not acceptable before does
+    m_rejected.reset(); // the field has accepted the text after all, as it may after an unacceptable one
     if (m_delegate)
         m_delegate->controlTextDidChange(this, {{NSFieldEditor, QVariant::fromValue<QObject *>(this)}});
 }

@@ -16,37 +16,38 @@ namespace platform {
 
 class TextField;
 
-// User-info key of a text-change notification that holds the field editor: a QObject * that is a QLineEdit.
+// User-info key of the field editor in a text-change notification: a QObject * to a QLineEdit.
 KELMAR_PLATFORM_EXPORT extern const QString NSFieldEditor;
 
-// Takes part in the editing of text fields. Stateless, so one instance serves several fields; shared.
+// Controls the editing of text fields. Stateless and shared, so one instance can serve several fields.
 class KELMAR_PLATFORM_EXPORT TextFieldDelegate
 {
 public:
     virtual ~TextFieldDelegate();
-    // Whether the delegate would leave a text as it is. A change by the user to any other text never comes
-    // to be: controlTextDidChange() gets it in a field editor of its own, and the control takes on what the
-    // delegate makes of it, so that undoing leads back to what was there before.
+    // Whether the delegate accepts a text unchanged. The field does not take over any other input of the
+    // user. Instead, controlTextDidChange() receives the input in a separate field editor, and the control
+    // takes over the delegate's result, so that undo leads back to the previous text.
     virtual bool acceptsText(const QString &text) const;
-    // After each change by the user. `userInfo` holds the field editor under NSFieldEditor.
+    // Called after each change by the user. `userInfo` holds the field editor under NSFieldEditor.
     virtual void controlTextDidChange(TextField *control, const QVariantMap &userInfo) = 0;
-    // Before the text is committed; false keeps the field in editing. May set the control's text.
+    // Called before the text is committed; false keeps the field in editing. May set the control's text.
     virtual bool controlTextShouldEndEditing(TextField *control, QLineEdit *fieldEditor) = 0;
 
-    // The process-wide register of delegates that layouts name. A later one replaces the earlier.
+    // The process-wide registry of delegates for use in layouts. A later registration replaces an earlier
+    // one.
     static void setDelegateForName(std::shared_ptr<TextFieldDelegate> delegate, const QString &name);
     static std::shared_ptr<TextFieldDelegate> delegateForName(const QString &name);
 };
 
-// A line edit that commits its text when editing ends: on Return, on losing the focus to another widget, and
-// when its window is told to end editing. A Return that ends an edit does nothing else. The click that brings
-// the focus selects everything, as the Tab key does. Bind `stringValue`; it keeps the last committed text
+// A line edit that commits its text when editing ends: on Return, when the focus moves to another widget, and
+// when its window is asked to end editing. A Return that ends an edit has no other effect. Clicking into the
+// field selects the whole text, as the Tab key does. Bind `stringValue`; it keeps the last committed text
 // while the user types.
 class KELMAR_PLATFORM_EXPORT TextField : public QLineEdit
 {
     Q_OBJECT
     Q_PROPERTY(QString stringValue READ stringValue WRITE setStringValue NOTIFY stringValueCommitted)
-    // How many digits it is wide, in its own font; 0 for a line edit's usual width.
+    // The width in digits of the field's font; 0 for the usual width of a line edit.
     Q_PROPERTY(int columns READ columns WRITE setColumns)
 public:
     explicit TextField(QWidget *parent = nullptr);
@@ -54,12 +55,12 @@ public:
 
     void setDelegate(std::shared_ptr<TextFieldDelegate> delegate);
     QString stringValue() const { return m_stringValue; }
-    // Shows and keeps a text without announcing a commit; ends an edit in progress without committing it.
+    // Sets the text without emitting a commit; discards an edit in progress.
     void setStringValue(const QString &text);
-    // True from the user's first change to the commit.
+    // True from the user's first change until the commit.
     bool isEditing() const { return m_editing; }
-    // Commits what was typed; false when the delegate keeps the field in editing. True at once when not
-    // editing.
+    // Commits the input; false if the delegate keeps the field in editing. Returns true at once if the field
+    // is not being edited.
     bool endEditing();
 
     int columns() const { return m_columns; }
@@ -67,9 +68,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // The window of `view` gives up its first responder, which is the text field being edited: a pending edit
-    // anywhere in it is committed, and a field that has the focus for it drops it. A widget without an edit
-    // keeps the focus. Null is allowed.
+    // Commits a pending edit anywhere in the window of `view`; if the edited field has the focus, it gives it
+    // up. Other widgets keep the focus. `view` may be null.
     static void resignFirstResponder(QWidget *view);
 
 Q_SIGNALS:
@@ -91,7 +91,7 @@ private:
     };
 
     void userEdited();
-    // Lets the delegate make something of the text that was not let in.
+    // Lets the delegate process input that was not accepted.
     void handleRejected();
     void replaceByUser(const QString &text, int cursor);
 

@@ -16,7 +16,7 @@
 
 namespace platform {
 
-// Owns a file descriptor and closes it. -1 stands for none.
+// Owns a file descriptor and closes it. -1 means none.
 class UniqueFd
 {
 public:
@@ -40,24 +40,24 @@ public:
         if (m_fd >= 0)
             ::close(std::exchange(m_fd, -1));
     }
-    // One of one's own for the same open file; none when there is no such descriptor.
+    // Duplicates a descriptor; none if it is invalid.
     static UniqueFd duplicate(int fd) { return UniqueFd(::fcntl(fd, F_DUPFD_CLOEXEC, 3)); }
 
 private:
     int m_fd = -1;
 };
 
-// Of one document that another program hands over; in bytes.
+// Maximum size in bytes of a document that another program passes.
 constexpr off_t longestDocument = off_t{2} * 1024 * 1024 * 1024;
 
-// How long a caller waits for another program's bytes.
+// How long a caller waits for data from another program.
 struct Patience
 {
-    std::chrono::milliseconds silence; // at a stretch in which nothing comes
-    std::chrono::milliseconds whole;   // however much comes
+    std::chrono::milliseconds silence; // without any data
+    std::chrono::milliseconds whole;   // in total
 };
 
-// Waits until there is something to read, or the end; false with errno, ETIMEDOUT when patience is at an end.
+// Waits for data or end of file. False with errno; ETIMEDOUT if patience is exceeded.
 inline bool waitForInput(int source, const Patience *patience, std::chrono::steady_clock::time_point begun)
 {
     using std::chrono::milliseconds;
@@ -79,11 +79,10 @@ inline bool waitForInput(int source, const Patience *patience, std::chrono::stea
     }
 }
 
-// Copies all of `source`, from its beginning where it has one to go back to, into a new file of `folder` that
-// loses its name at once: it follows no link, no other process can open it, and it goes with its last
-// descriptor. Blocks, without `patience` (may be null) as long as the source does. None, with errno, when
-// there are more than `limit` bytes (EFBIG), patience is at an end (ETIMEDOUT) or something cannot be read or
-// written.
+// Copies all of `source`, from the beginning if it is seekable, into a new file in `folder` that is unlinked
+// immediately: no link is followed, no other process can open the file, and it is freed with its last
+// descriptor. Blocks as long as the source does if `patience` is null. None with errno if there are more than
+// `limit` bytes (EFBIG), patience is exceeded (ETIMEDOUT), or reading or writing fails.
 inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit,
                             const Patience *patience = nullptr)
 {
@@ -99,7 +98,7 @@ inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit,
     UniqueFd copy(::mkostemp(name.data(), O_CLOEXEC));
     if (!copy || ::unlink(name.c_str()) != 0)
         return {};
-    (void)::lseek(source, 0, SEEK_SET); // fails for a pipe, which is at its beginning
+    (void)::lseek(source, 0, SEEK_SET); // fails for a pipe, which needs no rewinding
     char block[64 * 1024];
     off_t total = 0;
     while (true) {

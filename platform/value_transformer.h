@@ -13,25 +13,26 @@
 
 namespace platform {
 
-// Converts between the value a key holds and the value a control shows. Stateless; shared between bindings.
+// Converts between the value of a key and the value of a control. Stateless; shared between bindings.
 class KELMAR_PLATFORM_EXPORT ValueTransformer
 {
 public:
     virtual ~ValueTransformer();
 
-    // Type of what transformedValue() gives.
+    // The type of the result of transformedValue().
     virtual QMetaType transformedValueClass() const = 0;
     virtual bool allowsReverseTransformation() const { return false; }
-    // Key side to control side. A null (invalid) value is a value like any other.
+    // From key to control. A null (invalid) value is converted like any other.
     virtual QVariant transformedValue(const QVariant &value) const = 0;
-    // Control side to key side; only called where allowsReverseTransformation() is true. The default gives
-    // null.
+    // From control to key. Called only if allowsReverseTransformation() is true. The default implementation
+    // returns null.
     virtual QVariant reverseTransformedValue(const QVariant &value) const;
 
-    // The process-wide register of named transformers. A later one of the same name replaces the earlier.
+    // The process-wide registry of named transformers. A later registration of the same name replaces an
+    // earlier one.
     static void setValueTransformerForName(std::shared_ptr<const ValueTransformer> transformer,
                                            const QString &name);
-    // Null when no transformer has that name.
+    // Null if no transformer has that name.
     static std::shared_ptr<const ValueTransformer> valueTransformerForName(const QString &name);
 };
 

@@ -13,8 +13,8 @@
 struct PanelClass;
 class QVVersionInfo_M880;
 
-// The root component of the bundle. The host makes it once per loading and asks it for the panels of each
-// dialog; it keeps nothing of a dialog.
+// The root component of the bundle. The host creates it once when the bundle is loaded, and asks it for the
+// panels of each dialog. It holds no state of a dialog.
 class QVPDEFactory_M880 : public QObject, public platform::PrintDialogExtension
 {
     Q_OBJECT
@@ -26,10 +26,10 @@ public:
 
     // Always true.
     bool initWithBundle(std::shared_ptr<platform::Bundle> bundle) override;
-    // The panel classes of this build in roster order.
+    // The panel classes of this build in the order of the roster.
     std::vector<PanelClass> loadablePDEs() const;
     // Null unless `type` is the print-dialog panel type. A panel class that declines is skipped; one that
-    // raises platform::Exception is logged and skipped; anything else thrown passes on. A null host is a
+    // raises platform::Exception is logged and skipped; other exceptions are passed on. A null host is a
     // dialog without PPD and constraint handling.
     std::optional<platform::PrintDialogPanels>
     PDEPanelsForTypeWithHostInfo(const QString &type, platform::PrintDialogHost *host) override;

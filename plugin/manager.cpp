@@ -61,7 +61,7 @@ void writeChoices(QVPPD_M880 *ppd, platform::PrintDialogHost *host, const QVaria
 }
 
 #if KELMAR_OLDER_HOSTS
-// The PPD dictionary in the ticket of an older host's session; null when there is none.
+// The PPD dictionary in the ticket of an older host's session; null if there is none.
 QVariantMap *ticketDictionary(platform::PrintDialogHost *host)
 {
     PMTicketRef ticket = nullptr;
@@ -73,7 +73,8 @@ QVariantMap *ticketDictionary(platform::PrintDialogHost *host)
     return dictionary;
 }
 
-// The entries of a dictionary for some keys, or for all when none is named, without those that hold no value.
+// The entries of a dictionary for some keys, or for all keys if the list is empty, without entries that have
+// no value.
 QVariantMap presentEntries(const QVariantMap &dictionary, const QStringList &keys)
 {
     QVariantMap result;
@@ -85,7 +86,7 @@ QVariantMap presentEntries(const QVariantMap &dictionary, const QStringList &key
     return result;
 }
 
-// Without keys there is no answer, unlike on newer hosts.
+// Without keys the result is null, unlike on newer hosts.
 std::optional<QVariantMap> readTicket(platform::PrintDialogHost *host, const QStringList &keys)
 {
     const QVariantMap *dictionary = ticketDictionary(host);
@@ -140,7 +141,7 @@ std::shared_ptr<const QVVersionInfo_M880> QVPDEManager_M880::darwinVersion()
     return version;
 }
 
-// In the setters the old value goes when the new one is in place, so that nothing sees a half-changed
+// The setters release the old value after the new one is in place, so that no code sees a partially changed
 // manager.
 
 void QVPDEManager_M880::setBundle(std::shared_ptr<platform::Bundle> bundle)

@@ -22,9 +22,9 @@ class PrintDialogHost;
 class QVPPD_M880;
 class QVVersionInfo_M880;
 
-// The shared context of one print dialog: PPD, host, bundle, model and the notification centre through which
-// its panels talk. Made by the factory, shared by the panels; lives as long as any of them. The host is
-// borrowed and outlives it. Main thread only.
+// The shared context of one print dialog: PPD, host, bundle, model and the notification center through which
+// its panels communicate. Created by the factory and shared by the panels; lives as long as any of them. The
+// host is borrowed and outlives it. Main thread only.
 class QVPDEManager_M880
 {
 public:
@@ -35,13 +35,13 @@ public:
 
     // "1.01".
     static std::shared_ptr<const QVVersionInfo_M880> managerVersion();
-    // The running kernel's release. Null when it does not parse as a version.
+    // The release of the running kernel. Null if it is not a valid version.
     static std::shared_ptr<const QVVersionInfo_M880> darwinVersion();
 
     const std::shared_ptr<platform::Bundle> &bundle() const { return m_bundle; }
-    // Also reads the bundle's version.
+    // Also reads the version of the bundle.
     void setBundle(std::shared_ptr<platform::Bundle> bundle);
-    // Null when the bundle gives no valid version.
+    // Null if the bundle has no valid version.
     const std::shared_ptr<const QVVersionInfo_M880> &bundleVersion() const { return m_bundleVersion; }
     platform::PrintDialogHost *host() const { return m_host; }
     void setHost(platform::PrintDialogHost *host);
@@ -58,16 +58,17 @@ public:
     bool useConstraintHandling() const { return m_useConstraintHandling; }
     void setUseConstraintHandling(bool on) { m_useConstraintHandling = on; }
 
-    // The text in the bundle's default string table, the key itself where there is none.
+    // The text in the bundle's default string table, or the key if there is none.
     QString localizedStringForKey(const QString &key) const;
 
-    // The choice of each keyword: marked, else default, else from the print settings; keywords without any
-    // are left out. An empty list means every option of the PPD. Null where the host takes no part in
-    // constraint resolution, except on builds for older hosts, which read the session's ticket (and give null
-    // for an empty list).
+    // The choice of each keyword: the marked one, else the default, else the one in the print settings.
+    // Keywords without a choice are left out. An empty list means all options of the PPD. Null if the host
+    // takes no part in constraint resolution. Builds for older hosts read the session's ticket instead, and
+    // return null for an empty list.
     std::optional<QVariantMap> ppdDictionaryForOptions(const QStringList &keys) const;
-    // Tells the host of each keyword, then marks the choice in the PPD, or writes the print settings when the
-    // value is no string or the PPD has no such option. An empty list means every key of the dictionary.
+    // Notifies the host of each keyword, then marks the choice in the PPD, or writes the print settings if
+    // the value is not a string or the PPD has no such option. An empty list means all keys of the
+    // dictionary.
     void setPpdDictionaryForOptions(const QVariantMap &dictionary, const QStringList &keys);
 
 private:

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-// Model names of the family as their PPDs spell them; compared with the manager's current model.
+// Model names of the family as spelled in their PPDs; compared with the manager's current model.
 extern const QString QVFax;      // "KELMAR Orbis FAX"
 extern const QString QVDocStore; // "KELMAR Orb-DocStore"
 extern const QString QVAlder;    // "KELMAR Orbis110Series PS"

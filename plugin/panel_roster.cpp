@@ -9,7 +9,7 @@
 
 namespace {
 
-// Made on first use, because classes register while the code is loaded, in no given order.
+// Created on first use, because classes register while the code is loaded, in undefined order.
 std::map<QString, PanelClass> &registeredClasses()
 {
     static std::map<QString, PanelClass> classes;

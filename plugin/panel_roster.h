@@ -18,21 +18,21 @@ class PrintDialogPanel;
 }
 class QVPDEManager_M880;
 
-// A panel class of this build, found by its name at run time.
+// A panel class of this build, looked up by name at run time.
 struct PanelClass
 {
     QString className;
-    // Makes a panel for one dialog; null when the class declines. May raise platform::Exception.
+    // Creates a panel for one dialog; null if the class declines. May raise platform::Exception.
     std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>
         pdeWithManager;
 };
 
-// The panel classes that registered themselves, in a process-wide register. Registration happens while the
-// code is loaded, before any dialog; a class of the same name replaces the earlier one.
+// The process-wide registry of panel classes. Classes register themselves while the code is loaded, before
+// any dialog. A class of the same name replaces an earlier one.
 class PanelRoster
 {
 public:
-    // The panel names tried for every printer, in the order of the dialog.
+    // The panels that are created for every printer, in the order of the dialog.
     static constexpr auto names = std::to_array<std::string_view>(
         {"PrintMode", "ColorSettings1", "ColorSettings2", "DocStore", "Fax", "Watermark"});
     static const QStringList &panelNames();
@@ -40,15 +40,16 @@ public:
     static QString classNameForPanel(const QString &panelName);
 
     static void registerClass(PanelClass panelClass);
-    // For a class that goes away again. Nothing happens when it is not registered.
+    // Removes a class. Does nothing if it is not registered.
     static void unregisterClass(const QString &className);
-    // Null when this build has no class of that name. Valid until the register changes.
+    // Null if this build has no class of that name. Valid until the registry changes.
     static const PanelClass *classNamed(const QString &className);
 };
 
-void theRosterHasNoPanelOfThatName(); // what the compiler says of a name that is not in PanelRoster::names
+// named in the compiler's error for a name that is not in PanelRoster::names
+void theRosterHasNoPanelOfThatName();
 
-// A name of the roster; no other compiles.
+// A name of the roster; other names do not compile.
 struct RosterName
 {
     consteval RosterName(const char *name) : text(name)

@@ -12,7 +12,7 @@
 
 #include <span>
 
-// libcups announces the end of its PPD interface; this family's printers have no other description yet.
+// The PPD interface of libcups is deprecated, but this family's printers have no other description.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 const QString QVPPDChoiceKey = QStringLiteral("QVPPDChoice");
@@ -22,7 +22,7 @@ const QString QVPPDNameKey = QStringLiteral("QVPPDName");
 
 namespace {
 
-// libcups cuts a name to PPD_MAX_NAME before it looks it up, and would find the record of a shorter one.
+// libcups truncates names to PPD_MAX_NAME before a look-up, and would find the record of a shorter name.
 bool isPossibleName(const QByteArray &name)
 {
     return name.size() < PPD_MAX_NAME && !name.contains('\0');
@@ -58,7 +58,7 @@ std::span<const ppd_choice_t> choices(const ppd_option_t *option)
                                              : std::span<ppd_choice_t>();
 }
 
-// Null when there is no record or its keyword is not valid UTF-8.
+// Null if there is no record or its keyword is not valid UTF-8.
 std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
 {
     if (!record)
@@ -67,7 +67,7 @@ std::optional<QVPPDChoice_M880> choiceFromRecord(const ppd_choice_t *record)
     return choice.choice.isNull() ? std::nullopt : std::optional(choice);
 }
 
-// Null where neither the bundle nor the PPD has a text: the bundle would put the key in its place.
+// Null if neither the bundle nor the PPD has a text. The bundle alone would return the key.
 QString localizedChoiceText(const QString &option, const QString &choice, const QString &text,
                             const platform::Bundle *bundle)
 {

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringDecoder>
 
-// A text of a PPD record. Null when there is none, or when its bytes are not valid UTF-8.
+// A text of a PPD record. Null if there is none, or if its bytes are not valid UTF-8.
 inline QString stringFromUtf8(QByteArrayView bytes)
 {
     if (bytes.isNull())

@@ -7,24 +7,26 @@
 
 #include <memory>
 
-// An immutable dotted version number of one to three parts. Compared part by part as whole numbers, so 1.10
-// is greater than 1.9, and 1.1 equals 1.01. Shared freely.
+// An immutable dotted version number of one to three parts. The parts are compared as integers, so 1.10 is
+// greater than 1.9, and 1.1 equals 1.01. Can be shared freely.
 class QVVersionInfo_M880
 {
 public:
-    // Null when the string is null or empty, or has more than three parts. A part counts up to its first
-    // non-digit; one without leading digits is 0.
+    // Null if the string is null or empty, or has more than three parts. A part is read up to its first
+    // non-digit; a part without leading digits is 0.
     static std::shared_ptr<const QVVersionInfo_M880> versionInfoWithString(const QString &string);
 
     qint32 majorPart() const { return m_major; }
     qint32 minorPart() const { return m_minor; }
     qint32 otherPart() const { return m_other; }
-    // Always three parts, minor and other padded to the width they were written with: "1.01" gives "1.01.0".
+    // Always three parts. The second and third part keep the width with which they were written: "1.01" gives
+    // "1.01.0".
     const QString &stringValue() const { return m_reformatted; }
     // "v1.01.0"
     QString description() const;
 
-    // -1, 0 or +1 as this version is older, the same or newer. The string must be a valid version.
+    // -1, 0 or +1 if this version is older than, the same as or newer than the string, which must be a valid
+    // version.
     int compare(const QVVersionInfo_M880 &other) const;
     int compare(const QString &string) const;
 
@@ -40,7 +42,7 @@ private:
     QString m_reformatted;
 };
 
-// Kernel releases that divide older dialog hosts from newer ones, for comparison with the manager's Darwin
+// Kernel releases that separate older dialog hosts from newer ones, for comparison with the manager's Darwin
 // version.
 extern const QString QVTigerDarwinVersion;       // "8.0"
 extern const QString QVLeopardDarwinVersion;     // "9.0"

@@ -31,8 +31,8 @@ QVChoiceSlider_M880::QVChoiceSlider_M880(QWidget *parent) : QSlider(Qt::Horizont
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractSlider::actionTriggered, this, &QVChoiceSlider_M880::adjustAction);
-    // Without tracking a held thumb moves and no value follows; a reader of its position must find a choice,
-    // too.
+    // Without tracking, the value does not follow a held thumb; but readers of the position must find a
+    // choice.
     connect(this, &QAbstractSlider::sliderMoved, this,
             [this](int position) { setSliderPosition(nearestPosition(position).value_or(value())); });
 }
@@ -45,7 +45,7 @@ void QVChoiceSlider_M880::setChoices(const QVariant &choices)
         const QString keyword = choice.toMap().value(QVPPDChoiceKey).toString();
         bool isNumber = false;
         const int number = keyword.toInt(&isNumber);
-        // Where several mean the same number, the plain one counts.
+        // If several choices have the same number, the one with the plain spelling counts.
         if (isNumber && (!m_keywords.contains(number) || keyword == QString::number(number)))
             m_keywords.insert(number, keyword);
     }
@@ -71,8 +71,8 @@ void QVChoiceSlider_M880::showValue(const QVariant &value)
     setValue(value.toInt());
 }
 
-// Keys, wheel and mouse announce where they want the thumb before the value follows; here it is led to a
-// position that the option has.
+// Keys, wheel and mouse announce the requested position before the value changes; it is moved here to a
+// position for which the option has a choice.
 void QVChoiceSlider_M880::adjustAction(int action)
 {
     const bool isStep = action != SliderMove && action != SliderNoAction;
@@ -82,7 +82,7 @@ void QVChoiceSlider_M880::adjustAction(int action)
 
 void QVChoiceSlider_M880::sliderChange(SliderChange change)
 {
-    // A value that is set other than for display is a choice of the user.
+    // Any value that is not only set for display is a choice of the user.
     if (change == SliderValueChange && !m_showing && !m_settling) {
         const QScopedValueRollback settling(m_settling, true);
         setValue(nearestPosition(value()).value_or(m_shown));
@@ -96,8 +96,8 @@ void QVChoiceSlider_M880::sliderChange(SliderChange change)
         Q_EMIT valueChosen(m_shown);
 }
 
-// Styles fill a groove from its lower end, which says nothing of a deviation from neutral; the thumb is
-// theirs.
+// Styles fill the groove from its lower end, which does not show a deviation from neutral; the thumb is drawn
+// by the style.
 void QVChoiceSlider_M880::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
@@ -183,7 +183,7 @@ void QVChoiceSlider_M880::wheelEvent(QWheelEvent *event)
         event->ignore();
         return;
     }
-    // Qt would take as many steps a notch as lines are scrolled.
+    // By default Qt moves as many steps per notch as lines are scrolled.
     m_turned += event->angleDelta().y();
     for (; std::abs(m_turned) >= QWheelEvent::DefaultDeltasPerStep;
          m_turned -= m_turned > 0 ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep)

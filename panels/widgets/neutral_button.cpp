@@ -18,7 +18,8 @@ const bool registered = [] {
     return true;
 }();
 
-// Two arrows that meet at a line in the middle, in a square of 16 units: other than what takes a change back.
+// Two arrows that meet at a centre line, in a square of 16 units. Differs from the arrow that undoes a
+// change.
 QPainterPath toTheMiddle()
 {
     QPainterPath path(QPointF(8, 3));
@@ -45,8 +46,7 @@ QVNeutralButton_M880::QVNeutralButton_M880(QWidget *parent) : QToolButton(parent
 void QVNeutralButton_M880::setValue(int value)
 {
     m_value = value;
-    // Pressed, it has nothing left to do: the keyboard goes back to the slider rather than on to what
-    // follows.
+    // A used button has no further effect, so the focus returns to the slider instead of the next control.
     if (m_value == 0 && hasFocus())
         focusPreviousChild();
     setEnabled(m_allowed && m_value != 0);
@@ -64,7 +64,7 @@ QSize QVNeutralButton_M880::sizeHint() const
     return {side, side};
 }
 
-// Drawn here, since not every icon theme has such arrows, in the colour that texts have.
+// Painted in the text colour, since not every icon theme has such arrows.
 void QVNeutralButton_M880::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);

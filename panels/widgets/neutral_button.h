@@ -5,8 +5,8 @@
 
 #include <QToolButton>
 
-// A flat button next to a slider that resets it to neutral. Can be pressed only while there is
-// something to take back and the slider may be used.
+// A flat button next to a slider that resets it to neutral. Enabled only if the value is not neutral and the
+// slider may be used.
 class QVNeutralButton_M880 : public QToolButton
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ constexpr int cornerRadius = 6; // px
 constexpr int leastWidth = 280; // px
 constexpr int glyphSize = 18;   // px
 
-// An "i" or a "!" on a disc, on a field of 20 by 20.
+// Draws an "i" or a "!" on a disc, in a square of 20 units.
 void drawGlyph(QPainter &painter, const QColor &color, bool warning)
 {
     painter.setPen(Qt::NoPen);
@@ -74,7 +74,7 @@ QSize QVNotice_M880::minimumSizeHint() const
     return {leastWidth, heightForWidth(qMax(width, leastWidth))};
 }
 
-// Text that can be selected takes a whole text document, which most notices are never shown with.
+// Selectable text needs a complete text document, so it is enabled only when the notice is shown.
 void QVNotice_M880::showEvent(QShowEvent *event)
 {
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -88,7 +88,7 @@ void QVNotice_M880::resizeEvent(QResizeEvent *event)
         updateGeometry();
 }
 
-// A tint of the highlight over the window's own colour stays quiet in light and in dark palettes.
+// A tint of the highlight colour over the window colour is unobtrusive in light and dark palettes.
 void QVNotice_M880::paintEvent(QPaintEvent *)
 {
     const QColor color = m_warning ? QColor(0xe6, 0x9f, 0x00) : palette().color(QPalette::Highlight);

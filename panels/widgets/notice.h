@@ -7,14 +7,14 @@
 
 class QLabel;
 
-// A line of plain text with an icon that says why a control next to it cannot be used. Takes its place in the
-// layout only while there is a text.
+// A line of plain text with an icon that explains why a nearby control cannot be used. Occupies space in the
+// layout only if there is a text.
 class QVNotice_M880 : public QFrame
 {
     Q_OBJECT
     // A null or empty text hides the notice.
     Q_PROPERTY(QString text READ text WRITE setText)
-    // Something went wrong, rather than is so.
+    // Whether the notice is a warning instead of information.
     Q_PROPERTY(bool warning READ isWarning WRITE setWarning)
 public:
     explicit QVNotice_M880(QWidget *parent = nullptr);
@@ -23,7 +23,7 @@ public:
     void setText(const QString &text);
     bool isWarning() const { return m_warning; }
     void setWarning(bool warning);
-    // As high as the text needs in the width that the notice has, so that its last line is not cut off.
+    // The height of the text at the current width of the notice, so that its last line is not cut off.
     QSize minimumSizeHint() const override;
 
 protected:
@@ -32,7 +32,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QWidget *m_icon; // keeps the place of the glyph
+    QWidget *m_icon; // reserves the space of the glyph
     QLabel *m_text;
     bool m_warning = false;
 };

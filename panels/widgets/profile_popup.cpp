@@ -26,8 +26,8 @@ QVProfilePopUp_M880::QVProfilePopUp_M880(QWidget *parent) : ChoiceBox(parent)
     connect(this, &QComboBox::activated, this, &QVProfilePopUp_M880::choose);
 }
 
-// A device may call its profiles anything; the pop-up keeps its width. Room for an icon would make it taller
-// than others.
+// The width does not depend on the names, which come from the device. Space for an icon would make the pop-up
+// taller than others.
 QSize QVProfilePopUp_M880::sizeHint() const
 {
     QStyleOptionComboBox option;
@@ -82,7 +82,7 @@ void QVProfilePopUp_M880::rebuild()
                     Qt::ToolTipRole);
     }
     const uint selected = m_selected.toUInt();
-    // The device counts from 1, so 0 before any list was read is no selection yet.
+    // The device counts from 1, so 0 before a list was read means no selection.
     if (!m_selected.isValid() || (names.isEmpty() && selected == 0)) {
         setCurrentIndex(-1);
         return;
@@ -98,7 +98,7 @@ QString QVProfilePopUp_M880::elided(const QString &text) const
     initStyleOption(&option);
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    constexpr int margins = 4; // of the styles' labels within the field
+    constexpr int margins = 4; // margins of a style's label within the field
     return fontMetrics().elidedText(text, Qt::ElideRight, field.width() - margins);
 }
 

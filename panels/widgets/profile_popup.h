@@ -7,21 +7,20 @@
 
 #include <QVariant>
 
-// A pop-up of names that the device told, each with the number by which the device knows it. A selected
-// number that no name belongs to gets an item of its own and stays selected; showing, listing anew or looking
-// never changes the selection, only the user does. A name is shown on one line, cut with an ellipsis where it
-// is too long, and whole in the tooltip.
+// A pop-up of names reported by the device, each with the device's number for it. A selected number without a
+// name gets a separate item and stays selected. Only the user changes the selection. A name is shown on one
+// line, elided if it is too long, and in full in the tooltip.
 class QVProfilePopUp_M880 : public platform::ChoiceBox
 {
     Q_OBJECT
     // A list of strings, shown as plain text; null is empty.
     Q_PROPERTY(QVariant profileNames READ profileNames WRITE setProfileNames)
-    // The device's numbers of the names, in the same order; null or a shorter list goes on counting from
-    // there.
+    // The device's numbers of the names, in the same order. Null, or a list that is too short, is continued
+    // by counting.
     Q_PROPERTY(QVariant profileRows READ profileRows WRITE setProfileRows)
-    // A number of the device; null when there is none to show.
+    // A number of the device; null if there is none.
     Q_PROPERTY(QVariant selectedProfile READ selectedProfile WRITE setSelectedProfile NOTIFY profileChosen)
-    // How a number without a name is shown, with "%1" for the number.
+    // The text for a number without a name, with "%1" for the number.
     Q_PROPERTY(QString unnamedText READ unnamedText WRITE setUnnamedText)
 public:
     explicit QVProfilePopUp_M880(QWidget *parent = nullptr);

@@ -15,7 +15,7 @@ const bool registered = [] {
 }();
 
 constexpr char16_t leftToRightMark = u'\u200e';
-constexpr char16_t minusSign = u'\u2212'; // as wide as the plus, unlike the hyphen
+constexpr char16_t minusSign = u'\u2212'; // as wide as a plus, unlike the hyphen
 
 } // namespace
 
@@ -29,7 +29,7 @@ QVSignedValueLabel_M880::QVSignedValueLabel_M880(QWidget *parent) : QLabel(paren
 void QVSignedValueLabel_M880::setValue(int value)
 {
     m_value = value;
-    // Between words from right to left a sign would change to the other side of its number.
+    // In right-to-left text the sign would otherwise move to the other side of its number.
     setText((isRightToLeft() ? QString(QChar(leftToRightMark)) : QString()) + textForValue(value));
 }
 

@@ -5,8 +5,8 @@
 
 #include <QLabel>
 
-// Shows a whole number with its sign, as a deviation from neutral: "+3", "0", "−2". Always as wide as its
-// widest two-character text, so that a row of them stays aligned.
+// Shows an integer with its sign, as a deviation from neutral: "+3", "0", "−2". Always as wide as its widest
+// two-character text, so that a row of labels stays aligned.
 class QVSignedValueLabel_M880 : public QLabel
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ QAccessibleInterface *makeAccessible(const QString &, QObject *object)
     return slider ? new QVSliderAccessible_M880(slider) : nullptr;
 }
 
-// Qt must not call into a plug-in that is gone.
+// Qt must not call into an unloaded plug-in.
 struct Installation
 {
     Installation() { QAccessible::installFactory(makeAccessible); }
@@ -55,7 +55,7 @@ QVariant QVSliderAccessible_M880::currentValue() const
 
 void QVSliderAccessible_M880::setCurrentValue(const QVariant &value)
 {
-    // As the user does it, so that receivers of the slider's actions are notified.
+    // As for a user's action, so that receivers of the slider's actions are notified.
     slider()->setSliderDown(true);
     slider()->setSliderPosition(value.toInt());
     slider()->setSliderDown(false);

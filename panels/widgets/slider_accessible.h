@@ -7,8 +7,8 @@
 
 class QVChoiceSlider_M880;
 
-// What assistive technology finds at a slider: its number, and as text the signed value shown next to it.
-// Created and owned by Qt on request, for as long as the slider lives.
+// The accessible interface of a slider: its number, and as text the signed value shown next to it. Created by
+// Qt on request and owned by it for the lifetime of the slider.
 class QVSliderAccessible_M880 : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -18,7 +18,7 @@ public:
     void *interface_cast(QAccessible::InterfaceType type) override;
 
     QVariant currentValue() const override;
-    // The same as the user's moving the thumb.
+    // Has the same effect as moving the thumb.
     void setCurrentValue(const QVariant &value) override;
     QVariant maximumValue() const override;
     QVariant minimumValue() const override;

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QWidget>
 
-// A small disc in a colour, a ring only while it is disabled. As high and as wide as its layout says.
+// A small disc in a colour; drawn as a ring while it is disabled. Its size is set by its layout.
 class QVSwatch_M880 : public QWidget
 {
     Q_OBJECT

@@ -23,8 +23,8 @@ QList<QWidget *> QVViewStack_M880::views() const
     return findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-// Lines that wrap make a view the higher the narrower it is; what they ask for without a width is the height
-// in a narrow one.
+// Views with wrapped lines are higher the narrower they are; without a width they request the height of a
+// narrow view.
 int QVViewStack_M880::heightFor(const QWidget &view, const QSize &hint) const
 {
     return view.hasHeightForWidth() ? view.heightForWidth(qMax(width(), hint.width())) : hint.height();
@@ -61,11 +61,10 @@ void QVViewStack_M880::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     fillWithViews();
     if (event->size().width() != event->oldSize().width())
-        updateGeometry(); // a view may be as high as its width wants it
+        updateGeometry(); // the height of a view depends on its width
 }
 
-// A view that needs more or less room than before, in another language or with another text, changes the
-// panel's.
+// When a view needs a different size, for example after a change of language or text, so does the panel.
 bool QVViewStack_M880::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest)

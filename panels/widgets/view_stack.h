@@ -5,9 +5,9 @@
 
 #include <QWidget>
 
-// The view of a panel that shows one of several views at a time. As large as the largest of its child views
-// needs in its width, and each of them is kept as large as it; where they are and which is shown is the
-// panel's affair.
+// The view of a panel that shows one of several views at a time. It is as large as its largest child view at
+// its width, and keeps all child views at its own size. The panel decides where they are and which one is
+// shown.
 class QVViewStack_M880 : public QWidget
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    // Makes the child views as large as this one; those that are in place stay in place.
+    // Resizes the child views to the size of this view. Views in place stay in place.
     void fillWithViews();
 
 protected:
