@@ -23,8 +23,8 @@ const QString QVApplyToDeviceColorOnlyKey =
 
 namespace {
 
-// The device's tables, under the maker's enterprise arc. The last three elements are column, 1, row; rows
-// count from 1.
+// The device's tables, under the maker's enterprise arc. The last three elements are column, 1, row; rows are
+// counted from 1.
 using ColumnOid = std::array<SnmpOid, 18>;
 constexpr ColumnOid firstRowOf(SnmpOid column)
 {
@@ -57,7 +57,7 @@ QVariantMap valuesOfSettings(PMPrintSettings settings)
 }
 
 #if KELMAR_OLDER_HOSTS
-// Null where the session has no ticket, or its ticket no dictionary.
+// Null if the session has no ticket or the ticket has no dictionary.
 QVariantMap *ticketDictionary(PMPrintSession session)
 {
     PMTicketRef ticket = nullptr;
@@ -89,7 +89,7 @@ bool readDefaults(QVSNMP_M880 &client, QVAdvancedColorSettingsManager_M880 &sett
         client.sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), defaultsRowCount);
     if (!values)
         return false;
-    // A device that knows only some of its defaults has none that could be told apart.
+    // A device that returns only some of its defaults has none, since they could not be told apart.
     if (values->size() == defaultsRowCount) {
         settings.setSelectedRgbSourceProfile(numberOf(values->at(0)));
         settings.setSelectedCmykSourceProfile(numberOf(values->at(1)));
@@ -110,8 +110,8 @@ void applyStoredValues(const QVariantMap &stored, QVAdvancedColorSettingsManager
           [&settings](const QVariant &v) { settings.setSelectedRgbSourceProfile(numberOf(v)); });
     apply(QVCmykSourceProfileIndexKey,
           [&settings](const QVariant &v) { settings.setSelectedCmykSourceProfile(numberOf(v)); });
-    // A stored destination goes to the CMYK source, and the destination stays the device's own default: that
-    // is how jobs have always been restored, and presets were saved with it.
+    // A stored destination is applied to the CMYK source, and the destination remains the device's default.
+    // Jobs have always been restored this way, and presets were saved accordingly.
     apply(QVCmykDestinationProfileIndexKey,
           [&settings](const QVariant &v) { settings.setSelectedCmykSourceProfile(numberOf(v)); });
     apply(QVRenderingIntentKey, [&settings](const QVariant &v) { settings.setRenderingIntent(numberOf(v)); });
@@ -119,7 +119,7 @@ void applyStoredValues(const QVariantMap &stored, QVAdvancedColorSettingsManager
           [&settings](const QVariant &v) { settings.setApplyToDeviceColorOnly(booleanValue(v)); });
 }
 
-// None while disabled.
+// Empty while disabled.
 QVariantMap valuesToSave(const QVAdvancedColorSettingsManager_M880 &settings)
 {
     if (!settings.snmpEnabled())
@@ -174,7 +174,7 @@ void QVAdvancedColorSettingsManager_M880::updateFromSNMP(QObject *)
         return;
     }
     const auto closeAtEnd = qScopeGuard([&client] { client->closeSession(); });
-    // One that fails does not keep the others from being read.
+    // A failure of one table does not prevent reading the others.
     const auto disableUnless = [&](bool read) {
         if (!read)
             setSnmpEnabledWithReason(false, cannotConnect);
@@ -219,7 +219,7 @@ bool QVAdvancedColorSettingsManager_M880::restoreValuesAndReturnError(QString *)
     }
     setSnmpEnabledWithReason(true, {});
     updateFromSNMP();
-    // What the device cannot confirm is dropped.
+    // Drops selections that the device does not confirm.
     if (m_snmpEnabled)
         applyStoredValues(stored, *this);
     return true;

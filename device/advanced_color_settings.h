@@ -23,14 +23,13 @@ extern const QString QVCmykDestinationProfileIndexKey; // "....cmyk-dest"
 extern const QString QVRenderingIntentKey;             // "....rendering-intent"
 extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only", "1" or "0"
 
-// The colour profiles that a printer holds, what the user chose among them, and whether the printer could be
-// asked. Its keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed
-// and outlive it. The device is asked by restore and by updateFromSNMP() alone, which return when it is done;
-// the host is told before. A user who does not wait gets what a device that does not answer gives. Main
-// thread only.
+// The colour profiles stored in a printer, the user's selection, and whether the printer could be queried.
+// The keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed and
+// outlive it. Only restore and updateFromSNMP() query the device; they return when done and notify the host
+// before. If the user stops waiting, the result is that of a device that does not respond. Main thread only.
 //
-// Each list of names goes with a list of the device's numbers, which the selections refer to: a profile
-// without a name has a number but no place in the lists. An empty list is one that was never read.
+// Each list of names has a list of the device's numbers, to which the selections refer: a profile without a
+// name has a number but is not in the lists. An empty list has not been read.
 class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
 {
     Q_OBJECT
@@ -56,19 +55,21 @@ class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
         QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason STORED false)
     Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled STORED false)
 public:
-    // Enabled, with nothing read yet. The window of `view`, which may be null, ends its text editing on save.
+    // Initially enabled, with nothing read. Saving ends text editing in the window of `view`, which may be
+    // null.
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
                                         QWidget *view);
 
-    // Reads lists and defaults from the device, unless disabled: to ask again after a failure, the caller
-    // enables first. A failure disables with a localised reason and leaves what was read before. `sender`
-    // does not matter.
+    // Reads lists and defaults from the device, unless disabled: to retry after a failure, the caller enables
+    // first. A failure disables the settings with a localised reason and keeps what was read before. `sender`
+    // is ignored.
     void updateFromSNMP(QObject *sender = nullptr);
-    // Enables, asks the device, and puts the stored selections over its defaults. Always true, without error.
+    // Enables the settings, queries the device, and replaces its defaults by the stored selections. Always
+    // returns true, without error.
     bool restoreValuesAndReturnError(QString *error);
-    // Ends text editing and writes the selections, or removes them while disabled. Always true.
+    // Ends text editing and writes the selections, or removes them while disabled. Always returns true.
     bool saveValuesAndReturnError(QString *error);
-    // The reason is kept when disabling, and null when enabling.
+    // The reason is stored when disabling, and null when enabling.
     void setSnmpEnabledWithReason(bool enabled, const QString &reason);
     void willShow() {}
 
@@ -79,7 +80,7 @@ public:
     const QStringList &rgbSourceProfiles() const { return m_rgbSourceProfiles.names; }
     const QStringList &cmykSourceProfiles() const { return m_cmykSourceProfiles.names; }
     const QStringList &cmykDestinationProfiles() const { return m_cmykDestinationProfiles.names; }
-    // Names given here are numbered from 1.
+    // These names are numbered from 1.
     void setRgbSourceProfiles(const QStringList &names);
     void setCmykSourceProfiles(const QStringList &names);
     void setCmykDestinationProfiles(const QStringList &names);

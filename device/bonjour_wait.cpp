@@ -19,7 +19,7 @@ struct Service
     QByteArray name, type, domain;
 };
 
-// What a DNSServiceResolveReply is told. Texts are null where they were null.
+// Arguments of a DNSServiceResolveReply. Null texts stay null.
 struct Reply
 {
     DNSServiceFlags flags;
@@ -51,7 +51,7 @@ std::optional<Reply> replyFor(const Service &asked, const QDeadlineTimer &deadli
 {
     std::optional<Reply> reply;
     DNSServiceRef started = nullptr;
-    // The error is told by the missing reference.
+    // The error is reported by the missing reference.
     DNSServiceResolve(&started, 0, 0, asked.name.constData(), asked.type.constData(),
                       asked.domain.constData(), keepFirstReply, &reply);
     DnsServiceHandle service(started);
@@ -59,11 +59,11 @@ std::optional<Reply> replyFor(const Service &asked, const QDeadlineTimer &deadli
         return std::nullopt;
     const int descriptor = DNSServiceRefSockFD(service.get());
     if (descriptor == -1) {
-        // Nothing is left that could be told of the end: the reference is given up, not deallocated.
+        // Nothing can be notified of the end any more: the reference is abandoned, not deallocated.
         static_cast<void>(service.release());
         return std::nullopt;
     }
-    // One readable descriptor need not mean a reply: Avahi's library takes two or three reads for one.
+    // A readable descriptor does not guarantee a reply: Avahi's library needs two or three reads for one.
     bonjour::waitForReply(descriptor, deadline, [&] {
         if (DNSServiceProcessResult(service.get()) != kDNSServiceErr_NoError)
             return bonjour::Progress::Failed;

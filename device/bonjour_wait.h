@@ -10,23 +10,23 @@
 #include <chrono>
 #include <functional>
 
-// Questions to the Bonjour daemon.
+// Queries to the Bonjour daemon.
 namespace bonjour {
 
-// For one resolution as a whole: reaching the daemon, and the wait for its reply.
+// Time limit for a complete resolution: connecting to the daemon, and waiting for its reply.
 constexpr std::chrono::milliseconds replyBudget{5000};
 
 enum class Progress { Pending, Replied, Failed };
 
-// Runs `process` each time the descriptor is readable until it replied or failed or the deadline has passed.
-// Any descriptor number will do. True when it replied.
+// Calls `process` each time the descriptor is readable until it has replied or failed, or the deadline has
+// passed. Works with any descriptor number. True if it has replied.
 bool waitForReply(int descriptor, const QDeadlineTimer &deadline, const std::function<Progress()> &process);
 
-// Looks up where a service instance runs and gives the daemon's first answer, which may be an error, to
-// `reply` before it returns, on the calling thread; the reference that `reply` gets is null. `reply` is not
-// called when the daemon is away or silent for the length of the budget. The daemon's library may wait far
-// longer than that, and for ever for a silent bus: it is called on a worker thread, and is left
-// to itself when the time is over. In a build without that library `reply` is never called.
+// Resolves a service instance and passes the daemon's first answer, which may be an error, to `reply` before
+// it returns, on the calling thread; the reference passed to `reply` is null. `reply` is not called if the
+// daemon is not running or does not respond within the time limit. The daemon's library may wait much longer,
+// or forever if the bus does not respond: it is called on a worker thread, which is abandoned when the time
+// is over. In a build without that library `reply` is never called.
 void resolveService(const char *name, const char *type, const char *domain, DNSServiceResolveReply reply,
                     void *context);
 

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-// The host part of a CUPS device URI with percent escapes and brackets gone: "10.0.0.1", "fe80::1%eth0",
-// "Office Printer._ipp._tcp.local". Case is kept. Null when the URI has no host or cannot be read; a port,
-// user-info and path are not looked at.
+// The host of a CUPS device URI, without percent encoding and brackets: "10.0.0.1", "fe80::1%eth0", "Office
+// Printer._ipp._tcp.local". Case is preserved. Null if the URI has no host or cannot be parsed. Port,
+// user-info and path are ignored.
 QString hostOfDeviceUri(const QString &uri);

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// The DNS Service Discovery client library. A build without it (KELMAR_HAS_DNSSD is 0) has only the types, of
-// which a reply consists.
+// The DNS Service Discovery client library. A build without it (KELMAR_HAS_DNSSD is 0) only has the types of
+// a reply.
 #if KELMAR_HAS_DNSSD
 #include <dns_sd.h>
 

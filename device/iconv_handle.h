@@ -14,7 +14,7 @@ struct IconvCloser
 };
 using IconvHandle = std::unique_ptr<std::remove_pointer_t<iconv_t>, IconvCloser>;
 
-// Null when the system has no such conversion.
+// Null if the system does not support the conversion.
 inline IconvHandle openIconv(const char *to, const char *from)
 {
     const iconv_t converter = ::iconv_open(to, from);

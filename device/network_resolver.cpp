@@ -41,7 +41,7 @@ struct ResolverState
     ResolverState()
     {
         QVResolverCache.reserve(5);
-        // The cache's own date lies among the hosts.
+        // The date of the cache itself is stored among the hosts.
         QVResolverCache.insert(QVAgeKey, services().now());
     }
 
@@ -55,7 +55,7 @@ ResolverState &state()
     return current;
 }
 
-// Null for text that is not ASCII, or that a C string would cut short.
+// Null for text that is not ASCII, or contains a null character.
 std::optional<QByteArray> asciiBytes(const QString &text)
 {
     for (const QChar c : text) {
@@ -85,8 +85,8 @@ double ageInSeconds(const QDateTime &written)
     return static_cast<double>(written.msecsTo(now)) / 1000.0;
 }
 
-// The address of "fe80::1%eth0" with its scope, which gethostbyname2 does not read. Empty for any other text,
-// and where there is no such interface.
+// The address of "fe80::1%eth0" with its scope, which gethostbyname2 does not parse. Empty for any other
+// text, and if there is no such interface.
 QByteArray scopedAddress(const QByteArray &text)
 {
     addrinfo hints{};
@@ -102,7 +102,7 @@ QByteArray scopedAddress(const QByteArray &text)
     return status == 0 ? QByteArray(address.data()) : QByteArray();
 }
 
-// The plain form of the call keeps its answer where the next call on any thread overwrites it.
+// The non-reentrant function stores its result where the next call on any thread overwrites it.
 QByteArray addressByName(const QByteArray &name, int family)
 {
     if (name.contains('%'))
@@ -148,7 +148,7 @@ QHash<QString, QVariant> QVNetworkResolver_M880::cache()
 
 QString QVNetworkResolver_M880::ipFromPrintSession(PMPrintSession session)
 {
-    // Neither status counts: without a printer or a URI there is no host, and so no address.
+    // Both statuses can be ignored: without a printer or a URI there is no host, and so no address.
     PMPrinter printer = nullptr;
     PMSessionGetCurrentPrinter(session, &printer);
     QString uri;
@@ -161,12 +161,12 @@ QString QVNetworkResolver_M880::resolveToIP(const QString &host)
     if (host.isNull())
         return {};
     const QMutexLocker lock(&state().lock);
-    // Only a failure is worth remembering: a printer may get another address at any time.
+    // Only failures are cached, since a printer may get another address at any time.
     if (checkCacheForHost(host) == QVDoesntResolve)
         return {};
     QVNetworkResolver_M880 resolver;
     const QString address = resolver.resolve(host);
-    // Whether an abandoned look-up would have failed is not known.
+    // An abandoned look-up has not necessarily failed.
     if (!address.isNull() || !platform::Background::isGivenUp())
         addToCacheForHost(address, host);
     return address;
@@ -182,7 +182,7 @@ QString QVNetworkResolver_M880::resolve(const QString &host)
 
 QString QVNetworkResolver_M880::checkCacheForHost(const QString &host)
 {
-    // The cache's own date is no record: read as one it has no age, so it is never fresh.
+    // The date of the cache is not a record: read as a record it has no age, so it is never fresh.
     const QVariantMap record = state().QVResolverCache.value(host).toMap();
     if (!(ageInSeconds(record.value(QVAgeKey).toDateTime()) < cacheLifeSeconds))
         return {};

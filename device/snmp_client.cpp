@@ -28,17 +28,18 @@ constexpr long timeoutMicroseconds = 1'000'000;
 constexpr std::array<SnmpOid, 12> prtGeneralCurrentLocalization{1, 3, 6, 1, 2, 1, 43, 5, 1, 1, 2, 1};
 constexpr std::array<SnmpOid, 13> prtLocalizationCharacterSet{1, 3, 6, 1, 2, 1, 43, 7, 1, 1, 4, 1, 0};
 
-// What a version of net-snmp with a longer session writes behind ours is not read, and damages nothing.
+// Padding for a net-snmp version with a longer session structure: its additional fields are not read and
+// overwrite nothing.
 struct RoomySession
 {
     netsnmp_session known{};
     std::array<std::byte, 512> beyond{};
 };
 
-// Without a handle when net-snmp cannot open one.
+// Null handle if net-snmp cannot open a session.
 std::shared_ptr<SnmpSession> openedSession(const SnmpCalls &calls, const QString &address)
 {
-    // A bare IPv6 address, with or without a scope id, is taken as it stands.
+    // A bare IPv6 address, with or without a scope ID, is passed unchanged.
     QByteArray peername = address.toUtf8();
     QByteArray community = QByteArrayLiteral("public");
     RoomySession room;
@@ -114,13 +115,13 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
         return nullptr;
     };
     SnmpLibrary &library = SnmpLibrary::instance();
-    // The count vouches for no more than an earlier attempt, hence the second look.
+    // The load count also includes failed attempts, hence the second check.
     if (!loadLibrary() || !library.isUsable())
         return fail(QVSNMPArchitectureMismatch);
     const QString address = QVNetworkResolver_M880::resolveToIP(host);
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
-    // It reads files that the environment names, which need not answer.
+    // It reads the files named in the environment, which may block.
     const auto isReady = platform::callBeside([&library] {
         library.initialize("KelmarPDE");
         return true;
@@ -139,7 +140,7 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
 QVSNMP_M880::QVSNMP_M880(std::shared_ptr<SnmpSession> session)
     : m_theSession(std::move(session)), m_charSet(NSASCIIStringEncoding)
 {
-    m_theSession->isToBeClosed = false; // unless closeSession() says so
+    m_theSession->isToBeClosed = false; // unless closeSession() sets it
 }
 
 QVSNMP_M880::~QVSNMP_M880()
@@ -188,7 +189,7 @@ std::optional<QVariantList> QVSNMP_M880::sendBulkRequestWithSizeAndCount(SnmpOid
     values.reserve(count);
     for (quint32 i = 0; i < count; ++i) {
         const QVariant value = sendRequestWithSize(oid, size);
-        // A part of a column is no column: the rest is not known.
+        // A partly read column is discarded, since the rest is unknown.
         if (!value.isValid() && platform::Background::isGivenUp()) {
             m_rowsOfLastColumn.clear();
             return std::nullopt;

@@ -14,8 +14,8 @@
 #include <memory>
 #include <optional>
 
-// Why a client could not be made; also keys of the string table.
-extern const QString QVSNMPUnknownError;         // "SNMPUnknownError", for callers, never given here
+// Reasons why a client could not be created; also keys of the string table.
+extern const QString QVSNMPUnknownError;         // "SNMPUnknownError", for callers, never set here
 extern const QString QVSNMPCannotConnect;        // "SNMPCannotConnect", the host has no address
 extern const QString QVSNMPArchitectureMismatch; // "SNMPArchMismatch", no usable net-snmp, or no session
 
@@ -23,22 +23,23 @@ using SnmpOid = unsigned long; // net-snmp's oid
 
 struct SnmpSession;
 
-// Reads single values from a printer with SNMP version 2c, community "public". net-snmp is opened at run time
-// when the first client is made and closed when the last one goes; it reads no configuration. Owned by
-// whoever asks; main thread only. A request returns when it is done, after up to 3 seconds (1 second, two
-// retries); it runs on a worker thread where the caller's thread has a platform::Waiter. Null (an invalid
-// QVariant) is every failure: time-out, an error status, a type that is not read, a user who did not wait.
+// Reads single values from a printer with SNMP version 2c, community "public". net-snmp is loaded at run time
+// when the first client is created, and unloaded with the last one; it reads no configuration. Owned by the
+// caller; main thread only. A request returns when done, after up to 3 seconds (1 second, two retries); it
+// runs on a worker thread if the caller's thread has a platform::Waiter. Null (an invalid QVariant) means
+// failure: a time-out, an error status, an unsupported type, or a user who stopped waiting.
 class QVSNMP_M880
 {
 public:
-    // True when the library can be used; counts up also when not, and a later call is then told true.
+    // True if the library can be used. The count is incremented even on failure, and later calls then return
+    // true.
     static bool loadLibrary();
-    // Counts down, and closes the library at 0.
+    // Decrements the count, and closes the library at 0.
     static void unloadLibrary();
-    // File names of the library, tried in order until one opens; an empty list stands for the library of the
-    // version compiled in, which is the default. For the next load from 0.
+    // File names of the library, tried in order until one opens. An empty list, the default, means the
+    // library of the version that was compiled in. Takes effect at the next load from 0.
     static void setLibraryNames(const QList<QByteArray> &names);
-    // For diagnosis: the load count, whether a library is open, and the nine entry points as they stand.
+    // For diagnosis: the load count, whether a library is open, and the nine entry points.
     struct LibraryState
     {
         quint32 libraryLoaded;
@@ -47,38 +48,39 @@ public:
     };
     static LibraryState libraryState();
 
-    // Opens a session to a host name, Bonjour name or address. Null with one of the identifiers above in
-    // `error` (which may be null, and is left alone on success); the load count then keeps its increment.
+    // Opens a session to a host name, Bonjour name or address. On failure returns null with one of the
+    // identifiers above in `error`, which may be null and is not changed on success; the load count then
+    // remains incremented.
     static std::unique_ptr<QVSNMP_M880> initWithHostAndReturnError(const QString &host, QString *error);
-    // Counts the library down. Does not close the session: closeSession() comes first.
+    // Decrements the load count. Does not close the session: call closeSession() first.
     ~QVSNMP_M880();
     QVSNMP_M880(const QVSNMP_M880 &) = delete;
     QVSNMP_M880 &operator=(const QVSNMP_M880 &) = delete;
 
     QVariant sendRequestWithSize(const SnmpOid *oid, size_t size);
-    // One request after the other for `count` rows at most, up to the first that gives null. The last element
-    // of `oid` is counted up with each row. Empty strings are left out. Null instead of an empty list, and
-    // when the user has given up before the end.
+    // Sends requests one by one for at most `count` rows, up to the first that returns null. The last element
+    // of `oid` is incremented with each row. Empty strings are left out. Null instead of an empty list, and
+    // if the user stopped waiting before the end.
     std::optional<QVariantList> sendBulkRequestWithSizeAndCount(SnmpOid *oid, size_t size, quint32 count);
-    // The row (last element of its OID) of each value of the latest column read.
+    // The row (last element of the OID) of each value of the last column that was read.
     const QList<quint32> &rowsOfLastColumn() const { return m_rowsOfLastColumn; }
 
-    // Takes `charSet` from what the printer says of its current localisation; unchanged when it does not say.
+    // Sets `charSet` from the printer's current localisation; not changed if the printer does not report it.
     void determineDefaultCharsetForPrinter();
-    // The encoding of strings, as in string_encoding.h; ASCII at first.
+    // The encoding of strings, as in string_encoding.h; initially ASCII.
     quint32 charSet() const { return m_charSet; }
-    // Whether strings come as the bytes the printer sent.
+    // Whether strings are returned as the bytes that the printer sent.
     bool returnsStringsAsData() const { return m_returnStringsAsData; }
     void setReturnsStringsAsData(bool asData) { m_returnStringsAsData = asData; }
-    // errno of the session's last failed system call; 0 without a session, and while a request that was given
-    // up on runs on it.
+    // errno of the session's last failed system call; 0 without a session, and while an abandoned request
+    // runs on it.
     qint32 lastError() const;
-    // Call once, as the last thing before the client goes. A request that was given up on ends first.
+    // Call once, immediately before destroying the client. Waits for an abandoned request.
     void closeSession();
 
 private:
     explicit QVSNMP_M880(std::shared_ptr<SnmpSession> session);
-    // Whether requests may be made on the session: not while one that was given up on runs on it.
+    // Whether a request can be sent on the session: not while an abandoned request runs on it.
     bool isIdle() const;
 
     std::shared_ptr<SnmpSession> m_theSession;

@@ -13,17 +13,17 @@ void DynamicLibraryCloser::operator()(void *handle) const
 
 SnmpLibrary &SnmpLibrary::instance()
 {
-    // Never destroyed: at exit net-snmp may already be half gone.
+    // Never destroyed, since net-snmp may be partly destroyed at exit.
     static auto *library = new SnmpLibrary;
     return *library;
 }
 
 bool SnmpLibrary::load()
 {
-    // Only the first call looks. After a failure the later ones are told that all is well; see isUsable().
+    // Only the first call loads the library. After a failure, later calls return true; see isUsable().
     if (libraryLoaded++ != 0)
         return true;
-    // The version whose headers were compiled in: the structures of another one differ.
+    // The version whose headers were compiled in, since the structures of other versions differ.
     const QList<QByteArray> ownName{KELMAR_NETSNMP_SONAME};
     for (const QByteArray &name : names.isEmpty() ? ownName : names) {
         snmpLibrary.reset(::dlopen(name.constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE));
@@ -53,8 +53,8 @@ void SnmpLibrary::configure()
     const auto name = reinterpret_cast<decltype(&::name)>(::dlsym(snmpLibrary.get(), #name));
     KELMAR_SNMP_CONFIGURATION_POINTS(KELMAR_LOOK_UP)
 #undef KELMAR_LOOK_UP
-    // All OIDs are numbers, so no MIB is needed, and a machine without them gets no warnings; v2c has neither
-    // users nor certificates that would have to be kept.
+    // All OIDs are numeric, so no MIB is needed, and there are no warnings if none is installed. SNMP v2c has
+    // no users or certificates that would have to be stored.
     if (netsnmp_ds_set_boolean != nullptr) {
         for (const int setting : {NETSNMP_DS_LIB_DONT_READ_CONFIGS, NETSNMP_DS_LIB_DONT_LOAD_HOST_FILES,
                                   NETSNMP_DS_LIB_DONT_PERSIST_STATE, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD,

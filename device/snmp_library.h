@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The first of these must come first.
+// This header must be included first.
 #include <net-snmp/net-snmp-config.h>
 
 #include <net-snmp/net-snmp-includes.h>
@@ -16,7 +16,7 @@
 #include <memory>
 #include <mutex>
 
-// The entry points of net-snmp that are used, in the order in which they are looked up. The one list of them.
+// The required entry points of net-snmp, in the order of their look-up.
 #define KELMAR_SNMP_ENTRY_POINTS(X)                                                                          \
     X(init_snmp)                                                                                             \
     X(snmp_add_null_var)                                                                                     \
@@ -28,8 +28,8 @@
     X(snmp_sess_session)                                                                                     \
     X(snmp_sess_synch_response)
 
-// Further functions that keep the user's files and the environment out of it, and its remarks off the
-// terminal. None of them is required.
+// Optional functions that prevent net-snmp from reading the user's files and the environment, and from
+// writing to the terminal.
 #define KELMAR_SNMP_CONFIGURATION_POINTS(X)                                                                  \
     X(netsnmp_ds_set_boolean)                                                                                \
     X(netsnmp_ds_set_string)                                                                                 \
@@ -37,12 +37,12 @@
 
 struct DynamicLibraryCloser
 {
-    // Logs when it fails.
+    // Logs a failure.
     void operator()(void *handle) const;
 };
 using DynamicLibraryHandle = std::unique_ptr<void, DynamicLibraryCloser>;
 
-// The entry points as they were found. Work that may outlive the client that asked for it has a copy.
+// The resolved entry points. Work that may outlive its client holds a copy.
 struct SnmpCalls
 {
 #define KELMAR_DECLARE_SLOT(name) decltype(&::name) tap_##name = nullptr;
@@ -50,24 +50,24 @@ struct SnmpCalls
 #undef KELMAR_DECLARE_SLOT
 };
 
-// net-snmp as the dynamic loader found it. One a process; never linked. Main thread only, but for
-// initialize(). The code of a library that was opened once stays in memory: it leaves callbacks behind, and a
-// request that was given up on may still be under way in it.
+// The dynamically loaded net-snmp library. One per process; never linked. Main thread only, except for
+// initialize(). The code of a loaded library stays in memory, since it leaves callbacks behind and an
+// abandoned request may still be running in it.
 struct SnmpLibrary : SnmpCalls
 {
     static SnmpLibrary &instance();
 
     bool load();
     void unload();
-    // Whether every entry point may be called: load() says so once only.
+    // Whether all entry points can be called; unlike load(), this reports each time.
     bool isUsable() const;
-    // Calls init_snmp(), after telling the library to read no file where it can be told. On any thread, for
-    // it reads the files of MIBFILES all the same; calls run one after the other.
+    // Calls init_snmp(), after configuring the library not to read files, as far as it allows that. Called on
+    // any thread, since it still reads the files of MIBFILES; calls are serialized.
     void initialize(const char *application);
 
-    quint32 libraryLoaded = 0; // load() calls without their unload(), a failed first one included
+    quint32 libraryLoaded = 0; // load() calls without a matching unload(), including a failed first one
     DynamicLibraryHandle snmpLibrary;
-    // File names, tried in order until one opens. An empty list stands for the version compiled in.
+    // File names, tried in order until one opens. An empty list means the version that was compiled in.
     QList<QByteArray> names;
 
 private:
@@ -75,13 +75,14 @@ private:
     void configure();
 
     std::mutex m_initializing;
-    decltype(&::init_snmp) m_configured = nullptr; // guarded; of the library that was configured last
+    // guarded by a mutex; of the library that was configured last
+    decltype(&::init_snmp) m_configured = nullptr;
 };
 
-// What a closed library leaves in the slots, so that a stale call fails loudly.
+// The value of the entry points of a closed library, so that a stale call crashes instead of corrupting data.
 constexpr quintptr poisonedEntryPoint = 0xDEADBEEF;
 
-// A response. (A request belongs to net-snmp once it is sent.)
+// Frees a response. (net-snmp owns a request once it is sent.)
 struct SnmpPduFreer
 {
     decltype(&::snmp_free_pdu) free;
@@ -89,7 +90,7 @@ struct SnmpPduFreer
 };
 using SnmpPduHandle = std::unique_ptr<netsnmp_pdu, SnmpPduFreer>;
 
-// An open session. Shared by the client and its requests, so that one that was given up on can end.
+// An open session. Shared by the client and its requests, so that an abandoned request can finish.
 struct SnmpSession
 {
     SnmpSession(const SnmpCalls &entryPoints, void *openedHandle) : calls(entryPoints), handle(openedHandle)
@@ -104,6 +105,6 @@ struct SnmpSession
     SnmpSession &operator=(const SnmpSession &) = delete;
 
     const SnmpCalls calls;
-    void *const handle; // net-snmp's single-session handle; null when it could not be opened
+    void *const handle; // net-snmp's single-session handle; null if it could not be opened
     bool isToBeClosed = true;
 };

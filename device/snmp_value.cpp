@@ -15,7 +15,7 @@ QVariant integerOf(const netsnmp_variable_list &variable)
 {
     if (variable.val.integer == nullptr)
         return {};
-    // net-snmp keeps integers as long; only 32 bits of them travel.
+    // net-snmp stores integers as long, although only 32 bits are transferred.
     if (variable.val_len >= sizeof(long)) {
         long value = 0;
         std::memcpy(&value, variable.val.integer, sizeof value);
@@ -45,7 +45,7 @@ QVariant valueOfVariable(const netsnmp_variable_list &variable, quint32 charSet,
 {
     switch (variable.type) {
     case ASN_BOOLEAN:
-        // True by being there.
+        // True if present.
         return QVariant(variable.val.string != nullptr);
     case ASN_INTEGER:
     case SNMP_NOSUCHOBJECT:

@@ -16,8 +16,8 @@ struct CharacterSet
     StringEncoding encoding;
 };
 
-// 8 (ISO-8859-5), 2000 and 2001 (printer variants of Latin 1) and 2003 have no encoding of their own: each
-// takes the one listed that comes closest.
+// 8 (ISO-8859-5), 2000 and 2001 (printer variants of Latin 1) and 2003 have no identifier; each uses the
+// closest listed encoding.
 constexpr std::array characterSets{
     CharacterSet{4, NSISOLatin1StringEncoding},        CharacterSet{5, NSISOLatin2StringEncoding},
     CharacterSet{8, NSWindowsCP1251StringEncoding},    CharacterSet{17, NSShiftJISStringEncoding},
@@ -85,7 +85,7 @@ QString decodedString(QByteArrayView bytes, quint32 encoding)
         return {};
     QByteArray input = bytes.toByteArray();
     QByteArray output(input.size() * 4 + 16,
-                      '\0'); // no byte of these encodings becomes more than three of UTF-8
+                      '\0'); // no byte of these encodings takes more than three bytes of UTF-8
     char *from = input.data();
     char *to = output.data();
     auto fromLeft = static_cast<size_t>(input.size());

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-// Identifiers of text encodings as the print system numbers them.
+// The print system's identifiers of text encodings.
 enum StringEncoding : quint32 {
     NSASCIIStringEncoding = 1,
     NSJapaneseEUCStringEncoding = 3,
@@ -22,10 +22,10 @@ enum StringEncoding : quint32 {
     NSISO2022JPStringEncoding = 21,
 };
 
-// The encoding for an IANA character-set number (MIBenum). ASCII for those not known here and for UTF-8.
+// The encoding of an IANA character-set number (MIBenum). ASCII for unknown numbers and for UTF-8.
 quint32 stringEncodingForCharacterSet(qint64 mibEnum);
-// The converter name for iconv(3); null for a number not listed above.
+// The converter name for iconv(3); null for unlisted numbers.
 const char *iconvNameOfStringEncoding(quint32 encoding);
-// Null when the bytes are not valid in the encoding, or the system cannot convert from it. The text of no
-// bytes is empty, not null.
+// Null if the bytes are not valid in the encoding, or the system cannot convert from it. The text of no bytes
+// is empty, not null.
 QString decodedString(QByteArrayView bytes, quint32 encoding);

@@ -5,7 +5,7 @@
 
 #include <QVariant>
 
-// The readings of a value that may have come as a number, a boolean or a text.
+// Conversions of a value that may be a number, a boolean or a text.
 
 // A number as it is, a boolean as 1 or 0, of a text the decimal digits it begins with after optional white
 // space and a sign. 0 for anything else; clamped to the 64-bit range.

@@ -46,7 +46,8 @@ QStringList Extensions::installedBundles(const QString &programFolder)
     QStringList found;
     for (const QString &place : {programFolder, programFolder + QStringLiteral("/../lib/kelmar-print")}) {
         const QDir folder(place);
-        // Not by a name filter of QDir: that is a regular expression, half a megabyte at first use.
+        // Not with a name filter of QDir, which uses a regular expression and allocates half a megabyte on
+        // first use.
         for (const QString &name : folder.entryList(QDir::Dirs, QDir::Name)) {
             if (name.endsWith(QLatin1String(".bundle"), Qt::CaseInsensitive))
                 found.append(folder.absoluteFilePath(name));

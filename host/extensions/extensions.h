@@ -14,24 +14,24 @@
 
 namespace host {
 
-// The plug-in bundles of the program. Their Info.json is read on first use, their code only for a printer
-// that they serve. Outlives every dialog, whose panels run that code.
+// The plug-in bundles of the program. Their Info.json is read on first use, and their code is loaded only for
+// a printer that they support. Outlives every dialog, since the panels run that code.
 class Extensions
 {
 public:
-    // `bundleFolders` are the bundles themselves.
+    // `bundleFolders` are the paths of the bundles.
     explicit Extensions(QStringList bundleFolders);
     ~Extensions();
     Extensions(const Extensions &) = delete;
     Extensions &operator=(const Extensions &) = delete;
 
-    // The *.bundle folders that belong to a program in this folder: next to it, then in ../lib/kelmar-print.
+    // The *.bundle folders for a program in this folder: in the folder itself, then in ../lib/kelmar-print.
     static QStringList installedBundles(const QString &programFolder);
 
-    // What the bundles that serve this model say of protection. Opens them, as the next one does.
+    // The protection declared by the bundles that support this model. Opens the bundles, as does panelsFor().
     Protection protectionFor(const QString &modelName, QStringList *problems);
-    // The panels of every bundle that serves the dialog's panel type and this model, in order. What goes
-    // wrong with a bundle is told in `problems`, and the others go on.
+    // The panels of all bundles that support the dialog's panel type and this model, in order. Problems with
+    // a bundle are added to `problems` and do not affect the others.
     platform::PrintDialogPanels panelsFor(const QString &modelName, platform::PrintDialogHost *host,
                                           QStringList *problems);
 
@@ -39,7 +39,8 @@ private:
     struct Loaded
     {
         std::shared_ptr<platform::Bundle> bundle;
-        platform::PrintDialogExtension *extension = nullptr; // null until its code is needed; the bundle's
+        // owned by the bundle; null until its code is needed
+        platform::PrintDialogExtension *extension = nullptr;
     };
     void open(QStringList *problems);
     static bool serves(const Loaded &loaded, const QString &modelName);

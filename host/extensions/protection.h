@@ -14,23 +14,23 @@ class Bundle;
 
 namespace host {
 
-// What a bundle says of the options that protect the user, and of the keys that hold codes. The host knows
-// none of them by itself. A value; empty for a printer that no bundle serves.
+// The options that protect the user and the keys that contain codes, as declared by a bundle; the host has no
+// such knowledge. A value; empty for a printer without a bundle.
 struct Protection
 {
     struct Secret
     {
         QString key;         // of a panel
-        QStringList options; // PPD options that keep it
-        QString option;      // what it is used with
+        QStringList options; // PPD options that store the code
+        QString option;      // the option and choice with which the code is used
         QString choice;
         bool operator==(const Secret &) const = default;
     };
-    QMap<QString, QStringList> choices; // that protect, by option
+    QMap<QString, QStringList> choices; // protecting choices, by option
     QList<Secret> secrets;
 
     bool protects(const QString &option, const QString &choice) const;
-    // The secret that a key or an option belongs to; null for others. Points into this object.
+    // The secret to which a key or an option belongs; null for others. Points into this object.
     const Secret *secretOf(const QString &key) const;
 
     static Protection from(const platform::Bundle &bundle);

@@ -18,7 +18,7 @@ struct PolicySystemText
     Q_DECLARE_TR_FUNCTIONS(PolicySystemText)
 };
 
-// Job options that change no choice of a PPD.
+// Job options that do not affect any choice of a PPD.
 bool isHarmless(const QString &name)
 {
     static const QSet<QString> names = {QStringLiteral("collate"),
@@ -64,7 +64,7 @@ bool isHarmless(const QString &name)
     return names.contains(name.toLower());
 }
 
-// What a job option stands for, by option. Empty where that cannot be told.
+// The PPD choices that a job option sets, by option. Empty if they cannot be determined.
 QMap<QString, QString> choicesOf(PpdDocument *ppd, const QString &name, const QString &value)
 {
     const auto isOn = [](bool on) { return on ? QStringLiteral("True") : QStringLiteral("False"); };

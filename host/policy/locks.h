@@ -13,32 +13,32 @@ namespace host {
 
 class PpdDocument;
 
-// What the policy has fixed on one printer. Every request to change a setting is judged here, whichever way
-// it is made and however it is spelled. A value; an empty one fixes nothing.
+// The settings that the policy has fixed for one printer. All requests to change a setting are checked here,
+// whatever their origin and spelling. A value; an empty one fixes nothing.
 class Locks
 {
 public:
     Locks() = default;
-    // The locked options of a queue that its PPD (may be null) has, where it has the choice, too.
+    // The locked options of a queue, as far as its PPD, which may be null, has the option and the choice.
     Locks(const Policy &policy, const QString &queue, const PpdDocument *ppd);
 
-    // Fixes an option of a page where nothing can be changed. Settings of pages that are stored beside the
-    // PPD options are refused from then on, since they do not tell which page they belong to.
+    // Fixes an option of a locked page. From then on, settings that panels store in addition to PPD options
+    // are refused, since they do not indicate their page.
     void addFromPage(const QString &keyword, const QString &choice);
 
     bool isEmpty() const { return m_choices.isEmpty(); }
     const QMap<QString, QString> &choices() const { return m_choices; } // by keyword
-    // Null where the option is free.
+    // The fixed choice of an option; null if the option is not fixed.
     QString choice(const QString &keyword) const { return m_choices.value(keyword); }
 
-    // Why a job cannot have this option or job option, with the administrator's name; no error where it can.
-    // Names and choices count in any case, standard names and collections for what they mark in the PPD.
-    // Where something is fixed, names are refused that may change it in a way that cannot be told. The
-    // message never repeats the value. What is marked in the PPD stays as it is.
+    // Checks whether a job may have this option or job option. No error if it may, else an error that names
+    // the administrator. Letter case is ignored; standard names and collections are checked by the PPD
+    // options that they mark. If anything is fixed, names whose effect cannot be determined are refused as
+    // well. The message never contains the value. The marks of the PPD are not changed.
     PrintError refusal(PpdDocument *ppd, const QString &name, const QString &value) const;
-    // The first fixed option that is marked otherwise; no error when there is none.
+    // An error for the first fixed option that is marked with another choice; no error if there is none.
     PrintError refusal(const PpdDocument &ppd) const;
-    // For a reason in one sentence.
+    // An error with a reason in one sentence.
     PrintError refused(const QString &why) const;
     // Marks every fixed choice.
     void mark(PpdDocument *ppd) const;

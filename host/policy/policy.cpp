@@ -28,7 +28,7 @@ struct PolicyText
 constexpr qint64 largestFile = 1024 * 1024; // bytes
 Policy currentPolicy;
 
-// No wildcards stand for every queue.
+// An empty list of wildcards matches every queue.
 bool matches(const QStringList &wildcards, const QString &queue)
 {
     return wildcards.isEmpty() ||
@@ -44,7 +44,7 @@ bool names(const QStringList &panels, const QString &kind)
 
 } // namespace
 
-// Reads the values that are there, and keeps the first problem with the rule that has it.
+// Reads the existing values, and records the first problem with the rule that contains it.
 class PolicyReader
 {
 public:
@@ -58,7 +58,7 @@ public:
         QJsonParseError problem;
         const QJsonDocument document = QJsonDocument::fromJson(m_source, &problem);
         if (problem.error != QJsonParseError::NoError)
-            failAt(qMax(0, problem.offset - 1), problem.errorString()); // it is behind what it means
+            failAt(qMax(0, problem.offset - 1), problem.errorString()); // the offset is one past the error
         else if (!document.isObject())
             fail(PolicyText::tr("it is not one object in braces"));
         else
@@ -161,7 +161,7 @@ private:
     const QString m_fileName;
     Policy m_policy;
     QString m_problem;
-    int m_rule = 0; // which one is being read, from 1; 0 for what stands outside of them
+    int m_rule = 0; // number of the current rule, from 1; 0 outside of rules
 };
 
 std::optional<Policy> Policy::parse(const QByteArray &json, const QString &fileName, QString *error)
@@ -243,7 +243,7 @@ QString Policy::Rule::lockedChoice(const PpdDocument *ppd, const QString &keywor
     return lockedChoices(ppd).value(keyword);
 }
 
-// In the spelling of the PPD.
+// In the PPD's spelling.
 QMap<QString, QString> Policy::Rule::lockedChoices(const PpdDocument *ppd) const
 {
     QMap<QString, QString> choices;

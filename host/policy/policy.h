@@ -16,54 +16,55 @@ namespace host {
 class PpdDocument;
 struct Destination;
 
-// What the administrator of this computer has laid down for printing: which queues are offered, which options
-// begin with what, which are fixed, which are not shown. Convenience for users who follow it, and no security
-// boundary: the print server takes any options. A value; an empty one lays down nothing.
+// The administrator's policy for printing on this computer: the queues that are offered, default choices, and
+// locked and hidden options. A convenience for users who follow it, not a security boundary: the print server
+// accepts any options. A value; an empty policy has no effect.
 class Policy
 {
 public:
-    // What holds for one queue. Options are PPD keywords.
+    // The rules for one queue. Options are PPD keywords.
     struct Rule
     {
-        QMap<QString, QString> defaults; // where the user has no default
-        QMap<QString, QString> locked;   // a locked option that a code belongs to needs the code as well
+        QMap<QString, QString> defaults; // if the user has no default
+        QMap<QString, QString> locked;   // if a code belongs to a locked option, it is required as well
         QStringList hiddenOptions;
-        QStringList hiddenPanels; // kinds, or the last part of one ("color-settings-2")
+        QStringList hiddenPanels; // panel kinds, or their last part ("color-settings-2")
         QStringList lockedPanels; // the same
         bool hidesPanel(const QString &kind) const;
         bool locksPanel(const QString &kind) const;
-        // The choice that an option is fixed to; null where it is free, or where this printer lacks the
-        // choice.
+        // The fixed choice of an option; null if it is not fixed, or this printer does not have the choice.
         QString lockedChoice(const PpdDocument *ppd, const QString &keyword) const;
-        QMap<QString, QString> lockedChoices(const PpdDocument *ppd) const; // all of them
-        // Makes defaults and locked choices options of the destination, but for those that the printer lacks.
+        // The fixed choices of all options.
+        QMap<QString, QString> lockedChoices(const PpdDocument *ppd) const;
+        // Sets defaults and locked choices as options of the destination, except those that the printer does
+        // not have.
         void applyTo(Destination *destination, const PpdDocument *ppd) const;
     };
 
-    // Reads a policy file. Null with an error, in words with the file's name and the line or the rule, when
-    // it is not one.
+    // Parses a policy file. Null with an error that names the file and the line or the rule if it is not
+    // valid.
     static std::optional<Policy> parse(const QByteArray &json, const QString &fileName, QString *error);
-    // The file of this computer, /etc/kelmar-print/policy.json, or the one that KELMAR_PRINT_POLICY names;
-    // empty where there is none, and with a problem where it cannot be used.
+    // Reads /etc/kelmar-print/policy.json, or the file named in KELMAR_PRINT_POLICY. Empty if there is none;
+    // with a problem if it cannot be used.
     static Policy installed();
 
-    // What the windows of this process go by; empty until it is set.
+    // The policy of the windows of this process; empty until it is set.
     static const Policy &current();
     static void setCurrent(const Policy &policy);
 
-    // All of a queue's rules together; where two speak of the same, the later one holds.
+    // The combined rules of a queue; if two rules set the same option, the later one applies.
     Rule ruleFor(const QString &queue) const;
     bool offers(const QString &queue) const;
-    // Why the policy is not in force, for display; null when it is. Localised.
+    // The reason why the policy is not in force, for display; null if it is. Localised.
     QString problem() const { return m_problem; }
-    const QString &fileName() const { return m_fileName; } // null where there is none
-    // "Set by the administrator", with whom to ask where the file says it. Localised.
+    const QString &fileName() const { return m_fileName; } // null if there is none
+    // "Set by the administrator", with the contact from the file if there is one. Localised.
     QString attribution() const;
 
 private:
     struct Entry
     {
-        QStringList queues; // wildcards; empty for all
+        QStringList queues; // wildcards; empty means all queues
         Rule rule;
     };
     friend class PolicyReader;
@@ -71,7 +72,7 @@ private:
     QString m_problem;
     QString m_fileName;
     QString m_contact;
-    QStringList m_offered; // wildcards; empty for all
+    QStringList m_offered; // wildcards; empty means all queues
     QList<Entry> m_entries;
 };
 

@@ -24,8 +24,7 @@ bool isSent(const JobOption &option)
     return option.kind != JobOption::Kind::Shown;
 }
 
-// Whether a job brings all digits of a code, and not only those that the printer takes for none. Half a code
-// is no code.
+// Whether a job contains all digits of a code, and not only the digits that mean no code.
 bool isGiven(const Protection::Secret &secret, const JobRequest &request, const PpdDocument &ppd)
 {
     bool isMoreThanDefault = false;
@@ -41,7 +40,7 @@ bool isGiven(const Protection::Secret &secret, const JobRequest &request, const 
     return isMoreThanDefault;
 }
 
-// What the server has as a default is the administrator's own.
+// Whether an option is a default of the server, which the administrator has set there.
 bool isOfServer(const JobOption &option, const Destination &destination)
 {
     return option.kind == JobOption::Kind::Preference && destination.serverOptions.contains(option.name) &&
@@ -94,8 +93,8 @@ std::optional<Destination> PolicyPrintSystem::destination(const QString &name, P
     return std::nullopt;
 }
 
-// Where the default printer was not asked for, another one does as well. Without one it stays an error,
-// but advice to choose by name does not help where there is nothing to choose.
+// If the default printer was not named explicitly, another one is used instead. Without any, this remains an
+// error, but without the advice to choose a printer by name.
 std::optional<Destination> PolicyPrintSystem::anyOffered(std::optional<Destination> standard,
                                                          PrintError *error)
 {
@@ -117,7 +116,7 @@ std::unique_ptr<PpdDocument> PolicyPrintSystem::ppd(const Destination &destinati
     return m_system.ppd(destination, error);
 }
 
-// The job as it will be printed: each of its options by itself, since filters may look at any, and all
+// Checks the job as it will be printed: each option by itself, since filters may read any of them, and all
 // together.
 PrintError PolicyPrintSystem::lockBroken(const JobRequest &request, PpdDocument *ppd, const Locks &locks)
 {
@@ -132,7 +131,7 @@ PrintError PolicyPrintSystem::lockBroken(const JobRequest &request, PpdDocument 
     ppd->markOptions(sent);
     if (PrintError broken = locks.refusal(*ppd))
         return broken;
-    QStringList problems; // the user was told when the dialog opened
+    QStringList problems; // the user was informed when the dialog opened
     const std::lock_guard guard(m_mutex);
     const Protection protection = m_extensions.protectionFor(ppd->modelName(), &problems);
     for (const Protection::Secret &secret : protection.secrets) {

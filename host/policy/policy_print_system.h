@@ -12,24 +12,25 @@
 
 namespace host {
 
-// A print system as the administrator's policy leaves it: it offers the queues that the policy names, and
-// sends no job that goes against it. The system that it stands on is borrowed and outlives it.
+// Applies the administrator's policy to a print system: hides queues that are not offered, and refuses jobs
+// that violate the policy. The underlying system is borrowed and outlives this object.
 class PolicyPrintSystem : public PrintSystem
 {
 public:
-    // `bundleFolders` are those of Extensions; they say which options a code belongs to.
+    // `bundleFolders` are those of Extensions; the bundles declare the options with codes.
     PolicyPrintSystem(PrintSystem &system, const QStringList &bundleFolders, const Policy &policy);
 
-    // Fails where there are printers, but none that the policy names.
+    // Fails if there are printers, but the policy offers none of them.
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
     std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) override;
-    // Rejected, with what and by whom, where an option of the job goes against what is locked, or a locked
-    // choice lacks its code.
+    // Rejected with a message that names the option and the administrator if an option of the job violates a
+    // lock, or a locked choice lacks its code.
     Submission submit(const JobRequest &request, const SubmissionWatch &watch) override;
     JobStatus jobStatus(const Destination &destination, int jobId) override;
     bool changeJob(const Destination &destination, int jobId, JobAction action, PrintError *error) override;
-    void searchNetwork(const std::function<bool(const Destination &)> &found) override; // of those offered
+    // reports only offered printers
+    void searchNetwork(const std::function<bool(const Destination &)> &found) override;
     std::optional<Destination> withState(const Destination &destination) override;
     void setLoginPrompt(LoginPrompt prompt) override;
 
@@ -41,7 +42,7 @@ private:
     PrintSystem &m_system;
     const Policy m_policy;
     std::mutex m_mutex;      // guards m_extensions
-    Extensions m_extensions; // its own: those of the dialog belong to the dialog's thread
+    Extensions m_extensions; // separate, since those of the dialog belong to the dialog's thread
 };
 
 } // namespace host

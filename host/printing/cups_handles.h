@@ -7,7 +7,7 @@
 
 #include <memory>
 
-// libcups handles that free themselves.
+// RAII wrappers of libcups handles.
 namespace host {
 
 struct IppDeleter
@@ -34,7 +34,7 @@ struct CupsFileCloser
 };
 using CupsFilePointer = std::unique_ptr<cups_file_t, CupsFileCloser>;
 
-// A list of options as libcups passes it around: a count and an array that grows.
+// A list of options in libcups's representation: a count and a growing array.
 class CupsOptionList
 {
 public:
@@ -48,9 +48,9 @@ public:
     {
         m_count = cupsAddOption(name, value, m_count, &m_options);
     }
-    // Adds what a text such as "name=value other='two words'" says; braces around it are taken off.
+    // Adds the options of a text such as "name=value other='two words'"; surrounding braces are removed.
     void parse(const char *text) { m_count = cupsParseOptions(text, m_count, &m_options); }
-    // Null when the list has no such option.
+    // Null if the list has no such option.
     const char *value(const char *name) const { return cupsGetOption(name, m_count, m_options); }
     int count() const { return m_count; }
     cups_option_t *options() const { return m_options; }

@@ -15,42 +15,43 @@ struct Destination
 {
     QString queue;
     QString instance; // empty for the queue itself
-    QString info;     // what people call the printer; may be empty
+    QString info;     // the printer's description; may be empty
     QString location;
     QString makeAndModel;
     QString deviceUri;
-    QString printerUri; // the queue's own address on the print server
+    QString printerUri; // the URI of the queue on the print server
     bool isDefault = false;
-    bool isStateKnown = false; // whether the two that follow come from the print server
+    bool isStateKnown = false; // whether the next two fields come from the print server
     bool accepting = true;
     bool stopped = false;
-    bool isOnNetwork = false;             // announces itself there, and has a queue only while it is used
-    QMap<QString, QString> options;       // the user's and the queue's own settings, as libcups gives them
-    QStringList serverOptions;            // the names of those that come from the print server alone
-    QMap<QString, QString> queueDefaults; // job options that the print server adds by itself
-    QString optionsProblem; // why the user's own settings could not be read, localised; null when they could
+    // announces itself on the network; the server has a queue for it only while it is used
+    bool isOnNetwork = false;
+    QMap<QString, QString> options;       // the user's and the queue's settings, as libcups returns them
+    QStringList serverOptions;            // names of the options that come only from the print server
+    QMap<QString, QString> queueDefaults; // job options that the print server adds to each job
+    QString optionsProblem; // why the user's settings could not be read, localised; null if they could
 
     QString name() const { return instance.isEmpty() ? queue : queue + QLatin1Char('/') + instance; }
-    // For lists: the printer's everyday name, and the preset where it is one.
+    // For lists: the printer's description, and the name of the preset if it is one.
     QString displayName() const;
-    // Whether both are the same printer in the network, by the names that it announces there.
+    // Whether both are the same printer on the network, compared by the names that it announces.
     bool isSameDevice(const Destination &other) const;
-    // The same where the print server does not tell how it is.
+    // A copy without the state, for use if the print server does not report it.
     Destination withoutState() const;
-    // The queue that opens this dialog: for other programs to print to, never for the dialog itself.
+    // Whether this is the queue that opens this dialog. It is for other programs; the dialog never offers it.
     bool opensDialog() const { return deviceUri.startsWith(QLatin1String("kelmar-dialog:")); }
 };
 
-// The queue and the instance of "queue/instance".
+// Splits "queue/instance" into queue and instance.
 std::pair<QString, QString> splitDestinationName(const QString &name);
 
-// Which printers were used lately, kept in the user's settings file. Every call reads or writes it, and may
+// The recently used printers, stored in the user's settings file. Each call reads or writes the file, and may
 // block as long as the file system does.
 class RememberedPrinter
 {
 public:
-    QString name() const;       // the last one; empty when there is none
-    QStringList recent() const; // the last few, the latest first
+    QString name() const;       // the most recent one; empty if there is none
+    QStringList recent() const; // the last five, the most recent first
     void setName(const QString &name);
 };
 

@@ -20,31 +20,31 @@ class QIODevice;
 
 namespace host {
 
-// A file to print. Names of files are as file_name.h has them.
+// A file to print. File names are encoded as in file_name.h.
 struct Document
 {
     QString path;
-    QString name;                 // for people and the job's title
-    QString format;               // MIME type as far as the content tells, else "application/octet-stream"
-    QString formatText;           // the type in words; may be empty
-    QStringList otherFormats;     // other names of the type, and more general ones that it is a kind of
+    QString name;                 // for display and the job's title
+    QString format;               // MIME type determined from the content, else "application/octet-stream"
+    QString formatText;           // localised description of the type; may be empty
+    QStringList otherFormats;     // aliases and parent types
     qint64 size = 0;              // bytes
-    bool isCompressed = false;    // with gzip; the other fields are about what is in it, except the size
-    bool isDrawingInText = false; // a picture that is written as text, such as SVG
+    bool isCompressed = false;    // with gzip; the other fields, except the size, describe the content
+    bool isDrawingInText = false; // an image in a text format, such as SVG
 };
 
-// Whether what is there can be read once only: a pipe, a socket, a terminal.
+// Whether the path can be read only once: a pipe, a socket, a terminal.
 bool isStream(const QString &path);
 
-// Looks at a file before it is printed: whether it is there, may be read, holds anything, and what it is.
-// A stream's type is not known before it has been read.
+// Examines a file before it is printed: whether it exists, is readable and not empty, and its type. The type
+// of a stream is unknown before it has been read.
 std::optional<Document> openDocument(const QString &path, PrintError *error);
 
-// Whether what is being read is no longer wanted. Called on the thread that reads.
+// Whether the read operation should stop. Called on the reading thread.
 using StopWanted = std::function<bool()>;
 
-// The documents of one job, in the order they are printed. Owns the temporary files that hold what came from
-// pipes; they go with it.
+// The documents of one job, in the order in which they are printed. Owns the temporary files with the data
+// from pipes; they are removed with this object.
 class DocumentList
 {
 public:
@@ -53,14 +53,15 @@ public:
     DocumentList(const DocumentList &) = delete;
     DocumentList &operator=(const DocumentList &) = delete;
 
-    // Opens each path; "-" is `input`, or the standard input where that is null. What can be read once only
-    // is kept, so a second call does not find it empty. False with an error that names the first that fails.
-    // Returns false soon after `stop` (may be null) has come true, whether or not more comes from a pipe;
-    // what has come is kept for the next call. Calls on several threads follow one another.
+    // Opens each path; "-" is `input`, or the standard input if that is null. Data from streams is kept, so a
+    // second call finds it again. False with an error that names the first path that fails. Returns false
+    // soon after `stop`, which may be null, returns true, even if no more data arrives; the data so far is
+    // kept for the next call. Concurrent calls are serialized.
     bool open(const QStringList &paths, QIODevice *input, PrintError *error, const StopWanted &stop = {});
-    // Those of the last call that succeeded; may be called on any thread, also while open() runs on another.
+    // The documents of the last successful call. May be called on any thread, also while open() runs on
+    // another.
     QList<Document> documents() const;
-    // What a job of these documents is called: the first one's name; empty without documents.
+    // The title of a job with these documents: the name of the first; empty without documents.
     QString title() const;
 
 private:
@@ -69,7 +70,7 @@ private:
                                     const StopWanted &stop);
 
     std::mutex m_opening;
-    mutable std::mutex m_reading; // for m_documents alone
+    mutable std::mutex m_reading; // guards m_documents only
     QList<Document> m_documents;
     std::map<QString, std::unique_ptr<Spool>> m_spools; // by path
 };

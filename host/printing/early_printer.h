@@ -15,32 +15,31 @@
 
 namespace host {
 
-// The printer of the first dialog, asked for on a worker thread while the program still starts: its
-// destination, and its PPD with the constraints. Each of the two is taken at most once. A request that fails
-// leaves nothing: the caller then asks the print system itself, and gets the error in the user's language or
-// the question for a login. Thread-safe. The worker owns what it touches: the object may go before the worker
-// ends.
+// The destination and PPD of the first dialog, including the constraints, requested on a worker thread during
+// program startup. Each can be taken once. If a request fails, the caller queries the print system itself,
+// and gets the localised error or the login prompt there. Thread-safe. The worker owns its data, so this
+// object may be destroyed before the worker ends.
 class EarlyPrinter
 {
 public:
-    // Starts asking for this destination; where the name is empty, for the one used last, else the user's
-    // default. Needs the names of organization and application, but no QCoreApplication.
+    // Requests this destination; if the name is empty, the one that was used last, else the user's default.
+    // Requires the organization and application names, but no QCoreApplication.
     explicit EarlyPrinter(const QString &name);
 
-    // The destination, where `name` is the one that was asked for. Blocks until the server has answered. Null
-    // for another name, after a failure, and the second time.
+    // The destination, if `name` is the one that was requested. Blocks until the server has responded. Null
+    // for another name, after a failure, and on the second call.
     std::optional<Destination> takeDestination(const QString &name);
-    // The PPD of the queue of takeDestination(), on the same terms.
+    // The PPD of the queue returned by takeDestination(), under the same conditions.
     std::unique_ptr<PpdDocument> takePpd(const QString &queue);
 
 private:
     struct Answer
     {
-        QString name; // that was asked for
+        QString name; // as requested
         std::optional<Destination> destination;
     };
 
-    std::mutex m_mutex; // guards what follows
+    std::mutex m_mutex; // guards the following members
     std::future<Answer> m_answer;
     std::future<std::unique_ptr<PpdDocument>> m_ppd;
     QString m_queue; // of the destination that was taken

@@ -9,13 +9,13 @@
 
 namespace host {
 
-// File names are bytes. These carry any of them through a QString and back: a name that is not UTF-8 keeps
-// its bytes above 127 as lone surrogates (U+DC80 to U+DCFF), which no text has.
+// File names are bytes. These functions convert them to a QString and back without loss: bytes above 127 that
+// are not UTF-8 become lone surrogates (U+DC80 to U+DCFF), which occur in no text.
 QString fileNameFromBytes(const QByteArray &bytes);
 QByteArray fileNameToBytes(const QString &name);
-// For people: a sign of replacement for each byte that is no text.
+// For display: each byte that is not UTF-8 becomes a replacement character.
 QString readableFileName(const QString &name);
-// Opens a file of such a name for reading. False with the reason in words.
+// Opens a file with such a name for reading. False with a localised reason.
 bool openForReading(QFile *file, const QString &name, QString *problem);
 
 } // namespace host

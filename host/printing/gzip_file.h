@@ -17,15 +17,15 @@ struct GzipCloser
 };
 using GzipPointer = std::unique_ptr<gzFile_s, GzipCloser>;
 
-// What is in a file that gzip has compressed, for reading; any other file as it is. Its size is not known
-// beforehand. Reading fails, with errorString(), where the file is damaged or cut.
+// Reads a file, decompressing it if it is compressed with gzip. The size is not known in advance. If the file
+// is damaged or truncated, reading fails with errorString().
 class GzipFile : public QIODevice
 {
 public:
-    // Takes the descriptor over.
+    // Takes ownership of the descriptor.
     explicit GzipFile(int descriptor);
 
-    bool isCompressed() const; // known once something has been read
+    bool isCompressed() const; // known after the first read
     bool hasFailed() const { return m_hasFailed; }
     bool seek(qint64 position) override;
 

@@ -5,10 +5,10 @@
 
 namespace host {
 
-// While one lives, the signals that end a program (SIGINT, SIGTERM, SIGHUP) are noted instead, so that a job
-// that is half sent can be cancelled and told about first. When the last one goes, a noted signal ends the
-// program as it would have done. A second signal ends it at once. One that the program was told to ignore
-// stays ignored. Made on the main thread.
+// Defers the signals that end a program (SIGINT, SIGTERM, SIGHUP) during the lifetime of an object, so that
+// an incomplete job can be canceled and reported first. When the last object is destroyed, a deferred signal
+// ends the program as usual. A second signal ends it immediately. Ignored signals remain ignored. Created on
+// the main thread.
 class HeldSignals
 {
 public:
@@ -17,7 +17,7 @@ public:
     HeldSignals(const HeldSignals &) = delete;
     HeldSignals &operator=(const HeldSignals &) = delete;
 
-    // Whether a signal waits. On any thread.
+    // Whether a signal is pending. May be called on any thread.
     static bool isPending();
 };
 

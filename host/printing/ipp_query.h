@@ -15,40 +15,41 @@
 
 namespace host {
 
-// Small pieces of IPP that libcups's convenience calls have no word for.
+// IPP requests for which libcups has no convenience function.
 
 // A request about one printer, with the user's name.
 IppPointer printerRequest(ipp_op_t operation, const QByteArray &printerUri);
-// Where requests about a printer are posted: its own place at the server, which may want a login.
+// The resource path for requests about a printer: the printer's own path, which may require a login.
 QByteArray resourceOf(const QByteArray &printerUri);
 
-// The value of an attribute as text; a null string when the answer lacks it.
+// The value of an attribute as text; a null string if the response lacks it.
 QString attributeText(ipp_t *answer, const char *name);
 QString valueText(ipp_attribute_t *attribute);
 QStringList attributeTexts(ipp_t *answer, const char *name);
 int attributeInteger(ipp_t *answer, const char *name, int otherwise);
 
-// What the server says about one of its queues.
+// The attributes of a queue as reported by the server.
 struct QueueFacts
 {
     bool accepting = true;
     bool stopped = false;
     QString stateMessage;
     QStringList stateReasons;        // keywords
-    QStringList formats;             // MIME types it takes
-    QMap<QString, QString> defaults; // job options it adds to every job by itself
-    // What the PPD would have under a name of `defaults` that the administrator has set otherwise.
+    QStringList formats;             // accepted MIME types
+    QMap<QString, QString> defaults; // job options that the server adds to each job
+    // The PPD's defaults for the names in `defaults` that the administrator has set differently.
     QMap<QString, QString> overruledDefaults;
 };
 
-// How much is asked: the state alone is a small answer.
+// What to request. A response with only the state is small.
 enum class QueueQuestion { Everything, State };
-// Null with an error when the server does not know the queue, which people call `name`, or does not answer.
+// Null with an error if the server does not have the queue, which the user knows as `name`, or does not
+// respond.
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error,
                                      QueueQuestion question = QueueQuestion::Everything);
-// The server's own queues, as they are now, in its order: without the user's settings, and without printers
-// that it has found in the network. Null with an error when the server does not answer.
+// The server's current queues in its order, without the user's settings, and without printers that it has
+// discovered on the network. Null with an error if the server does not respond.
 std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintError *error);
 // "ipp://localhost/printers/NAME" with the name escaped.
 QByteArray printerUriOfQueue(const QString &queue);

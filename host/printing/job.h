@@ -15,17 +15,17 @@
 
 namespace host {
 
-// One option of a job as the server is told it.
+// One option of a job as it is sent to the server.
 struct JobOption
 {
     enum class Kind {
-        Choice, // a choice of the printer's PPD or a setting of a panel: sent as a name, exactly as it stands
-        Attribute,  // a job option of the print system, such as "copies": sent in the type libcups knows for
-                    // it
-        Preference, // the same, from the user's defaults for the printer: left out where the server adds it
-                    // anyway
-        Shown // not sent: what the printer does by itself, as the user has seen it; the job must not say
-              // otherwise
+        Choice, // a choice of the printer's PPD or a setting of a panel: sent unchanged as a name
+        // a job option of the print system, such as "copies": sent in the type that libcups has for it
+        Attribute,
+        // the same, but from the user's defaults for the printer: left out if the server adds it to each job
+        Preference,
+        // not sent: what the printer does by default, as shown to the user; the job must not contradict it
+        Shown
     };
     QString name;
     QString value;
@@ -33,7 +33,7 @@ struct JobOption
     bool operator==(const JobOption &) const = default;
 };
 
-// Everything a job is made of.
+// All data of a job.
 struct JobRequest
 {
     Destination destination;
@@ -42,56 +42,58 @@ struct JobRequest
     QList<JobOption> options;
 };
 
-// How a job is doing.
+// The state of a job.
 struct JobStatus
 {
-    // Gone: the server no longer knows the job, so its end is not known.
+    // Gone: the server no longer has the job, so its outcome is unknown.
     enum class State { Unknown, Pending, Held, Processing, Stopped, Cancelled, Aborted, Completed, Gone };
     State state = State::Unknown;
-    bool printerStopped = false; // it waits because its printer has been stopped
-    QString message;             // why, for the user; may be empty
-    bool isHeldByUser = false;   // on hold until it is released, not until a time
-    int printedPages = 0;        // so far; 0 where the printer does not count
+    bool printerStopped = false; // it is waiting because its printer was stopped
+    QString message;             // the reason, for the user; may be empty
+    bool isHeldByUser = false;   // held until it is released, not until a certain time
+    int printedPages = 0;        // so far; 0 if the printer does not count pages
 
     bool isFinal() const { return state >= State::Cancelled; }
-    // It does not go on by itself.
+    // Whether it needs a user's action to continue.
     bool needsSomebody() const;
     QString text() const; // localised
     QString code() const; // for scripts: the IPP keyword
 };
 
-// What its user can do to a job that has been accepted.
+// Actions of the user on an accepted job.
 enum class JobAction { Cancel, Hold, Release };
 
 struct SubmittedJob
 {
     int id = 0;
     JobStatus status;
-    QStringList differences; // localised; where the server accepted something else than was sent
+    // localised; differences between the options sent and those that the server accepted
+    QStringList differences;
 };
 
-// What became of a job that was to be sent. A value.
+// The outcome of a submission. A value.
 struct Submission
 {
     enum class Outcome {
-        Accepted, // the server has all of it
-        Rejected, // it will not print, or no further
-        Unknown   // the server's answer was lost: it may print, or be left there without its documents
+        Accepted, // the server has the complete job
+        Rejected, // it will not be printed, or not any further
+        Unknown   // the response was lost: the job may be printed, or remain without its documents
     };
     Outcome outcome = Outcome::Rejected;
-    SubmittedJob job; // its id is 0 where none was made
-    PrintError error; // why it was not accepted, or why that is not known
+    SubmittedJob job; // the ID is 0 if no job was created
+    PrintError error; // why it was not accepted, or why the outcome is unknown
 
     bool isAccepted() const { return outcome == Outcome::Accepted; }
     QString code() const; // for scripts
 };
 
-// Observes a job while it is sent. Both functions are called often, on the thread that sends; empty ones are
-// not called.
+// Observes a submission. Both functions are called often, on the sending thread; empty functions are not
+// called.
 struct SubmissionWatch
 {
-    std::function<void(qint64 sent, qint64 total)> progress; // bytes of all documents together
-    // True ends the submission: the job is cancelled at the server, and the error says so if that failed.
+    std::function<void(qint64 sent, qint64 total)> progress; // bytes of all documents
+    // If it returns true, the job is canceled on the server and the submission ends; the error reports a
+    // failed cancellation.
     std::function<bool()> isCancelled;
 };
 

@@ -10,14 +10,14 @@ namespace host {
 
 inline constexpr qsizetype maxIppName = 255; // bytes
 
-// How options become attributes of a job, and whether the server kept them.
+// Conversion of options to job attributes, and comparison with the attributes that the server stored.
 
-// One option a name, in the order of their last words: what was said last counts.
+// Keeps only the last value of each option, in the order of the last values.
 QList<JobOption> withLastWords(const QList<JobOption> &options);
 // Adds an option to the job attributes of a request.
 void addJobOption(ipp_t *request, const JobOption &option);
-// Where the job that the server keeps says something else than `options`: localised sentences without the
-// values, of which some are codes. Values are compared by what they mean in the type they are sent in.
+// The differences between `options` and the job that the server stored: localised sentences without values,
+// since some are codes. Values are compared according to the type in which they are sent.
 QStringList differencesOf(const QList<JobOption> &options, ipp_t *kept);
 
 } // namespace host

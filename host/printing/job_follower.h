@@ -12,20 +12,20 @@
 
 namespace host {
 
-// Polls the state of a job on a worker thread until the job has ended: every second at
-// first, every five seconds when the job takes longer, one request each time. A server that does not answer
-// is asked again; one that does not know the job any more is not.
+// Polls the state of a job on a worker thread until the job has ended: every second at first, later every
+// five seconds, with one request each time. If the server does not respond, the query is repeated; if the
+// server no longer has the job, polling ends.
 class JobFollower : public QObject
 {
     Q_OBJECT
 public:
-    // Called on a thread of its own; blocks.
+    // Called on a worker thread; blocks.
     using Query = std::function<JobStatus()>;
 
     explicit JobFollower(QObject *parent = nullptr);
     void follow(Query query);
     void stop();
-    // Asks now, as after something has been done to the job.
+    // Polls now, for example after an action on the job.
     void askSoon();
     bool isFollowing() const { return m_query != nullptr; }
 
@@ -39,7 +39,7 @@ private:
     QTimer m_next;
     Query m_query;
     int m_asked = 0;
-    int m_round = 0; // of follow(); answers to an earlier one are dropped
+    int m_round = 0; // of follow(); responses of an earlier round are discarded
 };
 
 } // namespace host

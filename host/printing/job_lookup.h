@@ -10,49 +10,49 @@
 
 namespace host {
 
-// The attribute that marks each job of ours. Its type, a URI, is one that the server keeps and does not hand
-// to filters.
+// The attribute with which the program marks its jobs. The server stores its type, a URI, and does not pass
+// it to filters.
 inline constexpr char tokenAttribute[] = "kelmar-submission";
 
-// A job as the server knows it.
+// A job as reported by the server.
 struct JobOnServer
 {
     int id = 0;
     JobStatus status;
-    bool isIncoming = false; // documents are still expected
-    bool hasBegun = false;   // it has been, or is being, printed
-    int kilobytes = -1;      // of its documents, each rounded up; -1 where the server does not say
+    bool isIncoming = false; // the server is still expecting documents
+    bool hasBegun = false;   // printing has started, or has ended
+    int kilobytes = -1;      // of its documents, each rounded up; -1 if not reported
     QByteArray token;
     IppPointer attributes;
 };
 
-// One printer's jobs, asked for anew at each call. Blocks. A value for one use; the login outlives it.
+// Queries the jobs of one printer on each call. Blocks. For use by one submission; the login outlives it.
 class JobLookup
 {
 public:
     enum class Result { Found, NotThere, NoAnswer };
 
     JobLookup(LoginKeeper *login, QByteArray printerUri);
-    // Looked at while it waits; true ends the wait between two tries at once, and that for an answer soon.
+    // Checked while waiting; true ends a wait between two tries at once, and a wait for a response soon.
     void setStop(std::function<bool()> stop);
-    // When no request is waited for any more, or made. Never, unless it is set.
+    // The time after which requests fail. Never, unless it is set.
     void setDeadline(const QDeadlineTimer &deadline) { m_deadline = deadline; }
 
     Result byId(int id, JobOnServer *job);
-    // The same on a connection of the caller's.
+    // The same on the caller's connection.
     Result byId(int id, ServerConnection *server, JobOnServer *job);
-    // Only how it is doing, which is a small answer.
+    // Requests only the state, which is a small response.
     Result status(int id, ServerConnection *server, JobStatus *status);
-    // Tries until the server answers, or until `tries`. Only a job with this token counts: after a breakdown
-    // a server may give a number again. `id` is 0 where it is not known.
+    // Repeats the request until the server responds, or until `tries` expires. Only a job with this token
+    // counts, since the server may assign a number again after a crash. `id` is 0 if it is unknown.
     Result byToken(int id, const QByteArray &token, const QDeadlineTimer &tries, JobOnServer *job);
     // Whether the server confirmed it.
     bool cancel(int id) { return change(IPP_OP_CANCEL_JOB, id).succeeded(); }
-    // Has the server do something to a job that needs no more than its number.
+    // Sends an operation on a job that only needs its number.
     Reply change(ipp_op_t operation, int id);
-    // Why there was no answer, the last time that there was none.
+    // The reason of the last failure.
     const PrintError &problem() const { return m_problem; }
-    bool wasSilent() const { return m_wasSilent; } // that was why
+    bool wasSilent() const { return m_wasSilent; } // whether that was the reason
 
 private:
     std::function<bool()> stopSoon() const;

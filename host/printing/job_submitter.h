@@ -9,39 +9,39 @@
 
 namespace host {
 
-// Sends one job to the print server: asks the queue, makes the job, sends the documents, reads the job back.
-// Lives for one submission; blocks. Nothing is ever sent twice: where an answer is lost, the job is looked
-// for, and one that is not whole is cancelled.
+// Submits one job to the print server: queries the queue, creates the job, sends the documents, reads the job
+// back. Used for one submission; blocks. Nothing is sent twice: if a response is lost, the job is looked up,
+// and an incomplete job is canceled.
 class JobSubmitter
 {
 public:
-    // All of it borrowed.
+    // All arguments are borrowed.
     JobSubmitter(const JobRequest &request, const SubmissionWatch &watch, LoginKeeper *login);
 
     Submission submit();
 
 private:
-    // False with an error when the queue does not take this job.
+    // False with an error if the queue does not accept this job.
     bool checkQueue(PrintError *error);
-    // The one way in which documents are told to the server, or null with an error.
+    // The format in which a document is sent to the server; null with an error.
     std::optional<QByteArray> formatOf(const Document &document, PrintError *error) const;
-    // Options that say what the documents are, and preferences that the server adds to every job by itself.
+    // Removes options that describe the documents, and preferences that the server adds to each job.
     void takeOptions();
     bool createJob(PrintError *error);
-    // From now on the server is asked what became of the job, for a limited time.
+    // Sets a time limit for all queries about the outcome.
     void limitLookup();
     bool sendDocument(qsizetype index, PrintError *error);
     IppPointer documentRequest(qsizetype index) const;
     Submission kept();
     Submission accepted(JobOnServer found) const;
     Submission concluded(const PrintError &why);
-    // Ends a job that is not whole.
+    // Cancels an incomplete job.
     Submission cancelled(const PrintError &why, const JobOnServer &found);
-    // Ends a job that its user does not want any more, however much of it has arrived.
+    // Cancels a job on the user's request, even if it has arrived completely.
     Submission withdrawn(const JobOnServer &found);
     Submission rejected(const PrintError &why) const;
     Submission unknown(const PrintError &why) const;
-    // A job without its documents may be there, which is neither found nor cancelled.
+    // The outcome if a job without documents may exist, but could neither be found nor canceled.
     Submission leftOver(const PrintError &why) const;
     bool isWhole(const JobOnServer &job) const;
     bool isCancelled() const;
@@ -54,19 +54,19 @@ private:
     QByteArray m_printerUri;
     QByteArray m_resource;
     QByteArray m_forcedFormat;
-    QList<QByteArray> m_formats; // of each document
-    QByteArray m_token;          // marks the job as ours
+    QList<QByteArray> m_formats; // one per document
+    QByteArray m_token;          // identifies the job
     ServerConnection m_server;
     JobLookup m_lookup;
 
     int m_id = 0;
     qint64 m_total = 0; // bytes of all documents
     qint64 m_sent = 0;
-    qint64 m_kilobytes = 0;    // of the documents sent whole, counted as the server does
-    bool m_mayExist = false;   // the server may have made the job
+    qint64 m_kilobytes = 0;    // of the completely sent documents, counted like the server does
+    bool m_mayExist = false;   // the server may have created the job
     bool m_mayPrint = false;   // a document may have arrived
-    bool m_mayBeWhole = false; // all of them may have
-    bool m_wasSilent = false;  // the server did not answer
+    bool m_mayBeWhole = false; // all documents may have arrived
+    bool m_wasSilent = false;  // the server did not respond
 };
 
 } // namespace host

@@ -10,14 +10,14 @@
 
 namespace host {
 
-// What is kept for the next time in files of the user's, such as the printer that was used last. They may be
-// as slow as a home in a network, and no result waits for them.
+// Writing of the user's files for later sessions, such as the printer that was used last. These files may be
+// slow, for example on a network file system, and no result waits for them.
 
-// Runs `write` on a worker thread, after earlier ones. It owns what it touches and must not throw.
+// Runs `write` on a worker thread, after earlier calls. It must own its data and must not throw.
 void writeLater(std::function<void()> write);
-// Writes that this printer has been used, and whatever else of its settings is kept then; none when empty.
+// Records that this printer was used, and runs `settings`, unless it is empty, to store further settings.
 void rememberUseLater(const QString &printer, const std::function<void()> &settings);
-// For the end of the program: returns when all of it is written, or after `limit`.
+// For the end of the program: returns when everything is written, or after `limit`.
 void finishWrites(std::chrono::milliseconds limit);
 
 } // namespace host

@@ -11,7 +11,7 @@
 
 namespace host {
 
-// What a print server that wants to know who prints is told.
+// The credentials for a print server that requires authentication.
 struct Login
 {
     QString user;
@@ -22,33 +22,33 @@ struct Login
 struct LoginQuestion
 {
     QString server;
-    QString user;           // proposed
-    bool again = false;     // the last answer was not accepted
-    bool isInClear = false; // the answer crosses the network without encryption
+    QString user;           // proposed user name
+    bool again = false;     // the previous answer was not accepted
+    bool isInClear = false; // the answer is sent over the network without encryption
 };
 
-// Asks a person; null when they do not want to answer. Called on the thread that makes the request.
+// Prompts the user; null if the user declines. Called on the requesting thread.
 using LoginPrompt = std::function<std::optional<Login>(const LoginQuestion &)>;
 
-// How long a server is waited for, in milliseconds.
+// Time limits for a server, in milliseconds.
 struct ServerPatience
 {
     int connectTime = 10'000;
-    int idleTime = 30'000; // without a byte going either way
-    // Until a job whose fate it does not tell is given up for not known: after it broke off, to come back;
-    // after it was silent or the user gave up, for all that it is asked then.
+    int idleTime = 30'000; // without any data being transferred
+    // For finding out the outcome of a job: the time in which a server that has disconnected must come back,
+    // and the total time for queries after a time-out or after the user has stopped waiting.
     int recoveryTime = 6'000;
 };
 
-// The login prompt and its last answer, so that one answer does for every request of a program; and how
-// long they wait. One thread at a time.
+// The login prompt and its last answer, so that one answer serves all requests of a program; and the time
+// limits. Used by one thread at a time.
 struct LoginKeeper
 {
     ServerPatience patience;
-    LoginPrompt prompt; // empty: the user is not asked, and what needs a login is refused
+    LoginPrompt prompt; // if empty, the user is not prompted, and requests that require a login are refused
     std::optional<Login> given;
-    // What was accepted, as the server's HTTP side wants it: sent along from the start on later connections,
-    // since a refusal may cross with the request and end as a broken connection.
+    // The accepted credentials in the form of an HTTP header. Later connections send them from the start,
+    // since a refusal in the middle of a request may break the connection.
     QByteArray accepted;
 };
 

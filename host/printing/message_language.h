@@ -7,12 +7,13 @@
 
 namespace host {
 
-// The languages of the dialog, preferred first, as "de-DE"; from the environment, LANGUAGE included.
+// The languages of the dialog in order of preference, such as "de-DE"; from the environment, including
+// LANGUAGE.
 QStringList dialogLanguages();
 
-// Has libcups speak the dialog's language from now on. It asks the C locale, which knows nothing of LANGUAGE
-// and falls back to English on machines that have not generated the user's locale. Changes the environment:
-// call once, at the start of the program, before there is another thread.
+// Makes libcups use the dialog's language. By default it uses the C locale, ignores LANGUAGE, and falls back
+// to English if the user's locale has not been generated. Changes the environment: call once at program
+// start, before there are other threads.
 void speakDialogLanguage();
 
 } // namespace host

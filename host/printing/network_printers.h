@@ -13,24 +13,24 @@
 
 namespace host {
 
-// Printers that announce themselves in the network. The print server has no queue for them; it makes one when
-// it is asked to, and takes it away some time after it was last used. May be used by several threads at once;
-// calls block.
+// Printers that announce themselves on the network. The print server has no permanent queues for them: it
+// creates a queue on request, and removes it some time after its last use. Thread-safe; calls block.
 class NetworkPrinters
 {
 public:
-    // False from `found` ends the search, which else takes some seconds. Called for each printer once.
+    // Calls `found` once for each printer. If it returns false, the search ends; otherwise it takes some
+    // seconds.
     void search(const std::function<bool(const Destination &)> &found);
-    // Whether a search has found one of this name.
+    // Whether a search has found a printer of this name.
     bool hasFound(const QString &queue) const;
-    // Has the server make a queue for one that was found, where it has none. False when it does not.
+    // Requests a queue from the server for a printer that was found, unless there is one. False on failure.
     bool makeQueue(const QString &queue);
 
 private:
     std::optional<Destination> printer(const QString &queue) const;
 
     mutable std::mutex m_mutex;
-    QMap<QString, Destination> m_found; // guarded
+    QMap<QString, Destination> m_found; // guarded by the mutex
 };
 
 } // namespace host

@@ -14,17 +14,17 @@ namespace host {
 
 class PrintSystem;
 
-// Searches the network for printers on a worker thread, and reports each soon after it was
-// found. May go while it looks.
+// Searches the network for printers on a worker thread, and reports each printer as it is found. May be
+// destroyed during a search.
 class NetworkSearch : public QObject
 {
     Q_OBJECT
 public:
-    // The print system is borrowed, and outlives every search.
+    // The print system is borrowed and outlives all searches.
     explicit NetworkSearch(PrintSystem &system, QObject *parent = nullptr);
     ~NetworkSearch() override;
 
-    // No effect while a search is under way.
+    // Has no effect during a search.
     void begin();
     bool isUnderWay() const { return m_finds != nullptr; }
 
@@ -37,7 +37,7 @@ private:
     void tell();
 
     PrintSystem &m_system;
-    std::shared_ptr<Finds> m_finds; // null unless a search is under way
+    std::shared_ptr<Finds> m_finds; // null unless a search is running
     QTimer m_look;
 };
 

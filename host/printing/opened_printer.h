@@ -14,39 +14,38 @@ namespace host {
 
 class PrintSystem;
 
-// A destination and its PPD, as the print server or a file gives them: all that has to be asked before a
-// dialog can be made. A value that is handed on.
+// A destination and its PPD, from the print server or a file: the data needed to create a dialog. Movable.
 struct OpenedPrinter
 {
     Destination destination;
-    std::unique_ptr<PpdDocument> ppd; // null where the printer has none, or a broken one
-    PrintError ppdProblem;            // why a PPD that is there could not be used
+    std::unique_ptr<PpdDocument> ppd; // null if the printer has none, or it is broken
+    PrintError ppdProblem;            // why an existing PPD could not be used
 };
 
-// Which printer, and which PPD. A value.
+// The requested printer and PPD. A value.
 struct PrinterWish
 {
-    QString printer; // destination name; empty for the user's default, or for none where there is a PPD file
-    QString ppdFile; // stands in for the queue's own
-    bool mayBeGone = false; // a printer that is not there any more is as good as none
+    QString printer; // destination name; empty for the user's default, or for none if a PPD file is given
+    QString ppdFile; // replaces the queue's PPD
+    bool mayBeGone = false; // a missing printer is treated like none
     bool isForAnyone() const { return printer.isEmpty() && ppdFile.isEmpty(); }
 };
 
-// All of these ask the print system, and block. Null with an error when the destination or the PPD file
-// cannot be had; a queue whose PPD is broken is opened without one.
+// These functions query the print system and block. Null with an error if the destination or the PPD file is
+// not available; a queue with a broken PPD is opened without it.
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const PrinterWish &wish, PrintError *error);
 std::optional<OpenedPrinter> openPrinter(PrintSystem &system, const Destination &destination,
                                          const QString &ppdFile, PrintError *error);
-// For a dialog that was not told which: the printer of that name, which was used last, else the server's
-// default, else the first there is.
+// For a dialog without a given printer: opens the printer `usedLast`, else the server's default, else the
+// first one.
 std::optional<OpenedPrinter> openFirstPrinter(PrintSystem &system, const QString &usedLast,
                                               PrintError *error);
 
-// What came of opening a printer.
+// The result of opening a printer.
 struct PrinterOpening
 {
     std::optional<OpenedPrinter> printer;
-    PrintError error; // when there is no printer
+    PrintError error; // if there is no printer
 };
 
 } // namespace host

@@ -11,12 +11,12 @@
 
 namespace host {
 
-// Job options in the form of lp's command line and a backend's fifth argument ("sides=one-sided Collate
-// media='A4'"), by name and value. Text that is no such list gives what can be made of it.
+// Parses job options in the syntax of lp's command line and of a backend's fifth argument ("sides=one-sided
+// Collate media='A4'") into names and values. Malformed text is parsed as far as possible.
 QList<std::pair<QString, QString>> parseJobOptions(const QString &text);
 
-// What a switch takes: True, Yes, On, Enabled or a whole number other than 0; False, No, Off, Disabled, None
-// or 0; whatever the case. Null for everything else.
+// The value of a switch: True, Yes, On, Enabled or an integer other than 0; False, No, Off, Disabled, None or
+// 0; in any letter case. Null for anything else.
 std::optional<bool> switchValue(const QString &text);
 
 } // namespace host

@@ -13,18 +13,18 @@
 
 namespace host {
 
-// What is asked for of a document's pages. Only options that say how pages are put on paper: they get onto
-// command lines, which every user of the machine can read. A value.
+// Settings that affect the pages of a document. Contains only page layout options, since they become
+// command-line arguments, which every user of the machine can read. A value.
 struct PageSettings
 {
-    QList<std::pair<QString, QString>> options; // of the job
-    PaperSize paper;                            // without measures for A4 without margins
+    QList<std::pair<QString, QString>> options; // job options
+    PaperSize paper;                            // without dimensions, A4 without margins is used
     bool isMonochrome = false;
 
     bool operator==(const PageSettings &other) const;
-    // As filters get them.
+    // The options as filters receive them.
     QString optionText() const;
-    // A PPD with nothing but this paper, for filters.
+    // A PPD that contains only this paper, for filters.
     QByteArray ppd() const;
 };
 

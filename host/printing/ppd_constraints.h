@@ -9,21 +9,22 @@
 
 namespace host {
 
-// What a document's PPD forbids together with what is marked, in the words of the document, which owns it.
+// The constraints of a document's PPD for its current marks, described with the texts of the document, which
+// owns this object.
 class PpdConstraints
 {
 public:
     explicit PpdConstraints(const PpdDocument *document);
 
-    // Each question looks at the marks first.
+    // Each query reads the marks first.
     QList<Conflict> conflicts();
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword);
     quint32 revision(const QString &keyword);
 
 private:
-    // One side of a line; what is marked for its option where `choice` is not what the line says.
+    // One side of a line; the marked choice of its option if `choice` differs from the line.
     OptionChoice side(constraints::Choice term) const;
-    // The first term that is not one of the option's own.
+    // The first term that belongs to another option.
     constraints::Choice otherTerm(constraints::Line line, constraints::Option option) const;
 
     const PpdDocument *m_document;

@@ -22,24 +22,24 @@ namespace host {
 
 class PpdConstraints;
 
-// A sheet of paper, and the margins that the printer leaves white; all in millimetres.
+// A paper size and the printer's unprintable margins; all in millimetres.
 struct PaperSize
 {
     double width = 0, height = 0;
     double left = 0, right = 0, top = 0, bottom = 0;
 };
 
-// A printer's PPD, opened, localised and marked with its defaults. Owns the record that panels work on;
-// outlives them. Texts are in the user's language where the PPD has it. Choices that take values are written
-// with them, as in "Custom.300x400" (ppd_custom.h), here and wherever choices of a PPD go.
+// A printer's PPD, opened, localised and marked with its defaults. Owns the PPD record that panels work on,
+// and outlives the panels. Texts are in the user's language if the PPD has them. Custom choices include their
+// values, as in "Custom.300x400" (ppd_custom.h); this applies wherever choices of a PPD are passed.
 class PpdDocument
 {
 public:
-    // Null with an error that names the file, and the line where the PPD is broken. A file beyond
-    // `mostBytes`, compressed or not, is refused unread.
+    // Opens a PPD file. Null with an error that names the file, and the line if the PPD is broken. A file of
+    // more than `mostBytes`, compressed or not, is refused without reading it.
     static constexpr qint64 mostBytes = 32 * 1024 * 1024;
     static std::unique_ptr<PpdDocument> open(const QString &path, PrintError *error);
-    // The PPD that the print server keeps for a queue.
+    // Opens the PPD of a queue from its contents.
     static std::unique_ptr<PpdDocument> ofQueue(const QString &queue, const QByteArray &content,
                                                 PrintError *error);
     ~PpdDocument();
@@ -54,52 +54,52 @@ public:
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
     QString defaultChoice(const QString &keyword) const;
-    // The measures of a choice of PageSize; null when the PPD does not tell them.
+    // The dimensions of a choice of PageSize; null if the PPD does not define them.
     std::optional<PaperSize> paperSize(const QString &choice) const;
-    // Whether it stands for a unit that is or is not installed.
+    // Whether the option represents a unit that may be installed.
     bool isInstallable(const QString &keyword) const;
-    // With the words for it; the keywords themselves where the PPD has no such option or choice.
+    // An option and choice with their texts; the keywords if the PPD has no such option or choice.
     OptionChoice described(const QString &keyword, const QString &choice) const;
 
-    // False, and nothing changed, when the PPD has no such option or choice, or does not take its values.
+    // Marks a choice. False, without a change, if the PPD has no such option or choice, or its values are not
+    // valid.
     bool mark(const QString &keyword, const QString &choice);
-    // Marks what a destination's or a command's options say, standard names such as "media" and "sides"
-    // included; options that the PPD knows nothing of are passed over. Gives what is wrong, in a user's
-    // words, with values that an option does not take and that are left out.
+    // Marks the choices of options from a destination or the command line, including standard names such as
+    // "media" and "sides". Unknown options are ignored. Returns localised problems; invalid values are not
+    // marked.
     QStringList markOptions(const QMap<QString, QString> &options);
-    // Whether markOptions() turns an option of this name into marks.
+    // Whether markOptions() converts an option of this name to marks.
     bool takesOption(const QString &name) const;
-    // The options that a standard name stands for, in any case; empty for other names. Quality is left to the
-    // print system.
+    // The options that a standard name represents, ignoring letter case; empty for other names. Quality is
+    // left to the print system.
     static QStringList optionsOfStandardName(const QString &name);
-    // The choices that a standard name such as "media" stands for with this value, by option. Empty when the
-    // PPD has none for it, or for one of several values in a list. What is marked stays as it is. Without
-    // `alsoKeywords` only values count that libcups takes itself: it has trays and types of paper under their
-    // standard names alone.
+    // The choices, by option, for a standard name such as "media" with this value. Empty if the PPD has no
+    // such choice, also for one of several values in a list. The marks are not changed. Without
+    // `alsoKeywords`, only values that libcups itself accepts are considered: it accepts trays and types of
+    // paper only under their standard names.
     QMap<QString, QString> standardChoices(const QString &name, const QString &value,
                                            bool alsoKeywords = true);
-    // Marked choices that are not the default, in PPD order, without installable options.
+    // Marked choices other than the defaults, in PPD order, without installable options.
     QList<OptionChoice> changedChoices() const;
 
-    // Reads the constraints now, so that the first question about them does not wait for it.
+    // Reads the constraints now, so that the first query about them is not delayed.
     void readConstraints() const { constraints(); }
-    // The conflicts that libcups sees among the marks.
+    // The conflicts among the marks, as determined by libcups's rules.
     QList<Conflict> conflicts() const;
-    // The choices of an option that the PPD forbids together with what is marked for other options, each with
-    // one of those that stand in its way.
+    // The choices of an option that the PPD forbids together with the marks of other options, each with one
+    // of the conflicting choices.
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword) const;
-    // Another number whenever that answer may have changed for the option.
+    // A number that changes whenever the result of forbiddenChoices() for the option may have changed.
     quint32 forbiddenRevision(const QString &keyword) const;
-    // Null when there is no conflict or libcups finds no way out. `keep` is left as it is where that is
-    // possible.
+    // Null if there is no conflict or libcups finds no resolution. The choice of `keep` is kept if possible.
     std::optional<Resolution> resolution(const QString &keep = QString()) const;
 
 private:
     explicit PpdDocument(ppd_file_s *ppd);
-    // `name` is what an error calls the PPD.
+    // `name` is the name of the PPD in errors.
     static std::unique_ptr<PpdDocument> adopt(ppd_file_s *ppd, const QString &name, PrintError *error);
 
-    PpdConstraints &constraints() const; // read when first asked for
+    PpdConstraints &constraints() const; // read on first use
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
     QMap<QString, QString> choicesNamed(const QString &name, const QStringList &options) const;
     bool isInstallableOption(const ppd_option_s *option) const;
@@ -107,7 +107,7 @@ private:
 
     ppd_file_s *m_ppd = nullptr;
     mutable std::unique_ptr<PpdConstraints> m_constraints;
-    // A custom choice as it was written, in the user's unit, and as the record holds it.
+    // A custom choice as it was given, in the user's unit, and as stored in the record.
     struct Written
     {
         QString choice;

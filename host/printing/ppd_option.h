@@ -10,10 +10,10 @@
 
 #include <optional>
 
-// What a PPD says of its options, as values.
+// Values that describe the options of a PPD.
 namespace host {
 
-// An option set to one of its choices, with the words a user reads.
+// An option with one of its choices, and their localised texts.
 struct OptionChoice
 {
     QString option;
@@ -37,24 +37,24 @@ struct PpdOption
     QString text;
     QString groupText;
     QString defaultChoice;
-    QString markedChoice;  // empty when nothing is marked
-    QList<Choice> choices; // without the one that takes values of its own
+    QString markedChoice;  // empty if nothing is marked
+    QList<Choice> choices; // without the custom choice
     std::optional<CustomChoice> custom;
 
-    // One of the choices, or a custom one with values that the option takes.
+    // Whether this is one of the choices, or a custom choice with valid values.
     bool hasChoice(const QString &choice) const;
-    // A choice in the PPD's own spelling, whatever its case; other values as they are.
+    // A choice in the PPD's spelling, ignoring letter case; other values are returned unchanged.
     QString spelled(const QString &choice) const;
 };
 
-// Choices that the PPD forbids together and that are marked all the same.
+// Marked choices that the PPD does not allow together.
 struct Conflict
 {
     QList<OptionChoice> sides; // two or more, in PPD order of their options
     bool operator==(const Conflict &) const = default;
 };
 
-// What libcups proposes to end every conflict.
+// The changes proposed by libcups to resolve all conflicts.
 using Resolution = QList<OptionChoice>;
 
 } // namespace host

@@ -7,9 +7,9 @@ struct ppd_file_s;
 
 namespace host {
 
-// Puts the texts of groups, options and choices into the language of the user, as ppdLocalize() does, and
-// mends what that leaves behind: an empty translation gives way to the PPD's own text, and a character that
-// did not fit into libcups's fields goes as a whole.
+// Localises the texts of groups, options and choices like ppdLocalize(), and corrects its results: an empty
+// translation is replaced by the PPD's own text, and a character truncated by the size of libcups's fields is
+// removed completely.
 void localizePpdTexts(ppd_file_s *ppd);
 
 } // namespace host

@@ -15,21 +15,21 @@
 
 namespace host {
 
-// The lines of a file of presets: "Dest queue/name option=value …", or "Default …" for the one that is the
-// user's default. Whatever else stands in the file is left as it is.
+// The lines of a file of presets: "Dest queue/name option=value …", or "Default …" for the user's default.
+// Other lines are preserved.
 
-// The presets of a queue, those of several lines put together as libcups does.
+// The presets of a queue. Several lines for one preset are merged as in libcups.
 QList<Preset> presetsIn(const QByteArray &content, const QString &queue);
 // The names of all presets, by their queue in lower case.
 QMap<QString, QStringList> presetNamesIn(const QByteArray &content);
-// The content with a preset in place of its earlier lines, or at the end. Null with an error that says what a
-// line cannot hold.
+// The content with a preset that replaces its earlier lines, or is appended. Null with an error if a line
+// cannot represent the preset.
 std::optional<QByteArray> withPreset(const QByteArray &content, const QString &queue, const Preset &preset,
                                      PrintError *error);
-// The same with a preset under another name, its options untouched.
+// The content with a preset renamed; its options are preserved.
 QByteArray renamedPreset(const QByteArray &content, const QString &queue, const QString &from,
                          const QString &to);
-// The same without a preset. A line that makes it the default makes the queue the default.
+// The content without a preset. If the preset was the default, its queue becomes the default.
 QByteArray withoutPreset(const QByteArray &content, const QString &queue, const QString &name);
 
 } // namespace host

@@ -7,13 +7,13 @@
 
 namespace host {
 
-// Why something could not be done, in words for the person at the screen. A value.
+// An error with a localised message for the user. A value.
 struct PrintError
 {
     enum class Kind {
         None,
         NoSuchPrinter,
-        NoSuchPreset, // of a printer that is there
+        NoSuchPreset, // of an existing printer
         NoPrinters,
         ServerAway,
         ConnectionLost,
@@ -30,10 +30,10 @@ struct PrintError
     };
 
     Kind kind = Kind::None;
-    QString message; // localised plain text, one sentence or two
+    QString message; // localised plain text of one or two sentences
 
     explicit operator bool() const { return kind != Kind::None; }
-    // The kind as scripts know it, such as "no-such-printer". Never localised.
+    // The kind of error for scripts, such as "no-such-printer". Never localised.
     QString code() const;
 };
 

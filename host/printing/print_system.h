@@ -21,38 +21,38 @@ namespace host {
 class EarlyPrinter;
 struct QueueFacts;
 
-// What the host asks of the print system. One object a program; every call is a request to the server and
-// blocks until it has answered. May be called on several threads at once. Errors are in plain words.
+// The host's interface to the print system. One object per program. Each call is a request to the server and
+// blocks until the server has responded. Thread-safe. Errors are localised.
 class PrintSystem
 {
 public:
     virtual ~PrintSystem();
 
-    // Every queue and preset, to choose from: without their options, which destination() gives. Null with an
-    // error when the server cannot be asked; empty when there is none.
+    // All queues and presets for a selection list, without their options, which destination() returns. Null
+    // with an error if the server cannot be queried; empty if there are none.
     virtual std::optional<QList<Destination>> destinations(PrintError *error) = 0;
-    // One of them by name ("queue" or "queue/instance"); the user's default for an empty name.
+    // A destination by name ("queue" or "queue/instance"); the user's default for an empty name.
     virtual std::optional<Destination> destination(const QString &name, PrintError *error) = 0;
-    // Null without an error for a queue that has no PPD.
+    // Null without an error if the queue has no PPD.
     virtual std::unique_ptr<PpdDocument> ppd(const Destination &destination, PrintError *error) = 0;
-    // Sends a job and tells what became of it. A signal held by HeldSignals cancels it, as the watch can.
+    // Sends a job and returns the outcome. A signal held by HeldSignals cancels it, as does the watch.
     virtual Submission submit(const JobRequest &request, const SubmissionWatch &watch) = 0;
     virtual JobStatus jobStatus(const Destination &destination, int jobId) = 0;
-    // False with an error when the server does not do it.
+    // False with an error if the server refuses.
     virtual bool changeJob(const Destination &destination, int jobId, JobAction action,
                            PrintError *error) = 0;
-    // The same destination with the state its queue has now, asked with one request; null when the server
-    // does not answer.
+    // The same destination with the current state of its queue, requested with one request; null if the
+    // server does not respond.
     virtual std::optional<Destination> withState(const Destination &destination) = 0;
-    // Looks for printers in the network that need no queue; destination() and all that comes after it know
-    // those that were found. False from `found`, which is called on this thread, ends the search.
+    // Searches the network for printers without a queue; destination() and later calls accept the printers
+    // that were found. If `found`, which is called on this thread, returns false, the search ends.
     virtual void searchNetwork(const std::function<bool(const Destination &)> &found) = 0;
-    // Called where the server wants a user name and a password; null means no. Without it such requests
-    // are refused. One answer does for all.
+    // Called when the server requires a user name and a password; a null result declines. Without a prompt
+    // such requests are refused. One answer serves all requests.
     virtual void setLoginPrompt(LoginPrompt prompt) = 0;
 };
 
-// The print system that libcups knows: the server of CUPS_SERVER or client.conf.
+// The print system accessed through libcups: the server from CUPS_SERVER or client.conf.
 class CupsPrintSystem : public PrintSystem
 {
 public:
@@ -60,8 +60,8 @@ public:
 
     CupsPrintSystem() : CupsPrintSystem(ServerPatience()) {}
     explicit CupsPrintSystem(const ServerPatience &patience) { m_login.patience = patience; }
-    // What was asked for before this object was made; destination() and ppd() take from it first. Before
-    // either.
+    // Sets requests that were started before this object was created; destination() and ppd() use their
+    // results first. Call before either.
     void setEarlyPrinter(std::shared_ptr<EarlyPrinter> early) { m_early = std::move(early); }
     std::optional<QList<Destination>> destinations(PrintError *error) override;
     std::optional<Destination> destination(const QString &name, PrintError *error) override;
@@ -75,23 +75,23 @@ public:
 
 private:
     class Visit;
-    // Of a queue that must be there, or be made; null with an error.
+    // The facts of a queue, which is created if it does not exist yet; null with an error.
     std::optional<QueueFacts> factsOf(ServerConnection *server, const Destination &destination,
                                       PrintError *error);
-    // What the printer of a job that has not begun says, which not each look at the job asks for anew.
+    // Adds the state of the printer to a job that has not started, without querying it on each call.
     void addPrinterState(ServerConnection *server, const Destination &destination, int jobId,
                          JobStatus *status);
     std::optional<Login> askOnce(const Visit &visit, const LoginQuestion &question);
 
-    std::mutex m_loginMutex; // guards the three that follow
+    std::mutex m_loginMutex; // guards the next three members
     LoginKeeper m_login;
-    int m_refusals = 0;        // of people to answer
-    bool m_wasRefused = false; // and they have done nothing since
-    std::mutex m_promptMutex;  // held while the user is asked
-    std::mutex m_waitingMutex; // guards what follows
+    int m_refusals = 0;        // how often the user has declined to answer
+    bool m_wasRefused = false; // and no new action of the user since
+    std::mutex m_promptMutex;  // locked while the user is prompted
+    std::mutex m_waitingMutex; // guards the next members
     struct Waiting
     {
-        int looks = 0; // since its printer was asked
+        int looks = 0; // since the printer was last queried
         bool isStopped = false;
         QString message;
     };

@@ -8,9 +8,9 @@
 
 namespace host {
 
-// Why a printer or a job is as it is, for the user. `keywords` are the server's state reasons, `message` its
-// own words in its own language, which stand only where none of the keywords is known. Empty when there is
-// nothing to say.
+// The reason for the state of a printer or a job, for the user. `keywords` are the server's state reasons.
+// `message` is the server's text in its own language, which is used only if no keyword is known. Empty if
+// there is no reason.
 QString reasonText(const QStringList &keywords, const QString &message);
 
 } // namespace host

@@ -19,36 +19,36 @@ class QIODevice;
 
 namespace host {
 
-// What became of one request.
+// The result of one request.
 struct Reply
 {
     enum class Fate {
-        NotSent,  // no connection: the server knows nothing of it
-        Answered, // well-formed, with `status`
-        Refused,  // by the server's HTTP side, with `httpStatus`: nothing was done
-        Lost,     // the connection broke, or what came back was no answer
-        Stopped   // from here, on purpose or because the document could not be read
+        NotSent,  // no connection: the server has received nothing
+        Answered, // a well-formed response, with `status`
+        Refused,  // refused by the server's HTTP layer, with `httpStatus`: nothing was done
+        Lost,     // the connection broke, or the response was malformed
+        Stopped   // stopped by the caller, or because the document could not be read
     };
     Fate fate = Fate::NotSent;
-    bool wasSentWhole = false;            // all of it was handed over: the server may have acted on it
-    bool wasGarbled = false;              // something came back
-    bool wasSilent = false;               // lost, because nothing moved for too long
-    bool wasGivenUp = false;              // lost, because the caller gave up
+    bool wasSentWhole = false;            // sent completely: the server may have acted on it
+    bool wasGarbled = false;              // a malformed response was received
+    bool wasSilent = false;               // lost, because no data was transferred for too long
+    bool wasGivenUp = false;              // lost, because the caller stopped it
     int status = IPP_STATUS_CUPS_INVALID; // an ipp_status_t; a server may send any number
     http_status_t httpStatus = HTTP_STATUS_ERROR;
-    IppPointer message; // when answered
+    IppPointer message; // if answered
 
     bool succeeded() const;
-    // Why it did not, in words. `printer` is the name the user knows it by, or empty when the request was not
+    // The error of a failed request. `printer` is the name known to the user, or empty if the request was not
     // about one printer.
     PrintError error(const QString &printer) const;
 };
 
-// A connection to the print server of CUPS_SERVER or client.conf, for a few requests that follow on each
-// other: an idle one is closed by the server. Opened by the first request, again after each failure, and
-// closed with the object. What is believed about a request is what came back for it, never what libcups
-// remembers of an earlier one. May be used on any thread, one at a time; every call blocks, at most for the
-// time to connect and then for as long as something moves.
+// A connection to the print server from CUPS_SERVER or client.conf, for a short sequence of requests, since
+// the server closes idle connections. Opened by the first request and again after each failure, and closed
+// with the object. Results are based only on the response to a request, never on the state that libcups keeps
+// of earlier requests. May be used on any thread, by one at a time. Each call blocks at most for the time to
+// connect, and then as long as data is transferred.
 class ServerConnection
 {
 public:
@@ -60,26 +60,26 @@ public:
     ServerConnection(const ServerConnection &) = delete;
     ServerConnection &operator=(const ServerConnection &) = delete;
 
-    // Looked at between blocks and once a second while nothing moves; true ends what is under way.
+    // Checked between blocks and once a second while no data is transferred; true stops the request.
     void setStop(std::function<bool()> stop) { m_stop = std::move(stop); }
-    // When the server counts as silent, however long it has been. Never, unless it is set.
+    // The time when the server counts as not responding. Never, unless it is set.
     void setDeadline(const QDeadlineTimer &deadline) { m_deadline = deadline; }
 
     Reply ask(IppPointer request, const QByteArray &resource);
-    // The same with a document behind it, read from where the device stands to its end. `progress` gets the
-    // bytes sent so far.
+    // The same with a document appended, read from the device's current position to its end. `progress`
+    // receives the number of bytes sent so far.
     Reply send(IppPointer request, const QByteArray &resource, QIODevice *document,
                const std::function<void(qint64)> &progress = {});
-    // A file of the server, of at most `limit` bytes. Null without an error where there is none.
+    // Downloads a file of at most `limit` bytes from the server. Null without an error if it does not exist.
     std::optional<QByteArray> fetch(const QByteArray &resource, qint64 limit, PrintError *error);
 
-    // Which connection it is: each time it is opened it gets another number. 0 while it is closed.
+    // Identifies the connection: a different number each time it is opened; 0 while it is closed.
     quint64 number() const;
-    // For libcups's own calls; null when the server cannot be reached.
+    // For direct calls of libcups; null if the server cannot be reached.
     http_t *handle() { return connect() ? m_http.get() : nullptr; }
-    // Keeps libcups from asking on the terminal in calls that are made without this class, on this thread.
+    // Prevents libcups from prompting on the terminal in calls on this thread that do not use this class.
     static void askNobody();
-    // The server's name for people.
+    // The server's name for display.
     static QString serverName();
 
 private:
@@ -110,7 +110,7 @@ private:
     QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     QElapsedTimer m_idle;
     bool m_offeredLogin = false;
-    QByteArray m_password; // libcups keeps the pointer until it is asked again
+    QByteArray m_password; // libcups keeps the pointer until the next prompt
 };
 
 } // namespace host

@@ -10,9 +10,10 @@ namespace host {
 
 class PpdDocument;
 
-// The value under which a standard name such as "sides" or "media" says what is marked in a PPD. For a name
-// that takes a list, of these options; of all that it stands for where the list is empty, or of the first
-// where libcups takes no list of them. Empty when no value says it. The PPD comes back as it was.
+// The value of a standard name, such as "sides" or "media", for the current marks of a PPD. For a name that
+// takes a list, `options` selects the options to include; if it is empty, all options that the name
+// represents, or only the first if libcups does not accept a list. Empty if there is no such value. The PPD
+// is restored afterwards.
 QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStringList &options);
 
 } // namespace host

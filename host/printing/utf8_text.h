@@ -9,11 +9,11 @@
 
 namespace host {
 
-// How many of these bytes of UTF-8 remain when a character that was cut off at their end is left out. All of
-// them where none was, and where the bytes are not UTF-8 in the first place.
+// The number of bytes of UTF-8 without an incomplete character at the end. All bytes if there is none, or if
+// they are not UTF-8.
 qsizetype wholeCharacters(QByteArrayView utf8);
 
-// The longest beginning of a text that takes at most so many bytes of UTF-8.
+// The longest prefix of a text that fits into this number of bytes of UTF-8.
 QByteArray utf8Beginning(const QString &text, qsizetype mostBytes);
 
 } // namespace host
