@@ -37,8 +37,8 @@ struct MainText
     Q_DECLARE_TR_FUNCTIONS(MainText)
 };
 
-// Tells Qt, before it starts, to do without a display where there is none or where no window will be shown.
-// False when there is none: Qt would end the program.
+// Selects a Qt platform without a display, before Qt starts, if there is no display or no window will be
+// shown. False if there is no display, in which case Qt would end the program.
 bool choosePlatform(int argc, char **argv)
 {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -53,9 +53,9 @@ bool choosePlatform(int argc, char **argv)
 // The command line while Qt opens the display; null before and after.
 char **wordsForDisplay = nullptr;
 
-// Qt ends the program when it cannot open the display that the environment names: one that has gone, another
-// user's, or one that Qt has no plug-in for. Starts the program again without that name instead, so that what
-// needs no display works, and what does has its message.
+// Qt ends the program if it cannot open the display named in the environment, because it no longer exists,
+// belongs to another user, or Qt has no plug-in for it. Restarts the program without the display name
+// instead, so that functions without a window work, and others report a clear error.
 [[noreturn]] void startWithoutDisplay()
 {
     bool named = false;
@@ -70,15 +70,16 @@ char **wordsForDisplay = nullptr;
     std::_Exit(ExitFailure);
 }
 
-// Log messages go to the terminal as well, and hold texts of PPDs and devices. The platform without a display
-// says of every window that it takes no hints about its size, and Qt says at its start where it puts what a
-// session without XDG_RUNTIME_DIR has no place for, as under cron: neither helps a user.
+// Filters Qt's messages: log messages are also written to the terminal, and contain texts of PPDs and
+// devices. The platform without a display reports for each window that it ignores size hints, and Qt reports
+// at start-up which folder it uses in a session without XDG_RUNTIME_DIR, for example under cron. Neither
+// helps users.
 QtMessageHandler standardHandler = nullptr;
 void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (wordsForDisplay && type == QtFatalMsg)
         startWithoutDisplay();
-    // The reasons of that, and what Qt tries before it has opened another display.
+    // The reasons for a failure, and Qt's attempts to open another display.
     if (wordsForDisplay && (qstrncmp(context.category, "qt.qpa.", 7) == 0 ||
                             message.startsWith(QLatin1String("Failed to create wl_display"))))
         return;
@@ -87,8 +88,8 @@ void handleLogMessage(QtMsgType type, const QMessageLogContext &context, const Q
         standardHandler(type, context, QString::fromUtf8(terminalLine(message)).chopped(1));
 }
 
-// Qt's texts. Its file dialog asks for the names of kinds of files, such as "Folder", where most of its own
-// catalogues do not have them yet, and have them where it asked before.
+// Translates texts of Qt. Qt's file dialog requests names of file types, such as "Folder", in a context in
+// which most of its own catalogs lack them; they have them in the previous context.
 class QtTexts : public QTranslator
 {
 public:
@@ -102,7 +103,7 @@ public:
     }
 };
 
-// The program's own texts and Qt's, in the first of the user's languages that there is a translation for.
+// Installs the translations of the program and of Qt in the first of the user's languages that has one.
 void installTranslations(QApplication *app)
 {
     for (QString language : dialogLanguages()) {
@@ -124,17 +125,18 @@ void installTranslations(QApplication *app)
     }
 }
 
-// Takes the places of standard streams that were closed: no file of the program may get there. What is
-// written or read there fails all the same.
+// Replaces standard streams that were closed, so that no file of the program gets their numbers. Reading and
+// writing them still fails.
 void occupyStandardStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(stream, F_GETFD) < 0)
-            (void)!open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY); // the lowest free number
+            // uses the lowest free number
+            (void)!open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
     }
 }
 
-// What Qt has left of the command line; as bytes, since file names need not be UTF-8.
+// The command line without Qt's options; as bytes, since file names need not be UTF-8.
 QStringList commandLine(int argc, char **argv)
 {
     QStringList words;
@@ -143,8 +145,8 @@ QStringList commandLine(int argc, char **argv)
     return words;
 }
 
-// Abandoned work must not find the libraries that it runs in torn down: where there is
-// some, the program ends here and now.
+// Returns the exit code, or ends the program at once if abandoned work is running, since its libraries must
+// not be torn down.
 int leave(int code)
 {
     constexpr std::chrono::seconds slowFiles(2);
@@ -156,7 +158,7 @@ int leave(int code)
     return code;
 }
 
-// Each dialog and each run tells what is wrong with a policy that cannot be read.
+// Reads the policy. Each dialog and each run reports a policy that cannot be read.
 Policy readPolicy()
 {
     Policy::setCurrent(Policy::installed());
@@ -173,7 +175,7 @@ int runForService(bool hasDisplay)
 }
 
 // Use a single malloc arena, so that memory freed by a worker (such as a parsed PPD) is reused by other
-// threads. The workers wait for servers and processes, not for one another.
+// threads. Workers wait for servers and processes, not for each other.
 void shareHeap()
 {
 #ifdef M_ARENA_MAX
@@ -188,8 +190,8 @@ int flushed(int code, QFile *out, QFile *err)
     return code;
 }
 
-// Asks for the printer of the dialog while Qt starts. Null where no dialog opens on a printer. The worker
-// reads the locale and the environment: both are set before.
+// Queries the dialog's printer while Qt starts. Null if no dialog opens on a printer. The worker reads the
+// locale and the environment, which must be set before.
 std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments, bool hasDisplay)
 {
     const bool opens = arguments.needsWindow() && !arguments.help && !arguments.version &&
@@ -226,13 +228,13 @@ int main(int argc, char **argv)
     occupyStandardStreams();
     const bool hasDisplay = choosePlatform(argc, argv);
     standardHandler = qInstallMessageHandler(handleLogMessage);
-    std::vector<char *> passed(argv, argv + argc + 1); // Qt takes its own out of argv
+    std::vector<char *> passed(argv, argv + argc + 1); // Qt removes its options from argv
     QApplication::setOrganizationName(QStringLiteral("kelmar"));
     QApplication::setApplicationName(QStringLiteral("kelmar-print"));
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
-    // Avahi's library tells users on stderr that a bundle could use another interface of it.
+    // Suppresses a message of Avahi's library to users on stderr.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
-    setlocale(LC_ALL, ""); // as Qt will
+    setlocale(LC_ALL, ""); // as Qt does later
     speakDialogLanguage();
     QString error;
     const QStringList given = commandLine(argc, argv);
@@ -249,7 +251,7 @@ int main(int argc, char **argv)
     (void)out.open(stdout, QIODevice::WriteOnly);
     (void)err.open(stderr, QIODevice::WriteOnly);
     const QStringList words = commandLine(argc, argv);
-    if (!arguments || words != given) // without what Qt has taken; messages are in the user's language now
+    if (!arguments || words != given) // without Qt's options; messages are now localised
         arguments = parseArguments(words, &error);
     const bool isAsking = arguments && (arguments->help || arguments->version);
     if (!arguments || (!isAsking && !fetchValues(&*arguments, &error))) {

@@ -62,7 +62,8 @@ int tellRefusal(const PrintError &error, QIODevice *err)
     return error.kind == PrintError::Kind::BadValue ? ExitUsage : ExitFailure;
 }
 
-// Its animations are over, and neither the print server nor a panel's device is being asked.
+// Takes the picture when animations are over, and neither the print server nor a panel's device is being
+// queried.
 void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err)
 {
     QObject::connect(new Settled(window), &Settled::done, window, [=] {
@@ -74,7 +75,7 @@ void pictureWhenSettled(PrintWindow *window, const QString &path, QIODevice *err
     });
 }
 
-// Ends the program once it is certain that there are no options to be painted.
+// Ends the program once it is certain that there are no options to paint.
 void failWithoutOptions(PrintWindow *window)
 {
     QObject::connect(new Settled(window), &Settled::done, window, [window] {
@@ -85,11 +86,11 @@ void failWithoutOptions(PrintWindow *window)
     });
 }
 
-// Writes how long the start took, and ends the program, once the options of the printer are on the screen.
+// Writes the start-up times and ends the program, once the options of the printer are painted.
 void reportStartup(PrintWindow *window, QIODevice *out)
 {
     const auto firstPaint = std::make_shared<std::optional<StartupFigures>>();
-    // Both may be done with one paint, whose figures then are the same.
+    // Both may be reached with one paint, with the same figures.
     QObject::connect(new FirstPaint(window), &FirstPaint::done, window, [firstPaint, window] {
         if (!window->book()->isHidden())
             return;
@@ -131,13 +132,13 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
     system.setLoginPrompt([parent = QPointer<QWidget>(&window)](const LoginQuestion &question) {
         return askForLogin(question, parent);
     });
-    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
+    QApplication::setQuitOnLastWindowClosed(false); // the response to a job may still be outstanding
     QObject::connect(&window, &QDialog::finished, qApp, [&] { QApplication::exit(exitCodeOf(window)); });
     PrintError error;
     if (!window.open(&error)) {
         return tellRefusal(error, err);
     }
-    if (window.isDismissed()) // while a panel waited
+    if (window.isDismissed()) // while a panel was waiting
         return exitCodeOf(window);
     if (arguments.startupTime)
         reportStartup(&window, out);
@@ -151,7 +152,7 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         pictureWhenSettled(&window, arguments.screenshot, err);
     });
     window.show();
-    window.update(); // it may have been shown, and painted, while a panel was waiting
+    window.update(); // it may have been shown and painted while a panel was waiting
     const int code = QApplication::exec();
     tellResult(window, out, err);
     system.setLoginPrompt({});

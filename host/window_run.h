@@ -11,8 +11,8 @@ class QIODevice;
 
 namespace host {
 
-// Opens the dialog for a command line and runs it to its end; also takes its picture or its start-up time.
-// The exit code.
+// Runs the dialog for a command line; also takes its screenshot or measures its start-up time. Returns the
+// exit code.
 int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &extensions, QIODevice *out,
               QIODevice *err);
 

@@ -31,7 +31,7 @@ std::optional<uid_t> authenticatedUid()
     return uid;
 }
 
-// The scheduler exports no number for root, only the authenticated name.
+// The scheduler exports no user ID for root, only the authenticated name.
 bool isRoot(const std::optional<uid_t> &uid)
 {
     const char *name = std::getenv("AUTH_USERNAME");

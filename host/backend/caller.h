@@ -9,7 +9,7 @@
 
 namespace backend {
 
-// The local user that a job came from.
+// The local user who submitted a job.
 struct Caller
 {
     uid_t uid = 0;
@@ -17,12 +17,12 @@ struct Caller
     std::string name;
 };
 
-// What the scheduler has from the kernel (AUTH_UID), never what the job says of itself. Null with an error,
-// one sentence, when there is no such user, or it is root.
+// Identifies the user from AUTH_UID, which the scheduler gets from the kernel, not from the user name of the
+// job. Null with an error of one sentence if there is no such user, or it is root.
 std::optional<Caller> findCaller(std::string *error);
 
-// Becomes that user for good: all of its groups and none of root's, an empty environment, and no way back.
-// False when anything of this fails; then the process must end.
+// Irrevocably becomes the user: with the user's groups, none of root's privileges, and an empty environment.
+// False if any step fails; the process must then exit.
 bool become(const Caller &caller);
 
 } // namespace backend

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The backend of the queue "KELMAR dialog": hands each job to the print service of the user who printed it,
-// where the dialog opens with it. Started by cupsd, as root, because the file's mode is 0700; as root it
-// opens the job's file and finds the user. All that has to do with the user's side is done by a second
-// process, which has become that user; the first waits for it.
+// The backend of the queue "KELMAR dialog". Passes each job to the print service of the user who printed it,
+// which opens the dialog with it. cupsd starts the backend as root, because the file's mode is 0700. As root
+// it opens the job's file and looks up the user. A second process, which becomes that user, communicates with
+// the session; the first process waits for it.
 //
-// Usage: kelmar-dialog JOB USER TITLE COPIES OPTIONS [FILE]. USER is what the job says and is not looked at.
-// DEVICE_URI may end in ?wait=SECONDS, the time that the print service has to take the document (10).
+// Usage: kelmar-dialog JOB USER TITLE COPIES OPTIONS [FILE]. USER is set by the job and is ignored.
+// DEVICE_URI may end in ?wait=SECONDS, the time in which the print service must accept the document (10).
 
 #include "host/backend/caller.h"
 #include "host/backend/user_bus.h"
@@ -27,31 +27,31 @@
 
 namespace {
 
-// What cupsd does with the job next. A job that is held can be released when its reason is gone; the queue
-// stays open for other users.
+// Exit codes, which determine what cupsd does with the job. A held job can be released when the reason no
+// longer exists; the queue stays open for other users.
 enum Ending { Taken = 0, Hold = 3 };
 
-// Exit code of the second process when nothing on the user's side has answered; cupsd never sees it.
+// Exit code of the second process if nothing in the user's session responded; cupsd never sees it.
 constexpr int silentCode = 4;
 
-constexpr size_t longestText = 64 * 1024; // bytes of a title or the options
+constexpr size_t longestText = 64 * 1024; // bytes of the title or the options
 constexpr const char *spoolFolder = "/var/tmp";
-// For a document that comes from a filter.
+// For a document from a filter.
 constexpr platform::Patience filterPatience{std::chrono::minutes(1), std::chrono::minutes(10)};
-constexpr std::chrono::seconds connecting(3); // to a session bus, which answers within milliseconds
+constexpr std::chrono::seconds connecting(3); // to a session bus, which responds within milliseconds
 constexpr std::chrono::seconds grace(2);
-// Jobs of a user whose session did not answer are held for this time without a further wait, since each wait
-// keeps the queue from all other users.
+// Jobs of a user whose session did not respond are held immediately for this time, since each wait blocks the
+// queue for all other users.
 constexpr std::chrono::seconds silencePenalty(30);
 
 Ending hold(const std::string &reason)
 {
-    // cupsd shows this with the queue and the job.
+    // cupsd shows this message with the queue and the job.
     std::fprintf(stderr, "ERROR: %s\n", reason.c_str());
     return Hold;
 }
 
-// Where there is no number, or one out of range, the fallback.
+// The fallback if the text is not a number or out of range.
 unsigned numberIn(std::string_view text, unsigned least, unsigned most, unsigned fallback)
 {
     unsigned number = 0;
@@ -72,8 +72,8 @@ std::chrono::seconds patience()
         at == std::string_view::npos ? usual : numberIn(text.substr(at + key.size()), 1, 3600, usual));
 }
 
-// Remembers that a user's session did not answer, as the time of an empty file in the scheduler's state
-// folder, which only root may write to. Without such a folder nothing is remembered.
+// Remembers that a user's session did not respond, as the modification time of an empty file in the
+// scheduler's state folder, which only root can write to. Without such a folder nothing is remembered.
 class SilenceRecord
 {
 public:
@@ -108,8 +108,8 @@ private:
     std::string m_path;
 };
 
-// The job's document as a file that its user may open: the scheduler's own file, never what a link leads to,
-// given to the user, or a copy of what a filter writes. None with errno.
+// Opens the job's document so that its user may read it: the scheduler's own file, never through a link,
+// whose owner becomes the user, or a copy of the output of a filter. None with errno.
 platform::UniqueFd openJob(const char *path, const backend::Caller &caller)
 {
     if (path) {
@@ -133,12 +133,12 @@ platform::UniqueFd openJob(const char *path, const backend::Caller &caller)
     return copy && ::fchown(copy.get(), caller.uid, caller.gid) == 0 ? std::move(copy) : platform::UniqueFd();
 }
 
-struct Words // of the job, as cupsd hands them over
+struct Words // arguments of the job from cupsd
 {
     const char *title, *copies, *options;
 };
 
-// The second process: the user's from its first step. The exit code.
+// Runs the second process, which is the user's from the beginning. Returns its exit code.
 int deliver(const backend::Caller &caller, const platform::UniqueFd &document, const Words &words,
             std::chrono::seconds wait, pid_t parent)
 {
@@ -159,8 +159,8 @@ int deliver(const backend::Caller &caller, const platform::UniqueFd &document, c
     return silentCode;
 }
 
-// Users may stop the process that acts for them, and what answers on their bus need not be one: neither keeps
-// the queue from everybody else for longer than this takes.
+// Waits for the second process. Users may stop the process that runs on their behalf, and any program may
+// answer on their bus; neither blocks the queue for others beyond this time.
 Ending outcomeOf(pid_t process, std::chrono::seconds longest, const SilenceRecord &silence)
 {
     const platform::UniqueFd ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
@@ -175,7 +175,7 @@ Ending outcomeOf(pid_t process, std::chrono::seconds longest, const SilenceRecor
         return Taken;
     }
     if (hasEnded && WEXITSTATUS(status) == Hold)
-        return Hold; // it has said why
+        return Hold; // it has reported the reason
     silence.set();
     return hold("The dialog did not open: the user's desktop session did not answer.");
 }
@@ -217,6 +217,6 @@ int main(int argc, char **argv)
         return 1;
     }
     std::signal(SIGPIPE, SIG_IGN);
-    ::close_range(3, ~0U, 0); // channels of the scheduler's
+    ::close_range(3, ~0U, 0); // file descriptors of the scheduler
     return run({argv[3], argv[4], argv[5]}, argc == 7 ? argv[6] : nullptr);
 }

@@ -28,7 +28,7 @@ using MessagePointer = std::unique_ptr<sd_bus_message, MessageDeleter>;
 constexpr const char *service = "org.kelmar.Print1";
 constexpr const char *object = "/org/kelmar/Print1";
 
-// The session's own socket, and no link to another.
+// Whether the socket is the session's own, and not a link to another.
 bool hasSession(uid_t uid, const std::string &folder, const std::string &socket)
 {
     struct stat facts = {};
@@ -62,10 +62,11 @@ MessagePointer openDocument(sd_bus *bus, const Handover &handover)
     return filled ? std::move(message) : nullptr;
 }
 
-// The texts of the service stay out of the scheduler's messages, which other people read.
+// Reasons for D-Bus errors. The service's own texts are not included in the scheduler's messages, which other
+// users can read.
 struct Reason
 {
-    const char *name; // of a D-Bus error
+    const char *name; // name of a D-Bus error
     const char *text;
 };
 constexpr std::array<Reason, 5> reasons = {{
@@ -96,10 +97,10 @@ Delivery handOver(uid_t uid, const Handover &handover, std::chrono::seconds conn
 {
     const std::string folder = "/run/user/" + std::to_string(uid);
     const std::string socket = folder + "/bus";
-    constexpr std::chrono::seconds grace(1); // the bus library keeps the time itself
+    constexpr std::chrono::seconds grace(1); // the bus library measures the time itself
     ::alarm(static_cast<unsigned>(connecting.count()));
     const BusPointer bus = hasSession(uid, folder, socket) ? connect(socket) : nullptr;
-    const char *name = nullptr; // known when the bus has answered
+    const char *name = nullptr; // set when the bus has answered
     if (!bus || sd_bus_get_unique_name(bus.get(), &name) < 0) {
         *error = "The dialog cannot be opened: the user has no desktop session on this computer.";
         return Delivery::Refused;

@@ -9,7 +9,7 @@
 
 namespace backend {
 
-// A document and what its application said about it, as bytes that have not been validated.
+// A document and the application's data for it, as bytes that have not been validated.
 struct Handover
 {
     int document = -1; // a descriptor; borrowed
@@ -19,15 +19,15 @@ struct Handover
 };
 
 enum class Delivery {
-    Taken,   // the service has the document
-    Refused, // by an answer, or there is no session
-    Silent   // nothing on the user's side has answered
+    Taken,   // the service has accepted the document
+    Refused, // refused by an answer, or there is no session
+    Silent   // nothing in the user's session responded
 };
 
-// Hands a document to the print service on the bus of the user that this process has become. Waits at most
-// `connecting` for the bus and then `answering` for the service, which answers once its dialog is visible or
-// once it keeps the document itself. Sets an error, one sentence, unless the document was taken. The process
-// ends by SIGALRM when the bus exceeds its time.
+// Passes a document to the print service on the bus of the user that this process has become. Waits at most
+// `connecting` for the bus and then `answering` for the service, which answers when its dialog is visible or
+// when it has stored the document. Sets an error of one sentence unless the document was accepted. If the bus
+// exceeds its time, SIGALRM ends the process.
 Delivery handOver(uid_t uid, const Handover &handover, std::chrono::seconds connecting,
                   std::chrono::seconds answering, std::string *error);
 

@@ -26,7 +26,7 @@ void mark(const QString &name, const QString &value, DialogSession *session)
         return;
     if (ppd->hasOption(name)) {
         if (!ppd->isInstallable(name) && session->markChoice(name, value) && session->isSecret(name)) {
-            // A digit is given even where it is the printer's default.
+            // A digit is set even if it is the printer's default.
             ChosenSetting digit{name, value};
             digit.isSecret = true;
             session->noteChosen(digit);
@@ -65,7 +65,7 @@ void beginWith(const StartingSettings &start, DialogSession *session)
 {
     GeneralSettings &general = session->general();
     general.copies = start.copies;
-    if (start.copies > 1) // with one copy the value is a default of the application, not a request
+    if (start.copies > 1) // for one copy the value is a default of the application, not a request
         general.collate = start.collate.value_or(general.collate);
     general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
     if (start.currentPage && general.offersCurrentPage)

@@ -8,19 +8,19 @@
 
 namespace host {
 
-// Where a dialog begins that a printed document opens: the job options that its application chose.
+// The initial settings of a dialog for a printed document, from the application's job options.
 StartingSettings startingSettings(const NamedValues &jobOptions, int copies);
 
-// Sets what an application wants on a fresh session. What the printer does not have is passed over; what
-// cannot be seen in the dialog becomes a notice.
+// Applies an application's settings to a new session. Settings that the printer does not have are ignored;
+// settings that the dialog does not show become a notice.
 void beginWith(const StartingSettings &start, DialogSession *session);
 
-// What an application may know of a session's settings: nothing that could be part of a code, and nothing of
-// a panel's own.
+// The settings of a session that are returned to the application: nothing that may be part of a code, and no
+// settings of panels.
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats);
-// The options of a job whose pages an application makes as they were chosen: all of them are printed.
+// The options of a job whose selected pages are produced by an application: all of them are printed.
 QList<JobOption> jobOptionsForMadePages(DialogSession *session);
-// The paper that a session has chosen; without measures where the printer has no PPD.
+// The paper selected in a session; without dimensions if the printer has no PPD.
 Paper paperOf(const DialogSession &session);
 
 } // namespace host

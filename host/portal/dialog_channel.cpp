@@ -20,7 +20,7 @@ constexpr qsizetype longestRequest = 16 * 1024 * 1024; // bytes
 DialogChannel::DialogChannel() : m_answers(platform::UniqueFd::duplicate(STDOUT_FILENO))
 {
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
-    std::signal(SIGPIPE, SIG_IGN); // the service may go first
+    std::signal(SIGPIPE, SIG_IGN); // the service may exit first
 }
 
 std::optional<QJsonObject> DialogChannel::readRequest()
@@ -39,7 +39,7 @@ std::optional<QJsonObject> DialogChannel::readRequest()
     return document.isObject() ? std::optional(document.object()) : std::nullopt;
 }
 
-// After the request comes at most the word that the caller has gone.
+// After the request, the input only signals that the caller has gone.
 bool DialogChannel::isClosed() const
 {
     pollfd input = {STDIN_FILENO, POLLIN, 0};

@@ -14,25 +14,25 @@ class QSocketNotifier;
 
 namespace host {
 
-// How a process that opens one dialog for the service talks to it: a request comes on the standard input,
-// answers go to the standard output, one JSON object a line. Takes both over for the life of the process:
-// whatever else writes to the standard output writes to the standard error from then on.
+// The connection between the service and a process that opens one dialog: the request arrives on the standard
+// input, answers are written to the standard output, one JSON object per line. Takes over both streams for
+// the lifetime of the process; other output to the standard output is redirected to the standard error.
 class DialogChannel : public QObject
 {
     Q_OBJECT
 public:
     DialogChannel();
 
-    // Waits for the request. Null when none comes, or it is none.
+    // Waits for the request. Null if there is none, or it is malformed.
     std::optional<QJsonObject> readRequest();
-    // Whether the caller has gone already. Before watch().
+    // Whether the caller has already gone. Call before watch().
     bool isClosed() const;
-    // The end of the input is looked for from now on.
+    // Starts watching for the end of the input.
     void watch();
     void write(const QJsonObject &answer);
 
 Q_SIGNALS:
-    // The caller does not want the dialog any more, or the service is gone. Comes after abandoned().
+    // The caller no longer wants the dialog, or the service has exited. Follows abandoned().
     void closed();
     // The application has left the bus.
     void abandoned();

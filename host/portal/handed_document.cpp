@@ -21,11 +21,11 @@ struct PortalText
     Q_DECLARE_TR_FUNCTIONS(PortalText)
 };
 
-// An application that writes without end must not fill the disk before the user has agreed to anything.
+// An application that writes endlessly must not fill the disk before the user has agreed to anything.
 constexpr off_t longestStream = off_t{256} * 1024 * 1024;
 
-// How long an application may leave its document unfinished: without another byte, and one byte after the
-// other. Each document that is not finished keeps one of the service's places.
+// How long an application may leave its document incomplete: without any data, and in total. Each incomplete
+// document counts against the limits of the service.
 constexpr platform::Patience patience{std::chrono::minutes(1), std::chrono::minutes(10)};
 
 // Not the folder for temporary files, which is often in memory.
@@ -48,7 +48,7 @@ std::string pathOf(int fd)
     return "/proc/self/fd/" + std::to_string(fd);
 }
 
-// A description of one's own for the same file, so that its position is one's own, too.
+// A separate open file description, so that its position is independent.
 platform::UniqueFd reopened(int fd)
 {
     return platform::UniqueFd(::open(pathOf(fd).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));

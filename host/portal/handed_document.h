@@ -10,24 +10,24 @@
 
 namespace host {
 
-// Opens the document that another program has handed over as the descriptor `given`, for reading from its
-// beginning. A file is not copied: it stays the other program's, and takes no space of the user's. What can
-// be read once only is copied into the cache folder, or /var/tmp, and may have 256 MB. Blocks for at most ten
-// minutes. None with an error, a sentence about "it", when the document is empty, larger than 2 GB or not
-// readable.
+// Opens a document that another program has passed as the descriptor `given`, for reading from its beginning.
+// A file is not copied: it belongs to the other program and uses no space of the user's. A stream is copied
+// into the cache folder, or /var/tmp, up to 256 MB. Blocks for at most ten minutes. None with an error, a
+// sentence about "it", if the document is empty, larger than 2 GB or not readable.
 platform::UniqueFd openHandedDocument(const platform::UniqueFd &given, PrintError *error);
 
-// Tells when a document is written to, which stays its application's: the user has then seen another one than
-// would be printed. Writes through memory that an application shares with its file are not noticed.
+// Detects that a document, which still belongs to its application, is written to: the user has then seen a
+// different document than would be printed. Writes through memory that an application shares with its file
+// are not detected.
 class DocumentWatch : public QObject
 {
     Q_OBJECT
 public:
-    // `document` is a descriptor, which is borrowed; -1 for none.
+    // `document` is a borrowed descriptor; -1 for none.
     explicit DocumentWatch(int document);
 
 Q_SIGNALS:
-    // Comes once.
+    // Emitted once.
     void changed();
 
 private:

@@ -39,7 +39,7 @@ QString textOf(const QJsonObject &object, const char *name)
     return object.value(QLatin1String(name)).toString();
 }
 
-// GTK marks the key of a label with an underscore.
+// GTK marks the access key of a label with an underscore.
 QString buttonText(QString gtkLabel)
 {
     gtkLabel.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -60,12 +60,12 @@ private:
     QString kind() const { return textOf(m_request, "kind"); }
     bool takeDocument(PrintError *error);
     QString documentPath() const;
-    QString baseName() const // of the file that the application would write
+    QString baseName() const // of the file that the application suggests
     {
         return textOf(m_request.value(QLatin1String("settings")).toObject(), "output-basename");
     }
     QString jobTitle() const;
-    QString shownTitle() const // for the user; never empty
+    QString shownTitle() const // for display; never empty
     {
         return jobTitle().isEmpty() ? PortalText::tr("Document") : jobTitle();
     }
@@ -80,7 +80,7 @@ private:
     QJsonObject chosen(const PrintWindow &window) const;
     int answer(const QJsonObject &answer);
     int answer(Response response) { return answer({{QStringLiteral("response"), response}}); }
-    // Answers "other" for a reason that the service knows.
+    // Answers "other" with a reason known to the service.
     int fail(const char *reason)
     {
         return answer(
@@ -95,7 +95,7 @@ private:
     platform::UniqueFd m_document;
     QString m_parentTitle; // of the application's window; may be empty
     QStringList m_differences;
-    std::optional<HeldSignals> m_signals; // while a document is sent and what became of it is answered
+    std::optional<HeldSignals> m_signals; // while a document is sent and its outcome is answered
 };
 
 int RequestRun::run()
@@ -137,8 +137,8 @@ QString RequestRun::documentPath() const
     return QStringLiteral("/proc/self/fd/%1").arg(m_document.get());
 }
 
-// GTK gives "Print" as the title of every dialog and document. What it would name a file is better, or what
-// its window shows.
+// GTK uses "Print" as the title of every dialog and document. The suggested file name or the title of the
+// window is better.
 QString RequestRun::jobTitle() const
 {
     const QString base = baseName();
@@ -148,7 +148,7 @@ QString RequestRun::jobTitle() const
     return isOfDialog && !m_parentTitle.isEmpty() ? m_parentTitle : textOf(m_request, "title");
 }
 
-// A request for settings gives the title of the dialog, a request with a document that of the document.
+// A request for settings contains the title of the dialog, a request with a document that of the document.
 QString RequestRun::windowTitle() const
 {
     const QString title = jobTitle();
@@ -167,7 +167,7 @@ StartingSettings RequestRun::start() const
                             m_request.value(QLatin1String("pageSetup")).toObject());
 }
 
-// The application does not look at what becomes of its document, so the user is told here.
+// The application ignores the outcome of its document, so the user is informed here.
 int RequestRun::submit()
 {
     m_signals.emplace();
@@ -207,7 +207,7 @@ bool RequestRun::send(const StoredJob &job, PrintError *error)
 void RequestRun::tell(const QString &text, const QString &details)
 {
     qWarning("%s %s", qPrintable(text), qPrintable(details));
-    m_signals.reset(); // a box does not keep the desktop from ending
+    m_signals.reset(); // a message box does not prevent the end of the session
     if (!m_hasDisplay)
         return;
     QMessageBox box(QMessageBox::Warning, PortalText::tr("Print"), text + QStringLiteral("\n\n") + details);
@@ -215,7 +215,7 @@ void RequestRun::tell(const QString &text, const QString &details)
     box.exec();
 }
 
-// The box closes by itself: the process keeps a place in the service.
+// The box closes by itself, since the process counts against the limits of the service.
 void RequestRun::tellAbandoned()
 {
     constexpr std::chrono::seconds shown(10);
@@ -232,7 +232,7 @@ PrintTask RequestRun::task(const StartingSettings &start)
 {
     PrintTask task;
     task.printer = start.printer;
-    task.printerMayBeGone = true; // since the application has heard of it
+    task.printerMayBeGone = true; // since the application received it
     if (m_document)
         task.files = {documentPath()};
     task.title = shownTitle();
@@ -278,7 +278,7 @@ int RequestRun::openDialog()
         window.finishLater();
         m_channel.watch();
     });
-    if (kind() == QLatin1String("choose")) { // who owns a document is seen to the end
+    if (kind() == QLatin1String("choose")) { // a dialog that owns a document stays open
         QObject::connect(&m_channel, &DialogChannel::closed, &window, &PrintWindow::reject);
     }
     bool isAbandoned = false;
@@ -291,13 +291,13 @@ int RequestRun::openDialog()
     QObject::connect(&watch, &DocumentWatch::changed, &window, [&] {
         isChanged = !window.submission();
         if (isChanged)
-            window.close(); // and a job that is being sent is cancelled
+            window.close(); // and a job that is being sent is canceled
     });
-    QApplication::setQuitOnLastWindowClosed(false); // a job may still be on its way back
+    QApplication::setQuitOnLastWindowClosed(false); // the response to a job may still be outstanding
     QObject::connect(&window, &QDialog::finished, qApp, &QApplication::quit);
     if (!window.isDismissed()) {
         window.show();
-        window.update(); // it may have been shown, and painted, while a panel was waiting
+        window.update(); // it may have been shown and painted while a panel was waiting
         QApplication::exec();
     }
     m_system.setLoginPrompt({});

@@ -11,17 +11,17 @@
 
 namespace host {
 
-// What the user has decided about a document that comes later. Holds codes: it goes to the service and comes
-// back from there, and not to the application. A value.
+// A confirmed job whose document arrives later. Contains codes: it is stored by the service and returned from
+// there, and never sent to the application. A value.
 struct StoredJob
 {
     QString printer; // destination name
-    QString title;   // that was decided; empty for the document's own
+    QString title;   // chosen title; empty for the document's own
     QList<JobOption> options;
-    QString dialogTitle = {}; // of the dialog; some applications call each document so, too
+    QString dialogTitle = {}; // title of the dialog, which some applications also use for each document
     QString windowTitle = {}; // of the application's window; may be empty
 
-    // What the job is called whose document the application calls `given`. Empty when there is no name.
+    // The title of a job whose document the application calls `given`. Empty if there is none.
     QString titleFor(const QString &given) const;
 
     static StoredJob fromJson(const QJsonObject &object);

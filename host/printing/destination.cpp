@@ -17,7 +17,8 @@ constexpr qsizetype mostRecent = 5;
 
 } // namespace
 
-// The name that a printer announces: of "ipps://Office%20Printer._ipps._tcp.local/", all before the service.
+// The name that a printer announces: in "ipps://Office%20Printer._ipps._tcp.local/", the part before the
+// service.
 static QString announcedName(const QString &deviceUri)
 {
     const QString host = deviceUri.section(QStringLiteral("://"), 1).section(QLatin1Char('/'), 0, 0);

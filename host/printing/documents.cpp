@@ -35,7 +35,7 @@ struct DocumentText
 constexpr qint64 spoolBlock = 64 * 1024;
 constexpr int betweenStops = 50;       // milliseconds
 constexpr int writerPatience = 5'000;  // milliseconds for a program to open the other end of a named pipe
-constexpr qint64 headSize = 64 * 1024; // bytes that tell what a document is
+constexpr qint64 headSize = 64 * 1024; // bytes used to determine the type of a document
 
 bool isSvg(const QByteArray &head)
 {
@@ -43,7 +43,7 @@ bool isSvg(const QByteArray &head)
     return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
 }
 
-// Picture formats whose files look like text.
+// Image formats whose files look like text.
 bool isDrawingInText(const QMimeType &type, const QByteArray &head)
 {
     return (type.name().startsWith(QLatin1String("image/")) && type.inherits(QStringLiteral("text/plain"))) ||
@@ -56,7 +56,7 @@ void describeFormat(Document *document, const QByteArray &head)
     document->format = type.name();
     document->formatText = type.comment();
     document->otherFormats = type.aliases() + type.allAncestors();
-    document->otherFormats.removeAll(QStringLiteral("application/octet-stream")); // says nothing
+    document->otherFormats.removeAll(QStringLiteral("application/octet-stream")); // carries no information
     document->isDrawingInText = isDrawingInText(type, head);
     if (document->isDrawingInText && !type.name().startsWith(QLatin1String("image/"))) {
         const QMimeType svg = QMimeDatabase().mimeTypeForName(QStringLiteral("image/svg+xml"));
@@ -71,20 +71,20 @@ std::optional<struct stat> statusOf(const QString &path)
     return ::stat(fileNameToBytes(path).constData(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
-// Qt has no words for a folder that is not there.
+// Qt has no localised message for a missing folder.
 QString temporaryFolder()
 {
     const QString folder = QDir::tempPath();
     return folder.isEmpty() ? qEnvironmentVariable("TMPDIR") : folder;
 }
 
-// A file without a name in the folder for temporary files; -1 with errno set.
+// An unlinked file in the folder for temporary files; -1 with errno set.
 int namelessFile(const QByteArray &folder)
 {
     const int fd = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
     if (fd >= 0)
         return fd;
-    // Not every file system knows them.
+    // Some file systems do not support unnamed files.
     QByteArray path = folder + "/kelmar-print-XXXXXX";
     const int named = ::mkostemp(path.data(), O_CLOEXEC);
     if (named >= 0)
@@ -99,7 +99,7 @@ PrintError spoolProblem(const QString &reason)
                 .arg(temporaryFolder(), reason)};
 }
 
-// Until something, or the end, can be read, or the time is over; false when that is not wanted any more.
+// Waits until data or end of file can be read, or the deadline has passed; false if `stop` returns true.
 bool waitForMore(int fd, const QDeadlineTimer &deadline, const StopWanted &stop)
 {
     pollfd more = {fd, POLLIN, 0};
@@ -108,12 +108,12 @@ bool waitForMore(int fd, const QDeadlineTimer &deadline, const StopWanted &stop)
             return false;
         const int ready = ::poll(&more, 1, betweenStops);
         if (ready > 0 || (ready < 0 && errno != EINTR))
-            break; // a read tells what is wrong
+            break; // reading reports the error
     }
     return true;
 }
 
-// An open file by a name that anyone in this program can open again.
+// A path through which this process can open an open file again.
 QString pathOfHandle(int fd)
 {
     return QStringLiteral("/proc/self/fd/%1").arg(fd);
@@ -124,7 +124,7 @@ QString nameOf(const QString &path)
     return readableFileName(path.section(QLatin1Char('/'), -1));
 }
 
-// The kernel makes some files when they are read, as in /proc, and gives their size as 0.
+// The kernel generates some files on reading, as in /proc, and reports their size as 0.
 bool isMadeWhenRead(const QString &path, const struct stat &status)
 {
     char byte = 0;
@@ -157,7 +157,7 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
         *error = {Kind::FileMissing, DocumentText::tr("“%1” is a folder, not a document.").arg(shown)};
         return std::nullopt;
     }
-    const bool isRead = isStream(path); // once
+    const bool isRead = isStream(path); // can be read only once
     if (status && !S_ISREG(status->st_mode) && !isRead) {
         *error = {Kind::FileMissing, DocumentText::tr("“%1” is a device, not a document.").arg(shown)};
         return std::nullopt;
@@ -185,13 +185,12 @@ std::optional<Document> openDocument(const QString &path, PrintError *error)
     return document;
 }
 
-// What comes from a pipe, in a file that has no name, and so is gone with this whatever becomes of the
-// program.
+// The data of a stream in an unlinked file, which is freed with this object however the program ends.
 struct DocumentList::Spool
 {
     QString path;
     QFile copy;
-    platform::UniqueFd source; // stays open while there is more to come; none for the standard input
+    platform::UniqueFd source; // open while there may be more data; none for the standard input
     bool isWhole = false;
 
     bool begin(const QString &from, PrintError *error);
@@ -201,7 +200,7 @@ private:
     bool keep(const char *data, qint64 count, PrintError *error);
 };
 
-// Opening a pipe does not wait for its writer.
+// Does not wait for a writer when it opens a pipe.
 bool DocumentList::Spool::begin(const QString &from, PrintError *error)
 {
     path = from;
@@ -222,7 +221,7 @@ bool DocumentList::Spool::begin(const QString &from, PrintError *error)
     return false;
 }
 
-// A full disk takes a part first, and gives its reason with the rest.
+// A full disk accepts a part of the data first, and reports the error with the rest.
 bool DocumentList::Spool::keep(const char *data, qint64 count, PrintError *error)
 {
     for (qint64 done = 0; done < count;) {
@@ -236,13 +235,14 @@ bool DocumentList::Spool::keep(const char *data, qint64 count, PrintError *error
     return true;
 }
 
-// False with an error when nothing can be read, not all of it can be written, or it was stopped.
+// False with an error if nothing can be read, the data cannot be written completely, or `stop` returned true.
 bool DocumentList::Spool::take(QIODevice *input, PrintError *error, const StopWanted &stop)
 {
     const int fd = source ? source.get() : STDIN_FILENO;
     QByteArray block(spoolBlock, Qt::Uninitialized);
     while (true) {
-        // A pipe that no program has opened for writing does not become readable; a read finds its end.
+        // A pipe that no program has opened for writing does not become readable; reading from it returns end
+        // of file.
         const QDeadlineTimer deadline(source ? writerPatience : -1);
         if (!input && !waitForMore(fd, deadline, stop)) {
             *error = {PrintError::Kind::Cancelled, DocumentText::tr("Printing was canceled.")};
@@ -298,7 +298,7 @@ QList<Document> DocumentList::documents() const
     return m_documents;
 }
 
-// What is read once: from the first call on, the copy, which goes on where a call was stopped.
+// A stream is read once: all later calls use the copy, which continues where a previous call was stopped.
 std::optional<Document> DocumentList::openOne(const QString &path, QIODevice *input, PrintError *error,
                                               const StopWanted &stop)
 {

@@ -25,7 +25,7 @@ EarlyPrinter::EarlyPrinter(const QString &name)
             Answer answer{name.isEmpty() ? RememberedPrinter().name() : name, {}};
             answer.destination = system.destination(answer.name, &ignored);
             if (answer.destination && !answer.destination->optionsProblem.isNull())
-                answer.destination.reset(); // which is to be told in the user's language
+                answer.destination.reset(); // to be reported later in the user's language
             const auto destination = answer.destination;
             promises->answer.set_value(std::move(answer));
             auto ppd = destination ? system.ppd(*destination, &ignored) : nullptr;

@@ -13,10 +13,10 @@ namespace host {
 
 namespace {
 
-constexpr char16_t firstEscape = 0xDC80; // stands for the byte 0x80
+constexpr char16_t firstEscape = 0xDC80; // represents byte 0x80
 constexpr char16_t lastEscape = 0xDCFF;
 
-// A surrogate of the range that no high one goes before.
+// A low surrogate of the range, without a preceding high surrogate.
 bool isEscape(const QString &name, qsizetype i)
 {
     const char16_t unit = name.at(i).unicode();

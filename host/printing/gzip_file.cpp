@@ -34,7 +34,7 @@ qint64 GzipFile::readData(char *data, qint64 size)
     const int count = gzread(m_file.get(), data, static_cast<unsigned>(std::min<qint64>(size, INT_MAX)));
     int problem = Z_OK;
     const char *words = gzerror(m_file.get(), &problem);
-    // A file that is cut gives what it has first.
+    // A truncated file first returns the data before its end.
     m_hasFailed = count < 0 || (count < size && problem != Z_OK && problem != Z_STREAM_END);
     if (m_hasFailed)
         setErrorString(QString::fromLocal8Bit(words));

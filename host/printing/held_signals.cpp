@@ -32,7 +32,7 @@ HeldSignals::HeldSignals()
     pending = 0;
     struct sigaction action = {};
     action.sa_handler = note;
-    action.sa_flags = SA_RESETHAND; // and no restart: a read from a terminal ends
+    action.sa_flags = SA_RESETHAND; // without restart, so that reading from a terminal ends
     for (size_t i = 0; i < held.size(); ++i) {
         sigaction(held[i], nullptr, &before[i]);
         if (before[i].sa_handler != SIG_IGN)

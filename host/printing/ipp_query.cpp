@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-// Enums as numbers, which is how libcups lists them among a destination's options.
+// Enums as numbers, as libcups lists them among a destination's options.
 QString enumText(ipp_attribute_t *attribute)
 {
     QStringList numbers;
@@ -19,8 +19,8 @@ QString enumText(ipp_attribute_t *attribute)
     return numbers.join(QLatin1Char(','));
 }
 
-// The administrator's defaults come before those that the server makes out of the PPD under the same name,
-// and they alone are put into jobs.
+// The administrator's defaults precede those that the server derives from the PPD under the same name. Only
+// the former are added to jobs.
 void readDefaults(ipp_t *answer, QueueFacts *facts)
 {
     static const QLatin1String suffix("-default");
@@ -34,7 +34,7 @@ void readDefaults(ipp_t *answer, QueueFacts *facts)
     }
 }
 
-// What one attribute says about a queue.
+// Reads one attribute of a queue.
 void readQueue(ipp_attribute_t *attribute, Destination *queue)
 {
     if (ippGetGroupTag(attribute) != IPP_TAG_PRINTER)
@@ -83,7 +83,7 @@ QString valueText(ipp_attribute_t *attribute)
 {
     if (ippGetValueTag(attribute) == IPP_TAG_ENUM)
         return enumText(attribute);
-    // The form of several values escapes blanks and quotes.
+    // The textual form of several values escapes blanks and quotes.
     const char *single = ippGetCount(attribute) == 1 ? ippGetString(attribute, 0, nullptr) : nullptr;
     if (single)
         return QString::fromUtf8(single);
@@ -181,7 +181,7 @@ std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintErr
         if (ippGetName(a))
             readQueue(a, &queue);
         else
-            take(); // the next printer
+            take(); // next printer
     }
     take();
     return queues;

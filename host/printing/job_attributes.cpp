@@ -19,7 +19,7 @@ struct AttributesText
     Q_DECLARE_TR_FUNCTIONS(AttributesText)
 };
 
-// Banners are two, before and behind; the server writes down the second one also where there is none.
+// There are two banners, before and after the job; the server also stores the second one if there is none.
 QString meaning(const QByteArray &name, ipp_attribute_t *attribute)
 {
     QString text = valueText(attribute);
@@ -53,8 +53,8 @@ void addJobOption(ipp_t *request, const JobOption &option)
         cupsEncodeOptions2(request, list.count(), list.options(), IPP_TAG_JOB);
         return;
     }
-    // libcups would make a boolean of "True", which reaches filters without its value, and a collection of
-    // braces.
+    // libcups would convert "True" to a boolean, which reaches filters without its value, and text in braces
+    // to a collection.
     const ipp_tag_t type = value.size() > maxIppName ? IPP_TAG_TEXT : IPP_TAG_NAME;
     ippAddString(request, IPP_TAG_JOB, type, name.constData(), nullptr, value.constData());
 }

@@ -42,7 +42,7 @@ void JobFollower::askSoon()
 {
     if (!m_query)
         return;
-    ++m_round; // what is under way was asked before
+    ++m_round; // discards the running query
     m_asked = 0;
     m_next.start(std::chrono::milliseconds(0));
 }

@@ -18,7 +18,7 @@ namespace host {
 namespace {
 
 constexpr unsigned long betweenTries = 200; // milliseconds
-// How long a server is given to say what became of a job that the user has given up.
+// Time in which a server must report the outcome of a job that the user has canceled.
 constexpr std::chrono::seconds patienceAtTheEnd(3);
 
 JobStatus::State jobState(int ippState)
@@ -130,7 +130,7 @@ JobLookup::Result JobLookup::byId(int id, ServerConnection *server, JobOnServer 
 
 JobLookup::Result JobLookup::status(int id, ServerConnection *server, JobStatus *status)
 {
-    // What readStatus() reads.
+    // The attributes that readStatus() reads.
     static const std::array<const char *, 8> wanted = {"job-id",
                                                        "job-state",
                                                        "job-state-reasons",
@@ -177,7 +177,7 @@ JobLookup::Result JobLookup::search(const QByteArray &token, JobOnServer *job)
     ipp_t *answer = reply.message.get();
     for (ipp_attribute_t *a = ippFirstAttribute(answer); a; a = ippNextAttribute(answer)) {
         if (!ippGetName(a))
-            id = 0; // the next job
+            id = 0; // next job
         else if (qstrcmp(ippGetName(a), "job-id") == 0)
             id = ippGetInteger(a, 0);
         else if (qstrcmp(ippGetName(a), tokenAttribute) == 0 && token == ippGetString(a, 0, nullptr))

@@ -30,10 +30,10 @@ struct SubmitText
     Q_DECLARE_TR_FUNCTIONS(SubmitText)
 };
 
-constexpr char undecidedFormat[] = "application/octet-stream"; // the server looks for itself
+constexpr char undecidedFormat[] = "application/octet-stream"; // the server determines the type
 constexpr char rawFormat[] = "application/vnd.cups-raw";
 
-// No longer than the server takes, and no half character.
+// Limited to the length that the server accepts, without an incomplete character.
 QByteArray nameBytes(const QString &text)
 {
     return utf8Beginning(text, maxIppName);
@@ -45,7 +45,7 @@ PrintError unreadable(const QString &path, const QString &reason)
             SubmitText::tr("The file “%1” cannot be read: %2.").arg(readableFileName(path), reason)};
 }
 
-// What a print server would hand to the printer as it is, byte by byte: programs, archives, sound.
+// Formats that a print server would pass to the printer unchanged: programs, archives, sound.
 bool isNothingToPrint(const Document &document, const QStringList &supported)
 {
     const bool isPrintable = document.format.startsWith(QLatin1String("text/")) ||
@@ -134,8 +134,8 @@ std::optional<QByteArray> JobSubmitter::formatOf(const Document &document, Print
     if (!m_forcedFormat.isEmpty())
         return m_forcedFormat;
     const QStringList &supported = m_queue.formats;
-    // The server knows best what its filters take, and looks into documents. But it would take a drawing in
-    // XML for the text that it is written in.
+    // The server knows which types its filters accept, and determines the type itself. But it would treat a
+    // drawing in XML as plain text.
     const bool looks = supported.isEmpty() || supported.contains(QLatin1String(undecidedFormat));
     if (looks && !document.isDrawingInText && !isNothingToPrint(document, supported))
         return undecidedFormat;
@@ -165,11 +165,11 @@ bool JobSubmitter::createJob(PrintError *error)
         if (m_id > 0)
             return true;
         m_id = 0;
-        reply.fate = Reply::Fate::Lost; // a success that names no job is none
+        reply.fate = Reply::Fate::Lost; // a success without a job number is invalid
         reply.wasGarbled = true;
     }
     *error = reply.error(m_request.destination.displayName());
-    // Without documents it does not print, but should not stay in the queue either.
+    // A job without documents is not printed, but should not stay in the queue either.
     m_mayExist = reply.fate == Reply::Fate::Lost && reply.wasSentWhole;
     m_wasSilent = reply.wasSilent;
     return false;
@@ -197,7 +197,7 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
         *error = unreadable(document.path, problem);
         return false;
     }
-    // A server does not look for the type of what is compressed, or forgets that it is.
+    // A server does not determine the type of compressed data, or ignores that it is compressed.
     std::optional<GzipFile> contents;
     if (document.isCompressed)
         contents.emplace(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0));
@@ -225,13 +225,13 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
     return false;
 }
 
-// The server counts what it has; banners that it adds count too.
+// Compares with the size that the server reports, which includes banners that it has added.
 bool JobSubmitter::isWhole(const JobOnServer &job) const
 {
     return !job.isIncoming && (job.kilobytes < 0 || job.kilobytes >= m_kilobytes);
 }
 
-// Something went wrong after the job was made: finds out what the server has of it.
+// After an error, determines how much of the job the server has.
 Submission JobSubmitter::concluded(const PrintError &why)
 {
     limitLookup();
@@ -263,7 +263,7 @@ Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &fou
     JobOnServer after;
     const auto result = m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after);
     const bool isOver = result == JobLookup::Result::Found && after.status.isFinal();
-    // A server that broke down may have forgotten that it had begun to print what it had got whole.
+    // After a crash, a server may no longer know that it had started to print a complete job.
     if (m_mayBeWhole || (m_mayPrint && (!isOver || after.hasBegun)))
         return unknown(why);
     return confirmed || isOver || result == JobLookup::Result::NotThere ? rejected(why) : leftOver(why);
@@ -279,7 +279,7 @@ Submission JobSubmitter::withdrawn(const JobOnServer &found)
     const bool isThere =
         m_lookup.byToken(found.id, m_token, QDeadlineTimer(0), &after) == JobLookup::Result::Found;
     if (isThere && after.status.state == JobStatus::State::Completed)
-        return accepted(std::move(after)); // it was too late
+        return accepted(std::move(after)); // it was too late to cancel
     if (!confirmed && !(isThere && after.status.isFinal())) {
         why.message += QLatin1Char(' ') + SubmitText::tr("The job %1 could not be canceled.").arg(m_id);
         return unknown(why);
@@ -317,8 +317,8 @@ Submission JobSubmitter::leftOver(const PrintError &why) const
     return result;
 }
 
-// Every document has been taken. A server that breaks down right after that may forget the job; one that did
-// not may have printed it and keep no history, which only its connection tells apart.
+// All documents have been sent. A server that crashes right after that may lose the job; a server that is
+// still running may have printed it and keep no history. Only its connection distinguishes the two.
 Submission JobSubmitter::kept()
 {
     JobOnServer found;

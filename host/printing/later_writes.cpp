@@ -17,20 +17,20 @@ namespace {
 
 struct Writes
 {
-    std::mutex mutex; // guards all
+    std::mutex mutex; // guards all members
     std::condition_variable ended;
     std::deque<std::function<void()>> waiting;
     bool isWriting = false;
 };
 
-// Never destroyed: a write that hangs may outlast the program's static objects.
+// Never destroyed, since a blocked write may outlast the program's static objects.
 Writes &writes()
 {
     static auto *all = new Writes;
     return *all;
 }
 
-// One after the other: the last word on a setting is the one that was said last.
+// In order, so that the last value of a setting is the one that remains.
 void writeAll()
 {
     std::unique_lock lock(writes().mutex);

@@ -20,7 +20,7 @@ void speakDialogLanguage()
     const QByteArray language = dialogLanguages().value(0, QStringLiteral("en")).toLatin1().replace('-', '_');
     if (QByteArray(setlocale(LC_MESSAGES, nullptr)).startsWith(language))
         return;
-    // libcups looks at the environment only while the C locale is "C".
+    // libcups reads the environment only while the C locale is "C".
     setlocale(LC_MESSAGES, "C");
     qputenv("LC_MESSAGES", language + ".UTF-8");
 }

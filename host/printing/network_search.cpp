@@ -24,8 +24,8 @@ constexpr std::chrono::milliseconds betweenLooks(150);
 struct NetworkSearch::Finds
 {
     std::mutex mutex;
-    QList<Destination> untold; // guarded
-    bool isWanted = true;      // guarded
+    QList<Destination> untold; // guarded by the mutex
+    bool isWanted = true;      // guarded by the mutex
 };
 
 NetworkSearch::NetworkSearch(PrintSystem &system, QObject *parent) : QObject(parent), m_system(system)

@@ -17,7 +17,8 @@ struct OpenText
     Q_DECLARE_TR_FUNCTIONS(OpenText)
 };
 
-// Whether it is the printer that is missing. Any other problem meets the next one, too, and takes its time.
+// Whether the error is only about this printer. Any other problem would also affect the next printer, and
+// delay it again.
 bool lacksPrinter(const PrintError &error)
 {
     using Kind = PrintError::Kind;
@@ -27,7 +28,7 @@ bool lacksPrinter(const PrintError &error)
 
 std::optional<Destination> firstDestination(PrintSystem &system, const QString &usedLast, PrintError *error)
 {
-    // Where a preset has been deleted since, there is still its printer.
+    // If a preset has been deleted meanwhile, its printer is used.
     QStringList candidates(usedLast);
     candidates.append(splitDestinationName(usedLast).first);
     candidates.removeDuplicates();

@@ -32,14 +32,15 @@ OptionChoice PpdConstraints::side(constraints::Choice term) const
     return m_document->described(keyword, marked.isEmpty() ? text(engine.choiceName(term)) : marked);
 }
 
-// Most PPDs write a constraint once in each direction; some forbid each pair of many choices.
+// Most PPDs contain each constraint in both directions, and some forbid each pair of many choices; duplicates
+// are removed.
 QList<Conflict> PpdConstraints::conflicts()
 {
     m_rules.refresh();
     const auto broken = m_rules.brokenLines();
     if (broken.empty())
         return {};
-    QHash<QString, qsizetype> places; // of options in the PPD
+    QHash<QString, qsizetype> places; // positions of options in the PPD
     for (const QString &keyword : m_document->optionKeywords())
         places.insert(keyword, places.size());
     QHash<constraints::Choice, std::pair<qsizetype, OptionChoice>> sides;

@@ -28,9 +28,9 @@ struct PpdCustomText
 using Type = CustomParameter::Type;
 
 constexpr QLatin1String customPrefix("Custom.");
-constexpr double longest = 99999;      // points, where the PPD sets no limit
-constexpr double mostCharacters = 255; // where the PPD sets no limit
-constexpr double rounding = 0.01;      // of lengths, in points: limits are written with few places
+constexpr double longest = 99999;      // points, if the PPD has no limit
+constexpr double mostCharacters = 255; // if the PPD has no limit
+constexpr double rounding = 0.01;      // of lengths, in points, since limits have few decimal places
 
 QString number(double value)
 {
@@ -39,7 +39,7 @@ QString number(double value)
     return locale.toString(value, 'g', 7);
 }
 
-// A number and no more: "1.5", "-3", ".5".
+// Accepts only a number: "1.5", "-3", ".5".
 std::optional<double> decimal(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("\\A[+-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)\\z"));
@@ -48,7 +48,7 @@ std::optional<double> decimal(const QString &text)
     return text.toDouble();
 }
 
-// "100x200mm" as two lengths of one unit.
+// Parses "100x200mm" into two lengths with the same unit.
 std::optional<std::pair<CustomLength, CustomLength>> readSize(const QString &text)
 {
     const qsizetype cross = text.indexOf(QLatin1Char('x'), 0, Qt::CaseInsensitive);
@@ -71,7 +71,7 @@ bool isPlainText(const QString &text)
                        [](QChar c) { return c.category() != QChar::Other_Control; });
 }
 
-// For a list of several values, which ends at a brace and is parted at blanks.
+// Escapes a value for a list of several values, which is delimited by braces and blanks.
 QString escaped(const QString &value)
 {
     QString result;
@@ -103,7 +103,7 @@ Type typeOf(ppd_cptype_t type)
     }
 }
 
-// libcups keeps numbers in members of a union that go by the type.
+// libcups stores numbers in members of a union, depending on the type.
 double numberOf(const ppd_cparam_t &record, const ppd_cplimit_t &limit)
 {
     switch (record.type) {
@@ -269,7 +269,7 @@ std::optional<QString> CustomParameter::read(const QString &text) const
 {
     if (isNumeric()) {
         bool isNumber = false;
-        double number = 0; // set where it is one
+        double number = 0; // set if the value is a number
         if (type == Type::Length) {
             const auto length = CustomLength::read(text);
             isNumber = length.has_value();
@@ -327,7 +327,7 @@ std::optional<QStringList> CustomChoice::read(const QString &choice, const QStri
     QStringList values;
     for (qsizetype i = 0; i < given.size(); ++i) {
         const auto value = parameters.at(i).read(given.at(i));
-        // A brace would end the list, whatever stands before it.
+        // A brace would end the list, even if escaped.
         const bool breaksList = parameters.size() > 1 && !isSize && given.at(i).contains(u'}');
         if (!value || breaksList)
             return std::nullopt;
@@ -418,7 +418,7 @@ std::optional<CustomChoice> customChoiceOf(ppd_file_s *ppd, ppd_option_s *option
     if (!choice)
         return std::nullopt;
     CustomChoice custom;
-    // libcups fills in its own English word where the PPD has none.
+    // libcups uses an English text if the PPD has none.
     const QString text = QString::fromUtf8(choice->text);
     const bool isNamed = !text.isEmpty() && text != QLatin1String("Custom");
     custom.text = isNamed ? text : PpdCustomText::tr("Custom");

@@ -20,8 +20,7 @@
 #include <fcntl.h>
 #include <sys/mman.h>
 
-// The ppd_* files of this folder are the one place where the host meets the PPD interface that libcups means
-// to drop one day.
+// Only the ppd_* files of this folder use the deprecated PPD interface of libcups.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace host {
@@ -38,7 +37,7 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-// Options of a group and its subgroups, in order.
+// Visits the options of a group and its subgroups, in order.
 void forEachOption(ppd_group_t *groups, int count,
                    const std::function<void(const ppd_group_t &, ppd_option_t &)> &visit)
 {
@@ -54,8 +53,8 @@ const ppd_choice_t *marked(ppd_file_t *ppd, const QString &keyword)
     return ppdFindMarkedChoice(ppd, keyword.toUtf8().constData());
 }
 
-// Whether a PPD, unpacked where it is compressed, is beyond what a PPD can be. Only a compressed one has to
-// be read for that.
+// Whether a PPD exceeds the size limit after decompression. Only a compressed file has to be read to
+// determine this.
 bool isTooLarge(const QString &path)
 {
     QFile file(path);
@@ -78,7 +77,7 @@ PrintError tooLarge(const QString &name)
         PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(PpdDocument::mostBytes >> 20)};
 }
 
-// The order in which a dialog should mark choices again: the page size last wins over what regions did to it.
+// Options that change the page size when they are marked, so that the page size must be marked last.
 bool isShadowOfPageSize(const char *keyword)
 {
     return qstrcmp(keyword, "PageRegion") == 0;
@@ -129,7 +128,7 @@ std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *
     return adopt(ppdOpenFile(QFile::encodeName(path).constData()), name, error);
 }
 
-// libcups reads from files only; this one is in memory, so that no disk can cut it short.
+// libcups reads only from files; this one is in memory, so that a full disk cannot truncate it.
 std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, const QByteArray &content,
                                                   PrintError *error)
 {
@@ -185,7 +184,7 @@ QStringList PpdDocument::optionKeywords() const
     return keywords;
 }
 
-// The page region is the page size under another name.
+// The page region is another name of the page size.
 bool PpdDocument::hasOption(const QString &keyword) const
 {
     const ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
@@ -225,7 +224,7 @@ QString PpdDocument::markedChoice(const QString &keyword) const
         name == QLatin1String("Custom") ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
     if (!custom)
         return name;
-    // Panels mark in the record as well.
+    // Panels also mark choices in the record.
     const Written written = m_written.value(text(choice->option->keyword));
     return written.inRecord == custom->current() ? written.choice : custom->current();
 }
@@ -272,7 +271,7 @@ bool PpdDocument::mark(const QString &keyword, const QString &choice)
     return true;
 }
 
-// libcups marks whatever stands in a PPD's default, "Custom.foo" included.
+// libcups marks any default of a PPD, even "Custom.foo".
 void PpdDocument::replaceBadCustomDefaults()
 {
     for (const QString &keyword : optionKeywords()) {
@@ -287,7 +286,7 @@ void PpdDocument::replaceBadCustomDefaults()
 
 std::optional<PaperSize> PpdDocument::paperSize(const QString &choice) const
 {
-    constexpr double millimetres = 25.4 / 72; // a point
+    constexpr double millimetres = 25.4 / 72; // per point
     const ppd_size_t *size = ppdPageSize(m_ppd, choice.toUtf8().constData());
     if (!size)
         return std::nullopt;
@@ -355,7 +354,7 @@ std::optional<Resolution> PpdDocument::resolution(const QString &keep) const
     if (ppdConflicts(m_ppd) == 0)
         return std::nullopt;
     const QByteArray kept = keep.toUtf8();
-    // By libcups's own keyword, which is "Custom" for every choice with values.
+    // By the keyword in libcups, which is "Custom" for all custom choices.
     const auto keywordOf = [this](const QString &option) {
         const ppd_choice_t *choice = marked(m_ppd, option);
         return choice ? text(choice->choice) : QString();

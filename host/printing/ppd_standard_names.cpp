@@ -11,7 +11,7 @@
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-// The part of PpdDocument that turns job options of the print system into choices of the PPD.
+// The part of PpdDocument that converts standard job options to choices of the PPD.
 namespace host {
 
 namespace {
@@ -26,7 +26,7 @@ bool isSame(const QString &one, const QString &other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
-// The name of a size by its measures, such as "{x-dimension=21000 y-dimension=29700}"; null where there is
+// The name of a size with these dimensions, such as "{x-dimension=21000 y-dimension=29700}"; null if there is
 // none.
 QString sizeName(const char *collection)
 {
@@ -38,7 +38,7 @@ QString sizeName(const char *collection)
     return media ? QString::fromUtf8(media->pwg) : QString();
 }
 
-// The members of a "media-col", each as a value of "media"; empty where one says more than "media" can.
+// The members of a "media-col", each as a value of "media". Empty if "media" cannot represent one of them.
 QStringList mediaValues(const QString &collection)
 {
     const CupsOptionList members(collection.toUtf8().constData());
@@ -140,8 +140,8 @@ QMap<QString, QString> PpdDocument::choicesNamed(const QString &name, const QStr
     return {};
 }
 
-// libcups does not tell what it marks for a name. So each option that it may mark is set to another choice
-// first; what has moved from there was meant.
+// libcups does not report which options it marks for a name. Therefore each option that it may mark is first
+// set to another choice; options that then change were marked.
 QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const QString &value)
 {
     const QStringList options = optionsOfStandardName(name);
@@ -171,7 +171,7 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
         }
     };
     markedByValue();
-    // A value may be the decoy itself; from where things stood it is a change.
+    // The new choice may be the temporary choice itself; compared with the original marks it is a change.
     for (auto it = before.begin(); it != before.end(); ++it)
         mark(it.key(), it.value());
     decoys.clear();

@@ -18,7 +18,7 @@ namespace host {
 
 namespace {
 
-// Each text field of the record, always in the same order.
+// Visits all text fields of the record, always in the same order.
 void forEachText(ppd_group_t *groups, int count, const std::function<void(char *)> &visit)
 {
     for (int g = 0; g < count; ++g) {

@@ -23,24 +23,24 @@ struct PresetText
     Q_DECLARE_TR_FUNCTIONS(PresetText)
 };
 
-constexpr qsizetype longestLine = 8191; // bytes that libcups reads of one, without its end
+constexpr qsizetype longestLine = 8191; // maximum length that libcups reads, without the line end
 
 bool isSpace(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-// One line of the file; `keyword` is empty for one that names no destination.
+// One line of the file; `keyword` is empty if it has no destination.
 struct Line
 {
-    QByteArray keyword; // "Dest" or "Default", as it was written
+    QByteArray keyword; // "Dest" or "Default", in the original spelling
     QByteArray destination;
-    QByteArray options; // as they stand
-    QByteArray raw;     // with its end
+    QByteArray options; // unparsed
+    QByteArray raw;     // including the line end
 };
 
-// As libcups reads it: "\#" is the character, "#" alone begins a comment; of the others in the line nothing
-// is looked at.
+// Removes comments like libcups: "\#" is the character, "#" alone starts a comment; other escapes in the line
+// are not interpreted.
 QByteArray withoutComment(QByteArray text)
 {
     const qsizetype mark = text.indexOf('#');
@@ -91,7 +91,7 @@ QByteArray destinationName(const QString &queue, const QString &name)
     return fileNameToBytes(name.isEmpty() ? queue : queue + QLatin1Char('/') + name);
 }
 
-// Names of destinations differ by more than their case.
+// Names of destinations are compared exactly.
 bool isOf(const Line &line, const QByteArray &destination)
 {
     return !line.keyword.isEmpty() && line.destination.compare(destination, Qt::CaseInsensitive) == 0;
@@ -105,7 +105,7 @@ void readOptions(const QByteArray &text, QMap<QString, QString> *options)
                         QString::fromUtf8(list.options()[i].value));
 }
 
-// "\#" is read as the character wherever it stands: by the reader of lines or by that of options.
+// "\#" is always read as the character, either by the reader of lines or by that of options.
 QByteArray quoted(const QString &value)
 {
     QByteArray text;
@@ -120,7 +120,7 @@ QByteArray quoted(const QString &value)
     return isPlain ? text : '"' + text + '"';
 }
 
-// What libcups makes of a line, for comparing.
+// The options that libcups reads from a line, for comparison.
 std::optional<QMap<QString, QString>> readBack(const QByteArray &line)
 {
     if (line.contains('\n') || line.size() > longestLine)

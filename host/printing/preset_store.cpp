@@ -28,8 +28,8 @@ struct StoreText
     Q_DECLARE_TR_FUNCTIONS(StoreText)
 };
 
-constexpr int mostTries = 20;          // to write while other programs do, too
-constexpr int lockPatience = 5'000;    // milliseconds for the program that holds the lock
+constexpr int mostTries = 20;          // attempts to write while other programs do so as well
+constexpr int lockPatience = 5'000;    // milliseconds to wait for the holder of the lock
 constexpr unsigned long lockLook = 20; // milliseconds between tries
 constexpr qsizetype longestName = 100;
 constexpr qint64 largestFile = 4 * 1024 * 1024; // bytes
@@ -57,7 +57,7 @@ std::optional<QByteArray> contentOf(int fd)
 
 struct OpenFile
 {
-    platform::UniqueFd fd; // none where there is no file yet
+    platform::UniqueFd fd; // none if the file does not exist yet
     QByteArray content;
 };
 
@@ -77,14 +77,14 @@ std::optional<OpenFile> readFile(const QString &path, PrintError *error)
     return file;
 }
 
-// The file at the end of links, which stay.
+// The target of symbolic links, which are preserved.
 QString realPath(const QString &path)
 {
     const QString target = QFileInfo(path).canonicalFilePath();
     return target.isEmpty() ? path : target;
 }
 
-// For the user alone, as libcups makes it.
+// Accessible only by the user, as libcups creates it.
 bool makeFolderOf(const QString &path)
 {
     const QString folder = QFileInfo(path).path();
@@ -92,8 +92,8 @@ bool makeFolderOf(const QString &path)
     return ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0 || errno == EEXIST;
 }
 
-// Held by all who change this file with us, in every process. None, with errno, when another program keeps
-// it: it may be stopped.
+// A lock that all processes of this program hold while they change this file. None, with errno, if another
+// process does not release it, for example because it was stopped.
 class StoreLock
 {
 public:
@@ -120,8 +120,8 @@ private:
     platform::UniqueFd m_fd;
 };
 
-// In the folder of the file, with the rights and the owner of the earlier one; -1 and errno when it cannot be
-// written. Without an earlier one it gets `mode`, less the process's umask where it is the user's own.
+// A new file in the folder of the old one, with its mode and owner; -1 with errno if it cannot be written.
+// Without an old file it gets `mode`; if it is the user's own file, the process's umask applies.
 class NewFile
 {
 public:
@@ -135,7 +135,8 @@ public:
         if (m_fd && isReplacing && ::fchown(m_fd.get(), facts.st_uid, facts.st_gid) == 0)
             (void)::fchmod(m_fd.get(), facts.st_mode & 07777);
         else if (m_fd && isReplacing)
-            (void)::fchmod(m_fd.get(), facts.st_mode & 0777); // another user's file, which becomes ours
+            // another user's file, which now belongs to this user
+            (void)::fchmod(m_fd.get(), facts.st_mode & 0777);
         else if (m_fd && !isUsers)
             (void)::fchmod(m_fd.get(), mode);
     }
@@ -222,7 +223,7 @@ std::optional<QList<Preset>> PresetStore::list(const QString &queue, PrintError 
     return content ? std::optional(presetsIn(*content, queue)) : std::nullopt;
 }
 
-// Of all files, one after the other.
+// The contents of all files, in sequence.
 std::optional<QByteArray> PresetStore::contents(PrintError *error) const
 {
     QByteArray content;
@@ -246,7 +247,7 @@ QString PresetStore::fileOf(const QString &queue, const QString &name, PrintErro
         if (*error)
             return {};
         if (file && holds(file->content, queue, name)) {
-            // A user's change to a shared preset becomes the user's own preset.
+            // A user's change to a shared preset creates a preset of the user.
             const bool isMine = path == m_files.users || m_files.writesForEverybody;
             return isMine ? path : m_files.users;
         }
@@ -254,8 +255,8 @@ QString PresetStore::fileOf(const QString &queue, const QString &name, PrintErro
     return m_files.writesForEverybody ? m_files.everybodys : m_files.users;
 }
 
-// What another program writes while we do goes into the file that ours has just replaced, or over ours: both
-// are looked at, and the change is made again on top of it.
+// Another program may write at the same time, either to the file that has just been replaced, or over the new
+// file. Both are checked, and the change is repeated on the new content.
 bool PresetStore::change(const QString &path, const Change &change, PrintError *error) const
 {
     const QString target = realPath(path);
@@ -326,7 +327,7 @@ bool PresetStore::rename(const QString &queue, const QString &from, const QStrin
     const bool isOther = from.compare(to, Qt::CaseInsensitive) != 0;
     const auto renamed = [&](const QByteArray &content, PrintError *problem) -> std::optional<QByteArray> {
         if (!holds(content, queue, from)) {
-            // Ours may have been made, and then another program's file be read.
+            // The change may have been made before another program's file was read.
             if (holds(content, queue, to) && isOther)
                 return content;
             *problem = noSuchPreset(from);

@@ -19,7 +19,7 @@ namespace host {
 
 namespace {
 
-// How many looks at a job that has not begun go with one question about its printer.
+// Number of queries about a job that has not started for each query about its printer.
 constexpr int looksPerPrinter = 3;
 
 struct PrintSystemText
@@ -52,7 +52,7 @@ Destination fromCups(const cups_dest_t *record)
     return destination;
 }
 
-// Where the administrator has set another default than the PPD, libcups lists the one of the PPD.
+// If the administrator has set a default that differs from the PPD, libcups lists that of the PPD.
 void correctDefaults(const QueueFacts &facts, Destination *destination)
 {
     for (auto it = facts.overruledDefaults.begin(); it != facts.overruledDefaults.end(); ++it) {
@@ -62,7 +62,7 @@ void correctDefaults(const QueueFacts &facts, Destination *destination)
     }
 }
 
-// libcups makes a destination of any preset's name, and passes over a file that cannot be read.
+// libcups returns a destination for any preset name, and ignores a file that cannot be read.
 bool takePreset(Destination *destination, PrintError *error)
 {
     destination->serverOptions = destination->options.keys();
@@ -82,7 +82,8 @@ bool takePreset(Destination *destination, PrintError *error)
     for (const Preset &preset : *presets) {
         const bool isUsed =
             preset.name.isEmpty() || preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
-        for (const QString &name : isUsed ? preset.options.keys() : QStringList()) // libcups minds no case
+        // libcups ignores letter case
+        for (const QString &name : isUsed ? preset.options.keys() : QStringList())
             destination->serverOptions.removeIf(
                 [&name](const QString &known) { return known.compare(name, Qt::CaseInsensitive) == 0; });
     }
@@ -112,7 +113,7 @@ PrintError onlyOpensDialog(const Destination &destination)
             .arg(destination.displayName())};
 }
 
-// libcups does not tell a server that is away from one that has no printers.
+// libcups does not distinguish an unreachable server from a server without printers.
 std::optional<PrintError> problemOfServer(LoginKeeper *login)
 {
     IppPointer request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
@@ -129,12 +130,11 @@ std::optional<PrintError> problemOfServer(LoginKeeper *login)
 
 PrintSystem::~PrintSystem() = default;
 
-// The login that one call works with; it is given back when the call ends.
+// The login for one call; it is returned when the call ends.
 class CupsPrintSystem::Visit
 {
 public:
-    // A user who declines to log in is asked again for their own actions, not for what is asked over and
-    // over by a clock.
+    // A user who has declined to log in is prompted again after own actions, but not for periodic requests.
     enum class Cause { User, Clock };
     explicit Visit(CupsPrintSystem *system, Cause cause = Cause::User) : m_system(system)
     {
@@ -163,7 +163,7 @@ public:
     LoginKeeper *login() { return &m_login; }
     // The login that has been tried.
     const std::optional<Login> &tried() const { return m_login.given; }
-    // Of people to answer, when it began.
+    // The number of refusals when the call began.
     int refusals() const { return m_refusals; }
 
 private:
@@ -178,7 +178,7 @@ void CupsPrintSystem::setLoginPrompt(LoginPrompt prompt)
     m_login.prompt = std::move(prompt);
 }
 
-// An answer to one call, or a refusal, also serves the others that were under way.
+// An answer or a refusal applies to all calls that are in progress.
 std::optional<Login> CupsPrintSystem::askOnce(const Visit &visit, const LoginQuestion &question)
 {
     const std::lock_guard asking(m_promptMutex);
@@ -207,7 +207,7 @@ std::optional<QList<Destination>> CupsPrintSystem::destinations(PrintError *erro
     const auto queues = queryQueues(&server, error);
     if (!queues)
         return std::nullopt;
-    PrintError ignored; // without presets there are still the queues
+    PrintError ignored; // without presets the queues are still listed
     const auto presets = PresetStore().names(&ignored).value_or(PresetStore::Names());
     QList<Destination> list;
     for (const Destination &queue : *queues) {
@@ -229,8 +229,8 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     const auto [queue, instance] = splitDestinationName(name);
     Visit visit(this);
     ServerConnection server(visit.login());
-    // libcups would search the network for a queue that the server does not know, and not say that the server
-    // is away.
+    // libcups would search the network for a queue that the server does not have, and would not report that
+    // the server cannot be reached.
     std::optional<QueueFacts> facts;
     if (!name.isEmpty()) {
         Destination wanted;
@@ -273,8 +273,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
     return std::nullopt;
 }
 
-// A queue for a printer in the network is made when it is first used, and again when the server has taken it
-// away since.
+// A queue for a network printer is created on first use, and again if the server has removed it since.
 std::optional<QueueFacts> CupsPrintSystem::factsOf(ServerConnection *server, const Destination &destination,
                                                    PrintError *error)
 {
@@ -306,7 +305,7 @@ Submission CupsPrintSystem::submit(const JobRequest &request, const SubmissionWa
     Visit visit(this);
     if (m_network.hasFound(request.destination.queue)) {
         ServerConnection server(visit.login());
-        PrintError ignored; // the job will hear of it
+        PrintError ignored; // submitting the job reports it
         factsOf(&server, request.destination, &ignored);
     }
     return JobSubmitter(request, watch, visit.login()).submit();

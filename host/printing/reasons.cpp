@@ -47,7 +47,7 @@ const std::array<Known, 20> knownReasons = {{
      QT_TRANSLATE_NOOP("host::ReasonText", "The print server does not trust a program for this printer.")},
 }};
 
-// What the server says where no reason was given, which the state itself tells already.
+// Texts of the server without a reason, which only repeat the state.
 const std::array<const char *, 2> emptyWords = {"Paused", "Rejecting Jobs"};
 
 QString textOf(QString keyword)

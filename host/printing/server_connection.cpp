@@ -21,22 +21,22 @@ struct ServerText
 
 constexpr qint64 blockSize = 64 * 1024;
 constexpr char basicScheme[] = "Basic";
-constexpr int betweenLooks = 1'000; // milliseconds between looks whether the server is still waited for
-constexpr int mostLogins = 3;       // requests that the server refuses only after it has read them
+constexpr int betweenLooks = 1'000; // milliseconds between checks whether to continue waiting
+constexpr int mostLogins = 3;       // for requests that the server refuses only after reading them
 
 bool isErrorStatus(http_status_t status)
 {
     return status >= HTTP_STATUS_BAD_REQUEST;
 }
 
-// Whether a number is of one of the classes that statuses come in: success, and errors of either side.
+// Whether a number belongs to one of the classes of statuses: success, client error, server error.
 bool isIppStatus(int status)
 {
     const int kind = status >> 8;
     return kind == 0 || kind == 4 || kind == 5;
 }
 
-// The server's own words, where it has any that say more than a status.
+// The server's message, if it says more than the status.
 QString detailOf(ipp_t *answer, int status)
 {
     ipp_attribute_t *message = answer ? ippFindAttribute(answer, "status-message", IPP_TAG_TEXT) : nullptr;
@@ -57,8 +57,8 @@ PrintError refusedLogin(const QString &printer)
 
 } // namespace
 
-// libcups asks a function of the thread for passwords. Outside of requests that is one that refuses: its own
-// would ask on the terminal.
+// libcups calls a function of the thread for passwords. Outside of requests this is a function that declines,
+// since the default would prompt on the terminal.
 class LoginScope
 {
 public:
@@ -181,8 +181,8 @@ bool ServerConnection::connect()
     return true;
 }
 
-// In short tries, because libcups does not ask meanwhile whether to go on. One that ends early has been
-// refused.
+// In short attempts, since libcups does not check whether to continue meanwhile. An attempt that ends early
+// has been refused.
 bool ServerConnection::open()
 {
     const QDeadlineTimer deadline(m_login->patience.connectTime);
@@ -200,7 +200,7 @@ bool ServerConnection::open()
     return false;
 }
 
-// libcups opens it anew by itself, so the kernel's number of the socket is what tells.
+// libcups reconnects by itself, so the kernel's cookie of the socket identifies the connection.
 quint64 ServerConnection::number() const
 {
     quint64 cookie = 0;
@@ -210,7 +210,7 @@ quint64 ServerConnection::number() const
     return isKnown ? cookie : 0;
 }
 
-// Other schemes answer a question of the server, which is another one each time.
+// Other schemes use a challenge of the server, which differs each time.
 void ServerConnection::keepLogin()
 {
     const QByteArray login = httpGetAuthString(m_http.get());
@@ -233,7 +233,7 @@ const char *ServerConnection::nextPassword()
             !httpIsEncrypted(m_http.get()) && !httpAddrLocalhost(httpGetAddress(m_http.get()));
         m_login->given =
             m_login->prompt ? m_login->prompt({serverName(), user, again, isInClear}) : std::nullopt;
-        m_idle.restart(); // people take their time
+        m_idle.restart(); // the user's time does not count
     }
     if (!m_login->given)
         return nullptr;
@@ -273,8 +273,9 @@ Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource,
             reply.wasSilent = isSilent();
         }
         if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
-            m_http.reset(); // what else comes on it belongs to this request
-        // Refused for want of a login, which libcups has by now: the server has done nothing with it.
+            m_http.reset(); // further data on the connection belongs to this request
+        // Refused because of a missing login, which libcups has by now; the server has not processed the
+        // request.
         const bool isWorthAnother = reply.fate == Reply::Fate::Refused && reply.wasSentWhole &&
                                     reply.httpStatus == HTTP_STATUS_UNAUTHORIZED;
         if (!isWorthAnother || (upload && !upload->document->seek(upload->start)))
@@ -300,7 +301,7 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
     }
     if (upload && !writeDocument(upload, &reply))
         return reply;
-    if (upload && httpWrite2(m_http.get(), "", 0) < 0) { // the end of the document
+    if (upload && httpWrite2(m_http.get(), "", 0) < 0) { // end of the document
         reply.fate = Reply::Fate::Lost;
         return reply;
     }
@@ -310,8 +311,8 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
     return reply;
 }
 
-// False, with the reply's fate, when the document did not go through to its end. The request is then left
-// unfinished, so that the server drops it.
+// False, with the reply's fate set, if the document was not sent completely. The request is then left
+// incomplete, so that the server discards it.
 bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
 {
     QByteArray block(blockSize, Qt::Uninitialized);
@@ -360,7 +361,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
         reply->status = status;
         return;
     }
-    // A server that breaks down while it works on a request (5xx) may have done it.
+    // A server that fails while processing a request (5xx) may have performed it.
     const bool isRefusal =
         (reply->httpStatus >= HTTP_STATUS_BAD_REQUEST && reply->httpStatus < HTTP_STATUS_SERVER_ERROR) ||
         reply->httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
@@ -370,8 +371,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
     reply->message.reset();
 }
 
-// Null when what comes is no message, or one without end: libcups's own function would read on as long as
-// something comes.
+// Null if the response is malformed or endless: libcups's own function would read as long as data arrives.
 IppPointer ServerConnection::readMessage()
 {
     struct Source
@@ -400,8 +400,8 @@ IppPointer ServerConnection::readMessage()
     return state == IPP_STATE_DATA ? std::move(message) : nullptr;
 }
 
-// Asks for a login that the next request bears, on a connection of its own. What the refusal was about, or
-// that there is no login.
+// Obtains a login for the next request, on a separate connection. Returns the status of the refusal, or that
+// there is no login.
 http_status_t ServerConnection::authenticate(const QByteArray &resource)
 {
     if (cupsDoAuthentication(m_http.get(), "POST", resource.constData()) != 0)
@@ -412,7 +412,7 @@ http_status_t ServerConnection::authenticate(const QByteArray &resource)
 
 http_status_t ServerConnection::requestFile(const QByteArray &resource)
 {
-    for (int attempt = 0; attempt < 2 * mostLogins; ++attempt) { // libcups gives each login twice
+    for (int attempt = 0; attempt < 2 * mostLogins; ++attempt) { // libcups sends each login twice
         httpClearFields(m_http.get());
         if (const char *login = httpGetAuthString(m_http.get()))
             httpSetField(m_http.get(), HTTP_FIELD_AUTHORIZATION, login);
@@ -451,7 +451,7 @@ std::optional<QByteArray> ServerConnection::fetch(const QByteArray &resource, qi
         m_idle.restart();
         content.append(block.constData(), count);
     }
-    // The connection waits for the next request when all of the file has come.
+    // The connection is idle again when the complete file has been received.
     const bool isWhole = httpGetState(m_http.get()) == HTTP_STATE_WAITING && content.size() <= limit;
     if (reply.httpStatus == HTTP_STATUS_OK && isWhole) {
         keepLogin();

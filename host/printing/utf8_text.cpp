@@ -7,7 +7,7 @@ namespace host {
 
 namespace {
 
-// Bytes of the character that begins with this one; 0 for a byte that begins none of several bytes.
+// Number of bytes of the character that starts with this byte; 0 if it does not start a multi-byte character.
 qsizetype sequenceLength(uchar lead)
 {
     if (lead >= 0xf0)

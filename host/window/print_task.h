@@ -13,26 +13,27 @@ namespace host {
 class DialogSession;
 struct PrintError;
 
-// What the window is opened for. A value.
+// The task for which the window is opened. A value.
 struct PrintTask
 {
     QStringList files;             // "-" is the standard input
-    QString title;                 // of the job; the first file's name when empty
-    QString documentName;          // of the only document, where its file's name says nothing
+    QString title;                 // of the job; if empty, the name of the first file is used
+    QString documentName;          // of the only document, if its file name has no meaning
     QString printer;               // destination name; empty for the one used last, else the default
-    QString ppdFile;               // shows the options of this PPD instead of the queue's
-    QString firstPage;             // name of the page to open at; empty for the first
-    bool printerMayBeGone = false; // a printer that is not there is as good as none
-    // Runs once on the first session, with its first page in place: settings of the command line. Later
-    // sessions get them with whatever else has been chosen.
+    QString ppdFile;               // show the options of this PPD instead of the queue's
+    QString firstPage;             // name of the initial page; empty for the first
+    bool printerMayBeGone = false; // a missing printer is treated like none
+    // Called once for the first session, after its first page is shown, to apply the settings of the command
+    // line. Later sessions receive these settings with all other choices.
     std::function<bool(DialogSession *, PrintError *)> prepare;
-    // Runs once on the first session, before any page: where another program wants the dialog to begin.
+    // Called once for the first session, before any page is shown, to apply the initial settings from another
+    // program.
     std::function<void(DialogSession *)> begin;
-    // The settings are the answer: another program has the document, and nothing is printed here.
+    // Only the settings are returned: another program has the document, and nothing is printed here.
     bool settingsOnly = false;
-    QString acceptLabel; // of the button that prints; empty for the usual one
+    QString acceptLabel; // of the print button; empty for the default
 
-    // What these of its files are called, for the user. Empty for the standard input.
+    // The display names of these files. Empty for the standard input.
     QString namesOf(const QStringList &paths) const;
 };
 

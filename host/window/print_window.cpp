@@ -36,9 +36,9 @@ namespace host {
 
 namespace {
 
-constexpr int usualLines = 34; // that the window is high where there is room for it
+constexpr int usualLines = 34; // height of the window if the screen has room
 
-// Whether there is a printer, and something to print on it.
+// Whether there is a printer, and a document to print.
 bool canPrint(const PrintTask &task, const DialogSession *session)
 {
     return session && !session->destination().queue.isEmpty() && (task.settingsOnly || !task.files.isEmpty());
@@ -86,7 +86,7 @@ PrintWindow::~PrintWindow()
     detachSession();
 }
 
-// What the user works with.
+// Connects the controls.
 void PrintWindow::connectParts()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
@@ -120,7 +120,7 @@ void PrintWindow::connectParts()
     connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
     auto *greyed = new GreyedChoices(
         &m_queue, [this] { return m_session.get(); }, this);
-    // A greyed choice and what it takes are one step.
+    // Selecting a greyed choice and the changes that it requires are one undo step.
     connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_settings->history()->endGesture(); });
     connect(greyed, &GreyedChoices::chosen, this, [this, settingsChanged] {
         m_settings->history()->endGesture();
@@ -136,11 +136,11 @@ void PrintWindow::connectParts()
     connect(m_guide, &Guide::partsChanged, &m_layout, &WindowLayout::arrange);
 }
 
-// What takes its time, and the buttons that begin and end it.
+// Connects long-running work, and the buttons that start and end it.
 void PrintWindow::connectWork()
 {
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);
-    // The button's, so that it works while a panel waits.
+    // A shortcut of the button, so that it works while a panel waits.
     connect(new QShortcut(QKeySequence::Print, m_print), &QShortcut::activated, m_print, &QPushButton::click);
     connect(m_cancel, &QPushButton::clicked, this, [this] {
         m_wait.giveUp();
@@ -182,7 +182,7 @@ void PrintWindow::connectWork()
         if (m_state == State::Done)
             m_news.follow(false);
     });
-    // The same documents with the same settings, once more.
+    // Prints the same documents with the same settings again.
     connect(m_result, &ResultPage::printAgainWanted, this, [this] {
         if (!mayPrint())
             return;
@@ -223,7 +223,7 @@ void PrintWindow::showState(State state)
 bool PrintWindow::open(PrintError *error)
 {
     m_opener.openTask();
-    // The one time that the window waits on its thread: there is nothing to be seen of it yet.
+    // The only time that the window blocks its thread: it is not visible yet.
     m_opener.deliverNear();
     if (m_refusal)
         *error = m_refusal;
@@ -246,7 +246,7 @@ void PrintWindow::takeSession(SessionOpener::Result result)
     }
 }
 
-// Shows the page and makes the settings that the task asks for.
+// Shows the page and applies the settings of the task.
 void PrintWindow::beginTask()
 {
     const int row = m_task.firstPage.isEmpty() ? 0 : m_book->pageNamed(m_task.firstPage);
@@ -255,9 +255,9 @@ void PrintWindow::beginTask()
         return;
     }
     m_book->showPage(row);
-    if (isDismissed()) // while a panel waited
+    if (isDismissed()) // while a panel was waiting
         return;
-    // On the shown page, so that panels answer the settings as they answer the user's.
+    // With the page shown, so that panels respond to the settings as to the user's changes.
     PrintError problem;
     if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
         refuse(problem);
@@ -271,7 +271,7 @@ void PrintWindow::beginTask()
 
 void PrintWindow::changePrinter(std::unique_ptr<DialogSession> session)
 {
-    m_session->save(); // what the page that is shown has pending
+    m_session->save(); // pending changes of the current page
     const QString page = m_book->currentName();
     detachSession();
     const auto earlier = std::move(m_session);
@@ -308,7 +308,7 @@ void PrintWindow::showSession()
     m_book->setSession(m_session.get(), m_settings->history());
 }
 
-// Call before the session goes: its panels own views in the pages.
+// Call before the session is destroyed: its panels own views in the pages.
 void PrintWindow::detachSession()
 {
     m_news.forgetChosen();
@@ -317,7 +317,7 @@ void PrintWindow::detachSession()
     m_settings->setSession(nullptr);
 }
 
-// A printer that cannot do what the task asks for is not offered without it.
+// A printer that cannot do what the task requires is not offered for it.
 void PrintWindow::refuse(const PrintError &error)
 {
     m_refusal = error;
@@ -375,7 +375,7 @@ void PrintWindow::allowPrinting()
     m_print->setToolTip(can ? QString() : tr("There is no document or no printer to print it on"));
 }
 
-// The one check before a job is sent, in whichever way the user asks for it. Shows what is typed wrong.
+// The common check before a job is sent, however the user requests it. Shows invalid input.
 bool PrintWindow::mayPrint()
 {
     return canPrint(m_task, m_session.get()) && isSettled() && !isDismissed() && !m_jobs.isSending() &&
@@ -458,7 +458,7 @@ void PrintWindow::resizeEvent(QResizeEvent *event)
     m_layout.adapt();
 }
 
-// Escape leaves things as they are where a question is asked; only else does it close the dialog.
+// Escape leaves everything unchanged if a question is shown; otherwise it closes the dialog.
 void PrintWindow::keyPressEvent(QKeyEvent *event)
 {
     if (!event->matches(QKeySequence::Cancel) || !m_queue.dismiss())
@@ -471,7 +471,7 @@ void PrintWindow::done(int result)
     QDialog::done(result);
 }
 
-// Escape and Cancel end the sending, not the dialog; when pressed again, they do not wait for its end.
+// Escape and Cancel stop the submission, not the dialog; when pressed again, they do not wait for its end.
 void PrintWindow::reject()
 {
     if (m_jobs.isCancelled())
@@ -482,7 +482,7 @@ void PrintWindow::reject()
         QDialog::reject();
 }
 
-// The dialog goes at once: a job that is being sent is cancelled, and its end is awaited unseen.
+// Closes the dialog at once: a job that is being sent is canceled, and its end is awaited in the background.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
     if (m_jobs.leave())

@@ -28,8 +28,9 @@ class UnavailablePage;
 class WaitingPage;
 
 // The print dialog: its state, and the session of the chosen printer, which it owns. The print system and the
-// extensions are borrowed; they outlive it and its work on other threads. Only open() and the beginning of
-// sending wait for a near server, 50 ms at most; what takes longer shows a page or a sign with a way out.
+// extensions are borrowed; they outlive the window and its work on other threads. Only open() and the start
+// of a submission wait for a nearby server, 50 ms at most; longer operations show a page or an indicator with
+// a way to stop them.
 class PrintWindow : public QDialog
 {
     Q_OBJECT
@@ -37,32 +38,33 @@ public:
     PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task);
     ~PrintWindow() override;
 
-    // Opens the first session, later where the print server takes its time. False with an error only where
-    // the task itself cannot be done and that is known at once; every other problem is shown in the window.
+    // Opens the first session, in the background if the print server takes longer. False with an error only
+    // if it is known at once that the task is impossible; all other problems are shown in the window.
     bool open(PrintError *error);
-    DialogSession *session() const { return m_session.get(); } // null while there is none
-    // The last job that was accepted, or may have been; null when there was none.
+    DialogSession *session() const { return m_session.get(); } // null if there is none
+    // The last job that was accepted, or may have been; null if there was none.
     const std::optional<Submission> &submission() const { return m_jobs.submission(); }
-    const PrintError &refusal() const { return m_refusal; } // why the task failed, if open() could not tell
-    const QString &jobTitle() const { return m_documentChoice.title(); } // null unless the user chooses it
-    // Whether no printer is being opened and no panel asks its device: what is shown is complete.
+    // why the task failed, if open() could not report it
+    const PrintError &refusal() const { return m_refusal; }
+    const QString &jobTitle() const { return m_documentChoice.title(); } // null unless the user can choose it
+    // Whether the window shows its final state: no printer is being opened, and no panel queries its device.
     bool isSettled() const { return !m_opener.isBusy() && !m_wait.isUnderWay(); }
-    bool isDismissed() const { return m_wait.isDismissed(); } // closed, perhaps before open() has returned
+    bool isDismissed() const { return m_wait.isDismissed(); } // closed, possibly before open() returned
     MessageBar *messageBar() const { return m_queue.bar(); }
     PageBook *book() const { return m_book; }
-    // Shows the session's pages anew, as after its panels have become others.
+    // Shows the session's pages again, for example after its panels have changed.
     void showSession();
-    // How large the window may be, instead of what its screen has free.
+    // Limits the size of the window, instead of the available space of its screen.
     void setRoom(const QSize &room) { m_layout.setRoom(room); }
 
 public Q_SLOTS:
-    // Prints, or asks what is to be settled first. While a panel asks its device, that follows when it
-    // returns.
+    // Prints, or asks questions that must be settled first. If a panel is querying its device, this happens
+    // when it returns.
     void print();
     void reject() override;
     void done(int result) override;
     void loadPrinterList() { m_news.loadList(); }
-    // Does what can wait until the user sees the window.
+    // Does the work that can wait until the window is visible.
     void finishLater();
 
 protected:

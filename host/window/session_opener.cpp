@@ -47,7 +47,7 @@ void SessionOpener::open(const PrinterWish &wish)
         m_printers.askUsedLast();
 }
 
-// A queue whose PPD is broken still prints, with what every printer can be asked.
+// A queue with a broken PPD can still print, with the settings that every printer has.
 void SessionOpener::deliver(PrinterOpening opening)
 {
     Result result;

@@ -17,9 +17,9 @@ namespace host {
 
 class DialogSession;
 
-// Opens the session of the printer that a task names, and of printers that the user picks. Printers are
-// opened on a worker thread; the session is made on the dialog's thread. Belongs to its window. The print
-// system and the extensions are borrowed and outlive it.
+// Opens the session of the printer of a task, and of printers that the user selects. Printers are opened on a
+// worker thread; the session is created on the dialog's thread. Owned by its window. The print system and the
+// extensions are borrowed and outlive it.
 class SessionOpener : public QObject
 {
     Q_OBJECT
@@ -28,33 +28,35 @@ public:
     {
         std::unique_ptr<DialogSession> session; // null with an error
         PrintError error;
-        bool isForTask = false; // its settings are still to be made
+        bool isForTask = false; // the settings of the task must still be applied
     };
     using Receiver = std::function<void(Result)>;
 
-    // While `isHeldUp` is true, as while a panel waits, nothing is delivered.
+    // Nothing is delivered while `isHeldUp` returns true, for example while a panel waits.
     SessionOpener(PrintSystem &system, Extensions &extensions, const PrintTask &task,
                   std::function<bool()> isHeldUp, Receiver receiver);
     ~SessionOpener() override;
 
-    // Opens the printer that the task names, again where it could not be opened.
+    // Opens the printer of the task, also again after a failure.
     void openTask();
-    // Drops the session that was opened for the task: it cannot do what the task asks for, another one may.
+    // Discards the session that was opened for the task, since it cannot do what the task requires; another
+    // one may.
     void refuseTask() { m_isForTask = true; }
-    // Waits for a near server, 50 ms at most.
+    // Waits for a nearby server, 50 ms at most.
     void deliverNear() { m_printers.deliverNear(); }
-    // The user picks a printer, by destination name. It takes the place of the task's until that one is open.
+    // Opens the printer that the user has selected, by destination name. It replaces the printer of the task
+    // once it is open.
     void pick(const QString &name) { m_printers.pick(name); }
-    // Delivers what was opened while it was held up.
+    // Delivers the results that were held up.
     void deliverHeld() { m_printers.deliverHeld(); }
-    // Drops what is being opened or was picked.
+    // Discards pending requests.
     void drop() { m_printers.drop(); }
     bool isBusy() const { return m_printers.isOpening() || m_printers.isPicking(); }
 
 Q_SIGNALS:
-    // Opening takes longer than a user notices.
+    // Opening takes noticeably long.
     void delayed();
-    // Before there is a session: the destination name of the printer that is being opened.
+    // While there is no session: the destination name of the printer that is being opened.
     void awaited(const QString &name);
 
 private:

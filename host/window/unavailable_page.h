@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace host {
 
-// In place of everything while there is no printer to show: why, and a way to try again.
+// Replaces all pages if there is no printer to show: the reason, and a way to retry.
 class UnavailablePage : public QWidget
 {
     Q_OBJECT

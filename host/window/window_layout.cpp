@@ -24,11 +24,11 @@ namespace host {
 namespace {
 
 constexpr int textShare = 6;   // of the window's height, for the texts of the message bar
-constexpr int roomyLines = 24; // that the window is high; a lower one saves space
-constexpr int mostLines = 58;  // that it grows to for the sake of a page
-constexpr int spareLines = 4;  // that it leaves of the screen then
+constexpr int roomyLines = 24; // window height; lower windows save space
+constexpr int mostLines = 58;  // maximum height to which the window grows for a page
+constexpr int spareLines = 4;  // of the screen that remain free then
 
-// What a window's screen has free, less the frame around the window.
+// The available space of a window's screen, without the frame around the window.
 QSize freeRoom(const QWidget *window)
 {
     const QSize room = window->screen()->availableSize();
@@ -36,7 +36,7 @@ QSize freeRoom(const QWidget *window)
     return room.shrunkBy(frame);
 }
 
-// The earlier ones have the first choice.
+// In order of priority.
 QList<QWidget *> inOrderOfKeys(const WindowLayout::Parts &parts)
 {
     QList<QWidget *> order(parts.footer.crbegin(), parts.footer.crend());
@@ -58,7 +58,7 @@ void WindowLayout::build()
     m_footer->setSpacing(10);
     for (QWidget *part : std::as_const(m_parts.footer))
         m_footer->addWidget(part, part == m_parts.footer.first() ? 1 : 0);
-    // Under the pages, where it moves nothing that the user is about to press.
+    // Below the pages, so that controls the user is about to press do not move.
     m_barRow->addWidget(m_parts.bar);
 
     auto *column = new QVBoxLayout(m_window);
@@ -102,8 +102,8 @@ void WindowLayout::setRoom(const QSize &room)
     fit();
 }
 
-// A page that is long scrolls, as does what would only fit a window with no room around it: where the frame
-// and the desktop's bars are is not known for certain.
+// Long pages scroll, as do pages that would only just fit, since the size of the frame and of the desktop's
+// bars is not exactly known.
 void WindowLayout::fit()
 {
     const QSize room = m_room.isValid() ? m_room : freeRoom(m_window);

@@ -18,8 +18,8 @@ class MessageBar;
 class PageBook;
 class PrinterPicker;
 
-// How the parts of the print dialog lie in its window and share what room there is, and the order in which
-// the keyboard reaches them. Belongs to the window, as the parts do.
+// Arranges the parts of the print dialog in its window, distributes the available space, and defines the tab
+// order. Owned by the window, as are the parts.
 class WindowLayout : public QObject
 {
     Q_OBJECT
@@ -28,25 +28,25 @@ public:
     {
         PrinterPicker *picker;
         PageBook *book;
-        QList<QWidget *> otherPages; // take the place of the book
+        QList<QWidget *> otherPages; // replace the book
         MessageBar *bar;
-        // The first one is as wide as may be, the last one has the first choice of an access key.
+        // The first one takes the free width; the last one has priority for access keys.
         QList<QWidget *> footer;
         Finder *finder;
     };
     WindowLayout(QWidget *window, const Parts &parts);
 
-    // In front of the footer.
+    // Adds a guide in front of the footer.
     void addGuide(QWidget *guide);
-    // How large the window may be, instead of what its screen has free.
+    // Limits the size of the window, instead of the available space of its screen.
     void setRoom(const QSize &room);
-    // Makes the window wide and high enough for the page, and never larger than the screen.
+    // Makes the window large enough for the page, but not larger than the screen.
     void fit();
-    // The window has become higher or lower.
+    // Call when the height of the window has changed.
     void adapt();
 
 public Q_SLOTS:
-    // Other parts are shown: order, access keys and size follow.
+    // Call when other parts are shown, to update tab order, access keys and size.
     void arrange();
 
 private:
@@ -60,8 +60,8 @@ private:
     QHBoxLayout *m_footer;
     QHBoxLayout *m_barRow;
     QWidget *m_guide = nullptr;
-    QSize m_room;        // null for what the screen has free
-    int m_ownHeight = 0; // that fit() gave the window; another one is the user's wish
+    QSize m_room;        // null for the available space of the screen
+    int m_ownHeight = 0; // set by fit(); another height was chosen by the user
 };
 
 } // namespace host
