@@ -22,7 +22,7 @@ struct ArgumentsText
 struct OptionText
 {
     QStringList names;
-    QString value; // what it takes; empty for a switch
+    QString value; // the name of its value; empty for a switch
     QString description;
 };
 
@@ -125,7 +125,7 @@ bool addAssignment(const QString &name, const QString &word, Arguments *argument
                                                                      : ArgumentsText::tr("KEY=VALUE"));
         return false;
     }
-    // As lp has it, a bare name switches on and "no" before it switches off.
+    // As in lp, a bare name switches on, and a leading "no" switches off.
     Arguments::Assignment assignment{word.left(equals < 0 ? word.size() : equals),
                                      equals < 0 ? QStringLiteral("true") : word.mid(equals + 1), passOn};
     if (equals < 0 && word.startsWith(QLatin1String("no")) && word.size() > 2) {
@@ -138,7 +138,7 @@ bool addAssignment(const QString &name, const QString &word, Arguments *argument
     return true;
 }
 
-// Options keep their order among each other, so that settings apply in the order given.
+// Keeps the order of options, so that settings are applied in the given order.
 bool readAssignments(const QCommandLineParser &parser, Arguments *arguments, QString *error)
 {
     const QStringList wanted = {QStringLiteral("n"),        QStringLiteral("copies"), QStringLiteral("P"),
@@ -185,7 +185,7 @@ QString problemOf(const Arguments &arguments)
     return {};
 }
 
-// Qt's own message lists unknown letters one by one: those of "-p12345" are a code.
+// Qt's own message lists unknown letters one by one; those of "-p12345" may be a code.
 QString parseProblem(const QCommandLineParser &parser)
 {
     const QStringList unknown = parser.unknownOptionNames();

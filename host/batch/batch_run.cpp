@@ -26,10 +26,11 @@ struct BatchText
     Q_DECLARE_TR_FUNCTIONS(BatchText)
 };
 
-// A proposal may uncover the next conflict; a PPD that never comes to rest must not hold the run.
+// Accepting a proposal may cause another conflict; the number of attempts is limited in case a PPD has no
+// solution.
 constexpr int mostProposals = 8;
 
-// An option without the code that it may hold.
+// An option without the code that it may contain.
 PpdOption listed(const DialogSession &session, const QString &keyword)
 {
     PpdOption option = *session.ppd()->option(keyword);
@@ -40,7 +41,8 @@ PpdOption listed(const DialogSession &session, const QString &keyword)
     return option;
 }
 
-// The use of a code of which only some digits have been given, one by one; null where there is none.
+// The option with which a code is used of which only some digits were given, one by one; null if there is
+// none.
 QString useOfHalfCode(const Arguments &arguments, const DialogSession &session)
 {
     QStringList given = session.destination().options.keys(), asked;
@@ -92,7 +94,7 @@ int BatchRun::run(ResultWriter *writer)
 {
     if (m_arguments.batch && m_arguments.output.isEmpty())
         m_result.submission.emplace();
-    // Before anything is sent: what cannot be told must not be done.
+    // Before anything is sent: do nothing that cannot be reported.
     if (m_arguments.json && !writer->begin())
         return ExitFailure;
     ExitCode code = prepare();
@@ -108,7 +110,7 @@ int BatchRun::run(ResultWriter *writer)
     return result;
 }
 
-// A job that is on its way is no failure, whatever became of the lines about it.
+// A submitted job is not a failure, even if its report could not be written.
 int BatchRun::told(ResultWriter *writer, ExitCode code)
 {
     const bool isWritten = writer->write(m_result, m_arguments.json);
@@ -149,7 +151,7 @@ ExitCode BatchRun::prepare()
     return settled;
 }
 
-// A code that the policy wants is asked for by the print system, whatever the command line allows.
+// The print system reports a missing code that the policy requires, whatever the command line allows.
 bool BatchRun::mayNotPrintWithProtectionGap() const
 {
     if (!m_arguments.batch || !m_arguments.output.isEmpty() || m_arguments.allowNoPassword)
@@ -158,7 +160,7 @@ bool BatchRun::mayNotPrintWithProtectionGap() const
     return m_session->lacksProtection() || (code && m_session->locks().choice(code->option) != code->choice);
 }
 
-// False where nothing would be printed. What goes to the printer as it is cannot be judged.
+// False if nothing would be printed. Raw data cannot be checked.
 bool BatchRun::checkDocuments(PrintError *error)
 {
     const ChosenSettings &chosen = m_session->chosen();
@@ -221,7 +223,7 @@ bool BatchRun::openDocuments()
     return m_documents.open(files, m_input, &m_result.error);
 }
 
-// A queue whose PPD is broken would print without what was asked for.
+// A queue with a broken PPD would print without the requested settings.
 bool BatchRun::openSession(PrintError *error)
 {
     auto opened = openPrinter(m_system, {m_arguments.printer, m_arguments.ppdFile}, error);

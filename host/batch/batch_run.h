@@ -13,25 +13,25 @@
 
 namespace host {
 
-// Makes the command line's settings in order.
+// Applies the settings of the command line in order.
 bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintError *error);
 
-// One run without a window: the same panels through the same contract, settings from the command line,
-// results as text or JSON. Needs a QApplication, since panels are made of widgets.
+// A run without a window: the same panels through the same contract, settings from the command line, results
+// as text or JSON. Needs a QApplication, since panels consist of widgets.
 class BatchRun
 {
 public:
     BatchRun(const Arguments &arguments, PrintSystem &system, Extensions &extensions);
     ~BatchRun();
 
-    // Where "-" is read from; the standard input unless set.
+    // Sets the source of "-"; the standard input by default.
     void setInput(QIODevice *input) { m_input = input; }
-    // The exit code; what there is to tell goes to the writer. A signal that came while the job was sent ends
-    // the program when it has been told.
+    // Returns the exit code; results are written to the writer. A signal that arrived during the submission
+    // ends the program after the result was written.
     int run(ResultWriter *writer);
 
 private:
-    // Everything before anything is sent.
+    // Runs all steps before anything is sent.
     ExitCode prepare();
     bool openDocuments();
     bool openSession(PrintError *error);
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<DialogSession> m_session;
     DocumentList m_documents;
     BatchResult m_result;
-    std::optional<HeldSignals> m_signals; // from the submission until its outcome is told
+    std::optional<HeldSignals> m_signals; // from the submission until its outcome is reported
 };
 
 } // namespace host

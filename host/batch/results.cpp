@@ -194,8 +194,8 @@ bool ResultWriter::write(const BatchResult &result, bool asJson)
     return finish();
 }
 
-// Whether all of it arrived, which a file tells no earlier than here. Complaints go out as well: a signal may
-// end the program next.
+// Whether everything was written, which a file reports only at this point. Errors are flushed as well, since
+// a signal may end the program next.
 bool ResultWriter::finish()
 {
     const auto flush = [](QIODevice *device) {
@@ -270,7 +270,7 @@ void ResultWriter::writeJob(const BatchResult &result)
               .arg(result.queue)
               .arg(job.id)
               .arg(result.documents.size()));
-    // One document is the job's title as a rule; several share it.
+    // A single document is usually the job's title; several share one title.
     for (const QString &document : result.documents.size() > 1 ? result.documents : QStringList())
         print(QStringLiteral("    ") + document);
     print(ResultText::tr("Job %1: %2.").arg(job.id).arg(job.status.text()));

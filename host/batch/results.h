@@ -17,39 +17,38 @@
 
 namespace host {
 
-// What a batch run has to tell. A value, written once at the end.
+// The results of a batch run. A value, written once at the end.
 struct BatchResult
 {
     QString printer;
-    QList<SummarySection> summary; // when asked for
+    QList<SummarySection> summary; // if requested
     bool hasSummary = false;
-    QList<PpdOption> options; // when asked for
+    QList<PpdOption> options; // if requested
     QList<std::pair<QString, QString>> panelKeys;
     bool hasOptions = false;
-    std::optional<QList<Preset>> presets; // when asked for; without codes
+    std::optional<QList<Preset>> presets; // if requested; without codes
     QString savedPreset;
     QString deletedPreset;
-    std::optional<Submission> submission; // when something was to be printed
+    std::optional<Submission> submission; // if anything was to be printed
     QString queue;
     QStringList documents;        // of the job, by name
     QString output;               // the PDF file that was written
-    QList<OptionChoice> resolved; // changes made to end conflicts
+    QList<OptionChoice> resolved; // changes that resolved conflicts
     QStringList notices;
     PrintError error;
-    QList<Conflict> conflicts; // that stopped the run
+    QList<Conflict> conflicts; // that ended the run
     std::optional<Resolution> proposal;
 };
 
-// Writes a result for people (results on `out`, errors and notices on `err`) or for programs (one JSON object
-// on `out`).
+// Writes a result as text (results on `out`, errors and notices on `err`) or as JSON (one object on `out`).
 class ResultWriter
 {
 public:
     ResultWriter(QIODevice *out, QIODevice *err) : m_out(out), m_err(err) {}
-    // Writes the beginning of a JSON result. Like write(), false, with a complaint, when `out` does not take
-    // it.
+    // Writes the beginning of a JSON result. Like write(), returns false with an error message if `out`
+    // cannot be written.
     bool begin();
-    // The same with the part of a result for people that is known before anything is printed.
+    // The same for the part of a text result that is known before anything is printed.
     bool writeSettings(const BatchResult &result);
     bool write(const BatchResult &result, bool asJson);
 
@@ -66,8 +65,8 @@ private:
 
     QIODevice *m_out;
     QIODevice *m_err;
-    bool m_hasBegun = false; // a JSON result, or the settings of one for people
-    bool m_isTaken = true;   // whether `out` has taken everything so far
+    bool m_hasBegun = false; // a JSON result, or the settings of a text result
+    bool m_isTaken = true;   // whether `out` has accepted everything so far
 };
 
 QJsonObject toJson(const BatchResult &result);

@@ -9,8 +9,8 @@
 
 namespace host {
 
-// While it lives, a terminal shows nothing of what is typed, and no key sends a signal that would leave it
-// like that. The descriptor is borrowed.
+// Disables the echo of a terminal and its signal keys, which could leave it in this state, during the
+// lifetime of the object. The descriptor is borrowed.
 class Silence
 {
 public:
@@ -18,7 +18,7 @@ public:
     ~Silence();
     Silence(const Silence &) = delete;
     Silence &operator=(const Silence &) = delete;
-    // False where there is no terminal, or it does not obey.
+    // False if there is no terminal, or its mode cannot be changed.
     bool isActive() const { return m_active; }
 
 private:
@@ -27,12 +27,12 @@ private:
     termios m_before = {};
 };
 
-// What was read up to the end of a line, without that end.
+// The input up to the end of a line, without the line end.
 struct InputLine
 {
     enum class Fate {
         Whole,
-        None,    // nothing came, or Ctrl+C was typed in silence, or a signal is held (held_signals.h)
+        None,    // no input, Ctrl+C without echo, or a signal is held (held_signals.h)
         TooLong, // more than `longest` bytes
         Failed   // with errno
     };
@@ -42,7 +42,7 @@ struct InputLine
     QByteArray bytes;
 };
 
-// Reads by single bytes: what follows the line belongs to another reader. Blocks.
+// Reads single bytes, since data after the line belongs to another reader. Blocks.
 InputLine readInputLine(int descriptor);
 
 } // namespace host

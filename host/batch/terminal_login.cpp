@@ -29,14 +29,14 @@ void say(int terminal, const QString &text)
     (void)!write(terminal, bytes.constData(), static_cast<size_t>(bytes.size()));
 }
 
-// Null when the input ends or a signal comes before the line does.
+// Null if the input ends or a signal arrives before the end of the line.
 std::optional<QString> readLine(int terminal)
 {
     const auto [fate, line] = readInputLine(terminal);
     return fate == InputLine::Fate::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
 }
 
-// Asks when nothing shows any more: what is typed before that is shown, and then thrown away.
+// Asks after the echo was disabled; input typed before that is visible and is discarded.
 std::optional<QString> askHidden(int terminal, const QString &question)
 {
     const Silence silence(terminal);
@@ -56,7 +56,7 @@ std::optional<Login> askOnTerminal(const LoginQuestion &question)
     const int terminal = file.get();
     if (!file || answers > mostAnswers)
         return std::nullopt;
-    const HeldSignals signalsWait; // until the terminal echoes again
+    const HeldSignals signalsWait; // until the echo is enabled again
     if (question.again)
         say(terminal,
             TerminalText::tr("The user name or the password was not accepted.") + QLatin1Char('\n'));

@@ -14,7 +14,7 @@ bool isObeyed(QChar c)
     case QChar::Separator_Line:
     case QChar::Separator_Paragraph:
         return true;
-    case QChar::Other_Format: // marks and overrides of the direction among them
+    case QChar::Other_Format: // includes marks and overrides of the writing direction
         return c.unicode() != 0x00ad && c.unicode() != 0x200c && c.unicode() != 0x200d;
     default:
         return false;

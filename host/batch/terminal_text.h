@@ -8,11 +8,11 @@
 
 namespace host {
 
-// The one way for a line to the terminal, since lines hold texts of printers, PPDs and servers: as UTF-8,
-// with everything that would move the cursor, change colours, break the line or turn the direction of writing
-// shown as "\x1b" or "\u202e" instead of being obeyed.
+// Makes a line safe for the terminal; used for all output, since lines contain texts of printers, PPDs and
+// servers. The result is UTF-8. Characters that would move the cursor, change colours, break the line or
+// change the writing direction are shown as "\x1b" or "\u202e".
 QByteArray terminalLine(const QString &line);
-// JSON, in which the same characters may still stand as they are, with them escaped as JSON has it.
+// Escapes the same characters in JSON, in JSON's notation.
 QByteArray terminalJson(const QByteArray &json);
 
 } // namespace host

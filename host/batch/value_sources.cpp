@@ -61,7 +61,7 @@ std::optional<QString> readFile(const QString &path, const QString &key, QString
 {
     const platform::UniqueFd file(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
     if (!file) {
-        *error = unreadable(key, qt_error_string(errno)); // the path may be the value, given by mistake
+        *error = unreadable(key, qt_error_string(errno)); // the path may be a value given by mistake
         return std::nullopt;
     }
     return readLine(file.get(), key, error);

@@ -7,11 +7,11 @@
 
 namespace host {
 
-// Values that are not on the command line, where every user of the machine could read them.
+// Values that are not given on the command line, which every user of the machine can read.
 
-// Puts the value in place of where it comes from, for each assignment that names a file, the standard input
-// or the terminal: the first line, without its end. False with a message, which names the key alone, when
-// there is none, or one that is no text or longer than 4,096 bytes; nothing is read beyond that.
+// Replaces the source of each assignment from a file, the standard input or the terminal by its value: the
+// first line, without the line end. False with a message that contains only the key if there is no value, or
+// it is not text or longer than 4,096 bytes; nothing is read beyond that.
 bool fetchValues(Arguments *arguments, QString *error);
 
 } // namespace host

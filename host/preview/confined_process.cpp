@@ -24,14 +24,14 @@ namespace host {
 
 namespace {
 
-// What a process says of itself before it becomes the program.
+// Sent by the process before it executes the program.
 struct Report
 {
-    unsigned missing = 0; // parts of the confinement
-    int error = 0;        // of exec
+    unsigned missing = 0; // missing parts of the confinement
+    int error = 0;        // errno of exec
 };
 
-// All that the new process needs, as system calls take it.
+// All data for the new process, in the form that system calls take.
 struct Launch
 {
     const Confinement &confinement;
@@ -49,10 +49,10 @@ void limit(__rlimit_resource resource, qint64 most) noexcept
     ::syscall(SYS_prlimit64, 0, resource, &both, nullptr);
 }
 
-// Nothing is inherited but the three standard streams and what the call names.
+// Only the three standard streams and the descriptors named in the call are inherited.
 void keepFiles(const Launch &launch) noexcept
 {
-    constexpr unsigned mostFiles = 4096; // where the kernel does not close ranges
+    constexpr unsigned mostFiles = 4096; // for kernels that cannot close ranges
     ::syscall(SYS_dup3, launch.input, STDIN_FILENO, 0);
     ::syscall(SYS_dup3, launch.output, STDOUT_FILENO, 0);
     ::syscall(SYS_dup3, launch.errors, STDERR_FILENO, 0);
@@ -64,7 +64,7 @@ void keepFiles(const Launch &launch) noexcept
         ::syscall(SYS_fcntl, other, F_SETFD, 0);
 }
 
-// Signals that this program handles or ignores have their usual meaning for the other one.
+// Restores the default action of signals that this program handles or ignores.
 void resetSignals() noexcept
 {
     constexpr unsigned long usual[16] = {}; // the kernel's struct sigaction, which is smaller
@@ -73,11 +73,11 @@ void resetSignals() noexcept
     ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, usual, nullptr, _NSIG / 8);
 }
 
-// Runs in the new process, in the memory of this one: system calls only.
+// Runs in the new process, which shares this one's memory: system calls only.
 __attribute__((no_sanitize("address", "thread", "undefined"))) int become(void *argument) noexcept
 {
     const Launch &launch = *static_cast<const Launch *>(argument);
-    ::syscall(SYS_setpgid, 0, 0); // what it starts is ended with it
+    ::syscall(SYS_setpgid, 0, 0); // so that its child processes are killed with it
     launch.confinement.enterNamespaces();
     keepFiles(launch);
     limit(RLIMIT_CORE, 0);
@@ -96,7 +96,7 @@ __attribute__((no_sanitize("address", "thread", "undefined"))) int become(void *
         ::syscall(SYS_exit_group, 127);
 }
 
-// The words as exec takes them; valid as long as the list.
+// The arguments as exec takes them; valid as long as the list.
 std::vector<char *> pointersTo(const QList<QByteArray> &words)
 {
     std::vector<char *> pointers;
@@ -106,8 +106,8 @@ std::vector<char *> pointersTo(const QList<QByteArray> &words)
     return pointers;
 }
 
-// Nothing of the user's environment but the folder for caches and the time zone, which some programs write
-// into files.
+// Only the cache folder and the time zone are passed from the user's environment; some programs write the
+// latter into files.
 QList<QByteArray> environmentOf(const ConfinedProcess::Call &call, const QByteArray &folder)
 {
     QList<QByteArray> environment = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "TMPDIR=" + folder,
@@ -117,7 +117,7 @@ QList<QByteArray> environmentOf(const ConfinedProcess::Call &call, const QByteAr
     return environment + call.environment;
 }
 
-// Blocks signals while a process is created: a handler of this program must not run in the new one.
+// Blocks signals while a process is created: a handler of this program must not run in the new process.
 class BlockedSignals
 {
 public:
@@ -140,7 +140,7 @@ ConfinedProcess::~ConfinedProcess()
     delete m_notifier; // before the descriptor that it watches is closed
     if (!isRunning())
         return;
-    constexpr int moment = 100; // milliseconds; a killed process is gone at once
+    constexpr int moment = 100; // milliseconds; a killed process ends immediately
     kill();
     pollfd end = {m_handle.get(), POLLIN, 0};
     if (::poll(&end, 1, moment) > 0)
@@ -187,8 +187,8 @@ void ConfinedProcess::kill()
 void ConfinedProcess::reap()
 {
     m_notifier->setEnabled(false);
-    // The number stays taken until the process has been waited for. In a PID namespace nothing is left by
-    // now.
+    // The number remains reserved until the process has been waited for. With a PID namespace all child
+    // processes have already ended.
     ::kill(-m_process, SIGKILL);
     siginfo_t facts = {};
     const bool isKnown = ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(m_handle.get()), &facts,

@@ -25,10 +25,10 @@ struct ProcessLimits
     qint64 output = qint64(256) << 20; // bytes, of each file
 };
 
-// One run of a program that reads a document, confined as Confinement has it, with a private folder for its
-// temporary files. What it has started ends with it, and all of it with this object, which waits a moment for
-// that. Lives on a thread with an event loop that outlives the process: the kernel ends the process with that
-// thread.
+// Runs a program that reads a document, confined by Confinement, with a private folder for its temporary
+// files. Its child processes end with it, and all of them end with this object, which briefly waits for that.
+// Must live on a thread with an event loop that outlives the process, since the kernel ends the process with
+// that thread.
 class ConfinedProcess : public QObject
 {
     Q_OBJECT
@@ -37,32 +37,32 @@ public:
     {
         QByteArray program;            // an absolute path
         QList<QByteArray> arguments;   // without the program's name
-        QList<QByteArray> environment; // NAME=VALUE, beside the little that every program gets
+        QList<QByteArray> environment; // NAME=VALUE, in addition to the minimal environment
         int input = -1, output = -1;   // descriptors: its standard input and output
-        std::vector<int> others = {};  // it finds them under the same numbers
+        std::vector<int> others = {};  // inherited under the same numbers
     };
     enum class End { NotStarted, Crashed, Failed, Done };
 
     using QObject::QObject;
     ~ConfinedProcess() override;
 
-    // Starts the program, once. False, with errno, when there is no process; a program that cannot be run
-    // ends as NotStarted.
+    // Starts the program, once. False, with errno, if there is no process; a program that cannot be executed
+    // ends with NotStarted.
     bool start(const Call &call, const ProcessLimits &limits);
     bool isRunning() const { return bool(m_handle); }
-    // Ends everything; ended() follows.
+    // Kills all processes; ended() follows.
     void kill();
 
 Q_SIGNALS:
-    // The process and all it has started are gone, and so is the folder.
+    // The process and its child processes have ended, and the folder has been removed.
     void ended(host::ConfinedProcess::End end);
 
 private:
     void reap();
 
     std::optional<PrivateFolder> m_folder;
-    platform::UniqueFd m_handle; // of the process; none when it has been waited for
-    platform::UniqueFd m_report; // what it says before it becomes the program
+    platform::UniqueFd m_handle; // of the process; none after it has been waited for
+    platform::UniqueFd m_report; // messages before the program is executed
     pid_t m_process = -1;
     QSocketNotifier *m_notifier = nullptr;
 };

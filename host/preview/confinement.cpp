@@ -23,16 +23,16 @@
 #include <sys/resource.h>
 #include <sys/syscall.h>
 
-// Why not bubblewrap: it does everything through namespaces, so it fails altogether where those are not to be
-// had, as in a chroot or a container, while landlock and seccomp work there, too. It knows no landlock,
-// brings no filter of system calls, and would be one more program to install, to start before each other one
-// and to end with it. Its cost is about the same: bench/confinement_bench measures both.
+// bubblewrap is not used: it depends on namespaces, so it fails completely where they are not available, as
+// in a chroot or a container, while landlock and seccomp also work there. It supports no landlock, generates
+// no system call filter, and is an additional program to install, start and end. Its cost is similar:
+// bench/confinement_bench measures both.
 
 namespace host {
 
 namespace {
 
-// Of landlock, newer than the headers of the oldest supported system.
+// Attributes of landlock that are newer than the headers of the oldest supported system.
 struct RulesetAttributes
 {
     quint64 files;
@@ -48,11 +48,10 @@ constexpr quint64 execute = LANDLOCK_ACCESS_FS_EXECUTE;
 constexpr quint64 writeFile = LANDLOCK_ACCESS_FS_WRITE_FILE;
 constexpr quint64 keepFiles =
     readAll | writeFile | truncateFile | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE;
-// What makes sense for something that is no folder.
+// Access rights that apply to non-folders.
 constexpr quint64 ofFiles = readFile | writeFile | execute | truncateFile | ioctlDevice;
 
-// Programs, libraries, fonts and what comes with the print system. Nothing here belongs to a user or is
-// secret.
+// Programs, libraries, fonts and files of the print system. None of them belongs to a user or is secret.
 struct Place
 {
     const char *path;
@@ -68,8 +67,8 @@ constexpr Place places[] = {
     {"/dev/urandom", readFile},
 };
 
-// Sets of namespaces, the widest first. The ones without a user namespace are for root where there is none to
-// be had, as in a chroot.
+// Sets of namespaces, in order of preference. Those without a user namespace are for root if it is not
+// available, as in a chroot.
 constexpr quint64 withoutUsers = CLONE_NEWPID | CLONE_NEWNET | CLONE_NEWIPC;
 constexpr std::array<quint64, 4> namespaceSets = {CLONE_NEWUSER | CLONE_NEWNS | withoutUsers,
                                                   CLONE_NEWUSER | CLONE_NEWNS | CLONE_NEWNET | CLONE_NEWIPC,
@@ -85,7 +84,7 @@ int landlockVersion()
 
 quint64 filesHandledBy(int version)
 {
-    quint64 access = refer - 1; // all of version 1
+    quint64 access = refer - 1; // all rights of version 1
     access |= version >= 2 ? refer : 0;
     access |= version >= 3 ? truncateFile : 0;
     access |= version >= 5 ? ioctlDevice : 0;
@@ -113,7 +112,7 @@ bool writeTo(const char *path, QByteArrayView text) noexcept
 Confinement::Confinement(const QByteArray &program, const QByteArray &folder, int document, qint64 size)
     : m_folder(folder), m_folderOptions("mode=0700,nr_inodes=1000,size=" + QByteArray::number(size)),
       m_filter(&systemCallFilter()),
-      // A user without any rights in the namespace, whatever user it is outside.
+      // A user without privileges in the namespace, whatever the user outside.
       m_userMap("65534 " + QByteArray::number(geteuid()) + " 1"),
       m_groupMap("65534 " + QByteArray::number(getegid()) + " 1")
 {
@@ -130,7 +129,7 @@ Confinement::Confinement(const QByteArray &program, const QByteArray &folder, in
         allow(place.path, place.access);
     allow(program.constData(), readFile | execute);
     allow((cacheFolder() + "/fontconfig").constData(), readAll);
-    (void)addRule(m_rules.get(), document, readFile); // not of use for a file in memory, which needs no rule
+    (void)addRule(m_rules.get(), document, readFile); // fails for a file in memory, which needs no rule
 }
 
 QByteArray Confinement::cacheFolder()
@@ -138,7 +137,7 @@ QByteArray Confinement::cacheFolder()
     return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
 }
 
-// A place that is not there needs no rule.
+// Missing folders need no rule.
 void Confinement::allow(const char *path, quint64 access) const
 {
     const platform::UniqueFd place(::open(path, O_PATH | O_CLOEXEC));
@@ -152,11 +151,11 @@ void Confinement::allow(const char *path, quint64 access) const
 
 pid_t Confinement::start(int (*run)(void *), void *argument, platform::UniqueFd *handle)
 {
-    constexpr size_t room = 64 * 1024; // a new process calls the kernel, and little else
+    constexpr size_t room = 64 * 1024; // the new process makes few calls other than system calls
     std::vector<std::byte> stack(room);
     for (size_t set = firstUsableSet; set < namespaceSets.size(); ++set) {
         int descriptor = -1;
-        // No signal tells of the end, but the descriptor.
+        // Its end is reported through the descriptor instead of a signal.
         const auto flags = static_cast<int>(namespaceSets[set] | CLONE_PIDFD | CLONE_VM | CLONE_VFORK);
         m_hasUsers = (namespaceSets[set] & CLONE_NEWUSER) != 0;
         const pid_t process = ::clone(run, stack.data() + room, flags, argument, &descriptor);
@@ -180,8 +179,8 @@ void Confinement::enterNamespaces() const noexcept
     const bool isMapped = writeTo("/proc/self/setgroups", QByteArrayView("deny")) &&
                           writeTo("/proc/self/gid_map", m_groupMap) &&
                           writeTo("/proc/self/uid_map", m_userMap);
-    // The folder's content goes with the process, however it and this program end. Of other processes nothing
-    // is seen, which matters where there is no landlock.
+    // The file system in the folder ends with the process, however the process and this program end. /proc of
+    // other processes is hidden, which matters without landlock.
     constexpr rlimit64 fewProcesses = {64, 64}; // counted in this namespace
     ::syscall(SYS_prlimit64, 0, RLIMIT_NPROC, &fewProcesses, nullptr);
     constexpr unsigned long flags = MS_NOSUID | MS_NODEV | MS_NOEXEC;

@@ -14,35 +14,37 @@
 
 namespace host {
 
-// What keeps a program that reads a document from everything else: NO_NEW_PRIVS, no capabilities, landlock,
-// seccomp and namespaces, as far as the kernel has them. Where it lacks one, that is logged once in this
-// process, and the others hold. Prepared before the new process is created, and applied by that process with
-// system calls only. Used on one thread.
+// Isolates a program that reads a document: NO_NEW_PRIVS, no capabilities, landlock, seccomp and namespaces,
+// as far as the kernel supports them. A missing mechanism is logged once per process, and the others are
+// used. Prepared before the new process is created, and applied in that process with system calls only. Used
+// on one thread.
 class Confinement
 {
 public:
-    // Bits.
+    // A bit mask.
     enum Part : unsigned { Files = 1, SystemCalls = 2, Namespaces = 4, Privileges = 8 };
 
-    // `program` and `folder` are absolute paths, and the folder is the process's own. `document` is a
-    // descriptor that the program may open again; `size` is how much it may write into the folder, in bytes.
+    // `program` and `folder` are absolute paths, and the folder is used by this process only. `document` is a
+    // descriptor that the program may open again; `size` is the maximum size of the folder's contents in
+    // bytes.
     Confinement(const QByteArray &program, const QByteArray &folder, int document, qint64 size);
 
-    // The user's folder for caches (XDG_CACHE_HOME). Programs may read what fontconfig keeps there, and take
-    // much longer where the system's own cache is not up to date and this one is not known either.
+    // The user's cache folder (XDG_CACHE_HOME). Programs may read fontconfig's cache there; without it they
+    // take much longer if the system's cache is not up to date.
     static QByteArray cacheFolder();
 
-    // Creates a process in new namespaces, as far as they can be had, that calls `run`; fills in `handle`, a
-    // descriptor of the process. -1 with errno. As with vfork(), the process has this one's memory until
-    // exec, and this thread stands still: copying the page tables of a dialog takes longer than all the rest.
+    // Creates a process in new namespaces, as far as possible, that calls `run`. Sets `handle` to a
+    // descriptor of the process. -1 with errno. As with vfork(), the process shares this one's memory until
+    // exec, and this thread is suspended: copying the page tables of the dialog would take longer than
+    // everything else.
     pid_t start(int (*run)(void *), void *argument, platform::UniqueFd *handle);
 
-    // In the new process: enterNamespaces() first, giveUpRights() right before exec, since less is possible
-    // afterwards. The latter returns the parts that could not be applied.
+    // For the new process: call enterNamespaces() first, and giveUpRights() right before exec, since it
+    // restricts what is possible afterwards. Returns the parts that could not be applied.
     void enterNamespaces() const noexcept;
     unsigned giveUpRights() const noexcept;
 
-    // Logs which parts are missing, each once in this process.
+    // Logs missing parts, each once per process.
     static void logMissing(unsigned parts);
 
 private:
@@ -50,11 +52,11 @@ private:
 
     QByteArray m_folder;
     QByteArray m_folderOptions; // of the file system that is mounted there
-    platform::UniqueFd m_rules; // of landlock; none where the kernel has no landlock
+    platform::UniqueFd m_rules; // of landlock; none if the kernel has no landlock
     const std::vector<sock_filter> *m_filter;
     QByteArray m_userMap, m_groupMap;
     quint64 m_handledAccess = 0;
-    bool m_hasUsers = false; // a user namespace of its own
+    bool m_hasUsers = false; // has its own user namespace
 };
 
 } // namespace host

@@ -75,7 +75,7 @@ void LimitedProcess::start(const Call &call)
 
 void LimitedProcess::processEnded(ConfinedProcess::End end)
 {
-    // Programs copy their documents, and say of a file that is full what they say of a broken document.
+    // Programs copy their documents, and report a full file in the same way as a broken document.
     const bool isLarge = m_inputSize > m_limits.output / 2;
     struct stat facts = {};
     if (end == ConfinedProcess::End::NotStarted)
@@ -97,7 +97,7 @@ void LimitedProcess::stop()
     letGo();
 }
 
-// Ends the process. Nothing waits until it is gone.
+// Kills the process without waiting for it.
 void LimitedProcess::letGo()
 {
     if (!m_process)
@@ -105,7 +105,7 @@ void LimitedProcess::letGo()
     ConfinedProcess *const process = m_process.release();
     process->disconnect(this);
     if (!process->isRunning()) {
-        process->deleteLater(); // it may be what calls this
+        process->deleteLater(); // the process may be the caller
         return;
     }
     process->setParent(QCoreApplication::instance());

@@ -14,10 +14,11 @@
 
 namespace host {
 
-// A file that several may read at once. Those that processes write have no name and go with the last reader.
+// A file that can be read by several readers at the same time. Files written by processes are unlinked and
+// are freed with the last reader.
 using SharedFile = std::shared_ptr<const platform::UniqueFd>;
 
-// All that a file holds, mapped: valid for as long as this lives.
+// Maps the whole contents of a file; valid during the lifetime of this object.
 class FileView
 {
 public:
@@ -31,10 +32,9 @@ private:
     QByteArrayView m_bytes;
 };
 
-// A program that reads an untrusted document, confined (Confinement), with limits to its time, its memory and
-// what it writes; it is killed otherwise, or with this object. It finds its document as /dev/stdin; what it
-// writes to its standard output ends up in a file in memory. Its other output is dropped. Asynchronous; at
-// most one run at a time.
+// Runs a program that reads an untrusted document, confined (Confinement), with limits on time, memory and
+// output. It is killed if it exceeds them, or with this object. The document is /dev/stdin; the standard
+// output is written to a file in memory, other output is discarded. Asynchronous; at most one run at a time.
 class LimitedProcess : public QObject
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
         QString program; // a path
         QStringList arguments;
         SharedFile input;              // never null
-        QList<SharedFile> others = {}; // it finds them under pathFor()
+        QList<SharedFile> others = {}; // available to the program under pathFor()
         QStringList environment = {};  // NAME=VALUE, in addition
     };
 
@@ -53,18 +53,18 @@ public:
     ~LimitedProcess() override;
 
     void setLimits(const Limits &limits) { m_limits = limits; }
-    // Ends what runs, without a signal, and begins this.
+    // Kills the current run, without a signal, and starts a new one.
     void start(const Call &call);
     void stop();
     bool isRunning() const { return m_process != nullptr; }
-    // What it was ended for; null when it ended by itself. For messages.
+    // Why it was killed; null if it exited. For messages.
     const QString &problem() const { return m_problem; }
 
-    // What a program calls one of the others of its call.
+    // The path under which a program can open one of the other files of its call.
     static QString pathFor(const SharedFile &file);
 
 Q_SIGNALS:
-    // It has ended: with what it wrote, or with null when it failed.
+    // The program has ended: with its output, or with null if it failed.
     void ended(const host::SharedFile &output);
 
 private:

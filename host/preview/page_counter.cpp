@@ -38,7 +38,7 @@ QString valueOf(const PageSettings &settings, const QString &name)
     return option == settings.options.end() ? QString() : option->second;
 }
 
-// Without what has no part in how many pages a document has.
+// Removes settings that do not affect the number of pages of a document.
 PageSettings withoutChoiceOfPages(PageSettings settings)
 {
     settings.isMonochrome = false;
@@ -47,7 +47,7 @@ PageSettings withoutChoiceOfPages(PageSettings settings)
     return settings;
 }
 
-// Whether a side is among ranges such as "1-3,8,12-"; no ranges stand for all sides.
+// Whether a side is in ranges such as "1-3,8,12-"; an empty text means all sides.
 bool isInRanges(int side, const QString &text)
 {
     const QStringList parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
@@ -75,7 +75,7 @@ bool isInSet(int side, const QString &set)
 PageCounter::PageCounter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_process(nullptr)
 {
-    // Queued, since the maker goes on after the first of these, and is stopped there.
+    // Queued, since the maker continues after the first of these signals, and is stopped in the slot.
     connect(&m_maker, &PageMaker::documentMade, this, &PageCounter::documentMade, Qt::QueuedConnection);
     connect(
         &m_maker, &PageMaker::made, this, [this](const SharedFile &, bool asPrinted) { made(asPrinted); },
@@ -166,7 +166,7 @@ void PageCounter::next()
     platform::startBeside(
         this,
         [path = m_path]() -> Opened {
-            PrintError ignored; // the caller that prints is told
+            PrintError ignored; // printing reports it
             if (path == QLatin1String("-") || isStream(path))
                 return {};
             return {openDocument(path, &ignored), openFile(path)};
@@ -194,7 +194,8 @@ void PageCounter::opened(const Opened &opened)
     m_maker.make(document, opened.file, m_result.settings);
 }
 
-// A PDF file goes on to the filter that prints it, which refuses files that others can still read.
+// A PDF file is also checked with the filter that prints it, which rejects files that other programs can
+// still read.
 void PageCounter::documentMade(const SharedFile &pdf)
 {
     if (m_step != Step::Making)
@@ -284,7 +285,7 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
     if (counter.verdict().kind == PageVerdict::Kind::Pending)
         untilKnown.exec();
     PageVerdict verdict = counter.verdict();
-    for (const Document &document : documents) { // a file that came from a pipe has no name of its own
+    for (const Document &document : documents) { // a file from a pipe has no name
         if (verdict.kind == PageVerdict::Kind::Unreadable && document.path == verdict.path)
             verdict.message = unreadable(document.name, verdict.problem);
     }

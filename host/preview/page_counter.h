@@ -11,60 +11,61 @@
 
 namespace host {
 
-// Whether anything is printed of documents. A value.
+// Whether any page of the documents would be printed. A value.
 struct PageVerdict
 {
     enum class Kind {
-        Pending,    // the documents are still being looked at
-        Printable,  // something is printed, as far as that can be told here
-        Unreadable, // a document is broken, cut off or protected: nothing of it would be printed
-        NoPage      // the settings leave no page of any document
+        Pending,    // the documents are still being examined
+        Printable,  // pages would be printed, as far as known
+        Unreadable, // a document is broken, truncated or protected: none of its pages would be printed
+        NoPage      // the settings select no page of any document
     };
     Kind kind = Kind::Printable;
     QString path = {};    // of the unreadable document
-    QString problem = {}; // of it: the end of a sentence
+    QString problem = {}; // the problem with that document: the end of a sentence
     QString message = {}; // a sentence for the user; null unless the kind is Unreadable or NoPage
 };
 
-// Counts the pages of documents, before anything that settings do to them, and says whether any is printed.
-// The work is done by confined programs, one document after another; nothing blocks. What has been found out
-// about a document is kept as long as the counter lives.
+// Counts the pages of documents before settings are applied to them, and determines whether any would be
+// printed. Confined programs do the work, one document at a time; nothing blocks. Results are cached for the
+// lifetime of the counter.
 class PageCounter : public QObject
 {
     Q_OBJECT
 public:
     explicit PageCounter(const PageTools &tools, QObject *parent = nullptr);
 
-    // Begins to count the documents that are not known yet, instead of those of an earlier call; names as
-    // file_name.h has them. The settings count where the number of pages depends on them, as with text.
+    // Starts to count documents that are not known yet, in place of those of an earlier call. Names are
+    // encoded as in file_name.h. The settings matter only if the number of pages depends on them, as with
+    // text.
     void count(const QStringList &paths, const PageSettings &settings);
-    // 0 while that is not known, and where it cannot be.
+    // 0 if it is not known yet, or cannot be determined.
     int pagesOf(const QString &path) const { return isKnown(path) ? m_known.value(path).pages : 0; }
 
-    // The same, but looks only at what verdict() needs: PDF always, other documents where the settings choose
-    // pages.
+    // Like count(), but examines only what verdict() needs: PDF always, other documents only if the settings
+    // select pages.
     void check(const QStringList &paths, const PageSettings &settings);
-    // About the documents and settings of the last call of check() or count(). Never refuses a document that
-    // cannot be judged here, because a program is missing or takes too long.
+    // The verdict on the documents and settings of the last call of check() or count(). Never refuses a
+    // document that cannot be examined because a program is missing or takes too long.
     PageVerdict verdict() const;
 
 Q_SIGNALS:
-    // More is known than before.
+    // New results are available.
     void counted();
 
 private:
     struct Known
     {
         int pages = 0;
-        QString problem = {};    // why it cannot be printed, the end of a sentence; null when it can
-        bool isPicture = false;  // whose one page is printed whatever pages are chosen
-        bool wasSkipped = false; // since only the verdict was asked for
+        QString problem = {};    // why it cannot be printed, the end of a sentence; null if it can
+        bool isPicture = false;  // its only page is printed whatever pages are selected
+        bool wasSkipped = false; // because only the verdict was requested
         bool usesSettings = false;
         PageSettings settings = {};
     };
     struct Opened
     {
-        std::optional<Document> document; // empty when it cannot be counted
+        std::optional<Document> document; // empty if it cannot be counted
         SharedFile file;
     };
     enum class Step { Idle, Opening, Making, Counting, AskingForPassword, AskingForRights };
@@ -83,21 +84,22 @@ private:
     PageTools m_tools;
     PageMaker m_maker;
     LimitedProcess m_process;
-    PageSettings m_settings;     // without those that choose pages
-    QString m_ranges, m_pageSet; // which pages are chosen
+    PageSettings m_settings;     // without those that select pages
+    QString m_ranges, m_pageSet; // the selected pages
     int m_pagesPerSide = 1;
     bool m_isEachCounted = true;
     QStringList m_wanted;
-    QHash<QString, Known> m_known; // by path; those that cannot be counted, too
+    QHash<QString, Known> m_known; // by path; includes documents that cannot be counted
     Step m_step = Step::Idle;
-    QString m_path;   // of what is being counted
-    SharedFile m_pdf; // of it
+    QString m_path;   // the document being counted
+    SharedFile m_pdf; // its contents
     bool m_isPdf = false;
     bool m_isReadable = false; // the filter that prints it has read it
-    Known m_result;            // of it
+    Known m_result;            // its result so far
 };
 
-// Whether anything is printed of documents, for a caller that may wait: an event loop runs until it is known.
+// Determines whether any page of the documents would be printed. Runs an event loop until the result is
+// known.
 PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
                        const PageSettings &settings);
 

@@ -76,7 +76,7 @@ void PageMaker::convert()
 
 void PageMaker::layOut()
 {
-    // The filter for pictures has done it.
+    // Done by the filter for images.
     const bool isDone = m_document.format.startsWith(QLatin1String("image/"));
     if (isDone || m_tools.path(QStringLiteral("pdftopdf")).isEmpty()) {
         Q_EMIT made(m_pages, isDone);

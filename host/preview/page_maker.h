@@ -11,34 +11,34 @@
 
 namespace host {
 
-// What a document is made into: PDF, by the filters that the print system itself has for it, each a process
-// of its own. Keeps the document's own pages for the next settings. Asynchronous.
+// Converts a document to PDF with the filters of the print system, each in its own process. Caches the
+// document's own pages for other settings. Asynchronous.
 class PageMaker : public QObject
 {
     Q_OBJECT
 public:
-    // What there are no pages for.
+    // The cause of a failure.
     enum class Fault {
-        Document,  // a program says that it cannot be read
-        Selection, // the settings leave no page of it
-        Program    // it is missing, was ended by its limits or by an error of its own, or there is none
+        Document,  // a program reports that the document cannot be read
+        Selection, // the settings select no page of the document
+        Program    // a program is missing, exceeded its limits, failed, or does not exist for this format
     };
 
     PageMaker(const PageTools &tools, QObject *parent);
 
     void setLimits(const LimitedProcess::Limits &limits) { m_process.setLimits(limits); }
-    // Ends what is under way and begins this; the file is the document's, from its beginning.
+    // Starts a conversion in place of the current one; the file contains the document, from its beginning.
     void make(const Document &document, const SharedFile &file, const PageSettings &settings);
     void stop() { m_process.stop(); }
     bool isRunning() const { return m_process.isRunning(); }
 
 Q_SIGNALS:
-    // The document's own pages as PDF, before anything that the settings do to them. Comes before made(),
-    // and once a document unless the settings have a part in it, as with text.
+    // The document's own pages as PDF, before settings are applied. Emitted before made(), once per document
+    // unless the settings affect these pages, as with text.
     void documentMade(const host::SharedFile &pdf);
-    // The pages as they are printed. Without the filter for that, the document's own.
+    // The pages as they are printed. Without the filter for that, the document's own pages.
     void made(const host::SharedFile &pdf, bool asPrinted);
-    // Why there are none: the end of a sentence, such as "gs is not installed".
+    // Why there are no pages: the end of a sentence, such as "gs is not installed".
     void failed(const QString &reason, host::PageMaker::Fault fault);
 
 private:
@@ -55,11 +55,11 @@ private:
     LimitedProcess m_process;
     Document m_document;
     PageSettings m_settings;
-    SharedFile m_file;  // of the document, as it is after the last step
+    SharedFile m_file;  // result of the last step
     SharedFile m_pages; // the document's own
     Step m_step = Step::Unpack;
-    QString m_program;  // of the step
-    QString m_madeFrom; // path and, where they have a part in it, settings that m_pages was made for
+    QString m_program;  // of the current step
+    QString m_madeFrom; // path of m_pages and, if they matter, the settings
 };
 
 } // namespace host

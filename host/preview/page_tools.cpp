@@ -18,7 +18,8 @@ namespace host {
 
 namespace {
 
-// Whether a confined program can open the file again: without capabilities, root is a user like any other.
+// Whether a confined program can open the file: without capabilities, root has the permissions of an ordinary
+// user.
 bool isReadConfined(const platform::UniqueFd &file)
 {
     struct stat facts = {};
@@ -30,7 +31,7 @@ bool isReadConfined(const platform::UniqueFd &file)
 
 PageTools PageTools::installed()
 {
-    // Filters lie where the print system has been built to look for them.
+    // Filters are installed where the print system was configured to look for them.
     PageTools tools{{QStringLiteral("/usr/lib/cups/filter"), QStringLiteral("/usr/libexec/cups/filter"),
                      QStringLiteral("/usr/lib64/cups/filter")}};
     const QString path = qEnvironmentVariable("PATH", QStringLiteral("/usr/bin:/bin"));

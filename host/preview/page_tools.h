@@ -10,21 +10,21 @@
 
 namespace host {
 
-// Where the programs are that make and show pages: filters of the print system, Poppler's and Ghostscript's.
-// A value.
+// The locations of the programs that convert and render pages: filters of the print system, Poppler and
+// Ghostscript. A value.
 struct PageTools
 {
-    QStringList folders; // in the order they are searched
+    QStringList folders; // in search order
 
     static PageTools installed();
-    // The path of a program; empty when it is not installed.
+    // The path of a program; empty if it is not installed.
     QString path(const QString &program) const;
 };
 
-// A file in memory with this content; null when there is no memory for it.
+// A file in memory with this content; null if there is not enough memory.
 SharedFile inMemory(const QByteArray &content);
-// Opens a file for reading; null with errno. Root gets a copy without a name of what only another user may
-// read, since programs that read documents have no rights but a user's.
+// Opens a file for reading; null with errno. For root, a file that only another user may read is copied to an
+// unlinked file, since programs that read documents only have a user's permissions.
 SharedFile openFile(const QString &path);
 
 } // namespace host

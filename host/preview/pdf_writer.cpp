@@ -19,7 +19,7 @@ namespace {
 
 const QString joiner = QStringLiteral("qpdf");
 
-// The permissions that a new file gets.
+// The permissions of a new file.
 mode_t usualMode()
 {
     const mode_t mask = umask(0);
@@ -54,7 +54,7 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
     if (isThere && !S_ISREG(facts.st_mode))
         return problem(S_ISLNK(facts.st_mode) ? PdfWriter::tr("it is a link to another file")
                                               : PdfWriter::tr("it is not a file"));
-    // In the folder of the target, so that it can take its place in one step. A link that appears there
+    // In the folder of the target, so that it can replace the target atomically. A link that is created there
     // meanwhile is replaced, not followed.
     QByteArray temporary = target + ".XXXXXX";
     platform::UniqueFd file(mkostemp(temporary.data(), O_CLOEXEC));
@@ -74,7 +74,7 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
 PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_joiner(nullptr)
 {
-    LimitedProcess::Limits limits; // no user waits at the screen, and documents may be large
+    LimitedProcess::Limits limits; // the user is not waiting for a display, and documents may be large
     limits.time = std::chrono::minutes(10);
     limits.memory *= 4;
     limits.output *= 8;
@@ -82,7 +82,7 @@ PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     m_joiner.setLimits(limits);
     connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
     connect(&m_maker, &PageMaker::failed, this, [this](const QString &reason, PageMaker::Fault fault) {
-        if (fault == PageMaker::Fault::Selection) // another document may have such pages
+        if (fault == PageMaker::Fault::Selection) // another document may have selected pages
             proceed(reason);
         else
             fail(reason);
@@ -141,7 +141,7 @@ void PdfWriter::join()
         fail(tr("%1 is not installed").arg(joiner));
         return;
     }
-    // Sheets are turned for the printer; on a screen they are read as they were laid out.
+    // Sheets are rotated for the printer; a file shows them in reading orientation.
     QStringList arguments = {QStringLiteral("--empty"), QStringLiteral("--warning-exit-0"),
                              QStringLiteral("--pages")};
     for (const SharedFile &part : std::as_const(m_parts))

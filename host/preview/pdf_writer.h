@@ -11,26 +11,27 @@
 
 namespace host {
 
-// Writes documents, as they would be printed, into one PDF file: all of it, or nothing is changed. Never
-// waits. Lives for one file.
+// Writes documents, as they would be printed, to one PDF file, completely or not at all. Does not block. Used
+// for one file.
 class PdfWriter : public QObject
 {
     Q_OBJECT
 public:
     explicit PdfWriter(const PageTools &tools, QObject *parent = nullptr);
 
-    // The documents, at least one, are opened by their paths. A file that is there is replaced; a link, or
-    // what is no file, is refused. Names are as file_name.h has them.
+    // Starts writing. There must be at least one document; documents are opened by their paths. An existing
+    // file is replaced; a link, or a path that is not a regular file, is refused. Names are encoded as in
+    // file_name.h.
     void write(const QList<Document> &documents, const PageSettings &settings, const QString &path);
 
 Q_SIGNALS:
-    // With no error when the file has been written.
+    // The error is empty if the file was written.
     void ended(const host::PrintError &error);
 
 private:
     void makeNext();
     void made(const SharedFile &pdf, bool asPrinted);
-    // Goes on to the next document; with a problem when the last one gave no page.
+    // Continues with the next document; `problem` is set if the last one had no page.
     void proceed(const QString &problem);
     void join();
     void store(const SharedFile &pdf);
@@ -39,14 +40,13 @@ private:
     PageTools m_tools;
     PageMaker m_maker;
     LimitedProcess m_joiner;
-    QList<Document> m_documents; // still to be made; the first is under way
+    QList<Document> m_documents; // remaining documents; the first is being converted
     PageSettings m_settings;
     QString m_path;
     QList<SharedFile> m_parts;
 };
 
-// Puts all of `content` in the place of the file, which appears whole or not at all. Blocks. An error names
-// the file.
+// Atomically replaces the contents of the file with `content`. Blocks. An error contains the file name.
 PrintError replaceFile(const QString &path, const SharedFile &content);
 
 } // namespace host

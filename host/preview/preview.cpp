@@ -21,14 +21,14 @@ namespace {
 constexpr int thumbnailsAtOnce = 12;
 constexpr int pagesRoom = 48 * 1024;      // kilobytes
 constexpr int thumbnailsRoom = 24 * 1024; // kilobytes
-constexpr int mostPixels = 2000;          // of a picture's side; the renderer is asked for less
+constexpr int mostPixels = 2000;          // of an image's side; smaller images are requested
 constexpr int mostPages = 1'000'000;
 
 const QString renderer = QStringLiteral("pdftoppm");
 const QString counter = QStringLiteral("pdfinfo");
 const QString document = QStringLiteral("/dev/stdin");
 
-// The next number of a picture's head, behind white space; -1 when there is none.
+// The next number in an image header, after white space; -1 if there is none.
 int takeNumber(QByteArrayView *bytes)
 {
     qsizetype at = 0;
@@ -42,7 +42,7 @@ int takeNumber(QByteArrayView *bytes)
     return number;
 }
 
-// One picture in the simple formats for grey ("P5") and colour ("P6"); null when it is none.
+// One image in the binary PGM ("P5") or PPM ("P6") format; null if it is not valid.
 QImage takePicture(QByteArrayView *bytes)
 {
     const bool isGrey = bytes->startsWith("P5");
@@ -237,7 +237,7 @@ void Preview::counted(const SharedFile &output)
         return;
     }
     Q_EMIT changed();
-    for (const int index : m_pages.keys()) // drawn, and not told of before it was known how they lie
+    for (const int index : m_pages.keys()) // rendered, but not announced before the orientation was known
         if (m_facts)
             Q_EMIT pageMade(index);
     renderNext();
@@ -245,7 +245,7 @@ void Preview::counted(const SharedFile &output)
 
 QImage Preview::upright(const QImage *picture) const
 {
-    // Upside down is what the user asked for; sideways is how the printer takes the paper.
+    // The rotation by 180° was requested by the user; a rotation by 90° is how the printer takes the paper.
     const int rotation = m_facts && m_isAsPrinted ? m_facts->rotation : 0;
     return rotation % 180 == 0 ? *picture : picture->transformed(QTransform().rotate(-rotation));
 }
@@ -266,7 +266,7 @@ QImage Preview::thumbnail(int index)
 {
     if (const QImage *known = m_thumbnails.object(index))
         return upright(known);
-    if (m_wantedThumbnail < 0) // a view asks again for what is not there yet
+    if (m_wantedThumbnail < 0) // views request missing pages again
         m_wantedThumbnail = index;
     renderNext();
     return {};
@@ -285,13 +285,14 @@ void Preview::renderNext()
 {
     if (!m_isWatched || !m_pdf)
         return;
-    if (m_wantedPage >= 0 && m_pageUnderWay != m_wantedPage) { // whatever else is under way is not looked at
+    // the current run is for a page that is no longer needed
+    if (m_wantedPage >= 0 && m_pageUnderWay != m_wantedPage) {
         m_pageUnderWay = m_wantedPage;
         render(&m_pageRenderer, m_pageUnderWay, m_pageUnderWay, pagePixels);
     }
-    if (m_facts && m_wantedThumbnail >= m_facts->pages) // there were more pages when it was asked for
+    if (m_facts && m_wantedThumbnail >= m_facts->pages) // there were more pages when it was requested
         m_wantedThumbnail = -1;
-    // Not before the large page: that one is waited for.
+    // Not before the large page, which has priority.
     if (m_wantedThumbnail < 0 || m_thumbnailUnderWay >= 0 || !m_facts || m_pageUnderWay >= 0)
         return;
     const int last = qMin(m_wantedThumbnail + thumbnailsAtOnce, m_facts->pages) - 1;
@@ -305,7 +306,7 @@ void Preview::keepPage(const SharedFile &output)
     const int index = std::exchange(m_pageUnderWay, -1);
     m_wantedPage = -1;
     const QList<QImage> pictures = readPictures(output);
-    // One that cannot be made is not tried again.
+    // A page that cannot be rendered is not tried again.
     const QImage picture = pictures.isEmpty() ? QImage() : pictures.first();
     m_pages.insert(index, new QImage(picture), 1 + picture.sizeInBytes() / 1024);
     if (picture.isNull() && index == 0) {
@@ -314,7 +315,7 @@ void Preview::keepPage(const SharedFile &output)
                                : tr("%1 failed: %2").arg(renderer, problem));
         return;
     }
-    if (m_facts) // else counted() tells of it
+    if (m_facts) // otherwise counted() announces it
         Q_EMIT pageMade(index);
     renderNext();
 }

@@ -16,21 +16,21 @@
 
 namespace host {
 
-// What was found out about a PDF file.
+// Properties of a PDF file.
 struct PageFacts
 {
     int pages = 0;
-    QSizeF size;      // of the first page as it is shown, in points
-    int rotation = 0; // of the first page: degrees clockwise, from how it was laid out
+    QSizeF size;      // of the first page as displayed, in points
+    int rotation = 0; // of the first page: degrees clockwise, relative to its layout
 };
-// From what pdfinfo says of it; null when that makes no sense.
+// Parses the output of pdfinfo; null if it is not valid.
 std::optional<PageFacts> readPageFacts(const SharedFile &text);
-// The pictures that pdftoppm has written one behind the other, up to the first that makes no sense.
+// Parses the concatenated images that pdftoppm has written, up to the first invalid one.
 QList<QImage> readPictures(const SharedFile &file);
 
-// Pictures of the pages of one document as they would be printed. All of it is made by programs apart from
-// this one, with limits; nothing waits. Pages are counted from 0 as they come out of the printer: sides of
-// paper. Pictures are kept as long as there is room for them.
+// Images of the pages of one document as they would be printed. They are made by separate programs with
+// limits; nothing blocks. Pages are counted from 0 in the order in which they are printed, as sides of paper.
+// Images are cached up to a size limit.
 class Preview : public QObject
 {
     Q_OBJECT
@@ -39,21 +39,21 @@ public:
     ~Preview() override;
 
     void setLimits(const LimitedProcess::Limits &limits);
-    // Begins anew with a document; the name is that of a file (file_name.h), read on a worker thread.
+    // Starts with a new document; the name is that of a file (file_name.h), which is read on a worker thread.
     void setDocument(const QString &path);
     void setSettings(const PageSettings &settings);
-    // While the preview is hidden nothing runs, and nothing is forgotten.
+    // While the preview is hidden nothing runs; the cache is kept.
     void setWatched(bool watched);
 
     // Null until known.
     const std::optional<PageFacts> &facts() const { return m_facts; }
-    // False where the filter that lays pages out is missing: what is shown are the document's own.
+    // False if the filter for page layout is missing, so that the document's own pages are shown.
     bool isAsPrinted() const { return m_isAsPrinted; }
-    // Why there is nothing to see; null when there is, or will be.
+    // Why nothing can be shown; null if pages are shown, or will be.
     const QString &problem() const { return m_problem; }
 
-    // A page as it was laid out, of about this height or width in pixels, whichever is more; null when it is
-    // still to be made, which begins now: pageMade() follows. The last one asked for of each size is made
+    // A page in its layout orientation, of about this height or width in pixels, whichever is larger. Null if
+    // it has to be rendered, which starts now: pageMade() follows. The last request of each size is processed
     // first.
     QImage page(int index);
     QImage thumbnail(int index);
@@ -61,7 +61,7 @@ public:
     static constexpr int thumbnailPixels = 120;
 
 Q_SIGNALS:
-    // Facts or the problem are others.
+    // The facts or the problem have changed.
     void changed();
     void pageMade(int index);
     void thumbnailsMade(int first, int last);
@@ -92,19 +92,19 @@ private:
     LimitedProcess m_pageRenderer;
     LimitedProcess m_thumbnailRenderer;
     QString m_path;
-    int m_opening = 0; // counts the documents, to know the latest
+    int m_opening = 0; // number of the latest document
     std::optional<Opened> m_opened;
     PageSettings m_settings;
     SharedFile m_pdf; // as printed
     bool m_isWatched = false;
-    bool m_isStale = true; // the pages are to be made anew
+    bool m_isStale = true; // the pages have to be made again
     bool m_isAsPrinted = true;
     std::optional<PageFacts> m_facts;
     QString m_problem;
     QCache<int, QImage> m_pages, m_thumbnails; // cost in kilobytes
-    int m_lookedAt = -1;                       // the page that was asked for last
+    int m_lookedAt = -1;                       // the page that was requested last
     int m_wantedPage = -1, m_wantedThumbnail = -1;
-    int m_pageUnderWay = -1, m_thumbnailUnderWay = -1; // the first
+    int m_pageUnderWay = -1, m_thumbnailUnderWay = -1; // the first of the run
 };
 
 } // namespace host

@@ -16,14 +16,14 @@ namespace host {
 
 PrivateFolder::PrivateFolder()
 {
-    const QByteArray usual = qgetenv("TMPDIR"); // QDir::tempPath() is empty where this names no folder
+    const QByteArray usual = qgetenv("TMPDIR"); // QDir::tempPath() is empty if this is not a folder
     QByteArray path = (usual.startsWith('/') ? usual : QByteArray("/tmp")) + "/kelmar-print-XXXXXX";
     if (mkdtemp(path.data()))
         m_path = path;
 }
 
-// Removes a few files at once, as a program that was ended leaves them. A folder that a program has filled
-// takes longer and is removed on a worker thread.
+// Removes a few files at once, such as those of a killed program. A folder with many files is removed on a
+// worker thread, since this takes longer.
 void PrivateFolder::remove()
 {
     constexpr int few = 200;

@@ -9,12 +9,12 @@
 
 namespace host {
 
-// A new, empty folder that only this user can enter, below the usual one for temporary files. It is removed,
-// with all that is in it, when the object is destroyed. Movable.
+// A new, empty folder that only this user can access, in the folder for temporary files. Removed with all its
+// contents when the object is destroyed. Movable.
 class PrivateFolder
 {
 public:
-    // Null, with errno, when it cannot be made: isNull().
+    // isNull(), with errno, if it cannot be created.
     PrivateFolder();
     ~PrivateFolder() { remove(); }
     PrivateFolder(PrivateFolder &&other) noexcept : m_path(std::exchange(other.m_path, {})) {}

@@ -25,7 +25,7 @@ struct ReleaseFilter
 using Filter = std::unique_ptr<void, ReleaseFilter>;
 
 constexpr const char *refused[] = {
-    // Other programs: sockets, System V and POSIX queues
+    // Communication with other programs: sockets, System V and POSIX queues
     "socket", "socketpair", "socketcall", "connect", "bind", "listen", "accept", "accept4", "sendto",
     "sendmsg", "sendmmsg", "recvfrom", "recvmsg", "recvmmsg", "ipc", "shmget", "shmat", "msgget", "semget",
     "mq_open",
@@ -34,9 +34,9 @@ constexpr const char *refused[] = {
     "pidfd_send_signal", "ptrace", "process_vm_readv", "process_vm_writev", "process_madvise",
     "process_mrelease", "kcmp", "migrate_pages", "move_pages", "setpriority", "ioprio_set", "sched_setparam",
     "sched_setscheduler", "sched_setattr", "sched_setaffinity",
-    // The process tree, which ends as a whole
+    // Changes to the process tree, which is killed as a whole
     "setsid", "setpgid", "vhangup",
-    // What landlock leaves open: the attributes of files, and files that older kernels do not protect
+    // Not covered by landlock: attributes of files, and files that older kernels do not protect
     "chmod", "fchmod", "fchmodat", "chown", "chown32", "fchown", "fchown32", "lchown", "lchown32", "fchownat",
     "setxattr", "lsetxattr", "fsetxattr", "removexattr", "lremovexattr", "fremovexattr", "utime", "utimes",
     "futimesat", "utimensat", "utimensat_time64", "truncate", "truncate64", "mkdir", "mkdirat", "mknod",
@@ -45,7 +45,7 @@ constexpr const char *refused[] = {
     // Namespaces and mounts
     "unshare", "setns", "chroot", "pivot_root", "mount", "umount", "umount2", "open_tree", "move_mount",
     "fsopen", "fsconfig", "fsmount", "fspick", "mount_setattr",
-    // Parts of the kernel that have been attacked, or that administer the machine
+    // Kernel interfaces with a large attack surface, or for system administration
     "bpf", "perf_event_open", "userfaultfd", "io_uring_setup", "io_uring_enter", "io_uring_register",
     "add_key", "request_key", "keyctl", "personality", "modify_ldt", "vm86", "vm86old", "iopl", "ioperm",
     "kexec_load", "kexec_file_load", "init_module", "finit_module", "delete_module", "reboot", "swapon",
@@ -53,7 +53,8 @@ constexpr const char *refused[] = {
     "clock_settime64", "clock_adjtime", "adjtimex", "sethostname", "setdomainname", "uselib",
     "lookup_dcookie", "nfsservctl"};
 
-// Of the same kinds, newer than some libseccomp knows. Numbers since 424 are the same on all architectures.
+// The same kinds of calls, but newer than some versions of libseccomp. Numbers from 424 on are the same on
+// all architectures.
 constexpr int refusedNumbers[] = {452 /* fchmodat2 */, 463 /* setxattrat */, 466 /* removexattrat */,
                                   467 /* open_tree_attr */, 469 /* file_setattr */};
 
@@ -67,7 +68,7 @@ void refuse(const Filter &filter, const char *name, const scmp_arg_cmp &argument
         (void)seccomp_rule_add_array(filter.get(), SCMP_ACT_ERRNO(EPERM), number, 1, &argument);
 }
 
-// Calls that are refused with some arguments only.
+// Calls that are refused only with certain arguments.
 void refuseArguments(const Filter &filter)
 {
 #ifdef __s390__
@@ -77,11 +78,12 @@ void refuseArguments(const Filter &filter)
 #endif
     for (const unsigned long flag : newNamespaces)
         refuse(filter, "clone", {flags, SCMP_CMP_MASKED_EQ, flag, flag});
-    // Its flags are in memory, where no filter sees them; the C library takes clone() instead.
+    // Its flags are in memory, which filters cannot read; the C library falls back to clone().
     (void)seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0);
-    refuse(filter, "prlimit64", {0, SCMP_CMP_NE, 0, 0});                   // of another process
-    refuse(filter, "prctl", {0, SCMP_CMP_EQ, PR_SET_PDEATHSIG, 0});        // to outlive the dialog
-    refuse(filter, "ioctl", {1, SCMP_CMP_MASKED_EQ, 0xffffffff, TIOCSTI}); // types into a terminal
+    refuse(filter, "prlimit64", {0, SCMP_CMP_NE, 0, 0});            // for another process
+    refuse(filter, "prctl", {0, SCMP_CMP_EQ, PR_SET_PDEATHSIG, 0}); // would allow it to outlive the dialog
+    // would insert input into a terminal
+    refuse(filter, "ioctl", {1, SCMP_CMP_MASKED_EQ, 0xffffffff, TIOCSTI});
 }
 
 std::vector<sock_filter> build()
@@ -92,7 +94,7 @@ std::vector<sock_filter> build()
         return {};
     for (const char *name : refused) {
         const int number = seccomp_syscall_resolve_name(name);
-        if (number != __NR_SCMP_ERROR) // else this architecture or library has none of that name
+        if (number != __NR_SCMP_ERROR) // otherwise unknown to this architecture or library
             (void)seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), number, 0);
     }
     for (const int number : refusedNumbers)

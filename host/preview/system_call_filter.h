@@ -9,10 +9,10 @@
 
 namespace host {
 
-// The seccomp program for those that read documents. It refuses, with EPERM, all that reaches beyond the
-// process and its files: sockets, signals, other processes, sessions and process groups, permissions of
-// files, namespaces, mounts and what administers the machine. Built on first use, kept for the life of this
-// process. Empty where libseccomp or the kernel cannot do it. Thread-safe.
+// The seccomp program for programs that read documents. It refuses, with EPERM, all calls that affect more
+// than the process and its files: sockets, signals, other processes, sessions and process groups, permissions
+// of files, namespaces, mounts and system administration. Built on first use and kept for the lifetime of
+// this process. Empty if libseccomp or the kernel does not support it. Thread-safe.
 const std::vector<sock_filter> &systemCallFilter();
 
 } // namespace host

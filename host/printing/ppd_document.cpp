@@ -77,7 +77,7 @@ PrintError tooLarge(const QString &name)
         PpdDocumentText::tr("%1 is too large: more than %2 MB.").arg(name).arg(PpdDocument::mostBytes >> 20)};
 }
 
-// Options that change the page size when they are marked, so that the page size must be marked last.
+// PageRegion sets the same size as PageSize, so it is not listed as an option of its own.
 bool isShadowOfPageSize(const char *keyword)
 {
     return qstrcmp(keyword, "PageRegion") == 0;

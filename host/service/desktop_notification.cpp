@@ -15,7 +15,7 @@ namespace host {
 namespace {
 
 constexpr int patience = 5'000;     // milliseconds
-constexpr int desktopsOwnTime = -1; // that a notification is shown
+constexpr int desktopsOwnTime = -1; // the duration is chosen by the desktop
 constexpr uint newNotification = 0;
 enum Urgency : uchar { Normal = 1, Critical = 2 };
 

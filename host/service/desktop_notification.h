@@ -8,8 +8,8 @@ class QDBusConnection;
 
 namespace host {
 
-// Shows a notification on the desktop: `notice` is a JSON object with "title" and "text", both plain text,
-// and "urgent". False when the desktop does not show any.
+// Shows a desktop notification: `notice` is a JSON object with "title" and "text", both plain text, and
+// "urgent". False if the desktop shows no notifications.
 bool showDesktopNotification(const QDBusConnection &bus, const QByteArray &notice);
 
 } // namespace host

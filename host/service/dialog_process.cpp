@@ -13,7 +13,7 @@ namespace host {
 namespace {
 
 constexpr std::chrono::seconds closingTime(20);
-constexpr qsizetype mostUnread = 4 * 1024 * 1024; // bytes; an answer is some kilobytes
+constexpr qsizetype mostUnread = 4 * 1024 * 1024; // bytes; an answer has a few kilobytes
 
 QJsonObject failure()
 {
@@ -26,7 +26,7 @@ DialogProcess::DialogProcess(const QString &program, QObject *parent) : QObject(
 {
     m_process.setProgram(program);
     m_process.setArguments({QStringLiteral("--dialog-request")});
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel); // to the journal
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel); // appears in the journal
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &DialogProcess::read);
     connect(&m_process, &QProcess::finished, this, &DialogProcess::finish);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
@@ -57,7 +57,7 @@ void DialogProcess::closeAbandoned()
 
 void DialogProcess::read()
 {
-    m_document.reset(); // the process has its own by now
+    m_document.reset(); // the process has its own descriptor now
     m_unread += m_process.readAllStandardOutput();
     for (qsizetype end = m_unread.indexOf('\n'); end >= 0; end = m_unread.indexOf('\n')) {
         const QByteArray line = m_unread.left(end);

@@ -11,31 +11,31 @@
 
 namespace host {
 
-// One dialog: a process of kelmar-print that gets one request on its standard input and writes what became of
-// it, one JSON object a line, to its standard output. What goes wrong in it stays in it. Lives at least until
-// ended().
+// One dialog: a kelmar-print process that reads one request from its standard input and writes its results to
+// its standard output, one JSON object per line. A failure of the process affects no other request. Must live
+// at least until ended().
 class DialogProcess : public QObject
 {
     Q_OBJECT
 public:
     DialogProcess(const QString &program, QObject *parent);
 
-    // The process inherits `document`, whose number is added to the request.
+    // Starts the process, which inherits `document`; its number is added to the request.
     void start(QJsonObject request, platform::UniqueFd document);
-    // Asks the dialog to close. It does, unless the user has printed with it already or it has a document and
-    // has been shown.
+    // Asks the dialog to close. It stays open if the user has already printed with it, or if it has a
+    // document and was visible.
     void close() { m_process.closeWriteChannel(); }
-    // The same for a dialog without a document whose application has left the bus: the user is told. A dialog
-    // that does not react in time is killed.
+    // The same for a dialog without a document whose application has left the bus: the user is informed. A
+    // dialog that does not close in time is killed.
     void closeAbandoned();
 
 Q_SIGNALS:
-    // The dialog can be seen.
+    // The dialog is visible.
     void shown();
-    // Emitted once, whatever happens. "response" is 0 (done), 1 (cancelled) or 2 (anything else); "reason" of
-    // the last is "display", "document", "ended" (the process, without an answer) or missing.
+    // Emitted exactly once. "response" is 0 (done), 1 (cancelled) or 2 (other); in the last case "reason" is
+    // "display", "document", "ended" (the process exited without an answer) or missing.
     void answered(const QJsonObject &answer);
-    // The process is gone. Comes last.
+    // The process has exited. The last signal.
     void ended();
 
 private:

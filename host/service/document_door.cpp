@@ -22,12 +22,13 @@ namespace {
 constexpr qsizetype longestTitle = 1000;        // characters
 constexpr qsizetype longestOptions = 64 * 1024; // bytes
 
-// All users of the queue of one session bus are one user.
+// The session bus belongs to one user, so all requests of the queue are from that user.
 const QString queueClient = QStringLiteral("queue");
-// The queue serves other users, too. A dialog that opens later than this has the document without it.
+// The queue must not be blocked for other users. A dialog that takes longer to open keeps the document
+// without the queue.
 constexpr std::chrono::seconds longestHold(5);
 
-constexpr int otherResponse = 2; // neither done nor cancelled
+constexpr int otherResponse = 2; // neither done nor canceled
 
 QDBusMessage errorReply(const QDBusMessage &call, const QString &reason)
 {
@@ -46,7 +47,7 @@ QDBusMessage errorReply(const QDBusMessage &call, const QString &reason)
                                  QLatin1String(found->text));
 }
 
-// One document and its dialog. Deletes itself when the dialog is gone.
+// One document and its dialog. Deletes itself when the dialog has exited.
 class OpenedDocument : public QObject
 {
 public:
@@ -55,7 +56,7 @@ public:
           m_dialog(m_program, this),
           m_caller(message.service(), bus, QDBusServiceWatcher::WatchForUnregistration)
     {
-        // A queue that does not wait any more keeps its job; the same document is not opened a second time.
+        // If the queue stops waiting, it keeps its job, and the document must not be opened a second time.
         connect(&m_caller, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
             if (!m_replied)
                 m_dialog.close();
@@ -79,7 +80,7 @@ public:
 private:
     void accept() { reply(m_message.createReply()); }
 
-    // The process may still show a message of its own.
+    // The process may still be showing a message.
     void finish(const QJsonObject &answer)
     {
         const QString reason = answer.value(QLatin1String("reason")).toString();
@@ -92,7 +93,7 @@ private:
             tellLoss();
     }
 
-    // The queue has forgotten its job, and the dialog has crashed before it could be seen.
+    // The queue no longer has its job, and the dialog has crashed before it was visible.
     void tellLoss()
     {
         qCWarning(lcService) << "a dialog has ended before it was shown; its document is lost";

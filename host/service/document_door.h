@@ -12,8 +12,7 @@
 
 namespace host {
 
-// Opens the dialog with a document: the queue that applications print to hands it over here. Life is
-// borrowed.
+// The D-Bus object that opens the dialog with a document from the queue "KELMAR dialog". `life` is borrowed.
 class DocumentDoor : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -25,10 +24,10 @@ public:
     static QString objectPath() { return QStringLiteral("/org/kelmar/Print1"); }
 
 public Q_SLOTS:
-    // Answers when the dialog is visible, or when it takes longer to open than the queue can wait; then the
-    // document is the service's. `title` and `options`, job options as lp takes them, are bytes that have not
-    // been checked yet. Answers an error, one of org.kelmar.Print1.Error.{TooManyDialogs, NoDisplay,
-    // BadDocument, NoDialog}, when the queue is to keep the job.
+    // Answers when the dialog is visible, or when it takes longer to open than the queue can wait; the
+    // service then owns the document. `title` and `options`, job options in the syntax of lp, are unvalidated
+    // bytes. If the queue has to keep the job, answers one of the errors
+    // org.kelmar.Print1.Error.{TooManyDialogs, NoDisplay, BadDocument, NoDialog}.
     Q_SCRIPTABLE void OpenDocument(const QDBusUnixFileDescriptor &document, const QByteArray &title,
                                    uint copies, const QByteArray &options);
 

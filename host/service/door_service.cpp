@@ -28,11 +28,11 @@ bool DoorService::start()
         qCWarning(lcService).noquote() << "no session bus:" << m_bus.lastError().message();
         return false;
     }
-    // QtDBus does not end a program when its bus does.
+    // QtDBus does not end a program when the bus disconnects.
     m_bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                   QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                   SLOT(busHasGone()));
-    // Types of arguments that nothing has been called with yet; introspection leaves them out otherwise.
+    // Types of arguments that were not used in a call yet; introspection omits them otherwise.
     qRegisterMetaType<QDBusObjectPath>();
     qRegisterMetaType<QDBusUnixFileDescriptor>();
     const auto exported = QDBusConnection::ExportScriptableSlots;
@@ -42,7 +42,7 @@ bool DoorService::start()
     return takeNames();
 }
 
-// In this order, so that of two that are started at once for one name each the same one gets both.
+// Always in this order, so that if two services start at the same time, the same one gets both names.
 bool DoorService::takeNames()
 {
     for (const QString &name : {PrintPortal::serviceName(), DocumentDoor::serviceName()}) {
@@ -54,12 +54,12 @@ bool DoorService::takeNames()
     return true;
 }
 
-// Gives the names back first: what is called from then on starts a new service, and what was called before
-// has arrived here when the bus has answered.
+// Releases the names first: later calls start a new service, and earlier calls have arrived here when the bus
+// has answered.
 void DoorService::leaveWhenIdle()
 {
     if (!m_tokens.isEmpty())
-        return; // touched again when there are none left
+        return; // touch() restarts the timer after the last request
     m_bus.unregisterService(DocumentDoor::serviceName());
     m_bus.unregisterService(PrintPortal::serviceName());
     QCoreApplication::processEvents();
@@ -69,7 +69,7 @@ void DoorService::leaveWhenIdle()
         QCoreApplication::quit();
 }
 
-// At once, without tearing anything down: dialogs that are open decide for themselves what to do about it.
+// Exits at once without cleaning up: each open dialog handles this itself.
 void DoorService::busHasGone()
 {
     ::_exit(0);

@@ -13,14 +13,15 @@
 
 namespace host {
 
-// The service on a user's bus: its names, its two doors, and its end. Lives as long as the program.
+// The service on a user's bus: its names, its two D-Bus objects, and its lifetime. Lives as long as the
+// program.
 class DoorService : public QObject
 {
     Q_OBJECT
 public:
     DoorService(const QDBusConnection &bus, const QString &dialogProgram, std::chrono::milliseconds idleTime);
 
-    // False when there is no bus, or another one serves it already.
+    // False if there is no bus, or another service already owns the names.
     bool start();
 
 private Q_SLOTS:

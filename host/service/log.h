@@ -5,5 +5,5 @@
 
 #include <QLoggingCategory>
 
-// "kelmar.service". Messages never hold settings: some are codes.
+// "kelmar.service". Messages never contain settings, since some are codes.
 Q_DECLARE_LOGGING_CATEGORY(lcService)

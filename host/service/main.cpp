@@ -20,7 +20,7 @@ using namespace host;
 
 namespace {
 
-// The program in this one's folder, as in a build folder, else in the folder that programs are installed in.
+// The program in the folder of this one, as in a build tree, else in the folder for installed programs.
 QString dialogProgram()
 {
     const QString here = QCoreApplication::applicationDirPath();
@@ -30,8 +30,8 @@ QString dialogProgram()
                : QFileInfo(here + QStringLiteral("/../bin/kelmar-print")).absoluteFilePath();
 }
 
-// Gives back what starting has read of one library: the part that is neither code nor variables holds symbols
-// and relocations before all. The pages are the file's own and come back when they are looked at.
+// Releases the pages of one library that were read during start-up and are neither code nor data, mainly
+// symbols and relocations. They are mapped from the file and are read again when needed.
 int forgetConstants(dl_phdr_info *library, size_t, void *)
 {
     const auto pageSize = static_cast<ElfW(Addr)>(::sysconf(_SC_PAGESIZE));
@@ -65,9 +65,8 @@ int main(int argc, char **argv)
     const QCommandLineOption idle(QStringLiteral("idle"),
                                   QStringLiteral("Exit after this number of idle seconds."),
                                   QStringLiteral("seconds"), QStringLiteral("30"));
-    const QCommandLineOption notice(
-        QStringLiteral("notify"),
-        QStringLiteral("Show the notification from standard input and exit."));
+    const QCommandLineOption notice(QStringLiteral("notify"),
+                                    QStringLiteral("Show the notification from standard input and exit."));
     parser.addOptions({program, idle, notice});
     parser.process(app);
     if (parser.isSet(notice)) {
@@ -87,8 +86,8 @@ int main(int argc, char **argv)
     DoorService service(QDBusConnection::sessionBus(), parser.value(program), idleTime);
     if (!service.start())
         return 1;
-    // The service runs as long as the user's session. What has been looked at once takes a third of its
-    // memory.
+    // The service runs as long as the user's session. Pages that were only used during start-up are a third
+    // of its memory.
     ::dl_iterate_phdr(forgetConstants, nullptr);
     return QCoreApplication::exec();
 }

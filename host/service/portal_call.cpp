@@ -14,8 +14,9 @@ namespace {
 
 enum Response : uint { Done = 0, Cancelled = 1, Other = 2 };
 
-// The unique name of the application on the bus, from the handle of its request:
-// /org/freedesktop/portal/desktop/request/1_42/TOKEN is of ":1.42". Empty when the handle has another form.
+// The application's unique bus name, from the handle of its request:
+// /org/freedesktop/portal/desktop/request/1_42/TOKEN belongs to ":1.42". Empty if the handle has another
+// form.
 QString senderOf(const QString &handle)
 {
     const QString prefix = QStringLiteral("/org/freedesktop/portal/desktop/request/");
@@ -47,7 +48,7 @@ void PortalCall::run(const QString &handle, const QJsonObject &request, platform
     m_handle = handle;
     connect(&m_dialog, &DialogProcess::answered, this, [this, results](const QJsonObject &answer) {
         const int response = answer.value(QLatin1String("response")).toInt(Other);
-        if (m_replied) // withdrawn; what was chosen is of no use any more
+        if (m_replied) // withdrawn; the settings are no longer needed
             return;
         if (response == Done)
             reply(Done, results(answer));
@@ -72,7 +73,7 @@ void PortalCall::watchCallers(const QString &handle)
     }
     if (application.isEmpty())
         return;
-    // The application may have left before it was watched.
+    // The application may have left the bus before it was watched.
     QDBusMessage question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));

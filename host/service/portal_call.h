@@ -16,26 +16,26 @@
 
 namespace host {
 
-// One call of the portal and the dialog it opens: answers the call once, and is on the bus under the call's
-// handle until then, so that the portal can take it back. A dialog without a document closes, too, when the
-// application or the portal has left the bus. Deletes itself when the dialog is gone.
+// One call of the portal and its dialog. Answers the call once; until then it is exported on the bus under
+// the call's handle, so that the portal can withdraw it. A dialog without a document also closes when the
+// application or the portal leaves the bus. Deletes itself when the dialog has exited.
 class PortalCall : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
 public:
-    // What a call results in when the dialog was accepted.
+    // Converts the answer of a confirmed dialog to the results of the call.
     using Results = std::function<QVariantMap(const QJsonObject &answer)>;
 
-    // `client` is the application as ServiceLife counts it.
+    // `client` identifies the application for ServiceLife.
     PortalCall(ServiceLife &life, const QString &client, const QDBusConnection &bus,
                const QDBusMessage &message);
 
-    // `handle` is where the request is exported. `isJob` means that there is a document: the request can be
-    // forgotten, the work goes on.
+    // `handle` is the object path of the request. `isJob` means that there is a document: withdrawing the
+    // request does not stop the job.
     void run(const QString &handle, const QJsonObject &request, platform::UniqueFd document, bool isJob,
              const Results &results);
-    // Answers without a dialog; `reason` goes to the application.
+    // Answers without a dialog; `reason` is sent to the application.
     void refuse(const QString &reason);
 
 public Q_SLOTS:
@@ -49,7 +49,7 @@ private:
     ServiceLife::Use m_use;
     QDBusConnection m_bus;
     QDBusMessage m_message;
-    QString m_handle; // empty when nothing is exported
+    QString m_handle; // empty if nothing is exported
     DialogProcess m_dialog;
     QDBusServiceWatcher m_callers;
     bool m_isJob = false;

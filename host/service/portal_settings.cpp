@@ -17,7 +17,7 @@ constexpr qsizetype longestName = 256;
 constexpr qsizetype longestValue = 4096; // characters
 constexpr qsizetype mostValues = 4096;
 constexpr int mostCopies = 9999;
-constexpr int afterAllPages = 999'999; // for ranges that are open at their end
+constexpr int afterAllPages = 999'999; // the end of open ranges
 
 const QString optionPrefix = QStringLiteral("cups-");
 
@@ -38,7 +38,7 @@ QString textOf(const QJsonObject &object, const char *name)
     return object.value(QLatin1String(name)).toString();
 }
 
-// From a list of ranges counted from `from` to one counted from `to`. Empty when it is no such list.
+// Converts a list of ranges counted from `from` to one counted from `to`. Empty if the list is not valid.
 QString movedRanges(const QString &ranges, int from, int to, int openEnd)
 {
     QStringList moved;
@@ -64,7 +64,7 @@ void addPaper(const QJsonObject &pageSetup, NamedValues *choices)
     const double height = pageSetup.value(QLatin1String("Height")).toDouble();
     const auto isSize = [](double mm) { return std::isfinite(mm) && mm >= 10 && mm <= 10'000; };
     if (isSize(width) && isSize(height)) {
-        // By its measures a printer's own name for a size is found whatever the application calls it.
+        // The dimensions identify the size even if the printer and the application use different names.
         choices->append({QStringLiteral("media"),
                          QStringLiteral("custom_%1x%2mm_%1x%2mm")
                              .arg(QString::number(width, 'f', 2), QString::number(height, 'f', 2))});
@@ -73,7 +73,7 @@ void addPaper(const QJsonObject &pageSetup, NamedValues *choices)
         choices->append({QStringLiteral("PageSize"), name});
 }
 
-// What GTK would do to the pages and the print server does instead.
+// Page settings that the print server applies instead of GTK.
 NamedValues serverOptions(const QJsonObject &settings)
 {
     NamedValues options;
@@ -149,7 +149,7 @@ StartingSettings startingSettings(const QJsonObject &settings, const QJsonObject
         if (duplex == QLatin1String(side.portal))
             start.choices.append({QStringLiteral("sides"), QLatin1String(side.print)});
     }
-    // The printer's own options come last: an application that has them knows best.
+    // Options of the printer come last, since an application that sets them is more specific.
     for (auto it = settings.begin(); it != settings.end(); ++it) {
         if (it.key().startsWith(optionPrefix))
             start.choices.append({it.key().mid(optionPrefix.size()), it.value().toString()});

@@ -12,58 +12,59 @@
 #include <optional>
 #include <utility>
 
-// What applications tell the print portal, and are told, translated from and to the names of the print
-// system. Values are untrusted: what makes no sense is passed over.
+// Conversion between the settings of the print portal and the names of the print system. Values from
+// applications are untrusted: invalid values are ignored.
 namespace host {
 
-// Names and values; the order counts.
+// Names and values, in order.
 using NamedValues = QList<std::pair<QString, QString>>;
 
-// Texts, numbers and booleans of a map from the bus. What has another type, or is unreasonably long, is left
-// out.
+// The texts, numbers and booleans of a map from the bus. Values of other types, or of excessive length, are
+// omitted.
 QJsonObject plainValues(const QVariantMap &map);
 
-// What newer applications can do, among the options of a call: "formats" (a list), "currentPage" and
-// "selection" (that they can print these alone).
+// Abilities of newer applications, from the options of a call: "formats" (a list), "currentPage" and
+// "selection" (whether they can print these).
 QJsonObject applicationAbilities(const QVariantMap &options);
 
-// Where the dialog begins.
+// The initial settings of the dialog.
 struct StartingSettings
 {
-    QString printer; // empty for no wish
+    QString printer; // empty if none is requested
     int copies = 1;
     std::optional<bool> collate;
-    bool currentPage = false; // alone, where the application knows which it is
+    bool currentPage = false; // only this page, if the application knows it
     bool selection = false;
-    QString pages;          // as a user types them, counted from 1; empty for all
-    NamedValues choices;    // PPD keyword, or standard name such as "media", and choice; later ones win
-    NamedValues jobOptions; // for the print server, which does it in the application's place
+    QString pages; // as typed by a user, counted from 1; empty for all
+    // PPD keyword or standard name, such as "media", and choice; later ones take precedence
+    NamedValues choices;
+    NamedValues jobOptions; // applied by the print server instead of the application
 };
 StartingSettings startingSettings(const QJsonObject &settings, const QJsonObject &pageSetup);
 
-// What was decided that an application has to know, or may keep for the next time. Nothing secret.
+// The settings that the application needs, or may store. Contains no secrets.
 struct ApplicationChoice
 {
     QString printer;
     QString pages;       // counted from 1; empty for all
     NamedValues choices; // PPD keyword and choice
-    QString format;      // of the document that is to be made: "pdf" or "ps"
+    QString format;      // of the document to produce: "pdf" or "ps"
     bool currentPage = false;
     bool selection = false;
 };
-// The application's settings, with what was decided in place of what it sent, and without what the print
-// server does: copies, collating, order, pages on a sheet, scale.
+// The application's settings, updated with the user's choices, without the settings that the print server
+// applies: copies, collation, order, pages per sheet, scale.
 QJsonObject settingsForApplication(const QJsonObject &sent, const ApplicationChoice &choice);
 
-// A sheet; all in millimetres.
+// A paper; all dimensions in millimetres.
 struct Paper
 {
     QString keyword; // of the PPD
     QString text;
     double width = 0, height = 0;
-    double left = 0, right = 0, top = 0, bottom = 0; // margins that the printer leaves white
+    double left = 0, right = 0, top = 0, bottom = 0; // unprintable margins
 };
-// The application's page setup, on this paper. Never empty.
+// The application's page setup with this paper. Never empty.
 QJsonObject pageSetupForApplication(const QJsonObject &sent, const Paper &paper);
 
 } // namespace host

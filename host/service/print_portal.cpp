@@ -70,7 +70,7 @@ uint PrintPortal::Print(const QDBusObjectPath &handle, const QString &app_id, co
                         QVariantMap &)
 {
     PortalCall *call = newCall(app_id);
-    if (!call) // the token stays good
+    if (!call) // the token remains valid
         return 0;
     platform::UniqueFd document = platform::UniqueFd::duplicate(fd.fileDescriptor());
     const bool isTaken = connection().objectRegisteredAt(handle.path());

@@ -16,9 +16,9 @@ namespace host {
 
 class PortalCall;
 
-// The desktop's print portal calls this for applications that print through it: first for the settings, with
-// the dialog, then with the document and the token that stands for them. Arguments are what applications
-// sent; nothing about them is taken for granted. Life and tokens are borrowed.
+// The backend interface of the desktop's print portal. An application first requests the settings, with the
+// dialog, then sends the document with the token for these settings. Arguments come from applications and are
+// not trusted. `life` and the tokens are borrowed.
 class PrintPortal : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -30,20 +30,20 @@ public:
     static QString objectPath() { return QStringLiteral("/org/freedesktop/portal/desktop"); }
 
 public Q_SLOTS:
-    // Both answer 0 (done), 1 (cancelled by the user) or 2 (anything else).
+    // Both answer 0 (done), 1 (cancelled by the user) or 2 (other).
     Q_SCRIPTABLE uint PreparePrint(const QDBusObjectPath &handle, const QString &app_id,
                                    const QString &parent_window, const QString &title,
                                    const QVariantMap &settings, const QVariantMap &page_setup,
                                    const QVariantMap &options, QVariantMap &results);
-    // Without a token that is good for this application the dialog is opened with the document: nothing is
-    // printed unasked.
+    // Without a valid token for this application, the dialog opens with the document, so nothing is printed
+    // without consent.
     Q_SCRIPTABLE uint Print(const QDBusObjectPath &handle, const QString &app_id,
                             const QString &parent_window, const QString &title,
                             const QDBusUnixFileDescriptor &fd, const QVariantMap &options,
                             QVariantMap &results);
 
 private:
-    // Null, with the call answered, when the application has too many requests already.
+    // Null, with the call answered, if the application has too many requests.
     PortalCall *newCall(const QString &appId);
 
     ServiceLife &m_life;

@@ -12,8 +12,8 @@
 
 namespace host {
 
-// Knows the dialog program, limits the number of requests, and decides when the service has been idle long
-// enough to leave. Every request under way holds one Use.
+// Starts dialog processes, limits the number of requests, and detects when the service has been idle long
+// enough to exit. Each active request holds one Use.
 class ServiceLife : public QObject
 {
     Q_OBJECT
@@ -24,14 +24,14 @@ public:
     ServiceLife(const QString &dialogProgram, std::chrono::milliseconds idleTime);
 
     const QString &dialogProgram() const { return m_dialogProgram; }
-    // Why no further request of `client` is admitted, in words; null when it is. A client is an application,
-    // by its id, or the queue. Logs a refusal.
+    // The reason why a further request of `client` is refused; null if it is admitted. A client is an
+    // application ID, or the queue. Logs a refusal.
     QString refusal(const QString &client) const;
     bool isUsed() const { return m_uses > 0; }
-    // Restarts the idle time.
+    // Restarts the idle timer.
     void touch();
 
-    // Counts one request of `client` as long as it lives.
+    // Counts one request of `client` during its lifetime.
     class Use
     {
     public:
@@ -51,7 +51,7 @@ Q_SIGNALS:
 private:
     QString m_dialogProgram;
     QTimer m_timer;
-    QHash<QString, int> m_usesOf; // by client; without entries of 0
+    QHash<QString, int> m_usesOf; // by client; clients without requests are removed
     int m_uses = 0;
 };
 

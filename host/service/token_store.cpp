@@ -48,7 +48,7 @@ void TokenStore::dropOld()
     std::chrono::nanoseconds next = m_lifetime;
     for (const Entry &entry : std::as_const(m_entries))
         next = std::min(next, entry.deadline.remainingTimeAsDuration());
-    // Rounded up, so that it has expired then.
+    // Rounded up, so that the token has expired then.
     m_oldest.start(std::chrono::ceil<std::chrono::milliseconds>(next) + std::chrono::milliseconds(1));
 }
 

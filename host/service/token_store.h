@@ -15,23 +15,23 @@
 
 namespace host {
 
-// What users have chosen for documents that their applications have still to hand over, kept here because
-// some of it is secret. A token names one choice; it is good once, for the application it was made for, until
-// it is too old.
+// Settings that users have confirmed for documents that the applications have yet to send. They are stored
+// here because they may contain secrets. A token identifies one set of settings. It is valid once, for the
+// application that it was issued to, until it expires.
 class TokenStore : public QObject
 {
     Q_OBJECT
 public:
     explicit TokenStore(std::chrono::milliseconds lifetime = std::chrono::seconds(300));
 
-    // Never 0, and not to be guessed from others.
+    // Never 0, and not predictable.
     uint add(const QString &appId, const QJsonObject &job);
-    // Null, and the token stays good for its owner, when it is another application's.
+    // Null if the token belongs to another application, for which it remains valid.
     std::optional<QJsonObject> take(uint token, const QString &appId);
     bool isEmpty() const { return m_entries.isEmpty(); }
 
 Q_SIGNALS:
-    // The last one has been taken or has become too old.
+    // The last token was used or has expired.
     void emptied();
 
 private:
