@@ -7,9 +7,10 @@ namespace host {
 
 class DialogSession;
 
-// Makes what was chosen in one session in another, whose printer the user has turned to: in the order it was
-// set, through the PPD and the panels there. What they do not take becomes a notice that names it, what
-// protects the user first, and stays noted for the printer after. Panels may have to ask their device.
+// Applies the choices of one session to the session of another printer, which the user has selected: in the
+// order in which they were made, through its PPD and panels. A notice lists the settings that the new printer
+// does not accept, protective ones first; they stay recorded for the next printer. Panels may query their
+// devices.
 void carryOver(const DialogSession &from, DialogSession *to);
 
 } // namespace host

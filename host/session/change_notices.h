@@ -11,16 +11,16 @@
 
 namespace host {
 
-// Equal in type and value: "3" is something else than 3.
+// Whether type and value are equal: the text "3" differs from the number 3.
 bool sameValue(const QVariant &a, const QVariant &b);
 
-// One sentence for each group of options that ended at the same choice: "Cyan, Magenta were reset to 0."
-// Followed by the reason where there is one.
+// Describes changes that the user did not request. Options with the same new choice share a sentence: "Cyan,
+// Magenta were reset to 0.", followed by the reason if it is known.
 struct UnaskedChange
 {
     OptionChoice change;
-    bool isDefault = false; // the choice is the printer's default
-    OptionChoice cause;     // empty for an unknown one
+    bool isDefault = false; // the new choice is the printer's default
+    OptionChoice cause;     // empty if unknown
 };
 QStringList changeNotices(const QList<UnaskedChange> &changes);
 

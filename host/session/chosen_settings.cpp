@@ -24,14 +24,14 @@ bool hasKey(const ChosenSetting &setting, const QString &key)
     return setting.key.compare(key, Qt::CaseInsensitive) == 0;
 }
 
-// Whether a value of "multiple-document-handling" says no more than how copies are collated.
+// Whether a value of "multiple-document-handling" only specifies collation.
 bool isCollating(const QString &value)
 {
     return value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false);
 }
 
-// The name in its usual spelling: job options and options of a PPD count in any case, and the page region is
-// the page size.
+// The canonical name: the case of job options and PPD options is ignored, and the page region is the page
+// size.
 QString usualName(const DialogSession &session, const QString &name)
 {
     const QString lower = name.toLower();
@@ -45,7 +45,7 @@ QString usualName(const DialogSession &session, const QString &name)
     return isStandard || GeneralSettings::covers(lower) || PageLayoutSettings::covers(lower) ? lower : name;
 }
 
-// The options that a standard name such as "media" stands for.
+// Chooses the options that a standard name such as "media" represents.
 bool chooseStandardName(DialogSession *session, ChosenSetting setting, PrintError *error)
 {
     if (const PrintError refusal = session->locks().refusal(session->ppd(), setting.key, setting.value)) {
@@ -81,7 +81,7 @@ void ChosenSettings::add(const ChosenSetting &setting)
 
 void ChosenSettings::takeBack(const QStringList &keys, const ChosenSettings &earlier)
 {
-    // A standard name such as "media" goes with any of the options that it stands for.
+    // A standard name such as "media" matches each of the options that it represents.
     const auto isOne = [&](const ChosenSetting &setting) {
         return keys.contains(setting.key) ||
                std::any_of(setting.options.begin(), setting.options.end(),

@@ -13,8 +13,7 @@ namespace host {
 
 class DialogSession;
 
-// One thing that has been chosen for the job: in a control, by an accepted proposal, or on the command line.
-// A value.
+// A choice made for the job: in a control, by accepting a proposal, or on the command line. A value.
 struct ChosenSetting
 {
     enum class Kind {
@@ -24,22 +23,22 @@ struct ChosenSetting
     QString key;
     QString value;
     Kind kind = Kind::Key;
-    QStringList options = {}; // of the PPD: what a standard name stood for
-    QString text = {};        // what people call it, without the value of a code
-    bool protects = false;    // it protects the user, as private printing does
-    bool isSecret = false;    // the value came by a way for codes: no message repeats it
+    QStringList options = {}; // PPD options that a standard name represented
+    QString text = {};        // the display text, without the value of a code
+    bool protects = false;    // it protects the user, for example private printing
+    bool isSecret = false;    // the value was entered as a code: no message contains it
 };
 
-// What has been chosen for a job, in the order it was set. What is sent, what another printer takes over and
-// what is missed there follow from it.
+// The choices made for a job, in order. They determine what is sent, what is carried over to another printer,
+// and what is reported as missing there.
 class ChosenSettings
 {
 public:
-    // Takes the place, at the end, of earlier choices that it decides about anew.
+    // Appends a choice, and removes earlier choices that it overrides.
     void add(const ChosenSetting &setting);
-    // Forgets the choices of these keys, or takes them as they were earlier.
+    // Removes the choices of these keys, or restores their earlier choices.
     void takeBack(const QStringList &keys, const ChosenSettings &earlier);
-    // Whether this key, or a standard name that stands for this option of the PPD, has been chosen.
+    // Whether a choice was made for this key, or for a standard name that represents this PPD option.
     bool contains(const QString &key) const;
     const QList<ChosenSetting> &inOrder() const { return m_settings; }
 
@@ -47,12 +46,12 @@ private:
     QList<ChosenSetting> m_settings;
 };
 
-// The setting with what people call it in this session.
+// The setting with its display text in this session.
 ChosenSetting inWords(const DialogSession &session, ChosenSetting setting);
 
-// Makes a choice in a session, as its user would, and the session notes it. A job option that neither the PPD
-// nor a panel knows is sent as it stands. False with an error in plain words, and nothing changed, when the
-// printer does not take it.
+// Makes a choice in a session as the user would, and records it. A job option that is unknown to the PPD and
+// the panels is sent unchanged. False with a localised error, and without a change, if the printer does not
+// accept it.
 bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
 } // namespace host

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-// A panel that cannot reach its device takes the settings for it out of the job; null when it has not.
+// The settings that a panel removes from the job because it cannot query its device; null if there are none.
 QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &before,
                         const platform::PrintSettings &now)
 {
@@ -77,7 +77,7 @@ void DialogSession::loadPanels(Extensions &extensions)
     if (!m_ppd)
         return;
     Protection protection = extensions.protectionFor(m_ppd->modelName(), &m_notices);
-    for (auto it = m_rule.locked.begin(); it != m_rule.locked.end(); ++it) // no way out gives it up
+    for (auto it = m_rule.locked.begin(); it != m_rule.locked.end(); ++it) // no resolution may change it
         protection.choices[it.key()].append(it.value());
     setProtection(protection);
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), &m_host, &m_notices));
@@ -96,8 +96,8 @@ bool DialogSession::isSecret(const QString &key) const
     return m_secrets->contains(key);
 }
 
-// The user's own defaults and presets that go against the policy are told. What becomes marks stays among the
-// options, for the job contradicts there what the server would add.
+// Reports the user's defaults and presets that violate the policy. PPD options among them remain, since the
+// job must override the values that the server would add.
 void DialogSession::leaveOutForbidden()
 {
     const QMap<QString, QString> all = m_destination.options;
@@ -122,7 +122,7 @@ void DialogSession::tellForbidden(const PrintError &refusal)
         addNotice(refusal.message);
 }
 
-// A page where nothing can be changed stands as the printer's defaults and the policy have it.
+// The settings of a locked page are the printer's defaults with the policy applied.
 void DialogSession::lockPages()
 {
     for (int i = 0; i < m_panels.count(); ++i) {
@@ -142,7 +142,7 @@ void DialogSession::lockPages()
     }
 }
 
-// A choice that the PPD does not have is not marked, and a filter would take its own default for it.
+// A choice that the PPD does not have is not marked, and a filter would use its own default instead.
 void DialogSession::tellUnknownDefaults()
 {
     QStringList unknown;
@@ -178,7 +178,7 @@ void DialogSession::panelKeyChanged(int panel, const QString &key)
             this, [this, panel, key] { keepLocked(panel, key); }, Qt::QueuedConnection);
 }
 
-// When the panel has done what follows from the change.
+// Called when the panel has reacted to the change.
 void DialogSession::keepLocked(int panel, const QString &key)
 {
     const QString locked = m_rule.lockedChoice(m_ppd.get(), key);
@@ -253,7 +253,7 @@ bool DialogSession::markChoice(const QString &keyword, const QString &choice, bo
 
 void DialogSession::noteChosen(ChosenSetting setting)
 {
-    // A panel repeats, when it is saved, what it was set to.
+    // When a panel is saved, it repeats the values that were set on it.
     const auto &earlier = m_chosen.inOrder();
     setting.isSecret |=
         isSecret(setting.key) || std::any_of(earlier.begin(), earlier.end(), [&](const ChosenSetting &known) {

@@ -27,18 +27,19 @@ namespace host {
 
 class Extensions;
 
-// One dialog for one printer: its PPD, the job's settings and the plug-in's panels, and their host. Works
-// without a window; a window, or a batch run, drives it. A panel is restored once, before it is first shown;
-// only restored panels are saved. Owns everything it hands out.
+// One dialog for one printer: its PPD, the job's settings, and the plug-in's panels with their host. Has no
+// user interface; it is driven by a window or a batch run. A panel is restored once, before it is first
+// shown; only restored panels are saved. Owns all objects that it returns.
 class DialogSession : public QObject
 {
     Q_OBJECT
 public:
-    // `ppd` may be null. Marks what the destination's options say, and the policy for its queue.
+    // `ppd` may be null. Marks the choices of the destination's options, and applies the policy for its
+    // queue.
     DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd);
     ~DialogSession() override;
 
-    // Makes the panels of the extensions that serve the printer; problems become notices.
+    // Creates the panels of all extensions that support the printer; problems become notices.
     void loadPanels(Extensions &extensions);
     void adoptPanels(platform::PrintDialogPanels panels);
     const Protection &protection() const { return m_protection; }
@@ -46,11 +47,11 @@ public:
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }
-    // What the administrator has laid down for this printer.
+    // The administrator's rules for this printer.
     const Policy::Rule &rule() const { return m_rule; }
-    // What is fixed there. No setter of this class goes against it.
+    // The fixed settings. No setter of this class violates them.
     const Locks &locks() const { return m_locks; }
-    // What of the user's own defaults or of the preset was left out for it; no error when nothing was.
+    // The user's default or preset setting that was ignored because of the policy; no error if there is none.
     const PrintError &brokenLock() const { return m_brokenLock; }
     bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
@@ -62,62 +63,66 @@ public:
     bool isRestored(int index) const { return m_panels.at(index).restored; }
     // The panel that handles a PPD option, or -1.
     int panelOfKeyword(const QString &keyword) const { return m_panels.ofKeyword(keyword); }
-    // Whether the value of an option, a panel's key or a job option is a password or a code. It is then
-    // neither shown nor stored, nor told to another program.
+    // Whether the value of an option, a panel's key or a job option is a password or a code. It is then not
+    // shown, stored, or passed to other programs.
     bool isSecret(const QString &key) const;
-    // The panel that answers a key or key path other than the PPD options, or -1.
+    // The panel that has this key or key path, which is not a PPD option, or -1.
     int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
-    // The keys and key paths other than PPD options that a panel can be set by.
+    // The keys and key paths of a panel that can be set, other than PPD options.
     QStringList settableKeysOf(int panel) const { return m_panels.settableKeysOf(panel); }
-    // Makes a panel ready to be shown or set: restores it, once, after those before it have announced how
-    // their options stand. These are not restored, since a panel may ask a device that is switched off.
+    // Prepares a panel for being shown or set: restores it once, after the panels before it have announced
+    // the choices of their options. Those panels are not restored, since a panel may query a device that is
+    // switched off.
     void prepare(int index);
-    // Saves every restored panel.
+    // Saves all restored panels.
     void save();
-    // Options of the PPD that neither the general pane nor a panel shows, without those for installed units.
+    // Options of the PPD that are shown neither on the general page nor by a panel, without those for
+    // installed units.
     QStringList otherKeywords() const;
 
-    // Marks a choice for the user; panels that show the option follow. False when the PPD does not have it,
-    // or the policy has fixed another one.
+    // Marks a choice of the user; panels with the option are updated. False if the PPD does not have the
+    // choice, or the policy has fixed another one.
     bool markChoice(const QString &keyword, const QString &choice, bool isSecret = false);
-    // What has been chosen so far: here, in panels that were saved, and by others who note it.
+    // The choices made so far: here, in saved panels, and by callers that record them.
     const ChosenSettings &chosen() const { return m_chosen; }
     void noteChosen(ChosenSetting setting);
     QList<Conflict> conflicts() const;
-    // libcups's way out of the conflicts that leaves the user's last change as it is, where there is one; but
-    // none that gives up what protects the user. Where every way does, `givenUp` (may be null) says what.
+    // libcups's resolution of the conflicts that keeps the user's last change if possible, and never gives up
+    // a protecting choice. If every resolution would, `givenUp`, which may be null, is set to the protection.
     std::optional<Resolution> proposal(QString *givenUp = nullptr) const;
     void apply(const Resolution &resolution);
-    // What changed without the user having asked for it, and what went wrong, since the last call. Localised.
+    // Changes that the user did not request, and errors, since the last call. Localised.
     QStringList takeNotices();
     void addNotice(const QString &notice) { m_notices.append(notice); }
 
-    // What is missing for the protection that has been chosen, in words: a code without private printing, or
-    // the reverse. Null when nothing is.
+    // Describes what is missing for the chosen protection: a code for private printing, or the reverse. Null
+    // if nothing is missing.
     QString protectionGap() const;
-    // The code that is missing for a choice, as a password is for private printing; null when none is.
+    // The code that is missing for a choice, such as the password for private printing; null if none is
+    // missing.
     const Protection::Secret *missingCode() const;
-    // Whether the settings that the session began with protect the user in a way that the printer lacks.
+    // Whether the initial settings protect the user in a way that the printer does not support.
     bool lacksProtection() const;
 
-    // Panels that have not been restored are first told how their options stand.
+    // The sections of the summary. Panels that have not been restored are notified of the choices of their
+    // options first.
     QList<SummarySection> summary();
-    // What is sent with the job; see host/session/job_options.h.
+    // The options sent with the job; see host/session/job_options.h.
     QList<JobOption> jobOptions() const;
 
-    // The job's settings beside the PPD, and what panels know of the session.
+    // The job's settings other than PPD options.
     const platform::PrintSettings &printSettings() const { return m_host.settings(); }
     PanelHost *panelHost() { return &m_host; }
 
 Q_SIGNALS:
-    // New notices can be taken, or choices have changed behind a shown pane.
+    // There are new notices, or choices have changed outside of the shown page.
     void changed();
-    // Emitted directly: paint now, since the next thing blocks. Pairs may nest.
+    // Emitted directly: paint now, since the thread is about to block. Calls may nest.
     void blockingBegan(const QString &what);
     void blockingEnded();
 
 private:
-    friend class StateKeeper; // sets what no front end may
+    friend class StateKeeper; // sets values that front ends must not set
 
     void panelKeyChanged(int panel, const QString &key);
     void keepLocked(int panel, const QString &key);
@@ -126,7 +131,7 @@ private:
     void lockPages();
     void savePanel(int index);
     void noteAnnounced(const QString &keyword);
-    // Works through the changes that panels have announced, once their calls have returned.
+    // Processes the changes that panels have announced, after their calls have returned.
     void settle();
     void settleLater();
     void tellUnknownDefaults();
@@ -140,7 +145,7 @@ private:
     GeneralSettings m_general;
     GeneralSettings m_startingGeneral;
     Protection m_protection;
-    mutable std::optional<SecretSettings> m_secrets; // found out when first asked for
+    mutable std::optional<SecretSettings> m_secrets; // determined on first use
     ChosenSettings m_chosen;
     QStringList m_notices;
     QSet<QString> m_savedKeywords;

@@ -9,9 +9,9 @@
 
 namespace host {
 
-// Which of the documents that a dialog was opened for are printed, and which one is looked at. Paths are as
-// file_name.h has them; "-" is the standard input. Where another program hands a document over later, there
-// are no paths, but the title of the job can be chosen.
+// The documents of a dialog: which of them are printed, and which one is shown. Paths are encoded as in
+// file_name.h; "-" is the standard input. If another program sends the document later, there are no paths,
+// but the title of the job can be chosen.
 class DocumentChoice : public QObject
 {
     Q_OBJECT
@@ -19,13 +19,13 @@ public:
     explicit DocumentChoice(const QStringList &paths, QObject *parent = nullptr);
 
     const QStringList &paths() const { return m_paths; }
-    QString name(int index) const; // for people
+    QString name(int index) const; // for display
     bool isIncluded(int index) const { return m_included.at(index); }
     void setIncluded(int index, bool included);
     QStringList included() const;             // in order
     int current() const { return m_current; } // -1 without documents
     void setCurrent(int index);
-    // Of the job; null where it cannot be chosen.
+    // The title of the job; null if it cannot be chosen.
     const QString &title() const { return m_title; }
     void setTitle(const QString &title) { m_title = title; }
 

@@ -19,7 +19,7 @@ bool changes(const Resolution &resolution, const QString &keyword)
                        [&](const OptionChoice &change) { return change.option == keyword; });
 }
 
-// Whether the policy keeps an option from getting a choice.
+// Whether the policy forbids this choice of an option.
 bool isLockedAgainst(const DialogSession &session, const QString &keyword, const QString &choice)
 {
     const QString locked = session.rule().lockedChoice(session.ppd(), keyword);
@@ -27,7 +27,7 @@ bool isLockedAgainst(const DialogSession &session, const QString &keyword, const
     return (!locked.isNull() && locked != choice) || (owner >= 0 && session.isPanelLocked(owner));
 }
 
-// What is locked and would be changed, as it stands now.
+// The locked options that a resolution would change, with their current choices.
 QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution &resolution)
 {
     QList<OptionChoice> locks;
@@ -38,8 +38,8 @@ QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution 
     return locks;
 }
 
-// With the choice marked: a way that keeps it and everything that is locked, and what protects if that can
-// be.
+// With the choice marked: a resolution that keeps it and all locked options, and protecting choices if
+// possible.
 Resolution wayThatKeeps(const DialogSession &session, const QString &keyword, QList<OptionChoice> *locks)
 {
     const auto gentle = protectingResolution(*session.ppd(), session.protection(), keyword, nullptr);
@@ -57,7 +57,7 @@ Resolution wayThatKeeps(const DialogSession &session, const QString &keyword, QL
 
 ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const QString &choice)
 {
-    session->save(); // what panels have pending counts
+    session->save(); // includes pending changes of panels
     PpdDocument *ppd = session->ppd();
     ForcedChoice forced;
     forced.wanted = ppd->described(keyword, choice);

@@ -35,7 +35,7 @@ QList<JobOption> GeneralSettings::jobOptions() const
     options.append({QStringLiteral("copies"), QString::number(copies), Kind::Attribute});
     if (copies > 1) {
         options.append({QStringLiteral("multiple-document-handling"), handling(collate), Kind::Attribute});
-        // Filters of older print systems listen to this one.
+        // Filters of older print systems read this option.
         options.append(
             {QStringLiteral("Collate"), collate ? QStringLiteral("True") : QStringLiteral("False")});
     }
@@ -66,7 +66,7 @@ bool GeneralSettings::covers(const QString &name)
 
 QStringList generalOptionKeywords(const PpdDocument &ppd)
 {
-    // Several names for one thing: the first that the PPD has is shown.
+    // Alternative names of the same option: the first one in the PPD is shown.
     const QList<QStringList> wanted = {{QStringLiteral("PageSize")},
                                        {QStringLiteral("MediaType")},
                                        {QStringLiteral("InputSlot")},

@@ -15,15 +15,15 @@ namespace host {
 
 class PpdDocument;
 
-// What every printer can be asked, whatever its driver: the job's copies, pages and how these
-// are put on paper. A value.
+// The settings that every printer has, whatever its driver: copies, page range and page layout of the job. A
+// value.
 struct GeneralSettings
 {
     int copies = 1; // 1 to maxCopies
     bool collate = true;
-    QString pages; // normalised ranges; empty for all
+    QString pages; // normalized ranges; empty for all
     PageLayoutSettings layout;
-    // Where another program makes the pages, it may know which one it shows, and what is selected there.
+    // If another program produces the pages, it may offer its current page and its selection.
     enum class Part { Pages, CurrentPage, Selection };
     Part part = Part::Pages;
     bool offersCurrentPage = false;
@@ -33,21 +33,20 @@ struct GeneralSettings
 
     bool operator==(const GeneralSettings &) const = default;
 
-    // Which part another program is to print, and what it offers, as others have it.
+    // Takes over the part to print, and the parts offered by the other program.
     void takePart(const GeneralSettings &other);
-    // The user's and the queue's defaults among a destination's options. What is no such value is passed
-    // over. A PPD's default for collating counts for nothing: it is set to suit the filters, not the user.
+    // The user's and the queue's defaults among a destination's options. Invalid values are ignored. A PPD's
+    // default for collation is also ignored, since it suits the filters, not the user.
     static GeneralSettings from(const QMap<QString, QString> &options);
-    // As job options, without the layout; what the print system does anyway is left out.
+    // As job options, without the layout; defaults of the print system are left out.
     QList<JobOption> jobOptions() const;
-    // The value of "multiple-document-handling" that says how copies are collated, and no more.
+    // The value of "multiple-document-handling" that only specifies collation.
     static QString handling(bool collate);
-    // Whether a job option of this name is decided by these settings, the layout aside.
+    // Whether these settings, without the layout, determine a job option of this name.
     static bool covers(const QString &name);
 };
 
-// The options of the general pane that this PPD has, in the order they are shown: paper size and type, tray,
-// two-sided.
+// The options of the general page that this PPD has, in display order: paper size and type, tray, two-sided.
 QStringList generalOptionKeywords(const PpdDocument &ppd);
 
 } // namespace host

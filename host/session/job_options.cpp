@@ -18,9 +18,9 @@ using Kind = JobOption::Kind;
 
 const QString pageRangesName = QStringLiteral("page-ranges");
 const QString colorModeName = QStringLiteral("print-color-mode");
-const QString allPages = QStringLiteral("1-2147483647"); // what the print system takes for "1-"
+const QString allPages = QStringLiteral("1-2147483647"); // the print system's form of "1-"
 
-// What libcups reports about a printer among a destination's options.
+// Whether libcups reports this name among a destination's options to describe the printer.
 bool describesPrinter(const QString &name)
 {
     return name.startsWith(QLatin1String("printer-")) || name.startsWith(QLatin1String("marker-")) ||
@@ -32,7 +32,7 @@ bool isStandardName(const PpdDocument *ppd, const QString &name)
     return ppd && ppd->takesOption(name) && !ppd->hasOption(name);
 }
 
-// Keeps the first of each name; the server takes names without regard to case.
+// Keeps only the first option of each name; the server compares names without case.
 class OnePerName
 {
 public:
@@ -55,7 +55,7 @@ private:
     QList<JobOption> m_options;
 };
 
-// Job options of the user that no option of the PPD stands for.
+// Job options of the user that do not correspond to an option of the PPD.
 QList<JobOption> passedOn(const JobOptionSources &sources)
 {
     QList<JobOption> options;
@@ -68,7 +68,7 @@ QList<JobOption> passedOn(const JobOptionSources &sources)
     return options;
 }
 
-// Marks that are sent, or, with `Shown`, the others.
+// The marks that are sent, or, with `Shown`, the other marks.
 QList<JobOption> marks(const JobOptionSources &sources, Kind kind)
 {
     QList<JobOption> options;
@@ -88,7 +88,7 @@ QList<JobOption> marks(const JobOptionSources &sources, Kind kind)
     return options;
 }
 
-// Whether the user has chosen something that this standard name may stand for.
+// Whether the user has made a choice that this standard name may represent.
 bool isDecided(const JobOptionSources &sources, const QString &name)
 {
     const QStringList keywords = PpdDocument::optionsOfStandardName(name);
@@ -96,7 +96,7 @@ bool isDecided(const JobOptionSources &sources, const QString &name)
                        [&](const QString &keyword) { return sources.chosen.contains(keyword); });
 }
 
-// Whether the server would add the name with another meaning than the user's default has.
+// Whether the server would add the name with a value that differs from the user's default.
 bool serverSaysOtherwise(const JobOptionSources &sources, const QString &name,
                          const QMap<QString, QString> &choices)
 {
@@ -104,13 +104,14 @@ bool serverSaysOtherwise(const JobOptionSources &sources, const QString &name,
     return servers.contains(name) && sources.ppd->standardChoices(name, servers.value(name)) != choices;
 }
 
-// A default of the queue or the user under a standard name. The server adds those of the queue to each job
-// that lacks the name, whatever is sent under the keyword of the PPD, and the filters would see both.
+// A default of the queue or the user under a standard name. The server adds the queue's default to each job
+// that does not contain the name, even if the job contains the PPD's keyword, and the filters would receive
+// both.
 JobOption standardDefault(const JobOptionSources &sources, const QString &name, const QString &value)
 {
     const QMap<QString, QString> choices = sources.ppd->standardChoices(name, value);
     if (choices.isEmpty() && !isDecided(sources, name))
-        return {name, value, Kind::Preference}; // nothing is marked for it
+        return {name, value, Kind::Preference}; // no mark corresponds to it
     bool holds = !choices.isEmpty();
     for (auto it = choices.begin(); it != choices.end(); ++it)
         holds &= sources.ppd->markedChoice(it.key()) == it.value();

@@ -16,28 +16,29 @@ namespace host {
 class PpdDocument;
 struct Destination;
 
-// What a job's options are made of. Everything is borrowed for one call.
+// The sources of a job's options. Everything is borrowed for one call.
 struct JobOptionSources
 {
     const Destination &destination;
-    PpdDocument *ppd; // null where the printer has none; comes back as it was
+    PpdDocument *ppd; // null if the printer has none; unchanged after the call
     const ChosenSettings &chosen;
     const QSet<QString> &savedOptions; // PPD options that panels have written
     const QVariantMap &printSettings;
     const GeneralSettings &general;
 };
 
-// Settings of panels bear names in reverse domain order.
+// Whether a name belongs to a setting of a panel, which is in reverse domain order.
 bool isPanelSetting(const QString &name);
 
-// Whether a name that a PPD does not have is one of other PPDs: the print system's own are in small letters.
+// Whether a name that the PPD does not have looks like a PPD option: those of the print system are in lower
+// case.
 bool looksLikeOptionOfAPpd(const QString &name);
 
-// What is sent with the job, one option a name. Of several that would bear a name, the user's word comes
-// first, then the marks of the PPD and what panels have set, then the user's defaults for the printer.
-// Choices are sent that were made explicitly or that are not the PPD's default; with them the standard name
-// that a default of the queue would otherwise contradict them under. What is marked and not sent is listed as
-// `Shown`, for comparing with the job that the server has made.
+// The options sent with the job, one per name. If there are several values for a name, the user's choice
+// takes precedence, then the marks of the PPD and the values set by panels, then the user's defaults for the
+// printer. Choices are sent if they were made explicitly or are not the PPD's default, together with the
+// standard name if a default of the queue would otherwise contradict them. Marks that are not sent are listed
+// as `Shown`, for comparison with the job that the server has created.
 QList<JobOption> jobOptions(const JobOptionSources &sources);
 
 } // namespace host

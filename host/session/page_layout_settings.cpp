@@ -129,7 +129,7 @@ PageLayoutSettings PageLayoutSettings::from(const QMap<QString, QString> &option
     PageLayoutSettings settings;
     for (auto it = options.begin(); it != options.end(); ++it)
         settings.set(it.key(), it.value());
-    // The newer names decide.
+    // The newer names take precedence.
     for (const QString &name : {orientationRequested, printScaling})
         settings.set(name, options.value(name));
     return settings;
@@ -205,7 +205,7 @@ QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
     const auto add = [&](const QString &name, const QString &value) {
         options.append({name, value, Kind::Attribute});
     };
-    // A default that goes by an older name would be added by the server to what is sent.
+    // The server would add a default under an older name to the options that are sent.
     const auto contradict = [&](const QString &name) {
         if (defaults.contains(name))
             add(name, QStringLiteral("false"));
@@ -226,7 +226,7 @@ QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
         add(outputOrder, isReversed ? QStringLiteral("reverse") : QStringLiteral("normal"));
     if (scaling != start.scaling) {
         add(printScaling, scaling.isEmpty() ? QStringLiteral("auto") : scaling);
-        // The filter for PostScript knows nothing else.
+        // The PostScript filter supports only this option.
         if (scaling == fit)
             add(fitToPage, QStringLiteral("true"));
         else

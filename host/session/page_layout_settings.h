@@ -14,18 +14,19 @@
 
 namespace host {
 
-// How the pages of a document are put on paper, whatever the printer is: the filters of the print system do
-// it. Values are those of the job options, in their usual spelling. A value.
+// The page layout, which the filters of the print system apply for every printer. Values are those of the job
+// options, in their canonical spelling. A value.
 struct PageLayoutSettings
 {
     int pagesPerSide = 1;                    // "number-up": one of pagesPerSideChoices()
     QString order = QStringLiteral("lrtb");  // "number-up-layout"
     QString border = QStringLiteral("none"); // "page-border"
-    QString orientation; // "orientation-requested": "3" upright, "4" landscape, "5" and "6" turned from
-                         // these; empty for that of each document
-    QString pageSet = QStringLiteral("all"); // "page-set": of the sides that would be printed
-    bool isReversed = false;                 // "outputorder": the last page first
-    QString scaling; // "print-scaling"; empty for what each kind of document gets by itself
+    // "orientation-requested": "3" portrait, "4" landscape, "5" and "6" rotated from these; empty for that of
+    // each document
+    QString orientation;
+    QString pageSet = QStringLiteral("all"); // "page-set": selects from the sides that would be printed
+    bool isReversed = false;                 // "outputorder": whether the last page comes first
+    QString scaling; // "print-scaling"; empty for the default of each kind of document
 
     bool operator==(const PageLayoutSettings &) const = default;
 
@@ -34,40 +35,38 @@ struct PageLayoutSettings
     static QStringList borders();
     static QStringList pageSets();
 
-    // The user's and the queue's defaults among a destination's options. What is no such value is passed
-    // over.
+    // The user's and the queue's defaults among a destination's options. Invalid values are ignored.
     static PageLayoutSettings from(const QMap<QString, QString> &options);
-    // Takes a job option's value. False, and nothing changed, when the name is no such option or does not
-    // take it.
+    // Sets a job option. False, and without a change, if the name is unknown or the value invalid.
     bool set(const QString &name, const QString &value);
-    // What set() takes for a name, for messages.
+    // A description of the values that set() accepts for a name, for messages.
     static QString takes(const QString &name);
-    // Takes over what differs from `start` in `other`.
+    // Takes over the settings of `other` that differ from `start`.
     void takeChanges(const PageLayoutSettings &start, const PageLayoutSettings &other);
-    // What differs from `start`, as job options. Defaults of the destination that the print system adds under
-    // another name for the same are contradicted.
+    // The settings that differ from `start`, as job options. Also overrides defaults of the destination that
+    // the print system adds under another name for the same setting.
     QList<JobOption> jobOptions(const PageLayoutSettings &start,
                                 const QMap<QString, QString> &defaults) const;
-    // What is set, by job option; without those that have no value.
+    // All settings with a value, by job option.
     QMap<QString, QString> values() const;
     struct Words
     {
-        QString key; // the job option
+        QString key; // name of the job option
         QString name;
         QString value;
     };
-    // Every setting that is not the print system's own default, or all of them, in words.
+    // The settings that differ from the print system's defaults, or all of them, localised.
     QList<Words> inWords(bool withUsual) const;
 
-    // Whether a job option of this name is decided by these settings.
+    // Whether these settings determine a job option of this name.
     static bool covers(const QString &name);
 };
 
-// What people call a value of one of these options; empty for none.
+// The display text of a value of one of these options; empty if there is none.
 QString layoutValueText(const QString &name, const QString &value);
 
-// Whether a job option says how pages are put on paper: one of those above, or another that filters know.
-// None of them holds a code.
+// Whether a job option affects the page layout: one of those above, or another that filters support. None of
+// them contains a code.
 bool isPageOption(const QString &name);
 
 } // namespace host

@@ -84,7 +84,7 @@ std::optional<QString> normalizedPageRanges(const QString &text, QString *error)
     if (text.trimmed().isEmpty())
         return QString();
     QString plain = text;
-    plain.replace(QChar(0x2013), QLatin1Char('-')); // an en dash, as typists and word processors make it
+    plain.replace(QChar(0x2013), QLatin1Char('-')); // an en dash, which word processors insert
     std::vector<Range> ranges;
     for (const QString &part : plain.split(QLatin1Char(','))) {
         const auto range = parseRange(part.trimmed());

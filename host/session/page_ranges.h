@@ -9,10 +9,9 @@
 
 namespace host {
 
-// Page ranges as people type them ("1-3, 8, 12-") in the form job options take: ascending, merged, without
-// spaces
-// ("1-3,8,12-"). Pages count from 1. Null with a message when the text is not a list of pages; the empty
-// string, which stands for all pages, stays empty.
+// Converts page ranges as typed by a user ("1-3, 8, 12-") to the form of job options: ascending, merged,
+// without spaces ("1-3,8,12-"). Pages are counted from 1. Null with a message if the text is not a list of
+// pages; an empty text, which means all pages, stays empty.
 std::optional<QString> normalizedPageRanges(const QString &text, QString *error);
 
 } // namespace host

@@ -21,7 +21,7 @@ void PanelChanges::noteSetting(int panel, const QString &key)
     m_justSet.insert(panel, {++m_settingCount, key});
 }
 
-// What another panel than `owner` has just been set to; empty for nothing.
+// The option that was just set on another panel than `owner`; empty if there is none.
 OptionChoice PanelChanges::causeBesides(int owner) const
 {
     std::pair<int, QString> latest;

@@ -16,9 +16,8 @@ namespace host {
 
 class SessionPanels;
 
-// What panels do to PPD options and print settings, from the moment when they announce it to the one when all
-// calls have returned and it can be seen what came of it. Part of a session, as is all that it is given;
-// `ppd` may be null.
+// Tracks changes of panels to PPD options and print settings, from their announcement until all calls have
+// returned and the result is known. Part of a session, as are all its arguments; `ppd` may be null.
 class PanelChanges : public QObject
 {
     Q_OBJECT
@@ -28,10 +27,10 @@ public:
     {
     }
 
-    // An option has been set on a panel: whatever follows from that does so before control returns to the
-    // event loop.
+    // Called when an option was set on a panel. Changes that follow before control returns to the event loop
+    // are its consequences.
     void noteSetting(int panel, const QString &key);
-    // A panel is about to change an option, or a print setting.
+    // Called when a panel is about to change an option or a print setting.
     void announce(const QString &keyword);
 
     struct Outcome
@@ -40,18 +39,18 @@ public:
         QList<ChosenSetting> chosen;  // by the user
         QList<UnaskedChange> unasked; // of PPD options
     };
-    // What came of the changes announced since the last call. A panel that saves itself before it was
-    // restored writes defaults for what it has never read: only what it has set on purpose counts, the rest
-    // is put back.
+    // The outcome of the changes that were announced since the last call. A panel that saves itself before it
+    // was restored writes defaults for options that it has not read: only options that it set explicitly are
+    // kept, the others are reset.
     Outcome settle();
 
 private:
     struct Announced
     {
         QString keyword;
-        QVariant before;         // its value when it was announced first
-        bool byUser = true;      // false when no save of the user's panel asked for it
-        OptionChoice cause = {}; // what was chosen elsewhere just before; empty when nothing was
+        QVariant before;         // the value at its first announcement
+        bool byUser = true;      // false if it was not announced during a save of the user's panel
+        OptionChoice cause = {}; // the preceding choice on another panel; empty if there was none
     };
     QVariant currentValue(const QString &keyword) const;
     void putBack(const QString &keyword, const QVariant &value);
@@ -60,8 +59,9 @@ private:
     const SessionPanels *m_panels;
     PpdDocument *m_ppd;
     platform::PrintSettings *m_settings;
-    QList<Announced> m_announced;                 // each keyword once
-    QMap<int, std::pair<int, QString>> m_justSet; // by panel: how many came before it, and the option
+    QList<Announced> m_announced; // once for each keyword
+    // by panel: the number of preceding announcements, and the option
+    QMap<int, std::pair<int, QString>> m_justSet;
     int m_settingCount = 0;
 };
 

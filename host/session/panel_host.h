@@ -12,7 +12,7 @@ namespace host {
 
 struct Destination;
 
-// What the panels of a session get to know of it, and tell it. Owned by the session; outlives the panels.
+// The interfaces of a session for its panels. Owned by the session; outlives the panels.
 class PanelHost : public QObject,
                   public platform::PrintDialogHost,
                   public platform::ConstraintResolvingHost,
@@ -21,7 +21,7 @@ class PanelHost : public QObject,
 {
     Q_OBJECT
 public:
-    // `ppd` may be null; it is the session's.
+    // `ppd` may be null; the session owns it.
     PanelHost(const Destination &destination, ppd_file_s *ppd);
 
     platform::PrintSettings &settings() { return m_settings; }
@@ -36,8 +36,8 @@ public:
     void panelFailed(const QString &className, const QString &reason) override;
 
 Q_SIGNALS:
-    // The choice of an option, or a print setting, is about to change. What really happens to it can be
-    // looked at when the panel's call is over.
+    // The choice of an option, or a print setting, is about to change. The actual change is known when the
+    // call of the panel has returned.
     void changeAnnounced(const QString &keyword);
     void blockingBegan(const QString &what);
     void blockingEnded();

@@ -24,7 +24,7 @@ struct PanelValueText
     Q_DECLARE_TR_FUNCTIONS(PanelValueText)
 };
 
-// The object that a property holds, such as the settings of a device within a panel's; null for other values.
+// The object in a property, such as a panel's device settings; null for other values.
 platform::KeyValueObject *objectOf(platform::KeyValueObject *owner, const QMetaProperty &property)
 {
     return qobject_cast<platform::KeyValueObject *>(qvariant_cast<QObject *>(property.read(owner)));
@@ -35,7 +35,7 @@ QMetaProperty propertyOf(const QObject *object, const QString &key)
     return object->metaObject()->property(object->metaObject()->indexOfProperty(key.toUtf8().constData()));
 }
 
-// The property at the end of a key path; an invalid one for an option of the panel.
+// The property at the end of a key path; invalid for a PPD option of the panel.
 QMetaProperty propertyAt(platform::KeyValueObject *object, const QString &keyPath)
 {
     const QStringList keys = keyPath.split(QLatin1Char('.'));
@@ -58,7 +58,7 @@ QVariant wholeNumber(const QString &text, QString *problem)
     bool fits = false;
     const QVariant value = isSigned ? QVariant::fromValue(static_cast<Number>(text.toLongLong(&fits)))
                                     : QVariant::fromValue(static_cast<Number>(text.toULongLong(&fits)));
-    // What does not fit has become another number.
+    // A number that does not fit the type has been changed.
     if (isDigits(digits) && fits && value.toString().toLongLong() == text.toLongLong())
         return value;
     *problem = PanelValueText::tr("takes a whole number from %1 to %2")
@@ -69,7 +69,7 @@ QVariant wholeNumber(const QString &text, QString *problem)
 
 QVariant switchOf(const QString &text, QString *problem)
 {
-    // Panels have no such words: in what they store, "on" would stand for off.
+    // Panels do not use these words: "on" would be stored as off.
     const bool isForeign = text.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0 ||
                            text.compare(QLatin1String("off"), Qt::CaseInsensitive) == 0;
     const auto on = isForeign ? std::nullopt : switchValue(text);
@@ -78,7 +78,7 @@ QVariant switchOf(const QString &text, QString *problem)
     return on ? QVariant(*on) : QVariant();
 }
 
-// The text as a value of this type; null and what the type takes when it is none.
+// The text converted to this type. Null with a description of valid values if it cannot be converted.
 QVariant typed(const QString &text, QMetaType type, QString *problem)
 {
     switch (type.id()) {
@@ -97,7 +97,7 @@ QVariant typed(const QString &text, QMetaType type, QString *problem)
     }
 }
 
-// What a text of this key looks like, told by the one it holds.
+// A description of valid texts for this key, derived from its current value.
 QString shapeOf(const QString &current)
 {
     if (isDigits(current))
@@ -107,7 +107,7 @@ QString shapeOf(const QString &current)
     return PanelValueText::tr("does not take this value");
 }
 
-// The options of a panel as they are, to go back to.
+// The state of a panel's options, to restore it.
 class PanelSnapshot
 {
 public:
@@ -123,7 +123,7 @@ public:
                 m_object->setValueForKey(it.value(), it.key());
         }
     }
-    // The first option that now has a choice which the PPD does not know.
+    // The first option whose current choice does not exist in the PPD.
     QString strayOption(const PpdDocument &ppd)
     {
         for (auto it = m_values.begin(); it != m_values.end(); ++it) {
@@ -140,7 +140,7 @@ private:
     QVariantMap m_values;
 };
 
-// What is wrong; empty when the key has taken the value.
+// Sets a key and returns the problem; empty if the key has accepted the value.
 QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const PpdDocument &ppd,
                const QString &keyPath, const QString &value)
 {
@@ -152,7 +152,7 @@ QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const 
     try {
         object->setValueForKeyPath(given, keyPath);
     } catch (const platform::Exception &exception) {
-        qCDebug(lcHost).noquote() << exception.name(); // the reason may hold the value
+        qCDebug(lcHost).noquote() << exception.name(); // the reason may contain the value
         return shapeOf(before);
     }
     const QString stray = snapshot->strayOption(ppd);

@@ -14,15 +14,14 @@ namespace host {
 
 class PpdDocument;
 
-// Values given as text, for the keys of a panel.
+// Setting of panel keys from texts.
 
-// The keys and key paths of a panel that can be set: its declared properties that can be written, without
-// inner state (STORED false) and without those that stand for options which the panel does not handle on this
-// printer.
+// The keys and key paths of a panel that can be set: its declared writable properties, without internal state
+// (STORED false) and without properties for options that the panel does not handle on this printer.
 QStringList settableKeys(platform::KeyValueObject *object, const QStringList &keywords);
-// Sets a key as its type has it and looks whether it took the value. When it did not, the options of the
-// panel are put back and the result says in a user's words, without the value, what the key takes; it is
-// empty otherwise.
+// Sets a key according to its type and checks that it has accepted the value. If it has not, the options of
+// the panel are restored, and the result is a localised description of valid values that does not contain the
+// value. Empty on success.
 QString setPanelValue(platform::KeyValueObject *object, const QStringList &keywords, const PpdDocument &ppd,
                       const QString &keyPath, const QString &value);
 // "Auto, Color, Mono" or "0 … 9".

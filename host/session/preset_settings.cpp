@@ -30,7 +30,7 @@ bool isSecretSetting(const DialogSession &session, const QString &name)
            });
 }
 
-// What the print system does anyway.
+// Whether the option is a default of the print system.
 bool isIdle(const DialogSession &session, const JobOption &option)
 {
     return option.name == QLatin1String("copies") && option.value == QLatin1String("1") &&
@@ -49,7 +49,7 @@ bool isKnown(const DialogSession &session, const QString &name)
            (session.ppd() && (session.ppd()->hasOption(name) || session.ppd()->takesOption(name)));
 }
 
-// How the options of the PPD stand when these options are marked on its defaults.
+// The choices of the PPD options if these options were marked on its defaults.
 QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &options, QStringList *problems)
 {
     QMap<QString, QString> now, marks;
@@ -62,7 +62,7 @@ QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &o
     problems->append(ppd->markOptions(options));
     for (auto it = now.begin(); it != now.end(); ++it)
         marks.insert(it.key(), ppd->markedChoice(it.key()));
-    for (int round = 0; round < 2; ++round) { // one mark may take another away, as a size of a tray does
+    for (int round = 0; round < 2; ++round) { // a mark may remove another one, for example a size with a tray
         for (auto it = now.begin(); it != now.end(); ++it) {
             if (!it->isEmpty() && ppd->markedChoice(it.key()) != *it)
                 ppd->mark(it.key(), *it);
@@ -71,7 +71,7 @@ QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &o
     return marks;
 }
 
-// What the page layout has taken; other values are sent as they stand.
+// Whether the page layout accepts the value; other values are sent unchanged.
 bool isLayout(const DialogSession &session, const QString &name, const QString &value)
 {
     return !(session.ppd() && session.ppd()->hasOption(name)) && PageLayoutSettings().set(name, value);
@@ -94,7 +94,7 @@ ChosenSetting chosenFrom(const DialogSession &session, const QString &name, cons
     return inWords(session, setting);
 }
 
-// What the policy allows of a preset; the rest is told.
+// The options of a preset that the policy allows; the others are reported.
 QMap<QString, QString> withoutForbidden(const DialogSession *session, const QMap<QString, QString> &preset,
                                         QStringList *notices)
 {
@@ -119,7 +119,7 @@ QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QS
         if (!isKnown(session, it.key()) && !isSecretSetting(session, it.key()))
             options.insert(it.key(), it.value());
     }
-    // Whatever the destination has them from: that is not there with another preset.
+    // Options from the destination are removed, since they do not belong to the other preset.
     for (const JobOption &option : session.general().layout.jobOptions({}, {}))
         options.insert(option.name, option.value);
     for (const JobOption &option : session.jobOptions()) {

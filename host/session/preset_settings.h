@@ -12,21 +12,21 @@ namespace host {
 
 class DialogSession;
 
-// What of a session a preset keeps: everything that is sent with a job but the pages, which belong to the
-// document. `unknown` are options of the preset in use: those that the dialog does not know, such as a job's
-// priority, stay. Codes are left out unless `withSecrets`.
+// The settings of a session that a preset stores: everything that is sent with a job except the page range,
+// which belongs to the document. `unknown` contains the options of the current preset; those unknown to the
+// dialog, such as a job's priority, are kept. Codes are left out unless `withSecrets` is set.
 QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QString, QString> &unknown,
                                      bool withSecrets);
 // Whether there is a code that a preset would leave out.
 bool hasSecrets(const DialogSession &session);
 
-// How a dialog would find everything that opened the queue with these options. `queueOptions` are those of
-// the queue itself, `preset` the user's, which count as chosen. What the printer does not take becomes a
-// notice that names it; the pages to print, and what panels hold apart from options, stay. The marks are
-// tried out on the PPD and put back, save for options that had none.
+// The state of a dialog that is opened for the queue with these options. `queueOptions` are the options of
+// the queue itself, `preset` those of the user, which count as choices. Options that the printer does not
+// accept become a notice. The page range and panel settings other than options do not change. The marks are
+// set on the PPD temporarily and restored afterwards, except for options without a mark.
 SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                              const QMap<QString, QString> &preset, QStringList *notices);
-// Sets everything so.
+// Applies such a state.
 void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                  const QMap<QString, QString> &preset);
 

@@ -14,7 +14,7 @@ namespace {
 
 const QString pageSize = QStringLiteral("PageSize");
 
-// Names that PPDs of many makers have for the same.
+// Names that PPDs of many makers use for the same setting.
 bool isMonochromeMark(const QString &keyword, const QString &choice)
 {
     static const QStringList keywords = {QStringLiteral("colormodel"), QStringLiteral("colormode"),
@@ -50,7 +50,7 @@ PageSettings pageSettings(const DialogSession &session)
         if (isKnown && option.kind != JobOption::Kind::Shown)
             settings.options.append({option.name, option.value});
     }
-    // The filters begin with an empty side then, where the number of sides is odd.
+    // The filters then print an empty side first if the number of sides is odd.
     if (session.general().layout.isReversed && isTwoSided(session))
         settings.options.append({QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")});
     settings.isMonochrome = isMonochrome(session, options);

@@ -9,8 +9,8 @@ namespace host {
 
 class DialogSession;
 
-// What a session's settings do to the pages of a document, as far as that is known outside the printer.
-// Nothing secret.
+// The effect of a session's settings on the pages of a document, as far as it does not depend on the
+// printer's hardware. Contains no secrets.
 PageSettings pageSettings(const DialogSession &session);
 
 // Whether a session prints on both sides of the paper.

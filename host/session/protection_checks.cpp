@@ -19,7 +19,7 @@ struct ProtectionText
     Q_DECLARE_TR_FUNCTIONS(ProtectionText)
 };
 
-// The protection that a way out would give up; null when it gives up none.
+// The protection that a resolution would give up; null if it gives up none.
 QString givenUpBy(const Resolution &resolution, const PpdDocument &ppd, const Protection &protection)
 {
     for (const OptionChoice &change : resolution) {
@@ -30,7 +30,7 @@ QString givenUpBy(const Resolution &resolution, const PpdDocument &ppd, const Pr
     return {};
 }
 
-// Whether a digit is there: chosen, or among the settings that the dialog began with.
+// Whether a digit is set: by the user, or in the initial settings of the dialog.
 bool isGiven(const QString &option, const PpdDocument &ppd, const ChosenSettings &chosen,
              const Destination &destination)
 {
@@ -39,7 +39,8 @@ bool isGiven(const QString &option, const PpdDocument &ppd, const ChosenSettings
            stored.contains(option, Qt::CaseInsensitive);
 }
 
-// All digits are, and they are not only those that the printer takes for none. Half a code is no code.
+// Whether all digits are set, and not only to the value that means no code. An incomplete code does not
+// count.
 bool isCodeGiven(const Protection::Secret &secret, const PpdDocument &ppd, const ChosenSettings &chosen,
                  const Destination &destination)
 {

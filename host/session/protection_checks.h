@@ -13,27 +13,26 @@ namespace host {
 class ChosenSettings;
 struct Destination;
 
-// A way out of the conflicts that gives up nothing that protects, with `keep` as it is where that is
-// possible. Null where there is none; where there are ways that do give up something, `givenUp` (may be null)
-// says what.
+// A resolution of the conflicts that keeps all protecting choices, and the choice of `keep` if possible. Null
+// if there is none; if other resolutions exist, `givenUp`, which may be null, is set to the protection that
+// they would give up.
 std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Protection &protection,
                                                const QString &keep, QString *givenUp);
 
-// The choices of conflicts that protect the user, in words: a printer may give up either side.
+// The protecting choices in conflicts, localised: a printer may ignore either side of a conflict.
 QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection);
 
-// The code that is missing for a choice that has been made: the password of private printing, or the
-// department code that is switched on. A code is there when all its digits have been chosen or stand in the
-// settings of `destination`. Null when none is missing; points into `protection`.
+// The code that is missing for a choice: the password for private printing, or the department code if it is
+// switched on. A code is complete if all its digits have been chosen or are in the settings of `destination`.
+// Null if none is missing; points into `protection`.
 const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
                                       const ChosenSettings &chosen, const Destination &destination);
-// What protects in the settings of `destination`, such as a preset with private printing, and is not there in
-// the PPD; empty when nothing is.
+// The protection in the settings of `destination`, such as a preset with private printing, that the PPD does
+// not support; empty if there is none.
 QString lackingProtection(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
                           const Destination &destination);
-// What is missing for the protection that has been chosen, in words: all of it, a code, or the choice that
-// uses a code.
-// Null when nothing is.
+// A description of what is missing for the chosen protection: the protection as a whole, a code, or the
+// choice that uses a code. Null if nothing is missing.
 QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
                       const Destination &destination);
 

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-constexpr qsizetype fewestDigits = 8; // choices; some printers leave out 0 or 9
+constexpr qsizetype fewestDigits = 8; // choices; some printers omit 0 or 9
 
 bool meansNothing(const QString &choice)
 {
@@ -25,7 +25,7 @@ bool meansNothing(const QString &choice)
     return words.contains(choice.toLower());
 }
 
-// Whether each choice, apart from those for "no digit", is one digit, perhaps behind a word that all share.
+// Whether each choice, apart from those for "no digit", is a single digit, possibly after a common prefix.
 bool hasDigits(const PpdOption &option)
 {
     qsizetype digits = 0;
@@ -44,7 +44,7 @@ bool hasDigits(const PpdOption &option)
     return digits >= fewestDigits;
 }
 
-// Of "JobPin3" or "ThirdPinDigit", what its siblings share.
+// The common part of names like "JobPin3" or "ThirdPinDigit".
 QString stemOf(const QString &keyword)
 {
     static const QRegularExpression number(
@@ -78,7 +78,7 @@ bool isNamedForCode(const QString &name)
     return hasAny(wordsOf(name), words);
 }
 
-// Names that the print system has for numbers of accounts and people.
+// Names of the print system for account and user numbers.
 bool isAccount(const QString &name)
 {
     return name == QLatin1String("job-account-id") || name == QLatin1String("job-accounting-user-id");

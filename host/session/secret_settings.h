@@ -11,18 +11,19 @@ namespace host {
 class PpdDocument;
 struct Protection;
 
-// The settings whose values are passwords or codes. These are the ones that a bundle declares, options of a
-// PPD that take passcodes, and options of a PPD that look like the digits of a code: they have a choice for
-// each digit (and perhaps "None" or "Off") and are numbered, as in "DINDigit1" to "DINDigit5", or named for a
-// code. A job option that the PPD does not know is secret by its name, as "job-password" is. A value.
+// The settings whose values are passwords or codes: those declared by a bundle, PPD options that accept
+// passcodes, and PPD options that look like the digits of a code. The latter have a choice for each digit
+// (and possibly "None" or "Off"), and are numbered, as in "DINDigit1" to "DINDigit5", or have a name that
+// indicates a code. A job option that the PPD does not have is recognized as secret by its name, such as
+// "job-password". A value.
 class SecretSettings
 {
 public:
-    SecretSettings() = default; // by their names alone
+    SecretSettings() = default; // recognizes secrets by name only
     // `ppd` may be null.
     SecretSettings(const PpdDocument *ppd, const Protection &protection);
 
-    // `name` is an option, a key of a panel or a job option, in any case.
+    // `name` is an option, a key of a panel or a job option; case is ignored.
     bool contains(const QString &name) const;
 
 private:
@@ -30,7 +31,7 @@ private:
     QSet<QString> m_options; // of the PPD, secret or not; in lower case
 };
 
-// What is shown in place of a secret value.
+// Displayed in place of a secret value.
 inline QString hiddenValue()
 {
     return QStringLiteral("•");

@@ -33,7 +33,8 @@ SettingChange markChange(const DialogSession &session, const QString &key, const
     return {key, now.optionText, then.choiceText, now.choiceText};
 }
 
-// By the words of the summary, which has each of them. How copies are collated is told of several only.
+// Uses the texts of the summary, which contains all of these settings. Collation is only reported for several
+// copies.
 void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &after,
                        QList<SettingChange> *changes)
 {

@@ -12,25 +12,25 @@ namespace host {
 class DialogSession;
 struct SessionState;
 
-// A setting that is not what it was, in words. A value.
+// A changed setting, for display. A value.
 struct SettingChange
 {
-    QString key;    // as SessionState::differencesTo() has it
+    QString key;    // as returned by SessionState::differencesTo()
     QString name;   // of the setting
-    QString before; // both empty where there are no words for it, as for codes, which are never shown
+    QString before; // both empty if there is no text, as for codes, which are never shown
     QString after;
 };
 
 QList<SettingChange> changesBetween(const DialogSession &session, const SessionState &before,
                                     const SessionState &after);
-// The panel whose page shows a setting; generalPage or morePage for those of the host.
+// The panel whose page shows a setting; generalPage or morePage for the host's pages.
 constexpr int generalPage = -1;
 constexpr int morePage = -2;
 int pageOf(const DialogSession &session, const QString &key);
-// The keys that a panel's control stands for, by the key path that it is bound to: an option, the digits of a
-// code, or a value of the panel's own. Empty for what the user cannot set.
+// The keys that a panel's control sets, by the key path of its binding: an option, the digits of a code, or
+// another value of the panel. Empty if the user cannot set the control.
 QStringList keysOfControl(const DialogSession &session, int panel, const QString &keyPath);
-// Sets these as they were in `base`, and nothing else.
+// Resets only these settings to their values in `base`.
 void putBack(DialogSession *session, const SessionState &base, const QStringList &keys);
 
 } // namespace host

@@ -14,8 +14,8 @@ namespace host {
 namespace {
 
 constexpr int mostSteps = 200;
-constexpr qint64 oneGesture = 1000; // milliseconds between changes that are one step
-constexpr int mergeable = 1;        // all steps; whether two are one is told by what they change
+constexpr qint64 oneGesture = 1000; // maximum milliseconds between changes of one step
+constexpr int mergeable = 1;        // the same for all steps; whether two are merged depends on their changes
 
 } // namespace
 
@@ -78,10 +78,10 @@ private:
     SessionHistory *m_history;
     QStringList m_keys;
     SessionState m_before, m_after;
-    Base m_baseBefore, m_baseAfter; // where it changes that
+    Base m_baseBefore, m_baseAfter; // if the step changes the base
     bool m_changesBase = false;
-    bool m_follows = false; // closely on the step before
-    bool m_isMade = false;  // the user has made it; the stack makes it again from then on
+    bool m_follows = false; // follows closely on the previous step
+    bool m_isMade = false;  // already applied by the user; the undo stack applies it from then on
 };
 
 SessionHistory::SessionHistory(DialogSession *session)
@@ -98,7 +98,7 @@ void SessionHistory::note()
         return;
     SessionState now = StateKeeper::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
-        // A panel that has been saved repeats what was seen before.
+        // A panel that has been saved repeats known values.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
             const_cast<Step *>(static_cast<const Step *>(last))->setChosen(now);
         m_now = std::move(now);
@@ -145,7 +145,7 @@ void SessionHistory::lookAnew()
     absorbNew(m_now);
 }
 
-// What a panel has read when it was first opened is what it begins with.
+// Values that a panel has read on opening are its initial values.
 void SessionHistory::absorbNew(const SessionState &now)
 {
     for (QVariantMap *known : {&m_base.state.panelValues, &m_startingPanelValues}) {

@@ -17,53 +17,53 @@ namespace host {
 
 class DialogSession;
 
-// What the user has changed in a session, step by step, to be undone and redone. A step is whatever differs
-// between two looks at the session, so it takes along what panels did about it and settings that are not
-// named here. Changes of the same settings that follow each other closely, as while typing, are one step. The
-// session is borrowed and outlives the history.
+// The user's changes to a session as steps of undo. A step consists of all differences between two looks at
+// the session, so it includes the reactions of panels, and settings without a name. Changes of the same
+// settings in quick succession, as while typing, are merged into one step. The session is borrowed and
+// outlives the history.
 class SessionHistory : public QObject
 {
     Q_OBJECT
 public:
     explicit SessionHistory(DialogSession *session);
 
-    // The user may have changed something: what differs from the last look becomes a step.
+    // Call when the user may have changed something: the differences from the last look become a step.
     void note();
-    // The same once control returns to the event loop, however often it is called until then.
+    // Calls note() once when control returns to the event loop, however often this is called until then.
     void noteLater();
-    // What comes next is a step of its own, however soon it comes.
+    // Prevents the next change from being merged with the last step.
     void endGesture() { m_sinceStep.invalidate(); }
-    // What differs from the last look was not asked for by the user, such as what a panel has read: no step.
+    // Takes over the current state without a step, for changes that the user did not make, such as values
+    // read by a panel.
     void absorb();
-    // While the result lives, note() and absorb() do nothing: for a change that lets events be handled before
-    // it is complete, as a panel does that asks its device. To be followed by one of them.
+    // Disables note() and absorb() during the lifetime of the result: for a change during which events are
+    // processed, such as that of a panel that queries its device. Call one of them afterwards.
     [[nodiscard]] QScopedValueRollback<bool> pause() { return QScopedValueRollback<bool>(m_isPaused, true); }
     QUndoStack *steps() { return &m_steps; }
 
-    // What changes are told by: how the session stood when it began, or when a preset was applied, and the
-    // name of that.
+    // The state against which changes are shown: that at the start or when a preset was applied, and the name
+    // of the preset.
     struct Base
     {
         SessionState state;
         QString name;
     };
     const Base &base() const { return m_base; }
-    // Makes what stands at the next look the base, as part of the step that it makes.
+    // Makes the state at the next look the base, as part of the step that it creates.
     void takeBase(const QString &name) { m_nextBase = name; }
-    // A base has another name now, wherever steps lead to it.
+    // Updates the name of a base in all steps.
     void renameBase(const QString &from, const QString &to);
-    // A base is no more: another takes its place, wherever steps lead to it.
+    // Replaces a base that no longer exists in all steps.
     void replaceBase(const QString &name, const Base &base);
-    // The preset that the session's destination may be has another name now, or none: nothing leads back to
-    // the old.
+    // Updates or removes the name of the preset that is the session's destination in all steps.
     void renameInstance(const QString &from, const QString &to);
-    // What panels held apart from options before anything was changed.
+    // The initial values of panels, other than PPD options.
     const QVariantMap &startingPanelValues() const { return m_startingPanelValues; }
-    // How it stood at the last look.
+    // The state at the last look.
     const SessionState &now() const { return m_now; }
 
 Q_SIGNALS:
-    // A step has been made, undone or redone.
+    // A step has been created, undone or redone.
     void changed();
 
 private:

@@ -13,14 +13,14 @@
 
 namespace host {
 
-// A panel of a session, the PPD options that it handles, and how far the two have got with each other.
+// A panel of a session, the PPD options that it handles, and its state.
 struct SessionPanel
 {
     std::unique_ptr<platform::PrintDialogPanel> panel;
     QStringList keywords;
-    QSet<QString> touched;  // set by the panel's own code before it was restored
-    QVariantMap keyValues;  // of the keys that can be set, as last looked at; since it was restored
-    bool announced = false; // shows its options' choices, without having been restored
+    QSet<QString> touched;  // set by the panel itself before it was restored
+    QVariantMap keyValues;  // last known values of the keys that can be set, since it was restored
+    bool announced = false; // shows the choices of its options, without having been restored
     bool restored = false;
 
     bool followsChoices() const { return announced || restored; }

@@ -18,7 +18,7 @@ namespace host {
 
 namespace {
 
-// Panels declare the PPD options that they handle under this key.
+// The key under which panels declare the PPD options that they handle.
 const QString supportedKeywordsKey = QStringLiteral("supportedPPDOptionKeys");
 
 QStringList keywordsOf(platform::PrintDialogPanel *panel)
@@ -94,7 +94,7 @@ void SessionPanels::restore(int index)
     SessionPanel &panel = own(index);
     const QScopedValueRollback<int> busy(m_busy, m_busy + 1);
     const QScopedValueRollback<const SessionPanel *> restoring(m_restoring, &panel);
-    panel.restored = true; // also when it fails: a second attempt would ask a device that is away again
+    panel.restored = true; // even if it fails: a second attempt would query an unreachable device again
     const QString failure = tr("“%1” could not be prepared: %2");
     QString error;
     try {
@@ -123,8 +123,8 @@ void SessionPanels::save(int index)
     lookAtKeys(index, true);
 }
 
-// Keys of a panel other than its PPD options, such as the profiles of a device. What differs from the last
-// look has been chosen since.
+// Keys of a panel other than PPD options, such as the profiles of a device. Differences from the last look
+// are choices of the user.
 void SessionPanels::lookAtKeys(int index, bool areChosen)
 {
     platform::KeyValueObject *object = objectOf(index);

@@ -13,16 +13,16 @@ namespace host {
 
 class PpdDocument;
 
-// The plug-in's panels in a session, and every call that the session makes into them: an error or an
-// exception of theirs becomes words for the user. Part of a session and gone with it; the PPD is the
-// session's, may be null, and outlives the panels.
+// The plug-in's panels in a session. All calls of the session into panels go through this class; errors and
+// exceptions become localised messages. Part of a session and destroyed with it. The PPD belongs to the
+// session, may be null, and outlives the panels.
 class SessionPanels : public QObject
 {
     Q_OBJECT
 public:
     explicit SessionPanels(const PpdDocument *ppd) : m_ppd(ppd) {}
 
-    // Once.
+    // Call once.
     void adopt(platform::PrintDialogPanels panels);
     void clear() { m_panels.clear(); }
     int count() const { return static_cast<int>(m_panels.size()); }
@@ -30,33 +30,33 @@ public:
     platform::KeyValueObject *objectOf(int index) const { return at(index).panel->keyValueObject(); }
     // The panel that handles a PPD option, or -1.
     int ofKeyword(const QString &keyword) const;
-    // The panel that answers a key or key path other than the PPD options, or -1.
+    // The panel that has this key or key path, which is not a PPD option, or -1.
     int ofSetting(const QString &keyPath) const;
-    // The keys and key paths other than PPD options that a panel can be set by.
+    // The keys and key paths of a panel that can be set, other than PPD options.
     QStringList settableKeysOf(int index) const;
 
-    // Whether a call into a panel is under way.
+    // Whether a call into a panel is in progress.
     bool isBusy() const { return m_busy > 0; }
-    // Whether a panel is being restored: it may wait for a device, and what it holds means nothing yet.
+    // Whether a panel is being restored: it may wait for a device, and its values are not valid yet.
     bool isRestoring(int index) const { return m_restoring == &at(index); }
     // The panel that is being saved, or -1.
     int saving() const { return m_saving; }
 
-    // Sets what is marked in the PPD, which is what a restore would read, so that the panels that listen to
-    // it know. Nothing for a panel that follows the choices already.
+    // Sets the choices that are marked in the PPD, which a restore would read, so that panels that depend on
+    // the options are notified. Does nothing for a panel that already follows the choices.
     void announceChoices(int index);
     void restore(int index);
     void save(int index);
-    // Sets an option on all panels that follow the choices, or on one.
+    // Sets an option on all panels that follow the choices, or on one panel.
     void set(const QString &keyword, const QString &choice);
     void setOn(int index, const QString &keyword, const QString &choice);
 
 Q_SIGNALS:
-    // A key of a panel has another value, for whatever reason.
+    // A key of a panel has changed, for whatever reason.
     void keyChanged(int index, const QString &key);
-    // A panel that was saved holds another value for a key other than its PPD options than before.
+    // After a save, a key of a panel other than a PPD option has a different value.
     void chosen(const QString &key, const QString &value);
-    // Localised.
+    // The problem is localised.
     void failed(const QString &problem);
 
 private:
@@ -66,10 +66,11 @@ private:
 
     const PpdDocument *m_ppd;
     std::vector<SessionPanel> m_panels;
-    int m_busy = 0; // calls into panels that are under way
+    int m_busy = 0; // number of calls into panels in progress
     int m_saving = -1;
     const SessionPanel *m_restoring = nullptr;
-    const SessionPanel *m_announcing = nullptr; // is being told what is so, not what to change
+    // the panel that is being notified of choices, as opposed to a change
+    const SessionPanel *m_announcing = nullptr;
 };
 
 } // namespace host

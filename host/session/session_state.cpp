@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-// One change may lead panels to others, which are then put right; they come to rest at once or never.
+// A change may cause changes in panels, which are corrected in another round; more rounds would not end.
 constexpr int mostRounds = 3;
 
 const QString collatingName = QStringLiteral("multiple-document-handling");
@@ -49,7 +49,7 @@ QMap<QString, QString> byName(const GeneralSettings &general)
     QMap<QString, QString> values;
     for (const JobOption &option : general.jobOptions())
         values.insert(option.name, option.value);
-    // A job has them for several copies only, and both for the same thing.
+    // A job contains them only for several copies; both represent the same setting.
     values.remove(QStringLiteral("Collate"));
     values.insert(collatingName, GeneralSettings::handling(general.collate));
     values.insert(general.layout.values());
@@ -121,7 +121,7 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
                 state.marks.insert(keyword, choice.toString());
         }
         for (const QString &key : session.settableKeysOf(i)) {
-            if (object->keysOfDependentKey(key).isEmpty()) // others stand for options
+            if (object->keysOfDependentKey(key).isEmpty()) // other properties represent options
                 state.panelValues.insert(QStringLiteral("%1/%2").arg(i).arg(key),
                                          object->valueForKeyPath(key));
         }
@@ -135,7 +135,7 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
     return state;
 }
 
-// One round; true when there was nothing left to do.
+// One round; true if nothing was left to do.
 bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
 {
     const SessionState now = stateOf(*m_session);
@@ -168,7 +168,7 @@ bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
     return isThere;
 }
 
-// What a device's settings are stands in the print settings alone until a panel has read it.
+// Device settings are only in the print settings until a panel has read them.
 bool StateKeeper::bringPrintSettings(const SessionState &from, const SessionState &to)
 {
     platform::PrintSettings &settings = m_session->m_host.settings();

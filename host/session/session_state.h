@@ -16,12 +16,12 @@ namespace host {
 
 class DialogSession;
 
-// Everything of a session that its user can set, as it stands at one moment: what a change is told by, and
-// what undoing it goes back to. Holds codes as well; not for logs or files. A value, of one session.
+// All settings of a session at one moment; used to detect changes and to undo them. Contains codes; must not
+// be logged or stored in files. A value, specific to one session.
 struct SessionState
 {
-    QMap<QString, QString> marks; // by PPD option; where a panel holds another choice, that one
-    QVariantMap panelValues;      // what panels hold apart from PPD options: "number of the panel/key path"
+    QMap<QString, QString> marks; // by PPD option; if a panel holds another choice, that one
+    QVariantMap panelValues;      // values of panels other than PPD options: "number of the panel/key path"
     QVariantMap printSettings;
     GeneralSettings general;
     ChosenSettings chosen;
@@ -29,23 +29,23 @@ struct SessionState
     QString instance; // of the destination
     QMap<QString, QString> destinationOptions;
 
-    // The keys that have other values in another state, in a stable order: PPD options, keys of panels, and
-    // the names of general settings as a job has them.
+    // The keys with different values in another state, in a stable order: PPD options, keys of panels, and
+    // the job option names of general settings.
     QStringList differencesTo(const SessionState &other) const;
-    // Leaves out, of two states, what both have alike.
+    // Removes equal settings from two states.
     static void keepDifferences(SessionState *one, SessionState *other);
 };
 
-// Tells how a session stands and brings it back to how it stood, which takes setting what no front end may.
-// Made for a call or two; the session is borrowed.
+// Reads the state of a session and restores it, which requires setting values that front ends must not set.
+// Created for few calls; the session is borrowed.
 class StateKeeper
 {
 public:
     explicit StateKeeper(DialogSession *session) : m_session(session) {}
 
-    // Everything that can be set, as it stands, what panels have not saved yet included.
+    // The current state, including changes that panels have not saved.
     static SessionState stateOf(const DialogSession &session);
-    // Of what differs between two states, sets all to what `to` has, on the panels too, without a notice.
+    // Sets all differences between two states to their values in `to`, also on the panels, without notices.
     void bring(const SessionState &from, const SessionState &to);
 
 private:
@@ -55,7 +55,7 @@ private:
     DialogSession *m_session;
 };
 
-// The settings with one of them, by its name in a job, as others have it.
+// The settings with one of them, named by its job option, replaced by that of others.
 GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &name,
                                  const GeneralSettings &other);
 

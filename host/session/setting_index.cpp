@@ -21,7 +21,7 @@ struct SettingText
 
 constexpr int unmatched = 1000;
 
-// How far a word is from a text: nearest where a word of the text begins with it.
+// The distance of a word from a text: smallest if a word of the text begins with it.
 int distanceIn(const QString &text, const QString &word, int base)
 {
     const qsizetype at = text.indexOf(word);
@@ -48,7 +48,7 @@ QString searchable(const QString &text)
 
 void SettingIndex::add(const FoundSetting &setting)
 {
-    if (!m_titles.contains(setting.page)) // the administrator does not show it
+    if (!m_titles.contains(setting.page)) // hidden by the administrator
         return;
     const QChar gap(QLatin1Char(' '));
     m_entries.append({setting, searchable(setting.option + gap + setting.keyword),
@@ -107,7 +107,7 @@ void SettingIndex::addControl(const FoundSetting &control, const QString &more)
         if (!isSame)
             continue;
         isKnown = true;
-        entry.setting.option = control.option; // what its user sees; the PPD's words still find it
+        entry.setting.option = control.option; // the displayed text; the PPD's text is still found
         entry.name += QLatin1Char(' ') + name;
         entry.rest += QLatin1Char(' ') + searchable(more);
     }
@@ -117,8 +117,8 @@ void SettingIndex::addControl(const FoundSetting &control, const QString &more)
     m_entries.last().rest += QLatin1Char(' ') + searchable(more);
 }
 
-// Smaller is better; `unmatched` and more where a word is not found. A choice is found by itself: at least
-// one of the words is about it.
+// Smaller is better; `unmatched` or more if a word is not found. For a choice to be found, at least one word
+// must match the choice itself.
 int SettingIndex::distance(const Entry &entry, const QStringList &words)
 {
     const bool isChoice = !entry.setting.choice.isEmpty();

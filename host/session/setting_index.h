@@ -11,40 +11,40 @@ namespace host {
 
 class DialogSession;
 
-// Something that can be set in a dialog, as a search finds it. A value.
+// A search result: a setting of a dialog. A value.
 struct FoundSetting
 {
     QString page;       // "general", "more", or a panel's kind
-    QString keyword;    // of the PPD option or general setting; null for a control that sets something else
-    QString option;     // in words
-    QString choice;     // a choice of it, as the PPD calls it; null for the option as a whole
-    QString choiceText; // in words
+    QString keyword;    // of the PPD option or general setting; null for a control of another setting
+    QString option;     // display text
+    QString choice;     // the keyword of a choice; null for the option as a whole
+    QString choiceText; // display text
 };
 
-// Finds settings by words in any order, whole or in part, in the user's language or as the PPD has them;
-// capitals and accents make no difference. Made for one session when the user first searches;
-// keeps no reference to it. Codes, and the options that keep them, are not in it.
+// Searches settings by words or parts of words in any order, in the user's language or as in the PPD; case
+// and accents are ignored. Created for one session on the user's first search; holds no reference to it. Does
+// not contain codes and the options that store them.
 class SettingIndex
 {
 public:
-    // Pages are found by their titles, too; to be told before what is on them.
+    // Adds a page, which is also found by its title. Call before adding its contents.
     void addPage(const QString &page, const QString &title) { m_titles.insert(page, title); }
-    // The options of the PPD and what every printer can be asked.
+    // Adds the options of the PPD and the general settings.
     void addSession(const DialogSession &session);
-    // A control of a page. `more` is what else is said of it, such as a tool tip. A control of an option that
-    // is known gives that its name, and adds to what it is found by.
+    // Adds a control of a page. `more` is additional text, such as the tooltip. The control of a known option
+    // provides its name and further text.
     void addControl(const FoundSetting &control, const QString &more);
 
-    // The best first; at most so many.
+    // The best matches first, limited to `most`.
     QList<FoundSetting> find(const QString &query, qsizetype most) const;
 
 private:
     struct Entry
     {
         FoundSetting setting;
-        QString name;   // what it is found by: the option,
+        QString name;   // search text: the option,
         QString choice; // the choice,
-        QString rest;   // and where it is and what is said of it
+        QString rest;   // and its location and description
     };
     void add(const FoundSetting &setting);
     void addOption(const DialogSession &session, const QString &page, const QString &keyword);
@@ -54,7 +54,7 @@ private:
     QList<Entry> m_entries;
 };
 
-// A text as it is compared in a search: words of small letters without accents.
+// Normalizes a text for comparison: lower case without accents.
 QString searchable(const QString &text);
 
 } // namespace host

@@ -84,7 +84,7 @@ bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintErro
     return true;
 }
 
-// A PPD may have an option of the same name, which then is meant.
+// If the PPD has an option of the same name, that one is meant.
 bool SettingKeys::isLayout(const QString &key) const
 {
     return PageLayoutSettings::covers(key) && !(m_session->ppd() && m_session->ppd()->hasOption(key));

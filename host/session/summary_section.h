@@ -15,19 +15,19 @@ struct GeneralSettings;
 
 using SummaryEntry = std::pair<QString, QString>; // name and value
 
-// A part of the summary: what one pane stands at. A value.
+// A section of the summary: the settings of one page. A value.
 struct SummarySection
 {
     QString title;
     QList<SummaryEntry> entries;
-    int panel = -1; // whose part it is; -1 for the host's own
+    int panel = -1; // the panel; -1 for the host's settings
 };
 
-// What every printer can be asked, and the options of the PPD that no panel shows.
+// The general settings, and the options of the PPD that no panel shows.
 SummarySection generalSummary(const DialogSession &session);
-// Of these, what is no option of the PPD.
+// The general settings that are not PPD options.
 QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual);
-// The print system's name for one of them, by its name here; empty for a setting that has none.
+// The job option of a general setting, by its display name; empty if there is none.
 QString keyOfGeneralEntry(const QString &name);
 
 } // namespace host
