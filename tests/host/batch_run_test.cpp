@@ -223,7 +223,8 @@ void BatchRunTest::lastWordOfTheUserCounts()
     QStringList all = words.split(u' ', Qt::SkipEmptyParts);
     QCOMPARE(run(QStringList(u"--batch"_s) + all + QStringList(m_document.fileName())), int(ExitSuccess));
     const QList<JobOption> options = m_system.submitted.first().options;
-    QTEST(sentValue(options, name), "sent");
+    // Newer versions of libcups also take a type in "media": "A3,Plain".
+    QTEST(sentValue(options, name).section(u',', 0, 0), "sent");
     QSet<QString> names;
     for (const JobOption &option : options) {
         QVERIFY2(!names.contains(option.name.toLower()), qPrintable(option.name));
