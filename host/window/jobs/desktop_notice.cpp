@@ -17,7 +17,7 @@ namespace {
 
 constexpr int longest = 10'000; // milliseconds
 
-// The service in the program's folder, as in a build folder, else where it is installed.
+// The service in the program's folder, as in a build tree, else in the folder where it is installed.
 QString serviceProgram()
 {
     const QString here = QCoreApplication::applicationDirPath();
@@ -28,7 +28,7 @@ QString serviceProgram()
                      .absoluteFilePath();
 }
 
-// Texts go through a pipe: all users can read the arguments of a process.
+// Texts are passed through a pipe, since all users can read the arguments of a process.
 QByteArray noticeOf(const QString &title, const QString &text, bool isUrgent)
 {
     const QJsonObject notice{{QStringLiteral("title"), title},
@@ -37,7 +37,7 @@ QByteArray noticeOf(const QString &title, const QString &text, bool isUrgent)
     return QJsonDocument(notice).toJson(QJsonDocument::Compact);
 }
 
-// False when nothing has been shown.
+// False if no notification was shown.
 bool show(const QString &program, const QByteArray &notice)
 {
     QProcess process;

@@ -7,10 +7,11 @@
 
 namespace host {
 
-// Shows a desktop notification, where the desktop has them. Returns
-// at once; what speaks with the desktop is a process of its own. Texts are plain text.
+// Shows a desktop notification if the desktop supports them. Returns at once; a separate process communicates
+// with the desktop. Texts are plain text.
 void notifyDesktop(const QString &title, const QString &text, bool isUrgent);
-// The same for a program without a window: waits up to ten seconds. False when the desktop shows nothing.
+// The same for a program without a window: waits up to ten seconds. False if the desktop shows no
+// notification.
 bool notifyDesktopNow(const QString &title, const QString &text, bool isUrgent);
 
 } // namespace host

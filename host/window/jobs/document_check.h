@@ -11,8 +11,8 @@
 
 namespace host {
 
-// Looks on a worker thread whether documents can be printed, while the user makes settings for them. What can
-// be read once only is left to the job. Belongs to its window.
+// Checks on a worker thread whether documents can be printed, while the user chooses settings. Streams are
+// not read, since that is left to the job. Owned by its window.
 class DocumentCheck : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     void start(const QStringList &paths);
 
 Q_SIGNALS:
-    // The first of them that cannot be printed.
+    // Reports the first document that cannot be printed.
     void failed(const host::PrintError &error);
 
 private:

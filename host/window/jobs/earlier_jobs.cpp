@@ -24,7 +24,7 @@ void EarlierJobs::add(int id, const JobStatus &status, const JobFollower::Query 
 void EarlierJobs::update(int id, const JobStatus &status)
 {
     const auto job = std::find_if(m_jobs.begin(), m_jobs.end(), [id](const Job &j) { return j.id == id; });
-    // A server that does not answer just now tells nothing new.
+    // Keep the last known status if the server does not respond.
     if (job == m_jobs.end() || status.state == JobStatus::State::Unknown)
         return;
     job->status = status;
@@ -36,7 +36,7 @@ void EarlierJobs::update(int id, const JobStatus &status)
 QStringList EarlierJobs::lines() const
 {
     QStringList states;
-    QList<QStringList> ids; // of each state
+    QList<QStringList> ids; // for each state
     for (const Job &job : m_jobs) {
         qsizetype at = states.indexOf(job.status.text());
         if (at < 0) {

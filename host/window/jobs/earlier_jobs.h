@@ -11,22 +11,21 @@
 
 namespace host {
 
-// The jobs that a dialog has sent before the one that its result page is about. Follows each until it has
-// ended.
+// The jobs that a dialog has sent before the job on its result page. Follows each job until it has ended.
 class EarlierJobs : public QObject
 {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    // `status` is what was last heard of it; `query` asks for more, as for a JobFollower.
+    // `status` is the last known status; `query` requests it, as for a JobFollower.
     void add(int id, const JobStatus &status, const JobFollower::Query &query);
-    // Them all in words, such as "Jobs 14, 13: done": a line for each state, the latest job first.
+    // All jobs as text, such as "Jobs 14, 13: done": a line for each state, the latest job first.
     QStringList lines() const;
 
 Q_SIGNALS:
     void changed();
-    // One of them has; `line` says so in words.
+    // A job has ended; `line` is a text about it.
     void ended(const QString &line, const host::JobStatus &status);
 
 private:

@@ -45,7 +45,7 @@ void JobDesk::send(const JobSender::Order &order, const QString &documents)
         return;
     m_waiting->setTask(tr("Reading the document…"), tr("Ca&ncel Printing"));
     m_sender.tellProgress();
-    if (m_sender.isSending()) // else a signal has come meanwhile
+    if (m_sender.isSending()) // otherwise a signal has arrived meanwhile
         Q_EMIT delayed();
 }
 
@@ -88,7 +88,7 @@ void JobDesk::take(const Submission &submission)
         showResult();
 }
 
-// The job before is followed as an earlier one.
+// Adds the current job to the earlier jobs.
 void JobDesk::setAside()
 {
     m_follower->stop();
@@ -135,14 +135,14 @@ void JobDesk::noteStatus(const JobStatus &status)
         tellElsewhere(m_result->text(), status);
 }
 
-// That a job has ended, or needs the user.
+// Notifies the user that a job has ended or needs attention.
 void JobDesk::tellElsewhere(const QString &text, const JobStatus &status)
 {
     if (!m_dialog->isActiveWindow())
         notifyDesktop(m_dialog->windowTitle(), text, status.state != JobStatus::State::Completed);
 }
 
-// One change at a time; another one is ignored meanwhile.
+// Ignored while another change is in progress.
 void JobDesk::change(JobAction action)
 {
     if (m_change.isPending())

@@ -20,37 +20,36 @@ class EarlierJobs;
 class ResultPage;
 class WaitingPage;
 
-// The jobs that a dialog prints, one after another: sends each, shows its progress on one page until the
-// print server has it, and on the other what becomes of it. Jobs sent before the last one are followed until
-// they end. Belongs to the dialog, as the pages do; the dialog brings them up. The print system is borrowed
-// and outlives it.
+// The jobs of a dialog, one after another: sends each job, shows its progress on one page until the print
+// server has it, and then its state on the other page. Earlier jobs are followed until they end. Owned by the
+// dialog, as are the pages, which the dialog shows. The print system is borrowed and outlives this object.
 class JobDesk : public QObject
 {
     Q_OBJECT
 public:
     JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QWidget *dialog);
 
-    // Waits for a near server, 50 ms at most. `documents` are their names, for the user; may be empty.
+    // Waits for a nearby server, 50 ms at most. `documents` contains their names for display; may be empty.
     void send(const JobSender::Order &order, const QString &documents);
     bool isSending() const { return m_sender.isSending(); }
     bool isCancelled() const { return m_sender.isCancelled(); }
-    // Cancels what is being sent. False when nothing is.
+    // Cancels the job that is being sent. False if there is none.
     bool stop();
-    // The same for a dialog that is closed. True when nothing is being sent any more; else left() follows.
+    // The same when the dialog is closed. True if no job is being sent; otherwise left() follows.
     bool leave();
-    // The last job that was accepted, or may have been; null before there is one. A job that was rejected or
-    // cancelled while it was sent does not take the place of one before it.
+    // The last job that was accepted, or may have been; null before the first. A job that was rejected or
+    // canceled while it was sent does not replace an earlier one.
     const std::optional<Submission> &submission() const { return m_submission; }
 
 Q_SIGNALS:
-    // Sending takes longer than a user notices.
+    // Sending takes noticeably long.
     void delayed();
     void rejected(const host::PrintError &error);
     // The server has the job, or may have it.
     void sent();
-    // The end of a job that was being sent when the dialog was closed; one that was not undone is `kept`.
+    // The job that was being sent when the dialog was closed has ended; it is `kept` if it was not canceled.
     void left(bool kept);
-    // The job will not change any more.
+    // The state of the job is final.
     void ended();
 
 private:
@@ -71,12 +70,12 @@ private:
     JobSender m_sender;
     JobFollower *m_follower;
     EarlierJobs *m_earlier = nullptr; // null until there is one
-    Destination m_destination;        // of what is being sent
-    QString m_documents;              // their names
+    Destination m_destination;        // of the job that is being sent
+    QString m_documents;              // their names for display
     std::optional<Submission> m_submission;
     Destination m_submissionDestination;
     platform::Awaited<PrintError> m_change;
-    bool m_wasTold = false; // that the job needs the user
+    bool m_wasTold = false; // whether the user was notified that the job needs attention
     bool m_isLeaving = false;
 };
 

@@ -12,23 +12,24 @@ namespace host {
 
 namespace {
 
-// A print server that is near answers within this, and its answer is shown at once. The user does not notice
-// the wait.
+// A nearby print server responds within this time, and its response is shown at once. The user does not
+// notice the wait.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
 
 } // namespace
 
-// What the work and the sender that waits for it share.
+// State shared by the work and the sender.
 struct JobSender::Sending
 {
     std::atomic<qint64> sent{0};
     std::atomic<qint64> total{0}; // bytes
     std::atomic<bool> isCancelled{false};
-    // Until the server is asked, nothing has to be undone: the work is dropped, however long it still reads.
+    // Before the server is contacted, nothing has to be canceled: the work is abandoned, even if it is still
+    // reading.
     enum class Phase { Reading, Submitting, Dropped };
     std::atomic<Phase> phase{Phase::Reading};
-    bool isToldToSend = false; // the user knows that the server is asked now
+    bool isToldToSend = false; // whether submitting() was emitted
     bool enter(Phase next)
     {
         Phase reading = Phase::Reading;
@@ -91,7 +92,7 @@ void JobSender::tellProgress()
     if (!m_sending)
         return;
     if (m_sending->phase == Sending::Phase::Reading) {
-        if (HeldSignals::isPending()) // there is no job yet to be cancelled first
+        if (HeldSignals::isPending()) // there is no job to cancel first
             dropReading();
         return;
     }
@@ -112,7 +113,7 @@ bool JobSender::dropReading()
     return true;
 }
 
-// The settings file may be slow: nothing waits for it.
+// Does not wait for the settings file, which may be slow.
 void JobSender::end(const Submission &submission)
 {
     m_progressTimer.stop();

@@ -45,7 +45,7 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
       m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
-    // Each by itself, so that a screen reader repeats neither when the other changes or a button gets the
+    // Separately, so that a screen reader does not repeat one when the other changes or a button gets the
     // focus.
     makeAnnounced(m_title);
     makeAnnounced(m_state);
@@ -63,7 +63,7 @@ ResultPage::ResultPage(QWidget *parent)
     column->addStretch(3);
 }
 
-// Made when there is a job to do something to.
+// Created when there is a job with possible actions.
 void ResultPage::buildActions()
 {
     m_earlier = centredLabel(this);
@@ -142,7 +142,7 @@ void ResultPage::showState(const QString &state)
 
 void ResultPage::showStatus(const JobStatus &status)
 {
-    // A server that does not answer just now tells nothing new.
+    // Keep the last known state if the server does not respond.
     if (status.state == JobStatus::State::Unknown && !m_state->text().isEmpty())
         return;
     m_glyph->setKind(kindOf(status));
@@ -150,11 +150,11 @@ void ResultPage::showStatus(const JobStatus &status)
     const QString state = wrappable(sentence(status));
     if (state == m_state->text())
         return;
-    m_problem->hide(); // of what the job was before
+    m_problem->hide(); // about the job's previous state
     showState(state);
 }
 
-// Only what the job allows: one that has ended, or that is not known, cannot be stopped.
+// Shows only possible actions: a job that has ended, or is unknown, cannot be canceled.
 void ResultPage::showActions(const JobStatus &status)
 {
     const bool isOpen = status.state != JobStatus::State::Unknown && !status.isFinal();

@@ -14,21 +14,21 @@ namespace host {
 
 class StatusGlyph;
 
-// What became of a job that was accepted, or may have been: its number and its state, which keeps up with the
-// print server for as long as it is shown, and what can be done to it; or that it is not known.
+// Shows a job that was accepted, or may have been: its number, its state, which is updated while the page is
+// shown, and possible actions; or that the outcome is unknown.
 class ResultPage : public QWidget
 {
     Q_OBJECT
 public:
     explicit ResultPage(QWidget *parent = nullptr);
-    // `documents` are their names, for the user; may be empty.
+    // `documents` contains their names for display; may be empty.
     void showSubmission(const QString &printer, const QString &documents, const Submission &submission);
-    // News of the job.
+    // Updates the status of the job.
     void showStatus(const JobStatus &status);
-    // What has become of the jobs before it, in lines; for a page that shows one.
+    // Shows the states of earlier jobs, as lines; call when the page shows a job.
     void showEarlier(const QStringList &lines);
     QString text() const;
-    // Why the last action failed; empty when it did not. Goes with the next news of the job.
+    // Shows why the last action failed; empty if it succeeded. Hidden when the status changes.
     void showProblem(const QString &text);
 
 Q_SIGNALS:
@@ -53,7 +53,7 @@ private:
     QPushButton *m_cancelJob = nullptr;
     QPushButton *m_hold = nullptr;
     QPushButton *m_again = nullptr;
-    bool m_holds = false; // what m_hold does; else it releases
+    bool m_holds = false; // whether m_hold holds the job; otherwise it releases it
     QString m_printer;
     int m_id = 0;
 };

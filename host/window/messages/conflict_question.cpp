@@ -30,7 +30,7 @@ QStringList described(const QList<Conflict> &conflicts)
     return lines;
 }
 
-// What a suggestion changes, or why there is none.
+// The changes of a suggestion, or why there is none.
 QStringList suggestionLines(const std::optional<Resolution> &suggestion, const QString &givenUp)
 {
     if (!givenUp.isNull())
@@ -44,7 +44,7 @@ QStringList suggestionLines(const std::optional<Resolution> &suggestion, const Q
     return {ConflictText::tr("Suggestion: %1").arg(changes.join(QStringLiteral(", ")))};
 }
 
-// What the printer may do to the job if it is printed all the same.
+// The possible effects on the job if it is printed nevertheless.
 QStringList warnings(const QList<Conflict> &conflicts, const DialogSession &session)
 {
     QStringList lines, locks;

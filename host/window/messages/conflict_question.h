@@ -12,26 +12,26 @@ namespace host {
 
 class DialogSession;
 
-// The question about settings that cannot be used together: follow a suggestion, print all the same, or keep
-// them. A value.
+// The question about settings that cannot be used together: apply a suggestion, print anyway, or keep the
+// settings. A value.
 struct ConflictQuestion
 {
     enum class Purpose {
-        Review,   // the user has changed something
-        Print,    // the user wants to print, and may all the same
-        Continue, // the same where an application prints
+        Review,   // the user has changed a setting
+        Print,    // the user wants to print, and may do so anyway
+        Continue, // the same if an application prints
     };
     enum class Answer { Keep, Apply, PrintAnyway };
 
     Message message;
-    std::optional<Resolution> suggestion; // null where there is none
+    std::optional<Resolution> suggestion; // null if there is none
     QList<Answer> answers;                // in the order of message.answers
 
-    // What an answer of the message bar means; -1 is Keep.
+    // The meaning of an answer of the message bar; -1 is Keep.
     Answer meaningOf(int answer) const { return answers.value(answer, Answer::Keep); }
 };
 
-// Asks about the conflicts of a session. Null where there are none.
+// Creates the question about the conflicts of a session. Null if there are none.
 std::optional<ConflictQuestion> conflictQuestion(const DialogSession &session,
                                                  ConflictQuestion::Purpose purpose);
 

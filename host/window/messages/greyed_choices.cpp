@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-// A way that keeps every protection is a plain question; other messages warn.
+// A solution that keeps every protection is an ordinary question; otherwise the message is a warning.
 Message messageOf(const ForcedChoice &forced)
 {
     Message message;
@@ -87,7 +87,7 @@ void GreyedChoices::take(const ForcedChoice &offered)
 {
     const ForcedChoice now = forcedChoice(m_session(), offered.wanted.option, offered.wanted.choice);
     if (now != offered && !(now.obstacle.option.isEmpty() && now.locks.isEmpty())) {
-        ask(now); // something else has been set since
+        ask(now); // another setting has been changed since
         return;
     }
     Q_EMIT aboutToChoose();

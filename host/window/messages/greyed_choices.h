@@ -17,18 +17,18 @@ namespace host {
 class DialogSession;
 class MessageQueue;
 
-// Lets the user pick what is greyed in a list of choices, on pages of the host and of panels: a question says
-// what would have to change, and the changes are made when the user agrees. A child of its window; the queue
-// is borrowed.
+// Lets the user select a greyed item of a choice list on the pages of the host and of panels: a question
+// describes the required changes, which are made when the user agrees. A child of its window; the queue is
+// borrowed.
 class GreyedChoices : public QObject
 {
     Q_OBJECT
 public:
-    // `session` gives the session that is shown; null while there is none.
+    // `session` returns the current session; null if there is none.
     GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session, QWidget *window);
 
 Q_SIGNALS:
-    // A greyed choice is about to be made, with what it takes.
+    // A greyed choice and the required changes are about to be applied.
     void aboutToChoose();
     void chosen();
 

@@ -47,7 +47,7 @@ MessageBar::MessageBar(QWidget *parent) : QFrame(parent)
     connect(qApp, &QApplication::focusChanged, this, &MessageBar::noteFocus);
 }
 
-// When there is something to say: the bold font that a title takes costs a start 200 kB.
+// Created with the first message: the bold font of the title costs 200 kB at start-up.
 void MessageBar::build()
 {
     m_glyph = new StatusGlyph(iconSize, this);
@@ -61,7 +61,8 @@ void MessageBar::build()
     m_title->setFont(bold);
     m_buttonRows->setSpacing(6);
 
-    // Not the bar itself: a screen reader repeats the name of what holds a button that gets the focus.
+    // A separate widget, since a screen reader repeats the name of the container when a button gets the
+    // focus.
     m_sheet = new QWidget;
     makeAnnounced(m_sheet);
     auto *texts = new QVBoxLayout(m_sheet);
@@ -109,7 +110,7 @@ void MessageBar::showMessage(const Message &message)
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());
     const QPointer<QWidget> before = m_before;
     removeButtons();
-    // A single button stands next to the text, which keeps the bar low.
+    // A single button is placed next to the text to keep the bar low.
     m_row->setDirection(message.answers.size() > 1 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     for (qsizetype i = 0; i < message.answers.size(); ++i)
         addButton(message.answers.at(i), static_cast<int>(i));
@@ -140,7 +141,7 @@ void MessageBar::hideMessage()
 
 void MessageBar::removeButtons()
 {
-    for (QPushButton *button : std::as_const(m_buttons)) { // one of them may have been pressed
+    for (QPushButton *button : std::as_const(m_buttons)) { // called by one of them
         button->hide();
         button->setParent(nullptr);
         button->deleteLater();
@@ -152,7 +153,7 @@ void MessageBar::removeButtons()
 void MessageBar::addButton(const QString &text, int index)
 {
     auto *button = new DialogButton(text, this);
-    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
+    button->setFocusPolicy(Qt::TabFocus); // a click does not move the focus
     connect(button, &QPushButton::clicked, this, [this, index] { Q_EMIT answered(index); });
     m_buttons.append(button);
 }
@@ -192,7 +193,7 @@ void MessageBar::clearRows()
     }
 }
 
-// As many of them side by side as fit: in a low window every row is taken from the page.
+// Places as many buttons side by side as fit, since in a low window each row reduces the page.
 void MessageBar::fitButtons()
 {
     const QMargins margins = layout()->contentsMargins();
@@ -218,7 +219,7 @@ void MessageBar::fitButtons()
         row->setSpacing(buttonGap);
         m_buttonRows->addLayout(row);
         if (m_buttons.size() > 1 &&
-            sizes.size() < m_buttons.size()) // one below the other they are of a width
+            sizes.size() < m_buttons.size()) // in several rows they have the same width
             row->addStretch(1);
         for (int i = 0; i < size; ++i)
             row->addWidget(m_buttons.at(next++));
@@ -230,9 +231,10 @@ void MessageBar::fitTexts()
     const int width = m_scroll->viewport()->width();
     const int wanted = m_scroll->widget()->layout()->totalHeightForWidth(width);
     const int line = m_title->fontMetrics().height();
-    const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing(); // whole lines
+    // complete lines
+    const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing();
     m_scroll->setFixedHeight(qBound(line, wanted, most));
-    // Texts that scroll can be read with the keyboard, too.
+    // Scrolling texts can also be reached with the keyboard.
     m_scroll->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
 }
 

@@ -18,18 +18,18 @@ class QScrollArea;
 
 namespace host {
 
-// What the bar shows. A value; texts are plain text.
+// A message of the bar. A value; texts are plain text.
 struct Message
 {
     StatusGlyph::Kind kind = StatusGlyph::Kind::Notice;
     QString title;
     QStringList lines;
-    QStringList answers; // become buttons; without any there is one that closes the bar
+    QStringList answers; // labels of buttons; without answers there is one button that closes the bar
     bool operator==(const Message &) const = default;
 };
 
-// A bar under the pages that shows a message and its answers. Hidden until then. Texts scroll where they are
-// long; a screen reader announces a message once, when it appears. MessageQueue decides what is shown.
+// A bar below the pages that shows a message and its answers. Initially hidden. Long texts scroll. A screen
+// reader announces a message once, when it appears. MessageQueue decides what is shown.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -38,23 +38,23 @@ public:
 
     explicit MessageBar(QWidget *parent = nullptr);
 
-    // Shows a message in place of the one before; the same one stays as it is.
+    // Shows a message in place of the previous one. Does nothing if it is the same message.
     void showMessage(const Message &message);
-    // Hides the bar. The keyboard goes back to where it was before it came here.
+    // Hides the bar. If the bar has the focus, it returns to the previous widget.
     void hideMessage();
     Kind kind() const { return m_message.kind; }
     bool isShowing() const { return !isHidden(); }
     QString text() const; // title and lines, for tests and screen readers
     QList<QPushButton *> buttons() const { return m_buttons; }
-    // The keyboard goes to the first answer, and back to where it was once the bar has been answered.
+    // Moves the focus to the first answer. It returns to the previous widget when the bar has been answered.
     void takeFocus();
-    // How high the texts may be, in pixels, before they scroll.
+    // The maximum height of the texts in pixels, above which they scroll.
     void setTextLimit(int pixels);
 
 Q_SIGNALS:
-    // Which answer was pressed, or -1 for closing the bar. The message stays.
+    // An answer was pressed; -1 if the bar was closed. The message stays.
     void answered(int index);
-    // Its buttons are others than before, or gone.
+    // The buttons have changed or were removed.
     void buttonsChanged();
 
 protected:
@@ -72,17 +72,17 @@ private:
     void giveFocusBack();
 
     Message m_message;
-    // Made with the first message.
+    // Created with the first message.
     StatusGlyph *m_glyph = nullptr;
     QScrollArea *m_scroll = nullptr;
-    QWidget *m_sheet = nullptr; // holds the texts; what a screen reader announces
+    QWidget *m_sheet = nullptr; // contains the texts, and is announced to screen readers
     QLabel *m_title = nullptr;
     QLabel *m_lines = nullptr;
     QBoxLayout *m_row = nullptr;
     QVBoxLayout *m_buttonRows = nullptr;
     QList<QPushButton *> m_buttons;
-    QList<int> m_rowSizes;      // how many of them are in each row
-    QPointer<QWidget> m_before; // had the focus before it came here
+    QList<int> m_rowSizes;      // number of buttons in each row
+    QPointer<QWidget> m_before; // previous focus widget
     int m_limit = 200;
 };
 

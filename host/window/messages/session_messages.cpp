@@ -115,7 +115,7 @@ bool SessionMessages::isCodeToBeSeenTo()
     return true;
 }
 
-// A job that is to be protected by a code is not sent without it unless the user says so.
+// A job that requires a code is not sent without it unless the user confirms that.
 bool SessionMessages::askForCode()
 {
     const Protection::Secret *secret = missingCode(m_session);
@@ -138,7 +138,7 @@ bool SessionMessages::askForCode()
     return true;
 }
 
-// Tells of each gap once; true when it has.
+// Reports each gap once; true if it was reported now.
 bool SessionMessages::tellGap()
 {
     const QString gap = m_session->protectionGap();
@@ -154,7 +154,7 @@ bool SessionMessages::isAsking() const
     return m_session && (m_messages->contains(Subject::Conflict) || m_messages->contains(Subject::Code));
 }
 
-// A panel marks what it has changed when it is saved; only then is it known whether a question has gone.
+// A panel marks its changes when it is saved; only then is it known whether a conflict has been resolved.
 void SessionMessages::checkLater()
 {
     if (!isAsking() || std::exchange(m_isCheckQueued, true))
@@ -170,7 +170,7 @@ void SessionMessages::checkLater()
 
 void SessionMessages::recheck()
 {
-    m_isCheckDue = m_isHeldUp(); // a panel that is only half restored must not be saved
+    m_isCheckDue = m_isHeldUp(); // a panel that is being restored must not be saved
     if (m_isCheckDue || !isAsking())
         return;
     m_session->save();

@@ -18,42 +18,42 @@ class DialogSession;
 class MessageQueue;
 class SessionHistory;
 
-// What a session has to say: conflicts, a code that is missing, and notices, which come back until the user
-// has closed them. Belongs to its window; the queue is borrowed.
+// The messages of a session: conflicts, a missing code, and notices, which stay until the user has closed
+// them. Owned by its window; the queue is borrowed.
 class SessionMessages : public QObject
 {
     Q_OBJECT
 public:
-    // `settingsOnly` where an application prints. While `isHeldUp` is true, as while a panel waits, no panel
-    // is saved for the sake of a question.
+    // `settingsOnly` is set if an application prints. While `isHeldUp` returns true, for example while a
+    // panel waits, no panel is saved for a question.
     SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp);
 
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
-    // Detaches the session, and withdraws what was said of it.
+    // Detaches the session and withdraws its messages.
     void clear();
 
-    // Shows what the session has to tell.
+    // Shows the notices of the session.
     void showNotices();
-    // Shows notices, asks about conflicts, and tells of a gap in the protection once. True when one of them
-    // is to be seen to first.
+    // Shows notices, asks about conflicts, and reports a gap in the protection once. True if the user has to
+    // respond first.
     bool check();
-    // The same before a job is sent; the user may print all the same, also without a code. What is asked has
-    // the focus then.
+    // The same before a job is sent; the user may print anyway, also without a code. The question gets the
+    // focus.
     bool checkToPrint();
-    // Checks what could not be checked while it was held up.
+    // Performs a check that was held up.
     void goOn();
 
 public Q_SLOTS:
-    // A panel has changed something.
+    // Call when a panel has changed a setting.
     void checkLater();
 
 Q_SIGNALS:
     // The session's panels have been saved.
     void saved();
-    // The user prints all the same.
+    // The user wants to print anyway.
     void printWanted();
-    // A code is missing; `key` is one of the settings that its field sets. The field is to get the focus.
+    // A code is missing; `key` is one of the settings of its field, which should get the focus.
     void codeWanted(const QString &key);
 
 private:
@@ -70,12 +70,12 @@ private:
     std::function<bool()> m_isHeldUp;
     DialogSession *m_session = nullptr;
     SessionHistory *m_history = nullptr;
-    // What the open question about conflicts offers: printing stays on offer until there are no conflicts.
+    // The purpose of the open question about conflicts: it offers printing until there are no conflicts.
     ConflictQuestion::Purpose m_purpose = ConflictQuestion::Purpose::Review;
-    QStringList m_notices; // not yet closed by the user
-    QString m_toldGap;     // in the protection of the job
+    QStringList m_notices; // not closed by the user yet
+    QString m_toldGap;     // the last gap that was reported
     bool m_isCheckQueued = false;
-    bool m_isCheckDue = false; // once nothing holds it up
+    bool m_isCheckDue = false; // when it is no longer held up
 };
 
 } // namespace host

@@ -36,7 +36,8 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_problem->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    m_problem->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing moves when it says something
+    // reserves space, so that nothing moves when a text appears
+    m_problem->setMinimumHeight(2 * fontMetrics().lineSpacing());
     auto *warning =
         new QLabel(tr("Others who use this computer may read them in the file of the presets."), this);
     warning->setWordWrap(true);
@@ -83,7 +84,7 @@ void PresetDialog::check()
     const bool isTaken =
         m_taken.contains(name, Qt::CaseInsensitive) &&
         !(m_purpose == Purpose::Rename && name.compare(m_earlierName, Qt::CaseInsensitive) == 0);
-    const bool isEmpty = name.isEmpty(); // nothing is wrong before anything is typed
+    const bool isEmpty = name.isEmpty(); // an empty name is no error before anything is typed
     QString problem = isEmpty ? QString() : PresetStore::nameProblem(name);
     m_ok->setEnabled(problem.isNull() && !isEmpty && !(isTaken && m_purpose == Purpose::Rename));
     if (problem.isNull() && isTaken)

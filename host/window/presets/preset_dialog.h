@@ -14,15 +14,14 @@ class QPushButton;
 
 namespace host {
 
-// Asks what a preset is to be called, and says at once why a name cannot be. Opened by who makes it, and
-// deletes itself when it is closed.
+// Asks for the name of a preset, and shows at once why a name is not valid. Deletes itself when it is closed.
 class PresetDialog : public QDialog
 {
     Q_OBJECT
 public:
     enum class Purpose { Save, Rename };
 
-    // `taken` are the names of the presets that are there. Codes are offered to be kept where there are any.
+    // `taken` contains the names of existing presets. `offersSecrets` offers to store codes.
     PresetDialog(Purpose purpose, const QString &name, const QStringList &taken, bool offersSecrets,
                  QWidget *parent);
     QString name() const;

@@ -27,11 +27,11 @@ namespace host {
 
 namespace {
 
-// What is no preset of a name; a name has no slash.
+// Represents the printer's defaults; no preset has this name, since names contain no slash.
 const QString printersDefaults = QStringLiteral("/printer");
 const QString ownDefaults = QStringLiteral("/own");
 const QString lastUsed = QStringLiteral("/last");
-// Files that are near are read within this, and the menu shows what is in them.
+// Local files are read within this time, so that the menu shows their contents at once.
 constexpr std::chrono::milliseconds nearFiles(50);
 constexpr int longestName = 24; // characters on the button
 
@@ -47,7 +47,8 @@ QLineEdit *fieldAt(QObject *object)
     return qobject_cast<QLineEdit *>(object);
 }
 
-// What a step has switched off gives the keyboard to what stands before it, which is often its switch.
+// Moves the focus from a control that was disabled by a step to the control before it, which is often its
+// switch.
 void focusBefore(QWidget *gone)
 {
     QWidget *next = gone->previousInFocusChain();
@@ -93,7 +94,7 @@ void SettingsControl::setSession(DialogSession *session)
 {
     m_history.reset();
     delete m_dialog;
-    if (m_menu) { // its actions are for the session before
+    if (m_menu) { // its actions refer to the previous session
         m_menu->hide();
         m_menu->clear();
     }
@@ -124,7 +125,7 @@ void SettingsControl::setActive(bool active)
 void SettingsControl::step(void (QUndoStack::*direction)())
 {
     const QPointer<QWidget> focus = m_window->focusWidget();
-    note(); // what is still being changed
+    note(); // pending changes
     (m_history->steps()->*direction)();
     Q_EMIT applied();
     if (focus && !(focus->isEnabled() && focus->isVisible()))
@@ -156,7 +157,7 @@ std::function<void()> SettingsControl::rememberUse() const
     if (queue.isEmpty())
         return [] {};
     return [queue, options = presetOptions(*m_session, {}, false)] {
-        PrintError ignored; // it is a convenience: a job that prints is no failure for its sake
+        PrintError ignored; // a convenience; a printed job does not fail because of it
         (void)PresetStore(PresetStore::filesOfLastUsed()).save(queue, {QString(), options}, &ignored);
     };
 }
@@ -171,7 +172,7 @@ void SettingsControl::showName()
                                               : oneLine(name, longestName);
     if (m_history && !m_history->base().state.differencesTo(m_history->now()).isEmpty())
         text = tr("%1 (changed)", "the name of settings").arg(text);
-    // Some styles leave no air before the arrow of a menu.
+    // Some styles leave no space before the arrow of a menu.
     const QString label = tr("Settings: %1").arg(Mnemonics::escaped(text)) + QLatin1Char(' ');
     if (m_button->text().remove(QLatin1Char('&')) != QString(label).remove(QLatin1Char('&')))
         m_button->setText(label);
@@ -190,14 +191,14 @@ SettingsControl::Lists SettingsControl::readLists(const QString &queue)
     return lists;
 }
 
-// Shows what was read last when the files take their time, and what they say once they have.
+// If reading the files takes long, shows the last known presets first.
 void SettingsControl::openMenu()
 {
     m_reading.start(
         this, [queue = queue()] { return readLists(queue); },
         [this](const Lists &lists) {
             m_lists = lists;
-            if (!lists.error && !m_queueOptions) // later the files may say something else
+            if (!lists.error && !m_queueOptions) // the files may have changed later
                 m_queueOptions = queueOptions();
             if (m_menu->isVisible())
                 fillMenu();
@@ -265,7 +266,7 @@ void SettingsControl::addChanges()
     addEditing(tr("Use as My &Default for This Printer"), [this] { useAsDefault(); });
 }
 
-// Whether its user has let a preset keep codes.
+// Whether the user has allowed a preset to contain codes.
 bool SettingsControl::keepsSecrets(const QString &name) const
 {
     const QStringList options = optionsOf(name).keys();
@@ -296,7 +297,7 @@ QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
     return preset == m_lists.presets.end() ? QMap<QString, QString>() : preset->options;
 }
 
-// The print system hands out what the printer has and what the user has set for it as one.
+// The print system returns the printer's and the user's options as one list.
 QMap<QString, QString> SettingsControl::queueOptions() const
 {
     if (m_queueOptions)
@@ -313,7 +314,7 @@ void SettingsControl::apply(const QString &name)
     m_history->note();
     m_history->endGesture();
     {
-        const auto paused = m_history->pause(); // a panel may ask its device
+        const auto paused = m_history->pause(); // a panel may query its device
         applyPreset(m_session, queueOptions(), optionsOf(name));
     }
     m_history->takeBase(name);
@@ -343,7 +344,7 @@ void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work,
         });
 }
 
-// The settings stay; what is changed is told by what the printer begins with.
+// Keeps the settings; changes are then shown against the initial values of the printer.
 void SettingsControl::forget(const QString &name)
 {
     leaveInstance(name, {});
@@ -357,7 +358,7 @@ void SettingsControl::forget(const QString &name)
     m_history->replaceBase(name, defaults);
 }
 
-// The destination is no longer to be had by this name.
+// The destination no longer exists under this name.
 void SettingsControl::leaveInstance(const QString &name, const QString &another)
 {
     if (m_startInstance == name)
@@ -416,7 +417,7 @@ void SettingsControl::rename()
     dialog->open();
 }
 
-// The settings stay as they are.
+// Keeps the settings.
 void SettingsControl::remove()
 {
     const QString name = m_history->base().name;

@@ -26,9 +26,9 @@ class DialogSession;
 class MenuButton;
 class SessionHistory;
 
-// The presets of the printer that is chosen, as a menu of the window, and the history of what its user has
-// changed. Reads and writes presets on a worker thread, and nothing before the menu is first opened.
-// A child of the window; the session is borrowed and let go before it goes.
+// The menu of the presets of the selected printer, and the undo history of the session. Reads and writes
+// presets on a worker thread, but not before the menu is first opened. A child of the window. The session is
+// borrowed; detach it before it is destroyed.
 class SettingsControl : public QObject
 {
     Q_OBJECT
@@ -36,30 +36,30 @@ public:
     explicit SettingsControl(QWidget *window);
     ~SettingsControl() override;
 
-    // "Settings: …"; belongs to the window.
+    // The button "Settings: …"; owned by the window.
     QPushButton *button() const;
-    // Begins a history. Null lets go of the session before.
+    // Starts a history for a session. Null detaches the previous session.
     void setSession(DialogSession *session);
-    // Whether settings can be changed now: not while a job is on its way, nor after.
+    // Sets whether settings can be changed: not while a job is being sent, nor afterwards.
     void setActive(bool active);
     SessionHistory *history() const { return m_history.get(); } // null without a session
-    // The user may have changed something.
+    // Call when the user may have changed a setting.
     void note();
-    // Something has changed that the user has not.
+    // Call when a setting has changed without the user.
     void absorb();
-    // Work that keeps what the session is printed with as "last used"; may run on any thread.
+    // A function that stores the current settings as last used; may be called on any thread.
     std::function<void()> rememberUse() const;
 
 Q_SIGNALS:
     // A step was made, undone or redone.
     void changed();
-    // Settings have been applied, or a step was undone or redone; conflicts may have come.
+    // Settings have been applied, or a step was undone or redone; there may be new conflicts.
     void applied();
     void presetsChanged();
     void failed(const host::PrintError &error);
 
 protected:
-    // An undo key in a field that has nothing to undo is the window's.
+    // Handles an undo key in a field that has nothing to undo.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -85,7 +85,7 @@ private:
     void rename();
     void remove();
     void useAsDefault();
-    // Runs on a worker thread; `done` then runs here, if the session is still the same.
+    // Runs `work` on a worker thread; `done` is then called on this thread, if the session is still the same.
     void edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done);
     void forget(const QString &name);
     void leaveInstance(const QString &name, const QString &another);
@@ -97,18 +97,19 @@ private:
 
     QWidget *m_window;
     MenuButton *m_button;
-    QMenu *m_menu = nullptr; // made when the button wants it
-    QActionGroup *m_choices; // one of the settings to begin with
+    QMenu *m_menu = nullptr; // created on first use
+    QActionGroup *m_choices; // the entries for complete settings
     QAction *m_undo;
     QAction *m_redo;
     DialogSession *m_session = nullptr;
     bool m_isActive = false;
     std::unique_ptr<SessionHistory> m_history;
-    QMap<QString, QString> m_startOptions;                // of the destination that was opened
-    std::optional<QMap<QString, QString>> m_queueOptions; // without the user's, once these have been read
+    QMap<QString, QString> m_startOptions; // of the destination that was opened
+    // without the user's options, once these have been read
+    std::optional<QMap<QString, QString>> m_queueOptions;
     QString m_startInstance;
     Lists m_lists;
-    QPointer<QDialog> m_dialog; // asks about the presets of this session
+    QPointer<QDialog> m_dialog; // asks about presets of this session
     platform::Awaited<Lists> m_reading;
     platform::Awaited<PrintError> m_editing;
 };

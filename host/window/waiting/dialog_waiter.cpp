@@ -17,9 +17,9 @@ namespace host {
 
 namespace {
 
-// Less than this looks immediate; a sign of waiting would only flicker.
+// Shorter waits look immediate; a wait indicator would only flicker.
 constexpr std::chrono::milliseconds noticeable(80);
-// Posted to the waiter when the work that it waits for may have ended.
+// Posted to the waiter when the work may have ended.
 const QEvent::Type wakeEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 bool isInput(QEvent::Type type)
@@ -54,7 +54,7 @@ bool isTab(const QKeyEvent &key)
            !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
-// Widgets, windows of pop-ups, and shortcuts belong to what they have among their parents.
+// Whether a widget, pop-up window or shortcut belongs to a part, which is one of its parents.
 bool isWithin(const QObject *object, const QObject *part)
 {
     while (object && object != part)
@@ -67,7 +67,7 @@ bool takesTab(const QWidget *widget)
     return (widget->focusPolicy() & Qt::TabFocus) && widget->isVisible() && widget->isEnabled();
 }
 
-// Tells an event loop to look again when a wake event arrives.
+// Wakes an event loop when a wake event arrives.
 class WakeTarget : public QObject
 {
 public:
@@ -152,7 +152,7 @@ bool DialogWaiter::isOpen(const QObject *object) const
                        [object](const QWidget *part) { return isWithin(object, part); });
 }
 
-// To the next of what is open, past everything else.
+// Moves the focus to the next open part.
 void DialogWaiter::step(bool forward)
 {
     QWidget *const start = m_dialog->focusWidget() ? m_dialog->focusWidget() : m_dialog.data();
@@ -166,7 +166,7 @@ void DialogWaiter::step(bool forward)
         widget->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
-// The waiting call has to return first.
+// After the waiting call has returned.
 void DialogWaiter::settleLater()
 {
     if (m_depth == 0 && m_activities == 0 && !m_left.isEmpty())
@@ -210,7 +210,7 @@ bool DialogWaiter::eventFilter(QObject *watched, QEvent *event)
     }
     if (!isInput(event->type()))
         return false;
-    // A question that came up meanwhile, such as who prints.
+    // A question that was opened meanwhile, such as a login prompt.
     const QWidget *question = QApplication::activeModalWidget();
     if (question && question != m_dialog && isWithin(watched, question))
         return false;

@@ -13,11 +13,11 @@
 
 namespace host {
 
-// Keeps a dialog alive while something on its thread waits: it paints, scrolls its own way, can be moved and
-// closed. Input reaches nothing of the dialog but the widgets that give up, and the Tab key leads there;
-// Escape and the window's close button give up as well. What loses the focus meanwhile hears of it when the
-// waiting is over, since fields commit what was typed then; where the focus is with what gave up, it goes
-// back. Belongs to the dialog's thread, also while work that was given up is under way.
+// Keeps a dialog responsive while something on its thread waits: it keeps painting and scrolling, and can be
+// moved and closed. Input reaches only the widgets that stop waiting; the Tab key moves between them. Escape
+// and the window's close button also stop waiting. Focus-out events are delivered when the wait is over,
+// since fields commit their text then. If a widget that stops waiting has the focus, the focus returns.
+// Belongs to the dialog's thread, also while abandoned work is running.
 class DialogWaiter : public QObject, public platform::Waiter
 {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
     explicit DialogWaiter(QWidget *dialog);
     ~DialogWaiter() override;
 
-    // The parts of the dialog that input still reaches while it waits, such as the button to give up.
+    // The parts of the dialog that accept input during a wait, such as the button to stop waiting.
     void setOpenParts(const QList<QWidget *> &parts) { m_openParts = parts; }
-    // An activity is everything that one wish of the user waits for. Giving up lasts until it is over. They
+    // An activity comprises all waits for one action of the user; stopping applies to all of them. Activities
     // nest; the outermost counts.
     void beginActivity();
     void endActivity();
@@ -40,11 +40,11 @@ public Q_SLOTS:
     void giveUp();
 
 Q_SIGNALS:
-    // Once an activity, when the first of its calls has taken longer than a person notices.
+    // Emitted once per activity, when the first of its calls has taken noticeably long.
     void waitingNoticed();
-    // The user has pressed Return or Enter in a part that input does not reach.
+    // The user has pressed Return or Enter outside of the open parts.
     void acceptWanted();
-    // The user has given up with Escape.
+    // The user has stopped waiting with Escape.
     void escaped();
 
 protected:
@@ -63,9 +63,9 @@ private:
 
     QPointer<QWidget> m_dialog;
     QList<QWidget *> m_openParts; // the dialog's
-    QList<Left> m_left;           // have lost the focus, and were not told yet
+    QList<Left> m_left;           // widgets that lost the focus and have not been notified yet
     int m_activities = 0;
-    int m_depth = 0; // of nested waits
+    int m_depth = 0; // number of nested waits
     bool m_givenUp = false;
     bool m_noticed = false;
     QElapsedTimer m_sinceBegin; // of the activity

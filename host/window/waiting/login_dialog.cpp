@@ -81,7 +81,8 @@ private:
     QLineEdit *m_password;
 };
 
-// What the thread that asks and the dialog share: answered once, at the latest when the dialog goes.
+// State shared by the requesting thread and the dialog: answered once, at the latest when the dialog is
+// destroyed.
 class Answer
 {
 public:
@@ -95,7 +96,7 @@ public:
 
 private:
     std::promise<std::optional<Login>> m_login;
-    bool m_isGiven = false; // of the dialog's thread
+    bool m_isGiven = false; // accessed on the dialog's thread only
 };
 
 void showDialog(const std::shared_ptr<Answer> &answer, const LoginQuestion &question, QWidget *parent)
@@ -110,7 +111,8 @@ void showDialog(const std::shared_ptr<Answer> &answer, const LoginQuestion &ques
 
 } // namespace
 
-// In no event loop of its own: what else the main thread waits for would end no sooner than the dialog.
+// Does not run a nested event loop, which would keep other waits of the main thread from ending before the
+// dialog.
 std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent)
 {
     if (QThread::currentThread() == qApp->thread()) {

@@ -10,9 +10,9 @@
 
 namespace host {
 
-// Asks for a user name and a password in a dialog above `parent`. Null when it is cancelled. May be called
-// from any thread; the dialog is the main thread's. On another one `parent` has to be there: where it goes,
-// the dialog goes with it, and there is no answer.
+// Asks for a user name and a password in a dialog above `parent`. Null if it is canceled. May be called from
+// any thread; the dialog runs on the main thread. On another thread `parent` must exist; if it is destroyed,
+// the dialog is destroyed as well, and the result is null.
 std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent);
 
 } // namespace host

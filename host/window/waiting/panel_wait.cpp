@@ -43,7 +43,7 @@ void PanelWait::begin(const QString &what)
         showPainted();
 }
 
-// Shows the dialog and returns when it can be seen, or when the screen takes too long about it.
+// Shows the dialog and returns when it has been painted, or after a time limit.
 void PanelWait::showPainted()
 {
     QEventLoop untilPainted;

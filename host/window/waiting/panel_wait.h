@@ -20,42 +20,43 @@ namespace host {
 class DialogWaiter;
 class WaitSign;
 
-// What a dialog does while a panel of its session waits: it says for what, shows that it lives, and lets the
-// user give up. Waits nest; the outermost counts. Also says what else the dialog is doing. Belongs to the
-// dialog, and to its thread, whose waits are the dialog's as long as this lives.
+// The behaviour of a dialog while a panel of its session waits: shows the reason and an activity indicator,
+// and lets the user stop waiting. Waits nest; the outermost counts. Also shows other activities of the
+// dialog. Owned by the dialog and used on its thread, whose waits are handled by the dialog during the
+// lifetime of this object.
 class PanelWait : public QObject
 {
     Q_OBJECT
 public:
-    // Input reaches the sign and `openParts` meanwhile, which are the dialog's.
+    // During a wait, input reaches the sign and `openParts`, which belong to the dialog.
     PanelWait(QDialog *dialog, const QList<QWidget *> &openParts);
     ~PanelWait() override;
 
-    // Belongs to the dialog, which finds a place for it.
+    // Owned by the dialog, which places it in its layout.
     WaitSign *sign() const { return m_sign; }
-    // Says in the sign what is made while the dialog can be used; null when it has been made. What a panel
-    // waits for takes its place meanwhile.
+    // Shows an activity in the sign while the dialog can be used; null when it has ended. The reason of a
+    // panel's wait takes precedence.
     void setActivity(const QString &what);
-    // While a panel waits: says in the sign what is done once it has returned, and does it then. Escape takes
-    // it back; the button not to wait does not.
+    // While a panel waits: shows what will be done when it has returned, and does it then. Escape revokes it;
+    // "Do Not Wait" does not.
     void promise(const QString &what, std::function<void()> then);
     bool isUnderWay() const { return m_depth > 0; }
-    // The user has left the dialog: all waiting ends, and the dialog does not come back.
+    // The user has closed the dialog: all waits end, and the dialog is not shown again.
     void dismiss() { m_isDismissed = true; }
     bool isDismissed() const { return m_isDismissed; }
 
 public Q_SLOTS:
-    // Paints the dialog before it returns, or brings it up when it has not been seen yet.
+    // Paints the dialog before it returns, or shows it if it is not visible yet.
     void begin(const QString &what);
     void end();
     void giveUp();
 
 Q_SIGNALS:
-    // The sign has something to show that the user notices, or nothing any more.
+    // The sign has something to show, or nothing any more.
     void signShown(bool shown);
-    // The user presses Return or Enter where input does not reach the dialog.
+    // The user has pressed Return or Enter outside of the open parts.
     void acceptWanted();
-    // No panel waits any more, and the one that did has returned.
+    // No panel waits any more, and the panel has returned.
     void panelReturned();
 
 private:
@@ -64,8 +65,8 @@ private:
 
     QDialog *m_dialog;
     WaitSign *m_sign;
-    QString m_activity;           // null for none
-    std::function<void()> m_then; // what has been promised
+    QString m_activity;           // null if there is none
+    std::function<void()> m_then; // the promised action
     std::shared_ptr<DialogWaiter> m_waiter;
     platform::Waiter::Scope m_scope;
     int m_depth = 0;

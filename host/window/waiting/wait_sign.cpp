@@ -29,7 +29,7 @@ WaitSign::WaitSign(QWidget *parent)
     makeAnnounced(this);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
-    m_bar->setRange(0, 0); // moves without telling how far
+    m_bar->setRange(0, 0); // indeterminate
     m_bar->setTextVisible(false);
     m_bar->setFixedWidth(barWidth);
     m_bar->setAccessibleName(tr("Progress"));
@@ -59,7 +59,7 @@ void WaitSign::begin(const QString &what)
     m_stop->hide();
 }
 
-// What is over at once is not read out.
+// Short waits are not announced.
 void WaitSign::showMoving()
 {
     m_bar->show();

@@ -12,20 +12,20 @@ namespace host {
 
 class DialogButton;
 
-// In the footer: what the dialog waits for right now, and once that takes longer, something that moves and a
-// button not to wait; or what is made while the dialog can be used. Shows nothing else.
+// Shows in the footer what the dialog is waiting for and, when this takes longer, an indeterminate progress
+// bar and the button "Do Not Wait"; or what is being done while the dialog can be used. Otherwise empty.
 class WaitSign : public QWidget
 {
     Q_OBJECT
 public:
     explicit WaitSign(QWidget *parent = nullptr);
     ~WaitSign() override;
-    // In place of what was shown before. Ends with the next end().
+    // Replaces the previous text until the next end().
     void begin(const QString &what);
     void end();
-    // Says something more, until end().
+    // Adds a text until end().
     void addNote(const QString &note);
-    // That it goes on.
+    // Shows that work continues.
     void showMoving();
 
 public Q_SLOTS:

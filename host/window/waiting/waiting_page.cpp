@@ -19,9 +19,9 @@ namespace host {
 namespace {
 
 constexpr int barWidth = 260; // pixels
-constexpr int steps = 1000;   // of the bar, so that files of any size fit its numbers
+constexpr int steps = 1000;   // of the bar, so that files of any size fit into its range
 
-// In the units that people know.
+// In units that users know.
 QString amountText(qint64 bytes)
 {
     return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);

@@ -11,8 +11,8 @@ class QPushButton;
 
 namespace host {
 
-// In place of the pages while something takes its time: what is waited for, how far it has got where that is
-// known, and a way not to wait.
+// Replaces the pages during a long operation: shows what is awaited, the progress if it is known, and a
+// button to stop waiting.
 class WaitingPage : public QWidget
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ public:
 
     // `cancel` is the label of the button.
     void setTask(const QString &text, const QString &cancel);
-    // How much of `total` is done, in bytes; an unknown total (0 or less) moves without telling how far.
+    // The progress in bytes; an unknown total (0 or less) shows an indeterminate bar.
     void setProgress(qint64 done, qint64 total);
-    // No more is to be had by pressing the button; `text` says what is going on.
+    // The button has been pressed and has no further effect; `text` describes what is being done.
     void setCancelling(const QString &text);
     QString text() const;
     QPushButton *cancelButton() const { return m_cancel; }
