@@ -24,12 +24,12 @@ using namespace host;
 namespace {
 
 constexpr const char *program = "/usr/bin/true";
-constexpr int calls = 40; // a round
+constexpr int calls = 40; // per round
 constexpr int rounds = 9;
 
 struct Cost
 {
-    double processor = 0, wall = 0; // milliseconds a call
+    double processor = 0, wall = 0; // milliseconds per call
 };
 
 double processorTime()
@@ -102,7 +102,7 @@ int main(int argc, char **argv)
                                                   program};
     const bool hasBubblewrap = QFileInfo(QString::fromLatin1(bubblewrap[0])).isExecutable();
     std::vector<Cost> plain, confined, wrapped;
-    for (int i = 0; i < rounds; ++i) { // in turn, so that a busy machine slows all of them
+    for (int i = 0; i < rounds; ++i) { // alternately, so that load on the machine affects all of them equally
         plain.push_back(measure([] { runPlainly({program}); }));
         confined.push_back(measure([&] { runConfined(null.get()); }));
         if (hasBubblewrap)

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Building the constraint table of a large PPD compared with what libcups takes to parse that PPD, which
-// every dialog waits for anyway, and looking pairs up in it.
+// Compares building the constraint table of a large PPD with the time libcups takes to parse that PPD, which
+// every dialog needs in any case, and measures looking up pairs in the table.
 
 #include "bench/goals.h"
 #include "bench/large_ppd.h"
@@ -20,9 +20,9 @@
 
 namespace {
 
-constexpr double buildGoal = 0.5; // of the time for ppdOpenFile()
+constexpr double buildGoal = 0.5; // of the time of ppdOpenFile()
 
-// The large PPD in a file, and open.
+// The large PPD as a file, opened.
 struct LargePpd
 {
     LargePpd()
@@ -93,7 +93,7 @@ int main(int argc, char **argv)
     const auto open = medians.find("ppdOpen");
     const auto build = medians.find("buildTable");
     if (open == medians.end() || build == medians.end())
-        return EXIT_SUCCESS; // left out on the command line
+        return EXIT_SUCCESS; // excluded on the command line
     const bool met =
         goalIsMet("Constraint table beside ppdOpenFile()", build->second / open->second, buildGoal, "times");
     return met ? EXIT_SUCCESS : EXIT_FAILURE;

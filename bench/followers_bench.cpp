@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Many dialogs that follow their jobs on one print server (CUPS_SERVER): followers_bench QUEUE JOB COUNT
-// SECONDS SERVER-PID. They begin at different times within five seconds; what comes after them is measured:
-// answers a second, and the processor time that they cost the server.
+// SECONDS SERVER-PID. They start at different times within five seconds. The following period is measured:
+// responses per second, and the processor time of the server.
 
 #include "host/printing/job_follower.h"
 #include "host/printing/print_system.h"
@@ -38,7 +38,7 @@ double processorTime(const QString &pid)
     return ticks / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
-// While it lives, counts what is answered.
+// Counts responses during its lifetime.
 class Measurement
 {
 public:
@@ -103,7 +103,7 @@ int main(int argc, char **argv)
             });
         });
     }
-    // All of them ask every second at first, and every five seconds from some ten seconds on.
+    // All of them query every second at first, and every five seconds after about ten seconds.
     std::optional<Measurement> measurement;
     QTimer::singleShot(startTime, &app, [&] { measurement.emplace("at first", server, answers); });
     QTimer::singleShot(startTime + 5'000, &app, [&] { measurement.reset(); });
@@ -114,7 +114,7 @@ int main(int argc, char **argv)
         std::printf("%d followers; slowest answer %lld ms; not answered %d\n", count,
                     static_cast<long long>(slowest), unanswered.load());
         std::fflush(stdout);
-        std::_Exit(0); // some are under way
+        std::_Exit(0); // requests are still running
     });
     return QCoreApplication::exec();
 }

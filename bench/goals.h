@@ -6,11 +6,11 @@
 #include <map>
 #include <string>
 
-// Processor seconds that one iteration of each benchmark took: the median of its repetitions.
+// Processor time in seconds of one iteration of each benchmark: the median of its repetitions.
 using Medians = std::map<std::string, double>;
 
-// Runs the registered benchmarks as the command line says, several times each, and prints them as usual.
+// Runs the registered benchmarks as selected on the command line, several times each, and prints the results.
 Medians runBenchmarks(int argc, char **argv);
 
-// Prints what was measured and its goal; false when it is above.
+// Prints a measured value and its goal; false if the goal was missed.
 bool goalIsMet(const std::string &what, double measured, double limit, const std::string &unit);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// One change on a panel of twenty pop-ups over a large PPD, until every one of them has decided anew what to
-// grey out.
+// Measures one change on a panel of twenty pop-ups for a large PPD, until all of them have updated their
+// greyed items.
 
 #include "bench/goals.h"
 #include "bench/large_ppd.h"
@@ -37,7 +37,7 @@ void changeOnPanel(benchmark::State &state)
     for (const QString &option : options) {
         buttons.push_back(std::make_unique<QVPopUpButton_M880>());
         buttons.back()->setDataSourceAndOptionName(&panel, option);
-        // Away from the defaults, which conflict with nothing.
+        // Not a default, since defaults conflict with nothing.
         panel.setValueForKey(
             QString::fromLatin1(largePpdChoice(1 + int(buttons.size()) % (largePpdChoices - 1))), option);
     }
@@ -58,7 +58,7 @@ int main(int argc, char **argv)
     const Medians medians = runBenchmarks(argc, argv);
     const auto change = medians.find("changeOnPanel");
     if (change == medians.end())
-        return EXIT_SUCCESS; // left out on the command line
+        return EXIT_SUCCESS; // excluded on the command line
     return goalIsMet("A change until every pop-up has decided", change->second * 1000, changeGoal, "ms")
                ? EXIT_SUCCESS
                : EXIT_FAILURE;

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What the SNMP client costs over the same calls made straight to net-snmp: one GET, and the 97 rows of a
-// full device. Both take turns with one device, so the ratio holds on any machine. Also the cost of the first
-// client of a process. Exits 1 when a goal is missed. Needs root, for port 161 in a network of its own.
+// The overhead of the SNMP client compared with direct calls of net-snmp: for one GET, and for the 97 rows of
+// a full device. Both query the same device alternately, so the ratio is valid on any machine. Also measures
+// the first client of a process. Exits with 1 if a goal is missed. Needs root, for port 161 in a private
+// network namespace.
 
 #include "device/snmp_client.h"
 #include "device/snmp_library.h"
@@ -107,7 +108,7 @@ double median(std::vector<double> values)
     return values.at(values.size() / 2);
 }
 
-// Whether the client keeps within the goal; the two take turns, and who goes first changes.
+// Whether the client meets the goal; client and direct calls alternate, and so does their order.
 template <typename Client, typename Straight>
 bool compare(const char *what, int repetitions, Client &&client, Straight &&straight)
 {
@@ -120,7 +121,7 @@ bool compare(const char *what, int repetitions, Client &&client, Straight &&stra
         if (i % 2 != 0)
             clientTimes.push_back(microseconds(client));
     }
-    // Of neighbours, which whatever else the machine does meets alike.
+    // Ratios of neighbouring measurements, which are equally affected by the load of the machine.
     std::vector<double> ratios(clientTimes.size());
     std::transform(clientTimes.begin(), clientTimes.end(), straightTimes.begin(), ratios.begin(),
                    std::divides<>());

@@ -1,16 +1,16 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Options, warnings and helpers that every folder shares.
+# Options, warnings and helpers shared by all folders.
 
 set(kelmar_older_default OFF)
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   set(kelmar_older_default ON)
 endif()
-option(KELMAR_OLDER_HOSTS "Build the paths for older dialog hosts (print-settings ticket, slider notifications)"
+option(KELMAR_OLDER_HOSTS "Build the code for older dialog hosts (print-settings ticket, slider notifications)"
        ${kelmar_older_default})
 option(KELMAR_WERROR "Treat compiler warnings as errors" OFF)
-set(KELMAR_SANITIZE OFF CACHE STRING "ON: build with the address and undefined-behaviour sanitizers; thread: with that for threads")
+set(KELMAR_SANITIZE OFF CACHE STRING "ON: build with the address and undefined-behaviour sanitizers; thread: with the thread sanitizer")
 option(KELMAR_BUILD_TESTS "Build the tests" ON)
 option(KELMAR_BUILD_BENCH "Build the benchmarks" OFF)
 option(KELMAR_BUILD_FUZZERS "Build the drivers for libFuzzer; needs clang" OFF)
@@ -26,15 +26,15 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
-# Programs and bundles find the platform library from where they lie themselves, never from an absolute path or, as
-# an empty entry has it, from the folder somebody happens to be in.
+# Programs and bundles locate the platform library relative to themselves, never by an absolute path or in the current
+# folder, which is the meaning of an empty entry.
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
-# Where the platform library and the bundles are installed: the program looks there, beside its own folder.
+# Where the platform library and the bundles are installed: the program searches this folder, next to its own.
 set(KELMAR_PRIVATE_DIR lib/kelmar-print)
 
-# What a print dialog costs is loading it: every page of code that is mapped counts, and hardly a loop. Flags that the user or
-# a packager gives stay as they are.
+# The cost of a print dialog is loading its code, rather than running loops, so optimise for size. Flags set by the user or
+# a packager are kept.
 if(CMAKE_CXX_FLAGS_RELEASE STREQUAL "-O3 -DNDEBUG") # what CMake sets where nothing was given
   if(CMAKE_CXX_FLAGS MATCHES "(^| )-O")
     set(CMAKE_CXX_FLAGS_RELEASE "-DNDEBUG")
@@ -47,8 +47,8 @@ foreach(flag --gc-sections --as-needed -z,pack-relative-relocs)
 endforeach()
 add_compile_options($<$<CONFIG:Release>:-ffunction-sections> $<$<CONFIG:Release>:-fdata-sections>)
 
-# The hardening of Debian's own packages. Symbols are bound at the start and the tables write-protected; what would be
-# bound late anyway (net-snmp) is opened by name.
+# The hardening of Debian's own packages. Symbols are bound at start-up and the tables write-protected; net-snmp, which is
+# needed later, is loaded with dlopen().
 include(CheckCXXCompilerFlag)
 foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -mbranch-protection=standard)
   string(MAKE_C_IDENTIFIER "KELMAR_HAS${flag}" has_flag)
@@ -68,8 +68,8 @@ if(NOT KELMAR_SANITIZE) # the sanitizers look at the same calls, and fortifying 
   endif()
 endif()
 add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,separate-code)
-# The files that a program starts with (crti.o) carry no note of control-flow protection, and the linker would leave it out.
-# They do no harm to a shadow stack; but they lack the landing pads of indirect branch tracking.
+# The start files of a program (crti.o) have no note of control-flow protection, so the linker would omit it from the program.
+# They are compatible with a shadow stack, but lack the landing pads of indirect branch tracking.
 include(CheckLinkerFlag)
 check_linker_flag(CXX LINKER:-z,shstk KELMAR_MARKS_SHADOW_STACK)
 if(KELMAR_HAS_fcf_protection AND KELMAR_MARKS_SHADOW_STACK)
@@ -86,9 +86,9 @@ endif()
 
 add_library(kelmar_options INTERFACE)
 target_include_directories(kelmar_options INTERFACE ${PROJECT_SOURCE_DIR})
-# Set for the targets that are built with the paths for older dialog hosts; see tests/older/CMakeLists.txt.
+# Set for targets that are built with the code for older dialog hosts; see tests/older/CMakeLists.txt.
 define_property(TARGET PROPERTY KELMAR_OLDER_HOSTS INITIALIZE_FROM_VARIABLE KELMAR_OLDER_HOSTS)
-# Not -Wconversion in tests: it warns inside QTRY_VERIFY and its like from Qt 6.8 on.
+# Without -Wconversion in tests: it warns inside QTRY_VERIFY and similar macros since Qt 6.8.
 define_property(TARGET PROPERTY KELMAR_IS_TEST INITIALIZE_FROM_VARIABLE KELMAR_IS_TEST)
 target_compile_options(
   kelmar_options INTERFACE -Wall -Wextra -Wpedantic $<$<NOT:$<BOOL:$<TARGET_PROPERTY:KELMAR_IS_TEST>>>:-Wconversion>
@@ -111,14 +111,14 @@ if(KELMAR_BUILD_FUZZERS)
   target_compile_options(kelmar_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# The headers that most sources include, compiled once for all targets that use widgets: that halves the time of a build.
-# Sources still include what they use, and CMAKE_DISABLE_PRECOMPILE_HEADERS builds without; the Debian packages are built that way.
+# The headers that most sources include, compiled once for all targets that use widgets, which halves the build time.
+# Sources still include what they use: Debian packages are built with CMAKE_DISABLE_PRECOMPILE_HEADERS.
 add_library(kelmar_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
 set_target_properties(kelmar_precompiled PROPERTIES AUTOMOC OFF)
 target_link_libraries(kelmar_precompiled PRIVATE kelmar_options Qt6::Widgets)
 target_precompile_headers(kelmar_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
-# A program would be compiled with -fPIE, which does not go with headers that were compiled for libraries. Some builds of Qt ask
-# for -fPIC themselves.
+# Programs would be compiled with -fPIE, which is incompatible with headers that were precompiled for libraries. Some builds of Qt
+# require -fPIC themselves.
 get_target_property(qt_options Qt6::Core INTERFACE_COMPILE_OPTIONS)
 if(NOT "-fPIC" IN_LIST qt_options)
   set(kelmar_pic -fPIC)
@@ -131,7 +131,7 @@ function(kelmar_use_precompiled target)
 endfunction()
 
 # An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ... [NO_MOC])
-# NO_MOC saves three steps of a build; for a folder without Q_OBJECT.
+# NO_MOC, for a folder without Q_OBJECT, saves three build steps.
 function(kelmar_room name)
   cmake_parse_arguments(ARG "NO_MOC" "" "SOURCES;LIBS" ${ARGN})
   add_library(${name} OBJECT ${ARG_SOURCES})

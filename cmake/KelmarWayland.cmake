@@ -1,14 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 
-# The library kelmar_xdg_foreign, for a dialog in front of another program's window on Wayland. Not there where one of
-# wayland-client, wayland-scanner, wayland-protocols and Qt's private headers is missing: Qt has no public way to the
+# The library kelmar_xdg_foreign, which places a dialog in front of another program's window on Wayland. Not built if
+# wayland-client, wayland-scanner, wayland-protocols or Qt's private headers are missing: Qt has no public interface to the
 # surface of a window.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(WaylandClient QUIET IMPORTED_TARGET wayland-client)
 pkg_check_modules(WaylandProtocols QUIET wayland-protocols)
 find_program(KELMAR_WAYLAND_SCANNER wayland-scanner)
-# Below the public headers, in every version of Qt 6; its CMake package for them differs from version to version.
+# In a subfolder of the public headers in all versions of Qt 6; the CMake package for them differs between versions.
 get_target_property(qpa_folders Qt6::Gui INTERFACE_INCLUDE_DIRECTORIES)
 list(TRANSFORM qpa_folders APPEND /${Qt6Gui_VERSION}/QtGui)
 find_path(KELMAR_QPA_FOLDER qpa/qplatformnativeinterface.h PATHS ${qpa_folders} NO_DEFAULT_PATH)
@@ -34,7 +34,7 @@ endforeach()
 add_library(kelmar_xdg_foreign STATIC ${generated})
 set_target_properties(kelmar_xdg_foreign PROPERTIES AUTOMOC OFF)
 target_link_libraries(kelmar_xdg_foreign PUBLIC PkgConfig::WaylandClient)
-# For the one source that uses it; the others keep the precompiled headers' options.
+# Only for the source that uses it; the others must keep the options of the precompiled headers.
 set(KELMAR_XDG_FOREIGN_OPTIONS -DKELMAR_WAYLAND_PARENT)
 foreach(folder ${CMAKE_CURRENT_BINARY_DIR} ${KELMAR_QPA_FOLDER} ${WaylandClient_INCLUDE_DIRS})
   list(APPEND KELMAR_XDG_FOREIGN_OPTIONS -isystem ${folder})

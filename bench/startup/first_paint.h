@@ -13,9 +13,9 @@
 #include <cstdlib>
 #include <ctime>
 
-// Reports when a window, which shows what the program is to show, has been painted for the first time, in the
-// form of `kelmar-print --startup-time`, and ends the program. The launcher leaves the start time,
-// CLOCK_MONOTONIC in nanoseconds, in KELMAR_T0_NS.
+// Reports when a window with complete contents has been painted for the first time, in the format of
+// `kelmar-print --startup-time`, and ends the program. The launcher passes the start time, CLOCK_MONOTONIC in
+// nanoseconds, in KELMAR_T0_NS.
 class FirstPaint : public QObject
 {
 public:

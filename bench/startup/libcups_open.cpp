@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What libcups alone takes for a printer: fetches the PPD of a queue, opens it, and marks its defaults.
-// Reports as FirstPaint does. Usage: libcups_open QUEUE
+// The time libcups alone needs for a printer: downloads the PPD of a queue, opens it, and marks its defaults.
+// Reports like FirstPaint. Usage: libcups_open QUEUE
 #include "bench/startup/first_paint.h"
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
 
-// libcups marks its PPD interface as deprecated; there is none to replace it.
+// The PPD interface of libcups is deprecated, but has no replacement.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 int main(int argc, char **argv)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The least a Qt dialog costs: an application, one tab, two buttons, to the first paint.
+// The minimum cost of a Qt dialog: an application, one tab and two buttons, until the first paint.
 #include "bench/startup/first_paint.h"
 
 #include <QApplication>

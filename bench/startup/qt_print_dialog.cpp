@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Qt's own print dialog on a queue, with the printer's options shown. Usage: qt_print_dialog QUEUE
+// Qt's print dialog for a queue, with the printer's options shown. Usage: qt_print_dialog QUEUE
 #include "bench/startup/first_paint.h"
 
 #include <QApplication>
@@ -12,7 +12,7 @@
 
 namespace {
 
-// The tab widget of the properties dialog, once it is up.
+// The tab widget of the properties dialog, when it is visible.
 QTabWidget *optionTabs()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -46,7 +46,7 @@ int main(int argc, char **argv)
         });
         const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
         for (QPushButton *button : buttons) {
-            // The properties button is the one next to the printer's name.
+            // The properties button is next to the printer's name.
             if (button->objectName() == QLatin1String("properties"))
                 button->click(); // blocks in the properties dialog's own event loop
         }
