@@ -19,7 +19,7 @@ namespace {
 constexpr int defaultPpds = 60; // of each form; KELMAR_CONSTRAINT_PPDS asks for more
 constexpr int walkLength = 40;
 
-// A PPD with constraints of every form, drawn at random.
+// Generates random PPDs with constraints of every form.
 class Generator
 {
 public:
@@ -73,7 +73,7 @@ private:
         return text;
     }
 
-    // "*Opt1 A", "*Opt1", a custom one, one in other letters, or one that the PPD lacks.
+    // "*Opt1 A", "*Opt1", a custom choice, one in other letter case, or one that the PPD lacks.
     QByteArray term()
     {
         const auto &[name, choices] = m_options[below(int(m_options.size()))];
@@ -108,14 +108,13 @@ private:
     QByteArrayList m_custom;
 };
 
-// PageRegion stands for PageSize in a PPD's lines; under which of the two a conflict is told is a matter of
-// taste.
+// PageRegion represents PageSize in a PPD's lines; a conflict may be reported for either of the two.
 QByteArray ownName(const QByteArray &option)
 {
     return option == "PageRegion" ? "PageSize" : option;
 }
 
-// What must be the same after each mark: the options that take part in a conflict.
+// The result that must be equal after each mark: the options that take part in a conflict.
 QSet<QByteArray> conflictedByLibcups(ppd_file_t *ppd)
 {
     QSet<QByteArray> options;
@@ -160,7 +159,7 @@ const char *valueOf(const ppd_choice_t &choice)
 
 } // namespace
 
-// What the engine says about the marks of a PPD must be what libcups says, on any PPD.
+// The engine must report the same conflicts for the marks of any PPD as libcups.
 class AgreeWithLibcupsTest : public QObject
 {
     Q_OBJECT
@@ -183,14 +182,14 @@ Forbidden forbiddenBy(const constraints::PpdRules &rules, const std::vector<ppd_
     return all;
 }
 
-// Marks every choice of an option in turn: it must be in conflict if it was forbidden, or if a line on this
-// option alone forbids it.
+// Marks each choice of an option in turn: it must be in conflict if it was forbidden, or if a line that
+// concerns only this option forbids it.
 void compareChoices(ppd_file_t *ppd, constraints::PpdRules &rules, ppd_option_t *option,
                     const QSet<QByteArray> &forbidden, int *conflicts)
 {
     const ppd_choice_t *before = ppdFindMarkedChoice(ppd, option->keyword);
     const bool isRegion = qstrcmp(option->keyword, "PageRegion") == 0;
-    // Marking a size takes the region's mark, so that more changes than this option.
+    // Marking a size removes the region's mark, which changes more than this option.
     if (!before || isRegion || ppdFindMarkedChoice(ppd, "PageRegion"))
         return;
     for (int i = 0; i < option->num_choices; ++i) {
@@ -212,7 +211,7 @@ void compareChoices(ppd_file_t *ppd, constraints::PpdRules &rules, ppd_option_t 
     rules.refresh();
 }
 
-// The table's answers beside the lines as they stand.
+// Compares the results of the table with the literal lines.
 void compareLiteral(ppd_file_t *ppd)
 {
     using Side = std::pair<QString, QString>;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A library with the entry points of net-snmp that are required, and no other. It does as the test says, for
-// what no device can send and for libraries that are broken.
+// A library with only the required entry points of net-snmp. The test controls its behaviour, for values that
+// no device can send and for broken libraries.
 
 #include <net-snmp/net-snmp-config.h>
 
@@ -23,7 +23,7 @@ STUB void init_snmp(const char *type)
 }
 STUB void snmp_sess_init(netsnmp_session *session)
 {
-    // As a version does whose session is longer.
+    // Like a version with a longer session structure.
     memset(static_cast<void *>(session), 0, sizeof *session + 8);
 }
 STUB void *snmp_sess_open(netsnmp_session *session)

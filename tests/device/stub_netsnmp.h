@@ -7,7 +7,7 @@
 
 #include <net-snmp/net-snmp-includes.h>
 
-// Exported by the stub library as `stub_control`: what it was asked, and what it is to answer.
+// Exported by the stub library as `stub_control`: records the requests and defines the responses.
 struct StubControl
 {
     int inits, closes, frees;
@@ -17,5 +17,5 @@ struct StubControl
 
     bool failOpen;
     netsnmp_pdu response;
-    netsnmp_variable_list variable, last; // the first of the response, and one that may come after it
+    netsnmp_variable_list variable, last; // the first variable of the response, and an optional further one
 };

@@ -43,8 +43,8 @@ QByteArray shippedDevice()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Profile tables of two names each, but for a missing one, and the defaults; columns as the device numbers
-// them.
+// Profile tables of two names each, except for a missing one, and the defaults; columns are numbered as in
+// the device.
 UdpResponder::Handler tables(const QByteArray &defaults = "\7\6\5\4", int missing = 0)
 {
     return [=](const SnmpReply &reply) -> SnmpReplies {
@@ -132,7 +132,7 @@ void TestAdvancedColorSettings::readsWhatThereIs_data()
 {
     QTest::addColumn<int>("missing"); // column; 0 for none
     QTest::addColumn<QByteArray>("defaults");
-    QTest::addColumn<int>("requests"); // each column's rows and the one that ends it
+    QTest::addColumn<int>("requests"); // the rows of each column and the request that ends it
     QTest::newRow("RGB source") << 2 << QByteArray("\7\6\5\4") << 1 + 3 + 3 + 4;
     QTest::newRow("CMYK source") << 3 << QByteArray("\7\6\5\4") << 3 + 1 + 3 + 4;
     QTest::newRow("CMYK destination") << 4 << QByteArray("\7\6\5\4") << 3 + 3 + 1 + 4;
@@ -160,14 +160,14 @@ void TestAdvancedColorSettings::readsWhatThereIs()
     QCOMPARE(settings.cmykSourceProfiles().size(), missing == 3 ? 1 : 2);
     QCOMPARE(settings.cmykDestinationProfiles().isEmpty(), missing == 4);
     QCOMPARE(settings.renderingIntent(), defaults.size() == 4 ? 4U : 9U);
-    settings.updateFromSNMP(); // once failed, it stays so
+    settings.updateFromSNMP(); // a second failure has the same result
     QCOMPARE(requestsWhenTold.size(), missing == 0 ? 2 : 1);
-    QCOMPARE(requestsWhenTold.front(), 0); // told before the first question
+    QCOMPARE(requestsWhenTold.front(), 0); // notified before the first request
 }
 
 void TestAdvancedColorSettings::restoreAndSave_data()
 {
-    QTest::addColumn<QVariantList>("stored"); // in the order of the keys, null where absent
+    QTest::addColumn<QVariantList>("stored"); // in the order of the keys, null if absent
     QTest::addColumn<QString>("saved");
     const QVariant nil;
     const auto row = [](const char *name, const QVariantList &stored, const QString &saved) {
@@ -213,7 +213,7 @@ void TestAdvancedColorSettings::failedPrinterDropsAndRemoves()
     QCOMPARE(settings.selectedRgbSourceProfile(), 0U);
     QVERIFY(settings.saveValuesAndReturnError(nullptr));
     QCOMPARE(host.settings.values(), (QVariantMap{{u"PageSize"_s, u"A4"_s}}));
-    // Asked again by the next restore, and fit again once the printer is there.
+    // The next restore queries again, and succeeds once the printer responds.
     const UdpResponder device("127.0.0.2", tables());
     host.session.printer->deviceUri = u"socket://127.0.0.2"_s;
     settings.restoreValuesAndReturnError(nullptr);
@@ -225,7 +225,7 @@ void TestAdvancedColorSettings::reasonIsLocalised()
     QVSNMP_M880::setLibraryNames({"libkelmar-no-such-library.so.1"});
     Host host;
     Settings settings(&host, m_bundle.get(), nullptr);
-    // No text in this bundle, so the key itself; the second attempt must end as the first did.
+    // This bundle has no text, so the key is shown; the second attempt must end like the first.
     for (int i = 0; i < 2; ++i) {
         settings.restoreValuesAndReturnError(nullptr);
         QCOMPARE(settings.snmpUnavailableReason(), u"SNMPArchMismatch"_s);
@@ -237,7 +237,7 @@ void TestAdvancedColorSettings::reasonIsLocalised()
 
 void TestAdvancedColorSettings::userWhoDoesNotWait_data()
 {
-    QTest::addColumn<int>("requests"); // until the user gives up, and the device does not answer
+    QTest::addColumn<int>("requests"); // until the user stops waiting; the device does not respond
     QTest::addColumn<qsizetype>("rgbNames");
     QTest::newRow("at once") << 1 << qsizetype(0);
     QTest::newRow("within a list") << 2 << qsizetype(0);
@@ -303,7 +303,7 @@ void TestAdvancedColorSettings::ticketOfAnOlderHost()
     RecordingHost host;
     host.session.printer = Host::printer;
     Settings settings(&host, m_bundle.get(), nullptr);
-    // Without a ticket, or without its dictionary, nothing is read, written or asked.
+    // Without a ticket, or without its dictionary, nothing is read, written or queried.
     host.session.tickets.insert(u"PMPrintSettingsTicket"_s, {});
     settings.restoreValuesAndReturnError(nullptr);
     settings.saveValuesAndReturnError(nullptr);

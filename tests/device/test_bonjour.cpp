@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The resolver against a real avahi-daemon, in a network of the test's own.
+// The resolver with a real avahi-daemon in a private network.
 
 #include "device/network_resolver.h"
 #include "tests/support/private_bonjour.h"
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Takes connections, until the process ends, that nobody looks at.
+// Accepts connections without reading from them, until the process ends.
 void listenInSilence(const QByteArray &path)
 {
     sockaddr_un name{.sun_family = AF_UNIX, .sun_path = {}};
@@ -39,7 +39,7 @@ private Q_SLOTS:
     void resolves_data();
     void resolves();
     void silence_data();
-    void silence(); // last: daemon and bus go, a row each
+    void silence(); // last, since its rows stop the daemon and the bus
 
 private:
     PrivateBonjour m_bonjour;
@@ -48,8 +48,7 @@ private:
 
 void TestBonjour::initTestCase()
 {
-    // The name that Avahi's library gives for a host ends in a dot; this stands in for a resolver that knows
-    // mDNS.
+    // Host names from Avahi's library end in a dot; this entry replaces a resolver that supports mDNS.
     const QString whyNot = m_bonjour.start(u"127.0.0.1 localhost\n127.0.0.77 orb-m880.local.\n"_s);
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
@@ -103,7 +102,7 @@ void TestBonjour::silence()
     QElapsedTimer clock;
     clock.start();
     QVERIFY(QVNetworkResolver_M880::resolveToIP(host).isNull());
-    QVERIFY2(clock.elapsed() < 9000, qPrintable(QString::number(clock.elapsed()))); // waited for once: 5000
+    QVERIFY2(clock.elapsed() < 9000, qPrintable(QString::number(clock.elapsed()))); // one wait of 5000
 }
 
 QTEST_GUILESS_MAIN(TestBonjour)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The client over a library that does as the test says: loading, counting, decoding.
+// The client with a library controlled by the test: loading, counting, decoding.
 
 #include "device/snmp_client.h"
 #include "device/string_encoding.h"
@@ -21,7 +21,7 @@ const QByteArray absent = "libkelmar-no-such-library.so.1";
 
 constexpr quintptr poison = 0xDEADBEEF;
 
-// The client for an address; null with the error, when there is one.
+// Creates a client for an address; null with the error on failure.
 std::pair<std::unique_ptr<QVSNMP_M880>, QString> opened(const QString &address = u"127.0.0.1"_s)
 {
     QString error;
@@ -55,11 +55,11 @@ private:
 
 void TestSnmpClient::init()
 {
-    // Held open, so that its variables outlive what the client does with it.
+    // Held open, so that its variables remain valid whatever the client does.
     m_stub = ::dlopen(stub.constData(), RTLD_NOW | RTLD_LOCAL);
     QVERIFY2(m_stub != nullptr, ::dlerror());
     *control() = {};
-    QVSNMP_M880::setLibraryNames({absent, stub}); // the second will do
+    QVSNMP_M880::setLibraryNames({absent, stub}); // the second one opens
     QCOMPARE(count(), 0U);
 }
 
@@ -73,11 +73,11 @@ void TestSnmpClient::cleanup()
 void TestSnmpClient::failedFirstLoadIsCounted()
 {
     QVSNMP_M880::setLibraryNames({absent});
-    QVSNMP_M880::unloadLibrary(); // nothing to do
+    QVSNMP_M880::unloadLibrary(); // has no effect
     QVERIFY(!QVSNMP_M880::loadLibrary());
     QCOMPARE(count(), 1U);
     QVERIFY(QVSNMP_M880::loadLibrary());
-    // What that call was told does not make the library usable.
+    // The result of that call does not make the library usable.
     QCOMPARE(opened().second, u"SNMPArchMismatch"_s);
     QCOMPARE(count(), 3U);
 }
@@ -96,7 +96,7 @@ void TestSnmpClient::failuresKeepTheCount()
     const auto state = QVSNMP_M880::libraryState();
     QVERIFY(state.isOpen && state.libraryLoaded == 1);
     QCOMPARE(state.entryPoints.at(7), quintptr(0)); // snmp_sess_session
-    QVERIFY(state.entryPoints.at(8) != 0);          // looked up all the same
+    QVERIFY(state.entryPoints.at(8) != 0);          // looked up nevertheless
 }
 
 void TestSnmpClient::lastUnloadClosesAndPoisons()
@@ -125,7 +125,8 @@ void TestSnmpClient::opensTheSession()
     control()->opened.s_errno = 111;
     QCOMPARE(client->lastError(), 111);
 
-    // Each session initialises; each destruction counts down, and none closes the session.
+    // Each session initializes the library; each destruction decrements the count, and none closes the
+    // session.
     opened().first.reset();
     QCOMPARE(told.inits, 2);
     QCOMPARE(told.closes, 0);
@@ -138,8 +139,8 @@ void TestSnmpClient::opensTheSession()
 void TestSnmpClient::decodes_data()
 {
     QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("bytes"); // absent where null
-    QTest::addColumn<QVariant>("value");   // bytes where strings are to come as data
+    QTest::addColumn<QByteArray>("bytes"); // absent if null
+    QTest::addColumn<QVariant>("value");   // bytes if strings are returned as data
     const auto row = [](const char *name, int type, const QByteArray &bytes, const QVariant &value) {
         QTest::newRow(name) << type << bytes << value;
     };
@@ -170,7 +171,7 @@ void TestSnmpClient::decodes()
     QFETCH(QVariant, value);
     const auto client = opened().first;
     client->setReturnsStringsAsData(value.typeId() == QMetaType::QByteArray);
-    // Of several variables the last one counts.
+    // Of several variables the last one is used.
     netsnmp_variable_list &last = control()->last;
     last.type = static_cast<unsigned char>(type);
     last.val.string = bytes.isNull() ? nullptr : reinterpret_cast<unsigned char *>(bytes.data());
@@ -193,7 +194,7 @@ void TestSnmpClient::characterSets_data()
     QTest::addColumn<int>("mibEnum");
     QTest::addColumn<quint32>("encoding");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text"); // null where the bytes are not valid
+    QTest::addColumn<QString>("text"); // null if the bytes are not valid
     const auto row = [](int mibEnum, quint32 encoding, const char *bytes, const QString &text) {
         QTest::addRow("%d %s", mibEnum, text.isNull() ? "invalid" : "")
             << mibEnum << encoding << QByteArray(bytes) << text;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The client with the real net-snmp, against a real agent and against a device that answers as none should.
+// The client with the real net-snmp, with a real agent and with a device that sends invalid responses.
 
 #include "device/snmp_client.h"
 #include "device/string_encoding.h"
@@ -43,18 +43,19 @@ Client clientFor(const char *address)
     return Client(QVSNMP_M880::initWithHostAndReturnError(QString::fromLatin1(address), nullptr).release());
 }
 
-// Broken answers that the client takes, in each of four ways to decode them; 100,000 where damage shows.
+// Invalid responses for each of four ways to decode them; 100,000 with a sanitizer, which detects memory
+// errors.
 #ifdef __SANITIZE_ADDRESS__
 constexpr int mutatedRepliesTaken = 25'000;
 #else
 constexpr int mutatedRepliesTaken = 5'000;
 #endif
 
-// One seed, so that a finding comes again.
+// A fixed seed, so that failures can be reproduced.
 class Mutator
 {
 public:
-    // Broken behind the head, which has to be right: net-snmp drops an answer that it cannot match.
+    // Corrupted after the header, which must be valid: net-snmp drops a response that matches no request.
     SnmpReply mutated(SnmpReply reply)
     {
         static constexpr std::array<unsigned char, 8> types{0x04, 0x04, 0x04, 0x02, 0x06, 0x43, 0x46, 0x80};
@@ -150,9 +151,9 @@ void TestSnmpDevice::readsColumnsOfARealAgent()
              (QVariantList{u"sRGB"_s, u"Adobe RGB"_s, u"last"_s}));
     QCOMPARE(oid.back(), SnmpOid(5));
     QCOMPARE(client->rowsOfLastColumn(), (QList<quint32>{1, 3, 4}));
-    oid = column(3); // ends where a row is missing
+    oid = column(3); // ends at a missing row
     QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"one"_s});
-    oid = column(4); // ends where a name is not ASCII
+    oid = column(4); // ends at a name that is not ASCII
     QCOMPARE(client->sendBulkRequestWithSizeAndCount(oid.data(), oid.size(), 15), QVariantList{u"plain"_s});
     client->setReturnsStringsAsData(true);
     oid = column(4);
@@ -193,11 +194,11 @@ void TestSnmpDevice::opensAndClosesTheRealLibrary()
     QVERIFY(!QVSNMP_M880::libraryState().isOpen);
 }
 
-// In a process of its own, as net-snmp reads its configuration once.
+// In a separate process, since net-snmp reads its configuration once.
 void TestSnmpDevice::takesNoConfiguration_data()
 {
-    QTest::addColumn<QString>("variable"); // names the folder of the configuration
-    QTest::addColumn<QString>("folder");   // of the files, below that
+    QTest::addColumn<QString>("variable"); // name of the variable with the folder of the configuration
+    QTest::addColumn<QString>("folder");   // folder of the files below it
     QTest::newRow("none") << u"MIBDIRS"_s << u"absent"_s;
     QTest::newRow("of the user") << u"HOME"_s << u".snmp"_s;
     QTest::newRow("of the environment") << u"SNMPCONFPATH"_s << u"."_s;
@@ -211,7 +212,7 @@ void TestSnmpDevice::takesNoConfiguration()
     const QString log = root.filePath(u"log"_s);
     const QDir files(root.filePath(folder));
     QVERIFY(QDir().mkpath(files.filePath(u"hosts"_s)));
-    // Each would hang whoever reads it, overwrite a file, or ask another port.
+    // Reading each of these files would block, overwrite a file, or use another port.
     QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"hosts/127.0.0.2.conf"_s)).constData(), 0600), 0);
     QCOMPARE(::mkfifo(QFile::encodeName(files.filePath(u"snmp.local.conf"_s)).constData(), 0600), 0);
     QFile configuration(files.filePath(u"snmp.conf"_s));
@@ -237,7 +238,7 @@ void TestSnmpDevice::takesNoConfiguration()
 void TestSnmpDevice::oddReplies_data()
 {
     QTest::addColumn<Alteration>("alter");
-    QTest::addColumn<bool>("thenGood"); // a proper answer follows at once
+    QTest::addColumn<bool>("thenGood"); // a valid response follows at once
     QTest::addColumn<QVariant>("value");
     const auto row = [](const char *name, Alteration alter, bool thenGood, const QVariant &value) {
         QTest::newRow(name) << std::move(alter) << thenGood << value;
@@ -247,7 +248,7 @@ void TestSnmpDevice::oddReplies_data()
         return [tag](SnmpReply &reply) { reply = reply.with(tag, QByteArray(1, 1)); };
     };
 
-    // What net-snmp drops, so that the proper answer counts.
+    // Packets that net-snmp drops, so that the valid response is used.
     for (const qsizetype kept : {0, 1, 10, 30, 55})
         QTest::addRow("cut after %lld bytes", qlonglong(kept))
             << Alteration([kept](SnmpReply &reply) { reply.instead = reply.encoded().first(kept); }) << true
@@ -263,12 +264,13 @@ void TestSnmpDevice::oddReplies_data()
         "integer without bytes", [](SnmpReply &reply) { reply = reply.with(0x02, {}); }, true, good);
     row("unknown type", type(0x4a), true, good);
     row("boolean", type(0x01), true, good);
-    // What it lets through.
+    // Packets that net-snmp accepts.
     row("time ticks", type(0x43), false, {});
     row("error status", [](SnmpReply &reply) { reply.errorStatus = 2; }, false, {});
     row(
         "60,000 bytes", [](SnmpReply &reply) { reply.value.fill('x', 60000); }, false, QString(60000, u'x'));
-    // Answers are told apart by their request id alone: a printer may answer from another of its addresses.
+    // Responses are matched only by their request ID, since a printer may respond from another of its
+    // addresses.
     row(
         "another community", [](SnmpReply &reply) { reply.community = "private"; }, true, u"odd"_s);
     row(
@@ -311,7 +313,7 @@ void TestSnmpDevice::silenceAndLateAnswers()
     QCOMPARE(device.requestCount(), 4);
 }
 
-// The request ends by itself, and closes its session; others are made meanwhile.
+// The request ends by itself and closes its session; other requests can be made meanwhile.
 void TestSnmpDevice::userWhoDoesNotWait()
 {
     const UdpResponder silent("127.0.0.3", [](const SnmpReply &) { return SnmpReplies(); });
@@ -332,7 +334,7 @@ void TestSnmpDevice::userWhoDoesNotWait()
         QString error;
         QVERIFY(!QVSNMP_M880::initWithHostAndReturnError(u"127.0.0.2"_s, &error));
         QCOMPARE(error, u"SNMPCannotConnect"_s);
-        QVSNMP_M880::unloadLibrary(); // what that attempt left counted
+        QVSNMP_M880::unloadLibrary(); // left by that attempt
     }
     QCOMPARE(QVSNMP_M880::libraryState().libraryLoaded, 0U);
     {
@@ -346,9 +348,9 @@ void TestSnmpDevice::userWhoDoesNotWait()
     QCOMPARE(openFiles(), before);
 }
 
-// A great many broken answers. What counts is that nothing is damaged, which the sanitizers tell, and that
-// proper answers in between still come through. Each request is answered by broken ones and then by a number
-// that they do not give: what ends otherwise has taken one of them.
+// Many invalid responses. They must cause no memory errors, which the sanitizers detect, and valid responses
+// in between must still be received. Each request is answered by invalid responses and then by a number that
+// they do not contain: a different result means that one of them was accepted.
 void TestSnmpDevice::mutatedReplies_data()
 {
     QTest::addColumn<int>("characterSet"); // IANA MIBenum
@@ -389,7 +391,7 @@ void TestSnmpDevice::mutatedReplies()
     }
     qInfo("%d requests, %d broken answers taken, %d of them as a value", requests, taken, values);
     QVERIFY(values > 0 && values < taken);
-    QCOMPARE(device.requestCount(), requests); // none was lost and asked again
+    QCOMPARE(device.requestCount(), requests); // no request was lost and repeated
     hostile = false;
     QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(characterSet));
 }

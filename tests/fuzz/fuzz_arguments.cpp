@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The command line, a word a line.
+// The command line, one word per line.
 
 #include "host/batch/arguments.h"
 #include "tests/fuzz/fuzz_support.h"

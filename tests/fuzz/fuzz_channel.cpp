@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What the service writes to the process of a dialog: one request, and the job that may be stored in it.
+// The service's input to a dialog process: one request, and the job that may be stored in it.
 
 #include "host/portal/dialog_channel.h"
 #include "host/portal/stored_job.h"

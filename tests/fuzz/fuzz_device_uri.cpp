@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Device URIs, and the hosts in them through the resolver, with name services that answer nothing.
+// Device URIs, whose hosts are also resolved, with name services that return nothing.
 
 #include "device/device_uri.h"
 #include "device/network_resolver.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A file that may be compressed, read in pieces, to its end and once more.
+// A file that may be compressed, read in pieces to its end, twice.
 
 #include "host/printing/gzip_file.h"
 #include "platform/unique_fd.h"
@@ -14,7 +14,7 @@
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    constexpr qint64 most = 4 * 1024 * 1024; // what compresses well grows without end
+    constexpr qint64 most = 4 * 1024 * 1024; // highly compressed data could expand without limit
     const int fd = ::memfd_create("input", MFD_CLOEXEC);
     requireThat(fd >= 0 && ::write(fd, data, size) == static_cast<ssize_t>(size));
     ::lseek(fd, 0, SEEK_SET);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The Info.json of a bundle, in a folder that holds nothing else.
+// The Info.json of a bundle, in an otherwise empty folder.
 
 #include "host/extensions/protection.h"
 #include "platform/bundle.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a print server answers. The first byte chooses what it is asked; then come its answers, one for each
-// request, with "--next--" between them.
+// Responses of a print server. The first byte selects the operation; the responses to its requests follow,
+// separated by "--next--".
 
 #include "host/printing/ipp_query.h"
 #include "host/printing/print_system.h"
@@ -48,7 +48,7 @@ struct Stage
 
 void ask(unsigned question, const Stage &stage)
 {
-    // The server never waits before it answers or closes.
+    // The server responds or closes the connection without delay.
     const ServerPatience patience{.connectTime = 1000, .idleTime = 1000, .recoveryTime = 0};
     PrintError error;
     LoginKeeper login;
@@ -90,7 +90,7 @@ void ask(unsigned question, const Stage &stage)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static Stage &stage = *new Stage; // its server's thread ends with the process
+    static Stage &stage = *new Stage; // its server thread ends with the process
     if (size < 1)
         return 0;
     QList<QByteArray> answers;

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A file of presets, read, and with presets added, renamed and taken away. The first line names the preset.
+// A file of presets: read, and with presets added, renamed and deleted. The first line is the name of the
+// preset.
 
 #include "host/printing/preset_lines.h"
 #include "tests/fuzz/fuzz_support.h"

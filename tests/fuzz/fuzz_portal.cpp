@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What an application tells the print portal: a JSON object with "settings", "pageSetup" and "options".
+// Arguments of an application to the print portal: a JSON object with "settings", "pageSetup" and "options".
 
 #include "host/service/portal_settings.h"
 #include "tests/fuzz/fuzz_support.h"

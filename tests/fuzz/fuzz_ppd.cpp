@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A PPD through document, constraint engines and custom values. Behind a NUL byte come lines "option=choice"
-// that are marked.
+// A PPD, with document, constraint engines and custom values. After a NUL byte, lines "option=choice" are
+// marked.
 
 #include "constraints/ppd_lines.h"
 #include "host/printing/ppd_document.h"
@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr qsizetype mostMarks = 200; // an input of a few kilobytes with more is slow, and tells nothing new
+// more marks in a few kilobytes of input are slow and cover no further code
+constexpr qsizetype mostMarks = 200;
 
 void lookAt(host::PpdDocument *document, const QString &keyword, qsizetype *marks)
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Page ranges as people type them.
+// Page ranges as typed by a user.
 
 #include "host/session/page_ranges.h"
 #include "tests/fuzz/fuzz_support.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What an SNMP device answers: four bytes that choose type, error, character set and form, then the value.
-// The library that decodes the packets is replaced, so every value that it may hand over is seen.
+// Responses of an SNMP device: four bytes that select type, error, character set and form, then the value.
+// The library that decodes packets is replaced, so that all values it could return are covered.
 
 #include "device/snmp_client.h"
 #include "device/snmp_value.h"

@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <cstdlib>
 
-// A driver is a program for one kind of input. It defines LLVMFuzzerTestOneInput(), which libFuzzer calls
-// with one input after another, and says with requireThat() what holds whatever the input is.
+// A driver is a program for one kind of input. It defines LLVMFuzzerTestOneInput(), which libFuzzer calls for
+// each input, and checks with requireThat() what must hold for every input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-// Aborts where the condition does not hold; libFuzzer keeps the input.
+// Aborts if the condition does not hold; libFuzzer then saves the input.
 template <typename Condition>
 void requireThat(const Condition &condition)
 {

@@ -28,7 +28,7 @@ qint64 contentLength(const QByteArray &head)
     return at < 0 ? 0 : head.mid(at + 17, head.indexOf("\r\n", at + 2) - at - 17).trimmed().toLongLong();
 }
 
-// The body of a request that begins at `at`, and how many bytes it takes; -1 while it is not complete.
+// The body of a request that begins at `at`, and its length in bytes; -1 while it is incomplete.
 qsizetype takeChunks(const QByteArray &bytes, qsizetype at, QByteArray *body)
 {
     const qsizetype start = at;
@@ -88,7 +88,7 @@ void ScriptedServer::serve()
     }
 }
 
-// False when the connection ends.
+// False if the connection has been closed.
 bool ScriptedServer::readFrom(Connection *connection)
 {
     char block[65536];
@@ -134,7 +134,7 @@ bool ScriptedServer::answer(Connection *connection, const QByteArray &body)
     }
     const bool makesJob = body.size() > requestIdAt && body[requestIdAt - 1] == IPP_OP_CREATE_JOB;
     const qsizetype tokenAt = makesJob ? body.indexOf(host::tokenAttribute) : -1;
-    if (tokenAt >= 0) // behind the name come two bytes of length
+    if (tokenAt >= 0) // the name is followed by two bytes with the length
         m_token =
             body.mid(tokenAt + qsizetype(sizeof host::tokenAttribute) + 1, qsizetype(sizeof anyToken) - 1);
     next.replace(anyToken, m_token);

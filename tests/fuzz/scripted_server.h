@@ -12,20 +12,19 @@
 #include <thread>
 #include <vector>
 
-// A print server on a socket that answers each request with the next of the answers it was given, on a thread
-// of its own, and closes the connection when there is none left. Lives as long as the process.
+// A print server on a socket that answers each request with the next of the given responses, on its own
+// thread, and closes the connection when there are none left. Lives as long as the process.
 class ScriptedServer
 {
 public:
-    // Listens at a path, which must be free.
+    // Listens at a path, which must not exist.
     explicit ScriptedServer(const QByteArray &path);
 
-    // Stands in an answer for the token of the job that was made last.
+    // Placeholder in a response for the token of the most recently created job.
     static constexpr char anyToken[] = "urn:uuid:00000000-0000-0000-0000-000000000000";
 
-    // The answers to the next requests, whichever connection they come on. In the body of an answer the
-    // number of the request takes the place of what stands there; an answer that begins with "HTTP/" goes out
-    // as it is.
+    // Sets the responses to the next requests on any connection. The request ID in the body of a response is
+    // replaced by that of the request; a response that begins with "HTTP/" is sent unchanged.
     void setAnswers(const QList<QByteArray> &answers);
 
 private:
@@ -41,7 +40,7 @@ private:
 
     platform::UniqueFd m_listener;
     std::vector<Connection> m_connections;
-    std::mutex m_mutex; // guards the answers
+    std::mutex m_mutex; // guards the responses
     QList<QByteArray> m_answers;
     QByteArray m_token;
     std::thread m_thread;

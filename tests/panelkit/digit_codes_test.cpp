@@ -65,7 +65,7 @@ private Q_SLOTS:
         };
         QCOMPARE(paste(u"abc"_s), QString());
         QCOMPARE(paste(u"a1b2c3d4e5f6"_s), u"12345"_s);
-        QCOMPARE(m_beeps, 2); // once a change, however much was removed
+        QCOMPARE(m_beeps, 2); // once per change, however much was removed
         m_field->clear();
         const QString arabicIndic = u"٤٢"_s;
         QCOMPARE(paste(arabicIndic), arabicIndic);
@@ -119,7 +119,7 @@ private Q_SLOTS:
             {u"0"_s, u"00000"_s},
             {u"99999"_s, u"99999"_s},
             {u"٤٢"_s, u"00042"_s},
-            // What typing cannot leave behind, but a program can.
+            // Values that cannot be typed, but can be set by a program.
             {u"12x"_s, u"00000"_s},
             {u"99999x"_s, u"99999"_s},
             {u"99998x"_s, u"00000"_s},
@@ -149,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(panel.composeCodeForOption(prefix), u"01234"_s);
         QVERIFY_EXCEPTION_THROWN(panel.decomposeCodeForOption(u"4321"_s, prefix), platform::Exception);
         QCOMPARE(panel.composeCodeForOption(prefix), u"01234"_s);
-        QCOMPARE(panel.composeCodeForOption(u"No"_s), u"78"_s); // as many as the prefix is long
+        QCOMPARE(panel.composeCodeForOption(u"No"_s), u"78"_s); // as many digits as the prefix is long
     }
 
 private:

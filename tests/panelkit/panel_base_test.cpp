@@ -25,7 +25,7 @@ const QByteArray ppdBody =
     ppdOption("ColorType/Colour Type", {"Auto/Automatic", "Color/Colour", "Mono/Black & White"}) +
     ppdOption("Halftone/Half Tone", {"Fine", "Coarse", "2"}) + ppdOption("Paper", {"Plain", "Bond"});
 
-// A panel with a layout of its own, a property of its own, and a choice of the layout's name.
+// A panel with its own layout, an additional property, and a choice of the layout's name.
 class LayoutPanel : public QVPDE_M880, public QVPDELoading_M880
 {
     Q_OBJECT
@@ -60,11 +60,11 @@ private Q_SLOTS:
         QCOMPARE(panel.valueForKey(u"ColorTypeChoice"_s), QVariant(0));
         panel.setValueForKey(u"Sepia"_s, colorType);
         QCOMPARE(panel.valueForKey(colorType), QVariant(u"Sepia"_s));
-        panel.setValueForKey(2, halftone); // a number, and no keyword although there is one of that name
+        panel.setValueForKey(2, halftone); // a number is not a keyword, even if there is one of that name
         for (const char *nil :
              {"ColorTypeChoice", "Serial", "SerialChoice", "SerialChoices", "HalftoneChoice"})
             QVERIFY2(!panel.valueForKey(QString::fromLatin1(nil)).isValid(), nil);
-        // Options of the PPD that are none of the panel's, and keys of nobody.
+        // Options of the PPD that do not belong to the panel, and undefined keys.
         for (const char *undefined : {"Paper", "PaperChoice", "PaperChoices", "Choice"})
             QVERIFY_EXCEPTION_THROWN(panel.valueForKey(QString::fromLatin1(undefined)), Exception);
         QCOMPARE(panel.valueForKey(u"supportedPPDOptionKeys"_s).toStringList(), keys);
@@ -136,14 +136,14 @@ private Q_SLOTS:
         dialog.manager->ppd()->markChoiceForOption(u"Mono"_s, colorType);
         SamplePanel panel(dialog, keys);
         panel.setValueForKey(u"Coarse"_s, halftone);
-        QVERIFY(panel.restoreValuesAndReturnError(nullptr)); // past the option that has no value at all
+        QVERIFY(panel.restoreValuesAndReturnError(nullptr)); // the option without any value is skipped
         QCOMPARE(panel.valueForKey(colorType), QVariant(u"Mono"_s));
         QCOMPARE(panel.valueForKey(halftone), QVariant(u"Fine"_s));
         dialog.host.settings.setValue(serial, u"007"_s);
         QVERIFY(panel.restoreValuesAndReturnError(nullptr));
         QCOMPARE(panel.valueForKey(serial), QVariant(u"007"_s));
 
-        dialog.manager->setUseConstraintHandling(false); // a host that gives no values back
+        dialog.manager->setUseConstraintHandling(false); // a host that returns no values
         QVERIFY(panel.restoreValuesAndReturnError(nullptr));
         QCOMPARE(panel.valueForKey(colorType), QVariant(u"Auto"_s));
     }
@@ -187,7 +187,7 @@ private Q_SLOTS:
         using Told = std::vector<std::pair<QString, QVariant>>;
         QCOMPARE(dialog.host.told, (Told{{serial, {}}, {colorType, u"Mono"_s}, {halftone, u"Fine"_s}}));
         QCOMPARE(marked(), u"Mono"_s);
-        QVERIFY(dialog.host.settings.values().isEmpty()); // the panel has no value for it, so it is gone
+        QVERIFY(dialog.host.settings.values().isEmpty()); // the panel has no value for it, so it was removed
 
         dialog.host.onTold = [](const QString &) { throw Exception(u"Trouble"_s, u"no host"_s); };
         QTest::ignoreMessage(QtWarningMsg, "Trouble: no host");
@@ -225,8 +225,8 @@ private Q_SLOTS:
         QCOMPARE(panel.panelName(), u"Ink & Toner"_s);
         QCOMPARE(panel.panelKind(), u"com.kelmar.pde.toner"_s);
         QVERIFY(panel.shouldHide());
-        // The summary has the PPD's text of what is marked there, neither the string table's nor what is
-        // pending.
+        // The summary contains the PPD's text of the marked choice, neither the string table's text nor the
+        // pending choice.
         panel.setValueForKey(u"Mono"_s, colorType);
         QCOMPARE(panel.summaryInfo(),
                  (QMap<QString, QString>{{u"Colour mode"_s, u"Automatic"_s}, {u"Half Tone"_s, u"Fine"_s}}));

@@ -30,7 +30,7 @@ const QByteArray ppdBody = ppdOption("ColorType/Colour <u>Type</u>",
                            ppdConstraint("Balance 2", "ColorType Mono") +
                            ppdConstraint("Balance 1", "Duplex On") + ppdConstraint("Balance 1", "Foreign No");
 
-// A pop-up of a panel that does not serve the option "Foreign".
+// A pop-up of a panel that does not support the option "Foreign".
 struct Setting
 {
     explicit Setting(const QString &option, const QByteArray &body = ppdBody)
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(s.popUp.currentIndex(), 2);
         s.popUp.setCurrentIndex(1);
         QCOMPARE(s.panel.valueForKey(colorType), QVariant(u"Color"_s));
-        s.set(colorType, "Sepia"); // in none of the items
+        s.set(colorType, "Sepia"); // not among the items
         QVERIFY(!s.popUp.selectedIndex().isValid());
         QCOMPARE(s.panel.valueForKey(colorType), QVariant(u"Sepia"_s));
     }
@@ -84,19 +84,19 @@ private Q_SLOTS:
         const auto &center = s.dialog.manager->notificationCenter();
         QCOMPARE(s.popUp.conflictableOptions(), (QSet<QString>{balance, colorType, duplex, foreign}));
         QCOMPARE(center->registrationCount(&s.popUp), 4);
-        s.set(balance, "2"); // its own option: nothing is decided anew
+        s.set(balance, "2"); // its own option: items are not updated
         QCOMPARE(s.enabled(), u"+++"_s);
         s.set(duplex, "None");
         QCOMPARE(s.enabled(), u"-++"_s);
         s.set(balance, "1");
         s.set(colorType, "Mono");
         QCOMPARE(s.enabled(), u"+--"_s);
-        QCOMPARE(s.popUp.currentIndex(), 1); // greyed, and still the selection
+        QCOMPARE(s.popUp.currentIndex(), 1); // greyed, but still selected
         s.set(duplex, "On");
         s.set(colorType, "Auto");
         QCOMPARE(s.enabled(), u"+-+"_s);
         s.set(duplex, "None");
-        QCOMPARE(s.enabled(), u"+++"_s); // "Foreign" is none of the panel's options, so it is not asked
+        QCOMPARE(s.enabled(), u"+++"_s); // "Foreign" does not belong to the panel, so it is ignored
         const Setting free(balance, ppdOption("Balance", {"0", "1"}));
         QCOMPARE(free.dialog.manager->notificationCenter()->registrationCount(&free.popUp), 0);
     }
@@ -133,7 +133,7 @@ private Q_SLOTS:
         Setting s(balance);
         s.set(duplex, "On");
         s.popUp.show();
-        QTest::keyClick(&s.popUp, Qt::Key_Down); // over the greyed item
+        QTest::keyClick(&s.popUp, Qt::Key_Down); // skips the greyed item
         QCOMPARE(s.panel.valueForKey(balance), QVariant(u"2"_s));
 
         const auto click = [&s](int row) {
@@ -149,11 +149,11 @@ private Q_SLOTS:
 
         s.popUp.showPopup();
         QAbstractItemView *list = s.popUp.view();
-        QTest::keyClick(list, Qt::Key_Down); // upon the greyed item, which says why it is
+        QTest::keyClick(list, Qt::Key_Down); // moves to the greyed item, which shows its reason
         QCOMPARE(list->currentIndex().row(), 1);
         QVERIFY(!list->currentIndex().data(Qt::AccessibleDescriptionRole).toString().isEmpty());
         QVERIFY(QToolTip::text().contains(u"Not available while"_s));
-        QTest::keyClick(list, Qt::Key_Return); // which does not choose it
+        QTest::keyClick(list, Qt::Key_Return); // does not select it
         QCOMPARE(s.panel.valueForKey(balance), QVariant(u"0"_s));
         QTest::keyClick(list, Qt::Key_Down);
         QTest::keyClick(list, Qt::Key_Return);

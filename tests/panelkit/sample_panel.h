@@ -11,7 +11,7 @@
 
 #include <memory>
 
-// One dialog around a PPD that the test writes out.
+// One dialog for a PPD that is defined in the test.
 struct SampleDialog
 {
     explicit SampleDialog(const QByteArray &ppdBody, std::shared_ptr<platform::Bundle> bundle = nullptr)
@@ -28,7 +28,7 @@ struct SampleDialog
     std::shared_ptr<QVPDEManager_M880> manager;
 };
 
-// A panel of given options and no interface.
+// A panel with given options and no user interface.
 class SamplePanel : public QVPDE_M880
 {
 public:

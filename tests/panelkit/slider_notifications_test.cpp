@@ -42,7 +42,7 @@ const QByteArray ppdBody =
 
 } // namespace
 
-// Sliders must follow the panel and set it, whichever way the build and the system have for that.
+// Sliders must follow the panel and set it, in every build and on every system.
 class SliderNotificationsTest : public QObject
 {
     Q_OBJECT
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(panel.slider()->hasTracking(), !older);
 
         std::unique_ptr<SliderRegistry> registry;
-        QVERIFY(!QVDetachSliderBindingsInPDE(&panel, &registry)); // nothing is left to take off
+        QVERIFY(!QVDetachSliderBindingsInPDE(&panel, &registry)); // nothing is left to remove
         QCOMPARE(bool(registry), older);
         QVERIFY(!QVDetachSliderBindingsInPDE(&panel, nullptr));
         QVERIFY(!QVAttachNotificationsForSlidersInPDE(&panel, registry.get()));

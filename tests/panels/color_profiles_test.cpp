@@ -32,7 +32,7 @@ void press(QComboBox *popUp, Qt::Key key)
 
 } // namespace
 
-// The panel and a real SNMP agent, in a network of their own.
+// The panel and a real SNMP agent in a private network.
 class ColorProfilesTest : public QObject
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
     const QWidget *view = dialog.show(panel);
     panel->setCurrentView(widget<QWidget>(view, "advancedView"));
-    // A printer that could not be asked may be asked again.
+    // A printer that did not respond can be queried again.
     QVERIFY(widget<QVNotice_M880>(view, "unavailableNotice")->isVisible());
     dialog.host.session.printer->deviceUri = u"socket://127.0.0.2:9100"_s;
     auto *reload = widget<QPushButton>(view, "reloadButton");
@@ -73,7 +73,7 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     QCOMPARE(destination->currentText(), u"Plain Paper"_s);
     QCOMPARE(intent->currentText(), u"Intent 9"_s);
 
-    // What the device gave and nobody touched is kept as it is.
+    // Unchanged values of the device are kept.
     panel->saveValuesAndReturnError(nullptr);
     QCOMPARE(dialog.host.settings.value(QVCmykSourceProfileIndexKey).toString(), u"2"_s);
     QCOMPARE(dialog.host.settings.value(QVRenderingIntentKey).toString(), u"9"_s);
@@ -83,7 +83,7 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     press(cmyk, Qt::Key_Home);
     press(cmyk, Qt::Key_Down);
     QTest::mouseClick(widget<QCheckBox>(view, "applyToDeviceColorOnly"), Qt::LeftButton, {}, QPoint(8, 8));
-    QStringList profilesWhenTold; // the device's settings go first
+    QStringList profilesWhenTold; // the device's settings are saved first
     dialog.host.onTold = [&](const QString &) {
         profilesWhenTold += dialog.host.settings.value(QVRgbSourceProfileIndexKey).toString();
     };
@@ -94,12 +94,12 @@ void ColorProfilesTest::choicesTravelWithTheJob()
     QCOMPARE(saved(QVCmykDestinationProfileIndexKey), u"2"_s);
     QCOMPARE(saved(QVApplyToDeviceColorOnlyKey), u"1"_s);
 
-    // Asking again brings the device's own selections back, and is announced.
+    // Querying again restores the device's selections, and notifies the host.
     QTest::mouseClick(reload, Qt::LeftButton);
     QCOMPARE(rgb->currentText(), u"sRGB"_s);
     QCOMPARE(dialog.host.blockingWork.size(), 3);
 
-    // The next dialog of this job: the stored destination comes back as the source, as it always has.
+    // The next dialog of this job: the stored destination is restored as the source, as in earlier versions.
     panel->restoreValuesAndReturnError(nullptr);
     QCOMPARE(rgb->currentText(), u"Adobe <b>RGB</b>"_s);
     QCOMPARE(cmyk->currentText(), u"Profile 2"_s);

@@ -96,7 +96,7 @@ void ColorSettings1PanelTest::switchesWithoutBlocking()
     QWidget *basic = basicView(panel);
     QWidget *advanced = advancedView(panel);
     QVERIFY(isAtRest(basic, advanced));
-    panel->goBack(nullptr); // the current view already
+    panel->goBack(nullptr); // already the current view
     QVERIFY(!ViewSwitch::runningIn(view));
 
     QElapsedTimer time;
@@ -115,7 +115,7 @@ void ColorSettings1PanelTest::switchesWithoutBlocking()
 
     QTest::mouseClick(widget<QPushButton>(view, "backButton"), Qt::LeftButton);
     QCOMPARE(panel->currentView(), basic);
-    QVERIFY(basic->y() > 0); // comes from where it went
+    QVERIFY(basic->y() > 0); // starts from its current position
     QTRY_VERIFY(isAtRest(basic, advanced));
 }
 
@@ -189,7 +189,7 @@ void ColorSettings1PanelTest::imageTypeLeadsToTheAdvancedView()
     panel->setAdvancedSelected(true);
     QVERIFY(!panel->advancedSelected());
 
-    // From any panel, as long as it goes through the dialog's notification centre.
+    // From any panel that uses the dialog's notification center.
     panel->willShow();
     panel->manager()->notificationCenter()->postNotification(
         u"ImageType"_s, nullptr, {{platform::NSKeyValueChangeNewKey, u"Advanced"_s}});
@@ -208,11 +208,11 @@ void ColorSettings1PanelTest::plainModelHasNoAdvancedView()
         QVERIFY2(!widget<QWidget>(view, name)->isVisible(), name);
 
     QTest::mouseClick(widget<QCheckBox>(view, "tonerSave"), Qt::LeftButton, {}, QPoint(8, 8));
-    QVERIFY(!widget<QVPopUpButton_M880>(view, "halftone")->isItemEnabled(1)); // detail takes toner
+    QVERIFY(!widget<QVPopUpButton_M880>(view, "halftone")->isItemEnabled(1)); // conflicts with toner save
     panel->reloadDefaultSNMPValues(nullptr);
     panel->saveValuesAndReturnError(nullptr);
     QCOMPARE(dialog.marked(u"TonerSave"_s), u"True"_s);
-    QVERIFY(dialog.host.blockingWork.isEmpty()); // no device was asked
+    QVERIFY(dialog.host.blockingWork.isEmpty()); // no device was queried
     panel->setValueForKey(u"False"_s, u"TonerSave"_s);
     QVERIFY(!widget<QCheckBox>(view, "tonerSave")->isChecked());
 }
@@ -224,7 +224,8 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
     auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
     QWidget *view = dialog.show(panel); // the session has no printer
     QCOMPARE(dialog.host.blockingWork, QStringList{u"Farbprofile werden vom Drucker abgefragt…"_s});
-    // What is said beside the profiles is not yet seen, and takes no more height than it will in this width.
+    // The notice next to the profiles is not visible yet, and needs no more height than it will have at this
+    // width.
     view->resize(700, view->height());
     QTRY_COMPARE(view->minimumSizeHint().height(), advancedView(panel)->heightForWidth(700));
     panel->setCurrentView(advancedView(panel));
@@ -239,10 +240,10 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
 
     panel->saveValuesAndReturnError(nullptr);
     QVERIFY(!dialog.host.settings.value(QVRgbSourceProfileIndexKey).isValid());
-    QCOMPARE(dialog.host.blockingWork.size(), 1); // saving asks nobody
+    QCOMPARE(dialog.host.blockingWork.size(), 1); // saving does not query the device
 }
 
-// A row without a name has a number but no place in the list.
+// A row without a name has a number but is not in the list.
 void ColorSettings1PanelTest::unnamedNumberIsKept()
 {
     QVProfilePopUp_M880 popUp;
@@ -271,7 +272,7 @@ void ColorSettings1PanelTest::longNameIsCutAndWholeInTheTooltip()
         popUp.setSelectedProfile(1U);
         return popUp.grab().toImage();
     };
-    // What comes after the cut does not show.
+    // The elided part is not shown.
     const QString name = u"Coated <b>paper</b>\nand "_s + QString(100, u'x');
     QCOMPARE(picture(name), picture(name + u"y"_s));
     QVERIFY(picture(u"Coated"_s) != picture(u"Coated\npaper"_s));

@@ -26,7 +26,7 @@ namespace {
 const QStringList balanceKeys{u"ColorBalanceCyan"_s, u"ColorBalanceMagenta"_s, u"ColorBalanceYellow"_s,
                               u"ColorBalanceBlack"_s};
 
-// Where the thumb of a slider stands when it shows a number.
+// The position of a slider's thumb for a number.
 QPoint thumbAt(const QSlider *slider, int number)
 {
     struct Access : QSlider
@@ -54,7 +54,7 @@ QString value(QVPDE_M880 *panel, const QString &key)
     return panel->valueForKey(key).toString();
 }
 
-// Sharpness in three coarse steps, and nothing else that the panel serves.
+// Sharpness in three coarse steps, and no other option of the panel.
 InlinePpd coarsePpd()
 {
     return InlinePpd(ppdOption("SharpnessVRN/Sharpness", {"0", "-4", "4"}));
@@ -100,7 +100,7 @@ void ColorSettings2PanelTest::slidersMoveByKeyboardAndMouse()
     auto *slider = widget<QVChoiceSlider_M880>(view, "sharpnessSlider");
     const auto *label = widget<QVSignedValueLabel_M880>(view, "sharpnessValue");
 
-    // A host of an older system gets its sliders driven by the panel itself.
+    // On an older host the panel drives the sliders itself.
     const bool isOlder =
         KELMAR_OLDER_HOSTS && QVPDEManager_M880::darwinVersion()->compare(QVLeopardDarwinVersion) < 0;
     QCOMPARE(platform::Binding::infoForBinding(slider, u"value"_s) == nullptr, isOlder);
@@ -167,7 +167,7 @@ void ColorSettings2PanelTest::colorModeResetsAndAllowsBalance()
     QVERIFY(widget<QSlider>(view, "sharpnessSlider")->isEnabled());
     QVERIFY(notice->isVisible());
     QCOMPARE(notice->text(), u"Color balance is not available while “Color Mode” is “Black and White”."_s);
-    // The job knows before anybody saves.
+    // The job contains the change before a save.
     for (const QString &key : balanceKeys) {
         QCOMPARE(value(panel, key), u"0"_s);
         QCOMPARE(dialog.marked(key), u"0"_s);
@@ -198,7 +198,7 @@ void ColorSettings2PanelTest::onlyAnAnnouncedColorModeCounts()
 
 void ColorSettings2PanelTest::neverOnAPositionWithoutChoice_data()
 {
-    QTest::addColumn<QList<int>>("moves"); // keys, and numbers that the thumb is dragged to
+    QTest::addColumn<QList<int>>("moves"); // keys, and numbers to which the thumb is dragged
     QTest::addColumn<QList<int>>("reached");
     QTest::newRow("to a choice") << QList<int>{4} << QList{4};
     QTest::newRow("nearest above") << QList<int>{3} << QList{4};

@@ -13,18 +13,18 @@
 
 #include <memory>
 
-// One dialog's panels, made by the factory over a PPD, with the layouts and string tables of the bundle that
-// was built. The host is told what a real one is told.
+// The panels of one dialog, created by the factory for a PPD, with the layouts and string tables of the built
+// bundle. Notifies the host as in a real dialog.
 class PanelFixture
 {
 public:
-    // With one of the family's PPDs, by the short name of its file.
+    // For a PPD of the family, by the base name of its file.
     explicit PanelFixture(const QByteArray &ppdName, const QLocale &locale = QLocale(QLocale::English));
-    // With a PPD that the caller keeps.
+    // For a PPD owned by the caller.
     explicit PanelFixture(ppd_file_s *ppd, const QLocale &locale = QLocale(QLocale::English));
     ~PanelFixture();
 
-    // Fatal when the dialog has no such panel.
+    // Fatal if the dialog has no such panel.
     template <typename T>
     T *panel() const
     {
@@ -37,7 +37,7 @@ public:
     const platform::PrintDialogPanels &panels() const { return m_panels; }
     // Restores a panel and shows its view as a window that has the focus.
     QWidget *show(QVPDE_M880 *panel);
-    // Keyword of the choice that the PPD has marked; null when there is none.
+    // Keyword of the choice marked in the PPD; null if there is none.
     QString marked(const QString &option) const;
     const std::shared_ptr<platform::Bundle> &bundle() const { return m_bundle; }
 
@@ -56,7 +56,7 @@ private:
     platform::PrintDialogPanels m_panels;
 };
 
-// A widget of a panel's view by its name in the layout; fails the test program when there is none.
+// A widget of a panel's view by its name in the layout; fails the test program if there is none.
 template <typename W>
 W *widget(const QWidget *view, const char *name)
 {

@@ -45,7 +45,7 @@ QByteArray contents(const QString &path)
     return file.readAll();
 }
 
-// The room a widget lacks for its text; 0 by 0 where it lacks none.
+// The size that a widget lacks for its text; 0 by 0 if it fits.
 QSize clipped(const QWidget *widget)
 {
     const auto *label = qobject_cast<const QLabel *>(widget);
@@ -61,7 +61,7 @@ bool showsText(const QWidget *widget)
            qobject_cast<const QComboBox *>(widget);
 }
 
-// Texts to be translated, by the context they are looked up in.
+// Texts to translate, by their context.
 QList<std::pair<QByteArray, QString>> textsOfLayout(const QString &path)
 {
     QXmlStreamReader reader(contents(path));
@@ -89,8 +89,8 @@ QStringList localizableKeys()
     return keys;
 }
 
-// What a PPD says in a language: for "Translation OPTION" and for "OPTION CHOICE". Read from its lines, as
-// libcups keeps those of one language only.
+// The texts of a PPD in a language: for "Translation OPTION" and for "OPTION CHOICE". Read from its lines,
+// since libcups keeps those of one language only.
 QHash<QString, QString> ppdTexts(const QByteArray &ppdName, const QString &language)
 {
     const QByteArray file = contents(buildPath("/ppds/%1.ppd").arg(QLatin1String(ppdName)));
@@ -135,7 +135,7 @@ void PanelLayoutsTest::makeUpTheDialogInOrder()
     QCOMPARE(kinds, (QStringList{kind.arg(u"print-mode"), kind.arg(u"color-settings-1"),
                                  kind.arg(u"color-settings-2")}));
 
-    QVPDEFactory_M880 factory; // without a bundle there are no layouts, so no panel comes about
+    QVPDEFactory_M880 factory; // without a bundle there are no layouts, so no panel can be created
     factory.initWithBundle(nullptr);
     for (const PanelClass &panel : factory.loadablePDEs()) {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(panel.className + u"\" was not loaded"_s));
@@ -162,7 +162,7 @@ void PanelLayoutsTest::fitAndCanBeReached()
     for (const auto &panel : dialog.panels()) {
         auto *base = dynamic_cast<QVPDE_M880 *>(panel.get());
         QWidget *view = dialog.show(base);
-        // Where two settings forbid each other the panel must have room for saying so.
+        // If two settings conflict, the panel must have space to show that.
         if (base->supportedPPDOptionKeys().contains(u"ColorType"_s))
             base->setValueForKey(u"Mono"_s, u"ColorType"_s);
         resizeToLeast(view);
@@ -176,7 +176,7 @@ void PanelLayoutsTest::fitAndCanBeReached()
     }
 }
 
-// As a layout does: the height a view needs is the one in the width that it has got.
+// As a layout does: the height of a view depends on its width.
 void PanelLayoutsTest::resizeToLeast(QWidget *view)
 {
     view->resize(view->minimumSizeHint());
@@ -241,7 +241,8 @@ void PanelLayoutsTest::textsAgreeWithThePpd_data()
     fitAndCanBeReached_data();
 }
 
-// The host shows the PPD's wording, the panels that of the string tables; the user must find one dialog.
+// The host shows the PPD's texts, the panels those of the string tables; they must be consistent for the
+// user.
 void PanelLayoutsTest::textsAgreeWithThePpd()
 {
     QFETCH(const QByteArray, ppd);

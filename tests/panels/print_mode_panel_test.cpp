@@ -38,7 +38,7 @@ void PrintModePanelTest::modelWithoutPassword()
     for (const char *name : {"passwordLabel", "passwordHint", "passwordField"})
         QVERIFY2(!widget<QWidget>(view, name)->isVisible(), name);
     QVERIFY(widget<platform::TextField>(view, "departmentCodeField")->isVisible());
-    // Even a value that this model's PPD does not offer leaves the summary without an error.
+    // A value that this model's PPD does not offer must not cause an error in the summary.
     panel->setValueForKey(u"Private"_s, u"PrintMode"_s);
     QCOMPARE(panel->summaryForKey(u"PrintMode"_s), u"Normal"_s);
 }
@@ -52,7 +52,7 @@ void PrintModePanelTest::keyboardDrivesModeAndPassword()
     auto *password = widget<platform::TextField>(view, "passwordField");
     QVERIFY(password->isVisible() && !password->isEnabled());
 
-    QTest::keyClick(view, Qt::Key_M, Qt::AltModifier); // the label's mnemonic
+    QTest::keyClick(view, Qt::Key_M, Qt::AltModifier); // the label's access key
     QVERIFY(widget<QVPopUpButton_M880>(view, "printModePopUp")->hasFocus());
     QTest::keyClick(view->focusWidget(), Qt::Key_Down);
     QCOMPARE(panel->valueForKey(u"PrintMode"_s).toString(), u"Private"_s);
@@ -85,7 +85,7 @@ void PrintModePanelTest::departmentCodeIsTypedWhereItIsOn()
     QVERIFY(field->toolTip().startsWith(u"Five digits"_s));
     panel->setDepartmentCode(u"01230"_s);
     QCOMPARE(field->text(), u"01230"_s);
-    QTest::mouseDClick(field, Qt::LeftButton); // selects the code that is there
+    QTest::mouseDClick(field, Qt::LeftButton); // selects the existing code
     QTest::keyClicks(field, u"12a34"_s);
     QTest::keyClick(field, Qt::Key_Tab);
     QCOMPARE(panel->departmentCode(), u"01234"_s);
@@ -139,7 +139,7 @@ void PrintModePanelTest::summaryShowsCodesBehindTheirChoice()
     panel->setPrivatePassword(u"12345"_s);
     panel->setValueForKey(u"True"_s, u"DeptCode"_s);
     panel->setDepartmentCode(u"01230"_s);
-    // The wording is that of what was saved last.
+    // The text is that of the last save.
     QCOMPARE(panel->summaryForKey(u"PrintMode"_s), u"Normal (12345)"_s);
     panel->saveValuesAndReturnError(nullptr);
 

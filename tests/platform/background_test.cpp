@@ -119,7 +119,7 @@ void BackgroundTest::deliversThoughDeletionsComeFirst()
     int answer = 0;
     startBeside(
         &receiver, [] { return 5; }, [&](int result) { answer = result; });
-    while (Background::isUnderWay()) // without events
+    while (Background::isUnderWay()) // without processing events
         QThread::yieldCurrentThread();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Numbers as the text of a control, and back where it reverses.
+// Converts numbers to the text of a control, and back if it is reversible.
 class TextTransformer : public platform::ValueTransformer
 {
 public:
@@ -65,11 +65,11 @@ void BindingTest::sliderAndKeyFollowEachOther()
     QTest::keyClick(&first, Qt::Key_PageUp);
     QCOMPARE(model.number(), 40);
     QCOMPARE(second.value(), 40);
-    QCOMPARE(model.sets(), before + 1); // no echo
+    QCOMPARE(model.sets(), before + 1); // no feedback
     model.setNumber(70);
     QCOMPARE(first.value(), 70);
     QCOMPARE(second.value(), 50);
-    QCOMPARE(model.number(), 70); // what one slider cannot show is not lost
+    QCOMPARE(model.number(), 70); // values that a slider cannot show are kept
 }
 
 void BindingTest::refusedValueGoesBack()
@@ -91,7 +91,7 @@ void BindingTest::transformerDecidesTheDirection()
     model.setNumber(3);
     QLineEdit oneWay;
     QLineEdit twoWay;
-    QLabel label; // its text has no notify signal
+    QLabel label; // QLabel's text has no notify signal
     const auto bind = [&model](QWidget *target, bool reverses) {
         return Binding::bind(target, u"text"_s, &model, u"number"_s,
                              std::make_shared<TextTransformer>(reverses));
@@ -136,7 +136,7 @@ void BindingTest::stateBeforeTheWindowShows()
         Binding::bind(label, u"enabled"_s, &model, u"flag"_s);
     }
     model.setFlag(true);
-    QVERIFY(!adopted.isVisible()); // no window of its own
+    QVERIFY(!adopted.isVisible()); // not shown as a separate window
     model.setFlag(false);
     window.setEnabled(true);
     QVERIFY(!child.isEnabled());

@@ -119,7 +119,7 @@ void BundleTest::stringsFallBack()
     const QString warning = files.folder() + u"/strings/Test_fi.qm: not a usable string table"_s;
     QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
     QCOMPARE(text(u"fi_FI"_s, u"Duplex"_s, u"given"_s), u"Two-sided"_s);
-    // Texts of code stand under their own context, which these tables do not have.
+    // Texts of code have their own context, which these tables lack.
     QCOMPARE(files.open()->translate("SomeClass", "Duplex"), u"Duplex"_s);
 }
 

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Classes of their own, so that dependent keys of one test reach no other.
+// Separate classes, so that the dependent keys of one test do not affect others.
 class DependentModel : public SampleModel
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     }
     QVariantList m_seen;
     QObject *m_context = nullptr;
-    bool m_leaves = false; // stops observing at the next notice
+    bool m_leaves = false; // removes itself as an observer on the next notification
 };
 
 // The keys announced when a model's number changes.
@@ -130,7 +130,7 @@ void KeyValueObjectTest::dependentKeysAreAnnounced()
     };
     depend(DependentModel::staticMetaObject, u"number"_s, u"flag"_s);
     depend(FurtherModel::staticMetaObject, u"flag"_s, u"text"_s);
-    depend(FurtherModel::staticMetaObject, u"text"_s, u"number"_s); // a circle
+    depend(FurtherModel::staticMetaObject, u"text"_s, u"number"_s); // a cycle
     QCOMPARE(announced(SampleModel()), (QStringList{u"number"_s}));
     QCOMPARE(announced(DependentModel()), (QStringList{u"number"_s, u"flag"_s}));
     QCOMPARE(announced(FurtherModel()), (QStringList{u"number"_s, u"flag"_s, u"text"_s}));

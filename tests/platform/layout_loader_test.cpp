@@ -61,7 +61,7 @@ QByteArray widget(const QByteArray &cls, const QByteArray &name, const QByteArra
     return xml + "</widget>\n";
 }
 
-// The form "Form" of these widgets below a title.
+// The form "Form" with these widgets below a title.
 TestBundle &operator<<(TestBundle &files, const QByteArray &widgets)
 {
     files.writeLayout(u"Form"_s, (widget("QLabel", "title", "Print &amp;mode") + widgets).trimmed(),
@@ -90,7 +90,7 @@ private Q_SLOTS:
     void brokenFilesAreNamed();
 
 private:
-    // Why the form cannot be loaded; null when it can, or the whole message when it does not name the file.
+    // Why the form cannot be loaded; null if it can, or the complete message if it does not contain the file.
     static QString problemOf(const TestBundle &files);
 };
 
@@ -101,7 +101,7 @@ QString LayoutLoaderTest::problemOf(const TestBundle &files)
     try {
         platform::loadLayout(*bundle, u"Form"_s, &owner);
     } catch (const Exception &exception) {
-        owner.m_model.setNumber(1); // nobody listens any more
+        owner.m_model.setNumber(1); // no observers are left
         if (owner.m_view || owner.m_title || !QApplication::allWidgets().isEmpty())
             return u"something is left behind"_s;
         const QString start = u"LayoutException: "_s + bundle->layoutPath(u"Form"_s) + u": "_s;

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void centreDestroyedDuringDelivery();
 
 private:
-    // A handler that adds a letter to the log.
+    // A handler that appends a letter to the log.
     NotificationCenter::Handler note(char letter)
     {
         return [this, letter](const Notification &) { m_log += letter; };
@@ -78,7 +78,7 @@ void NotificationCenterTest::destroyedObserverAndSender()
     center.addObserver(&observer, m_name, [&](const Notification &) { doomed.reset(); });
     center.addObserver(doomed.get(), m_name, note('d'));
     center.addObserver(&observer, m_name, note('o'), sender.get());
-    sender.reset(); // a registration for a sender that is gone is not one for any sender
+    sender.reset(); // a registration for a destroyed sender does not become one for any sender
     center.postNotification(m_name, nullptr);
     center.postNotification(m_name, &observer);
     QCOMPARE(takeLog(), "");

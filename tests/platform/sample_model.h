@@ -8,7 +8,7 @@
 
 #include <QPointer>
 
-// A key-value object with a key of each kind, for the tests of what works on keys.
+// A key-value object with a key of each kind, for tests.
 class SampleModel : public platform::KeyValueObject
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
     }
     QObject *stranger() { return &m_stranger; }
 
-    // How often the number was set, also when it was refused.
+    // How often the number was set, including refused values.
     int sets() const { return m_sets; }
 
 private:

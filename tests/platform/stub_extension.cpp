@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-// The smallest extension a host can load: it has no panels.
+// A minimal extension without panels.
 class StubExtension : public QObject, public platform::PrintDialogExtension
 {
     Q_OBJECT

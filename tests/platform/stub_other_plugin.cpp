@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-// A Qt plug-in that does something else.
+// A Qt plug-in of another kind.
 class Expected : public QObject
 {
     Q_OBJECT

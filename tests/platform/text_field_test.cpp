@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Upper-cases while typing, adds a full stop at the end, and keeps a text with a "?" in editing.
+// Converts to upper case while typing, adds a full stop at the end, and keeps a text with a "?" in editing.
 class Punctuation : public platform::TextFieldDelegate
 {
 public:
     void controlTextDidChange(TextField *control, const QVariantMap &userInfo) override
     {
         auto *editor = qobject_cast<QLineEdit *>(userInfo.value(platform::NSFieldEditor).value<QObject *>());
-        QCOMPARE(editor, control); // nothing is kept out
+        QCOMPARE(editor, control); // nothing is rejected
         editor->setText(editor->text().toUpper());
     }
     bool controlTextShouldEndEditing(TextField *control, QLineEdit *fieldEditor) override
@@ -137,7 +137,7 @@ void TextFieldTest::resigningInAWindowNeverShown()
     QTest::keyClicks(m_first, u"a"_s);
     TextField::resignFirstResponder(m_print);
     QCOMPARE(m_first->stringValue(), u"A."_s);
-    QCOMPARE(m_dialog->focusWidget(), m_second); // no edit of its own
+    QCOMPARE(m_dialog->focusWidget(), m_second); // it is not being edited
     QTest::keyClicks(m_second, u"b"_s);
     TextField::resignFirstResponder(m_print);
     QCOMPARE(m_second->stringValue(), u"b"_s);
@@ -149,7 +149,7 @@ void TextFieldTest::resigningInAWindowNeverShown()
     QCOMPARE(m_dialog->focusWidget(), m_print);
     TextField::resignFirstResponder(nullptr);
 
-    TextField alone; // a window of its own
+    TextField alone; // in another window
     QTest::keyClicks(&alone, u"c"_s);
     TextField::resignFirstResponder(&alone);
     QCOMPARE(alone.stringValue(), u"c"_s);
@@ -173,7 +173,7 @@ void TextFieldTest::firstClickSelectsAll()
     QTest::mouseClick(m_second, Qt::LeftButton, {}, {8, m_second->height() / 2});
     QTest::keyClicks(m_second, u"4"_s);
     QCOMPARE(m_second->text(), u"4"_s);
-    QTest::mouseClick(m_second, Qt::LeftButton, {}, {4, m_second->height() / 2}); // puts the cursor there
+    QTest::mouseClick(m_second, Qt::LeftButton, {}, {4, m_second->height() / 2}); // places the cursor there
     QTest::keyClicks(m_second, u"2"_s);
     QCOMPARE(m_second->text(), u"24"_s);
 }

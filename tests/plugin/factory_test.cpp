@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A panel that is nothing but its name and its manager.
+// A panel with only a name and a manager.
 struct BarePanel : platform::PrintDialogPanel
 {
     QString panelName() override { return name; }
@@ -38,7 +38,7 @@ struct BarePanel : platform::PrintDialogPanel
 
 using Maker = std::function<std::unique_ptr<platform::PrintDialogPanel>(std::shared_ptr<QVPDEManager_M880>)>;
 
-// A panel class that is on the roster for the length of a scope.
+// Registers a panel class for the duration of a scope.
 class RosterEntry
 {
 public:

@@ -24,7 +24,7 @@ const QByteArray ppdBody =
     "*OpenUI *Stamp: PickOne\n*DefaultStamp: Gone\n*Stamp On: \"\"\n*CloseUI: *Stamp\n" +
     ppdOption("Halftone", {"Fine", "Coarse"});
 
-// What a manager needs, put together as for one dialog.
+// The objects that a manager needs, as in one dialog.
 template <typename Host>
 struct Dialog
 {
@@ -51,8 +51,8 @@ const QString foreign = u"com.kelmar.foreign"_s;
 
 } // namespace
 
-// Hosts of the newer kind are read and written through the PPD's marks and the job's settings, those of the
-// older kind through the ticket of their session.
+// Newer hosts are accessed through the PPD's marks and the job's settings, older ones through the ticket of
+// their session.
 class ManagerTest : public QObject
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ private Q_SLOTS:
         dialog.host.onTold = [&](const QString &keyword) {
             before.append(dialog.marked(colorType) + dialog.host.settings.value(keyword).toString());
         };
-        // A number is no choice, so it becomes a setting; null takes a setting away.
+        // A number is not a choice, so it becomes a setting; null removes a setting.
         dialog.manager.setPpdDictionaryForOptions(
             {{colorType, u"Mono"_s}, {foreign, u"new"_s}, {halftone, 2}},
             {foreign, colorType, stamp, halftone});
@@ -133,7 +133,7 @@ private Q_SLOTS:
         Dialog<RecordingHost> dialog;
         const QVariantMap choices{
             {colorType, u"Mono"_s}, {halftone, u"Coarse"_s}, {foreign, u"x"_s}, {stamp, QVariant()}};
-        // Without a ticket nothing is read, and marks are all that is written.
+        // Without a ticket nothing is read, and only marks are written.
         QVERIFY(!dialog.manager.ppdDictionaryForOptions({colorType}));
         dialog.manager.setPpdDictionaryForOptions(choices, {colorType});
         QCOMPARE(dialog.marked(colorType), KELMAR_OLDER_HOSTS ? u"Mono"_s : u"Auto"_s);

@@ -35,7 +35,7 @@ private Q_SLOTS:
         QTest::newRow("ColorType mono Balance 1") << false;
         QTest::newRow("colorType Mono Balance 1") << false;
         QTest::newRow("Mono ColorType 1 Balance") << false;
-        // A side without a choice is the empty choice and stands for no other.
+        // A side without a choice is the empty choice and represents no other.
         QTest::newRow("Duplex  Tray Two") << true;
         QTest::newRow("Duplex On Tray Two") << false;
         QTest::newRow("Nowhere Mono Balance 1") << false;
@@ -57,7 +57,7 @@ private Q_SLOTS:
         const ConstraintTable table(ppd.get());
         const QString colorType = u"ColorType"_s;
         QCOMPARE(table.conflictableOptions(colorType, u"Mono"_s), (QSet<QString>{u"Balance"_s, u"Duplex"_s}));
-        // The option whose name is not valid text is left out, and its line with it.
+        // The option whose name is not valid UTF-8 is left out, together with its line.
         QCOMPARE(table.conflictableOptions(colorType, u"Auto"_s), QSet<QString>());
         QCOMPARE(table.conflictableOptions(u"Nowhere"_s, u"Mono"_s), QSet<QString>());
         // A null choice is not the empty one.

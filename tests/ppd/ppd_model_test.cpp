@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A model over a PPD written out in the test.
+// A model of a PPD defined in the test.
 struct Model
 {
     explicit Model(const QByteArray &body) : ppd(body), host(ppd.get()), model(QVPPD_M880::ppdWithHost(&host))
@@ -80,7 +80,7 @@ private Q_SLOTS:
 
     void findsOptions()
     {
-        // Libcups reads so long a keyword only without an asterisk and without a default.
+        // libcups reads such a long keyword only without an asterisk and without a default.
         const QByteArray keyword = longName.left(40).toLatin1();
         const QByteArray longest =
             "*OpenUI " + keyword + ": PickOne\n*" + keyword + " 0: \"\"\n*CloseUI: " + keyword + "\n";
@@ -105,7 +105,7 @@ private Q_SLOTS:
             QVERIFY(!model->localizedChoicesForOptionWithBundle(option, nullptr));
             QVERIFY(!model->defaultChoiceForOption(option));
         }
-        QCOMPARE(order.size(), 3); // untouched
+        QCOMPARE(order.size(), 3); // not changed
     }
 
     void tellsDefaultAndMarkedChoice()
@@ -113,9 +113,9 @@ private Q_SLOTS:
         Model model(colorTypeOption +
                     "*OpenUI *Odd: PickOne\n*DefaultOdd: Gone\n*Odd 1: \"\"\n*CloseUI: *Odd\n");
         const QString odd = u"Odd"_s;
-        model->markChoiceForOption(1, odd); // no string
+        model->markChoiceForOption(1, odd); // not a string
         model->markChoiceForOption(u"1"_s, QVariant());
-        model->markChoiceForOption(colorType, mono); // the wrong way round
+        model->markChoiceForOption(colorType, mono); // arguments in the wrong order
         QCOMPARE(model->markedChoiceForOption(colorType)->choice, u"Auto"_s);
         QVERIFY(!model->markedChoiceForOption(odd));
         QVERIFY(!model->defaultChoiceForOption(odd));
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QVERIFY(model->modelname().isNull());
         QVERIFY(model->localizedOptionNameWithBundle(paper, nullptr).isNull());
         QCOMPARE(model->valuesForAttribute(u"Note"_s), QStringList{u"whole"_s});
-        QCOMPARE(model->choicesForOption(paper)->size(), 3); // the keywords are sound
+        QCOMPARE(model->choicesForOption(paper)->size(), 3); // the keywords are valid
         QCOMPARE(model->choicesWithValuesForOptionOrder(paper, nullptr)->size(), 1);
         TestBundle files; // has a text for one of the two
         files.writeStrings(u"en"_s, u"Localizable"_s, {{u"Paper:Card"_s, u"Thick"_s}});
@@ -169,7 +169,7 @@ private Q_SLOTS:
         const auto localized = model->localizedChoicesForOptionWithBundle(paper, bundle.get());
         QCOMPARE(localized.value(),
                  (QList<QVPPDChoice_M880>{{u"Plain"_s, u"Plain paper"_s}, {u"Card"_s, u"Thick"_s}}));
-        model->markChoiceForOption(u"Bond"_s, paper); // a mark is no less one for its text
+        model->markChoiceForOption(u"Bond"_s, paper); // can be marked without a text
         QCOMPARE(model->markedChoiceForOption(paper).value(), (QVPPDChoice_M880{u"Bond"_s, QString()}));
     }
 

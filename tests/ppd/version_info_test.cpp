@@ -20,7 +20,7 @@ private Q_SLOTS:
         {
             QString text;
             std::array<int, 3> parts;
-            QString reformatted; // null where the text is no version
+            QString reformatted; // null if the text is not a version
         };
         const Case cases[]{
             {u"10"_s, {10, 0, 0}, u"10.0.0"_s},
@@ -52,8 +52,8 @@ private Q_SLOTS:
     void compares()
     {
         const std::tuple<QString, QString, int> cases[]{
-            {u"1.1"_s, u"1.01"_s, 0}, // precision does not count
-            {u"1.10"_s, u"1.9"_s, 1}, // whole numbers, not decimals
+            {u"1.1"_s, u"1.01"_s, 0}, // precision is ignored
+            {u"1.10"_s, u"1.9"_s, 1}, // integers, not decimals
             {u"9.9.9"_s, u"10.0"_s, -1}, {u"1.2.3"_s, u"1.2.4"_s, -1}, {u"1"_s, u"1.0.0"_s, 0},
         };
         for (const auto &[left, right, order] : cases) {

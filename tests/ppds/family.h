@@ -13,7 +13,7 @@
 #include <array>
 #include <memory>
 
-// One printing model: its PPD and the facts by which the options of the panels differ.
+// One model: its PPD and the features that affect the options of the panels.
 struct FamilyModel
 {
     const char *file;
@@ -48,7 +48,7 @@ inline QString familyPath(const FamilyModel &model)
     return buildPath("/ppds/%1.ppd").arg(QLatin1StringView(model.file));
 }
 
-// Null when libcups cannot read it.
+// Null if libcups cannot read it.
 inline PpdFile openFamilyPpd(const FamilyModel &model)
 {
     return PpdFile(ppdOpenFile(familyPath(model).toLocal8Bit().constData()));

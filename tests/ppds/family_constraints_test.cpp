@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Choices of one option, with the names the table takes.
+// The choices of one option, with the names used in the table.
 struct Option
 {
     ppd_option_t *record;
@@ -28,8 +28,8 @@ std::vector<Option> optionsOf(ppd_file_t *ppd)
     for (const ppd_group_t &group : std::span(ppd->groups, size_t(ppd->num_groups))) {
         for (ppd_option_t &record : std::span(group.options, size_t(group.num_options))) {
             Option option{&record, QString::fromUtf8(record.keyword), {}};
-            // libcups lets PageRegion stand for PageSize in every constraint; it is a second name, not a
-            // choice of the user's, and no program offers it.
+            // In constraints libcups treats PageRegion as PageSize; it is a second name, not a choice of the
+            // user, and no program offers it.
             if (option.keyword == u"PageRegion"_s)
                 continue;
             for (const ppd_choice_t &choice : std::span(record.choices, size_t(record.num_choices)))
@@ -48,7 +48,7 @@ bool isConstrained(const ppd_file_t *ppd, const Option &option)
     });
 }
 
-// libcups can exchange the mark of one option, at the price of a full check, but remove only all marks.
+// libcups can replace the mark of one option, which includes a full check, but can only remove all marks.
 void unmark(ppd_file_t *ppd, const Option &option)
 {
     for (ppd_choice_t &choice : std::span(option.record->choices, size_t(option.record->num_choices))) {
@@ -56,7 +56,7 @@ void unmark(ppd_file_t *ppd, const Option &option)
             cupsArrayRemove(ppd->marked, &choice);
         choice.marked = 0;
     }
-    // Constraints on the page size look here.
+    // Constraints on the page size use this field.
     if (option.keyword == u"PageSize"_s) {
         for (ppd_size_t &size : std::span(ppd->sizes, size_t(ppd->num_sizes)))
             size.marked = 0;
@@ -65,7 +65,7 @@ void unmark(ppd_file_t *ppd, const Option &option)
 
 } // namespace
 
-// The table must forbid exactly the pairs of choices that libcups reports as a conflict when both are marked.
+// The table must forbid exactly the pairs of choices for which libcups reports a conflict if both are marked.
 class FamilyConstraintsTest : public QObject
 {
     Q_OBJECT
@@ -94,8 +94,8 @@ void FamilyConstraintsTest::compare(ppd_file_t *ppd, const ConstraintTable &tabl
         ppdMarkOption(ppd, first.record->keyword, choice1.toUtf8().constData());
         for (const Option &second : others) {
             for (const QString &choice2 : second.choices) {
-                // Nothing else is marked, so every conflict is this pair's. The call ends with the full check
-                // and answers what ppdConflicts would.
+                // Nothing else is marked, so every conflict is caused by this pair. The call ends with the
+                // full check and returns the result of ppdConflicts.
                 const bool conflict =
                     ppdMarkOption(ppd, second.record->keyword, choice2.toUtf8().constData()) > 0;
                 forbidden += conflict;
@@ -126,8 +126,8 @@ void FamilyConstraintsTest::agreesWithLibcups()
         compare(ppd.get(), table, options[i], std::span(options).subspan(i + 1), forbidden);
     if (QTest::currentTestFailed())
         return;
-    // ppdc writes each line of the source in both directions, and no line of ours says the same twice. So the
-    // pairs found are all there are.
+    // ppdc writes each line of the source in both directions, and the sources contain no duplicates. So these
+    // pairs are complete.
     QCOMPARE(forbidden * 2, ppd->num_consts);
 }
 

@@ -85,8 +85,8 @@ QList<ServedOption> colorOptions(const FamilyModel &model)
     return list;
 }
 
-// Every text a user reads, in PPD order, localised by libcups for that locale ("en": as the PPD has it).
-// libcups keeps its language for the life of a thread, so each reading has a thread of its own.
+// All localised texts in PPD order, as returned by libcups for a locale ("en": the PPD's own texts). libcups
+// keeps its language for the lifetime of a thread, so each call uses a new thread.
 QStringList textsOf(const FamilyModel &model, const char *locale)
 {
     QStringList texts;
@@ -99,7 +99,7 @@ QStringList textsOf(const FamilyModel &model, const char *locale)
         for (const ppd_group_t &group : std::span(ppd->groups, size_t(ppd->num_groups))) {
             texts.append(QString::fromUtf8(group.text));
             for (const ppd_option_t &option : std::span(group.options, size_t(group.num_options))) {
-                // The second name of PageSize is shown by no program, and ppdc does not translate it.
+                // No program shows the second name of PageSize, and ppdc does not translate it.
                 if (qstrcmp(option.keyword, "PageRegion") == 0)
                     continue;
                 texts.append(QString::fromUtf8(option.text));
@@ -153,7 +153,7 @@ private:
 
 void FamilyPpdsTest::initTestCase()
 {
-    // libcups asks the environment for the language only while the process has set no locale.
+    // libcups reads the language from the environment only if the process has set no locale.
     std::setlocale(LC_ALL, "C");
 }
 
@@ -212,7 +212,7 @@ void FamilyPpdsTest::namesDiffer()
         QCOMPARE(QByteArray(ppd->pcfilename).toLower(), QByteArray(model.file) + ".ppd");
         QVERIFY2(qstrlen(model.file) <= 8, model.file);
     }
-    // Each model that was built stands in the table, so that the tests look at it.
+    // Each built model must be in the table, so that it is tested.
     QCOMPARE(QDir(QFileInfo(familyPath(family.front())).path()).entryList({u"*.ppd"_s}).size(),
              qsizetype(family.size()));
     QCOMPARE(fileNames.size(), qsizetype(family.size()));
@@ -242,7 +242,8 @@ void FamilyPpdsTest::isTranslated()
         QVERIFY(!english.isEmpty());
         QCOMPARE(localized.size(), english.size());
         for (qsizetype i = 0; i < english.size(); ++i) {
-            // Bare numbers are the same everywhere. Texts cut to libcups's sizes show up as a difference.
+            // Plain numbers are not translated. Texts truncated to libcups's field sizes are reported as a
+            // difference.
             const QString expected = hasLetter(english[i]) ? entries.value(english[i]) : english[i];
             QVERIFY2(!expected.isEmpty(), qPrintable(u"no %1 text for \"%2\""_s.arg(language, english[i])));
             QCOMPARE(localized[i], expected);
@@ -256,7 +257,7 @@ void FamilyPpdsTest::catalogsHoldNothingStale()
     for (const FamilyModel &model : family) {
         for (const QString &text : textsOf(model, "en")) {
             used.insert(text);
-            // In a PPD that declares a Latin encoding, English stays within what every encoding shares.
+            // In a PPD that declares a Latin encoding, English texts must be ASCII.
             QVERIFY2(std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; }),
                      qPrintable(text));
         }

@@ -10,7 +10,7 @@
 #include <memory>
 #include <sys/prctl.h>
 
-// A server that a test runs: in the foreground, ended with the test whatever becomes of it.
+// A server started by a test; it runs in the foreground and ends with the test in any case.
 struct ChildProcessStopper
 {
     void operator()(QProcess *process) const
@@ -24,8 +24,7 @@ struct ChildProcessStopper
 };
 using ChildProcess = std::unique_ptr<QProcess, ChildProcessStopper>;
 
-// Starts a program and waits until it has written `readyText`. Null, with its output in `error`, when it does
-// not.
+// Starts a program and waits until it has written `readyText`. Null on failure, with its output in `error`.
 inline ChildProcess startChildProcess(const QString &program, const QStringList &arguments,
                                       const QByteArray &readyText, QString *error, int milliseconds = 15000,
                                       QIODevice::OpenMode mode = QIODevice::ReadOnly)

@@ -11,8 +11,7 @@
 #include <algorithm>
 #include <chrono>
 
-// Beats in the event loop of the thread that it lives on, and tells the longest time, for that thread,
-// without a beat.
+// Ticks in the event loop of its thread, and measures the longest time, for that thread, without a tick.
 class Heartbeat : public QObject
 {
     Q_OBJECT
@@ -24,14 +23,14 @@ public:
         start();
     }
 
-    // Begins anew, as after something that the test does itself.
+    // Restarts the measurement, for example after an action of the test itself.
     void start()
     {
         m_longest = 0;
         m_clock.restart();
         m_timer.start(std::chrono::milliseconds(5));
     }
-    // In milliseconds, with the time since the last beat.
+    // In milliseconds, including the time since the last tick.
     qint64 longestGap()
     {
         beat();

@@ -123,7 +123,7 @@ QStringList HostileProgram::damage() const
     }
     for (const QString &left :
          QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
-        if (left != u"home"_s && !left.startsWith(u"runtime-"_s)) // Qt's, for want of XDG_RUNTIME_DIR
+        if (left != u"home"_s && !left.startsWith(u"runtime-"_s)) // created by Qt without XDG_RUNTIME_DIR
             found.append(left);
     }
     for (const QString &name : made) {

@@ -9,22 +9,22 @@
 #include <QString>
 #include <QStringList>
 
-// A user's files, sockets and processes, and programs and documents that are after them. All of it lies in a
-// folder that becomes the one for temporary files, since that is where programs may write.
+// A user's files, sockets and processes, and programs and documents that try to access them. All of them are
+// in a folder that becomes the folder for temporary files, since programs may write there.
 class HostileProgram
 {
 public:
-    // The folder is there and empty; the object sets TMPDIR for this process.
+    // The folder must exist and be empty; the constructor sets TMPDIR for this process.
     explicit HostileProgram(const QString &folder);
     ~HostileProgram();
 
-    // A stand-in for a program, which becomes the real one when all it tries has been refused.
+    // Creates a replacement for a program, which executes the real one if all its attempts were refused.
     void standIn(const QString &path, const QString &real) const;
-    // One page in PostScript, and another one in front when anything that it tries has not been refused.
+    // One page in PostScript, preceded by another page if any of its attempts was not refused.
     QByteArray postScript() const;
-    // What is not as it was, or was left behind; empty when all is well.
+    // Describes changes and leftovers; empty if there are none.
     QStringList damage() const;
-    // Puts everything back, and ends what was left behind.
+    // Restores the original state, and ends remaining processes.
     void putBack();
 
 private:

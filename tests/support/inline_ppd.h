@@ -10,16 +10,16 @@
 
 struct ppd_file_s;
 
-// A PPD that a test writes out itself, opened by libcups with its defaults marked. The record lives as long
-// as the object. The body is what follows the first lines that every PPD has.
+// A PPD defined in a test, opened by libcups with its defaults marked. The record lives as long as the
+// object. The body follows the header that is common to all PPDs.
 class InlinePpd
 {
 public:
     explicit InlinePpd(const QByteArray &body);
 
-    // Null when libcups refuses the text.
+    // Null if libcups rejects the text.
     ppd_file_s *get() const { return m_ppd.get(); }
-    // Takes every mark away, those of the defaults too.
+    // Removes all marks, including those of the defaults.
     void unmarkAll();
 
 private:

@@ -6,7 +6,7 @@
 #include <QString>
 
 // Absolute paths in the source folder and in the build folder; the relative path begins with a slash. The
-// environment variable KELMAR_TEST_BUILD names another build folder. Only one source has the folders compiled
-// in, so that the compiler cache serves the tests of every clone.
+// environment variable KELMAR_TEST_BUILD selects another build folder. Only one source has the folders
+// compiled in, so that all clones can share the compiler cache.
 QString sourcePath(const char *relative);
 QString buildPath(const char *relative);

@@ -10,11 +10,11 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-// An avahi-daemon and its message bus, in a network of the process's own whose machine is orb-m880.local.
-// They go with the object.
+// An avahi-daemon and its message bus in a private network, for the machine orb-m880.local. They end with the
+// object.
 struct PrivateBonjour
 {
-    // Null, or why it cannot be done here. `hosts` takes the place of /etc/hosts.
+    // Null on success, or why it is not possible here. `hosts` replaces /etc/hosts.
     QString start(const QString &hosts)
     {
         qputenv("PATH", qgetenv("PATH") + ":/usr/sbin");
@@ -55,7 +55,7 @@ struct PrivateBonjour
     QString busPath() const { return folder.filePath(QStringLiteral("bus")); }
 
     QTemporaryDir folder;
-    ChildProcess bus, daemon; // ended in the opposite order
+    ChildProcess bus, daemon; // stopped in reverse order
 
 private:
     QString write(const char *name, const QString &text) const

@@ -27,7 +27,7 @@ namespace {
 
 const QString script = sourcePath("/scripts/lib/private-cupsd.sh");
 constexpr int startTime = 10000; // milliseconds; the server takes about 100
-constexpr int stopTime = 10000;  // about 2000, as cupsd looks for signals once a second
+constexpr int stopTime = 10000;  // about 2000, since cupsd checks for signals once a second
 constexpr int clientTime = 10000;
 
 struct HttpClose
@@ -181,7 +181,7 @@ QList<int> PrivateCupsd::capturedJobs() const
 template <typename Condition>
 bool PrivateCupsd::waitForCapture(Condition arrived, int milliseconds) const
 {
-    // The watch begins before the first look, so an arrival in between is not missed.
+    // Starts watching before the first check, so that no arrival in between is missed.
     QFileSystemWatcher watcher({jobsFolder()});
     const QDeadlineTimer deadline(milliseconds);
     while (!arrived()) {

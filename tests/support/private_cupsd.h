@@ -13,23 +13,22 @@
 
 #include <optional>
 
-// One job as it arrived at a printer.
+// One job as received by a printer.
 struct CapturedJob
 {
     int id = 0;
     QString user;
     QString title;
     int copies = 0;
-    QString optionText;             // argv[5] as it stood
-    QMap<QString, QString> options; // the same, read as filters read it: a Boolean is "true" or "false"
+    QString optionText;             // argv[5], unparsed
+    QMap<QString, QString> options; // the same, parsed as in filters: a Boolean is "true" or "false"
     QString deviceUri;
-    QByteArray data; // what the printer would have received
+    QByteArray data; // the data for the printer
 };
 
-// A real cupsd in a temporary folder, driven through scripts/lib/private-cupsd.sh. Its queues keep their jobs
-// instead of sending them, whatever their device URI says. The object owns server and folder: both go with
-// it, and the server goes even when the test program dies. Needs an event dispatcher (a Qt Test main has
-// one).
+// A real cupsd in a temporary folder, controlled through scripts/lib/private-cupsd.sh. Its queues store their
+// jobs instead of sending them, whatever their device URI. The object owns server and folder, which end with
+// it; the server also ends if the test program crashes. Needs an event dispatcher (a Qt Test main has one).
 class PrivateCupsd
 {
 public:
@@ -38,14 +37,14 @@ public:
     PrivateCupsd(const PrivateCupsd &) = delete;
     PrivateCupsd &operator=(const PrivateCupsd &) = delete;
 
-    // Why tests that need a server cannot run here, for QSKIP; empty when they can.
+    // Why tests that need a server cannot run here, for QSKIP; empty if they can.
     static QString missing();
 
-    // Starts the server, or starts it again on the same folder: queues and numbering are kept. True once it
-    // answers; otherwise problem() says why. From then on this process (and its children) talks to this
+    // Starts the server, possibly again with the same folder: queues and job numbers are kept. True when it
+    // responds; otherwise problem() returns the reason. From then on this process and its children use this
     // server.
     bool start();
-    // Returns when the server is gone. Connections to it are closed; calls fail until it is started again.
+    // Returns when the server has exited. Connections to it are closed; calls fail until it is started again.
     void stop();
     bool isRunning() const;
     qint64 processId() const { return m_server.processId(); }
@@ -53,26 +52,26 @@ public:
 
     // For CUPS_SERVER.
     QString socketPath() const;
-    // Where a process of its own may keep its files; removed with the object.
+    // A folder for files of other processes; removed with the object.
     QString folder() const { return m_folder.path(); }
 
-    // A queue that accepts jobs. Without a PPD file the queue is raw, as another maker's printer may be.
-    // Schemes: capture, socket, ipp, ipps, lpd, http, https, usb, dnssd; no address is ever contacted by the
-    // server.
+    // Adds a queue that accepts jobs. Without a PPD file the queue is raw, as for an unsupported printer.
+    // Schemes: capture, socket, ipp, ipps, lpd, http, https, usb, dnssd; the server never contacts any
+    // address.
     bool addQueue(const QString &name, const QString &ppdFile,
                   const QString &deviceUri = QStringLiteral("capture:/"));
     bool setDefaultQueue(const QString &name);
-    // A default that an administrator gives a queue, such as "sides" or "media".
+    // Sets an administrator's default of a queue, such as "sides" or "media".
     bool setJobDefault(const QString &queue, const QString &option, const QString &value);
-    // A rejecting queue takes no new jobs; a paused one takes and keeps them.
+    // A rejecting queue accepts no new jobs; a paused one accepts and keeps them.
     bool setAccepting(const QString &name, bool accepting);
     bool setPaused(const QString &name, bool paused);
 
-    // The job with this number (any number of times), or the first that neither call has handed out yet;
-    // nothing when it has not been captured within the time.
+    // The job with this number (any number of times), or the first job that neither function has returned
+    // yet; null if it is not captured in time.
     std::optional<CapturedJob> waitForJob(int id, int milliseconds = 15000);
     std::optional<CapturedJob> waitForNextJob(int milliseconds = 15000);
-    // Of the jobs captured so far, in ascending order.
+    // The numbers of captured jobs, in ascending order.
     QList<int> capturedJobs() const;
 
 private:

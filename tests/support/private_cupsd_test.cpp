@@ -15,7 +15,7 @@ namespace {
 const QString ppd = buildPath("/ppds/kelm880.ppd");
 const QByteArray document = sourcePath("/demo/report.ps").toUtf8();
 
-// The job's number, 0 when the server did not take it.
+// The number of the job, 0 if the server rejected it.
 int print(const char *queue, const QMap<QByteArray, QByteArray> &options = {})
 {
     cups_option_t *list = nullptr;
@@ -74,7 +74,7 @@ void PrivateCupsdTest::optionsArriveAsChosen()
     QCOMPARE(job->options.value(u"BlankPage"_s), u"false"_s);
     QCOMPARE(job->options.value(u"com.kelmar.pde.advancedcolorsettings.rgb-source"_s), u"3"_s);
     QCOMPARE(job->options.value(u"note"_s), u"a b"_s);
-    // The filters wrote the PPD's code for what was chosen and for the defaults.
+    // The filters wrote the PPD's code for the selected choices and for the defaults.
     for (const char *code :
          {"<</KelmarPrintMode/Private>>kelmarset", "<</KelmarPasswordDigit1 1>>kelmarset",
           "<</KelmarDepartmentCode true>>kelmarset", "<</Duplex true/Tumble true>>setpagedevice",

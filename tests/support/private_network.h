@@ -8,10 +8,10 @@
 
 #include <utility>
 
-// Moves the calling thread, and the threads and processes it starts from now on, into a network of its own
-// with nothing but a loopback interface: port 161 is free, and no name look-up or packet leaves. Needs root,
-// or a process of one thread where user namespaces are allowed. Null, or why it cannot be done.
+// Moves the calling thread, and the threads and processes that it starts afterwards, into a private network
+// with only a loopback interface: port 161 is free, and no name look-up or packet leaves it. Needs root, or a
+// process with one thread if user namespaces are allowed. Null on success, or why it is not possible.
 QString enterPrivateNetwork();
-// The same and a mount namespace of its own, for programs with fixed paths: each first file takes the place
-// of the second, and the folder `emptied` is an empty one.
+// The same with a mount namespace, for programs with fixed paths: each first file replaces the second, and
+// the folder `emptied` is empty.
 QString enterPrivateNetworkWithFiles(const QList<std::pair<QString, QString>> &files, const QString &emptied);

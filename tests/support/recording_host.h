@@ -11,8 +11,7 @@
 #include <utility>
 #include <vector>
 
-// A dialog host of the older kind: job settings, a session, a PPD, and a count of how often it was asked for
-// that.
+// An older dialog host: job settings, a session, a PPD, and the number of requests for them.
 class RecordingHost : public platform::PrintDialogHost
 {
 public:
@@ -28,7 +27,7 @@ public:
     int ppdRequests = 0;
 };
 
-// A host that takes part in constraint resolution and can show that it waits; keeps what it is told, in
+// A host that takes part in constraint resolution and can show that it waits; records its notifications in
 // order.
 class ResolvingRecordingHost : public RecordingHost,
                                public platform::ConstraintResolvingHost,
@@ -44,7 +43,7 @@ public:
     void panelFailed(const QString &className, const QString &reason) override;
 
     std::vector<std::pair<QString, QVariant>> told;
-    // Called, when set, each time before `told` grows.
+    // If set, called before each addition to `told`.
     std::function<void(const QString &keyword)> onTold;
     QStringList blockingWork;
     QStringList failedPanels; // "class: reason"

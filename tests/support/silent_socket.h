@@ -10,7 +10,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-// A UDP port that takes questions and answers none, while the object lives.
+// A UDP port that receives requests and answers none, during the lifetime of the object.
 class SilentSocket
 {
 public:

@@ -9,11 +9,11 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-// simulator/snmpd.sh on port 161 of a loopback address, for the length of an object's life.
+// Runs simulator/snmpd.sh on port 161 of a loopback address during the lifetime of the object.
 class SimulatedPrinter
 {
 public:
-    // `device` is the text of a device file, as simulator/orbm880.device.
+    // `device` is the contents of a device file, such as simulator/orbm880.device.
     SimulatedPrinter(const char *address, const QByteArray &device)
     {
         const QString path = m_folder.filePath(QStringLiteral("test.device"));

@@ -9,8 +9,8 @@
 #include <QFile>
 #include <QTest>
 
-// stalling_proxy.py before a print server, for the length of an object's life. Commands and answers go
-// through the event loop: what is measured in it goes on.
+// Runs stalling_proxy.py in front of a print server during the lifetime of the object. Commands and answers
+// are processed in the event loop, so that a measurement continues.
 class StallingProxy
 {
 public:
@@ -26,7 +26,7 @@ public:
 
     bool isRunning() const { return m_process != nullptr; }
     QString socketPath() const { return m_socketPath; }
-    // False when it is not confirmed.
+    // False if it is not confirmed.
     bool command(const QByteArray &line)
     {
         m_said.clear();

@@ -14,9 +14,9 @@
 
 #include <memory>
 
-// A bundle folder of its own that goes with the object. It begins with a complete Info.json of "libTest.so"
-// and with no layouts, strings or code. Writing fails loudly (qFatal), as no test can go on without its
-// files.
+// A bundle folder that is removed with the object. Initially it has a complete Info.json for "libTest.so",
+// and no layouts, strings or code. A failure to write is fatal (qFatal), since no test can continue without
+// its files.
 class TestBundle
 {
 public:
@@ -25,7 +25,7 @@ public:
     QString folder() const;
     // Changes one key of Info.json; an undefined value removes it.
     void setInfo(const QString &key, const QJsonValue &value);
-    // A file of the bundle, with the folders on the way to it.
+    // Writes a file of the bundle, and creates its parent folders.
     void writeFile(const QString &path, const QByteArray &contents);
     void copyFile(const QString &from, const QString &path);
     // Designer form layouts/NAME.ui of class NAME: a QWidget "view" with `widgets` (XML of <widget> elements)
@@ -34,7 +34,7 @@ public:
     // strings/Test_LANGUAGE.qm with texts of one context.
     void writeStrings(const QString &language, const QString &context, const QMap<QString, QString> &texts);
 
-    // The bundle as the host would open it; fatal when it does not open.
+    // Opens the bundle like the host; fatal if it cannot be opened.
     std::shared_ptr<platform::Bundle> open(const QLocale &locale = QLocale(QLocale::English)) const;
 
 private:

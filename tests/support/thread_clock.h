@@ -13,8 +13,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-// Time that passes for the thread that made the clock. Time in which the thread could have run, but other
-// programs had the processor, is not counted.
+// Measures time from the point of view of the thread that created the clock: time in which the thread could
+// have run, but other programs used the processor, is excluded.
 class ThreadClock
 {
 public:
@@ -33,12 +33,12 @@ public:
         m_clock.start();
         m_kept = waitedForProcessor();
     }
-    // Since the clock was made or restarted.
+    // Since the clock was created or restarted.
     qint64 nanoseconds() const { return m_clock.nsecsElapsed() - (waitedForProcessor() - m_kept); }
     qint64 milliseconds() const { return nanoseconds() / 1'000'000; }
 
 private:
-    // Nanoseconds since the thread began: the second of three numbers.
+    // Nanoseconds since the thread started: the second of three numbers.
     qint64 waitedForProcessor() const
     {
         std::array<char, 80> text{};

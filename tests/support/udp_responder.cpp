@@ -41,7 +41,7 @@ QByteArray tlv(unsigned char tag, const QByteArray &content, qsizetype announced
     return out + content;
 }
 
-// Takes one element with a short length off the front.
+// Removes one element with a short length from the front.
 QByteArray take(QByteArray &from)
 {
     const qsizetype length = from.size() < 2 ? 0 : static_cast<unsigned char>(from.at(1));

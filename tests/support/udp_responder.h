@@ -10,7 +10,7 @@
 #include <functional>
 #include <thread>
 
-// The response to an SNMP request of one variable; a test changes what it wants to be wrong.
+// The response to an SNMP request for one variable; a test changes the parts that should be invalid.
 struct SnmpReply
 {
     static constexpr unsigned char integer = 0x02, octetString = 0x04, noSuchInstance = 0x81;
@@ -21,19 +21,19 @@ struct SnmpReply
     QByteArray encoded() const;
 
     QByteArray version, community, requestId;
-    QByteArray oid; // as encoded, without tag and length
+    QByteArray oid; // encoded, without tag and length
     char errorStatus = 0;
     unsigned char type = noSuchInstance;
     QByteArray value;
-    qsizetype announcedLength = -1; // written as the value's length, unless negative
-    QByteArray instead;             // sent instead of all this, unless null
+    qsizetype announcedLength = -1; // written as the length of the value, unless negative
+    QByteArray instead;             // sent instead of everything else, unless null
     const char *from = nullptr;     // another loopback address to send it from
 };
 using SnmpReplies = QList<SnmpReply>;
 
-// A device on UDP port 161 of a loopback address that answers as the test says, in a thread of its own. Lives
-// as long as the object. The handler runs in that thread, is given "no such instance" and gives what is to be
-// sent.
+// A device on UDP port 161 of a loopback address whose responses are defined by the test, on its own thread.
+// Lives as long as the object. The handler runs on that thread, receives a "no such instance" response, and
+// returns the response to send.
 class UdpResponder
 {
 public:
@@ -44,7 +44,7 @@ public:
     UdpResponder(const UdpResponder &) = delete;
     UdpResponder &operator=(const UdpResponder &) = delete;
 
-    // Datagrams that arrived.
+    // Number of datagrams received.
     int requestCount() const { return m_requestCount; }
 
 private:
