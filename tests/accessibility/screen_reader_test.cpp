@@ -12,13 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The system's own, which finds the system's packages; another may come first in the path.
+// The system's Python, which has the system's packages; another may come first in the path.
 const QString python = u"/usr/bin/python3"_s;
 
 } // namespace
 
-// A whole job as somebody works it who sees nothing of the window: over the accessibility bus, on a display,
-// a bus and a print server of the test's own.
+// Prints a job as a blind user does: over the accessibility bus, on a private display, bus and print server.
 class ScreenReaderTest : public QObject
 {
     Q_OBJECT

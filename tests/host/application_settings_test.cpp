@@ -11,7 +11,8 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// What applications send becomes the start of a dialog, and what was decided there goes back to them.
+// Settings of applications become the initial settings of a dialog, and the user's choices are returned to
+// them.
 class ApplicationSettingsTest : public QObject
 {
     Q_OBJECT
@@ -112,7 +113,7 @@ void ApplicationSettingsTest::whatComesBack()
     QCOMPARE(back.value("printer"_L1).toString(), u"office"_s);
     QCOMPARE(back.value("output-file-format"_L1).toString(), u"ps"_s);
     QCOMPARE(back.value("x-own"_L1).toString(), u"kept"_s);
-    session->general().part = GeneralSettings::Part::Selection; // which the application makes
+    session->general().part = GeneralSettings::Part::Selection; // produced by the application
     const QJsonObject part = settingsForApplication(sent, choiceForApplication(*session, {}));
     QCOMPARE(part.value("print-pages"_L1).toString(), u"selection"_s);
     QVERIFY(!part.contains("page-ranges"_L1));
@@ -200,7 +201,7 @@ void ApplicationSettingsTest::privatePrintingWithoutACode_data()
     QTest::newRow("not private") << QJsonObject{{u"cups-PrintMode"_s, u"Normal"_s}} << false;
 }
 
-// The dialog asks for the code that is missing; it knows of it from the session.
+// The dialog asks for the missing code, which the session reports.
 void ApplicationSettingsTest::privatePrintingWithoutACode()
 {
     QFETCH(QJsonObject, settings);
@@ -217,7 +218,7 @@ void ApplicationSettingsTest::privatePrintingWithoutACode()
 void ApplicationSettingsTest::madePagesAreAllPrinted()
 {
     Destination printer = officePrinter();
-    for (const char *wanted : {"", "1-2147483647"}) { // the second one against a default of the queue
+    for (const char *wanted : {"", "1-2147483647"}) { // the second one overrides a default of the queue
         DialogSession session(printer, openPpd(officePpd()));
         session.general().pages = u"2-3"_s;
         QCOMPARE(sentValue(jobOptionsForMadePages(&session), u"page-ranges"_s), QLatin1String(wanted));
@@ -241,7 +242,7 @@ void ApplicationSettingsTest::optionsOfAPrintedJob()
     QCOMPARE(session->ppd()->markedChoice(u"PageSize"_s), u"A3"_s);
     QCOMPARE(session->ppd()->markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
     QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"1"_s}}));
-    const auto once = this->session(); // GTK says so of a single copy, too
+    const auto once = this->session(); // GTK also sends it for a single copy
     beginWith(startingSettings(options, 1), once.get());
     QCOMPARE(once->general().collate, true);
     QCOMPARE(session->takeNotices(), QStringList());

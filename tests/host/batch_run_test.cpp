@@ -124,7 +124,7 @@ void BatchRunTest::settingsKeepTheirOrder()
 
 void BatchRunTest::exitCodes_data()
 {
-    QTest::addColumn<QString>("words"); // FILE stands for the document
+    QTest::addColumn<QString>("words"); // FILE is replaced by the document
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("error");
     QTest::newRow("done") << u"--batch FILE"_s << int(ExitSuccess) << QString();
@@ -156,7 +156,7 @@ void BatchRunTest::exitCodes()
     QCOMPARE(run(words.split(u' ') + QStringList(u"--json"_s)), code);
     QCOMPARE(json()[u"error"_s][u"code"_s].toString(), error);
     QCOMPARE(m_system.submitted.size(), code == ExitSuccess ? 1 : 0);
-    QVERIFY(m_err.data().isEmpty()); // one JSON object says it all
+    QVERIFY(m_err.data().isEmpty()); // everything is in one JSON object
     QCOMPARE(run(words.split(u' ')), code);
     QCOMPARE(m_err.data().isEmpty(), error.isEmpty() && !words.contains(u"--resolve"_s));
 }
@@ -223,7 +223,7 @@ void BatchRunTest::lastWordOfTheUserCounts()
     QStringList all = words.split(u' ', Qt::SkipEmptyParts);
     QCOMPARE(run(QStringList(u"--batch"_s) + all + QStringList(m_document.fileName())), int(ExitSuccess));
     const QList<JobOption> options = m_system.submitted.first().options;
-    // Newer versions of libcups also take a type in "media": "A3,Plain".
+    // Newer versions of libcups also accept a type in "media": "A3,Plain".
     QTEST(sentValue(options, name).section(u',', 0, 0), "sent");
     QSet<QString> names;
     for (const JobOption &option : options) {
@@ -263,7 +263,7 @@ void BatchRunTest::customValues_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("problem"); // null when it is taken
+    QTest::addColumn<QString>("problem"); // null if it is accepted
     QTest::newRow("points") << u"PageSize"_s << u"Custom.300x400"_s << QString();
     QTest::newRow("millimetres") << u"PageSize"_s << u"Custom.100x200.5mm"_s << QString();
     QTest::newRow("no size") << u"PageSize"_s << u"Custom.foo"_s << u"sizes from 72 × 72 to 1000 × 2000 pt"_s;
@@ -302,7 +302,7 @@ void BatchRunTest::customValues()
     }
 }
 
-// From a preset, or from the administrator: whatever stands in the destination's options or in its PPD.
+// Defaults of a preset or the administrator, in the destination's options or in the PPD.
 void BatchRunTest::customDefaultsNobodyTouched()
 {
     m_system.ppds[u"custom"_s].replace("*DefaultDensity: Normal", "*DefaultDensity: Custom.2");
@@ -339,7 +339,8 @@ void BatchRunTest::conflictIsExplainedInJson()
     QCOMPARE(sides.size(), 2);
     QCOMPARE(sides[0][u"optionText"_s].toString(), u"Colour Mode"_s);
     QCOMPARE(sides[1][u"choice"_s].toString(), u"2"_s);
-    QCOMPARE(error[u"proposal"_s][0][u"option"_s].toString(), u"ColorType"_s); // Cyan came last and stays
+    // Cyan was set last and is kept
+    QCOMPARE(error[u"proposal"_s][0][u"option"_s].toString(), u"ColorType"_s);
 }
 
 void BatchRunTest::resolveAcceptsTheProposal()

@@ -26,7 +26,7 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// Presets, marks and undo in the window over a print system without a server, worked with keys and clicks.
+// Presets, marks and undo in the window with a print system without a server, operated with keys and clicks.
 class ChangesTest : public WindowFixture
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private:
     QString marked(const QString &keyword) const { return m_window->session()->ppd()->markedChoice(keyword); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
     {
-        m_window->activateWindow(); // after a dialog, there is no window manager that does it
+        m_window->activateWindow(); // after a dialog, since there is no window manager
         if (!QTest::qWaitForWindowActive(m_window.get()))
             qFatal("the window is not active");
         QWidget *focus = m_window->focusWidget();
@@ -84,7 +84,7 @@ void ChangesTest::init()
 QStringList ChangesTest::menuTexts()
 {
     Q_EMIT presets()->menu()->aboutToShow();
-    settle(); // the files may take longer than the menu waits for them
+    settle(); // reading the files may take longer than the menu waits
     Q_EMIT presets()->menu()->aboutToShow();
     QStringList texts;
     for (const QAction *action : presets()->menu()->actions())
@@ -119,7 +119,7 @@ void ChangesTest::changesAreUndoneAndRedone()
     QCOMPARE(copies->value(), 1);
     undo();
     QCOMPARE(marked(u"Duplex"_s), u"None"_s);
-    undo(); // there is nothing more
+    undo(); // nothing is left to undo
     for (int i = 0; i < 3; ++i)
         redo();
     QCOMPARE(marked(u"Duplex"_s) + marked(u"Sharp"_s), u"DuplexNoTumble1"_s);
@@ -140,7 +140,7 @@ void ChangesTest::resolutionIsOneStep()
     const QString resolved = marked(u"Cyan"_s) + marked(u"ColorType"_s);
     undo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"2Mono"_s);
-    QVERIFY(window.messageBar()->isShowing()); // the conflict is back
+    QVERIFY(window.messageBar()->isShowing()); // the conflict appears again
     redo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), resolved);
     QVERIFY(!window.messageBar()->isShowing());
@@ -170,7 +170,7 @@ void ChangesTest::fieldKeepsItsOwnUndo()
     copies->setValue(2);
     settle();
     find<QWidget>(u"multiple-document-handling"_s)->setFocus();
-    undo(); // leaves nothing to collate
+    undo(); // leaves a single copy
     QVERIFY(copies->hasFocus());
 }
 
@@ -178,7 +178,7 @@ void ChangesTest::markTakesTheChangeBack()
 {
     PrintWindow &window = open();
     QVERIFY(marks().isEmpty());
-    PrintError error; // by a standard name, as -o does
+    PrintError error; // by a standard name, like -o
     QVERIFY(host::choose(window.session(),
                          {u"sides"_s, u"two-sided-long-edge"_s, ChosenSetting::Kind::JobOption}, &error));
     Q_EMIT window.session()->changed();
@@ -186,7 +186,7 @@ void ChangesTest::markTakesTheChangeBack()
     QCOMPARE(marks().size(), 1);
     auto *box = find<QComboBox>(u"Duplex"_s);
     QVERIFY2(box->accessibleDescription().contains(u"“Off”"_s), qPrintable(box->accessibleDescription()));
-    box->setAccessibleDescription(u"Both sides"_s); // as a control does that has something to say
+    box->setAccessibleDescription(u"Both sides"_s); // like a control with a description
     window.book()->showChanges();
     QVERIFY(box->accessibleDescription().contains(u"“Off”"_s));
     QVERIFY(box->accessibleDescription().endsWith(u"Both sides"_s));
@@ -219,7 +219,7 @@ void ChangesTest::panelsControlsAreUndoneAndMarked()
         std::make_unique<FakePanel>(u"Colour"_s, QStringList({u"ColorType"_s, u"Cyan"_s}), window.session());
     FakePanel *panel = made.get();
     panel->onSet = [panel](const QString &key, const QString &choice) {
-        if (key == u"ColorType"_s && choice == u"Mono"_s) // as the real one locks its sliders
+        if (key == u"ColorType"_s && choice == u"Mono"_s) // like the real panel, which locks its sliders
             panel->setValueForKey(u"0"_s, u"Cyan"_s);
     };
     auto *box = new QComboBox(panel->panelView());
@@ -246,10 +246,10 @@ void ChangesTest::panelsControlsAreUndoneAndMarked()
     redo();
     redo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s) + panel->code(), u"0Mono12345"_s);
-    QCOMPARE(panel->restored, 1); // no device is asked for it
+    QCOMPARE(panel->restored, 1); // no device is queried
 }
 
-// While a panel asks its device, the session tells of what has been applied so far.
+// While a panel queries its device, the session reports the settings applied so far.
 void ChangesTest::presetIsOneStepHoweverLongItTakes()
 {
     PrintWindow &window = open();
@@ -314,7 +314,7 @@ void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()
     QTest::keyClick(name, Qt::Key_Return);
     settle();
     QVERIFY2(presets()->text().contains(u"both"_s), qPrintable(presets()->text()));
-    QVERIFY(marks().isEmpty()); // what is saved is what changes are told by
+    QVERIFY(marks().isEmpty()); // changes are shown against the saved preset
     PrintError error;
     QCOMPARE(PresetStore().list(u"office"_s, &error)->value(0).options.value(u"Duplex"_s),
              u"DuplexNoTumble"_s);
@@ -344,11 +344,11 @@ void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()
     }
     settle();
     QVERIFY(!menuTexts().contains(u"duplex"_s));
-    // The settings stay, so they differ from what the printer begins with.
+    // The settings are kept, so they differ from the initial values of the printer.
     QCOMPARE(marked(u"Duplex"_s) + marked(u"PageSize"_s), u"DuplexNoTumbleA3"_s);
     QVERIFY2(presets()->text().contains(u"Defaults (changed)"_s), qPrintable(presets()->text()));
     QCOMPARE(marks().size(), 2);
-    undo(); // a preset that is no more is not come back to
+    undo(); // undo does not return to a deleted preset
     undo();
     redo();
     QVERIFY2(!presets()->text().contains(u"both"_s) && !presets()->text().contains(u"duplex"_s),
@@ -368,7 +368,7 @@ void ChangesTest::lastUsedIsOfferedWithoutCodes()
     m_window->session()->setProtection(protection);
     QVERIFY(!menuTexts().contains(u"Last Used"_s));
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
-    m_window->session()->markChoice(u"Sharp"_s, u"1"_s); // stands for a code
+    m_window->session()->markChoice(u"Sharp"_s, u"1"_s); // represents a code
     printButton()->click();
     settle();
     QCOMPARE(m_system.submitted.size(), 1);

@@ -47,7 +47,7 @@ Outcome run(const QStringList &words, const QByteArray &input = {})
 
 } // namespace
 
-// The program as it is called, with the PPDs of the family and no print server.
+// The program as called by a user, with the PPDs of the family and no print server.
 class CommandLineTest : public QObject
 {
     Q_OBJECT
@@ -94,8 +94,8 @@ void CommandLineTest::values_data()
 {
     QTest::addColumn<QString>("model");
     QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("values");   // some that give the same
-    QTest::addColumn<QByteArray>("error"); // empty when they are taken
+    QTest::addColumn<QString>("values");   // values with the same result
+    QTest::addColumn<QByteArray>("error"); // empty if they are accepted
     const QString advanced = u"advancedColorSettingsManager."_s;
     const QString onOff = advanced + u"applyToDeviceColorOnly"_s;
     const QString intent = advanced + u"renderingIntent"_s;
@@ -162,9 +162,10 @@ void CommandLineTest::valuesFromElsewhere()
             "Mono\r\nPrivate\nrest");
     QCOMPARE(two.code, 0);
     QVERIFY2(two.out.contains("Black and White") && two.out.contains("Private"), two.out.constData());
-    QCOMPARE(run(list + QStringList({u"--set-file"_s, u"ColorType=-"_s})).code, 2);     // there is no line
-    QCOMPARE(run({u"--batch"_s, u"--set-file"_s, u"ColorType=-"_s}, "Mono\n").code, 2); // nor a document
-    // Codes set before are not listed either.
+    // there is no line to read
+    QCOMPARE(run(list + QStringList({u"--set-file"_s, u"ColorType=-"_s})).code, 2);
+    QCOMPARE(run({u"--batch"_s, u"--set-file"_s, u"ColorType=-"_s}, "Mono\n").code, 2); // and no document
+    // Codes that were set before are not listed either.
     const Outcome listed = run({u"--list-options"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"--set"_s,
                                 u"PrintMode=Private"_s, u"--set"_s, u"privatePassword=99999"_s});
     QVERIFY2(listed.out.contains("DINDigit1/") && !listed.out.contains("*9"), listed.out.constData());
@@ -221,7 +222,7 @@ void CommandLineTest::endlessFilesAreRefused()
 
 void CommandLineTest::bundleOfOthersIsNotLoaded_data()
 {
-    QTest::addColumn<QString>("path"); // within the bundle
+    QTest::addColumn<QString>("path"); // in the bundle
     QTest::addColumn<int>("mode");
     QTest::newRow("folder") << u"."_s << 0777;
     QTest::newRow("folder around it") << u".."_s << 0777;
@@ -250,7 +251,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded()
 
 void CommandLineTest::documentsAreConfined_data()
 {
-    QTest::addColumn<bool>("areProgramsHostile"); // else the document is
+    QTest::addColumn<bool>("areProgramsHostile"); // otherwise the document is
     QTest::newRow("document") << false;
     QTest::newRow("programs") << true;
 }
@@ -282,7 +283,7 @@ void CommandLineTest::documentsAreConfined()
     QProcess counter;
     counter.start(u"qpdf"_s, {u"--show-npages"_s, target});
     QVERIFY(counter.waitForFinished());
-    QCOMPARE(counter.readAllStandardOutput().trimmed(), "1"); // more when anything was allowed
+    QCOMPARE(counter.readAllStandardOutput().trimmed(), "1"); // more if any attempt succeeded
 }
 
 void CommandLineTest::nothingReachesTheTerminalRaw()
@@ -327,7 +328,7 @@ void CommandLineTest::policyIsObeyed_data()
            "line 2, column 13: "_ba;
 }
 
-// Without a word that it does not hold no policy is left out, and no broken one keeps anybody from printing.
+// An unknown key disables the whole policy, and an invalid policy does not prevent printing.
 void CommandLineTest::policyIsObeyed()
 {
     QFETCH(QByteArray, policy);

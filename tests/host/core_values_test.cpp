@@ -22,7 +22,7 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// The small things of the core: page ranges, documents, and the PPD as the host sees it.
+// Basic values: page ranges, documents, and the PPD as used by the host.
 class CoreValuesTest : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ private:
 void CoreValuesTest::pageRanges_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("expected"); // null: refused
+    QTest::addColumn<QString>("expected"); // null if refused
     QTest::newRow("nothing is all pages") << u"  "_s << u""_s;
     QTest::newRow("spaces") << u" 1 - 3 , 8 "_s << u"1-3,8"_s;
     QTest::newRow("sorted and merged") << u"8,1-3,2-5,6"_s << u"1-6,8"_s;
@@ -81,7 +81,7 @@ void CoreValuesTest::pageRanges()
 void CoreValuesTest::documents_data()
 {
     QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QString>("format"); // empty: refused as empty
+    QTest::addColumn<QString>("format"); // empty if refused as empty
     QTest::newRow("PDF whatever its name") << QByteArray("%PDF-1.4\n1 0 obj\n") << u"application/pdf"_s;
     QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0\nshowpage\n") << u"application/postscript"_s;
     QTest::newRow("text") << QByteArray("Grüße aus dem Büro\n") << u"text/plain"_s;
@@ -114,19 +114,19 @@ void CoreValuesTest::standardInputIsSpooled()
     QVERIFY(input.open(QIODevice::ReadOnly));
     PrintError error;
     DocumentList list;
-    for (int i = 0; i < 2; ++i) // the second finds the copy
+    for (int i = 0; i < 2; ++i) // the second call uses the copy
         QVERIFY(list.open({u"-"_s}, &input, &error));
     QFile spool(list.documents().first().path);
     QVERIFY(spool.open(QIODevice::ReadOnly));
     QCOMPARE(spool.readAll(), contents);
-    QVERIFY(!DocumentList().open({u"-"_s}, &input, &error)); // at its end
+    QVERIFY(!DocumentList().open({u"-"_s}, &input, &error)); // at end of file
     QCOMPARE(error.kind, PrintError::Kind::EmptyDocument);
 }
 
 void CoreValuesTest::filesWithoutASize_data()
 {
     QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("problem"); // null where it can be printed
+    QTest::addColumn<QString>("problem"); // null if it can be printed
     const QString pipe = m_folder.filePath(u"pipe"_s);
     QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
     QTest::newRow("made when it is read") << u"/proc/self/status"_s << QString();
@@ -195,7 +195,7 @@ void CoreValuesTest::textsOfAPpd_data()
     const QByteArray wide = QByteArrayLiteral("\xe7\x94\xbb");
     QTest::newRow("translated") << QByteArray("Gloss") << QByteArray("Glossy") << u"Glossy"_s;
     QTest::newRow("translation is empty") << QByteArray("Gloss") << QByteArray("") << u"Gloss"_s;
-    // A field of libcups holds 80 bytes.
+    // A field of libcups has 80 bytes.
     QTest::newRow("translation is cut") << QByteArray("Gloss") << wide.repeated(30) << QString(26, u'画');
     QTest::newRow("its own text is cut")
         << "a" + wide.repeated(30) << QByteArray("") << u'a' + QString(26, u'画');
@@ -230,12 +230,12 @@ void CoreValuesTest::conflictNamesBothSidesOnce()
     QVERIFY(ppd->conflicts().isEmpty());
     QVERIFY(ppd->mark(u"ColorType"_s, u"Mono"_s));
     QVERIFY(ppd->mark(u"Cyan"_s, u"2"_s));
-    QCOMPARE(ppd->conflicts().size(), 1); // though the PPD says it in both directions
+    QCOMPARE(ppd->conflicts().size(), 1); // although the PPD contains it in both directions
     const QList<OptionChoice> sides = ppd->conflicts().first().sides;
     QCOMPARE(sides.size(), 2);
     QCOMPARE(sides.at(0).text(), u"Colour Mode: Black and White"_s);
     QCOMPARE(sides.at(1).text(), u"Cyan Balance: Plus 2"_s);
-    // A second one at the same time, of the form that leaves the choice open.
+    // A second conflict at the same time, in the form without a choice.
     QVERIFY(ppd->mark(u"MediaType"_s, u"Thick"_s));
     QCOMPARE(ppd->conflicts().size(), 1);
     QVERIFY(ppd->mark(u"Duplex"_s, u"DuplexNoTumble"_s));
@@ -246,7 +246,7 @@ void CoreValuesTest::conflictNamesBothSidesOnce()
 
 void CoreValuesTest::manyConflictsAreFoundInTime()
 {
-#ifdef __SANITIZE_ADDRESS__ // which makes libcups and the engine dozens of times slower
+#ifdef __SANITIZE_ADDRESS__ // makes libcups and the engine dozens of times slower
     constexpr int options = 40;
 #else
     constexpr int options = 300;

@@ -14,8 +14,8 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// A session with two panels: colour mode in the first; balance and sharpness in the second, which resets the
-// balance and saves itself as soon as the mode goes to monochrome.
+// A session with two panels: color mode in the first; balance and sharpness in the second, which resets the
+// balance and saves itself when the mode becomes monochrome.
 class DialogSessionTest : public QObject
 {
     Q_OBJECT
@@ -93,7 +93,7 @@ void DialogSessionTest::panelsAreRestoredOnceWhenAsked()
     QVERIFY(m_session->takeNotices().isEmpty());
 }
 
-// A printer that is away must cost nothing to somebody who opens another panel.
+// An unreachable printer must not delay users who open another panel.
 void DialogSessionTest::panelsBeforeAnnounceWithoutBeingRestored()
 {
     Destination printer = officePrinter();
@@ -102,10 +102,10 @@ void DialogSessionTest::panelsBeforeAnnounceWithoutBeingRestored()
     m_session->prepare(1);
     QCOMPARE(m_colour->restored, 0);
     QCOMPARE(m_balance->restored, 1);
-    QCOMPARE(m_balance->valueForKey(u"Cyan"_s).toString(), u"0"_s); // it heard of the colour mode
+    QCOMPARE(m_balance->valueForKey(u"Cyan"_s).toString(), u"0"_s); // it was notified of the color mode
     m_session->save();
     QCOMPARE(m_colour->saved, 0);
-    QVERIFY(m_session->markChoice(u"ColorType"_s, u"Auto"_s)); // goes on hearing of it
+    QVERIFY(m_session->markChoice(u"ColorType"_s, u"Auto"_s)); // and continues to be notified
     QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
     m_session->prepare(0);
     QCOMPARE(m_colour->restored, 1);
@@ -119,7 +119,7 @@ void DialogSessionTest::panelsNeverShownKeepTheirSettings()
     m_session->prepare(0);
     m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
     m_session->save();
-    // The reset counts; the sharpness that the panel has never read does not become its default.
+    // The reset is kept; the sharpness, which the panel has never read, does not become its default.
     QCOMPARE(m_session->ppd()->markedChoice(u"Cyan"_s), u"0"_s);
     QCOMPARE(m_session->ppd()->markedChoice(u"Sharp"_s), u"1"_s);
     QCOMPARE(
@@ -137,9 +137,9 @@ void DialogSessionTest::resetByAnotherPanelIsToldAndSent()
     m_session->prepare(1);
     m_balance->setValueForKey(u"2"_s, u"Cyan"_s);
     m_session->save();
-    QVERIFY(m_session->takeNotices().isEmpty()); // the user's own change is none
+    QVERIFY(m_session->takeNotices().isEmpty()); // the user's own change is not reported
     QSignalSpy changed(m_session.get(), &DialogSession::changed);
-    m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s); // as a control does it: nobody calls the session
+    m_colour->setValueForKey(u"Mono"_s, u"ColorType"_s); // like a control, without a call of the session
     QVERIFY(changed.wait());
     QCOMPARE(
         m_session->takeNotices(),
@@ -162,12 +162,12 @@ void DialogSessionTest::resetReachesAPanelThatWasRestored()
 
 void DialogSessionTest::keywordAnnouncedTwiceKeepsItsFirstValue()
 {
-    for (const char *choice : {"1", "2"}) { // between two saves of a panel nobody looks
+    for (const char *choice : {"1", "2"}) { // the state between two saves of a panel does not matter
         m_session->panelHost()->willChangePPDOptionKeyValuePpdChoice(u"Cyan"_s, QLatin1String(choice));
         m_session->ppd()->mark(u"Cyan"_s, QLatin1String(choice));
         m_balance->setValueForKey(QLatin1String(choice), u"Cyan"_s);
     }
-    m_session->ppd()->mark(u"Cyan"_s, u"0"_s); // and in the end all is as it was
+    m_session->ppd()->mark(u"Cyan"_s, u"0"_s); // and finally everything is unchanged
     m_session->save();
     QVERIFY(m_session->takeNotices().isEmpty());
 }
@@ -178,7 +178,8 @@ void DialogSessionTest::savedDefaultsAreSent()
     m_session->prepare(1);
     m_session->save();
     QCOMPARE(sentValue(m_session->jobOptions(), u"Cyan"_s), u"0"_s);
-    QVERIFY(sentValue(m_session->jobOptions(), u"PageSize"_s).isNull()); // no panel's, and the default
+    // not handled by a panel, and the default
+    QVERIFY(sentValue(m_session->jobOptions(), u"PageSize"_s).isNull());
 }
 
 void DialogSessionTest::resolutionReachesPanelsWithoutRestoring()
@@ -193,7 +194,7 @@ void DialogSessionTest::resolutionReachesPanelsWithoutRestoring()
     QCOMPARE(m_session->conflicts().size(), 1);
     const auto proposal = m_session->proposal();
     QVERIFY(proposal);
-    QCOMPARE(proposal->first().option, u"ColorType"_s); // the balance was the last thing the user asked for
+    QCOMPARE(proposal->first().option, u"ColorType"_s); // the balance was changed last
     m_session->apply(*proposal);
     QVERIFY(m_session->conflicts().isEmpty());
     QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
@@ -232,7 +233,7 @@ void DialogSessionTest::keys_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("error"); // part of it; empty when the key takes the value
+    QTest::addColumn<QString>("error"); // a part of it; empty if the key accepts the value
     QTest::newRow("option of a panel") << u"Cyan"_s << u"1"_s << QString();
     QTest::newRow("option of none") << u"Duplex"_s << u"DuplexNoTumble"_s << QString();
     QTest::newRow("whatever the case") << u"Duplex"_s << u"duplexnotumble"_s << QString();
@@ -270,10 +271,10 @@ void DialogSessionTest::refusedValueLeavesNothingBehind()
     SettingKeys keys(m_session.get());
     QVERIFY(keys.set(u"code"_s, u"01230"_s, &problem));
     QVERIFY(!keys.set(u"code"_s, u"777"_s, &problem));
-    QVERIFY(!problem.message.contains(u"777"_s)); // it may be a secret
+    QVERIFY(!problem.message.contains(u"777"_s)); // it may be secret
     QCOMPARE(m_colour->code(), u"01230"_s);
-    QCOMPARE(m_balance->restored, 0); // nobody has asked for that panel
-    // A value may have changed an option before it is found not to fit.
+    QCOMPARE(m_balance->restored, 0); // that panel was not requested
+    // A value may have changed an option before it is found to be invalid.
     m_colour->onSet = {};
     connect(m_colour, &platform::KeyValueObject::valueDidChange, m_colour, [this](const QString &key) {
         if (key == u"code"_s && m_colour->code() == u"99999"_s)
@@ -297,7 +298,7 @@ void DialogSessionTest::secretValueIsNotRepeatedElsewhere()
 void DialogSessionTest::settingsGoFromPrinterToPrinter_data()
 {
     QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QString>("notice"); // of a printer that has none of it
+    QTest::addColumn<QString>("notice"); // of a printer without this setting
     QTest::newRow("choice") << QStringList(u"ColorType=Mono"_s)
                             << u"This printer does not take over: Colour Mode: Black and White."_s;
     QTest::newRow("protection") << QStringList(u"Duplex=DuplexNoTumble"_s)
@@ -371,7 +372,7 @@ void DialogSessionTest::secretSettings_data()
     row("pinned", {}, u"job-pinning"_s, false);
 }
 
-// Without a bundle that tells.
+// Without a bundle that declares secrets.
 void DialogSessionTest::secretSettings()
 {
     QFETCH(QByteArray, options);
@@ -418,7 +419,7 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
 void DialogSessionTest::panelThatCannotBeMadeIsTold()
 {
     platform::PrintDialogHost *const host = m_session->panelHost();
-    auto *problems = dynamic_cast<platform::PanelProblemHost *>(host); // as a plug-in finds it
+    auto *problems = dynamic_cast<platform::PanelProblemHost *>(host); // like a plug-in
     QVERIFY(problems);
     problems->panelFailed(u"Fax"_s, u"Fax.ui is missing"_s);
     QCOMPARE(m_session->takeNotices(),

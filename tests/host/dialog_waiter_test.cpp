@@ -49,7 +49,7 @@ void DialogWaiterTest::init()
     m_giveUp = new QPushButton(QStringLiteral("Do not wait"), m_dialog.get());
     m_giveUp->move(0, 40);
     m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get())); // only then who has the focus hears of it
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get())); // only then focus events are delivered
     m_field->setFocus();
     m_waiter = std::make_shared<DialogWaiter>(m_dialog.get());
     m_waiter->setOpenParts({m_giveUp});
@@ -123,7 +123,7 @@ void DialogWaiterTest::tabLeadsToTheWayOut()
     }));
     QCOMPARE(way, QList<QWidget *>(4, m_giveUp));
     QVERIFY(m_field->text().isEmpty());
-    QTRY_COMPARE(m_dialog->focusWidget(), m_field); // where its user was
+    QTRY_COMPARE(m_dialog->focusWidget(), m_field); // where the user was
 }
 
 void DialogWaiterTest::nothingIsCommittedMeanwhile_data()
@@ -133,7 +133,7 @@ void DialogWaiterTest::nothingIsCommittedMeanwhile_data()
     QTest::newRow("click") << true;
 }
 
-// What a panel hears of an edit that ends comes in the midst of what it does, where it waits.
+// While a panel waits, the end of an edit would be delivered in the middle of its work.
 void DialogWaiterTest::nothingIsCommittedMeanwhile()
 {
     QFETCH(const bool, byMouse);
@@ -153,7 +153,7 @@ void DialogWaiterTest::nothingIsCommittedMeanwhile()
         QVERIFY(!edited.hasFocus());
         m_release->release();
     }));
-    QVERIFY(waitWhile([&] { m_release->release(); })); // the panel goes on
+    QVERIFY(waitWhile([&] { m_release->release(); })); // the panel continues
     QCOMPARE(committed.count() + finished.count(), 0);
     m_waiter->endActivity();
     QCoreApplication::processEvents();
@@ -202,7 +202,7 @@ void DialogWaiterTest::questionGetsItsInput()
     QVERIFY(!question.isVisible());
 }
 
-// Not with the work that was given up, on the thread of that.
+// Does not wait for the abandoned work on its thread.
 void DialogWaiterTest::goesOnItsOwnThread()
 {
     QVERIFY(!waitWhile([this] { m_waiter->giveUp(); }));

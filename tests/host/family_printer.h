@@ -10,7 +10,7 @@
 #include <QFile>
 #include <QTranslator>
 
-// A print system with a printer of the family, as one with a real queue looks; its device nobody asks.
+// A print system with a printer of the family, as for a real queue; its device is never queried.
 class FamilyPrintSystem : public FakePrintSystem
 {
 public:
@@ -32,7 +32,7 @@ public:
     }
 };
 
-// Makes the program speak what a catalog holds for as long as the owner lives; false when it cannot be read.
+// Installs the translations of a catalog for the lifetime of the owner; false if it cannot be read.
 inline bool speakCatalog(const QString &file, QObject *owner)
 {
     auto *translator = new QTranslator(owner);

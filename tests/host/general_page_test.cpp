@@ -30,7 +30,7 @@ const QString report = sourcePath("/demo/report.pdf");
 
 } // namespace
 
-// What the general page sends, and what it knows of the documents.
+// The settings that the general page sends, and its list of documents.
 class GeneralPageTest : public WindowFixture
 {
     Q_OBJECT
@@ -107,8 +107,8 @@ void GeneralPageTest::layoutIsSent_data()
 {
     QTest::addColumn<QMap<QString, QString>>("defaults"); // of the queue
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("value");               // that the user chooses
-    QTest::addColumn<QMap<QString, QString>>("sent"); // null for not at all
+    QTest::addColumn<QString>("value");               // chosen by the user
+    QTest::addColumn<QMap<QString, QString>>("sent"); // null if not sent
     using Map = QMap<QString, QString>;
     QTest::newRow("several") << Map() << u"number-up"_s << u"4"_s << Map{{u"number-up"_s, u"4"_s}};
     QTest::newRow("usual") << Map() << u"number-up"_s << u"1"_s << Map{{u"number-up"_s, {}}};
@@ -186,7 +186,7 @@ void GeneralPageTest::documentIsLeftOut()
 void GeneralPageTest::rangeBeyondTheEnd_data()
 {
     QTest::addColumn<bool>("severalDocuments");
-    QTest::addColumn<QString>("pages"); // what is said
+    QTest::addColumn<QString>("pages"); // the message
     QTest::addColumn<QString>("sides");
     QTest::newRow("one") << false << u"The document has only 2 pages."_s
                          << u"There are only 1 printed sides."_s;
@@ -205,7 +205,7 @@ void GeneralPageTest::rangeBeyondTheEnd()
     openWith(severalDocuments ? QStringList{m_document.fileName(), report} : QStringList(report), {500, 500});
     QVERIFY(!find<PreviewPane>()->isVisible());
     auto *page = find<GeneralPage>();
-    QTRY_VERIFY(find<QWidget>(u"page-set"_s)); // what comes after the first paint
+    QTRY_VERIFY(find<QWidget>(u"page-set"_s)); // created after the first paint
     for (auto *radio : page->findChildren<QRadioButton *>())
         radio->setChecked(radio->text().remove(u'&').contains(u"Range"_s));
     auto *field = find<QLineEdit>(u"page-ranges"_s);
@@ -225,7 +225,7 @@ void GeneralPageTest::rangeBeyondTheEnd()
     }
 }
 
-// On the screen, not only where somebody asks for a picture of it.
+// In the window, and not only when a test requests an image.
 void GeneralPageTest::smallPagesAppear()
 {
     if (!hasPreview())
@@ -267,7 +267,7 @@ void GeneralPageTest::pdfIsWritten()
     QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());
 }
 
-// An application that prints later may call all of its documents the same.
+// An application that prints later may use the same title for all its documents.
 void GeneralPageTest::titleOfALaterDocument()
 {
     PrintTask task;
@@ -282,7 +282,7 @@ void GeneralPageTest::titleOfALaterDocument()
     QTest::keyClicks(field, u"Letter"_s);
     QCOMPARE(window.jobTitle(), u"Letter"_s);
 
-    openWith({report}); // is named itself
+    openWith({report}); // uses its own name
     QTRY_VERIFY(button(u"Save as PDF…"_s));
     QVERIFY(!fieldOf(u"Title:"_s));
 }

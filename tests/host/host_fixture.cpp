@@ -39,7 +39,7 @@ QByteArray customPpd()
     QFile file(sourcePath("/tests/host/custom_values.ppd"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s", qPrintable(file.errorString()));
-    (void)file.readLine(); // openPpd() writes it
+    (void)file.readLine(); // openPpd() adds it
     return file.readAll();
 }
 
@@ -48,7 +48,7 @@ std::unique_ptr<PpdDocument> openPpd(const QByteArray &body)
     QTemporaryFile file;
     if (!file.open())
         return nullptr;
-    // libcups loses the first of two encodings.
+    // libcups ignores the first of two encodings.
     const bool hasEncoding = body.contains("*LanguageEncoding:");
     file.write("*PPD-Adobe: \"4.3\"\n" + QByteArray(hasEncoding ? "" : "*LanguageEncoding: UTF-8\n") + body);
     file.flush();

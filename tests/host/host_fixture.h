@@ -15,16 +15,16 @@
 #include <functional>
 #include <memory>
 
-// A PPD with paper, tray and two-sided printing, colour mode and balance, a code of five digits, and
-// constraints between them. Texts differ from keywords, so that a test sees which one is shown.
+// A PPD with paper, tray and two-sided printing, color mode and balance, a code of five digits, and
+// constraints between them. Texts differ from keywords, so that a test can tell which one is shown.
 QByteArray officePpd();
-// One whose options take sizes, numbers, texts and passwords of the user's own: custom_values.ppd.
+// A PPD whose options accept custom sizes, numbers, texts and passwords: custom_values.ppd.
 QByteArray customPpd();
 std::unique_ptr<host::PpdDocument> openPpd(const QByteArray &body);
 host::Destination officePrinter(const QString &queue = QStringLiteral("office"));
 
-// A panel over some options: pending values, restore and save as the real ones do it, and a code in five
-// digit options.
+// A panel with some options: pending values, restore and save as in the real panels, and a code in five digit
+// options.
 class FakePanel : public platform::KeyValueObject, public platform::PrintDialogPanel
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
 
     QStringList supportedPPDOptionKeys() const { return m_keywords; }
     QString code() { return m_code; }
-    // Raises a range exception for anything shorter than five characters, and cuts anything longer.
+    // Raises a range exception for fewer than five characters, and truncates longer texts.
     void setCode(const QString &code);
 
     QVariant valueForKey(const QString &key) override;
@@ -51,7 +51,7 @@ public:
     bool saveValuesAndReturnError(QString *error) override;
     platform::KeyValueObject *keyValueObject() override { return this; }
 
-    // Runs after each set of an option, as an observing panel would.
+    // Called after each set of an option, like an observing panel.
     std::function<void(const QString &key, const QString &choice)> onSet;
     std::function<void()> onRestore;
     int restored = 0;
@@ -90,8 +90,8 @@ public:
     void setLoginPrompt(host::LoginPrompt) override {}
 
     QList<host::Destination> printers;
-    QHash<QString, QByteArray> ppds; // by queue; none for a raw one
-    host::PrintError serverError;    // every request fails with it while it is set
+    QHash<QString, QByteArray> ppds; // by queue; none for a raw queue
+    host::PrintError serverError;    // if set, every request fails with it
     host::JobStatus status;
     host::Submission::Outcome outcome = host::Submission::Outcome::Accepted;
     QList<host::JobRequest> submitted;
@@ -101,5 +101,5 @@ private:
     bool refuses(host::PrintError *error) const;
 };
 
-// The value an option is sent with; null when it is not sent.
+// The value with which an option is sent; null if it is not sent.
 QString sentValue(const QList<host::JobOption> &options, const QString &name);

@@ -51,7 +51,7 @@ private Q_SLOTS:
     void panelHidesOptions();
 
 private:
-    static Policy lay(const QByteArray &json) // down, for this test
+    static Policy lay(const QByteArray &json) // the policy of this test
     {
         QString error;
         const auto policy = Policy::parse(json, u"policy.json"_s, &error);
@@ -70,7 +70,7 @@ private:
         m_window->show();
         return opened && QTest::qWaitForWindowActive(m_window.get());
     }
-    bool shows(const QString &text) const // plainly
+    bool shows(const QString &text) const // visibly
     {
         const auto labels = m_window->findChildren<QLabel *>();
         return std::any_of(labels.begin(), labels.end(), [&](const QLabel *label) {
@@ -83,9 +83,9 @@ private:
     {
         QFile ppd(buildPath("/ppds/") + model + u".ppd"_s);
         QVERIFY(ppd.open(QIODevice::ReadOnly));
-        (void)ppd.readLine(); // the fixture writes it
+        (void)ppd.readLine(); // the fixture adds it
         m_system.ppds[u"office"_s] = ppd.readAll();
-        m_system.printers.first().deviceUri = u"file:/dev/null"_s; // a device that nobody asks
+        m_system.printers.first().deviceUri = u"file:/dev/null"_s; // a device that is never queried
     }
 
     const QString m_bundle = buildPath("/bin/OrbM880.bundle");
@@ -109,7 +109,7 @@ int PolicyTest::print(PrintSystem &system, Extensions &extensions, const QString
 void PolicyTest::errorsNameThePlace_data()
 {
     QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QString>("error"); // its beginning; empty for none
+    QTest::addColumn<QString>("error"); // its beginning; empty if there is none
     const QByteArray rule = "{\n\"rules\": [\n{\"locked\": {\"A\": \"[{\\\"\"}},\n{";
     QTest::newRow("empty object") << "{}"_ba << QString();
     QTest::newRow("a rule") << rule + "}]}" << QString();
@@ -212,7 +212,7 @@ void PolicyTest::locksHoldInEverySpelling_data()
     row("pages per side", u"number-up"_s, u"2"_s, true);
 }
 
-// By the command line, and by any other request for a job.
+// On the command line, and in any other request for a job.
 void PolicyTest::locksHoldInEverySpelling()
 {
     QFETCH(QString, option);
@@ -265,7 +265,8 @@ void PolicyTest::defaultsDoNotPassLocks_data()
     QTest::newRow("the server's, otherwise") << preset << u"media"_s << u"A3"_s << true << 0;
 }
 
-// A preset that goes against a lock is refused; of the user's own defaults the rest is used, and it is told.
+// A preset that violates a lock is refused; of the user's defaults the others are used, and the user is
+// informed.
 void PolicyTest::defaultsDoNotPassLocks()
 {
     QFETCH(QString, instance);
@@ -293,7 +294,7 @@ void PolicyTest::defaultsDoNotPassLocks()
     QVERIFY(sentValue(sent, u"media"_s).isEmpty() || sentValue(sent, u"media"_s) == u"A4"_s);
 }
 
-// What a session is told to set at once: a preset of the menu, a way out of a conflict, an earlier state.
+// Requests that set a session as a whole: a preset of the menu, a resolution of a conflict, an earlier state.
 void PolicyTest::nothingElsePassesLocks()
 {
     useFamily();
@@ -335,7 +336,7 @@ void PolicyTest::saysThatItOffersNone_data()
     QTest::newRow("one, and no default") << false << "attic"_ba << u"no such printer"_s;
 }
 
-// With a default printer or without one; nobody has named a printer.
+// With and without a default printer; no printer is named.
 void PolicyTest::saysThatItOffersNone()
 {
     QFETCH(bool, hasDefault);
@@ -425,7 +426,7 @@ void PolicyTest::dialogShowsWhatIsLocked()
     QVERIFY(!m_window->session()->markChoice(u"Duplex"_s, u"None"_s));
 }
 
-// A choice that only a change of what is locked would allow is not offered.
+// A choice that would require changing a locked option is not offered.
 void PolicyTest::lockedChoiceIsNotGivenUp()
 {
     PolicyPrintSystem system(m_system, {}, lay(R"({"rules": [{"locked": {"MediaType": "Thick"}}]})"));
@@ -444,8 +445,8 @@ void PolicyTest::lockedChoiceIsNotGivenUp()
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick"_s);
 }
 
-// On the page of a panel that is the printer's own the control is grey; where the choice comes about all the
-// same it goes back, and the window says so.
+// The printer's control is disabled on a panel's page; if its choice changes nevertheless, it is reset, and
+// the window reports that.
 void PolicyTest::panelKeepsWhatIsLocked()
 {
     useFamily();
@@ -473,15 +474,15 @@ void PolicyTest::panelKeepsWhatIsLocked()
     QVERIFY(shows(u"These settings cannot be changed. "_s));
     QVERIFY(!session->panel(colours)->panelView()->isEnabled());
     QVERIFY(!session->markChoice(u"ColorBalanceCyan"_s, u"1"_s));
-    printButton()->click(); // without a code, which is asked for
+    printButton()->click(); // without the code, which is asked for
     QVERIFY(find<MessageBar>()->text().contains(u"no code has been given"_s));
-    find<MessageBar>()->buttons().first()->click(); // print without
+    find<MessageBar>()->buttons().first()->click(); // prints without it
     QTRY_VERIFY(shows(u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s));
     QVERIFY(m_system.submitted.isEmpty());
 }
 
-// The row of an option goes, and what is printed stays as the policy has it; a page that has nothing left is
-// not there.
+// The row of a hidden option is removed, and its choice remains as set by the policy; a page without rows is
+// not shown.
 void PolicyTest::panelHidesOptions()
 {
     useFamily();
@@ -496,7 +497,7 @@ void PolicyTest::panelHidesOptions()
          {std::pair(u"resolution"_s, false), std::pair(u"resolutionLabel"_s, false),
           std::pair(u"tonerSave"_s, false), std::pair(u"halftone"_s, true)})
         QVERIFY2(find<QWidget>(name)->isVisible() == isShown, qPrintable(name));
-    find<QWidget>(u"resolution"_s)->show(); // as a panel might
+    find<QWidget>(u"resolution"_s)->show(); // as a panel might do
     QVERIFY(!find<QWidget>(u"resolution"_s)->isVisible());
     book->turn(1);
     for (const QString &part : {u"Label"_s, u"Slider"_s, u"Value"_s, u"Neutral"_s}) {

@@ -84,7 +84,7 @@ void PresetStoreTest::linesOfOthersStayAsTheyAre()
     write(others + "Dest office/gr\xfcn a=1\n");
     QVERIFY(store.remove(u"office"_s, list->last().name, &error));
     QCOMPARE(content(), others);
-    // The queue's own line keeps being the default.
+    // The queue's own line remains the default.
     QVERIFY(store.save(u"office"_s, {QString(), {{u"Duplex"_s, u"None"_s}}}, &error));
     QVERIFY(content().contains("\nDefault office Duplex=None\n"));
     QVERIFY(!store.remove(u"office"_s, u"draft"_s, &error));
@@ -93,7 +93,7 @@ void PresetStoreTest::linesOfOthersStayAsTheyAre()
         struct stat facts = {};
         return ::stat(qPrintable(path()), &facts) == 0 ? facts.st_mode & 0777 : 0;
     };
-    QCOMPARE(mode(), 0644U); // as it was written
+    QCOMPARE(mode(), 0644U); // unchanged
     QVERIFY(QFile::remove(path()));
     error = {};
     const mode_t mask = ::umask(077);
@@ -120,7 +120,7 @@ void PresetStoreTest::valuesComeBackAsTheyWere()
     const auto list = store().list(u"office"_s, &error);
     QVERIFY(list);
     QCOMPARE(*list, QList<Preset>{preset});
-    // And as libcups reads the line: by its reader of configuration files, then as options.
+    // And as libcups parses the line: by its reader of configuration files, then as options.
     char line[8192];
     char *rest = nullptr;
     int number = 0;
@@ -190,7 +190,8 @@ void PresetStoreTest::manyWritersLoseNothing()
     PrintError error;
     QCOMPARE(store().list(u"office"_s, &error)->size(), writers * presets);
     QCOMPARE(store().list(u"attic"_s, &error)->size(), 1);
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2); // the lock is the other
+    // the other one is the lock
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 void PresetStoreTest::everybodysAreReadAndLeftAlone()
@@ -212,7 +213,7 @@ void PresetStoreTest::lockIsNotWaitedForWithoutEnd()
     write("Dest office/q a=b\n");
     QFile lock(path() + u".kelmar-lock"_s);
     QVERIFY(lock.open(QIODevice::ReadWrite));
-    QCOMPARE(::flock(lock.handle(), LOCK_EX), 0); // by a program that has been stopped
+    QCOMPARE(::flock(lock.handle(), LOCK_EX), 0); // by a stopped program
     PrintError error;
     QVERIFY(!store().remove(u"office"_s, u"q"_s, &error));
     QVERIFY2(error.message.contains(path()), qPrintable(error.message));

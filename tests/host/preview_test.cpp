@@ -39,7 +39,7 @@ bool hasTools()
     return std::none_of(allTools.begin(), allTools.end(), isMissing);
 }
 
-// Processes with a word in their command lines.
+// Processes with a word in their command line.
 QStringList processesWith(const QString &word)
 {
     QStringList found;
@@ -51,7 +51,7 @@ QStringList processesWith(const QString &word)
     return found;
 }
 
-// A picture of two by two pixels in as many copies as pages were asked for.
+// An image of two by two pixels for each requested page.
 const QByteArray drawsPages = "shift; first=$1; shift 2; last=$1\n"
                               "while [ $first -le $last ]; do printf 'P5\\n2 2\\n255\\nabcd';"
                               " first=$((first + 1)); done\n";
@@ -113,7 +113,7 @@ void PreviewTest::showsWhatIsPrinted_data()
     QTest::addColumn<QString>("document");
     QTest::addColumn<PageSettings>("settings");
     QTest::addColumn<int>("pages");  // of the document
-    QTest::addColumn<int>("sides");  // that come out
+    QTest::addColumn<int>("sides");  // in the output
     QTest::addColumn<QSize>("size"); // of the first, in millimetres
     const PaperSize a4{.width = 210, .height = 297}, a5{.width = 148, .height = 210};
     const QSize A4(210, 297);
@@ -172,7 +172,7 @@ void PreviewTest::showsWhatIsPrinted()
 
 void PreviewTest::saysWhetherAnythingIsPrinted_data()
 {
-    QTest::addColumn<QStringList>("documents"); // "secret", "closed" and "cut" are made of report.pdf
+    QTest::addColumn<QStringList>("documents"); // "secret", "closed" and "cut" are made from report.pdf
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("message"); // null where something is printed
     const QString noPage = u"The settings leave no page "_s;
@@ -238,7 +238,7 @@ void PreviewTest::firstPageIsQuick()
         QSKIP("cups-filters, poppler-utils or ghostscript is not installed");
     QProcess::execute(u"pdftoppm"_s, {demo(u"report.pdf"_s), m_folder->filePath(u"p"_s)}); // fills caches
     qint64 best = 10'000;
-    for (int i = 0; i < 10 && best >= 300; ++i) { // something else may keep the machine busy
+    for (int i = 0; i < 10 && best >= 300; ++i) { // the machine may be busy
         Preview preview(PageTools::installed());
         QSignalSpy made(&preview, &Preview::pageMade);
         preview.setWatched(true);
@@ -312,7 +312,7 @@ void PreviewTest::survivesItsPrograms()
 
 void PreviewTest::hostileProgramsAreRefused_data()
 {
-    QTest::addColumn<QString>("document"); // each is read by other programs
+    QTest::addColumn<QString>("document"); // each is read by different programs
     for (const QString &document :
          {u"report.pdf"_s, u"report.ps"_s, u"note.txt"_s, u"picture.png"_s, u"note.txt.gz"_s})
         QTest::newRow(qPrintable(document)) << document;
@@ -332,7 +332,7 @@ void PreviewTest::hostileProgramsAreRefused()
     unconfined.start(m_folder->filePath(u"gs"_s), {});
     QVERIFY(unconfined.waitForFinished());
     QCOMPARE(unconfined.exitCode(), 9);
-    QVERIFY(unconfined.readAllStandardError().count(' ') >= 12); // 14 where a parent's memory may be read
+    QVERIFY(unconfined.readAllStandardError().count(' ') >= 12); // 14 if a parent's memory may be read
     QTRY_COMPARE(program.damage().size(), 8); // four files, two new ones, and two processes
     program.putBack();
     QString path = demo(document);
@@ -384,7 +384,7 @@ void PreviewTest::hostileDocumentIsRefused()
         QCOMPARE(preview.facts()->pages, 1);
     }
     QTRY_COMPARE(program.damage(), QStringList());
-    qputenv("TMPDIR", "/nowhere"); // no private folder, no program
+    qputenv("TMPDIR", "/nowhere"); // without a private folder no program runs
     Preview preview(PageTools::installed());
     preview.setWatched(true);
     preview.setDocument(path);
@@ -416,7 +416,7 @@ void PreviewTest::fewerPagesThanBefore()
     preview.setWatched(true);
     preview.setDocument(demo(u"report.pdf"_s));
     QTRY_VERIFY(preview.facts());
-    (void)preview.thumbnail(30); // still wanted when there are no longer so many
+    (void)preview.thumbnail(30); // still requested when there are fewer pages
     fake(u"pdfinfo"_s, "echo 'Pages:  10'\n");
     preview.setSettings({{{u"number-up"_s, u"4"_s}}, {}});
     QTRY_VERIFY(preview.facts() && preview.facts()->pages == 10);
@@ -462,7 +462,7 @@ void PreviewTest::writesPdf()
     const QString target = m_folder->filePath(u"out.pdf"_s), another = m_folder->filePath(u"in.pdf"_s);
     QVERIFY(QFile::copy(demo(u"report.pdf"_s), another));
     QVERIFY(::chmod(qPrintable(another), 0600) == 0);
-    if (geteuid() == 0) // root may read the files of another user
+    if (geteuid() == 0) // root may read other users' files
         QVERIFY(::chown(qPrintable(another), 1234, 1234) == 0);
     const PrintError error = write(PageTools::installed(), {another, demo(u"note.txt"_s)}, target);
     QVERIFY2(!error, qPrintable(error.message));

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Opens a printer's PPD no sooner than it is let.
+// Delays opening a printer's PPD until it is released.
 class GatedPrintSystem : public FakePrintSystem
 {
 public:
@@ -42,7 +42,7 @@ public:
 
 } // namespace
 
-// What the window checks, asks and remembers between the wish to print and the job, and what it says of both.
+// The checks, questions and pending requests of the window between the user's request to print and the job.
 class PrintRequestTest : public WindowFixture
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ private:
         m_window->session()->markChoice(u"ColorType"_s, u"Mono"_s);
         m_window->session()->markChoice(u"Cyan"_s, u"2"_s);
     }
-    // A panel that blocks when it is restored, until `m_release` is released or the user gives up.
+    // A panel that blocks when it is restored, until `m_release` is released or the user stops waiting.
     FakePanel *addSlowPanel();
     bool pressIn(MessageBar *bar, const QString &text) const;
     void beginSaving(const QString &target);
@@ -112,7 +112,7 @@ bool PrintRequestTest::pressIn(MessageBar *bar, const QString &text) const
 void PrintRequestTest::everyWayToPrintIsChecked_data()
 {
     QTest::addColumn<bool>("anyway");
-    QTest::addColumn<QString>("range"); // null where no document is ticked instead
+    QTest::addColumn<QString>("range"); // null if all documents are deselected instead
     for (const bool anyway : {false, true}) {
         const QByteArray way = anyway ? "Print Anyway, " : "Print, ";
         QTest::newRow(way + "nonsense") << anyway << u"3-1"_s;
@@ -213,13 +213,13 @@ void PrintRequestTest::printingFollowsAWait()
     window.book()->list()->setFocus();
     bool seen = false;
     QTimer::singleShot(0, &window, [&] {
-        // The panel's page is there at once, says what it waits for, and cannot be worked.
+        // The panel's page is shown at once with the reason of the wait, and is disabled.
         QVERIFY(panel->panelView()->isVisible() && !panel->panelView()->isEnabled());
         const auto labels = window.book()->findChildren<QLabel *>();
         QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
             return label->isVisible() && label->text() == u"Asking the printer…"_s;
         }));
-        for (int i = 0; i < 2; ++i) { // an impatient user prints once
+        for (int i = 0; i < 2; ++i) { // printing twice prints once
             if (way == Way::Click)
                 QTest::mouseClick(printButton(), Qt::LeftButton);
             else if (way == Way::Return)
@@ -232,7 +232,7 @@ void PrintRequestTest::printingFollowsAWait()
             return label->text().endsWith(u"Printing follows when the printer has answered."_s);
         }));
         QVERIFY(m_system.submitted.isEmpty());
-        QVERIFY(!window.isSettled()); // for a picture
+        QVERIFY(!window.isSettled()); // for a screenshot
         seen = true;
         if (end == End::Answer)
             m_release->release();
@@ -249,7 +249,7 @@ void PrintRequestTest::printingFollowsAWait()
                 return false;
             })());
     });
-    QTimer::singleShot(10'000, &window, [this] { m_release->release(); }); // where a check has failed
+    QTimer::singleShot(10'000, &window, [this] { m_release->release(); }); // if a check has failed
     window.book()->showPage(1);
     m_release->release();
     settle();
@@ -289,7 +289,7 @@ void PrintRequestTest::escapeLeavesThingsAsTheyAre()
     QVERIFY(!window.isVisible());
 }
 
-// A job that is printed once more, and rejected then, takes nothing from the first one.
+// A job that is printed again, and then rejected, does not replace the first one.
 void PrintRequestTest::earlierJobCounts()
 {
     PrintWindow &window = open();
@@ -325,7 +325,7 @@ void PrintRequestTest::pdfResultWaitsForThePages()
     system.gated = u"office"_s;
     beginSaving(folder.filePath(u"saved.pdf"_s));
     Q_EMIT find<PrinterPicker>()->picked(u"office"_s);
-    QTRY_VERIFY(find<WaitingPage>()->isVisible()); // longer than it takes to find no document
+    QTRY_VERIFY(find<WaitingPage>()->isVisible()); // takes longer than detecting a missing document
     system.gate.release();
     settle();
     QCOMPARE(m_window->session()->destination().queue, u"office"_s);
@@ -355,7 +355,7 @@ void PrintRequestTest::failedActionGoesWithTheNextNews()
     QVERIFY(!shows(u"the job cannot be cancelled"_s));
 }
 
-// Each page, with the focus in it and its layout still to be done, while the session and its pages go.
+// Each page with the focus and a pending layout, while the session and its pages are destroyed.
 void PrintRequestTest::pagesGoWhileTheyAreLaidOut()
 {
     PrintWindow &window = open();

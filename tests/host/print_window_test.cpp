@@ -28,7 +28,7 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// The window over a print system without a server, worked with keys and clicks.
+// The window with a print system without a server, operated with keys and clicks.
 class PrintWindowTest : public WindowFixture
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ void PrintWindowTest::printsWithTheGeneralPane()
     QCOMPARE(window.result(), int(QDialog::Accepted));
 }
 
-// Its file has no name of its own.
+// Its file has no name.
 void PrintWindowTest::documentOfAnotherProgramHasItsTitle()
 {
     PrintTask task;
@@ -113,7 +113,7 @@ void PrintWindowTest::nonsensicalPagesStopPrinting()
 void PrintWindowTest::conflictIsExplainedAndResolved()
 {
     PrintWindow &window = open();
-    // The list greys this pair out; a preset or a command line may still bring it.
+    // The list greys this pair out; a preset or a command line may still set it.
     window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
     window.session()->markChoice(u"Cyan"_s, u"2"_s);
     printButton()->click();
@@ -178,7 +178,7 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     QVERIFY(find<UnavailablePage>()->reason().contains(u"“Duplex”"_s));
     Q_EMIT picker->picked(u"attic"_s);
     QTRY_VERIFY(m_window->session());
-    Q_EMIT picker->picked(u"raw"_s); // knows the standard name alone
+    Q_EMIT picker->picked(u"raw"_s); // only has the standard name
     QTRY_COMPARE(m_window->session()->destination().queue, u"raw"_s);
     QVERIFY2(!m_window->messageBar()->isShowing(), qPrintable(m_window->messageBar()->text()));
     m_window->print();
@@ -198,7 +198,7 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
-    window.session()->markChoice(u"MediaType"_s, u"Thick"_s); // conflicts; the way back stays open
+    window.session()->markChoice(u"MediaType"_s, u"Thick"_s); // conflicts; the change can still be reverted
     window.book()->refresh();
     const auto *model = qobject_cast<QStandardItemModel *>(duplex->model());
     QVERIFY(model->item(duplex->findData(u"None"_s))->isEnabled());
@@ -213,7 +213,7 @@ void PrintWindowTest::opensWithoutServer()
     auto *page = find<UnavailablePage>();
     QVERIFY(page->isVisible());
     QCOMPARE(page->reason(), u"the server is away"_s);
-    QTest::mouseClick(page->retryButton(), Qt::LeftButton); // still away
+    QTest::mouseClick(page->retryButton(), Qt::LeftButton); // still unreachable
     settle();
     QVERIFY(page->isVisible());
     settle();
@@ -237,7 +237,7 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
     QCOMPARE(window.session()->destination().queue, u"attic"_s);
     QCOMPARE(find<QSpinBox>()->value(), 4);
     QCOMPARE(find<QComboBox>(u"PageSize"_s)->currentData().toString(), u"A3"_s);
-    picker->setCurrentIndex(2); // another maker's, without a PPD
+    picker->setCurrentIndex(2); // unsupported, without a PPD
     Q_EMIT picker->activated(2);
     QTRY_VERIFY(!find<QComboBox>(u"PageSize"_s));
     QCOMPARE(find<PageList>()->count(), 2); // general and summary
@@ -295,9 +295,9 @@ void PrintWindowTest::remembersThePrinter()
     QCOMPARE(open(u"attic/draft"_s).session()->destination().instance, u"draft"_s);
     printButton()->click();
     settle();
-    m_system.printers[1].instance.clear(); // the preset has been deleted since, by another program
+    m_system.printers[1].instance.clear(); // another program has deleted the preset since
     QCOMPARE(open().session()->destination().queue, u"attic"_s);
-    m_system.printers.removeAt(1); // it has been taken away since: back to the default
+    m_system.printers.removeAt(1); // it has been removed since: back to the default
     QCOMPARE(open().session()->destination().queue, u"office"_s);
 }
 
@@ -351,7 +351,7 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(colour->restored + balance->restored, 2);
     QCOMPARE(balance->shown, 1);
-    QCOMPARE(colour->saved, 1); // left behind
+    QCOMPARE(colour->saved, 1); // the page was left
     window.book()->showPage(window.book()->pageNamed(u"summary"_s));
     QCOMPARE(balance->saved, 1);
     const auto labels = window.findChildren<QLabel *>();
@@ -388,7 +388,8 @@ void PrintWindowTest::customSizeIsTyped()
     QTest::keyClicks(height, u"20.5"_s);
     QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x20.5cm"_s);
     height->selectAll();
-    QTest::keyClicks(height, u"999999"_s); // more than the printer takes: it stays, and nothing is printed
+    // more than the printer accepts: the text is kept, and nothing is printed
+    QTest::keyClicks(height, u"999999"_s);
     QCOMPARE(height->value(), 999999);
     window.print();
     settle();
@@ -396,7 +397,7 @@ void PrintWindowTest::customSizeIsTyped()
     choose(u"PageSize"_s, u"A4"_s);
     QVERIFY(!width->isVisible());
     QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"A4"_s);
-    // From elsewhere, finer than the field shows: the editor follows and changes nothing.
+    // Set elsewhere, with more digits than the field shows: the editor shows it and changes nothing.
     QVERIFY(window.session()->markChoice(u"PageSize"_s, u"Custom.100.123x200mm"_s));
     Q_EMIT window.session()->changed();
     QVERIFY(width->isVisible());
@@ -421,7 +422,7 @@ void PrintWindowTest::unfinishedPasswordStopsPrinting()
     settle();
     QVERIFY(m_system.submitted.isEmpty());
     QVERIFY(field->hasFocus());
-    QTest::keyClicks(field, u"retandmuchmore"_s); // no longer than the printer takes
+    QTest::keyClicks(field, u"retandmuchmore"_s); // limited to what the printer accepts
     window.print();
     settle();
     QCOMPARE(sentValue(m_system.submitted.first().options, u"Lock"_s), u"Custom.s3cretan"_s);

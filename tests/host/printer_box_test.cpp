@@ -107,7 +107,7 @@ void PrinterBoxTest::staysQuickWithManyPrinters()
     QVERIFY2(taken < 1000, qPrintable(QString::number(taken)));
 }
 
-// No row moves from under the pointer, or from under who has just chosen it.
+// No row moves under the pointer, or while the user is choosing.
 void PrinterBoxTest::recentOnesWaitForTheList()
 {
     PrinterPicker picker;
@@ -140,7 +140,7 @@ void PrinterBoxTest::printerThatIsGoneLeaves()
     box->hidePopup();
     QCOMPARE(picked.count(), 0);
     QCOMPARE(box->currentText(), QStringLiteral("gone"));
-    picker.setAwaited(QStringLiteral("q3")); // another one was picked
+    picker.setAwaited(QStringLiteral("q3")); // another one was selected
     QCOMPARE(box->count(), 700);
     QCOMPARE(box->currentText(), QStringLiteral("Copier 3"));
 }
@@ -152,7 +152,7 @@ void PrinterBoxTest::printerOutlivesItsPreset()
     preset.instance = QStringLiteral("draft");
     picker.setCurrent(preset);
     picker.setPrinters({officePrinter(), officePrinter(QStringLiteral("other"))});
-    picker.putPrinter(preset); // news that were asked for before
+    picker.putPrinter(preset); // a reply to an earlier request
     QCOMPARE(picker.box()->count(), 2);
     QCOMPARE(picker.box()->currentText(), officePrinter().displayName());
 }
@@ -162,7 +162,7 @@ void PrinterBoxTest::chosenPrinterIsShown_data()
     using Step = std::function<void(PrinterPicker *)>;
     QTest::addColumn<QList<Step>>("steps");
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("detail"); // how it begins
+    QTest::addColumn<QString>("detail"); // its beginning
     const QString office = officePrinter().info;
     Destination stopped = officePrinter();
     stopped.stopped = true;

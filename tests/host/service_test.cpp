@@ -34,11 +34,11 @@ namespace {
 const QString portalName = u"org.freedesktop.impl.portal.desktop.kelmar"_s;
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString connectionName = u"service-test"_s;
-constexpr int patience = 20000; // milliseconds, on a machine that does other things too
+constexpr int patience = 20000; // milliseconds, on a busy machine
 
 struct Answer
 {
-    int response = -1; // -1 when the call failed
+    int response = -1; // -1 if the call failed
     QVariantMap results;
     uint token() const { return results.value(u"token"_s).toUInt(); }
     QVariantMap map(const QString &name) const
@@ -57,7 +57,7 @@ Answer answerOf(const QDBusMessage &reply)
 
 } // namespace
 
-// What shows notifications; knows markup.
+// A notification server that supports markup.
 class Desktop : public QObject
 {
     Q_OBJECT
@@ -78,8 +78,7 @@ public Q_SLOTS:
     }
 };
 
-// The service on a bus of its own, called as the portal and the queue call it; a script stands in for the
-// dialog.
+// The service on a private bus, called like the portal and the queue; a script replaces the dialog.
 class ServiceTest : public QObject
 {
     Q_OBJECT
@@ -221,7 +220,7 @@ void ServiceTest::answersSettingsPageSetupAndToken()
     QCOMPARE(call(prepareCall(u"cancel"_s)).response, 1);
 }
 
-// What applications say of themselves in later versions of the portal.
+// Options of applications in later versions of the portal.
 void ServiceTest::abilitiesReachTheDialog()
 {
     startService();
@@ -291,7 +290,7 @@ void ServiceTest::tokenRules()
     QVERIFY(!lastRequest().contains("job"_L1));
     QCOMPARE(kindOf(chosen.token(), u"org.example.App"_s), u"submit"_s);
     QVERIFY(lastRequest().value("job"_L1).toObject().contains("options"_L1));
-    QCOMPARE(kindOf(chosen.token(), u"org.example.App"_s), u"print"_s); // good once
+    QCOMPARE(kindOf(chosen.token(), u"org.example.App"_s), u"print"_s); // valid once
     QCOMPARE(kindOf(0, u"org.example.App"_s), u"print"_s);
     QCOMPARE(kindOf(4711, {}), u"print"_s);
     QCOMPARE(log(u".document"_s), QByteArray("the document").repeated(5));
@@ -324,7 +323,7 @@ void ServiceTest::dialogThatFails()
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
     QCOMPARE(call(prepareCall(title)).response, 2);
     QCOMPARE(call(printCall(0, {}, title)).response, 2);
-    QVERIFY(!other.isFinished()); // nothing else is touched
+    QVERIFY(!other.isFinished()); // other requests are not affected
     QCOMPARE(call(prepareCall(u"T"_s)).response, 0);
 }
 
@@ -345,7 +344,7 @@ void ServiceTest::closeDuringTheDialog()
 
 void ServiceTest::abandonedDialogsClose_data()
 {
-    QTest::addColumn<bool>("isPortal"); // that leaves, else the application
+    QTest::addColumn<bool>("isPortal"); // leaves the bus; otherwise the application
     QTest::addColumn<bool>("isEarly");  // before the request arrives
     QTest::newRow("application") << false << false;
     QTest::newRow("application, early") << false << true;
@@ -368,7 +367,7 @@ void ServiceTest::abandonedDialogsClose()
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
     QDBusConnection::disconnectFromBus(isPortal ? u"portal"_s : u"application"_s);
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("gone"), patience);
-    QVERIFY(log().contains(R"({"event":"abandoned"})")); // so that the user hears of it
+    QVERIFY(log().contains(R"({"event":"abandoned"})")); // so that the user is informed
     QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses(), QByteArray(), patience);
     if (!isPortal)
         QTRY_VERIFY_WITH_TIMEOUT(pending.isFinished(), patience);
@@ -419,7 +418,7 @@ void ServiceTest::placesAreLimited()
     QTRY_COMPARE_WITH_TIMEOUT(dialogProcesses().split(' ').size(), all, patience);
 }
 
-// What an application hands over takes no space before the user has agreed to print it.
+// A document from an application uses no space before the user has agreed to print it.
 void ServiceTest::documentStaysWhereItIs()
 {
     constexpr qint64 size = 400 * 1024 * 1024;
@@ -437,7 +436,7 @@ void ServiceTest::documentStaysWhereItIs()
     const QByteArray written = counters.readAll().split('\n').value(1); // "wchar: BYTES"
     QVERIFY(written.startsWith("wchar: "));
     QVERIFY2(written.mid(7).toLongLong() < size / 10, written.constData());
-    // It must be the one that the user has agreed to.
+    // It must be the document that the user has agreed to.
     QCOMPARE(file.write("x"), 1);
     QVERIFY(file.flush());
     QTRY_VERIFY_WITH_TIMEOUT(
@@ -470,7 +469,7 @@ void ServiceTest::sameHandleTwice()
     QTRY_VERIFY_WITH_TIMEOUT(log().contains("wait"), patience);
     QCOMPARE(call(prepareCall(u"T"_s, {}, {}, u"/request/mine"_s)).response, 2);
     QCOMPARE(call(prepareCall(u"T"_s, {}, {}, portalPath)).response, 2);
-    QCOMPARE(call(prepareCall(u"T"_s)).response, 0); // the portal is there still
+    QCOMPARE(call(prepareCall(u"T"_s)).response, 0); // the portal is still there
     QVERIFY(!first.isFinished());
 }
 
@@ -496,9 +495,9 @@ void ServiceTest::documentFromTheQueue()
     QCOMPARE(lastRequest().value("title"_L1).toString(), u"Letter \ufffd\ufffd"_s);
     QCOMPARE(lastRequest().value("copies"_L1).toInt(), 3);
     QCOMPARE(log(u".document"_s), QByteArray("PDF"));
-    QCOMPARE(open("wait"), QDBusMessage::ReplyMessage); // is seen, and open still
+    QCOMPARE(open("wait"), QDBusMessage::ReplyMessage); // visible and still open
     QCOMPARE(open("crash"), QDBusMessage::ErrorMessage);
-    // A caller that goes before it is seen.
+    // A caller that leaves before the dialog is visible.
     const QString other = u"service-test-caller"_s;
     QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), other)
         .asyncCall(openCall("silent"));
@@ -524,7 +523,7 @@ void ServiceTest::queueDoesNotWaitForADialog()
     const int silent = dialogProcesses().split(' ').value(1).toInt();
     QVERIFY(silent > 1);
     QCOMPARE(::kill(silent, SIGKILL), 0);
-    QTRY_VERIFY_WITH_TIMEOUT(log().contains(R"("kind":"lost")"), patience); // the user is told
+    QTRY_VERIFY_WITH_TIMEOUT(log().contains(R"("kind":"lost")"), patience); // the user is informed
 }
 
 void ServiceTest::notifiesTheDesktop()
@@ -540,7 +539,7 @@ void ServiceTest::notifiesTheDesktop()
     QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, patience);
     QCOMPARE(process.exitCode(), 0);
     QCOMPARE(desktop.title, u"A & B"_s);
-    QCOMPARE(desktop.text, u"&lt;b&gt;Job 1&lt;/b&gt;\ndone"_s); // such a desktop reads markup
+    QCOMPARE(desktop.text, u"&lt;b&gt;Job 1&lt;/b&gt;\ndone"_s); // such a desktop interprets markup
     QCOMPARE(desktop.hints.value(u"urgency"_s), QVariant::fromValue<uchar>(2));
 }
 
@@ -550,7 +549,7 @@ void ServiceTest::leavesWhenIdle()
     QSignalSpy left(m_service.get(), &QProcess::finished);
     const Answer chosen = call(prepareCall(u"T"_s));
     QCOMPARE(chosen.response, 0);
-    QVERIFY(!left.wait(3000)); // a token is open
+    QVERIFY(!left.wait(3000)); // a token is valid
     QCOMPARE(call(printCall(chosen.token())).response, 0);
     QTRY_VERIFY_WITH_TIMEOUT(serviceIsGone(), patience);
     QCOMPARE(m_service->exitCode(), 0);
@@ -609,7 +608,7 @@ void ServiceTest::aThousandRequestsLeaveNothing()
         portalName, portalPath, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s));
     QVERIFY(tree.arguments().value(0).toString().contains("PreparePrint"_L1));
     QVERIFY(!tree.arguments().value(0).toString().contains("<node name"_L1)); // of a request
-#if !defined(__SANITIZE_ADDRESS__)                                            // which keeps what was freed
+#if !defined(__SANITIZE_ADDRESS__)                                            // which keeps freed memory
     QVERIFY2(privateKilobytes() - before < 300, qPrintable(QString::number(privateKilobytes() - before)));
 #endif
 }

@@ -16,8 +16,8 @@
 
 #include <memory>
 
-// A window over a print system without a server: two printers with a PPD, one without, and a document. Base
-// of a test.
+// A window with a print system without a server: two printers with a PPD, one without, and a document. Base
+// class of tests.
 class WindowFixture : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ protected:
     void reset()
     {
         QCoreApplication::setOrganizationName(QStringLiteral("kelmar-test"));
-        // Each test program has a settings file of its own, as several run at once.
+        // Each test program has a separate settings file, since several run at once.
         QCoreApplication::setApplicationName(QFileInfo(QCoreApplication::applicationFilePath()).baseName());
         QSettings().clear();
         m_system = FakePrintSystem();
@@ -58,8 +58,8 @@ protected:
         settle();
         return *m_window;
     }
-    // Until the print system has answered all that the window has asked it beside its thread, and the window
-    // has heard of it.
+    // Waits until the print system has answered all requests on worker threads, and the window has received
+    // the results.
     static void settle()
     {
         do {
@@ -73,7 +73,7 @@ protected:
     {
         return m_window->findChild<W *>(name);
     }
-    // As a user does it: the keyboard opens no list here, so the box is told and announces it.
+    // As a user does: the keyboard opens no list here, so the box is set and announces it.
     void choose(const QString &keyword, const QString &choice)
     {
         auto *box = find<QComboBox>(keyword);

@@ -25,7 +25,7 @@
 using namespace host;
 using namespace Qt::StringLiterals;
 
-// The window as it is worked without a mouse, and what it looks like to whoever needs it to be clear.
+// Using the window without a mouse, and its appearance for users with low vision.
 class WindowKeyboardTest : public WindowFixture
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private Q_SLOTS:
     void mnemonics();
 
 private:
-    // Panels for the colour mode and the balance in place of the session's.
+    // Replaces the session's panels by panels for the color mode and the balance.
     FakePanel *showPanels(PrintWindow &window);
 };
 
@@ -77,7 +77,7 @@ void WindowKeyboardTest::savingAPanelLeavesTheFocus()
         QCOMPARE(window.book()->currentRow(), row);
         QCOMPARE(window.focusWidget(), list);
     }
-    // The field that is on its way out with its page hands the keyboard to the list.
+    // The focused field, which disappears with its page, passes the focus to the list.
     window.book()->showPage(1);
     auto *field = find<platform::TextField>();
     field->setFocus();
@@ -102,7 +102,7 @@ void WindowKeyboardTest::returnPressesTheButtonWithTheFocus()
     QVERIFY(m_system.submitted.isEmpty());
 }
 
-// On Wayland the keyboard stays with the dialog's window while a list is open.
+// On Wayland the focus stays with the dialog's window while a list is open.
 void WindowKeyboardTest::escapeClosesAnOpenListAlone()
 {
     PrintWindow &window = open();
@@ -140,7 +140,7 @@ void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
     QVERIFY(!(*texts)->isAncestorOf(bar->buttons().first()) && bar->accessibleName().isEmpty());
     QVERIFY(bar->buttons().first()->accessibleDescription().isEmpty());
     QCoreApplication::processEvents();
-    QCOMPARE(box->mapTo(&window, QPoint()), before); // not pushed away
+    QCOMPARE(box->mapTo(&window, QPoint()), before); // not moved
     QTest::keyClick(bar->buttons().first(), Qt::Key_Return);
     QVERIFY(!bar->isShowing() && window.session()->conflicts().isEmpty());
     QCOMPARE(window.focusWidget(), box);
@@ -156,7 +156,7 @@ void WindowKeyboardTest::conflictGoesWithItsCause()
     window.print();
     settle();
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Question);
-    colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // as its control does it
+    colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // like its control
     QTRY_VERIFY(!window.messageBar()->isShowing());
 }
 
@@ -169,7 +169,7 @@ void WindowKeyboardTest::secondClickDoesNotCloseTheResult()
     QCOMPARE(m_system.submitted.size(), 1);
     QCoreApplication::processEvents();
     QWidget *under = window.childAt(place);
-    QVERIFY(qobject_cast<QPushButton *>(under)); // which is why
+    QVERIFY(qobject_cast<QPushButton *>(under)); // hence the check
     QTest::mouseDClick(under, Qt::LeftButton);
     QCOMPARE(finished.count(), 0);
     QTest::keyClick(&window, Qt::Key_Return); // the keyboard need not wait

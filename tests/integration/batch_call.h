@@ -12,8 +12,8 @@
 
 #include <optional>
 
-// Starts a print server whose user has a home of their own, and what asks it. Before anything else uses
-// libcups, which looks for both once. False with the server's problem.
+// Starts a print server for a user with a private home folder, and its client. Call before anything else uses
+// libcups, which looks up both only once. False with the server's problem.
 inline bool startPrivately(PrivateCupsd &server, std::optional<host::CupsPrintSystem> *system)
 {
     qputenv("HOME", server.folder().toLocal8Bit());
@@ -21,7 +21,7 @@ inline bool startPrivately(PrivateCupsd &server, std::optional<host::CupsPrintSy
     return server.start();
 }
 
-// A batch run within this process: its exit code, -1 for words that are no call, and what it has written.
+// A batch run within this process: its exit code, -1 for an invalid command line, and its output.
 inline int callBatch(const QStringList &words, host::PrintSystem &system, host::Extensions &extensions,
                      QJsonObject *written)
 {

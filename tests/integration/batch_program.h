@@ -14,7 +14,7 @@
 
 #include <fcntl.h>
 
-// The program, as a script or the service calls it.
+// The program as called by a script or the service.
 
 inline const QString program = buildPath("/bin/kelmar-print");
 inline const QString document = sourcePath("/demo/report.pdf");
@@ -38,7 +38,7 @@ inline Outcome run(const QStringList &words, const QByteArray &input = {})
             process.readAllStandardError()};
 }
 
-// Writes a file of the server's folder, which is the home folder, and gives its path.
+// Writes a file in the server's folder, which is the home folder, and returns its path.
 inline QString write(const PrivateCupsd &server, const QString &name, const QByteArray &contents)
 {
     QFile file(server.folder() + u'/' + name);
@@ -47,8 +47,7 @@ inline QString write(const PrivateCupsd &server, const QString &name, const QByt
     return file.fileName();
 }
 
-// A document for a printer, as the service sends it: the request, for the descriptor that the process
-// inherits.
+// Sends a document to a printer like the service: the request, for the descriptor that the process inherits.
 inline void startSubmission(QProcess *process, const QString &printer, int document)
 {
     const QJsonObject job{{QStringLiteral("printer"), printer},

@@ -24,7 +24,7 @@ namespace {
 const QString document = sourcePath("/demo/report.pdf");
 const QStringList privateJob{u"--set"_s, u"PrintMode=Private"_s, u"--set"_s, u"privatePassword=12345"_s};
 
-// Argument 5 of a filter holds this word.
+// Whether argument 5 of a filter contains this word.
 bool arrived(const CapturedJob &job, const QString &option)
 {
     return (u' ' + job.optionText + u' ').contains(u' ' + option + u' ');
@@ -32,8 +32,8 @@ bool arrived(const CapturedJob &job, const QString &option)
 
 } // namespace
 
-// What was chosen is what is printed: the program's two front ends with the family's bundle and PPDs, against
-// a real print server.
+// The chosen settings are printed: both front ends with the family's bundle and PPDs, and a real print
+// server.
 class ChosenSettingsTest : public QObject
 {
     Q_OBJECT
@@ -145,7 +145,7 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
     QVERIFY2(text.startsWith(u"Please note\nThis printer does not have “Print Mode: Private”"_s),
              qPrintable(text));
     QVERIFY2(!text.contains(u"12345"_s), qPrintable(text));
-    pick(u"second"_s); // has it again
+    pick(u"second"_s); // has the option again
     window.print();
     QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     const auto job = printed();
@@ -153,7 +153,7 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
     for (const QString &option :
          {u"PrintMode=Private"_s, u"DINDigit1=1"_s, u"DINDigit5=5"_s, u"SharpnessVRN=2"_s})
         QVERIFY2(arrived(*job, option), qPrintable(option + u" in "_s + job->optionText));
-    QVERIFY(window.submission()->job.differences.isEmpty()); // the priority, which filters do not see
+    QVERIFY(window.submission()->job.differences.isEmpty()); // the priority, which filters do not receive
 }
 
 void ChosenSettingsTest::choiceBeatsTheQueuesDefault()
@@ -173,7 +173,7 @@ void ChosenSettingsTest::defaultThatAppearsLaterIsTold()
 {
     PrintWindow &window = open(u"second"_s);
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"two-sided-long-edge"_s));
-    window.print(); // as "Off", which is what its user sees
+    window.print(); // as "Off", which is shown to the user
     QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"one-sided"_s));
     QVERIFY2(window.submission()->job.differences.join(u' ').contains(u"sides"_s),
@@ -201,7 +201,7 @@ void ChosenSettingsTest::waysOutKeepPrivatePrinting()
         QVERIFY2(notices().contains(u"keeps “Print Mode: Private”"_s), qPrintable(notices()));
         open(printer, {{u"PrintMode"_s, u"Private"_s}, {u"privatePassword"_s, u"12345"_s}});
         QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
-        QCOMPARE(m_window->messageBar()->buttons().size(), 1); // nothing to apply
+        QCOMPARE(m_window->messageBar()->buttons().size(), 1); // no changes to apply
         QVERIFY(m_window->messageBar()->text().contains(u"keeps “Print Mode: Private”"_s));
         return;
     }
@@ -227,14 +227,14 @@ void ChosenSettingsTest::gapsInTheProtection()
     QCOMPARE(run(QStringList({u"--summary"_s, u"-d"_s, u"office"_s}) + words), int(ExitSuccess));
     QVERIFY2(notices().startsWith(notice) && notices().isEmpty() == notice.isEmpty(), qPrintable(notices()));
     const QByteArray summary = QJsonDocument(m_json[u"summary"_s].toArray()).toJson();
-    QCOMPARE(summary.contains("12345"), words == privateJob); // shown where it protects
+    QCOMPARE(summary.contains("12345"), words == privateJob); // shown if it protects
 }
 
 void ChosenSettingsTest::windowAsksForAMissingCode_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("choice");
-    QTest::addColumn<QString>("anyway"); // the answer that prints without
+    QTest::addColumn<QString>("anyway"); // the answer that prints without it
     QTest::newRow("private") << u"PrintMode"_s << u"Private"_s << u"Print Without Password"_s;
     QTest::newRow("department") << u"DeptCode"_s << u"True"_s << u"Print Without Code"_s;
 }
@@ -286,7 +286,7 @@ void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()
     const QByteArray summary = QJsonDocument(m_json[u"summary"_s].toArray()).toJson();
     QVERIFY2(summary.contains("Private (12345)"), summary.constData());
     QVERIFY2(notices().isEmpty(), qPrintable(notices()));
-    // The queue's device has no address that could be asked for its profiles.
+    // The queue's device has no address, so it cannot be queried for profiles.
     QCOMPARE(run({u"--batch"_s, u"-d"_s, u"office/mine"_s, u"--set"_s, u"ImageType=Photo"_s, document}),
              int(ExitSuccess));
     QVERIFY2(notices().contains(u"“Color Settings 1” are not sent with the job (rgb-source)"_s),
@@ -312,7 +312,7 @@ void ChosenSettingsTest::copiesAreCollatedAsChosen()
              int(ExitSuccess));
     const auto job = printed();
     QVERIFY(job);
-    // The device repeats the pages, and is told how.
+    // The device repeats the pages, with collation as requested.
     QVERIFY(job->data.contains("%%BeginFeature: *Collate " + collate.toLatin1() + '\n'));
     QCOMPARE(job->data.count("%%BeginFeature: *Collate "), 1);
     QVERIFY(job->data.contains("*NumCopies 3\n"));

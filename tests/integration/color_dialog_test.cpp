@@ -32,7 +32,7 @@ namespace {
 const QString document = sourcePath("/demo/report.pdf");
 const QStringList balances{u"ColorBalanceCyan"_s, u"ColorBalanceMagenta"_s, u"ColorBalanceYellow"_s,
                            u"ColorBalanceBlack"_s};
-// Of the three lists of profiles and of the defaults; a device that answers is asked for each once.
+// For the three lists of profiles and the defaults; a responding device is queried for each once.
 constexpr int rowsOfADevice = 15 + 15 + 63 + 4;
 
 SnmpReplies answerAll(const SnmpReply &reply)
@@ -40,7 +40,7 @@ SnmpReplies answerAll(const SnmpReply &reply)
     return {reply.withInteger(1)};
 }
 
-// Whether the user has been shown, with the cursor of a busy program, that the printer is being asked.
+// Records whether the wait for the printer was shown with a busy cursor.
 class BusySign : public QObject
 {
 public:
@@ -60,7 +60,7 @@ protected:
     }
 };
 
-// As a user does it, one step of the arrow keys after the other.
+// As a user does, step by step with the arrow keys.
 void chooseWithKeys(QComboBox *popUp, const QString &text)
 {
     const int wanted = popUp->findText(text);
@@ -77,8 +77,8 @@ void chooseWithKeys(QComboBox *popUp, const QString &text)
 
 using Start = std::function<void(PrintTask &)>;
 
-// The colour panels in the whole dialog: with the bundle and a PPD of the family, a print server, and devices
-// in a network of the test's own.
+// The color panels in the complete dialog: with the bundle and a PPD of the family, a print server, and
+// devices in a private network.
 class ColorDialogTest : public QObject
 {
     Q_OBJECT
@@ -102,7 +102,7 @@ private:
             qFatal("the window has no %s", name);
         return found;
     }
-    // Choices that exclude each other: the dialog asks, and its suggestion is taken.
+    // Makes conflicting choices: the dialog asks, and its suggestion is accepted.
     void resolve(const QString &keyword, const QString &choice, const QString &other,
                  const QString &otherChoice);
     std::optional<CapturedJob> printedJob();

@@ -39,8 +39,8 @@ QString nameOf(const QWidget *widget)
 
 } // namespace
 
-// Every page of the dialog over a PPD of the family, with the message bar shown, in the language of the
-// environment. With KELMAR_PICTURES set to a folder, leaves a picture of each there.
+// Every page of the dialog with a PPD of the family and the message bar shown, in the language of the
+// environment. If KELMAR_PICTURES is a folder, saves a picture of each page there.
 class DialogPagesTest : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private:
     void checkKeys();
     void checkWidth();
     void checkInside(const QSize &room);
-    // Presses Tab until it comes round, and gives what had the focus.
+    // Presses Tab until it returns to the start, and returns the widgets that had the focus.
     QList<QWidget *> walk();
     void checkTabOrder();
     int partOf(const QWidget *widget) const;
@@ -110,8 +110,8 @@ void DialogPagesTest::everyPage()
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QTRY_VERIFY(m_window->session());
-    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // what comes after the first paint
-    for (const QString &printer : {u"attic"_s, u"office"_s}) {  // in a window that is wide already
+    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // created after the first paint
+    for (const QString &printer : {u"attic"_s, u"office"_s}) {  // in a window that is already wide
         Q_EMIT m_window->findChild<PrinterPicker *>()->picked(printer);
         QTRY_COMPARE(m_window->session()->destination().queue, printer);
         QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s));
@@ -159,7 +159,7 @@ void DialogPagesTest::checkKeys()
     QVERIFY(owners.size() > 4);
 }
 
-// A page has the room it wants where the window has it.
+// A page has the size it needs if the window has it.
 void DialogPagesTest::checkWidth()
 {
     const PageBook *book = m_window->book();
@@ -184,7 +184,7 @@ void DialogPagesTest::checkInside(const QSize &room)
                  qPrintable(nameOf(button)));
     }
     QCOMPARE(seen, 5); // Cancel, Print, and the bar's
-    // Of a low window, too, the page keeps its share.
+    // The page also keeps its share of a low window.
     QVERIFY2(m_window->book()->height() >= room.height() / 4,
              qPrintable(QString::number(m_window->book()->height())));
 }
@@ -199,7 +199,7 @@ int DialogPagesTest::partOf(const QWidget *widget) const
             return i;
     }
     const auto *pushed = qobject_cast<const QPushButton *>(widget);
-    return pushed && pushed->text().contains(u"&"_s) ? 5 : 4; // "Cancel" is pressed by Escape
+    return pushed && pushed->text().contains(u"&"_s) ? 5 : 4; // Escape also presses "Cancel"
 }
 
 QList<QWidget *> DialogPagesTest::walk()

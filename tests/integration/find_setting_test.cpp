@@ -57,7 +57,7 @@ QStringList filesIn(const QString &folder)
     return QDir(folder).entryList({u"*.md"_s}, QDir::Files);
 }
 
-// What can be worked in a window, and says nothing of itself.
+// Interactive widgets of a window that have no description.
 QStringList unexplained(const QWidget *window)
 {
     QStringList names;
@@ -77,8 +77,8 @@ QStringList unexplained(const QWidget *window)
 
 } // namespace
 
-// How a user finds the way in the dialog: the search, choices that are greyed, and the help. Over a PPD of
-// the family with its panels, worked with keys.
+// How users find settings in the dialog: search, greyed choices, and help. With a PPD of the family and its
+// panels, operated with keys.
 class FindSettingTest : public QObject
 {
     Q_OBJECT
@@ -105,10 +105,10 @@ private:
     void open(const QByteArray &ppd);
     void search(const QString &query);
     QListWidget *results() const { return m_window->findChild<SearchBar *>()->results(); }
-    // What has been found, without the marks of direction in it.
+    // A search result without its direction marks.
     QString lineOf(int row) const { return results()->item(row)->text().remove(QChar(0x200e)).simplified(); }
     platform::ChoiceBox *box(const QString &keyword) const;
-    // Opens the list of a box and picks an item with the keyboard.
+    // Opens the list of a box and selects an item with the keyboard.
     void pick(const QString &keyword, const QString &choice);
     QString barText() const { return m_window->messageBar()->text(); }
 
@@ -150,7 +150,7 @@ void FindSettingTest::search(const QString &query)
     for (const QChar c : query) {
         if (c.unicode() < 0x80)
             QTest::keyClick(bar->field(), c.toLatin1());
-        else // comes from an input method
+        else // from an input method
             bar->field()->insert(c);
     }
 }
@@ -183,7 +183,7 @@ void FindSettingTest::leadsToTheSetting_data()
     QTest::addColumn<QString>("query");
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("name"); // of the control, to a screen reader
+    QTest::addColumn<QString>("name"); // of the control, for a screen reader
     const QString one = u"com.kelmar.pde.color-settings-1"_s;
     QTest::newRow("general setting") << u"copies"_s << u"General › Copies"_s << u"general"_s << u"Copies"_s;
     QTest::newRow("any order, any case")
@@ -241,7 +241,7 @@ void FindSettingTest::findsNoCodes()
         search(query);
         QCOMPARE(results()->count(), 0);
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
-        QVERIFY(m_window->isVisible() && m_system.submitted.isEmpty()); // Return prints nothing from here
+        QVERIFY(m_window->isVisible() && m_system.submitted.isEmpty()); // Return does not print here
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
     }
 }
@@ -295,7 +295,7 @@ void FindSettingTest::greyedChoiceIsOffered()
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick1"_s);
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
 
-    pick(u"MediaType"_s, u"Thick2"_s); // and this time everything stays as it is
+    pick(u"MediaType"_s, u"Thick2"_s); // and this time everything stays unchanged
     m_window->messageBar()->buttons().last()->click();
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
 }
@@ -387,14 +387,14 @@ void FindSettingTest::helpOfEveryPage()
     auto *help = m_window->findChild<HelpPage *>();
     Q_EMIT help->browser()->anchorClicked(QUrl(u"finding.md"_s));
     QVERIFY(help->text().startsWith(u"Finding Your Way"_s));
-    Q_EMIT help->browser()->anchorClicked(QUrl(u"file:///etc/passwd"_s)); // leads nowhere
+    Q_EMIT help->browser()->anchorClicked(QUrl(u"file:///etc/passwd"_s)); // is not followed
     Q_EMIT help->browser()->anchorClicked(QUrl(u"../../passwd.md"_s));
     QVERIFY(help->text().startsWith(u"Finding Your Way"_s));
-    QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier); // a page takes its place
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier); // is replaced by a page
     QVERIFY(!help->isVisible());
 }
 
-// Each language has each page, and no link leads nowhere.
+// Each language has all pages, and all links have a target.
 void FindSettingTest::helpSpeaksEveryLanguage()
 {
     const QString host = sourcePath("/host/help/");
@@ -422,7 +422,7 @@ void FindSettingTest::helpSpeaksEveryLanguage()
 void FindSettingTest::controlsSayWhatTheyAreFor()
 {
     m_window->finishLater();
-    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // what comes after the first paint
+    QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s)); // created after the first paint
     search(u"toner"_s);
     for (int page = 0; page < m_window->book()->list()->count(); ++page) {
         m_window->book()->showPage(page);
@@ -460,7 +460,8 @@ void FindSettingTest::controlsSayWhatTheyAreFor()
     QTest::keyClick(mode, Qt::Key_Escape);
 }
 
-// A screen reader names a box by its label, and may ask an area that scrolls for what has just gone from it.
+// A screen reader names a box by its label, and may query a scroll area for a widget that was just removed
+// from it.
 void FindSettingTest::readersFindTheirWay()
 {
     QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-border"_s));

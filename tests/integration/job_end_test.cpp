@@ -32,7 +32,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Programs of this process talk to another server for a while.
+// Makes programs started by this process use another server for a while.
 class OtherServer
 {
 public:
@@ -53,7 +53,7 @@ private:
     QByteArray m_before;
 };
 
-// The dialog on the document, without a bundle.
+// The dialog with the document, without a bundle.
 struct PlainDialog
 {
     explicit PlainDialog(const QString &printer) : window(system, none, taskAt(printer)) {}
@@ -72,8 +72,8 @@ struct PlainDialog
 
 } // namespace
 
-// How a job ends when something goes wrong on the way, as a script and a window are told, against a real
-// print server.
+// The outcome of a job with errors on the way, as reported to a script and in a window, with a real print
+// server.
 class JobEndTest : public QObject
 {
     Q_OBJECT
@@ -95,10 +95,10 @@ private Q_SLOTS:
     void loginDialogGoesWithTheWindow();
 
 private:
-    // Until it goes, all requests take a way on which some go wrong (faulty_proxy.py).
+    // During its lifetime, all requests go through faulty_proxy.py, which makes some of them fail.
     ChildProcess faulty(const QString &fault, int number = 1);
     int unfinishedJobs() const;
-    // Pauses the queue "other" first, so that the job stays.
+    // Pauses the queue "other" first, so that the job stays there.
     void printOnPaused(PrintWindow *window);
 
     PrivateCupsd m_server;
@@ -334,11 +334,10 @@ void JobEndTest::jobIsChangedFromTheResult()
     }));
 }
 
-// An administrator takes it out of the history while the dialog follows it.
+// An administrator removes it from the history while the dialog follows it.
 void JobEndTest::forgottenJob_data()
 {
-    QTest::addColumn<QString>(
-        "fault"); // of a way to the server; none where the server itself forgets the job
+    QTest::addColumn<QString>("fault"); // of a proxy; none if the server itself loses the job
     QTest::newRow("forgotten") << QString();
     QTest::newRow("gone") << u"look-gone"_s;
 }
@@ -347,7 +346,7 @@ void JobEndTest::forgottenJob()
 {
     QFETCH(QString, fault);
     const auto proxy =
-        fault.isNull() ? ChildProcess() : faulty(fault, 2); // the first look follows the documents
+        fault.isNull() ? ChildProcess() : faulty(fault, 2); // the first query follows the documents
     std::optional<OtherServer> scope;
     if (proxy)
         scope.emplace(m_server.folder() + u"/faulty.sock"_s);
@@ -380,10 +379,10 @@ void JobEndTest::loginInTheWindow()
     task.printer = u"office"_s;
     PrintError error;
     {
-        PrintWindow window(system, none, task); // nobody answers
+        PrintWindow window(system, none, task); // the login prompt is not answered
         QVERIFY(window.open(&error));
         QTRY_VERIFY(window.findChild<UnavailablePage *>()->isVisibleTo(&window));
-        QVERIFY(!window.session()); // rather than one without the printer's settings
+        QVERIFY(!window.session()); // instead of one without the printer's settings
     }
     QList<bool> asked;
     system.setLoginPrompt([&](const LoginQuestion &question) {
@@ -396,7 +395,7 @@ void JobEndTest::loginInTheWindow()
     window.print();
     QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.messageBar()->text()), 15000);
     QVERIFY(m_server.waitForJob(window.submission()->job.id));
-    QCOMPARE(asked, QList<bool>({false, true})); // once, and once more after the wrong one
+    QCOMPARE(asked, QList<bool>({false, true})); // once, and again after the wrong answer
     cupsSetUser(nullptr);
 }
 
@@ -413,7 +412,7 @@ void JobEndTest::loginNobodyGives()
     QCOMPARE(m_server.capturedJobs(), before);
 }
 
-// For all requests that were under way.
+// The refusal applies to all requests in progress.
 void JobEndTest::loginIsRefusedOnce()
 {
     const auto proxy = faulty(u"login"_s);

@@ -27,7 +27,7 @@ constexpr qint64 longestGap = 100;
 
 } // namespace
 
-// A printer that announces itself over a real avahi-daemon, in a network of the test's own.
+// A printer that announces itself through a real avahi-daemon in a private network.
 class NetworkPrintersTest : public QObject
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     QTest::keyClicks(box->searchField(), u"attic"_s);
     QTest::keyClick(box->searchField(), Qt::Key_Return);
     QTRY_COMPARE_WITH_TIMEOUT(window.session()->destination().queue, u"Attic"_s, 20'000);
-    QVERIFY(window.session()->ppd()); // which the server has made of what the printer says
+    QVERIFY(window.session()->ppd()); // created by the server from the printer's attributes
     window.print();
     QTRY_VERIFY_WITH_TIMEOUT(window.submission() && window.submission()->isAccepted(), 15'000);
     const auto job = m_server.waitForJob(window.submission()->job.id);

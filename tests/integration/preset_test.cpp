@@ -36,7 +36,7 @@ bool runs(const QString &program, const QStringList &arguments)
 
 } // namespace
 
-// Presets made here are those of every program, and the reverse: against a real print server and its clients.
+// Presets are compatible with other programs, in both directions: with a real print server and its clients.
 class PresetTest : public QObject
 {
     Q_OBJECT
@@ -109,13 +109,13 @@ void PresetTest::otherProgramsPrintWithThePreset()
     QCOMPARE(m_json[u"error"_s][u"code"_s].toString(), u"no-such-preset"_s);
 }
 
-// For root it is everybody's.
+// As root, the presets of all users.
 void PresetTest::fileThatCannotBeReadIsTold()
 {
     const PresetStore::Files files = PresetStore::filesOfCups();
     const QString path = files.writesForEverybody ? files.everybodys : files.users;
     (void)QFile::remove(path);
-    QVERIFY(QDir().mkpath(path)); // which root cannot read either
+    QVERIFY(QDir().mkpath(path)); // a folder, which root cannot read either
     QCOMPARE(run({u"--summary"_s}), int(ExitSuccess));
     QVERIFY2(m_json[u"notices"_s][0].toString().startsWith(u"Your own defaults"_s),
              QJsonDocument(m_json).toJson().constData());
@@ -128,7 +128,7 @@ void PresetTest::presetsOfOtherProgramsAreThere()
     QVERIFY(runs(u"lpoptions"_s, {u"-p"_s, u"office/theirs"_s, u"-o"_s, u"job-priority=30"_s, u"-o"_s,
                                   u"Duplex=DuplexTumble"_s}));
     QCOMPARE(preset(u"theirs"_s)[u"Duplex"_s].toString(), u"DuplexTumble"_s);
-    // What nobody here knows is taken along by who changes the rest.
+    // Unknown options are kept when the others change.
     QCOMPARE(
         run({u"-d"_s, u"office/theirs"_s, u"--save-preset"_s, u"theirs"_s, u"--set"_s, u"TonerSave=True"_s}),
         int(ExitSuccess));
@@ -147,7 +147,7 @@ void PresetTest::codesAreNotKept_data()
     QTest::newRow("job password") << QStringList{u"-o"_s, u"job-password=7777"_s};
 }
 
-// By a program that has no bundle to tell what a code is.
+// By a program without a bundle that declares codes.
 void PresetTest::codesAreNotKept()
 {
     QFETCH(QStringList, words);
@@ -207,7 +207,7 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
 
 int main(int argc, char **argv)
 {
-    QApplication app(argc, argv); // panels are made of widgets
+    QApplication app(argc, argv); // panels consist of widgets
     PresetTest test;
     return QTest::qExec(&test, argc, argv);
 }

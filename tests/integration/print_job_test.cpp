@@ -31,7 +31,7 @@ QByteArray gzipped(const QByteArray &contents)
 
 } // namespace
 
-// The program as a script calls it, against a real print server: what reaches the printer.
+// The program as called by a script, with a real print server: the data that reaches the printer.
 class PrintJobTest : public QObject
 {
     Q_OBJECT
@@ -61,7 +61,7 @@ private Q_SLOTS:
     void listIsThatOfLibcups();
 
 private:
-    // Runs a batch job that must succeed, and gives what reached the printer.
+    // Runs a batch job that must succeed, and returns what reached the printer.
     std::optional<CapturedJob> print(const QStringList &words, const QByteArray &input = {});
     QString file(const QString &name, const QByteArray &contents) { return write(m_server, name, contents); }
 
@@ -104,7 +104,7 @@ void PrintJobTest::privateJobArrivesWhole()
                             u"2"_s, u"-P"_s, u"1-2"_s, u"-o"_s, u"example-note=two words"_s, document});
     QVERIFY(job);
     const QString text = job->optionText;
-    // Choices arrive as chosen, a Boolean too, and digits although 0 is the printer's default.
+    // Choices arrive unchanged, including a Boolean, and digits even if 0 is the printer's default.
     const QStringList expected{u"PrintMode=Private"_s, u"DeptCode=True"_s,
                                u"DCDigit1=0"_s,        u"DCDigit2=1"_s,
                                u"DCDigit3=2"_s,        u"DCDigit4=3"_s,
@@ -123,7 +123,7 @@ void PrintJobTest::customValuesArriveWhole_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("printed"); // among the PostScript of the real filters
+    QTest::addColumn<QByteArray>("printed"); // in the PostScript of the real filters
     QTest::newRow("size") << u"PageSize"_s << u"Custom.300x400"_s
                           << QByteArray("%%HiResBoundingBox: 0 0 300.00 400.00");
     QTest::newRow("number") << u"StpGamma"_s << u"Custom.1.5"_s << QByteArray("*CustomStpGamma True\n1.5");
@@ -273,7 +273,7 @@ void PrintJobTest::documentsAreTheServersBusiness()
         QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
 }
 
-// It looks well at its beginning; the job is there already when its end turns out to be missing.
+// Its beginning is valid; the job already exists when its end turns out to be missing.
 void PrintJobTest::documentThatEndsEarly()
 {
     QByteArray text;
@@ -300,7 +300,7 @@ void PrintJobTest::namesAndPipes()
     process.setWorkingDirectory(m_server.folder());
     process.start(u"bash"_s, {u"-c"_s, command, u"bash"_s, program, document});
     QVERIFY(process.waitForFinished());
-    // A name that QTemporaryDir could not remove.
+    // QTemporaryDir could not remove this name.
     QCOMPARE(::unlink((m_server.folder().toLocal8Bit() + "/caf\xe9.pdf").constData()), 0);
     const QByteArray out = process.readAllStandardOutput();
     QVERIFY2(process.exitCode() == 0, (out + process.readAllStandardError()).constData());
@@ -322,7 +322,7 @@ void PrintJobTest::lastWordCounts()
     QCOMPARE(job->options.value(u"number-up"_s), u"4"_s);
     QVERIFY2(job->optionText.count(u"number-up="_s) == 1, qPrintable(job->optionText));
     QVERIFY2(job->optionText.contains(u"example-empty="_s), qPrintable(job->optionText));
-    // One page: the server has it as the range from 1 to 1, which is no difference.
+    // One page: the server stores it as the range from 1 to 1, which is not a difference.
     const Outcome outcome = run({u"--batch"_s, u"-P"_s, u"1"_s, document});
     QCOMPARE(outcome.json[u"job"_s][u"differences"_s].toArray(), QJsonArray());
     QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
@@ -334,7 +334,7 @@ void PrintJobTest::resultsThatCannotBeWritten_data()
     QTest::newRow("summary, full") << u"--summary >/dev/full"_s;
     QTest::newRow("options, full") << u"--list-options >/dev/full"_s;
     QTest::newRow("JSON, closed") << u"--summary --json >&-"_s;
-    // Found out before anything is sent.
+    // Detected before anything is sent.
     QTest::newRow("JSON of a job, full") << u"--batch --json \"$2\" >/dev/full"_s;
     QTest::newRow("summary before a job, full") << u"--batch --summary \"$2\" >/dev/full"_s;
     QTest::newRow("JSON of a job, closed") << u"--batch --json \"$2\" >&-"_s;
@@ -356,7 +356,7 @@ void PrintJobTest::temporaryFolder()
 {
     const qsizetype all = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
     QVERIFY(all > 40);
-    qputenv("TMPDIR", "/dev/null/nowhere"); // nobody can make it
+    qputenv("TMPDIR", "/dev/null/nowhere"); // which cannot be created
     const qsizetype without = run({u"--list-options"_s}).json[u"options"_s].toArray().size();
     const Outcome input = run({u"--batch"_s, u"-"_s}, "text\n");
     qunsetenv("TMPDIR");
@@ -365,7 +365,7 @@ void PrintJobTest::temporaryFolder()
     QVERIFY(input.json[u"error"_s][u"message"_s].toString().contains(u"/dev/null/nowhere"_s));
 }
 
-// As the service asks for it: the request on the input, the document as a descriptor.
+// As requested by the service: the request on the input, the document as a descriptor.
 void PrintJobTest::documentOfAnApplicationIsSent()
 {
     const auto send = [](const QString &printer, const QString &path) {
@@ -377,13 +377,13 @@ void PrintJobTest::documentOfAnApplicationIsSent()
         while (!process.canReadLine() && process.waitForReadyRead(20000))
             continue;
         const QByteArray answer = process.readLine();
-        process.kill(); // it may be showing what went wrong
+        process.kill(); // it may be showing an error
         process.waitForFinished();
         return answer;
     };
     QCOMPARE(send(u"office"_s, document), QByteArray("{\"response\":0}\n"));
     auto job = m_server.waitForNextJob();
-    while (job && job->title != "Letter"_L1) // others may not have been looked at
+    while (job && job->title != "Letter"_L1) // there may be other jobs
         job = m_server.waitForNextJob();
     QVERIFY(job);
     QCOMPARE(job->copies, 2);
@@ -409,7 +409,7 @@ void PrintJobTest::queueOfTheDialogIsNoPrinter()
     QVERIFY2(error.message.contains(u"opens the print dialog"_s), qPrintable(error.message));
 }
 
-// Which would take a connection and time-outs of its own for it.
+// libcups would use a separate connection with its own time-outs.
 void PrintJobTest::listIsThatOfLibcups()
 {
     QVERIFY(QDir(m_server.folder()).mkpath(u".cups"_s));
@@ -432,7 +432,7 @@ void PrintJobTest::listIsThatOfLibcups()
                     .join(u'|'));
         return 1;
     };
-    // On a thread of its own, where libcups looks for the home anew.
+    // On a separate thread, where libcups determines the home folder again.
     const auto expectedBeside = platform::callBeside(
         [&collect] {
             QStringList list;

@@ -40,7 +40,7 @@ bool hasLetters(const QString &text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
-// What of a text stands outside the brackets of the made-up language.
+// The part of a text outside the brackets of the artificial language.
 QString outside(const QString &text)
 {
     QString rest;
@@ -54,7 +54,7 @@ QString outside(const QString &text)
     return rest;
 }
 
-// Items of lists count for their box.
+// Items of lists count as texts of their box.
 QStringList textsOf(const QWidget *widget)
 {
     QStringList texts{widget->property("text").toString(),
@@ -90,8 +90,8 @@ bool isControl(const QWidget *widget)
 
 } // namespace
 
-// Every page in a language of long, accented words that nobody has written, from left to right and mirrored:
-// what nobody translates, what does not fit and what overlaps shows itself.
+// Every page in an artificial language of long, accented words, from left to right and mirrored, to detect
+// untranslated, truncated and overlapping texts.
 class PseudoLocaleTest : public QObject
 {
     Q_OBJECT
@@ -236,7 +236,7 @@ void PseudoLocaleTest::checkRoom()
                                                         : widget->minimumSizeHint();
         const auto *box = qobject_cast<const QComboBox *>(widget);
         if (box && box->sizeAdjustPolicy() == QComboBox::AdjustToMinimumContentsLengthWithIcon)
-            continue; // is made to be narrower than its texts
+            continue; // may be narrower than its texts
         if (wanted.width() > widget->width() || wanted.height() > widget->height())
             QTest::qFail(qPrintable(u"clipped: %1, %2x%3 of %4x%5"_s.arg(describe(widget))
                                         .arg(widget->width())
@@ -256,7 +256,7 @@ void PseudoLocaleTest::checkRoom()
     }
 }
 
-// The list of pages leads, and labels stand before their fields.
+// The list of pages comes first, and labels precede their fields.
 void PseudoLocaleTest::checkMirrored()
 {
     const bool isMirrored = m_window->layoutDirection() == Qt::RightToLeft;

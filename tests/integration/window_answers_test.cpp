@@ -34,7 +34,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Milliseconds. Sanitizers slow the program down several times.
+// Milliseconds. Sanitizers make the program several times slower.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr qint64 longestGap = 1500;
 constexpr qint64 longestReaction = 3000;
@@ -47,7 +47,7 @@ constexpr int manyQueues = 700;
 const QString document = sourcePath("/demo/report.pdf");
 const QString familyPpd = buildPath("/ppds/kelm880.ppd");
 
-// Raw queues, as the server keeps them in its configuration.
+// Raw queues in the format of the server's configuration.
 QByteArray queueList(int count)
 {
     QByteArray text;
@@ -61,14 +61,14 @@ QByteArray queueList(int count)
 
 } // namespace
 
-// What the user does, and what the server must have been asked by then.
+// The user's action, and the requests that the server must have received by then.
 enum class Stage { Opening, Listing, Sending, Following };
 enum class Way { GiveUp, Close };
 Q_DECLARE_METATYPE(Stage)
 Q_DECLARE_METATYPE(Way)
 
-// The dialog with its bundle, while a print server, a device or a name server takes its time: whatever is
-// waited for, the dialog's thread goes on, and who wants out gets out.
+// The dialog with its bundle, while a print server, a device or a name server does not respond: the dialog's
+// thread remains responsive, and the user can always stop waiting.
 class WindowAnswersTest : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ private:
     void lengthenDocument();
     void open(const QString &printer = u"office"_s, CupsPrintSystem *system = nullptr);
     QPushButton *button(const QString &text) const;
-    // Clicks, and waits for what is to come of it, which is to take no longer than people notice.
+    // Clicks, and waits for the result, which must not take noticeably long.
     template <typename Condition>
     void clickUntil(QWidget *target, Condition done, const char *what);
     template <typename W>
@@ -118,7 +118,7 @@ void WindowAnswersTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
-    // Whoever is asked for the address of a name is on the loopback interface, too.
+    // The name server is also on the loopback interface.
     QFile resolver(m_server.folder() + u"/resolv.conf"_s);
     QVERIFY(resolver.open(QIODevice::WriteOnly) &&
             resolver.write("nameserver 127.0.0.53\noptions timeout:1 attempts:1\n") > 0);
@@ -139,14 +139,14 @@ void WindowAnswersTest::initTestCase()
         QVERIFY2(m_server.addQueue(queue, familyPpd, u"socket://%1:9100"_s.arg(address)),
                  qPrintable(m_server.problem()));
     QVERIFY(m_server.setPaused(u"halted"_s, true)); // its jobs do not end
-    // Else the server would have to tell of all queues, for seconds, when nobody names one.
+    // Otherwise the server would list all queues, which takes seconds, if no queue is named.
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
     QString problem;
     m_proxy.emplace(m_server.folder() + u"/slow.sock"_s, m_server.socketPath(), &problem);
     QVERIFY2(m_proxy->isRunning(), qPrintable(problem));
     qputenv("CUPS_SERVER", m_proxy->socketPath().toLocal8Bit());
     m_file = document;
-    open(); // what is done once a program is not what is measured
+    open(); // work that is done once per program is not measured
     QTRY_VERIFY(m_window->session());
     m_window.reset();
 }
@@ -157,7 +157,7 @@ void WindowAnswersTest::init()
     m_file = document;
 }
 
-// More of it than the server's socket takes in.
+// Longer than the server's socket can buffer.
 void WindowAnswersTest::lengthenDocument()
 {
     m_file = m_server.folder() + u"/long.pdf"_s;
@@ -216,9 +216,9 @@ void WindowAnswersTest::clickUntil(QWidget *target, Condition done, const char *
 void WindowAnswersTest::serverNeverAnswers_data()
 {
     QTest::addColumn<Stage>("stage");
-    QTest::addColumn<QByteArray>("request"); // as the proxy names it
+    QTest::addColumn<QByteArray>("request"); // in the proxy's naming
     QTest::addColumn<Way>("way");
-    QTest::addColumn<QString>("told"); // to who gave up
+    QTest::addColumn<QString>("told"); // after the user stopped waiting
     const auto bothWays = [](const char *what, Stage stage, const char *request, const char *told = "") {
         QTest::addRow("%s, given up", what)
             << stage << QByteArray(request) << Way::GiveUp << QString::fromLatin1(told);
@@ -269,7 +269,7 @@ void WindowAnswersTest::serverNeverAnswers()
     if (stage == Stage::Opening || stage == Stage::Sending)
         QTRY_VERIFY(waiting->isVisible());
     if (way == Way::Close) {
-        if (stage == Stage::Sending) // the first one ends the sending
+        if (stage == Stage::Sending) // the first one ends the submission
             clickUntil(
                 button(u"Cancel"_s), [&] { return !waiting->cancelButton()->isEnabled(); }, "cancel");
         clickUntil(button(stage == Stage::Following ? u"Close"_s : u"Cancel"_s), closed, "close");
@@ -293,7 +293,7 @@ void WindowAnswersTest::serverNeverAnswers()
 void WindowAnswersTest::serverStopsAnswering_data()
 {
     QTest::addColumn<Stage>("stage");
-    QTest::addColumn<QByteArray>("request"); // as the proxy names it
+    QTest::addColumn<QByteArray>("request"); // in the proxy's naming
     QTest::addColumn<QString>("told");
     const QString silent = u"has stopped answering."_s;
     const QString look = u" Look at the queue before printing again."_s;
@@ -306,7 +306,7 @@ void WindowAnswersTest::serverStopsAnswering_data()
                                      << silent + u" The unfinished job %1 could not be canceled."_s + look;
 }
 
-// Nobody gives up here: the window does, and says so.
+// The user does not stop waiting: the window does, and reports it.
 void WindowAnswersTest::serverStopsAnswering()
 {
     QFETCH(Stage, stage);
@@ -322,15 +322,15 @@ void WindowAnswersTest::serverStopsAnswering()
         QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     }
     QTRY_VERIFY(m_proxy->hasStalled());
-    // A second time as long is not waited for.
+    // There is no second wait of the same length.
     QTRY_VERIFY_WITH_TIMEOUT(!platform::Background::isUnderWay(), 7'500);
-    if (told.isEmpty()) // the list is missing, nothing else
+    if (told.isEmpty()) // only the list is missing
         return;
     const auto text = [this] {
         return m_window->messageBar()->text() + find<UnavailablePage>()->reason() +
                find<ResultPage>()->text();
     };
-    // What the work brings is delivered after it has ended.
+    // The result is delivered after the work has ended.
     const auto isTold = [&] {
         const auto &submission = m_window->submission();
         return text().contains(
@@ -339,7 +339,7 @@ void WindowAnswersTest::serverStopsAnswering()
     QTRY_VERIFY2(isTold(), qPrintable(text()));
 }
 
-// As on a home that is not there just now.
+// As with a home folder that is temporarily unavailable.
 void WindowAnswersTest::settingsFileNeverAnswers()
 {
     const QString path = QSettings().fileName();
@@ -349,11 +349,12 @@ void WindowAnswersTest::settingsFileNeverAnswers()
         const platform::UniqueFd writer(
             ::open(QFile::encodeName(aside).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
         QVERIFY(QFile::remove(aside));
-        QVERIFY(writer); // somebody was waiting
+        QVERIFY(writer); // a reader was waiting
     };
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
     QFile::remove(path);
-    QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0); // who opens it waits for a writer
+    // opening it blocks until there is a writer
+    QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
     m_heart->start();
     open(QString());
     QTRY_VERIFY(find<WaitingPage>()->isVisible());
@@ -423,7 +424,7 @@ void WindowAnswersTest::serverPauses()
 void WindowAnswersTest::deviceIsSilent_data()
 {
     QTest::addColumn<QString>("queue");
-    QTest::addColumn<QByteArray>("address"); // of who is asked
+    QTest::addColumn<QByteArray>("address"); // of the queried server
     QTest::addColumn<int>("port");
     QTest::newRow("device") << u"office"_s << QByteArray("127.0.0.2") << 161;
     QTest::newRow("name server") << u"attic"_s << QByteArray("127.0.0.53") << 53;
@@ -440,7 +441,7 @@ void WindowAnswersTest::deviceIsSilent()
     QTRY_VERIFY(m_window->session());
     auto *list = m_window->book()->list();
     const int row = m_window->book()->pageNamed(u"color-settings-1"_s);
-    // What waits does so within the click that began it: another one ends it.
+    // The wait runs within the click that started it; another click ends it.
     ThreadClock sinceGivenUp;
     QTimer impatience;
     connect(&impatience, &QTimer::timeout, this, [&] {
@@ -471,7 +472,7 @@ void WindowAnswersTest::deviceIsSilent()
     clickAndGiveUp(reload, {});
 }
 
-// The panel that waits goes with its session, but not under its own feet.
+// The waiting panel is destroyed with its session, but not while it is being called.
 void WindowAnswersTest::printerArrivesWhileAPanelWaits()
 {
     const SilentSocket silent("127.0.0.2", 161);
@@ -486,7 +487,7 @@ void WindowAnswersTest::printerArrivesWhileAPanelWaits()
     giveUp.setSingleShot(true);
     connect(&giveUp, &QTimer::timeout, this, [&] {
         QCOMPARE(m_window->session()->destination().queue, u"office"_s);
-        m_window->print(); // as assistive technology does, past what keeps input away
+        m_window->print(); // like assistive technology, which bypasses the input filter
         QVERIFY(!find<WaitingPage>()->isVisible());
         QTest::mouseClick(button(u"Do Not Wait"_s), Qt::LeftButton);
     });
@@ -500,7 +501,7 @@ void WindowAnswersTest::printerArrivesWhileAPanelWaits()
     Q_EMIT find<PrinterPicker>()->picked(u"office"_s);
     QTRY_VERIFY(find<WaitingPage>()->isVisible());
     QTest::keyClick(m_window.get(), Qt::Key_PageUp, Qt::ControlModifier);
-    QCOMPARE(m_window->book()->currentRow(), now); // of pages that nobody sees
+    QCOMPARE(m_window->book()->currentRow(), now); // of pages that are not visible
 }
 
 void WindowAnswersTest::manyQueuesLoad()

@@ -29,7 +29,7 @@ int main(int argc, char **argv)
     if (!window.open(&error))
         return 2;
     window.show();
-    const auto settle = [] { // until nothing is under way any more, and everybody has heard of it
+    const auto settle = [] { // until nothing is in progress any more and all results were delivered
         while (platform::Background::isUnderWay())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
         QCoreApplication::processEvents();
