@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: Apache-2.0
 """Answers snmpd for a simulated printer: agent.py DEVICEFILE, run by snmpd's pass_persist.
 
-snmpd writes "PING", or "get" or "getnext" and an OID on lines of their own; the answer is "PONG", the three lines
-OID, type and value, or "NONE".
+snmpd writes "PING", or "get" or "getnext" followed by a line with an OID. The answer is "PONG", three lines with OID, type
+and value, or "NONE".
 """
 import bisect
 import configparser
@@ -23,7 +23,7 @@ def parse_oid(text):
 
 
 def text_value(text):
-    """Type and value of a text: as it is where it is plain ASCII, else as bytes in hexadecimal."""
+    """Type and value of a text: unchanged if it is plain ASCII, else as hexadecimal bytes."""
     octets = re.sub(
         rb"\\(x[0-9A-Fa-f]{2}|\\)",
         lambda m: b"\\" if m[1] == b"\\" else bytes([int(m[1][1:], 16)]),
@@ -35,7 +35,7 @@ def text_value(text):
 
 
 def read_device(path):
-    """The objects of a device file: OID to type and value."""
+    """Reads a device file: maps OIDs to type and value."""
     device = configparser.ConfigParser(interpolation=None, delimiters=("=",), comment_prefixes=("#",))
     with open(path, encoding="utf-8") as file:
         device.read_file(file)

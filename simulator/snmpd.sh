@@ -4,11 +4,11 @@
 
 # A simulated printer: snmpd on port 161 of a loopback address, serving the tables of a device file.
 #
-#   snmpd.sh start DIR ADDRESS DEVICEFILE   returns when it answers; DIR gets its configuration, log and pid file
-#   snmpd.sh run DIR ADDRESS DEVICEFILE     the same in the foreground; says "NET-SNMP version" when it answers
+#   snmpd.sh start DIR ADDRESS DEVICEFILE   returns when it responds; DIR receives its configuration, log and PID file
+#   snmpd.sh run DIR ADDRESS DEVICEFILE     the same in the foreground; prints "NET-SNMP version" when it responds
 #   snmpd.sh stop DIR
 #
-# Port 161 needs root, or a network namespace of one's own.
+# Port 161 requires root, or a private network namespace.
 set -eu
 
 usage() {
@@ -22,9 +22,9 @@ configure() {
     device=$(CDPATH='' cd -- "$(dirname -- "$3")" && pwd)/$(basename -- "$3")
     mkdir -p "$1"
     folder=$(CDPATH='' cd -- "$1" && pwd) # snmpd changes to the root folder
-    # Reads the file and ends: says what is wrong with it before snmpd hides that in its log.
+    # Only validates the file, since snmpd would hide errors in its log.
     python3 "$here/agent.py" "$device" </dev/null || exit 1
-    # snmpd splits a command at its spaces, whatever the quotes; so the paths come in by the environment.
+    # snmpd splits a command at spaces despite quotes, so the paths are passed in the environment.
     export SIMULATOR_AGENT="$here/agent.py" SIMULATOR_DEVICE="$device"
     # shellcheck disable=SC2016  # expanded by the shell that snmpd starts
     agent='/bin/sh -c exec${IFS}python3${IFS}"$SIMULATOR_AGENT"${IFS}"$SIMULATOR_DEVICE"'
@@ -32,7 +32,7 @@ configure() {
         *:*) listen="udp6:[$2]:161" access="rocommunity6 public" ;;
         *) listen="udp:$2:161" access="rocommunity public" ;;
     esac
-    # Each subtree gets an agent process of its own.
+    # Each subtree has a separate agent process.
     cat >"$folder/snmpd.conf" <<CONF
 $access
 pass_persist .1.3.6.1.4.1.5309 $agent
@@ -45,7 +45,7 @@ daemon=$(PATH=$PATH:/usr/sbin command -v snmpd) || { echo "snmpd.sh: snmpd is no
 case "${1:-}:$#" in
     start:4)
         configure "$2" "$3" "$4"
-        # The parent returns once the port is open.
+        # The parent exits when the port is open.
         "$daemon" -Lf "$folder/snmpd.log" -C -c "$folder/snmpd.conf" -p "$folder/snmpd.pid" "$listen" ||
             { tail -n 3 "$folder/snmpd.log" >&2; exit 1; }
         ;;
@@ -54,7 +54,7 @@ case "${1:-}:$#" in
         exec "$daemon" -f -Lo -C -c "$folder/snmpd.conf" "$listen"
         ;;
     stop:2)
-        # Stopping one that does not run is no error.
+        # Stopping a server that is not running is not an error.
         [ -e "$2/snmpd.pid" ] || exit 0
         pid=$(cat "$2/snmpd.pid")
         kill "$pid" 2>/dev/null || true

@@ -1,14 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""The start of kelmar-print until the printer's options are painted, and the memory it then uses, compared with a bare
-Qt dialog and with Qt's print dialog: for a PPD of the family, and for PPDs of 200 options with 1,000 and 20,000
-constraints.
+"""Measures the start of kelmar-print until the printer's options are painted, and its memory at that time, compared
+with a bare Qt dialog and with Qt's print dialog: for a PPD of the family, and for PPDs of 200 options with 1,000
+and 20,000 constraints.
 
-All programs run in turn on one Xvfb and one private cupsd, and medians are compared. What counts is what a dialog adds
-to the bare one, since the rest is the start of any Qt program: (ours - bare) / (Qt's - bare). Exits 1 when a goal is
-missed. Usage: run.py BUILDDIR [REPETITIONS]
-"""
+All programs run alternately on one Xvfb and one private cupsd, and medians are compared. The time of the bare
+dialog is subtracted, since it is the start of any Qt program: (ours - bare) / (Qt's - bare). Exits with 1 if a goal
+is missed. Usage: run.py BUILDDIR [REPETITIONS]"""
 import os
 import statistics
 import subprocess
@@ -17,10 +16,10 @@ import tempfile
 import time
 from pathlib import Path
 
-SHARE_GOAL = 0.12  # of what Qt's print dialog adds to a bare dialog, with a PPD of the family
+SHARE_GOAL = 0.12  # of the time that Qt's print dialog adds to a bare dialog, with a PPD of the family
 LARGE_SHARE_GOAL = 0.10  # the same with MANY constraints
-GROWTH_GOAL = 0.08  # of what Qt's grows by from FEW to MANY constraints
-LIBCUPS_GROWTH_GOAL = 2.0  # times what fetching, opening and marking with libcups grows by
+GROWTH_GOAL = 0.08  # of the growth of Qt's print dialog from FEW to MANY constraints
+LIBCUPS_GROWTH_GOAL = 2.0  # times the growth of downloading, opening and marking with libcups
 RESIDENT_GOAL = 1.0  # of Qt's print dialog, with a PPD of the family
 LARGE_RESIDENT_GOAL = 0.75
 FEW, MANY = 1000, 20000  # constraints
@@ -29,7 +28,7 @@ CUPSD = SOURCE / "scripts/lib/private-cupsd.sh"
 
 
 def launch(command, environment):
-    """Runs a program with the time just before exec in KELMAR_T0_NS; gives its figures."""
+    """Runs a program with the time just before exec in KELMAR_T0_NS; returns its figures."""
     reading, writing = os.pipe()
     pid = os.fork()
     if pid == 0:
@@ -51,7 +50,7 @@ def launch(command, environment):
 
 
 def measure(programs, environment, repetitions):
-    """Interleaved runs; the first round only warms the caches."""
+    """Runs the programs alternately; the first round only warms the caches."""
     samples = {name: [] for name in programs}
     for turn in range(repetitions + 1):
         for name, command in programs.items():
@@ -125,7 +124,7 @@ def add_large_queue(folder, build, constraints):
 
 
 def judge(what, ratio, goal):
-    """1 for a goal that is missed."""
+    """Returns 1 if a goal is missed."""
     missed = ratio > goal
     print(f"{what}: {ratio:.3f}, goal at most {goal}: {'MISSED' if missed else 'met'}")
     return int(missed)

@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Sourced by tests that need this computer's print server.
+# Sourced by tests that need the computer's print server.
 
-# Starts it where no service manager has, and ends it with the test then.
+# Starts it if no service manager has done so, and then stops it when the test ends.
 own_cupsd=
 need_cupsd() {
     lpstat -h /run/cups/cups.sock -r 2>/dev/null | grep -q 'is running' && return

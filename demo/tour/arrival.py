@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""What the printer of the tour got."""
+"""Shows what reached the printer of the tour."""
 
 import os
 import re
@@ -9,7 +9,8 @@ from session import expect, wait
 
 
 def show_arrival(cups):
-    """What reached the printer's backend: options, and the sides in the data. The private server's folder is `cups`."""
+    """Prints the options and the number of sides that reached the printer's backend. `cups` is the folder of the private
+    server."""
     arguments = os.path.join(cups, "jobs", "1.args")
     wait("the job at the printer's backend", lambda: os.path.exists(arguments))
     with open(arguments) as file:

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Adds "Print…" to the menu of documents in the file manager. Loaded by nautilus-python where that is installed."""
+"""Adds "Print…" to the menu of documents in the file manager. Loaded by nautilus-python if it is installed."""
 import locale
 import subprocess
 
@@ -12,7 +12,7 @@ LABELS = {"de": "Drucken …", "fr": "Imprimer…", "ja": "印刷…", "es": "Im
 
 class KelmarPrintMenu(GObject.GObject, Nautilus.MenuProvider):
     def get_file_items(self, *arguments):
-        files = arguments[-1]  # older versions pass a window before them
+        files = arguments[-1]  # older versions pass a window first
         paths = [file.get_location().get_path() for file in files]
         if not paths or None in paths or any(file.get_mime_type() not in TYPES for file in files):
             return []

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Works the dialog over the accessibility bus, as a screen reader finds it: a private job that begins with two
-settings that exclude each other. Prints what the bus told, and fails when something was not announced.
+"""Operates the dialog over the accessibility bus like a screen reader: prints a private job after two conflicting
+settings. Prints the events of the bus, and fails if anything was not announced.
 
-Usage: private_job.py PROGRAM ARGUMENT...  (within an X display and a session bus of its own)"""
+Usage: private_job.py PROGRAM ARGUMENT...  (on a private X display and session bus)"""
 
 import os
 import subprocess
@@ -21,10 +21,10 @@ EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
 class Session:
     def __init__(self, command):
         self.log = []
-        self.descriptions = []  # of what was pressed
+        self.descriptions = []  # of the pressed buttons
         self.problem = "nothing happened"
-        # What must have been told, and what is pressed after it. The first question was there before anybody
-        # listened.
+        # The expected announcements, and the button pressed after each. The first question was shown before listening
+        # started.
         self.steps = [(None, "Keep and Review"), (None, "Print"), ("cannot be used together", "Apply Suggestion"),
                       (None, "Print"), ("Sent to", "Close")]
         for name in EVENTS:
@@ -39,13 +39,13 @@ class Session:
         try:
             role, name = event.source.getRoleName(), event.source.name
         except (GLib.GError, LookupError, RuntimeError):
-            return  # gone already
+            return  # no longer exists
         entry = (str(event.type), role, name, event.detail1)
         self.log.append(entry)
         print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
 
     def times_announced(self, words):
-        """How often a screen reader says it: when a notification appears, and with what it describes."""
+        """How often a screen reader announces a text: when a notification appears, and with the widgets that it describes."""
         shown = sum(kind == "object:state-changed:showing" and role == "notification" and shown and words in name
                     for kind, role, name, shown in self.log)
         return shown + sum(words in description for description in self.descriptions)

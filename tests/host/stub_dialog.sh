@@ -1,10 +1,10 @@
 #!/bin/bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# Stands in for the dialog: does what the title of the request says, and notes requests in $STUB_LOG.
+# Replaces the dialog in tests: acts according to the title of the request, and records requests in $STUB_LOG.
 read -r line
 [ -z "${STUB_LOG:-}" ] || printf '%s\n' "$line" >>"$STUB_LOG"
-follow() { # until it is told to go
+follow() { # until it is asked to exit
     cat >>"${STUB_LOG:-/dev/null}"
     echo gone >>"${STUB_LOG:-/dev/null}"
 }
@@ -16,7 +16,7 @@ case $line in
 *'"title":"no display"'*) echo '{"response":2,"reason":"display"}' ;;
 *'"title":"message"'*)
     echo '{"response":2,"reason":"document"}'
-    follow # as a message that the user has not closed
+    follow # like a message that the user has not closed yet
     ;;
 *'"title":"cancel"'*) echo '{"response":1}' ;;
 *'"title":"wait"'*)

@@ -1,23 +1,23 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""What was asked for beside what reached the printer: asked_arrived.py BUILD_FOLDER [WORD...]
+"""Compares requested settings with the data that reached the printer: asked_arrived.py BUILD_FOLDER [WORD...]
 
 Documents of several types are printed with several options on several kinds of queues, through the real filters of
-this system, with the program and, for comparison, with lp. A row a combination: what was asked, what arrived, and where
-lp differs. With words, only the rows that contain one. Exit code 1 when something asked for did not arrive, 77 when
-what it takes is not installed.
+this system, with the program and, for comparison, with lp. Prints a row for each combination: the request, the
+result, and differences of lp. With WORDs, runs only rows that contain one of them. Exit code 1 if a requested
+setting did not arrive, 77 if required programs are not installed.
 
-A case wants NAME=VALUE of these:
+The expected values of a case are NAME=VALUE with these names:
   pages, size    of the filtered data; size in points, of every page
   text           of each page, from its top left, with "/" between pages
   scale          of a box that is 200 points wide in the document, on the first page
-  turned=yes     the box, higher than wide in the document, lies on its side on the first page
-  copies         how many times the printer gives each page, by itself or because the data says so
-  whole=yes      the data is the document, byte by byte
+  turned=yes     the box, higher than wide in the document, is rotated on the first page
+  copies         the number of copies of each page, made by the printer or contained in the data
+  whole=yes      the data is identical to the document
   *NAME          a feature of the printer that the data sets up
-  NAME           an option as filters and backend are handed it
-  exit           the code that the program ends with; when it is not 0, nothing is printed
+  NAME           an option as received by filters and backend
+  exit           the exit code of the program; if it is not 0, nothing may be printed
 """
 import concurrent.futures
 import gzip
@@ -43,8 +43,8 @@ script = source / "scripts/lib/private-cupsd.sh"
 program = build / "bin/kelmar-print"
 A4, LETTER, A5 = "size=595x842", "size=612x792", "size=420x595"
 
-# Queue, document, words for the program, what has to arrive, and words for lp where they are others. Words for the
-# program may begin with variables of its environment.
+# Queue, document, arguments of the program, expected values, and arguments of lp if they differ. The program's arguments may
+# begin with environment variables.
 LOCKED = "KELMAR_PRINT_POLICY=locks.json "
 CASES = [
     # the family's own PPD
@@ -74,7 +74,7 @@ CASES = [
     ("office", "report.pdf", "--set PageSize=A5", f"pages=2 {A5}"),
     ("office", "note.txt", "-o media=Letter", f"pages=1 {LETTER}"),
     ("office", "picture.png", "--set ColorType=Mono", "pages=1 *ColorType=Mono"),
-    # how pages are put on paper
+    # page layout
     ("office", "five.pdf", "-o number-up=4", f"pages=2 {A4} text=1234/5 number-up=4"),
     ("office", "five.pdf", "-o number-up=4 -o number-up-layout=btrl", f"pages=2 {A4} text=4231/5"),
     ("office", "five.pdf", "--set number-up=9 --set number-up-layout=rltb", "pages=1 text=32154",
@@ -101,7 +101,7 @@ CASES = [
     ("office", "five.pdf", "-o media=A5,Tray2", f"pages=5 {A5} *InputSlot=Tray2"),
     ("office", "five.pdf", "-o media-col={media-size-name=iso_a5_148x210mm}", f"pages=5 {A5}"),
     ("office", "five.pdf", "-o outputorder=reverse -o sides=two-sided-long-edge", "pages=6 text=/5/4/3/2/1"),
-    # what is not printed
+    # documents that are refused
     ("office", "report.pdf", "--set PrintMode=Private", "exit=2", "-o PrintMode=Private"),
     ("office", "report.pdf", "--set PrintMode=Private -o DINDigit1=1", "exit=2", "-o PrintMode=Private"),
     ("office", "report.pdf", "--set PrintMode=Private --allow-no-password", "pages=2 *PrintMode=Private",
@@ -115,7 +115,7 @@ CASES = [
     ("office", "secret.pdf", "", "exit=2"),
     ("office", "five.pdf", "-P 9-12 --output out.pdf", "exit=2"),
     ("office", "cut.pdf", "--output out.pdf", "exit=2"),
-    # what the administrator has locked: A4 and two-sided printing
+    # settings locked by the administrator: A4 and two-sided printing
     ("office", "report.pdf", LOCKED, f"pages=2 {A4} *Duplex=DuplexNoTumble", ""),
     ("office", "report.pdf", LOCKED + "-o MEDIA=A4 -o Sides=two-sided-long-edge", f"{A4} *Duplex=DuplexNoTumble", ""),
     *(("office", "report.pdf", LOCKED + words, "exit=1", words) for words in (
@@ -123,7 +123,7 @@ CASES = [
         "-o 'media-col={media-size={x-dimension=29700 y-dimension=42000}}'", "-o sides=one-sided", "-o duplex=none",
         "-o raw", "-o document-format=application/vnd.cups-raw", "-o ColorBalanceCyan=2")),
     *((f"office/{preset}", "report.pdf", LOCKED, "exit=1", "") for preset in ("large", "cyan", "raw")),
-    # a preset of the user: two-sided, two pages on a sheet, monochrome
+    # a preset of the user: two-sided, two pages per sheet, monochrome
     ("office/draft", "five.pdf", "", "pages=3 *Duplex=DuplexNoTumble *ColorType=Mono"),
     ("office/draft", "five.pdf", "-o number-up=1 -o sides=one-sided", "pages=5 *Duplex=None number-up=1"),
     ("office/draft", "five.pdf", "--set Duplex=None --set ColorType=Color", "pages=3 *Duplex=None *ColorType=Color"),
@@ -131,7 +131,7 @@ CASES = [
     ("admin", "five.pdf", "", f"pages=5 *Duplex=DuplexNoTumble {A5} copies=2"),
     ("admin", "five.pdf", "--set Duplex=None --set PageSize=A4 -n 1", f"pages=5 *Duplex=None {A4} copies=1"),
     ("admin", "long.txt", "-o sides=one-sided -o media=A4", f"*Duplex=None {A4}"),
-    # the same with a preset against it, as this program writes it
+    # the same, overridden by a preset as written by this program
     ("admin/single", "five.pdf", "", f"pages=5 *Duplex=None {A5}"),
     # another model, and PPDs of other makers
     ("small", "five.pdf", "-n 2 --set ColorType=Mono -P 1-4", "pages=4 copies=2 *ColorType=Mono"),
@@ -141,7 +141,7 @@ CASES = [
     ("generic", "note.txt", "-n 3 -o media=A4", f"pages=3 {A4} copies=1"),
     ("custom", "report.pdf", "--set PageSize=Custom.300x400", "pages=2 size=300x400 PageSize=Custom.300x400"),
     ("custom", "note.txt", "--set StpGamma=Custom.1.5", "*CustomStpGamma=True StpGamma=Custom.1.5"),
-    # a printer that describes itself
+    # a driverless printer
     ("everywhere", "report.pdf", "--set Duplex=DuplexNoTumble --set PageSize=A4",
      f"pages=2 {A4} Duplex=DuplexNoTumble PageSize=A4"),
     ("everywhere", "five.pdf", "-n 2 -P 2-3", "pages=2 copies=2 page-ranges=2-3"),
@@ -167,7 +167,7 @@ CASES = [
     ("remote:office", "long.txt", "-n 2 --set Duplex=DuplexTumble", "pages=3 copies=2 *Duplex=DuplexTumble"),
     # the same server over TLS
     ("tls:office", "report.pdf", "-n 2 --set Duplex=DuplexTumble", "pages=2 copies=2 *Duplex=DuplexTumble"),
-    # queues that want to know who prints: by the socket's word, and by name and password
+    # queues that require authentication: by the socket's credentials, and by name and password
     ("members", "report.pdf", "-n 2 --set ColorType=Mono", "pages=2 copies=2 *ColorType=Mono"),
     ("login:office", "five.pdf", "-P 2-3 --set PrintMode=Private --set privatePassword=11111",
      "pages=2 *PrintMode=Private *DINDigit3=1",
@@ -205,7 +205,7 @@ def make_documents(folder):
         (folder / f"{name}.ps").write_text(f"%!PS-Adobe-3.0\n%%Pages: 1\n%%BoundingBox: 0 0 {size}\n%%EndComments\n"
                                            "%%Page: 1 1\n120 120 200 300 rectfill showpage\n%%EOF\n")
         must("gs", "-q", "-o", folder / f"{name}.pdf", "-sDEVICE=pdfwrite", f"-sPAPERSIZE={paper}", folder / f"{name}.ps")
-    # Without its catalog: qpdf 12 repairs a file that only lacks what follows.
+    # Remove the catalog: qpdf 12 repairs a file that only lacks its end.
     (folder / "cut.pdf").write_bytes((folder / "report.pdf").read_bytes()[:1300])
     must("qpdf", "--encrypt", "open", "owner", "256", "--", folder / "report.pdf", folder / "secret.pdf")
     (folder / "long.txt").write_text("".join(f"line {n}\n" for n in range(150)))
@@ -216,7 +216,7 @@ def make_documents(folder):
 
 
 def free_port():
-    """Below those that the system gives to clients, which would take one between this look and its use."""
+    """A free port below the range for clients, which could take a port between this check and its use."""
     while True:
         port = random.randrange(10000, 30000)
         if not answers(socket.AF_INET, ("localhost", port)):
@@ -229,7 +229,7 @@ def answers(family, address):
 
 
 class Setup:
-    """Two servers, their queues, and what stands beside them, in a folder; ends with `stop`."""
+    """Two servers with their queues and helpers, in a folder; stopped by `stop`."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -242,7 +242,7 @@ class Setup:
         near, away = self.servers
         must("bash", script, "start", near)
         must("bash", script, "start", away, env=dict(os.environ, KELMAR_CUPS_LISTEN=f"localhost:{self.port}"))
-        backend = near / "bin/backend/ipp"  # the one that really goes to the other server
+        backend = near / "bin/backend/ipp"  # the real backend, which contacts the other server
         backend.unlink()
         backend.symlink_to("/usr/lib/cups/backend/ipp")
         ppds = self.folder / "ppds"
@@ -288,7 +288,8 @@ class Setup:
         must("lpadmin", "-h", self.socket, *words)
 
     def describe_everywhere(self):
-        """A queue whose PPD is made from what a printer says of itself; the printer is gone before the first job."""
+        """Creates a queue whose PPD is generated from the attributes of a printer; the printer is stopped before the first
+        job."""
         bus = self.folder / "bus"
         self.child(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={bus}"],
                    lambda: answers(socket.AF_UNIX, str(bus)))
@@ -315,7 +316,7 @@ class Setup:
 
 
 def on_terminal(words, environment, results):
-    """Runs a program that asks for name and password, with its results in a file; gives what it wrote."""
+    """Runs a program that asks for name and password, with its output in a file; returns the output."""
     pid, terminal = pty.fork()
     if pid == 0:
         os.dup2(os.open(results, os.O_WRONLY | os.O_CREAT, 0o600), 1)
@@ -343,7 +344,7 @@ def lp_words(words):
 
 
 class Job:
-    """One job, found by its title in what the servers have captured."""
+    """One job, found by its title among the jobs that the servers have captured."""
 
     def __init__(self, setup, title, queue, path, words):
         self.setup, self.title, self.path = setup, title, path
@@ -361,7 +362,7 @@ class Job:
     def send(self, command):
         environment = dict(os.environ, HOME=str(self.setup.folder), QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
                            LANGUAGE="en", CUPS_SERVER=str(self.setup.socket), **self.variables)
-        if command[0] == "lp":  # takes its server first
+        if command[0] == "lp":  # expects the server first
             at = self.words.index("-h")
             command = [*command, *self.words[at:at + 2]]
             del self.words[at:at + 2]
@@ -388,7 +389,7 @@ class Job:
         return None
 
     def look(self):
-        """Waits until the job is there, and measures it."""
+        """Waits for the job and examines it."""
         for _ in range(600):
             found = self.captured()
             if found or not self.was_sent:

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# What bash offers behind each option, with a real print server that has a queue with a preset. Usage:
-# completion_test.sh BUILDDIR. Exit code 77: CUPS is not installed.
+# Tests bash completion of each option, with a real print server that has a queue with a preset. Usage: completion_test.sh
+# BUILDDIR. Exit code 77: CUPS is not installed.
 set -uo pipefail
 tree=$(cd "$(dirname "$0")/../.." && pwd)
 build=$1
@@ -14,12 +14,12 @@ chmod 755 "$server"
 "$tree/scripts/lib/private-cupsd.sh" add-queue "$server" office "$build/ppds/kelm880.ppd" socket://127.0.0.1:9
 mkdir "$server/home"
 export HOME=$server/home CUPS_SERVER=$server/cups.sock PATH=$build/bin:$PATH
-unset CUPS_SERVERROOT # another test's home
+unset CUPS_SERVERROOT # the home folder of another test
 kelmar-print -d office --save-preset Grey --set ColorType=Mono >/dev/null || exit 1
 . "$tree/packaging/completion/kelmar-print.bash"
 cd "$tree/demo" || exit 1
 
-completed() { # WORD...: as bash splits the line before the cursor; the replies, one a line
+completed() { # WORD...: the words of the line before the cursor; prints the replies, one per line
     COMP_WORDS=(kelmar-print "$@")
     COMP_CWORD=$#
     _kelmar_print
@@ -32,7 +32,7 @@ offers() { # REPLY WORD...
     }
 }
 
-# ---- every option is offered, and behind it what it takes, but where that is the user's own text
+# ---- every option is offered, and its values, unless they are free text
 options=$(kelmar-print --help | sed -n 's/^  \(-[^ ].*\)/\1/p' | sed 's/   *.*//')
 [ "$(wc -l <<<"$options")" -gt 15 ] || { echo "FAIL: the help has no options" && exit 1; }
 while read -r entry; do
@@ -44,7 +44,7 @@ while read -r entry; do
     done
 done <<<"$options"
 
-# ---- and these are the right ones
+# ---- the values are correct
 offers office -d off
 offers office/Grey --printer = office/
 offers Duplex= -d office --set Dup

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# The backend of the dialog's queue, called as cupsd calls it and by a real cupsd, with a session of the user nobody in
-# which a script stands in for the dialog. Usage: dialog_backend_test.sh BUILDDIR. Needs root; exit code 77 says so.
+# Tests the backend of the dialog's queue, called directly and by a real cupsd, with a session of the user nobody in which a
+# script replaces the dialog. Usage: dialog_backend_test.sh BUILDDIR. Exit code 77: it needs root.
 set -uo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 build=$1
@@ -27,14 +27,14 @@ mount -t tmpfs -o mode=1777 tmpfs /var/tmp
 install -d -m 700 -o $uid -g $gid "$work/home"
 export CUPS_SERVER=$work/cups/cups.sock
 
-become_user() { # COMMAND...: for the background, where the pid is then the command's
+become_user() { # COMMAND...: for background jobs, whose PID is then that of the command
     exec setpriv --reuid $uid --regid $gid --clear-groups env -i PATH="$PATH" HOME="$work/home" XDG_RUNTIME_DIR=$runtime \
         DBUS_SESSION_BUS_ADDRESS=unix:path=$runtime/bus STUB_LOG="$work/home/log" CUPS_SERVER="$CUPS_SERVER" \
         ASAN_OPTIONS="${ASAN_OPTIONS:-}" "$@"
 }
 as_user() { (become_user "$@"); }
 
-expect() { # WHAT CODE TEXT COMMAND...: the exit code, and what the error output has to contain
+expect() { # WHAT CODE TEXT COMMAND...: expects an exit code and a text in the error output
     local code=0
     "${@:4}" >"$work/out" 2>"$work/err" </dev/null || code=$?
     [ $code -eq "$2" ] && { [ -z "$3" ] || grep -qF -- "$3" "$work/err"; } && return
@@ -49,9 +49,9 @@ backend() { # ARGUMENTS...: as cupsd runs it
 }
 
 printf 'the document' >"$work/job"
-chmod 600 "$work/job" # root's, as cupsd's spool is
+chmod 600 "$work/job" # owned by root, like cupsd's spool
 
-# ---- who it is that prints
+# ---- identification of the user
 for auth in "" x 0x10 -1 " 65534" 65534x 4294967295 99999999999999999999; do
     expect "AUTH_UID '$auth'" 3 "signed in on this computer" backend 1 root T 1 "" "$work/job"
 done
@@ -59,10 +59,10 @@ auth=0 expect "root" 3 "(root)" backend 1 nobody T 1 "" "$work/job"
 auth=54321 expect "unknown user" 3 "no user with the number 54321" backend 1 nobody T 1 "" "$work/job"
 unset auth
 expect "no AUTH_UID" 3 "signed in" env -i "$build/backend/kelmar-dialog" 1 nobody T 1 "" "$work/job"
-# cupsd has a number for everybody but root.
+# cupsd passes a user ID except for root.
 expect "root, by its name" 3 "(root)" env -i AUTH_USERNAME=root "$build/backend/kelmar-dialog" 1 nobody T 1 "" "$work/job"
 
-# ---- where the session is
+# ---- the user's session
 expect "no session" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
 install -d -m 755 "$runtime" # root's
 expect "another's folder" 3 "no desktop session" backend 1 nobody T 1 "" "$work/job"
@@ -81,9 +81,9 @@ pids+=($!)
 has_service() { as_user dbus-send --session --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.ListNames 2>/dev/null | grep -q org.kelmar.Print1; }
 for tries in {1..100}; do has_service && break || sleep 0.1; done
 
-# ---- what is handed over
+# ---- data passed to the service
 log=$work/home/log
-accepted() { # WHAT TEXT ARGUMENTS...: taken, with this text in the request, the document whole
+accepted() { # WHAT TEXT ARGUMENTS...: accepted, with this text in the request and the complete document
     rm -f "$log" "$log.document"
     expect "$1" 0 "" backend "${@:3}"
     for tries in {1..50}; do [ -s "$log.document" ] && break || sleep 0.1; done
@@ -98,7 +98,7 @@ for copies in 0 -5 99999999999 1e3 ""; do
     accepted "copies '$copies'" '"copies":1' 1 nobody T "$copies" "" "$work/job"
 done
 from_pipe() { cat "$work/job" | backend 1 nobody T 1 ""; }
-# A file is handed over, not copied.
+# A file is passed, not copied.
 truncate -s 20M "$work/twenty"
 used=$(df --output=used /var/tmp | tail -n 1)
 expect "a file that stays" 0 "" backend 1 nobody wait 1 "" "$work/twenty"
@@ -106,7 +106,7 @@ expect "a file that stays" 0 "" backend 1 nobody wait 1 "" "$work/twenty"
 rm -f "$log.document"
 from_pipe || { echo "FAIL: a document from a filter" && failed=1; }
 
-# ---- files that are none of it
+# ---- files that are not job files
 ln -s "$work/job" "$work/link"
 mkfifo "$work/fifo"
 truncate -s 3G "$work/large"
@@ -115,7 +115,7 @@ for file in link fifo missing .; do
 done
 expect "a large document" 3 "larger than 2 GB" backend 1 nobody T 1 "" "$work/large"
 
-# ---- a dialog that fails, and what the process is while it waits
+# ---- a dialog that fails, and the process that waits for it
 expect "a crash" 3 "did not open" backend 1 nobody crash 1 "" "$work/job"
 device=kelmar-dialog:/?wait=3 expect "no answer" 3 "did not open" backend 1 nobody silent 1 "" "$work/job" &
 waiting=$!
@@ -130,7 +130,7 @@ wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 000000
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
 wait $waiting || failed=1 # which it says in a process of its own
 
-# ---- nothing on the user's side keeps the queue from others
+# ---- nothing in the user's session blocks the queue for others
 within() { # SECONDS WHAT CODE TEXT COMMAND...
     local begun=$SECONDS
     expect "${@:2}"
@@ -139,7 +139,7 @@ within() { # SECONDS WHAT CODE TEXT COMMAND...
 within 3 "a message of the dialog" 3 "the document cannot be read" backend 1 nobody message 1 "" "$work/job"
 within 3 "no display" 3 "has no display" backend 1 nobody "no display" 1 "" "$work/job"
 within 8 "a dialog that is slow" 0 "" backend 1 nobody silent 1 "" "$work/job"
-stop_backend() { # stops the process that acts for the user as soon as there is one
+stop_backend() { # stops the user's process as soon as it exists
     for tries in {1..100}; do pkill -STOP -u $uid -f "$build/backend/kelmar-dialog" && break || sleep 0.05; done
 }
 stop_backend &
@@ -149,7 +149,7 @@ expect "cancelled" 143 "" timeout --preserve-status 1 env -i AUTH_UID=$uid \
     "$build/backend/kelmar-dialog" 1 nobody silent 1 "" "$work/job"
 for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/null || break; sleep 0.1; done
 ! pgrep -u $uid -a -f "$build/backend/kelmar-dialog" || { echo "FAIL: a cancelled job goes on" && failed=1; }
-# What stands there now takes connections and says nothing.
+# Replace the bus by a server that accepts connections without responding.
 mv $runtime/bus $runtime/true-bus
 become_user python3 -c 'import os, socket, sys, time
 listening = socket.socket(socket.AF_UNIX); listening.bind(sys.argv[1] + ".new"); listening.listen()
@@ -180,7 +180,7 @@ for text in '"title":"A letter"' '"copies":3' 'sides=two-sided-long-edge'; do
     grep -qF -- "$text" "$log" || { echo "FAIL: through cupsd: no $text in $(cat "$log")" && failed=1; }
 done
 expect "in another's name" 1 "" as_user lp -U root -d kelmar "$document"
-held() { # WHAT TEXT: the last job waits, and both it and the queue say why
+held() { # WHAT TEXT: the last job is held, and the queue shows the reason
     for tries in {1..100}; do lpstat -p kelmar | grep -qF -- "$2" && break || sleep 0.1; done
     lpstat -p kelmar | grep -qF -- "$2" || { echo "FAIL: $1: lpstat says $(lpstat -p kelmar)" && failed=1; }
     lpstat -p kelmar | grep -q disabled && echo "FAIL: $1: the queue has stopped" && failed=1

@@ -1,22 +1,22 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# kelmar-print-queue, installed below a prefix of its own, makes, repairs and removes the dialog's queue of a real cupsd.
-# The server has the usual folders in a mount namespace. Usage: dialog_queue_test.sh BUILDDIR. Needs root; exit code 77
-# says so.
+# Tests that kelmar-print-queue, installed below a private prefix, creates, repairs and removes the dialog's queue of a real
+# cupsd. The server uses the standard folders in a mount namespace. Usage: dialog_queue_test.sh BUILDDIR. Exit code 77: it
+# needs root.
 set -uo pipefail
 tree=$(cd "$(dirname "$0")/../.." && pwd)
 build=$1
 [ "$(id -u)" -eq 0 ] || { echo "SKIP   : needs root" && exit 77; }
 cupsd=$(PATH=$PATH:/usr/sbin command -v cupsd) || { echo "SKIP   : cupsd is not installed" && exit 77; }
-# Processes of other servers, and systemd's idea of them, must not be seen: the script signals the scheduler.
+# Hides other servers and systemd, since the script sends signals to the scheduler.
 [ -n "${KELMAR_QUEUE_TEST:-}" ] ||
     KELMAR_QUEUE_TEST=1 exec unshare --mount --pid --fork --kill-child --mount-proc --propagation private "$0" "$build"
 
 work=$(mktemp -d /tmp/kelmar-queue.XXXXXX)
 failed=0
 server=
-trap 'rm -rf "$work"' EXIT # what runs ends with the namespace
+trap 'rm -rf "$work"' EXIT # processes end with the namespace
 chmod 755 "$work"
 for folder in /run /var/lib /var/cache /var/spool /var/log /etc/cups; do mount -t tmpfs -o mode=755 tmpfs $folder; done
 mkdir -p /run/cups /etc/cups/ppd /var/cache/cups /var/spool/cups/tmp /var/log/cups "$work"/{sbin,share/kelmar-print/queue,bin/backend}
@@ -27,7 +27,7 @@ for name in kelmar-dialog socket; do install -m 755 "$tree/scripts/lib/capture-b
 cp "$cupsd" "$work/sbin/cupsd" # not in /usr/sbin
 printf '%s\n' "ServerBin $work/bin" >/etc/cups/cups-files.conf
 cat >/etc/cups/cupsd.conf <<'CONF'
-# the administrator's own
+# settings of the administrator
 Listen /run/cups/cups.sock
 Browsing Off
 WebInterface No
@@ -68,7 +68,7 @@ stop() { kill $server && wait $server; }
 queues() { lpstat -v 2>/dev/null; }
 has_queue() { queues | grep -q 'KELMAR-dialog: kelmar-dialog:/'; }
 
-# ---- where no server runs, the queue waits for one
+# ---- without a running server, the creation of the queue is pending
 says "no server" 1 "not running" kelmar-print-queue status
 says "no server" 0 "when the print server starts" kelmar-print-queue add
 start
@@ -79,13 +79,13 @@ ok "the service" kelmar-print-queue refresh
 ok "made" has_queue
 ok "no longer waiting" no test -e /var/lib/kelmar-print-queue
 
-# ---- what it says is what the server does, whoever asks
-chmod 640 /etc/cups/cupsd.conf # as cupsd and its tools write it
+# ---- the status is correct for every user
+chmod 640 /etc/cups/cupsd.conf # as written by cupsd and its tools
 for who in "" as_nobody; do says "there${who:+, as nobody}" 0 "with its policy" $who kelmar-print-queue status; done
 cp /etc/cups/cupsd.conf "$work/with-policy"
 ok "again" kelmar-print-queue add
 ok "nothing changed" cmp /etc/cups/cupsd.conf "$work/with-policy"
-cp "$work/cupsd.conf" /etc/cups/cupsd.conf # as a tool that writes it whole
+cp "$work/cupsd.conf" /etc/cups/cupsd.conf # like a tool that rewrites it completely
 stop && start
 for who in "" as_nobody; do says "policy lost${who:+, as nobody}" 1 "without its policy" $who kelmar-print-queue status; done
 ok "repaired" kelmar-print-queue refresh
@@ -96,12 +96,12 @@ says "without ipptool, as nobody" 3 "Only root can see" as_nobody kelmar-print-q
 umount "$(command -v ipptool)"
 says "repaired" 0 "with its policy" as_nobody kelmar-print-queue status
 
-# ---- what the administrator has done to it stays
+# ---- changes by the administrator are kept
 ok "address" lpadmin -p KELMAR-dialog -v 'kelmar-dialog:/?wait=20'
 ok "refresh" kelmar-print-queue refresh
 ok "address kept" grep -qF '?wait=20' <(queues)
 
-# ---- removed with all that it left, and nothing else
+# ---- removed with all its files, and nothing else
 : >/var/cache/cups/KELMAR-dialog.strings
 ok "withdraw" kelmar-print-queue withdraw
 ok "withdrawn" no has_queue
@@ -120,7 +120,7 @@ ok "removed without a server" no has_queue
 ok "stays removed" kelmar-print-queue refresh
 ok "stayed removed" no has_queue
 
-# ---- a queue of that name that leads elsewhere
+# ---- a queue of the same name with another device URI
 ok "foreign" lpadmin -p KELMAR-dialog -E -v socket://127.0.0.1:9
 says "foreign" 1 "of another kind" kelmar-print-queue add
 ok "foreign, removing" kelmar-print-queue remove

@@ -1,25 +1,24 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""A way to a print server on which chosen requests go wrong: faulty_proxy.py LISTEN SERVER FAULT [NUMBER]
+"""A proxy for a print server that makes selected requests fail: faulty_proxy.py LISTEN SERVER FAULT [NUMBER]
 
-LISTEN and SERVER are socket paths. The fault strikes the request NUMBER (counted from 1) of its operation, and
-every one after it:
+LISTEN and SERVER are socket paths. The fault affects request NUMBER (counted from 1) of its operation and all later ones:
   OPERATION-lost OPERATION-garbage OPERATION-truncated
-                                               the request arrives; its answer is lost, garbage, or half an answer
-  OPERATION-dropped OPERATION-gone             the request is read and goes nowhere; the answer says that the job is gone
+                                               the request arrives; its response is lost, garbage, or truncated
+  OPERATION-dropped OPERATION-gone             the request is discarded; the response reports that the job does not exist
                  OPERATION is ask (Get-Printer-Attributes), create (Create-Job), send (Send-Document) or look
                  (Get-Job-Attributes)
-  create-nonsense                              the answer to Create-Job has a status that no server has
-  create-negative create-endless               the answer to Create-Job names job -5, or never ends
-  send-forgotten                               Send-Document is answered; from then on nothing is known of jobs
-  send-foreign                                 the answer to Send-Document is lost; all jobs bear the token of another program
-  send-vanished                                Send-Document arrives; then there is no server any more
-  send-stalled                                 nobody reads the rest of the document
+  create-nonsense                              the response to Create-Job has an undefined status
+  create-negative create-endless               the response to Create-Job contains job -5, or is endless
+  send-forgotten                               Send-Document is answered; afterwards all jobs are unknown
+  send-foreign                                 the response to Send-Document is lost; all jobs have the token of another program
+  send-vanished                                Send-Document arrives; then the server is gone
+  send-stalled                                 the rest of the document is not read
   send-cut                                     the connection breaks in the middle of the document
   login                                        everything below /printers/ needs the user "anna", password "secret";
-                                               each request without them is told on the standard output
-  none                                         all goes well
+                                               each request without them is reported on the standard output
+  none                                         no fault
 """
 import base64
 import http.client

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Kills the print server at random moments while jobs are on their way, and compares what the program said with
-what was printed: kill_server.py BUILD_FOLDER [ROUNDS [SEED [stopped]]]. With "stopped" the server is not killed but
-stops working for a while. Exit code 1 when they differ, 77 without CUPS."""
+"""Kills the print server at random times while jobs are being sent, and compares the reported outcomes with the
+printed data: kill_server.py BUILD_FOLDER [ROUNDS [SEED [stopped]]]. With "stopped" the server is stopped for a
+while instead. Exit code 1 if they differ, 77 without CUPS."""
 import collections
 import json
 import os
@@ -45,7 +45,7 @@ class PrintServer:
     def wait_until_idle(self, outcome="accepted"):
         for tries in range(600):
             if tries == 100 and outcome == "unknown":
-                # The server came back too late for the program: it waits for documents that will not come.
+                # The server came back too late for the program, and waits for documents that will not arrive.
                 subprocess.run(["cancel", "-h", self.socket, "-a", "raw"], check=False)
             said = subprocess.run(["lpstat", "-h", self.socket, "-W", "not-completed", "-o"],
                                   capture_output=True, text=True)
@@ -55,7 +55,7 @@ class PrintServer:
         sys.exit("the queue does not become empty:\n" + said.stdout)
 
     def printed(self, title):
-        """Bytes of the documents printed under a title, by job."""
+        """Sizes of the documents printed with a title, by job."""
         jobs = collections.defaultdict(list)
         journal = self.folder / "jobs/journal"
         for line in journal.read_text().splitlines() if journal.exists() else []:
@@ -66,7 +66,7 @@ class PrintServer:
 
 
 def pdf(content):
-    """A PDF file of one page, with a stream that nothing refers to."""
+    """A PDF file of one page, with an unreferenced stream of this size."""
     objects = [b"<< /Type /Catalog /Pages 2 0 R >>", b"<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
                b"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] >>",
                b"<< /Length %d >>\nstream\n%s\nendstream" % (len(content), content)]
@@ -106,7 +106,7 @@ def said(front_end, program):
 
 
 def compared(outcome, jobs, needed):
-    """What was printed of a job that needs so many bytes, and what is wrong with what was said of it, if anything."""
+    """The printed part of a job of this size, and the error in its reported outcome, if any."""
     whole = [job for job, parts in jobs.items() if sum(parts) >= needed]
     fault = ("lost" if outcome == "accepted" and not whole else
              "printed all the same" if outcome == "rejected" and jobs else
@@ -127,7 +127,7 @@ def main():
         server.start()
         server.call("add-queue", folder, "raw", "-", "capture:/")
         chance = random.Random(seed)
-        lasting = {}  # seconds that a job takes
+        lasting = {}  # duration of jobs in seconds
         for number in range(rounds):
             front_end = ("batch", "window")[number % 2]
             count = chance.choice([1, 3])
@@ -145,7 +145,7 @@ def main():
             begin, end = ((server.kill, server.start) if effect == "killed" else
                           (lambda: server.signal(signal.SIGSTOP), lambda: server.signal(signal.SIGCONT)))
             begin()
-            pause = chance.choice([0, 1, 3, None])  # None: until the program has ended
+            pause = chance.choice([0, 1, 3, None])  # None: until the program has exited
             if pause is not None:
                 time.sleep(pause)
                 end()

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Makes a language that nobody speaks: every text of program and bundle, accented, longer and in brackets.
+"""Creates an artificial language: all texts of program and bundle, accented, longer and in brackets.
 
     pseudo_catalog.py BUILD SOURCE LUPDATE LRELEASE
 
-Leaves kelmar-print_pseudo.qm, and a copy of the bundle that speaks it as English, in BUILD/tests/pseudo/ltr, and the
-same with the marks of a language that is written from right to left in BUILD/tests/pseudo/rtl. What shows up without brackets has not been translated; what does not fit would not fit in a language of long words.
-"""
+Creates kelmar-print_pseudo.qm, and a copy of the bundle with these texts as English, in BUILD/tests/pseudo/ltr, and
+the same as a right-to-left language in BUILD/tests/pseudo/rtl. Texts without brackets are not translated; texts
+that do not fit would not fit in a language with long words."""
 import os
 import pathlib
 import re
@@ -29,7 +29,7 @@ def pseudo(text, mark):
 
 
 def translate(source, target, by_translation, mark):
-    """`by_translation`: the English texts stand in the translations, and the sources may be keys."""
+    """With `by_translation` the English texts are the translations, and the sources may be keys."""
     tree = ET.parse(source)
     tree.getroot().set("language", "en")
     for message in tree.iter("message"):

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Has each request of a submission go wrong in each way (faulty_proxy.py), and compares what the program said with what
-was printed: server_faults.py BUILD_FOLDER [SERVERS]. SERVERS (4) are used side by side. Exit code 1 when they differ, 77
-without CUPS."""
+"""Makes each request of a submission fail in each way (faulty_proxy.py), and compares the reported outcomes with
+the printed data: server_faults.py BUILD_FOLDER [SERVERS]. SERVERS (4) are used in parallel. Exit code 1 if they
+differ, 77 without CUPS."""
 import collections
 import concurrent.futures
 import pathlib
@@ -18,8 +18,8 @@ proxy_script = pathlib.Path(__file__).with_name("faulty_proxy.py")
 workers = int(sys.argv[2]) if len(sys.argv) > 2 else 4
 size = 300_000  # bytes of a document
 
-# The fault, and the first request of its operation that it strikes. The printer is asked when it is opened, and again
-# before the job is made.
+# The fault, and the first request of its operation that it affects. The printer is queried when it is opened, and again
+# before the job is created.
 FAULTS = [(f"{operation}-{effect}", number)
           for operation, numbers in (("ask", (1, 2, 3)), ("create", (1,)), ("send", (1, 2, 3)), ("look", (1, 2)))
           for effect in ("lost", "garbage", "truncated", "dropped") for number in numbers]

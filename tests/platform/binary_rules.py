@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Every program and library of a build looks for libraries beside itself alone, and shows its hardening: symbols bound at
-the start, write-protected tables, code in a segment of its own, a shadow stack, fortified functions. An empty entry of
-a search path would stand for the folder a user happens to be in.
+"""Checks that all programs and libraries of a build search libraries only relative to themselves, and are hardened:
+symbols bound at start-up, write-protected tables, code in a separate segment, a shadow stack, fortified functions.
+An empty entry of a search path would mean the current folder.
 
 Usage: binary_rules.py BUILD
 """

@@ -1,15 +1,15 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Stands between a program and a CUPS server, and answers late or never. Usage:
+"""A proxy for a CUPS server that delays responses or never responds. Usage:
 stalling_proxy.py LISTEN-SOCKET SERVER-SOCKET
 
-Reads commands from its standard input, one a line, and answers each with "ok":
-    stall WHAT   requests of this kind, from now on, get no answer: an IPP operation as hexadecimal number, "ppd"
-                 for the fetching of a PPD, "all"; with a "+" behind it also everything that comes after
-    delay MS     every answer waits this long
-    pass         let everything through again; connections that were stalled are closed
-Writes "stalled" when a request has been held back for the first time since the command. Ends with its input.
+Reads commands from its standard input, one per line, and confirms each with "ok":
+    stall WHAT   requests of this kind receive no response from now on: an IPP operation as a hexadecimal number,
+                 "ppd" for the download of a PPD, "all"; with a "+" appended also all later requests
+    delay MS     delays each response by this time
+    pass         passes all requests again; stalled connections are closed
+Writes "stalled" when a request is stalled for the first time since the command. Exits at the end of its input.
 """
 import os
 import socket
@@ -23,7 +23,7 @@ released = threading.Event()
 
 
 def kind_of(request):
-    """What a request is, as the stall command names it, once enough of it has been seen; None before."""
+    """The kind of a request, as in the stall command; None until enough data has arrived."""
     head, _, body = request.partition(b"\r\n\r\n")
     if head.startswith(b"GET") and b".ppd" in head.split(b"\r\n")[0]:
         return "ppd"
@@ -58,7 +58,7 @@ def answers(server, client):
     sent = 0.0
     try:
         while data := server.recv(65536):
-            if state["delay"] and time.monotonic() - sent > 0.05:  # not the next piece of the same answer
+            if state["delay"] and time.monotonic() - sent > 0.05:  # not the next part of the same response
                 threading.Event().wait(state["delay"])
             client.sendall(data)
             sent = time.monotonic()
@@ -85,7 +85,7 @@ def serve(client, server_path):
         threading.Thread(target=answers, args=(server, client), daemon=True).start()
         request, passed, asked = b"", 0, False
         while data := client.recv(65536):
-            # A new request begins with its method at the start of what arrives: clients wait for answers.
+            # Received data that begins with a method is a new request, since clients wait for responses.
             if data.startswith((b"POST ", b"GET ")):
                 request, passed, asked = b"", 0, False
             if asked:
@@ -97,8 +97,8 @@ def serve(client, server_path):
             if asked and is_stalled(kind):
                 hold()
                 return
-            # The head passes at once, since clients wait for leave to go on. A body that has only begun would keep
-            # the server from everybody else.
+            # The header is passed at once, since clients wait for permission to continue. An incomplete body would block the
+            # server for other clients.
             head = request.find(b"\r\n\r\n")
             end = len(request) if asked or head < 0 else head + 4
             server.sendall(request[passed:end])
