@@ -26,7 +26,6 @@ configure() {
     python3 "$here/agent.py" "$device" </dev/null || exit 1
     # snmpd splits a command at spaces despite quotes, so the paths are passed in the environment.
     export SIMULATOR_AGENT="$here/agent.py" SIMULATOR_DEVICE="$device"
-    # shellcheck disable=SC2016  # expanded by the shell that snmpd starts
     agent='/bin/sh -c exec${IFS}python3${IFS}"$SIMULATOR_AGENT"${IFS}"$SIMULATOR_DEVICE"'
     case $2 in
         *:*) listen="udp6:[$2]:161" access="rocommunity6 public" ;;

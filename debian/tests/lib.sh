@@ -1,20 +1,24 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Sourced by tests that need the computer's print server.
+# Sourced by the tests, for scripts/lib/setup.sh and the computer's print server.
 
-# Starts it if no service manager has done so, and then stops it when the test ends.
+. scripts/lib/setup.sh
+
+cupsd_answers() { lpstat -h /run/cups/cups.sock -r 2>/dev/null | grep -q 'is running'; }
+
+# Starts it if no service manager has done so. end_cupsd stops only a server that was started here.
 own_cupsd=
 need_cupsd() {
-    lpstat -h /run/cups/cups.sock -r 2>/dev/null | grep -q 'is running' && return
+    ! cupsd_answers || return 0
     mkdir -p /run/cups
     /usr/sbin/cupsd -f &
     own_cupsd=$!
-    local tries
-    for tries in {1..100}; do
-        lpstat -h /run/cups/cups.sock -r 2>/dev/null | grep -q 'is running' && return
-        sleep 0.1
-    done
-    echo "The print server does not start." && exit 1
+    wait_until 10 cupsd_answers || { echo "The print server does not start." && exit 1; }
 }
-end_cupsd() { [ -z "$own_cupsd" ] || { kill "$own_cupsd" && wait "$own_cupsd" || true; }; }
+end_cupsd() {
+    [ -n "$own_cupsd" ] || return 0
+    kill "$own_cupsd" || true
+    wait "$own_cupsd" || true
+    own_cupsd=
+}

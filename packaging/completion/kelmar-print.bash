@@ -52,7 +52,6 @@ _kelmar_print_files() { # [PATTERN]: folders, and the files that match
     mapfile -t COMPREPLY < <(compgen -d -- "$cur")
     local file
     while IFS= read -r file; do
-        # shellcheck disable=SC2053  # a pattern
         [[ -d $file || ${file,,} != ${1:-*} ]] || COMPREPLY+=("$file")
     done < <(compgen -f -- "$cur")
 }

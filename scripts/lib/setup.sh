@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Sourced by the scripts: the Debian packages that building, testing and the demo need, and the configure step.
+# Sourced by the scripts: the Debian packages that they need, the configure step, and what several of them do.
 
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
@@ -15,25 +15,35 @@ run_packages=(
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
     at-spi2-core python3-pyatspi qt6-translations-l10n
 )
-# What the tour of the demo works the dialog and looks at it with.
+# The tour of the demo: operating the dialog and taking pictures.
 tour_packages=(openbox xdotool imagemagick x11-xserver-utils)
-# What scripts/pictures makes small pictures with.
+# scripts/pictures: reducing the pictures.
 picture_packages=(imagemagick)
-check_packages=(clang-format)
-# What scripts/fuzz builds with; its run-time library has the version of clang in its name.
+lint_packages=(clang clang-format clang-tidy git shellcheck)
+# scripts/fuzz; it adds the run-time library, which has the version of clang in its name.
 fuzz_packages=(clang)
 room_packages=(mmdebstrap git ccache iproute2)
-# What makes and looks at Debian packages (debian/control names what they are built from), and what tries them.
+# scripts/package: building and checking Debian packages (debian/control names the build dependencies), and trying them.
 package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils)
 trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
 
 say() { printf '== %s\n' "$*"; }
 
-# Installs those of the given packages that neither are there nor are provided by another one. Asks apt only when something
-# is missing. A subshell, so that what it puts in place for apt goes again however it ends.
+# wait_until SECONDS COMMAND...: repeats the command every 0.1 s until it succeeds. Fails when the time is up.
+wait_until() {
+    local tries
+    for ((tries = $1 * 10; tries > 0; tries--)); do
+        "${@:2}" && return
+        sleep 0.1
+    done
+    return 1
+}
+
+# ensure_packages PACKAGE...: installs the packages that are neither installed nor provided by an installed one. Runs apt only
+# if one is missing. Runs in a subshell, so that the temporary policy for apt is removed however it ends.
 ensure_packages() (
-    there() { dpkg-query -W -f '${db:Status-Status}, ${Package}, ${Provides}\n' | grep '^installed' | tr ',' '\n' | sed 's/ *(.*//; s/^ *//'; }
-    mapfile -t missing < <(LC_ALL=C comm -13 <(there | LC_ALL=C sort -u) <(printf '%s\n' "$@" | LC_ALL=C sort -u))
+    installed() { dpkg-query -W -f '${db:Status-Status}, ${Package}, ${Provides}\n' | grep '^installed' | tr ',' '\n' | sed 's/ *(.*//; s/^ *//'; }
+    mapfile -t missing < <(LC_ALL=C comm -13 <(installed | LC_ALL=C sort -u) <(printf '%s\n' "$@" | LC_ALL=C sort -u))
     [ ${#missing[@]} -eq 0 ] && exit 0
     say "Installing ${missing[*]}"
     sudo=()
@@ -41,7 +51,7 @@ ensure_packages() (
         command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}; install them as root." >&2; exit 1; }
         sudo=(sudo)
     fi
-    # The daemons are started privately by the scripts; packages must not start theirs.
+    # The scripts start private daemons; packages must not start theirs.
     policy=/usr/sbin/policy-rc.d status=0
     if [ ! -e $policy ]; then
         printf '#!/bin/sh\nexit 101\n' | "${sudo[@]}" install -m 755 /dev/stdin $policy
@@ -54,15 +64,13 @@ ensure_packages() (
     exit $status
 )
 
-# What one clone has compiled, another takes from the compiler cache, wherever it lies. With precompiled headers the cache
-# needs to be told that macros and times do not matter.
+# Lets clones in different folders share the compiler cache. With precompiled headers the cache has to ignore macros and times.
 share_compiler_cache() {
     export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 }
 
-# build_preset PRESET [TARGET...]: configures a preset when it has not been, then builds it, or only the targets. Quick
-# when nothing changed.
+# build_preset PRESET [TARGET...]: configures the preset if needed, then builds it, or only the targets.
 build_preset() {
     local preset=$1
     shift

@@ -27,7 +27,9 @@ case $line in
     echo '{"response":0,"settings":{"printer":"office"},"pageSetup":{"PPDName":"A4"},"job":{"printer":"office","options":[["Code","12345",0]]}}'
     ;;
 *)
-    [[ $line =~ '"document":'([0-9]+) ]] && [ -z "${STUB_LOG:-}" ] || cat "/proc/self/fd/${BASH_REMATCH[1]}" >>"$STUB_LOG.document"
+    if [[ -n "${STUB_LOG:-}" && $line =~ '"document":'([0-9]+) ]]; then
+        cat "/proc/self/fd/${BASH_REMATCH[1]}" >>"$STUB_LOG.document"
+    fi
     printf '{"event":"shown"}\n{"response":0}\n'
     ;;
 esac

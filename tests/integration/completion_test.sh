@@ -36,7 +36,8 @@ offers() { # REPLY WORD...
 options=$(kelmar-print --help | sed -n 's/^  \(-[^ ].*\)/\1/p' | sed 's/   *.*//')
 [ "$(wc -l <<<"$options")" -gt 15 ] || { echo "FAIL: the help has no options" && exit 1; }
 while read -r entry; do
-    for option in $(grep -oE -e '(^| )--?[A-Za-z-]+' <<<"$entry"); do
+    names=$(grep -oE -e '(^| )--?[A-Za-z-]+' <<<"$entry")
+    for option in $names; do
         offers "$option" "${option%?}"
         [[ $entry == *' '[A-Z]* ]] || continue
         case $option in -n | --copies | -P | --pages | -t | --title) continue ;; esac

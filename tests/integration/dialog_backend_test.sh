@@ -5,6 +5,7 @@
 # script replaces the dialog. Usage: dialog_backend_test.sh BUILDDIR. Exit code 77: it needs root.
 set -uo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
+. "$root/scripts/lib/setup.sh"
 build=$1
 uid=65534 gid=65534
 [ "$(id -u)" -eq 0 ] || { echo "SKIP   : needs root" && exit 77; }
@@ -74,19 +75,19 @@ expect "a link to another bus" 3 "no desktop session" backend 1 nobody T 1 "" "$
 rm "$runtime/bus"
 become_user dbus-daemon --session --nofork --address=unix:path=$runtime/bus >/dev/null 2>&1 &
 pids+=($!)
-for tries in {1..100}; do [ -S $runtime/bus ] && break || sleep 0.1; done
-device=kelmar-dialog:/?wait=2 expect "no service" 3 "did not open" backend 1 nobody T 1 "" "$work/job"
+wait_until 10 [ -S $runtime/bus ]
+device='kelmar-dialog:/?wait=2' expect "no service" 3 "did not open" backend 1 nobody T 1 "" "$work/job"
 become_user "$build/bin/kelmar-print-service" --dialog-program "$root/tests/host/stub_dialog.sh" 2>/dev/null &
 pids+=($!)
 has_service() { as_user dbus-send --session --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.ListNames 2>/dev/null | grep -q org.kelmar.Print1; }
-for tries in {1..100}; do has_service && break || sleep 0.1; done
+wait_until 10 has_service
 
 # ---- data passed to the service
 log=$work/home/log
 accepted() { # WHAT TEXT ARGUMENTS...: accepted, with this text in the request and the complete document
     rm -f "$log" "$log.document"
     expect "$1" 0 "" backend "${@:3}"
-    for tries in {1..50}; do [ -s "$log.document" ] && break || sleep 0.1; done
+    wait_until 5 [ -s "$log.document" ]
     [ "$(cat "$log.document")" = "the document" ] || { echo "FAIL: $1: the document is not whole" && failed=1; }
     grep -qF -- "$2" "$log" || { echo "FAIL: $1: the request lacks $2: $(cut -c 1-300 "$log")" && failed=1; }
     [ "$(stat -c %u "$log")" -eq $uid ] || { echo "FAIL: $1: not the user's process" && failed=1; }
@@ -97,7 +98,7 @@ accepted "a long title" '"title":"xxxxxxxxxx' 1 nobody "$(printf 'x%.0s' {1..100
 for copies in 0 -5 99999999999 1e3 ""; do
     accepted "copies '$copies'" '"copies":1' 1 nobody T "$copies" "" "$work/job"
 done
-from_pipe() { cat "$work/job" | backend 1 nobody T 1 ""; }
+from_pipe() { printf 'the document' | backend 1 nobody T 1 ""; }
 # A file is passed, not copied.
 truncate -s 20M "$work/twenty"
 used=$(df --output=used /var/tmp | tail -n 1)
@@ -117,13 +118,13 @@ expect "a large document" 3 "larger than 2 GB" backend 1 nobody T 1 "" "$work/la
 
 # ---- a dialog that fails, and the process that waits for it
 expect "a crash" 3 "did not open" backend 1 nobody crash 1 "" "$work/job"
-device=kelmar-dialog:/?wait=3 expect "no answer" 3 "did not open" backend 1 nobody silent 1 "" "$work/job" &
+device='kelmar-dialog:/?wait=3' expect "no answer" 3 "did not open" backend 1 nobody silent 1 "" "$work/job" &
 waiting=$!
-child= facts=
-for tries in {1..50}; do
+is_the_users() {
     child=$(pgrep -P "$(pgrep -P $waiting -f kelmar-dialog | head -n 1)" -f kelmar-dialog | head -n 1)
-    [ -n "$child" ] && grep -q "^Uid:[[:space:]]$uid" "/proc/$child/status" 2>/dev/null && break || sleep 0.05
-done
+    [ -n "$child" ] && grep -q "^Uid:[[:space:]]$uid" "/proc/$child/status" 2>/dev/null
+}
+wait_until 2 is_the_users
 facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/status" | tr -s '\t ' ' ')
 wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 0000000000000000\nCapEff: 0000000000000000\nNoNewPrivs: 1' \
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
@@ -139,24 +140,22 @@ within() { # SECONDS WHAT CODE TEXT COMMAND...
 within 3 "a message of the dialog" 3 "the document cannot be read" backend 1 nobody message 1 "" "$work/job"
 within 3 "no display" 3 "has no display" backend 1 nobody "no display" 1 "" "$work/job"
 within 8 "a dialog that is slow" 0 "" backend 1 nobody silent 1 "" "$work/job"
-stop_backend() { # stops the user's process as soon as it exists
-    for tries in {1..100}; do pkill -STOP -u $uid -f "$build/backend/kelmar-dialog" && break || sleep 0.05; done
-}
-stop_backend &
-device=kelmar-dialog:/?wait=3 within 10 "a stopped backend" 3 "did not answer" backend 1 nobody silent 1 "" "$work/job"
+# Stops the user's process as soon as it exists.
+wait_until 5 pkill -STOP -u $uid -f "$build/backend/kelmar-dialog" &
+device='kelmar-dialog:/?wait=3' within 10 "a stopped backend" 3 "did not answer" backend 1 nobody silent 1 "" "$work/job"
 wait $!
 expect "cancelled" 143 "" timeout --preserve-status 1 env -i AUTH_UID=$uid \
     "$build/backend/kelmar-dialog" 1 nobody silent 1 "" "$work/job"
-for tries in {1..50}; do pgrep -u $uid -f "$build/backend/kelmar-dialog" >/dev/null || break; sleep 0.1; done
-! pgrep -u $uid -a -f "$build/backend/kelmar-dialog" || { echo "FAIL: a cancelled job goes on" && failed=1; }
+backend_is_gone() { ! pgrep -u $uid -a -f "$build/backend/kelmar-dialog"; }
+wait_until 5 backend_is_gone >/dev/null || { echo "FAIL: a cancelled job goes on" && failed=1; }
 # Replace the bus by a server that accepts connections without responding.
 mv $runtime/bus $runtime/true-bus
 become_user python3 -c 'import os, socket, sys, time
 listening = socket.socket(socket.AF_UNIX); listening.bind(sys.argv[1] + ".new"); listening.listen()
 os.rename(sys.argv[1] + ".new", sys.argv[1]); time.sleep(60)' $runtime/bus &
 pids+=($!)
-for tries in {1..50}; do [ -S $runtime/bus ] && break || sleep 0.1; done
-expect "a silent bus" 3 "did not open" timeout 30 bash -c "$(declare -f backend); uid=$uid build=$build device=kelmar-dialog:/?wait=1; backend 1 nobody T 1 '' $work/job"
+wait_until 5 [ -S $runtime/bus ]
+expect "a silent bus" 3 "did not open" timeout 30 bash -c "$(declare -f backend); uid=$uid build=$build device='kelmar-dialog:/?wait=1'; backend 1 nobody T 1 '' $work/job"
 mkdir "$work/state"
 state=$work/state within 6 "a silent bus, usual times" 3 "did not answer" backend 1 nobody T 1 "" "$work/job"
 state=$work/state within 1 "the job after it" 3 "the job before this one" backend 1 nobody T 1 "" "$work/job"
@@ -174,15 +173,15 @@ lpadmin -p kelmar -o printer-op-policy=kelmar-dialog -o printer-is-shared=false 
 document=$root/demo/report.pdf
 rm -f "$log" "$log.document"
 as_user lp -d kelmar -n 3 -o sides=two-sided-long-edge -t "A letter" "$document" >/dev/null
-for tries in {1..100}; do cmp -s "$log.document" "$document" && break || sleep 0.1; done
+wait_until 10 cmp -s "$log.document" "$document"
 cmp "$log.document" "$document" || failed=1
 for text in '"title":"A letter"' '"copies":3' 'sides=two-sided-long-edge'; do
     grep -qF -- "$text" "$log" || { echo "FAIL: through cupsd: no $text in $(cat "$log")" && failed=1; }
 done
 expect "in another's name" 1 "" as_user lp -U root -d kelmar "$document"
-held() { # WHAT TEXT: the last job is held, and the queue shows the reason
-    for tries in {1..100}; do lpstat -p kelmar | grep -qF -- "$2" && break || sleep 0.1; done
-    lpstat -p kelmar | grep -qF -- "$2" || { echo "FAIL: $1: lpstat says $(lpstat -p kelmar)" && failed=1; }
+queue_says() { lpstat -p kelmar | grep -qF -- "$1"; }
+held() { # WHAT TEXT JOBS: the last job waits, and both it and the queue say why
+    wait_until 10 queue_says "$2" || { echo "FAIL: $1: lpstat says $(lpstat -p kelmar)" && failed=1; }
     lpstat -p kelmar | grep -q disabled && echo "FAIL: $1: the queue has stopped" && failed=1
     [ "$(lpstat -o kelmar | wc -l)" -eq "$3" ] || { echo "FAIL: $1: the job is lost: $(lpstat -o)" && failed=1; }
 }

@@ -6,6 +6,7 @@
 # needs root.
 set -uo pipefail
 tree=$(cd "$(dirname "$0")/../.." && pwd)
+. "$tree/scripts/lib/setup.sh"
 build=$1
 [ "$(id -u)" -eq 0 ] || { echo "SKIP   : needs root" && exit 77; }
 cupsd=$(PATH=$PATH:/usr/sbin command -v cupsd) || { echo "SKIP   : cupsd is not installed" && exit 77; }
@@ -52,7 +53,7 @@ ok() { # WHAT COMMAND...
 says() { # WHAT CODE TEXT COMMAND...
     local said code=0
     said=$("${@:4}" 2>&1) || code=$?
-    [ $code -eq "$2" ] && [[ $said == *"$3"* ]] || { echo "FAIL: $1: exit code $code instead of $2; said: $said" && failed=1; }
+    [[ "$code $said" == "$2 "*"$3"* ]] || { echo "FAIL: $1: exit code $code instead of $2; said: $said" && failed=1; }
 }
 no() { ! "$@"; }
 as_nobody() { setpriv --reuid nobody --regid nogroup --clear-groups "$@"; }
@@ -60,9 +61,7 @@ answers() { lpstat -r 2>/dev/null | grep -q 'is running'; }
 start() {
     cupsd -f >"$work/output" 2>&1 &
     server=$!
-    local tries
-    for tries in {1..100}; do answers && return || sleep 0.1; done
-    cat "$work/output" /var/log/cups/error_log && exit 1
+    wait_until 10 answers || { cat "$work/output" /var/log/cups/error_log && exit 1; }
 }
 stop() { kill $server && wait $server; }
 queues() { lpstat -v 2>/dev/null; }
