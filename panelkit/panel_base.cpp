@@ -244,7 +244,7 @@ void QVPDE_M880::setOptionValue(const QVariant &value, const QString &key)
 {
     if (!value.isValid())
         throw platform::Exception(platform::Exception::invalidArgumentName,
-                                  QStringLiteral("%1 cannot be set to nil").arg(key));
+                                  QStringLiteral("%1 cannot be set to null").arg(key));
     const QString indexKey = key + choiceSuffix;
     willChangeValueForKey(key);
     willChangeValueForKey(indexKey);

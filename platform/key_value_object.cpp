@@ -144,7 +144,7 @@ void KeyValueObject::setValueForKey(const QVariant &value, const QString &key)
         raiseUndefinedKey(this, key, QStringLiteral("read-only key"));
     const std::optional<QVariant> argument = converted(value, property);
     if (!argument || !property.write(this, *argument)) {
-        const QString given = value.isValid() ? QString::fromUtf8(value.typeName()) : QStringLiteral("nil");
+        const QString given = value.isValid() ? QString::fromUtf8(value.typeName()) : QStringLiteral("null");
         throw Exception(Exception::invalidArgumentName,
                         QStringLiteral("%1: key \"%2\" takes %3, not this %4")
                             .arg(QString::fromUtf8(metaObject()->className()), key,

@@ -49,7 +49,7 @@ std::optional<Caller> findCaller(std::string *error)
     }
     if (!uid) {
         *error =
-            "This queue opens a dialog and takes jobs only from people who are signed in on this computer.";
+            "This queue opens a dialog and takes jobs only from users who are signed in on this computer.";
         return std::nullopt;
     }
     const passwd *entry = ::getpwuid(*uid);

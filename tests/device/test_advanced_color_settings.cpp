@@ -169,18 +169,19 @@ void TestAdvancedColorSettings::restoreAndSave_data()
 {
     QTest::addColumn<QVariantList>("stored"); // in the order of the keys, null if absent
     QTest::addColumn<QString>("saved");
-    const QVariant nil;
+    const QVariant null;
     const auto row = [](const char *name, const QVariantList &stored, const QString &saved) {
         QTest::newRow(name) << stored << saved;
     };
-    row("device defaults", {nil, nil, nil, nil, nil}, u"7 6 5 4 0"_s);
-    row("each but the destination", {u"1"_s, u"2"_s, nil, u"3"_s, u"1"_s}, u"1 2 5 3 1"_s);
-    row("destination crosses to source", {nil, u"2"_s, u"5"_s, nil, nil}, u"7 5 5 4 0"_s);
-    row("destination alone", {nil, nil, u"8"_s, nil, nil}, u"7 8 5 4 0"_s);
-    row("numbers and odd texts", {12, u" 13x"_s, nil, u"none"_s, u" yes"_s}, u"12 13 5 0 1"_s);
-    row("large and negative", {u"4294967295"_s, u"-1"_s, nil, nil, u"0"_s}, u"4294967295 4294967295 5 4 0"_s);
-    row("a switch that is not one", {nil, nil, nil, nil, u"on"_s}, u"7 6 5 4 0"_s);
-    row("a boolean", {nil, nil, nil, nil, true}, u"7 6 5 4 1"_s);
+    row("device defaults", {null, null, null, null, null}, u"7 6 5 4 0"_s);
+    row("each but the destination", {u"1"_s, u"2"_s, null, u"3"_s, u"1"_s}, u"1 2 5 3 1"_s);
+    row("destination crosses to source", {null, u"2"_s, u"5"_s, null, null}, u"7 5 5 4 0"_s);
+    row("destination alone", {null, null, u"8"_s, null, null}, u"7 8 5 4 0"_s);
+    row("numbers and odd texts", {12, u" 13x"_s, null, u"none"_s, u" yes"_s}, u"12 13 5 0 1"_s);
+    row("large and negative", {u"4294967295"_s, u"-1"_s, null, null, u"0"_s},
+        u"4294967295 4294967295 5 4 0"_s);
+    row("a switch that is not one", {null, null, null, null, u"on"_s}, u"7 6 5 4 0"_s);
+    row("a boolean", {null, null, null, null, true}, u"7 6 5 4 1"_s);
 }
 
 void TestAdvancedColorSettings::restoreAndSave()

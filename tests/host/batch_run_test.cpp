@@ -193,8 +193,8 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
     QTest::newRow("over the PPD's default") << u"--set Duplex=None"_s << u"Duplex"_s << u"None"_s;
     QTest::newRow("over a default of that name") << u"--set Duplex=None"_s << u"sides"_s << u"one-sided"_s;
     QTest::newRow("in the words of the standard") << u"-o sides=one-sided"_s << u"Duplex"_s << u"None"_s;
-    QTest::newRow("over a size that nobody has") << u"--set PageSize=A3"_s << u"media"_s << u"A3"_s;
-    QTest::newRow("a size that nobody has") << QString() << u"media"_s << u"Foo"_s;
+    QTest::newRow("after an unknown size") << u"--set PageSize=A3"_s << u"media"_s << u"A3"_s;
+    QTest::newRow("an unknown size") << QString() << u"media"_s << u"Foo"_s;
     QTest::newRow("in capitals") << u"-o Copies=3"_s << u"copies"_s << u"3"_s;
     QTest::newRow("the page region") << u"-o PageRegion=A3"_s << u"PageSize"_s << u"A3"_s;
     QTest::newRow("the page region as a setting") << u"--set PageRegion=A3"_s << u"PageSize"_s << u"A3"_s;

@@ -86,7 +86,7 @@ void CoreValuesTest::documents_data()
     QTest::newRow("PostScript") << QByteArray("%!PS-Adobe-3.0\nshowpage\n") << u"application/postscript"_s;
     QTest::newRow("text") << QByteArray("Grüße aus dem Büro\n") << u"text/plain"_s;
     QTest::newRow("picture") << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452") << u"image/png"_s;
-    QTest::newRow("nobody knows") << QByteArray::fromHex("00ff00ee0102aa55") << u"application/octet-stream"_s;
+    QTest::newRow("unknown") << QByteArray::fromHex("00ff00ee0102aa55") << u"application/octet-stream"_s;
     QTest::newRow("nothing") << QByteArray() << QString();
 }
 

@@ -211,7 +211,7 @@ QList<QWidget *> DialogPagesTest::walk()
         const QWidget *now = m_window->focusWidget();
         const QRect place(now->mapTo(m_window.get(), QPoint()), now->size());
         if (!m_window->rect().intersects(place) || now->visibleRegion().isEmpty())
-            QTest::qFail(qPrintable(nameOf(now) + u" has the focus where nobody sees it"_s), __FILE__,
+            QTest::qFail(qPrintable(nameOf(now) + u" has the focus outside of the visible area"_s), __FILE__,
                          __LINE__);
         stops.append(m_window->focusWidget());
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);

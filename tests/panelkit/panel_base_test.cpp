@@ -61,9 +61,9 @@ private Q_SLOTS:
         panel.setValueForKey(u"Sepia"_s, colorType);
         QCOMPARE(panel.valueForKey(colorType), QVariant(u"Sepia"_s));
         panel.setValueForKey(2, halftone); // a number is not a keyword, even if there is one of that name
-        for (const char *nil :
+        for (const char *key :
              {"ColorTypeChoice", "Serial", "SerialChoice", "SerialChoices", "HalftoneChoice"})
-            QVERIFY2(!panel.valueForKey(QString::fromLatin1(nil)).isValid(), nil);
+            QVERIFY2(!panel.valueForKey(QString::fromLatin1(key)).isValid(), key);
         // Options of the PPD that do not belong to the panel, and undefined keys.
         for (const char *undefined : {"Paper", "PaperChoice", "PaperChoices", "Choice"})
             QVERIFY_EXCEPTION_THROWN(panel.valueForKey(QString::fromLatin1(undefined)), Exception);

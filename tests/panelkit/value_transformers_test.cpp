@@ -37,7 +37,7 @@ private Q_SLOTS:
         text("", false, false);
         text("\u00b2", false, false); // superscript two
         text("\u0663", true, false);  // Arabic-Indic digit three
-        QTest::newRow("nil") << QVariant() << true << false;
+        QTest::newRow("null") << QVariant() << true << false;
         QTest::newRow("true") << QVariant(true) << true << true;
         QTest::newRow("false") << QVariant(false) << false << false;
         QTest::newRow("0") << QVariant(0) << false << false;

@@ -100,7 +100,7 @@ void KeyValueObjectTest::refuses()
     QCOMPARE(problem(u"numbr"_s, 1), uR"(UndefinedKey: undefined key "numbr")"_s);
     QCOMPARE(problem(u"child."_s, 1), uR"(UndefinedKey: undefined key "")"_s);
     QCOMPARE(problem(u"fixed"_s, 1), uR"(UndefinedKey: read-only key "fixed")"_s);
-    QCOMPARE(problem(u"flag"_s, {}), uR"(InvalidArgument: key "flag" takes bool, not this nil)"_s);
+    QCOMPARE(problem(u"flag"_s, {}), uR"(InvalidArgument: key "flag" takes bool, not this null)"_s);
     QCOMPARE(problem(u"child"_s, 1), uR"(InvalidArgument: key "child" takes SampleModel*, not this int)"_s);
     for (const QString &key : {u"number"_s, u"stranger"_s}) {
         const QString reason = u"UndefinedKey: no object with keys of its own under key \"%1\""_s;
