@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Compiled once and shared by every target; no source may rely on what it includes.
+// Compiled once and shared by all targets; sources must not rely on its includes.
 
 #pragma once
 

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Not compiled: names, for lupdate, the keys that the plug-in looks up in the default string table. A key is
-// a panel's name, a PPD option, an option and a choice of it, what the device services report, or an option
-// with "?".
+// Not compiled. Lists, for lupdate, the keys that the plug-in looks up in the default string table: panel
+// names, PPD options, options with a choice, messages of the device services, and options with "?".
 const char *const keys[] = {
     QT_TRANSLATE_NOOP("Localizable", "Print Mode"),
     QT_TRANSLATE_NOOP("Localizable", "Color Settings 1"),
@@ -68,7 +67,7 @@ const char *const keys[] = {
     QT_TRANSLATE_NOOP("Localizable", "ContrastVRN"),
     QT_TRANSLATE_NOOP("Localizable", "SaturationVRN"),
     QT_TRANSLATE_NOOP("Localizable", "BackgroundAdjustmentVRN"),
-    // What an option or a key of a panel is for.
+    // Explanations of options and panel keys.
     QT_TRANSLATE_NOOP("Localizable", "PrintMode?"),
     QT_TRANSLATE_NOOP("Localizable", "privatePassword?"),
     QT_TRANSLATE_NOOP("Localizable", "DeptCode?"),

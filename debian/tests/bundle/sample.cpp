@@ -6,7 +6,7 @@
 
 #include <QLabel>
 
-// A panel with a key of its own and no options of the printer.
+// A panel with one key and no PPD options.
 class ReminderPanel : public platform::KeyValueObject, public platform::PrintDialogPanel
 {
     Q_OBJECT
