@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""A GTK 3 program that prints five pages, as any does, and says what came of it. GTK_USE_PORTAL=1 sends it through the
-desktop's portal. Usage: gtk-print.py [NAME=VALUE...], settings that it kept from the last time."""
+"""A GTK 3 program that prints five pages and reports the result. With GTK_USE_PORTAL=1 it prints through the desktop's
+portal. Usage: gtk-print.py [NAME=VALUE...], the settings saved from an earlier run."""
 import sys
 
 import gi
@@ -37,7 +37,7 @@ def show_printing(window):
         print("   kept by the application:", " ".join(sorted(kept)))
     except GLib.Error as error:
         print("   GTK says:", error.message)
-    GLib.timeout_add(4000, Gtk.main_quit)  # the document is handed over after the dialog
+    GLib.timeout_add(4000, Gtk.main_quit)  # the document is sent after the dialog
     return False
 
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""An application that prints through the desktop's print portal with all that it can say of itself in the portal's newest
-version. Shows the version, the answer of the dialog and whether the document was taken. Usage: portal-print.py DOCUMENT"""
+"""An application that prints through the desktop's print portal with all options of the portal's latest version. Prints the
+version, the answer of the dialog, and whether the document was accepted. Usage: portal-print.py DOCUMENT"""
 import os
 import sys
 
@@ -25,7 +25,7 @@ calls = 0
 
 
 def call(method, signature, *arguments, fds=None, options=None):
-    """The response code of a request, and its results."""
+    """Sends a request and returns its response code and results."""
     global calls
     calls += 1
     token = f"t{calls}"

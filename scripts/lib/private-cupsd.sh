@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# A CUPS server of one's own in a folder, for tests and the demo. Its printers keep their jobs (capture-backend).
-#   run DIR                      become the server, in the foreground
-#   start DIR                    the same in the background; returns when it answers
-#   stop DIR                     end the one that start began; returns when it is gone
+# A private CUPS server in a folder, for tests and the demo. Its printers save their jobs (capture-backend).
+#   run DIR                      run the server in the foreground
+#   start DIR                    the same in the background; returns when it responds
+#   stop DIR                     stop the server started by start; returns when it has exited
 #   add-queue DIR NAME PPD URI   a queue that accepts jobs; PPD may be - for none; no address is ever contacted
 #   wait-job DIR JOB [SECONDS]   return when the job has been captured (10 seconds)
-#   options DIR JOB              the backend's fifth argument: the job's options as they arrived
-# KELMAR_CUPS_LISTEN is a further address to listen on, such as localhost:8631.
-# Where KELMAR_DIALOG_BACKEND names the backend of the dialog's queue, the server has it, with the mode it needs.
+#   options DIR JOB              the backend's fifth argument: the options of the job
+# KELMAR_CUPS_LISTEN is an additional address to listen on, such as localhost:8631.
+# If KELMAR_DIALOG_BACKEND is the backend of the dialog's queue, it is installed with the required mode.
 # Programs reach the server with CUPS_SERVER=DIR/cups.sock. Exit code 77: CUPS is not installed.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -26,10 +26,10 @@ prepare() {
     local name
     command -v cupsd >/dev/null || fail "cupsd is not installed (Debian: cups-daemon)" 77
     mkdir -p "$dir"/{etc/ppd,etc/ssl,spool/tmp,cache,state,log,bin/backend,jobs}
-    # cupsd's filters and backends run as another user, who has to get through.
+    # cupsd's filters and backends run as another user, who needs access to the folder.
     chmod 755 "$dir" "$dir"/{etc,spool,cache,state,log,bin,bin/backend}
     chmod 1777 "$dir/jobs" "$dir/spool/tmp"
-    # A socket address holds 108 bytes.
+    # The path of a socket is limited to 108 bytes.
     [ "${#sock}" -lt 104 ] || fail "the path $sock is too long for a socket"
     for name in cgi-bin daemon driver filter monitor notifier; do
         [ ! -e "$system_bin/$name" ] || ln -sfn "$system_bin/$name" "$dir/bin/$name"
@@ -107,7 +107,7 @@ start() {
 stop() {
     local pid tries
     pid=$(cat "$dir/cupsd.pid" 2>/dev/null) || return 0
-    # The number may be another program's by now.
+    # The PID may belong to another program by now.
     if ! grep -qF "$dir/cupsd.conf" "/proc/$pid/cmdline" 2>/dev/null; then
         rm -f "$dir/cupsd.pid"
         return 0
@@ -124,7 +124,7 @@ stop() {
 add_queue() { # NAME PPD URI
     local model=(-P "$2")
     [ "$2" != - ] || model=()
-    # lpadmin warns at each call that drivers are going away.
+    # lpadmin warns at each call that drivers are deprecated.
     local said status=0
     said=$(lpadmin -h "$sock" -p "$1" -E -v "$3" "${model[@]}" 2>&1) || status=$?
     grep -v deprecated <<<"$said" >&2 || true

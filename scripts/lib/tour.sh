@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# The tour of scripts/demo, in its folder with the private print server: for root as the user "nobody", since presets of
-# root's are everybody's. The program is installed there, as that user may not read where it was built.
+# Runs the tour of scripts/demo in its folder with the private print server. For root it runs as the user "nobody", since
+# presets of root apply to all users; the program is installed in the folder, since that user may not read the build tree.
 # Usage: tour.sh WORK
 set -euo pipefail
 cd "$(dirname "$0")/../.."
