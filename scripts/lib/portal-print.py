@@ -13,7 +13,7 @@ from gi.repository import Gio, GLib
 
 PORTAL = ("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Print")
 ABILITIES = {
-    "accept_label": GLib.Variant("s", "_Continue"),
+    "accept_label": GLib.Variant("s", "Contin_ue"),
     "supported_output_file_formats": GLib.Variant("as", ["ps", "pdf"]),
     "has_current_page": GLib.Variant("b", True),
     "has_selected_pages": GLib.Variant("b", True),
