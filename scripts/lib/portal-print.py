@@ -44,12 +44,17 @@ def call(method, signature, *arguments, fds=None, options=None):
     return answer
 
 
-print("   portal version:", portal.get_cached_property("version").unpack())
+version = portal.get_cached_property("version").unpack()
+print("   portal version:", version)
 code, results = call("PreparePrint", "(ssa{sv}a{sv}a{sv})", "", "Print", {}, {}, options=ABILITIES)
 settings = results.get("settings", {})
 print(f"   response {code}:", " ".join(f"{key}={value}" for key, value in sorted(settings.items())))
 if code:
     sys.exit(1)
+# Version 4 passes on what is selected, and the selection was chosen in the dialog.
+expected = {"output-file-format": "pdf", "print-pages": "selection" if version >= 4 else "all"}
+if any(settings.get(key) != value for key, value in expected.items()):
+    sys.exit(f"   expected: {expected}")
 with open(sys.argv[1], "rb") as document:
     fds = Gio.UnixFDList.new()
     fds.append(os.dup(document.fileno()))
