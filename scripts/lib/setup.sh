@@ -24,7 +24,7 @@ lint_packages=(clang clang-format clang-tidy git shellcheck)
 fuzz_packages=(clang)
 room_packages=(mmdebstrap git ccache iproute2)
 # scripts/package: building and checking Debian packages (debian/control names the build dependencies), and trying them.
-package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils)
+package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils python3)
 trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
 
 say() { printf '== %s\n' "$*"; }

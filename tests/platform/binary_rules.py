@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Checks that all programs and libraries of a build search libraries only relative to themselves, and are hardened:
+"""Checks that all programs and libraries in some folders search libraries only relative to themselves, and are hardened:
 symbols bound at start-up, write-protected tables, code in a separate segment, a shadow stack, fortified functions.
 An empty entry of a search path would mean the current folder.
 
-Usage: binary_rules.py BUILD
+Usage: binary_rules.py FOLDER...
 """
 import pathlib
 import re
@@ -31,15 +31,16 @@ def faults_of(path):
         yield "has no note of the shadow stack"
 
 
-def main(build):
-    binaries = [path for folder in ("bin", "tests") for path in sorted((pathlib.Path(build) / folder).rglob("*"))
+def main(*folders):
+    binaries = [path for folder in folders for path in sorted(pathlib.Path(folder).rglob("*"))
                 if path.is_file() and not path.is_symlink() and path.suffix != ".o"
                 and path.read_bytes()[:4] == b"\x7fELF"]
-    names = {path.name for path in binaries}
+    names = {path.name: path for path in binaries}
     faults = [f"{name}: not found" for name in ("kelmar-print", "libOrbM880.so") if name not in names]
     faults += [f"{path}: {fault}" for path in binaries for fault in faults_of(path)]
-    symbols = subprocess.run(["readelf", "--dyn-syms", "-W", pathlib.Path(build) / "bin/kelmar-print"],
-                             capture_output=True, text=True, check=True).stdout
+    symbols = ""
+    if program := names.get("kelmar-print"):
+        symbols = subprocess.run(["readelf", "--dyn-syms", "-W", program], capture_output=True, text=True, check=True).stdout
     if not re.search(r"__\w+_chk@|__(asan|tsan)_init", symbols):
         faults.append("kelmar-print: no function is fortified")
     print("\n".join(faults))
