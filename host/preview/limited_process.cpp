@@ -20,10 +20,12 @@ FileView::FileView(const SharedFile &file)
     struct stat facts = {};
     if (!file || fstat(file->get(), &facts) != 0 || facts.st_size <= 0)
         return;
-    const auto size = static_cast<size_t>(facts.st_size);
-    void *place = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file->get(), 0);
+    const auto size = static_cast<qsizetype>(facts.st_size);
+    if (size != facts.st_size)
+        return; // larger than the address space of a 32-bit system
+    void *place = mmap(nullptr, static_cast<size_t>(size), PROT_READ, MAP_PRIVATE, file->get(), 0);
     if (place != MAP_FAILED)
-        m_bytes = {static_cast<const char *>(place), facts.st_size};
+        m_bytes = {static_cast<const char *>(place), size};
 }
 
 FileView::~FileView()
