@@ -65,7 +65,8 @@ bool ChoiceBox::isItemEnabled(int index) const
 void ChoiceBox::showPopup()
 {
     QComboBox::showPopup();
-    // The list is created when it is first shown, with event filters of its own, which must run after this one.
+    // The list is created when it is first shown, with event filters of its own, which must run after this
+    // one.
     if (!std::exchange(m_listens, true)) {
         view()->installEventFilter(this);
         view()->viewport()->installEventFilter(this);
