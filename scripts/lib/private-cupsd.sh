@@ -140,7 +140,7 @@ wait_job() { # JOB SECONDS
     fail "job $1 has not arrived within $2 seconds"
 }
 
-[ $# -ge 2 ] || { sed -n '4,13s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
+[ $# -ge 2 ] || { sed -n '4,/^[^#]/s/^# \?//p' "${BASH_SOURCE[0]}" >&2 && exit 2; }
 verb=$1 dir=$2
 shift 2
 case $verb in run | start) mkdir -p "$dir" ;; esac

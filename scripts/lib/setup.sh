@@ -29,6 +29,11 @@ trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
 
 say() { printf '== %s\n' "$*"; }
 
+usage() { # prints the comment at the top of the script, and exits with 2
+    sed -n '4,/^[^#]/s/^# \?//p' "$0" >&2
+    exit 2
+}
+
 # wait_until SECONDS COMMAND...: repeats the command every 0.1 s until it succeeds. Fails when the time is up.
 wait_until() {
     local tries
