@@ -18,7 +18,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool choiceSliderIsRegistered = [] {
     platform::registerLayoutWidget<QVChoiceSlider_M880>(QStringLiteral("QVChoiceSlider_M880"));
     return true;
 }();

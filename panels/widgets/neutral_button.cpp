@@ -13,7 +13,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool neutralButtonIsRegistered = [] {
     platform::registerLayoutWidget<QVNeutralButton_M880>(QStringLiteral("QVNeutralButton_M880"));
     return true;
 }();

@@ -12,7 +12,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool noticeIsRegistered = [] {
     platform::registerLayoutWidget<QVNotice_M880>(QStringLiteral("QVNotice_M880"));
     return true;
 }();

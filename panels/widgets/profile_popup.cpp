@@ -14,7 +14,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool profilePopupIsRegistered = [] {
     platform::registerLayoutWidget<QVProfilePopUp_M880>(QStringLiteral("QVProfilePopUp_M880"));
     return true;
 }();

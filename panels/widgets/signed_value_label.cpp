@@ -9,7 +9,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool signedValueLabelIsRegistered = [] {
     platform::registerLayoutWidget<QVSignedValueLabel_M880>(QStringLiteral("QVSignedValueLabel_M880"));
     return true;
 }();

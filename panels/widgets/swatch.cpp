@@ -9,7 +9,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool swatchIsRegistered = [] {
     platform::registerLayoutWidget<QVSwatch_M880>(QStringLiteral("QVSwatch_M880"));
     return true;
 }();

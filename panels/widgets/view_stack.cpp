@@ -9,7 +9,7 @@
 
 namespace {
 
-const bool registered = [] {
+const bool viewStackIsRegistered = [] {
     platform::registerLayoutWidget<QVViewStack_M880>(QStringLiteral("QVViewStack_M880"));
     return true;
 }();
