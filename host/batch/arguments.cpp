@@ -191,7 +191,7 @@ QString parseProblem(const QCommandLineParser &parser)
     const QStringList unknown = parser.unknownOptionNames();
     if (unknown.isEmpty())
         return parser.errorText();
-    const QString name = unknown.first();
+    const QString &name = unknown.first();
     const bool isWord =
         std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetter() || c == u'-'; });
     if (!isWord)
