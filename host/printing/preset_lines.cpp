@@ -11,8 +11,12 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cstring>
 #include <cups/file.h>
 #include <optional>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace host {
 
@@ -39,10 +43,50 @@ struct Line
     QByteArray raw;     // including the line end
 };
 
-// Removes comments like libcups: "\#" is the character, "#" alone starts a comment; other escapes in the line
-// are not interpreted.
+// Whether the reader of lines in libcups unescapes a backslash, as from 2.4.17 on, before the options are
+// parsed. Before that, it leaves it to the options, which unescape it once more.
+bool linesHaveEscapes()
+{
+    static const bool result = [] {
+        int ends[2];
+        if (pipe2(ends, O_CLOEXEC) != 0)
+            return false;
+        char line[16] = "a \\\\\n";
+        const bool isWritten = write(ends[1], line, strlen(line)) > 0;
+        close(ends[1]);
+        cups_file_t *file = cupsFileOpenFd(ends[0], "r"); // takes the descriptor
+        char *value = nullptr;
+        int number = 0;
+        const bool isRead = isWritten && file && cupsFileGetConf(file, line, sizeof line, &value, &number);
+        const bool isSingle = isRead && value && qstrcmp(value, "\\") == 0;
+        if (file)
+            cupsFileClose(file);
+        else
+            close(ends[0]);
+        return isSingle;
+    }();
+    return result;
+}
+
+QByteArray withEscapesRead(const QByteArray &text)
+{
+    QByteArray result;
+    for (qsizetype i = 0; i < text.size() && text.at(i) != '#'; ++i) {
+        const QByteArray pair = text.mid(i, 2);
+        const bool isEscape = pair == "\\\\" || pair == "\\#" || pair == "\\n" || pair == "\\r";
+        i += isEscape;
+        const char c = text.at(i);
+        result += !isEscape ? c : c == 'n' ? '\n' : c == 'r' ? '\r' : c;
+    }
+    return result.trimmed();
+}
+
+// Removes comments like libcups: "\#" is the character, "#" alone starts a comment. Older versions do not
+// interpret other escapes in the line.
 QByteArray withoutComment(QByteArray text)
 {
+    if (linesHaveEscapes())
+        return withEscapesRead(text);
     const qsizetype mark = text.indexOf('#');
     if (mark > 0 && text.at(mark - 1) == '\\')
         text.remove(mark - 1, 1);
@@ -111,6 +155,8 @@ QByteArray quoted(const QString &value)
     QByteArray text;
     bool isPlain = !value.isEmpty();
     for (const char c : value.toUtf8()) {
+        if (c == '\\' && linesHaveEscapes())
+            text += "\\\\"; // once for the line, and below for the options
         if (c == '"' || c == '\'' || c == '\\' || c == '#')
             text += '\\';
         text += c;

@@ -360,7 +360,8 @@ class Job:
         self.facts = {}
 
     def send(self, command):
-        environment = dict(os.environ, HOME=str(self.setup.folder), QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
+        environment = dict(os.environ, HOME=str(self.setup.folder),
+                           CUPS_SERVERROOT=str(self.setup.folder / ".cups"), QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8",
                            LANGUAGE="en", CUPS_SERVER=str(self.setup.socket), **self.variables)
         if command[0] == "lp":  # expects the server first
             at = self.words.index("-h")

@@ -16,7 +16,7 @@
 // libcups, which looks up both only once. False with the server's problem.
 inline bool startPrivately(PrivateCupsd &server, std::optional<host::CupsPrintSystem> *system)
 {
-    qputenv("HOME", server.folder().toLocal8Bit());
+    server.provideHome();
     system->emplace();
     return server.start();
 }

@@ -275,7 +275,6 @@ void ChosenSettingsTest::windowAsksForAMissingCode()
 
 void ChosenSettingsTest::presetIsShownAndWhatIsDroppedTold()
 {
-    QVERIFY(QDir(m_server.folder()).mkpath(u".cups"_s));
     QFile file(m_server.folder() + u"/.cups/lpoptions"_s);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(

@@ -63,7 +63,6 @@ void PresetTest::initTestCase()
 {
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
-    qputenv("CUPS_SERVERROOT", m_server.folder().toLocal8Bit() + "/everybodys");
     QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
 }

@@ -114,6 +114,13 @@ void PrivateCupsd::stop()
     QFile::remove(socketPath());
 }
 
+void PrivateCupsd::provideHome() const
+{
+    QDir(folder()).mkpath(u".cups"_s);
+    qputenv("HOME", folder().toLocal8Bit());
+    qputenv("CUPS_SERVERROOT", m_folder.filePath(u".cups"_s).toLocal8Bit());
+}
+
 bool PrivateCupsd::isRunning() const
 {
     return m_server.state() != QProcess::NotRunning;
