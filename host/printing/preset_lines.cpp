@@ -212,9 +212,8 @@ QList<Preset> presetsIn(const QByteArray &content, const QString &queue)
         if (line.keyword.isEmpty() || lineQueue.compare(own, Qt::CaseInsensitive) != 0)
             continue;
         const QString name = slash < 0 ? QString() : fileNameFromBytes(line.destination.sliced(slash + 1));
-        auto known = std::find_if(presets.begin(), presets.end(), [&](const Preset &preset) {
-            return preset.name.compare(name, Qt::CaseInsensitive) == 0;
-        });
+        auto known = std::find_if(presets.begin(), presets.end(),
+                                  [&](const Preset &preset) { return isSamePreset(preset.name, name); });
         if (known == presets.end())
             known = presets.insert(presets.end(), {name, {}});
         readOptions(line.options, &known->options);
@@ -226,9 +225,12 @@ QMap<QString, QStringList> presetNamesIn(const QByteArray &content)
 {
     QMap<QString, QStringList> names;
     for (const Line &line : linesOf(content)) {
-        const auto [queue, name] = splitDestinationName(fileNameFromBytes(line.destination));
-        QStringList &known = names[queue.toLower()];
-        if (!name.isEmpty() && !known.contains(name, Qt::CaseInsensitive))
+        const auto destination = splitDestinationName(fileNameFromBytes(line.destination));
+        const QString &name = destination.second;
+        QStringList &known = names[destination.first.toLower()];
+        const bool isNew = std::none_of(known.begin(), known.end(),
+                                        [&name](const QString &other) { return isSamePreset(name, other); });
+        if (!name.isEmpty() && isNew)
             known.append(name);
     }
     return names;

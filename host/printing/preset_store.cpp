@@ -187,12 +187,25 @@ PrintError noSuchPreset(const QString &name)
 bool holds(const QByteArray &content, const QString &queue, const QString &name)
 {
     const QList<Preset> presets = presetsIn(content, queue);
+    return std::any_of(presets.begin(), presets.end(),
+                       [&](const Preset &preset) { return isSamePreset(preset.name, name); });
+}
+
+// Whether another preset than `from` has the name `to`, in any letter case.
+bool isTaken(const QByteArray &content, const QString &queue, const QString &from, const QString &to)
+{
+    const QList<Preset> presets = presetsIn(content, queue);
     return std::any_of(presets.begin(), presets.end(), [&](const Preset &preset) {
-        return preset.name.compare(name, Qt::CaseInsensitive) == 0;
+        return preset.name.compare(to, Qt::CaseInsensitive) == 0 && !isSamePreset(preset.name, from);
     });
 }
 
 } // namespace
+
+bool isSamePreset(const QString &name, const QString &other)
+{
+    return fileNameToBytes(name).compare(fileNameToBytes(other), Qt::CaseInsensitive) == 0;
+}
 
 PresetStore::Files PresetStore::filesOfCups()
 {
@@ -324,16 +337,15 @@ bool PresetStore::rename(const QString &queue, const QString &from, const QStrin
         return false;
     }
     const QString path = fileOf(queue, from, error);
-    const bool isOther = from.compare(to, Qt::CaseInsensitive) != 0;
     const auto renamed = [&](const QByteArray &content, PrintError *problem) -> std::optional<QByteArray> {
         if (!holds(content, queue, from)) {
             // The change may have been made before another program's file was read.
-            if (holds(content, queue, to) && isOther)
+            if (holds(content, queue, to))
                 return content;
             *problem = noSuchPreset(from);
             return std::nullopt;
         }
-        if (isOther && holds(content, queue, to)) {
+        if (isTaken(content, queue, from, to)) {
             *problem = {PrintError::Kind::BadValue,
                         StoreText::tr("There is already a preset called “%1”.").arg(to)};
             return std::nullopt;
@@ -354,7 +366,7 @@ bool PresetStore::remove(const QString &queue, const QString &name, PrintError *
     if (!holds(file->content, queue, name)) {
         const auto all = list(queue, error);
         const bool isEverybodys = all && std::any_of(all->begin(), all->end(), [&](const Preset &preset) {
-                                      return preset.name.compare(name, Qt::CaseInsensitive) == 0;
+                                      return isSamePreset(preset.name, name);
                                   });
         *error = isEverybodys ? PrintError{PrintError::Kind::NoPermission,
                                            StoreText::tr("“%1” is there for everybody on this computer; "

@@ -25,6 +25,9 @@ struct Preset
     bool operator==(const Preset &) const = default;
 };
 
+// Whether two names denote the same preset. Like libcups, ignores the case of ASCII letters only.
+bool isSamePreset(const QString &name, const QString &other);
+
 // Reads and writes the presets in libcups's files: one file for all users and one of the user, which takes
 // precedence for options in both. Each call reads the files, and blocks; calls may be made on any thread, and
 // from several processes at once. Changes are made under a lock file next to the file, and replace the file
@@ -55,7 +58,7 @@ public:
     std::optional<QList<Preset>> list(const QString &queue, PrintError *error) const;
     // Adds or replaces a preset. A preset without options is deleted.
     bool save(const QString &queue, const Preset &preset, PrintError *error) const;
-    // False if there is no such preset, or already one with the new name.
+    // False if there is no such preset, or another one whose name differs from the new name at most in case.
     bool rename(const QString &queue, const QString &from, const QString &to, PrintError *error) const;
     bool remove(const QString &queue, const QString &name, PrintError *error) const;
 

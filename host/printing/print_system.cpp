@@ -77,11 +77,10 @@ bool takePreset(Destination *destination, PrintError *error)
         return false;
     const bool isThere = destination->instance.isEmpty() ||
                          std::any_of(presets->begin(), presets->end(), [&](const Preset &preset) {
-                             return preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
+                             return isSamePreset(preset.name, destination->instance);
                          });
     for (const Preset &preset : *presets) {
-        const bool isUsed =
-            preset.name.isEmpty() || preset.name.compare(destination->instance, Qt::CaseInsensitive) == 0;
+        const bool isUsed = preset.name.isEmpty() || isSamePreset(preset.name, destination->instance);
         // libcups ignores letter case
         for (const QString &name : isUsed ? preset.options.keys() : QStringList())
             destination->serverOptions.removeIf(

@@ -21,9 +21,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     presetNamesIn(content);
     const QList<Preset> presets = presetsIn(content, queue);
     for (const Preset &preset : presets) {
-        const auto named = [&preset](const Preset &other) {
-            return other.name.compare(preset.name, Qt::CaseInsensitive) == 0;
-        };
+        const auto named = [&preset](const Preset &other) { return isSamePreset(other.name, preset.name); };
         if (preset.name.isEmpty())
             continue;
         const QList<Preset> left = presetsIn(withoutPreset(content, queue, preset.name), queue);

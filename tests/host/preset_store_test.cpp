@@ -75,6 +75,16 @@ void PresetStoreTest::linesOfOthersStayAsTheyAre()
     error = {};
     QVERIFY(store.remove(u"office"_s, u"zwölf"_s, &error));
     QCOMPARE(content(), others + "Dest office/fast Duplex=None\n");
+    // libcups ignores the case of ASCII letters only.
+    write(others + "Dest office/\xc3\x84mt a=1\nDest office/\xc3\xa4mt b=2\nDest office/\xc3\xa4MT c=3\n");
+    const QList<Preset> all{{QString(), {{u"sides"_s, u"x"_s}}},
+                            {u"Ämt"_s, {{u"a"_s, u"1"_s}}},
+                            {u"ämt"_s, {{u"b"_s, u"2"_s}, {u"c"_s, u"3"_s}}}};
+    QCOMPARE(*store.list(u"office"_s, &error), all);
+    QVERIFY(!store.rename(u"office"_s, u"ämt"_s, u"Ämt"_s, &error)); // one would be lost
+    error = {};
+    QVERIFY(store.remove(u"office"_s, u"ämt"_s, &error));
+    QCOMPARE(content(), others + "Dest office/\xc3\x84mt a=1\n");
     // A name in another encoding.
     write(others + "Dest office/gr\xfcn a=1\n");
     const auto list = store.list(u"office"_s, &error);

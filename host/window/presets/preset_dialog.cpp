@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -81,9 +83,11 @@ bool PresetDialog::keepsSecrets() const
 void PresetDialog::check()
 {
     const QString name = m_name->text();
-    const bool isTaken =
-        m_taken.contains(name, Qt::CaseInsensitive) &&
-        !(m_purpose == Purpose::Rename && name.compare(m_earlierName, Qt::CaseInsensitive) == 0);
+    const bool isTaken = m_purpose == Purpose::Save
+                             ? std::any_of(m_taken.begin(), m_taken.end(),
+                                           [&](const QString &other) { return isSamePreset(name, other); })
+                             : m_taken.contains(name, Qt::CaseInsensitive) &&
+                                   name.compare(m_earlierName, Qt::CaseInsensitive) != 0;
     const bool isEmpty = name.isEmpty(); // an empty name is no error before anything is typed
     QString problem = isEmpty ? QString() : PresetStore::nameProblem(name);
     m_ok->setEnabled(problem.isNull() && !isEmpty && !(isTaken && m_purpose == Purpose::Rename));

@@ -291,9 +291,8 @@ QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
     if (name.startsWith(QLatin1Char('/')) && name != ownDefaults)
         return {};
     const QString wanted = name == ownDefaults ? QString() : name;
-    const auto preset = std::find_if(m_lists.presets.begin(), m_lists.presets.end(), [&](const Preset &p) {
-        return p.name.compare(wanted, Qt::CaseInsensitive) == 0;
-    });
+    const auto preset = std::find_if(m_lists.presets.begin(), m_lists.presets.end(),
+                                     [&](const Preset &p) { return isSamePreset(p.name, wanted); });
     return preset == m_lists.presets.end() ? QMap<QString, QString>() : preset->options;
 }
 
