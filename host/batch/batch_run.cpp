@@ -160,14 +160,13 @@ bool BatchRun::mayNotPrintWithProtectionGap() const
     return m_session->lacksProtection() || (code && m_session->locks().choice(code->option) != code->choice);
 }
 
-// False if nothing would be printed. Raw data cannot be checked.
+// False if nothing would be printed.
 bool BatchRun::checkDocuments(PrintError *error)
 {
-    const ChosenSettings &chosen = m_session->chosen();
-    if (chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format")))
+    const std::optional<PageSettings> settings = settingsForCheck(*m_session);
+    if (!settings)
         return true;
-    const PageVerdict verdict =
-        checkPages(PageTools::installed(), m_documents.documents(), pageSettings(*m_session));
+    const PageVerdict verdict = checkPages(PageTools::installed(), m_documents.documents(), *settings);
     if (!verdict.message.isNull())
         *error = {PrintError::Kind::BadValue, verdict.message};
     return verdict.message.isNull();
@@ -204,7 +203,7 @@ bool BatchRun::savePreset(const QString &name, PrintError *error)
         return false;
     QMap<QString, QString> inUse;
     for (const Preset &preset : *known) {
-        if (preset.name == destination.instance)
+        if (isSamePreset(preset.name, destination.instance))
             inUse = preset.options;
     }
     if (!store.save(destination.queue, {name, presetOptions(*m_session, inUse, false)}, error))

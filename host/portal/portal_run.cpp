@@ -8,6 +8,7 @@
 #include "host/portal/dialog_channel.h"
 #include "host/portal/handed_document.h"
 #include "host/portal/stored_job.h"
+#include "host/preview/page_counter.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/option_text.h"
 #include "host/session/chosen_settings.h"
@@ -197,6 +198,11 @@ bool RequestRun::send(const StoredJob &job, PrintError *error)
     if (title.isEmpty())
         title = PortalText::tr("Document");
     list.first().name = title;
+    // The application has laid out the pages.
+    if (const QString problem = checkPages(PageTools::installed(), list, {}).message; !problem.isNull()) {
+        *error = {PrintError::Kind::BadValue, problem};
+        return false;
+    }
     const Submission submission = m_system.submit({*destination, list, title, job.options}, {});
     m_system.setLoginPrompt({});
     *error = submission.error;

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QThread>
 
 #include <cerrno>
 #include <cstring>
@@ -99,7 +100,8 @@ void LimitedProcess::stop()
     letGo();
 }
 
-// Kills the process without waiting for it.
+// Kills the process. Only a thread other than the main thread waits for its end, since its event loop may end
+// earlier.
 void LimitedProcess::letGo()
 {
     if (!m_process)
@@ -108,6 +110,10 @@ void LimitedProcess::letGo()
     process->disconnect(this);
     if (!process->isRunning()) {
         process->deleteLater(); // the process may be the caller
+        return;
+    }
+    if (process->thread() != QCoreApplication::instance()->thread()) {
+        delete process;
         return;
     }
     process->setParent(QCoreApplication::instance());

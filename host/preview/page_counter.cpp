@@ -8,6 +8,7 @@
 #include "platform/background.h"
 
 #include <QEventLoop>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -270,8 +271,10 @@ void PageCounter::finish()
     Q_EMIT counted();
 }
 
-PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings)
+PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings,
+                       const StopWanted &stop)
 {
+    constexpr std::chrono::milliseconds betweenLooks(50); // at `stop`
     PageCounter counter(tools);
     QStringList paths;
     for (const Document &document : documents)
@@ -281,6 +284,13 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
         if (counter.verdict().kind != PageVerdict::Kind::Pending)
             untilKnown.quit();
     });
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &untilKnown, [&] {
+        if (stop())
+            untilKnown.quit();
+    });
+    if (stop)
+        look.start(betweenLooks);
     counter.check(paths, settings);
     if (counter.verdict().kind == PageVerdict::Kind::Pending)
         untilKnown.exec();

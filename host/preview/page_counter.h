@@ -99,8 +99,8 @@ private:
 };
 
 // Determines whether any page of the documents would be printed. Runs an event loop until the result is
-// known.
-PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
-                       const PageSettings &settings);
+// known, on any thread. The result is Pending if `stop` (may be null) has returned true.
+PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings,
+                       const StopWanted &stop = {});
 
 } // namespace host

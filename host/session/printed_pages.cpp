@@ -60,6 +60,14 @@ PageSettings pageSettings(const DialogSession &session)
     return settings;
 }
 
+std::optional<PageSettings> settingsForCheck(const DialogSession &session)
+{
+    const ChosenSettings &chosen = session.chosen();
+    if (chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format")))
+        return std::nullopt;
+    return pageSettings(session);
+}
+
 bool isTwoSided(const DialogSession &session)
 {
     return session.ppd() && standardValueOfMarks(session.ppd(), QStringLiteral("sides"), {})

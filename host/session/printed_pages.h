@@ -5,6 +5,8 @@
 
 #include "host/printing/page_settings.h"
 
+#include <optional>
+
 namespace host {
 
 class DialogSession;
@@ -12,6 +14,9 @@ class DialogSession;
 // The effect of a session's settings on the pages of a document, as far as it does not depend on the
 // printer's hardware. Contains no secrets.
 PageSettings pageSettings(const DialogSession &session);
+
+// The same for checkPages(); null if documents reach the printer unchanged and cannot be checked.
+std::optional<PageSettings> settingsForCheck(const DialogSession &session);
 
 // Whether a session prints on both sides of the paper.
 bool isTwoSided(const DialogSession &session);

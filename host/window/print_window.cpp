@@ -409,6 +409,7 @@ void PrintWindow::deliver()
                  m_documentChoice.included(),
                  m_task.documentName,
                  {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
+                 settingsForCheck(*m_session),
                  m_settings->rememberUse()},
                 m_task.namesOf(m_documentChoice.included()));
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/preview/page_tools.h"
+#include "host/session/chosen_settings.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/document_box.h"
@@ -10,10 +12,12 @@
 #include "host/window/waiting/waiting_page.h"
 #include "platform/choice_box.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QRadioButton>
 #include <QSemaphore>
 #include <QTemporaryDir>
@@ -55,6 +59,8 @@ private Q_SLOTS:
     void cleanup() { m_window.reset(); }
     void everyWayToPrintIsChecked_data();
     void everyWayToPrintIsChecked();
+    void documentThatCannotBePrintedIsNotSent_data();
+    void documentThatCannotBePrintedIsNotSent();
     void nothingIsPrintedWhileAPdfIsSaved();
     void printingFollowsAWait_data();
     void printingFollowsAWait();
@@ -153,6 +159,67 @@ void PrintRequestTest::everyWayToPrintIsChecked()
     settle();
     QVERIFY(m_system.submitted.isEmpty());
     QVERIFY(m_window->book()->isVisible());
+}
+
+void PrintRequestTest::documentThatCannotBePrintedIsNotSent_data()
+{
+    QTest::addColumn<bool>("fromPipe");
+    QTest::addColumn<QStringList>("protection"); // as qpdf takes it; empty for a file that is cut off
+    QTest::addColumn<bool>("raw");               // goes to the printer as it is
+    QTest::addColumn<QString>("problem");        // null where it is printed
+    const QString broken = u"it is damaged or not complete"_s, secret = u"it needs a password"_s;
+    const QStringList password{u"open"_s, u"owner"_s, u"256"_s}, printing{u""_s, u"owner"_s, u"256"_s};
+    QTest::newRow("cut off") << false << QStringList() << false << broken;
+    QTest::newRow("cut off, from a pipe") << true << QStringList() << false << broken;
+    QTest::newRow("password") << false << password << false << secret;
+    QTest::newRow("no right to print") << false << printing + QStringList(u"--print=none"_s) << false
+                                       << u"its author does not allow it to be printed"_s;
+    QTest::newRow("with a right to print") << false << printing << false << QString();
+    QTest::newRow("password, for the printer") << false << password << true << QString();
+}
+
+void PrintRequestTest::documentThatCannotBePrintedIsNotSent()
+{
+    QFETCH(bool, fromPipe);
+    QFETCH(QStringList, protection);
+    QFETCH(bool, raw);
+    QFETCH(QString, problem);
+    for (const char *program : {"pdfinfo", "pdftopdf", "qpdf"}) {
+        if (PageTools::installed().path(QString::fromLatin1(program)).isEmpty())
+            QSKIP("poppler-utils, cups-filters or qpdf is not installed");
+    }
+    const QTemporaryDir folder;
+    const QString report = sourcePath("/demo/report.pdf");
+    QString path = folder.filePath(u"letter.pdf"_s);
+    if (protection.isEmpty())
+        QVERIFY(QFile::copy(report, path) && QFile::resize(path, 300));
+    else
+        QCOMPARE(QProcess::execute(u"qpdf"_s, QStringList(u"--encrypt"_s) + protection +
+                                                  QStringList{u"--"_s, report, path}),
+                 0);
+    QProcess writer;
+    if (fromPipe) {
+        const QString pipe = folder.filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        writer.start(u"sh"_s, {u"-c"_s, u"cat '%1' >'%2'"_s.arg(path, pipe)});
+        path = pipe;
+    }
+    PrintTask task;
+    task.files = {path};
+    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    PrintError error;
+    QVERIFY(m_window->open(&error));
+    m_window->show();
+    if (raw)
+        QVERIFY(::host::choose(m_window->session(), {u"raw"_s, u"true"_s, ChosenSetting::Kind::JobOption},
+                               &error));
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), problem.isNull() ? 1 : 0);
+    QVERIFY2(problem.isNull() || m_window->messageBar()->text().contains(problem),
+             qPrintable(m_window->messageBar()->text()));
+    QCOMPARE(m_window->book()->isVisible(), !problem.isNull()); // to choose again
+    writer.waitForFinished();
 }
 
 void PrintRequestTest::beginSaving(const QString &target)

@@ -385,6 +385,9 @@ void PrintJobTest::documentOfAnApplicationIsSent()
     QCOMPARE(job->options.value(u"PrintMode"_s), u"Private"_s);
     QCOMPARE(send(u"nowhere"_s, document), QByteArray("{\"response\":2}\n"));
     QCOMPARE(send(u"office"_s, u"/dev/null"_s), QByteArray("{\"reason\":\"document\",\"response\":2}\n"));
+    QFile whole(document);
+    QVERIFY(whole.open(QIODevice::ReadOnly));
+    QCOMPARE(send(u"office"_s, file(u"cut.pdf"_s, whole.read(300))), QByteArray("{\"response\":2}\n"));
     QVERIFY(m_server.capturedJobs().last() == job->id);
 }
 

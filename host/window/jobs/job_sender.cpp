@@ -3,6 +3,7 @@
 
 #include "host/window/jobs/job_sender.h"
 
+#include "host/preview/page_counter.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/later_writes.h"
 
@@ -16,6 +17,16 @@ namespace {
 // notice the wait.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
+
+// The reason why no page of the documents would be printed.
+PrintError problemOf(const QList<Document> &documents, const std::optional<PageSettings> &settings,
+                     const StopWanted &stop)
+{
+    if (!settings)
+        return {};
+    const QString problem = checkPages(PageTools::installed(), documents, *settings, stop).message;
+    return problem.isNull() ? PrintError() : PrintError{PrintError::Kind::BadValue, problem};
+}
 
 } // namespace
 
@@ -54,8 +65,7 @@ bool JobSender::send(Order order)
         Submission failed;
         const Order &wanted = sending->order;
         const auto isDropped = [&] { return sending->phase == Sending::Phase::Dropped; };
-        if (!wanted.documents->open(wanted.files, nullptr, &failed.error, isDropped) ||
-            !sending->enter(Sending::Phase::Submitting))
+        if (!wanted.documents->open(wanted.files, nullptr, &failed.error, isDropped))
             return failed;
         JobRequest request = wanted.request;
         request.documents = wanted.documents->documents();
@@ -63,6 +73,9 @@ bool JobSender::send(Order order)
             request.title = wanted.documents->title();
         if (!wanted.documentName.isEmpty())
             request.documents.first().name = wanted.documentName;
+        failed.error = problemOf(request.documents, wanted.pages, isDropped);
+        if (failed.error || !sending->enter(Sending::Phase::Submitting))
+            return failed;
         const auto progress = [&](qint64 sent, qint64 total) {
             sending->sent = sent;
             sending->total = total;

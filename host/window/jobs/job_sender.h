@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/printing/documents.h"
+#include "host/printing/page_settings.h"
 #include "host/printing/print_system.h"
 #include "platform/awaited.h"
 
@@ -12,14 +13,16 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace host {
 
 class HeldSignals;
 
-// Sends documents to the print server as a job, on a worker thread, and reports the progress. Owned by its
-// window; sends one job at a time. The print system is borrowed and outlives this object. Signals that end
-// the program are held during a submission, so that the job can be canceled first.
+// Sends documents to the print server as a job, on a worker thread, and reports the progress. Sends
+// nothing if nothing would be printed. Owned by its window; sends one job at a time. The print system is
+// borrowed and outlives this object. Signals that end the program are held during a submission, so that the
+// job can be canceled first.
 class JobSender : public QObject
 {
     Q_OBJECT
@@ -29,7 +32,8 @@ public:
         std::shared_ptr<DocumentList> documents; // used by the work until it has ended
         QStringList files;                       // opened by the work
         QString documentName;                    // of the only document; empty for the name of its file
-        JobRequest request; // documents, and the title if it is empty, are set from the files
+        JobRequest request;                // documents, and the title if it is empty, are set from the files
+        std::optional<PageSettings> pages; // to check that a page would be printed; null for no check
         std::function<void()>
             rememberUse; // called on a worker thread when the job was accepted; may be empty
     };
