@@ -7,6 +7,7 @@
 #include "host/session/page_ranges.h"
 #include "platform/unique_fd.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -16,6 +17,9 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+
+#include <atomic>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -33,6 +37,7 @@ private Q_SLOTS:
     void documents_data();
     void documents();
     void standardInputIsSpooled();
+    void documentsAreReadWhileTheyAreOpened();
     void filesWithoutASize_data();
     void filesWithoutASize();
     void documentThatNeverEnds();
@@ -121,6 +126,27 @@ void CoreValuesTest::standardInputIsSpooled()
     QCOMPARE(spool.readAll(), contents);
     QVERIFY(!DocumentList().open({u"-"_s}, &input, &error)); // at end of file
     QCOMPARE(error.kind, PrintError::Kind::EmptyDocument);
+}
+
+// As in a dialog that saves a PDF file and prints at the same time.
+void CoreValuesTest::documentsAreReadWhileTheyAreOpened()
+{
+    const QStringList paths(20, sourcePath("/demo/note.txt"));
+    PrintError error;
+    DocumentList list;
+    QVERIFY(list.open(paths, nullptr, &error));
+    std::atomic<bool> isDone{false};
+    std::thread opener([&] {
+        PrintError ignored;
+        for (int i = 0; i < 100; ++i)
+            (void)list.open(paths, nullptr, &ignored);
+        isDone = true;
+    });
+    qsizetype fewest = paths.size();
+    while (!isDone)
+        fewest = std::min({fewest, list.documents().size(), list.title() == u"note.txt"_s ? fewest : 0});
+    opener.join();
+    QCOMPARE(fewest, paths.size());
 }
 
 void CoreValuesTest::filesWithoutASize_data()

@@ -443,6 +443,16 @@ void PolicyTest::lockedChoiceIsNotGivenUp()
     QVERIFY(!bar->text().contains(u"protects"_s));
     bar->buttons().first()->click();
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"MediaType"_s), u"Thick"_s);
+    // A question about a conflict keeps the lock as well, and does not call it the user's protection.
+    Protection protection;
+    protection.choices.insert(u"MediaType"_s, {u"Thick"_s});
+    m_window->session()->setProtection(protection);
+    QVERIFY(m_window->session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
+    printButton()->click();
+    QVERIFY2(bar->text().contains(u"“Paper Type: Heavy Paper” cannot be changed. If you print anyway"_s) &&
+                 bar->text().contains(u"Set by the administrator."_s) &&
+                 !bar->text().contains(u"protects"_s) && !bar->text().contains(u"Suggestion: Paper Type"_s),
+             qPrintable(bar->text()));
 }
 
 // The printer's control is disabled on a panel's page; if its choice changes nevertheless, it is reset, and

@@ -13,6 +13,7 @@ LISTEN and SERVER are socket paths. The fault affects request NUMBER (counted fr
   create-negative create-endless               the response to Create-Job contains job -5, or is endless
   send-forgotten                               Send-Document is answered; afterwards all jobs are unknown
   send-foreign                                 the response to Send-Document is lost; all jobs have the token of another program
+  send-replaced                                the same, but only if a job is requested by its number
   send-vanished                                Send-Document arrives; then the server is gone
   send-stalled                                 the rest of the document is not read
   send-cut                                     the connection breaks in the middle of the document
@@ -119,9 +120,9 @@ class Relay(http.server.BaseHTTPRequestHandler):
         upstream.close()
         if hit and fault == "send-vanished":
             os._exit(0)
-        if hit and (fault.endswith("-lost") or fault == "send-foreign"):
+        if hit and (fault.endswith("-lost") or fault in ("send-foreign", "send-replaced")):
             raise Broken
-        if fault == "send-foreign":
+        if fault == "send-foreign" or (fault == "send-replaced" and operation == operations["look"]):
             content = content.replace(b"kelmar-submission\0\x2durn:uuid:", b"kelmar-submission\0\x2durn:uuiD:")
         if hit and fault.endswith("-garbage"):
             content = os.urandom(200)

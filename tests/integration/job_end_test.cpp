@@ -180,7 +180,7 @@ void JobEndTest::lostAnswers_data()
         QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
     for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
         QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
-    for (const char *fault : {"send-vanished", "send-forgotten", "send-foreign"})
+    for (const char *fault : {"send-vanished", "send-forgotten", "send-foreign", "send-replaced"})
         QTest::newRow(fault) << 1 << 1 << u"unknown"_s << 5 << 1;
     QTest::newRow("send-dropped") << 1 << 1 << u"unknown"_s << 5 << 0;
     QTest::newRow("send-dropped, second of three") << 2 << 3 << u"rejected"_s << 1 << 0;
