@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/preview/page_tools.h"
+#include "host/preview/page_counter.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/general_page.h"
@@ -250,7 +250,10 @@ void GeneralPageTest::pdfIsWritten()
     if (!hasPreview())
         QSKIP("cups-filters or poppler-utils is not installed");
     const QTemporaryDir folder;
-    openWith({report}, {1200, 900}, u"../Page 1/2"_s);
+    openWith({sourcePath("/demo/note.txt")}, {1200, 900}, u"../Page 1/2"_s);
+    // Reverse order of two-sided pages begins with the blank back of the last sheet.
+    QVERIFY(m_window->session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
+    m_window->session()->general().layout.isReversed = true;
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     button(u"Save as PDF…"_s)->click();
     QTRY_VERIFY(find<QFileDialog>());
@@ -265,6 +268,9 @@ void GeneralPageTest::pdfIsWritten()
     QFile file(folder.filePath(u"out.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF");
     QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());
+    PageCounter counter(PageTools::installed());
+    counter.count({file.fileName()}, {});
+    QTRY_COMPARE(counter.pagesOf(file.fileName()), 2);
 }
 
 // An application that prints later may use the same title for all its documents.
