@@ -19,7 +19,7 @@ run_packages=(
 tour_packages=(openbox xdotool imagemagick x11-xserver-utils)
 # scripts/pictures: reducing the pictures.
 picture_packages=(imagemagick)
-lint_packages=(clang clang-format clang-tidy git shellcheck)
+lint_packages=(clang clang-format clang-tidy git python3 shellcheck)
 # scripts/fuzz; it adds the run-time library, which has the version of clang in its name.
 fuzz_packages=(clang)
 room_packages=(mmdebstrap git ccache iproute2)
