@@ -106,7 +106,8 @@ bool serverSaysOtherwise(const JobOptionSources &sources, const QString &name,
 
 // A default of the queue or the user under a standard name. The server adds the queue's default to each job
 // that does not contain the name, even if the job contains the PPD's keyword, and the filters would receive
-// both.
+// both. Newer versions of libcups take the tray and the type of the paper only from "media" if it is there,
+// so it then contains all three.
 JobOption standardDefault(const JobOptionSources &sources, const QString &name, const QString &value)
 {
     const QMap<QString, QString> choices = sources.ppd->standardChoices(name, value);
@@ -115,12 +116,15 @@ JobOption standardDefault(const JobOptionSources &sources, const QString &name, 
     bool holds = !choices.isEmpty();
     for (auto it = choices.begin(); it != choices.end(); ++it)
         holds &= sources.ppd->markedChoice(it.key()) == it.value();
-    const QString now =
-        holds ? value
-              : standardValueOfMarks(sources.ppd, name, choices.isEmpty() ? QStringList() : choices.keys());
-    return {name, now,
-            now.isEmpty() || (holds && !serverSaysOtherwise(sources, name, choices)) ? Kind::Shown
-                                                                                     : Kind::Attribute};
+    const bool isMedia = name == QLatin1String("media");
+    const bool isChosen = isMedia && isDecided(sources, name);
+    const bool namesAll = choices.isEmpty() || isMedia;
+    const QString now = holds && !isChosen ? value
+                                           : standardValueOfMarks(sources.ppd, name,
+                                                                  namesAll ? QStringList() : choices.keys());
+    const bool isServers = isChosen && sources.destination.queueDefaults.contains(name);
+    const bool isKept = holds && !isServers && !serverSaysOtherwise(sources, name, choices);
+    return {name, now, now.isEmpty() || isKept ? Kind::Shown : Kind::Attribute};
 }
 
 QList<JobOption> defaults(const JobOptionSources &sources)
