@@ -313,6 +313,9 @@ void ColorDialogTest::waitingIsShown()
     showPage("color-settings-1");
     QCOMPARE(device.requestCount(), rowsOfADevice);
     QCOMPARE(askedUnseen, 0);
+    QVERIFY(m_window->isSettled()); // for a picture
+    if (qstrcmp(QTest::currentDataTag(), "setting of the command line") != 0)
+        QVERIFY(!find<QPushButton>("presets")->text().contains(u"(changed)"_s));
     QVERIFY(!QApplication::overrideCursor());
     for (const QLabel *label : m_window->findChildren<QLabel *>())
         QVERIFY(!label->text().startsWith(u"Asking the printer"_s));
