@@ -147,6 +147,16 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
     const QStringList options = optionsOfStandardName(name);
     const QString known = isSame(name, mediaCollectionName) || isSame(name, regionName) ? mediaName : name;
     QMap<QString, QString> before, decoys, result;
+    // libcups may mark further options: with the color mode, those of the PPD's preset for it.
+    QMap<QString, QString> all;
+    for (const QString &keyword : optionKeywords())
+        all.insert(keyword, markedChoice(keyword));
+    const auto restore = [&] {
+        for (auto it = all.begin(); it != all.end(); ++it) {
+            if (!it.value().isEmpty() && markedChoice(it.key()) != it.value())
+                mark(it.key(), it.value());
+        }
+    };
     for (const QString &keyword : options) {
         const auto subject = option(keyword);
         if (!subject || subject->markedChoice.isEmpty())
@@ -172,12 +182,10 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
     };
     markedByValue();
     // The new choice may be the temporary choice itself; compared with the original marks it is a change.
-    for (auto it = before.begin(); it != before.end(); ++it)
-        mark(it.key(), it.value());
+    restore();
     decoys.clear();
     markedByValue();
-    for (auto it = before.begin(); it != before.end(); ++it)
-        mark(it.key(), it.value());
+    restore();
     return result;
 }
 

@@ -1114,6 +1114,129 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>PpdTexts</name>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Zweiseitig drucken</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Druckqualität</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Manual Feed</source>
+        <translation>Manuelle Zufuhr</translation>
+    </message>
+    <message>
+        <source>Bypass Tray</source>
+        <translation>Mehrzweckfach</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Glänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Briefumschlag</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Output Tray</source>
+        <translation>Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>One, Top Left</source>
+        <translation>Einmal, oben links</translation>
+    </message>
+    <message>
+        <source>One, Bottom Left</source>
+        <translation>Einmal, unten links</translation>
+    </message>
+    <message>
+        <source>Two, Left</source>
+        <translation>Zweimal, links</translation>
+    </message>
+    <message>
+        <source>Two, Top</source>
+        <translation>Zweimal, oben</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Endverarbeitung</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>

@@ -1114,6 +1114,129 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>PpdTexts</name>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Impresión a doble cara</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivada</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Borde largo</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Borde corto</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Calidad de impresión</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Modo de color</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Escala de grises</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Manual Feed</source>
+        <translation>Alimentación manual</translation>
+    </message>
+    <message>
+        <source>Bypass Tray</source>
+        <translation>Bandeja multiuso</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Papel normal</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Papel fotográfico brillante</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Output Tray</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Cara impresa hacia abajo</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Cara impresa hacia arriba</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Grapado</translation>
+    </message>
+    <message>
+        <source>One, Top Left</source>
+        <translation>Una, arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>One, Bottom Left</source>
+        <translation>Una, abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Two, Left</source>
+        <translation>Dos, a la izquierda</translation>
+    </message>
+    <message>
+        <source>Two, Top</source>
+        <translation>Dos, arriba</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforado</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plegado</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>

@@ -1114,6 +1114,129 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>PpdTexts</name>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Impression recto verso</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivée</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Bord court</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Qualité d’impression</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Manual Feed</source>
+        <translation>Alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Bypass Tray</source>
+        <translation>Bac auxiliaire</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Output Tray</source>
+        <translation>Bac de sortie</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Face imprimée dessous</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Face imprimée dessus</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafage</translation>
+    </message>
+    <message>
+        <source>One, Top Left</source>
+        <translation>Une, en haut à gauche</translation>
+    </message>
+    <message>
+        <source>One, Bottom Left</source>
+        <translation>Une, en bas à gauche</translation>
+    </message>
+    <message>
+        <source>Two, Left</source>
+        <translation>Deux, à gauche</translation>
+    </message>
+    <message>
+        <source>Two, Top</source>
+        <translation>Deux, en haut</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Pliage</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>

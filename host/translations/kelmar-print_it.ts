@@ -1114,6 +1114,129 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>PpdTexts</name>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>Stampa fronte/retro</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivata</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Lato lungo</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Lato corto</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>Qualità di stampa</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Bozza</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>Modalità colore</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>Scala di grigi</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Manual Feed</source>
+        <translation>Alimentazione manuale</translation>
+    </message>
+    <message>
+        <source>Bypass Tray</source>
+        <translation>Vassoio bypass</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>Carta comune</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>Carta fotografica lucida</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Busta</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etichette</translation>
+    </message>
+    <message>
+        <source>Output Tray</source>
+        <translation>Vassoio di uscita</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>Lato stampato in basso</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>Lato stampato in alto</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Pinzatura</translation>
+    </message>
+    <message>
+        <source>One, Top Left</source>
+        <translation>Uno, in alto a sinistra</translation>
+    </message>
+    <message>
+        <source>One, Bottom Left</source>
+        <translation>Uno, in basso a sinistra</translation>
+    </message>
+    <message>
+        <source>Two, Left</source>
+        <translation>Due, a sinistra</translation>
+    </message>
+    <message>
+        <source>Two, Top</source>
+        <translation>Due, in alto</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforazione</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Piegatura</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finitura</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatico</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>

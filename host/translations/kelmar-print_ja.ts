@@ -1114,6 +1114,129 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>PpdTexts</name>
+    <message>
+        <source>Two-Sided Printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>Print Quality</source>
+        <translation>印刷品質</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Color Mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Grayscale</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Manual Feed</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Bypass Tray</source>
+        <translation>手差しトレイ</translation>
+    </message>
+    <message>
+        <source>Plain Paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Glossy Photo Paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Output Tray</source>
+        <translation>排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Face Down</source>
+        <translation>フェイスダウン</translation>
+    </message>
+    <message>
+        <source>Face Up</source>
+        <translation>フェイスアップ</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>One, Top Left</source>
+        <translation>1 か所、左上</translation>
+    </message>
+    <message>
+        <source>One, Bottom Left</source>
+        <translation>1 か所、左下</translation>
+    </message>
+    <message>
+        <source>Two, Left</source>
+        <translation>2 か所、左</translation>
+    </message>
+    <message>
+        <source>Two, Top</source>
+        <translation>2 か所、上</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>

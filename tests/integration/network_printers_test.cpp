@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
 #include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_list.h"
+#include "platform/choice_box.h"
 #include "tests/support/heartbeat.h"
 #include "tests/support/paths.h"
 #include "tests/support/private_bonjour.h"
@@ -25,6 +27,27 @@ constexpr qint64 longestGap = 1500; // milliseconds
 constexpr qint64 longestGap = 100;
 #endif
 
+// What driverless_printer.conf says of itself, as the window shows it.
+struct Offer
+{
+    const char *option;
+    const char *label;
+    const char *choices;
+    const char *typed; // selects a choice
+    const char *sent;
+};
+
+constexpr Offer offers[] = {
+    {"PageSize", "Media Size", "A3|A4", "A3", "A3"},
+    {"MediaType", "Media Type", "Automatic|Plain Paper|Labels", "La", "Labels"},
+    {"InputSlot", "Media Source", "Automatic|Tray 1|Bypass Tray", "By", "ByPassTray"},
+    {"Duplex", "Two-Sided Printing", "Off|Long Edge|Short Edge", "Lo", "DuplexNoTumble"},
+    {"cupsPrintQuality", "Print Quality", "Draft|Normal|High", "Hi", "High"},
+    {"ColorModel", "Color Mode", "Grayscale|Color", "Gr", "Gray"},
+    {"OutputBin", "Output Tray", "Face Down|Face Up", "Face U", "FaceUp"},
+    {"StapleLocation", "Staple", "None|One, Top Left|Two, Left", "Tw", "DualPortrait"},
+};
+
 } // namespace
 
 // A printer that announces itself through a real avahi-daemon in a private network.
@@ -36,6 +59,8 @@ private Q_SLOTS:
     void foundWhenTheListIsOpenedAndPrints();
 
 private:
+    static void chooseOffered(PrintWindow *window);
+
     PrivateBonjour m_bonjour;
     ChildProcess m_printer;
     PrivateCupsd m_server;
@@ -54,11 +79,34 @@ void NetworkPrintersTest::initTestCase()
     QVERIFY2(m_server.addQueue(u"office"_s, {}), qPrintable(m_server.problem()));
     QString error;
     m_printer = startChildProcess(u"ippeveprinter"_s,
-                                  {u"-p"_s, u"8633"_s, u"-n"_s, u"orb-m880.local"_s, u"-f"_s,
-                                   u"application/pdf"_s, u"-d"_s, m_server.folder(), u"-v"_s, u"Attic"_s},
+                                  {u"-p"_s, u"8633"_s, u"-n"_s, u"orb-m880.local"_s, u"-a"_s,
+                                   sourcePath("/tests/integration/driverless_printer.conf"), u"-d"_s,
+                                   m_server.folder(), u"-v"_s, u"Attic"_s},
                                   "printer-uri", &error);
     if (!m_printer)
         QSKIP(qPrintable(error));
+}
+
+void NetworkPrintersTest::chooseOffered(PrintWindow *window)
+{
+    for (const Offer &offer : offers) {
+        const QString option = QLatin1String(offer.option);
+        auto *box = window->book()->findChild<platform::ChoiceBox *>(option);
+        for (int row = 1; !box && row < 3; ++row) {
+            window->book()->showPage(row);
+            box = window->book()->findChild<platform::ChoiceBox *>(option);
+        }
+        QVERIFY2(box, offer.option);
+        QCOMPARE(box->accessibleName(), QLatin1String(offer.label));
+        QStringList choices;
+        for (int i = 0; i < box->count(); ++i)
+            choices.append(box->itemText(i));
+        QCOMPARE(choices.join(u'|'), QLatin1String(offer.choices));
+        QTRY_VERIFY(box->isVisible() && box->isEnabled());
+        QTest::keyClicks(box, QLatin1String(offer.typed));
+        QCOMPARE(box->currentData().toString(), QLatin1String(offer.sent));
+        QCOMPARE(window->session()->ppd()->markedChoice(option), QLatin1String(offer.sent));
+    }
 }
 
 void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
@@ -86,11 +134,18 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     QTest::keyClick(box->searchField(), Qt::Key_Return);
     QTRY_COMPARE_WITH_TIMEOUT(window.session()->destination().queue, u"Attic"_s, 20'000);
     QVERIFY(window.session()->ppd()); // created by the server from the printer's attributes
+    chooseOffered(&window);
+    if (QTest::currentTestFailed())
+        return;
     window.print();
     QTRY_VERIFY_WITH_TIMEOUT(window.submission() && window.submission()->isAccepted(), 15'000);
     const auto job = m_server.waitForJob(window.submission()->job.id);
     QVERIFY(job);
     QVERIFY2(job->deviceUri.contains(u":8633/ipp/print"_s), qPrintable(job->deviceUri));
+    const QStringList sent = job->optionText.split(u' '); // cupsParseOptions() drops cupsPrintQuality
+    for (const Offer &offer : offers)
+        QVERIFY2(sent.contains(u"%1=%2"_s.arg(QLatin1String(offer.option), QLatin1String(offer.sent))),
+                 qPrintable(job->optionText));
     QVERIFY2(heart.longestGap() < longestGap, qPrintable(QString::number(heart.longestGap())));
 }
 
