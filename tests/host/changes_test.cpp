@@ -9,6 +9,7 @@
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/preset_dialog.h"
+#include "host/window/printers/printer_picker.h"
 #include "platform/binding.h"
 #include "tests/host/window_fixture.h"
 
@@ -22,6 +23,8 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+
+#include <sys/file.h>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -42,6 +45,7 @@ private Q_SLOTS:
     void summaryShowsChangesAndLeadsToThem();
     void presetIsSavedAppliedRenamedAndDeleted();
     void lastUsedIsOfferedWithoutCodes();
+    void presetActionsStayWithTheirPrinter();
 
 private:
     QString marked(const QString &keyword) const { return m_window->session()->ppd()->markedChoice(keyword); }
@@ -379,6 +383,38 @@ void ChangesTest::lastUsedIsOfferedWithoutCodes()
     open();
     trigger(u"Last Used"_s);
     QCOMPARE(marked(u"Duplex"_s) + marked(u"Sharp"_s), u"DuplexNoTumble0"_s);
+}
+
+// An open menu and pending work on a file do not affect the printer that is selected meanwhile.
+void ChangesTest::presetActionsStayWithTheirPrinter()
+{
+    open();
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    PrintError error;
+    QVERIFY(PresetStore().save(u"office"_s, {u"grey"_s, {{u"ColorType"_s, u"Mono"_s}}}, &error));
+    const PresetStore::Files files = PresetStore::filesOfCups();
+    QFile lock((files.writesForEverybody ? files.everybodys : files.users) + u".kelmar-lock"_s);
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    const QStringList texts = menuTexts();
+    QMenu *menu = presets()->menu();
+    QAction *save = menu->actions().value(texts.indexOf(u"Use as My Default for This Printer"_s));
+    QVERIFY(save);
+    QCOMPARE(::flock(lock.handle(), LOCK_EX), 0); // by another program, for a moment
+    save->trigger();
+    menu->popup({});
+    QPointer<QAction> grey;
+    for (QAction *action : menu->actions()) {
+        if (action->text() == u"grey"_s)
+            grey = action;
+    }
+    QVERIFY(grey && menu->isVisible());
+    Q_EMIT find<PrinterPicker>()->picked(u"attic"_s);
+    QTRY_COMPARE(m_window->session()->destination().queue, u"attic"_s);
+    QVERIFY(!grey && !menu->isVisible());
+    lock.close();
+    settle();
+    QCOMPARE(PresetStore().list(u"office"_s, &error)->size(), 2);
+    QVERIFY2(!presets()->text().contains(u"My Defaults"_s), qPrintable(presets()->text()));
 }
 
 QTEST_MAIN(ChangesTest)
