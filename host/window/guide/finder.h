@@ -16,9 +16,9 @@ namespace host {
 class PageBook;
 class SearchBar;
 
-// The search of the dialog (Ctrl+F): finds options, choices and controls of every page, and leads to
-// them. Builds its bar when it is first opened, and its index each time it is opened; for that it builds no
-// page. The book is borrowed; the search goes with the window that holds it.
+// The search of the dialog (Ctrl+F): finds options, choices and controls on all pages, and shows them.
+// Creates its bar when it is first opened, and its index each time it is opened, without building pages. The
+// book is borrowed; the search is destroyed with its window.
 class Finder : public QObject
 {
     Q_OBJECT
@@ -26,14 +26,14 @@ public:
     explicit Finder(PageBook *book);
 
     void open();
-    // The parts of the window that are the search's, for the order of the keyboard; none before it is opened.
+    // The widgets of the search in the window, for the tab order; none before it is first opened.
     QList<QWidget *> parts() const;
-    // Opens the page of a setting, brings its control into view, gives it the focus and flashes it. Where the
-    // control is not built yet, as soon as it is.
+    // Opens the page of a setting, scrolls to its control, gives it the focus and highlights it briefly. If
+    // the control does not exist yet, waits until it does.
     void lead(const FoundSetting &setting);
 
 Q_SIGNALS:
-    // What parts() gives has changed.
+    // The result of parts() has changed.
     void partsChanged();
 
 private:
@@ -48,7 +48,7 @@ private:
     SearchBar *m_bar = nullptr;
     SettingIndex m_index;
     QList<FoundSetting> m_found;
-    std::optional<FoundSetting> m_sought; // its control is still to be shown
+    std::optional<FoundSetting> m_sought; // the setting whose control must still be shown
 };
 
 } // namespace host

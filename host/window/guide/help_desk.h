@@ -15,9 +15,9 @@ namespace host {
 class HelpPage;
 class PageBook;
 
-// The help of the dialog (F1): shows the text on the page that is open in its place. The texts of the
-// host's own pages are resources of the program; panels bring theirs. Built when first asked for. The book is
-// borrowed; the help goes with the window that holds it.
+// The help of the dialog (F1): shows the help text in place of the current page. The texts of the host's
+// pages are resources of the program; panels provide their own. Created on first use. The book is borrowed;
+// the help is destroyed with its window.
 class HelpDesk : public QObject
 {
     Q_OBJECT
@@ -28,19 +28,19 @@ public:
     void toggle();
 
 Q_SIGNALS:
-    // Something else is shown than before.
+    // A different page is shown.
     void shown();
 
 private:
     QStackedWidget *stack() const;
     bool isOpen() const;
-    // False where there is no such text.
+    // False if there is no such text.
     bool showTopic(const QString &topic);
     void close();
 
     PageBook *m_book;
-    HelpPage *m_page = nullptr; // the stack's
-    QPointer<QWidget> m_before; // had the focus
+    HelpPage *m_page = nullptr; // owned by the stack
+    QPointer<QWidget> m_before; // previous focus widget
 };
 
 } // namespace host

@@ -11,13 +11,13 @@ class QTextBrowser;
 
 namespace host {
 
-// A page that shows a help text in the place of the page of settings that it explains. Loads nothing, neither
-// images nor pages: links are reported, and the owner of the page shows what they name.
+// Shows a help text in place of the page of settings that it explains. Loads neither images nor pages: links
+// are reported, and the owner shows their target.
 class HelpPage : public QWidget
 {
     Q_OBJECT
 public:
-    // Something on the explained page, and what it is for. Plain text.
+    // A setting on the explained page and its description. Plain text.
     struct Explained
     {
         QString name;
@@ -26,9 +26,9 @@ public:
 
     explicit HelpPage(QWidget *parent);
 
-    // `markdown` is a page of the program's or a bundle's; what is explained stands below it.
+    // `markdown` is a page of the program or a bundle; the explanations follow below it.
     void show(const QString &markdown, const QList<Explained> &explained);
-    // The text as it is read.
+    // The displayed text.
     QString text() const;
     QTextBrowser *browser() const { return m_browser; }
 

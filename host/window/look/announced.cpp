@@ -16,8 +16,8 @@ const char *const announcedProperty = "kelmarAnnounced";
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
     auto *widget = qobject_cast<QWidget *>(object);
-    // Qt's own for a scroll area ends the program when it is asked for a child that it has not, and a reader
-    // may well ask for a scroll bar that has just gone.
+    // Qt's own implementation for scroll areas crashes when it is queried for a child that does not exist,
+    // and a screen reader may query a scroll bar that was just removed.
     if (qobject_cast<QScrollArea *>(widget))
         return new QAccessibleWidget(widget, QAccessible::Pane);
     return widget && widget->property(announcedProperty).isValid()
@@ -40,7 +40,7 @@ void makeAnnounced(QWidget *widget)
 void announce(QWidget *widget, const QString &text)
 {
     widget->setAccessibleName(text);
-    if (!widget->isVisible()) // it will be read out when it appears
+    if (!widget->isVisible()) // it is announced when it appears
         return;
     QAccessibleEvent shown(widget, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);

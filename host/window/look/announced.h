@@ -7,12 +7,12 @@
 
 namespace host {
 
-// Makes a widget one that screen readers read out when it appears: its role is that of a notification, which
-// they announce without its having the focus. To be called when the widget is made.
+// Makes screen readers announce a widget when it appears: it gets the role of a notification, which is
+// announced without having the focus. Call when the widget is created.
 void makeAnnounced(QWidget *widget);
 
-// Gives such a widget what it says as its name, and has it read out: at once where it is shown already, else
-// when it appears.
+// Sets the accessible name of such a widget, and has it announced: at once if it is visible, else when it
+// appears.
 void announce(QWidget *widget, const QString &text);
 
 } // namespace host

@@ -7,7 +7,7 @@
 
 namespace host {
 
-// A line of plain text in the middle of a page; wraps. The parent's.
+// A line of plain text in the centre of a page; wraps. Owned by the parent.
 inline QLabel *centredLabel(QWidget *parent)
 {
     auto *label = new QLabel(parent);

@@ -7,14 +7,14 @@
 
 namespace host {
 
-// The sign of a changed setting, an arrow that leads back: pressing it takes the change back. Takes no focus;
-// the keyboard has the same in the context menu of the control.
+// The mark of a changed setting, an arrow: pressing it undoes the change. Does not take the focus; the
+// context menu of the control has the same function for the keyboard.
 class ChangeMark : public QAbstractButton
 {
     Q_OBJECT
 public:
     explicit ChangeMark(QWidget *parent);
-    // What it leads back to; empty where there are no words for it.
+    // Sets the text of the previous value; empty if there is none.
     void tell(const QString &earlier);
     QString backText() const { return m_backText; } // for a menu
     QSize sizeHint() const override { return {15, 18}; }
@@ -23,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QString m_backText; // not its text, which would get an access key
+    QString m_backText; // not the button's text, which would get an access key
 };
 
 } // namespace host

@@ -15,7 +15,7 @@ DialogButton::DialogButton(const QString &text, QWidget *parent) : QPushButton(t
     setMinimumWidth(96);
 }
 
-// With space on both sides of the words, also for the focus frame, which is drawn inside.
+// Includes space on both sides of the text, also for the focus frame, which is drawn inside.
 QSize DialogButton::sizeHint() const
 {
     return QPushButton::sizeHint().grownBy({8, 0, 8, 0});
@@ -44,7 +44,7 @@ void DialogButton::paintEvent(QPaintEvent *event)
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    // The frame around a button with the focus would not stand out from its ground.
+    // The frame around a focused button would not contrast with its background.
     if (hasFocus()) {
         painter.setPen(QPen(ink, 1.5));
         painter.setBrush(Qt::NoBrush);

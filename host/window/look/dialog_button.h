@@ -10,23 +10,23 @@
 
 namespace host {
 
-// A button of the dialog itself. The one that the Return key presses stands on the highlight colour, which
-// tells it from the others in every palette and whatever has the focus; a button with the focus is that one.
+// A button of the dialog. The default button has the highlight colour as its background, which distinguishes
+// it in every palette and wherever the focus is; a focused button is the default button.
 class DialogButton : public QPushButton
 {
     Q_OBJECT
 public:
     DialogButton(const QString &text, QWidget *parent);
 
-    // The mouse presses nothing for as long, as where the button has just come under a pointer that pressed
-    // another; keys do.
+    // Ignores the mouse for this time, for example if the button has just appeared under a pointer that
+    // pressed another one. Keys still work.
     void ignoreMouseFor(std::chrono::milliseconds time) { m_deaf.setRemainingTime(time); }
 
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override; // of a double click, too
+    void mousePressEvent(QMouseEvent *event) override; // including double clicks
 
 private:
     QDeadlineTimer m_deaf{0};

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// One line of foreign text that takes the width it is given, cut with an ellipsis; the whole is in the tool
-// tip.
+// One line of text from a printer or file that takes the available width; elided, with the full text in the
+// tooltip.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

@@ -7,9 +7,9 @@
 
 namespace host {
 
-// "What is this?" of a setting that the host shows itself, by the keyword of its option or the name of its
-// job attribute, or of another control by a name of this table: one or two sentences of plain text. Null for
-// options that only the printer's maker knows.
+// The "What's This?" text of a setting of the host, by the keyword of its option or the name of its job
+// attribute, or of another control by a name in this table: one or two sentences of plain text. Null for
+// options that only the printer's manufacturer can explain.
 QString explanationOf(const QString &setting);
 
 } // namespace host

@@ -22,7 +22,7 @@ bool marksItself(const QWidget *widget)
     return qobject_cast<const QListView *>(widget);
 }
 
-// What is around a control as far as it scrolls along with it: a nearer parent would cut the frame off.
+// The outermost parent that scrolls together with the control; a nearer parent would clip the frame.
 QWidget *groundOf(const QWidget *control)
 {
     QWidget *ground = control->parentWidget();
@@ -32,7 +32,7 @@ QWidget *groundOf(const QWidget *control)
     return ground;
 }
 
-// A child of the ground. Assistive technology passes over frames of this kind.
+// A child of the ground. Assistive technology ignores frames of this kind.
 class Frame : public QFocusFrame
 {
 public:

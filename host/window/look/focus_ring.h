@@ -9,9 +9,9 @@
 
 namespace host {
 
-// A frame around whichever control of a window has the focus, since styles mark it faintly, some controls not
-// at all, and nothing before the first press of the Tab key. A child of its window. Rows of the list of pages
-// mark themselves.
+// A frame around the control of a window that has the focus, since styles mark it faintly, some controls not
+// at all, and no control before the Tab key is first pressed. A child of its window. Rows of the list of
+// pages have their own mark.
 class FocusRing : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     explicit FocusRing(QWidget *window);
     ~FocusRing() override;
 
-    // What it goes around now; null for nothing.
+    // The control that is framed; null if there is none.
     QWidget *target() const;
 
 private:
@@ -27,7 +27,7 @@ private:
 
     QWidget *m_window;
     QPointer<QWidget> m_target;
-    QPointer<QFocusFrame> m_frame; // goes with the page that it is on
+    QPointer<QFocusFrame> m_frame; // destroyed with the page that it is on
 };
 
 } // namespace host

@@ -13,14 +13,14 @@ namespace {
 
 constexpr qsizetype mostLines = 12;
 constexpr qsizetype mostCharacters = 2000;
-constexpr qsizetype longestWord = 24; // characters that fit the narrowest place
+constexpr qsizetype longestWord = 24; // characters that fit into the narrowest place
 
 QString cut(const QString &text, qsizetype most)
 {
     return text.size() <= most ? text : text.left(most - 1) + QChar(0x2026);
 }
 
-// Control characters and those that turn the direction of writing would change the texts around.
+// Control characters and direction overrides would affect surrounding texts.
 bool isUnwanted(QChar c)
 {
     return c.category() == QChar::Other_Control || (c.unicode() >= 0x202a && c.unicode() <= 0x202e) ||
@@ -34,7 +34,7 @@ QString withBreaks(const QString &line)
     for (const QChar c : line) {
         length = c.isSpace() ? 0 : length + 1;
         if (length > longestWord && !c.isLowSurrogate()) {
-            result += QChar(0x200b); // a place to break at
+            result += QChar(0x200b); // allows a line break
             length = 1;
         }
         result += isUnwanted(c) ? QChar(QLatin1Char(' ')) : c;
@@ -46,7 +46,7 @@ QString withBreaks(const QString &line)
 
 QString oneLine(const QString &text, qsizetype most)
 {
-    QString line = cut(text, 4 * most); // simplifying takes its time with a megabyte
+    QString line = cut(text, 4 * most); // simplified() is slow for a megabyte
     for (QChar &c : line) {
         if (isUnwanted(c))
             c = QLatin1Char(' ');

@@ -9,18 +9,18 @@ class QLabel;
 
 namespace host {
 
-// The one way for texts of PPDs, printers, servers and files into the window: as they read, never as markup,
-// and never larger than their place.
+// All texts of PPDs, printers, servers and files are passed through these functions before they are shown in
+// the window. They are shown as plain text, and never exceed their place.
 
-// For a line of its own, such as an item of a list: without line breaks and control characters, cut beyond
+// For a single line, such as an item of a list: without line breaks and control characters, truncated after
 // `most` characters.
 QString oneLine(const QString &text, qsizetype most = 160);
-// For a label that wraps: a dozen lines at most, and words so long that they would widen it may be broken.
+// For a label that wraps: at most a dozen lines; words that would widen it can be broken.
 QString wrappable(const QString &text);
-// For a tool tip, which takes what looks like markup for it.
+// For a tooltip, which would otherwise interpret markup.
 QString tooltipOf(const QString &text);
-// The text in a width of so many pixels of the label's font; where it is cut, the whole is in the label's
-// tool tip.
+// The text, elided to this width in pixels in the label's font; if it is elided, the full text becomes the
+// label's tooltip.
 QString elided(const QString &text, QLabel *label, int width);
 
 } // namespace host

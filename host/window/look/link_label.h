@@ -7,8 +7,8 @@
 
 namespace host {
 
-// Plain text that leads somewhere: underlined while the mouse is over it or it has the focus, followed by a
-// click, Return or the space bar.
+// A plain-text link: underlined while the mouse is over it or it has the focus, activated by a click, Return
+// or the space bar.
 class LinkLabel : public QLabel
 {
     Q_OBJECT

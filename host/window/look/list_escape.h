@@ -9,10 +9,10 @@ class QWidget;
 
 namespace host {
 
-// Keeps the Escape key that closes an open list from closing the dialog as well. Qt closes a list when the
-// key is announced as a possible shortcut. On Wayland, where the keyboard stays with the dialog's window
-// while a list is open, the key press itself comes next and would reach the dialog. Owned by the dialog;
-// watches the application.
+// Prevents the Escape key that closes an open list from also closing the dialog. Qt closes a list when the
+// key is announced as a possible shortcut. On Wayland the focus stays with the dialog's window while a list
+// is open, so the key press that follows would reach the dialog. Owned by the dialog; filters events of the
+// application.
 class ListEscape : public QObject
 {
 public:

@@ -17,7 +17,7 @@ namespace host {
 
 namespace {
 
-// The number of an X window; 0 when the handle names none, or the desktop has no X windows.
+// The number of an X window; 0 if the handle does not name one, or the desktop has no X windows.
 xcb_window_t windowId(const QString &handle)
 {
     const QString prefix = QStringLiteral("x11:");
@@ -42,7 +42,7 @@ xcb_atom_t atomOf(xcb_connection_t *connection, const QByteArray &name)
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-// Empty when the window is gone or has no such text.
+// Empty if the window does not exist or has no such text.
 QString textOf(xcb_connection_t *connection, xcb_window_t window, const QByteArray &property)
 {
     constexpr uint32_t longest = 256; // 32-bit units
@@ -79,7 +79,7 @@ ParentWindow::ParentWindow(QWidget *dialog, const QString &handle, bool modal) :
         setX11Parent(windowId(handle), modal);
     } else if (kind == QLatin1String("wayland") && !name.isEmpty() &&
                platform.startsWith(QLatin1String("wayland"))) {
-        dialog->winId(); // makes the window
+        dialog->winId(); // creates the native window
         m_exported = std::make_unique<WaylandParent>(dialog->windowHandle(), name.toUtf8());
     }
 }
@@ -91,7 +91,7 @@ void ParentWindow::setX11Parent(quint32 id, bool modal)
     m_foreign.reset(QWindow::fromWinId(static_cast<WId>(id)));
     if (!m_foreign)
         return;
-    m_dialog->winId(); // makes the window
+    m_dialog->winId(); // creates the native window
     if (modal)
         m_dialog->setWindowModality(Qt::WindowModal);
     m_dialog->windowHandle()->setTransientParent(m_foreign.get());

@@ -14,14 +14,14 @@ namespace host {
 
 class WaylandParent;
 
-// The title that the window of this name shows, on one line; empty where it cannot be found out, as on
-// Wayland. Asks the X server.
+// The title of the window with this handle, on one line; empty if it cannot be determined, as on Wayland.
+// Queries the X server.
 QString titleOfWindow(const QString &handle);
 
-// Puts a dialog in front of another program's window, as the print portal names it: "x11:" and the window's
-// number in hexadecimal, or "wayland:" and the name under which its program has exported it. Where the name
-// is none, or the desktop has no such windows, nothing happens. The dialog is borrowed and not yet shown;
-// this object outlives its showing.
+// Places a dialog in front of another program's window, given by the handle of the print portal: "x11:" and
+// the window's number in hexadecimal, or "wayland:" and the name under which the program has exported the
+// window. Does nothing if the handle is invalid, or the desktop has no such windows. The dialog is borrowed
+// and not shown yet; this object must outlive its display.
 class ParentWindow
 {
 public:

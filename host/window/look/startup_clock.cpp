@@ -16,7 +16,7 @@ namespace host {
 namespace {
 
 constexpr qint64 nanosecondsASecond = 1'000'000'000;
-constexpr int startTimeField = 21; // of /proc/self/stat, counted from 0
+constexpr int startTimeField = 21; // in /proc/self/stat, counted from 0
 
 qint64 now(clockid_t clock)
 {
@@ -41,7 +41,7 @@ qint64 nanosecondsSinceStart()
     return now(CLOCK_BOOTTIME) - ticks * (nanosecondsASecond / sysconf(_SC_CLK_TCK));
 }
 
-// As the kernel sums it up page by page; the figure of /proc/self/status may be off by a megabyte.
+// From the kernel's sum over all pages; the value in /proc/self/status may differ by a megabyte.
 qint64 residentKilobytes()
 {
     QFile rollup(QStringLiteral("/proc/self/smaps_rollup"));
@@ -66,7 +66,7 @@ bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Paint && !m_seen) {
         m_seen = true;
         watched->removeEventFilter(this);
-        // The paint itself comes after this filter; the queued call after the window has been flushed.
+        // The paint follows after this filter; the queued call follows after the window has been flushed.
         QMetaObject::invokeMethod(this, &FirstPaint::done, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
@@ -75,7 +75,7 @@ bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
 Settled::Settled(QWidget *window) : QObject(window)
 {
     m_quiet.setSingleShot(true);
-    m_quiet.setInterval(std::chrono::milliseconds(200)); // shorter than a text cursor blinks
+    m_quiet.setInterval(std::chrono::milliseconds(200)); // shorter than the blink time of a text cursor
     connect(&m_quiet, &QTimer::timeout, this, &Settled::done);
     connect(&m_quiet, &QTimer::timeout, this, &QObject::deleteLater);
     QCoreApplication::instance()->installEventFilter(this);
@@ -91,7 +91,7 @@ bool Settled::eventFilter(QObject *watched, QEvent *event)
 
 StartupFigures StartupFigures::now()
 {
-    const qint64 nanoseconds = nanosecondsSinceStart(); // before the memory is looked at, which takes a while
+    const qint64 nanoseconds = nanosecondsSinceStart(); // before measuring the memory, which takes a while
     return {static_cast<double>(nanoseconds) / 1e6, host::residentKilobytes()};
 }
 

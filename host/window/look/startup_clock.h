@@ -11,7 +11,7 @@ class QWidget;
 
 namespace host {
 
-// Waits for the first paint of a window to be done and on the screen, then tells. Lives until then at least.
+// Reports when the first paint of a window is complete and visible. Must live until then.
 class FirstPaint : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,8 @@ private:
     bool m_seen = false;
 };
 
-// Tells when nothing has been painted in a window for a moment: its animations are over. Deletes itself then.
+// Reports when nothing has been painted in a window for a short time, so that its animations are over.
+// Deletes itself then.
 class Settled : public QObject
 {
     Q_OBJECT
@@ -45,11 +46,11 @@ private:
     QTimer m_quiet;
 };
 
-// How long the program has run and what memory it uses, as of now.
+// The run time and memory of the program at the current time.
 struct StartupFigures
 {
-    // Since the moment that KELMAR_T0_NS gives (nanoseconds of CLOCK_MONOTONIC), else since the start that
-    // the kernel has noted, to the hundredth of a second.
+    // Since the time in KELMAR_T0_NS (nanoseconds of CLOCK_MONOTONIC), else since the start time recorded by
+    // the kernel, with a resolution of 10 ms.
     double milliseconds = 0;
     qint64 residentKilobytes = 0;
 

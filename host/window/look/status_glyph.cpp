@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-// Drawn on a field of 20 by 20.
+// In a coordinate system of 20 by 20.
 QPainterPath strokesOf(StatusGlyph::Kind kind)
 {
     QPainterPath path;

@@ -7,15 +7,15 @@
 
 namespace host {
 
-// A round sign for what has happened: a note, a question, an error, a success. Takes its colours from the
-// palette as far as they have no meaning of their own; sharp at every scale.
+// A round icon for a kind of message: a note, a question, an error, a success. Uses the colours of the
+// palette unless a colour has a meaning; sharp at every scale.
 class StatusGlyph : public QWidget
 {
     Q_OBJECT
 public:
     enum class Kind { Notice, Question, Error, Success };
 
-    // `size` in pixels, both ways.
+    // `size` in pixels, for width and height.
     StatusGlyph(int size, QWidget *parent);
     void setKind(Kind kind);
     Kind kind() const { return m_kind; }

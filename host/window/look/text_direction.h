@@ -7,9 +7,9 @@ class QWidget;
 
 namespace host {
 
-// In a window from right to left: has every label keep to the side that its layout means, also one whose text
-// runs from left to right, such as the name of an option that the PPD has in English only. Labels choose the
-// side by their text otherwise. Does nothing in other windows, and nothing to labels that it has seen.
+// In a right-to-left window, aligns all labels as intended by the layout, including labels with left-to-right
+// text, such as option names that the PPD has only in English. By default labels are aligned according to
+// their text. Does nothing in other windows, and skips labels that were already processed.
 void keepLabelsAligned(QWidget *window);
 
 } // namespace host

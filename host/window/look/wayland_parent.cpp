@@ -32,7 +32,7 @@ struct Destroyer
     }
 };
 
-// What the compositor offers of the protocol: its second version, or the first.
+// The versions of the protocol that the compositor offers: the second, or the first.
 struct Importers
 {
     std::unique_ptr<zxdg_importer_v2, Destroyer<zxdg_importer_v2_destroy>> second;
@@ -56,8 +56,8 @@ constexpr wl_registry_listener registryListener{bindImporter, ignoreRemoval};
 
 } // namespace
 
-// Its objects have an event queue of their own, beside Qt's on the same connection. It is never read again
-// after the first round trip: that the other window has gone changes nothing here.
+// Uses a separate event queue on Qt's connection. It is not read after the first round trip, since it does
+// not matter here whether the other window has been closed.
 class WaylandParent::Import
 {
 public:
@@ -81,7 +81,7 @@ public:
     }
 
 private:
-    std::unique_ptr<wl_event_queue, Destroyer<wl_event_queue_destroy>> m_queue; // goes after its objects
+    std::unique_ptr<wl_event_queue, Destroyer<wl_event_queue_destroy>> m_queue; // destroyed after its objects
     std::unique_ptr<wl_registry, Destroyer<wl_registry_destroy>> m_registry;
     Importers m_importers;
     std::unique_ptr<zxdg_imported_v2, Destroyer<zxdg_imported_v2_destroy>> m_second;

@@ -12,10 +12,10 @@ class QWindow;
 
 namespace host {
 
-// Puts a window in front of another program's window on Wayland, which that program has exported
-// (xdg-foreign) under the name `handle`. Waits for the window's first exposure, since it has no surface
-// before. Where the compositor lacks the protocol, the name is none, or the program was built without
-// Wayland, nothing happens. The window is borrowed.
+// Places a window in front of another program's window on Wayland, which that program has exported
+// (xdg-foreign) under the name `handle`. Waits until the window is first exposed, since it has no surface
+// before. Does nothing if the compositor lacks the protocol, the name is invalid, or the program was built
+// without Wayland. The window is borrowed.
 class WaylandParent : public QObject
 {
 public:

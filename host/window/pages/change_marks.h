@@ -18,20 +18,20 @@ class DialogSession;
 class SessionHistory;
 struct SettingChange;
 
-// Marks the controls of a page whose settings are not what they were when the dialog opened or a preset was
-// applied: with a sign next to the control that takes the change back when it is pressed, with the same in
-// the control's context menu, and in words for a screen reader. Finds the controls by the settings that they
-// bear: a panel's by what they are bound to, those of the host's pages by their object name. Touches nothing
-// of the page itself; the signs lie over it. A child of what holds the page.
+// Marks the controls on a page whose settings differ from those at the start of the dialog, or after a preset
+// was applied: with a mark next to the control that undoes the change when it is pressed, with an entry in
+// the control's context menu, and with a description for screen readers. Controls of a panel are found by
+// their bindings, those of the host's pages by their object names. Does not change the page; the marks are
+// placed above it. A child of the widget that contains the page.
 class ChangeMarks : public QObject
 {
     Q_OBJECT
 public:
-    // `panel` is the panel whose page it is, or negative for one of the host's. All are borrowed.
+    // `panel` is the panel of the page, or negative for a page of the host. All pointers are borrowed.
     ChangeMarks(QWidget *page, int panel, DialogSession *session, SessionHistory *history);
     ~ChangeMarks() override;
 
-    // Looks for controls that have come, and at what has changed.
+    // Looks for new controls and for changes.
     void refresh();
     // The control of a setting, or null; and all of them.
     QWidget *controlOf(const QString &key);
@@ -45,9 +45,9 @@ private:
     {
         QPointer<QWidget> widget;
         QStringList keys;
-        QPointer<ChangeMark> mark; // while it is changed
+        QPointer<ChangeMark> mark; // while the setting is changed
         QString ownDescription;    // for a screen reader, without the change
-        QString description;       // what was made of it
+        QString description;       // the description that was set
     };
     void findControls();
     QStringList keysSetBy(const QWidget *control) const;

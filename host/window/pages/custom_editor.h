@@ -17,21 +17,21 @@ class QLabel;
 
 namespace host {
 
-// Where the values of a custom choice are typed: width, height and unit of a size; otherwise a field for each
-// value, with its range. Keeps what is typed; its owner marks the choice.
+// Fields for the values of a custom choice: width, height and unit of a size; otherwise one field for each
+// value, with its range. Keeps the input; its owner marks the choice.
 class CustomEditor : public QWidget
 {
     Q_OBJECT
 public:
-    // `option` is what the user knows the option as.
+    // `option` is the display name of the option.
     CustomEditor(const CustomChoice &custom, const QString &option, QWidget *parent = nullptr);
 
-    // Shows the values of a choice; what is no choice of this kind leaves the fields as they are.
+    // Shows the values of a choice. If it is not a valid custom choice, the fields do not change.
     void setChoice(const QString &choice);
     QString choice() const;
-    // What is wrong with what was typed, in a user's words; null when nothing is.
+    // The localised problem with the input; null if there is none.
     QString problem() const;
-    // Marks what is asked for as missing, until the next key, and puts the cursor there.
+    // Marks the missing value as missing, until the next key, and places the cursor there.
     void showProblem();
 
 Q_SIGNALS:
@@ -57,10 +57,10 @@ private:
 
     CustomChoice m_custom;
     QString m_option;
-    QString m_shown; // the choice that was set, while nothing has been typed since
+    QString m_shown; // the choice that was set, until the user types
     QGridLayout *m_grid;
     QList<Field> m_fields;
-    QList<QDoubleSpinBox *> m_sides; // of a size
+    QList<QDoubleSpinBox *> m_sides; // width and height of a size
     QComboBox *m_unit = nullptr;
     QString m_currentUnit;
     QLabel *m_hint;

@@ -9,8 +9,8 @@ namespace host {
 
 class DocumentChoice;
 
-// The documents of a job, each with a box that includes it, in a list of a few lines. The current one is the
-// one that is looked at. The choice is borrowed and outlives the list.
+// The documents of a job, each with a check box that includes it, in a list of a few lines. The current
+// document is shown in the preview. The choice is borrowed and outlives the list.
 class DocumentBox : public QListWidget
 {
     Q_OBJECT

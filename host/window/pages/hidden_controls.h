@@ -10,10 +10,10 @@ class QWidget;
 
 namespace host {
 
-// Takes controls off the page of a panel whose options the administrator does not show: each with what
-// belongs to it, which is its label, and the rest of its row where the page is a grid (the value next to a
-// slider, the button that resets it). They stay away when the panel shows them. The widgets belong to the
-// page, and may go first; the object is a child of what shows the page.
+// Hides controls on the page of a panel whose options are hidden by the administrator, together with their
+// labels and, if the page is a grid, the rest of their rows (the value next to a slider, the button that
+// resets it). They stay hidden when the panel shows them. The widgets are owned by the page, and may be
+// destroyed first. A child of the widget that shows the page.
 class HiddenControls : public QObject
 {
     Q_OBJECT

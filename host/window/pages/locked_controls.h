@@ -10,14 +10,14 @@ class QWidget;
 
 namespace host {
 
-// Greys controls on the page of a panel that the administrator has fixed, and says so in their tool tips,
-// before what the panel says there. So it stays, whatever the panel does to them. The controls belong to the
-// page, and may go first; the object is a child of what shows the page.
+// Disables the controls on the page of a panel that the administrator has fixed, and shows the reason in
+// their tooltips, before the panel's own text. They stay disabled whatever the panel does. The controls are
+// owned by the page, and may be destroyed first. A child of the widget that shows the page.
 class LockedControls : public QObject
 {
     Q_OBJECT
 public:
-    // `reason` is plain text in the user's language.
+    // `reason` is localised plain text.
     LockedControls(const QList<QWidget *> &controls, const QString &reason, QObject *parent);
 
 protected:

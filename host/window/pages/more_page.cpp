@@ -19,8 +19,8 @@ namespace host {
 
 namespace {
 
-constexpr qsizetype rowsInPart = 10; // built in a few milliseconds
-constexpr qsizetype rowsAtOnce = 20; // more than a window of usual height shows
+constexpr qsizetype rowsInPart = 10; // created within a few milliseconds
+constexpr qsizetype rowsAtOnce = 20; // more than fit into a window of usual height
 constexpr int titleWidth = 440;      // pixels
 
 } // namespace
@@ -71,7 +71,7 @@ void MorePage::build(const Part &part)
     }
     auto *form = new OptionForm(m_session, part.keywords, m_grid, this);
     connect(form, &OptionForm::chosen, this, &MorePage::chosen);
-    // One choice may free or forbid those of another part.
+    // A choice may enable or forbid choices in another part.
     connect(form, &OptionForm::chosen, this, &MorePage::refresh);
     m_forms.append(form);
 }

@@ -20,8 +20,8 @@ class CustomEditor;
 class DialogSession;
 
 // Rows of a page, one for each of some PPD options: a label, a list of the choices, and below it the values
-// of a custom choice while that is the one. Choices that something else stands in the way of are greyed and
-// say why. Belongs to the page whose grid it fills; the session is borrowed and outlives it.
+// of a custom choice if it is selected. Conflicting choices are greyed out with the reason. Owned by the page
+// whose grid it fills; the session is borrowed and outlives it.
 class OptionForm : public QObject
 {
     Q_OBJECT
@@ -29,17 +29,17 @@ public:
     OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, QObject *parent);
 
     platform::ChoiceBox *box(const QString &keyword) const;
-    // What keeps a custom choice that the user has begun from being marked; null when nothing does.
+    // Why an incomplete custom choice cannot be marked; null if there is none.
     QString problem() const;
-    // Puts the cursor there.
+    // Places the cursor at the problem.
     void showProblem();
 
 public Q_SLOTS:
-    // Shows what is marked now.
+    // Shows the current marks.
     void refresh();
 
 Q_SIGNALS:
-    // The user has chosen, and the choice is marked.
+    // The user has made a choice, and it is marked.
     void chosen(const QString &keyword);
 
 private:
@@ -48,8 +48,8 @@ private:
         QString keyword;
         platform::ChoiceBox *box;
         CustomEditor *editor = nullptr; // null for an option without a custom choice
-        bool awaitsValues = false;      // a custom choice is begun, and its values are not complete
-        // What the greying was decided for; it holds while these are the same.
+        bool awaitsValues = false;      // a custom choice is selected, but its values are incomplete
+        // The revision for which items were greyed out; they are valid while it is unchanged.
         quint32 revision = 0;
         QString current = QString();
         int index = -1;

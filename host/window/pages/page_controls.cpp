@@ -41,7 +41,7 @@ QString nameOf(const QWidget *control, const QList<QLabel *> &labels)
     return {};
 }
 
-// What stands for something else: the field of a spin box, the button that resets a neighbour, what scrolls.
+// Whether a widget is a part of another control: the field of a spin box, a reset button, a scroll bar.
 bool isPart(const QWidget *control)
 {
     const bool onlyScrolls = qobject_cast<const QAbstractScrollArea *>(control) &&

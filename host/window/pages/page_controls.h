@@ -10,28 +10,28 @@ class QWidget;
 
 namespace host {
 
-// A control of a page, of the host's own or of a bundle.
+// A control on a page of the host or of a bundle.
 struct PageControl
 {
-    QWidget *control = nullptr; // the page's
-    QString name;               // what the user knows it as, as plain text
-    QString keyword;            // the PPD option or key of a panel that it sets; null where that is unknown
+    QWidget *control = nullptr; // owned by the page
+    QString name;               // plain text of its name
+    QString keyword;            // the PPD option or key of a panel that it sets; null if unknown
 };
 
-// The controls of a page that the Tab key can reach, now or after another view of the page has been opened,
-// in the order of the page. Buttons next to a control that reset it are left out.
+// The controls of a page that the Tab key can reach, also in another view of the page, in the order of the
+// page. Buttons that reset an adjacent control are left out.
 QList<PageControl> controlsOf(const QWidget *page);
 
-// The control that sets an option, else the one of that name; null where the page has none (yet).
+// The control that sets an option, else the one with that name; null if the page has none (yet).
 QWidget *findControl(const QWidget *page, const QString &keyword, const QString &name);
 
-// A label's text as a name: "Copies" of "&Copies:", "部数" of "部数(&C):".
+// A label's text without access key and colon: "Copies" for "&Copies:", "部数" for "部数(&C):".
 QString bareText(QString text);
-// The PPD option or key of a panel that a control sets; null for a widget that sets none.
+// The PPD option or key of a panel that a control sets; null if there is none.
 QString keywordOf(const QWidget *control);
 
-// Shows for a moment which control is meant: a ring that glows up and fades, or stands still where the
-// platform asks for no animation. The ring is gone after a second.
+// Highlights a control briefly: a ring that fades in and out, or does not move if animations are disabled.
+// The ring disappears after a second.
 void flash(QWidget *control);
 
 } // namespace host

@@ -51,7 +51,7 @@ PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content
     heading->setContentsMargins(24, 12, 24, 0);
     heading->setWordWrap(true);
 
-    // The heading scrolls along: a low window has better use for its place.
+    // The heading scrolls with the page, to save space in a low window.
     auto *sheet = new QWidget;
     auto *lines = new QVBoxLayout(sheet);
     lines->setContentsMargins(0, 0, 0, 0);
@@ -89,7 +89,7 @@ int PageFrame::wantedHeight() const
     return m_scroll->widget()->sizeHint().height();
 }
 
-// A row has come, or a text is longer than it was, if only than when the page was last hidden.
+// A row was added, or a text has become longer, possibly while the page was hidden.
 bool PageFrame::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest)
@@ -108,7 +108,7 @@ void PageFrame::setWaiting(const QString &text)
     if (!m_waiting && !text.isNull()) {
         m_waiting = noteLabel(text, this);
         static_cast<QVBoxLayout *>(m_scroll->widget()->layout())->insertWidget(1, m_waiting);
-        m_waiting->show(); // and laid out now: the window is painted before events are handled
+        m_waiting->show(); // laid out immediately, since the window is painted before events are processed
         m_scroll->widget()->layout()->activate();
         m_wasEnabled = m_content->isEnabled();
         m_content->setEnabled(false);

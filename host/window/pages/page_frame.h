@@ -11,8 +11,8 @@ class QLabel;
 
 namespace host {
 
-// One page of the dialog: a heading, a note where there is one, and what is below them, which scrolls where
-// the window is too small for it.
+// One page of the dialog: a heading, an optional note, and the content, which scrolls if the window is too
+// small.
 class PageFrame : public QWidget
 {
     Q_OBJECT
@@ -20,20 +20,20 @@ public:
     PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent = nullptr);
     ~PageFrame() override;
 
-    // For content that belongs to another owner: detaches it before its owner deletes it.
+    // For content with another owner: detaches it before the owner deletes it.
     void releaseContent();
-    // How wide it must be to show everything without scrolling sideways.
+    // The width in which everything is shown without horizontal scrolling.
     int wantedWidth() const;
-    // How high it is where nothing scrolls.
+    // The height without scrolling.
     int wantedHeight() const;
     void scrollToTop();
-    // Says above the content what is awaited, and disables the content until `text` is null.
+    // Shows what is awaited above the content, and disables the content until `text` is null.
     void setWaiting(const QString &text);
-    // Brings a control of the page into view.
+    // Scrolls to a control of the page.
     void reveal(QWidget *control);
 
 Q_SIGNALS:
-    // What it shows is laid out anew; it may want to be wider or narrower than before.
+    // The content has been laid out again; its preferred width may have changed.
     void laidOut();
 
 protected:
@@ -43,7 +43,7 @@ private:
     QScrollArea *m_scroll;
     QPointer<QWidget> m_content;
     QLabel *m_waiting = nullptr; // null unless something is awaited
-    bool m_wasEnabled = true;    // the content, before that
+    bool m_wasEnabled = true;    // whether the content was enabled before
 };
 
 } // namespace host

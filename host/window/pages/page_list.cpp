@@ -15,11 +15,11 @@ namespace {
 
 constexpr int sideMargin = 10; // pixels around the list's items
 constexpr int textMargin = 12;
-constexpr int markRoom = 10; // for the sign of a change, behind the longest name
+constexpr int markRoom = 10; // for the mark of a change, after the longest name
 constexpr int narrowest = 170;
 constexpr int changedRole = Qt::UserRole + 1;
 
-// Rows with air, the current one on a rounded ground.
+// Draws rows with spacing, the current one on a rounded background.
 class PageDelegate : public QStyledItemDelegate
 {
 public:
@@ -57,7 +57,7 @@ public:
             painter->drawRoundedRect(ground.adjusted(3, 3, -3, -3), 4, 4);
         }
         QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
-        if (index.data(changedRole).toBool()) // the sign keeps its place where the list is narrow
+        if (index.data(changedRole).toBool()) // reserves the place of the mark in a narrow list
             place.setWidth(place.width() - markRoom);
         place = QStyle::visualRect(option.direction, option.rect, place);
         painter->drawText(
@@ -69,7 +69,7 @@ public:
     }
 
 private:
-    // A small diamond in the margin behind the name.
+    // A small diamond in the margin after the name.
     static void paintChanged(QPainter *painter, const QRect &row, const QColor &ink,
                              Qt::LayoutDirection direction)
     {
@@ -127,7 +127,7 @@ void PageList::changeEvent(QEvent *event)
         takePalette();
 }
 
-// The list and the margin around its rows in one colour.
+// Gives the list and the margin around its rows the same colour.
 void PageList::takePalette()
 {
     setBackgroundRole(QPalette::Base);

@@ -7,8 +7,7 @@
 
 namespace host {
 
-// The names of the pages at the side of the dialog, one of them current. As wide as its longest name where
-// there is room for it.
+// The list of pages at the side of the dialog. As wide as its longest name if there is space.
 class PageList : public QListWidget
 {
     Q_OBJECT
@@ -16,7 +15,7 @@ public:
     explicit PageList(QWidget *parent = nullptr);
 
     void addPage(const QString &title);
-    // Whether the page has settings that were changed.
+    // Sets whether the page has changed settings.
     void setChanged(int row, bool changed);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {120, 0}; }

@@ -12,16 +12,15 @@ class DialogSession;
 class DocumentChoice;
 class PageCounter;
 
-// Whether ranges of pages lie behind the end of every document that is printed. The documents are counted
-// when first needed, on a worker thread; without the programs for that every range is valid.
-// Session and choice are borrowed.
+// Checks whether page ranges are beyond the end of all documents. The documents are counted on first use, on
+// a worker thread; without the programs to do so, every range is valid. Session and choice are borrowed.
 class RangeCheck : public QObject
 {
     Q_OBJECT
 public:
     RangeCheck(DialogSession *session, DocumentChoice *documents, QObject *parent);
-    // What is wrong with ranges that normalizedPageRanges() has made; null when nothing is, and for as long
-    // as that is not known: known() follows.
+    // The problem with ranges in the form of normalizedPageRanges(); null if there is none, or while it is
+    // not known: known() follows.
     QString problem(const QString &ranges);
 
 Q_SIGNALS:
@@ -30,7 +29,7 @@ Q_SIGNALS:
 private:
     DialogSession *m_session;
     DocumentChoice *m_documents;
-    PageCounter *m_counter = nullptr; // made when it is first needed
+    PageCounter *m_counter = nullptr; // created on first use
 };
 
 } // namespace host

@@ -13,8 +13,8 @@ class QGridLayout;
 
 namespace host {
 
-// What the job stands at, section by section, as text that can be read, selected and copied, or only what has
-// changed, before and after. A line leads to its control.
+// The settings of the job in sections, as text that can be read, selected and copied, or only the changed
+// settings with their previous values. A line is a link to its control.
 class SummaryPage : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
               const QList<SettingChange> &changes);
 
 Q_SIGNALS:
-    // The user wants to see the control of a setting, by the key that it has in a change.
+    // The user wants to see the control of a setting, given by its key in a change.
     void followed(const QString &key);
 
 private:
@@ -32,7 +32,7 @@ private:
     {
         QString name;
         QString value;
-        QString key; // empty for what nothing leads to
+        QString key; // empty if there is no link
     };
     struct Part
     {

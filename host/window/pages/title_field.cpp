@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-constexpr int longestTitle = 255; // characters; names of the print protocol have as many bytes
+constexpr int longestTitle = 255; // characters; names in the print protocol have at most 255 bytes
 
 struct TitleField
 {

@@ -10,8 +10,8 @@ namespace host {
 
 class DocumentChoice;
 
-// Adds a row for the title of the job to the end of a page. Writes to `documents` at once, which is borrowed
-// and outlives the page.
+// Adds a row for the title of the job at the end of a page. Writes to `documents` immediately, which is
+// borrowed and outlives the page.
 void addTitleField(DocumentChoice *documents, QGridLayout *grid, QWidget *page);
 
 } // namespace host

@@ -16,7 +16,8 @@ namespace {
 
 constexpr std::chrono::milliseconds noticeable(300);
 
-// A job's title as the name of a file: it must not lead into another folder or be hidden, and it has to fit.
+// Converts a job's title to a file name, which must not refer to another folder or be hidden, and is limited
+// in length.
 QString fileNameFor(QString title)
 {
     constexpr int longest = 80; // characters; file systems allow 255 bytes
@@ -51,7 +52,7 @@ void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStrin
                                    QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                                    tr("PDF files (*.pdf)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave); // which asks before a file is replaced
+    dialog->setAcceptMode(QFileDialog::AcceptSave); // asks before a file is replaced
     dialog->setDefaultSuffix(QStringLiteral("pdf"));
     dialog->selectFile(fileNameFor(suggestedTitle(title, paths)));
     connect(dialog, &QFileDialog::fileSelected, this,
@@ -92,7 +93,7 @@ void PdfSaver::end(const PrintError &error, const QString &path)
 {
     m_isBusy = false;
     if (m_writer)
-        m_writer.release()->deleteLater(); // it is what calls this
+        m_writer.release()->deleteLater(); // the writer is the caller
     Q_EMIT ended(error, path);
 }
 

@@ -12,25 +12,25 @@ class QWidget;
 
 namespace host {
 
-// Asks for the name of a PDF file and writes documents into it as they would be printed. Lives as long as its
-// window; does one file at a time.
+// Asks for the name of a PDF file and writes documents to it as they would be printed. Owned by its window;
+// saves one file at a time.
 class PdfSaver : public QObject
 {
     Q_OBJECT
 public:
     explicit PdfSaver(QWidget *window);
 
-    // Asks for a name and opens the paths in the list. `title` is suggested as the name; where it is empty,
-    // the first file's name is.
+    // Asks for a file name and writes the documents at these paths. `title` is the suggested name; if it is
+    // empty, the name of the first file is used.
     void save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths, const QString &title,
               const PageSettings &settings);
     bool isBusy() const { return m_isBusy; }
 
 Q_SIGNALS:
     void began();
-    // It takes longer than a user notices.
+    // Saving takes noticeably long.
     void delayed();
-    // With no error when the file has been written.
+    // The error is empty if the file was written.
     void ended(const host::PrintError &error, const QString &path);
 
 private:

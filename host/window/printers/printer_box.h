@@ -14,18 +14,18 @@ namespace host {
 class PrinterList;
 class PrinterSearch;
 
-// A pop-up of printers whose list can be searched: typing narrows it to the printers that have every word.
-// Two lines for each: its name, and how it is and where. The list is borrowed and outlives it.
+// A pop-up of printers with a searchable list: typing filters it to printers that match all words. Two lines
+// for each printer: its name, and its state and location. The list is borrowed and outlives it.
 class PrinterBox : public QComboBox
 {
     Q_OBJECT
 public:
     explicit PrinterBox(PrinterList *list, QWidget *parent = nullptr);
 
-    // Says below the list that more printers may come.
+    // Shows below the list that more printers may be found.
     void setSearching(bool searching);
-    QSize sizeHint() const override; // whatever the printers are called
-    // Where there is little room, names are cut.
+    QSize sizeHint() const override; // independent of the names of printers
+    // In a narrow window names are elided.
     QSize minimumSizeHint() const override { return {minimumWidth(), sizeHint().height()}; }
     void showPopup() override;
     void hidePopup() override;
@@ -35,11 +35,11 @@ public:
 
 Q_SIGNALS:
     void opened();
-    void closed(); // the pop-up
+    void closed(); // the pop-up was closed
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
-    // Scrolling past the box opens no printer.
+    // Scrolling over the box must not open printers.
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -48,7 +48,7 @@ private:
     void choose(const QModelIndex &index);
     void narrow(const QString &text);
 
-    // Made with the pop-up, when it is first opened.
+    // Created with the pop-up, when it is first opened.
     PrinterSearch *m_found = nullptr;
     QLineEdit *m_search = nullptr;
     QListView *m_view = nullptr;

@@ -57,7 +57,7 @@ void PrinterNews::loadList()
             if (printers)
                 m_picker->setPrinters(*printers);
         });
-    // The settings file may be slower than the print server.
+    // Reading the settings file may be slower than the print server.
     m_recent.start(
         this, [] { return RememberedPrinter().recent(); },
         [this](const QStringList &recent) { m_picker->setRecent(recent); });

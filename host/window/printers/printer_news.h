@@ -18,25 +18,26 @@ namespace host {
 class NetworkSearch;
 class PrinterPicker;
 
-// Keeps a printer picker up with what there is to pick and how the chosen printer is; asks beside the
-// dialog's thread. Belongs to the picker's window. The print system is borrowed and outlives it.
+// Updates a printer picker: loads the list of printers, and polls the state of the selected printer, on
+// worker threads. Owned by the picker's window. The print system is borrowed and outlives it.
 class PrinterNews : public QObject
 {
     Q_OBJECT
 public:
     PrinterNews(PrintSystem &system, PrinterPicker *picker);
 
-    // This is the chosen printer; the picker shows it. One without a queue is a PPD alone: nothing is asked.
+    // Sets the selected printer, and shows it in the picker. A printer without a queue is only a PPD, and is
+    // not polled.
     void setChosen(const Destination &printer);
-    // None is chosen; what is being asked about it comes too late.
+    // No printer is selected; pending responses about the previous one are discarded.
     void forgetChosen();
-    // Asks how the chosen printer is, every five seconds from now on, or no more.
+    // Starts polling the state of the selected printer, every five seconds, or stops it.
     void follow(bool follows);
 
 public Q_SLOTS:
-    // Asks for the print server's printers, and for those used lately.
+    // Requests the print server's printers and the recently used printers.
     void loadList();
-    // Looks for printers that the print server has no queue for.
+    // Searches for printers without a queue on the print server.
     void searchNetwork();
 
 private:
@@ -46,7 +47,7 @@ private:
     PrintSystem &m_system;
     PrinterPicker *m_picker;
     std::optional<Destination> m_chosen;
-    NetworkSearch *m_networkSearch = nullptr; // made when it is first wanted
+    NetworkSearch *m_networkSearch = nullptr; // created on first use
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<QStringList> m_recent; // names of printers
     platform::Awaited<std::optional<Destination>> m_stateQuestion;

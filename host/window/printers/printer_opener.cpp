@@ -9,10 +9,10 @@ namespace host {
 
 namespace {
 
-// A print server that is near answers within this, and its answer is shown at once. The user does not notice
-// the wait.
+// A nearby print server responds within this time, and its response is shown at once. The user does not
+// notice the wait.
 constexpr std::chrono::milliseconds nearServer(50);
-// A user who steps through the printers faster than this wants none of those between.
+// If the user steps through printers faster than this, the printers in between are not opened.
 constexpr std::chrono::milliseconds betweenPicks(200);
 
 PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)
@@ -48,7 +48,7 @@ PrinterOpener::PrinterOpener(PrintSystem &system, std::function<bool()> isHeldUp
 void PrinterOpener::open(const PrinterWish &wish, Receiver receiver)
 {
     m_whenIdle = nullptr;
-    m_usedLast.drop(); // of what was opened before
+    m_usedLast.drop(); // of the previous request
     m_opening.start(
         this, [&system = m_system, wish] { return openAny(system, wish); },
         [this, receiver = std::move(receiver)](PrinterOpening opening) {
@@ -57,7 +57,7 @@ void PrinterOpener::open(const PrinterWish &wish, Receiver receiver)
     m_openingTimer.start(nearServer);
 }
 
-// The settings file may be as slow as the print server.
+// Reading the settings file may be as slow as the print server.
 void PrinterOpener::askUsedLast()
 {
     m_usedLast.start(
@@ -76,7 +76,7 @@ void PrinterOpener::deliverNear()
     tellDelay();
 }
 
-// A panel that waits is still on the stack, and its session with it: neither may go under it.
+// A waiting panel is still on the call stack, so its session must not be destroyed.
 void PrinterOpener::receive(PrinterOpening opening, const Receiver &receiver)
 {
     m_openingTimer.stop();

@@ -14,40 +14,41 @@
 
 namespace host {
 
-// Opens printers on a worker thread, one at a time: a later one takes the place of one that is still
-// being opened. Belongs to its window. The print system is borrowed and outlives it.
+// Opens printers on a worker thread, one at a time: a later request replaces one that is still running. Owned
+// by its window. The print system is borrowed and outlives it.
 class PrinterOpener : public QObject
 {
     Q_OBJECT
 public:
     using Receiver = std::function<void(PrinterOpening)>;
 
-    // While `isHeldUp` is true, as while a panel waits, nothing is delivered and no delay is told.
+    // While `isHeldUp` returns true, for example while a panel waits, neither results nor delays are
+    // reported.
     PrinterOpener(PrintSystem &system, std::function<bool()> isHeldUp, QObject *parent);
 
-    // The receiver gets what is opened, unless it is dropped.
+    // Calls the receiver with the result, unless it is dropped.
     void open(const PrinterWish &wish, Receiver receiver);
-    // Reads the name of the printer used last on a worker thread, to be shown meanwhile.
+    // Reads the name of the printer used last on a worker thread, to show it meanwhile.
     void askUsedLast();
-    // Waits for a near server, 50 ms at most; what takes longer is told of at once.
+    // Waits for a nearby server, 50 ms at most; longer operations emit delayed() immediately.
     void deliverNear();
-    // Delivers what came while it was held up.
+    // Delivers a result that was held up.
     void deliverHeld();
-    // Drops the printer that is being opened and the one that was picked.
+    // Discards the running request and the selected printer.
     void drop();
-    // Also while it is held up.
+    // Also true while a result is held up.
     bool isOpening() const { return m_opening.isPending() || m_whenIdle; }
 
-    // The user picks this printer; wanted() comes at once, but once it rests where picks follow each other
-    // fast.
+    // The user has selected this printer; wanted() is emitted immediately, or after a pause if selections
+    // follow each other quickly.
     void pick(const QString &name);
     bool isPicking() const { return !m_picked.isEmpty(); }
 
 Q_SIGNALS:
-    // What is being opened takes longer than a person notices.
+    // Opening takes noticeably long.
     void delayed();
     void usedLastKnown(const QString &name);
-    // This picked printer is to be opened.
+    // The selected printer has to be opened.
     void wanted(const QString &name);
 
 private:
@@ -56,10 +57,10 @@ private:
 
     PrintSystem &m_system;
     std::function<bool()> m_isHeldUp;
-    QString m_picked;                 // to be opened when the user has stopped stepping through printers
-    std::function<void()> m_whenIdle; // takes the printer that was opened while it was held up
+    QString m_picked;                 // to be opened when the user stops stepping through printers
+    std::function<void()> m_whenIdle; // delivers the result that is held up
     platform::Awaited<PrinterOpening> m_opening;
-    platform::Awaited<QString> m_usedLast; // the printer's name
+    platform::Awaited<QString> m_usedLast; // name of the printer
     QTimer m_pickTimer;
     QTimer m_openingTimer;
 };
