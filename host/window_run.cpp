@@ -5,6 +5,7 @@
 
 #include "host/batch/batch_run.h"
 #include "host/window/look/color_scheme.h"
+#include "host/window/look/desktop_contrast.h"
 #include "host/window/look/startup_clock.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"
@@ -122,7 +123,7 @@ void tellResult(const PrintWindow &window, QIODevice *out, QIODevice *err)
 int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &extensions, QIODevice *out,
               QIODevice *err)
 {
-    applyColorScheme(arguments.colorScheme);
+    applyColorScheme(arguments.colorScheme.isEmpty() ? contrastSchemeOfTheme() : arguments.colorScheme);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.kelmar.Print"));
     PrintTask task = taskOf(arguments);
     task.prepare = [&arguments](DialogSession *session, PrintError *error) {
@@ -147,8 +148,11 @@ int runWindow(const Arguments &arguments, PrintSystem &system, Extensions &exten
         if (arguments.startupTime && !window.book()->isHidden())
             return;
         window.finishLater();
-        if (arguments.screenshot.isEmpty())
+        if (arguments.screenshot.isEmpty()) {
+            if (arguments.colorScheme.isEmpty())
+                followDesktopContrast(&window);
             return;
+        }
         pictureWhenSettled(&window, arguments.screenshot, err);
     });
     window.show();

@@ -13,6 +13,8 @@
 #include "host/printing/option_text.h"
 #include "host/session/chosen_settings.h"
 #include "host/window/jobs/desktop_notice.h"
+#include "host/window/look/color_scheme.h"
+#include "host/window/look/desktop_contrast.h"
 #include "host/window/look/parent_window.h"
 #include "host/window/look/startup_clock.h"
 #include "host/window/print_window.h"
@@ -262,6 +264,7 @@ int RequestRun::openDialog()
 {
     const StartingSettings begin = start();
     m_parentTitle = titleOfWindow(textOf(m_request, "parent"));
+    applyColorScheme(contrastSchemeOfTheme());
     PrintWindow window(m_system, m_extensions, task(begin));
     window.setWindowTitle(windowTitle());
     const ParentWindow parent(&window, textOf(m_request, "parent"),
@@ -282,6 +285,7 @@ int RequestRun::openDialog()
         }
         m_channel.write({{QStringLiteral("event"), QStringLiteral("shown")}});
         window.finishLater();
+        followDesktopContrast(&window);
         m_channel.watch();
     });
     if (kind() == QLatin1String("choose")) { // a dialog that owns a document stays open

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/service/desktop_color_scheme.h"
 #include "host/service/desktop_notification.h"
 #include "host/service/door_service.h"
 
@@ -67,8 +68,15 @@ int main(int argc, char **argv)
                                   QStringLiteral("seconds"), QStringLiteral("30"));
     const QCommandLineOption notice(QStringLiteral("notify"),
                                     QStringLiteral("Show the notification from standard input and exit."));
-    parser.addOptions({program, idle, notice});
+    const QCommandLineOption scheme(
+        QStringLiteral("color-scheme"),
+        QStringLiteral("Write the color scheme that the desktop's high-contrast setting asks for and exit."));
+    parser.addOptions({program, idle, notice, scheme});
     parser.process(app);
+    if (parser.isSet(scheme)) {
+        std::puts(desktopContrastScheme(QDBusConnection::sessionBus()).constData());
+        return 0;
+    }
     if (parser.isSet(notice)) {
         QFile input;
         return input.open(stdin, QIODevice::ReadOnly) &&

@@ -7,6 +7,7 @@
 
 #include <QDBusArgument>
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
@@ -78,6 +79,23 @@ public Q_SLOTS:
     }
 };
 
+// The desktop portal's settings; missing ones are errors.
+class DesktopSettings : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+public:
+    QVariantMap values;
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString &space, const QString &key)
+    {
+        if (!values.contains(space + u'/' + key))
+            sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, key);
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(values.value(space + u'/' + key))));
+    }
+};
+
 // The service on a private bus, called like the portal and the queue; a script replaces the dialog.
 class ServiceTest : public QObject
 {
@@ -104,6 +122,7 @@ private Q_SLOTS:
     void documentFromTheQueue();
     void queueDoesNotWaitForADialog();
     void notifiesTheDesktop();
+    void tellsHighContrast();
     void leavesWhenIdle();
     void goesWithTheBus();
     void aThousandRequestsLeaveNothing();
@@ -553,6 +572,29 @@ void ServiceTest::leavesWhenIdle()
     QCOMPARE(call(printCall(chosen.token())).response, 0);
     QTRY_VERIFY_WITH_TIMEOUT(serviceIsGone(), patience);
     QCOMPARE(m_service->exitCode(), 0);
+}
+
+void ServiceTest::tellsHighContrast()
+{
+    DesktopSettings settings;
+    QVERIFY(m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, &settings,
+                                 QDBusConnection::ExportAllSlots));
+    QVERIFY(m_bus.registerService(u"org.freedesktop.portal.Desktop"_s));
+    const QString contrast = u"org.freedesktop.appearance/contrast"_s,
+                  theme = u"org.gnome.desktop.interface/gtk-theme"_s,
+                  color = u"org.freedesktop.appearance/color-scheme"_s;
+    for (const auto &[values, scheme] : std::initializer_list<std::pair<QVariantMap, QByteArray>>{
+             {{}, ""},
+             {{{contrast, 0U}, {color, 1U}, {theme, u"Adwaita"_s}}, ""},
+             {{{contrast, 1U}, {color, 0U}}, "high-contrast"},
+             {{{contrast, 1U}, {color, 1U}}, "high-contrast-dark"},
+             {{{theme, u"HighContrastInverse"_s}}, "high-contrast-dark"}}) {
+        settings.values = values;
+        QProcess process;
+        process.start(buildPath("/bin/kelmar-print-service"), {u"--color-scheme"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, patience);
+        QCOMPARE(process.readAllStandardOutput().trimmed(), scheme);
+    }
 }
 
 void ServiceTest::goesWithTheBus()

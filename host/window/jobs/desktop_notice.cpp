@@ -3,10 +3,9 @@
 
 #include "host/window/jobs/desktop_notice.h"
 
+#include "host/window/look/service_program.h"
 #include "platform/background.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -16,17 +15,6 @@ namespace host {
 namespace {
 
 constexpr int longest = 10'000; // milliseconds
-
-// The service in the program's folder, as in a build tree, else in the folder where it is installed.
-QString serviceProgram()
-{
-    const QString here = QCoreApplication::applicationDirPath();
-    const QString beside = here + QStringLiteral("/kelmar-print-service");
-    return QFileInfo(beside).isExecutable()
-               ? beside
-               : QFileInfo(here + QStringLiteral("/../" KELMAR_LIBEXEC_DIR "/kelmar-print-service"))
-                     .absoluteFilePath();
-}
 
 // Texts are passed through a pipe, since all users can read the arguments of a process.
 QByteArray noticeOf(const QString &title, const QString &text, bool isUrgent)

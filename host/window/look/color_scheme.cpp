@@ -3,7 +3,10 @@
 
 #include "host/window/look/color_scheme.h"
 
+#include "host/window/look/high_contrast_style.h"
+
 #include <QApplication>
+#include <QHash>
 #include <QPalette>
 #include <QToolTip>
 
@@ -24,6 +27,15 @@ const Scheme lightScheme{{0xf6, 0xf6, 0xf7}, {0xff, 0xff, 0xff}, {0xfb, 0xfb, 0x
 const Scheme darkScheme{{0x2a, 0x2c, 0x30}, {0x45, 0x49, 0x50}, {0x3a, 0x3d, 0x42}, {0xe9, 0xea, 0xec},
                         {0x9f, 0xa2, 0xa8}, {0xb6, 0xb9, 0xbf}, {0x6f, 0xb1, 0xf5}, {0x32, 0x77, 0xc2},
                         {0xff, 0xff, 0xff}, {0x5a, 0x5e, 0x65}, {0x18, 0x19, 0x1b}};
+
+// Text has a contrast of 21, everything else that is to be read one of 7.
+const Scheme contrastScheme{{0xff, 0xff, 0xff}, {0xff, 0xff, 0xff}, {0xff, 0xff, 0xff}, {0x00, 0x00, 0x00},
+                            {0x59, 0x59, 0x59}, {0x40, 0x40, 0x40}, {0x00, 0x00, 0xa8}, {0x00, 0x00, 0x80},
+                            {0xff, 0xff, 0xff}, {0x00, 0x00, 0x00}, {0x00, 0x00, 0x00}};
+const Scheme darkContrastScheme{{0x00, 0x00, 0x00}, {0x00, 0x00, 0x00}, {0x00, 0x00, 0x00},
+                                {0xff, 0xff, 0xff}, {0xa6, 0xa6, 0xa6}, {0xd0, 0xd0, 0xd0},
+                                {0xff, 0xff, 0x80}, {0xff, 0xff, 0x00}, {0x00, 0x00, 0x00},
+                                {0xff, 0xff, 0xff}, {0xff, 0xff, 0xff}};
 
 QPalette paletteOf(const Scheme &scheme)
 {
@@ -60,12 +72,20 @@ void setIndicatorGround(const QColor &ground)
 
 void applyColorScheme(const QString &name)
 {
-    const bool dark = name == QLatin1String("dark");
-    if (!dark && name != QLatin1String("light"))
+    const QHash<QString, const Scheme *> schemes = {{QStringLiteral("light"), &lightScheme},
+                                                    {QStringLiteral("dark"), &darkScheme},
+                                                    {highContrast, &contrastScheme},
+                                                    {highContrastDark, &darkContrastScheme}};
+    const Scheme *scheme = schemes.value(name);
+    if (!scheme)
         return;
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(paletteOf(dark ? darkScheme : lightScheme));
-    if (dark) // the style surrounds these with a line that is darker still
+    const bool isContrast = scheme == &contrastScheme || scheme == &darkContrastScheme;
+    if (isContrast)
+        QApplication::setStyle(new HighContrastStyle);
+    else
+        QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(paletteOf(*scheme));
+    if (scheme == &darkScheme) // the style surrounds these with a line that is darker still
         setIndicatorGround({0x74, 0x79, 0x82});
     QToolTip::setPalette(QApplication::palette());
 }

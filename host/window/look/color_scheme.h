@@ -7,8 +7,12 @@
 
 namespace host {
 
-// Gives the whole program light or dark colours, in Qt's own style, in place of the desktop's. Call it before
-// the first window; any name but "light" and "dark" changes nothing.
+inline const QString highContrast = QStringLiteral("high-contrast");
+inline const QString highContrastDark = QStringLiteral("high-contrast-dark");
+
+// Replaces the desktop's style and colors in the whole program: "light", "dark", or one of the high-contrast
+// schemes, whose text and outlines are black on white or white on black. Any other name changes nothing.
+// Works at any time.
 void applyColorScheme(const QString &name);
 
 } // namespace host

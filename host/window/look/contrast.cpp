@@ -59,6 +59,15 @@ QColor legible(const QColor &ink, const QColor &ground, qreal least)
     return result;
 }
 
+QColor mutedInk(const QPalette &palette)
+{
+    constexpr qreal highest = 20; // black on white has 21
+    QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+    if (contrast(ink, palette.color(QPalette::Active, QPalette::Window)) < highest)
+        ink.setAlphaF(0.72F);
+    return ink;
+}
+
 QColor errorInk(const QPalette &palette)
 {
     return legible(QColor(0xd0, 0x3b, 0x3b), palette.color(QPalette::Active, QPalette::Window));

@@ -18,6 +18,9 @@ constexpr qreal markContrast = 3;   // what a sign or a frame needs
 // The colour, made lighter or darker as far as it takes to stand out from a ground by `least`.
 QColor legible(const QColor &ink, const QColor &ground, qreal least = textContrast);
 
+// Of secondary text on the window's ground: paler than other text, but not where the palette is one of high
+// contrast.
+QColor mutedInk(const QPalette &palette);
 // Of words that tell of an error, on the window's ground.
 QColor errorInk(const QPalette &palette);
 // Of the text of something that is highlighted.

@@ -232,10 +232,8 @@ void CustomEditor::changeUnit()
 
 void CustomEditor::colourHint(bool wrong)
 {
-    QColor colour = palette().color(QPalette::WindowText);
-    colour.setAlphaF(0.72F);
     QPalette changed = m_hint->palette();
-    changed.setColor(QPalette::WindowText, wrong ? errorInk(palette()) : colour);
+    changed.setColor(QPalette::WindowText, wrong ? errorInk(palette()) : mutedInk(palette()));
     m_hint->setPalette(changed);
 }
 

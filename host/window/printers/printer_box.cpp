@@ -3,6 +3,7 @@
 
 #include "host/window/printers/printer_box.h"
 
+#include "host/window/look/contrast.h"
 #include "host/window/look/explanations.h"
 #include "host/window/printers/printer_list.h"
 #include "platform/choice_box.h"
@@ -63,7 +64,7 @@ public:
         painter->setFont(item.font);
         line(0, index.data().toString());
         if (!selected)
-            colour.setAlphaF(0.75F);
+            colour.setAlphaF(mutedInk(item.palette).alphaF());
         line(1, index.data(PrinterList::DetailRole).toString());
         painter->restore();
     }
