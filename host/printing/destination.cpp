@@ -32,6 +32,8 @@ Destination Destination::withoutState() const
     unknown.isStateKnown = false;
     unknown.accepting = true;
     unknown.stopped = false;
+    unknown.problem.clear();
+    unknown.supplies.clear();
     return unknown;
 }
 

@@ -3,12 +3,23 @@
 
 #pragma once
 
+#include <QList>
 #include <QMap>
 #include <QMetaType>
 #include <QString>
 #include <QStringList>
 
 namespace host {
+
+// A toner or another supply of a printer. A value.
+struct Supply
+{
+    QString name;     // the printer's own
+    int percent = -1; // that is left, 0 to 100; -1 where the printer does not tell
+    bool isLow = false;
+
+    bool operator==(const Supply &) const = default;
+};
 
 // A queue of the print server, or a preset of one ("queue/instance"). A value.
 struct Destination
@@ -21,9 +32,11 @@ struct Destination
     QString deviceUri;
     QString printerUri; // the URI of the queue on the print server
     bool isDefault = false;
-    bool isStateKnown = false; // whether the next two fields come from the print server
+    bool isStateKnown = false; // whether the next four fields come from the print server
     bool accepting = true;
     bool stopped = false;
+    QString problem;        // reported by the printer, in words; empty for none
+    QList<Supply> supplies; // reported by the printer, without waste containers
     // announces itself on the network; the server has a queue for it only while it is used
     bool isOnNetwork = false;
     QMap<QString, QString> options;       // the user's and the queue's settings, as libcups returns them

@@ -34,6 +34,29 @@ void readDefaults(ipp_t *answer, QueueFacts *facts)
     }
 }
 
+int integerAt(ipp_t *answer, const char *name, int index, int otherwise)
+{
+    ipp_attribute_t *attribute = ippFindAttribute(answer, name, IPP_TAG_INTEGER);
+    return index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
+}
+
+// A level below 0 is one that the printer does not know.
+QList<Supply> readSupplies(ipp_t *answer)
+{
+    const QStringList names = attributeTexts(answer, "marker-names");
+    const QStringList types = attributeTexts(answer, "marker-types");
+    QList<Supply> supplies;
+    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
+        if (types.value(i).startsWith(QLatin1String("waste"), Qt::CaseInsensitive))
+            continue;
+        const int level = integerAt(answer, "marker-levels", i, -1);
+        const int low = integerAt(answer, "marker-low-levels", i, -1);
+        const int percent = level < 0 || level > 100 ? -1 : level;
+        supplies.append({names.at(i), percent, percent >= 0 && percent <= low});
+    }
+    return supplies;
+}
+
 // Reads one attribute of a queue.
 void readQueue(ipp_attribute_t *attribute, Destination *queue)
 {
@@ -124,13 +147,17 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error, QueueQuestion question)
 {
-    static const std::array<const char *, 6> wanted = {"printer-state",
-                                                       "printer-state-message",
-                                                       "printer-state-reasons",
-                                                       "printer-is-accepting-jobs",
-                                                       "document-format-supported",
-                                                       "printer-defaults"};
-    constexpr int ofState = 4; // the first ones
+    static const std::array<const char *, 10> wanted = {"printer-state",
+                                                        "printer-state-message",
+                                                        "printer-state-reasons",
+                                                        "printer-is-accepting-jobs",
+                                                        "marker-names",
+                                                        "marker-types",
+                                                        "marker-levels",
+                                                        "marker-low-levels",
+                                                        "document-format-supported",
+                                                        "printer-defaults"};
+    constexpr int ofState = 8; // the first ones
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   question == QueueQuestion::State ? ofState : static_cast<int>(wanted.size()), nullptr,
@@ -146,6 +173,7 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
     facts.stateReasons = attributeTexts(answer.get(), "printer-state-reasons");
+    facts.supplies = readSupplies(answer.get());
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
     readDefaults(answer.get(), &facts);
     return facts;

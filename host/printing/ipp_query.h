@@ -34,7 +34,8 @@ struct QueueFacts
     bool accepting = true;
     bool stopped = false;
     QString stateMessage;
-    QStringList stateReasons;        // keywords
+    QStringList stateReasons; // keywords
+    QList<Supply> supplies;
     QStringList formats;             // accepted MIME types
     QMap<QString, QString> defaults; // job options that the server adds to each job
     // The PPD's defaults for the names in `defaults` that the administrator has set differently.

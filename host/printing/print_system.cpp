@@ -374,6 +374,8 @@ std::optional<Destination> CupsPrintSystem::withState(const Destination &destina
     now.isStateKnown = true;
     now.accepting = queue->accepting;
     now.stopped = queue->stopped;
+    now.problem = reasonText(queue->stateReasons, {});
+    now.supplies = queue->supplies;
     return now;
 }
 

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void printerOutlivesItsPreset();
     void chosenPrinterIsShown_data();
     void chosenPrinterIsShown();
+    void reportsAreShown();
 
 private:
     static QList<Destination> building()
@@ -193,6 +194,24 @@ void PrinterBoxTest::chosenPrinterIsShown()
     QFETCH(QString, detail);
     const QString shown = picker.box()->currentData(PrinterList::DetailRole).toString();
     QVERIFY2(shown.startsWith(detail), qPrintable(shown));
+}
+
+void PrinterBoxTest::reportsAreShown()
+{
+    PrinterPicker picker;
+    Destination printer = officePrinter();
+    printer.isStateKnown = true;
+    printer.problem = QStringLiteral("The toner is running low.");
+    printer.supplies = {
+        {QStringLiteral("Cyan"), 80, false}, {QStringLiteral("Black"), 7, true}, {QStringLiteral("Drum")}};
+    picker.setCurrent(printer);
+    const QString said = picker.box()->accessibleDescription();
+    QVERIFY2(said.startsWith(QStringLiteral("Ready  ·  The toner is running low.  ·  Black 7 %")),
+             qPrintable(said));
+    for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known"})
+        QVERIFY2(picker.box()->toolTip().contains(QLatin1String(line)), qPrintable(picker.box()->toolTip()));
+    picker.putPrinter(printer.withoutState());
+    QVERIFY(!picker.box()->toolTip().contains(QStringLiteral("Black")));
 }
 
 QTEST_MAIN(PrinterBoxTest)

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void refusals_data();
     void refusals();
     void pausedPrinterKeepsTheJob();
+    void printerReports();
     void documentsAreTheServersBusiness_data();
     void documentsAreTheServersBusiness();
     void documentThatEndsEarly();
@@ -238,6 +239,26 @@ void PrintJobTest::pausedPrinterKeepsTheJob()
     QVERIFY(outcome.json[u"job"_s][u"printerStopped"_s].toBool());
     QVERIFY(m_server.setPaused(u"paused"_s, false));
     QVERIFY(m_server.waitForJob(outcome.json[u"job"_s][u"id"_s].toInt()));
+}
+
+void PrintJobTest::printerReports()
+{
+    CupsPrintSystem system;
+    PrintError error;
+    const auto office = system.destination(u"office"_s, &error);
+    QVERIFY(office);
+    QVERIFY(system.withState(*office)->supplies.isEmpty());
+    for (const QString &report :
+         {u"ATTR: marker-names=Cyan,Black,Drum,Waste marker-types=toner,toner,opc,waste-toner "
+          "marker-levels=80,7,-2,90 marker-low-levels=10,10,10,10"_s,
+          u"STATE: +toner-low-warning"_s})
+        QVERIFY(m_server.waitForJob(
+            run({u"--batch"_s, u"-t"_s, report, document}).json[u"job"_s][u"id"_s].toInt()));
+    std::optional<Destination> now;
+    QTRY_VERIFY((now = system.withState(*office)) && !now->problem.isEmpty());
+    QCOMPARE(now->problem, u"The toner is running low."_s);
+    QCOMPARE(now->supplies,
+             (QList<Supply>{{u"Cyan"_s, 80, false}, {u"Black"_s, 7, true}, {u"Drum"_s, -1, false}}));
 }
 
 void PrintJobTest::documentsAreTheServersBusiness_data()

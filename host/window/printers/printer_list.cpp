@@ -19,6 +19,19 @@ struct PrinterText
     Q_DECLARE_TR_FUNCTIONS(PrinterText)
 };
 
+// "Black 12 %", one supply a line.
+QString suppliesText(const QList<Supply> &supplies)
+{
+    QStringList lines;
+    for (const Supply &supply : supplies) {
+        lines.append(
+            supply.percent < 0
+                ? PrinterText::tr("%1: level not known", "a toner").arg(supply.name)
+                : PrinterText::tr("%1 %2 %", "a toner and its level").arg(supply.name).arg(supply.percent));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 QStringList stateParts(const Destination &printer)
 {
     QStringList parts;
@@ -32,6 +45,12 @@ QStringList stateParts(const Destination &printer)
         parts.append(PrinterText::tr("State not known"));
     else
         parts.append(PrinterText::tr("Ready"));
+    if (!printer.problem.isEmpty())
+        parts.append(printer.problem);
+    for (const Supply &supply : printer.supplies) {
+        if (supply.isLow)
+            parts.append(suppliesText({supply}));
+    }
     if (!printer.location.isEmpty())
         parts.append(printer.location);
     if (!printer.makeAndModel.isEmpty())
@@ -191,6 +210,11 @@ QVariant PrinterList::data(const QModelIndex &index, int role) const
 QString printerStateText(const Destination &printer)
 {
     return stateParts(printer).join(QStringLiteral("  ·  "));
+}
+
+QString printerSuppliesText(const Destination &printer)
+{
+    return suppliesText(printer.supplies);
 }
 
 void PrinterSearch::setWords(const QString &text)

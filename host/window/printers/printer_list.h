@@ -57,8 +57,10 @@ private:
     bool m_isAwaited = false; // it has not been reported yet
 };
 
-// How a printer is and where it stands, in words: "Ready · Room 655".
+// How a printer is, what it reports and where it stands, in words: "Ready · Room 655".
 QString printerStateText(const Destination &printer);
+// What is left of its supplies, one a line: "Black 12 %". Empty where the printer tells nothing of them.
+QString printerSuppliesText(const Destination &printer);
 
 // Those rows of a printer list that hold every word of a search, in any order and any of name, description,
 // place and model.

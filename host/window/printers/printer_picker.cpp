@@ -3,11 +3,13 @@
 
 #include "host/window/printers/printer_picker.h"
 
+#include "host/window/look/contrast.h"
 #include "host/window/look/elided_label.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_list.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -24,13 +26,9 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     m_box->setAccessibleName(tr("Printer"));
     m_state->setIndent(2);
     m_state->setWordWrap(true);
-    QPalette muted = m_state->palette();
-    QColor colour = muted.color(QPalette::WindowText);
-    colour.setAlphaF(0.72F);
-    muted.setColor(QPalette::WindowText, colour);
-    m_state->setPalette(muted);
+    muteState();
 
-    auto *label = new QLabel(tr("&Printer:"), this);
+    auto *label = new QLabel(tr("Pri&nter:"), this);
     label->setBuddy(m_box);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -44,6 +42,20 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     connect(m_box, &PrinterBox::closed, this, &PrinterPicker::orderRecent);
     connect(m_box, &QComboBox::activated, this,
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
+}
+
+void PrinterPicker::muteState()
+{
+    QPalette muted = palette();
+    muted.setColor(QPalette::WindowText, mutedInk(muted));
+    m_state->setPalette(muted);
+}
+
+void PrinterPicker::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        muteState();
 }
 
 void PrinterPicker::setPrinters(const QList<Destination> &printers)
@@ -154,7 +166,11 @@ void PrinterPicker::describe(const Destination &printer)
 {
     const QString state = printerStateText(printer);
     m_state->showText(state);
-    m_box->setToolTip(tooltipOf(state));
+    const QString more =
+        (QStringList{state} + printerSuppliesText(printer).split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            .join(QLatin1Char('\n'));
+    m_state->setToolTip(tooltipOf(more));
+    m_box->setToolTip(tooltipOf(more));
     m_box->setAccessibleDescription(oneLine(state));
 }
 

@@ -59,7 +59,11 @@ Q_SIGNALS:
     // The list is shown.
     void opened();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void muteState();
     void showRow(int row);
     void orderRecent();
     void describe(const Destination &printer);
