@@ -20,7 +20,7 @@ CUPS, DOCUMENT, PICTURES = sys.argv[1:4]
 PRESETS = os.path.expanduser("~/.cups/lpoptions")  # where every program of the user looks for them
 PRESET = "Handout"
 PER_SIDE, BORDER, TYPE, SIDES = "Pages per side:", "Border:", "Paper Type:", "Two-Sided Printing:"
-TONER = "Save toner"
+TONER = "Toner Save"
 STEPS = []
 
 
@@ -169,14 +169,14 @@ def undone(d):
     said = d.says("Nothing has been changed.")
     go_to(d, "Color Settings 1")
     toner_is_saved(d, False)
-    return "Ctrl+Z: the summary says “%s”, “Save toner” is off" % said
+    return "Ctrl+Z: the summary says “%s”, “Toner Save” is off" % said
 
 
 @step("redone")
 def redone(d):
     d.keys("ctrl+shift+z")
     toner_is_saved(d, True)
-    return "Ctrl+Shift+Z: “Save toner” is on again"
+    return "Ctrl+Shift+Z: “Toner Save” is on again"
 
 
 @step("conflict")

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Print to this queue or preset (queue/preset).</source>
-        <translation>Auf dieser Warteschlange oder Vorgabe (Warteschlange/Vorgabe) drucken.</translation>
+        <translation>Auf dieser Warteschlange oder Voreinstellung (Warteschlange/Voreinstellung) drucken.</translation>
     </message>
     <message>
         <source>NUMBER</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Set an option of the printer, or a key of a panel such as departmentCode.</source>
-        <translation>Eine Option des Druckers oder einen Schlüssel eines Bereichs wie departmentCode setzen.</translation>
+        <translation>Eine Option des Druckers oder einen Schlüssel einer Einstellungsseite wie departmentCode setzen.</translation>
     </message>
     <message>
         <source>KEY=FILE</source>
@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>Load the panels of this bundle instead of the installed ones.</source>
-        <translation>Die Bereiche dieses Bündels statt der installierten laden.</translation>
+        <translation>Die Einstellungsseiten dieses Bündels statt der installierten laden.</translation>
     </message>
     <message>
         <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Den Dialog mit diesem Bereich öffnen: general, more, summary oder Name oder Art eines Bereichs.</translation>
+        <translation>Den Dialog mit dieser Seite öffnen: general, more, summary oder Name oder Art einer Einstellungsseite.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -205,15 +205,15 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Write the presets of the printer.</source>
-        <translation>Die Vorgaben des Druckers ausgeben.</translation>
+        <translation>Die Voreinstellungen des Druckers ausgeben.</translation>
     </message>
     <message>
         <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
-        <translation>Die Einstellungen als Vorgabe des Druckers speichern, ohne Passwörter und Codes.</translation>
+        <translation>Die Einstellungen als Voreinstellung des Druckers speichern, ohne Passwörter und Codes.</translation>
     </message>
     <message>
         <source>Delete a preset of the printer.</source>
-        <translation>Eine Vorgabe des Druckers löschen.</translation>
+        <translation>Eine Voreinstellung des Druckers löschen.</translation>
     </message>
     <message>
         <source>--output goes with --batch.</source>
@@ -221,7 +221,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
-        <translation>Vorgaben gehören zu einem Drucker; --ppd allein nennt keinen.</translation>
+        <translation>Voreinstellungen gehören zu einem Drucker; --ppd allein nennt keinen.</translation>
     </message>
     <message>
         <source>--resolve goes with --batch, --summary or --save-preset.</source>
@@ -229,7 +229,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json gehört zu --batch, --summary, --list-options oder einer Vorgabe.</translation>
+        <translation>--json gehört zu --batch, --summary, --list-options oder einer Voreinstellung.</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
@@ -263,7 +263,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Passwörter und Codes werden in der Vorgabe nicht gespeichert; sie sind jedes Mal anzugeben.</translation>
+        <translation>Passwörter und Codes werden in der Voreinstellung nicht gespeichert; sie sind jedes Mal anzugeben.</translation>
     </message>
     <message>
         <source>Only a part of the code for “%1” has been given.</source>
@@ -375,188 +375,192 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>Explanation</name>
     <message>
-        <source>How many times the document is printed.</source>
+        <source>The number of copies to print.</source>
         <translation>Wie oft das Dokument gedruckt wird.</translation>
     </message>
     <message>
-        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>Druckt jedes Exemplar vollständig, bevor das nächste beginnt, sodass niemand die Seiten sortieren muss.</translation>
+        <source>Prints each complete copy before the next one, so that the pages need no sorting.</source>
+        <translation>Druckt jedes Exemplar vollständig, bevor das nächste beginnt. Die Seiten müssen dann nicht sortiert werden.</translation>
     </message>
     <message>
-        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
-        <translation>Welche Seiten gedruckt werden. Geben Sie einzelne Seiten und Bereiche durch Kommas getrennt an, zum Beispiel 1-3, 8.</translation>
+        <source>The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.</source>
+        <translation>Die zu druckenden Seiten. Trennen Sie einzelne Seiten und Seitenbereiche durch Kommas, zum Beispiel 1-3, 8.</translation>
     </message>
     <message>
-        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
+        <source>The size of the paper to print on. Paper of this size must be loaded in one of the printer’s trays.</source>
         <translation>Das Format des Papiers, auf das gedruckt wird. Papier in diesem Format muss in einer der Papierkassetten des Druckers liegen.</translation>
     </message>
     <message>
-        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
-        <translation>Wie das Papier beschaffen ist. Schweres oder gestrichenes Papier wird vom Drucker anders eingezogen und erhitzt.</translation>
+        <source>The type of paper. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Die Papiersorte. Schweres oder gestrichenes Papier wird vom Drucker anders eingezogen und erhitzt.</translation>
     </message>
     <message>
         <source>The tray that the paper is taken from.</source>
         <translation>Die Papierkassette, aus der das Papier genommen wird.</translation>
     </message>
     <message>
-        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
-        <translation>Druckt auf beide Seiten des Papiers. Die lange Kante ist für Seiten, die wie in einem Buch umgeblättert werden, die kurze für Seiten, die wie bei einem Kalender umgeblättert werden.</translation>
+        <source>Prints on both sides of the paper. Choose the long edge for pages that turn like those of a book, the short edge for pages that turn like those of a wall calendar.</source>
+        <translation>Druckt auf beide Seiten des Papiers. Die lange Kante ist für Seiten, die wie in einem Buch umgeblättert werden, die kurze für Seiten, die wie bei einem Wandkalender umgeblättert werden.</translation>
     </message>
     <message>
-        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
-        <translation>Wie viele Seiten des Dokuments auf eine Seite des Papiers kommen. Sie werden passend verkleinert.</translation>
+        <source>The number of document pages on one side of the paper. The pages are scaled down to fit.</source>
+        <translation>Wie viele Seiten des Dokuments auf eine Blattseite kommen. Sie werden passend verkleinert.</translation>
     </message>
     <message>
-        <source>In which order the pages lie when several are put on one side.</source>
-        <translation>In welcher Reihenfolge die Seiten liegen, wenn mehrere auf eine Papierseite kommen.</translation>
+        <source>The order in which several pages are arranged on one side.</source>
+        <translation>Die Reihenfolge, in der mehrere Seiten auf einer Blattseite angeordnet werden.</translation>
     </message>
     <message>
         <source>A line around each page on the paper.</source>
         <translation>Eine Linie um jede Seite auf dem Papier.</translation>
     </message>
     <message>
-        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>Ob die Seiten hoch oder quer gedruckt werden. „Wie im Dokument“ überlässt das dem Dokument.</translation>
+        <source>Prints the pages upright or sideways. “As in the document” keeps the orientation of each page.</source>
+        <translation>Druckt die Seiten im Hoch- oder im Querformat. „Wie im Dokument“ behält die Ausrichtung jeder Seite bei.</translation>
     </message>
     <message>
-        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
-        <translation>Ob Seiten so vergrößert oder verkleinert werden, dass sie auf das Papier passen, oder ihre Größe behalten. Was dann nicht passt, wird abgeschnitten.</translation>
+        <source>Scales the pages to fit the paper, or keeps their size. At actual size, whatever does not fit on the paper is cut off.</source>
+        <translation>Passt die Größe der Seiten an das Papier an oder behält sie bei. Was in Originalgröße nicht auf das Papier passt, wird abgeschnitten.</translation>
     </message>
     <message>
-        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
-        <translation>Druckt nur jede zweite Seite, etwa um beide Seiten von Hand zu bedrucken: erst die ungeraden Seiten, dann die geraden.</translation>
+        <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
+        <translation>Druckt nur jede zweite Seite, etwa um Papier von Hand beidseitig zu bedrucken: erst die ungeraden Seiten, dann die geraden.</translation>
     </message>
     <message>
-        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
-        <translation>Druckt vom Ende her, damit die Seiten richtig liegen, wenn der Drucker sie mit der Schrift nach oben übereinander ablegt.</translation>
+        <source>Prints the last page first, so that the pages are in order when the printer stacks them face up.</source>
+        <translation>Druckt die letzte Seite zuerst. Die Seiten liegen dann in der richtigen Reihenfolge, wenn der Drucker sie mit der bedruckten Seite nach oben ablegt.</translation>
     </message>
     <message>
         <source>Prints the whole document.</source>
         <translation>Druckt das ganze Dokument.</translation>
     </message>
     <message>
-        <source>Prints only the page that the program shows.</source>
-        <translation>Druckt nur die Seite, die das Programm zeigt.</translation>
+        <source>Prints only the page that the application shows.</source>
+        <translation>Druckt nur die Seite, die die Anwendung anzeigt.</translation>
     </message>
     <message>
-        <source>Prints only what is selected in the program.</source>
-        <translation>Druckt nur, was im Programm ausgewählt ist.</translation>
+        <source>Prints only what is selected in the application.</source>
+        <translation>Druckt nur, was in der Anwendung ausgewählt ist.</translation>
     </message>
     <message>
-        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
-        <translation>Die Dateien, die gedruckt werden, in dieser Reihenfolge. Eine Datei ohne Häkchen wird ausgelassen.</translation>
+        <source>The files to print, in this order. Clear the check box of a file to leave it out.</source>
+        <translation>Die zu druckenden Dateien in dieser Reihenfolge. Entfernen Sie das Häkchen bei einer Datei, um sie auszulassen.</translation>
     </message>
     <message>
-        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
-        <translation>Schreibt die Seiten so, wie sie gedruckt würden, in eine PDF-Datei. An den Drucker wird nichts gesendet.</translation>
+        <source>Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.</source>
+        <translation>Speichert die Seiten so, wie sie gedruckt würden, in einer PDF-Datei. An den Drucker wird nichts gesendet.</translation>
     </message>
     <message>
-        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
-        <translation>Was aus dem Drucker kommt, soweit es hier bekannt ist. Wählen Sie eine kleine Seite, um sie groß zu sehen.</translation>
+        <source>Shows the pages as they will be printed. Select a thumbnail to show its page.</source>
+        <translation>Zeigt die Seiten so, wie sie gedruckt werden. Wählen Sie eine Miniatur, um die Seite groß anzuzeigen.</translation>
     </message>
     <message>
-        <source>A choice of your own. The line below it says what the printer takes.</source>
-        <translation>Eine eigene Angabe. Die Zeile darunter sagt, was der Drucker annimmt.</translation>
+        <source>A value that you enter yourself. The line below shows what the printer accepts.</source>
+        <translation>Ein Wert, den Sie selbst eingeben. Die Zeile darunter zeigt, was der Drucker annimmt.</translation>
     </message>
     <message>
-        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
-        <translation>Der Drucker, an den das Dokument gesendet wird. In seiner Liste lässt sich nach Name oder Ort suchen.</translation>
+        <source>The printer that the document is sent to. You can search the list by name or location.</source>
+        <translation>Der Drucker, an den das Dokument gesendet wird. Die Liste lässt sich nach Name oder Standort durchsuchen.</translation>
     </message>
     <message>
-        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
-        <translation>Unter einem Namen gespeicherte Einstellungen, die zuletzt benutzten und die des Druckers. Hier werden sie gewählt oder die jetzigen gespeichert.</translation>
+        <source>Applies a preset, the settings used last or the printer’s defaults, and saves the current settings as a preset.</source>
+        <translation>Wendet eine Voreinstellung, die zuletzt verwendeten Einstellungen oder den Standard des Druckers an und speichert die aktuellen Einstellungen als Voreinstellung.</translation>
     </message>
     <message>
-        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
-        <translation>Die Seiten dieses Dialogs. Eine Raute zeigt, auf welchen etwas geändert wurde.</translation>
+        <source>The pages of this dialog. A diamond marks each page with changed settings.</source>
+        <translation>Die Seiten dieses Dialogs. Eine Raute kennzeichnet Seiten mit geänderten Einstellungen.</translation>
     </message>
     <message>
-        <source>Closes this window. What has not been sent by then is not printed.</source>
-        <translation>Schließt dieses Fenster. Was bis dahin nicht gesendet ist, wird nicht gedruckt.</translation>
+        <source>Closes this window. Nothing more is sent to the printer.</source>
+        <translation>Schließt dieses Fenster. An den Drucker wird nichts mehr gesendet.</translation>
     </message>
     <message>
         <source>Sends the document to the printer with the settings of all pages.</source>
         <translation>Sendet das Dokument mit den Einstellungen aller Seiten an den Drucker.</translation>
     </message>
     <message>
-        <source>Stops the job. Pages that have been printed by then are there.</source>
-        <translation>Bricht den Auftrag ab. Bis dahin gedruckte Seiten liegen im Drucker.</translation>
+        <source>Cancels the job. Pages that are printed already remain in the printer.</source>
+        <translation>Bricht den Auftrag ab. Bereits gedruckte Seiten bleiben im Drucker liegen.</translation>
     </message>
     <message>
-        <source>Lets the job wait at the print server until you release it.</source>
-        <translation>Lässt den Auftrag auf dem Druckserver warten, bis Sie ihn freigeben.</translation>
+        <source>Keeps the job at the print server until you release it.</source>
+        <translation>Hält den Auftrag auf dem Druckserver zurück, bis Sie ihn freigeben.</translation>
     </message>
     <message>
-        <source>Sends the same documents once more with the same settings.</source>
+        <source>Sends the same documents again with the same settings.</source>
         <translation>Sendet dieselben Dokumente noch einmal mit denselben Einstellungen.</translation>
     </message>
     <message>
-        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
-        <translation>Unter diesem Namen werden die Einstellungen aufbewahrt. Auch andere Programme bieten sie so an.</translation>
+        <source>The name of the preset. Other programs offer the preset under this name as well.</source>
+        <translation>Der Name der Voreinstellung. Auch andere Programme bieten sie unter diesem Namen an.</translation>
     </message>
     <message>
-        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
-        <translation>Bewahrt auf, wonach sonst jedes Mal gefragt wird. Nicht verwenden, wo andere diesen Computer benutzen.</translation>
+        <source>Saves passwords and codes with the preset, so that you need not enter them each time. Do not use this on a computer that you share with others.</source>
+        <translation>Speichert Passwörter und Codes mit der Voreinstellung, damit Sie sie nicht jedes Mal eingeben müssen. Nicht auf Computern verwenden, die auch andere benutzen.</translation>
     </message>
     <message>
-        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
-        <translation>Bewahrt die Einstellungen aller Seiten unter dem Namen auf. Die einer Vorgabe, die schon so heißt, werden ersetzt.</translation>
+        <source>Saves the settings of all pages as a preset. A preset of the same name is replaced.</source>
+        <translation>Speichert die Einstellungen aller Seiten als Voreinstellung. Eine Voreinstellung mit demselben Namen wird ersetzt.</translation>
     </message>
     <message>
-        <source>Gives the preset this name, also in other programs.</source>
-        <translation>Gibt der Vorgabe diesen Namen, auch in anderen Programmen.</translation>
+        <source>Renames the preset, in other programs as well.</source>
+        <translation>Benennt die Voreinstellung um, auch in anderen Programmen.</translation>
     </message>
     <message>
-        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
-        <translation>Entfernt die Vorgabe, auch aus anderen Programmen. Was in diesem Dialog eingestellt ist, bleibt, wie es ist.</translation>
+        <source>Deletes the preset, in other programs as well. The current settings do not change.</source>
+        <translation>Löscht die Voreinstellung, auch in anderen Programmen. Die aktuellen Einstellungen ändern sich nicht.</translation>
     </message>
     <message>
-        <source>Closes this question. The presets stay as they are.</source>
-        <translation>Schließt diese Frage. Die Vorgaben bleiben, wie sie sind.</translation>
+        <source>Closes this dialog without changing any preset.</source>
+        <translation>Schließt diesen Dialog, ohne eine Voreinstellung zu ändern.</translation>
     </message>
     <message>
-        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
-        <translation>Der Name, unter dem der Druckserver Sie kennt. Es kann ein anderer sein als auf diesem Computer.</translation>
+        <source>Your user name on the print server. It may differ from your user name on this computer.</source>
+        <translation>Ihr Benutzername auf dem Druckserver. Er kann anders lauten als Ihr Benutzername auf diesem Computer.</translation>
     </message>
     <message>
-        <source>The password that belongs to the user name on the print server.</source>
-        <translation>Das Passwort, das auf dem Druckserver zu dem Benutzernamen gehört.</translation>
+        <source>Your password on the print server.</source>
+        <translation>Ihr Passwort auf dem Druckserver.</translation>
     </message>
     <message>
-        <source>Tells the print server who you are.</source>
-        <translation>Teilt dem Druckserver mit, wer Sie sind.</translation>
+        <source>Logs in to the print server.</source>
+        <translation>Meldet Sie am Druckserver an.</translation>
     </message>
     <message>
-        <source>Goes on without. The print server may refuse what it asked the password for.</source>
-        <translation>Macht ohne weiter. Der Druckserver kann ablehnen, wofür er nach dem Passwort gefragt hat.</translation>
+        <source>Continues without a password. The print server may then refuse the request.</source>
+        <translation>Fährt ohne Passwort fort. Der Druckserver kann die Anfrage dann ablehnen.</translation>
     </message>
     <message>
-        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
-        <translation>Lässt weg, was so ist, wie der Drucker oder die Vorgabe es hat, und nennt, was der Rest vorher war.</translation>
+        <source>Shows only the settings that differ from the printer’s defaults or the preset, with their previous values.</source>
+        <translation>Zeigt nur die Einstellungen, die vom Standard des Druckers oder von der Voreinstellung abweichen, mit ihren vorherigen Werten.</translation>
     </message>
     <message>
-        <source>What this printer offers beside the other pages, in the words of its maker.</source>
-        <translation>Was dieser Drucker neben den anderen Seiten anbietet, in den Worten seines Herstellers.</translation>
+        <source>Further options of this printer, with the names that its manufacturer gave them.</source>
+        <translation>Weitere Optionen dieses Druckers mit den Bezeichnungen seines Herstellers.</translation>
     </message>
     <message>
-        <source>Stops what is under way. Nothing that you have set is lost.</source>
-        <translation>Beendet, was gerade läuft. Nichts, was Sie eingestellt haben, geht verloren.</translation>
+        <source>Stops waiting. Your settings are kept.</source>
+        <translation>Bricht das Warten ab. Ihre Einstellungen bleiben erhalten.</translation>
     </message>
     <message>
-        <source>Asks the printer or the print server anew.</source>
-        <translation>Fragt den Drucker oder den Druckserver noch einmal.</translation>
+        <source>Asks the printer or the print server again.</source>
+        <translation>Fragt den Drucker oder den Druckserver noch einmal ab.</translation>
     </message>
     <message>
         <source>Goes back to the settings.</source>
         <translation>Kehrt zu den Einstellungen zurück.</translation>
     </message>
     <message>
-        <source>Looks for a setting on all pages by its name.</source>
-        <translation>Sucht auf allen Seiten eine Einstellung nach ihrem Namen.</translation>
+        <source>Finds a setting on any page by its name.</source>
+        <translation>Findet eine Einstellung auf allen Seiten anhand ihres Namens.</translation>
     </message>
     <message>
-        <source>Shows what the settings of this page are for.</source>
-        <translation>Zeigt, wozu die Einstellungen dieser Seite da sind.</translation>
+        <source>Explains the settings of this page.</source>
+        <translation>Erläutert die Einstellungen dieser Seite.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed in color or in black and white.</source>
+        <translation>Ob die Seiten in Farbe oder in Schwarzweiß gedruckt werden.</translation>
     </message>
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
@@ -744,7 +748,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Ausrichtung</translation>
     </message>
     <message>
-        <source>Size</source>
+        <source>Scaling</source>
         <translation>Skalierung</translation>
     </message>
     <message>
@@ -1240,11 +1244,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <name>PresetText</name>
     <message>
         <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
-        <translation>Eine Vorgabe kann den Wert von „%1“ nicht speichern: Er enthält einen Tabulator, einen Zeilenumbruch oder ein anderes Zeichen, das sich in ihrer Datei nicht schreiben lässt.</translation>
+        <translation>Eine Voreinstellung kann den Wert von „%1“ nicht speichern: Er enthält einen Tabulator, einen Zeilenumbruch oder ein anderes Zeichen, das sich in ihrer Datei nicht schreiben lässt.</translation>
     </message>
     <message>
         <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Das sind mehr Einstellungen, als eine Vorgabe speichern kann: Die Datei fasst %1 Byte.</translation>
+        <translation>Das sind mehr Einstellungen, als eine Voreinstellung speichern kann: Die Datei fasst %1 Byte.</translation>
     </message>
     <message>
         <source>This printer does not have what these settings ask for: %1.</source>
@@ -1271,7 +1275,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>“%1” has no preset called “%2”.</source>
-        <translation>„%1“ hat keine Vorgabe namens „%2“.</translation>
+        <translation>„%1“ hat keine Voreinstellung namens „%2“.</translation>
     </message>
 </context>
 <context>
@@ -1295,6 +1299,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>State not known</source>
         <translation>Zustand nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1: level not known</source>
+        <comment>a toner</comment>
+        <translation>%1: Füllstand unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <comment>a toner and its level</comment>
+        <translation>%1: %2 %</translation>
     </message>
 </context>
 <context>
@@ -1324,7 +1338,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Keys of the panels</source>
-        <translation>Schlüssel der Bereiche</translation>
+        <translation>Schlüssel der Einstellungsseiten</translation>
     </message>
     <message>
         <source>request id is %1-%2 (%3 file(s))</source>
@@ -1356,11 +1370,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The preset “%1” has been deleted.</source>
-        <translation>Die Vorgabe „%1“ wurde gelöscht.</translation>
+        <translation>Die Voreinstellung „%1“ wurde gelöscht.</translation>
     </message>
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
-        <translation>Die Einstellungen wurden als Vorgabe „%1“ gespeichert.</translation>
+        <translation>Die Einstellungen wurden als Voreinstellung „%1“ gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -1480,23 +1494,23 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <name>StoreText</name>
     <message>
         <source>The presets in “%1” cannot be read or changed: %2.</source>
-        <translation>Die Vorgaben in „%1“ können nicht gelesen oder geändert werden: %2.</translation>
+        <translation>Die Voreinstellungen in „%1“ können nicht gelesen oder geändert werden: %2.</translation>
     </message>
     <message>
         <source>There is no preset called “%1”.</source>
-        <translation>Es gibt keine Vorgabe namens „%1“.</translation>
+        <translation>Es gibt keine Voreinstellung namens „%1“.</translation>
     </message>
     <message>
         <source>There is already a preset called “%1”.</source>
-        <translation>Es gibt bereits eine Vorgabe namens „%1“.</translation>
+        <translation>Es gibt bereits eine Voreinstellung namens „%1“.</translation>
     </message>
     <message>
         <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
-        <translation>„%1“ ist für alle auf diesem Computer da; nur die Systemverwaltung kann diese Vorgabe ändern.</translation>
+        <translation>„%1“ ist für alle auf diesem Computer da; nur die Systemverwaltung kann diese Voreinstellung ändern.</translation>
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation>Eine Vorgabe braucht einen Namen.</translation>
+        <translation>Eine Voreinstellung braucht einen Namen.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
@@ -1504,15 +1518,15 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>Der Name einer Vorgabe darf kein Leerzeichen enthalten; möglich wäre „%1“.</translation>
+        <translation>Der Name einer Voreinstellung darf kein Leerzeichen enthalten; möglich wäre „%1“.</translation>
     </message>
     <message>
         <source>The name of a preset can hold no control characters.</source>
-        <translation>Der Name einer Vorgabe darf keine Steuerzeichen enthalten.</translation>
+        <translation>Der Name einer Voreinstellung darf keine Steuerzeichen enthalten.</translation>
     </message>
     <message>
         <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
-        <translation>Der Name einer Vorgabe darf keines dieser Zeichen enthalten: / \ # &quot; &apos; =</translation>
+        <translation>Der Name einer Voreinstellung darf keines dieser Zeichen enthalten: / \ # &quot; &apos; =</translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1617,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Selection</source>
         <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
     </message>
 </context>
 <context>
@@ -1821,7 +1839,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Exemplare</translation>
     </message>
     <message>
-        <source>Print each copy whole before the next one begins</source>
+        <source>Print each complete copy before the next one</source>
         <translation>Jedes Exemplar vollständig drucken, bevor das nächste beginnt</translation>
     </message>
     <message>
@@ -1837,8 +1855,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Seiten:</translation>
     </message>
     <message>
-        <source>Type which pages are to be printed, or choose all.</source>
-        <translation>Geben Sie die zu druckenden Seiten ein, oder wählen Sie alle.</translation>
+        <source>Enter the pages to print, or choose all pages.</source>
+        <translation>Geben Sie die zu druckenden Seiten ein oder wählen Sie alle Seiten.</translation>
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
@@ -1853,8 +1871,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Als PDF speichern …</translation>
     </message>
     <message>
-        <source>Write the pages into a file instead of printing them</source>
-        <translation>Die Seiten in eine Datei schreiben, statt sie zu drucken</translation>
+        <source>Save the pages to a file instead of printing them</source>
+        <translation>Die Seiten in einer Datei speichern, statt sie zu drucken</translation>
     </message>
     <message>
         <source>Current page</source>
@@ -1865,12 +1883,20 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Auswahl</translation>
     </message>
     <message>
-        <source>The numbers count printed sides, each with %1 pages.</source>
-        <translation>Die Nummern zählen gedruckte Blattseiten mit je %1 Seiten.</translation>
+        <source>The numbers refer to printed sides with %1 pages each.</source>
+        <translation>Die Nummern beziehen sich auf Blattseiten mit je %1 Seiten.</translation>
     </message>
     <message>
         <source>Choose at least one document.</source>
         <translation>Wählen Sie mindestens ein Dokument.</translation>
+    </message>
+    <message>
+        <source>Preview…</source>
+        <translation>Vorschau …</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Die Seiten in einem eigenen Fenster anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1880,9 +1906,9 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Dafür müssen andere Einstellungen geändert werden:</translation>
     </message>
     <message>
-        <source>%1 instead of “%2”</source>
+        <source>“%1” instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 statt „%2“</translation>
+        <translation>„%1“ statt „%2“</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
@@ -1921,16 +1947,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Find…</source>
-        <translation>Suchen …</translation>
+        <source>&amp;Find…</source>
+        <translation>S&amp;uchen …</translation>
     </message>
     <message>
         <source>Find a setting</source>
         <translation>Eine Einstellung suchen</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Help on this page</source>
@@ -1990,7 +2016,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Ausrichtung:</translation>
     </message>
     <message>
-        <source>Size:</source>
+        <source>Scaling:</source>
         <translation>Skalierung:</translation>
     </message>
     <message>
@@ -2036,8 +2062,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>host::LinkLabel</name>
     <message>
-        <source>Shows the control of this setting</source>
-        <translation>Zeigt, wo diese Einstellung geändert werden kann</translation>
+        <source>Go to this setting</source>
+        <translation>Zu dieser Einstellung gehen</translation>
     </message>
 </context>
 <context>
@@ -2231,23 +2257,23 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Rename Preset</source>
-        <translation>Vorgabe umbenennen</translation>
+        <translation>Voreinstellung umbenennen</translation>
     </message>
     <message>
         <source>&amp;Name of the preset:</source>
-        <translation>&amp;Name der Vorgabe:</translation>
+        <translation>&amp;Name der Voreinstellung:</translation>
     </message>
     <message>
         <source>Others who use this computer may read them in the file of the presets.</source>
-        <translation>Andere, die diesen Computer benutzen, können sie möglicherweise in der Datei der Vorgaben lesen.</translation>
+        <translation>Andere, die diesen Computer benutzen, können sie möglicherweise in der Datei der Voreinstellungen lesen.</translation>
     </message>
     <message>
         <source>The preset of this name will be replaced.</source>
-        <translation>Die Vorgabe dieses Namens wird ersetzt.</translation>
+        <translation>Die Voreinstellung dieses Namens wird ersetzt.</translation>
     </message>
     <message>
         <source>There is already a preset of this name.</source>
-        <translation>Es gibt bereits eine Vorgabe dieses Namens.</translation>
+        <translation>Es gibt bereits eine Voreinstellung dieses Namens.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -2341,8 +2367,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>host::PrintWindow</name>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <source>Cance&amp;l</source>
+        <translation>Abbre&amp;chen</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -2354,7 +2380,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>There is no pane called “%1”.</source>
-        <translation>Es gibt keinen Bereich namens „%1“.</translation>
+        <translation>Es gibt keine Seite namens „%1“.</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>
@@ -2419,7 +2445,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Drucker</translation>
     </message>
     <message>
-        <source>&amp;Printer:</source>
+        <source>Pri&amp;nter:</source>
         <translation>D&amp;rucker:</translation>
     </message>
     <message>
@@ -2429,21 +2455,33 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 </context>
 <context>
     <name>host::RangeCheck</name>
-    <message>
-        <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>Das längste Dokument, „%1“, hat nur %2 gedruckte Blattseiten.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n printed sides.</source>
+        <translation>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n gedruckte Blattseite.</numerusform>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n gedruckte Blattseiten.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>Das längste Dokument, „%1“, hat nur %2 Seiten.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n pages.</source>
+        <translation>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n Seite.</numerusform>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n Seiten.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Es gibt nur %1 gedruckte Blattseiten.</translation>
+    <message numerus="yes">
+        <source>There are only %n printed sides.</source>
+        <translation>
+            <numerusform>Es gibt nur %n gedruckte Blattseite.</numerusform>
+            <numerusform>Es gibt nur %n gedruckte Blattseiten.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Das Dokument hat nur %1 Seiten.</translation>
+    <message numerus="yes">
+        <source>The document has only %n pages.</source>
+        <translation>
+            <numerusform>Das Dokument hat nur %n Seite.</numerusform>
+            <numerusform>Das Dokument hat nur %n Seiten.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2520,8 +2558,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Vielleicht an „%1“ gesendet</translation>
     </message>
     <message>
-        <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>Ein vertraulicher Auftrag wird gedruckt, sobald Sie seinen Code am Drucker „%1“ eingeben.</translation>
+        <source>A private job is printed once you enter its password at the printer “%1”.</source>
+        <translation>Ein vertraulicher Auftrag wird gedruckt, sobald Sie sein Passwort am Drucker „%1“ eingeben.</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2559,8 +2597,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Einstellung suchen</translation>
     </message>
     <message>
-        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
-        <translation>Geben Sie ein, was Sie suchen, in Ihren Worten oder so, wie der Druckertreiber es nennt. Die Eingabetaste (Return) führt zur Einstellung.</translation>
+        <source>Type the name of a setting, in your own words or as the printer driver has it. Press Return to go to the setting.</source>
+        <translation>Geben Sie den Namen einer Einstellung ein, in eigenen Worten oder wie im Druckertreiber. Die Eingabetaste führt zur Einstellung.</translation>
     </message>
     <message>
         <source>Nothing found</source>
@@ -2575,19 +2613,19 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Gefundene Einstellungen</translation>
     </message>
     <message numerus="yes">
-        <source>%n setting(s) found</source>
+        <source>%n settings found</source>
         <translation>
             <numerusform>%n Einstellung gefunden</numerusform>
             <numerusform>%n Einstellungen gefunden</numerusform>
         </translation>
     </message>
     <message>
-        <source>Takes the search away. The settings stay as they are.</source>
-        <translation>Schließt die Suche. Die Einstellungen bleiben, wie sie sind.</translation>
+        <source>Closes the search. The settings do not change.</source>
+        <translation>Schließt die Suche. Die Einstellungen ändern sich nicht.</translation>
     </message>
     <message>
-        <source>What has been found, with its page first. Return leads to the setting.</source>
-        <translation>Was gefunden wurde, mit der Seite voran. Die Eingabetaste führt zur Einstellung.</translation>
+        <source>The settings that were found, each with its page. Press Return to go to the setting.</source>
+        <translation>Die gefundenen Einstellungen, jeweils mit ihrer Seite. Die Eingabetaste führt zur Einstellung.</translation>
     </message>
 </context>
 <context>
@@ -2661,8 +2699,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 (geändert)</translation>
     </message>
     <message>
-        <source>Settings: %1</source>
-        <translation>Einstellungen: %1</translation>
+        <source>&amp;Settings: %1</source>
+        <translation>&amp;Einstellungen: %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
@@ -2686,11 +2724,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Delete Preset</source>
-        <translation>Vorgabe löschen</translation>
+        <translation>Voreinstellung löschen</translation>
     </message>
     <message>
         <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>Die Vorgabe „%1“ löschen? Auch andere Programme verwenden sie.</translation>
+        <translation>Die Voreinstellung „%1“ löschen? Auch andere Programme verwenden sie.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -2774,6 +2812,47 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Title:</source>
         <translation>Titel:</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blatt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n Blattseite</numerusform>
+            <numerusform>%n Blattseiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>schwarzweiß</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>farbig</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -375,188 +375,192 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>Explanation</name>
     <message>
-        <source>How many times the document is printed.</source>
-        <translation>Cuántas veces se imprime el documento.</translation>
+        <source>The number of copies to print.</source>
+        <translation>El número de copias que se imprimen.</translation>
     </message>
     <message>
-        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>Imprime cada copia completa antes de empezar la siguiente, de modo que nadie tenga que ordenar las páginas.</translation>
+        <source>Prints each complete copy before the next one, so that the pages need no sorting.</source>
+        <translation>Imprime cada copia completa antes de empezar la siguiente, de modo que no hay que ordenar las páginas.</translation>
     </message>
     <message>
-        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
-        <translation>Qué páginas se imprimen. Indique páginas sueltas e intervalos separados por comas, por ejemplo 1-3, 8.</translation>
+        <source>The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.</source>
+        <translation>Las páginas que se imprimen. Separe con comas las páginas sueltas y los intervalos, por ejemplo 1-3, 8.</translation>
     </message>
     <message>
-        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
-        <translation>El tamaño del papel en el que se imprimen las páginas. Debe estar en una de las bandejas de la impresora.</translation>
+        <source>The size of the paper to print on. Paper of this size must be loaded in one of the printer’s trays.</source>
+        <translation>El tamaño del papel en el que se imprime. Una de las bandejas de la impresora debe contener papel de este tamaño.</translation>
     </message>
     <message>
-        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
-        <translation>Cómo es el papel. La impresora arrastra y calienta de otra forma el papel grueso o estucado.</translation>
+        <source>The type of paper. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>El tipo de papel. La impresora arrastra y calienta de otra forma el papel grueso o estucado.</translation>
     </message>
     <message>
         <source>The tray that the paper is taken from.</source>
         <translation>La bandeja de la que se toma el papel.</translation>
     </message>
     <message>
-        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
-        <translation>Imprime en las dos caras del papel. El borde largo es para páginas que se pasan como las de un libro; el borde corto, para las que se pasan como las de un calendario.</translation>
+        <source>Prints on both sides of the paper. Choose the long edge for pages that turn like those of a book, the short edge for pages that turn like those of a wall calendar.</source>
+        <translation>Imprime en las dos caras del papel. Elija el borde largo si las páginas se pasan como las de un libro, y el borde corto si se pasan como las hojas de un calendario de pared.</translation>
     </message>
     <message>
-        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
-        <translation>Cuántas páginas del documento se ponen en una cara del papel. Se reducen para que quepan.</translation>
+        <source>The number of document pages on one side of the paper. The pages are scaled down to fit.</source>
+        <translation>El número de páginas del documento en una cara del papel. Se reducen para que quepan.</translation>
     </message>
     <message>
-        <source>In which order the pages lie when several are put on one side.</source>
-        <translation>En qué orden se colocan las páginas cuando van varias en una cara.</translation>
+        <source>The order in which several pages are arranged on one side.</source>
+        <translation>El orden en que se colocan varias páginas en una cara.</translation>
     </message>
     <message>
         <source>A line around each page on the paper.</source>
         <translation>Una línea alrededor de cada página en el papel.</translation>
     </message>
     <message>
-        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>Si las páginas se imprimen en vertical o en horizontal. «Como en el documento» lo deja al documento.</translation>
+        <source>Prints the pages upright or sideways. “As in the document” keeps the orientation of each page.</source>
+        <translation>Imprime las páginas en vertical o en horizontal. «Como en el documento» conserva la orientación de cada página.</translation>
     </message>
     <message>
-        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
-        <translation>Si las páginas se agrandan o reducen hasta ajustarse al papel, o conservan su tamaño. Lo que entonces no cabe se recorta.</translation>
+        <source>Scales the pages to fit the paper, or keeps their size. At actual size, whatever does not fit on the paper is cut off.</source>
+        <translation>Ajusta el tamaño de las páginas al papel o lo conserva. A tamaño real se recorta lo que no cabe en el papel.</translation>
     </message>
     <message>
-        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
+        <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>Imprime solo una de cada dos páginas, por ejemplo para imprimir a mano por las dos caras: primero las impares y después las pares.</translation>
     </message>
     <message>
-        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
-        <translation>Imprime desde el final, para que las páginas queden en orden cuando la impresora deja cada una boca arriba sobre la anterior.</translation>
+        <source>Prints the last page first, so that the pages are in order when the printer stacks them face up.</source>
+        <translation>Imprime primero la última página, de modo que las páginas quedan en orden cuando la impresora las apila boca arriba.</translation>
     </message>
     <message>
         <source>Prints the whole document.</source>
         <translation>Imprime todo el documento.</translation>
     </message>
     <message>
-        <source>Prints only the page that the program shows.</source>
-        <translation>Imprime solo la página que muestra el programa.</translation>
+        <source>Prints only the page that the application shows.</source>
+        <translation>Imprime solo la página que muestra la aplicación.</translation>
     </message>
     <message>
-        <source>Prints only what is selected in the program.</source>
-        <translation>Imprime solo lo que está seleccionado en el programa.</translation>
+        <source>Prints only what is selected in the application.</source>
+        <translation>Imprime solo lo que está seleccionado en la aplicación.</translation>
     </message>
     <message>
-        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
-        <translation>Los archivos que se imprimen, en este orden. Un archivo sin marca se omite.</translation>
+        <source>The files to print, in this order. Clear the check box of a file to leave it out.</source>
+        <translation>Los archivos que se imprimen, en este orden. Desmarque un archivo para omitirlo.</translation>
     </message>
     <message>
-        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
-        <translation>Escribe las páginas, tal como se imprimirían, en un archivo PDF. No se envía nada a la impresora.</translation>
+        <source>Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.</source>
+        <translation>Guarda las páginas en un archivo PDF tal como se imprimirían. No se envía nada a la impresora.</translation>
     </message>
     <message>
-        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
-        <translation>Lo que sale de la impresora, hasta donde se sabe aquí. Elija una página pequeña para verla grande.</translation>
+        <source>Shows the pages as they will be printed. Select a thumbnail to show its page.</source>
+        <translation>Muestra las páginas tal como se imprimirán. Seleccione una miniatura para ver su página.</translation>
     </message>
     <message>
-        <source>A choice of your own. The line below it says what the printer takes.</source>
-        <translation>Un valor propio. La línea de abajo dice qué acepta la impresora.</translation>
+        <source>A value that you enter yourself. The line below shows what the printer accepts.</source>
+        <translation>Un valor que introduce usted. La línea de abajo indica qué acepta la impresora.</translation>
     </message>
     <message>
-        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
-        <translation>La impresora a la que se envía el documento. En su lista se puede buscar un nombre o un lugar.</translation>
+        <source>The printer that the document is sent to. You can search the list by name or location.</source>
+        <translation>La impresora a la que se envía el documento. En la lista se puede buscar por nombre o ubicación.</translation>
     </message>
     <message>
-        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
-        <translation>Ajustes guardados con un nombre, los usados por última vez y los de la impresora. Elíjalos aquí o guarde los actuales.</translation>
+        <source>Applies a preset, the settings used last or the printer’s defaults, and saves the current settings as a preset.</source>
+        <translation>Aplica un preajuste, los últimos ajustes usados o los de la impresora, y guarda los ajustes actuales como preajuste.</translation>
     </message>
     <message>
-        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
-        <translation>Las páginas de este diálogo. Un rombo señala aquellas en las que se ha cambiado algo.</translation>
+        <source>The pages of this dialog. A diamond marks each page with changed settings.</source>
+        <translation>Las páginas de este diálogo. Un rombo señala las que tienen ajustes cambiados.</translation>
     </message>
     <message>
-        <source>Closes this window. What has not been sent by then is not printed.</source>
-        <translation>Cierra esta ventana. Lo que no se haya enviado hasta entonces no se imprime.</translation>
+        <source>Closes this window. Nothing more is sent to the printer.</source>
+        <translation>Cierra esta ventana. No se envía nada más a la impresora.</translation>
     </message>
     <message>
         <source>Sends the document to the printer with the settings of all pages.</source>
         <translation>Envía el documento a la impresora con los ajustes de todas las páginas.</translation>
     </message>
     <message>
-        <source>Stops the job. Pages that have been printed by then are there.</source>
-        <translation>Detiene el trabajo. Las páginas ya impresas quedan en la impresora.</translation>
+        <source>Cancels the job. Pages that are printed already remain in the printer.</source>
+        <translation>Cancela el trabajo. Las páginas ya impresas quedan en la impresora.</translation>
     </message>
     <message>
-        <source>Lets the job wait at the print server until you release it.</source>
-        <translation>Deja el trabajo en espera en el servidor de impresión hasta que usted lo libere.</translation>
+        <source>Keeps the job at the print server until you release it.</source>
+        <translation>Mantiene el trabajo en espera en el servidor de impresión hasta que usted lo libere.</translation>
     </message>
     <message>
-        <source>Sends the same documents once more with the same settings.</source>
+        <source>Sends the same documents again with the same settings.</source>
         <translation>Envía otra vez los mismos documentos con los mismos ajustes.</translation>
     </message>
     <message>
-        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
-        <translation>El nombre con el que se guardan los ajustes. Otros programas también los ofrecen con este nombre.</translation>
+        <source>The name of the preset. Other programs offer the preset under this name as well.</source>
+        <translation>El nombre del preajuste. Otros programas también lo ofrecen con este nombre.</translation>
     </message>
     <message>
-        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
-        <translation>Guarda lo que de otro modo se pide cada vez. No conviene donde otras personas usan este equipo.</translation>
+        <source>Saves passwords and codes with the preset, so that you need not enter them each time. Do not use this on a computer that you share with others.</source>
+        <translation>Guarda las contraseñas y los códigos con el preajuste para no tener que introducirlos cada vez. No lo use en un equipo compartido con otras personas.</translation>
     </message>
     <message>
-        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
-        <translation>Guarda con el nombre los ajustes de todas las páginas. Los de un preajuste que ya lo tiene se sustituyen.</translation>
+        <source>Saves the settings of all pages as a preset. A preset of the same name is replaced.</source>
+        <translation>Guarda los ajustes de todas las páginas como preajuste. Un preajuste con el mismo nombre se reemplaza.</translation>
     </message>
     <message>
-        <source>Gives the preset this name, also in other programs.</source>
-        <translation>Da este nombre al preajuste, también en otros programas.</translation>
+        <source>Renames the preset, in other programs as well.</source>
+        <translation>Cambia el nombre del preajuste, también en otros programas.</translation>
     </message>
     <message>
-        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
-        <translation>Quita el preajuste, también de otros programas. Lo ajustado en este diálogo queda como está.</translation>
+        <source>Deletes the preset, in other programs as well. The current settings do not change.</source>
+        <translation>Elimina el preajuste, también en otros programas. Los ajustes actuales no cambian.</translation>
     </message>
     <message>
-        <source>Closes this question. The presets stay as they are.</source>
-        <translation>Cierra esta pregunta. Los preajustes quedan como están.</translation>
+        <source>Closes this dialog without changing any preset.</source>
+        <translation>Cierra este diálogo sin cambiar ningún preajuste.</translation>
     </message>
     <message>
-        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
-        <translation>El nombre con el que el servidor de impresión le conoce. Puede ser distinto del de este equipo.</translation>
+        <source>Your user name on the print server. It may differ from your user name on this computer.</source>
+        <translation>Su nombre de usuario en el servidor de impresión. Puede ser distinto del de este equipo.</translation>
     </message>
     <message>
-        <source>The password that belongs to the user name on the print server.</source>
-        <translation>La contraseña que corresponde al nombre de usuario en el servidor de impresión.</translation>
+        <source>Your password on the print server.</source>
+        <translation>Su contraseña en el servidor de impresión.</translation>
     </message>
     <message>
-        <source>Tells the print server who you are.</source>
-        <translation>Indica al servidor de impresión quién es usted.</translation>
+        <source>Logs in to the print server.</source>
+        <translation>Inicia sesión en el servidor de impresión.</translation>
     </message>
     <message>
-        <source>Goes on without. The print server may refuse what it asked the password for.</source>
-        <translation>Continúa sin ella. El servidor de impresión puede rechazar aquello para lo que pidió la contraseña.</translation>
+        <source>Continues without a password. The print server may then refuse the request.</source>
+        <translation>Continúa sin contraseña. El servidor de impresión puede entonces rechazar la solicitud.</translation>
     </message>
     <message>
-        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
-        <translation>Omite lo que está como en la impresora o en el preajuste, e indica cómo era antes lo demás.</translation>
+        <source>Shows only the settings that differ from the printer’s defaults or the preset, with their previous values.</source>
+        <translation>Muestra solo los ajustes que difieren de los de la impresora o del preajuste, con sus valores anteriores.</translation>
     </message>
     <message>
-        <source>What this printer offers beside the other pages, in the words of its maker.</source>
-        <translation>Lo que esta impresora ofrece además de las otras páginas, en palabras de su fabricante.</translation>
+        <source>Further options of this printer, with the names that its manufacturer gave them.</source>
+        <translation>Otras opciones de esta impresora, con los nombres que les da su fabricante.</translation>
     </message>
     <message>
-        <source>Stops what is under way. Nothing that you have set is lost.</source>
-        <translation>Detiene lo que está en curso. No se pierde nada de lo que ha ajustado.</translation>
+        <source>Stops waiting. Your settings are kept.</source>
+        <translation>Deja de esperar. Sus ajustes se conservan.</translation>
     </message>
     <message>
-        <source>Asks the printer or the print server anew.</source>
-        <translation>Vuelve a preguntar a la impresora o al servidor de impresión.</translation>
+        <source>Asks the printer or the print server again.</source>
+        <translation>Vuelve a consultar a la impresora o al servidor de impresión.</translation>
     </message>
     <message>
         <source>Goes back to the settings.</source>
         <translation>Vuelve a los ajustes.</translation>
     </message>
     <message>
-        <source>Looks for a setting on all pages by its name.</source>
+        <source>Finds a setting on any page by its name.</source>
         <translation>Busca un ajuste por su nombre en todas las páginas.</translation>
     </message>
     <message>
-        <source>Shows what the settings of this page are for.</source>
-        <translation>Muestra para qué sirven los ajustes de esta página.</translation>
+        <source>Explains the settings of this page.</source>
+        <translation>Explica los ajustes de esta página.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed in color or in black and white.</source>
+        <translation>Si las páginas se imprimen en color o en blanco y negro.</translation>
     </message>
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
@@ -744,8 +748,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Orientación</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Tamaño</translation>
+        <source>Scaling</source>
+        <translation>Escala</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -757,11 +761,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>On</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1300,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>State not known</source>
         <translation>Estado desconocido</translation>
     </message>
+    <message>
+        <source>%1: level not known</source>
+        <comment>a toner</comment>
+        <translation>%1: nivel desconocido</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <comment>a toner and its level</comment>
+        <translation>%1: %2 %</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1582,11 +1596,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>On</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1603,6 +1617,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Selection</source>
         <translation>Selección</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
     </message>
 </context>
 <context>
@@ -1821,7 +1839,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>&amp;Copias:</translation>
     </message>
     <message>
-        <source>Print each copy whole before the next one begins</source>
+        <source>Print each complete copy before the next one</source>
         <translation>Imprimir cada copia completa antes de empezar la siguiente</translation>
     </message>
     <message>
@@ -1841,8 +1859,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Páginas:</translation>
     </message>
     <message>
-        <source>Type which pages are to be printed, or choose all.</source>
-        <translation>Escriba qué páginas se van a imprimir o elija todas.</translation>
+        <source>Enter the pages to print, or choose all pages.</source>
+        <translation>Escriba las páginas que se van a imprimir o elija todas.</translation>
     </message>
     <message>
         <source>Documents:</source>
@@ -1853,7 +1871,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Guardar como PDF…</translation>
     </message>
     <message>
-        <source>Write the pages into a file instead of printing them</source>
+        <source>Save the pages to a file instead of printing them</source>
         <translation>Guardar las páginas en un archivo en lugar de imprimirlas</translation>
     </message>
     <message>
@@ -1865,12 +1883,20 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Selección</translation>
     </message>
     <message>
-        <source>The numbers count printed sides, each with %1 pages.</source>
-        <translation>Los números cuentan caras impresas, cada una con %1 páginas.</translation>
+        <source>The numbers refer to printed sides with %1 pages each.</source>
+        <translation>Los números se refieren a las caras impresas, con %1 páginas cada una.</translation>
     </message>
     <message>
         <source>Choose at least one document.</source>
         <translation>Elija al menos un documento.</translation>
+    </message>
+    <message>
+        <source>Preview…</source>
+        <translation>Vista previa…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Mostrar las páginas en una ventana aparte</translation>
     </message>
 </context>
 <context>
@@ -1880,9 +1906,9 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Para usarlo hay que cambiar otros ajustes:</translation>
     </message>
     <message>
-        <source>%1 instead of “%2”</source>
+        <source>“%1” instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 en lugar de «%2»</translation>
+        <translation>«%1» en lugar de «%2»</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
@@ -1921,16 +1947,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Find…</source>
-        <translation>Buscar…</translation>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
     </message>
     <message>
         <source>Find a setting</source>
         <translation>Buscar un ajuste</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>Help on this page</source>
@@ -1990,8 +2016,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Orientación:</translation>
     </message>
     <message>
-        <source>Size:</source>
-        <translation>Tamaño:</translation>
+        <source>Scaling:</source>
+        <translation>Escala:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
@@ -2036,8 +2062,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>host::LinkLabel</name>
     <message>
-        <source>Shows the control of this setting</source>
-        <translation>Muestra el control de este ajuste</translation>
+        <source>Go to this setting</source>
+        <translation>Ir a este ajuste</translation>
     </message>
 </context>
 <context>
@@ -2341,8 +2367,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>host::PrintWindow</name>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <source>Cance&amp;l</source>
+        <translation>Cance&amp;lar</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -2419,8 +2445,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Impresora</translation>
     </message>
     <message>
-        <source>&amp;Printer:</source>
-        <translation>Im&amp;presora:</translation>
+        <source>Pri&amp;nter:</source>
+        <translation>I&amp;mpresora:</translation>
     </message>
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
@@ -2429,21 +2455,33 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 </context>
 <context>
     <name>host::RangeCheck</name>
-    <message>
-        <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>El documento más largo, «%1», solo tiene %2 caras impresas.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n printed sides.</source>
+        <translation>
+            <numerusform>El documento más largo, «%1», solo tiene %n cara impresa.</numerusform>
+            <numerusform>El documento más largo, «%1», solo tiene %n caras impresas.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>El documento más largo, «%1», solo tiene %2 páginas.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n pages.</source>
+        <translation>
+            <numerusform>El documento más largo, «%1», solo tiene %n página.</numerusform>
+            <numerusform>El documento más largo, «%1», solo tiene %n páginas.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Solo hay %1 caras impresas.</translation>
+    <message numerus="yes">
+        <source>There are only %n printed sides.</source>
+        <translation>
+            <numerusform>Solo hay %n cara impresa.</numerusform>
+            <numerusform>Solo hay %n caras impresas.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>El documento solo tiene %1 páginas.</translation>
+    <message numerus="yes">
+        <source>The document has only %n pages.</source>
+        <translation>
+            <numerusform>El documento solo tiene %n página.</numerusform>
+            <numerusform>El documento solo tiene %n páginas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2520,8 +2558,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Trabajo %1: %2</translation>
     </message>
     <message>
-        <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>Un trabajo confidencial se imprime cuando usted introduce su código en la impresora «%1».</translation>
+        <source>A private job is printed once you enter its password at the printer “%1”.</source>
+        <translation>Un trabajo confidencial se imprime cuando usted introduce su contraseña en la impresora «%1».</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2559,8 +2597,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Buscar un ajuste</translation>
     </message>
     <message>
-        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
-        <translation>Escriba lo que busca, con sus propias palabras o como lo llama el controlador de la impresora. Intro lleva al ajuste.</translation>
+        <source>Type the name of a setting, in your own words or as the printer driver has it. Press Return to go to the setting.</source>
+        <translation>Escriba el nombre de un ajuste, con sus propias palabras o como figura en el controlador de la impresora. Pulse Intro para ir al ajuste.</translation>
     </message>
     <message>
         <source>Nothing found</source>
@@ -2575,19 +2613,19 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Ajustes encontrados</translation>
     </message>
     <message numerus="yes">
-        <source>%n setting(s) found</source>
+        <source>%n settings found</source>
         <translation>
             <numerusform>%n ajuste encontrado</numerusform>
             <numerusform>%n ajustes encontrados</numerusform>
         </translation>
     </message>
     <message>
-        <source>Takes the search away. The settings stay as they are.</source>
-        <translation>Cierra la búsqueda. Los ajustes quedan como están.</translation>
+        <source>Closes the search. The settings do not change.</source>
+        <translation>Cierra la búsqueda. Los ajustes no cambian.</translation>
     </message>
     <message>
-        <source>What has been found, with its page first. Return leads to the setting.</source>
-        <translation>Lo que se ha encontrado, con la página delante. Intro lleva al ajuste.</translation>
+        <source>The settings that were found, each with its page. Press Return to go to the setting.</source>
+        <translation>Los ajustes encontrados, cada uno con su página. Pulse Intro para ir al ajuste.</translation>
     </message>
 </context>
 <context>
@@ -2661,8 +2699,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>%1 (con cambios)</translation>
     </message>
     <message>
-        <source>Settings: %1</source>
-        <translation>Ajustes: %1</translation>
+        <source>&amp;Settings: %1</source>
+        <translation>A&amp;justes: %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
@@ -2774,6 +2812,47 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Title:</source>
         <translation>Título:</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n hoja</numerusform>
+            <numerusform>%n hojas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n cara</numerusform>
+            <numerusform>%n caras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>blanco y negro</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>color</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -101,19 +101,19 @@
     </message>
     <message>
         <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Ouvrir le dialogue sur ce volet&#xa0;: general, more, summary, ou le nom ou le type d’un panneau.</translation>
+        <translation>Ouvrir la boîte de dialogue sur ce volet&#xa0;: general, more, summary, ou le nom ou le type d’un panneau.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
-        <translation>Écrire une image du dialogue et quitter.</translation>
+        <translation>Écrire une image de la boîte de dialogue et quitter.</translation>
     </message>
     <message>
         <source>Colors of the dialog: light or dark.</source>
-        <translation>Couleurs du dialogue&#xa0;: light (clair) ou dark (sombre).</translation>
+        <translation>Couleurs de la boîte de dialogue&#xa0;: light (clair) ou dark (sombre).</translation>
     </message>
     <message>
         <source>Open the dialog, write how long it took and exit.</source>
-        <translation>Ouvrir le dialogue, écrire la durée et quitter.</translation>
+        <translation>Ouvrir la boîte de dialogue, écrire la durée et quitter.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -149,7 +149,7 @@ Print documents, with a dialog for the settings or without one.
 
 </source>
         <translation>Usage&#xa0;: kelmar-print [OPTION...] [FICHIER...]
-Imprime des documents, avec ou sans dialogue de réglages.
+Imprime des documents, avec ou sans boîte de dialogue pour les réglages.
 
 </translation>
     </message>
@@ -375,175 +375,175 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>Explanation</name>
     <message>
-        <source>How many times the document is printed.</source>
-        <translation>Le nombre de fois que le document est imprimé.</translation>
+        <source>The number of copies to print.</source>
+        <translation>Le nombre de copies à imprimer.</translation>
     </message>
     <message>
-        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>Imprime chaque copie en entier avant de commencer la suivante&#xa0;: personne n’a à trier les pages.</translation>
+        <source>Prints each complete copy before the next one, so that the pages need no sorting.</source>
+        <translation>Imprime chaque copie en entier avant de commencer la suivante&#xa0;; les pages n’ont pas à être triées.</translation>
     </message>
     <message>
-        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
-        <translation>Les pages à imprimer. Indiquez des pages isolées et des plages séparées par des virgules, par exemple 1-3, 8.</translation>
+        <source>The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.</source>
+        <translation>Les pages à imprimer. Séparez les pages et les plages par des virgules, par exemple 1-3, 8.</translation>
     </message>
     <message>
-        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
-        <translation>Le format du papier sur lequel les pages sont imprimées. Il doit se trouver dans l’un des bacs de l’imprimante.</translation>
+        <source>The size of the paper to print on. Paper of this size must be loaded in one of the printer’s trays.</source>
+        <translation>Le format du papier sur lequel imprimer. Un des bacs de l’imprimante doit contenir du papier de ce format.</translation>
     </message>
     <message>
-        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
-        <translation>La nature du papier. L’imprimante entraîne et chauffe différemment le papier épais ou couché.</translation>
+        <source>The type of paper. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Le type de papier. L’imprimante entraîne et chauffe différemment le papier épais ou couché.</translation>
     </message>
     <message>
         <source>The tray that the paper is taken from.</source>
         <translation>Le bac dans lequel le papier est pris.</translation>
     </message>
     <message>
-        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
-        <translation>Imprime sur les deux faces du papier. Le bord long convient aux pages qui se tournent comme un livre, le bord court à celles qui se tournent comme un calendrier.</translation>
+        <source>Prints on both sides of the paper. Choose the long edge for pages that turn like those of a book, the short edge for pages that turn like those of a wall calendar.</source>
+        <translation>Imprime sur les deux faces du papier. Choisissez le bord long pour des pages qui se tournent comme celles d’un livre, le bord court pour celles d’un calendrier mural.</translation>
     </message>
     <message>
-        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
-        <translation>Combien de pages du document sont placées sur une face du papier. Elles sont réduites pour tenir.</translation>
+        <source>The number of document pages on one side of the paper. The pages are scaled down to fit.</source>
+        <translation>Le nombre de pages du document par face de papier. Les pages sont réduites en conséquence.</translation>
     </message>
     <message>
-        <source>In which order the pages lie when several are put on one side.</source>
-        <translation>Dans quel ordre les pages sont placées quand une face en porte plusieurs.</translation>
+        <source>The order in which several pages are arranged on one side.</source>
+        <translation>L’ordre dans lequel plusieurs pages sont disposées sur une face.</translation>
     </message>
     <message>
         <source>A line around each page on the paper.</source>
         <translation>Un trait autour de chaque page sur le papier.</translation>
     </message>
     <message>
-        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>Si les pages sont imprimées en portrait ou en paysage. «&#xa0;Comme dans le document&#xa0;» laisse ce choix au document.</translation>
+        <source>Prints the pages upright or sideways. “As in the document” keeps the orientation of each page.</source>
+        <translation>Imprime les pages en portrait ou en paysage. «&#xa0;Comme dans le document&#xa0;» conserve l’orientation de chaque page.</translation>
     </message>
     <message>
-        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
-        <translation>Si les pages sont agrandies ou réduites à la taille du papier, ou gardent leur taille. Ce qui dépasse alors est coupé.</translation>
+        <source>Scales the pages to fit the paper, or keeps their size. At actual size, whatever does not fit on the paper is cut off.</source>
+        <translation>Adapte la taille des pages au papier, ou la conserve. En taille réelle, ce qui dépasse du papier est coupé.</translation>
     </message>
     <message>
-        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
-        <translation>N’imprime qu’une page sur deux, par exemple pour imprimer les deux faces à la main&#xa0;: d’abord les pages impaires, puis les paires.</translation>
+        <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
+        <translation>N’imprime qu’une page sur deux, par exemple pour imprimer manuellement en recto verso&#xa0;: d’abord les pages impaires, puis les pages paires.</translation>
     </message>
     <message>
-        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
-        <translation>Imprime à partir de la fin, pour que les pages soient dans l’ordre quand l’imprimante les pose face en haut l’une sur l’autre.</translation>
+        <source>Prints the last page first, so that the pages are in order when the printer stacks them face up.</source>
+        <translation>Imprime la dernière page en premier&#xa0;: les pages sont dans l’ordre lorsque l’imprimante les empile face imprimée vers le haut.</translation>
     </message>
     <message>
         <source>Prints the whole document.</source>
         <translation>Imprime tout le document.</translation>
     </message>
     <message>
-        <source>Prints only the page that the program shows.</source>
-        <translation>N’imprime que la page que montre le programme.</translation>
+        <source>Prints only the page that the application shows.</source>
+        <translation>N’imprime que la page affichée par l’application.</translation>
     </message>
     <message>
-        <source>Prints only what is selected in the program.</source>
-        <translation>N’imprime que ce qui est sélectionné dans le programme.</translation>
+        <source>Prints only what is selected in the application.</source>
+        <translation>N’imprime que ce qui est sélectionné dans l’application.</translation>
     </message>
     <message>
-        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
-        <translation>Les fichiers à imprimer, dans cet ordre. Un fichier non coché est laissé de côté.</translation>
+        <source>The files to print, in this order. Clear the check box of a file to leave it out.</source>
+        <translation>Les fichiers à imprimer, dans cet ordre. Décochez un fichier pour l’omettre.</translation>
     </message>
     <message>
-        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
-        <translation>Écrit les pages, telles qu’elles seraient imprimées, dans un fichier PDF. Rien n’est envoyé à l’imprimante.</translation>
+        <source>Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.</source>
+        <translation>Enregistre les pages dans un fichier PDF telles qu’elles seraient imprimées. Rien n’est envoyé à l’imprimante.</translation>
     </message>
     <message>
-        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
-        <translation>Ce qui sort de l’imprimante, pour autant qu’on le sache ici. Choisissez une petite page pour la voir en grand.</translation>
+        <source>Shows the pages as they will be printed. Select a thumbnail to show its page.</source>
+        <translation>Affiche les pages telles qu’elles seront imprimées. Sélectionnez une miniature pour afficher sa page.</translation>
     </message>
     <message>
-        <source>A choice of your own. The line below it says what the printer takes.</source>
-        <translation>Une valeur de votre choix. La ligne du dessous dit ce que l’imprimante accepte.</translation>
+        <source>A value that you enter yourself. The line below shows what the printer accepts.</source>
+        <translation>Une valeur que vous saisissez. La ligne en dessous indique ce que l’imprimante accepte.</translation>
     </message>
     <message>
-        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
-        <translation>L’imprimante à laquelle le document est envoyé. On peut chercher un nom ou un lieu dans sa liste.</translation>
+        <source>The printer that the document is sent to. You can search the list by name or location.</source>
+        <translation>L’imprimante à laquelle le document est envoyé. La liste permet une recherche par nom ou par emplacement.</translation>
     </message>
     <message>
-        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
-        <translation>Des réglages gardés sous un nom, les derniers utilisés et ceux de l’imprimante. Choisissez-les ici, ou gardez les réglages actuels.</translation>
+        <source>Applies a preset, the settings used last or the printer’s defaults, and saves the current settings as a preset.</source>
+        <translation>Applique un préréglage, les derniers réglages utilisés ou ceux de l’imprimante, et enregistre les réglages actuels comme préréglage.</translation>
     </message>
     <message>
-        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
-        <translation>Les pages de cette boîte de dialogue. Un losange marque celles où quelque chose a été modifié.</translation>
+        <source>The pages of this dialog. A diamond marks each page with changed settings.</source>
+        <translation>Les pages de cette boîte de dialogue. Un losange signale celles dont des réglages ont été modifiés.</translation>
     </message>
     <message>
-        <source>Closes this window. What has not been sent by then is not printed.</source>
-        <translation>Ferme cette fenêtre. Ce qui n’a pas encore été envoyé n’est pas imprimé.</translation>
+        <source>Closes this window. Nothing more is sent to the printer.</source>
+        <translation>Ferme cette fenêtre. Plus rien n’est envoyé à l’imprimante.</translation>
     </message>
     <message>
         <source>Sends the document to the printer with the settings of all pages.</source>
         <translation>Envoie le document à l’imprimante avec les réglages de toutes les pages.</translation>
     </message>
     <message>
-        <source>Stops the job. Pages that have been printed by then are there.</source>
-        <translation>Arrête la tâche. Les pages déjà imprimées restent dans l’imprimante.</translation>
+        <source>Cancels the job. Pages that are printed already remain in the printer.</source>
+        <translation>Annule la tâche. Les pages déjà imprimées restent dans l’imprimante.</translation>
     </message>
     <message>
-        <source>Lets the job wait at the print server until you release it.</source>
-        <translation>Fait attendre la tâche sur le serveur d’impression jusqu’à ce que vous la libériez.</translation>
+        <source>Keeps the job at the print server until you release it.</source>
+        <translation>Garde la tâche en attente sur le serveur d’impression jusqu’à ce que vous la libériez.</translation>
     </message>
     <message>
-        <source>Sends the same documents once more with the same settings.</source>
-        <translation>Envoie encore une fois les mêmes documents avec les mêmes réglages.</translation>
+        <source>Sends the same documents again with the same settings.</source>
+        <translation>Envoie de nouveau les mêmes documents avec les mêmes réglages.</translation>
     </message>
     <message>
-        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
-        <translation>Le nom sous lequel les réglages sont conservés. D’autres programmes les proposent aussi sous ce nom.</translation>
+        <source>The name of the preset. Other programs offer the preset under this name as well.</source>
+        <translation>Le nom du préréglage. D’autres programmes le proposent aussi sous ce nom.</translation>
     </message>
     <message>
-        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
-        <translation>Conserve ce qui est sinon demandé chaque fois. À éviter là où d’autres utilisent cet ordinateur.</translation>
+        <source>Saves passwords and codes with the preset, so that you need not enter them each time. Do not use this on a computer that you share with others.</source>
+        <translation>Enregistre les mots de passe et les codes avec le préréglage, pour ne pas avoir à les saisir chaque fois. À éviter sur un ordinateur partagé.</translation>
     </message>
     <message>
-        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
-        <translation>Conserve sous ce nom les réglages de toutes les pages. Ceux d’un préréglage qui porte déjà ce nom sont remplacés.</translation>
+        <source>Saves the settings of all pages as a preset. A preset of the same name is replaced.</source>
+        <translation>Enregistre les réglages de toutes les pages comme préréglage. Un préréglage du même nom est remplacé.</translation>
     </message>
     <message>
-        <source>Gives the preset this name, also in other programs.</source>
-        <translation>Donne ce nom au préréglage, aussi dans les autres programmes.</translation>
+        <source>Renames the preset, in other programs as well.</source>
+        <translation>Renomme le préréglage, y compris dans les autres programmes.</translation>
     </message>
     <message>
-        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
-        <translation>Retire le préréglage, aussi des autres programmes. Ce qui est réglé dans ce dialogue reste tel quel.</translation>
+        <source>Deletes the preset, in other programs as well. The current settings do not change.</source>
+        <translation>Supprime le préréglage, y compris dans les autres programmes. Les réglages actuels ne changent pas.</translation>
     </message>
     <message>
-        <source>Closes this question. The presets stay as they are.</source>
-        <translation>Ferme cette question. Les préréglages restent tels quels.</translation>
+        <source>Closes this dialog without changing any preset.</source>
+        <translation>Ferme cette boîte de dialogue sans modifier de préréglage.</translation>
     </message>
     <message>
-        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
-        <translation>Le nom sous lequel le serveur d’impression vous connaît. Il peut différer de celui de cet ordinateur.</translation>
+        <source>Your user name on the print server. It may differ from your user name on this computer.</source>
+        <translation>Votre nom d’utilisateur sur le serveur d’impression. Il peut différer de celui de cet ordinateur.</translation>
     </message>
     <message>
-        <source>The password that belongs to the user name on the print server.</source>
-        <translation>Le mot de passe qui va avec ce nom d’utilisateur sur le serveur d’impression.</translation>
+        <source>Your password on the print server.</source>
+        <translation>Votre mot de passe sur le serveur d’impression.</translation>
     </message>
     <message>
-        <source>Tells the print server who you are.</source>
-        <translation>Indique au serveur d’impression qui vous êtes.</translation>
+        <source>Logs in to the print server.</source>
+        <translation>Ouvre une session sur le serveur d’impression.</translation>
     </message>
     <message>
-        <source>Goes on without. The print server may refuse what it asked the password for.</source>
-        <translation>Continue sans. Le serveur d’impression peut refuser ce pour quoi il a demandé le mot de passe.</translation>
+        <source>Continues without a password. The print server may then refuse the request.</source>
+        <translation>Continue sans mot de passe. Le serveur d’impression peut alors refuser la demande.</translation>
     </message>
     <message>
-        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
-        <translation>Omet ce qui est tel que l’imprimante ou le préréglage le prévoit, et indique ce que le reste était avant.</translation>
+        <source>Shows only the settings that differ from the printer’s defaults or the preset, with their previous values.</source>
+        <translation>N’affiche que les réglages qui diffèrent de ceux de l’imprimante ou du préréglage, avec leurs valeurs précédentes.</translation>
     </message>
     <message>
-        <source>What this printer offers beside the other pages, in the words of its maker.</source>
-        <translation>Ce que cette imprimante propose en plus des autres pages, dans les termes de son fabricant.</translation>
+        <source>Further options of this printer, with the names that its manufacturer gave them.</source>
+        <translation>Autres options de cette imprimante, avec les noms donnés par son fabricant.</translation>
     </message>
     <message>
-        <source>Stops what is under way. Nothing that you have set is lost.</source>
-        <translation>Arrête ce qui est en cours. Rien de ce que vous avez réglé n’est perdu.</translation>
+        <source>Stops waiting. Your settings are kept.</source>
+        <translation>Cesse d’attendre. Vos réglages sont conservés.</translation>
     </message>
     <message>
-        <source>Asks the printer or the print server anew.</source>
+        <source>Asks the printer or the print server again.</source>
         <translation>Interroge de nouveau l’imprimante ou le serveur d’impression.</translation>
     </message>
     <message>
@@ -551,12 +551,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Revient aux réglages.</translation>
     </message>
     <message>
-        <source>Looks for a setting on all pages by its name.</source>
+        <source>Finds a setting on any page by its name.</source>
         <translation>Recherche un réglage par son nom dans toutes les pages.</translation>
     </message>
     <message>
-        <source>Shows what the settings of this page are for.</source>
-        <translation>Montre à quoi servent les réglages de cette page.</translation>
+        <source>Explains the settings of this page.</source>
+        <translation>Explique les réglages de cette page.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed in color or in black and white.</source>
+        <translation>Impression des pages en couleur ou en noir et blanc.</translation>
     </message>
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
@@ -606,7 +610,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>unknown</source>
-        <translation>inconnu</translation>
+        <translation>état inconnu</translation>
     </message>
     <message>
         <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
@@ -744,8 +748,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Orientation</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Taille</translation>
+        <source>Scaling</source>
+        <translation>Échelle</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -757,11 +761,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>On</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
 </context>
 <context>
@@ -1259,7 +1263,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>“%1” opens the print dialog and prints nothing itself; choose another printer.</source>
-        <translation>«&#xa0;%1&#xa0;» ouvre le dialogue d’impression et n’imprime rien elle-même&#xa0;; choisissez une autre imprimante.</translation>
+        <translation>«&#xa0;%1&#xa0;» ouvre la boîte de dialogue d’impression et n’imprime rien elle-même&#xa0;; choisissez une autre imprimante.</translation>
     </message>
     <message>
         <source>There is no printer called “%1”.</source>
@@ -1295,6 +1299,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>State not known</source>
         <translation>État inconnu</translation>
+    </message>
+    <message>
+        <source>%1: level not known</source>
+        <comment>a toner</comment>
+        <translation>%1&#xa0;: niveau inconnu</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <comment>a toner and its level</comment>
+        <translation>%1&#xa0;: %2&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -1582,11 +1596,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>On</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1603,6 +1617,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Selection</source>
         <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Autres options</translation>
     </message>
 </context>
 <context>
@@ -1821,7 +1839,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Copies</translation>
     </message>
     <message>
-        <source>Print each copy whole before the next one begins</source>
+        <source>Print each complete copy before the next one</source>
         <translation>Imprimer chaque copie en entier avant de commencer la suivante</translation>
     </message>
     <message>
@@ -1837,8 +1855,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Pages&#xa0;:</translation>
     </message>
     <message>
-        <source>Type which pages are to be printed, or choose all.</source>
-        <translation>Saisissez les pages à imprimer, ou choisissez-les toutes.</translation>
+        <source>Enter the pages to print, or choose all pages.</source>
+        <translation>Saisissez les pages à imprimer, ou choisissez toutes les pages.</translation>
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
@@ -1853,8 +1871,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Enregistrer en PDF…</translation>
     </message>
     <message>
-        <source>Write the pages into a file instead of printing them</source>
-        <translation>Écrire les pages dans un fichier au lieu de les imprimer</translation>
+        <source>Save the pages to a file instead of printing them</source>
+        <translation>Enregistrer les pages dans un fichier au lieu de les imprimer</translation>
     </message>
     <message>
         <source>Current page</source>
@@ -1865,12 +1883,20 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Sélection</translation>
     </message>
     <message>
-        <source>The numbers count printed sides, each with %1 pages.</source>
-        <translation>Les numéros comptent les faces imprimées, de %1 pages chacune.</translation>
+        <source>The numbers refer to printed sides with %1 pages each.</source>
+        <translation>Les numéros désignent les faces imprimées, de %1 pages chacune.</translation>
     </message>
     <message>
         <source>Choose at least one document.</source>
         <translation>Choisissez au moins un document.</translation>
+    </message>
+    <message>
+        <source>Preview…</source>
+        <translation>Aperçu…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Afficher les pages dans une fenêtre séparée</translation>
     </message>
 </context>
 <context>
@@ -1880,9 +1906,9 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Pour l’utiliser, d’autres réglages doivent changer&#xa0;:</translation>
     </message>
     <message>
-        <source>%1 instead of “%2”</source>
+        <source>“%1” instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 au lieu de «&#xa0;%2&#xa0;»</translation>
+        <translation>«&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
@@ -1921,16 +1947,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Find…</source>
-        <translation>Rechercher…</translation>
+        <source>&amp;Find…</source>
+        <translation>Rec&amp;hercher…</translation>
     </message>
     <message>
         <source>Find a setting</source>
         <translation>Rechercher un réglage</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Aide</translation>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
     </message>
     <message>
         <source>Help on this page</source>
@@ -1990,8 +2016,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Orientation&#xa0;:</translation>
     </message>
     <message>
-        <source>Size:</source>
-        <translation>Taille&#xa0;:</translation>
+        <source>Scaling:</source>
+        <translation>Échelle&#xa0;:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
@@ -2036,8 +2062,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>host::LinkLabel</name>
     <message>
-        <source>Shows the control of this setting</source>
-        <translation>Affiche la commande de ce réglage</translation>
+        <source>Go to this setting</source>
+        <translation>Accéder à ce réglage</translation>
     </message>
 </context>
 <context>
@@ -2134,7 +2160,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <name>host::PageList</name>
     <message>
         <source>Pages of the dialog</source>
-        <translation>Pages du dialogue</translation>
+        <translation>Pages de la boîte de dialogue</translation>
     </message>
     <message>
         <source>has changed settings</source>
@@ -2341,8 +2367,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>host::PrintWindow</name>
     <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
+        <source>Cance&amp;l</source>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -2419,7 +2445,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Imprimante</translation>
     </message>
     <message>
-        <source>&amp;Printer:</source>
+        <source>Pri&amp;nter:</source>
         <translation>Imp&amp;rimante&#xa0;:</translation>
     </message>
     <message>
@@ -2429,21 +2455,33 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 </context>
 <context>
     <name>host::RangeCheck</name>
-    <message>
-        <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %2 faces imprimées.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n printed sides.</source>
+        <translation>
+            <numerusform>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %n face imprimée.</numerusform>
+            <numerusform>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %n faces imprimées.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %2 pages.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n pages.</source>
+        <translation>
+            <numerusform>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %n page.</numerusform>
+            <numerusform>Le document le plus long, «&#xa0;%1&#xa0;», n’a que %n pages.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Il n’y a que %1 faces imprimées.</translation>
+    <message numerus="yes">
+        <source>There are only %n printed sides.</source>
+        <translation>
+            <numerusform>Il n’y a que %n face imprimée.</numerusform>
+            <numerusform>Il n’y a que %n faces imprimées.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Le document n’a que %1 pages.</translation>
+    <message numerus="yes">
+        <source>The document has only %n pages.</source>
+        <translation>
+            <numerusform>Le document n’a que %n page.</numerusform>
+            <numerusform>Le document n’a que %n pages.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2520,8 +2558,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Peut-être envoyé à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>Une tâche confidentielle est imprimée dès que vous saisissez son code sur l’imprimante «&#xa0;%1&#xa0;».</translation>
+        <source>A private job is printed once you enter its password at the printer “%1”.</source>
+        <translation>Une tâche confidentielle est imprimée dès que vous saisissez son mot de passe sur l’imprimante «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2549,7 +2587,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Pages printed: %1</source>
-        <translation>Pages imprimées : %1</translation>
+        <translation>Pages imprimées&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2559,8 +2597,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Rechercher un réglage</translation>
     </message>
     <message>
-        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
-        <translation>Saisissez ce que vous cherchez, avec vos mots ou ceux du pilote de l’imprimante. La touche Entrée mène au réglage.</translation>
+        <source>Type the name of a setting, in your own words or as the printer driver has it. Press Return to go to the setting.</source>
+        <translation>Saisissez le nom d’un réglage, avec vos propres mots ou tel qu’il figure dans le pilote de l’imprimante. Appuyez sur Entrée pour y accéder.</translation>
     </message>
     <message>
         <source>Nothing found</source>
@@ -2575,19 +2613,19 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Réglages trouvés</translation>
     </message>
     <message numerus="yes">
-        <source>%n setting(s) found</source>
+        <source>%n settings found</source>
         <translation>
             <numerusform>%n réglage trouvé</numerusform>
             <numerusform>%n réglages trouvés</numerusform>
         </translation>
     </message>
     <message>
-        <source>Takes the search away. The settings stay as they are.</source>
-        <translation>Ferme la recherche. Les réglages restent tels quels.</translation>
+        <source>Closes the search. The settings do not change.</source>
+        <translation>Ferme la recherche. Les réglages ne changent pas.</translation>
     </message>
     <message>
-        <source>What has been found, with its page first. Return leads to the setting.</source>
-        <translation>Ce qui a été trouvé, la page en premier. La touche Entrée mène au réglage.</translation>
+        <source>The settings that were found, each with its page. Press Return to go to the setting.</source>
+        <translation>Les réglages trouvés, chacun avec sa page. Appuyez sur Entrée pour accéder au réglage.</translation>
     </message>
 </context>
 <context>
@@ -2661,8 +2699,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 (modifié)</translation>
     </message>
     <message>
-        <source>Settings: %1</source>
-        <translation>Réglages&#xa0;: %1</translation>
+        <source>&amp;Settings: %1</source>
+        <translation>Ré&amp;glages&#xa0;: %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
@@ -2774,6 +2812,47 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Title:</source>
         <translation>Titre&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n face</numerusform>
+            <numerusform>%n faces</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>noir et blanc</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>couleur</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

@@ -375,175 +375,175 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>Explanation</name>
     <message>
-        <source>How many times the document is printed.</source>
-        <translation>Quante volte viene stampato il documento.</translation>
+        <source>The number of copies to print.</source>
+        <translation>Il numero di copie da stampare.</translation>
     </message>
     <message>
-        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>Stampa ogni copia per intero prima di iniziare la successiva, così nessuno deve riordinare le pagine.</translation>
+        <source>Prints each complete copy before the next one, so that the pages need no sorting.</source>
+        <translation>Stampa ogni copia per intero prima di iniziare la successiva: le pagine non vanno riordinate.</translation>
     </message>
     <message>
-        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
-        <translation>Quali pagine vengono stampate. Indicare singole pagine e intervalli separati da virgole, per esempio 1-3, 8.</translation>
+        <source>The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.</source>
+        <translation>Le pagine da stampare. Separare le singole pagine e gli intervalli con virgole, per esempio 1-3, 8.</translation>
     </message>
     <message>
-        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
-        <translation>Le dimensioni della carta su cui vengono stampate le pagine. La carta deve trovarsi in uno dei vassoi della stampante.</translation>
+        <source>The size of the paper to print on. Paper of this size must be loaded in one of the printer’s trays.</source>
+        <translation>Il formato della carta su cui stampare. Uno dei vassoi della stampante deve contenere carta di questo formato.</translation>
     </message>
     <message>
-        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
-        <translation>Com’è la carta. La stampante alimenta e riscalda in modo diverso la carta pesante o patinata.</translation>
+        <source>The type of paper. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>Il tipo di carta. La stampante trascina e riscalda in modo diverso la carta pesante o patinata.</translation>
     </message>
     <message>
         <source>The tray that the paper is taken from.</source>
         <translation>Il vassoio da cui viene prelevata la carta.</translation>
     </message>
     <message>
-        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
-        <translation>Stampa su fronte e retro del foglio. Il lato lungo è per le pagine che si girano come quelle di un libro, il lato corto per quelle che si girano come i fogli di un calendario.</translation>
+        <source>Prints on both sides of the paper. Choose the long edge for pages that turn like those of a book, the short edge for pages that turn like those of a wall calendar.</source>
+        <translation>Stampa su fronte e retro del foglio. Il lato lungo è per le pagine che si girano come quelle di un libro, il lato corto per quelle che si girano come i fogli di un calendario da parete.</translation>
     </message>
     <message>
-        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
-        <translation>Quante pagine del documento stanno su una facciata del foglio. Vengono rimpicciolite quanto serve.</translation>
+        <source>The number of document pages on one side of the paper. The pages are scaled down to fit.</source>
+        <translation>Il numero di pagine del documento su una facciata del foglio. Le pagine vengono ridotte quanto serve.</translation>
     </message>
     <message>
-        <source>In which order the pages lie when several are put on one side.</source>
-        <translation>In quale ordine stanno le pagine quando più di una sta su una facciata.</translation>
+        <source>The order in which several pages are arranged on one side.</source>
+        <translation>L’ordine in cui più pagine sono disposte su una facciata.</translation>
     </message>
     <message>
         <source>A line around each page on the paper.</source>
         <translation>Una linea intorno a ogni pagina sul foglio.</translation>
     </message>
     <message>
-        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>Se le pagine vengono stampate in verticale o in orizzontale. «Come nel documento» lo lascia al documento.</translation>
+        <source>Prints the pages upright or sideways. “As in the document” keeps the orientation of each page.</source>
+        <translation>Stampa le pagine in verticale o in orizzontale. «Come nel documento» mantiene l’orientamento di ogni pagina.</translation>
     </message>
     <message>
-        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
-        <translation>Se le pagine vengono ingrandite o rimpicciolite fino a riempire il foglio, o mantengono la loro dimensione. Quel che poi non ci sta viene tagliato.</translation>
+        <source>Scales the pages to fit the paper, or keeps their size. At actual size, whatever does not fit on the paper is cut off.</source>
+        <translation>Adatta la dimensione delle pagine al foglio oppure la mantiene. A dimensioni reali, ciò che non sta sul foglio viene tagliato.</translation>
     </message>
     <message>
-        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
-        <translation>Stampa solo una pagina su due, per esempio per stampare a mano sui due lati: prima le pagine dispari, poi quelle pari.</translation>
+        <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
+        <translation>Stampa solo una pagina su due, per esempio per stampare manualmente fronte e retro: prima le pagine dispari, poi quelle pari.</translation>
     </message>
     <message>
-        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
-        <translation>Stampa a partire dalla fine, così che le pagine siano in ordine quando la stampante le posa a faccia in su una sull’altra.</translation>
+        <source>Prints the last page first, so that the pages are in order when the printer stacks them face up.</source>
+        <translation>Stampa per prima l’ultima pagina: le pagine risultano in ordine quando la stampante le impila a faccia in su.</translation>
     </message>
     <message>
         <source>Prints the whole document.</source>
         <translation>Stampa tutto il documento.</translation>
     </message>
     <message>
-        <source>Prints only the page that the program shows.</source>
-        <translation>Stampa solo la pagina mostrata dal programma.</translation>
+        <source>Prints only the page that the application shows.</source>
+        <translation>Stampa solo la pagina mostrata dall’applicazione.</translation>
     </message>
     <message>
-        <source>Prints only what is selected in the program.</source>
-        <translation>Stampa solo ciò che è selezionato nel programma.</translation>
+        <source>Prints only what is selected in the application.</source>
+        <translation>Stampa solo ciò che è selezionato nell’applicazione.</translation>
     </message>
     <message>
-        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
-        <translation>I file da stampare, in quest’ordine. Un file senza segno di spunta viene tralasciato.</translation>
+        <source>The files to print, in this order. Clear the check box of a file to leave it out.</source>
+        <translation>I file da stampare, in quest’ordine. Per escludere un file, deselezionarne la casella.</translation>
     </message>
     <message>
-        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
-        <translation>Scrive le pagine, come verrebbero stampate, in un file PDF. Alla stampante non viene inviato nulla.</translation>
+        <source>Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.</source>
+        <translation>Salva le pagine in un file PDF come verrebbero stampate. Alla stampante non viene inviato nulla.</translation>
     </message>
     <message>
-        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
-        <translation>Quel che esce dalla stampante, per quanto è noto qui. Con una pagina piccola la si vede in grande.</translation>
+        <source>Shows the pages as they will be printed. Select a thumbnail to show its page.</source>
+        <translation>Mostra le pagine come verranno stampate. Selezionare una miniatura per vederne la pagina.</translation>
     </message>
     <message>
-        <source>A choice of your own. The line below it says what the printer takes.</source>
-        <translation>Un valore a scelta. La riga sotto dice che cosa accetta la stampante.</translation>
+        <source>A value that you enter yourself. The line below shows what the printer accepts.</source>
+        <translation>Un valore da immettere. La riga sotto indica che cosa accetta la stampante.</translation>
     </message>
     <message>
-        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
-        <translation>La stampante a cui viene inviato il documento. Nel suo elenco si può cercare un nome o un luogo.</translation>
+        <source>The printer that the document is sent to. You can search the list by name or location.</source>
+        <translation>La stampante a cui viene inviato il documento. Nell’elenco si può cercare per nome o posizione.</translation>
     </message>
     <message>
-        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
-        <translation>Impostazioni salvate con un nome, le ultime usate e quelle della stampante. Qui si scelgono, o si salvano quelle attuali.</translation>
+        <source>Applies a preset, the settings used last or the printer’s defaults, and saves the current settings as a preset.</source>
+        <translation>Applica una preimpostazione, le ultime impostazioni usate o quelle della stampante, e salva le impostazioni attuali come preimpostazione.</translation>
     </message>
     <message>
-        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
-        <translation>Le pagine di questa finestra. Un rombo indica quelle in cui qualcosa è stato cambiato.</translation>
+        <source>The pages of this dialog. A diamond marks each page with changed settings.</source>
+        <translation>Le pagine di questa finestra di dialogo. Un rombo indica quelle con impostazioni modificate.</translation>
     </message>
     <message>
-        <source>Closes this window. What has not been sent by then is not printed.</source>
-        <translation>Chiude questa finestra. Quel che non è ancora stato inviato non viene stampato.</translation>
+        <source>Closes this window. Nothing more is sent to the printer.</source>
+        <translation>Chiude questa finestra. Alla stampante non viene inviato altro.</translation>
     </message>
     <message>
         <source>Sends the document to the printer with the settings of all pages.</source>
         <translation>Invia il documento alla stampante con le impostazioni di tutte le pagine.</translation>
     </message>
     <message>
-        <source>Stops the job. Pages that have been printed by then are there.</source>
-        <translation>Ferma il lavoro. Le pagine già stampate restano nella stampante.</translation>
+        <source>Cancels the job. Pages that are printed already remain in the printer.</source>
+        <translation>Annulla il lavoro. Le pagine già stampate restano nella stampante.</translation>
     </message>
     <message>
-        <source>Lets the job wait at the print server until you release it.</source>
-        <translation>Fa attendere il lavoro sul server di stampa finché non viene rilasciato.</translation>
+        <source>Keeps the job at the print server until you release it.</source>
+        <translation>Tiene il lavoro in attesa sul server di stampa finché non viene rilasciato.</translation>
     </message>
     <message>
-        <source>Sends the same documents once more with the same settings.</source>
-        <translation>Invia ancora una volta gli stessi documenti con le stesse impostazioni.</translation>
+        <source>Sends the same documents again with the same settings.</source>
+        <translation>Invia di nuovo gli stessi documenti con le stesse impostazioni.</translation>
     </message>
     <message>
-        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
-        <translation>Il nome con cui le impostazioni sono conservate. Anche altri programmi le offrono con questo nome.</translation>
+        <source>The name of the preset. Other programs offer the preset under this name as well.</source>
+        <translation>Il nome della preimpostazione. Anche altri programmi la offrono con questo nome.</translation>
     </message>
     <message>
-        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
-        <translation>Conserva ciò che altrimenti viene chiesto ogni volta. Da evitare dove altri usano questo computer.</translation>
+        <source>Saves passwords and codes with the preset, so that you need not enter them each time. Do not use this on a computer that you share with others.</source>
+        <translation>Salva le password e i codici con la preimpostazione, così non occorre immetterli ogni volta. Da evitare su un computer condiviso con altri.</translation>
     </message>
     <message>
-        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
-        <translation>Conserva con il nome le impostazioni di tutte le pagine. Quelle di una preimpostazione che lo ha già vengono sostituite.</translation>
+        <source>Saves the settings of all pages as a preset. A preset of the same name is replaced.</source>
+        <translation>Salva le impostazioni di tutte le pagine come preimpostazione. Una preimpostazione con lo stesso nome viene sostituita.</translation>
     </message>
     <message>
-        <source>Gives the preset this name, also in other programs.</source>
-        <translation>Dà questo nome alla preimpostazione, anche negli altri programmi.</translation>
+        <source>Renames the preset, in other programs as well.</source>
+        <translation>Rinomina la preimpostazione, anche negli altri programmi.</translation>
     </message>
     <message>
-        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
-        <translation>Elimina la preimpostazione, anche dagli altri programmi. Ciò che è impostato in questa finestra resta com’è.</translation>
+        <source>Deletes the preset, in other programs as well. The current settings do not change.</source>
+        <translation>Elimina la preimpostazione, anche negli altri programmi. Le impostazioni attuali non cambiano.</translation>
     </message>
     <message>
-        <source>Closes this question. The presets stay as they are.</source>
-        <translation>Chiude questa domanda. Le preimpostazioni restano come sono.</translation>
+        <source>Closes this dialog without changing any preset.</source>
+        <translation>Chiude questa finestra di dialogo senza modificare le preimpostazioni.</translation>
     </message>
     <message>
-        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
-        <translation>Il nome con cui il server di stampa la conosce. Può essere diverso da quello su questo computer.</translation>
+        <source>Your user name on the print server. It may differ from your user name on this computer.</source>
+        <translation>Il nome utente sul server di stampa. Può essere diverso da quello su questo computer.</translation>
     </message>
     <message>
-        <source>The password that belongs to the user name on the print server.</source>
-        <translation>La password che corrisponde al nome utente sul server di stampa.</translation>
+        <source>Your password on the print server.</source>
+        <translation>La password sul server di stampa.</translation>
     </message>
     <message>
-        <source>Tells the print server who you are.</source>
-        <translation>Comunica al server di stampa chi è lei.</translation>
+        <source>Logs in to the print server.</source>
+        <translation>Esegue l’accesso al server di stampa.</translation>
     </message>
     <message>
-        <source>Goes on without. The print server may refuse what it asked the password for.</source>
-        <translation>Continua senza. Il server di stampa può rifiutare ciò per cui ha chiesto la password.</translation>
+        <source>Continues without a password. The print server may then refuse the request.</source>
+        <translation>Continua senza password. Il server di stampa può allora rifiutare la richiesta.</translation>
     </message>
     <message>
-        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
-        <translation>Omette ciò che è come nella stampante o nella preimpostazione e indica com’era prima il resto.</translation>
+        <source>Shows only the settings that differ from the printer’s defaults or the preset, with their previous values.</source>
+        <translation>Mostra solo le impostazioni diverse da quelle della stampante o della preimpostazione, con i valori precedenti.</translation>
     </message>
     <message>
-        <source>What this printer offers beside the other pages, in the words of its maker.</source>
-        <translation>Ciò che questa stampante offre oltre alle altre pagine, con le parole del produttore.</translation>
+        <source>Further options of this printer, with the names that its manufacturer gave them.</source>
+        <translation>Altre opzioni di questa stampante, con i nomi dati dal produttore.</translation>
     </message>
     <message>
-        <source>Stops what is under way. Nothing that you have set is lost.</source>
-        <translation>Interrompe ciò che è in corso. Nulla di ciò che ha impostato va perso.</translation>
+        <source>Stops waiting. Your settings are kept.</source>
+        <translation>Interrompe l’attesa. Le impostazioni vengono mantenute.</translation>
     </message>
     <message>
-        <source>Asks the printer or the print server anew.</source>
+        <source>Asks the printer or the print server again.</source>
         <translation>Interroga di nuovo la stampante o il server di stampa.</translation>
     </message>
     <message>
@@ -551,12 +551,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Torna alle impostazioni.</translation>
     </message>
     <message>
-        <source>Looks for a setting on all pages by its name.</source>
+        <source>Finds a setting on any page by its name.</source>
         <translation>Cerca un’impostazione per nome in tutte le pagine.</translation>
     </message>
     <message>
-        <source>Shows what the settings of this page are for.</source>
-        <translation>Mostra a che cosa servono le impostazioni di questa pagina.</translation>
+        <source>Explains the settings of this page.</source>
+        <translation>Spiega le impostazioni di questa pagina.</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed in color or in black and white.</source>
+        <translation>Stampa delle pagine a colori o in bianco e nero.</translation>
     </message>
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
@@ -744,8 +748,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Orientamento</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Dimensioni</translation>
+        <source>Scaling</source>
+        <translation>Scala</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -757,11 +761,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>On</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1300,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>State not known</source>
         <translation>Stato sconosciuto</translation>
     </message>
+    <message>
+        <source>%1: level not known</source>
+        <comment>a toner</comment>
+        <translation>%1: livello sconosciuto</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <comment>a toner and its level</comment>
+        <translation>%1: %2%</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1582,11 +1596,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>On</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -1603,6 +1617,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Selection</source>
         <translation>Selezione</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Altre opzioni</translation>
     </message>
 </context>
 <context>
@@ -1821,7 +1839,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>&amp;Copie:</translation>
     </message>
     <message>
-        <source>Print each copy whole before the next one begins</source>
+        <source>Print each complete copy before the next one</source>
         <translation>Stampare ogni copia per intero prima di iniziare la successiva</translation>
     </message>
     <message>
@@ -1841,8 +1859,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Pagine:</translation>
     </message>
     <message>
-        <source>Type which pages are to be printed, or choose all.</source>
-        <translation>Digitare le pagine da stampare oppure sceglierle tutte.</translation>
+        <source>Enter the pages to print, or choose all pages.</source>
+        <translation>Immettere le pagine da stampare oppure sceglierle tutte.</translation>
     </message>
     <message>
         <source>Documents:</source>
@@ -1853,8 +1871,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Salva come PDF…</translation>
     </message>
     <message>
-        <source>Write the pages into a file instead of printing them</source>
-        <translation>Scrivere le pagine in un file invece di stamparle</translation>
+        <source>Save the pages to a file instead of printing them</source>
+        <translation>Salvare le pagine in un file invece di stamparle</translation>
     </message>
     <message>
         <source>Current page</source>
@@ -1865,12 +1883,20 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Selezione</translation>
     </message>
     <message>
-        <source>The numbers count printed sides, each with %1 pages.</source>
-        <translation>I numeri contano le facciate stampate, ognuna con %1 pagine.</translation>
+        <source>The numbers refer to printed sides with %1 pages each.</source>
+        <translation>I numeri si riferiscono alle facciate stampate, con %1 pagine ciascuna.</translation>
     </message>
     <message>
         <source>Choose at least one document.</source>
         <translation>Scegliere almeno un documento.</translation>
+    </message>
+    <message>
+        <source>Preview…</source>
+        <translation>Anteprima…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Mostrare le pagine in una finestra a parte</translation>
     </message>
 </context>
 <context>
@@ -1880,9 +1906,9 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Per usarlo devono cambiare altre impostazioni:</translation>
     </message>
     <message>
-        <source>%1 instead of “%2”</source>
+        <source>“%1” instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 invece di «%2»</translation>
+        <translation>«%1» invece di «%2»</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
@@ -1921,16 +1947,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Find…</source>
-        <translation>Cerca…</translation>
+        <source>&amp;Find…</source>
+        <translation>Cerc&amp;a…</translation>
     </message>
     <message>
         <source>Find a setting</source>
         <translation>Cerca un’impostazione</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>Aiuto</translation>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;uto</translation>
     </message>
     <message>
         <source>Help on this page</source>
@@ -1990,8 +2016,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Orientamento:</translation>
     </message>
     <message>
-        <source>Size:</source>
-        <translation>Dimensioni:</translation>
+        <source>Scaling:</source>
+        <translation>Scala:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
@@ -2036,8 +2062,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>host::LinkLabel</name>
     <message>
-        <source>Shows the control of this setting</source>
-        <translation>Mostra il controllo di questa impostazione</translation>
+        <source>Go to this setting</source>
+        <translation>Vai a questa impostazione</translation>
     </message>
 </context>
 <context>
@@ -2107,7 +2133,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>“%1” cannot be printed: %2.</source>
-        <translation>“%1” non può essere stampato: %2.</translation>
+        <translation>Impossibile stampare «%1»: %2.</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>
@@ -2341,8 +2367,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>host::PrintWindow</name>
     <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
+        <source>Cance&amp;l</source>
+        <translation>Annu&amp;lla</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -2419,8 +2445,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Stampante</translation>
     </message>
     <message>
-        <source>&amp;Printer:</source>
-        <translation>Stam&amp;pante:</translation>
+        <source>Pri&amp;nter:</source>
+        <translation>Sta&amp;mpante:</translation>
     </message>
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
@@ -2429,21 +2455,33 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 </context>
 <context>
     <name>host::RangeCheck</name>
-    <message>
-        <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>Il documento più lungo, «%1», ha solo %2 facciate stampate.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n printed sides.</source>
+        <translation>
+            <numerusform>Il documento più lungo, «%1», ha solo %n facciata stampata.</numerusform>
+            <numerusform>Il documento più lungo, «%1», ha solo %n facciate stampate.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>Il documento più lungo, «%1», ha solo %2 pagine.</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n pages.</source>
+        <translation>
+            <numerusform>Il documento più lungo, «%1», ha solo %n pagina.</numerusform>
+            <numerusform>Il documento più lungo, «%1», ha solo %n pagine.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>Ci sono solo %1 facciate stampate.</translation>
+    <message numerus="yes">
+        <source>There are only %n printed sides.</source>
+        <translation>
+            <numerusform>C’è solo %n facciata stampata.</numerusform>
+            <numerusform>Ci sono solo %n facciate stampate.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>Il documento ha solo %1 pagine.</translation>
+    <message numerus="yes">
+        <source>The document has only %n pages.</source>
+        <translation>
+            <numerusform>Il documento ha solo %n pagina.</numerusform>
+            <numerusform>Il documento ha solo %n pagine.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2520,8 +2558,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Lavoro %1: %2</translation>
     </message>
     <message>
-        <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>Un lavoro riservato viene stampato dopo averne immesso il codice sulla stampante «%1».</translation>
+        <source>A private job is printed once you enter its password at the printer “%1”.</source>
+        <translation>Un lavoro riservato viene stampato dopo averne immesso la password sulla stampante «%1».</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2559,8 +2597,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Cerca un’impostazione</translation>
     </message>
     <message>
-        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
-        <translation>Digitare ciò che si cerca, con parole proprie o come lo chiama il driver della stampante. Invio porta all’impostazione.</translation>
+        <source>Type the name of a setting, in your own words or as the printer driver has it. Press Return to go to the setting.</source>
+        <translation>Digitare il nome di un’impostazione, con parole proprie o come figura nel driver della stampante. Premere Invio per andare all’impostazione.</translation>
     </message>
     <message>
         <source>Nothing found</source>
@@ -2575,19 +2613,19 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Impostazioni trovate</translation>
     </message>
     <message numerus="yes">
-        <source>%n setting(s) found</source>
+        <source>%n settings found</source>
         <translation>
             <numerusform>%n impostazione trovata</numerusform>
             <numerusform>%n impostazioni trovate</numerusform>
         </translation>
     </message>
     <message>
-        <source>Takes the search away. The settings stay as they are.</source>
-        <translation>Chiude la ricerca. Le impostazioni restano come sono.</translation>
+        <source>Closes the search. The settings do not change.</source>
+        <translation>Chiude la ricerca. Le impostazioni non cambiano.</translation>
     </message>
     <message>
-        <source>What has been found, with its page first. Return leads to the setting.</source>
-        <translation>Ciò che è stato trovato, con la pagina per prima. Invio porta all’impostazione.</translation>
+        <source>The settings that were found, each with its page. Press Return to go to the setting.</source>
+        <translation>Le impostazioni trovate, ognuna con la sua pagina. Premere Invio per andare all’impostazione.</translation>
     </message>
 </context>
 <context>
@@ -2661,8 +2699,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>%1 (con modifiche)</translation>
     </message>
     <message>
-        <source>Settings: %1</source>
-        <translation>Impostazioni: %1</translation>
+        <source>&amp;Settings: %1</source>
+        <translation>Im&amp;postazioni: %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
@@ -2774,6 +2812,47 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Title:</source>
         <translation>Titolo:</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n foglio</numerusform>
+            <numerusform>%n fogli</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n facciata</numerusform>
+            <numerusform>%n facciate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>bianco e nero</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>a colori</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 </TS>

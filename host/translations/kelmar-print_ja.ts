@@ -375,175 +375,175 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>Explanation</name>
     <message>
-        <source>How many times the document is printed.</source>
-        <translation>文書を印刷する部数です。</translation>
+        <source>The number of copies to print.</source>
+        <translation>印刷する部数です。</translation>
     </message>
     <message>
-        <source>Prints each copy whole before the next one begins, so that nobody has to sort the pages.</source>
-        <translation>1 部ずつ最後まで印刷してから次の部を印刷します。ページを並べ替える手間が省けます。</translation>
+        <source>Prints each complete copy before the next one, so that the pages need no sorting.</source>
+        <translation>1 部ずつ最後のページまで印刷するので、ページを並べ替える必要がありません。</translation>
     </message>
     <message>
-        <source>Which pages are printed. List single pages and ranges with commas between them, such as 1-3, 8.</source>
-        <translation>印刷するページです。ページ番号や範囲をコンマで区切って指定します (例: 1-3, 8)。</translation>
+        <source>The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.</source>
+        <translation>印刷するページです。ページやページ範囲はコンマで区切ります (例: 1-3, 8)。</translation>
     </message>
     <message>
-        <source>The size of the paper that the pages are printed on. It has to be in one of the printer’s trays.</source>
-        <translation>印刷する用紙のサイズです。プリンターのいずれかのトレイにセットされている必要があります。</translation>
+        <source>The size of the paper to print on. Paper of this size must be loaded in one of the printer’s trays.</source>
+        <translation>印刷に使う用紙のサイズです。このサイズの用紙がプリンターのトレイのどれかに入っている必要があります。</translation>
     </message>
     <message>
-        <source>What the paper is like. The printer feeds and heats heavy or coated paper differently.</source>
-        <translation>用紙の種類です。厚紙やコート紙では、給紙方法や定着温度が変わります。</translation>
+        <source>The type of paper. The printer feeds and heats heavy or coated paper differently.</source>
+        <translation>用紙の種類です。厚紙やコート紙では、給紙と加熱のしかたが変わります。</translation>
     </message>
     <message>
         <source>The tray that the paper is taken from.</source>
         <translation>用紙を給紙するトレイです。</translation>
     </message>
     <message>
-        <source>Prints on both sides of the paper. The long edge is for pages that are turned like a book, the short edge for those turned like a calendar.</source>
-        <translation>用紙の両面に印刷します。本のようにめくる場合は長辺とじ、カレンダーのようにめくる場合は短辺とじを選びます。</translation>
+        <source>Prints on both sides of the paper. Choose the long edge for pages that turn like those of a book, the short edge for pages that turn like those of a wall calendar.</source>
+        <translation>用紙の両面に印刷します。本のようにめくるときは長辺、壁掛けカレンダーのようにめくるときは短辺を選びます。</translation>
     </message>
     <message>
-        <source>How many pages of the document are put on one side of the paper. They are made smaller to fit.</source>
-        <translation>用紙の 1 面に置く文書のページ数です。収まるように縮小されます。</translation>
+        <source>The number of document pages on one side of the paper. The pages are scaled down to fit.</source>
+        <translation>用紙の片面に配置するページ数です。ページは収まるように縮小されます。</translation>
     </message>
     <message>
-        <source>In which order the pages lie when several are put on one side.</source>
-        <translation>1 面に複数のページを置くときの並び順です。</translation>
+        <source>The order in which several pages are arranged on one side.</source>
+        <translation>片面に複数のページを配置するときの並び順です。</translation>
     </message>
     <message>
         <source>A line around each page on the paper.</source>
         <translation>用紙上の各ページを囲む線です。</translation>
     </message>
     <message>
-        <source>Whether the pages are printed upright or sideways. “As in the document” leaves that to the document.</source>
-        <translation>ページを縦に印刷するか横に印刷するかを選びます。「文書のとおり」では文書に従います。</translation>
+        <source>Prints the pages upright or sideways. “As in the document” keeps the orientation of each page.</source>
+        <translation>ページを縦または横に印刷します。「文書のとおり」では各ページの向きを保ちます。</translation>
     </message>
     <message>
-        <source>Whether pages are made larger or smaller until they fit the paper, or keep their size. What does not fit at that size is cut off.</source>
-        <translation>ページを用紙に合うように拡大または縮小するか、元の大きさのままにするかを選びます。元の大きさで収まらない部分は切れます。</translation>
+        <source>Scales the pages to fit the paper, or keeps their size. At actual size, whatever does not fit on the paper is cut off.</source>
+        <translation>ページを用紙に合わせて拡大・縮小するか、元のサイズのまま印刷します。実際のサイズでは、用紙に収まらない部分は切れます。</translation>
     </message>
     <message>
-        <source>Prints every other page only, such as to print on both sides by hand: first the odd pages, then the even ones.</source>
-        <translation>1 ページおきに印刷します。たとえば手差しで両面に印刷するときは、先に奇数ページ、次に偶数ページを印刷します。</translation>
+        <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
+        <translation>1 ページおきに印刷します。たとえば手動で両面に印刷するときは、先に奇数ページ、次に偶数ページを印刷します。</translation>
     </message>
     <message>
-        <source>Prints from the end, so that the pages lie in order where the printer puts each face up on the one before.</source>
-        <translation>最後のページから印刷します。印刷面を上にして重ねるプリンターで、ページが順番どおりになります。</translation>
+        <source>Prints the last page first, so that the pages are in order when the printer stacks them face up.</source>
+        <translation>最後のページから印刷します。印刷面を上にして排紙されるとき、ページが順番に並びます。</translation>
     </message>
     <message>
         <source>Prints the whole document.</source>
         <translation>文書全体を印刷します。</translation>
     </message>
     <message>
-        <source>Prints only the page that the program shows.</source>
-        <translation>プログラムが表示しているページだけを印刷します。</translation>
+        <source>Prints only the page that the application shows.</source>
+        <translation>アプリケーションに表示されているページだけを印刷します。</translation>
     </message>
     <message>
-        <source>Prints only what is selected in the program.</source>
-        <translation>プログラムで選択されている部分だけを印刷します。</translation>
+        <source>Prints only what is selected in the application.</source>
+        <translation>アプリケーションで選択されている部分だけを印刷します。</translation>
     </message>
     <message>
-        <source>The files that are printed, in this order. A file without a check mark is left out.</source>
-        <translation>この順に印刷されるファイルです。チェックのないファイルは除かれます。</translation>
+        <source>The files to print, in this order. Clear the check box of a file to leave it out.</source>
+        <translation>印刷するファイルです。この順に印刷されます。印刷しないファイルはチェックを外します。</translation>
     </message>
     <message>
-        <source>Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.</source>
-        <translation>印刷されるとおりのページを PDF ファイルに書き出します。プリンターには何も送られません。</translation>
+        <source>Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.</source>
+        <translation>印刷されるとおりのページを PDF ファイルに保存します。プリンターには何も送信されません。</translation>
     </message>
     <message>
-        <source>What comes out of the printer, as far as it is known here. Choose a small page to see it large.</source>
-        <translation>ここで分かる範囲での印刷結果です。小さいページを選ぶと大きく表示されます。</translation>
+        <source>Shows the pages as they will be printed. Select a thumbnail to show its page.</source>
+        <translation>印刷されるとおりにページを表示します。縮小版を選ぶと、そのページが表示されます。</translation>
     </message>
     <message>
-        <source>A choice of your own. The line below it says what the printer takes.</source>
-        <translation>独自の値です。プリンターが受け付ける値は下の行に表示されます。</translation>
+        <source>A value that you enter yourself. The line below shows what the printer accepts.</source>
+        <translation>値を自分で入力します。プリンターで使える値は下の行に示されます。</translation>
     </message>
     <message>
-        <source>The printer that the document is sent to. Its list can be searched for a name or a place.</source>
-        <translation>文書を送るプリンターです。一覧では名前や場所で検索できます。</translation>
+        <source>The printer that the document is sent to. You can search the list by name or location.</source>
+        <translation>文書の送信先のプリンターです。一覧では名前や場所で検索できます。</translation>
     </message>
     <message>
-        <source>Settings kept under a name, those used last, and the printer’s own. Choose them here, or keep those of now.</source>
-        <translation>名前を付けて保存した設定、前回使った設定、プリンターの設定です。ここで選ぶか、今の設定を保存します。</translation>
+        <source>Applies a preset, the settings used last or the printer’s defaults, and saves the current settings as a preset.</source>
+        <translation>プリセット、前回使った設定、プリンターの既定値を適用したり、現在の設定をプリセットとして保存したりします。</translation>
     </message>
     <message>
-        <source>The pages of this dialog. A diamond marks those on which something has been changed.</source>
-        <translation>このダイアログのページです。何かが変更されたページにはひし形が付きます。</translation>
+        <source>The pages of this dialog. A diamond marks each page with changed settings.</source>
+        <translation>このダイアログのページです。ひし形は、設定が変更されたページを示します。</translation>
     </message>
     <message>
-        <source>Closes this window. What has not been sent by then is not printed.</source>
-        <translation>このウィンドウを閉じます。まだ送られていないものは印刷されません。</translation>
+        <source>Closes this window. Nothing more is sent to the printer.</source>
+        <translation>このウィンドウを閉じます。プリンターにはこれ以上何も送信されません。</translation>
     </message>
     <message>
         <source>Sends the document to the printer with the settings of all pages.</source>
         <translation>すべてのページの設定で文書をプリンターに送ります。</translation>
     </message>
     <message>
-        <source>Stops the job. Pages that have been printed by then are there.</source>
-        <translation>ジョブを中止します。それまでに印刷されたページはプリンターに残ります。</translation>
+        <source>Cancels the job. Pages that are printed already remain in the printer.</source>
+        <translation>ジョブをキャンセルします。すでに印刷されたページはプリンターに残ります。</translation>
     </message>
     <message>
-        <source>Lets the job wait at the print server until you release it.</source>
-        <translation>解除するまでジョブをプリントサーバーで待たせます。</translation>
+        <source>Keeps the job at the print server until you release it.</source>
+        <translation>解除するまで、ジョブをプリントサーバーで保留します。</translation>
     </message>
     <message>
-        <source>Sends the same documents once more with the same settings.</source>
-        <translation>同じ文書を同じ設定でもう一度送ります。</translation>
+        <source>Sends the same documents again with the same settings.</source>
+        <translation>同じ文書を同じ設定でもう一度送信します。</translation>
     </message>
     <message>
-        <source>What the settings are kept under. Other programs offer them under this name as well.</source>
-        <translation>設定を保存する名前です。ほかのプログラムでもこの名前で表示されます。</translation>
+        <source>The name of the preset. Other programs offer the preset under this name as well.</source>
+        <translation>プリセットの名前です。ほかのプログラムでもこの名前で選べます。</translation>
     </message>
     <message>
-        <source>Keeps what is otherwise asked for anew each time. Leave it out where others use this computer.</source>
-        <translation>通常は毎回入力する内容を保存します。ほかの人もこのコンピューターを使う場合は使用しないでください。</translation>
+        <source>Saves passwords and codes with the preset, so that you need not enter them each time. Do not use this on a computer that you share with others.</source>
+        <translation>パスワードとコードをプリセットと一緒に保存し、毎回の入力を省きます。ほかの人と共有するコンピューターでは使わないでください。</translation>
     </message>
     <message>
-        <source>Keeps the settings of all pages under the name. Those of a preset that has it already are replaced.</source>
-        <translation>すべてのページの設定をこの名前で保存します。同じ名前のプリセットがある場合は置き換えられます。</translation>
+        <source>Saves the settings of all pages as a preset. A preset of the same name is replaced.</source>
+        <translation>すべてのページの設定をプリセットとして保存します。同じ名前のプリセットは置き換えられます。</translation>
     </message>
     <message>
-        <source>Gives the preset this name, also in other programs.</source>
-        <translation>プリセットをこの名前に変更します。ほかのプログラムでも同じです。</translation>
+        <source>Renames the preset, in other programs as well.</source>
+        <translation>プリセットの名前を変更します。ほかのプログラムでも変わります。</translation>
     </message>
     <message>
-        <source>Takes the preset away, also from other programs. What is set in this dialog stays as it is.</source>
-        <translation>プリセットを削除します。ほかのプログラムでも使えなくなります。このダイアログの設定はそのまま残ります。</translation>
+        <source>Deletes the preset, in other programs as well. The current settings do not change.</source>
+        <translation>プリセットを削除します。ほかのプログラムからも削除されます。現在の設定は変わりません。</translation>
     </message>
     <message>
-        <source>Closes this question. The presets stay as they are.</source>
-        <translation>この確認を閉じます。プリセットはそのまま残ります。</translation>
+        <source>Closes this dialog without changing any preset.</source>
+        <translation>プリセットを変更せずにこのダイアログを閉じます。</translation>
     </message>
     <message>
-        <source>The name that the print server knows you by. It may be another than the one on this computer.</source>
-        <translation>プリントサーバーに登録されているユーザー名です。このコンピューターのユーザー名とは異なる場合があります。</translation>
+        <source>Your user name on the print server. It may differ from your user name on this computer.</source>
+        <translation>プリントサーバーでのユーザー名です。このコンピューターのユーザー名と異なることがあります。</translation>
     </message>
     <message>
-        <source>The password that belongs to the user name on the print server.</source>
-        <translation>プリントサーバーでこのユーザー名に設定されているパスワードです。</translation>
+        <source>Your password on the print server.</source>
+        <translation>プリントサーバーでのパスワードです。</translation>
     </message>
     <message>
-        <source>Tells the print server who you are.</source>
-        <translation>プリントサーバーにユーザー名とパスワードを送ります。</translation>
+        <source>Logs in to the print server.</source>
+        <translation>プリントサーバーにログインします。</translation>
     </message>
     <message>
-        <source>Goes on without. The print server may refuse what it asked the password for.</source>
-        <translation>入力せずに続けます。プリントサーバーが、パスワードを必要とする操作を拒否することがあります。</translation>
+        <source>Continues without a password. The print server may then refuse the request.</source>
+        <translation>パスワードなしで続けます。プリントサーバーに要求を拒否されることがあります。</translation>
     </message>
     <message>
-        <source>Leaves out what stands as the printer or the preset has it, and tells what the rest was before.</source>
-        <translation>プリンターやプリセットの設定と同じものを省き、変更した設定の元の値を表示します。</translation>
+        <source>Shows only the settings that differ from the printer’s defaults or the preset, with their previous values.</source>
+        <translation>プリンターの既定値またはプリセットと異なる設定だけを、変更前の値とともに表示します。</translation>
     </message>
     <message>
-        <source>What this printer offers beside the other pages, in the words of its maker.</source>
-        <translation>ほかのページにない、このプリンターの設定です。名称は製造元によるものです。</translation>
+        <source>Further options of this printer, with the names that its manufacturer gave them.</source>
+        <translation>このプリンターのその他のオプションです。名称は製造元によるものです。</translation>
     </message>
     <message>
-        <source>Stops what is under way. Nothing that you have set is lost.</source>
-        <translation>実行中の処理を中止します。設定した内容は失われません。</translation>
+        <source>Stops waiting. Your settings are kept.</source>
+        <translation>待つのをやめます。設定はそのまま残ります。</translation>
     </message>
     <message>
-        <source>Asks the printer or the print server anew.</source>
+        <source>Asks the printer or the print server again.</source>
         <translation>プリンターまたはプリントサーバーにもう一度問い合わせます。</translation>
     </message>
     <message>
@@ -551,12 +551,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>設定に戻ります。</translation>
     </message>
     <message>
-        <source>Looks for a setting on all pages by its name.</source>
+        <source>Finds a setting on any page by its name.</source>
         <translation>すべてのページから設定を名前で検索します。</translation>
     </message>
     <message>
-        <source>Shows what the settings of this page are for.</source>
-        <translation>このページの設定の説明を表示します。</translation>
+        <source>Explains the settings of this page.</source>
+        <translation>このページの設定について説明します。</translation>
+    </message>
+    <message>
+        <source>Whether the pages are printed in color or in black and white.</source>
+        <translation>ページをカラーで印刷するか白黒で印刷するかを選びます。</translation>
     </message>
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
@@ -744,8 +748,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>向き</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>サイズ調整</translation>
+        <source>Scaling</source>
+        <translation>拡大/縮小</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -1296,6 +1300,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>State not known</source>
         <translation>状態不明</translation>
     </message>
+    <message>
+        <source>%1: level not known</source>
+        <comment>a toner</comment>
+        <translation>%1: 残量不明</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <comment>a toner and its level</comment>
+        <translation>%1 %2%</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1604,6 +1618,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Selection</source>
         <translation>選択範囲</translation>
     </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -1821,8 +1839,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>部数</translation>
     </message>
     <message>
-        <source>Print each copy whole before the next one begins</source>
-        <translation>1 部ずつ最後まで印刷してから次の部を印刷します</translation>
+        <source>Print each complete copy before the next one</source>
+        <translation>1 部ずつ最後のページまで印刷します</translation>
     </message>
     <message>
         <source>for example 1-3, 8</source>
@@ -1837,8 +1855,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ページ:</translation>
     </message>
     <message>
-        <source>Type which pages are to be printed, or choose all.</source>
-        <translation>印刷するページを入力するか、「すべて」を選んでください。</translation>
+        <source>Enter the pages to print, or choose all pages.</source>
+        <translation>印刷するページを入力するか、すべてのページを選んでください。</translation>
     </message>
     <message>
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
@@ -1853,8 +1871,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>PDF として保存…</translation>
     </message>
     <message>
-        <source>Write the pages into a file instead of printing them</source>
-        <translation>ページを印刷せずにファイルに書き出します</translation>
+        <source>Save the pages to a file instead of printing them</source>
+        <translation>印刷する代わりにページをファイルに保存します</translation>
     </message>
     <message>
         <source>Current page</source>
@@ -1865,12 +1883,20 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>選択範囲</translation>
     </message>
     <message>
-        <source>The numbers count printed sides, each with %1 pages.</source>
-        <translation>番号は印刷面の番号です (1 面に %1 ページ)。</translation>
+        <source>The numbers refer to printed sides with %1 pages each.</source>
+        <translation>番号は、%1 ページずつ配置された印刷面の番号です。</translation>
     </message>
     <message>
         <source>Choose at least one document.</source>
         <translation>文書を 1 つ以上選んでください。</translation>
+    </message>
+    <message>
+        <source>Preview…</source>
+        <translation>プレビュー…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>ページを別のウィンドウに表示します</translation>
     </message>
 </context>
 <context>
@@ -1880,9 +1906,9 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>使用するには、ほかの設定の変更が必要です:</translation>
     </message>
     <message>
-        <source>%1 instead of “%2”</source>
+        <source>“%1” instead of “%2”</source>
         <comment>an option with its choice, and another choice</comment>
-        <translation>%1 (現在は「%2」)</translation>
+        <translation>「%1」(現在は「%2」)</translation>
     </message>
     <message>
         <source>This gives up “%1”, which protects your document.</source>
@@ -1921,16 +1947,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>Find…</source>
-        <translation>検索…</translation>
+        <source>&amp;Find…</source>
+        <translation>検索(&amp;F)…</translation>
     </message>
     <message>
         <source>Find a setting</source>
         <translation>設定を検索</translation>
     </message>
     <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Help on this page</source>
@@ -1990,8 +2016,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>向き:</translation>
     </message>
     <message>
-        <source>Size:</source>
-        <translation>サイズ調整:</translation>
+        <source>Scaling:</source>
+        <translation>拡大/縮小:</translation>
     </message>
     <message>
         <source>Odd or even:</source>
@@ -2036,8 +2062,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>host::LinkLabel</name>
     <message>
-        <source>Shows the control of this setting</source>
-        <translation>この設定の項目を表示します</translation>
+        <source>Go to this setting</source>
+        <translation>この設定に移動します</translation>
     </message>
 </context>
 <context>
@@ -2341,8 +2367,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>host::PrintWindow</name>
     <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <source>Cance&amp;l</source>
+        <translation>キャンセル(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -2419,7 +2445,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンター</translation>
     </message>
     <message>
-        <source>&amp;Printer:</source>
+        <source>Pri&amp;nter:</source>
         <translation>プリンター(&amp;N):</translation>
     </message>
     <message>
@@ -2429,21 +2455,29 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 </context>
 <context>
     <name>host::RangeCheck</name>
-    <message>
-        <source>The longest document, “%1”, has only %2 printed sides.</source>
-        <translation>最も長い文書「%1」の印刷面は %2 面しかありません。</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n printed sides.</source>
+        <translation>
+            <numerusform>最も長い文書「%1」の印刷面は %n 面だけです。</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The longest document, “%1”, has only %2 pages.</source>
-        <translation>最も長い文書「%1」は %2 ページしかありません。</translation>
+    <message numerus="yes">
+        <source>The longest document, “%1”, has only %n pages.</source>
+        <translation>
+            <numerusform>最も長い文書「%1」は %n ページだけです。</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>There are only %1 printed sides.</source>
-        <translation>印刷面は %1 面しかありません。</translation>
+    <message numerus="yes">
+        <source>There are only %n printed sides.</source>
+        <translation>
+            <numerusform>印刷面は %n 面だけです。</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>The document has only %1 pages.</source>
-        <translation>文書は %1 ページしかありません。</translation>
+    <message numerus="yes">
+        <source>The document has only %n pages.</source>
+        <translation>
+            <numerusform>文書は %n ページだけです。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2520,8 +2554,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>「%1」に送信した可能性があります</translation>
     </message>
     <message>
-        <source>A private job is printed once you enter its code at the printer “%1”.</source>
-        <translation>プライベート印刷のジョブは、プリンター「%1」でコードを入力すると印刷されます。</translation>
+        <source>A private job is printed once you enter its password at the printer “%1”.</source>
+        <translation>プライベート印刷のジョブは、プリンター「%1」でパスワードを入力すると印刷されます。</translation>
     </message>
     <message>
         <source>Cancel &amp;Job</source>
@@ -2559,8 +2593,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>設定を検索</translation>
     </message>
     <message>
-        <source>Type what you look for, in your words or as the printer’s driver calls it. Return leads to the setting.</source>
-        <translation>探したい設定を、普段の言葉またはプリンタードライバーでの名称で入力してください。Return キーで設定に移動します。</translation>
+        <source>Type the name of a setting, in your own words or as the printer driver has it. Press Return to go to the setting.</source>
+        <translation>設定の名前を入力します。自分の言葉でも、プリンタードライバーでの名称でもかまいません。Enter キーを押すとその設定に移動します。</translation>
     </message>
     <message>
         <source>Nothing found</source>
@@ -2575,18 +2609,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>見つかった設定</translation>
     </message>
     <message numerus="yes">
-        <source>%n setting(s) found</source>
+        <source>%n settings found</source>
         <translation>
             <numerusform>%n 個の設定が見つかりました</numerusform>
         </translation>
     </message>
     <message>
-        <source>Takes the search away. The settings stay as they are.</source>
-        <translation>検索を閉じます。設定はそのまま残ります。</translation>
+        <source>Closes the search. The settings do not change.</source>
+        <translation>検索を閉じます。設定は変わりません。</translation>
     </message>
     <message>
-        <source>What has been found, with its page first. Return leads to the setting.</source>
-        <translation>見つかった設定です。ページ名、設定名の順に表示します。Enter キーで設定へ移動します。</translation>
+        <source>The settings that were found, each with its page. Press Return to go to the setting.</source>
+        <translation>見つかった設定とそのページです。Enter キーを押すとその設定に移動します。</translation>
     </message>
 </context>
 <context>
@@ -2660,8 +2694,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1 (変更あり)</translation>
     </message>
     <message>
-        <source>Settings: %1</source>
-        <translation>設定: %1</translation>
+        <source>&amp;Settings: %1</source>
+        <translation>設定(&amp;S): %1</translation>
     </message>
     <message>
         <source>Save “%1”</source>
@@ -2773,6 +2807,45 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Title:</source>
         <translation>タイトル:</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>用紙 %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n 面</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
     </message>
 </context>
 </TS>

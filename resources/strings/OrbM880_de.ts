@@ -4,11 +4,11 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
+        <source>Color &amp;Mode:</source>
         <translation>Farb&amp;modus:</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Color Mode</source>
         <translation>Farbmodus</translation>
     </message>
     <message>
@@ -40,7 +40,7 @@
         <translation>Wie Farbtöne aus Punkten entstehen</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
+        <source>Toner &amp;Save</source>
         <translation>Toner &amp;sparen</translation>
     </message>
     <message>
@@ -48,11 +48,11 @@
         <translation>Druckt blasser und verbraucht weniger Toner</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
+        <source>&amp;Image Type:</source>
         <translation>&amp;Bildtyp:</translation>
     </message>
     <message>
-        <source>Image type</source>
+        <source>Image Type</source>
         <translation>Bildtyp</translation>
     </message>
     <message>
@@ -68,11 +68,11 @@
         <translation>Die Farbprofile des Druckers</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
+        <source>Black &amp;Overprint:</source>
         <translation>Schwarz &amp;überdrucken:</translation>
     </message>
     <message>
-        <source>Black overprint</source>
+        <source>Black Overprint</source>
         <translation>Schwarz überdrucken</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Druckt schwarzen Text über Farben, statt diese darunter auszusparen</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
+        <source>Pure Black and &amp;Gray:</source>
         <translation>Reines Schwarz und &amp;Grau:</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
+        <source>Pure Black and Gray</source>
         <translation>Reines Schwarz und Grau</translation>
     </message>
     <message>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Asks the printer again for its profiles and defaults.</source>
-        <translation>Fragt Profile und Voreinstellungen erneut vom Drucker ab.</translation>
+        <translation>Fragt Profile und Standardwerte erneut vom Drucker ab.</translation>
     </message>
 </context>
 <context>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>Cyan-Balance</translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>Magenta-Balance</translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>Gelb-Balance</translation>
+        <translation>Gelb</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>Schwarz-Balance</translation>
+        <translation>Schwarz</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,15 +595,15 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>Hintergrundanpassung</translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>PrintMode?</source>
-        <translation>Was der Drucker mit dem Auftrag tut, wenn er ankommt: gleich drucken, bis zur Eingabe eines Passworts aufbewahren, ein Probeexemplar drucken oder anhalten.</translation>
+        <translation>Was der Drucker mit dem Auftrag tut, wenn er ankommt: gleich drucken, bis zur Eingabe eines Passworts zurückhalten, ein Probeexemplar drucken oder anhalten.</translation>
     </message>
     <message>
         <source>privatePassword?</source>
-        <translation>Fünf Ziffern Ihrer Wahl. Der Drucker bewahrt den Auftrag auf, bis Sie dieselben Ziffern an seinem Bedienfeld eingeben.</translation>
+        <translation>Fünf Ziffern Ihrer Wahl. Der Drucker hält den Auftrag zurück, bis Sie dieselben Ziffern an seinem Bedienfeld eingeben.</translation>
     </message>
     <message>
         <source>DeptCode?</source>
@@ -709,11 +709,11 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
+        <source>Print &amp;Mode:</source>
         <translation>Druck&amp;modus:</translation>
     </message>
     <message>
-        <source>Print mode</source>
+        <source>Print Mode</source>
         <translation>Druckmodus</translation>
     </message>
     <message>
@@ -737,11 +737,11 @@
         <translation>Zum Freigeben am Drucker eingeben.</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
+        <source>&amp;Department Code:</source>
         <translation>&amp;Abteilungscode:</translation>
     </message>
     <message>
-        <source>Department code</source>
+        <source>Department Code</source>
         <translation>Abteilungscode</translation>
     </message>
     <message>
@@ -761,11 +761,11 @@
         <translation>Fünf Ziffern der Abteilung, der der Auftrag berechnet wird</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
+        <source>Distinguish &amp;Thin Lines:</source>
         <translation>Dü&amp;nne Linien hervorheben:</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
+        <source>Distinguish Thin Lines</source>
         <translation>Dünne Linien hervorheben</translation>
     </message>
     <message>
@@ -773,11 +773,11 @@
         <translation>Hält sehr dünne Linien getrennt und sichtbar</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
+        <source>Skip &amp;Blank Pages:</source>
         <translation>&amp;Leere Seiten überspringen:</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
+        <source>Skip Blank Pages</source>
         <translation>Leere Seiten überspringen</translation>
     </message>
     <message>

@@ -4,12 +4,12 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
-        <translation>Color &amp;mode:</translation>
+        <source>Color &amp;Mode:</source>
+        <translation>Color &amp;Mode:</translation>
     </message>
     <message>
-        <source>Color mode</source>
-        <translation>Color mode</translation>
+        <source>Color Mode</source>
+        <translation>Color Mode</translation>
     </message>
     <message>
         <source>In which colors the job is printed</source>
@@ -40,20 +40,20 @@
         <translation>How shades are made of dots</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
-        <translation>&amp;Save toner</translation>
+        <source>Toner &amp;Save</source>
+        <translation>Toner &amp;Save</translation>
     </message>
     <message>
         <source>Prints paler to use less toner</source>
         <translation>Prints paler to use less toner</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
-        <translation>&amp;Image type:</translation>
+        <source>&amp;Image Type:</source>
+        <translation>&amp;Image Type:</translation>
     </message>
     <message>
-        <source>Image type</source>
-        <translation>Image type</translation>
+        <source>Image Type</source>
+        <translation>Image Type</translation>
     </message>
     <message>
         <source>What the pages mostly show</source>
@@ -68,24 +68,24 @@
         <translation>The printer’s color profiles</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
-        <translation>Black &amp;overprint:</translation>
+        <source>Black &amp;Overprint:</source>
+        <translation>Black &amp;Overprint:</translation>
     </message>
     <message>
-        <source>Black overprint</source>
-        <translation>Black overprint</translation>
+        <source>Black Overprint</source>
+        <translation>Black Overprint</translation>
     </message>
     <message>
         <source>Prints black text over colors instead of leaving them out below it</source>
         <translation>Prints black text over colors instead of leaving them out below it</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
-        <translation>Pure black and &amp;gray:</translation>
+        <source>Pure Black and &amp;Gray:</source>
+        <translation>Pure Black and &amp;Gray:</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
-        <translation>Pure black and gray</translation>
+        <source>Pure Black and Gray</source>
+        <translation>Pure Black and Gray</translation>
     </message>
     <message>
         <source>What is printed with black toner alone</source>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>Cyan Balance</translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>Magenta Balance</translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>Yellow Balance</translation>
+        <translation>Yellow</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>Black Balance</translation>
+        <translation>Black</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>Background Adjustment</translation>
+        <translation>Background</translation>
     </message>
     <message>
         <source>PrintMode?</source>
@@ -709,12 +709,12 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
-        <translation>Print &amp;mode:</translation>
+        <source>Print &amp;Mode:</source>
+        <translation>Print &amp;Mode:</translation>
     </message>
     <message>
-        <source>Print mode</source>
-        <translation>Print mode</translation>
+        <source>Print Mode</source>
+        <translation>Print Mode</translation>
     </message>
     <message>
         <source>How the printer treats the job</source>
@@ -737,12 +737,12 @@
         <translation>Enter it at the printer to release the job.</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
-        <translation>&amp;Department code:</translation>
+        <source>&amp;Department Code:</source>
+        <translation>&amp;Department Code:</translation>
     </message>
     <message>
-        <source>Department code</source>
-        <translation>Department code</translation>
+        <source>Department Code</source>
+        <translation>Department Code</translation>
     </message>
     <message>
         <source>Whether the job is charged to the department below</source>
@@ -761,24 +761,24 @@
         <translation>Five digits of the department that the job is charged to</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
-        <translation>Distinguish &amp;thin lines:</translation>
+        <source>Distinguish &amp;Thin Lines:</source>
+        <translation>Distinguish &amp;Thin Lines:</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
-        <translation>Distinguish thin lines</translation>
+        <source>Distinguish Thin Lines</source>
+        <translation>Distinguish Thin Lines</translation>
     </message>
     <message>
         <source>Keeps very thin lines apart and visible</source>
         <translation>Keeps very thin lines apart and visible</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
-        <translation>Skip &amp;blank pages:</translation>
+        <source>Skip &amp;Blank Pages:</source>
+        <translation>Skip &amp;Blank Pages:</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
-        <translation>Skip blank pages</translation>
+        <source>Skip Blank Pages</source>
+        <translation>Skip Blank Pages</translation>
     </message>
     <message>
         <source>Leaves out pages that nothing is printed on</source>

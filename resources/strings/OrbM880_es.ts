@@ -4,11 +4,11 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
+        <source>Color &amp;Mode:</source>
         <translation>&amp;Modo de color:</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Color Mode</source>
         <translation>Modo de color</translation>
     </message>
     <message>
@@ -40,19 +40,19 @@
         <translation>Cómo se forman los tonos a partir de puntos</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
-        <translation>A&amp;horrar tóner</translation>
+        <source>Toner &amp;Save</source>
+        <translation>A&amp;horro de tóner</translation>
     </message>
     <message>
         <source>Prints paler to use less toner</source>
         <translation>Imprime más claro para gastar menos tóner</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
+        <source>&amp;Image Type:</source>
         <translation>Tipo de ima&amp;gen:</translation>
     </message>
     <message>
-        <source>Image type</source>
+        <source>Image Type</source>
         <translation>Tipo de imagen</translation>
     </message>
     <message>
@@ -68,11 +68,11 @@
         <translation>Los perfiles de color de la impresora</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
+        <source>Black &amp;Overprint:</source>
         <translation>&amp;Sobreimpresión del negro:</translation>
     </message>
     <message>
-        <source>Black overprint</source>
+        <source>Black Overprint</source>
         <translation>Sobreimpresión del negro</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Imprime el texto negro sobre los colores en lugar de omitirlos debajo de él</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
+        <source>Pure Black and &amp;Gray:</source>
         <translation>N&amp;egro y gris puros:</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
+        <source>Pure Black and Gray</source>
         <translation>Negro y gris puros</translation>
     </message>
     <message>
@@ -415,11 +415,11 @@
     </message>
     <message>
         <source>DistinguishThinLines:False</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>DistinguishThinLines:True</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>BlankPage</source>
@@ -427,11 +427,11 @@
     </message>
     <message>
         <source>BlankPage:False</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>BlankPage:True</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>DeptCode</source>
@@ -439,11 +439,11 @@
     </message>
     <message>
         <source>DeptCode:False</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>DeptCode:True</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>ColorType</source>
@@ -487,11 +487,11 @@
     </message>
     <message>
         <source>TonerSave:False</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>TonerSave:True</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>ImageType</source>
@@ -523,11 +523,11 @@
     </message>
     <message>
         <source>BlackOverPrint:False</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>BlackOverPrint:True</source>
-        <translation>Activado</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>PureBlackGray</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>PureBlackGray:Off</source>
-        <translation>Desactivado</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>Balance de cian</translation>
+        <translation>Cian</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>Balance de magenta</translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>Balance de amarillo</translation>
+        <translation>Amarillo</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>Balance de negro</translation>
+        <translation>Negro</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>Ajuste del fondo</translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>PrintMode?</source>
@@ -709,11 +709,11 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
+        <source>Print &amp;Mode:</source>
         <translation>&amp;Modo de impresión:</translation>
     </message>
     <message>
-        <source>Print mode</source>
+        <source>Print Mode</source>
         <translation>Modo de impresión</translation>
     </message>
     <message>
@@ -737,11 +737,11 @@
         <translation>Introdúzcala en la impresora para liberar el trabajo.</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
+        <source>&amp;Department Code:</source>
         <translation>Código de &amp;departamento:</translation>
     </message>
     <message>
-        <source>Department code</source>
+        <source>Department Code</source>
         <translation>Código de departamento</translation>
     </message>
     <message>
@@ -761,11 +761,11 @@
         <translation>Cinco dígitos del departamento al que se carga el trabajo</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
+        <source>Distinguish &amp;Thin Lines:</source>
         <translation>Distinguir las &amp;líneas finas:</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
+        <source>Distinguish Thin Lines</source>
         <translation>Distinguir las líneas finas</translation>
     </message>
     <message>
@@ -773,11 +773,11 @@
         <translation>Mantiene separadas y visibles las líneas muy finas</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
+        <source>Skip &amp;Blank Pages:</source>
         <translation>&amp;Omitir las páginas en blanco:</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
+        <source>Skip Blank Pages</source>
         <translation>Omitir las páginas en blanco</translation>
     </message>
     <message>

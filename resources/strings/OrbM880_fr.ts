@@ -4,11 +4,11 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
+        <source>Color &amp;Mode:</source>
         <translation>&amp;Mode couleur&#xa0;:</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Color Mode</source>
         <translation>Mode couleur</translation>
     </message>
     <message>
@@ -40,7 +40,7 @@
         <translation>Façon dont les nuances sont formées de points</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
+        <source>Toner &amp;Save</source>
         <translation>&amp;Économie de toner</translation>
     </message>
     <message>
@@ -48,11 +48,11 @@
         <translation>Imprime plus clair pour utiliser moins de toner</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
+        <source>&amp;Image Type:</source>
         <translation>T&amp;ype d’image&#xa0;:</translation>
     </message>
     <message>
-        <source>Image type</source>
+        <source>Image Type</source>
         <translation>Type d’image</translation>
     </message>
     <message>
@@ -68,11 +68,11 @@
         <translation>Les profils de couleurs de l’imprimante</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
+        <source>Black &amp;Overprint:</source>
         <translation>&amp;Surimpression du noir&#xa0;:</translation>
     </message>
     <message>
-        <source>Black overprint</source>
+        <source>Black Overprint</source>
         <translation>Surimpression du noir</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Imprime le texte noir sur les couleurs au lieu de les évider</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
+        <source>Pure Black and &amp;Gray:</source>
         <translation>Noir et &amp;gris purs&#xa0;:</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
+        <source>Pure Black and Gray</source>
         <translation>Noir et gris purs</translation>
     </message>
     <message>
@@ -415,11 +415,11 @@
     </message>
     <message>
         <source>DistinguishThinLines:False</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>DistinguishThinLines:True</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>BlankPage</source>
@@ -427,11 +427,11 @@
     </message>
     <message>
         <source>BlankPage:False</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>BlankPage:True</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>DeptCode</source>
@@ -439,11 +439,11 @@
     </message>
     <message>
         <source>DeptCode:False</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>DeptCode:True</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>ColorType</source>
@@ -487,11 +487,11 @@
     </message>
     <message>
         <source>TonerSave:False</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>TonerSave:True</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>ImageType</source>
@@ -523,11 +523,11 @@
     </message>
     <message>
         <source>BlackOverPrint:False</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>BlackOverPrint:True</source>
-        <translation>Activé</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>PureBlackGray</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>PureBlackGray:Off</source>
-        <translation>Désactivé</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>Équilibre du cyan</translation>
+        <translation>Cyan</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>Équilibre du magenta</translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>Équilibre du jaune</translation>
+        <translation>Jaune</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>Équilibre du noir</translation>
+        <translation>Noir</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>Réglage du fond</translation>
+        <translation>Fond</translation>
     </message>
     <message>
         <source>PrintMode?</source>
@@ -709,11 +709,11 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
+        <source>Print &amp;Mode:</source>
         <translation>&amp;Mode d’impression&#xa0;:</translation>
     </message>
     <message>
-        <source>Print mode</source>
+        <source>Print Mode</source>
         <translation>Mode d’impression</translation>
     </message>
     <message>
@@ -737,11 +737,11 @@
         <translation>À saisir sur l’imprimante pour libérer la tâche.</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
+        <source>&amp;Department Code:</source>
         <translation>&amp;Code de service&#xa0;:</translation>
     </message>
     <message>
-        <source>Department code</source>
+        <source>Department Code</source>
         <translation>Code de service</translation>
     </message>
     <message>
@@ -761,11 +761,11 @@
         <translation>Cinq chiffres du service auquel la tâche est imputée</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
+        <source>Distinguish &amp;Thin Lines:</source>
         <translation>Distinguer les &amp;traits fins&#xa0;:</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
+        <source>Distinguish Thin Lines</source>
         <translation>Distinguer les traits fins</translation>
     </message>
     <message>
@@ -773,11 +773,11 @@
         <translation>Garde les traits très fins séparés et visibles</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
+        <source>Skip &amp;Blank Pages:</source>
         <translation>Ignorer les pages &amp;vierges&#xa0;:</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
+        <source>Skip Blank Pages</source>
         <translation>Ignorer les pages vierges</translation>
     </message>
     <message>

@@ -4,11 +4,11 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
+        <source>Color &amp;Mode:</source>
         <translation>&amp;Modalità colore:</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Color Mode</source>
         <translation>Modalità colore</translation>
     </message>
     <message>
@@ -40,19 +40,19 @@
         <translation>Come le sfumature sono formate dai punti</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
-        <translation>Risparmia t&amp;oner</translation>
+        <source>Toner &amp;Save</source>
+        <translation>Ri&amp;sparmio toner</translation>
     </message>
     <message>
         <source>Prints paler to use less toner</source>
         <translation>Stampa più chiaro per usare meno toner</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
+        <source>&amp;Image Type:</source>
         <translation>T&amp;ipo di immagine:</translation>
     </message>
     <message>
-        <source>Image type</source>
+        <source>Image Type</source>
         <translation>Tipo di immagine</translation>
     </message>
     <message>
@@ -68,11 +68,11 @@
         <translation>I profili colore della stampante</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
+        <source>Black &amp;Overprint:</source>
         <translation>Sovrastampa del n&amp;ero:</translation>
     </message>
     <message>
-        <source>Black overprint</source>
+        <source>Black Overprint</source>
         <translation>Sovrastampa del nero</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>Stampa il testo nero sopra i colori invece di ometterli sotto di esso</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
+        <source>Pure Black and &amp;Gray:</source>
         <translation>Nero e &amp;grigio puri:</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
+        <source>Pure Black and Gray</source>
         <translation>Nero e grigio puri</translation>
     </message>
     <message>
@@ -415,11 +415,11 @@
     </message>
     <message>
         <source>DistinguishThinLines:False</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>DistinguishThinLines:True</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>BlankPage</source>
@@ -427,11 +427,11 @@
     </message>
     <message>
         <source>BlankPage:False</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>BlankPage:True</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>DeptCode</source>
@@ -439,11 +439,11 @@
     </message>
     <message>
         <source>DeptCode:False</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>DeptCode:True</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>ColorType</source>
@@ -487,11 +487,11 @@
     </message>
     <message>
         <source>TonerSave:False</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>TonerSave:True</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>ImageType</source>
@@ -523,11 +523,11 @@
     </message>
     <message>
         <source>BlackOverPrint:False</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>BlackOverPrint:True</source>
-        <translation>Attivato</translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>PureBlackGray</source>
@@ -547,7 +547,7 @@
     </message>
     <message>
         <source>PureBlackGray:Off</source>
-        <translation>Disattivato</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>Bilanciamento del ciano</translation>
+        <translation>Ciano</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>Bilanciamento del magenta</translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>Bilanciamento del giallo</translation>
+        <translation>Giallo</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>Bilanciamento del nero</translation>
+        <translation>Nero</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>Regolazione dello sfondo</translation>
+        <translation>Sfondo</translation>
     </message>
     <message>
         <source>PrintMode?</source>
@@ -607,7 +607,7 @@
     </message>
     <message>
         <source>DeptCode?</source>
-        <translation>Se le pagine sono addebitate a un reparto. Attivalo se la stampante chiede un codice.</translation>
+        <translation>Se le pagine sono addebitate a un reparto. Attivare se la stampante chiede un codice.</translation>
     </message>
     <message>
         <source>departmentCode?</source>
@@ -639,7 +639,7 @@
     </message>
     <message>
         <source>ImageType?</source>
-        <translation>Che cosa mostrano soprattutto le pagine; i colori vi si adattano. Con la scelta avanzata decidi tu i profili colore.</translation>
+        <translation>Che cosa mostrano soprattutto le pagine; i colori vi si adattano. Con la scelta avanzata si scelgono i profili colore.</translation>
     </message>
     <message>
         <source>BlackOverPrint?</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN?</source>
-        <translation>Con quanta forza viene stampato uno sfondo colorato. Abbassalo se la carta di una pagina scansionata appare grigia.</translation>
+        <translation>Con quanta forza viene stampato uno sfondo colorato. Ridurre se la carta di una pagina scansionata appare grigia.</translation>
     </message>
     <message>
         <source>selectedRgbSourceProfile?</source>
@@ -709,11 +709,11 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
+        <source>Print &amp;Mode:</source>
         <translation>&amp;Modalità di stampa:</translation>
     </message>
     <message>
-        <source>Print mode</source>
+        <source>Print Mode</source>
         <translation>Modalità di stampa</translation>
     </message>
     <message>
@@ -737,11 +737,11 @@
         <translation>Immetterla sulla stampante per rilasciare il lavoro.</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
+        <source>&amp;Department Code:</source>
         <translation>Codice &amp;reparto:</translation>
     </message>
     <message>
-        <source>Department code</source>
+        <source>Department Code</source>
         <translation>Codice reparto</translation>
     </message>
     <message>
@@ -761,11 +761,11 @@
         <translation>Cinque cifre del reparto a cui viene addebitato il lavoro</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
+        <source>Distinguish &amp;Thin Lines:</source>
         <translation>Distingui linee so&amp;ttili:</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
+        <source>Distinguish Thin Lines</source>
         <translation>Distingui linee sottili</translation>
     </message>
     <message>
@@ -773,11 +773,11 @@
         <translation>Mantiene separate e visibili le linee molto sottili</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
+        <source>Skip &amp;Blank Pages:</source>
         <translation>Ignora pagine &amp;bianche:</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
+        <source>Skip Blank Pages</source>
         <translation>Ignora pagine bianche</translation>
     </message>
     <message>

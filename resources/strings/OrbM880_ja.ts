@@ -4,11 +4,11 @@
 <context>
     <name>ColorSettings1</name>
     <message>
-        <source>Color &amp;mode:</source>
+        <source>Color &amp;Mode:</source>
         <translation>カラーモード(&amp;M):</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Color Mode</source>
         <translation>カラーモード</translation>
     </message>
     <message>
@@ -40,7 +40,7 @@
         <translation>濃淡をドットで表す方法</translation>
     </message>
     <message>
-        <source>&amp;Save toner</source>
+        <source>Toner &amp;Save</source>
         <translation>トナーセーブ(&amp;S)</translation>
     </message>
     <message>
@@ -48,11 +48,11 @@
         <translation>薄めに印刷してトナーを節約します</translation>
     </message>
     <message>
-        <source>&amp;Image type:</source>
+        <source>&amp;Image Type:</source>
         <translation>画像タイプ(&amp;I):</translation>
     </message>
     <message>
-        <source>Image type</source>
+        <source>Image Type</source>
         <translation>画像タイプ</translation>
     </message>
     <message>
@@ -68,11 +68,11 @@
         <translation>プリンターのカラープロファイル</translation>
     </message>
     <message>
-        <source>Black &amp;overprint:</source>
+        <source>Black &amp;Overprint:</source>
         <translation>ブラックオーバープリント(&amp;O):</translation>
     </message>
     <message>
-        <source>Black overprint</source>
+        <source>Black Overprint</source>
         <translation>ブラックオーバープリント</translation>
     </message>
     <message>
@@ -80,11 +80,11 @@
         <translation>黒い文字の下の色を抜かずに重ねて印刷します</translation>
     </message>
     <message>
-        <source>Pure black and &amp;gray:</source>
+        <source>Pure Black and &amp;Gray:</source>
         <translation>ピュアブラック・グレー(&amp;G):</translation>
     </message>
     <message>
-        <source>Pure black and gray</source>
+        <source>Pure Black and Gray</source>
         <translation>ピュアブラック・グレー</translation>
     </message>
     <message>
@@ -563,19 +563,19 @@
     </message>
     <message>
         <source>ColorBalanceCyan</source>
-        <translation>シアンバランス</translation>
+        <translation>シアン</translation>
     </message>
     <message>
         <source>ColorBalanceMagenta</source>
-        <translation>マゼンタバランス</translation>
+        <translation>マゼンタ</translation>
     </message>
     <message>
         <source>ColorBalanceYellow</source>
-        <translation>イエローバランス</translation>
+        <translation>イエロー</translation>
     </message>
     <message>
         <source>ColorBalanceBlack</source>
-        <translation>ブラックバランス</translation>
+        <translation>ブラック</translation>
     </message>
     <message>
         <source>SharpnessVRN</source>
@@ -595,7 +595,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN</source>
-        <translation>背景調整</translation>
+        <translation>背景</translation>
     </message>
     <message>
         <source>PrintMode?</source>
@@ -709,11 +709,11 @@
 <context>
     <name>PrintMode</name>
     <message>
-        <source>Print &amp;mode:</source>
+        <source>Print &amp;Mode:</source>
         <translation>印刷モード(&amp;M):</translation>
     </message>
     <message>
-        <source>Print mode</source>
+        <source>Print Mode</source>
         <translation>印刷モード</translation>
     </message>
     <message>
@@ -737,11 +737,11 @@
         <translation>印刷を実行するときにプリンターで入力します。</translation>
     </message>
     <message>
-        <source>&amp;Department code:</source>
+        <source>&amp;Department Code:</source>
         <translation>部門コード(&amp;D):</translation>
     </message>
     <message>
-        <source>Department code</source>
+        <source>Department Code</source>
         <translation>部門コード</translation>
     </message>
     <message>
@@ -761,11 +761,11 @@
         <translation>ジョブを計上する部門の5桁の数字</translation>
     </message>
     <message>
-        <source>Distinguish &amp;thin lines:</source>
+        <source>Distinguish &amp;Thin Lines:</source>
         <translation>細線を強調(&amp;T):</translation>
     </message>
     <message>
-        <source>Distinguish thin lines</source>
+        <source>Distinguish Thin Lines</source>
         <translation>細線を強調</translation>
     </message>
     <message>
@@ -773,11 +773,11 @@
         <translation>ごく細い線を分離して見やすく印刷します</translation>
     </message>
     <message>
-        <source>Skip &amp;blank pages:</source>
+        <source>Skip &amp;Blank Pages:</source>
         <translation>白紙ページを印刷しない(&amp;B):</translation>
     </message>
     <message>
-        <source>Skip blank pages</source>
+        <source>Skip Blank Pages</source>
         <translation>白紙ページを印刷しない</translation>
     </message>
     <message>

@@ -20,135 +20,144 @@ public:
 };
 
 constexpr std::array explanations{
-    Explanation{"copies", QT_TRANSLATE_NOOP("Explanation", "How many times the document is printed.")},
+    Explanation{"copies", QT_TRANSLATE_NOOP("Explanation", "The number of copies to print.")},
     Explanation{"Collate",
-                QT_TRANSLATE_NOOP("Explanation", "Prints each copy whole before the next one begins, so that "
-                                                 "nobody has to sort the pages.")},
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "Prints each complete copy before the next one, so that the pages need no sorting.")},
     Explanation{"page-ranges",
-                QT_TRANSLATE_NOOP("Explanation", "Which pages are printed. List single pages and ranges with "
-                                                 "commas between them, such as 1-3, 8.")},
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.")},
     Explanation{"job-name", QT_TRANSLATE_NOOP("Explanation",
                                               "What the job is called at the printer and in lists of jobs.")},
     Explanation{"PageSize",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "The size of the paper that the pages are printed on. It has to "
-                                  "be in one of the printer’s trays.")},
-    Explanation{"MediaType", QT_TRANSLATE_NOOP("Explanation",
-                                               "What the paper is like. The printer feeds and heats heavy or "
-                                               "coated paper differently.")},
+                QT_TRANSLATE_NOOP("Explanation", "The size of the paper to print on. Paper of this size must "
+                                                 "be loaded in one of the printer’s trays.")},
+    Explanation{"MediaType",
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "The type of paper. The printer feeds and heats heavy or coated paper differently.")},
     Explanation{"InputSlot", QT_TRANSLATE_NOOP("Explanation", "The tray that the paper is taken from.")},
-    Explanation{"Duplex", QT_TRANSLATE_NOOP("Explanation",
-                                            "Prints on both sides of the paper. The long edge is for pages "
-                                            "that are turned like a book, the short edge for those turned "
-                                            "like a calendar.")},
-    Explanation{"number-up",
-                QT_TRANSLATE_NOOP("Explanation", "How many pages of the document are put on one side of the "
-                                                 "paper. They are made smaller to fit.")},
+    Explanation{"Duplex",
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "Prints on both sides of the paper. Choose the long edge for pages that turn like those "
+                    "of a book, the short edge for pages that turn like those of a wall calendar.")},
+    Explanation{
+        "print-color-mode",
+        QT_TRANSLATE_NOOP("Explanation", "Whether the pages are printed in color or in black and white.")},
+    Explanation{
+        "number-up",
+        QT_TRANSLATE_NOOP(
+            "Explanation",
+            "The number of document pages on one side of the paper. The pages are scaled down to fit.")},
     Explanation{
         "number-up-layout",
-        QT_TRANSLATE_NOOP("Explanation", "In which order the pages lie when several are put on one side.")},
+        QT_TRANSLATE_NOOP("Explanation", "The order in which several pages are arranged on one side.")},
     Explanation{"page-border", QT_TRANSLATE_NOOP("Explanation", "A line around each page on the paper.")},
     Explanation{"orientation-requested",
-                QT_TRANSLATE_NOOP("Explanation", "Whether the pages are printed upright or sideways. “As in "
-                                                 "the document” leaves that to the document.")},
+                QT_TRANSLATE_NOOP("Explanation", "Prints the pages upright or sideways. “As in the document” "
+                                                 "keeps the orientation of each page.")},
     Explanation{"print-scaling",
                 QT_TRANSLATE_NOOP("Explanation",
-                                  "Whether pages are made larger or smaller until they fit the paper, "
-                                  "or keep their size. What does not fit at that size is cut off.")},
+                                  "Scales the pages to fit the paper, or keeps their size. At actual "
+                                  "size, whatever does not fit on the paper is cut off.")},
     Explanation{"page-set",
-                QT_TRANSLATE_NOOP("Explanation", "Prints every other page only, such as to print on both "
-                                                 "sides by hand: first the odd pages, then the even ones.")},
+                QT_TRANSLATE_NOOP("Explanation", "Prints only every other page, for example to print on both "
+                                                 "sides by hand: first the odd pages, then the even pages.")},
     Explanation{"outputorder",
-                QT_TRANSLATE_NOOP("Explanation", "Prints from the end, so that the pages lie in order where "
-                                                 "the printer puts each face up on the one before.")},
+                QT_TRANSLATE_NOOP("Explanation", "Prints the last page first, so that the pages are in order "
+                                                 "when the printer stacks them face up.")},
     Explanation{"all-pages", QT_TRANSLATE_NOOP("Explanation", "Prints the whole document.")},
     Explanation{"current-page",
-                QT_TRANSLATE_NOOP("Explanation", "Prints only the page that the program shows.")},
+                QT_TRANSLATE_NOOP("Explanation", "Prints only the page that the application shows.")},
     Explanation{"selection",
-                QT_TRANSLATE_NOOP("Explanation", "Prints only what is selected in the program.")},
+                QT_TRANSLATE_NOOP("Explanation", "Prints only what is selected in the application.")},
     Explanation{"documents",
                 QT_TRANSLATE_NOOP(
                     "Explanation",
-                    "The files that are printed, in this order. A file without a check mark is left out.")},
+                    "The files to print, in this order. Clear the check box of a file to leave it out.")},
     Explanation{
         "save-pdf",
         QT_TRANSLATE_NOOP(
             "Explanation",
-            "Writes the pages as they would be printed into a PDF file. Nothing is sent to the printer.")},
-    Explanation{"preview",
-                QT_TRANSLATE_NOOP("Explanation", "What comes out of the printer, as far as it is known here. "
-                                                 "Choose a small page to see it large.")},
-    Explanation{"custom",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "A choice of your own. The line below it says what the printer takes.")},
+            "Saves the pages to a PDF file as they would be printed. Nothing is sent to the printer.")},
+    Explanation{
+        "preview",
+        QT_TRANSLATE_NOOP("Explanation",
+                          "Shows the pages as they will be printed. Select a thumbnail to show its page.")},
+    Explanation{
+        "custom",
+        QT_TRANSLATE_NOOP("Explanation",
+                          "A value that you enter yourself. The line below shows what the printer accepts.")},
     Explanation{
         "printer",
         QT_TRANSLATE_NOOP(
             "Explanation",
-            "The printer that the document is sent to. Its list can be searched for a name or a place.")},
+            "The printer that the document is sent to. You can search the list by name or location.")},
     Explanation{"presets",
-                QT_TRANSLATE_NOOP("Explanation", "Settings kept under a name, those used last, and the "
-                                                 "printer’s own. Choose them here, or keep those of now.")},
-    Explanation{"pages",
-                QT_TRANSLATE_NOOP(
-                    "Explanation",
-                    "The pages of this dialog. A diamond marks those on which something has been changed.")},
+                QT_TRANSLATE_NOOP("Explanation", "Applies a preset, the settings used last or the printer’s "
+                                                 "defaults, and saves the current settings as a preset.")},
+    Explanation{"pages", QT_TRANSLATE_NOOP(
+                             "Explanation",
+                             "The pages of this dialog. A diamond marks each page with changed settings.")},
     Explanation{"cancel",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "Closes this window. What has not been sent by then is not printed.")},
+                QT_TRANSLATE_NOOP("Explanation", "Closes this window. Nothing more is sent to the printer.")},
     Explanation{"print",
                 QT_TRANSLATE_NOOP("Explanation",
                                   "Sends the document to the printer with the settings of all pages.")},
-    Explanation{
-        "cancel-job",
-        QT_TRANSLATE_NOOP("Explanation", "Stops the job. Pages that have been printed by then are there.")},
-    Explanation{"hold-job", QT_TRANSLATE_NOOP("Explanation",
-                                              "Lets the job wait at the print server until you release it.")},
-    Explanation{
-        "print-again",
-        QT_TRANSLATE_NOOP("Explanation", "Sends the same documents once more with the same settings.")},
+    Explanation{"cancel-job",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Cancels the job. Pages that are printed already remain in the printer.")},
+    Explanation{"hold-job",
+                QT_TRANSLATE_NOOP("Explanation", "Keeps the job at the print server until you release it.")},
+    Explanation{"print-again",
+                QT_TRANSLATE_NOOP("Explanation", "Sends the same documents again with the same settings.")},
     Explanation{"preset-name",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "What the settings are kept under. Other programs offer them "
-                                  "under this name as well.")},
-    Explanation{"preset-secrets",
-                QT_TRANSLATE_NOOP("Explanation", "Keeps what is otherwise asked for anew each time. Leave it "
-                                                 "out where others use this computer.")},
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "The name of the preset. Other programs offer the preset under this name as well.")},
+    Explanation{
+        "preset-secrets",
+        QT_TRANSLATE_NOOP("Explanation",
+                          "Saves passwords and codes with the preset, so that you need not enter them each "
+                          "time. Do not use this on a computer that you share with others.")},
     Explanation{"preset-save",
-                QT_TRANSLATE_NOOP("Explanation", "Keeps the settings of all pages under the name. Those of a "
-                                                 "preset that has it already are replaced.")},
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "Saves the settings of all pages as a preset. A preset of the same name is replaced.")},
     Explanation{"preset-rename",
-                QT_TRANSLATE_NOOP("Explanation", "Gives the preset this name, also in other programs.")},
+                QT_TRANSLATE_NOOP("Explanation", "Renames the preset, in other programs as well.")},
     Explanation{"preset-delete",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "Takes the preset away, also from other programs. What is set "
-                                  "in this dialog stays as it is.")},
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "Deletes the preset, in other programs as well. The current settings do not change.")},
     Explanation{"preset-cancel",
-                QT_TRANSLATE_NOOP("Explanation", "Closes this question. The presets stay as they are.")},
-    Explanation{"login-user",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "The name that the print server knows you by. It may be another than "
-                                  "the one on this computer.")},
-    Explanation{"login-password",
-                QT_TRANSLATE_NOOP("Explanation", "The password that belongs to the user name on the print "
-                                                 "server.")},
-    Explanation{"login-ok", QT_TRANSLATE_NOOP("Explanation", "Tells the print server who you are.")},
-    Explanation{"login-cancel",
-                QT_TRANSLATE_NOOP("Explanation", "Goes on without. The print server may refuse what it asked "
-                                                 "the password for.")},
+                QT_TRANSLATE_NOOP("Explanation", "Closes this dialog without changing any preset.")},
+    Explanation{
+        "login-user",
+        QT_TRANSLATE_NOOP(
+            "Explanation",
+            "Your user name on the print server. It may differ from your user name on this computer.")},
+    Explanation{"login-password", QT_TRANSLATE_NOOP("Explanation", "Your password on the print server.")},
+    Explanation{"login-ok", QT_TRANSLATE_NOOP("Explanation", "Logs in to the print server.")},
+    Explanation{
+        "login-cancel",
+        QT_TRANSLATE_NOOP("Explanation",
+                          "Continues without a password. The print server may then refuse the request.")},
     Explanation{"only-changes",
-                QT_TRANSLATE_NOOP("Explanation",
-                                  "Leaves out what stands as the printer or the preset has it, "
-                                  "and tells what the rest was before.")},
-    Explanation{"more", QT_TRANSLATE_NOOP("Explanation",
-                                          "What this printer offers beside the other pages, in the words of "
-                                          "its maker.")},
-    Explanation{"give-up", QT_TRANSLATE_NOOP("Explanation",
-                                             "Stops what is under way. Nothing that you have set is lost.")},
-    Explanation{"try-again", QT_TRANSLATE_NOOP("Explanation", "Asks the printer or the print server anew.")},
+                QT_TRANSLATE_NOOP("Explanation", "Shows only the settings that differ from the printer’s "
+                                                 "defaults or the preset, with their previous values.")},
+    Explanation{"more",
+                QT_TRANSLATE_NOOP(
+                    "Explanation",
+                    "Further options of this printer, with the names that its manufacturer gave them.")},
+    Explanation{"give-up", QT_TRANSLATE_NOOP("Explanation", "Stops waiting. Your settings are kept.")},
+    Explanation{"try-again", QT_TRANSLATE_NOOP("Explanation", "Asks the printer or the print server again.")},
     Explanation{"close-help", QT_TRANSLATE_NOOP("Explanation", "Goes back to the settings.")},
-    Explanation{"find", QT_TRANSLATE_NOOP("Explanation", "Looks for a setting on all pages by its name.")},
-    Explanation{"help", QT_TRANSLATE_NOOP("Explanation", "Shows what the settings of this page are for.")},
+    Explanation{"find", QT_TRANSLATE_NOOP("Explanation", "Finds a setting on any page by its name.")},
+    Explanation{"help", QT_TRANSLATE_NOOP("Explanation", "Explains the settings of this page.")},
 };
 
 } // namespace
