@@ -108,17 +108,18 @@ void installTranslations(QApplication *app)
 {
     for (QString language : dialogLanguages()) {
         language.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (language.section(QLatin1Char('_'), 0, 0) == QLatin1String("en"))
-            return;
+        const bool isEnglish = language.section(QLatin1Char('_'), 0, 0) == QLatin1String("en");
         auto *own = new QTranslator(app);
         if (!own->load(QStringLiteral("kelmar-print_") + language, QStringLiteral(":/i18n"),
                        QStringLiteral("_"))) {
             delete own;
+            if (isEnglish)
+                return;
             continue;
         }
         auto *qt = new QtTexts(app);
-        if (qt->load(QStringLiteral("qtbase_") + language,
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        if (!isEnglish && qt->load(QStringLiteral("qtbase_") + language,
+                                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QApplication::installTranslator(qt);
         QApplication::installTranslator(own);
         return;

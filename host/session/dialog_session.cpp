@@ -363,6 +363,8 @@ QList<SummarySection> DialogSession::summary()
         if (!section.entries.isEmpty())
             sections.append(section);
     }
+    if (const SummarySection more = moreSummary(*this); !more.entries.isEmpty())
+        sections.append(more);
     return sections;
 }
 

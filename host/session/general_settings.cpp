@@ -64,13 +64,24 @@ bool GeneralSettings::covers(const QString &name)
            name.compare(QLatin1String("Collate"), Qt::CaseInsensitive) == 0;
 }
 
+QString colorOptionKeyword(const PpdDocument &ppd)
+{
+    for (const char *name : {"ColorModel", "ColorMode", "ColorType"}) {
+        const auto option = ppd.option(QLatin1String(name));
+        if (option && option->choices.size() > 1)
+            return option->keyword;
+    }
+    return {};
+}
+
 QStringList generalOptionKeywords(const PpdDocument &ppd)
 {
     // Alternative names of the same option: the first one in the PPD is shown.
     const QList<QStringList> wanted = {{QStringLiteral("PageSize")},
                                        {QStringLiteral("MediaType")},
                                        {QStringLiteral("InputSlot")},
-                                       PpdDocument::optionsOfStandardName(QStringLiteral("sides"))};
+                                       PpdDocument::optionsOfStandardName(QStringLiteral("sides")),
+                                       {colorOptionKeyword(ppd)}};
     QStringList keywords;
     for (const QStringList &names : wanted) {
         for (const QString &name : names) {

@@ -46,7 +46,11 @@ struct GeneralSettings
     static bool covers(const QString &name);
 };
 
-// The options of the general page that this PPD has, in display order: paper size and type, tray, two-sided.
+// The options of the general page that this PPD has, in display order: paper size and type, tray, two-sided,
+// color.
 QStringList generalOptionKeywords(const PpdDocument &ppd);
+// The option of a PPD that selects color or black and white; null if there is none. A panel may also
+// show it.
+QString colorOptionKeyword(const PpdDocument &ppd);
 
 } // namespace host

@@ -264,7 +264,7 @@ QList<PageLayoutSettings::Words> PageLayoutSettings::inWords(bool withUsual) con
     add(border == usual.border, pageBorder, LayoutText::tr("Border"), layoutValueText(pageBorder, border));
     add(orientation == usual.orientation, orientationRequested, LayoutText::tr("Orientation"),
         layoutValueText(orientationRequested, orientation));
-    add(scaling == usual.scaling, printScaling, LayoutText::tr("Size"),
+    add(scaling == usual.scaling, printScaling, LayoutText::tr("Scaling"),
         layoutValueText(printScaling, scaling));
     add(pageSet == usual.pageSet, pageSetName, LayoutText::tr("Odd or even"),
         layoutValueText(pageSetName, pageSet));

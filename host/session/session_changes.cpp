@@ -82,11 +82,11 @@ int pageOf(const DialogSession &session, const QString &key)
 {
     if (const int panel = panelInKey(key); panel >= 0)
         return panel;
-    if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key) ||
-        generalOptionKeywords(*session.ppd()).contains(key))
+    if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key))
         return generalPage;
-    const int panel = session.panelOfKeyword(key);
-    return panel >= 0 ? panel : morePage;
+    if (const int panel = session.panelOfKeyword(key); panel >= 0)
+        return panel;
+    return generalOptionKeywords(*session.ppd()).contains(key) ? generalPage : morePage;
 }
 
 QStringList keysOfControl(const DialogSession &session, int panel, const QString &keyPath)

@@ -84,13 +84,16 @@ void SettingIndex::addSession(const DialogSession &session)
     add({general, QStringLiteral("page-ranges"), SettingText::tr("Pages"), {}, {}});
     if (!session.ppd())
         return;
-    for (const QString &keyword : generalOptionKeywords(*session.ppd()))
+    const QStringList generalKeywords = generalOptionKeywords(*session.ppd());
+    for (const QString &keyword : generalKeywords)
         addOption(session, general, keyword);
     for (int i = 0; i < session.panelCount(); ++i) {
         if (!session.panel(i)->panelView())
             continue;
-        for (const QString &keyword : session.panelKeywords(i))
-            addOption(session, session.panel(i)->panelKind(), keyword);
+        for (const QString &keyword : session.panelKeywords(i)) {
+            if (!generalKeywords.contains(keyword)) // found once with its choices
+                addOption(session, session.panel(i)->panelKind(), keyword);
+        }
     }
     for (const QString &keyword : session.otherKeywords())
         addOption(session, QStringLiteral("more"), keyword);

@@ -17,6 +17,16 @@ struct SummaryText
     Q_DECLARE_TR_FUNCTIONS(SummaryText)
 };
 
+void addOptions(const DialogSession &session, const QStringList &keywords, SummarySection *section)
+{
+    for (const QString &keyword : keywords) {
+        const OptionChoice choice = session.ppd()->described(keyword, session.ppd()->markedChoice(keyword));
+        const bool isHidden = session.isSecret(keyword) && !session.ppd()->option(keyword)->custom;
+        if (!choice.choice.isEmpty())
+            section->entries.append({choice.optionText, isHidden ? hiddenValue() : choice.choiceText});
+    }
+}
+
 } // namespace
 
 QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual)
@@ -56,14 +66,16 @@ SummarySection generalSummary(const DialogSession &session)
     SummarySection section{SummaryText::tr("General"), {}};
     section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
     section.entries += generalEntries(session.general(), false);
-    if (!session.ppd())
-        return section;
-    for (const QString &keyword : generalOptionKeywords(*session.ppd()) + session.otherKeywords()) {
-        const OptionChoice choice = session.ppd()->described(keyword, session.ppd()->markedChoice(keyword));
-        const bool isHidden = session.isSecret(keyword) && !session.ppd()->option(keyword)->custom;
-        if (!choice.choice.isEmpty())
-            section.entries.append({choice.optionText, isHidden ? hiddenValue() : choice.choiceText});
-    }
+    QStringList keywords = session.ppd() ? generalOptionKeywords(*session.ppd()) : QStringList();
+    keywords.removeIf([&](const QString &keyword) { return session.panelOfKeyword(keyword) >= 0; });
+    addOptions(session, keywords, &section);
+    return section;
+}
+
+SummarySection moreSummary(const DialogSession &session)
+{
+    SummarySection section{SummaryText::tr("More Options"), {}};
+    addOptions(session, session.otherKeywords(), &section);
     return section;
 }
 

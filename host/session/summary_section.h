@@ -23,8 +23,10 @@ struct SummarySection
     int panel = -1; // the panel; -1 for the host's settings
 };
 
-// The general settings, and the options of the PPD that no panel shows.
+// The settings of the general page, without those that a panel shows.
 SummarySection generalSummary(const DialogSession &session);
+// The options of the PPD that no other page shows. The list of entries may be empty.
+SummarySection moreSummary(const DialogSession &session);
 // The general settings that are not PPD options.
 QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual);
 // The job option of a general setting, by its display name; empty if there is none.

@@ -13,8 +13,8 @@
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/list_escape.h"
-#include "host/window/look/text_direction.h"
 #include "host/window/messages/greyed_choices.h"
+#include "host/window/pages/job_cost_label.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/settings_control.h"
@@ -55,7 +55,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_queue(new MessageBar(this), [this] { return isSettled(); }),
       m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
       m_book(new PageBook(&m_documentChoice, this)), m_unavailable(new UnavailablePage(this)),
-      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cancel"), this)),
+      m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cance&l"), this)),
       m_print(new DialogButton(tr("&Print"), this)), m_wait(this, {m_cancel, m_print}),
       m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, this), m_pdf(new PdfSaver(this)),
       m_guide(new Guide(m_book)), m_layout(this, {m_picker,
@@ -94,7 +94,7 @@ void PrintWindow::connectParts()
     connect(m_book, &PageBook::left, &m_messages, [this] { m_messages.check(); });
     connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
     connect(m_book, &PageBook::shown, &m_layout, &WindowLayout::arrange);
-    connect(m_book, &PageBook::grown, this, [this] { keepLabelsAligned(this); });
+    connect(m_book, &PageBook::grown, &m_layout, &WindowLayout::arrangeKeys);
     connect(m_book, &PageBook::shown, &m_messages, &SessionMessages::showNotices);
     const auto settingsChanged = [this] {
         sessionChanged();
@@ -186,7 +186,7 @@ void PrintWindow::connectWork()
     connect(m_result, &ResultPage::printAgainWanted, this, [this] {
         if (!mayPrint())
             return;
-        m_cancel->setText(tr("Cancel"));
+        m_cancel->setText(tr("Cance&l"));
         m_print->setDefault(true);
         deliver();
     });
@@ -440,6 +440,11 @@ void PrintWindow::finishLater()
     if (!m_task.settingsOnly)
         explained.append({m_print, QStringLiteral("print")});
     m_layout.addGuide(m_guide->addButtons(explained));
+    auto *cost = new JobCostLabel(
+        &m_documentChoice, [this] { return m_session.get(); }, this);
+    m_guide->addNote(cost);
+    connect(m_settings, &SettingsControl::changed, cost, &JobCostLabel::refresh);
+    connect(m_book, &PageBook::shown, cost, &JobCostLabel::refresh);
     m_layout.arrange();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));

@@ -78,13 +78,21 @@ void WindowLayout::build()
 void WindowLayout::addGuide(QWidget *guide)
 {
     m_guide = guide;
+    m_keys->addPart(guide);
     m_footer->insertWidget(0, guide);
 }
 
 void WindowLayout::arrange()
 {
+    arrangeKeys();
+    setCompact(m_window->height() < roomyLines * m_window->fontMetrics().height());
+    fit();
+}
+
+void WindowLayout::arrangeKeys()
+{
     QList<QWidget *> order = QList<QWidget *>{m_parts.picker} + m_parts.finder->parts();
-    order.append({m_parts.book->list(), m_parts.book->pages()});
+    order.append({m_parts.book->list(), m_parts.book->stack(), m_parts.book->pages()}); // the preview last
     order += m_parts.otherPages;
     order.append(m_parts.bar);
     if (m_guide)
@@ -92,8 +100,6 @@ void WindowLayout::arrange()
     chainTabOrder(order + m_parts.footer);
     m_keys->assign();
     keepLabelsAligned(m_window);
-    setCompact(m_window->height() < roomyLines * m_window->fontMetrics().height());
-    fit();
 }
 
 void WindowLayout::setRoom(const QSize &room)
@@ -123,8 +129,8 @@ QSize WindowLayout::wantedSize(const QSize &room, bool mayGrow) const
     const int others = m_parts.picker->sizeHint().height() + m_footer->sizeHint().height() + 2;
     const QSize page = m_parts.book->wantedSize();
     const int high = page.height() + others;
-    const bool grows = mayGrow && high <= mostLines * line;
-    return {page.width(), grows ? qMin(high, room.height() - spareLines * line) : 0};
+    const int most = qMin(mostLines, room.height() / line - spareLines) * line;
+    return {page.width(), mayGrow ? qMin(high, most) : 0};
 }
 
 void WindowLayout::adapt()

@@ -48,6 +48,8 @@ public:
 public Q_SLOTS:
     // Call when other parts are shown, to update tab order, access keys and size.
     void arrange();
+    // The page has more controls than before: their order and access keys follow.
+    void arrangeKeys();
 
 private:
     void build();

@@ -4,6 +4,7 @@
 #include "host/printing/job.h"
 #include "host/printing/message_language.h"
 #include "host/printing/utf8_text.h"
+#include "host/session/job_cost.h"
 #include "host/session/page_ranges.h"
 #include "platform/unique_fd.h"
 #include "tests/host/host_fixture.h"
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void initTestCase() { speakDialogLanguage(); }
     void pageRanges_data();
     void pageRanges();
+    void sheetsAreCounted_data();
+    void sheetsAreCounted();
     void documents_data();
     void documents();
     void standardInputIsSpooled();
@@ -81,6 +84,41 @@ void CoreValuesTest::pageRanges()
     QCOMPARE(ranges.has_value(), !expected.isNull());
     QCOMPARE(ranges.value_or(QString()), expected);
     QCOMPARE(error.isEmpty(), !expected.isNull());
+}
+
+void CoreValuesTest::sheetsAreCounted_data()
+{
+    QTest::addColumn<QMap<QString, QString>>("options");
+    QTest::addColumn<bool>("isTwoSided");
+    QTest::addColumn<QList<int>>("pages");
+    QTest::addColumn<JobCost>("cost");
+    using Map = QMap<QString, QString>;
+    const QString copies = u"copies"_s, ranges = u"page-ranges"_s, numberUp = u"number-up"_s,
+                  set = u"page-set"_s;
+    QTest::newRow("one-sided") << Map() << false << QList<int>{8} << JobCost{8, 8};
+    QTest::newRow("two-sided") << Map() << true << QList<int>{7} << JobCost{4, 7};
+    QTest::newRow("copies begin anew") << Map{{copies, u"3"_s}} << true << QList<int>{3} << JobCost{6, 9};
+    QTest::newRow("documents begin anew") << Map() << true << QList<int>{1, 2, 3} << JobCost{4, 6};
+    QTest::newRow("several on a side") << Map{{numberUp, u"4"_s}} << true << QList<int>{9} << JobCost{2, 3};
+    QTest::newRow("ranges") << Map{{ranges, u"1-3,6,9-"_s}} << false << QList<int>{10} << JobCost{6, 6};
+    QTest::newRow("beyond the end") << Map{{ranges, u"2-9,12"_s}} << true << QList<int>{3} << JobCost{1, 2};
+    QTest::newRow("ranges of sides") << Map{{ranges, u"2"_s}, {numberUp, u"2"_s}} << false << QList<int>{4}
+                                     << JobCost{1, 1};
+    QTest::newRow("odd") << Map{{set, u"odd"_s}} << false << QList<int>{5} << JobCost{3, 3};
+    QTest::newRow("even of a range") << Map{{set, u"even"_s}, {ranges, u"2-5"_s}} << true << QList<int>{9}
+                                     << JobCost{1, 2};
+}
+
+void CoreValuesTest::sheetsAreCounted()
+{
+    using Options = QMap<QString, QString>;
+    QFETCH(const Options, options);
+    QFETCH(const bool, isTwoSided);
+    QFETCH(const QList<int>, pages);
+    QFETCH(const JobCost, cost);
+    const JobCost counted = jobCost(GeneralSettings::from(options), isTwoSided, pages);
+    QCOMPARE(counted.sheets, cost.sheets);
+    QCOMPARE(counted.sides, cost.sides);
 }
 
 void CoreValuesTest::documents_data()

@@ -5,10 +5,13 @@
 #include "host/window/look/change_mark.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/general_page.h"
+#include "host/window/pages/job_cost_label.h"
+#include "host/window/pages/page_book.h"
 #include "host/window/preview/preview_pane.h"
 #include "host/window/preview/preview_sheet.h"
 #include "host/window/preview/preview_strip.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/accessible_events.h"
 #include "tests/support/paths.h"
 
 #include <QApplication>
@@ -19,6 +22,7 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QScreen>
+#include <QSpinBox>
 #include <QTemporaryDir>
 
 using namespace host;
@@ -44,6 +48,9 @@ private Q_SLOTS:
     void rangeBeyondTheEnd_data();
     void rangeBeyondTheEnd();
     void smallPagesAppear();
+    void colorIsChosen_data();
+    void colorIsChosen();
+    void costIsShown();
     void pdfIsWritten();
     void titleOfALaterDocument();
 
@@ -230,6 +237,7 @@ void GeneralPageTest::smallPagesAppear()
 {
     if (!hasPreview())
         QSKIP("cups-filters or poppler-utils is not installed");
+    const AccessibleEvents events;
     openWith({report});
     auto *strip = find<PreviewStrip>();
     QTRY_VERIFY(strip && strip->model()->rowCount() == 2);
@@ -243,6 +251,72 @@ void GeneralPageTest::smallPagesAppear()
         };
         QTRY_VERIFY2(isThere(), qPrintable(QString::number(row)));
     }
+    QVERIFY(!strip->hasFocus());
+    QCOMPARE(events.count(QAccessible::Focus, strip), 0); // a screen reader stays where the user is
+    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {},
+                      strip->visualRect(strip->model()->index(1, 0)).center());
+    QCOMPARE(strip->current(), 1);
+    QVERIFY(events.count(QAccessible::Focus, strip) > 0);
+}
+
+void GeneralPageTest::colorIsChosen_data()
+{
+    QTest::addColumn<QByteArray>("keyword"); // in place of ColorType
+    QTest::addColumn<bool>("hasPanel");
+    QTest::newRow("a panel's") << QByteArray("ColorType") << true;
+    QTest::newRow("of another maker") << QByteArray("ColorModel") << false;
+}
+
+void GeneralPageTest::colorIsChosen()
+{
+    QFETCH(const QByteArray, keyword);
+    QFETCH(const bool, hasPanel);
+    const QString name = QString::fromLatin1(keyword);
+    for (QByteArray &ppd : m_system.ppds)
+        ppd.replace("ColorType", keyword);
+    PrintWindow &window = open();
+    FakePanel *colour = nullptr;
+    if (hasPanel) {
+        auto panel = std::make_unique<FakePanel>(u"Colour"_s, QStringList(name), window.session());
+        colour = panel.get();
+        platform::PrintDialogPanels panels;
+        panels.push_back(std::move(panel));
+        window.session()->adoptPanels(std::move(panels));
+        window.showSession();
+        window.book()->showPage(1); // restores it
+        window.book()->showPage(0);
+    }
+    choose(name, u"Mono"_s);
+    if (colour)
+        QCOMPARE(colour->valueForKey(name).toString(), u"Mono"_s);
+    QString summed;
+    for (const SummarySection &section : window.session()->summary()) {
+        for (const auto &[option, value] : section.entries)
+            summed += option == u"Colour Mode" ? section.title + u": "_s + value : QString();
+    }
+    QCOMPARE(summed, hasPanel ? QString() : u"General: Black and White"_s); // once, under its page
+    window.print();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    QCOMPARE(sentValue(m_system.submitted.first().options, name), u"Mono"_s);
+}
+
+void GeneralPageTest::costIsShown()
+{
+    if (!hasPreview())
+        QSKIP("cups-filters or poppler-utils is not installed");
+    openWith({report});
+    const auto *label = find<JobCostLabel>();
+    QTRY_COMPARE(label->text(), u"2 sheets, color"_s);
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    QTRY_COMPARE(label->text(), u"1 sheets, 2 sides, color"_s); // tests have no plural forms
+    find<QSpinBox>(u"copies"_s)->setValue(3);
+    QTRY_COMPARE(label->text(), u"3 sheets, 6 sides, color"_s);
+    choose(u"ColorType"_s, u"Mono"_s);
+    QTRY_COMPARE(label->text(), u"3 sheets, 6 sides, black and white"_s);
+    openWith({sourcePath("/demo/README.md"), u"/dev/null"_s});
+    settle();
+    QCOMPARE(find<JobCostLabel>()->text(), QString()); // one of them cannot be counted
 }
 
 void GeneralPageTest::pdfIsWritten()

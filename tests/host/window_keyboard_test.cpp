@@ -4,6 +4,7 @@
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/contrast.h"
+#include "host/window/look/desktop_contrast.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/mnemonics.h"
 #include "host/window/look/status_glyph.h"
@@ -14,13 +15,17 @@
 #include "host/window/waiting/waiting_page.h"
 #include "platform/text_field.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/accessible_events.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -44,6 +49,8 @@ private Q_SLOTS:
     void errorBelongsToItsField();
     void colorsStandOut_data();
     void colorsStandOut();
+    void gtkThemeAsksForContrast_data();
+    void gtkThemeAsksForContrast();
     void mnemonics();
 
 private:
@@ -93,7 +100,7 @@ void WindowKeyboardTest::returnPressesTheButtonWithTheFocus()
     QVERIFY(printButton()->isDefault());
     QPushButton *cancel = nullptr;
     for (auto *button : window.findChildren<QPushButton *>())
-        cancel = button->text() == u"Cancel"_s ? button : cancel;
+        cancel = button->text().remove(u'&') == u"Cancel"_s ? button : cancel;
     cancel->setFocus(Qt::TabFocusReason);
     QCOMPARE(find<FocusRing>()->target(), cancel);
     QVERIFY(cancel->isDefault() && !printButton()->isDefault());
@@ -183,7 +190,7 @@ void WindowKeyboardTest::resultNamesEverything_data()
     QTest::addColumn<StatusGlyph::Kind>("sign");
     JobStatus status;
     status.state = JobStatus::State::Held;
-    QTest::newRow("held") << status << u"enter its code at the printer “Attic”"_s
+    QTest::newRow("held") << status << u"enter its password at the printer “Attic”"_s
                           << StatusGlyph::Kind::Notice;
     status.state = JobStatus::State::Pending;
     status.printerStopped = true;
@@ -235,8 +242,17 @@ void WindowKeyboardTest::errorBelongsToItsField()
         return QAccessible::queryAccessibleInterface(pages)->text(QAccessible::Description);
     };
     const QString usual = description();
+    const AccessibleEvents events;
     QTest::keyClicks(pages, u"3-1"_s);
     QVERIFY(description() != usual);
+    const QLabel *announced = nullptr;
+    for (const auto *label : window.findChildren<QLabel *>())
+        announced = label->isVisible() && label->text() == description() ? label : announced;
+    QVERIFY(announced);
+    QCOMPARE(QAccessible::queryAccessibleInterface(const_cast<QLabel *>(announced))->role(),
+             QAccessible::Notification);
+    QCOMPARE(announced->accessibleName(), description());
+    QCOMPARE(events.count(QAccessible::ObjectShow, announced), 1);
     QTest::keyClick(pages, Qt::Key_Backspace);
     QTest::keyClicks(pages, u"4"_s);
     QCOMPARE(description(), usual);
@@ -247,6 +263,8 @@ void WindowKeyboardTest::colorsStandOut_data()
     QTest::addColumn<QString>("scheme");
     QTest::newRow("light") << u"light"_s;
     QTest::newRow("dark") << u"dark"_s;
+    QTest::newRow("high contrast") << highContrast;
+    QTest::newRow("high contrast, dark") << highContrastDark;
 }
 
 void WindowKeyboardTest::colorsStandOut()
@@ -265,7 +283,45 @@ void WindowKeyboardTest::colorsStandOut()
     check("default button", highlight, window, markContrast);
     check("ring on the window", focusInk(palette), window, markContrast);
     check("ring on a field", focusInk(palette), palette.color(QPalette::Base), markContrast);
+    const bool isHigh = scheme.startsWith(highContrast);
+    check("text", palette.color(QPalette::WindowText), window, isHigh ? 21 : textContrast);
+    check("what is switched off", palette.color(QPalette::Disabled, QPalette::WindowText), window,
+          isHigh ? 7 : markContrast);
+    QCOMPARE(mutedInk(palette).alpha() == 255, isHigh);
     QCOMPARE(qRound(contrast(Qt::black, Qt::white)), 21);
+}
+
+void WindowKeyboardTest::gtkThemeAsksForContrast_data()
+{
+    QTest::addColumn<QByteArray>("variable"); // GTK_THEME; null for not set
+    QTest::addColumn<QByteArray>("settings"); // of GTK 3
+    QTest::addColumn<QString>("scheme");
+    const QByteArray file = "[Settings]\ngtk-font-name=Sans 11\ngtk-theme-name = ";
+    QTest::newRow("nothing") << QByteArray() << QByteArray() << QString();
+    QTest::newRow("variable") << QByteArray("HighContrast") << QByteArray() << highContrast;
+    QTest::newRow("dark variant") << QByteArray("HighContrast:dark") << QByteArray() << highContrastDark;
+    QTest::newRow("variable first") << QByteArray("Adwaita") << file + "HighContrast\n" << QString();
+    QTest::newRow("file") << QByteArray() << file + "HighContrastInverse\n" << highContrastDark;
+    QTest::newRow("other theme") << QByteArray() << file + "Adwaita\n" << QString();
+    QTest::newRow("no text") << QByteArray() << QByteArray("\0=\xff\n=\n=x", 9) << QString();
+}
+
+void WindowKeyboardTest::gtkThemeAsksForContrast()
+{
+    QFETCH(const QByteArray, variable);
+    QFETCH(const QByteArray, settings);
+    QFETCH(const QString, scheme);
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(u"gtk-3.0"_s));
+    QFile file(folder.filePath(u"gtk-3.0/settings.ini"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(settings);
+    file.close();
+    qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
+    variable.isNull() ? qunsetenv("GTK_THEME") : qputenv("GTK_THEME", variable);
+    QCOMPARE(contrastSchemeOfTheme(), scheme);
+    qunsetenv("GTK_THEME");
+    qunsetenv("XDG_CONFIG_HOME");
 }
 
 void WindowKeyboardTest::mnemonics()
@@ -273,12 +329,12 @@ void WindowKeyboardTest::mnemonics()
     Mnemonics mnemonics;
     QVERIFY(mnemonics.claim(u"&Printer:"_s));
     QVERIFY(!mnemonics.claim(u"&Paper"_s));
-    QCOMPARE(mnemonics.assign(u"Paper"_s), u"P&aper"_s);
-    QCOMPARE(mnemonics.assign(u"Pa"_s), u"Pa"_s);
-    QCOMPARE(mnemonics.assign(Mnemonics::escaped(u"a & b"_s)), u"a && &b"_s);
-    QCOMPARE(mnemonics.assign(u"Pa&rt of it"_s), u"Part &of it"_s); // the beginning of a word, if possible
-    QCOMPARE(mnemonics.assign(u"用紙:"_s), u"用紙(&C):"_s);
-    QCOMPARE(mnemonics.assign(u"部数(&P):"_s), u"部数(&D):"_s);
+    // A text whose keys are all taken gets that of another one, which gets a different one.
+    QCOMPARE(mnemonics.assign({u"Paper"_s, u"Pa"_s, Mnemonics::escaped(u"b & c"_s), u"Pa&rt of it"_s,
+                               u"用紙:"_s, u"部数(&P):"_s, u"Toad"_s, u"To"_s}),
+             QStringList({u"Pap&er"_s, u"P&a"_s, u"&b && c"_s, u"Part of &it"_s, u"用紙(&C):"_s,
+                          u"部数(&D):"_s, u"T&oad"_s, u"&To"_s}));
+    QCOMPARE(mnemonics.assign({u"top"_s}), QStringList(u"top"_s));
 }
 
 QTEST_MAIN(WindowKeyboardTest)

@@ -34,6 +34,11 @@ QWidget *Guide::addButtons(const QList<std::pair<QWidget *, QString>> &explained
     return m_buttons;
 }
 
+void Guide::addNote(QWidget *note)
+{
+    m_buttons->addNote(note);
+}
+
 void Guide::setActive(bool active)
 {
     m_isActive = active;

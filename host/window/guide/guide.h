@@ -28,6 +28,8 @@ public:
     // Creates what can wait until after the first paint: the buttons, and what parts of the window say of
     // themselves, by the name of their explanation. The window finds a place for the buttons.
     QWidget *addButtons(const QList<std::pair<QWidget *, QString>> &explained);
+    // Shows a note behind the buttons, with them, and owns it. After addButtons().
+    void addNote(QWidget *note);
     // Shows the buttons while settings can be made.
     void setActive(bool active);
     // Hides the buttons while something else needs their place.

@@ -29,9 +29,8 @@ QPushButton *guideButton(const QString &text, const QString &name, QKeySequence:
 
 GuideButtons::GuideButtons(QWidget *parent) : QWidget(parent)
 {
-    // Without access keys: these are short in supply, and both have a key of their own.
-    QPushButton *find = guideButton(tr("Find…"), tr("Find a setting"), QKeySequence::Find, this);
-    QPushButton *help = guideButton(tr("Help"), tr("Help on this page"), QKeySequence::HelpContents, this);
+    QPushButton *find = guideButton(tr("&Find…"), tr("Find a setting"), QKeySequence::Find, this);
+    QPushButton *help = guideButton(tr("&Help"), tr("Help on this page"), QKeySequence::HelpContents, this);
     find->setWhatsThis(explanationOf(QStringLiteral("find")));
     help->setWhatsThis(explanationOf(QStringLiteral("help")));
     auto *row = new QHBoxLayout(this);

@@ -124,6 +124,8 @@ void HelpPage::fill()
     }
     space(document);
     m_browser->moveCursor(QTextCursor::Start);
+    // A screen reader reads the description when the browser gets the focus, but not the text.
+    m_browser->setAccessibleDescription(text());
 }
 
 QString HelpPage::text() const

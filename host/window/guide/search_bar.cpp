@@ -5,6 +5,7 @@
 
 #include "host/window/look/announced.h"
 #include "host/window/look/foreign_text.h"
+#include "host/window/look/quiet_list.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -27,34 +28,34 @@ constexpr int margin = 16; // pixels, at the sides
 
 SearchBar::SearchBar(QWidget *window, Search search)
     : QFrame(window), m_search(std::move(search)), m_field(new QLineEdit(this)),
-      m_results(new QListWidget(window)), m_nothing(new QLabel(this))
+      m_results(new QuietList<QListWidget>(window)), m_count(new QLabel(this))
 {
     m_field->setPlaceholderText(tr("Find a setting"));
     m_field->setAccessibleName(tr("Find a setting"));
-    m_field->setWhatsThis(tr("Type what you look for, in your words or as the printer’s driver calls it. "
-                             "Return leads to the setting."));
+    m_field->setWhatsThis(tr("Type the name of a setting, in your own words or as the printer driver has it. "
+                             "Press Return to go to the setting."));
     m_field->setClearButtonEnabled(true);
-    m_nothing->setText(tr("Nothing found"));
-    makeAnnounced(m_nothing);
-    m_nothing->hide();
+    makeAnnounced(m_count);
+    m_count->hide();
     auto *close = new QToolButton(this);
     close->setAutoRaise(true);
     close->setText(QStringLiteral("✕"));
     close->setAccessibleName(tr("Close the search"));
     close->setToolTip(tr("Close the search"));
     close->setFocusPolicy(Qt::TabFocus);
-    close->setWhatsThis(tr("Takes the search away. The settings stay as they are."));
+    close->setWhatsThis(tr("Closes the search. The settings do not change."));
     connect(close, &QToolButton::clicked, this, &SearchBar::close);
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(margin, 6, margin, 6);
     row->setSpacing(8);
     row->addWidget(m_field, 1);
-    row->addWidget(m_nothing);
+    row->addWidget(m_count);
     row->addWidget(close);
 
     m_results->setAccessibleName(tr("Settings found"));
-    m_results->setWhatsThis(tr("What has been found, with its page first. Return leads to the setting."));
+    m_results->setWhatsThis(
+        tr("The settings that were found, each with its page. Press Return to go to the setting."));
     m_results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_results->setTextElideMode(Qt::ElideMiddle);
     m_results->setUniformItemSizes(true);
@@ -102,13 +103,22 @@ void SearchBar::search()
     }
     m_results->setCurrentRow(found.isEmpty() ? -1 : 0);
     m_results->setVisible(!found.isEmpty());
-    const bool isVain = found.isEmpty() && !m_field->text().trimmed().isEmpty();
-    m_nothing->setVisible(isVain);
-    if (isVain)
-        announce(m_nothing, m_nothing->text());
-    m_field->setAccessibleDescription(
-        found.isEmpty() ? QString() : tr("%n setting(s) found", nullptr, static_cast<int>(found.size())));
+    showCount(static_cast<int>(found.size()));
     placeResults();
+}
+
+// Announced when it changes, since the results appear without the focus.
+void SearchBar::showCount(int count)
+{
+    const QString text = m_field->text().trimmed().isEmpty() ? QString()
+                         : count == 0                        ? tr("Nothing found")
+                                                             : tr("%n settings found", nullptr, count);
+    m_field->setAccessibleDescription(text);
+    if (text != m_count->text()) {
+        m_count->setText(text);
+        announce(m_count, text);
+    }
+    m_count->setVisible(!text.isEmpty());
 }
 
 // Under the field and as wide, as high as it takes, but inside the window.

@@ -49,6 +49,7 @@ protected:
 
 private:
     void search();
+    void showCount(int count);
     void placeResults();
     void pick(int index);
     bool handleKey(QObject *watched, int key);
@@ -56,7 +57,7 @@ private:
     Search m_search;
     QLineEdit *m_field;
     QListWidget *m_results; // the window's; over its other parts
-    QLabel *m_nothing;      // says that nothing has been found, in the bar
+    QLabel *m_count;        // how many settings have been found, in the bar
     QPointer<QWidget> m_before;
 };
 

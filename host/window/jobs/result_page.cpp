@@ -194,7 +194,7 @@ QString ResultPage::sentence(const JobStatus &status) const
     if (status.state == JobStatus::State::Held && !status.isHeldByUser)
         sentence +=
             QLatin1Char('\n') +
-            tr("A private job is printed once you enter its code at the printer “%1”.").arg(m_printer);
+            tr("A private job is printed once you enter its password at the printer “%1”.").arg(m_printer);
     return status.message.isEmpty() ? sentence : sentence + QLatin1Char('\n') + status.message;
 }
 

@@ -11,13 +11,20 @@
 #include <QFontMetrics>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
 
 const char *const textProperty = "text";
 
-// Labels and buttons whose text may hold an access key, hidden ones included.
+bool hasLetter(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+// Labels of fields, and buttons, that are to have an access key, hidden ones included.
 QList<QWidget *> keyedWidgets(QWidget *part)
 {
     QList<QWidget *> found;
@@ -25,9 +32,10 @@ QList<QWidget *> keyedWidgets(QWidget *part)
     all.prepend(part);
     for (QWidget *widget : std::as_const(all)) {
         const auto *label = qobject_cast<QLabel *>(widget);
-        const bool keyed = label ? label->buddy() && !label->property(AccessKeys::keylessProperty).toBool()
-                                 : qobject_cast<QAbstractButton *>(widget) != nullptr;
-        if (keyed && !widget->property(textProperty).toString().isEmpty())
+        const bool isNamed =
+            label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
+        if (isNamed && !widget->property(AccessKeys::keylessProperty).toBool() &&
+            hasLetter(widget->property(textProperty).toString()))
             found.append(widget);
     }
     return found;
@@ -66,23 +74,31 @@ void AccessKeys::assign()
     m_queued = false;
     Mnemonics keys;
     QHash<QWidget *, Texts> texts;
+    QList<QList<QWidget *>> without;
     for (QWidget *part : std::as_const(m_parts)) {
-        QList<QWidget *> without;
+        without.append(QList<QWidget *>());
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
                 continue;
             widget->installEventFilter(this);
-            const QString own = ownText(widget);
             Texts known = m_texts.value(widget);
-            known.own = known.shown = own;
+            known.own = ownText(widget);
+            // What is hidden stays as it is: a changed text is an event for a screen reader.
+            const bool isShown = widget->isVisibleTo(m_window);
+            known.shown = isShown ? known.own : widget->property(textProperty).toString();
             texts.insert(widget, known);
-            if (!widget->isVisibleTo(m_window) || keys.claim(own))
-                continue;
-            if (qobject_cast<QLabel *>(widget) || !Mnemonics::keyOf(own).isNull())
-                without.append(widget);
+            if (isShown && !keys.claim(known.own))
+                without.last().append(widget);
         }
-        for (QWidget *widget : std::as_const(without))
-            texts[widget].shown = keys.assign(texts[widget].own);
+    }
+    // What is shown for a moment, such as the answers to a question, comes before the page.
+    for (auto part = without.crbegin(); part != without.crend(); ++part) {
+        QStringList wishes;
+        for (QWidget *widget : *part)
+            wishes.append(texts[widget].own);
+        const QStringList shown = keys.assign(wishes);
+        for (qsizetype i = 0; i < shown.size(); ++i)
+            texts[part->at(i)].shown = shown.at(i);
     }
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {

@@ -14,19 +14,23 @@ class QWidget;
 
 namespace host {
 
-// Ensures that no two texts on the screen have the same access key, even between host, panels and
-// translations: the parts of a window choose one after the other, and where a key is taken the text gets
-// another. Labels of fields that ask for none get one, too. Follows what is shown and hidden. A child of its
-// window.
+// Gives every label of a field and every button on the screen an access key, and no key twice, even between
+// host, panels and translations. The parts of a window choose one after the other; where the key that a text
+// asks for is taken, or it asks for none, it gets another one. Follows what is shown and hidden. A child of
+// its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
 public:
-    // Set to true on a label that names its field and leaves the keys to others.
+    // Set to true on a label or button that is to have no key.
     static constexpr const char *keylessProperty = "keyless";
 
-    // Earlier parts have the first choice. They belong to the window and outlive this object.
+    // Earlier parts have the first choice of the keys that their texts ask for, later ones of those that are
+    // left. The parts belong to the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);
+
+    // Adds a part that has the first choice, as it is shown with every page.
+    void addPart(QWidget *part) { m_parts.prepend(part); }
 
     // Looks at what is shown now.
     void assign();

@@ -13,7 +13,7 @@ LinkLabel::LinkLabel(QWidget *parent) : QLabel(parent)
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
-    setAccessibleDescription(tr("Shows the control of this setting"));
+    setAccessibleDescription(tr("Go to this setting"));
     setWhatsThis(accessibleDescription());
 }
 

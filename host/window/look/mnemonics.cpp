@@ -12,6 +12,7 @@ namespace {
 const QString mark = QStringLiteral("&");
 const QString endings = QStringLiteral(":：….");
 constexpr qsizetype bracketLength = 4; // of "(&K)"
+constexpr qsizetype taken = -1;        // the owner of a key that stays where it is
 
 // Where the "(&K)" of a text begins, as East Asian texts have it; -1 where there is none. By hand, as all
 // here: these texts are looked through before the window is first seen, and regular expressions cost half a
@@ -73,7 +74,7 @@ bool Mnemonics::take(QChar key)
 {
     if (m_used.contains(key.toLower()))
         return false;
-    m_used.insert(key.toLower());
+    m_used.insert(key.toLower(), taken);
     return true;
 }
 
@@ -83,10 +84,22 @@ bool Mnemonics::claim(const QString &text)
     return !key.isNull() && take(key);
 }
 
-QString Mnemonics::assign(const QString &text)
+// A text that is to get a key.
+struct Mnemonics::Wish
 {
-    QString bare = text;
-    qsizetype bracket = placeOfBracket(text);
+    QString bare;            // without the key that it asks for
+    qsizetype bracket = -1;  // where a key in brackets goes; -1 for a text with letters of its own
+    QList<qsizetype> places; // of letters that may be its key, the best first
+    QChar key;               // null while it has none
+    bool isVisited = false;  // by the present search
+
+    explicit Wish(const QString &text);
+    QList<QChar> keys() const;
+    QString shown() const;
+};
+
+Mnemonics::Wish::Wish(const QString &text) : bare(text), bracket(placeOfBracket(text))
+{
     if (bracket >= 0) {
         bare.remove(bracket, bracketLength);
         if (bracket > 0 && bare.at(bracket - 1).isSpace())
@@ -97,21 +110,76 @@ QString Mnemonics::assign(const QString &text)
     // A figure in a text whose letters cannot be typed would be the only key of its kind.
     const bool hasLetters = bracket < 0 && std::any_of(bare.cbegin(), bare.cend(),
                                                        [](QChar c) { return isTypable(c) && c.isLetter(); });
+    if (!hasLetters) {
+        bracket = bracket < 0 ? placeOfEnding(bare) : bracket;
+        return;
+    }
     for (const bool atWords : {true, false}) {
-        for (qsizetype i = 0; hasLetters && i < bare.size(); ++i) {
-            if (isTypable(bare.at(i)) && beginsWord(bare, i) >= atWords && take(bare.at(i)))
-                return bare.insert(i, mark);
+        for (qsizetype i = 0; i < bare.size(); ++i) {
+            if (isTypable(bare.at(i)) && beginsWord(bare, i) == atWords)
+                places.append(i);
         }
     }
-    if (hasLetters)
+}
+
+QList<QChar> Mnemonics::Wish::keys() const
+{
+    QList<QChar> keys;
+    for (const qsizetype place : places)
+        keys.append(bare.at(place).toLower());
+    for (char key = 'a'; bracket >= 0 && key <= 'z'; ++key)
+        keys.append(QLatin1Char(key));
+    return keys;
+}
+
+QString Mnemonics::Wish::shown() const
+{
+    if (key.isNull())
         return bare;
-    if (bracket < 0)
-        bracket = placeOfEnding(bare);
-    for (char key = 'A'; key <= 'Z'; ++key) {
-        if (take(QLatin1Char(key)))
-            return bare.insert(bracket, QStringLiteral("(&%1)").arg(QLatin1Char(key)));
+    if (bracket >= 0)
+        return QString(bare).insert(bracket, QStringLiteral("(&%1)").arg(key.toUpper()));
+    const auto place = std::find_if(places.begin(), places.end(),
+                                    [this](qsizetype i) { return bare.at(i).toLower() == key; });
+    return QString(bare).insert(*place, mark);
+}
+
+// A search for an augmenting path: a text whose keys are all taken gets that of another, which gets a
+// different one.
+bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index)
+{
+    Wish &wish = (*wishes)[index];
+    wish.isVisited = true;
+    const QList<QChar> keys = wish.keys();
+    auto key = std::find_if(keys.begin(), keys.end(), [this](QChar k) { return !m_used.contains(k); });
+    if (key == keys.end()) {
+        key = std::find_if(keys.begin(), keys.end(), [this, wishes](QChar k) {
+            const qsizetype owner = m_used.value(k);
+            return owner != taken && !wishes->at(owner).isVisited && giveKey(wishes, owner);
+        });
     }
-    return bare;
+    if (key == keys.end())
+        return false;
+    wish.key = *key;
+    m_used.insert(*key, index);
+    return true;
+}
+
+QStringList Mnemonics::assign(const QStringList &texts)
+{
+    QList<Wish> wishes;
+    for (const QString &text : texts)
+        wishes.append(Wish(text));
+    for (qsizetype i = 0; i < wishes.size(); ++i) {
+        for (Wish &wish : wishes)
+            wish.isVisited = false;
+        giveKey(&wishes, i);
+    }
+    for (qsizetype &owner : m_used)
+        owner = taken;
+    QStringList shown;
+    for (const Wish &wish : std::as_const(wishes))
+        shown.append(wish.shown());
+    return shown;
 }
 
 } // namespace host

@@ -20,8 +20,12 @@ QList<QWidget *> tabStops(QWidget *part)
 void chainTabOrder(const QList<QWidget *> &parts)
 {
     QList<QWidget *> chain;
-    for (QWidget *part : parts)
-        chain += tabStops(part);
+    for (QWidget *part : parts) {
+        for (QWidget *stop : tabStops(part)) {
+            if (!chain.contains(stop))
+                chain.append(stop);
+        }
+    }
     for (qsizetype i = 1; i < chain.size(); ++i)
         QWidget::setTabOrder(chain.at(i - 1), chain.at(i));
 }

@@ -12,7 +12,8 @@ namespace host {
 // focus chain; the part itself included.
 QList<QWidget *> tabStops(QWidget *part);
 
-// Makes the Tab key go from part to part of a window in this order; within each the order stays as it is.
+// Makes the Tab key go from part to part of a window in this order; within each the order stays as it is. A
+// part within another one comes first where it is named first.
 void chainTabOrder(const QList<QWidget *> &parts);
 
 } // namespace host

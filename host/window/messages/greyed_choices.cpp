@@ -35,7 +35,7 @@ Message messageOf(const ForcedChoice &forced)
     for (qsizetype i = 0; i < forced.changes.size(); ++i)
         message.lines.append(
             QStringLiteral("•  ") +
-            GreyedChoices::tr("%1 instead of “%2”", "an option with its choice, and another choice")
+            GreyedChoices::tr("“%1” instead of “%2”", "an option with its choice, and another choice")
                 .arg(forced.changes.at(i).text(), forced.before.at(i).choiceText));
     for (const QString &protection : forced.givenUp)
         message.lines.append(

@@ -6,6 +6,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
+#include "host/window/look/announced.h"
 #include "host/window/look/contrast.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
@@ -39,9 +40,9 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
     m_pages->setObjectName(QStringLiteral("page-ranges"));
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 20, 24, 20);
+    grid->setContentsMargins(24, 14, 24, 12);
     grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(10);
+    grid->setVerticalSpacing(6); // the whole page fits a screen of 768 lines
     grid->setColumnStretch(2, 1);
     grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this)); // nothing moves when it is made
     addDocuments(grid);
@@ -130,6 +131,7 @@ void GeneralPage::addDocuments(QGridLayout *grid)
         return;
     m_documentBox = new DocumentBox(m_documents, this);
     m_documentBox->setWhatsThis(explanationOf(QStringLiteral("documents")));
+    setTabOrder(this, m_documentBox); // it is above everything else
     auto *label = new QLabel(tr("Documents:"), this);
     label->setBuddy(m_documentBox);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
@@ -144,10 +146,21 @@ void GeneralPage::addSavePdf(QGridLayout *grid)
         return;
     auto *button = new DialogButton(tr("Save as PDF…"), this);
     button->setAutoDefault(false);
-    button->setToolTip(tr("Write the pages into a file instead of printing them"));
+    button->setToolTip(tr("Save the pages to a file instead of printing them"));
     button->setWhatsThis(explanationOf(QStringLiteral("save-pdf")));
-    grid->addWidget(button, grid->rowCount(), 1, Qt::AlignLeading);
+    auto *preview = new DialogButton(tr("Preview…"), this);
+    preview->setAutoDefault(false);
+    preview->setToolTip(tr("Show the pages in a window of their own"));
+    preview->setWhatsThis(explanationOf(QStringLiteral("preview")));
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(preview);
+    row->addWidget(button);
+    row->addStretch(1);
+    grid->addLayout(row, grid->rowCount(), 1);
     connect(button, &QPushButton::clicked, this, &GeneralPage::savePdfWanted);
+    connect(preview, &QPushButton::clicked, this, &GeneralPage::previewWanted);
+    setTabOrder(preview, button);
 }
 
 void GeneralPage::addCopies(QGridLayout *grid)
@@ -181,7 +194,7 @@ void GeneralPage::enableCollate()
 {
     const bool several = m_copies->value() > 1;
     m_collate->setEnabled(several);
-    m_collate->setToolTip(several ? tr("Print each copy whole before the next one begins")
+    m_collate->setToolTip(several ? tr("Print each complete copy before the next one")
                                   : tr("Not available while \"%1\" is \"%2\".").arg(tr("Copies")).arg(1));
 }
 
@@ -208,6 +221,7 @@ void GeneralPage::addPages(QGridLayout *grid)
     m_allPages->setChecked(pages.isEmpty());
     m_somePages->setChecked(!pages.isEmpty());
     enablePages(!pages.isEmpty());
+    makeAnnounced(m_problem);
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_problem->hide();
@@ -256,7 +270,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
 void GeneralPage::showSides()
 {
     const int pages = m_session->general().layout.pagesPerSide;
-    m_sides->setText(tr("The numbers count printed sides, each with %1 pages.").arg(pages));
+    m_sides->setText(tr("The numbers refer to printed sides with %1 pages each.").arg(pages));
     m_sides->setVisible(pages > 1 && m_somePages->isChecked());
 }
 
@@ -289,7 +303,7 @@ QString GeneralPage::pagesProblem() const
     if (!m_somePages->isChecked())
         return {};
     if (m_pages->text().trimmed().isEmpty())
-        return tr("Type which pages are to be printed, or choose all.");
+        return tr("Enter the pages to print, or choose all pages.");
     QString problem;
     const auto ranges = normalizedPageRanges(m_pages->text(), &problem);
     return ranges && m_rangeCheck ? m_rangeCheck->problem(*ranges) : problem;
@@ -299,6 +313,7 @@ void GeneralPage::showProblem()
 {
     if (m_documents && !m_documents->paths().isEmpty() && m_documents->included().isEmpty()) {
         m_problem->setText(problem());
+        announce(m_problem, problem());
         m_problem->show();
         m_documentBox->setFocus();
         return;
@@ -313,11 +328,14 @@ void GeneralPage::showProblem()
     m_pages->selectAll();
 }
 
-// A screen reader speaks it as part of the field.
+// Announced once for each problem, and kept as the description of the field.
 void GeneralPage::setProblemShown(bool shown)
 {
+    const QString problem = shown ? m_problem->text() : QString();
+    m_pages->setAccessibleDescription(shown ? problem : m_pages->toolTip());
+    if (problem != std::exchange(m_announced, problem) && shown)
+        announce(m_problem, problem);
     m_problem->setVisible(shown);
-    m_pages->setAccessibleDescription(shown ? m_problem->text() : m_pages->toolTip());
 }
 
 void GeneralPage::paintProblem()

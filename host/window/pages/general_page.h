@@ -45,6 +45,7 @@ Q_SIGNALS:
     // Which pages are printed, or how, has become another.
     void pagesChanged();
     void savePdfWanted();
+    void previewWanted();
     // It has more controls than before.
     void grown();
 
@@ -81,6 +82,7 @@ private:
     QRadioButton *m_somePages;
     QLineEdit *m_pages;
     QLabel *m_problem;
+    QString m_announced; // the problem that was announced last; null while there is none
     QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // that another program offers
     QLabel *m_sides;                                                 // what the numbers of a range count
     OptionForm *m_form = nullptr;

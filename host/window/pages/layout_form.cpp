@@ -4,7 +4,6 @@
 #include "host/window/pages/layout_form.h"
 
 #include "host/session/dialog_session.h"
-#include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
 #include "platform/choice_box.h"
 
@@ -50,7 +49,7 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     addRow(order, tr("Order:"), PageLayoutSettings::orders(), grid);
     addRow(border, tr("Border:"), PageLayoutSettings::borders(), grid);
     addRow(orientation, tr("Orientation:"), {QString(), QStringLiteral("3"), QStringLiteral("4")}, grid);
-    addRow(scaling, tr("Size:"), {QString(), QStringLiteral("fit"), QStringLiteral("none")}, grid);
+    addRow(scaling, tr("Scaling:"), {QString(), QStringLiteral("fit"), QStringLiteral("none")}, grid);
     addRow(pageSet, tr("Odd or even:"), PageLayoutSettings::pageSets(), grid);
     addReverse(grid);
     refresh();
@@ -60,7 +59,7 @@ int LayoutForm::labelWidth(const QWidget *page)
 {
     int width = 0;
     for (const QString &label : {tr("Pages per side:"), tr("Order:"), tr("Border:"), tr("Orientation:"),
-                                 tr("Size:"), tr("Odd or even:")})
+                                 tr("Scaling:"), tr("Odd or even:")})
         width = qMax(width, page->fontMetrics().horizontalAdvance(label));
     return width + 2; // as a label has it
 }
@@ -85,8 +84,6 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
     box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    // An access key for those that are wanted most: with the printer's own options there are too few letters.
-    text->setProperty(AccessKeys::keylessProperty, name != numberUp && name != orientation);
     text->setBuddy(box); // by which screen readers name the box
     const int row = grid->rowCount();
     grid->addWidget(text, row, 0);

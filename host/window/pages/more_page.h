@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "host/window/look/mnemonics.h"
-
 #include <QStringList>
 #include <QWidget>
 
@@ -50,7 +48,6 @@ private:
 
     DialogSession *m_session;
     QGridLayout *m_grid;
-    Mnemonics m_mnemonics;
     QList<Part> m_toBuild;
     QList<OptionForm *> m_forms;
     bool m_painted = false;

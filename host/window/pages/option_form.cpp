@@ -39,8 +39,10 @@ OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGri
 void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
 {
     const auto option = m_session->ppd()->option(keyword);
+    const int panel = m_session->panelOfKeyword(keyword);
     if (!option || (option->choices.isEmpty() && !option->custom) ||
-        m_session->rule().hiddenOptions.contains(keyword))
+        m_session->rule().hiddenOptions.contains(keyword) ||
+        (panel >= 0 && m_session->rule().hidesPanel(m_session->panel(panel)->panelKind())))
         return;
     auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);
@@ -48,7 +50,9 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
     box->setObjectName(option->keyword);
     box->setOptionKeyword(option->keyword);
     box->setAccessibleName(oneLine(option->text));
-    box->setWhatsThis(explanationOf(option->keyword));
+    const bool isColor = option->keyword == colorOptionKeyword(*m_session->ppd());
+    box->setWhatsThis(explanationOf(isColor ? QStringLiteral("print-color-mode") : option->keyword));
+    box->setEnabled(panel < 0 || !m_session->isPanelLocked(panel));
     for (const PpdOption::Choice &choice : option->choices) {
         box->addItem(oneLine(choice.text), choice.keyword);
         box->setItemData(box->count() - 1, choice.keyword, platform::ChoiceBox::choiceRole);
@@ -73,7 +77,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
         grid->addWidget(editor, row + 1, 1);
         connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
     }
-    if (!m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
+    if (!box->isEnabled() || !m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
         addAttribution(box, grid, row + 2);
     connect(box, &QComboBox::activated, this, [this, index] { choose(index); });
 }

@@ -20,6 +20,7 @@
 #include "host/window/pages/page_frame.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/pages/summary_page.h"
+#include "host/window/preview/preview_dialog.h"
 #include "host/window/preview/preview_pane.h"
 #include "platform/panel_extras.h"
 
@@ -205,6 +206,10 @@ QWidget *PageBook::contentOf(const Page &page)
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
+        connect(m_general, &GeneralPage::previewWanted, this, [this] {
+            (new PreviewDialog(m_documents, pageSettings(*m_session), isTwoSided(*m_session), window()))
+                ->show();
+        });
         return m_general;
     }
     if (page.name == moreName) {
@@ -364,8 +369,12 @@ void PageBook::showChanges()
         return;
     QSet<int> changed;
     for (const QString &key : m_history->base().state.differencesTo(m_history->now())) {
-        if (key != QLatin1String("destination"))
-            changed.insert(rowOf(key));
+        if (key == QLatin1String("destination"))
+            continue;
+        changed.insert(rowOf(key));
+        if (m_session->ppd() &&
+            generalOptionKeywords(*m_session->ppd()).contains(key)) // a panel may have it, too
+            changed.insert(pageNamed(generalName));
     }
     for (int row = 0; row < static_cast<int>(m_pages.size()); ++row)
         m_list->setChanged(row, changed.contains(row));

@@ -61,12 +61,11 @@ QString RangeCheck::problem(const QString &ranges)
     if (included > 1) {
         const QString name = oneLine(m_documents->name(longest));
         return pagesPerSide > 1
-                   ? tr("The longest document, “%1”, has only %2 printed sides.")
-                         .arg(name, QString::number(last))
-                   : tr("The longest document, “%1”, has only %2 pages.").arg(name, QString::number(last));
+                   ? tr("The longest document, “%1”, has only %n printed sides.", nullptr, last).arg(name)
+                   : tr("The longest document, “%1”, has only %n pages.", nullptr, last).arg(name);
     }
-    return pagesPerSide > 1 ? tr("There are only %1 printed sides.").arg(last)
-                            : tr("The document has only %1 pages.").arg(last);
+    return pagesPerSide > 1 ? tr("There are only %n printed sides.", nullptr, last)
+                            : tr("The document has only %n pages.", nullptr, last);
 }
 
 } // namespace host

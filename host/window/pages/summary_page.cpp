@@ -3,6 +3,7 @@
 
 #include "host/window/pages/summary_page.h"
 
+#include "host/window/look/contrast.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/look/link_label.h"
@@ -83,7 +84,9 @@ void SummaryPage::showChanged(const DialogSession &session, const QList<SettingC
     m_changed.clear();
     for (const SettingChange &change : changes) {
         const int page = pageOf(session, change.key);
-        const QString title = page >= 0 ? session.panel(page)->panelName() : m_all.first().title;
+        const QString title = page >= 0          ? session.panel(page)->panelName()
+                              : page == morePage ? moreSummary(session).title
+                                                 : m_all.first().title;
         auto part = std::find_if(m_changed.begin(), m_changed.end(),
                                  [&](const Part &known) { return known.title == title; });
         if (part == m_changed.end())
@@ -152,9 +155,7 @@ QWidget *SummaryPage::nameWidget(const Line &line)
     label->setTextFormat(Qt::PlainText);
     label->setText(elided(line.name, label, nameWidth));
     QPalette muted = label->palette();
-    QColor colour = muted.color(QPalette::WindowText);
-    colour.setAlphaF(0.72F);
-    muted.setColor(QPalette::WindowText, colour);
+    muted.setColor(QPalette::WindowText, mutedInk(muted));
     label->setPalette(muted);
     return label;
 }

@@ -173,7 +173,7 @@ void SettingsControl::showName()
     if (m_history && !m_history->base().state.differencesTo(m_history->now()).isEmpty())
         text = tr("%1 (changed)", "the name of settings").arg(text);
     // Some styles leave no space before the arrow of a menu.
-    const QString label = tr("Settings: %1").arg(Mnemonics::escaped(text)) + QLatin1Char(' ');
+    const QString label = tr("&Settings: %1").arg(Mnemonics::escaped(text)) + QLatin1Char(' ');
     if (m_button->text().remove(QLatin1Char('&')) != QString(label).remove(QLatin1Char('&')))
         m_button->setText(label);
     m_undo->setEnabled(m_history && m_history->steps()->canUndo() && m_isActive);

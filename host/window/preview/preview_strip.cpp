@@ -64,7 +64,7 @@ private:
 };
 
 PreviewStrip::PreviewStrip(Preview *preview, QWidget *parent)
-    : QListView(parent), m_model(new PreviewStripModel(preview, this))
+    : QuietList(parent), m_model(new PreviewStripModel(preview, this))
 {
     setAccessibleName(tr("Pages"));
     setModel(m_model);
@@ -109,7 +109,7 @@ void PreviewStrip::setCurrent(int page)
 
 void PreviewStrip::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QListView::currentChanged(current, previous);
+    QuietList::currentChanged(current, previous);
     if (current.isValid())
         Q_EMIT picked(current.row());
 }

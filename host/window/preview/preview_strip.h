@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/window/look/quiet_list.h"
+
 #include <QListView>
 
 namespace host {
@@ -11,7 +13,7 @@ class Preview;
 class PreviewStripModel;
 
 // All pages of a preview, small, in a row. Only those in view are made. The preview is borrowed.
-class PreviewStrip : public QListView
+class PreviewStrip : public QuietList<QListView>
 {
     Q_OBJECT
 public:

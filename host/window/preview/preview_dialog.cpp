@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/preview/preview_dialog.h"
+
+#include "host/preview/page_tools.h"
+#include "host/session/document_choice.h"
+#include "host/window/look/dialog_button.h"
+#include "host/window/preview/preview_pane.h"
+
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace host {
+
+namespace {
+
+constexpr QSize widest(900, 1100); // pixels
+constexpr int roomAround = 60;     // pixels of the screen that stay free
+
+} // namespace
+
+PreviewDialog::PreviewDialog(DocumentChoice *choice, const PageSettings &settings, bool isTwoSided,
+                             QWidget *parent)
+    : QDialog(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(true);
+    setWindowTitle(tr("Preview"));
+    auto *pane = new PreviewPane(choice, this);
+    pane->setSettings(settings, isTwoSided);
+    auto *close = new DialogButton(tr("&Close"), this);
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(12, 0, 12, 12);
+    row->addStretch(1);
+    row->addWidget(close);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(pane, 1);
+    column->addLayout(row);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    const QSize room = screen()->availableSize() - QSize(roomAround, roomAround);
+    resize(widest.boundedTo(room));
+    pane->begin(PageTools::installed());
+    close->setFocus();
+}
+
+} // namespace host

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QDialog>
+
+namespace host {
+
+class DocumentChoice;
+struct PageSettings;
+
+// The preview in a window of its own, as large as the screen allows, for screens on which the dialog has no
+// room for it. Modal to its parent, and deleted when it is closed. The choice of documents is borrowed.
+class PreviewDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    PreviewDialog(DocumentChoice *choice, const PageSettings &settings, bool isTwoSided, QWidget *parent);
+};
+
+} // namespace host
