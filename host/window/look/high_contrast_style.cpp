@@ -56,9 +56,11 @@ void HighContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOpti
                                       const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    const bool isInsideField = element == PE_PanelLineEdit && frame && frame->lineWidth == 0;
     if (element == PE_IndicatorRadioButton)
         drawOutline(*option, painter, Shape::Circle);
-    else if (element == PE_PanelLineEdit || element == PE_IndicatorCheckBox ||
+    else if ((element == PE_PanelLineEdit && !isInsideField) || element == PE_IndicatorCheckBox ||
              element == PE_IndicatorItemViewItemCheck)
         drawOutline(*option, painter);
 }
