@@ -382,7 +382,7 @@ void DialogSessionTest::secretSettings()
     QCOMPARE(session.isSecret(setting), isSecret);
     if (session.ppd()->hasOption(setting)) {
         session.markChoice(setting, session.ppd()->option(setting)->choices.last().keyword);
-        const auto shown = session.summary().first().entries.last();
+        const auto shown = session.summary().last().entries.last();
         QCOMPARE(shown.second == u"•"_s, isSecret);
     }
 }
