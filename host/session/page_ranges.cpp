@@ -20,6 +20,8 @@ struct Range
 {
     int first = 1;
     int last = lastPage;
+
+    bool contains(int page) const { return first <= page && page <= last; }
 };
 
 struct PageRangesText
@@ -77,6 +79,25 @@ std::vector<Range> merged(std::vector<Range> ranges)
     return result;
 }
 
+QString textOf(const std::vector<Range> &ranges)
+{
+    QStringList texts;
+    for (const Range &range : ranges)
+        texts.append(rangeText(range));
+    return texts.join(QLatin1Char(','));
+}
+
+// Of normalized ranges.
+std::vector<Range> rangesOf(const QString &text)
+{
+    if (text.isEmpty())
+        return {Range()};
+    std::vector<Range> ranges;
+    for (const QString &part : text.split(QLatin1Char(',')))
+        ranges.push_back(parseRange(part).value_or(Range()));
+    return ranges;
+}
+
 } // namespace
 
 std::optional<QString> normalizedPageRanges(const QString &text, QString *error)
@@ -97,10 +118,46 @@ std::optional<QString> normalizedPageRanges(const QString &text, QString *error)
         }
         ranges.push_back(*range);
     }
-    QStringList texts;
-    for (const Range &range : merged(std::move(ranges)))
-        texts.append(rangeText(range));
-    return texts.join(QLatin1Char(','));
+    return textOf(merged(std::move(ranges)));
+}
+
+bool containsPage(const QString &ranges, int page)
+{
+    const std::vector<Range> all = rangesOf(ranges);
+    return std::any_of(all.begin(), all.end(), [page](const Range &range) { return range.contains(page); });
+}
+
+int countPages(const QString &ranges, int last)
+{
+    int count = 0;
+    for (const Range &range : rangesOf(ranges))
+        count += std::max(0, std::min(range.last, last) - range.first + 1);
+    return count;
+}
+
+std::optional<QString> withPageToggled(const QString &ranges, int page, int count)
+{
+    std::vector<Range> toggled;
+    bool isRemoved = false;
+    for (const Range &range : rangesOf(ranges)) {
+        if (!range.contains(page)) {
+            toggled.push_back(range);
+            continue;
+        }
+        isRemoved = true;
+        if (range.first < page)
+            toggled.push_back({range.first, page - 1});
+        if (range.last > page)
+            toggled.push_back({page + 1, range.last});
+    }
+    if (!isRemoved)
+        toggled.push_back({page, page});
+    toggled = merged(std::move(toggled));
+    std::erase_if(toggled, [count](const Range &range) { return range.first > count; });
+    if (toggled.empty())
+        return std::nullopt;
+    const QString text = textOf(toggled);
+    return countPages(text, count) == count ? QString() : text;
 }
 
 } // namespace host

@@ -2349,6 +2349,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Shown as in the document</source>
         <translation>Wie im Dokument angezeigt</translation>
     </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Wird nicht gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>host::PreviewSheet</name>
@@ -2362,6 +2366,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Click the check box to leave this page out</source>
+        <translation>Klicken Sie auf das Kontrollkästchen, um diese Seite auszulassen</translation>
+    </message>
+    <message>
+        <source>This page is not printed</source>
+        <translation>Diese Seite wird nicht gedruckt</translation>
     </message>
 </context>
 <context>

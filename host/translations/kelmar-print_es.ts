@@ -2349,6 +2349,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Shown as in the document</source>
         <translation>Se muestra como en el documento</translation>
     </message>
+    <message>
+        <source>Not printed</source>
+        <translation>No se imprime</translation>
+    </message>
 </context>
 <context>
     <name>host::PreviewSheet</name>
@@ -2362,6 +2366,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Click the check box to leave this page out</source>
+        <translation>Haga clic en la casilla para omitir esta página</translation>
+    </message>
+    <message>
+        <source>This page is not printed</source>
+        <translation>Esta página no se imprime</translation>
     </message>
 </context>
 <context>

@@ -2349,6 +2349,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Shown as in the document</source>
         <translation>Affiché comme dans le document</translation>
     </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Non imprimée</translation>
+    </message>
 </context>
 <context>
     <name>host::PreviewSheet</name>
@@ -2362,6 +2366,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Pages</source>
         <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Click the check box to leave this page out</source>
+        <translation>Cliquez sur la case à cocher pour exclure cette page</translation>
+    </message>
+    <message>
+        <source>This page is not printed</source>
+        <translation>Cette page n’est pas imprimée</translation>
     </message>
 </context>
 <context>

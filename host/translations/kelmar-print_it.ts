@@ -2349,6 +2349,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Shown as in the document</source>
         <translation>Mostrata come nel documento</translation>
     </message>
+    <message>
+        <source>Not printed</source>
+        <translation>Non stampata</translation>
+    </message>
 </context>
 <context>
     <name>host::PreviewSheet</name>
@@ -2362,6 +2366,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Pages</source>
         <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>Click the check box to leave this page out</source>
+        <translation>Fare clic sulla casella di controllo per escludere questa pagina</translation>
+    </message>
+    <message>
+        <source>This page is not printed</source>
+        <translation>Questa pagina non viene stampata</translation>
     </message>
 </context>
 <context>

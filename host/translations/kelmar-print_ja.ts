@@ -2349,6 +2349,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Shown as in the document</source>
         <translation>文書のとおりに表示しています</translation>
     </message>
+    <message>
+        <source>Not printed</source>
+        <translation>印刷されません</translation>
+    </message>
 </context>
 <context>
     <name>host::PreviewSheet</name>
@@ -2362,6 +2366,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Click the check box to leave this page out</source>
+        <translation>チェックボックスをクリックすると、このページを除外します</translation>
+    </message>
+    <message>
+        <source>This page is not printed</source>
+        <translation>このページは印刷されません</translation>
     </message>
 </context>
 <context>

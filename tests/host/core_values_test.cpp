@@ -35,6 +35,8 @@ private Q_SLOTS:
     void initTestCase() { speakDialogLanguage(); }
     void pageRanges_data();
     void pageRanges();
+    void pageIsToggled_data();
+    void pageIsToggled();
     void sheetsAreCounted_data();
     void sheetsAreCounted();
     void documents_data();
@@ -84,6 +86,34 @@ void CoreValuesTest::pageRanges()
     QCOMPARE(ranges.has_value(), !expected.isNull());
     QCOMPARE(ranges.value_or(QString()), expected);
     QCOMPARE(error.isEmpty(), !expected.isNull());
+}
+
+void CoreValuesTest::pageIsToggled_data()
+{
+    QTest::addColumn<QString>("ranges"); // of a document with 5 pages
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("toggled"); // null where no page would be left
+    QTest::newRow("first of all") << QString() << 1 << u"2-"_s;
+    QTest::newRow("middle of all") << QString() << 3 << u"1-2,4-"_s;
+    QTest::newRow("last of all") << QString() << 5 << u"1-4"_s;
+    QTest::newRow("back again") << u"1-2,4-"_s << 3 << u""_s;
+    QTest::newRow("the missing page") << u"1-4"_s << 5 << u""_s;
+    QTest::newRow("between ranges") << u"1,3"_s << 2 << u"1-3"_s;
+    QTest::newRow("single page") << u"1,3"_s << 3 << u"1"_s;
+    QTest::newRow("only page") << u"3"_s << 3 << QString();
+    QTest::newRow("only page of the document") << u"3,9-"_s << 3 << QString();
+}
+
+void CoreValuesTest::pageIsToggled()
+{
+    QFETCH(const QString, ranges);
+    QFETCH(const int, page);
+    QFETCH(const QString, toggled);
+    const auto result = withPageToggled(ranges, page, 5);
+    QCOMPARE(result.has_value(), !toggled.isNull());
+    QCOMPARE(result.value_or(QString()), toggled);
+    QVERIFY(!result || containsPage(*result, page) != containsPage(ranges, page));
+    QVERIFY(!result || std::abs(countPages(*result, 5) - countPages(ranges, 5)) == 1);
 }
 
 void CoreValuesTest::sheetsAreCounted_data()

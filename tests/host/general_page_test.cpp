@@ -48,6 +48,7 @@ private Q_SLOTS:
     void rangeBeyondTheEnd_data();
     void rangeBeyondTheEnd();
     void smallPagesAppear();
+    void pagesAreLeftOut();
     void colorIsChosen_data();
     void colorIsChosen();
     void costIsShown();
@@ -257,6 +258,46 @@ void GeneralPageTest::smallPagesAppear()
                       strip->visualRect(strip->model()->index(1, 0)).center());
     QCOMPARE(strip->current(), 1);
     QVERIFY(events.count(QAccessible::Focus, strip) > 0);
+}
+
+// By the check boxes of the small pages, with the mouse and the keyboard.
+void GeneralPageTest::pagesAreLeftOut()
+{
+    if (!hasPreview())
+        QSKIP("cups-filters or poppler-utils is not installed");
+    openWith({report});
+    auto *strip = find<PreviewStrip>();
+    QTRY_VERIFY(strip && strip->model()->rowCount() == 2);
+    const auto isTicked = [strip](int row) {
+        return strip->model()->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    };
+    const QStyle *style = strip->style();
+    QStyleOptionViewItem option;
+    option.initFrom(strip);
+    option.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDecoration |
+                      QStyleOptionViewItem::HasDisplay;
+    option.decorationPosition = QStyleOptionViewItem::Top;
+    option.decorationSize = strip->iconSize();
+    option.text = u"2"_s;
+    option.rect = strip->visualRect(strip->model()->index(1, 0));
+    const QRect box = style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, strip);
+    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {}, box.center());
+    auto *field = find<QLineEdit>(u"page-ranges"_s);
+    QCOMPARE(field->text(), u"1"_s);
+    QVERIFY(field->isEnabled() && isTicked(0) && !isTicked(1));
+    QCOMPARE(m_window->session()->general().pages, u"1"_s);
+    QCOMPARE(strip->model()->rowCount(), 2); // it is still there to be taken in again
+    strip->setFocus();
+    strip->setCurrent(0);
+    QTest::keyClick(strip, Qt::Key_Space); // one page has to be left
+    QVERIFY(isTicked(0));
+    strip->setCurrent(1);
+    QTest::keyClick(strip, Qt::Key_Space);
+    QVERIFY(isTicked(1));
+    QCOMPARE(m_window->session()->general().pages, QString());
+    choose(u"page-set"_s, u"odd"_s); // the numbers are no longer those of the document
+    QTRY_COMPARE(strip->model()->rowCount(), 1);
+    QVERIFY(!strip->model()->index(0, 0).data(Qt::CheckStateRole).isValid());
 }
 
 void GeneralPageTest::colorIsChosen_data()

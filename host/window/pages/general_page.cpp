@@ -361,6 +361,13 @@ void GeneralPage::refresh()
         m_layout->refresh();
 }
 
+void GeneralPage::setRanges(const QString &ranges)
+{
+    m_session->general().part = GeneralSettings::Part::Pages;
+    m_session->general().pages = ranges;
+    showGeneral();
+}
+
 // What is being typed stays, as far as it says what is set.
 void GeneralPage::showGeneral()
 {

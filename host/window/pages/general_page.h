@@ -39,6 +39,8 @@ public:
     // Puts the cursor where the problem is.
     void showProblem();
     void refresh();
+    // Prints these pages, given as normalized ranges; the empty string for all.
+    void setRanges(const QString &ranges);
 
 Q_SIGNALS:
     void chosen(const QString &keyword);

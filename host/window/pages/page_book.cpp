@@ -101,6 +101,10 @@ PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
         m_preview = new PreviewPane(documents, m_area);
         m_preview->hide();
         pages->addWidget(m_preview);
+        connect(m_preview, &PreviewPane::rangesPicked, this, [this](const QString &ranges) {
+            if (m_general)
+                m_general->setRanges(ranges);
+        });
     }
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
     for (const auto &[key, steps] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}})
@@ -139,8 +143,24 @@ void PageBook::fitParts()
 
 void PageBook::updatePreview()
 {
-    if (m_session && m_previewBegun && m_preview->isVisibleTo(this))
-        m_preview->setSettings(pageSettings(*m_session), isTwoSided(*m_session));
+    const bool isShown = m_previewBegun && m_preview->isVisibleTo(this);
+    if (!m_session || !(isShown || m_largePreview))
+        return;
+    const PageSettings settings = pageSettings(*m_session);
+    const bool twoSided = isTwoSided(*m_session);
+    if (isShown)
+        m_preview->setSettings(settings, twoSided);
+    if (m_largePreview)
+        m_largePreview->setSettings(settings, twoSided);
+}
+
+void PageBook::openPreview()
+{
+    auto *dialog = new PreviewDialog(m_documents, window());
+    m_largePreview = dialog->pane();
+    connect(m_largePreview, &PreviewPane::rangesPicked, m_general, &GeneralPage::setRanges);
+    updatePreview();
+    dialog->show();
 }
 
 void PageBook::setSession(DialogSession *session, SessionHistory *history)
@@ -206,10 +226,7 @@ QWidget *PageBook::contentOf(const Page &page)
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
-        connect(m_general, &GeneralPage::previewWanted, this, [this] {
-            (new PreviewDialog(m_documents, pageSettings(*m_session), isTwoSided(*m_session), window()))
-                ->show();
-        });
+        connect(m_general, &GeneralPage::previewWanted, this, &PageBook::openPreview);
         return m_general;
     }
     if (page.name == moreName) {

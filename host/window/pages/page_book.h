@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <vector>
@@ -98,6 +99,7 @@ private:
     void followFocus(QWidget *now);
     void fitParts();
     void updatePreview();
+    void openPreview();
     int rowOf(const QString &key) const;
     void showSummary();
 
@@ -110,7 +112,8 @@ private:
     QWidget *m_area;
     QStackedWidget *m_stack;
     DocumentChoice *m_documents = nullptr;
-    PreviewPane *m_preview = nullptr; // null where there is nothing to print
+    PreviewPane *m_preview = nullptr;     // null where there is nothing to print
+    QPointer<PreviewPane> m_largePreview; // of the preview's own window, while it is open
     bool m_previewBegun = false;
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;

@@ -21,15 +21,12 @@ constexpr int roomAround = 60;     // pixels of the screen that stay free
 
 } // namespace
 
-PreviewDialog::PreviewDialog(DocumentChoice *choice, const PageSettings &settings, bool isTwoSided,
-                             QWidget *parent)
-    : QDialog(parent)
+PreviewDialog::PreviewDialog(DocumentChoice *choice, QWidget *parent)
+    : QDialog(parent), m_pane(new PreviewPane(choice, this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(true);
     setWindowTitle(tr("Preview"));
-    auto *pane = new PreviewPane(choice, this);
-    pane->setSettings(settings, isTwoSided);
     auto *close = new DialogButton(tr("&Close"), this);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(12, 0, 12, 12);
@@ -37,12 +34,12 @@ PreviewDialog::PreviewDialog(DocumentChoice *choice, const PageSettings &setting
     row->addWidget(close);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(pane, 1);
+    column->addWidget(m_pane, 1);
     column->addLayout(row);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     const QSize room = screen()->availableSize() - QSize(roomAround, roomAround);
     resize(widest.boundedTo(room));
-    pane->begin(PageTools::installed());
+    m_pane->begin(PageTools::installed());
     close->setFocus();
 }
 

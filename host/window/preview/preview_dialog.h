@@ -8,7 +8,7 @@
 namespace host {
 
 class DocumentChoice;
-struct PageSettings;
+class PreviewPane;
 
 // The preview in a window of its own, as large as the screen allows, for screens on which the dialog has no
 // room for it. Modal to its parent, and deleted when it is closed. The choice of documents is borrowed.
@@ -16,7 +16,12 @@ class PreviewDialog : public QDialog
 {
     Q_OBJECT
 public:
-    PreviewDialog(DocumentChoice *choice, const PageSettings &settings, bool isTwoSided, QWidget *parent);
+    PreviewDialog(DocumentChoice *choice, QWidget *parent);
+
+    PreviewPane *pane() const { return m_pane; } // owned by the dialog
+
+private:
+    PreviewPane *m_pane;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 
 #include "host/preview/preview.h"
 #include "host/session/document_choice.h"
+#include "host/session/page_ranges.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/preview/preview_sheet.h"
@@ -21,6 +22,7 @@ namespace host {
 namespace {
 
 constexpr double millimetres = 25.4 / 72; // a point
+const QString rangesName = QStringLiteral("page-ranges");
 
 QToolButton *pageButton(Qt::ArrowType arrow, const QString &name, QWidget *parent)
 {
@@ -51,7 +53,8 @@ void PreviewPane::begin(const PageTools &tools)
     connect(m_preview, &Preview::changed, this, &PreviewPane::factsChanged);
     connect(m_preview, &Preview::pageMade, this, &PreviewPane::showMade);
     connect(m_choice, &DocumentChoice::currentChanged, this, &PreviewPane::look);
-    m_preview->setSettings(m_settings);
+    connect(m_choice, &DocumentChoice::includedChanged, this, &PreviewPane::applySettings);
+    applySettings();
     m_preview->setWatched(isVisible());
     look();
 }
@@ -85,6 +88,7 @@ void PreviewPane::build()
     connect(m_back, &QToolButton::clicked, this, [this] { m_strip->setCurrent(m_page - 1); });
     connect(m_forth, &QToolButton::clicked, this, [this] { m_strip->setCurrent(m_page + 1); });
     connect(m_strip, &PreviewStrip::picked, this, &PreviewPane::showPage);
+    connect(m_strip, &PreviewStrip::toggled, this, &PreviewPane::toggle);
 }
 
 void PreviewPane::look()
@@ -101,10 +105,43 @@ void PreviewPane::setSettings(const PageSettings &settings, bool isTwoSided)
 {
     m_settings = settings;
     m_isTwoSided = isTwoSided;
-    if (!m_preview)
-        return;
+    if (m_preview)
+        applySettings();
+}
+
+// Keeps page ranges from the filters where possible, so that the pages that are left out can be shown, too.
+// Where the filters count otherwise, because they reverse the order or take odd or even pages, or where
+// several documents are printed, the filters apply the ranges.
+void PreviewPane::applySettings()
+{
+    QString ranges;
+    bool isPlain = m_choice->included().size() == 1;
+    for (const auto &[name, value] : std::as_const(m_settings.options)) {
+        if (name == rangesName)
+            ranges = normalizedPageRanges(value, nullptr).value_or(QString());
+        isPlain &= !(name == QLatin1String("page-set") && value != QLatin1String("all")) &&
+                   !(name == QLatin1String("outputorder") && value != QLatin1String("normal"));
+    }
+    PageSettings settings = m_settings;
+    if (isPlain)
+        settings.options.removeIf([](const auto &option) { return option.first == rangesName; });
+    m_areRangesShown = isPlain;
+    m_ranges = isPlain ? ranges : QString();
     m_preview->setSettings(settings);
+    showRanges();
+}
+
+void PreviewPane::showRanges()
+{
+    m_strip->setPrinted(m_ranges, m_areRangesShown);
+    m_sheet->setPrinted(containsPage(m_ranges, m_page + 1));
     m_caption->setText(caption());
+}
+
+void PreviewPane::toggle(int page)
+{
+    if (const auto ranges = withPageToggled(m_ranges, page + 1, m_count))
+        Q_EMIT rangesPicked(*ranges);
 }
 
 void PreviewPane::showEvent(QShowEvent *event)
@@ -148,7 +185,7 @@ void PreviewPane::showPage(int page)
     m_picture = picture.size();
     if (!picture.isNull())
         m_sheet->showPage(picture);
-    m_caption->setText(caption());
+    showRanges();
     m_back->setEnabled(m_page > 0);
     m_forth->setEnabled(m_page + 1 < m_count);
 }
@@ -173,9 +210,12 @@ QString PreviewPane::caption() const
     const QLocale locale;
     QStringList lines;
     lines.append(tr("Page %1 of %2").arg(locale.toString(m_page + 1), locale.toString(m_count)));
-    if (m_isTwoSided)
-        lines.append((m_page % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
-                         .arg(locale.toString(m_page / 2 + 1)));
+    const int before = countPages(m_ranges, m_page); // that are printed
+    if (!containsPage(m_ranges, m_page + 1))
+        lines.append(tr("Not printed"));
+    else if (m_isTwoSided)
+        lines.append((before % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
+                         .arg(locale.toString(before / 2 + 1)));
     QSizeF size = m_preview->facts()->size * millimetres;
     if (!m_picture.isEmpty() && (m_picture.width() > m_picture.height()) != (size.width() > size.height()))
         size.transpose(); // it is turned

@@ -33,6 +33,10 @@ public:
 
     QSize sizeHint() const override { return {240, 400}; }
 
+Q_SIGNALS:
+    // The user has left out a page or taken it in: the normalized page ranges that are then to be printed.
+    void rangesPicked(const QString &ranges);
+
 protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
@@ -43,13 +47,18 @@ private:
     void factsChanged();
     void showPage(int page);
     void showMade(int page);
+    void applySettings();
+    void showRanges();
+    void toggle(int page);
     QString caption() const;
 
     DocumentChoice *m_choice;
     Preview *m_preview = nullptr;
     PageSettings m_settings;
     bool m_isTwoSided = false;
-    int m_page = 0; // from 0
+    QString m_ranges;              // normalized; of the pages that are printed
+    bool m_areRangesShown = false; // all pages are there, and those that are not printed are pale
+    int m_page = 0;                // from 0
     int m_count = 0;
     QSize m_picture; // of that page, as it lies; empty while it is not there
     PreviewSheet *m_sheet = nullptr;

@@ -27,6 +27,12 @@ void PreviewSheet::showPage(const QImage &page)
     scale();
 }
 
+void PreviewSheet::setPrinted(bool isPrinted)
+{
+    m_isPrinted = isPrinted;
+    update();
+}
+
 void PreviewSheet::showText(const QString &text)
 {
     m_page = QImage();
@@ -64,7 +70,10 @@ void PreviewSheet::paintEvent(QPaintEvent *)
     const QSize size = m_scaled.deviceIndependentSize().toSize();
     const QRect place(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
     painter.fillRect(place.translated(2, 2), palette().color(QPalette::Shadow));
+    painter.fillRect(place, palette().color(QPalette::Window));
+    painter.setOpacity(m_isPrinted ? 1 : paleness);
     painter.drawPixmap(place.topLeft(), m_scaled);
+    painter.setOpacity(1);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(place.adjusted(-1, -1, 0, 0));
 }

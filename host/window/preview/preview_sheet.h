@@ -13,11 +13,17 @@ class PreviewSheet : public QWidget
 {
     Q_OBJECT
 public:
+    // The opacity of pages that are not printed.
+    static constexpr double paleness = 0.3;
+
     explicit PreviewSheet(QWidget *parent);
 
     void showPage(const QImage &page);
     // Plain text; the empty one for a page that is still to come.
     void showText(const QString &text);
+
+    // Whether the page is printed; others are shown pale.
+    void setPrinted(bool isPrinted);
 
     QSize sizeHint() const override { return {190, 260}; }
     QSize minimumSizeHint() const override { return {120, 120}; }
@@ -32,6 +38,7 @@ private:
     QImage m_page;
     QPixmap m_scaled;
     QString m_text;
+    bool m_isPrinted = true;
 };
 
 } // namespace host

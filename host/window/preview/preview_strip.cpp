@@ -4,6 +4,8 @@
 #include "host/window/preview/preview_strip.h"
 
 #include "host/preview/preview.h"
+#include "host/session/page_ranges.h"
+#include "host/window/preview/preview_sheet.h"
 
 #include <QAbstractListModel>
 #include <QPainter>
@@ -29,6 +31,19 @@ public:
             Q_EMIT dataChanged(index(first), index(qMin(last, m_count - 1)), {Qt::DecorationRole});
         });
     }
+    void setPrinted(const QString &ranges, bool isOffered)
+    {
+        if (ranges == m_ranges && isOffered == m_isOffered)
+            return;
+        const bool isLaidOutAnew = isOffered != m_isOffered;
+        m_ranges = ranges;
+        m_isOffered = isOffered;
+        if (m_count > 0)
+            Q_EMIT dataChanged(index(0), index(m_count - 1), {Qt::CheckStateRole, Qt::DecorationRole});
+        if (isLaidOutAnew)
+            Q_EMIT layoutChanged();
+    }
+    bool isPrinted(int row) const { return !m_isOffered || containsPage(m_ranges, row + 1); }
     void setCount(int count)
     {
         beginResetModel();
@@ -40,26 +55,47 @@ public:
     {
         if (role == Qt::DisplayRole)
             return QString::number(index.row() + 1);
+        if (role == Qt::CheckStateRole && m_isOffered)
+            return isPrinted(index.row()) ? Qt::Checked : Qt::Unchecked;
+        if (role == Qt::ToolTipRole && m_isOffered)
+            return isPrinted(index.row()) ? PreviewStrip::tr("Click the check box to leave this page out")
+                                          : PreviewStrip::tr("This page is not printed");
         if (role != Qt::DecorationRole)
             return {};
-        return canvas(m_preview->thumbnail(index.row()));
+        return canvas(m_preview->thumbnail(index.row()), isPrinted(index.row()));
+    }
+    Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+        return m_isOffered ? flags | Qt::ItemIsUserCheckable : flags;
+    }
+    bool setData(const QModelIndex &index, const QVariant &, int role) override
+    {
+        if (role != Qt::CheckStateRole)
+            return false;
+        Q_EMIT static_cast<PreviewStrip *>(QObject::parent())->toggled(index.row());
+        return true;
     }
 
 private:
     // All of one size, so that the numbers below stand in a row whichever way up the pages are.
-    QPixmap canvas(const QImage &picture) const
+    QPixmap canvas(const QImage &picture, bool isPrinted) const
     {
         QPixmap pixmap = m_blank;
         if (picture.isNull())
             return pixmap;
         const QImage small = picture.scaled(smallSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        QPainter(&pixmap).drawImage((smallSize.width() - small.width()) / 2,
-                                    smallSize.height() - small.height(), small);
+        QPainter painter(&pixmap);
+        painter.setOpacity(isPrinted ? 1 : PreviewSheet::paleness);
+        painter.drawImage((smallSize.width() - small.width()) / 2, smallSize.height() - small.height(),
+                          small);
         return pixmap;
     }
 
     Preview *m_preview;
     QPixmap m_blank;
+    QString m_ranges;
+    bool m_isOffered = false;
     int m_count = 0;
 };
 
@@ -100,6 +136,11 @@ void PreviewStrip::setCount(int pages)
     const QSignalBlocker quiet(this);
     m_model->setCount(pages);
     setCurrent(qMin(page, pages - 1));
+}
+
+void PreviewStrip::setPrinted(const QString &ranges, bool isOffered)
+{
+    m_model->setPrinted(ranges, isOffered);
 }
 
 void PreviewStrip::setCurrent(int page)
