@@ -6,6 +6,7 @@
 #include "host/printing/utf8_text.h"
 #include "host/session/job_cost.h"
 #include "host/session/page_ranges.h"
+#include "host/session/sheet_finish.h"
 #include "platform/unique_fd.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/paths.h"
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void pageRanges();
     void pageIsToggled_data();
     void pageIsToggled();
+    void finishIsFound_data();
+    void finishIsFound();
     void sheetsAreCounted_data();
     void sheetsAreCounted();
     void documents_data();
@@ -114,6 +117,59 @@ void CoreValuesTest::pageIsToggled()
     QCOMPARE(result.value_or(QString()), toggled);
     QVERIFY(!result || containsPage(*result, page) != containsPage(ranges, page));
     QVERIFY(!result || std::abs(countPages(*result, 5) - countPages(ranges, 5)) == 1);
+}
+
+void CoreValuesTest::finishIsFound_data()
+{
+    QTest::addColumn<QMap<QString, QString>>("choices");
+    QTest::addColumn<QList<QPoint>>("staples"); // their middles, on the front, in percent
+    QTest::addColumn<QList<QPoint>>("holes");   // in percent
+    QTest::addColumn<QList<QPoint>>("back");    // both, in percent
+    using Map = QMap<QString, QString>;
+    using Points = QList<QPoint>;
+    const QString staple = u"StapleLocation"_s, punch = u"Punch"_s, duplex = u"Duplex"_s;
+    QTest::newRow("none") << Map{{staple, u"None"_s}} << Points() << Points() << Points();
+    QTest::newRow("corner") << Map{{staple, u"UpperLeft"_s}} << Points{{4, 4}} << Points() << Points{{96, 4}};
+    QTest::newRow("edge") << Map{{staple, u"DualTop"_s}, {duplex, u"DuplexTumble"_s}}
+                          << Points{{30, 4}, {70, 4}} << Points() << Points{{30, 96}, {70, 96}};
+    QTest::newRow("holes") << Map{{punch, u"Left3"_s}, {duplex, u"DuplexNoTumble"_s}} << Points()
+                           << Points{{4, 30}, {4, 50}, {4, 70}} << Points{{96, 30}, {96, 50}, {96, 70}};
+    QTest::newRow("fold") << Map{{staple, u"Saddle"_s}} << Points() << Points() << Points();
+    QTest::newRow("no place") << Map{{punch, u"Yes"_s}} << Points() << Points() << Points();
+}
+
+void CoreValuesTest::finishIsFound()
+{
+    using Choices = QMap<QString, QString>;
+    QFETCH(const Choices, choices);
+    QFETCH(const QList<QPoint>, staples);
+    QFETCH(const QList<QPoint>, holes);
+    QFETCH(const QList<QPoint>, back);
+    DialogSession session(
+        officePrinter(),
+        openPpd(ppdGroup("Finishing/Finishing",
+                         ppdOption("StapleLocation", {"None", "UpperLeft", "DualTop", "Saddle"}) +
+                             ppdOption("Punch", {"None", "Left3", "Yes"}) +
+                             ppdOption("Duplex", {"None", "DuplexNoTumble", "DuplexTumble"}))));
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        QVERIFY(session.markChoice(it.key(), it.value()));
+    const auto percent = [](const QPointF &point) { return (point * 100).toPoint(); };
+    const auto points = [&](const SheetFinish &finish) {
+        QList<QPoint> all;
+        for (const QLineF &line : finish.staples)
+            all.append(percent(line.center()));
+        for (const QPointF &point : finish.holes)
+            all.append(percent(point));
+        return all;
+    };
+    const SheetFinish finish = sheetFinish(session);
+    QCOMPARE(points(finish), staples + holes);
+    QCOMPARE(points(finish.onTheBack()), back);
+    QCOMPARE(finish.isSaddleStitched, choices.value(u"StapleLocation"_s) == u"Saddle");
+    QCOMPARE(finish.binding, !choices.contains(u"Duplex"_s) ? SheetFinish::Binding::None
+                             : choices.value(u"Duplex"_s) == u"DuplexTumble"
+                                 ? SheetFinish::Binding::ShortEdge
+                                 : SheetFinish::Binding::LongEdge);
 }
 
 void CoreValuesTest::sheetsAreCounted_data()

@@ -147,11 +147,11 @@ void PageBook::updatePreview()
     if (!m_session || !(isShown || m_largePreview))
         return;
     const PageSettings settings = pageSettings(*m_session);
-    const bool twoSided = isTwoSided(*m_session);
+    const SheetFinish finish = sheetFinish(*m_session);
     if (isShown)
-        m_preview->setSettings(settings, twoSided);
+        m_preview->setSettings(settings, finish);
     if (m_largePreview)
-        m_largePreview->setSettings(settings, twoSided);
+        m_largePreview->setSettings(settings, finish);
 }
 
 void PageBook::openPreview()

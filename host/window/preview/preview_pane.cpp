@@ -101,10 +101,10 @@ void PreviewPane::look()
     showPage(0);
 }
 
-void PreviewPane::setSettings(const PageSettings &settings, bool isTwoSided)
+void PreviewPane::setSettings(const PageSettings &settings, const SheetFinish &finish)
 {
     m_settings = settings;
-    m_isTwoSided = isTwoSided;
+    m_finish = finish;
     if (m_preview)
         applySettings();
 }
@@ -135,6 +135,7 @@ void PreviewPane::showRanges()
 {
     m_strip->setPrinted(m_ranges, m_areRangesShown);
     m_sheet->setPrinted(containsPage(m_ranges, m_page + 1));
+    m_sheet->setFinish(m_finish, m_finish.isTwoSided() && countPages(m_ranges, m_page) % 2 == 1);
     m_caption->setText(caption());
 }
 
@@ -213,7 +214,7 @@ QString PreviewPane::caption() const
     const int before = countPages(m_ranges, m_page); // that are printed
     if (!containsPage(m_ranges, m_page + 1))
         lines.append(tr("Not printed"));
-    else if (m_isTwoSided)
+    else if (m_finish.isTwoSided())
         lines.append((before % 2 == 0 ? tr("Sheet %1, front") : tr("Sheet %1, back"))
                          .arg(locale.toString(before / 2 + 1)));
     QSizeF size = m_preview->facts()->size * millimetres;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/printing/page_settings.h"
+#include "host/session/sheet_finish.h"
 
 #include <QWidget>
 
@@ -29,7 +30,7 @@ public:
     ~PreviewPane() override;
 
     void begin(const PageTools &tools);
-    void setSettings(const PageSettings &settings, bool isTwoSided);
+    void setSettings(const PageSettings &settings, const SheetFinish &finish);
 
     QSize sizeHint() const override { return {240, 400}; }
 
@@ -55,7 +56,7 @@ private:
     DocumentChoice *m_choice;
     Preview *m_preview = nullptr;
     PageSettings m_settings;
-    bool m_isTwoSided = false;
+    SheetFinish m_finish;
     QString m_ranges;              // normalized; of the pages that are printed
     bool m_areRangesShown = false; // all pages are there, and those that are not printed are pale
     int m_page = 0;                // from 0

@@ -33,6 +33,13 @@ void PreviewSheet::setPrinted(bool isPrinted)
     update();
 }
 
+void PreviewSheet::setFinish(const SheetFinish &finish, bool isBack)
+{
+    m_finish = isBack ? finish.onTheBack() : finish;
+    m_isBack = isBack;
+    update();
+}
+
 void PreviewSheet::showText(const QString &text)
 {
     m_page = QImage();
@@ -58,6 +65,47 @@ void PreviewSheet::scale()
     update();
 }
 
+// How a page that is turned lies in the stapler is not known: it is shown without staples and holes, except
+// those in the fold.
+void PreviewSheet::paintFinish(QPainter *painter, const QRectF &place) const
+{
+    constexpr double strip = 4;   // pixels, of the binding edge
+    constexpr double metal = 3;   // pixels, of a staple
+    constexpr double hole = 0.02; // of the width of the page
+    const bool isUpright = place.height() >= place.width();
+    const auto at = [&place](const QPointF &point) {
+        return place.topLeft() + QPointF(point.x() * place.width(), point.y() * place.height());
+    };
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (m_finish.isTwoSided()) {
+        const bool isAtSide = (m_finish.binding == SheetFinish::Binding::LongEdge) == isUpright;
+        QRectF edge = place;
+        if (isAtSide)
+            edge.setWidth(strip);
+        else
+            edge.setHeight(strip);
+        if (m_isBack)
+            edge.translate(isAtSide ? place.width() - strip : 0, isAtSide ? 0 : place.height() - strip);
+        painter->fillRect(edge, palette().color(QPalette::Highlight));
+    }
+    QList<QLineF> staples = isUpright ? m_finish.staples : QList<QLineF>();
+    if (m_finish.isSaddleStitched) {
+        const QLineF fold = isUpright ? QLineF(0, 0.5, 1, 0.5) : QLineF(0.5, 0, 0.5, 1);
+        painter->setPen(QPen(Qt::darkGray, 1, Qt::DashLine));
+        painter->drawLine(at(fold.p1()), at(fold.p2()));
+        for (const double middle : {0.25, 0.75})
+            staples.append({fold.pointAt(middle - 0.04), fold.pointAt(middle + 0.04)});
+    }
+    painter->setPen(QPen(QColor(0x50, 0x50, 0x50), metal, Qt::SolidLine, Qt::RoundCap));
+    for (const QLineF &staple : std::as_const(staples))
+        painter->drawLine(at(staple.p1()), at(staple.p2()));
+    painter->setPen(QPen(Qt::darkGray, 1));
+    painter->setBrush(palette().color(QPalette::Window));
+    for (const QPointF &point : isUpright ? m_finish.holes : QList<QPointF>())
+        painter->drawEllipse(at(point), hole * place.width(), hole * place.width());
+    painter->setBrush(Qt::NoBrush);
+}
+
 void PreviewSheet::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -74,6 +122,8 @@ void PreviewSheet::paintEvent(QPaintEvent *)
     painter.setOpacity(m_isPrinted ? 1 : paleness);
     painter.drawPixmap(place.topLeft(), m_scaled);
     painter.setOpacity(1);
+    if (m_isPrinted)
+        paintFinish(&painter, place);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(place.adjusted(-1, -1, 0, 0));
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/session/sheet_finish.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -24,6 +26,8 @@ public:
 
     // Whether the page is printed; others are shown pale.
     void setPrinted(bool isPrinted);
+    // The binding edge, staples and holes to draw on the page, which is the front or the back of a sheet.
+    void setFinish(const SheetFinish &finish, bool isBack);
 
     QSize sizeHint() const override { return {190, 260}; }
     QSize minimumSizeHint() const override { return {120, 120}; }
@@ -34,11 +38,14 @@ protected:
 
 private:
     void scale();
+    void paintFinish(QPainter *painter, const QRectF &place) const;
 
     QImage m_page;
     QPixmap m_scaled;
     QString m_text;
     bool m_isPrinted = true;
+    SheetFinish m_finish; // as it lies on this side
+    bool m_isBack = false;
 };
 
 } // namespace host
