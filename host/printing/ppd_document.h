@@ -101,6 +101,7 @@ private:
 
     PpdConstraints &constraints() const; // read on first use
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
+    QMap<QString, QString> monochromeChoice() const;
     QMap<QString, QString> choicesNamed(const QString &name, const QStringList &options) const;
     bool isInstallableOption(const ppd_option_s *option) const;
     void replaceBadCustomDefaults();

@@ -3,6 +3,7 @@
 
 #include "host/printing/cups_handles.h"
 #include "host/printing/ppd_document.h"
+#include "host/printing/standard_names.h"
 
 #include <cups/ppd.h>
 #include <cups/pwg.h>
@@ -20,6 +21,7 @@ const QString mediaName = QStringLiteral("media");
 const QString mediaCollectionName = QStringLiteral("media-col");
 const QString regionName = QStringLiteral("pageregion");
 const QString pageSize = QStringLiteral("PageSize");
+const QString colorModeName = QStringLiteral("print-color-mode");
 
 bool isSame(const QString &one, const QString &other)
 {
@@ -68,7 +70,7 @@ QStringList PpdDocument::optionsOfStandardName(const QString &name)
         {QStringLiteral("sides"),
          QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
         {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
-        {QStringLiteral("print-color-mode"), QStringLiteral("ColorModel")},
+        {colorModeName, QStringLiteral("ColorModel ColorMode ColorType")},
         {QStringLiteral("printer-resolution"), resolution},
         {QStringLiteral("resolution"), resolution}};
     return keywords.value(name.toLower()).split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -89,10 +91,13 @@ QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
         if (!takesOption(it.key()))
             continue;
         const bool isRegion = isSame(it.key(), regionName);
-        if (isSame(it.key(), mediaCollectionName)) {
+        const bool isColorMode = isSame(it.key(), colorModeName);
+        if (isSame(it.key(), mediaCollectionName) || isColorMode) {
             const QMap<QString, QString> choices = standardChoices(it.key(), it.value());
-            for (auto choice = choices.begin(); choice != choices.end(); ++choice)
-                list.add(choice.key().toUtf8().constData(), choice.value().toUtf8().constData());
+            for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+                if (!isColorMode || !options.contains(choice.key()))
+                    list.add(choice.key().toUtf8().constData(), choice.value().toUtf8().constData());
+            }
             continue;
         }
         const auto subject = isCustomChoice(it.value())
@@ -121,6 +126,8 @@ QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const Q
     QMap<QString, QString> result;
     for (const QString &part : std::as_const(parts)) {
         QMap<QString, QString> choices = choicesMarkedBy(name, part.trimmed());
+        if (choices.isEmpty() && isSame(name, colorModeName) && part == QLatin1String("monochrome"))
+            choices = monochromeChoice();
         if (choices.isEmpty() && alsoKeywords)
             choices = choicesNamed(part.trimmed(), optionsOfStandardName(name));
         if (choices.isEmpty())
@@ -128,6 +135,19 @@ QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const Q
         result.insert(choices);
     }
     return result;
+}
+
+// libcups knows such a choice only in "ColorModel".
+QMap<QString, QString> PpdDocument::monochromeChoice() const
+{
+    for (const QString &keyword : optionsOfStandardName(colorModeName)) {
+        const auto subject = option(keyword);
+        for (const PpdOption::Choice &choice : subject ? subject->choices : QList<PpdOption::Choice>()) {
+            if (isMonochromeChoice(choice.keyword))
+                return {{subject->keyword, choice.keyword}};
+        }
+    }
+    return {};
 }
 
 QMap<QString, QString> PpdDocument::choicesNamed(const QString &name, const QStringList &options) const

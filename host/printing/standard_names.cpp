@@ -37,4 +37,14 @@ QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStrin
     return isColor ? QStringLiteral("color") : QString();
 }
 
+bool isMonochromeChoice(const QString &choice)
+{
+    static const QStringList choices = {QStringLiteral("gray"),       QStringLiteral("grey"),
+                                        QStringLiteral("grayscale"),  QStringLiteral("greyscale"),
+                                        QStringLiteral("mono"),       QStringLiteral("monochrome"),
+                                        QStringLiteral("kgray"),      QStringLiteral("black"),
+                                        QStringLiteral("blackwhite"), QStringLiteral("fastgray")};
+    return choices.contains(choice.toLower());
+}
+
 } // namespace host

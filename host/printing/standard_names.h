@@ -16,4 +16,8 @@ class PpdDocument;
 // is restored afterwards.
 QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStringList &options);
 
+// Whether a choice of an option for color means black and white or shades of gray, by the keywords that PPDs
+// of many makers use.
+bool isMonochromeChoice(const QString &choice);
+
 } // namespace host

@@ -66,8 +66,8 @@ bool GeneralSettings::covers(const QString &name)
 
 QString colorOptionKeyword(const PpdDocument &ppd)
 {
-    for (const char *name : {"ColorModel", "ColorMode", "ColorType"}) {
-        const auto option = ppd.option(QLatin1String(name));
+    for (const QString &name : PpdDocument::optionsOfStandardName(QStringLiteral("print-color-mode"))) {
+        const auto option = ppd.option(name);
         if (option && option->choices.size() > 1)
             return option->keyword;
     }

@@ -19,12 +19,7 @@ bool isMonochromeMark(const QString &keyword, const QString &choice)
 {
     static const QStringList keywords = {QStringLiteral("colormodel"), QStringLiteral("colormode"),
                                          QStringLiteral("colortype"), QStringLiteral("printoutmode")};
-    static const QStringList choices = {QStringLiteral("gray"),       QStringLiteral("grey"),
-                                        QStringLiteral("grayscale"),  QStringLiteral("greyscale"),
-                                        QStringLiteral("mono"),       QStringLiteral("monochrome"),
-                                        QStringLiteral("kgray"),      QStringLiteral("black"),
-                                        QStringLiteral("blackwhite"), QStringLiteral("fastgray")};
-    return keywords.contains(keyword.toLower()) && choices.contains(choice.toLower());
+    return keywords.contains(keyword.toLower()) && isMonochromeChoice(choice);
 }
 
 bool isMonochrome(const DialogSession &session, const QList<JobOption> &options)

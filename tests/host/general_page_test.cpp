@@ -51,6 +51,8 @@ private Q_SLOTS:
     void pagesAreLeftOut();
     void colorIsChosen_data();
     void colorIsChosen();
+    void colorOfTheQueueIsShown_data();
+    void colorOfTheQueueIsShown();
     void costIsShown();
     void pdfIsWritten();
     void titleOfALaterDocument();
@@ -340,6 +342,33 @@ void GeneralPageTest::colorIsChosen()
     settle();
     QCOMPARE(m_system.submitted.size(), 1);
     QCOMPARE(sentValue(m_system.submitted.first().options, name), u"Mono"_s);
+}
+
+void GeneralPageTest::colorOfTheQueueIsShown_data()
+{
+    QTest::addColumn<QString>("keyword");
+    for (const char *keyword : {"ColorModel", "ColorMode", "ColorType"})
+        QTest::newRow(keyword) << QString::fromLatin1(keyword);
+}
+
+// Filters print gray for "print-color-mode" whatever the option of the PPD says.
+void GeneralPageTest::colorOfTheQueueIsShown()
+{
+    QFETCH(const QString, keyword);
+    const QMap<QString, QString> gray{{u"print-color-mode"_s, u"monochrome"_s}};
+    for (QByteArray &ppd : m_system.ppds)
+        ppd.replace("ColorType", keyword.toLatin1()).replace("Mono", "Gray");
+    m_system.printers.first().options = m_system.printers.first().queueDefaults = gray;
+    PrintWindow &window = open();
+    QCOMPARE(find<QComboBox>(keyword)->currentText(), u"Black and White"_s);
+    window.print();
+    settle();
+    QCOMPARE(sentValue(m_system.submitted.last().options, keyword), u"Gray"_s);
+    open();
+    choose(keyword, u"Auto"_s);
+    m_window->print();
+    settle();
+    QCOMPARE(sentValue(m_system.submitted.last().options, u"print-color-mode"_s), u"color"_s);
 }
 
 void GeneralPageTest::costIsShown()
