@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 """Operates the dialog over the accessibility bus like a screen reader: prints a private job after two conflicting
-settings. Prints the events of the bus, and fails if anything was not announced.
+settings and a wrong page range. Prints the events of the bus, and fails if anything was not announced, or if the
+preview claimed the focus.
 
 Usage: private_job.py PROGRAM ARGUMENT...  (on a private X display and session bus)"""
 
@@ -23,10 +24,11 @@ class Session:
         self.log = []
         self.descriptions = []  # of the pressed buttons
         self.problem = "nothing happened"
-        # The expected announcements, and the button pressed after each. The first question was shown before listening
-        # started.
-        self.steps = [(None, "Keep and Review"), (None, "Print"), ("cannot be used together", "Apply Suggestion"),
-                      (None, "Print"), ("Sent to", "Close")]
+        # The expected announcements, and the button pressed or the pages typed after each. The first question was shown
+        # before listening started.
+        self.steps = [(None, "Keep and Review"), (None, "Range:"), (None, self.type_pages("3-1")),
+                      ("“3-1” is not a page", self.type_pages("1-2")), (None, "Print"),
+                      ("cannot be used together", "Apply Suggestion"), (None, "Print"), ("Sent to", "Close")]
         for name in EVENTS:
             pyatspi.Registry.registerEventListener(self.note, name)
         environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
@@ -53,14 +55,16 @@ class Session:
     def proceed(self):
         if self.process.poll() is not None:
             self.problem = None if not self.steps and self.process.returncode == 0 else "the program has ended"
+            if any("focused" in kind and role == "list item" and name in ("1", "2") for kind, role, name, _ in self.log):
+                self.problem = "the preview has claimed the focus"
             pyatspi.Registry.stop()
             return False
         if self.steps:
             words, button = self.steps[0]
             self.problem = "not announced: %s" % words
             if words is None or self.times_announced(words):
-                self.problem = "there is no button %s" % button
-                if self.press(button):
+                self.problem = "there is no control for %s" % button
+                if button() if callable(button) else self.press(button):
                     self.steps.pop(0)
                     if words and self.times_announced(words) > 1:
                         self.problem = "announced %d times: %s" % (self.times_announced(words), words)
@@ -68,19 +72,36 @@ class Session:
                         return False
         return True
 
-    def press(self, name):
+    @staticmethod
+    def find(roles, name, states):
         for application in pyatspi.Registry.getDesktop(0):
             found = application and pyatspi.findDescendant(
-                application, lambda a: a.getRole() == pyatspi.ROLE_PUSH_BUTTON and a.name == name and
-                a.getState().contains(pyatspi.STATE_SHOWING) and a.getState().contains(pyatspi.STATE_ENABLED))
+                application, lambda a: a.getRole() in roles and a.name == name and
+                all(a.getState().contains(state) for state in states))
             if found:
-                self.descriptions.append(found.description)
-                print("--- pressing %s (%s)" % (name, found.description.replace("\n", " / ")), flush=True)
-                actions = found.queryAction()
-                names = [actions.getName(i) for i in range(actions.nActions)]
-                actions.doAction(names.index("Press"))
-                return True
-        return False
+                return found
+        return None
+
+    def press(self, name):
+        found = self.find((pyatspi.ROLE_PUSH_BUTTON, pyatspi.ROLE_RADIO_BUTTON), name,
+                          (pyatspi.STATE_SHOWING, pyatspi.STATE_ENABLED))
+        if not found:
+            return False
+        self.descriptions.append(found.description)
+        print("--- pressing %s (%s)" % (name, found.description.replace("\n", " / ")), flush=True)
+        actions = found.queryAction()
+        names = [actions.getName(i) for i in range(actions.nActions)]
+        actions.doAction(names.index("Press" if "Press" in names else "Toggle"))
+        return True
+
+    def type_pages(self, text):
+        def act():
+            field = self.find((pyatspi.ROLE_TEXT,), "Pages to print", (pyatspi.STATE_SHOWING,))
+            if field:
+                print("--- typing %s" % text, flush=True)
+                field.queryEditableText().setTextContents(text)
+            return field is not None
+        return act
 
     def give_up(self):
         self.process.kill()

@@ -206,7 +206,7 @@ void PrinterBoxTest::reportsAreShown()
         {QStringLiteral("Cyan"), 80, false}, {QStringLiteral("Black"), 7, true}, {QStringLiteral("Drum")}};
     picker.setCurrent(printer);
     const QString said = picker.box()->accessibleDescription();
-    QVERIFY2(said.startsWith(QStringLiteral("Ready  ·  The toner is running low.  ·  Black 7 %")),
+    QVERIFY2(said.startsWith(QStringLiteral("Ready · The toner is running low. · Black 7 %")),
              qPrintable(said));
     for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known"})
         QVERIFY2(picker.box()->toolTip().contains(QLatin1String(line)), qPrintable(picker.box()->toolTip()));
