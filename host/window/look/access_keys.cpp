@@ -24,6 +24,20 @@ bool hasLetter(const QString &text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
+// The control that the key of a label or button operates.
+QWidget *usedBy(QWidget *widget)
+{
+    const auto *label = qobject_cast<QLabel *>(widget);
+    return label && label->buddy() ? label->buddy() : widget;
+}
+
+// Not while it is disabled itself. A page that is disabled as a whole keeps its keys.
+bool isUsable(QWidget *widget)
+{
+    const QWidget *control = usedBy(widget);
+    return control->isEnabledTo(control->parentWidget());
+}
+
 // Labels of fields, and buttons, that are to have an access key, hidden ones included.
 QList<QWidget *> keyedWidgets(QWidget *part)
 {
@@ -74,12 +88,13 @@ void AccessKeys::assign()
     m_queued = false;
     Mnemonics keys;
     QHash<QWidget *, Texts> texts;
-    QList<QList<QWidget *>> without;
+    QList<QWidget *> without, unusable;
     for (QWidget *part : std::as_const(m_parts)) {
-        without.append(QList<QWidget *>());
+        QList<QWidget *> ofPart;
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
                 continue;
+            usedBy(widget)->installEventFilter(this);
             widget->installEventFilter(this);
             Texts known = m_texts.value(widget);
             known.own = ownText(widget);
@@ -87,19 +102,24 @@ void AccessKeys::assign()
             const bool isShown = widget->isVisibleTo(m_window);
             known.shown = isShown ? known.own : widget->property(textProperty).toString();
             texts.insert(widget, known);
-            if (isShown && !keys.claim(known.own))
-                without.last().append(widget);
+            if (isShown && !isUsable(widget))
+                unusable.append(widget);
+            else if (isShown && !keys.claim(known.own))
+                ofPart.append(widget);
         }
+        without = ofPart + without; // what is shown for a moment, such as a question, comes before the page
     }
-    // What is shown for a moment, such as the answers to a question, comes before the page.
-    for (auto part = without.crbegin(); part != without.crend(); ++part) {
+    const auto assignTo = [&](const QList<QWidget *> &widgets) {
         QStringList wishes;
-        for (QWidget *widget : *part)
+        for (QWidget *widget : widgets)
             wishes.append(texts[widget].own);
         const QStringList shown = keys.assign(wishes);
         for (qsizetype i = 0; i < shown.size(); ++i)
-            texts[part->at(i)].shown = shown.at(i);
-    }
+            texts[widgets.at(i)].shown = shown.at(i);
+    };
+    assignTo(without);
+    unusable.removeIf([&](QWidget *widget) { return keys.claim(texts[widget].own); });
+    assignTo(unusable);
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {
         if (it.key()->property(textProperty).toString() != it->shown)
@@ -136,7 +156,8 @@ void AccessKeys::assignLater()
 bool AccessKeys::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent ||
-        event->type() == QEvent::Show || event->type() == QEvent::Hide)
+        event->type() == QEvent::Show || event->type() == QEvent::Hide ||
+        event->type() == QEvent::EnabledChange)
         assignLater();
     return QObject::eventFilter(watched, event);
 }

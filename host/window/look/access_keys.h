@@ -16,8 +16,8 @@ namespace host {
 
 // Gives every label of a field and every button on the screen an access key, and no key twice, even between
 // host, panels and translations. The parts of a window choose one after the other; where the key that a text
-// asks for is taken, or it asks for none, it gets another one. Follows what is shown and hidden. A child of
-// its window.
+// asks for is taken, or it asks for none, it gets another one. Disabled controls choose last. Follows what is
+// shown, hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
