@@ -77,7 +77,7 @@ QList<OptionText> optionTexts()
          ArgumentsText::tr("Load the panels of this bundle instead of the installed ones.")},
         {names({"panel"}), ArgumentsText::tr("NAME"),
          ArgumentsText::tr(
-             "Open the dialog at this pane: general, more, summary, or a panel's name or kind.")},
+             "Open the dialog at this pane: general, more, job, summary, or a panel's name or kind.")},
         {names({"screenshot"}), ArgumentsText::tr("FILE"),
          ArgumentsText::tr("Write a picture of the dialog and exit.")},
         {names({"color-scheme"}), ArgumentsText::tr("NAME"),

@@ -35,8 +35,9 @@ struct Destination
     bool isStateKnown = false; // whether the next four fields come from the print server
     bool accepting = true;
     bool stopped = false;
-    QString problem;        // reported by the printer, in words; empty for none
-    QList<Supply> supplies; // reported by the printer, without waste containers
+    QString problem;         // reported by the printer, in words; empty for none
+    QStringList coverSheets; // values of "job-sheets" that the server offers; empty if they are not known
+    QList<Supply> supplies;  // reported by the printer, without waste containers
     // announces itself on the network; the server has a queue for it only while it is used
     bool isOnNetwork = false;
     QMap<QString, QString> options;       // the user's and the queue's settings, as libcups returns them

@@ -147,7 +147,7 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error, QueueQuestion question)
 {
-    static const std::array<const char *, 10> wanted = {"printer-state",
+    static const std::array<const char *, 11> wanted = {"printer-state",
                                                         "printer-state-message",
                                                         "printer-state-reasons",
                                                         "printer-is-accepting-jobs",
@@ -156,7 +156,8 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
                                                         "marker-levels",
                                                         "marker-low-levels",
                                                         "document-format-supported",
-                                                        "printer-defaults"};
+                                                        "printer-defaults",
+                                                        "job-sheets-supported"};
     constexpr int ofState = 8; // the first ones
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
@@ -174,6 +175,7 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
     facts.stateReasons = attributeTexts(answer.get(), "printer-state-reasons");
     facts.supplies = readSupplies(answer.get());
+    facts.coverSheets = attributeTexts(answer.get(), "job-sheets-supported");
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
     readDefaults(answer.get(), &facts);
     return facts;

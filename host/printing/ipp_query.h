@@ -36,6 +36,7 @@ struct QueueFacts
     QString stateMessage;
     QStringList stateReasons; // keywords
     QList<Supply> supplies;
+    QStringList coverSheets;         // values of "job-sheets"
     QStringList formats;             // accepted MIME types
     QMap<QString, QString> defaults; // job options that the server adds to each job
     // The PPD's defaults for the names in `defaults` that the administrator has set differently.

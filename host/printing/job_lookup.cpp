@@ -51,7 +51,11 @@ JobStatus readStatus(ipp_t *message)
     status.message = reasonText(reasons + attributeTexts(message, "job-printer-state-reasons"),
                                 attributeText(message, "job-printer-state-message"));
     status.printerStopped = reasons.contains(QLatin1String("printer-stopped"));
-    status.isHeldByUser = attributeText(message, "job-hold-until") == QLatin1String("indefinite");
+    const QString hold = attributeText(message, "job-hold-until");
+    status.isHeldByUser = hold == QLatin1String("indefinite");
+    if (!status.isHeldByUser && hold != QLatin1String("no-hold") &&
+        hold != QLatin1String("auth-info-required"))
+        status.heldUntil = hold;
     status.printedPages = std::max(attributeInteger(message, "job-impressions-completed", 0),
                                    attributeInteger(message, "job-media-sheets-completed", 0));
     return status;

@@ -255,6 +255,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         destination.isOnNetwork = m_network.hasFound(destination.queue);
         correctDefaults(facts.value_or(QueueFacts()), &destination);
         destination.queueDefaults = facts.value_or(QueueFacts()).defaults;
+        destination.coverSheets = facts.value_or(QueueFacts()).coverSheets;
         if (!takePreset(&destination, error))
             return std::nullopt;
         if (!destination.opensDialog())

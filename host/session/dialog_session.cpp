@@ -363,8 +363,10 @@ QList<SummarySection> DialogSession::summary()
         if (!section.entries.isEmpty())
             sections.append(section);
     }
-    if (const SummarySection more = moreSummary(*this); !more.entries.isEmpty())
-        sections.append(more);
+    for (const SummarySection &section : {moreSummary(*this), jobSummary(*this)}) {
+        if (!section.entries.isEmpty())
+            sections.append(section);
+    }
     return sections;
 }
 

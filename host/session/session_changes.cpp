@@ -4,6 +4,7 @@
 #include "host/session/session_changes.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 #include "host/session/session_state.h"
 #include "platform/key_value_object.h"
 
@@ -67,6 +68,10 @@ QList<SettingChange> changesBetween(const DialogSession &session, const SessionS
         SettingChange change;
         if (const int panel = panelInKey(key); panel >= 0 && panel < session.panelCount())
             change = {key, session.panel(panel)->panelName(), {}, {}};
+        else if (jobSettingNames().contains(key))
+            change = {key, jobSettingText(key),
+                      jobValueText(key, jobSettingValue(before.chosen, before.destinationOptions, key)),
+                      jobValueText(key, jobSettingValue(after.chosen, after.destinationOptions, key))};
         else if (after.marks.contains(key))
             change = markChange(session, key, before, after);
         const bool isKnown = std::any_of(changes.begin(), changes.end(), [&](const SettingChange &earlier) {
@@ -82,6 +87,8 @@ int pageOf(const DialogSession &session, const QString &key)
 {
     if (const int panel = panelInKey(key); panel >= 0)
         return panel;
+    if (jobSettingNames().contains(key))
+        return jobPage;
     if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key))
         return generalPage;
     if (const int panel = session.panelOfKeyword(key); panel >= 0)
@@ -113,7 +120,7 @@ void putBack(DialogSession *session, const SessionState &base, const QStringList
             wanted.marks.insert(key, base.marks.value(key));
         else if (base.panelValues.contains(key))
             wanted.panelValues.insert(key, base.panelValues.value(key));
-        else
+        else if (!jobSettingNames().contains(key))
             wanted.general = withGeneralValue(wanted.general, key, base.general);
     }
     wanted.chosen.takeBack(keys, base.chosen);

@@ -5,6 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/job_options.h"
+#include "host/session/job_settings.h"
 #include "platform/exception.h"
 #include "platform/key_value_object.h"
 #include "platform/logging.h"
@@ -88,6 +89,11 @@ QStringList SessionState::differencesTo(const SessionState &other) const
             if (!two.contains(it.key()) && !keys.contains(it.key()))
                 keys.append(it.key());
         }
+    }
+    for (const QString &name : jobSettingNames()) {
+        if (jobSettingValue(chosen, destinationOptions, name) !=
+            jobSettingValue(other.chosen, other.destinationOptions, name))
+            keys.append(name);
     }
     if (keys.isEmpty() && general != other.general)
         keys.append(QStringLiteral("general"));

@@ -4,6 +4,7 @@
 #include "host/session/setting_index.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -82,6 +83,8 @@ void SettingIndex::addSession(const DialogSession &session)
     add({general, QStringLiteral("copies"), SettingText::tr("Copies"), {}, {}});
     add({general, QStringLiteral("Collate"), SettingText::tr("Collate"), {}, {}});
     add({general, QStringLiteral("page-ranges"), SettingText::tr("Pages"), {}, {}});
+    for (const QString &name : jobSettingNames())
+        add({QStringLiteral("job"), name, jobSettingText(name), {}, {}});
     if (!session.ppd())
         return;
     const QStringList generalKeywords = generalOptionKeywords(*session.ppd());

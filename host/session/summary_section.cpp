@@ -4,6 +4,8 @@
 #include "host/session/summary_section.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
+#include "host/session/session_changes.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -76,6 +78,17 @@ SummarySection moreSummary(const DialogSession &session)
 {
     SummarySection section{SummaryText::tr("More Options"), {}};
     addOptions(session, session.otherKeywords(), &section);
+    return section;
+}
+
+SummarySection jobSummary(const DialogSession &session)
+{
+    SummarySection section{SummaryText::tr("Job"), {}, jobPage};
+    for (const QString &name : jobSettingNames()) {
+        const QString value = jobSettingValue(session, name);
+        if (value != jobSettingValue({}, {}, name))
+            section.entries.append({jobSettingText(name), jobValueText(name, value)});
+    }
     return section;
 }
 

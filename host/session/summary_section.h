@@ -20,13 +20,15 @@ struct SummarySection
 {
     QString title;
     QList<SummaryEntry> entries;
-    int panel = -1; // the panel; -1 for the host's settings
+    int panel = -1; // the panel; otherwise a page as pageOf() returns it
 };
 
 // The settings of the general page, without those that a panel shows.
 SummarySection generalSummary(const DialogSession &session);
 // The options of the PPD that no other page shows. The list of entries may be empty.
 SummarySection moreSummary(const DialogSession &session);
+// The settings of the Job page that differ from the usual ones. The list of entries may be empty.
+SummarySection jobSummary(const DialogSession &session);
 // The general settings that are not PPD options.
 QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual);
 // The job option of a general setting, by its display name; empty if there is none.

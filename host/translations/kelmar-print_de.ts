@@ -100,8 +100,8 @@
         <translation>Die Einstellungsseiten dieses Bündels statt der installierten laden.</translation>
     </message>
     <message>
-        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Den Dialog mit dieser Seite öffnen: general, more, summary oder Name oder Art einer Einstellungsseite.</translation>
+        <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
+        <translation>Den Dialog mit dieser Seite öffnen: general, more, job, summary oder Name oder Art einer Einstellungsseite.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -565,6 +565,22 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
         <translation>Wie der Auftrag am Drucker und in Auftragslisten heißt.</translation>
+    </message>
+    <message>
+        <source>When the print server sends the job to the printer. A job that waits for its release is released in the list of jobs.</source>
+        <translation>Wann der Druckserver den Auftrag an den Drucker sendet. Ein Auftrag, der auf seine Freigabe wartet, wird in der Auftragsliste freigegeben.</translation>
+    </message>
+    <message>
+        <source>Jobs of a higher priority are printed first.</source>
+        <translation>Aufträge mit höherer Priorität werden zuerst gedruckt.</translation>
+    </message>
+    <message>
+        <source>A sheet with the names of the job and its owner, printed before or after the document.</source>
+        <translation>Ein Blatt mit den Namen des Auftrags und seines Besitzers, das vor oder nach dem Dokument gedruckt wird.</translation>
+    </message>
+    <message>
+        <source>A text that is recorded with the job, for example a project or a customer.</source>
+        <translation>Ein Text, der mit dem Auftrag erfasst wird, zum Beispiel ein Projekt oder ein Kunde.</translation>
     </message>
 </context>
 <context>
@@ -1622,6 +1638,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>More Options</source>
         <translation>Weitere Optionen</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -2112,6 +2132,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Fixed: %1. %2</source>
         <translation>Nicht änderbar: %1. %2</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2601,6 +2625,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Pages printed: %1</source>
         <translation>Gedruckte Seiten: %1</translation>
     </message>
+    <message>
+        <source>Print: %1</source>
+        <comment>a time of day, or words such as: at night</comment>
+        <translation>Druck: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2865,6 +2894,141 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Am Abend</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>In der Nacht</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Nach der Freigabe</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Dringend</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Nicht eingestuft</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Eingestuft</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Deckblätter</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Abrechnungsinformation</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 davor, %2 danach</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorität:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Deckblatt davor:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Deckblatt danach:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Drucken:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Abrechnungsinformation:</translation>
     </message>
 </context>
 </TS>

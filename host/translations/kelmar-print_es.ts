@@ -112,8 +112,8 @@
         <translation>Cargar los paneles de este paquete en lugar de los instalados.</translation>
     </message>
     <message>
-        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Abrir el diálogo en esta página: general, more, summary, o el nombre o el tipo de un panel.</translation>
+        <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
+        <translation>Abrir el diálogo en esta página: general, more, job, summary, o el nombre o el tipo de un panel.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -565,6 +565,22 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
         <translation>El nombre del trabajo en la impresora y en las listas de trabajos.</translation>
+    </message>
+    <message>
+        <source>When the print server sends the job to the printer. A job that waits for its release is released in the list of jobs.</source>
+        <translation>Cuándo envía el servidor de impresión el trabajo a la impresora. Un trabajo que espera su liberación se libera en la lista de trabajos.</translation>
+    </message>
+    <message>
+        <source>Jobs of a higher priority are printed first.</source>
+        <translation>Los trabajos de mayor prioridad se imprimen primero.</translation>
+    </message>
+    <message>
+        <source>A sheet with the names of the job and its owner, printed before or after the document.</source>
+        <translation>Una hoja con el nombre del trabajo y el de su propietario, que se imprime antes o después del documento.</translation>
+    </message>
+    <message>
+        <source>A text that is recorded with the job, for example a project or a customer.</source>
+        <translation>Un texto que se registra con el trabajo, por ejemplo, un proyecto o un cliente.</translation>
     </message>
 </context>
 <context>
@@ -1622,6 +1638,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>More Options</source>
         <translation>Más opciones</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -2112,6 +2132,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Fixed: %1. %2</source>
         <translation>Valores fijos: %1. %2</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2601,6 +2625,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Pages printed: %1</source>
         <translation>Páginas impresas: %1</translation>
     </message>
+    <message>
+        <source>Print: %1</source>
+        <comment>a time of day, or words such as: at night</comment>
+        <translation>Impresión: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2865,6 +2894,141 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante el día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Cuando se libere</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>No clasificado</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Clasificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Alto secreto</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Portadas</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Datos de facturación</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 antes, %2 después</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Prioridad:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Portada inicial:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Portada final:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Impresión:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>A una hora determinada</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Datos de facturación:</translation>
     </message>
 </context>
 </TS>

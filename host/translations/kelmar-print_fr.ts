@@ -100,8 +100,8 @@
         <translation>Charger les panneaux de ce paquet plutôt que ceux installés.</translation>
     </message>
     <message>
-        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Ouvrir la boîte de dialogue sur ce volet&#xa0;: general, more, summary, ou le nom ou le type d’un panneau.</translation>
+        <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
+        <translation>Ouvrir la boîte de dialogue sur ce volet&#xa0;: general, more, job, summary, ou le nom ou le type d’un panneau.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -565,6 +565,22 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
         <translation>Le nom de la tâche sur l’imprimante et dans les listes de tâches.</translation>
+    </message>
+    <message>
+        <source>When the print server sends the job to the printer. A job that waits for its release is released in the list of jobs.</source>
+        <translation>Moment où le serveur d’impression envoie la tâche à l’imprimante. Une tâche en attente de libération est libérée dans la liste des tâches.</translation>
+    </message>
+    <message>
+        <source>Jobs of a higher priority are printed first.</source>
+        <translation>Les tâches de priorité supérieure sont imprimées en premier.</translation>
+    </message>
+    <message>
+        <source>A sheet with the names of the job and its owner, printed before or after the document.</source>
+        <translation>Une feuille portant le nom de la tâche et celui de son propriétaire, imprimée avant ou après le document.</translation>
+    </message>
+    <message>
+        <source>A text that is recorded with the job, for example a project or a customer.</source>
+        <translation>Un texte enregistré avec la tâche, par exemple un projet ou un client.</translation>
     </message>
 </context>
 <context>
@@ -1622,6 +1638,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>More Options</source>
         <translation>Autres options</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -2112,6 +2132,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Fixed: %1. %2</source>
         <translation>Imposé&#xa0;: %1. %2</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2601,6 +2625,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Pages printed: %1</source>
         <translation>Pages imprimées&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Print: %1</source>
+        <comment>a time of day, or words such as: at night</comment>
+        <translation>Impression&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2865,6 +2894,141 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Pendant la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Le soir</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>À sa libération</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Basse</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Pages de garde</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Informations de facturation</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 avant, %2 après</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Page de garde avant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Page de garde après&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Impression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Informations de facturation&#xa0;:</translation>
     </message>
 </context>
 </TS>

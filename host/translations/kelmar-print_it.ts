@@ -112,8 +112,8 @@
         <translation>Carica i pannelli di questo pacchetto invece di quelli installati.</translation>
     </message>
     <message>
-        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>Apre la finestra di dialogo a questa pagina: general, more, summary, oppure il nome o il tipo di un pannello.</translation>
+        <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
+        <translation>Apre la finestra di dialogo a questa pagina: general, more, job, summary, oppure il nome o il tipo di un pannello.</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -565,6 +565,22 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
         <translation>Il nome del lavoro sulla stampante e negli elenchi dei lavori.</translation>
+    </message>
+    <message>
+        <source>When the print server sends the job to the printer. A job that waits for its release is released in the list of jobs.</source>
+        <translation>Quando il server di stampa invia il lavoro alla stampante. Un lavoro in attesa di rilascio viene rilasciato nell’elenco dei lavori.</translation>
+    </message>
+    <message>
+        <source>Jobs of a higher priority are printed first.</source>
+        <translation>I lavori con priorità più alta vengono stampati per primi.</translation>
+    </message>
+    <message>
+        <source>A sheet with the names of the job and its owner, printed before or after the document.</source>
+        <translation>Un foglio con il nome del lavoro e del proprietario, stampato prima o dopo il documento.</translation>
+    </message>
+    <message>
+        <source>A text that is recorded with the job, for example a project or a customer.</source>
+        <translation>Un testo registrato con il lavoro, per esempio un progetto o un cliente.</translation>
     </message>
 </context>
 <context>
@@ -1622,6 +1638,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>More Options</source>
         <translation>Altre opzioni</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Lavoro</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -2112,6 +2132,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Fixed: %1. %2</source>
         <translation>Valori fissi: %1. %2</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Lavoro</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2601,6 +2625,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Pages printed: %1</source>
         <translation>Pagine stampate: %1</translation>
     </message>
+    <message>
+        <source>Print: %1</source>
+        <comment>a time of day, or words such as: at night</comment>
+        <translation>Stampa: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2865,6 +2894,141 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Subito</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante il giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Dopo il rilascio</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Bassa</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Modulo</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classificato</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classificato</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Riservato</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Segreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Segretissimo</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorità</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Copertine</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Dati per l’addebito</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 prima, %2 dopo</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorità:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Copertina iniziale:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Copertina finale:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Stampa:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>A un’ora stabilita</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Dati per l’addebito:</translation>
     </message>
 </context>
 </TS>

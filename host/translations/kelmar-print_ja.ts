@@ -100,8 +100,8 @@
         <translation>インストール済みの代わりにこのバンドルのパネルを読み込みます。</translation>
     </message>
     <message>
-        <source>Open the dialog at this pane: general, more, summary, or a panel&apos;s name or kind.</source>
-        <translation>このペインでダイアログを開きます: general、more、summary、またはパネルの名前か種類。</translation>
+        <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
+        <translation>このペインでダイアログを開きます: general、more、job、summary、またはパネルの名前か種類。</translation>
     </message>
     <message>
         <source>Write a picture of the dialog and exit.</source>
@@ -565,6 +565,22 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>What the job is called at the printer and in lists of jobs.</source>
         <translation>プリンターやジョブの一覧に表示されるジョブの名前です。</translation>
+    </message>
+    <message>
+        <source>When the print server sends the job to the printer. A job that waits for its release is released in the list of jobs.</source>
+        <translation>プリントサーバーがジョブをプリンターに送る時期です。解放を待つジョブは、ジョブの一覧で解放します。</translation>
+    </message>
+    <message>
+        <source>Jobs of a higher priority are printed first.</source>
+        <translation>優先度の高いジョブから先に印刷されます。</translation>
+    </message>
+    <message>
+        <source>A sheet with the names of the job and its owner, printed before or after the document.</source>
+        <translation>ジョブ名と所有者名を記した用紙で、文書の前または後に印刷されます。</translation>
+    </message>
+    <message>
+        <source>A text that is recorded with the job, for example a project or a customer.</source>
+        <translation>プロジェクト名や顧客名など、ジョブとともに記録される文字列です。</translation>
     </message>
 </context>
 <context>
@@ -1622,6 +1638,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>More Options</source>
         <translation>その他のオプション</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
 </context>
 <context>
     <name>TerminalText</name>
@@ -2112,6 +2132,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Fixed: %1. %2</source>
         <translation>固定: %1。%2</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2597,6 +2621,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Pages printed: %1</source>
         <translation>印刷したページ数: %1</translation>
     </message>
+    <message>
+        <source>Print: %1</source>
+        <comment>a time of day, or words such as: at night</comment>
+        <translation>印刷: %1</translation>
+    </message>
 </context>
 <context>
     <name>host::SearchBar</name>
@@ -2858,6 +2887,141 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方以降</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>解放されたとき</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>緊急</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>機密指定なし</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>社外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>最高機密</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>課金情報</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>前: %1、後: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>優先度:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>先頭の表紙:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>末尾の表紙:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>印刷:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>指定した時刻</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>課金情報:</translation>
     </message>
 </context>
 </TS>

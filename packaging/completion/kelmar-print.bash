@@ -94,7 +94,7 @@ _kelmar_print() {
     --ask) _kelmar_print_among "$(_kelmar_print_keys)" ;;
     --save-preset | --delete-preset) _kelmar_print_among "$(_kelmar_print_ask --presets | sed -n 's|^[^ /]*/||p')" ;;
     --panel)
-        _kelmar_print_among "general more summary print-mode color-settings-1 color-settings-2
+        _kelmar_print_among "general more job summary print-mode color-settings-1 color-settings-2
             $(_kelmar_print_ask --list-options |
             sed -n 's|^    .* (.*\.\([a-z0-9-]*\))$|\1|p')"
         ;;

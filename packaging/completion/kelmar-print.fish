@@ -53,7 +53,7 @@ function __kelmar_print_presets
 end
 
 function __kelmar_print_panels
-    printf '%s\n' general more summary print-mode color-settings-1 color-settings-2
+    printf '%s\n' general more job summary print-mode color-settings-1 color-settings-2
     __kelmar_print_ask --list-options | string replace -rf '^    .* \(.*\.([a-z0-9-]*)\)$' '$1'
 end
 

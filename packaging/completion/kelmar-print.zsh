@@ -61,7 +61,7 @@ _kelmar_print_presets() {
 
 _kelmar_print_panels() {
     local -aU panels
-    panels=(general more summary print-mode color-settings-1 color-settings-2
+    panels=(general more job summary print-mode color-settings-1 color-settings-2
         ${(f)"$(_kelmar_print_ask --list-options | sed -n 's|^    .* (.*\.\([a-z0-9-]*\))$|\1|p')"})
     _wanted panels expl pane compadd -a panels
 }

@@ -6,6 +6,7 @@
 #include "host/window/look/change_mark.h"
 #include "host/window/look/link_label.h"
 #include "host/window/messages/message_bar.h"
+#include "host/window/pages/job_page.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/preset_dialog.h"
@@ -23,6 +24,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimeEdit>
 
 #include <sys/file.h>
 
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void panelsControlsAreUndoneAndMarked();
     void presetIsOneStepHoweverLongItTakes();
     void summaryShowsChangesAndLeadsToThem();
+    void jobSettingsAreSentUndoneAndSummed();
     void presetIsSavedAppliedRenamedAndDeleted();
     void lastUsedIsOfferedWithoutCodes();
     void presetActionsStayWithTheirPrinter();
@@ -300,6 +303,53 @@ void ChangesTest::summaryShowsChangesAndLeadsToThem()
     }
     settle();
     QVERIFY(find<QComboBox>(u"Duplex"_s)->hasFocus());
+}
+
+void ChangesTest::jobSettingsAreSentUndoneAndSummed()
+{
+    Destination &office = m_system.printers.first();
+    office.options = {{u"job-priority"_s, u"75"_s}, {u"job-sheets"_s, u"standard"_s}};
+    office.coverSheets = {u"none"_s, u"standard"_s, u"secret"_s, u"acme"_s};
+    PrintWindow &window = open();
+    const auto sent = [&window](const QString &name) {
+        return sentValue(window.session()->jobOptions(), name);
+    };
+    window.book()->showPage(window.book()->pageNamed(u"job"_s));
+    auto *page = find<JobPage>();
+    const auto sheets = page->findChildren<QComboBox *>(u"job-sheets"_s);
+    QCOMPARE(find<QComboBox>(u"job-priority"_s)->currentText(), u"High"_s);
+    QCOMPARE(sheets.value(0)->currentText() + sheets.value(1)->currentText(), u"StandardNone"_s);
+    QVERIFY(sheets.value(0)->findText(u"acme"_s) >= 0); // of this server alone
+    choose(u"job-priority"_s, u"100"_s);
+    settle();
+    choose(u"job-hold-until"_s, u"time"_s);
+    auto *time = page->findChild<QTimeEdit *>();
+    QVERIFY(time->isEnabled());
+    time->setTime(QTime(21, 30));
+    settle();
+    const QString hold = sent(u"job-hold-until"_s);
+    const QDateTime moment(QDate::currentDate(), QTime(21, 30));
+    QCOMPARE(hold, moment.toUTC().time().toString(u"HH:mm"_s)); // the server counts in UTC
+    sheets.value(1)->setCurrentIndex(sheets.value(1)->findData(u"secret"_s));
+    Q_EMIT sheets.value(1)->activated(0);
+    QTest::keyClicks(page->findChild<QLineEdit *>(u"job-billing"_s), u"Project 7"_s);
+    settle();
+    QCOMPARE(sent(u"job-sheets"_s), u"standard,secret"_s);
+    QCOMPARE(sent(u"job-billing"_s), u"Project 7"_s);
+    const SummarySection summary = window.session()->summary().last();
+    QCOMPARE(summary.title, u"Job"_s);
+    QCOMPARE(summary.entries.size(), 4);
+    QVERIFY(summary.entries.contains({u"Cover sheets"_s, u"Standard before, Secret after"_s}));
+    QVERIFY(window.book()->list()->currentItem()->toolTip().contains(u"changed"_s));
+    while (window.session()->chosen().contains(u"job-billing"_s))
+        undo();
+    undo();
+    QCOMPARE(sent(u"job-sheets"_s), u"standard"_s);
+    choose(u"job-priority"_s, u"75"_s); // the queue's own is not sent as a choice of the user
+    QVERIFY(!window.session()->chosen().contains(u"job-priority"_s));
+    window.print();
+    settle();
+    QCOMPARE(sentValue(m_system.submitted.first().options, u"job-hold-until"_s), hold);
 }
 
 void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()

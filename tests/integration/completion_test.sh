@@ -58,5 +58,5 @@ offers report.pdf -d office --set-file privatePassword = rep
 offers departmentCode -d office --ask dep
 offers Grey -d office --delete-preset G
 offers report.pdf rep
-for panel in general more summary print-mode color-settings-1 color-settings-2; do offers $panel --panel ""; done
+for panel in general more job summary print-mode color-settings-1 color-settings-2; do offers $panel --panel ""; done
 exit $failed

@@ -3,6 +3,7 @@
 
 #include "host/window/jobs/result_page.h"
 
+#include "host/session/job_settings.h"
 #include "host/window/look/announced.h"
 #include "host/window/look/centred_label.h"
 #include "host/window/look/dialog_button.h"
@@ -191,7 +192,12 @@ QString ResultPage::sentence(const JobStatus &status) const
         sentence +=
             QLatin1Char('\n') + (status.isFinal() ? tr("Pages printed: %1") : tr("Pages printed so far: %1"))
                                     .arg(status.printedPages);
-    if (status.state == JobStatus::State::Held && !status.isHeldByUser)
+    const bool isHeld = status.state == JobStatus::State::Held;
+    if (isHeld && !status.heldUntil.isEmpty())
+        sentence +=
+            QLatin1Char('\n') + tr("Print: %1", "a time of day, or words such as: at night")
+                                    .arg(jobValueText(QStringLiteral("job-hold-until"), status.heldUntil));
+    else if (isHeld && !status.isHeldByUser)
         sentence +=
             QLatin1Char('\n') +
             tr("A private job is printed once you enter its password at the printer “%1”.").arg(m_printer);

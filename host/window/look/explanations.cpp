@@ -31,6 +31,19 @@ constexpr std::array explanations{
                     "The pages to print. Separate single pages and ranges with commas, for example 1-3, 8.")},
     Explanation{"job-name", QT_TRANSLATE_NOOP("Explanation",
                                               "What the job is called at the printer and in lists of jobs.")},
+    Explanation{"job-hold-until",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "When the print server sends the job to the printer. "
+                                  "A job that waits for its release is released in the list of jobs.")},
+    Explanation{"job-priority",
+                QT_TRANSLATE_NOOP("Explanation", "Jobs of a higher priority are printed first.")},
+    Explanation{"job-sheets",
+                QT_TRANSLATE_NOOP("Explanation", "A sheet with the names of the job and its owner, "
+                                                 "printed before or after the document.")},
+    Explanation{
+        "job-billing",
+        QT_TRANSLATE_NOOP("Explanation",
+                          "A text that is recorded with the job, for example a project or a customer.")},
     Explanation{"PageSize",
                 QT_TRANSLATE_NOOP("Explanation", "The size of the paper to print on. Paper of this size must "
                                                  "be loaded in one of the printer’s trays.")},

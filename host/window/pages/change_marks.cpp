@@ -4,6 +4,7 @@
 #include "host/window/pages/change_marks.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
 #include "host/window/look/change_mark.h"
@@ -108,6 +109,7 @@ void ChangeMarks::findControls()
             keys = keysSetBy(widget);
         } else if (const QString name = widget->objectName();
                    GeneralSettings::covers(name) || PageLayoutSettings::covers(name) ||
+                   jobSettingNames().contains(name) ||
                    (m_session->ppd() && m_session->ppd()->hasOption(name))) {
             keys.append(name);
         }

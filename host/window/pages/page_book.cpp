@@ -15,6 +15,7 @@
 #include "host/window/pages/change_marks.h"
 #include "host/window/pages/general_page.h"
 #include "host/window/pages/hidden_controls.h"
+#include "host/window/pages/job_page.h"
 #include "host/window/pages/locked_controls.h"
 #include "host/window/pages/more_page.h"
 #include "host/window/pages/page_frame.h"
@@ -39,6 +40,7 @@ namespace {
 
 const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
+const QString jobName = QStringLiteral("job");
 const QString summaryName = QStringLiteral("summary");
 
 // What the administrator has fixed on the page of a panel, and who says so; null for nothing.
@@ -183,6 +185,7 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     }
     if (!hidesAll(session->otherKeywords()))
         addPage(tr("More Options"), moreName);
+    addPage(tr("Job"), jobName);
     addPage(tr("Summary"), summaryName);
     fitParts();
 }
@@ -235,6 +238,11 @@ QWidget *PageBook::contentOf(const Page &page)
         connect(m_more, &MorePage::grown, this, &PageBook::grown);
         return m_more;
     }
+    if (page.name == jobName) {
+        m_job = new JobPage(m_session);
+        connect(m_job, &JobPage::chosen, this, &PageBook::chosen);
+        return m_job;
+    }
     m_summary = new SummaryPage;
     connect(m_summary, &SummaryPage::followed, this, &PageBook::leadTo, Qt::QueuedConnection);
     showSummary();
@@ -250,6 +258,7 @@ void PageBook::clear()
     m_current = -1;
     m_general = nullptr;
     m_more = nullptr;
+    m_job = nullptr;
     m_summary = nullptr;
     const QSignalBlocker quiet(m_list);
     m_list->clear();
@@ -357,6 +366,8 @@ void PageBook::refresh()
         m_general->refresh();
     if (m_more)
         m_more->refresh();
+    if (m_job)
+        m_job->refresh();
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
         showSummary();
     updatePreview();
@@ -373,6 +384,8 @@ int PageBook::rowOf(const QString &key) const
     const int place = pageOf(*m_session, key);
     if (place == morePage)
         return pageNamed(moreName);
+    if (place == jobPage)
+        return pageNamed(jobName);
     for (size_t row = 0; row < m_pages.size(); ++row) {
         if (place >= 0 && m_pages[row].panel == place)
             return static_cast<int>(row);

@@ -16,6 +16,7 @@ class DialogSession;
 class DocumentChoice;
 class ChangeMarks;
 class GeneralPage;
+class JobPage;
 class MorePage;
 class PageFrame;
 class PageList;
@@ -117,6 +118,7 @@ private:
     bool m_previewBegun = false;
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
+    JobPage *m_job = nullptr;
     SummaryPage *m_summary = nullptr;
 };
 

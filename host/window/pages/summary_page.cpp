@@ -3,6 +3,8 @@
 
 #include "host/window/pages/summary_page.h"
 
+#include "host/session/job_settings.h"
+#include "host/session/session_changes.h"
 #include "host/window/look/contrast.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
@@ -24,6 +26,12 @@ constexpr int nameWidth = 240; // pixels
 // The key of a line of the summary, whose panel names its settings as people do.
 QString keyOf(const DialogSession &session, int panel, const QString &name)
 {
+    if (panel == jobPage) {
+        const QStringList &names = jobSettingNames();
+        const auto job = std::find_if(names.begin(), names.end(),
+                                      [&](const QString &key) { return jobSettingText(key) == name; });
+        return job == names.end() ? QString() : *job;
+    }
     if (panel < 0) {
         const QString general = keyOfGeneralEntry(name);
         if (!general.isEmpty() || !session.ppd())
@@ -86,6 +94,7 @@ void SummaryPage::showChanged(const DialogSession &session, const QList<SettingC
         const int page = pageOf(session, change.key);
         const QString title = page >= 0          ? session.panel(page)->panelName()
                               : page == morePage ? moreSummary(session).title
+                              : page == jobPage  ? jobSummary(session).title
                                                  : m_all.first().title;
         auto part = std::find_if(m_changed.begin(), m_changed.end(),
                                  [&](const Part &known) { return known.title == title; });

@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/session/job_settings.h"
+
+#include "host/session/dialog_session.h"
+#include "host/session/session_state.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QLocale>
+#include <QMap>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+struct JobSettingText
+{
+    Q_DECLARE_TR_FUNCTIONS(JobSettingText)
+};
+
+const QString holdName = QStringLiteral("job-hold-until");
+const QString priorityName = QStringLiteral("job-priority");
+const QString sheetsName = QStringLiteral("job-sheets");
+const QString billingName = QStringLiteral("job-billing");
+const QString noSheet = QStringLiteral("none");
+
+struct ValueText
+{
+    const char *name;
+    const char *value;
+    const char *text;
+};
+
+constexpr ValueText valueTexts[] = {
+    {"job-hold-until", "no-hold", QT_TRANSLATE_NOOP("JobSettingText", "Now")},
+    {"job-hold-until", "day-time", QT_TRANSLATE_NOOP("JobSettingText", "During the day")},
+    {"job-hold-until", "evening", QT_TRANSLATE_NOOP("JobSettingText", "In the evening")},
+    {"job-hold-until", "night", QT_TRANSLATE_NOOP("JobSettingText", "At night")},
+    {"job-hold-until", "second-shift", QT_TRANSLATE_NOOP("JobSettingText", "In the second shift")},
+    {"job-hold-until", "third-shift", QT_TRANSLATE_NOOP("JobSettingText", "In the third shift")},
+    {"job-hold-until", "weekend", QT_TRANSLATE_NOOP("JobSettingText", "At the weekend")},
+    {"job-hold-until", "indefinite", QT_TRANSLATE_NOOP("JobSettingText", "When it is released")},
+    {"job-priority", "25", QT_TRANSLATE_NOOP("JobSettingText", "Low")},
+    {"job-priority", "50", QT_TRANSLATE_NOOP("JobSettingText", "Normal")},
+    {"job-priority", "75", QT_TRANSLATE_NOOP("JobSettingText", "High")},
+    {"job-priority", "100", QT_TRANSLATE_NOOP("JobSettingText", "Urgent")},
+    {"job-sheets", "none", QT_TRANSLATE_NOOP("JobSettingText", "None")},
+    {"job-sheets", "standard", QT_TRANSLATE_NOOP("JobSettingText", "Standard")},
+    {"job-sheets", "form", QT_TRANSLATE_NOOP("JobSettingText", "Form")},
+    {"job-sheets", "unclassified", QT_TRANSLATE_NOOP("JobSettingText", "Unclassified")},
+    {"job-sheets", "classified", QT_TRANSLATE_NOOP("JobSettingText", "Classified")},
+    {"job-sheets", "confidential", QT_TRANSLATE_NOOP("JobSettingText", "Confidential")},
+    {"job-sheets", "secret", QT_TRANSLATE_NOOP("JobSettingText", "Secret")},
+    {"job-sheets", "topsecret", QT_TRANSLATE_NOOP("JobSettingText", "Top secret")},
+};
+
+QString textOf(const QString &name, const QString &value)
+{
+    const auto *const text = std::find_if(std::begin(valueTexts), std::end(valueTexts), [&](const auto &t) {
+        return name == QLatin1String(t.name) && value == QLatin1String(t.value);
+    });
+    return text == std::end(valueTexts) ? value : JobSettingText::tr(text->text);
+}
+
+QString usualValue(const QString &name)
+{
+    static const QMap<QString, QString> usual = {{holdName, QStringLiteral("no-hold")},
+                                                 {priorityName, QStringLiteral("50")},
+                                                 {sheetsName, QStringLiteral("none,none")}};
+    return usual.value(name, QString());
+}
+
+// With both cover sheets, as the print server reports it.
+QString normalized(const QString &name, const QString &value)
+{
+    if (name != sheetsName || value.contains(QLatin1Char(',')))
+        return value;
+    return value + QLatin1Char(',') + noSheet;
+}
+
+} // namespace
+
+const QStringList &jobSettingNames()
+{
+    static const QStringList names = {holdName, priorityName, sheetsName, billingName};
+    return names;
+}
+
+QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QString> &options,
+                        const QString &name)
+{
+    for (const ChosenSetting &setting : chosen.inOrder()) {
+        if (setting.key == name)
+            return normalized(name, setting.value);
+    }
+    const QString own = options.value(name);
+    return own.isEmpty() ? usualValue(name) : normalized(name, own);
+}
+
+QString jobSettingValue(const DialogSession &session, const QString &name)
+{
+    return jobSettingValue(session.chosen(), session.destination().options, name);
+}
+
+void setJobSetting(DialogSession *session, const QString &name, const QString &value)
+{
+    if (value == jobSettingValue({}, session->destination().options, name)) {
+        const SessionState now = StateKeeper::stateOf(*session);
+        SessionState wanted = now;
+        wanted.chosen.takeBack({name}, {});
+        StateKeeper(session).bring(now, wanted);
+        return;
+    }
+    PrintError ignored;
+    (void)choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
+}
+
+QString jobSettingText(const QString &name)
+{
+    static const QMap<QString, const char *> texts = {
+        {holdName, QT_TRANSLATE_NOOP("JobSettingText", "Print")},
+        {priorityName, QT_TRANSLATE_NOOP("JobSettingText", "Priority")},
+        {sheetsName, QT_TRANSLATE_NOOP("JobSettingText", "Cover sheets")},
+        {billingName, QT_TRANSLATE_NOOP("JobSettingText", "Billing information")}};
+    return texts.contains(name) ? JobSettingText::tr(texts.value(name)) : name;
+}
+
+QString jobValueText(const QString &name, const QString &value)
+{
+    if (const QTime time = timeOfHold(value); name == holdName && time.isValid())
+        return QLocale().toString(time, QLocale::ShortFormat);
+    if (name != sheetsName)
+        return textOf(name, value);
+    const QString both = normalized(name, value);
+    const QString before = both.section(QLatin1Char(','), 0, 0), after = both.section(QLatin1Char(','), 1);
+    if (before == after)
+        return textOf(name, before);
+    return JobSettingText::tr("%1 before, %2 after", "cover sheets")
+        .arg(textOf(name, before), textOf(name, after));
+}
+
+QString holdValueOf(const QTime &time)
+{
+    return QDateTime(QDate::currentDate(), time).toUTC().time().toString(QStringLiteral("HH:mm"));
+}
+
+QTime timeOfHold(const QString &value)
+{
+    QTime time = QTime::fromString(value, QStringLiteral("HH:mm"));
+    if (!time.isValid())
+        time = QTime::fromString(value, QStringLiteral("HH:mm:ss"));
+    if (!time.isValid())
+        return {};
+    QDateTime moment = QDateTime::currentDateTimeUtc();
+    moment.setTime(time);
+    return moment.toLocalTime().time();
+}
+
+QStringList coverSheets(const DialogSession &session)
+{
+    QStringList sheets = session.destination().coverSheets;
+    sheets.removeAll(noSheet);
+    sheets.prepend(noSheet);
+    return sheets;
+}
+
+} // namespace host

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+class QTime;
+
+namespace host {
+
+class ChosenSettings;
+class DialogSession;
+
+// The settings of the Job page: how the print server treats the job. They are job options and are kept among
+// the chosen settings of a session; without a choice the defaults of the destination hold.
+
+// "job-hold-until", "job-priority", "job-sheets" and "job-billing", in display order.
+const QStringList &jobSettingNames();
+// The value that the job will have: the chosen one, or else the default of the destination, or else that of
+// the print system. `options` are those of the destination.
+QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QString> &options,
+                        const QString &name);
+QString jobSettingValue(const DialogSession &session, const QString &name);
+// Chooses a value; the default takes the choice back. Has no effect if the policy does not allow the change.
+void setJobSetting(DialogSession *session, const QString &name, const QString &value);
+
+// The name of a setting, and a value of it, in words.
+QString jobSettingText(const QString &name);
+QString jobValueText(const QString &name, const QString &value);
+
+// The value of "job-hold-until" for a time of day of the user, and the reverse; the print system counts in
+// UTC. The time is invalid if the value is not a time of day.
+QString holdValueOf(const QTime &time);
+QTime timeOfHold(const QString &value);
+
+// The cover sheets that the destination offers, "none" first.
+QStringList coverSheets(const DialogSession &session);
+
+} // namespace host
