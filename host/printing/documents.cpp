@@ -43,11 +43,13 @@ bool isSvg(const QByteArray &head)
     return reader.readNextStartElement() && reader.name() == QLatin1String("svg");
 }
 
-// Image formats whose files look like text.
+// Image formats whose files look like text. EPS is PostScript to a print server.
 bool isDrawingInText(const QMimeType &type, const QByteArray &head)
 {
-    return (type.name().startsWith(QLatin1String("image/")) && type.inherits(QStringLiteral("text/plain"))) ||
-           isSvg(head);
+    const bool isDrawing = type.name().startsWith(QLatin1String("image/")) &&
+                           type.inherits(QStringLiteral("text/plain")) &&
+                           !type.inherits(QStringLiteral("application/postscript"));
+    return isDrawing || isSvg(head);
 }
 
 void describeFormat(Document *document, const QByteArray &head)

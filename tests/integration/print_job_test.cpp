@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QJsonArray>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <cups/cups.h>
@@ -273,6 +274,8 @@ void PrintJobTest::documentsAreTheServersBusiness_data()
                                                   "00000ff00");
     QTest::newRow("bitmap") << bitmap << 0;
     QTest::newRow("PostScript") << gzipped(postScript) << 0;
+    QTest::newRow("encapsulated PostScript")
+        << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 99 99\n") + postScript.mid(5) << 0;
     QTest::newRow("drawing") << drawing << 1;
     QTest::newRow("compressed drawing") << gzipped(drawing) << 1;
 }
@@ -285,6 +288,11 @@ void PrintJobTest::documentsAreTheServersBusiness()
     const Outcome outcome = run({u"--batch"_s, file(u"document"_s, contents)});
     QCOMPARE(outcome.code, code);
     QCOMPARE(outcome.json[u"error"_s][u"code"_s].toString(), code ? u"unsupported-format"_s : QString());
+    if (!QStandardPaths::findExecutable(u"pdftoppm"_s).isEmpty()) { // a file accepts the same documents
+        const QString output = m_server.folder() + u"/pages.pdf"_s;
+        QCOMPARE(run({u"--batch"_s, u"--output"_s, output, file(u"document"_s, contents)}).code, code);
+        QCOMPARE(QFile::remove(output), code == 0);
+    }
     if (code)
         QCOMPARE(m_server.capturedJobs(), before);
     else
