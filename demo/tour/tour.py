@@ -219,6 +219,33 @@ def preview(d):
     return "The preview shows %s; “Page after”: %s" % (before, after)
 
 
+@step("left-out")
+def left_out(d):
+    d.click(d.get("list item", "2"))
+    d.keys("space")
+    pale = d.says("Not printed")
+    cost = d.says("1 sheet, color")
+    return "Space on the second thumbnail leaves it out: %s; %s" % (pale, cost)
+
+
+@step("taken-in")
+def taken_in(d):
+    d.keys("space")
+    return "Space takes it in again: %s" % d.says("1 sheet, 2 sides, color")
+
+
+@step("job")
+def job(d):
+    go_to(d, "Job")
+    d.choose("Priority:", "High")
+    shows(d, "Priority:", "High")
+    d.keys("Tab", "Tab", "Tab")
+    d.focus_on("Billing information")
+    d.type("Project 7")
+    go_to(d, "Summary")
+    return "Job: priority High, billing information “%s”" % d.says("Project 7")
+
+
 @step("sent")
 def sent(d):
     d.keys("ctrl+p")
