@@ -93,6 +93,7 @@ void JobPage::addBilling(QGridLayout *grid)
     m_billing = new QLineEdit(this);
     m_billing->setObjectName(billingName);
     m_billing->setMaxLength(longestBilling);
+    m_billing->setAccessibleName(tr("Billing information:").chopped(1).trimmed());
     m_billing->setWhatsThis(explanationOf(billingName));
     auto *label = new QLabel(tr("Billing information:"), this);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
