@@ -70,7 +70,7 @@ QStringList PpdDocument::optionsOfStandardName(const QString &name)
         {QStringLiteral("sides"),
          QStringLiteral("Duplex JCLDuplex EFDuplex EFDuplexing ARDuplex KD03Duplex")},
         {QStringLiteral("output-bin"), QStringLiteral("OutputBin")},
-        {colorModeName, QStringLiteral("ColorModel ColorMode ColorType")},
+        {colorModeName, QStringLiteral("ColorModel")},
         {QStringLiteral("printer-resolution"), resolution},
         {QStringLiteral("resolution"), resolution}};
     return keywords.value(name.toLower()).split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -79,8 +79,9 @@ QStringList PpdDocument::optionsOfStandardName(const QString &name)
 bool PpdDocument::takesOption(const QString &name) const
 {
     const QStringList standsFor = optionsOfStandardName(name);
-    return hasOption(name) || std::any_of(standsFor.begin(), standsFor.end(),
-                                          [this](const QString &keyword) { return hasOption(keyword); });
+    return hasOption(name) || (isSame(name, colorModeName) && !monochromeChoice().isEmpty()) ||
+           std::any_of(standsFor.begin(), standsFor.end(),
+                       [this](const QString &keyword) { return hasOption(keyword); });
 }
 
 QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
@@ -140,7 +141,7 @@ QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const Q
 // libcups knows such a choice only in "ColorModel".
 QMap<QString, QString> PpdDocument::monochromeChoice() const
 {
-    for (const QString &keyword : optionsOfStandardName(colorModeName)) {
+    for (const QString &keyword : colorKeywords()) {
         const auto subject = option(keyword);
         for (const PpdOption::Choice &choice : subject ? subject->choices : QList<PpdOption::Choice>()) {
             if (isMonochromeChoice(choice.keyword))

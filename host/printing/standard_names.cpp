@@ -15,13 +15,13 @@ QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStrin
         if (isMeant && !ppd->markedChoice(keyword).isEmpty())
             choices.append(ppd->markedChoice(keyword));
     }
-    if (choices.isEmpty())
+    const bool isColorMode = name == QLatin1String("print-color-mode");
+    if (choices.isEmpty() && !isColorMode)
         return {};
-    QStringList candidates{choices.join(QLatin1Char(',')), choices.first()};
+    QStringList candidates{choices.join(QLatin1Char(',')), choices.value(0)};
     if (name == QLatin1String("sides"))
         candidates = {QStringLiteral("one-sided"), QStringLiteral("two-sided-long-edge"),
                       QStringLiteral("two-sided-short-edge")};
-    const bool isColorMode = name == QLatin1String("print-color-mode");
     if (isColorMode)
         candidates = {QStringLiteral("monochrome")};
     for (const QString &candidate : candidates) {
@@ -35,6 +35,13 @@ QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStrin
     // libcups marks nothing for the other mode.
     const bool isColor = isColorMode && !ppd->standardChoices(name, candidates.first()).isEmpty();
     return isColor ? QStringLiteral("color") : QString();
+}
+
+const QStringList &colorKeywords()
+{
+    static const QStringList keywords = {QStringLiteral("ColorModel"), QStringLiteral("ColorMode"),
+                                         QStringLiteral("ColorType")};
+    return keywords;
 }
 
 bool isMonochromeChoice(const QString &choice)

@@ -16,6 +16,8 @@ class PpdDocument;
 // is restored afterwards.
 QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStringList &options);
 
+// The keywords that PPDs use for the choice between color and black and white.
+const QStringList &colorKeywords();
 // Whether a choice of an option for color means black and white or shades of gray, by the keywords that PPDs
 // of many makers use.
 bool isMonochromeChoice(const QString &choice);

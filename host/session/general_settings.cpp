@@ -5,6 +5,7 @@
 
 #include "host/printing/option_text.h"
 #include "host/printing/ppd_document.h"
+#include "host/printing/standard_names.h"
 #include "host/session/page_ranges.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ bool GeneralSettings::covers(const QString &name)
 
 QString colorOptionKeyword(const PpdDocument &ppd)
 {
-    for (const QString &name : PpdDocument::optionsOfStandardName(QStringLiteral("print-color-mode"))) {
+    for (const QString &name : colorKeywords()) {
         const auto option = ppd.option(name);
         if (option && option->choices.size() > 1)
             return option->keyword;

@@ -17,9 +17,8 @@ const QString pageSize = QStringLiteral("PageSize");
 // Names that PPDs of many makers use for the same setting.
 bool isMonochromeMark(const QString &keyword, const QString &choice)
 {
-    static const QStringList keywords = {QStringLiteral("colormodel"), QStringLiteral("colormode"),
-                                         QStringLiteral("colortype"), QStringLiteral("printoutmode")};
-    return keywords.contains(keyword.toLower()) && isMonochromeChoice(choice);
+    const QStringList keywords = colorKeywords() + QStringList(QStringLiteral("PrintoutMode"));
+    return keywords.contains(keyword, Qt::CaseInsensitive) && isMonochromeChoice(choice);
 }
 
 bool isMonochrome(const DialogSession &session, const QList<JobOption> &options)

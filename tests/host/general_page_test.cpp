@@ -365,6 +365,11 @@ void GeneralPageTest::colorOfTheQueueIsShown()
     m_window->print();
     settle();
     QCOMPARE(sentValue(m_system.submitted.last().options, u"print-color-mode"_s), u"color"_s);
+    // The server has this one for every color printer.
+    m_system.printers.first().options =
+        m_system.printers.first().queueDefaults = {{u"print-color-mode"_s, u"color"_s}};
+    open();
+    QCOMPARE(find<QComboBox>(keyword)->currentText(), u"Automatic"_s);
 }
 
 void GeneralPageTest::costIsShown()
