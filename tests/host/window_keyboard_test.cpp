@@ -196,10 +196,10 @@ void WindowKeyboardTest::resultNamesEverything_data()
     status.message = u"The printer is out of paper."_s;
     QTest::newRow("stopped") << status << u"stopped\nThe printer is out of paper."_s
                              << StatusGlyph::Kind::Notice;
-    status = {JobStatus::State::Processing, false, {}, false, 2};
+    status = {JobStatus::State::Processing, false, {}, {}, false, 2};
     QTest::newRow("printing") << status << u"printing\nPages printed so far: 2"_s
                               << StatusGlyph::Kind::Success;
-    status = {JobStatus::State::Completed, true, {}, false, 3};
+    status = {JobStatus::State::Completed, true, {}, {}, false, 3};
     QTest::newRow("done") << status << u"done\nPages printed: 3"_s << StatusGlyph::Kind::Success;
 }
 
