@@ -332,6 +332,7 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     QCOMPARE(hold, moment.toUTC().time().toString(u"HH:mm"_s)); // the server counts in UTC
     sheets.value(1)->setCurrentIndex(sheets.value(1)->findData(u"secret"_s));
     Q_EMIT sheets.value(1)->activated(0);
+    settle();
     QTest::keyClicks(page->findChild<QLineEdit *>(u"job-billing"_s), u"Project 7"_s);
     settle();
     QCOMPARE(sent(u"job-sheets"_s), u"standard,secret"_s);
@@ -339,7 +340,7 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     const SummarySection summary = window.session()->summary().last();
     QCOMPARE(summary.title, u"Job"_s);
     QCOMPARE(summary.entries.size(), 4);
-    QVERIFY(summary.entries.contains({u"Cover sheets"_s, u"Standard before, Secret after"_s}));
+    QVERIFY(summary.entries.contains(SummaryEntry(u"Cover sheets"_s, u"Standard before, Secret after"_s)));
     QVERIFY(window.book()->list()->currentItem()->toolTip().contains(u"changed"_s));
     while (window.session()->chosen().contains(u"job-billing"_s))
         undo();
