@@ -133,10 +133,9 @@ QString jobValueText(const QString &name, const QString &value)
 {
     if (const QTime time = timeOfHold(value); name == holdName && time.isValid())
         return QLocale().toString(time, QLocale::ShortFormat);
-    if (name != sheetsName)
+    if (name != sheetsName || !value.contains(QLatin1Char(',')))
         return textOf(name, value);
-    const QString both = normalized(name, value);
-    const QString before = both.section(QLatin1Char(','), 0, 0), after = both.section(QLatin1Char(','), 1);
+    const QString before = value.section(QLatin1Char(','), 0, 0), after = value.section(QLatin1Char(','), 1);
     if (before == after)
         return textOf(name, before);
     return JobSettingText::tr("%1 before, %2 after", "cover sheets")

@@ -27,7 +27,7 @@ QString jobSettingValue(const DialogSession &session, const QString &name);
 // Chooses a value; the default takes the choice back. Has no effect if the policy does not allow the change.
 void setJobSetting(DialogSession *session, const QString &name, const QString &value);
 
-// The name of a setting, and a value of it, in words.
+// The name of a setting, and a value of it, in words. The value of "job-sheets" may be a single sheet.
 QString jobSettingText(const QString &name);
 QString jobValueText(const QString &name, const QString &value);
 
