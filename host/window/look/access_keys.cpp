@@ -88,9 +88,8 @@ void AccessKeys::assign()
     m_queued = false;
     Mnemonics keys;
     QHash<QWidget *, Texts> texts;
-    QList<QWidget *> without, unusable;
+    QList<QWidget *> usable, unusable;
     for (QWidget *part : std::as_const(m_parts)) {
-        QList<QWidget *> ofPart;
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
                 continue;
@@ -102,24 +101,18 @@ void AccessKeys::assign()
             const bool isShown = widget->isVisibleTo(m_window);
             known.shown = isShown ? known.own : widget->property(textProperty).toString();
             texts.insert(widget, known);
-            if (isShown && !isUsable(widget))
-                unusable.append(widget);
-            else if (isShown && !keys.claim(known.own))
-                ofPart.append(widget);
+            if (isShown)
+                (isUsable(widget) ? usable : unusable).append(widget);
         }
-        without = ofPart + without; // what is shown for a moment, such as a question, comes before the page
     }
-    const auto assignTo = [&](const QList<QWidget *> &widgets) {
-        QStringList wishes;
+    for (const QList<QWidget *> &widgets : {usable, unusable}) {
+        QStringList own;
         for (QWidget *widget : widgets)
-            wishes.append(texts[widget].own);
-        const QStringList shown = keys.assign(wishes);
+            own.append(texts[widget].own);
+        const QStringList shown = keys.assign(own);
         for (qsizetype i = 0; i < shown.size(); ++i)
             texts[widgets.at(i)].shown = shown.at(i);
-    };
-    assignTo(without);
-    unusable.removeIf([&](QWidget *widget) { return keys.claim(texts[widget].own); });
-    assignTo(unusable);
+    }
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {
         if (it.key()->property(textProperty).toString() != it->shown)

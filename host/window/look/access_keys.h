@@ -15,9 +15,9 @@ class QWidget;
 namespace host {
 
 // Gives every label of a field and every button on the screen an access key, and no key twice, even between
-// host, panels and translations. The parts of a window choose one after the other; where the key that a text
-// asks for is taken, or it asks for none, it gets another one. Disabled controls choose last. Follows what is
-// shown, hidden, enabled and disabled. A child of its window.
+// host, panels and translations. Earlier parts of a window have the first choice of the keys that their texts
+// ask for; where a key is taken, or a text asks for none, it gets another one. Disabled controls choose last.
+// Follows what is shown, hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
@@ -25,8 +25,7 @@ public:
     // Set to true on a label or button that is to have no key.
     static constexpr const char *keylessProperty = "keyless";
 
-    // Earlier parts have the first choice of the keys that their texts ask for, later ones of those that are
-    // left. The parts belong to the window and outlive this object.
+    // The parts belong to the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);
 
     // Adds a part that has the first choice, as it is shown with every page.

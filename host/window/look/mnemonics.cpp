@@ -70,35 +70,24 @@ QChar Mnemonics::keyOf(const QString &text)
     return place < 0 ? QChar() : text.at(place).toLower();
 }
 
-bool Mnemonics::take(QChar key)
-{
-    if (m_used.contains(key.toLower()))
-        return false;
-    m_used.insert(key.toLower(), taken);
-    return true;
-}
-
-bool Mnemonics::claim(const QString &text)
-{
-    const QChar key = keyOf(text);
-    return !key.isNull() && take(key);
-}
-
 // A text that is to get a key.
 struct Mnemonics::Wish
 {
+    QString text;            // as it was given
+    QChar wanted;            // the key that it asks for; null for none
     QString bare;            // without the key that it asks for
     qsizetype bracket = -1;  // where a key in brackets goes; -1 for a text with letters of its own
     QList<qsizetype> places; // of letters that may be its key, the best first
     QChar key;               // null while it has none
     bool isVisited = false;  // by the present search
 
-    explicit Wish(const QString &text);
+    explicit Wish(const QString &given);
     QList<QChar> keys() const;
     QString shown() const;
 };
 
-Mnemonics::Wish::Wish(const QString &text) : bare(text), bracket(placeOfBracket(text))
+Mnemonics::Wish::Wish(const QString &given)
+    : text(given), wanted(keyOf(given)), bare(given), bracket(placeOfBracket(given))
 {
     if (bracket >= 0) {
         bare.remove(bracket, bracketLength);
@@ -134,8 +123,8 @@ QList<QChar> Mnemonics::Wish::keys() const
 
 QString Mnemonics::Wish::shown() const
 {
-    if (key.isNull())
-        return bare;
+    if (key.isNull() || key == wanted)
+        return key.isNull() ? bare : text;
     if (bracket >= 0)
         return QString(bare).insert(bracket, QStringLiteral("(&%1)").arg(key.toUpper()));
     const auto place = std::find_if(places.begin(), places.end(),
@@ -145,16 +134,17 @@ QString Mnemonics::Wish::shown() const
 
 // A search for an augmenting path: a text whose keys are all taken gets that of another, which gets a
 // different one.
-bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index)
+bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index, bool mayTakeWanted)
 {
     Wish &wish = (*wishes)[index];
     wish.isVisited = true;
     const QList<QChar> keys = wish.keys();
     auto key = std::find_if(keys.begin(), keys.end(), [this](QChar k) { return !m_used.contains(k); });
     if (key == keys.end()) {
-        key = std::find_if(keys.begin(), keys.end(), [this, wishes](QChar k) {
+        key = std::find_if(keys.begin(), keys.end(), [this, wishes, mayTakeWanted](QChar k) {
             const qsizetype owner = m_used.value(k);
-            return owner != taken && !wishes->at(owner).isVisited && giveKey(wishes, owner);
+            return owner != taken && !wishes->at(owner).isVisited &&
+                   (mayTakeWanted || wishes->at(owner).wanted != k) && giveKey(wishes, owner, mayTakeWanted);
         });
     }
     if (key == keys.end())
@@ -170,9 +160,19 @@ QStringList Mnemonics::assign(const QStringList &texts)
     for (const QString &text : texts)
         wishes.append(Wish(text));
     for (qsizetype i = 0; i < wishes.size(); ++i) {
-        for (Wish &wish : wishes)
-            wish.isVisited = false;
-        giveKey(&wishes, i);
+        Wish &wish = wishes[i];
+        if (wish.wanted.isNull() || m_used.contains(wish.wanted))
+            continue;
+        wish.key = wish.wanted;
+        m_used.insert(wish.key, i);
+    }
+    for (qsizetype i = 0; i < wishes.size(); ++i) {
+        for (const bool mayTakeWanted : {false, true}) {
+            for (Wish &wish : wishes)
+                wish.isVisited = false;
+            if (!wishes.at(i).key.isNull() || giveKey(&wishes, i, mayTakeWanted))
+                break;
+        }
     }
     for (qsizetype &owner : m_used)
         owner = taken;

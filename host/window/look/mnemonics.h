@@ -22,21 +22,19 @@ public:
     // The index of that key in the text; -1 where it asks for none.
     static qsizetype placeOfKey(const QString &text);
 
-    // Takes the key that a text asks for; false when it is taken already, or it asks for none.
-    bool claim(const QString &text);
-    // Gives keys that are still free to as many of the texts as possible, instead of those they ask for, and
-    // returns the texts with their keys. A key is a letter or digit of the text, the first of a word if
-    // possible, or a letter in brackets behind a text without Latin letters. A text that gets none is
-    // returned without a key.
+    // Gives keys that are still free to as many of the texts as possible, and returns the texts with their
+    // keys. A text gets the key that it asks for, the first such text if there are several, unless another
+    // text would get none. Otherwise a key is a letter or digit of the text, the first of a word if possible,
+    // or a letter in brackets behind a text without Latin letters. A text that gets none is returned without
+    // a key.
     QStringList assign(const QStringList &texts);
 
 private:
     struct Wish;
-    bool take(QChar key);
-    bool giveKey(QList<Wish> *wishes, qsizetype index);
+    bool giveKey(QList<Wish> *wishes, qsizetype index, bool mayTakeWanted);
 
-    QHash<QChar, qsizetype>
-        m_used; // the wish that has the key in the present assign(); -1 for a key that stays
+    // By key: the text that has it in the present call of assign(), or -1 if it was given in an earlier one.
+    QHash<QChar, qsizetype> m_used;
 };
 
 } // namespace host
