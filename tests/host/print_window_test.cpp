@@ -240,7 +240,7 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
     picker->setCurrentIndex(2); // unsupported, without a PPD
     Q_EMIT picker->activated(2);
     QTRY_VERIFY(!find<QComboBox>(u"PageSize"_s));
-    QCOMPARE(find<PageList>()->count(), 2); // general and summary
+    QCOMPARE(find<PageList>()->count(), 3); // general, job and summary
     printButton()->click();
     settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"copies"_s), u"4"_s);
@@ -346,7 +346,7 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     window.book()->showPage(0);
     QCOMPARE(colour->restored, 0);
     auto *list = find<PageList>();
-    QCOMPARE(list->count(), 5); // general, two panels, more, summary
+    QCOMPARE(list->count(), 6); // general, two panels, more, job, summary
     QTest::keyClick(list, Qt::Key_Down);
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(colour->restored + balance->restored, 2);

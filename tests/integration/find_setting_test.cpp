@@ -282,7 +282,7 @@ void FindSettingTest::greyedChoiceIsOffered()
     pick(u"Duplex"_s, u"DuplexNoTumble"_s);
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s); // nothing has changed yet
     QVERIFY2(barText().contains(u"“Two-Sided Printing: Long-Edge Binding” is not available now"_s) &&
-                 barText().contains(u"Paper Type: Plain Paper instead of “Thick Paper 1”"_s),
+                 barText().contains(u"“Paper Type: Plain Paper” instead of “Thick Paper 1”"_s),
              qPrintable(barText()));
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
