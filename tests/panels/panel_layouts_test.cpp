@@ -242,7 +242,7 @@ void PanelLayoutsTest::textsAgreeWithThePpd_data()
 }
 
 // The host shows the PPD's texts, the panels those of the string tables; they must be consistent for the
-// user.
+// user. A panel may leave out what the heading above its control says, such as "Balance".
 void PanelLayoutsTest::textsAgreeWithThePpd()
 {
     QFETCH(const QByteArray, ppd);
@@ -257,7 +257,9 @@ void PanelLayoutsTest::textsAgreeWithThePpd()
             if (!option || key.contains(u"Digit"_s))
                 continue;
             QString text = translated.value(u"Translation "_s + key, QString::fromUtf8(option->text));
-            QCOMPARE(dialog.bundle()->localizedStringForKey(key), text);
+            const QString name = dialog.bundle()->localizedStringForKey(key);
+            QVERIFY2(!name.isEmpty() && text.contains(name, Qt::CaseInsensitive),
+                     qPrintable(name + u" is not in "_s + text));
             for (int i = 0; i < option->num_choices; ++i) {
                 const QString choice = QString::fromLatin1(option->choices[i].choice);
                 text = translated.value(key + u' ' + choice, QString::fromUtf8(option->choices[i].text));
