@@ -8,9 +8,13 @@
 #include "platform/background.h"
 
 #include <QEventLoop>
+#include <QRegularExpression>
+#include <QSizeF>
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace host {
 
@@ -19,6 +23,8 @@ namespace {
 const QString counter = QStringLiteral("pdfinfo");
 const QString examiner = QStringLiteral("qpdf");
 const QString document = QStringLiteral("/dev/stdin");
+const QStringList countArguments{QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"),
+                                 QStringLiteral("200"), document};
 const QString ranges = QStringLiteral("page-ranges");
 const QString pageSet = QStringLiteral("page-set");
 
@@ -64,6 +70,29 @@ bool isInRanges(int side, const QString &text)
 QString unreadable(const QString &name, const QString &problem)
 {
     return PageCounter::tr("“%1” cannot be printed: %2.").arg(name, problem);
+}
+
+// Whether pdfinfo has written different page sizes, in either direction.
+bool haveSeveralSizes(const SharedFile &text)
+{
+    constexpr qsizetype enough = 64 * 1024; // bytes
+    constexpr double tolerance = 3;         // points
+    static const QRegularExpression size(QStringLiteral("^Page +\\d+ size: +([\\d.]+) x ([\\d.]+) pts"),
+                                         QRegularExpression::MultilineOption);
+    const FileView view(text);
+    std::optional<QSizeF> first;
+    auto lines = size.globalMatch(QString::fromUtf8(view.bytes().first(qMin(enough, view.bytes().size()))));
+    while (lines.hasNext()) {
+        const QRegularExpressionMatch line = lines.next();
+        QSizeF page(line.captured(1).toDouble(), line.captured(2).toDouble());
+        if (page.width() > page.height())
+            page.transpose();
+        first = first.value_or(page);
+        if (std::abs(page.width() - first->width()) > tolerance ||
+            std::abs(page.height() - first->height()) > tolerance)
+            return true;
+    }
+    return false;
 }
 
 bool isInSet(int side, const QString &set)
@@ -205,7 +234,7 @@ void PageCounter::documentMade(const SharedFile &pdf)
     if (m_isPdf)
         return;
     m_maker.stop();
-    run(Step::Counting, counter, {document});
+    run(Step::Counting, counter, countArguments);
 }
 
 void PageCounter::made(bool asPrinted)
@@ -213,7 +242,7 @@ void PageCounter::made(bool asPrinted)
     if (m_step != Step::Making)
         return;
     m_isReadable = asPrinted;
-    run(Step::Counting, counter, {document});
+    run(Step::Counting, counter, countArguments);
 }
 
 void PageCounter::failed(PageMaker::Fault fault)
@@ -247,6 +276,7 @@ void PageCounter::ended(const SharedFile &output)
     if (m_step == Step::Counting) {
         const auto facts = readPageFacts(output);
         m_result.pages = facts ? facts->pages : 0;
+        m_result.hasSeveralSizes = facts && haveSeveralSizes(output);
         if (!facts && m_isPdf && !m_isReadable && m_process.problem().isNull())
             askWhy();
         else

@@ -42,6 +42,12 @@ public:
     // 0 if it is not known yet, or cannot be determined.
     int pagesOf(const QString &path) const { return isKnown(path) ? m_known.value(path).pages : 0; }
 
+    // Whether its pages have different sizes, as far as the first 200 pages are concerned.
+    bool hasSeveralSizes(const QString &path) const
+    {
+        return isKnown(path) && m_known.value(path).hasSeveralSizes;
+    }
+
     // Like count(), but examines only what verdict() needs: PDF always, other documents only if the settings
     // select pages.
     void check(const QStringList &paths, const PageSettings &settings);
@@ -57,7 +63,8 @@ private:
     struct Known
     {
         int pages = 0;
-        QString problem = {};    // why it cannot be printed, the end of a sentence; null if it can
+        QString problem = {}; // why it cannot be printed, the end of a sentence; null if it can
+        bool hasSeveralSizes = false;
         bool isPicture = false;  // its only page is printed whatever pages are selected
         bool wasSkipped = false; // because only the verdict was requested
         bool usesSettings = false;

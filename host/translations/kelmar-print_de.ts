@@ -2895,6 +2895,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>Seiten unterschiedlicher Größe</translation>
+    </message>
 </context>
 <context>
     <name>JobSettingText</name>

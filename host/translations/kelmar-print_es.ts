@@ -2895,6 +2895,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>páginas de distintos tamaños</translation>
+    </message>
 </context>
 <context>
     <name>JobSettingText</name>

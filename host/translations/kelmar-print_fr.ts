@@ -2895,6 +2895,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>pages de formats différents</translation>
+    </message>
 </context>
 <context>
     <name>JobSettingText</name>

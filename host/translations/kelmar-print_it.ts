@@ -2895,6 +2895,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>pagine di dimensioni diverse</translation>
+    </message>
 </context>
 <context>
     <name>JobSettingText</name>

@@ -2888,6 +2888,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <comment>between the parts of a list</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>サイズの異なるページあり</translation>
+    </message>
 </context>
 <context>
     <name>JobSettingText</name>

@@ -19,6 +19,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QRadioButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -385,6 +387,18 @@ void GeneralPageTest::costIsShown()
     QTRY_COMPARE(label->text(), u"3 sheets, 6 sides, color"_s);
     choose(u"ColorType"_s, u"Mono"_s);
     QTRY_COMPARE(label->text(), u"3 sheets, 6 sides, black and white"_s);
+    QTemporaryDir folder;
+    const QString mixed = folder.filePath(u"mixed.pdf"_s);
+    {
+        QPdfWriter writer(mixed);
+        QPainter painter(&writer); // A4
+        writer.setPageOrientation(QPageLayout::Landscape);
+        writer.newPage();
+        writer.setPageSize(QPageSize(QPageSize::A3));
+        writer.newPage();
+    }
+    openWith({mixed});
+    QTRY_COMPARE(find<JobCostLabel>()->text(), u"3 sheets, color, pages of different sizes"_s);
     openWith({sourcePath("/demo/README.md"), u"/dev/null"_s});
     settle();
     QCOMPARE(find<JobCostLabel>()->text(), QString()); // one of them cannot be counted

@@ -9,6 +9,8 @@
 #include "host/session/job_cost.h"
 #include "host/session/printed_pages.h"
 
+#include <algorithm>
+
 namespace host {
 
 JobCostLabel::JobCostLabel(DocumentChoice *documents, std::function<const DialogSession *()> session,
@@ -48,6 +50,9 @@ QString JobCostLabel::costOf(const DialogSession &session)
         parts.append(tr("black and white"));
     else if (session.ppd() && !colorOptionKeyword(*session.ppd()).isNull())
         parts.append(tr("color"));
+    if (std::any_of(paths.begin(), paths.end(),
+                    [this](const QString &path) { return m_counter->hasSeveralSizes(path); }))
+        parts.append(tr("pages of different sizes"));
     return parts.join(tr(", ", "between the parts of a list"));
 }
 
