@@ -143,7 +143,8 @@ void WindowLayout::setCompact(bool compact)
 {
     m_parts.picker->setCompact(compact);
     m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
-    m_barRow->setContentsMargins(16, m_parts.bar->isShowing() ? (compact ? 4 : 10) : 0, 16, 0);
+    const int side = compact ? 10 : 16;
+    m_barRow->setContentsMargins(side, m_parts.bar->isShowing() ? (compact ? 4 : 10) : 0, side, 0);
 }
 
 } // namespace host

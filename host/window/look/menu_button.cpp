@@ -12,12 +12,14 @@ namespace host {
 
 namespace {
 
-constexpr int sideAir = 12; // pixels on both sides of the words together
+constexpr int sideAir = 12;    // pixels on both sides of the words together
+constexpr int leastChars = 40; // of average width that always have room; the end of a longer text may be cut
 
 } // namespace
 
 MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
 {
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(this, &QPushButton::pressed, this, [this] {
         if (menu())
             return; // which the button opens itself
@@ -37,6 +39,12 @@ QSize MenuButton::sizeHint() const
     option.rect.setSize(hint);
     hint.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
     return hint;
+}
+
+QSize MenuButton::minimumSizeHint() const
+{
+    const QSize hint = sizeHint();
+    return {qMin(hint.width(), leastChars * fontMetrics().averageCharWidth()), hint.height()};
 }
 
 void MenuButton::initStyleOption(QStyleOptionButton *option) const

@@ -16,7 +16,7 @@ public:
     explicit MenuButton(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     // The receiver calls setMenu() before it returns.
