@@ -21,6 +21,12 @@ QSize DialogButton::sizeHint() const
     return QPushButton::sizeHint().grownBy({8, 0, 8, 0});
 }
 
+// Without the additional space: an access key may make the text a pixel wider when the width is already set.
+QSize DialogButton::minimumSizeHint() const
+{
+    return QPushButton::sizeHint();
+}
+
 void DialogButton::mousePressEvent(QMouseEvent *event)
 {
     if (m_deaf.hasExpired())

@@ -23,6 +23,7 @@ public:
     void ignoreMouseFor(std::chrono::milliseconds time) { m_deaf.setRemainingTime(time); }
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
