@@ -14,8 +14,8 @@ namespace host {
 // A toner or another supply of a printer. A value.
 struct Supply
 {
-    QString name;     // the printer's own
-    int percent = -1; // that is left, 0 to 100; -1 where the printer does not tell
+    QString name;     // as reported by the printer
+    int percent = -1; // remaining, 0 to 100; -1 if the printer does not report it
     bool isLow = false;
 
     bool operator==(const Supply &) const = default;
@@ -35,8 +35,8 @@ struct Destination
     bool isStateKnown = false; // whether the next four fields come from the print server
     bool accepting = true;
     bool stopped = false;
-    QString problem;         // reported by the printer, in words; empty for none
-    QStringList coverSheets; // values of "job-sheets" that the server offers; empty if they are not known
+    QString problem;         // localised problem reported by the printer; empty if there is none
+    QStringList coverSheets; // values of "job-sheets" that the server offers; empty if unknown
     QList<Supply> supplies;  // reported by the printer, without waste containers
     // announces itself on the network; the server has a queue for it only while it is used
     bool isOnNetwork = false;

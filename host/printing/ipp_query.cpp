@@ -40,7 +40,7 @@ int integerAt(ipp_t *answer, const char *name, int index, int otherwise)
     return index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
 }
 
-// A level below 0 is one that the printer does not know.
+// A negative level is unknown to the printer.
 QList<Supply> readSupplies(ipp_t *answer)
 {
     const QStringList names = attributeTexts(answer, "marker-names");

@@ -50,7 +50,7 @@ struct JobStatus
     State state = State::Unknown;
     bool printerStopped = false; // it is waiting because its printer was stopped
     QString message;             // the reason, for the user; may be empty
-    QString heldUntil;           // "job-hold-until" of a held job if that is a time; otherwise empty
+    QString heldUntil;           // "job-hold-until" of a held job if it is a time; otherwise empty
     bool isHeldByUser = false;   // held until it is released, not until a certain time
     int printedPages = 0;        // so far; 0 if the printer does not count pages
 

@@ -138,7 +138,7 @@ QMap<QString, QString> PpdDocument::standardChoices(const QString &name, const Q
     return result;
 }
 
-// libcups knows such a choice only in "ColorModel".
+// libcups supports this choice only for "ColorModel".
 QMap<QString, QString> PpdDocument::monochromeChoice() const
 {
     for (const QString &keyword : colorKeywords()) {

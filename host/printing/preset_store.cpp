@@ -369,7 +369,7 @@ bool PresetStore::remove(const QString &queue, const QString &name, PrintError *
                                       return isSamePreset(preset.name, name);
                                   });
         *error = isEverybodys ? PrintError{PrintError::Kind::NoPermission,
-                                           StoreText::tr("“%1” is there for everybody on this computer; "
+                                           StoreText::tr("“%1” is available to all users of this computer; "
                                                          "only an administrator can change it.")
                                                .arg(name)}
                               : noSuchPreset(name);

@@ -18,8 +18,8 @@ QString standardValueOfMarks(PpdDocument *ppd, const QString &name, const QStrin
 
 // The keywords that PPDs use for the choice between color and black and white.
 const QStringList &colorKeywords();
-// Whether a choice of an option for color means black and white or shades of gray, by the keywords that PPDs
-// of many makers use.
+// Whether a choice of a color option means black and white or shades of gray, by the keywords that PPDs of
+// many makers use.
 bool isMonochromeChoice(const QString &choice);
 
 } // namespace host

@@ -14,8 +14,7 @@ namespace {
 
 constexpr int patience = 3'000; // milliseconds
 
-// A setting of the desktop; invalid where the portal does not know it. Read() wraps the value in two
-// variants.
+// A setting of the desktop; invalid if the portal does not have it. Read() wraps the value in two variants.
 QVariant settingOf(const QDBusConnection &bus, const QString &space, const QString &key)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(

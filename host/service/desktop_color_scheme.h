@@ -8,8 +8,9 @@ class QDBusConnection;
 
 namespace host {
 
-// Asks the Settings portal whether the desktop is set to high contrast: "high-contrast", "high-contrast-dark"
-// where it prefers dark colors as well, and empty where it is not or nothing answers within three seconds.
+// Queries the Settings portal for the desktop's high-contrast setting: "high-contrast", "high-contrast-dark"
+// if the desktop also prefers dark colors, and empty if it is not set or the portal does not respond within
+// three seconds.
 QByteArray desktopContrastScheme(const QDBusConnection &bus);
 
 } // namespace host

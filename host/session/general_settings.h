@@ -49,8 +49,7 @@ struct GeneralSettings
 // The options of the general page that this PPD has, in display order: paper size and type, tray, two-sided,
 // color.
 QStringList generalOptionKeywords(const PpdDocument &ppd);
-// The option of a PPD that selects color or black and white; null if there is none. A panel may also
-// show it.
+// The option of a PPD that selects color or black and white; null if there is none. A panel may also show it.
 QString colorOptionKeyword(const PpdDocument &ppd);
 
 } // namespace host

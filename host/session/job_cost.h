@@ -9,18 +9,18 @@
 
 namespace host {
 
-// What a job takes of the paper. A value.
+// The paper consumption of a job. A value.
 struct JobCost
 {
     int sheets = 0;
-    int sides = 0; // that are printed on
+    int sides = 0; // printed sides
 
     bool operator==(const JobCost &) const = default;
 };
 
-// The cost of printing documents with these numbers of pages. Each document, and each copy, begins on a sheet
-// of its own. Page ranges and odd or even pages count printed sides, as the print system does. What the
-// printer itself leaves out or adds, such as blank pages and cover sheets, is not counted.
+// The cost of printing documents with these numbers of pages. Each document, and each copy, begins on a new
+// sheet. Page ranges and odd or even pages count printed sides, as in the print system. Pages that the
+// printer omits or adds, such as blank pages and cover sheets, are not counted.
 JobCost jobCost(const GeneralSettings &general, bool isTwoSided, const QList<int> &pages);
 
 } // namespace host

@@ -14,25 +14,26 @@ namespace host {
 class ChosenSettings;
 class DialogSession;
 
-// The settings of the Job page: how the print server treats the job. They are job options and are kept among
-// the chosen settings of a session; without a choice the defaults of the destination hold.
+// The settings of the Job page: how the print server handles the job. They are job options and are stored
+// among the chosen settings of a session; without a choice the defaults of the destination apply.
 
 // "job-hold-until", "job-priority", "job-sheets" and "job-billing", in display order.
 const QStringList &jobSettingNames();
-// The value that the job will have: the chosen one, or else the default of the destination, or else that of
-// the print system. `options` are those of the destination.
+// The value that the job will have: the chosen one, else the default of the destination, else that of the
+// print system. `options` are those of the destination.
 QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QString> &options,
                         const QString &name);
 QString jobSettingValue(const DialogSession &session, const QString &name);
-// Chooses a value; the default takes the choice back. Has no effect if the policy does not allow the change.
+// Chooses a value; choosing the default removes the choice. Has no effect if the policy does not allow the
+// change.
 void setJobSetting(DialogSession *session, const QString &name, const QString &value);
 
-// The name of a setting, and a value of it, in words. The value of "job-sheets" may be a single sheet.
+// The localised name of a setting, and of a value. The value of "job-sheets" may be a single sheet.
 QString jobSettingText(const QString &name);
 QString jobValueText(const QString &name, const QString &value);
 
-// The value of "job-hold-until" for a time of day of the user, and the reverse; the print system counts in
-// UTC. The time is invalid if the value is not a time of day.
+// The value of "job-hold-until" for a local time of day, and the reverse; the print system uses UTC. The time
+// is invalid if the value is not a time of day.
 QString holdValueOf(const QTime &time);
 QTime timeOfHold(const QString &value);
 

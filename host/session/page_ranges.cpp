@@ -87,7 +87,7 @@ QString textOf(const std::vector<Range> &ranges)
     return texts.join(QLatin1Char(','));
 }
 
-// Of normalized ranges.
+// The ranges in a normalized text.
 std::vector<Range> rangesOf(const QString &text)
 {
     if (text.isEmpty())

@@ -14,15 +14,15 @@ namespace host {
 // pages; an empty text, which means all pages, stays empty.
 std::optional<QString> normalizedPageRanges(const QString &text, QString *error);
 
-// The following take ranges in that form.
+// The following functions take normalized ranges.
 
 // Whether the ranges contain a page.
 bool containsPage(const QString &ranges, int page);
 // The number of pages from 1 to `last` that the ranges contain.
 int countPages(const QString &ranges, int last);
-// Adds a page to the ranges, or removes it when they contain it. `count` is the number of pages of the
-// document; ranges beyond it are dropped. Returns the empty string when the ranges then contain all its
-// pages, and null when none is left.
+// Adds a page to the ranges, or removes it if they contain it. `count` is the number of pages of the
+// document; ranges beyond it are dropped. Returns an empty string if the ranges then contain all pages, and
+// null if no page is left.
 std::optional<QString> withPageToggled(const QString &ranges, int page, int count);
 
 } // namespace host

@@ -36,7 +36,7 @@ public:
     // Takes over the current state without a step, for changes that the user did not make, such as values
     // read by a panel.
     void absorb();
-    // Disables note() and absorb() during the lifetime of the result: for a change during which events are
+    // Disables note() and resync() during the lifetime of the result: for a change during which events are
     // processed, such as that of a panel that queries its device. Call one of them afterwards.
     [[nodiscard]] QScopedValueRollback<bool> pause() { return QScopedValueRollback<bool>(m_isPaused, true); }
     QUndoStack *steps() { return &m_steps; }

@@ -12,11 +12,11 @@ namespace host {
 
 namespace {
 
-constexpr double inset = 0.04;  // of a staple or hole, from the edge
-constexpr double length = 0.06; // of a staple
-constexpr double spread = 0.2;  // of two staples or holes, from the middle of the edge
+constexpr double inset = 0.04;  // distance of a staple or hole from the edge
+constexpr double length = 0.06; // length of a staple
+constexpr double spread = 0.2;  // distance of two staples or holes from the middle of the edge
 
-// The side of the paper that the name of a choice, in lower case, means.
+// The side of the paper that is named in a choice's keyword, in lower case.
 struct Place
 {
     bool isTop, isBottom, isLeft, isRight;
@@ -29,7 +29,7 @@ struct Place
     }
     bool isCorner() const { return (isTop || isBottom) && (isLeft || isRight); }
     bool isEdge() const { return isTop + isBottom + isLeft + isRight == 1; }
-    // A point at the edge, with its distance from the edge and from the edge's beginning.
+    // A point near the edge, by its distance from the edge and its distance along the edge.
     QPointF at(double depth, double along) const
     {
         const double across = isTop || isLeft ? depth : 1 - depth;
@@ -44,7 +44,7 @@ void addStaples(const QString &choice, SheetFinish *finish)
         finish->isSaddleStitched = true;
     } else if (place.isCorner()) {
         const double x = place.isLeft ? inset : 1 - inset, y = place.isTop ? inset : 1 - inset;
-        const double slope = place.isLeft == place.isTop ? -1 : 1; // across the corner
+        const double slope = place.isLeft == place.isTop ? -1 : 1; // diagonal across the corner
         const QPointF half(length / 2, slope * length / 2);
         finish->staples.append(QLineF(QPointF(x, y) - half, QPointF(x, y) + half));
     } else if (place.isEdge()) {

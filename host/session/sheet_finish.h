@@ -11,8 +11,9 @@ namespace host {
 
 class DialogSession;
 
-// Where the sheets of a job are bound, stapled and punched, as far as the names of the PPD's choices tell.
-// The positions are those on an upright page, from 0 to 1 of its width and height. A value.
+// The positions of binding, staples and holes on the sheets of a job, as far as they can be derived from the
+// names of the PPD's choices. Positions refer to an upright page, from 0 to 1 of its width and height. A
+// value.
 struct SheetFinish
 {
     enum class Binding {
@@ -20,13 +21,13 @@ struct SheetFinish
         LongEdge,
         ShortEdge
     };
-    Binding binding = Binding::None; // the edge at which two-sided pages turn
+    Binding binding = Binding::None; // the edge on which two-sided pages are turned
     QList<QLineF> staples;
     QList<QPointF> holes;
     bool isSaddleStitched = false; // folded in the middle of its long edge, with two staples in the fold
 
     bool isTwoSided() const { return binding != Binding::None; }
-    // The same staples and holes as they lie on the back of the sheet.
+    // The same staples and holes on the back of the sheet.
     SheetFinish onTheBack() const;
 
     bool operator==(const SheetFinish &) const = default;

@@ -60,8 +60,8 @@
         <translation>NAME=WERT</translation>
     </message>
     <message>
-        <source>The same; names unknown here are handed to the print system.</source>
-        <translation>Dasselbe; hier unbekannte Namen erhält das Drucksystem.</translation>
+        <source>The same, but unknown names are passed to the print system as job options.</source>
+        <translation>Dasselbe, aber unbekannte Namen werden dem Drucksystem als Auftragsoptionen übergeben.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -104,11 +104,11 @@
         <translation>Den Dialog mit dieser Seite öffnen: general, more, job, summary oder Name oder Art einer Einstellungsseite.</translation>
     </message>
     <message>
-        <source>Write a picture of the dialog and exit.</source>
+        <source>Save a screenshot of the dialog and exit.</source>
         <translation>Ein Bild des Dialogs schreiben und enden.</translation>
     </message>
     <message>
-        <source>Open the dialog, write how long it took and exit.</source>
+        <source>Open the dialog, write the start-up time and exit.</source>
         <translation>Den Dialog öffnen, die Dauer ausgeben und enden.</translation>
     </message>
     <message>
@@ -154,7 +154,7 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
         <translation>Farben des Dialogs: light (hell) oder dark (dunkel).</translation>
     </message>
     <message>
-        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
         <translation>Dasselbe mit dem Wert aus der ersten Zeile einer Datei; „-“ ist die Standardeingabe.</translation>
     </message>
     <message>
@@ -208,7 +208,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Die Voreinstellungen des Druckers ausgeben.</translation>
     </message>
     <message>
-        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <source>Save the settings as a preset of the printer, without passwords and codes.</source>
         <translation>Die Einstellungen als Voreinstellung des Druckers speichern, ohne Passwörter und Codes.</translation>
     </message>
     <message>
@@ -1521,8 +1521,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Es gibt bereits eine Voreinstellung namens „%1“.</translation>
     </message>
     <message>
-        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
-        <translation>„%1“ ist für alle auf diesem Computer da; nur die Systemverwaltung kann diese Voreinstellung ändern.</translation>
+        <source>“%1” is available to all users of this computer; only an administrator can change it.</source>
+        <translation>„%1“ gilt für alle Benutzer dieses Computers; nur die Systemverwaltung kann diese Voreinstellung ändern.</translation>
     </message>
     <message>
         <source>A preset needs a name.</source>

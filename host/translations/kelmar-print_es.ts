@@ -56,7 +56,7 @@
         <translation>CLAVE=ARCHIVO</translation>
     </message>
     <message>
-        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
         <translation>Lo mismo, con el valor leído de la primera línea de un archivo; «-» es la entrada estándar.</translation>
     </message>
     <message>
@@ -72,8 +72,8 @@
         <translation>NOMBRE=VALOR</translation>
     </message>
     <message>
-        <source>The same; names unknown here are handed to the print system.</source>
-        <translation>Lo mismo; los nombres desconocidos aquí se pasan al sistema de impresión.</translation>
+        <source>The same, but unknown names are passed to the print system as job options.</source>
+        <translation>Lo mismo, pero los nombres desconocidos se pasan al sistema de impresión como opciones del trabajo.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -116,7 +116,7 @@
         <translation>Abrir el diálogo en esta página: general, more, job, summary, o el nombre o el tipo de un panel.</translation>
     </message>
     <message>
-        <source>Write a picture of the dialog and exit.</source>
+        <source>Save a screenshot of the dialog and exit.</source>
         <translation>Guardar una imagen del diálogo y salir.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Colores del diálogo: light (claros) o dark (oscuros).</translation>
     </message>
     <message>
-        <source>Open the dialog, write how long it took and exit.</source>
+        <source>Open the dialog, write the start-up time and exit.</source>
         <translation>Abrir el diálogo, escribir cuánto ha tardado y salir.</translation>
     </message>
     <message>
@@ -208,7 +208,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Escribir los preajustes de la impresora.</translation>
     </message>
     <message>
-        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <source>Save the settings as a preset of the printer, without passwords and codes.</source>
         <translation>Guardar los ajustes como preajuste de la impresora, sin contraseñas ni códigos.</translation>
     </message>
     <message>
@@ -1521,7 +1521,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Ya existe un preajuste llamado «%1».</translation>
     </message>
     <message>
-        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <source>“%1” is available to all users of this computer; only an administrator can change it.</source>
         <translation>«%1» es común a todos los usuarios de este equipo; solo un administrador puede cambiarlo.</translation>
     </message>
     <message>

@@ -60,8 +60,8 @@
         <translation>NOM=VALEUR</translation>
     </message>
     <message>
-        <source>The same; names unknown here are handed to the print system.</source>
-        <translation>Idem&#xa0;; les noms inconnus ici sont transmis au système d’impression.</translation>
+        <source>The same, but unknown names are passed to the print system as job options.</source>
+        <translation>Idem, mais les noms inconnus sont transmis au système d’impression comme options de la tâche.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -104,7 +104,7 @@
         <translation>Ouvrir la boîte de dialogue sur ce volet&#xa0;: general, more, job, summary, ou le nom ou le type d’un panneau.</translation>
     </message>
     <message>
-        <source>Write a picture of the dialog and exit.</source>
+        <source>Save a screenshot of the dialog and exit.</source>
         <translation>Écrire une image de la boîte de dialogue et quitter.</translation>
     </message>
     <message>
@@ -112,7 +112,7 @@
         <translation>Couleurs de la boîte de dialogue&#xa0;: light (clair) ou dark (sombre).</translation>
     </message>
     <message>
-        <source>Open the dialog, write how long it took and exit.</source>
+        <source>Open the dialog, write the start-up time and exit.</source>
         <translation>Ouvrir la boîte de dialogue, écrire la durée et quitter.</translation>
     </message>
     <message>
@@ -154,7 +154,7 @@ Imprime des documents, avec ou sans boîte de dialogue pour les réglages.
 </translation>
     </message>
     <message>
-        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
         <translation>Idem, la valeur étant lue sur la première ligne d’un fichier&#xa0;; «&#xa0;-&#xa0;» est l’entrée standard.</translation>
     </message>
     <message>
@@ -208,7 +208,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Écrire les préréglages de l’imprimante.</translation>
     </message>
     <message>
-        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <source>Save the settings as a preset of the printer, without passwords and codes.</source>
         <translation>Conserver les réglages comme préréglage de l’imprimante, sans les mots de passe ni les codes.</translation>
     </message>
     <message>
@@ -1521,7 +1521,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Il y a déjà un préréglage nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <source>“%1” is available to all users of this computer; only an administrator can change it.</source>
         <translation>«&#xa0;%1&#xa0;» est destiné à tous les utilisateurs de cet ordinateur&#xa0;; seul un administrateur peut le modifier.</translation>
     </message>
     <message>

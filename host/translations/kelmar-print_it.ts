@@ -56,7 +56,7 @@
         <translation>CHIAVE=FILE</translation>
     </message>
     <message>
-        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
         <translation>Come sopra, con il valore letto dalla prima riga di un file; «-» è lo standard input.</translation>
     </message>
     <message>
@@ -72,8 +72,8 @@
         <translation>NOME=VALORE</translation>
     </message>
     <message>
-        <source>The same; names unknown here are handed to the print system.</source>
-        <translation>Come sopra; i nomi qui sconosciuti sono passati al sistema di stampa.</translation>
+        <source>The same, but unknown names are passed to the print system as job options.</source>
+        <translation>Come sopra, ma i nomi sconosciuti vengono passati al sistema di stampa come opzioni del lavoro.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -116,7 +116,7 @@
         <translation>Apre la finestra di dialogo a questa pagina: general, more, job, summary, oppure il nome o il tipo di un pannello.</translation>
     </message>
     <message>
-        <source>Write a picture of the dialog and exit.</source>
+        <source>Save a screenshot of the dialog and exit.</source>
         <translation>Salva un’immagine della finestra di dialogo ed esce.</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation>Colori della finestra di dialogo: light (chiari) o dark (scuri).</translation>
     </message>
     <message>
-        <source>Open the dialog, write how long it took and exit.</source>
+        <source>Open the dialog, write the start-up time and exit.</source>
         <translation>Apre la finestra di dialogo, scrive quanto tempo è servito ed esce.</translation>
     </message>
     <message>
@@ -208,7 +208,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Scrive le preimpostazioni della stampante.</translation>
     </message>
     <message>
-        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <source>Save the settings as a preset of the printer, without passwords and codes.</source>
         <translation>Conserva le impostazioni come preimpostazione della stampante, senza password né codici.</translation>
     </message>
     <message>
@@ -1521,7 +1521,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Esiste già una preimpostazione chiamata «%1».</translation>
     </message>
     <message>
-        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <source>“%1” is available to all users of this computer; only an administrator can change it.</source>
         <translation>«%1» è comune a tutti gli utenti di questo computer; solo un amministratore può modificarla.</translation>
     </message>
     <message>

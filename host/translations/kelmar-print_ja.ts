@@ -60,8 +60,8 @@
         <translation>名前=値</translation>
     </message>
     <message>
-        <source>The same; names unknown here are handed to the print system.</source>
-        <translation>同上。ここで不明な名前は印刷システムに渡します。</translation>
+        <source>The same, but unknown names are passed to the print system as job options.</source>
+        <translation>同様ですが、不明な名前はジョブのオプションとして印刷システムに渡されます。</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -104,7 +104,7 @@
         <translation>このペインでダイアログを開きます: general、more、job、summary、またはパネルの名前か種類。</translation>
     </message>
     <message>
-        <source>Write a picture of the dialog and exit.</source>
+        <source>Save a screenshot of the dialog and exit.</source>
         <translation>ダイアログの画像を書き出して終了します。</translation>
     </message>
     <message>
@@ -112,7 +112,7 @@
         <translation>ダイアログの配色: light (明) または dark (暗)。</translation>
     </message>
     <message>
-        <source>Open the dialog, write how long it took and exit.</source>
+        <source>Open the dialog, write the start-up time and exit.</source>
         <translation>ダイアログを開き、所要時間を出力して終了します。</translation>
     </message>
     <message>
@@ -154,7 +154,7 @@ Print documents, with a dialog for the settings or without one.
 </translation>
     </message>
     <message>
-        <source>The same with the value read from a file&apos;s first line; “-” is the standard input.</source>
+        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
         <translation>同上。値はファイルの 1 行目から読み込みます。「-」は標準入力です。</translation>
     </message>
     <message>
@@ -208,7 +208,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンターのプリセットを出力します。</translation>
     </message>
     <message>
-        <source>Keep the settings as a preset of the printer, without passwords and codes.</source>
+        <source>Save the settings as a preset of the printer, without passwords and codes.</source>
         <translation>設定をプリンターのプリセットとして保存します。パスワードとコードは保存しません。</translation>
     </message>
     <message>
@@ -1521,7 +1521,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>「%1」という名前のプリセットはすでにあります。</translation>
     </message>
     <message>
-        <source>“%1” is there for everybody on this computer; only an administrator can change it.</source>
+        <source>“%1” is available to all users of this computer; only an administrator can change it.</source>
         <translation>「%1」はこのコンピューターの全ユーザー共通のプリセットです。変更できるのは管理者だけです。</translation>
     </message>
     <message>

@@ -48,7 +48,7 @@ public:
 public Q_SLOTS:
     // Call when other parts are shown, to update tab order, access keys and size.
     void arrange();
-    // The page has more controls than before: their order and access keys follow.
+    // The page has additional controls: updates tab order and access keys.
     void arrangeKeys();
 
 private:

@@ -75,7 +75,7 @@ _arguments -s \
     '*'{-s,--set=}'[set an option of the printer or a key of a panel]:key=value:_kelmar_print_setting' \
     '*--set-file=[the same with the value from a file]:key=file:_kelmar_print_setting_file' \
     '*--ask=[the same with the value asked for on the terminal]:key:_kelmar_print_keys' \
-    '*-o[the same; unknown names go to the print system]:name=value:_kelmar_print_setting' \
+    '*-o[the same; unknown names become job options]:name=value:_kelmar_print_setting' \
     '--batch[print without opening a window]' \
     '--output=[write the pages into a PDF file instead of printing them]:file:_files -g "*.pdf"' \
     '--resolve[accept the proposal when settings cannot be used together]' \
@@ -83,15 +83,15 @@ _arguments -s \
     '--summary[write the summary of the settings]' \
     '--list-options[write the options of the printer and their choices]' \
     '--presets[write the presets of the printer]' \
-    '--save-preset=[keep the settings as a preset of the printer]:name:_kelmar_print_presets' \
+    '--save-preset=[save the settings as a preset of the printer]:name:_kelmar_print_presets' \
     '--delete-preset=[delete a preset of the printer]:name:_kelmar_print_presets' \
     '--json[write results and errors as JSON]' \
     '--ppd=[take the options from this PPD file]:file:_files -g "*.ppd(|.gz)"' \
     '*--bundle=[load the panels of this bundle]:folder:_files -/' \
     '--panel=[open the dialog at this pane]:pane:_kelmar_print_panels' \
-    '--screenshot=[write a picture of the dialog and exit]:file:_files -g "*.png"' \
+    '--screenshot=[save a screenshot of the dialog and exit]:file:_files -g "*.png"' \
     '--color-scheme=[colors of the dialog]:scheme:(light dark)' \
-    '--startup-time[open the dialog, write how long it took and exit]' \
+    '--startup-time[open the dialog, write the start-up time and exit]' \
     '--help[show the help]' \
     '--version[show the version]' \
     '*:document:_files -g "*.(pdf|ps|eps|png|jpg|jpeg|tif|tiff|gif|bmp|txt|gz)(-.)"'

@@ -260,7 +260,7 @@ void GeneralPageTest::smallPagesAppear()
     QCOMPARE(strip->current(), 1);
 }
 
-// By the check boxes of the small pages, with the mouse and the keyboard.
+// With the check boxes of the thumbnails, by mouse and keyboard.
 void GeneralPageTest::pagesAreLeftOut()
 {
     if (!hasPreview())
@@ -286,10 +286,10 @@ void GeneralPageTest::pagesAreLeftOut()
     QCOMPARE(field->text(), u"1"_s);
     QVERIFY(field->isEnabled() && isTicked(0) && !isTicked(1));
     QCOMPARE(m_window->session()->general().pages, u"1"_s);
-    QCOMPARE(strip->model()->rowCount(), 2); // it is still there to be taken in again
+    QCOMPARE(strip->model()->rowCount(), 2); // it can still be included again
     strip->setFocus();
     strip->setCurrent(0);
-    QTest::keyClick(strip, Qt::Key_Space); // one page has to be left
+    QTest::keyClick(strip, Qt::Key_Space); // at least one page must be left
     QVERIFY(isTicked(0));
     strip->setCurrent(1);
     QTest::keyClick(strip, Qt::Key_Space);
@@ -302,7 +302,7 @@ void GeneralPageTest::pagesAreLeftOut()
 
 void GeneralPageTest::colorIsChosen_data()
 {
-    QTest::addColumn<QByteArray>("keyword"); // in place of ColorType
+    QTest::addColumn<QByteArray>("keyword"); // replaces ColorType
     QTest::addColumn<bool>("hasPanel");
     QTest::newRow("a panel's") << QByteArray("ColorType") << true;
     QTest::newRow("of another maker") << QByteArray("ColorModel") << false;
@@ -335,7 +335,8 @@ void GeneralPageTest::colorIsChosen()
         for (const auto &[option, value] : section.entries)
             summed += option == u"Colour Mode" ? section.title + u": "_s + value : QString();
     }
-    QCOMPARE(summed, hasPanel ? QString() : u"General: Black and White"_s); // once, under its page
+    // once, in the section of its page
+    QCOMPARE(summed, hasPanel ? QString() : u"General: Black and White"_s);
     window.print();
     settle();
     QCOMPARE(m_system.submitted.size(), 1);
@@ -349,7 +350,7 @@ void GeneralPageTest::colorOfTheQueueIsShown_data()
         QTest::newRow(keyword) << QString::fromLatin1(keyword);
 }
 
-// Filters print gray for "print-color-mode" whatever the option of the PPD says.
+// Filters print gray for "print-color-mode", whatever the option of the PPD.
 void GeneralPageTest::colorOfTheQueueIsShown()
 {
     QFETCH(const QString, keyword);

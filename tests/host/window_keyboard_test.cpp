@@ -290,7 +290,7 @@ void WindowKeyboardTest::colorsStandOut()
 
 void WindowKeyboardTest::gtkThemeAsksForContrast_data()
 {
-    QTest::addColumn<QByteArray>("variable"); // GTK_THEME; null for not set
+    QTest::addColumn<QByteArray>("variable"); // GTK_THEME; null if not set
     QTest::addColumn<QByteArray>("settings"); // of GTK 3
     QTest::addColumn<QString>("scheme");
     const QByteArray file = "[Settings]\ngtk-font-name=Sans 11\ngtk-theme-name = ";

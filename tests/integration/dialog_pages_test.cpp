@@ -142,7 +142,7 @@ void DialogPagesTest::everyPage()
     m_window.reset();
 }
 
-// A setting bears the same name on its page and in the summary.
+// A setting has the same name on its page and in the summary.
 void DialogPagesTest::checkSummaryNames(int page)
 {
     const QString title = m_window->book()->titleOf(page);
@@ -171,7 +171,8 @@ void DialogPagesTest::checkKeys()
             continue;
         const QString key = QKeySequence::mnemonic(text).toString();
         const bool hasLetters = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
-        const QWidget *control = label ? label->buddy() : widget; // letters may be too few for disabled ones
+        // there may not be enough letters for disabled ones
+        const QWidget *control = label ? label->buddy() : widget;
         if (key.isEmpty() && hasLetters && control->isEnabled())
             without.append(text);
         QVERIFY2(key.isEmpty() || !owners.contains(key),
@@ -255,7 +256,7 @@ void DialogPagesTest::checkTabOrder()
     QStringList names;
     int part = 0;
     int bottom = 0;
-    // The host's own pages go from top to bottom.
+    // The tab order of the host's pages is from top to bottom.
     const QWidget *page = m_window->book()->builtPage(m_window->book()->currentRow());
     const auto *area = page->findChild<QScrollArea *>();
     const QString name = m_window->book()->currentName();

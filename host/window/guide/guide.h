@@ -16,8 +16,8 @@ class GuideButtons;
 class HelpDesk;
 class PageBook;
 
-// The ways to help of the dialog: its search, its help, their keys, and their buttons in the footer. A child
-// of the window that holds the book.
+// The help features of the dialog: search, help pages, their shortcuts, and their buttons in the footer. A
+// child of the window that contains the book.
 class Guide : public QObject
 {
     Q_OBJECT
@@ -25,18 +25,18 @@ public:
     explicit Guide(PageBook *book);
 
     Finder *finder() const { return m_finder; }
-    // Creates what can wait until after the first paint: the buttons, and what parts of the window say of
-    // themselves, by the name of their explanation. The window finds a place for the buttons.
+    // Creates what can wait until after the first paint: the buttons, and the descriptions of parts of the
+    // window, by the names of their explanations. The window places the buttons.
     QWidget *addButtons(const QList<std::pair<QWidget *, QString>> &explained);
-    // Shows a note behind the buttons, with them, and owns it. After addButtons().
+    // Shows a note after the buttons and takes ownership of it. Call after addButtons().
     void addNote(QWidget *note);
-    // Shows the buttons while settings can be made.
+    // Shows the buttons while settings can be changed.
     void setActive(bool active);
-    // Hides the buttons while something else needs their place.
+    // Hides the buttons while another widget needs their place.
     void makeWay(bool away);
 
 Q_SIGNALS:
-    // Other widgets are shown than before.
+    // Different widgets are shown.
     void partsChanged();
 
 private:

@@ -8,14 +8,14 @@
 
 namespace host {
 
-// The left part of the footer: a button that searches for a setting and one that opens the page's help, each
-// with its key in the tool tip, and a note behind them. A click leaves the focus where it is.
+// The left part of the footer: a button that opens the search and one that opens the page's help, each with
+// its shortcut in the tooltip, and a note after them. A click does not move the focus.
 class GuideButtons : public QWidget
 {
     Q_OBJECT
 public:
     explicit GuideButtons(QWidget *parent);
-    // Shows a widget behind the buttons and owns it.
+    // Shows a widget after the buttons and takes ownership of it.
     void addNote(QWidget *note) { layout()->addWidget(note); }
 
 Q_SIGNALS:

@@ -31,19 +31,18 @@ public:
     QVariant loadResource(int, const QUrl &) override { return {}; }
 };
 
-// Like that of a page.
+// Uses the style of a page heading.
 void styleTitle(QTextCursor cursor, const QFont &font)
 {
     cursor.select(QTextCursor::BlockUnderCursor);
     QTextCharFormat title = cursor.charFormat();
-    title.clearProperty(
-        QTextFormat::FontSizeAdjustment); // which Markdown comes with, and which goes before a size
+    title.clearProperty(QTextFormat::FontSizeAdjustment); // set by Markdown, and takes precedence over a size
     title.setFontWeight(QFont::Normal);
     title.setFontPointSize(font.pointSizeF() * 1.5);
     cursor.setCharFormat(title);
 }
 
-// More air between the lines and around the blocks than Markdown comes with.
+// Increases the line and block spacing of Markdown.
 void space(QTextDocument *document)
 {
     bool wasInList = false;
@@ -141,7 +140,7 @@ void HelpPage::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-// Links have their colour in the document.
+// The document contains the colour of links.
 void HelpPage::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);

@@ -107,7 +107,7 @@ void SearchBar::search()
     placeResults();
 }
 
-// Announced when it changes, since the results appear without the focus.
+// Announced when it changes, since the results appear without getting the focus.
 void SearchBar::showCount(int count)
 {
     const QString text = m_field->text().trimmed().isEmpty() ? QString()
@@ -121,7 +121,7 @@ void SearchBar::showCount(int count)
     m_count->setVisible(!text.isEmpty());
 }
 
-// Under the field and as wide, as high as it takes, but inside the window.
+// Below the field and with its width, as high as needed, but within the window.
 void SearchBar::placeResults()
 {
     if (m_results->isHidden())
@@ -177,7 +177,7 @@ bool SearchBar::eventFilter(QObject *watched, QEvent *event)
         const auto *press = static_cast<QKeyEvent *>(event);
         if (handleKey(watched, press->key()))
             return true;
-        // Who goes on typing in the list goes on in the field.
+        // Typing in the list continues in the field.
         const bool types = !press->text().isEmpty() && press->text().at(0).isPrint();
         if (watched == m_results && (types || press->key() == Qt::Key_Backspace)) {
             m_field->setFocus(Qt::OtherFocusReason);
@@ -188,7 +188,7 @@ bool SearchBar::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-// What the bar's button leaves unused.
+// Handles keys that the bar's button does not use.
 void SearchBar::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)

@@ -16,27 +16,27 @@ class QListWidget;
 
 namespace host {
 
-// A slim bar with a field to search in, and under it, over what is there, the list of what has been found.
-// The keys go to the field; Down enters the list, Return takes what is current there or else the first, and
-// Escape closes both and gives the focus back. A child of its window, which places the bar in its layout.
+// A narrow bar with a search field, and below it a list of results that overlaps the window. Keys go to the
+// field; Down moves to the list, Return selects the current result or else the first, and Escape closes both
+// and returns the focus. A child of its window, which places the bar in its layout.
 class SearchBar : public QFrame
 {
     Q_OBJECT
 public:
-    // Gives a line of plain text for each thing found.
+    // Returns a line of plain text for each result.
     using Search = std::function<QStringList(const QString &query)>;
 
     SearchBar(QWidget *window, Search search);
 
-    // Shows the bar, or goes back to it, with what was searched for selected.
+    // Shows the bar, or returns to it, with the previous search selected.
     void open();
-    // The focus goes back to where it was before open(), unless it has gone elsewhere by itself.
+    // The focus returns to the widget that had it before open(), unless it has already moved elsewhere.
     void close();
     QLineEdit *field() const { return m_field; }
     QListWidget *results() const { return m_results; }
 
 Q_SIGNALS:
-    // The user wants this one of what was found last. The bar has closed.
+    // The user has selected one of the last results. The bar is closed.
     void picked(int index);
     void opened();
     void closed();
@@ -56,8 +56,8 @@ private:
 
     Search m_search;
     QLineEdit *m_field;
-    QListWidget *m_results; // the window's; over its other parts
-    QLabel *m_count;        // how many settings have been found, in the bar
+    QListWidget *m_results; // a child of the window, above its other parts
+    QLabel *m_count;        // number of results, shown in the bar
     QPointer<QWidget> m_before;
 };
 

@@ -24,21 +24,21 @@ bool hasLetter(const QString &text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
-// The control that the key of a label or button operates.
+// The control that is operated by the key of a label or button.
 QWidget *usedBy(QWidget *widget)
 {
     const auto *label = qobject_cast<QLabel *>(widget);
     return label && label->buddy() ? label->buddy() : widget;
 }
 
-// Not while it is disabled itself. A page that is disabled as a whole keeps its keys.
+// Whether the widget itself is enabled. A page that is disabled as a whole keeps its keys.
 bool isUsable(QWidget *widget)
 {
     const QWidget *control = usedBy(widget);
     return control->isEnabledTo(control->parentWidget());
 }
 
-// Labels of fields, and buttons, that are to have an access key, hidden ones included.
+// Labels of fields, and buttons, that should have an access key, including hidden ones.
 QList<QWidget *> keyedWidgets(QWidget *part)
 {
     QList<QWidget *> found;
@@ -55,8 +55,8 @@ QList<QWidget *> keyedWidgets(QWidget *part)
     return found;
 }
 
-// How much wider a text is drawn than it is measured, in pixels: Qt draws the access key by itself, so that
-// it is not moved closer to its neighbours as in "Tw", but measures the text as if it were.
+// How much wider a text is drawn than it is measured, in pixels: Qt draws the access key separately, without
+// the kerning that it includes in the measured width, as in "Tw".
 int lostKerning(const QFontMetrics &metrics, const QString &shown)
 {
     const qsizetype key = Mnemonics::placeOfKey(shown);
@@ -97,7 +97,7 @@ void AccessKeys::assign()
             widget->installEventFilter(this);
             Texts known = m_texts.value(widget);
             known.own = ownText(widget);
-            // What is hidden stays as it is: a changed text is an event for a screen reader.
+            // Hidden widgets are not changed: a changed text is an event for a screen reader.
             const bool isShown = widget->isVisibleTo(m_window);
             known.shown = isShown ? known.own : widget->property(textProperty).toString();
             texts.insert(widget, known);
@@ -120,11 +120,11 @@ void AccessKeys::assign()
         isWider |= reserveWidth(it.key(), &*it);
     }
     m_texts = texts;
-    if (isWider && m_window->isVisible()) // so that nothing moves once painted
+    if (isWider && m_window->isVisible()) // so that nothing moves after the first paint
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
-// A label that nothing else gives a width takes what its text is drawn in. True where that is new.
+// A label without a fixed width gets the width in which its text is drawn. True if the width has changed.
 bool AccessKeys::reserveWidth(QWidget *widget, Texts *texts)
 {
     auto *label = qobject_cast<QLabel *>(widget);

@@ -14,26 +14,26 @@ class QWidget;
 
 namespace host {
 
-// Gives every label of a field and every button on the screen an access key, and no key twice, even between
-// host, panels and translations. Earlier parts of a window have the first choice of the keys that their texts
-// ask for; where a key is taken, or a text asks for none, it gets another one. Disabled controls choose last.
-// Follows what is shown, hidden, enabled and disabled. A child of its window.
+// Assigns unique access keys to the labels of fields and the buttons that are visible, even between host,
+// panels and translations. Earlier parts of a window take precedence for the keys that their texts request; a
+// text gets another key if its key is taken, or it requests none. Disabled controls choose last. Updated when
+// widgets are shown, hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
 public:
-    // Set to true on a label or button that is to have no key.
+    // Set to true on a label or button that should not get a key.
     static constexpr const char *keylessProperty = "keyless";
 
-    // The parts belong to the window and outlive this object.
+    // The parts are owned by the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);
 
-    // Adds a part that has the first choice, as it is shown with every page.
+    // Adds a part with the highest precedence, since it is shown with every page.
     void addPart(QWidget *part) { m_parts.prepend(part); }
 
-    // Looks at what is shown now.
+    // Assigns access keys to the visible texts.
     void assign();
-    // The same, once control returns to the event loop, however often it is asked for.
+    // The same when control returns to the event loop, once for any number of calls.
     void assignLater();
 
 protected:
@@ -42,18 +42,18 @@ protected:
 private:
     struct Texts
     {
-        QString own;      // as the owner of the widget set it
-        QString shown;    // as it was left here
-        QString measured; // what the width was last reserved for, in this font
+        QString own;      // the text set by the owner of the widget
+        QString shown;    // the text set by this class
+        QString measured; // the text for which the width was last reserved, in this font
         QFont font;
-        bool isReserved = false; // the least width is from here
+        bool isReserved = false; // this class has set the minimum width
     };
     QString ownText(QWidget *widget) const;
     static bool reserveWidth(QWidget *widget, Texts *texts);
 
     QWidget *m_window;
     QList<QWidget *> m_parts;
-    QHash<QWidget *, Texts> m_texts; // of the widgets seen last
+    QHash<QWidget *, Texts> m_texts; // of the widgets found last
     bool m_queued = false;
 };
 

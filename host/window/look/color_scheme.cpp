@@ -14,8 +14,8 @@ namespace host {
 
 namespace {
 
-// What is disabled has a contrast of 3 at least, on windows, buttons and fields alike, and what is to be
-// read, such as links and hints in fields, one of 4.5.
+// Disabled texts have a contrast of at least 3 on windows, buttons and fields; texts to be read, such as
+// links and hints in fields, at least 4.5.
 struct Scheme
 {
     QColor window, base, raised, text, disabled, hint, link, accent, onAccent, line, dark;
@@ -28,7 +28,7 @@ const Scheme darkScheme{{0x2a, 0x2c, 0x30}, {0x45, 0x49, 0x50}, {0x3a, 0x3d, 0x4
                         {0x9f, 0xa2, 0xa8}, {0xb6, 0xb9, 0xbf}, {0x6f, 0xb1, 0xf5}, {0x32, 0x77, 0xc2},
                         {0xff, 0xff, 0xff}, {0x5a, 0x5e, 0x65}, {0x18, 0x19, 0x1b}};
 
-// Text has a contrast of 21, everything else that is to be read one of 7.
+// Text has a contrast of 21, all other texts to be read one of 7.
 const Scheme contrastScheme{{0xff, 0xff, 0xff}, {0xff, 0xff, 0xff}, {0xff, 0xff, 0xff}, {0x00, 0x00, 0x00},
                             {0x59, 0x59, 0x59}, {0x40, 0x40, 0x40}, {0x00, 0x00, 0xa8}, {0x00, 0x00, 0x80},
                             {0xff, 0xff, 0xff}, {0x00, 0x00, 0x00}, {0x00, 0x00, 0x00}};
@@ -58,7 +58,7 @@ QPalette paletteOf(const Scheme &scheme)
     return palette;
 }
 
-// Of what is ticked, so that it stands out where it is not.
+// The background of check boxes and radio buttons, which distinguishes them when they are not checked.
 void setIndicatorGround(const QColor &ground)
 {
     QPalette palette = QApplication::palette();
@@ -85,7 +85,7 @@ void applyColorScheme(const QString &name)
     else
         QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(paletteOf(*scheme));
-    if (scheme == &darkScheme) // the style surrounds these with a line that is darker still
+    if (scheme == &darkScheme) // the style draws a darker line around these
         setIndicatorGround({0x74, 0x79, 0x82});
     QToolTip::setPalette(QApplication::palette());
 }

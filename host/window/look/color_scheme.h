@@ -11,8 +11,8 @@ inline const QString highContrast = QStringLiteral("high-contrast");
 inline const QString highContrastDark = QStringLiteral("high-contrast-dark");
 
 // Replaces the desktop's style and colors in the whole program: "light", "dark", or one of the high-contrast
-// schemes, whose text and outlines are black on white or white on black. Any other name changes nothing.
-// Works at any time.
+// schemes, whose text and outlines are black on white or white on black. Any other name has no effect. May be
+// called at any time.
 void applyColorScheme(const QString &name);
 
 } // namespace host

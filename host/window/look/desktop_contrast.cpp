@@ -16,7 +16,7 @@ namespace host {
 namespace {
 
 constexpr int patience = 5'000;           // milliseconds
-constexpr qint64 longestFile = 64 * 1024; // bytes that are read of a settings.ini
+constexpr qint64 longestFile = 64 * 1024; // maximum bytes to read from a settings.ini
 
 QString schemeOfTheme(const QString &theme)
 {
@@ -27,7 +27,7 @@ QString schemeOfTheme(const QString &theme)
     return isDark ? highContrastDark : highContrast;
 }
 
-// The value of "gtk-theme-name" in a settings.ini; null where there is none.
+// The value of "gtk-theme-name" in a settings.ini; null if there is none.
 QString themeIn(const QString &path)
 {
     QFile file(path);

@@ -9,14 +9,14 @@ class QObject;
 
 namespace host {
 
-// The scheme of applyColorScheme() that the desktop's high-contrast setting asks for.
+// The scheme for applyColorScheme() that corresponds to the desktop's high-contrast setting.
 
-// As GTK programs find it: the theme named by GTK_THEME or else by a settings.ini of the user. Null when that
-// is no high-contrast theme. Reads two small files.
+// Determined like in GTK programs: from the theme in GTK_THEME or else in a settings.ini of the user. Null if
+// it is not a high-contrast theme. Reads two small files.
 QString contrastSchemeOfTheme();
 
-// Asks the desktop portal on a worker thread, through the service program, and applies the scheme when the
-// answer comes. Does nothing without a session bus. `receiver` ends it when it is destroyed.
+// Queries the desktop portal on a worker thread, through the service program, and applies the scheme when the
+// response arrives. Does nothing without a session bus. Stops when `receiver` is destroyed.
 void followDesktopContrast(QObject *receiver);
 
 } // namespace host

@@ -7,7 +7,7 @@
 
 namespace host {
 
-// Qt's Fusion style with an outline in the color of the text around every control, whose own outlines are too
+// Qt's Fusion style with an outline in the text color around every control, since Fusion's outlines are too
 // pale for a high-contrast palette.
 class HighContrastStyle : public QProxyStyle
 {

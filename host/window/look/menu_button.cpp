@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-constexpr int sideAir = 12;    // pixels on both sides of the words together
+constexpr int sideAir = 12;    // pixels on both sides of the text together
 constexpr int leastChars = 40; // of average width that always have room; the end of a longer text may be cut
 
 } // namespace
@@ -22,7 +22,7 @@ MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(this, &QPushButton::pressed, this, [this] {
         if (menu())
-            return; // which the button opens itself
+            return; // the button opens the menu itself
         wantMenu();
         showMenu();
     });
@@ -51,7 +51,8 @@ void MenuButton::initStyleOption(QStyleOptionButton *option) const
 {
     QPushButton::initStyleOption(option);
     option->features |= QStyleOptionButton::HasMenu;
-    // Where there is little room the end is cut, not both sides; the key may go with it.
+    // In a narrow button the end of the text is elided, instead of both sides being cut off; this may include
+    // the access key.
     const int room = width() - sideAir - style()->pixelMetric(QStyle::PM_MenuButtonIndicator, option, this);
     if (option->fontMetrics.horizontalAdvance(option->text) > room)
         option->text =

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// A button that opens a menu, and looks like it before it has one. Asks for the menu once: when it has been
-// painted, or is pressed before that. A window is seen sooner without it, and smaller.
+// A button with a menu that is created on demand: requested once, when the button has been painted, or when
+// it is pressed before that. This reduces the start-up time and memory of a window.
 class MenuButton : public QPushButton
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // The receiver calls setMenu() before it returns.
+    // The receiver must call setMenu() before it returns.
     void menuWanted();
 
 protected:

@@ -11,12 +11,12 @@ namespace {
 
 const QString mark = QStringLiteral("&");
 const QString endings = QStringLiteral(":：….");
-constexpr qsizetype bracketLength = 4; // of "(&K)"
-constexpr qsizetype taken = -1;        // the owner of a key that stays where it is
+constexpr qsizetype bracketLength = 4; // length of "(&K)"
+constexpr qsizetype taken = -1;        // the owner of a fixed key
 
-// Where the "(&K)" of a text begins, as East Asian texts have it; -1 where there is none. By hand, as all
-// here: these texts are looked through before the window is first seen, and regular expressions cost half a
-// megabyte at first use.
+// The position of "(&K)" in a text, as in East Asian languages; -1 if there is none. Parsed by hand, as
+// everything in this file: these texts are examined before the window is first shown, and regular expressions
+// allocate half a megabyte on first use.
 qsizetype placeOfBracket(const QString &text)
 {
     qsizetype at = text.indexOf(QLatin1String("(&"));
@@ -26,7 +26,7 @@ qsizetype placeOfBracket(const QString &text)
     return at;
 }
 
-// Where what ends a label begins, such as its colon.
+// The position of the end of a label, such as its colon.
 qsizetype placeOfEnding(const QString &text)
 {
     qsizetype at = text.size();
@@ -70,16 +70,16 @@ QChar Mnemonics::keyOf(const QString &text)
     return place < 0 ? QChar() : text.at(place).toLower();
 }
 
-// A text that is to get a key.
+// A text that needs a key.
 struct Mnemonics::Wish
 {
-    QString text;            // as it was given
-    QChar wanted;            // the key that it asks for; null for none
-    QString bare;            // without the key that it asks for
-    qsizetype bracket = -1;  // where a key in brackets goes; -1 for a text with letters of its own
-    QList<qsizetype> places; // of letters that may be its key, the best first
-    QChar key;               // null while it has none
-    bool isVisited = false;  // by the present search
+    QString text;            // the original text
+    QChar wanted;            // the requested key; null if there is none
+    QString bare;            // without the requested key
+    qsizetype bracket = -1;  // position of a key in parentheses; -1 for a text with Latin letters
+    QList<qsizetype> places; // positions of possible keys, the best first
+    QChar key;               // null until it has one
+    bool isVisited = false;  // by the current search
 
     explicit Wish(const QString &given);
     QList<QChar> keys() const;
@@ -96,7 +96,7 @@ Mnemonics::Wish::Wish(const QString &given)
     } else if (const qsizetype place = placeOfKey(text); place > 0) {
         bare.remove(place - 1, 1);
     }
-    // A figure in a text whose letters cannot be typed would be the only key of its kind.
+    // In a text whose letters cannot be typed, a digit would be the only possible key.
     const bool hasLetters = bracket < 0 && std::any_of(bare.cbegin(), bare.cend(),
                                                        [](QChar c) { return isTypable(c) && c.isLetter(); });
     if (!hasLetters) {
@@ -132,7 +132,7 @@ QString Mnemonics::Wish::shown() const
     return QString(bare).insert(*place, mark);
 }
 
-// A search for an augmenting path: a text whose keys are all taken gets that of another, which gets a
+// Searches for an augmenting path: a text whose keys are all taken gets that of another text, which gets a
 // different one.
 bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index, bool mayTakeWanted)
 {

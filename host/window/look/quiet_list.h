@@ -7,9 +7,9 @@
 
 namespace host {
 
-// A list view whose current item is reported to assistive technology as focused only while the list has the
-// focus. QListView reports it whenever it changes, which makes a screen reader leave the control that the
-// user is typing in.
+// A list view that reports its current item as focused to assistive technology only while the list has the
+// focus. QListView reports it whenever it changes, so that a screen reader leaves the control in which the
+// user is typing.
 template <typename List>
 class QuietList : public List
 {

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// The path of kelmar-print-service, which speaks with the session bus for the dialog: the one beside the
-// program, as in a build folder, else the installed one. The file may be missing.
+// The path of kelmar-print-service, which communicates with the session bus for the dialog: in the program's
+// folder, as in a build tree, else the installed one. The file may not exist.
 QString serviceProgram();
 
 } // namespace host

@@ -8,12 +8,12 @@
 
 namespace host {
 
-// What of a part of a window the Tab key reaches when it is shown and enabled, in the order of the present
-// focus chain; the part itself included.
+// The widgets in a part of a window, including the part itself, that the Tab key reaches if they are visible
+// and enabled, in the order of the current focus chain.
 QList<QWidget *> tabStops(QWidget *part);
 
-// Makes the Tab key go from part to part of a window in this order; within each the order stays as it is. A
-// part within another one comes first where it is named first.
+// Sets the tab order of the parts of a window; the order within each part does not change. If a part contains
+// another one, the one that is listed first comes first.
 void chainTabOrder(const QList<QWidget *> &parts);
 
 } // namespace host

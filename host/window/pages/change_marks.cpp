@@ -32,7 +32,7 @@ namespace host {
 
 namespace {
 
-constexpr int gap = 1; // pixels between a control and its sign, which has a margin of its own
+constexpr int gap = 1; // pixels between a control and its mark, which has a margin
 
 bool isControl(const QWidget *widget)
 {
@@ -41,7 +41,7 @@ bool isControl(const QWidget *widget)
            qobject_cast<const QAbstractSlider *>(widget);
 }
 
-// What a control says of a change by its user, and of a change that came with another setting.
+// Calls functions on a change by the user, and on a change caused by another setting.
 void onChange(QWidget *widget, SessionHistory *history)
 {
     const auto note = [history] { history->noteLater(); };
@@ -60,7 +60,7 @@ void onChange(QWidget *widget, SessionHistory *history)
         QObject::connect(slider, &QAbstractSlider::valueChanged, history, note);
 }
 
-// What is shown on a sheet and may be in the way of a sign.
+// Widgets on a page that a mark must not cover.
 QList<QWidget *> obstaclesOn(const QWidget *sheet)
 {
     QList<QWidget *> obstacles;
@@ -92,7 +92,7 @@ ChangeMarks::ChangeMarks(QWidget *page, int panel, DialogSession *session, Sessi
     refresh();
 }
 
-// The panel's controls go on without it.
+// The panel's controls outlive this object.
 ChangeMarks::~ChangeMarks()
 {
     for (const Control &control : std::as_const(m_controls))
@@ -117,7 +117,7 @@ void ChangeMarks::findControls()
     }
 }
 
-// By its bindings, or without one: a slider of an older host reports to the panel itself.
+// From its bindings, or without one: a slider of an older host reports to the panel directly.
 QStringList ChangeMarks::keysSetBy(const QWidget *control) const
 {
     QStringList keys;
@@ -143,7 +143,7 @@ void ChangeMarks::add(QWidget *widget, const QStringList &keys)
     for (QWidget *around = widget; around != m_page->parentWidget(); around = around->parentWidget())
         watch(around);
     for (QLineEdit *inner : widget->findChildren<QLineEdit *>())
-        watch(inner); // of a spin box: it has the context menu
+        watch(inner); // of a spin box, which has the context menu
 }
 
 void ChangeMarks::watch(QWidget *widget)
@@ -189,7 +189,7 @@ void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChan
     if (!isChanged) {
         if (control->mark) {
             control->mark->hide();
-            control->mark->deleteLater(); // it may be what was pressed
+            control->mark->deleteLater(); // the mark may be the sender
             control->mark = nullptr;
             describe(control, QString());
         }
@@ -206,7 +206,7 @@ void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChan
     describe(control, control->mark->accessibleName());
 }
 
-// The control may have said something else since.
+// The control's description may have changed since.
 void ChangeMarks::describe(Control *control, const QString &change)
 {
     const QString now = control->widget->accessibleDescription();
@@ -231,7 +231,7 @@ void ChangeMarks::placeAll()
     }
 }
 
-// Behind the control, before it where something stands there, or else at the next free place of its line.
+// After the control, before it if another widget is there, or else at the next free place in its line.
 void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacles)
 {
     QWidget *sheet = m_page->parentWidget();
@@ -241,7 +241,7 @@ void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacle
     if (mark->isHidden())
         return;
     QRect around(widget->mapTo(sheet, QPoint()), widget->size());
-    if (qobject_cast<const QCheckBox *>(widget)) { // its words may be shorter than its line
+    if (qobject_cast<const QCheckBox *>(widget)) { // the text may be shorter than the line
         const QRect words(around.topLeft(),
                           QSize(qMin(around.width(), widget->sizeHint().width()), around.height()));
         around = QStyle::visualRect(sheet->layoutDirection(), around, words);

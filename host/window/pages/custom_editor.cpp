@@ -25,10 +25,10 @@ namespace host {
 
 namespace {
 
-constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, where nothing has been chosen
+constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, if nothing has been chosen
 constexpr double usualHeight = 297 / 25.4 * 72;
-// What can be typed. A number beyond the printer's limits stays as it is and is told: cut off, it would be
-// another one.
+// Maximum input. A number beyond the printer's limits is kept and reported, since a truncated number would be
+// a different one.
 constexpr int mostTyped = 999'999;
 
 int decimalsOf(const QString &unit)
@@ -194,7 +194,7 @@ void CustomEditor::setRanges()
             const double from = roundedUp(side.minimum / scale, decimals);
             const double to = roundedDown(side.maximum / scale, decimals);
             const QSignalBlocker quiet(m_sides.at(i));
-            m_sides.at(i)->setDecimals(3); // what was given on the command line may be finer
+            m_sides.at(i)->setDecimals(3); // values from the command line may have more digits
             m_sides.at(i)->setRange(0, mostTyped);
             m_sides.at(i)->setDecimals(decimals);
             m_sides.at(i)->setSingleStep(m_currentUnit == QLatin1String("in") ? 0.25 : 1);
@@ -246,7 +246,7 @@ void CustomEditor::showProblem()
 void CustomEditor::fieldEdited()
 {
     m_shown.clear();
-    colourHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may only be unfinished
+    colourHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may be incomplete
     Q_EMIT edited();
 }
 
@@ -267,7 +267,7 @@ void CustomEditor::setChoice(const QString &choice)
         const QSignalBlocker quiet(m_fields.at(i).widget);
         m_fields.at(i).setValue(values->at(i));
     }
-    m_shown = choice; // which may be finer than the fields
+    m_shown = choice; // may have more digits than the fields
 }
 
 QString CustomEditor::choice() const

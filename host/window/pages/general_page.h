@@ -24,31 +24,32 @@ class LayoutForm;
 class OptionForm;
 class RangeCheck;
 
-// What every printer can be asked: copies, pages, and of paper, tray and two-sided printing what its PPD has.
-// Writes to the session and the choice of documents at once; both are borrowed and outlive the page.
+// The general settings of every printer: copies, pages, and paper, tray and two-sided printing as far as its
+// PPD has them. Writes to the session and the choice of documents immediately; both are borrowed and outlive
+// the page.
 class GeneralPage : public QWidget
 {
     Q_OBJECT
 public:
-    // `documents` may be null: nothing is printed from here.
+    // `documents` may be null: nothing is printed from this dialog.
     explicit GeneralPage(DialogSession *session, DocumentChoice *documents = nullptr,
                          QWidget *parent = nullptr);
 
-    // Null string when everything typed here makes sense.
+    // A null string if all input is valid.
     QString problem() const;
-    // Puts the cursor where the problem is.
+    // Places the cursor at the problem.
     void showProblem();
     void refresh();
-    // Prints these pages, given as normalized ranges; the empty string for all.
+    // Selects pages to print, given as normalized ranges; an empty string selects all.
     void setRanges(const QString &ranges);
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
-    // Which pages are printed, or how, has become another.
+    // The pages to print, or their layout, have changed.
     void pagesChanged();
     void savePdfWanted();
     void previewWanted();
-    // It has more controls than before.
+    // The page has additional controls.
     void grown();
 
 protected:
@@ -76,19 +77,19 @@ private:
 
     DialogSession *m_session;
     DocumentChoice *m_documents;
-    DocumentBox *m_documentBox = nullptr; // null where there is no choice
-    RangeCheck *m_rangeCheck = nullptr;   // made after the first paint; null where nothing is printed
+    DocumentBox *m_documentBox = nullptr; // null if there is no choice
+    RangeCheck *m_rangeCheck = nullptr;   // created after the first paint; null if nothing is printed
     QSpinBox *m_copies;
     QCheckBox *m_collate;
     QRadioButton *m_allPages;
     QRadioButton *m_somePages;
     QLineEdit *m_pages;
     QLabel *m_problem;
-    QString m_announced; // the problem that was announced last; null while there is none
-    QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // that another program offers
-    QLabel *m_sides;                                                 // what the numbers of a range count
+    QString m_announced; // the problem that was announced last; null if there is none
+    QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // offered by another program
+    QLabel *m_sides; // explains what the numbers of a range count
     OptionForm *m_form = nullptr;
-    LayoutForm *m_layout = nullptr; // made after the first paint
+    LayoutForm *m_layout = nullptr; // created after the first paint
     bool m_isPainted = false;
 };
 

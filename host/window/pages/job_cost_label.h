@@ -13,18 +13,18 @@ class DialogSession;
 class DocumentChoice;
 class PageCounter;
 
-// What the job will take, such as "4 sheets, 8 sides, color". Empty while the pages of a document are not
-// counted, and where they cannot be. Other programs count them; nothing waits for them. The choice of
+// The paper consumption of the job, such as "4 sheets, 8 sides, color". Empty while the pages of a document
+// have not been counted, or if they cannot be. Separate programs count them in the background. The choice of
 // documents is borrowed.
 class JobCostLabel : public ElidedLabel
 {
     Q_OBJECT
 public:
-    // `session` gives the present session, or null where there is none.
+    // `session` returns the current session, or null if there is none.
     JobCostLabel(DocumentChoice *documents, std::function<const DialogSession *()> session, QWidget *parent);
 
 public Q_SLOTS:
-    // Call when settings have changed, or there is another session.
+    // Call when settings have changed, or the session is replaced.
     void refresh();
 
 private:

@@ -20,7 +20,7 @@ namespace host {
 namespace {
 
 constexpr int boxWidth = 240;       // pixels, as in the panels
-constexpr int longestBilling = 255; // bytes, of a name in the print protocol
+constexpr int longestBilling = 255; // bytes; the limit of names in the print protocol
 
 const QString holdName = QStringLiteral("job-hold-until");
 const QString priorityName = QStringLiteral("job-priority");

@@ -17,19 +17,19 @@ namespace host {
 
 class DialogSession;
 
-// The page for what the print server does with the job: when it is printed, its priority, cover sheets and
-// billing information. Writes to the session, which is borrowed and outlives it, at once.
+// The page for the handling of the job by the print server: when it is printed, its priority, cover sheets
+// and billing information. Writes to the session immediately, which is borrowed and outlives the page.
 class JobPage : public QWidget
 {
     Q_OBJECT
 public:
     explicit JobPage(DialogSession *session, QWidget *parent = nullptr);
 
-    // Shows the present settings of the session.
+    // Shows the current settings of the session.
     void refresh();
 
 Q_SIGNALS:
-    void chosen(const QString &name); // the job option
+    void chosen(const QString &name); // name of the job option
 
 private:
     platform::ChoiceBox *addBox(const QString &name, const QString &label, const QStringList &values,
@@ -43,7 +43,7 @@ private:
 
     DialogSession *m_session;
     platform::ChoiceBox *m_hold = nullptr;
-    QTimeEdit *m_time = nullptr; // enabled while the job is to be printed at a time of day
+    QTimeEdit *m_time = nullptr; // enabled if the job is to be printed at a time of day
     platform::ChoiceBox *m_priority = nullptr;
     platform::ChoiceBox *m_before = nullptr; // the cover sheets
     platform::ChoiceBox *m_after = nullptr;

@@ -13,33 +13,33 @@ namespace host {
 class DialogSession;
 class OptionForm;
 
-// The options of the PPD that no other page shows, such as finishing, group by group. Builds the rows that
-// fit on a screen at once, and the others bit by bit after it has been painted. The session is borrowed and
-// outlives the page.
+// The options of the PPD that no other page shows, such as finishing, in groups. Creates the rows that fit on
+// a screen immediately, and the others in parts after the first paint. The session is borrowed and outlives
+// the page.
 class MorePage : public QWidget
 {
     Q_OBJECT
 public:
     explicit MorePage(DialogSession *session, QWidget *parent = nullptr);
     void refresh();
-    // Null string when everything typed here makes sense.
+    // A null string if all input is valid.
     QString problem() const;
-    // Puts the cursor where the problem is.
+    // Places the cursor at the problem.
     void showProblem();
 
 Q_SIGNALS:
     void chosen(const QString &keyword);
-    // Rows have come to those that there were.
+    // Rows have been added.
     void grown();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    // A few rows of one group.
+    // Some rows of one group.
     struct Part
     {
-        QString title; // null for rows that go on where the part before ends
+        QString title; // null for rows that continue the previous part
         QStringList keywords;
     };
     QList<Part> partsOf(const DialogSession &session) const;

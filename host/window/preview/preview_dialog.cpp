@@ -17,7 +17,7 @@ namespace host {
 namespace {
 
 constexpr QSize widest(900, 1100); // pixels
-constexpr int roomAround = 60;     // pixels of the screen that stay free
+constexpr int roomAround = 60;     // pixels of the screen that remain free
 
 } // namespace
 

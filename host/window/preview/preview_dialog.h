@@ -10,8 +10,8 @@ namespace host {
 class DocumentChoice;
 class PreviewPane;
 
-// The preview in a window of its own, as large as the screen allows, for screens on which the dialog has no
-// room for it. Modal to its parent, and deleted when it is closed. The choice of documents is borrowed.
+// The preview in a separate window, as large as the screen allows, for screens on which the dialog has no
+// space for it. Modal to its parent, and deleted when it is closed. The choice of documents is borrowed.
 class PreviewDialog : public QDialog
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ namespace host {
 
 namespace {
 
-constexpr double millimetres = 25.4 / 72; // a point
+constexpr double millimetres = 25.4 / 72; // per point
 const QString rangesName = QStringLiteral("page-ranges");
 
 QToolButton *pageButton(Qt::ArrowType arrow, const QString &name, QWidget *parent)
@@ -109,9 +109,9 @@ void PreviewPane::setSettings(const PageSettings &settings, const SheetFinish &f
         applySettings();
 }
 
-// Keeps page ranges from the filters where possible, so that the pages that are left out can be shown, too.
-// Where the filters count otherwise, because they reverse the order or take odd or even pages, or where
-// several documents are printed, the filters apply the ranges.
+// Hides page ranges from the filters if possible, so that excluded pages can be shown as well. The filters
+// apply the ranges if they count differently, because they reverse the order or select odd or even pages, or
+// if several documents are printed.
 void PreviewPane::applySettings()
 {
     QString ranges;
@@ -161,7 +161,7 @@ void PreviewPane::hideEvent(QHideEvent *event)
 
 void PreviewPane::factsChanged()
 {
-    m_picture = QSize(); // of pages that are no more; pageMade() tells of the new ones
+    m_picture = QSize(); // of the previous pages; pageMade() announces the new ones
     const int count = m_preview->facts() ? m_preview->facts()->pages : 0;
     if (!m_preview->problem().isNull())
         m_sheet->showText(tr("No preview: %1.").arg(wrappable(m_preview->problem())));
@@ -178,7 +178,7 @@ void PreviewPane::factsChanged()
     m_forth->setEnabled(m_page + 1 < m_count);
 }
 
-// What was shown before stays until the page is there.
+// The previous image is kept until the page is available.
 void PreviewPane::showPage(int page)
 {
     m_page = page;
@@ -211,7 +211,7 @@ QString PreviewPane::caption() const
     const QLocale locale;
     QStringList lines;
     lines.append(tr("Page %1 of %2").arg(locale.toString(m_page + 1), locale.toString(m_count)));
-    const int before = countPages(m_ranges, m_page); // that are printed
+    const int before = countPages(m_ranges, m_page); // printed pages
     if (!containsPage(m_ranges, m_page + 1))
         lines.append(tr("Not printed"));
     else if (m_finish.isTwoSided())
@@ -219,7 +219,7 @@ QString PreviewPane::caption() const
                          .arg(locale.toString(before / 2 + 1)));
     QSizeF size = m_preview->facts()->size * millimetres;
     if (!m_picture.isEmpty() && (m_picture.width() > m_picture.height()) != (size.width() > size.height()))
-        size.transpose(); // it is turned
+        size.transpose(); // the page is rotated
     lines.append(
         tr("%1 × %2 mm").arg(locale.toString(qRound(size.width())), locale.toString(qRound(size.height()))));
     if (!m_preview->isAsPrinted())

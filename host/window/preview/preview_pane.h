@@ -19,8 +19,8 @@ class PreviewSheet;
 class PreviewStrip;
 struct PageTools;
 
-// What the document will look like on paper: one page large, the others as a strip. Empty, and free of
-// charge, until begin(); from then on it follows the choice of documents, and works while it can be seen.
+// Shows the document as it will be printed: one page large, the others as a strip. Inactive until begin();
+// then it follows the choice of documents, and renders pages while it is visible.
 class PreviewPane : public QWidget
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     QSize sizeHint() const override { return {240, 400}; }
 
 Q_SIGNALS:
-    // The user has left out a page or taken it in: the normalized page ranges that are then to be printed.
+    // The user has excluded or included a page: the normalized page ranges that are to be printed.
     void rangesPicked(const QString &ranges);
 
 protected:
@@ -57,11 +57,11 @@ private:
     Preview *m_preview = nullptr;
     PageSettings m_settings;
     SheetFinish m_finish;
-    QString m_ranges;              // normalized; of the pages that are printed
-    bool m_areRangesShown = false; // all pages are there, and those that are not printed are pale
+    QString m_ranges;              // normalized; the printed pages
+    bool m_areRangesShown = false; // whether all pages are shown, with those that are not printed pale
     int m_page = 0;                // from 0
     int m_count = 0;
-    QSize m_picture; // of that page, as it lies; empty while it is not there
+    QSize m_picture; // of that page in its orientation; empty while it is not available
     PreviewSheet *m_sheet = nullptr;
     QLabel *m_caption = nullptr;
     QToolButton *m_back = nullptr;

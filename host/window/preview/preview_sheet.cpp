@@ -65,13 +65,13 @@ void PreviewSheet::scale()
     update();
 }
 
-// How a page that is turned lies in the stapler is not known: it is shown without staples and holes, except
+// The orientation of a rotated page in the stapler is unknown: it is shown without staples and holes, except
 // those in the fold.
 void PreviewSheet::paintFinish(QPainter *painter, const QRectF &place) const
 {
-    constexpr double strip = 4;   // pixels, of the binding edge
-    constexpr double metal = 3;   // pixels, of a staple
-    constexpr double hole = 0.02; // of the width of the page
+    constexpr double strip = 4;   // pixels; width of the binding edge
+    constexpr double metal = 3;   // pixels; width of a staple
+    constexpr double hole = 0.02; // diameter, relative to the width of the page
     const bool isUpright = place.height() >= place.width();
     const auto at = [&place](const QPointF &point) {
         return place.topLeft() + QPointF(point.x() * place.width(), point.y() * place.height());

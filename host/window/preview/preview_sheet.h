@@ -10,7 +10,7 @@
 
 namespace host {
 
-// One page, as large as there is room for it, or a few words in its place.
+// Shows one page as large as possible, or a text in its place.
 class PreviewSheet : public QWidget
 {
     Q_OBJECT
@@ -21,12 +21,13 @@ public:
     explicit PreviewSheet(QWidget *parent);
 
     void showPage(const QImage &page);
-    // Plain text; the empty one for a page that is still to come.
+    // Plain text; empty for a page that is still being rendered.
     void showText(const QString &text);
 
-    // Whether the page is printed; others are shown pale.
+    // Sets whether the page is printed; other pages are shown pale.
     void setPrinted(bool isPrinted);
-    // The binding edge, staples and holes to draw on the page, which is the front or the back of a sheet.
+    // Sets the binding edge, staples and holes to draw on the page, which is the front or the back of a
+    // sheet.
     void setFinish(const SheetFinish &finish, bool isBack);
 
     QSize sizeHint() const override { return {190, 260}; }
@@ -44,7 +45,7 @@ private:
     QPixmap m_scaled;
     QString m_text;
     bool m_isPrinted = true;
-    SheetFinish m_finish; // as it lies on this side
+    SheetFinish m_finish; // on this side
     bool m_isBack = false;
 };
 

@@ -78,7 +78,8 @@ public:
     }
 
 private:
-    // All of one size, so that the numbers below stand in a row whichever way up the pages are.
+    // All images have the same size, so that the numbers below are aligned whatever the orientation of the
+    // pages.
     QPixmap canvas(const QImage &picture, bool isPrinted) const
     {
         QPixmap pixmap = m_blank;
@@ -116,7 +117,7 @@ PreviewStrip::PreviewStrip(Preview *preview, QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setTabKeyNavigation(false);
     viewport()->setAutoFillBackground(false);
-    // Of several items that have changed the view itself paints only some anew.
+    // If several items have changed, the view itself repaints only some of them.
     connect(preview, &Preview::thumbnailsMade, viewport(), qOverload<>(&QWidget::update));
 }
 
@@ -128,7 +129,7 @@ QSize PreviewStrip::sizeHint() const
 
 void PreviewStrip::setCount(int pages)
 {
-    if (pages == m_model->rowCount({})) { // others may be on them
+    if (pages == m_model->rowCount({})) { // their contents may have changed
         viewport()->update();
         return;
     }

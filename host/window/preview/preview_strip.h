@@ -12,8 +12,8 @@ namespace host {
 class Preview;
 class PreviewStripModel;
 
-// All pages of a preview, small, in a row. Only those in view are made. A check box on each page says whether
-// it is printed. The preview is borrowed.
+// All pages of a preview as thumbnails in a row. Only visible ones are rendered. A check box on each page
+// shows whether it is printed. The preview is borrowed.
 class PreviewStrip : public QuietList<QListView>
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void setCount(int pages);
     int current() const { return currentIndex().row(); }
     void setCurrent(int page);
-    // The normalized ranges of the pages that are printed, and whether the check boxes are there.
+    // Sets the normalized ranges of the printed pages, and whether the check boxes are shown.
     void setPrinted(const QString &ranges, bool isOffered);
 
     QSize sizeHint() const override;
@@ -31,7 +31,7 @@ public:
 
 Q_SIGNALS:
     void picked(int page);
-    // The user has ticked or unticked the box of a page.
+    // The user has toggled the check box of a page.
     void toggled(int page);
 
 protected:

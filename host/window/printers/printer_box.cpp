@@ -29,7 +29,7 @@ constexpr int rowsShown = 9;
 constexpr int rowPadding = 6; // pixels above and below the two lines
 constexpr int sidePadding = 10;
 
-// The name of a printer, and below it, smaller and lighter, how it is and where.
+// Draws the name of a printer, and below it, smaller and lighter, its state and location.
 class PrinterDelegate : public QStyledItemDelegate
 {
 public:
@@ -174,10 +174,10 @@ void PrinterBox::narrow(const QString &text)
 
 void PrinterBox::choose(const QModelIndex &index)
 {
-    if (!(index.flags() & Qt::ItemIsEnabled)) // neither has an index that is none
+    if (!(index.flags() & Qt::ItemIsEnabled)) // neither has a valid index
         return;
     const QPersistentModelIndex chosen = m_found->mapToSource(index);
-    hidePopup(); // after which rows may move
+    hidePopup(); // rows may move afterwards
     setCurrentIndex(chosen.row());
     Q_EMIT activated(currentIndex());
 }

@@ -19,7 +19,7 @@ struct PrinterText
     Q_DECLARE_TR_FUNCTIONS(PrinterText)
 };
 
-// "Black 12 %", one supply a line.
+// "Black 12 %", one supply per line.
 QString suppliesText(const QList<Supply> &supplies)
 {
     QStringList lines;
@@ -103,7 +103,7 @@ QList<Destination> PrinterList::inOrder(QList<Destination> printers) const
 int PrinterList::put(const Destination &printer)
 {
     int row = rowOf(printer.name());
-    if (isAwaited(printer.name())) // it is there after all
+    if (isAwaited(printer.name())) // it exists after all
         forgetStandIn();
     if (row >= 0) {
         m_printers[row] = printer;

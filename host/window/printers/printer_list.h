@@ -10,37 +10,37 @@
 
 namespace host {
 
-// The printers to choose from, those used lately first. Rows are added as they are found.
+// The list of available printers, recently used ones first. Rows are added as printers are found.
 class PrinterList : public QAbstractListModel
 {
     Q_OBJECT
 public:
     enum Role {
         DestinationRole = Qt::UserRole,
-        DetailRole, // state and place, one line
-        SearchRole  // all that a search looks at, in lower case
+        DetailRole, // state and location, one line
+        SearchRole  // all searchable texts, in lower case
     };
 
     using QAbstractListModel::QAbstractListModel;
 
-    // Replaces everything but what was found in the network.
+    // Replaces all printers except those found on the network.
     void setPrinters(QList<Destination> printers);
-    // The destination names of those used lately, the latest first.
+    // Sets the destination names of recently used printers, the latest first.
     void setRecent(const QStringList &recent);
-    // Adds a printer, or brings the one of this name up to what it is now. Its row.
+    // Adds or updates a printer. Returns its row.
     int put(const Destination &printer);
-    // Adds a printer that was found in the network, unless it has a queue.
+    // Adds a printer that was found on the network, unless it has a queue.
     void putFound(const Destination &printer);
-    // A row for a requested printer that has not been reported yet, unless it is there. It cannot
-    // be chosen before put(), putFound() or setPrinters() bring the printer. Its row.
+    // Adds a row for a requested printer that has not been reported yet, unless it is in the list. The row
+    // cannot be selected until put(), putFound() or setPrinters() adds the printer. Returns the row.
     int putAwaited(const QString &name);
     bool isAwaited(const QString &name) const { return m_isAwaited && name == m_standIn; }
-    // A row for a chosen printer that the list lacks, and that may still be there. Its row.
+    // Adds a row for a selected printer that is missing from the list, but may still exist. Returns the row.
     int putMissing(const Destination &printer);
-    // There is one row of these two kinds at a time. It goes once another printer is chosen: there is nothing
-    // more to be had of it.
+    // Removes the row added by putAwaited() or putMissing(), if another printer is selected. There is at most
+    // one such row.
     void dropStandIn(const QString &chosen);
-    int rowOf(const QString &name) const; // -1 when there is none
+    int rowOf(const QString &name) const; // -1 if there is none
     Destination at(int row) const { return m_printers.value(row); }
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -53,17 +53,17 @@ private:
 
     QList<Destination> m_printers;
     QStringList m_recent;
-    QString m_standIn;        // the destination name of that row; empty where there is none
-    bool m_isAwaited = false; // it has not been reported yet
+    QString m_standIn;        // the destination name of that row; empty if there is none
+    bool m_isAwaited = false; // the printer has not been reported yet
 };
 
-// How a printer is, what it reports and where it stands, in words: "Ready · Room 655".
+// The state, problem and location of a printer as text: "Ready · Room 655".
 QString printerStateText(const Destination &printer);
-// What is left of its supplies, one a line: "Black 12 %". Empty where the printer tells nothing of them.
+// The levels of its supplies, one per line: "Black 12 %". Empty if the printer does not report them.
 QString printerSuppliesText(const Destination &printer);
 
-// Those rows of a printer list that hold every word of a search, in any order and any of name, description,
-// place and model.
+// Filters a printer list by search words, which may occur in any order in name, description, location and
+// model.
 class PrinterSearch : public QSortFilterProxyModel
 {
     Q_OBJECT

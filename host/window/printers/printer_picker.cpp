@@ -65,13 +65,13 @@ void PrinterPicker::setPrinters(const QList<Destination> &printers)
     const Destination chosen = m_list->at(m_list->rowOf(m_current));
     const bool isAwaited = m_list->isAwaited(m_current);
     m_list->setPrinters(printers);
-    if (m_list->rowOf(m_current) < 0) { // where a preset is gone, its printer may be there
+    if (m_list->rowOf(m_current) < 0) { // if a preset does not exist, its printer may
         const QString queue = m_current.section(QLatin1Char('/'), 0, 0);
         if (m_list->rowOf(queue) >= 0) {
             m_current = queue;
         } else if (!chosen.queue.isEmpty()) {
             isAwaited ? m_list->putAwaited(m_current)
-                      : m_list->putMissing(chosen.withoutState()); // the server says nothing of it
+                      : m_list->putMissing(chosen.withoutState()); // the server does not report it
         }
     }
     showRow(m_list->rowOf(m_current));
@@ -114,7 +114,7 @@ void PrinterPicker::putPrinter(const Destination &news)
         return;
     Destination printer = news;
     if (printer.queue == m_current && m_list->rowOf(printer.name()) < 0)
-        printer.instance.clear(); // asked about before the preset was gone
+        printer.instance.clear(); // requested before the preset was deleted
     m_list->put(printer);
     if (printer.name() == m_current)
         describe(printer);

@@ -19,44 +19,43 @@ class PrinterBox;
 class PrinterList;
 class ElidedLabel;
 
-// The list of printers and, below it, how the chosen one is. Shows the chosen one alone until it gets the
-// whole list, which may grow while it is shown.
+// The list of printers and, below it, the state of the selected one. Shows only the selected printer until
+// the complete list is set, which may grow while it is shown.
 class PrinterPicker : public QWidget
 {
     Q_OBJECT
 public:
     explicit PrinterPicker(QWidget *parent = nullptr);
 
-    // All that the print server has; the chosen one stays in the list where it lacks it, and where it lacks
-    // only the chosen preset, its printer is shown.
+    // Sets the printers of the print server. The selected printer is added if it is missing; if only its
+    // preset is missing, the printer is shown.
     void setPrinters(const QList<Destination> &printers);
-    // The destination names of those used lately, the latest first. They come first while the user does not
-    // look at the list.
+    // Sets the destination names of recently used printers, the latest first. They are moved to the top while
+    // the list is not open.
     void setRecent(const QStringList &recent);
-    // One more printer, or news of one that is there.
+    // Adds or updates a printer.
     void putPrinter(const Destination &news);
-    // A printer that was found in the network.
+    // Adds a printer that was found on the network.
     void putFound(const Destination &printer);
-    // Whether more of them may come.
+    // Sets whether more printers may be found.
     void setSearching(bool searching);
-    // Shows a printer without announcing it; adds it where the list lacks it.
+    // Shows a printer without emitting a signal; adds it if it is not in the list.
     void setCurrent(const Destination &printer);
-    // The destination name of a printer that has been asked for; shows what is known of it. Where the list
-    // lacks it, it cannot be picked before it is there, and leaves when another one is shown.
+    // Shows a requested printer by its destination name, before it has been opened. If it is not in the list,
+    // it cannot be selected before it is reported, and is removed when another printer is shown.
     void setAwaited(const QString &name);
-    // Nothing is chosen and nothing can be from now on, as for a PPD without a queue; `text` stands in the
-    // place.
+    // No printer can be selected from now on, as for a PPD without a queue; shows `text` instead.
     void setFixedText(const QString &text);
     QComboBox *box() const;
-    // Puts something at the end of its line.
+    // Adds a widget at the end of the state line.
     void addBeside(QWidget *widget);
-    // Leaves out how the printer is, for want of room.
+    // Hides the state of the printer to save space.
     void setCompact(bool compact);
 
 Q_SIGNALS:
-    // The user chose a printer, by destination name; it may be the one that is shown.
+    // The user has selected a printer, given by its destination name; it may be the current one.
     void picked(const QString &name);
-    // The list is shown.
+    // The list was opened.
     void opened();
 
 protected:
@@ -72,7 +71,7 @@ private:
     PrinterBox *m_box;
     ElidedLabel *m_state;
     QString m_current;                   // destination name
-    std::optional<QStringList> m_recent; // until the list is in their order
+    std::optional<QStringList> m_recent; // until the list has been sorted accordingly
     bool m_isFixed = false;
 };
 
