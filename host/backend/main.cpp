@@ -11,7 +11,7 @@
 
 #include "host/backend/caller.h"
 #include "host/backend/user_bus.h"
-#include "platform/unique_fd.h"
+#include "platform/descriptor_io.h"
 
 #include <algorithm>
 #include <charconv>

@@ -3,6 +3,8 @@
 
 #include "host/portal/dialog_channel.h"
 
+#include "platform/descriptor_io.h"
+
 #include <QJsonDocument>
 #include <QSocketNotifier>
 
@@ -28,9 +30,7 @@ std::optional<QJsonObject> DialogChannel::readRequest()
     QByteArray line;
     char block[4096];
     while (!line.endsWith('\n') && line.size() < longestRequest) {
-        const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
-        if (got < 0 && errno == EINTR)
-            continue;
+        const ssize_t got = platform::readSome(STDIN_FILENO, block, sizeof block);
         if (got <= 0)
             return std::nullopt;
         line.append(block, got);
@@ -55,9 +55,7 @@ void DialogChannel::watch()
 void DialogChannel::read(QSocketNotifier *notifier)
 {
     char block[256];
-    const ssize_t got = ::read(STDIN_FILENO, block, sizeof block);
-    if (got < 0 && errno == EINTR)
-        return;
+    const ssize_t got = platform::readSome(STDIN_FILENO, block, sizeof block);
     if (got <= 0) {
         notifier->setEnabled(false);
         Q_EMIT closed();
@@ -76,13 +74,8 @@ void DialogChannel::read(QSocketNotifier *notifier)
 void DialogChannel::write(const QJsonObject &answer)
 {
     const QByteArray line = QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
-    for (qsizetype done = 0; done < line.size();) {
-        const ssize_t put =
-            ::write(m_answers.get(), line.constData() + done, static_cast<size_t>(line.size() - done));
-        if (put < 0 && errno != EINTR)
-            return;
-        done += put > 0 ? put : 0;
-    }
+    // The service may have gone.
+    (void)platform::writeAll(m_answers.get(), {line.constData(), static_cast<size_t>(line.size())});
 }
 
 } // namespace host

@@ -3,6 +3,8 @@
 
 #include "host/portal/handed_document.h"
 
+#include "platform/descriptor_io.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>

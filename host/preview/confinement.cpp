@@ -21,6 +21,7 @@
 #include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 
 // bubblewrap is not used: it depends on namespaces, so it fails completely where they are not available, as

@@ -4,6 +4,7 @@
 #include "host/preview/page_tools.h"
 
 #include "host/printing/file_name.h"
+#include "platform/descriptor_io.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,41 +4,18 @@
 #include "host/preview/pdf_writer.h"
 
 #include "host/printing/file_name.h"
+#include "host/printing/new_file.h"
 #include "platform/background.h"
 
 #include <cerrno>
-#include <cstdlib>
-#include <cstring>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace host {
 
 namespace {
 
 const QString joiner = QStringLiteral("qpdf");
-
-// The permissions of a new file.
-mode_t usualMode()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
-}
-
-bool writeAll(int file, QByteArrayView bytes)
-{
-    while (!bytes.isEmpty()) {
-        const ssize_t written = ::write(file, bytes.data(), static_cast<size_t>(bytes.size()));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes = bytes.sliced(written);
-    }
-    return true;
-}
 
 } // namespace
 
@@ -54,21 +31,10 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
     if (isThere && !S_ISREG(facts.st_mode))
         return problem(S_ISLNK(facts.st_mode) ? PdfWriter::tr("it is a link to another file")
                                               : PdfWriter::tr("it is not a file"));
-    // In the folder of the target, so that it can replace the target atomically. A link that is created there
-    // meanwhile is replaced, not followed.
-    QByteArray temporary = target + ".XXXXXX";
-    platform::UniqueFd file(mkostemp(temporary.data(), O_CLOEXEC));
-    if (!file)
-        return problem(QString::fromLocal8Bit(std::strerror(errno)));
-    const FileView view(content);
-    const bool isWritten = writeAll(file.get(), view.bytes()) &&
-                           fchmod(file.get(), isThere ? facts.st_mode & 0777 : usualMode()) == 0 &&
-                           fsync(file.get()) == 0 && rename(temporary.constData(), target.constData()) == 0;
-    if (isWritten)
+    NewFile file(target, 0666, isThere ? &facts : nullptr);
+    if (file.write(FileView(content).bytes()) && file.takePlace())
         return {};
-    const QString reason = QString::fromLocal8Bit(std::strerror(errno));
-    unlink(temporary.constData());
-    return problem(reason);
+    return problem(qt_error_string(errno));
 }
 
 PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)

@@ -6,7 +6,7 @@
 #include "host/printing/file_name.h"
 #include "host/printing/gzip_file.h"
 #include "host/printing/held_signals.h"
-#include "platform/unique_fd.h"
+#include "platform/descriptor_io.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -197,9 +197,6 @@ struct DocumentList::Spool
 
     bool begin(const QString &from, PrintError *error);
     bool take(QIODevice *input, PrintError *error, const StopWanted &stop);
-
-private:
-    bool keep(const char *data, qint64 count, PrintError *error);
 };
 
 // Does not wait for a writer when it opens a pipe.
@@ -221,20 +218,6 @@ bool DocumentList::Spool::begin(const QString &from, PrintError *error)
     *error = {PrintError::Kind::Other, DocumentText::tr("The file “%1” cannot be read: %2.")
                                            .arg(readableFileName(path), qt_error_string(errno))};
     return false;
-}
-
-// A full disk accepts a part of the data first, and reports the error with the rest.
-bool DocumentList::Spool::keep(const char *data, qint64 count, PrintError *error)
-{
-    for (qint64 done = 0; done < count;) {
-        const qint64 taken = copy.write(data + done, count - done);
-        if (taken <= 0) {
-            *error = spoolProblem(copy.errorString());
-            return false;
-        }
-        done += taken;
-    }
-    return true;
 }
 
 // False with an error if nothing can be read, the data cannot be written completely, or `stop` returned true.
@@ -261,8 +244,10 @@ bool DocumentList::Spool::take(QIODevice *input, PrintError *error, const StopWa
         }
         if (count <= 0)
             break;
-        if (!keep(block.constData(), count, error))
+        if (!platform::writeAll(copy.handle(), {block.constData(), static_cast<size_t>(count)})) {
+            *error = spoolProblem(qt_error_string(errno));
             return false;
+        }
     }
     const bool isInput = !source;
     isWhole = true;

@@ -4,6 +4,7 @@
 #include "host/printing/preset_store.h"
 
 #include "host/printing/file_name.h"
+#include "host/printing/new_file.h"
 #include "host/printing/preset_lines.h"
 #include "platform/unique_fd.h"
 
@@ -14,10 +15,10 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QThread>
-#include <QUuid>
 
 #include <algorithm>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 namespace host {
 
@@ -117,59 +118,6 @@ public:
     explicit operator bool() const { return static_cast<bool>(m_fd); }
 
 private:
-    platform::UniqueFd m_fd;
-};
-
-// A new file in the folder of the old one, with its mode and owner; -1 with errno if it cannot be written.
-// Without an old file it gets `mode`; if it is the user's own file, the process's umask applies.
-class NewFile
-{
-public:
-    NewFile(const QString &path, unsigned mode, bool isUsers, int earlier) : m_path(QFile::encodeName(path))
-    {
-        m_name = m_path + '.' + QUuid::createUuid().toByteArray(QUuid::Id128);
-        struct stat facts = {};
-        const bool isReplacing = earlier >= 0 && ::fstat(earlier, &facts) == 0;
-        m_fd = platform::UniqueFd(
-            ::open(m_name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, isReplacing ? 0600 : mode));
-        if (m_fd && isReplacing && ::fchown(m_fd.get(), facts.st_uid, facts.st_gid) == 0)
-            (void)::fchmod(m_fd.get(), facts.st_mode & 07777);
-        else if (m_fd && isReplacing)
-            // another user's file, which now belongs to this user
-            (void)::fchmod(m_fd.get(), facts.st_mode & 0777);
-        else if (m_fd && !isUsers)
-            (void)::fchmod(m_fd.get(), mode);
-    }
-    ~NewFile()
-    {
-        if (m_fd)
-            ::unlink(m_name.constData());
-    }
-    NewFile(const NewFile &) = delete;
-    NewFile &operator=(const NewFile &) = delete;
-
-    bool write(const QByteArray &content)
-    {
-        for (qsizetype done = 0; m_fd && done < content.size();) {
-            const ssize_t put =
-                ::write(m_fd.get(), content.constData() + done, size_t(content.size() - done));
-            if (put < 0 && errno != EINTR)
-                return false;
-            done += std::max<ssize_t>(put, 0);
-        }
-        return m_fd && ::fsync(m_fd.get()) == 0;
-    }
-    bool takePlace()
-    {
-        if (::rename(m_name.constData(), m_path.constData()) != 0)
-            return false;
-        m_fd.reset();
-        return true;
-    }
-
-private:
-    QByteArray m_path;
-    QByteArray m_name;
     platform::UniqueFd m_fd;
 };
 
@@ -283,7 +231,11 @@ bool PresetStore::change(const QString &path, const Change &change, PrintError *
         const auto content = change(earlier->content, error);
         if (!content)
             return false;
-        NewFile fresh(target, m_files.mode, path == m_files.users, earlier->fd.get());
+        struct stat facts = {};
+        const bool isThere = earlier->fd && ::fstat(earlier->fd.get(), &facts) == 0;
+        NewFile fresh(QFile::encodeName(target), m_files.mode, isThere ? &facts : nullptr);
+        if (!isThere && path != m_files.users)
+            fresh.setMode(m_files.mode);
         if (!fresh.write(*content)) {
             *error = problemWith(target, errno);
             return false;

@@ -7,7 +7,7 @@
 #include "host/session/job_cost.h"
 #include "host/session/page_ranges.h"
 #include "host/session/sheet_finish.h"
-#include "platform/unique_fd.h"
+#include "platform/descriptor_io.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/paths.h"
 
