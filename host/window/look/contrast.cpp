@@ -6,39 +6,18 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <cmath>
 
 namespace host {
 
 namespace {
 
-// x to the power of 2.4 for x from 0.09 to 1: the fifth root of its twelfth power, by Newton's method from
-// above. What the window shows first needs this and nothing else of libm, whose pow() would bring 190 kB of
-// code and tables.
-qreal toThePowerOf2Point4(qreal x)
-{
-    constexpr int steps = 12; // exact from the tenth on
-    const qreal square = x * x;
-    const qreal fourth = square * square;
-    const qreal twelfth = fourth * fourth * fourth;
-    qreal root = square;
-    for (int step = 0; step < steps; ++step)
-        root -= (root - twelfth / (root * root * root * root)) / 5;
-    return root;
-}
-
 qreal luminance(const QColor &color)
 {
     const auto linear = [](float channel) {
-        return channel <= 0.04045F ? channel / 12.92 : toThePowerOf2Point4((channel + 0.055) / 1.055);
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-QColor mixed(const QColor &a, const QColor &b, float share)
-{
-    return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
-                            a.greenF() + (b.greenF() - a.greenF()) * share,
-                            a.blueF() + (b.blueF() - a.blueF()) * share);
 }
 
 } // namespace
@@ -47,6 +26,13 @@ qreal contrast(const QColor &a, const QColor &b)
 {
     const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor mixed(const QColor &color, const QColor &other, float share)
+{
+    return QColor::fromRgbF(color.redF() + (other.redF() - color.redF()) * share,
+                            color.greenF() + (other.greenF() - color.greenF()) * share,
+                            color.blueF() + (other.blueF() - color.blueF()) * share);
 }
 
 QColor legible(const QColor &ink, const QColor &ground, qreal least)

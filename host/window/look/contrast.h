@@ -12,6 +12,9 @@ namespace host {
 // How well one colour stands out from another, from 1 to 21, as accessibility guidelines measure it.
 qreal contrast(const QColor &a, const QColor &b);
 
+// One colour with a share, from 0 to 1, of another.
+QColor mixed(const QColor &color, const QColor &other, float share);
+
 constexpr qreal textContrast = 4.5; // what text needs of its ground
 constexpr qreal markContrast = 3;   // what a sign or a frame needs
 

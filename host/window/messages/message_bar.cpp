@@ -4,6 +4,7 @@
 #include "host/window/messages/message_bar.h"
 
 #include "host/window/look/announced.h"
+#include "host/window/look/contrast.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/foreign_text.h"
 
@@ -30,13 +31,6 @@ QLabel *plainLabel(QWidget *parent)
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setFocusPolicy(Qt::NoFocus);
     return label;
-}
-
-QColor mixed(const QColor &a, const QColor &b, qreal share)
-{
-    return QColor::fromRgbF(static_cast<float>(a.redF() * share + b.redF() * (1 - share)),
-                            static_cast<float>(a.greenF() * share + b.greenF() * (1 - share)),
-                            static_cast<float>(a.blueF() * share + b.blueF() * (1 - share)));
 }
 
 } // namespace
@@ -252,8 +246,9 @@ void MessageBar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor accent = StatusGlyph::colorOf(m_message.kind, palette());
-    painter.setPen(mixed(accent, palette().color(QPalette::Window), 0.55));
-    painter.setBrush(mixed(accent, palette().color(QPalette::Window), 0.14));
+    const QColor ground = palette().color(QPalette::Window);
+    painter.setPen(mixed(ground, accent, 0.55F));
+    painter.setBrush(mixed(ground, accent, 0.14F));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 }
 
