@@ -27,7 +27,6 @@ extern const QString QVApplyToDeviceColorOnlyKey;      // "....device-color-only
 // The keys are the properties below. Owned by the panel that shows them; host and bundle are borrowed and
 // outlive it. Only restore and updateFromSNMP() query the device; they return when done and notify the host
 // before. If the user stops waiting, the result is that of a device that does not respond. Main thread only.
-//
 // Each list of names has a list of the device's numbers, to which the selections refer: a profile without a
 // name has a number but is not in the lists. An empty list has not been read.
 class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
@@ -55,22 +54,18 @@ class QVAdvancedColorSettingsManager_M880 : public platform::KeyValueObject
         QString snmpUnavailableReason READ snmpUnavailableReason WRITE setSnmpUnavailableReason STORED false)
     Q_PROPERTY(bool snmpEnabled READ snmpEnabled WRITE setSnmpEnabled STORED false)
 public:
-    // Initially enabled, with nothing read. Saving ends text editing in the window of `view`, which may be
-    // null.
+    // Initially enabled, with nothing read. Saving ends text editing in the window of `view` (may be null).
     QVAdvancedColorSettingsManager_M880(platform::PrintDialogHost *host, const platform::Bundle *bundle,
                                         QWidget *view);
 
     // Reads lists and defaults from the device, unless disabled: to retry after a failure, the caller enables
-    // first. A failure disables the settings with a localised reason and keeps what was read before. `sender`
-    // is ignored.
-    void updateFromSNMP(QObject *sender = nullptr);
-    // Enables the settings, queries the device, and replaces its defaults by the stored selections. Always
-    // returns true, without error.
+    // first. A failure disables the settings with a localised reason and keeps what was read before.
+    void updateFromSNMP(QObject *sender = nullptr); // the sender is ignored
+    // Enables, queries the device, and replaces its defaults by the stored selections. Always returns true.
     bool restoreValuesAndReturnError(QString *error);
     // Ends text editing and writes the selections, or removes them while disabled. Always returns true.
     bool saveValuesAndReturnError(QString *error);
-    // The reason is stored when disabling, and null when enabling.
-    void setSnmpEnabledWithReason(bool enabled, const QString &reason);
+    void setSnmpEnabledWithReason(bool enabled, const QString &reason); // enabling clears the reason
     void willShow() {}
 
     bool useConstraintHandling() const { return m_useConstraintHandling; }
@@ -101,8 +96,7 @@ public:
     void setSnmpEnabled(bool enabled);
 
 private:
-    // The names of one column of the device's tables, and the device's number for each.
-    struct ProfileList
+    struct ProfileList // the names of one column of the device's tables, and the device's number for each
     {
         QString key;
         QStringList names;
@@ -117,12 +111,9 @@ private:
     const platform::Bundle *m_bundle;
     bool m_useConstraintHandling;
     bool m_applyToDeviceColorOnly = false;
-    ProfileList m_rgbSourceProfiles;
-    ProfileList m_cmykSourceProfiles;
-    ProfileList m_cmykDestinationProfiles;
-    quint32 m_selectedRgbSourceProfile = 0;
-    quint32 m_selectedCmykSourceProfile = 0;
-    quint32 m_selectedCmykDestinationProfile = 0;
+    ProfileList m_rgbSourceProfiles, m_cmykSourceProfiles, m_cmykDestinationProfiles;
+    quint32 m_selectedRgbSourceProfile = 0, m_selectedCmykSourceProfile = 0,
+            m_selectedCmykDestinationProfile = 0;
     quint32 m_renderingIntent = 0;
     QString m_snmpUnavailableReason;
     bool m_snmpEnabled = true;

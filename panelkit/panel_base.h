@@ -4,13 +4,12 @@
 #pragma once
 
 #include "panelkit/panel_protocols.h"
+#include "panelkit/slider_notifications.h"
 #include "platform/key_value_object.h"
 #include "platform/layout_loader.h"
 #include "platform/panel_extras.h"
 
 #include <QMap>
-#include <QPointer>
-#include <QSlider>
 #include <QStringList>
 #include <QVariant>
 
@@ -20,9 +19,6 @@
 class QVPDEManager_M880;
 
 extern const QString QVOptionChangedNotification; // "QVOptionChanged"
-
-// Maps observed key paths to sliders; used only on the slider path of older hosts.
-using SliderRegistry = QMap<QString, QPointer<QSlider>>;
 
 // Base class of all panels: pending choices of PPD options as keyed values, the layout, save, restore,
 // summary. For an option keyword K it has the keys K (the choice keyword), K + "Choices" (list of choice
@@ -51,23 +47,19 @@ public:
     // Runs on the first use of a panel class; repeated calls have no effect.
     static void initialize();
     // Loads choice lists and, for a class that implements QVPDELoading_M880, the layout. False without a
-    // manager. Raises Exception if the layout is missing or does not match. Overrides must call this function
-    // first.
+    // manager. Raises Exception if the layout is missing or does not match. Overrides must call this first.
     virtual bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager);
 
     const std::shared_ptr<QVPDEManager_M880> &manager() const { return m_manager; }
     void setManager(std::shared_ptr<QVPDEManager_M880> manager);
     QString panelName() override;
     void setPanelName(const QString &name);
-    // The help page of the bundle whose name is the last part of the panel's kind.
-    QString helpText() override;
-    // One or two sentences that explain an option or key: the bundle's text for its name and "?". Null if
-    // there is none.
+    QString helpText() override; // the help page that is called as the last part of the panel's kind
+    // One or two sentences on an option or key: the bundle's text for its name and "?"; null without one.
     QString explanationForKey(const QString &key) const;
     QString panelKind() override { return m_panelKind; }
     void setPanelKind(const QString &kind);
-    // Sets the kind "com.kelmar.pde." + identifier.
-    void setPanelIdentifier(const QString &identifier);
+    void setPanelIdentifier(const QString &identifier); // sets the kind "com.kelmar.pde." + identifier
     QWidget *panelView() override { return m_view; }
     QStringList supportedPPDOptionKeys() override { return m_supportedPPDOptionKeys.value_or(QStringList()); }
     void setSupportedPPDOptionKeys(const QStringList &keys);

@@ -3,6 +3,8 @@
 
 #include "panelkit/slider_notifications.h"
 
+#include "panelkit/panel_base.h"
+
 #if KELMAR_OLDER_HOSTS
 
 #include "platform/binding.h"

@@ -3,11 +3,17 @@
 
 #pragma once
 
-#include "panelkit/panel_base.h"
+#include <QMap>
+#include <QPointer>
+#include <QSlider>
 
 #include <memory>
 
+class QVPDE_M880;
 class QWidget;
+
+// Maps observed key paths to sliders; used only on the slider path of older hosts.
+using SliderRegistry = QMap<QString, QPointer<QSlider>>;
 
 // Hosts older than Darwin 9.0 do not drive sliders by bindings, so there the panel drives them. On newer
 // systems, and in builds without KELMAR_OLDER_HOSTS, the two panel-level functions do nothing and return

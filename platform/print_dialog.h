@@ -62,8 +62,7 @@ class KELMAR_PLATFORM_EXPORT PanelProblemHost
 {
 public:
     virtual ~PanelProblemHost();
-    // The panel of this class is missing from the dialog. `reason` is plain text that names the cause and its
-    // place.
+    // The panel of this class is missing from the dialog. `reason` is plain text that names cause and place.
     virtual void panelFailed(const QString &className, const QString &reason) = 0;
 };
 
@@ -74,8 +73,7 @@ class KELMAR_PLATFORM_EXPORT BlockingWork
 public:
     BlockingWork(PrintDialogHost *host, const QString &what);
     ~BlockingWork();
-    BlockingWork(const BlockingWork &) = delete;
-    BlockingWork &operator=(const BlockingWork &) = delete;
+    Q_DISABLE_COPY(BlockingWork)
 
 private:
     BlockingWorkHost *m_host;
