@@ -7,7 +7,6 @@
 #include "host/preview/pdf_writer.h"
 #include "host/printing/opened_printer.h"
 #include "host/printing/preset_store.h"
-#include "host/session/chosen_settings.h"
 #include "host/session/preset_settings.h"
 #include "host/session/printed_pages.h"
 #include "host/session/setting_keys.h"
@@ -72,7 +71,7 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintE
         setting.isSecret = assignment.isSecret();
         if (choose(session, setting, error))
             continue;
-        if (!assignment.passOn && !SettingKeys(session).knows(setting.key))
+        if (!assignment.passOn && !hasSetting(*session, setting.key))
             error->message += QLatin1Char(' ') + BatchText::tr("--list-options lists what there is.");
         return false;
     }
@@ -135,7 +134,7 @@ ExitCode BatchRun::prepare()
         m_result.hasOptions = true;
         for (const QString &keyword : m_session->ppd() ? m_session->ppd()->optionKeywords() : QStringList())
             m_result.options.append(listed(*m_session, keyword));
-        m_result.panelKeys = SettingKeys(m_session.get()).panelKeys();
+        m_result.panelKeys = settingKeys(*m_session);
     }
     if (const QString gap = m_session->protectionGap(); !gap.isNull()) {
         if (mayNotPrintWithProtectionGap())

@@ -28,6 +28,11 @@ public:
 
     bool isEmpty() const { return m_choices.isEmpty(); }
     const QMap<QString, QString> &choices() const { return m_choices; } // by keyword
+    // Whether an option, in the PPD's spelling, is not fixed or is fixed to this choice.
+    bool allows(const QString &keyword, const QString &choice) const
+    {
+        return m_choices.value(keyword, choice) == choice;
+    }
     // The fixed choice of an option; null if the option is not fixed.
     QString choice(const QString &keyword) const { return m_choices.value(keyword); }
 

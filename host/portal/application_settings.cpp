@@ -19,23 +19,14 @@ const QString pageSize = QStringLiteral("PageSize");
 void mark(const QString &name, const QString &value, DialogSession *session)
 {
     PpdDocument *ppd = session->ppd();
-    const PrintError refusal = session->locks().refusal(ppd, name, value);
-    if (refusal && ppd->takesOption(name) && !ppd->isInstallable(name))
-        session->addNotice(refusal.message);
-    if (refusal)
+    if (!ppd->takesOption(name) || ppd->isInstallable(name))
         return;
-    if (ppd->hasOption(name)) {
-        if (!ppd->isInstallable(name) && session->markChoice(name, value) && session->isSecret(name)) {
-            // A digit is set even if it is the printer's default.
-            ChosenSetting digit{name, value};
-            digit.isSecret = true;
-            session->noteChosen(digit);
-        }
+    if (const PrintError refusal = session->locks().refusal(ppd, name, value)) {
+        session->addNotice(refusal.message);
         return;
     }
-    if (!ppd->takesOption(name))
-        return;
-    const QMap<QString, QString> choices = ppd->standardChoices(name, value);
+    const QMap<QString, QString> choices =
+        ppd->hasOption(name) ? QMap<QString, QString>{{name, value}} : ppd->standardChoices(name, value);
     for (auto it = choices.begin(); it != choices.end(); ++it)
         session->markChoice(it.key(), it.value());
 }

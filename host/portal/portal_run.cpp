@@ -11,7 +11,7 @@
 #include "host/preview/page_counter.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/option_text.h"
-#include "host/session/chosen_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/jobs/desktop_notice.h"
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/desktop_contrast.h"

@@ -4,6 +4,7 @@
 #include "host/session/carry_over.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
 

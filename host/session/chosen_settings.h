@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "host/printing/print_error.h"
-
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -48,10 +46,5 @@ private:
 
 // The setting with its display text in this session.
 ChosenSetting inWords(const DialogSession &session, ChosenSetting setting);
-
-// Makes a choice in a session as the user would, and records it. A job option that is unknown to the PPD and
-// the panels is sent unchanged. False with a localised error, and without a change, if the printer does not
-// accept it.
-bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
 } // namespace host

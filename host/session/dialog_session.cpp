@@ -118,8 +118,7 @@ void DialogSession::tellForbidden(const PrintError &refusal)
 {
     if (!m_brokenLock)
         m_brokenLock = refusal;
-    if (!m_notices.contains(refusal.message))
-        addNotice(refusal.message);
+    addNotice(refusal.message);
 }
 
 // The settings of a locked page are the printer's defaults with the policy applied.
@@ -235,20 +234,37 @@ QStringList DialogSession::otherKeywords() const
     return others;
 }
 
+// All requests end here, whether they come from a control, a preset, an application, the command line or a
+// proposal: for locks, the spelling of the PPD, custom values, and the record of what was chosen.
+bool DialogSession::mark(ChosenSetting *setting)
+{
+    const auto option = m_ppd ? m_ppd->option(setting->key) : std::nullopt;
+    if (!option)
+        return false;
+    setting->key = option->keyword;
+    setting->value = option->spelled(setting->value);
+    if (!m_locks.allows(setting->key, setting->value) || !m_ppd->mark(setting->key, setting->value))
+        return false;
+    noteChosen(*setting);
+    return true;
+}
+
 bool DialogSession::markChoice(const QString &keyword, const QString &choice, bool isSecret)
 {
-    const QString locked = m_locks.choice(keyword);
-    const int owner = panelOfKeyword(keyword);
-    const bool isFixed = (!locked.isNull() && locked != choice) || (owner >= 0 && isPanelLocked(owner));
-    if (!m_ppd || isFixed || !m_ppd->mark(keyword, choice))
-        return false;
-    m_lastUserKeyword = keyword;
     ChosenSetting setting{keyword, choice};
     setting.isSecret = isSecret;
-    noteChosen(setting);
-    m_panels.set(keyword, choice);
+    if (!mark(&setting))
+        return false;
+    m_lastUserKeyword = setting.key;
+    m_panels.set(setting.key, setting.value);
     settle();
     return true;
+}
+
+void DialogSession::addNotice(const QString &notice)
+{
+    if (!m_notices.contains(notice))
+        m_notices.append(notice);
 }
 
 void DialogSession::noteChosen(ChosenSetting setting)
@@ -289,20 +305,18 @@ bool DialogSession::lacksProtection() const
 
 void DialogSession::apply(const Resolution &resolution)
 {
-    Resolution allowed = resolution;
-    allowed.removeIf([this](const OptionChoice &change) {
-        const PrintError refusal = m_locks.refusal(m_ppd.get(), change.option, change.choice);
-        if (refusal && !m_notices.contains(refusal.message))
+    QList<ChosenSetting> made;
+    for (const OptionChoice &change : resolution) {
+        ChosenSetting setting{change.option, change.choice};
+        if (const PrintError refusal = m_locks.refusal(m_ppd.get(), change.option, change.choice))
             addNotice(refusal.message);
-        return static_cast<bool>(refusal);
-    });
-    for (const OptionChoice &change : std::as_const(allowed)) {
-        m_ppd->mark(change.option, change.choice);
-        m_savedKeywords.insert(change.option);
-        noteChosen({change.option, change.choice});
+        else if (mark(&setting))
+            made.append(setting);
     }
-    for (const OptionChoice &change : std::as_const(allowed))
-        m_panels.set(change.option, change.choice);
+    for (const ChosenSetting &setting : std::as_const(made)) {
+        m_savedKeywords.insert(setting.key);
+        m_panels.set(setting.key, setting.value);
+    }
     save();
     Q_EMIT changed();
 }

@@ -93,7 +93,7 @@ public:
     void apply(const Resolution &resolution);
     // Changes that the user did not request, and errors, since the last call. Localised.
     QStringList takeNotices();
-    void addNotice(const QString &notice) { m_notices.append(notice); }
+    void addNotice(const QString &notice);
 
     // Describes what is missing for the chosen protection: a code for private printing, or the reverse. Null
     // if nothing is missing.
@@ -124,6 +124,9 @@ Q_SIGNALS:
 private:
     friend class StateKeeper; // sets values that front ends must not set
 
+    // Marks a choice in the PPD and notes it; the setting comes back in the PPD's spelling. Panels do not
+    // follow yet. False when the PPD does not have the choice, or the policy has fixed another one.
+    bool mark(ChosenSetting *setting);
     void panelKeyChanged(int panel, const QString &key);
     void keepLocked(int panel, const QString &key);
     void leaveOutForbidden();

@@ -19,20 +19,12 @@ bool changes(const Resolution &resolution, const QString &keyword)
                        [&](const OptionChoice &change) { return change.option == keyword; });
 }
 
-// Whether the policy forbids this choice of an option.
-bool isLockedAgainst(const DialogSession &session, const QString &keyword, const QString &choice)
-{
-    const QString locked = session.rule().lockedChoice(session.ppd(), keyword);
-    const int owner = session.panelOfKeyword(keyword);
-    return (!locked.isNull() && locked != choice) || (owner >= 0 && session.isPanelLocked(owner));
-}
-
 // The locked options that a resolution would change, with their current choices.
 QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution &resolution)
 {
     QList<OptionChoice> locks;
     for (const OptionChoice &change : resolution) {
-        if (isLockedAgainst(session, change.option, change.choice))
+        if (!session.locks().allows(change.option, change.choice))
             locks.append(session.ppd()->described(change.option, session.ppd()->markedChoice(change.option)));
     }
     return locks;
@@ -71,7 +63,7 @@ ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const 
     forced.changes = wayThatKeeps(*session, keyword, &forced.locks);
     ppd->mark(keyword, now);
     if (forced.changes.isEmpty() && forced.locks.isEmpty() &&
-        isLockedAgainst(*session, forced.obstacle.option, {}))
+        !session->locks().allows(forced.obstacle.option, {}))
         forced.locks = {forced.obstacle};
     for (const OptionChoice &change : std::as_const(forced.changes)) {
         const OptionChoice before = ppd->described(change.option, ppd->markedChoice(change.option));

@@ -5,6 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/session_state.h"
+#include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -145,18 +145,17 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
 bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
 {
     const SessionState now = stateOf(*m_session);
-    PpdDocument *ppd = m_session->ppd();
     SessionPanels &panels = m_session->m_panels;
     bool isThere = true;
     for (auto it = to.marks.begin(); it != to.marks.end(); ++it) {
         const bool differs = from.marks.value(it.key()) != it.value() && !it.value().isEmpty();
-        const QString locked = m_session->locks().choice(it.key());
-        if (!differs || (!locked.isNull() && locked != it.value()) ||
-            (now.marks.value(it.key()) == it.value() && ppd->markedChoice(it.key()) == it.value()))
+        const bool isMade =
+            now.marks.value(it.key()) == it.value() && m_session->ppd()->markedChoice(it.key()) == it.value();
+        ChosenSetting setting{it.key(), it.value()};
+        if (!differs || isMade || !m_session->mark(&setting))
             continue;
         isThere = false;
-        ppd->mark(it.key(), it.value());
-        panels.set(it.key(), it.value());
+        panels.set(setting.key, setting.value);
     }
     for (auto it = to.panelValues.begin(); it != to.panelValues.end(); ++it) {
         const auto before = from.panelValues.constFind(it.key());

@@ -4,13 +4,12 @@
 #include "host/session/setting_keys.h"
 
 #include "host/printing/option_text.h"
+#include "host/session/dialog_session.h"
 #include "host/session/page_ranges.h"
 #include "host/session/panel_values.h"
 #include "platform/key_value_object.h"
 
 #include <QCoreApplication>
-
-#include <algorithm>
 
 namespace host {
 
@@ -21,168 +20,196 @@ struct SettingText
     Q_DECLARE_TR_FUNCTIONS(SettingText)
 };
 
-PrintError badValue(const QString &message)
+const QString handlingName = QStringLiteral("multiple-document-handling");
+
+bool refuse(PrintError *error, const QString &message)
 {
-    return {PrintError::Kind::BadValue, message};
+    *error = {PrintError::Kind::BadValue, message};
+    return false;
+}
+
+// The canonical name: the case of job options and PPD options is ignored, and the page region is the page
+// size.
+QString usualName(const DialogSession &session, const QString &name)
+{
+    const QString lower = name.toLower();
+    const PpdDocument *ppd = session.ppd();
+    const QString size = QStringLiteral("PageSize");
+    if (ppd && PpdDocument::optionsOfStandardName(lower) == QStringList(size))
+        return size;
+    if (const auto option = ppd ? ppd->option(name) : std::nullopt; option && !GeneralSettings::covers(lower))
+        return option->keyword;
+    const bool isStandard = ppd && !PpdDocument::optionsOfStandardName(lower).isEmpty();
+    return isStandard || GeneralSettings::covers(lower) || PageLayoutSettings::covers(lower) ? lower : name;
+}
+
+// If the PPD has an option of the same name, that one is meant.
+bool isLayout(const DialogSession &session, const QString &key)
+{
+    return PageLayoutSettings::covers(key) && !(session.ppd() && session.ppd()->hasOption(key));
+}
+
+bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintError *error)
+{
+    if (setting.key == QLatin1String("copies")) {
+        bool ok = false;
+        const int copies = setting.value.toInt(&ok);
+        if (!ok || copies < 1 || copies > GeneralSettings::maxCopies)
+            return refuse(
+                error,
+                SettingText::tr("copies takes a number from 1 to %1.").arg(GeneralSettings::maxCopies));
+        general->copies = copies;
+        return true;
+    }
+    if (setting.key == QLatin1String("page-ranges")) {
+        QString problem;
+        const auto pages = normalizedPageRanges(setting.value, &problem);
+        if (!pages)
+            return refuse(error, setting.isSecret ? SettingText::tr("page-ranges does not take this value.")
+                                                  : problem);
+        general->pages = *pages;
+        return true;
+    }
+    const auto collate = switchValue(setting.value);
+    if (!collate)
+        return refuse(error, SettingText::tr("%1 takes True or False.").arg(setting.key));
+    general->collate = *collate;
+    return true;
+}
+
+bool setOnPanel(DialogSession *session, int panel, const ChosenSetting &setting, PrintError *error)
+{
+    platform::PrintDialogPanel *subject = session->panel(panel);
+    if (session->isPanelLocked(panel)) {
+        *error = {PrintError::Kind::NotAuthorised,
+                  SettingText::tr("“%1” cannot be changed here. %2")
+                      .arg(subject->panelName(), Policy::current().attribution())};
+        return false;
+    }
+    session->prepare(panel);
+    const QString problem = setPanelValue(subject->keyValueObject(), session->panelKeywords(panel),
+                                          *session->ppd(), setting.key, setting.value);
+    if (!problem.isEmpty())
+        return refuse(error, problem);
+    session->noteChosen(setting);
+    session->save();
+    const QString reason = subject->unavailableReason();
+    if (setting.key.contains(QLatin1Char('.')) && !reason.isNull())
+        session->addNotice(SettingText::tr("%1 is not sent with the job: %2").arg(setting.key, reason));
+    return true;
+}
+
+// "A has no choice “B”; it has C.", without B if it may be a code.
+bool refuseChoice(const DialogSession &session, const PpdOption &option, const ChosenSetting &setting,
+                  PrintError *error)
+{
+    const QString choices = choicesInWords(*session.ppd(), option.keyword);
+    return refuse(error, setting.isSecret ? SettingText::tr("%1 takes %2.").arg(option.keyword, choices)
+                                          : SettingText::tr("%1 has no choice “%2”; it has %3.")
+                                                .arg(option.keyword, setting.value, choices));
+}
+
+bool setOption(DialogSession *session, ChosenSetting setting, PrintError *error)
+{
+    const auto option = session->ppd()->option(setting.key);
+    const QString choice = option->spelled(setting.value);
+    QString problem;
+    if (option->custom && isCustomChoice(choice)) {
+        if (!option->custom->read(choice, option->keyword, &problem))
+            return refuse(error, problem);
+    } else if (!option->hasChoice(choice)) {
+        return refuseChoice(*session, *option, setting, error);
+    }
+    const int panel = session->panelOfKeyword(option->keyword);
+    if (panel < 0 || !session->isPanelLocked(panel)) {
+        *error = session->locks().refusal(session->ppd(), option->keyword, choice);
+        if (*error)
+            return false;
+    }
+    setting.key = option->keyword;
+    if (panel < 0 && session->markChoice(setting.key, choice, setting.isSecret))
+        return true;
+    if (panel < 0)
+        return refuseChoice(*session, *option, setting, error);
+    setting.value = choice;
+    return setOnPanel(session, panel, setting, error);
+}
+
+// Chooses the options that a standard name such as "media" represents.
+bool setStandardName(DialogSession *session, ChosenSetting setting, PrintError *error)
+{
+    const QMap<QString, QString> choices = session->ppd()->standardChoices(setting.key, setting.value);
+    const bool isLeftToFilters = setting.key == QLatin1String("print-color-mode");
+    if (choices.isEmpty() && !isLeftToFilters)
+        return refuse(error,
+                      setting.isSecret
+                          ? SettingText::tr("%1 does not take this value.").arg(setting.key)
+                          : SettingText::tr("%1: this printer has no “%2”.").arg(setting.key, setting.value));
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        session->markChoice(it.key(), it.value(), setting.isSecret);
+    setting.options = choices.keys();
+    session->noteChosen(setting);
+    return true;
+}
+
+bool setJobOption(DialogSession *session, const ChosenSetting &setting, PrintError *error)
+{
+    *error = session->locks().refusal(session->ppd(), setting.key, setting.value);
+    if (*error)
+        return false;
+    if (session->ppd() && session->ppd()->takesOption(setting.key))
+        return setStandardName(session, setting, error);
+    session->noteChosen(setting);
+    return true;
 }
 
 } // namespace
 
-bool SettingKeys::set(const QString &key, const QString &value, PrintError *error, bool valueIsSecret)
+bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
 {
-    m_valueIsSecret = valueIsSecret || m_session->isSecret(key);
-    if (GeneralSettings::covers(key) && key != QLatin1String("multiple-document-handling"))
-        return setGeneral(key, value, error);
-    if (isLayout(key))
-        return setLayout(key, value, error);
-    const int panel = m_session->panelOfSetting(key);
-    if (m_session->ppd() && m_session->ppd()->hasOption(key))
-        return setOption(key, value, error);
-    if (panel >= 0)
-        return setOnPanel(panel, key, value, error);
-    *error = badValue(SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
-    return false;
-}
-
-bool SettingKeys::knows(const QString &key) const
-{
-    return GeneralSettings::covers(key) || isLayout(key) ||
-           (m_session->ppd() && m_session->ppd()->hasOption(key)) || m_session->panelOfSetting(key) >= 0;
-}
-
-bool SettingKeys::setGeneral(const QString &key, const QString &value, PrintError *error)
-{
-    GeneralSettings &general = m_session->general();
-    if (key == QLatin1String("copies")) {
-        bool ok = false;
-        const int copies = value.toInt(&ok);
-        if (!ok || copies < 1 || copies > GeneralSettings::maxCopies) {
-            *error = badValue(
-                SettingText::tr("copies takes a number from 1 to %1.").arg(GeneralSettings::maxCopies));
-            return false;
-        }
-        general.copies = copies;
+    ChosenSetting setting = wanted;
+    setting.key = usualName(*session, wanted.key);
+    setting.isSecret |= session->isSecret(setting.key);
+    const QString &key = setting.key, &value = setting.value;
+    const bool isHandling = key == handlingName;
+    if (isHandling &&
+        (value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false))) {
+        session->general().collate = value == GeneralSettings::handling(true);
         return true;
     }
-    if (key == QLatin1String("page-ranges")) {
-        QString problem;
-        const auto pages = normalizedPageRanges(value, &problem);
-        if (!pages) {
-            *error = badValue(m_valueIsSecret ? SettingText::tr("page-ranges does not take this value.")
-                                              : problem);
-            return false;
-        }
-        general.pages = *pages;
-        return true;
-    }
-    const auto collate = switchValue(value);
-    if (!collate) {
-        *error = badValue(SettingText::tr("%1 takes True or False.").arg(key));
-        return false;
-    }
-    general.collate = *collate;
-    return true;
+    // The print system may accept a value that the page layout does not.
+    if (setting.kind == ChosenSetting::Kind::JobOption &&
+        (isHandling || !hasSetting(*session, key) ||
+         (isLayout(*session, key) && !PageLayoutSettings().set(key, value))))
+        return setJobOption(session, setting, error);
+    if (GeneralSettings::covers(key) && !isHandling)
+        return setGeneral(&session->general(), setting, error);
+    if (isLayout(*session, key))
+        return session->general().layout.set(key, value) ||
+               refuse(error, SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key)));
+    if (session->ppd() && session->ppd()->hasOption(key))
+        return setOption(session, setting, error);
+    if (const int panel = session->panelOfSetting(key); panel >= 0)
+        return setOnPanel(session, panel, setting, error);
+    return refuse(error, SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
 }
 
-// If the PPD has an option of the same name, that one is meant.
-bool SettingKeys::isLayout(const QString &key) const
+bool hasSetting(const DialogSession &session, const QString &key)
 {
-    return PageLayoutSettings::covers(key) && !(m_session->ppd() && m_session->ppd()->hasOption(key));
+    return GeneralSettings::covers(key) || isLayout(session, key) ||
+           (session.ppd() && session.ppd()->hasOption(key)) || session.panelOfSetting(key) >= 0;
 }
 
-bool SettingKeys::takes(const QString &key, const QString &value) const
+QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
 {
-    return !isLayout(key) || PageLayoutSettings().set(key, value);
-}
-
-bool SettingKeys::setLayout(const QString &key, const QString &value, PrintError *error)
-{
-    if (m_session->general().layout.set(key, value))
-        return true;
-    *error = badValue(SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key)));
-    return false;
-}
-
-PrintError SettingKeys::noSuchChoice(const PpdOption &option, const QString &choice) const
-{
-    const QString choices = choicesInWords(*m_session->ppd(), option.keyword);
-    if (m_valueIsSecret)
-        return badValue(SettingText::tr("%1 takes %2.").arg(option.keyword, choices));
-    return badValue(
-        SettingText::tr("%1 has no choice “%2”; it has %3.").arg(option.keyword, choice, choices));
-}
-
-bool SettingKeys::setOption(const QString &keyword, const QString &value, PrintError *error)
-{
-    const auto option = m_session->ppd()->option(keyword);
-    const QString choice = option->spelled(value);
-    const bool isKnown = option->hasChoice(choice) && !(option->custom && isCustomChoice(choice));
-    QString problem;
-    if (!isKnown && isCustomChoice(value) && option->custom) {
-        if (!option->custom->read(value, option->keyword, &problem)) {
-            *error = badValue(problem);
-            return false;
-        }
-    } else if (!isKnown) {
-        *error = noSuchChoice(*option, value);
-        return false;
-    }
-    const int panel = m_session->panelOfKeyword(option->keyword);
-    const bool isOnFreePage = panel < 0 || !m_session->isPanelLocked(panel);
-    const PrintError locked = m_session->locks().refusal(m_session->ppd(), option->keyword, choice);
-    if (isOnFreePage && locked) {
-        *error = locked;
-        return false;
-    }
-    if (panel >= 0)
-        return setOnPanel(panel, option->keyword, choice, error);
-    if (m_session->markChoice(option->keyword, choice, m_valueIsSecret))
-        return true;
-    *error = noSuchChoice(*option, value);
-    return false;
-}
-
-bool SettingKeys::setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error)
-{
-    if (m_session->isPanelLocked(panel)) {
-        *error = {PrintError::Kind::NotAuthorised,
-                  SettingText::tr("“%1” cannot be changed here. %2")
-                      .arg(m_session->panel(panel)->panelName(), Policy::current().attribution())};
-        return false;
-    }
-    m_session->prepare(panel);
-    const QString problem = setPanelValue(m_session->panel(panel)->keyValueObject(),
-                                          m_session->panelKeywords(panel), *m_session->ppd(), keyPath, value);
-    if (!problem.isEmpty()) {
-        *error = badValue(problem);
-        return false;
-    }
-    ChosenSetting setting{keyPath, value};
-    setting.isSecret = m_valueIsSecret;
-    m_session->noteChosen(setting);
-    m_session->save();
-    const QString reason = m_session->panel(panel)->unavailableReason();
-    if (keyPath.contains(QLatin1Char('.')) && !reason.isNull())
-        m_session->addNotice(SettingText::tr("%1 is not sent with the job: %2").arg(keyPath, reason));
-    return true;
-}
-
-QList<std::pair<QString, QString>> SettingKeys::panelKeys() const
-{
-    const QString general = QStringLiteral("general");
-    QList<std::pair<QString, QString>> keys = {{general, QStringLiteral("copies")},
-                                               {general, QStringLiteral("collate")},
-                                               {general, QStringLiteral("page-ranges")},
-                                               {general, QStringLiteral("number-up")},
-                                               {general, QStringLiteral("number-up-layout")},
-                                               {general, QStringLiteral("page-border")},
-                                               {general, QStringLiteral("orientation-requested")},
-                                               {general, QStringLiteral("page-set")},
-                                               {general, QStringLiteral("outputorder")},
-                                               {general, QStringLiteral("print-scaling")}};
-    for (int i = 0; i < m_session->panelCount(); ++i) {
-        for (const QString &key : m_session->settableKeysOf(i))
-            keys.append({m_session->panel(i)->panelKind(), key});
+    QList<std::pair<QString, QString>> keys;
+    for (const char *name :
+         {"copies", "collate", "page-ranges", "number-up", "number-up-layout", "page-border",
+          "orientation-requested", "page-set", "outputorder", "print-scaling"})
+        keys.append({QStringLiteral("general"), QLatin1String(name)});
+    for (int i = 0; i < session.panelCount(); ++i) {
+        for (const QString &key : session.settableKeysOf(i))
+            keys.append({session.panel(i)->panelKind(), key});
     }
     return keys;
 }

@@ -4,44 +4,28 @@
 #pragma once
 
 #include "host/printing/print_error.h"
-#include "host/session/dialog_session.h"
+#include "host/session/chosen_settings.h"
 
+#include <QList>
 #include <QString>
-#include <QStringList>
+
+#include <utility>
 
 namespace host {
 
-// Sets values by name as a user would with a control: a PPD option keyword, a key or key path of a panel, or
-// one of the general settings "copies", "collate", "page-ranges" and those of the page layout. The panel of a
-// key is restored first, set through its key-value object, and saved. Used for one sequence of settings.
-class SettingKeys
-{
-public:
-    explicit SettingKeys(DialogSession *session) : m_session(session) {}
+// Sets a setting by its name as the user would with a control, and records the choice: a PPD option keyword,
+// a key or key path of a panel, one of the general settings "copies", "collate", "page-ranges" and those of
+// the page layout, or a name of the print system. Letter case is ignored. The panel of a key is restored
+// first, set through its key-value object, and saved. A job option that is unknown to the PPD and the panels
+// is sent unchanged. False with a localised error, and without a change, if there is no such setting, the
+// value is invalid or the policy forbids it. The error never contains a value that is a code.
+bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
-    // False with a localised error, and without a change, if there is no such key or the value is invalid.
-    // The error never contains a value that is a code: that of a secret key, or of any key if `valueIsSecret`
-    // is set.
-    bool set(const QString &key, const QString &value, PrintError *error, bool valueIsSecret = false);
-    // Whether set() accepts this key, whatever the value.
-    bool knows(const QString &key) const;
-    // False for a value that the print system may accept but the page layout does not.
-    bool takes(const QString &key, const QString &value) const;
-    // The keys that can be set in addition to PPD options, as "panel kind" and "key"; "general" represents
-    // the general settings.
-    QList<std::pair<QString, QString>> panelKeys() const;
+// Whether choose() accepts this key, whatever the value.
+bool hasSetting(const DialogSession &session, const QString &key);
 
-private:
-    bool isLayout(const QString &key) const;
-    bool setLayout(const QString &key, const QString &value, PrintError *error);
-    bool setGeneral(const QString &key, const QString &value, PrintError *error);
-    bool setOption(const QString &keyword, const QString &value, PrintError *error);
-    bool setOnPanel(int panel, const QString &keyPath, const QString &value, PrintError *error);
-    // "A has no choice “B”; it has C.", without B if it may be a code.
-    PrintError noSuchChoice(const PpdOption &option, const QString &choice) const;
-
-    DialogSession *m_session;
-    bool m_valueIsSecret = false;
-};
+// The keys that can be set in addition to PPD options, as "panel kind" and "key"; "general" represents the
+// general settings.
+QList<std::pair<QString, QString>> settingKeys(const DialogSession &session);
 
 } // namespace host

@@ -309,14 +309,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>ChosenText</name>
     <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 nimmt diesen Wert nicht an.</translation>
-    </message>
-    <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
-    </message>
-    <message>
         <source>the code for “%1”</source>
         <translation>der Code für „%1“</translation>
     </message>
@@ -1504,6 +1496,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>„%1“ kann hier nicht geändert werden. %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 nimmt diesen Wert nicht an.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
     </message>
 </context>
 <context>

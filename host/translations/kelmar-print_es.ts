@@ -309,14 +309,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>ChosenText</name>
     <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 no admite este valor.</translation>
-    </message>
-    <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: esta impresora no tiene «%2».</translation>
-    </message>
-    <message>
         <source>the code for “%1”</source>
         <translation>el código de «%1»</translation>
     </message>
@@ -1504,6 +1496,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«%1» no se puede cambiar aquí. %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 no admite este valor.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: esta impresora no tiene «%2».</translation>
     </message>
 </context>
 <context>

@@ -309,14 +309,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>ChosenText</name>
     <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 n’accepte pas cette valeur.</translation>
-    </message>
-    <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1&#xa0;: cette imprimante ne connaît pas «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
         <source>the code for “%1”</source>
         <translation>le code de «&#xa0;%1&#xa0;»</translation>
     </message>
@@ -1504,6 +1496,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être modifié ici. %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 n’accepte pas cette valeur.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1&#xa0;: cette imprimante ne connaît pas «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>

@@ -309,14 +309,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>ChosenText</name>
     <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 non accetta questo valore.</translation>
-    </message>
-    <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: questa stampante non dispone di «%2».</translation>
-    </message>
-    <message>
         <source>the code for “%1”</source>
         <translation>il codice per «%1»</translation>
     </message>
@@ -1504,6 +1496,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>«%1» qui non può essere modificato. %2</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 non accetta questo valore.</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: questa stampante non dispone di «%2».</translation>
     </message>
 </context>
 <context>

@@ -309,14 +309,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>ChosenText</name>
     <message>
-        <source>%1 does not take this value.</source>
-        <translation>%1 にこの値は指定できません。</translation>
-    </message>
-    <message>
-        <source>%1: this printer has no “%2”.</source>
-        <translation>%1: このプリンターには「%2」がありません。</translation>
-    </message>
-    <message>
         <source>the code for “%1”</source>
         <translation>「%1」のコード</translation>
     </message>
@@ -1504,6 +1496,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” cannot be changed here. %2</source>
         <translation>「%1」はここでは変更できません。%2</translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation>%1 にこの値は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1: this printer has no “%2”.</source>
+        <translation>%1: このプリンターには「%2」がありません。</translation>
     </message>
 </context>
 <context>

@@ -255,8 +255,7 @@ void DialogSessionTest::keys()
     QFETCH(QString, value);
     QFETCH(QString, error);
     PrintError problem;
-    SettingKeys keys(m_session.get());
-    QCOMPARE(keys.set(key, value, &problem), error.isEmpty());
+    QCOMPARE(choose(m_session.get(), {key, value}, &problem), error.isEmpty());
     QVERIFY2(problem.message.contains(error), qPrintable(problem.message));
     QVERIFY(error.isEmpty() == (problem.kind != PrintError::Kind::BadValue));
     if (key == u"code"_s && error.isEmpty())
@@ -268,10 +267,12 @@ void DialogSessionTest::keys()
 void DialogSessionTest::refusedValueLeavesNothingBehind()
 {
     PrintError problem;
-    SettingKeys keys(m_session.get());
-    QVERIFY(keys.set(u"code"_s, u"01230"_s, &problem));
-    QVERIFY(!keys.set(u"code"_s, u"777"_s, &problem));
-    QVERIFY(!problem.message.contains(u"777"_s)); // it may be secret
+    const auto setCode = [&](const QString &value) {
+        return choose(m_session.get(), {u"code"_s, value}, &problem);
+    };
+    QVERIFY(setCode(u"01230"_s));
+    QVERIFY(!setCode(u"777"_s));
+    QVERIFY(!problem.message.contains(u"777"_s)); // it may be a secret
     QCOMPARE(m_colour->code(), u"01230"_s);
     QCOMPARE(m_balance->restored, 0); // that panel was not requested
     // A value may have changed an option before it is found to be invalid.
@@ -280,16 +281,17 @@ void DialogSessionTest::refusedValueLeavesNothingBehind()
         if (key == u"code"_s && m_colour->code() == u"99999"_s)
             m_colour->setValueForKey(u"Sepia"_s, u"ColorType"_s);
     });
-    QVERIFY(!keys.set(u"code"_s, u"99999"_s, &problem));
+    QVERIFY(!setCode(u"99999"_s));
     QCOMPARE(m_colour->valueForKey(u"ColorType"_s).toString(), u"Auto"_s);
 }
 
 void DialogSessionTest::secretValueIsNotRepeatedElsewhere()
 {
     PrintError problem;
-    SettingKeys keys(m_session.get());
-    QVERIFY(keys.set(u"Cyan"_s, u"2"_s, &problem, true)); // of a panel
-    QVERIFY(keys.set(u"Duplex"_s, u"DuplexNoTumble"_s, &problem, true));
+    for (ChosenSetting setting : {ChosenSetting{u"Cyan"_s, u"2"_s}, {u"Duplex"_s, u"DuplexNoTumble"_s}}) {
+        setting.isSecret = true;
+        QVERIFY(choose(m_session.get(), setting, &problem));
+    }
     DialogSession raw(officePrinter(u"raw"_s), nullptr);
     carryOver(*m_session, &raw);
     QCOMPARE(raw.takeNotices(), QStringList(u"This printer does not take over: Cyan Balance, Two-Sided."_s));

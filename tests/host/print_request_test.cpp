@@ -3,6 +3,7 @@
 
 #include "host/preview/page_tools.h"
 #include "host/session/chosen_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/document_box.h"

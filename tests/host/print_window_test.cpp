@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/destination.h"
-#include "host/session/chosen_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/elided_label.h"
 #include "host/window/messages/message_bar.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/session/chosen_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/print_window.h"

@@ -295,7 +295,7 @@ void ColorDialogTest::waitingIsShown_data()
         << Start([](PrintTask &task) { task.firstPage = u"color-settings-1"_s; });
     QTest::newRow("setting of the command line") << Start([](PrintTask &task) {
         task.prepare = [](DialogSession *session, PrintError *error) {
-            return SettingKeys(session).set(u"ImageType"_s, u"Advanced"_s, error);
+            return choose(session, {u"ImageType"_s, u"Advanced"_s}, error);
         };
     });
 }

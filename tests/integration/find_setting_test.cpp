@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/session/chosen_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/guide/guide_buttons.h"
 #include "host/window/guide/help_desk.h"
 #include "host/window/guide/help_page.h"
