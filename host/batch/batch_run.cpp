@@ -9,6 +9,7 @@
 #include "host/printing/preset_store.h"
 #include "host/session/preset_settings.h"
 #include "host/session/printed_pages.h"
+#include "host/session/protection_checks.h"
 #include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
@@ -136,7 +137,7 @@ ExitCode BatchRun::prepare()
             m_result.options.append(listed(*m_session, keyword));
         m_result.panelKeys = settingKeys(*m_session);
     }
-    if (const QString gap = m_session->protectionGap(); !gap.isNull()) {
+    if (const QString gap = protectionGap(*m_session); !gap.isNull()) {
         if (mayNotPrintWithProtectionGap())
             return fail({PrintError::Kind::BadValue, gap});
         m_session->addNotice(gap);
@@ -155,8 +156,9 @@ bool BatchRun::mayNotPrintWithProtectionGap() const
 {
     if (!m_arguments.batch || !m_arguments.output.isEmpty() || m_arguments.allowNoPassword)
         return false;
-    const Protection::Secret *code = m_session->missingCode();
-    return m_session->lacksProtection() || (code && m_session->locks().choice(code->option) != code->choice);
+    const Protection::Secret *code = missingCode(*m_session);
+    return !lackingProtection(*m_session).isEmpty() ||
+           (code && m_session->locks().choice(code->option) != code->choice);
 }
 
 // False if nothing would be printed.

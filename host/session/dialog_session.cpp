@@ -30,6 +30,28 @@ QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &be
         .arg(panel.panelName(), dropped.join(QStringLiteral(", ")), panel.unavailableReason());
 }
 
+// A choice that the PPD does not have is not marked, and a filter would use its own default instead. Null if
+// the PPD has all of them.
+QString unknownDefaults(const PpdDocument &ppd, const Destination &destination)
+{
+    QStringList unknown;
+    for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
+        const auto option = ppd.option(it.key());
+        if (looksLikeOptionOfAPpd(it.key()) && !ppd.takesOption(it.key()) &&
+            !destination.serverOptions.contains(it.key()))
+            unknown.append(it.key());
+        if (!option || option->choices.isEmpty() || GeneralSettings::covers(it.key()))
+            continue;
+        if (!option->hasChoice(option->spelled(it.value())) && !isCustomChoice(it.value()))
+            unknown.append(option->text);
+    }
+    return unknown.isEmpty()
+               ? QString()
+               : DialogSession::tr("Your defaults for this printer ask for choices that it does "
+                                   "not have: %1.")
+                     .arg(unknown.join(QStringLiteral(", ")));
+}
+
 } // namespace
 
 DialogSession::DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd)
@@ -39,8 +61,6 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
       m_changes(&m_panels, m_ppd.get(), &m_host.settings())
 {
     connect(&m_host, &PanelHost::changeAnnounced, this, &DialogSession::noteAnnounced);
-    connect(&m_host, &PanelHost::blockingBegan, this, &DialogSession::blockingBegan);
-    connect(&m_host, &PanelHost::blockingEnded, this, &DialogSession::blockingEnded);
     connect(&m_host, &PanelHost::failed, this, [this](const QString &reason) {
         addNotice(tr("A page of the printer's settings cannot be shown: %1").arg(reason));
     });
@@ -64,7 +84,8 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
             m_host.settings().setValue(it.key(), it.value());
     }
     m_startingGeneral = m_general = GeneralSettings::from(m_destination.options);
-    tellUnknownDefaults();
+    if (const QString unknown = m_ppd ? unknownDefaults(*m_ppd, m_destination) : QString(); !unknown.isNull())
+        addNotice(unknown);
 }
 
 DialogSession::~DialogSession()
@@ -108,17 +129,12 @@ void DialogSession::leaveOutForbidden()
             isGiven ? PrintError() : m_locks.refusal(m_ppd.get(), it.key(), it.value());
         if (!refusal)
             continue;
-        tellForbidden(refusal);
+        if (!m_brokenLock)
+            m_brokenLock = refusal;
+        addNotice(refusal.message);
         if (!m_ppd->takesOption(it.key()))
             m_destination.options.remove(it.key());
     }
-}
-
-void DialogSession::tellForbidden(const PrintError &refusal)
-{
-    if (!m_brokenLock)
-        m_brokenLock = refusal;
-    addNotice(refusal.message);
 }
 
 // The settings of a locked page are the printer's defaults with the policy applied.
@@ -139,25 +155,6 @@ void DialogSession::lockPages()
         if (!m_destination.options.contains(name))
             m_host.settings().setValue(name, {});
     }
-}
-
-// A choice that the PPD does not have is not marked, and a filter would use its own default instead.
-void DialogSession::tellUnknownDefaults()
-{
-    QStringList unknown;
-    for (auto it = m_destination.options.begin(); m_ppd && it != m_destination.options.end(); ++it) {
-        const auto option = m_ppd->option(it.key());
-        if (looksLikeOptionOfAPpd(it.key()) && !m_ppd->takesOption(it.key()) &&
-            !m_destination.serverOptions.contains(it.key()))
-            unknown.append(it.key());
-        if (!option || option->choices.isEmpty() || GeneralSettings::covers(it.key()))
-            continue;
-        if (!option->hasChoice(option->spelled(it.value())) && !isCustomChoice(it.value()))
-            unknown.append(option->text);
-    }
-    if (!unknown.isEmpty())
-        addNotice(tr("Your defaults for this printer ask for choices that it does not have: %1.")
-                      .arg(unknown.join(QStringLiteral(", "))));
 }
 
 void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
@@ -234,8 +231,8 @@ QStringList DialogSession::otherKeywords() const
     return others;
 }
 
-// All requests end here, whether they come from a control, a preset, an application, the command line or a
-// proposal: for locks, the spelling of the PPD, custom values, and the record of what was chosen.
+// All requests for a choice end here, whether they come from a control, a preset, an application, the command
+// line or a proposal. Checks locks and custom values, uses the PPD's spelling, and records the choice.
 bool DialogSession::mark(ChosenSetting *setting)
 {
     const auto option = m_ppd ? m_ppd->option(setting->key) : std::nullopt;
@@ -286,21 +283,6 @@ QList<Conflict> DialogSession::conflicts() const
 std::optional<Resolution> DialogSession::proposal(QString *givenUp) const
 {
     return m_ppd ? protectingResolution(*m_ppd, m_protection, m_lastUserKeyword, givenUp) : std::nullopt;
-}
-
-QString DialogSession::protectionGap() const
-{
-    return m_ppd ? host::protectionGap(*m_ppd, m_protection, m_chosen, m_destination) : QString();
-}
-
-const Protection::Secret *DialogSession::missingCode() const
-{
-    return m_ppd ? host::missingCode(*m_ppd, m_protection, m_chosen, m_destination) : nullptr;
-}
-
-bool DialogSession::lacksProtection() const
-{
-    return m_ppd && !lackingProtection(*m_ppd, m_protection, m_chosen, m_destination).isEmpty();
 }
 
 void DialogSession::apply(const Resolution &resolution)

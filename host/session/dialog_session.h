@@ -47,10 +47,8 @@ public:
 
     const Destination &destination() const { return m_destination; }
     PpdDocument *ppd() const { return m_ppd.get(); }
-    // The administrator's rules for this printer.
-    const Policy::Rule &rule() const { return m_rule; }
-    // The fixed settings. No setter of this class violates them.
-    const Locks &locks() const { return m_locks; }
+    const Policy::Rule &rule() const { return m_rule; } // of the administrator
+    const Locks &locks() const { return m_locks; }      // no setter of this class violates them
     // The user's default or preset setting that was ignored because of the policy; no error if there is none.
     const PrintError &brokenLock() const { return m_brokenLock; }
     bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
@@ -74,8 +72,7 @@ public:
     // the choices of their options. Those panels are not restored, since a panel may query a device that is
     // switched off.
     void prepare(int index);
-    // Saves all restored panels.
-    void save();
+    void save(); // all restored panels
     // Options of the PPD that are shown neither on the general page nor by a panel, without those for
     // installed units.
     QStringList otherKeywords() const;
@@ -95,49 +92,32 @@ public:
     QStringList takeNotices();
     void addNotice(const QString &notice);
 
-    // Describes what is missing for the chosen protection: a code for private printing, or the reverse. Null
-    // if nothing is missing.
-    QString protectionGap() const;
-    // The code that is missing for a choice, such as the password for private printing; null if none is
-    // missing.
-    const Protection::Secret *missingCode() const;
-    // Whether the initial settings protect the user in a way that the printer does not support.
-    bool lacksProtection() const;
-
     // The sections of the summary. Panels that have not been restored are notified of the choices of their
     // options first.
     QList<SummarySection> summary();
-    // The options sent with the job; see host/session/job_options.h.
-    QList<JobOption> jobOptions() const;
+    QList<JobOption> jobOptions() const; // sent with the job; see host/session/job_options.h
 
     // The job's settings other than PPD options.
     const platform::PrintSettings &printSettings() const { return m_host.settings(); }
     PanelHost *panelHost() { return &m_host; }
 
 Q_SIGNALS:
-    // There are new notices, or choices have changed outside of the shown page.
-    void changed();
-    // Emitted directly: paint now, since the thread is about to block. Calls may nest.
-    void blockingBegan(const QString &what);
-    void blockingEnded();
+    void changed(); // there are new notices, or choices have changed outside of the shown page
 
 private:
     friend class StateKeeper; // sets values that front ends must not set
 
-    // Marks a choice in the PPD and notes it; the setting comes back in the PPD's spelling. Panels do not
-    // follow yet. False when the PPD does not have the choice, or the policy has fixed another one.
+    // Marks a choice in the PPD and records it; panels are not updated. The setting is changed to the PPD's
+    // spelling. False if the PPD does not have the choice, or the policy has fixed another one.
     bool mark(ChosenSetting *setting);
     void panelKeyChanged(int panel, const QString &key);
     void keepLocked(int panel, const QString &key);
     void leaveOutForbidden();
-    void tellForbidden(const PrintError &refusal);
     void lockPages();
     void savePanel(int index);
     void noteAnnounced(const QString &keyword);
-    // Processes the changes that panels have announced, after their calls have returned.
-    void settle();
+    void settle(); // processes the changes that panels have announced, after their calls have returned
     void settleLater();
-    void tellUnknownDefaults();
 
     Policy::Rule m_rule;
     Destination m_destination;

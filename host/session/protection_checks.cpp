@@ -3,8 +3,7 @@
 
 #include "host/session/protection_checks.h"
 
-#include "host/printing/destination.h"
-#include "host/session/chosen_settings.h"
+#include "host/session/dialog_session.h"
 
 #include <QCoreApplication>
 
@@ -31,25 +30,23 @@ QString givenUpBy(const Resolution &resolution, const PpdDocument &ppd, const Pr
 }
 
 // Whether a digit is set: by the user, or in the initial settings of the dialog.
-bool isGiven(const QString &option, const PpdDocument &ppd, const ChosenSettings &chosen,
-             const Destination &destination)
+bool isGiven(const DialogSession &session, const QString &option)
 {
-    const QStringList stored = destination.options.keys();
-    return chosen.contains(option) || ppd.markedChoice(option) != ppd.defaultChoice(option) ||
-           stored.contains(option, Qt::CaseInsensitive);
+    return session.chosen().contains(option) ||
+           session.ppd()->markedChoice(option) != session.ppd()->defaultChoice(option) ||
+           session.destination().options.keys().contains(option, Qt::CaseInsensitive);
 }
 
 // Whether all digits are set, and not only to the value that means no code. An incomplete code does not
 // count.
-bool isCodeGiven(const Protection::Secret &secret, const PpdDocument &ppd, const ChosenSettings &chosen,
-                 const Destination &destination)
+bool isCodeGiven(const DialogSession &session, const Protection::Secret &secret)
 {
     const auto &options = secret.options;
-    return chosen.contains(secret.key) ||
+    return session.chosen().contains(secret.key) ||
            (std::all_of(options.begin(), options.end(),
-                        [&](const QString &option) { return isGiven(option, ppd, chosen, destination); }) &&
+                        [&](const QString &option) { return isGiven(session, option); }) &&
             std::any_of(options.begin(), options.end(), [&](const QString &option) {
-                return ppd.markedChoice(option) != ppd.defaultChoice(option);
+                return session.ppd()->markedChoice(option) != session.ppd()->defaultChoice(option);
             }));
 }
 
@@ -91,45 +88,47 @@ QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection 
     return atRisk;
 }
 
-const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
-                                      const ChosenSettings &chosen, const Destination &destination)
+const Protection::Secret *missingCode(const DialogSession &session)
 {
-    for (const Protection::Secret &secret : protection.secrets) {
-        const bool isUsed = ppd.hasOption(secret.option) && ppd.markedChoice(secret.option) == secret.choice;
-        if (isUsed && !isCodeGiven(secret, ppd, chosen, destination))
+    const PpdDocument *ppd = session.ppd();
+    for (const Protection::Secret &secret : session.protection().secrets) {
+        const bool isUsed =
+            ppd && ppd->hasOption(secret.option) && ppd->markedChoice(secret.option) == secret.choice;
+        if (isUsed && !isCodeGiven(session, secret))
             return &secret;
     }
     return nullptr;
 }
 
-QString lackingProtection(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
-                          const Destination &destination)
+QString lackingProtection(const DialogSession &session)
 {
-    for (auto it = destination.options.begin(); it != destination.options.end(); ++it) {
-        const auto option = ppd.option(it.key());
-        if (protection.protects(it.key(), it.value()) && !(option && option->hasChoice(it.value())) &&
-            !chosen.contains(it.key()))
-            return ppd.described(it.key(), it.value()).text();
+    const QMap<QString, QString> &options = session.destination().options;
+    for (auto it = options.begin(); session.ppd() && it != options.end(); ++it) {
+        const auto option = session.ppd()->option(it.key());
+        if (session.protection().protects(it.key(), it.value()) &&
+            !(option && option->hasChoice(it.value())) && !session.chosen().contains(it.key()))
+            return session.ppd()->described(it.key(), it.value()).text();
     }
     return {};
 }
 
-QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
-                      const Destination &destination)
+QString protectionGap(const DialogSession &session)
 {
-    if (const QString lacking = lackingProtection(ppd, protection, chosen, destination); !lacking.isEmpty())
+    if (const QString lacking = lackingProtection(session); !lacking.isEmpty())
         return ProtectionText::tr("This printer does not have “%1”: the job will not be protected.")
             .arg(lacking);
-    if (const Protection::Secret *missing = missingCode(ppd, protection, chosen, destination))
+    if (const Protection::Secret *missing = missingCode(session))
         return ProtectionText::tr("“%1” has been chosen, but no code has been given for it.")
-            .arg(ppd.described(missing->option, missing->choice).text());
-    for (const Protection::Secret &secret : protection.secrets) {
-        const auto option = ppd.option(secret.option);
+            .arg(session.ppd()->described(missing->option, missing->choice).text());
+    const Protection &protection = session.protection();
+    for (const Protection::Secret &secret :
+         session.ppd() ? protection.secrets : QList<Protection::Secret>()) {
+        const auto option = session.ppd()->option(secret.option);
         const bool isUsed = !option || option->markedChoice == secret.choice;
         if (!isUsed && protection.protects(secret.option, secret.choice) &&
-            option->hasChoice(secret.choice) && isChosen(chosen, secret))
+            option->hasChoice(secret.choice) && isChosen(session.chosen(), secret))
             return ProtectionText::tr("A code has been given, but not “%1”: the job is not protected.")
-                .arg(ppd.described(secret.option, secret.choice).text());
+                .arg(session.ppd()->described(secret.option, secret.choice).text());
     }
     return {};
 }

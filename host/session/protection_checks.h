@@ -10,8 +10,7 @@
 
 namespace host {
 
-class ChosenSettings;
-struct Destination;
+class DialogSession;
 
 // A resolution of the conflicts that keeps all protecting choices, and the choice of `keep` if possible. Null
 // if there is none; if other resolutions exist, `givenUp`, which may be null, is set to the protection that
@@ -23,17 +22,14 @@ std::optional<Resolution> protectingResolution(const PpdDocument &ppd, const Pro
 QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection &protection);
 
 // The code that is missing for a choice: the password for private printing, or the department code if it is
-// switched on. A code is complete if all its digits have been chosen or are in the settings of `destination`.
-// Null if none is missing; points into `protection`.
-const Protection::Secret *missingCode(const PpdDocument &ppd, const Protection &protection,
-                                      const ChosenSettings &chosen, const Destination &destination);
-// The protection in the settings of `destination`, such as a preset with private printing, that the PPD does
-// not support; empty if there is none.
-QString lackingProtection(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
-                          const Destination &destination);
+// switched on. A code is complete if all its digits have been chosen or are in the settings of the
+// destination. Null if none is missing; owned by the session.
+const Protection::Secret *missingCode(const DialogSession &session);
+// The protection in the initial settings, such as a preset with private printing, that the PPD does not
+// support; empty if there is none.
+QString lackingProtection(const DialogSession &session);
 // A description of what is missing for the chosen protection: the protection as a whole, a code, or the
 // choice that uses a code. Null if nothing is missing.
-QString protectionGap(const PpdDocument &ppd, const Protection &protection, const ChosenSettings &chosen,
-                      const Destination &destination);
+QString protectionGap(const DialogSession &session);
 
 } // namespace host

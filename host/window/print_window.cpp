@@ -290,8 +290,8 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     m_news.setChosen(m_session->destination());
     showSession();
     // After the book, which shows on its page what is awaited before the window is painted.
-    connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
-    connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
+    connect(m_session->panelHost(), &PanelHost::blockingBegan, &m_wait, &PanelWait::begin);
+    connect(m_session->panelHost(), &PanelHost::blockingEnded, &m_wait, &PanelWait::end);
     showState(State::Choosing);
     if (focusWidget() == m_cancel) // the waiting page had moved the focus to Cancel
         m_book->list()->setFocus(Qt::OtherFocusReason);

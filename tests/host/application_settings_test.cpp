@@ -3,6 +3,7 @@
 
 #include "host/portal/application_settings.h"
 #include "host/portal/stored_job.h"
+#include "host/session/protection_checks.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/paths.h"
 
@@ -212,7 +213,7 @@ void ApplicationSettingsTest::privatePrintingWithoutACode()
         {u"privatePassword"_s, {u"DINDigit1"_s, u"DINDigit5"_s}, u"PrintMode"_s, u"Private"_s});
     session->setProtection(protection);
     beginWith(startingSettings(settings, {}), session.get());
-    QTEST(!session->protectionGap().isNull(), "isMissing");
+    QTEST(!protectionGap(*session).isNull(), "isMissing");
 }
 
 void ApplicationSettingsTest::madePagesAreAllPrinted()

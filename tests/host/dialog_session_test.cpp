@@ -391,8 +391,8 @@ void DialogSessionTest::secretSettings()
 
 void DialogSessionTest::blockingWorkIsAnnounced()
 {
-    QSignalSpy began(m_session.get(), &DialogSession::blockingBegan);
-    QSignalSpy ended(m_session.get(), &DialogSession::blockingEnded);
+    QSignalSpy began(m_session->panelHost(), &PanelHost::blockingBegan);
+    QSignalSpy ended(m_session->panelHost(), &PanelHost::blockingEnded);
     {
         const platform::BlockingWork work(m_session->panelHost(), u"Asking the printer"_s);
         QCOMPARE(began.size(), 1);

@@ -17,11 +17,6 @@ namespace {
 using Subject = MessageQueue::Subject;
 using Purpose = ConflictQuestion::Purpose;
 
-const Protection::Secret *missingCode(const DialogSession *session)
-{
-    return session ? session->missingCode() : nullptr;
-}
-
 } // namespace
 
 SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp)
@@ -59,7 +54,7 @@ bool SessionMessages::check()
     if (!m_session)
         return false;
     showNotices();
-    if (!missingCode(m_session))
+    if (!missingCode(*m_session))
         m_messages->withdraw(Subject::Code);
     return askAboutConflicts(m_purpose) || tellGap();
 }
@@ -118,7 +113,7 @@ bool SessionMessages::isCodeToBeSeenTo()
 // A job that requires a code is not sent without it unless the user confirms that.
 bool SessionMessages::askForCode()
 {
-    const Protection::Secret *secret = missingCode(m_session);
+    const Protection::Secret *secret = missingCode(*m_session);
     if (!secret)
         return false;
     const bool protects = m_session->protection().protects(secret->option, secret->choice);
@@ -141,7 +136,7 @@ bool SessionMessages::askForCode()
 // Reports each gap once; true if it was reported now.
 bool SessionMessages::tellGap()
 {
-    const QString gap = m_session->protectionGap();
+    const QString gap = protectionGap(*m_session);
     if (std::exchange(m_toldGap, gap) == gap || gap.isNull())
         return false;
     m_session->addNotice(gap);

@@ -170,7 +170,8 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     clear();
     m_session = session;
     m_history = history;
-    connect(session, &DialogSession::blockingBegan, this, &PageBook::showWaiting, Qt::UniqueConnection);
+    connect(session->panelHost(), &PanelHost::blockingBegan, this, &PageBook::showWaiting,
+            Qt::UniqueConnection);
     addPage(tr("General"), generalName);
     const Policy::Rule &rule = session->rule();
     const auto hidesAll = [&rule](const QStringList &keywords) {
