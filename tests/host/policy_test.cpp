@@ -1,27 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/batch/batch_run.h"
-#include "host/policy/policy_print_system.h"
 #include "host/session/preset_settings.h"
 #include "host/window/guide/search_bar.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "platform/choice_box.h"
 #include "platform/key_value_object.h"
-#include "tests/host/window_fixture.h"
-#include "tests/support/paths.h"
+#include "tests/host/policy_fixture.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
 using namespace host;
 using namespace Qt::StringLiterals;
 
-class PolicyTest : public WindowFixture
+class PolicyTest : public PolicyFixture
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -49,62 +43,7 @@ private Q_SLOTS:
     void lockedChoiceIsNotGivenUp();
     void panelKeepsWhatIsLocked();
     void panelHidesOptions();
-
-private:
-    static Policy lay(const QByteArray &json) // the policy of this test
-    {
-        QString error;
-        const auto policy = Policy::parse(json, u"policy.json"_s, &error);
-        if (!policy)
-            qFatal("%s", qPrintable(error));
-        Policy::setCurrent(*policy);
-        return *policy;
-    }
-    bool showsDialog(PrintSystem &system, Extensions &extensions)
-    {
-        PrintTask task;
-        task.files = {m_document.fileName()};
-        m_window = std::make_unique<PrintWindow>(system, extensions, task);
-        PrintError error;
-        const bool opened = m_window->open(&error);
-        m_window->show();
-        return opened && QTest::qWaitForWindowActive(m_window.get());
-    }
-    bool shows(const QString &text) const // visibly
-    {
-        const auto labels = m_window->findChildren<QLabel *>();
-        return std::any_of(labels.begin(), labels.end(), [&](const QLabel *label) {
-            return label->isVisible() && label->text().contains(text) && label->textFormat() == Qt::PlainText;
-        });
-    }
-    int print(PrintSystem &system, Extensions &extensions, const QStringList &words);
-
-    void useFamily(const QString &model = u"kelm880"_s) // its PPD for the queue "office", and the real panels
-    {
-        QFile ppd(buildPath("/ppds/") + model + u".ppd"_s);
-        QVERIFY(ppd.open(QIODevice::ReadOnly));
-        (void)ppd.readLine(); // the fixture adds it
-        m_system.ppds[u"office"_s] = ppd.readAll();
-        m_system.printers.first().deviceUri = u"file:/dev/null"_s; // a device that is never queried
-    }
-
-    const QString m_bundle = buildPath("/bin/OrbM880.bundle");
-    QByteArray m_said;
 };
-
-int PolicyTest::print(PrintSystem &system, Extensions &extensions, const QStringList &words)
-{
-    QString error;
-    const auto arguments = parseArguments(
-        QStringList{u"kelmar-print"_s, u"--batch"_s} + words + QStringList(m_document.fileName()), &error);
-    QBuffer out, err;
-    out.open(QIODevice::WriteOnly);
-    err.open(QIODevice::WriteOnly);
-    ResultWriter writer(&out, &err);
-    const int code = BatchRun(*arguments, system, extensions).run(&writer);
-    m_said = err.data();
-    return code;
-}
 
 void PolicyTest::errorsNameThePlace_data()
 {

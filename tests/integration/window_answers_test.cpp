@@ -5,25 +5,17 @@
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
-#include "host/window/print_window.h"
 #include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/waiting/wait_sign.h"
 #include "host/window/waiting/waiting_page.h"
-#include "platform/background.h"
 #include "platform/unique_fd.h"
-#include "tests/support/heartbeat.h"
-#include "tests/support/paths.h"
-#include "tests/support/private_cupsd.h"
-#include "tests/support/private_network.h"
+#include "tests/integration/answers_fixture.h"
 #include "tests/support/silent_socket.h"
-#include "tests/support/stalling_proxy.h"
 
 #include <QComboBox>
 #include <QFrame>
-#include <QPushButton>
 #include <QSettings>
-#include <QTest>
 
 #include <csignal>
 #include <fcntl.h>
@@ -31,35 +23,6 @@
 
 using namespace host;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Milliseconds. Sanitizers make the program several times slower.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr qint64 longestGap = 1500;
-constexpr qint64 longestReaction = 3000;
-#else
-constexpr qint64 longestGap = 100;
-constexpr qint64 longestReaction = 200;
-#endif
-constexpr int manyQueues = 700;
-
-const QString document = sourcePath("/demo/report.pdf");
-const QString familyPpd = buildPath("/ppds/kelm880.ppd");
-
-// Raw queues in the format of the server's configuration.
-QByteArray queueList(int count)
-{
-    QByteArray text;
-    for (int i = 0; i < count; ++i)
-        text += QStringLiteral("<Printer floor-%1>\nInfo Printer %1\nLocation Room %1\nDeviceURI capture:/\n"
-                               "State Idle\nAccepting Yes\nShared No\n</Printer>\n")
-                    .arg(i)
-                    .toUtf8();
-    return text;
-}
-
-} // namespace
 
 // The user's action, and the requests that the server must have received by then.
 enum class Stage { Opening, Listing, Sending, Following };
@@ -69,13 +32,17 @@ Q_DECLARE_METATYPE(Way)
 
 // The dialog with its bundle, while a print server, a device or a name server does not respond: the dialog's
 // thread remains responsive, and the user can always stop waiting.
-class WindowAnswersTest : public QObject
+class WindowAnswersTest : public AnswersFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase() { startServer(); }
+    void init()
+    {
+        m_heart.emplace();
+        m_file = sourcePath("/demo/report.pdf");
+    }
+    void cleanup() { checkGap(); }
     void serverNeverAnswers_data();
     void serverNeverAnswers();
     void serverStopsAnswering_data();
@@ -89,129 +56,7 @@ private Q_SLOTS:
     void deviceIsSilent();
     void printerArrivesWhileAPanelWaits();
     void manyQueuesLoad();
-
-private:
-    void lengthenDocument();
-    void open(const QString &printer = u"office"_s, CupsPrintSystem *system = nullptr);
-    QPushButton *button(const QString &text) const;
-    // Clicks, and waits for the result, which must not take noticeably long.
-    template <typename Condition>
-    void clickUntil(QWidget *target, Condition done, const char *what);
-    template <typename W>
-    W *find(const char *name = "") const
-    {
-        return m_window->findChild<W *>(QString::fromLatin1(name));
-    }
-
-    PrivateCupsd m_server;
-    std::optional<StallingProxy> m_proxy;
-    CupsPrintSystem m_system;
-    CupsPrintSystem m_hasty{ServerPatience{10'000, 1'000, 200}}; // milliseconds
-    CupsPrintSystem m_patient{ServerPatience{10'000, 4'000, 200}};
-    QString m_file; // what is printed
-    Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
-    std::unique_ptr<PrintWindow> m_window;
-    std::optional<Heartbeat> m_heart;
 };
-
-void WindowAnswersTest::initTestCase()
-{
-    if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
-        QSKIP(qPrintable(missing));
-    // The name server is also on the loopback interface.
-    QFile resolver(m_server.folder() + u"/resolv.conf"_s);
-    QVERIFY(resolver.open(QIODevice::WriteOnly) &&
-            resolver.write("nameserver 127.0.0.53\noptions timeout:1 attempts:1\n") > 0);
-    resolver.close();
-    if (const QString whyNot = enterPrivateNetworkWithFiles({{resolver.fileName(), u"/etc/resolv.conf"_s}},
-                                                            u"/run/avahi-daemon"_s);
-        !whyNot.isNull())
-        QSKIP(qPrintable(whyNot));
-    QVERIFY(QDir(m_server.folder()).mkdir(u"etc"_s));
-    QFile queues(m_server.folder() + u"/etc/printers.conf"_s);
-    QVERIFY(queues.open(QIODevice::WriteOnly) && queues.write(queueList(manyQueues)) > 0);
-    queues.close();
-    QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    qputenv("HOME", m_server.folder().toLocal8Bit());
-    for (const auto &[queue, address] : {std::pair(u"office"_s, u"127.0.0.2"_s),
-                                         {u"attic"_s, u"orb-m880.example"_s},
-                                         {u"halted"_s, u"127.0.0.2"_s}})
-        QVERIFY2(m_server.addQueue(queue, familyPpd, u"socket://%1:9100"_s.arg(address)),
-                 qPrintable(m_server.problem()));
-    QVERIFY(m_server.setPaused(u"halted"_s, true)); // its jobs do not end
-    // Otherwise the server would list all queues, which takes seconds, if no queue is named.
-    QVERIFY(m_server.setDefaultQueue(u"office"_s));
-    QString problem;
-    m_proxy.emplace(m_server.folder() + u"/slow.sock"_s, m_server.socketPath(), &problem);
-    QVERIFY2(m_proxy->isRunning(), qPrintable(problem));
-    qputenv("CUPS_SERVER", m_proxy->socketPath().toLocal8Bit());
-    m_file = document;
-    open(); // work that is done once per program is not measured
-    QTRY_VERIFY(m_window->session());
-    m_window.reset();
-}
-
-void WindowAnswersTest::init()
-{
-    m_heart.emplace();
-    m_file = document;
-}
-
-// Longer than the server's socket can buffer.
-void WindowAnswersTest::lengthenDocument()
-{
-    m_file = m_server.folder() + u"/long.pdf"_s;
-    QFile::remove(m_file);
-    QVERIFY(QFile::copy(document, m_file) && QFile::resize(m_file, 4'000'000));
-}
-
-void WindowAnswersTest::cleanup()
-{
-    if (!m_heart)
-        return;
-    const qint64 gap = m_heart->longestGap();
-    m_heart.reset();
-    m_window.reset();
-    if (m_proxy)
-        QVERIFY(m_proxy->command("pass"));
-    QTRY_VERIFY_WITH_TIMEOUT(!platform::Background::isUnderWay(), 20'000);
-    QCoreApplication::processEvents();
-    qInfo("longest gap %lld ms", gap);
-    QVERIFY2(gap < longestGap, qPrintable(u"the window did not answer for %1 ms"_s.arg(gap)));
-}
-
-void WindowAnswersTest::open(const QString &printer, CupsPrintSystem *system)
-{
-    PrintTask task;
-    task.files = {m_file};
-    task.printer = printer;
-    m_window = std::make_unique<PrintWindow>(system ? *system : m_system, m_extensions, task);
-    PrintError error;
-    QVERIFY2(m_window->open(&error), qPrintable(error.message));
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    m_window->finishLater();
-}
-
-QPushButton *WindowAnswersTest::button(const QString &text) const
-{
-    for (auto *button : m_window->findChildren<QPushButton *>()) {
-        if (button->isVisible() && button->text().remove(u'&') == text)
-            return button;
-    }
-    return nullptr;
-}
-
-template <typename Condition>
-void WindowAnswersTest::clickUntil(QWidget *target, Condition done, const char *what)
-{
-    QVERIFY2(target && target->isVisible() && target->isEnabled(), what);
-    const ThreadClock clock;
-    QTest::mouseClick(target, Qt::LeftButton);
-    QVERIFY2(QTest::qWaitFor(done, 10'000), what);
-    const qint64 reaction = clock.milliseconds();
-    QVERIFY2(reaction < longestReaction, qPrintable(u"%1: %2 ms"_s.arg(QLatin1String(what)).arg(reaction)));
-}
 
 void WindowAnswersTest::serverNeverAnswers_data()
 {
