@@ -26,13 +26,14 @@ int countIn(const QString &pageSet, int first, int last)
 // overlap.
 int chosenSides(const GeneralSettings &general, int sides)
 {
+    const QString pageSet = general.layout.value(QStringLiteral("page-set"));
     if (general.pages.isEmpty())
-        return countIn(general.layout.pageSet, 1, sides);
+        return countIn(pageSet, 1, sides);
     int chosen = 0;
     for (const QString &range : general.pages.split(QLatin1Char(','))) {
         const QString first = range.section(QLatin1Char('-'), 0, 0);
         const QString last = range.contains(QLatin1Char('-')) ? range.section(QLatin1Char('-'), 1) : first;
-        chosen += countIn(general.layout.pageSet, std::max(1, first.toInt()),
+        chosen += countIn(pageSet, std::max(1, first.toInt()),
                           last.isEmpty() ? sides : std::min(sides, last.toInt()));
     }
     return chosen;
@@ -44,7 +45,7 @@ JobCost jobCost(const GeneralSettings &general, bool isTwoSided, const QList<int
 {
     JobCost cost;
     for (const int count : pages) {
-        const int perSide = general.layout.pagesPerSide;
+        const int perSide = general.layout.pagesPerSide();
         const int sides = chosenSides(general, (count + perSide - 1) / perSide);
         cost.sides += sides * general.copies;
         cost.sheets += (isTwoSided ? (sides + 1) / 2 : sides) * general.copies;

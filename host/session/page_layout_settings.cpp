@@ -10,192 +10,191 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 namespace {
-
-using Kind = JobOption::Kind;
 
 struct LayoutText
 {
     Q_DECLARE_TR_FUNCTIONS(LayoutText)
 };
 
-const QString numberUp = QStringLiteral("number-up");
-const QString numberUpLayout = QStringLiteral("number-up-layout");
-const QString pageBorder = QStringLiteral("page-border");
-const QString orientationRequested = QStringLiteral("orientation-requested");
-const QString pageSetName = QStringLiteral("page-set");
-const QString outputOrder = QStringLiteral("outputorder");
-const QString printScaling = QStringLiteral("print-scaling");
-// Older names for a value of another option.
-const QString landscape = QStringLiteral("landscape");
-const QString fitToPage = QStringLiteral("fit-to-page");
-const QString fitPlot = QStringLiteral("fitplot");
-
-const QString fit = QStringLiteral("fit");
-const QString landscapeValue = QStringLiteral("4");
-
-struct ValueText
+// To add a setting, add a row here, its values below, and a control in LayoutForm.
+struct Setting
 {
-    const char *name;
-    const char *value;
+    QLatin1String name;
+    QLatin1String usual; // the print system's default; empty for that of each document
+    QLatin1String sent;  // to the server in place of an empty value
     const char *text;
 };
 
-constexpr std::array valueTexts = {
-    ValueText{"number-up-layout", "lrtb", QT_TRANSLATE_NOOP("LayoutText", "Left to right, then down")},
-    ValueText{"number-up-layout", "lrbt", QT_TRANSLATE_NOOP("LayoutText", "Left to right, then up")},
-    ValueText{"number-up-layout", "rltb", QT_TRANSLATE_NOOP("LayoutText", "Right to left, then down")},
-    ValueText{"number-up-layout", "rlbt", QT_TRANSLATE_NOOP("LayoutText", "Right to left, then up")},
-    ValueText{"number-up-layout", "tblr", QT_TRANSLATE_NOOP("LayoutText", "Down, then left to right")},
-    ValueText{"number-up-layout", "tbrl", QT_TRANSLATE_NOOP("LayoutText", "Down, then right to left")},
-    ValueText{"number-up-layout", "btlr", QT_TRANSLATE_NOOP("LayoutText", "Up, then left to right")},
-    ValueText{"number-up-layout", "btrl", QT_TRANSLATE_NOOP("LayoutText", "Up, then right to left")},
-    ValueText{"page-border", "none", QT_TRANSLATE_NOOP("LayoutText", "None")},
-    ValueText{"page-border", "single", QT_TRANSLATE_NOOP("LayoutText", "Thin line")},
-    ValueText{"page-border", "single-thick", QT_TRANSLATE_NOOP("LayoutText", "Thick line")},
-    ValueText{"page-border", "double", QT_TRANSLATE_NOOP("LayoutText", "Two thin lines")},
-    ValueText{"page-border", "double-thick", QT_TRANSLATE_NOOP("LayoutText", "Two thick lines")},
-    ValueText{"orientation-requested", "", QT_TRANSLATE_NOOP("LayoutText", "As in the document")},
-    ValueText{"orientation-requested", "3", QT_TRANSLATE_NOOP("LayoutText", "Portrait")},
-    ValueText{"orientation-requested", "4", QT_TRANSLATE_NOOP("LayoutText", "Landscape")},
-    ValueText{"orientation-requested", "5", QT_TRANSLATE_NOOP("LayoutText", "Landscape, turned around")},
-    ValueText{"orientation-requested", "6", QT_TRANSLATE_NOOP("LayoutText", "Portrait, turned around")},
-    ValueText{"page-set", "all", QT_TRANSLATE_NOOP("LayoutText", "Odd and even pages")},
-    ValueText{"page-set", "odd", QT_TRANSLATE_NOOP("LayoutText", "Odd pages only")},
-    ValueText{"page-set", "even", QT_TRANSLATE_NOOP("LayoutText", "Even pages only")},
-    ValueText{"print-scaling", "", QT_TRANSLATE_NOOP("LayoutText", "Automatic")},
-    ValueText{"print-scaling", "auto", QT_TRANSLATE_NOOP("LayoutText", "Shrink to the page or cut off")},
-    ValueText{"print-scaling", "auto-fit", QT_TRANSLATE_NOOP("LayoutText", "Shrink to the page")},
-    ValueText{"print-scaling", "fit", QT_TRANSLATE_NOOP("LayoutText", "Fit to the page")},
-    ValueText{"print-scaling", "fill", QT_TRANSLATE_NOOP("LayoutText", "Fill the page")},
-    ValueText{"print-scaling", "none", QT_TRANSLATE_NOOP("LayoutText", "Actual size")},
+constexpr std::array settings = {
+    Setting{"number-up"_L1, "1"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Pages per side")},
+    Setting{"number-up-layout"_L1, "lrtb"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Order")},
+    Setting{"page-border"_L1, "none"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Border")},
+    Setting{"orientation-requested"_L1, {}, "3"_L1, QT_TRANSLATE_NOOP("LayoutText", "Orientation")},
+    Setting{"print-scaling"_L1, {}, "auto"_L1, QT_TRANSLATE_NOOP("LayoutText", "Scaling")},
+    Setting{"page-set"_L1, "all"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Odd or even")},
+    Setting{"outputorder"_L1, "normal"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Last page first")},
 };
 
-QStringList valuesOf(const QString &name)
+struct Value
 {
-    QStringList values;
-    for (const ValueText &text : valueTexts) {
-        if (name == QLatin1String(text.name) && *text.value)
-            values.append(QLatin1String(text.value));
-    }
-    return values;
+    QLatin1String name; // of the setting
+    QLatin1String value;
+    const char *text; // null if it is the value itself
+    bool isOffered = true;
+};
+
+constexpr std::array values = {
+    Value{"number-up"_L1, "1"_L1, nullptr},
+    Value{"number-up"_L1, "2"_L1, nullptr},
+    Value{"number-up"_L1, "4"_L1, nullptr},
+    Value{"number-up"_L1, "6"_L1, nullptr},
+    Value{"number-up"_L1, "9"_L1, nullptr},
+    Value{"number-up"_L1, "16"_L1, nullptr},
+    Value{"number-up-layout"_L1, "lrtb"_L1, QT_TRANSLATE_NOOP("LayoutText", "Left to right, then down")},
+    Value{"number-up-layout"_L1, "lrbt"_L1, QT_TRANSLATE_NOOP("LayoutText", "Left to right, then up")},
+    Value{"number-up-layout"_L1, "rltb"_L1, QT_TRANSLATE_NOOP("LayoutText", "Right to left, then down")},
+    Value{"number-up-layout"_L1, "rlbt"_L1, QT_TRANSLATE_NOOP("LayoutText", "Right to left, then up")},
+    Value{"number-up-layout"_L1, "tblr"_L1, QT_TRANSLATE_NOOP("LayoutText", "Down, then left to right")},
+    Value{"number-up-layout"_L1, "tbrl"_L1, QT_TRANSLATE_NOOP("LayoutText", "Down, then right to left")},
+    Value{"number-up-layout"_L1, "btlr"_L1, QT_TRANSLATE_NOOP("LayoutText", "Up, then left to right")},
+    Value{"number-up-layout"_L1, "btrl"_L1, QT_TRANSLATE_NOOP("LayoutText", "Up, then right to left")},
+    Value{"page-border"_L1, "none"_L1, QT_TRANSLATE_NOOP("LayoutText", "None")},
+    Value{"page-border"_L1, "single"_L1, QT_TRANSLATE_NOOP("LayoutText", "Thin line")},
+    Value{"page-border"_L1, "single-thick"_L1, QT_TRANSLATE_NOOP("LayoutText", "Thick line")},
+    Value{"page-border"_L1, "double"_L1, QT_TRANSLATE_NOOP("LayoutText", "Two thin lines")},
+    Value{"page-border"_L1, "double-thick"_L1, QT_TRANSLATE_NOOP("LayoutText", "Two thick lines")},
+    Value{"orientation-requested"_L1, ""_L1, QT_TRANSLATE_NOOP("LayoutText", "As in the document")},
+    Value{"orientation-requested"_L1, "3"_L1, QT_TRANSLATE_NOOP("LayoutText", "Portrait")},
+    Value{"orientation-requested"_L1, "4"_L1, QT_TRANSLATE_NOOP("LayoutText", "Landscape")},
+    Value{"orientation-requested"_L1, "5"_L1, QT_TRANSLATE_NOOP("LayoutText", "Landscape, turned around"),
+          false},
+    Value{"orientation-requested"_L1, "6"_L1, QT_TRANSLATE_NOOP("LayoutText", "Portrait, turned around"),
+          false},
+    Value{"page-set"_L1, "all"_L1, QT_TRANSLATE_NOOP("LayoutText", "Odd and even pages")},
+    Value{"page-set"_L1, "odd"_L1, QT_TRANSLATE_NOOP("LayoutText", "Odd pages only")},
+    Value{"page-set"_L1, "even"_L1, QT_TRANSLATE_NOOP("LayoutText", "Even pages only")},
+    Value{"print-scaling"_L1, ""_L1, QT_TRANSLATE_NOOP("LayoutText", "Automatic")},
+    Value{"print-scaling"_L1, "auto"_L1, QT_TRANSLATE_NOOP("LayoutText", "Shrink to the page or cut off"),
+          false},
+    Value{"print-scaling"_L1, "auto-fit"_L1, QT_TRANSLATE_NOOP("LayoutText", "Shrink to the page"), false},
+    Value{"print-scaling"_L1, "fit"_L1, QT_TRANSLATE_NOOP("LayoutText", "Fit to the page")},
+    Value{"print-scaling"_L1, "fill"_L1, QT_TRANSLATE_NOOP("LayoutText", "Fill the page"), false},
+    Value{"print-scaling"_L1, "none"_L1, QT_TRANSLATE_NOOP("LayoutText", "Actual size")},
+    Value{"outputorder"_L1, "normal"_L1, QT_TRANSLATE_NOOP("LayoutText", "Off")},
+    Value{"outputorder"_L1, "reverse"_L1, QT_TRANSLATE_NOOP("LayoutText", "On")},
+};
+
+// An older name for a value of a setting; its own values are True and False.
+struct OlderName
+{
+    QLatin1String name;
+    QLatin1String setting;
+    QLatin1String value;
+    bool isSentToo; // the PostScript filter supports only this name
+};
+
+constexpr std::array olderNames = {
+    OlderName{"landscape"_L1, "orientation-requested"_L1, "4"_L1, false},
+    OlderName{"fit-to-page"_L1, "print-scaling"_L1, "fit"_L1, true},
+    OlderName{"fitplot"_L1, "print-scaling"_L1, "fit"_L1, false},
+};
+
+const OlderName *olderNamed(const QString &name)
+{
+    const auto known = std::find_if(olderNames.begin(), olderNames.end(),
+                                    [&](const OlderName &older) { return older.name == name; });
+    return known == olderNames.end() ? nullptr : &*known;
 }
 
-bool take(const QString &name, const QString &value, QString *setting)
+QStringList valuesOf(const QString &name, bool isForUsers)
 {
-    const QString known = value.toLower();
-    if (!valuesOf(name).contains(known))
-        return false;
-    *setting = known;
-    return true;
+    QStringList list;
+    for (const Value &value : values) {
+        if (name == value.name && (isForUsers ? value.isOffered : !value.value.isEmpty()))
+            list.append(value.value);
+    }
+    return list;
 }
 
 } // namespace
 
-const QList<int> &PageLayoutSettings::pagesPerSideChoices()
+PageLayoutSettings::PageLayoutSettings()
 {
-    static const QList<int> choices = {1, 2, 4, 6, 9, 16};
-    return choices;
-}
-
-QStringList PageLayoutSettings::orders()
-{
-    return valuesOf(numberUpLayout);
-}
-
-QStringList PageLayoutSettings::borders()
-{
-    return valuesOf(pageBorder);
-}
-
-QStringList PageLayoutSettings::pageSets()
-{
-    return valuesOf(pageSetName);
-}
-
-QString layoutValueText(const QString &name, const QString &value)
-{
-    for (const ValueText &text : valueTexts) {
-        if (name == QLatin1String(text.name) && value == QLatin1String(text.value))
-            return LayoutText::tr(text.text);
-    }
-    return {};
+    static const QMap<QString, QString> usual = [] {
+        QMap<QString, QString> values;
+        for (const Setting &setting : settings)
+            values.insert(setting.name, setting.usual);
+        return values;
+    }();
+    m_values = usual;
 }
 
 PageLayoutSettings PageLayoutSettings::from(const QMap<QString, QString> &options)
 {
-    PageLayoutSettings settings;
+    PageLayoutSettings result;
     for (auto it = options.begin(); it != options.end(); ++it)
-        settings.set(it.key(), it.value());
-    // The newer names take precedence.
-    for (const QString &name : {orientationRequested, printScaling})
-        settings.set(name, options.value(name));
-    return settings;
+        result.set(it.key(), it.value());
+    for (const OlderName &older : olderNames) // the newer names take precedence
+        result.set(older.setting, options.value(older.setting));
+    return result;
 }
 
-bool PageLayoutSettings::set(const QString &name, const QString &value)
+QStringList PageLayoutSettings::names()
 {
-    if (name == numberUp) {
-        bool isNumber = false;
-        const int pages = value.toInt(&isNumber);
-        if (!isNumber || !pagesPerSideChoices().contains(pages))
-            return false;
-        pagesPerSide = pages;
-        return true;
-    }
-    if (name == outputOrder) {
-        const QString wanted = value.toLower();
-        if (wanted != QLatin1String("reverse") && wanted != QLatin1String("normal"))
-            return false;
-        isReversed = wanted == QLatin1String("reverse");
-        return true;
-    }
-    if (name == landscape || name == fitToPage || name == fitPlot) {
-        const auto on = switchValue(value);
-        QString &setting = name == landscape ? orientation : scaling;
-        const QString meant = name == landscape ? landscapeValue : fit;
-        if (on && (*on || setting == meant))
-            setting = *on ? meant : QString();
-        return on.has_value();
-    }
-    if (name == numberUpLayout)
-        return take(name, value, &order);
-    if (name == pageBorder)
-        return take(name, value, &border);
-    if (name == orientationRequested)
-        return take(name, value, &orientation);
-    if (name == pageSetName)
-        return take(name, value, &pageSet);
-    return name == printScaling && take(name, value, &scaling);
+    QStringList list;
+    for (const Setting &setting : settings)
+        list.append(setting.name);
+    return list;
+}
+
+QStringList PageLayoutSettings::offered(const QString &name)
+{
+    return valuesOf(name, true);
+}
+
+bool PageLayoutSettings::covers(const QString &name)
+{
+    return names().contains(name) || olderNamed(name);
 }
 
 QString PageLayoutSettings::takes(const QString &name)
 {
-    if (name == landscape || name == fitToPage || name == fitPlot)
-        return LayoutText::tr("True or False");
-    QStringList values = valuesOf(name);
-    if (name == outputOrder)
-        values = QStringList{QStringLiteral("normal"), QStringLiteral("reverse")};
-    for (const int pages : name == numberUp ? pagesPerSideChoices() : QList<int>())
-        values.append(QString::number(pages));
-    return values.join(QStringLiteral(", "));
+    return olderNamed(name) ? LayoutText::tr("True or False")
+                            : valuesOf(name, false).join(QStringLiteral(", "));
+}
+
+bool PageLayoutSettings::set(const QString &name, const QString &value)
+{
+    if (const OlderName *older = olderNamed(name)) {
+        const auto on = switchValue(value);
+        QString &setting = m_values[older->setting];
+        if (on && (*on || setting == older->value))
+            setting = *on ? QString(older->value) : QString();
+        return on.has_value();
+    }
+    const QString known = value.toLower();
+    const bool isTaken = valuesOf(name, false).contains(known);
+    if (isTaken)
+        m_values.insert(name, known);
+    return isTaken;
+}
+
+void PageLayoutSettings::reset(const QString &name)
+{
+    m_values.insert(name, PageLayoutSettings().value(name));
 }
 
 void PageLayoutSettings::takeChanges(const PageLayoutSettings &start, const PageLayoutSettings &other)
 {
-    const auto takeChange = [&](auto member) {
-        if (other.*member != start.*member)
-            this->*member = other.*member;
-    };
-    takeChange(&PageLayoutSettings::pagesPerSide);
-    takeChange(&PageLayoutSettings::order);
-    takeChange(&PageLayoutSettings::border);
-    takeChange(&PageLayoutSettings::orientation);
-    takeChange(&PageLayoutSettings::pageSet);
-    takeChange(&PageLayoutSettings::isReversed);
-    takeChange(&PageLayoutSettings::scaling);
+    for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+        if (other.value(it.key()) != start.value(it.key()))
+            *it = other.value(it.key());
+    }
 }
 
 QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
@@ -203,94 +202,59 @@ QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
 {
     QList<JobOption> options;
     const auto add = [&](const QString &name, const QString &value) {
-        options.append({name, value, Kind::Attribute});
+        options.append({name, value, JobOption::Kind::Attribute});
     };
-    // The server would add a default under an older name to the options that are sent.
-    const auto contradict = [&](const QString &name) {
-        if (defaults.contains(name))
-            add(name, QStringLiteral("false"));
-    };
-    if (pagesPerSide != start.pagesPerSide)
-        add(numberUp, QString::number(pagesPerSide));
-    if (order != start.order)
-        add(numberUpLayout, order);
-    if (border != start.border)
-        add(pageBorder, border);
-    if (orientation != start.orientation) {
-        add(orientationRequested, orientation.isEmpty() ? QStringLiteral("3") : orientation);
-        contradict(landscape);
-    }
-    if (pageSet != start.pageSet)
-        add(pageSetName, pageSet);
-    if (isReversed != start.isReversed)
-        add(outputOrder, isReversed ? QStringLiteral("reverse") : QStringLiteral("normal"));
-    if (scaling != start.scaling) {
-        add(printScaling, scaling.isEmpty() ? QStringLiteral("auto") : scaling);
-        // The PostScript filter supports only this option.
-        if (scaling == fit)
-            add(fitToPage, QStringLiteral("true"));
-        else
-            contradict(fitToPage);
-        contradict(fitPlot);
+    for (const Setting &setting : settings) {
+        const QString now = value(setting.name);
+        if (now == start.value(setting.name))
+            continue;
+        add(setting.name, now.isEmpty() ? QString(setting.sent) : now);
+        for (const OlderName &older : olderNames) {
+            const bool isMeant = older.isSentToo && now == older.value;
+            // The server would add a default under an older name to the options that are sent.
+            if (older.setting == setting.name && (isMeant || defaults.contains(older.name)))
+                add(older.name, isMeant ? QStringLiteral("true") : QStringLiteral("false"));
+        }
     }
     return options;
 }
 
 QMap<QString, QString> PageLayoutSettings::values() const
 {
-    QMap<QString, QString> values = {
-        {numberUp, QString::number(pagesPerSide)},
-        {numberUpLayout, order},
-        {pageBorder, border},
-        {pageSetName, pageSet},
-        {outputOrder, isReversed ? QStringLiteral("reverse") : QStringLiteral("normal")}};
-    if (!orientation.isEmpty())
-        values.insert(orientationRequested, orientation);
-    if (!scaling.isEmpty())
-        values.insert(printScaling, scaling);
-    return values;
+    QMap<QString, QString> set = m_values;
+    set.removeIf([](const auto &setting) { return setting.value().isEmpty(); });
+    return set;
 }
 
 QList<PageLayoutSettings::Words> PageLayoutSettings::inWords(bool withUsual) const
 {
-    const PageLayoutSettings usual;
     QList<Words> words;
-    const auto add = [&](bool isUsual, const QString &key, const QString &name, const QString &value) {
+    for (const Setting &setting : settings) {
+        const QString now = value(setting.name);
+        const bool isUsual =
+            setting.name == "number-up-layout"_L1 ? pagesPerSide() == 1 : now == setting.usual;
         if (withUsual || !isUsual)
-            words.append({key, name, value});
-    };
-    add(pagesPerSide == 1, numberUp, LayoutText::tr("Pages per side"), QString::number(pagesPerSide));
-    add(pagesPerSide == 1, numberUpLayout, LayoutText::tr("Order"), layoutValueText(numberUpLayout, order));
-    add(border == usual.border, pageBorder, LayoutText::tr("Border"), layoutValueText(pageBorder, border));
-    add(orientation == usual.orientation, orientationRequested, LayoutText::tr("Orientation"),
-        layoutValueText(orientationRequested, orientation));
-    add(scaling == usual.scaling, printScaling, LayoutText::tr("Scaling"),
-        layoutValueText(printScaling, scaling));
-    add(pageSet == usual.pageSet, pageSetName, LayoutText::tr("Odd or even"),
-        layoutValueText(pageSetName, pageSet));
-    add(!isReversed, outputOrder, LayoutText::tr("Last page first"),
-        isReversed ? LayoutText::tr("On") : LayoutText::tr("Off"));
+            words.append({setting.name, LayoutText::tr(setting.text), layoutValueText(setting.name, now)});
+    }
     return words;
 }
 
-bool PageLayoutSettings::covers(const QString &name)
+QString layoutValueText(const QString &name, const QString &value)
 {
-    static const QStringList names = {numberUp,    numberUpLayout, pageBorder,   orientationRequested,
-                                      pageSetName, outputOrder,    printScaling, landscape,
-                                      fitToPage,   fitPlot};
-    return names.contains(name);
+    for (const Value &known : values) {
+        if (name == known.name && value == known.value)
+            return known.text ? LayoutText::tr(known.text) : value;
+    }
+    return {};
 }
 
 bool isPageOption(const QString &name)
 {
-    static const QStringList others = {QStringLiteral("mirror"),      QStringLiteral("page-left"),
-                                       QStringLiteral("page-right"),  QStringLiteral("page-top"),
-                                       QStringLiteral("page-bottom"), QStringLiteral("position"),
-                                       QStringLiteral("scaling"),     QStringLiteral("natural-scaling"),
-                                       QStringLiteral("ppi"),         QStringLiteral("cpi"),
-                                       QStringLiteral("lpi"),         QStringLiteral("columns"),
-                                       QStringLiteral("wrap"),        QStringLiteral("prettyprint"),
-                                       QStringLiteral("crop-to-fit")};
+    static const QStringList others =
+        QStringLiteral(
+            "mirror page-left page-right page-top page-bottom position scaling natural-scaling ppi "
+            "cpi lpi columns wrap prettyprint crop-to-fit")
+            .split(QLatin1Char(' '));
     return PageLayoutSettings::covers(name) || others.contains(name);
 }
 

@@ -10,39 +10,38 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 namespace host {
 
-// The page layout, which the filters of the print system apply for every printer. Values are those of the job
-// options, in their canonical spelling. A value.
-struct PageLayoutSettings
+// The page layout, which the filters of the print system apply for every printer. Settings have the names and
+// values of their job options, in their canonical spelling. An empty value is the default of each document.
+// The settings are listed in a table in the source file. A value.
+class PageLayoutSettings
 {
-    int pagesPerSide = 1;                    // "number-up": one of pagesPerSideChoices()
-    QString order = QStringLiteral("lrtb");  // "number-up-layout"
-    QString border = QStringLiteral("none"); // "page-border"
-    // "orientation-requested": "3" portrait, "4" landscape, "5" and "6" rotated from these; empty for that of
-    // each document
-    QString orientation;
-    QString pageSet = QStringLiteral("all"); // "page-set": selects from the sides that would be printed
-    bool isReversed = false;                 // "outputorder": whether the last page comes first
-    QString scaling; // "print-scaling"; empty for the default of each kind of document
-
-    bool operator==(const PageLayoutSettings &) const = default;
-
-    static const QList<int> &pagesPerSideChoices();
-    static QStringList orders();
-    static QStringList borders();
-    static QStringList pageSets();
-
+public:
+    // The print system's defaults.
+    PageLayoutSettings();
     // The user's and the queue's defaults among a destination's options. Invalid values are ignored.
     static PageLayoutSettings from(const QMap<QString, QString> &options);
-    // Sets a job option. False, and without a change, if the name is unknown or the value invalid.
-    bool set(const QString &name, const QString &value);
+    bool operator==(const PageLayoutSettings &) const = default;
+
+    static QStringList names(); // in the order of display
+    // The values offered to the user. set() accepts further values, which are rarely needed.
+    static QStringList offered(const QString &name);
+    // Whether these settings determine a job option of this name, which may be an older one.
+    static bool covers(const QString &name);
     // A description of the values that set() accepts for a name, for messages.
     static QString takes(const QString &name);
+
+    QString value(const QString &name) const { return m_values.value(name); }
+    int pagesPerSide() const { return value(QStringLiteral("number-up")).toInt(); }
+    bool isReversed() const { return value(QStringLiteral("outputorder")) == QLatin1String("reverse"); }
+    // Sets a job option. False, and without a change, if the name is unknown or the value invalid.
+    bool set(const QString &name, const QString &value);
+    // Restores the print system's default.
+    void reset(const QString &name);
     // Takes over the settings of `other` that differ from `start`.
     void takeChanges(const PageLayoutSettings &start, const PageLayoutSettings &other);
+
     // The settings that differ from `start`, as job options. Also overrides defaults of the destination that
     // the print system adds under another name for the same setting.
     QList<JobOption> jobOptions(const PageLayoutSettings &start,
@@ -58,8 +57,8 @@ struct PageLayoutSettings
     // The settings that differ from the print system's defaults, or all of them, localised.
     QList<Words> inWords(bool withUsual) const;
 
-    // Whether these settings determine a job option of this name.
-    static bool covers(const QString &name);
+private:
+    QMap<QString, QString> m_values; // of every setting
 };
 
 // The display text of a value of one of these options; empty if there is none.

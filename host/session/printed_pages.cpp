@@ -45,7 +45,7 @@ PageSettings pageSettings(const DialogSession &session)
             settings.options.append({option.name, option.value});
     }
     // The filters then print an empty side first if the number of sides is odd.
-    if (session.general().layout.isReversed && isTwoSided(session))
+    if (session.general().layout.isReversed() && isTwoSided(session))
         settings.options.append({QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")});
     settings.isMonochrome = isMonochrome(session, options);
     const QString choice = session.ppd() ? session.ppd()->markedChoice(pageSize) : QString();

@@ -203,10 +203,10 @@ bool hasSetting(const DialogSession &session, const QString &key)
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
 {
     QList<std::pair<QString, QString>> keys;
-    for (const char *name :
-         {"copies", "collate", "page-ranges", "number-up", "number-up-layout", "page-border",
-          "orientation-requested", "page-set", "outputorder", "print-scaling"})
-        keys.append({QStringLiteral("general"), QLatin1String(name)});
+    const QStringList general{QStringLiteral("copies"), QStringLiteral("collate"),
+                              QStringLiteral("page-ranges")};
+    for (const QString &name : general + PageLayoutSettings::names())
+        keys.append({QStringLiteral("general"), name});
     for (int i = 0; i < session.panelCount(); ++i) {
         for (const QString &key : session.settableKeysOf(i))
             keys.append({session.panel(i)->panelKind(), key});

@@ -413,7 +413,7 @@ void GeneralPageTest::pdfIsWritten()
     openWith({sourcePath("/demo/note.txt")}, {1200, 900}, u"../Page 1/2"_s);
     // Reverse order of two-sided pages begins with the blank back of the last sheet.
     QVERIFY(m_window->session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
-    m_window->session()->general().layout.isReversed = true;
+    m_window->session()->general().layout.set(u"outputorder"_s, u"reverse"_s);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     button(u"Save as PDF…"_s)->click();
     QTRY_VERIFY(find<QFileDialog>());

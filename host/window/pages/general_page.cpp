@@ -269,7 +269,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
 // The print system counts the sides that come out where several pages are put on one.
 void GeneralPage::showSides()
 {
-    const int pages = m_session->general().layout.pagesPerSide;
+    const int pages = m_session->general().layout.pagesPerSide();
     m_sides->setText(tr("The numbers refer to printed sides with %1 pages each.").arg(pages));
     m_sides->setVisible(pages > 1 && m_somePages->isChecked());
 }

@@ -21,17 +21,17 @@ constexpr int headingGap = 12; // above the heading
 
 const QString numberUp = QStringLiteral("number-up");
 const QString order = QStringLiteral("number-up-layout");
-const QString border = QStringLiteral("page-border");
-const QString orientation = QStringLiteral("orientation-requested");
-const QString scaling = QStringLiteral("print-scaling");
-const QString pageSet = QStringLiteral("page-set");
+const QString reverse = QStringLiteral("outputorder");
 
-QStringList sheetChoices()
+// The boxes in the order of the page.
+QList<std::pair<QString, QString>> rows()
 {
-    QStringList choices;
-    for (const int pages : PageLayoutSettings::pagesPerSideChoices())
-        choices.append(QString::number(pages));
-    return choices;
+    return {{numberUp, LayoutForm::tr("Pages per side:")},
+            {order, LayoutForm::tr("Order:")},
+            {QStringLiteral("page-border"), LayoutForm::tr("Border:")},
+            {QStringLiteral("orientation-requested"), LayoutForm::tr("Orientation:")},
+            {QStringLiteral("print-scaling"), LayoutForm::tr("Scaling:")},
+            {QStringLiteral("page-set"), LayoutForm::tr("Odd or even:")}};
 }
 
 } // namespace
@@ -45,12 +45,8 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     heading->setFont(bold);
     grid->setRowMinimumHeight(grid->rowCount(), headingGap);
     grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
-    addRow(numberUp, tr("Pages per side:"), sheetChoices(), grid);
-    addRow(order, tr("Order:"), PageLayoutSettings::orders(), grid);
-    addRow(border, tr("Border:"), PageLayoutSettings::borders(), grid);
-    addRow(orientation, tr("Orientation:"), {QString(), QStringLiteral("3"), QStringLiteral("4")}, grid);
-    addRow(scaling, tr("Scaling:"), {QString(), QStringLiteral("fit"), QStringLiteral("none")}, grid);
-    addRow(pageSet, tr("Odd or even:"), PageLayoutSettings::pageSets(), grid);
+    for (const auto &[name, label] : rows())
+        addRow(name, label, grid);
     addReverse(grid);
     refresh();
 }
@@ -58,29 +54,27 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
 int LayoutForm::labelWidth(const QWidget *page)
 {
     int width = 0;
-    for (const QString &label : {tr("Pages per side:"), tr("Order:"), tr("Border:"), tr("Orientation:"),
-                                 tr("Scaling:"), tr("Odd or even:")})
+    for (const auto &[name, label] : rows())
         width = qMax(width, page->fontMetrics().horizontalAdvance(label));
     return width + 2; // as a label has it
 }
 
 int LayoutForm::heightIn(const QGridLayout &grid, int controlHeight)
 {
-    constexpr int rows = 7; // boxes and the box to tick
+    const int controls = static_cast<int>(rows().size()) + 1; // the boxes and the check box
     const int heading = headingGap + grid.parentWidget()->fontMetrics().height();
-    return heading + rows * (grid.verticalSpacing() + controlHeight);
+    return heading + controls * (grid.verticalSpacing() + controlHeight);
 }
 
-void LayoutForm::addRow(const QString &name, const QString &label, const QStringList &values,
-                        QGridLayout *grid)
+void LayoutForm::addRow(const QString &name, const QString &label, QGridLayout *grid)
 {
     auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMaximumWidth(mostWidth);
     box->setObjectName(name);
     box->setAccessibleName(label.chopped(1).trimmed());
     box->setWhatsThis(explanationOf(name));
-    for (const QString &value : values)
-        box->addItem(name == numberUp ? value : layoutValueText(name, value), value);
+    for (const QString &value : PageLayoutSettings::offered(name))
+        box->addItem(layoutValueText(name, value), value);
     box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
@@ -95,48 +89,33 @@ void LayoutForm::addRow(const QString &name, const QString &label, const QString
 void LayoutForm::addReverse(QGridLayout *grid)
 {
     m_reverse = new QCheckBox(tr("Last page first"), grid->parentWidget());
-    m_reverse->setObjectName(QStringLiteral("outputorder"));
-    m_reverse->setWhatsThis(explanationOf(QStringLiteral("outputorder")));
+    m_reverse->setObjectName(reverse);
+    m_reverse->setWhatsThis(explanationOf(reverse));
     grid->addWidget(m_reverse, grid->rowCount(), 1);
     connect(m_reverse, &QCheckBox::toggled, this, [this](bool on) {
-        m_session->general().layout.isReversed = on;
+        m_session->general().layout.set(reverse, on ? QStringLiteral("reverse") : QStringLiteral("normal"));
         Q_EMIT changed();
     });
-}
-
-QString LayoutForm::current(const QString &name) const
-{
-    const PageLayoutSettings &layout = m_session->general().layout;
-    if (name == numberUp)
-        return QString::number(layout.pagesPerSide);
-    if (name == order)
-        return layout.order;
-    if (name == border)
-        return layout.border;
-    if (name == orientation)
-        return layout.orientation;
-    return name == scaling ? layout.scaling : layout.pageSet;
 }
 
 void LayoutForm::choose(const Row &row)
 {
     PageLayoutSettings &layout = m_session->general().layout;
     const QString value = row.box->currentData().toString();
-    if (!value.isEmpty())
-        layout.set(row.name, value);
-    else if (row.name == orientation)
-        layout.orientation.clear();
+    if (value.isEmpty())
+        layout.reset(row.name);
     else
-        layout.scaling.clear();
+        layout.set(row.name, value);
     refresh();
     Q_EMIT changed();
 }
 
 void LayoutForm::refresh()
 {
-    const bool several = m_session->general().layout.pagesPerSide > 1;
+    const PageLayoutSettings &layout = m_session->general().layout;
+    const bool several = layout.pagesPerSide() > 1;
     for (const Row &row : std::as_const(m_rows)) {
-        const QString value = current(row.name);
+        const QString value = layout.value(row.name);
         // A default may be one that is seldom wanted and not offered.
         if (row.box->findData(value) < 0)
             row.box->addItem(layoutValueText(row.name, value), value);
@@ -150,7 +129,7 @@ void LayoutForm::refresh()
         }
     }
     const QSignalBlocker quiet(m_reverse);
-    m_reverse->setChecked(m_session->general().layout.isReversed);
+    m_reverse->setChecked(layout.isReversed());
 }
 
 } // namespace host

@@ -46,9 +46,8 @@ private:
         QString name; // of the job option
         platform::ChoiceBox *box;
     };
-    void addRow(const QString &name, const QString &label, const QStringList &values, QGridLayout *grid);
+    void addRow(const QString &name, const QString &label, QGridLayout *grid);
     void addReverse(QGridLayout *grid);
-    QString current(const QString &name) const;
     void choose(const Row &row);
 
     DialogSession *m_session;

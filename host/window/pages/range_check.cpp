@@ -54,7 +54,7 @@ QString RangeCheck::problem(const QString &ranges)
             longest = i;
         most = std::max(most, pages);
     }
-    const int pagesPerSide = m_session->general().layout.pagesPerSide;
+    const int pagesPerSide = m_session->general().layout.pagesPerSide();
     const int last = (most + pagesPerSide - 1) / pagesPerSide;
     if (longest < 0 || beginning <= last)
         return {};
