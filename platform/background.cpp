@@ -81,6 +81,19 @@ struct LimitedCall
     std::exception_ptr thrown; // written before `ended`
 };
 
+// The work, with an exception stored in the state.
+template <typename State>
+std::function<void()> keepingException(std::shared_ptr<State> state, std::function<void()> work)
+{
+    return [state = std::move(state), work = std::move(work)] {
+        try {
+            work();
+        } catch (...) {
+            state->thrown = std::current_exception();
+        }
+    };
+}
+
 // Runs `work` on a new thread. `work` and everything it holds is destroyed before `afterwards` runs.
 void runDetached(std::function<void()> work, std::function<void()> afterwards)
 {
@@ -119,18 +132,10 @@ bool Background::call(std::function<void()> work)
     if (installed->waiter->isGivenUp())
         return false;
     auto state = std::make_shared<CallState>();
-    runDetached(
-        [state, work = std::move(work)] {
-            try {
-                work();
-            } catch (...) {
-                state->thrown = std::current_exception();
-            }
-        },
-        [state, bell = installed->bell] {
-            state->ended = true;
-            bell->ring();
-        });
+    runDetached(keepingException(state, std::move(work)), [state, bell = installed->bell] {
+        state->ended = true;
+        bell->ring();
+    });
     if (!installed->waiter->wait([state] { return state->ended.load(); }))
         return false;
     if (state->thrown)
@@ -143,19 +148,11 @@ bool Background::call(std::function<void()> work, std::chrono::milliseconds limi
     if (isGivenUp())
         return false;
     auto state = std::make_shared<LimitedCall>();
-    runDetached(
-        [state, work = std::move(work)] {
-            try {
-                work();
-            } catch (...) {
-                state->thrown = std::current_exception();
-            }
-        },
-        [state] {
-            const std::lock_guard lock(state->mutex);
-            state->ended = true;
-            state->change.notify_all();
-        });
+    runDetached(keepingException(state, std::move(work)), [state] {
+        const std::lock_guard lock(state->mutex);
+        state->ended = true;
+        state->change.notify_all();
+    });
     // On a worker thread if this thread must not block.
     const auto ended = callBeside([state, until = std::chrono::steady_clock::now() + limit] {
         std::unique_lock lock(state->mutex);

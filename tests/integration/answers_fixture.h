@@ -49,7 +49,7 @@ protected:
     {
         if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
             QSKIP(qPrintable(missing));
-        // Whoever is asked for the address of a name is on the loopback interface, too.
+        // The name server is also on the loopback interface.
         QFile resolver(m_server.folder() + QStringLiteral("/resolv.conf"));
         QVERIFY(resolver.open(QIODevice::WriteOnly) &&
                 resolver.write("nameserver 127.0.0.53\noptions timeout:1 attempts:1\n") > 0);
@@ -72,14 +72,14 @@ protected:
                                        QStringLiteral("socket://%1:9100").arg(address)),
                      qPrintable(m_server.problem()));
         QVERIFY(m_server.setPaused(QStringLiteral("halted"), true)); // its jobs do not end
-        // Else the server would have to tell of all queues, for seconds, when nobody names one.
+        // Otherwise the server would list all queues, which takes seconds, if no queue is named.
         QVERIFY(m_server.setDefaultQueue(QStringLiteral("office")));
         QString problem;
         m_proxy.emplace(m_server.folder() + QStringLiteral("/slow.sock"), m_server.socketPath(), &problem);
         QVERIFY2(m_proxy->isRunning(), qPrintable(problem));
         qputenv("CUPS_SERVER", m_proxy->socketPath().toLocal8Bit());
         m_file = sourcePath("/demo/report.pdf");
-        open(); // what is done once a program is not what is measured
+        open(); // work that is done once per program is not measured
         QTRY_VERIFY(m_window->session());
         m_window.reset();
     }
@@ -99,7 +99,7 @@ protected:
         QVERIFY2(gap < longestGap,
                  qPrintable(QStringLiteral("the window did not answer for %1 ms").arg(gap)));
     }
-    // More of it than the server's socket takes in.
+    // Longer than the server's socket can buffer.
     void lengthenDocument()
     {
         m_file = m_server.folder() + QStringLiteral("/long.pdf");
