@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/service/token_store.h"
-#include "tests/support/child_process.h"
+#include "tests/host/service_fixture.h"
 #include "tests/support/paths.h"
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusContext>
-#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -18,91 +14,21 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTemporaryFile>
-#include <QTest>
 
 #include <csignal>
 #include <fcntl.h>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString portalName = u"org.freedesktop.impl.portal.desktop.kelmar"_s;
-const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
-const QString connectionName = u"service-test"_s;
-constexpr int patience = 20000; // milliseconds, on a busy machine
-
-struct Answer
-{
-    int response = -1; // -1 if the call failed
-    QVariantMap results;
-    uint token() const { return results.value(u"token"_s).toUInt(); }
-    QVariantMap map(const QString &name) const
-    {
-        return qdbus_cast<QVariantMap>(results.value(name).value<QDBusArgument>());
-    }
-};
-
-Answer answerOf(const QDBusMessage &reply)
-{
-    if (reply.type() != QDBusMessage::ReplyMessage)
-        return {};
-    return {reply.arguments().value(0).toInt(),
-            qdbus_cast<QVariantMap>(reply.arguments().value(1).value<QDBusArgument>())};
-}
-
-} // namespace
-
-// A notification server that supports markup.
-class Desktop : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
-public:
-    QString title, text;
-    QVariantMap hints;
-
-public Q_SLOTS:
-    QStringList GetCapabilities() { return {u"body"_s, u"body-markup"_s}; }
-    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
-                const QStringList &, const QVariantMap &given, int)
-    {
-        title = summary;
-        text = body;
-        hints = given;
-        return 1;
-    }
-};
-
-// The desktop portal's settings; missing ones are errors.
-class DesktopSettings : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-public:
-    QVariantMap values;
-
-public Q_SLOTS:
-    QDBusVariant Read(const QString &space, const QString &key)
-    {
-        if (!values.contains(space + u'/' + key))
-            sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, key);
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(values.value(space + u'/' + key))));
-    }
-};
-
 // The service on a private bus, called like the portal and the queue; a script replaces the dialog.
-class ServiceTest : public QObject
+class ServiceTest : public ServiceFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { startBus(); }
+    void cleanup() { stopAll(); }
     void answersSettingsPageSetupAndToken();
     void abilitiesReachTheDialog();
     void nonsenseInEveryField_data();
@@ -126,104 +52,7 @@ private Q_SLOTS:
     void leavesWhenIdle();
     void goesWithTheBus();
     void aThousandRequestsLeaveNothing();
-
-private:
-    void startService(const QStringList &arguments = {});
-    QDBusMessage prepareCall(const QString &title, const QVariantMap &settings = {},
-                             const QString &appId = {}, const QString &handle = {},
-                             const QVariantMap &options = {{u"modal"_s, u"x"_s}});
-    QDBusMessage openCall(const QByteArray &title);
-    QByteArray dialogProcesses() const
-    {
-        const QString pid = QString::number(m_service->processId());
-        QFile file(u"/proc/%1/task/%1/children"_s.arg(pid));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray("?");
-    }
-    QDBusMessage printCall(uint token, const QString &appId = {}, const QString &title = u"T"_s);
-    Answer call(const QDBusMessage &message)
-    {
-        return answerOf(m_bus.call(message, QDBus::BlockWithGui, patience));
-    }
-    bool serviceIsGone() const { return m_service->state() == QProcess::NotRunning; }
-    QByteArray log(const QString &suffix = {}) const
-    {
-        QFile file(m_folder->filePath(u"log"_s) + suffix);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    QJsonObject lastRequest() const
-    {
-        return QJsonDocument::fromJson(log().trimmed().split('\n').last()).object();
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    ChildProcess m_daemon;
-    ChildProcess m_service;
-    QDBusConnection m_bus{connectionName};
-    int m_calls = 0;
 };
-
-void ServiceTest::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    const QString address = u"unix:path="_s + m_folder->filePath(u"bus"_s);
-    QString error;
-    m_daemon = startChildProcess(
-        u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s, u"--address="_s + address},
-        "unix:", &error);
-    if (!m_daemon)
-        QSKIP(qPrintable(error));
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
-    qputenv("STUB_LOG", m_folder->filePath(u"log"_s).toUtf8());
-    m_bus = QDBusConnection::connectToBus(address, connectionName);
-    QVERIFY(m_bus.isConnected());
-}
-
-void ServiceTest::cleanup()
-{
-    QDBusConnection::disconnectFromBus(connectionName);
-    m_bus = QDBusConnection(connectionName);
-    m_service.reset();
-    m_daemon.reset();
-}
-
-void ServiceTest::startService(const QStringList &arguments)
-{
-    m_service.reset(new QProcess);
-    m_service->setProcessChannelMode(QProcess::ForwardedChannels);
-    m_service->start(buildPath("/bin/kelmar-print-service"),
-                     QStringList{u"--dialog-program"_s, sourcePath("/tests/host/stub_dialog.sh")} +
-                         arguments);
-    const auto hasName = [this] {
-        const auto reply = m_bus.call(QDBusMessage::createMethodCall(
-            u"org.freedesktop.DBus"_s, u"/"_s, u"org.freedesktop.DBus"_s, u"ListNames"_s));
-        return reply.arguments().value(0).toStringList().contains(u"org.kelmar.Print1"_s);
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(hasName(), patience);
-}
-
-QDBusMessage ServiceTest::prepareCall(const QString &title, const QVariantMap &settings, const QString &appId,
-                                      const QString &handle, const QVariantMap &options)
-{
-    auto message = QDBusMessage::createMethodCall(portalName, portalPath,
-                                                  u"org.freedesktop.impl.portal.Print"_s, u"PreparePrint"_s);
-    const QString path = handle.isEmpty() ? u"/request/r%1"_s.arg(++m_calls) : handle;
-    message << QVariant::fromValue(QDBusObjectPath(path)) << appId << u"x11:zz"_s << title << settings
-            << QVariantMap{{u"Width"_s, 210.0}, {u"Height"_s, 297.0}} << options;
-    return message;
-}
-
-QDBusMessage ServiceTest::printCall(uint token, const QString &appId, const QString &title)
-{
-    QTemporaryFile file;
-    if (!file.open() || file.write("the document") < 0 || !file.flush())
-        qFatal("no temporary file");
-    auto message = QDBusMessage::createMethodCall(portalName, portalPath,
-                                                  u"org.freedesktop.impl.portal.Print"_s, u"Print"_s);
-    message << QVariant::fromValue(QDBusObjectPath(u"/request/r%1"_s.arg(++m_calls))) << appId << QString()
-            << title << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle()))
-            << QVariantMap{{u"token"_s, token}};
-    return message;
-}
 
 void ServiceTest::answersSettingsPageSetupAndToken()
 {
@@ -490,18 +319,6 @@ void ServiceTest::sameHandleTwice()
     QCOMPARE(call(prepareCall(u"T"_s, {}, {}, portalPath)).response, 2);
     QCOMPARE(call(prepareCall(u"T"_s)).response, 0); // the portal is still there
     QVERIFY(!first.isFinished());
-}
-
-QDBusMessage ServiceTest::openCall(const QByteArray &title)
-{
-    QTemporaryFile file;
-    if (!file.open() || file.write("PDF") < 0 || !file.flush())
-        qFatal("no temporary file");
-    auto message = QDBusMessage::createMethodCall(u"org.kelmar.Print1"_s, u"/org/kelmar/Print1"_s,
-                                                  u"org.kelmar.Print1"_s, u"OpenDocument"_s);
-    message << QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())) << title << 3U
-            << QByteArray("sides=one-sided \xff");
-    return message;
 }
 
 void ServiceTest::documentFromTheQueue()
