@@ -226,9 +226,9 @@ QMap<QString, QString> PageLayoutSettings::values() const
     return set;
 }
 
-QList<PageLayoutSettings::Words> PageLayoutSettings::inWords(bool withUsual) const
+QList<SettingWords> PageLayoutSettings::inWords(bool withUsual) const
 {
-    QList<Words> words;
+    QList<SettingWords> words;
     for (const Setting &setting : settings) {
         const QString now = value(setting.name);
         const bool isUsual =

@@ -12,6 +12,14 @@
 
 namespace host {
 
+// A general setting and its value, localised.
+struct SettingWords
+{
+    QString key; // name of the job option
+    QString name;
+    QString value;
+};
+
 // The page layout, which the filters of the print system apply for every printer. Settings have the names and
 // values of their job options, in their canonical spelling. An empty value is the default of each document.
 // The settings are listed in a table in the source file. A value.
@@ -48,14 +56,8 @@ public:
                                 const QMap<QString, QString> &defaults) const;
     // All settings with a value, by job option.
     QMap<QString, QString> values() const;
-    struct Words
-    {
-        QString key; // name of the job option
-        QString name;
-        QString value;
-    };
     // The settings that differ from the print system's defaults, or all of them, localised.
-    QList<Words> inWords(bool withUsual) const;
+    QList<SettingWords> inWords(bool withUsual) const;
 
 private:
     QMap<QString, QString> m_values; // of every setting

@@ -40,13 +40,13 @@ void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &aft
                        QList<SettingChange> *changes)
 {
     QList<SettingChange> all;
-    for (const auto &[name, value] : generalEntries(after, true))
-        all.append({keyOfGeneralEntry(name), name, {}, value});
-    for (const auto &[name, value] : generalEntries(before, true)) {
+    for (const auto &[key, name, value] : generalWords(after, true))
+        all.append({key, name, {}, value});
+    for (const auto &[key, name, value] : generalWords(before, true)) {
         const auto known = std::find_if(all.begin(), all.end(),
                                         [name = name](const SettingChange &c) { return c.name == name; });
         if (known == all.end())
-            all.append({keyOfGeneralEntry(name), name, value, {}});
+            all.append({key, name, value, {}});
         else
             known->before = value;
     }

@@ -31,32 +31,26 @@ void addOptions(const DialogSession &session, const QStringList &keywords, Summa
 
 } // namespace
 
-QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual)
+QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual)
 {
-    QList<SummaryEntry> entries;
-    entries.append({SummaryText::tr("Copies"), QLocale().toString(general.copies)});
+    const QString copies = QLocale().toString(general.copies);
+    QList<SettingWords> words{{QStringLiteral("copies"), SummaryText::tr("Copies"), copies}};
     if (general.copies > 1)
-        entries.append(
-            {SummaryText::tr("Collate"), general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
+        words.append({QStringLiteral("multiple-document-handling"), SummaryText::tr("Collate"),
+                      general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
     QString pages = general.pages.isEmpty() ? SummaryText::tr("All") : general.pages;
     if (general.part != GeneralSettings::Part::Pages)
         pages = general.part == GeneralSettings::Part::CurrentPage ? SummaryText::tr("Current page")
                                                                    : SummaryText::tr("Selection");
-    entries.append({SummaryText::tr("Pages"), pages});
-    for (const PageLayoutSettings::Words &words : general.layout.inWords(withUsual))
-        entries.append({words.name, words.value});
-    return entries;
+    words.append({QStringLiteral("page-ranges"), SummaryText::tr("Pages"), pages});
+    return words + general.layout.inWords(withUsual);
 }
 
 QString keyOfGeneralEntry(const QString &name)
 {
-    if (name == SummaryText::tr("Copies"))
-        return QStringLiteral("copies");
-    if (name == SummaryText::tr("Collate"))
-        return QStringLiteral("multiple-document-handling");
-    if (name == SummaryText::tr("Pages"))
-        return QStringLiteral("page-ranges");
-    for (const PageLayoutSettings::Words &words : PageLayoutSettings().inWords(true)) {
+    GeneralSettings several;
+    several.copies = 2; // for which collation is listed
+    for (const SettingWords &words : generalWords(several, true)) {
         if (name == words.name)
             return words.key;
     }
@@ -67,7 +61,8 @@ SummarySection generalSummary(const DialogSession &session)
 {
     SummarySection section{SummaryText::tr("General"), {}};
     section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
-    section.entries += generalEntries(session.general(), false);
+    for (const SettingWords &words : generalWords(session.general(), false))
+        section.entries.append({words.name, words.value});
     QStringList keywords = session.ppd() ? generalOptionKeywords(*session.ppd()) : QStringList();
     keywords.removeIf([&](const QString &keyword) { return session.panelOfKeyword(keyword) >= 0; });
     addOptions(session, keywords, &section);

@@ -12,6 +12,7 @@ namespace host {
 
 class DialogSession;
 struct GeneralSettings;
+struct SettingWords;
 
 using SummaryEntry = std::pair<QString, QString>; // name and value
 
@@ -29,8 +30,8 @@ SummarySection generalSummary(const DialogSession &session);
 SummarySection moreSummary(const DialogSession &session);
 // The settings of the Job page that differ from the usual ones. The list of entries may be empty.
 SummarySection jobSummary(const DialogSession &session);
-// The general settings that are not PPD options.
-QList<SummaryEntry> generalEntries(const GeneralSettings &general, bool withUsual);
+// The general settings that are not PPD options, localised.
+QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual);
 // The job option of a general setting, by its display name; empty if there is none.
 QString keyOfGeneralEntry(const QString &name);
 
