@@ -231,8 +231,10 @@ QStringList DialogSession::otherKeywords() const
     return others;
 }
 
-// All requests for a choice end here, whether they come from a control, a preset, an application, the command
-// line or a proposal. Checks locks and custom values, uses the PPD's spelling, and records the choice.
+// All choices that the host makes end here, whether they come from a control of its own, a preset, undo, an
+// application, the command line or a proposal. Checks locks and custom values, changes the setting to the
+// PPD's spelling, and records it; panels are not updated. False if the PPD does not have the choice, or the
+// policy has fixed another one.
 bool DialogSession::mark(ChosenSetting *setting)
 {
     const auto option = m_ppd ? m_ppd->option(setting->key) : std::nullopt;
