@@ -7,7 +7,6 @@
 #include "host/printing/ppd_document.h"
 
 #include <QCoreApplication>
-#include <QSet>
 
 namespace host {
 
@@ -21,46 +20,15 @@ struct PolicySystemText
 // Job options that do not affect any choice of a PPD.
 bool isHarmless(const QString &name)
 {
-    static const QSet<QString> names = {QStringLiteral("collate"),
-                                        QStringLiteral("columns"),
-                                        QStringLiteral("copies"),
-                                        QStringLiteral("cpi"),
-                                        QStringLiteral("fit-to-page"),
-                                        QStringLiteral("fitplot"),
-                                        QStringLiteral("fill"),
-                                        QStringLiteral("crop-to-fit"),
-                                        QStringLiteral("job-account-id"),
-                                        QStringLiteral("job-accounting-user-id"),
-                                        QStringLiteral("job-billing"),
-                                        QStringLiteral("job-cancel-after"),
-                                        QStringLiteral("job-hold-until"),
-                                        QStringLiteral("job-name"),
-                                        QStringLiteral("job-password"),
-                                        QStringLiteral("job-password-encryption"),
-                                        QStringLiteral("job-priority"),
-                                        QStringLiteral("job-sheets"),
-                                        QStringLiteral("landscape"),
-                                        QStringLiteral("lpi"),
-                                        QStringLiteral("mirror"),
-                                        QStringLiteral("multiple-document-handling"),
-                                        QStringLiteral("natural-scaling"),
-                                        QStringLiteral("number-up"),
-                                        QStringLiteral("number-up-layout"),
-                                        QStringLiteral("orientation-requested"),
-                                        QStringLiteral("outputorder"),
-                                        QStringLiteral("page-border"),
-                                        QStringLiteral("page-bottom"),
-                                        QStringLiteral("page-left"),
-                                        QStringLiteral("page-ranges"),
-                                        QStringLiteral("page-right"),
-                                        QStringLiteral("page-set"),
-                                        QStringLiteral("page-top"),
-                                        QStringLiteral("position"),
-                                        QStringLiteral("ppi"),
-                                        QStringLiteral("prettyprint"),
-                                        QStringLiteral("print-scaling"),
-                                        QStringLiteral("scaling"),
-                                        QStringLiteral("wrap")};
+    static const QStringList names =
+        QStringLiteral("collate columns copies cpi fit-to-page fitplot fill crop-to-fit job-account-id "
+                       "job-accounting-user-id job-billing job-cancel-after job-hold-until job-name "
+                       "job-password job-password-encryption job-priority job-sheets landscape lpi "
+                       "mirror multiple-document-handling natural-scaling number-up number-up-layout "
+                       "orientation-requested outputorder page-border page-bottom page-left "
+                       "page-ranges page-right page-set page-top position ppi prettyprint "
+                       "print-scaling scaling wrap")
+            .split(QLatin1Char(' '));
     return names.contains(name.toLower());
 }
 
