@@ -44,8 +44,7 @@ public:
     DialogSession *session() const { return m_session.get(); } // null if there is none
     // The last job that was accepted, or may have been; null if there was none.
     const std::optional<Submission> &submission() const { return m_jobs.submission(); }
-    // why the task failed, if open() could not report it
-    const PrintError &refusal() const { return m_refusal; }
+    const PrintError &refusal() const { return m_refusal; } // of the task, if open() could not report it
     const QString &jobTitle() const { return m_documentChoice.title(); } // null unless the user can choose it
     // Whether the window shows its final state: no printer is being opened, and no panel queries its device.
     bool isSettled() const { return !m_opener.isBusy() && !m_wait.isUnderWay(); }
@@ -64,8 +63,7 @@ public Q_SLOTS:
     void reject() override;
     void done(int result) override;
     void loadPrinterList() { m_news.loadList(); }
-    // Does the work that can wait until the window is visible.
-    void finishLater();
+    void finishLater(); // the work that can wait until the window is visible
 
 protected:
     void showEvent(QShowEvent *event) override;

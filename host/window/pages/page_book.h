@@ -34,8 +34,7 @@ public:
     PageBook(DocumentChoice *documents, QWidget *parent);
     ~PageBook() override;
 
-    // Starts the preview, once the window can be seen.
-    void beginPreview();
+    void beginPreview();                                 // when the window is visible
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
@@ -52,18 +51,14 @@ public:
     QWidget *builtPage(int row) const;
     // Shows a page, unless the current one must not be left. While its panel asks a device, it is disabled.
     void showPage(int row);
-    // Moves `steps` pages on, as far as there are any.
-    void turn(int steps);
-    // Brings every page to what the session holds now.
-    void refresh();
-    // Marks what has changed.
-    void showChanges();
+    void turn(int steps); // shows the page that many rows further, or the last one in that direction
+    void refresh();       // shows the current settings of the session on every page
+    void showChanges();   // marks the changed settings
     // Opens the view of the current panel that holds a control.
     void openViewOf(QWidget *control);
     // Shows the control of a setting, or at least its page, and gives it the focus.
     void leadTo(const QString &key);
-    // Pixels that show the current page without scrolling; 0 × 0 without a page.
-    QSize wantedSize() const;
+    QSize wantedSize() const; // in pixels, to show the current page without scrolling; 0 × 0 without a page
     PageList *list() const { return m_list; }
     QStackedWidget *stack() const { return m_stack; } // shows one page at a time
     QWidget *pages() const { return m_area; }         // holds the stack, and the preview beside it
