@@ -60,7 +60,7 @@ ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
 {
     const PpdDocument *ppd = session.ppd();
     const Protection::Secret *secret = session.protection().secretOf(setting.key);
-    const int panel = session.panelOfSetting(setting.key);
+    const int panel = session.panels().ofSetting(setting.key);
     if (secret && ppd)
         setting.text =
             ChosenText::tr("the code for “%1”").arg(ppd->described(secret->option, secret->choice).text());
@@ -69,7 +69,7 @@ ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
     else if (ppd && ppd->hasOption(setting.key))
         setting.text = ppd->described(setting.key, setting.value).text();
     else if (panel >= 0)
-        setting.text = ChosenText::tr("settings of “%1”").arg(session.panel(panel)->panelName());
+        setting.text = ChosenText::tr("settings of “%1”").arg(session.panels().panel(panel)->panelName());
     else if (setting.isSecret)
         setting.text = setting.key;
     else

@@ -141,7 +141,7 @@ void DialogSession::leaveOutForbidden()
 void DialogSession::lockPages()
 {
     for (int i = 0; i < m_panels.count(); ++i) {
-        for (const QString &keyword : isPanelLocked(i) ? panelKeywords(i) : QStringList()) {
+        for (const QString &keyword : isPanelLocked(i) ? m_panels.keywords(i) : QStringList()) {
             const auto option = m_ppd->option(keyword);
             if (!option)
                 continue;
@@ -189,7 +189,7 @@ void DialogSession::keepLocked(int panel, const QString &key)
 
 void DialogSession::prepare(int index)
 {
-    if (isRestored(index))
+    if (m_panels.isRestored(index))
         return;
     for (int i = 0; i < index; ++i) {
         m_panels.announceChoices(i);
@@ -202,19 +202,15 @@ void DialogSession::prepare(int index)
 void DialogSession::save()
 {
     for (int i = 0; i < m_panels.count(); ++i) {
-        if (isRestored(i) && !m_panels.isRestoring(i))
-            savePanel(i);
+        if (!m_panels.isRestored(i) || m_panels.isRestoring(i))
+            continue;
+        const QVariantMap before = m_host.settings().values();
+        m_panels.save(i);
+        const QString dropped = droppedSettings(*m_panels.panel(i), before, m_host.settings());
+        if (!dropped.isNull())
+            addNotice(dropped);
     }
     settle();
-}
-
-void DialogSession::savePanel(int index)
-{
-    const QVariantMap before = m_host.settings().values();
-    m_panels.save(index);
-    const QString dropped = droppedSettings(*panel(index), before, m_host.settings());
-    if (!dropped.isNull())
-        addNotice(dropped);
 }
 
 QStringList DialogSession::otherKeywords() const
@@ -224,7 +220,7 @@ QStringList DialogSession::otherKeywords() const
         return others;
     const QStringList general = generalOptionKeywords(*m_ppd);
     for (const QString &keyword : m_ppd->optionKeywords()) {
-        const bool shown = general.contains(keyword) || panelOfKeyword(keyword) >= 0;
+        const bool shown = general.contains(keyword) || m_panels.ofKeyword(keyword) >= 0;
         if (!shown && !m_ppd->isInstallable(keyword) && keyword != QLatin1String("Collate"))
             others.append(keyword);
     }
@@ -354,8 +350,8 @@ QList<SummarySection> DialogSession::summary()
     settle();
     QList<SummarySection> sections{generalSummary(*this)};
     for (int i = 0; i < m_panels.count(); ++i) {
-        SummarySection section{panel(i)->panelName(), {}, i};
-        const QMap<QString, QString> info = panel(i)->summaryInfo();
+        SummarySection section{m_panels.panel(i)->panelName(), {}, i};
+        const QMap<QString, QString> info = m_panels.panel(i)->summaryInfo();
         for (auto it = info.begin(); it != info.end(); ++it)
             section.entries.append({it.key(), it.value()});
         if (!section.entries.isEmpty())

@@ -34,8 +34,7 @@ class DialogSession : public QObject
 {
     Q_OBJECT
 public:
-    // `ppd` may be null. Marks the choices of the destination's options, and applies the policy for its
-    // queue.
+    // `ppd` may be null. Marks the choices of the destination's options, and applies the policy.
     DialogSession(const Destination &destination, std::unique_ptr<PpdDocument> ppd);
     ~DialogSession() override;
 
@@ -51,30 +50,19 @@ public:
     const Locks &locks() const { return m_locks; }      // no setter of this class violates them
     // The user's default or preset setting that was ignored because of the policy; no error if there is none.
     const PrintError &brokenLock() const { return m_brokenLock; }
-    bool isPanelLocked(int index) const { return m_rule.locksPanel(panel(index)->panelKind()); }
+    const SessionPanels &panels() const { return m_panels; }
+    bool isPanelLocked(int index) const { return m_rule.locksPanel(m_panels.panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
     const GeneralSettings &general() const { return m_general; }
     const GeneralSettings &startingGeneral() const { return m_startingGeneral; } // before the first choice
-    int panelCount() const { return m_panels.count(); }
-    platform::PrintDialogPanel *panel(int index) const { return m_panels.at(index).panel.get(); }
-    QStringList panelKeywords(int index) const { return m_panels.at(index).keywords; }
-    bool isRestored(int index) const { return m_panels.at(index).restored; }
-    // The panel that handles a PPD option, or -1.
-    int panelOfKeyword(const QString &keyword) const { return m_panels.ofKeyword(keyword); }
     // Whether the value of an option, a panel's key or a job option is a password or a code. It is then not
     // shown, stored, or passed to other programs.
     bool isSecret(const QString &key) const;
-    // The panel that has this key or key path, which is not a PPD option, or -1.
-    int panelOfSetting(const QString &keyPath) const { return m_panels.ofSetting(keyPath); }
-    // The keys and key paths of a panel that can be set, other than PPD options.
-    QStringList settableKeysOf(int panel) const { return m_panels.settableKeysOf(panel); }
-    // Prepares a panel for being shown or set: restores it once, after the panels before it have announced
-    // the choices of their options. Those panels are not restored, since a panel may query a device that is
-    // switched off.
+    // Restores a panel once, before it is shown or set. The panels before it announce the choices of their
+    // options but are not restored, since a panel may query a device that is switched off.
     void prepare(int index);
     void save(); // all restored panels
-    // Options of the PPD that are shown neither on the general page nor by a panel, without those for
-    // installed units.
+    // PPD options that neither the general page nor a panel shows, without those for installed units.
     QStringList otherKeywords() const;
 
     // Marks a choice of the user; panels with the option are updated. False if the PPD does not have the
@@ -91,14 +79,9 @@ public:
     // Changes that the user did not request, and errors, since the last call. Localised.
     QStringList takeNotices();
     void addNotice(const QString &notice);
-
-    // The sections of the summary. Panels that have not been restored are notified of the choices of their
-    // options first.
+    // Notifies panels that have not been restored of the choices of their options first.
     QList<SummarySection> summary();
     QList<JobOption> jobOptions() const; // sent with the job; see host/session/job_options.h
-
-    // The job's settings other than PPD options.
-    const platform::PrintSettings &printSettings() const { return m_host.settings(); }
     PanelHost *panelHost() { return &m_host; }
 
 Q_SIGNALS:
@@ -107,14 +90,11 @@ Q_SIGNALS:
 private:
     friend class StateKeeper; // sets values that front ends must not set
 
-    // Marks a choice in the PPD and records it; panels are not updated. The setting is changed to the PPD's
-    // spelling. False if the PPD does not have the choice, or the policy has fixed another one.
     bool mark(ChosenSetting *setting);
     void panelKeyChanged(int panel, const QString &key);
     void keepLocked(int panel, const QString &key);
     void leaveOutForbidden();
     void lockPages();
-    void savePanel(int index);
     void noteAnnounced(const QString &keyword);
     void settle(); // processes the changes that panels have announced, after their calls have returned
     void settleLater();
@@ -125,8 +105,7 @@ private:
     Locks m_locks;
     PrintError m_brokenLock;
     PanelHost m_host;
-    GeneralSettings m_general;
-    GeneralSettings m_startingGeneral;
+    GeneralSettings m_general, m_startingGeneral;
     Protection m_protection;
     mutable std::optional<SecretSettings> m_secrets; // determined on first use
     ChosenSettings m_chosen;

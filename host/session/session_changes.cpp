@@ -66,8 +66,8 @@ QList<SettingChange> changesBetween(const DialogSession &session, const SessionS
     addGeneralChanges(before.general, after.general, &changes);
     for (const QString &key : before.differencesTo(after)) {
         SettingChange change;
-        if (const int panel = panelInKey(key); panel >= 0 && panel < session.panelCount())
-            change = {key, session.panel(panel)->panelName(), {}, {}};
+        if (const int panel = panelInKey(key); panel >= 0 && panel < session.panels().count())
+            change = {key, session.panels().panel(panel)->panelName(), {}, {}};
         else if (jobSettingNames().contains(key))
             change = {key, jobSettingText(key),
                       jobValueText(key, jobSettingValue(before.chosen, before.destinationOptions, key)),
@@ -91,22 +91,22 @@ int pageOf(const DialogSession &session, const QString &key)
         return jobPage;
     if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key))
         return generalPage;
-    if (const int panel = session.panelOfKeyword(key); panel >= 0)
+    if (const int panel = session.panels().ofKeyword(key); panel >= 0)
         return panel;
     return generalOptionKeywords(*session.ppd()).contains(key) ? generalPage : morePage;
 }
 
 QStringList keysOfControl(const DialogSession &session, int panel, const QString &keyPath)
 {
-    const QStringList keywords = session.panelKeywords(panel);
+    const QStringList keywords = session.panels().keywords(panel);
     const QString choice = QStringLiteral("Choice");
     if (keywords.contains(keyPath))
         return {keyPath};
     if (keyPath.endsWith(choice) && keywords.contains(keyPath.chopped(choice.size())))
         return {keyPath.chopped(choice.size())};
-    if (!session.settableKeysOf(panel).contains(keyPath))
+    if (!session.panels().settableKeysOf(panel).contains(keyPath))
         return {};
-    QStringList parts = session.panel(panel)->keyValueObject()->keysOfDependentKey(keyPath);
+    QStringList parts = session.panels().panel(panel)->keyValueObject()->keysOfDependentKey(keyPath);
     parts.removeIf([&](const QString &part) { return !keywords.contains(part); });
     return parts.isEmpty() ? QStringList(QStringLiteral("%1/%2").arg(panel).arg(keyPath)) : parts;
 }

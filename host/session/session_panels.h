@@ -27,7 +27,10 @@ public:
     void clear() { m_panels.clear(); }
     int count() const { return static_cast<int>(m_panels.size()); }
     const SessionPanel &at(int index) const { return m_panels.at(static_cast<size_t>(index)); }
+    platform::PrintDialogPanel *panel(int index) const { return at(index).panel.get(); }
     platform::KeyValueObject *objectOf(int index) const { return at(index).panel->keyValueObject(); }
+    const QStringList &keywords(int index) const { return at(index).keywords; } // PPD options that it handles
+    bool isRestored(int index) const { return at(index).restored; }
     // The panel that handles a PPD option, or -1.
     int ofKeyword(const QString &keyword) const;
     // The panel that has this key or key path, which is not a PPD option, or -1.

@@ -117,16 +117,16 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
         if (!ppd->isInstallable(keyword))
             state.marks.insert(keyword, ppd->markedChoice(keyword));
     }
-    for (int i = 0; i < session.panelCount(); ++i) {
-        if (!session.isRestored(i))
+    for (int i = 0; i < session.panels().count(); ++i) {
+        if (!session.panels().isRestored(i))
             continue;
         platform::KeyValueObject *object = session.m_panels.objectOf(i);
-        for (const QString &keyword : session.panelKeywords(i)) {
+        for (const QString &keyword : session.panels().keywords(i)) {
             const QVariant choice = object->valueForKey(keyword);
             if (choice.isValid() && state.marks.contains(keyword))
                 state.marks.insert(keyword, choice.toString());
         }
-        for (const QString &key : session.settableKeysOf(i)) {
+        for (const QString &key : session.panels().settableKeysOf(i)) {
             if (object->keysOfDependentKey(key).isEmpty()) // other properties represent options
                 state.panelValues.insert(QStringLiteral("%1/%2").arg(i).arg(key),
                                          object->valueForKeyPath(key));
@@ -201,8 +201,8 @@ void StateKeeper::bring(const SessionState &from, const SessionState &to)
     const bool isReadAnew = bringPrintSettings(from, to) && keys.isEmpty();
     m_session->settle();
     m_session->m_notices = notices;
-    for (int i = 0; i < m_session->panelCount(); ++i) {
-        if (isReadAnew && m_session->isRestored(i))
+    for (int i = 0; i < m_session->panels().count(); ++i) {
+        if (isReadAnew && m_session->panels().isRestored(i))
             m_session->m_panels.restore(i);
     }
     const QStringList problems = m_session->m_notices;

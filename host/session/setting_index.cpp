@@ -90,12 +90,12 @@ void SettingIndex::addSession(const DialogSession &session)
     const QStringList generalKeywords = generalOptionKeywords(*session.ppd());
     for (const QString &keyword : generalKeywords)
         addOption(session, general, keyword);
-    for (int i = 0; i < session.panelCount(); ++i) {
-        if (!session.panel(i)->panelView())
+    for (int i = 0; i < session.panels().count(); ++i) {
+        if (!session.panels().panel(i)->panelView())
             continue;
-        for (const QString &keyword : session.panelKeywords(i)) {
+        for (const QString &keyword : session.panels().keywords(i)) {
             if (!generalKeywords.contains(keyword)) // found once with its choices
-                addOption(session, session.panel(i)->panelKind(), keyword);
+                addOption(session, session.panels().panel(i)->panelKind(), keyword);
         }
     }
     for (const QString &keyword : session.otherKeywords())

@@ -79,7 +79,7 @@ bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintErr
 
 bool setOnPanel(DialogSession *session, int panel, const ChosenSetting &setting, PrintError *error)
 {
-    platform::PrintDialogPanel *subject = session->panel(panel);
+    platform::PrintDialogPanel *subject = session->panels().panel(panel);
     if (session->isPanelLocked(panel)) {
         *error = {PrintError::Kind::NotAuthorised,
                   SettingText::tr("“%1” cannot be changed here. %2")
@@ -87,7 +87,7 @@ bool setOnPanel(DialogSession *session, int panel, const ChosenSetting &setting,
         return false;
     }
     session->prepare(panel);
-    const QString problem = setPanelValue(subject->keyValueObject(), session->panelKeywords(panel),
+    const QString problem = setPanelValue(subject->keyValueObject(), session->panels().keywords(panel),
                                           *session->ppd(), setting.key, setting.value);
     if (!problem.isEmpty())
         return refuse(error, problem);
@@ -120,7 +120,7 @@ bool setOption(DialogSession *session, ChosenSetting setting, PrintError *error)
     } else if (!option->hasChoice(choice)) {
         return refuseChoice(*session, *option, setting, error);
     }
-    const int panel = session->panelOfKeyword(option->keyword);
+    const int panel = session->panels().ofKeyword(option->keyword);
     if (panel < 0 || !session->isPanelLocked(panel)) {
         *error = session->locks().refusal(session->ppd(), option->keyword, choice);
         if (*error)
@@ -189,7 +189,7 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
                refuse(error, SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key)));
     if (session->ppd() && session->ppd()->hasOption(key))
         return setOption(session, setting, error);
-    if (const int panel = session->panelOfSetting(key); panel >= 0)
+    if (const int panel = session->panels().ofSetting(key); panel >= 0)
         return setOnPanel(session, panel, setting, error);
     return refuse(error, SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
 }
@@ -197,7 +197,7 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
 bool hasSetting(const DialogSession &session, const QString &key)
 {
     return GeneralSettings::covers(key) || isLayout(session, key) ||
-           (session.ppd() && session.ppd()->hasOption(key)) || session.panelOfSetting(key) >= 0;
+           (session.ppd() && session.ppd()->hasOption(key)) || session.panels().ofSetting(key) >= 0;
 }
 
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
@@ -207,9 +207,9 @@ QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
                               QStringLiteral("page-ranges")};
     for (const QString &name : general + PageLayoutSettings::names())
         keys.append({QStringLiteral("general"), name});
-    for (int i = 0; i < session.panelCount(); ++i) {
-        for (const QString &key : session.settableKeysOf(i))
-            keys.append({session.panel(i)->panelKind(), key});
+    for (int i = 0; i < session.panels().count(); ++i) {
+        for (const QString &key : session.panels().settableKeysOf(i))
+            keys.append({session.panels().panel(i)->panelKind(), key});
     }
     return keys;
 }

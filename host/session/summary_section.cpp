@@ -64,7 +64,7 @@ SummarySection generalSummary(const DialogSession &session)
     for (const SettingWords &words : generalWords(session.general(), false))
         section.entries.append({words.name, words.value});
     QStringList keywords = session.ppd() ? generalOptionKeywords(*session.ppd()) : QStringList();
-    keywords.removeIf([&](const QString &keyword) { return session.panelOfKeyword(keyword) >= 0; });
+    keywords.removeIf([&](const QString &keyword) { return session.panels().ofKeyword(keyword) >= 0; });
     addOptions(session, keywords, &section);
     return section;
 }

@@ -300,9 +300,9 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 
 void PrintWindow::showSession()
 {
-    for (int i = 0; i < m_session->panelCount(); ++i)
-        connect(m_session->panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, &m_messages,
-                &SessionMessages::checkLater);
+    for (int i = 0; i < m_session->panels().count(); ++i)
+        connect(m_session->panels().panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange,
+                &m_messages, &SessionMessages::checkLater);
     m_settings->setSession(m_session.get());
     m_messages.setSession(m_session.get(), m_settings->history());
     m_book->setSession(m_session.get(), m_settings->history());

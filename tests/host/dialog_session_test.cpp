@@ -223,7 +223,7 @@ void DialogSessionTest::panelSettingsOfAPresetBecomePrintSettings()
     Destination printer = officePrinter();
     printer.options = {{u"com.example.profile"_s, u"3"_s}};
     makeSession(printer);
-    QCOMPARE(m_session->printSettings().value(u"com.example.profile"_s), QVariant(u"3"_s));
+    QCOMPARE(m_session->panelHost()->settings().value(u"com.example.profile"_s), QVariant(u"3"_s));
     QCOMPARE(sentValue(m_session->jobOptions(), u"com.example.profile"_s), u"3"_s);
     PMPrintSettingsSetValue(m_session->panelHost()->printSettings(), u"com.example.profile"_s, {}, false);
     QVERIFY(sentValue(m_session->jobOptions(), u"com.example.profile"_s).isNull());
@@ -411,7 +411,7 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
     Extensions extensions({broken.folder(), codeless.folder()});
     DialogSession session(officePrinter(), openPpd(officePpd()));
     session.loadPanels(extensions);
-    QCOMPARE(session.panelCount(), 0);
+    QCOMPARE(session.panels().count(), 0);
     const QStringList notices = session.takeNotices();
     QCOMPARE(notices.size(), 2);
     QVERIFY2(notices.at(0).contains(broken.folder()), qPrintable(notices.at(0)));

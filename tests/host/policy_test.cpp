@@ -406,9 +406,9 @@ void PolicyTest::panelKeepsWhatIsLocked()
     QTRY_VERIFY(m_window->session());
     DialogSession *session = m_window->session();
     auto *book = find<PageBook>();
-    const int mode = session->panelOfKeyword(u"PrintMode"_s);
+    const int mode = session->panels().ofKeyword(u"PrintMode"_s);
     book->turn(mode + 1);
-    auto *panel = session->panel(mode)->keyValueObject();
+    auto *panel = session->panels().panel(mode)->keyValueObject();
     QCOMPARE(panel->valueForKey(u"PrintMode"_s), u"Private"_s);
     QVERIFY(shows(u"Fixed: "_s));
     const auto *box = find<platform::ChoiceBox>(u"printModePopUp"_s);
@@ -418,10 +418,10 @@ void PolicyTest::panelKeepsWhatIsLocked()
     QTRY_COMPARE(panel->valueForKey(u"PrintMode"_s), u"Private"_s);
     QVERIFY(find<MessageBar>()->text().contains(u"Set by the administrator."_s));
 
-    const int colours = session->panelOfKeyword(u"ColorBalanceCyan"_s);
+    const int colours = session->panels().ofKeyword(u"ColorBalanceCyan"_s);
     book->turn(colours - mode);
     QVERIFY(shows(u"These settings cannot be changed. "_s));
-    QVERIFY(!session->panel(colours)->panelView()->isEnabled());
+    QVERIFY(!session->panels().panel(colours)->panelView()->isEnabled());
     QVERIFY(!session->markChoice(u"ColorBalanceCyan"_s, u"1"_s));
     printButton()->click(); // without the code, which is asked for
     QVERIFY(find<MessageBar>()->text().contains(u"no code has been given"_s));

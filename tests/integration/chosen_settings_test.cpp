@@ -137,8 +137,9 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
                                              {u"privatePassword"_s, u"12345"_s},
                                              {u"job-priority"_s, u"70"_s, ChosenSetting::Kind::JobOption}});
     window.book()->showPage(window.book()->pageNamed(u"color-settings-2"_s));
-    const int panel = window.session()->panelOfKeyword(u"SharpnessVRN"_s);
-    window.session()->panel(panel)->keyValueObject()->setValueForKey(u"2"_s, u"SharpnessVRN"_s); // a slider
+    const int panel = window.session()->panels().ofKeyword(u"SharpnessVRN"_s);
+    window.session()->panels().panel(panel)->keyValueObject()->setValueForKey(u"2"_s,
+                                                                              u"SharpnessVRN"_s); // a slider
     pick(u"small"_s);
     QCOMPARE(window.book()->currentName().section(u'.', -1), u"color-settings-2"_s);
     const QString text = window.messageBar()->text();
@@ -246,9 +247,9 @@ void ChosenSettingsTest::windowAsksForAMissingCode()
     QFETCH(QString, anyway);
     for (const bool isGiven : {true, false}) {
         PrintWindow &window = open(u"office"_s);
-        const int panel = window.session()->panelOfKeyword(option);
+        const int panel = window.session()->panels().ofKeyword(option);
         window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
-        window.session()->panel(panel)->keyValueObject()->setValueForKey(choice, option);
+        window.session()->panels().panel(panel)->keyValueObject()->setValueForKey(choice, option);
         window.book()->showPage(0);
         for (int i = 0; i < 2; ++i) { // each time
             window.print();

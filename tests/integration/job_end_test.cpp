@@ -126,7 +126,7 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
     PrintError error;
     QVERIFY(window.open(&error));
     window.show();
-    QTRY_VERIFY(window.session() && window.session()->panelCount() == 3);
+    QTRY_VERIFY(window.session() && window.session()->panels().count() == 3);
     QVERIFY(window.session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
 
     m_server.stop();

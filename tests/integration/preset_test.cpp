@@ -178,7 +178,8 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
     window.show();
     QTRY_VERIFY(window.session() && QTest::qWaitForWindowActive(&window));
     const PpdDocument *ppd = window.session()->ppd();
-    auto *balance = window.session()->panel(window.session()->panelOfKeyword(u"ColorBalanceCyan"_s));
+    auto *balance =
+        window.session()->panels().panel(window.session()->panels().ofKeyword(u"ColorBalanceCyan"_s));
     balance->keyValueObject()->setValueForKey(u"2"_s, u"ColorBalanceCyan"_s);
     auto *button = window.findChild<QPushButton *>(u"presets"_s);
     QTRY_VERIFY(button->menu());
@@ -189,12 +190,12 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
             action->trigger();
     }
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Mono0"_s);
-    QCOMPARE(window.session()->printSettings().value(rgbSource).toString(), u"3"_s);
+    QCOMPARE(window.session()->panelHost()->settings().value(rgbSource).toString(), u"3"_s);
     QVERIFY2(window.messageBar()->text().contains(u"Staple"_s), qPrintable(window.messageBar()->text()));
     QTest::keyClick(window.book()->list(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Auto2"_s);
     QCOMPARE(balance->keyValueObject()->valueForKey(u"ColorBalanceCyan"_s).toString(), u"2"_s);
-    QVERIFY(!window.session()->printSettings().value(rgbSource).isValid());
+    QVERIFY(!window.session()->panelHost()->settings().value(rgbSource).isValid());
     QTest::keyClick(window.book()->list(), Qt::Key_Y, Qt::ControlModifier);
     window.print();
     QTRY_VERIFY(window.submission());

@@ -166,7 +166,7 @@ void PseudoLocaleTest::everyPage()
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QTRY_VERIFY(m_window->session());
-    QCOMPARE(m_window->session()->panelCount(), 3);
+    QCOMPARE(m_window->session()->panels().count(), 3);
     m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     m_window->print();

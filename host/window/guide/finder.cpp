@@ -75,8 +75,8 @@ void Finder::addPages(SettingIndex *index) const
 {
     const DialogSession *session = m_book->session();
     QHash<QString, platform::PrintDialogPanel *> panels;
-    for (int i = 0; i < session->panelCount(); ++i)
-        panels.insert(session->panel(i)->panelKind(), session->panel(i));
+    for (int i = 0; i < session->panels().count(); ++i)
+        panels.insert(session->panels().panel(i)->panelKind(), session->panels().panel(i));
     for (int row = 0; row < m_book->list()->count(); ++row) {
         const QString name = m_book->nameOf(row);
         platform::PrintDialogPanel *panel = panels.value(name);

@@ -25,9 +25,9 @@ namespace {
 // Of the panel whose page this is; null where it has none.
 QString panelHelp(const DialogSession &session, const QString &page)
 {
-    for (int i = 0; i < session.panelCount(); ++i) {
-        auto *help = dynamic_cast<platform::PanelHelp *>(session.panel(i));
-        if (help && session.panel(i)->panelKind() == page)
+    for (int i = 0; i < session.panels().count(); ++i) {
+        auto *help = dynamic_cast<platform::PanelHelp *>(session.panels().panel(i));
+        if (help && session.panels().panel(i)->panelKind() == page)
             return help->helpText();
     }
     return {};

@@ -39,10 +39,10 @@ OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGri
 void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
 {
     const auto option = m_session->ppd()->option(keyword);
-    const int panel = m_session->panelOfKeyword(keyword);
+    const int panel = m_session->panels().ofKeyword(keyword);
     if (!option || (option->choices.isEmpty() && !option->custom) ||
         m_session->rule().hiddenOptions.contains(keyword) ||
-        (panel >= 0 && m_session->rule().hidesPanel(m_session->panel(panel)->panelKind())))
+        (panel >= 0 && m_session->rule().hidesPanel(m_session->panels().panel(panel)->panelKind())))
         return;
     auto *box = new platform::ChoiceBox(grid->parentWidget());
     box->setMinimumWidth(boxWidth);

@@ -52,7 +52,7 @@ QString policyNote(const DialogSession &session, int panel)
     if (session.isPanelLocked(panel))
         return PageBook::tr("These settings cannot be changed. %1").arg(attribution);
     QStringList fixed;
-    for (const QString &keyword : session.panelKeywords(panel)) {
+    for (const QString &keyword : session.panels().keywords(panel)) {
         const QString choice = session.rule().lockedChoice(session.ppd(), keyword);
         if (!choice.isNull())
             fixed.append(session.ppd()->described(keyword, choice).text());
@@ -66,7 +66,7 @@ QString policyNote(const DialogSession &session, int panel)
 void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, PageFrame *frame)
 {
     QList<QWidget *> locked, hidden;
-    for (const QString &keyword : session.panelKeywords(panel)) {
+    for (const QString &keyword : session.panels().keywords(panel)) {
         if (session.rule().hiddenOptions.contains(keyword))
             hidden += marks->controlsOf(keyword);
         else if (!session.rule().lockedChoice(session.ppd(), keyword).isNull())
@@ -178,11 +178,12 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
         return std::all_of(keywords.begin(), keywords.end(),
                            [&](const QString &keyword) { return rule.hiddenOptions.contains(keyword); });
     };
-    for (int i = 0; i < session->panelCount(); ++i) {
-        const QStringList keywords = session->panelKeywords(i);
-        if (session->panel(i)->panelView() && !rule.hidesPanel(session->panel(i)->panelKind()) &&
+    for (int i = 0; i < session->panels().count(); ++i) {
+        const QStringList keywords = session->panels().keywords(i);
+        if (session->panels().panel(i)->panelView() &&
+            !rule.hidesPanel(session->panels().panel(i)->panelKind()) &&
             (keywords.isEmpty() || !hidesAll(keywords)))
-            addPage(session->panel(i)->panelName(), session->panel(i)->panelKind(), i);
+            addPage(session->panels().panel(i)->panelName(), session->panels().panel(i)->panelKind(), i);
     }
     if (!hidesAll(session->otherKeywords()))
         addPage(tr("More Options"), moreName);
@@ -220,7 +221,7 @@ void PageBook::makeFrame(Page *page)
 QWidget *PageBook::contentOf(const Page &page)
 {
     if (page.panel >= 0)
-        return m_session->panel(page.panel)->panelView();
+        return m_session->panels().panel(page.panel)->panelView();
     if (page.name == generalName) {
         m_general = new GeneralPage(m_session, m_documents);
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
@@ -339,7 +340,7 @@ void PageBook::prepare(const Page &page)
     const auto paused = m_history->pause();
     const QScopedValueRollback<bool> preparing(m_isPreparing, true);
     m_session->prepare(page.panel);
-    m_session->panel(page.panel)->willShow();
+    m_session->panels().panel(page.panel)->willShow();
     page.frame->setWaiting({});
 }
 
@@ -354,7 +355,7 @@ bool PageBook::leave()
     if (m_current < 0)
         return true;
     const int panel = m_pages[static_cast<size_t>(m_current)].panel;
-    if (panel >= 0 && !m_session->panel(panel)->shouldHide())
+    if (panel >= 0 && !m_session->panels().panel(panel)->shouldHide())
         return false;
     m_session->save();
     Q_EMIT left();
@@ -416,7 +417,8 @@ void PageBook::showChanges()
 void PageBook::openViewOf(QWidget *control)
 {
     const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
-    auto *views = panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panel(panel));
+    auto *views =
+        panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panels().panel(panel));
     if (views && views->offersViewOf(control))
         views->showViewOf(control);
 }

@@ -37,7 +37,8 @@ QString keyOf(const DialogSession &session, int panel, const QString &name)
         if (!general.isEmpty() || !session.ppd())
             return general;
     }
-    const QStringList keywords = panel >= 0 ? session.panelKeywords(panel) : session.ppd()->optionKeywords();
+    const QStringList keywords =
+        panel >= 0 ? session.panels().keywords(panel) : session.ppd()->optionKeywords();
     for (const QString &keyword : keywords) {
         if (session.ppd()->described(keyword, {}).optionText == name)
             return keyword;
@@ -68,7 +69,7 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         for (const auto &[name, value] : section.entries)
             part.lines.append({name, value, keyOf(session, section.panel, name)});
         if (section.panel >= 0) { // whose lines come in the order of the alphabet
-            const QStringList keywords = session.panelKeywords(section.panel);
+            const QStringList keywords = session.panels().keywords(section.panel);
             std::stable_sort(part.lines.begin(), part.lines.end(), [&](const Line &a, const Line &b) {
                 return keywords.indexOf(a.key) < keywords.indexOf(b.key);
             });
@@ -92,7 +93,7 @@ void SummaryPage::showChanged(const DialogSession &session, const QList<SettingC
     m_changed.clear();
     for (const SettingChange &change : changes) {
         const int page = pageOf(session, change.key);
-        const QString title = page >= 0          ? session.panel(page)->panelName()
+        const QString title = page >= 0          ? session.panels().panel(page)->panelName()
                               : page == morePage ? moreSummary(session).title
                               : page == jobPage  ? jobSummary(session).title
                                                  : m_all.first().title;
