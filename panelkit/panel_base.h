@@ -54,7 +54,7 @@ public:
     void setManager(std::shared_ptr<QVPDEManager_M880> manager);
     QString panelName() override;
     void setPanelName(const QString &name);
-    QString helpText() override; // the help page that is called as the last part of the panel's kind
+    QString helpText() override; // the help page named after the last part of the panel's kind
     // One or two sentences on an option or key: the bundle's text for its name and "?"; null without one.
     QString explanationForKey(const QString &key) const;
     QString panelKind() override { return m_panelKind; }

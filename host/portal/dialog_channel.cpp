@@ -74,7 +74,7 @@ void DialogChannel::read(QSocketNotifier *notifier)
 void DialogChannel::write(const QJsonObject &answer)
 {
     const QByteArray line = QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
-    // The service may have gone.
+    // The service may have exited.
     (void)platform::writeAll(m_answers.get(), {line.constData(), static_cast<size_t>(line.size())});
 }
 

@@ -15,7 +15,7 @@ NewFile::NewFile(const QByteArray &path, mode_t mode, const struct stat *earlier
 {
     if (!m_fd || !earlier)
         return;
-    // A file that changes its owner keeps no special bits.
+    // A file whose owner changes loses its special permission bits.
     const bool isTheirs = ::fchown(m_fd.get(), earlier->st_uid, earlier->st_gid) == 0;
     setMode(earlier->st_mode & (isTheirs ? 07777 : 0777));
 }

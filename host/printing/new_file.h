@@ -12,30 +12,29 @@ struct stat;
 
 namespace host {
 
-// A file that takes the place of another one whole or not at all. It is made in the same folder and removed
-// again with this object unless it has taken its place. Every operation blocks, and leaves the reason for a
-// failure in errno.
+// A file that replaces another one atomically. It is created in the same folder, and removed with this object
+// unless it has replaced the other file. All functions block, and set errno on failure.
 class NewFile
 {
 public:
-    // Gets the permissions and, where that is allowed, the owner of `earlier`, the file that it replaces.
-    // Null for no such file: it then gets `mode`, less the process's umask.
+    // Sets the permissions and, if allowed, the owner of `earlier`, the file to be replaced. If it is null,
+    // the file gets `mode`, less the process's umask.
     NewFile(const QByteArray &path, mode_t mode, const struct stat *earlier);
     ~NewFile();
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;
 
-    // Sets the permissions whatever the umask is.
+    // Sets the permissions regardless of the umask.
     void setMode(mode_t mode);
-    // Writes all of the content, to the disk.
+    // Writes all of the content to the disk.
     bool write(QByteArrayView content);
-    // A link that has the name meanwhile is replaced, not followed.
+    // Replaces the other file. A link that was created under its name meanwhile is replaced, not followed.
     bool takePlace();
 
 private:
     QByteArray m_path;
     QByteArray m_name;
-    platform::UniqueFd m_fd; // none where it could not be made, and after takePlace()
+    platform::UniqueFd m_fd; // none if it could not be created, and after takePlace()
 };
 
 } // namespace host

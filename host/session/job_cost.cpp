@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-// How many of the numbers from `first` to `last` are in the page set.
+// The number of pages from `first` to `last` that are in the page set.
 int countIn(const QString &pageSet, int first, int last)
 {
     if (last < first)
@@ -22,8 +22,8 @@ int countIn(const QString &pageSet, int first, int last)
     return pageSet == QLatin1String("even") ? last - first + 1 - odd : last - first + 1;
 }
 
-// Of a document with so many sides before the choice of pages. The ranges are normalized, so they do not
-// overlap.
+// The printed sides of a document that has this number of sides before pages are selected. The ranges are
+// normalized, so they do not overlap.
 int chosenSides(const GeneralSettings &general, int sides)
 {
     const QString pageSet = general.layout.value(QStringLiteral("page-set"));

@@ -26,7 +26,7 @@ struct Setting
 {
     QLatin1String name;
     QLatin1String usual; // the print system's default; empty for that of each document
-    QLatin1String sent;  // to the server in place of an empty value
+    QLatin1String sent;  // sent to the server instead of an empty value
     const char *text;
 };
 

@@ -39,7 +39,7 @@ Q_SIGNALS:
     // The choice of an option, or a print setting, is about to change. The actual change is known when the
     // call of the panel has returned.
     void changeAnnounced(const QString &keyword);
-    // Emitted directly: paint now, since the next thing blocks. Pairs may nest.
+    // Emitted directly: paint now, since the thread is about to block. Calls may nest.
     void blockingBegan(const QString &what);
     void blockingEnded();
     void failed(const QString &reason);

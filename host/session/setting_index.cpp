@@ -94,7 +94,7 @@ void SettingIndex::addSession(const DialogSession &session)
         if (!session.panels().panel(i)->panelView())
             continue;
         for (const QString &keyword : session.panels().keywords(i)) {
-            if (!generalKeywords.contains(keyword)) // found once with its choices
+            if (!generalKeywords.contains(keyword)) // found once, with its choices
                 addOption(session, session.panels().panel(i)->panelKind(), keyword);
         }
     }

@@ -49,7 +49,7 @@ QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual)
 QString keyOfGeneralEntry(const QString &name)
 {
     GeneralSettings several;
-    several.copies = 2; // for which collation is listed
+    several.copies = 2; // so that collation is listed
     for (const SettingWords &words : generalWords(several, true)) {
         if (name == words.name)
             return words.key;

@@ -21,14 +21,14 @@ struct SummarySection
 {
     QString title;
     QList<SummaryEntry> entries;
-    int panel = -1; // the panel; otherwise a page as pageOf() returns it
+    int panel = -1; // the panel; otherwise a page as returned by pageOf()
 };
 
 // The settings of the general page, without those that a panel shows.
 SummarySection generalSummary(const DialogSession &session);
-// The options of the PPD that no other page shows. The list of entries may be empty.
+// The options of the PPD that no other page shows. May be empty.
 SummarySection moreSummary(const DialogSession &session);
-// The settings of the Job page that differ from the usual ones. The list of entries may be empty.
+// The settings of the Job page that differ from the defaults. May be empty.
 SummarySection jobSummary(const DialogSession &session);
 // The general settings that are not PPD options, localised.
 QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual);

@@ -319,7 +319,7 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     const auto sheets = page->findChildren<QComboBox *>(u"job-sheets"_s);
     QCOMPARE(find<QComboBox>(u"job-priority"_s)->currentText(), u"High"_s);
     QCOMPARE(sheets.value(0)->currentText() + sheets.value(1)->currentText(), u"StandardNone"_s);
-    QVERIFY(sheets.value(0)->findText(u"acme"_s) >= 0); // of this server alone
+    QVERIFY(sheets.value(0)->findText(u"acme"_s) >= 0); // only on this server
     choose(u"job-priority"_s, u"100"_s);
     settle();
     choose(u"job-hold-until"_s, u"time"_s);
@@ -329,7 +329,7 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     settle();
     const QString hold = sent(u"job-hold-until"_s);
     const QDateTime moment(QDate::currentDate(), QTime(21, 30));
-    QCOMPARE(hold, moment.toUTC().time().toString(u"HH:mm"_s)); // the server counts in UTC
+    QCOMPARE(hold, moment.toUTC().time().toString(u"HH:mm"_s)); // the server uses UTC
     sheets.value(1)->setCurrentIndex(sheets.value(1)->findData(u"secret"_s));
     Q_EMIT sheets.value(1)->activated(0);
     settle();
@@ -346,7 +346,7 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
         undo();
     undo();
     QCOMPARE(sent(u"job-sheets"_s), u"standard"_s);
-    choose(u"job-priority"_s, u"75"_s); // the queue's own is not sent as a choice of the user
+    choose(u"job-priority"_s, u"75"_s); // the queue's default is not sent as a choice of the user
     QVERIFY(!window.session()->chosen().contains(u"job-priority"_s));
     window.print();
     settle();

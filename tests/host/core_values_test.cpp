@@ -95,7 +95,7 @@ void CoreValuesTest::pageIsToggled_data()
 {
     QTest::addColumn<QString>("ranges"); // of a document with 5 pages
     QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("toggled"); // null where no page would be left
+    QTest::addColumn<QString>("toggled"); // null if no page would be left
     QTest::newRow("first of all") << QString() << 1 << u"2-"_s;
     QTest::newRow("middle of all") << QString() << 3 << u"1-2,4-"_s;
     QTest::newRow("last of all") << QString() << 5 << u"1-4"_s;
@@ -122,7 +122,7 @@ void CoreValuesTest::pageIsToggled()
 void CoreValuesTest::finishIsFound_data()
 {
     QTest::addColumn<QMap<QString, QString>>("choices");
-    QTest::addColumn<QList<QPoint>>("staples"); // their middles, on the front, in percent
+    QTest::addColumn<QList<QPoint>>("staples"); // their centres on the front, in percent
     QTest::addColumn<QList<QPoint>>("holes");   // in percent
     QTest::addColumn<QList<QPoint>>("back");    // both, in percent
     using Map = QMap<QString, QString>;

@@ -14,7 +14,7 @@
 
 #include <algorithm>
 
-// Batch runs and dialogs under a policy, over the print system of the window's fixture. Base of a test.
+// Batch runs and dialogs with a policy, with the print system of the window's fixture. Base class of tests.
 class PolicyFixture : public WindowFixture
 {
 protected:

@@ -72,8 +72,8 @@ public Q_SLOTS:
     }
 };
 
-// The service on a private bus, and calls as the portal and the queue make them; a script replaces the
-// dialog. Base of a test.
+// The service on a private bus, called like the portal and the queue; a script replaces the dialog. Base
+// class of tests.
 class ServiceFixture : public QObject
 {
     Q_OBJECT
@@ -85,12 +85,12 @@ protected:
                              const QString &appId = {}, const QString &handle = {},
                              const QVariantMap &options = {{QStringLiteral("modal"), QStringLiteral("x")}});
     QDBusMessage openCall(const QByteArray &title);
-    // The process ids of the children of the service.
+    // The PIDs of the children of the service.
     QByteArray dialogProcesses() const;
     QDBusMessage printCall(uint token, const QString &appId = {}, const QString &title = QStringLiteral("T"));
     Answer call(const QDBusMessage &message);
     bool serviceIsGone() const { return m_service->state() == QProcess::NotRunning; }
-    // The requests that the dialogs have received, a line each.
+    // The requests that the dialogs have received, one per line.
     QByteArray log(const QString &suffix = {}) const;
     QJsonObject lastRequest() const;
 

@@ -22,8 +22,8 @@ constexpr qint64 longestGap = 100;
 constexpr qint64 longestReaction = 200;
 #endif
 
-// The dialog with its bundle, and a print server behind a proxy that can delay its answers. Measures whether
-// the dialog's thread remains responsive. Base of a test.
+// The dialog with its bundle, and a print server behind a proxy that can delay its responses. Measures
+// whether the dialog's thread remains responsive. Base class of tests.
 class AnswersFixture : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ protected:
 
     // Starts the server with its queues in a private network. Skips the test if that is not possible.
     void startServer();
-    // Ends a test: stops delaying answers, and checks what was measured.
+    // Ends a test: stops delaying responses, and checks the measurement.
     void checkGap();
     // Longer than the server's socket can buffer.
     void lengthenDocument();

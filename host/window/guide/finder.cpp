@@ -70,7 +70,7 @@ void Finder::buildIndex()
     addPages(&m_index);
 }
 
-// Views of panels are there before their page is.
+// Views of panels exist before their page is built.
 void Finder::addPages(SettingIndex *index) const
 {
     const DialogSession *session = m_book->session();
@@ -104,7 +104,7 @@ QString Finder::line(const FoundSetting &setting) const
     QStringList parts{m_book->titleOf(m_book->pageNamed(setting.page)), setting.option};
     if (!setting.choice.isEmpty())
         parts.append(setting.choiceText);
-    // The way goes as the window does, in whatever script its parts are.
+    // The path follows the layout direction of the window, whatever the script of its parts.
     const QChar mark(m_book->isRightToLeft() ? 0x200f : 0x200e);
     return parts.join(mark + QStringLiteral("  \u203a  ") + mark);
 }
@@ -116,7 +116,7 @@ void Finder::lead(const FoundSetting &setting)
     if (row < 0 || m_book->currentRow() != row)
         return;
     m_sought = setting;
-    QTimer::singleShot(0, this, &Finder::seek); // once the page has been laid out
+    QTimer::singleShot(0, this, &Finder::seek); // after the page has been laid out
 }
 
 void Finder::seek()
@@ -129,7 +129,7 @@ void Finder::seek()
         return;
     m_sought.reset();
     m_book->openViewOf(control);
-    control->show(); // a row that has just been built waits for its layout
+    control->show(); // a new row is hidden until it is laid out
     control->setFocus(Qt::OtherFocusReason);
     QTimer::singleShot(0, control, [page, control] {
         page->reveal(control);

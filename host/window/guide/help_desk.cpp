@@ -22,7 +22,7 @@ namespace host {
 
 namespace {
 
-// Of the panel whose page this is; null where it has none.
+// The help of the panel on this page; null if it has none.
 QString panelHelp(const DialogSession &session, const QString &page)
 {
     for (int i = 0; i < session.panels().count(); ++i) {
@@ -37,7 +37,7 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
 {
     QList<HelpPage::Explained> explained;
     for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
-        // A button and the field next to it may share a text.
+        // A button and the adjacent field may have the same text.
         const QString text = found.control->whatsThis();
         const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
                                         [&](const HelpPage::Explained &told) { return told.text == text; });
@@ -47,7 +47,7 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
     return explained;
 }
 
-// The program's own help on a topic, in the user's language or else in English; null where there is none.
+// The program's help on a topic, in the user's language or else in English; null if there is none.
 QString topicText(const QString &topic)
 {
     for (QString language : dialogLanguages() + QStringList(QStringLiteral("en"))) {

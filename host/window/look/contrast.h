@@ -9,26 +9,26 @@ class QPalette;
 
 namespace host {
 
-// How well one colour stands out from another, from 1 to 21, as accessibility guidelines measure it.
+// The contrast ratio of two colours, from 1 to 21, as defined by accessibility guidelines.
 qreal contrast(const QColor &a, const QColor &b);
 
-// One colour with a share, from 0 to 1, of another.
+// Mixes a color with a share, from 0 to 1, of another color.
 QColor mixed(const QColor &color, const QColor &other, float share);
 
-constexpr qreal textContrast = 4.5; // what text needs of its ground
-constexpr qreal markContrast = 3;   // what a sign or a frame needs
+constexpr qreal textContrast = 4.5; // required for text
+constexpr qreal markContrast = 3;   // required for marks and frames
 
-// The colour, made lighter or darker as far as it takes to stand out from a ground by `least`.
+// The colour, made lighter or darker until its contrast to the background is `least`.
 QColor legible(const QColor &ink, const QColor &ground, qreal least = textContrast);
 
-// Of secondary text on the window's ground: paler than other text, but not where the palette is one of high
-// contrast.
+// The color of secondary text on the window's background: paler than other text, except in a high-contrast
+// palette.
 QColor mutedInk(const QPalette &palette);
-// Of words that tell of an error, on the window's ground.
+// The colour of error texts on the window's background.
 QColor errorInk(const QPalette &palette);
-// Of the text of something that is highlighted.
+// The colour of highlighted text.
 QColor highlightInk(const QPalette &palette);
-// Of the frame around what has the focus; stands out from window and fields.
+// The colour of the focus frame, which contrasts with windows and fields.
 QColor focusInk(const QPalette &palette);
 
 } // namespace host

@@ -35,16 +35,17 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
       m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
       m_problem(new QLabel(this)), m_sides(new QLabel(this))
 {
-    // By the names that a job has for them.
+    // The names of the job options.
     m_copies->setObjectName(QStringLiteral("copies"));
     m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
     m_pages->setObjectName(QStringLiteral("page-ranges"));
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(24, 14, 24, 12);
     grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(6); // the whole page fits a screen of 768 lines
+    grid->setVerticalSpacing(6); // so that the whole page fits a screen with 768 lines
     grid->setColumnStretch(2, 1);
-    grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this)); // nothing moves when it is made
+    // so that nothing moves when the form is created
+    grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this));
     addDocuments(grid);
     addCopies(grid);
     addPages(grid);
@@ -59,7 +60,7 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     showSides();
 }
 
-// What is further down is made when the page can be seen already.
+// The lower part is created after the page is visible.
 void GeneralPage::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
@@ -67,7 +68,7 @@ void GeneralPage::paintEvent(QPaintEvent *event)
         QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
 }
 
-// Shows what has been added, in its place, before anything is painted again.
+// Shows new rows at their final positions before the next paint.
 void GeneralPage::settleLayout()
 {
     for (QWidget *child : findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -131,7 +132,7 @@ void GeneralPage::addDocuments(QGridLayout *grid)
         return;
     m_documentBox = new DocumentBox(m_documents, this);
     m_documentBox->setWhatsThis(explanationOf(QStringLiteral("documents")));
-    setTabOrder(this, m_documentBox); // it is above everything else
+    setTabOrder(this, m_documentBox); // it is above all other controls
     auto *label = new QLabel(tr("Documents:"), this);
     label->setBuddy(m_documentBox);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignTop);
@@ -182,7 +183,7 @@ void GeneralPage::addCopies(QGridLayout *grid)
     label->setBuddy(m_copies);
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     auto *row = new QHBoxLayout;
-    row->setSpacing(24); // the sign of a change has room
+    row->setSpacing(24); // space for the mark of a change
     row->addWidget(m_copies);
     row->addWidget(m_collate);
     row->addStretch(1);
@@ -266,7 +267,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
     return button;
 }
 
-// The print system counts the sides that come out where several pages are put on one.
+// The print system counts the printed sides if several pages are placed on one.
 void GeneralPage::showSides()
 {
     const int pages = m_session->general().layout.pagesPerSide();
@@ -278,7 +279,7 @@ void GeneralPage::pagesEdited()
 {
     const QString text = pagesProblem();
     m_problem->setText(text);
-    // While the user is still typing "3-" or "3," nothing is wrong yet.
+    // Incomplete input such as "3-" or "3," is not an error while the user is typing.
     const bool unfinished =
         m_pages->text().trimmed().endsWith(QLatin1Char(',')) || m_pages->text().trimmed().isEmpty();
     setProblemShown(!text.isEmpty() && !unfinished);
@@ -328,7 +329,7 @@ void GeneralPage::showProblem()
     m_pages->selectAll();
 }
 
-// Announced once for each problem, and kept as the description of the field.
+// Announced once for each problem, and set as the description of the field.
 void GeneralPage::setProblemShown(bool shown)
 {
     const QString problem = shown ? m_problem->text() : QString();
@@ -368,7 +369,7 @@ void GeneralPage::setRanges(const QString &ranges)
     showGeneral();
 }
 
-// What is being typed stays, as far as it says what is set.
+// Input is kept as long as it represents the current setting.
 void GeneralPage::showGeneral()
 {
     const GeneralSettings general = m_session->general();

@@ -56,7 +56,7 @@ int LayoutForm::labelWidth(const QWidget *page)
     int width = 0;
     for (const auto &[name, label] : rows())
         width = qMax(width, page->fontMetrics().horizontalAdvance(label));
-    return width + 2; // as a label has it
+    return width + 2; // as in a label
 }
 
 int LayoutForm::heightIn(const QGridLayout &grid, int controlHeight)
@@ -78,7 +78,7 @@ void LayoutForm::addRow(const QString &name, const QString &label, QGridLayout *
     box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
     auto *text = new QLabel(label, grid->parentWidget());
     text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    text->setBuddy(box); // by which screen readers name the box
+    text->setBuddy(box); // used by screen readers to name the box
     const int row = grid->rowCount();
     grid->addWidget(text, row, 0);
     grid->addWidget(box, row, 1);
@@ -116,7 +116,7 @@ void LayoutForm::refresh()
     const bool several = layout.pagesPerSide() > 1;
     for (const Row &row : std::as_const(m_rows)) {
         const QString value = layout.value(row.name);
-        // A default may be one that is seldom wanted and not offered.
+        // A default may be an uncommon value that is not offered.
         if (row.box->findData(value) < 0)
             row.box->addItem(layoutValueText(row.name, value), value);
         row.box->setCurrentIndex(row.box->findData(value));

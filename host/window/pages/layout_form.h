@@ -19,22 +19,21 @@ namespace host {
 
 class DialogSession;
 
-// Rows of a page for how pages are put on paper: pages per side with their order and border, orientation,
-// size, odd or even pages, reverse order. Belongs to the page whose grid it fills; writes to the session,
-// which is borrowed and outlives it, at once.
+// Rows of a page for the page layout: pages per side with their order and border, orientation, size, odd or
+// even pages, reverse order. Owned by the page whose grid it fills. Writes to the session immediately; the
+// session is borrowed and outlives it.
 class LayoutForm : public QObject
 {
     Q_OBJECT
 public:
     LayoutForm(DialogSession *session, QGridLayout *grid, QObject *parent);
 
-    // How wide its labels are in the font of a page, in pixels: a page that makes the form later keeps the
-    // place.
+    // The width of the labels in the font of a page, in pixels, so that a page can reserve it before the form
+    // is created.
     static int labelWidth(const QWidget *page);
-    // How high it is in a page's grid whose controls have this height, in pixels, so that the page has the
-    // room before.
+    // The height in a page's grid with controls of this height, in pixels, so that a page can reserve it.
     static int heightIn(const QGridLayout &grid, int controlHeight);
-    // Shows what the session holds now.
+    // Shows the current settings of the session.
     void refresh();
 
 Q_SIGNALS:
@@ -43,7 +42,7 @@ Q_SIGNALS:
 private:
     struct Row
     {
-        QString name; // of the job option
+        QString name; // name of the job option
         platform::ChoiceBox *box;
     };
     void addRow(const QString &name, const QString &label, QGridLayout *grid);

@@ -109,7 +109,7 @@ void OptionForm::choose(qsizetype index)
     Q_EMIT chosen(row.keyword);
 }
 
-// What is not complete yet is not marked; the form keeps it, and says so.
+// Incomplete values are not marked; the form keeps them and reports the problem.
 void OptionForm::markCustom(qsizetype index)
 {
     Row &row = m_rows[index];

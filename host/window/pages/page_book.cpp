@@ -43,7 +43,7 @@ const QString moreName = QStringLiteral("more");
 const QString jobName = QStringLiteral("job");
 const QString summaryName = QStringLiteral("summary");
 
-// What the administrator has fixed on the page of a panel, and who says so; null for nothing.
+// The fixed settings on the page of a panel, with the administrator's name; null if there are none.
 QString policyNote(const DialogSession &session, int panel)
 {
     if (panel < 0)
@@ -61,8 +61,8 @@ QString policyNote(const DialogSession &session, int panel)
                            : PageBook::tr("Fixed: %1. %2").arg(fixed.join(QStringLiteral(", ")), attribution);
 }
 
-// Disables what is locked on the page of a panel, and hides what the policy hides. A choice that gets past
-// that goes back; see DialogSession.
+// Disables the locked controls on the page of a panel, and hides those that the policy hides. If a choice is
+// changed nevertheless, it is reset; see DialogSession.
 void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, PageFrame *frame)
 {
     QList<QWidget *> locked, hidden;
@@ -78,7 +78,7 @@ void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, P
         new HiddenControls(hidden, frame, frame);
 }
 
-// How wide the preview is, in pixels.
+// Width of the preview, in pixels.
 constexpr int leastPreview = 160;
 constexpr int preferredPreview = 260;
 constexpr int mostPreview = 420;
@@ -128,8 +128,8 @@ void PageBook::beginPreview()
     m_preview->begin(PageTools::installed());
 }
 
-// The list has the width of its names, but leaves the pages the larger part of a narrow window. The preview
-// stands beside the general page, where there is room for both.
+// The list has the width of its names, but leaves the larger part of a narrow window to the pages. The
+// preview is next to the general page if there is space for both.
 void PageBook::fitParts()
 {
     const int least = m_list->minimumSizeHint().width();
@@ -251,7 +251,7 @@ QWidget *PageBook::contentOf(const Page &page)
     return m_summary;
 }
 
-// Removing a page makes another one current and lays out the window: by then this knows of no page.
+// Removing a page makes another one current and updates the layout: this object must have no page by then.
 void PageBook::clear()
 {
     const std::vector<Page> pages = std::exchange(m_pages, {});
@@ -274,7 +274,7 @@ void PageBook::clear()
 
 int PageBook::pageNamed(const QString &name) const
 {
-    // "Color Settings 1" finds "com.kelmar.pde.color-settings-1" in every language.
+    // "Color Settings 1" matches "com.kelmar.pde.color-settings-1" in every language.
     const QString kind = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
     const auto page = std::find_if(m_pages.begin(), m_pages.end(), [&](const Page &p) {
         return p.name == kind || p.name.endsWith(QLatin1Char('.') + kind) ||
@@ -321,9 +321,9 @@ void PageBook::showPage(int row)
     if (!isBuilt)
         makeFrame(&page);
     m_current = row;
-    m_stack->setCurrentWidget(page.frame); // before a panel that may ask its device
+    m_stack->setCurrentWidget(page.frame); // before preparing a panel that may query its device
     page.frame->scrollToTop();
-    if (wasOnPage) // it would go to whatever comes next
+    if (wasOnPage) // it would move to the next widget
         m_list->setFocus();
     if (page.panel >= 0)
         prepare(page);
@@ -334,7 +334,7 @@ void PageBook::showPage(int row)
     showChanges();
 }
 
-// What happens until the panel is ready is no change by the user.
+// Changes before the panel is ready are not changes by the user.
 void PageBook::prepare(const Page &page)
 {
     const auto paused = m_history->pause();
@@ -405,7 +405,7 @@ void PageBook::showChanges()
             continue;
         changed.insert(rowOf(key));
         if (m_session->ppd() &&
-            generalOptionKeywords(*m_session->ppd()).contains(key)) // a panel may have it, too
+            generalOptionKeywords(*m_session->ppd()).contains(key)) // a panel may also have it
             changed.insert(pageNamed(generalName));
     }
     for (int row = 0; row < static_cast<int>(m_pages.size()); ++row)
@@ -425,7 +425,7 @@ void PageBook::openViewOf(QWidget *control)
 
 void PageBook::leadTo(const QString &key)
 {
-    if (!m_session) // a link of a summary that has gone
+    if (!m_session) // a link of a summary that no longer exists
         return;
     const int row = rowOf(key);
     showPage(row);

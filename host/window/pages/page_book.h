@@ -24,9 +24,9 @@ class PreviewPane;
 class SessionHistory;
 class SummaryPage;
 
-// The pages of a session and the list to choose one from. Builds a page when it is first shown, restores its
-// panel then, and saves when a page is left. Documents, session and history are borrowed; call clear() before
-// the session goes, since its panels own their views.
+// The pages of a session and the list to select one. Builds a page when it is first shown, restores its panel
+// then, and saves the panel when the page is left. Documents, session and history are borrowed; call clear()
+// before the session is destroyed, since its panels own their views.
 class PageBook : public QWidget
 {
     Q_OBJECT
@@ -34,43 +34,43 @@ public:
     PageBook(DocumentChoice *documents, QWidget *parent);
     ~PageBook() override;
 
-    void beginPreview();                                 // when the window is visible
+    void beginPreview();                                 // call when the window is visible
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
 
     // The row of a page by name: "general", "more", "summary", a panel's kind, its last part, or its title;
-    // -1 when there is none.
+    // -1 if there is none.
     int pageNamed(const QString &name) const;
-    int currentRow() const { return m_current; } // -1 for none
-    // For pageNamed(); empty for no page.
+    int currentRow() const { return m_current; } // -1 if there is none
+    // A name for pageNamed(); empty if there is no page.
     QString currentName() const { return nameOf(m_current); }
     QString nameOf(int row) const;
-    QString titleOf(int row) const; // as the user reads it
-    // What has been built of a page so far; null before it is first shown.
+    QString titleOf(int row) const; // localised
+    // The parts of a page that have been built; null before it is first shown.
     QWidget *builtPage(int row) const;
-    // Shows a page, unless the current one must not be left. While its panel asks a device, it is disabled.
+    // Shows a page, unless the current page must not be left. Disabled while its panel queries a device.
     void showPage(int row);
     void turn(int steps); // shows the page that many rows further, or the last one in that direction
-    void refresh();       // shows the current settings of the session on every page
-    void showChanges();   // marks the changed settings
-    // Opens the view of the current panel that holds a control.
+    void refresh();       // updates all pages from the session
+    void showChanges();   // updates the marks of changed settings
+    // Opens the view of the current panel that contains a control.
     void openViewOf(QWidget *control);
     // Shows the control of a setting, or at least its page, and gives it the focus.
     void leadTo(const QString &key);
     QSize wantedSize() const; // in pixels, to show the current page without scrolling; 0 × 0 without a page
     PageList *list() const { return m_list; }
     QStackedWidget *stack() const { return m_stack; } // shows one page at a time
-    QWidget *pages() const { return m_area; }         // holds the stack, and the preview beside it
+    QWidget *pages() const { return m_area; }         // contains the stack, and the preview next to it
 
-    // Whether what has been typed makes sense; shows the place where it does not.
+    // Whether all input is valid; if not, shows the invalid field.
     bool checkTyped();
 
 Q_SIGNALS:
-    void left(); // and saved
+    void left(); // a page was left, and its panel saved
     void shown();
-    void chosen(); // by the user, and marked at once
-    void grown();  // the page that is shown has got more controls
+    void chosen(); // the user has made a choice, which is marked
+    void grown();  // the current page has additional controls
     void savePdfWanted();
 
 protected:
@@ -108,8 +108,8 @@ private:
     QWidget *m_area;
     QStackedWidget *m_stack;
     DocumentChoice *m_documents = nullptr;
-    PreviewPane *m_preview = nullptr;     // null where there is nothing to print
-    QPointer<PreviewPane> m_largePreview; // of the preview's own window, while it is open
+    PreviewPane *m_preview = nullptr;     // null if there is nothing to print
+    QPointer<PreviewPane> m_largePreview; // in the separate preview window, while it is open
     bool m_previewBegun = false;
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;

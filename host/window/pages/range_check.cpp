@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-// The largest of the first pages of all ranges.
+// The largest first page of all ranges.
 int lastBeginning(const QString &ranges)
 {
     int last = 0;
@@ -31,7 +31,7 @@ RangeCheck::RangeCheck(DialogSession *session, DocumentChoice *documents, QObjec
 {
 }
 
-// A range that begins behind the last page prints nothing.
+// A range that begins after the last page prints nothing.
 QString RangeCheck::problem(const QString &ranges)
 {
     const int beginning = lastBeginning(ranges);
@@ -47,7 +47,7 @@ QString RangeCheck::problem(const QString &ranges)
         if (!m_documents->isIncluded(i))
             continue;
         const int pages = m_counter->pagesOf(m_documents->paths().at(i));
-        if (pages == 0) // may be the longest
+        if (pages == 0) // may be the longest document
             return {};
         ++included;
         if (pages > most)

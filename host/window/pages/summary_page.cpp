@@ -23,7 +23,7 @@ namespace {
 
 constexpr int nameWidth = 240; // pixels
 
-// The key of a line of the summary, whose panel names its settings as people do.
+// The key of a line of the summary, in which panels use display names for their settings.
 QString keyOf(const DialogSession &session, int panel, const QString &name)
 {
     if (panel == jobPage) {
@@ -68,7 +68,7 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         Part part{section.title, {}};
         for (const auto &[name, value] : section.entries)
             part.lines.append({name, value, keyOf(session, section.panel, name)});
-        if (section.panel >= 0) { // whose lines come in the order of the alphabet
+        if (section.panel >= 0) { // whose lines are sorted alphabetically
             const QStringList keywords = session.panels().keywords(section.panel);
             std::stable_sort(part.lines.begin(), part.lines.end(), [&](const Line &a, const Line &b) {
                 return keywords.indexOf(a.key) < keywords.indexOf(b.key);
@@ -80,7 +80,7 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
     rebuild();
 }
 
-// In the order of the pages and of what is on them.
+// In the order of the pages and of their controls.
 void SummaryPage::showChanged(const DialogSession &session, const QList<SettingChange> &changes)
 {
     QHash<QString, qsizetype> places;
