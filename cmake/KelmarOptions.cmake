@@ -130,9 +130,9 @@ function(kelmar_use_precompiled target)
   target_compile_options(${target} PRIVATE ${kelmar_pic})
 endfunction()
 
-# An object library for one folder: kelmar_room(NAME SOURCES ... LIBS ... [NO_MOC])
+# An object library for one folder: kelmar_module(NAME SOURCES ... LIBS ... [NO_MOC])
 # NO_MOC, for a folder without Q_OBJECT, saves three build steps.
-function(kelmar_room name)
+function(kelmar_module name)
   cmake_parse_arguments(ARG "NO_MOC" "" "SOURCES;LIBS" ${ARGN})
   add_library(${name} OBJECT ${ARG_SOURCES})
   if(ARG_NO_MOC)

@@ -262,7 +262,7 @@ int main(int argc, char **argv)
         return ExitUsage;
     }
     if (arguments->help || arguments->version) {
-        out.write(arguments->help ? helpText().toUtf8()
+        out.write(arguments->help ? commandLineHelp().toUtf8()
                                   : QByteArrayLiteral("kelmar-print " KELMAR_VERSION "\n"));
         return ExitSuccess;
     }

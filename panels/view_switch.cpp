@@ -72,7 +72,7 @@ ViewSwitch::ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFra
 ViewSwitch::~ViewSwitch()
 {
     m_clock.disconnect(this);
-    letGo();
+    releaseViews();
 }
 
 qreal ViewSwitch::progress() const
@@ -94,13 +94,13 @@ void ViewSwitch::finish()
         m_outgoing->hide();
     if (m_incoming)
         m_incoming->setGeometry(QRect(m_frames.incoming.endFrame.topLeft(), m_incoming->size()));
-    letGo();
+    releaseViews();
     // Hides this object from a switch that starts before the event loop deletes it.
     setParent(nullptr);
     deleteLater();
 }
 
-void ViewSwitch::letGo()
+void ViewSwitch::releaseViews()
 {
     for (QWidget *view : {m_outgoing.data(), m_incoming.data()}) {
         if (view)

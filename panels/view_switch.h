@@ -59,7 +59,7 @@ private:
     ViewSwitch(QWidget *outgoing, QWidget *incoming, const ViewSwitchFrames &frames);
     void showProgress();
     void finish();
-    void letGo();
+    void releaseViews();
 
     QPointer<QWidget> m_outgoing;
     QPointer<QWidget> m_incoming;

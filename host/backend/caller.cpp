@@ -16,17 +16,17 @@ namespace backend {
 
 namespace {
 
-constexpr uid_t nobodyAtAll = static_cast<uid_t>(-1);
+constexpr uid_t invalidUid = static_cast<uid_t>(-1);
 
 std::optional<uid_t> authenticatedUid()
 {
     const char *text = std::getenv("AUTH_UID");
     if (!text)
         return std::nullopt;
-    uid_t uid = nobodyAtAll;
+    uid_t uid = invalidUid;
     const char *end = text + std::strlen(text);
     const auto [rest, problem] = std::from_chars(text, end, uid);
-    if (problem != std::errc() || rest != end || uid == nobodyAtAll)
+    if (problem != std::errc() || rest != end || uid == invalidUid)
         return std::nullopt;
     return uid;
 }

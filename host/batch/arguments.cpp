@@ -266,7 +266,7 @@ std::optional<Arguments> parseArguments(const QStringList &words, QString *error
     return error->isEmpty() ? std::optional(arguments) : std::nullopt;
 }
 
-QString helpText()
+QString commandLineHelp()
 {
     QString text = ArgumentsText::tr("Usage: kelmar-print [OPTION...] [FILE...]\n"
                                      "Print documents, with a dialog for the settings or without one.\n\n");

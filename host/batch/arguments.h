@@ -70,7 +70,7 @@ struct Arguments
 // contains no values, since any of them may be a misplaced code.
 std::optional<Arguments> parseArguments(const QStringList &words, QString *error);
 // The text of --help.
-QString helpText();
+QString commandLineHelp();
 // Whether the program will run without a window; used before Qt reads the command line.
 bool runsWithoutWindow(int argc, const char *const *argv);
 

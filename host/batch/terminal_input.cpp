@@ -32,7 +32,7 @@ Silence::~Silence()
 
 InputLine readInputLine(int descriptor)
 {
-    using Fate = InputLine::Fate;
+    using Outcome = InputLine::Outcome;
     QByteArray line;
     while (line.size() <= InputLine::longest) {
         char byte = 0;
@@ -40,14 +40,14 @@ InputLine readInputLine(int descriptor)
         if (count < 0 && errno == EINTR && !HeldSignals::isPending())
             continue;
         if (count < 0)
-            return {HeldSignals::isPending() ? Fate::None : Fate::Failed, {}};
+            return {HeldSignals::isPending() ? Outcome::None : Outcome::Failed, {}};
         if (byte == interruptKey || (count == 0 && line.isEmpty()))
             return {};
         if (count == 0 || byte == '\n')
-            return {Fate::Whole, line};
+            return {Outcome::Whole, line};
         line.append(byte);
     }
-    return {Fate::TooLong, {}};
+    return {Outcome::TooLong, {}};
 }
 
 } // namespace host

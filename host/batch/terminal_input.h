@@ -30,7 +30,7 @@ private:
 // The input up to the end of a line, without the line end.
 struct InputLine
 {
-    enum class Fate {
+    enum class Outcome {
         Whole,
         None,    // no input, Ctrl+C without echo, or a signal is held (held_signals.h)
         TooLong, // more than `longest` bytes
@@ -38,7 +38,7 @@ struct InputLine
     };
     static constexpr qsizetype longest = 4096; // bytes
 
-    Fate fate = Fate::None;
+    Outcome outcome = Outcome::None;
     QByteArray bytes;
 };
 

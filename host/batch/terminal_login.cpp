@@ -32,8 +32,8 @@ void say(int terminal, const QString &text)
 // Null if the input ends or a signal arrives before the end of the line.
 std::optional<QString> readLine(int terminal)
 {
-    const auto [fate, line] = readInputLine(terminal);
-    return fate == InputLine::Fate::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
+    const auto [outcome, line] = readInputLine(terminal);
+    return outcome == InputLine::Outcome::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
 }
 
 // Asks after the echo was disabled; input typed before that is visible and is discarded.

@@ -31,19 +31,19 @@ QString unreadable(const QString &key, const QString &why)
 
 std::optional<QString> readLine(int descriptor, const QString &key, QString *error)
 {
-    auto [fate, line] = readInputLine(descriptor);
-    switch (fate) {
-    case InputLine::Fate::Failed:
+    auto [outcome, line] = readInputLine(descriptor);
+    switch (outcome) {
+    case InputLine::Outcome::Failed:
         *error = unreadable(key, qt_error_string(errno));
         return std::nullopt;
-    case InputLine::Fate::TooLong:
+    case InputLine::Outcome::TooLong:
         *error = unreadable(
             key, ValueSourceText::tr("its first line is longer than %1 bytes").arg(InputLine::longest));
         return std::nullopt;
-    case InputLine::Fate::None:
+    case InputLine::Outcome::None:
         *error = unreadable(key, ValueSourceText::tr("there is none"));
         return std::nullopt;
-    case InputLine::Fate::Whole:
+    case InputLine::Outcome::Whole:
         break;
     }
     if (line.endsWith('\r'))

@@ -97,12 +97,12 @@ void LimitedProcess::stop()
 {
     m_timer.stop();
     m_output.reset();
-    letGo();
+    killProcess();
 }
 
 // Kills the process. Only a thread other than the main thread waits for its end, since its event loop may end
 // earlier.
-void LimitedProcess::letGo()
+void LimitedProcess::killProcess()
 {
     if (!m_process)
         return;
@@ -126,7 +126,7 @@ void LimitedProcess::finish(bool isDone)
     if (!m_process)
         return;
     m_timer.stop();
-    letGo();
+    killProcess();
     const SharedFile output = isDone ? std::move(m_output) : nullptr;
     m_output.reset();
     Q_EMIT ended(output);

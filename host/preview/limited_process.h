@@ -70,7 +70,7 @@ Q_SIGNALS:
 private:
     void finish(bool isDone);
     void processEnded(ConfinedProcess::End end);
-    void letGo();
+    void killProcess();
 
     Limits m_limits;
     std::unique_ptr<ConfinedProcess> m_process;

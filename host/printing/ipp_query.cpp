@@ -194,7 +194,8 @@ std::optional<QList<Destination>> queryQueues(ServerConnection *server, PrintErr
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_ENUM, "printer-type-mask",
                   CUPS_PRINTER_DISCOVERED);
     const Reply reply = server->ask(std::move(request), "/");
-    const bool hasNone = reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND;
+    const bool hasNone =
+        reply.outcome == Reply::Outcome::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND;
     if (!reply.succeeded() && !hasNone) {
         *error = reply.error({});
         return std::nullopt;

@@ -45,7 +45,7 @@ QString JobStatus::text() const
     return JobText::tr("unknown");
 }
 
-bool JobStatus::needsSomebody() const
+bool JobStatus::needsAttention() const
 {
     return !isFinal() && (printerStopped || state == State::Stopped);
 }

@@ -56,7 +56,7 @@ struct JobStatus
 
     bool isFinal() const { return state >= State::Cancelled; }
     // Whether it needs a user's action to continue.
-    bool needsSomebody() const;
+    bool needsAttention() const;
     QString text() const; // localised
     QString code() const; // for scripts: the IPP keyword
 };

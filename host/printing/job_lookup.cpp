@@ -159,7 +159,7 @@ JobLookup::Result JobLookup::ask(IppPointer request, int id, ServerConnection *s
         *job = read(std::move(reply.message));
         return job->id == id ? Result::Found : Result::NoAnswer;
     }
-    const bool isGone = reply.fate == Reply::Fate::Answered &&
+    const bool isGone = reply.outcome == Reply::Outcome::Answered &&
                         (reply.status == IPP_STATUS_ERROR_NOT_FOUND || reply.status == IPP_STATUS_ERROR_GONE);
     return isGone ? Result::NotThere : noAnswer(reply);
 }

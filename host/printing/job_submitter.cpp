@@ -165,12 +165,12 @@ bool JobSubmitter::createJob(PrintError *error)
         if (m_id > 0)
             return true;
         m_id = 0;
-        reply.fate = Reply::Fate::Lost; // a success without a job number is invalid
+        reply.outcome = Reply::Outcome::Lost; // a success without a job number is invalid
         reply.wasGarbled = true;
     }
     *error = reply.error(m_request.destination.displayName());
     // A job without documents is not printed, but should not stay in the queue either.
-    m_mayExist = reply.fate == Reply::Fate::Lost && reply.wasSentWhole;
+    m_mayExist = reply.outcome == Reply::Outcome::Lost && reply.wasSentWhole;
     m_wasSilent = reply.wasSilent;
     return false;
 }
@@ -214,7 +214,7 @@ bool JobSubmitter::sendDocument(qsizetype index, PrintError *error)
         m_mayPrint = true;
         return true;
     }
-    if (reply.fate == Reply::Fate::Lost && reply.wasSentWhole) {
+    if (reply.outcome == Reply::Outcome::Lost && reply.wasSentWhole) {
         m_mayPrint = true;
         m_mayBeWhole = index == m_request.documents.size() - 1;
     }
@@ -272,7 +272,7 @@ Submission JobSubmitter::cancelled(const PrintError &why, const JobOnServer &fou
 Submission JobSubmitter::withdrawn(const JobOnServer &found)
 {
     Reply stopped;
-    stopped.fate = Reply::Fate::Stopped;
+    stopped.outcome = Reply::Outcome::Stopped;
     PrintError why = stopped.error({});
     const bool confirmed = m_lookup.cancel(found.id);
     JobOnServer after;
@@ -327,7 +327,7 @@ Submission JobSubmitter::kept()
     const bool isSameServer = connection != 0 && m_server.number() == connection;
     if (isCancelled()) {
         Reply stopped;
-        stopped.fate = Reply::Fate::Stopped;
+        stopped.outcome = Reply::Outcome::Stopped;
         return concluded(stopped.error({}));
     }
     if (result == JobLookup::Result::Found && found.token == m_token && (isSameServer || isWhole(found)))
@@ -341,7 +341,7 @@ Submission JobSubmitter::kept()
     if (result == JobLookup::Result::NoAnswer)
         return unknown(m_lookup.problem());
     Reply broken;
-    broken.fate = Reply::Fate::Lost;
+    broken.outcome = Reply::Outcome::Lost;
     return unknown(broken.error(m_request.destination.displayName()));
 }
 

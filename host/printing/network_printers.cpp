@@ -50,7 +50,7 @@ void NetworkPrinters::search(const std::function<bool(const Destination &)> &fou
                       const std::lock_guard lock(m_mutex);
                       m_found.insert(printer.queue, printer);
                   }};
-    ServerConnection::askNobody();
+    ServerConnection::disablePrompts();
     cupsEnumDests(CUPS_DEST_FLAGS_NONE, searchTime, nullptr, CUPS_PRINTER_DISCOVERED, CUPS_PRINTER_DISCOVERED,
                   take, &search);
 }
@@ -81,7 +81,7 @@ bool NetworkPrinters::makeQueue(const QString &queue)
          {std::pair("device-uri", known->deviceUri), {"printer-info", known->info}})
         record->num_options =
             cupsAddOption(name, value.toUtf8().constData(), record->num_options, &record->options);
-    ServerConnection::askNobody();
+    ServerConnection::disablePrompts();
     std::array<char, HTTP_MAX_URI> resource{};
     return HttpPointer(cupsConnectDest(record.get(), CUPS_DEST_FLAGS_NONE, ServerPatience().connectTime,
                                        nullptr, resource.data(), resource.size(), nullptr, nullptr)) !=

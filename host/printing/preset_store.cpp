@@ -159,9 +159,9 @@ PresetStore::Files PresetStore::filesOfCups()
 {
     const QString system = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
     Files files;
-    files.everybodys = system + QStringLiteral("/lpoptions");
+    files.allUsers = system + QStringLiteral("/lpoptions");
     files.users = QDir::homePath() + QStringLiteral("/.cups/lpoptions");
-    files.writesForEverybody = ::getuid() == 0;
+    files.writesForAllUsers = ::getuid() == 0;
     return files;
 }
 
@@ -188,7 +188,7 @@ std::optional<QList<Preset>> PresetStore::list(const QString &queue, PrintError 
 std::optional<QByteArray> PresetStore::contents(PrintError *error) const
 {
     QByteArray content;
-    for (const QString &path : {m_files.everybodys, m_files.users}) {
+    for (const QString &path : {m_files.allUsers, m_files.users}) {
         if (path.isEmpty())
             continue;
         const auto file = readFile(path, error);
@@ -203,17 +203,17 @@ std::optional<QByteArray> PresetStore::contents(PrintError *error) const
 
 QString PresetStore::fileOf(const QString &queue, const QString &name, PrintError *error) const
 {
-    for (const QString &path : {m_files.users, m_files.everybodys}) {
+    for (const QString &path : {m_files.users, m_files.allUsers}) {
         const auto file = path.isEmpty() ? std::nullopt : readFile(path, error);
         if (*error)
             return {};
         if (file && holds(file->content, queue, name)) {
             // A user's change to a shared preset creates a preset of the user.
-            const bool isMine = path == m_files.users || m_files.writesForEverybody;
+            const bool isMine = path == m_files.users || m_files.writesForAllUsers;
             return isMine ? path : m_files.users;
         }
     }
-    return m_files.writesForEverybody ? m_files.everybodys : m_files.users;
+    return m_files.writesForAllUsers ? m_files.allUsers : m_files.users;
 }
 
 // Another program may write at the same time, either to the file that has just been replaced, or over the new
@@ -317,10 +317,10 @@ bool PresetStore::remove(const QString &queue, const QString &name, PrintError *
         return false;
     if (!holds(file->content, queue, name)) {
         const auto all = list(queue, error);
-        const bool isEverybodys = all && std::any_of(all->begin(), all->end(), [&](const Preset &preset) {
+        const bool isOfAllUsers = all && std::any_of(all->begin(), all->end(), [&](const Preset &preset) {
                                       return isSamePreset(preset.name, name);
                                   });
-        *error = isEverybodys ? PrintError{PrintError::Kind::NoPermission,
+        *error = isOfAllUsers ? PrintError{PrintError::Kind::NoPermission,
                                            StoreText::tr("“%1” is available to all users of this computer; "
                                                          "only an administrator can change it.")
                                                .arg(name)}

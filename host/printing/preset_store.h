@@ -38,9 +38,9 @@ class PresetStore
 public:
     struct Files
     {
-        QString everybodys; // the file of all users; may be empty
+        QString allUsers; // the file of all users; may be empty
         QString users;
-        bool writesForEverybody = false; // new presets are written there, as for root
+        bool writesForAllUsers = false; // new presets are written there, as for root
         // of a new file, as in libcups; the mode of the user's file is reduced by the umask
         unsigned mode = 0644;
     };

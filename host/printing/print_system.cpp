@@ -120,8 +120,8 @@ std::optional<PrintError> problemOfServer(LoginKeeper *login)
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  "printer-name");
     const Reply reply = ServerConnection(login).ask(std::move(request), "/");
-    const bool isThere = reply.succeeded() ||
-                         (reply.fate == Reply::Fate::Answered && reply.status == IPP_STATUS_ERROR_NOT_FOUND);
+    const bool isThere = reply.succeeded() || (reply.outcome == Reply::Outcome::Answered &&
+                                               reply.status == IPP_STATUS_ERROR_NOT_FOUND);
     return isThere ? std::nullopt : std::optional(reply.error({}));
 }
 
@@ -239,7 +239,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         if (!facts)
             return std::nullopt;
     }
-    ServerConnection::askNobody();
+    ServerConnection::disablePrompts();
     const QByteArray queueBytes = queue.toUtf8();
     const QByteArray instanceBytes = fileNameToBytes(instance);
     http_t *handle = server.handle();

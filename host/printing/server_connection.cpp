@@ -70,7 +70,7 @@ public:
                               void *self) { return static_cast<ServerConnection *>(self)->nextPassword(); },
                            connection);
     }
-    ~LoginScope() { ServerConnection::askNobody(); }
+    ~LoginScope() { ServerConnection::disablePrompts(); }
     LoginScope(const LoginScope &) = delete;
     LoginScope &operator=(const LoginScope &) = delete;
 };
@@ -84,17 +84,17 @@ struct ServerConnection::Upload
 
 bool Reply::succeeded() const
 {
-    return fate == Fate::Answered && status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
+    return outcome == Outcome::Answered && status >= IPP_STATUS_OK && status <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
 PrintError Reply::error(const QString &printer) const
 {
     using Kind = PrintError::Kind;
     const QString server = ServerConnection::serverName();
-    switch (fate) {
-    case Fate::NotSent:
+    switch (outcome) {
+    case Outcome::NotSent:
         return {Kind::ServerAway, ServerText::tr("The print server %1 cannot be reached.").arg(server)};
-    case Fate::Lost:
+    case Outcome::Lost:
         if (wasGivenUp)
             return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
         if (wasSilent)
@@ -105,9 +105,9 @@ PrintError Reply::error(const QString &printer) const
             wasGarbled
                 ? ServerText::tr("The print server %1 gave an answer that cannot be understood.").arg(server)
                 : ServerText::tr("The connection to the print server %1 broke off.").arg(server)};
-    case Fate::Stopped:
+    case Outcome::Stopped:
         return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
-    case Fate::Refused:
+    case Outcome::Refused:
         if (httpStatus == HTTP_STATUS_UNAUTHORIZED || httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED)
             return refusedLogin(printer);
         if (httpStatus == HTTP_STATUS_FORBIDDEN)
@@ -115,7 +115,7 @@ PrintError Reply::error(const QString &printer) const
                                              .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};
         return {Kind::Other, ServerText::tr("The print server %1 refused the request (%2).")
                                  .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};
-    case Fate::Answered:
+    case Outcome::Answered:
         break;
     }
     const QString detail = detailOf(message.get(), status);
@@ -147,7 +147,7 @@ ServerConnection::ServerConnection(LoginKeeper *login) : m_login(login) {}
 
 ServerConnection::~ServerConnection() = default;
 
-void ServerConnection::askNobody()
+void ServerConnection::disablePrompts()
 {
     cupsSetPasswordCB2(
         [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; },
@@ -263,20 +263,20 @@ Reply ServerConnection::exchange(IppPointer request, const QByteArray &resource,
         if (!connect()) {
             reply = {};
             if (isStopped())
-                reply.fate = Reply::Fate::Stopped;
+                reply.outcome = Reply::Outcome::Stopped;
             return reply;
         }
         m_idle.restart();
         reply = exchangeOnce(request.get(), resource, upload);
-        if (reply.fate == Reply::Fate::Lost) {
+        if (reply.outcome == Reply::Outcome::Lost) {
             reply.wasGivenUp = isStopped();
             reply.wasSilent = isSilent();
         }
-        if (reply.fate != Reply::Fate::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
+        if (reply.outcome != Reply::Outcome::Answered && reply.httpStatus != HTTP_STATUS_UNAUTHORIZED)
             m_http.reset(); // further data on the connection belongs to this request
         // Refused because of a missing login, which libcups has by now; the server has not processed the
         // request.
-        const bool isWorthAnother = reply.fate == Reply::Fate::Refused && reply.wasSentWhole &&
+        const bool isWorthAnother = reply.outcome == Reply::Outcome::Refused && reply.wasSentWhole &&
                                     reply.httpStatus == HTTP_STATUS_UNAUTHORIZED;
         if (!isWorthAnother || (upload && !upload->document->seek(upload->start)))
             break;
@@ -292,17 +292,17 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
     if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK) {
         reply.httpStatus = status;
         if (status == HTTP_STATUS_SERVICE_UNAVAILABLE)
-            reply.fate = Reply::Fate::NotSent;
+            reply.outcome = Reply::Outcome::NotSent;
         else
-            reply.fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
-        if (reply.fate == Reply::Fate::Lost && isStopped())
-            reply.fate = Reply::Fate::Stopped;
+            reply.outcome = isErrorStatus(status) ? Reply::Outcome::Refused : Reply::Outcome::Lost;
+        if (reply.outcome == Reply::Outcome::Lost && isStopped())
+            reply.outcome = Reply::Outcome::Stopped;
         return reply;
     }
     if (upload && !writeDocument(upload, &reply))
         return reply;
     if (upload && httpWrite2(m_http.get(), "", 0) < 0) { // end of the document
-        reply.fate = Reply::Fate::Lost;
+        reply.outcome = Reply::Outcome::Lost;
         return reply;
     }
     reply.wasSentWhole = true;
@@ -311,7 +311,7 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
     return reply;
 }
 
-// False, with the reply's fate set, if the document was not sent completely. The request is then left
+// False, with the reply's outcome set, if the document was not sent completely. The request is then left
 // incomplete, so that the server discards it.
 bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
 {
@@ -319,21 +319,21 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
     qint64 sent = 0;
     while (true) {
         if (isStopped()) {
-            reply->fate = Reply::Fate::Stopped;
+            reply->outcome = Reply::Outcome::Stopped;
             return false;
         }
         const qint64 count = upload->document->read(block.data(), block.size());
         if (count < 0)
-            reply->fate = Reply::Fate::Stopped;
+            reply->outcome = Reply::Outcome::Stopped;
         if (count <= 0)
             return count == 0;
         const http_status_t status =
             cupsWriteRequestData(m_http.get(), block.constData(), static_cast<size_t>(count));
         if (status != HTTP_STATUS_CONTINUE) {
             reply->httpStatus = status;
-            reply->fate = isErrorStatus(status) ? Reply::Fate::Refused : Reply::Fate::Lost;
-            if (reply->fate == Reply::Fate::Lost && isStopped())
-                reply->fate = Reply::Fate::Stopped;
+            reply->outcome = isErrorStatus(status) ? Reply::Outcome::Refused : Reply::Outcome::Lost;
+            if (reply->outcome == Reply::Outcome::Lost && isStopped())
+                reply->outcome = Reply::Outcome::Stopped;
             return false;
         }
         m_idle.restart();
@@ -356,7 +356,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
     }
     const int status = reply->message ? int(ippGetStatusCode(reply->message.get())) : -1;
     if (isIppStatus(status) && ippGetRequestId(reply->message.get()) == ippGetRequestId(request)) {
-        reply->fate = Reply::Fate::Answered;
+        reply->outcome = Reply::Outcome::Answered;
         keepLogin();
         reply->status = status;
         return;
@@ -365,7 +365,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
     const bool isRefusal =
         (reply->httpStatus >= HTTP_STATUS_BAD_REQUEST && reply->httpStatus < HTTP_STATUS_SERVER_ERROR) ||
         reply->httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED;
-    reply->fate = isRefusal ? Reply::Fate::Refused : Reply::Fate::Lost;
+    reply->outcome = isRefusal ? Reply::Outcome::Refused : Reply::Outcome::Lost;
     reply->wasGarbled |=
         reply->message || httpError(m_http.get()) == EINVAL || reply->httpStatus >= HTTP_STATUS_SERVER_ERROR;
     reply->message.reset();
@@ -460,7 +460,7 @@ std::optional<QByteArray> ServerConnection::fetch(const QByteArray &resource, qi
     m_http.reset();
     if (reply.httpStatus == HTTP_STATUS_NOT_FOUND)
         return std::nullopt;
-    reply.fate = isErrorStatus(reply.httpStatus) ? Reply::Fate::Refused : Reply::Fate::Lost;
+    reply.outcome = isErrorStatus(reply.httpStatus) ? Reply::Outcome::Refused : Reply::Outcome::Lost;
     reply.wasSilent = isSilent();
     *error = reply.error({});
     if (content.size() > limit)

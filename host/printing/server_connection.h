@@ -22,14 +22,14 @@ namespace host {
 // The result of one request.
 struct Reply
 {
-    enum class Fate {
+    enum class Outcome {
         NotSent,  // no connection: the server has received nothing
         Answered, // a well-formed response, with `status`
         Refused,  // refused by the server's HTTP layer, with `httpStatus`: nothing was done
         Lost,     // the connection broke, or the response was malformed
         Stopped   // stopped by the caller, or because the document could not be read
     };
-    Fate fate = Fate::NotSent;
+    Outcome outcome = Outcome::NotSent;
     bool wasSentWhole = false;            // sent completely: the server may have acted on it
     bool wasGarbled = false;              // a malformed response was received
     bool wasSilent = false;               // lost, because no data was transferred for too long
@@ -78,7 +78,7 @@ public:
     // For direct calls of libcups; null if the server cannot be reached.
     http_t *handle() { return connect() ? m_http.get() : nullptr; }
     // Prevents libcups from prompting on the terminal in calls on this thread that do not use this class.
-    static void askNobody();
+    static void disablePrompts();
     // The server's name for display.
     static QString serverName();
 

@@ -88,7 +88,7 @@ Q_SIGNALS:
     void changed(); // there are new notices, or choices have changed outside of the shown page
 
 private:
-    friend class StateKeeper; // sets values that front ends must not set
+    friend class StateRestorer; // sets values that front ends must not set
 
     bool mark(ChosenSetting *setting);
     void panelKeyChanged(int panel, const QString &key);

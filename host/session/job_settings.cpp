@@ -110,10 +110,10 @@ QString jobSettingValue(const DialogSession &session, const QString &name)
 void setJobSetting(DialogSession *session, const QString &name, const QString &value)
 {
     if (value == jobSettingValue({}, session->destination().options, name)) {
-        const SessionState now = StateKeeper::stateOf(*session);
+        const SessionState now = StateRestorer::stateOf(*session);
         SessionState wanted = now;
         wanted.chosen.takeBack({name}, {});
-        StateKeeper(session).bring(now, wanted);
+        StateRestorer(session).restoreTo(now, wanted);
         return;
     }
     PrintError ignored;

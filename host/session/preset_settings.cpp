@@ -144,7 +144,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
 {
     const QMap<QString, QString> &locked = session->locks().choices();
     const QMap<QString, QString> preset = withoutForbidden(session, given, notices);
-    const SessionState now = StateKeeper::stateOf(*session);
+    const SessionState now = StateRestorer::stateOf(*session);
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
     all.insert(preset);
@@ -184,7 +184,7 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
 {
     QStringList notices;
     const SessionState wanted = stateWithPreset(session, queueOptions, preset, &notices);
-    StateKeeper(session).bring(StateKeeper::stateOf(*session), wanted);
+    StateRestorer(session).restoreTo(StateRestorer::stateOf(*session), wanted);
     for (const QString &notice : std::as_const(notices))
         session->addNotice(notice);
 }

@@ -113,7 +113,7 @@ QStringList keysOfControl(const DialogSession &session, int panel, const QString
 
 void putBack(DialogSession *session, const SessionState &base, const QStringList &keys)
 {
-    const SessionState now = StateKeeper::stateOf(*session);
+    const SessionState now = StateRestorer::stateOf(*session);
     SessionState wanted = now;
     for (const QString &key : keys) {
         if (base.marks.contains(key))
@@ -124,7 +124,7 @@ void putBack(DialogSession *session, const SessionState &base, const QStringList
             wanted.general = withGeneralValue(wanted.general, key, base.general);
     }
     wanted.chosen.takeBack(keys, base.chosen);
-    StateKeeper(session).bring(now, wanted);
+    StateRestorer(session).restoreTo(now, wanted);
 }
 
 } // namespace host

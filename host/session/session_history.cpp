@@ -86,7 +86,7 @@ private:
 
 SessionHistory::SessionHistory(DialogSession *session)
     : m_session(session),
-      m_now(StateKeeper::stateOf(*session)), m_base{m_now, session->destination().instance},
+      m_now(StateRestorer::stateOf(*session)), m_base{m_now, session->destination().instance},
       m_startingPanelValues(m_now.panelValues)
 {
     m_steps.setUndoLimit(mostSteps);
@@ -96,7 +96,7 @@ void SessionHistory::note()
 {
     if (m_isPaused)
         return;
-    SessionState now = StateKeeper::stateOf(*m_session);
+    SessionState now = StateRestorer::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
         // A panel that has been saved repeats known values.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
@@ -106,7 +106,7 @@ void SessionHistory::note()
             m_base = {m_now, *std::exchange(m_nextBase, std::nullopt)};
         return;
     }
-    absorbNew(now);
+    recordInitialValues(now);
     auto *step = new Step(this, m_now, now);
     step->setFollows(m_sinceStep.isValid() && m_sinceStep.elapsed() < oneGesture);
     m_sinceStep.start();
@@ -133,7 +133,7 @@ void SessionHistory::noteLater()
         Qt::QueuedConnection);
 }
 
-void SessionHistory::absorb()
+void SessionHistory::resync()
 {
     if (!m_isPaused)
         lookAnew();
@@ -141,12 +141,12 @@ void SessionHistory::absorb()
 
 void SessionHistory::lookAnew()
 {
-    m_now = StateKeeper::stateOf(*m_session);
-    absorbNew(m_now);
+    m_now = StateRestorer::stateOf(*m_session);
+    recordInitialValues(m_now);
 }
 
 // Values that a panel has read on opening are its initial values.
-void SessionHistory::absorbNew(const SessionState &now)
+void SessionHistory::recordInitialValues(const SessionState &now)
 {
     for (QVariantMap *known : {&m_base.state.panelValues, &m_startingPanelValues}) {
         for (auto it = now.panelValues.begin(); it != now.panelValues.end(); ++it) {
@@ -183,17 +183,17 @@ void SessionHistory::renameInstance(const QString &from, const QString &to)
     if (m_session->destination().instance != from)
         return;
     const auto paused = pause();
-    const SessionState now = StateKeeper::stateOf(*m_session);
+    const SessionState now = StateRestorer::stateOf(*m_session);
     SessionState wanted = now;
     wanted.instance = to;
-    StateKeeper(m_session).bring(now, wanted);
+    StateRestorer(m_session).restoreTo(now, wanted);
     lookAnew();
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
 {
     const auto paused = pause();
-    StateKeeper(m_session).bring(from, to);
+    StateRestorer(m_session).restoreTo(from, to);
     m_base = base;
     lookAnew();
     m_sinceStep.invalidate();

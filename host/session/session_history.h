@@ -35,7 +35,7 @@ public:
     void endGesture() { m_sinceStep.invalidate(); }
     // Takes over the current state without a step, for changes that the user did not make, such as values
     // read by a panel.
-    void absorb();
+    void resync();
     // Disables note() and resync() during the lifetime of the result: for a change during which events are
     // processed, such as that of a panel that queries its device. Call one of them afterwards.
     [[nodiscard]] QScopedValueRollback<bool> pause() { return QScopedValueRollback<bool>(m_isPaused, true); }
@@ -69,7 +69,7 @@ Q_SIGNALS:
 private:
     class Step;
     void lookAnew();
-    void absorbNew(const SessionState &now);
+    void recordInitialValues(const SessionState &now);
     void changeBases(const QString &name, const std::function<void(Base *)> &change);
     void go(const SessionState &from, const SessionState &to, const Base &base);
 

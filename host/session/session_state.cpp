@@ -109,7 +109,7 @@ void SessionState::keepDifferences(SessionState *one, SessionState *other)
     dropAlike(&one->printSettings, &other->printSettings);
 }
 
-SessionState StateKeeper::stateOf(const DialogSession &session)
+SessionState StateRestorer::stateOf(const DialogSession &session)
 {
     SessionState state;
     const PpdDocument *ppd = session.ppd();
@@ -142,7 +142,7 @@ SessionState StateKeeper::stateOf(const DialogSession &session)
 }
 
 // One round; true if nothing was left to do.
-bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
+bool StateRestorer::restoreMarks(const SessionState &from, const SessionState &to)
 {
     const SessionState now = stateOf(*m_session);
     SessionPanels &panels = m_session->m_panels;
@@ -174,7 +174,7 @@ bool StateKeeper::bringMarks(const SessionState &from, const SessionState &to)
 }
 
 // Device settings are only in the print settings until a panel has read them.
-bool StateKeeper::bringPrintSettings(const SessionState &from, const SessionState &to)
+bool StateRestorer::restorePrintSettings(const SessionState &from, const SessionState &to)
 {
     platform::PrintSettings &settings = m_session->m_host.settings();
     bool isChanged = false;
@@ -189,16 +189,16 @@ bool StateKeeper::bringPrintSettings(const SessionState &from, const SessionStat
     return isChanged;
 }
 
-void StateKeeper::bring(const SessionState &from, const SessionState &to)
+void StateRestorer::restoreTo(const SessionState &from, const SessionState &to)
 {
     const QStringList notices = m_session->m_notices;
     m_session->m_destination.instance = to.instance;
     m_session->m_destination.options = to.destinationOptions;
-    for (int round = 0; round < mostRounds && !bringMarks(from, to); ++round)
+    for (int round = 0; round < mostRounds && !restoreMarks(from, to); ++round)
         m_session->settle();
     QStringList keys;
     addDifferences(to.panelValues, from.panelValues, &keys);
-    const bool isReadAnew = bringPrintSettings(from, to) && keys.isEmpty();
+    const bool isReadAnew = restorePrintSettings(from, to) && keys.isEmpty();
     m_session->settle();
     m_session->m_notices = notices;
     for (int i = 0; i < m_session->panels().count(); ++i) {

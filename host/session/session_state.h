@@ -38,19 +38,19 @@ struct SessionState
 
 // Reads the state of a session and restores it, which requires setting values that front ends must not set.
 // Created for few calls; the session is borrowed.
-class StateKeeper
+class StateRestorer
 {
 public:
-    explicit StateKeeper(DialogSession *session) : m_session(session) {}
+    explicit StateRestorer(DialogSession *session) : m_session(session) {}
 
     // The current state, including changes that panels have not saved.
     static SessionState stateOf(const DialogSession &session);
     // Sets all differences between two states to their values in `to`, also on the panels, without notices.
-    void bring(const SessionState &from, const SessionState &to);
+    void restoreTo(const SessionState &from, const SessionState &to);
 
 private:
-    bool bringMarks(const SessionState &from, const SessionState &to);
-    bool bringPrintSettings(const SessionState &from, const SessionState &to);
+    bool restoreMarks(const SessionState &from, const SessionState &to);
+    bool restorePrintSettings(const SessionState &from, const SessionState &to);
 
     DialogSession *m_session;
 };

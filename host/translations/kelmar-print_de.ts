@@ -2709,7 +2709,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
-    <name>host::SettingsControl</name>
+    <name>host::PresetMenu</name>
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>

@@ -2709,7 +2709,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
-    <name>host::SettingsControl</name>
+    <name>host::PresetMenu</name>
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Deshacer</translation>

@@ -2709,7 +2709,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
-    <name>host::SettingsControl</name>
+    <name>host::PresetMenu</name>
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annuler la modification</translation>

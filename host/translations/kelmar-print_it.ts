@@ -2709,7 +2709,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
-    <name>host::SettingsControl</name>
+    <name>host::PresetMenu</name>
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annulla</translation>

@@ -2704,7 +2704,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
-    <name>host::SettingsControl</name>
+    <name>host::PresetMenu</name>
     <message>
         <source>&amp;Undo</source>
         <translation>元に戻す(&amp;U)</translation>

@@ -17,7 +17,7 @@
 #include "host/window/pages/job_cost_label.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
-#include "host/window/presets/settings_control.h"
+#include "host/window/presets/preset_menu.h"
 #include "host/window/preview/pdf_saver.h"
 #include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
@@ -51,7 +51,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
       m_opener(
           system, extensions, m_task, [this] { return m_wait.isUnderWay(); },
           [this](SessionOpener::Result result) { takeSession(std::move(result)); }),
-      m_picker(new PrinterPicker(this)), m_news(system, m_picker), m_settings(new SettingsControl(this)),
+      m_picker(new PrinterPicker(this)), m_poller(system, m_picker), m_presets(new PresetMenu(this)),
       m_queue(new MessageBar(this), [this] { return isSettled(); }),
       m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
       m_book(new PageBook(&m_documentChoice, this)), m_unavailable(new UnavailablePage(this)),
@@ -73,7 +73,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     new ListEscape(this);
     if (!m_task.acceptLabel.isEmpty())
         m_print->setText(m_task.acceptLabel);
-    m_picker->addBeside(m_settings->button());
+    m_picker->addBeside(m_presets->button());
     m_print->setDefault(true);
     connectParts();
     connectWork();
@@ -90,12 +90,12 @@ PrintWindow::~PrintWindow()
 void PrintWindow::connectParts()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
-    connect(m_book, &PageBook::left, m_settings, &SettingsControl::note);
+    connect(m_book, &PageBook::left, m_presets, &PresetMenu::note);
     connect(m_book, &PageBook::left, &m_messages, [this] { m_messages.check(); });
-    connect(m_book, &PageBook::shown, m_settings, &SettingsControl::absorb);
-    connect(m_book, &PageBook::shown, &m_layout, &WindowLayout::arrange);
+    connect(m_book, &PageBook::pageUpdated, m_presets, &PresetMenu::resync);
+    connect(m_book, &PageBook::pageUpdated, &m_layout, &WindowLayout::arrange);
     connect(m_book, &PageBook::grown, &m_layout, &WindowLayout::arrangeKeys);
-    connect(m_book, &PageBook::shown, &m_messages, &SessionMessages::showNotices);
+    connect(m_book, &PageBook::pageUpdated, &m_messages, &SessionMessages::showNotices);
     const auto settingsChanged = [this] {
         sessionChanged();
         m_messages.check();
@@ -108,22 +108,22 @@ void PrintWindow::connectParts()
         sessionChanged();
         m_pdf->save(m_documents, m_documentChoice.included(), m_task.title, pageSettings(*m_session));
     });
-    connect(m_settings, &SettingsControl::changed, m_book, &PageBook::showChanges);
-    connect(m_settings, &SettingsControl::applied, this, [this, settingsChanged] {
-        m_news.setChosen(m_session->destination());
+    connect(m_presets, &PresetMenu::changed, m_book, &PageBook::showChanges);
+    connect(m_presets, &PresetMenu::applied, this, [this, settingsChanged] {
+        m_poller.setChosen(m_session->destination());
         settingsChanged();
     });
-    connect(m_settings, &SettingsControl::presetsChanged, this, [this] {
-        m_news.setChosen(m_session->destination());
-        m_news.loadList();
+    connect(m_presets, &PresetMenu::presetsChanged, this, [this] {
+        m_poller.setChosen(m_session->destination());
+        m_poller.loadList();
     });
-    connect(m_settings, &SettingsControl::failed, this, &PrintWindow::showError);
+    connect(m_presets, &PresetMenu::failed, this, &PrintWindow::showError);
     auto *greyed = new GreyedChoices(
         &m_queue, [this] { return m_session.get(); }, this);
     // Selecting a greyed choice and the changes that it requires are one undo step.
-    connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_settings->history()->endGesture(); });
+    connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_presets->history()->endGesture(); });
     connect(greyed, &GreyedChoices::chosen, this, [this, settingsChanged] {
-        m_settings->history()->endGesture();
+        m_presets->history()->endGesture();
         settingsChanged();
     });
     connect(&m_messages, &SessionMessages::saved, this, &PrintWindow::sessionChanged);
@@ -153,7 +153,7 @@ void PrintWindow::connectWork()
     });
     connect(m_unavailable, &UnavailablePage::retryWanted, this, [this] {
         m_opener.openTask();
-        m_news.loadList();
+        m_poller.loadList();
     });
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::makeWay);
@@ -178,9 +178,9 @@ void PrintWindow::connectWork()
         m_cancel->setFocus();
     });
     connect(&m_jobs, &JobDesk::left, this, [this](bool kept) { done(kept ? Accepted : Rejected); });
-    connect(&m_jobs, &JobDesk::ended, &m_news, [this] {
+    connect(&m_jobs, &JobDesk::ended, &m_poller, [this] {
         if (m_state == State::Done)
-            m_news.follow(false);
+            m_poller.follow(false);
     });
     // Prints the same documents with the same settings again.
     connect(m_result, &ResultPage::printAgainWanted, this, [this] {
@@ -212,9 +212,10 @@ void PrintWindow::showState(State state)
     m_waiting->setVisible(state == State::Waiting || state == State::Sending);
     m_result->setVisible(state == State::Done);
     m_picker->setEnabled(state != State::Done && state != State::Sending);
-    m_settings->setActive(state == State::Choosing);
+    m_presets->setActive(state == State::Choosing);
     m_guide->setActive(state == State::Choosing);
-    m_news.follow(state == State::Choosing || (state == State::Done && !submission()->job.status.isFinal()));
+    m_poller.follow(state == State::Choosing ||
+                    (state == State::Done && !submission()->job.status.isFinal()));
     m_print->setVisible(state != State::Done);
     allowPrinting();
     m_layout.arrange();
@@ -263,7 +264,7 @@ void PrintWindow::beginTask()
         refuse(problem);
         return;
     }
-    m_settings->absorb();
+    m_presets->resync();
     m_book->refresh();
     m_book->showChanges();
     m_messages.check();
@@ -277,7 +278,7 @@ void PrintWindow::changePrinter(std::unique_ptr<DialogSession> session)
     const auto earlier = std::move(m_session);
     adopt(std::move(session));
     carryOver(*earlier, m_session.get());
-    m_settings->absorb();
+    m_presets->resync();
     m_book->showPage(std::max(m_book->pageNamed(page), 0));
     m_messages.check();
 }
@@ -287,7 +288,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     detachSession();
     m_session = std::move(session);
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
-    m_news.setChosen(m_session->destination());
+    m_poller.setChosen(m_session->destination());
     showSession();
     // After the book, which shows on its page what is awaited before the window is painted.
     connect(m_session->panelHost(), &PanelHost::blockingBegan, &m_wait, &PanelWait::begin);
@@ -303,18 +304,18 @@ void PrintWindow::showSession()
     for (int i = 0; i < m_session->panels().count(); ++i)
         connect(m_session->panels().panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange,
                 &m_messages, &SessionMessages::checkLater);
-    m_settings->setSession(m_session.get());
-    m_messages.setSession(m_session.get(), m_settings->history());
-    m_book->setSession(m_session.get(), m_settings->history());
+    m_presets->setSession(m_session.get());
+    m_messages.setSession(m_session.get(), m_presets->history());
+    m_book->setSession(m_session.get(), m_presets->history());
 }
 
 // Call before the session is destroyed: its panels own views in the pages.
 void PrintWindow::detachSession()
 {
-    m_news.forgetChosen();
+    m_poller.forgetChosen();
     m_book->clear();
     m_messages.clear();
-    m_settings->setSession(nullptr);
+    m_presets->setSession(nullptr);
 }
 
 // A printer that cannot do what the task requires is not offered for it.
@@ -363,7 +364,7 @@ void PrintWindow::stopWaiting()
 
 void PrintWindow::sessionChanged()
 {
-    m_settings->note();
+    m_presets->note();
     m_book->refresh();
     m_messages.showNotices();
 }
@@ -401,7 +402,7 @@ void PrintWindow::print()
 void PrintWindow::deliver()
 {
     if (m_task.settingsOnly) {
-        rememberUseLater(m_session->destination().name(), m_settings->rememberUse());
+        rememberUseLater(m_session->destination().name(), m_presets->rememberUse());
         accept();
         return;
     }
@@ -410,7 +411,7 @@ void PrintWindow::deliver()
                  m_task.documentName,
                  {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
                  settingsForCheck(*m_session),
-                 m_settings->rememberUse()},
+                 m_presets->rememberUse()},
                 m_task.namesOf(m_documentChoice.included()));
 }
 
@@ -426,7 +427,7 @@ void PrintWindow::showError(const PrintError &error)
 
 void PrintWindow::finishLater()
 {
-    m_news.loadList();
+    m_poller.loadList();
     auto *check = new DocumentCheck(this);
     connect(check, &DocumentCheck::failed, this, [this](const PrintError &error) {
         m_queue.tell(MessageQueue::Subject::Document, {StatusGlyph::Kind::Error, error.message, {}, {}});
@@ -434,7 +435,7 @@ void PrintWindow::finishLater()
     check->start(m_task.files);
     m_book->beginPreview();
     QList<std::pair<QWidget *, QString>> explained{{m_picker, QStringLiteral("printer")},
-                                                   {m_settings->button(), QStringLiteral("presets")},
+                                                   {m_presets->button(), QStringLiteral("presets")},
                                                    {m_book->list(), QStringLiteral("pages")},
                                                    {m_cancel, QStringLiteral("cancel")}};
     if (!m_task.settingsOnly)
@@ -443,8 +444,8 @@ void PrintWindow::finishLater()
     auto *cost = new JobCostLabel(
         &m_documentChoice, [this] { return m_session.get(); }, this);
     m_guide->addNote(cost);
-    connect(m_settings, &SettingsControl::changed, cost, &JobCostLabel::refresh);
-    connect(m_book, &PageBook::shown, cost, &JobCostLabel::refresh);
+    connect(m_presets, &PresetMenu::changed, cost, &JobCostLabel::refresh);
+    connect(m_book, &PageBook::pageUpdated, cost, &JobCostLabel::refresh);
     m_layout.arrange();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));

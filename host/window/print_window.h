@@ -8,7 +8,7 @@
 #include "host/window/jobs/job_desk.h"
 #include "host/window/messages/message_queue.h"
 #include "host/window/messages/session_messages.h"
-#include "host/window/printers/printer_news.h"
+#include "host/window/printers/printer_status_poller.h"
 #include "host/window/session_opener.h"
 #include "host/window/waiting/panel_wait.h"
 #include "host/window/window_layout.h"
@@ -23,7 +23,7 @@ class PageBook;
 class PdfSaver;
 class PrinterPicker;
 class ResultPage;
-class SettingsControl;
+class PresetMenu;
 class UnavailablePage;
 class WaitingPage;
 
@@ -62,7 +62,7 @@ public Q_SLOTS:
     void print();
     void reject() override;
     void done(int result) override;
-    void loadPrinterList() { m_news.loadList(); }
+    void loadPrinterList() { m_poller.loadList(); }
     void finishLater(); // the work that can wait until the window is visible
 
 protected:
@@ -100,8 +100,8 @@ private:
     PrintError m_refusal;
     State m_state = State::Unavailable;
     PrinterPicker *m_picker;
-    PrinterNews m_news;
-    SettingsControl *m_settings;
+    PrinterStatusPoller m_poller;
+    PresetMenu *m_presets;
     MessageQueue m_queue;
     SessionMessages m_messages;
     PageBook *m_book;

@@ -31,7 +31,7 @@ private Q_SLOTS:
     void defaultsOfTheUser();
     void customValues_data();
     void customValues();
-    void customDefaultsNobodyTouched();
+    void unchangedCustomDefaults();
     void standardInput();
     void conflictIsExplainedInJson();
     void resolveAcceptsTheProposal();
@@ -307,7 +307,7 @@ void BatchRunTest::customValues()
 }
 
 // Defaults of a preset or the administrator, in the destination's options or in the PPD.
-void BatchRunTest::customDefaultsNobodyTouched()
+void BatchRunTest::unchangedCustomDefaults()
 {
     m_system.ppds[u"custom"_s].replace("*DefaultDensity: Normal", "*DefaultDensity: Custom.2");
     m_system.printers.last().options = {

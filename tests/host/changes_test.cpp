@@ -444,7 +444,7 @@ void ChangesTest::presetActionsStayWithTheirPrinter()
     PrintError error;
     QVERIFY(PresetStore().save(u"office"_s, {u"grey"_s, {{u"ColorType"_s, u"Mono"_s}}}, &error));
     const PresetStore::Files files = PresetStore::filesOfCups();
-    QFile lock((files.writesForEverybody ? files.everybodys : files.users) + u".kelmar-lock"_s);
+    QFile lock((files.writesForAllUsers ? files.allUsers : files.users) + u".kelmar-lock"_s);
     QVERIFY(lock.open(QIODevice::ReadWrite));
     const QStringList texts = menuTexts();
     QMenu *menu = presets()->menu();

@@ -247,7 +247,7 @@ void PolicyTest::nothingElsePassesLocks()
                session.ppd()->markedChoice(u"ColorBalanceCyan"_s);
     };
     QCOMPARE(stands(), u"A40"_s);
-    const SessionState start = StateKeeper::stateOf(session);
+    const SessionState start = StateRestorer::stateOf(session);
     applyPreset(&session, {},
                 {{u"media"_s, u"A3"_s}, {u"ColorBalanceCyan"_s, u"2"_s}, {u"raw"_s, u"true"_s}});
     QCOMPARE(stands(), u"A40"_s);
@@ -257,7 +257,7 @@ void PolicyTest::nothingElsePassesLocks()
     QCOMPARE(session.takeNotices().size(), 1);
     SessionState other = start;
     other.marks.insert(u"PageSize"_s, u"A3"_s);
-    StateKeeper(&session).bring(start, other);
+    StateRestorer(&session).restoreTo(start, other);
     QCOMPARE(stands(), u"A40"_s);
     for (const JobOption &option : session.jobOptions())
         QVERIFY2(option.name != u"raw"_s, qPrintable(option.name));

@@ -33,7 +33,7 @@ private Q_SLOTS:
     void whatTheFileCannotHoldIsSaid_data();
     void whatTheFileCannotHoldIsSaid();
     void manyWritersLoseNothing();
-    void everybodysAreReadAndLeftAlone();
+    void presetsOfAllUsersAreNotChanged();
     void lockIsNotWaitedForWithoutEnd();
 
 private:
@@ -204,7 +204,7 @@ void PresetStoreTest::manyWritersLoseNothing()
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-void PresetStoreTest::everybodysAreReadAndLeftAlone()
+void PresetStoreTest::presetsOfAllUsersAreNotChanged()
 {
     write("Dest office/house a=1 b=1\n");
     const PresetStore store({path(), m_folder->filePath(u"mine/lpoptions"_s), false, 0644});

@@ -75,7 +75,7 @@ private Q_SLOTS:
     void hostileDocumentIsRefused();
     void thousandsOfPages();
     void fewerPagesThanBefore();
-    void endsWhenNobodyLooks();
+    void endsWhenHidden();
     void writesPdf();
     void keepsWhatItCannotReplace();
 
@@ -418,7 +418,7 @@ void PreviewTest::fewerPagesThanBefore()
     QTRY_VERIFY(!preview.thumbnail(0).isNull());
 }
 
-void PreviewTest::endsWhenNobodyLooks()
+void PreviewTest::endsWhenHidden()
 {
     fakeAll();
     fake(u"pdftoppm"_s, "tail -f /dev/null '" + m_folder->path().toUtf8() + "/draws'\n");

@@ -90,7 +90,7 @@ private Q_SLOTS:
     void forgottenJob_data();
     void forgottenJob();
     void loginInTheWindow();
-    void loginNobodyGives();
+    void loginIsNotAnswered();
     void loginIsRefusedOnce();
     void loginDialogGoesWithTheWindow();
 
@@ -399,7 +399,7 @@ void JobEndTest::loginInTheWindow()
     cupsSetUser(nullptr);
 }
 
-void JobEndTest::loginNobodyGives()
+void JobEndTest::loginIsNotAnswered()
 {
     const auto proxy = faulty(u"login"_s);
     QVERIFY(proxy);

@@ -112,7 +112,7 @@ void PresetTest::otherProgramsPrintWithThePreset()
 void PresetTest::fileThatCannotBeReadIsTold()
 {
     const PresetStore::Files files = PresetStore::filesOfCups();
-    const QString path = files.writesForEverybody ? files.everybodys : files.users;
+    const QString path = files.writesForAllUsers ? files.allUsers : files.users;
     (void)QFile::remove(path);
     QVERIFY(QDir().mkpath(path)); // a folder, which root cannot read either
     QCOMPARE(run({u"--summary"_s}), int(ExitSuccess));
@@ -156,7 +156,7 @@ void PresetTest::codesAreNotKept()
     QCOMPARE(callBatch(call + words, *m_system, none, &m_json), int(ExitSuccess));
     QVERIFY(m_json[u"notices"_s].toArray().size() > 0);
     const PresetStore::Files files = PresetStore::filesOfCups();
-    QFile file(files.writesForEverybody ? files.everybodys : files.users);
+    QFile file(files.writesForAllUsers ? files.allUsers : files.users);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
     QVERIFY2(content.contains("PrintMode=Private") && !content.contains('7'), content.constData());

@@ -128,7 +128,7 @@ void JobDesk::noteStatus(const JobStatus &status)
     m_result->showStatus(status);
     if (status.isFinal())
         Q_EMIT ended();
-    const bool isNews = status.isFinal() || status.needsSomebody();
+    const bool isNews = status.isFinal() || status.needsAttention();
     if (!isNews)
         m_wasTold = false;
     else if (!std::exchange(m_wasTold, !status.isFinal()))

@@ -29,7 +29,7 @@ QSize DialogButton::minimumSizeHint() const
 
 void DialogButton::mousePressEvent(QMouseEvent *event)
 {
-    if (m_deaf.hasExpired())
+    if (m_mouseIgnored.hasExpired())
         QPushButton::mousePressEvent(event);
 }
 

@@ -20,7 +20,7 @@ public:
 
     // Ignores the mouse for this time, for example if the button has just appeared under a pointer that
     // pressed another one. Keys still work.
-    void ignoreMouseFor(std::chrono::milliseconds time) { m_deaf.setRemainingTime(time); }
+    void ignoreMouseFor(std::chrono::milliseconds time) { m_mouseIgnored.setRemainingTime(time); }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -30,7 +30,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override; // including double clicks
 
 private:
-    QDeadlineTimer m_deaf{0};
+    QDeadlineTimer m_mouseIgnored{0};
 };
 
 } // namespace host

@@ -227,7 +227,7 @@ QWidget *PageBook::contentOf(const Page &page)
         connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
         connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
         connect(m_general, &GeneralPage::grown, this, [this] {
-            Q_EMIT shown();
+            Q_EMIT pageUpdated();
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
@@ -330,7 +330,7 @@ void PageBook::showPage(int row)
     if (isBuilt)
         refresh();
     fitParts();
-    Q_EMIT shown();
+    Q_EMIT pageUpdated();
     showChanges();
 }
 
@@ -378,7 +378,7 @@ void PageBook::refresh()
 void PageBook::showSummary()
 {
     m_summary->show(*m_session, m_session->summary(),
-                    changesBetween(*m_session, m_history->base().state, StateKeeper::stateOf(*m_session)));
+                    changesBetween(*m_session, m_history->base().state, StateRestorer::stateOf(*m_session)));
 }
 
 int PageBook::rowOf(const QString &key) const

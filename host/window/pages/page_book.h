@@ -67,10 +67,10 @@ public:
     bool checkTyped();
 
 Q_SIGNALS:
-    void left(); // a page was left, and its panel saved
-    void shown();
-    void chosen(); // the user has made a choice, which is marked
-    void grown();  // the current page has additional controls
+    void left();        // a page was left, and its panel saved
+    void pageUpdated(); // another page is shown, or the current one has additional controls
+    void chosen();      // the user has made a choice, which is marked
+    void grown();       // the current page has additional controls
     void savePdfWanted();
 
 protected:

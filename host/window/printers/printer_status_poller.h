@@ -20,11 +20,11 @@ class PrinterPicker;
 
 // Updates a printer picker: loads the list of printers, and polls the state of the selected printer, on
 // worker threads. Owned by the picker's window. The print system is borrowed and outlives it.
-class PrinterNews : public QObject
+class PrinterStatusPoller : public QObject
 {
     Q_OBJECT
 public:
-    PrinterNews(PrintSystem &system, PrinterPicker *picker);
+    PrinterStatusPoller(PrintSystem &system, PrinterPicker *picker);
 
     // Sets the selected printer, and shows it in the picker. A printer without a queue is only a PPD, and is
     // not polled.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/printers/printer_news.h"
+#include "host/window/printers/printer_status_poller.h"
 
 #include "host/printing/network_search.h"
 #include "host/window/printers/printer_picker.h"
@@ -14,13 +14,14 @@ constexpr std::chrono::seconds betweenStates(5);
 
 }
 
-PrinterNews::PrinterNews(PrintSystem &system, PrinterPicker *picker) : m_system(system), m_picker(picker)
+PrinterStatusPoller::PrinterStatusPoller(PrintSystem &system, PrinterPicker *picker)
+    : m_system(system), m_picker(picker)
 {
-    connect(m_picker, &PrinterPicker::opened, this, &PrinterNews::searchNetwork);
-    connect(&m_stateTimer, &QTimer::timeout, this, &PrinterNews::askState);
+    connect(m_picker, &PrinterPicker::opened, this, &PrinterStatusPoller::searchNetwork);
+    connect(&m_stateTimer, &QTimer::timeout, this, &PrinterStatusPoller::askState);
 }
 
-void PrinterNews::setChosen(const Destination &printer)
+void PrinterStatusPoller::setChosen(const Destination &printer)
 {
     m_chosen = printer;
     if (isPpdAlone())
@@ -29,13 +30,13 @@ void PrinterNews::setChosen(const Destination &printer)
         m_picker->setCurrent(printer);
 }
 
-void PrinterNews::forgetChosen()
+void PrinterStatusPoller::forgetChosen()
 {
     m_stateQuestion.drop();
     m_chosen.reset();
 }
 
-void PrinterNews::follow(bool follows)
+void PrinterStatusPoller::follow(bool follows)
 {
     if (follows)
         m_stateTimer.start(betweenStates);
@@ -43,7 +44,7 @@ void PrinterNews::follow(bool follows)
         m_stateTimer.stop();
 }
 
-void PrinterNews::loadList()
+void PrinterStatusPoller::loadList()
 {
     if (isPpdAlone())
         return;
@@ -63,7 +64,7 @@ void PrinterNews::loadList()
         [this](const QStringList &recent) { m_picker->setRecent(recent); });
 }
 
-void PrinterNews::searchNetwork()
+void PrinterStatusPoller::searchNetwork()
 {
     if (!m_networkSearch) {
         m_networkSearch = new NetworkSearch(m_system, this);
@@ -74,7 +75,7 @@ void PrinterNews::searchNetwork()
     m_networkSearch->begin();
 }
 
-void PrinterNews::askState()
+void PrinterStatusPoller::askState()
 {
     if (!m_chosen || isPpdAlone() || m_stateQuestion.isPending())
         return;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/presets/settings_control.h"
+#include "host/window/presets/preset_menu.h"
 
 #include "host/session/dialog_session.h"
 #include "host/session/preset_settings.h"
@@ -59,7 +59,7 @@ void focusBefore(QWidget *gone)
 
 } // namespace
 
-SettingsControl::SettingsControl(QWidget *window)
+PresetMenu::PresetMenu(QWidget *window)
     : QObject(window), m_window(window), m_button(new MenuButton(window)), m_choices(new QActionGroup(this)),
       m_undo(new QAction(tr("&Undo"), window)), m_redo(new QAction(tr("&Redo"), window))
 {
@@ -71,26 +71,26 @@ SettingsControl::SettingsControl(QWidget *window)
     window->addActions({m_undo, m_redo});
     connect(m_undo, &QAction::triggered, this, [this] { step(&QUndoStack::undo); });
     connect(m_redo, &QAction::triggered, this, [this] { step(&QUndoStack::redo); });
-    connect(m_button, &MenuButton::menuWanted, this, &SettingsControl::makeMenu);
+    connect(m_button, &MenuButton::menuWanted, this, &PresetMenu::makeMenu);
     qApp->installEventFilter(this);
     showName();
 }
 
-SettingsControl::~SettingsControl() = default;
+PresetMenu::~PresetMenu() = default;
 
-QPushButton *SettingsControl::button() const
+QPushButton *PresetMenu::button() const
 {
     return m_button;
 }
 
-void SettingsControl::makeMenu()
+void PresetMenu::makeMenu()
 {
     m_menu = new QMenu(m_button);
-    connect(m_menu, &QMenu::aboutToShow, this, &SettingsControl::openMenu);
+    connect(m_menu, &QMenu::aboutToShow, this, &PresetMenu::openMenu);
     m_button->setMenu(m_menu);
 }
 
-void SettingsControl::setSession(DialogSession *session)
+void PresetMenu::setSession(DialogSession *session)
 {
     m_history.reset();
     delete m_dialog;
@@ -106,7 +106,7 @@ void SettingsControl::setSession(DialogSession *session)
         m_queueOptions.reset();
         m_startInstance = session->destination().instance;
         m_history = std::make_unique<SessionHistory>(session);
-        connect(m_history->steps(), &QUndoStack::indexChanged, this, &SettingsControl::showName);
+        connect(m_history->steps(), &QUndoStack::indexChanged, this, &PresetMenu::showName);
         connect(m_history.get(), &SessionHistory::changed, this, [this] {
             showName();
             Q_EMIT changed();
@@ -116,13 +116,13 @@ void SettingsControl::setSession(DialogSession *session)
     showName();
 }
 
-void SettingsControl::setActive(bool active)
+void PresetMenu::setActive(bool active)
 {
     m_isActive = active;
     showName();
 }
 
-void SettingsControl::step(void (QUndoStack::*direction)())
+void PresetMenu::step(void (QUndoStack::*direction)())
 {
     const QPointer<QWidget> focus = m_window->focusWidget();
     note(); // pending changes
@@ -132,26 +132,26 @@ void SettingsControl::step(void (QUndoStack::*direction)())
         focusBefore(focus);
 }
 
-void SettingsControl::note()
+void PresetMenu::note()
 {
     if (m_history)
         m_history->note();
     showName();
 }
 
-void SettingsControl::absorb()
+void PresetMenu::resync()
 {
     if (m_history)
-        m_history->absorb();
+        m_history->resync();
     showName();
 }
 
-QString SettingsControl::queue() const
+QString PresetMenu::queue() const
 {
     return m_session->destination().queue;
 }
 
-std::function<void()> SettingsControl::rememberUse() const
+std::function<void()> PresetMenu::rememberUse() const
 {
     const QString queue = this->queue();
     if (queue.isEmpty())
@@ -162,7 +162,7 @@ std::function<void()> SettingsControl::rememberUse() const
     };
 }
 
-void SettingsControl::showName()
+void PresetMenu::showName()
 {
     const QString name = m_history ? m_history->base().name : QString();
     QString text = name.isEmpty()             ? tr("Defaults")
@@ -180,7 +180,7 @@ void SettingsControl::showName()
     m_redo->setEnabled(m_history && m_history->steps()->canRedo() && m_isActive);
 }
 
-SettingsControl::Lists SettingsControl::readLists(const QString &queue)
+PresetMenu::Lists PresetMenu::readLists(const QString &queue)
 {
     Lists lists;
     lists.presets = PresetStore().list(queue, &lists.error).value_or(QList<Preset>());
@@ -192,7 +192,7 @@ SettingsControl::Lists SettingsControl::readLists(const QString &queue)
 }
 
 // If reading the files takes long, shows the last known presets first.
-void SettingsControl::openMenu()
+void PresetMenu::openMenu()
 {
     m_reading.start(
         this, [queue = queue()] { return readLists(queue); },
@@ -209,13 +209,13 @@ void SettingsControl::openMenu()
     fillMenu();
 }
 
-bool SettingsControl::hasOwnDefaults() const
+bool PresetMenu::hasOwnDefaults() const
 {
     return std::any_of(m_lists.presets.begin(), m_lists.presets.end(),
                        [](const Preset &preset) { return preset.name.isEmpty(); });
 }
 
-void SettingsControl::addChoice(const QString &text, const QString &name)
+void PresetMenu::addChoice(const QString &text, const QString &name)
 {
     QAction *action = m_menu->addAction(Mnemonics::escaped(text));
     action->setActionGroup(m_choices);
@@ -227,14 +227,14 @@ void SettingsControl::addChoice(const QString &text, const QString &name)
     connect(action, &QAction::triggered, this, [this, name] { apply(name); });
 }
 
-void SettingsControl::addEditing(const QString &text, const std::function<void()> &run)
+void PresetMenu::addEditing(const QString &text, const std::function<void()> &run)
 {
     QAction *action = m_menu->addAction(text);
     action->setEnabled(!m_editing.isPending());
     connect(action, &QAction::triggered, this, run);
 }
 
-void SettingsControl::fillMenu()
+void PresetMenu::fillMenu()
 {
     m_menu->clear();
     if (hasOwnDefaults())
@@ -252,7 +252,7 @@ void SettingsControl::fillMenu()
     m_menu->addActions({m_undo, m_redo});
 }
 
-void SettingsControl::addChanges()
+void PresetMenu::addChanges()
 {
     const QString name = m_history->base().name;
     const QString shown = Mnemonics::escaped(oneLine(name, longestName));
@@ -267,14 +267,14 @@ void SettingsControl::addChanges()
 }
 
 // Whether the user has allowed a preset to contain codes.
-bool SettingsControl::keepsSecrets(const QString &name) const
+bool PresetMenu::keepsSecrets(const QString &name) const
 {
     const QStringList options = optionsOf(name).keys();
     return std::any_of(options.begin(), options.end(),
                        [this](const QString &option) { return m_session->isSecret(option); });
 }
 
-QStringList SettingsControl::names() const
+QStringList PresetMenu::names() const
 {
     QStringList names;
     for (const Preset &preset : m_lists.presets) {
@@ -284,7 +284,7 @@ QStringList SettingsControl::names() const
     return names;
 }
 
-QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
+QMap<QString, QString> PresetMenu::optionsOf(const QString &name) const
 {
     if (name == lastUsed && m_lists.lastUsed)
         return m_lists.lastUsed->options;
@@ -297,7 +297,7 @@ QMap<QString, QString> SettingsControl::optionsOf(const QString &name) const
 }
 
 // The print system returns the printer's and the user's options as one list.
-QMap<QString, QString> SettingsControl::queueOptions() const
+QMap<QString, QString> PresetMenu::queueOptions() const
 {
     if (m_queueOptions)
         return *m_queueOptions;
@@ -307,7 +307,7 @@ QMap<QString, QString> SettingsControl::queueOptions() const
     return options;
 }
 
-void SettingsControl::apply(const QString &name)
+void PresetMenu::apply(const QString &name)
 {
     m_session->save();
     m_history->note();
@@ -323,8 +323,7 @@ void SettingsControl::apply(const QString &name)
     Q_EMIT applied();
 }
 
-void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work,
-                           const std::function<void()> &done)
+void PresetMenu::edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done)
 {
     m_editing.start(
         this, [work = std::move(work)] { return work(PresetStore()); },
@@ -344,13 +343,13 @@ void SettingsControl::edit(std::function<PrintError(const PresetStore &)> work,
 }
 
 // Keeps the settings; changes are then shown against the initial values of the printer.
-void SettingsControl::forget(const QString &name)
+void PresetMenu::forget(const QString &name)
 {
     leaveInstance(name, {});
     QStringList ignored;
     SessionHistory::Base defaults{
         stateWithPreset(m_session, queueOptions(), optionsOf(ownDefaults), &ignored), {}};
-    const SessionState now = StateKeeper::stateOf(*m_session);
+    const SessionState now = StateRestorer::stateOf(*m_session);
     defaults.state.panelValues = m_history->startingPanelValues();
     defaults.state.instance = now.instance;
     defaults.state.destinationOptions = now.destinationOptions;
@@ -358,14 +357,14 @@ void SettingsControl::forget(const QString &name)
 }
 
 // The destination no longer exists under this name.
-void SettingsControl::leaveInstance(const QString &name, const QString &another)
+void PresetMenu::leaveInstance(const QString &name, const QString &another)
 {
     if (m_startInstance == name)
         m_startInstance = another;
     m_history->renameInstance(name, another);
 }
 
-void SettingsControl::save(const QString &name, bool withSecrets)
+void PresetMenu::save(const QString &name, bool withSecrets)
 {
     m_session->save();
     const QString inUse = m_history->base().name.isEmpty() ? m_startInstance : m_history->base().name;
@@ -383,7 +382,7 @@ void SettingsControl::save(const QString &name, bool withSecrets)
         });
 }
 
-void SettingsControl::saveAs()
+void PresetMenu::saveAs()
 {
     const QString name = m_history->base().name;
     m_session->save();
@@ -395,7 +394,7 @@ void SettingsControl::saveAs()
     dialog->open();
 }
 
-void SettingsControl::rename()
+void PresetMenu::rename()
 {
     const QString from = m_history->base().name;
     auto *dialog = new PresetDialog(PresetDialog::Purpose::Rename, from, names(), false, m_window);
@@ -417,7 +416,7 @@ void SettingsControl::rename()
 }
 
 // Keeps the settings.
-void SettingsControl::remove()
+void PresetMenu::remove()
 {
     const QString name = m_history->base().name;
     auto *question = new QMessageBox(QMessageBox::Question, tr("Delete Preset"),
@@ -442,12 +441,12 @@ void SettingsControl::remove()
     question->open();
 }
 
-void SettingsControl::useAsDefault()
+void PresetMenu::useAsDefault()
 {
     save(ownDefaults, false);
 }
 
-bool SettingsControl::eventFilter(QObject *watched, QEvent *event)
+bool PresetMenu::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::ShortcutOverride)
         return false;

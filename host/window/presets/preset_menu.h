@@ -29,12 +29,12 @@ class SessionHistory;
 // The menu of the presets of the selected printer, and the undo history of the session. Reads and writes
 // presets on a worker thread, but not before the menu is first opened. A child of the window. The session is
 // borrowed; detach it before it is destroyed.
-class SettingsControl : public QObject
+class PresetMenu : public QObject
 {
     Q_OBJECT
 public:
-    explicit SettingsControl(QWidget *window);
-    ~SettingsControl() override;
+    explicit PresetMenu(QWidget *window);
+    ~PresetMenu() override;
 
     // The button "Settings: …"; owned by the window.
     QPushButton *button() const;
@@ -46,7 +46,7 @@ public:
     // Call when the user may have changed a setting.
     void note();
     // Call when a setting has changed without the user.
-    void absorb();
+    void resync();
     // A function that stores the current settings as last used; may be called on any thread.
     std::function<void()> rememberUse() const;
 
