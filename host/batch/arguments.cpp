@@ -47,11 +47,11 @@ QList<OptionText> optionTexts()
          ArgumentsText::tr("Set an option of the printer, or a key of a panel such as departmentCode.")},
         {names({"set-file"}), ArgumentsText::tr("KEY=FILE"),
          ArgumentsText::tr(
-             "The same with the value from the first line of a file; “-” is the standard input.")},
+             "Like --set, with the value from the first line of a file; “-” is the standard input.")},
         {names({"ask"}), ArgumentsText::tr("KEY"),
-         ArgumentsText::tr("The same with the value asked for on the terminal, which does not show it.")},
+         ArgumentsText::tr("Like --set, with the value asked for on the terminal, which does not show it.")},
         {names({"o"}), ArgumentsText::tr("NAME=VALUE"),
-         ArgumentsText::tr("The same, but unknown names are passed to the print system as job options.")},
+         ArgumentsText::tr("Like --set, but unknown names are passed to the print system as job options.")},
         {names({"batch"}), {}, ArgumentsText::tr("Print without opening a window.")},
         {names({"output"}), ArgumentsText::tr("FILE"),
          ArgumentsText::tr("With --batch: write the pages into this PDF file instead of printing them.")},
@@ -281,8 +281,8 @@ QString commandLineHelp()
     }
     text += ArgumentsText::tr(
         "\nExit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,\n"
-        "4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells "
-        "more.\n");
+        "4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for "
+        "details.\n");
     return text;
 }
 

@@ -60,8 +60,8 @@
         <translation>NAME=WERT</translation>
     </message>
     <message>
-        <source>The same, but unknown names are passed to the print system as job options.</source>
-        <translation>Dasselbe, aber unbekannte Namen werden dem Drucksystem als Auftragsoptionen übergeben.</translation>
+        <source>Like --set, but unknown names are passed to the print system as job options.</source>
+        <translation>Wie --set, aber unbekannte Namen werden dem Drucksystem als Auftragsoptionen übergeben.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -154,16 +154,16 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
         <translation>Farben des Dialogs: light (hell) oder dark (dunkel).</translation>
     </message>
     <message>
-        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
-        <translation>Dasselbe mit dem Wert aus der ersten Zeile einer Datei; „-“ ist die Standardeingabe.</translation>
+        <source>Like --set, with the value from the first line of a file; “-” is the standard input.</source>
+        <translation>Wie --set, mit dem Wert aus der ersten Zeile einer Datei; „-“ ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>KEY</source>
         <translation>SCHLÜSSEL</translation>
     </message>
     <message>
-        <source>The same with the value asked for on the terminal, which does not show it.</source>
-        <translation>Dasselbe mit dem Wert, der im Terminal abgefragt und dort nicht angezeigt wird.</translation>
+        <source>Like --set, with the value asked for on the terminal, which does not show it.</source>
+        <translation>Wie --set, mit dem Wert, der im Terminal abgefragt und dort nicht angezeigt wird.</translation>
     </message>
     <message>
         <source>--ask takes a key alone; the value is asked for.</source>
@@ -192,7 +192,7 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
     <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for details.
 </source>
         <translation>
 Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nicht zusammenpassen,

@@ -56,24 +56,24 @@
         <translation>CLAVE=ARCHIVO</translation>
     </message>
     <message>
-        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
-        <translation>Lo mismo, con el valor leído de la primera línea de un archivo; «-» es la entrada estándar.</translation>
+        <source>Like --set, with the value from the first line of a file; “-” is the standard input.</source>
+        <translation>Como --set, con el valor leído de la primera línea de un archivo; «-» es la entrada estándar.</translation>
     </message>
     <message>
         <source>KEY</source>
         <translation>CLAVE</translation>
     </message>
     <message>
-        <source>The same with the value asked for on the terminal, which does not show it.</source>
-        <translation>Lo mismo, pidiendo el valor en el terminal, que no lo muestra.</translation>
+        <source>Like --set, with the value asked for on the terminal, which does not show it.</source>
+        <translation>Como --set, pidiendo el valor en el terminal, que no lo muestra.</translation>
     </message>
     <message>
         <source>NAME=VALUE</source>
         <translation>NOMBRE=VALOR</translation>
     </message>
     <message>
-        <source>The same, but unknown names are passed to the print system as job options.</source>
-        <translation>Lo mismo, pero los nombres desconocidos se pasan al sistema de impresión como opciones del trabajo.</translation>
+        <source>Like --set, but unknown names are passed to the print system as job options.</source>
+        <translation>Como --set, pero los nombres desconocidos se pasan al sistema de impresión como opciones del trabajo.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -192,7 +192,7 @@ Imprime documentos, con un diálogo para los ajustes o sin él.
     <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for details.
 </source>
         <translation>
 Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pueden usar juntos,

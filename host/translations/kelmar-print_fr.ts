@@ -60,8 +60,8 @@
         <translation>NOM=VALEUR</translation>
     </message>
     <message>
-        <source>The same, but unknown names are passed to the print system as job options.</source>
-        <translation>Idem, mais les noms inconnus sont transmis au système d’impression comme options de la tâche.</translation>
+        <source>Like --set, but unknown names are passed to the print system as job options.</source>
+        <translation>Comme --set, mais les noms inconnus sont transmis au système d’impression comme options de la tâche.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -154,16 +154,16 @@ Imprime des documents, avec ou sans boîte de dialogue pour les réglages.
 </translation>
     </message>
     <message>
-        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
-        <translation>Idem, la valeur étant lue sur la première ligne d’un fichier&#xa0;; «&#xa0;-&#xa0;» est l’entrée standard.</translation>
+        <source>Like --set, with the value from the first line of a file; “-” is the standard input.</source>
+        <translation>Comme --set, la valeur étant lue sur la première ligne d’un fichier&#xa0;; «&#xa0;-&#xa0;» est l’entrée standard.</translation>
     </message>
     <message>
         <source>KEY</source>
         <translation>CLÉ</translation>
     </message>
     <message>
-        <source>The same with the value asked for on the terminal, which does not show it.</source>
-        <translation>Idem, la valeur étant demandée dans le terminal, qui ne l’affiche pas.</translation>
+        <source>Like --set, with the value asked for on the terminal, which does not show it.</source>
+        <translation>Comme --set, la valeur étant demandée dans le terminal, qui ne l’affiche pas.</translation>
     </message>
     <message>
         <source>--ask takes a key alone; the value is asked for.</source>
@@ -192,7 +192,7 @@ Imprime des documents, avec ou sans boîte de dialogue pour les réglages.
     <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for details.
 </source>
         <translation>
 Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incompatibles,

@@ -56,24 +56,24 @@
         <translation>CHIAVE=FILE</translation>
     </message>
     <message>
-        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
-        <translation>Come sopra, con il valore letto dalla prima riga di un file; «-» è lo standard input.</translation>
+        <source>Like --set, with the value from the first line of a file; “-” is the standard input.</source>
+        <translation>Come --set, con il valore letto dalla prima riga di un file; «-» è lo standard input.</translation>
     </message>
     <message>
         <source>KEY</source>
         <translation>CHIAVE</translation>
     </message>
     <message>
-        <source>The same with the value asked for on the terminal, which does not show it.</source>
-        <translation>Come sopra, con il valore chiesto sul terminale, che non lo mostra.</translation>
+        <source>Like --set, with the value asked for on the terminal, which does not show it.</source>
+        <translation>Come --set, con il valore chiesto sul terminale, che non lo mostra.</translation>
     </message>
     <message>
         <source>NAME=VALUE</source>
         <translation>NOME=VALORE</translation>
     </message>
     <message>
-        <source>The same, but unknown names are passed to the print system as job options.</source>
-        <translation>Come sopra, ma i nomi sconosciuti vengono passati al sistema di stampa come opzioni del lavoro.</translation>
+        <source>Like --set, but unknown names are passed to the print system as job options.</source>
+        <translation>Come --set, ma i nomi sconosciuti vengono passati al sistema di stampa come opzioni del lavoro.</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -192,7 +192,7 @@ Stampa documenti, con o senza una finestra di dialogo per le impostazioni.
     <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for details.
 </source>
         <translation>
 Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non possono essere usate insieme,

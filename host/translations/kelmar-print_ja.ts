@@ -60,8 +60,8 @@
         <translation>名前=値</translation>
     </message>
     <message>
-        <source>The same, but unknown names are passed to the print system as job options.</source>
-        <translation>同様ですが、不明な名前はジョブのオプションとして印刷システムに渡されます。</translation>
+        <source>Like --set, but unknown names are passed to the print system as job options.</source>
+        <translation>--set と同様ですが、不明な名前はジョブのオプションとして印刷システムに渡されます。</translation>
     </message>
     <message>
         <source>Print without opening a window.</source>
@@ -154,16 +154,16 @@ Print documents, with a dialog for the settings or without one.
 </translation>
     </message>
     <message>
-        <source>The same with the value from the first line of a file; “-” is the standard input.</source>
-        <translation>同上。値はファイルの 1 行目から読み込みます。「-」は標準入力です。</translation>
+        <source>Like --set, with the value from the first line of a file; “-” is the standard input.</source>
+        <translation>--set と同様で、値はファイルの 1 行目から読み込みます。「-」は標準入力です。</translation>
     </message>
     <message>
         <source>KEY</source>
         <translation>キー</translation>
     </message>
     <message>
-        <source>The same with the value asked for on the terminal, which does not show it.</source>
-        <translation>同上。値は端末で入力します。入力した値は表示されません。</translation>
+        <source>Like --set, with the value asked for on the terminal, which does not show it.</source>
+        <translation>--set と同様で、値は端末で入力します。入力した値は表示されません。</translation>
     </message>
     <message>
         <source>--ask takes a key alone; the value is asked for.</source>
@@ -192,7 +192,7 @@ Print documents, with a dialog for the settings or without one.
     <message>
         <source>
 Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used together,
-4 canceled, 5 not known whether the job was accepted. The manual page kelmar-print(1) tells more.
+4 canceled, 5 not known whether the job was accepted. See the manual page kelmar-print(1) for details.
 </source>
         <translation>
 終了コード: 0 成功、1 失敗、2 使い方の誤り、3 併用できない設定、
