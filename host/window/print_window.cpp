@@ -30,8 +30,6 @@
 #include <QIcon>
 #include <QShortcut>
 
-#include <algorithm>
-
 namespace host {
 
 namespace {
@@ -279,7 +277,7 @@ void PrintWindow::changePrinter(std::unique_ptr<DialogSession> session)
     adopt(std::move(session));
     carryOver(*earlier, m_session.get());
     m_presets->resync();
-    m_book->showPage(std::max(m_book->pageNamed(page), 0));
+    m_book->showPage(qMax(m_book->pageNamed(page), 0));
     m_messages.check();
 }
 
