@@ -9,8 +9,8 @@ namespace host {
 
 // Localises the texts of groups, options and choices like ppdLocalize(), and corrects its results: an empty
 // translation is replaced by the PPD's own text, and a character truncated by the size of libcups's fields is
-// removed completely. In a PPD that CUPS has generated for a driverless printer, usual options and choices get
-// the program's own texts.
+// removed completely. In a PPD that CUPS has generated for a driverless printer, usual options and choices
+// get the program's own texts.
 void localizePpdTexts(ppd_file_s *ppd);
 
 } // namespace host

@@ -84,7 +84,6 @@ PrintWindow::~PrintWindow()
     detachSession();
 }
 
-// Connects the controls.
 void PrintWindow::connectParts()
 {
     connect(m_picker, &PrinterPicker::picked, this, &PrintWindow::pickPrinter);
