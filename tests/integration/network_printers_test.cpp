@@ -92,7 +92,7 @@ void NetworkPrintersTest::chooseOffered(PrintWindow *window)
     for (const Offer &offer : offers) {
         const QString option = QLatin1String(offer.option);
         auto *box = window->book()->findChild<platform::ChoiceBox *>(option);
-        for (int row = 1; !box && row < 3; ++row) {
+        for (int row = 0; !(box && box->isVisible()) && row < 3; ++row) {
             window->book()->showPage(row);
             box = window->book()->findChild<platform::ChoiceBox *>(option);
         }
