@@ -21,6 +21,8 @@ using namespace host;
 
 namespace {
 
+constexpr unsigned longestAnswer = 5; // seconds for the session bus, as long as the dialog waits for it
+
 // The program in the folder of this one, as in a build tree, else in the folder for installed programs.
 QString dialogProgram()
 {
@@ -74,6 +76,7 @@ int main(int argc, char **argv)
     parser.addOptions({program, idle, notice, scheme});
     parser.process(app);
     if (parser.isSet(scheme)) {
+        ::alarm(longestAnswer); // the session bus may never answer, and the dialog may exit earlier
         std::puts(desktopContrastScheme(QDBusConnection::sessionBus()).constData());
         return 0;
     }
