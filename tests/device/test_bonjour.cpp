@@ -79,7 +79,7 @@ void TestBonjour::silence_data()
     using Change = std::function<void()>;
     QTest::addColumn<QString>("host");
     QTest::addColumn<Change>("change");
-    QTest::newRow("no answer") << u"Nobody._ipp._tcp.local"_s << Change([] {});
+    QTest::newRow("no answer") << u"Absent._ipp._tcp.local"_s << Change([] {});
     QTest::newRow("the daemon hangs")
         << u"Office Printer._ipp._tcp.local"_s
         << Change([this] { ::kill(static_cast<pid_t>(m_bonjour.daemon->processId()), SIGSTOP); });

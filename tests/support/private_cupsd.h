@@ -55,8 +55,8 @@ public:
     // A folder for files of other processes; removed with the object.
     QString folder() const { return m_folder.path(); }
     // Makes the folder the home folder of this process and its children, with their presets in it. These are
-    // also the presets of all users, since from libcups 2.4.17 on root has no others. Call before anything
-    // else uses libcups, which looks up both only once.
+    // also the presets of all users, since newer versions of libcups read no others for root. Call before
+    // anything else uses libcups, which looks up both only once.
     void provideHome() const;
 
     // Adds a queue that accepts jobs. Without a PPD file the queue is raw, as for an unsupported printer.
