@@ -38,7 +38,7 @@ void ScreenReaderTest::privateJobIsTold()
     PrivateCupsd server;
     QVERIFY2(server.start(), qPrintable(server.problem()));
     QVERIFY2(server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(server.problem()));
-    qputenv("HOME", server.folder().toLocal8Bit());
+    server.provideHome();
     QProcess run;
     run.setProcessChannelMode(QProcess::MergedChannels);
     QStringList words{u"-a"_s,

@@ -45,7 +45,7 @@ void AnswersFixture::startServer()
     QVERIFY(queues.open(QIODevice::WriteOnly) && queues.write(queueList(manyQueues)) > 0);
     queues.close();
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    qputenv("HOME", m_server.folder().toLocal8Bit());
+    m_server.provideHome();
     for (const auto &[queue, address] : {std::pair(u"office"_s, u"127.0.0.2"_s),
                                          {u"attic"_s, u"orb-m880.example"_s},
                                          {u"halted"_s, u"127.0.0.2"_s}})

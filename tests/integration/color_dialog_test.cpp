@@ -120,7 +120,7 @@ void ColorDialogTest::initTestCase()
     if (const QString whyNot = enterPrivateNetwork(); !whyNot.isNull())
         QSKIP(qPrintable(whyNot));
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    qputenv("HOME", m_server.folder().toLocal8Bit());
+    m_server.provideHome();
     const QString ppd = buildPath("/ppds/kelm880.ppd");
     for (const auto &[queue, address] :
          {std::pair(u"office"_s, u"127.0.0.2"_s), {u"attic"_s, u"127.0.0.3"_s}})

@@ -109,7 +109,7 @@ void JobEndTest::initTestCase()
     if (const QString missing = PrivateCupsd::missing(); !missing.isEmpty())
         QSKIP(qPrintable(missing));
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    qputenv("HOME", m_server.folder().toLocal8Bit());
+    m_server.provideHome();
     QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));

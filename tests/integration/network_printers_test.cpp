@@ -75,7 +75,7 @@ void NetworkPrintersTest::initTestCase()
     if (!whyNot.isNull())
         QSKIP(qPrintable(whyNot));
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
-    qputenv("HOME", m_server.folder().toLocal8Bit());
+    m_server.provideHome();
     QVERIFY2(m_server.addQueue(u"office"_s, {}), qPrintable(m_server.problem()));
     QString error;
     m_printer = startChildProcess(u"ippeveprinter"_s,
