@@ -230,7 +230,9 @@ void PolicyTest::defaultsDoNotPassLocks()
     const QList<JobOption> sent = m_system.submitted.first().options;
     QVERIFY(sentValue(sent, u"raw"_s).isNull());
     QVERIFY(sentValue(sent, u"ColorBalanceCyan"_s) != u"2"_s);
-    QVERIFY(sentValue(sent, u"media"_s).isEmpty() || sentValue(sent, u"media"_s) == u"A4"_s);
+    // Newer versions of libcups also accept a type and a tray in "media", after the size.
+    const QString media = sentValue(sent, u"media"_s);
+    QVERIFY2(media.isEmpty() || media.section(u',', 0, 0) == u"A4"_s, qPrintable(media));
 }
 
 // Requests that set a session as a whole: a preset of the menu, a resolution of a conflict, an earlier state.
