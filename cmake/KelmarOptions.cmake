@@ -113,10 +113,23 @@ endif()
 
 # The headers that most sources include, compiled once for all targets that use widgets, which halves the build time.
 # Sources still include what they use: Debian packages are built with CMAKE_DISABLE_PRECOMPILE_HEADERS.
-add_library(kelmar_precompiled OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
-set_target_properties(kelmar_precompiled PROPERTIES AUTOMOC OFF)
-target_link_libraries(kelmar_precompiled PRIVATE kelmar_options Qt6::Widgets)
-target_precompile_headers(kelmar_precompiled PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
+function(kelmar_precompile name header)
+  add_library(${name} OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  target_link_libraries(${name} PRIVATE kelmar_options ${ARGN})
+  target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${header})
+  # Compilers write a different file each time. ccache identifies it by this one, so that clones share results.
+  set(sum ${Qt6_VERSION})
+  foreach(file precompiled.h ${header})
+    file(SHA256 ${PROJECT_SOURCE_DIR}/cmake/${file} hash)
+    string(APPEND sum " ${hash}")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/${file})
+  endforeach()
+  foreach(suffix gch pch)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${name}.dir/cmake_pch.hxx.${suffix}.sum "${sum}\n")
+  endforeach()
+endfunction()
+kelmar_precompile(kelmar_precompiled precompiled.h Qt6::Widgets)
 # Programs would be compiled with -fPIE, which is incompatible with headers that were precompiled for libraries. Some builds of Qt
 # require -fPIC themselves.
 get_target_property(qt_options Qt6::Core INTERFACE_COMPILE_OPTIONS)

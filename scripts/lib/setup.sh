@@ -71,7 +71,7 @@ ensure_packages() (
 
 # Lets clones in different folders share the compiler cache. With precompiled headers the cache has to ignore macros and times.
 share_compiler_cache() {
-    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_PCH_EXTSUM=1
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 }
 
