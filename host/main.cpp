@@ -19,7 +19,6 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
@@ -191,6 +190,15 @@ int flushed(int code, QFile *out, QFile *err)
     return code;
 }
 
+// Sets the locale once. Qt sets it from the environment with its first application object, and not again when
+// QApplication is created while a worker reads texts.
+void setLocale(int argc, char **argv)
+{
+    std::vector<char *> words(argv, argv + argc + 1); // Qt may remove some
+    const QCoreApplication first(argc, words.data());
+    speakDialogLanguage();
+}
+
 // Queries the dialog's printer while Qt starts. Null if no dialog opens on a printer. The worker reads the
 // locale and the environment, which must be set before.
 std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments, bool hasDisplay)
@@ -235,8 +243,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(KELMAR_VERSION));
     // Suppresses a message of Avahi's library to users on stderr.
     qputenv("AVAHI_COMPAT_NOWARN", "1");
-    setlocale(LC_ALL, ""); // as Qt does later
-    speakDialogLanguage();
+    setLocale(argc, argv);
     QString error;
     const QStringList given = commandLine(argc, argv);
     auto arguments = parseArguments(given, &error);
@@ -245,7 +252,6 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     wordsForDisplay = nullptr;
     installTranslations(&app);
-    speakDialogLanguage(); // Qt has set the locale again
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
         return runForService(hasDisplay);
     QFile out, err;
