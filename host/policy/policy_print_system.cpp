@@ -185,6 +185,11 @@ std::optional<Destination> PolicyPrintSystem::withState(const Destination &desti
     return m_system.withState(destination);
 }
 
+std::optional<DeviceReport> PolicyPrintSystem::reportOf(const Destination &destination)
+{
+    return m_system.reportOf(destination);
+}
+
 void PolicyPrintSystem::setLoginPrompt(LoginPrompt prompt)
 {
     m_system.setLoginPrompt(std::move(prompt));

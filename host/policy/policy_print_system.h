@@ -32,6 +32,7 @@ public:
     // reports only offered printers
     void searchNetwork(const std::function<bool(const Destination &)> &found) override;
     std::optional<Destination> withState(const Destination &destination) override;
+    std::optional<DeviceReport> reportOf(const Destination &destination) override;
     void setLoginPrompt(LoginPrompt prompt) override;
 
 private:

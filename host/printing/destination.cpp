@@ -34,6 +34,7 @@ Destination Destination::withoutState() const
     unknown.stopped = false;
     unknown.problem.clear();
     unknown.supplies.clear();
+    unknown.report = {};
     return unknown;
 }
 

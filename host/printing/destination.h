@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QDateTime>
 #include <QList>
 #include <QMap>
 #include <QMetaType>
@@ -19,6 +20,29 @@ struct Supply
     bool isLow = false;
 
     bool operator==(const Supply &) const = default;
+};
+
+// The media loaded in a tray of a printer. A value.
+struct LoadedTray
+{
+    QString source;   // "media-source", such as "tray-1"; empty if the printer does not report it
+    QString type;     // "media-type", such as "stationery"; empty likewise
+    QString size;     // for display, such as "A4"
+    double width = 0; // millimetres; 0 if not known
+    double length = 0;
+
+    bool operator==(const LoadedTray &) const = default;
+};
+
+// What a printer itself reports; a print server passes on less. A value.
+struct DeviceReport
+{
+    QList<Supply> supplies;  // empty if the printer does not report any
+    QList<Supply> paper;     // the paper left in each tray
+    QList<LoadedTray> trays; // empty if not known; without empty trays
+    QDateTime time;          // of the report; invalid if there is none
+
+    bool operator==(const DeviceReport &) const = default;
 };
 
 // A queue of the print server, or a preset of one ("queue/instance"). A value.
@@ -38,6 +62,11 @@ struct Destination
     QString problem;         // localised problem reported by the printer; empty if there is none
     QStringList coverSheets; // values of "job-sheets" that the server offers; empty if unknown
     QList<Supply> supplies;  // reported by the printer, without waste containers
+    DeviceReport report;     // of the printer itself
+    int passwordLength = 0;  // the most characters of "job-password"; 0 if jobs cannot have a password
+    QStringList passwordEncryptions; // values of "job-password-encryption" that are accepted
+    bool takesAccountId = false;     // "job-account-id"
+    bool takesAccountUser = false;   // "job-accounting-user-id"
     // announces itself on the network; the server has a queue for it only while it is used
     bool isOnNetwork = false;
     QMap<QString, QString> options;       // the user's and the queue's settings, as libcups returns them

@@ -3,6 +3,7 @@
 
 #include "host/printing/ipp_query.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -38,23 +39,6 @@ int integerAt(ipp_t *answer, const char *name, int index, int otherwise)
 {
     ipp_attribute_t *attribute = ippFindAttribute(answer, name, IPP_TAG_INTEGER);
     return index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
-}
-
-// A negative level is unknown to the printer.
-QList<Supply> readSupplies(ipp_t *answer)
-{
-    const QStringList names = attributeTexts(answer, "marker-names");
-    const QStringList types = attributeTexts(answer, "marker-types");
-    QList<Supply> supplies;
-    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
-        if (types.value(i).startsWith(QLatin1String("waste"), Qt::CaseInsensitive))
-            continue;
-        const int level = integerAt(answer, "marker-levels", i, -1);
-        const int low = integerAt(answer, "marker-low-levels", i, -1);
-        const int percent = level < 0 || level > 100 ? -1 : level;
-        supplies.append({names.at(i), percent, percent >= 0 && percent <= low});
-    }
-    return supplies;
 }
 
 // Reads one attribute of a queue.
@@ -144,10 +128,27 @@ int attributeInteger(ipp_t *answer, const char *name, int otherwise)
     return ippGetInteger(attribute, 0);
 }
 
+// A negative level is unknown to the printer.
+QList<Supply> suppliesOf(ipp_t *answer)
+{
+    const QStringList names = attributeTexts(answer, "marker-names");
+    const QStringList types = attributeTexts(answer, "marker-types");
+    QList<Supply> supplies;
+    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
+        if (types.value(i).startsWith(QLatin1String("waste"), Qt::CaseInsensitive))
+            continue;
+        const int level = integerAt(answer, "marker-levels", i, -1);
+        const int low = integerAt(answer, "marker-low-levels", i, -1);
+        const int percent = level < 0 || level > 100 ? -1 : level;
+        supplies.append({names.at(i), percent, percent >= 0 && percent <= low});
+    }
+    return supplies;
+}
+
 std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray &printerUri,
                                      const QString &name, PrintError *error, QueueQuestion question)
 {
-    static const std::array<const char *, 11> wanted = {"printer-state",
+    static const std::array<const char *, 15> wanted = {"printer-state",
                                                         "printer-state-message",
                                                         "printer-state-reasons",
                                                         "printer-is-accepting-jobs",
@@ -157,7 +158,11 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
                                                         "marker-low-levels",
                                                         "document-format-supported",
                                                         "printer-defaults",
-                                                        "job-sheets-supported"};
+                                                        "job-sheets-supported",
+                                                        "job-password-supported",
+                                                        "job-password-encryption-supported",
+                                                        "job-account-id-supported",
+                                                        "job-accounting-user-id-supported"};
     constexpr int ofState = 8; // the first ones
     IppPointer request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, printerUri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
@@ -174,9 +179,13 @@ std::optional<QueueFacts> queryQueue(ServerConnection *server, const QByteArray 
     facts.stopped = attributeInteger(answer.get(), "printer-state", IPP_PSTATE_IDLE) == IPP_PSTATE_STOPPED;
     facts.stateMessage = attributeText(answer.get(), "printer-state-message");
     facts.stateReasons = attributeTexts(answer.get(), "printer-state-reasons");
-    facts.supplies = readSupplies(answer.get());
+    facts.supplies = suppliesOf(answer.get());
     facts.coverSheets = attributeTexts(answer.get(), "job-sheets-supported");
     facts.formats = attributeTexts(answer.get(), "document-format-supported");
+    facts.passwordLength = std::max(0, attributeInteger(answer.get(), "job-password-supported", 0));
+    facts.passwordEncryptions = attributeTexts(answer.get(), "job-password-encryption-supported");
+    facts.takesAccountId = attributeInteger(answer.get(), "job-account-id-supported", 0) != 0;
+    facts.takesAccountUser = attributeInteger(answer.get(), "job-accounting-user-id-supported", 0) != 0;
     readDefaults(answer.get(), &facts);
     return facts;
 }

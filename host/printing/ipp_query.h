@@ -27,6 +27,8 @@ QString attributeText(ipp_t *answer, const char *name);
 QString valueText(ipp_attribute_t *attribute);
 QStringList attributeTexts(ipp_t *answer, const char *name);
 int attributeInteger(ipp_t *answer, const char *name, int otherwise);
+// The supplies that a response reports with "marker-names" and related attributes.
+QList<Supply> suppliesOf(ipp_t *answer);
 
 // The attributes of a queue as reported by the server.
 struct QueueFacts
@@ -36,7 +38,11 @@ struct QueueFacts
     QString stateMessage;
     QStringList stateReasons; // keywords
     QList<Supply> supplies;
-    QStringList coverSheets;         // values of "job-sheets"
+    QStringList coverSheets; // values of "job-sheets"
+    int passwordLength = 0;  // as in Destination, like the next fields
+    QStringList passwordEncryptions;
+    bool takesAccountId = false;
+    bool takesAccountUser = false;
     QStringList formats;             // accepted MIME types
     QMap<QString, QString> defaults; // job options that the server adds to each job
     // The PPD's defaults for the names in `defaults` that the administrator has set differently.

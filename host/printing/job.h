@@ -33,6 +33,13 @@ struct JobOption
     bool operator==(const JobOption &) const = default;
 };
 
+// The names of the job options for private printing with any printer (PWG 5100.11). The password is sent as
+// an operation attribute, which the server does not return.
+inline const QString passwordName = QStringLiteral("job-password");
+inline const QString passwordEncryptionName = QStringLiteral("job-password-encryption");
+inline const QString accountName = QStringLiteral("job-account-id");
+inline const QString accountUserName = QStringLiteral("job-accounting-user-id");
+
 // All data of a job.
 struct JobRequest
 {

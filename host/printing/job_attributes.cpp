@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 
 namespace host {
 
@@ -28,7 +29,41 @@ QString meaning(const QByteArray &name, ipp_attribute_t *attribute)
     return text;
 }
 
+constexpr char hashMethod[] = "sha2-256";
+
+QByteArray valueOf(const QList<JobOption> &options, const QString &name)
+{
+    const auto option = std::find_if(options.begin(), options.end(),
+                                     [&](const JobOption &known) { return known.name == name; });
+    return option == options.end() ? QByteArray() : option->value.toUtf8();
+}
+
+bool isPasswordOption(const QString &name)
+{
+    return name == passwordName || name == passwordEncryptionName;
+}
+
 } // namespace
+
+void addPassword(ipp_t *request, const QList<JobOption> &options, const QStringList &offered)
+{
+    QByteArray password = valueOf(options, passwordName);
+    if (password.isEmpty())
+        return;
+    QByteArray method = valueOf(options, passwordEncryptionName);
+    if (method.isEmpty())
+        method = offered.contains(QLatin1String(hashMethod)) ? hashMethod : "none";
+    if (method == hashMethod) {
+        std::array<unsigned char, 32> hash{};
+        cupsHashData(hashMethod, password.constData(), static_cast<size_t>(password.size()), hash.data(),
+                     hash.size());
+        password = QByteArray(reinterpret_cast<const char *>(hash.data()), hash.size());
+    }
+    ippAddOctetString(request, IPP_TAG_OPERATION, "job-password", password.constData(),
+                      static_cast<int>(password.size()));
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "job-password-encryption", nullptr,
+                 method.constData());
+}
 
 QList<JobOption> withLastWords(const QList<JobOption> &options)
 {
@@ -45,6 +80,8 @@ QList<JobOption> withLastWords(const QList<JobOption> &options)
 
 void addJobOption(ipp_t *request, const JobOption &option)
 {
+    if (isPasswordOption(option.name))
+        return;
     const QByteArray name = option.name.toUtf8();
     const QByteArray value = option.value.toUtf8();
     if (option.kind != JobOption::Kind::Choice) {
@@ -63,6 +100,8 @@ QStringList differencesOf(const QList<JobOption> &options, ipp_t *kept)
 {
     QStringList differences;
     for (const JobOption &option : options) {
+        if (isPasswordOption(option.name)) // the server never returns it
+            continue;
         const QByteArray name = option.name.toUtf8();
         const IppPointer asSent(ippNew());
         addJobOption(asSent.get(), option);

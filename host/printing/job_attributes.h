@@ -14,7 +14,11 @@ inline constexpr qsizetype maxIppName = 255; // bytes
 
 // Keeps only the last value of each option, in the order of the last values.
 QList<JobOption> withLastWords(const QList<JobOption> &options);
-// Adds an option to the job attributes of a request.
+// Adds the password among the options, if there is one, as an operation attribute. It is encrypted with the
+// method among the options, else with SHA-256 if that is one of the methods `offered` by the queue. Call
+// before adding job attributes.
+void addPassword(ipp_t *request, const QList<JobOption> &options, const QStringList &offered);
+// Adds an option to the job attributes of a request; does nothing for the password and its encryption.
 void addJobOption(ipp_t *request, const JobOption &option);
 // The differences between `options` and the job that the server stored: localised sentences without values,
 // since some are codes. Values are compared according to the type in which they are sent.

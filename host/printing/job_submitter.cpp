@@ -154,6 +154,7 @@ bool JobSubmitter::createJob(PrintError *error)
     IppPointer request = printerRequest(IPP_OP_CREATE_JOB, m_printerUri);
     ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
                  nameBytes(m_request.title).constData());
+    addPassword(request.get(), m_options, m_queue.passwordEncryptions);
     ippAddString(request.get(), IPP_TAG_JOB, IPP_TAG_URI, tokenAttribute, nullptr, m_token.constData());
     for (const JobOption &option : m_options) {
         if (option.kind != JobOption::Kind::Shown)

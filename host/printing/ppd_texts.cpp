@@ -136,6 +136,15 @@ void forEachText(ppd_group_t *groups, int count, const std::function<void(char *
 
 } // namespace
 
+QString traySourceText(const QString &keyword)
+{
+    QString choice; // as in the PPDs that CUPS generates
+    for (const QString &word : keyword.split(QLatin1Char('-'), Qt::SkipEmptyParts))
+        choice += word.left(1).toUpper() + word.mid(1);
+    const QByteArray name = choice.toUtf8();
+    return generatedText("InputSlot", name.constData(), name.constData());
+}
+
 void localizePpdTexts(ppd_file_t *ppd)
 {
     QByteArrayList own;

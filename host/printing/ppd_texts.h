@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QString>
+
 struct ppd_file_s;
 
 namespace host {
@@ -12,5 +14,8 @@ namespace host {
 // removed completely. In a PPD that CUPS has generated for a driverless printer, usual options and choices
 // get the program's own texts.
 void localizePpdTexts(ppd_file_s *ppd);
+
+// The text of a tray that a printer reports by a keyword of "media-source": "Tray 1" for "tray-1".
+QString traySourceText(const QString &keyword);
 
 } // namespace host

@@ -4,6 +4,7 @@
 #include "host/printing/print_system.h"
 
 #include "host/printing/cups_handles.h"
+#include "host/printing/device_query.h"
 #include "host/printing/early_printer.h"
 #include "host/printing/file_name.h"
 #include "host/printing/ipp_query.h"
@@ -60,6 +61,17 @@ void correctDefaults(const QueueFacts &facts, Destination *destination)
         if (listed != destination->options.end() && *listed == it.value())
             *listed = facts.defaults.value(it.key());
     }
+}
+
+void takeFacts(const QueueFacts &facts, Destination *destination)
+{
+    correctDefaults(facts, destination);
+    destination->queueDefaults = facts.defaults;
+    destination->coverSheets = facts.coverSheets;
+    destination->passwordLength = facts.passwordLength;
+    destination->passwordEncryptions = facts.passwordEncryptions;
+    destination->takesAccountId = facts.takesAccountId;
+    destination->takesAccountUser = facts.takesAccountUser;
 }
 
 // libcups returns a destination for any preset name, and ignores a file that cannot be read.
@@ -253,9 +265,7 @@ std::optional<Destination> CupsPrintSystem::destination(const QString &name, Pri
         if (!facts)
             facts = queryQueue(&server, printerUriOfQueue(destination.queue), destination.queue, &ignored);
         destination.isOnNetwork = m_network.hasFound(destination.queue);
-        correctDefaults(facts.value_or(QueueFacts()), &destination);
-        destination.queueDefaults = facts.value_or(QueueFacts()).defaults;
-        destination.coverSheets = facts.value_or(QueueFacts()).coverSheets;
+        takeFacts(facts.value_or(QueueFacts()), &destination);
         if (!takePreset(&destination, error))
             return std::nullopt;
         if (!destination.opensDialog())
@@ -360,6 +370,11 @@ bool CupsPrintSystem::changeJob(const Destination &destination, int jobId, JobAc
         return true;
     *error = reply.error(destination.displayName());
     return false;
+}
+
+std::optional<DeviceReport> CupsPrintSystem::reportOf(const Destination &destination)
+{
+    return queryDevice(destination);
 }
 
 std::optional<Destination> CupsPrintSystem::withState(const Destination &destination)

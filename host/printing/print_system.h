@@ -44,6 +44,9 @@ public:
     // The same destination with the current state of its queue, requested with one request; null if the
     // server does not respond.
     virtual std::optional<Destination> withState(const Destination &destination) = 0;
+    // What the printer itself reports, if its address is known; null if it does not respond. Takes some
+    // seconds if the printer sleeps.
+    virtual std::optional<DeviceReport> reportOf(const Destination &destination) = 0;
     // Searches the network for printers without a queue; destination() and later calls accept the printers
     // that were found. If `found`, which is called on this thread, returns false, the search ends.
     virtual void searchNetwork(const std::function<bool(const Destination &)> &found) = 0;
@@ -70,6 +73,7 @@ public:
     JobStatus jobStatus(const Destination &destination, int jobId) override;
     bool changeJob(const Destination &destination, int jobId, JobAction action, PrintError *error) override;
     std::optional<Destination> withState(const Destination &destination) override;
+    std::optional<DeviceReport> reportOf(const Destination &destination) override;
     void searchNetwork(const std::function<bool(const Destination &)> &found) override;
     void setLoginPrompt(LoginPrompt prompt) override;
 

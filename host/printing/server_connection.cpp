@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
+
 #include <sys/socket.h>
 
 namespace host {
@@ -145,6 +147,11 @@ PrintError Reply::error(const QString &printer) const
 
 ServerConnection::ServerConnection(LoginKeeper *login) : m_login(login) {}
 
+ServerConnection::ServerConnection(LoginKeeper *login, HttpPointer unopened)
+    : m_login(login), m_unopened(std::move(unopened)), m_isToPrinter(true)
+{
+}
+
 ServerConnection::~ServerConnection() = default;
 
 void ServerConnection::disablePrompts()
@@ -164,8 +171,9 @@ bool ServerConnection::connect()
     if (m_http)
         return true;
     m_offeredLogin = false;
-    m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, 0,
-                              nullptr)); // not connected yet
+    m_http = m_isToPrinter ? std::move(m_unopened)
+                           : HttpPointer(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                                      cupsEncryption(), 1, 0, nullptr)); // not connected yet
     if (!m_http)
         return false;
     const auto moves = [](http_t *, void *self) {

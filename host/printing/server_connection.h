@@ -56,6 +56,8 @@ public:
         16 * 1024 * 1024; // bytes; the jobs of a busy queue are some 100 KB
 
     explicit ServerConnection(LoginKeeper *login); // borrowed
+    // A connection to a printer, which is opened once. `unopened` is null if the printer has no address.
+    ServerConnection(LoginKeeper *login, HttpPointer unopened);
     ~ServerConnection();
     ServerConnection(const ServerConnection &) = delete;
     ServerConnection &operator=(const ServerConnection &) = delete;
@@ -106,6 +108,8 @@ private:
 
     LoginKeeper *m_login;
     HttpPointer m_http;
+    HttpPointer m_unopened; // to a printer
+    bool m_isToPrinter = false;
     std::function<bool()> m_stop;
     QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     QElapsedTimer m_idle;

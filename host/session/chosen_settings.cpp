@@ -4,6 +4,7 @@
 #include "host/session/chosen_settings.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 
 #include <QCoreApplication>
 
@@ -71,10 +72,11 @@ ChosenSetting inWords(const DialogSession &session, ChosenSetting setting)
     else if (panel >= 0)
         setting.text = ChosenText::tr("settings of “%1”").arg(session.panels().panel(panel)->panelName());
     else if (setting.isSecret)
-        setting.text = setting.key;
+        setting.text = jobSettingText(setting.key);
     else
         setting.text = QStringLiteral("%1=%2").arg(setting.key, setting.value);
-    setting.protects = session.protection().protects(setting.key, setting.value);
+    setting.protects = session.protection().protects(setting.key, setting.value) ||
+                       (setting.key == passwordName && !setting.value.isEmpty());
     return setting;
 }
 

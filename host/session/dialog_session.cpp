@@ -357,7 +357,7 @@ QList<SummarySection> DialogSession::summary()
         if (!section.entries.isEmpty())
             sections.append(section);
     }
-    for (const SummarySection &section : {moreSummary(*this), jobSummary(*this)}) {
+    for (const SummarySection &section : {moreSummary(*this), printModeSummary(*this), jobSummary(*this)}) {
         if (!section.entries.isEmpty())
             sections.append(section);
     }

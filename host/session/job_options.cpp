@@ -6,6 +6,7 @@
 #include "host/printing/destination.h"
 #include "host/printing/ppd_document.h"
 #include "host/printing/standard_names.h"
+#include "host/session/job_settings.h"
 #include "host/session/page_ranges.h"
 
 #include <algorithm>
@@ -62,7 +63,10 @@ QList<JobOption> passedOn(const JobOptionSources &sources)
     for (const ChosenSetting &setting : sources.chosen.inOrder()) {
         const bool isMarked = sources.ppd && sources.ppd->takesOption(setting.key) &&
                               !(setting.key == colorModeName && setting.options.isEmpty());
-        if (setting.kind == ChosenSetting::Kind::JobOption && !isMarked)
+        // chosen for another printer
+        const bool isForeign =
+            printModeNames().contains(setting.key) && !takesPrintMode(sources.destination, setting.key);
+        if (setting.kind == ChosenSetting::Kind::JobOption && !isMarked && !isForeign)
             options.append({setting.key, setting.value, Kind::Attribute});
     }
     return options;

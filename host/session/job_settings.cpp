@@ -87,7 +87,28 @@ QString normalized(const QString &name, const QString &value)
 
 const QStringList &jobSettingNames()
 {
-    static const QStringList names = {holdName, priorityName, sheetsName, billingName};
+    static const QStringList names =
+        QStringList{holdName, priorityName, sheetsName, billingName} + printModeNames();
+    return names;
+}
+
+const QStringList &printModeNames()
+{
+    static const QStringList names = {passwordName, accountName, accountUserName};
+    return names;
+}
+
+bool takesPrintMode(const Destination &destination, const QString &name)
+{
+    return (name == passwordName && destination.passwordLength > 0) ||
+           (name == accountName && destination.takesAccountId) ||
+           (name == accountUserName && destination.takesAccountUser);
+}
+
+QStringList offeredPrintModes(const DialogSession &session)
+{
+    QStringList names = session.panels().count() > 0 ? QStringList() : printModeNames();
+    names.removeIf([&](const QString &name) { return !takesPrintMode(session.destination(), name); });
     return names;
 }
 
@@ -126,12 +147,17 @@ QString jobSettingText(const QString &name)
         {holdName, QT_TRANSLATE_NOOP("JobSettingText", "Print")},
         {priorityName, QT_TRANSLATE_NOOP("JobSettingText", "Priority")},
         {sheetsName, QT_TRANSLATE_NOOP("JobSettingText", "Cover sheets")},
-        {billingName, QT_TRANSLATE_NOOP("JobSettingText", "Billing information")}};
+        {billingName, QT_TRANSLATE_NOOP("JobSettingText", "Billing information")},
+        {passwordName, QT_TRANSLATE_NOOP("JobSettingText", "Password")},
+        {accountName, QT_TRANSLATE_NOOP("JobSettingText", "Account")},
+        {accountUserName, QT_TRANSLATE_NOOP("JobSettingText", "Account user")}};
     return texts.contains(name) ? JobSettingText::tr(texts.value(name)) : name;
 }
 
 QString jobValueText(const QString &name, const QString &value)
 {
+    if (printModeNames().contains(name))
+        return value.isEmpty() ? value : hiddenValue();
     if (const QTime time = timeOfHold(value); name == holdName && time.isValid())
         return QLocale().toString(time, QLocale::ShortFormat);
     if (name != sheetsName || !value.contains(QLatin1Char(',')))

@@ -13,12 +13,21 @@ namespace host {
 
 class ChosenSettings;
 class DialogSession;
+struct Destination;
 
 // The settings of the Job page: how the print server handles the job. They are job options and are stored
 // among the chosen settings of a session; without a choice the defaults of the destination apply.
 
-// "job-hold-until", "job-priority", "job-sheets" and "job-billing", in display order.
+// "job-hold-until", "job-priority", "job-sheets" and "job-billing", in display order, then those of the Print
+// Mode page.
 const QStringList &jobSettingNames();
+// The settings of the Print Mode page for printers without a panel for it: the password and the account of
+// the job. Their values are secret.
+const QStringList &printModeNames();
+// Whether the queue accepts one of these settings.
+bool takesPrintMode(const Destination &destination, const QString &name);
+// Those that the page offers in this session; none if the printer has panels.
+QStringList offeredPrintModes(const DialogSession &session);
 // The value that the job will have: the chosen one, else the default of the destination, else that of the
 // print system. `options` are those of the destination.
 QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QString> &options,

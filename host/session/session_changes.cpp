@@ -87,6 +87,8 @@ int pageOf(const DialogSession &session, const QString &key)
 {
     if (const int panel = panelInKey(key); panel >= 0)
         return panel;
+    if (printModeNames().contains(key))
+        return printModePage;
     if (jobSettingNames().contains(key))
         return jobPage;
     if (!session.ppd() || !session.ppd()->hasOption(key) || GeneralSettings::covers(key))

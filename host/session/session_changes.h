@@ -23,10 +23,11 @@ struct SettingChange
 
 QList<SettingChange> changesBetween(const DialogSession &session, const SessionState &before,
                                     const SessionState &after);
-// The panel whose page shows a setting; generalPage, morePage or jobPage for the host's pages.
+// The panel whose page shows a setting; generalPage, morePage, jobPage or printModePage for the host's pages.
 constexpr int generalPage = -1;
 constexpr int morePage = -2;
 constexpr int jobPage = -3;
+constexpr int printModePage = -4;
 int pageOf(const DialogSession &session, const QString &key);
 // The keys that a panel's control sets, by the key path of its binding: an option, the digits of a code, or
 // another value of the panel. Empty if the user cannot set the control.

@@ -83,8 +83,12 @@ void SettingIndex::addSession(const DialogSession &session)
     add({general, QStringLiteral("copies"), SettingText::tr("Copies"), {}, {}});
     add({general, QStringLiteral("Collate"), SettingText::tr("Collate"), {}, {}});
     add({general, QStringLiteral("page-ranges"), SettingText::tr("Pages"), {}, {}});
-    for (const QString &name : jobSettingNames())
-        add({QStringLiteral("job"), name, jobSettingText(name), {}, {}});
+    for (const QString &name : jobSettingNames()) {
+        if (!printModeNames().contains(name))
+            add({QStringLiteral("job"), name, jobSettingText(name), {}, {}});
+    }
+    for (const QString &name : offeredPrintModes(session))
+        add({QStringLiteral("print-mode"), name, jobSettingText(name), {}, {}});
     if (!session.ppd())
         return;
     const QStringList generalKeywords = generalOptionKeywords(*session.ppd());

@@ -5,6 +5,7 @@
 
 #include "host/printing/option_text.h"
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 #include "host/session/page_ranges.h"
 #include "host/session/panel_values.h"
 #include "platform/key_value_object.h"
@@ -20,6 +21,7 @@ struct SettingText
     Q_DECLARE_TR_FUNCTIONS(SettingText)
 };
 
+constexpr qsizetype maxAccount = 255; // bytes; the limit of names in the print protocol
 const QString handlingName = QStringLiteral("multiple-document-handling");
 
 bool refuse(PrintError *error, const QString &message)
@@ -152,8 +154,25 @@ bool setStandardName(DialogSession *session, ChosenSetting setting, PrintError *
     return true;
 }
 
+// A print server drops a password that the queue does not accept, and prints the job unprotected.
+bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, PrintError *error)
+{
+    if (!printModeNames().contains(setting.key) || setting.value.isEmpty())
+        return true;
+    const Destination &printer = session.destination();
+    if (!takesPrintMode(printer, setting.key))
+        return refuse(
+            error,
+            SettingText::tr("The printer “%1” does not take %2.").arg(printer.displayName(), setting.key));
+    const qsizetype most = setting.key == passwordName ? printer.passwordLength : maxAccount;
+    return setting.value.toUtf8().size() <= most ||
+           refuse(error, SettingText::tr("%1 takes at most %2 characters.").arg(setting.key).arg(most));
+}
+
 bool setJobOption(DialogSession *session, const ChosenSetting &setting, PrintError *error)
 {
+    if (!checkPrintMode(*session, setting, error))
+        return false;
     *error = session->locks().refusal(session->ppd(), setting.key, setting.value);
     if (*error)
         return false;
@@ -170,6 +189,8 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
     ChosenSetting setting = wanted;
     setting.key = usualName(*session, wanted.key);
     setting.isSecret |= session->isSecret(setting.key);
+    if (printModeNames().contains(setting.key))
+        setting.kind = ChosenSetting::Kind::JobOption;
     const QString &key = setting.key, &value = setting.value;
     const bool isHandling = key == handlingName;
     if (isHandling &&

@@ -29,6 +29,13 @@ void addOptions(const DialogSession &session, const QStringList &keywords, Summa
     }
 }
 
+void addJobSetting(const DialogSession &session, const QString &name, SummarySection *section)
+{
+    const QString value = jobSettingValue(session, name);
+    if (value != jobSettingValue({}, {}, name))
+        section->entries.append({jobSettingText(name), jobValueText(name, value)});
+}
+
 } // namespace
 
 QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual)
@@ -80,9 +87,18 @@ SummarySection jobSummary(const DialogSession &session)
 {
     SummarySection section{SummaryText::tr("Job"), {}, jobPage};
     for (const QString &name : jobSettingNames()) {
-        const QString value = jobSettingValue(session, name);
-        if (value != jobSettingValue({}, {}, name))
-            section.entries.append({jobSettingText(name), jobValueText(name, value)});
+        if (!printModeNames().contains(name))
+            addJobSetting(session, name, &section);
+    }
+    return section;
+}
+
+SummarySection printModeSummary(const DialogSession &session)
+{
+    SummarySection section{SummaryText::tr("Print Mode"), {}, printModePage};
+    for (const QString &name : printModeNames()) {
+        if (takesPrintMode(session.destination(), name))
+            addJobSetting(session, name, &section);
     }
     return section;
 }

@@ -30,6 +30,8 @@ SummarySection generalSummary(const DialogSession &session);
 SummarySection moreSummary(const DialogSession &session);
 // The settings of the Job page that differ from the defaults. May be empty.
 SummarySection jobSummary(const DialogSession &session);
+// The settings of the Print Mode page, without their values. May be empty.
+SummarySection printModeSummary(const DialogSession &session);
 // The general settings that are not PPD options, localised.
 QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual);
 // The job option of a general setting, by its display name; empty if there is none.

@@ -574,6 +574,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>A text that is recorded with the job, for example a project or a customer.</source>
         <translation>Ein Text, der mit dem Auftrag erfasst wird, zum Beispiel ein Projekt oder ein Kunde.</translation>
     </message>
+    <message>
+        <source>The printer keeps the job until this password is entered at its control panel. It is not stored.</source>
+        <translation>Der Drucker behält den Auftrag, bis dieses Passwort am Bedienfeld eingegeben wird. Es wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The account that the printer charges for the job. It is not stored.</source>
+        <translation>Das Konto, das der Drucker mit dem Auftrag belastet. Es wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Your name or number for the account. It is not stored.</source>
+        <translation>Ihr Name oder Ihre Nummer für das Konto. Wird nicht gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1318,6 +1330,15 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <comment>a toner and its level</comment>
         <translation>%1: %2 %</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tray and the paper in it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Reported by the printer at %1</source>
+        <translation>Vom Drucker gemeldet um %1</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1505,6 +1526,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1: this printer has no “%2”.</source>
         <translation>%1: Dieser Drucker kennt „%2“ nicht.</translation>
     </message>
+    <message>
+        <source>The printer “%1” does not take %2.</source>
+        <translation>Der Drucker „%1“ nimmt %2 nicht an.</translation>
+    </message>
+    <message>
+        <source>%1 takes at most %2 characters.</source>
+        <translation>%1 nimmt höchstens %2 Zeichen an.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -1641,6 +1670,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Job</source>
         <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Druckmodus</translation>
     </message>
 </context>
 <context>
@@ -2136,6 +2169,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Job</source>
         <translation>Auftrag</translation>
     </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Druckmodus</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2473,6 +2510,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Looking for printers on the network…</source>
         <translation>Drucker werden im Netzwerk gesucht …</translation>
     </message>
+    <message>
+        <source>&amp;Add Printer…</source>
+        <translation>Drucker &amp;hinzufügen…</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterPicker</name>
@@ -2487,6 +2528,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Optionen einer PPD-Datei; es gibt keinen Drucker dazu</translation>
+    </message>
+    <message>
+        <source>The printer settings of the desktop cannot be opened</source>
+        <translation>Die Druckereinstellungen des Desktops lassen sich nicht öffnen</translation>
     </message>
 </context>
 <context>
@@ -2706,6 +2751,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Keep and Re&amp;view</source>
         <translation>Behalten &amp;und prüfen</translation>
+    </message>
+    <message>
+        <source>Paper not loaded in the printer</source>
+        <translation>Papier ist im Drucker nicht eingelegt</translation>
     </message>
 </context>
 <context>
@@ -3003,6 +3052,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <comment>cover sheets</comment>
         <translation>%1 davor, %2 danach</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Kontobenutzer</translation>
+    </message>
 </context>
 <context>
     <name>host::JobPage</name>
@@ -3033,6 +3094,44 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Billing information:</source>
         <translation>Abrechnungsinformation:</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>In „%1“ ist nichts eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>„%1“ ist in „%2“ nicht eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>„%1“ ist in keiner Kassette eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>„%1“ ist eingelegt, aber nicht als „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Konto:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Kontobenutzer:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>Ein Auftrag mit Passwort bleibt im Drucker, bis das Passwort am Bedienfeld eingegeben wird. Passwort und Konto werden mit dem Auftrag gesendet und nicht gespeichert.</translation>
     </message>
 </context>
 </TS>

@@ -574,6 +574,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>A text that is recorded with the job, for example a project or a customer.</source>
         <translation>Un texto que se registra con el trabajo, por ejemplo, un proyecto o un cliente.</translation>
     </message>
+    <message>
+        <source>The printer keeps the job until this password is entered at its control panel. It is not stored.</source>
+        <translation>La impresora conserva el trabajo hasta que se introduce esta contraseña en su panel de control. No se guarda.</translation>
+    </message>
+    <message>
+        <source>The account that the printer charges for the job. It is not stored.</source>
+        <translation>La cuenta a la que la impresora carga el trabajo. No se guarda.</translation>
+    </message>
+    <message>
+        <source>Your name or number for the account. It is not stored.</source>
+        <translation>Su nombre o número para la cuenta. No se guarda.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1318,6 +1330,15 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <comment>a toner and its level</comment>
         <translation>%1: %2 %</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tray and the paper in it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Reported by the printer at %1</source>
+        <translation>Comunicado por la impresora a las %1</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1505,6 +1526,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1: this printer has no “%2”.</source>
         <translation>%1: esta impresora no tiene «%2».</translation>
     </message>
+    <message>
+        <source>The printer “%1” does not take %2.</source>
+        <translation>La impresora «%1» no acepta %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes at most %2 characters.</source>
+        <translation>%1 acepta como máximo %2 caracteres.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -1641,6 +1670,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Job</source>
         <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Modo de impresión</translation>
     </message>
 </context>
 <context>
@@ -2136,6 +2169,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Job</source>
         <translation>Trabajo</translation>
     </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Modo de impresión</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2473,6 +2510,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Looking for printers on the network…</source>
         <translation>Buscando impresoras en la red…</translation>
     </message>
+    <message>
+        <source>&amp;Add Printer…</source>
+        <translation>&amp;Añadir impresora…</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterPicker</name>
@@ -2487,6 +2528,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Opciones de un archivo PPD; no hay ninguna impresora en la que imprimir</translation>
+    </message>
+    <message>
+        <source>The printer settings of the desktop cannot be opened</source>
+        <translation>No se puede abrir la configuración de impresoras del escritorio</translation>
     </message>
 </context>
 <context>
@@ -2706,6 +2751,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Keep and Re&amp;view</source>
         <translation>Mantener y re&amp;visar</translation>
+    </message>
+    <message>
+        <source>Paper not loaded in the printer</source>
+        <translation>Papel no cargado en la impresora</translation>
     </message>
 </context>
 <context>
@@ -3003,6 +3052,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <comment>cover sheets</comment>
         <translation>%1 antes, %2 después</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Usuario de la cuenta</translation>
+    </message>
 </context>
 <context>
     <name>host::JobPage</name>
@@ -3033,6 +3094,44 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Billing information:</source>
         <translation>Datos de facturación:</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>No hay nada cargado en «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«%1» no está cargado en «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«%1» no está cargado en ninguna bandeja.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«%1» está cargado, pero no como «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Cuenta:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Usuario de la cuenta:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>La impresora conserva un trabajo con contraseña hasta que esta se introduce en su panel de control. La contraseña y la cuenta se envían con el trabajo y no se guardan.</translation>
     </message>
 </context>
 </TS>

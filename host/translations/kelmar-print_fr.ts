@@ -574,6 +574,18 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>A text that is recorded with the job, for example a project or a customer.</source>
         <translation>Un texte enregistré avec la tâche, par exemple un projet ou un client.</translation>
     </message>
+    <message>
+        <source>The printer keeps the job until this password is entered at its control panel. It is not stored.</source>
+        <translation>L’imprimante conserve la tâche jusqu’à ce que ce mot de passe soit saisi sur son panneau de commande. Il n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>The account that the printer charges for the job. It is not stored.</source>
+        <translation>Le compte auquel l’imprimante impute la tâche. Il n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>Your name or number for the account. It is not stored.</source>
+        <translation>Votre nom ou votre numéro pour le compte. Il n’est pas enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1318,6 +1330,15 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <comment>a toner and its level</comment>
         <translation>%1&#xa0;: %2&#xa0;%</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tray and the paper in it</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Reported by the printer at %1</source>
+        <translation>Signalé par l’imprimante à %1</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1505,6 +1526,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>%1: this printer has no “%2”.</source>
         <translation>%1&#xa0;: cette imprimante ne connaît pas «&#xa0;%2&#xa0;».</translation>
     </message>
+    <message>
+        <source>The printer “%1” does not take %2.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’accepte pas %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes at most %2 characters.</source>
+        <translation>%1 accepte au plus %2 caractères.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -1641,6 +1670,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Job</source>
         <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Mode d’impression</translation>
     </message>
 </context>
 <context>
@@ -2136,6 +2169,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Job</source>
         <translation>Tâche</translation>
     </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Mode d’impression</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2473,6 +2510,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Looking for printers on the network…</source>
         <translation>Recherche d’imprimantes sur le réseau…</translation>
     </message>
+    <message>
+        <source>&amp;Add Printer…</source>
+        <translation>&amp;Ajouter une imprimante…</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterPicker</name>
@@ -2487,6 +2528,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Options d’un fichier PPD&#xa0;; il n’y a pas d’imprimante</translation>
+    </message>
+    <message>
+        <source>The printer settings of the desktop cannot be opened</source>
+        <translation>Impossible d’ouvrir les paramètres d’imprimante du bureau</translation>
     </message>
 </context>
 <context>
@@ -2706,6 +2751,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Keep and Re&amp;view</source>
         <translation>&amp;Garder et vérifier</translation>
+    </message>
+    <message>
+        <source>Paper not loaded in the printer</source>
+        <translation>Papier non chargé dans l’imprimante</translation>
     </message>
 </context>
 <context>
@@ -3003,6 +3052,18 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <comment>cover sheets</comment>
         <translation>%1 avant, %2 après</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Utilisateur du compte</translation>
+    </message>
 </context>
 <context>
     <name>host::JobPage</name>
@@ -3033,6 +3094,44 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Billing information:</source>
         <translation>Informations de facturation&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>Rien n’est chargé dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas chargé dans «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est chargé dans aucun bac.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» est chargé, mais pas en «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Compte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Utilisateur du compte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>L’imprimante conserve une tâche avec mot de passe jusqu’à ce que celui-ci soit saisi sur son panneau de commande. Le mot de passe et le compte sont envoyés avec la tâche et ne sont pas enregistrés.</translation>
     </message>
 </context>
 </TS>

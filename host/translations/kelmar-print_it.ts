@@ -574,6 +574,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>A text that is recorded with the job, for example a project or a customer.</source>
         <translation>Un testo registrato con il lavoro, per esempio un progetto o un cliente.</translation>
     </message>
+    <message>
+        <source>The printer keeps the job until this password is entered at its control panel. It is not stored.</source>
+        <translation>La stampante conserva il lavoro finché questa password non viene immessa sul pannello di controllo. Non viene memorizzata.</translation>
+    </message>
+    <message>
+        <source>The account that the printer charges for the job. It is not stored.</source>
+        <translation>L’account al quale la stampante addebita il lavoro. Non viene memorizzato.</translation>
+    </message>
+    <message>
+        <source>Your name or number for the account. It is not stored.</source>
+        <translation>Il nome o il numero utente per l’account. Non viene memorizzato.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1318,6 +1330,15 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <comment>a toner and its level</comment>
         <translation>%1: %2%</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tray and the paper in it</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Reported by the printer at %1</source>
+        <translation>Comunicato dalla stampante alle %1</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1505,6 +1526,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1: this printer has no “%2”.</source>
         <translation>%1: questa stampante non dispone di «%2».</translation>
     </message>
+    <message>
+        <source>The printer “%1” does not take %2.</source>
+        <translation>La stampante «%1» non accetta %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes at most %2 characters.</source>
+        <translation>%1 accetta al massimo %2 caratteri.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -1641,6 +1670,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Job</source>
         <translation>Lavoro</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Modalità di stampa</translation>
     </message>
 </context>
 <context>
@@ -2136,6 +2169,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Job</source>
         <translation>Lavoro</translation>
     </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>Modalità di stampa</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2473,6 +2510,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Looking for printers on the network…</source>
         <translation>Ricerca di stampanti in rete…</translation>
     </message>
+    <message>
+        <source>&amp;Add Printer…</source>
+        <translation>&amp;Aggiungi stampante…</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterPicker</name>
@@ -2487,6 +2528,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>Opzioni di un file PPD; non c’è alcuna stampante su cui stampare</translation>
+    </message>
+    <message>
+        <source>The printer settings of the desktop cannot be opened</source>
+        <translation>Impossibile aprire le impostazioni delle stampanti del desktop</translation>
     </message>
 </context>
 <context>
@@ -2706,6 +2751,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Keep and Re&amp;view</source>
         <translation>Mantieni e ri&amp;vedi</translation>
+    </message>
+    <message>
+        <source>Paper not loaded in the printer</source>
+        <translation>Carta non caricata nella stampante</translation>
     </message>
 </context>
 <context>
@@ -3003,6 +3052,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <comment>cover sheets</comment>
         <translation>%1 prima, %2 dopo</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Utente dell’account</translation>
+    </message>
 </context>
 <context>
     <name>host::JobPage</name>
@@ -3033,6 +3094,44 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Billing information:</source>
         <translation>Dati per l’addebito:</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>In «%1» non è caricata carta.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«%1» non è caricato in «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«%1» non è caricato in nessun vassoio.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«%1» è caricato, ma non come «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Account:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Utente dell’account:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>La stampante conserva un lavoro con password finché la password non viene immessa sul pannello di controllo. Password e account vengono inviati con il lavoro e non vengono memorizzati.</translation>
     </message>
 </context>
 </TS>

@@ -574,6 +574,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>A text that is recorded with the job, for example a project or a customer.</source>
         <translation>プロジェクト名や顧客名など、ジョブとともに記録される文字列です。</translation>
     </message>
+    <message>
+        <source>The printer keeps the job until this password is entered at its control panel. It is not stored.</source>
+        <translation>操作パネルでこのパスワードが入力されるまで、ジョブはプリンターに保留されます。パスワードは保存されません。</translation>
+    </message>
+    <message>
+        <source>The account that the printer charges for the job. It is not stored.</source>
+        <translation>プリンターがジョブを課金するアカウントです。保存されません。</translation>
+    </message>
+    <message>
+        <source>Your name or number for the account. It is not stored.</source>
+        <translation>アカウントで使用する名前または番号です。保存されません。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -1318,6 +1330,15 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <comment>a toner and its level</comment>
         <translation>%1 %2%</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tray and the paper in it</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Reported by the printer at %1</source>
+        <translation>プリンターからの情報（%1）</translation>
+    </message>
 </context>
 <context>
     <name>ProtectionText</name>
@@ -1505,6 +1526,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1: this printer has no “%2”.</source>
         <translation>%1: このプリンターには「%2」がありません。</translation>
     </message>
+    <message>
+        <source>The printer “%1” does not take %2.</source>
+        <translation>プリンター「%1」は %2 を受け付けません。</translation>
+    </message>
+    <message>
+        <source>%1 takes at most %2 characters.</source>
+        <translation>%1 に指定できるのは %2 文字までです。</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -1641,6 +1670,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Job</source>
         <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>印刷モード</translation>
     </message>
 </context>
 <context>
@@ -2136,6 +2169,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Job</source>
         <translation>ジョブ</translation>
     </message>
+    <message>
+        <source>Print Mode</source>
+        <translation>印刷モード</translation>
+    </message>
 </context>
 <context>
     <name>host::PageCounter</name>
@@ -2473,6 +2510,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Looking for printers on the network…</source>
         <translation>ネットワーク上のプリンターを探しています…</translation>
     </message>
+    <message>
+        <source>&amp;Add Printer…</source>
+        <translation>プリンターを追加(&amp;A)…</translation>
+    </message>
 </context>
 <context>
     <name>host::PrinterPicker</name>
@@ -2487,6 +2528,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Options of a PPD file; there is no printer to print on</source>
         <translation>PPD ファイルのオプションです。印刷できるプリンターはありません</translation>
+    </message>
+    <message>
+        <source>The printer settings of the desktop cannot be opened</source>
+        <translation>デスクトップのプリンター設定を開けません</translation>
     </message>
 </context>
 <context>
@@ -2701,6 +2746,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Keep and Re&amp;view</source>
         <translation>そのまま確認(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Paper not loaded in the printer</source>
+        <translation>プリンターにセットされていない用紙</translation>
     </message>
 </context>
 <context>
@@ -2996,6 +3045,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <comment>cover sheets</comment>
         <translation>前: %1、後: %2</translation>
     </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>アカウントのユーザー</translation>
+    </message>
 </context>
 <context>
     <name>host::JobPage</name>
@@ -3026,6 +3087,44 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Billing information:</source>
         <translation>課金情報:</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>「%1」には何もセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>「%1」は「%2」にセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>「%1」はどのトレイにもセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>「%1」はセットされていますが、「%2」ではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード：</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>アカウント：</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>アカウントのユーザー：</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>パスワード付きのジョブは、操作パネルでパスワードが入力されるまでプリンターに保留されます。パスワードとアカウントはジョブと一緒に送信され、保存されません。</translation>
     </message>
 </context>
 </TS>

@@ -123,6 +123,8 @@ void PrintWindow::connectParts()
         m_presets->history()->endGesture();
         settingsChanged();
     });
+    connect(&m_poller, &PrinterStatusPoller::reported, &m_messages,
+            [this](const DeviceReport &report) { m_messages.setLoaded(report.trays); });
     connect(&m_messages, &SessionMessages::saved, this, &PrintWindow::sessionChanged);
     connect(&m_messages, &SessionMessages::codeWanted, m_book, &PageBook::leadTo);
     connect(&m_messages, &SessionMessages::printWanted, this, [this] {

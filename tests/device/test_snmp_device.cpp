@@ -3,6 +3,7 @@
 
 // The client with the real net-snmp, with a real agent and with a device that sends invalid responses.
 
+#include "device/printer_levels.h"
 #include "device/snmp_client.h"
 #include "device/string_encoding.h"
 #include "tests/support/loop_waiter.h"
@@ -116,6 +117,7 @@ private Q_SLOTS:
     void initTestCase();
     void readsColumnsOfARealAgent();
     void takesTheCharacterSetOfARealAgent();
+    void readsLevelsOfARealAgent();
     void opensAndClosesTheRealLibrary();
     void takesNoConfiguration_data();
     void takesNoConfiguration();
@@ -178,6 +180,32 @@ void TestSnmpDevice::takesTheCharacterSetOfARealAgent()
     client->determineDefaultCharsetForPrinter();
     QCOMPARE(client->charSet(), quint32(NSISOLatin1StringEncoding));
     QCOMPARE(client->sendRequestWithSize(oid.data(), oid.size()), QVariant(u"Büro"_s));
+}
+
+// Without waste, and with levels that are not known.
+void TestSnmpDevice::readsLevelsOfARealAgent()
+{
+    const SimulatedPrinter printer("127.0.0.1", "[objects]\n"
+                                                "1.3.6.1.2.1.43.11.1.1.4.1.1 = integer 3\n"
+                                                "1.3.6.1.2.1.43.11.1.1.6.1.1 = string Black\\x09Toner\n"
+                                                "1.3.6.1.2.1.43.11.1.1.8.1.1 = integer 1200\n"
+                                                "1.3.6.1.2.1.43.11.1.1.9.1.1 = integer 144\n"
+                                                "1.3.6.1.2.1.43.11.1.1.4.1.2 = integer 4\n"
+                                                "1.3.6.1.2.1.43.11.1.1.6.1.2 = string Waste\n"
+                                                "1.3.6.1.2.1.43.11.1.1.9.1.2 = integer 9\n"
+                                                "1.3.6.1.2.1.43.11.1.1.9.1.3 = integer -3\n"
+                                                "1.3.6.1.2.1.43.8.2.1.9.1.1 = integer 500\n"
+                                                "1.3.6.1.2.1.43.8.2.1.10.1.1 = integer 250\n"
+                                                "1.3.6.1.2.1.43.8.2.1.12.1.1 = string iso_a4_210x297mm\n"
+                                                "1.3.6.1.2.1.43.8.2.1.13.1.1 = string Tray 1\n");
+    QVERIFY2(printer.isRunning(), qPrintable(printer.error()));
+    const Client client = clientFor("127.0.0.1");
+    QVERIFY(client);
+    QByteArrayList lines;
+    for (const PrinterLevel &level : printerLevels(client.get()))
+        lines.append(level.line());
+    QCOMPARE(lines, (QByteArrayList{"supply\tBlack Toner\t144\t1200\t", "supply\t\t-3\t-2\t",
+                                    "tray\tTray 1\t250\t500\tiso_a4_210x297mm"}));
 }
 
 void TestSnmpDevice::opensAndClosesTheRealLibrary()

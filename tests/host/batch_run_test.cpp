@@ -148,6 +148,8 @@ void BatchRunTest::exitCodes_data()
         << u"--summary --set ColorType=Mono --set Cyan=2"_s << int(ExitConflict) << u"conflict"_s;
     QTest::newRow("proposal accepted")
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("no passwords here")
+        << u"--batch -o job-password=1234 FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 

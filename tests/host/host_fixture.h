@@ -86,12 +86,14 @@ public:
     {
         return destination;
     }
+    std::optional<host::DeviceReport> reportOf(const host::Destination &) override { return report; }
     void searchNetwork(const std::function<bool(const host::Destination &)> &) override {}
     void setLoginPrompt(host::LoginPrompt) override {}
 
     QList<host::Destination> printers;
-    QHash<QString, QByteArray> ppds; // by queue; none for a raw queue
-    host::PrintError serverError;    // if set, every request fails with it
+    QHash<QString, QByteArray> ppds;          // by queue; none for a raw queue
+    host::PrintError serverError;             // if set, every request fails with it
+    std::optional<host::DeviceReport> report; // of every printer
     host::JobStatus status;
     host::Submission::Outcome outcome = host::Submission::Outcome::Accepted;
     QList<host::JobRequest> submitted;

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void printingFollowsAWait();
     void escapeLeavesThingsAsTheyAre_data();
     void escapeLeavesThingsAsTheyAre();
+    void missingMediaIsMentionedOnce();
     void earlierJobCounts();
     void pdfResultWaitsForThePages();
     void failedActionGoesWithTheNextNews();
@@ -254,6 +255,29 @@ void PrintRequestTest::nothingIsPrintedWhileAPdfIsSaved()
     QTRY_VERIFY(printButton()->isEnabled());
     settle();
     QVERIFY(m_system.submitted.isEmpty());
+}
+
+// The user may print nevertheless.
+void PrintRequestTest::missingMediaIsMentionedOnce()
+{
+    const QByteArray sizes = "*PaperDimension A4: \"595 842\"\n*PaperDimension A3: \"842 1191\"\n"
+                             "*ImageableArea A4: \"0 0 595 842\"\n*ImageableArea A3: \"0 0 842 1191\"\n";
+    m_system.ppds[u"office"_s] += sizes;
+    m_system.report = DeviceReport{{}, {}, {{{}, {}, u"A4"_s, 210, 297}}, QDateTime::currentDateTime()};
+    PrintWindow &window = open();
+    MessageBar *bar = window.messageBar();
+    QVERIFY(!bar->isShowing());
+    choose(u"PageSize"_s, u"A3"_s);
+    QCOMPARE(bar->text(), u"Paper not loaded in the printer\n“A3” is not loaded in any tray."_s);
+    bar->buttons().first()->click();
+    choose(u"MediaType"_s, u"Thick"_s);
+    QVERIFY(!bar->isShowing()); // closed, and the same is missing
+    choose(u"PageSize"_s, u"A4"_s);
+    choose(u"PageSize"_s, u"A3"_s);
+    QVERIFY(bar->isShowing());
+    window.print();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
 }
 
 enum class Way { Click, Return, Shortcut };

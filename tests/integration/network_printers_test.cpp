@@ -10,6 +10,7 @@
 #include "tests/support/paths.h"
 #include "tests/support/private_bonjour.h"
 #include "tests/support/private_cupsd.h"
+#include "tests/support/simulated_printer.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -48,6 +49,10 @@ constexpr Offer offers[] = {
     {"StapleLocation", "Staple", "None|One, Top Left|Two, Left", "Tw", "DualPortrait"},
 };
 
+// The settings of the Print Mode page. The summary hides them.
+constexpr std::pair<const char *, const char *> secrets[] = {
+    {"job-password", "4711"}, {"job-account-id", "Sales"}, {"job-accounting-user-id", "4711-2"}};
+
 } // namespace
 
 // A printer that announces itself through a real avahi-daemon in a private network.
@@ -57,9 +62,11 @@ class NetworkPrintersTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void foundWhenTheListIsOpenedAndPrints();
+    void levelsAreReadWithSnmp();
 
 private:
     static void chooseOffered(PrintWindow *window);
+    static void givePassword(PrintWindow *window);
 
     PrivateBonjour m_bonjour;
     ChildProcess m_printer;
@@ -109,6 +116,20 @@ void NetworkPrintersTest::chooseOffered(PrintWindow *window)
     }
 }
 
+void NetworkPrintersTest::givePassword(PrintWindow *window)
+{
+    window->book()->showPage(window->book()->pageNamed(u"print-mode"_s));
+    for (const auto &[name, value] : secrets) {
+        auto *field = window->book()->findChild<QLineEdit *>(QLatin1String(name));
+        QVERIFY2(field && field->isVisible(), name);
+        QTest::keyClicks(field, QLatin1String(value));
+    }
+    for (const SummarySection &section : window->session()->summary()) {
+        for (const SummaryEntry &entry : section.entries)
+            QVERIFY2(!entry.second.contains(u"4711"_s), qPrintable(entry.second));
+    }
+}
+
 void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
 {
     CupsPrintSystem system;
@@ -135,8 +156,14 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     QTRY_COMPARE_WITH_TIMEOUT(window.session()->destination().queue, u"Attic"_s, 20'000);
     QVERIFY(window.session()->ppd()); // created by the server from the printer's attributes
     chooseOffered(&window);
+    givePassword(&window);
     if (QTest::currentTestFailed())
         return;
+    for (const char *line : {"Cyan 80 %", "Black 7 %", "Upper 40 %", "Tray 1: A4"})
+        QTRY_VERIFY2(box->toolTip().contains(QLatin1String(line)), qPrintable(box->toolTip()));
+    QTRY_VERIFY(window.messageBar()->isShowing());
+    QCOMPARE(window.messageBar()->text(),
+             u"Paper not loaded in the printer\nNothing is loaded in “Bypass Tray”."_s);
     window.print();
     QTRY_VERIFY_WITH_TIMEOUT(window.submission() && window.submission()->isAccepted(), 15'000);
     const auto job = m_server.waitForJob(window.submission()->job.id);
@@ -146,6 +173,38 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     for (const Offer &offer : offers)
         QVERIFY2(sent.contains(u"%1=%2"_s.arg(QLatin1String(offer.option), QLatin1String(offer.sent))),
                  qPrintable(job->optionText));
+    for (const auto &[name, value] : secrets)
+        QVERIFY2(sent.contains(u"%1=%2"_s.arg(QLatin1String(name), QLatin1String(value))),
+                 qPrintable(job->optionText));
+    QVERIFY(window.submission()->job.differences.isEmpty());
+    QVERIFY2(heart.longestGap() < longestGap, qPrintable(QString::number(heart.longestGap())));
+}
+
+// The print server has nothing about such a printer.
+void NetworkPrintersTest::levelsAreReadWithSnmp()
+{
+    const SimulatedPrinter device("127.0.0.3", "[objects]\n"
+                                               "1.3.6.1.2.1.43.11.1.1.6.1.1 = string Black Toner\n"
+                                               "1.3.6.1.2.1.43.11.1.1.8.1.1 = integer 1200\n"
+                                               "1.3.6.1.2.1.43.11.1.1.9.1.1 = integer 144\n"
+                                               "1.3.6.1.2.1.43.8.2.1.9.1.1 = integer 500\n"
+                                               "1.3.6.1.2.1.43.8.2.1.10.1.1 = integer 250\n"
+                                               "1.3.6.1.2.1.43.8.2.1.13.1.1 = string Tray 1\n");
+    QVERIFY2(device.isRunning(), qPrintable(device.error()));
+    QVERIFY2(m_server.addQueue(u"cellar"_s, {}, u"socket://127.0.0.3"_s), qPrintable(m_server.problem()));
+    CupsPrintSystem system;
+    Extensions none({});
+    PrintTask task;
+    task.printer = u"cellar"_s;
+    Heartbeat heart;
+    PrintWindow window(system, none, task);
+    PrintError error;
+    QVERIFY(window.open(&error));
+    window.show();
+    window.finishLater();
+    auto *box = window.findChild<PrinterBox *>();
+    for (const char *line : {"Black Toner 12 %", "Tray 1 50 %"})
+        QTRY_VERIFY2(box->toolTip().contains(QLatin1String(line)), qPrintable(box->toolTip()));
     QVERIFY2(heart.longestGap() < longestGap, qPrintable(QString::number(heart.longestGap())));
 }
 

@@ -65,6 +65,8 @@ void PresetTest::initTestCase()
         QSKIP(qPrintable(missing));
     QVERIFY2(startPrivately(m_server, &m_system), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"office"_s, buildPath("/ppds/kelm880.ppd")), qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"standard"_s, sourcePath("/tests/host/print_mode.ppd")),
+             qPrintable(m_server.problem()));
 }
 
 int PresetTest::run(const QStringList &words)
@@ -141,17 +143,27 @@ void PresetTest::presetsOfOtherProgramsAreThere()
 
 void PresetTest::codesAreNotKept_data()
 {
+    QTest::addColumn<QString>("queue");
     QTest::addColumn<QStringList>("words");
-    QTest::newRow("digits") << QStringList{u"-o"_s, u"dindigit1=7"_s, u"--set"_s, u"DCDigit2=7"_s};
-    QTest::newRow("job password") << QStringList{u"-o"_s, u"job-password=7777"_s};
+    QTest::addColumn<QByteArray>("kept");
+    QTest::newRow("digits") << u"office"_s
+                            << QStringList{u"-o"_s,         u"dindigit1=7"_s, u"--set"_s,
+                                           u"DCDigit2=7"_s, u"--set"_s,       u"PrintMode=Private"_s}
+                            << QByteArray("PrintMode=Private");
+    QTest::newRow("job password") << u"standard"_s << QStringList{u"-o"_s, u"job-password=7777"_s,
+                                                                  u"-o"_s, u"job-account-id=7"_s,
+                                                                  u"-o"_s, u"job-accounting-user-id=7"_s,
+                                                                  u"-n"_s, u"3"_s}
+                                  << QByteArray("copies=3");
 }
 
 // By a program without a bundle that declares codes.
 void PresetTest::codesAreNotKept()
 {
+    QFETCH(QString, queue);
     QFETCH(QStringList, words);
-    const QStringList call = {u"-d"_s,   u"office"_s, u"--save-preset"_s,
-                              u"code"_s, u"--set"_s,  u"PrintMode=Private"_s};
+    QFETCH(QByteArray, kept);
+    const QStringList call = {u"-d"_s, queue, u"--save-preset"_s, u"code"_s};
     Extensions none({});
     QCOMPARE(callBatch(call + words, *m_system, none, &m_json), int(ExitSuccess));
     QVERIFY(m_json[u"notices"_s].toArray().size() > 0);
@@ -159,7 +171,7 @@ void PresetTest::codesAreNotKept()
     QFile file(files.writesForAllUsers ? files.allUsers : files.users);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
-    QVERIFY2(content.contains("PrintMode=Private") && !content.contains('7'), content.constData());
+    QVERIFY2(content.contains(kept) && !content.contains('7'), content.constData());
 }
 
 void PresetTest::panelsTakeAPresetAndGiveItBack()

@@ -4,9 +4,11 @@
 #include "host/printing/print_system.h"
 #include "platform/background.h"
 #include "tests/integration/batch_program.h"
+#include "tests/support/inline_ppd.h"
 #include "tests/support/paths.h"
 
 #include <QDir>
+#include <QImage>
 #include <QJsonArray>
 #include <QStandardPaths>
 #include <QTest>
@@ -39,6 +41,7 @@ class PrintJobTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void privateJobArrivesWhole();
+    void passwordIsSentAsTheStandardSays();
     void customValuesArriveWhole_data();
     void customValuesArriveWhole();
     void balanceIsResetWithMonochrome();
@@ -61,6 +64,7 @@ private Q_SLOTS:
     void documentOfAnApplicationIsSent();
     void queueOfTheDialogIsNoPrinter();
     void listIsThatOfLibcups();
+    void textsAreInTheLanguageOfTheDialog();
 
 private:
     // Runs a batch job that must succeed, and returns what reached the printer.
@@ -81,6 +85,8 @@ void PrintJobTest::initTestCase()
     for (const QString &queue : {u"office"_s, u"paused"_s, u"rejecting"_s})
         QVERIFY2(m_server.addQueue(queue, ppd), qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"other"_s, {}), qPrintable(m_server.problem()));
+    QVERIFY2(m_server.addQueue(u"standard"_s, sourcePath("/tests/host/print_mode.ppd")),
+             qPrintable(m_server.problem()));
     QVERIFY2(m_server.addQueue(u"custom"_s, sourcePath("/tests/host/custom_values.ppd")),
              qPrintable(m_server.problem()));
     QVERIFY(m_server.setDefaultQueue(u"office"_s));
@@ -117,6 +123,16 @@ void PrintJobTest::privateJobArrivesWhole()
                  qPrintable(option + u" in "_s + text));
     QCOMPARE(job->copies, 2);
     QCOMPARE(job->title, u"report.pdf"_s);
+}
+
+void PrintJobTest::passwordIsSentAsTheStandardSays()
+{
+    const auto job = print({u"-d"_s, u"standard"_s, u"-o"_s, u"job-password=4711"_s, u"-o"_s,
+                            u"job-account-id=Sales"_s, u"-o"_s, u"job-accounting-user-id=42"_s, document});
+    QVERIFY(job);
+    for (const QString &option : {u"job-password=4711"_s, u"job-password-encryption=none"_s,
+                                  u"job-account-id=Sales"_s, u"job-accounting-user-id=42"_s})
+        QVERIFY2(job->optionText.split(u' ').contains(option), qPrintable(job->optionText));
 }
 
 void PrintJobTest::customValuesArriveWhole_data()
@@ -478,6 +494,33 @@ void PrintJobTest::listIsThatOfLibcups()
                           .join(u'|'));
     listed.sort();
     QCOMPARE(listed.join(u'\n'), expectedBeside->join(u'\n'));
+}
+
+// Qt sets the locale from LC_ALL while a worker reads the texts of the printer in the language of LANGUAGE.
+void PrintJobTest::textsAreInTheLanguageOfTheDialog()
+{
+    const QString ppd =
+        file(u"german.ppd"_s, "*PPD-Adobe: \"4.3\"\n*LanguageEncoding: UTF-8\n*cupsLanguages: \"de\"\n" +
+                                  ppdOption("Coat/Coating", {"None/None", "Gloss/Glossy"}) +
+                                  "*de.Translation Coat/Beschichtung: \"\"\n");
+    QVERIFY2(m_server.addQueue(u"german"_s, ppd), qPrintable(m_server.problem()));
+    const auto picture = [this](const char *variable) {
+        const QString path = m_server.folder() + u"/picture.png"_s;
+        QProcess dialog;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+            environment.remove(QLatin1String(name));
+        environment.insert(QLatin1String(variable), u"C.UTF-8"_s);
+        environment.insert(u"LANGUAGE"_s, u"de"_s);
+        dialog.setProcessEnvironment(environment);
+        dialog.start(program,
+                     {u"-d"_s, u"german"_s, u"--panel"_s, u"more"_s, u"--screenshot"_s, path, document});
+        return dialog.waitForFinished() ? QImage(path) : QImage();
+    };
+    const QImage expected = picture("LANG");
+    QVERIFY(!expected.isNull());
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(picture("LC_ALL"), expected);
 }
 
 QTEST_MAIN(PrintJobTest)

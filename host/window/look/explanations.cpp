@@ -44,6 +44,15 @@ constexpr std::array explanations{
         "job-billing",
         QT_TRANSLATE_NOOP("Explanation",
                           "A text that is recorded with the job, for example a project or a customer.")},
+    Explanation{"job-password",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "The printer keeps the job until this password is entered at "
+                                  "its control panel. It is not stored.")},
+    Explanation{"job-account-id",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "The account that the printer charges for the job. It is not stored.")},
+    Explanation{"job-accounting-user-id",
+                QT_TRANSLATE_NOOP("Explanation", "Your name or number for the account. It is not stored.")},
     Explanation{"PageSize",
                 QT_TRANSLATE_NOOP("Explanation", "The size of the paper to print on. Paper of this size must "
                                                  "be loaded in one of the printer’s trays.")},

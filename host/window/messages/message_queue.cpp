@@ -42,8 +42,8 @@ void MessageQueue::withdraw(Subject subject)
 
 void MessageQueue::clearSession()
 {
-    for (const Subject subject :
-         {Subject::Notices, Subject::Conflict, Subject::Outcome, Subject::Code, Subject::GreyedChoice})
+    for (const Subject subject : {Subject::Notices, Subject::Media, Subject::Conflict, Subject::Outcome,
+                                  Subject::Code, Subject::GreyedChoice})
         m_entries.erase(subject);
     update();
 }

@@ -22,6 +22,7 @@ public:
     // The subject of a message. Later subjects are more important.
     enum class Subject {
         Notices,  // changed settings
+        Media,    // paper that is not loaded in the printer
         Document, // a document that cannot be printed
         File,     // the PDF file that was saved
         Conflict, // settings that cannot be used together

@@ -36,7 +36,30 @@ void SessionMessages::clear()
     m_messages->clearSession();
     m_purpose = Purpose::Review;
     m_notices.clear();
+    m_loaded = {};
+    m_closedMedia.clear();
     m_toldGap.clear();
+}
+
+void SessionMessages::setLoaded(const QList<LoadedTray> &trays)
+{
+    if (!m_session || !m_session->ppd())
+        return;
+    m_loaded = LoadedMedia(m_session->ppd(), trays);
+    tellMissingMedia();
+}
+
+void SessionMessages::tellMissingMedia()
+{
+    const QStringList missing = m_session->ppd() ? m_loaded.missing(*m_session->ppd()) : QStringList();
+    if (missing != m_closedMedia)
+        m_closedMedia.clear();
+    if (missing.isEmpty())
+        m_messages->withdraw(Subject::Media);
+    else if (missing != m_closedMedia)
+        m_messages->tell(Subject::Media,
+                         {StatusGlyph::Kind::Notice, tr("Paper not loaded in the printer"), missing, {}},
+                         [this, missing] { m_closedMedia = missing; });
 }
 
 void SessionMessages::showNotices()
@@ -54,6 +77,7 @@ bool SessionMessages::check()
     if (!m_session)
         return false;
     showNotices();
+    tellMissingMedia();
     if (!missingCode(*m_session))
         m_messages->withdraw(Subject::Code);
     return askAboutConflicts(m_purpose) || tellGap();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/printing/loaded_media.h"
 #include "host/printing/print_error.h"
 #include "host/window/messages/conflict_question.h"
 
@@ -18,8 +19,8 @@ class DialogSession;
 class MessageQueue;
 class SessionHistory;
 
-// The messages of a session: conflicts, a missing code, and notices, which stay until the user has closed
-// them. Owned by its window; the queue is borrowed.
+// The messages of a session: conflicts, a missing code, paper that is not loaded, and notices, which stay
+// until the user has closed them. Owned by its window; the queue is borrowed.
 class SessionMessages : public QObject
 {
     Q_OBJECT
@@ -41,6 +42,9 @@ public:
     // The same before a job is sent; the user may print anyway, also without a code. The question gets the
     // focus.
     bool checkToPrint();
+    // Sets what is loaded in the printer. A choice that is not loaded is mentioned, once until it changes; it
+    // does not prevent printing.
+    void setLoaded(const QList<LoadedTray> &trays);
     // Performs a check that was held up.
     void goOn();
 
@@ -62,6 +66,7 @@ private:
     bool isCodeToBeSeenTo();
     bool askForCode();
     bool tellGap();
+    void tellMissingMedia();
     void recheck();
     bool isAsking() const;
 
@@ -73,7 +78,9 @@ private:
     // The purpose of the open question about conflicts: it offers printing until there are no conflicts.
     ConflictQuestion::Purpose m_purpose = ConflictQuestion::Purpose::Review;
     QStringList m_notices; // not closed by the user yet
-    QString m_toldGap;     // the last gap that was reported
+    LoadedMedia m_loaded;
+    QStringList m_closedMedia; // the last message about missing media that the user has closed
+    QString m_toldGap;         // the last gap that was reported
     bool m_isCheckQueued = false;
     bool m_isCheckDue = false; // when it is no longer held up
 };

@@ -7,6 +7,7 @@
 #include "host/preview/page_tools.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
+#include "host/session/job_settings.h"
 #include "host/session/printed_pages.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
@@ -20,6 +21,7 @@
 #include "host/window/pages/more_page.h"
 #include "host/window/pages/page_frame.h"
 #include "host/window/pages/page_list.h"
+#include "host/window/pages/print_mode_page.h"
 #include "host/window/pages/summary_page.h"
 #include "host/window/preview/preview_dialog.h"
 #include "host/window/preview/preview_pane.h"
@@ -40,6 +42,7 @@ namespace {
 
 const QString generalName = QStringLiteral("general");
 const QString moreName = QStringLiteral("more");
+const QString printModeName = QStringLiteral("print-mode");
 const QString jobName = QStringLiteral("job");
 const QString summaryName = QStringLiteral("summary");
 
@@ -185,6 +188,8 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
             (keywords.isEmpty() || !hidesAll(keywords)))
             addPage(session->panels().panel(i)->panelName(), session->panels().panel(i)->panelKind(), i);
     }
+    if (!offeredPrintModes(*session).isEmpty() && !rule.hidesPanel(printModeName))
+        addPage(tr("Print Mode"), printModeName);
     if (!hidesAll(session->otherKeywords()))
         addPage(tr("More Options"), moreName);
     addPage(tr("Job"), jobName);
@@ -240,6 +245,11 @@ QWidget *PageBook::contentOf(const Page &page)
         connect(m_more, &MorePage::grown, this, &PageBook::grown);
         return m_more;
     }
+    if (page.name == printModeName && page.panel < 0) {
+        m_printMode = new PrintModePage(m_session);
+        connect(m_printMode, &PrintModePage::chosen, this, &PageBook::chosen);
+        return m_printMode;
+    }
     if (page.name == jobName) {
         m_job = new JobPage(m_session);
         connect(m_job, &JobPage::chosen, this, &PageBook::chosen);
@@ -261,6 +271,7 @@ void PageBook::clear()
     m_general = nullptr;
     m_more = nullptr;
     m_job = nullptr;
+    m_printMode = nullptr;
     m_summary = nullptr;
     const QSignalBlocker quiet(m_list);
     m_list->clear();
@@ -370,6 +381,8 @@ void PageBook::refresh()
         m_more->refresh();
     if (m_job)
         m_job->refresh();
+    if (m_printMode)
+        m_printMode->refresh();
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
         showSummary();
     updatePreview();
@@ -388,6 +401,8 @@ int PageBook::rowOf(const QString &key) const
         return pageNamed(moreName);
     if (place == jobPage)
         return pageNamed(jobName);
+    if (place == printModePage)
+        return qMax(pageNamed(printModeName), 0);
     for (size_t row = 0; row < m_pages.size(); ++row) {
         if (place >= 0 && m_pages[row].panel == place)
             return static_cast<int>(row);

@@ -21,6 +21,7 @@ class MorePage;
 class PageFrame;
 class PageList;
 class PreviewPane;
+class PrintModePage;
 class SessionHistory;
 class SummaryPage;
 
@@ -39,8 +40,8 @@ public:
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
 
-    // The row of a page by name: "general", "more", "summary", a panel's kind, its last part, or its title;
-    // -1 if there is none.
+    // The row of a page by name: "general", "print-mode", "more", "job", "summary", a panel's kind, its last
+    // part, or its title; -1 if there is none.
     int pageNamed(const QString &name) const;
     int currentRow() const { return m_current; } // -1 if there is none
     // A name for pageNamed(); empty if there is no page.
@@ -114,6 +115,7 @@ private:
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
     JobPage *m_job = nullptr;
+    PrintModePage *m_printMode = nullptr;
     SummaryPage *m_summary = nullptr;
 };
 

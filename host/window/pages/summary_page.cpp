@@ -26,7 +26,7 @@ constexpr int nameWidth = 240; // pixels
 // The key of a line of the summary, in which panels use display names for their settings.
 QString keyOf(const DialogSession &session, int panel, const QString &name)
 {
-    if (panel == jobPage) {
+    if (panel == jobPage || panel == printModePage) {
         const QStringList &names = jobSettingNames();
         const auto job = std::find_if(names.begin(), names.end(),
                                       [&](const QString &key) { return jobSettingText(key) == name; });
@@ -93,10 +93,11 @@ void SummaryPage::showChanged(const DialogSession &session, const QList<SettingC
     m_changed.clear();
     for (const SettingChange &change : changes) {
         const int page = pageOf(session, change.key);
-        const QString title = page >= 0          ? session.panels().panel(page)->panelName()
-                              : page == morePage ? moreSummary(session).title
-                              : page == jobPage  ? jobSummary(session).title
-                                                 : m_all.first().title;
+        const QString title = page >= 0               ? session.panels().panel(page)->panelName()
+                              : page == morePage      ? moreSummary(session).title
+                              : page == jobPage       ? jobSummary(session).title
+                              : page == printModePage ? printModeSummary(session).title
+                                                      : m_all.first().title;
         auto part = std::find_if(m_changed.begin(), m_changed.end(),
                                  [&](const Part &known) { return known.title == title; });
         if (part == m_changed.end())

@@ -3,9 +3,11 @@
 
 #include "host/window/printers/printer_list.h"
 
+#include "host/printing/ppd_texts.h"
 #include "host/window/look/foreign_text.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <tuple>
@@ -214,7 +216,17 @@ QString printerStateText(const Destination &printer)
 
 QString printerSuppliesText(const Destination &printer)
 {
-    return suppliesText(printer.supplies);
+    QStringList lines{suppliesText(printer.supplies), suppliesText(printer.report.paper)};
+    for (const LoadedTray &tray : printer.report.trays) {
+        if (!tray.source.isEmpty() && !tray.size.isEmpty())
+            lines.append(PrinterText::tr("%1: %2", "a tray and the paper in it")
+                             .arg(traySourceText(tray.source), tray.size));
+    }
+    lines.removeAll(QString());
+    if (!lines.isEmpty() && printer.report.time.isValid())
+        lines.append(PrinterText::tr("Reported by the printer at %1")
+                         .arg(QLocale().toString(printer.report.time.time(), QLocale::ShortFormat)));
+    return lines.join(QLatin1Char('\n'));
 }
 
 void PrinterSearch::setWords(const QString &text)

@@ -59,7 +59,8 @@ private:
 
 // The state, problem and location of a printer as text: "Ready · Room 655".
 QString printerStateText(const Destination &printer);
-// The levels of its supplies, one per line: "Black 12 %". Empty if the printer does not report them.
+// The levels of its supplies, and what is loaded in its trays, one per line: "Black 12 %", "Tray 1: A4".
+// Empty if the printer does not report them.
 QString printerSuppliesText(const Destination &printer);
 
 // Filters a printer list by search words, which may occur in any order in name, description, location and

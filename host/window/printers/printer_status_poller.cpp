@@ -11,8 +11,11 @@ namespace host {
 namespace {
 
 constexpr std::chrono::seconds betweenStates(5);
+// A printer that did not respond is asked less often: each attempt may take seconds.
+constexpr std::chrono::minutes betweenReports(1);
+constexpr std::chrono::minutes betweenAttempts(5);
 
-}
+} // namespace
 
 PrinterStatusPoller::PrinterStatusPoller(PrintSystem &system, PrinterPicker *picker)
     : m_system(system), m_picker(picker)
@@ -23,16 +26,25 @@ PrinterStatusPoller::PrinterStatusPoller(PrintSystem &system, PrinterPicker *pic
 
 void PrinterStatusPoller::setChosen(const Destination &printer)
 {
+    if (!m_chosen || m_chosen->queue != printer.queue) {
+        m_report.reset();
+        m_deviceQuestion.drop();
+        m_reportIsGood.setRemainingTime(0);
+    }
     m_chosen = printer;
     if (isPpdAlone())
         m_picker->setFixedText(printer.displayName());
     else
-        m_picker->setCurrent(printer);
+        m_picker->setCurrent(withReport(printer));
+    if (m_mayAskDevice)
+        askDevice();
 }
 
 void PrinterStatusPoller::forgetChosen()
 {
     m_stateQuestion.drop();
+    m_deviceQuestion.drop();
+    m_report.reset();
     m_chosen.reset();
 }
 
@@ -62,6 +74,8 @@ void PrinterStatusPoller::loadList()
     m_recent.start(
         this, [] { return RememberedPrinter().recent(); },
         [this](const QStringList &recent) { m_picker->setRecent(recent); });
+    m_mayAskDevice = true;
+    askDevice();
 }
 
 void PrinterStatusPoller::searchNetwork()
@@ -83,10 +97,38 @@ void PrinterStatusPoller::askState()
         this, [&system = m_system, printer = *m_chosen] { return system.withState(printer); },
         [this](const std::optional<Destination> &now) {
             if (now)
-                m_picker->putPrinter(*now);
+                m_picker->putPrinter(withReport(*now));
             else if (m_chosen)
                 m_picker->putPrinter(m_chosen->withoutState());
         });
+    askDevice();
+}
+
+void PrinterStatusPoller::askDevice()
+{
+    if (!m_chosen || isPpdAlone() || m_deviceQuestion.isPending() || !m_reportIsGood.hasExpired())
+        return;
+    m_reportIsGood.setRemainingTime(betweenAttempts);
+    m_deviceQuestion.start(
+        this, [&system = m_system, printer = *m_chosen] { return system.reportOf(printer); },
+        [this](const std::optional<DeviceReport> &report) {
+            m_report = report;
+            if (!report || !m_chosen)
+                return;
+            m_reportIsGood.setRemainingTime(betweenReports);
+            askState();
+            Q_EMIT reported(*report);
+        });
+}
+
+Destination PrinterStatusPoller::withReport(Destination printer) const
+{
+    if (m_report) {
+        printer.report = *m_report;
+        if (!m_report->supplies.isEmpty())
+            printer.supplies = m_report->supplies;
+    }
+    return printer;
 }
 
 } // namespace host

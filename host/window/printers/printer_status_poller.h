@@ -6,6 +6,7 @@
 #include "host/printing/print_system.h"
 #include "platform/awaited.h"
 
+#include <QDeadlineTimer>
 #include <QList>
 #include <QObject>
 #include <QStringList>
@@ -18,8 +19,9 @@ namespace host {
 class NetworkSearch;
 class PrinterPicker;
 
-// Updates a printer picker: loads the list of printers, and polls the state of the selected printer, on
-// worker threads. Owned by the picker's window. The print system is borrowed and outlives it.
+// Updates a printer picker: loads the list of printers, polls the state of the selected printer, and asks the
+// printer itself about supplies and loaded media, all on worker threads. Owned by the picker's window. The
+// print system is borrowed and outlives it.
 class PrinterStatusPoller : public QObject
 {
     Q_OBJECT
@@ -40,9 +42,15 @@ public Q_SLOTS:
     // Searches for printers without a queue on the print server.
     void searchNetwork();
 
+Q_SIGNALS:
+    // The selected printer has reported what is loaded in its trays.
+    void reported(const DeviceReport &report);
+
 private:
     bool isPpdAlone() const { return m_chosen && m_chosen->queue.isEmpty(); }
     void askState();
+    void askDevice();
+    Destination withReport(Destination printer) const;
 
     PrintSystem &m_system;
     PrinterPicker *m_picker;
@@ -51,6 +59,10 @@ private:
     platform::Awaited<std::optional<QList<Destination>>> m_listing;
     platform::Awaited<QStringList> m_recent; // names of printers
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
+    platform::Awaited<std::optional<DeviceReport>> m_deviceQuestion;
+    std::optional<DeviceReport> m_report; // of the selected printer
+    QDeadlineTimer m_reportIsGood{0};     // until then the printer is not asked again
+    bool m_mayAskDevice = false;          // after the first paint
     QTimer m_stateTimer;
 };
 

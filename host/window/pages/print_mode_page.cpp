@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "host/window/pages/print_mode_page.h"
+
+#include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
+#include "host/window/look/explanations.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace host {
+
+namespace {
+
+constexpr int fieldWidth = 240;    // pixels, as in the panels
+constexpr int longestAccount = 63; // characters; fits the limit of the print protocol in every script
+
+} // namespace
+
+PrintModePage::PrintModePage(DialogSession *session, QWidget *parent) : QWidget(parent), m_session(session)
+{
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(24, 20, 24, 20);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(10);
+    grid->setColumnStretch(2, 1);
+    for (const QString &name : offeredPrintModes(*session)) {
+        addField(name,
+                 name == passwordName  ? tr("Password:")
+                 : name == accountName ? tr("Account:")
+                                       : tr("Account user:"),
+                 grid);
+    }
+    auto *note = new QLabel(tr("The printer keeps a job with a password until the password is entered at its "
+                               "control panel. Password and account are sent with the job, and not stored."),
+                            this);
+    note->setWordWrap(true);
+    grid->addWidget(note, grid->rowCount(), 0, 1, 3);
+    grid->setRowStretch(grid->rowCount(), 1);
+    refresh();
+}
+
+void PrintModePage::addField(const QString &name, const QString &label, QGridLayout *grid)
+{
+    auto *field = new QLineEdit(this);
+    field->setObjectName(name);
+    field->setMinimumWidth(fieldWidth);
+    field->setAccessibleName(label.chopped(1).trimmed());
+    field->setWhatsThis(explanationOf(name));
+    const bool isPassword = name == passwordName;
+    field->setMaxLength(isPassword ? m_session->destination().passwordLength : longestAccount);
+    if (isPassword)
+        field->setEchoMode(QLineEdit::Password);
+    auto *text = new QLabel(label, this);
+    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    text->setBuddy(field);
+    const int row = grid->rowCount();
+    grid->addWidget(text, row, 0);
+    grid->addWidget(field, row, 1);
+    m_fields.append(field);
+    connect(field, &QLineEdit::textEdited, this, [this, name](const QString &value) {
+        setJobSetting(m_session, name, value);
+        refresh(); // it may have been refused
+        Q_EMIT chosen(name);
+    });
+}
+
+void PrintModePage::refresh()
+{
+    for (QLineEdit *field : std::as_const(m_fields)) {
+        const QString value = jobSettingValue(*m_session, field->objectName());
+        if (field->text() != value)
+            field->setText(value);
+    }
+}
+
+} // namespace host

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The kelmar-print authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+class QGridLayout;
+class QLineEdit;
+
+namespace host {
+
+class DialogSession;
+
+// The page for private printing with a printer that has no panel for it: the password and the account of the
+// job, as far as the queue accepts them. Writes to the session immediately, which is borrowed and outlives
+// the page.
+class PrintModePage : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit PrintModePage(DialogSession *session, QWidget *parent = nullptr);
+
+    // Shows the current settings of the session.
+    void refresh();
+
+Q_SIGNALS:
+    void chosen(const QString &name); // name of the job option
+
+private:
+    void addField(const QString &name, const QString &label, QGridLayout *grid);
+
+    DialogSession *m_session;
+    QList<QLineEdit *> m_fields; // their object names are those of the job options
+};
+
+} // namespace host
