@@ -426,6 +426,7 @@ void PrintWindow::showError(const PrintError &error)
 
 void PrintWindow::finishLater()
 {
+    m_picker->offerToAdd();
     m_poller.loadList();
     auto *check = new DocumentCheck(this);
     connect(check, &DocumentCheck::failed, this, [this](const PrintError &error) {

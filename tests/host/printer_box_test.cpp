@@ -9,9 +9,13 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace host;
@@ -29,6 +33,8 @@ private Q_SLOTS:
     void chosenPrinterIsShown_data();
     void chosenPrinterIsShown();
     void reportsAreShown();
+    void printersAreAddedInTheDesktopsSettings_data();
+    void printersAreAddedInTheDesktopsSettings();
 
 private:
     static QList<Destination> building()
@@ -204,14 +210,84 @@ void PrinterBoxTest::reportsAreShown()
     printer.problem = QStringLiteral("The toner is running low.");
     printer.supplies = {
         {QStringLiteral("Cyan"), 80, false}, {QStringLiteral("Black"), 7, true}, {QStringLiteral("Drum")}};
+    printer.report = {{},
+                      {{QStringLiteral("Upper tray"), 40}},
+                      {{QStringLiteral("tray-1"), {}, QStringLiteral("A4"), 210, 297}, {}},
+                      QDateTime(QDate(2026, 5, 4), QTime(13, 5))};
     picker.setCurrent(printer);
     const QString said = picker.box()->accessibleDescription();
     QVERIFY2(said.startsWith(QStringLiteral("Ready · The toner is running low. · Black 7 %")),
              qPrintable(said));
-    for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known"})
+    for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known", "Upper tray 40 %",
+                             "Tray 1: A4", "Reported by the printer at 13:05"})
         QVERIFY2(picker.box()->toolTip().contains(QLatin1String(line)), qPrintable(picker.box()->toolTip()));
     picker.putPrinter(printer.withoutState());
     QVERIFY(!picker.box()->toolTip().contains(QStringLiteral("Black")));
+}
+
+void PrinterBoxTest::printersAreAddedInTheDesktopsSettings_data()
+{
+    QTest::addColumn<QString>("desktop");
+    QTest::addColumn<QStringList>("programs"); // that are installed
+    QTest::addColumn<QString>("called");       // with its arguments; empty if adding is not offered
+    const QString gnome = QStringLiteral("gnome-control-center"), kde = QStringLiteral("systemsettings"),
+                  other = QStringLiteral("system-config-printer");
+    QTest::newRow("GNOME") << QStringLiteral("ubuntu:GNOME") << QStringList{gnome, kde, other}
+                           << QStringLiteral("gnome-control-center printers");
+    QTest::newRow("KDE") << QStringLiteral("KDE") << QStringList{gnome, kde, other}
+                         << QStringLiteral("systemsettings kcm_printer_manager");
+    QTest::newRow("another desktop") << QStringLiteral("XFCE") << QStringList{gnome, kde, other}
+                                     << QStringLiteral("system-config-printer ");
+    QTest::newRow("settings of other desktops")
+        << QStringLiteral("XFCE") << QStringList{gnome, kde} << QString();
+    QTest::newRow("none") << QStringLiteral("GNOME") << QStringList() << QString();
+}
+
+void PrinterBoxTest::printersAreAddedInTheDesktopsSettings()
+{
+    QFETCH(QString, desktop);
+    QFETCH(QStringList, programs);
+    QFETCH(QString, called);
+    const QTemporaryDir folder;
+    const QString calls = folder.filePath(QStringLiteral("calls"));
+    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("data/applications")));
+    programs.append(QStringLiteral("data/applications/kcm_printer_manager.desktop"));
+    for (const QString &program : std::as_const(programs)) {
+        QFile file(folder.filePath(program));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\necho \"${0##*/} $*\" >" + calls.toUtf8() + ".new\n/bin/mv " + calls.toUtf8() +
+                   ".new " + calls.toUtf8() + "\n");
+        file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    }
+    const QByteArray path = qgetenv("PATH"), data = qgetenv("XDG_DATA_HOME");
+    const auto restore = qScopeGuard([&] {
+        qputenv("PATH", path);
+        qputenv("XDG_DATA_HOME", data);
+    });
+    qputenv("PATH", folder.path().toUtf8());
+    qputenv("XDG_CURRENT_DESKTOP", desktop.toUtf8());
+    qputenv("XDG_DATA_HOME", folder.filePath(QStringLiteral("data")).toUtf8());
+    PrinterPicker picker;
+    QSignalSpy outdated(&picker, &PrinterPicker::listOutdated);
+    picker.setCurrent(officePrinter());
+    picker.offerToAdd();
+    picker.show();
+    auto *box = picker.findChild<PrinterBox *>();
+    box->showPopup();
+    QCOMPARE(box->addButton() != nullptr, !called.isEmpty());
+    if (called.isEmpty())
+        return;
+    QTest::keyClick(box->addButton(), Qt::Key_Space);
+    QVERIFY(!box->isPopupShown());
+    QTRY_VERIFY(QFile::exists(calls));
+    QFile file(calls);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()).chopped(1), called);
+    for (int i = 0; i < 2; ++i) { // only after the settings
+        QEvent activated(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(&picker, &activated);
+    }
+    QCOMPARE(outdated.count(), 1);
 }
 
 QTEST_MAIN(PrinterBoxTest)

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
@@ -117,6 +118,15 @@ QWidget *PrinterBox::makePopup()
     m_searching->setEnabled(false);
     m_searching->hide();
     column->addWidget(m_searching);
+    if (m_offersToAdd) {
+        m_add = new QPushButton(tr("&Add Printer…"), popup);
+        m_add->setAutoDefault(false);
+        column->addWidget(m_add, 0, Qt::AlignLeading);
+        connect(m_add, &QPushButton::clicked, this, [this] {
+            hidePopup();
+            Q_EMIT addWanted();
+        });
+    }
     m_search->installEventFilter(this);
     popup->installEventFilter(this);
     connect(m_search, &QLineEdit::textChanged, this, &PrinterBox::narrow);
@@ -134,8 +144,10 @@ void PrinterBox::showPopup()
     const int rowHeight = 2 * fontMetrics().lineSpacing() + 2 * rowPadding;
     const int rows = std::clamp(count(), 3, rowsShown);
     const QRect available = screen()->availableGeometry();
-    QRect place(mapToGlobal(QPoint(0, height())),
-                QSize(std::max(width(), 360), m_search->sizeHint().height() + rows * rowHeight + 28));
+    const int buttonHeight = m_add ? m_add->sizeHint().height() + m_popup->layout()->spacing() : 0;
+    QRect place(
+        mapToGlobal(QPoint(0, height())),
+        QSize(std::max(width(), 360), m_search->sizeHint().height() + rows * rowHeight + 28 + buttonHeight));
     if (place.bottom() > available.bottom())
         place.moveBottom(std::max(mapToGlobal(QPoint(0, 0)).y(), available.top() + place.height()));
     place.moveRight(std::min(place.right(), available.right()));

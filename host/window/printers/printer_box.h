@@ -8,6 +8,7 @@
 class QLabel;
 class QLineEdit;
 class QListView;
+class QPushButton;
 
 namespace host {
 
@@ -22,6 +23,8 @@ class PrinterBox : public QComboBox
 public:
     explicit PrinterBox(PrinterList *list, QWidget *parent = nullptr);
 
+    // Offers to add a printer. Call before the list is opened.
+    void setOffersToAdd(bool offers) { m_offersToAdd = offers; }
     // Shows below the list that more printers may be found.
     void setSearching(bool searching);
     QSize sizeHint() const override; // independent of the names of printers
@@ -32,10 +35,12 @@ public:
     bool isPopupShown() const;
     QLineEdit *searchField() const { return m_search; }
     QListView *listView() const { return m_view; }
+    QPushButton *addButton() const { return m_add; } // null if adding is not offered
 
 Q_SIGNALS:
     void opened();
-    void closed(); // the pop-up was closed
+    void closed();    // the pop-up was closed
+    void addWanted(); // the user wants to add a printer
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
@@ -53,7 +58,9 @@ private:
     QLineEdit *m_search = nullptr;
     QListView *m_view = nullptr;
     QLabel *m_searching = nullptr;
+    QPushButton *m_add = nullptr;
     QWidget *m_popup = nullptr;
+    bool m_offersToAdd = false;
 };
 
 } // namespace host

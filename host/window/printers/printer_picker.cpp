@@ -8,6 +8,7 @@
 #include "host/window/look/foreign_text.h"
 #include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_list.h"
+#include "host/window/printers/printer_settings.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -42,6 +43,33 @@ PrinterPicker::PrinterPicker(QWidget *parent)
     connect(m_box, &PrinterBox::closed, this, &PrinterPicker::orderRecent);
     connect(m_box, &QComboBox::activated, this,
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
+}
+
+void PrinterPicker::offerToAdd()
+{
+    m_box->setOffersToAdd(!m_isFixed && PrinterSettings::find().has_value());
+    connect(m_box, &PrinterBox::addWanted, this, &PrinterPicker::openSettings, Qt::UniqueConnection);
+}
+
+void PrinterPicker::openSettings()
+{
+    const auto settings = PrinterSettings::find();
+    if (!settings || !settings->open()) {
+        m_state->showText(tr("The printer settings of the desktop cannot be opened"));
+        return;
+    }
+    m_isInSettings = true;
+    window()->installEventFilter(this);
+}
+
+bool PrinterPicker::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && m_isInSettings) {
+        m_isInSettings = false;
+        window()->removeEventFilter(this);
+        Q_EMIT listOutdated();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void PrinterPicker::muteState()

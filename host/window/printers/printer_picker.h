@@ -47,6 +47,8 @@ public:
     // No printer can be selected from now on, as for a PPD without a queue; shows `text` instead.
     void setFixedText(const QString &text);
     QComboBox *box() const;
+    // Offers to add a printer, if the desktop has settings for printers. Call when the window is visible.
+    void offerToAdd();
     // Adds a widget at the end of the state line.
     void addBeside(QWidget *widget);
     // Hides the state of the printer to save space.
@@ -57,14 +59,18 @@ Q_SIGNALS:
     void picked(const QString &name);
     // The list was opened.
     void opened();
+    // Printers may have been added: the user has returned from the desktop's printer settings.
+    void listOutdated();
 
 protected:
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void muteState();
     void showRow(int row);
     void orderRecent();
+    void openSettings();
     void describe(const Destination &printer);
 
     PrinterList *m_list;
@@ -73,6 +79,7 @@ private:
     QString m_current;                   // destination name
     std::optional<QStringList> m_recent; // until the list has been sorted accordingly
     bool m_isFixed = false;
+    bool m_isInSettings = false; // until the window is active again
 };
 
 } // namespace host

@@ -21,6 +21,7 @@ PrinterStatusPoller::PrinterStatusPoller(PrintSystem &system, PrinterPicker *pic
     : m_system(system), m_picker(picker)
 {
     connect(m_picker, &PrinterPicker::opened, this, &PrinterStatusPoller::searchNetwork);
+    connect(m_picker, &PrinterPicker::listOutdated, this, &PrinterStatusPoller::loadList);
     connect(&m_stateTimer, &QTimer::timeout, this, &PrinterStatusPoller::askState);
 }
 
