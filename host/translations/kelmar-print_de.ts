@@ -2512,7 +2512,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>&amp;Add Printer…</source>
-        <translation>Drucker &amp;hinzufügen…</translation>
+        <translation>Drucker &amp;hinzufügen …</translation>
     </message>
 </context>
 <context>
