@@ -19,9 +19,10 @@ namespace host {
 namespace {
 
 constexpr int thumbnailsAtOnce = 12;
-constexpr int pagesRoom = 48 * 1024;      // kilobytes
-constexpr int thumbnailsRoom = 24 * 1024; // kilobytes
-constexpr int mostPixels = 2000;          // of an image's side; smaller images are requested
+constexpr int pagesRoom = 64 * 1024;                // kilobytes
+constexpr int thumbnailsRoom = 24 * 1024;           // kilobytes
+constexpr int mostPixels = Preview::mostPixels + 1; // of an image's side, rounded up
+static_assert(mostPixels * mostPixels / 256 < pagesRoom, "one page, with 4 bytes a pixel, must have space");
 constexpr int mostPages = 1'000'000;
 
 const QString renderer = QStringLiteral("pdftoppm");
@@ -250,16 +251,22 @@ QImage Preview::upright(const QImage *picture) const
     return rotation % 180 == 0 ? *picture : picture->transformed(QTransform().rotate(-rotation));
 }
 
+bool Preview::setPagePixels(int pixels)
+{
+    const int wanted = std::clamp(pixels, pagePixels, mostPixels);
+    return wanted != std::exchange(m_pagePixels, wanted);
+}
+
 QImage Preview::page(int index)
 {
     m_lookedAt = index;
-    if (const QImage *known = m_facts ? m_pages.object(index) : nullptr)
-        return upright(known);
-    if (m_pages.contains(index))
-        return {};
-    m_wantedPage = index;
-    renderNext();
-    return {};
+    const QImage known = m_pages.contains(index) ? *m_pages.object(index) : QImage();
+    const bool isSmall = !known.isNull() && qMax(known.width(), known.height()) < m_pagePixels;
+    if (!m_pages.contains(index) || isSmall) {
+        m_wantedPage = index;
+        renderNext();
+    }
+    return known.isNull() || !m_facts ? QImage() : upright(&known);
 }
 
 QImage Preview::thumbnail(int index)
@@ -286,9 +293,10 @@ void Preview::renderNext()
     if (!m_isWatched || !m_pdf)
         return;
     // the current run is for a page that is no longer needed
-    if (m_wantedPage >= 0 && m_pageUnderWay != m_wantedPage) {
+    if (m_wantedPage >= 0 && (m_pageUnderWay != m_wantedPage || m_pixelsUnderWay != m_pagePixels)) {
         m_pageUnderWay = m_wantedPage;
-        render(&m_pageRenderer, m_pageUnderWay, m_pageUnderWay, pagePixels);
+        m_pixelsUnderWay = m_pagePixels;
+        render(&m_pageRenderer, m_pageUnderWay, m_pageUnderWay, m_pixelsUnderWay);
     }
     if (m_facts && m_wantedThumbnail >= m_facts->pages) // there were more pages when it was requested
         m_wantedThumbnail = -1;
@@ -308,6 +316,11 @@ void Preview::keepPage(const SharedFile &output)
     const QList<QImage> pictures = readPictures(output);
     // A page that cannot be rendered is not tried again.
     const QImage picture = pictures.isEmpty() ? QImage() : pictures.first();
+    if (const QImage *smaller = m_pages.object(index); picture.isNull() && smaller && !smaller->isNull()) {
+        m_pagePixels = qMax(smaller->width(), smaller->height()); // as large as it can be rendered
+        renderNext();
+        return;
+    }
     m_pages.insert(index, new QImage(picture), 1 + picture.sizeInBytes() / 1024);
     if (picture.isNull() && index == 0) {
         const QString problem = m_pageRenderer.problem();

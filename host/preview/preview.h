@@ -52,12 +52,17 @@ public:
     // Why nothing can be shown; null if pages are shown, or will be.
     const QString &problem() const { return m_problem; }
 
-    // A page in its layout orientation, of about this height or width in pixels, whichever is larger. Null if
-    // it has to be rendered, which starts now: pageMade() follows. The last request of each size is processed
-    // first.
+    // The height or width of pages in pixels, whichever is larger: pagePixels to mostPixels. Pages that were
+    // rendered smaller are rendered again when they are requested. False if nothing has changed.
+    bool setPagePixels(int pixels);
+
+    // A page in its layout orientation, of about that size; meanwhile a smaller one. If it has to be
+    // rendered, that starts now, and pageMade() follows; null if there is no smaller one. The last request of
+    // each size is processed first.
     QImage page(int index);
     QImage thumbnail(int index);
     static constexpr int pagePixels = 900;
+    static constexpr int mostPixels = 3600;
     static constexpr int thumbnailPixels = 120;
 
 Q_SIGNALS:
@@ -101,6 +106,8 @@ private:
     bool m_isAsPrinted = true;
     std::optional<PageFacts> m_facts;
     QString m_problem;
+    int m_pagePixels = pagePixels;
+    int m_pixelsUnderWay = 0;
     QCache<int, QImage> m_pages, m_thumbnails; // cost in kilobytes
     int m_lookedAt = -1;                       // the page that was requested last
     int m_wantedPage = -1, m_wantedThumbnail = -1;

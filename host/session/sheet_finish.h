@@ -24,7 +24,8 @@ struct SheetFinish
     Binding binding = Binding::None; // the edge on which two-sided pages are turned
     QList<QLineF> staples;
     QList<QPointF> holes;
-    bool isSaddleStitched = false; // folded in the middle of its long edge, with two staples in the fold
+    bool isFolded = false;         // in the middle of its long edge, as a booklet
+    bool isSaddleStitched = false; // folded, with two staples in the fold
 
     bool isTwoSided() const { return binding != Binding::None; }
     // The same staples and holes on the back of the sheet.

@@ -586,6 +586,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Your name or number for the account. It is not stored.</source>
         <translation>Ihr Name oder Ihre Nummer für das Konto. Wird nicht gespeichert.</translation>
     </message>
+    <message>
+        <source>Arranges the pages for sheets that are folded together in the middle: two pages on each side, four on each sheet.</source>
+        <translation>Ordnet die Seiten für Blätter an, die zusammen in der Mitte gefaltet werden: zwei Seiten auf jeder Blattseite, vier auf jedem Blatt.</translation>
+    </message>
+    <message>
+        <source>Folds the sheets of a booklet and staples them in the fold.</source>
+        <translation>Faltet die Blätter einer Broschüre und heftet sie im Falz.</translation>
+    </message>
+    <message>
+        <source>Prints each page reversed from left to right, for example on transfer paper.</source>
+        <translation>Druckt jede Seite seitenverkehrt, zum Beispiel auf Transferpapier.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -786,6 +798,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Spiegelbild</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1554,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 takes at most %2 characters.</source>
         <translation>%1 nimmt höchstens %2 Zeichen an.</translation>
     </message>
+    <message>
+        <source>“%1” is not available for a booklet, whose sheets are turned on the short edge.</source>
+        <translation>„%1“ ist für eine Broschüre nicht möglich, denn ihre Blätter werden an der kurzen Kante gewendet.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -2084,6 +2108,18 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Spiegelbild</translation>
+    </message>
+    <message>
+        <source>Saddle stitching</source>
+        <translation>Rückenheftung</translation>
+    </message>
 </context>
 <context>
     <name>host::LimitedProcess</name>
@@ -2215,6 +2251,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
         <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Das Dokument hat nur %1 Seiten.</translation>
+    </message>
+    <message>
+        <source>the print server cannot arrange PostScript documents as a booklet</source>
+        <translation>der Druckserver kann PostScript-Dokumente nicht als Broschüre anordnen</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2453,28 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Not printed</source>
         <translation>Wird nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>The size relative to the whole page</source>
+        <translation>Größe im Verhältnis zur ganzen Seite</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>action, keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>magnification</comment>
+        <translation>%1×</translation>
     </message>
 </context>
 <context>

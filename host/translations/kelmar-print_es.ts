@@ -586,6 +586,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Your name or number for the account. It is not stored.</source>
         <translation>Su nombre o número para la cuenta. No se guarda.</translation>
     </message>
+    <message>
+        <source>Arranges the pages for sheets that are folded together in the middle: two pages on each side, four on each sheet.</source>
+        <translation>Dispone las páginas para hojas que se doblan juntas por la mitad: dos páginas por cara, cuatro por hoja.</translation>
+    </message>
+    <message>
+        <source>Folds the sheets of a booklet and staples them in the fold.</source>
+        <translation>Dobla las hojas de un folleto y las grapa por el pliegue.</translation>
+    </message>
+    <message>
+        <source>Prints each page reversed from left to right, for example on transfer paper.</source>
+        <translation>Imprime cada página invertida de izquierda a derecha, por ejemplo en papel de transferencia.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -786,6 +798,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Off</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Imagen reflejada</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1554,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1 takes at most %2 characters.</source>
         <translation>%1 acepta como máximo %2 caracteres.</translation>
     </message>
+    <message>
+        <source>“%1” is not available for a booklet, whose sheets are turned on the short edge.</source>
+        <translation>«%1» no es posible para un folleto, cuyas hojas se giran por el borde corto.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -2084,6 +2108,18 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>No disponible mientras «%1» esté en «%2».</translation>
     </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Imagen reflejada</translation>
+    </message>
+    <message>
+        <source>Saddle stitching</source>
+        <translation>Grapado a caballete</translation>
+    </message>
 </context>
 <context>
     <name>host::LimitedProcess</name>
@@ -2215,6 +2251,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
         <translation>Con estos ajustes no queda ninguna página por imprimir: el documento solo tiene %1 páginas.</translation>
+    </message>
+    <message>
+        <source>the print server cannot arrange PostScript documents as a booklet</source>
+        <translation>el servidor de impresión no puede disponer como folleto los documentos PostScript</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2453,28 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Not printed</source>
         <translation>No se imprime</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>The size relative to the whole page</source>
+        <translation>Tamaño respecto a la página completa</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>action, keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>magnification</comment>
+        <translation>%1×</translation>
     </message>
 </context>
 <context>

@@ -586,6 +586,18 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Your name or number for the account. It is not stored.</source>
         <translation>Votre nom ou votre numéro pour le compte. Il n’est pas enregistré.</translation>
     </message>
+    <message>
+        <source>Arranges the pages for sheets that are folded together in the middle: two pages on each side, four on each sheet.</source>
+        <translation>Dispose les pages pour des feuilles pliées ensemble au milieu&#xa0;: deux pages par face, quatre par feuille.</translation>
+    </message>
+    <message>
+        <source>Folds the sheets of a booklet and staples them in the fold.</source>
+        <translation>Plie les feuilles d’un livret et les agrafe dans le pli.</translation>
+    </message>
+    <message>
+        <source>Prints each page reversed from left to right, for example on transfer paper.</source>
+        <translation>Imprime chaque page inversée de gauche à droite, par exemple sur du papier transfert.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -786,6 +798,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Off</source>
         <translation>Non</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Image en miroir</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1554,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>%1 takes at most %2 characters.</source>
         <translation>%1 accepte au plus %2 caractères.</translation>
     </message>
+    <message>
+        <source>“%1” is not available for a booklet, whose sheets are turned on the short edge.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas possible pour un livret, dont les feuilles se tournent sur le bord court.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -2084,6 +2108,18 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Image en miroir</translation>
+    </message>
+    <message>
+        <source>Saddle stitching</source>
+        <translation>Piqûre à cheval</translation>
+    </message>
 </context>
 <context>
     <name>host::LimitedProcess</name>
@@ -2215,6 +2251,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
         <translation>Avec ces réglages, il ne reste aucune page à imprimer : le document n’a que %1 pages.</translation>
+    </message>
+    <message>
+        <source>the print server cannot arrange PostScript documents as a booklet</source>
+        <translation>le serveur d’impression ne peut pas disposer en livret les documents PostScript</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2453,28 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Not printed</source>
         <translation>Non imprimée</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>The size relative to the whole page</source>
+        <translation>Taille par rapport à la page entière</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>action, keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>magnification</comment>
+        <translation>%1×</translation>
     </message>
 </context>
 <context>

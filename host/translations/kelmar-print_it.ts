@@ -586,6 +586,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Your name or number for the account. It is not stored.</source>
         <translation>Il nome o il numero utente per l’account. Non viene memorizzato.</translation>
     </message>
+    <message>
+        <source>Arranges the pages for sheets that are folded together in the middle: two pages on each side, four on each sheet.</source>
+        <translation>Dispone le pagine per fogli piegati insieme a metà: due pagine per facciata, quattro per foglio.</translation>
+    </message>
+    <message>
+        <source>Folds the sheets of a booklet and staples them in the fold.</source>
+        <translation>Piega i fogli di un opuscolo e li pinza lungo la piega.</translation>
+    </message>
+    <message>
+        <source>Prints each page reversed from left to right, for example on transfer paper.</source>
+        <translation>Stampa ogni pagina invertita da sinistra a destra, per esempio su carta transfer.</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -786,6 +798,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Off</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Opuscolo</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Immagine speculare</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1554,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1 takes at most %2 characters.</source>
         <translation>%1 accetta al massimo %2 caratteri.</translation>
     </message>
+    <message>
+        <source>“%1” is not available for a booklet, whose sheets are turned on the short edge.</source>
+        <translation>“%1” non è possibile per un opuscolo, i cui fogli si girano sul lato corto.</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -2084,6 +2108,18 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
     </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Opuscolo</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Immagine speculare</translation>
+    </message>
+    <message>
+        <source>Saddle stitching</source>
+        <translation>Pinzatura a sella</translation>
+    </message>
 </context>
 <context>
     <name>host::LimitedProcess</name>
@@ -2215,6 +2251,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
         <translation>Con queste impostazioni non resta alcuna pagina da stampare: il documento ha solo %1 pagine.</translation>
+    </message>
+    <message>
+        <source>the print server cannot arrange PostScript documents as a booklet</source>
+        <translation>il server di stampa non può disporre come opuscolo i documenti PostScript</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2453,28 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Not printed</source>
         <translation>Non stampata</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>The size relative to the whole page</source>
+        <translation>Dimensioni rispetto alla pagina intera</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>action, keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>magnification</comment>
+        <translation>%1×</translation>
     </message>
 </context>
 <context>

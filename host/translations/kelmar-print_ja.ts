@@ -586,6 +586,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Your name or number for the account. It is not stored.</source>
         <translation>アカウントで使用する名前または番号です。保存されません。</translation>
     </message>
+    <message>
+        <source>Arranges the pages for sheets that are folded together in the middle: two pages on each side, four on each sheet.</source>
+        <translation>重ねて中央で折る用紙に合わせてページを配置します。片面に 2 ページ、用紙 1 枚に 4 ページです。</translation>
+    </message>
+    <message>
+        <source>Folds the sheets of a booklet and staples them in the fold.</source>
+        <translation>小冊子の用紙を折り、折り目をステープルでとじます。</translation>
+    </message>
+    <message>
+        <source>Prints each page reversed from left to right, for example on transfer paper.</source>
+        <translation>各ページを左右反転して印刷します。転写紙などに使います。</translation>
+    </message>
 </context>
 <context>
     <name>ExtensionsText</name>
@@ -786,6 +798,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Off</source>
         <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>左右反転</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1554,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 takes at most %2 characters.</source>
         <translation>%1 に指定できるのは %2 文字までです。</translation>
     </message>
+    <message>
+        <source>“%1” is not available for a booklet, whose sheets are turned on the short edge.</source>
+        <translation>小冊子の用紙は短辺で裏返すため、“%1” は選べません。</translation>
+    </message>
 </context>
 <context>
     <name>StoreText</name>
@@ -2084,6 +2108,18 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
         <translation>「%1」が「%2」のときは使用できません。</translation>
     </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Saddle stitching</source>
+        <translation>中とじ</translation>
+    </message>
 </context>
 <context>
     <name>host::LimitedProcess</name>
@@ -2215,6 +2251,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
         <translation>この設定では、印刷するページがありません。文書は %1 ページしかありません。</translation>
+    </message>
+    <message>
+        <source>the print server cannot arrange PostScript documents as a booklet</source>
+        <translation>プリントサーバーは PostScript 文書を小冊子に配置できません</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2453,28 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Not printed</source>
         <translation>印刷されません</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>The size relative to the whole page</source>
+        <translation>ページ全体の表示を 1 とする倍率</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>action, keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1×</source>
+        <comment>magnification</comment>
+        <translation>%1 倍</translation>
     </message>
 </context>
 <context>

@@ -74,7 +74,6 @@ private Q_SLOTS:
     void hostileProgramsAreRefused();
     void hostileDocumentIsRefused();
     void thousandsOfPages();
-    void fewerPagesThanBefore();
     void endsWhenHidden();
     void writesPdf();
     void keepsWhatItCannotReplace();
@@ -115,6 +114,9 @@ void PreviewTest::showsWhatIsPrinted_data()
     QTest::newRow("PDF") << u"report.pdf"_s << PageSettings{{}, a4} << 2 << 2 << A4;
     QTest::newRow("two a side") << u"report.pdf"_s << PageSettings{{{u"number-up"_s, u"2"_s}}, a4} << 2 << 1
                                 << QSize(210, 297);
+    const PageSettings booklet{{{u"booklet"_s, u"true"_s}}, a4}, mirrored{{{u"mirror"_s, u"true"_s}}, a4};
+    QTest::newRow("booklet") << u"report.pdf"_s << booklet << 2 << 2 << QSize(297, 210);
+    QTest::newRow("mirrored") << u"report.pdf"_s << mirrored << 2 << 2 << A4;
     QTest::newRow("odd") << u"report.pdf"_s << PageSettings{{{u"page-set"_s, u"odd"_s}}, a4} << 2 << 1 << A4;
     QTest::newRow("range") << u"report.pdf"_s << PageSettings{{{u"page-ranges"_s, u"2"_s}}, a4} << 2 << 1
                            << A4;
@@ -152,15 +154,18 @@ void PreviewTest::showsWhatIsPrinted()
     const double upright = double(size.width()) / size.height();
     QVERIFY2(qAbs(ratio - upright) < 0.01 || qAbs(ratio - 1 / upright) < 0.02,
              qPrintable(QString::number(ratio)));
-    bool isColored = false, isWritten = false;
+    bool isColored = false;
+    int left = 0, right = 0; // dark pixels
     for (int y = 0; y < page.height(); ++y) {
         for (int x = 0; x < page.width(); ++x) {
             const QRgb pixel = page.pixel(x, y);
             isColored |= qRed(pixel) != qGreen(pixel) || qGreen(pixel) != qBlue(pixel);
-            isWritten |= qGray(pixel) < 128;
+            (x < page.width() / 2 ? left : right) += qGray(pixel) < 128;
         }
     }
-    QVERIFY(isWritten);
+    QVERIFY(left + right > 0);
+    if (sides == pages && document.startsWith(u"report") && size == QSize(210, 297)) // is aligned at the left
+        QCOMPARE(right > left, settings.optionText().contains(u"mirror"));
     if (document == u"picture.png"_s)
         QCOMPARE(isColored, !settings.isMonochrome);
 }
@@ -178,12 +183,17 @@ void PreviewTest::saysWhetherAnythingIsPrinted_data()
                                     << noPage + u"to print: the document has only 2 pages."_s;
     QTest::newRow("sides") << report << QStringList{u"page-ranges=2"_s, u"number-up=2"_s}
                            << noPage + u"to print: there is only one printed side."_s;
+    const QString booklet = u"booklet=true"_s;
+    QTest::newRow("booklet") << report << QStringList{u"page-ranges=3"_s, booklet}
+                             << noPage + u"to print: there are only 2 printed sides."_s;
     QTest::newRow("even of one") << QStringList{u"note.txt"_s} << QStringList{u"page-set=even"_s}
                                  << noPage + u"to print: the document has only one page."_s;
     QTest::newRow("even in a range") << report << QStringList{u"page-set=even"_s, u"page-ranges=1"_s}
                                      << noPage + u"to print: the document has only 2 pages."_s;
     QTest::newRow("PostScript") << QStringList{u"report.ps"_s} << QStringList{u"page-ranges=3"_s}
                                 << noPage + u"to print: the document has only 2 pages."_s;
+    QTest::newRow("PostScript booklet") << QStringList{u"report.ps"_s} << QStringList{booklet}
+                                        << u"“Letter” cannot be printed: the print server"_s;
     QTest::newRow("picture") << QStringList{u"picture.png"_s} << QStringList{u"page-ranges=3"_s} << QString();
     QTest::newRow("one of two") << QStringList{u"report.pdf"_s, u"note.txt"_s}
                                 << QStringList{u"page-ranges=2"_s} << QString();
@@ -401,21 +411,6 @@ void PreviewTest::thousandsOfPages()
     QTRY_COMPARE(made.count(), 1);
     QCOMPARE(made.first(), (QVariantList{4995, 4999}));
     QVERIFY(!preview.thumbnail(4999).isNull());
-}
-
-void PreviewTest::fewerPagesThanBefore()
-{
-    fakeAll();
-    fake(u"pdfinfo"_s, "echo 'Pages:  40'\n");
-    Preview preview({{m_folder->path()}});
-    preview.setWatched(true);
-    preview.setDocument(demo(u"report.pdf"_s));
-    QTRY_VERIFY(preview.facts());
-    (void)preview.thumbnail(30); // still requested when there are fewer pages
-    fake(u"pdfinfo"_s, "echo 'Pages:  10'\n");
-    preview.setSettings({{{u"number-up"_s, u"4"_s}}, {}});
-    QTRY_VERIFY(preview.facts() && preview.facts()->pages == 10);
-    QTRY_VERIFY(!preview.thumbnail(0).isNull());
 }
 
 void PreviewTest::endsWhenHidden()

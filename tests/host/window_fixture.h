@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/preview/page_tools.h"
 #include "host/window/print_window.h"
 #include "platform/background.h"
 #include "tests/host/host_fixture.h"
@@ -57,6 +58,34 @@ protected:
             qFatal("the window does not appear");
         settle();
         return *m_window;
+    }
+    host::PrintWindow &openTask(const host::PrintTask &task, const QSize &room = {1200, 900})
+    {
+        m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
+        m_window->setRoom(room);
+        host::PrintError error;
+        if (!m_window->open(&error))
+            qFatal("%s", qPrintable(error.message));
+        m_window->show();
+        m_window->finishLater();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the window does not appear");
+        settle();
+        return *m_window;
+    }
+    host::PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900},
+                                const QString &title = {})
+    {
+        host::PrintTask task;
+        task.files = files;
+        task.title = title;
+        return openTask(task, room);
+    }
+    static bool hasPreview()
+    {
+        const host::PageTools tools = host::PageTools::installed();
+        return !tools.path(QStringLiteral("pdftopdf")).isEmpty() &&
+               !tools.path(QStringLiteral("pdftoppm")).isEmpty();
     }
     // Waits until the print system has answered all requests on worker threads, and the window has received
     // the results.

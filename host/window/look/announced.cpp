@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-const char *const announcedProperty = "kelmarAnnounced";
+const char *const roleProperty = "kelmarRole";
 
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
@@ -20,21 +20,31 @@ QAccessibleInterface *makeAccessible(const QString &, QObject *object)
     // and a screen reader may query a scroll bar that was just removed.
     if (qobject_cast<QScrollArea *>(widget))
         return new QAccessibleWidget(widget, QAccessible::Pane);
-    return widget && widget->property(announcedProperty).isValid()
-               ? new QAccessibleWidget(widget, QAccessible::Notification)
-               : nullptr;
+    const QVariant role = widget ? widget->property(roleProperty) : QVariant();
+    return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()))
+                          : nullptr;
 }
 
-} // namespace
-
-void makeAnnounced(QWidget *widget)
+void setRole(QWidget *widget, QAccessible::Role role)
 {
     static const bool installed = [] {
         QAccessible::installFactory(makeAccessible);
         return true;
     }();
     Q_UNUSED(installed)
-    widget->setProperty(announcedProperty, true);
+    widget->setProperty(roleProperty, static_cast<int>(role));
+}
+
+} // namespace
+
+void makeAnnounced(QWidget *widget)
+{
+    setRole(widget, QAccessible::Notification);
+}
+
+void makeImage(QWidget *widget)
+{
+    setRole(widget, QAccessible::Graphic);
 }
 
 void announce(QWidget *widget, const QString &text)

@@ -11,8 +11,11 @@ namespace host {
 // announced without having the focus. Call when the widget is created.
 void makeAnnounced(QWidget *widget);
 
-// Sets the accessible name of such a widget, and has it announced: at once if it is visible, else when it
-// appears.
+// Makes a widget one image for screen readers, whatever it is made of. Call when the widget is created.
+void makeImage(QWidget *widget);
+
+// Sets the accessible name of a widget that is announced, and has it announced: at once if it is visible,
+// else when it appears.
 void announce(QWidget *widget, const QString &text);
 
 } // namespace host

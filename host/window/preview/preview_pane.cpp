@@ -6,6 +6,7 @@
 #include "host/preview/preview.h"
 #include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
+#include "host/window/look/announced.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/preview/preview_sheet.h"
@@ -14,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -24,14 +26,20 @@ namespace {
 constexpr double millimetres = 25.4 / 72; // per point
 const QString rangesName = QStringLiteral("page-ranges");
 
-QToolButton *pageButton(Qt::ArrowType arrow, const QString &name, QWidget *parent)
+QToolButton *flatButton(const QString &name, QWidget *parent)
 {
     auto *button = new QToolButton(parent);
-    button->setArrowType(arrow);
     button->setAutoRaise(true);
     button->setToolTip(name);
     button->setAccessibleName(name);
     button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QToolButton *pageButton(Qt::ArrowType arrow, const QString &name, QWidget *parent)
+{
+    auto *button = flatButton(name, parent);
+    button->setArrowType(arrow);
     return button;
 }
 
@@ -63,6 +71,10 @@ void PreviewPane::build()
 {
     setWhatsThis(explanationOf(QStringLiteral("preview")));
     m_sheet = new PreviewSheet(this);
+    auto *zoom = new QHBoxLayout;
+    zoom->setSpacing(2);
+    zoom->addStretch(1);
+    buildZoom(zoom);
     m_back = pageButton(Qt::LeftArrow, tr("Page before"), this);
     m_forth = pageButton(Qt::RightArrow, tr("Page after"), this);
     m_caption = new QLabel(this);
@@ -75,7 +87,9 @@ void PreviewPane::build()
     row->addWidget(m_caption, 1);
     row->addWidget(m_forth);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(8, 12, 8, 8);
+    column->setContentsMargins(8, 8, 8, 8);
+    column->setSpacing(4);
+    column->addLayout(zoom);
     column->addWidget(m_sheet, 1);
     column->addLayout(row);
     column->addWidget(m_strip);
@@ -89,6 +103,62 @@ void PreviewPane::build()
     connect(m_forth, &QToolButton::clicked, this, [this] { m_strip->setCurrent(m_page + 1); });
     connect(m_strip, &PreviewStrip::picked, this, &PreviewPane::showPage);
     connect(m_strip, &PreviewStrip::toggled, this, &PreviewPane::toggle);
+}
+
+// The smaller sizes are on the left, as in a scale. The keys are those of document viewers.
+void PreviewPane::buildZoom(QHBoxLayout *row)
+{
+    const auto keys = [](std::initializer_list<QKeyCombination> all) {
+        return QList<QKeySequence>(all.begin(), all.end());
+    };
+    struct Action
+    {
+        QString name;
+        QChar sign;
+        QList<QKeySequence> keys;
+        int steps; // 0 for the size of the whole page
+    };
+    m_zoom = new QLabel(this);
+    makeAnnounced(m_zoom);
+    m_zoom->setToolTip(tr("The size relative to the whole page"));
+    row->addWidget(m_zoom);
+    const QList<Action> actions{
+        {tr("Zoom out"), QChar(0x2212), keys({Qt::CTRL | Qt::Key_Minus}), -1},
+        {tr("Zoom in"), QLatin1Char('+'), keys({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}), 1},
+        {{}, {}, keys({Qt::CTRL | Qt::Key_0}), 0}};
+    for (const Action &action : actions) {
+        const auto zoom = [this, steps = action.steps] {
+            steps == 0 ? m_sheet->zoomToFit() : m_sheet->zoomBy(steps);
+            announce(m_zoom, m_zoom->text());
+        };
+        for (const QKeySequence &key : action.keys)
+            connect(new QShortcut(key, this), &QShortcut::activated, this, zoom);
+        if (action.sign.isNull())
+            continue;
+        auto *button = flatButton(action.name, this);
+        button->setText(action.sign);
+        button->setToolTip(tr("%1 (%2)", "action, keys")
+                               .arg(action.name, action.keys.first().toString(QKeySequence::NativeText)));
+        row->insertWidget(action.steps < 0 ? 1 : row->count(), button);
+        (action.steps < 0 ? m_smaller : m_larger) = button;
+        connect(button, &QToolButton::clicked, this, zoom);
+    }
+    connect(m_sheet, &PreviewSheet::scaled, this, &PreviewPane::renderSharp);
+    renderSharp();
+}
+
+// Requests the page again if it is now shown larger than it was rendered. The image is kept meanwhile.
+void PreviewPane::renderSharp()
+{
+    m_zoom->setText(tr("%1×", "magnification").arg(QLocale().toString(m_sheet->zoom())));
+    // A button with the focus would lose it if it were disabled.
+    m_smaller->setEnabled(m_sheet->canZoom(-1) || m_smaller->hasFocus());
+    m_larger->setEnabled(m_sheet->canZoom(1) || m_larger->hasFocus());
+    int pixels = Preview::pagePixels; // doubled, so that few sizes are rendered
+    while (pixels < m_sheet->pixels())
+        pixels *= 2;
+    if (m_preview->setPagePixels(pixels) && !m_picture.isEmpty())
+        (void)m_preview->page(m_page);
 }
 
 void PreviewPane::look()

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QToolButton;
 
@@ -44,6 +45,8 @@ protected:
 
 private:
     void build();
+    void buildZoom(QHBoxLayout *row);
+    void renderSharp();
     void look();
     void factsChanged();
     void showPage(int page);
@@ -64,6 +67,9 @@ private:
     QSize m_picture; // of that page in its orientation; empty while it is not available
     PreviewSheet *m_sheet = nullptr;
     QLabel *m_caption = nullptr;
+    QLabel *m_zoom = nullptr;
+    QToolButton *m_smaller = nullptr;
+    QToolButton *m_larger = nullptr;
     QToolButton *m_back = nullptr;
     QToolButton *m_forth = nullptr;
     PreviewStrip *m_strip = nullptr;
