@@ -21,13 +21,14 @@ struct PolicySystemText
 bool isHarmless(const QString &name)
 {
     static const QStringList names =
-        QStringLiteral("collate columns copies cpi fit-to-page fitplot fill crop-to-fit job-account-id "
-                       "job-accounting-user-id job-billing job-cancel-after job-hold-until job-name "
-                       "job-password job-password-encryption job-priority job-sheets landscape lpi "
-                       "mirror multiple-document-handling natural-scaling number-up number-up-layout "
-                       "orientation-requested outputorder page-border page-bottom page-left "
-                       "page-ranges page-right page-set page-top position ppi prettyprint "
-                       "print-scaling scaling wrap")
+        QStringLiteral(
+            "booklet collate columns copies cpi fit-to-page fitplot fill crop-to-fit job-account-id "
+            "job-accounting-user-id job-billing job-cancel-after job-hold-until job-name "
+            "job-password job-password-encryption job-priority job-sheets landscape lpi "
+            "mirror multiple-document-handling natural-scaling number-up number-up-layout "
+            "orientation-requested outputorder page-border page-bottom page-left "
+            "page-ranges page-right page-set page-top position ppi prettyprint "
+            "print-scaling scaling wrap")
             .split(QLatin1Char(' '));
     return names.contains(name.toLower());
 }
@@ -40,6 +41,8 @@ QMap<QString, QString> choicesOf(PpdDocument *ppd, const QString &name, const QS
         return {{QStringLiteral("Collate"), isOn(!value.contains(QLatin1String("uncollated")))}};
     if (name.compare(QLatin1String("mirror"), Qt::CaseInsensitive) == 0)
         return {{QStringLiteral("MirrorPrint"), isOn(switchValue(value).value_or(true))}};
+    if (name.compare(QLatin1String("booklet"), Qt::CaseInsensitive) == 0 && switchValue(value).value_or(true))
+        return ppd->standardChoices(QStringLiteral("sides"), QStringLiteral("two-sided-short-edge"));
     if (!ppd->hasOption(name))
         return ppd->standardChoices(name, value);
     const auto option = ppd->option(name);

@@ -133,6 +133,9 @@ void PageCounter::begin(const QStringList &paths, const PageSettings &settings, 
     m_ranges = valueOf(settings, ranges);
     m_pageSet = valueOf(settings, pageSet);
     m_pagesPerSide = qMax(1, valueOf(settings, QStringLiteral("number-up")).toInt());
+    m_isBooklet = valueOf(settings, QStringLiteral("booklet")) == QLatin1String("true");
+    if (m_isBooklet)
+        m_pagesPerSide = 2;
     const bool choosesPages = !m_ranges.isEmpty() || isInSet(1, m_pageSet) != isInSet(2, m_pageSet);
     m_isEachCounted = isEachCounted || choosesPages;
     if (m_step == Step::Idle && !m_tools.path(counter).isEmpty())
@@ -156,11 +159,16 @@ PageVerdict PageCounter::verdict() const
         if (!isKnown(path))
             return {PageVerdict::Kind::Pending};
         const Known known = m_known.value(path);
-        if (!known.problem.isNull()) {
+        // The filter for PostScript printers would send the pages one by one.
+        const QString problem = m_isBooklet && known.isPostScript
+                                    ? tr("the print server cannot arrange PostScript documents as a booklet")
+                                    : known.problem;
+        if (!problem.isNull()) {
             const QString name = readableFileName(path.section(QLatin1Char('/'), -1));
-            return {PageVerdict::Kind::Unreadable, path, known.problem, unreadable(name, known.problem)};
+            return {PageVerdict::Kind::Unreadable, path, problem, unreadable(name, problem)};
         }
-        const int sides = (known.pages + m_pagesPerSide - 1) / m_pagesPerSide;
+        const int sides =
+            m_isBooklet ? (known.pages + 3) / 4 * 2 : (known.pages + m_pagesPerSide - 1) / m_pagesPerSide;
         most = qMax(most, sides);
         isPagePrinted = isPagePrinted || sides == 0 || known.isPicture;
         for (int side = 1; side <= sides && !isPagePrinted; ++side)
@@ -214,7 +222,8 @@ void PageCounter::opened(const Opened &opened)
     m_result.isPicture = document.format.startsWith(QLatin1String("image/"));
     m_isPdf = isPdf(document);
     m_isReadable = false;
-    m_result.usesSettings = !m_isPdf && !isA(document, QStringLiteral("application/postscript"));
+    m_result.isPostScript = !m_isPdf && isA(document, QStringLiteral("application/postscript"));
+    m_result.usesSettings = !m_isPdf && !m_result.isPostScript;
     m_result.wasSkipped = !m_isPdf && !m_isEachCounted;
     if (m_result.wasSkipped) {
         finish();

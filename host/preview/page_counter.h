@@ -65,6 +65,7 @@ private:
         int pages = 0;
         QString problem = {}; // why it cannot be printed, the end of a sentence; null if it can
         bool hasSeveralSizes = false;
+        bool isPostScript = false;
         bool isPicture = false;  // its only page is printed whatever pages are selected
         bool wasSkipped = false; // because only the verdict was requested
         bool usesSettings = false;
@@ -94,6 +95,7 @@ private:
     PageSettings m_settings;     // without those that select pages
     QString m_ranges, m_pageSet; // the selected pages
     int m_pagesPerSide = 1;
+    bool m_isBooklet = false; // both sides of all sheets are printed
     bool m_isEachCounted = true;
     QStringList m_wanted;
     QHash<QString, Known> m_known; // by path; includes documents that cannot be counted

@@ -3,6 +3,7 @@
 
 #include "host/session/forced_choice.h"
 
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/protection_checks.h"
 
@@ -55,6 +56,12 @@ ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const 
     forced.wanted = ppd->described(keyword, choice);
     forced.locks = locksAgainst(*session, {forced.wanted});
     forced.obstacle = ppd->forbiddenChoices(keyword).value(choice);
+    if (session->general().layout.isBooklet() && choiceNotForBooklet(*session, keyword) == choice) {
+        forced.obstacle = bookletChoice(true);
+        forced.before = {forced.obstacle};
+        forced.changes = {bookletChoice(false)};
+        return forced;
+    }
     if (forced.obstacle.option.isEmpty() || !forced.locks.isEmpty())
         return forced;
     const QString now = ppd->markedChoice(keyword);
@@ -79,7 +86,10 @@ ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const 
 void choose(DialogSession *session, const ForcedChoice &forced)
 {
     session->markChoice(forced.wanted.option, forced.wanted.choice);
-    session->apply(forced.changes);
+    Resolution changes = forced.changes;
+    if (changes.removeAll(bookletChoice(false)) > 0)
+        session->general().layout.reset(bookletChoice(false).option);
+    session->apply(changes);
 }
 
 } // namespace host

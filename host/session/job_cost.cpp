@@ -45,8 +45,7 @@ JobCost jobCost(const GeneralSettings &general, bool isTwoSided, const QList<int
 {
     JobCost cost;
     for (const int count : pages) {
-        const int perSide = general.layout.pagesPerSide();
-        const int sides = chosenSides(general, (count + perSide - 1) / perSide);
+        const int sides = chosenSides(general, general.layout.sidesOf(count));
         cost.sides += sides * general.copies;
         cost.sheets += (isTwoSided ? (sides + 1) / 2 : sides) * general.copies;
     }

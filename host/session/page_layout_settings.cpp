@@ -28,9 +28,11 @@ struct Setting
     QLatin1String usual; // the print system's default; empty for that of each document
     QLatin1String sent;  // sent to the server instead of an empty value
     const char *text;
+    QLatin1String keyword = {}; // of an option with which a PPD takes the place of this setting
 };
 
 constexpr std::array settings = {
+    Setting{"booklet"_L1, "false"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Booklet"), "Booklet"_L1},
     Setting{"number-up"_L1, "1"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Pages per side")},
     Setting{"number-up-layout"_L1, "lrtb"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Order")},
     Setting{"page-border"_L1, "none"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Border")},
@@ -38,6 +40,7 @@ constexpr std::array settings = {
     Setting{"print-scaling"_L1, {}, "auto"_L1, QT_TRANSLATE_NOOP("LayoutText", "Scaling")},
     Setting{"page-set"_L1, "all"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Odd or even")},
     Setting{"outputorder"_L1, "normal"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Last page first")},
+    Setting{"mirror"_L1, "false"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Mirror image"), "MirrorPrint"_L1},
 };
 
 struct Value
@@ -87,6 +90,10 @@ constexpr std::array values = {
     Value{"print-scaling"_L1, "none"_L1, QT_TRANSLATE_NOOP("LayoutText", "Actual size")},
     Value{"outputorder"_L1, "normal"_L1, QT_TRANSLATE_NOOP("LayoutText", "Off")},
     Value{"outputorder"_L1, "reverse"_L1, QT_TRANSLATE_NOOP("LayoutText", "On")},
+    Value{"booklet"_L1, "false"_L1, QT_TRANSLATE_NOOP("LayoutText", "Off")},
+    Value{"booklet"_L1, "true"_L1, QT_TRANSLATE_NOOP("LayoutText", "On")},
+    Value{"mirror"_L1, "false"_L1, QT_TRANSLATE_NOOP("LayoutText", "Off")},
+    Value{"mirror"_L1, "true"_L1, QT_TRANSLATE_NOOP("LayoutText", "On")},
 };
 
 // An older name for a value of a setting; its own values are True and False.
@@ -119,6 +126,18 @@ QStringList valuesOf(const QString &name, bool isForUsers)
             list.append(value.value);
     }
     return list;
+}
+
+const Setting *settingNamed(const QString &name)
+{
+    const auto known = std::find_if(settings.begin(), settings.end(),
+                                    [&](const Setting &setting) { return setting.name == name; });
+    return known == settings.end() ? nullptr : &*known;
+}
+
+bool isSwitch(const QString &name)
+{
+    return valuesOf(name, false) == QStringList{QStringLiteral("false"), QStringLiteral("true")};
 }
 
 } // namespace
@@ -162,10 +181,22 @@ bool PageLayoutSettings::covers(const QString &name)
     return names().contains(name) || olderNamed(name);
 }
 
+QString PageLayoutSettings::textOf(const QString &name)
+{
+    const Setting *setting = settingNamed(name);
+    return setting ? LayoutText::tr(setting->text) : QString();
+}
+
+QString PageLayoutSettings::keywordFor(const QString &name)
+{
+    const Setting *setting = settingNamed(name);
+    return setting ? QString(setting->keyword) : QString();
+}
+
 QString PageLayoutSettings::takes(const QString &name)
 {
-    return olderNamed(name) ? LayoutText::tr("True or False")
-                            : valuesOf(name, false).join(QStringLiteral(", "));
+    return olderNamed(name) || isSwitch(name) ? LayoutText::tr("True or False")
+                                              : valuesOf(name, false).join(QStringLiteral(", "));
 }
 
 bool PageLayoutSettings::set(const QString &name, const QString &value)
@@ -177,11 +208,20 @@ bool PageLayoutSettings::set(const QString &name, const QString &value)
             setting = *on ? QString(older->value) : QString();
         return on.has_value();
     }
-    const QString known = value.toLower();
+    QString known = value.toLower();
+    if (const auto on = isSwitch(name) ? switchValue(value) : std::nullopt)
+        known = *on ? QStringLiteral("true") : QStringLiteral("false");
     const bool isTaken = valuesOf(name, false).contains(known);
     if (isTaken)
         m_values.insert(name, known);
     return isTaken;
+}
+
+int PageLayoutSettings::sidesOf(int pages) const
+{
+    const int perSide = pagesPerSide();
+    const int perSheet = isBooklet() ? 2 * perSide : perSide; // both sides of its sheets are counted
+    return (pages + perSheet - 1) / perSheet * (perSheet / perSide);
 }
 
 void PageLayoutSettings::reset(const QString &name)
@@ -231,8 +271,11 @@ QList<SettingWords> PageLayoutSettings::inWords(bool withUsual) const
     QList<SettingWords> words;
     for (const Setting &setting : settings) {
         const QString now = value(setting.name);
+        const bool isInEffect = setting.name == "number-up-layout"_L1
+                                    ? pagesPerSide() > 1 && !isBooklet()
+                                    : !(isBooklet() && setting.name == "number-up"_L1);
         const bool isUsual =
-            setting.name == "number-up-layout"_L1 ? pagesPerSide() == 1 : now == setting.usual;
+            setting.name == "number-up-layout"_L1 ? !isInEffect : now == setting.usual || !isInEffect;
         if (withUsual || !isUsual)
             words.append({setting.name, LayoutText::tr(setting.text), layoutValueText(setting.name, now)});
     }
@@ -251,9 +294,8 @@ QString layoutValueText(const QString &name, const QString &value)
 bool isPageOption(const QString &name)
 {
     static const QStringList others =
-        QStringLiteral(
-            "mirror page-left page-right page-top page-bottom position scaling natural-scaling ppi "
-            "cpi lpi columns wrap prettyprint crop-to-fit")
+        QStringLiteral("page-left page-right page-top page-bottom position scaling natural-scaling ppi "
+                       "cpi lpi columns wrap prettyprint crop-to-fit")
             .split(QLatin1Char(' '));
     return PageLayoutSettings::covers(name) || others.contains(name);
 }

@@ -37,11 +37,19 @@ public:
     static QStringList offered(const QString &name);
     // Whether these settings determine a job option of this name, which may be an older one.
     static bool covers(const QString &name);
+    static QString textOf(const QString &name); // localised; empty for other names
+    // The keyword of an option with which some PPDs take the place of this setting; empty if there is none.
+    static QString keywordFor(const QString &name);
     // A description of the values that set() accepts for a name, for messages.
     static QString takes(const QString &name);
 
     QString value(const QString &name) const { return m_values.value(name); }
-    int pagesPerSide() const { return value(QStringLiteral("number-up")).toInt(); }
+    // Whether the pages are arranged on both sides of sheets that are folded in the middle. The number and
+    // the order of the pages per side then have no effect.
+    bool isBooklet() const { return value(QStringLiteral("booklet")) == QLatin1String("true"); }
+    int pagesPerSide() const { return isBooklet() ? 2 : value(QStringLiteral("number-up")).toInt(); }
+    // The number of printed sides of a document with this number of pages, before pages are selected.
+    int sidesOf(int pages) const;
     bool isReversed() const { return value(QStringLiteral("outputorder")) == QLatin1String("reverse"); }
     // Sets a job option. False, and without a change, if the name is unknown or the value invalid.
     bool set(const QString &name, const QString &value);

@@ -4,6 +4,7 @@
 #include "host/session/printed_pages.h"
 
 #include "host/printing/standard_names.h"
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 
 #include <algorithm>
@@ -43,6 +44,12 @@ PageSettings pageSettings(const DialogSession &session)
         const bool isKnown = isPageOption(option.name) || option.name == QLatin1String("page-ranges");
         if (isKnown && option.kind != JobOption::Kind::Shown)
             settings.options.append({option.name, option.value});
+    }
+    const PageLayoutSettings layout = layoutAsPrinted(session);
+    for (const QString &name : PageLayoutSettings::names()) {
+        if (layout.value(name) !=
+            session.general().layout.value(name)) // an option of the PPD takes its place
+            settings.options.append({name, layout.value(name)});
     }
     // The filters then print an empty side first if the number of sides is odd.
     if (session.general().layout.isReversed() && isTwoSided(session))

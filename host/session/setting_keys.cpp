@@ -4,6 +4,7 @@
 #include "host/session/setting_keys.h"
 
 #include "host/printing/option_text.h"
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
 #include "host/session/page_ranges.h"
@@ -39,6 +40,8 @@ QString usualName(const DialogSession &session, const QString &name)
     const QString size = QStringLiteral("PageSize");
     if (ppd && PpdDocument::optionsOfStandardName(lower) == QStringList(size))
         return size;
+    if (const QString keyword = PageLayoutSettings::keywordFor(lower); ppd && ppd->hasOption(keyword))
+        return ppd->option(keyword)->keyword;
     if (const auto option = ppd ? ppd->option(name) : std::nullopt; option && !GeneralSettings::covers(lower))
         return option->keyword;
     const bool isStandard = ppd && !PpdDocument::optionsOfStandardName(lower).isEmpty();
@@ -49,6 +52,32 @@ QString usualName(const DialogSession &session, const QString &name)
 bool isLayout(const DialogSession &session, const QString &key)
 {
     return PageLayoutSettings::covers(key) && !(session.ppd() && session.ppd()->hasOption(key));
+}
+
+// A booklet is turned on the short edge: it selects that, and no other choice is accepted afterwards.
+bool keepBooklet(DialogSession *session, const QString &key, PrintError *error)
+{
+    const bool isBooklet = key == QLatin1String("booklet");
+    if (!session->general().layout.isBooklet())
+        return true;
+    const auto sides = sidesForBooklet(*session);
+    if (!sides)
+        return true;
+    const QString &keyword = sides->option;
+    const bool isWrong = areSidesWrongForBooklet(*session);
+    const OptionChoice wrong =
+        isWrong ? session->ppd()->described(keyword, session->ppd()->markedChoice(keyword)) : OptionChoice();
+    if (isBooklet && !markSidesForBooklet(session)) {
+        session->general().layout.reset(QStringLiteral("booklet"));
+        *error = session->locks().refusal(session->ppd(), QStringLiteral("booklet"), QStringLiteral("true"));
+        return false;
+    }
+    if (!isWrong || isBooklet)
+        return true;
+    markSidesForBooklet(session);
+    return refuse(error, SettingText::tr("“%1” is not available for a booklet, whose sheets are turned on "
+                                         "the short edge.")
+                             .arg(wrong.text()));
 }
 
 bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintError *error)
@@ -182,15 +211,8 @@ bool setJobOption(DialogSession *session, const ChosenSetting &setting, PrintErr
     return true;
 }
 
-} // namespace
-
-bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
+bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError *error)
 {
-    ChosenSetting setting = wanted;
-    setting.key = usualName(*session, wanted.key);
-    setting.isSecret |= session->isSecret(setting.key);
-    if (printModeNames().contains(setting.key))
-        setting.kind = ChosenSetting::Kind::JobOption;
     const QString &key = setting.key, &value = setting.value;
     const bool isHandling = key == handlingName;
     if (isHandling &&
@@ -213,6 +235,18 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
     if (const int panel = session->panels().ofSetting(key); panel >= 0)
         return setOnPanel(session, panel, setting, error);
     return refuse(error, SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
+}
+
+} // namespace
+
+bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
+{
+    ChosenSetting setting = wanted;
+    setting.key = usualName(*session, wanted.key);
+    setting.isSecret |= session->isSecret(setting.key);
+    if (printModeNames().contains(setting.key))
+        setting.kind = ChosenSetting::Kind::JobOption;
+    return chooseAny(session, setting, error) && keepBooklet(session, setting.key, error);
 }
 
 bool hasSetting(const DialogSession &session, const QString &key)

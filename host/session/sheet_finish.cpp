@@ -4,6 +4,7 @@
 #include "host/session/sheet_finish.h"
 
 #include "host/printing/standard_names.h"
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 
 #include <algorithm>
@@ -93,6 +94,7 @@ SheetFinish sheetFinish(const DialogSession &session)
         finish.binding = SheetFinish::Binding::ShortEdge;
     else if (sides.startsWith(QLatin1String("two-sided")))
         finish.binding = SheetFinish::Binding::LongEdge;
+    finish.isFolded = layoutAsPrinted(session).isBooklet();
     for (const QString &keyword : session.ppd()->optionKeywords()) {
         if (session.ppd()->isInstallable(keyword))
             continue;

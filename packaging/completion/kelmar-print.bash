@@ -42,7 +42,7 @@ _kelmar_print_values() { # KEY
     page-set) echo all odd even ;;
     outputorder) echo normal reverse ;;
     print-scaling) echo auto auto-fit fit fill none ;;
-    collate) echo True False ;;
+    collate | booklet | mirror) echo True False ;;
     *) _kelmar_print_ask --list-options | sed -n "s|^    ${1//[!A-Za-z0-9._-]/}/.*: ||p" | tr -d '*' ;;
     esac
 }

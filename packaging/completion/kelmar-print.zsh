@@ -43,7 +43,7 @@ _kelmar_print_setting() {
     (page-set) choices=(all odd even) ;;
     (outputorder) choices=(normal reverse) ;;
     (print-scaling) choices=(auto auto-fit fit fill none) ;;
-    (collate) choices=(True False) ;;
+    (collate|booklet|mirror) choices=(True False) ;;
     (*) choices=(${=${"$(_kelmar_print_ask --list-options | sed -n "s|^    ${key//[^A-Za-z0-9._-]/}/.*: ||p")"//\*/}}) ;;
     esac
     _wanted choices expl choice compadd -a choices

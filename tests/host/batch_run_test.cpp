@@ -56,8 +56,10 @@ void BatchRunTest::init()
     // Newer versions of libcups find a size in "media" by its dimensions.
     const QByteArray sizes = "*PaperDimension A4: \"595 842\"\n*ImageableArea A4: \"12 12 583 830\"\n"
                              "*PaperDimension A3: \"842 1191\"\n*ImageableArea A3: \"12 12 830 1179\"\n";
-    m_system.ppds = {{u"office"_s, officePpd() + sizes + ppdGroup("Mode/Mode", model)},
-                     {u"custom"_s, customPpd()}};
+    const QByteArray ppd =
+        officePpd().replace("*CloseUI: *Duplex\n", "*Duplex DuplexTumble/Short Edge: \"\"\n"
+                                                   "*CloseUI: *Duplex\n");
+    m_system.ppds = {{u"office"_s, ppd + sizes + ppdGroup("Mode/Mode", model)}, {u"custom"_s, customPpd()}};
     if (!m_document.isOpen()) {
         QVERIFY(m_document.open());
         m_document.write(QByteArray("some text\n").repeated(300)); // five pages
@@ -150,6 +152,8 @@ void BatchRunTest::exitCodes_data()
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
     QTest::newRow("no passwords here")
         << u"--batch -o job-password=1234 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("back of a booklet upside down")
+        << u"--batch -o booklet=true --set Duplex=DuplexNoTumble FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 
@@ -213,6 +217,10 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
         << u"False"_s;
     QTest::newRow("how documents are joined") << u"-n 2 -o multiple-document-handling=single-document"_s
                                               << u"multiple-document-handling"_s << u"single-document"_s;
+    QTest::newRow("mirror image") << u"--set mirror=yes"_s << u"mirror"_s << u"true"_s;
+    QTest::newRow("booklet") << u"--set booklet=on"_s << u"booklet"_s << u"true"_s;
+    QTest::newRow("sides of a booklet")
+        << u"--set Duplex=DuplexNoTumble -o booklet=true"_s << u"Duplex"_s << u"DuplexTumble"_s;
     QTest::newRow("other pages") << u"-P 4"_s << u"page-ranges"_s << u"4"_s;
     QTest::newRow("all pages") << u"--set page-ranges="_s << u"page-ranges"_s << u"1-2147483647"_s;
 }
@@ -373,7 +381,8 @@ void BatchRunTest::optionsAreListed()
     QCOMPARE(json()[u"panelKeys"_s][2][u"key"_s].toString(), u"page-ranges"_s);
     QVERIFY(m_system.submitted.isEmpty());
     QCOMPARE(run({u"--list-options"_s}), int(ExitSuccess));
-    QVERIFY2(m_out.data().contains("    Duplex/Two-Sided: *None DuplexNoTumble\n"), m_out.data().constData());
+    QVERIFY2(m_out.data().contains("    Duplex/Two-Sided: *None DuplexNoTumble DuplexTumble\n"),
+             m_out.data().constData());
 }
 
 QTEST_MAIN(BatchRunTest)

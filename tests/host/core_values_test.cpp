@@ -193,6 +193,8 @@ void CoreValuesTest::sheetsAreCounted_data()
     QTest::newRow("beyond the end") << Map{{ranges, u"2-9,12"_s}} << true << QList<int>{3} << JobCost{1, 2};
     QTest::newRow("ranges of sides") << Map{{ranges, u"2"_s}, {numberUp, u"2"_s}} << false << QList<int>{4}
                                      << JobCost{1, 1};
+    QTest::newRow("booklet") << Map{{u"booklet"_s, u"yes"_s}, {numberUp, u"4"_s}} << true << QList<int>{5, 9}
+                             << JobCost{5, 10};
     QTest::newRow("odd") << Map{{set, u"odd"_s}} << false << QList<int>{5} << JobCost{3, 3};
     QTest::newRow("even of a range") << Map{{set, u"even"_s}, {ranges, u"2-5"_s}} << true << QList<int>{9}
                                      << JobCost{1, 2};

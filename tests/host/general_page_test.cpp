@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/preview/page_counter.h"
+#include "host/session/booklet.h"
+#include "host/session/forced_choice.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/general_page.h"
 #include "host/window/pages/job_cost_label.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/preview/preview_pane.h"
-#include "host/window/preview/preview_sheet.h"
-#include "host/window/preview/preview_strip.h"
+#include "platform/choice_box.h"
 #include "tests/host/window_fixture.h"
+#include "tests/support/inline_ppd.h"
 #include "tests/support/paths.h"
 
 #include <QApplication>
@@ -22,7 +24,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRadioButton>
-#include <QScreen>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
@@ -45,11 +46,10 @@ private Q_SLOTS:
     void layoutIsSent_data();
     void layoutIsSent();
     void layoutIsUndone();
+    void bookletIsFolded();
     void documentIsLeftOut();
     void rangeBeyondTheEnd_data();
     void rangeBeyondTheEnd();
-    void smallPagesAppear();
-    void pagesAreLeftOut();
     void colorIsChosen_data();
     void colorIsChosen();
     void colorOfTheQueueIsShown_data();
@@ -59,36 +59,9 @@ private Q_SLOTS:
     void titleOfALaterDocument();
 
 private:
-    PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900},
-                          const QString &title = {});
-    PrintWindow &openTask(const PrintTask &task, const QSize &room = {1200, 900});
     QPushButton *button(const QString &text);
     QLineEdit *fieldOf(const QString &label) const;
-    bool hasPreview() const;
 };
-
-PrintWindow &GeneralPageTest::openWith(const QStringList &files, const QSize &room, const QString &title)
-{
-    PrintTask task;
-    task.files = files;
-    task.title = title;
-    return openTask(task, room);
-}
-
-PrintWindow &GeneralPageTest::openTask(const PrintTask &task, const QSize &room)
-{
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
-    m_window->setRoom(room);
-    PrintError error;
-    if (!m_window->open(&error))
-        qFatal("%s", qPrintable(error.message));
-    m_window->show();
-    m_window->finishLater();
-    if (!QTest::qWaitForWindowActive(m_window.get()))
-        qFatal("the window does not appear");
-    settle();
-    return *m_window;
-}
 
 QPushButton *GeneralPageTest::button(const QString &text)
 {
@@ -106,12 +79,6 @@ QLineEdit *GeneralPageTest::fieldOf(const QString &label) const
             return qobject_cast<QLineEdit *>(each->buddy());
     }
     return nullptr;
-}
-
-bool GeneralPageTest::hasPreview() const
-{
-    const PageTools tools = PageTools::installed();
-    return !tools.path(u"pdftopdf"_s).isEmpty() && !tools.path(u"pdftoppm"_s).isEmpty();
 }
 
 void GeneralPageTest::layoutIsSent_data()
@@ -139,6 +106,9 @@ void GeneralPageTest::layoutIsSent_data()
     QTest::newRow("odd") << Map() << u"page-set"_s << u"odd"_s << Map{{u"page-set"_s, u"odd"_s}};
     QTest::newRow("reverse") << Map() << u"outputorder"_s << u"reverse"_s
                              << Map{{u"outputorder"_s, u"reverse"_s}};
+    QTest::newRow("mirror") << Map() << u"mirror"_s << u"true"_s << Map{{u"mirror"_s, u"true"_s}};
+    QTest::newRow("not mirror") << Map{{u"mirror"_s, u"yes"_s}} << u"mirror"_s << u"false"_s
+                                << Map{{u"mirror"_s, u"false"_s}};
     QTest::newRow("not reverse") << Map{{u"outputorder"_s, u"reverse"_s}} << u"outputorder"_s << u"normal"_s
                                  << Map{{u"outputorder"_s, u"normal"_s}};
 }
@@ -154,7 +124,7 @@ void GeneralPageTest::layoutIsSent()
         printer.options.insert(defaults);
     open();
     if (auto *box = find<QCheckBox>(name))
-        box->setChecked(value == u"reverse");
+        box->setChecked(value == u"reverse" || value == u"true");
     else
         choose(name, value);
     printButton()->click();
@@ -173,6 +143,50 @@ void GeneralPageTest::layoutIsUndone()
     QTRY_COMPARE(m_window->session()->general().layout, PageLayoutSettings());
     QCOMPARE(find<QComboBox>(u"orientation-requested"_s)->currentIndex(), 0);
     QTRY_VERIFY(!find<ChangeMark>());
+}
+
+// With two-sided printing that suits it, and only together with what makes sense.
+void GeneralPageTest::bookletIsFolded()
+{
+    for (QByteArray &ppd : m_system.ppds) {
+        ppd.replace("*CloseUI: *Duplex\n", "*Duplex DuplexTumble/Short Edge: \"\"\n*CloseUI: *Duplex\n");
+        ppd.replace("*CloseUI: *Staple\n", "*Staple Saddle/Saddle: \"\"\n*CloseUI: *Staple\n");
+        ppd += ppdGroup("More/More", ppdOption("MirrorPrint/Mirror", {"False/No", "True/Yes"}));
+    }
+    openWith({report});
+    choose(u"Duplex"_s, u"DuplexNoTumble"_s);
+    settle();
+    auto *booklet = find<QCheckBox>(u"booklet"_s), *stitched = find<QCheckBox>(u"saddle-stitch"_s);
+    auto *sides = find<platform::ChoiceBox>(u"Duplex"_s);
+    auto *perSide = find<QComboBox>(u"number-up"_s);
+    QVERIFY(booklet && stitched && !stitched->isEnabled() && perSide->isEnabled());
+    QVERIFY(!find<QCheckBox>(u"mirror"_s)); // the PPD has its own option for that
+    booklet->click();
+    QCOMPARE(sides->currentData().toString(), u"DuplexTumble"_s);
+    settle(); // a step of undo is made then
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier); // takes back both settings at once
+    QTRY_VERIFY(!booklet->isChecked());
+    QCOMPARE(sides->currentData().toString(), u"DuplexNoTumble"_s);
+    booklet->click();
+    QCOMPARE(sides->currentData().toString(), u"DuplexTumble"_s);
+    QVERIFY(!sides->isItemEnabled(sides->findData(u"DuplexNoTumble"_s)));
+    QVERIFY(!perSide->isEnabled() && !find<QComboBox>(u"number-up-layout"_s)->isEnabled());
+    const ForcedChoice longEdge = forcedChoice(m_window->session(), u"Duplex"_s, u"DuplexNoTumble"_s);
+    QCOMPARE(longEdge.changes, Resolution{bookletChoice(false)}); // what the greyed choice offers
+    stitched->click();
+    if (hasPreview())
+        QTRY_COMPARE(find<JobCostLabel>()->text(), u"1 sheets, 2 sides, color"_s);
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    const QList<JobOption> sent = m_system.submitted.first().options;
+    QCOMPARE(sentValue(sent, u"booklet"_s), u"true"_s);
+    QCOMPARE(sentValue(sent, u"Duplex"_s), u"DuplexTumble"_s);
+    QCOMPARE(sentValue(sent, u"Staple"_s), u"Saddle"_s);
+    booklet->click();
+    QCOMPARE(sides->currentData().toString(), u"DuplexNoTumble"_s);
+    QVERIFY(!stitched->isChecked() && perSide->isEnabled());
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Staple"_s), u"Off"_s);
 }
 
 void GeneralPageTest::documentIsLeftOut()
@@ -234,70 +248,6 @@ void GeneralPageTest::rangeBeyondTheEnd()
         documents->item(0)->setCheckState(Qt::Unchecked);
         QTRY_COMPARE(page->problem(), u"There are only 1 printed sides."_s);
     }
-}
-
-// In the window, and not only when a test requests an image.
-void GeneralPageTest::smallPagesAppear()
-{
-    if (!hasPreview())
-        QSKIP("cups-filters or poppler-utils is not installed");
-    openWith({report});
-    auto *strip = find<PreviewStrip>();
-    QTRY_VERIFY(strip && strip->model()->rowCount() == 2);
-    for (int row = 0; row < 2; ++row) {
-        const auto isThere = [&] {
-            const QWidget *view = strip->viewport();
-            const QRect item = strip->visualRect(strip->model()->index(row, 0));
-            const QPoint at = view->mapTo(m_window.get(), QPoint(item.center().x(), item.top() + 20));
-            const QPixmap point = m_window->screen()->grabWindow(m_window->winId(), at.x(), at.y(), 1, 1);
-            return point.toImage().pixel(0, 0) != m_window->palette().window().color().rgb();
-        };
-        QTRY_VERIFY2(isThere(), qPrintable(QString::number(row)));
-    }
-    QVERIFY(!strip->hasFocus());
-    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {},
-                      strip->visualRect(strip->model()->index(1, 0)).center());
-    QCOMPARE(strip->current(), 1);
-}
-
-// With the check boxes of the thumbnails, by mouse and keyboard.
-void GeneralPageTest::pagesAreLeftOut()
-{
-    if (!hasPreview())
-        QSKIP("cups-filters or poppler-utils is not installed");
-    openWith({report});
-    auto *strip = find<PreviewStrip>();
-    QTRY_VERIFY(strip && strip->model()->rowCount() == 2);
-    const auto isTicked = [strip](int row) {
-        return strip->model()->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    };
-    const QStyle *style = strip->style();
-    QStyleOptionViewItem option;
-    option.initFrom(strip);
-    option.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDecoration |
-                      QStyleOptionViewItem::HasDisplay;
-    option.decorationPosition = QStyleOptionViewItem::Top;
-    option.decorationSize = strip->iconSize();
-    option.text = u"2"_s;
-    option.rect = strip->visualRect(strip->model()->index(1, 0));
-    const QRect box = style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, strip);
-    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {}, box.center());
-    auto *field = find<QLineEdit>(u"page-ranges"_s);
-    QCOMPARE(field->text(), u"1"_s);
-    QVERIFY(field->isEnabled() && isTicked(0) && !isTicked(1));
-    QCOMPARE(m_window->session()->general().pages, u"1"_s);
-    QCOMPARE(strip->model()->rowCount(), 2); // it can still be included again
-    strip->setFocus();
-    strip->setCurrent(0);
-    QTest::keyClick(strip, Qt::Key_Space); // at least one page must be left
-    QVERIFY(isTicked(0));
-    strip->setCurrent(1);
-    QTest::keyClick(strip, Qt::Key_Space);
-    QVERIFY(isTicked(1));
-    QCOMPARE(m_window->session()->general().pages, QString());
-    choose(u"page-set"_s, u"odd"_s); // the numbers are no longer those of the document
-    QTRY_COMPARE(strip->model()->rowCount(), 1);
-    QVERIFY(!strip->model()->index(0, 0).data(Qt::CheckStateRole).isValid());
 }
 
 void GeneralPageTest::colorIsChosen_data()

@@ -148,6 +148,8 @@ void PolicyTest::locksHoldInEverySpelling_data()
     row("the locked sides", u"sides"_s, u"two-sided-long-edge"_s, true);
     row("tray", u"InputSlot"_s, u"Tray2"_s, true);
     row("priority", u"job-priority"_s, u"70"_s, true);
+    row("booklet", u"booklet"_s, u"true"_s, false);
+    row("mirror image", u"mirror"_s, u"true"_s, true);
     row("pages per side", u"number-up"_s, u"2"_s, true);
 }
 

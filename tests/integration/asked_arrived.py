@@ -10,7 +10,7 @@ setting did not arrive, 77 if required programs are not installed.
 
 The expected values of a case are NAME=VALUE with these names:
   pages, size    of the filtered data; size in points, of every page
-  text           of each page, from its top left, with "/" between pages
+  text           of each page, from its top left, with "/" between pages; of a mirrored page, from its bottom right
   scale          of a box that is 200 points wide in the document, on the first page
   turned=yes     the box, higher than wide in the document, is rotated on the first page
   copies         the number of copies of each page, made by the printer or contained in the data
@@ -93,6 +93,10 @@ CASES = [
     ("office", "large.pdf", "-o print-scaling=none", f"pages=1 {A4} scale=1.0"),
     ("office", "large.pdf", "-o print-scaling=fit", f"pages=1 {A4} scale=0.7"),
     ("office", "box.pdf", "-o page-border=single -o number-up=4", "pages=1 scale=1.5"),
+    ("office", "five.pdf", "-o number-up=4 -o mirror=true", f"pages=2 {A4} text=3412/5 mirror="),
+    ("office", "five.ps", "--set number-up=4 --set mirror=true", f"pages=2 {A4} text=3412/5"),
+    ("office", "five.pdf", "-o booklet=true", f"pages=4 {A4} text=1/2/3/45 *Duplex=DuplexTumble"),
+    ("office", "five.ps", "--set booklet=true", "exit=2"),
     ("office", "long.txt", "-o orientation-requested=4", "pages=4"),
     ("office", "picture.png", "-o orientation-requested=4", "pages=1 turned=yes"),
     ("office", "five.pdf", "-o fit-to-page -o outputorder=reverse --set PageSize=A5", f"pages=5 {A5}"),
@@ -144,6 +148,7 @@ CASES = [
     # a driverless printer
     ("everywhere", "report.pdf", "--set Duplex=DuplexNoTumble --set PageSize=A4",
      f"pages=2 {A4} Duplex=DuplexNoTumble PageSize=A4"),
+    ("everywhere", "five.pdf", "-o booklet=true", "pages=4 Duplex=DuplexTumble"),
     ("everywhere", "five.pdf", "-n 2 -P 2-3", "pages=2 copies=2 page-ranges=2-3"),
     ("everywhere", "note.txt", "--set ColorModel=Gray -o media=A4", f"pages=1 {A4} ColorModel=Gray"),
     ("everywhere", "report.ps.gz", "-o media=A4", f"pages=2 {A4}"),

@@ -88,7 +88,7 @@ void AccessKeys::assign()
     m_queued = false;
     Mnemonics keys;
     QHash<QWidget *, Texts> texts;
-    QList<QWidget *> usable, unusable;
+    QList<QWidget *> usable, yielding, unusable;
     for (QWidget *part : std::as_const(m_parts)) {
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
@@ -101,11 +101,12 @@ void AccessKeys::assign()
             const bool isShown = widget->isVisibleTo(m_window);
             known.shown = isShown ? known.own : widget->property(textProperty).toString();
             texts.insert(widget, known);
+            const bool yields = widget->property(yieldingProperty).toBool();
             if (isShown)
-                (isUsable(widget) ? usable : unusable).append(widget);
+                (!isUsable(widget) ? unusable : yields ? yielding : usable).append(widget);
         }
     }
-    for (const QList<QWidget *> &widgets : {usable, unusable}) {
+    for (const QList<QWidget *> &widgets : {usable, yielding, unusable}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);

@@ -16,7 +16,8 @@ namespace host {
 
 // Assigns unique access keys to the labels of fields and the buttons that are visible, even between host,
 // panels and translations. Earlier parts of a window take precedence for the keys that their texts request; a
-// text gets another key if its key is taken, or it requests none. Disabled controls choose last. Updated when
+// text gets another key if its key is taken, or it requests none. Disabled controls choose last,
+// after those that yield. Updated when
 // widgets are shown, hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
@@ -24,6 +25,8 @@ class AccessKeys : public QObject
 public:
     // Set to true on a label or button that should not get a key.
     static constexpr const char *keylessProperty = "keyless";
+    // Set to true on one that chooses after the others, since there may be fewer letters than texts.
+    static constexpr const char *yieldingProperty = "yieldsKey";
 
     // The parts are owned by the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);

@@ -91,6 +91,15 @@ constexpr std::array explanations{
     Explanation{"outputorder",
                 QT_TRANSLATE_NOOP("Explanation", "Prints the last page first, so that the pages are in order "
                                                  "when the printer stacks them face up.")},
+    Explanation{"booklet",
+                QT_TRANSLATE_NOOP("Explanation", "Arranges the pages for sheets that are folded together in "
+                                                 "the middle: two pages on each side, four on each sheet.")},
+    Explanation{
+        "saddle-stitch",
+        QT_TRANSLATE_NOOP("Explanation", "Folds the sheets of a booklet and staples them in the fold.")},
+    Explanation{"mirror", QT_TRANSLATE_NOOP("Explanation",
+                                            "Prints each page reversed from left to right, for example on "
+                                            "transfer paper.")},
     Explanation{"all-pages", QT_TRANSLATE_NOOP("Explanation", "Prints the whole document.")},
     Explanation{"current-page",
                 QT_TRANSLATE_NOOP("Explanation", "Prints only the page that the application shows.")},

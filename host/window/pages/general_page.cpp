@@ -3,6 +3,7 @@
 
 #include "host/window/pages/general_page.h"
 
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
@@ -89,6 +90,7 @@ void GeneralPage::addLayout()
         pagesEdited();
         Q_EMIT pagesChanged();
     });
+    connect(m_layout, &LayoutForm::chosen, this, &GeneralPage::chosen);
     addSavePdf(grid);
     if (m_documents && !m_documents->title().isNull())
         addTitleField(m_documents, grid, this);
@@ -270,7 +272,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
 // The print system counts the printed sides if several pages are placed on one.
 void GeneralPage::showSides()
 {
-    const int pages = m_session->general().layout.pagesPerSide();
+    const int pages = layoutAsPrinted(*m_session).pagesPerSide();
     m_sides->setText(tr("The numbers refer to printed sides with %1 pages each.").arg(pages));
     m_sides->setVisible(pages > 1 && m_somePages->isChecked());
 }

@@ -4,6 +4,7 @@
 #include "host/window/pages/job_cost_label.h"
 
 #include "host/preview/page_counter.h"
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/job_cost.h"
@@ -42,7 +43,9 @@ QString JobCostLabel::costOf(const DialogSession &session)
         pages.append(m_counter->pagesOf(path));
     if (pages.isEmpty() || pages.contains(0))
         return {};
-    const JobCost cost = jobCost(session.general(), isTwoSided(session), pages);
+    GeneralSettings general = session.general();
+    general.layout = layoutAsPrinted(session);
+    const JobCost cost = jobCost(general, isTwoSided(session), pages);
     QStringList parts{tr("%n sheets", nullptr, cost.sheets)};
     if (cost.sides != cost.sheets)
         parts.append(tr("%n sides", nullptr, cost.sides));

@@ -3,12 +3,15 @@
 
 #include "host/window/pages/layout_form.h"
 
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
+#include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
 #include "platform/choice_box.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
 namespace host {
@@ -21,7 +24,10 @@ constexpr int headingGap = 12; // above the heading
 
 const QString numberUp = QStringLiteral("number-up");
 const QString order = QStringLiteral("number-up-layout");
+const QString booklet = QStringLiteral("booklet");
 const QString reverse = QStringLiteral("outputorder");
+const QString mirror = QStringLiteral("mirror");
+constexpr int switchRows = 2;
 
 // The boxes in the order of the page.
 QList<std::pair<QString, QString>> rows()
@@ -47,7 +53,7 @@ LayoutForm::LayoutForm(DialogSession *session, QGridLayout *grid, QObject *paren
     grid->addWidget(heading, grid->rowCount(), 0, 1, 2);
     for (const auto &[name, label] : rows())
         addRow(name, label, grid);
-    addReverse(grid);
+    addSwitches(grid);
     refresh();
 }
 
@@ -61,7 +67,7 @@ int LayoutForm::labelWidth(const QWidget *page)
 
 int LayoutForm::heightIn(const QGridLayout &grid, int controlHeight)
 {
-    const int controls = static_cast<int>(rows().size()) + 1; // the boxes and the check box
+    const int controls = static_cast<int>(rows().size()) + switchRows;
     const int heading = headingGap + grid.parentWidget()->fontMetrics().height();
     return heading + controls * (grid.verticalSpacing() + controlHeight);
 }
@@ -86,16 +92,82 @@ void LayoutForm::addRow(const QString &name, const QString &label, QGridLayout *
     connect(box, &QComboBox::activated, this, [this, index = m_rows.size() - 1] { choose(m_rows[index]); });
 }
 
-void LayoutForm::addReverse(QGridLayout *grid)
+void LayoutForm::addSwitches(QGridLayout *grid)
 {
-    m_reverse = new QCheckBox(tr("Last page first"), grid->parentWidget());
-    m_reverse->setObjectName(reverse);
-    m_reverse->setWhatsThis(explanationOf(reverse));
-    grid->addWidget(m_reverse, grid->rowCount(), 1);
-    connect(m_reverse, &QCheckBox::toggled, this, [this](bool on) {
-        m_session->general().layout.set(reverse, on ? QStringLiteral("reverse") : QStringLiteral("normal"));
-        Q_EMIT changed();
-    });
+    auto *folded = addSwitchRow(grid);
+    if (auto *box = addSwitch(booklet, tr("Booklet"), grid->parentWidget()))
+        folded->insertWidget(0, box);
+    m_stitching = saddleStitching(*m_session);
+    if (m_stitching && m_session->rule().lockedChoice(m_session->ppd(), m_stitching->option).isNull()) {
+        m_stitched = new QCheckBox(tr("Saddle stitching"), grid->parentWidget());
+        m_stitched->setObjectName(QStringLiteral("saddle-stitch"));
+        m_stitched->setWhatsThis(explanationOf(m_stitched->objectName()));
+        folded->insertWidget(folded->count() - 1, m_stitched);
+        connect(m_stitched, &QCheckBox::toggled, this, &LayoutForm::stitch);
+    }
+    auto *others = addSwitchRow(grid);
+    for (const auto &[name, text] :
+         {std::pair(reverse, tr("Last page first")), {mirror, tr("Mirror image")}}) {
+        if (auto *box = addSwitch(name, text, grid->parentWidget()))
+            others->insertWidget(others->count() - 1, box);
+    }
+}
+
+QHBoxLayout *LayoutForm::addSwitchRow(QGridLayout *grid)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(24); // space for the mark of a change
+    row->addStretch(1);
+    grid->addLayout(row, grid->rowCount(), 1);
+    return row;
+}
+
+// Null if an option of the PPD takes the place of the setting.
+QCheckBox *LayoutForm::addSwitch(const QString &name, const QString &text, QWidget *page)
+{
+    const QString keyword = PageLayoutSettings::keywordFor(name);
+    if (m_session->ppd() && !keyword.isEmpty() && m_session->ppd()->hasOption(keyword))
+        return nullptr;
+    auto *box = new QCheckBox(text, page);
+    box->setObjectName(name);
+    box->setWhatsThis(explanationOf(name));
+    box->setProperty(AccessKeys::yieldingProperty, true);
+    m_switches.append({name, box});
+    connect(box, &QCheckBox::toggled, this, [this, name](bool on) { turn(name, on); });
+    return box;
+}
+
+void LayoutForm::turn(const QString &name, bool on)
+{
+    const QStringList values = PageLayoutSettings::offered(name); // off and on
+    m_session->general().layout.set(name, values.value(on ? 1 : 0));
+    if (name == booklet)
+        fold(on);
+    refresh();
+    Q_EMIT changed();
+}
+
+// Selects two-sided printing for a booklet, and restores the earlier choice afterwards.
+void LayoutForm::fold(bool on)
+{
+    const auto sides = sidesForBooklet(*m_session);
+    if (sides && on) {
+        m_sidesBefore = OptionChoice{sides->option, m_session->ppd()->markedChoice(sides->option), {}, {}};
+        markSidesForBooklet(m_session);
+    } else if (sides && m_sidesBefore && m_session->ppd()->markedChoice(sides->option) == sides->choice) {
+        m_session->markChoice(m_sidesBefore->option, m_sidesBefore->choice);
+    }
+    if (!on && m_stitched && m_stitched->isChecked())
+        stitch(false);
+    if (sides)
+        Q_EMIT chosen(sides->option);
+}
+
+void LayoutForm::stitch(bool on)
+{
+    m_session->markChoice(m_stitching->option,
+                          on ? m_stitching->choice : m_session->ppd()->defaultChoice(m_stitching->option));
+    Q_EMIT chosen(m_stitching->option);
 }
 
 void LayoutForm::choose(const Row &row)
@@ -113,23 +185,65 @@ void LayoutForm::choose(const Row &row)
 void LayoutForm::refresh()
 {
     const PageLayoutSettings &layout = m_session->general().layout;
-    const bool several = layout.pagesPerSide() > 1;
+    const QString alone = !layout.isBooklet()
+                              ? QString()
+                              : notWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("true")));
+    const QString single = layout.pagesPerSide() > 1
+                               ? QString()
+                               : notWhile(tr("Pages per side:").chopped(1).trimmed(), QString::number(1));
     for (const Row &row : std::as_const(m_rows)) {
         const QString value = layout.value(row.name);
         // A default may be an uncommon value that is not offered.
         if (row.box->findData(value) < 0)
             row.box->addItem(layoutValueText(row.name, value), value);
         row.box->setCurrentIndex(row.box->findData(value));
-        if (row.name == order) {
-            row.box->setEnabled(several);
-            row.box->setToolTip(
-                several ? QString()
-                        : tr("Not available while \"%1\" is \"%2\".")
-                              .arg(tr("Pages per side:").chopped(1).trimmed(), QString::number(1)));
-        }
+        if (row.name == order || row.name == numberUp)
+            enable(row.box, alone.isEmpty() && row.name == order ? single : alone);
     }
-    const QSignalBlocker quiet(m_reverse);
-    m_reverse->setChecked(layout.isReversed());
+    for (const Switch &each : std::as_const(m_switches)) {
+        const QSignalBlocker quiet(each.box);
+        each.box->setChecked(layout.value(each.name) == PageLayoutSettings::offered(each.name).last());
+        if (each.name == booklet)
+            enable(each.box, foldingObstacle());
+    }
+    if (!m_stitched)
+        return;
+    const QSignalBlocker quiet(m_stitched);
+    const bool isStitched = m_session->ppd()->markedChoice(m_stitching->option) == m_stitching->choice;
+    m_stitched->setChecked(isStitched);
+    enable(m_stitched, stitchingObstacle());
+}
+
+QString LayoutForm::notWhile(const QString &option, const QString &choice)
+{
+    return tr("Not available while \"%1\" is \"%2\".").arg(option, choice);
+}
+
+void LayoutForm::enable(QWidget *control, const QString &obstacle)
+{
+    control->setEnabled(obstacle.isEmpty());
+    control->setToolTip(obstacle);
+}
+
+// Why a booklet cannot be printed; null if it can, or is selected already.
+QString LayoutForm::foldingObstacle() const
+{
+    const auto sides = sidesForBooklet(*m_session);
+    const bool isFixed = sides && !m_session->locks().allows(sides->option, sides->choice);
+    return isFixed && !m_session->general().layout.isBooklet() ? Policy::current().attribution() : QString();
+}
+
+// Why sheets cannot be stitched; null if they can, or are.
+QString LayoutForm::stitchingObstacle() const
+{
+    if (m_stitched->isChecked())
+        return {};
+    if (!m_session->general().layout.isBooklet())
+        return notWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("false")));
+    const auto forbidden = m_session->ppd()->forbiddenChoices(m_stitching->option);
+    const auto obstacle = forbidden.constFind(m_stitching->choice);
+    return obstacle == forbidden.constEnd() ? QString()
+                                            : notWhile(obstacle->optionText, obstacle->choiceText);
 }
 
 } // namespace host

@@ -3,12 +3,17 @@
 
 #pragma once
 
+#include "host/printing/ppd_option.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 class QCheckBox;
 class QGridLayout;
+class QHBoxLayout;
 class QWidget;
 
 namespace platform {
@@ -20,8 +25,8 @@ namespace host {
 class DialogSession;
 
 // Rows of a page for the page layout: pages per side with their order and border, orientation, size, odd or
-// even pages, reverse order. Owned by the page whose grid it fills. Writes to the session immediately; the
-// session is borrowed and outlives it.
+// even pages, booklets, reverse order, mirror image. Owned by the page whose grid it fills. Writes to the
+// session immediately; the session is borrowed and outlives it.
 class LayoutForm : public QObject
 {
     Q_OBJECT
@@ -38,20 +43,39 @@ public:
 
 Q_SIGNALS:
     void changed();
+    // A choice of the PPD was marked as well.
+    void chosen(const QString &keyword);
 
 private:
+    struct Switch
+    {
+        QString name; // name of the job option
+        QCheckBox *box;
+    };
     struct Row
     {
         QString name; // name of the job option
         platform::ChoiceBox *box;
     };
     void addRow(const QString &name, const QString &label, QGridLayout *grid);
-    void addReverse(QGridLayout *grid);
+    void addSwitches(QGridLayout *grid);
+    static QHBoxLayout *addSwitchRow(QGridLayout *grid);
+    QCheckBox *addSwitch(const QString &name, const QString &text, QWidget *page);
     void choose(const Row &row);
+    void turn(const QString &name, bool on);
+    void fold(bool on);
+    void stitch(bool on);
+    static QString notWhile(const QString &option, const QString &choice);
+    static void enable(QWidget *control, const QString &obstacle);
+    QString foldingObstacle() const;
+    QString stitchingObstacle() const;
 
     DialogSession *m_session;
     QList<Row> m_rows;
-    QCheckBox *m_reverse = nullptr;
+    QList<Switch> m_switches;
+    QCheckBox *m_stitched = nullptr;           // null if the printer cannot stitch
+    std::optional<OptionChoice> m_stitching;   // that choice
+    std::optional<OptionChoice> m_sidesBefore; // two-sided printing before a booklet was selected
 };
 
 } // namespace host

@@ -3,6 +3,7 @@
 
 #include "host/window/pages/option_form.h"
 
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
@@ -161,7 +162,8 @@ void OptionForm::refreshRow(Row &row)
             row.editor->setChoice(marked);
     }
     const quint32 revision = m_session->ppd()->forbiddenRevision(row.keyword);
-    if (row.isDecided && row.current == current && row.revision == revision) {
+    const bool isBooklet = m_session->general().layout.isBooklet();
+    if (row.isDecided && row.current == current && row.revision == revision && row.isBooklet == isBooklet) {
         row.box->setCurrentIndex(row.index);
         return;
     }
@@ -169,6 +171,7 @@ void OptionForm::refreshRow(Row &row)
     row.box->setCurrentIndex(row.index);
     row.current = current;
     row.revision = revision;
+    row.isBooklet = isBooklet;
     row.isDecided = true;
     greyOut(row);
 }
@@ -180,7 +183,10 @@ void OptionForm::greyOut(const Row &row)
             row.box->setObstacle(i, i == row.index ? QString() : Policy::current().attribution());
         return;
     }
-    const auto forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
+    QMap<QString, OptionChoice> forbidden = m_session->ppd()->forbiddenChoices(row.keyword);
+    if (const QString upsideDown = row.isBooklet ? choiceNotForBooklet(*m_session, row.keyword) : QString();
+        !upsideDown.isEmpty())
+        forbidden.insert(upsideDown, bookletChoice(true));
     for (int i = 0; i < row.box->count(); ++i) {
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == row.current || !forbidden.contains(choice);

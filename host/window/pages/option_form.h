@@ -53,6 +53,7 @@ private:
         quint32 revision = 0;
         QString current = QString();
         int index = -1;
+        bool isBooklet = false;
         bool isDecided = false;
     };
     void addRow(const QString &keyword, QGridLayout *grid);

@@ -4,6 +4,7 @@
 #include "host/window/pages/range_check.h"
 
 #include "host/preview/page_counter.h"
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/printed_pages.h"
@@ -54,8 +55,9 @@ QString RangeCheck::problem(const QString &ranges)
             longest = i;
         most = std::max(most, pages);
     }
-    const int pagesPerSide = m_session->general().layout.pagesPerSide();
-    const int last = (most + pagesPerSide - 1) / pagesPerSide;
+    const PageLayoutSettings layout = layoutAsPrinted(*m_session);
+    const int pagesPerSide = layout.pagesPerSide();
+    const int last = layout.sidesOf(most);
     if (longest < 0 || beginning <= last)
         return {};
     if (included > 1) {
