@@ -128,7 +128,7 @@ class Program:
             try:
                 if not self.has(node, "SHOWING"):
                     return
-                if role in (None, node.getRoleName()):
+                if role in (None, self.role(node)):
                     found.append(node)
                 for i in range(node.childCount):
                     child = node.getChildAtIndex(i)
@@ -143,6 +143,11 @@ class Program:
         elif self.process.poll() is not None:
             raise Failed("the program has ended (%s)" % self.process.returncode)
         return found
+
+    def role(self, control):
+        """The name of its role. For buttons it depends on the versions of Qt and AT-SPI, and on whether they have a menu."""
+        name = control.getRoleName()
+        return "button" if name in ("push button", "push button menu", "button menu") else name
 
     def has(self, control, state):
         return control.getState().contains(getattr(self._atspi, "STATE_" + state))

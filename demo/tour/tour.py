@@ -36,11 +36,11 @@ def shows(d, label, value):
 
 
 def settings_are(d, name):
-    return d.get("push button", "Settings: " + name + " ").name.strip()
+    return d.get("button", "Settings: " + name + " ").name.strip()
 
 
 def pick_settings(d, entry):
-    d.pick(d.get("push button", "Settings:"), entry)
+    d.pick(d.get("button", "Settings:"), entry)
 
 
 def saved(preset=PRESET):
@@ -201,7 +201,7 @@ def ends_in(name, act, sides, paper, said):
         return said
 
 
-ends_in("resolved", lambda d: d.click(d.get("push button", "Change and Use It")), "Long-Edge Binding", "Plain Paper",
+ends_in("resolved", lambda d: d.click(d.get("button", "Change and Use It")), "Long-Edge Binding", "Plain Paper",
         "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper")
 ends_in("resolution-undone", lambda d: d.keys("ctrl+z"), "Off", "Thick Paper 1",
         "Ctrl+Z takes both back at once: Off, Thick Paper 1")
@@ -213,7 +213,7 @@ ends_in("resolution-redone", lambda d: d.keys("ctrl+shift+z"), "Long-Edge Bindin
 def preview(d):
     before = d.says("Page 1 of 2")
     expect("no front side in “%s”" % before, "Sheet 1, front" in before)
-    d.click(d.get("push button", "Page after"))
+    d.click(d.get("button", "Page after"))
     after = d.says("Page 2 of 2")
     expect("no back side in “%s”" % after, "Sheet 1, back" in after)
     return "The preview shows %s; “Page after”: %s" % (before, after)
