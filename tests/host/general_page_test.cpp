@@ -163,7 +163,7 @@ void GeneralPageTest::bookletIsFolded()
     QVERIFY(!find<QCheckBox>(u"mirror"_s)); // the PPD has its own option for that
     booklet->click();
     QCOMPARE(sides->currentData().toString(), u"DuplexTumble"_s);
-    settle(); // a step of undo is made then
+    settle();                                                        // a step of undo is made then
     QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier); // takes back both settings at once
     QTRY_VERIFY(!booklet->isChecked());
     QCOMPARE(sides->currentData().toString(), u"DuplexNoTumble"_s);
