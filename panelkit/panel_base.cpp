@@ -42,6 +42,11 @@ void logException(const platform::Exception &exception)
 
 QVPDELoading_M880::~QVPDELoading_M880() = default;
 
+platform::FormMaker QVPDELoading_M880::formMaker(const QString &) const
+{
+    return {};
+}
+
 void QVPDE_M880::initialize()
 {
     static std::once_flag registered;
@@ -85,7 +90,7 @@ bool QVPDE_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)
     setManager(std::move(manager));
     loadChoiceLists();
     if (const auto *loading = dynamic_cast<const QVPDELoading_M880 *>(this))
-        loadInterface(loading->nibNameForModel(m_manager->currentModel()));
+        loadInterface(*loading);
     return true;
 }
 
@@ -106,14 +111,16 @@ void QVPDE_M880::loadChoiceLists()
     }
 }
 
-void QVPDE_M880::loadInterface(const QString &nibName)
+void QVPDE_M880::loadInterface(const QVPDELoading_M880 &loading)
 {
+    const QString nibName = loading.nibNameForModel(m_manager->currentModel());
     if (nibName.isEmpty())
         return;
     if (!m_manager->bundle())
         throw platform::Exception(platform::Exception::layoutName,
                                   QStringLiteral("There is no bundle to load \"%1\" from").arg(nibName));
-    m_topLevelNibObjects = platform::loadLayout(*m_manager->bundle(), nibName, this);
+    m_topLevelNibObjects =
+        platform::loadLayout(*m_manager->bundle(), nibName, this, loading.formMaker(nibName));
     explainControls();
     QVDetachSliderBindingsInPDE(this, &m_updaterInfo);
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());

@@ -104,7 +104,7 @@ private:
     void setChoiceIndex(const QVariant &index, const QString &option);
     void setOptionValue(const QVariant &value, const QString &key);
     void loadChoiceLists();
-    void loadInterface(const QString &nibName);
+    void loadInterface(const QVPDELoading_M880 &loading);
     void explainControls();
 
     QWidget *m_view = nullptr; // outlet; belongs to the layout

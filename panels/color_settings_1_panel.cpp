@@ -4,6 +4,7 @@
 #include "panels/color_settings_1_panel.h"
 
 #include "device/advanced_color_settings.h"
+#include "layouts/ColorSettings1.h"
 #include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
 #include "panels/view_switch.h"
@@ -62,6 +63,11 @@ QVPDEColorSettings1_M880::~QVPDEColorSettings1_M880()
 QString QVPDEColorSettings1_M880::nibNameForModel(const QString &) const
 {
     return QStringLiteral("ColorSettings1");
+}
+
+platform::FormMaker QVPDEColorSettings1_M880::formMaker(const QString &) const
+{
+    return platform::makeForm<QVViewStack_M880, Ui_ColorSettings1>;
 }
 
 bool QVPDEColorSettings1_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

@@ -3,6 +3,7 @@
 
 #include "panels/color_settings_2_panel.h"
 
+#include "layouts/ColorSettings2.h"
 #include "panelkit/obstacle_text.h"
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
@@ -11,10 +12,16 @@
 #include "plugin/panel_roster.h"
 #include "ppd/ppd_model.h"
 
+namespace reduced {
+// The same headers and the same class, which is the context of the texts.
+#include "layouts/ColorSettings2-2600c.h"
+} // namespace reduced
+
 namespace {
 
 const PanelRegistration<QVPDEColorSettings2_M880> registration("ColorSettings2");
 
+const QString reducedLayout = QStringLiteral("ColorSettings2-2600c");
 const QString colorTypeKey = QStringLiteral("ColorType");
 const QString neutral = QStringLiteral("0");
 const QStringList balanceKeys{QStringLiteral("ColorBalanceCyan"), QStringLiteral("ColorBalanceMagenta"),
@@ -36,7 +43,13 @@ QVPDEColorSettings2_M880::QVPDEColorSettings2_M880()
 
 QString QVPDEColorSettings2_M880::nibNameForModel(const QString &model) const
 {
-    return model == QVHazel ? QStringLiteral("ColorSettings2-2600c") : QStringLiteral("ColorSettings2");
+    return model == QVHazel ? reducedLayout : QStringLiteral("ColorSettings2");
+}
+
+platform::FormMaker QVPDEColorSettings2_M880::formMaker(const QString &nibName) const
+{
+    return nibName == reducedLayout ? platform::makeForm<QWidget, reduced::Ui_ColorSettings2>
+                                    : platform::makeForm<QWidget, Ui_ColorSettings2>;
 }
 
 bool QVPDEColorSettings2_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

@@ -3,6 +3,7 @@
 
 #include "panels/print_mode_panel.h"
 
+#include "layouts/PrintMode.h"
 #include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
 #include "platform/bundle.h"
@@ -56,6 +57,11 @@ QVPDEPrintMode_M880::QVPDEPrintMode_M880()
 QString QVPDEPrintMode_M880::nibNameForModel(const QString &) const
 {
     return QStringLiteral("PrintMode");
+}
+
+platform::FormMaker QVPDEPrintMode_M880::formMaker(const QString &) const
+{
+    return platform::makeForm<QWidget, Ui_PrintMode>;
 }
 
 bool QVPDEPrintMode_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

@@ -6,6 +6,7 @@
 #include "platform/binding.h"
 #include "platform/bundle.h"
 #include "platform/exception.h"
+#include "platform/form_reader_p.h"
 #include "platform/key_value_object.h"
 #include "platform/layout_translator_p.h"
 #include "platform/logging.h"
@@ -17,11 +18,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QLibrary>
 #include <QMetaMethod>
 #include <QMetaProperty>
-#include <QUiLoader>
 
 #include <algorithm>
+
+#include <dlfcn.h>
 
 namespace platform {
 
@@ -43,55 +46,17 @@ WidgetFactories &widgetFactories()
     return factories;
 }
 
-// Creates widgets of registered classes, and records names that the base class would silently replace.
-class WidgetBuilder : public QUiLoader
+// Loads libkelmar-forms.so, which is in the folder of this library. Null with a message on failure.
+ReadForm formReader(QString *problem)
 {
-public:
-    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
-    {
-        const WidgetFactory factory = widgetFactories().value(className);
-        QWidget *widget = factory ? factory(parent) : QUiLoader::createWidget(className, parent, name);
-        const bool isKnown = factory || className == QLatin1String("Line") ||
-                             (widget && className == QLatin1String(widget->metaObject()->className()));
-        if (!isKnown)
-            note(QStringLiteral("widget"), name, className);
-        if (widget)
-            widget->setObjectName(name);
-        return widget;
-    }
-    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
-    {
-        QLayout *layout = QUiLoader::createLayout(className, parent, name);
-        if (!layout)
-            note(QStringLiteral("layout"), name, className);
-        return layout;
-    }
-    const QString &problem() const { return m_problem; }
-    void forgetProblem() { m_problem.clear(); }
-
-private:
-    void note(const QString &what, const QString &name, const QString &className)
-    {
-        if (m_problem.isEmpty())
-            m_problem = QStringLiteral("%1 \"%2\" is of the unknown class \"%3\"").arg(what, name, className);
-    }
-
-    QString m_problem;
-};
-
-// Qt's loader loads all Designer plug-ins when it is constructed, Qt Quick included. This takes tens of
-// milliseconds and only adds classes that layouts must not use. It is therefore constructed once, while no
-// plug-in folder is set.
-WidgetBuilder &widgetBuilder()
-{
-    static const std::unique_ptr<WidgetBuilder> builder = [] {
-        const QStringList pluginFolders = QCoreApplication::libraryPaths();
-        QCoreApplication::setLibraryPaths({});
-        auto made = std::make_unique<WidgetBuilder>();
-        QCoreApplication::setLibraryPaths(pluginFolders);
-        return made;
-    }();
-    return *builder;
+    Dl_info own{};
+    dladdr(reinterpret_cast<const void *>(&formReader), &own);
+    const QDir folder = QFileInfo(QFile::decodeName(own.dli_fname)).dir();
+    QLibrary library(folder.absoluteFilePath(QStringLiteral("libkelmar-forms.so")));
+    const auto read = reinterpret_cast<ReadForm>(library.resolve(readFormName));
+    if (!read)
+        *problem = library.errorString();
+    return read;
 }
 
 // Calls an action of the owner. A child of the clicked widget.
@@ -125,8 +90,8 @@ private:
 class LayoutLoading
 {
 public:
-    LayoutLoading(const Bundle &bundle, const QString &path, LayoutOwner *owner)
-        : m_bundle(bundle), m_path(path), m_owner(owner)
+    LayoutLoading(const Bundle &bundle, const QString &path, LayoutOwner *owner, const FormMaker &compiled)
+        : m_bundle(bundle), m_path(path), m_owner(owner), m_compiled(compiled)
     {
     }
     TopLevelObjects run();
@@ -135,6 +100,7 @@ private:
     [[noreturn]] void fail(const QString &what) const;
     [[noreturn]] void fail(const QObject *object, const QString &what) const;
     std::unique_ptr<QWidget> build() const;
+    std::unique_ptr<QWidget> buildFromFile() const;
     void fillOutlets(QWidget *root);
     void connectObject(QObject *object);
     void makeBinding(QObject *object, const QString &property, const QVariant &value);
@@ -144,6 +110,7 @@ private:
     const Bundle &m_bundle;
     QString m_path;
     LayoutOwner *m_owner;
+    const FormMaker &m_compiled;
     std::vector<Action> m_actions;
     std::vector<Outlet> m_filled;
 };
@@ -181,18 +148,20 @@ TopLevelObjects LayoutLoading::run()
 
 std::unique_ptr<QWidget> LayoutLoading::build() const
 {
+    const LayoutTranslator::Scope texts(m_bundle);
+    return m_compiled && !QFile::exists(m_path) ? m_compiled() : buildFromFile();
+}
+
+std::unique_ptr<QWidget> LayoutLoading::buildFromFile() const
+{
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         fail(file.errorString());
-    WidgetBuilder &builder = widgetBuilder();
-    builder.forgetProblem();
-    builder.setWorkingDirectory(QFileInfo(m_path).dir());
-    const LayoutTranslator::Scope texts(m_bundle);
-    std::unique_ptr<QWidget> root(builder.load(&file));
-    if (!builder.problem().isEmpty())
-        fail(builder.problem());
+    QString problem;
+    const ReadForm read = formReader(&problem);
+    std::unique_ptr<QWidget> root(read ? read(&file, &problem) : nullptr);
     if (!root)
-        fail(builder.errorString());
+        fail(problem);
     return root;
 }
 
@@ -286,9 +255,10 @@ void LayoutLoading::connectDelegate(QObject *object, const QVariant &value)
 
 } // namespace
 
-TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner)
+TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner,
+                           const FormMaker &compiled)
 {
-    return LayoutLoading(bundle, bundle.layoutPath(name), owner).run();
+    return LayoutLoading(bundle, bundle.layoutPath(name), owner, compiled).run();
 }
 
 QString keyPathSetBy(const QWidget *control)
@@ -300,6 +270,11 @@ QString keyPathSetBy(const QWidget *control)
             return control->property(name.constData()).toString().section(QLatin1Char('|'), 0, 0).trimmed();
     }
     return {};
+}
+
+WidgetFactory layoutWidgetFactory(const QString &className)
+{
+    return widgetFactories().value(className);
 }
 
 void registerLayoutWidget(const QString &className, WidgetFactory factory)

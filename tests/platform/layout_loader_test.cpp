@@ -88,6 +88,7 @@ private Q_SLOTS:
     void misfitsAreNamed_data();
     void misfitsAreNamed();
     void brokenFilesAreNamed();
+    void filePrecedesTheCompiledForm();
 
 private:
     // Why the form cannot be loaded; null if it can, or the complete message if it does not contain the file.
@@ -225,6 +226,25 @@ void LayoutLoaderTest::brokenFilesAreNamed()
              u"there is no widget for outlet \"title\""_s);
     QCOMPARE(problem("<ui version=\"4.0\">" + widget("QSlider", "title") + "</ui>"),
              u"widget \"title\": outlet \"title\" takes no QSlider"_s);
+}
+
+void LayoutLoaderTest::filePrecedesTheCompiledForm()
+{
+    TestBundle files;
+    files.writeStrings(u"en"_s, u"Form"_s, {{u"Mode"_s, u"Compiled mode"_s}});
+    const auto titleOf = [&files] {
+        SampleOwner owner;
+        const auto objects = platform::loadLayout(*files.open(), u"Form"_s, &owner, [] {
+            auto form = std::make_unique<QWidget>();
+            auto *title = new QLabel(QCoreApplication::translate("Form", "Mode"), form.get());
+            title->setObjectName(u"title"_s);
+            return form;
+        });
+        return owner.m_title->text();
+    };
+    QCOMPARE(titleOf(), u"Compiled mode"_s);
+    files << QByteArray();
+    QCOMPARE(titleOf(), u"Print &mode"_s);
 }
 
 QTEST_MAIN(LayoutLoaderTest)
