@@ -21,8 +21,10 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <vector>
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <malloc.h>
 #include <unistd.h>
@@ -199,17 +201,40 @@ void setLocale(int argc, char **argv)
     speakDialogLanguage();
 }
 
-// Queries the dialog's printer while Qt starts. Null if no dialog opens on a printer. The worker reads the
-// locale and the environment, which must be set before.
-std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments, bool hasDisplay)
+bool opensDialog(const Arguments &arguments, bool hasDisplay)
 {
-    const bool opens = arguments.needsWindow() && !arguments.help && !arguments.version &&
-                       (hasDisplay || !arguments.screenshot.isEmpty());
-    if (!opens || !arguments.ppdFile.isEmpty())
+    return arguments.needsWindow() && !arguments.help && !arguments.version &&
+           (hasDisplay || !arguments.screenshot.isEmpty());
+}
+
+// Queries the dialog's printer while Qt starts. Null if the dialog opens on a PPD file. The worker reads the
+// locale and the environment, which must be set before.
+std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments)
+{
+    if (!arguments.ppdFile.isEmpty())
         return nullptr;
     if (!arguments.server.isEmpty())
         qputenv("CUPS_SERVER", arguments.server.toUtf8());
     return std::make_shared<EarlyPrinter>(arguments.printer);
+}
+
+// Reads the configuration of fontconfig while Qt connects to the display; this takes a quarter of the
+// processor time until the first paint. Qt uses the result when it looks for its first font, and must not do
+// so earlier. Invalid if this Qt does not use fontconfig.
+std::future<void> readFontsEarly()
+{
+    // libfontconfig is a dependency of Qt, not of this program.
+    const auto read = reinterpret_cast<int (*)()>(dlsym(RTLD_DEFAULT, "FcInit"));
+    if (!read)
+        return {};
+    auto done = std::make_shared<std::promise<void>>();
+    platform::Background::start(
+        [read, done] {
+            read();
+            done->set_value();
+        },
+        nullptr, {});
+    return done->get_future();
 }
 
 int run(const Arguments &arguments, std::shared_ptr<EarlyPrinter> early, QFile *out, QFile *err)
@@ -247,10 +272,14 @@ int main(int argc, char **argv)
     QString error;
     const QStringList given = commandLine(argc, argv);
     auto arguments = parseArguments(given, &error);
-    const auto early = arguments ? askEarly(*arguments, hasDisplay) : nullptr;
+    const bool opens = arguments && opensDialog(*arguments, hasDisplay);
+    const auto early = opens ? askEarly(*arguments) : nullptr;
+    const std::future<void> fonts = opens ? readFontsEarly() : std::future<void>();
     wordsForDisplay = passed.data();
     QApplication app(argc, argv);
     wordsForDisplay = nullptr;
+    if (fonts.valid())
+        fonts.wait();
     installTranslations(&app);
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
         return runForService(hasDisplay);

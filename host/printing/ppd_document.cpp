@@ -15,9 +15,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <functional>
+#include <utility>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/mman.h>
 
 // Only the ppd_* files of this folder use the deprecated PPD interface of libcups.
@@ -332,6 +335,18 @@ PpdConstraints &PpdDocument::constraints() const
     if (!m_constraints)
         m_constraints = std::make_unique<PpdConstraints>(this);
     return *m_constraints;
+}
+
+void PpdDocument::releaseConstraintRecords()
+{
+    constexpr int many = 1000;
+    readConstraints();
+    (void)ppdConflicts(m_ppd); // reads them on the first call
+    const bool isLarge = m_ppd->num_consts >= many;
+    std::free(std::exchange(m_ppd->consts, nullptr));
+    m_ppd->num_consts = 0;
+    if (isLarge)
+        malloc_trim(0); // the array lies between chunks that are in use
 }
 
 QList<Conflict> PpdDocument::conflicts() const

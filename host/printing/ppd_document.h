@@ -84,6 +84,9 @@ public:
 
     // Reads the constraints now, so that the first query about them is not delayed.
     void readConstraints() const { constraints(); }
+    // Frees the constraints in the record, which both this object and libcups have copied by then. Call when
+    // no bundle reads the record.
+    void releaseConstraintRecords();
     // The conflicts among the marks, as determined by libcups's rules.
     QList<Conflict> conflicts() const;
     // The choices of an option that the PPD forbids together with the marks of other options, each with one

@@ -102,6 +102,8 @@ void DialogSession::loadPanels(Extensions &extensions)
         protection.choices[it.key()].append(it.value());
     setProtection(protection);
     adoptPanels(extensions.panelsFor(m_ppd->modelName(), &m_host, &m_notices));
+    if (m_panels.count() == 0)
+        m_ppd->releaseConstraintRecords();
 }
 
 void DialogSession::setProtection(const Protection &protection)
