@@ -16,7 +16,6 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from session import DOCUMENT, SOURCE, Session  # noqa: E402
 
 BATCH_GOAL = 1.5  # times lp
-PREVIEW_GOAL = 3.0  # times pdftoppm, which reads the document once and prints no layout
 ROUNDS = 15
 MEGABYTE = 1 << 20
 
@@ -77,7 +76,8 @@ def preview_figures(session, build):
         plain, = alternately([["pdftoppm", "-f", "1", "-l", "1", "-scale-to", "900", path, session.folder / "page"]],
                              session.environment, rounds)
         yield f"first preview page, {what}", made, "ms", None
-        yield f"first preview page, {what}, to pdftoppm ({plain:.0f} ms)", made / plain, "times", PREVIEW_GOAL
+        # Without the layout of the job, as in a viewer.
+        yield f"pdftoppm for the same page, {what}", plain, "ms", None
 
 
 def batch_figures(session, build):

@@ -201,6 +201,14 @@ void setLocale(int argc, char **argv)
     speakDialogLanguage();
 }
 
+// The first call precedes the workers, which read the environment; a later one usually changes nothing.
+void chooseServer(const Arguments &arguments)
+{
+    const QByteArray server = arguments.server.toUtf8();
+    if (!server.isEmpty() && qgetenv("CUPS_SERVER") != server)
+        qputenv("CUPS_SERVER", server);
+}
+
 bool opensDialog(const Arguments &arguments, bool hasDisplay)
 {
     return arguments.needsWindow() && !arguments.help && !arguments.version &&
@@ -213,8 +221,6 @@ std::shared_ptr<EarlyPrinter> askEarly(const Arguments &arguments)
 {
     if (!arguments.ppdFile.isEmpty())
         return nullptr;
-    if (!arguments.server.isEmpty())
-        qputenv("CUPS_SERVER", arguments.server.toUtf8());
     return std::make_shared<EarlyPrinter>(arguments.printer);
 }
 
@@ -273,12 +279,16 @@ int main(int argc, char **argv)
     const QStringList given = commandLine(argc, argv);
     auto arguments = parseArguments(given, &error);
     const bool opens = arguments && opensDialog(*arguments, hasDisplay);
+    const bool starts = arguments && !arguments->help && !arguments->version;
+    if (starts)
+        chooseServer(*arguments);
     const auto early = opens ? askEarly(*arguments) : nullptr;
-    const std::future<void> fonts = opens ? readFontsEarly() : std::future<void>();
+    const std::future<void> fonts =
+        starts ? readFontsEarly() : std::future<void>(); // panels need fonts anyway
     wordsForDisplay = passed.data();
     QApplication app(argc, argv);
     wordsForDisplay = nullptr;
-    if (fonts.valid())
+    if (opens && fonts.valid()) // without a window, the print server is queried first
         fonts.wait();
     installTranslations(&app);
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
@@ -307,7 +317,6 @@ int main(int argc, char **argv)
                       "There is no display to open the dialog on. Use --batch to print without it.")));
         return ExitFailure;
     }
-    if (!arguments->server.isEmpty())
-        qputenv("CUPS_SERVER", arguments->server.toUtf8());
+    chooseServer(*arguments);
     return run(*arguments, early, &out, &err);
 }

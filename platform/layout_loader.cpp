@@ -255,6 +255,11 @@ void LayoutLoading::connectDelegate(QObject *object, const QVariant &value)
 
 } // namespace
 
+TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner)
+{
+    return loadLayout(bundle, name, owner, {});
+}
+
 TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner,
                            const FormMaker &compiled)
 {

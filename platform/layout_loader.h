@@ -53,6 +53,15 @@ public:
 
 using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 
+// Loads layouts/NAME.ui of the bundle for an owner. Fills its outlets, creates the bindings from the dynamic
+// properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`,
+// and translates the texts with the bundle's string tables. Every declared outlet must be filled; the form
+// itself fills "view" if no widget has that name. On failure nothing is left behind, and Exception
+// (layoutName) is raised; it names the file, the widget, and the outlet, key, property, transformer, action
+// or delegate that does not match.
+KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
+                                                  LayoutOwner *owner);
+
 // Creates a form that uic has compiled into the code of its bundle.
 using FormMaker = std::function<std::unique_ptr<QWidget>()>;
 template <typename Root, typename Form>
@@ -62,16 +71,10 @@ std::unique_ptr<QWidget> makeForm()
     Form().setupUi(root.get());
     return root;
 }
-
-// Loads layouts/NAME.ui of the bundle for an owner, or if there is no such file, the form that `compiled`
-// creates; this takes less than half the time. Fills its outlets, creates the bindings from the dynamic
-// properties `bind_<property>` ("key.path" or "key.path | Transformer"), connects `action` and `delegate`,
-// and translates the texts with the bundle's string tables. Every declared outlet must be filled; the form
-// itself fills "view" if no widget has that name. On failure nothing is left behind, and Exception
-// (layoutName) is raised; it names the file, the widget, and the outlet, key, property, transformer, action
-// or delegate that does not match.
+// The same for a layout that may be compiled: if there is no file, `compiled` creates the form, which takes
+// less than half the time. May be null.
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
-                                                  LayoutOwner *owner, const FormMaker &compiled = {});
+                                                  LayoutOwner *owner, const FormMaker &compiled);
 
 // The key path that the user sets with a control of a layout; null for a widget that only displays a value.
 KELMAR_PLATFORM_EXPORT QString keyPathSetBy(const QWidget *control);

@@ -228,7 +228,7 @@ void CommandLineTest::bundleOfOthersIsNotLoaded_data()
     QTest::newRow("folder around it") << u".."_s << 0777;
     QTest::newRow("folder above that") << u"../.."_s << 0777;
     QTest::newRow("code") << u"libOrbM880.so"_s << 0664;
-    QTest::newRow("help") << u"help/en/print-mode.md"_s << 0646;
+    QTest::newRow("string table") << u"strings/OrbM880_de.qm"_s << 0646;
 }
 
 void CommandLineTest::bundleOfOthersIsNotLoaded()
