@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: Apache-2.0
 """A private display and print server for the benchmarks, and the start of a program there."""
 import os
+import select
+import signal
 import statistics
 import subprocess
 import tempfile
@@ -11,6 +13,8 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parents[1]
 CUPSD = SOURCE / "scripts/lib/private-cupsd.sh"
 DOCUMENT = SOURCE / "demo/report.pdf"
+PATIENCE = 20  # seconds for a program to start
+SERVER_PATIENCE = 120  # seconds for a server to read all its queues
 DEVICE = "socket://127.0.0.42:9100"  # never contacted
 
 
@@ -27,9 +31,10 @@ class Session:
         for part in ("home", "runtime"):
             (self.folder / part).mkdir(mode=0o700)
         self._start_display()
+        self._server = None
         try:
             self._write_queues()
-            self._cupsd("start")
+            self._start_server()
         except BaseException:
             self.__exit__()
             raise
@@ -39,7 +44,9 @@ class Session:
         return self
 
     def __exit__(self, *_):
-        self._cupsd("stop")
+        if self._server:
+            self._server.terminate()
+            self._server.wait()
         self._xvfb.terminate()
         self._xvfb.wait()
         self._folder.cleanup()
@@ -62,11 +69,16 @@ class Session:
                 file.write(f"<Printer q{number}>\nInfo Copier {number}\nLocation Floor {number % 40}\nDeviceURI {DEVICE}\n"
                            "State Idle\nAccepting Yes\n</Printer>\n")
 
-    def _cupsd(self, verb, *words):
-        subprocess.run([CUPSD, verb, self.folder / "cups", *words], check=verb != "stop", stdout=subprocess.DEVNULL)
+    def _start_server(self):
+        self._server = subprocess.Popen([CUPSD, "run", self.folder / "cups"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        until = time.monotonic() + SERVER_PATIENCE
+        while subprocess.run(["lpstat", "-h", self.folder / "cups/cups.sock", "-r"], capture_output=True).stdout != b"scheduler is running\n":
+            if self._server.poll() is not None or time.monotonic() > until:
+                raise SystemExit("cupsd does not answer")
+            time.sleep(0.1)
 
     def add_queue(self, name, ppd, device=DEVICE):
-        self._cupsd("add-queue", name, ppd, device)
+        subprocess.run([CUPSD, "add-queue", self.folder / "cups", name, ppd, device], check=True, stdout=subprocess.DEVNULL)
 
     def add_large_queue(self, build, constraints):
         """A queue with 200 options, whose name is returned."""
@@ -78,7 +90,8 @@ class Session:
         return name
 
     def launch(self, command):
-        """Runs a program with the time just before exec in KELMAR_T0_NS; returns its (milliseconds, kilobytes)."""
+        """Runs a program with the time just before exec in KELMAR_T0_NS; returns its (milliseconds, kilobytes). Null
+        if it takes too long."""
         reading, writing = os.pipe()
         pid = os.fork()
         if pid == 0:
@@ -91,19 +104,27 @@ class Session:
                 os._exit(127)
         os.close(writing)
         with os.fdopen(reading) as stream:
+            is_late = not select.select([stream], [], [], PATIENCE)[0]
+            if is_late:
+                os.kill(pid, signal.SIGKILL)
             text = stream.read()
         _, status = os.waitpid(pid, 0)
+        if is_late:
+            return None
         if status != 0:
             raise SystemExit(f"{command[0]} failed: {text}")
         figures = {line.split("\t")[0]: float(line.split("\t")[1]) for line in text.splitlines() if line.count("\t") == 2}
         return figures["process start to options painted"], figures["resident memory with options"]
 
     def measure(self, programs, repetitions):
-        """Runs the programs alternately; the first round only warms the caches. Returns the medians."""
+        """Runs the programs alternately; the first round only warms the caches. Returns the medians; without
+        programs that take too long."""
         samples = {name: [] for name in programs}
         for turn in range(repetitions + 1):
-            for name, command in programs.items():
-                figures = self.launch(command)
-                if turn:
+            for name in list(samples):
+                figures = self.launch(programs[name])
+                if figures is None:
+                    del samples[name]
+                elif turn:
                     samples[name].append(figures)
         return {name: tuple(statistics.median(column) for column in zip(*rows)) for name, rows in samples.items()}
