@@ -184,6 +184,7 @@ bool ServerConnection::connect()
         m_http.reset();
         return false;
     }
+    m_isEncrypted = httpIsEncrypted(m_http.get()) != 0;
     if (!m_login->accepted.isEmpty())
         httpSetAuthString(m_http.get(), basicScheme, m_login->accepted.constData());
     return true;
@@ -237,8 +238,8 @@ const char *ServerConnection::nextPassword()
     const bool again = m_offeredLogin;
     if (again || !m_login->given) {
         const QString user = QString::fromUtf8(cupsUser());
-        const bool isInClear =
-            !httpIsEncrypted(m_http.get()) && !httpAddrLocalhost(httpGetAddress(m_http.get()));
+        m_isEncrypted |= httpIsEncrypted(m_http.get()) != 0; // the server may have asked for TLS meanwhile
+        const bool isInClear = !m_isEncrypted && !httpAddrLocalhost(httpGetAddress(m_http.get()));
         m_login->given =
             m_login->prompt ? m_login->prompt({serverName(), user, again, isInClear}) : std::nullopt;
         m_idle.restart(); // the user's time does not count

@@ -114,7 +114,8 @@ private:
     QDeadlineTimer m_deadline{QDeadlineTimer::Forever};
     QElapsedTimer m_idle;
     bool m_offeredLogin = false;
-    QByteArray m_password; // libcups keeps the pointer until the next prompt
+    bool m_isEncrypted = false; // or was, if the server has closed it; libcups reconnects in the same way
+    QByteArray m_password;      // libcups keeps the pointer until the next prompt
 };
 
 } // namespace host

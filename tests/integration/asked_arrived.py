@@ -18,6 +18,7 @@ The expected values of a case are NAME=VALUE with these names:
   *NAME          a feature of the printer that the data sets up
   NAME           an option as received by filters and backend
   exit           the exit code of the program; if it is not 0, nothing may be printed
+  warned=yes     the program has announced that the password is sent without encryption
 """
 import concurrent.futures
 import gzip
@@ -32,6 +33,7 @@ import shlex
 import shutil
 import signal
 import socket
+import ssl
 import subprocess
 import sys
 import tempfile
@@ -175,8 +177,11 @@ CASES = [
     # queues that require authentication: by the socket's credentials, and by name and password
     ("members", "report.pdf", "-n 2 --set ColorType=Mono", "pages=2 copies=2 *ColorType=Mono"),
     ("login:office", "five.pdf", "-P 2-3 --set PrintMode=Private --set privatePassword=11111",
-     "pages=2 *PrintMode=Private *DINDigit3=1",
+     "pages=2 *PrintMode=Private *DINDigit3=1 warned=no",
      "-P 2-3 -o PrintMode=Private -o DINDigit1=1 -o DINDigit2=1 -o DINDigit3=1 -o DINDigit4=1 -o DINDigit5=1"),
+    # the same over the network, without TLS and with it
+    ("clear:office", "report.pdf", "", "pages=2 warned=yes"),
+    ("secure:office", "report.pdf", "", "pages=2 warned=no"),
 ]
 
 
@@ -241,7 +246,7 @@ class Setup:
         self.children = []
         self.servers = [folder / "near", folder / "away"]
         self.socket = self.servers[0] / "cups.sock"
-        self.port = free_port()
+        self.port, self.clear_port, self.secure_port = free_port(), free_port(), free_port()
 
     def start(self):
         near, away = self.servers
@@ -274,8 +279,21 @@ class Setup:
             "Dest admin/single Duplex=None sides=one-sided\n")
         (self.folder / "locks.json").write_text(json.dumps({"rules": [
             {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble"}, "lockedPanels": ["color-settings-2"]}]}))
-        self.child(["python3", source / "tests/integration/faulty_proxy.py", self.folder / "login", self.socket, "login"],
+        login = ["python3", source / "tests/integration/faulty_proxy.py"]
+        self.child([*login, self.folder / "login", self.socket, "login"],
                    lambda: answers(socket.AF_UNIX, str(self.folder / "login")))
+        for port, *files in ((self.clear_port,), (self.secure_port, *self.certificate())):
+            self.child([*login, ":".join(map(str, (port, *files))), self.socket, "login"],
+                       lambda port=port: answers(socket.AF_INET, ("localhost", port)))
+
+    def certificate(self):
+        """Paths of the certificate and the key of the server that listens on the network, which creates them for the first
+        client."""
+        context = ssl.create_default_context()
+        context.check_hostname, context.verify_mode = False, ssl.CERT_NONE
+        with socket.create_connection(("localhost", self.port)) as plain, context.wrap_socket(plain):
+            pass
+        return [next((self.servers[1] / "etc/ssl").glob(f"*.{kind}")) for kind in ("crt", "key")]
 
     def child(self, words, is_ready, **environment):
         log = open(self.folder / "log", "ab")
@@ -317,7 +335,9 @@ class Setup:
 
     def address(self, queue):
         far = f"localhost:{self.port}"
-        return {"remote": far, "tls": far, "login": self.folder / "login"}.get(queue.split(":")[0], self.socket)
+        # 0.0.0.0 reaches this machine, but unlike localhost counts as an address of the network.
+        return {"remote": far, "tls": far, "login": self.folder / "login", "clear": f"0.0.0.0:{self.clear_port}",
+                "secure": f"0.0.0.0:{self.secure_port}"}.get(queue.split(":")[0], self.socket)
 
 
 def on_terminal(words, environment, results):
@@ -357,9 +377,9 @@ class Job:
         words = [word for word in words if not re.match("KELMAR_[A-Z_]+=", word)]
         self.words = [*map(str, words), "-h", str(setup.address(queue)), "-d", queue.split(":")[-1], "-t", title,
                       str(path)]
-        self.needs_login = queue.startswith("login:")
-        if queue.startswith("tls:"):
-            self.variables["CUPS_ENCRYPTION"] = "Required"
+        self.needs_login = queue.startswith(("login:", "clear:", "secure:"))
+        if queue.startswith(("tls:", "secure:")):
+            self.variables["CUPS_ENCRYPTION"] = "Required" if queue.startswith("tls:") else "Always"
         self.was_sent = True
         self.problem = ""
         self.facts = {}
@@ -375,6 +395,7 @@ class Job:
         words = [*map(str, command), *self.words]
         if self.needs_login:
             code, said = on_terminal(words, environment, self.setup.folder / f"{self.title}.json")
+            self.facts["warned"] = "yes" if "without encryption" in said else "no"
         else:
             done = run(*words, env=environment, stdin=subprocess.DEVNULL, cwd=self.setup.folder)
             code, said = done.returncode, done.stdout.decode() + done.stderr.decode()

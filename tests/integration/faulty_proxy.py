@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: Apache-2.0
 """A proxy for a print server that makes selected requests fail: faulty_proxy.py LISTEN SERVER FAULT [NUMBER]
 
-LISTEN and SERVER are socket paths. The fault affects request NUMBER (counted from 1) of its operation and all later ones:
+LISTEN and SERVER are socket paths. LISTEN may also be a TCP port, or PORT:CERTIFICATE:KEY for one that requires TLS.
+The fault affects request NUMBER (counted from 1) of its operation and all later ones:
   OPERATION-lost OPERATION-garbage OPERATION-truncated
                                                the request arrives; its response is lost, garbage, or truncated
   OPERATION-dropped OPERATION-gone             the request is discarded; the response reports that the job does not exist
@@ -27,6 +28,7 @@ import http.server
 import os
 import socket
 import socketserver
+import ssl
 import struct
 import sys
 import threading
@@ -113,7 +115,7 @@ class Relay(http.server.BaseHTTPRequestHandler):
             raise Broken
         upstream = Upstream("localhost")
         headers = {k: v for k, v in self.headers.items()
-                   if k.lower() not in ("transfer-encoding", "expect", "content-length", "authorization")}
+                   if k.lower() not in ("host", "transfer-encoding", "expect", "content-length", "authorization")}
         upstream.request(self.command, self.path, body or None, headers)
         answer = upstream.getresponse()
         content = answer.read()
@@ -167,6 +169,23 @@ class Server(socketserver.ThreadingMixIn, socketserver.UnixStreamServer):
     daemon_threads = True
 
 
-with Server(listen, Relay) as proxy:
+class NetworkServer(socketserver.ThreadingMixIn, socketserver.TCPServer):
+    daemon_threads = True
+    allow_reuse_address = True
+
+
+def listening():
+    if listen.startswith("/"):
+        return Server(listen, Relay)
+    port, *files = listen.split(":")
+    made = NetworkServer(("", int(port)), Relay)
+    if files:
+        context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+        context.load_cert_chain(*files)
+        made.socket = context.wrap_socket(made.socket, server_side=True)
+    return made
+
+
+with listening() as proxy:
     print("ready", flush=True)
     proxy.serve_forever()

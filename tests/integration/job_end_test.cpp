@@ -53,6 +53,17 @@ private:
     QByteArray m_before;
 };
 
+quint16 freePort()
+{
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    auto *name = reinterpret_cast<sockaddr *>(&address);
+    address.sin_family = AF_INET;
+    const platform::UniqueFd socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    const bool isBound = ::bind(socket.get(), name, size) == 0;
+    return isBound && ::getsockname(socket.get(), name, &size) == 0 ? ntohs(address.sin_port) : 0;
+}
+
 // The dialog with the document, without a bundle.
 struct PlainDialog
 {
@@ -96,7 +107,7 @@ private Q_SLOTS:
 
 private:
     // During its lifetime, all requests go through faulty_proxy.py, which makes some of them fail.
-    ChildProcess faulty(const QString &fault, int number = 1);
+    ChildProcess faulty(const QString &fault, int number = 1, quint16 port = 0);
     int unfinishedJobs() const;
     // Pauses the queue "other" first, so that the job stays there.
     void printOnPaused(PrintWindow *window);
@@ -146,9 +157,9 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
     QTRY_VERIFY_WITH_TIMEOUT(window.findChild<ResultPage *>()->text().contains(u"done"_s), 10000);
 }
 
-ChildProcess JobEndTest::faulty(const QString &fault, int number)
+ChildProcess JobEndTest::faulty(const QString &fault, int number, quint16 port)
 {
-    const QString socket = m_server.folder() + u"/faulty.sock"_s;
+    const QString socket = port > 0 ? QString::number(port) : m_server.folder() + u"/faulty.sock"_s;
     QFile::remove(socket);
     QString problem;
     auto proxy = startChildProcess(u"python3"_s,
@@ -447,16 +458,18 @@ void JobEndTest::loginIsRefusedOnce()
 
 void JobEndTest::loginDialogGoesWithTheWindow()
 {
-    const auto proxy = faulty(u"login"_s);
-    QVERIFY(proxy);
-    const OtherServer scope(m_server.folder() + u"/faulty.sock"_s);
+    const quint16 port = freePort();
+    const auto proxy = faulty(u"login"_s), inClear = faulty(u"login"_s, 1, port);
+    QVERIFY(proxy && port > 0 && inClear);
     CupsPrintSystem system;
     Extensions none({});
     PrintTask task;
     task.files = {document};
     task.printer = u"office"_s;
     PrintError error;
-    for (const bool answers : {false, true}) {
+    for (const bool isRemote : {false, true}) { // and not encrypted
+        // 0.0.0.0 reaches this machine, but counts as an address of the network.
+        const OtherServer scope(isRemote ? u"0.0.0.0:%1"_s.arg(port) : m_server.folder() + u"/faulty.sock"_s);
         auto window = std::make_unique<PrintWindow>(system, none, task);
         system.setLoginPrompt([parent = QPointer<QWidget>(window.get())](const LoginQuestion &question) {
             return askForLogin(question, parent);
@@ -464,8 +477,13 @@ void JobEndTest::loginDialogGoesWithTheWindow()
         QVERIFY(window->open(&error));
         window->show();
         QTRY_VERIFY(window->findChild<QDialog *>());
-        const auto fields = window->findChild<QDialog *>()->findChildren<QLineEdit *>();
-        if (answers) {
+        const auto *dialog = window->findChild<QDialog *>();
+        bool isWarned = false;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            isWarned |= label->text().contains(u"without encryption"_s);
+        QCOMPARE(isWarned, isRemote);
+        const auto fields = dialog->findChildren<QLineEdit *>();
+        if (isRemote) {
             fields.first()->setText(u"anna"_s);
             QTest::keyClicks(fields.last(), u"secret"_s);
             QTest::keyClick(fields.last(), Qt::Key_Return);
