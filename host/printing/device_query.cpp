@@ -81,7 +81,9 @@ QList<LoadedTray> traysOf(ipp_t *answer)
 Supply levelOf(const QString &name, qint64 level, qint64 most)
 {
     const bool isKnown = level >= 0 && most > 0 && level <= most;
-    return {name, isKnown ? static_cast<int>(level * 100 / most) : -1, level == 0};
+    // A multiple of what a device reports may exceed 64 bits.
+    const double percent = isKnown ? static_cast<double>(level) * 100 / static_cast<double>(most) : -1;
+    return {name, static_cast<int>(percent), level == 0};
 }
 
 // "type=sheetFeedAutoRemovableTray;maxcapacity=250;level=100;name=Tray 1"
