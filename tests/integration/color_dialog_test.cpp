@@ -293,9 +293,12 @@ void ColorDialogTest::waitingIsShown_data()
     QTest::newRow("page turned") << Start();
     QTest::newRow("opened at the panel")
         << Start([](PrintTask &task) { task.firstPage = u"color-settings-1"_s; });
-    QTest::newRow("setting of the command line") << Start([](PrintTask &task) {
+    // The last one resets the balance.
+    QTest::newRow("settings of the command line") << Start([](PrintTask &task) {
         task.prepare = [](DialogSession *session, PrintError *error) {
-            return choose(session, {u"ImageType"_s, u"Advanced"_s}, error);
+            return choose(session, {u"ColorBalanceCyan"_s, u"3"_s}, error) &&
+                   choose(session, {u"ImageType"_s, u"Advanced"_s}, error) &&
+                   choose(session, {u"ColorType"_s, u"Mono"_s}, error);
         };
     });
 }
@@ -314,8 +317,13 @@ void ColorDialogTest::waitingIsShown()
     QCOMPARE(device.requestCount(), rowsOfADevice);
     QCOMPARE(askedUnseen, 0);
     QVERIFY(m_window->isSettled()); // for a picture
-    if (qstrcmp(QTest::currentDataTag(), "setting of the command line") != 0)
-        QVERIFY(!find<QPushButton>("presets")->text().contains(u"(changed)"_s));
+    // The settings of the command line are changes to the defaults, but no steps of undo.
+    const QString imageType = m_window->session()->ppd()->markedChoice(u"ImageType"_s);
+    QCOMPARE(find<QPushButton>("presets")->text().contains(u"(changed)"_s), imageType == u"Advanced"_s);
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"ImageType"_s), imageType);
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"ColorType"_s),
+             imageType == u"Advanced"_s ? u"Mono"_s : u"Auto"_s);
     QVERIFY(!QApplication::overrideCursor());
     for (const QLabel *label : m_window->findChildren<QLabel *>())
         QVERIFY(!label->text().startsWith(u"Asking the printer"_s));
