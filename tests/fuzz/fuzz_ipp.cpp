@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Responses of a print server. The first byte selects the operation; the responses to its requests follow,
-// separated by "--next--".
+// Responses of a print server. The first byte selects the operation, and when a submission is canceled; the
+// responses to its requests follow, separated by "--next--".
 
 #include "host/printing/ipp_query.h"
 #include "host/printing/print_system.h"
@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 namespace {
 
@@ -46,7 +48,16 @@ struct Stage
     }
 };
 
-void ask(unsigned question, const Stage &stage)
+// Cancels at the given call; never with 0.
+SubmissionWatch watchOf(unsigned looks)
+{
+    return {{}, [looks, asked = 0U]() mutable {
+                asked = std::min(asked + 1, looks);
+                return looks > 0 && asked == looks;
+            }};
+}
+
+void ask(unsigned question, unsigned looks, const Stage &stage)
 {
     // The server responds or closes the connection without delay.
     const ServerPatience patience{.connectTime = 1000, .idleTime = 1000, .recoveryTime = 0};
@@ -74,7 +85,7 @@ void ask(unsigned question, const Stage &stage)
         requireThat(system.changeJob(stage.destination, 7, JobAction::Cancel, &error) || error);
         break;
     case Submit: {
-        const Submission submission = system.submit(stage.request, {});
+        const Submission submission = system.submit(stage.request, watchOf(looks));
         requireThat(submission.isAccepted() != bool(submission.error));
         break;
     }
@@ -102,6 +113,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     }
     answers.append(rest);
     stage.server.setAnswers(answers);
-    ask(data[0] % QuestionCount, stage);
+    ask(data[0] % QuestionCount, data[0] / QuestionCount, stage);
     return 0;
 }
