@@ -29,7 +29,7 @@ QString fileNameFromBytes(const QByteArray &bytes)
 {
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(bytes);
-    if (!decoder.hasError())
+    if (!decoder.hasError() && text.toUtf8() == bytes) // without an incomplete character at the end
         return text;
     QString name;
     for (const char c : bytes) {
