@@ -31,6 +31,16 @@ bool isErrorStatus(http_status_t status)
     return status >= HTTP_STATUS_BAD_REQUEST;
 }
 
+// A server may send any number, but not all of them are values of the type.
+http_status_t statusOf(int number)
+{
+    const bool isOfLibcups =
+        number == HTTP_STATUS_ERROR ||
+        (number >= HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED && number <= HTTP_STATUS_CUPS_PKI_ERROR);
+    const bool isKnown = isOfLibcups || (number >= HTTP_STATUS_NONE && number < 600);
+    return isKnown ? static_cast<http_status_t>(number) : HTTP_STATUS_SERVER_ERROR;
+}
+
 // Whether a number belongs to one of the classes of statuses: success, client error, server error.
 bool isIppStatus(int status)
 {
@@ -297,7 +307,8 @@ Reply ServerConnection::exchangeOnce(ipp_t *request, const QByteArray &resource,
 {
     Reply reply;
     const size_t length = upload ? CUPS_LENGTH_VARIABLE : ippLength(request);
-    const http_status_t status = cupsSendRequest(m_http.get(), request, resource.constData(), length);
+    const http_status_t status =
+        statusOf(cupsSendRequest(m_http.get(), request, resource.constData(), length));
     if (status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_OK) {
         reply.httpStatus = status;
         if (status == HTTP_STATUS_SERVICE_UNAVAILABLE)
@@ -337,7 +348,7 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
         if (count <= 0)
             return count == 0;
         const http_status_t status =
-            cupsWriteRequestData(m_http.get(), block.constData(), static_cast<size_t>(count));
+            statusOf(cupsWriteRequestData(m_http.get(), block.constData(), static_cast<size_t>(count)));
         if (status != HTTP_STATUS_CONTINUE) {
             reply->httpStatus = status;
             reply->outcome = isErrorStatus(status) ? Reply::Outcome::Refused : Reply::Outcome::Lost;
@@ -355,7 +366,7 @@ bool ServerConnection::writeDocument(Upload *upload, Reply *reply)
 void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Reply *reply)
 {
     do
-        reply->httpStatus = httpUpdate(m_http.get());
+        reply->httpStatus = statusOf(httpUpdate(m_http.get()));
     while (reply->httpStatus == HTTP_STATUS_CONTINUE && goesOn());
     if (reply->httpStatus == HTTP_STATUS_OK) {
         reply->message = readMessage();
@@ -429,7 +440,7 @@ http_status_t ServerConnection::requestFile(const QByteArray &resource)
             return HTTP_STATUS_ERROR;
         http_status_t status = HTTP_STATUS_CONTINUE;
         while (status == HTTP_STATUS_CONTINUE && goesOn())
-            status = httpUpdate(m_http.get());
+            status = statusOf(httpUpdate(m_http.get()));
         if (status != HTTP_STATUS_UNAUTHORIZED)
             return status;
         httpFlush(m_http.get());

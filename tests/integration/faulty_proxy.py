@@ -10,7 +10,7 @@ The fault affects request NUMBER (counted from 1) of its operation and all later
   OPERATION-dropped OPERATION-gone             the request is discarded; the response reports that the job does not exist
                  OPERATION is ask (Get-Printer-Attributes), create (Create-Job), send (Send-Document) or look
                  (Get-Job-Attributes)
-  create-nonsense                              the response to Create-Job has an undefined status
+  create-nonsense create-odd                   the response to Create-Job has an undefined status, in IPP or HTTP
   create-negative create-endless               the response to Create-Job contains job -5, or is endless
   send-forgotten                               Send-Document is answered; afterwards all jobs are unknown
   send-foreign                                 the response to Send-Document is lost; all jobs have the token of another program
@@ -137,7 +137,8 @@ class Relay(http.server.BaseHTTPRequestHandler):
             self.answer(answer.status, content[:-1], 1 << 40)
             while True:
                 self.wfile.write(attribute(0x41, b"more", b"x" * 1000) * 60)
-        self.answer(answer.status, b"", len(content), answer.headers.get("Content-Type", "application/ipp"))
+        status = 401100 if hit and fault == "create-odd" else answer.status
+        self.answer(status, b"", len(content), answer.headers.get("Content-Type", "application/ipp"))
         if hit and fault.endswith("-truncated"):
             self.wfile.write(content[:len(content) // 2])
             raise Broken

@@ -187,7 +187,7 @@ void JobEndTest::lostAnswers_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<int>("printed");
     for (const char *fault : {"create-lost", "create-garbage", "create-negative", "create-nonsense",
-                              "create-endless", "send-cut"})
+                              "create-odd", "create-endless", "send-cut"})
         QTest::newRow(fault) << 1 << 1 << u"rejected"_s << 1 << 0;
     for (const char *fault : {"send-lost", "send-garbage", "send-truncated"})
         QTest::newRow(fault) << 1 << 1 << u"accepted"_s << 0 << 1;
