@@ -20,9 +20,9 @@ from session import PATIENCE, SOURCE, Session  # noqa: E402
 CONSTRAINTS = (0, startup.FEW, 5000, 10000, startup.MANY)
 QUEUES = (1, 100, 1000, 10000)
 SERIES = (startup.OURS, startup.QT, startup.GTK, startup.BARE)
-# Parts of the main thread's work that do not contain each other, by the functions that do it.
+# Parts of the main thread's work by their functions. None contains another, but some share the loading of a font.
 COSTS = {
-    "loading and binding shared libraries": ("dl_main", "_dl_open"),
+    "loading and binding the libraries of the program": ("dl_main",),
     "connecting to the display": ("QGuiApplicationPrivate::createPlatformIntegration()",),
     "fonts": ("QFontDatabasePrivate::findFont",),
     "the printer's panels": ("host::DialogSession::loadPanels",),
