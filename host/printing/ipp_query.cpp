@@ -35,6 +35,8 @@ void readDefaults(ipp_t *answer, QueueFacts *facts)
     }
 }
 
+constexpr qsizetype mostSupplies = 100; // a list that a user can read
+
 int integerAt(ipp_t *answer, const char *name, int index, int otherwise)
 {
     ipp_attribute_t *attribute = ippFindAttribute(answer, name, IPP_TAG_INTEGER);
@@ -134,7 +136,7 @@ QList<Supply> suppliesOf(ipp_t *answer)
     const QStringList names = attributeTexts(answer, "marker-names");
     const QStringList types = attributeTexts(answer, "marker-types");
     QList<Supply> supplies;
-    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(std::min(names.size(), mostSupplies)); ++i) {
         if (types.value(i).startsWith(QLatin1String("waste"), Qt::CaseInsensitive))
             continue;
         const int level = integerAt(answer, "marker-levels", i, -1);
