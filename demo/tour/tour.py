@@ -234,34 +234,6 @@ def taken_in(d):
     return "Space takes it in again: %s" % d.says("1 sheet, 2 sides, color")
 
 
-@step("enlarged")
-def enlarged(d):
-    d.keys("ctrl+plus", "ctrl+plus", "ctrl+plus")
-    return "Ctrl++, three times: the page is enlarged %s" % d.says("2×")
-
-
-@step("whole-again")
-def whole_again(d):
-    d.keys("ctrl+0")
-    return "Ctrl+0: the whole page, %s" % d.says("1×")
-
-
-@step("booklet")
-def booklet(d):
-    d.click(d.get("check box", "Booklet"))
-    shows(d, SIDES, "Short-Edge Binding")
-    return "Booklet: %s is %s. Preview: %s. %s" % (
-        SIDES[:-1], d.box(SIDES).name, d.says("Sheet 1, front"), d.says("2 sheets, 4 sides, color"))
-
-
-@step("booklet-undone")
-def booklet_undone(d):
-    d.keys("ctrl+z")
-    shows(d, SIDES, "Long-Edge Binding")
-    shows(d, PER_SIDE, "4")
-    return "Ctrl+Z: %s. %s" % (d.box(SIDES).name, d.says("1 sheet, 2 sides, color"))
-
-
 @step("job")
 def job(d):
     go_to(d, "Job")
