@@ -42,7 +42,7 @@ void logException(const platform::Exception &exception)
 
 QVPDELoading_M880::~QVPDELoading_M880() = default;
 
-platform::FormMaker QVPDELoading_M880::formMaker(const QString &) const
+platform::CompiledForm QVPDELoading_M880::compiledForm(const QString &) const
 {
     return {};
 }
@@ -120,7 +120,7 @@ void QVPDE_M880::loadInterface(const QVPDELoading_M880 &loading)
         throw platform::Exception(platform::Exception::layoutName,
                                   QStringLiteral("There is no bundle to load \"%1\" from").arg(nibName));
     m_topLevelNibObjects =
-        platform::loadLayout(*m_manager->bundle(), nibName, this, loading.formMaker(nibName));
+        platform::loadLayout(*m_manager->bundle(), nibName, this, loading.compiledForm(nibName));
     explainControls();
     QVDetachSliderBindingsInPDE(this, &m_updaterInfo);
     QVAttachNotificationsForSlidersInPDE(this, m_updaterInfo.get());

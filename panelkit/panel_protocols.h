@@ -23,6 +23,6 @@ public:
     virtual ~QVPDELoading_M880();
     // Name of the layout for a printer model; empty for a panel without a user interface.
     virtual QString nibNameForModel(const QString &model) const = 0;
-    // Creates the layout of this name if the bundle has no file for it; null if none was compiled.
-    virtual platform::FormMaker formMaker(const QString &nibName) const;
+    // The compiled form of the layout of this name; by default none.
+    virtual platform::CompiledForm compiledForm(const QString &nibName) const;
 };

@@ -5,6 +5,7 @@
 
 #include "device/advanced_color_settings.h"
 #include "layouts/ColorSettings1.h"
+#include "layouts/digests.h"
 #include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
 #include "panels/view_switch.h"
@@ -65,9 +66,9 @@ QString QVPDEColorSettings1_M880::nibNameForModel(const QString &) const
     return QStringLiteral("ColorSettings1");
 }
 
-platform::FormMaker QVPDEColorSettings1_M880::formMaker(const QString &) const
+platform::CompiledForm QVPDEColorSettings1_M880::compiledForm(const QString &) const
 {
-    return platform::makeForm<QVViewStack_M880, Ui_ColorSettings1>;
+    return {platform::makeForm<QVViewStack_M880, Ui_ColorSettings1>, digestOfColorSettings1};
 }
 
 bool QVPDEColorSettings1_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

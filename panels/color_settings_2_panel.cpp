@@ -4,6 +4,7 @@
 #include "panels/color_settings_2_panel.h"
 
 #include "layouts/ColorSettings2.h"
+#include "layouts/digests.h"
 #include "panelkit/obstacle_text.h"
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
@@ -46,10 +47,11 @@ QString QVPDEColorSettings2_M880::nibNameForModel(const QString &model) const
     return model == QVHazel ? reducedLayout : QStringLiteral("ColorSettings2");
 }
 
-platform::FormMaker QVPDEColorSettings2_M880::formMaker(const QString &nibName) const
+platform::CompiledForm QVPDEColorSettings2_M880::compiledForm(const QString &nibName) const
 {
-    return nibName == reducedLayout ? platform::makeForm<QWidget, reduced::Ui_ColorSettings2>
-                                    : platform::makeForm<QWidget, Ui_ColorSettings2>;
+    if (nibName == reducedLayout)
+        return {platform::makeForm<QWidget, reduced::Ui_ColorSettings2>, digestOfColorSettings2_2600c};
+    return {platform::makeForm<QWidget, Ui_ColorSettings2>, digestOfColorSettings2};
 }
 
 bool QVPDEColorSettings2_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

@@ -22,7 +22,7 @@ public:
     QVPDEColorSettings2_M880();
 
     QString nibNameForModel(const QString &model) const override;
-    platform::FormMaker formMaker(const QString &nibName) const override;
+    platform::CompiledForm compiledForm(const QString &nibName) const override;
     bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager) override;
     // Depends only on the model name.
     QStringList supportedPPDOptionKeys() override;

@@ -4,6 +4,7 @@
 #include "panels/print_mode_panel.h"
 
 #include "layouts/PrintMode.h"
+#include "layouts/digests.h"
 #include "panelkit/obstacle_text.h"
 #include "panelkit/ppd_popup_button.h"
 #include "platform/bundle.h"
@@ -59,9 +60,9 @@ QString QVPDEPrintMode_M880::nibNameForModel(const QString &) const
     return QStringLiteral("PrintMode");
 }
 
-platform::FormMaker QVPDEPrintMode_M880::formMaker(const QString &) const
+platform::CompiledForm QVPDEPrintMode_M880::compiledForm(const QString &) const
 {
-    return platform::makeForm<QWidget, Ui_PrintMode>;
+    return {platform::makeForm<QWidget, Ui_PrintMode>, digestOfPrintMode};
 }
 
 bool QVPDEPrintMode_M880::initWithManager(std::shared_ptr<QVPDEManager_M880> manager)

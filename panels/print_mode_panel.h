@@ -23,7 +23,7 @@ public:
     QVPDEPrintMode_M880();
 
     QString nibNameForModel(const QString &model) const override;
-    platform::FormMaker formMaker(const QString &nibName) const override;
+    platform::CompiledForm compiledForm(const QString &nibName) const override;
     bool initWithManager(std::shared_ptr<QVPDEManager_M880> manager) override;
     QStringList supportedPPDOptionKeys() override;
     std::vector<platform::Outlet> outlets() override;

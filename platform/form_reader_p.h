@@ -11,7 +11,7 @@ namespace platform {
 
 // The only function of libkelmar-forms.so: builds a widget from an open Designer file. Null with a message on
 // failure; the caller owns the widget. The library is loaded with the first such file, since it depends on
-// Qt's form loader, and that on OpenGL. Compiled layouts need neither.
+// Qt's form loader, and that on OpenGL. Compiled forms need neither.
 using ReadForm = QWidget *(*)(QFile *file, QString *problem);
 inline constexpr const char *readFormName = "kelmarReadForm";
 

@@ -14,6 +14,7 @@
 #include "platform/value_transformer.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -90,7 +91,7 @@ private:
 class LayoutLoading
 {
 public:
-    LayoutLoading(const Bundle &bundle, const QString &path, LayoutOwner *owner, const FormMaker &compiled)
+    LayoutLoading(const Bundle &bundle, const QString &path, LayoutOwner *owner, const CompiledForm &compiled)
         : m_bundle(bundle), m_path(path), m_owner(owner), m_compiled(compiled)
     {
     }
@@ -100,7 +101,7 @@ private:
     [[noreturn]] void fail(const QString &what) const;
     [[noreturn]] void fail(const QObject *object, const QString &what) const;
     std::unique_ptr<QWidget> build() const;
-    std::unique_ptr<QWidget> buildFromFile() const;
+    bool isCompiled(QFile *file) const;
     void fillOutlets(QWidget *root);
     void connectObject(QObject *object);
     void makeBinding(QObject *object, const QString &property, const QVariant &value);
@@ -110,7 +111,7 @@ private:
     const Bundle &m_bundle;
     QString m_path;
     LayoutOwner *m_owner;
-    const FormMaker &m_compiled;
+    const CompiledForm &m_compiled;
     std::vector<Action> m_actions;
     std::vector<Outlet> m_filled;
 };
@@ -146,17 +147,22 @@ TopLevelObjects LayoutLoading::run()
     return topLevel;
 }
 
+bool LayoutLoading::isCompiled(QFile *file) const
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    const bool isRead = m_compiled.make && hash.addData(file);
+    file->seek(0);
+    return isRead && hash.result().toHex() == m_compiled.digest;
+}
+
 std::unique_ptr<QWidget> LayoutLoading::build() const
 {
     const LayoutTranslator::Scope texts(m_bundle);
-    return m_compiled && !QFile::exists(m_path) ? m_compiled() : buildFromFile();
-}
-
-std::unique_ptr<QWidget> LayoutLoading::buildFromFile() const
-{
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         fail(file.errorString());
+    if (isCompiled(&file))
+        return m_compiled.make();
     QString problem;
     const ReadForm read = formReader(&problem);
     std::unique_ptr<QWidget> root(read ? read(&file, &problem) : nullptr);
@@ -261,7 +267,7 @@ TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwne
 }
 
 TopLevelObjects loadLayout(const Bundle &bundle, const QString &name, LayoutOwner *owner,
-                           const FormMaker &compiled)
+                           const CompiledForm &compiled)
 {
     return LayoutLoading(bundle, bundle.layoutPath(name), owner, compiled).run();
 }

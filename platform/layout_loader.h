@@ -62,8 +62,13 @@ using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
-// Creates a form that uic has compiled into the code of its bundle.
-using FormMaker = std::function<std::unique_ptr<QWidget>()>;
+// A form that uic has compiled into the code of its bundle, and the SHA-256 of its file in hexadecimal
+// digits.
+struct CompiledForm
+{
+    std::unique_ptr<QWidget> (*make)() = nullptr;
+    const char *digest = nullptr;
+};
 template <typename Root, typename Form>
 std::unique_ptr<QWidget> makeForm()
 {
@@ -71,10 +76,10 @@ std::unique_ptr<QWidget> makeForm()
     Form().setupUi(root.get());
     return root;
 }
-// The same for a layout that may be compiled: if there is no file, `compiled` creates the form, which takes
-// less than half the time. May be null.
+// The same. If the file is the one that was compiled, the compiled form is used instead of parsing the file,
+// which takes less than half the time. Without `make`, every file is parsed.
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
-                                                  LayoutOwner *owner, const FormMaker &compiled);
+                                                  LayoutOwner *owner, const CompiledForm &compiled);
 
 // The key path that the user sets with a control of a layout; null for a widget that only displays a value.
 KELMAR_PLATFORM_EXPORT QString keyPathSetBy(const QWidget *control);

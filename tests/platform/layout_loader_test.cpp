@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCryptographicHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
@@ -88,7 +89,7 @@ private Q_SLOTS:
     void misfitsAreNamed_data();
     void misfitsAreNamed();
     void brokenFilesAreNamed();
-    void filePrecedesTheCompiledForm();
+    void compiledFormStandsForItsFile();
 
 private:
     // Why the form cannot be loaded; null if it can, or the complete message if it does not contain the file.
@@ -228,23 +229,31 @@ void LayoutLoaderTest::brokenFilesAreNamed()
              u"widget \"title\": outlet \"title\" takes no QSlider"_s);
 }
 
-void LayoutLoaderTest::filePrecedesTheCompiledForm()
+// A compiled form stands for the file that it was compiled from, not for another or a missing one.
+void LayoutLoaderTest::compiledFormStandsForItsFile()
 {
     TestBundle files;
     files.writeStrings(u"en"_s, u"Form"_s, {{u"Mode"_s, u"Compiled mode"_s}});
-    const auto titleOf = [&files] {
-        SampleOwner owner;
-        const auto objects = platform::loadLayout(*files.open(), u"Form"_s, &owner, [] {
-            auto form = std::make_unique<QWidget>();
-            auto *title = new QLabel(QCoreApplication::translate("Form", "Mode"), form.get());
-            title->setObjectName(u"title"_s);
-            return form;
-        });
-        return owner.m_title->text();
+    const auto make = []() -> std::unique_ptr<QWidget> {
+        auto form = std::make_unique<QWidget>();
+        auto *title = new QLabel(QCoreApplication::translate("Form", "Mode"), form.get());
+        title->setObjectName(u"title"_s);
+        return form;
     };
-    QCOMPARE(titleOf(), u"Compiled mode"_s);
-    files << QByteArray();
-    QCOMPARE(titleOf(), u"Print &mode"_s);
+    const QByteArray text = QByteArrayLiteral("a form");
+    const QByteArray digest = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
+    SampleOwner owner;
+    const auto load = [&] {
+        return platform::loadLayout(*files.open(), u"Form"_s, &owner, {make, digest.constData()});
+    };
+    QVERIFY_THROWS_EXCEPTION(Exception, load());
+    files.writeFile(u"layouts/Form.ui"_s, text);
+    {
+        const TopLevelObjects objects = load();
+        QCOMPARE(owner.m_title->text(), u"Compiled mode"_s);
+    }
+    files.writeFile(u"layouts/Form.ui"_s, text + ' ');
+    QVERIFY_THROWS_EXCEPTION(Exception, load());
 }
 
 QTEST_MAIN(LayoutLoaderTest)
