@@ -279,16 +279,14 @@ int main(int argc, char **argv)
     const QStringList given = commandLine(argc, argv);
     auto arguments = parseArguments(given, &error);
     const bool opens = arguments && opensDialog(*arguments, hasDisplay);
-    const bool starts = arguments && !arguments->help && !arguments->version;
-    if (starts)
+    if (arguments && !arguments->help && !arguments->version)
         chooseServer(*arguments);
     const auto early = opens ? askEarly(*arguments) : nullptr;
-    const std::future<void> fonts =
-        starts ? readFontsEarly() : std::future<void>(); // panels need fonts anyway
+    const std::future<void> fonts = opens ? readFontsEarly() : std::future<void>();
     wordsForDisplay = passed.data();
     QApplication app(argc, argv);
     wordsForDisplay = nullptr;
-    if (opens && fonts.valid()) // without a window, the print server is queried first
+    if (fonts.valid())
         fonts.wait();
     installTranslations(&app);
     if (QApplication::arguments().mid(1) == QStringList(QStringLiteral("--dialog-request")))
