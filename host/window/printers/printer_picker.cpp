@@ -45,6 +45,11 @@ PrinterPicker::PrinterPicker(QWidget *parent)
             [this] { Q_EMIT picked(m_list->at(m_box->currentIndex()).name()); });
 }
 
+PrinterPicker::~PrinterPicker()
+{
+    m_box->disconnect(this); // an open list is closed while the base class deletes the box
+}
+
 void PrinterPicker::offerToAdd()
 {
     m_box->setOffersToAdd(!m_isFixed && PrinterSettings::find().has_value());

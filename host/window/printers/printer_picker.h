@@ -26,6 +26,7 @@ class PrinterPicker : public QWidget
     Q_OBJECT
 public:
     explicit PrinterPicker(QWidget *parent = nullptr);
+    ~PrinterPicker() override;
 
     // Sets the printers of the print server. The selected printer is added if it is missing; if only its
     // preset is missing, the printer is shown.
