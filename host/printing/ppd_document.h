@@ -61,12 +61,10 @@ public:
     // An option and choice with their texts; the keywords if the PPD has no such option or choice.
     OptionChoice described(const QString &keyword, const QString &choice) const;
 
-    // Marks a choice. False, without a change, if the PPD has no such option or choice, or its values are not
-    // valid.
+    // Marks a choice. False, without a change, if the PPD has no such choice, or its values are not valid.
     bool mark(const QString &keyword, const QString &choice);
     // Marks the choices of options from a destination or the command line, including standard names such as
-    // "media" and "sides". Unknown options are ignored. Returns localised problems; invalid values are not
-    // marked.
+    // "media". Unknown options are ignored. Returns localised problems; invalid values are not marked.
     QStringList markOptions(const QMap<QString, QString> &options);
     // Whether markOptions() converts an option of this name to marks.
     bool takesOption(const QString &name) const;
@@ -84,8 +82,7 @@ public:
 
     // Reads the constraints now, so that the first query about them is not delayed.
     void readConstraints() const { constraints(); }
-    // Frees the constraints in the record, which both this object and libcups have copied by then. Call when
-    // no bundle reads the record.
+    // Frees the record's constraints, which libcups has copied by then. Call when no bundle reads the record.
     void releaseConstraintRecords();
     // The conflicts among the marks, as determined by libcups's rules.
     QList<Conflict> conflicts() const;

@@ -52,8 +52,7 @@ struct Reply
 class ServerConnection
 {
 public:
-    static constexpr qint64 longestAnswer =
-        16 * 1024 * 1024; // bytes; the jobs of a busy queue are some 100 KB
+    static constexpr qint64 longestAnswer = 16 * 1024 * 1024; // bytes; a busy queue's jobs are some 100 KB
 
     explicit ServerConnection(LoginKeeper *login); // borrowed
     // A connection to a printer, which is opened once. `unopened` is null if the printer has no address.

@@ -135,7 +135,6 @@ void PrintWindow::connectParts()
     connect(m_guide, &Guide::partsChanged, &m_layout, &WindowLayout::arrange);
 }
 
-// Connects long-running work, and the buttons that start and end it.
 void PrintWindow::connectWork()
 {
     connect(m_print, &QPushButton::clicked, this, &PrintWindow::print);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/extensions/extensions.h"
+#include "host/printing/loaded_media.h"
 #include "host/session/carry_over.h"
 #include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
@@ -40,6 +41,8 @@ private Q_SLOTS:
     void secretSettings_data();
     void secretSettings();
     void blockingWorkIsAnnounced();
+    void mediaThatIsNotLoaded_data();
+    void mediaThatIsNotLoaded();
     void brokenExtensionIsToldAndPassedOver();
     void panelThatCannotBeMadeIsTold();
 
@@ -426,6 +429,58 @@ void DialogSessionTest::panelThatCannotBeMadeIsTold()
     problems->panelFailed(u"Fax"_s, u"Fax.ui is missing"_s);
     QCOMPARE(m_session->takeNotices(),
              QStringList(u"A page of the printer's settings cannot be shown: Fax.ui is missing"_s));
+}
+
+void DialogSessionTest::mediaThatIsNotLoaded_data()
+{
+    using Marks = QMap<QString, QString>;
+    QTest::addColumn<QList<LoadedTray>>("trays");
+    QTest::addColumn<Marks>("marks");
+    QTest::addColumn<QStringList>("missing");
+    const LoadedTray a4{u"tray-1"_s, u"stationery"_s, u"A4"_s, 210, 297};
+    const LoadedTray a3Labels{u"tray-2"_s, u"labels"_s, u"A3"_s, 297, 420};
+    LoadedTray fedByTheOtherEdge = a4, unknown = a4, nameless = a4;
+    std::swap(fedByTheOtherEdge.width, fedByTheOtherEdge.length);
+    unknown.width = unknown.length = 0;
+    unknown.type.clear();
+    nameless.source = u"some-tray"_s;
+    const QList<LoadedTray> both{a4, a3Labels};
+    const Marks a3{{u"PageSize"_s, u"A3"_s}};
+    QTest::newRow("nothing reported") << QList<LoadedTray>() << a3 << QStringList();
+    QTest::newRow("loaded") << both << a3 << QStringList();
+    QTest::newRow("other edge") << QList<LoadedTray>{fedByTheOtherEdge} << Marks() << QStringList();
+    QTest::newRow("size") << QList<LoadedTray>{a4} << a3
+                          << QStringList{u"“Tabloid A3” is not loaded in any tray."_s};
+    QTest::newRow("size in a tray") << both << Marks{{u"PageSize"_s, u"A3"_s}, {u"InputSlot"_s, u"Tray1"_s}}
+                                    << QStringList{u"“Tabloid A3” is not loaded in “Upper Tray”."_s};
+    QTest::newRow("type") << QList<LoadedTray>{a4} << Marks{{u"MediaType"_s, u"Labels"_s}}
+                          << QStringList{u"“Sticky Labels” is not loaded in any tray."_s};
+    QTest::newRow("size of the type") << both << Marks{{u"MediaType"_s, u"Labels"_s}}
+                                      << QStringList{u"“Usual A4” is loaded, but not as “Sticky Labels”."_s};
+    QTest::newRow("empty tray") << both << Marks{{u"InputSlot"_s, u"Tray3"_s}}
+                                << QStringList{u"Nothing is loaded in “Third Tray”."_s};
+    QTest::newRow("unknown size") << QList<LoadedTray>{unknown} << a3 << QStringList();
+    QTest::newRow("unknown tray") << QList<LoadedTray>{nameless} << Marks{{u"InputSlot"_s, u"Tray3"_s}}
+                                  << QStringList();
+}
+
+void DialogSessionTest::mediaThatIsNotLoaded()
+{
+    QFETCH(QList<LoadedTray>, trays);
+    using Marks = QMap<QString, QString>;
+    QFETCH(Marks, marks);
+    const auto ppd =
+        openPpd(ppdOption("PageSize/Size", {"A4/Usual A4", "A3/Tabloid A3"}) +
+                "*PaperDimension A4: \"595 842\"\n*PaperDimension A3: \"842 1191\"\n"
+                "*ImageableArea A4: \"12 12 583 830\"\n*ImageableArea A3: \"12 12 830 1179\"\n" +
+                ppdOption("MediaType/Type", {"Auto/Any", "Stationery/Plain", "Labels/Sticky Labels"}) +
+                ppdOption("InputSlot/Tray",
+                          {"Auto/Any", "Tray1/Upper Tray", "Tray2/Lower Tray", "Tray3/Third Tray"}));
+    QVERIFY(ppd);
+    const LoadedMedia loaded(ppd.get(), trays);
+    for (auto it = marks.begin(); it != marks.end(); ++it)
+        QVERIFY(ppd->mark(it.key(), it.value()));
+    QTEST(loaded.missing(*ppd), "missing");
 }
 
 QTEST_MAIN(DialogSessionTest)

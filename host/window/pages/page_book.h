@@ -43,13 +43,11 @@ public:
     // The row of a page by name: "general", "print-mode", "more", "job", "summary", a panel's kind, its last
     // part, or its title; -1 if there is none.
     int pageNamed(const QString &name) const;
-    int currentRow() const { return m_current; } // -1 if there is none
-    // A name for pageNamed(); empty if there is no page.
-    QString currentName() const { return nameOf(m_current); }
+    int currentRow() const { return m_current; }              // -1 if there is none
+    QString currentName() const { return nameOf(m_current); } // for pageNamed(); empty without a page
     QString nameOf(int row) const;
-    QString titleOf(int row) const; // localised
-    // The parts of a page that have been built; null before it is first shown.
-    QWidget *builtPage(int row) const;
+    QString titleOf(int row) const;    // localised
+    QWidget *builtPage(int row) const; // its parts that have been built; null before it is first shown
     // Shows a page, unless the current page must not be left. Disabled while its panel queries a device.
     void showPage(int row);
     void turn(int steps); // shows the page that many rows further, or the last one in that direction
