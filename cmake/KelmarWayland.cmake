@@ -34,6 +34,8 @@ endforeach()
 add_library(kelmar_xdg_foreign STATIC ${generated})
 set_target_properties(kelmar_xdg_foreign PROPERTIES AUTOMOC OFF)
 target_link_libraries(kelmar_xdg_foreign PUBLIC PkgConfig::WaylandClient)
+# With -isystem, the standard headers would not find those of the C library in a folder that the compiler searches anyway.
+list(REMOVE_ITEM WaylandClient_INCLUDE_DIRS ${CMAKE_CXX_IMPLICIT_INCLUDE_DIRECTORIES})
 # Only for the source that uses it; the others must keep the options of the precompiled headers.
 set(KELMAR_XDG_FOREIGN_OPTIONS -DKELMAR_WAYLAND_PARENT)
 foreach(folder ${CMAKE_CURRENT_BINARY_DIR} ${KELMAR_QPA_FOLDER} ${WaylandClient_INCLUDE_DIRS})
