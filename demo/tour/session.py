@@ -198,17 +198,21 @@ class Program:
         at = control.queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
         return at.x, at.y, at.width, at.height
 
-    def click(self, control):
-        """Where it is on the screen, once it has stopped moving."""
+    def point_at(self, control, left=None):
+        """Moves the mouse to the middle of the control, or that far from its left edge, once it has stopped moving."""
         def still():
             place = self.place(control)
             time.sleep(INTERVAL)
             return place if place == self.place(control) and place[2] > 0 else None
         x, y, width, height = wait("a place to click at", still)
-        x, y = x + width // 2, y + height // 2
+        x, y = x + (width // 2 if left is None else left), y + height // 2
         if not (0 <= x < SCREEN[0] and 0 <= y < SCREEN[1]):
             raise Failed("“%s” is outside the screen, at %d, %d" % (control.name, x, y))
-        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+        subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
+
+    def click(self, control, left=None):
+        self.point_at(control, left)
+        subprocess.run(["xdotool", "click", "1"], check=True)
 
     def choose(self, label, item):
         """Opens the list of a box with the mouse, and picks an item there."""

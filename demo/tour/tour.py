@@ -20,7 +20,9 @@ CUPS, DOCUMENT, PICTURES = sys.argv[1:4]
 PRESETS = os.path.expanduser("~/.cups/lpoptions")  # where every program of the user looks for them
 PRESET = "Handout"
 PER_SIDE, BORDER, TYPE, SIDES = "Pages per side:", "Border:", "Paper Type:", "Two-Sided Printing:"
+HOLD, PRIORITY = "Print:", "Priority:"
 TONER = "Toner Save"
+CHECK_BOX = 10  # pixels from the left edge of a thumbnail to within its check box
 STEPS = []
 
 
@@ -62,11 +64,40 @@ def go_to(d, page):
     wait("the page “%s”" % page, lambda: d.now("label", page))
 
 
+def find(d, name):
+    """Moves to a setting that may be outside the visible part of its page, and waits until the keyboard is on it."""
+    d.keys("ctrl+f")
+    d.focus_on("Find a setting")
+    d.type(name)
+    d.get("list", "Settings found")
+    d.keys("Return")
+    return d.focus_on(name)
+
+
+def is_on(d, name, on):
+    wait("%s to be %s" % (name, "on" if on else "off"), lambda: d.has(d.get("check box", name), "CHECKED") == on)
+
+
 @step("opened")
 def opened(d):
     window = d.get("dialog", "Print “handout.pdf”")
-    return "kelmar-print -d office handout.pdf opened the window %s. Preview: %s" % (
-        window.name, d.says("Page 1 of 8"))
+    return "kelmar-print -d office handout.pdf opened the window %s. Printer: %s. Preview: %s" % (
+        window.name, d.says("Ready"), d.says("Page 1 of 8"))
+
+
+@step("cost")
+def cost(d):
+    before = d.says("8 sheets, color")
+    d.keys("alt+c")
+    d.focus_on("Copies")
+    d.keys("ctrl+a", "3")
+    return "The footer shows what the job takes: %s. Alt+C, typed 3 copies: %s" % (before, d.says("24 sheets, color"))
+
+
+@step("one-copy")
+def one_copy(d):
+    d.keys("ctrl+a", "1")
+    return "1 copy again: %s" % d.says("8 sheets, color")
 
 
 @step("options")
@@ -142,15 +173,10 @@ def found(d):
     return "Return: Color Settings 1 is open, the keyboard is on the %s “%s”" % (control.getRoleName(), control.name)
 
 
-def toner_is_saved(d, on):
-    wait("%s to be %s" % (TONER, "on" if on else "off"),
-         lambda: d.has(d.get("check box", TONER), "CHECKED") == on)
-
-
 @step("changed")
 def changed(d):
     d.keys("space")
-    toner_is_saved(d, True)
+    is_on(d, TONER, True)
     return "Space: it is on, and marked: %s" % d.get("check box", TONER).description
 
 
@@ -168,14 +194,14 @@ def undone(d):
     d.keys("ctrl+z")
     said = d.says("Nothing has been changed.")
     go_to(d, "Color Settings 1")
-    toner_is_saved(d, False)
+    is_on(d, TONER, False)
     return "Ctrl+Z: the summary says “%s”, “Toner Save” is off" % said
 
 
 @step("redone")
 def redone(d):
     d.keys("ctrl+shift+z")
-    toner_is_saved(d, True)
+    is_on(d, TONER, True)
     return "Ctrl+Shift+Z: “Toner Save” is on again"
 
 
@@ -221,11 +247,10 @@ def preview(d):
 
 @step("left-out")
 def left_out(d):
-    d.click(d.get("list item", "2"))
-    d.keys("space")
+    d.click(d.get("list item", "2"), CHECK_BOX)
     pale = d.says("Not printed")
-    cost = d.says("1 sheet, color")
-    return "Space on the second thumbnail leaves it out: %s; %s" % (pale, cost)
+    takes = d.says("1 sheet, color")
+    return "Cleared the check box of the second thumbnail, which leaves the page out: %s; %s" % (pale, takes)
 
 
 @step("taken-in")
@@ -234,16 +259,66 @@ def taken_in(d):
     return "Space takes it in again: %s" % d.says("1 sheet, 2 sides, color")
 
 
+@step("enlarged")
+def enlarged(d):
+    d.keys("ctrl+plus", "ctrl+plus", "ctrl+plus")
+    return "Ctrl++, three times: the page is enlarged %s" % d.says("2×")
+
+
+@step("whole-again")
+def whole_again(d):
+    d.keys("ctrl+0")
+    return "Ctrl+0: the whole page, %s" % d.says("1×")
+
+
+@step("mirrored")
+def mirrored(d):
+    find(d, "Mirror image")
+    d.keys("space")
+    is_on(d, "Mirror image", True)
+    return "Ctrl+F, “Mirror image”, Space: it is on"
+
+
+@step("mirror-undone")
+def mirror_undone(d):
+    d.keys("ctrl+z")
+    is_on(d, "Mirror image", False)
+    return "Ctrl+Z: it is off"
+
+
+@step("booklet")
+def booklet(d):
+    find(d, "Booklet")
+    d.keys("space")
+    is_on(d, "Booklet", True)
+    shows(d, SIDES, "Short-Edge Binding")
+    d.says("Page 2 of 4")
+    d.click(d.get("button", "Page before"))
+    return "Ctrl+F, “Booklet”, Space: %s is %s. Preview: %s. %s" % (
+        SIDES[:-1], d.box(SIDES).name, d.says("Sheet 1, front"), d.says("2 sheets, 4 sides, color"))
+
+
+@step("booklet-undone")
+def booklet_undone(d):
+    d.keys("ctrl+z")
+    is_on(d, "Booklet", False)
+    shows(d, SIDES, "Long-Edge Binding")
+    shows(d, PER_SIDE, "4")
+    return "Ctrl+Z: %s. %s" % (d.box(SIDES).name, d.says("1 sheet, 2 sides, color"))
+
+
 @step("job")
 def job(d):
     go_to(d, "Job")
-    d.choose("Priority:", "High")
-    shows(d, "Priority:", "High")
+    d.choose(HOLD, "When it is released")
+    shows(d, HOLD, "When it is released")
+    d.choose(PRIORITY, "High")
+    shows(d, PRIORITY, "High")
     d.keys("Tab", "Tab", "Tab")
     d.focus_on("Billing information")
     d.type("Project 7")
     go_to(d, "Summary")
-    return "Job: priority High, billing information “%s”" % d.says("Project 7")
+    return "Job: printed when it is released, priority High, billing information “%s”" % d.says("Project 7")
 
 
 @step("sent")
@@ -252,11 +327,18 @@ def sent(d):
     return "Ctrl+P: %s" % d.says("Sent to “office”")
 
 
+@step("held")
+def held(d):
+    return "The print server holds the job: %s" % d.says(": on hold")
+
+
 @step("job-ended")
 def job_ended(d):
+    d.get("button", "Release")
+    d.keys("alt+r")
     job = wait("the end of the job", lambda: next(
         (text for text in d.texts() if re.match(r"Job \d+: done", text)), None))
-    return "The job is followed to its end: %s" % job.replace("\n", ", ")
+    return "Alt+R releases the job, and it is followed to its end: %s" % job.replace("\n", ", ")
 
 
 @step("opened-again")
