@@ -27,7 +27,7 @@ private Q_SLOTS:
         text("-1", true, false);
         text(" 7", true, false);
         text("01", true, false);
-        text("7x", true, true);
+        text("9x", true, true);
         text("Yesterday", false, true);
         text("T", false, true);
         text("False", false, false);
