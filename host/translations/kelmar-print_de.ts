@@ -607,6 +607,122 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Am Abend</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>In der Nacht</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Nach der Freigabe</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Dringend</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Nicht eingestuft</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Eingestuft</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Deckblätter</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Abrechnungsinformation</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 davor, %2 danach</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Kontobenutzer</translation>
+    </message>
+</context>
+<context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
@@ -806,6 +922,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Mirror image</source>
         <translation>Spiegelbild</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>In „%1“ ist nichts eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>„%1“ ist in „%2“ nicht eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>„%1“ ist in keiner Kassette eingelegt.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>„%1“ ist eingelegt, aber nicht als „%2“.</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1855,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+</context>
+<context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
@@ -2052,6 +2194,40 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blatt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n Blattseite</numerusform>
+            <numerusform>%n Blattseiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>schwarzweiß</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>farbig</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>Seiten unterschiedlicher Größe</translation>
+    </message>
+</context>
+<context>
     <name>host::JobDesk</name>
     <message>
         <source>Sending the document to the print server…</source>
@@ -2068,6 +2244,44 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Reading the document…</source>
         <translation>Das Dokument wird gelesen …</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorität:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Deckblatt davor:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Deckblatt danach:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Drucken:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Abrechnungsinformation:</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>Das Drucken wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2604,74 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::PresetMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Standard des Druckers</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Mein Standard</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings: %1</source>
+        <translation>&amp;Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>„%1“ speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>„%1“ umbenennen …</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>„%1“ löschen …</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>Als meinen &amp;Standard für diesen Drucker verwenden</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Voreinstellung löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Die Voreinstellung „%1“ löschen? Auch andere Programme verwenden sie.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+</context>
+<context>
     <name>host::Preview</name>
     <message>
         <source>the document is read when it is printed</source>
@@ -2410,6 +2692,17 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ist fehlgeschlagen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2790,25 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>This page is not printed</source>
         <translation>Diese Seite wird nicht gedruckt</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Konto:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Kontobenutzer:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>Ein Auftrag mit Passwort bleibt im Drucker, bis das Passwort am Bedienfeld eingegeben wird. Passwort und Konto werden mit dem Auftrag gesendet und nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2820,71 +3132,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
-    <name>host::PresetMenu</name>
+    <name>host::SessionPanels</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Defaults</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Printer’s Defaults</source>
-        <translation>Standard des Druckers</translation>
-    </message>
-    <message>
-        <source>My Defaults</source>
-        <translation>Mein Standard</translation>
-    </message>
-    <message>
-        <source>Last Used</source>
-        <translation>Zuletzt verwendet</translation>
-    </message>
-    <message>
-        <source>%1 (changed)</source>
-        <comment>the name of settings</comment>
-        <translation>%1 (geändert)</translation>
-    </message>
-    <message>
-        <source>&amp;Settings: %1</source>
-        <translation>&amp;Einstellungen: %1</translation>
-    </message>
-    <message>
-        <source>Save “%1”</source>
-        <translation>„%1“ speichern</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Rename “%1”…</source>
-        <translation>„%1“ umbenennen …</translation>
-    </message>
-    <message>
-        <source>Delete “%1”…</source>
-        <translation>„%1“ löschen …</translation>
-    </message>
-    <message>
-        <source>Use as My &amp;Default for This Printer</source>
-        <translation>Als meinen &amp;Standard für diesen Drucker verwenden</translation>
-    </message>
-    <message>
-        <source>Delete Preset</source>
-        <translation>Voreinstellung löschen</translation>
-    </message>
-    <message>
-        <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>Die Voreinstellung „%1“ löschen? Auch andere Programme verwenden sie.</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
     </message>
 </context>
 <context>
@@ -2939,261 +3194,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 von %2</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSender</name>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>Das Drucken wurde abgebrochen.</translation>
-    </message>
-</context>
-<context>
-    <name>host::SessionPanels</name>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>„%1“ konnte nicht vorbereitet werden: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Die Einstellungen von „%1“ konnten nicht gespeichert werden: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TitleField</name>
-    <message>
-        <source>Title:</source>
-        <translation>Titel:</translation>
-    </message>
-</context>
-<context>
-    <name>host::PreviewDialog</name>
-    <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobCostLabel</name>
-    <message numerus="yes">
-        <source>%n sheets</source>
-        <translation>
-            <numerusform>%n Blatt</numerusform>
-            <numerusform>%n Blatt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sides</source>
-        <translation>
-            <numerusform>%n Blattseite</numerusform>
-            <numerusform>%n Blattseiten</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>black and white</source>
-        <translation>schwarzweiß</translation>
-    </message>
-    <message>
-        <source>color</source>
-        <translation>farbig</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>pages of different sizes</source>
-        <translation>Seiten unterschiedlicher Größe</translation>
-    </message>
-</context>
-<context>
-    <name>JobSettingText</name>
-    <message>
-        <source>Now</source>
-        <translation>Sofort</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Tagsüber</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Am Abend</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>In der Nacht</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>In der zweiten Schicht</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>In der dritten Schicht</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Am Wochenende</translation>
-    </message>
-    <message>
-        <source>When it is released</source>
-        <translation>Nach der Freigabe</translation>
-    </message>
-    <message>
-        <source>Low</source>
-        <translation>Niedrig</translation>
-    </message>
-    <message>
-        <source>Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Hoch</translation>
-    </message>
-    <message>
-        <source>Urgent</source>
-        <translation>Dringend</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keines</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Form</source>
-        <translation>Formular</translation>
-    </message>
-    <message>
-        <source>Unclassified</source>
-        <translation>Nicht eingestuft</translation>
-    </message>
-    <message>
-        <source>Classified</source>
-        <translation>Eingestuft</translation>
-    </message>
-    <message>
-        <source>Confidential</source>
-        <translation>Vertraulich</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Geheim</translation>
-    </message>
-    <message>
-        <source>Top secret</source>
-        <translation>Streng geheim</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>Cover sheets</source>
-        <translation>Deckblätter</translation>
-    </message>
-    <message>
-        <source>Billing information</source>
-        <translation>Abrechnungsinformation</translation>
-    </message>
-    <message>
-        <source>%1 before, %2 after</source>
-        <comment>cover sheets</comment>
-        <translation>%1 davor, %2 danach</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
-        <source>Account</source>
-        <translation>Konto</translation>
-    </message>
-    <message>
-        <source>Account user</source>
-        <translation>Kontobenutzer</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobPage</name>
-    <message>
-        <source>Priority:</source>
-        <translation>Priorität:</translation>
-    </message>
-    <message>
-        <source>Cover sheet before:</source>
-        <translation>Deckblatt davor:</translation>
-    </message>
-    <message>
-        <source>Cover sheet after:</source>
-        <translation>Deckblatt danach:</translation>
-    </message>
-    <message>
-        <source>Print:</source>
-        <translation>Drucken:</translation>
-    </message>
-    <message>
-        <source>At a time of day</source>
-        <translation>Zu einer Uhrzeit</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>Uhrzeit</translation>
-    </message>
-    <message>
-        <source>Billing information:</source>
-        <translation>Abrechnungsinformation:</translation>
-    </message>
-</context>
-<context>
-    <name>LoadedText</name>
-    <message>
-        <source>Nothing is loaded in “%1”.</source>
-        <translation>In „%1“ ist nichts eingelegt.</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in “%2”.</source>
-        <translation>„%1“ ist in „%2“ nicht eingelegt.</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in any tray.</source>
-        <translation>„%1“ ist in keiner Kassette eingelegt.</translation>
-    </message>
-    <message>
-        <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>„%1“ ist eingelegt, aber nicht als „%2“.</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintModePage</name>
-    <message>
-        <source>Password:</source>
-        <translation>Passwort:</translation>
-    </message>
-    <message>
-        <source>Account:</source>
-        <translation>Konto:</translation>
-    </message>
-    <message>
-        <source>Account user:</source>
-        <translation>Kontobenutzer:</translation>
-    </message>
-    <message>
-        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
-        <translation>Ein Auftrag mit Passwort bleibt im Drucker, bis das Passwort am Bedienfeld eingegeben wird. Passwort und Konto werden mit dem Auftrag gesendet und nicht gespeichert.</translation>
     </message>
 </context>
 </TS>

@@ -607,6 +607,122 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante el día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Cuando se libere</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>No clasificado</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Clasificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Alto secreto</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Portadas</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Datos de facturación</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 antes, %2 después</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Usuario de la cuenta</translation>
+    </message>
+</context>
+<context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
@@ -806,6 +922,25 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Mirror image</source>
         <translation>Imagen reflejada</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>No hay nada cargado en «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«%1» no está cargado en «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«%1» no está cargado en ninguna bandeja.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«%1» está cargado, pero no como «%2».</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1855,13 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+</context>
+<context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
@@ -2052,6 +2194,40 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n hoja</numerusform>
+            <numerusform>%n hojas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n cara</numerusform>
+            <numerusform>%n caras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>blanco y negro</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>color</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>páginas de distintos tamaños</translation>
+    </message>
+</context>
+<context>
     <name>host::JobDesk</name>
     <message>
         <source>Sending the document to the print server…</source>
@@ -2068,6 +2244,44 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Reading the document…</source>
         <translation>Leyendo el documento…</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Prioridad:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Portada inicial:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Portada final:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Impresión:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>A una hora determinada</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Datos de facturación:</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La impresión se ha cancelado.</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2604,74 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::PresetMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valores predeterminados de la impresora</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Mis valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Últimos usados</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (con cambios)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings: %1</source>
+        <translation>A&amp;justes: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Guardar «%1»</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Renombrar «%1»…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Eliminar «%1»…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>&amp;Usar como mis valores predeterminados para esta impresora</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Eliminar preajuste</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>¿Eliminar el preajuste «%1»? Otros programas también lo usan.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
     <name>host::Preview</name>
     <message>
         <source>the document is read when it is printed</source>
@@ -2410,6 +2692,17 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ha fallado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2790,25 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>This page is not printed</source>
         <translation>Esta página no se imprime</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Cuenta:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Usuario de la cuenta:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>La impresora conserva un trabajo con contraseña hasta que esta se introduce en su panel de control. La contraseña y la cuenta se envían con el trabajo y no se guardan.</translation>
     </message>
 </context>
 <context>
@@ -2820,71 +3132,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
-    <name>host::PresetMenu</name>
+    <name>host::SessionPanels</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>No se ha podido preparar «%1»: %2</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
-        <source>Defaults</source>
-        <translation>Valores predeterminados</translation>
-    </message>
-    <message>
-        <source>Printer’s Defaults</source>
-        <translation>Valores predeterminados de la impresora</translation>
-    </message>
-    <message>
-        <source>My Defaults</source>
-        <translation>Mis valores predeterminados</translation>
-    </message>
-    <message>
-        <source>Last Used</source>
-        <translation>Últimos usados</translation>
-    </message>
-    <message>
-        <source>%1 (changed)</source>
-        <comment>the name of settings</comment>
-        <translation>%1 (con cambios)</translation>
-    </message>
-    <message>
-        <source>&amp;Settings: %1</source>
-        <translation>A&amp;justes: %1</translation>
-    </message>
-    <message>
-        <source>Save “%1”</source>
-        <translation>Guardar «%1»</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Guardar &amp;como…</translation>
-    </message>
-    <message>
-        <source>Rename “%1”…</source>
-        <translation>Renombrar «%1»…</translation>
-    </message>
-    <message>
-        <source>Delete “%1”…</source>
-        <translation>Eliminar «%1»…</translation>
-    </message>
-    <message>
-        <source>Use as My &amp;Default for This Printer</source>
-        <translation>&amp;Usar como mis valores predeterminados para esta impresora</translation>
-    </message>
-    <message>
-        <source>Delete Preset</source>
-        <translation>Eliminar preajuste</translation>
-    </message>
-    <message>
-        <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>¿Eliminar el preajuste «%1»? Otros programas también lo usan.</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Eliminar</translation>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -2939,261 +3194,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 de %2</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSender</name>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>La impresión se ha cancelado.</translation>
-    </message>
-</context>
-<context>
-    <name>host::SessionPanels</name>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>No se ha podido preparar «%1»: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>No se han podido guardar los ajustes de «%1»: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TitleField</name>
-    <message>
-        <source>Title:</source>
-        <translation>Título:</translation>
-    </message>
-</context>
-<context>
-    <name>host::PreviewDialog</name>
-    <message>
-        <source>Preview</source>
-        <translation>Vista previa</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobCostLabel</name>
-    <message numerus="yes">
-        <source>%n sheets</source>
-        <translation>
-            <numerusform>%n hoja</numerusform>
-            <numerusform>%n hojas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sides</source>
-        <translation>
-            <numerusform>%n cara</numerusform>
-            <numerusform>%n caras</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>black and white</source>
-        <translation>blanco y negro</translation>
-    </message>
-    <message>
-        <source>color</source>
-        <translation>color</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>pages of different sizes</source>
-        <translation>páginas de distintos tamaños</translation>
-    </message>
-</context>
-<context>
-    <name>JobSettingText</name>
-    <message>
-        <source>Now</source>
-        <translation>Ahora</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Durante el día</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Por la tarde</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>Por la noche</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>En el segundo turno</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>En el tercer turno</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>El fin de semana</translation>
-    </message>
-    <message>
-        <source>When it is released</source>
-        <translation>Cuando se libere</translation>
-    </message>
-    <message>
-        <source>Low</source>
-        <translation>Baja</translation>
-    </message>
-    <message>
-        <source>Normal</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Alta</translation>
-    </message>
-    <message>
-        <source>Urgent</source>
-        <translation>Urgente</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Ninguna</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Estándar</translation>
-    </message>
-    <message>
-        <source>Form</source>
-        <translation>Formulario</translation>
-    </message>
-    <message>
-        <source>Unclassified</source>
-        <translation>No clasificado</translation>
-    </message>
-    <message>
-        <source>Classified</source>
-        <translation>Clasificado</translation>
-    </message>
-    <message>
-        <source>Confidential</source>
-        <translation>Confidencial</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Secreto</translation>
-    </message>
-    <message>
-        <source>Top secret</source>
-        <translation>Alto secreto</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Impresión</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Prioridad</translation>
-    </message>
-    <message>
-        <source>Cover sheets</source>
-        <translation>Portadas</translation>
-    </message>
-    <message>
-        <source>Billing information</source>
-        <translation>Datos de facturación</translation>
-    </message>
-    <message>
-        <source>%1 before, %2 after</source>
-        <comment>cover sheets</comment>
-        <translation>%1 antes, %2 después</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Contraseña</translation>
-    </message>
-    <message>
-        <source>Account</source>
-        <translation>Cuenta</translation>
-    </message>
-    <message>
-        <source>Account user</source>
-        <translation>Usuario de la cuenta</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobPage</name>
-    <message>
-        <source>Priority:</source>
-        <translation>Prioridad:</translation>
-    </message>
-    <message>
-        <source>Cover sheet before:</source>
-        <translation>Portada inicial:</translation>
-    </message>
-    <message>
-        <source>Cover sheet after:</source>
-        <translation>Portada final:</translation>
-    </message>
-    <message>
-        <source>Print:</source>
-        <translation>Impresión:</translation>
-    </message>
-    <message>
-        <source>At a time of day</source>
-        <translation>A una hora determinada</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>Billing information:</source>
-        <translation>Datos de facturación:</translation>
-    </message>
-</context>
-<context>
-    <name>LoadedText</name>
-    <message>
-        <source>Nothing is loaded in “%1”.</source>
-        <translation>No hay nada cargado en «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in “%2”.</source>
-        <translation>«%1» no está cargado en «%2».</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in any tray.</source>
-        <translation>«%1» no está cargado en ninguna bandeja.</translation>
-    </message>
-    <message>
-        <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>«%1» está cargado, pero no como «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintModePage</name>
-    <message>
-        <source>Password:</source>
-        <translation>Contraseña:</translation>
-    </message>
-    <message>
-        <source>Account:</source>
-        <translation>Cuenta:</translation>
-    </message>
-    <message>
-        <source>Account user:</source>
-        <translation>Usuario de la cuenta:</translation>
-    </message>
-    <message>
-        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
-        <translation>La impresora conserva un trabajo con contraseña hasta que esta se introduce en su panel de control. La contraseña y la cuenta se envían con el trabajo y no se guardan.</translation>
     </message>
 </context>
 </TS>

@@ -607,6 +607,122 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Pendant la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Le soir</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>À sa libération</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Basse</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Haute</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Pages de garde</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Informations de facturation</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 avant, %2 après</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Utilisateur du compte</translation>
+    </message>
+</context>
+<context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
@@ -806,6 +922,25 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Mirror image</source>
         <translation>Image en miroir</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>Rien n’est chargé dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas chargé dans «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est chargé dans aucun bac.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» est chargé, mais pas en «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1855,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titre&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
@@ -2052,6 +2194,40 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n face</numerusform>
+            <numerusform>%n faces</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>noir et blanc</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>couleur</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>pages de formats différents</translation>
+    </message>
+</context>
+<context>
     <name>host::JobDesk</name>
     <message>
         <source>Sending the document to the print server…</source>
@@ -2068,6 +2244,44 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Reading the document…</source>
         <translation>Lecture du document…</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Page de garde avant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Page de garde après&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Impression&#xa0;:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>À une heure donnée</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Informations de facturation&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>L’impression a été annulée.</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2604,74 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::PresetMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler la modification</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valeurs par défaut de l’imprimante</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Mes valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Derniers réglages utilisés</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings: %1</source>
+        <translation>Ré&amp;glages&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Enregistrer «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Renommer «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Supprimer «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>Utiliser par &amp;défaut pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;? D’autres programmes l’utilisent aussi.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+</context>
+<context>
     <name>host::Preview</name>
     <message>
         <source>the document is read when it is printed</source>
@@ -2410,6 +2692,17 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 a échoué&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2790,25 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>This page is not printed</source>
         <translation>Cette page n’est pas imprimée</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Compte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Utilisateur du compte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>L’imprimante conserve une tâche avec mot de passe jusqu’à ce que celui-ci soit saisi sur son panneau de commande. Le mot de passe et le compte sont envoyés avec la tâche et ne sont pas enregistrés.</translation>
     </message>
 </context>
 <context>
@@ -2820,71 +3132,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
-    <name>host::PresetMenu</name>
+    <name>host::SessionPanels</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler la modification</translation>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être préparé&#xa0;: %2</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Defaults</source>
-        <translation>Valeurs par défaut</translation>
-    </message>
-    <message>
-        <source>Printer’s Defaults</source>
-        <translation>Valeurs par défaut de l’imprimante</translation>
-    </message>
-    <message>
-        <source>My Defaults</source>
-        <translation>Mes valeurs par défaut</translation>
-    </message>
-    <message>
-        <source>Last Used</source>
-        <translation>Derniers réglages utilisés</translation>
-    </message>
-    <message>
-        <source>%1 (changed)</source>
-        <comment>the name of settings</comment>
-        <translation>%1 (modifié)</translation>
-    </message>
-    <message>
-        <source>&amp;Settings: %1</source>
-        <translation>Ré&amp;glages&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Save “%1”</source>
-        <translation>Enregistrer «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Enregistrer &amp;sous…</translation>
-    </message>
-    <message>
-        <source>Rename “%1”…</source>
-        <translation>Renommer «&#xa0;%1&#xa0;»…</translation>
-    </message>
-    <message>
-        <source>Delete “%1”…</source>
-        <translation>Supprimer «&#xa0;%1&#xa0;»…</translation>
-    </message>
-    <message>
-        <source>Use as My &amp;Default for This Printer</source>
-        <translation>Utiliser par &amp;défaut pour cette imprimante</translation>
-    </message>
-    <message>
-        <source>Delete Preset</source>
-        <translation>Supprimer le préréglage</translation>
-    </message>
-    <message>
-        <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;? D’autres programmes l’utilisent aussi.</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Supprimer</translation>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2939,261 +3194,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 sur %2</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSender</name>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>L’impression a été annulée.</translation>
-    </message>
-</context>
-<context>
-    <name>host::SessionPanels</name>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être préparé&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Les réglages de «&#xa0;%1&#xa0;» n’ont pas pu être enregistrés&#xa0;: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TitleField</name>
-    <message>
-        <source>Title:</source>
-        <translation>Titre&#xa0;:</translation>
-    </message>
-</context>
-<context>
-    <name>host::PreviewDialog</name>
-    <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobCostLabel</name>
-    <message numerus="yes">
-        <source>%n sheets</source>
-        <translation>
-            <numerusform>%n feuille</numerusform>
-            <numerusform>%n feuilles</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sides</source>
-        <translation>
-            <numerusform>%n face</numerusform>
-            <numerusform>%n faces</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>black and white</source>
-        <translation>noir et blanc</translation>
-    </message>
-    <message>
-        <source>color</source>
-        <translation>couleur</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>pages of different sizes</source>
-        <translation>pages de formats différents</translation>
-    </message>
-</context>
-<context>
-    <name>JobSettingText</name>
-    <message>
-        <source>Now</source>
-        <translation>Maintenant</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Pendant la journée</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Le soir</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>La nuit</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>Pendant la deuxième équipe</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>Pendant la troisième équipe</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Le week-end</translation>
-    </message>
-    <message>
-        <source>When it is released</source>
-        <translation>À sa libération</translation>
-    </message>
-    <message>
-        <source>Low</source>
-        <translation>Basse</translation>
-    </message>
-    <message>
-        <source>Normal</source>
-        <translation>Normale</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Haute</translation>
-    </message>
-    <message>
-        <source>Urgent</source>
-        <translation>Urgente</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Aucune</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Form</source>
-        <translation>Formulaire</translation>
-    </message>
-    <message>
-        <source>Unclassified</source>
-        <translation>Non classifié</translation>
-    </message>
-    <message>
-        <source>Classified</source>
-        <translation>Classifié</translation>
-    </message>
-    <message>
-        <source>Confidential</source>
-        <translation>Confidentiel</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Secret</translation>
-    </message>
-    <message>
-        <source>Top secret</source>
-        <translation>Très secret</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Impression</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Priorité</translation>
-    </message>
-    <message>
-        <source>Cover sheets</source>
-        <translation>Pages de garde</translation>
-    </message>
-    <message>
-        <source>Billing information</source>
-        <translation>Informations de facturation</translation>
-    </message>
-    <message>
-        <source>%1 before, %2 after</source>
-        <comment>cover sheets</comment>
-        <translation>%1 avant, %2 après</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-    <message>
-        <source>Account</source>
-        <translation>Compte</translation>
-    </message>
-    <message>
-        <source>Account user</source>
-        <translation>Utilisateur du compte</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobPage</name>
-    <message>
-        <source>Priority:</source>
-        <translation>Priorité&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Cover sheet before:</source>
-        <translation>Page de garde avant&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Cover sheet after:</source>
-        <translation>Page de garde après&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Print:</source>
-        <translation>Impression&#xa0;:</translation>
-    </message>
-    <message>
-        <source>At a time of day</source>
-        <translation>À une heure donnée</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>Billing information:</source>
-        <translation>Informations de facturation&#xa0;:</translation>
-    </message>
-</context>
-<context>
-    <name>LoadedText</name>
-    <message>
-        <source>Nothing is loaded in “%1”.</source>
-        <translation>Rien n’est chargé dans «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in “%2”.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas chargé dans «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in any tray.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est chargé dans aucun bac.</translation>
-    </message>
-    <message>
-        <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>«&#xa0;%1&#xa0;» est chargé, mais pas en «&#xa0;%2&#xa0;».</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintModePage</name>
-    <message>
-        <source>Password:</source>
-        <translation>Mot de passe&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Account:</source>
-        <translation>Compte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Account user:</source>
-        <translation>Utilisateur du compte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
-        <translation>L’imprimante conserve une tâche avec mot de passe jusqu’à ce que celui-ci soit saisi sur son panneau de commande. Le mot de passe et le compte sont envoyés avec la tâche et ne sont pas enregistrés.</translation>
     </message>
 </context>
 </TS>

@@ -607,6 +607,122 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>Subito</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante il giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>Dopo il rilascio</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Bassa</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuna</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Modulo</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classificato</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classificato</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Riservato</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Segreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Segretissimo</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorità</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>Copertine</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>Dati per l’addebito</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>%1 prima, %2 dopo</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Utente dell’account</translation>
+    </message>
+</context>
+<context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
@@ -806,6 +922,25 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Mirror image</source>
         <translation>Immagine speculare</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>In «%1» non è caricata carta.</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>«%1» non è caricato in «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>«%1» non è caricato in nessun vassoio.</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>«%1» è caricato, ma non come «%2».</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1855,13 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>Titolo:</translation>
+    </message>
+</context>
+<context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
@@ -2052,6 +2194,40 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n foglio</numerusform>
+            <numerusform>%n fogli</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n facciata</numerusform>
+            <numerusform>%n facciate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>bianco e nero</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>a colori</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>pagine di dimensioni diverse</translation>
+    </message>
+</context>
+<context>
     <name>host::JobDesk</name>
     <message>
         <source>Sending the document to the print server…</source>
@@ -2068,6 +2244,44 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Reading the document…</source>
         <translation>Lettura del documento…</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>Priorità:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>Copertina iniziale:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>Copertina finale:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>Stampa:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>A un’ora stabilita</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>Dati per l’addebito:</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>La stampa è stata annullata.</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2604,74 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::PresetMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Valori predefiniti</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>Valori predefiniti della stampante</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>Valori predefiniti personali</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Ultime usate</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (con modifiche)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings: %1</source>
+        <translation>Im&amp;postazioni: %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>Salva «%1»</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Salva &amp;come…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>Rinomina «%1»…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>Elimina «%1»…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>&amp;Usa come valori predefiniti personali per questa stampante</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Elimina preimpostazione</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>Eliminare la preimpostazione «%1»? Anche altri programmi la usano.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+</context>
+<context>
     <name>host::Preview</name>
     <message>
         <source>the document is read when it is printed</source>
@@ -2410,6 +2692,17 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 ha dato errore: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2790,25 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>This page is not printed</source>
         <translation>Questa pagina non viene stampata</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>Account:</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>Utente dell’account:</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>La stampante conserva un lavoro con password finché la password non viene immessa sul pannello di controllo. Password e account vengono inviati con il lavoro e non vengono memorizzati.</translation>
     </message>
 </context>
 <context>
@@ -2820,71 +3132,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
-    <name>host::PresetMenu</name>
+    <name>host::SessionPanels</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annulla</translation>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>Non è stato possibile preparare «%1»: %2</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Ripeti</translation>
-    </message>
-    <message>
-        <source>Defaults</source>
-        <translation>Valori predefiniti</translation>
-    </message>
-    <message>
-        <source>Printer’s Defaults</source>
-        <translation>Valori predefiniti della stampante</translation>
-    </message>
-    <message>
-        <source>My Defaults</source>
-        <translation>Valori predefiniti personali</translation>
-    </message>
-    <message>
-        <source>Last Used</source>
-        <translation>Ultime usate</translation>
-    </message>
-    <message>
-        <source>%1 (changed)</source>
-        <comment>the name of settings</comment>
-        <translation>%1 (con modifiche)</translation>
-    </message>
-    <message>
-        <source>&amp;Settings: %1</source>
-        <translation>Im&amp;postazioni: %1</translation>
-    </message>
-    <message>
-        <source>Save “%1”</source>
-        <translation>Salva «%1»</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Salva &amp;come…</translation>
-    </message>
-    <message>
-        <source>Rename “%1”…</source>
-        <translation>Rinomina «%1»…</translation>
-    </message>
-    <message>
-        <source>Delete “%1”…</source>
-        <translation>Elimina «%1»…</translation>
-    </message>
-    <message>
-        <source>Use as My &amp;Default for This Printer</source>
-        <translation>&amp;Usa come valori predefiniti personali per questa stampante</translation>
-    </message>
-    <message>
-        <source>Delete Preset</source>
-        <translation>Elimina preimpostazione</translation>
-    </message>
-    <message>
-        <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>Eliminare la preimpostazione «%1»? Anche altri programmi la usano.</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Elimina</translation>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -2939,261 +3194,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 di %2</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSender</name>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>La stampa è stata annullata.</translation>
-    </message>
-</context>
-<context>
-    <name>host::SessionPanels</name>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>Non è stato possibile preparare «%1»: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>Non è stato possibile salvare le impostazioni di «%1»: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TitleField</name>
-    <message>
-        <source>Title:</source>
-        <translation>Titolo:</translation>
-    </message>
-</context>
-<context>
-    <name>host::PreviewDialog</name>
-    <message>
-        <source>Preview</source>
-        <translation>Anteprima</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Chiudi</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobCostLabel</name>
-    <message numerus="yes">
-        <source>%n sheets</source>
-        <translation>
-            <numerusform>%n foglio</numerusform>
-            <numerusform>%n fogli</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sides</source>
-        <translation>
-            <numerusform>%n facciata</numerusform>
-            <numerusform>%n facciate</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>black and white</source>
-        <translation>bianco e nero</translation>
-    </message>
-    <message>
-        <source>color</source>
-        <translation>a colori</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>pages of different sizes</source>
-        <translation>pagine di dimensioni diverse</translation>
-    </message>
-</context>
-<context>
-    <name>JobSettingText</name>
-    <message>
-        <source>Now</source>
-        <translation>Subito</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>Durante il giorno</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>Di sera</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>Di notte</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>Nel secondo turno</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>Nel terzo turno</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>Nel fine settimana</translation>
-    </message>
-    <message>
-        <source>When it is released</source>
-        <translation>Dopo il rilascio</translation>
-    </message>
-    <message>
-        <source>Low</source>
-        <translation>Bassa</translation>
-    </message>
-    <message>
-        <source>Normal</source>
-        <translation>Normale</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>Alta</translation>
-    </message>
-    <message>
-        <source>Urgent</source>
-        <translation>Urgente</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Nessuna</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Form</source>
-        <translation>Modulo</translation>
-    </message>
-    <message>
-        <source>Unclassified</source>
-        <translation>Non classificato</translation>
-    </message>
-    <message>
-        <source>Classified</source>
-        <translation>Classificato</translation>
-    </message>
-    <message>
-        <source>Confidential</source>
-        <translation>Riservato</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>Segreto</translation>
-    </message>
-    <message>
-        <source>Top secret</source>
-        <translation>Segretissimo</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Stampa</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>Priorità</translation>
-    </message>
-    <message>
-        <source>Cover sheets</source>
-        <translation>Copertine</translation>
-    </message>
-    <message>
-        <source>Billing information</source>
-        <translation>Dati per l’addebito</translation>
-    </message>
-    <message>
-        <source>%1 before, %2 after</source>
-        <comment>cover sheets</comment>
-        <translation>%1 prima, %2 dopo</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-    <message>
-        <source>Account</source>
-        <translation>Account</translation>
-    </message>
-    <message>
-        <source>Account user</source>
-        <translation>Utente dell’account</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobPage</name>
-    <message>
-        <source>Priority:</source>
-        <translation>Priorità:</translation>
-    </message>
-    <message>
-        <source>Cover sheet before:</source>
-        <translation>Copertina iniziale:</translation>
-    </message>
-    <message>
-        <source>Cover sheet after:</source>
-        <translation>Copertina finale:</translation>
-    </message>
-    <message>
-        <source>Print:</source>
-        <translation>Stampa:</translation>
-    </message>
-    <message>
-        <source>At a time of day</source>
-        <translation>A un’ora stabilita</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>Ora</translation>
-    </message>
-    <message>
-        <source>Billing information:</source>
-        <translation>Dati per l’addebito:</translation>
-    </message>
-</context>
-<context>
-    <name>LoadedText</name>
-    <message>
-        <source>Nothing is loaded in “%1”.</source>
-        <translation>In «%1» non è caricata carta.</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in “%2”.</source>
-        <translation>«%1» non è caricato in «%2».</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in any tray.</source>
-        <translation>«%1» non è caricato in nessun vassoio.</translation>
-    </message>
-    <message>
-        <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>«%1» è caricato, ma non come «%2».</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintModePage</name>
-    <message>
-        <source>Password:</source>
-        <translation>Password:</translation>
-    </message>
-    <message>
-        <source>Account:</source>
-        <translation>Account:</translation>
-    </message>
-    <message>
-        <source>Account user:</source>
-        <translation>Utente dell’account:</translation>
-    </message>
-    <message>
-        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
-        <translation>La stampante conserva un lavoro con password finché la password non viene immessa sul pannello di controllo. Password e account vengono inviati con il lavoro e non vengono memorizzati.</translation>
     </message>
 </context>
 </TS>

@@ -607,6 +607,122 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>JobSettingText</name>
+    <message>
+        <source>Now</source>
+        <translation>今すぐ</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方以降</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>When it is released</source>
+        <translation>解放されたとき</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>緊急</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>機密指定なし</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>社外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>最高機密</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Cover sheets</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Billing information</source>
+        <translation>課金情報</translation>
+    </message>
+    <message>
+        <source>%1 before, %2 after</source>
+        <comment>cover sheets</comment>
+        <translation>前: %1、後: %2</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>アカウントのユーザー</translation>
+    </message>
+</context>
+<context>
     <name>JobText</name>
     <message>
         <source>waiting: the printer has been stopped</source>
@@ -806,6 +922,25 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Mirror image</source>
         <translation>左右反転</translation>
+    </message>
+</context>
+<context>
+    <name>LoadedText</name>
+    <message>
+        <source>Nothing is loaded in “%1”.</source>
+        <translation>「%1」には何もセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in “%2”.</source>
+        <translation>「%1」は「%2」にセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not loaded in any tray.</source>
+        <translation>「%1」はどのトレイにもセットされていません。</translation>
+    </message>
+    <message>
+        <source>“%1” is loaded, but not as “%2”.</source>
+        <translation>「%1」はセットされていますが、「%2」ではありません。</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1855,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>TitleField</name>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
+    </message>
+</context>
+<context>
     <name>ValueSourceText</name>
     <message>
         <source>The value of %1 cannot be read: %2.</source>
@@ -2052,6 +2194,38 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::JobCostLabel</name>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>用紙 %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sides</source>
+        <translation>
+            <numerusform>%n 面</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>pages of different sizes</source>
+        <translation>サイズの異なるページあり</translation>
+    </message>
+</context>
+<context>
     <name>host::JobDesk</name>
     <message>
         <source>Sending the document to the print server…</source>
@@ -2068,6 +2242,44 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Reading the document…</source>
         <translation>文書を読み込んでいます…</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobPage</name>
+    <message>
+        <source>Priority:</source>
+        <translation>優先度:</translation>
+    </message>
+    <message>
+        <source>Cover sheet before:</source>
+        <translation>先頭の表紙:</translation>
+    </message>
+    <message>
+        <source>Cover sheet after:</source>
+        <translation>末尾の表紙:</translation>
+    </message>
+    <message>
+        <source>Print:</source>
+        <translation>印刷:</translation>
+    </message>
+    <message>
+        <source>At a time of day</source>
+        <translation>指定した時刻</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Billing information:</source>
+        <translation>課金情報:</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSender</name>
+    <message>
+        <source>Printing was canceled.</source>
+        <translation>印刷を取り消しました。</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2602,74 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::PresetMenu</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>Printer’s Defaults</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>My Defaults</source>
+        <translation>ユーザーの既定値</translation>
+    </message>
+    <message>
+        <source>Last Used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <comment>the name of settings</comment>
+        <translation>%1 (変更あり)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings: %1</source>
+        <translation>設定(&amp;S): %1</translation>
+    </message>
+    <message>
+        <source>Save “%1”</source>
+        <translation>「%1」を保存</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Rename “%1”…</source>
+        <translation>「%1」の名前を変更…</translation>
+    </message>
+    <message>
+        <source>Delete “%1”…</source>
+        <translation>「%1」を削除…</translation>
+    </message>
+    <message>
+        <source>Use as My &amp;Default for This Printer</source>
+        <translation>このプリンターのユーザーの既定値にする(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>プリセットの削除</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”? Other programs use it as well.</source>
+        <translation>プリセット「%1」を削除しますか? このプリセットはほかのプログラムでも使用されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>host::Preview</name>
     <message>
         <source>the document is read when it is printed</source>
@@ -2410,6 +2690,17 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>%1 failed: %2</source>
         <translation>%1 が失敗しました: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewDialog</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2497,6 +2788,25 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>This page is not printed</source>
         <translation>このページは印刷されません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintModePage</name>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード：</translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation>アカウント：</translation>
+    </message>
+    <message>
+        <source>Account user:</source>
+        <translation>アカウントのユーザー：</translation>
+    </message>
+    <message>
+        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
+        <translation>パスワード付きのジョブは、操作パネルでパスワードが入力されるまでプリンターに保留されます。パスワードとアカウントはジョブと一緒に送信され、保存されません。</translation>
     </message>
 </context>
 <context>
@@ -2815,71 +3125,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
-    <name>host::PresetMenu</name>
+    <name>host::SessionPanels</name>
     <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
+        <source>“%1” could not be prepared: %2</source>
+        <translation>「%1」を準備できませんでした: %2</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>やり直し(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Defaults</source>
-        <translation>既定値</translation>
-    </message>
-    <message>
-        <source>Printer’s Defaults</source>
-        <translation>プリンターの既定値</translation>
-    </message>
-    <message>
-        <source>My Defaults</source>
-        <translation>ユーザーの既定値</translation>
-    </message>
-    <message>
-        <source>Last Used</source>
-        <translation>前回の設定</translation>
-    </message>
-    <message>
-        <source>%1 (changed)</source>
-        <comment>the name of settings</comment>
-        <translation>%1 (変更あり)</translation>
-    </message>
-    <message>
-        <source>&amp;Settings: %1</source>
-        <translation>設定(&amp;S): %1</translation>
-    </message>
-    <message>
-        <source>Save “%1”</source>
-        <translation>「%1」を保存</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>名前を付けて保存(&amp;A)…</translation>
-    </message>
-    <message>
-        <source>Rename “%1”…</source>
-        <translation>「%1」の名前を変更…</translation>
-    </message>
-    <message>
-        <source>Delete “%1”…</source>
-        <translation>「%1」を削除…</translation>
-    </message>
-    <message>
-        <source>Use as My &amp;Default for This Printer</source>
-        <translation>このプリンターのユーザーの既定値にする(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Delete Preset</source>
-        <translation>プリセットの削除</translation>
-    </message>
-    <message>
-        <source>Delete the preset “%1”? Other programs use it as well.</source>
-        <translation>プリセット「%1」を削除しますか? このプリセットはほかのプログラムでも使用されます。</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>削除(&amp;D)</translation>
+        <source>The settings of “%1” could not be saved: %2</source>
+        <translation>「%1」の設定を保存できませんでした: %2</translation>
     </message>
 </context>
 <context>
@@ -2934,259 +3187,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1 of %2</source>
         <comment>an amount of data, of the whole</comment>
         <translation>%1 / %2</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobSender</name>
-    <message>
-        <source>Printing was canceled.</source>
-        <translation>印刷を取り消しました。</translation>
-    </message>
-</context>
-<context>
-    <name>host::SessionPanels</name>
-    <message>
-        <source>“%1” could not be prepared: %2</source>
-        <translation>「%1」を準備できませんでした: %2</translation>
-    </message>
-    <message>
-        <source>The settings of “%1” could not be saved: %2</source>
-        <translation>「%1」の設定を保存できませんでした: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TitleField</name>
-    <message>
-        <source>Title:</source>
-        <translation>タイトル:</translation>
-    </message>
-</context>
-<context>
-    <name>host::PreviewDialog</name>
-    <message>
-        <source>Preview</source>
-        <translation>プレビュー</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobCostLabel</name>
-    <message numerus="yes">
-        <source>%n sheets</source>
-        <translation>
-            <numerusform>用紙 %n 枚</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sides</source>
-        <translation>
-            <numerusform>%n 面</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>black and white</source>
-        <translation>白黒</translation>
-    </message>
-    <message>
-        <source>color</source>
-        <translation>カラー</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>pages of different sizes</source>
-        <translation>サイズの異なるページあり</translation>
-    </message>
-</context>
-<context>
-    <name>JobSettingText</name>
-    <message>
-        <source>Now</source>
-        <translation>今すぐ</translation>
-    </message>
-    <message>
-        <source>During the day</source>
-        <translation>日中</translation>
-    </message>
-    <message>
-        <source>In the evening</source>
-        <translation>夕方以降</translation>
-    </message>
-    <message>
-        <source>At night</source>
-        <translation>夜間</translation>
-    </message>
-    <message>
-        <source>In the second shift</source>
-        <translation>第 2 シフト</translation>
-    </message>
-    <message>
-        <source>In the third shift</source>
-        <translation>第 3 シフト</translation>
-    </message>
-    <message>
-        <source>At the weekend</source>
-        <translation>週末</translation>
-    </message>
-    <message>
-        <source>When it is released</source>
-        <translation>解放されたとき</translation>
-    </message>
-    <message>
-        <source>Low</source>
-        <translation>低</translation>
-    </message>
-    <message>
-        <source>Normal</source>
-        <translation>標準</translation>
-    </message>
-    <message>
-        <source>High</source>
-        <translation>高</translation>
-    </message>
-    <message>
-        <source>Urgent</source>
-        <translation>緊急</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>なし</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>標準</translation>
-    </message>
-    <message>
-        <source>Form</source>
-        <translation>フォーム</translation>
-    </message>
-    <message>
-        <source>Unclassified</source>
-        <translation>機密指定なし</translation>
-    </message>
-    <message>
-        <source>Classified</source>
-        <translation>機密</translation>
-    </message>
-    <message>
-        <source>Confidential</source>
-        <translation>社外秘</translation>
-    </message>
-    <message>
-        <source>Secret</source>
-        <translation>極秘</translation>
-    </message>
-    <message>
-        <source>Top secret</source>
-        <translation>最高機密</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>印刷</translation>
-    </message>
-    <message>
-        <source>Priority</source>
-        <translation>優先度</translation>
-    </message>
-    <message>
-        <source>Cover sheets</source>
-        <translation>表紙</translation>
-    </message>
-    <message>
-        <source>Billing information</source>
-        <translation>課金情報</translation>
-    </message>
-    <message>
-        <source>%1 before, %2 after</source>
-        <comment>cover sheets</comment>
-        <translation>前: %1、後: %2</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
-        <source>Account</source>
-        <translation>アカウント</translation>
-    </message>
-    <message>
-        <source>Account user</source>
-        <translation>アカウントのユーザー</translation>
-    </message>
-</context>
-<context>
-    <name>host::JobPage</name>
-    <message>
-        <source>Priority:</source>
-        <translation>優先度:</translation>
-    </message>
-    <message>
-        <source>Cover sheet before:</source>
-        <translation>先頭の表紙:</translation>
-    </message>
-    <message>
-        <source>Cover sheet after:</source>
-        <translation>末尾の表紙:</translation>
-    </message>
-    <message>
-        <source>Print:</source>
-        <translation>印刷:</translation>
-    </message>
-    <message>
-        <source>At a time of day</source>
-        <translation>指定した時刻</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>Billing information:</source>
-        <translation>課金情報:</translation>
-    </message>
-</context>
-<context>
-    <name>LoadedText</name>
-    <message>
-        <source>Nothing is loaded in “%1”.</source>
-        <translation>「%1」には何もセットされていません。</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in “%2”.</source>
-        <translation>「%1」は「%2」にセットされていません。</translation>
-    </message>
-    <message>
-        <source>“%1” is not loaded in any tray.</source>
-        <translation>「%1」はどのトレイにもセットされていません。</translation>
-    </message>
-    <message>
-        <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>「%1」はセットされていますが、「%2」ではありません。</translation>
-    </message>
-</context>
-<context>
-    <name>host::PrintModePage</name>
-    <message>
-        <source>Password:</source>
-        <translation>パスワード：</translation>
-    </message>
-    <message>
-        <source>Account:</source>
-        <translation>アカウント：</translation>
-    </message>
-    <message>
-        <source>Account user:</source>
-        <translation>アカウントのユーザー：</translation>
-    </message>
-    <message>
-        <source>The printer keeps a job with a password until the password is entered at its control panel. Password and account are sent with the job, and not stored.</source>
-        <translation>パスワード付きのジョブは、操作パネルでパスワードが入力されるまでプリンターに保留されます。パスワードとアカウントはジョブと一緒に送信され、保存されません。</translation>
     </message>
 </context>
 </TS>
