@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 """Operates the dialog over the accessibility bus like a screen reader: prints a private job after two conflicting
-settings and a wrong page range. Prints the events of the bus, and fails if anything was not announced, or if the
-preview claimed the focus.
+settings and a wrong page range. Prints the events of the bus, and fails if anything was not announced or was announced
+twice, or if the preview claimed the focus.
 
 Usage: private_job.py PROGRAM ARGUMENT...  (on a private X display and session bus)"""
 
@@ -22,13 +22,15 @@ EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
 class Session:
     def __init__(self, command):
         self.log = []
+        self.notifications = []  # one for each time that one appeared
         self.descriptions = []  # of the pressed buttons
         self.problem = "nothing happened"
         # The expected announcements, and the button pressed or the pages typed after each. The first question was shown
         # before listening started.
         self.steps = [(None, "Keep and Review"), (None, "Range:"), (None, self.type_pages("3-1")),
                       ("“3-1” is not a page", self.type_pages("1-2")), (None, "Print"),
-                      ("cannot be used together", "Apply Suggestion"), (None, "Print"), ("Sent to", "Close")]
+                      ("cannot be used together", "Apply Suggestion"), (None, "Print"), ("Sent to", lambda: True),
+                      ("Job 1: done", self.check_late_reader), (None, "Close")]
         for name in EVENTS:
             pyatspi.Registry.registerEventListener(self.note, name)
         environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
@@ -44,6 +46,8 @@ class Session:
             return  # no longer exists
         entry = (str(event.type), role, name, event.detail1)
         self.log.append(entry)
+        if entry[0] == "object:state-changed:showing" and role == "notification" and event.detail1:
+            self.notifications.append(event.source)
         print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
 
     def times_announced(self, words):
@@ -102,6 +106,20 @@ class Session:
                 field.queryEditableText().setTextContents(text)
             return field is not None
         return act
+
+    def check_late_reader(self):
+        """Fails if a screen reader that was busy until now, and reads the current names, would repeat the job's state."""
+        names = []
+        for notification in self.notifications:
+            try:
+                notification.clearCache()
+                names.append(notification.name)
+            except (GLib.GError, LookupError, RuntimeError):
+                pass  # no longer exists
+        if sum("Job 1" in name for name in names) != 1:
+            self.problem = "a late screen reader would read: %s" % names
+            self.give_up()
+        return True
 
     def give_up(self):
         self.process.kill()

@@ -46,10 +46,9 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
       m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
-    // Separately, so that a screen reader does not repeat one when the other changes or a button gets the
-    // focus.
+    // Announced apart from the state, so that a screen reader does not repeat one when the other changes or a
+    // button gets the focus.
     makeAnnounced(m_title);
-    makeAnnounced(m_state);
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
     large.setBold(true);
@@ -135,10 +134,19 @@ void ResultPage::showTitle(const QString &title)
              m_documents->text().isEmpty() ? title : title + QLatin1Char('\n') + m_documents->text());
 }
 
+// In a new label, since a screen reader may receive an announcement late, and then reads the current text of
+// its label: it would read the last state once for each state before it.
 void ResultPage::showState(const QString &state)
 {
-    m_state->setText(state);
-    announce(m_state, state);
+    auto *column = static_cast<QVBoxLayout *>(layout());
+    auto *label = centredLabel(this);
+    makeAnnounced(label);
+    label->setText(state);
+    label->setAccessibleName(state);
+    column->insertWidget(column->indexOf(m_state), label);
+    label->stackUnder(m_notes); // screen readers use this order
+    delete std::exchange(m_state, label);
+    label->setVisible(true);
 }
 
 void ResultPage::showStatus(const JobStatus &status)

@@ -46,7 +46,7 @@ private:
     StatusGlyph *m_glyph;
     QLabel *m_title;
     QLabel *m_documents;
-    QLabel *m_state;
+    QLabel *m_state; // a new one for each state
     QLabel *m_notes;
     QLabel *m_earlier = nullptr;
     QLabel *m_problem = nullptr;
