@@ -180,6 +180,7 @@ void PrintWindow::connectWork()
         if (m_state == State::Done)
             m_poller.follow(false);
     });
+    connect(m_result, &ResultPage::focusReleased, m_cancel, qOverload<>(&QWidget::setFocus));
     // Prints the same documents with the same settings again.
     connect(m_result, &ResultPage::printAgainWanted, this, [this] {
         if (!mayPrint())

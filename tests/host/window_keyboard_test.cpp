@@ -44,6 +44,8 @@ private Q_SLOTS:
     void secondClickDoesNotCloseTheResult();
     void resultNamesEverything_data();
     void resultNamesEverything();
+    void actionOfTheResultLeavesTheFocusToClose_data();
+    void actionOfTheResultLeavesTheFocusToClose();
     void waitingIsReadOut();
     void errorBelongsToItsField();
     void colorsStandOut_data();
@@ -214,6 +216,43 @@ void WindowKeyboardTest::resultNamesEverything()
     QVERIFY2(page.text().contains(text) && page.text().contains(u"“one.pdf”, “two.pdf”"_s),
              qPrintable(page.text()));
     QCOMPARE(page.findChild<StatusGlyph *>()->kind(), sign);
+}
+
+void WindowKeyboardTest::actionOfTheResultLeavesTheFocusToClose_data()
+{
+    QTest::addColumn<bool>("byMouse");
+    QTest::newRow("mouse") << true;
+    QTest::newRow("keyboard") << false;
+}
+
+// Also if the button has gone meanwhile: a held job has been released.
+void WindowKeyboardTest::actionOfTheResultLeavesTheFocusToClose()
+{
+    QFETCH(bool, byMouse);
+    m_system.status.state = JobStatus::State::Held;
+    m_system.status.isHeldByUser = true;
+    PrintWindow &window = open();
+    printButton()->click();
+    settle();
+    QPushButton *release = nullptr;
+    for (auto *button : find<ResultPage>()->findChildren<QPushButton *>())
+        release = button->text().remove(u'&') == u"Release"_s ? button : release;
+    QVERIFY(release && release->isVisible());
+    if (byMouse) {
+        QTest::mouseClick(release, Qt::LeftButton);
+    } else {
+        release->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(release, Qt::Key_Space);
+    }
+    settle();
+    QCOMPARE(m_system.changes, QList({JobAction::Release}));
+    m_system.status.state = JobStatus::State::Processing;
+    QTRY_VERIFY(release->isHidden());
+    auto *close = qobject_cast<QPushButton *>(window.focusWidget());
+    QVERIFY(close && close->isDefault());
+    QCOMPARE(close->text().remove(u'&'), u"Close"_s);
+    QTest::keyClick(close, Qt::Key_Return);
+    QCOMPARE(window.result(), int(QDialog::Accepted));
 }
 
 void WindowKeyboardTest::waitingIsReadOut()

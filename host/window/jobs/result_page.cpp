@@ -83,6 +83,7 @@ void ResultPage::buildActions()
     m_again->setWhatsThis(explanationOf(QStringLiteral("print-again")));
     for (QPushButton *button : {m_cancelJob, m_hold, m_again}) {
         button->setAutoDefault(false);
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus on the window's Close button
         row->addWidget(button);
     }
     row->addStretch();
@@ -172,7 +173,7 @@ void ResultPage::showActions(const JobStatus &status)
     const bool canRelease = status.state == JobStatus::State::Held && status.isHeldByUser;
     for (const auto &[button, isUseful] : {std::pair(m_cancelJob, isOpen), {m_hold, m_holds || canRelease}}) {
         if (!isUseful && button->hasFocus())
-            m_again->setFocus();
+            Q_EMIT focusReleased();
         button->setVisible(isUseful);
     }
 }

@@ -34,6 +34,8 @@ public:
 Q_SIGNALS:
     void actionWanted(host::JobAction action);
     void printAgainWanted();
+    // The button that had the focus is about to be hidden, since its action is no longer possible.
+    void focusReleased();
 
 private:
     void buildActions();
