@@ -156,10 +156,8 @@ void PrintWindow::connectWork()
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::makeWay);
     connect(&m_wait, &PanelWait::acceptWanted, this, &PrintWindow::print);
-    connect(&m_wait, &PanelWait::panelReturned, this, [this] {
-        m_messages.goOn();
-        m_opener.deliverHeld();
-    });
+    connect(&m_wait, &PanelWait::panelReturned, &m_messages, &SessionMessages::goOn);
+    connect(&m_wait, &PanelWait::panelReturned, &m_opener, &SessionOpener::deliverHeld);
     connect(&m_jobs, &JobDesk::delayed, this, [this] {
         showState(State::Sending);
         m_waiting->cancelButton()->setFocus();

@@ -360,7 +360,10 @@ void GeneralPageTest::pdfIsWritten()
     if (!hasPreview())
         QSKIP("cups-filters or poppler-utils is not installed");
     const QTemporaryDir folder;
-    openWith({sourcePath("/demo/note.txt")}, {1200, 900}, u"../Page 1/2"_s);
+    PrintTask task;
+    task.files = {sourcePath("/demo/note.txt")};
+    task.title = u"../Page 1/2"_s;
+    openTask(task);
     // Reverse order of two-sided pages begins with the blank back of the last sheet.
     QVERIFY(m_window->session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
     m_window->session()->general().layout.set(u"outputorder"_s, u"reverse"_s);

@@ -17,8 +17,7 @@
 
 #include <memory>
 
-// A window with a print system without a server: two printers with a PPD, one without, and a document. Base
-// class of tests.
+// Base class of tests. A window without a server: two printers with a PPD, one without, and a document.
 class WindowFixture : public QObject
 {
     Q_OBJECT
@@ -43,42 +42,37 @@ protected:
             m_document.flush();
         }
     }
+    host::PrintWindow &show(const host::PrintTask &task, const QSize &room,
+                            void (host::PrintWindow::*whenVisible)())
+    {
+        m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
+        if (room.isValid())
+            m_window->setRoom(room);
+        host::PrintError error;
+        if (!m_window->open(&error))
+            qFatal("%s", qPrintable(error.message));
+        m_window->show();
+        ((*m_window).*whenVisible)();
+        if (!QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the window does not appear");
+        settle();
+        return *m_window;
+    }
     host::PrintWindow &open(const QString &printer = QString())
     {
         host::PrintTask task;
         task.files = {m_document.fileName()};
         task.printer = printer;
-        m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
-        host::PrintError error;
-        if (!m_window->open(&error))
-            qFatal("%s", qPrintable(error.message));
-        m_window->show();
-        m_window->loadPrinterList();
-        if (!QTest::qWaitForWindowActive(m_window.get()))
-            qFatal("the window does not appear");
-        settle();
-        return *m_window;
+        return show(task, {}, &host::PrintWindow::loadPrinterList);
     }
     host::PrintWindow &openTask(const host::PrintTask &task, const QSize &room = {1200, 900})
     {
-        m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
-        m_window->setRoom(room);
-        host::PrintError error;
-        if (!m_window->open(&error))
-            qFatal("%s", qPrintable(error.message));
-        m_window->show();
-        m_window->finishLater();
-        if (!QTest::qWaitForWindowActive(m_window.get()))
-            qFatal("the window does not appear");
-        settle();
-        return *m_window;
+        return show(task, room, &host::PrintWindow::finishLater);
     }
-    host::PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900},
-                                const QString &title = {})
+    host::PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900})
     {
         host::PrintTask task;
         task.files = files;
-        task.title = title;
         return openTask(task, room);
     }
     static bool hasPreview()

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Checks the includes of each folder and the objects that the bundle is linked from. Run by ctest as
+"""Checks the includes of each folder, the length of files, and the objects that the bundle is linked from. Run by ctest as
 include_rules.py WIDGET-HEADERS NINJA BUILD BUNDLE-CODE: Qt's folder of widget headers, the ninja program, the build
 folder, and the path of the bundle's shared object.
 """
@@ -50,6 +50,7 @@ HOST_FOLDERS["window"] = {module for module in HOST_FOLDERS if module.startswith
 WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/extensions/", "host/policy/", "host/session/",
                    "host/preview/", "host/batch/", "host/service/", "host/backend/")
 OURS = MODULES.keys() | {"tests", "simulator", "bench"}
+MOST_LINES = {".h": 120, ".cpp": 500, ".c": 500}
 IN_BUNDLE = {"constraints", "panelkit", "panels", "plugin", "ppd", "device"}
 
 EXAMPLES = [  # file, header, whether the include is allowed
@@ -127,13 +128,19 @@ def violation(file, header, widget_headers):
     return None
 
 
+def sources_of(module):
+    """(path, lines) of all headers and sources in a folder."""
+    for path in sorted((ROOT / module).rglob("*")):
+        if path.suffix in MOST_LINES:
+            yield path, path.read_text(encoding="utf-8").splitlines()
+
+
 def includes_of(module):
     """(file, line, header) of all includes in the sources of a folder."""
-    for path in sorted((ROOT / module).rglob("*")):
-        if path.suffix in (".h", ".cpp", ".c"):
-            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
-                if match := re.match(r'\s*#\s*include\s*[<"]([^>"]+)[>"]', line):
-                    yield path.relative_to(ROOT).as_posix(), number, match[1]
+    for path, lines in sources_of(module):
+        for number, line in enumerate(lines, 1):
+            if match := re.match(r'\s*#\s*include\s*[<"]([^>"]+)[>"]', line):
+                yield path.relative_to(ROOT).as_posix(), number, match[1]
 
 
 def linked_sources(link_command):
@@ -160,6 +167,10 @@ def main(widget_headers, ninja, build, bundle_code):
         for file, line, header in includes:
             if reason := violation(file, header, widget_headers):
                 faults.append(f"{file}:{line}: {header}: {reason}")
+
+    for module in OURS:
+        faults += [f"{path.relative_to(ROOT)}: has {len(lines)} lines; at most {MOST_LINES[path.suffix]} are allowed"
+                   for path, lines in sources_of(module) if len(lines) > MOST_LINES[path.suffix]]
 
     command = [ninja, "-C", build, "-t", "commands", "-s", posixpath.relpath(bundle_code, build)]
     linked = subprocess.run(command, capture_output=True, text=True, check=True).stdout
