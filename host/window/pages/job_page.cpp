@@ -7,11 +7,10 @@
 #include "host/session/job_settings.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
+#include "host/window/pages/page_frame.h"
 #include "platform/choice_box.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTimeEdit>
 
@@ -19,7 +18,6 @@ namespace host {
 
 namespace {
 
-constexpr int boxWidth = 240;       // pixels, as in the panels
 constexpr int longestBilling = 255; // bytes; the limit of names in the print protocol
 
 const QString holdName = QStringLiteral("job-hold-until");
@@ -32,11 +30,7 @@ const QString atATime = QStringLiteral("time"); // the entry for a time of day
 
 JobPage::JobPage(DialogSession *session, QWidget *parent) : QWidget(parent), m_session(session)
 {
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 20, 24, 20);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(10);
-    grid->setColumnStretch(2, 1);
+    auto *grid = contentGrid(this);
     addHold(grid);
     m_priority = addBox(
         priorityName, tr("Priority:"),
@@ -57,18 +51,9 @@ platform::ChoiceBox *JobPage::addBox(const QString &name, const QString &label, 
                                      QGridLayout *grid)
 {
     auto *box = new platform::ChoiceBox(this);
-    box->setMinimumWidth(boxWidth);
-    box->setObjectName(name);
-    box->setAccessibleName(label.chopped(1).trimmed());
-    box->setWhatsThis(explanationOf(name));
     for (const QString &value : values)
         box->addItem(value == atATime ? tr("At a time of day") : oneLine(jobValueText(name, value)), value);
-    auto *text = new QLabel(label, this);
-    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    text->setBuddy(box);
-    const int row = grid->rowCount();
-    grid->addWidget(text, row, 0);
-    grid->addWidget(box, row, 1);
+    addField(grid, name, label, box);
     return box;
 }
 
@@ -91,16 +76,8 @@ void JobPage::addHold(QGridLayout *grid)
 void JobPage::addBilling(QGridLayout *grid)
 {
     m_billing = new QLineEdit(this);
-    m_billing->setObjectName(billingName);
     m_billing->setMaxLength(longestBilling);
-    m_billing->setAccessibleName(tr("Billing information:").chopped(1).trimmed());
-    m_billing->setWhatsThis(explanationOf(billingName));
-    auto *label = new QLabel(tr("Billing information:"), this);
-    label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    label->setBuddy(m_billing);
-    const int row = grid->rowCount();
-    grid->addWidget(label, row, 0);
-    grid->addWidget(m_billing, row, 1);
+    addField(grid, billingName, tr("Billing information:"), m_billing);
     connect(m_billing, &QLineEdit::textEdited, this,
             [this](const QString &text) { set(billingName, text.trimmed()); });
 }

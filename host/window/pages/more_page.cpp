@@ -7,6 +7,7 @@
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/pages/option_form.h"
+#include "host/window/pages/page_frame.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -26,13 +27,9 @@ constexpr int titleWidth = 440;      // pixels
 } // namespace
 
 MorePage::MorePage(DialogSession *session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_grid(new QGridLayout(this)), m_toBuild(partsOf(*session))
+    : QWidget(parent), m_session(session), m_grid(contentGrid(this)), m_toBuild(partsOf(*session))
 {
     setWhatsThis(explanationOf(QStringLiteral("more")));
-    m_grid->setContentsMargins(24, 20, 24, 20);
-    m_grid->setHorizontalSpacing(12);
-    m_grid->setVerticalSpacing(10);
-    m_grid->setColumnStretch(2, 1);
     while (!m_toBuild.isEmpty() && m_grid->rowCount() < rowsAtOnce)
         buildNext();
 }

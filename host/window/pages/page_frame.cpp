@@ -3,8 +3,11 @@
 
 #include "host/window/pages/page_frame.h"
 
+#include "host/window/look/explanations.h"
+
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGridLayout>
 #include <QLabel>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -14,6 +17,8 @@
 namespace host {
 
 namespace {
+
+constexpr int fieldWidth = 240; // pixels, as in the panels
 
 class PageScroll : public QScrollArea
 {
@@ -39,6 +44,30 @@ QLabel *noteLabel(const QString &text, QWidget *parent)
 }
 
 } // namespace
+
+QGridLayout *contentGrid(QWidget *page)
+{
+    auto *grid = new QGridLayout(page);
+    grid->setContentsMargins(24, 20, 24, 20);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(10);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+void addField(QGridLayout *grid, const QString &setting, const QString &label, QWidget *field)
+{
+    field->setMinimumWidth(fieldWidth);
+    field->setObjectName(setting);
+    field->setAccessibleName(label.chopped(1).trimmed());
+    field->setWhatsThis(explanationOf(setting));
+    auto *text = new QLabel(label, grid->parentWidget());
+    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    text->setBuddy(field);
+    const int row = grid->rowCount();
+    grid->addWidget(text, row, 0);
+    grid->addWidget(field, row, 1);
+}
 
 PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content, QWidget *parent)
     : QWidget(parent), m_scroll(new PageScroll(this)), m_content(content)

@@ -5,7 +5,7 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
-#include "host/window/look/explanations.h"
+#include "host/window/pages/page_frame.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -15,18 +15,13 @@ namespace host {
 
 namespace {
 
-constexpr int fieldWidth = 240;    // pixels, as in the panels
 constexpr int longestAccount = 63; // characters; fits the limit of the print protocol in every script
 
 } // namespace
 
 PrintModePage::PrintModePage(DialogSession *session, QWidget *parent) : QWidget(parent), m_session(session)
 {
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 20, 24, 20);
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(10);
-    grid->setColumnStretch(2, 1);
+    auto *grid = contentGrid(this);
     for (const QString &name : offeredPrintModes(*session)) {
         addField(name,
                  name == passwordName  ? tr("Password:")
@@ -46,20 +41,11 @@ PrintModePage::PrintModePage(DialogSession *session, QWidget *parent) : QWidget(
 void PrintModePage::addField(const QString &name, const QString &label, QGridLayout *grid)
 {
     auto *field = new QLineEdit(this);
-    field->setObjectName(name);
-    field->setMinimumWidth(fieldWidth);
-    field->setAccessibleName(label.chopped(1).trimmed());
-    field->setWhatsThis(explanationOf(name));
     const bool isPassword = name == passwordName;
     field->setMaxLength(isPassword ? m_session->destination().passwordLength : longestAccount);
     if (isPassword)
         field->setEchoMode(QLineEdit::Password);
-    auto *text = new QLabel(label, this);
-    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    text->setBuddy(field);
-    const int row = grid->rowCount();
-    grid->addWidget(text, row, 0);
-    grid->addWidget(field, row, 1);
+    host::addField(grid, name, label, field);
     m_fields.append(field);
     connect(field, &QLineEdit::textEdited, this, [this, name](const QString &value) {
         setJobSetting(m_session, name, value);
