@@ -171,20 +171,22 @@ void addLevel(const QList<QByteArray> &fields, DeviceReport *report)
 {
     if (fields.size() < 4)
         return;
-    const Supply level =
+    Supply level =
         levelOf(QString::fromUtf8(fields.at(1)), fields.at(2).toLongLong(), fields.at(3).toLongLong());
     if (fields.at(0) == "supply") {
         report->supplies.append(level);
         return;
     }
-    report->paper.append(level);
-    if (level.percent == 0)
-        return;
     const QByteArray name = fields.value(4);
     const pwg_media_t *media = pwgMediaForPWG(name.constData());
     if (!media)
         media = pwgMediaForPPD(name.constData());
-    report->trays.append(media ? trayOfSize(media->width, media->length) : LoadedTray());
+    const LoadedTray tray = media ? trayOfSize(media->width, media->length) : LoadedTray();
+    if (!tray.size.isEmpty())
+        level.name += QStringLiteral(" (%1)").arg(tray.size);
+    report->paper.append(level);
+    if (level.percent != 0)
+        report->trays.append(tray);
 }
 
 // The program ends by itself when the printer does not respond.

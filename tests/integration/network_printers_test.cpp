@@ -192,6 +192,7 @@ void NetworkPrintersTest::levelsAreReadWithSnmp()
                                                "1.3.6.1.2.1.43.11.1.1.9.1.1 = integer 144\n"
                                                "1.3.6.1.2.1.43.8.2.1.9.1.1 = integer 500\n"
                                                "1.3.6.1.2.1.43.8.2.1.10.1.1 = integer 250\n"
+                                               "1.3.6.1.2.1.43.8.2.1.12.1.1 = string iso_a4_210x297mm\n"
                                                "1.3.6.1.2.1.43.8.2.1.13.1.1 = string Tray 1\n");
     QVERIFY2(device.isRunning(), qPrintable(device.error()));
     QVERIFY2(m_server.addQueue(u"cellar"_s, {}, u"socket://127.0.0.3"_s), qPrintable(m_server.problem()));
@@ -206,7 +207,7 @@ void NetworkPrintersTest::levelsAreReadWithSnmp()
     window.show();
     window.finishLater();
     auto *box = window.findChild<PrinterBox *>();
-    for (const char *line : {"Black Toner 12 %", "Tray 1 50 %"})
+    for (const char *line : {"Black Toner 12 %", "Tray 1 (A4) 50 %"})
         QTRY_VERIFY2(box->toolTip().contains(QLatin1String(line)), qPrintable(box->toolTip()));
     QVERIFY2(heart.longestGap() < longestGap, qPrintable(QString::number(heart.longestGap())));
 }
