@@ -214,6 +214,21 @@ class Program:
         self.point_at(control, left)
         subprocess.run(["xdotool", "click", "1"], check=True)
 
+    def tooltip(self, control, words):
+        """Points at a control until its tooltip holds the words; the whole of it. The tooltip keeps the text that it appeared
+        with, so the mouse moves away and comes back if the control has not heard of the words by then."""
+        def shown():
+            self.point_at(control)
+            end = time.monotonic() + 2
+            while time.monotonic() < end:
+                tip = next((tip.name for tip in self.all("tool tip") if words in tip.name), None)
+                if tip:
+                    return tip
+                time.sleep(INTERVAL)
+            subprocess.run(["xdotool", "mousemove", "1", "1"], check=True)
+            return None
+        return wait("“%s” in the tooltip of “%s”" % (words, control.name), shown).replace("\n", ", ")
+
     def choose(self, label, item):
         """Opens the list of a box with the mouse, and picks an item there."""
         box = self.box(label)

@@ -81,8 +81,16 @@ def is_on(d, name, on):
 @step("opened")
 def opened(d):
     window = d.get("dialog", "Print “handout.pdf”")
-    return "kelmar-print -d office handout.pdf opened the window %s. Printer: %s. Preview: %s" % (
-        window.name, d.says("Ready"), d.says("Page 1 of 8"))
+    return "kelmar-print -d office handout.pdf opened the window %s. Preview: %s" % (
+        window.name, d.says("Page 1 of 8"))
+
+
+@step("printer")
+def printer(d):
+    state = d.get("label", "Ready")
+    tip = d.tooltip(state, "Black Toner")
+    expect("no tray in “%s”" % tip, "Tray 1 (A4)" in tip)
+    return "The printer is “%s”. The tooltip: %s" % (state.name, tip)
 
 
 @step("cost")
@@ -334,11 +342,10 @@ def held(d):
 
 @step("job-ended")
 def job_ended(d):
-    d.get("button", "Release")
-    d.keys("alt+r")
+    d.click(d.get("button", "Release"))
     job = wait("the end of the job", lambda: next(
         (text for text in d.texts() if re.match(r"Job \d+: done", text)), None))
-    return "Alt+R releases the job, and it is followed to its end: %s" % job.replace("\n", ", ")
+    return "Release: the job is followed to its end: %s" % job.replace("\n", ", ")
 
 
 @step("opened-again")
