@@ -279,6 +279,22 @@ def whole_again(d):
     return "Ctrl+0: the whole page, %s" % d.says("1×")
 
 
+@step("scaled")
+def scaled(d):
+    number = find(d, "Scale")
+    d.keys("Down", "Down", "Down", "Down", "Down", "Down")
+    wait("a scale of 70 %", lambda: number.queryValue().currentValue == 70)
+    return "Ctrl+F, “Scale”, Down six times: the pages are printed at 70 % of their size"
+
+
+@step("scale-undone")
+def scale_undone(d):
+    number = d.get("spin button", "Scale")
+    d.keys("ctrl+z")
+    wait("a scale of 100 %", lambda: number.queryValue().currentValue == 100)
+    return "Ctrl+Z: 100 %"
+
+
 @step("mirrored")
 def mirrored(d):
     find(d, "Mirror image")

@@ -3,7 +3,6 @@
 
 #include "host/batch/batch_run.h"
 
-#include "host/preview/page_counter.h"
 #include "host/preview/pdf_writer.h"
 #include "host/printing/opened_printer.h"
 #include "host/printing/preset_store.h"
@@ -164,13 +163,19 @@ bool BatchRun::mayNotPrintWithProtectionGap() const
 // False if nothing would be printed.
 bool BatchRun::checkDocuments(PrintError *error)
 {
-    const std::optional<PageSettings> settings = settingsForCheck(*m_session);
-    if (!settings)
-        return true;
-    const PageVerdict verdict = checkPages(PageTools::installed(), m_documents.documents(), *settings);
-    if (!verdict.message.isNull())
-        *error = {PrintError::Kind::BadValue, verdict.message};
-    return verdict.message.isNull();
+    const bool isSent = m_arguments.output.isEmpty();
+    std::optional<PageSettings> settings = settingsForCheck(*m_session);
+    m_pages.documents = m_documents.documents();
+    if (isSent)
+        *error = scalingProblem(*m_session);
+    else if (settings)
+        settings->percent = PageSettings::naturalSize; // writing the file scales the pages
+    if (*error || !settings)
+        return !*error;
+    m_pages = checkPages(PageTools::installed(), m_pages.documents, *settings);
+    if (!m_pages.message.isNull())
+        *error = {PrintError::Kind::BadValue, m_pages.message};
+    return m_pages.message.isNull();
 }
 
 bool BatchRun::changePresets(PrintError *error)
@@ -263,7 +268,7 @@ ExitCode BatchRun::settleConflicts()
 
 ExitCode BatchRun::submit()
 {
-    JobRequest request{m_session->destination(), m_documents.documents(), m_arguments.title,
+    JobRequest request{m_session->destination(), m_pages.documents, m_arguments.title,
                        m_session->jobOptions()};
     if (request.title.isEmpty())
         request.title = m_documents.title();

@@ -6,6 +6,7 @@
 #include "host/batch/arguments.h"
 #include "host/batch/results.h"
 #include "host/extensions/extensions.h"
+#include "host/preview/page_counter.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/print_system.h"
 
@@ -51,6 +52,7 @@ private:
     QIODevice *m_input = nullptr;
     std::unique_ptr<DialogSession> m_session;
     DocumentList m_documents;
+    PageVerdict m_pages; // of the documents as they are sent
     BatchResult m_result;
     std::optional<HeldSignals> m_signals; // from the submission until its outcome is reported
 };

@@ -97,6 +97,16 @@ QList<JobOption> jobOptionsForMadePages(DialogSession *session)
     return session->jobOptions();
 }
 
+int percentOf(const QList<JobOption> &options)
+{
+    PageLayoutSettings layout;
+    for (const JobOption &option : options) {
+        if (option.name == naturalScalingName)
+            layout.set(option.name, option.value);
+    }
+    return layout.percent();
+}
+
 Paper paperOf(const DialogSession &session)
 {
     const PpdDocument *ppd = session.ppd();

@@ -20,6 +20,8 @@ void beginWith(const StartingSettings &start, DialogSession *session);
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats);
 // The options of a job whose selected pages are produced by an application: all of them are printed.
 QList<JobOption> jobOptionsForMadePages(DialogSession *session);
+// The size of the pages that the options of a job ask for, in percent.
+int percentOf(const QList<JobOption> &options);
 // The paper selected in a session; without dimensions if the printer has no PPD.
 Paper paperOf(const DialogSession &session);
 

@@ -200,12 +200,14 @@ bool RequestRun::send(const StoredJob &job, PrintError *error)
     if (title.isEmpty())
         title = PortalText::tr("Document");
     list.first().name = title;
-    // The application has laid out the pages.
-    if (const QString problem = checkPages(PageTools::installed(), list, {}).message; !problem.isNull()) {
-        *error = {PrintError::Kind::BadValue, problem};
+    PageSettings pages; // the application has laid out the pages
+    pages.percent = percentOf(job.options);
+    const PageVerdict verdict = checkPages(PageTools::installed(), list, pages);
+    if (!verdict.message.isNull()) {
+        *error = {PrintError::Kind::BadValue, verdict.message};
         return false;
     }
-    const Submission submission = m_system.submit({*destination, list, title, job.options}, {});
+    const Submission submission = m_system.submit({*destination, verdict.documents, title, job.options}, {});
     m_system.setLoginPrompt({});
     *error = submission.error;
     m_differences = submission.job.differences;

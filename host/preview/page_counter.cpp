@@ -49,6 +49,7 @@ QString valueOf(const PageSettings &settings, const QString &name)
 PageSettings withoutChoiceOfPages(PageSettings settings)
 {
     settings.isMonochrome = false;
+    settings.percent = PageSettings::naturalSize;
     settings.options.removeIf(
         [](const auto &option) { return option.first == ranges || option.first == pageSet; });
     return settings;
@@ -130,6 +131,7 @@ void PageCounter::begin(const QStringList &paths, const PageSettings &settings, 
 {
     m_wanted = paths;
     m_settings = withoutChoiceOfPages(settings);
+    m_isScaled = settings.isScaled();
     m_ranges = valueOf(settings, ranges);
     m_pageSet = valueOf(settings, pageSet);
     m_pagesPerSide = qMax(1, valueOf(settings, QStringLiteral("number-up")).toInt());
@@ -170,7 +172,7 @@ PageVerdict PageCounter::verdict() const
         const int sides =
             m_isBooklet ? (known.pages + 3) / 4 * 2 : (known.pages + m_pagesPerSide - 1) / m_pagesPerSide;
         most = qMax(most, sides);
-        isPagePrinted = isPagePrinted || sides == 0 || known.isPicture;
+        isPagePrinted = isPagePrinted || sides == 0 || (known.isPicture && !m_isScaled);
         for (int side = 1; side <= sides && !isPagePrinted; ++side)
             isPagePrinted = isInRanges(side, m_ranges) && isInSet(side, m_pageSet);
     }
@@ -310,10 +312,65 @@ void PageCounter::finish()
     Q_EMIT counted();
 }
 
+namespace {
+
+// Processes events until the loop is left, or `stop` has returned true.
+void wait(QEventLoop *loop, const StopWanted &stop)
+{
+    constexpr std::chrono::milliseconds betweenLooks(50); // at `stop`
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, loop, [&] {
+        if (stop())
+            loop->quit();
+    });
+    if (stop)
+        look.start(betweenLooks);
+    loop->exec();
+}
+
+// Replaces a document of the verdict by a scaled one. False if it cannot be scaled or `stop` has returned
+// true; the verdict then says which.
+bool scale(PageMaker *maker, Document *document, const PageSettings &settings, const StopWanted &stop,
+           PageVerdict *verdict)
+{
+    std::optional<QString> problem;
+    SharedFile scaled;
+    QEventLoop untilDone;
+    QObject::connect(maker, &PageMaker::made, &untilDone, [&](const SharedFile &pdf) {
+        scaled = pdf;
+        untilDone.quit();
+    });
+    QObject::connect(maker, &PageMaker::failed, &untilDone, [&](const QString &reason) {
+        problem = reason;
+        untilDone.quit();
+    });
+    if (const SharedFile file = openFile(document->path))
+        maker->scale(*document, file, settings);
+    else
+        problem = qt_error_string(errno);
+    if (!scaled && !problem)
+        wait(&untilDone, stop);
+    PrintError error;
+    const auto made = scaled ? openDocument(LimitedProcess::pathFor(scaled), &error) : std::nullopt;
+    if (made) {
+        const QString name = document->name;
+        *document = *made;
+        document->name = name;
+        verdict->files.append(scaled);
+        return true;
+    }
+    verdict->kind = scaled || problem ? PageVerdict::Kind::Unreadable : PageVerdict::Kind::Pending;
+    if (verdict->kind == PageVerdict::Kind::Unreadable)
+        verdict->message = PageCounter::tr("“%1” cannot be scaled: %2.")
+                               .arg(document->name, problem.value_or(error.message));
+    return false;
+}
+
+} // namespace
+
 PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings,
                        const StopWanted &stop)
 {
-    constexpr std::chrono::milliseconds betweenLooks(50); // at `stop`
     PageCounter counter(tools);
     QStringList paths;
     for (const Document &document : documents)
@@ -323,20 +380,21 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
         if (counter.verdict().kind != PageVerdict::Kind::Pending)
             untilKnown.quit();
     });
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &untilKnown, [&] {
-        if (stop())
-            untilKnown.quit();
-    });
-    if (stop)
-        look.start(betweenLooks);
     counter.check(paths, settings);
     if (counter.verdict().kind == PageVerdict::Kind::Pending)
-        untilKnown.exec();
+        wait(&untilKnown, stop);
     PageVerdict verdict = counter.verdict();
+    verdict.documents = documents;
     for (const Document &document : documents) { // a file from a pipe has no name
         if (verdict.kind == PageVerdict::Kind::Unreadable && document.path == verdict.path)
             verdict.message = unreadable(document.name, verdict.problem);
+    }
+    PageMaker maker(tools, nullptr);
+    maker.setLimits(PageMaker::unhurried());
+    for (Document &document : verdict.documents) {
+        if (verdict.kind != PageVerdict::Kind::Printable || !settings.isScaled() ||
+            !scale(&maker, &document, settings, stop, &verdict))
+            break;
     }
     return verdict;
 }

@@ -17,13 +17,16 @@ struct PageVerdict
     enum class Kind {
         Pending,    // the documents are still being examined
         Printable,  // pages would be printed, as far as known
-        Unreadable, // a document is broken, truncated or protected: none of its pages would be printed
+        Unreadable, // a document is broken, truncated, protected or cannot be scaled: nothing of it is
+                    // printed
         NoPage      // the settings select no page of any document
     };
     Kind kind = Kind::Printable;
-    QString path = {};    // of the unreadable document
-    QString problem = {}; // the problem with that document: the end of a sentence
-    QString message = {}; // a sentence for the user; null unless the kind is Unreadable or NoPage
+    QString path = {};              // of the unreadable document
+    QString problem = {};           // the problem with that document: the end of a sentence
+    QString message = {};           // a sentence for the user; null unless the kind is Unreadable or NoPage
+    QList<Document> documents = {}; // from checkPages(): what to send, scaled if the settings ask for it
+    QList<SharedFile> files = {};   // the scaled documents, freed with the verdict
 };
 
 // Counts the pages of documents before settings are applied to them, and determines whether any would be
@@ -96,6 +99,7 @@ private:
     QString m_ranges, m_pageSet; // the selected pages
     int m_pagesPerSide = 1;
     bool m_isBooklet = false; // both sides of all sheets are printed
+    bool m_isScaled = false;  // the filter for PDF selects the pages of images too
     bool m_isEachCounted = true;
     QStringList m_wanted;
     QHash<QString, Known> m_known; // by path; includes documents that cannot be counted
@@ -107,8 +111,9 @@ private:
     Known m_result;            // its result so far
 };
 
-// Determines whether any page of the documents would be printed. Runs an event loop until the result is
-// known, on any thread. The result is Pending if `stop` (may be null) has returned true.
+// Determines whether any page of the documents would be printed, and scales them if the settings ask for it.
+// Runs an event loop until the result is known, on any thread. The result is Pending if `stop` (may be null)
+// has returned true.
 PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents, const PageSettings &settings,
                        const StopWanted &stop = {});
 

@@ -9,6 +9,41 @@ namespace {
 
 const QString pdf = QStringLiteral("application/pdf");
 const QString document = QStringLiteral("/dev/stdin");
+const QString interpreter = QStringLiteral("gs");
+
+QStringList interpreterArguments()
+{
+    return {QStringLiteral("-q"),
+            QStringLiteral("-dBATCH"),
+            QStringLiteral("-dNOPAUSE"),
+            QStringLiteral("-dSAFER"),
+            QStringLiteral("-sDEVICE=pdfwrite"),
+            QStringLiteral("-sOutputFile=/dev/stdout"),
+            QStringLiteral("-sstdout=%stderr")};
+}
+
+// Scales each page about its center and keeps its size. The size is that of the trim box, else of the crop
+// box, as for the filter that lays out the pages. Images are not compressed with loss again. Annotations
+// become a part of the page, since programs place them without regard to the scale.
+QStringList scalingArguments(int percent)
+{
+    const QString atStartOfPage = QStringLiteral(
+        "<< /BeginPage { pop currentpagedevice /PageSize get aload pop 2 div exch 2 div exch "
+        "2 copy translate %1 100 div dup scale neg exch neg exch translate } >> setpagedevice");
+    return {QStringLiteral("-dAutoRotatePages=/None"),
+            QStringLiteral("-dUseCropBox"),
+            QStringLiteral("-dUseTrimBox"),
+            QStringLiteral("-dPreserveAnnots=false"),
+            QStringLiteral("-dPrinted"),
+            QStringLiteral("-dAutoFilterColorImages=false"),
+            QStringLiteral("-dColorImageFilter=/FlateEncode"),
+            QStringLiteral("-dAutoFilterGrayImages=false"),
+            QStringLiteral("-dGrayImageFilter=/FlateEncode"),
+            QStringLiteral("-c"),
+            atStartOfPage.arg(percent),
+            QStringLiteral("-f"),
+            document};
+}
 
 } // namespace
 
@@ -18,25 +53,37 @@ PageMaker::PageMaker(const PageTools &tools, QObject *parent)
     connect(&m_process, &LimitedProcess::ended, this, &PageMaker::ended);
 }
 
+LimitedProcess::Limits PageMaker::unhurried()
+{
+    LimitedProcess::Limits limits;
+    limits.time = std::chrono::minutes(10);
+    limits.memory *= 4;
+    limits.output *= 8;
+    return limits;
+}
+
 bool PageMaker::isA(const QString &type) const
 {
     return m_document.format == type || m_document.otherFormats.contains(type);
 }
 
-void PageMaker::make(const Document &document, const SharedFile &file, const PageSettings &settings)
+void PageMaker::begin(const Document &document, const SharedFile &file, const PageSettings &settings,
+                      bool isLaidOut)
 {
     m_process.stop();
     m_document = document;
     m_settings = settings;
+    m_isLaidOut = isLaidOut;
     const bool isLaidOutAtOnce = !isA(pdf) && !isA(QStringLiteral("application/postscript"));
-    const QString madeFrom =
-        document.path +
-        (isLaidOutAtOnce ? settings.optionText() + QString::fromLatin1(settings.ppd()) : QString());
+    const QString madeFrom = document.path + (isLaidOutAtOnce ? settingsForConversion().optionText() +
+                                                                    QString::fromLatin1(settings.ppd())
+                                                              : QString());
     if (m_pages && madeFrom == m_madeFrom) {
-        layOut();
+        scalePages();
         return;
     }
     m_pages.reset();
+    m_scaled.reset();
     m_madeFrom = madeFrom;
     m_file = file;
     next(document.isCompressed ? Step::Unpack : Step::Convert);
@@ -45,11 +92,9 @@ void PageMaker::make(const Document &document, const SharedFile &file, const Pag
 void PageMaker::next(Step step)
 {
     if (step == Step::Unpack)
-        runFilter(step, QStringLiteral("gziptoany"));
-    else if (step == Step::Convert)
-        convert();
+        runFilter(step, QStringLiteral("gziptoany"), m_settings);
     else
-        layOut();
+        convert();
 }
 
 void PageMaker::convert()
@@ -57,16 +102,13 @@ void PageMaker::convert()
     if (isA(pdf)) {
         m_pages = m_file;
         Q_EMIT documentMade(m_pages);
-        layOut();
+        scalePages();
     } else if (isA(QStringLiteral("application/postscript"))) {
-        run(Step::Convert, QStringLiteral("gs"),
-            {QStringLiteral("-q"), QStringLiteral("-dBATCH"), QStringLiteral("-dNOPAUSE"),
-             QStringLiteral("-dSAFER"), QStringLiteral("-sDEVICE=pdfwrite"),
-             QStringLiteral("-sOutputFile=/dev/stdout"), QStringLiteral("-sstdout=%stderr"), document});
-    } else if (m_document.format.startsWith(QLatin1String("image/")) && !m_document.isDrawingInText) {
-        runFilter(Step::Convert, QStringLiteral("imagetopdf"));
+        run(Step::Convert, interpreter, interpreterArguments() + QStringList(document));
+    } else if (isPicture() && !m_document.isDrawingInText) {
+        runFilter(Step::Convert, QStringLiteral("imagetopdf"), settingsForConversion());
     } else if (isA(QStringLiteral("text/plain")) && !m_document.isDrawingInText) {
-        runFilter(Step::Convert, QStringLiteral("texttopdf"));
+        runFilter(Step::Convert, QStringLiteral("texttopdf"), m_settings);
     } else {
         const QString kind = m_document.formatText.isEmpty() ? m_document.format : m_document.formatText;
         Q_EMIT failed(tr("there is no program here that shows this kind of document (%1)").arg(kind),
@@ -74,23 +116,44 @@ void PageMaker::convert()
     }
 }
 
-void PageMaker::layOut()
+// A scaled image is sent as PDF. The filter for PDF then mirrors it.
+PageSettings PageMaker::settingsForConversion() const
 {
-    // Done by the filter for images.
-    const bool isDone = m_document.format.startsWith(QLatin1String("image/"));
-    if (isDone || m_tools.path(QStringLiteral("pdftopdf")).isEmpty()) {
-        Q_EMIT made(m_pages, isDone);
-        return;
-    }
-    m_file = m_pages;
-    runFilter(Step::LayOut, QStringLiteral("pdftopdf"));
+    PageSettings settings = m_settings;
+    if (isPicture() && settings.isScaled())
+        settings.options.removeIf([](const auto &option) { return option.first == QLatin1String("mirror"); });
+    return settings;
 }
 
-void PageMaker::runFilter(Step step, const QString &filter)
+void PageMaker::scalePages()
+{
+    if (!m_settings.isScaled() || (m_scaled && m_scaledTo == m_settings.percent)) {
+        layOut();
+        return;
+    }
+    m_scaled.reset();
+    m_scaledTo = m_settings.percent;
+    m_file = m_pages;
+    run(Step::Scale, interpreter, interpreterArguments() + scalingArguments(m_scaledTo));
+}
+
+void PageMaker::layOut()
+{
+    const SharedFile &pages = m_settings.isScaled() ? m_scaled : m_pages;
+    const bool isDone = isPicture() && !m_settings.isScaled(); // by the filter for images
+    if (isDone || !m_isLaidOut || m_tools.path(QStringLiteral("pdftopdf")).isEmpty()) {
+        Q_EMIT made(pages, isDone);
+        return;
+    }
+    m_file = pages;
+    runFilter(Step::LayOut, QStringLiteral("pdftopdf"), m_settings);
+}
+
+void PageMaker::runFilter(Step step, const QString &filter, const PageSettings &settings)
 {
     run(step, filter,
         {QStringLiteral("1"), QStringLiteral("user"), QStringLiteral("document"), QStringLiteral("1"),
-         m_settings.optionText(), document});
+         settings.optionText(), document});
 }
 
 void PageMaker::run(Step step, const QString &program, const QStringList &arguments)
@@ -140,9 +203,14 @@ void PageMaker::ended(const SharedFile &output)
         next(Step::Convert);
         return;
     }
+    if (m_step == Step::Scale) {
+        m_scaled = output;
+        layOut();
+        return;
+    }
     m_pages = output;
     Q_EMIT documentMade(m_pages);
-    layOut();
+    scalePages();
 }
 
 } // namespace host

@@ -27,8 +27,19 @@ public:
     PageMaker(const PageTools &tools, QObject *parent);
 
     void setLimits(const LimitedProcess::Limits &limits) { m_process.setLimits(limits); }
+    // Limits for large documents that are not made for display: ten minutes, and more memory and output.
+    static LimitedProcess::Limits unhurried();
     // Starts a conversion in place of the current one; the file contains the document, from its beginning.
-    void make(const Document &document, const SharedFile &file, const PageSettings &settings);
+    void make(const Document &document, const SharedFile &file, const PageSettings &settings)
+    {
+        begin(document, file, settings, true);
+    }
+    // The same, but emits made() with the scaled pages before they are laid out, as a document for the print
+    // system.
+    void scale(const Document &document, const SharedFile &file, const PageSettings &settings)
+    {
+        begin(document, file, settings, false);
+    }
     void stop() { m_process.stop(); }
     bool isRunning() const { return m_process.isRunning(); }
 
@@ -42,13 +53,18 @@ Q_SIGNALS:
     void failed(const QString &reason, host::PageMaker::Fault fault);
 
 private:
-    enum class Step { Unpack, Convert, LayOut };
+    enum class Step { Unpack, Convert, Scale, LayOut };
+    void begin(const Document &document, const SharedFile &file, const PageSettings &settings,
+               bool isLaidOut);
     void next(Step step);
     void run(Step step, const QString &program, const QStringList &arguments);
-    void runFilter(Step step, const QString &filter);
+    void runFilter(Step step, const QString &filter, const PageSettings &settings);
     void ended(const SharedFile &output);
     void convert();
+    void scalePages();
     void layOut();
+    PageSettings settingsForConversion() const;
+    bool isPicture() const { return m_document.format.startsWith(QLatin1String("image/")); }
     bool isA(const QString &type) const;
 
     PageTools m_tools;
@@ -57,6 +73,9 @@ private:
     PageSettings m_settings;
     SharedFile m_file;  // result of the last step
     SharedFile m_pages; // the document's own
+    SharedFile m_scaled;
+    int m_scaledTo = 0; // percent
+    bool m_isLaidOut = true;
     Step m_step = Step::Unpack;
     QString m_program;  // of the current step
     QString m_madeFrom; // path of m_pages and, if they matter, the settings

@@ -40,12 +40,8 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
 PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_joiner(nullptr)
 {
-    LimitedProcess::Limits limits; // the user is not waiting for a display, and documents may be large
-    limits.time = std::chrono::minutes(10);
-    limits.memory *= 4;
-    limits.output *= 8;
-    m_maker.setLimits(limits);
-    m_joiner.setLimits(limits);
+    m_maker.setLimits(PageMaker::unhurried());
+    m_joiner.setLimits(PageMaker::unhurried());
     connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
     connect(&m_maker, &PageMaker::failed, this, [this](const QString &reason, PageMaker::Fault fault) {
         if (fault == PageMaker::Fault::Selection) // another document may have selected pages

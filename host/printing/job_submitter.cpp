@@ -8,6 +8,7 @@
 #include "host/printing/held_signals.h"
 #include "host/printing/job_attributes.h"
 #include "host/printing/option_text.h"
+#include "host/printing/page_settings.h"
 #include "host/printing/reasons.h"
 #include "host/printing/utf8_text.h"
 
@@ -125,7 +126,8 @@ void JobSubmitter::takeOptions()
             m_forcedFormat = option.value.toUtf8();
         const bool isServers =
             option.kind == JobOption::Kind::Preference && m_queue.defaults.value(option.name) == option.value;
-        return isRaw || isFormat || isServers;
+        const bool isApplied = option.name == naturalScalingName; // to the documents, by the caller
+        return isRaw || isFormat || isServers || isApplied;
     });
 }
 

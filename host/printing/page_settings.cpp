@@ -23,7 +23,8 @@ QString quoted(QString value)
 
 bool PageSettings::operator==(const PageSettings &other) const
 {
-    return options == other.options && isMonochrome == other.isMonochrome && ppd() == other.ppd();
+    return options == other.options && isMonochrome == other.isMonochrome && percent == other.percent &&
+           ppd() == other.ppd();
 }
 
 QString PageSettings::optionText() const

@@ -13,6 +13,10 @@
 
 namespace host {
 
+// The job option for the size of the pages in percent. Filters of the print system ignore it for PDF, so
+// documents are scaled before they are sent, and the option is not sent.
+inline const QString naturalScalingName = QStringLiteral("natural-scaling");
+
 // Settings that affect the pages of a document. Contains only page layout options, since they become
 // command-line arguments, which every user of the machine can read. A value.
 struct PageSettings
@@ -20,6 +24,10 @@ struct PageSettings
     QList<std::pair<QString, QString>> options; // job options
     PaperSize paper;                            // without dimensions, A4 without margins is used
     bool isMonochrome = false;
+    int percent = naturalSize; // the size of the pages on paper that keeps its size
+
+    static constexpr int naturalSize = 100;
+    bool isScaled() const { return percent != naturalSize; }
 
     bool operator==(const PageSettings &other) const;
     // The options as filters receive them.

@@ -17,6 +17,7 @@ constexpr qsizetype longestName = 256;
 constexpr qsizetype longestValue = 4096; // characters
 constexpr qsizetype mostValues = 4096;
 constexpr int mostCopies = 9999;
+constexpr double mostPercent = 1000;   // the dialog checks its own range
 constexpr int afterAllPages = 999'999; // the end of open ranges
 
 const QString optionPrefix = QStringLiteral("cups-");
@@ -73,7 +74,7 @@ void addPaper(const QJsonObject &pageSetup, NamedValues *choices)
         choices->append({QStringLiteral("PageSize"), name});
 }
 
-// Page settings that the print server applies instead of GTK.
+// Page settings that are applied here instead of by GTK.
 NamedValues serverOptions(const QJsonObject &settings)
 {
     NamedValues options;
@@ -92,6 +93,9 @@ NamedValues serverOptions(const QJsonObject &settings)
     static const QStringList sets = {QStringLiteral("odd"), QStringLiteral("even")};
     if (const QString set = textOf(settings, "page-set"); sets.contains(set))
         options.append({QStringLiteral("page-set"), set});
+    const double percent = textOf(settings, "scale").toDouble();
+    if (percent >= 1 && percent <= mostPercent && std::lround(percent) != 100)
+        options.append({QStringLiteral("natural-scaling"), QString::number(std::lround(percent))});
     return options;
 }
 

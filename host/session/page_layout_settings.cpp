@@ -29,6 +29,7 @@ struct Setting
     QLatin1String sent;  // sent to the server instead of an empty value
     const char *text;
     QLatin1String keyword = {}; // of an option with which a PPD takes the place of this setting
+    int least = 0, most = 0;    // the range of a number; such a setting has no rows below
 };
 
 constexpr std::array settings = {
@@ -38,6 +39,7 @@ constexpr std::array settings = {
     Setting{"page-border"_L1, "none"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Border")},
     Setting{"orientation-requested"_L1, {}, "3"_L1, QT_TRANSLATE_NOOP("LayoutText", "Orientation")},
     Setting{"print-scaling"_L1, {}, "auto"_L1, QT_TRANSLATE_NOOP("LayoutText", "Scaling")},
+    Setting{"natural-scaling"_L1, "100"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Scale"), {}, 25, 400},
     Setting{"page-set"_L1, "all"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Odd or even")},
     Setting{"outputorder"_L1, "normal"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Last page first")},
     Setting{"mirror"_L1, "false"_L1, {}, QT_TRANSLATE_NOOP("LayoutText", "Mirror image"), "MirrorPrint"_L1},
@@ -193,8 +195,16 @@ QString PageLayoutSettings::keywordFor(const QString &name)
     return setting ? QString(setting->keyword) : QString();
 }
 
+std::optional<PageLayoutSettings::Range> PageLayoutSettings::rangeOf(const QString &name)
+{
+    const Setting *setting = settingNamed(name);
+    return setting && setting->most > 0 ? std::optional(Range{setting->least, setting->most}) : std::nullopt;
+}
+
 QString PageLayoutSettings::takes(const QString &name)
 {
+    if (const auto range = rangeOf(name))
+        return LayoutText::tr("whole numbers from %1 to %2").arg(range->least).arg(range->most);
     return olderNamed(name) || isSwitch(name) ? LayoutText::tr("True or False")
                                               : valuesOf(name, false).join(QStringLiteral(", "));
 }
@@ -207,6 +217,14 @@ bool PageLayoutSettings::set(const QString &name, const QString &value)
         if (on && (*on || setting == older->value))
             setting = *on ? QString(older->value) : QString();
         return on.has_value();
+    }
+    if (const auto range = rangeOf(name)) {
+        bool isNumber = false;
+        const int number = value.toInt(&isNumber);
+        const bool isTaken = isNumber && number >= range->least && number <= range->most;
+        if (isTaken)
+            m_values.insert(name, QString::number(number));
+        return isTaken;
     }
     QString known = value.toLower();
     if (const auto on = isSwitch(name) ? switchValue(value) : std::nullopt)
@@ -284,6 +302,8 @@ QList<SettingWords> PageLayoutSettings::inWords(bool withUsual) const
 
 QString layoutValueText(const QString &name, const QString &value)
 {
+    if (name == naturalScalingName)
+        return LayoutText::tr("%1 %").arg(value);
     for (const Value &known : values) {
         if (name == known.name && value == known.value)
             return known.text ? LayoutText::tr(known.text) : value;
@@ -294,7 +314,7 @@ QString layoutValueText(const QString &name, const QString &value)
 bool isPageOption(const QString &name)
 {
     static const QStringList others =
-        QStringLiteral("page-left page-right page-top page-bottom position scaling natural-scaling ppi "
+        QStringLiteral("page-left page-right page-top page-bottom position scaling ppi "
                        "cpi lpi columns wrap prettyprint crop-to-fit")
             .split(QLatin1Char(' '));
     return PageLayoutSettings::covers(name) || others.contains(name);

@@ -4,11 +4,14 @@
 #pragma once
 
 #include "host/printing/job.h"
+#include "host/printing/page_settings.h"
 
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace host {
 
@@ -21,8 +24,9 @@ struct SettingWords
 };
 
 // The page layout, which the filters of the print system apply for every printer. Settings have the names and
-// values of their job options, in their canonical spelling. An empty value is the default of each document.
-// The settings are listed in a table in the source file. A value.
+// values of their job options, in their canonical spelling. The scale is applied before a job is sent. An
+// empty value is the default of each document. The settings are listed in a table in the source file. A
+// value.
 class PageLayoutSettings
 {
 public:
@@ -40,6 +44,12 @@ public:
     static QString textOf(const QString &name); // localised; empty for other names
     // The keyword of an option with which some PPDs take the place of this setting; empty if there is none.
     static QString keywordFor(const QString &name);
+    // The whole numbers that set() accepts for a name; null if it accepts certain values only.
+    struct Range
+    {
+        int least, most;
+    };
+    static std::optional<Range> rangeOf(const QString &name);
     // A description of the values that set() accepts for a name, for messages.
     static QString takes(const QString &name);
 
@@ -47,6 +57,8 @@ public:
     // Whether the pages are arranged on both sides of sheets that are folded in the middle. The number and
     // the order of the pages per side then have no effect.
     bool isBooklet() const { return value(QStringLiteral("booklet")) == QLatin1String("true"); }
+    // The size at which pages are printed, in percent of their natural size.
+    int percent() const { return value(naturalScalingName).toInt(); }
     int pagesPerSide() const { return isBooklet() ? 2 : value(QStringLiteral("number-up")).toInt(); }
     // The number of printed sides of a document with this number of pages, before pages are selected.
     int sidesOf(int pages) const;

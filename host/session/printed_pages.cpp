@@ -7,13 +7,27 @@
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace host {
 
 namespace {
 
+struct PagesText
+{
+    Q_DECLARE_TR_FUNCTIONS(PagesText)
+};
+
 const QString pageSize = QStringLiteral("PageSize");
+
+// Whether job options have the server pass documents to the printer unchanged.
+bool isPastFilters(const DialogSession &session)
+{
+    const ChosenSettings &chosen = session.chosen();
+    return chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format"));
+}
 
 // Names that PPDs of many makers use for the same setting.
 bool isMonochromeMark(const QString &keyword, const QString &choice)
@@ -41,7 +55,8 @@ PageSettings pageSettings(const DialogSession &session)
     PageSettings settings;
     const QList<JobOption> options = session.jobOptions();
     for (const JobOption &option : options) {
-        const bool isKnown = isPageOption(option.name) || option.name == QLatin1String("page-ranges");
+        const bool isKnown = (isPageOption(option.name) && option.name != naturalScalingName) ||
+                             option.name == QLatin1String("page-ranges");
         if (isKnown && option.kind != JobOption::Kind::Shown)
             settings.options.append({option.name, option.value});
     }
@@ -55,6 +70,7 @@ PageSettings pageSettings(const DialogSession &session)
     if (session.general().layout.isReversed() && isTwoSided(session))
         settings.options.append({QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")});
     settings.isMonochrome = isMonochrome(session, options);
+    settings.percent = session.general().layout.percent();
     const QString choice = session.ppd() ? session.ppd()->markedChoice(pageSize) : QString();
     if (!choice.isEmpty())
         settings.paper = session.ppd()->paperSize(choice).value_or(PaperSize());
@@ -63,10 +79,25 @@ PageSettings pageSettings(const DialogSession &session)
 
 std::optional<PageSettings> settingsForCheck(const DialogSession &session)
 {
-    const ChosenSettings &chosen = session.chosen();
-    if (chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format")))
-        return std::nullopt;
-    return pageSettings(session);
+    return isPastFilters(session) ? std::nullopt : std::optional(pageSettings(session));
+}
+
+QString scalingObstacle(const DialogSession &session)
+{
+    return session.ppd() && !isPastFilters(session)
+               ? QString()
+               : PagesText::tr("Documents reach the printer unchanged. They cannot be scaled.");
+}
+
+PrintError scalingProblem(const DialogSession &session)
+{
+    const QString obstacle = scalingObstacle(session);
+    if (obstacle.isNull() || session.general().layout.percent() == PageSettings::naturalSize)
+        return {};
+    return {PrintError::Kind::BadValue,
+            PagesText::tr("%1 Set “%2” to %3.")
+                .arg(obstacle, PageLayoutSettings::textOf(naturalScalingName),
+                     layoutValueText(naturalScalingName, QString::number(PageSettings::naturalSize)))};
 }
 
 bool isTwoSided(const DialogSession &session)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/printing/page_settings.h"
+#include "host/printing/print_error.h"
 
 #include <optional>
 
@@ -17,6 +18,12 @@ PageSettings pageSettings(const DialogSession &session);
 
 // The same for checkPages(); null if documents reach the printer unchanged and cannot be checked.
 std::optional<PageSettings> settingsForCheck(const DialogSession &session);
+
+// Why documents cannot be scaled: they reach the printer unchanged. A sentence; null if they can.
+QString scalingObstacle(const DialogSession &session);
+
+// An error if the settings ask for a scale although documents cannot be scaled; otherwise empty.
+PrintError scalingProblem(const DialogSession &session);
 
 // Whether a session prints on both sides of the paper.
 bool isTwoSided(const DialogSession &session);

@@ -223,7 +223,8 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
     // The print system may accept a value that the page layout does not.
     if (setting.kind == ChosenSetting::Kind::JobOption &&
         (isHandling || !hasSetting(*session, key) ||
-         (isLayout(*session, key) && !PageLayoutSettings().set(key, value))))
+         (isLayout(*session, key) && !PageLayoutSettings().set(key, value) &&
+          !PageLayoutSettings::rangeOf(key))))
         return setJobOption(session, setting, error);
     if (GeneralSettings::covers(key) && !isHandling)
         return setGeneral(&session->general(), setting, error);

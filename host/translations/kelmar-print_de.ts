@@ -415,6 +415,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Passt die Größe der Seiten an das Papier an oder behält sie bei. Was in Originalgröße nicht auf das Papier passt, wird abgeschnitten.</translation>
     </message>
     <message>
+        <source>Enlarges or reduces each page about its center, in percent of its natural size. Whatever does not fit on the page is cut off.</source>
+        <translation>Vergrößert oder verkleinert jede Seite von ihrer Mitte aus, in Prozent ihrer eigentlichen Größe. Was nicht auf die Seite passt, wird abgeschnitten.</translation>
+    </message>
+    <message>
         <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>Druckt nur jede zweite Seite, etwa um Papier von Hand beidseitig zu bedrucken: erst die ungeraden Seiten, dann die geraden.</translation>
     </message>
@@ -880,6 +884,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>True oder False</translation>
     </message>
     <message>
+        <source>whole numbers from %1 to %2</source>
+        <translation>ganze Zahlen von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
         <source>Pages per side</source>
         <translation>Seiten pro Blattseite</translation>
     </message>
@@ -898,6 +910,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Scaling</source>
         <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -989,6 +1005,17 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>„%1“ ist weder eine Seite noch ein Seitenbereich; schreiben Sie zum Beispiel 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PagesText</name>
+    <message>
+        <source>Documents reach the printer unchanged. They cannot be scaled.</source>
+        <translation>Dokumente erreichen den Drucker unverändert. Sie können nicht skaliert werden.</translation>
+    </message>
+    <message>
+        <source>%1 Set “%2” to %3.</source>
+        <translation>%1 Stellen Sie „%2“ auf %3.</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2338,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Skalierung:</translation>
     </message>
     <message>
+        <source>Scale:</source>
+        <translation>Maßstab:</translation>
+    </message>
+    <message>
         <source>Odd or even:</source>
         <translation>Gerade oder ungerade:</translation>
     </message>
@@ -2445,6 +2476,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>“%1” cannot be printed: %2.</source>
         <translation>„%1“ kann nicht gedruckt werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: %2.</source>
+        <translation>„%1“ kann nicht skaliert werden: %2.</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>

@@ -415,6 +415,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Ajusta el tamaño de las páginas al papel o lo conserva. A tamaño real se recorta lo que no cabe en el papel.</translation>
     </message>
     <message>
+        <source>Enlarges or reduces each page about its center, in percent of its natural size. Whatever does not fit on the page is cut off.</source>
+        <translation>Amplía o reduce cada página desde su centro, en porcentaje de su tamaño original. Se recorta lo que no cabe en la página.</translation>
+    </message>
+    <message>
         <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>Imprime solo una de cada dos páginas, por ejemplo para imprimir a mano por las dos caras: primero las impares y después las pares.</translation>
     </message>
@@ -880,6 +884,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>True o False</translation>
     </message>
     <message>
+        <source>whole numbers from %1 to %2</source>
+        <translation>números enteros de %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
         <source>Pages per side</source>
         <translation>Páginas por cara</translation>
     </message>
@@ -897,6 +909,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>Scaling</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Scale</source>
         <translation>Escala</translation>
     </message>
     <message>
@@ -989,6 +1005,17 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>«%1» no es una página ni un intervalo de páginas; escriba por ejemplo 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PagesText</name>
+    <message>
+        <source>Documents reach the printer unchanged. They cannot be scaled.</source>
+        <translation>Los documentos llegan a la impresora sin cambios. No se puede cambiar su escala.</translation>
+    </message>
+    <message>
+        <source>%1 Set “%2” to %3.</source>
+        <translation>%1 Ajuste «%2» a %3.</translation>
     </message>
 </context>
 <context>
@@ -2308,6 +2335,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
     <message>
         <source>Scaling:</source>
+        <translation>Ajuste:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
         <translation>Escala:</translation>
     </message>
     <message>
@@ -2445,6 +2476,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>“%1” cannot be printed: %2.</source>
         <translation>No se puede imprimir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: %2.</source>
+        <translation>No se puede cambiar la escala de «%1»: %2.</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>

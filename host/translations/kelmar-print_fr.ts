@@ -415,6 +415,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Adapte la taille des pages au papier, ou la conserve. En taille réelle, ce qui dépasse du papier est coupé.</translation>
     </message>
     <message>
+        <source>Enlarges or reduces each page about its center, in percent of its natural size. Whatever does not fit on the page is cut off.</source>
+        <translation>Agrandit ou réduit chaque page à partir de son centre, en pourcentage de sa taille d’origine. Ce qui dépasse de la page est coupé.</translation>
+    </message>
+    <message>
         <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>N’imprime qu’une page sur deux, par exemple pour imprimer manuellement en recto verso&#xa0;: d’abord les pages impaires, puis les pages paires.</translation>
     </message>
@@ -880,6 +884,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>True ou False</translation>
     </message>
     <message>
+        <source>whole numbers from %1 to %2</source>
+        <translation>des nombres entiers de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
         <source>Pages per side</source>
         <translation>Pages par face</translation>
     </message>
@@ -897,6 +909,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Scaling</source>
+        <translation>Ajustement</translation>
+    </message>
+    <message>
+        <source>Scale</source>
         <translation>Échelle</translation>
     </message>
     <message>
@@ -989,6 +1005,17 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>«&#xa0;%1&#xa0;» n’est ni une page ni une plage de pages&#xa0;; écrivez par exemple 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PagesText</name>
+    <message>
+        <source>Documents reach the printer unchanged. They cannot be scaled.</source>
+        <translation>Les documents parviennent à l’imprimante sans modification. Ils ne peuvent pas être mis à l’échelle.</translation>
+    </message>
+    <message>
+        <source>%1 Set “%2” to %3.</source>
+        <translation>%1 Réglez «&#xa0;%2&#xa0;» sur %3.</translation>
     </message>
 </context>
 <context>
@@ -2308,6 +2335,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>Scaling:</source>
+        <translation>Ajustement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
         <translation>Échelle&#xa0;:</translation>
     </message>
     <message>
@@ -2445,6 +2476,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>“%1” cannot be printed: %2.</source>
         <translation>« %1 » ne peut pas être imprimé : %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être mis à l’échelle&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>

@@ -415,6 +415,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Adatta la dimensione delle pagine al foglio oppure la mantiene. A dimensioni reali, ciò che non sta sul foglio viene tagliato.</translation>
     </message>
     <message>
+        <source>Enlarges or reduces each page about its center, in percent of its natural size. Whatever does not fit on the page is cut off.</source>
+        <translation>Ingrandisce o riduce ogni pagina rispetto al suo centro, in percentuale della dimensione originale. Ciò che non sta sulla pagina viene tagliato.</translation>
+    </message>
+    <message>
         <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>Stampa solo una pagina su due, per esempio per stampare manualmente fronte e retro: prima le pagine dispari, poi quelle pari.</translation>
     </message>
@@ -880,6 +884,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>True o False</translation>
     </message>
     <message>
+        <source>whole numbers from %1 to %2</source>
+        <translation>numeri interi da %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
         <source>Pages per side</source>
         <translation>Pagine per facciata</translation>
     </message>
@@ -897,6 +909,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>Scaling</source>
+        <translation>Adattamento</translation>
+    </message>
+    <message>
+        <source>Scale</source>
         <translation>Scala</translation>
     </message>
     <message>
@@ -989,6 +1005,17 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>«%1» non è una pagina né un intervallo di pagine; scrivere per esempio 1-3, 8.</translation>
+    </message>
+</context>
+<context>
+    <name>PagesText</name>
+    <message>
+        <source>Documents reach the printer unchanged. They cannot be scaled.</source>
+        <translation>I documenti arrivano alla stampante senza modifiche. Non è possibile ridimensionarli.</translation>
+    </message>
+    <message>
+        <source>%1 Set “%2” to %3.</source>
+        <translation>%1 Imposta “%2” su %3.</translation>
     </message>
 </context>
 <context>
@@ -2308,6 +2335,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
     <message>
         <source>Scaling:</source>
+        <translation>Adattamento:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
         <translation>Scala:</translation>
     </message>
     <message>
@@ -2445,6 +2476,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>“%1” cannot be printed: %2.</source>
         <translation>Impossibile stampare «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: %2.</source>
+        <translation>Impossibile ridimensionare “%1”: %2.</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>

@@ -415,6 +415,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ページを用紙に合わせて拡大・縮小するか、元のサイズのまま印刷します。実際のサイズでは、用紙に収まらない部分は切れます。</translation>
     </message>
     <message>
+        <source>Enlarges or reduces each page about its center, in percent of its natural size. Whatever does not fit on the page is cut off.</source>
+        <translation>各ページをその中心から拡大・縮小します。値は元のサイズに対するパーセントです。ページに収まらない部分は切れます。</translation>
+    </message>
+    <message>
         <source>Prints only every other page, for example to print on both sides by hand: first the odd pages, then the even pages.</source>
         <translation>1 ページおきに印刷します。たとえば手動で両面に印刷するときは、先に奇数ページ、次に偶数ページを印刷します。</translation>
     </message>
@@ -880,6 +884,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>True または False</translation>
     </message>
     <message>
+        <source>whole numbers from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
         <source>Pages per side</source>
         <translation>1 面あたりのページ数</translation>
     </message>
@@ -898,6 +910,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Scaling</source>
         <translation>拡大/縮小</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>倍率</translation>
     </message>
     <message>
         <source>Odd or even</source>
@@ -989,6 +1005,17 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” is not a page or a range of pages; write for example 1-3, 8.</source>
         <translation>「%1」はページまたはページ範囲ではありません。例: 1-3, 8</translation>
+    </message>
+</context>
+<context>
+    <name>PagesText</name>
+    <message>
+        <source>Documents reach the printer unchanged. They cannot be scaled.</source>
+        <translation>文書はそのままプリンターに送られます。拡大・縮小はできません。</translation>
+    </message>
+    <message>
+        <source>%1 Set “%2” to %3.</source>
+        <translation>%1「%2」を %3 にしてください。</translation>
     </message>
 </context>
 <context>
@@ -2309,6 +2336,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>拡大/縮小:</translation>
     </message>
     <message>
+        <source>Scale:</source>
+        <translation>倍率:</translation>
+    </message>
+    <message>
         <source>Odd or even:</source>
         <translation>奇数/偶数ページ:</translation>
     </message>
@@ -2443,6 +2474,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>“%1” cannot be printed: %2.</source>
         <translation>“%1” を印刷できません: %2。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: %2.</source>
+        <translation>「%1」を拡大・縮小できません: %2。</translation>
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>

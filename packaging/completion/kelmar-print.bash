@@ -42,6 +42,7 @@ _kelmar_print_values() { # KEY
     page-set) echo all odd even ;;
     outputorder) echo normal reverse ;;
     print-scaling) echo auto auto-fit fit fill none ;;
+    natural-scaling) echo 25 50 70 100 141 200 400 ;;
     collate | booklet | mirror) echo True False ;;
     *) _kelmar_print_ask --list-options | sed -n "s|^    ${1//[!A-Za-z0-9._-]/}/.*: ||p" | tr -d '*' ;;
     esac

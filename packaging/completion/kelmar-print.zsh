@@ -43,6 +43,7 @@ _kelmar_print_setting() {
     (page-set) choices=(all odd even) ;;
     (outputorder) choices=(normal reverse) ;;
     (print-scaling) choices=(auto auto-fit fit fill none) ;;
+    (natural-scaling) choices=(25 50 70 100 141 200 400) ;;
     (collate|booklet|mirror) choices=(True False) ;;
     (*) choices=(${=${"$(_kelmar_print_ask --list-options | sed -n "s|^    ${key//[^A-Za-z0-9._-]/}/.*: ||p")"//\*/}}) ;;
     esac

@@ -99,9 +99,10 @@ void ApplicationSettingsTest::whatComesBack()
                               {u"number-up"_s, u"4"_s}, {u"scale"_s, u"50"_s},     {u"page-set"_s, u"odd"_s},
                               {u"x-own"_s, u"kept"_s},  {u"odd-type"_s, 3}};
     const StartingSettings start = startingSettings(sent, {});
-    QCOMPARE(
-        start.jobOptions,
-        (NamedValues{{u"number-up"_s, u"4"_s}, {u"outputorder"_s, u"reverse"_s}, {u"page-set"_s, u"odd"_s}}));
+    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"4"_s},
+                                            {u"outputorder"_s, u"reverse"_s},
+                                            {u"page-set"_s, u"odd"_s},
+                                            {u"natural-scaling"_s, u"50"_s}}));
     beginWith(start, session.get());
     session->general().pages = u"2-3,5-"_s;
     session->markChoice(u"Duplex"_s, u"DuplexTumble"_s);

@@ -152,6 +152,8 @@ void BatchRunTest::exitCodes_data()
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
     QTest::newRow("no passwords here")
         << u"--batch -o job-password=1234 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("scale too small") << u"--batch -o natural-scaling=24 FILE"_s << int(ExitUsage)
+                                     << u"bad-value"_s;
     QTest::newRow("back of a booklet upside down")
         << u"--batch -o booklet=true --set Duplex=DuplexNoTumble FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;

@@ -103,6 +103,8 @@ void GeneralPageTest::layoutIsSent_data()
                          << Map{{u"print-scaling"_s, u"fit"_s}, {u"fit-to-page"_s, u"true"_s}};
     QTest::newRow("actual size") << Map{{u"fit-to-page"_s, u"true"_s}} << u"print-scaling"_s << u"none"_s
                                  << Map{{u"print-scaling"_s, u"none"_s}, {u"fit-to-page"_s, u"false"_s}};
+    QTest::newRow("scale") << Map{{u"natural-scaling"_s, u"70"_s}} << u"natural-scaling"_s << u"100"_s
+                           << Map{{u"natural-scaling"_s, u"100"_s}};
     QTest::newRow("odd") << Map() << u"page-set"_s << u"odd"_s << Map{{u"page-set"_s, u"odd"_s}};
     QTest::newRow("reverse") << Map() << u"outputorder"_s << u"reverse"_s
                              << Map{{u"outputorder"_s, u"reverse"_s}};
@@ -125,6 +127,8 @@ void GeneralPageTest::layoutIsSent()
     open();
     if (auto *box = find<QCheckBox>(name))
         box->setChecked(value == u"reverse" || value == u"true");
+    else if (auto *number = find<QSpinBox>(name))
+        number->setValue(value.toInt());
     else
         choose(name, value);
     printButton()->click();
@@ -138,10 +142,12 @@ void GeneralPageTest::layoutIsUndone()
 {
     open();
     choose(u"orientation-requested"_s, u"4"_s);
+    find<QSpinBox>(u"natural-scaling"_s)->setValue(70);
     QTRY_VERIFY(find<ChangeMark>());
     QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
     QTRY_COMPARE(m_window->session()->general().layout, PageLayoutSettings());
     QCOMPARE(find<QComboBox>(u"orientation-requested"_s)->currentIndex(), 0);
+    QCOMPARE(find<QSpinBox>(u"natural-scaling"_s)->value(), 100);
     QTRY_VERIFY(!find<ChangeMark>());
 }
 

@@ -150,6 +150,7 @@ void PolicyTest::locksHoldInEverySpelling_data()
     row("priority", u"job-priority"_s, u"70"_s, true);
     row("booklet", u"booklet"_s, u"true"_s, false);
     row("mirror image", u"mirror"_s, u"true"_s, true);
+    row("scale", u"natural-scaling"_s, u"70"_s, true);
     row("pages per side", u"number-up"_s, u"2"_s, true);
 }
 

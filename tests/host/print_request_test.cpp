@@ -152,7 +152,7 @@ void PrintRequestTest::everyWayToPrintIsChecked()
     } else {
         for (auto *radio : m_window->findChildren<QRadioButton *>())
             radio->click();
-        QTest::keyClicks(m_window->findChildren<QLineEdit *>().last(), range);
+        QTest::keyClicks(m_window->findChild<QLineEdit *>(u"page-ranges"_s), range);
     }
     if (anyway)
         QVERIFY(pressIn(m_window->messageBar(), u"Print Anyway"_s));

@@ -70,7 +70,7 @@ void PrintWindowTest::printsWithTheGeneralPane()
             break;
         }
     }
-    auto *pages = window.findChildren<QLineEdit *>().last();
+    auto *pages = window.findChild<QLineEdit *>(u"page-ranges"_s);
     QVERIFY(pages->isEnabled());
     QTest::keyClicks(pages, u"2-3, 1"_s);
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
@@ -103,11 +103,11 @@ void PrintWindowTest::nonsensicalPagesStopPrinting()
     PrintWindow &window = open();
     for (auto *radio : window.findChildren<QRadioButton *>())
         radio->click();
-    QTest::keyClicks(window.findChildren<QLineEdit *>().last(), u"3-1"_s);
+    QTest::keyClicks(window.findChild<QLineEdit *>(u"page-ranges"_s), u"3-1"_s);
     printButton()->click();
     settle();
     QVERIFY(m_system.submitted.isEmpty());
-    QVERIFY(window.findChildren<QLineEdit *>().last()->hasFocus());
+    QVERIFY(window.findChild<QLineEdit *>(u"page-ranges"_s)->hasFocus());
 }
 
 void PrintWindowTest::conflictIsExplainedAndResolved()

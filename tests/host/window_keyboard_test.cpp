@@ -275,7 +275,7 @@ void WindowKeyboardTest::errorBelongsToItsField()
     PrintWindow &window = open();
     for (auto *radio : window.findChildren<QRadioButton *>())
         radio->click();
-    auto *pages = window.findChildren<QLineEdit *>().last();
+    auto *pages = window.findChild<QLineEdit *>(u"page-ranges"_s);
     const auto description = [pages] {
         return QAccessible::queryAccessibleInterface(pages)->text(QAccessible::Description);
     };

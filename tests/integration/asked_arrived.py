@@ -16,7 +16,7 @@ The expected values of a case are NAME=VALUE with these names:
   copies         the number of copies of each page, made by the printer or contained in the data
   whole=yes      the data is identical to the document
   *NAME          a feature of the printer that the data sets up
-  NAME           an option as received by filters and backend
+  NAME           an option as received by filters and backend; empty if there is none
   exit           the exit code of the program; if it is not 0, nothing may be printed
   warned=yes     the program has announced that the password is sent without encryption
 """
@@ -94,6 +94,13 @@ CASES = [
     ("office", "box.ps", "-o print-scaling=fit", f"pages=1 {A4} scale=1.4"),
     ("office", "large.pdf", "-o print-scaling=none", f"pages=1 {A4} scale=1.0"),
     ("office", "large.pdf", "-o print-scaling=fit", f"pages=1 {A4} scale=0.7"),
+    ("office", "box.pdf", "-o natural-scaling=50", f"pages=1 {A4} scale=0.5 natural-scaling="),
+    ("office", "box.pdf", "--set natural-scaling=50 -o print-scaling=fit", f"pages=1 {A4} scale=0.7 natural-scaling=",
+     "-o natural-scaling=50 -o print-scaling=fit"),
+    ("office", "box.ps", "-o natural-scaling=150", f"pages=1 {A4} scale=1.5 natural-scaling="),
+    ("office", "picture.png", "-o natural-scaling=50 -o orientation-requested=4", "pages=1 turned=yes natural-scaling="),
+    ("office", "box.pdf", "-o natural-scaling=500", "exit=2"),
+    ("raw", "report.pdf", "-o natural-scaling=50", "exit=2"),
     ("office", "box.pdf", "-o page-border=single -o number-up=4", "pages=1 scale=1.5"),
     ("office", "five.pdf", "-o number-up=4 -o mirror=true", f"pages=2 {A4} text=3412/5 mirror="),
     ("office", "five.ps", "--set number-up=4 --set mirror=true", f"pages=2 {A4} text=3412/5"),
@@ -506,9 +513,9 @@ def compare(setup):
             if wants.get("exit") == ours.facts["exit"] and not ours.captured():
                 ours.problem = ""
             missing = [f"{name}={ours.facts.get(name, '(none)')} instead of {value}" for name, value in wants.items()
-                       if ours.facts.get(name) != value]
+                       if ours.facts.get(name, "") != value]
             lp = [f"{name}={theirs.facts.get(name, '(none)')}" for name, value in wants.items()
-                  if theirs.facts.get(name) != value]
+                  if theirs.facts.get(name, "") != value]
             if theirs.problem:
                 lp = [] if theirs.problem == "not compared" else lp
                 lp.insert(0, " ".join(theirs.problem.split()))

@@ -18,16 +18,6 @@ namespace {
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
 
-// The reason why no page of the documents would be printed.
-PrintError problemOf(const QList<Document> &documents, const std::optional<PageSettings> &settings,
-                     const StopWanted &stop)
-{
-    if (!settings)
-        return {};
-    const QString problem = checkPages(PageTools::installed(), documents, *settings, stop).message;
-    return problem.isNull() ? PrintError() : PrintError{PrintError::Kind::BadValue, problem};
-}
-
 } // namespace
 
 // State shared by the work and the sender.
@@ -73,7 +63,13 @@ bool JobSender::send(Order order)
             request.title = wanted.documents->title();
         if (!wanted.documentName.isEmpty())
             request.documents.first().name = wanted.documentName;
-        failed.error = problemOf(request.documents, wanted.pages, isDropped);
+        PageVerdict verdict; // owns what is sent
+        if (wanted.pages) {
+            verdict = checkPages(PageTools::installed(), request.documents, *wanted.pages, isDropped);
+            request.documents = verdict.documents;
+        }
+        if (!verdict.message.isNull())
+            failed.error = {PrintError::Kind::BadValue, verdict.message};
         if (failed.error || !sending->enter(Sending::Phase::Submitting))
             return failed;
         const auto progress = [&](qint64 sent, qint64 total) {

@@ -33,7 +33,7 @@ public:
         QStringList files;                       // opened by the work
         QString documentName;                    // of the only document; empty for the name of its file
         JobRequest request;                // documents, and the title if it is empty, are set from the files
-        std::optional<PageSettings> pages; // to check that a page would be printed; null for no check
+        std::optional<PageSettings> pages; // to check and scale the pages; null for neither
         std::function<void()>
             rememberUse; // called on a worker thread when the job was accepted; may be empty
     };

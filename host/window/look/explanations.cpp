@@ -85,6 +85,10 @@ constexpr std::array explanations{
                 QT_TRANSLATE_NOOP("Explanation",
                                   "Scales the pages to fit the paper, or keeps their size. At actual "
                                   "size, whatever does not fit on the paper is cut off.")},
+    Explanation{"natural-scaling",
+                QT_TRANSLATE_NOOP("Explanation",
+                                  "Enlarges or reduces each page about its center, in percent of its natural "
+                                  "size. Whatever does not fit on the page is cut off.")},
     Explanation{"page-set",
                 QT_TRANSLATE_NOOP("Explanation", "Prints only every other page, for example to print on both "
                                                  "sides by hand: first the odd pages, then the even pages.")},

@@ -4,6 +4,7 @@
 #include "host/window/messages/session_messages.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/printed_pages.h"
 #include "host/session/protection_checks.h"
 #include "host/session/session_history.h"
 #include "host/window/messages/message_queue.h"
@@ -85,6 +86,10 @@ bool SessionMessages::check()
 
 bool SessionMessages::checkToPrint()
 {
+    if (const PrintError problem = scalingProblem(*m_session)) {
+        m_messages->tell(Subject::Outcome, {StatusGlyph::Kind::Error, problem.message, {}, {}});
+        return true;
+    }
     if (askAboutConflicts(m_settingsOnly ? Purpose::Continue : Purpose::Print)) {
         m_messages->takeFocus();
         return true;

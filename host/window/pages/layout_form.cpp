@@ -5,6 +5,7 @@
 
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
+#include "host/session/printed_pages.h"
 #include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
 #include "platform/choice_box.h"
@@ -13,6 +14,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSpinBox>
 
 namespace host {
 
@@ -20,6 +22,7 @@ namespace {
 
 constexpr int boxWidth = 240; // pixels, as in the panels
 constexpr int mostWidth = 360;
+constexpr int markGap = 24;    // space for the mark of a change
 constexpr int headingGap = 12; // above the heading
 
 const QString numberUp = QStringLiteral("number-up");
@@ -75,21 +78,59 @@ int LayoutForm::heightIn(const QGridLayout &grid, int controlHeight)
 void LayoutForm::addRow(const QString &name, const QString &label, QGridLayout *grid)
 {
     auto *box = new platform::ChoiceBox(grid->parentWidget());
-    box->setMaximumWidth(mostWidth);
-    box->setObjectName(name);
-    box->setAccessibleName(label.chopped(1).trimmed());
-    box->setWhatsThis(explanationOf(name));
     for (const QString &value : PageLayoutSettings::offered(name))
         box->addItem(layoutValueText(name, value), value);
-    box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
-    auto *text = new QLabel(label, grid->parentWidget());
-    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
-    text->setBuddy(box); // used by screen readers to name the box
-    const int row = grid->rowCount();
-    grid->addWidget(text, row, 0);
-    grid->addWidget(box, row, 1);
     m_rows.append({name, box});
     connect(box, &QComboBox::activated, this, [this, index = m_rows.size() - 1] { choose(m_rows[index]); });
+    QLabel *text = explain(box, name, label);
+    text->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    const int row = grid->rowCount();
+    grid->addWidget(text, row, 0);
+    if (name == numberUp) {
+        auto *both = new QHBoxLayout;
+        both->setSpacing(markGap);
+        both->addWidget(box, 1);
+        both->addLayout(addScale(grid->parentWidget()));
+        grid->addLayout(both, row, 1);
+        return;
+    }
+    box->setMaximumWidth(mostWidth);
+    box->setMinimumWidth(qBound(boxWidth, box->minimumSizeHint().width(), mostWidth));
+    grid->addWidget(box, row, 1);
+}
+
+// Returns the label of a control.
+QLabel *LayoutForm::explain(QWidget *control, const QString &name, const QString &label)
+{
+    control->setObjectName(name);
+    control->setAccessibleName(label.chopped(1).trimmed());
+    control->setWhatsThis(explanationOf(name));
+    auto *text = new QLabel(label, control->parentWidget());
+    text->setBuddy(control); // used by screen readers to name the control
+    return text;
+}
+
+QHBoxLayout *LayoutForm::addScale(QWidget *page)
+{
+    constexpr int step = 5;
+    const QString &name = naturalScalingName;
+    const PageLayoutSettings::Range range = *PageLayoutSettings::rangeOf(name);
+    m_scale = new QSpinBox(page);
+    m_scale->setRange(range.least, range.most);
+    m_scale->setSingleStep(step);
+    m_scale->setSuffix(layoutValueText(name, QString()));
+    m_scale->setAccelerated(true);
+    connect(m_scale, &QSpinBox::valueChanged, this, [this, name](int number) {
+        m_session->general().layout.set(name, QString::number(number));
+        Q_EMIT changed();
+    });
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    QLabel *label = explain(m_scale, name, tr("Scale:"));
+    label->setProperty(AccessKeys::yieldingProperty, true);
+    row->addWidget(label);
+    row->addWidget(m_scale);
+    return row;
 }
 
 void LayoutForm::addSwitches(QGridLayout *grid)
@@ -116,7 +157,7 @@ void LayoutForm::addSwitches(QGridLayout *grid)
 QHBoxLayout *LayoutForm::addSwitchRow(QGridLayout *grid)
 {
     auto *row = new QHBoxLayout;
-    row->setSpacing(24); // space for the mark of a change
+    row->setSpacing(markGap);
     row->addStretch(1);
     grid->addLayout(row, grid->rowCount(), 1);
     return row;
@@ -200,6 +241,11 @@ void LayoutForm::refresh()
         if (row.name == order || row.name == numberUp)
             enable(row.box, alone.isEmpty() && row.name == order ? single : alone);
     }
+    const QString obstacle = scalingObstacle(*m_session);
+    const QSignalBlocker quietScale(m_scale);
+    m_scale->setValue(layout.percent());
+    // An obstacle does not prevent the user from restoring the natural size.
+    enable(m_scale, layout.percent() == PageSettings::naturalSize ? obstacle : QString());
     for (const Switch &each : std::as_const(m_switches)) {
         const QSignalBlocker quiet(each.box);
         each.box->setChecked(layout.value(each.name) == PageLayoutSettings::offered(each.name).last());

@@ -14,6 +14,8 @@
 class QCheckBox;
 class QGridLayout;
 class QHBoxLayout;
+class QLabel;
+class QSpinBox;
 class QWidget;
 
 namespace platform {
@@ -24,8 +26,8 @@ namespace host {
 
 class DialogSession;
 
-// Rows of a page for the page layout: pages per side with their order and border, orientation, size, odd or
-// even pages, booklets, reverse order, mirror image. Owned by the page whose grid it fills. Writes to the
+// Rows of a page for the page layout: pages per side with their order and border, orientation, scaling, odd
+// or even pages, booklets, reverse order, mirror image. Owned by the page whose grid it fills. Writes to the
 // session immediately; the session is borrowed and outlives it.
 class LayoutForm : public QObject
 {
@@ -58,6 +60,8 @@ private:
         platform::ChoiceBox *box;
     };
     void addRow(const QString &name, const QString &label, QGridLayout *grid);
+    static QLabel *explain(QWidget *control, const QString &name, const QString &label);
+    QHBoxLayout *addScale(QWidget *page);
     void addSwitches(QGridLayout *grid);
     static QHBoxLayout *addSwitchRow(QGridLayout *grid);
     QCheckBox *addSwitch(const QString &name, const QString &text, QWidget *page);
@@ -72,6 +76,7 @@ private:
 
     DialogSession *m_session;
     QList<Row> m_rows;
+    QSpinBox *m_scale = nullptr; // created with the rows
     QList<Switch> m_switches;
     QCheckBox *m_stitched = nullptr;           // null if the printer cannot stitch
     std::optional<OptionChoice> m_stitching;   // that choice
