@@ -4,6 +4,7 @@
 #include "host/session/dialog_session.h"
 
 #include "host/extensions/extensions.h"
+#include "host/session/booklet.h"
 #include "host/session/job_options.h"
 #include "host/session/protection_checks.h"
 #include "platform/key_value_object.h"
@@ -84,6 +85,11 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
             m_host.settings().setValue(it.key(), it.value());
     }
     m_startingGeneral = m_general = GeneralSettings::from(m_destination.options);
+    if (m_general.layout.isBooklet() && areSidesWrongForBooklet(*this)) { // by the defaults of the queue
+        if (const auto sides = sidesForBooklet(*this))
+            m_ppd->mark(sides->option, sides->choice);
+        m_locks.mark(m_ppd.get());
+    }
     if (const QString unknown = m_ppd ? unknownDefaults(*m_ppd, m_destination) : QString(); !unknown.isNull())
         addNotice(unknown);
 }

@@ -262,6 +262,7 @@ void BatchRunTest::defaultsOfTheUser_data()
     QTest::newRow("against the server's") << u"sides"_s << u"one-sided"_s << u"sides"_s << u"one-sided"_s;
     QTest::newRow("color mode") << u"print-color-mode"_s << u"monochrome"_s << u"ColorModel"_s << u"Gray"_s;
     QTest::newRow("no pages") << u"page-ranges"_s << u"all"_s << u"page-ranges"_s << QString();
+    QTest::newRow("backs of a booklet") << u"booklet"_s << u"true"_s << u"Duplex"_s << u"DuplexTumble"_s;
 }
 
 void BatchRunTest::defaultsOfTheUser()
@@ -269,7 +270,8 @@ void BatchRunTest::defaultsOfTheUser()
     QFETCH(QString, name);
     QFETCH(QString, value);
     QFETCH(QString, sentName);
-    m_system.printers.first().options = {{u"copies"_s, u"2"_s}, {name, value}};
+    m_system.printers.first().options = {
+        {u"copies"_s, u"2"_s}, {u"sides"_s, u"two-sided-long-edge"_s}, {name, value}};
     m_system.printers.first().queueDefaults = {{u"sides"_s, u"two-sided-long-edge"_s}};
     QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
     QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
