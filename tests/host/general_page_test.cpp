@@ -45,6 +45,8 @@ private Q_SLOTS:
     void cleanup() { m_window.reset(); }
     void layoutIsSent_data();
     void layoutIsSent();
+    void scaledDocumentIsSent();
+    void unchangedDocumentIsNotScaled();
     void layoutIsUndone();
     void bookletIsFolded();
     void documentIsLeftOut();
@@ -136,6 +138,29 @@ void GeneralPageTest::layoutIsSent()
     QCOMPARE(m_system.submitted.size(), 1);
     for (auto it = sent.begin(); it != sent.end(); ++it)
         QCOMPARE(sentValue(m_system.submitted.first().options, it.key()), it.value());
+}
+
+void GeneralPageTest::scaledDocumentIsSent()
+{
+    if (PageTools::installed().path(u"gs"_s).isEmpty())
+        QSKIP("ghostscript is not installed");
+    openWith({report});
+    find<QSpinBox>(naturalScalingName)->setValue(70);
+    printButton()->click();
+    QTRY_COMPARE(m_system.submitted.size(), 1);
+    const Document sent = m_system.submitted.first().documents.first();
+    QVERIFY(sent.path != report && sent.format == u"application/pdf");
+    QCOMPARE(sent.name, u"report.pdf"_s);
+}
+
+void GeneralPageTest::unchangedDocumentIsNotScaled()
+{
+    openWith({report});
+    find<QSpinBox>(naturalScalingName)->setValue(70);
+    m_window->session()->noteChosen({u"raw"_s, u"true"_s, ChosenSetting::Kind::JobOption});
+    printButton()->click();
+    QTRY_VERIFY(m_window->messageBar()->text().contains(u"They cannot be scaled."_s));
+    QVERIFY(m_system.submitted.isEmpty());
 }
 
 void GeneralPageTest::layoutIsUndone()
