@@ -9,7 +9,8 @@
 #include <functional>
 #include <optional>
 
-// Together with ppd_rules.cpp the only use of the deprecated PPD interface of libcups in this module.
+// Together with ppd_rules.cpp and ppd_evaluation.cpp the only use of the deprecated PPD interface of libcups
+// in this module.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace constraints {

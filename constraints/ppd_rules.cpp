@@ -27,7 +27,7 @@ bool isOffName(std::string_view choice)
 } // namespace
 
 PpdRules::PpdRules(ppd_file_s *ppd)
-    : m_ppd(ppd), m_engine(linesAsUnderstood(ppd)), m_state(&m_engine), m_pageSize(none)
+    : m_ppd(ppd), m_engine(linesAsUnderstood(ppd)), m_state(&m_engine), m_pageSize(none), m_pageRegion(none)
 {
     for (Option option = 0; option < m_engine.optionCount(); ++option) {
         const std::string name(m_engine.optionName(option));
@@ -35,6 +35,8 @@ PpdRules::PpdRules(ppd_file_s *ppd)
             m_options.emplace_back(record, option);
         if (isSameName(name, pageSizeName))
             m_pageSize = option;
+        else if (isSameName(name, pageRegionName))
+            m_pageRegion = option;
     }
     std::ranges::sort(m_options);
     refresh();
@@ -105,6 +107,43 @@ void PpdRules::setMarks(Option option, std::span<const Mark> marks)
     }
     m_state.set(option, chosen, isOn);
     m_state.touch(option);
+}
+
+// Whatever is chosen for the options that these lines name, no other line can be violated: each has a term of
+// another option that does not hold.
+std::vector<bool> PpdRules::linesNearConflicts() const
+{
+    std::vector<bool> isNamed(m_engine.optionCount()), isNear(m_engine.lineCount());
+    std::vector<Option> toVisit;
+    const auto name = [&](Option option) {
+        if (option == none || isNamed[option])
+            return;
+        isNamed[option] = true;
+        toVisit.push_back(option);
+    };
+    const auto add = [&](Line line) {
+        isNear[line] = true;
+        for (const Choice term : m_engine.terms(line))
+            name(m_engine.optionOf(term));
+    };
+    const auto mayHold = [&](Choice term) { return isNamed[m_engine.optionOf(term)] || m_state.holds(term); };
+    std::ranges::for_each(brokenLines(), add);
+    while (!toVisit.empty()) {
+        const Option option = toVisit.back();
+        toVisit.pop_back();
+        if (option == m_pageSize || option == m_pageRegion) { // a change of one of them changes the other
+            name(m_pageSize);
+            name(m_pageRegion);
+        }
+        const auto [first, end] = m_engine.choicesOf(option);
+        for (Choice choice = first; choice < end; ++choice) {
+            for (const Line line : m_engine.linesOf(choice)) {
+                if (!isNear[line] && std::ranges::all_of(m_engine.terms(line), mayHold))
+                    add(line);
+            }
+        }
+    }
+    return isNear;
 }
 
 std::vector<PpdRules::Forbidden> PpdRules::forbiddenChoices(std::string_view option) const

@@ -41,6 +41,8 @@ public:
     const Engine &engine() const { return m_engine; }
     // The violated lines, as ppdConflicts() counts them.
     std::vector<Line> brokenLines() const { return m_state.activeLines(); }
+    // By line: whether it is violated, or could be while the violated ones are resolved.
+    std::vector<bool> linesNearConflicts() const;
     // The choices of an option that are forbidden together with the marks of other options, in the order of
     // the PPD.
     std::vector<Forbidden> forbiddenChoices(std::string_view option) const;
@@ -58,7 +60,7 @@ private:
     Engine m_engine;
     ChoiceState m_state;
     std::vector<std::pair<const ppd_option_s *, Option>> m_options; // by record
-    Option m_pageSize;
+    Option m_pageSize, m_pageRegion;
     std::vector<const ppd_choice_s *> m_marked;
     std::vector<Mark> m_marks; // by option
     const ppd_size_s *m_size = nullptr;

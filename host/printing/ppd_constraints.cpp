@@ -32,12 +32,17 @@ OptionChoice PpdConstraints::side(constraints::Choice term) const
     return m_document->described(keyword, marked.isEmpty() ? text(engine.choiceName(term)) : marked);
 }
 
+const constraints::PpdRules &PpdConstraints::rules()
+{
+    m_rules.refresh();
+    return m_rules;
+}
+
 // Most PPDs contain each constraint in both directions, and some forbid each pair of many choices; duplicates
 // are removed.
 QList<Conflict> PpdConstraints::conflicts()
 {
-    m_rules.refresh();
-    const auto broken = m_rules.brokenLines();
+    const auto broken = rules().brokenLines();
     if (broken.empty())
         return {};
     QHash<QString, qsizetype> places; // positions of options in the PPD
@@ -82,10 +87,13 @@ QMap<QString, OptionChoice> PpdConstraints::forbiddenChoices(const QString &keyw
     return result;
 }
 
-quint32 PpdConstraints::revision(const QString &keyword)
+QList<quint32> PpdConstraints::revisions(const QStringList &keywords)
 {
     m_rules.refresh();
-    return m_rules.revision(keyword.toStdString());
+    QList<quint32> result;
+    for (const QString &keyword : keywords)
+        result.append(m_rules.revision(keyword.toStdString()));
+    return result;
 }
 
 } // namespace host

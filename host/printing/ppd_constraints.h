@@ -17,9 +17,10 @@ public:
     explicit PpdConstraints(const PpdDocument *document);
 
     // Each query reads the marks first.
+    const constraints::PpdRules &rules();
     QList<Conflict> conflicts();
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword);
-    quint32 revision(const QString &keyword);
+    QList<quint32> revisions(const QStringList &keywords);
 
 private:
     // One side of a line; the marked choice of its option if `choice` differs from the line.

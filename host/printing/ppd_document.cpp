@@ -7,6 +7,8 @@
 #include "host/printing/ppd_constraints.h"
 #include "host/printing/ppd_texts.h"
 
+#include "constraints/ppd_evaluation.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -109,7 +111,16 @@ QString PpdOption::spelled(const QString &choice) const
     return known == choices.end() ? choice : known->keyword;
 }
 
-PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd) {}
+PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd)
+{
+    forEachOption(ppd->groups, ppd->num_groups, [this](const ppd_group_t &group, const ppd_option_t &option) {
+        if (!isShadowOfPageSize(option.keyword))
+            m_keywords.append(text(option.keyword));
+        if (qstrcmp(group.name, "InstallableOptions") == 0)
+            m_installable.push_back(&option);
+    });
+    std::ranges::sort(m_installable);
+}
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
 {
@@ -175,16 +186,6 @@ PpdDocument::~PpdDocument()
 QString PpdDocument::modelName() const
 {
     return text(m_ppd->modelname);
-}
-
-QStringList PpdDocument::optionKeywords() const
-{
-    QStringList keywords;
-    forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &, ppd_option_t &option) {
-        if (!isShadowOfPageSize(option.keyword))
-            keywords.append(text(option.keyword));
-    });
-    return keywords;
 }
 
 // The page region is another name of the page size.
@@ -268,6 +269,7 @@ bool PpdDocument::mark(const QString &keyword, const QString &choice)
     QString problem;
     if (custom && !custom->read(choice, keyword, &problem))
         return false;
+    const constraints::PpdEvaluation unchecked(m_ppd);
     ppdMarkOption(m_ppd, option->keyword, choice.toUtf8().constData());
     if (custom)
         m_written[text(option->keyword)] = {choice, customChoiceOf(m_ppd, option)->current()};
@@ -310,12 +312,7 @@ bool PpdDocument::isInstallable(const QString &keyword) const
 
 bool PpdDocument::isInstallableOption(const ppd_option_s *option) const
 {
-    bool found = false;
-    forEachOption(m_ppd->groups, m_ppd->num_groups, [&](const ppd_group_t &group, const ppd_option_t &other) {
-        if (&other == option)
-            found = qstrcmp(group.name, "InstallableOptions") == 0;
-    });
-    return found;
+    return std::ranges::binary_search(m_installable, option);
 }
 
 QList<OptionChoice> PpdDocument::changedChoices() const
@@ -359,15 +356,17 @@ QMap<QString, OptionChoice> PpdDocument::forbiddenChoices(const QString &keyword
     return constraints().forbiddenChoices(keyword);
 }
 
-quint32 PpdDocument::forbiddenRevision(const QString &keyword) const
+QList<quint32> PpdDocument::forbiddenRevisions(const QStringList &keywords) const
 {
-    return constraints().revision(keyword);
+    return constraints().revisions(keywords);
 }
 
 std::optional<Resolution> PpdDocument::resolution(const QString &keep) const
 {
-    if (ppdConflicts(m_ppd) == 0)
+    const constraints::PpdRules &rules = constraints().rules();
+    if (rules.brokenLines().empty())
         return std::nullopt;
+    const constraints::PpdEvaluation limited(m_ppd, rules);
     const QByteArray kept = keep.toUtf8();
     // By the keyword in libcups, which is "Custom" for all custom choices.
     const auto keywordOf = [this](const QString &option) {

@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 struct ppd_file_s;
 struct ppd_option_s;
@@ -49,7 +50,7 @@ public:
     ppd_file_s *record() const { return m_ppd; }
     QString modelName() const;
 
-    QStringList optionKeywords() const; // in PPD order
+    QStringList optionKeywords() const { return m_keywords; } // in PPD order
     bool hasOption(const QString &keyword) const;
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
@@ -89,8 +90,8 @@ public:
     // The choices of an option that the PPD forbids together with the marks of other options, each with one
     // of the conflicting choices.
     QMap<QString, OptionChoice> forbiddenChoices(const QString &keyword) const;
-    // A number that changes whenever the result of forbiddenChoices() for the option may have changed.
-    quint32 forbiddenRevision(const QString &keyword) const;
+    // For each option a number that changes whenever the result of forbiddenChoices() may have changed.
+    QList<quint32> forbiddenRevisions(const QStringList &keywords) const;
     // Null if there is no conflict or libcups finds no resolution. The choice of `keep` is kept if possible.
     std::optional<Resolution> resolution(const QString &keep = QString()) const;
 
@@ -107,6 +108,8 @@ private:
     void replaceBadCustomDefaults();
 
     ppd_file_s *m_ppd = nullptr;
+    QStringList m_keywords;
+    std::vector<const ppd_option_s *> m_installable; // sorted
     mutable std::unique_ptr<PpdConstraints> m_constraints;
     // A custom choice as it was given, in the user's unit, and as stored in the record.
     struct Written

@@ -5,6 +5,8 @@
 #include "host/printing/ppd_document.h"
 #include "host/printing/standard_names.h"
 
+#include "constraints/ppd_evaluation.h"
+
 #include <cups/ppd.h>
 #include <cups/pwg.h>
 
@@ -112,6 +114,7 @@ QStringList PpdDocument::markOptions(const QMap<QString, QString> &options)
         else
             problems.append(problem);
     }
+    const constraints::PpdEvaluation unchecked(m_ppd);
     cupsMarkOptions(m_ppd, list.count(), list.options());
     return problems;
 }
@@ -193,6 +196,7 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
     const auto markedByValue = [&] {
         CupsOptionList list;
         list.add(known.toUtf8().constData(), value.toUtf8().constData());
+        const constraints::PpdEvaluation unchecked(m_ppd);
         cupsMarkOptions(m_ppd, list.count(), list.options());
         for (auto it = before.begin(); it != before.end(); ++it) {
             const QString now = markedChoice(it.key());

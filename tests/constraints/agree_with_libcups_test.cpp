@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "constraints/ppd_evaluation.h"
 #include "constraints/ppd_rules.h"
 #include "ppd/constraint_table.h"
 #include "tests/support/inline_ppd.h"
@@ -159,7 +160,8 @@ const char *valueOf(const ppd_choice_t &choice)
 
 } // namespace
 
-// The engine must report the same conflicts for the marks of any PPD as libcups.
+// The engine must report the same conflicts for the marks of any PPD as libcups, and libcups must find the
+// same resolutions with the constraints that the engine selects for it.
 class AgreeWithLibcupsTest : public QObject
 {
     Q_OBJECT
@@ -211,6 +213,35 @@ void compareChoices(ppd_file_t *ppd, constraints::PpdRules &rules, ppd_option_t 
     rules.refresh();
 }
 
+// The changes by which libcups resolves the conflicts among the marks; the choice of `keep`, which may be
+// null, is kept.
+QByteArrayList resolutionOf(ppd_file_t *ppd, const ppd_option_t *keep)
+{
+    const ppd_choice_t *kept = keep ? ppdFindMarkedChoice(ppd, keep->keyword) : nullptr;
+    int count = 0;
+    cups_option_t *options = nullptr;
+    QByteArrayList changes{QByteArray::number(cupsResolveConflicts(
+        ppd, kept ? keep->keyword : nullptr, kept ? kept->choice : nullptr, &count, &options))};
+    for (int i = 0; i < count; ++i)
+        changes.append(QByteArray(options[i].name) + ' ' + options[i].value);
+    cupsFreeOptions(count, options);
+    return changes;
+}
+
+// Adds the number of constraints that libcups need not evaluate.
+void compareResolutions(ppd_file_t *ppd, const constraints::PpdRules &rules, const ppd_option_t *keep,
+                        int *spared)
+{
+    const QByteArrayList resolution = resolutionOf(ppd, keep);
+    const int all = cupsArrayCount(ppd->cups_uiconstraints);
+    {
+        const constraints::PpdEvaluation limited(ppd, rules);
+        *spared += all - cupsArrayCount(ppd->cups_uiconstraints);
+        QCOMPARE(resolutionOf(ppd, keep), resolution);
+    }
+    QCOMPARE(cupsArrayCount(ppd->cups_uiconstraints), all);
+}
+
 // Compares the results of the table with the literal lines.
 void compareLiteral(ppd_file_t *ppd)
 {
@@ -250,7 +281,7 @@ void AgreeWithLibcupsTest::onAnyPpd()
 {
     QFETCH(const bool, longForm);
     const int ppds = std::max(defaultPpds, qEnvironmentVariableIntValue("KELMAR_CONSTRAINT_PPDS"));
-    int conflicts = 0;
+    int conflicts = 0, spared = 0;
     for (int seed = 0; seed < ppds; ++seed) {
         const QByteArray body = Generator(unsigned(seed), longForm).body();
         const auto tellPpd = qScopeGuard([&] {
@@ -275,9 +306,15 @@ void AgreeWithLibcupsTest::onAnyPpd()
             if (QTest::currentTestFailed())
                 return;
             const ppd_choice_t &choice = option->choices[random() % unsigned(option->num_choices)];
-            ppdMarkOption(ppd, option->keyword, valueOf(choice));
+            {
+                const constraints::PpdEvaluation unchecked(ppd);
+                QCOMPARE(ppdMarkOption(ppd, option->keyword, valueOf(choice)), 0); // reports no conflict
+            }
             rules.refresh();
             QCOMPARE(conflictedByRules(rules), conflictedByLibcups(ppd));
+            for (const ppd_option_t *keep :
+                 {option, options[random() % options.size()], static_cast<ppd_option_t *>(nullptr)})
+                compareResolutions(ppd, rules, keep, &spared);
             const Forbidden after = forbiddenBy(rules, options);
             for (auto it = revisions.begin(); it != revisions.end(); ++it) {
                 if (rules.revision(it.key().toStdString()) == it.value())
@@ -286,6 +323,7 @@ void AgreeWithLibcupsTest::onAnyPpd()
         }
     }
     QVERIFY(conflicts > ppds);
+    QVERIFY(longForm || spared > ppds * walkLength);
 }
 
 QTEST_GUILESS_MAIN(AgreeWithLibcupsTest)

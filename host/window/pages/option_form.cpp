@@ -147,11 +147,15 @@ void OptionForm::showProblem()
 
 void OptionForm::refresh()
 {
-    for (Row &row : m_rows)
-        refreshRow(row);
+    QStringList keywords;
+    for (const Row &row : std::as_const(m_rows))
+        keywords.append(row.keyword);
+    const QList<quint32> revisions = m_session->ppd()->forbiddenRevisions(keywords);
+    for (qsizetype i = 0; i < m_rows.size(); ++i)
+        refreshRow(m_rows[i], revisions.at(i));
 }
 
-void OptionForm::refreshRow(Row &row)
+void OptionForm::refreshRow(Row &row, quint32 revision)
 {
     const QString marked = m_session->ppd()->markedChoice(row.keyword);
     const bool isCustom = row.editor && (row.awaitsValues || isCustomChoice(marked));
@@ -161,7 +165,6 @@ void OptionForm::refreshRow(Row &row)
         if (isCustom && !row.awaitsValues)
             row.editor->setChoice(marked);
     }
-    const quint32 revision = m_session->ppd()->forbiddenRevision(row.keyword);
     const bool isBooklet = m_session->general().layout.isBooklet();
     if (row.isDecided && row.current == current && row.revision == revision && row.isBooklet == isBooklet) {
         row.box->setCurrentIndex(row.index);

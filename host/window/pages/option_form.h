@@ -60,7 +60,7 @@ private:
     static void addAttribution(QWidget *box, QGridLayout *grid, int row);
     void choose(qsizetype index);
     void markCustom(qsizetype index);
-    void refreshRow(Row &row);
+    void refreshRow(Row &row, quint32 revision);
     void greyOut(const Row &row);
 
     DialogSession *m_session;
