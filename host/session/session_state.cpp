@@ -24,9 +24,11 @@ const QString collatingName = QStringLiteral("multiple-document-handling");
 template <typename Map>
 void addDifferences(const Map &one, const Map &other, QStringList *keys)
 {
+    auto same = other.begin();
     for (auto it = one.begin(); it != one.end(); ++it) {
-        const auto same = other.constFind(it.key());
-        if (same != other.constEnd() && *same != *it)
+        while (same != other.end() && same.key() < it.key())
+            ++same;
+        if (same != other.end() && same.key() == it.key() && *same != *it)
             keys->append(it.key());
     }
 }

@@ -68,8 +68,6 @@ void MorePage::build(const Part &part)
     }
     auto *form = new OptionForm(m_session, part.keywords, m_grid, this);
     connect(form, &OptionForm::chosen, this, &MorePage::chosen);
-    // A choice may enable or forbid choices in another part.
-    connect(form, &OptionForm::chosen, this, &MorePage::refresh);
     m_forms.append(form);
 }
 
