@@ -144,7 +144,13 @@ bool AccessKeys::reserveWidth(QWidget *widget, Texts *texts)
 void AccessKeys::assignLater()
 {
     if (!std::exchange(m_queued, true))
-        QMetaObject::invokeMethod(this, &AccessKeys::assign, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_queued) // no call of assign() since
+                    assign();
+            },
+            Qt::QueuedConnection);
 }
 
 bool AccessKeys::eventFilter(QObject *watched, QEvent *event)

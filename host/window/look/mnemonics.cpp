@@ -78,11 +78,13 @@ struct Mnemonics::Wish
     QString bare;            // without the requested key
     qsizetype bracket = -1;  // position of a key in parentheses; -1 for a text with Latin letters
     QList<qsizetype> places; // positions of possible keys, the best first
+    QList<QChar> keys;       // possible keys, the best first
     QChar key;               // null until it has one
     bool isVisited = false;  // by the current search
+    bool isSettled = false;  // a search for any free key has failed here, as all later ones would
 
     explicit Wish(const QString &given);
-    QList<QChar> keys() const;
+    void findPlaces();
     QString shown() const;
 };
 
@@ -96,6 +98,15 @@ Mnemonics::Wish::Wish(const QString &given)
     } else if (const qsizetype place = placeOfKey(text); place > 0) {
         bare.remove(place - 1, 1);
     }
+    findPlaces();
+    for (const qsizetype place : std::as_const(places))
+        keys.append(bare.at(place).toLower());
+    for (char letter = 'a'; bracket >= 0 && letter <= 'z'; ++letter)
+        keys.append(QLatin1Char(letter));
+}
+
+void Mnemonics::Wish::findPlaces()
+{
     // In a text whose letters cannot be typed, a digit would be the only possible key.
     const bool hasLetters = bracket < 0 && std::any_of(bare.cbegin(), bare.cend(),
                                                        [](QChar c) { return isTypable(c) && c.isLetter(); });
@@ -109,16 +120,6 @@ Mnemonics::Wish::Wish(const QString &given)
                 places.append(i);
         }
     }
-}
-
-QList<QChar> Mnemonics::Wish::keys() const
-{
-    QList<QChar> keys;
-    for (const qsizetype place : places)
-        keys.append(bare.at(place).toLower());
-    for (char key = 'a'; bracket >= 0 && key <= 'z'; ++key)
-        keys.append(QLatin1Char(key));
-    return keys;
 }
 
 QString Mnemonics::Wish::shown() const
@@ -138,12 +139,12 @@ bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index, bool mayTakeWanted
 {
     Wish &wish = (*wishes)[index];
     wish.isVisited = true;
-    const QList<QChar> keys = wish.keys();
+    const QList<QChar> keys = wish.keys;
     auto key = std::find_if(keys.begin(), keys.end(), [this](QChar k) { return !m_used.contains(k); });
     if (key == keys.end()) {
         key = std::find_if(keys.begin(), keys.end(), [this, wishes, mayTakeWanted](QChar k) {
             const qsizetype owner = m_used.value(k);
-            return owner != taken && !wishes->at(owner).isVisited &&
+            return owner != taken && !wishes->at(owner).isVisited && !wishes->at(owner).isSettled &&
                    (mayTakeWanted || wishes->at(owner).wanted != k) && giveKey(wishes, owner, mayTakeWanted);
         });
     }
@@ -173,6 +174,8 @@ QStringList Mnemonics::assign(const QStringList &texts)
             if (!wishes.at(i).key.isNull() || giveKey(&wishes, i, mayTakeWanted))
                 break;
         }
+        for (Wish &wish : wishes)
+            wish.isSettled |= wishes.at(i).key.isNull() && wish.isVisited;
     }
     for (qsizetype &owner : m_used)
         owner = taken;
