@@ -57,8 +57,7 @@ public:
     QString defaultChoice(const QString &keyword) const;
     // The dimensions of a choice of PageSize; null if the PPD does not define them.
     std::optional<PaperSize> paperSize(const QString &choice) const;
-    // Whether the option represents a unit that may be installed.
-    bool isInstallable(const QString &keyword) const;
+    bool isInstallable(const QString &keyword) const; // whether it is a unit that may be installed
     // An option and choice with their texts; the keywords if the PPD has no such option or choice.
     OptionChoice described(const QString &keyword, const QString &choice) const;
 
@@ -67,8 +66,7 @@ public:
     // Marks the choices of options from a destination or the command line, including standard names such as
     // "media". Unknown options are ignored. Returns localised problems; invalid values are not marked.
     QStringList markOptions(const QMap<QString, QString> &options);
-    // Whether markOptions() converts an option of this name to marks.
-    bool takesOption(const QString &name) const;
+    bool takesOption(const QString &name) const; // whether markOptions() converts it to marks
     // The options that a standard name represents, ignoring letter case; empty for other names. Quality is
     // left to the print system.
     static QStringList optionsOfStandardName(const QString &name);
@@ -81,8 +79,7 @@ public:
     // Marked choices other than the defaults, in PPD order, without installable options.
     QList<OptionChoice> changedChoices() const;
 
-    // Reads the constraints now, so that the first query about them is not delayed.
-    void readConstraints() const { constraints(); }
+    void readConstraints() const { constraints(); } // now, so that the first query is not delayed
     // Frees the record's constraints, which libcups has copied by then. Call when no bundle reads the record.
     void releaseConstraintRecords();
     // The conflicts among the marks, as determined by libcups's rules.
