@@ -104,10 +104,11 @@ public:
     }
 };
 
-// Installs the translations of the program and of Qt in the first of the user's languages that has one.
+// Installs the translations of the program and of Qt in the first of the user's languages that has one,
+// else in English, whose catalog has the plural forms.
 void installTranslations(QApplication *app)
 {
-    for (QString language : dialogLanguages()) {
+    for (QString language : dialogLanguages() + QStringList(QStringLiteral("en"))) {
         language.replace(QLatin1Char('-'), QLatin1Char('_'));
         const bool isEnglish = language.section(QLatin1Char('_'), 0, 0) == QLatin1String("en");
         auto *own = new QTranslator(app);

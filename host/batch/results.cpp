@@ -179,7 +179,8 @@ bool ResultWriter::writeSettings(const BatchResult &result)
     for (const SummarySection &section : result.summary) {
         print(section.title);
         for (const auto &[name, value] : section.entries)
-            print(QStringLiteral("    %1: %2").arg(name, value));
+            print(QStringLiteral("    ") +
+                  ResultText::tr("%1: %2", "a setting and its value").arg(name, value));
     }
     writePresets(result);
     return finish();

@@ -105,11 +105,11 @@
     </message>
     <message>
         <source>Save a screenshot of the dialog and exit.</source>
-        <translation>Ein Bild des Dialogs schreiben und enden.</translation>
+        <translation>Ein Bildschirmfoto des Dialogs speichern und beenden.</translation>
     </message>
     <message>
         <source>Open the dialog, write the start-up time and exit.</source>
-        <translation>Den Dialog öffnen, die Dauer ausgeben und enden.</translation>
+        <translation>Den Dialog öffnen, die Startzeit ausgeben und beenden.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>--color-scheme takes light or dark.</source>
-        <translation>--color-scheme nimmt light oder dark.</translation>
+        <translation>--color-scheme erwartet light oder dark.</translation>
     </message>
     <message>
         <source>--batch needs a printer to print to; --ppd alone names none.</source>
@@ -167,15 +167,15 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
     </message>
     <message>
         <source>--ask takes a key alone; the value is asked for.</source>
-        <translation>--ask nimmt nur einen Schlüssel; der Wert wird abgefragt.</translation>
+        <translation>--ask erwartet nur einen Schlüssel; der Wert wird abgefragt.</translation>
     </message>
     <message>
         <source>-o takes NAME=VALUE or NAME.</source>
-        <translation>-o nimmt NAME=WERT oder NAME.</translation>
+        <translation>-o erwartet NAME=WERT oder NAME.</translation>
     </message>
     <message>
         <source>--%1 takes %2; there is no “=” behind a key.</source>
-        <translation>--%1 nimmt %2; hinter einem Schlüssel fehlt „=“.</translation>
+        <translation>--%1 erwartet %2; nach einem Schlüssel fehlt „=“.</translation>
     </message>
     <message>
         <source>The standard input cannot be a value and a document at once.</source>
@@ -725,6 +725,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Account user</source>
         <translation>Kontobenutzer</translation>
     </message>
+    <message>
+        <source>%1 takes a number from 1 to %2.</source>
+        <translation>%1 erwartet eine Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2, or a time in UTC such as 20:15.</source>
+        <translation>%1 erwartet %2 oder eine Uhrzeit in UTC wie 20:15.</translation>
+    </message>
 </context>
 <context>
     <name>JobText</name>
@@ -1022,11 +1030,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <name>PanelValueText</name>
     <message>
         <source>takes a whole number from %1 to %2</source>
-        <translation>nimmt eine ganze Zahl von %1 bis %2</translation>
+        <translation>erwartet eine ganze Zahl von %1 bis %2</translation>
     </message>
     <message>
         <source>takes True or False</source>
-        <translation>nimmt True oder False</translation>
+        <translation>erwartet True oder False</translation>
     </message>
     <message>
         <source>cannot be set by a text</source>
@@ -1034,11 +1042,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>takes %1 digits</source>
-        <translation>nimmt %1 Ziffern</translation>
+        <translation>erwartet %1 Ziffern</translation>
     </message>
     <message>
         <source>takes %1 characters</source>
-        <translation>nimmt %1 Zeichen</translation>
+        <translation>erwartet %1 Zeichen</translation>
     </message>
     <message>
         <source>does not take this value</source>
@@ -1097,27 +1105,27 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>“%1” takes a list of names</source>
-        <translation>„%1“ nimmt eine Liste von Namen</translation>
+        <translation>„%1“ erwartet eine Liste von Namen</translation>
     </message>
     <message>
         <source>“%1” takes an object of options and choices</source>
-        <translation>„%1“ nimmt ein Objekt aus Optionen und Werten</translation>
+        <translation>„%1“ erwartet ein Objekt aus Optionen und Werten</translation>
     </message>
     <message>
         <source>“%1” takes a choice in quotes</source>
-        <translation>„%1“ nimmt einen Wert in Anführungszeichen</translation>
+        <translation>„%1“ erwartet einen Wert in Anführungszeichen</translation>
     </message>
     <message>
         <source>“contact” takes a text</source>
-        <translation>„contact“ nimmt einen Text</translation>
+        <translation>„contact“ erwartet einen Text</translation>
     </message>
     <message>
         <source>“rules” takes a list</source>
-        <translation>„rules“ nimmt eine Liste</translation>
+        <translation>„rules“ erwartet eine Liste</translation>
     </message>
     <message>
         <source>“rules” takes objects in braces</source>
-        <translation>„rules“ nimmt Objekte in geschweiften Klammern</translation>
+        <translation>„rules“ erwartet Objekte in geschweiften Klammern</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1241,7 +1249,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>%1 takes %2.</source>
-        <translation>%1 nimmt %2.</translation>
+        <translation>%1 erwartet %2.</translation>
     </message>
     <message>
         <source>%1 × %2 %3</source>
@@ -1323,7 +1331,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <name>PpdTexts</name>
     <message>
         <source>Two-Sided Printing</source>
-        <translation>Zweiseitig drucken</translation>
+        <translation>Beidseitiger Druck</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1371,7 +1379,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Bypass Tray</source>
-        <translation>Mehrzweckfach</translation>
+        <translation>Mehrzweckeinzug</translation>
     </message>
     <message>
         <source>Plain Paper</source>
@@ -1587,6 +1595,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>The settings have been saved as the preset “%1”.</source>
         <translation>Die Einstellungen wurden als Voreinstellung „%1“ gespeichert.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a setting and its value</comment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -1678,11 +1691,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>copies takes a number from 1 to %1.</source>
-        <translation>copies nimmt eine Zahl von 1 bis %1.</translation>
+        <translation>copies erwartet eine Zahl von 1 bis %1.</translation>
     </message>
     <message>
         <source>%1 takes True or False.</source>
-        <translation>%1 nimmt True oder False.</translation>
+        <translation>%1 erwartet True oder False.</translation>
     </message>
     <message>
         <source>%1 is not sent with the job: %2</source>
@@ -1694,7 +1707,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>%1 takes %2.</source>
-        <translation>%1 nimmt %2.</translation>
+        <translation>%1 erwartet %2.</translation>
     </message>
     <message>
         <source>“%1” cannot be changed here. %2</source>
@@ -1768,7 +1781,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
-        <translation>„%1“ kann nicht gedruckt werden: der Drucker „%2“ nimmt keine Dokumente der Art %3.</translation>
+        <translation>„%1“ kann nicht gedruckt werden: Der Drucker „%2“ nimmt keine Dokumente der Art %3 an.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read: %2.</source>
@@ -2483,23 +2496,23 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>The settings leave no page of any document to print.</source>
-        <translation>Nach den Einstellungen bleibt keine Seite der Dokumente zu drucken.</translation>
+        <translation>Mit diesen Einstellungen wird keine Seite der Dokumente gedruckt.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: there is only one printed side.</source>
-        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Es gibt nur eine bedruckte Seite.</translation>
+        <translation>Mit diesen Einstellungen wird keine Seite gedruckt: Es gibt nur eine bedruckte Seite.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: the document has only one page.</source>
-        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Das Dokument hat nur eine Seite.</translation>
+        <translation>Mit diesen Einstellungen wird keine Seite gedruckt: Das Dokument hat nur eine Seite.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: there are only %1 printed sides.</source>
-        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Es gibt nur %1 bedruckte Seiten.</translation>
+        <translation>Mit diesen Einstellungen wird keine Seite gedruckt: Es gibt nur %1 bedruckte Seiten.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
-        <translation>Nach den Einstellungen bleibt keine Seite zu drucken: Das Dokument hat nur %1 Seiten.</translation>
+        <translation>Mit diesen Einstellungen wird keine Seite gedruckt: Das Dokument hat nur %1 Seiten.</translation>
     </message>
     <message>
         <source>the print server cannot arrange PostScript documents as a booklet</source>
@@ -2546,7 +2559,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>the settings leave no page of the document</source>
-        <translation>nach den Einstellungen bleibt keine Seite des Dokuments übrig</translation>
+        <translation>mit diesen Einstellungen wird keine Seite des Dokuments gedruckt</translation>
     </message>
 </context>
 <context>
@@ -2948,8 +2961,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message numerus="yes">
         <source>The longest document, “%1”, has only %n printed sides.</source>
         <translation>
-            <numerusform>Das längste Dokument, „%1“, hat nur %n gedruckte Blattseite.</numerusform>
-            <numerusform>Das längste Dokument, „%1“, hat nur %n gedruckte Blattseiten.</numerusform>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n bedruckte Seite.</numerusform>
+            <numerusform>Das längste Dokument, „%1“, hat nur %n bedruckte Seiten.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2962,8 +2975,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message numerus="yes">
         <source>There are only %n printed sides.</source>
         <translation>
-            <numerusform>Es gibt nur %n gedruckte Blattseite.</numerusform>
-            <numerusform>Es gibt nur %n gedruckte Blattseiten.</numerusform>
+            <numerusform>Es gibt nur %n bedruckte Seite.</numerusform>
+            <numerusform>Es gibt nur %n bedruckte Seiten.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3163,7 +3176,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
     <message>
         <source>Paper not loaded in the printer</source>
-        <translation>Papier ist im Drucker nicht eingelegt</translation>
+        <translation>Papier nicht im Drucker eingelegt</translation>
     </message>
 </context>
 <context>

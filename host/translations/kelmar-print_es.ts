@@ -725,6 +725,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Account user</source>
         <translation>Usuario de la cuenta</translation>
     </message>
+    <message>
+        <source>%1 takes a number from 1 to %2.</source>
+        <translation>%1 admite un número del 1 al %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2, or a time in UTC such as 20:15.</source>
+        <translation>%1 admite %2 o una hora UTC, por ejemplo 20:15.</translation>
+    </message>
 </context>
 <context>
     <name>JobText</name>
@@ -1586,6 +1594,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
         <translation>Los ajustes se han guardado como el preajuste «%1».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a setting and its value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -73,15 +73,15 @@
     </message>
     <message>
         <source>Write the summary of the settings.</source>
-        <translation>Écrire le résumé des réglages.</translation>
+        <translation>Afficher le résumé des réglages.</translation>
     </message>
     <message>
         <source>Write the options of the printer and their choices.</source>
-        <translation>Écrire les options de l’imprimante et leurs choix.</translation>
+        <translation>Afficher les options de l’imprimante et leurs choix.</translation>
     </message>
     <message>
         <source>Write results and errors as JSON.</source>
-        <translation>Écrire les résultats et les erreurs en JSON.</translation>
+        <translation>Afficher les résultats et les erreurs en JSON.</translation>
     </message>
     <message>
         <source>FILE</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>Open the dialog at this pane: general, more, job, summary, or a panel&apos;s name or kind.</source>
-        <translation>Ouvrir la boîte de dialogue sur ce volet&#xa0;: general, more, job, summary, ou le nom ou le type d’un panneau.</translation>
+        <translation>Ouvrir la boîte de dialogue à cette page&#xa0;: general, more, job, summary, ou le nom ou le type d’un panneau.</translation>
     </message>
     <message>
         <source>Save a screenshot of the dialog and exit.</source>
-        <translation>Écrire une image de la boîte de dialogue et quitter.</translation>
+        <translation>Enregistrer une capture d’écran de la boîte de dialogue et quitter.</translation>
     </message>
     <message>
         <source>Colors of the dialog: light or dark.</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Open the dialog, write the start-up time and exit.</source>
-        <translation>Ouvrir la boîte de dialogue, écrire la durée et quitter.</translation>
+        <translation>Ouvrir la boîte de dialogue, afficher le temps de démarrage et quitter.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -201,11 +201,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>With --batch: write the pages into this PDF file instead of printing them.</source>
-        <translation>Avec --batch&#xa0;: écrire les pages dans ce fichier PDF au lieu de les imprimer.</translation>
+        <translation>Avec --batch&#xa0;: enregistrer les pages dans ce fichier PDF au lieu de les imprimer.</translation>
     </message>
     <message>
         <source>Write the presets of the printer.</source>
-        <translation>Écrire les préréglages de l’imprimante.</translation>
+        <translation>Afficher les préréglages de l’imprimante.</translation>
     </message>
     <message>
         <source>Save the settings as a preset of the printer, without passwords and codes.</source>
@@ -630,11 +630,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>In the second shift</source>
-        <translation>Pendant la deuxième équipe</translation>
+        <translation>Pendant le deuxième poste</translation>
     </message>
     <message>
         <source>In the third shift</source>
-        <translation>Pendant la troisième équipe</translation>
+        <translation>Pendant le troisième poste</translation>
     </message>
     <message>
         <source>At the weekend</source>
@@ -725,6 +725,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Account user</source>
         <translation>Utilisateur du compte</translation>
     </message>
+    <message>
+        <source>%1 takes a number from 1 to %2.</source>
+        <translation>%1 prend un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2, or a time in UTC such as 20:15.</source>
+        <translation>%1 prend %2 ou une heure UTC, par exemple 20:15.</translation>
+    </message>
 </context>
 <context>
     <name>JobText</name>
@@ -766,7 +774,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>the print server no longer knows it. It may have been printed; look at the printer.</source>
-        <translation>le serveur d’impression ne la connaît plus. Elle a peut-être été imprimée&#xa0;; regardez à l’imprimante.</translation>
+        <translation>le serveur d’impression ne la connaît plus. Elle a peut-être été imprimée&#xa0;; vérifiez sur l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -956,7 +964,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>“%1” is loaded, but not as “%2”.</source>
-        <translation>«&#xa0;%1&#xa0;» est chargé, mais pas en «&#xa0;%2&#xa0;».</translation>
+        <translation>«&#xa0;%1&#xa0;» est chargé, mais pas comme «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1586,6 +1594,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
         <translation>Les réglages ont été enregistrés dans le préréglage «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a setting and its value</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2382,7 +2395,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>it cannot be started: %1</source>
-        <translation>le programme ne peut pas être lancé : %1</translation>
+        <translation>le programme ne peut pas être lancé&#xa0;: %1</translation>
     </message>
     <message>
         <source>it wrote too much</source>
@@ -2475,7 +2488,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>“%1” cannot be printed: %2.</source>
-        <translation>« %1 » ne peut pas être imprimé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être imprimé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>“%1” cannot be scaled: %2.</source>
@@ -2487,19 +2500,19 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>The settings leave no page to print: there is only one printed side.</source>
-        <translation>Avec ces réglages, il ne reste aucune page à imprimer : il n’y a qu’une face imprimée.</translation>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer&#xa0;: il n’y a qu’une face imprimée.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: the document has only one page.</source>
-        <translation>Avec ces réglages, il ne reste aucune page à imprimer : le document n’a qu’une page.</translation>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer&#xa0;: le document n’a qu’une page.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: there are only %1 printed sides.</source>
-        <translation>Avec ces réglages, il ne reste aucune page à imprimer : il n’y a que %1 faces imprimées.</translation>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer&#xa0;: il n’y a que %1 faces imprimées.</translation>
     </message>
     <message>
         <source>The settings leave no page to print: the document has only %1 pages.</source>
-        <translation>Avec ces réglages, il ne reste aucune page à imprimer : le document n’a que %1 pages.</translation>
+        <translation>Avec ces réglages, il ne reste aucune page à imprimer&#xa0;: le document n’a que %1 pages.</translation>
     </message>
     <message>
         <source>the print server cannot arrange PostScript documents as a booklet</source>
@@ -2862,7 +2875,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
     <message>
         <source>There is no pane called “%1”.</source>
-        <translation>Il n’y a pas de volet nommé «&#xa0;%1&#xa0;».</translation>
+        <translation>Il n’y a pas de page nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no document or no printer to print it on</source>

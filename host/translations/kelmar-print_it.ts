@@ -725,6 +725,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Account user</source>
         <translation>Utente dell’account</translation>
     </message>
+    <message>
+        <source>%1 takes a number from 1 to %2.</source>
+        <translation>%1 accetta un numero da 1 a %2.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2, or a time in UTC such as 20:15.</source>
+        <translation>%1 accetta %2 o un’ora UTC, per esempio 20:15.</translation>
+    </message>
 </context>
 <context>
     <name>JobText</name>
@@ -1586,6 +1594,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
         <translation>Le impostazioni sono state salvate come preimpostazione «%1».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a setting and its value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -725,6 +725,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Account user</source>
         <translation>アカウントのユーザー</translation>
     </message>
+    <message>
+        <source>%1 takes a number from 1 to %2.</source>
+        <translation>%1 には 1 から %2 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 takes %2, or a time in UTC such as 20:15.</source>
+        <translation>%1 には %2、または 20:15 のような UTC の時刻を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>JobText</name>
@@ -1586,6 +1594,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The settings have been saved as the preset “%1”.</source>
         <translation>設定をプリセット「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a setting and its value</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>Color Pro&amp;files…</source>
-        <translation>Farb&amp;profile…</translation>
+        <translation>Farb&amp;profile&#xa0;…</translation>
     </message>
     <message>
         <source>The printer’s color profiles</source>
@@ -375,7 +375,7 @@
     </message>
     <message>
         <source>AskingPrinter</source>
-        <translation>Farbprofile werden vom Drucker abgefragt…</translation>
+        <translation>Farbprofile werden vom Drucker abgefragt&#xa0;…</translation>
     </message>
     <message>
         <source>SNMPCannotConnect</source>

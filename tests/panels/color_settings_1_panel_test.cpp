@@ -223,7 +223,7 @@ void ColorSettings1PanelTest::unreachablePrinterIsSaidInPlace()
     dialog.host.settings.setValue(QVRgbSourceProfileIndexKey, u"3"_s);
     auto *panel = dialog.panel<QVPDEColorSettings1_M880>();
     QWidget *view = dialog.show(panel); // the session has no printer
-    QCOMPARE(dialog.host.blockingWork, QStringList{u"Farbprofile werden vom Drucker abgefragt…"_s});
+    QCOMPARE(dialog.host.blockingWork, QStringList{u"Farbprofile werden vom Drucker abgefragt\u00A0…"_s});
     // The notice next to the profiles is not visible yet, and needs no more height than it will have at this
     // width.
     view->resize(700, view->height());
