@@ -56,8 +56,12 @@ void DialogButton::paintEvent(QPaintEvent *event)
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(3, 3, -3, -3), 2, 2);
     }
+    // Some styles draw a button's label in a color of their own.
+    const bool isUnderlined = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
     option.palette.setColor(QPalette::ButtonText, ink);
-    painter.drawControl(QStyle::CE_PushButtonLabel, option);
+    painter.drawItemText(rect(),
+                         Qt::AlignCenter | (isUnderlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                         option.palette, true, text(), QPalette::ButtonText);
 }
 
 } // namespace host
