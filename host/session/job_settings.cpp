@@ -28,6 +28,7 @@ const QString priorityName = QStringLiteral("job-priority");
 const QString sheetsName = QStringLiteral("job-sheets");
 const QString billingName = QStringLiteral("job-billing");
 const QString noSheet = QStringLiteral("none");
+constexpr int maxPriority = 100;
 
 struct ValueText
 {
@@ -141,6 +142,27 @@ void setJobSetting(DialogSession *session, const QString &name, const QString &v
     (void)choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
 }
 
+QString jobSettingProblem(const QString &name, const QString &value)
+{
+    if (name == priorityName) {
+        bool isNumber = false;
+        const int priority = value.toInt(&isNumber);
+        return isNumber && priority >= 1 && priority <= maxPriority
+                   ? QString()
+                   : JobSettingText::tr("%1 takes a number from 1 to %2.").arg(name).arg(maxPriority);
+    }
+    if (name != holdName || timeOfHold(value).isValid())
+        return {};
+    QStringList times;
+    for (const ValueText &text : valueTexts) {
+        if (name == QLatin1String(text.name))
+            times.append(QLatin1String(text.value));
+    }
+    return times.contains(value) ? QString()
+                                 : JobSettingText::tr("%1 takes %2, or a time in UTC such as 20:15.")
+                                       .arg(name, times.join(QLatin1String(", ")));
+}
+
 QString jobSettingText(const QString &name)
 {
     static const QMap<QString, const char *> texts = {
@@ -176,9 +198,9 @@ QString holdValueOf(const QTime &time)
 
 QTime timeOfHold(const QString &value)
 {
-    QTime time = QTime::fromString(value, QStringLiteral("HH:mm"));
+    QTime time = QTime::fromString(value, QStringLiteral("H:mm"));
     if (!time.isValid())
-        time = QTime::fromString(value, QStringLiteral("HH:mm:ss"));
+        time = QTime::fromString(value, QStringLiteral("H:mm:ss"));
     if (!time.isValid())
         return {};
     QDateTime moment = QDateTime::currentDateTimeUtc();

@@ -37,6 +37,10 @@ QString jobSettingValue(const DialogSession &session, const QString &name);
 // change.
 void setJobSetting(DialogSession *session, const QString &name, const QString &value);
 
+// What "job-hold-until" or "job-priority" takes, as a localised sentence with the name, if it does not take
+// this value; otherwise a null string. Always null for other names.
+QString jobSettingProblem(const QString &name, const QString &value);
+
 // The localised name of a setting, and of a value. The value of "job-sheets" may be a single sheet.
 QString jobSettingText(const QString &name);
 QString jobValueText(const QString &name, const QString &value);

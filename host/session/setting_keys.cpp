@@ -45,13 +45,21 @@ QString usualName(const DialogSession &session, const QString &name)
     if (const auto option = ppd ? ppd->option(name) : std::nullopt; option && !GeneralSettings::covers(lower))
         return option->keyword;
     const bool isStandard = ppd && !PpdDocument::optionsOfStandardName(lower).isEmpty();
-    return isStandard || GeneralSettings::covers(lower) || PageLayoutSettings::covers(lower) ? lower : name;
+    return isStandard || GeneralSettings::covers(lower) || PageLayoutSettings::covers(lower) ||
+                   jobSettingNames().contains(lower)
+               ? lower
+               : name;
 }
 
 // If the PPD has an option of the same name, that one is meant.
 bool isLayout(const DialogSession &session, const QString &key)
 {
     return PageLayoutSettings::covers(key) && !(session.ppd() && session.ppd()->hasOption(key));
+}
+
+bool isJobSetting(const DialogSession &session, const QString &key)
+{
+    return jobSettingNames().contains(key) && !(session.ppd() && session.ppd()->hasOption(key));
 }
 
 // A booklet is turned on the short edge: it selects that, and no other choice is accepted afterwards.
@@ -207,6 +215,8 @@ bool setJobOption(DialogSession *session, const ChosenSetting &setting, PrintErr
         return false;
     if (session->ppd() && session->ppd()->takesOption(setting.key))
         return setStandardName(session, setting, error);
+    if (const QString problem = jobSettingProblem(setting.key, setting.value); !problem.isNull())
+        return refuse(error, problem);
     session->noteChosen(setting);
     return true;
 }
@@ -220,6 +230,8 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
         session->general().collate = value == GeneralSettings::handling(true);
         return true;
     }
+    if (isJobSetting(*session, key))
+        return setJobOption(session, setting, error);
     // The print system may accept a value that the page layout does not.
     if (setting.kind == ChosenSetting::Kind::JobOption &&
         (isHandling || !hasSetting(*session, key) ||
@@ -245,14 +257,14 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
     ChosenSetting setting = wanted;
     setting.key = usualName(*session, wanted.key);
     setting.isSecret |= session->isSecret(setting.key);
-    if (printModeNames().contains(setting.key))
+    if (jobSettingNames().contains(setting.key))
         setting.kind = ChosenSetting::Kind::JobOption;
     return chooseAny(session, setting, error) && keepBooklet(session, setting.key, error);
 }
 
 bool hasSetting(const DialogSession &session, const QString &key)
 {
-    return GeneralSettings::covers(key) || isLayout(session, key) ||
+    return GeneralSettings::covers(key) || isLayout(session, key) || isJobSetting(session, key) ||
            (session.ppd() && session.ppd()->hasOption(key)) || session.panels().ofSetting(key) >= 0;
 }
 
@@ -263,6 +275,10 @@ QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
                               QStringLiteral("page-ranges")};
     for (const QString &name : general + PageLayoutSettings::names())
         keys.append({QStringLiteral("general"), name});
+    for (const QString &name : jobSettingNames()) {
+        if (!printModeNames().contains(name))
+            keys.append({QStringLiteral("job"), name});
+    }
     for (int i = 0; i < session.panels().count(); ++i) {
         for (const QString &key : session.panels().settableKeysOf(i))
             keys.append({session.panels().panel(i)->panelKind(), key});

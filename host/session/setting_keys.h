@@ -15,17 +15,18 @@ namespace host {
 
 // Sets a setting by its name as the user would with a control, and records the choice: a PPD option keyword,
 // a key or key path of a panel, one of the general settings "copies", "collate", "page-ranges" and those of
-// the page layout, or a name of the print system. Letter case is ignored. The panel of a key is restored
-// first, set through its key-value object, and saved. A job option that is unknown to the PPD and the panels
-// is sent unchanged. False with a localised error, and without a change, if there is no such setting, the
-// value is invalid or the policy forbids it. The error never contains a value that is a code.
+// the page layout, one of jobSettingNames(), or a name of the print system. Letter case is ignored. The panel
+// of a key is restored first, set through its key-value object, and saved. A job option that is unknown to
+// the PPD and the panels is sent unchanged. False with a localised error, and without a change, if there is
+// no such setting, the value is invalid or the policy forbids it. The error never contains a value that is a
+// code.
 bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
 // Whether choose() accepts this key, whatever the value.
 bool hasSetting(const DialogSession &session, const QString &key);
 
 // The keys that can be set in addition to PPD options, as "panel kind" and "key"; "general" represents the
-// general settings.
+// general settings, "job" those of the Job page.
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session);
 
 } // namespace host

@@ -43,6 +43,9 @@ _kelmar_print_values() { # KEY
     outputorder) echo normal reverse ;;
     print-scaling) echo auto auto-fit fit fill none ;;
     natural-scaling) echo 25 50 70 100 141 200 400 ;;
+    job-hold-until) echo no-hold day-time evening night second-shift third-shift weekend indefinite ;;
+    job-priority) echo 25 50 75 100 ;;
+    job-sheets) echo none standard form unclassified classified confidential secret topsecret ;;
     collate | booklet | mirror) echo True False ;;
     *) _kelmar_print_ask --list-options | sed -n "s|^    ${1//[!A-Za-z0-9._-]/}/.*: ||p" | tr -d '*' ;;
     esac

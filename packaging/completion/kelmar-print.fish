@@ -26,7 +26,10 @@ function __kelmar_print_settings
     set -l known number-up={1,2,4,6,9,16} number-up-layout={lrtb,lrbt,rltb,rlbt,tblr,tbrl,btlr,btrl} \
         page-border={none,single,single-thick,double,double-thick} orientation-requested={3,4,5,6} \
         page-set={all,odd,even} outputorder={normal,reverse} print-scaling={auto,auto-fit,fit,fill,none} \
-        natural-scaling={25,50,70,100,141,200,400} {collate,booklet,mirror}={True,False}
+        natural-scaling={25,50,70,100,141,200,400} {collate,booklet,mirror}={True,False} \
+        job-hold-until={no-hold,day-time,evening,night,second-shift,third-shift,weekend,indefinite} \
+        job-priority={25,50,75,100} \
+        job-sheets={none,standard,form,unclassified,classified,confidential,secret,topsecret}
     set -l key (string match -r '^(?:--set=|-s|-o)?([^=]+)=' -- (commandline -ct))[2]
     if test -z "$key"
         string replace -r '$' = -- (__kelmar_print_keys)

@@ -44,6 +44,9 @@ _kelmar_print_setting() {
     (outputorder) choices=(normal reverse) ;;
     (print-scaling) choices=(auto auto-fit fit fill none) ;;
     (natural-scaling) choices=(25 50 70 100 141 200 400) ;;
+    (job-hold-until) choices=(no-hold day-time evening night second-shift third-shift weekend indefinite) ;;
+    (job-priority) choices=(25 50 75 100) ;;
+    (job-sheets) choices=(none standard form unclassified classified confidential secret topsecret) ;;
     (collate|booklet|mirror) choices=(True False) ;;
     (*) choices=(${=${"$(_kelmar_print_ask --list-options | sed -n "s|^    ${key//[^A-Za-z0-9._-]/}/.*: ||p")"//\*/}}) ;;
     esac

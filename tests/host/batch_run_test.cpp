@@ -156,6 +156,8 @@ void BatchRunTest::exitCodes_data()
                                      << u"bad-value"_s;
     QTest::newRow("back of a booklet upside down")
         << u"--batch -o booklet=true --set Duplex=DuplexNoTumble FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("no such priority")
+        << u"--batch -o job-priority=900 FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 
@@ -200,6 +202,7 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("sent");
     QTest::newRow("over a preset") << u"-o job-priority=70"_s << u"job-priority"_s << u"70"_s;
+    QTest::newRow("as a setting") << u"--set Job-Priority=75"_s << u"job-priority"_s << u"75"_s;
     QTest::newRow("over itself") << u"-o job-sheets=standard -o job-sheets=none"_s << u"job-sheets"_s
                                  << u"none"_s;
     QTest::newRow("over the PPD's default") << u"--set Duplex=None"_s << u"Duplex"_s << u"None"_s;
@@ -387,6 +390,7 @@ void BatchRunTest::optionsAreListed()
     QCOMPARE(run({u"--list-options"_s}), int(ExitSuccess));
     QVERIFY2(m_out.data().contains("    Duplex/Two-Sided: *None DuplexNoTumble DuplexTumble\n"),
              m_out.data().constData());
+    QVERIFY2(m_out.data().contains("    job-hold-until (job)\n"), m_out.data().constData());
 }
 
 QTEST_MAIN(BatchRunTest)

@@ -112,6 +112,12 @@ void CommandLineTest::values_data()
     row("no code", u"privatePassword"_s, u"123 1234567 abcde"_s, "takes 5 digits.");
     row("model without passwords", u"privatePassword"_s, u"00000 12345"_s, "This printer has no option",
         "kelo110");
+    row("priority", u"job-priority"_s, u"1 75 100"_s);
+    row("no priority", u"job-priority"_s, u"0 101 900 -5 high"_s,
+        "job-priority takes a number from 1 to 100.\n");
+    row("hold", u"Job-Hold-Until"_s, u"no-hold evening indefinite 20:15 9:30 09:30:15"_s);
+    row("no hold", u"job-hold-until"_s, u"frob 25:00 12 Evening2"_s,
+        "job-hold-until takes no-hold, day-time, ");
     row("no such key", u"NoSuchKey"_s, u"1"_s, "“NoSuchKey”. --list-options lists what there is.");
 }
 

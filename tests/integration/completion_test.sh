@@ -53,6 +53,8 @@ offers DuplexNoTumble -d office --set Duplex =
 offers DuplexNoTumble -d office --set = Duplex = DuplexN
 offers False --ppd "$build/ppds/kelm880.ppd" -o TonerSave = ""
 offers 16 -o number-up = 1
+offers job-priority= -d office --set job-p
+offers evening -o job-hold-until = e
 offers privatePassword= -d office --set-file priv
 offers report.pdf -d office --set-file privatePassword = rep
 offers departmentCode -d office --ask dep
