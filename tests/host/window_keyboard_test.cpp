@@ -5,6 +5,7 @@
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/contrast.h"
 #include "host/window/look/desktop_contrast.h"
+#include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/mnemonics.h"
 #include "host/window/look/status_glyph.h"
@@ -22,12 +23,44 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QStyleOptionButton>
 #include <QTemporaryDir>
 
 using namespace host;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Labels of buttons have the color of the highlight, whatever the palette.
+class OwnLabels : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        QStyleOptionButton own = button ? *button : QStyleOptionButton();
+        own.palette.setColor(QPalette::ButtonText, own.palette.color(QPalette::Highlight));
+        const bool isLabel = button && element == CE_PushButtonLabel;
+        QProxyStyle::drawControl(element, isLabel ? &own : option, painter, widget);
+    }
+};
+
+// The highest contrast of a pixel to a color, away from the edges.
+qreal contrastInside(const QImage &image, const QColor &ground)
+{
+    qreal most = 1;
+    for (int y = 5; y < image.height() - 5; ++y) {
+        for (int x = 5; x < image.width() - 5; ++x)
+            most = std::max(most, contrast(image.pixelColor(x, y), ground));
+    }
+    return most;
+}
+
+} // namespace
 
 // Using the window without a mouse, and its appearance for users with low vision.
 class WindowKeyboardTest : public WindowFixture
@@ -317,6 +350,12 @@ void WindowKeyboardTest::colorsStandOut()
     check("error", errorInk(palette), window, textContrast);
     check("selected row", highlightInk(palette), highlight, textContrast);
     check("default button", highlight, window, markContrast);
+    OwnLabels style;
+    DialogButton button(u"&Print"_s, nullptr);
+    button.setStyle(&style);
+    button.setDefault(true);
+    QVERIFY2(contrastInside(button.grab().toImage(), highlight) >= textContrast,
+             "label of the default button");
     check("ring on the window", focusInk(palette), window, markContrast);
     check("ring on a field", focusInk(palette), palette.color(QPalette::Base), markContrast);
     const bool isHigh = scheme.startsWith(highContrast);
