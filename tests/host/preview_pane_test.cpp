@@ -9,6 +9,7 @@
 #include "tests/support/paths.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
@@ -144,9 +145,15 @@ void PreviewPaneTest::pageIsEnlarged()
     QTRY_VERIFY(sheet->pixels() > 0);
     const int whole = sheet->pixels();
     QCOMPARE(sheet->focusPolicy(), Qt::NoFocus);
+    const QLabel *size = nullptr;
+    for (const auto *label : m_window->findChildren<QLabel *>())
+        size = label->text() == u"1×" ? label : size;
+    QVERIFY(size && size->isHidden()); // it is announced when it appears
     for (int i = 0; i < 9; ++i)
         QTest::keyClick(m_window.get(), Qt::Key_Plus, Qt::ControlModifier);
     QCOMPARE(sheet->zoom(), 4.0);
+    QVERIFY(size->isVisible());
+    QCOMPARE(size->accessibleName(), u"4×"_s);
     QVERIFY(qAbs(sheet->pixels() - 4 * whole) < 8);
     QVERIFY(sheet->pixels() > Preview::pagePixels);
     QTRY_VERIFY(renderedPixels() >= sheet->pixels());

@@ -88,7 +88,7 @@ void AccessKeys::assign()
     m_queued = false;
     Mnemonics keys;
     QHash<QWidget *, Texts> texts;
-    QList<QWidget *> usable, yielding, unusable;
+    QList<QWidget *> usable, yielding, unusable, passing;
     for (QWidget *part : std::as_const(m_parts)) {
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
@@ -103,10 +103,14 @@ void AccessKeys::assign()
             texts.insert(widget, known);
             const bool yields = widget->property(yieldingProperty).toBool();
             if (isShown)
-                (!isUsable(widget) ? unusable : yields ? yielding : usable).append(widget);
+                (part == m_parts.last() ? passing
+                 : !isUsable(widget)    ? unusable
+                 : yields               ? yielding
+                                        : usable)
+                    .append(widget);
         }
     }
-    for (const QList<QWidget *> &widgets : {usable, yielding, unusable}) {
+    for (const QList<QWidget *> &widgets : {usable, yielding, unusable, passing}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);

@@ -17,8 +17,9 @@ namespace host {
 // Assigns unique access keys to the labels of fields and the buttons that are visible, even between host,
 // panels and translations. Earlier parts of a window take precedence for the keys that their texts request; a
 // text gets another key if its key is taken, or it requests none. Disabled controls choose last,
-// after those that yield. Updated when
-// widgets are shown, hidden, enabled and disabled. A child of its window.
+// after those that yield. The last part, which is shown and hidden while the others stay, gets only keys that
+// are free then, so that the keys of the others do not change. Updated when widgets are shown, hidden,
+// enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT

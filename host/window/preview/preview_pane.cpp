@@ -121,6 +121,11 @@ void PreviewPane::buildZoom(QHBoxLayout *row)
     m_zoom = new QLabel(this);
     makeAnnounced(m_zoom);
     m_zoom->setToolTip(tr("The size relative to the whole page"));
+    // Shown with the first zoom, since it would otherwise be announced when the dialog opens.
+    QSizePolicy kept = m_zoom->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    m_zoom->setSizePolicy(kept);
+    m_zoom->hide();
     row->addWidget(m_zoom);
     const QList<Action> actions{
         {tr("Zoom out"), QChar(0x2212), keys({Qt::CTRL | Qt::Key_Minus}), -1},
@@ -128,8 +133,10 @@ void PreviewPane::buildZoom(QHBoxLayout *row)
         {{}, {}, keys({Qt::CTRL | Qt::Key_0}), 0}};
     for (const Action &action : actions) {
         const auto zoom = [this, steps = action.steps] {
+            const bool isShown = !m_zoom->isHidden();
             steps == 0 ? m_sheet->zoomToFit() : m_sheet->zoomBy(steps);
-            announce(m_zoom, m_zoom->text());
+            if (isShown)
+                announce(m_zoom, m_zoom->text());
         };
         for (const QKeySequence &key : action.keys)
             connect(new QShortcut(key, this), &QShortcut::activated, this, zoom);
@@ -151,6 +158,10 @@ void PreviewPane::buildZoom(QHBoxLayout *row)
 void PreviewPane::renderSharp()
 {
     m_zoom->setText(tr("%1×", "magnification").arg(QLocale().toString(m_sheet->zoom())));
+    if (m_zoom->isHidden() && m_sheet->zoom() > 1) {
+        announce(m_zoom, m_zoom->text());
+        m_zoom->show();
+    }
     // A button with the focus would lose it if it were disabled.
     m_smaller->setEnabled(m_sheet->canZoom(-1) || m_smaller->hasFocus());
     m_larger->setEnabled(m_sheet->canZoom(1) || m_larger->hasFocus());
