@@ -2032,6 +2032,17 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>host::DialogPreview</name>
+    <message>
+        <source>Preview…</source>
+        <translation>Vorschau …</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Die Seiten in einem eigenen Fenster anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
@@ -2148,14 +2159,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Choose at least one document.</source>
         <translation>Wählen Sie mindestens ein Dokument.</translation>
-    </message>
-    <message>
-        <source>Preview…</source>
-        <translation>Vorschau …</translation>
-    </message>
-    <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>Die Seiten in einem eigenen Fenster anzeigen</translation>
     </message>
 </context>
 <context>

@@ -2032,6 +2032,17 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>host::DialogPreview</name>
+    <message>
+        <source>Preview…</source>
+        <translation>Vista previa…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Mostrar las páginas en una ventana aparte</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
@@ -2148,14 +2159,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Choose at least one document.</source>
         <translation>Elija al menos un documento.</translation>
-    </message>
-    <message>
-        <source>Preview…</source>
-        <translation>Vista previa…</translation>
-    </message>
-    <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>Mostrar las páginas en una ventana aparte</translation>
     </message>
 </context>
 <context>

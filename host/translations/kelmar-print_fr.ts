@@ -2032,6 +2032,17 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>host::DialogPreview</name>
+    <message>
+        <source>Preview…</source>
+        <translation>Aperçu…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Afficher les pages dans une fenêtre séparée</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
@@ -2148,14 +2159,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Choose at least one document.</source>
         <translation>Choisissez au moins un document.</translation>
-    </message>
-    <message>
-        <source>Preview…</source>
-        <translation>Aperçu…</translation>
-    </message>
-    <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>Afficher les pages dans une fenêtre séparée</translation>
     </message>
 </context>
 <context>

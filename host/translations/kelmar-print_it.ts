@@ -2032,6 +2032,17 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>host::DialogPreview</name>
+    <message>
+        <source>Preview…</source>
+        <translation>Anteprima…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>Mostrare le pagine in una finestra a parte</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
         <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
@@ -2148,14 +2159,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Choose at least one document.</source>
         <translation>Scegliere almeno un documento.</translation>
-    </message>
-    <message>
-        <source>Preview…</source>
-        <translation>Anteprima…</translation>
-    </message>
-    <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>Mostrare le pagine in una finestra a parte</translation>
     </message>
 </context>
 <context>

@@ -2032,6 +2032,17 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>host::DialogPreview</name>
+    <message>
+        <source>Preview…</source>
+        <translation>プレビュー…</translation>
+    </message>
+    <message>
+        <source>Show the pages in a window of their own</source>
+        <translation>ページを別のウィンドウに表示します</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
@@ -2148,14 +2159,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Choose at least one document.</source>
         <translation>文書を 1 つ以上選んでください。</translation>
-    </message>
-    <message>
-        <source>Preview…</source>
-        <translation>プレビュー…</translation>
-    </message>
-    <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>ページを別のウィンドウに表示します</translation>
     </message>
 </context>
 <context>

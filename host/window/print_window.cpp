@@ -431,7 +431,6 @@ void PrintWindow::finishLater()
         m_queue.tell(MessageQueue::Subject::Document, {StatusGlyph::Kind::Error, error.message, {}, {}});
     });
     check->start(m_task.files);
-    m_book->beginPreview();
     QList<std::pair<QWidget *, QString>> explained{{m_picker, QStringLiteral("printer")},
                                                    {m_presets->button(), QStringLiteral("presets")},
                                                    {m_book->list(), QStringLiteral("pages")},
@@ -439,6 +438,8 @@ void PrintWindow::finishLater()
     if (!m_task.settingsOnly)
         explained.append({m_print, QStringLiteral("print")});
     m_layout.addGuide(m_guide->addButtons(explained));
+    if (QWidget *preview = m_book->beginPreview())
+        m_guide->addNote(preview);
     auto *cost = new JobCostLabel(
         &m_documentChoice, [this] { return m_session.get(); }, this);
     m_guide->addNote(cost);

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/preview/preview.h"
+#include "host/window/pages/page_book.h"
+#include "host/window/pages/page_list.h"
+#include "host/window/preview/preview_dialog.h"
 #include "host/window/preview/preview_pane.h"
 #include "host/window/preview/preview_sheet.h"
 #include "host/window/preview/preview_strip.h"
@@ -43,6 +46,8 @@ private Q_SLOTS:
     void pageIsEnlarged();
     void rendersLarger();
     void fewerPagesThanBefore();
+    void isOnEveryPage_data();
+    void isOnEveryPage();
 
 private:
     void fake(const QString &program, const QByteArray &script);
@@ -221,6 +226,45 @@ void PreviewPaneTest::fewerPagesThanBefore()
     preview.setSettings({{{u"number-up"_s, u"4"_s}}, {}});
     QTRY_VERIFY(preview.facts() && preview.facts()->pages == 10);
     QTRY_VERIFY(!preview.thumbnail(0).isNull());
+}
+
+// On a page without space for it, it is in a window of its own.
+void PreviewPaneTest::isOnEveryPage_data()
+{
+    QTest::addColumn<QSize>("room");
+    QTest::addColumn<bool>("isWide");
+    QTest::newRow("wide") << QSize(1200, 900) << true;
+    QTest::newRow("narrow") << QSize(560, 400) << false;
+}
+
+void PreviewPaneTest::isOnEveryPage()
+{
+    QFETCH(const QSize, room);
+    QFETCH(const bool, isWide);
+    PrintTask task;
+    task.files = {report};
+    task.firstPage = u"job"_s;
+    openTask(task, room);
+    if (isWide)
+        m_window->resize(room);
+    auto *pane = find<PreviewPane>();
+    Q_EMIT pane->rangesPicked(u"2"_s); // before the page with the ranges was shown
+    QCOMPARE(m_window->session()->general().pages, u"2"_s);
+    QPushButton *button = nullptr;
+    for (auto *found : m_window->findChildren<QPushButton *>())
+        button = found->text().remove(u'&') == u"Preview…"_s ? found : button;
+    QVERIFY(button);
+    for (int row = m_window->book()->list()->count() - 1; row >= 0; --row) {
+        m_window->book()->showPage(row);
+        QCoreApplication::processEvents();
+        const bool isSummary = m_window->book()->currentName() == u"summary";
+        if (isWide || row == 0) // the general page is the widest
+            QCOMPARE(pane->isVisible(), isWide && !isSummary);
+        QVERIFY(button->isVisible() != pane->isVisible());
+        QVERIFY(m_window->width() <= room.width());
+    }
+    button->click();
+    QVERIFY(find<PreviewDialog>());
 }
 
 QTEST_MAIN(PreviewPaneTest)

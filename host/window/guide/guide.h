@@ -28,7 +28,7 @@ public:
     // Creates what can wait until after the first paint: the buttons, and the descriptions of parts of the
     // window, by the names of their explanations. The window places the buttons.
     QWidget *addButtons(const QList<std::pair<QWidget *, QString>> &explained);
-    // Shows a note after the buttons and takes ownership of it. Call after addButtons().
+    // Shows a widget after the buttons and takes ownership of it. Call after addButtons().
     void addNote(QWidget *note);
     // Shows the buttons while settings can be changed.
     void setActive(bool active);

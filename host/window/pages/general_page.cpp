@@ -151,19 +151,12 @@ void GeneralPage::addSavePdf(QGridLayout *grid)
     button->setAutoDefault(false);
     button->setToolTip(tr("Save the pages to a file instead of printing them"));
     button->setWhatsThis(explanationOf(QStringLiteral("save-pdf")));
-    auto *preview = new DialogButton(tr("Preview…"), this);
-    preview->setAutoDefault(false);
-    preview->setToolTip(tr("Show the pages in a window of their own"));
-    preview->setWhatsThis(explanationOf(QStringLiteral("preview")));
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
-    row->addWidget(preview);
     row->addWidget(button);
     row->addStretch(1);
     grid->addLayout(row, grid->rowCount(), 1);
     connect(button, &QPushButton::clicked, this, &GeneralPage::savePdfWanted);
-    connect(preview, &QPushButton::clicked, this, &GeneralPage::previewWanted);
-    setTabOrder(preview, button);
 }
 
 void GeneralPage::addCopies(QGridLayout *grid)

@@ -48,7 +48,6 @@ Q_SIGNALS:
     // The pages to print, or their layout, have changed.
     void pagesChanged();
     void savePdfWanted();
-    void previewWanted();
     // The page has additional controls.
     void grown();
 

@@ -4,7 +4,6 @@
 #include "host/window/pages/page_book.h"
 
 #include "host/policy/policy.h"
-#include "host/preview/page_tools.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/job_settings.h"
@@ -12,6 +11,7 @@
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
 #include "host/session/session_state.h"
+#include "host/session/sheet_finish.h"
 #include "host/window/look/separator.h"
 #include "host/window/pages/change_marks.h"
 #include "host/window/pages/general_page.h"
@@ -23,8 +23,7 @@
 #include "host/window/pages/page_list.h"
 #include "host/window/pages/print_mode_page.h"
 #include "host/window/pages/summary_page.h"
-#include "host/window/preview/preview_dialog.h"
-#include "host/window/preview/preview_pane.h"
+#include "host/window/preview/dialog_preview.h"
 #include "platform/panel_extras.h"
 
 #include <QApplication>
@@ -45,6 +44,7 @@ const QString moreName = QStringLiteral("more");
 const QString printModeName = QStringLiteral("print-mode");
 const QString jobName = QStringLiteral("job");
 const QString summaryName = QStringLiteral("summary");
+constexpr int spareWidth = 12; // pixels between a page and the preview
 
 // The fixed settings on the page of a panel, with the administrator's name; null if there are none.
 QString policyNote(const DialogSession &session, int panel)
@@ -81,11 +81,6 @@ void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, P
         new HiddenControls(hidden, frame, frame);
 }
 
-// Width of the preview, in pixels.
-constexpr int leastPreview = 160;
-constexpr int preferredPreview = 260;
-constexpr int mostPreview = 420;
-
 } // namespace
 
 PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
@@ -103,13 +98,9 @@ PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
     pages->setSpacing(0);
     pages->addWidget(m_stack, 1);
     if (!documents->paths().isEmpty()) {
-        m_preview = new PreviewPane(documents, m_area);
-        m_preview->hide();
-        pages->addWidget(m_preview);
-        connect(m_preview, &PreviewPane::rangesPicked, this, [this](const QString &ranges) {
-            if (m_general)
-                m_general->setRanges(ranges);
-        });
+        m_preview = new DialogPreview(documents, pages, m_area);
+        connect(m_preview, &DialogPreview::opened, this, &PageBook::updatePreview);
+        connect(m_preview, &DialogPreview::rangesPicked, this, &PageBook::setRanges);
     }
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
     for (const auto &[key, steps] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}})
@@ -123,49 +114,46 @@ PageBook::~PageBook()
     clear(); // panels own their views
 }
 
-void PageBook::beginPreview()
+QWidget *PageBook::beginPreview()
 {
-    if (!m_preview || std::exchange(m_previewBegun, true))
-        return;
-    updatePreview();
-    m_preview->begin(PageTools::installed());
+    return m_preview ? m_preview->begin() : nullptr;
 }
 
 // The list has the width of its names, but leaves the larger part of a narrow window to the pages. The
-// preview is next to the general page if there is space for both.
+// preview is next to the page if there is space for both.
 void PageBook::fitParts()
 {
     const int least = m_list->minimumSizeHint().width();
     m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
     if (!m_preview)
         return;
-    const int room = currentName() == generalName ? width() - wantedSize().width() + preferredPreview : 0;
-    m_preview->setVisible(room >= leastPreview);
-    if (room >= leastPreview)
-        m_preview->setFixedWidth(qMin(room, mostPreview));
+    // The window has no share for the preview on other pages. A label there may become slightly wider, for
+    // example with its access key, without moving the preview. The summary uses the whole width.
+    const int share = previewShare() > 0 ? previewShare() : -spareWidth;
+    const bool mayShow = m_current >= 0 && currentName() != summaryName;
+    m_preview->setRoom(mayShow ? width() - wantedSize().width() + share : 0);
     updatePreview();
+}
+
+// The width for the preview with which the window opens. The window does not grow for it on other pages.
+int PageBook::previewShare() const
+{
+    return m_preview && currentName() == generalName ? DialogPreview::preferredWidth : 0;
 }
 
 void PageBook::updatePreview()
 {
-    const bool isShown = m_previewBegun && m_preview->isVisibleTo(this);
-    if (!m_session || !(isShown || m_largePreview))
-        return;
-    const PageSettings settings = pageSettings(*m_session);
-    const SheetFinish finish = sheetFinish(*m_session);
-    if (isShown)
-        m_preview->setSettings(settings, finish);
-    if (m_largePreview)
-        m_largePreview->setSettings(settings, finish);
+    if (m_session && m_preview && m_preview->isShown())
+        m_preview->setSettings(pageSettings(*m_session), sheetFinish(*m_session));
 }
 
-void PageBook::openPreview()
+// The general page holds the ranges that the user types.
+void PageBook::setRanges(const QString &ranges)
 {
-    auto *dialog = new PreviewDialog(m_documents, window());
-    m_largePreview = dialog->pane();
-    connect(m_largePreview, &PreviewPane::rangesPicked, m_general, &GeneralPage::setRanges);
-    updatePreview();
-    dialog->show();
+    if (m_session && !m_general)
+        makeFrame(&m_pages[static_cast<size_t>(pageNamed(generalName))]);
+    if (m_general)
+        m_general->setRanges(ranges);
 }
 
 void PageBook::setSession(DialogSession *session, SessionHistory *history)
@@ -236,7 +224,6 @@ QWidget *PageBook::contentOf(const Page &page)
             showChanges();
         });
         connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
-        connect(m_general, &GeneralPage::previewWanted, this, &PageBook::openPreview);
         return m_general;
     }
     if (page.name == moreName) {
@@ -427,6 +414,7 @@ void PageBook::showChanges()
         m_list->setChanged(row, changed.contains(row));
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].marks)
         m_pages[static_cast<size_t>(m_current)].marks->refresh();
+    updatePreview();
 }
 
 void PageBook::openViewOf(QWidget *control)
@@ -466,8 +454,7 @@ QSize PageBook::wantedSize() const
     const PageFrame *frame = pageAt(m_current) ? pageAt(m_current)->frame : nullptr;
     if (!frame)
         return {0, 0};
-    const int preview = m_preview && currentName() == generalName ? preferredPreview : 0;
-    return {m_list->sizeHint().width() + 1 + frame->wantedWidth() + preview, frame->wantedHeight()};
+    return {m_list->sizeHint().width() + 1 + frame->wantedWidth() + previewShare(), frame->wantedHeight()};
 }
 
 void PageBook::followFocus(QWidget *now)

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
 
 #include <vector>
@@ -12,6 +11,7 @@ class QStackedWidget;
 
 namespace host {
 
+class DialogPreview;
 class DialogSession;
 class DocumentChoice;
 class ChangeMarks;
@@ -20,7 +20,6 @@ class JobPage;
 class MorePage;
 class PageFrame;
 class PageList;
-class PreviewPane;
 class PrintModePage;
 class SessionHistory;
 class SummaryPage;
@@ -35,7 +34,9 @@ public:
     PageBook(DocumentChoice *documents, QWidget *parent);
     ~PageBook() override;
 
-    void beginPreview();                                 // call when the window is visible
+    // Call when the window is visible. Returns the button of the preview, for the caller to place and own;
+    // null if there is nothing to print.
+    QWidget *beginPreview();
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
@@ -94,7 +95,8 @@ private:
     void followFocus(QWidget *now);
     void fitParts();
     void updatePreview();
-    void openPreview();
+    int previewShare() const;
+    void setRanges(const QString &ranges);
     int rowOf(const QString &key) const;
     void showSummary();
 
@@ -107,9 +109,7 @@ private:
     QWidget *m_area;
     QStackedWidget *m_stack;
     DocumentChoice *m_documents = nullptr;
-    PreviewPane *m_preview = nullptr;     // null if there is nothing to print
-    QPointer<PreviewPane> m_largePreview; // in the separate preview window, while it is open
-    bool m_previewBegun = false;
+    DialogPreview *m_preview = nullptr; // null if there is nothing to print
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
     JobPage *m_job = nullptr;
