@@ -6,6 +6,7 @@
 #include "host/printing/standard_names.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
+#include "platform/key_value_object.h"
 
 #include <QCoreApplication>
 
@@ -36,6 +37,16 @@ bool isMonochromeMark(const QString &keyword, const QString &choice)
     return keywords.contains(keyword, Qt::CaseInsensitive) && isMonochromeChoice(choice);
 }
 
+// The choice on the page of a panel, which is marked when the panel is saved; otherwise the marked choice.
+QString shownChoice(const DialogSession &session, const QString &keyword)
+{
+    const int panel = session.panels().ofKeyword(keyword);
+    const bool isKnown =
+        panel >= 0 && session.panels().isRestored(panel) && !session.panels().isRestoring(panel);
+    const QVariant shown = isKnown ? session.panels().objectOf(panel)->valueForKey(keyword) : QVariant();
+    return shown.isValid() ? shown.toString() : session.ppd()->markedChoice(keyword);
+}
+
 bool isMonochrome(const DialogSession &session, const QList<JobOption> &options)
 {
     const bool isAsked = std::any_of(options.begin(), options.end(), [](const JobOption &option) {
@@ -44,7 +55,7 @@ bool isMonochrome(const DialogSession &session, const QList<JobOption> &options)
     });
     const QStringList keywords = session.ppd() ? session.ppd()->optionKeywords() : QStringList();
     return isAsked || std::any_of(keywords.begin(), keywords.end(), [&](const QString &keyword) {
-               return isMonochromeMark(keyword, session.ppd()->markedChoice(keyword));
+               return isMonochromeMark(keyword, shownChoice(session, keyword));
            });
 }
 

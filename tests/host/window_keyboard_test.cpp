@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/session/printed_pages.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/contrast.h"
@@ -193,7 +194,10 @@ void WindowKeyboardTest::conflictGoesWithItsCause()
     FakePanel *colour = showPanels(window);
     window.book()->showPage(1);
     window.session()->markChoice(u"Cyan"_s, u"2"_s);
+    QVERIFY(!pageSettings(*window.session()).isMonochrome);
     colour->setValueForKey(u"Mono"_s, u"ColorType"_s);
+    QVERIFY(
+        pageSettings(*window.session()).isMonochrome); // the preview does not wait until the panel is saved
     window.print();
     settle();
     QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Question);
