@@ -55,7 +55,6 @@ WindowLayout::WindowLayout(QWidget *window, const Parts &parts)
 
 void WindowLayout::build()
 {
-    m_footer->setSpacing(10);
     for (QWidget *part : std::as_const(m_parts.footer))
         m_footer->addWidget(part, part == m_parts.footer.first() ? 1 : 0);
     // Below the pages, so that controls the user is about to press do not move.
@@ -142,7 +141,9 @@ void WindowLayout::adapt()
 void WindowLayout::setCompact(bool compact)
 {
     m_parts.picker->setCompact(compact);
-    m_footer->setContentsMargins(20, compact ? 6 : 12, 20, compact ? 8 : 14);
+    const int footerSide = compact ? 10 : 20; // a low window is often narrow, too
+    m_footer->setContentsMargins(footerSide, compact ? 6 : 12, footerSide, compact ? 8 : 14);
+    m_footer->setSpacing(compact ? 6 : 10);
     const int side = compact ? 10 : 16;
     m_barRow->setContentsMargins(side, m_parts.bar->isShowing() ? (compact ? 4 : 10) : 0, side, 0);
 }
