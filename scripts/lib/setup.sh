@@ -75,12 +75,15 @@ share_compiler_cache() {
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
 }
 
-# build_preset PRESET [TARGET...]: configures the preset if needed, then builds it, or only the targets.
+# build_preset PRESET [TARGET...]: configures the preset if needed, then builds it, or only the targets. Warnings are errors in CI.
 build_preset() {
     local preset=$1
     shift
     share_compiler_cache
-    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+    export KELMAR_WERROR=OFF
+    [ "${CI:-}" != true ] || KELMAR_WERROR=ON
+    { [ "build/$preset/build.ninja" -nt CMakePresets.json ] &&
+        grep -qs "^KELMAR_WERROR:.*=$KELMAR_WERROR$" "build/$preset/CMakeCache.txt"; } || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
         cat "build-$preset.log" >&2
         rm -f "build-$preset.log"
         return 1
