@@ -3,6 +3,7 @@
 
 #include "host/session/printed_pages.h"
 
+#include "host/printing/option_text.h"
 #include "host/printing/standard_names.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
@@ -26,8 +27,14 @@ const QString pageSize = QStringLiteral("PageSize");
 // Whether job options have the server pass documents to the printer unchanged.
 bool isPastFilters(const DialogSession &session)
 {
-    const ChosenSettings &chosen = session.chosen();
-    return chosen.contains(QStringLiteral("raw")) || chosen.contains(QStringLiteral("document-format"));
+    const QList<JobOption> options = session.jobOptions();
+    return std::any_of(options.begin(), options.end(), [](const JobOption &option) {
+        if (option.kind == JobOption::Kind::Shown)
+            return false;
+        if (option.name == QLatin1String("raw"))
+            return switchValue(option.value).value_or(false);
+        return option.name == QLatin1String("document-format") && !option.value.isEmpty();
+    });
 }
 
 // Names that PPDs of many makers use for the same setting.

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void lastWordOfTheUserCounts();
     void defaultsOfTheUser_data();
     void defaultsOfTheUser();
+    void unchangedDocumentIsNotScaled_data();
+    void unchangedDocumentIsNotScaled();
     void customValues_data();
     void customValues();
     void unchangedCustomDefaults();
@@ -278,6 +280,33 @@ void BatchRunTest::defaultsOfTheUser()
     m_system.printers.first().queueDefaults = {{u"sides"_s, u"two-sided-long-edge"_s}};
     QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
     QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
+}
+
+void BatchRunTest::unchangedDocumentIsNotScaled_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QMap<QString, QString>>("defaults"); // of the user
+    QTest::addColumn<bool>("isUnchanged");
+    using Map = QMap<QString, QString>;
+    const Map raw{{u"raw"_s, u"true"_s}, {u"natural-scaling"_s, u"70"_s}};
+    QTest::newRow("default") << QString() << raw << true;
+    QTest::newRow("default format") << u"-o natural-scaling=70"_s
+                                    << Map{{u"document-format"_s, u"application/vnd.cups-raw"_s}} << true;
+    QTest::newRow("chosen") << u"-o raw -o natural-scaling=70"_s << Map() << true;
+    QTest::newRow("not against the default") << u"-o raw=false"_s << raw << false;
+}
+
+// The rule for documents that reach the printer unchanged.
+void BatchRunTest::unchangedDocumentIsNotScaled()
+{
+    QFETCH(QString, words);
+    using Map = QMap<QString, QString>;
+    QFETCH(Map, defaults);
+    m_system.printers.first().options = defaults;
+    const int code = run(QStringList(u"--batch"_s) + words.split(u' ', Qt::SkipEmptyParts) +
+                         QStringList(m_document.fileName()));
+    QTEST(m_err.data().contains("They cannot be scaled."), "isUnchanged");
+    QCOMPARE(m_system.submitted.size(), code == ExitSuccess ? 1 : 0);
 }
 
 void BatchRunTest::customValues_data()

@@ -99,6 +99,7 @@ CASES = [
      "-o natural-scaling=50 -o print-scaling=fit"),
     ("office", "box.ps", "-o natural-scaling=150", f"pages=1 {A4} scale=1.5 natural-scaling="),
     ("office", "picture.png", "-o natural-scaling=50 -o orientation-requested=4", "pages=1 turned=yes natural-scaling="),
+    ("office/raw", "report.pdf", "-o natural-scaling=50", "exit=2"),
     ("office", "box.pdf", "-o natural-scaling=500", "exit=2"),
     ("raw", "report.pdf", "-o natural-scaling=50", "exit=2"),
     ("office", "box.pdf", "-o page-border=single -o number-up=4", "pages=1 scale=1.5"),
