@@ -26,6 +26,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void layoutIsSent();
     void scaledDocumentIsSent();
     void unchangedDocumentIsNotScaled();
+    void wheelNeedsTheFocus_data();
+    void wheelNeedsTheFocus();
     void layoutIsUndone();
     void bookletIsFolded();
     void documentIsLeftOut();
@@ -161,6 +164,34 @@ void GeneralPageTest::unchangedDocumentIsNotScaled()
     printButton()->click();
     QTRY_VERIFY(m_window->messageBar()->text().contains(u"They cannot be scaled."_s));
     QVERIFY(m_system.submitted.isEmpty());
+}
+
+void GeneralPageTest::wheelNeedsTheFocus_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : {naturalScalingName, u"copies"_s})
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+// It scrolls the page instead.
+void GeneralPageTest::wheelNeedsTheFocus()
+{
+    QFETCH(const QString, name);
+    open();
+    auto *number = find<QSpinBox>(name);
+    const QPointF middle = number->rect().center();
+    const auto turn = [&] {
+        QWheelEvent event(middle, number->mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(number, &event);
+        return event.isAccepted();
+    };
+    find<QComboBox>(u"number-up"_s)->setFocus();
+    const int before = number->value();
+    QVERIFY(number->focusPolicy() == Qt::StrongFocus && !turn());
+    QCOMPARE(number->value(), before);
+    number->setFocus();
+    QVERIFY(turn() && number->value() > before);
 }
 
 void GeneralPageTest::layoutIsUndone()

@@ -11,6 +11,7 @@
 #include "host/window/look/contrast.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
+#include "host/window/look/wheel_guard.h"
 #include "host/window/pages/document_box.h"
 #include "host/window/pages/layout_form.h"
 #include "host/window/pages/option_form.h"
@@ -164,6 +165,7 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_copies->setRange(1, GeneralSettings::maxCopies);
     m_copies->setValue(m_session->general().copies);
     m_copies->setAccelerated(true);
+    guardFromWheel(m_copies);
     m_copies->setMinimumWidth(90);
     m_copies->setAccessibleName(tr("Copies"));
     m_collate->setChecked(m_session->general().collate);

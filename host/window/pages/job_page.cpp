@@ -7,6 +7,7 @@
 #include "host/session/job_settings.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
+#include "host/window/look/wheel_guard.h"
 #include "host/window/pages/page_frame.h"
 #include "platform/choice_box.h"
 
@@ -64,6 +65,7 @@ void JobPage::addHold(QGridLayout *grid)
                      QStringLiteral("weekend"), QStringLiteral("indefinite")},
                     grid);
     m_time = new QTimeEdit(this);
+    guardFromWheel(m_time);
     m_time->setObjectName(holdName);
     m_time->setAccessibleName(tr("Time of day"));
     m_time->setWhatsThis(explanationOf(holdName));
