@@ -38,6 +38,11 @@ bool isPdf(const Document &document)
     return isA(document, QStringLiteral("application/pdf"));
 }
 
+bool isImage(const Document &document)
+{
+    return document.format.startsWith(QLatin1String("image/"));
+}
+
 QString valueOf(const PageSettings &settings, const QString &name)
 {
     const auto option = std::find_if(settings.options.begin(), settings.options.end(),
@@ -50,6 +55,7 @@ PageSettings withoutChoiceOfPages(PageSettings settings)
 {
     settings.isMonochrome = false;
     settings.percent = PageSettings::naturalSize;
+    settings.isImageScaledByServer = false;
     settings.options.removeIf(
         [](const auto &option) { return option.first == ranges || option.first == pageSet; });
     return settings;
@@ -131,7 +137,7 @@ void PageCounter::begin(const QStringList &paths, const PageSettings &settings, 
 {
     m_wanted = paths;
     m_settings = withoutChoiceOfPages(settings);
-    m_isScaled = settings.isScaled();
+    m_areImagesSentAsPdf = settings.areImagesSentAsPdf();
     m_ranges = valueOf(settings, ranges);
     m_pageSet = valueOf(settings, pageSet);
     m_pagesPerSide = qMax(1, valueOf(settings, QStringLiteral("number-up")).toInt());
@@ -172,7 +178,7 @@ PageVerdict PageCounter::verdict() const
         const int sides =
             m_isBooklet ? (known.pages + 3) / 4 * 2 : (known.pages + m_pagesPerSide - 1) / m_pagesPerSide;
         most = qMax(most, sides);
-        isPagePrinted = isPagePrinted || sides == 0 || (known.isPicture && !m_isScaled);
+        isPagePrinted = isPagePrinted || sides == 0 || (known.isPicture && !m_areImagesSentAsPdf);
         for (int side = 1; side <= sides && !isPagePrinted; ++side)
             isPagePrinted = isInRanges(side, m_ranges) && isInSet(side, m_pageSet);
     }
@@ -221,7 +227,7 @@ void PageCounter::opened(const Opened &opened)
         return;
     }
     const Document &document = *opened.document;
-    m_result.isPicture = document.format.startsWith(QLatin1String("image/"));
+    m_result.isPicture = isImage(document);
     m_isPdf = isPdf(document);
     m_isReadable = false;
     m_result.isPostScript = !m_isPdf && isA(document, QStringLiteral("application/postscript"));
@@ -328,8 +334,8 @@ void wait(QEventLoop *loop, const StopWanted &stop)
     loop->exec();
 }
 
-// Replaces a document of the verdict by a scaled one. False if it cannot be scaled or `stop` has returned
-// true; the verdict then says which.
+// Replaces a document of the verdict by a scaled one, in PDF. False if it cannot be scaled or `stop` has
+// returned true; the verdict then says which.
 bool scale(PageMaker *maker, Document *document, const PageSettings &settings, const StopWanted &stop,
            PageVerdict *verdict)
 {
@@ -392,8 +398,10 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
     PageMaker maker(tools, nullptr);
     maker.setLimits(PageMaker::unhurried());
     for (Document &document : verdict.documents) {
-        if (verdict.kind != PageVerdict::Kind::Printable || !settings.isScaled() ||
-            !scale(&maker, &document, settings, stop, &verdict))
+        const bool isMade = isImage(document) && !document.isDrawingInText ? settings.areImagesSentAsPdf()
+                                                                           : settings.isScaled();
+        if (verdict.kind != PageVerdict::Kind::Printable ||
+            (isMade && !scale(&maker, &document, settings, stop, &verdict)))
             break;
     }
     return verdict;

@@ -17,16 +17,16 @@ struct PageVerdict
     enum class Kind {
         Pending,    // the documents are still being examined
         Printable,  // pages would be printed, as far as known
-        Unreadable, // a document is broken, truncated, protected or cannot be scaled: nothing of it is
-                    // printed
+        Unreadable, // a document is broken, truncated, protected or cannot be scaled: no page is printed
         NoPage      // the settings select no page of any document
     };
     Kind kind = Kind::Printable;
-    QString path = {};              // of the unreadable document
-    QString problem = {};           // the problem with that document: the end of a sentence
-    QString message = {};           // a sentence for the user; null unless the kind is Unreadable or NoPage
-    QList<Document> documents = {}; // from checkPages(): what to send, scaled if the settings ask for it
-    QList<SharedFile> files = {};   // the scaled documents, freed with the verdict
+    QString path = {};    // of the unreadable document
+    QString problem = {}; // the problem with that document: the end of a sentence
+    QString message = {}; // a sentence for the user; null unless the kind is Unreadable or NoPage
+    // From checkPages(): what to send. The paths of scaled documents are valid only while `files` exists.
+    QList<Document> documents = {};
+    QList<SharedFile> files = {}; // the scaled documents
 };
 
 // Counts the pages of documents before settings are applied to them, and determines whether any would be
@@ -98,8 +98,8 @@ private:
     PageSettings m_settings;     // without those that select pages
     QString m_ranges, m_pageSet; // the selected pages
     int m_pagesPerSide = 1;
-    bool m_isBooklet = false; // both sides of all sheets are printed
-    bool m_isScaled = false;  // the filter for PDF selects the pages of images too
+    bool m_isBooklet = false;          // both sides of all sheets are printed
+    bool m_areImagesSentAsPdf = false; // the filter for PDF selects their pages too
     bool m_isEachCounted = true;
     QStringList m_wanted;
     QHash<QString, Known> m_known; // by path; includes documents that cannot be counted

@@ -116,11 +116,11 @@ void PageMaker::convert()
     }
 }
 
-// A scaled image is sent as PDF. The filter for PDF then mirrors it.
+// The filter for PDF mirrors an image that is sent as PDF.
 PageSettings PageMaker::settingsForConversion() const
 {
     PageSettings settings = m_settings;
-    if (isPicture() && settings.isScaled())
+    if (isPicture() && settings.areImagesSentAsPdf())
         settings.options.removeIf([](const auto &option) { return option.first == QLatin1String("mirror"); });
     return settings;
 }
@@ -140,7 +140,7 @@ void PageMaker::scalePages()
 void PageMaker::layOut()
 {
     const SharedFile &pages = m_settings.isScaled() ? m_scaled : m_pages;
-    const bool isDone = isPicture() && !m_settings.isScaled(); // by the filter for images
+    const bool isDone = isPicture() && !m_settings.areImagesSentAsPdf(); // by the filter for images
     if (isDone || !m_isLaidOut || m_tools.path(QStringLiteral("pdftopdf")).isEmpty()) {
         Q_EMIT made(pages, isDone);
         return;

@@ -24,7 +24,7 @@ QString quoted(QString value)
 bool PageSettings::operator==(const PageSettings &other) const
 {
     return options == other.options && isMonochrome == other.isMonochrome && percent == other.percent &&
-           ppd() == other.ppd();
+           isImageScaledByServer == other.isImageScaledByServer && ppd() == other.ppd();
 }
 
 QString PageSettings::optionText() const

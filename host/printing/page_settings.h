@@ -13,8 +13,9 @@
 
 namespace host {
 
-// The job option for the size of the pages in percent. Filters of the print system ignore it for PDF, so
-// documents are scaled before they are sent, and the option is not sent.
+// The job option for the size of the pages in percent. Filters of the print system ignore it for PDF and
+// apply it to images in a different way. Documents are therefore scaled before they are sent, and the option
+// is not sent.
 inline const QString naturalScalingName = QStringLiteral("natural-scaling");
 
 // Settings that affect the pages of a document. Contains only page layout options, since they become
@@ -24,10 +25,12 @@ struct PageSettings
     QList<std::pair<QString, QString>> options; // job options
     PaperSize paper;                            // without dimensions, A4 without margins is used
     bool isMonochrome = false;
-    int percent = naturalSize; // the size of the pages on paper that keeps its size
+    int percent = naturalSize;          // size of the pages in percent; the size of the paper does not change
+    bool isImageScaledByServer = false; // with a default of the queue, unless images are sent as PDF
 
     static constexpr int naturalSize = 100;
     bool isScaled() const { return percent != naturalSize; }
+    bool areImagesSentAsPdf() const { return isScaled() || isImageScaledByServer; }
 
     bool operator==(const PageSettings &other) const;
     // The options as filters receive them.

@@ -89,6 +89,9 @@ PageSettings pageSettings(const DialogSession &session)
         settings.options.append({QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")});
     settings.isMonochrome = isMonochrome(session, options);
     settings.percent = session.general().layout.percent();
+    const QString natural = QString::number(PageSettings::naturalSize);
+    settings.isImageScaledByServer =
+        session.ppd() && session.destination().queueDefaults.value(naturalScalingName, natural) != natural;
     const QString choice = session.ppd() ? session.ppd()->markedChoice(pageSize) : QString();
     if (!choice.isEmpty())
         settings.paper = session.ppd()->paperSize(choice).value_or(PaperSize());

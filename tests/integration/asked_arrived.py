@@ -99,6 +99,10 @@ CASES = [
      "-o natural-scaling=50 -o print-scaling=fit"),
     ("office", "box.ps", "-o natural-scaling=150", f"pages=1 {A4} scale=1.5 natural-scaling="),
     ("office", "picture.png", "-o natural-scaling=50 -o orientation-requested=4", "pages=1 turned=yes natural-scaling="),
+    ("office", "picture.png", "", "pages=1 scale=2.9"),
+    ("scaled", "picture.png", "", "pages=1 scale=2.0"),
+    ("scaled", "picture.png", "-o natural-scaling=100", "pages=1 scale=2.9"),
+    ("scaled", "box.pdf", "-o natural-scaling=100", "pages=1 scale=1.0"),
     ("office/raw", "report.pdf", "-o natural-scaling=50", "exit=2"),
     ("office", "box.pdf", "-o natural-scaling=500", "exit=2"),
     ("raw", "report.pdf", "-o natural-scaling=50", "exit=2"),
@@ -266,7 +270,7 @@ class Setup:
         ppds = self.folder / "ppds"
         must("ppdc", "-d", ppds, "/usr/share/cups/drv/sample.drv")
         family = build / "ppds/kelm880.ppd"
-        for name, ppd in [("office", family), ("admin", family), ("members", family), ("generic", ppds / "generic.ppd"),
+        for name, ppd in [("office", family), ("admin", family), ("scaled", family), ("members", family), ("generic", ppds / "generic.ppd"),
                           ("small", build / "ppds/kelo110.ppd"), ("raw", "-"),
                           ("custom", source / "tests/host/custom_values.ppd")]:
             must("bash", script, "add-queue", near, name, ppd, "capture:/")
@@ -275,6 +279,7 @@ class Setup:
              f"ipp://localhost:{self.port}/printers/office?waitjob=false")
         defaults = ("sides-default=two-sided-long-edge", "media-default=A5", "copies-default=2")
         self.lpadmin("-p", "admin", *(word for default in defaults for word in ("-o", default)))
+        self.lpadmin("-p", "scaled", "-o", "natural-scaling-default=70")
         self.lpadmin("-p", "members", "-o", "printer-op-policy=kelmar-dialog")
         self.lpadmin("-p", "office", "-c", "team")
         must("cupsenable", "-h", self.socket, "team")
