@@ -215,8 +215,8 @@ class Program:
         subprocess.run(["xdotool", "click", "1"], check=True)
 
     def tooltip(self, control, words):
-        """Points at a control until its tooltip holds the words; the whole of it. The tooltip keeps the text that it appeared
-        with, so the mouse moves away and comes back if the control has not heard of the words by then."""
+        """Returns the tooltip of a control once it contains `words`. A visible tooltip is not updated, so the mouse moves away
+        and returns."""
         def shown():
             self.point_at(control)
             end = time.monotonic() + 2

@@ -60,7 +60,8 @@ public:
     // Why it was killed; null if it exited. For messages.
     const QString &problem() const { return m_problem; }
 
-    // The path under which a program can open one of the other files of its call.
+    // The path under which a program can open one of the other files of its call. Also valid in this process
+    // while the file is held.
     static QString pathFor(const SharedFile &file);
 
 Q_SIGNALS:

@@ -15,6 +15,7 @@ namespace host {
 // The grid of a page's content: labels in the first column, fields in the second. Owned by the page.
 QGridLayout *contentGrid(QWidget *page);
 // Adds a row with a field, which gets the name and the explanation of its setting. The grid's page owns it.
+// `label` ends with a colon; the field's accessible name is the label without it.
 void addField(QGridLayout *grid, const QString &setting, const QString &label, QWidget *field);
 
 // One page of the dialog: a heading, an optional note, and the content, which scrolls if the window is too
