@@ -5,6 +5,7 @@
 
 #include "host/printing/option_text.h"
 #include "host/session/page_ranges.h"
+#include "host/session/setting_keys.h"
 
 #include <QScopedValueRollback>
 
@@ -66,6 +67,11 @@ void beginWith(const StartingSettings &start, DialogSession *session)
     if (session->ppd()) {
         for (const auto &[name, value] : start.choices)
             mark(name, value, session);
+    }
+    for (const auto &[name, value] : start.jobOptions) {
+        PrintError refusal;
+        if (!choose(session, {name, value, ChosenSetting::Kind::JobOption}, &refusal))
+            session->addNotice(refusal.message);
     }
 }
 

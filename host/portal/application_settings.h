@@ -12,7 +12,7 @@ namespace host {
 StartingSettings startingSettings(const NamedValues &jobOptions, int copies);
 
 // Applies an application's settings to a new session. Settings that the printer does not have are ignored;
-// settings that the dialog does not show become a notice.
+// settings that the policy forbids, and values of the page layout that are refused, become a notice.
 void beginWith(const StartingSettings &start, DialogSession *session);
 
 // The settings of a session that are returned to the application: nothing that may be part of a code, and no

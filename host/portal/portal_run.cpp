@@ -11,7 +11,6 @@
 #include "host/preview/page_counter.h"
 #include "host/printing/held_signals.h"
 #include "host/printing/option_text.h"
-#include "host/session/setting_keys.h"
 #include "host/window/jobs/desktop_notice.h"
 #include "host/window/look/color_scheme.h"
 #include "host/window/look/desktop_contrast.h"
@@ -255,9 +254,6 @@ PrintTask RequestRun::task(const StartingSettings &start)
         general.offersCurrentPage = isAnswered && abilities.value(QLatin1String("currentPage")).toBool();
         general.offersSelection = isAnswered && abilities.value(QLatin1String("selection")).toBool();
         beginWith(start, session);
-        PrintError ignored;
-        for (const auto &[name, value] : start.jobOptions)
-            choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
     };
     return task;
 }

@@ -235,7 +235,7 @@ void ApplicationSettingsTest::optionsOfAPrintedJob()
     const NamedValues options = {{u"media"_s, u"A3"_s},        {u"sides"_s, u"two-sided-short-edge"_s},
                                  {u"page-ranges"_s, u"2-1"_s}, {u"Collate"_s, u"false"_s},
                                  {u"number-up"_s, u"1"_s},     {u"job-uuid"_s, u"urn:uuid:1"_s},
-                                 {u"HardDisk"_s, u"True"_s}};
+                                 {u"HardDisk"_s, u"True"_s},   {u"natural-scaling"_s, u"500"_s}};
     const StartingSettings start = startingSettings(options, 100000);
     beginWith(start, session.get());
     QCOMPARE(session->general().copies, GeneralSettings::maxCopies);
@@ -243,11 +243,11 @@ void ApplicationSettingsTest::optionsOfAPrintedJob()
     QCOMPARE(session->general().pages, QString());
     QCOMPARE(session->ppd()->markedChoice(u"PageSize"_s), u"A3"_s);
     QCOMPARE(session->ppd()->markedChoice(u"Duplex"_s), u"DuplexTumble"_s);
-    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"1"_s}}));
+    QCOMPARE(start.jobOptions, (NamedValues{{u"number-up"_s, u"1"_s}, {u"natural-scaling"_s, u"500"_s}}));
     const auto once = this->session(); // GTK also sends it for a single copy
     beginWith(startingSettings(options, 1), once.get());
     QCOMPARE(once->general().collate, true);
-    QCOMPARE(session->takeNotices(), QStringList());
+    QCOMPARE(session->takeNotices(), QStringList(u"natural-scaling takes whole numbers from 25 to 400."_s));
 }
 
 void ApplicationSettingsTest::rawQueue()
