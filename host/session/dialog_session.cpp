@@ -7,6 +7,7 @@
 #include "host/session/booklet.h"
 #include "host/session/job_options.h"
 #include "host/session/protection_checks.h"
+#include "host/session/setting_keys.h"
 #include "platform/key_value_object.h"
 
 #include <algorithm>
@@ -76,6 +77,7 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
         addNotice(m_destination.optionsProblem);
     leaveOutForbidden();
     m_rule.applyTo(&m_destination, m_ppd.get());
+    m_notices += leaveOutInvalid(*this, &m_destination.options);
     if (m_ppd) {
         m_notices += m_ppd->markOptions(m_destination.options);
         m_locks.mark(m_ppd.get());

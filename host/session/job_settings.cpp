@@ -142,6 +142,15 @@ void setJobSetting(DialogSession *session, const QString &name, const QString &v
     (void)choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
 }
 
+QString canonicalJobValue(const QString &name, const QString &value)
+{
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (name == priorityName && isNumber)
+        return QString::number(number);
+    return name == holdName ? value.trimmed().toLower() : value;
+}
+
 QString jobSettingProblem(const QString &name, const QString &value)
 {
     if (name == priorityName) {

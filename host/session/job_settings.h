@@ -37,6 +37,8 @@ QString jobSettingValue(const DialogSession &session, const QString &name);
 // change.
 void setJobSetting(DialogSession *session, const QString &name, const QString &value);
 
+// A value in the spelling of the print system: "job-hold-until" in lower case, "job-priority" as digits only.
+QString canonicalJobValue(const QString &name, const QString &value);
 // What "job-hold-until" or "job-priority" takes, as a localised sentence with the name, if it does not take
 // this value; otherwise a null string. Always null for other names.
 QString jobSettingProblem(const QString &name, const QString &value);

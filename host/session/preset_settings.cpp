@@ -6,6 +6,7 @@
 #include "host/session/dialog_session.h"
 #include "host/session/job_options.h"
 #include "host/session/session_state.h"
+#include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
 
@@ -50,8 +51,10 @@ bool isKnown(const DialogSession &session, const QString &name)
 }
 
 // The choices of the PPD options if these options were marked on its defaults.
-QMap<QString, QString> marksOf(PpdDocument *ppd, const QMap<QString, QString> &options, QStringList *problems)
+QMap<QString, QString> marksOf(const DialogSession &session, const QMap<QString, QString> &options,
+                               QStringList *problems)
 {
+    PpdDocument *ppd = session.ppd();
     QMap<QString, QString> now, marks;
     for (const QString &keyword : ppd->optionKeywords()) {
         if (ppd->isInstallable(keyword))
@@ -143,7 +146,8 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
                              const QMap<QString, QString> &given, QStringList *notices)
 {
     const QMap<QString, QString> &locked = session->locks().choices();
-    const QMap<QString, QString> preset = withoutForbidden(session, given, notices);
+    QMap<QString, QString> preset = withoutForbidden(session, given, notices);
+    notices->append(leaveOutInvalid(*session, &preset));
     const SessionState now = StateRestorer::stateOf(*session);
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
@@ -151,7 +155,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     all.insert(locked);
     QStringList missed;
     if (session->ppd())
-        wanted.marks = marksOf(session->ppd(), all, notices);
+        wanted.marks = marksOf(*session, all, notices);
     wanted.marks.insert(locked);
     wanted.printSettings.clear();
     wanted.chosen = {};

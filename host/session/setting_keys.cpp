@@ -13,6 +13,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -23,6 +25,7 @@ struct SettingText
 };
 
 constexpr qsizetype maxAccount = 255; // bytes; the limit of names in the print protocol
+const QString sheetsName = QStringLiteral("job-sheets");
 const QString handlingName = QStringLiteral("multiple-document-handling");
 
 bool refuse(PrintError *error, const QString &message)
@@ -60,6 +63,11 @@ bool isLayout(const DialogSession &session, const QString &key)
 bool isJobSetting(const DialogSession &session, const QString &key)
 {
     return jobSettingNames().contains(key) && !(session.ppd() && session.ppd()->hasOption(key));
+}
+
+QString layoutProblem(const QString &key)
+{
+    return SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key));
 }
 
 // A booklet is turned on the short edge: it selects that, and no other choice is accepted afterwards.
@@ -206,9 +214,24 @@ bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, 
            refuse(error, SettingText::tr("%1 takes at most %2 characters.").arg(setting.key).arg(most));
 }
 
-bool setJobOption(DialogSession *session, const ChosenSetting &setting, PrintError *error)
+// One sheet, or those before and after the job. The print server ignores letter case.
+bool checkCoverSheets(const DialogSession &session, const ChosenSetting &setting, PrintError *error)
 {
-    if (!checkPrintMode(*session, setting, error))
+    if (setting.key != sheetsName || session.destination().coverSheets.isEmpty())
+        return true;
+    const QStringList offered = coverSheets(session), wanted = setting.value.split(QLatin1Char(','));
+    const bool isOffered =
+        wanted.size() <= 2 && std::all_of(wanted.begin(), wanted.end(), [&](const QString &sheet) {
+            return offered.contains(sheet, Qt::CaseInsensitive);
+        });
+    return isOffered ||
+           refuse(error, SettingText::tr("%1 takes %2.").arg(setting.key, offered.join(QLatin1String(", "))));
+}
+
+bool setJobOption(DialogSession *session, ChosenSetting setting, PrintError *error)
+{
+    setting.value = canonicalJobValue(setting.key, setting.value);
+    if (!checkPrintMode(*session, setting, error) || !checkCoverSheets(*session, setting, error))
         return false;
     *error = session->locks().refusal(session->ppd(), setting.key, setting.value);
     if (*error)
@@ -241,8 +264,7 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
     if (GeneralSettings::covers(key) && !isHandling)
         return setGeneral(&session->general(), setting, error);
     if (isLayout(*session, key))
-        return session->general().layout.set(key, value) ||
-               refuse(error, SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key)));
+        return session->general().layout.set(key, value) || refuse(error, layoutProblem(key));
     if (session->ppd() && session->ppd()->hasOption(key))
         return setOption(session, setting, error);
     if (const int panel = session->panels().ofSetting(key); panel >= 0)
@@ -260,6 +282,29 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
     if (jobSettingNames().contains(setting.key))
         setting.kind = ChosenSetting::Kind::JobOption;
     return chooseAny(session, setting, error) && keepBooklet(session, setting.key, error);
+}
+
+QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options)
+{
+    QStringList notices;
+    for (auto it = options->begin(); it != options->end();) {
+        const QString &name = it.key();
+        QString problem;
+        if (isJobSetting(session, name)) {
+            *it = canonicalJobValue(name, *it);
+            problem = jobSettingProblem(name, *it);
+        } else if (isLayout(session, name) && PageLayoutSettings::rangeOf(name) &&
+                   !PageLayoutSettings().set(name, *it)) {
+            problem = layoutProblem(name);
+        }
+        if (problem.isNull() || session.locks().choices().contains(name)) {
+            ++it;
+            continue;
+        }
+        notices.append(SettingText::tr("A stored setting is not used: %1").arg(problem));
+        it = options->erase(it);
+    }
+    return notices;
 }
 
 bool hasSetting(const DialogSession &session, const QString &key)

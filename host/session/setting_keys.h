@@ -7,7 +7,9 @@
 #include "host/session/chosen_settings.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <utility>
 
@@ -21,6 +23,11 @@ namespace host {
 // no such setting, the value is invalid or the policy forbids it. The error never contains a value that is a
 // code.
 bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
+
+// Changes stored options of a destination or a preset as choose() would: times, priorities and numbers of the
+// page layout that it refuses are removed, times and priorities are changed to their canonical spelling. An
+// option that the policy has fixed is kept. Returns a localised notice for each option that is removed.
+QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options);
 
 // Whether choose() accepts this key, whatever the value.
 bool hasSetting(const DialogSession &session, const QString &key);

@@ -1682,6 +1682,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>SettingText</name>
     <message>
+        <source>A stored setting is not used: %1</source>
+        <translation>Eine gesicherte Einstellung wird nicht verwendet: %1</translation>
+    </message>
+    <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 kennt den Wert „%2“ nicht; möglich sind %3.</translation>
     </message>

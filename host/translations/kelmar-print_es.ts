@@ -1682,6 +1682,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>SettingText</name>
     <message>
+        <source>A stored setting is not used: %1</source>
+        <translation>No se usa un ajuste guardado: %1</translation>
+    </message>
+    <message>
         <source>This printer has no option or setting called “%1”.</source>
         <translation>Esta impresora no tiene ninguna opción ni ningún ajuste llamado «%1».</translation>
     </message>

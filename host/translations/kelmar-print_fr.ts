@@ -1682,6 +1682,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>SettingText</name>
     <message>
+        <source>A stored setting is not used: %1</source>
+        <translation>Un réglage enregistré n’est pas utilisé&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 n’a pas de choix «&#xa0;%2&#xa0;»&#xa0;; il a %3.</translation>
     </message>

@@ -1682,6 +1682,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>SettingText</name>
     <message>
+        <source>A stored setting is not used: %1</source>
+        <translation>Un’impostazione salvata non viene usata: %1</translation>
+    </message>
+    <message>
         <source>This printer has no option or setting called “%1”.</source>
         <translation>Questa stampante non ha alcuna opzione o impostazione chiamata «%1».</translation>
     </message>

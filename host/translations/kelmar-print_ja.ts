@@ -1682,6 +1682,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>SettingText</name>
     <message>
+        <source>A stored setting is not used: %1</source>
+        <translation>保存済みの設定を使用しません: %1</translation>
+    </message>
+    <message>
         <source>%1 has no choice “%2”; it has %3.</source>
         <translation>%1 に選択肢「%2」はありません。選択肢: %3。</translation>
     </message>

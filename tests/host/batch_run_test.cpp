@@ -160,6 +160,10 @@ void BatchRunTest::exitCodes_data()
         << u"--batch -o booklet=true --set Duplex=DuplexNoTumble FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no such priority")
         << u"--batch -o job-priority=900 FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("no such cover sheet")
+        << u"--batch --set job-sheets=standard,nosuch FILE"_s << int(ExitUsage) << u"bad-value"_s;
+    QTest::newRow("cover sheets") << u"--batch -o job-sheets=Standard,none FILE"_s << int(ExitSuccess)
+                                  << QString();
     QTest::newRow("no such page") << u"--batch -P 99 FILE"_s << int(ExitUsage) << u"bad-value"_s;
 }
 
@@ -169,6 +173,7 @@ void BatchRunTest::exitCodes()
     QFETCH(int, code);
     QFETCH(QString, error);
     words.replace(u"FILE"_s, m_document.fileName());
+    m_system.printers.first().coverSheets = {u"none"_s, u"standard"_s};
     QCOMPARE(run(words.split(u' ') + QStringList(u"--json"_s)), code);
     QCOMPARE(json()[u"error"_s][u"code"_s].toString(), error);
     QCOMPARE(m_system.submitted.size(), code == ExitSuccess ? 1 : 0);
@@ -205,6 +210,9 @@ void BatchRunTest::lastWordOfTheUserCounts_data()
     QTest::addColumn<QString>("sent");
     QTest::newRow("over a preset") << u"-o job-priority=70"_s << u"job-priority"_s << u"70"_s;
     QTest::newRow("as a setting") << u"--set Job-Priority=75"_s << u"job-priority"_s << u"75"_s;
+    QTest::newRow("with a sign") << u"--set job-priority=+75"_s << u"job-priority"_s << u"75"_s;
+    QTest::newRow("time in capitals")
+        << u"-o Job-Hold-Until=Evening"_s << u"job-hold-until"_s << u"evening"_s;
     QTest::newRow("over itself") << u"-o job-sheets=standard -o job-sheets=none"_s << u"job-sheets"_s
                                  << u"none"_s;
     QTest::newRow("over the PPD's default") << u"--set Duplex=None"_s << u"Duplex"_s << u"None"_s;
@@ -267,6 +275,9 @@ void BatchRunTest::defaultsOfTheUser_data()
     QTest::newRow("against the server's") << u"sides"_s << u"one-sided"_s << u"sides"_s << u"one-sided"_s;
     QTest::newRow("color mode") << u"print-color-mode"_s << u"monochrome"_s << u"ColorModel"_s << u"Gray"_s;
     QTest::newRow("no pages") << u"page-ranges"_s << u"all"_s << u"page-ranges"_s << QString();
+    QTest::newRow("no priority") << u"job-priority"_s << u"900"_s << u"job-priority"_s << QString();
+    QTest::newRow("no time") << u"job-hold-until"_s << u"frob"_s << u"job-hold-until"_s << QString();
+    QTest::newRow("no scale") << u"natural-scaling"_s << u"900"_s << u"natural-scaling"_s << QString();
     QTest::newRow("backs of a booklet") << u"booklet"_s << u"true"_s << u"Duplex"_s << u"DuplexTumble"_s;
 }
 
@@ -280,6 +291,8 @@ void BatchRunTest::defaultsOfTheUser()
     m_system.printers.first().queueDefaults = {{u"sides"_s, u"two-sided-long-edge"_s}};
     QCOMPARE(run({u"--batch"_s, m_document.fileName()}), int(ExitSuccess));
     QTEST(sentValue(m_system.submitted.first().options, sentName), "sent");
+    const bool isInvalid = QByteArray(QTest::currentDataTag()).startsWith("no ") && name != u"page-ranges";
+    QCOMPARE(m_err.data().contains("A stored setting is not used: " + name.toUtf8()), isInvalid);
 }
 
 void BatchRunTest::unchangedDocumentIsNotScaled_data()

@@ -12,14 +12,12 @@
 #include "host/window/presets/preset_dialog.h"
 #include "host/window/printers/printer_picker.h"
 #include "platform/binding.h"
-#include "tests/host/window_fixture.h"
+#include "tests/host/preset_fixture.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -32,7 +30,7 @@ using namespace host;
 using namespace Qt::StringLiterals;
 
 // Presets, marks and undo in the window with a print system without a server, operated with keys and clicks.
-class ChangesTest : public WindowFixture
+class ChangesTest : public PresetFixture
 {
     Q_OBJECT
 private Q_SLOTS:
@@ -46,6 +44,8 @@ private Q_SLOTS:
     void presetIsOneStepHoweverLongItTakes();
     void summaryShowsChangesAndLeadsToThem();
     void jobSettingsAreSentUndoneAndSummed();
+    void presetIsCorrected_data();
+    void presetIsCorrected();
     void presetIsSavedAppliedRenamedAndDeleted();
     void lastUsedIsOfferedWithoutCodes();
     void presetActionsStayWithTheirPrinter();
@@ -72,9 +72,6 @@ private:
         }
         return shown;
     }
-    QPushButton *presets() { return find<QPushButton>(u"presets"_s); }
-    void trigger(const QString &text);
-    QStringList menuTexts();
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -86,25 +83,6 @@ void ChangesTest::init()
     qputenv("HOME", m_folder->path().toLocal8Bit());
     qputenv("CUPS_SERVERROOT", m_folder->path().toLocal8Bit());
     qputenv("XDG_STATE_HOME", m_folder->path().toLocal8Bit() + "/state");
-}
-
-QStringList ChangesTest::menuTexts()
-{
-    Q_EMIT presets()->menu()->aboutToShow();
-    settle(); // reading the files may take longer than the menu waits
-    Q_EMIT presets()->menu()->aboutToShow();
-    QStringList texts;
-    for (const QAction *action : presets()->menu()->actions())
-        texts.append(action->text().remove(u'&'));
-    return texts;
-}
-
-void ChangesTest::trigger(const QString &text)
-{
-    const QStringList texts = menuTexts();
-    QVERIFY2(texts.contains(text), qPrintable(texts.join(u'|')));
-    presets()->menu()->actions().at(texts.indexOf(text))->trigger();
-    settle();
 }
 
 void ChangesTest::changesAreUndoneAndRedone()
@@ -351,6 +329,48 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     window.print();
     settle();
     QCOMPARE(sentValue(m_system.submitted.first().options, u"job-hold-until"_s), hold);
+}
+
+void ChangesTest::presetIsCorrected_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("chosen"); // then on the page Job; null if nothing
+    QTest::addColumn<QString>("name");   // of what is sent
+    QTest::addColumn<QString>("sent");
+    QTest::addColumn<QString>("notice");
+    const QString none, hold = u"job-hold-until"_s, priority = u"job-priority"_s;
+    QTest::newRow("hold in capitals") << hold << u"Evening"_s << none << hold << u"evening"_s << none;
+    QTest::newRow("no hold") << hold << u"frob"_s << none << hold << none << u"job-hold-until takes"_s;
+    QTest::newRow("no priority") << priority << u"900"_s << none << priority << none
+                                 << u"job-priority takes a number from 1 to 100."_s;
+    QTest::newRow("no scale") << naturalScalingName << u"900"_s << none << naturalScalingName << none
+                              << u"natural-scaling takes whole numbers from 25 to 400."_s;
+}
+
+void ChangesTest::presetIsCorrected()
+{
+    QFETCH(const QString, chosen);
+    QFETCH(const QString, name);
+    QFETCH(const QString, notice);
+    m_system.ppds[u"office"_s].replace("*CloseUI: *Duplex\n",
+                                       "*Duplex DuplexTumble/Short Edge: \"\"\n*CloseUI: *Duplex\n");
+    m_system.printers.first().options = {{u"sides"_s, u"two-sided-long-edge"_s}};
+    PrintWindow &window = open();
+    PrintError error;
+    QFETCH(const QString, stored);
+    QFETCH(const QString, value);
+    QVERIFY(PresetStore().save(u"office"_s, {u"p"_s, {{stored, value}}}, &error));
+    trigger(u"p"_s);
+    QVERIFY2(window.messageBar()->text().contains(notice), qPrintable(window.messageBar()->text()));
+    if (!chosen.isNull()) {
+        window.book()->showPage(window.book()->pageNamed(u"job"_s));
+        choose(name, chosen);
+        settle();
+    }
+    QTEST(sentValue(window.session()->jobOptions(), name), "sent");
+    trigger(u"Save “p”"_s);
+    QTEST(PresetStore().list(u"office"_s, &error)->value(0).options.value(name), "sent");
 }
 
 void ChangesTest::presetIsSavedAppliedRenamedAndDeleted()
