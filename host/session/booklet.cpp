@@ -64,6 +64,13 @@ bool areSidesWrongForBooklet(const DialogSession &session)
            standardValueOfMarks(session.ppd(), sides, {}) == QLatin1String("two-sided-long-edge");
 }
 
+void turnSidesForBooklet(const DialogSession &session)
+{
+    const auto choice = areSidesWrongForBooklet(session) ? sidesForBooklet(session) : std::nullopt;
+    if (choice)
+        session.ppd()->mark(choice->option, choice->choice);
+}
+
 std::optional<OptionChoice> saddleStitching(const DialogSession &session)
 {
     const QStringList keywords = session.ppd() ? session.ppd()->optionKeywords() : QStringList();

@@ -33,6 +33,8 @@ OptionChoice bookletChoice(bool on);
 
 // Whether two-sided printing is marked in a way that turns the backs of a booklet upside down.
 bool areSidesWrongForBooklet(const DialogSession &session);
+// Marks two-sided printing for booklets on the PPD if it is marked otherwise. Records no choice.
+void turnSidesForBooklet(const DialogSession &session);
 
 // The choice that staples sheets in the fold; null if the PPD has none.
 std::optional<OptionChoice> saddleStitching(const DialogSession &session);

@@ -87,9 +87,8 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
             m_host.settings().setValue(it.key(), it.value());
     }
     m_startingGeneral = m_general = GeneralSettings::from(m_destination.options);
-    if (m_general.layout.isBooklet() && areSidesWrongForBooklet(*this)) { // by the defaults of the queue
-        if (const auto sides = sidesForBooklet(*this))
-            m_ppd->mark(sides->option, sides->choice);
+    if (m_general.layout.isBooklet() && m_ppd) {
+        turnSidesForBooklet(*this);
         m_locks.mark(m_ppd.get());
     }
     if (const QString unknown = m_ppd ? unknownDefaults(*m_ppd, m_destination) : QString(); !unknown.isNull())

@@ -3,6 +3,7 @@
 
 #include "host/session/preset_settings.h"
 
+#include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/job_options.h"
 #include "host/session/session_state.h"
@@ -63,6 +64,8 @@ QMap<QString, QString> marksOf(const DialogSession &session, const QMap<QString,
         ppd->mark(keyword, ppd->defaultChoice(keyword));
     }
     problems->append(ppd->markOptions(options));
+    if (PageLayoutSettings::from(options).isBooklet())
+        turnSidesForBooklet(session);
     for (auto it = now.begin(); it != now.end(); ++it)
         marks.insert(it.key(), ppd->markedChoice(it.key()));
     for (int round = 0; round < 2; ++round) { // a mark may remove another one, for example a size with a tray
