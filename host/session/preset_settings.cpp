@@ -6,6 +6,7 @@
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/job_options.h"
+#include "host/session/job_settings.h"
 #include "host/session/session_state.h"
 #include "host/session/setting_keys.h"
 
@@ -47,7 +48,8 @@ bool isKept(const DialogSession &session, const JobOption &option)
 
 bool isKnown(const DialogSession &session, const QString &name)
 {
-    return GeneralSettings::covers(name) || PageLayoutSettings::covers(name) || isPanelSetting(name) ||
+    return GeneralSettings::covers(name) || PageLayoutSettings::covers(name) ||
+           jobSettingNames().contains(name) || isPanelSetting(name) ||
            (session.ppd() && (session.ppd()->hasOption(name) || session.ppd()->takesOption(name)));
 }
 
@@ -129,7 +131,10 @@ QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QS
     for (const JobOption &option : session.general().layout.jobOptions({}, {}))
         options.insert(option.name, option.value);
     for (const JobOption &option : session.jobOptions()) {
-        if (isKept(session, option) && (withSecrets || !isSecretSetting(session, option.name)))
+        // A session that was opened with the preset has them as defaults.
+        const bool isOfPreset = unknown.contains(option.name) && jobSettingNames().contains(option.name);
+        if ((isKept(session, option) || isOfPreset) &&
+            (withSecrets || !isSecretSetting(session, option.name)))
             options.insert(option.name, option.value);
     }
     return options;

@@ -14,7 +14,7 @@ class DialogSession;
 
 // The settings of a session that a preset stores: everything that is sent with a job except the page range,
 // which belongs to the document. `unknown` contains the options of the current preset; those unknown to the
-// dialog, such as a job's priority, are kept. Codes are left out unless `withSecrets` is set.
+// dialog, such as the resolution of pictures, are kept. Codes are left out unless `withSecrets` is set.
 QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QString, QString> &unknown,
                                      bool withSecrets);
 // Whether there is a code that a preset would leave out.

@@ -342,6 +342,8 @@ void ChangesTest::presetIsCorrected_data()
     const QString none, hold = u"job-hold-until"_s, priority = u"job-priority"_s;
     QTest::newRow("backs of a booklet")
         << u"booklet"_s << u"true"_s << none << u"Duplex"_s << u"DuplexTumble"_s << none;
+    QTest::newRow("hold") << hold << u"evening"_s << u"no-hold"_s << hold << none << none;
+    QTest::newRow("priority") << priority << u"75"_s << u"50"_s << priority << none << none;
     QTest::newRow("hold in capitals") << hold << u"Evening"_s << none << hold << u"evening"_s << none;
     QTest::newRow("no hold") << hold << u"frob"_s << none << hold << none << u"job-hold-until takes"_s;
     QTest::newRow("no priority") << priority << u"900"_s << none << priority << none
