@@ -8,13 +8,18 @@ import re
 from session import expect, wait
 
 
+def arguments_of_job(cups, job):
+    """The arguments of the printer's backend for the job: number, user, title, copies, options."""
+    path = os.path.join(cups, "jobs", "%d.args" % job)
+    wait("job %d at the printer's backend" % job, lambda: os.path.exists(path))
+    with open(path) as file:
+        return file.read().split("\0")
+
+
 def show_arrival(cups):
     """Prints the options and the number of sides that reached the printer's backend. `cups` is the folder of the private
     server."""
-    arguments = os.path.join(cups, "jobs", "1.args")
-    wait("the job at the printer's backend", lambda: os.path.exists(arguments))
-    with open(arguments) as file:
-        options = sorted(file.read().split("\0")[4].split())
+    options = sorted(arguments_of_job(cups, 1)[4].split())
     print("== What reached the printer's backend")
     for option in options:
         print("   " + option)
@@ -24,5 +29,5 @@ def show_arrival(cups):
         sides = len(re.findall(rb"^%%Page: ", file.read(), re.M))
     print("   8 pages of the document on %d sides of %d sheet of paper" % (sides, (sides + 1) // 2))
     expect("%d sides reached the printer, not 2" % sides, sides == 2)
-    others = [name for name in os.listdir(os.path.join(cups, "jobs")) if name.endswith(".args")]
-    expect("more than one job reached the printer: %s" % others, others == ["1.args"])
+    jobs = sorted(name for name in os.listdir(os.path.join(cups, "jobs")) if name.endswith(".args"))
+    expect("the jobs at the backends are %s" % jobs, jobs == ["1.args", "2.args", "3.args"])

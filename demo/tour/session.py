@@ -101,6 +101,18 @@ class Program:
         pyatspi.Registry.registerEventListener(self._hear, "object:state-changed:focused")
         self.process = session.start(command, env=dict(os.environ, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
                                                        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1"))
+        self.pid = self.process.pid  # of the process with the window
+
+    def follow_child(self):
+        """The window is that of a process that the program has started."""
+        self.pid = int(wait("a child of the program", lambda: subprocess.run(
+            ["ps", "-o", "pid=", "--ppid", str(self.process.pid)], stdout=subprocess.PIPE).stdout.split())[0])
+
+    def end(self):
+        """Closes the window, in which a job has been printed, and waits for the end of the program."""
+        self.keys("Return")
+        wait("the end of the program", lambda: self.process.poll() is not None)
+        expect("the program ended with %s" % self.process.returncode, self.process.returncode == 0)
 
     def _hear(self, event):
         from gi.repository import GLib
@@ -114,7 +126,7 @@ class Program:
 
     def _application(self):
         for application in self._atspi.Registry.getDesktop(0):
-            if application and application.get_process_id() == self.process.pid:
+            if application and application.get_process_id() == self.pid:
                 application.set_cache_mask(0)  # what a cache says may be over
                 return application
         return None
@@ -176,6 +188,13 @@ class Program:
         return wait("the keyboard on “%s”" % name, lambda: next(
             (node for node in self.all() if self.has(node, "FOCUSED") and node.name == name), None))
 
+    def reach(self, name, act):
+        """Does something that moves the keyboard to the control whose name begins so. It may be in a list or menu that is in
+        no window's tree."""
+        self._heard.clear()
+        act()
+        wait("the keyboard on “%s”" % name, lambda: any(heard.startswith(name) for heard in self._heard))
+
     def texts(self):
         """The texts of labels, and of labels that a screen reader announces."""
         return [node.name for role in ("label", "notification") for node in self.all(role) if node.name]
@@ -214,6 +233,11 @@ class Program:
         self.point_at(control, left)
         subprocess.run(["xdotool", "click", "1"], check=True)
 
+    def scroll_down(self, control):
+        """Turns the wheel with the mouse on the control until the end of what it is in."""
+        self.point_at(control)
+        subprocess.run(["xdotool", "click", "--repeat", "20", "--delay", "20", "5"], check=True)
+
     def tooltip(self, control, words):
         """Returns the tooltip of a control once it contains `words`. A visible tooltip is not updated, so the mouse moves away
         and returns."""
@@ -249,6 +273,13 @@ class Program:
             self.keys("Down")
             passed.append(wait("an entry of the menu", lambda: self._heard and self._heard[-1]))
         self.keys("Return")
+
+    def pixels(self, control, color):
+        """How many pixels of the control on the screen have the color."""
+        x, y, width, height = self.place(control)
+        shown = subprocess.run(["import", "-window", "root", "-crop", "%dx%d+%d+%d" % (width, height, x, y), "-depth", "8",
+                                "rgb:-"], check=True, stdout=subprocess.PIPE).stdout
+        return sum(shown[i:i + 3] == bytes(color) for i in range(0, len(shown), 3))
 
     def picture(self, path):
         """Keeps what the screen shows, once it shows the same for two looks."""

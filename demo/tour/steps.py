@@ -1,0 +1,53 @@
+# SPDX-FileCopyrightText: 2026 The kelmar-print authors
+# SPDX-License-Identifier: Apache-2.0
+"""The steps of the tour in their order, and what several of them do."""
+
+import sys
+
+from session import wait
+
+CUPS, DOCUMENT, PICTURES = sys.argv[1:4]
+STEPS = []  # (name, function, program): the program is opened before the step, or is None
+
+
+def step(name, program=None):
+    """Adds the function as a step. It gets the running program and returns a description of what it has seen.
+    `program` starts the program of this and the next steps in a session; the previous one is closed first."""
+    def add(function):
+        STEPS.append((name, function, program))
+        return function
+    return add
+
+
+def shows(d, label, value):
+    wait("“%s” in the box “%s”" % (value, label), lambda: d.box(label).name == value)
+
+
+def go_to(d, page):
+    d.click(d.get("list item", page))
+    wait("the page “%s”" % page, lambda: d.now("label", page))
+
+
+def find(d, name):
+    """Moves to a setting that may be outside the visible part of its page, and waits until the keyboard is on it."""
+    d.keys("ctrl+f")
+    d.focus_on("Find a setting")
+    d.type(name)
+    d.get("list", "Settings found")
+    d.keys("Return")
+    return d.focus_on(name)
+
+
+def is_on(d, name, on):
+    wait("%s to be %s" % (name, "on" if on else "off"), lambda: d.has(d.get("check box", name), "CHECKED") == on)
+
+
+def open_printers(d):
+    d.reach("Search printers", lambda: d.click(d.box("Printer:")))
+
+
+def choose_printer(d, name):
+    open_printers(d)
+    d.type(name)
+    d.keys("Return")
+    shows(d, "Printer:", name)
