@@ -277,7 +277,10 @@ void TestSnmpDevice::oddReplies_data()
     };
 
     // Packets that net-snmp drops, so that the valid response is used.
-    for (const qsizetype kept : {0, 1, 10, 30, 55})
+    row(
+        "without the last byte", [](SnmpReply &reply) { reply.instead = reply.encoded().chopped(1); }, true,
+        good);
+    for (const qsizetype kept : {0, 1, 10, 30})
         QTest::addRow("cut after %lld bytes", qlonglong(kept))
             << Alteration([kept](SnmpReply &reply) { reply.instead = reply.encoded().first(kept); }) << true
             << good;
