@@ -1,10 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Completion of kelmar-print for bash. Needs nothing of bash-completion. Names and choices come from the program itself and
-# from CUPS.
+# Completion of kelmar-print for bash. Does not require the package bash-completion. Names and choices come from the program
+# itself and from CUPS.
 
-# The words before the cursor, with those put together again that bash has split at "=" and ":".
+# Sets `words` to the words up to the cursor, and joins words again that bash has split at "=" and ":".
 _kelmar_print_split() {
     local i word
     words=()
@@ -18,7 +18,7 @@ _kelmar_print_split() {
     done
 }
 
-# Output of the program for the printer that the command line names.
+# The output of the program with this option, for the printer that is named on the command line.
 _kelmar_print_ask() { # OPTION
     local -a named=()
     local i
@@ -52,7 +52,7 @@ _kelmar_print_values() { # KEY
 }
 
 _kelmar_print_files() { # [PATTERN]: folders, and the files that match
-    compopt -o filenames -o default 2>/dev/null # readline's own where a name is quoted
+    compopt -o filenames -o default 2>/dev/null # readline completes quoted names itself
     mapfile -t COMPREPLY < <(compgen -d -- "$cur")
     local file
     while IFS= read -r file; do
@@ -117,7 +117,7 @@ _kelmar_print() {
         fi
         ;;
     esac
-    # A word that readline has split is completed from behind the last "=" or ":".
+    # If readline has split the word, it completes only the part after the last "=" or ":".
     local split=${COMP_WORDS[COMP_CWORD]}
     [[ $split != [=:] ]] || split=
     [[ $cur == "$split" ]] || COMPREPLY=("${COMPREPLY[@]#"${cur%"$split"}"}")

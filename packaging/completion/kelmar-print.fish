@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # Completion of kelmar-print for fish.
 
-# Output of the program for the printer that the command line names.
+# The output of the program with these options, for the printer that is named on the command line.
 function __kelmar_print_ask
     set -l words (commandline -opc)
     set -l named

@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Output of the program for the printer that the command line names.
+# The output of the program with this option, for the printer that is named on the command line.
 _kelmar_print_ask() { # OPTION
     local -a named
     local i
