@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Sourced by the tests, for scripts/lib/setup.sh and the computer's print server.
+# Sourced by the tests: the functions of scripts/lib/setup.sh, and access to the computer's print server.
 
 . scripts/lib/setup.sh
 
 cupsd_answers() { lpstat -h /run/cups/cups.sock -r 2>/dev/null | grep -q 'is running'; }
 
-# Starts it if no service manager has done so. end_cupsd stops only a server that was started here.
+# Starts the print server if it is not running. end_cupsd stops only a server that was started here.
 own_cupsd=
 need_cupsd() {
     ! cupsd_answers || return 0
