@@ -33,9 +33,8 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 # Where the platform library and the bundles are installed: the program searches this folder, next to its own.
 set(KELMAR_PRIVATE_DIR lib/kelmar-print)
 
-# The cost of a print dialog is loading its code, rather than running loops, so optimise for size. Flags set by the user or
-# a packager are kept.
-if(CMAKE_CXX_FLAGS_RELEASE STREQUAL "-O3 -DNDEBUG") # what CMake sets where nothing was given
+# Most of the cost of a print dialog is loading its code, so optimize for size. Flags set by the user or a packager are kept.
+if(CMAKE_CXX_FLAGS_RELEASE STREQUAL "-O3 -DNDEBUG") # CMake's default
   if(CMAKE_CXX_FLAGS MATCHES "(^| )-O")
     set(CMAKE_CXX_FLAGS_RELEASE "-DNDEBUG")
   else()
@@ -58,7 +57,7 @@ foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection -
   endif()
 endforeach()
 add_compile_options(-Wformat -Werror=format-security)
-if(NOT KELMAR_SANITIZE) # the sanitizers look at the same calls, and fortifying needs an optimised build
+if(NOT KELMAR_SANITIZE) # the sanitizers check the same calls, and fortification requires optimization
   include(CheckCXXSourceCompiles)
   set(CMAKE_REQUIRED_FLAGS -O2)
   check_cxx_source_compiles("#ifndef _FORTIFY_SOURCE\n#error\n#endif\nint main() {}" KELMAR_IS_FORTIFIED)
@@ -104,7 +103,7 @@ target_compile_definitions(
             KELMAR_OLDER_HOSTS=$<BOOL:$<TARGET_PROPERTY:KELMAR_OLDER_HOSTS>>)
 if(KELMAR_SANITIZE STREQUAL "thread")
   target_compile_options(kelmar_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer
-                                                  -Wno-tsan) # of fences in headers of Qt
+                                                  -Wno-tsan) # no warnings about fences in headers of Qt
   target_link_options(kelmar_options INTERFACE -fsanitize=thread)
 elseif(KELMAR_SANITIZE)
   target_compile_options(kelmar_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined

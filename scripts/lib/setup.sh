@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
-# Sourced by the scripts: the Debian packages that they need, the configure step, and what several of them do.
+# Sourced by the scripts: the Debian packages that they need, the configure step, and shared functions.
 
 build_packages=(
     g++ cmake ninja-build ccache pkg-config

@@ -129,7 +129,7 @@ facts=$(grep -E '^(Uid|Gid|Groups|CapEff|CapPrm|NoNewPrivs):' "/proc/$child/stat
 wanted=$(printf 'Uid: %s %s %s %s\nGid: %s %s %s %s\nGroups: %s \nCapPrm: 0000000000000000\nCapEff: 0000000000000000\nNoNewPrivs: 1' \
     $uid $uid $uid $uid $gid $gid $gid $gid $gid)
 [ "$facts" = "$wanted" ] || { echo "FAIL: while it waits it is: $facts" && failed=1; }
-wait $waiting || failed=1 # which it says in a process of its own
+wait $waiting || failed=1 # `expect` ran in a separate process
 
 # ---- nothing in the user's session blocks the queue for others
 within() { # SECONDS WHAT CODE TEXT COMMAND...
@@ -180,7 +180,7 @@ for text in '"title":"A letter"' '"copies":3' 'sides=two-sided-long-edge'; do
 done
 expect "in another's name" 1 "" as_user lp -U root -d kelmar "$document"
 queue_says() { lpstat -p kelmar | grep -qF -- "$1"; }
-held() { # WHAT TEXT JOBS: the last job waits, and both it and the queue say why
+held() { # WHAT TEXT JOBS: the last job is held, the queue shows the reason and is not stopped
     wait_until 10 queue_says "$2" || { echo "FAIL: $1: lpstat says $(lpstat -p kelmar)" && failed=1; }
     lpstat -p kelmar | grep -q disabled && echo "FAIL: $1: the queue has stopped" && failed=1
     [ "$(lpstat -o kelmar | wc -l)" -eq "$3" ] || { echo "FAIL: $1: the job is lost: $(lpstat -o)" && failed=1; }

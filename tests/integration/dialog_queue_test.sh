@@ -10,7 +10,7 @@ tree=$(cd "$(dirname "$0")/../.." && pwd)
 build=$1
 [ "$(id -u)" -eq 0 ] || { echo "SKIP   : needs root" && exit 77; }
 cupsd=$(PATH=$PATH:/usr/sbin command -v cupsd) || { echo "SKIP   : cupsd is not installed" && exit 77; }
-# Hides other servers and systemd, since the script sends signals to the scheduler.
+# Other servers and systemd are hidden, since the script sends signals to the scheduler.
 [ -n "${KELMAR_QUEUE_TEST:-}" ] ||
     KELMAR_QUEUE_TEST=1 exec unshare --mount --pid --fork --kill-child --mount-proc --propagation private "$0" "$build"
 

@@ -1,8 +1,8 @@
 #!/usr/bin/perl
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-# Stands in for a program that reads documents and tries what such a program must not do. Becomes the real program when
-# everything has been refused; else it names what was not, and ends with 9. hostile_program.h fills in the names.
+# Replaces a program that reads documents, and attempts what such a program must not do. Executes the real program if all
+# attempts were refused; otherwise prints the successful ones and exits with 9. hostile_program.cpp fills in the names.
 use strict;
 use POSIX ();
 use Socket;
@@ -40,7 +40,7 @@ attempt('display', connects("\0$home/X0"));
 attempt('network', socket(my $network, AF_INET, SOCK_STREAM, 0));
 attempt('session', starts_session());
 
-# Two that try to outlive it, and let go of what it writes to.
+# Two child processes that close the output and try to outlive the program.
 for my $own_session (0, 1) {
     next if fork;
     POSIX::setsid() if $own_session;
