@@ -19,19 +19,19 @@ namespace {
 
 std::atomic<int> worksUnderWay{0};
 
-// Connects work to the waiter of its caller. The waiter belongs to the caller's thread; the work only holds
+// Lets work wake the waiter of its caller. The waiter belongs to the caller's thread; the work only holds
 // this object, which does nothing after the scope has ended.
-class Bell
+class WakeHandle
 {
 public:
-    explicit Bell(Waiter *waiter) : m_waiter(waiter) {}
-    void ring()
+    explicit WakeHandle(Waiter *waiter) : m_waiter(waiter) {}
+    void wake()
     {
         const std::lock_guard lock(m_mutex);
         if (m_waiter)
             m_waiter->wake();
     }
-    void silence()
+    void detach()
     {
         const std::lock_guard lock(m_mutex);
         m_waiter = nullptr;
@@ -47,10 +47,10 @@ private:
 struct Waiter::Installed
 {
     explicit Installed(std::shared_ptr<Waiter> installed)
-        : waiter(std::move(installed)), bell(std::make_shared<Bell>(waiter.get()))
+        : waiter(std::move(installed)), wakeHandle(std::make_shared<WakeHandle>(waiter.get()))
     {
     }
-    ~Installed() { bell->silence(); }
+    ~Installed() { wakeHandle->detach(); }
     Installed(const Installed &) = delete;
     Installed &operator=(const Installed &) = delete;
     static std::shared_ptr<Installed> &current()
@@ -60,7 +60,7 @@ struct Waiter::Installed
     }
 
     const std::shared_ptr<Waiter> waiter;
-    const std::shared_ptr<Bell> bell;
+    const std::shared_ptr<WakeHandle> wakeHandle;
 };
 
 namespace {
@@ -132,9 +132,9 @@ bool Background::call(std::function<void()> work)
     if (installed->waiter->isGivenUp())
         return false;
     auto state = std::make_shared<CallState>();
-    runDetached(keepingException(state, std::move(work)), [state, bell = installed->bell] {
+    runDetached(keepingException(state, std::move(work)), [state, wakeHandle = installed->wakeHandle] {
         state->ended = true;
-        bell->ring();
+        wakeHandle->wake();
     });
     if (!installed->waiter->wait([state] { return state->ended.load(); }))
         return false;
@@ -173,18 +173,18 @@ bool Background::isGivenUp()
 
 void Background::start(std::function<void()> work, QObject *receiver, std::function<void()> done)
 {
-    // Carries the end of the work to this thread, which alone can tell whether the receiver still exists. It
-    // is deleted only after its delivery: deleteLater() before that could delete it before the delivery
-    // arrives, and an object owned by an event must not post an event when it is dropped at the end of the
-    // program.
-    auto *courier = new QObject;
-    auto deliver = [courier, receiver = QPointer<QObject>(receiver), done = std::move(done)] {
-        courier->deleteLater();
+    // The target of the event that reports the end of the work to this thread, on which alone it is known
+    // whether the receiver still exists. Deleted only by that event: an earlier deleteLater() could delete it
+    // before the event arrives, and an object owned by an event must not post an event when the event is
+    // dropped at the end of the program.
+    auto *target = new QObject;
+    auto deliver = [target, receiver = QPointer<QObject>(receiver), done = std::move(done)] {
+        target->deleteLater();
         if (receiver)
             done();
     };
-    runDetached(std::move(work), [courier, deliver = std::move(deliver)] {
-        QMetaObject::invokeMethod(courier, deliver, Qt::QueuedConnection);
+    runDetached(std::move(work), [target, deliver = std::move(deliver)] {
+        QMetaObject::invokeMethod(target, deliver, Qt::QueuedConnection);
     });
 }
 

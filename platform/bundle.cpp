@@ -102,12 +102,12 @@ QStringList foldersAbove(const QString &path)
     return folders;
 }
 
-// A file in a bundle, or a folder above it, that users other than root and the current user could have
-// written; null if there is none.
-QString foreignHandIn(const QString &folder)
+// Why the code of a bundle is not trusted: a file in it, or a folder above it, that users other than root and
+// the current user could have written. Null if there is none.
+QString trustProblem(const QString &folder)
 {
-    const QStringList holders = foldersAbove(folder) + foldersAbove(QFileInfo(folder).canonicalFilePath());
-    QStringList paths = holders + QStringList(folder);
+    const QStringList parents = foldersAbove(folder) + foldersAbove(QFileInfo(folder).canonicalFilePath());
+    QStringList paths = parents + QStringList(folder);
     QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext())
@@ -116,7 +116,7 @@ QString foreignHandIn(const QString &folder)
         struct stat status = {};
         if (stat(QFile::encodeName(path).constData(), &status) != 0)
             return QStringLiteral("%1: %2").arg(path, qt_error_string(errno));
-        const bool isSticky = holders.contains(path) && (status.st_mode & S_ISVTX) != 0;
+        const bool isSticky = parents.contains(path) && (status.st_mode & S_ISVTX) != 0;
         if (!isSticky && (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
             return QStringLiteral("%1: other users may write to it").arg(path);
         if (status.st_uid != 0 && status.st_uid != geteuid())
@@ -198,7 +198,7 @@ std::shared_ptr<Bundle> Bundle::open(const QString &folder, const QLocale &local
         return nullptr;
     }
     const QString absolute = QFileInfo(folder).absoluteFilePath();
-    if (const QString problem = foreignHandIn(absolute); !problem.isNull()) {
+    if (const QString problem = trustProblem(absolute); !problem.isNull()) {
         *message = problem;
         return nullptr;
     }

@@ -73,8 +73,8 @@ inline bool waitForInput(int source, const Patience *patience, std::chrono::stea
 
 // Copies all of `source`, from the beginning if it is seekable, into a new file in `folder` that is unlinked
 // immediately: no link is followed, no other process can open the file, and it is freed with its last
-// descriptor. Blocks as long as the source does if `patience` is null. None with errno if there are more than
-// `limit` bytes (EFBIG), patience is exceeded (ETIMEDOUT), or reading or writing fails.
+// descriptor. Blocks as long as the source does if `patience` is null. Returns no descriptor, with errno, if
+// there are more than `limit` bytes (EFBIG), patience is exceeded (ETIMEDOUT), or reading or writing fails.
 inline UniqueFd privateCopy(int source, const std::string &folder, off_t limit,
                             const Patience *patience = nullptr)
 {

@@ -68,8 +68,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // Commits a pending edit anywhere in the window of `view`; if the edited field has the focus, it gives it
-    // up. Other widgets keep the focus. `view` may be null.
+    // Commits pending edits in the window of `view`, which may be null. If an edited field has the focus, the
+    // focus is cleared when the field has been committed; other widgets keep it.
     static void resignFirstResponder(QWidget *view);
 
 Q_SIGNALS:
