@@ -19,12 +19,12 @@ class PpdRules;
 class PpdEvaluation
 {
 public:
-    // libcups evaluates no constraint: for marking choices. The `conflicted` flags of the record are false
+    // For marking choices: libcups evaluates no constraint. The `conflicted` flags of the record are false
     // until libcups evaluates the constraints again.
     explicit PpdEvaluation(ppd_file_s *ppd);
-    // libcups evaluates only the constraints that cupsResolveConflicts() needs for the marks to which `rules`
-    // was refreshed; its result is that for all constraints. There is no limit for a PPD with
-    // cupsUIConstraints, whose resolvers may change any option.
+    // For resolving conflicts among the marks that `rules` has read: libcups evaluates only the constraints
+    // that can affect cupsResolveConflicts(), whose result is the same as with all of them. Has no effect on
+    // a PPD with cupsUIConstraints, whose resolvers may change any option.
     PpdEvaluation(ppd_file_s *ppd, const PpdRules &rules);
     ~PpdEvaluation();
     PpdEvaluation(const PpdEvaluation &) = delete;

@@ -47,8 +47,8 @@ public:
     static QString ipFromPrintSession(PMPrintSession session);
     static QString resolveToIP(const QString &host);
 
-    // The address or QVDoesntResolve if stored less than 120 seconds ago, else null. Takes no lock; nor does
-    // the next function.
+    // The address or QVDoesntResolve if stored less than 120 seconds ago, else null. Neither this function
+    // nor the next one takes a lock.
     static QString checkCacheForHost(const QString &host);
     // A null address is stored as QVDoesntResolve; a null host is ignored.
     static void addToCacheForHost(const QString &address, const QString &host);

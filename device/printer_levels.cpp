@@ -13,8 +13,8 @@
 namespace {
 
 constexpr quint32 mostRows = 40;
-constexpr qint64 aboutATimeOut = 2500; // milliseconds; a request takes less, or three seconds
-constexpr int receptacle = 4;          // of "prtMarkerSuppliesClass": waste, which is filled by printing
+constexpr qint64 noResponseTime = 2500; // milliseconds; a request that takes longer has timed out
+constexpr int receptacle = 4;           // a value of "prtMarkerSuppliesClass": a waste container
 
 // Columns of "prtMarkerSuppliesEntry" and "prtInputEntry".
 enum class Supplies : SnmpOid { Class = 4, Description = 6, Capacity = 8, Level = 9 };
@@ -82,7 +82,7 @@ QList<PrinterLevel> printerLevels(QVSNMP_M880 *client)
     QElapsedTimer timer;
     timer.start();
     const auto supplies = levelsOf(client, Supplies::Level);
-    if (supplies.isEmpty() && timer.hasExpired(aboutATimeOut))
+    if (supplies.isEmpty() && timer.hasExpired(noResponseTime))
         return {};
     client->determineDefaultCharsetForPrinter();
     QList<PrinterLevel> levels;

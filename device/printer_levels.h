@@ -15,8 +15,8 @@ struct PrinterLevel
     enum class Kind { Supply, Tray };
     Kind kind = Kind::Supply;
     QString name;      // "prtMarkerSuppliesDescription" or "prtInputName"
-    qint64 level = -2; // negative if the printer does not know it
-    qint64 most = -2;  // the level of a full one, in the same unit; negative likewise
+    qint64 level = -2; // negative if unknown
+    qint64 most = -2;  // the level when full, in the same unit; negative if unknown
     QString media;     // "prtInputMediaName" of a tray; null if the printer does not report it
 
     // The kind, the name, both levels and the media, separated by tabs; without control characters.

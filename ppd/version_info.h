@@ -25,8 +25,8 @@ public:
     // "v1.01.0"
     QString description() const;
 
-    // -1, 0 or +1 if this version is older than, the same as or newer than the string, which must be a valid
-    // version.
+    // -1, 0 or +1 if this version is older than, equal to or newer than the argument. A string must be a
+    // valid version.
     int compare(const QVVersionInfo_M880 &other) const;
     int compare(const QString &string) const;
 
