@@ -133,20 +133,20 @@ platform::UniqueFd openJob(const char *path, const backend::Caller &caller)
     return copy && ::fchown(copy.get(), caller.uid, caller.gid) == 0 ? std::move(copy) : platform::UniqueFd();
 }
 
-struct Words // arguments of the job from cupsd
+struct JobArguments // from cupsd
 {
     const char *title, *copies, *options;
 };
 
 // Runs the second process, which is the user's from the beginning. Returns its exit code.
-int deliver(const backend::Caller &caller, const platform::UniqueFd &document, const Words &words,
+int deliver(const backend::Caller &caller, const platform::UniqueFd &document, const JobArguments &arguments,
             std::chrono::seconds wait, pid_t parent)
 {
     if (!backend::become(caller) || ::prctl(PR_SET_PDEATHSIG, SIGKILL) != 0 || ::getppid() != parent)
         return hold("The backend cannot act for the user of the job.");
-    const backend::Handover handover{document.get(), std::string(words.title).substr(0, longestText),
-                                     numberIn(words.copies, 1, 9999, 1),
-                                     std::string(words.options).substr(0, longestText)};
+    const backend::Handover handover{document.get(), std::string(arguments.title).substr(0, longestText),
+                                     numberIn(arguments.copies, 1, 9999, 1),
+                                     std::string(arguments.options).substr(0, longestText)};
     std::string error;
     switch (backend::handOver(caller.uid, handover, connecting, wait, &error)) {
     case backend::Delivery::Taken:
@@ -180,7 +180,7 @@ Ending outcomeOf(pid_t process, std::chrono::seconds longest, const SilenceRecor
     return hold("The dialog did not open: the user's desktop session did not answer.");
 }
 
-Ending run(const Words &words, const char *path)
+Ending run(const JobArguments &arguments, const char *path)
 {
     const std::chrono::seconds wait = patience();
     std::string error;
@@ -199,7 +199,7 @@ Ending run(const Words &words, const char *path)
     const pid_t self = ::getpid();
     const pid_t process = ::fork();
     if (process == 0)
-        ::_exit(deliver(*caller, job, words, wait, self));
+        ::_exit(deliver(*caller, job, arguments, wait, self));
     return process < 0 ? hold("The backend cannot act for the user of the job.")
                        : outcomeOf(process, connecting + wait + grace, silence);
 }

@@ -56,14 +56,14 @@ struct Destination
     QString deviceUri;
     QString printerUri; // the URI of the queue on the print server
     bool isDefault = false;
-    bool isStateKnown = false; // whether the next four fields come from the print server
+    bool isStateKnown = false; // whether `accepting` and `stopped` come from the print server
     bool accepting = true;
     bool stopped = false;
     QString problem;         // localised problem reported by the printer; empty if there is none
     QStringList coverSheets; // values of "job-sheets" that the server offers; empty if unknown
     QList<Supply> supplies;  // reported by the printer, without waste containers
     DeviceReport report;     // of the printer itself
-    int passwordLength = 0;  // the most characters of "job-password"; 0 if jobs cannot have a password
+    int passwordLength = 0;  // the maximum for "job-password", in characters; 0 if jobs cannot have one
     QStringList passwordEncryptions; // values of "job-password-encryption" that are accepted
     bool takesAccountId = false;     // "job-account-id"
     bool takesAccountUser = false;   // "job-accounting-user-id"

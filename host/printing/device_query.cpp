@@ -62,7 +62,7 @@ LoadedTray trayOf(ipp_t *media)
     return tray;
 }
 
-// Sizes by name are all that some printers report.
+// Some printers report loaded sizes only by name.
 QList<LoadedTray> traysOf(ipp_t *answer)
 {
     QList<LoadedTray> trays;
@@ -151,7 +151,8 @@ std::optional<DeviceReport> queryWithIpp(const Destination &printer)
     return DeviceReport{suppliesOf(answer), paperOf(answer), traysOf(answer), QDateTime::currentDateTime()};
 }
 
-// In the folder that is next to the program's, as in the build tree.
+// The folder of programs that only other programs start is next to that of this program, also in a build
+// tree.
 QString levelsProgram()
 {
     return QCoreApplication::applicationDirPath() +

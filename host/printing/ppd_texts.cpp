@@ -24,16 +24,16 @@ struct PpdTexts
     Q_DECLARE_TR_FUNCTIONS(PpdTexts)
 };
 
-// The words for a keyword of the PPDs that CUPS generates: for the option itself if `choice` is null, and for
+// The text for a keyword of the PPDs that CUPS generates: for the option itself if `choice` is null, and for
 // a choice of every option if `option` is null.
-struct Words
+struct KeywordText
 {
     const char *option;
     const char *choice;
     const char *text;
 };
 
-constexpr Words generatedWords[] = {
+constexpr KeywordText keywordTexts[] = {
     {"Duplex", nullptr, QT_TRANSLATE_NOOP("PpdTexts", "Two-Sided Printing")},
     {"Duplex", "None", QT_TRANSLATE_NOOP("PpdTexts", "Off")},
     {"Duplex", "DuplexNoTumble", QT_TRANSLATE_NOOP("PpdTexts", "Long Edge")},
@@ -83,10 +83,10 @@ QString separatedWords(const QString &keyword)
 // `choice` is null for the option itself; `text` is what the PPD has.
 QString generatedText(const char *option, const char *choice, const char *text)
 {
-    for (const Words &words : generatedWords) {
-        const bool isOption = !words.option || qstrcmp(words.option, option) == 0;
-        if (isOption && qstrcmp(words.choice, choice) == 0)
-            return PpdTexts::tr(words.text);
+    for (const KeywordText &known : keywordTexts) {
+        const bool isOption = !known.option || qstrcmp(known.option, option) == 0;
+        if (isOption && qstrcmp(known.choice, choice) == 0)
+            return PpdTexts::tr(known.text);
     }
     const QString own = QString::fromUtf8(text);
     return qstrcmp(text, choice ? choice : option) == 0 ? separatedWords(own) : own;
