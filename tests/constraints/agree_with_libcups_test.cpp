@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int defaultPpds = 60; // of each form; KELMAR_CONSTRAINT_PPDS asks for more
+constexpr int defaultPpds = 60; // of each form; KELMAR_CONSTRAINT_PPDS sets a larger number
 constexpr int walkLength = 40;
 
 // Generates random PPDs with constraints of every form.

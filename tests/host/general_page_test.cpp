@@ -173,7 +173,7 @@ void GeneralPageTest::wheelNeedsTheFocus_data()
         QTest::newRow(qPrintable(name)) << name;
 }
 
-// It scrolls the page instead.
+// A field without the focus ignores the wheel, and the page scrolls instead.
 void GeneralPageTest::wheelNeedsTheFocus()
 {
     QFETCH(const QString, name);
@@ -207,7 +207,7 @@ void GeneralPageTest::layoutIsUndone()
     QTRY_VERIFY(!find<ChangeMark>());
 }
 
-// With two-sided printing that suits it, and only together with what makes sense.
+// A booklet selects two-sided printing on the short edge, and disables settings that have no effect on it.
 void GeneralPageTest::bookletIsFolded()
 {
     for (QByteArray &ppd : m_system.ppds) {
@@ -225,8 +225,8 @@ void GeneralPageTest::bookletIsFolded()
     QVERIFY(!find<QCheckBox>(u"mirror"_s)); // the PPD has its own option for that
     booklet->click();
     QCOMPARE(sides->currentData().toString(), u"DuplexTumble"_s);
-    settle();                                                        // a step of undo is made then
-    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier); // takes back both settings at once
+    settle();                                                        // creates an undo step
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier); // undoes both settings at once
     QTRY_VERIFY(!booklet->isChecked());
     QCOMPARE(sides->currentData().toString(), u"DuplexNoTumble"_s);
     booklet->click();

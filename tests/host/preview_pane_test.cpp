@@ -163,7 +163,7 @@ void PreviewPaneTest::pageIsEnlarged()
     QVERIFY(sheet->pixels() > Preview::pagePixels);
     QTRY_VERIFY(renderedPixels() >= sheet->pixels());
     QScrollBar *across = sheet->horizontalScrollBar(), *down = sheet->verticalScrollBar();
-    // The middle stays, but for the room of the scroll bars that appear.
+    // The middle stays in place, except for the space of the scroll bars that appear.
     QVERIFY(across->maximum() > 0 && qAbs(down->value() - down->maximum() / 2) < sheet->pixels() / 20);
     sheet->setFocus();
     const int before = down->value();
@@ -186,7 +186,7 @@ void PreviewPaneTest::pageIsEnlarged()
     QVERIFY(across->maximum() == 0 && down->maximum() == 0);
 }
 
-// The page that is known stays available, and remains if it cannot be rendered larger.
+// The known image of a page stays available meanwhile, and remains if the page cannot be rendered larger.
 void PreviewPaneTest::rendersLarger()
 {
     fakeAll();

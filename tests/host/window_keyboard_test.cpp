@@ -262,7 +262,7 @@ void WindowKeyboardTest::actionOfTheResultLeavesTheFocusToClose_data()
     QTest::newRow("keyboard") << false;
 }
 
-// Also if the button has gone meanwhile: a held job has been released.
+// Also if the button is hidden meanwhile, because the held job was released.
 void WindowKeyboardTest::actionOfTheResultLeavesTheFocusToClose()
 {
     QFETCH(bool, byMouse);

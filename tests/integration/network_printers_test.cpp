@@ -28,7 +28,7 @@ constexpr qint64 longestGap = 1500; // milliseconds
 constexpr qint64 longestGap = 100;
 #endif
 
-// What driverless_printer.conf says of itself, as the window shows it.
+// The options of the printer in driverless_printer.conf, as shown in the window.
 struct Offer
 {
     const char *option;
@@ -113,7 +113,7 @@ void NetworkPrintersTest::chooseOffered(PrintWindow *window)
         QTest::keyClicks(box, QLatin1String(offer.typed));
         QCOMPARE(box->currentData().toString(), QLatin1String(offer.sent));
         QCOMPARE(window->session()->ppd()->markedChoice(option), QLatin1String(offer.sent));
-        QCoreApplication::processEvents(); // the time for each action counts by itself
+        QCoreApplication::processEvents(); // measures each action separately
     }
 }
 
@@ -183,7 +183,7 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
     QVERIFY2(heart.longestGap() < longestGap, qPrintable(QString::number(heart.longestGap())));
 }
 
-// The print server has nothing about such a printer.
+// The print server reports no levels of such a printer.
 void NetworkPrintersTest::levelsAreReadWithSnmp()
 {
     const SimulatedPrinter device("127.0.0.3", "[objects]\n"

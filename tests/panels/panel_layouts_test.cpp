@@ -242,7 +242,7 @@ void PanelLayoutsTest::textsAgreeWithThePpd_data()
 }
 
 // The host shows the PPD's texts, the panels those of the string tables; they must be consistent for the
-// user. A panel may leave out what the heading above its control says, such as "Balance".
+// user. A panel may omit a word of the heading above the control, such as "Balance".
 void PanelLayoutsTest::textsAgreeWithThePpd()
 {
     QFETCH(const QByteArray, ppd);
