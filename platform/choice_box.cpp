@@ -30,7 +30,7 @@ QSize sizeForLength(const QComboBox &box, const QStyleOptionComboBox &option, co
 
 void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option)
 {
-    constexpr int inset = 1; // beside the text on either side, in pixels; and the gap, as in styles
+    constexpr int inset = 1; // pixels on each side of the text, as in styles
     constexpr int iconGap = 4;
     const QRect place =
         box.style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, &box);

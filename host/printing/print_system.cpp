@@ -145,7 +145,7 @@ PrintSystem::~PrintSystem() = default;
 class CupsPrintSystem::Visit
 {
 public:
-    // A user who has declined to log in is prompted again after own actions, but not for periodic requests.
+    // After the user has declined to log in, requests of the user prompt again, but periodic ones do not.
     enum class Cause { User, Clock };
     explicit Visit(CupsPrintSystem *system, Cause cause = Cause::User) : m_system(system)
     {

@@ -48,7 +48,7 @@ bool isIppStatus(int status)
     return kind == 0 || kind == 4 || kind == 5;
 }
 
-// The server's message, if it says more than the status.
+// The server's message; the text of the status if there is none, or if it only reports success.
 QString detailOf(ipp_t *answer, int status)
 {
     ipp_attribute_t *message = answer ? ippFindAttribute(answer, "status-message", IPP_TAG_TEXT) : nullptr;

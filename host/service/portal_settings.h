@@ -33,7 +33,7 @@ struct StartingSettings
     QString printer; // empty if none is requested
     int copies = 1;
     std::optional<bool> collate;
-    bool currentPage = false; // only this page, if the application knows it
+    bool currentPage = false; // only this page, if the application has one
     bool selection = false;
     QString pages; // as typed by a user, counted from 1; empty for all
     // PPD keyword or standard name, such as "media", and choice; later ones take precedence
