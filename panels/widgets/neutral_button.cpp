@@ -20,7 +20,7 @@ const bool neutralButtonIsRegistered = [] {
 
 // Two arrows that meet at a centre line, in a square of 16 units. Differs from the arrow that undoes a
 // change.
-QPainterPath toTheMiddle()
+QPainterPath arrowsToMiddle()
 {
     QPainterPath path(QPointF(8, 3));
     path.lineTo(8, 13);
@@ -80,5 +80,5 @@ void QVNeutralButton_M880::paintEvent(QPaintEvent *)
     painter.scale(scale, scale);
     painter.translate(-8, -8);
     painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(toTheMiddle());
+    painter.drawPath(arrowsToMiddle());
 }

@@ -39,7 +39,7 @@ void SessionMessages::clear()
     m_notices.clear();
     m_loaded = {};
     m_closedMedia.clear();
-    m_toldGap.clear();
+    m_reportedGap.clear();
 }
 
 void SessionMessages::setLoaded(const QList<LoadedTray> &trays)
@@ -81,7 +81,7 @@ bool SessionMessages::check()
     tellMissingMedia();
     if (!missingCode(*m_session))
         m_messages->withdraw(Subject::Code);
-    return askAboutConflicts(m_purpose) || tellGap();
+    return askAboutConflicts(m_purpose) || reportGap();
 }
 
 bool SessionMessages::checkToPrint()
@@ -94,7 +94,7 @@ bool SessionMessages::checkToPrint()
         m_messages->takeFocus();
         return true;
     }
-    return isCodeToBeSeenTo();
+    return askAboutProtection();
 }
 
 bool SessionMessages::askAboutConflicts(Purpose purpose)
@@ -121,7 +121,7 @@ void SessionMessages::answerConflicts(const ConflictQuestion &question, int answ
         check();
         return;
     case ConflictQuestion::Answer::PrintAnyway:
-        if (!isCodeToBeSeenTo())
+        if (!askAboutProtection())
             Q_EMIT printWanted();
         return;
     case ConflictQuestion::Answer::Keep:
@@ -129,11 +129,12 @@ void SessionMessages::answerConflicts(const ConflictQuestion &question, int answ
     }
 }
 
-bool SessionMessages::isCodeToBeSeenTo()
+// Asks for a missing code, else reports a gap in the protection. True if the user has to respond first.
+bool SessionMessages::askAboutProtection()
 {
     if (askForCode())
         return true;
-    if (!tellGap())
+    if (!reportGap())
         return false;
     m_messages->takeFocus();
     return true;
@@ -163,10 +164,10 @@ bool SessionMessages::askForCode()
 }
 
 // Reports each gap once; true if it was reported now.
-bool SessionMessages::tellGap()
+bool SessionMessages::reportGap()
 {
     const QString gap = protectionGap(*m_session);
-    if (std::exchange(m_toldGap, gap) == gap || gap.isNull())
+    if (std::exchange(m_reportedGap, gap) == gap || gap.isNull())
         return false;
     m_session->addNotice(gap);
     showNotices();

@@ -63,9 +63,9 @@ Q_SIGNALS:
 private:
     bool askAboutConflicts(ConflictQuestion::Purpose purpose);
     void answerConflicts(const ConflictQuestion &question, int answer);
-    bool isCodeToBeSeenTo();
+    bool askAboutProtection();
     bool askForCode();
-    bool tellGap();
+    bool reportGap();
     void tellMissingMedia();
     void recheck();
     bool isAsking() const;
@@ -80,7 +80,7 @@ private:
     QStringList m_notices; // not closed by the user yet
     LoadedMedia m_loaded;
     QStringList m_closedMedia; // the last message about missing media that the user has closed
-    QString m_toldGap;         // the last gap that was reported
+    QString m_reportedGap;     // the last gap that was reported
     bool m_isCheckQueued = false;
     bool m_isCheckDue = false; // when it is no longer held up
 };
