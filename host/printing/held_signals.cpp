@@ -18,7 +18,7 @@ static_assert(std::atomic<int>::is_always_lock_free);
 int scopes = 0;
 std::array<struct sigaction, held.size()> before;
 
-void note(int signal)
+void recordSignal(int signal)
 {
     pending = signal;
 }
@@ -31,7 +31,7 @@ HeldSignals::HeldSignals()
         return;
     pending = 0;
     struct sigaction action = {};
-    action.sa_handler = note;
+    action.sa_handler = recordSignal;
     action.sa_flags = SA_RESETHAND; // without restart, so that reading from a terminal ends
     for (size_t i = 0; i < held.size(); ++i) {
         sigaction(held[i], nullptr, &before[i]);

@@ -187,7 +187,7 @@ bool ServerConnection::connect()
     if (!m_http)
         return false;
     const auto moves = [](http_t *, void *self) {
-        return static_cast<ServerConnection *>(self)->goesOn() ? 1 : 0;
+        return static_cast<ServerConnection *>(self)->mayContinue() ? 1 : 0;
     };
     httpSetTimeout(m_http.get(), betweenLooks / 1000.0, moves, this);
     if (!open()) {
@@ -206,7 +206,7 @@ bool ServerConnection::open()
 {
     const QDeadlineTimer deadline(m_login->patience.connectTime);
     m_idle.start();
-    while (goesOn() && !deadline.hasExpired()) {
+    while (mayContinue() && !deadline.hasExpired()) {
         const int time = static_cast<int>(std::min<qint64>(betweenLooks, deadline.remainingTime()));
         const QDeadlineTimer end(time);
         if (httpReconnect2(m_http.get(), time, nullptr) == 0) {
@@ -238,7 +238,7 @@ void ServerConnection::keepLogin()
         m_login->accepted = login.mid(prefix.size());
 }
 
-bool ServerConnection::goesOn()
+bool ServerConnection::mayContinue()
 {
     return !isSilent() && !isStopped();
 }
@@ -367,7 +367,7 @@ void ServerConnection::readAnswer(ipp_t *request, const QByteArray &resource, Re
 {
     do
         reply->httpStatus = statusOf(httpUpdate(m_http.get()));
-    while (reply->httpStatus == HTTP_STATUS_CONTINUE && goesOn());
+    while (reply->httpStatus == HTTP_STATUS_CONTINUE && mayContinue());
     if (reply->httpStatus == HTTP_STATUS_OK) {
         reply->message = readMessage();
         reply->wasGarbled = !reply->message;
@@ -403,7 +403,7 @@ IppPointer ServerConnection::readMessage()
         auto *from = static_cast<Source *>(context);
         from->left -= static_cast<qint64>(size);
         size_t done = 0;
-        while (done < size && from->left >= 0 && from->server->goesOn()) {
+        while (done < size && from->left >= 0 && from->server->mayContinue()) {
             const ssize_t count =
                 httpRead2(from->server->m_http.get(), reinterpret_cast<char *>(buffer) + done, size - done);
             if (count <= 0)
@@ -439,7 +439,7 @@ http_status_t ServerConnection::requestFile(const QByteArray &resource)
         if (httpGet(m_http.get(), resource.constData()) != 0)
             return HTTP_STATUS_ERROR;
         http_status_t status = HTTP_STATUS_CONTINUE;
-        while (status == HTTP_STATUS_CONTINUE && goesOn())
+        while (status == HTTP_STATUS_CONTINUE && mayContinue())
             status = statusOf(httpUpdate(m_http.get()));
         if (status != HTTP_STATUS_UNAUTHORIZED)
             return status;

@@ -98,7 +98,7 @@ private:
     http_status_t requestFile(const QByteArray &resource);
     const char *nextPassword();
     void keepLogin();
-    bool goesOn();
+    bool mayContinue();
     bool isStopped() const { return m_stop && m_stop(); }
     bool isSilent() const
     {

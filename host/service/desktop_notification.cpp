@@ -15,7 +15,7 @@ namespace host {
 namespace {
 
 constexpr int patience = 5'000;     // milliseconds
-constexpr int desktopsOwnTime = -1; // the duration is chosen by the desktop
+constexpr int defaultDuration = -1; // chosen by the desktop
 constexpr uint newNotification = 0;
 enum Urgency : uchar { Normal = 1, Critical = 2 };
 
@@ -44,7 +44,7 @@ bool showDesktopNotification(const QDBusConnection &bus, const QByteArray &notic
          object[QLatin1String("title")].toString(), text, QStringList(),
          QVariantMap{{QStringLiteral("desktop-entry"), QStringLiteral("org.kelmar.Print")},
                      {QStringLiteral("urgency"), QVariant::fromValue<uchar>(isUrgent ? Critical : Normal)}},
-         desktopsOwnTime});
+         defaultDuration});
     return bus.call(call, QDBus::Block, patience).type() == QDBusMessage::ReplyMessage;
 }
 

@@ -35,7 +35,7 @@ QString dialogProgram()
 
 // Releases the pages of one library that were read during start-up and are neither code nor data, mainly
 // symbols and relocations. They are mapped from the file and are read again when needed.
-int forgetConstants(dl_phdr_info *library, size_t, void *)
+int releaseConstants(dl_phdr_info *library, size_t, void *)
 {
     const auto pageSize = static_cast<ElfW(Addr)>(::sysconf(_SC_PAGESIZE));
     for (const ElfW(Phdr) & part : std::span(library->dlpi_phdr, library->dlpi_phnum)) {
@@ -99,6 +99,6 @@ int main(int argc, char **argv)
         return 1;
     // The service runs as long as the user's session. Pages that were only used during start-up are a third
     // of its memory.
-    ::dl_iterate_phdr(forgetConstants, nullptr);
+    ::dl_iterate_phdr(releaseConstants, nullptr);
     return QCoreApplication::exec();
 }

@@ -22,16 +22,16 @@ constexpr int afterAllPages = 999'999; // the end of open ranges
 
 const QString optionPrefix = QStringLiteral("cups-");
 
-struct NameOfBoth
+struct NamePair
 {
     const char *portal;
     const char *print; // PPD keyword or standard name
 };
-constexpr std::array<NameOfBoth, 3> sameValues = {
+constexpr std::array<NamePair, 3> sameValues = {
     {{"media-type", "MediaType"}, {"default-source", "InputSlot"}, {"output-bin", "OutputBin"}}};
-constexpr std::array<NameOfBoth, 3> sides = {
+constexpr std::array<NamePair, 3> sides = {
     {{"simplex", "one-sided"}, {"horizontal", "two-sided-long-edge"}, {"vertical", "two-sided-short-edge"}}};
-constexpr std::array<NameOfBoth, 3> duplexChoices = {
+constexpr std::array<NamePair, 3> duplexChoices = {
     {{"simplex", "None"}, {"horizontal", "DuplexNoTumble"}, {"vertical", "DuplexTumble"}}};
 
 QString textOf(const QJsonObject &object, const char *name)
@@ -144,12 +144,12 @@ StartingSettings startingSettings(const QJsonObject &settings, const QJsonObject
     start.currentPage = textOf(settings, "print-pages") == QLatin1String("current");
     start.selection = textOf(settings, "print-pages") == QLatin1String("selection");
     addPaper(pageSetup, &start.choices);
-    for (const NameOfBoth &name : sameValues) {
+    for (const NamePair &name : sameValues) {
         if (const QString value = textOf(settings, name.portal); !value.isEmpty())
             start.choices.append({QLatin1String(name.print), value});
     }
     const QString duplex = textOf(settings, "duplex");
-    for (const NameOfBoth &side : sides) {
+    for (const NamePair &side : sides) {
         if (duplex == QLatin1String(side.portal))
             start.choices.append({QStringLiteral("sides"), QLatin1String(side.print)});
     }
@@ -187,11 +187,11 @@ QJsonObject settingsForApplication(const QJsonObject &sent, const ApplicationCho
         settings.insert(QStringLiteral("page-ranges"), ranges);
     for (const auto &[keyword, value] : choice.choices) {
         settings.insert(optionPrefix + keyword, value);
-        for (const NameOfBoth &name : sameValues) {
+        for (const NamePair &name : sameValues) {
             if (keyword == QLatin1String(name.print))
                 settings.insert(QLatin1String(name.portal), value);
         }
-        for (const NameOfBoth &name : duplexChoices) {
+        for (const NamePair &name : duplexChoices) {
             if (keyword == QLatin1String("Duplex") && value == QLatin1String(name.print))
                 settings.insert(QStringLiteral("duplex"), QLatin1String(name.portal));
         }
