@@ -3,6 +3,8 @@
 
 #include "platform/choice_box.h"
 
+#include "platform/wheel_guard.h"
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
@@ -10,7 +12,6 @@
 #include <QStyleOptionComboBox>
 #include <QTextDocument>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -43,7 +44,7 @@ void elideCurrentText(const QComboBox &box, QStyleOptionComboBox *option)
 
 ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
+    guardFromWheel(this);
 }
 
 ChoiceBox::~ChoiceBox() = default;
@@ -78,14 +79,6 @@ void ChoiceBox::initStyleOption(QStyleOptionComboBox *option) const
 {
     QComboBox::initStyleOption(option);
     elideCurrentText(*this, option);
-}
-
-void ChoiceBox::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
 }
 
 bool ChoiceBox::eventFilter(QObject *watched, QEvent *event)

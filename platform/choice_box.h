@@ -53,8 +53,6 @@ Q_SIGNALS:
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
-    // Only a box with the focus reacts to the wheel. Otherwise the wheel scrolls the surrounding area.
-    void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

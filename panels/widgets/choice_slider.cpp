@@ -4,6 +4,7 @@
 #include "panels/widgets/choice_slider.h"
 
 #include "platform/layout_loader.h"
+#include "platform/wheel_guard.h"
 #include "ppd/ppd_model.h"
 
 #include <QPainter>
@@ -29,7 +30,7 @@ constexpr qreal railHeight = 4; // px
 
 QVChoiceSlider_M880::QVChoiceSlider_M880(QWidget *parent) : QSlider(Qt::Horizontal, parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
+    platform::guardFromWheel(this);
     connect(this, &QAbstractSlider::actionTriggered, this, &QVChoiceSlider_M880::adjustAction);
     // Without tracking, the value does not follow a held thumb; but readers of the position must find a
     // choice.
@@ -179,10 +180,6 @@ std::optional<int> QVChoiceSlider_M880::positionTowards(int wanted) const
 
 void QVChoiceSlider_M880::wheelEvent(QWheelEvent *event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
     // By default Qt moves as many steps per notch as lines are scrolled.
     m_turned += event->angleDelta().y();
     for (; std::abs(m_turned) >= QWheelEvent::DefaultDeltasPerStep;

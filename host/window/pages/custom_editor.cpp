@@ -6,7 +6,7 @@
 #include "host/window/look/contrast.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
-#include "host/window/look/wheel_guard.h"
+#include "platform/wheel_guard.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -85,7 +85,7 @@ void CustomEditor::addSize()
     auto *row = new QHBoxLayout;
     row->setSpacing(8);
     m_unit = new QComboBox(this);
-    guardFromWheel(m_unit);
+    platform::guardFromWheel(m_unit);
     for (const auto &[unit, text] :
          {std::pair("mm", tr("mm")), std::pair("cm", tr("cm")), std::pair("in", tr("in", "inches")),
           std::pair("pt", tr("pt", "points"))})
@@ -96,7 +96,7 @@ void CustomEditor::addSize()
     m_unit->setCurrentIndex(m_unit->findData(m_currentUnit));
     for (const CustomParameter &side : m_custom.parameters) {
         auto *box = new QDoubleSpinBox(this);
-        guardFromWheel(box);
+        platform::guardFromWheel(box);
         box->setObjectName(side.keyword);
         box->setAccessibleName(side.text);
         box->setToolTip(tooltipOf(side.text));
@@ -146,7 +146,7 @@ void CustomEditor::addParameter(const CustomParameter &parameter)
 CustomEditor::Field CustomEditor::wholeField(const CustomParameter &parameter)
 {
     auto *box = new QSpinBox(this);
-    guardFromWheel(box);
+    platform::guardFromWheel(box);
     box->setRange(static_cast<int>(std::min(parameter.minimum, -double(mostTyped))),
                   static_cast<int>(std::max(parameter.maximum, double(mostTyped))));
     connect(box, &QSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
@@ -158,7 +158,7 @@ CustomEditor::Field CustomEditor::numberField(const CustomParameter &parameter)
 {
     const bool isLength = parameter.type == CustomParameter::Type::Length;
     auto *box = new QDoubleSpinBox(this);
-    guardFromWheel(box);
+    platform::guardFromWheel(box);
     const double span = parameter.maximum - parameter.minimum;
     box->setDecimals(isLength ? 1 : span > 1 ? 2 : 4);
     box->setSingleStep(span > 20 ? 1 : span / 20);

@@ -11,13 +11,13 @@
 #include "host/window/look/contrast.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
-#include "host/window/look/wheel_guard.h"
 #include "host/window/pages/document_box.h"
 #include "host/window/pages/layout_form.h"
 #include "host/window/pages/option_form.h"
 #include "host/window/pages/page_controls.h"
 #include "host/window/pages/range_check.h"
 #include "host/window/pages/title_field.h"
+#include "platform/wheel_guard.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -165,7 +165,7 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_copies->setRange(1, GeneralSettings::maxCopies);
     m_copies->setValue(m_session->general().copies);
     m_copies->setAccelerated(true);
-    guardFromWheel(m_copies);
+    platform::guardFromWheel(m_copies);
     m_copies->setMinimumWidth(90);
     m_copies->setAccessibleName(tr("Copies"));
     m_collate->setChecked(m_session->general().collate);

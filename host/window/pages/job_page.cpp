@@ -7,9 +7,9 @@
 #include "host/session/job_settings.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
-#include "host/window/look/wheel_guard.h"
 #include "host/window/pages/page_frame.h"
 #include "platform/choice_box.h"
+#include "platform/wheel_guard.h"
 
 #include <QGridLayout>
 #include <QLineEdit>
@@ -65,7 +65,7 @@ void JobPage::addHold(QGridLayout *grid)
                      QStringLiteral("weekend"), QStringLiteral("indefinite")},
                     grid);
     m_time = new QTimeEdit(this);
-    guardFromWheel(m_time);
+    platform::guardFromWheel(m_time);
     m_time->setObjectName(holdName);
     m_time->setAccessibleName(tr("Time of day"));
     m_time->setWhatsThis(explanationOf(holdName));

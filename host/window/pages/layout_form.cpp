@@ -8,8 +8,8 @@
 #include "host/session/printed_pages.h"
 #include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
-#include "host/window/look/wheel_guard.h"
 #include "platform/choice_box.h"
+#include "platform/wheel_guard.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -121,7 +121,7 @@ QHBoxLayout *LayoutForm::addScale(QWidget *page)
     m_scale->setSingleStep(step);
     m_scale->setSuffix(layoutValueText(name, QString()));
     m_scale->setAccelerated(true);
-    guardFromWheel(m_scale);
+    platform::guardFromWheel(m_scale);
     connect(m_scale, &QSpinBox::valueChanged, this, [this, name](int number) {
         m_session->general().layout.set(name, QString::number(number));
         Q_EMIT changed();

@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "platform/export.h"
+
 class QWidget;
 
-namespace host {
+namespace platform {
 
 // Prevents the wheel from changing or focusing a control that does not have the focus. The wheel then scrolls
-// the surrounding area, as with platform::ChoiceBox. Call once for a control.
-void guardFromWheel(QWidget *control);
+// the surrounding area. Call once for a control, on the thread of the user interface.
+KELMAR_PLATFORM_EXPORT void guardFromWheel(QWidget *control);
 
-} // namespace host
+} // namespace platform
