@@ -34,8 +34,6 @@ namespace host {
 
 namespace {
 
-constexpr int usualLines = 34; // height of the window if the screen has room
-
 // Whether there is a printer, and a document to print.
 bool canPrint(const PrintTask &task, const DialogSession *session)
 {
@@ -76,7 +74,6 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
     connectParts();
     connectWork();
     showState(State::Unavailable);
-    resize(720, qMax(600, usualLines * fontMetrics().height()));
 }
 
 PrintWindow::~PrintWindow()

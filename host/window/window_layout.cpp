@@ -23,17 +23,21 @@ namespace host {
 
 namespace {
 
-constexpr int textShare = 6;   // of the window's height, for the texts of the message bar
-constexpr int roomyLines = 24; // window height; lower windows save space
-constexpr int mostLines = 58;  // maximum height to which the window grows for a page
-constexpr int spareLines = 4;  // of the screen that remain free then
+constexpr int textShare = 6;         // of the window's height, for the texts of the message bar
+constexpr QSize usualSize(720, 600); // of the window if the screen has room
+constexpr int usualLines = 34;       // least height then
+constexpr int titleLines = 3;        // height of a title bar
+constexpr int roomyLines = 24;       // window height; lower windows save space
+constexpr int mostLines = 58;        // maximum height to which the window grows for a page
+constexpr int spareLines = 4;        // of the screen that remain free then
 
-// The available space of a window's screen, without the frame around the window.
-QSize freeRoom(const QWidget *window)
+// The space that a window may fill: `given`, or the available space of its screen without the frame around
+// the window. Until the size of the frame is known, there is space for a title bar.
+QSize freeRoom(const QWidget *window, const QSize &given)
 {
-    const QSize room = window->screen()->availableSize();
     const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
-    return room.shrunkBy(frame);
+    const QSize room = given.isValid() ? given : window->screen()->availableSize().shrunkBy(frame);
+    return frame.isNull() ? room - QSize(0, titleLines * window->fontMetrics().height()) : room;
 }
 
 // In order of priority.
@@ -72,6 +76,7 @@ void WindowLayout::build()
     column->addLayout(m_barRow);
     column->addLayout(m_footer);
     setCompact(false);
+    m_window->resize(usualSize.width(), usualHeight());
 }
 
 void WindowLayout::addGuide(QWidget *guide)
@@ -111,7 +116,7 @@ void WindowLayout::setRoom(const QSize &room)
 // bars is not exactly known.
 void WindowLayout::fit()
 {
-    const QSize room = m_room.isValid() ? m_room : freeRoom(m_window);
+    const QSize room = freeRoom(m_window, m_room);
     const bool isOurs = !m_window->isVisible() || m_window->height() == m_ownHeight;
     const QSize wanted = wantedSize(room, isOurs);
     m_window->setMinimumSize(m_window->layout()->minimumSize().boundedTo(room));
@@ -129,7 +134,12 @@ QSize WindowLayout::wantedSize(const QSize &room, bool mayGrow) const
     const QSize page = m_parts.book->wantedSize();
     const int high = page.height() + others;
     const int most = qMin(mostLines, room.height() / line - spareLines) * line;
-    return {page.width(), mayGrow ? qMin(high, most) : 0};
+    return {page.width(), mayGrow ? qMax(usualHeight(), qMin(high, most)) : 0};
+}
+
+int WindowLayout::usualHeight() const
+{
+    return qMax(usualSize.height(), usualLines * m_window->fontMetrics().height());
 }
 
 void WindowLayout::adapt()

@@ -111,6 +111,8 @@ void DialogPagesTest::everyPage()
     m_window->setRoom(room);
     PrintError error;
     QVERIFY(m_window->open(&error));
+    // It may be painted before the size of its frame is known.
+    QVERIFY(m_window->height() <= room.height() - 2 * m_window->fontMetrics().height());
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QTRY_VERIFY(m_window->session());
