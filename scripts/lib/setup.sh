@@ -13,7 +13,7 @@ run_packages=(
     cups-daemon cups-client cups-core-drivers cups-filters cups-ipp-utils poppler-utils qpdf ghostscript file libqt6gui6 qt6-qpa-plugins
     snmpd python3 fonts-dejavu-core fonts-vlgothic xvfb xauth
     avahi-daemon avahi-utils dbus-daemon dbus-bin libnss-mdns iproute2 util-linux bsdextrautils procps
-    at-spi2-core python3-pyatspi qt6-translations-l10n
+    at-spi2-core python3-pyatspi qt6-translations-l10n adwaita-qt6
 )
 # The tour of the demo: operating the dialog and taking pictures.
 tour_packages=(openbox xdotool imagemagick x11-xserver-utils)

@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace host;
@@ -87,12 +88,15 @@ void DialogPagesTest::everyPage_data()
     QTest::addColumn<QSize>("room");
     QTest::addColumn<int>("points");
     QTest::addColumn<QString>("scheme");
-    QTest::newRow("800x600") << QSize(800, 600) << 10 << u"light"_s;
-    QTest::newRow("1024x600 at 2") << QSize(512, 300) << 10 << u"dark"_s;
-    QTest::newRow("1366x768 at 1.5") << QSize(910, 512) << 10 << u"light"_s;
-    QTest::newRow("1280x1024 at 2") << QSize(640, 512) << 10 << u"dark"_s;
-    QTest::newRow("1366x768") << QSize(1366, 768) << 10 << u"dark"_s;
-    QTest::newRow("28 points") << QSize(1280, 960) << 28 << u"light"_s;
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<bool>("isWhole"); // the General page needs no scroll bar
+    QTest::newRow("800x600") << QSize(800, 600) << 10 << u"light"_s << u"Fusion"_s << false;
+    QTest::newRow("1024x600 at 2") << QSize(512, 300) << 10 << u"dark"_s << u"Fusion"_s << false;
+    QTest::newRow("1366x768 at 1.5") << QSize(910, 512) << 10 << u"light"_s << u"Fusion"_s << false;
+    QTest::newRow("1280x1024 at 2") << QSize(640, 512) << 10 << u"dark"_s << u"Fusion"_s << false;
+    QTest::newRow("1366x768") << QSize(1366, 768) << 10 << u"dark"_s << u"Fusion"_s << true;
+    QTest::newRow("1366x768, tall controls") << QSize(1366, 768) << 10 << u"light"_s << u"Adwaita"_s << false;
+    QTest::newRow("28 points") << QSize(1280, 960) << 28 << u"light"_s << u"Fusion"_s << false;
 }
 
 void DialogPagesTest::everyPage()
@@ -100,7 +104,10 @@ void DialogPagesTest::everyPage()
     QFETCH(const QSize, room);
     QFETCH(const int, points);
     QFETCH(const QString, scheme);
+    QFETCH(const QString, style);
+    QFETCH(const bool, isWhole);
     applyColorScheme(scheme);
+    QVERIFY(QApplication::setStyle(style));
     QFont font = QApplication::font();
     font.setPointSize(points);
     QApplication::setFont(font);
@@ -123,6 +130,8 @@ void DialogPagesTest::everyPage()
         QTRY_VERIFY(m_window->findChild<QWidget *>(u"page-set"_s));
         checkWidth();
     }
+    const auto *area = m_window->book()->builtPage(0)->findChild<QScrollArea *>();
+    QTRY_VERIFY(!isWhole || area->verticalScrollBar()->maximum() == 0);
     m_window->session()->markChoice(u"MediaType"_s, u"Thick1"_s);
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     QCoreApplication::processEvents();

@@ -42,9 +42,9 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     m_collate->setObjectName(QStringLiteral("multiple-document-handling"));
     m_pages->setObjectName(QStringLiteral("page-ranges"));
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(24, 14, 24, 12);
+    grid->setContentsMargins(24, 10, 24, 8);
     grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(6); // so that the whole page fits a screen with 768 lines
+    grid->setVerticalSpacing(5); // so that the whole page fits a screen with 768 lines
     grid->setColumnStretch(2, 1);
     // so that nothing moves when the form is created
     grid->setColumnMinimumWidth(0, LayoutForm::labelWidth(this));
@@ -52,7 +52,7 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     addCopies(grid);
     addPages(grid);
     if (session->ppd()) {
-        grid->setRowMinimumHeight(grid->rowCount(), 12);
+        grid->setRowMinimumHeight(grid->rowCount(), 8);
         m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }

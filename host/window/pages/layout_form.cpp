@@ -23,8 +23,8 @@ namespace {
 
 constexpr int boxWidth = 240; // pixels, as in the panels
 constexpr int mostWidth = 360;
-constexpr int markGap = 24;    // space for the mark of a change
-constexpr int headingGap = 12; // above the heading
+constexpr int markGap = 24;   // space for the mark of a change
+constexpr int headingGap = 8; // above the heading
 
 const QString numberUp = QStringLiteral("number-up");
 const QString order = QStringLiteral("number-up-layout");
