@@ -135,6 +135,8 @@ ExitCode BatchRun::prepare()
         for (const QString &keyword : m_session->ppd() ? m_session->ppd()->optionKeywords() : QStringList())
             m_result.options.append(listed(*m_session, keyword));
         m_result.panelKeys = settingKeys(*m_session);
+        for (const auto &[panel, key] : std::as_const(m_result.panelKeys))
+            m_result.hasSecretKeys |= m_session->isSecret(key);
     }
     if (const QString gap = protectionGap(*m_session); !gap.isNull()) {
         if (mayNotPrintWithProtectionGap())

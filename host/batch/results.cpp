@@ -248,6 +248,9 @@ void ResultWriter::writeOptions(const BatchResult &result)
         print(ResultText::tr("Keys of the panels"));
     for (const auto &[panel, key] : result.panelKeys)
         print(QStringLiteral("    %1 (%2)").arg(key, panel));
+    if (result.hasSecretKeys)
+        print(ResultText::tr("Give passwords and codes with --ask or --set-file: other users can read the "
+                             "command line."));
 }
 
 void ResultWriter::writePresets(const BatchResult &result)

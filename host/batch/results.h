@@ -25,6 +25,7 @@ struct BatchResult
     bool hasSummary = false;
     QList<PpdOption> options; // if requested
     QList<std::pair<QString, QString>> panelKeys;
+    bool hasSecretKeys = false; // among them
     bool hasOptions = false;
     std::optional<QList<Preset>> presets; // if requested; without codes
     QString savedPreset;

@@ -323,6 +323,8 @@ QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
     for (const QString &name : jobSettingNames()) {
         if (!printModeNames().contains(name))
             keys.append({QStringLiteral("job"), name});
+        else if (takesPrintMode(session.destination(), name))
+            keys.append({QStringLiteral("print-mode"), name});
     }
     for (int i = 0; i < session.panels().count(); ++i) {
         for (const QString &key : session.panels().settableKeysOf(i))

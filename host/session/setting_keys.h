@@ -33,7 +33,8 @@ QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString>
 bool hasSetting(const DialogSession &session, const QString &key);
 
 // The keys that can be set in addition to PPD options, as "panel kind" and "key"; "general" represents the
-// general settings, "job" those of the Job page.
+// general settings, "job" those of the Job page, "print-mode" the password and the account if the queue takes
+// them.
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session);
 
 } // namespace host

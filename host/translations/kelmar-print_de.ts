@@ -1560,6 +1560,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Schlüssel der Einstellungsseiten</translation>
     </message>
     <message>
+        <source>Give passwords and codes with --ask or --set-file: other users can read the command line.</source>
+        <translation>Passwörter und Codes mit --ask oder --set-file angeben: Die Befehlszeile können andere Benutzer lesen.</translation>
+    </message>
+    <message>
         <source>request id is %1-%2 (%3 file(s))</source>
         <translation>Anfrage-ID ist %1-%2 (%3 Datei(en))</translation>
     </message>

@@ -1568,6 +1568,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Claves de los paneles</translation>
     </message>
     <message>
+        <source>Give passwords and codes with --ask or --set-file: other users can read the command line.</source>
+        <translation>Indique las contraseñas y los códigos con --ask o --set-file: otros usuarios pueden leer la línea de órdenes.</translation>
+    </message>
+    <message>
         <source>request id is %1-%2 (%3 file(s))</source>
         <translation>el identificador de la petición es %1-%2 (%3 archivo(s))</translation>
     </message>

@@ -1560,6 +1560,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Clés des panneaux</translation>
     </message>
     <message>
+        <source>Give passwords and codes with --ask or --set-file: other users can read the command line.</source>
+        <translation>Indiquez les mots de passe et les codes avec --ask ou --set-file : les autres utilisateurs peuvent lire la ligne de commande.</translation>
+    </message>
+    <message>
         <source>request id is %1-%2 (%3 file(s))</source>
         <translation>l’identifiant de la requête est %1-%2 (%3 fichier(s))</translation>
     </message>

@@ -1568,6 +1568,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Chiavi dei pannelli</translation>
     </message>
     <message>
+        <source>Give passwords and codes with --ask or --set-file: other users can read the command line.</source>
+        <translation>Indicare password e codici con --ask o --set-file: gli altri utenti possono leggere la riga di comando.</translation>
+    </message>
+    <message>
         <source>request id is %1-%2 (%3 file(s))</source>
         <translation>l’identificativo della richiesta è %1-%2 (%3 file)</translation>
     </message>

@@ -1560,6 +1560,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>パネルのキー</translation>
     </message>
     <message>
+        <source>Give passwords and codes with --ask or --set-file: other users can read the command line.</source>
+        <translation>パスワードとコードは --ask または --set-file で指定してください。コマンドラインは他のユーザーも読み取れます。</translation>
+    </message>
+    <message>
         <source>request id is %1-%2 (%3 file(s))</source>
         <translation>リクエスト ID は %1-%2 です (%3 個のファイル)</translation>
     </message>

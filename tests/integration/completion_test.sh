@@ -12,6 +12,7 @@ trap '"$tree/scripts/lib/private-cupsd.sh" stop "$server"; rm -rf "$server"' EXI
 chmod 755 "$server"
 "$tree/scripts/lib/private-cupsd.sh" start "$server" || exit $?
 "$tree/scripts/lib/private-cupsd.sh" add-queue "$server" office "$build/ppds/kelm880.ppd" socket://127.0.0.1:9
+"$tree/scripts/lib/private-cupsd.sh" add-queue "$server" archive "$tree/demo/archive.ppd" socket://127.0.0.1:9
 mkdir "$server/home"
 export HOME=$server/home CUPS_SERVER=$server/cups.sock PATH=$build/bin:$PATH
 unset CUPS_SERVERROOT # the home folder of another test
@@ -58,6 +59,8 @@ offers evening -o job-hold-until = e
 offers privatePassword= -d office --set-file priv
 offers report.pdf -d office --set-file privatePassword = rep
 offers departmentCode -d office --ask dep
+offers job-password -d archive --ask job-p
+offers job-account-id= -d archive --set-file job-acc
 offers Grey -d office --delete-preset G
 offers report.pdf rep
 for panel in general more job summary print-mode color-settings-1 color-settings-2; do offers $panel --panel ""; done
