@@ -100,11 +100,11 @@ bool bonjour::waitForReply(int descriptor, const QDeadlineTimer &deadline,
 void bonjour::resolveService(const char *name, const char *type, const char *domain,
                              DNSServiceResolveReply reply, void *context)
 {
-    const auto told =
-        platform::callBeside([asked = Service{name, type, domain},
-                              deadline = QDeadlineTimer(replyBudget)] { return replyFor(asked, deadline); },
-                             replyBudget);
-    const std::optional<Reply> first = told.value_or(std::nullopt);
+    const auto outcome =
+        platform::callOnWorker([asked = Service{name, type, domain},
+                                deadline = QDeadlineTimer(replyBudget)] { return replyFor(asked, deadline); },
+                               replyBudget);
+    const std::optional<Reply> first = outcome.value_or(std::nullopt);
     if (!first)
         return;
     const auto textOf = [](const QByteArray &text) { return text.isNull() ? nullptr : text.constData(); };

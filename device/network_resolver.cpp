@@ -229,7 +229,7 @@ QString QVNetworkResolver_M880::resolveFromHostname(const QString &name) const
     const std::optional<QByteArray> bytes = asciiBytes(name);
     if (name.isNull() || !bytes)
         return {};
-    const auto address = platform::callBeside([name = *bytes, addressOfHost = services().addressOfHost] {
+    const auto address = platform::callOnWorker([name = *bytes, addressOfHost = services().addressOfHost] {
         const QByteArray ipv4 = addressOfHost(name, AF_INET);
         return ipv4.isEmpty() ? addressOfHost(name, AF_INET6) : ipv4;
     });

@@ -122,14 +122,14 @@ std::unique_ptr<QVSNMP_M880> QVSNMP_M880::initWithHostAndReturnError(const QStri
     if (address.isNull())
         return fail(QVSNMPCannotConnect);
     // It reads the files named in the environment, which may block.
-    const auto isReady = platform::callBeside([&library] {
+    const auto isReady = platform::callOnWorker([&library] {
         library.initialize("KelmarPDE");
         return true;
     });
     if (!isReady)
         return fail(QVSNMPCannotConnect);
     const SnmpCalls &calls = library;
-    auto session = platform::callBeside([calls, address] { return openedSession(calls, address); });
+    auto session = platform::callOnWorker([calls, address] { return openedSession(calls, address); });
     if (!session)
         return fail(QVSNMPCannotConnect);
     if ((*session)->handle == nullptr)
@@ -172,7 +172,7 @@ QVariant QVSNMP_M880::sendRequestWithSize(const SnmpOid *oid, size_t size)
 {
     if (!isIdle())
         return {};
-    const auto value = platform::callBeside(
+    const auto value = platform::callOnWorker(
         [request = Request{m_theSession, {oid, oid + size}, m_charSet, m_returnStringsAsData}] {
             return answerTo(request);
         });

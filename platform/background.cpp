@@ -154,7 +154,7 @@ bool Background::call(std::function<void()> work, std::chrono::milliseconds limi
         state->change.notify_all();
     });
     // On a worker thread if this thread must not block.
-    const auto ended = callBeside([state, until = std::chrono::steady_clock::now() + limit] {
+    const auto ended = callOnWorker([state, until = std::chrono::steady_clock::now() + limit] {
         std::unique_lock lock(state->mutex);
         return state->change.wait_until(lock, until, [&] { return state->ended; });
     });

@@ -73,7 +73,7 @@ public:
 // Returns the result of `work`. Null if the user stopped waiting, or if the work exceeded the time limit,
 // which can be passed as the second argument.
 template <typename Work, typename... Limit>
-std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)
+std::optional<std::invoke_result_t<Work>> callOnWorker(Work work, Limit... limit)
 {
     auto result = std::make_shared<std::optional<std::invoke_result_t<Work>>>();
     if (!Background::call([result, work = std::move(work)]() mutable { result->emplace(work()); }, limit...))
@@ -83,7 +83,7 @@ std::optional<std::invoke_result_t<Work>> callBeside(Work work, Limit... limit)
 
 // Passes the result of `work` to `done` on the calling thread, unless `receiver` has been destroyed.
 template <typename Work, typename Done>
-void startBeside(QObject *receiver, Work work, Done done)
+void startOnWorker(QObject *receiver, Work work, Done done)
 {
     auto result = std::make_shared<std::optional<std::invoke_result_t<Work>>>();
     auto shared = std::make_shared<Work>(std::move(work));

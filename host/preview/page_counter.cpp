@@ -209,7 +209,7 @@ void PageCounter::next()
     m_step = Step::Opening;
     m_path = *path;
     m_result = {.settings = m_settings};
-    platform::startBeside(
+    platform::startOnWorker(
         this,
         [path = m_path]() -> Opened {
             PrintError ignored; // printing reports it

@@ -114,7 +114,7 @@ void PdfWriter::join()
 
 void PdfWriter::store(const SharedFile &pdf)
 {
-    platform::startBeside(
+    platform::startOnWorker(
         this, [path = m_path, pdf] { return replaceFile(path, pdf); },
         [this](const PrintError &error) { Q_EMIT ended(error); });
 }

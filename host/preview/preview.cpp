@@ -127,7 +127,7 @@ void Preview::setDocument(const QString &path)
     m_problem = QString();
     forgetPages();
     Q_EMIT changed();
-    platform::startBeside(
+    platform::startOnWorker(
         this,
         [path]() -> Opened {
             PrintError error;

@@ -65,7 +65,7 @@ void addPassword(ipp_t *request, const QList<JobOption> &options, const QStringL
                  method.constData());
 }
 
-QList<JobOption> withLastWords(const QList<JobOption> &options)
+QList<JobOption> lastOfEach(const QList<JobOption> &options)
 {
     QList<JobOption> kept;
     QSet<QString> seen;

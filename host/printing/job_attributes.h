@@ -13,7 +13,7 @@ inline constexpr qsizetype maxIppName = 255; // bytes
 // Conversion of options to job attributes, and comparison with the attributes that the server stored.
 
 // Keeps only the last value of each option, in the order of the last values.
-QList<JobOption> withLastWords(const QList<JobOption> &options);
+QList<JobOption> lastOfEach(const QList<JobOption> &options);
 // Adds the password among the options, if there is one, as an operation attribute. It is encrypted with the
 // method among the options, else with SHA-256 if that is one of the methods `offered` by the queue. Call
 // before adding job attributes.

@@ -50,8 +50,8 @@ void JobFollower::askSoon()
 void JobFollower::ask()
 {
     ++m_asked;
-    platform::startBeside(this, m_query,
-                          [this, round = m_round](const JobStatus &status) { answered(round, status); });
+    platform::startOnWorker(this, m_query,
+                            [this, round = m_round](const JobStatus &status) { answered(round, status); });
 }
 
 void JobFollower::answered(int round, const JobStatus &status)

@@ -60,7 +60,7 @@ bool isNothingToPrint(const Document &document, const QStringList &supported)
 } // namespace
 
 JobSubmitter::JobSubmitter(const JobRequest &request, const SubmissionWatch &watch, LoginKeeper *login)
-    : m_request(request), m_watch(watch), m_login(login), m_options(withLastWords(request.options)),
+    : m_request(request), m_watch(watch), m_login(login), m_options(lastOfEach(request.options)),
       m_printerUri(request.destination.printerUri.isEmpty() ? printerUriOfQueue(request.destination.queue)
                                                             : request.destination.printerUri.toUtf8()),
       m_resource(resourceOf(m_printerUri)),

@@ -33,7 +33,7 @@ QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution 
 
 // With the choice marked: a resolution that keeps it and all locked options, and protecting choices if
 // possible.
-Resolution wayThatKeeps(const DialogSession &session, const QString &keyword, QList<OptionChoice> *locks)
+Resolution resolutionKeeping(const DialogSession &session, const QString &keyword, QList<OptionChoice> *locks)
 {
     const auto gentle = protectingResolution(*session.ppd(), session.protection(), keyword, nullptr);
     for (const auto &way : {gentle, session.ppd()->resolution(keyword)}) {
@@ -67,7 +67,7 @@ ForcedChoice forcedChoice(DialogSession *session, const QString &keyword, const 
     const QString now = ppd->markedChoice(keyword);
     if (!ppd->mark(keyword, choice))
         return forced;
-    forced.changes = wayThatKeeps(*session, keyword, &forced.locks);
+    forced.changes = resolutionKeeping(*session, keyword, &forced.locks);
     ppd->mark(keyword, now);
     if (forced.changes.isEmpty() && forced.locks.isEmpty() &&
         !session->locks().allows(forced.obstacle.option, {}))

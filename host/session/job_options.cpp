@@ -101,8 +101,8 @@ bool isDecided(const JobOptionSources &sources, const QString &name)
 }
 
 // Whether the server would add the name with a value that differs from the user's default.
-bool serverSaysOtherwise(const JobOptionSources &sources, const QString &name,
-                         const QMap<QString, QString> &choices)
+bool serverDefaultDiffers(const JobOptionSources &sources, const QString &name,
+                          const QMap<QString, QString> &choices)
 {
     const QMap<QString, QString> &servers = sources.destination.queueDefaults;
     return servers.contains(name) && sources.ppd->standardChoices(name, servers.value(name)) != choices;
@@ -127,7 +127,7 @@ JobOption standardDefault(const JobOptionSources &sources, const QString &name, 
                                            : standardValueOfMarks(sources.ppd, name,
                                                                   namesAll ? QStringList() : choices.keys());
     const bool isServers = isChosen && sources.destination.queueDefaults.contains(name);
-    const bool isKept = holds && !isServers && !serverSaysOtherwise(sources, name, choices);
+    const bool isKept = holds && !isServers && !serverDefaultDiffers(sources, name, choices);
     return {name, now, now.isEmpty() || isKept ? Kind::Shown : Kind::Attribute};
 }
 

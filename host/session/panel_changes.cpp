@@ -22,7 +22,7 @@ void PanelChanges::noteSetting(int panel, const QString &key)
 }
 
 // The option that was just set on another panel than `owner`; empty if there is none.
-OptionChoice PanelChanges::causeBesides(int owner) const
+OptionChoice PanelChanges::causeFromOtherPanel(int owner) const
 {
     std::pair<int, QString> latest;
     int panel = -1;
@@ -45,7 +45,7 @@ void PanelChanges::announce(const QString &keyword)
     const int owner = m_panels->ofKeyword(keyword);
     const bool byUser = m_panels->saving() >= 0 && owner == m_panels->saving();
     m_announced.append(
-        {keyword, currentValue(keyword), byUser, byUser ? OptionChoice() : causeBesides(owner)});
+        {keyword, currentValue(keyword), byUser, byUser ? OptionChoice() : causeFromOtherPanel(owner)});
 }
 
 QVariant PanelChanges::currentValue(const QString &keyword) const

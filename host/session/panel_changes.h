@@ -54,7 +54,7 @@ private:
     };
     QVariant currentValue(const QString &keyword) const;
     void putBack(const QString &keyword, const QVariant &value);
-    OptionChoice causeBesides(int owner) const;
+    OptionChoice causeFromOtherPanel(int owner) const;
 
     const SessionPanels *m_panels;
     PpdDocument *m_ppd;

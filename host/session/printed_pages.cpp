@@ -25,7 +25,7 @@ struct PagesText
 const QString pageSize = QStringLiteral("PageSize");
 
 // Whether job options have the server pass documents to the printer unchanged.
-bool isPastFilters(const DialogSession &session)
+bool bypassesFilters(const DialogSession &session)
 {
     const QList<JobOption> options = session.jobOptions();
     return std::any_of(options.begin(), options.end(), [](const JobOption &option) {
@@ -100,12 +100,12 @@ PageSettings pageSettings(const DialogSession &session)
 
 std::optional<PageSettings> settingsForCheck(const DialogSession &session)
 {
-    return isPastFilters(session) ? std::nullopt : std::optional(pageSettings(session));
+    return bypassesFilters(session) ? std::nullopt : std::optional(pageSettings(session));
 }
 
 QString scalingObstacle(const DialogSession &session)
 {
-    return session.ppd() && !isPastFilters(session)
+    return session.ppd() && !bypassesFilters(session)
                ? QString()
                : PagesText::tr("Documents reach the printer unchanged. They cannot be scaled.");
 }

@@ -153,7 +153,7 @@ void PrintWindow::connectWork()
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
     connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::makeWay);
     connect(&m_wait, &PanelWait::acceptWanted, this, &PrintWindow::print);
-    connect(&m_wait, &PanelWait::panelReturned, &m_messages, &SessionMessages::goOn);
+    connect(&m_wait, &PanelWait::panelReturned, &m_messages, &SessionMessages::resumeCheck);
     connect(&m_wait, &PanelWait::panelReturned, &m_opener, &SessionOpener::deliverHeld);
     connect(&m_jobs, &JobDesk::delayed, this, [this] {
         showState(State::Sending);

@@ -18,7 +18,7 @@
 class PolicyFixture : public WindowFixture
 {
 protected:
-    static host::Policy lay(const QByteArray &json) // sets the policy of this test
+    static host::Policy install(const QByteArray &json) // sets the policy of this test
     {
         QString error;
         const auto policy = host::Policy::parse(json, QStringLiteral("policy.json"), &error);

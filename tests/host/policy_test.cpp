@@ -104,7 +104,7 @@ void PolicyTest::batchObeys()
     QFETCH(int, code);
     QFETCH(QString, colour);
     QFETCH(QString, sides);
-    PolicyPrintSystem system(m_system, {}, lay(R"({
+    PolicyPrintSystem system(m_system, {}, install(R"({
         "contact": "IT, phone 7", "queues": ["off*", "attic"],
         "rules": [{"queues": ["office"], "defaults": {"Duplex": "DuplexNoTumble"},
                    "locked": {"ColorType": "Mono", "Unknown": "x", "Sharp": "7"}}]})"));
@@ -161,7 +161,7 @@ void PolicyTest::locksHoldInEverySpelling()
     QFETCH(QString, value);
     QFETCH(bool, isAllowed);
     useFamily();
-    PolicyPrintSystem system(m_system, {}, lay(R"({"rules": [
+    PolicyPrintSystem system(m_system, {}, install(R"({"rules": [
         {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble"}}]})"));
     QCOMPARE(print(system, m_none, {u"-d"_s, u"office"_s, u"-o"_s, option + u'=' + value}),
              isAllowed ? 0 : 1);
@@ -223,7 +223,7 @@ void PolicyTest::defaultsDoNotPassLocks()
     if (isServers)
         office.serverOptions = office.options.keys();
     Extensions extensions({m_bundle});
-    PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [
+    PolicyPrintSystem system(m_system, {m_bundle}, install(R"({"rules": [
         {"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})"));
     QCOMPARE(print(system, extensions, {u"-d"_s, office.name()}), code);
     const bool isTold = option != u"job-priority"_s && !isServers;
@@ -242,7 +242,7 @@ void PolicyTest::defaultsDoNotPassLocks()
 void PolicyTest::nothingElsePassesLocks()
 {
     useFamily();
-    lay(R"({"rules": [{"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})");
+    install(R"({"rules": [{"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})");
     Extensions extensions({m_bundle});
     PrintError error;
     DialogSession session(m_system.printers.first(), m_system.ppd(m_system.printers.first(), &error));
@@ -288,7 +288,7 @@ void PolicyTest::saysThatItOffersNone()
     QFETCH(QString, said);
     for (Destination &printer : m_system.printers)
         printer.isDefault = printer.isDefault && hasDefault;
-    PolicyPrintSystem system(m_system, {}, lay("{\"queues\": [\"" + queues + "\"]}"));
+    PolicyPrintSystem system(m_system, {}, install("{\"queues\": [\"" + queues + "\"]}"));
     QCOMPARE(print(system, m_none, {}), 1);
     QVERIFY2(m_said.contains(said.toUtf8()), m_said.constData());
     QVERIFY(showsDialog(system, m_none));
@@ -332,7 +332,7 @@ void PolicyTest::codesAreAskedFor()
     QFETCH(QString, said);
     useFamily();
     Extensions extensions({m_bundle});
-    PolicyPrintSystem system(m_system, {m_bundle}, lay("{\"rules\": [{\"locked\": {" + locked + "}}]}"));
+    PolicyPrintSystem system(m_system, {m_bundle}, install("{\"rules\": [{\"locked\": {" + locked + "}}]}"));
     QCOMPARE(print(system, extensions, (u"-d office "_s + words).split(u' ', Qt::SkipEmptyParts)), code);
     QVERIFY2(m_said.contains(said.toUtf8()), m_said.constData());
     QCOMPARE(m_system.submitted.size(), code == 0 ? 1 : 0);
@@ -356,7 +356,7 @@ void PolicyTest::presetForAModelThatProtects()
 
 void PolicyTest::dialogShowsWhatIsLocked()
 {
-    const Policy policy = lay(R"({"contact": "<b>IT</b>", "queues": ["office", "raw"],
+    const Policy policy = install(R"({"contact": "<b>IT</b>", "queues": ["office", "raw"],
         "rules": [{"locked": {"Duplex": "DuplexNoTumble"}, "hiddenOptions": ["MediaType"]}]})");
     PolicyPrintSystem system(m_system, {}, policy);
     QVERIFY(showsDialog(system, m_none));
@@ -373,7 +373,7 @@ void PolicyTest::dialogShowsWhatIsLocked()
 // A choice that would require changing a locked option is not offered.
 void PolicyTest::lockedChoiceIsNotGivenUp()
 {
-    PolicyPrintSystem system(m_system, {}, lay(R"({"rules": [{"locked": {"MediaType": "Thick"}}]})"));
+    PolicyPrintSystem system(m_system, {}, install(R"({"rules": [{"locked": {"MediaType": "Thick"}}]})"));
     QVERIFY(showsDialog(system, m_none));
     QTRY_VERIFY(find<platform::ChoiceBox>(u"Duplex"_s));
     auto *duplex = find<platform::ChoiceBox>(u"Duplex"_s);
@@ -404,7 +404,7 @@ void PolicyTest::lockedChoiceIsNotGivenUp()
 void PolicyTest::panelKeepsWhatIsLocked()
 {
     useFamily();
-    PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [
+    PolicyPrintSystem system(m_system, {m_bundle}, install(R"({"rules": [
         {"locked": {"PrintMode": "Private"}, "lockedPanels": ["color-settings-2"]}]})"));
     Extensions extensions({m_bundle});
     QVERIFY(showsDialog(system, extensions));
@@ -440,7 +440,7 @@ void PolicyTest::panelKeepsWhatIsLocked()
 void PolicyTest::panelHidesOptions()
 {
     useFamily();
-    PolicyPrintSystem system(m_system, {m_bundle}, lay(R"({"rules": [{"defaults": {"SharpnessVRN": "2"},
+    PolicyPrintSystem system(m_system, {m_bundle}, install(R"({"rules": [{"defaults": {"SharpnessVRN": "2"},
         "hiddenOptions": ["Resolution", "SharpnessVRN", "TonerSave"], "hiddenPanels": ["print-mode"]}]})"));
     Extensions extensions({m_bundle});
     QVERIFY(showsDialog(system, extensions));

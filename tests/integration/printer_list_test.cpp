@@ -80,7 +80,7 @@ void PrinterListTest::listIsThatOfLibcups()
         return 1;
     };
     // On a separate thread, where libcups determines the home folder again.
-    const auto expectedBeside = platform::callBeside(
+    const auto expected = platform::callOnWorker(
         [&collect] {
             QStringList list;
             cupsEnumDests(CUPS_DEST_FLAGS_NONE, 0, nullptr, 0, CUPS_PRINTER_DISCOVERED, collect, &list);
@@ -88,7 +88,7 @@ void PrinterListTest::listIsThatOfLibcups()
             return list;
         },
         std::chrono::seconds(10));
-    QVERIFY(expectedBeside);
+    QVERIFY(expected);
     PrintError error;
     const auto all = CupsPrintSystem().destinations(&error);
     QVERIFY2(all, qPrintable(error.message));
@@ -98,7 +98,7 @@ void PrinterListTest::listIsThatOfLibcups()
                                   d.printerUri, QString::number(d.accepting), QString::number(d.stopped)}
                           .join(u'|'));
     listed.sort();
-    QCOMPARE(listed.join(u'\n'), expectedBeside->join(u'\n'));
+    QCOMPARE(listed.join(u'\n'), expected->join(u'\n'));
 }
 
 QTEST_MAIN(PrinterListTest)

@@ -31,7 +31,7 @@ private Q_SLOTS:
 
 void BackgroundTest::callsStraightWithoutAWaiter()
 {
-    const auto thread = callBeside([] { return QThread::currentThreadId(); });
+    const auto thread = callOnWorker([] { return QThread::currentThreadId(); });
     QCOMPARE(thread.value(), QThread::currentThreadId());
 }
 
@@ -41,7 +41,7 @@ void BackgroundTest::keepsEventsGoingWhileItWaits()
     QSemaphore painted;
     QMetaObject::invokeMethod(
         this, [&] { painted.release(); }, Qt::QueuedConnection);
-    const auto answer = callBeside([&] { return painted.tryAcquire(1, 10'000) ? 7 : 0; });
+    const auto answer = callOnWorker([&] { return painted.tryAcquire(1, 10'000) ? 7 : 0; });
     QCOMPARE(answer.value(), 7);
 }
 
@@ -53,7 +53,7 @@ void BackgroundTest::dropsWhatWasGivenUp()
     QMetaObject::invokeMethod(
         this, [waiter] { waiter->giveUp(); }, Qt::QueuedConnection);
     const auto kept = std::make_shared<int>(0);
-    QVERIFY(!callBeside([release, kept] {
+    QVERIFY(!callOnWorker([release, kept] {
         release->acquire();
         return *kept;
     }));
@@ -80,10 +80,10 @@ void BackgroundTest::givesUpAtTheLimit()
     const Waiter::Scope scope(hasWaiter ? std::make_shared<LoopWaiter>() : nullptr);
     const auto release = std::make_shared<QSemaphore>();
     const auto wait = [release] { return release->tryAcquire(1, 10'000); };
-    QVERIFY(!callBeside(wait, 50ms));
+    QVERIFY(!callOnWorker(wait, 50ms));
     QVERIFY(Background::isUnderWay() && !Background::isGivenUp());
     release->release(2);
-    QCOMPARE(callBeside(wait, 10s), true);
+    QCOMPARE(callOnWorker(wait, 10s), true);
     QVERIFY_THROWS_EXCEPTION(Exception,
                              Background::call([] { throw Exception(Exception::rangeName, {}); }, 10s));
     QTRY_VERIFY(!Background::isUnderWay());
@@ -102,7 +102,7 @@ void BackgroundTest::startsWithoutWaiting()
     QObject receiver;
     int answer = 0;
     Qt::HANDLE deliveredOn = nullptr;
-    startBeside(
+    startOnWorker(
         &receiver, [] { return 5; },
         [&](int result) {
             answer = result;
@@ -117,7 +117,7 @@ void BackgroundTest::deliversThoughDeletionsComeFirst()
 {
     QObject receiver;
     int answer = 0;
-    startBeside(
+    startOnWorker(
         &receiver, [] { return 5; }, [&](int result) { answer = result; });
     while (Background::isUnderWay()) // without processing events
         QThread::yieldCurrentThread();
@@ -131,7 +131,7 @@ void BackgroundTest::leavesAReceiverAloneThatIsGone()
     QSemaphore release;
     bool delivered = false;
     auto receiver = std::make_unique<QObject>();
-    startBeside(
+    startOnWorker(
         receiver.get(),
         [&] {
             release.acquire();

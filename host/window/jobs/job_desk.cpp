@@ -73,7 +73,7 @@ void JobDesk::take(const Submission &submission)
 {
     const bool isRejected = submission.outcome == Submission::Outcome::Rejected;
     if (!isRejected) {
-        setAside();
+        moveToEarlierJobs();
         m_submission = submission;
         m_submissionDestination = m_destination;
     }
@@ -89,7 +89,7 @@ void JobDesk::take(const Submission &submission)
 }
 
 // Adds the current job to the earlier jobs.
-void JobDesk::setAside()
+void JobDesk::moveToEarlierJobs()
 {
     m_follower->stop();
     m_change.drop();
@@ -100,7 +100,7 @@ void JobDesk::setAside()
         m_earlier = new EarlierJobs(this);
         connect(m_earlier, &EarlierJobs::changed, this,
                 [this] { m_result->showEarlier(m_earlier->lines()); });
-        connect(m_earlier, &EarlierJobs::ended, this, &JobDesk::tellElsewhere);
+        connect(m_earlier, &EarlierJobs::ended, this, &JobDesk::notifyIfInactive);
     }
     m_earlier->add(m_submission->job.id, m_submission->job.status, statusQuery());
 }
@@ -132,11 +132,11 @@ void JobDesk::noteStatus(const JobStatus &status)
     if (!isNews)
         m_wasTold = false;
     else if (!std::exchange(m_wasTold, !status.isFinal()))
-        tellElsewhere(m_result->text(), status);
+        notifyIfInactive(m_result->text(), status);
 }
 
 // Notifies the user that a job has ended or needs attention.
-void JobDesk::tellElsewhere(const QString &text, const JobStatus &status)
+void JobDesk::notifyIfInactive(const QString &text, const JobStatus &status)
 {
     if (!m_dialog->isActiveWindow())
         notifyDesktop(m_dialog->windowTitle(), text, status.state != JobStatus::State::Completed);

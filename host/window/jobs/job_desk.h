@@ -56,10 +56,10 @@ private:
     void connectSender();
     void connectResult();
     void take(const Submission &submission);
-    void setAside();
+    void moveToEarlierJobs();
     void showResult();
     void noteStatus(const JobStatus &status);
-    void tellElsewhere(const QString &text, const JobStatus &status);
+    void notifyIfInactive(const QString &text, const JobStatus &status);
     void change(JobAction action);
     JobFollower::Query statusQuery() const;
 

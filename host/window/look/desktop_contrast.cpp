@@ -62,7 +62,7 @@ void followDesktopContrast(QObject *receiver)
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
     if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") && !QFile::exists(socket))
         return;
-    platform::startBeside(
+    platform::startOnWorker(
         receiver,
         [program = serviceProgram()] {
             QProcess process;

@@ -203,7 +203,7 @@ void SessionMessages::recheck()
     check();
 }
 
-void SessionMessages::goOn()
+void SessionMessages::resumeCheck()
 {
     if (m_isCheckDue)
         recheck();

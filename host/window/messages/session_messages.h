@@ -46,7 +46,7 @@ public:
     // does not prevent printing.
     void setLoaded(const QList<LoadedTray> &trays);
     // Performs a check that was held up.
-    void goOn();
+    void resumeCheck();
 
 public Q_SLOTS:
     // Call when a panel has changed a setting.

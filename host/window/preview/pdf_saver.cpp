@@ -70,7 +70,7 @@ void PdfSaver::write(const QStringList &paths, const PageSettings &settings, con
         if (m_isBusy)
             Q_EMIT delayed();
     });
-    platform::startBeside(
+    platform::startOnWorker(
         this,
         [documents = m_documents, paths] {
             PrintError error;
