@@ -2,12 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
 """Operates the dialog over the accessibility bus like a screen reader: prints a private job after two conflicting
-settings and a wrong page range. Prints the events of the bus, and fails if anything was not announced or was announced
-twice, or if the preview claimed the focus.
+settings and a wrong page range, on a print server that is slow to accept the job. Prints the events of the bus, and
+fails if anything was not announced, was announced twice or without a text, or if the preview claimed the focus.
 
-Usage: private_job.py PROGRAM ARGUMENT...  (on a private X display and session bus)"""
+Usage: private_job.py PID_OF_SERVER PROGRAM ARGUMENT...  (on a private X display and session bus)"""
 
 import os
+import signal
 import subprocess
 import sys
 
@@ -20,16 +21,19 @@ EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
 
 
 class Session:
-    def __init__(self, command):
+    def __init__(self, server, command):
+        self.server = server  # process ID
         self.log = []
         self.notifications = []  # one for each time that one appeared
-        self.descriptions = []  # of the pressed buttons
+        self.descriptions = []  # read with a control: the pressed buttons', and the names of notifications around it
+        self.is_empty_announced = False
         self.problem = "nothing happened"
         # The expected announcements, and the button pressed or the pages typed after each. The first question was shown
         # before listening started.
         self.steps = [(None, "Keep and Review"), (None, "Range:"), (None, self.type_pages("3-1")),
                       ("“3-1” is not a page", self.type_pages("1-2")), (None, "Print"),
-                      ("cannot be used together", "Apply Suggestion"), (None, "Print"), ("Sent to", lambda: True),
+                      ("cannot be used together", "Apply Suggestion"), (None, self.print_slowly),
+                      ("Sending the document", self.resume_server), ("Sent to", lambda: True),
                       ("Job 1: done", self.check_late_reader), (None, "Close")]
         for name in EVENTS:
             pyatspi.Registry.registerEventListener(self.note, name)
@@ -42,13 +46,26 @@ class Session:
     def note(self, event):
         try:
             role, name = event.source.getRoleName(), event.source.name
+            if event.detail1 and "focused" in str(event.type):
+                self.descriptions += self.names_around(event.source)
         except (GLib.GError, LookupError, RuntimeError):
             return  # no longer exists
         entry = (str(event.type), role, name, event.detail1)
         self.log.append(entry)
         if entry[0] == "object:state-changed:showing" and role == "notification" and event.detail1:
             self.notifications.append(event.source)
+            self.is_empty_announced |= not name
         print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
+
+    @staticmethod
+    def names_around(control):
+        """The names that a screen reader reads before a control when it gets the focus."""
+        names = []
+        while control.parent:
+            control = control.parent
+            if control.getRoleName() == "notification":
+                names.append(control.name)
+        return names
 
     def times_announced(self, words):
         """How often a screen reader announces a text: when a notification appears, and with the widgets that it describes."""
@@ -61,6 +78,11 @@ class Session:
             self.problem = None if not self.steps and self.process.returncode == 0 else "the program has ended"
             if any("focused" in kind and role == "list item" and name in ("1", "2") for kind, role, name, _ in self.log):
                 self.problem = "the preview has claimed the focus"
+            for words in ("Reading the document", "Sending the document", "Sent to", "Job 1: done"):
+                if self.times_announced(words) > 1:
+                    self.problem = "announced %d times: %s" % (self.times_announced(words), words)
+            if self.is_empty_announced:
+                self.problem = "a notification without a text was announced"
             pyatspi.Registry.stop()
             return False
         if self.steps:
@@ -98,6 +120,14 @@ class Session:
         actions.doAction(names.index("Press" if "Press" in names else "Toggle"))
         return True
 
+    def print_slowly(self):
+        os.kill(self.server, signal.SIGSTOP)
+        return self.press("Print")
+
+    def resume_server(self):
+        os.kill(self.server, signal.SIGCONT)
+        return True
+
     def type_pages(self, text):
         def act():
             field = self.find((pyatspi.ROLE_TEXT,), "Pages to print", (pyatspi.STATE_SHOWING,))
@@ -108,26 +138,28 @@ class Session:
         return act
 
     def check_late_reader(self):
-        """Fails if a screen reader that was busy until now, and reads the current names, would repeat the job's state."""
+        """Fails if a screen reader that was busy until now, and reads the current names, would repeat a state or read none."""
         names = []
         for notification in self.notifications:
             try:
                 notification.clearCache()
                 names.append(notification.name)
             except (GLib.GError, LookupError, RuntimeError):
-                pass  # no longer exists
-        if sum("Job 1" in name for name in names) != 1:
+                names.append("")  # no longer exists
+        states = [name for name in names if "Job 1" in name]
+        if len(set(states)) != len(states) or not all(names):
             self.problem = "a late screen reader would read: %s" % names
             self.give_up()
         return True
 
     def give_up(self):
+        self.resume_server()
         self.process.kill()
         pyatspi.Registry.stop()
         return False
 
 
-session = Session(sys.argv[1:])
+session = Session(int(sys.argv[1]), sys.argv[2:])
 pyatspi.Registry.start()
 if session.problem:
     sys.exit("private_job.py: %s" % session.problem)

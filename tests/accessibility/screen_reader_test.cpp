@@ -46,6 +46,7 @@ void ScreenReaderTest::privateJobIsTold()
                       u"--"_s,
                       python,
                       sourcePath("/tests/accessibility/private_job.py"),
+                      QString::number(server.processId()),
                       buildPath("/bin/kelmar-print")};
     words += {u"-d"_s, u"office"_s};
     for (const QString &setting : {u"PrintMode=Private"_s, u"privatePassword=12340"_s, u"MediaType=Thick1"_s,

@@ -12,15 +12,18 @@
 #include "host/window/look/status_glyph.h"
 
 #include <QHBoxLayout>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include <chrono>
 #include <utility>
 
 namespace host {
 
 namespace {
 
-constexpr int iconSize = 48; // pixels
+constexpr int iconSize = 48;                    // pixels
+constexpr std::chrono::seconds lateReading(30); // by a busy screen reader
 
 StatusGlyph::Kind kindOf(const JobStatus &status)
 {
@@ -136,7 +139,8 @@ void ResultPage::showTitle(const QString &title)
 }
 
 // In a new label, since a screen reader may receive an announcement late, and then reads the current text of
-// its label: it would read the last state once for each state before it.
+// its label: it would read the last state once for each state before it. The previous label is kept for a
+// while for the same reason: it would read an empty text if the label no longer existed.
 void ResultPage::showState(const QString &state)
 {
     auto *column = static_cast<QVBoxLayout *>(layout());
@@ -146,7 +150,9 @@ void ResultPage::showState(const QString &state)
     label->setAccessibleName(state);
     column->insertWidget(column->indexOf(m_state), label);
     label->stackUnder(m_notes); // screen readers use this order
-    delete std::exchange(m_state, label);
+    QLabel *const previous = std::exchange(m_state, label);
+    previous->hide();
+    QTimer::singleShot(lateReading, previous, &QObject::deleteLater);
     label->setVisible(true);
 }
 

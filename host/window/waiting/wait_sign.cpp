@@ -26,7 +26,8 @@ WaitSign::WaitSign(QWidget *parent)
     : QWidget(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
       m_stop(new DialogButton(tr("Do &Not Wait"), this))
 {
-    makeAnnounced(this);
+    // Not the sign, whose name a screen reader repeats when its button gets the focus.
+    makeAnnounced(m_text);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_bar->setRange(0, 0); // indeterminate
@@ -63,7 +64,7 @@ void WaitSign::begin(const QString &what)
 void WaitSign::showMoving()
 {
     m_bar->show();
-    announce(this, m_text->text());
+    announce(m_text, m_text->text());
 }
 
 void WaitSign::offerStop()
@@ -76,7 +77,7 @@ void WaitSign::offerStop()
 void WaitSign::addNote(const QString &note)
 {
     m_text->setText(m_text->text() + QLatin1Char('\n') + note);
-    announce(this, note);
+    announce(m_text, note);
 }
 
 void WaitSign::end()
@@ -84,7 +85,7 @@ void WaitSign::end()
     if (std::exchange(m_isShowing, false))
         QApplication::restoreOverrideCursor();
     m_text->clear();
-    setAccessibleName(QString());
+    m_text->setAccessibleName(QString());
     m_bar->hide();
     m_stop->hide();
 }

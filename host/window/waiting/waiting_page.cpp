@@ -33,7 +33,8 @@ WaitingPage::WaitingPage(QWidget *parent)
     : QWidget(parent), m_text(centredLabel(this)), m_amount(centredLabel(this)),
       m_bar(new QProgressBar(this)), m_cancel(new DialogButton({}, this))
 {
-    makeAnnounced(this);
+    // Not the page, whose name a screen reader repeats when its button gets the focus.
+    makeAnnounced(m_text);
     QFont large = m_text->font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_text->setFont(large);
@@ -61,7 +62,7 @@ void WaitingPage::setTask(const QString &text, const QString &cancel)
     m_cancel->setText(cancel);
     m_cancel->setWhatsThis(explanationOf(QStringLiteral("give-up")));
     m_cancel->setEnabled(true);
-    announce(this, text);
+    announce(m_text, text);
     setProgress(0, 0);
 }
 
@@ -81,7 +82,7 @@ void WaitingPage::setProgress(qint64 done, qint64 total)
 void WaitingPage::setCancelling(const QString &text)
 {
     m_text->setText(text);
-    announce(this, text);
+    announce(m_text, text);
     m_cancel->setEnabled(false);
 }
 
