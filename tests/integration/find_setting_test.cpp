@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
@@ -223,10 +224,12 @@ void FindSettingTest::leadsToTheSetting()
     QCOMPARE(lineOf(0), line);
     for (int row = 1; row < m_window->book()->list()->count(); ++row)
         QVERIFY2(!m_window->book()->builtPage(row), "the search has built a page");
+    QSignalSpy moves(qApp, &QApplication::focusChanged);
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
     QCOMPARE(m_window->book()->currentName(), page);
     QTRY_VERIFY(m_window->focusWidget() && m_window->book()->pages()->isAncestorOf(m_window->focusWidget()));
     QWidget *control = m_window->focusWidget();
+    QCOMPARE(moves.size(), 1); // a screen reader reads each control that the focus passes
     QCOMPARE(control->accessibleName().isEmpty() ? control->property("text").toString().remove(u'&')
                                                  : control->accessibleName(),
              name);
@@ -253,9 +256,18 @@ void FindSettingTest::escapeGivesTheFocusBack()
     QVERIFY(results()->hasFocus());
     QTest::keyClick(results(), Qt::Key_Down);
     QCOMPARE(results()->currentRow(), 1);
+    QSignalSpy moves(qApp, &QApplication::focusChanged);
     QTest::keyClick(results(), Qt::Key_Escape);
     QVERIFY(m_window->isVisible() && results()->isHidden());
     QVERIFY(box(u"PageSize"_s)->hasFocus());
+    QTest::keyClick(m_window.get(), Qt::Key_F1);
+    QVERIFY(m_window->findChild<HelpPage *>()->browser()->hasFocus());
+    QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
+    QVERIFY(box(u"PageSize"_s)->hasFocus());
+    QCOMPARE(moves.size(), 3); // once for each key
+    QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
+    QVERIFY(m_window->book()->list()->hasFocus());
+    QCOMPARE(moves.size(), 4);
 }
 
 void FindSettingTest::answersAtOnce()

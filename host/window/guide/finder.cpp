@@ -113,8 +113,10 @@ void Finder::lead(const FoundSetting &setting)
 {
     const int row = m_book->pageNamed(setting.page);
     m_book->showPage(row);
-    if (row < 0 || m_book->currentRow() != row)
+    if (row < 0 || m_book->currentRow() != row) {
+        m_bar->close();
         return;
+    }
     m_sought = setting;
     QTimer::singleShot(0, this, &Finder::seek); // after the page has been laid out
 }
@@ -130,7 +132,9 @@ void Finder::seek()
     m_sought.reset();
     m_book->openViewOf(control);
     control->show(); // a new row is hidden until it is laid out
-    control->setFocus(Qt::OtherFocusReason);
+    QWidget *const wanted = control->isEnabled() ? control : m_book->list();
+    wanted->setFocus(Qt::OtherFocusReason);
+    m_bar->close();
     QTimer::singleShot(0, control, [page, control] {
         page->reveal(control);
         flash(control);

@@ -102,20 +102,24 @@ bool HelpDesk::showTopic(const QString &topic)
         connect(m_page, &HelpPage::closeWanted, this, &HelpDesk::close);
     }
     m_page->show(text, explainedOn(m_book->builtPage(row)));
-    stack()->setCurrentWidget(m_page);
+    // The focus moves before the current page is hidden; it would pass through other controls otherwise.
+    m_page->setVisible(true);
     m_page->browser()->setFocus(Qt::OtherFocusReason);
+    stack()->setCurrentWidget(m_page);
     Q_EMIT shown();
     return true;
 }
 
 void HelpDesk::close()
 {
-    m_book->showPage(m_book->currentRow());
-    Q_EMIT shown();
+    if (QWidget *page = m_book->builtPage(m_book->currentRow())) // as in showTopic()
+        page->show();
     if (m_before && m_before->isVisible() && m_before->isEnabled())
         m_before->setFocus(Qt::OtherFocusReason);
     else
         m_book->list()->setFocus(Qt::OtherFocusReason);
+    m_book->showPage(m_book->currentRow());
+    Q_EMIT shown();
 }
 
 } // namespace host

@@ -86,10 +86,11 @@ void SearchBar::close()
 {
     const QWidget *now = QApplication::focusWidget();
     const bool hasFocus = !now || isAncestorOf(now) || now == m_results;
-    m_results->hide();
-    hide();
+    // First, since the focus of a hidden widget moves to the next one.
     if (hasFocus && m_before && m_before->isVisible() && m_before->isEnabled())
         m_before->setFocus(Qt::OtherFocusReason);
+    m_results->hide();
+    hide();
     Q_EMIT closed();
 }
 
@@ -138,7 +139,7 @@ void SearchBar::pick(int index)
 {
     if (index < 0 || index >= m_results->count())
         return;
-    close();
+    m_results->resize(0, 0); // not hidden, since it may have the focus
     Q_EMIT picked(index);
 }
 

@@ -36,7 +36,8 @@ public:
     QListWidget *results() const { return m_results; }
 
 Q_SIGNALS:
-    // The user has selected one of the last results. The bar is closed.
+    // The user has selected one of the last results. The bar keeps the focus: close it when the focus has
+    // moved to the setting, so that it does not pass through other controls.
     void picked(int index);
     void opened();
     void closed();

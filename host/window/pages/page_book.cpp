@@ -319,10 +319,10 @@ void PageBook::showPage(int row)
     if (!isBuilt)
         makeFrame(&page);
     m_current = row;
+    if (wasOnPage) // it would move to the next widgets
+        m_list->setFocus();
     m_stack->setCurrentWidget(page.frame); // before preparing a panel that may query its device
     page.frame->scrollToTop();
-    if (wasOnPage) // it would move to the next widget
-        m_list->setFocus();
     if (page.panel >= 0)
         prepare(page);
     if (isBuilt)
