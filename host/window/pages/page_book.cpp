@@ -310,6 +310,8 @@ void PageBook::showPage(int row)
     QWidget *const focus = window()->focusWidget();
     const bool wasOnPage = focus && m_stack->isAncestorOf(focus);
     const bool allowed = !m_isPreparing && leave();
+    if (allowed && wasOnPage) // it would move to the next widgets
+        m_list->setFocus();
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentRow(allowed ? row : m_current);
     if (!allowed)
@@ -319,8 +321,6 @@ void PageBook::showPage(int row)
     if (!isBuilt)
         makeFrame(&page);
     m_current = row;
-    if (wasOnPage) // it would move to the next widgets
-        m_list->setFocus();
     m_stack->setCurrentWidget(page.frame); // before preparing a panel that may query its device
     page.frame->scrollToTop();
     if (page.panel >= 0)

@@ -85,7 +85,7 @@ private:
 
 } // namespace
 
-PageList::PageList(QWidget *parent) : QListWidget(parent)
+PageList::PageList(QWidget *parent) : QuietList(parent)
 {
     setFrameShape(QFrame::NoFrame);
     setItemDelegate(new PageDelegate(this));

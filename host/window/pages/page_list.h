@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "host/window/look/quiet_list.h"
+
 #include <QListWidget>
 
 namespace host {
 
 // The list of pages at the side of the dialog. As wide as its longest name if there is space.
-class PageList : public QListWidget
+class PageList : public QuietList<QListWidget>
 {
     Q_OBJECT
 public:
