@@ -199,11 +199,11 @@ void ConfinedProcess::reap()
     m_handle.reset();
     m_folder.reset();
     if (report.error != 0)
-        Q_EMIT ended(End::NotStarted);
+        Q_EMIT ended(End::NotStarted, report.error);
     else if (!isKnown || facts.si_code != CLD_EXITED)
-        Q_EMIT ended(End::Crashed);
+        Q_EMIT ended(End::Crashed, 0);
     else
-        Q_EMIT ended(facts.si_status == 0 ? End::Done : End::Failed);
+        Q_EMIT ended(facts.si_status == 0 ? End::Done : End::Failed, 0);
 }
 
 } // namespace host

@@ -54,8 +54,9 @@ public:
     void kill();
 
 Q_SIGNALS:
-    // The process and its child processes have ended, and the folder has been removed.
-    void ended(host::ConfinedProcess::End end);
+    // The process and its child processes have ended, and the folder has been removed. With errno if it was
+    // not started, else 0.
+    void ended(host::ConfinedProcess::End end, int error);
 
 private:
     void reap();

@@ -9,12 +9,51 @@
 
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
+
+namespace {
+
+// The thread on which confined processes are started and waited for. On a busy machine it is blocked for tens
+// of milliseconds while namespaces are created, until the program is executed, and while a folder on which a
+// file system was mounted is removed. It runs until the application object is destroyed, since the kernel
+// ends the processes with it.
+class ProcessThread
+{
+public:
+    static ProcessThread &instance()
+    {
+        static auto *const thread = new ProcessThread; // worker threads may outlive static objects
+        return *thread;
+    }
+    void take(QObject *process) { process->moveToThread(&m_thread); }
+    // Owns the processes. Call on the thread.
+    void own(QObject *process) { process->setParent(&m_owner); }
+
+private:
+    ProcessThread()
+    {
+        m_owner.moveToThread(&m_thread);
+        QObject::connect(
+            &m_thread, &QThread::finished, &m_owner, [this] { qDeleteAll(m_owner.children()); },
+            Qt::DirectConnection);
+        m_thread.start();
+        qAddPostRoutine([] {
+            instance().m_thread.quit();
+            instance().m_thread.wait();
+        });
+    }
+
+    QThread m_thread;
+    QObject m_owner;
+};
+
+} // namespace
 
 FileView::FileView(const SharedFile &file)
 {
@@ -44,7 +83,10 @@ LimitedProcess::LimitedProcess(QObject *parent) : QObject(parent)
     });
 }
 
-LimitedProcess::~LimitedProcess() = default;
+LimitedProcess::~LimitedProcess()
+{
+    killProcess();
+}
 
 QString LimitedProcess::pathFor(const SharedFile &file)
 {
@@ -58,6 +100,7 @@ void LimitedProcess::start(const Call &call)
     struct stat facts = {};
     m_inputSize = fstat(call.input->get(), &facts) == 0 ? facts.st_size : 0;
     m_output = std::make_shared<const platform::UniqueFd>(memfd_create("pages", MFD_CLOEXEC));
+    const int error = *m_output ? 0 : errno;
     ConfinedProcess::Call confined{
         QFile::encodeName(call.program), {}, {}, call.input->get(), m_output->get()};
     for (const QString &argument : call.arguments)
@@ -66,23 +109,32 @@ void LimitedProcess::start(const Call &call)
         confined.environment.append(variable.toUtf8());
     for (const SharedFile &other : call.others)
         confined.others.push_back(other->get());
-    m_process = std::make_unique<ConfinedProcess>();
-    connect(m_process.get(), &ConfinedProcess::ended, this, &LimitedProcess::processEnded);
+    auto *process = new ConfinedProcess;
+    m_process = process;
+    m_isWanted = std::make_shared<std::atomic<bool>>(true);
+    connect(process, &ConfinedProcess::ended, this,
+            [this, isWanted = m_isWanted](ConfinedProcess::End end, int reason) {
+                if (*isWanted)
+                    processEnded(end, reason);
+            });
     m_timer.start(m_limits.time);
-    if (!*m_output || !m_process->start(confined, m_limits)) {
-        m_problem = tr("it cannot be started: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
-        QMetaObject::invokeMethod(
-            m_process.get(), [this] { finish(false); }, Qt::QueuedConnection);
-    }
+    ProcessThread::instance().take(process);
+    // With the files, which must be open until the process has been started.
+    QMetaObject::invokeMethod(process, [process, confined, error, limits = m_limits, isWanted = m_isWanted,
+                                        call, output = m_output] {
+        ProcessThread::instance().own(process);
+        if (*isWanted && (error != 0 || !process->start(confined, limits)))
+            Q_EMIT process->ended(ConfinedProcess::End::NotStarted, error != 0 ? error : errno);
+    });
 }
 
-void LimitedProcess::processEnded(ConfinedProcess::End end)
+void LimitedProcess::processEnded(ConfinedProcess::End end, int error)
 {
     // Programs copy their documents, and report a full file in the same way as a broken document.
     const bool isLarge = m_inputSize > m_limits.output / 2;
     struct stat facts = {};
     if (end == ConfinedProcess::End::NotStarted)
-        m_problem = tr("it cannot be started");
+        m_problem = tr("it cannot be started: %1").arg(QString::fromLocal8Bit(std::strerror(error)));
     else if (end != ConfinedProcess::End::Done && fstat(m_output->get(), &facts) == 0 &&
              facts.st_size >= m_limits.output)
         m_problem = tr("it wrote too much");
@@ -100,25 +152,21 @@ void LimitedProcess::stop()
     killProcess();
 }
 
-// Kills the process. Only a thread other than the main thread waits for its end, since its event loop may end
-// earlier.
+// Kills the process, which is deleted when it has ended.
 void LimitedProcess::killProcess()
 {
     if (!m_process)
         return;
-    ConfinedProcess *const process = m_process.release();
-    process->disconnect(this);
-    if (!process->isRunning()) {
-        process->deleteLater(); // the process may be the caller
-        return;
-    }
-    if (process->thread() != QCoreApplication::instance()->thread()) {
-        delete process;
-        return;
-    }
-    process->setParent(QCoreApplication::instance());
-    connect(process, &ConfinedProcess::ended, process, &QObject::deleteLater);
-    process->kill();
+    *m_isWanted = false;
+    ConfinedProcess *const process = std::exchange(m_process, nullptr);
+    QMetaObject::invokeMethod(process, [process] {
+        if (!process->isRunning()) {
+            process->deleteLater();
+            return;
+        }
+        connect(process, &ConfinedProcess::ended, process, &QObject::deleteLater);
+        process->kill();
+    });
 }
 
 void LimitedProcess::finish(bool isDone)

@@ -7,9 +7,11 @@
 #include "platform/unique_fd.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QTimer>
 
+#include <atomic>
 #include <memory>
 
 namespace host {
@@ -35,6 +37,7 @@ private:
 // Runs a program that reads an untrusted document, confined (Confinement), with limits on time, memory and
 // output. It is killed if it exceeds them, or with this object. The document is /dev/stdin; the standard
 // output is written to a file in memory, other output is discarded. Asynchronous; at most one run at a time.
+// No operation waits for a process. Processes that still run are killed with the application object.
 class LimitedProcess : public QObject
 {
     Q_OBJECT
@@ -70,11 +73,12 @@ Q_SIGNALS:
 
 private:
     void finish(bool isDone);
-    void processEnded(ConfinedProcess::End end);
+    void processEnded(ConfinedProcess::End end, int error);
     void killProcess();
 
     Limits m_limits;
-    std::unique_ptr<ConfinedProcess> m_process;
+    QPointer<ConfinedProcess> m_process;           // on the thread of all confined processes
+    std::shared_ptr<std::atomic<bool>> m_isWanted; // false after the run was stopped
     SharedFile m_output;
     qint64 m_inputSize = 0; // bytes
     QTimer m_timer;

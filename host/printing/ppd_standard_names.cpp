@@ -193,11 +193,12 @@ QMap<QString, QString> PpdDocument::choicesMarkedBy(const QString &name, const Q
             }
         }
     }
+    // Not in libcups's table of strings: its lock may be held by a worker thread that lists the printers.
+    QByteArray knownName = known.toUtf8(), givenValue = value.toUtf8();
+    cups_option_t given{knownName.data(), givenValue.data()};
     const auto markedByValue = [&] {
-        CupsOptionList list;
-        list.add(known.toUtf8().constData(), value.toUtf8().constData());
         const constraints::PpdEvaluation unchecked(m_ppd);
-        cupsMarkOptions(m_ppd, list.count(), list.options());
+        cupsMarkOptions(m_ppd, 1, &given);
         for (auto it = before.begin(); it != before.end(); ++it) {
             const QString now = markedChoice(it.key());
             const bool isSound = !isCustomChoice(now) || option(it.key())->hasChoice(now);

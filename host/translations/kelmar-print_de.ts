@@ -2401,10 +2401,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>das Programm wurde unerwartet beendet</translation>
     </message>
     <message>
-        <source>it cannot be started</source>
-        <translation>das Programm kann nicht gestartet werden</translation>
-    </message>
-    <message>
         <source>it cannot be started: %1</source>
         <translation>das Programm kann nicht gestartet werden: %1</translation>
     </message>

@@ -2401,10 +2401,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>ha terminado de forma inesperada</translation>
     </message>
     <message>
-        <source>it cannot be started</source>
-        <translation>no se puede iniciar</translation>
-    </message>
-    <message>
         <source>it cannot be started: %1</source>
         <translation>no se puede iniciar: %1</translation>
     </message>

@@ -2401,10 +2401,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>le programme s’est terminé de façon inattendue</translation>
     </message>
     <message>
-        <source>it cannot be started</source>
-        <translation>le programme ne peut pas être lancé</translation>
-    </message>
-    <message>
         <source>it cannot be started: %1</source>
         <translation>le programme ne peut pas être lancé&#xa0;: %1</translation>
     </message>

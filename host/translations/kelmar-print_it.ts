@@ -2401,10 +2401,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>è terminato in modo imprevisto</translation>
     </message>
     <message>
-        <source>it cannot be started</source>
-        <translation>non può essere avviato</translation>
-    </message>
-    <message>
         <source>it cannot be started: %1</source>
         <translation>non può essere avviato: %1</translation>
     </message>

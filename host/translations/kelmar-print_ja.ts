@@ -2399,10 +2399,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>予期せず終了しました</translation>
     </message>
     <message>
-        <source>it cannot be started</source>
-        <translation>起動できません</translation>
-    </message>
-    <message>
         <source>it cannot be started: %1</source>
         <translation>起動できません: %1</translation>
     </message>

@@ -39,7 +39,7 @@ private Q_SLOTS:
     void initTestCase() { startServer(); }
     void init()
     {
-        m_heart.emplace();
+        m_heart.emplace(std::chrono::milliseconds(longestGap));
         m_file = sourcePath("/demo/report.pdf");
     }
     void cleanup() { checkGap(); }
