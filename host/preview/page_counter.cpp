@@ -242,16 +242,15 @@ void PageCounter::opened(const Opened &opened)
 }
 
 // A PDF file is also checked with the filter that prints it, which rejects files that other programs can
-// still read.
+// still read. Its pages are counted meanwhile.
 void PageCounter::documentMade(const SharedFile &pdf)
 {
     if (m_step != Step::Making)
         return;
     m_pdf = pdf;
-    if (m_isPdf)
-        return;
-    m_maker.stop();
-    run(Step::Counting, counter, countArguments);
+    if (!m_isPdf)
+        m_maker.stop();
+    run(m_isPdf ? Step::Making : Step::Counting, counter, countArguments);
 }
 
 void PageCounter::made(bool asPrinted)
@@ -259,7 +258,9 @@ void PageCounter::made(bool asPrinted)
     if (m_step != Step::Making)
         return;
     m_isReadable = asPrinted;
-    run(Step::Counting, counter, countArguments);
+    m_step = Step::Counting;
+    if (!m_process.isRunning())
+        ended(m_count);
 }
 
 void PageCounter::failed(PageMaker::Fault fault)
@@ -290,7 +291,9 @@ void PageCounter::run(Step step, const QString &program, const QStringList &argu
 void PageCounter::ended(const SharedFile &output)
 {
     const bool isYes = output != nullptr;
-    if (m_step == Step::Counting) {
+    if (m_step == Step::Making) { // made() or failed() follows
+        m_count = output;
+    } else if (m_step == Step::Counting) {
         const auto facts = readPageFacts(output);
         m_result.pages = facts ? facts->pages : 0;
         m_result.hasSeveralSizes = facts && haveSeveralSizes(output);
@@ -312,7 +315,9 @@ void PageCounter::ended(const SharedFile &output)
 
 void PageCounter::finish()
 {
+    m_process.stop();
     m_pdf.reset();
+    m_count.reset();
     m_known.insert(m_path, m_result);
     next();
     Q_EMIT counted();

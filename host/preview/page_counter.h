@@ -104,8 +104,8 @@ private:
     QStringList m_wanted;
     QHash<QString, Known> m_known; // by path; includes documents that cannot be counted
     Step m_step = Step::Idle;
-    QString m_path;   // the document being counted
-    SharedFile m_pdf; // its contents
+    QString m_path;            // the document being counted
+    SharedFile m_pdf, m_count; // its contents; its counted pages while the filter still reads it
     bool m_isPdf = false;
     bool m_isReadable = false; // the filter that prints it has read it
     Known m_result;            // its result so far
