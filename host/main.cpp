@@ -42,11 +42,10 @@ struct MainText
 // shown. False if there is no display, in which case Qt would end the program.
 bool choosePlatform(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return true;
+    const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool hasDisplay =
-        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!hasDisplay || runsWithoutWindow(argc, argv))
+        isChosen || qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (!hasDisplay || runsWithoutWindow(argc, argv)) // opening a display takes long
         qputenv("QT_QPA_PLATFORM", "offscreen");
     return hasDisplay;
 }
