@@ -96,6 +96,7 @@ void SessionHistory::note()
 {
     if (m_isPaused)
         return;
+    m_isQueued = false; // a queued call has nothing left to do
     SessionState now = StateRestorer::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
         // A panel that has been saved repeats known values.
@@ -127,8 +128,8 @@ void SessionHistory::noteLater()
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isQueued = false;
-            note();
+            if (std::exchange(m_isQueued, false))
+                note();
         },
         Qt::QueuedConnection);
 }
