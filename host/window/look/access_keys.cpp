@@ -17,7 +17,28 @@ namespace host {
 
 namespace {
 
-const char *const textProperty = "text";
+QString textOf(const QWidget *widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(widget))
+        return label->text();
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return button ? button->text() : QString();
+}
+
+void setTextOf(QWidget *widget, const QString &text)
+{
+    if (auto *label = qobject_cast<QLabel *>(widget))
+        label->setText(text);
+    else if (auto *button = qobject_cast<QAbstractButton *>(widget))
+        button->setText(text);
+}
+
+// Whether the widget has the dynamic property. Few widgets have any, and looking for one in the declared
+// properties first takes long.
+bool isMarked(const QWidget *widget, const char *property)
+{
+    return !widget->dynamicPropertyNames().isEmpty() && widget->property(property).toBool();
+}
 
 bool hasLetter(const QString &text)
 {
@@ -48,8 +69,7 @@ QList<QWidget *> keyedWidgets(QWidget *part)
         const auto *label = qobject_cast<QLabel *>(widget);
         const bool isNamed =
             label ? label->buddy() != nullptr : qobject_cast<QAbstractButton *>(widget) != nullptr;
-        if (isNamed && !widget->property(AccessKeys::keylessProperty).toBool() &&
-            hasLetter(widget->property(textProperty).toString()))
+        if (isNamed && !isMarked(widget, AccessKeys::keylessProperty) && hasLetter(textOf(widget)))
             found.append(widget);
     }
     return found;
@@ -78,7 +98,7 @@ AccessKeys::AccessKeys(QWidget *window, const QList<QWidget *> &parts)
 
 QString AccessKeys::ownText(QWidget *widget) const
 {
-    const QString text = widget->property(textProperty).toString();
+    const QString text = textOf(widget);
     const auto known = m_texts.find(widget);
     return known != m_texts.end() && known->shown == text ? known->own : text;
 }
@@ -86,7 +106,6 @@ QString AccessKeys::ownText(QWidget *widget) const
 void AccessKeys::assign()
 {
     m_queued = false;
-    Mnemonics keys;
     QHash<QWidget *, Texts> texts;
     QList<QWidget *> usable, yielding, unusable, passing;
     for (QWidget *part : std::as_const(m_parts)) {
@@ -99,9 +118,9 @@ void AccessKeys::assign()
             known.own = ownText(widget);
             // Hidden widgets are not changed: a changed text is an event for a screen reader.
             const bool isShown = widget->isVisibleTo(m_window);
-            known.shown = isShown ? known.own : widget->property(textProperty).toString();
+            known.shown = isShown ? known.own : textOf(widget);
             texts.insert(widget, known);
-            const bool yields = widget->property(yieldingProperty).toBool();
+            const bool yields = isMarked(widget, yieldingProperty);
             if (isShown)
                 (part == m_parts.last() ? passing
                  : !isUsable(widget)    ? unusable
@@ -110,18 +129,27 @@ void AccessKeys::assign()
                     .append(widget);
         }
     }
-    for (const QList<QWidget *> &widgets : {usable, yielding, unusable, passing}) {
+    Mnemonics keys;
+    bool isKnown = true; // whether all earlier groups have the texts of the previous call
+    for (Group *group = m_groups.data();
+         const QList<QWidget *> &widgets : {usable, yielding, unusable, passing}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);
-        const QStringList shown = keys.assign(own);
-        for (qsizetype i = 0; i < shown.size(); ++i)
-            texts[widgets.at(i)].shown = shown.at(i);
+        isKnown = isKnown && group->own == own;
+        if (!isKnown) {
+            const QStringList shown = keys.assign(own);
+            *group = {own, shown, keys};
+        }
+        keys = group->keys;
+        for (qsizetype i = 0; i < own.size(); ++i)
+            texts[widgets.at(i)].shown = group->shown.at(i);
+        ++group;
     }
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {
-        if (it.key()->property(textProperty).toString() != it->shown)
-            it.key()->setProperty(textProperty, it->shown);
+        if (textOf(it.key()) != it->shown)
+            setTextOf(it.key(), it->shown);
         isWider |= reserveWidth(it.key(), &*it);
     }
     m_texts = texts;

@@ -3,12 +3,17 @@
 
 #pragma once
 
+#include "host/window/look/mnemonics.h"
+
 #include <QFont>
 #include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
+
+#include <array>
 
 class QWidget;
 
@@ -52,12 +57,18 @@ private:
         QFont font;
         bool isReserved = false; // this class has set the minimum width
     };
+    struct Group
+    {
+        QStringList own, shown;
+        Mnemonics keys; // taken by this group and the groups before it
+    };
     QString ownText(QWidget *widget) const;
     static bool reserveWidth(QWidget *widget, Texts *texts);
 
     QWidget *m_window;
     QList<QWidget *> m_parts;
     QHash<QWidget *, Texts> m_texts; // of the widgets found last
+    std::array<Group, 4> m_groups;   // in order of choice, as assigned last
     bool m_queued = false;
 };
 

@@ -3,29 +3,45 @@
 
 #include "host/window/look/tab_order.h"
 
+#include <utility>
+
 namespace host {
 
-QList<QWidget *> tabStops(QWidget *part)
+namespace {
+
+// Whether the Tab key reaches the widget if it is visible and enabled.
+bool isTabStop(const QWidget *widget)
 {
-    QList<QWidget *> stops;
-    QWidget *const start = part->window();
-    for (QWidget *next = start->nextInFocusChain(); next != start; next = next->nextInFocusChain()) {
-        const bool inside = next == part || part->isAncestorOf(next);
-        if (inside && (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
-            stops.append(next);
-    }
-    return stops;
+    return (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
 }
+
+// The index of the first part that is the widget or contains it; the number of parts if there is none.
+qsizetype firstPartWith(QWidget *widget, const QList<QWidget *> &parts)
+{
+    qsizetype first = parts.size();
+    for (QWidget *outer = widget; outer && !outer->isWindow(); outer = outer->parentWidget()) {
+        const qsizetype part = parts.indexOf(outer);
+        first = part < 0 ? first : qMin(first, part);
+    }
+    return first;
+}
+
+} // namespace
 
 void chainTabOrder(const QList<QWidget *> &parts)
 {
-    QList<QWidget *> chain;
-    for (QWidget *part : parts) {
-        for (QWidget *stop : tabStops(part)) {
-            if (!chain.contains(stop))
-                chain.append(stop);
-        }
+    if (parts.isEmpty())
+        return;
+    QList<QList<QWidget *>> stops(parts.size() + 1); // the last of widgets in no part
+    QWidget *const start = parts.first()->window();
+    for (QWidget *next = start->nextInFocusChain(); next != start; next = next->nextInFocusChain()) {
+        if (isTabStop(next))
+            stops[firstPartWith(next, parts)].append(next);
     }
+    stops.removeLast();
+    QList<QWidget *> chain;
+    for (const QList<QWidget *> &ofPart : std::as_const(stops))
+        chain += ofPart;
     for (qsizetype i = 1; i < chain.size(); ++i)
         QWidget::setTabOrder(chain.at(i - 1), chain.at(i));
 }

@@ -8,10 +8,6 @@
 
 namespace host {
 
-// The widgets in a part of a window, including the part itself, that the Tab key reaches if they are visible
-// and enabled, in the order of the current focus chain.
-QList<QWidget *> tabStops(QWidget *part);
-
 // Sets the tab order of the parts of a window; the order within each part does not change. If a part contains
 // another one, the one that is listed first comes first.
 void chainTabOrder(const QList<QWidget *> &parts);
