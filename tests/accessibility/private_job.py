@@ -25,7 +25,7 @@ class Session:
         self.server = server  # process ID
         self.log = []
         self.notifications = []  # one for each time that one appeared
-        self.descriptions = []  # read with a control: the pressed buttons', and the names of notifications around it
+        self.descriptions = []  # read with the buttons: their own, and the names of notifications around them
         self.is_empty_announced = False
         self.problem = "nothing happened"
         # The expected announcements, and the button pressed or the pages typed after each. The first question was shown
@@ -33,7 +33,7 @@ class Session:
         self.steps = [(None, "Keep and Review"), (None, "Range:"), (None, self.type_pages("3-1")),
                       ("“3-1” is not a page", self.type_pages("1-2")), (None, "Print"),
                       ("cannot be used together", "Apply Suggestion"), (None, self.print_slowly),
-                      ("Sending the document", self.resume_server), ("Sent to", lambda: True),
+                      ("Sending the document", self.end_slowness), ("Sent to", lambda: True),
                       ("Job 1: done", self.check_late_reader), (None, "Close")]
         for name in EVENTS:
             pyatspi.Registry.registerEventListener(self.note, name)
@@ -46,8 +46,6 @@ class Session:
     def note(self, event):
         try:
             role, name = event.source.getRoleName(), event.source.name
-            if event.detail1 and "focused" in str(event.type):
-                self.descriptions += self.names_around(event.source)
         except (GLib.GError, LookupError, RuntimeError):
             return  # no longer exists
         entry = (str(event.type), role, name, event.detail1)
@@ -57,15 +55,14 @@ class Session:
             self.is_empty_announced |= not name
         print("%-45s %-14s %d  %s" % (entry[0], role, event.detail1, name.replace("\n", " / ")), flush=True)
 
-    @staticmethod
-    def names_around(control):
-        """The names that a screen reader reads before a control when it gets the focus."""
-        names = []
-        while control.parent:
-            control = control.parent
-            if control.getRoleName() == "notification":
-                names.append(control.name)
-        return names
+    def read(self, button):
+        """Notes what a screen reader reads with a button when it gets the focus."""
+        self.descriptions.append(button.description)
+        around = button.parent
+        while around:
+            if around.getRole() == pyatspi.ROLE_NOTIFICATION:
+                self.descriptions.append(around.name)
+            around = around.parent
 
     def times_announced(self, words):
         """How often a screen reader announces a text: when a notification appears, and with the widgets that it describes."""
@@ -113,7 +110,7 @@ class Session:
                           (pyatspi.STATE_SHOWING, pyatspi.STATE_ENABLED))
         if not found:
             return False
-        self.descriptions.append(found.description)
+        self.read(found)
         print("--- pressing %s (%s)" % (name, found.description.replace("\n", " / ")), flush=True)
         actions = found.queryAction()
         names = [actions.getName(i) for i in range(actions.nActions)]
@@ -124,9 +121,12 @@ class Session:
         os.kill(self.server, signal.SIGSTOP)
         return self.press("Print")
 
-    def resume_server(self):
-        os.kill(self.server, signal.SIGCONT)
-        return True
+    def end_slowness(self):
+        button = self.find((pyatspi.ROLE_PUSH_BUTTON,), "Cancel Printing", (pyatspi.STATE_SHOWING,))
+        if button:
+            self.read(button)
+            os.kill(self.server, signal.SIGCONT)
+        return bool(button)
 
     def type_pages(self, text):
         def act():
@@ -153,7 +153,7 @@ class Session:
         return True
 
     def give_up(self):
-        self.resume_server()
+        os.kill(self.server, signal.SIGCONT)
         self.process.kill()
         pyatspi.Registry.stop()
         return False
