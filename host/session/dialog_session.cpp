@@ -32,8 +32,8 @@ QString droppedSettings(platform::PrintDialogPanel &panel, const QVariantMap &be
         .arg(panel.panelName(), dropped.join(QStringLiteral(", ")), panel.unavailableReason());
 }
 
-// A choice that the PPD does not have is not marked, and a filter would use its own default instead. Null if
-// the PPD has all of them.
+// Describes the user's defaults whose option or choice the PPD does not have. Such a choice is not marked,
+// and a filter would use its own default. Null if there are none.
 QString unknownDefaults(const PpdDocument &ppd, const Destination &destination)
 {
     QStringList unknown;
@@ -183,7 +183,8 @@ void DialogSession::panelKeyChanged(int panel, const QString &key)
             this, [this, panel, key] { keepLocked(panel, key); }, Qt::QueuedConnection);
 }
 
-// Called when the panel has reacted to the change.
+// Restores a locked choice that a panel has changed. Called when control has returned to the event loop, so
+// that the panel has reacted to the change.
 void DialogSession::keepLocked(int panel, const QString &key)
 {
     const QString locked = m_rule.lockedChoice(m_ppd.get(), key);
@@ -236,10 +237,9 @@ QStringList DialogSession::otherKeywords() const
     return others;
 }
 
-// All choices that the host makes end here, whether they come from a control of its own, a preset, undo, an
-// application, the command line or a proposal. Checks locks and custom values, changes the setting to the
-// PPD's spelling, and records it; panels are not updated. False if the PPD does not have the choice, or the
-// policy has fixed another one.
+// Marks a choice in the PPD and records it. All choices of the host are marked here: those of its controls,
+// presets, undo, applications, the command line and proposals. Changes the setting to the PPD's spelling;
+// does not update panels. False if the PPD does not have the choice, or the policy has fixed another one.
 bool DialogSession::mark(ChosenSetting *setting)
 {
     const auto option = m_ppd ? m_ppd->option(setting->key) : std::nullopt;
@@ -273,7 +273,7 @@ void DialogSession::addNotice(const QString &notice)
 
 void DialogSession::noteChosen(ChosenSetting setting)
 {
-    // When a panel is saved, it repeats the values that were set on it.
+    // A panel that is saved announces the values that were set on it again; codes among them stay secret.
     const auto &earlier = m_chosen.inOrder();
     setting.isSecret |=
         isSecret(setting.key) || std::any_of(earlier.begin(), earlier.end(), [&](const ChosenSetting &known) {

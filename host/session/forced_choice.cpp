@@ -31,17 +31,17 @@ QList<OptionChoice> locksAgainst(const DialogSession &session, const Resolution 
     return locks;
 }
 
-// With the choice marked: a resolution that keeps it and all locked options, and protecting choices if
-// possible.
+// A resolution that keeps the marked choice of the option, all locked options, and protecting choices if
+// possible. Empty if there is none; `locks` is then set to the locked options that prevent it.
 Resolution resolutionKeeping(const DialogSession &session, const QString &keyword, QList<OptionChoice> *locks)
 {
-    const auto gentle = protectingResolution(*session.ppd(), session.protection(), keyword, nullptr);
-    for (const auto &way : {gentle, session.ppd()->resolution(keyword)}) {
-        if (!way || changes(*way, keyword))
+    const auto protecting = protectingResolution(*session.ppd(), session.protection(), keyword, nullptr);
+    for (const auto &resolution : {protecting, session.ppd()->resolution(keyword)}) {
+        if (!resolution || changes(*resolution, keyword))
             continue;
-        *locks = locksAgainst(session, *way);
+        *locks = locksAgainst(session, *resolution);
         if (locks->isEmpty())
-            return *way;
+            return *resolution;
     }
     return {};
 }

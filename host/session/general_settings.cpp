@@ -77,7 +77,7 @@ QString colorOptionKeyword(const PpdDocument &ppd)
 
 QStringList generalOptionKeywords(const PpdDocument &ppd)
 {
-    // Alternative names of the same option: the first one in the PPD is shown.
+    // Each list contains alternative keywords of one option; the first one that the PPD has is shown.
     const QList<QStringList> wanted = {{QStringLiteral("PageSize")},
                                        {QStringLiteral("MediaType")},
                                        {QStringLiteral("InputSlot")},

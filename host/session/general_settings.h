@@ -35,8 +35,8 @@ struct GeneralSettings
 
     // Takes over the part to print, and the parts offered by the other program.
     void takePart(const GeneralSettings &other);
-    // The user's and the queue's defaults among a destination's options. Invalid values are ignored. A PPD's
-    // default for collation is also ignored, since it suits the filters, not the user.
+    // The user's and the queue's defaults among a destination's options. Ignores invalid values, and the
+    // PPD's default for collation, which is chosen for the filters rather than for the user.
     static GeneralSettings from(const QMap<QString, QString> &options);
     // As job options, without the layout; defaults of the print system are left out.
     QList<JobOption> jobOptions() const;

@@ -56,7 +56,7 @@ private:
     QList<JobOption> m_options;
 };
 
-// Job options of the user that do not correspond to an option of the PPD.
+// The chosen job options that do not correspond to an option of the PPD; they are sent unchanged.
 QList<JobOption> passedOn(const JobOptionSources &sources)
 {
     QList<JobOption> options;
@@ -100,7 +100,7 @@ bool isDecided(const JobOptionSources &sources, const QString &name)
                        [&](const QString &keyword) { return sources.chosen.contains(keyword); });
 }
 
-// Whether the server would add the name with a value that differs from the user's default.
+// Whether the server would add this name to the job with a value that differs from these choices.
 bool serverDefaultDiffers(const JobOptionSources &sources, const QString &name,
                           const QMap<QString, QString> &choices)
 {
@@ -108,10 +108,10 @@ bool serverDefaultDiffers(const JobOptionSources &sources, const QString &name,
     return servers.contains(name) && sources.ppd->standardChoices(name, servers.value(name)) != choices;
 }
 
-// A default of the queue or the user under a standard name. The server adds the queue's default to each job
-// that does not contain the name, even if the job contains the PPD's keyword, and the filters would receive
-// both. Newer versions of libcups take the tray and the type of the paper only from "media" if it is there,
-// so it then contains all three.
+// The job option for a default of the queue or the user under a standard name. The server adds the queue's
+// default to each job that does not contain the name, even if the job contains the PPD's keyword; the filters
+// would then receive both. If a job contains "media", newer versions of libcups take the tray and the
+// type of the paper from it alone, so it then contains size, tray and type.
 JobOption standardDefault(const JobOptionSources &sources, const QString &name, const QString &value)
 {
     const QMap<QString, QString> choices = sources.ppd->standardChoices(name, value);

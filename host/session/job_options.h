@@ -30,8 +30,8 @@ struct JobOptionSources
 // Whether a name belongs to a setting of a panel, which is in reverse domain order.
 bool isPanelSetting(const QString &name);
 
-// Whether a name that the PPD does not have looks like a PPD option: those of the print system are in lower
-// case.
+// Whether a name that the PPD does not have looks like the keyword of a PPD option: it begins with a capital
+// letter, unlike the names of the print system.
 bool looksLikeOptionOfAPpd(const QString &name);
 
 // The options sent with the job, one per name. If there are several values for a name, the user's choice

@@ -76,7 +76,7 @@ QString usualValue(const QString &name)
     return usual.value(name, QString());
 }
 
-// With both cover sheets, as the print server reports it.
+// The value as the print server reports it: "job-sheets" with both cover sheets.
 QString normalized(const QString &name, const QString &value)
 {
     if (name != sheetsName || value.contains(QLatin1Char(',')))

@@ -39,8 +39,8 @@ void setJobSetting(DialogSession *session, const QString &name, const QString &v
 
 // A value in the spelling of the print system: "job-hold-until" in lower case, "job-priority" as digits only.
 QString canonicalJobValue(const QString &name, const QString &value);
-// What "job-hold-until" or "job-priority" takes, as a localised sentence with the name, if it does not take
-// this value; otherwise a null string. Always null for other names.
+// A localised sentence with the valid values of "job-hold-until" or "job-priority", if this value is invalid;
+// null if it is valid, and for all other names.
 QString jobSettingProblem(const QString &name, const QString &value);
 
 // The localised name of a setting, and of a value. The value of "job-sheets" may be a single sheet.

@@ -27,10 +27,10 @@ public:
     {
     }
 
-    // Called when an option was set on a panel. Changes that follow before control returns to the event loop
-    // are its consequences.
+    // Call when an option was set on a panel. Changes that other panels announce before control returns to
+    // the event loop are attributed to it.
     void noteSetting(int panel, const QString &key);
-    // Called when a panel is about to change an option or a print setting.
+    // Call when a panel is about to change an option or a print setting.
     void announce(const QString &keyword);
 
     struct Outcome
@@ -49,7 +49,7 @@ private:
     {
         QString keyword;
         QVariant before;         // the value at its first announcement
-        bool byUser = true;      // false if it was not announced during a save of the user's panel
+        bool byUser = true;      // whether the panel that handles the keyword was being saved
         OptionChoice cause = {}; // the preceding choice on another panel; empty if there was none
     };
     QVariant currentValue(const QString &keyword) const;

@@ -58,7 +58,7 @@ QVariant wholeNumber(const QString &text, QString *problem)
     bool fits = false;
     const QVariant value = isSigned ? QVariant::fromValue(static_cast<Number>(text.toLongLong(&fits)))
                                     : QVariant::fromValue(static_cast<Number>(text.toULongLong(&fits)));
-    // A number that does not fit the type has been changed.
+    // The conversion has changed a number that does not fit the type.
     if (isDigits(digits) && fits && value.toString().toLongLong() == text.toLongLong())
         return value;
     *problem = PanelValueText::tr("takes a whole number from %1 to %2")
@@ -97,8 +97,8 @@ QVariant typed(const QString &text, QMetaType type, QString *problem)
     }
 }
 
-// A description of valid texts for this key, derived from its current value.
-QString shapeOf(const QString &current)
+// A description of valid texts for a key with this current value.
+QString validTextLike(const QString &current)
 {
     if (isDigits(current))
         return PanelValueText::tr("takes %1 digits").arg(current.size());
@@ -107,7 +107,7 @@ QString shapeOf(const QString &current)
     return PanelValueText::tr("does not take this value");
 }
 
-// The state of a panel's options, to restore it.
+// Remembers the choices of a panel's options, and restores them on request.
 class PanelSnapshot
 {
 public:
@@ -123,8 +123,8 @@ public:
                 m_object->setValueForKey(it.value(), it.key());
         }
     }
-    // The first option whose current choice does not exist in the PPD.
-    QString strayOption(const PpdDocument &ppd)
+    // The first changed option whose current choice the PPD does not have; null if there is none.
+    QString optionWithUnknownChoice(const PpdDocument &ppd)
     {
         for (auto it = m_values.begin(); it != m_values.end(); ++it) {
             const auto option = ppd.option(it.key());
@@ -153,13 +153,13 @@ QString trySet(platform::KeyValueObject *object, PanelSnapshot *snapshot, const 
         object->setValueForKeyPath(given, keyPath);
     } catch (const platform::Exception &exception) {
         qCDebug(lcHost).noquote() << exception.name(); // the reason may contain the value
-        return shapeOf(before);
+        return validTextLike(before);
     }
-    const QString stray = snapshot->strayOption(ppd);
-    if (!stray.isNull() && !isDigits(before))
+    const QString invalid = snapshot->optionWithUnknownChoice(ppd);
+    if (!invalid.isNull() && !isDigits(before))
         return PanelValueText::tr("does not take this value: %1 has only %2")
-            .arg(stray, choicesInWords(ppd, stray));
-    return stray.isNull() && object->valueForKeyPath(keyPath) == given ? QString() : shapeOf(before);
+            .arg(invalid, choicesInWords(ppd, invalid));
+    return invalid.isNull() && object->valueForKeyPath(keyPath) == given ? QString() : validTextLike(before);
 }
 
 } // namespace

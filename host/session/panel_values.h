@@ -14,8 +14,6 @@ namespace host {
 
 class PpdDocument;
 
-// Setting of panel keys from texts.
-
 // The keys and key paths of a panel that can be set: its declared writable properties, without internal state
 // (STORED false) and without properties for options that the panel does not handle on this printer.
 QStringList settableKeys(platform::KeyValueObject *object, const QStringList &keywords);

@@ -33,8 +33,8 @@ bool isSecretSetting(const DialogSession &session, const QString &name)
            });
 }
 
-// Whether the option is a default of the print system.
-bool isIdle(const DialogSession &session, const JobOption &option)
+// Whether the option only states the default of one copy.
+bool isDefaultCopies(const DialogSession &session, const JobOption &option)
 {
     return option.name == QLatin1String("copies") && option.value == QLatin1String("1") &&
            session.startingGeneral().copies == 1;
@@ -43,7 +43,7 @@ bool isIdle(const DialogSession &session, const JobOption &option)
 bool isKept(const DialogSession &session, const JobOption &option)
 {
     return (option.kind == JobOption::Kind::Choice || option.kind == JobOption::Kind::Attribute) &&
-           option.name != pagesName && !isIdle(session, option);
+           option.name != pagesName && !isDefaultCopies(session, option);
 }
 
 bool isKnown(const DialogSession &session, const QString &name)
@@ -53,7 +53,7 @@ bool isKnown(const DialogSession &session, const QString &name)
            (session.ppd() && (session.ppd()->hasOption(name) || session.ppd()->takesOption(name)));
 }
 
-// The choices of the PPD options if these options were marked on its defaults.
+// The choices of the PPD with its defaults and then `options` marked. Restores the current marks afterwards.
 QMap<QString, QString> marksOf(const DialogSession &session, const QMap<QString, QString> &options,
                                QStringList *problems)
 {

@@ -20,10 +20,10 @@ QMap<QString, QString> presetOptions(const DialogSession &session, const QMap<QS
 // Whether there is a code that a preset would leave out.
 bool hasSecrets(const DialogSession &session);
 
-// The state of a dialog that is opened for the queue with these options. `queueOptions` are the options of
-// the queue itself, `preset` those of the user, which count as choices. Options that the printer does not
-// accept become a notice. The page range and panel settings other than options do not change. The marks are
-// set on the PPD temporarily and restored afterwards, except for options without a mark.
+// The state that a dialog opened with these options has. `queueOptions` are the options of the queue itself;
+// `preset` contains those of the user, which count as choices. Options that the printer does not accept
+// become a notice. The page range and panel settings other than options do not change. The marks of the PPD
+// are changed temporarily and restored afterwards, except for options without a mark.
 SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString> &queueOptions,
                              const QMap<QString, QString> &preset, QStringList *notices);
 // Applies such a state.

@@ -24,7 +24,7 @@ struct PagesText
 
 const QString pageSize = QStringLiteral("PageSize");
 
-// Whether job options have the server pass documents to the printer unchanged.
+// Whether job options make the server pass documents to the printer unchanged.
 bool bypassesFilters(const DialogSession &session)
 {
     const QList<JobOption> options = session.jobOptions();

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostSteps = 200;
 constexpr qint64 oneGesture = 1000; // maximum milliseconds between changes of one step
-constexpr int mergeable = 1;        // the same for all steps; whether two are merged depends on their changes
+constexpr int mergeable = 1;        // id() of all steps; mergeWith() decides whether two are merged
 
 } // namespace
 
@@ -99,7 +99,7 @@ void SessionHistory::note()
     m_isQueued = false; // a queued call has nothing left to do
     SessionState now = StateRestorer::stateOf(*m_session);
     if (m_now.differencesTo(now).isEmpty()) {
-        // A panel that has been saved repeats known values.
+        // No value differs, but a save of a panel may have recorded further choices.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
             const_cast<Step *>(static_cast<const Step *>(last))->setChosen(now);
         m_now = std::move(now);
@@ -137,10 +137,10 @@ void SessionHistory::noteLater()
 void SessionHistory::resync()
 {
     if (!m_isPaused)
-        lookAnew();
+        recordState();
 }
 
-void SessionHistory::lookAnew()
+void SessionHistory::recordState()
 {
     m_now = StateRestorer::stateOf(*m_session);
     recordInitialValues(m_now);
@@ -188,7 +188,7 @@ void SessionHistory::renameInstance(const QString &from, const QString &to)
     SessionState wanted = now;
     wanted.instance = to;
     StateRestorer(m_session).restoreTo(now, wanted);
-    lookAnew();
+    recordState();
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
@@ -196,7 +196,7 @@ void SessionHistory::go(const SessionState &from, const SessionState &to, const 
     const auto paused = pause();
     StateRestorer(m_session).restoreTo(from, to);
     m_base = base;
-    lookAnew();
+    recordState();
     m_sinceStep.invalidate();
     Q_EMIT changed();
 }

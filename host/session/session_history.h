@@ -17,23 +17,24 @@ namespace host {
 
 class DialogSession;
 
-// The user's changes to a session as steps of undo. A step consists of all differences between two looks at
-// the session, so it includes the reactions of panels, and settings without a name. Changes of the same
-// settings in quick succession, as while typing, are merged into one step. The session is borrowed and
-// outlives the history.
+// The undo history of a session. It records the state of the session when note() or resync() is called. A
+// step consists of all differences between two recorded states, so it includes the reactions of panels, and
+// settings without a name. Changes of the same settings in quick succession, as while typing, are merged into
+// one step. The session is borrowed and outlives the history.
 class SessionHistory : public QObject
 {
     Q_OBJECT
 public:
     explicit SessionHistory(DialogSession *session);
 
-    // Call when the user may have changed something: the differences from the last look become a step.
+    // Call when the user may have changed something: the differences from the last recorded state become a
+    // step.
     void note();
     // Calls note() once when control returns to the event loop, however often this is called until then.
     void noteLater();
     // Prevents the next change from being merged with the last step.
     void endGesture() { m_sinceStep.invalidate(); }
-    // Takes over the current state without a step, for changes that the user did not make, such as values
+    // Records the current state without a step. Call after changes that the user did not make, such as values
     // read by a panel.
     void resync();
     // Disables note() and resync() during the lifetime of the result: for a change during which events are
@@ -41,15 +42,15 @@ public:
     [[nodiscard]] QScopedValueRollback<bool> pause() { return QScopedValueRollback<bool>(m_isPaused, true); }
     QUndoStack *steps() { return &m_steps; }
 
-    // The state against which changes are shown: that at the start or when a preset was applied, and the name
-    // of the preset.
+    // The state with which the current one is compared to show changes: the state at the start or when a
+    // preset was applied, and the name of the preset.
     struct Base
     {
         SessionState state;
         QString name;
     };
     const Base &base() const { return m_base; }
-    // Makes the state at the next look the base, as part of the step that it creates.
+    // Makes the state that is recorded next the base, as part of its step.
     void takeBase(const QString &name) { m_nextBase = name; }
     // Updates the name of a base in all steps.
     void renameBase(const QString &from, const QString &to);
@@ -59,7 +60,7 @@ public:
     void renameInstance(const QString &from, const QString &to);
     // The initial values of panels, other than PPD options.
     const QVariantMap &startingPanelValues() const { return m_startingPanelValues; }
-    // The state at the last look.
+    // The last recorded state.
     const SessionState &now() const { return m_now; }
 
 Q_SIGNALS:
@@ -68,7 +69,7 @@ Q_SIGNALS:
 
 private:
     class Step;
-    void lookAnew();
+    void recordState();
     void recordInitialValues(const SessionState &now);
     void changeBases(const QString &name, const std::function<void(Base *)> &change);
     void go(const SessionState &from, const SessionState &to, const Base &base);

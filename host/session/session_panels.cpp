@@ -103,7 +103,7 @@ void SessionPanels::restore(int index)
     } catch (const std::exception &exception) {
         Q_EMIT failed(failure.arg(panel.panel->panelName(), QString::fromUtf8(exception.what())));
     }
-    lookAtKeys(index, false);
+    recordKeys(index, false);
 }
 
 void SessionPanels::save(int index)
@@ -120,12 +120,12 @@ void SessionPanels::save(int index)
         Q_EMIT failed(failure.arg(panel->panelName(), QString::fromUtf8(exception.what())));
     }
     m_saving = -1;
-    lookAtKeys(index, true);
+    recordKeys(index, true);
 }
 
-// Keys of a panel other than PPD options, such as the profiles of a device. Differences from the last look
-// are choices of the user.
-void SessionPanels::lookAtKeys(int index, bool areChosen)
+// Records the values of a panel's keys other than PPD options, such as the profiles of a device. If
+// `areChosen` is set, values that differ from those recorded last are choices of the user.
+void SessionPanels::recordKeys(int index, bool areChosen)
 {
     platform::KeyValueObject *object = objectOf(index);
     for (const QString &key : settableKeysOf(index)) {

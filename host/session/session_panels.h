@@ -45,8 +45,8 @@ public:
     // The panel that is being saved, or -1.
     int saving() const { return m_saving; }
 
-    // Sets the choices that are marked in the PPD, which a restore would read, so that panels that depend on
-    // the options are notified. Does nothing for a panel that already follows the choices.
+    // Sets on a panel the choices that are marked in the PPD, as a restore would, so that panels that depend
+    // on the options are notified. Does nothing for a panel that already follows the choices.
     void announceChoices(int index);
     void restore(int index);
     void save(int index);
@@ -65,7 +65,7 @@ Q_SIGNALS:
 private:
     SessionPanel &own(int index) { return m_panels.at(static_cast<size_t>(index)); }
     void watch(int index);
-    void lookAtKeys(int index, bool areChosen);
+    void recordKeys(int index, bool areChosen);
 
     const PpdDocument *m_ppd;
     std::vector<SessionPanel> m_panels;

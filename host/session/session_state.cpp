@@ -16,7 +16,8 @@ namespace host {
 
 namespace {
 
-// A change may cause changes in panels, which are corrected in another round; more rounds would not end.
+// A change may cause changes in panels, which are corrected in another round. The number of rounds is limited
+// in case two panels keep changing each other.
 constexpr int mostRounds = 3;
 
 const QString collatingName = QStringLiteral("multiple-document-handling");
@@ -52,7 +53,8 @@ QMap<QString, QString> byName(const GeneralSettings &general)
     QMap<QString, QString> values;
     for (const JobOption &option : general.jobOptions())
         values.insert(option.name, option.value);
-    // A job contains them only for several copies; both represent the same setting.
+    // Collation is always compared, under one name. A job contains it only for several copies, under two
+    // names.
     values.remove(QStringLiteral("Collate"));
     values.insert(collatingName, GeneralSettings::handling(general.collate));
     values.insert(general.layout.values());

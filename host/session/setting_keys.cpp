@@ -34,9 +34,9 @@ bool refuse(PrintError *error, const QString &message)
     return false;
 }
 
-// The canonical name: the case of job options and PPD options is ignored, and the page region is the page
-// size.
-QString usualName(const DialogSession &session, const QString &name)
+// The canonical spelling of a name. The case of job options and PPD options is ignored; names for the page
+// size, such as "PageRegion", become "PageSize".
+QString canonicalName(const DialogSession &session, const QString &name)
 {
     const QString lower = name.toLower();
     const PpdDocument *ppd = session.ppd();
@@ -54,7 +54,7 @@ QString usualName(const DialogSession &session, const QString &name)
                : name;
 }
 
-// If the PPD has an option of the same name, that one is meant.
+// Whether a key is a setting of the page layout. An option of the PPD with the same name takes precedence.
 bool isLayout(const DialogSession &session, const QString &key)
 {
     return PageLayoutSettings::covers(key) && !(session.ppd() && session.ppd()->hasOption(key));
@@ -70,7 +70,8 @@ QString layoutProblem(const QString &key)
     return SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key));
 }
 
-// A booklet is turned on the short edge: it selects that, and no other choice is accepted afterwards.
+// Selects short-edge binding if the key has switched a booklet on. While it is on, refuses other choices of
+// two-sided printing and restores short-edge binding.
 bool keepBooklet(DialogSession *session, const QString &key, PrintError *error)
 {
     const bool isBooklet = key == QLatin1String("booklet");
@@ -199,7 +200,8 @@ bool setStandardName(DialogSession *session, ChosenSetting setting, PrintError *
     return true;
 }
 
-// A print server drops a password that the queue does not accept, and prints the job unprotected.
+// Refuses a password or an account that the queue does not accept, or that is too long. The print server
+// would ignore such a password and print the job unprotected.
 bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, PrintError *error)
 {
     if (!printModeNames().contains(setting.key) || setting.value.isEmpty())
@@ -214,7 +216,8 @@ bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, 
            refuse(error, SettingText::tr("%1 takes at most %2 characters.").arg(setting.key).arg(most));
 }
 
-// One sheet, or those before and after the job. The print server ignores letter case.
+// Checks the value of "job-sheets": one cover sheet, or those before and after the job. The print server
+// ignores letter case.
 bool checkCoverSheets(const DialogSession &session, const ChosenSetting &setting, PrintError *error)
 {
     if (setting.key != sheetsName || session.destination().coverSheets.isEmpty())
@@ -277,7 +280,7 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
 bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
 {
     ChosenSetting setting = wanted;
-    setting.key = usualName(*session, wanted.key);
+    setting.key = canonicalName(*session, wanted.key);
     setting.isSecret |= session->isSecret(setting.key);
     if (jobSettingNames().contains(setting.key))
         setting.kind = ChosenSetting::Kind::JobOption;
