@@ -24,7 +24,7 @@ namespace host {
 
 namespace {
 
-// Sent by the process before it executes the program.
+// What the new process reports through a pipe before the program is executed, or if that fails.
 struct Report
 {
     unsigned missing = 0; // missing parts of the confinement
@@ -49,8 +49,8 @@ void limit(__rlimit_resource resource, qint64 most) noexcept
     ::syscall(SYS_prlimit64, 0, resource, &both, nullptr);
 }
 
-// Only the three standard streams and the descriptors named in the call are inherited.
-void keepFiles(const Launch &launch) noexcept
+// Sets up the standard streams. The program inherits only these and the other descriptors of the call.
+void setUpDescriptors(const Launch &launch) noexcept
 {
     constexpr unsigned mostFiles = 4096; // for kernels that cannot close ranges
     ::syscall(SYS_dup3, launch.input, STDIN_FILENO, 0);
@@ -67,19 +67,20 @@ void keepFiles(const Launch &launch) noexcept
 // Restores the default action of signals that this program handles or ignores.
 void resetSignals() noexcept
 {
-    constexpr unsigned long usual[16] = {}; // the kernel's struct sigaction, which is smaller
+    constexpr unsigned long defaults[16] = {}; // larger than the kernel's struct sigaction and signal set
     for (int signal = 1; signal < _NSIG; ++signal)
-        ::syscall(SYS_rt_sigaction, signal, usual, nullptr, _NSIG / 8);
-    ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, usual, nullptr, _NSIG / 8);
+        ::syscall(SYS_rt_sigaction, signal, defaults, nullptr, _NSIG / 8);
+    ::syscall(SYS_rt_sigprocmask, SIG_SETMASK, defaults, nullptr, _NSIG / 8);
 }
 
-// Runs in the new process, which shares this one's memory: system calls only.
-__attribute__((no_sanitize("address", "thread", "undefined"))) int become(void *argument) noexcept
+// The function of the new process: confines it and executes the program. The process shares the memory of
+// this program, so the function makes system calls only, and never returns.
+__attribute__((no_sanitize("address", "thread", "undefined"))) int executeProgram(void *argument) noexcept
 {
     const Launch &launch = *static_cast<const Launch *>(argument);
     ::syscall(SYS_setpgid, 0, 0); // so that its child processes are killed with it
     launch.confinement.enterNamespaces();
-    keepFiles(launch);
+    setUpDescriptors(launch);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_AS, launch.limits.memory);
     limit(RLIMIT_FSIZE, launch.limits.output);
@@ -96,7 +97,7 @@ __attribute__((no_sanitize("address", "thread", "undefined"))) int become(void *
         ::syscall(SYS_exit_group, 127);
 }
 
-// The arguments as exec takes them; valid as long as the list.
+// A null-terminated array for execve(); valid during the lifetime of `words`.
 std::vector<char *> pointersTo(const QList<QByteArray> &words)
 {
     std::vector<char *> pointers;
@@ -106,8 +107,8 @@ std::vector<char *> pointersTo(const QList<QByteArray> &words)
     return pointers;
 }
 
-// Only the cache folder and the time zone are passed from the user's environment; some programs write the
-// latter into files.
+// The minimal environment, extended by that of the call. Of the user's environment it contains only the cache
+// folder and the time zone, which some programs write into files.
 QList<QByteArray> environmentOf(const ConfinedProcess::Call &call, const QByteArray &folder)
 {
     QList<QByteArray> environment = {"PATH=/usr/bin:/bin", "LC_ALL=C.UTF-8", "TMPDIR=" + folder,
@@ -140,10 +141,10 @@ ConfinedProcess::~ConfinedProcess()
     delete m_notifier; // before the descriptor that it watches is closed
     if (!isRunning())
         return;
-    constexpr int moment = 100; // milliseconds; a killed process ends immediately
+    constexpr int killTimeout = 100; // milliseconds; a killed process usually ends sooner
     kill();
     pollfd end = {m_handle.get(), POLLIN, 0};
-    if (::poll(&end, 1, moment) > 0)
+    if (::poll(&end, 1, killTimeout) > 0)
         ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(m_handle.get()), nullptr,
                  WEXITED | __WALL);
 }
@@ -167,7 +168,7 @@ bool ConfinedProcess::start(const Call &call, const ProcessLimits &limits)
                   call.others,      limits};
     {
         const BlockedSignals blocked;
-        m_process = confinement.start(become, &launch, &m_handle);
+        m_process = confinement.start(executeProgram, &launch, &m_handle);
     }
     if (m_process < 0)
         return false;
@@ -187,8 +188,8 @@ void ConfinedProcess::kill()
 void ConfinedProcess::reap()
 {
     m_notifier->setEnabled(false);
-    // The number remains reserved until the process has been waited for. With a PID namespace all child
-    // processes have already ended.
+    // Kills the remaining child processes; with a PID namespace there are none. The process ID is not reused
+    // before waitid() has been called.
     ::kill(-m_process, SIGKILL);
     siginfo_t facts = {};
     const bool isKnown = ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(m_handle.get()), &facts,

@@ -152,14 +152,14 @@ void Confinement::allow(const char *path, quint64 access) const
 
 pid_t Confinement::start(int (*run)(void *), void *argument, platform::UniqueFd *handle)
 {
-    constexpr size_t room = 64 * 1024; // the new process makes few calls other than system calls
-    std::vector<std::byte> stack(room);
+    constexpr size_t stackSize = 64 * 1024; // bytes; the new process calls few functions besides system calls
+    std::vector<std::byte> stack(stackSize);
     for (size_t set = firstUsableSet; set < namespaceSets.size(); ++set) {
         int descriptor = -1;
         // Its end is reported through the descriptor instead of a signal.
         const auto flags = static_cast<int>(namespaceSets[set] | CLONE_PIDFD | CLONE_VM | CLONE_VFORK);
         m_hasUsers = (namespaceSets[set] & CLONE_NEWUSER) != 0;
-        const pid_t process = ::clone(run, stack.data() + room, flags, argument, &descriptor);
+        const pid_t process = ::clone(run, stack.data() + stackSize, flags, argument, &descriptor);
         if (process > 0) {
             firstUsableSet = set;
             *handle = platform::UniqueFd(descriptor);
@@ -180,8 +180,8 @@ void Confinement::enterNamespaces() const noexcept
     const bool isMapped = writeTo("/proc/self/setgroups", QByteArrayView("deny")) &&
                           writeTo("/proc/self/gid_map", m_groupMap) &&
                           writeTo("/proc/self/uid_map", m_userMap);
-    // The file system in the folder ends with the process, however the process and this program end. /proc of
-    // other processes is hidden, which matters without landlock.
+    // The file system in the folder is freed when the process ends, even if this program is killed. The mount
+    // of /proc hides the other processes, which matters if the kernel has no landlock.
     constexpr rlimit64 fewProcesses = {64, 64}; // counted in this namespace
     ::syscall(SYS_prlimit64, 0, RLIMIT_NPROC, &fewProcesses, nullptr);
     constexpr unsigned long flags = MS_NOSUID | MS_NODEV | MS_NOEXEC;

@@ -14,10 +14,10 @@
 
 namespace host {
 
-// Isolates a program that reads a document: NO_NEW_PRIVS, no capabilities, landlock, seccomp and namespaces,
-// as far as the kernel supports them. A missing mechanism is logged once per process, and the others are
-// used. Prepared before the new process is created, and applied in that process with system calls only. Used
-// on one thread.
+// Confines a program that reads a document with NO_NEW_PRIVS, landlock, seccomp and namespaces, as far as the
+// kernel supports them, and without capabilities. A missing mechanism is logged once per process; the others
+// are used. The confinement is prepared before the new process is created, and applied in that process with
+// system calls only. Used on one thread.
 class Confinement
 {
 public:
@@ -33,10 +33,10 @@ public:
     // take much longer if the system's cache is not up to date.
     static QByteArray cacheFolder();
 
-    // Creates a process in new namespaces, as far as possible, that calls `run`. Sets `handle` to a
-    // descriptor of the process. -1 with errno. As with vfork(), the process shares this one's memory until
-    // exec, and this thread is suspended: copying the page tables of the dialog would take longer than
-    // everything else.
+    // Creates a process in new namespaces, as far as possible, that calls `run`. Returns its ID, or -1 with
+    // errno, and sets `handle` to a descriptor of the process. As with vfork(), the process shares the memory
+    // of this program until exec, and this thread is suspended meanwhile: copying the page tables of the
+    // dialog would take longer than everything else.
     pid_t start(int (*run)(void *), void *argument, platform::UniqueFd *handle);
 
     // For the new process: call enterNamespaces() first, and giveUpRights() right before exec, since it

@@ -119,7 +119,7 @@ void LimitedProcess::start(const Call &call)
             });
     m_timer.start(m_limits.time);
     ProcessThread::instance().take(process);
-    // With the files, which must be open until the process has been started.
+    // Captures `call` and `output`, whose files must be open until the process has been started.
     QMetaObject::invokeMethod(process, [process, confined, error, limits = m_limits, isWanted = m_isWanted,
                                         call, output = m_output] {
         ProcessThread::instance().own(process);
@@ -130,7 +130,8 @@ void LimitedProcess::start(const Call &call)
 
 void LimitedProcess::processEnded(ConfinedProcess::End end, int error)
 {
-    // Programs copy their documents, and report a full file in the same way as a broken document.
+    // Programs copy the document to their folder. If that is full, they report the same error as for a broken
+    // document.
     const bool isLarge = m_inputSize > m_limits.output / 2;
     struct stat facts = {};
     if (end == ConfinedProcess::End::NotStarted)

@@ -50,7 +50,7 @@ QString valueOf(const PageSettings &settings, const QString &name)
     return option == settings.options.end() ? QString() : option->second;
 }
 
-// Removes settings that do not affect the number of pages of a document.
+// The settings without those that select pages, which do not affect the number of pages of a document.
 PageSettings withoutChoiceOfPages(PageSettings settings)
 {
     settings.isMonochrome = false;
@@ -61,7 +61,7 @@ PageSettings withoutChoiceOfPages(PageSettings settings)
     return settings;
 }
 
-// Whether a side is in ranges such as "1-3,8,12-"; an empty text means all sides.
+// Whether ranges such as "1-3,8,12-" contain a side. Empty ranges contain all sides.
 bool isInRanges(int side, const QString &text)
 {
     const QStringList parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
@@ -79,7 +79,8 @@ QString unreadable(const QString &name, const QString &problem)
     return PageCounter::tr("“%1” cannot be printed: %2.").arg(name, problem);
 }
 
-// Whether pdfinfo has written different page sizes, in either direction.
+// Whether the output of pdfinfo contains different page sizes. Portrait and landscape pages of the same paper
+// have the same size.
 bool haveSeveralSizes(const SharedFile &text)
 {
     constexpr qsizetype enough = 64 * 1024; // bytes
@@ -112,7 +113,7 @@ bool isInSet(int side, const QString &set)
 PageCounter::PageCounter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_process(nullptr)
 {
-    // Queued, since the maker continues after the first of these signals, and is stopped in the slot.
+    // Queued: the maker continues its work after it has emitted the signal, and the slot stops it.
     connect(&m_maker, &PageMaker::documentMade, this, &PageCounter::documentMade, Qt::QueuedConnection);
     connect(
         &m_maker, &PageMaker::made, this, [this](const SharedFile &, bool asPrinted) { made(asPrinted); },
@@ -325,22 +326,22 @@ void PageCounter::finish()
 
 namespace {
 
-// Processes events until the loop is left, or `stop` has returned true.
+// Runs the loop until it is quit, or `stop` has returned true. `stop` may be null.
 void wait(QEventLoop *loop, const StopWanted &stop)
 {
-    constexpr std::chrono::milliseconds betweenLooks(50); // at `stop`
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, loop, [&] {
+    constexpr std::chrono::milliseconds pollInterval(50);
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, loop, [&] {
         if (stop())
             loop->quit();
     });
     if (stop)
-        look.start(betweenLooks);
+        poll.start(pollInterval);
     loop->exec();
 }
 
-// Replaces a document of the verdict by a scaled one, in PDF. False if it cannot be scaled or `stop` has
-// returned true; the verdict then says which.
+// Replaces a document of the verdict by a scaled PDF file. If it cannot be scaled, returns false and makes
+// the verdict Unreadable; if `stop` has returned true, returns false and makes it Pending.
 bool scale(PageMaker *maker, Document *document, const PageSettings &settings, const StopWanted &stop,
            PageVerdict *verdict)
 {

@@ -44,7 +44,7 @@ PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     m_joiner.setLimits(PageMaker::unhurried());
     connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
     connect(&m_maker, &PageMaker::failed, this, [this](const QString &reason, PageMaker::Fault fault) {
-        if (fault == PageMaker::Fault::Selection) // another document may have selected pages
+        if (fault == PageMaker::Fault::Selection) // the settings may select pages of another document
             proceed(reason);
         else
             fail(reason);

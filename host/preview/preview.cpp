@@ -19,10 +19,10 @@ namespace host {
 namespace {
 
 constexpr int thumbnailsAtOnce = 12;
-constexpr int pagesRoom = 64 * 1024;                // kilobytes
-constexpr int thumbnailsRoom = 24 * 1024;           // kilobytes
+constexpr int pageCacheSize = 64 * 1024;            // kilobytes
+constexpr int thumbnailCacheSize = 24 * 1024;       // kilobytes
 constexpr int mostPixels = Preview::mostPixels + 1; // of an image's side, rounded up
-static_assert(mostPixels * mostPixels / 256 < pagesRoom, "one page, with 4 bytes a pixel, must have space");
+static_assert(mostPixels * mostPixels / 256 < pageCacheSize, "one page, with 4 bytes a pixel, must fit");
 constexpr int mostPages = 1'000'000;
 
 const QString renderer = QStringLiteral("pdftoppm");
@@ -99,7 +99,7 @@ QList<QImage> readPictures(const SharedFile &file)
 
 Preview::Preview(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_counter(nullptr), m_pageRenderer(nullptr),
-      m_thumbnailRenderer(nullptr), m_pages(pagesRoom), m_thumbnails(thumbnailsRoom)
+      m_thumbnailRenderer(nullptr), m_pages(pageCacheSize), m_thumbnails(thumbnailCacheSize)
 {
     connect(&m_maker, &PageMaker::made, this, &Preview::made);
     connect(&m_maker, &PageMaker::failed, this, &Preview::fail);
@@ -246,7 +246,8 @@ void Preview::counted(const SharedFile &output)
 
 QImage Preview::upright(const QImage *picture) const
 {
-    // The rotation by 180° was requested by the user; a rotation by 90° is how the printer takes the paper.
+    // A rotation by 180° was requested by the user and is shown. A rotation by 90° only follows the direction
+    // in which the printer feeds the paper.
     const int rotation = m_facts && m_isAsPrinted ? m_facts->rotation : 0;
     return rotation % 180 == 0 ? *picture : picture->transformed(QTransform().rotate(-rotation));
 }

@@ -28,9 +28,9 @@ std::optional<PageFacts> readPageFacts(const SharedFile &text);
 // Parses the concatenated images that pdftoppm has written, up to the first invalid one.
 QList<QImage> readPictures(const SharedFile &file);
 
-// Images of the pages of one document as they would be printed. They are made by separate programs with
-// limits; nothing blocks. Pages are counted from 0 in the order in which they are printed, as sides of paper.
-// Images are cached up to a size limit.
+// Images of the pages of one document as they would be printed. Confined programs render them; nothing
+// blocks. A page is one printed side. Pages are counted from 0 in the order in which they are printed. Images
+// are cached up to a size limit.
 class Preview : public QObject
 {
     Q_OBJECT
@@ -39,10 +39,11 @@ public:
     ~Preview() override;
 
     void setLimits(const LimitedProcess::Limits &limits);
-    // Starts with a new document; the name is that of a file (file_name.h), which is read on a worker thread.
+    // Shows another document in place of the current one. The path is encoded as in file_name.h; the file is
+    // opened on a worker thread.
     void setDocument(const QString &path);
     void setSettings(const PageSettings &settings);
-    // While the preview is hidden nothing runs; the cache is kept.
+    // Sets whether the preview is visible. While it is hidden no program runs; the cache is kept.
     void setWatched(bool watched);
 
     // Null until known.
@@ -56,9 +57,9 @@ public:
     // rendered smaller are rendered again when they are requested. False if nothing has changed.
     bool setPagePixels(int pixels);
 
-    // A page in its layout orientation, of about that size; meanwhile a smaller one. If it has to be
-    // rendered, that starts now, and pageMade() follows; null if there is no smaller one. The last request of
-    // each size is processed first.
+    // The image of a page in its layout orientation, in about the size set by setPagePixels(). If it is not
+    // in the cache, starts to render it, and returns a smaller image, or null if there is none; pageMade()
+    // follows. The last request for a page, and for a thumbnail, is processed first.
     QImage page(int index);
     QImage thumbnail(int index);
     static constexpr int pagePixels = 900;

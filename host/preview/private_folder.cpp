@@ -22,8 +22,8 @@ PrivateFolder::PrivateFolder()
         m_path = path;
 }
 
-// Removes a few files at once, such as those of a killed program. A folder with many files is removed on a
-// worker thread, since this takes longer.
+// Removes a folder with few files at once. A folder with many files takes longer, and is removed on a worker
+// thread.
 void PrivateFolder::remove()
 {
     constexpr int few = 200;
