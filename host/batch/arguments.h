@@ -49,7 +49,7 @@ struct Arguments
     std::optional<QString> savePreset;
     std::optional<QString> deletePreset;
     QString printer;
-    QString server; // empty for that of the environment
+    QString server; // print server of -h; empty for the default
     QString ppdFile;
     QString title;
     QString screenshot;

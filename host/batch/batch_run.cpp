@@ -25,11 +25,10 @@ struct BatchText
     Q_DECLARE_TR_FUNCTIONS(BatchText)
 };
 
-// Accepting a proposal may cause another conflict; the number of attempts is limited in case a PPD has no
-// solution.
+// Accepting a proposal may cause another conflict. The number of attempts is limited in case they never end.
 constexpr int mostProposals = 8;
 
-// An option without the code that it may contain.
+// An option for --list-options. If its value is a code, no choice is marked as current or default.
 PpdOption listed(const DialogSession &session, const QString &keyword)
 {
     PpdOption option = *session.ppd()->option(keyword);
@@ -40,9 +39,9 @@ PpdOption listed(const DialogSession &session, const QString &keyword)
     return option;
 }
 
-// The option with which a code is used of which only some digits were given, one by one; null if there is
-// none.
-QString useOfHalfCode(const Arguments &arguments, const DialogSession &session)
+// The choice that requires a code, if the command line sets some digits of the code as single options but not
+// all; null if there is no such code.
+QString choiceWithIncompleteCode(const Arguments &arguments, const DialogSession &session)
 {
     QStringList given = session.destination().options.keys(), asked;
     for (const Arguments::Assignment &assignment : arguments.assignments)
@@ -75,7 +74,7 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintE
             error->message += QLatin1Char(' ') + BatchText::tr("--list-options lists what there is.");
         return false;
     }
-    const QString use = useOfHalfCode(arguments, *session);
+    const QString use = choiceWithIncompleteCode(arguments, *session);
     if (!use.isNull())
         *error = {PrintError::Kind::BadValue,
                   BatchText::tr("Only a part of the code for “%1” has been given.").arg(use)};
@@ -93,7 +92,7 @@ int BatchRun::run(ResultWriter *writer)
 {
     if (m_arguments.batch && m_arguments.output.isEmpty())
         m_result.submission.emplace();
-    // Before anything is sent: do nothing that cannot be reported.
+    // Before anything is sent, so that nothing is printed if the result cannot be written.
     if (m_arguments.json && !writer->begin())
         return ExitFailure;
     ExitCode code = prepare();
@@ -104,13 +103,14 @@ int BatchRun::run(ResultWriter *writer)
     }
     if (m_session)
         m_result.notices = m_session->takeNotices() + m_result.notices;
-    const int result = told(writer, code);
+    const int result = writeResult(writer, code);
     m_signals.reset();
     return result;
 }
 
-// A submitted job is not a failure, even if its report could not be written.
-int BatchRun::told(ResultWriter *writer, ExitCode code)
+// Writes the result and returns the exit code of the program. If the result cannot be written, the run fails,
+// unless a job was submitted.
+int BatchRun::writeResult(ResultWriter *writer, ExitCode code)
 {
     const bool isWritten = writer->write(m_result, m_arguments.json);
     return isWritten || code != ExitSuccess || m_result.submission ? code : ExitFailure;
@@ -152,7 +152,8 @@ ExitCode BatchRun::prepare()
     return settled;
 }
 
-// The print system reports a missing code that the policy requires, whatever the command line allows.
+// Whether a password or a code is missing, and the command line does not allow that. A code that the policy
+// requires is not checked here: the print system refuses a job without it in any case.
 bool BatchRun::mayNotPrintWithProtectionGap() const
 {
     if (!m_arguments.batch || !m_arguments.output.isEmpty() || m_arguments.allowNoPassword)
@@ -162,7 +163,7 @@ bool BatchRun::mayNotPrintWithProtectionGap() const
            (code && m_session->locks().choice(code->option) != code->choice);
 }
 
-// False if nothing would be printed.
+// Checks the documents with the settings of the session. False with an error if nothing would be printed.
 bool BatchRun::checkDocuments(PrintError *error)
 {
     const bool isSent = m_arguments.output.isEmpty();
@@ -230,7 +231,7 @@ bool BatchRun::openDocuments()
     return m_documents.open(files, m_input, &m_result.error);
 }
 
-// A queue with a broken PPD would print without the requested settings.
+// Opens the session. A queue with a broken PPD is refused, since the requested settings would have no effect.
 bool BatchRun::openSession(PrintError *error)
 {
     auto opened = openPrinter(m_system, {m_arguments.printer, m_arguments.ppdFile}, error);

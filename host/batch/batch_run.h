@@ -17,8 +17,9 @@ namespace host {
 // Applies the settings of the command line in order.
 bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintError *error);
 
-// A run without a window: the same panels through the same contract, settings from the command line, results
-// as text or JSON. Needs a QApplication, since panels consist of widgets.
+// Runs the program without a window: applies the settings of the command line to a session, then prints, or
+// lists options or presets. Needs a QApplication, since panels consist of widgets. The arguments, the print
+// system and the extensions are borrowed and outlive it.
 class BatchRun
 {
 public:
@@ -27,12 +28,12 @@ public:
 
     // Sets the source of "-"; the standard input by default.
     void setInput(QIODevice *input) { m_input = input; }
-    // Returns the exit code; results are written to the writer. A signal that arrived during the submission
-    // ends the program after the result was written.
+    // Runs, writes the results to the writer, and returns the exit code. Call once. A signal that arrives
+    // during the submission ends the program after the result was written.
     int run(ResultWriter *writer);
 
 private:
-    // Runs all steps before anything is sent.
+    // Performs all steps that precede the submission.
     ExitCode prepare();
     bool openDocuments();
     bool openSession(PrintError *error);
@@ -44,7 +45,7 @@ private:
     ExitCode submit();
     ExitCode writePdf();
     ExitCode fail(const PrintError &error);
-    int told(ResultWriter *writer, ExitCode code);
+    int writeResult(ResultWriter *writer, ExitCode code);
 
     const Arguments &m_arguments;
     PrintSystem &m_system;

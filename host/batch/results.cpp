@@ -195,19 +195,19 @@ bool ResultWriter::write(const BatchResult &result, bool asJson)
     return finish();
 }
 
-// Whether everything was written, which a file reports only at this point. Errors are flushed as well, since
-// a signal may end the program next.
+// Flushes both devices and returns whether the result was written completely, which is only known after the
+// flush. A signal may end the program right afterwards.
 bool ResultWriter::finish()
 {
     const auto flush = [](QIODevice *device) {
         auto *file = qobject_cast<QFileDevice *>(device);
         return !file || file->flush();
     };
-    m_isTaken = flush(m_out) && m_isTaken;
-    if (!m_isTaken)
+    m_isWritten = flush(m_out) && m_isWritten;
+    if (!m_isWritten)
         complain(ResultText::tr("The result cannot be written: %1.").arg(m_out->errorString()));
     flush(m_err);
-    return m_isTaken;
+    return m_isWritten;
 }
 
 void ResultWriter::writeText(const BatchResult &result)
@@ -274,7 +274,7 @@ void ResultWriter::writeJob(const BatchResult &result)
               .arg(result.queue)
               .arg(job.id)
               .arg(result.documents.size()));
-    // A single document is usually the job's title; several share one title.
+    // The names of several documents; a single document is usually named in the title of the job.
     for (const QString &document : result.documents.size() > 1 ? result.documents : QStringList())
         print(QStringLiteral("    ") + document);
     print(ResultText::tr("Job %1: %2.").arg(job.id).arg(job.status.text()));

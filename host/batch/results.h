@@ -41,7 +41,8 @@ struct BatchResult
     std::optional<Resolution> proposal;
 };
 
-// Writes a result as text (results on `out`, errors and notices on `err`) or as JSON (one object on `out`).
+// Writes a result as text (results to `out`, errors and notices to `err`) or as JSON (one object to `out`).
+// The devices are borrowed.
 class ResultWriter
 {
 public:
@@ -60,14 +61,14 @@ private:
     void writeJob(const BatchResult &result);
     void writeConflicts(const BatchResult &result);
     void print(const QString &line) { put(terminalLine(line)); }
-    void put(const QByteArray &bytes) { m_isTaken = m_out->write(bytes) == bytes.size() && m_isTaken; }
+    void put(const QByteArray &bytes) { m_isWritten &= m_out->write(bytes) == bytes.size(); }
     bool finish();
     void complain(const QString &line) { m_err->write("kelmar-print: " + terminalLine(line)); }
 
     QIODevice *m_out;
     QIODevice *m_err;
     bool m_hasBegun = false; // a JSON result, or the settings of a text result
-    bool m_isTaken = true;   // whether `out` has accepted everything so far
+    bool m_isWritten = true; // whether all writes to `out` have succeeded so far
 };
 
 QJsonObject toJson(const BatchResult &result);

@@ -12,7 +12,7 @@ namespace host {
 
 namespace {
 
-constexpr char interruptKey = 3; // Ctrl+C, which arrives as a character while signals are off
+constexpr char interruptKey = 3; // Ctrl+C, which is read as a character while the signal keys are disabled
 
 }
 

@@ -9,8 +9,8 @@
 
 namespace host {
 
-// Disables the echo of a terminal and its signal keys, which could leave it in this state, during the
-// lifetime of the object. The descriptor is borrowed.
+// Disables the echo and the signal keys of a terminal during the lifetime of the object. A signal could
+// otherwise end the program while the echo is disabled. The descriptor is borrowed.
 class Silence
 {
 public:

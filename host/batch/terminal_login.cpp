@@ -36,7 +36,8 @@ std::optional<QString> readLine(int terminal)
     return outcome == InputLine::Outcome::Whole ? std::optional(QString::fromUtf8(line)) : std::nullopt;
 }
 
-// Asks after the echo was disabled; input typed before that is visible and is discarded.
+// Disables the echo before it asks. Discards input that was typed, and shown, before that. Null as
+// readLine().
 std::optional<QString> askHidden(int terminal, const QString &question)
 {
     const Silence silence(terminal);

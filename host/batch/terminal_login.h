@@ -7,9 +7,9 @@
 
 namespace host {
 
-// Asks for a user name and a password on the controlling terminal, whatever the standard streams are; the
-// password is not echoed. Null without a terminal, if the input ends or a signal arrives, and after a few
-// answers that were not accepted.
+// Asks for a user name and a password on the controlling terminal, even if the standard streams are
+// redirected. The password is not echoed. Null if there is no terminal, the input ends, a signal arrives, or
+// several answers were not accepted.
 std::optional<Login> askOnTerminal(const LoginQuestion &question);
 
 } // namespace host

@@ -7,11 +7,10 @@
 
 namespace host {
 
-// Values that are not given on the command line, which every user of the machine can read.
-
-// Replaces the source of each assignment from a file, the standard input or the terminal by its value: the
-// first line, without the line end. False with a message that contains only the key if there is no value, or
-// it is not text or longer than 4,096 bytes; nothing is read beyond that.
+// Reads the values that come from a file, the standard input or the terminal, so that they do not appear on
+// the command line, which all users can read. A value is the first line, without the line end. False with a
+// message that contains only the key if there is no value, or it is not text or longer than 4,096 bytes;
+// nothing is read beyond that.
 bool fetchValues(Arguments *arguments, QString *error);
 
 } // namespace host
