@@ -18,11 +18,11 @@ struct PrintTask
 {
     QStringList files;             // "-" is the standard input
     QString title;                 // of the job; if empty, the name of the first file is used
-    QString documentName;          // of the only document, if its file name has no meaning
+    QString documentName;          // of the only document, if its file name means nothing to the user
     QString printer;               // destination name; empty for the one used last, else the default
     QString ppdFile;               // show the options of this PPD instead of the queue's
     QString firstPage;             // name of the initial page; empty for the first
-    bool printerMayBeGone = false; // a missing printer is treated like none
+    bool printerMayBeGone = false; // if `printer` does not exist, another one is opened as if it were empty
     // Called once for the first session, after its first page is shown, to apply the settings of the command
     // line. Later sessions receive these settings with all other choices.
     std::function<bool(DialogSession *, PrintError *)> prepare;

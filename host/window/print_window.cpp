@@ -218,7 +218,7 @@ void PrintWindow::showState(State state)
 bool PrintWindow::open(PrintError *error)
 {
     m_opener.openTask();
-    // The only time that the window blocks its thread: it is not visible yet.
+    // Blocks the thread for 50 ms at most; the window is not visible yet.
     m_opener.deliverNear();
     if (m_refusal)
         *error = m_refusal;
@@ -252,7 +252,7 @@ void PrintWindow::beginTask()
     m_book->showPage(row);
     if (isDismissed()) // while a panel was waiting
         return;
-    // With the page shown, so that panels respond to the settings as to the user's changes.
+    // After the page was shown, so that panels respond to the settings as to the user's changes.
     PrintError problem;
     if (m_task.prepare && !m_task.prepare(m_session.get(), &problem)) {
         refuse(problem);
@@ -284,7 +284,7 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     connect(m_session.get(), &DialogSession::changed, this, &PrintWindow::sessionChanged);
     m_poller.setChosen(m_session->destination());
     showSession();
-    // After the book, which shows on its page what is awaited before the window is painted.
+    // After the connection of the book, which shows the reason on its page before the sign paints the window.
     connect(m_session->panelHost(), &PanelHost::blockingBegan, &m_wait, &PanelWait::begin);
     connect(m_session->panelHost(), &PanelHost::blockingEnded, &m_wait, &PanelWait::end);
     showState(State::Choosing);
@@ -312,7 +312,7 @@ void PrintWindow::detachSession()
     m_presets->setSession(nullptr);
 }
 
-// A printer that cannot do what the task requires is not offered for it.
+// Reports that the task is impossible with this printer, and closes the session.
 void PrintWindow::refuse(const PrintError &error)
 {
     m_refusal = error;
@@ -370,7 +370,7 @@ void PrintWindow::allowPrinting()
     m_print->setToolTip(can ? QString() : tr("There is no document or no printer to print it on"));
 }
 
-// The common check before a job is sent, however the user requests it. Shows invalid input.
+// Whether a job can be sent now. If the input is invalid, shows the field.
 bool PrintWindow::mayPrint()
 {
     return canPrint(m_task, m_session.get()) && isSettled() && !isDismissed() && !m_jobs.isSending() &&
@@ -474,7 +474,7 @@ void PrintWindow::done(int result)
     QDialog::done(result);
 }
 
-// Escape and Cancel stop the submission, not the dialog; when pressed again, they do not wait for its end.
+// Escape and Cancel cancel a submission and keep the dialog open. When pressed again, they close the dialog.
 void PrintWindow::reject()
 {
     if (m_jobs.isCancelled())
@@ -485,7 +485,7 @@ void PrintWindow::reject()
         QDialog::reject();
 }
 
-// Closes the dialog at once: a job that is being sent is canceled, and its end is awaited in the background.
+// Closes the dialog at once. A job that is being sent is canceled; done() follows when that has ended.
 void PrintWindow::closeEvent(QCloseEvent *event)
 {
     if (m_jobs.leave())

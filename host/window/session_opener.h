@@ -39,8 +39,8 @@ public:
 
     // Opens the printer of the task, also again after a failure.
     void openTask();
-    // Discards the session that was opened for the task, since it cannot do what the task requires; another
-    // one may.
+    // Call if the session that was opened for the task is discarded because the task is impossible with it.
+    // The next session is then again one for the task.
     void refuseTask() { m_isForTask = true; }
     // Waits for a nearby server, 50 ms at most.
     void deliverNear() { m_printers.deliverNear(); }

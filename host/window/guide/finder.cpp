@@ -32,7 +32,7 @@ QString contextOf(const PageControl &found)
 
 Finder::Finder(PageBook *book) : QObject(book->window()), m_book(book)
 {
-    // Queued, since new rows are shown when control returns to the event loop.
+    // Queued, since new rows become visible when control returns to the event loop.
     connect(book, &PageBook::grown, this, &Finder::seek, Qt::QueuedConnection);
 }
 
@@ -70,7 +70,7 @@ void Finder::buildIndex()
     addPages(&m_index);
 }
 
-// Views of panels exist before their page is built.
+// Adds the controls of panels, whose views exist before their pages are built, and of the host's built pages.
 void Finder::addPages(SettingIndex *index) const
 {
     const DialogSession *session = m_book->session();

@@ -16,9 +16,9 @@ namespace host {
 class PageBook;
 class SearchBar;
 
-// The search of the dialog (Ctrl+F): finds options, choices and controls on all pages, and shows them.
-// Creates its bar when it is first opened, and its index each time it is opened, without building pages. The
-// book is borrowed; the search is destroyed with its window.
+// The search of the dialog (Ctrl+F) for options, choices and controls on all pages. Creates the search bar
+// when it is first opened, and the index each time it is opened, without building pages. A child of the
+// window of the book, which is borrowed.
 class Finder : public QObject
 {
     Q_OBJECT

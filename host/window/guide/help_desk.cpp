@@ -37,7 +37,7 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
 {
     QList<HelpPage::Explained> explained;
     for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
-        // A button and the adjacent field may have the same text.
+        // Several adjacent controls, such as a field and its button, may have the same explanation.
         const QString text = found.control->whatsThis();
         const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
                                         [&](const HelpPage::Explained &told) { return told.text == text; });

@@ -140,7 +140,7 @@ void HelpPage::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-// The document contains the colour of links.
+// Renders the text again if the palette changes, since the document contains the color of links.
 void HelpPage::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);

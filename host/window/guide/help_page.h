@@ -11,8 +11,8 @@ class QTextBrowser;
 
 namespace host {
 
-// Shows a help text in place of the page of settings that it explains. Loads neither images nor pages: links
-// are reported, and the owner shows their target.
+// Shows a help text in place of the page of settings that it explains. Loads no images. A click on a link
+// emits topicWanted(), and the owner shows the topic.
 class HelpPage : public QWidget
 {
     Q_OBJECT

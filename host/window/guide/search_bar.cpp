@@ -108,7 +108,7 @@ void SearchBar::search()
     placeResults();
 }
 
-// Announced when it changes, since the results appear without getting the focus.
+// Shows the number of results and announces it, since the list appears without getting the focus.
 void SearchBar::showCount(int count)
 {
     const QString text = m_field->text().trimmed().isEmpty() ? QString()
@@ -122,7 +122,7 @@ void SearchBar::showCount(int count)
     m_count->setVisible(!text.isEmpty());
 }
 
-// Below the field and with its width, as high as needed, but within the window.
+// Places the list below the field, with the same width, as high as needed, but within the window.
 void SearchBar::placeResults()
 {
     if (m_results->isHidden())
@@ -178,7 +178,7 @@ bool SearchBar::eventFilter(QObject *watched, QEvent *event)
         const auto *press = static_cast<QKeyEvent *>(event);
         if (handleKey(watched, press->key()))
             return true;
-        // Typing in the list continues in the field.
+        // Characters that are typed in the list go to the field.
         const bool types = !press->text().isEmpty() && press->text().at(0).isPrint();
         if (watched == m_results && (types || press->key() == Qt::Key_Backspace)) {
             m_field->setFocus(Qt::OtherFocusReason);

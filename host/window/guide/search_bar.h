@@ -16,9 +16,10 @@ class QListWidget;
 
 namespace host {
 
-// A narrow bar with a search field, and below it a list of results that overlaps the window. Keys go to the
-// field; Down moves to the list, Return selects the current result or else the first, and Escape closes both
-// and returns the focus. A child of its window, which places the bar in its layout.
+// A narrow bar with a search field. The list of results is shown below it, above the other parts of the
+// window. The user types in the field; Down moves the focus to the list, Return selects the current result or
+// else the first, and Escape closes bar and list and returns the focus. A child of its window, which places
+// the bar in its layout.
 class SearchBar : public QFrame
 {
     Q_OBJECT

@@ -11,8 +11,8 @@
 
 namespace host {
 
-// Checks on a worker thread whether documents can be printed, while the user chooses settings. Streams are
-// not read, since that is left to the job. Owned by its window.
+// Checks on a worker thread whether the documents can be opened, while the user chooses settings. Does not
+// open streams, which can be read only once. Owned by its window.
 class DocumentCheck : public QObject
 {
     Q_OBJECT

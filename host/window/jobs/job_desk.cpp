@@ -93,7 +93,7 @@ void JobDesk::moveToEarlierJobs()
 {
     m_follower->stop();
     m_change.drop();
-    m_wasTold = false;
+    m_isAttentionNotified = false;
     if (!m_submission || !m_submission->isAccepted())
         return;
     if (!m_earlier) {
@@ -130,19 +130,19 @@ void JobDesk::noteStatus(const JobStatus &status)
         Q_EMIT ended();
     const bool isNews = status.isFinal() || status.needsAttention();
     if (!isNews)
-        m_wasTold = false;
-    else if (!std::exchange(m_wasTold, !status.isFinal()))
+        m_isAttentionNotified = false;
+    else if (!std::exchange(m_isAttentionNotified, !status.isFinal()))
         notifyIfInactive(m_result->text(), status);
 }
 
-// Notifies the user that a job has ended or needs attention.
+// Notifies the user that a job has ended or needs attention, if the dialog is not the active window.
 void JobDesk::notifyIfInactive(const QString &text, const JobStatus &status)
 {
     if (!m_dialog->isActiveWindow())
         notifyDesktop(m_dialog->windowTitle(), text, status.state != JobStatus::State::Completed);
 }
 
-// Ignored while another change is in progress.
+// Holds, releases or cancels the job. Ignored while another change is in progress.
 void JobDesk::change(JobAction action)
 {
     if (m_change.isPending())

@@ -20,22 +20,24 @@ class EarlierJobs;
 class ResultPage;
 class WaitingPage;
 
-// The jobs of a dialog, one after another: sends each job, shows its progress on one page until the print
-// server has it, and then its state on the other page. Earlier jobs are followed until they end. Owned by the
-// dialog, as are the pages, which the dialog shows. The print system is borrowed and outlives this object.
+// Sends the jobs of a dialog, one at a time. Shows the progress on the waiting page until the print server
+// has the job, and then the state of the job on the result page. Follows earlier jobs until they end. Owned
+// by the dialog, as are the pages, which the dialog shows. The print system is borrowed and outlives this
+// object.
 class JobDesk : public QObject
 {
     Q_OBJECT
 public:
     JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QWidget *dialog);
 
-    // Waits for a nearby server, 50 ms at most. `documents` contains their names for display; may be empty.
+    // Sends a job. Waits for a nearby server, 50 ms at most. `documents` contains the names of the documents
+    // for display; may be empty.
     void send(const JobSender::Order &order, const QString &documents);
     bool isSending() const { return m_sender.isSending(); }
     bool isCancelled() const { return m_sender.isCancelled(); }
     // Cancels the job that is being sent. False if there is none.
     bool stop();
-    // The same when the dialog is closed. True if no job is being sent; otherwise left() follows.
+    // Cancels the job that is being sent when the dialog is closed; left() follows. True if there is none.
     bool leave();
     // The last job that was accepted, or may have been; null before the first. A job that was rejected or
     // canceled while it was sent does not replace an earlier one.
@@ -75,7 +77,7 @@ private:
     std::optional<Submission> m_submission;
     Destination m_submissionDestination;
     platform::Awaited<PrintError> m_change;
-    bool m_wasTold = false; // whether the user was notified that the job needs attention
+    bool m_isAttentionNotified = false; // whether the user was notified that the job needs attention
     bool m_isLeaving = false;
 };
 

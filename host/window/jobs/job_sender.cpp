@@ -13,8 +13,8 @@ namespace host {
 
 namespace {
 
-// A nearby print server responds within this time, and its response is shown at once. The user does not
-// notice the wait.
+// The thread waits this long for a print server, which the user does not notice. The response of a nearby
+// server is then shown at once.
 constexpr std::chrono::milliseconds nearServer(50);
 constexpr std::chrono::milliseconds betweenProgress(100);
 
@@ -26,11 +26,11 @@ struct JobSender::Sending
     std::atomic<qint64> sent{0};
     std::atomic<qint64> total{0}; // bytes
     std::atomic<bool> isCancelled{false};
-    // Before the server is contacted, nothing has to be canceled: the work is abandoned, even if it is still
-    // reading.
+    // Until the server is contacted there is no job to cancel: the work is abandoned, even while it reads a
+    // document.
     enum class Phase { Reading, Submitting, Dropped };
     std::atomic<Phase> phase{Phase::Reading};
-    bool isToldToSend = false; // whether submitting() was emitted
+    bool isSubmittingEmitted = false;
     bool enter(Phase next)
     {
         Phase reading = Phase::Reading;
@@ -105,7 +105,7 @@ void JobSender::tellProgress()
             dropReading();
         return;
     }
-    if (!std::exchange(m_sending->isToldToSend, true) && !m_sending->isCancelled)
+    if (!std::exchange(m_sending->isSubmittingEmitted, true) && !m_sending->isCancelled)
         Q_EMIT submitting();
     Q_EMIT progressed(m_sending->sent, m_sending->total);
 }
@@ -122,7 +122,7 @@ bool JobSender::dropReading()
     return true;
 }
 
-// Does not wait for the settings file, which may be slow.
+// Reports the outcome. The settings file is written later, since its file system may be slow.
 void JobSender::end(const Submission &submission)
 {
     m_progressTimer.stop();

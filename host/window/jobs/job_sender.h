@@ -20,7 +20,7 @@ namespace host {
 class HeldSignals;
 
 // Sends documents to the print server as a job, on a worker thread, and reports the progress. Sends
-// nothing if nothing would be printed. Owned by its window; sends one job at a time. The print system is
+// nothing if nothing would be printed. Part of a JobDesk; sends one job at a time. The print system is
 // borrowed and outlives this object. Signals that end the program are held during a submission, so that the
 // job can be canceled first.
 class JobSender : public QObject

@@ -49,8 +49,8 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent), m_glyph(new StatusGlyph(iconSize, this)), m_title(centredLabel(this)),
       m_documents(centredLabel(this)), m_state(centredLabel(this)), m_notes(centredLabel(this))
 {
-    // Announced apart from the state, so that a screen reader does not repeat one when the other changes or a
-    // button gets the focus.
+    // Title and state are announced separately. Otherwise a screen reader would repeat both when one of them
+    // changes or a button gets the focus.
     makeAnnounced(m_title);
     QFont large = m_title->font();
     large.setPointSizeF(large.pointSizeF() * 1.35);
@@ -138,9 +138,9 @@ void ResultPage::showTitle(const QString &title)
              m_documents->text().isEmpty() ? title : title + QLatin1Char('\n') + m_documents->text());
 }
 
-// In a new label, since a screen reader may receive an announcement late, and then reads the current text of
-// its label: it would read the last state once for each state before it. The previous label is kept for a
-// while for the same reason: it would read an empty text if the label no longer existed.
+// Shows each state in a new label. A screen reader that receives an announcement late reads the current text
+// of the label, so with a single label it would read the last state several times. It would
+// read an empty text if the label no longer existed, so the previous label is kept for a while.
 void ResultPage::showState(const QString &state)
 {
     auto *column = static_cast<QVBoxLayout *>(layout());

@@ -75,8 +75,8 @@ QList<QWidget *> keyedWidgets(QWidget *part)
     return found;
 }
 
-// How much wider a text is drawn than it is measured, in pixels: Qt draws the access key separately, without
-// the kerning that it includes in the measured width, as in "Tw".
+// The difference between the width of a text as drawn and as measured, in pixels. Qt measures the text with
+// kerning, as in "Tw", but draws the character of the access key separately, without it.
 int lostKerning(const QFontMetrics &metrics, const QString &shown)
 {
     const qsizetype key = Mnemonics::placeOfKey(shown);

@@ -19,19 +19,19 @@ class QWidget;
 
 namespace host {
 
-// Assigns unique access keys to the labels of fields and the buttons that are visible, even between host,
-// panels and translations. Earlier parts of a window take precedence for the keys that their texts request; a
-// text gets another key if its key is taken, or it requests none. Disabled controls choose last,
-// after those that yield. The last part, which is shown and hidden while the others stay, gets only keys that
-// are free then, so that the keys of the others do not change. Updated when widgets are shown, hidden,
-// enabled and disabled. A child of its window.
+// Assigns unique access keys to the visible buttons and labels of fields of the host and the panels. A text
+// gets the key that it requests. If another text has that key, or it requests none, it gets another one. Keys
+// are assigned in the order of the parts, then to widgets with yieldingProperty, then to disabled widgets.
+// The last part, which is shown and hidden while the others stay, gets only keys that are left, so that the
+// keys of the others do not change. Updated when widgets are shown, hidden, enabled and disabled. A child of
+// its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
 public:
     // Set to true on a label or button that should not get a key.
     static constexpr const char *keylessProperty = "keyless";
-    // Set to true on one that chooses after the others, since there may be fewer letters than texts.
+    // Set to true on one that gets its key after the others, since there may be fewer letters than texts.
     static constexpr const char *yieldingProperty = "yieldsKey";
 
     // The parts are owned by the window and outlive this object.

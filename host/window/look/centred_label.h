@@ -7,7 +7,7 @@
 
 namespace host {
 
-// A line of plain text in the centre of a page; wraps. Owned by the parent.
+// A line of plain text in the center of a page; wraps. Owned by the parent.
 inline QLabel *centredLabel(QWidget *parent)
 {
     auto *label = new QLabel(parent);

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// The mark of a changed setting, an arrow: pressing it undoes the change. Does not take the focus; the
-// context menu of the control has the same function for the keyboard.
+// The mark of a changed setting: a button with an arrow that undoes the change. Does not take the focus;
+// keyboard users find the same function in the context menu of the control.
 class ChangeMark : public QAbstractButton
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-constexpr int patience = 5'000;           // milliseconds
+constexpr int timeout = 5'000;            // milliseconds
 constexpr qint64 longestFile = 64 * 1024; // maximum bytes to read from a settings.ini
 
 QString schemeOfTheme(const QString &theme)
@@ -68,9 +68,9 @@ void followDesktopContrast(QObject *receiver)
             QProcess process;
             process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
             process.start(program, {QStringLiteral("--color-scheme")}, QIODevice::ReadOnly);
-            if (!process.waitForFinished(patience)) {
+            if (!process.waitForFinished(timeout)) {
                 process.kill();
-                process.waitForFinished(patience);
+                process.waitForFinished(timeout);
                 return QString();
             }
             return QString::fromUtf8(process.readAllStandardOutput()).trimmed();

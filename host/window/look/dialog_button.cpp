@@ -21,7 +21,7 @@ QSize DialogButton::sizeHint() const
     return QPushButton::sizeHint().grownBy({8, 0, 8, 0});
 }
 
-// Without the additional space: an access key may make the text a pixel wider when the width is already set.
+// Without the additional space, which then compensates for a text that becomes wider with its access key.
 QSize DialogButton::minimumSizeHint() const
 {
     return QPushButton::sizeHint();

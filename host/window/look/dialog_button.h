@@ -10,16 +10,16 @@
 
 namespace host {
 
-// A button of the dialog. The default button has the highlight colour as its background, which distinguishes
-// it in every palette and wherever the focus is; a focused button is the default button.
+// A button of the dialog. The default button has the highlight color as its background, so that it is
+// recognizable in every palette. If a button has the focus, it is the default button.
 class DialogButton : public QPushButton
 {
     Q_OBJECT
 public:
     DialogButton(const QString &text, QWidget *parent);
 
-    // Ignores the mouse for this time, for example if the button has just appeared under a pointer that
-    // pressed another one. Keys still work.
+    // Ignores the mouse for this time, so that a double click on the previous button at this place does not
+    // press this one. Keys still work.
     void ignoreMouseFor(std::chrono::milliseconds time) { m_mouseIgnored.setRemainingTime(time); }
 
     QSize sizeHint() const override;

@@ -9,9 +9,9 @@
 
 namespace host {
 
-// A frame around the control of a window that has the focus, since styles mark it faintly, some controls not
-// at all, and no control before the Tab key is first pressed. A child of its window. Rows of the list of
-// pages have their own mark.
+// A frame around the control of a window that has the focus. The marks of styles are faint, are missing on
+// some controls, and do not appear before the Tab key is first pressed. List views have their own mark and no
+// frame. A child of its window.
 class FocusRing : public QObject
 {
     Q_OBJECT

@@ -16,13 +16,13 @@ ListEscape::ListEscape(QWidget *dialog) : QObject(dialog)
 
 bool ListEscape::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isAnnounced = event->type() == QEvent::ShortcutOverride;
-    if ((!isAnnounced && event->type() != QEvent::KeyPress) || !watched->isWindowType() ||
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if ((!isOverride && event->type() != QEvent::KeyPress) || !watched->isWindowType() ||
         !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel))
         return false;
     const bool isOpen = QApplication::activePopupWidget() != nullptr;
-    const bool hasClosed = !isAnnounced && m_listWasOpen && !isOpen;
-    m_listWasOpen = isAnnounced && isOpen;
+    const bool hasClosed = !isOverride && m_listWasOpen && !isOpen;
+    m_listWasOpen = isOverride && isOpen;
     return hasClosed;
 }
 

@@ -9,9 +9,9 @@ class QWidget;
 
 namespace host {
 
-// Prevents the Escape key that closes an open list from also closing the dialog. Qt closes a list when the
-// key is announced as a possible shortcut. On Wayland the focus stays with the dialog's window while a list
-// is open, so the key press that follows would reach the dialog. Owned by the dialog; filters events of the
+// Prevents the Escape key that closes an open list from also closing the dialog. Qt closes a list on the
+// ShortcutOverride event that precedes the key press. On Wayland the dialog's window keeps the focus while a
+// list is open, so the key press would reach the dialog. Owned by the dialog; filters events of the
 // application.
 class ListEscape : public QObject
 {
@@ -22,7 +22,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool m_listWasOpen = false; // when the key was announced
+    bool m_listWasOpen = false; // at the last ShortcutOverride event
 };
 
 } // namespace host

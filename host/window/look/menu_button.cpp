@@ -13,7 +13,7 @@ namespace host {
 namespace {
 
 constexpr int sideAir = 12;    // pixels on both sides of the text together
-constexpr int leastChars = 40; // of average width that always have room; the end of a longer text may be cut
+constexpr int leastChars = 40; // of average width; a narrow button may elide a longer text to this length
 
 } // namespace
 

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// A button with a menu that is created on demand: requested once, when the button has been painted, or when
-// it is pressed before that. This reduces the start-up time and memory of a window.
+// A button whose menu is created after the first paint of the button, or when it is pressed before that. A
+// window then starts faster.
 class MenuButton : public QPushButton
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    // The receiver must call setMenu() before it returns.
+    // Emitted once. The receiver must call setMenu() before it returns.
     void menuWanted();
 
 protected:

@@ -14,9 +14,9 @@ const QString endings = QStringLiteral(":：….");
 constexpr qsizetype bracketLength = 4; // length of "(&K)"
 constexpr qsizetype taken = -1;        // the owner of a fixed key
 
-// The position of "(&K)" in a text, as in East Asian languages; -1 if there is none. Parsed by hand, as
-// everything in this file: these texts are examined before the window is first shown, and regular expressions
-// allocate half a megabyte on first use.
+// The position of "(&K)" in a text, as in East Asian languages; -1 if there is none. This file uses no
+// regular expressions: it runs before the window is first shown, and their first use allocates half a
+// megabyte.
 qsizetype placeOfBracket(const QString &text)
 {
     qsizetype at = text.indexOf(QLatin1String("(&"));
@@ -81,7 +81,7 @@ struct Mnemonics::Wish
     QList<QChar> keys;       // possible keys, the best first
     QChar key;               // null until it has one
     bool isVisited = false;  // by the current search
-    bool isSettled = false;  // a search for any free key has failed here, as all later ones would
+    bool isSettled = false;  // whether a search for a key has failed; later searches would fail as well
 
     explicit Wish(const QString &given);
     void findPlaces();
@@ -133,8 +133,8 @@ QString Mnemonics::Wish::shown() const
     return QString(bare).insert(*place, mark);
 }
 
-// Searches for an augmenting path: a text whose keys are all taken gets that of another text, which gets a
-// different one.
+// Gives a text a free key. If there is none, gives it the key of another text that can get a different one,
+// and so on (an augmenting path). False if that is impossible.
 bool Mnemonics::giveKey(QList<Wish> *wishes, qsizetype index, bool mayTakeWanted)
 {
     Wish &wish = (*wishes)[index];

@@ -18,10 +18,11 @@ class WaylandParent;
 // Queries the X server.
 QString titleOfWindow(const QString &handle);
 
-// Places a dialog in front of another program's window, given by the handle of the print portal: "x11:" and
-// the window's number in hexadecimal, or "wayland:" and the name under which the program has exported the
-// window. Does nothing if the handle is invalid, or the desktop has no such windows. The dialog is borrowed
-// and not shown yet; this object must outlive its display.
+// Makes another program's window the parent of a dialog, which is then shown in front of it. The handle is
+// that of the print portal: "x11:" and the window's ID in hexadecimal, or "wayland:" and the name under which
+// the program has exported the window. Does nothing if the handle is invalid, or the desktop has no such
+// windows. The dialog is borrowed, and must not be visible yet; this object must exist while the dialog is
+// shown.
 class ParentWindow
 {
 public:

@@ -41,7 +41,7 @@ qint64 nanosecondsSinceStart()
     return now(CLOCK_BOOTTIME) - ticks * (nanosecondsASecond / sysconf(_SC_CLK_TCK));
 }
 
-// From the kernel's sum over all pages; the value in /proc/self/status may differ by a megabyte.
+// Read from /proc/self/smaps_rollup, which is exact; the value in /proc/self/status may differ by a megabyte.
 qint64 residentKilobytes()
 {
     QFile rollup(QStringLiteral("/proc/self/smaps_rollup"));
@@ -66,7 +66,7 @@ bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Paint && !m_seen) {
         m_seen = true;
         watched->removeEventFilter(this);
-        // The paint follows after this filter; the queued call follows after the window has been flushed.
+        // The window is painted after this filter has returned, and flushed before the queued call.
         QMetaObject::invokeMethod(this, &FirstPaint::done, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);

@@ -28,8 +28,8 @@ private:
     bool m_seen = false;
 };
 
-// Reports when nothing has been painted in a window for a short time, so that its animations are over.
-// Deletes itself then.
+// Emits done() when nothing has been painted for a short time, so that animations have ended. Then deletes
+// itself.
 class Settled : public QObject
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ struct StartupFigures
     static StartupFigures now();
 };
 
-// The output of --startup-time: four tab-separated lines with a name, a number and a unit.
+// The output of --startup-time: four lines, each with a name, a number and a unit, separated by tabs.
 QString startupReport(const StartupFigures &firstPaint, const StartupFigures &optionsPainted);
 
 } // namespace host

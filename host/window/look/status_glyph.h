@@ -7,8 +7,8 @@
 
 namespace host {
 
-// A round icon for a kind of message: a note, a question, an error, a success. Uses the colours of the
-// palette unless a colour has a meaning; sharp at every scale.
+// A round icon for a kind of message: a note, a question, an error, a success. A note has the highlight color
+// of the palette; the other kinds have fixed colors. Sharp at every scale.
 class StatusGlyph : public QWidget
 {
     Q_OBJECT

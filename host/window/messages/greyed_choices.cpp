@@ -54,7 +54,7 @@ GreyedChoices::GreyedChoices(MessageQueue *messages, std::function<DialogSession
                              QWidget *window)
     : QObject(window), m_messages(messages), m_session(std::move(session)), m_window(window)
 {
-    // A list is opened by a box that has the focus.
+    // A box gets the focus before its list is opened.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { watch(now); });
 }
 

@@ -29,7 +29,7 @@ struct Message
 };
 
 // A bar below the pages that shows a message and its answers. Initially hidden. Long texts scroll. A screen
-// reader announces a message once, when it appears. MessageQueue decides what is shown.
+// reader announces a message once, when it appears. Owned by its window, and controlled by a MessageQueue.
 class MessageBar : public QFrame
 {
     Q_OBJECT

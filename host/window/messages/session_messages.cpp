@@ -179,7 +179,8 @@ bool SessionMessages::isAsking() const
     return m_session && (m_messages->contains(Subject::Conflict) || m_messages->contains(Subject::Code));
 }
 
-// A panel marks its changes when it is saved; only then is it known whether a conflict has been resolved.
+// Checks again whether an open question still applies. Panels must be saved for that, since they mark their
+// changes only then.
 void SessionMessages::checkLater()
 {
     if (!isAsking() || std::exchange(m_isCheckQueued, true))

@@ -42,10 +42,10 @@ public:
     // The same before a job is sent; the user may print anyway, also without a code. The question gets the
     // focus.
     bool checkToPrint();
-    // Sets what is loaded in the printer. A choice that is not loaded is mentioned, once until it changes; it
-    // does not prevent printing.
+    // Sets what is loaded in the printer. Paper that is chosen but not loaded causes a message, which is not
+    // repeated after the user has closed it, and does not prevent printing.
     void setLoaded(const QList<LoadedTray> &trays);
-    // Performs a check that was held up.
+    // Performs the check that was due while `isHeldUp` returned true.
     void resumeCheck();
 
 public Q_SLOTS:
@@ -82,7 +82,7 @@ private:
     QStringList m_closedMedia; // the last message about missing media that the user has closed
     QString m_reportedGap;     // the last gap that was reported
     bool m_isCheckQueued = false;
-    bool m_isCheckDue = false; // when it is no longer held up
+    bool m_isCheckDue = false; // to be performed by resumeCheck()
 };
 
 } // namespace host

@@ -117,19 +117,20 @@ void ChangeMarks::findControls()
     }
 }
 
-// From its bindings, or without one: a slider of an older host reports to the panel directly.
+// The keys that a control sets: those of its bindings, and the key path that it declares without a binding,
+// as a slider does that sets the key of its panel itself.
 QStringList ChangeMarks::keysSetBy(const QWidget *control) const
 {
     QStringList keys;
-    const QString told = platform::keyPathSetBy(control);
+    const QString declared = platform::keyPathSetBy(control);
     bool isBound = false;
     for (const auto *binding :
          control->findChildren<platform::Binding *>(QString(), Qt::FindDirectChildrenOnly)) {
-        isBound = isBound || binding->observedKeyPath() == told;
+        isBound = isBound || binding->observedKeyPath() == declared;
         if (binding->isTwoWay())
             keys += keysOfControl(*m_session, m_panel, binding->observedKeyPath());
     }
-    return isBound || told.isEmpty() ? keys : keys + keysOfControl(*m_session, m_panel, told);
+    return isBound || declared.isEmpty() ? keys : keys + keysOfControl(*m_session, m_panel, declared);
 }
 
 void ChangeMarks::add(QWidget *widget, const QStringList &keys)
@@ -143,7 +144,7 @@ void ChangeMarks::add(QWidget *widget, const QStringList &keys)
     for (QWidget *around = widget; around != m_page->parentWidget(); around = around->parentWidget())
         watch(around);
     for (QLineEdit *inner : widget->findChildren<QLineEdit *>())
-        watch(inner); // of a spin box, which has the context menu
+        watch(inner); // the field of a spin box shows the context menu
 }
 
 void ChangeMarks::watch(QWidget *widget)
@@ -206,7 +207,7 @@ void ChangeMarks::show(Control *control, bool isChanged, const QList<SettingChan
     describe(control, control->mark->accessibleName());
 }
 
-// The control's description may have changed since.
+// Puts the change before the control's own description, which may have been set again since the last call.
 void ChangeMarks::describe(Control *control, const QString &change)
 {
     const QString now = control->widget->accessibleDescription();
@@ -231,7 +232,8 @@ void ChangeMarks::placeAll()
     }
 }
 
-// After the control, before it if another widget is there, or else at the next free place in its line.
+// Places a mark after its control, or before it if another widget is there. If neither place is free, moves
+// it along the line to the next free one.
 void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacles)
 {
     QWidget *sheet = m_page->parentWidget();

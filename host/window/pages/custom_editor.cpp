@@ -28,8 +28,8 @@ namespace {
 
 constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, if nothing has been chosen
 constexpr double usualHeight = 297 / 25.4 * 72;
-// Maximum input. A number beyond the printer's limits is kept and reported, since a truncated number would be
-// a different one.
+// The largest number that can be entered. A number beyond the printer's limits is kept and reported: a spin
+// box with these limits would change it to another number.
 constexpr int mostTyped = 999'999;
 
 int decimalsOf(const QString &unit)
@@ -72,7 +72,7 @@ CustomEditor::CustomEditor(const CustomChoice &custom, const QString &option, QW
     }
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
-    colourHint(false);
+    colorHint(false);
     m_grid->addWidget(m_hint, m_grid->rowCount(), 0, 1, 2);
     setFocusProxy(m_fields.first().widget);
     setWhatsThis(explanationOf(QStringLiteral("custom")));
@@ -235,7 +235,7 @@ void CustomEditor::changeUnit()
     fieldEdited();
 }
 
-void CustomEditor::colourHint(bool wrong)
+void CustomEditor::colorHint(bool wrong)
 {
     QPalette changed = m_hint->palette();
     changed.setColor(QPalette::WindowText, wrong ? errorInk(palette()) : mutedInk(palette()));
@@ -244,14 +244,14 @@ void CustomEditor::colourHint(bool wrong)
 
 void CustomEditor::showProblem()
 {
-    colourHint(true);
+    colorHint(true);
     setFocus();
 }
 
 void CustomEditor::fieldEdited()
 {
     m_shown.clear();
-    colourHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may be incomplete
+    colorHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may be incomplete
     Q_EMIT edited();
 }
 

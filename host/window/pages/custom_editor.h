@@ -31,7 +31,7 @@ public:
     QString choice() const;
     // The localised problem with the input; null if there is none.
     QString problem() const;
-    // Marks the missing value as missing, until the next key, and places the cursor there.
+    // Sets the focus, and shows the hint in the color of errors until a value is edited.
     void showProblem();
 
 Q_SIGNALS:
@@ -53,7 +53,7 @@ private:
     void changeUnit();
     void setRanges();
     void fieldEdited();
-    void colourHint(bool wrong);
+    void colorHint(bool wrong);
 
     CustomChoice m_custom;
     QString m_option;

@@ -264,7 +264,8 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
     return button;
 }
 
-// The print system counts the printed sides if several pages are placed on one.
+// Shows the note that page ranges count printed sides, which the print system does if several pages are
+// placed on one side.
 void GeneralPage::showSides()
 {
     const int pages = layoutAsPrinted(*m_session).pagesPerSide();
@@ -326,7 +327,8 @@ void GeneralPage::showProblem()
     m_pages->selectAll();
 }
 
-// Announced once for each problem, and set as the description of the field.
+// Shows or hides the problem with the page range. Announces each problem once, and sets it as the description
+// of the field.
 void GeneralPage::setProblemShown(bool shown)
 {
     const QString problem = shown ? m_problem->text() : QString();
@@ -366,7 +368,7 @@ void GeneralPage::setRanges(const QString &ranges)
     showGeneral();
 }
 
-// Input is kept as long as it represents the current setting.
+// Shows the general settings. Typed ranges that represent the current setting are kept as they are.
 void GeneralPage::showGeneral()
 {
     const GeneralSettings general = m_session->general();
@@ -384,7 +386,7 @@ void GeneralPage::showGeneral()
                               : QString();
     if (typed == general.pages)
         return;
-    const QSignalBlocker quiet(m_somePages); // which gives the field the focus
+    const QSignalBlocker quiet(m_somePages); // its signal would move the focus to the field
     enablePages(!general.pages.isEmpty());
     m_somePages->setChecked(!general.pages.isEmpty());
     m_allPages->setChecked(general.pages.isEmpty());

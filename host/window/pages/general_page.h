@@ -86,7 +86,7 @@ private:
     QLabel *m_problem;
     QString m_announced; // the problem that was announced last; null if there is none
     QList<std::pair<GeneralSettings::Part, QRadioButton *>> m_parts; // offered by another program
-    QLabel *m_sides; // explains what the numbers of a range count
+    QLabel *m_sides; // explains that page ranges count printed sides
     OptionForm *m_form = nullptr;
     LayoutForm *m_layout = nullptr; // created after the first paint
     bool m_isPainted = false;

@@ -13,9 +13,9 @@ class DialogSession;
 class DocumentChoice;
 class PageCounter;
 
-// The paper consumption of the job, such as "4 sheets, 8 sides, color". Empty while the pages of a document
-// have not been counted, or if they cannot be. Separate programs count them in the background. The choice of
-// documents is borrowed.
+// Shows the paper consumption of the job, such as "4 sheets, 8 sides, color". Separate programs count the
+// pages in the background; the label is empty until all are counted, or if that is not possible. The choice
+// of documents is borrowed.
 class JobCostLabel : public ElidedLabel
 {
     Q_OBJECT

@@ -190,7 +190,8 @@ void LayoutForm::turn(const QString &name, bool on)
     Q_EMIT changed();
 }
 
-// Selects two-sided printing for a booklet, and restores the earlier choice afterwards.
+// Selects two-sided printing if a booklet was switched on, and restores the earlier choice if it was switched
+// off.
 void LayoutForm::fold(bool on)
 {
     const auto sides = sidesForBooklet(*m_session);
@@ -273,7 +274,7 @@ void LayoutForm::enable(QWidget *control, const QString &obstacle)
     control->setToolTip(obstacle);
 }
 
-// Why a booklet cannot be printed; null if it can, or is selected already.
+// Why a booklet cannot be selected; null if it can be, or is already.
 QString LayoutForm::foldingObstacle() const
 {
     const auto sides = sidesForBooklet(*m_session);
@@ -281,7 +282,7 @@ QString LayoutForm::foldingObstacle() const
     return isFixed && !m_session->general().layout.isBooklet() ? Policy::current().attribution() : QString();
 }
 
-// Why sheets cannot be stitched; null if they can, or are.
+// Why saddle stitching cannot be selected; null if it can be, or is already.
 QString LayoutForm::stitchingObstacle() const
 {
     if (m_stitched->isChecked())

@@ -78,7 +78,7 @@ private:
     QList<Row> m_rows;
     QSpinBox *m_scale = nullptr; // created with the rows
     QList<Switch> m_switches;
-    QCheckBox *m_stitched = nullptr;           // null if the printer cannot stitch
+    QCheckBox *m_stitched = nullptr;           // null if the printer has no saddle stitching
     std::optional<OptionChoice> m_stitching;   // that choice
     std::optional<OptionChoice> m_sidesBefore; // two-sided printing before a booklet was selected
 };

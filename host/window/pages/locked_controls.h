@@ -10,9 +10,9 @@ class QWidget;
 
 namespace host {
 
-// Disables the controls on the page of a panel that the administrator has fixed, and shows the reason in
-// their tooltips, before the panel's own text. They stay disabled whatever the panel does. The controls are
-// owned by the page, and may be destroyed first. A child of the widget that shows the page.
+// Disables the controls on the page of a panel whose settings the administrator has fixed, and shows the
+// reason in their tooltips, before the panel's own text. They stay disabled if the panel enables them. The
+// controls are owned by the page, and may be destroyed first. A child of the widget that shows the page.
 class LockedControls : public QObject
 {
     Q_OBJECT

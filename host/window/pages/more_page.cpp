@@ -20,7 +20,7 @@ namespace host {
 
 namespace {
 
-constexpr qsizetype rowsInPart = 10; // created within a few milliseconds
+constexpr qsizetype rowsInPart = 10; // few enough to be created within a few milliseconds
 constexpr qsizetype rowsAtOnce = 20; // more than fit into a window of usual height
 constexpr int titleWidth = 440;      // pixels
 

@@ -49,7 +49,7 @@ private:
         platform::ChoiceBox *box;
         CustomEditor *editor = nullptr; // null for an option without a custom choice
         bool awaitsValues = false;      // a custom choice is selected, but its values are incomplete
-        // The revision for which items were greyed out; they are valid while it is unchanged.
+        // The revision of the PPD for which items were greyed out; they need no update while it is unchanged.
         quint32 revision = 0;
         QString current = QString();
         int index = -1;

@@ -127,15 +127,17 @@ void PageBook::fitParts()
     m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
     if (!m_preview)
         return;
-    // The window has no share for the preview on other pages. A label there may become slightly wider, for
-    // example with its access key, without moving the preview. The summary uses the whole width.
+    // On other pages the size of the window does not include the preview. The spare width lets a label become
+    // slightly wider there, for example with its access key, without hiding or moving the preview. The
+    // summary uses the whole width.
     const int share = previewShare() > 0 ? previewShare() : -spareWidth;
     const bool mayShow = m_current >= 0 && currentName() != summaryName;
     m_preview->setRoom(mayShow ? width() - wantedSize().width() + share : 0);
     updatePreview();
 }
 
-// The width for the preview with which the window opens. The window does not grow for it on other pages.
+// The width of the preview that wantedSize() includes, in pixels. It is 0 on other pages than the general
+// page, for which the window does not grow.
 int PageBook::previewShare() const
 {
     return m_preview && currentName() == generalName ? DialogPreview::preferredWidth : 0;
@@ -147,7 +149,8 @@ void PageBook::updatePreview()
         m_preview->setSettings(pageSettings(*m_session), sheetFinish(*m_session));
 }
 
-// The general page holds the ranges that the user types.
+// Sets the ranges on the general page, which is built if necessary, since it shows them as if they were
+// typed.
 void PageBook::setRanges(const QString &ranges)
 {
     if (m_session && !m_general)
@@ -248,7 +251,7 @@ QWidget *PageBook::contentOf(const Page &page)
     return m_summary;
 }
 
-// Removing a page makes another one current and updates the layout: this object must have no page by then.
+// Forgets all pages before it removes them: removing one makes another one current and updates the layout.
 void PageBook::clear()
 {
     const std::vector<Page> pages = std::exchange(m_pages, {});
@@ -310,7 +313,7 @@ void PageBook::showPage(int row)
     QWidget *const focus = window()->focusWidget();
     const bool wasOnPage = focus && m_stack->isAncestorOf(focus);
     const bool allowed = !m_isPreparing && leave();
-    if (allowed && wasOnPage) // it would move to the next widgets
+    if (allowed && wasOnPage) // the focus would move to the next widget
         m_list->setFocus();
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentRow(allowed ? row : m_current);
@@ -332,7 +335,7 @@ void PageBook::showPage(int row)
     showChanges();
 }
 
-// Changes before the panel is ready are not changes by the user.
+// Prepares the panel of a page. Its changes meanwhile are not recorded as changes by the user.
 void PageBook::prepare(const Page &page)
 {
     const auto paused = m_history->pause();

@@ -41,7 +41,7 @@ QString nameOf(const QWidget *control, const QList<QLabel *> &labels)
     return {};
 }
 
-// Whether a widget is a part of another control: the field of a spin box, a reset button, a scroll bar.
+// Whether a widget is not a control of its own: the field of a spin box, a reset button, or a scroll area.
 bool isPart(const QWidget *control)
 {
     const bool onlyScrolls = qobject_cast<const QAbstractScrollArea *>(control) &&

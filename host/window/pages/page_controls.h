@@ -18,8 +18,8 @@ struct PageControl
     QString keyword;            // the PPD option or key of a panel that it sets; null if unknown
 };
 
-// The controls of a page that the Tab key can reach, also in another view of the page, in the order of the
-// page. Buttons that reset an adjacent control are left out.
+// The named controls of a page that the Tab key can reach, including those in views of the page that are not
+// shown now, in the order of the page. Buttons that reset an adjacent control are left out.
 QList<PageControl> controlsOf(const QWidget *page);
 
 // The control that sets an option, else the one with that name; null if the page has none (yet).

@@ -118,7 +118,8 @@ int PageFrame::wantedHeight() const
     return m_scroll->widget()->sizeHint().height();
 }
 
-// A row was added, or a text has become longer, possibly while the page was hidden.
+// Reports that the content was laid out again: a row was added, or a text has become longer, possibly while
+// the page was hidden.
 bool PageFrame::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest)

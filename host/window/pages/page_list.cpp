@@ -127,7 +127,7 @@ void PageList::changeEvent(QEvent *event)
         takePalette();
 }
 
-// Gives the list and the margin around its rows the same colour.
+// Gives the list and the margin around its rows the same color.
 void PageList::takePalette()
 {
     setBackgroundRole(QPalette::Base);

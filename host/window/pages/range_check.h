@@ -12,8 +12,9 @@ class DialogSession;
 class DocumentChoice;
 class PageCounter;
 
-// Checks whether page ranges are beyond the end of all documents. The documents are counted on first use, on
-// a worker thread; without the programs to do so, every range is valid. Session and choice are borrowed.
+// Checks whether page ranges begin after the last page of all documents. Separate programs count the pages on
+// first use, in the background; if the programs are not installed, every range is valid. Session and choice
+// are borrowed.
 class RangeCheck : public QObject
 {
     Q_OBJECT

@@ -80,7 +80,7 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
     rebuild();
 }
 
-// In the order of the pages and of their controls.
+// Shows only the changed settings, in the order of the pages and of their controls.
 void SummaryPage::showChanged(const DialogSession &session, const QList<SettingChange> &changes)
 {
     QHash<QString, qsizetype> places;

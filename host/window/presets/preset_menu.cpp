@@ -31,8 +31,8 @@ namespace {
 const QString printersDefaults = QStringLiteral("/printer");
 const QString ownDefaults = QStringLiteral("/own");
 const QString lastUsed = QStringLiteral("/last");
-// Local files are read within this time, so that the menu shows their contents at once.
-constexpr std::chrono::milliseconds nearFiles(50);
+// The thread waits this long for the presets, so that the menu usually shows those of local files at once.
+constexpr std::chrono::milliseconds localFiles(50);
 constexpr int longestName = 24; // characters on the button
 
 bool isPresetName(const QString &name)
@@ -47,8 +47,8 @@ QLineEdit *fieldAt(QObject *object)
     return qobject_cast<QLineEdit *>(object);
 }
 
-// Moves the focus from a control that was disabled by a step to the control before it, which is often its
-// switch.
+// Moves the focus from a control that undo or redo has disabled to the control before it, which is often the
+// one that enables it.
 void focusBefore(QWidget *gone)
 {
     QWidget *next = gone->previousInFocusChain();
@@ -157,7 +157,7 @@ std::function<void()> PresetMenu::rememberUse() const
     if (queue.isEmpty())
         return [] {};
     return [queue, options = presetOptions(*m_session, {}, false)] {
-        PrintError ignored; // a convenience; a printed job does not fail because of it
+        PrintError ignored; // the job is already accepted, and these settings are only a convenience
         (void)PresetStore(PresetStore::filesOfLastUsed()).save(queue, {QString(), options}, &ignored);
     };
 }
@@ -198,14 +198,14 @@ void PresetMenu::openMenu()
         this, [queue = queue()] { return readLists(queue); },
         [this](const Lists &lists) {
             m_lists = lists;
-            if (!lists.error && !m_queueOptions) // the files may have changed later
+            if (!lists.error && !m_queueOptions) // only at first, before presets can be changed here
                 m_queueOptions = queueOptions();
             if (m_menu->isVisible())
                 fillMenu();
             if (lists.error)
                 Q_EMIT failed(lists.error);
         });
-    (void)m_reading.deliverWithin(nearFiles);
+    (void)m_reading.deliverWithin(localFiles);
     fillMenu();
 }
 
@@ -296,7 +296,8 @@ QMap<QString, QString> PresetMenu::optionsOf(const QString &name) const
     return preset == m_lists.presets.end() ? QMap<QString, QString>() : preset->options;
 }
 
-// The print system returns the printer's and the user's options as one list.
+// The options of the queue itself. The print system returns them together with those of the user, which are
+// removed here.
 QMap<QString, QString> PresetMenu::queueOptions() const
 {
     if (m_queueOptions)
@@ -342,7 +343,8 @@ void PresetMenu::edit(std::function<PrintError(const PresetStore &)> work, const
         });
 }
 
-// Keeps the settings; changes are then shown against the initial values of the printer.
+// Detaches the settings from a preset that no longer exists, and keeps them. Changes are then shown relative
+// to the initial values of the printer.
 void PresetMenu::forget(const QString &name)
 {
     leaveInstance(name, {});
@@ -356,7 +358,7 @@ void PresetMenu::forget(const QString &name)
     m_history->replaceBase(name, defaults);
 }
 
-// The destination no longer exists under this name.
+// Changes the instance of the session's destination if it is the preset that was renamed or deleted.
 void PresetMenu::leaveInstance(const QString &name, const QString &another)
 {
     if (m_startInstance == name)
@@ -415,7 +417,7 @@ void PresetMenu::rename()
     dialog->open();
 }
 
-// Keeps the settings.
+// Asks whether to delete the preset. The current settings do not change.
 void PresetMenu::remove()
 {
     const QString name = m_history->base().name;

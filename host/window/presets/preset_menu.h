@@ -26,8 +26,8 @@ class DialogSession;
 class MenuButton;
 class SessionHistory;
 
-// The menu of the presets of the selected printer, and the undo history of the session. Reads and writes
-// presets on a worker thread, but not before the menu is first opened. A child of the window. The session is
+// The menu of the presets of the selected printer, and the undo history of the session. Presets are read when
+// the menu is opened, and written on request, both on a worker thread. A child of the window. The session is
 // borrowed; detach it before it is destroyed.
 class PresetMenu : public QObject
 {
@@ -98,7 +98,7 @@ private:
     QWidget *m_window;
     MenuButton *m_button;
     QMenu *m_menu = nullptr; // created on first use
-    QActionGroup *m_choices; // the entries for complete settings
+    QActionGroup *m_choices; // the entries that apply settings
     QAction *m_undo;
     QAction *m_redo;
     DialogSession *m_session = nullptr;

@@ -17,8 +17,8 @@ class PreviewPane;
 struct PageSettings;
 struct SheetFinish;
 
-// The preview of the dialog: a pane next to the pages if there is space for it, and a window of its own that
-// the user can open from a button otherwise. A child of the widget with the pages.
+// The preview of the dialog: a pane next to the pages if there is space for it, otherwise a button that opens
+// the preview in a separate window. A child of the widget with the pages.
 class DialogPreview : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     // Adds the pane to the row of the pages. The choice is borrowed and outlives this object.
     DialogPreview(DocumentChoice *documents, QHBoxLayout *row, QWidget *parent);
 
-    // Renders pages from now on. Returns a button that opens the window and is shown while the pane is not;
-    // the caller places and owns it.
+    // Renders pages from now on. Returns the button that opens the window, which is hidden while the pane is
+    // shown; the caller places and owns it.
     QWidget *begin();
     // Shows the pane if the available width, in pixels, is sufficient.
     void setRoom(int width);

@@ -16,8 +16,8 @@ namespace host {
 
 namespace {
 
-constexpr QSize widest(900, 1100); // pixels
-constexpr int roomAround = 60;     // pixels of the screen that remain free
+constexpr QSize largestSize(900, 1100); // pixels
+constexpr int screenMargin = 60;        // pixels of the screen that remain free
 
 } // namespace
 
@@ -37,8 +37,8 @@ PreviewDialog::PreviewDialog(DocumentChoice *choice, QWidget *parent)
     column->addWidget(m_pane, 1);
     column->addLayout(row);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    const QSize room = screen()->availableSize() - QSize(roomAround, roomAround);
-    resize(widest.boundedTo(room));
+    const QSize room = screen()->availableSize() - QSize(screenMargin, screenMargin);
+    resize(largestSize.boundedTo(room));
     m_pane->begin(PageTools::installed());
     close->setFocus();
 }

@@ -105,7 +105,7 @@ void PreviewPane::build()
     connect(m_strip, &PreviewStrip::toggled, this, &PreviewPane::toggle);
 }
 
-// The smaller sizes are on the left, as in a scale. The keys are those of document viewers.
+// Adds the buttons of the zoom, from smaller to larger, and its keys, which are those of document viewers.
 void PreviewPane::buildZoom(QHBoxLayout *row)
 {
     const auto keys = [](std::initializer_list<QKeyCombination> all) {
@@ -190,9 +190,9 @@ void PreviewPane::setSettings(const PageSettings &settings, const SheetFinish &f
         applySettings();
 }
 
-// Hides page ranges from the filters if possible, so that excluded pages can be shown as well. The filters
-// apply the ranges if they count differently, because they reverse the order or select odd or even pages, or
-// if several documents are printed.
+// Passes the settings to the preview, without the page ranges if possible, so that excluded pages are shown
+// as well. The filters must apply the ranges themselves if they count other pages than the preview: with
+// reverse order or odd or even pages, and if several documents are printed.
 void PreviewPane::applySettings()
 {
     QString ranges;

@@ -89,7 +89,7 @@ void PreviewSheet::zoomToFit()
     setStep(0, {});
 }
 
-// The point of the page at `fixed`, a position in the viewport, stays there.
+// Sets the zoom. The point of the page at `fixed`, a position in the viewport, does not move.
 void PreviewSheet::setStep(int step, const QPointF &fixed)
 {
     step = qBound(0, step, static_cast<int>(zooms.size()) - 1);
@@ -117,7 +117,7 @@ void PreviewSheet::resizeEvent(QResizeEvent *event)
     scale();
 }
 
-// In pixels of the screen. The size does not depend on whether there are scroll bars.
+// The size of the page in pixels, which does not depend on whether there are scroll bars.
 QSizeF PreviewSheet::pageSize(double zoom) const
 {
     const QSizeF room = QSizeF(maximumViewportSize() - QSize(2 * margin, 2 * margin));
@@ -126,7 +126,7 @@ QSizeF PreviewSheet::pageSize(double zoom) const
     return QSizeF(m_page.size()).scaled(room * zoom, Qt::KeepAspectRatio);
 }
 
-// Of the page, relative to the viewport.
+// The rectangle of the page in the viewport.
 QRectF PreviewSheet::place() const
 {
     const QSizeF size = pageSize(zoom());
@@ -206,8 +206,8 @@ void PreviewSheet::mouseReleaseEvent(QMouseEvent *)
     viewport()->unsetCursor();
 }
 
-// The orientation of a rotated page in the stapler is unknown: it is shown without staples and holes, except
-// those in the fold.
+// Draws the binding edge, staples and holes. It is unknown how the printer turns a rotated page for stapling,
+// so such a page is shown without them, except for staples in the fold.
 void PreviewSheet::paintFinish(QPainter *painter, const QRectF &place) const
 {
     constexpr double strip = 4;   // pixels; width of the binding edge

@@ -11,8 +11,9 @@
 
 namespace host {
 
-// Shows one page as large as possible, or a text in its place. The page can be enlarged, and is then scrolled
-// with the scroll bars, the arrow keys, the wheel, or by dragging it; Ctrl and the wheel change its size.
+// Shows one page as large as possible, or a text in its place. The page can be enlarged, for example with
+// Ctrl and the wheel. It is then scrolled with the scroll bars, the arrow keys or the wheel, or by dragging
+// it.
 class PreviewSheet : public QAbstractScrollArea
 {
     Q_OBJECT

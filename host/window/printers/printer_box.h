@@ -44,7 +44,7 @@ Q_SIGNALS:
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;
-    // Scrolling over the box must not open printers.
+    // Ignores the wheel: each step would select a printer, and the dialog would open it.
     void wheelEvent(QWheelEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -105,7 +105,7 @@ QList<Destination> PrinterList::inOrder(QList<Destination> printers) const
 int PrinterList::put(const Destination &printer)
 {
     int row = rowOf(printer.name());
-    if (isAwaited(printer.name())) // it exists after all
+    if (isAwaited(printer.name())) // now it has been reported
         forgetStandIn();
     if (row >= 0) {
         m_printers[row] = printer;

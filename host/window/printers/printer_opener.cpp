@@ -9,8 +9,8 @@ namespace host {
 
 namespace {
 
-// A nearby print server responds within this time, and its response is shown at once. The user does not
-// notice the wait.
+// The thread waits this long for a print server, which the user does not notice. The response of a nearby
+// server is then shown at once.
 constexpr std::chrono::milliseconds nearServer(50);
 // If the user steps through printers faster than this, the printers in between are not opened.
 constexpr std::chrono::milliseconds betweenPicks(200);
@@ -57,7 +57,7 @@ void PrinterOpener::open(const PrinterWish &wish, Receiver receiver)
     m_openingTimer.start(nearServer);
 }
 
-// Reading the settings file may be as slow as the print server.
+// On a worker thread, since reading the settings file may be as slow as the print server.
 void PrinterOpener::askUsedLast()
 {
     m_usedLast.start(
@@ -76,7 +76,8 @@ void PrinterOpener::deliverNear()
     tellDelay();
 }
 
-// A waiting panel is still on the call stack, so its session must not be destroyed.
+// Holds the result up while a panel waits: the receiver would destroy the session, whose panel is still on
+// the call stack.
 void PrinterOpener::receive(PrinterOpening opening, const Receiver &receiver)
 {
     m_openingTimer.stop();

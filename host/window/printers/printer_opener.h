@@ -14,8 +14,8 @@
 
 namespace host {
 
-// Opens printers on a worker thread, one at a time: a later request replaces one that is still running. Owned
-// by its window. The print system is borrowed and outlives it.
+// Opens printers on a worker thread, one at a time: a later request replaces one that is still running. Part
+// of a SessionOpener. The print system is borrowed and outlives it.
 class PrinterOpener : public QObject
 {
     Q_OBJECT
@@ -28,15 +28,16 @@ public:
 
     // Calls the receiver with the result, unless it is dropped.
     void open(const PrinterWish &wish, Receiver receiver);
-    // Reads the name of the printer used last on a worker thread, to show it meanwhile.
+    // Reads the name of the printer used last on a worker thread, to show it until a printer is open.
     void askUsedLast();
-    // Waits for a nearby server, 50 ms at most; longer operations emit delayed() immediately.
+    // Waits for a nearby server, 50 ms at most. If the printer is not open then, emits delayed() before it
+    // returns.
     void deliverNear();
     // Delivers a result that was held up.
     void deliverHeld();
     // Discards the running request and the selected printer.
     void drop();
-    // Also true while a result is held up.
+    // Whether a printer is being opened, or a result is held up.
     bool isOpening() const { return m_opening.isPending() || m_whenIdle; }
 
     // The user has selected this printer; wanted() is emitted immediately, or after a pause if selections

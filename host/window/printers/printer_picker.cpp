@@ -47,7 +47,7 @@ PrinterPicker::PrinterPicker(QWidget *parent)
 
 PrinterPicker::~PrinterPicker()
 {
-    m_box->disconnect(this); // an open list is closed while the base class deletes the box
+    m_box->disconnect(this); // the base class deletes the box, which closes an open list and emits signals
 }
 
 void PrinterPicker::offerToAdd()

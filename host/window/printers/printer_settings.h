@@ -11,7 +11,7 @@
 namespace host {
 
 // The program with which the user can add printers: the desktop's printer settings, or a browser with the web
-// page of the local print server. It asks for the rights that it needs. A value.
+// page of the local print server. The program itself asks the user to authenticate. A value.
 struct PrinterSettings
 {
     QString program; // path of the executable

@@ -11,9 +11,8 @@ namespace host {
 namespace {
 
 constexpr std::chrono::seconds betweenStates(5);
-// A printer that did not respond is asked less often: each attempt may take seconds.
 constexpr std::chrono::minutes betweenReports(1);
-constexpr std::chrono::minutes betweenAttempts(5);
+constexpr std::chrono::minutes betweenAttempts(5); // after one that failed, since each may take seconds
 
 } // namespace
 
@@ -71,7 +70,7 @@ void PrinterStatusPoller::loadList()
             if (printers)
                 m_picker->setPrinters(*printers);
         });
-    // Reading the settings file may be slower than the print server.
+    // Read separately, since the settings file may be slower than the print server.
     m_recent.start(
         this, [] { return RememberedPrinter().recent(); },
         [this](const QStringList &recent) { m_picker->setRecent(recent); });

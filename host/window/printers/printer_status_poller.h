@@ -28,8 +28,8 @@ class PrinterStatusPoller : public QObject
 public:
     PrinterStatusPoller(PrintSystem &system, PrinterPicker *picker);
 
-    // Sets the selected printer, and shows it in the picker. A printer without a queue is only a PPD, and is
-    // not polled.
+    // Sets the selected printer, and shows it in the picker. A destination without a queue stands for a PPD
+    // file, and is not polled.
     void setChosen(const Destination &printer);
     // No printer is selected; pending responses about the previous one are discarded.
     void forgetChosen();
@@ -61,8 +61,8 @@ private:
     platform::Awaited<std::optional<Destination>> m_stateQuestion;
     platform::Awaited<std::optional<DeviceReport>> m_deviceQuestion;
     std::optional<DeviceReport> m_report; // of the selected printer
-    QDeadlineTimer m_reportIsGood{0};     // until then the printer is not asked again
-    bool m_mayAskDevice = false;          // after the first paint
+    QDeadlineTimer m_reportIsGood{0};     // until then the printer is not queried again
+    bool m_mayAskDevice = false;          // set by loadList(), after the first paint
     QTimer m_stateTimer;
 };
 

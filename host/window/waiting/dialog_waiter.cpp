@@ -121,11 +121,11 @@ bool DialogWaiter::wait(const std::function<bool()> &ended)
         if (!std::exchange(m_noticed, true))
             Q_EMIT waitingNoticed();
     });
-    // To the user, many short calls are one long wait.
+    // Measured from the start of the activity, since the user perceives many short waits as a long one.
     const std::chrono::milliseconds passed(m_activities > 0 ? m_sinceBegin.elapsed() : 0);
     notice.start(std::max(noticeable - passed, std::chrono::milliseconds(0)));
     if (!ended() && !m_givenUp && loop.exec() != 0)
-        m_givenUp = true; // the program ends
+        m_givenUp = true; // exit() was called: the program ends
     if (--m_depth == 0) {
         qApp->removeEventFilter(this);
         settleLater();
@@ -166,7 +166,7 @@ void DialogWaiter::step(bool forward)
         widget->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
-// After the waiting call has returned.
+// Delivers the focus-out events when the waiting call has returned.
 void DialogWaiter::settleLater()
 {
     if (m_depth == 0 && m_activities == 0 && !m_left.isEmpty())

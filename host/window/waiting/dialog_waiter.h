@@ -13,11 +13,12 @@
 
 namespace host {
 
-// Keeps a dialog responsive while something on its thread waits: it keeps painting and scrolling, and can be
-// moved and closed. Input reaches only the widgets that stop waiting; the Tab key moves between them. Escape
-// and the window's close button also stop waiting. Focus-out events are delivered when the wait is over,
-// since fields commit their text then. If a widget that stops waiting has the focus, the focus returns.
-// Belongs to the dialog's thread, also while abandoned work is running.
+// Keeps a dialog responsive while code on its thread waits: the dialog is painted, and can be moved and
+// closed. Input reaches only the open parts, such as the button to stop waiting; the Tab key moves between
+// them. Escape and the window's close button also stop the wait. Focus-out events are delivered when the wait
+// is over, since fields commit their text then. If an open part has the focus at that time, the focus returns
+// to the widget that had it before. Lives on the dialog's thread, possibly longer than the dialog while
+// abandoned work is running.
 class DialogWaiter : public QObject, public platform::Waiter
 {
     Q_OBJECT

@@ -111,8 +111,8 @@ void showDialog(const std::shared_ptr<Answer> &answer, const LoginQuestion &ques
 
 } // namespace
 
-// Does not run a nested event loop, which would keep other waits of the main thread from ending before the
-// dialog.
+// On another thread: shows the dialog without a nested event loop on the main thread. Other waits of the main
+// thread could otherwise not end before the dialog is closed.
 std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent)
 {
     if (QThread::currentThread() == qApp->thread()) {

@@ -10,9 +10,9 @@
 
 namespace host {
 
-// Asks for a user name and a password in a dialog above `parent`. Null if it is canceled. May be called from
-// any thread; the dialog runs on the main thread. On another thread `parent` must exist; if it is destroyed,
-// the dialog is destroyed as well, and the result is null.
+// Asks for a user name and a password in a dialog above `parent`, and waits for the answer. Null if the user
+// cancels. May be called from any thread; the dialog runs on the main thread. A call from another thread
+// requires a parent; if the parent is destroyed, the dialog is destroyed as well, and the result is null.
 std::optional<Login> askForLogin(const LoginQuestion &question, const QPointer<QWidget> &parent);
 
 } // namespace host

@@ -20,10 +20,10 @@ namespace host {
 class DialogWaiter;
 class WaitSign;
 
-// The behaviour of a dialog while a panel of its session waits: shows the reason and an activity indicator,
-// and lets the user stop waiting. Waits nest; the outermost counts. Also shows other activities of the
-// dialog. Owned by the dialog and used on its thread, whose waits are handled by the dialog during the
-// lifetime of this object.
+// Keeps a dialog usable while a panel of its session waits: shows the reason and an activity indicator, and
+// lets the user stop waiting. Waits nest; only the outermost is shown. Also shows other activities of the
+// dialog. Owned by the dialog and used on its thread. During the lifetime of this object it handles all waits
+// of that thread.
 class PanelWait : public QObject
 {
     Q_OBJECT
@@ -37,8 +37,8 @@ public:
     // Shows an activity in the sign while the dialog can be used; null when it has ended. The reason of a
     // panel's wait takes precedence.
     void setActivity(const QString &what);
-    // While a panel waits: shows what will be done when it has returned, and does it then. Escape revokes it;
-    // "Do Not Wait" does not.
+    // While a panel waits: shows `what` in the sign, and calls `then` when the panel has returned. Escape
+    // revokes this; "Do Not Wait" does not.
     void promise(const QString &what, std::function<void()> then);
     bool isUnderWay() const { return m_depth > 0; }
     // The user has closed the dialog: all waits end, and the dialog is not shown again.
@@ -46,7 +46,7 @@ public:
     bool isDismissed() const { return m_isDismissed; }
 
 public Q_SLOTS:
-    // Paints the dialog before it returns, or shows it if it is not visible yet.
+    // Call when a panel begins to wait. Paints the dialog before it returns, and shows it first if necessary.
     void begin(const QString &what);
     void end();
     void giveUp();

@@ -60,7 +60,7 @@ void WaitSign::begin(const QString &what)
     m_stop->hide();
 }
 
-// Short waits are not announced.
+// The text is announced here and not in begin(), so that short waits are not announced.
 void WaitSign::showMoving()
 {
     m_bar->show();

@@ -25,7 +25,7 @@ public:
     void end();
     // Adds a text until end().
     void addNote(const QString &note);
-    // Shows that work continues.
+    // Shows the progress bar, and announces the text.
     void showMoving();
 
 public Q_SLOTS:

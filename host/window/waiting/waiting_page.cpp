@@ -21,7 +21,7 @@ namespace {
 constexpr int barWidth = 260; // pixels
 constexpr int steps = 1000;   // of the bar, so that files of any size fit into its range
 
-// In units that users know.
+// An amount of data with its unit, such as "1.5 MB".
 QString amountText(qint64 bytes)
 {
     return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);

@@ -23,7 +23,7 @@ public:
     void setTask(const QString &text, const QString &cancel);
     // The progress in bytes; an unknown total (0 or less) shows an indeterminate bar.
     void setProgress(qint64 done, qint64 total);
-    // The button has been pressed and has no further effect; `text` describes what is being done.
+    // Disables the button, which has been pressed, and shows `text`, which describes what is being done.
     void setCancelling(const QString &text);
     QString text() const;
     QPushButton *cancelButton() const { return m_cancel; }
