@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""The steps with other printers and programs: the list of printers, the queue "archive" of another maker's printer that
-takes a password and an account, and an application that opens the dialog."""
+"""The steps with other printers and programs: the list of printers; the queue "archive" of a printer of another maker,
+which accepts a password and an account; and an application that opens the dialog."""
 
 import os
 import shutil
@@ -12,14 +12,14 @@ from session import Program, expect, wait
 from steps import CUPS, DOCUMENT, choose_printer, go_to, open_printers, shows, step
 
 SETTINGS = "Printer Settings"
-# Stands for the desktop's printer settings, which the dialog starts by this name.
+# Replaces the desktop's printer settings.
 STAND_IN = """#!/bin/sh
 exec display -title '%s' -size 300x90 -gravity center -font DejaVu-Sans -background '#eff0f1' \\
     label:'The printer settings of the desktop\\n\\nAdd printers here'
 """ % SETTINGS
 NAME = "org.freedesktop.impl.portal.desktop.kelmar"
 OBJECT = "/org/freedesktop/portal/desktop"
-CALL_TIME = 600 * 1000  # milliseconds in which a call is answered
+CALL_TIMEOUT = 600 * 1000  # milliseconds
 TITLE, NEW_TITLE = "Letter", "Letter to the tenants"
 
 
@@ -87,7 +87,7 @@ def account_arrived(d):
 
 
 class Application:
-    """Prints with the portal, as an application does: has the settings chosen, then sends the document."""
+    """Prints through the portal as an application does: lets the user choose the settings, then sends the document."""
 
     INTERFACE = "org.freedesktop.impl.portal.Print"
     answer = None
@@ -104,7 +104,7 @@ class Application:
         request = self._variant("(osssa{sv}a{sv}a{sv})", (
             OBJECT + "/request/tour/1", "", "", "Print", {"output-basename": self._variant("s", name)}, {}, {}))
         self._bus.call(NAME, OBJECT, self.INTERFACE, "PreparePrint", request, None, self._gio.DBusCallFlags.NONE,
-                       CALL_TIME, None, self._answered)
+                       CALL_TIMEOUT, None, self._answered)
 
     def _answered(self, bus, result):
         self.answer = bus.call_finish(result).unpack()
@@ -116,11 +116,11 @@ class Application:
             request = self._variant("(osssha{sv})", (
                 OBJECT + "/request/tour/2", "", "", "Print", documents.append(file.fileno()), token))
             self._bus.call_with_unix_fd_list_sync(NAME, OBJECT, self.INTERFACE, "Print", request, None,
-                                                  self._gio.DBusCallFlags.NONE, CALL_TIME, documents)
+                                                  self._gio.DBusCallFlags.NONE, CALL_TIMEOUT, documents)
 
 
-def hand_over(session):
-    """Starts the service, which in a desktop session is started by the bus, and lets an application open the dialog."""
+def open_from_application(session):
+    """Starts the service, which the bus starts in a desktop session, and opens the dialog from an application."""
     folder = os.path.dirname(os.path.dirname(shutil.which("kelmar-print")))
     dialog = Program(session, [os.path.join(folder, "libexec", "kelmar-print-service")])
     dialog.application = Application()
@@ -129,7 +129,7 @@ def hand_over(session):
     return dialog
 
 
-@step("application", hand_over)
+@step("application", open_from_application)
 def application_opens(d):
     window = d.get("dialog", "Print “%s”" % TITLE)
     return "An application opened the dialog through the print portal: %s" % window.name
@@ -146,7 +146,7 @@ def title(d):
 
 
 def print_from_application(d):
-    """Confirms the dialog, in which the title was changed, and looks at the job that the application then sends."""
+    """Accepts the dialog, in which the title was changed, and checks the job that the application then sends."""
     print("== The application’s job")
     d.keys("ctrl+p")
     wait("the settings at the application", lambda: d.application.answer)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Shows what reached the printer of the tour."""
+"""Checks what the printer's backend has received."""
 
 import os
 import re
@@ -9,7 +9,7 @@ from session import expect, wait
 
 
 def arguments_of_job(cups, job):
-    """The arguments of the printer's backend for the job: number, user, title, copies, options."""
+    """The command line of the printer's backend for the job: job ID, user, title, copies, options."""
     path = os.path.join(cups, "jobs", "%d.args" % job)
     wait("job %d at the printer's backend" % job, lambda: os.path.exists(path))
     with open(path) as file:
@@ -17,8 +17,8 @@ def arguments_of_job(cups, job):
 
 
 def show_arrival(cups):
-    """Prints the options and the number of sides that reached the printer's backend. `cups` is the folder of the private
-    server."""
+    """Prints and checks the options and the number of sides that the printer's backend has received. `cups` is the folder
+    of the private print server."""
     options = sorted(arguments_of_job(cups, 1)[4].split())
     print("== What reached the printer's backend")
     for option in options:

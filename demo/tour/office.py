@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""The steps at the queue "office": the printer, presets, search, undo, conflicts, the preview, and a held job."""
+"""The steps with the queue "office": the printer, presets, search, undo, conflicts, the preview, and a held job."""
 
 import os
 import re
@@ -10,13 +10,13 @@ import subprocess
 from session import Program, expect, wait
 from steps import DOCUMENT, find, go_to, is_on, shows, step
 
-PRESETS = os.path.expanduser("~/.cups/lpoptions")  # where every program of the user looks for them
+PRESETS = os.path.expanduser("~/.cups/lpoptions")  # read by all print programs of the user
 PRESET = "Handout"
 PER_SIDE, BORDER, TYPE, SIDES = "Pages per side:", "Border:", "Paper Type:", "Two-Sided Printing:"
 SIZE, STAPLE, PUNCH = "Media Size:", "Staple:", "Hole Punch:"
 HOLD, PRIORITY = "Print:", "Priority:"
 TONER = "Toner Save"
-CHECK_BOX = 10  # pixels from the left edge of a thumbnail to within its check box
+CHECK_BOX = 10  # pixels from the left edge of a thumbnail to a point in its check box
 HIGHLIGHT, METAL, HOLE = (48, 140, 198), (80, 80, 80), (239, 239, 239)  # binding edge, staples and holes
 
 
@@ -29,7 +29,7 @@ def pick_settings(d, entry):
 
 
 def saved(preset=PRESET):
-    """The preset's options as other programs read them, or nothing."""
+    """The options of a preset as other programs read them, or None."""
     try:
         with open(PRESETS) as file:
             lines = file.read().splitlines()
@@ -204,22 +204,22 @@ def conflict(d):
         said, d.says("instead of"))
 
 
-def ends_in(name, act, sides, paper, said):
-    """A step after which two settings, of which one forbids the other, stand so."""
+def leads_to(name, act, sides, paper, result):
+    """Adds a step that calls `act` and checks the values of two settings that exclude each other."""
     @step(name)
     def check(d):
         act(d)
         shows(d, SIDES, sides)
         shows(d, TYPE, paper)
-        return said
+        return result
 
 
-ends_in("resolved", lambda d: d.click(d.get("button", "Change and Use It")), "Long-Edge Binding", "Plain Paper",
-        "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper")
-ends_in("resolution-undone", lambda d: d.keys("ctrl+z"), "Off", "Thick Paper 1",
-        "Ctrl+Z takes both back at once: Off, Thick Paper 1")
-ends_in("resolution-redone", lambda d: d.keys("ctrl+shift+z"), "Long-Edge Binding", "Plain Paper",
-        "Ctrl+Shift+Z: Long-Edge Binding, Plain Paper")
+leads_to("resolved", lambda d: d.click(d.get("button", "Change and Use It")), "Long-Edge Binding", "Plain Paper",
+         "“Change and Use It”: Long-Edge Binding, and Paper Type is Plain Paper")
+leads_to("resolution-undone", lambda d: d.keys("ctrl+z"), "Off", "Thick Paper 1",
+         "Ctrl+Z takes both back at once: Off, Thick Paper 1")
+leads_to("resolution-redone", lambda d: d.keys("ctrl+shift+z"), "Long-Edge Binding", "Plain Paper",
+         "Ctrl+Shift+Z: Long-Edge Binding, Plain Paper")
 
 
 @step("preview")
@@ -259,7 +259,7 @@ def whole_again(d):
 
 
 def drawn(d, color):
-    """How many pixels of the preview have the color."""
+    """The number of pixels of the preview that have the color."""
     return d.pixels(d.get("image", "Preview"), color)
 
 
@@ -272,7 +272,7 @@ def binding_edge(d):
 
 
 def finishes(name, label, choice, color):
-    """A step that selects a finishing, which the preview then draws in the color."""
+    """Adds a step that selects a finishing choice and checks that the preview draws it in the color."""
     @step(name)
     def check(d):
         before = drawn(d, color)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""A desktop session of one's own, and a program in it that is worked as a user works it: with the keyboard and the
-mouse of the display, by what its controls say of themselves over the accessibility bus."""
+"""A private desktop session, and a program that runs in it. The program is operated as by a user, with key and mouse
+events of the display; its controls are found through the accessibility bus."""
 
 import ctypes
 import os
@@ -9,13 +9,13 @@ import signal
 import subprocess
 import time
 
-PATIENCE = 15  # seconds for whatever is waited for
-INTERVAL = 0.05  # seconds between two looks
+TIMEOUT = 15  # seconds
+POLL_INTERVAL = 0.05  # seconds
 SCREEN = (900, 640)  # pixels
 
 
 class Failed(Exception):
-    """What a user would have seen did not happen; says what."""
+    """An expected result was not found; the text describes it."""
 
 
 def expect(what, is_so):
@@ -24,18 +24,18 @@ def expect(what, is_so):
 
 
 def wait(what, condition):
-    """What the condition gives as soon as that is something."""
+    """Calls `condition` until its result is true, and returns the result. Raises Failed after TIMEOUT."""
     from gi.repository import GLib
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + TIMEOUT
     while True:
         while GLib.MainContext.default().iteration(False):
-            pass  # what the accessibility bus tells
-        got = condition()
-        if got:
-            return got
+            pass  # delivers events of the accessibility bus
+        result = condition()
+        if result:
+            return result
         if time.monotonic() > end:
-            raise Failed("waited for %s in vain" % what)
-        time.sleep(INTERVAL)
+            raise Failed("timed out waiting for %s" % what)
+        time.sleep(POLL_INTERVAL)
 
 
 def _die_with_parent():
@@ -43,17 +43,17 @@ def _die_with_parent():
 
 
 class Session:
-    """Display, bus and window manager; all of them end with it. The process's own environment is made that of the
-    session, so that what is started later is in it."""
+    """A context manager: a display, a session bus and a window manager, which end with it. Sets the environment of this
+    process, so that programs that it starts belong to the session."""
 
     def __init__(self):
         self._processes = []
         self._log = open("session.log", "ab")
 
     def __enter__(self):
-        os.environ["DISPLAY"] = ":" + self._told(
+        os.environ["DISPLAY"] = ":" + self._start_server(
             ["Xvfb", "-displayfd", "{}", "-screen", "0", "%dx%dx24" % SCREEN, "-nolisten", "tcp", "-noreset"])
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._told(
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._start_server(
             ["dbus-daemon", "--session", "--nofork", "--print-address={}"])
         self.start(["xsetroot", "-solid", "#596b7c"]).wait()
         self.start(["openbox"])
@@ -65,74 +65,76 @@ class Session:
         for process in reversed(self._processes):
             process.terminate()
             try:
-                process.wait(PATIENCE)
+                process.wait(TIMEOUT)
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait()
         self._log.close()
 
-    def start(self, command, **how):
-        """A process that does not outlive the session. Its output is in session.log."""
+    def start(self, command, **options):
+        """Starts a process that ends with the session, and writes its output to session.log. `options` are those of
+        Popen."""
         process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self._log, stderr=self._log,
-                                   preexec_fn=_die_with_parent, **how)
+                                   preexec_fn=_die_with_parent, **options)
         self._processes.append(process)
         return process
 
-    def _told(self, command):
-        """Starts a server that tells where it can be reached when it can, on the descriptor put in for {}."""
+    def _start_server(self, command):
+        """Starts a server and waits until it is ready. Returns its address, which it writes to the file descriptor that
+        replaces {} in the command."""
         reader, writer = os.pipe()
         self.start([word.format(writer) for word in command], pass_fds=[writer])
         os.close(writer)
-        with os.fdopen(reader) as told:
-            line = told.readline().strip()
+        with os.fdopen(reader) as stream:
+            line = stream.readline().strip()
         if not line:
             raise Failed("%s does not start" % command[0])
         return line
 
 
 class Program:
-    """A running program with one main window. Controls are named by their accessible role and name; boxes whose name is
-    their value by the label before them."""
+    """A running program with one main window. Controls are found by their accessible role and name. A combo box is found
+    by its label, since its accessible name is its value."""
 
     def __init__(self, session, command):
-        import pyatspi  # reads where the bus is
+        import pyatspi  # not earlier, since it connects to the bus of the session
         self._atspi = pyatspi
-        self._heard = []  # names of what the keyboard came to, as a screen reader says them
-        pyatspi.Registry.registerEventListener(self._hear, "object:state-changed:focused")
+        self._focused = []  # names of the controls that got the focus since the last clear()
+        pyatspi.Registry.registerEventListener(self._note_focus, "object:state-changed:focused")
         self.process = session.start(command, env=dict(os.environ, QT_QPA_PLATFORM="xcb", QT_ACCESSIBILITY="1",
                                                        QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1"))
         self.pid = self.process.pid  # of the process with the window
 
     def follow_child(self):
-        """The window is that of a process that the program has started."""
+        """Operates the window of the process that the program has started, instead of its own."""
         self.pid = int(wait("a child of the program", lambda: subprocess.run(
             ["ps", "-o", "pid=", "--ppid", str(self.process.pid)], stdout=subprocess.PIPE).stdout.split())[0])
 
     def end(self):
-        """Closes the window, in which a job has been printed, and waits for the end of the program."""
+        """Closes the window, which shows a sent job, and waits until the program has ended."""
         self.keys("Return")
         wait("the end of the program", lambda: self.process.poll() is not None)
         expect("the program ended with %s" % self.process.returncode, self.process.returncode == 0)
 
-    def _hear(self, event):
+    def _note_focus(self, event):
         from gi.repository import GLib
         try:
             if event.detail1:
-                self._heard.append(event.source.name)
+                self._focused.append(event.source.name)
         except (GLib.GError, LookupError, RuntimeError):
-            pass  # gone already
+            pass  # the control no longer exists
 
-    # ---- what is to be seen
+    # ---- What the window shows
 
     def _application(self):
         for application in self._atspi.Registry.getDesktop(0):
             if application and application.get_process_id() == self.pid:
-                application.set_cache_mask(0)  # what a cache says may be over
+                application.set_cache_mask(0)  # cached states may be outdated
                 return application
         return None
 
     def all(self, role=None, within=None):
-        """What is showing of that role, in the order of the window."""
+        """The visible controls with this role, or all, in the order of the window."""
         from gi.repository import GLib
         found = []
 
@@ -147,7 +149,7 @@ class Program:
                     if child:
                         look(child)
             except (GLib.GError, LookupError, RuntimeError):
-                pass  # gone while it was looked at
+                pass  # the control was removed meanwhile
 
         top = within or self._application()
         if top:
@@ -157,7 +159,8 @@ class Program:
         return found
 
     def role(self, control):
-        """The name of its role. For buttons it depends on the versions of Qt and AT-SPI, and on whether they have a menu."""
+        """The role of a control. All buttons are called "button": their role name depends on the versions of Qt and AT-SPI,
+        and on whether they have a menu."""
         name = control.getRoleName()
         return "button" if name in ("push button", "push button menu", "button menu") else name
 
@@ -165,15 +168,15 @@ class Program:
         return control.getState().contains(getattr(self._atspi, "STATE_" + state))
 
     def now(self, role, name, within=None):
-        """A control whose name begins so, if it is there."""
+        """The first visible control whose name begins with `name`, or None."""
         return next((node for node in self.all(role, within) if node.name.startswith(name)), None)
 
     def get(self, role, name):
-        """The same, waited for."""
+        """Waits for a visible control whose name begins with `name`."""
         return wait("the %s “%s”" % (role, name), lambda: self.now(role, name))
 
     def box(self, label):
-        """The box that has this label."""
+        """Waits for the combo box with this label."""
         def labelled():
             for box in self.all("combo box"):
                 for relation in box.getRelationSet():
@@ -184,28 +187,28 @@ class Program:
         return wait("the box “%s”" % label, labelled)
 
     def focus_on(self, name):
-        """Waits until the keyboard is on the control of that name."""
-        return wait("the keyboard on “%s”" % name, lambda: next(
+        """Waits until the control with this name has the focus."""
+        return wait("the focus on “%s”" % name, lambda: next(
             (node for node in self.all() if self.has(node, "FOCUSED") and node.name == name), None))
 
     def reach(self, name, act):
-        """Does something that moves the keyboard to the control whose name begins so. It may be in a list or menu that is in
-        no window's tree."""
-        self._heard.clear()
+        """Calls `act`, and waits until it has moved the focus to a control whose name begins with `name`. This also works for
+        open lists and menus, which are not in the tree of a window."""
+        self._focused.clear()
         act()
-        wait("the keyboard on “%s”" % name, lambda: any(heard.startswith(name) for heard in self._heard))
+        wait("the focus on “%s”" % name, lambda: any(focused.startswith(name) for focused in self._focused))
 
     def texts(self):
-        """The texts of labels, and of labels that a screen reader announces."""
+        """The texts of all visible labels, including those that screen readers announce."""
         return [node.name for role in ("label", "notification") for node in self.all(role) if node.name]
 
     def says(self, words):
-        """Waits for a text that holds the words; the whole of it."""
+        """Waits for a label that contains `words`, and returns its text on one line."""
         return wait("the text “%s”" % words,
                     lambda: next((text for text in self.texts() if words in text), None)).replace(
                         "\n•  ", " ").replace("\n", ", ")
 
-    # ---- what is done
+    # ---- Input
 
     def keys(self, *keys):
         subprocess.run(["xdotool", "key", *keys], check=True)
@@ -218,10 +221,11 @@ class Program:
         return at.x, at.y, at.width, at.height
 
     def point_at(self, control, left=None):
-        """Moves the mouse to the middle of the control, or that far from its left edge, once it has stopped moving."""
+        """Waits until a control no longer moves, then moves the mouse to its center, or to `left` pixels from its left
+        edge."""
         def still():
             place = self.place(control)
-            time.sleep(INTERVAL)
+            time.sleep(POLL_INTERVAL)
             return place if place == self.place(control) and place[2] > 0 else None
         x, y, width, height = wait("a place to click at", still)
         x, y = x + (width // 2 if left is None else left), y + height // 2
@@ -234,7 +238,7 @@ class Program:
         subprocess.run(["xdotool", "click", "1"], check=True)
 
     def scroll_down(self, control):
-        """Turns the wheel with the mouse on the control until the end of what it is in."""
+        """Scrolls the page that contains the control to its end, with the wheel."""
         self.point_at(control)
         subprocess.run(["xdotool", "click", "--repeat", "20", "--delay", "20", "5"], check=True)
 
@@ -248,13 +252,13 @@ class Program:
                 tip = next((tip.name for tip in self.all("tool tip") if words in tip.name), None)
                 if tip:
                     return tip
-                time.sleep(INTERVAL)
+                time.sleep(POLL_INTERVAL)
             subprocess.run(["xdotool", "mousemove", "1", "1"], check=True)
             return None
         return wait("“%s” in the tooltip of “%s”" % (words, control.name), shown).replace("\n", ", ")
 
     def choose(self, label, item):
-        """Opens the list of a box with the mouse, and picks an item there."""
+        """Opens the list of a combo box with the mouse, and clicks an item."""
         box = self.box(label)
         self.click(box)
         entry = wait("“%s” in the list of “%s”" % (item, label), lambda: next(
@@ -262,37 +266,37 @@ class Program:
         self.click(entry)
 
     def pick(self, button, entry):
-        """Opens the menu of a button with the mouse and picks an entry whose name begins so with the keyboard: an open
-        menu is in no window's tree, but says where the keyboard is."""
+        """Opens the menu of a button with the mouse, and selects an entry whose name begins with `entry` with the keyboard.
+        An open menu is not in the tree of a window, but sends an event when an entry gets the focus."""
         self.click(button)
         passed = []
         while not passed or not passed[-1].startswith(entry):
             if len(passed) > 20:
                 raise Failed("no “%s” in the menu: %s" % (entry, ", ".join(passed)))
-            self._heard.clear()
+            self._focused.clear()
             self.keys("Down")
-            passed.append(wait("an entry of the menu", lambda: self._heard and self._heard[-1]))
+            passed.append(wait("an entry of the menu", lambda: self._focused and self._focused[-1]))
         self.keys("Return")
 
     def pixels(self, control, color):
-        """How many pixels of the control on the screen have the color."""
+        """The number of pixels of the control on the screen that have the color."""
         x, y, width, height = self.place(control)
         shown = subprocess.run(["import", "-window", "root", "-crop", "%dx%d+%d+%d" % (width, height, x, y), "-depth", "8",
                                 "rgb:-"], check=True, stdout=subprocess.PIPE).stdout
         return sum(shown[i:i + 3] == bytes(color) for i in range(0, len(shown), 3))
 
     def picture(self, path):
-        """Keeps what the screen shows, once it shows the same for two looks."""
-        def look():
+        """Saves a screenshot when two consecutive ones are equal, or the last one after the timeout."""
+        def screenshot():
             return subprocess.run(["import", "-window", "root", "png:-"], check=True, stdout=subprocess.PIPE).stdout
 
         def steady():
             nonlocal last
-            before, last = last, look()
+            before, last = last, screenshot()
             return before == last
         last = None
         try:
-            wait("a steady picture", steady)
+            wait("a screen that does not change", steady)
         finally:
             if last:
                 with open(path, "wb") as file:

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""The steps of the tour in their order, and what several of them do."""
+"""The list of the steps of the tour, and actions that several steps share."""
 
 import sys
 
@@ -11,8 +11,8 @@ STEPS = []  # (name, function, program): the program is opened before the step, 
 
 
 def step(name, program=None):
-    """Adds the function as a step. It gets the running program and returns a description of what it has seen.
-    `program` starts the program of this and the next steps in a session; the previous one is closed first."""
+    """A decorator that adds a function as a step. The function takes the running program and returns a description of the
+    result. `program` starts the program of this and the next steps; the previous one is closed first."""
     def add(function):
         STEPS.append((name, function, program))
         return function
@@ -29,7 +29,7 @@ def go_to(d, page):
 
 
 def find(d, name):
-    """Moves to a setting that may be outside the visible part of its page, and waits until the keyboard is on it."""
+    """Searches a setting, which may be outside the visible part of its page, and waits until its control has the focus."""
     d.keys("ctrl+f")
     d.focus_on("Find a setting")
     d.type(name)

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""A tour of the dialog: works kelmar-print on a display of its own as a user does, looks at what came of each step, and
-keeps a picture of it. Fails at the first step that did not do what it should.
+"""A tour of the dialog: operates kelmar-print on a private display as a user does, checks the result of each step, and
+saves a screenshot of it. Fails at the first step without the expected result.
 
-Usage: tour.py CUPS DOCUMENT PICTURES (scripts/demo --tour starts it, as a user with a home of its own)
+Usage: tour.py CUPS DOCUMENT PICTURES (started by scripts/demo --tour, as a user with an empty home folder)
 CUPS is the folder of the private print server, whose queue "office" is printed on; DOCUMENT has eight pages."""
 
 import os
@@ -28,13 +28,13 @@ def run(session):
             program = opens(session)
         file = "%02d-%s.png" % (number, name)
         try:
-            said = function(program)
+            result = function(program)
         except Failed:
             print("%02d %s FAILED; see %s" % (number, name, file))
             raise
         finally:
             program.picture(os.path.join(steps.PICTURES, file))
-        print("%02d %-17s %s" % (number, name, said), flush=True)
+        print("%02d %-17s %s" % (number, name, result), flush=True)
     archive.print_from_application(program)
 
 
