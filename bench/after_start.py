@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The kelmar-print authors
 # SPDX-License-Identifier: Apache-2.0
-"""Measures what follows the start: reactions of the open dialog (dialog_bench), the first page of the preview of
-short, long and large documents next to a plain call of pdftoppm, and printing without a window next to lp. Prints
-each figure with its goal. Exits with 1 if a goal is missed. Usage: bench/after_start.py [BUILDDIR [DIALOGS]]"""
+"""Measures the program after its start: the response times of the open dialog (dialog_bench), the time until the first
+page of the preview of short, long and large documents, compared with pdftoppm, and printing without a window, compared
+with lp. Prints each figure with its goal. Exits with 1 if a goal is missed. Usage: bench/after_start.py [BUILDDIR [DIALOGS]]"""
 import os
 import statistics
 import subprocess
@@ -61,7 +61,8 @@ def milliseconds_of(command, environment):
 
 
 def alternately(commands, environment, rounds=ROUNDS):
-    """The median of each command; the first round only warms the caches."""
+    """Runs the commands alternately, and returns the median of each in milliseconds. The first round only warms the
+    caches."""
     taken = [[milliseconds_of(command, environment) for command in commands] for _ in range(rounds + 1)]
     return [statistics.median(column) for column in zip(*taken[1:])]
 
@@ -76,7 +77,7 @@ def preview_figures(session, build):
         plain, = alternately([["pdftoppm", "-f", "1", "-l", "1", "-scale-to", "900", path, session.folder / "page"]],
                              session.environment, rounds)
         yield f"first preview page, {what}", made, "ms", None
-        # Without the layout of the job, as in a viewer.
+        # The page is not laid out as for a job.
         yield f"pdftoppm for the same page, {what}", plain, "ms", None
 
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
-// What the confinement of a program that reads documents costs a call, against the same program started
-// plainly, and, where it is installed, under bubblewrap with the same namespaces.
+// Measures the cost of confining a program that reads documents, per start of the program. Compares it with
+// the unconfined program and, if bubblewrap is installed, with the program under bubblewrap with the same
+// namespaces.
 
 #include "bench/goals.h"
 #include "host/preview/confined_process.h"

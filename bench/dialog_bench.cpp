@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Measures how fast an open dialog reacts, with a print system without a server: changes, undo, a preset and
-// the search with 200 options and 20,000 constraints, a list of 10,000 printers, and the memory of 1,000
-// dialogs in one process. Times end when all events are processed and the window is painted; they are
-// medians, except for the longest time without events. Prints "figure TAB value TAB unit TAB goal" lines.
-// Exits with 1 if a goal is missed. Run by bench/after_start.py. Usage: dialog_bench [DIALOGS]
+// Measures the response times of an open dialog, with a print system without a server: changes, undo, a
+// preset and the search with 200 options and 20,000 constraints, and a list of 10,000 printers. Also measures
+// the memory of 1,000 dialogs in one process. Times end when all events are processed and the window is
+// painted. They are medians, except for the longest time during which no event is processed. Prints a line
+// for each figure: its name, value, unit and goal, separated by tabs. Exits with 1 if a goal is missed. Run
+// by bench/after_start.py. Usage: dialog_bench [DIALOGS]
 
 #include "bench/large_ppd.h"
 #include "host/printing/preset_store.h"
@@ -59,7 +60,8 @@ double median(std::vector<double> values)
     return values.at(values.size() / 2);
 }
 
-// Events that an event has posted are processed, too, such as the paint of a widget that was just laid out.
+// Processes all events, including those that are posted meanwhile, such as the paint event of a widget that
+// was just laid out.
 void paint()
 {
     for (int pass = 0; pass < 3; ++pass)
@@ -74,7 +76,8 @@ double millisecondsOf(const std::function<void()> &act)
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The longest time without events until there is no work left on worker threads.
+// The longest time, in milliseconds, during which no event is processed, from the call of `act` until the
+// worker threads have finished.
 double longestGap(const std::function<void()> &act)
 {
     double longest = millisecondsOf(act);
@@ -126,7 +129,7 @@ platform::ChoiceBox *boxOf(const PrintWindow &window, const QString &keyword)
     return nullptr;
 }
 
-// As a user does.
+// Selects a choice as a user does.
 void choose(platform::ChoiceBox *box, const QString &choice)
 {
     int row = 0;
@@ -176,7 +179,7 @@ void measureChanges(PrintWindow &window)
 
 QAction *presetAction(QMenu *menu, const QString &text)
 {
-    const auto open = [menu] { // as a click does
+    const auto open = [menu] { // the effect of a click on the button
         Q_EMIT menu->aboutToShow();
     };
     open();
@@ -280,7 +283,7 @@ double residentKilobytes()
 
 void measureGrowth(int dialogs)
 {
-    const int warm = dialogs / 5; // until caches and the heap have their size
+    const int warm = dialogs / 5; // caches and the heap have reached their size then
     FamilyPrintSystem system;
     Extensions extensions(Extensions::installedBundles(buildPath("/bin")));
     double before = 0;

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Many dialogs that follow their jobs on one print server (CUPS_SERVER): followers_bench QUEUE JOB COUNT
-// SECONDS SERVER-PID. They start at different times within five seconds. The following period is measured:
-// responses per second, and the processor time of the server.
+// Measures the load of one print server (CUPS_SERVER) while many dialogs follow a job: the responses per
+// second, and the processor time of the server. The dialogs start at different times within five seconds; the
+// measurement follows and takes SECONDS. Usage: followers_bench QUEUE JOB COUNT SECONDS SERVER-PID
 
 #include "host/printing/job_follower.h"
 #include "host/printing/print_system.h"
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int startTime = 5'000; // milliseconds
 
-// Of a process, in seconds.
+// The processor time of a process, in seconds.
 double processorTime(const QString &pid)
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(pid));

@@ -43,7 +43,7 @@ private:
 
 Medians runBenchmarks(int argc, char **argv)
 {
-    // Before the user's own arguments, so that these take precedence.
+    // Inserted before the arguments of the command line, which therefore take precedence.
     std::string repetitions = "--benchmark_repetitions=5";
     std::string minimumTime = "--benchmark_min_time=0.1";
     std::vector<char *> arguments{argv[0], repetitions.data(), minimumTime.data()};

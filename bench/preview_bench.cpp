@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The time from the choice of a document until the image of its first printed page. Prints milliseconds. Run
-// by bench/after_start.py. Usage: preview_bench DOCUMENT
+// Measures the time from setDocument() until the image of the first printed page is available. Prints it in
+// milliseconds. Run by bench/after_start.py. Usage: preview_bench DOCUMENT
 
 #include "host/preview/preview.h"
 

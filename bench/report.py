@@ -15,12 +15,12 @@ sys.path.insert(0, str(Path(__file__).resolve().parent / "startup"))
 import after_start  # noqa: E402
 import run as startup  # noqa: E402
 from plot import line_plot  # noqa: E402
-from session import PATIENCE, SOURCE, Session  # noqa: E402
+from session import SOURCE, START_TIMEOUT, Session  # noqa: E402
 
 CONSTRAINTS = (0, startup.FEW, 5000, 10000, startup.MANY)
 QUEUES = (1, 100, 1000, 10000)
 SERIES = (startup.OURS, startup.QT, startup.GTK, startup.BARE)
-# Parts of the main thread's work by their functions. None contains another, but some share the loading of a font.
+# Parts of the main thread's work, and the functions that do it. No part contains another, but several of them load fonts.
 COSTS = {
     "loading and binding the libraries of the program": ("dl_main",),
     "connecting to the display": ("QGuiApplicationPrivate::createPlatformIntegration()",),
@@ -45,7 +45,8 @@ def queue_figures(build, repetitions):
 
 
 def costs(build):
-    """Millions of instructions of the main thread until the options are painted: of each part, and in total."""
+    """The instructions that the main thread executes until the options are painted, in millions: of each part, and in
+    total."""
     with Session() as session:
         session.add_queue("office", build / "ppds/kelm880.ppd")
         out = session.folder / "callgrind"
@@ -133,7 +134,7 @@ The goals compare what each dialog adds to a bare dialog: (ours − bare) / (Qt'
 {time_table(figures, CONSTRAINTS, "Constraints")}
 ### With queues
 
-A PPD of the family, by the number of queues of the print server. A program without a figure took more than {PATIENCE} seconds.
+A PPD of the family, by the number of queues of the print server. A program without a figure took more than {START_TIMEOUT} seconds.
 
 {plot("queues", queues, QUEUES, "Start by the number of queues", "queues", True)}
 {time_table(queues, QUEUES, "Queues")}

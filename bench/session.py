@@ -13,8 +13,8 @@ from pathlib import Path
 SOURCE = Path(__file__).resolve().parents[1]
 CUPSD = SOURCE / "scripts/lib/private-cupsd.sh"
 DOCUMENT = SOURCE / "demo/report.pdf"
-PATIENCE = 20  # seconds for a program to start
-SERVER_PATIENCE = 120  # seconds for a server to read all its queues
+START_TIMEOUT = 20  # seconds for a program to start
+SERVER_TIMEOUT = 120  # seconds for a server to read all its queues
 DEVICE = "socket://127.0.0.42:9100"  # never contacted
 
 
@@ -71,7 +71,7 @@ class Session:
 
     def _start_server(self):
         self._server = subprocess.Popen([CUPSD, "run", self.folder / "cups"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        until = time.monotonic() + SERVER_PATIENCE
+        until = time.monotonic() + SERVER_TIMEOUT
         while subprocess.run(["lpstat", "-h", self.folder / "cups/cups.sock", "-r"], capture_output=True).stdout != b"scheduler is running\n":
             if self._server.poll() is not None or time.monotonic() > until:
                 raise SystemExit("cupsd does not answer")
@@ -81,7 +81,7 @@ class Session:
         subprocess.run([CUPSD, "add-queue", self.folder / "cups", name, ppd, device], check=True, stdout=subprocess.DEVNULL)
 
     def add_large_queue(self, build, constraints):
-        """A queue with 200 options, whose name is returned."""
+        """Adds a queue with 200 options, and returns its name."""
         name = f"large{constraints}"
         path = self.folder / f"{name}.ppd"
         with path.open("wb") as file:
@@ -90,8 +90,8 @@ class Session:
         return name
 
     def launch(self, command):
-        """Runs a program with the time just before exec in KELMAR_T0_NS; returns its (milliseconds, kilobytes). Null
-        if it takes too long."""
+        """Runs a program and returns the tuple (milliseconds, kilobytes) that it reports. KELMAR_T0_NS contains the time just
+        before exec. None if the program takes too long."""
         reading, writing = os.pipe()
         pid = os.fork()
         if pid == 0:
@@ -104,7 +104,7 @@ class Session:
                 os._exit(127)
         os.close(writing)
         with os.fdopen(reading) as stream:
-            is_late = not select.select([stream], [], [], PATIENCE)[0]
+            is_late = not select.select([stream], [], [], START_TIMEOUT)[0]
             if is_late:
                 os.kill(pid, signal.SIGKILL)
             text = stream.read()
@@ -117,8 +117,8 @@ class Session:
         return figures["process start to options painted"], figures["resident memory with options"]
 
     def measure(self, programs, repetitions):
-        """Runs the programs alternately; the first round only warms the caches. Returns the medians; without
-        programs that take too long."""
+        """Runs the programs alternately, and returns their medians without those of programs that take too long. The first
+        round only warms the caches."""
         samples = {name: [] for name in programs}
         for turn in range(repetitions + 1):
             for name in list(samples):

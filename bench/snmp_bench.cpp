@@ -37,7 +37,7 @@ Oid firstRow(SnmpOid column)
     return {1, 3, 6, 1, 4, 1, 5309, 2, 3, 50, 1, 3, 30, 1, 1, column, 1, 1};
 }
 
-// The same requests without the client.
+// Sends the same requests with net-snmp directly.
 class Direct
 {
 public:
@@ -121,7 +121,7 @@ bool compare(const char *what, int repetitions, Client &&client, Straight &&stra
         if (i % 2 != 0)
             clientTimes.push_back(microseconds(client));
     }
-    // Ratios of neighbouring measurements, which are equally affected by the load of the machine.
+    // Ratios of consecutive measurements, which are equally affected by the load of the machine.
     std::vector<double> ratios(clientTimes.size());
     std::transform(clientTimes.begin(), clientTimes.end(), straightTimes.begin(), ratios.begin(),
                    std::divides<>());

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The time libcups alone needs for a printer: downloads the PPD of a queue, opens it, and marks its defaults.
-// Reports like FirstPaint. Usage: libcups_open QUEUE
+// Measures libcups alone: downloads the PPD of a queue, opens it, and marks its defaults. Reports like
+// FirstPaint. Usage: libcups_open QUEUE
 #include "bench/startup/first_paint.h"
 
 #include <cups/cups.h>

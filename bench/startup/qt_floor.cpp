@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The minimum cost of a Qt dialog: an application, one tab and two buttons, until the first paint.
+// Measures the minimum start time of a Qt dialog, with one tab and two buttons, until its first paint.
 #include "bench/startup/first_paint.h"
 
 #include <QApplication>

@@ -12,7 +12,7 @@
 
 namespace {
 
-// The tab widget of the properties dialog, when it is visible.
+// The tab widget of the properties dialog; null until it is visible.
 QTabWidget *optionTabs()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
