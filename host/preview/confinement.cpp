@@ -214,17 +214,17 @@ unsigned Confinement::giveUpRights() const noexcept
 
 void Confinement::logMissing(unsigned parts)
 {
-    static std::atomic<unsigned> told = 0;
-    const unsigned fresh = parts & ~told.fetch_or(parts);
-    const auto tell = [fresh](Part part, const char *what) {
-        if (fresh & part)
+    static std::atomic<unsigned> logged = 0;
+    const unsigned unlogged = parts & ~logged.fetch_or(parts);
+    const auto log = [unlogged](Part part, const char *what) {
+        if (unlogged & part)
             qCWarning(lcHost, "programs that read documents run without %s: the kernel does not allow it",
                       what);
     };
-    tell(Files, "landlock, which keeps them from the user's files");
-    tell(SystemCalls, "seccomp, which keeps them from sockets and other processes");
-    tell(Namespaces, "namespaces of their own, which end all that they start");
-    tell(Privileges, "NO_NEW_PRIVS");
+    log(Files, "landlock, which keeps them from the user's files");
+    log(SystemCalls, "seccomp, which keeps them from sockets and other processes");
+    log(Namespaces, "namespaces, which end all processes that they start");
+    log(Privileges, "NO_NEW_PRIVS");
 }
 
 } // namespace host

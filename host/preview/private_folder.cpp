@@ -40,8 +40,8 @@ void PrivateFolder::remove()
     if (::rmdir(m_path.constData()) == 0)
         return;
     const auto removeAll = [path] {
-        std::error_code unheard;
-        std::filesystem::remove_all(path, unheard);
+        std::error_code error;
+        std::filesystem::remove_all(path, error);
     };
     if (QCoreApplication::instance() && !QCoreApplication::closingDown())
         platform::Background::start(removeAll, QCoreApplication::instance(), [] {});
