@@ -25,7 +25,7 @@ namespace {
 
 constexpr int textShare = 6;         // of the window's height, for the texts of the message bar
 constexpr QSize usualSize(720, 600); // of the window if the screen has room
-constexpr int usualLines = 34;       // least height then
+constexpr int usualLines = 34;       // minimum height in that case
 constexpr int titleLines = 3;        // height of a title bar
 constexpr int roomyLines = 24;       // window height; lower windows save space
 constexpr int mostLines = 58;        // maximum height to which the window grows for a page
@@ -40,7 +40,7 @@ QSize freeRoom(const QWidget *window, const QSize &given)
     return frame.isNull() ? room - QSize(0, titleLines * window->fontMetrics().height()) : room;
 }
 
-// In order of priority.
+// The parts in the order in which they get access keys.
 QList<QWidget *> inOrderOfKeys(const WindowLayout::Parts &parts)
 {
     QList<QWidget *> order(parts.footer.crbegin(), parts.footer.crend());

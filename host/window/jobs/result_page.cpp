@@ -139,8 +139,8 @@ void ResultPage::showTitle(const QString &title)
 }
 
 // Shows each state in a new label. A screen reader that receives an announcement late reads the current text
-// of the label, so with a single label it would read the last state several times. It would
-// read an empty text if the label no longer existed, so the previous label is kept for a while.
+// of the label, so with a single label it would read the last state several times. It would read an empty
+// text if the label no longer existed, so the previous label is kept for a while.
 void ResultPage::showState(const QString &state)
 {
     auto *column = static_cast<QVBoxLayout *>(layout());

@@ -15,15 +15,15 @@ LockedControls::LockedControls(const QList<QWidget *> &controls, const QString &
     : QObject(parent), m_reason(reason)
 {
     for (QWidget *control : controls) {
-        tell(control);
+        addReason(control);
         control->setEnabled(false);
         control->installEventFilter(this);
     }
 }
 
-void LockedControls::tell(QWidget *control)
+void LockedControls::addReason(QWidget *control)
 {
-    const QScopedValueRollback telling(m_isTelling, true);
+    const QScopedValueRollback setting(m_isSettingToolTip, true);
     const QString own = control->toolTip();
     control->setToolTip(tooltipOf(own.isEmpty() ? m_reason : m_reason + QLatin1Char('\n') + own));
 }
@@ -33,8 +33,8 @@ bool LockedControls::eventFilter(QObject *watched, QEvent *event)
     auto *control = qobject_cast<QWidget *>(watched);
     if (control && event->type() == QEvent::EnabledChange && !control->testAttribute(Qt::WA_ForceDisabled))
         control->setEnabled(false);
-    if (control && event->type() == QEvent::ToolTipChange && !m_isTelling)
-        tell(control);
+    if (control && event->type() == QEvent::ToolTipChange && !m_isSettingToolTip)
+        addReason(control);
     return false;
 }
 

@@ -24,10 +24,10 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void tell(QWidget *control);
+    void addReason(QWidget *control);
 
     QString m_reason;
-    bool m_isTelling = false;
+    bool m_isSettingToolTip = false;
 };
 
 } // namespace host

@@ -68,7 +68,7 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         Part part{section.title, {}};
         for (const auto &[name, value] : section.entries)
             part.lines.append({name, value, keyOf(session, section.panel, name)});
-        if (section.panel >= 0) { // whose lines are sorted alphabetically
+        if (section.panel >= 0) { // panels list their settings alphabetically
             const QStringList keywords = session.panels().keywords(section.panel);
             std::stable_sort(part.lines.begin(), part.lines.end(), [&](const Line &a, const Line &b) {
                 return keywords.indexOf(a.key) < keywords.indexOf(b.key);
@@ -76,12 +76,12 @@ void SummaryPage::show(const DialogSession &session, const QList<SummarySection>
         }
         m_all.append(part);
     }
-    showChanged(session, changes);
+    collectChanges(session, changes);
     rebuild();
 }
 
-// Shows only the changed settings, in the order of the pages and of their controls.
-void SummaryPage::showChanged(const DialogSession &session, const QList<SettingChange> &changes)
+// Collects the changed settings, in the order of the pages and of their controls.
+void SummaryPage::collectChanges(const DialogSession &session, const QList<SettingChange> &changes)
 {
     QHash<QString, qsizetype> places;
     for (const Part &part : std::as_const(m_all)) {

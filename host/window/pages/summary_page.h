@@ -39,7 +39,7 @@ private:
         QString title;
         QList<Line> lines;
     };
-    void showChanged(const DialogSession &session, const QList<SettingChange> &changes);
+    void collectChanges(const DialogSession &session, const QList<SettingChange> &changes);
     void rebuild();
     void addTitle(const QString &title, bool first);
     void addLine(const Line &line);
