@@ -68,12 +68,12 @@ QString textOf(const QString &name, const QString &value)
     return text == std::end(valueTexts) ? value : JobSettingText::tr(text->text);
 }
 
-QString usualValue(const QString &name)
+QString defaultValue(const QString &name)
 {
-    static const QMap<QString, QString> usual = {{holdName, QStringLiteral("no-hold")},
-                                                 {priorityName, QStringLiteral("50")},
-                                                 {sheetsName, QStringLiteral("none,none")}};
-    return usual.value(name, QString());
+    static const QMap<QString, QString> defaults = {{holdName, QStringLiteral("no-hold")},
+                                                    {priorityName, QStringLiteral("50")},
+                                                    {sheetsName, QStringLiteral("none,none")}};
+    return defaults.value(name, QString());
 }
 
 // The value as the print server reports it: "job-sheets" with both cover sheets.
@@ -121,7 +121,7 @@ QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QStrin
             return normalized(name, setting.value);
     }
     const QString own = options.value(name);
-    return own.isEmpty() ? usualValue(name) : normalized(name, own);
+    return own.isEmpty() ? defaultValue(name) : normalized(name, own);
 }
 
 QString jobSettingValue(const DialogSession &session, const QString &name)

@@ -25,8 +25,8 @@ struct LayoutText
 struct Setting
 {
     QLatin1String name;
-    QLatin1String usual; // the print system's default; empty for that of each document
-    QLatin1String sent;  // sent to the server instead of an empty value
+    QLatin1String defaultValue; // the print system's default; empty for that of each document
+    QLatin1String sent;         // sent to the server instead of an empty value
     const char *text;
     QLatin1String keyword = {}; // of an option with which a PPD takes the place of this setting
     int least = 0, most = 0;    // the range of a number; such a setting has no rows below
@@ -146,13 +146,13 @@ bool isSwitch(const QString &name)
 
 PageLayoutSettings::PageLayoutSettings()
 {
-    static const QMap<QString, QString> usual = [] {
+    static const QMap<QString, QString> defaults = [] {
         QMap<QString, QString> values;
         for (const Setting &setting : settings)
-            values.insert(setting.name, setting.usual);
+            values.insert(setting.name, setting.defaultValue);
         return values;
     }();
-    m_values = usual;
+    m_values = defaults;
 }
 
 PageLayoutSettings PageLayoutSettings::from(const QMap<QString, QString> &options)
@@ -293,7 +293,7 @@ QList<SettingWords> PageLayoutSettings::inWords(bool withUsual) const
                                     ? pagesPerSide() > 1 && !isBooklet()
                                     : !(isBooklet() && setting.name == "number-up"_L1);
         const bool isUsual =
-            setting.name == "number-up-layout"_L1 ? !isInEffect : now == setting.usual || !isInEffect;
+            setting.name == "number-up-layout"_L1 ? !isInEffect : now == setting.defaultValue || !isInEffect;
         if (withUsual || !isUsual)
             words.append({setting.name, LayoutText::tr(setting.text), layoutValueText(setting.name, now)});
     }
