@@ -205,7 +205,7 @@ bool ResultWriter::finish()
     };
     m_isWritten = flush(m_out) && m_isWritten;
     if (!m_isWritten)
-        complain(ResultText::tr("The result cannot be written: %1.").arg(m_out->errorString()));
+        printError(ResultText::tr("The result cannot be written: %1.").arg(m_out->errorString()));
     flush(m_err);
     return m_isWritten;
 }
@@ -213,9 +213,9 @@ bool ResultWriter::finish()
 void ResultWriter::writeText(const BatchResult &result)
 {
     for (const QString &notice : result.notices)
-        complain(notice);
+        printError(notice);
     for (const OptionChoice &change : result.resolved)
-        complain(ResultText::tr("Changed to end a conflict: %1").arg(change.text()));
+        printError(ResultText::tr("Changed to end a conflict: %1").arg(change.text()));
     if (!m_hasBegun)
         writeSettings(result);
     if (result.submission && result.submission->isAccepted())
@@ -224,7 +224,7 @@ void ResultWriter::writeText(const BatchResult &result)
         print(ResultText::tr("“%1” has been written.").arg(readableFileName(result.output)));
     writeConflicts(result);
     if (result.error)
-        complain(result.error.message);
+        printError(result.error.message);
 }
 
 void ResultWriter::writeOptions(const BatchResult &result)
@@ -279,20 +279,20 @@ void ResultWriter::writeJob(const BatchResult &result)
         print(QStringLiteral("    ") + document);
     print(ResultText::tr("Job %1: %2.").arg(job.id).arg(job.status.text()));
     for (const QString &difference : job.differences)
-        complain(difference);
+        printError(difference);
 }
 
 void ResultWriter::writeConflicts(const BatchResult &result)
 {
     if (result.conflicts.isEmpty())
         return;
-    complain(ResultText::tr("These settings cannot be used together:"));
+    printError(ResultText::tr("These settings cannot be used together:"));
     for (const Conflict &conflict : result.conflicts)
-        complain(QStringLiteral("  ") + sidesText(conflict.sides));
+        printError(QStringLiteral("  ") + sidesText(conflict.sides));
     if (result.proposal) {
-        complain(ResultText::tr("Proposal (accepted with --resolve):"));
+        printError(ResultText::tr("Proposal (accepted with --resolve):"));
         for (const OptionChoice &change : *result.proposal)
-            complain(QStringLiteral("  ") + change.text());
+            printError(QStringLiteral("  ") + change.text());
     }
 }
 

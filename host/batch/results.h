@@ -63,7 +63,7 @@ private:
     void print(const QString &line) { put(terminalLine(line)); }
     void put(const QByteArray &bytes) { m_isWritten &= m_out->write(bytes) == bytes.size(); }
     bool finish();
-    void complain(const QString &line) { m_err->write("kelmar-print: " + terminalLine(line)); }
+    void printError(const QString &line) { m_err->write("kelmar-print: " + terminalLine(line)); }
 
     QIODevice *m_out;
     QIODevice *m_err;

@@ -32,7 +32,7 @@ public:
         return *thread;
     }
     void take(QObject *process) { process->moveToThread(&m_thread); }
-    // Owns the processes. Call on the thread.
+    // Takes ownership of a process. Call on this thread.
     void own(QObject *process) { process->setParent(&m_owner); }
 
 private:

@@ -16,8 +16,8 @@ namespace host {
 
 PrivateFolder::PrivateFolder()
 {
-    const QByteArray usual = qgetenv("TMPDIR"); // QDir::tempPath() is empty if this is not a folder
-    QByteArray path = (usual.startsWith('/') ? usual : QByteArray("/tmp")) + "/kelmar-print-XXXXXX";
+    const QByteArray configured = qgetenv("TMPDIR"); // QDir::tempPath() is empty if this is not a folder
+    QByteArray path = (configured.startsWith('/') ? configured : QByteArray("/tmp")) + "/kelmar-print-XXXXXX";
     if (mkdtemp(path.data()))
         m_path = path;
 }

@@ -39,9 +39,10 @@ QList<HelpPage::Explained> explainedOn(const QWidget *page)
     for (const PageControl &found : page ? controlsOf(page) : QList<PageControl>()) {
         // Several adjacent controls, such as a field and its button, may have the same explanation.
         const QString text = found.control->whatsThis();
-        const bool isTold = std::any_of(explained.cbegin(), explained.cend(),
-                                        [&](const HelpPage::Explained &told) { return told.text == text; });
-        if (!text.isEmpty() && text != found.name && !isTold)
+        const bool isListed =
+            std::any_of(explained.cbegin(), explained.cend(),
+                        [&](const HelpPage::Explained &listed) { return listed.text == text; });
+        if (!text.isEmpty() && text != found.name && !isListed)
             explained.append({found.name, text});
     }
     return explained;

@@ -33,8 +33,8 @@ void setTextOf(QWidget *widget, const QString &text)
         button->setText(text);
 }
 
-// Whether the widget has the dynamic property. Few widgets have any, and looking for one in the declared
-// properties first takes long.
+// Whether the dynamic property is true. property() searches the declared properties first, which takes long;
+// this is avoided for widgets without dynamic properties, which are most.
 bool isMarked(const QWidget *widget, const char *property)
 {
     return !widget->dynamicPropertyNames().isEmpty() && widget->property(property).toBool();

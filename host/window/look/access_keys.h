@@ -68,7 +68,7 @@ private:
     QWidget *m_window;
     QList<QWidget *> m_parts;
     QHash<QWidget *, Texts> m_texts; // of the widgets found last
-    std::array<Group, 4> m_groups;   // in order of choice, as assigned last
+    std::array<Group, 4> m_groups;   // in the order in which they get keys; of the last call
     bool m_queued = false;
 };
 

@@ -32,7 +32,7 @@ void chainTabOrder(const QList<QWidget *> &parts)
 {
     if (parts.isEmpty())
         return;
-    QList<QList<QWidget *>> stops(parts.size() + 1); // the last of widgets in no part
+    QList<QList<QWidget *>> stops(parts.size() + 1); // the last list is for widgets in no part
     QWidget *const start = parts.first()->window();
     for (QWidget *next = start->nextInFocusChain(); next != start; next = next->nextInFocusChain()) {
         if (isTabStop(next))

@@ -26,8 +26,8 @@ namespace host {
 
 namespace {
 
-constexpr double usualWidth = 210 / 25.4 * 72; // points: A4, if nothing has been chosen
-constexpr double usualHeight = 297 / 25.4 * 72;
+constexpr double defaultWidth = 210 / 25.4 * 72; // points: A4, if nothing has been chosen
+constexpr double defaultHeight = 297 / 25.4 * 72;
 // The largest number that can be entered. A number beyond the printer's limits is kept and reported: a spin
 // box with these limits would change it to another number.
 constexpr int mostTyped = 999'999;
@@ -48,7 +48,7 @@ double roundedDown(double value, int decimals)
     return -roundedUp(-value, decimals);
 }
 
-QString usualUnit()
+QString defaultUnit()
 {
     return QLocale().measurementSystem() == QLocale::MetricSystem ? QStringLiteral("mm")
                                                                   : QStringLiteral("in");
@@ -92,7 +92,7 @@ void CustomEditor::addSize()
         m_unit->addItem(text, QString::fromLatin1(unit));
     m_unit->setAccessibleName(tr("Unit of the paper size"));
     m_unit->setObjectName(QStringLiteral("unit"));
-    m_currentUnit = usualUnit();
+    m_currentUnit = defaultUnit();
     m_unit->setCurrentIndex(m_unit->findData(m_currentUnit));
     for (const CustomParameter &side : m_custom.parameters) {
         auto *box = new QDoubleSpinBox(this);
@@ -118,7 +118,7 @@ void CustomEditor::addSize()
     setRanges();
     for (qsizetype i = 0; i < m_sides.size(); ++i) {
         const QSignalBlocker quiet(m_sides.at(i));
-        m_fields.at(i).setValue(QString::number(i == 0 ? usualWidth : usualHeight));
+        m_fields.at(i).setValue(QString::number(i == 0 ? defaultWidth : defaultHeight));
     }
     connect(m_unit, &QComboBox::activated, this, &CustomEditor::changeUnit);
 }

@@ -180,10 +180,10 @@ int PrinterList::rowCount(const QModelIndex &parent) const
 
 Qt::ItemFlags PrinterList::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+    const Qt::ItemFlags itemFlags = QAbstractListModel::flags(index);
     return index.isValid() && isAwaited(at(index.row()).name())
-               ? usual & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable)
-               : usual;
+               ? itemFlags & ~(Qt::ItemIsEnabled | Qt::ItemIsSelectable)
+               : itemFlags;
 }
 
 QVariant PrinterList::data(const QModelIndex &index, int role) const
