@@ -20,6 +20,7 @@ exec display -title '%s' -size 300x90 -gravity center -font DejaVu-Sans -backgro
 NAME = "org.freedesktop.impl.portal.desktop.kelmar"
 OBJECT = "/org/freedesktop/portal/desktop"
 CALL_TIMEOUT = 600 * 1000  # milliseconds
+PASSWORD = "4711"
 TITLE, NEW_TITLE = "Letter", "Letter to the tenants"
 
 
@@ -70,7 +71,7 @@ def other_maker(d):
 def print_mode(d):
     go_to(d, "Print Mode")
     d.click(d.get("password text", "Password"))
-    d.type("4711")
+    d.type(PASSWORD)
     d.keys("Tab")
     d.focus_on("Account")
     d.type("Sales")
@@ -82,8 +83,9 @@ def account_arrived(d):
     d.keys("ctrl+p")
     said = d.says("Sent to “archive”")
     options = arguments_of_job(CUPS, 2)[4].split()
-    expect("no account in %s" % options, "job-account-id=Sales" in options)
-    return "Ctrl+P: %s. The printer’s backend got job-account-id=Sales" % said
+    expect("the account has not reached the printer", "job-account-id=Sales" in options)
+    expect("the password has not reached the printer", "job-password=" + PASSWORD in options)
+    return "Ctrl+P: %s. The printer’s backend got job-account-id=Sales and the password" % said
 
 
 class Application:
