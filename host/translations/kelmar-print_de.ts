@@ -318,6 +318,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>ControlText</name>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
@@ -2137,10 +2144,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Geben Sie die zu druckenden Seiten ein oder wählen Sie alle Seiten.</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Dokumente:</translation>
     </message>
@@ -2374,10 +2377,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Letzte Seite zuerst</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
-    </message>
-    <message>
         <source>Booklet</source>
         <translation>Broschüre</translation>
     </message>
@@ -2438,10 +2437,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>%1…</source>
         <comment>Custom, whose values are asked for</comment>
         <translation>%1 …</translation>
-    </message>
-    <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
 </context>
 <context>

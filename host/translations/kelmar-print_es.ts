@@ -318,6 +318,13 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>ControlText</name>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>No disponible mientras «%1» esté en «%2».</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
@@ -2121,10 +2128,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Imprimir cada copia completa antes de empezar la siguiente</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>No disponible mientras «%1» esté en «%2».</translation>
-    </message>
-    <message>
         <source>for example 1-3, 8</source>
         <translation>por ejemplo 1-3, 8</translation>
     </message>
@@ -2374,10 +2377,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>La última página primero</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>No disponible mientras «%1» esté en «%2».</translation>
-    </message>
-    <message>
         <source>Booklet</source>
         <translation>Folleto</translation>
     </message>
@@ -2438,10 +2437,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>%1:</source>
         <comment>label of a field</comment>
         <translation>%1:</translation>
-    </message>
-    <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>No disponible mientras «%1» esté en «%2».</translation>
     </message>
 </context>
 <context>

@@ -318,6 +318,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>ControlText</name>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
@@ -2137,10 +2144,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Saisissez les pages à imprimer, ou choisissez toutes les pages.</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Documents&#xa0;:</translation>
     </message>
@@ -2374,10 +2377,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Dernière page en premier</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
         <source>Booklet</source>
         <translation>Livret</translation>
     </message>
@@ -2438,10 +2437,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>%1…</source>
         <comment>Custom, whose values are asked for</comment>
         <translation>%1…</translation>
-    </message>
-    <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>

@@ -318,6 +318,13 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>ControlText</name>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
@@ -2121,10 +2128,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Stampare ogni copia per intero prima di iniziare la successiva</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
-    </message>
-    <message>
         <source>for example 1-3, 8</source>
         <translation>per esempio 1-3, 8</translation>
     </message>
@@ -2374,10 +2377,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>L’ultima pagina per prima</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
-    </message>
-    <message>
         <source>Booklet</source>
         <translation>Opuscolo</translation>
     </message>
@@ -2438,10 +2437,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>%1:</source>
         <comment>label of a field</comment>
         <translation>%1:</translation>
-    </message>
-    <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
     </message>
 </context>
 <context>

@@ -318,6 +318,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>ControlText</name>
+    <message>
+        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <translation>「%1」が「%2」のときは使用できません。</translation>
+    </message>
+</context>
+<context>
     <name>DocumentText</name>
     <message>
         <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
@@ -2137,10 +2144,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷するページを入力するか、すべてのページを選んでください。</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>「%1」が「%2」のときは使用できません。</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>文書:</translation>
     </message>
@@ -2372,10 +2375,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>最終ページから印刷</translation>
     </message>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>「%1」が「%2」のときは使用できません。</translation>
-    </message>
-    <message>
         <source>Booklet</source>
         <translation>小冊子</translation>
     </message>
@@ -2436,10 +2435,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>%1…</source>
         <comment>Custom, whose values are asked for</comment>
         <translation>%1…</translation>
-    </message>
-    <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
-        <translation>「%1」が「%2」のときは選択できません。</translation>
     </message>
 </context>
 <context>

@@ -193,7 +193,7 @@ void GeneralPage::enableCollate()
     const bool several = m_copies->value() > 1;
     m_collate->setEnabled(several);
     m_collate->setToolTip(several ? tr("Print each complete copy before the next one")
-                                  : tr("Not available while \"%1\" is \"%2\".").arg(tr("Copies")).arg(1));
+                                  : notAvailableWhile(tr("Copies"), QString::number(1)));
 }
 
 void GeneralPage::enablePages(bool some)
@@ -205,8 +205,7 @@ void GeneralPage::enablePages(bool some)
     }
     m_pages->setEnabled(some);
     m_pages->setToolTip(some ? QString()
-                             : tr("Not available while \"%1\" is \"%2\".")
-                                   .arg(bareText(tr("Pages:")), bareText(instead->text())));
+                             : notAvailableWhile(bareText(tr("Pages:")), bareText(instead->text())));
     m_pages->setAccessibleDescription(m_pages->toolTip());
 }
 

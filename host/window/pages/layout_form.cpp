@@ -8,6 +8,7 @@
 #include "host/session/printed_pages.h"
 #include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
+#include "host/window/pages/page_controls.h"
 #include "platform/choice_box.h"
 #include "platform/wheel_guard.h"
 
@@ -104,7 +105,7 @@ void LayoutForm::addRow(const QString &name, const QString &label, QGridLayout *
 QLabel *LayoutForm::explain(QWidget *control, const QString &name, const QString &label)
 {
     control->setObjectName(name);
-    control->setAccessibleName(label.chopped(1).trimmed());
+    control->setAccessibleName(bareText(label));
     control->setWhatsThis(explanationOf(name));
     auto *text = new QLabel(label, control->parentWidget());
     text->setBuddy(control); // used by screen readers to name the control
@@ -229,12 +230,13 @@ void LayoutForm::choose(const Row &row)
 void LayoutForm::refresh()
 {
     const PageLayoutSettings &layout = m_session->general().layout;
-    const QString alone = !layout.isBooklet()
-                              ? QString()
-                              : notWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("true")));
+    const QString alone =
+        !layout.isBooklet()
+            ? QString()
+            : notAvailableWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("true")));
     const QString single = layout.pagesPerSide() > 1
                                ? QString()
-                               : notWhile(tr("Pages per side:").chopped(1).trimmed(), QString::number(1));
+                               : notAvailableWhile(bareText(tr("Pages per side:")), QString::number(1));
     for (const Row &row : std::as_const(m_rows)) {
         const QString value = layout.value(row.name);
         // A default may be an uncommon value that is not offered.
@@ -263,11 +265,6 @@ void LayoutForm::refresh()
     enable(m_stitched, stitchingObstacle());
 }
 
-QString LayoutForm::notWhile(const QString &option, const QString &choice)
-{
-    return tr("Not available while \"%1\" is \"%2\".").arg(option, choice);
-}
-
 void LayoutForm::enable(QWidget *control, const QString &obstacle)
 {
     control->setEnabled(obstacle.isEmpty());
@@ -288,11 +285,11 @@ QString LayoutForm::stitchingObstacle() const
     if (m_stitched->isChecked())
         return {};
     if (!m_session->general().layout.isBooklet())
-        return notWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("false")));
+        return notAvailableWhile(tr("Booklet"), layoutValueText(booklet, QStringLiteral("false")));
     const auto forbidden = m_session->ppd()->forbiddenChoices(m_stitching->option);
     const auto obstacle = forbidden.constFind(m_stitching->choice);
     return obstacle == forbidden.constEnd() ? QString()
-                                            : notWhile(obstacle->optionText, obstacle->choiceText);
+                                            : notAvailableWhile(obstacle->optionText, obstacle->choiceText);
 }
 
 } // namespace host

@@ -69,7 +69,6 @@ private:
     void turn(const QString &name, bool on);
     void fold(bool on);
     void stitch(bool on);
-    static QString notWhile(const QString &option, const QString &choice);
     static void enable(QWidget *control, const QString &obstacle);
     QString foldingObstacle() const;
     QString stitchingObstacle() const;

@@ -9,6 +9,7 @@
 #include "host/window/look/foreign_text.h"
 #include "host/window/look/mnemonics.h"
 #include "host/window/pages/custom_editor.h"
+#include "host/window/pages/page_controls.h"
 #include "platform/choice_box.h"
 
 #include <QGridLayout>
@@ -194,10 +195,8 @@ void OptionForm::greyOut(const Row &row)
         const QString choice = row.box->itemData(i).toString();
         const bool free = choice == row.current || !forbidden.contains(choice);
         const OptionChoice obstacle = forbidden.value(choice);
-        row.box->setObstacle(
-            i,
-            free ? QString()
-                 : tr("Not available while \"%1\" is \"%2\".").arg(obstacle.optionText, obstacle.choiceText));
+        row.box->setObstacle(i,
+                             free ? QString() : notAvailableWhile(obstacle.optionText, obstacle.choiceText));
     }
 }
 

@@ -13,6 +13,7 @@
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -27,6 +28,11 @@ namespace {
 
 constexpr std::chrono::milliseconds flashTime(1000);
 constexpr int flashMargin = 5; // pixels around the control
+
+struct ControlText
+{
+    Q_DECLARE_TR_FUNCTIONS(ControlText)
+};
 
 QString nameOf(const QWidget *control, const QList<QLabel *> &labels)
 {
@@ -88,6 +94,11 @@ private:
 };
 
 } // namespace
+
+QString notAvailableWhile(const QString &option, const QString &choice)
+{
+    return ControlText::tr("Not available while \"%1\" is \"%2\".").arg(option, choice);
+}
 
 QString bareText(QString text)
 {

@@ -27,6 +27,8 @@ QWidget *findControl(const QWidget *page, const QString &keyword, const QString 
 
 // A label's text without access key and colon: "Copies" for "&Copies:", "部数" for "部数(&C):".
 QString bareText(QString text);
+// Why a control or a choice is greyed out.
+QString notAvailableWhile(const QString &option, const QString &choice);
 // The PPD option or key of a panel that a control sets; null if there is none.
 QString keywordOf(const QWidget *control);
 
