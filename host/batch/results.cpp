@@ -19,20 +19,15 @@ struct ResultText
     Q_DECLARE_TR_FUNCTIONS(ResultText)
 };
 
+template <typename T>
+QJsonArray toJson(const QList<T> &list);
+
 QJsonObject toJson(const OptionChoice &choice)
 {
     return {{QStringLiteral("option"), choice.option},
             {QStringLiteral("choice"), choice.choice},
             {QStringLiteral("optionText"), choice.optionText},
             {QStringLiteral("choiceText"), choice.choiceText}};
-}
-
-QJsonArray toJson(const QList<OptionChoice> &choices)
-{
-    QJsonArray array;
-    for (const OptionChoice &choice : choices)
-        array.append(toJson(choice));
-    return array;
 }
 
 QJsonObject toJson(const CustomChoice &custom)
@@ -73,37 +68,33 @@ QJsonObject toJson(const SubmittedJob &job, const QString &queue, const QStringL
             {QStringLiteral("differences"), QJsonArray::fromStringList(job.differences)}};
 }
 
-QJsonArray toJson(const QList<SummarySection> &sections)
+QJsonObject toJson(const SummarySection &section)
 {
-    QJsonArray array;
-    for (const SummarySection &section : sections) {
-        QJsonArray entries;
-        for (const auto &[name, value] : section.entries)
-            entries.append(QJsonObject{{QStringLiteral("name"), name}, {QStringLiteral("value"), value}});
-        array.append(
-            QJsonObject{{QStringLiteral("title"), section.title}, {QStringLiteral("entries"), entries}});
-    }
-    return array;
+    QJsonArray entries;
+    for (const auto &[name, value] : section.entries)
+        entries.append(QJsonObject{{QStringLiteral("name"), name}, {QStringLiteral("value"), value}});
+    return {{QStringLiteral("title"), section.title}, {QStringLiteral("entries"), entries}};
 }
 
-QJsonArray toJson(const QList<Conflict> &conflicts)
+QJsonArray toJson(const Conflict &conflict)
 {
-    QJsonArray array;
-    for (const Conflict &conflict : conflicts)
-        array.append(toJson(conflict.sides));
-    return array;
+    return toJson(conflict.sides);
 }
 
-QJsonArray toJson(const QList<Preset> &presets)
+QJsonObject toJson(const Preset &preset)
+{
+    QJsonObject options;
+    for (auto it = preset.options.begin(); it != preset.options.end(); ++it)
+        options[it.key()] = it.value();
+    return {{QStringLiteral("name"), preset.name}, {QStringLiteral("options"), options}};
+}
+
+template <typename T>
+QJsonArray toJson(const QList<T> &list)
 {
     QJsonArray array;
-    for (const Preset &preset : presets) {
-        QJsonObject options;
-        for (auto it = preset.options.begin(); it != preset.options.end(); ++it)
-            options[it.key()] = it.value();
-        array.append(
-            QJsonObject{{QStringLiteral("name"), preset.name}, {QStringLiteral("options"), options}});
-    }
+    for (const T &each : list)
+        array.append(toJson(each));
     return array;
 }
 
@@ -127,10 +118,7 @@ QJsonObject toJson(const BatchResult &result)
     if (result.hasSummary)
         object[QStringLiteral("summary")] = toJson(result.summary);
     if (result.hasOptions) {
-        QJsonArray options;
-        for (const PpdOption &option : result.options)
-            options.append(toJson(option));
-        object[QStringLiteral("options")] = options;
+        object[QStringLiteral("options")] = toJson(result.options);
         QJsonArray keys;
         for (const auto &[panel, key] : result.panelKeys)
             keys.append(QJsonObject{{QStringLiteral("panel"), panel}, {QStringLiteral("key"), key}});
