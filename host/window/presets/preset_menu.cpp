@@ -324,10 +324,16 @@ void PresetMenu::apply(const QString &name)
     Q_EMIT applied();
 }
 
-void PresetMenu::edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done)
+void PresetMenu::edit(std::function<bool(const PresetStore &, PrintError *)> work,
+                      const std::function<void()> &done)
 {
     m_editing.start(
-        this, [work = std::move(work)] { return work(PresetStore()); },
+        this,
+        [work = std::move(work)] {
+            PrintError error;
+            (void)work(PresetStore(), &error);
+            return error;
+        },
         [this, done, history = QPointer(m_history.get())](const PrintError &error) {
             if (error) {
                 Q_EMIT failed(error);
@@ -372,16 +378,12 @@ void PresetMenu::save(const QString &name, bool withSecrets)
     const QString inUse = m_history->base().name.isEmpty() ? m_startInstance : m_history->base().name;
     const Preset preset{name == ownDefaults ? QString() : name,
                         presetOptions(*m_session, optionsOf(inUse), withSecrets)};
-    edit(
-        [queue = queue(), preset](const PresetStore &store) {
-            PrintError error;
-            (void)store.save(queue, preset, &error);
-            return error;
-        },
-        [this, name] {
-            m_history->takeBase(name);
-            m_history->note();
-        });
+    edit([queue = queue(), preset](const PresetStore &store,
+                                   PrintError *error) { return store.save(queue, preset, error); },
+         [this, name] {
+             m_history->takeBase(name);
+             m_history->note();
+         });
 }
 
 void PresetMenu::saveAs()
@@ -402,16 +404,12 @@ void PresetMenu::rename()
     auto *dialog = new PresetDialog(PresetDialog::Purpose::Rename, from, names(), false, m_window);
     connect(dialog, &QDialog::accepted, this, [this, dialog, from] {
         const QString to = dialog->name();
-        edit(
-            [queue = queue(), from, to](const PresetStore &store) {
-                PrintError error;
-                (void)store.rename(queue, from, to, &error);
-                return error;
-            },
-            [this, from, to] {
-                leaveInstance(from, to);
-                m_history->renameBase(from, to);
-            });
+        edit([queue = queue(), from, to](const PresetStore &store,
+                                         PrintError *error) { return store.rename(queue, from, to, error); },
+             [this, from, to] {
+                 leaveInstance(from, to);
+                 m_history->renameBase(from, to);
+             });
     });
     m_dialog = dialog;
     dialog->open();
@@ -431,13 +429,9 @@ void PresetMenu::remove()
     yes->setWhatsThis(explanationOf(QStringLiteral("preset-delete")));
     question->button(QMessageBox::Cancel)->setWhatsThis(explanationOf(QStringLiteral("preset-cancel")));
     connect(yes, &QPushButton::clicked, this, [this, name] {
-        edit(
-            [queue = queue(), name](const PresetStore &store) {
-                PrintError error;
-                (void)store.remove(queue, name, &error);
-                return error;
-            },
-            [this, name] { forget(name); });
+        edit([queue = queue(), name](const PresetStore &store,
+                                     PrintError *error) { return store.remove(queue, name, error); },
+             [this, name] { forget(name); });
     });
     m_dialog = question;
     question->open();

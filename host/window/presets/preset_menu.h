@@ -86,7 +86,7 @@ private:
     void remove();
     void useAsDefault();
     // Runs `work` on a worker thread; `done` is then called on this thread, if the session is still the same.
-    void edit(std::function<PrintError(const PresetStore &)> work, const std::function<void()> &done);
+    void edit(std::function<bool(const PresetStore &, PrintError *)> work, const std::function<void()> &done);
     void forget(const QString &name);
     void leaveInstance(const QString &name, const QString &another);
     void showName();
