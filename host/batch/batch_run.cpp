@@ -124,8 +124,8 @@ ExitCode BatchRun::prepare()
     if (!openSession(&error))
         return fail(error);
     m_result.printer = m_session->destination().name();
-    if (m_session->brokenLock() && !m_session->destination().instance.isEmpty())
-        return fail(m_session->brokenLock());
+    if (m_session->policyViolation() && !m_session->destination().instance.isEmpty())
+        return fail(m_session->policyViolation());
     if (!applyAssignments(m_arguments, m_session.get(), &error))
         return fail(error);
     m_session->save();

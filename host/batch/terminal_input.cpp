@@ -16,7 +16,7 @@ constexpr char interruptKey = 3; // Ctrl+C, which is read as a character while t
 
 }
 
-Silence::Silence(int terminal) : m_terminal(terminal)
+EchoDisabler::EchoDisabler(int terminal) : m_terminal(terminal)
 {
     m_active = tcgetattr(terminal, &m_before) == 0;
     termios silent = m_before;
@@ -24,7 +24,7 @@ Silence::Silence(int terminal) : m_terminal(terminal)
     m_active = m_active && tcsetattr(terminal, TCSAFLUSH, &silent) == 0;
 }
 
-Silence::~Silence()
+EchoDisabler::~EchoDisabler()
 {
     if (m_active)
         tcsetattr(m_terminal, TCSAFLUSH, &m_before);

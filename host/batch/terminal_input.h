@@ -11,13 +11,13 @@ namespace host {
 
 // Disables the echo and the signal keys of a terminal during the lifetime of the object. A signal could
 // otherwise end the program while the echo is disabled. The descriptor is borrowed.
-class Silence
+class EchoDisabler
 {
 public:
-    explicit Silence(int terminal);
-    ~Silence();
-    Silence(const Silence &) = delete;
-    Silence &operator=(const Silence &) = delete;
+    explicit EchoDisabler(int terminal);
+    ~EchoDisabler();
+    EchoDisabler(const EchoDisabler &) = delete;
+    EchoDisabler &operator=(const EchoDisabler &) = delete;
     // False if there is no terminal, or its mode cannot be changed.
     bool isActive() const { return m_active; }
 

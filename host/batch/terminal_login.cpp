@@ -40,9 +40,9 @@ std::optional<QString> readLine(int terminal)
 // readLine().
 std::optional<QString> askHidden(int terminal, const QString &question)
 {
-    const Silence silence(terminal);
+    const EchoDisabler disabler(terminal);
     say(terminal, question);
-    const auto line = silence.isActive() ? readLine(terminal) : std::nullopt;
+    const auto line = disabler.isActive() ? readLine(terminal) : std::nullopt;
     say(terminal, QStringLiteral("\n"));
     return line;
 }

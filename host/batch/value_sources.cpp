@@ -70,8 +70,8 @@ std::optional<QString> readFile(const QString &path, const QString &key, QString
 std::optional<QString> ask(const QString &key, QString *error)
 {
     const platform::UniqueFd terminal(open("/dev/tty", O_RDWR | O_CLOEXEC));
-    const Silence silence(terminal.get());
-    if (!silence.isActive()) {
+    const EchoDisabler disabler(terminal.get());
+    if (!disabler.isActive()) {
         *error =
             unreadable(key, ValueSourceText::tr("there is no terminal to ask on; --set-file takes it from a "
                                                 "file or, as %1=-, from the standard input")

@@ -402,7 +402,7 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
             verdict.message = unreadable(document.name, verdict.problem);
     }
     PageMaker maker(tools, nullptr);
-    maker.setLimits(PageMaker::unhurried());
+    maker.setLimits(PageMaker::generousLimits());
     for (Document &document : verdict.documents) {
         const bool isMade = isImage(document) && !document.isDrawingInText ? settings.areImagesSentAsPdf()
                                                                            : settings.isScaled();

@@ -53,7 +53,7 @@ PageMaker::PageMaker(const PageTools &tools, QObject *parent)
     connect(&m_process, &LimitedProcess::ended, this, &PageMaker::ended);
 }
 
-LimitedProcess::Limits PageMaker::unhurried()
+LimitedProcess::Limits PageMaker::generousLimits()
 {
     LimitedProcess::Limits limits;
     limits.time = std::chrono::minutes(10);

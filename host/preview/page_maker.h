@@ -28,7 +28,7 @@ public:
 
     void setLimits(const LimitedProcess::Limits &limits) { m_process.setLimits(limits); }
     // Limits for large documents that are not made for display: ten minutes, and more memory and output.
-    static LimitedProcess::Limits unhurried();
+    static LimitedProcess::Limits generousLimits();
     // Starts a conversion in place of the current one; the file contains the document, from its beginning.
     void make(const Document &document, const SharedFile &file, const PageSettings &settings)
     {

@@ -40,8 +40,8 @@ PrintError replaceFile(const QString &path, const SharedFile &content)
 PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     : QObject(parent), m_tools(tools), m_maker(tools, nullptr), m_joiner(nullptr)
 {
-    m_maker.setLimits(PageMaker::unhurried());
-    m_joiner.setLimits(PageMaker::unhurried());
+    m_maker.setLimits(PageMaker::generousLimits());
+    m_joiner.setLimits(PageMaker::generousLimits());
     connect(&m_maker, &PageMaker::made, this, &PdfWriter::made);
     connect(&m_maker, &PageMaker::failed, this, [this](const QString &reason, PageMaker::Fault fault) {
         if (fault == PageMaker::Fault::Selection) // the settings may select pages of another document

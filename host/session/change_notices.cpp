@@ -52,10 +52,10 @@ bool sameValue(const QVariant &a, const QVariant &b)
     return a.metaType() == b.metaType() && a == b;
 }
 
-QStringList changeNotices(const QList<UnaskedChange> &changes)
+QStringList changeNotices(const QList<UnrequestedChange> &changes)
 {
     QList<Group> groups;
-    for (const UnaskedChange &item : changes) {
+    for (const UnrequestedChange &item : changes) {
         const QString &choice = item.change.choiceText;
         auto group = std::find_if(groups.begin(), groups.end(), [&](const Group &g) {
             return g.choice == choice && g.isDefault == item.isDefault && g.cause == item.cause;

@@ -16,12 +16,12 @@ bool sameValue(const QVariant &a, const QVariant &b);
 
 // Describes changes that the user did not request. Options with the same new choice share a sentence: "Cyan,
 // Magenta were reset to 0.", followed by the reason if it is known.
-struct UnaskedChange
+struct UnrequestedChange
 {
     OptionChoice change;
     bool isDefault = false; // the new choice is the printer's default
     OptionChoice cause;     // empty if unknown
 };
-QStringList changeNotices(const QList<UnaskedChange> &changes);
+QStringList changeNotices(const QList<UnrequestedChange> &changes);
 
 } // namespace host

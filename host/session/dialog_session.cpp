@@ -138,8 +138,8 @@ void DialogSession::leaveOutForbidden()
             isGiven ? PrintError() : m_locks.refusal(m_ppd.get(), it.key(), it.value());
         if (!refusal)
             continue;
-        if (!m_brokenLock)
-            m_brokenLock = refusal;
+        if (!m_policyViolation)
+            m_policyViolation = refusal;
         addNotice(refusal.message);
         if (!m_ppd->takesOption(it.key()))
             m_destination.options.remove(it.key());
@@ -345,11 +345,11 @@ void DialogSession::settle()
         m_lastUserKeyword = setting.key;
         noteChosen(setting);
     }
-    for (UnaskedChange &unasked : outcome.unasked) {
-        if (isSecret(unasked.change.option))
-            unasked.change.choiceText = hiddenValue();
+    for (UnrequestedChange &unrequested : outcome.unrequested) {
+        if (isSecret(unrequested.change.option))
+            unrequested.change.choiceText = hiddenValue();
     }
-    m_notices += changeNotices(outcome.unasked);
+    m_notices += changeNotices(outcome.unrequested);
 }
 
 QList<SummarySection> DialogSession::summary()

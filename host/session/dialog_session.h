@@ -49,7 +49,7 @@ public:
     const Policy::Rule &rule() const { return m_rule; } // of the administrator
     const Locks &locks() const { return m_locks; }      // no setter of this class violates them
     // The user's default or preset setting that was ignored because of the policy; no error if there is none.
-    const PrintError &brokenLock() const { return m_brokenLock; }
+    const PrintError &policyViolation() const { return m_policyViolation; }
     const SessionPanels &panels() const { return m_panels; }
     bool isPanelLocked(int index) const { return m_rule.locksPanel(m_panels.panel(index)->panelKind()); }
     GeneralSettings &general() { return m_general; }
@@ -103,7 +103,7 @@ private:
     Destination m_destination;
     std::unique_ptr<PpdDocument> m_ppd;
     Locks m_locks;
-    PrintError m_brokenLock;
+    PrintError m_policyViolation;
     PanelHost m_host;
     GeneralSettings m_general, m_startingGeneral;
     Protection m_protection;

@@ -84,8 +84,9 @@ PanelChanges::Outcome PanelChanges::settle()
         if (entry.byUser) {
             outcome.chosen.append({entry.keyword, after.toString()});
         } else if (m_ppd && m_ppd->hasOption(entry.keyword)) {
-            outcome.unasked.append({m_ppd->described(entry.keyword, after.toString()),
-                                    after.toString() == m_ppd->defaultChoice(entry.keyword), entry.cause});
+            outcome.unrequested.append({m_ppd->described(entry.keyword, after.toString()),
+                                        after.toString() == m_ppd->defaultChoice(entry.keyword),
+                                        entry.cause});
         }
     }
     return outcome;

@@ -35,9 +35,9 @@ public:
 
     struct Outcome
     {
-        QStringList saved;            // keywords
-        QList<ChosenSetting> chosen;  // by the user
-        QList<UnaskedChange> unasked; // of PPD options
+        QStringList saved;                    // keywords
+        QList<ChosenSetting> chosen;          // by the user
+        QList<UnrequestedChange> unrequested; // of PPD options
     };
     // The outcome of the changes that were announced since the last call. A panel that saves itself before it
     // was restored writes defaults for options that it has not read: only options that it set explicitly are

@@ -151,7 +151,7 @@ void PrintWindow::connectWork()
         m_poller.loadList();
     });
     connect(m_waiting, &WaitingPage::cancelled, this, &PrintWindow::stopWaiting);
-    connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::makeWay);
+    connect(&m_wait, &PanelWait::signShown, m_guide, &Guide::setButtonsHidden);
     connect(&m_wait, &PanelWait::acceptWanted, this, &PrintWindow::print);
     connect(&m_wait, &PanelWait::panelReturned, &m_messages, &SessionMessages::resumeCheck);
     connect(&m_wait, &PanelWait::panelReturned, &m_opener, &SessionOpener::deliverHeld);
@@ -306,7 +306,7 @@ void PrintWindow::showSession()
 // Call before the session is destroyed: its panels own views in the pages.
 void PrintWindow::detachSession()
 {
-    m_poller.forgetChosen();
+    m_poller.clearChosen();
     m_book->clear();
     m_messages.clear();
     m_presets->setSession(nullptr);
@@ -382,7 +382,7 @@ void PrintWindow::print()
     if (m_state != State::Choosing || m_opener.isBusy() || !m_print->isEnabled())
         return;
     if (m_wait.isUnderWay()) {
-        m_wait.promise(tr("Printing follows when the printer has answered."), [this] { print(); });
+        m_wait.runAfterwards(tr("Printing follows when the printer has answered."), [this] { print(); });
         return;
     }
     if (!mayPrint())

@@ -10,9 +10,9 @@
 namespace host {
 
 SessionOpener::SessionOpener(PrintSystem &system, Extensions &extensions, const PrintTask &task,
-                             std::function<bool()> isHeldUp, Receiver receiver)
+                             std::function<bool()> isDeferred, Receiver receiver)
     : m_extensions(extensions), m_task(task), m_receiver(std::move(receiver)),
-      m_printers(system, std::move(isHeldUp), this)
+      m_printers(system, std::move(isDeferred), this)
 {
     connect(&m_printers, &PrinterOpener::wanted, this, &SessionOpener::openPicked);
     connect(&m_printers, &PrinterOpener::delayed, this, &SessionOpener::delayed);

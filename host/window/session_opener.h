@@ -32,9 +32,9 @@ public:
     };
     using Receiver = std::function<void(Result)>;
 
-    // Nothing is delivered while `isHeldUp` returns true, for example while a panel waits.
+    // Nothing is delivered while `isDeferred` returns true, for example while a panel waits.
     SessionOpener(PrintSystem &system, Extensions &extensions, const PrintTask &task,
-                  std::function<bool()> isHeldUp, Receiver receiver);
+                  std::function<bool()> isDeferred, Receiver receiver);
     ~SessionOpener() override;
 
     // Opens the printer of the task, also again after a failure.

@@ -23,13 +23,13 @@ namespace host {
 
 namespace {
 
-constexpr int textShare = 6;         // of the window's height, for the texts of the message bar
-constexpr QSize usualSize(720, 600); // of the window if the screen has room
-constexpr int usualLines = 34;       // minimum height in that case
-constexpr int titleLines = 3;        // height of a title bar
-constexpr int roomyLines = 24;       // window height; lower windows save space
-constexpr int mostLines = 58;        // maximum height to which the window grows for a page
-constexpr int spareLines = 4;        // of the screen that remain free then
+constexpr int textShare = 6;           // of the window's height, for the texts of the message bar
+constexpr QSize initialSize(720, 600); // of the window if the screen has room
+constexpr int initialLines = 34;       // minimum height in that case
+constexpr int titleLines = 3;          // height of a title bar
+constexpr int roomyLines = 24;         // window height; lower windows save space
+constexpr int mostLines = 58;          // maximum height to which the window grows for a page
+constexpr int spareLines = 4;          // of the screen that remain free then
 
 // The space that a window may fill: `given`, or the available space of its screen without the frame around
 // the window. Until the size of the frame is known, there is space for a title bar.
@@ -76,7 +76,7 @@ void WindowLayout::build()
     column->addLayout(m_barRow);
     column->addLayout(m_footer);
     setCompact(false);
-    m_window->resize(usualSize.width(), usualHeight());
+    m_window->resize(initialSize.width(), initialHeight());
 }
 
 void WindowLayout::addGuide(QWidget *guide)
@@ -134,12 +134,12 @@ QSize WindowLayout::wantedSize(const QSize &room, bool mayGrow) const
     const QSize page = m_parts.book->wantedSize();
     const int high = page.height() + others;
     const int most = qMin(mostLines, room.height() / line - spareLines) * line;
-    return {page.width(), mayGrow ? qMax(usualHeight(), qMin(high, most)) : 0};
+    return {page.width(), mayGrow ? qMax(initialHeight(), qMin(high, most)) : 0};
 }
 
-int WindowLayout::usualHeight() const
+int WindowLayout::initialHeight() const
 {
-    return qMax(usualSize.height(), usualLines * m_window->fontMetrics().height());
+    return qMax(initialSize.height(), initialLines * m_window->fontMetrics().height());
 }
 
 void WindowLayout::adapt()

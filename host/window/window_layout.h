@@ -55,7 +55,7 @@ private:
     void build();
     void setCompact(bool compact);
     QSize wantedSize(const QSize &room, bool mayGrow) const;
-    int usualHeight() const;
+    int initialHeight() const;
 
     QWidget *m_window;
     Parts m_parts;

@@ -56,7 +56,7 @@ void Finder::buildBar()
     m_bar = new SearchBar(m_book->window(), [this](const QString &query) { return search(query); });
     auto *column = static_cast<QVBoxLayout *>(m_book->window()->layout());
     column->insertWidget(column->indexOf(m_book), m_bar);
-    connect(m_bar, &SearchBar::picked, this, [this](int index) { lead(m_found.at(index)); });
+    connect(m_bar, &SearchBar::picked, this, [this](int index) { showSetting(m_found.at(index)); });
     connect(m_bar, &SearchBar::opened, this, &Finder::partsChanged);
     connect(m_bar, &SearchBar::closed, this, &Finder::partsChanged);
 }
@@ -109,7 +109,7 @@ QString Finder::line(const FoundSetting &setting) const
     return parts.join(mark + QStringLiteral("  \u203a  ") + mark);
 }
 
-void Finder::lead(const FoundSetting &setting)
+void Finder::showSetting(const FoundSetting &setting)
 {
     const int row = m_book->pageNamed(setting.page);
     m_book->showPage(row);

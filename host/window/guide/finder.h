@@ -30,7 +30,7 @@ public:
     QList<QWidget *> parts() const;
     // Opens the page of a setting, scrolls to its control, gives it the focus and highlights it briefly. If
     // the control does not exist yet, waits until it does.
-    void lead(const FoundSetting &setting);
+    void showSetting(const FoundSetting &setting);
 
 Q_SIGNALS:
     // The result of parts() has changed.

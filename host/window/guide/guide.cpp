@@ -45,7 +45,7 @@ void Guide::setActive(bool active)
     showButtons();
 }
 
-void Guide::makeWay(bool away)
+void Guide::setButtonsHidden(bool away)
 {
     m_isAway = away;
     showButtons();

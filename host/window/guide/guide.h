@@ -33,7 +33,7 @@ public:
     // Shows the buttons while settings can be changed.
     void setActive(bool active);
     // Hides the buttons while another widget needs their place.
-    void makeWay(bool away);
+    void setButtonsHidden(bool away);
 
 Q_SIGNALS:
     // Different widgets are shown.

@@ -20,8 +20,8 @@ using Purpose = ConflictQuestion::Purpose;
 
 } // namespace
 
-SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp)
-    : m_messages(messages), m_settingsOnly(settingsOnly), m_isHeldUp(std::move(isHeldUp))
+SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred)
+    : m_messages(messages), m_settingsOnly(settingsOnly), m_isDeferred(std::move(isDeferred))
 {
 }
 
@@ -196,7 +196,7 @@ void SessionMessages::checkLater()
 
 void SessionMessages::recheck()
 {
-    m_isCheckDue = m_isHeldUp(); // a panel that is being restored must not be saved
+    m_isCheckDue = m_isDeferred(); // a panel that is being restored must not be saved
     if (m_isCheckDue || !isAsking())
         return;
     m_session->save();

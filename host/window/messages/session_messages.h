@@ -25,9 +25,9 @@ class SessionMessages : public QObject
 {
     Q_OBJECT
 public:
-    // `settingsOnly` is set if an application prints. While `isHeldUp` returns true, for example while a
+    // `settingsOnly` is set if an application prints. While `isDeferred` returns true, for example while a
     // panel waits, no panel is saved for a question.
-    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isHeldUp);
+    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred);
 
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
@@ -45,7 +45,7 @@ public:
     // Sets what is loaded in the printer. Paper that is chosen but not loaded causes a message, which is not
     // repeated after the user has closed it, and does not prevent printing.
     void setLoaded(const QList<LoadedTray> &trays);
-    // Performs the check that was due while `isHeldUp` returned true.
+    // Performs the check that was due while `isDeferred` returned true.
     void resumeCheck();
 
 public Q_SLOTS:
@@ -72,7 +72,7 @@ private:
 
     MessageQueue *m_messages;
     bool m_settingsOnly;
-    std::function<bool()> m_isHeldUp;
+    std::function<bool()> m_isDeferred;
     DialogSession *m_session = nullptr;
     SessionHistory *m_history = nullptr;
     // The purpose of the open question about conflicts: it offers printing until there are no conflicts.

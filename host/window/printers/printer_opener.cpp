@@ -32,8 +32,8 @@ PrinterOpening openAny(PrintSystem &system, const PrinterWish &wish)
 
 } // namespace
 
-PrinterOpener::PrinterOpener(PrintSystem &system, std::function<bool()> isHeldUp, QObject *parent)
-    : QObject(parent), m_system(system), m_isHeldUp(std::move(isHeldUp))
+PrinterOpener::PrinterOpener(PrintSystem &system, std::function<bool()> isDeferred, QObject *parent)
+    : QObject(parent), m_system(system), m_isDeferred(std::move(isDeferred))
 {
     m_pickTimer.setSingleShot(true);
     m_pickTimer.setInterval(betweenPicks);
@@ -81,7 +81,7 @@ void PrinterOpener::deliverNear()
 void PrinterOpener::receive(PrinterOpening opening, const Receiver &receiver)
 {
     m_openingTimer.stop();
-    if (!m_isHeldUp()) {
+    if (!m_isDeferred()) {
         receiver(std::move(opening));
         return;
     }
@@ -119,7 +119,7 @@ void PrinterOpener::tellDelay()
 {
     if (!m_opening.isPending())
         return;
-    if (m_isHeldUp())
+    if (m_isDeferred())
         m_openingTimer.start(nearServer);
     else
         Q_EMIT delayed();

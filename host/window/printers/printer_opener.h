@@ -22,9 +22,9 @@ class PrinterOpener : public QObject
 public:
     using Receiver = std::function<void(PrinterOpening)>;
 
-    // While `isHeldUp` returns true, for example while a panel waits, neither results nor delays are
+    // While `isDeferred` returns true, for example while a panel waits, neither results nor delays are
     // reported.
-    PrinterOpener(PrintSystem &system, std::function<bool()> isHeldUp, QObject *parent);
+    PrinterOpener(PrintSystem &system, std::function<bool()> isDeferred, QObject *parent);
 
     // Calls the receiver with the result, unless it is dropped.
     void open(const PrinterWish &wish, Receiver receiver);
@@ -57,7 +57,7 @@ private:
     void tellDelay();
 
     PrintSystem &m_system;
-    std::function<bool()> m_isHeldUp;
+    std::function<bool()> m_isDeferred;
     QString m_picked;                 // to be opened when the user stops stepping through printers
     std::function<void()> m_whenIdle; // delivers the result that is held up
     platform::Awaited<PrinterOpening> m_opening;

@@ -40,7 +40,7 @@ void PrinterStatusPoller::setChosen(const Destination &printer)
         askDevice();
 }
 
-void PrinterStatusPoller::forgetChosen()
+void PrinterStatusPoller::clearChosen()
 {
     m_stateQuestion.drop();
     m_deviceQuestion.drop();

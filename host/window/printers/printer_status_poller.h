@@ -32,7 +32,7 @@ public:
     // file, and is not polled.
     void setChosen(const Destination &printer);
     // No printer is selected; pending responses about the previous one are discarded.
-    void forgetChosen();
+    void clearChosen();
     // Starts polling the state of the selected printer, every five seconds, or stops it.
     void follow(bool follows);
 

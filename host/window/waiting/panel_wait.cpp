@@ -92,7 +92,7 @@ void PanelWait::showActivity()
     Q_EMIT signShown(!m_activity.isNull());
 }
 
-void PanelWait::promise(const QString &what, std::function<void()> then)
+void PanelWait::runAfterwards(const QString &what, std::function<void()> then)
 {
     if (!std::exchange(m_then, std::move(then)))
         m_sign->addNote(what);

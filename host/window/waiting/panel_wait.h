@@ -39,7 +39,7 @@ public:
     void setActivity(const QString &what);
     // While a panel waits: shows `what` in the sign, and calls `then` when the panel has returned. Escape
     // revokes this; "Do Not Wait" does not.
-    void promise(const QString &what, std::function<void()> then);
+    void runAfterwards(const QString &what, std::function<void()> then);
     bool isUnderWay() const { return m_depth > 0; }
     // The user has closed the dialog: all waits end, and the dialog is not shown again.
     void dismiss() { m_isDismissed = true; }
