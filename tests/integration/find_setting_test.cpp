@@ -207,6 +207,8 @@ void FindSettingTest::leadsToTheSetting_data()
     QTest::newRow("a view that is not open")
         << u"reload from printer"_s << u"Color Settings 1 › Reload from Printer"_s << one
         << u"Reload from Printer"_s;
+    QTest::newRow("cover sheet") << u"cover"_s << u"Job › Cover sheets"_s << u"job"_s
+                                 << u"Cover sheet before"_s;
     QTest::newRow("list") << u"documents"_s << u"General › Documents to print"_s << u"general"_s
                           << u"Documents to print"_s;
     QTest::newRow("other options") << u"punch"_s << u"More Options › Hole Punch"_s << u"more"_s

@@ -127,14 +127,16 @@ void Finder::seek()
     if (!m_sought || !page || m_book->nameOf(m_book->currentRow()) != m_sought->page)
         return;
     QWidget *control = findControl(page, m_sought->keyword, m_sought->option);
-    if (!control)
-        return;
-    m_sought.reset();
-    m_book->openViewOf(control);
-    control->show(); // a new row is hidden until it is laid out
-    QWidget *const wanted = control->isEnabled() ? control : m_book->list();
+    if (control) {
+        m_sought.reset();
+        m_book->openViewOf(control);
+        control->show(); // a new row is hidden until it is laid out
+    }
+    QWidget *const wanted = control && control->isEnabled() ? control : m_book->list();
     wanted->setFocus(Qt::OtherFocusReason);
     m_bar->close();
+    if (!control)
+        return; // perhaps found when the page has grown
     QTimer::singleShot(0, control, [page, control] {
         page->reveal(control);
         flash(control);

@@ -97,6 +97,7 @@ void SearchBar::close()
 void SearchBar::search()
 {
     const QStringList found = m_search(m_field->text());
+    m_isPicked = false;
     m_results->clear();
     for (const QString &line : found) {
         auto *item = new QListWidgetItem(oneLine(line), m_results);
@@ -125,7 +126,7 @@ void SearchBar::showCount(int count)
 // Places the list below the field, with the same width, as high as needed, but within the window.
 void SearchBar::placeResults()
 {
-    if (m_results->isHidden())
+    if (m_results->isHidden() || m_isPicked)
         return;
     const QPoint corner = m_field->mapTo(window(), QPoint(0, m_field->height() + 2));
     const int rows = qMin(mostRows, m_results->count());
@@ -139,6 +140,7 @@ void SearchBar::pick(int index)
 {
     if (index < 0 || index >= m_results->count())
         return;
+    m_isPicked = true;
     m_results->resize(0, 0); // not hidden, since it may have the focus
     Q_EMIT picked(index);
 }
@@ -155,7 +157,7 @@ bool SearchBar::handleKey(QObject *watched, int key)
         pick(m_results->currentRow());
         return true;
     case Qt::Key_Down:
-        if (inList || m_results->isHidden())
+        if (inList || m_results->isHidden() || m_isPicked)
             return false;
         m_results->setFocus(Qt::OtherFocusReason);
         return true;

@@ -61,6 +61,7 @@ private:
     QListWidget *m_results; // a child of the window, above its other parts
     QLabel *m_count;        // number of results, shown in the bar
     QPointer<QWidget> m_before;
+    bool m_isPicked = false; // a result is picked, and the bar is about to be closed
 };
 
 } // namespace host

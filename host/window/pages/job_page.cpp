@@ -52,6 +52,7 @@ platform::ChoiceBox *JobPage::addBox(const QString &name, const QString &label, 
                                      QGridLayout *grid)
 {
     auto *box = new platform::ChoiceBox(this);
+    box->setObjectName(name);
     for (const QString &value : values)
         box->addItem(value == atATime ? tr("At a time of day") : oneLine(jobValueText(name, value)), value);
     addField(grid, name, label, box);

@@ -145,6 +145,8 @@ QWidget *findControl(const QWidget *page, const QString &keyword, const QString 
         if (!named && searchable(found.name) == wanted)
             named = found.control;
     }
+    if (!named && !keyword.isEmpty())
+        named = page->findChild<QWidget *>(keyword);
     return named;
 }
 
