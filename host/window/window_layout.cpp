@@ -32,12 +32,14 @@ constexpr int mostLines = 58;          // maximum height to which the window gro
 constexpr int spareLines = 4;          // of the screen that remain free then
 
 // The space that a window may fill: `given`, or the available space of its screen without the frame around
-// the window. Until the size of the frame is known, there is space for a title bar.
+// the window. Until the window is exposed, its frame may be unknown; then there is space for a title bar.
 QSize freeRoom(const QWidget *window, const QSize &given)
 {
-    const QMargins frame = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    const QWindow *handle = window->windowHandle();
+    const QMargins frame = handle ? handle->frameMargins() : QMargins();
     const QSize room = given.isValid() ? given : window->screen()->availableSize().shrunkBy(frame);
-    return frame.isNull() ? room - QSize(0, titleLines * window->fontMetrics().height()) : room;
+    const bool isFrameKnown = !frame.isNull() || (handle && handle->isExposed());
+    return isFrameKnown ? room : room - QSize(0, titleLines * window->fontMetrics().height());
 }
 
 // The parts in the order in which they get access keys.
