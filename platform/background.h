@@ -47,9 +47,9 @@ public:
     };
 };
 
-// Runs blocking work, such as name look-ups and requests to the print server or a device. All threads are
-// created here. Abandoned work continues in the background, so work must own all data that it uses, by value
-// or by shared pointer.
+// Runs blocking work, such as name look-ups and requests to the print server or a device. All worker threads
+// are created here, except that of confined processes. Abandoned work continues in the background, so work
+// must own all data that it uses, by value or by shared pointer.
 class KELMAR_PLATFORM_EXPORT Background
 {
 public:

@@ -40,7 +40,11 @@ private:
     {
         m_owner.moveToThread(&m_thread);
         QObject::connect(
-            &m_thread, &QThread::finished, &m_owner, [this] { qDeleteAll(m_owner.children()); },
+            &m_thread, &QThread::finished, &m_owner,
+            [this] {
+                const QObjectList left = m_owner.children(); // each deletion changes the list of the owner
+                qDeleteAll(left);
+            },
             Qt::DirectConnection);
         m_thread.start();
         qAddPostRoutine([] {
