@@ -23,9 +23,8 @@ MODULES = {
     "panels": {"panels", "panelkit", "plugin", "ppd", "device", "platform"},
     "host": {"host", "constraints", "platform"},
 }
-# The same between the folders of the host; files in host/ itself may include from all of them. The folders of the window
-# are listed below; its own files may include from all of these.
-BELOW_WINDOW = {"session", "policy", "extensions", "preview", "printing"}
+# The same between the folders of the host; files in host/ itself may include from all of them. Files in host/window/
+# itself may include from all folders of the window.
 HOST_FOLDERS = {
     "printing": {"printing"},
     "extensions": {"extensions"},
@@ -39,14 +38,14 @@ HOST_FOLDERS = {
     "window/look": {"window/look"},
     "window/waiting": {"window/waiting", "window/look", "printing"},
     "window/preview": {"window/preview", "window/look", "preview", "session", "printing"},
-    "window/pages": {"window/pages", "window/preview", "window/look"} | BELOW_WINDOW,
+    "window/pages": {"window/pages", "window/preview", "window/look", "preview", "session", "policy", "printing"},
     "window/printers": {"window/printers", "window/look", "printing"},
     "window/jobs": {"window/jobs", "window/waiting", "window/look", "preview", "session", "printing"},
-    "window/messages": {"window/messages", "window/look", "session", "policy", "extensions", "printing"},
+    "window/messages": {"window/messages", "window/look", "session", "policy", "printing"},
     "window/presets": {"window/presets", "window/look", "session", "printing"},
     "window/guide": {"window/guide", "window/pages", "window/look", "session", "printing"},
 }
-HOST_FOLDERS["window"] = {module for module in HOST_FOLDERS if module.startswith("window/")} | BELOW_WINDOW | {"window"}
+HOST_FOLDERS["window"] = {module for module in HOST_FOLDERS if module.startswith("window/")} | {"window", "session", "extensions", "printing"}
 WITHOUT_WIDGETS = ("ppd/", "device/", "host/printing/", "host/extensions/", "host/policy/", "host/session/",
                    "host/preview/", "host/batch/", "host/service/", "host/backend/")
 OURS = MODULES.keys() | {"tests", "simulator", "bench"}
@@ -80,6 +79,15 @@ EXAMPLES = [  # file, header, whether the include is allowed
     ("host/printing/job.cpp", "host/session/dialog_session.h", False),
     ("host/batch/batch_run.cpp", "host/window/print_window.h", False),
     ("host/window_run.cpp", "host/batch/batch_run.h", True),
+    ("host/window/print_window.cpp", "host/window_run.h", False),
+    ("host/portal/portal_run.cpp", "host/window_run.h", False),
+    ("host/main.cpp", "host/window_run.h", True),
+    ("host/window/print_window.cpp", "host/preview/preview.h", False),
+    ("host/window/pages/page_book.cpp", "host/window/preview/preview_pane.h", True),
+    ("host/window/preview/preview_pane.cpp", "host/window/pages/page_book.h", False),
+    ("host/window/print_window.cpp", "./print_window.h", False),
+    ("host/window/print_window.cpp", "print_task.h", False),
+    ("host/window/pages/page_book.cpp", "../print_task.h", False),
     ("host/portal/portal_run.cpp", "host/service/portal_settings.h", True),
     ("host/service/print_portal.cpp", "host/printing/job.h", False),
     ("host/service/main.cpp", "QApplication", False),
@@ -119,8 +127,12 @@ def violation(file, header, widget_headers):
     its_window_ends_text_editing = module == "device" and header == "QWidget"
     if is_widget and file.startswith(WITHOUT_WIDGETS) and not its_window_ends_text_editing:
         return "there are no widgets here"
+    if header.startswith(".") or (ROOT / file).parent.joinpath(header).is_file():
+        return "paths of includes start at the source folder"
     if header_module in OURS and header_module not in MODULES[module]:
         return f"{module}/ must not include {header_module}/"
+    if header_module == "host" and not host_folder(header) and host_folder(file):
+        return f"host/{host_folder(file)}/ must not include files of host/ itself"
     if host_folder(header) and host_folder(file) and host_folder(header) not in HOST_FOLDERS[host_folder(file)]:
         return f"host/{host_folder(file)}/ must not include host/{host_folder(header)}/"
     if panel_of(header) not in (None, panel_of(file)):
