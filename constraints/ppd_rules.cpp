@@ -109,8 +109,8 @@ void PpdRules::setMarks(Option option, std::span<const Mark> marks)
     m_state.touch(option);
 }
 
-// Whatever is chosen for the options that these lines name, no other line can be violated: each has a term of
-// another option that does not hold.
+// Starts with the violated lines, and adds each line that changes to options of these lines can violate.
+// Every line that is left out has a term of another option that does not hold, so no such change violates it.
 std::vector<bool> PpdRules::linesNearConflicts() const
 {
     std::vector<bool> isNamed(m_engine.optionCount()), isNear(m_engine.lineCount());

@@ -72,8 +72,8 @@ void QVPopUpButton_M880::ppdValueHasChanged(const platform::Notification &notifi
             decide(index);
         return;
     }
-    // A choice of this option may conflict with other choices of the same option; that applies from the next
-    // change on.
+    // Choices of this option may conflict with each other. A change of the option itself does not update the
+    // items at once, but with the next change of another option.
     for (CurrentChoice &other : m_others) {
         if (other.option == notification.name || other.option == m_optionName)
             follow(&other);

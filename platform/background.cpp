@@ -72,7 +72,7 @@ struct CallState
     std::exception_ptr thrown; // written before `ended`
 };
 
-// The same for a caller that waits only for a limited time.
+// State shared by a call with a time limit and its work. Outlives a caller that returns at the limit.
 struct LimitedCall
 {
     std::mutex mutex;

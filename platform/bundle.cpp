@@ -55,7 +55,7 @@ bool isSecret(const QJsonValue &value)
            usedWith.begin().value().isString();
 }
 
-// The same for optional keys.
+// The problem in the optional keys of an Info.json; empty if there is none.
 QString problemOfOptionalKeys(const QJsonObject &info)
 {
     const QJsonValue models = info.value(Bundle::printerModelsKey);

@@ -215,7 +215,7 @@ void TextField::replaceByUser(const QString &wanted, int cursor)
 void TextField::userEdited()
 {
     m_editing = true;
-    m_rejected.reset(); // the field has accepted the text after all, as it may after an unacceptable one
+    m_rejected.reset(); // an accepted edit makes earlier rejected input obsolete
     if (m_delegate)
         m_delegate->controlTextDidChange(this, {{NSFieldEditor, QVariant::fromValue<QObject *>(this)}});
 }

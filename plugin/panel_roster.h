@@ -46,7 +46,8 @@ public:
     static const PanelClass *classNamed(const QString &className);
 };
 
-// named in the compiler's error for a name that is not in PanelRoster::names
+// Not defined. RosterName calls it for a name that is not in PanelRoster::names: such a call is no constant
+// expression, and the compiler's error message contains the name of this function.
 void theRosterHasNoPanelOfThatName();
 
 // A name of the roster; other names do not compile.

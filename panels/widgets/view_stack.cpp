@@ -23,8 +23,8 @@ QList<QWidget *> QVViewStack_M880::views() const
     return findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-// Views with wrapped lines are higher the narrower they are; without a width they request the height of a
-// narrow view.
+// The height of a view with wrapped text depends on its width. Its size hints assume a narrow view, which is
+// higher than necessary, so the height is computed for the width of the stack.
 int QVViewStack_M880::heightFor(const QWidget &view, const QSize &hint) const
 {
     return view.hasHeightForWidth() ? view.heightForWidth(qMax(width(), hint.width())) : hint.height();
