@@ -226,10 +226,10 @@ leads_to("resolution-redone", lambda d: d.keys("ctrl+shift+z"), "Long-Edge Bindi
 def preview(d):
     before = d.says("Page 1 of 2")
     expect("no front side in “%s”" % before, "Sheet 1, front" in before)
-    d.click(d.get("button", "Page after"))
+    d.click(d.get("button", "Next page"))
     after = d.says("Page 2 of 2")
     expect("no back side in “%s”" % after, "Sheet 1, back" in after)
-    return "The preview shows %s; “Page after”: %s" % (before, after)
+    return "The preview shows %s; “Next page”: %s" % (before, after)
 
 
 @step("left-out")
@@ -265,7 +265,7 @@ def drawn(d, color):
 
 @step("binding-edge")
 def binding_edge(d):
-    d.click(d.get("button", "Page before"))
+    d.click(d.get("button", "Previous page"))
     side = d.says("Sheet 1, front")
     wait("the binding edge in the preview", lambda: drawn(d, HIGHLIGHT) > 100)
     return "%s is %s: the preview of the front marks the binding edge (%s)" % (SIDES[:-1], d.box(SIDES).name, side)
@@ -298,8 +298,8 @@ def finish_undone(d):
     d.keys("ctrl+z", "ctrl+z")
     shows(d, STAPLE, "Off")
     shows(d, PUNCH, "Off")
-    d.click(d.get("button", "Page after"))
-    return "Ctrl+Z twice: neither. “Page after”: %s" % d.says("Sheet 1, back")
+    d.click(d.get("button", "Next page"))
+    return "Ctrl+Z twice: neither. “Next page”: %s" % d.says("Sheet 1, back")
 
 
 @step("scaled")
@@ -340,7 +340,7 @@ def booklet(d):
     is_on(d, "Booklet", True)
     shows(d, SIDES, "Short-Edge Binding")
     d.says("Page 2 of 4")
-    d.click(d.get("button", "Page before"))
+    d.click(d.get("button", "Previous page"))
     return "Ctrl+F, “Booklet”, Space: %s is %s. Preview: %s. %s" % (
         SIDES[:-1], d.box(SIDES).name, d.says("Sheet 1, front"), d.says("2 sheets, 4 sides, color"))
 

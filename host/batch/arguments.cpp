@@ -121,7 +121,7 @@ bool addAssignment(const QString &name, const QString &word, Arguments *argument
     const bool passOn = name == QLatin1String("o");
     if (equals < 1 && !(passOn && equals < 0 && !word.isEmpty())) {
         *error = passOn ? ArgumentsText::tr("-o takes NAME=VALUE or NAME.")
-                        : ArgumentsText::tr("--%1 takes %2; there is no “=” behind a key.")
+                        : ArgumentsText::tr("--%1 takes %2; there is no “=” after the key.")
                               .arg(name.size() == 1 ? QStringLiteral("set") : name,
                                    name == QLatin1String("set-file") ? ArgumentsText::tr("KEY=FILE")
                                                                      : ArgumentsText::tr("KEY=VALUE"));
@@ -171,19 +171,20 @@ QString problemOf(const Arguments &arguments)
     const bool readsDocument =
         arguments.files.contains(QLatin1String("-")) || (arguments.batch && arguments.files.isEmpty());
     if (arguments.takesValueFromInput() && readsDocument)
-        return ArgumentsText::tr("The standard input cannot be a value and a document at once.");
+        return ArgumentsText::tr("The standard input cannot be both a value and a document.");
     if (arguments.batch && !arguments.screenshot.isEmpty())
-        return ArgumentsText::tr("--batch and --screenshot do not go together.");
+        return ArgumentsText::tr("--batch and --screenshot cannot be used together.");
     if (arguments.allowNoPassword && !arguments.batch)
-        return ArgumentsText::tr("--allow-no-password goes with --batch.");
+        return ArgumentsText::tr("--allow-no-password requires --batch.");
     if (!arguments.output.isEmpty() && !arguments.batch)
-        return ArgumentsText::tr("--output goes with --batch.");
+        return ArgumentsText::tr("--output requires --batch.");
     if (arguments.asksForPresets() && arguments.printer.isEmpty() && !arguments.ppdFile.isEmpty())
         return ArgumentsText::tr("Presets belong to a printer; --ppd alone names none.");
     if (arguments.resolve && arguments.needsWindow())
-        return ArgumentsText::tr("--resolve goes with --batch, --summary or --save-preset.");
+        return ArgumentsText::tr("--resolve requires --batch, --summary or --save-preset.");
     if (arguments.json && arguments.needsWindow())
-        return ArgumentsText::tr("--json goes with --batch, --summary, --list-options or a preset.");
+        return ArgumentsText::tr(
+            "--json requires --batch, --summary, --list-options or an option for presets.");
     return {};
 }
 
@@ -197,9 +198,8 @@ QString parseProblem(const QCommandLineParser &parser)
     const bool isWord =
         std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetter() || c == u'-'; });
     if (!isWord)
-        return ArgumentsText::tr(
-            "There is an option on the command line that this program does not have; --help lists them.");
-    return ArgumentsText::tr("There is no option “%1”; --help lists them.")
+        return ArgumentsText::tr("Unknown option on the command line; --help lists the options.");
+    return ArgumentsText::tr("Unknown option “%1”; --help lists the options.")
         .arg((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
 }
 

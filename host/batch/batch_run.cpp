@@ -71,7 +71,7 @@ bool applyAssignments(const Arguments &arguments, DialogSession *session, PrintE
         if (choose(session, setting, error))
             continue;
         if (!assignment.passOn && !hasSetting(*session, setting.key))
-            error->message += QLatin1Char(' ') + BatchText::tr("--list-options lists what there is.");
+            error->message += QLatin1Char(' ') + BatchText::tr("--list-options lists the settings.");
         return false;
     }
     const QString use = choiceWithIncompleteCode(arguments, *session);
@@ -220,7 +220,7 @@ bool BatchRun::savePreset(const QString &name, PrintError *error)
     m_result.savedPreset = name;
     if (hasSecrets(*m_session))
         m_session->addNotice(
-            BatchText::tr("Passwords and codes are not kept in the preset; they are to be given each time."));
+            BatchText::tr("Passwords and codes are not saved in the preset; enter them each time."));
     return true;
 }
 
@@ -264,8 +264,7 @@ ExitCode BatchRun::settleConflicts()
     m_result.proposal = m_session->proposal(&givenUp);
     if (!givenUp.isNull())
         m_session->addNotice(
-            BatchText::tr("No way out was found that keeps “%1”: change one of the settings yourself.")
-                .arg(givenUp));
+            BatchText::tr("No resolution keeps “%1”; change one of the settings.").arg(givenUp));
     return ExitConflict;
 }
 

@@ -203,7 +203,7 @@ void ResultWriter::writeText(const BatchResult &result)
     for (const QString &notice : result.notices)
         printError(notice);
     for (const OptionChoice &change : result.resolved)
-        printError(ResultText::tr("Changed to end a conflict: %1").arg(change.text()));
+        printError(ResultText::tr("Changed to resolve a conflict: %1").arg(change.text()));
     if (!m_hasBegun)
         writeSettings(result);
     if (result.submission && result.submission->isAccepted())

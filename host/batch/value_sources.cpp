@@ -51,7 +51,7 @@ std::optional<QString> readLine(int descriptor, const QString &key, QString *err
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8(line);
     if (utf8.hasError() || line.contains('\0')) {
-        *error = unreadable(key, ValueSourceText::tr("it is no text"));
+        *error = unreadable(key, ValueSourceText::tr("it is not text"));
         return std::nullopt;
     }
     return text;

@@ -60,7 +60,7 @@ public:
         if (problem.error != QJsonParseError::NoError)
             failAt(qMax(0, problem.offset - 1), problem.errorString()); // the offset is one past the error
         else if (!document.isObject())
-            fail(PolicyText::tr("it is not one object in braces"));
+            fail(PolicyText::tr("it is not a JSON object"));
         else
             readPolicy(document.object());
         *error = m_problem;
@@ -140,7 +140,7 @@ private:
         for (const QJsonValue &rule : rules.toArray()) {
             ++m_rule;
             if (!rule.isObject())
-                fail(PolicyText::tr("“rules” takes objects in braces"));
+                fail(PolicyText::tr("“rules” takes JSON objects"));
             readRule(rule.toObject());
         }
     }

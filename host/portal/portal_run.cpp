@@ -180,7 +180,7 @@ int RequestRun::submit()
     if (!sent)
         tell(PortalText::tr("The document has not been printed on “%1”.").arg(job.printer), error.message);
     else if (!m_differences.isEmpty())
-        tell(PortalText::tr("The document was sent to “%1”, but not quite as asked for.").arg(job.printer),
+        tell(PortalText::tr("The document was sent to “%1”, but with different settings.").arg(job.printer),
              m_differences.join(QLatin1Char('\n')));
     m_signals.reset();
     return code;

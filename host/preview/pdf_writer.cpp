@@ -123,8 +123,8 @@ void PdfWriter::fail(const QString &reason)
 {
     const QString name = m_documents.isEmpty() ? QString() : m_documents.first().name;
     Q_EMIT ended({PrintError::Kind::Other,
-                  name.isEmpty() ? tr("The PDF file cannot be made: %1.").arg(reason)
-                                 : tr("“%1” cannot be made into a PDF file: %2.").arg(name, reason)});
+                  name.isEmpty() ? tr("The PDF file cannot be created: %1.").arg(reason)
+                                 : tr("“%1” cannot be converted to PDF: %2.").arg(name, reason)});
 }
 
 } // namespace host

@@ -96,9 +96,8 @@ int namelessFile(const QByteArray &folder)
 
 PrintError spoolProblem(const QString &reason)
 {
-    return {PrintError::Kind::Other,
-            DocumentText::tr("What is to be printed cannot be kept in the folder “%1”: %2.")
-                .arg(temporaryFolder(), reason)};
+    return {PrintError::Kind::Other, DocumentText::tr("The document cannot be stored in the folder “%1”: %2.")
+                                         .arg(temporaryFolder(), reason)};
 }
 
 // Waits until data or end of file can be read, or the deadline has passed; false if `stop` returns true.

@@ -110,13 +110,14 @@ QStringList differencesOf(const QList<JobOption> &options, ipp_t *kept)
         if (!found && option.kind == JobOption::Kind::Shown)
             continue;
         if (!sent || !found)
-            differences.append(AttributesText::tr("The print server did not take “%1”.").arg(option.name));
+            differences.append(AttributesText::tr("The print server did not accept “%1”.").arg(option.name));
         else if (meaning(name, sent)
                      .compare(meaning(name, found), option.kind == JobOption::Kind::Shown
                                                         ? Qt::CaseInsensitive
                                                         : Qt::CaseSensitive) != 0)
             differences.append(
-                AttributesText::tr("The print server took another value for “%1” than was sent.")
+                AttributesText::tr(
+                    "The print server uses a different value for “%1” than the one that was sent.")
                     .arg(option.name));
     }
     return differences;

@@ -146,7 +146,7 @@ std::optional<QByteArray> JobSubmitter::formatOf(const Document &document, Print
     const QString type = document.formatText.isEmpty() ? document.format : document.formatText;
     *error = {
         PrintError::Kind::UnsupportedFormat,
-        SubmitText::tr("“%1” cannot be printed: the printer “%2” does not take documents of the type %3.")
+        SubmitText::tr("“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.")
             .arg(document.name, m_request.destination.displayName(), type)};
     return std::nullopt;
 }
@@ -355,7 +355,7 @@ Submission JobSubmitter::accepted(JobOnServer found) const
     result.job.id = m_id;
     if (!found.attributes) {
         result.job.differences.append(
-            SubmitText::tr("The print server did not tell which settings it kept for the job."));
+            SubmitText::tr("The print server did not report the settings that it accepted."));
         return result;
     }
     result.job.differences = differencesOf(m_options, found.attributes.get());

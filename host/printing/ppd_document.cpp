@@ -150,8 +150,9 @@ std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, const QB
     const int fd = memfd_create("ppd", MFD_CLOEXEC);
     if (fd < 0 || !file.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle) ||
         file.write(content) != content.size() || !file.seek(0)) {
-        *error = {PrintError::Kind::Other, PpdDocumentText::tr("There is no memory for the PPD of “%1”: %2.")
-                                               .arg(queue, qt_error_string(errno))};
+        *error = {PrintError::Kind::Other,
+                  PpdDocumentText::tr("There is not enough memory for the PPD of “%1”: %2.")
+                      .arg(queue, qt_error_string(errno))};
         return nullptr;
     }
     const QString name = PpdDocumentText::tr("The PPD of “%1”").arg(queue);

@@ -135,7 +135,7 @@ QByteArray destinationName(const QString &queue, const QString &name)
     return fileNameToBytes(name.isEmpty() ? queue : queue + QLatin1Char('/') + name);
 }
 
-// Names of destinations are compared exactly.
+// Whether a line belongs to this destination. Ignores case, as libcups does.
 bool isOf(const Line &line, const QByteArray &destination)
 {
     return !line.keyword.isEmpty() && line.destination.compare(destination, Qt::CaseInsensitive) == 0;
@@ -179,8 +179,8 @@ std::optional<QMap<QString, QString>> readBack(const QByteArray &line)
 PrintError unwritable(const QString &option)
 {
     return {PrintError::Kind::BadValue,
-            PresetText::tr("A preset cannot keep the value of “%1”: it holds a tab, a line break or another "
-                           "character that its file has no way to write.")
+            PresetText::tr("A preset cannot store the value of “%1”: it contains a tab, a line break or "
+                           "another character that cannot be written to the preset file.")
                 .arg(option)};
 }
 
@@ -258,7 +258,7 @@ std::optional<QByteArray> withPreset(const QByteArray &content, const QString &q
     QByteArray line = keyword + ' ' + destination + *options;
     if (readBack(line) != preset.options) {
         *error = {PrintError::Kind::BadValue,
-                  PresetText::tr("These are more settings than a preset can keep: its file takes %1 bytes.")
+                  PresetText::tr("A preset cannot store this many settings; the limit is %1 bytes.")
                       .arg(longestLine)};
         return std::nullopt;
     }

@@ -344,14 +344,14 @@ QString PresetStore::nameProblem(const QString &name)
         return StoreText::tr("The name is too long.");
     if (is([](QChar c) { return c.isSpace(); })) {
         QString other = name.simplified();
-        return StoreText::tr("The name of a preset can hold no space; “%1” would do.")
+        return StoreText::tr("The name of a preset cannot contain spaces; use for example “%1”.")
             .arg(other.replace(QLatin1Char(' '), QLatin1Char('-')));
     }
     if (is([](QChar c) { return c.category() == QChar::Other_Control || !c.isPrint(); }) &&
         !is([](QChar c) { return c.isSurrogate(); }))
-        return StoreText::tr("The name of a preset can hold no control characters.");
+        return StoreText::tr("The name of a preset cannot contain control characters.");
     if (is([](QChar c) { return QStringLiteral("/\\#\"'=").contains(c); }))
-        return StoreText::tr("The name of a preset can hold none of these: / \\ # \" ' =");
+        return StoreText::tr("The name of a preset cannot contain any of these characters: / \\ # \" ' =");
     return {};
 }
 

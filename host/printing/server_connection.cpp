@@ -62,9 +62,9 @@ PrintError refusedLogin(const QString &printer)
 {
     return {PrintError::Kind::NotAuthorised,
             printer.isEmpty()
-                ? ServerText::tr("The print server %1 wants a user name and a password.")
+                ? ServerText::tr("The print server %1 requires a user name and a password.")
                       .arg(ServerConnection::serverName())
-                : ServerText::tr("The printer “%1” wants a user name and a password.").arg(printer)};
+                : ServerText::tr("The printer “%1” requires a user name and a password.").arg(printer)};
 }
 
 } // namespace
@@ -112,18 +112,17 @@ PrintError Reply::error(const QString &printer) const
         if (wasSilent)
             return {Kind::ConnectionLost,
                     ServerText::tr("The print server %1 has stopped answering.").arg(server)};
-        return {
-            Kind::ConnectionLost,
-            wasGarbled
-                ? ServerText::tr("The print server %1 gave an answer that cannot be understood.").arg(server)
-                : ServerText::tr("The connection to the print server %1 broke off.").arg(server)};
+        return {Kind::ConnectionLost,
+                wasGarbled ? ServerText::tr("The print server %1 sent a response that cannot be interpreted.")
+                                 .arg(server)
+                           : ServerText::tr("The connection to the print server %1 was lost.").arg(server)};
     case Outcome::Stopped:
         return {Kind::Cancelled, ServerText::tr("Printing was canceled.")};
     case Outcome::Refused:
         if (httpStatus == HTTP_STATUS_UNAUTHORIZED || httpStatus == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED)
             return refusedLogin(printer);
         if (httpStatus == HTTP_STATUS_FORBIDDEN)
-            return {Kind::NotAuthorised, ServerText::tr("The print server %1 does not let you do this (%2).")
+            return {Kind::NotAuthorised, ServerText::tr("The print server %1 does not allow this (%2).")
                                              .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};
         return {Kind::Other, ServerText::tr("The print server %1 refused the request (%2).")
                                  .arg(server, QString::fromUtf8(::httpStatus(httpStatus)))};

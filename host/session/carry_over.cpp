@@ -52,7 +52,7 @@ void carryOver(const DialogSession &from, DialogSession *to)
         to->addNotice(CarryOverText::tr("This printer does not have “%1”: the job will not be protected.")
                           .arg(protections.join(separator)));
     if (!others.isEmpty())
-        to->addNotice(CarryOverText::tr("This printer does not take over: %1.").arg(others.join(separator)));
+        to->addNotice(CarryOverText::tr("Not available on this printer: %1.").arg(others.join(separator)));
 }
 
 } // namespace host

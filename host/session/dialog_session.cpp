@@ -49,8 +49,8 @@ QString unknownDefaults(const PpdDocument &ppd, const Destination &destination)
     }
     return unknown.isEmpty()
                ? QString()
-               : DialogSession::tr("Your defaults for this printer ask for choices that it does "
-                                   "not have: %1.")
+               : DialogSession::tr(
+                     "Your defaults for this printer contain choices that it does not have: %1.")
                      .arg(unknown.join(QStringLiteral(", ")));
 }
 

@@ -186,7 +186,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
             wanted.chosen.add(chosenFrom(*session, it.key(), it.value()));
     }
     if (!missed.isEmpty())
-        notices->append(PresetText::tr("This printer does not have what these settings ask for: %1.")
+        notices->append(PresetText::tr("This printer does not support these settings: %1.")
                             .arg(missed.join(QStringLiteral(", "))));
     return wanted;
 }

@@ -136,8 +136,8 @@
         <translation>--batch braucht einen Drucker; --ppd allein nennt keinen.</translation>
     </message>
     <message>
-        <source>--batch and --screenshot do not go together.</source>
-        <translation>--batch und --screenshot passen nicht zusammen.</translation>
+        <source>--batch and --screenshot cannot be used together.</source>
+        <translation>--batch und --screenshot können nicht zusammen verwendet werden.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -174,20 +174,20 @@ Druckt Dokumente, mit einem Dialog für die Einstellungen oder ohne.
         <translation>-o erwartet NAME=WERT oder NAME.</translation>
     </message>
     <message>
-        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <source>--%1 takes %2; there is no “=” after the key.</source>
         <translation>--%1 erwartet %2; nach einem Schlüssel fehlt „=“.</translation>
     </message>
     <message>
-        <source>The standard input cannot be a value and a document at once.</source>
+        <source>The standard input cannot be both a value and a document.</source>
         <translation>Die Standardeingabe kann nicht zugleich ein Wert und ein Dokument sein.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have; --help lists them.</source>
-        <translation>Die Befehlszeile enthält eine Option, die dieses Programm nicht kennt; --help nennt alle.</translation>
+        <source>Unknown option on the command line; --help lists the options.</source>
+        <translation>Unbekannte Option in der Befehlszeile; --help zeigt alle Optionen.</translation>
     </message>
     <message>
-        <source>There is no option “%1”; --help lists them.</source>
-        <translation>Es gibt keine Option „%1“; --help nennt alle.</translation>
+        <source>Unknown option “%1”; --help lists the options.</source>
+        <translation>Unbekannte Option „%1“; --help zeigt alle Optionen.</translation>
     </message>
     <message>
         <source>
@@ -216,54 +216,54 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Eine Voreinstellung des Druckers löschen.</translation>
     </message>
     <message>
-        <source>--output goes with --batch.</source>
-        <translation>--output gehört zu --batch.</translation>
+        <source>--output requires --batch.</source>
+        <translation>--output erfordert --batch.</translation>
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
         <translation>Voreinstellungen gehören zu einem Drucker; --ppd allein nennt keinen.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch, --summary or --save-preset.</source>
-        <translation>--resolve gehört zu --batch, --summary oder --save-preset.</translation>
+        <source>--resolve requires --batch, --summary or --save-preset.</source>
+        <translation>--resolve erfordert --batch, --summary oder --save-preset.</translation>
     </message>
     <message>
-        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json gehört zu --batch, --summary, --list-options oder einer Voreinstellung.</translation>
+        <source>--json requires --batch, --summary, --list-options or an option for presets.</source>
+        <translation>--json erfordert --batch, --summary, --list-options oder eine Option für Voreinstellungen.</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
         <translation>Auch drucken, wenn ein Passwort oder ein Abteilungscode fehlt.</translation>
     </message>
     <message>
-        <source>--allow-no-password goes with --batch.</source>
-        <translation>--allow-no-password gehört zu --batch.</translation>
+        <source>--allow-no-password requires --batch.</source>
+        <translation>--allow-no-password erfordert --batch.</translation>
     </message>
 </context>
 <context>
     <name>AttributesText</name>
     <message>
-        <source>The print server did not take “%1”.</source>
+        <source>The print server did not accept “%1”.</source>
         <translation>Der Druckserver hat „%1“ nicht übernommen.</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Der Druckserver hat für „%1“ einen anderen Wert übernommen als gesendet.</translation>
+        <source>The print server uses a different value for “%1” than the one that was sent.</source>
+        <translation>Der Druckserver verwendet für „%1“ einen anderen Wert als den gesendeten.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>--list-options lists what there is.</source>
-        <translation>--list-options zeigt, was es gibt.</translation>
+        <source>--list-options lists the settings.</source>
+        <translation>--list-options zeigt alle Einstellungen.</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Keine Lösung behält „%1“ bei; ändern Sie eine der Einstellungen.</translation>
     </message>
     <message>
-        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Passwörter und Codes werden in der Voreinstellung nicht gespeichert; sie sind jedes Mal anzugeben.</translation>
+        <source>Passwords and codes are not saved in the preset; enter them each time.</source>
+        <translation>Passwörter und Codes werden nicht in der Voreinstellung gespeichert; geben Sie sie jedes Mal an.</translation>
     </message>
     <message>
         <source>Only a part of the code for “%1” has been given.</source>
@@ -277,8 +277,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Dieser Drucker kennt „%1“ nicht: Der Auftrag wird nicht geschützt.</translation>
     </message>
     <message>
-        <source>This printer does not take over: %1.</source>
-        <translation>Von diesem Drucker nicht übernommen: %1.</translation>
+        <source>Not available on this printer: %1.</source>
+        <translation>Auf diesem Drucker nicht verfügbar: %1.</translation>
     </message>
 </context>
 <context>
@@ -327,8 +327,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>DocumentText</name>
     <message>
-        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>Die Druckdaten lassen sich nicht im Ordner „%1“ ablegen: %2.</translation>
+        <source>The document cannot be stored in the folder “%1”: %2.</source>
+        <translation>Das Dokument lässt sich nicht im Ordner „%1“ ablegen: %2.</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
@@ -985,8 +985,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Benutzername oder das Passwort wurde nicht angenommen.</translation>
     </message>
     <message>
-        <source>The print server %1 wants to know who prints.</source>
-        <translation>Der Druckserver %1 möchte wissen, wer druckt.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>Der Druckserver %1 verlangt einen Benutzernamen und ein Passwort.</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
@@ -1099,8 +1099,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>PolicyText</name>
     <message>
-        <source>it is not one object in braces</source>
-        <translation>es ist kein einzelnes Objekt in geschweiften Klammern</translation>
+        <source>it is not a JSON object</source>
+        <translation>es ist kein JSON-Objekt</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
@@ -1131,8 +1131,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>„rules“ erwartet eine Liste</translation>
     </message>
     <message>
-        <source>“rules” takes objects in braces</source>
-        <translation>„rules“ erwartet Objekte in geschweiften Klammern</translation>
+        <source>“rules” takes JSON objects</source>
+        <translation>„rules“ erwartet JSON-Objekte</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1196,8 +1196,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Das Dokument wurde nicht auf „%1“ gedruckt.</translation>
     </message>
     <message>
-        <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>Das Dokument wurde an „%1“ gesendet, aber nicht ganz wie gewünscht.</translation>
+        <source>The document was sent to “%1”, but with different settings.</source>
+        <translation>Das Dokument wurde an „%1“ gesendet, aber mit anderen Einstellungen.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -1330,8 +1330,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 ist zu groß: mehr als %2 MB.</translation>
     </message>
     <message>
-        <source>There is no memory for the PPD of “%1”: %2.</source>
-        <translation>Für die PPD von „%1“ steht kein Speicher zur Verfügung: %2.</translation>
+        <source>There is not enough memory for the PPD of “%1”: %2.</source>
+        <translation>Für die PPD von „%1“ reicht der Speicher nicht aus: %2.</translation>
     </message>
 </context>
 <context>
@@ -1460,16 +1460,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>PresetText</name>
     <message>
-        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <source>A preset cannot store the value of “%1”: it contains a tab, a line break or another character that cannot be written to the preset file.</source>
         <translation>Eine Voreinstellung kann den Wert von „%1“ nicht speichern: Er enthält einen Tabulator, einen Zeilenumbruch oder ein anderes Zeichen, das sich in ihrer Datei nicht schreiben lässt.</translation>
     </message>
     <message>
-        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Das sind mehr Einstellungen, als eine Voreinstellung speichern kann: Die Datei fasst %1 Byte.</translation>
+        <source>A preset cannot store this many settings; the limit is %1 bytes.</source>
+        <translation>So viele Einstellungen kann eine Voreinstellung nicht speichern; die Grenze liegt bei %1 Byte.</translation>
     </message>
     <message>
-        <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>Dieser Drucker kennt nicht, was diese Einstellungen verlangen: %1.</translation>
+        <source>This printer does not support these settings: %1.</source>
+        <translation>Dieser Drucker unterstützt diese Einstellungen nicht: %1.</translation>
     </message>
 </context>
 <context>
@@ -1559,7 +1559,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Diese Einstellungen passen nicht zusammen.</translation>
     </message>
     <message>
-        <source>Changed to end a conflict: %1</source>
+        <source>Changed to resolve a conflict: %1</source>
         <translation>Wegen eines Konflikts geändert: %1</translation>
     </message>
     <message>
@@ -1626,11 +1626,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>ServerText</name>
     <message>
-        <source>The print server %1 wants a user name and a password.</source>
+        <source>The print server %1 requires a user name and a password.</source>
         <translation>Der Druckserver %1 verlangt einen Benutzernamen und ein Passwort.</translation>
     </message>
     <message>
-        <source>The printer “%1” wants a user name and a password.</source>
+        <source>The printer “%1” requires a user name and a password.</source>
         <translation>Der Drucker „%1“ verlangt einen Benutzernamen und ein Passwort.</translation>
     </message>
     <message>
@@ -1638,11 +1638,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Druckserver %1 ist nicht erreichbar.</translation>
     </message>
     <message>
-        <source>The print server %1 gave an answer that cannot be understood.</source>
-        <translation>Die Antwort des Druckservers %1 ist nicht verständlich.</translation>
+        <source>The print server %1 sent a response that cannot be interpreted.</source>
+        <translation>Die Antwort des Druckservers %1 lässt sich nicht auswerten.</translation>
     </message>
     <message>
-        <source>The connection to the print server %1 broke off.</source>
+        <source>The connection to the print server %1 was lost.</source>
         <translation>Die Verbindung zum Druckserver %1 ist abgebrochen.</translation>
     </message>
     <message>
@@ -1650,7 +1650,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Das Drucken wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>The print server %1 does not let you do this (%2).</source>
+        <source>The print server %1 does not allow this (%2).</source>
         <translation>Der Druckserver %1 erlaubt Ihnen das nicht (%2).</translation>
     </message>
     <message>
@@ -1776,15 +1776,15 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Name ist zu lang.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>Der Name einer Voreinstellung darf kein Leerzeichen enthalten; möglich wäre „%1“.</translation>
+        <source>The name of a preset cannot contain spaces; use for example “%1”.</source>
+        <translation>Der Name einer Voreinstellung darf keine Leerzeichen enthalten; verwenden Sie zum Beispiel „%1“.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no control characters.</source>
+        <source>The name of a preset cannot contain control characters.</source>
         <translation>Der Name einer Voreinstellung darf keine Steuerzeichen enthalten.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <source>The name of a preset cannot contain any of these characters: / \ # &quot; &apos; =</source>
         <translation>Der Name einer Voreinstellung darf keines dieser Zeichen enthalten: / \ # &quot; &apos; =</translation>
     </message>
 </context>
@@ -1795,7 +1795,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Drucker „%1“ nimmt zurzeit keine Aufträge an.</translation>
     </message>
     <message>
-        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <source>“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.</source>
         <translation>„%1“ kann nicht gedruckt werden: Der Drucker „%2“ nimmt keine Dokumente der Art %3 an.</translation>
     </message>
     <message>
@@ -1815,8 +1815,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Es ist nicht bekannt, ob der Auftrag angenommen wurde. Möglicherweise wird er gedruckt; sehen Sie in der Warteschlange nach, bevor Sie erneut drucken.</translation>
     </message>
     <message>
-        <source>The print server did not tell which settings it kept for the job.</source>
-        <translation>Der Druckserver hat nicht mitgeteilt, welche Einstellungen er für den Auftrag übernommen hat.</translation>
+        <source>The print server did not report the settings that it accepted.</source>
+        <translation>Der Druckserver hat nicht gemeldet, welche Einstellungen er übernommen hat.</translation>
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
@@ -1891,6 +1891,13 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>TaskText</name>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+</context>
+<context>
     <name>TerminalText</name>
     <message>
         <source>The user name or the password was not accepted.</source>
@@ -1931,7 +1938,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>es gibt keinen</translation>
     </message>
     <message>
-        <source>it is no text</source>
+        <source>it is not text</source>
         <translation>er ist kein Text</translation>
     </message>
     <message>
@@ -1986,8 +1993,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Behalten &amp;und prüfen</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Es wurde keine Lösung gefunden, die „%1“ beibehält: Ändern Sie selbst eine der Einstellungen.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Keine Lösung behält „%1“ bei; ändern Sie eine der Einstellungen.</translation>
     </message>
     <message>
         <source>Suggestion: %1</source>
@@ -2053,8 +2060,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Vorschau …</translation>
     </message>
     <message>
-        <source>Show the pages in a window of their own</source>
-        <translation>Die Seiten in einem eigenen Fenster anzeigen</translation>
+        <source>Show the pages in a separate window</source>
+        <translation>Die Seiten in einem separaten Fenster anzeigen</translation>
     </message>
 </context>
 <context>
@@ -2064,8 +2071,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Eine Seite der Druckereinstellungen kann nicht gezeigt werden: %1</translation>
     </message>
     <message>
-        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
-        <translation>Ihre Standardeinstellungen für diesen Drucker verlangen Werte, die er nicht kennt: %1.</translation>
+        <source>Your defaults for this printer contain choices that it does not have: %1.</source>
+        <translation>Ihre Standardeinstellungen für diesen Drucker enthalten Werte, die er nicht hat: %1.</translation>
     </message>
     <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
@@ -2200,8 +2207,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Unveränder&amp;t lassen</translation>
     </message>
     <message>
-        <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>„%1“ steht dem im Weg, und es wurde keine Änderung gefunden, die das behebt.</translation>
+        <source>“%1” conflicts with this choice, and no resolution was found.</source>
+        <translation>„%1“ steht mit dieser Auswahl in Konflikt, und es wurde keine Lösung gefunden.</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
@@ -2602,11 +2609,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 ist nicht installiert</translation>
     </message>
     <message>
-        <source>The PDF file cannot be made: %1.</source>
+        <source>The PDF file cannot be created: %1.</source>
         <translation>Die PDF-Datei kann nicht erstellt werden: %1.</translation>
     </message>
     <message>
-        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <source>“%1” cannot be converted to PDF: %2.</source>
         <translation>Aus „%1“ kann keine PDF-Datei erstellt werden: %2.</translation>
     </message>
 </context>
@@ -2629,8 +2636,8 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>&amp;Name der Voreinstellung:</translation>
     </message>
     <message>
-        <source>Others who use this computer may read them in the file of the presets.</source>
-        <translation>Andere, die diesen Computer benutzen, können sie möglicherweise in der Datei der Voreinstellungen lesen.</translation>
+        <source>Other users of this computer may be able to read them in the preset file.</source>
+        <translation>Andere Benutzer dieses Computers können sie möglicherweise in der Datei der Voreinstellungen lesen.</translation>
     </message>
     <message>
         <source>The preset of this name will be replaced.</source>
@@ -2758,11 +2765,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>host::PreviewPane</name>
     <message>
-        <source>Page before</source>
+        <source>Previous page</source>
         <translation>Vorherige Seite</translation>
     </message>
     <message>
-        <source>Page after</source>
+        <source>Next page</source>
         <translation>Nächste Seite</translation>
     </message>
     <message>
@@ -2892,10 +2899,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 drucken</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>„%1“</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Der Druckserver wird abgefragt …</translation>
     </message>
@@ -2904,7 +2907,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Nich&amp;t warten</translation>
     </message>
     <message>
-        <source>The print server has not answered yet.</source>
+        <source>The print server has not responded yet.</source>
         <translation>Der Druckserver hat noch nicht geantwortet.</translation>
     </message>
     <message>
@@ -2912,14 +2915,14 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Die PDF-Datei wurde geschrieben</translation>
     </message>
     <message>
-        <source>Printing follows when the printer has answered.</source>
-        <translation>Gedruckt wird, sobald der Drucker geantwortet hat.</translation>
+        <source>The document will be printed when the printer has responded.</source>
+        <translation>Das Dokument wird gedruckt, sobald der Drucker geantwortet hat.</translation>
     </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
     <message>
-        <source>Search by name or place</source>
+        <source>Search by name or location</source>
         <translation>Nach Name oder Standort suchen</translation>
     </message>
     <message>
@@ -3028,11 +3031,11 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Der Drucker ist ausgeschaltet oder nicht angeschlossen.</translation>
     </message>
     <message>
-        <source>The printer does not answer.</source>
+        <source>The printer does not respond.</source>
         <translation>Der Drucker antwortet nicht.</translation>
     </message>
     <message>
-        <source>The printer is being connected to.</source>
+        <source>Connecting to the printer.</source>
         <translation>Die Verbindung zum Drucker wird hergestellt.</translation>
     </message>
     <message>

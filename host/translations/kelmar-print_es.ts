@@ -152,7 +152,7 @@
         <translation>-o admite NOMBRE=VALOR o NOMBRE.</translation>
     </message>
     <message>
-        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <source>--%1 takes %2; there is no “=” after the key.</source>
         <translation>--%1 admite %2; falta «=» después de una clave.</translation>
     </message>
     <message>
@@ -164,20 +164,20 @@
         <translation>--batch necesita una impresora en la que imprimir; --ppd por sí solo no indica ninguna.</translation>
     </message>
     <message>
-        <source>The standard input cannot be a value and a document at once.</source>
+        <source>The standard input cannot be both a value and a document.</source>
         <translation>La entrada estándar no puede ser un valor y un documento a la vez.</translation>
     </message>
     <message>
-        <source>--batch and --screenshot do not go together.</source>
+        <source>--batch and --screenshot cannot be used together.</source>
         <translation>--batch y --screenshot no se pueden combinar.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have; --help lists them.</source>
-        <translation>En la línea de comandos hay una opción que este programa no tiene; --help muestra todas.</translation>
+        <source>Unknown option on the command line; --help lists the options.</source>
+        <translation>Opción desconocida en la línea de comandos; --help muestra todas las opciones.</translation>
     </message>
     <message>
-        <source>There is no option “%1”; --help lists them.</source>
-        <translation>No existe la opción «%1»; --help muestra todas.</translation>
+        <source>Unknown option “%1”; --help lists the options.</source>
+        <translation>Opción desconocida «%1»; --help muestra todas las opciones.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -216,54 +216,54 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Eliminar un preajuste de la impresora.</translation>
     </message>
     <message>
-        <source>--output goes with --batch.</source>
-        <translation>--output se usa con --batch.</translation>
+        <source>--output requires --batch.</source>
+        <translation>--output requiere --batch.</translation>
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
         <translation>Los preajustes pertenecen a una impresora; --ppd por sí solo no indica ninguna.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch, --summary or --save-preset.</source>
-        <translation>--resolve se usa con --batch, --summary o --save-preset.</translation>
+        <source>--resolve requires --batch, --summary or --save-preset.</source>
+        <translation>--resolve requiere --batch, --summary o --save-preset.</translation>
     </message>
     <message>
-        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json se usa con --batch, --summary, --list-options o un preajuste.</translation>
+        <source>--json requires --batch, --summary, --list-options or an option for presets.</source>
+        <translation>--json requiere --batch, --summary, --list-options o una opción de preajustes.</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
         <translation>Imprimir aunque falte una contraseña o un código de departamento.</translation>
     </message>
     <message>
-        <source>--allow-no-password goes with --batch.</source>
-        <translation>--allow-no-password se usa con --batch.</translation>
+        <source>--allow-no-password requires --batch.</source>
+        <translation>--allow-no-password requiere --batch.</translation>
     </message>
 </context>
 <context>
     <name>AttributesText</name>
     <message>
-        <source>The print server did not take “%1”.</source>
+        <source>The print server did not accept “%1”.</source>
         <translation>El servidor de impresión no ha aceptado «%1».</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>El servidor de impresión ha aceptado para «%1» un valor distinto del enviado.</translation>
+        <source>The print server uses a different value for “%1” than the one that was sent.</source>
+        <translation>El servidor de impresión usa para «%1» un valor distinto del enviado.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>--list-options lists what there is.</source>
-        <translation>--list-options muestra las opciones y los ajustes.</translation>
+        <source>--list-options lists the settings.</source>
+        <translation>--list-options muestra los ajustes.</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Ninguna solución conserva «%1»; cambie uno de los ajustes.</translation>
     </message>
     <message>
-        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Las contraseñas y los códigos no se guardan en el preajuste; hay que indicarlos cada vez.</translation>
+        <source>Passwords and codes are not saved in the preset; enter them each time.</source>
+        <translation>Las contraseñas y los códigos no se guardan en el preajuste; indíquelos cada vez.</translation>
     </message>
     <message>
         <source>Only a part of the code for “%1” has been given.</source>
@@ -277,8 +277,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Esta impresora no tiene «%1»: el trabajo no estará protegido.</translation>
     </message>
     <message>
-        <source>This printer does not take over: %1.</source>
-        <translation>Esta impresora no puede conservar estos ajustes: %1.</translation>
+        <source>Not available on this printer: %1.</source>
+        <translation>No disponible en esta impresora: %1.</translation>
     </message>
 </context>
 <context>
@@ -327,8 +327,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>DocumentText</name>
     <message>
-        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>No se puede guardar en la carpeta «%1» lo que se va a imprimir: %2.</translation>
+        <source>The document cannot be stored in the folder “%1”: %2.</source>
+        <translation>No se puede almacenar el documento en la carpeta «%1»: %2.</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
@@ -985,8 +985,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No se ha aceptado el nombre de usuario o la contraseña.</translation>
     </message>
     <message>
-        <source>The print server %1 wants to know who prints.</source>
-        <translation>El servidor de impresión %1 necesita saber quién imprime.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>El servidor de impresión %1 requiere un nombre de usuario y una contraseña.</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
@@ -1099,8 +1099,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>PolicyText</name>
     <message>
-        <source>it is not one object in braces</source>
-        <translation>no es un único objeto entre llaves</translation>
+        <source>it is not a JSON object</source>
+        <translation>no es un objeto JSON</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
@@ -1131,8 +1131,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>«rules» admite una lista</translation>
     </message>
     <message>
-        <source>“rules” takes objects in braces</source>
-        <translation>«rules» admite objetos entre llaves</translation>
+        <source>“rules” takes JSON objects</source>
+        <translation>«rules» admite objetos JSON</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1196,8 +1196,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No se ha impreso el documento en «%1».</translation>
     </message>
     <message>
-        <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>El documento se ha enviado a «%1», pero no exactamente como se pidió.</translation>
+        <source>The document was sent to “%1”, but with different settings.</source>
+        <translation>El documento se ha enviado a «%1», pero con ajustes distintos.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -1322,8 +1322,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>El archivo PPD «%1»</translation>
     </message>
     <message>
-        <source>There is no memory for the PPD of “%1”: %2.</source>
-        <translation>No hay memoria para el PPD de «%1»: %2.</translation>
+        <source>There is not enough memory for the PPD of “%1”: %2.</source>
+        <translation>No hay memoria suficiente para el PPD de «%1»: %2.</translation>
     </message>
     <message>
         <source>The PPD of “%1”</source>
@@ -1460,16 +1460,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>PresetText</name>
     <message>
-        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <source>A preset cannot store the value of “%1”: it contains a tab, a line break or another character that cannot be written to the preset file.</source>
         <translation>Un preajuste no puede guardar el valor de «%1»: contiene un tabulador, un salto de línea u otro carácter que no se puede escribir en su archivo.</translation>
     </message>
     <message>
-        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Son más ajustes de los que puede guardar un preajuste: su archivo admite %1 bytes.</translation>
+        <source>A preset cannot store this many settings; the limit is %1 bytes.</source>
+        <translation>Un preajuste no puede guardar tantos ajustes; el límite es de %1 bytes.</translation>
     </message>
     <message>
-        <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>Esta impresora no tiene lo que piden estos ajustes: %1.</translation>
+        <source>This printer does not support these settings: %1.</source>
+        <translation>Esta impresora no admite estos ajustes: %1.</translation>
     </message>
 </context>
 <context>
@@ -1563,7 +1563,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No se puede escribir el resultado: %1.</translation>
     </message>
     <message>
-        <source>Changed to end a conflict: %1</source>
+        <source>Changed to resolve a conflict: %1</source>
         <translation>Cambiado para resolver un conflicto: %1</translation>
     </message>
     <message>
@@ -1626,23 +1626,23 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>ServerText</name>
     <message>
-        <source>The print server %1 wants a user name and a password.</source>
-        <translation>El servidor de impresión %1 pide un nombre de usuario y una contraseña.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>El servidor de impresión %1 requiere un nombre de usuario y una contraseña.</translation>
     </message>
     <message>
-        <source>The printer “%1” wants a user name and a password.</source>
-        <translation>La impresora «%1» pide un nombre de usuario y una contraseña.</translation>
+        <source>The printer “%1” requires a user name and a password.</source>
+        <translation>La impresora «%1» requiere un nombre de usuario y una contraseña.</translation>
     </message>
     <message>
         <source>The print server %1 cannot be reached.</source>
         <translation>No se puede acceder al servidor de impresión %1.</translation>
     </message>
     <message>
-        <source>The print server %1 gave an answer that cannot be understood.</source>
-        <translation>El servidor de impresión %1 ha dado una respuesta que no se puede interpretar.</translation>
+        <source>The print server %1 sent a response that cannot be interpreted.</source>
+        <translation>El servidor de impresión %1 ha enviado una respuesta que no se puede interpretar.</translation>
     </message>
     <message>
-        <source>The connection to the print server %1 broke off.</source>
+        <source>The connection to the print server %1 was lost.</source>
         <translation>Se ha interrumpido la conexión con el servidor de impresión %1.</translation>
     </message>
     <message>
@@ -1650,8 +1650,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Se ha cancelado la impresión.</translation>
     </message>
     <message>
-        <source>The print server %1 does not let you do this (%2).</source>
-        <translation>El servidor de impresión %1 no le permite hacer esto (%2).</translation>
+        <source>The print server %1 does not allow this (%2).</source>
+        <translation>El servidor de impresión %1 no permite esta operación (%2).</translation>
     </message>
     <message>
         <source>The print server %1 refused the request (%2).</source>
@@ -1776,15 +1776,15 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>El nombre es demasiado largo.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>El nombre de un preajuste no puede contener espacios; serviría «%1».</translation>
+        <source>The name of a preset cannot contain spaces; use for example “%1”.</source>
+        <translation>El nombre de un preajuste no puede contener espacios; use por ejemplo «%1».</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no control characters.</source>
+        <source>The name of a preset cannot contain control characters.</source>
         <translation>El nombre de un preajuste no puede contener caracteres de control.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <source>The name of a preset cannot contain any of these characters: / \ # &quot; &apos; =</source>
         <translation>El nombre de un preajuste no puede contener ninguno de estos caracteres: / \ # &quot; &apos; =</translation>
     </message>
 </context>
@@ -1799,7 +1799,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>La impresora «%1» no acepta trabajos en este momento.</translation>
     </message>
     <message>
-        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <source>“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.</source>
         <translation>No se puede imprimir «%1»: la impresora «%2» no acepta documentos del tipo %3.</translation>
     </message>
     <message>
@@ -1815,8 +1815,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No se sabe si se ha aceptado el trabajo. Es posible que se imprima; consulte la cola antes de volver a imprimir.</translation>
     </message>
     <message>
-        <source>The print server did not tell which settings it kept for the job.</source>
-        <translation>El servidor de impresión no ha indicado qué ajustes ha conservado para el trabajo.</translation>
+        <source>The print server did not report the settings that it accepted.</source>
+        <translation>El servidor de impresión no ha indicado qué ajustes ha aceptado.</translation>
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
@@ -1891,6 +1891,13 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>TaskText</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«%1»</translation>
+    </message>
+</context>
+<context>
     <name>TerminalText</name>
     <message>
         <source>The user name or the password was not accepted.</source>
@@ -1931,7 +1938,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>no hay ninguno</translation>
     </message>
     <message>
-        <source>it is no text</source>
+        <source>it is not text</source>
         <translation>no es texto</translation>
     </message>
     <message>
@@ -1986,8 +1993,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Mantener y re&amp;visar</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>No se ha encontrado ninguna solución que conserve «%1»: cambie usted uno de los ajustes.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Ninguna solución conserva «%1»; cambie uno de los ajustes.</translation>
     </message>
     <message>
         <source>Suggestion: %1</source>
@@ -2053,14 +2060,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Vista previa…</translation>
     </message>
     <message>
-        <source>Show the pages in a window of their own</source>
+        <source>Show the pages in a separate window</source>
         <translation>Mostrar las páginas en una ventana aparte</translation>
     </message>
 </context>
 <context>
     <name>host::DialogSession</name>
     <message>
-        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <source>Your defaults for this printer contain choices that it does not have: %1.</source>
         <translation>Los valores predeterminados que usted ha fijado para esta impresora incluyen algunos que no tiene: %1.</translation>
     </message>
     <message>
@@ -2200,8 +2207,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>De&amp;jar como está</translation>
     </message>
     <message>
-        <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>«%1» lo impide y no se ha encontrado ningún cambio que lo resuelva.</translation>
+        <source>“%1” conflicts with this choice, and no resolution was found.</source>
+        <translation>«%1» entra en conflicto con esta opción y no se ha encontrado ninguna solución.</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
@@ -2602,11 +2609,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>%1 no está instalado</translation>
     </message>
     <message>
-        <source>The PDF file cannot be made: %1.</source>
+        <source>The PDF file cannot be created: %1.</source>
         <translation>No se puede crear el archivo PDF: %1.</translation>
     </message>
     <message>
-        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <source>“%1” cannot be converted to PDF: %2.</source>
         <translation>No se puede convertir «%1» en un archivo PDF: %2.</translation>
     </message>
 </context>
@@ -2629,8 +2636,8 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>&amp;Nombre del preajuste:</translation>
     </message>
     <message>
-        <source>Others who use this computer may read them in the file of the presets.</source>
-        <translation>Otras personas que usan este equipo podrían leerlos en el archivo de los preajustes.</translation>
+        <source>Other users of this computer may be able to read them in the preset file.</source>
+        <translation>Otros usuarios de este equipo podrían leerlos en el archivo de los preajustes.</translation>
     </message>
     <message>
         <source>The preset of this name will be replaced.</source>
@@ -2758,11 +2765,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>host::PreviewPane</name>
     <message>
-        <source>Page before</source>
+        <source>Previous page</source>
         <translation>Página anterior</translation>
     </message>
     <message>
-        <source>Page after</source>
+        <source>Next page</source>
         <translation>Página siguiente</translation>
     </message>
     <message>
@@ -2880,10 +2887,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Imprimir %1</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>«%1»</translation>
-    </message>
-    <message>
         <source>There is no document or no printer to print it on</source>
         <translation>No hay ningún documento o ninguna impresora en la que imprimirlo</translation>
     </message>
@@ -2900,7 +2903,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>No hay ninguna página llamada «%1».</translation>
     </message>
     <message>
-        <source>The print server has not answered yet.</source>
+        <source>The print server has not responded yet.</source>
         <translation>El servidor de impresión aún no ha respondido.</translation>
     </message>
     <message>
@@ -2912,14 +2915,14 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Se ha guardado el archivo PDF</translation>
     </message>
     <message>
-        <source>Printing follows when the printer has answered.</source>
-        <translation>Se imprimirá en cuanto la impresora haya respondido.</translation>
+        <source>The document will be printed when the printer has responded.</source>
+        <translation>El documento se imprimirá en cuanto la impresora haya respondido.</translation>
     </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
     <message>
-        <source>Search by name or place</source>
+        <source>Search by name or location</source>
         <translation>Buscar por nombre o ubicación</translation>
     </message>
     <message>
@@ -3028,11 +3031,11 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>La impresora está apagada o no está conectada.</translation>
     </message>
     <message>
-        <source>The printer does not answer.</source>
+        <source>The printer does not respond.</source>
         <translation>La impresora no responde.</translation>
     </message>
     <message>
-        <source>The printer is being connected to.</source>
+        <source>Connecting to the printer.</source>
         <translation>Se está estableciendo la conexión con la impresora.</translation>
     </message>
     <message>

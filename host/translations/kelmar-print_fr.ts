@@ -140,8 +140,8 @@
         <translation>--batch demande une imprimante&#xa0;; --ppd seul n’en désigne aucune.</translation>
     </message>
     <message>
-        <source>--batch and --screenshot do not go together.</source>
-        <translation>--batch et --screenshot ne vont pas ensemble.</translation>
+        <source>--batch and --screenshot cannot be used together.</source>
+        <translation>--batch et --screenshot ne peuvent pas être utilisées ensemble.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -174,20 +174,20 @@ Imprime des documents, avec ou sans boîte de dialogue pour les réglages.
         <translation>-o prend NOM=VALEUR ou NOM.</translation>
     </message>
     <message>
-        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <source>--%1 takes %2; there is no “=” after the key.</source>
         <translation>--%1 prend %2&#xa0;; il manque «&#xa0;=&#xa0;» après une clé.</translation>
     </message>
     <message>
-        <source>The standard input cannot be a value and a document at once.</source>
+        <source>The standard input cannot be both a value and a document.</source>
         <translation>L’entrée standard ne peut pas être à la fois une valeur et un document.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have; --help lists them.</source>
-        <translation>La ligne de commande contient une option que ce programme ne connaît pas&#xa0;; --help donne la liste des options.</translation>
+        <source>Unknown option on the command line; --help lists the options.</source>
+        <translation>Option inconnue sur la ligne de commande&#xa0;; --help affiche la liste des options.</translation>
     </message>
     <message>
-        <source>There is no option “%1”; --help lists them.</source>
-        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;»&#xa0;; --help en donne la liste.</translation>
+        <source>Unknown option “%1”; --help lists the options.</source>
+        <translation>Option inconnue&#xa0;: «&#xa0;%1&#xa0;»&#xa0;; --help affiche la liste des options.</translation>
     </message>
     <message>
         <source>
@@ -216,54 +216,54 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Supprimer un préréglage de l’imprimante.</translation>
     </message>
     <message>
-        <source>--output goes with --batch.</source>
-        <translation>--output s’emploie avec --batch.</translation>
+        <source>--output requires --batch.</source>
+        <translation>--output nécessite --batch.</translation>
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
         <translation>Les préréglages sont liés à une imprimante&#xa0;; --ppd seul n’en désigne aucune.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch, --summary or --save-preset.</source>
-        <translation>--resolve s’emploie avec --batch, --summary ou --save-preset.</translation>
+        <source>--resolve requires --batch, --summary or --save-preset.</source>
+        <translation>--resolve nécessite --batch, --summary ou --save-preset.</translation>
     </message>
     <message>
-        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json s’emploie avec --batch, --summary, --list-options ou un préréglage.</translation>
+        <source>--json requires --batch, --summary, --list-options or an option for presets.</source>
+        <translation>--json nécessite --batch, --summary, --list-options ou une option relative aux préréglages.</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
         <translation>Imprimer même s’il manque un mot de passe ou un code de service.</translation>
     </message>
     <message>
-        <source>--allow-no-password goes with --batch.</source>
-        <translation>--allow-no-password s’utilise avec --batch.</translation>
+        <source>--allow-no-password requires --batch.</source>
+        <translation>--allow-no-password nécessite --batch.</translation>
     </message>
 </context>
 <context>
     <name>AttributesText</name>
     <message>
-        <source>The print server did not take “%1”.</source>
-        <translation>Le serveur d’impression n’a pas retenu «&#xa0;%1&#xa0;».</translation>
+        <source>The print server did not accept “%1”.</source>
+        <translation>Le serveur d’impression n’a pas accepté «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Le serveur d’impression a retenu pour «&#xa0;%1&#xa0;» une autre valeur que celle envoyée.</translation>
+        <source>The print server uses a different value for “%1” than the one that was sent.</source>
+        <translation>Le serveur d’impression utilise pour «&#xa0;%1&#xa0;» une autre valeur que celle envoyée.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>--list-options lists what there is.</source>
-        <translation>--list-options donne la liste des options et réglages.</translation>
+        <source>--list-options lists the settings.</source>
+        <translation>--list-options affiche la liste des réglages.</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Aucune solution ne conserve «&#xa0;%1&#xa0;»&#xa0;; modifiez l’un des réglages.</translation>
     </message>
     <message>
-        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Les mots de passe et les codes ne sont pas conservés dans le préréglage&#xa0;; il faut les indiquer à chaque fois.</translation>
+        <source>Passwords and codes are not saved in the preset; enter them each time.</source>
+        <translation>Les mots de passe et les codes ne sont pas enregistrés dans le préréglage&#xa0;; indiquez-les à chaque fois.</translation>
     </message>
     <message>
         <source>Only a part of the code for “%1” has been given.</source>
@@ -277,8 +277,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Cette imprimante ne connaît pas «&#xa0;%1&#xa0;»&#xa0;: la tâche ne sera pas protégée.</translation>
     </message>
     <message>
-        <source>This printer does not take over: %1.</source>
-        <translation>Cette imprimante ne reprend pas&#xa0;: %1.</translation>
+        <source>Not available on this printer: %1.</source>
+        <translation>Non disponible sur cette imprimante&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -327,8 +327,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>DocumentText</name>
     <message>
-        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>Les données à imprimer ne peuvent pas être conservées dans le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>The document cannot be stored in the folder “%1”: %2.</source>
+        <translation>Le document ne peut pas être stocké dans le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
@@ -985,8 +985,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Le nom d’utilisateur ou le mot de passe n’a pas été accepté.</translation>
     </message>
     <message>
-        <source>The print server %1 wants to know who prints.</source>
-        <translation>Le serveur d’impression %1 demande qui imprime.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>Le serveur d’impression %1 exige un nom d’utilisateur et un mot de passe.</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
@@ -1099,8 +1099,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>PolicyText</name>
     <message>
-        <source>it is not one object in braces</source>
-        <translation>ce n’est pas un objet unique entre accolades</translation>
+        <source>it is not a JSON object</source>
+        <translation>ce n’est pas un objet JSON</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
@@ -1131,8 +1131,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>«&#xa0;rules&#xa0;» prend une liste</translation>
     </message>
     <message>
-        <source>“rules” takes objects in braces</source>
-        <translation>«&#xa0;rules&#xa0;» prend des objets entre accolades</translation>
+        <source>“rules” takes JSON objects</source>
+        <translation>«&#xa0;rules&#xa0;» prend des objets JSON</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1196,8 +1196,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Le document n’a pas été imprimé sur «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>Le document a été envoyé à «&#xa0;%1&#xa0;», mais pas tout à fait comme demandé.</translation>
+        <source>The document was sent to “%1”, but with different settings.</source>
+        <translation>Le document a été envoyé à «&#xa0;%1&#xa0;», mais avec des réglages différents.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -1330,8 +1330,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 est trop volumineux&#xa0;: plus de %2 Mo.</translation>
     </message>
     <message>
-        <source>There is no memory for the PPD of “%1”: %2.</source>
-        <translation>La mémoire manque pour le PPD de «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>There is not enough memory for the PPD of “%1”: %2.</source>
+        <translation>Mémoire insuffisante pour le PPD de «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1460,16 +1460,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>PresetText</name>
     <message>
-        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <source>A preset cannot store the value of “%1”: it contains a tab, a line break or another character that cannot be written to the preset file.</source>
         <translation>Un préréglage ne peut pas conserver la valeur de «&#xa0;%1&#xa0;»&#xa0;: elle contient une tabulation, un saut de ligne ou un autre caractère que son fichier ne permet pas d’écrire.</translation>
     </message>
     <message>
-        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Ces réglages sont trop nombreux pour un préréglage&#xa0;: son fichier accepte %1 octets.</translation>
+        <source>A preset cannot store this many settings; the limit is %1 bytes.</source>
+        <translation>Un préréglage ne peut pas enregistrer autant de réglages&#xa0;; la limite est de %1&#xa0;octets.</translation>
     </message>
     <message>
-        <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>Cette imprimante n’a pas ce que ces réglages demandent&#xa0;: %1.</translation>
+        <source>This printer does not support these settings: %1.</source>
+        <translation>Cette imprimante ne prend pas en charge ces réglages&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1559,7 +1559,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Ces réglages sont incompatibles.</translation>
     </message>
     <message>
-        <source>Changed to end a conflict: %1</source>
+        <source>Changed to resolve a conflict: %1</source>
         <translation>Modifié pour résoudre un conflit&#xa0;: %1</translation>
     </message>
     <message>
@@ -1626,23 +1626,23 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>ServerText</name>
     <message>
-        <source>The print server %1 wants a user name and a password.</source>
-        <translation>Le serveur d’impression %1 demande un nom d’utilisateur et un mot de passe.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>Le serveur d’impression %1 exige un nom d’utilisateur et un mot de passe.</translation>
     </message>
     <message>
-        <source>The printer “%1” wants a user name and a password.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» demande un nom d’utilisateur et un mot de passe.</translation>
+        <source>The printer “%1” requires a user name and a password.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» exige un nom d’utilisateur et un mot de passe.</translation>
     </message>
     <message>
         <source>The print server %1 cannot be reached.</source>
         <translation>Le serveur d’impression %1 est injoignable.</translation>
     </message>
     <message>
-        <source>The print server %1 gave an answer that cannot be understood.</source>
-        <translation>La réponse du serveur d’impression %1 est incompréhensible.</translation>
+        <source>The print server %1 sent a response that cannot be interpreted.</source>
+        <translation>La réponse du serveur d’impression %1 ne peut pas être interprétée.</translation>
     </message>
     <message>
-        <source>The connection to the print server %1 broke off.</source>
+        <source>The connection to the print server %1 was lost.</source>
         <translation>La connexion au serveur d’impression %1 a été interrompue.</translation>
     </message>
     <message>
@@ -1650,7 +1650,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>L’impression a été annulée.</translation>
     </message>
     <message>
-        <source>The print server %1 does not let you do this (%2).</source>
+        <source>The print server %1 does not allow this (%2).</source>
         <translation>Le serveur d’impression %1 ne vous y autorise pas (%2).</translation>
     </message>
     <message>
@@ -1776,15 +1776,15 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Le nom est trop long.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>Le nom d’un préréglage ne peut pas contenir d’espace&#xa0;; «&#xa0;%1&#xa0;» conviendrait.</translation>
+        <source>The name of a preset cannot contain spaces; use for example “%1”.</source>
+        <translation>Le nom d’un préréglage ne peut pas contenir d’espaces&#xa0;; utilisez par exemple «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no control characters.</source>
+        <source>The name of a preset cannot contain control characters.</source>
         <translation>Le nom d’un préréglage ne peut pas contenir de caractères de contrôle.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <source>The name of a preset cannot contain any of these characters: / \ # &quot; &apos; =</source>
         <translation>Le nom d’un préréglage ne peut contenir aucun de ces caractères&#xa0;: / \ # &quot; &apos; =</translation>
     </message>
 </context>
@@ -1795,7 +1795,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’accepte pas de tâches actuellement.</translation>
     </message>
     <message>
-        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <source>“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être imprimé&#xa0;: l’imprimante «&#xa0;%2&#xa0;» n’accepte pas les documents de type %3.</translation>
     </message>
     <message>
@@ -1815,8 +1815,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>On ne sait pas si la tâche a été acceptée. Elle sera peut-être imprimée&#xa0;; consultez la file d’attente avant de relancer l’impression.</translation>
     </message>
     <message>
-        <source>The print server did not tell which settings it kept for the job.</source>
-        <translation>Le serveur d’impression n’a pas indiqué quels réglages il a retenus pour la tâche.</translation>
+        <source>The print server did not report the settings that it accepted.</source>
+        <translation>Le serveur d’impression n’a pas indiqué les réglages qu’il a acceptés.</translation>
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
@@ -1891,6 +1891,13 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>TaskText</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
     <name>TerminalText</name>
     <message>
         <source>The user name or the password was not accepted.</source>
@@ -1931,7 +1938,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>il n’y en a pas</translation>
     </message>
     <message>
-        <source>it is no text</source>
+        <source>it is not text</source>
         <translation>ce n’est pas du texte</translation>
     </message>
     <message>
@@ -1986,8 +1993,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>&amp;Garder et vérifier</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Aucune solution conservant «&#xa0;%1&#xa0;» n’a été trouvée&#xa0;: modifiez vous-même l’un des réglages.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Aucune solution ne conserve «&#xa0;%1&#xa0;»&#xa0;; modifiez l’un des réglages.</translation>
     </message>
     <message>
         <source>Suggestion: %1</source>
@@ -2053,7 +2060,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Aperçu…</translation>
     </message>
     <message>
-        <source>Show the pages in a window of their own</source>
+        <source>Show the pages in a separate window</source>
         <translation>Afficher les pages dans une fenêtre séparée</translation>
     </message>
 </context>
@@ -2064,8 +2071,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Une page des réglages de l’imprimante ne peut pas être affichée&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
-        <translation>Vos valeurs par défaut pour cette imprimante demandent des choix qu’elle n’a pas&#xa0;: %1.</translation>
+        <source>Your defaults for this printer contain choices that it does not have: %1.</source>
+        <translation>Vos valeurs par défaut pour cette imprimante contiennent des choix qu’elle n’a pas&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Stored settings of “%1” are not sent with the job (%2): %3</source>
@@ -2200,8 +2207,8 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>&amp;Laisser tel quel</translation>
     </message>
     <message>
-        <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>«&#xa0;%1&#xa0;» s’y oppose, et aucune modification permettant de lever cet obstacle n’a été trouvée.</translation>
+        <source>“%1” conflicts with this choice, and no resolution was found.</source>
+        <translation>«&#xa0;%1&#xa0;» est en conflit avec ce choix, et aucune solution n’a été trouvée.</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
@@ -2602,11 +2609,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 n’est pas installé</translation>
     </message>
     <message>
-        <source>The PDF file cannot be made: %1.</source>
+        <source>The PDF file cannot be created: %1.</source>
         <translation>Le fichier PDF ne peut pas être créé&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <source>“%1” cannot be converted to PDF: %2.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être converti en fichier PDF&#xa0;: %2.</translation>
     </message>
 </context>
@@ -2629,7 +2636,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>&amp;Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
-        <source>Others who use this computer may read them in the file of the presets.</source>
+        <source>Other users of this computer may be able to read them in the preset file.</source>
         <translation>Les autres utilisateurs de cet ordinateur pourraient les lire dans le fichier des préréglages.</translation>
     </message>
     <message>
@@ -2758,11 +2765,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>host::PreviewPane</name>
     <message>
-        <source>Page before</source>
+        <source>Previous page</source>
         <translation>Page précédente</translation>
     </message>
     <message>
-        <source>Page after</source>
+        <source>Next page</source>
         <translation>Page suivante</translation>
     </message>
     <message>
@@ -2892,10 +2899,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Imprimer %1</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>«&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>Interrogation du serveur d’impression…</translation>
     </message>
@@ -2904,7 +2907,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Ne pl&amp;us attendre</translation>
     </message>
     <message>
-        <source>The print server has not answered yet.</source>
+        <source>The print server has not responded yet.</source>
         <translation>Le serveur d’impression n’a pas encore répondu.</translation>
     </message>
     <message>
@@ -2912,14 +2915,14 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Le fichier PDF a été écrit</translation>
     </message>
     <message>
-        <source>Printing follows when the printer has answered.</source>
-        <translation>L’impression suivra dès que l’imprimante aura répondu.</translation>
+        <source>The document will be printed when the printer has responded.</source>
+        <translation>Le document sera imprimé dès que l’imprimante aura répondu.</translation>
     </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
     <message>
-        <source>Search by name or place</source>
+        <source>Search by name or location</source>
         <translation>Rechercher par nom ou emplacement</translation>
     </message>
     <message>
@@ -3028,11 +3031,11 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>L’imprimante est éteinte ou n’est pas connectée.</translation>
     </message>
     <message>
-        <source>The printer does not answer.</source>
+        <source>The printer does not respond.</source>
         <translation>L’imprimante ne répond pas.</translation>
     </message>
     <message>
-        <source>The printer is being connected to.</source>
+        <source>Connecting to the printer.</source>
         <translation>Connexion à l’imprimante en cours.</translation>
     </message>
     <message>

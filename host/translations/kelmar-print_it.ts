@@ -152,7 +152,7 @@
         <translation>-o accetta NOME=VALORE o NOME.</translation>
     </message>
     <message>
-        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <source>--%1 takes %2; there is no “=” after the key.</source>
         <translation>--%1 accetta %2; manca «=» dopo una chiave.</translation>
     </message>
     <message>
@@ -164,20 +164,20 @@
         <translation>--batch richiede una stampante su cui stampare; --ppd da solo non ne indica nessuna.</translation>
     </message>
     <message>
-        <source>The standard input cannot be a value and a document at once.</source>
+        <source>The standard input cannot be both a value and a document.</source>
         <translation>Lo standard input non può essere allo stesso tempo un valore e un documento.</translation>
     </message>
     <message>
-        <source>--batch and --screenshot do not go together.</source>
+        <source>--batch and --screenshot cannot be used together.</source>
         <translation>--batch e --screenshot non possono essere usati insieme.</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have; --help lists them.</source>
-        <translation>Sulla riga di comando c’è un’opzione che questo programma non ha; --help elenca tutte le opzioni.</translation>
+        <source>Unknown option on the command line; --help lists the options.</source>
+        <translation>Opzione sconosciuta sulla riga di comando; --help elenca tutte le opzioni.</translation>
     </message>
     <message>
-        <source>There is no option “%1”; --help lists them.</source>
-        <translation>Non esiste l’opzione «%1»; --help elenca tutte le opzioni.</translation>
+        <source>Unknown option “%1”; --help lists the options.</source>
+        <translation>Opzione sconosciuta «%1»; --help elenca tutte le opzioni.</translation>
     </message>
     <message>
         <source>Usage: kelmar-print [OPTION...] [FILE...]
@@ -216,54 +216,54 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Elimina una preimpostazione della stampante.</translation>
     </message>
     <message>
-        <source>--output goes with --batch.</source>
-        <translation>--output si usa con --batch.</translation>
+        <source>--output requires --batch.</source>
+        <translation>--output richiede --batch.</translation>
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
         <translation>Le preimpostazioni appartengono a una stampante; --ppd da solo non ne indica nessuna.</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch, --summary or --save-preset.</source>
-        <translation>--resolve si usa con --batch, --summary o --save-preset.</translation>
+        <source>--resolve requires --batch, --summary or --save-preset.</source>
+        <translation>--resolve richiede --batch, --summary o --save-preset.</translation>
     </message>
     <message>
-        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json si usa con --batch, --summary, --list-options o una preimpostazione.</translation>
+        <source>--json requires --batch, --summary, --list-options or an option for presets.</source>
+        <translation>--json richiede --batch, --summary, --list-options o un’opzione per le preimpostazioni.</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
         <translation>Stampa anche se manca una password o un codice reparto.</translation>
     </message>
     <message>
-        <source>--allow-no-password goes with --batch.</source>
-        <translation>--allow-no-password va usato con --batch.</translation>
+        <source>--allow-no-password requires --batch.</source>
+        <translation>--allow-no-password richiede --batch.</translation>
     </message>
 </context>
 <context>
     <name>AttributesText</name>
     <message>
-        <source>The print server did not take “%1”.</source>
+        <source>The print server did not accept “%1”.</source>
         <translation>Il server di stampa non ha accettato «%1».</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
-        <translation>Il server di stampa ha accettato per «%1» un valore diverso da quello inviato.</translation>
+        <source>The print server uses a different value for “%1” than the one that was sent.</source>
+        <translation>Il server di stampa usa per «%1» un valore diverso da quello inviato.</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>--list-options lists what there is.</source>
-        <translation>--list-options elenca opzioni e impostazioni.</translation>
+        <source>--list-options lists the settings.</source>
+        <translation>--list-options elenca le impostazioni.</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Nessuna soluzione mantiene «%1»; modificare una delle impostazioni.</translation>
     </message>
     <message>
-        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
-        <translation>Le password e i codici non vengono conservati nella preimpostazione; vanno forniti ogni volta.</translation>
+        <source>Passwords and codes are not saved in the preset; enter them each time.</source>
+        <translation>Le password e i codici non vengono salvati nella preimpostazione; indicarli ogni volta.</translation>
     </message>
     <message>
         <source>Only a part of the code for “%1” has been given.</source>
@@ -277,8 +277,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Questa stampante non dispone di «%1»: il lavoro non sarà protetto.</translation>
     </message>
     <message>
-        <source>This printer does not take over: %1.</source>
-        <translation>Questa stampante non può riprendere queste impostazioni: %1.</translation>
+        <source>Not available on this printer: %1.</source>
+        <translation>Non disponibile su questa stampante: %1.</translation>
     </message>
 </context>
 <context>
@@ -327,8 +327,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>DocumentText</name>
     <message>
-        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>Non è possibile conservare nella cartella «%1» ciò che deve essere stampato: %2.</translation>
+        <source>The document cannot be stored in the folder “%1”: %2.</source>
+        <translation>Impossibile memorizzare il documento nella cartella «%1»: %2.</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
@@ -985,8 +985,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il nome utente o la password non sono stati accettati.</translation>
     </message>
     <message>
-        <source>The print server %1 wants to know who prints.</source>
-        <translation>Il server di stampa %1 richiede di sapere chi stampa.</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>Il server di stampa %1 richiede un nome utente e una password.</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
@@ -1099,8 +1099,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>PolicyText</name>
     <message>
-        <source>it is not one object in braces</source>
-        <translation>non è un unico oggetto tra parentesi graffe</translation>
+        <source>it is not a JSON object</source>
+        <translation>non è un oggetto JSON</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
@@ -1131,8 +1131,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>«rules» accetta un elenco</translation>
     </message>
     <message>
-        <source>“rules” takes objects in braces</source>
-        <translation>«rules» accetta oggetti tra parentesi graffe</translation>
+        <source>“rules” takes JSON objects</source>
+        <translation>«rules» accetta oggetti JSON</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1196,8 +1196,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il documento non è stato stampato su «%1».</translation>
     </message>
     <message>
-        <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>Il documento è stato inviato a «%1», ma non esattamente come richiesto.</translation>
+        <source>The document was sent to “%1”, but with different settings.</source>
+        <translation>Il documento è stato inviato a «%1», ma con impostazioni diverse.</translation>
     </message>
     <message>
         <source>Document</source>
@@ -1322,7 +1322,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il file PPD «%1»</translation>
     </message>
     <message>
-        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <source>There is not enough memory for the PPD of “%1”: %2.</source>
         <translation>Memoria insufficiente per il PPD di «%1»: %2.</translation>
     </message>
     <message>
@@ -1460,16 +1460,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>PresetText</name>
     <message>
-        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <source>A preset cannot store the value of “%1”: it contains a tab, a line break or another character that cannot be written to the preset file.</source>
         <translation>Una preimpostazione non può conservare il valore di «%1»: contiene una tabulazione, un’interruzione di riga o un altro carattere che non può essere scritto nel suo file.</translation>
     </message>
     <message>
-        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>Le impostazioni sono più di quante ne possa conservare una preimpostazione: il suo file accetta %1 byte.</translation>
+        <source>A preset cannot store this many settings; the limit is %1 bytes.</source>
+        <translation>Una preimpostazione non può contenere così tante impostazioni; il limite è di %1 byte.</translation>
     </message>
     <message>
-        <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>Questa stampante non dispone di ciò che queste impostazioni richiedono: %1.</translation>
+        <source>This printer does not support these settings: %1.</source>
+        <translation>Questa stampante non supporta queste impostazioni: %1.</translation>
     </message>
 </context>
 <context>
@@ -1563,7 +1563,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Impossibile scrivere il risultato: %1.</translation>
     </message>
     <message>
-        <source>Changed to end a conflict: %1</source>
+        <source>Changed to resolve a conflict: %1</source>
         <translation>Cambiato per risolvere un conflitto: %1</translation>
     </message>
     <message>
@@ -1626,11 +1626,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>ServerText</name>
     <message>
-        <source>The print server %1 wants a user name and a password.</source>
+        <source>The print server %1 requires a user name and a password.</source>
         <translation>Il server di stampa %1 richiede un nome utente e una password.</translation>
     </message>
     <message>
-        <source>The printer “%1” wants a user name and a password.</source>
+        <source>The printer “%1” requires a user name and a password.</source>
         <translation>La stampante «%1» richiede un nome utente e una password.</translation>
     </message>
     <message>
@@ -1638,11 +1638,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il server di stampa %1 non è raggiungibile.</translation>
     </message>
     <message>
-        <source>The print server %1 gave an answer that cannot be understood.</source>
-        <translation>Il server di stampa %1 ha dato una risposta incomprensibile.</translation>
+        <source>The print server %1 sent a response that cannot be interpreted.</source>
+        <translation>Il server di stampa %1 ha inviato una risposta che non può essere interpretata.</translation>
     </message>
     <message>
-        <source>The connection to the print server %1 broke off.</source>
+        <source>The connection to the print server %1 was lost.</source>
         <translation>La connessione al server di stampa %1 si è interrotta.</translation>
     </message>
     <message>
@@ -1650,7 +1650,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>La stampa è stata annullata.</translation>
     </message>
     <message>
-        <source>The print server %1 does not let you do this (%2).</source>
+        <source>The print server %1 does not allow this (%2).</source>
         <translation>Il server di stampa %1 non consente questa operazione (%2).</translation>
     </message>
     <message>
@@ -1776,15 +1776,15 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il nome è troppo lungo.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>Il nome di una preimpostazione non può contenere spazi; andrebbe bene «%1».</translation>
+        <source>The name of a preset cannot contain spaces; use for example “%1”.</source>
+        <translation>Il nome di una preimpostazione non può contenere spazi; usare ad esempio «%1».</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no control characters.</source>
+        <source>The name of a preset cannot contain control characters.</source>
         <translation>Il nome di una preimpostazione non può contenere caratteri di controllo.</translation>
     </message>
     <message>
-        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <source>The name of a preset cannot contain any of these characters: / \ # &quot; &apos; =</source>
         <translation>Il nome di una preimpostazione non può contenere nessuno di questi caratteri: / \ # &quot; &apos; =</translation>
     </message>
 </context>
@@ -1799,7 +1799,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>La stampante «%1» al momento non accetta lavori.</translation>
     </message>
     <message>
-        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <source>“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.</source>
         <translation>Impossibile stampare «%1»: la stampante «%2» non accetta documenti di tipo %3.</translation>
     </message>
     <message>
@@ -1815,8 +1815,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Non è noto se il lavoro sia stato accettato. Potrebbe essere stampato: controllare la coda prima di stampare di nuovo.</translation>
     </message>
     <message>
-        <source>The print server did not tell which settings it kept for the job.</source>
-        <translation>Il server di stampa non ha comunicato quali impostazioni ha mantenuto per il lavoro.</translation>
+        <source>The print server did not report the settings that it accepted.</source>
+        <translation>Il server di stampa non ha comunicato le impostazioni che ha accettato.</translation>
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
@@ -1891,6 +1891,13 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>TaskText</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«%1»</translation>
+    </message>
+</context>
+<context>
     <name>TerminalText</name>
     <message>
         <source>The user name or the password was not accepted.</source>
@@ -1931,7 +1938,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>non ce n’è nessuno</translation>
     </message>
     <message>
-        <source>it is no text</source>
+        <source>it is not text</source>
         <translation>non è un testo</translation>
     </message>
     <message>
@@ -1986,8 +1993,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Mantieni e ri&amp;vedi</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>Non è stata trovata alcuna soluzione che mantenga «%1»: modificare manualmente una delle impostazioni.</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>Nessuna soluzione mantiene «%1»; modificare una delle impostazioni.</translation>
     </message>
     <message>
         <source>Suggestion: %1</source>
@@ -2053,15 +2060,15 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Anteprima…</translation>
     </message>
     <message>
-        <source>Show the pages in a window of their own</source>
+        <source>Show the pages in a separate window</source>
         <translation>Mostrare le pagine in una finestra a parte</translation>
     </message>
 </context>
 <context>
     <name>host::DialogSession</name>
     <message>
-        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
-        <translation>Le impostazioni predefinite dell’utente per questa stampante richiedono valori di cui non dispone: %1.</translation>
+        <source>Your defaults for this printer contain choices that it does not have: %1.</source>
+        <translation>Le impostazioni predefinite dell’utente per questa stampante contengono valori di cui non dispone: %1.</translation>
     </message>
     <message>
         <source>A page of the printer&apos;s settings cannot be shown: %1</source>
@@ -2200,8 +2207,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>&amp;Non cambiare</translation>
     </message>
     <message>
-        <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>«%1» lo impedisce e non è stato trovato alcun cambiamento che risolva il problema.</translation>
+        <source>“%1” conflicts with this choice, and no resolution was found.</source>
+        <translation>«%1» è in conflitto con questa scelta e non è stata trovata alcuna soluzione.</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
@@ -2602,11 +2609,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>%1 non è installato</translation>
     </message>
     <message>
-        <source>The PDF file cannot be made: %1.</source>
+        <source>The PDF file cannot be created: %1.</source>
         <translation>Impossibile creare il file PDF: %1.</translation>
     </message>
     <message>
-        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <source>“%1” cannot be converted to PDF: %2.</source>
         <translation>Impossibile convertire «%1» in un file PDF: %2.</translation>
     </message>
 </context>
@@ -2629,8 +2636,8 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>&amp;Nome della preimpostazione:</translation>
     </message>
     <message>
-        <source>Others who use this computer may read them in the file of the presets.</source>
-        <translation>Altre persone che usano questo computer potrebbero leggerli nel file delle preimpostazioni.</translation>
+        <source>Other users of this computer may be able to read them in the preset file.</source>
+        <translation>Altri utenti di questo computer potrebbero leggerli nel file delle preimpostazioni.</translation>
     </message>
     <message>
         <source>The preset of this name will be replaced.</source>
@@ -2758,11 +2765,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>host::PreviewPane</name>
     <message>
-        <source>Page before</source>
+        <source>Previous page</source>
         <translation>Pagina precedente</translation>
     </message>
     <message>
-        <source>Page after</source>
+        <source>Next page</source>
         <translation>Pagina successiva</translation>
     </message>
     <message>
@@ -2880,10 +2887,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Stampa di %1</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>«%1»</translation>
-    </message>
-    <message>
         <source>There is no document or no printer to print it on</source>
         <translation>Manca il documento o la stampante su cui stamparlo</translation>
     </message>
@@ -2900,7 +2903,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Non c’è alcuna pagina chiamata «%1».</translation>
     </message>
     <message>
-        <source>The print server has not answered yet.</source>
+        <source>The print server has not responded yet.</source>
         <translation>Il server di stampa non ha ancora risposto.</translation>
     </message>
     <message>
@@ -2912,14 +2915,14 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Il file PDF è stato scritto</translation>
     </message>
     <message>
-        <source>Printing follows when the printer has answered.</source>
-        <translation>La stampa seguirà non appena la stampante avrà risposto.</translation>
+        <source>The document will be printed when the printer has responded.</source>
+        <translation>Il documento verrà stampato non appena la stampante avrà risposto.</translation>
     </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
     <message>
-        <source>Search by name or place</source>
+        <source>Search by name or location</source>
         <translation>Cerca per nome o posizione</translation>
     </message>
     <message>
@@ -3028,11 +3031,11 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>La stampante è spenta o non è collegata.</translation>
     </message>
     <message>
-        <source>The printer does not answer.</source>
+        <source>The printer does not respond.</source>
         <translation>La stampante non risponde.</translation>
     </message>
     <message>
-        <source>The printer is being connected to.</source>
+        <source>Connecting to the printer.</source>
         <translation>Connessione alla stampante in corso.</translation>
     </message>
     <message>

@@ -140,7 +140,7 @@
         <translation>--batch にはプリンターが必要です。--ppd だけでは指定されません。</translation>
     </message>
     <message>
-        <source>--batch and --screenshot do not go together.</source>
+        <source>--batch and --screenshot cannot be used together.</source>
         <translation>--batch と --screenshot は併用できません。</translation>
     </message>
     <message>
@@ -174,20 +174,20 @@ Print documents, with a dialog for the settings or without one.
         <translation>-o には「名前=値」または「名前」を指定してください。</translation>
     </message>
     <message>
-        <source>--%1 takes %2; there is no “=” behind a key.</source>
+        <source>--%1 takes %2; there is no “=” after the key.</source>
         <translation>--%1 には「%2」を指定してください。キーの後に「=」がありません。</translation>
     </message>
     <message>
-        <source>The standard input cannot be a value and a document at once.</source>
+        <source>The standard input cannot be both a value and a document.</source>
         <translation>標準入力を値と文書の両方に使うことはできません。</translation>
     </message>
     <message>
-        <source>There is an option on the command line that this program does not have; --help lists them.</source>
-        <translation>コマンドラインに、このプログラムにないオプションがあります。一覧は --help で表示できます。</translation>
+        <source>Unknown option on the command line; --help lists the options.</source>
+        <translation>コマンドラインに不明なオプションがあります。オプションの一覧は --help で表示できます。</translation>
     </message>
     <message>
-        <source>There is no option “%1”; --help lists them.</source>
-        <translation>オプション「%1」はありません。一覧は --help で表示できます。</translation>
+        <source>Unknown option “%1”; --help lists the options.</source>
+        <translation>不明なオプション「%1」です。オプションの一覧は --help で表示できます。</translation>
     </message>
     <message>
         <source>
@@ -216,53 +216,53 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンターのプリセットを削除します。</translation>
     </message>
     <message>
-        <source>--output goes with --batch.</source>
-        <translation>--output は --batch と併用します。</translation>
+        <source>--output requires --batch.</source>
+        <translation>--output には --batch が必要です。</translation>
     </message>
     <message>
         <source>Presets belong to a printer; --ppd alone names none.</source>
         <translation>プリセットはプリンターごとのものです。--ppd だけではプリンターが指定されません。</translation>
     </message>
     <message>
-        <source>--resolve goes with --batch, --summary or --save-preset.</source>
-        <translation>--resolve は --batch、--summary、--save-preset のいずれかと併用します。</translation>
+        <source>--resolve requires --batch, --summary or --save-preset.</source>
+        <translation>--resolve には --batch、--summary、--save-preset のいずれかが必要です。</translation>
     </message>
     <message>
-        <source>--json goes with --batch, --summary, --list-options or a preset.</source>
-        <translation>--json は --batch、--summary、--list-options、またはプリセットのオプションと併用します。</translation>
+        <source>--json requires --batch, --summary, --list-options or an option for presets.</source>
+        <translation>--json には --batch、--summary、--list-options、またはプリセットのオプションが必要です。</translation>
     </message>
     <message>
         <source>Print even if a password or a department code is missing.</source>
         <translation>パスワードまたは部門コードがなくても印刷します。</translation>
     </message>
     <message>
-        <source>--allow-no-password goes with --batch.</source>
-        <translation>--allow-no-password は --batch と一緒に使います。</translation>
+        <source>--allow-no-password requires --batch.</source>
+        <translation>--allow-no-password には --batch が必要です。</translation>
     </message>
 </context>
 <context>
     <name>AttributesText</name>
     <message>
-        <source>The print server did not take “%1”.</source>
+        <source>The print server did not accept “%1”.</source>
         <translation>プリントサーバーは「%1」を受け付けませんでした。</translation>
     </message>
     <message>
-        <source>The print server took another value for “%1” than was sent.</source>
+        <source>The print server uses a different value for “%1” than the one that was sent.</source>
         <translation>プリントサーバーは「%1」に送信した値とは別の値を採用しました。</translation>
     </message>
 </context>
 <context>
     <name>BatchText</name>
     <message>
-        <source>--list-options lists what there is.</source>
-        <translation>一覧は --list-options で表示できます。</translation>
+        <source>--list-options lists the settings.</source>
+        <translation>設定の一覧は --list-options で表示できます。</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>「%1」を維持できる解決方法がありません。設定のいずれかを変更してください。</translation>
     </message>
     <message>
-        <source>Passwords and codes are not kept in the preset; they are to be given each time.</source>
+        <source>Passwords and codes are not saved in the preset; enter them each time.</source>
         <translation>パスワードとコードはプリセットに保存されません。毎回指定してください。</translation>
     </message>
     <message>
@@ -277,8 +277,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>このプリンターには「%1」がありません。ジョブは保護されません。</translation>
     </message>
     <message>
-        <source>This printer does not take over: %1.</source>
-        <translation>このプリンターに引き継がれない設定: %1。</translation>
+        <source>Not available on this printer: %1.</source>
+        <translation>このプリンターでは使用できない設定: %1。</translation>
     </message>
 </context>
 <context>
@@ -327,8 +327,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>DocumentText</name>
     <message>
-        <source>What is to be printed cannot be kept in the folder “%1”: %2.</source>
-        <translation>印刷するデータをフォルダー「%1」に保存できません: %2。</translation>
+        <source>The document cannot be stored in the folder “%1”: %2.</source>
+        <translation>文書をフォルダー「%1」に保存できません: %2。</translation>
     </message>
     <message>
         <source>There is no file “%1”.</source>
@@ -985,8 +985,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ユーザー名またはパスワードが受け付けられませんでした。</translation>
     </message>
     <message>
-        <source>The print server %1 wants to know who prints.</source>
-        <translation>プリントサーバー %1 で印刷するにはログインが必要です。</translation>
+        <source>The print server %1 requires a user name and a password.</source>
+        <translation>プリントサーバー %1 にはユーザー名とパスワードが必要です。</translation>
     </message>
     <message>
         <source>&amp;User name:</source>
@@ -1099,8 +1099,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>PolicyText</name>
     <message>
-        <source>it is not one object in braces</source>
-        <translation>全体が波かっこで囲んだ 1 つのオブジェクトになっていません</translation>
+        <source>it is not a JSON object</source>
+        <translation>JSON オブジェクトではありません</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4</source>
@@ -1131,8 +1131,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>「rules」にはリストを指定してください</translation>
     </message>
     <message>
-        <source>“rules” takes objects in braces</source>
-        <translation>「rules」には波かっこで囲んだオブジェクトを指定してください</translation>
+        <source>“rules” takes JSON objects</source>
+        <translation>「rules」には JSON オブジェクトを指定してください</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -1196,8 +1196,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>文書は「%1」で印刷されませんでした。</translation>
     </message>
     <message>
-        <source>The document was sent to “%1”, but not quite as asked for.</source>
-        <translation>文書を「%1」に送信しましたが、一部は指定どおりではありません。</translation>
+        <source>The document was sent to “%1”, but with different settings.</source>
+        <translation>文書を「%1」に送信しましたが、設定の一部が異なります。</translation>
     </message>
     <message>
         <source>Document</source>
@@ -1330,7 +1330,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1は大きすぎます (%2 MB を超えています)。</translation>
     </message>
     <message>
-        <source>There is no memory for the PPD of “%1”: %2.</source>
+        <source>There is not enough memory for the PPD of “%1”: %2.</source>
         <translation>「%1」の PPD に使うメモリーが足りません: %2。</translation>
     </message>
 </context>
@@ -1460,16 +1460,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>PresetText</name>
     <message>
-        <source>A preset cannot keep the value of “%1”: it holds a tab, a line break or another character that its file has no way to write.</source>
+        <source>A preset cannot store the value of “%1”: it contains a tab, a line break or another character that cannot be written to the preset file.</source>
         <translation>「%1」の値はプリセットに保存できません。タブ、改行など、プリセットのファイルに書き込めない文字が含まれています。</translation>
     </message>
     <message>
-        <source>These are more settings than a preset can keep: its file takes %1 bytes.</source>
-        <translation>設定が多すぎてプリセットに保存できません。ファイルの上限は %1 バイトです。</translation>
+        <source>A preset cannot store this many settings; the limit is %1 bytes.</source>
+        <translation>設定が多すぎてプリセットに保存できません。上限は %1 バイトです。</translation>
     </message>
     <message>
-        <source>This printer does not have what these settings ask for: %1.</source>
-        <translation>この設定で指定されている次の項目は、このプリンターにありません: %1。</translation>
+        <source>This printer does not support these settings: %1.</source>
+        <translation>このプリンターは次の設定に対応していません: %1。</translation>
     </message>
 </context>
 <context>
@@ -1559,7 +1559,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>次の設定は併用できません。</translation>
     </message>
     <message>
-        <source>Changed to end a conflict: %1</source>
+        <source>Changed to resolve a conflict: %1</source>
         <translation>競合を解消するため変更しました: %1</translation>
     </message>
     <message>
@@ -1626,11 +1626,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>ServerText</name>
     <message>
-        <source>The print server %1 wants a user name and a password.</source>
+        <source>The print server %1 requires a user name and a password.</source>
         <translation>プリントサーバー %1 にはユーザー名とパスワードが必要です。</translation>
     </message>
     <message>
-        <source>The printer “%1” wants a user name and a password.</source>
+        <source>The printer “%1” requires a user name and a password.</source>
         <translation>プリンター「%1」にはユーザー名とパスワードが必要です。</translation>
     </message>
     <message>
@@ -1638,11 +1638,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリントサーバー %1 に接続できません。</translation>
     </message>
     <message>
-        <source>The print server %1 gave an answer that cannot be understood.</source>
+        <source>The print server %1 sent a response that cannot be interpreted.</source>
         <translation>プリントサーバー %1 からの応答を解釈できません。</translation>
     </message>
     <message>
-        <source>The connection to the print server %1 broke off.</source>
+        <source>The connection to the print server %1 was lost.</source>
         <translation>プリントサーバー %1 との接続が切れました。</translation>
     </message>
     <message>
@@ -1650,7 +1650,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>印刷はキャンセルされました。</translation>
     </message>
     <message>
-        <source>The print server %1 does not let you do this (%2).</source>
+        <source>The print server %1 does not allow this (%2).</source>
         <translation>プリントサーバー %1 でこの操作を行う権限がありません (%2)。</translation>
     </message>
     <message>
@@ -1776,15 +1776,15 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>名前が長すぎます。</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no space; “%1” would do.</source>
-        <translation>プリセットの名前に空白は使えません。「%1」なら使えます。</translation>
+        <source>The name of a preset cannot contain spaces; use for example “%1”.</source>
+        <translation>プリセットの名前に空白は使えません。たとえば「%1」としてください。</translation>
     </message>
     <message>
-        <source>The name of a preset can hold no control characters.</source>
+        <source>The name of a preset cannot contain control characters.</source>
         <translation>プリセットの名前に制御文字は使えません。</translation>
     </message>
     <message>
-        <source>The name of a preset can hold none of these: / \ # &quot; &apos; =</source>
+        <source>The name of a preset cannot contain any of these characters: / \ # &quot; &apos; =</source>
         <translation>プリセットの名前に次の文字は使えません: / \ # &quot; &apos; =</translation>
     </message>
 </context>
@@ -1795,7 +1795,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンター「%1」は現在ジョブを受け付けていません。</translation>
     </message>
     <message>
-        <source>“%1” cannot be printed: the printer “%2” does not take documents of the type %3.</source>
+        <source>“%1” cannot be printed: the printer “%2” does not accept documents of the type %3.</source>
         <translation>「%1」は印刷できません: プリンター「%2」は種類 %3 の文書に対応していません。</translation>
     </message>
     <message>
@@ -1815,8 +1815,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ジョブが受け付けられたかどうかは不明です。印刷される可能性がありますので、もう一度印刷する前にキューを確認してください。</translation>
     </message>
     <message>
-        <source>The print server did not tell which settings it kept for the job.</source>
-        <translation>プリントサーバーがジョブに採用した設定を確認できませんでした。</translation>
+        <source>The print server did not report the settings that it accepted.</source>
+        <translation>プリントサーバーから、受け付けた設定の報告がありませんでした。</translation>
     </message>
     <message>
         <source>The job %1 could not be canceled.</source>
@@ -1891,6 +1891,13 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>TaskText</name>
+    <message>
+        <source>“%1”</source>
+        <translation>「%1」</translation>
+    </message>
+</context>
+<context>
     <name>TerminalText</name>
     <message>
         <source>The user name or the password was not accepted.</source>
@@ -1931,7 +1938,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>値がありません</translation>
     </message>
     <message>
-        <source>it is no text</source>
+        <source>it is not text</source>
         <translation>テキストではありません</translation>
     </message>
     <message>
@@ -1986,8 +1993,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>そのまま確認(&amp;V)</translation>
     </message>
     <message>
-        <source>No way out was found that keeps “%1”: change one of the settings yourself.</source>
-        <translation>「%1」を維持できる解決方法が見つかりませんでした。設定のいずれかを変更してください。</translation>
+        <source>No resolution keeps “%1”; change one of the settings.</source>
+        <translation>「%1」を維持できる解決方法がありません。設定のいずれかを変更してください。</translation>
     </message>
     <message>
         <source>Suggestion: %1</source>
@@ -2053,7 +2060,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プレビュー…</translation>
     </message>
     <message>
-        <source>Show the pages in a window of their own</source>
+        <source>Show the pages in a separate window</source>
         <translation>ページを別のウィンドウに表示します</translation>
     </message>
 </context>
@@ -2064,7 +2071,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンターの設定のページを表示できません: %1</translation>
     </message>
     <message>
-        <source>Your defaults for this printer ask for choices that it does not have: %1.</source>
+        <source>Your defaults for this printer contain choices that it does not have: %1.</source>
         <translation>このプリンターに対するユーザーの既定値に、プリンターにない選択肢が含まれています: %1。</translation>
     </message>
     <message>
@@ -2200,8 +2207,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>そのままにする(&amp;A)</translation>
     </message>
     <message>
-        <source>“%1” stands in the way, and no change was found that clears it.</source>
-        <translation>「%1」と競合しています。解消できる変更は見つかりませんでした。</translation>
+        <source>“%1” conflicts with this choice, and no resolution was found.</source>
+        <translation>「%1」はこの選択肢と競合します。解決方法は見つかりませんでした。</translation>
     </message>
     <message>
         <source>“%1” is not available now</source>
@@ -2600,11 +2607,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1 がインストールされていません</translation>
     </message>
     <message>
-        <source>The PDF file cannot be made: %1.</source>
+        <source>The PDF file cannot be created: %1.</source>
         <translation>PDF ファイルを作成できません: %1。</translation>
     </message>
     <message>
-        <source>“%1” cannot be made into a PDF file: %2.</source>
+        <source>“%1” cannot be converted to PDF: %2.</source>
         <translation>「%1」を PDF ファイルにできません: %2。</translation>
     </message>
 </context>
@@ -2627,8 +2634,8 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリセットの名前(&amp;N):</translation>
     </message>
     <message>
-        <source>Others who use this computer may read them in the file of the presets.</source>
-        <translation>このコンピューターを使うほかの人が、プリセットのファイルから読み取る可能性があります。</translation>
+        <source>Other users of this computer may be able to read them in the preset file.</source>
+        <translation>このコンピューターのほかのユーザーが、プリセットのファイルから読み取る可能性があります。</translation>
     </message>
     <message>
         <source>The preset of this name will be replaced.</source>
@@ -2756,11 +2763,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>host::PreviewPane</name>
     <message>
-        <source>Page before</source>
+        <source>Previous page</source>
         <translation>前のページ</translation>
     </message>
     <message>
-        <source>Page after</source>
+        <source>Next page</source>
         <translation>次のページ</translation>
     </message>
     <message>
@@ -2890,10 +2897,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1の印刷</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>「%1」</translation>
-    </message>
-    <message>
         <source>Asking the print server…</source>
         <translation>プリントサーバーに問い合わせています…</translation>
     </message>
@@ -2902,7 +2905,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>待機をやめる(&amp;E)</translation>
     </message>
     <message>
-        <source>The print server has not answered yet.</source>
+        <source>The print server has not responded yet.</source>
         <translation>プリントサーバーからまだ応答がありません。</translation>
     </message>
     <message>
@@ -2910,14 +2913,14 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>PDF ファイルを書き出しました</translation>
     </message>
     <message>
-        <source>Printing follows when the printer has answered.</source>
-        <translation>プリンターが応答してから印刷します。</translation>
+        <source>The document will be printed when the printer has responded.</source>
+        <translation>プリンターが応答したら文書を印刷します。</translation>
     </message>
 </context>
 <context>
     <name>host::PrinterBox</name>
     <message>
-        <source>Search by name or place</source>
+        <source>Search by name or location</source>
         <translation>名前または場所で検索</translation>
     </message>
     <message>
@@ -3022,11 +3025,11 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>プリンターの電源が入っていないか、接続されていません。</translation>
     </message>
     <message>
-        <source>The printer does not answer.</source>
+        <source>The printer does not respond.</source>
         <translation>プリンターが応答しません。</translation>
     </message>
     <message>
-        <source>The printer is being connected to.</source>
+        <source>Connecting to the printer.</source>
         <translation>プリンターに接続しています。</translation>
     </message>
     <message>

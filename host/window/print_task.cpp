@@ -5,20 +5,29 @@
 
 #include "host/printing/file_name.h"
 #include "host/window/look/foreign_text.h"
-#include "host/window/print_window.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace host {
 
+namespace {
+
+struct TaskText
+{
+    Q_DECLARE_TR_FUNCTIONS(TaskText)
+};
+
+} // namespace
+
 QString PrintTask::namesOf(const QStringList &paths) const
 {
     if (!files.isEmpty() && !documentName.isEmpty())
-        return PrintWindow::tr("“%1”").arg(oneLine(documentName));
+        return TaskText::tr("“%1”").arg(oneLine(documentName));
     QStringList names;
     for (const QString &path : paths) {
         if (path != QLatin1String("-"))
-            names.append(PrintWindow::tr("“%1”").arg(oneLine(readableFileName(QFileInfo(path).fileName()))));
+            names.append(TaskText::tr("“%1”").arg(oneLine(readableFileName(QFileInfo(path).fileName()))));
     }
     return names.join(QStringLiteral(", "));
 }

@@ -353,7 +353,7 @@ void PrintWindow::stopWaiting()
     if (m_session)
         stayWithPrinter();
     else
-        showError({PrintError::Kind::ServerAway, tr("The print server has not answered yet.")});
+        showError({PrintError::Kind::ServerAway, tr("The print server has not responded yet.")});
 }
 
 void PrintWindow::sessionChanged()
@@ -382,7 +382,8 @@ void PrintWindow::print()
     if (m_state != State::Choosing || m_opener.isBusy() || !m_print->isEnabled())
         return;
     if (m_wait.isUnderWay()) {
-        m_wait.runAfterwards(tr("Printing follows when the printer has answered."), [this] { print(); });
+        m_wait.runAfterwards(tr("The document will be printed when the printer has responded."),
+                             [this] { print(); });
         return;
     }
     if (!mayPrint())

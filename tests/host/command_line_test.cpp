@@ -118,7 +118,7 @@ void CommandLineTest::values_data()
     row("hold", u"Job-Hold-Until"_s, u"no-hold evening indefinite 20:15 9:30 09:30:15"_s);
     row("no hold", u"job-hold-until"_s, u"frob 25:00 12 Evening2"_s,
         "job-hold-until takes no-hold, day-time, ");
-    row("no such key", u"NoSuchKey"_s, u"1"_s, "“NoSuchKey”. --list-options lists what there is.");
+    row("no such key", u"NoSuchKey"_s, u"1"_s, "“NoSuchKey”. --list-options lists the settings.");
 }
 
 void CommandLineTest::values()

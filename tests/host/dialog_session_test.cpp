@@ -297,7 +297,7 @@ void DialogSessionTest::secretValueIsNotRepeatedElsewhere()
     }
     DialogSession raw(officePrinter(u"raw"_s), nullptr);
     carryOver(*m_session, &raw);
-    QCOMPARE(raw.takeNotices(), QStringList(u"This printer does not take over: Cyan Balance, Two-Sided."_s));
+    QCOMPARE(raw.takeNotices(), QStringList(u"Not available on this printer: Cyan Balance, Two-Sided."_s));
 }
 
 void DialogSessionTest::settingsGoFromPrinterToPrinter_data()
@@ -305,16 +305,16 @@ void DialogSessionTest::settingsGoFromPrinterToPrinter_data()
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QString>("notice"); // of a printer without this setting
     QTest::newRow("choice") << QStringList(u"ColorType=Mono"_s)
-                            << u"This printer does not take over: Colour Mode: Black and White."_s;
+                            << u"Not available on this printer: Colour Mode: Black and White."_s;
     QTest::newRow("protection") << QStringList(u"Duplex=DuplexNoTumble"_s)
                                 << u"This printer does not have “Two-Sided: Long Edge”: the job will not be "
                                    "protected."_s;
     QTest::newRow("protection that was taken back")
         << QStringList({u"Duplex=DuplexNoTumble"_s, u"Duplex=None"_s})
-        << u"This printer does not take over: Two-Sided: Off."_s;
+        << u"Not available on this printer: Two-Sided: Off."_s;
     QTest::newRow("code without its choice")
         << QStringList(u"code=01230"_s)
-        << u"This printer does not take over: the code for “Two-Sided: Long Edge”."_s;
+        << u"Not available on this printer: the code for “Two-Sided: Long Edge”."_s;
 }
 
 void DialogSessionTest::settingsGoFromPrinterToPrinter()

@@ -53,7 +53,7 @@ void PolicyTest::errorsNameThePlace_data()
     QTest::newRow("empty object") << "{}"_ba << QString();
     QTest::newRow("a rule") << rule + "}]}" << QString();
     QTest::newRow("empty file") << ""_ba << u"policy.json, line 1, column 1: "_s;
-    QTest::newRow("a list") << "[]"_ba << u"policy.json: it is not one object"_s;
+    QTest::newRow("a list") << "[]"_ba << u"policy.json: it is not a JSON object"_s;
     QTest::newRow("no JSON") << "{\n\"queues\": [\n\"a\",]\n}"_ba
                              << u"policy.json, line 3, column 5: object"_s;
     QTest::newRow("unknown key") << "{\n\"contact\": \"ques\",\n \"ques\": []}"_ba
@@ -66,7 +66,7 @@ void PolicyTest::errorsNameThePlace_data()
                                          << u"policy.json, rule 2: “C” takes a choice"_s;
     QTest::newRow("number for a queue") << "{\"queues\":\n[1]}"_ba << u"policy.json: “queues” takes a list"_s;
     QTest::newRow("rule of text") << "{\n\"rules\": [\"a\"]}"_ba
-                                  << u"policy.json, rule 1: “rules” takes objects"_s;
+                                  << u"policy.json, rule 1: “rules” takes JSON objects"_s;
     QTest::newRow("rules of text") << "{\n\"rules\": \"a\"}"_ba << u"policy.json: “rules” takes a list"_s;
 }
 

@@ -321,7 +321,7 @@ void PrintRequestTest::printingFollowsAWait()
         }
         const auto signs = window.findChildren<QLabel *>();
         QVERIFY(std::any_of(signs.begin(), signs.end(), [](const QLabel *label) {
-            return label->text().endsWith(u"Printing follows when the printer has answered."_s);
+            return label->text().endsWith(u"The document will be printed when the printer has responded."_s);
         }));
         QVERIFY(m_system.submitted.isEmpty());
         QVERIFY(!window.isSettled()); // for a screenshot

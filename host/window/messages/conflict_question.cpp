@@ -34,8 +34,7 @@ QStringList described(const QList<Conflict> &conflicts)
 QStringList suggestionLines(const std::optional<Resolution> &suggestion, const QString &givenUp)
 {
     if (!givenUp.isNull())
-        return {ConflictText::tr("No way out was found that keeps “%1”: change one of the settings yourself.")
-                    .arg(givenUp)};
+        return {ConflictText::tr("No resolution keeps “%1”; change one of the settings.").arg(givenUp)};
     if (!suggestion)
         return {};
     QStringList changes;

@@ -27,7 +27,7 @@ Message messageOf(const ForcedChoice &forced)
     }
     if (!forced.isPossible()) {
         message.lines.append(
-            GreyedChoices::tr("“%1” stands in the way, and no change was found that clears it.")
+            GreyedChoices::tr("“%1” conflicts with this choice, and no resolution was found.")
                 .arg(forced.obstacle.text()));
         return message;
     }

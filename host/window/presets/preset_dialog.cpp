@@ -41,7 +41,7 @@ PresetDialog::PresetDialog(Purpose purpose, const QString &name, const QStringLi
     // reserves space, so that nothing moves when a text appears
     m_problem->setMinimumHeight(2 * fontMetrics().lineSpacing());
     auto *warning =
-        new QLabel(tr("Others who use this computer may read them in the file of the presets."), this);
+        new QLabel(tr("Other users of this computer may be able to read them in the preset file."), this);
     warning->setWordWrap(true);
     warning->setIndent(22);
     m_secrets->setVisible(offersSecrets);

@@ -38,7 +38,7 @@ QWidget *DialogPreview::begin()
     m_button->setMinimumWidth(0);
     m_button->setFocusPolicy(Qt::TabFocus);
     m_button->setProperty(AccessKeys::yieldingProperty, true);
-    m_button->setToolTip(tr("Show the pages in a window of their own"));
+    m_button->setToolTip(tr("Show the pages in a separate window"));
     m_button->setWhatsThis(explanationOf(QStringLiteral("preview")));
     m_button->setHidden(!m_pane->isHidden());
     connect(m_button, &QPushButton::clicked, this, &DialogPreview::openWindow);

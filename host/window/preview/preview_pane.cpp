@@ -75,8 +75,8 @@ void PreviewPane::build()
     zoom->setSpacing(2);
     zoom->addStretch(1);
     buildZoom(zoom);
-    m_back = pageButton(Qt::LeftArrow, tr("Page before"), this);
-    m_forth = pageButton(Qt::RightArrow, tr("Page after"), this);
+    m_back = pageButton(Qt::LeftArrow, tr("Previous page"), this);
+    m_forth = pageButton(Qt::RightArrow, tr("Next page"), this);
     m_caption = new QLabel(this);
     m_caption->setTextFormat(Qt::PlainText);
     m_caption->setAlignment(Qt::AlignCenter);

@@ -98,7 +98,7 @@ QWidget *PrinterBox::makePopup()
     auto *popup = new QFrame(this, Qt::Popup);
     popup->setFrameStyle(QFrame::StyledPanel);
     m_search = new QLineEdit(popup);
-    m_search->setPlaceholderText(tr("Search by name or place"));
+    m_search->setPlaceholderText(tr("Search by name or location"));
     m_search->setAccessibleName(tr("Search printers"));
     m_search->setClearButtonEnabled(true);
     popup->setWhatsThis(explanationOf(QStringLiteral("printer")));

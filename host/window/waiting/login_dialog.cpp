@@ -54,7 +54,8 @@ public:
         if (question.again)
             form->addRow(sentence(LoginText::tr("The user name or the password was not accepted."), this));
         form->addRow(sentence(
-            LoginText::tr("The print server %1 wants to know who prints.").arg(question.server), this));
+            LoginText::tr("The print server %1 requires a user name and a password.").arg(question.server),
+            this));
         if (question.isInClear)
             form->addRow(
                 sentence(LoginText::tr("The password will cross the network without encryption."), this));
