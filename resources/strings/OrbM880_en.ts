@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>SNMPUnknownError</source>
-        <translation>The printer gave an answer that could not be understood, so its color profiles are not known. Choose “Reload from Printer”; if that does not help, ask your administrator.</translation>
+        <translation>The printer sent a response that cannot be interpreted, so its color profiles are not known. Choose “Reload from Printer”; if that does not help, ask your administrator.</translation>
     </message>
     <message>
         <source>PrintMode</source>
@@ -599,15 +599,15 @@
     </message>
     <message>
         <source>PrintMode?</source>
-        <translation>How the printer treats the job when it arrives: prints it at once, keeps it until you type a password, prints one copy for proof, or holds it.</translation>
+        <translation>How the printer treats the job when it arrives: prints it at once, keeps it until you enter a password, prints one proof copy, or holds it.</translation>
     </message>
     <message>
         <source>privatePassword?</source>
-        <translation>Five digits of your choice. The printer keeps the job until you type the same digits on its panel.</translation>
+        <translation>Five digits of your choice. The printer keeps the job until you enter the same digits at its control panel.</translation>
     </message>
     <message>
         <source>DeptCode?</source>
-        <translation>Whether the pages are charged to a department. Turn it on where your printer asks for a code.</translation>
+        <translation>Whether the pages are charged to a department. Turn it on if your printer asks for a code.</translation>
     </message>
     <message>
         <source>departmentCode?</source>
@@ -635,15 +635,15 @@
     </message>
     <message>
         <source>TonerSave?</source>
-        <translation>Prints paler to use less toner. Good for drafts, not for documents that are to be kept.</translation>
+        <translation>Prints paler to use less toner. Good for drafts, not for final documents.</translation>
     </message>
     <message>
         <source>ImageType?</source>
-        <translation>What the pages mostly show; the colors are suited to it. Advanced lets you choose the color profiles yourself.</translation>
+        <translation>What the pages mostly show; the colors are adjusted for it. Advanced lets you choose the color profiles yourself.</translation>
     </message>
     <message>
         <source>BlackOverPrint?</source>
-        <translation>Prints black text on top of the color below it instead of leaving the place white, so that no light edges show.</translation>
+        <translation>Prints black text on top of the color below it instead of leaving the area white, so that no light edges appear.</translation>
     </message>
     <message>
         <source>PureBlackGray?</source>
@@ -675,7 +675,7 @@
     </message>
     <message>
         <source>ContrastVRN?</source>
-        <translation>How far light and dark are apart. Too much loses detail in the brightest and darkest places.</translation>
+        <translation>The difference between light and dark areas. Too much loses detail in the brightest and darkest areas.</translation>
     </message>
     <message>
         <source>SaturationVRN?</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>BackgroundAdjustmentVRN?</source>
-        <translation>How strongly a tinted background is printed. Take it down where the paper of a scanned page shows as gray.</translation>
+        <translation>How strongly a tinted background is printed. Reduce it if the paper of a scanned page appears gray.</translation>
     </message>
     <message>
         <source>selectedRgbSourceProfile?</source>
@@ -699,11 +699,11 @@
     </message>
     <message>
         <source>renderingIntent?</source>
-        <translation>What becomes of colors that the printer cannot print: whether the whole picture is suited or only those colors.</translation>
+        <translation>What happens to colors that the printer cannot print: whether the whole picture is adjusted or only those colors.</translation>
     </message>
     <message>
         <source>applyToDeviceColorOnly?</source>
-        <translation>Uses these profiles only for colors that come without a profile of their own.</translation>
+        <translation>Uses these profiles only for colors that do not have their own profile.</translation>
     </message>
 </context>
 <context>
