@@ -2052,6 +2052,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <comment>smallest size, largest size, unit</comment>
         <translation>Von %1 bis %2 %3</translation>
     </message>
+    <message>
+        <source>a length from %1 to %2 %3</source>
+        <comment>smallest, largest, unit</comment>
+        <translation>eine Länge von %1 bis %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range; enter %3.</source>
+        <comment>setting, value, such as: a number from 1 to 9</comment>
+        <translation>%1: %2 liegt außerhalb des zulässigen Bereichs. Geben Sie %3 ein.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogPreview</name>

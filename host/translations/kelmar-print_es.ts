@@ -2052,6 +2052,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <comment>smallest size, largest size, unit</comment>
         <translation>De %1 a %2 %3</translation>
     </message>
+    <message>
+        <source>a length from %1 to %2 %3</source>
+        <comment>smallest, largest, unit</comment>
+        <translation>una longitud de %1 a %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range; enter %3.</source>
+        <comment>setting, value, such as: a number from 1 to 9</comment>
+        <translation>%1: %2 está fuera del intervalo permitido; introduzca %3.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogPreview</name>

@@ -2052,6 +2052,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <comment>smallest size, largest size, unit</comment>
         <translation>De %1 à %2 %3</translation>
     </message>
+    <message>
+        <source>a length from %1 to %2 %3</source>
+        <comment>smallest, largest, unit</comment>
+        <translation>une longueur de %1 à %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range; enter %3.</source>
+        <comment>setting, value, such as: a number from 1 to 9</comment>
+        <translation>%1 : %2 est hors limites ; saisissez %3.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogPreview</name>

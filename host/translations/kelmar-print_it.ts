@@ -2052,6 +2052,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <comment>smallest size, largest size, unit</comment>
         <translation>Da %1 a %2 %3</translation>
     </message>
+    <message>
+        <source>a length from %1 to %2 %3</source>
+        <comment>smallest, largest, unit</comment>
+        <translation>una lunghezza da %1 a %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range; enter %3.</source>
+        <comment>setting, value, such as: a number from 1 to 9</comment>
+        <translation>%1: %2 non rientra nei limiti; inserire %3.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogPreview</name>

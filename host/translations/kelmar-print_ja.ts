@@ -2052,6 +2052,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <comment>smallest size, largest size, unit</comment>
         <translation>%1 から %2 %3 まで</translation>
     </message>
+    <message>
+        <source>a length from %1 to %2 %3</source>
+        <comment>smallest, largest, unit</comment>
+        <translation>%1 から %2 %3 までの長さ</translation>
+    </message>
+    <message>
+        <source>%1: %2 is out of range; enter %3.</source>
+        <comment>setting, value, such as: a number from 1 to 9</comment>
+        <translation>%1: %2 は範囲外です。%3を入力してください。</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogPreview</name>

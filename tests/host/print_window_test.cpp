@@ -13,6 +13,7 @@
 #include "host/window/waiting/waiting_page.h"
 #include "tests/host/window_fixture.h"
 
+#include <QAccessible>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -387,17 +388,31 @@ void PrintWindowTest::customSizeIsTyped()
     height->selectAll();
     QTest::keyClicks(height, u"20.5"_s);
     QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x20.5cm"_s);
+    width->setFocus();
+    height->setFocus();
     height->selectAll();
-    // more than the printer accepts: the text is kept, and nothing is printed
+    // More than the printer accepts: the text is kept, and so is the earlier size, although 9 cm is accepted.
     QTest::keyClicks(height, u"999999"_s);
     QCOMPARE(height->value(), 999999);
+    QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x20.5cm"_s);
+    auto *problem = height->parentWidget()->findChild<QLabel *>(u"problem"_s);
+    QVERIFY(!problem->isVisible());
     window.print();
     settle();
-    QVERIFY(m_system.submitted.isEmpty() && height->isVisible());
+    QVERIFY(m_system.submitted.isEmpty() && problem->isVisible() && height->hasFocus());
+    QCOMPARE(problem->text(), u"Height: 999999 cm is out of range; enter a length from 2.54 to 70.55 cm."_s);
+    QCOMPARE(height->accessibleDescription(), problem->text());
+    QCOMPARE(QAccessible::queryAccessibleInterface(problem)->role(), QAccessible::Notification);
+    QTest::keyClicks(height, u"8"_s); // replaces the selected input
+    QVERIFY(!problem->isVisible() && height->accessibleDescription().isEmpty());
+    QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x8cm"_s);
+    QTest::keyClicks(height, u"88"_s);
+    QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"Custom.10x20.5cm"_s);
     choose(u"PageSize"_s, u"A4"_s);
     QVERIFY(!width->isVisible());
     QCOMPARE(window.session()->ppd()->markedChoice(u"PageSize"_s), u"A4"_s);
-    // Set elsewhere, with more digits than the field shows: the editor shows it and changes nothing.
+    // Set elsewhere, with more digits than the field shows: the editor shows it instead of an invalid value.
+    choose(u"PageSize"_s, u"Custom"_s);
     QVERIFY(window.session()->markChoice(u"PageSize"_s, u"Custom.100.123x200mm"_s));
     Q_EMIT window.session()->changed();
     QVERIFY(width->isVisible());

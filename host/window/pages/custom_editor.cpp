@@ -3,6 +3,7 @@
 
 #include "host/window/pages/custom_editor.h"
 
+#include "host/window/look/announced.h"
 #include "host/window/look/contrast.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
@@ -48,6 +49,15 @@ double roundedDown(double value, int decimals)
     return -roundedUp(-value, decimals);
 }
 
+// The smallest and the largest length of a side that can be entered in a unit.
+std::pair<QString, QString> limitsOf(const CustomParameter &side, const QString &unit)
+{
+    const int decimals = decimalsOf(unit);
+    const double scale = CustomLength::pointsIn(unit);
+    return {QLocale().toString(roundedUp(side.minimum / scale, decimals), 'f', decimals),
+            QLocale().toString(roundedDown(side.maximum / scale, decimals), 'f', decimals)};
+}
+
 QString defaultUnit()
 {
     return QLocale().measurementSystem() == QLocale::MetricSystem ? QStringLiteral("mm")
@@ -58,7 +68,7 @@ QString defaultUnit()
 
 CustomEditor::CustomEditor(const CustomChoice &custom, const QString &option, QWidget *parent)
     : QWidget(parent), m_custom(custom), m_option(option), m_grid(new QGridLayout(this)),
-      m_hint(new QLabel(this))
+      m_hint(new QLabel(this)), m_problem(new QLabel(this))
 {
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setHorizontalSpacing(8);
@@ -70,10 +80,15 @@ CustomEditor::CustomEditor(const CustomChoice &custom, const QString &option, QW
         for (const CustomParameter &parameter : custom.parameters)
             addParameter(parameter);
     }
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setWordWrap(true);
+    makeAnnounced(m_problem);
+    m_problem->setObjectName(QStringLiteral("problem"));
+    m_problem->hide();
+    for (QLabel *text : {m_hint, m_problem}) {
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        m_grid->addWidget(text, m_grid->rowCount(), 0, 1, 2);
+    }
     colorHint(false);
-    m_grid->addWidget(m_hint, m_grid->rowCount(), 0, 1, 2);
     setFocusProxy(m_fields.first().widget);
     setWhatsThis(explanationOf(QStringLiteral("custom")));
     setChoice(custom.current());
@@ -112,6 +127,7 @@ void CustomEditor::addSize()
                          },
                          true});
         connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+        connect(box, &QDoubleSpinBox::editingFinished, this, &CustomEditor::editingFinished);
     }
     row->addWidget(m_unit);
     m_grid->addLayout(row, 0, 0, 1, 2);
@@ -150,6 +166,7 @@ CustomEditor::Field CustomEditor::wholeField(const CustomParameter &parameter)
     box->setRange(static_cast<int>(std::min(parameter.minimum, -double(mostTyped))),
                   static_cast<int>(std::max(parameter.maximum, double(mostTyped))));
     connect(box, &QSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+    connect(box, &QSpinBox::editingFinished, this, &CustomEditor::editingFinished);
     return {box, [box] { return QString::number(box->value()); },
             [box](const QString &value) { box->setValue(value.toInt()); }, true};
 }
@@ -167,6 +184,7 @@ CustomEditor::Field CustomEditor::numberField(const CustomParameter &parameter)
     if (isLength)
         box->setSuffix(tr(" pt", "points, behind a number"));
     connect(box, &QDoubleSpinBox::valueChanged, this, &CustomEditor::fieldEdited);
+    connect(box, &QDoubleSpinBox::editingFinished, this, &CustomEditor::editingFinished);
     return {box, [box] { return plainNumber(box->value()); },
             [box](const QString &value) { box->setValue(value.toDouble()); }, true};
 }
@@ -183,6 +201,7 @@ CustomEditor::Field CustomEditor::textField(const CustomParameter &parameter)
         field->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText);
     }
     connect(field, &QLineEdit::textEdited, this, &CustomEditor::fieldEdited);
+    connect(field, &QLineEdit::editingFinished, this, &CustomEditor::editingFinished);
     return {field, [field] { return field->text(); },
             [field](const QString &value) { field->setText(value); }, false};
 }
@@ -192,19 +211,16 @@ void CustomEditor::setRanges()
     QStringList words;
     if (m_custom.isSize) {
         const int decimals = decimalsOf(m_currentUnit);
-        const double scale = CustomLength::pointsIn(m_currentUnit);
         QStringList least, most;
         for (qsizetype i = 0; i < m_sides.size(); ++i) {
-            const CustomParameter &side = m_custom.parameters.at(i);
-            const double from = roundedUp(side.minimum / scale, decimals);
-            const double to = roundedDown(side.maximum / scale, decimals);
+            const auto [from, to] = limitsOf(m_custom.parameters.at(i), m_currentUnit);
             const QSignalBlocker quiet(m_sides.at(i));
             m_sides.at(i)->setDecimals(3); // values from the command line may have more digits
             m_sides.at(i)->setRange(0, mostTyped);
             m_sides.at(i)->setDecimals(decimals);
             m_sides.at(i)->setSingleStep(m_currentUnit == QLatin1String("in") ? 0.25 : 1);
-            least.append(QLocale().toString(from, 'f', decimals));
-            most.append(QLocale().toString(to, 'f', decimals));
+            least.append(from);
+            most.append(to);
         }
         words.append(tr("From %1 to %2 %3", "smallest size, largest size, unit")
                          .arg(least.join(QStringLiteral(" × ")), most.join(QStringLiteral(" × ")),
@@ -233,6 +249,7 @@ void CustomEditor::changeUnit()
         m_fields.at(i).setValue(QString::number(points.at(i), 'f', 6));
     }
     fieldEdited();
+    Q_EMIT editingFinished();
 }
 
 void CustomEditor::colorHint(bool wrong)
@@ -242,15 +259,46 @@ void CustomEditor::colorHint(bool wrong)
     m_hint->setPalette(changed);
 }
 
+// The first field whose value is not valid; -1 if there is none.
+qsizetype CustomEditor::invalidField() const
+{
+    for (qsizetype i = 0; i < m_fields.size(); ++i) {
+        if (!m_custom.parameters.at(i).read(m_fields.at(i).value()))
+            return i;
+    }
+    return -1;
+}
+
 void CustomEditor::showProblem()
 {
-    colorHint(true);
-    setFocus();
+    QWidget *field = m_fields.at(qMax(0, invalidField())).widget;
+    QPalette red = m_problem->palette();
+    red.setColor(QPalette::WindowText, errorInk(palette()));
+    m_problem->setPalette(red);
+    m_problem->setText(problem());
+    announce(m_problem, m_problem->text());
+    m_hint->hide();
+    m_problem->show();
+    field->setAccessibleDescription(m_problem->text());
+    field->setFocus();
+    if (auto *number = qobject_cast<QAbstractSpinBox *>(field))
+        number->selectAll();
+}
+
+void CustomEditor::hideProblem()
+{
+    if (m_problem->isHidden())
+        return;
+    m_problem->hide();
+    m_hint->show();
+    for (const Field &field : std::as_const(m_fields))
+        field.widget->setAccessibleDescription({});
 }
 
 void CustomEditor::fieldEdited()
 {
     m_shown.clear();
+    hideProblem();
     colorHint(m_fields.first().isNumber && !problem().isEmpty()); // a text may be incomplete
     Q_EMIT edited();
 }
@@ -273,6 +321,8 @@ void CustomEditor::setChoice(const QString &choice)
         m_fields.at(i).setValue(values->at(i));
     }
     m_shown = choice; // may have more digits than the fields
+    hideProblem();
+    colorHint(false);
 }
 
 QString CustomEditor::choice() const
@@ -288,8 +338,27 @@ QString CustomEditor::choice() const
 QString CustomEditor::problem() const
 {
     QString problem;
-    (void)m_custom.read(choice(), m_option, &problem);
-    return problem;
+    const bool isValid = m_custom.read(choice(), m_option, &problem).has_value();
+    const qsizetype invalid = isValid ? -1 : invalidField();
+    if (invalid < 0 || !m_fields.at(invalid).isNumber)
+        return problem;
+    const CustomParameter &parameter = m_custom.parameters.at(invalid);
+    QLocale plain;
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    QString value = m_fields.at(invalid).value();
+    QString range = parameter.inWords();
+    if (m_custom.isSize) {
+        const QString unit = m_unit->currentText();
+        const auto [from, to] = limitsOf(parameter, m_currentUnit);
+        value.chop(m_currentUnit.size());
+        range = tr("a length from %1 to %2 %3", "smallest, largest, unit").arg(from, to, unit);
+    }
+    value = plain.toString(value.toDouble(), 'f', QLocale::FloatingPointShortest);
+    if (m_custom.isSize)
+        value += QLatin1Char(' ') + m_unit->currentText();
+    const QString name = m_custom.parameters.size() > 1 ? parameter.text : m_option;
+    return tr("%1: %2 is out of range; enter %3.", "setting, value, such as: a number from 1 to 9")
+        .arg(oneLine(name, 40), value, range);
 }
 
 } // namespace host

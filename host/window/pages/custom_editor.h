@@ -31,11 +31,14 @@ public:
     QString choice() const;
     // The localised problem with the input; null if there is none.
     QString problem() const;
-    // Sets the focus, and shows the hint in the color of errors until a value is edited.
+    // Shows and announces the problem until a value is edited, and moves the focus to the value.
     void showProblem();
 
 Q_SIGNALS:
+    // A value has changed, with each key that is typed.
     void edited();
+    // The user has left a field, pressed Return in it, or chosen a unit.
+    void editingFinished();
 
 private:
     struct Field
@@ -53,6 +56,8 @@ private:
     void changeUnit();
     void setRanges();
     void fieldEdited();
+    qsizetype invalidField() const;
+    void hideProblem();
     void colorHint(bool wrong);
 
     CustomChoice m_custom;
@@ -64,6 +69,7 @@ private:
     QComboBox *m_unit = nullptr;
     QString m_currentUnit;
     QLabel *m_hint;
+    QLabel *m_problem; // replaces the hint while it is shown
 };
 
 } // namespace host

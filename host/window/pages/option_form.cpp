@@ -16,6 +16,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
@@ -78,6 +79,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
         m_rows.last().editor = editor;
         grid->addWidget(editor, row + 1, 1);
         connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
+        connect(editor, &CustomEditor::editingFinished, this, [this, index] { finishCustom(index); });
     }
     if (!box->isEnabled() || !m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
         addAttribution(box, grid, row + 2);
@@ -99,11 +101,13 @@ void OptionForm::choose(qsizetype index)
 {
     Row &row = m_rows[index];
     row.awaitsValues = false;
+    row.isTyped = false;
     const QString choice = row.box->currentData().toString();
     if (row.editor && choice == customItem) {
         row.editor->show();
         row.editor->setFocus();
         markCustom(index);
+        finishCustom(index);
         return;
     }
     m_session->markChoice(row.keyword, choice);
@@ -111,14 +115,29 @@ void OptionForm::choose(qsizetype index)
     Q_EMIT chosen(row.keyword);
 }
 
-// Incomplete values are not marked; the form keeps them and reports the problem.
+// Invalid values are not marked; the form keeps them and reports the problem. The choice that was marked
+// before the user began to type is marked again, since a valid beginning of the input is not what the user
+// wants.
 void OptionForm::markCustom(qsizetype index)
 {
     Row &row = m_rows[index];
+    const QString earlier = m_session->ppd()->markedChoice(row.keyword);
+    if (!std::exchange(row.isTyped, true))
+        row.before = earlier;
     row.awaitsValues = !m_session->markChoice(row.keyword, row.editor->choice());
+    if (row.awaitsValues && earlier != row.before)
+        m_session->markChoice(row.keyword, row.before);
+    row.marked = m_session->ppd()->markedChoice(row.keyword);
+    const bool isMarked = !row.awaitsValues || row.marked != earlier;
     refresh();
-    if (!row.awaitsValues)
+    if (isMarked)
         Q_EMIT chosen(row.keyword);
+}
+
+void OptionForm::finishCustom(qsizetype index)
+{
+    Row &row = m_rows[index];
+    row.isTyped = row.isTyped && row.awaitsValues;
 }
 
 platform::ChoiceBox *OptionForm::box(const QString &keyword) const
@@ -159,6 +178,10 @@ void OptionForm::refresh()
 void OptionForm::refreshRow(Row &row, quint32 revision)
 {
     const QString marked = m_session->ppd()->markedChoice(row.keyword);
+    if (row.isTyped && marked != row.marked) { // set elsewhere, for example by undo
+        row.isTyped = false;
+        row.awaitsValues = false;
+    }
     const bool isCustom = row.editor && (row.awaitsValues || isCustomChoice(marked));
     const QString current = isCustom ? customItem : marked;
     if (row.editor) {

@@ -31,7 +31,7 @@ public:
     platform::ChoiceBox *box(const QString &keyword) const;
     // Why an incomplete custom choice cannot be marked; null if there is none.
     QString problem() const;
-    // Places the cursor at the problem.
+    // Shows and announces the problem, and moves the focus to it.
     void showProblem();
 
 public Q_SLOTS:
@@ -49,6 +49,9 @@ private:
         platform::ChoiceBox *box;
         CustomEditor *editor = nullptr; // null for an option without a custom choice
         bool awaitsValues = false;      // a custom choice is selected, but its values are incomplete
+        bool isTyped = false;           // values of the custom choice are being edited
+        QString before = QString();     // the marked choice before that
+        QString marked = QString();     // the choice that the last edit has marked
         // The revision of the PPD for which items were greyed out; they need no update while it is unchanged.
         quint32 revision = 0;
         QString current = QString();
@@ -60,6 +63,7 @@ private:
     static void addAttribution(QWidget *box, QGridLayout *grid, int row);
     void choose(qsizetype index);
     void markCustom(qsizetype index);
+    void finishCustom(qsizetype index);
     void refreshRow(Row &row, quint32 revision);
     void greyOut(const Row &row);
 
