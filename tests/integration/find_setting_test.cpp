@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
@@ -391,6 +392,8 @@ void FindSettingTest::helpOfEveryPage()
         auto *help = m_window->findChild<HelpPage *>();
         QVERIFY(help && help->isVisible());
         QVERIFY2(help->text().startsWith(m_window->book()->titleOf(page)), qPrintable(help->text()));
+        QCoreApplication::processEvents();
+        QCOMPARE(help->browser()->verticalScrollBar()->value(), 0);
         texts.insert(help->text());
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
         QVERIFY(m_window->isVisible() && !help->isVisible() && m_window->book()->list()->hasFocus());

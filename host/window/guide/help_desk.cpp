@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTextBrowser>
 
@@ -107,6 +108,8 @@ bool HelpDesk::showTopic(const QString &topic)
     m_page->setVisible(true);
     m_page->browser()->setFocus(Qt::OtherFocusReason);
     stack()->setCurrentWidget(m_page);
+    // When it is first shown, the browser scrolls to its cursor, before it has its final height.
+    m_page->browser()->verticalScrollBar()->setValue(0);
     Q_EMIT shown();
     return true;
 }
