@@ -5,6 +5,7 @@
 
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStylePainter>
 
 #include <utility>
 
@@ -12,8 +13,8 @@ namespace host {
 
 namespace {
 
-constexpr int sideAir = 12;    // pixels on both sides of the text together
-constexpr int leastChars = 40; // of average width; a narrow button may elide a longer text to this length
+constexpr int sideAir = 12;    // pixels on both sides of the text together, in addition to those of the style
+constexpr int leastChars = 24; // of average width; a button for a longer text may be narrowed to this width
 
 } // namespace
 
@@ -30,15 +31,19 @@ MenuButton::MenuButton(QWidget *parent) : QPushButton(parent)
 
 QSize MenuButton::sizeHint() const
 {
-    QSize hint = QPushButton::sizeHint();
-    hint.rwidth() += sideAir;
-    if (menu())
-        return hint;
+    return textSizeHint().grownBy({sideAir / 2, 0, sideAir / 2, 0});
+}
+
+// The smallest size in which the style draws the whole text and the arrow, whether or not there is a menu
+// yet.
+QSize MenuButton::textSizeHint() const
+{
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.rect.setSize(hint);
-    hint.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
-    return hint;
+    QSize size = fontMetrics().size(Qt::TextShowMnemonic, text());
+    option.rect.setSize(size);
+    size.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, size, this);
 }
 
 QSize MenuButton::minimumSizeHint() const
@@ -51,17 +56,20 @@ void MenuButton::initStyleOption(QStyleOptionButton *option) const
 {
     QPushButton::initStyleOption(option);
     option->features |= QStyleOptionButton::HasMenu;
-    // In a narrow button the end of the text is elided, instead of both sides being cut off; this may include
-    // the access key.
-    const int room = width() - sideAir - style()->pixelMetric(QStyle::PM_MenuButtonIndicator, option, this);
-    if (option->fontMetrics.horizontalAdvance(option->text) > room)
-        option->text =
-            option->fontMetrics.elidedText(option->text, Qt::ElideRight, room, Qt::TextShowMnemonic);
 }
 
-void MenuButton::paintEvent(QPaintEvent *event)
+// In a narrow button the end of the text is elided, instead of both sides being cut off; this may include the
+// access key. The size hint does not depend on the elided text.
+void MenuButton::paintEvent(QPaintEvent *)
 {
-    QPushButton::paintEvent(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int missing = textSizeHint().width() - width();
+    if (missing > 0) {
+        const int room = fontMetrics().size(Qt::TextShowMnemonic, text()).width() - missing;
+        option.text = fontMetrics().elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
+    }
+    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
     if (!std::exchange(m_wasPainted, true))
         QMetaObject::invokeMethod(this, &MenuButton::wantMenu, Qt::QueuedConnection);
 }

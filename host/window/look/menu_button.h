@@ -27,6 +27,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QSize textSizeHint() const;
     void wantMenu();
 
     bool m_wasPainted = false;
