@@ -15,7 +15,7 @@ import sys
 import pyatspi
 from gi.repository import GLib
 
-PATIENCE = 25  # seconds for the whole
+PATIENCE = 90  # seconds for the whole
 EVENTS = ("object:state-changed:showing", "object:state-changed:focused",
           "object:property-change:accessible-name", "object:property-change:accessible-description")
 

@@ -14,6 +14,7 @@ namespace {
 
 // The system's Python, which has the system's packages; another may come first in the path.
 const QString python = u"/usr/bin/python3"_s;
+constexpr int patience = 120'000; // ms; longer than the script's own
 
 } // namespace
 
@@ -53,10 +54,10 @@ void ScreenReaderTest::privateJobIsTold()
                                    u"Duplex=DuplexTumble"_s})
         words += {u"--set"_s, setting};
     run.start(u"xvfb-run"_s, words + QStringList(sourcePath("/demo/report.pdf")));
-    QVERIFY(run.waitForFinished());
+    const bool hasEnded = run.waitForFinished(patience);
     const QByteArray log = run.readAll();
     qInfo().noquote() << log;
-    QVERIFY2(run.exitCode() == 0, log.constData());
+    QVERIFY2(hasEnded && run.exitCode() == 0, log.constData());
     const auto job = server.waitForJob(1);
     QVERIFY(job && job->optionText.contains(u"PrintMode=Private"_s));
 }

@@ -6,24 +6,22 @@
 #include "host/session/job_settings.h"
 #include "host/window/look/announced.h"
 #include "host/window/look/centred_label.h"
+#include "host/window/look/changing_label.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
 #include "host/window/look/status_glyph.h"
 
 #include <QHBoxLayout>
-#include <QTimer>
 #include <QVBoxLayout>
 
-#include <chrono>
 #include <utility>
 
 namespace host {
 
 namespace {
 
-constexpr int iconSize = 48;                    // pixels
-constexpr std::chrono::seconds lateReading(30); // by a busy screen reader
+constexpr int iconSize = 48; // pixels
 
 StatusGlyph::Kind kindOf(const JobStatus &status)
 {
@@ -127,7 +125,7 @@ void ResultPage::showUnknown(const Submission &submission)
 {
     showTitle(tr("Perhaps sent to “%1”").arg(m_printer));
     m_glyph->setKind(StatusGlyph::Kind::Notice);
-    showState(wrappable(submission.error.message));
+    m_state = showAnnounced(m_state, wrappable(submission.error.message));
     showActions({});
 }
 
@@ -136,24 +134,6 @@ void ResultPage::showTitle(const QString &title)
     m_title->setText(title);
     announce(m_title,
              m_documents->text().isEmpty() ? title : title + QLatin1Char('\n') + m_documents->text());
-}
-
-// Shows each state in a new label. A screen reader that receives an announcement late reads the current text
-// of the label, so with a single label it would read the last state several times. It would read an empty
-// text if the label no longer existed, so the previous label is kept for a while.
-void ResultPage::showState(const QString &state)
-{
-    auto *column = static_cast<QVBoxLayout *>(layout());
-    auto *label = centredLabel(this);
-    makeAnnounced(label);
-    label->setText(state);
-    label->setAccessibleName(state);
-    column->insertWidget(column->indexOf(m_state), label);
-    label->stackUnder(m_notes); // screen readers use this order
-    QLabel *const previous = std::exchange(m_state, label);
-    previous->hide();
-    QTimer::singleShot(lateReading, previous, &QObject::deleteLater);
-    label->setVisible(true);
 }
 
 void ResultPage::showStatus(const JobStatus &status)
@@ -167,7 +147,7 @@ void ResultPage::showStatus(const JobStatus &status)
     if (state == m_state->text())
         return;
     m_problem->hide(); // about the job's previous state
-    showState(state);
+    m_state = showAnnounced(m_state, state);
 }
 
 // Shows only possible actions: a job that has ended, or is unknown, cannot be canceled.

@@ -41,7 +41,6 @@ private:
     void buildActions();
     void showActions(const JobStatus &status);
     void showTitle(const QString &title);
-    void showState(const QString &state);
     void showUnknown(const Submission &submission);
     QString sentence(const JobStatus &status) const;
 

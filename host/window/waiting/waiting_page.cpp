@@ -3,8 +3,8 @@
 
 #include "host/window/waiting/waiting_page.h"
 
-#include "host/window/look/announced.h"
 #include "host/window/look/centred_label.h"
+#include "host/window/look/changing_label.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
 
@@ -33,8 +33,6 @@ WaitingPage::WaitingPage(QWidget *parent)
     : QWidget(parent), m_text(centredLabel(this)), m_amount(centredLabel(this)),
       m_bar(new QProgressBar(this)), m_cancel(new DialogButton({}, this))
 {
-    // Not the page, whose name a screen reader repeats when its button gets the focus.
-    makeAnnounced(m_text);
     QFont large = m_text->font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_text->setFont(large);
@@ -58,11 +56,10 @@ WaitingPage::WaitingPage(QWidget *parent)
 
 void WaitingPage::setTask(const QString &text, const QString &cancel)
 {
-    m_text->setText(text);
+    m_text = showAnnounced(m_text, text);
     m_cancel->setText(cancel);
     m_cancel->setWhatsThis(explanationOf(QStringLiteral("give-up")));
     m_cancel->setEnabled(true);
-    announce(m_text, text);
     setProgress(0, 0);
 }
 
@@ -81,8 +78,7 @@ void WaitingPage::setProgress(qint64 done, qint64 total)
 
 void WaitingPage::setCancelling(const QString &text)
 {
-    m_text->setText(text);
-    announce(m_text, text);
+    m_text = showAnnounced(m_text, text);
     m_cancel->setEnabled(false);
 }
 

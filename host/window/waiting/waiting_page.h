@@ -32,7 +32,7 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    QLabel *m_text;
+    QLabel *m_text; // a new one for each text
     QLabel *m_amount;
     QProgressBar *m_bar;
     QPushButton *m_cancel;
