@@ -221,6 +221,11 @@ void PrinterBoxTest::reportsAreShown()
     for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known", "Upper tray 40 %",
                              "Tray 1: A4", "Reported by the printer at 13:05"})
         QVERIFY2(picker.box()->toolTip().contains(QLatin1String(line)), qPrintable(picker.box()->toolTip()));
+    for (const char *part : {"Cyan 80 %", "Drum: level not known", "Upper tray 40 %", "Tray 1: A4"})
+        QVERIFY2(said.contains(QLatin1String(part)), qPrintable(said));
+    printer.report.time = printer.report.time.addSecs(60); // is no news for a screen reader
+    picker.putPrinter(printer);
+    QCOMPARE(picker.box()->accessibleDescription(), said);
     picker.putPrinter(printer.withoutState());
     QVERIFY(!picker.box()->toolTip().contains(QStringLiteral("Black")));
 }

@@ -16,6 +16,12 @@
 
 namespace host {
 
+namespace {
+
+constexpr qsizetype mostDescribed = 1000; // characters of the state with all supplies
+
+} // namespace
+
 PrinterPicker::PrinterPicker(QWidget *parent)
     : QWidget(parent), m_list(new PrinterList(this)), m_box(new PrinterBox(m_list, this)),
       m_state(new ElidedLabel(this))
@@ -204,7 +210,12 @@ void PrinterPicker::describe(const Destination &printer)
             .join(QLatin1Char('\n'));
     m_state->setToolTip(tooltipOf(more));
     m_box->setToolTip(tooltipOf(more));
-    m_box->setAccessibleDescription(oneLine(state));
+    // Without the time of the report: a screen reader reads a changed description again.
+    Destination untimed = printer;
+    untimed.report.time = {};
+    const QStringList parts =
+        QStringList{state} + printerSuppliesText(untimed).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    m_box->setAccessibleDescription(oneLine(parts.join(QStringLiteral(" · ")), mostDescribed));
 }
 
 } // namespace host
