@@ -100,6 +100,15 @@ const Protection::Secret *missingCode(const DialogSession &session)
     return nullptr;
 }
 
+QString missingCodeText(const DialogSession &session, const Protection::Secret &missing)
+{
+    const QString text =
+        session.protection().protects(missing.option, missing.choice)
+            ? ProtectionText::tr("“%1” has been chosen, but no password has been given for it.")
+            : ProtectionText::tr("“%1” has been chosen, but no code has been given for it.");
+    return text.arg(session.ppd()->described(missing.option, missing.choice).text());
+}
+
 QString lackingProtection(const DialogSession &session)
 {
     const QMap<QString, QString> &options = session.destination().options;
@@ -118,8 +127,7 @@ QString protectionGap(const DialogSession &session)
         return ProtectionText::tr("This printer does not have “%1”: the job will not be protected.")
             .arg(lacking);
     if (const Protection::Secret *missing = missingCode(session))
-        return ProtectionText::tr("“%1” has been chosen, but no code has been given for it.")
-            .arg(session.ppd()->described(missing->option, missing->choice).text());
+        return missingCodeText(session, *missing);
     const Protection &protection = session.protection();
     for (const Protection::Secret &secret :
          session.ppd() ? protection.secrets : QList<Protection::Secret>()) {
@@ -127,7 +135,7 @@ QString protectionGap(const DialogSession &session)
         const bool isUsed = !option || option->markedChoice == secret.choice;
         if (!isUsed && protection.protects(secret.option, secret.choice) &&
             option->hasChoice(secret.choice) && isChosen(session.chosen(), secret))
-            return ProtectionText::tr("A code has been given, but not “%1”: the job is not protected.")
+            return ProtectionText::tr("A password has been given, but not “%1”: the job is not protected.")
                 .arg(session.ppd()->described(secret.option, secret.choice).text());
     }
     return {};

@@ -25,6 +25,8 @@ QStringList protectionAtRisk(const QList<Conflict> &conflicts, const Protection 
 // switched on. A code is complete if all its digits have been chosen or are in the settings of the
 // destination. Null if none is missing; owned by the session.
 const Protection::Secret *missingCode(const DialogSession &session);
+// A sentence that says that it is missing; `missing` is one of the session's.
+QString missingCodeText(const DialogSession &session, const Protection::Secret &missing);
 // The protection in the initial settings, such as a preset with private printing, that the PPD does not
 // support; empty if there is none.
 QString lackingProtection(const DialogSession &session);

@@ -1540,12 +1540,16 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>ProtectionText</name>
     <message>
+        <source>“%1” has been chosen, but no password has been given for it.</source>
+        <translation>„%1“ ist gewählt, aber es wurde kein Passwort dafür angegeben.</translation>
+    </message>
+    <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
         <translation>„%1“ ist gewählt, aber es wurde kein Code dafür angegeben.</translation>
     </message>
     <message>
-        <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>Es wurde ein Code angegeben, aber „%1“ ist nicht gewählt: Der Auftrag ist nicht geschützt.</translation>
+        <source>A password has been given, but not “%1”: the job is not protected.</source>
+        <translation>Es wurde ein Passwort angegeben, aber „%1“ ist nicht gewählt: Der Auftrag ist nicht geschützt.</translation>
     </message>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
@@ -3164,10 +3168,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>Code missing</source>
         <translation>Code fehlt</translation>
-    </message>
-    <message>
-        <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>„%1“ ist gewählt, aber es wurde kein Code dafür angegeben.</translation>
     </message>
     <message>
         <source>Use Without Pass&amp;word</source>

@@ -1540,12 +1540,16 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>ProtectionText</name>
     <message>
+        <source>“%1” has been chosen, but no password has been given for it.</source>
+        <translation>Se ha elegido «%1», pero no se ha indicado ninguna contraseña para ello.</translation>
+    </message>
+    <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
         <translation>Se ha elegido «%1», pero no se ha indicado ningún código para ello.</translation>
     </message>
     <message>
-        <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>Se ha indicado un código, pero no se ha elegido «%1»: el trabajo no está protegido.</translation>
+        <source>A password has been given, but not “%1”: the job is not protected.</source>
+        <translation>Se ha indicado una contraseña, pero no se ha elegido «%1»: el trabajo no está protegido.</translation>
     </message>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
@@ -3164,10 +3168,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>Code missing</source>
         <translation>Falta el código</translation>
-    </message>
-    <message>
-        <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>Se ha elegido «%1», pero no se ha indicado ningún código para ello.</translation>
     </message>
     <message>
         <source>Use Without Pass&amp;word</source>

@@ -1540,12 +1540,16 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>ProtectionText</name>
     <message>
+        <source>“%1” has been chosen, but no password has been given for it.</source>
+        <translation>«&#xa0;%1&#xa0;» a été choisi, mais aucun mot de passe n’a été indiqué.</translation>
+    </message>
+    <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
         <translation>«&#xa0;%1&#xa0;» a été choisi, mais aucun code n’a été indiqué.</translation>
     </message>
     <message>
-        <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>Un code a été indiqué, mais «&#xa0;%1&#xa0;» n’a pas été choisi&#xa0;: la tâche n’est pas protégée.</translation>
+        <source>A password has been given, but not “%1”: the job is not protected.</source>
+        <translation>Un mot de passe a été indiqué, mais «&#xa0;%1&#xa0;» n’a pas été choisi&#xa0;: la tâche n’est pas protégée.</translation>
     </message>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
@@ -3164,10 +3168,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>Code missing</source>
         <translation>Code manquant</translation>
-    </message>
-    <message>
-        <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>«&#xa0;%1&#xa0;» a été choisi, mais aucun code n’a été indiqué.</translation>
     </message>
     <message>
         <source>Use Without Pass&amp;word</source>

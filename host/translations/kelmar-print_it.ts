@@ -1540,12 +1540,16 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>ProtectionText</name>
     <message>
+        <source>“%1” has been chosen, but no password has been given for it.</source>
+        <translation>È stato scelto «%1», ma non è stata fornita la password necessaria.</translation>
+    </message>
+    <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
         <translation>È stato scelto «%1», ma non è stato fornito il codice necessario.</translation>
     </message>
     <message>
-        <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>È stato fornito un codice, ma non è stato scelto «%1»: il lavoro non è protetto.</translation>
+        <source>A password has been given, but not “%1”: the job is not protected.</source>
+        <translation>È stata fornita una password, ma non è stato scelto «%1»: il lavoro non è protetto.</translation>
     </message>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
@@ -3164,10 +3168,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>Code missing</source>
         <translation>Codice mancante</translation>
-    </message>
-    <message>
-        <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>È stato scelto «%1», ma non è stato fornito il codice necessario.</translation>
     </message>
     <message>
         <source>Use Without Pass&amp;word</source>

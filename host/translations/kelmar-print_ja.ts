@@ -1540,12 +1540,16 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>ProtectionText</name>
     <message>
+        <source>“%1” has been chosen, but no password has been given for it.</source>
+        <translation>「%1」が選択されていますが、パスワードが指定されていません。</translation>
+    </message>
+    <message>
         <source>“%1” has been chosen, but no code has been given for it.</source>
         <translation>「%1」が選択されていますが、コードが指定されていません。</translation>
     </message>
     <message>
-        <source>A code has been given, but not “%1”: the job is not protected.</source>
-        <translation>コードは指定されていますが、「%1」が選択されていません。ジョブは保護されません。</translation>
+        <source>A password has been given, but not “%1”: the job is not protected.</source>
+        <translation>パスワードは指定されていますが、「%1」が選択されていません。ジョブは保護されません。</translation>
     </message>
     <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
@@ -3157,10 +3161,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>Code missing</source>
         <translation>コードが入力されていません</translation>
-    </message>
-    <message>
-        <source>“%1” has been chosen, but no code has been given for it.</source>
-        <translation>「%1」が選択されていますが、コードが指定されていません。</translation>
     </message>
     <message>
         <source>Use Without Pass&amp;word</source>

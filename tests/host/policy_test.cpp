@@ -302,7 +302,7 @@ void PolicyTest::codesAreAskedFor_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("said");
     const QString mode = u"--set PrintMode=Private"_s, without = u" --allow-no-password"_s;
-    const QString missing = u"no code has been given for it"_s, part = u"Only a part of the code"_s;
+    const QString missing = u"no password has been given for it"_s, part = u"Only a part of the code"_s;
     const QByteArray free, locked = R"("PrintMode": "Private")";
     const QString administrator =
         u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s;
@@ -314,7 +314,7 @@ void PolicyTest::codesAreAskedFor_data()
     QTest::newRow("digit by digit")
         << free << mode + u" -o DINDigit1=1 -o DINDigit2=0 -o DINDigit3=0 -o DINDigit4=0 -o DINDigit5=0"_s
         << 0 << QString();
-    QTest::newRow("no department") << free << u"-o DeptCode"_s << 2 << missing;
+    QTest::newRow("no department") << free << u"-o DeptCode"_s << 2 << u"no code has been given for it"_s;
     QTest::newRow("department") << free << u"-o DeptCode --set departmentCode=00001"_s << 0 << QString();
     QTest::newRow("locked") << locked << QString() << 1 << administrator;
     QTest::newRow("locked, allowed") << locked << without << 1 << administrator;
@@ -429,7 +429,7 @@ void PolicyTest::panelKeepsWhatIsLocked()
     QVERIFY(!session->panels().panel(colours)->panelView()->isEnabled());
     QVERIFY(!session->markChoice(u"ColorBalanceCyan"_s, u"1"_s));
     printButton()->click(); // without the code, which is asked for
-    QVERIFY(find<MessageBar>()->text().contains(u"no code has been given"_s));
+    QVERIFY(find<MessageBar>()->text().contains(u"no password has been given"_s));
     find<MessageBar>()->buttons().first()->click(); // prints without it
     QTRY_VERIFY(shows(u"“Print Mode” has to be “Private”, with a code. Set by the administrator."_s));
     QVERIFY(m_system.submitted.isEmpty());

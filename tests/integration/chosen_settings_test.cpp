@@ -215,8 +215,8 @@ void ChosenSettingsTest::gapsInTheProtection_data()
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<QString>("notice");
     QTest::newRow("no code") << privateJob.mid(0, 2)
-                             << u"“Print Mode: Private” has been chosen, but no code"_s;
-    QTest::newRow("no private printing") << privateJob.mid(2) << u"A code has been given, but not"_s;
+                             << u"“Print Mode: Private” has been chosen, but no password"_s;
+    QTest::newRow("no private printing") << privateJob.mid(2) << u"A password has been given, but not"_s;
     QTest::newRow("both") << privateJob << QString();
     QTest::newRow("neither") << QStringList() << QString();
 }
@@ -255,7 +255,9 @@ void ChosenSettingsTest::windowAsksForAMissingCode()
             window.print();
             QVERIFY(!window.submission());
             const MessageBar *bar = window.messageBar();
-            QVERIFY2(bar->text().contains(u"no code has been given"_s), qPrintable(bar->text()));
+            QVERIFY2(bar->text().contains((choice == u"Private" ? u"no password has been given"_s
+                                                                : u"no code has been given"_s)),
+                     qPrintable(bar->text()));
             QCOMPARE(bar->buttons().first()->text().remove(u'&'), anyway);
             QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
             QVERIFY(window.isVisible());

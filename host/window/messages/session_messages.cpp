@@ -149,8 +149,7 @@ bool SessionMessages::askForCode()
     const bool protects = m_session->protection().protects(secret->option, secret->choice);
     Message question;
     question.title = protects ? tr("Password missing") : tr("Code missing");
-    question.lines = {tr("“%1” has been chosen, but no code has been given for it.")
-                          .arg(m_session->ppd()->described(secret->option, secret->choice).text())};
+    question.lines = {missingCodeText(*m_session, *secret)};
     question.answers = {m_settingsOnly ? (protects ? tr("Use Without Pass&word") : tr("Use &Without Code"))
                         : protects     ? tr("Print Without Pass&word")
                                        : tr("Print &Without Code"),
