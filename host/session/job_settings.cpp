@@ -129,17 +129,18 @@ QString jobSettingValue(const DialogSession &session, const QString &name)
     return jobSettingValue(session.chosen(), session.destination().options, name);
 }
 
-void setJobSetting(DialogSession *session, const QString &name, const QString &value)
+PrintError setJobSetting(DialogSession *session, const QString &name, const QString &value)
 {
     if (value == jobSettingValue({}, session->destination().options, name)) {
         const SessionState now = StateRestorer::stateOf(*session);
         SessionState wanted = now;
         wanted.chosen.takeBack({name}, {});
         StateRestorer(session).restoreTo(now, wanted);
-        return;
+        return {};
     }
-    PrintError ignored;
-    (void)choose(session, {name, value, ChosenSetting::Kind::JobOption}, &ignored);
+    PrintError error;
+    (void)choose(session, {name, value, ChosenSetting::Kind::JobOption}, &error);
+    return error;
 }
 
 QString canonicalJobValue(const QString &name, const QString &value)

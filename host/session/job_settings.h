@@ -14,6 +14,7 @@ namespace host {
 class ChosenSettings;
 class DialogSession;
 struct Destination;
+struct PrintError;
 
 // The settings of the Job page: how the print server handles the job. They are job options and are stored
 // among the chosen settings of a session; without a choice the defaults of the destination apply.
@@ -33,9 +34,9 @@ QStringList offeredPrintModes(const DialogSession &session);
 QString jobSettingValue(const ChosenSettings &chosen, const QMap<QString, QString> &options,
                         const QString &name);
 QString jobSettingValue(const DialogSession &session, const QString &name);
-// Chooses a value; choosing the default removes the choice. Has no effect if the policy does not allow the
-// change.
-void setJobSetting(DialogSession *session, const QString &name, const QString &value);
+// Chooses a value; choosing the default removes the choice. An error, without a change, if the value is not
+// valid or the policy does not allow the change.
+PrintError setJobSetting(DialogSession *session, const QString &name, const QString &value);
 
 // A value in the spelling of the print system: "job-hold-until" in lower case, "job-priority" as digits only.
 QString canonicalJobValue(const QString &name, const QString &value);

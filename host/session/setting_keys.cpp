@@ -4,6 +4,7 @@
 #include "host/session/setting_keys.h"
 
 #include "host/printing/option_text.h"
+#include "host/printing/ppd_password.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
@@ -200,8 +201,9 @@ bool setStandardName(DialogSession *session, ChosenSetting setting, PrintError *
     return true;
 }
 
-// Refuses a password or an account that the queue does not accept, or that is too long. The print server
-// would ignore such a password and print the job unprotected.
+// Refuses a password or an account that the queue does not accept, that is too long, or that cannot be
+// entered at the printer. The print server would ignore a password for a queue that takes none, and print the
+// job unprotected.
 bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, PrintError *error)
 {
     if (!printModeNames().contains(setting.key) || setting.value.isEmpty())
@@ -211,7 +213,12 @@ bool checkPrintMode(const DialogSession &session, const ChosenSetting &setting, 
         return refuse(
             error,
             SettingText::tr("The printer “%1” does not take %2.").arg(printer.displayName(), setting.key));
-    const qsizetype most = setting.key == passwordName ? printer.passwordLength : maxAccount;
+    const bool isPassword = setting.key == passwordName;
+    if (const QString problem =
+            isPassword && session.ppd() ? passwordProblem(session.ppd()->record(), setting.value) : QString();
+        !problem.isNull())
+        return refuse(error, problem);
+    const qsizetype most = isPassword ? printer.passwordLength : maxAccount;
     return setting.value.toUtf8().size() <= most ||
            refuse(error, SettingText::tr("%1 takes at most %2 characters.").arg(setting.key).arg(most));
 }

@@ -1074,6 +1074,41 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     </message>
 </context>
 <context>
+    <name>PasswordText</name>
+    <message>
+        <source>a digit from 0 to 9</source>
+        <translation>eine Ziffer von 0 bis 9</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z</source>
+        <translation>ein Buchstabe von A bis Z</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z or a digit from 0 to 9</source>
+        <translation>ein Buchstabe von A bis Z oder eine Ziffer von 0 bis 9</translation>
+    </message>
+    <message>
+        <source>a printable ASCII character</source>
+        <translation>ein druckbares ASCII-Zeichen</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>eine Ziffer</translation>
+    </message>
+    <message>
+        <source>a letter</source>
+        <translation>ein Buchstabe</translation>
+    </message>
+    <message>
+        <source>a printable character</source>
+        <translation>ein druckbares Zeichen</translation>
+    </message>
+    <message>
+        <source>Character %1 of the password has to be %2.</source>
+        <translation>Zeichen %1 des Passworts muss %2 sein.</translation>
+    </message>
+</context>
+<context>
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>

@@ -1074,6 +1074,41 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     </message>
 </context>
 <context>
+    <name>PasswordText</name>
+    <message>
+        <source>a digit from 0 to 9</source>
+        <translation>un dígito del 0 al 9</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z</source>
+        <translation>una letra de la A a la Z</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z or a digit from 0 to 9</source>
+        <translation>una letra de la A a la Z o un dígito del 0 al 9</translation>
+    </message>
+    <message>
+        <source>a printable ASCII character</source>
+        <translation>un carácter ASCII imprimible</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>un dígito</translation>
+    </message>
+    <message>
+        <source>a letter</source>
+        <translation>una letra</translation>
+    </message>
+    <message>
+        <source>a printable character</source>
+        <translation>un carácter imprimible</translation>
+    </message>
+    <message>
+        <source>Character %1 of the password has to be %2.</source>
+        <translation>El carácter %1 de la contraseña debe ser %2.</translation>
+    </message>
+</context>
+<context>
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>

@@ -1074,6 +1074,41 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     </message>
 </context>
 <context>
+    <name>PasswordText</name>
+    <message>
+        <source>a digit from 0 to 9</source>
+        <translation>un chiffre de 0 à 9</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z</source>
+        <translation>une lettre de A à Z</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z or a digit from 0 to 9</source>
+        <translation>une lettre de A à Z ou un chiffre de 0 à 9</translation>
+    </message>
+    <message>
+        <source>a printable ASCII character</source>
+        <translation>un caractère ASCII imprimable</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>un chiffre</translation>
+    </message>
+    <message>
+        <source>a letter</source>
+        <translation>une lettre</translation>
+    </message>
+    <message>
+        <source>a printable character</source>
+        <translation>un caractère imprimable</translation>
+    </message>
+    <message>
+        <source>Character %1 of the password has to be %2.</source>
+        <translation>Le caractère %1 du mot de passe doit être %2.</translation>
+    </message>
+</context>
+<context>
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>

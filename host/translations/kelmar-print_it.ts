@@ -1074,6 +1074,41 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     </message>
 </context>
 <context>
+    <name>PasswordText</name>
+    <message>
+        <source>a digit from 0 to 9</source>
+        <translation>una cifra da 0 a 9</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z</source>
+        <translation>una lettera dalla A alla Z</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z or a digit from 0 to 9</source>
+        <translation>una lettera dalla A alla Z o una cifra da 0 a 9</translation>
+    </message>
+    <message>
+        <source>a printable ASCII character</source>
+        <translation>un carattere ASCII stampabile</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>una cifra</translation>
+    </message>
+    <message>
+        <source>a letter</source>
+        <translation>una lettera</translation>
+    </message>
+    <message>
+        <source>a printable character</source>
+        <translation>un carattere stampabile</translation>
+    </message>
+    <message>
+        <source>Character %1 of the password has to be %2.</source>
+        <translation>Il carattere %1 della password deve essere %2.</translation>
+    </message>
+</context>
+<context>
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>

@@ -1074,6 +1074,41 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     </message>
 </context>
 <context>
+    <name>PasswordText</name>
+    <message>
+        <source>a digit from 0 to 9</source>
+        <translation>0～9 の数字</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z</source>
+        <translation>A～Z の英字</translation>
+    </message>
+    <message>
+        <source>a letter from A to Z or a digit from 0 to 9</source>
+        <translation>A～Z の英字または 0～9 の数字</translation>
+    </message>
+    <message>
+        <source>a printable ASCII character</source>
+        <translation>印刷可能な ASCII 文字</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a letter</source>
+        <translation>文字（数字と記号を除く）</translation>
+    </message>
+    <message>
+        <source>a printable character</source>
+        <translation>印刷可能な文字</translation>
+    </message>
+    <message>
+        <source>Character %1 of the password has to be %2.</source>
+        <translation>パスワードの %1 文字目は%2でなければなりません。</translation>
+    </message>
+</context>
+<context>
     <name>PolicySystemText</name>
     <message>
         <source>The printer “%1” is not offered here. %2</source>

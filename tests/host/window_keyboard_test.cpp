@@ -81,6 +81,8 @@ private Q_SLOTS:
     void actionOfTheResultLeavesTheFocusToClose_data();
     void actionOfTheResultLeavesTheFocusToClose();
     void waitingIsReadOut();
+    void passwordFitsTheFormat_data();
+    void passwordFitsTheFormat();
     void errorBelongsToItsField();
     void colorsStandOut_data();
     void colorsStandOut();
@@ -312,6 +314,56 @@ void WindowKeyboardTest::waitingIsReadOut()
         QVERIFY(QAccessible::queryAccessibleInterface(part)->text(QAccessible::Name).isEmpty());
     }
     sign.end();
+}
+
+void WindowKeyboardTest::passwordFitsTheFormat_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>(
+        "allowed"); // instead of the last character, which is refused; empty if it is not
+    const auto row = [](const char *format, const QString &typed, const QString &allowed = QString()) {
+        QTest::addRow("%s: %s", format, qPrintable(typed)) << QByteArray(format) << typed << allowed;
+    };
+    const QString digit = u"a digit from 0 to 9"_s, letter = u"a letter from A to Z"_s;
+    row("1111", u"1234"_s);
+    row("1111", u"12a"_s, digit);
+    row("1111", u"1٢"_s, digit);
+    row("AAAA", u"aBé"_s, letter);
+    row("CCCC", u"a1B-"_s, u"a letter from A to Z or a digit from 0 to 9"_s);
+    row("....", u"a ~é"_s, u"a printable ASCII character"_s);
+    row("NNNN", u"1٢a"_s, u"a digit"_s);
+    row("UUUU", u"aé1"_s, u"a letter"_s);
+    row("****", u"é€1 "_s);
+    row("1A", u"1b"_s);
+    row("1A", u"12"_s, letter);
+    row("xx", u"é-"_s);
+}
+
+// The field refuses the character, says why, and keeps the others.
+void WindowKeyboardTest::passwordFitsTheFormat()
+{
+    QFETCH(QByteArray, format);
+    QFETCH(QString, typed);
+    QFETCH(QString, allowed);
+    m_system.printers.first().passwordLength = 8; // in bytes
+    m_system.ppds[u"office"_s] += "*cupsJobPassword: \"" + format + "\"\n";
+    PrintWindow &window = open();
+    window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
+    auto *field = window.findChild<QLineEdit *>(u"job-password"_s);
+    QVERIFY(field && field->isVisible());
+    for (const QChar &c : std::as_const(typed)) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QCoreApplication::sendEvent(field, &press);
+    }
+    QCOMPARE(field->text(), allowed.isEmpty() ? typed : typed.chopped(1));
+    QStringList said;
+    for (const auto *label : window.book()->findChildren<QLabel *>()) {
+        if (label->isVisible() && label->text().startsWith(u"Character"_s))
+            said.append(label->text());
+    }
+    const QString expected = u"Character %1 of the password has to be %2."_s.arg(typed.size()).arg(allowed);
+    QCOMPARE(said, allowed.isEmpty() ? QStringList() : QStringList(expected));
 }
 
 void WindowKeyboardTest::errorBelongsToItsField()

@@ -5,11 +5,15 @@
 
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
+#include "host/window/look/announced.h"
+#include "host/window/look/contrast.h"
+#include "host/window/look/foreign_text.h"
 #include "host/window/pages/page_frame.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 
 namespace host {
 
@@ -19,7 +23,8 @@ constexpr int longestAccount = 63; // characters; fits the limit of the print pr
 
 } // namespace
 
-PrintModePage::PrintModePage(DialogSession *session, QWidget *parent) : QWidget(parent), m_session(session)
+PrintModePage::PrintModePage(DialogSession *session, QWidget *parent)
+    : QWidget(parent), m_session(session), m_problem(new QLabel(this))
 {
     auto *grid = contentGrid(this);
     for (const QString &name : offeredPrintModes(*session)) {
@@ -29,6 +34,11 @@ PrintModePage::PrintModePage(DialogSession *session, QWidget *parent) : QWidget(
                                        : tr("Account user:"),
                  grid);
     }
+    makeAnnounced(m_problem);
+    m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
+    m_problem->hide();
+    grid->addWidget(m_problem, grid->rowCount(), 0, 1, 3);
     auto *note = new QLabel(tr("The printer keeps a job with a password until the password is entered at its "
                                "control panel. Password and account are sent with the job, and not stored."),
                             this);
@@ -48,10 +58,22 @@ void PrintModePage::addField(const QString &name, const QString &label, QGridLay
     host::addField(grid, name, label, field);
     m_fields.append(field);
     connect(field, &QLineEdit::textEdited, this, [this, name](const QString &value) {
-        setJobSetting(m_session, name, value);
+        const PrintError refusal = setJobSetting(m_session, name, value);
         refresh(); // it may have been refused
+        showProblem(refusal.message);
         Q_EMIT chosen(name);
     });
+}
+
+void PrintModePage::showProblem(const QString &text)
+{
+    QPalette red = palette();
+    red.setColor(QPalette::WindowText, errorInk(red));
+    m_problem->setPalette(red);
+    m_problem->setText(wrappable(text));
+    if (!text.isEmpty())
+        announce(m_problem, text);
+    m_problem->setVisible(!text.isEmpty());
 }
 
 void PrintModePage::refresh()

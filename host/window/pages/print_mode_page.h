@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QLabel;
 class QLineEdit;
 
 namespace host {
@@ -30,9 +31,11 @@ Q_SIGNALS:
 
 private:
     void addField(const QString &name, const QString &label, QGridLayout *grid);
+    void showProblem(const QString &text); // hides the label if the text is empty
 
     DialogSession *m_session;
     QList<QLineEdit *> m_fields; // their object names are those of the job options
+    QLabel *m_problem;           // why the last change was refused
 };
 
 } // namespace host
