@@ -57,8 +57,10 @@ void beginWith(const StartingSettings &start, DialogSession *session)
 {
     GeneralSettings &general = session->general();
     general.copies = start.copies;
-    if (start.copies > 1) // for one copy the value is a default of the application, not a request
-        general.collate = start.collate.value_or(general.collate);
+    const bool collate = start.collate.value_or(general.collate);
+    // For one copy the value is a default of the application, not a request.
+    if (start.copies > 1 && mayCollate(*session, collate))
+        general.collate = collate;
     general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
     if (start.currentPage && general.offersCurrentPage)
         general.part = GeneralSettings::Part::CurrentPage;

@@ -24,7 +24,7 @@ void carryGeneral(const DialogSession &from, DialogSession *to)
     GeneralSettings &general = to->general();
     if (chosen.copies != start.copies)
         general.copies = chosen.copies;
-    if (chosen.collate != start.collate)
+    if (chosen.collate != start.collate && mayCollate(*to, chosen.collate))
         general.collate = chosen.collate;
     if (chosen.pages != start.pages)
         general.pages = chosen.pages;

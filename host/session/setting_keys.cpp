@@ -98,8 +98,18 @@ bool keepBooklet(DialogSession *session, const QString &key, PrintError *error)
                              .arg(wrong.text()));
 }
 
-bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintError *error)
+bool setCollate(DialogSession *session, bool collate, PrintError *error)
 {
+    *error = session->locks().refusal(session->ppd(), handlingName, GeneralSettings::handling(collate));
+    if (*error)
+        return false;
+    session->general().collate = collate;
+    return true;
+}
+
+bool setGeneral(DialogSession *session, const ChosenSetting &setting, PrintError *error)
+{
+    GeneralSettings &general = session->general();
     if (setting.key == QLatin1String("copies")) {
         bool ok = false;
         const int copies = setting.value.toInt(&ok);
@@ -107,7 +117,7 @@ bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintErr
             return refuse(
                 error,
                 SettingText::tr("copies takes a number from 1 to %1.").arg(GeneralSettings::maxCopies));
-        general->copies = copies;
+        general.copies = copies;
         return true;
     }
     if (setting.key == QLatin1String("page-ranges")) {
@@ -116,14 +126,13 @@ bool setGeneral(GeneralSettings *general, const ChosenSetting &setting, PrintErr
         if (!pages)
             return refuse(error, setting.isSecret ? SettingText::tr("page-ranges does not take this value.")
                                                   : problem);
-        general->pages = *pages;
+        general.pages = *pages;
         return true;
     }
     const auto collate = switchValue(setting.value);
     if (!collate)
         return refuse(error, SettingText::tr("%1 takes True or False.").arg(setting.key));
-    general->collate = *collate;
-    return true;
+    return setCollate(session, *collate, error);
 }
 
 bool setOnPanel(DialogSession *session, int panel, const ChosenSetting &setting, PrintError *error)
@@ -258,11 +267,8 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
 {
     const QString &key = setting.key, &value = setting.value;
     const bool isHandling = key == handlingName;
-    if (isHandling &&
-        (value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false))) {
-        session->general().collate = value == GeneralSettings::handling(true);
-        return true;
-    }
+    if (isHandling && (value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false)))
+        return setCollate(session, value == GeneralSettings::handling(true), error);
     if (isJobSetting(*session, key))
         return setJobOption(session, setting, error);
     // The print system may accept a value that the page layout does not.
@@ -272,7 +278,7 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
           !PageLayoutSettings::rangeOf(key))))
         return setJobOption(session, setting, error);
     if (GeneralSettings::covers(key) && !isHandling)
-        return setGeneral(&session->general(), setting, error);
+        return setGeneral(session, setting, error);
     if (isLayout(*session, key))
         return session->general().layout.set(key, value) || refuse(error, layoutProblem(key));
     if (session->ppd() && session->ppd()->hasOption(key))
@@ -292,6 +298,12 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
     if (jobSettingNames().contains(setting.key))
         setting.kind = ChosenSetting::Kind::JobOption;
     return chooseAny(session, setting, error) && keepBooklet(session, setting.key, error);
+}
+
+bool mayCollate(const DialogSession &session, bool collate)
+{
+    return session.locks().allows(QStringLiteral("Collate"),
+                                  collate ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
 QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options)

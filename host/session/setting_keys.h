@@ -24,6 +24,9 @@ namespace host {
 // code.
 bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
+// Whether the policy allows that copies are collated, or that they are not.
+bool mayCollate(const DialogSession &session, bool collate);
+
 // Changes stored options of a destination or a preset as choose() would: times, priorities and numbers of the
 // page layout that it refuses are removed, times and priorities are changed to their canonical spelling. An
 // option that the policy has fixed is kept. Returns a localised notice for each option that is removed.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/batch/batch_run.h"
+#include "host/policy/policy.h"
 #include "tests/host/host_fixture.h"
 
 #include <QBuffer>
@@ -50,6 +51,7 @@ private:
 
 void BatchRunTest::init()
 {
+    Policy::setCurrent({});
     m_system = FakePrintSystem();
     Destination office = officePrinter();
     office.isDefault = true;
@@ -152,6 +154,12 @@ void BatchRunTest::exitCodes_data()
         << u"--summary --set ColorType=Mono --set Cyan=2"_s << int(ExitConflict) << u"conflict"_s;
     QTest::newRow("proposal accepted")
         << u"--batch --resolve --set Staple=Left FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("locked by the policy")
+        << u"--summary -d custom --set collate=false"_s << int(ExitFailure) << u"not-authorised"_s;
+    QTest::newRow("password of digits")
+        << u"--batch -d custom -o job-password=1234 FILE"_s << int(ExitSuccess) << QString();
+    QTest::newRow("password with a letter")
+        << u"--batch -d custom -o job-password=12a FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("no passwords here")
         << u"--batch -o job-password=1234 FILE"_s << int(ExitUsage) << u"bad-value"_s;
     QTest::newRow("scale too small") << u"--batch -o natural-scaling=24 FILE"_s << int(ExitUsage)
@@ -174,6 +182,12 @@ void BatchRunTest::exitCodes()
     QFETCH(QString, error);
     words.replace(u"FILE"_s, m_document.fileName());
     m_system.printers.first().coverSheets = {u"none"_s, u"standard"_s};
+    m_system.printers.last().passwordLength = 4;
+    m_system.ppds[u"custom"_s] +=
+        "*cupsJobPassword: \"1111\"\n" + ppdOption("Collate/Collate", {"True", "False"});
+    const QByteArray policy = R"({"rules": [{"queues": ["custom"], "locked": {"Collate": "True"}}]})";
+    QString problem;
+    Policy::setCurrent(*Policy::parse(policy, u"policy.json"_s, &problem));
     QCOMPARE(run(words.split(u' ') + QStringList(u"--json"_s)), code);
     QCOMPARE(json()[u"error"_s][u"code"_s].toString(), error);
     QCOMPARE(m_system.submitted.size(), code == ExitSuccess ? 1 : 0);

@@ -9,8 +9,10 @@
 #include "platform/key_value_object.h"
 #include "tests/host/policy_fixture.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSpinBox>
 
 using namespace host;
 using namespace Qt::StringLiterals;
@@ -152,6 +154,10 @@ void PolicyTest::locksHoldInEverySpelling_data()
     row("mirror image", u"mirror"_s, u"true"_s, true);
     row("scale", u"natural-scaling"_s, u"70"_s, true);
     row("pages per side", u"number-up"_s, u"2"_s, true);
+    row("collation", u"collate"_s, u"false"_s, false);
+    row("collation under its standard name", u"multiple-document-handling"_s,
+        u"separate-documents-uncollated-copies"_s, false);
+    row("the locked collation", u"Collate"_s, u"true"_s, true);
 }
 
 // On the command line, and in any other request for a job.
@@ -161,8 +167,9 @@ void PolicyTest::locksHoldInEverySpelling()
     QFETCH(QString, value);
     QFETCH(bool, isAllowed);
     useFamily();
+    m_system.ppds[u"office"_s] += ppdOption("Collate/Collate", {"True", "False"});
     PolicyPrintSystem system(m_system, {}, install(R"({"rules": [
-        {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble"}}]})"));
+        {"locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble", "Collate": "True"}}]})"));
     QCOMPARE(print(system, m_none, {u"-d"_s, u"office"_s, u"-o"_s, option + u'=' + value}),
              isAllowed ? 0 : 1);
     QCOMPARE(m_system.submitted.size(), isAllowed ? 1 : 0);
@@ -357,10 +364,15 @@ void PolicyTest::presetForAModelThatProtects()
 void PolicyTest::dialogShowsWhatIsLocked()
 {
     const Policy policy = install(R"({"contact": "<b>IT</b>", "queues": ["office", "raw"],
-        "rules": [{"locked": {"Duplex": "DuplexNoTumble"}, "hiddenOptions": ["MediaType"]}]})");
+        "rules": [{"locked": {"Duplex": "DuplexNoTumble", "Collate": "False"}, "hiddenOptions": ["MediaType"]}]})");
+    m_system.ppds[u"office"_s] += ppdOption("Collate/Collate", {"True", "False"});
     PolicyPrintSystem system(m_system, {}, policy);
     QVERIFY(showsDialog(system, m_none));
     QTRY_VERIFY(find<QComboBox>(u"PageSize"_s));
+    find<QSpinBox>()->setValue(2);
+    const auto *collate = find<QCheckBox>(u"multiple-document-handling"_s);
+    QVERIFY(collate && !collate->isEnabled() && !collate->isChecked());
+    QVERIFY2(collate->toolTip().contains(u"Set by the administrator"_s), qPrintable(collate->toolTip()));
     QVERIFY(!find<QComboBox>(u"MediaType"_s));
     auto *box = find<platform::ChoiceBox>(u"Duplex"_s);
     QVERIFY(box);

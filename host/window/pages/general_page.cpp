@@ -3,14 +3,17 @@
 
 #include "host/window/pages/general_page.h"
 
+#include "host/policy/policy.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
 #include "host/session/page_ranges.h"
+#include "host/session/setting_keys.h"
 #include "host/window/look/announced.h"
 #include "host/window/look/contrast.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
+#include "host/window/look/foreign_text.h"
 #include "host/window/pages/document_box.h"
 #include "host/window/pages/layout_form.h"
 #include "host/window/pages/option_form.h"
@@ -191,9 +194,11 @@ void GeneralPage::addCopies(QGridLayout *grid)
 void GeneralPage::enableCollate()
 {
     const bool several = m_copies->value() > 1;
-    m_collate->setEnabled(several);
-    m_collate->setToolTip(several ? tr("Print each complete copy before the next one")
-                                  : notAvailableWhile(tr("Copies"), QString::number(1)));
+    const bool isFixed = !mayCollate(*m_session, !m_session->general().collate);
+    m_collate->setEnabled(several && !isFixed);
+    m_collate->setToolTip(isFixed   ? tooltipOf(Policy::current().attribution())
+                          : several ? tr("Print each complete copy before the next one")
+                                    : notAvailableWhile(tr("Copies"), QString::number(1)));
 }
 
 void GeneralPage::enablePages(bool some)
