@@ -17,7 +17,7 @@ namespace host {
 
 namespace {
 
-constexpr std::chrono::seconds lateReading(30); // by a busy screen reader
+constexpr std::chrono::minutes lateReading(2); // by a busy screen reader
 
 } // namespace
 
