@@ -42,8 +42,8 @@ public:
     // The same before a job is sent; the user may print anyway, also without a code. The question gets the
     // focus.
     bool checkToPrint();
-    // Sets what is loaded in the printer. Paper that is chosen but not loaded causes a message, which does not
-    // prevent printing. If the user has closed it, it is shown again only for other paper.
+    // Sets what is loaded in the printer. Paper that is chosen but not loaded causes a message, which does
+    // not prevent printing. If the user has closed it, it is shown again only for other paper.
     void setLoaded(const QList<LoadedTray> &trays);
     // Performs the check that was due while `isDeferred` returned true.
     void resumeCheck();

@@ -22,8 +22,8 @@ struct PageControl
 // shown now, in the order of the page. Buttons that reset an adjacent control are left out.
 QList<PageControl> controlsOf(const QWidget *page);
 
-// The control that sets an option, else the one with that name, else the one whose object name is the keyword;
-// null if the page has none (yet).
+// The control that sets an option, else the one with that name, else the one whose object name is the
+// keyword; null if the page has none (yet).
 QWidget *findControl(const QWidget *page, const QString &keyword, const QString &name);
 
 // A label's text without access key and colon: "Copies" for "&Copies:", "部数" for "部数(&C):".
