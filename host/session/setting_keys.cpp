@@ -302,8 +302,7 @@ bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *err
 
 bool mayCollate(const DialogSession &session, bool collate)
 {
-    return session.locks().allows(QStringLiteral("Collate"),
-                                  collate ? QStringLiteral("True") : QStringLiteral("False"));
+    return !session.locks().refusal(session.ppd(), handlingName, GeneralSettings::handling(collate));
 }
 
 QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options)
