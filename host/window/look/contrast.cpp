@@ -59,6 +59,12 @@ QColor errorInk(const QPalette &palette)
     return legible(QColor(0xd0, 0x3b, 0x3b), palette.color(QPalette::Active, QPalette::Window));
 }
 
+QPalette errorPalette(QPalette palette)
+{
+    palette.setColor(QPalette::WindowText, errorInk(palette));
+    return palette;
+}
+
 QColor highlightInk(const QPalette &palette)
 {
     return legible(palette.color(QPalette::Active, QPalette::HighlightedText),

@@ -26,6 +26,8 @@ QColor legible(const QColor &ink, const QColor &ground, qreal least = textContra
 QColor mutedInk(const QPalette &palette);
 // The color of error texts on the window's background.
 QColor errorInk(const QPalette &palette);
+// The palette of a label that shows an error text in a window with this palette.
+QPalette errorPalette(QPalette palette);
 // The color of highlighted text.
 QColor highlightInk(const QPalette &palette);
 // The color of the focus frame, which contrasts with windows and fields.

@@ -272,9 +272,7 @@ qsizetype CustomEditor::invalidField() const
 void CustomEditor::showProblem()
 {
     QWidget *field = m_fields.at(qMax(0, invalidField())).widget;
-    QPalette red = m_problem->palette();
-    red.setColor(QPalette::WindowText, errorInk(palette()));
-    m_problem->setPalette(red);
+    m_problem->setPalette(errorPalette(palette()));
     m_problem->setText(problem());
     announce(m_problem, m_problem->text());
     m_hint->hide();

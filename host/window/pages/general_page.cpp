@@ -344,9 +344,7 @@ void GeneralPage::setProblemShown(bool shown)
 
 void GeneralPage::paintProblem()
 {
-    QPalette red = palette();
-    red.setColor(QPalette::WindowText, errorInk(red));
-    m_problem->setPalette(red);
+    m_problem->setPalette(errorPalette(palette()));
 }
 
 void GeneralPage::changeEvent(QEvent *event)

@@ -67,9 +67,7 @@ void PrintModePage::addField(const QString &name, const QString &label, QGridLay
 
 void PrintModePage::showProblem(const QString &text)
 {
-    QPalette red = palette();
-    red.setColor(QPalette::WindowText, errorInk(red));
-    m_problem->setPalette(red);
+    m_problem->setPalette(errorPalette(palette()));
     m_problem->setText(wrappable(text));
     if (!text.isEmpty())
         announce(m_problem, text);
