@@ -30,7 +30,7 @@ function __kelmar_print_settings
         job-hold-until={no-hold,day-time,evening,night,second-shift,third-shift,weekend,indefinite} \
         job-priority={25,50,75,100} \
         job-sheets={none,standard,form,unclassified,classified,confidential,secret,topsecret}
-    set -l key (string match -r '^(?:--set=|-s|-o)?([^=]+)=' -- (commandline -ct))[2]
+    set -l key (string match -r '^(?:--set=|-s|-o)?+([^=]+)=' -- (commandline -ct))[2]
     if test -z "$key"
         string replace -r '$' = -- (__kelmar_print_keys)
     else if string match -q -- "$key=*" $known
@@ -43,9 +43,9 @@ function __kelmar_print_settings
 end
 
 function __kelmar_print_setting_files
-    set -l key (string match -r '^(?:--set-file=)?([^=]+)=(.*)' -- (commandline -ct))
+    set -l key (string match -r '^(?:--set-file=)?+([^=]+)=(.*)' -- (commandline -ct))
     if test (count $key) -eq 3
-        string replace -r '^' "$key[2]=" -- (__fish_complete_path $key[3] | string replace -r '\t.*' '')
+        string replace -r -- '^' "$key[2]=" (__fish_complete_path $key[3] | string replace -r '\t.*' '')
     else
         string replace -r '$' = -- (__kelmar_print_keys)
     end
