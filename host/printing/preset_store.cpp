@@ -48,7 +48,14 @@ std::optional<QByteArray> contentOf(int fd)
     QFile file;
     if (::lseek(fd, 0, SEEK_SET) < 0 || !file.open(fd, QIODevice::ReadOnly, QFile::DontCloseHandle))
         return std::nullopt;
-    const QByteArray content = file.read(largestFile + 1);
+    // In blocks: read(largestFile + 1) would allocate as much for each small file.
+    constexpr qint64 block = 16 * 1024;
+    QByteArray content;
+    for (QByteArray part = file.read(block); !part.isEmpty(); part = file.read(block)) {
+        content += part;
+        if (content.size() > largestFile)
+            break;
+    }
     if (file.error() != QFile::NoError || content.size() > largestFile) {
         errno = content.size() > largestFile ? EFBIG : EIO;
         return std::nullopt;
