@@ -208,6 +208,8 @@ QString holdValueOf(const QTime &time)
 
 QTime timeOfHold(const QString &value)
 {
+    if (value.isEmpty() || !value.front().isDigit()) // mostly "no-hold"; parsing loads code of Qt
+        return {};
     QTime time = QTime::fromString(value, QStringLiteral("H:mm"));
     if (!time.isValid())
         time = QTime::fromString(value, QStringLiteral("H:mm:ss"));
