@@ -203,7 +203,9 @@ void measurePreset(PrintWindow &window)
         qFatal("%s", qPrintable(error.message));
     std::vector<double> applied;
     for (int round = 0; round < rounds; ++round) {
-        QAction *action = presetAction(window.findChild<QPushButton *>(u"presets"_s)->menu(), u"bench"_s);
+        auto *button = window.findChild<QPushButton *>(u"presets"_s);
+        button->setFocus(); // creates the menu
+        QAction *action = presetAction(button->menu(), u"bench"_s);
         applied.push_back(millisecondsOf([&] { action->trigger(); }));
         if (window.session()->ppd()->markedChoice(QString::fromLatin1(largePpdOption(7))) != u"C01")
             qFatal("the preset was not applied");

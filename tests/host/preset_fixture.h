@@ -6,6 +6,8 @@
 #include "tests/host/window_fixture.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QFocusEvent>
 #include <QMenu>
 
 // Base class of tests that also use the menu of presets.
@@ -15,6 +17,8 @@ protected:
     QPushButton *presets() { return find<QPushButton>(QStringLiteral("presets")); }
     QStringList menuTexts()
     {
+        QFocusEvent focus(QEvent::FocusIn); // creates the menu
+        QApplication::sendEvent(presets(), &focus);
         Q_EMIT presets()->menu()->aboutToShow();
         settle(); // reading the files may take longer than the menu waits
         Q_EMIT presets()->menu()->aboutToShow();

@@ -194,7 +194,8 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
         window.session()->panels().panel(window.session()->panels().ofKeyword(u"ColorBalanceCyan"_s));
     balance->keyValueObject()->setValueForKey(u"2"_s, u"ColorBalanceCyan"_s);
     auto *button = window.findChild<QPushButton *>(u"presets"_s);
-    QTRY_VERIFY(button->menu());
+    button->setFocus();
+    QVERIFY(button->menu());
     Q_EMIT button->menu()->aboutToShow();
     QTRY_VERIFY(!platform::Background::isUnderWay());
     for (QAction *action : button->menu()->actions()) {

@@ -3,6 +3,7 @@
 
 #include "host/window/look/menu_button.h"
 
+#include <QAccessible>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -70,8 +71,14 @@ void MenuButton::paintEvent(QPaintEvent *)
         option.text = fontMetrics().elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
     }
     QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
-    if (!std::exchange(m_wasPainted, true))
+    if (!std::exchange(m_wasPainted, true) && QAccessible::isActive())
         QMetaObject::invokeMethod(this, &MenuButton::wantMenu, Qt::QueuedConnection);
+}
+
+void MenuButton::focusInEvent(QFocusEvent *event)
+{
+    wantMenu(); // before the event is reported to a screen reader
+    QPushButton::focusInEvent(event);
 }
 
 void MenuButton::wantMenu()

@@ -7,8 +7,8 @@
 
 namespace host {
 
-// A button whose menu is created after the first paint of the button, or when it is pressed before that. A
-// window then starts faster.
+// A button whose menu is created when the button is pressed or gets the focus, or after the first paint if a
+// screen reader is running. A window then starts faster.
 class MenuButton : public QPushButton
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ Q_SIGNALS:
 protected:
     void initStyleOption(QStyleOptionButton *option) const override;
     void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QSize textSizeHint() const;
