@@ -4,7 +4,7 @@
 #include "host/portal/application_settings.h"
 
 #include "host/printing/option_text.h"
-#include "host/session/page_ranges.h"
+#include "host/printing/page_ranges.h"
 #include "host/session/setting_keys.h"
 
 #include <QScopedValueRollback>

@@ -5,6 +5,7 @@
 
 #include "host/preview/preview.h"
 #include "host/printing/file_name.h"
+#include "host/printing/page_ranges.h"
 #include "platform/background.h"
 
 #include <QEventLoop>
@@ -59,19 +60,6 @@ PageSettings withoutChoiceOfPages(PageSettings settings)
     settings.options.removeIf(
         [](const auto &option) { return option.first == ranges || option.first == pageSet; });
     return settings;
-}
-
-// Whether ranges such as "1-3,8,12-" contain a side. Empty ranges contain all sides.
-bool isInRanges(int side, const QString &text)
-{
-    const QStringList parts = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
-    return parts.isEmpty() || std::any_of(parts.begin(), parts.end(), [side](const QString &part) {
-               const int first = part.section(QLatin1Char('-'), 0, 0).toInt();
-               const QString last = part.section(QLatin1Char('-'), 1, 1);
-               if (!part.contains(QLatin1Char('-')))
-                   return side == first;
-               return side >= first && (last.isEmpty() || side <= last.toInt());
-           });
 }
 
 QString unreadable(const QString &name, const QString &problem)
@@ -181,7 +169,7 @@ PageVerdict PageCounter::verdict() const
         most = qMax(most, sides);
         isPagePrinted = isPagePrinted || sides == 0 || (known.isPicture && !m_areImagesSentAsPdf);
         for (int side = 1; side <= sides && !isPagePrinted; ++side)
-            isPagePrinted = isInRanges(side, m_ranges) && isInSet(side, m_pageSet);
+            isPagePrinted = containsPage(m_ranges, side) && isInSet(side, m_pageSet);
     }
     if (isPagePrinted)
         return {};

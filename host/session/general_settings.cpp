@@ -4,9 +4,9 @@
 #include "host/session/general_settings.h"
 
 #include "host/printing/option_text.h"
+#include "host/printing/page_ranges.h"
 #include "host/printing/ppd_document.h"
 #include "host/printing/standard_names.h"
-#include "host/session/page_ranges.h"
 
 #include <algorithm>
 

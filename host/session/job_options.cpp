@@ -4,10 +4,10 @@
 #include "host/session/job_options.h"
 
 #include "host/printing/destination.h"
+#include "host/printing/page_ranges.h"
 #include "host/printing/ppd_document.h"
 #include "host/printing/standard_names.h"
 #include "host/session/job_settings.h"
-#include "host/session/page_ranges.h"
 
 #include <algorithm>
 

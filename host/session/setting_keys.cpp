@@ -4,11 +4,11 @@
 #include "host/session/setting_keys.h"
 
 #include "host/printing/option_text.h"
+#include "host/printing/page_ranges.h"
 #include "host/printing/ppd_password.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
-#include "host/session/page_ranges.h"
 #include "host/session/panel_values.h"
 #include "platform/key_value_object.h"
 

@@ -3,7 +3,7 @@
 
 // Page ranges as typed by a user.
 
-#include "host/session/page_ranges.h"
+#include "host/printing/page_ranges.h"
 #include "tests/fuzz/fuzz_support.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

@@ -3,9 +3,9 @@
 
 #include "host/printing/job.h"
 #include "host/printing/message_language.h"
+#include "host/printing/page_ranges.h"
 #include "host/printing/utf8_text.h"
 #include "host/session/job_cost.h"
-#include "host/session/page_ranges.h"
 #include "host/session/sheet_finish.h"
 #include "platform/descriptor_io.h"
 #include "tests/host/host_fixture.h"

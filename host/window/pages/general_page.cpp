@@ -4,10 +4,10 @@
 #include "host/window/pages/general_page.h"
 
 #include "host/policy/policy.h"
+#include "host/printing/page_ranges.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
-#include "host/session/page_ranges.h"
 #include "host/session/setting_keys.h"
 #include "host/window/look/announced.h"
 #include "host/window/look/contrast.h"

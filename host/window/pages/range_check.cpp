@@ -4,6 +4,7 @@
 #include "host/window/pages/range_check.h"
 
 #include "host/preview/page_counter.h"
+#include "host/printing/page_ranges.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/document_choice.h"
@@ -13,19 +14,6 @@
 #include <algorithm>
 
 namespace host {
-
-namespace {
-
-// The largest first page of all ranges.
-int lastBeginning(const QString &ranges)
-{
-    int last = 0;
-    for (const QString &range : ranges.split(QLatin1Char(','), Qt::SkipEmptyParts))
-        last = std::max(last, range.section(QLatin1Char('-'), 0, 0).toInt());
-    return last;
-}
-
-} // namespace
 
 RangeCheck::RangeCheck(DialogSession *session, DocumentChoice *documents, QObject *parent)
     : QObject(parent), m_session(session), m_documents(documents)

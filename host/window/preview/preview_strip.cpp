@@ -4,7 +4,7 @@
 #include "host/window/preview/preview_strip.h"
 
 #include "host/preview/preview.h"
-#include "host/session/page_ranges.h"
+#include "host/printing/page_ranges.h"
 #include "host/window/preview/preview_sheet.h"
 
 #include <QAbstractListModel>

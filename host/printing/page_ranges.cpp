@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/session/page_ranges.h"
+#include "host/printing/page_ranges.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -127,12 +127,23 @@ bool containsPage(const QString &ranges, int page)
     return std::any_of(all.begin(), all.end(), [page](const Range &range) { return range.contains(page); });
 }
 
-int countPages(const QString &ranges, int last)
+int countPages(const QString &ranges, int last, const QString &pageSet)
 {
     int count = 0;
-    for (const Range &range : rangesOf(ranges))
-        count += std::max(0, std::min(range.last, last) - range.first + 1);
+    for (const Range &range : rangesOf(ranges)) {
+        const int end = std::min(range.last, last);
+        if (range.first > end)
+            continue;
+        const int all = end - range.first + 1;
+        const int odd = end / 2 + end % 2 - range.first / 2;
+        count += pageSet == QLatin1String("odd") ? odd : pageSet == QLatin1String("even") ? all - odd : all;
+    }
     return count;
+}
+
+int lastBeginning(const QString &ranges)
+{
+    return ranges.isEmpty() ? 0 : rangesOf(ranges).back().first;
 }
 
 std::optional<QString> withPageToggled(const QString &ranges, int page, int count)

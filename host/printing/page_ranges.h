@@ -18,8 +18,11 @@ std::optional<QString> normalizedPageRanges(const QString &text, QString *error)
 
 // Whether the ranges contain a page.
 bool containsPage(const QString &ranges, int page);
-// The number of pages from 1 to `last` that the ranges contain.
-int countPages(const QString &ranges, int last);
+// The number of pages from 1 to `last` that are in the ranges and in a page set: "odd", "even", or otherwise
+// all pages.
+int countPages(const QString &ranges, int last, const QString &pageSet = {});
+// The first page of the last range; 0 if the ranges are empty.
+int lastBeginning(const QString &ranges);
 // Adds a page to the ranges, or removes it if they contain it. `count` is the number of pages of the
 // document; ranges beyond it are dropped. Returns an empty string if the ranges then contain all pages, and
 // null if no page is left.
