@@ -4,10 +4,10 @@
 #include "host/portal/application_settings.h"
 
 #include "host/printing/option_text.h"
+#include "host/session/job_options.h"
 #include "host/printing/page_ranges.h"
+#include "host/session/session_state.h"
 #include "host/session/setting_keys.h"
-
-#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -55,17 +55,19 @@ StartingSettings startingSettings(const NamedValues &jobOptions, int copies)
 
 void beginWith(const StartingSettings &start, DialogSession *session)
 {
-    GeneralSettings &general = session->general();
-    general.copies = start.copies;
-    const bool collate = start.collate.value_or(general.collate);
+    using Part = GeneralSettings::Part;
+    chooseGeneral(session, QStringLiteral("copies"), QString::number(start.copies));
     // For one copy the value is a default of the application, not a request.
-    if (start.copies > 1 && mayCollate(*session, collate))
-        general.collate = collate;
-    general.pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
+    if (start.copies > 1 && start.collate)
+        chooseGeneral(session, QStringLiteral("multiple-document-handling"),
+                      GeneralSettings::handling(*start.collate));
+    const GeneralSettings &general = session->general();
+    QString pages = normalizedPageRanges(start.pages, nullptr).value_or(QString());
     if (start.currentPage && general.offersCurrentPage)
-        general.part = GeneralSettings::Part::CurrentPage;
+        pages = GeneralSettings::partName(Part::CurrentPage);
     if (start.selection && general.offersSelection)
-        general.part = GeneralSettings::Part::Selection;
+        pages = GeneralSettings::partName(Part::Selection);
+    chooseGeneral(session, QStringLiteral("page-ranges"), pages);
     if (session->ppd()) {
         for (const auto &[name, value] : start.choices)
             mark(name, value, session);
@@ -99,10 +101,13 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
     return choice;
 }
 
-QList<JobOption> jobOptionsForMadePages(DialogSession *session)
+QList<JobOption> jobOptionsForMadePages(const DialogSession &session)
 {
-    const QScopedValueRollback<QString> pages(session->general().pages, QString());
-    return session->jobOptions();
+    const SessionState state = session.state();
+    GeneralSettings general = state.general;
+    general.pages.clear();
+    return jobOptions({session.destination(), session.ppd(), state.chosen, state.savedKeywords,
+                       state.printSettings, general});
 }
 
 int percentOf(const QList<JobOption> &options)

@@ -19,7 +19,7 @@ void beginWith(const StartingSettings &start, DialogSession *session);
 // settings of panels.
 ApplicationChoice choiceForApplication(const DialogSession &session, const QStringList &formats);
 // The options of a job whose selected pages are produced by an application: all of them are printed.
-QList<JobOption> jobOptionsForMadePages(DialogSession *session);
+QList<JobOption> jobOptionsForMadePages(const DialogSession &session);
 // The size of the pages that the options of a job ask for, in percent.
 int percentOf(const QList<JobOption> &options);
 // The paper selected in a session; without dimensions if the printer has no PPD.

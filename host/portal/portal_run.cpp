@@ -250,9 +250,8 @@ PrintTask RequestRun::task(const StartingSettings &start)
     task.acceptLabel = buttonText(textOf(m_request, "acceptLabel"));
     const QJsonObject abilities = m_request.value(QLatin1String("abilities")).toObject();
     task.begin = [start, abilities, isAnswered = task.settingsOnly](DialogSession *session) {
-        GeneralSettings &general = session->general();
-        general.offersCurrentPage = isAnswered && abilities.value(QLatin1String("currentPage")).toBool();
-        general.offersSelection = isAnswered && abilities.value(QLatin1String("selection")).toBool();
+        session->setOfferedParts(isAnswered && abilities.value(QLatin1String("currentPage")).toBool(),
+                                 isAnswered && abilities.value(QLatin1String("selection")).toBool());
         beginWith(start, session);
     };
     return task;
@@ -333,7 +332,7 @@ QJsonObject RequestRun::chosen(const PrintWindow &window) const
         formats.append(format.toString());
     const bool isEdited = window.jobTitle() != shownTitle() && !window.jobTitle().trimmed().isEmpty();
     const StoredJob job{session.destination().name(), isEdited ? window.jobTitle().trimmed() : baseName(),
-                        jobOptionsForMadePages(&session), textOf(m_request, "title"), m_parentTitle};
+                        jobOptionsForMadePages(session), textOf(m_request, "title"), m_parentTitle};
     return {
         {QStringLiteral("response"), Done},
         {QStringLiteral("settings"),

@@ -38,12 +38,6 @@ std::optional<OptionChoice> sidesForBooklet(const DialogSession &session)
     return std::nullopt;
 }
 
-bool markSidesForBooklet(DialogSession *session)
-{
-    const auto choice = sidesForBooklet(*session);
-    return !choice || session->markChoice(choice->option, choice->choice);
-}
-
 QString choiceNotForBooklet(const DialogSession &session, const QString &keyword)
 {
     return session.ppd()

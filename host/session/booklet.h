@@ -22,10 +22,6 @@ PageLayoutSettings layoutAsPrinted(const DialogSession &session);
 // marks: the sheets are then printed on one side.
 std::optional<OptionChoice> sidesForBooklet(const DialogSession &session);
 
-// Marks the choice of two-sided printing for booklets. False, and without a change, if the policy fixes
-// another one.
-bool markSidesForBooklet(DialogSession *session);
-
 // The choice of this option that turns the backs of a booklet upside down; empty if there is none.
 QString choiceNotForBooklet(const DialogSession &session, const QString &keyword);
 // The setting for booklets, switched on or off, in words.

@@ -17,19 +17,15 @@ struct CarryOverText
     Q_DECLARE_TR_FUNCTIONS(CarryOverText)
 };
 
+// Like those of an application, general settings that the policy forbids become a notice.
 void carryGeneral(const DialogSession &from, DialogSession *to)
 {
     const GeneralSettings &chosen = from.general();
-    const GeneralSettings &start = from.startingGeneral();
-    GeneralSettings &general = to->general();
-    if (chosen.copies != start.copies)
-        general.copies = chosen.copies;
-    if (chosen.collate != start.collate && mayCollate(*to, chosen.collate))
-        general.collate = chosen.collate;
-    if (chosen.pages != start.pages)
-        general.pages = chosen.pages;
-    general.layout.takeChanges(start.layout, chosen.layout);
-    general.takePart(chosen);
+    to->setOfferedParts(chosen.offersCurrentPage, chosen.offersSelection);
+    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+        if (chosen.value(name) != from.startingGeneral().value(name))
+            chooseGeneral(to, name, chosen.value(name));
+    }
 }
 
 } // namespace

@@ -15,8 +15,9 @@ class DialogSession;
 struct ChosenSetting
 {
     enum class Kind {
-        Key,      // a PPD option, or a key of a panel
-        JobOption // a name of the print system, such as "sides" or "job-priority"
+        Key,       // a PPD option, or a key of a panel
+        JobOption, // a name of the print system, such as "sides" or "job-priority"
+        General    // a general setting, even if the PPD has an option of the same name; not recorded
     };
     QString key;
     QString value;

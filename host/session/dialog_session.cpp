@@ -66,6 +66,8 @@ DialogSession::DialogSession(const Destination &destination, std::unique_ptr<Ppd
     connect(&m_host, &PanelHost::failed, this, [this](const QString &reason) {
         addNotice(tr("A page of the printer's settings cannot be shown: %1").arg(reason));
     });
+    connect(&m_host, &PanelHost::blockingBegan, this, &DialogSession::blockingBegan);
+    connect(&m_host, &PanelHost::blockingEnded, this, &DialogSession::blockingEnded);
     connect(&m_panels, &SessionPanels::keyChanged, this, &DialogSession::panelKeyChanged);
     connect(&m_panels, &SessionPanels::failed, this, &DialogSession::addNotice);
     connect(&m_panels, &SessionPanels::chosen, this, [this](const QString &key, const QString &value) {
@@ -108,7 +110,9 @@ void DialogSession::loadPanels(Extensions &extensions)
     for (auto it = m_rule.locked.begin(); it != m_rule.locked.end(); ++it) // no resolution may change it
         protection.choices[it.key()].append(it.value());
     setProtection(protection);
-    adoptPanels(extensions.panelsFor(m_ppd->modelName(), &m_host, &m_notices));
+    loadPanels([&](platform::PrintDialogHost *host) {
+        return extensions.panelsFor(m_ppd->modelName(), host, &m_notices);
+    });
     if (m_panels.count() == 0)
         m_ppd->releaseConstraintRecords();
 }
@@ -166,9 +170,10 @@ void DialogSession::lockPages()
     }
 }
 
-void DialogSession::adoptPanels(platform::PrintDialogPanels panels)
+void DialogSession::loadPanels(
+    const std::function<platform::PrintDialogPanels(platform::PrintDialogHost *)> &create)
 {
-    m_panels.adopt(std::move(panels));
+    m_panels.adopt(create(&m_host));
     if (m_ppd)
         lockPages();
     settle();
@@ -265,6 +270,24 @@ bool DialogSession::markChoice(const QString &keyword, const QString &choice, bo
     return true;
 }
 
+PrintError DialogSession::setGeneral(const QString &name, const QString &value)
+{
+    GeneralSettings wanted = m_general;
+    if (const QString problem = wanted.set(name, value); !problem.isNull())
+        return {PrintError::Kind::BadValue, problem};
+    const QString option = GeneralSettings::jobOptionOf(name);
+    PrintError refusal = m_locks.refusal(m_ppd.get(), option, wanted.value(option));
+    if (!refusal)
+        m_general = wanted;
+    return refusal;
+}
+
+void DialogSession::setOfferedParts(bool currentPage, bool selection)
+{
+    m_general.offersCurrentPage = currentPage;
+    m_general.offersSelection = selection;
+}
+
 void DialogSession::addNotice(const QString &notice)
 {
     if (!m_notices.contains(notice))
@@ -318,13 +341,7 @@ QStringList DialogSession::takeNotices()
 void DialogSession::noteAnnounced(const QString &keyword)
 {
     m_changes.announce(keyword);
-    if (!m_panels.isBusy())
-        settleLater();
-}
-
-void DialogSession::settleLater()
-{
-    if (std::exchange(m_settleQueued, true))
+    if (m_panels.isBusy() || std::exchange(m_settleQueued, true))
         return;
     QMetaObject::invokeMethod(
         this,

@@ -88,7 +88,7 @@ void choose(DialogSession *session, const ForcedChoice &forced)
     session->markChoice(forced.wanted.option, forced.wanted.choice);
     Resolution changes = forced.changes;
     if (changes.removeAll(bookletChoice(false)) > 0)
-        session->general().layout.reset(bookletChoice(false).option);
+        (void)session->setGeneral(bookletChoice(false).option, bookletChoice(false).choice);
     session->apply(changes);
 }
 

@@ -132,10 +132,10 @@ QString jobSettingValue(const DialogSession &session, const QString &name)
 PrintError setJobSetting(DialogSession *session, const QString &name, const QString &value)
 {
     if (value == jobSettingValue({}, session->destination().options, name)) {
-        const SessionState now = StateRestorer::stateOf(*session);
+        const SessionState now = session->state();
         SessionState wanted = now;
         wanted.chosen.takeBack({name}, {});
-        StateRestorer(session).restoreTo(now, wanted);
+        session->restoreTo(now, wanted);
         return {};
     }
     PrintError error;

@@ -247,14 +247,6 @@ void PageLayoutSettings::reset(const QString &name)
     m_values.insert(name, PageLayoutSettings().value(name));
 }
 
-void PageLayoutSettings::takeChanges(const PageLayoutSettings &start, const PageLayoutSettings &other)
-{
-    for (auto it = m_values.begin(); it != m_values.end(); ++it) {
-        if (other.value(it.key()) != start.value(it.key()))
-            *it = other.value(it.key());
-    }
-}
-
 QList<JobOption> PageLayoutSettings::jobOptions(const PageLayoutSettings &start,
                                                 const QMap<QString, QString> &defaults) const
 {
@@ -284,20 +276,16 @@ QMap<QString, QString> PageLayoutSettings::values() const
     return set;
 }
 
-QList<SettingWords> PageLayoutSettings::inWords(bool withUsual) const
+QStringList PageLayoutSettings::changed() const
 {
-    QList<SettingWords> words;
+    QStringList list;
     for (const Setting &setting : settings) {
-        const QString now = value(setting.name);
-        const bool isInEffect = setting.name == "number-up-layout"_L1
-                                    ? pagesPerSide() > 1 && !isBooklet()
-                                    : !(isBooklet() && setting.name == "number-up"_L1);
-        const bool isUsual =
-            setting.name == "number-up-layout"_L1 ? !isInEffect : now == setting.defaultValue || !isInEffect;
-        if (withUsual || !isUsual)
-            words.append({setting.name, LayoutText::tr(setting.text), layoutValueText(setting.name, now)});
+        const bool isOrder = setting.name == "number-up-layout"_L1, isNumber = setting.name == "number-up"_L1;
+        const bool isInEffect = isOrder ? pagesPerSide() > 1 && !isBooklet() : !(isBooklet() && isNumber);
+        if (isInEffect && (isOrder || value(setting.name) != setting.defaultValue))
+            list.append(setting.name);
     }
-    return words;
+    return list;
 }
 
 QString layoutValueText(const QString &name, const QString &value)

@@ -15,14 +15,6 @@
 
 namespace host {
 
-// A general setting and its value, localised.
-struct SettingWords
-{
-    QString key; // name of the job option
-    QString name;
-    QString value;
-};
-
 // The page layout, which the filters of the print system apply for every printer. Settings have the names and
 // values of their job options, in their canonical spelling. The scale is applied before a job is sent. An
 // empty value is the default of each document. The settings are listed in a table in the source file. A
@@ -67,8 +59,6 @@ public:
     bool set(const QString &name, const QString &value);
     // Restores the print system's default.
     void reset(const QString &name);
-    // Takes over the settings of `other` that differ from `start`.
-    void takeChanges(const PageLayoutSettings &start, const PageLayoutSettings &other);
 
     // The settings that differ from `start`, as job options. Also overrides defaults of the destination that
     // the print system adds under another name for the same setting.
@@ -76,8 +66,8 @@ public:
                                 const QMap<QString, QString> &defaults) const;
     // All settings with a value, by job option.
     QMap<QString, QString> values() const;
-    // The settings that differ from the print system's defaults, or all of them, localised.
-    QList<SettingWords> inWords(bool withUsual) const;
+    // The names of the settings that have an effect and differ from the print system's defaults.
+    QStringList changed() const;
 
 private:
     QMap<QString, QString> m_values; // of every setting

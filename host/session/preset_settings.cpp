@@ -156,7 +156,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     const QMap<QString, QString> &locked = session->locks().choices();
     QMap<QString, QString> preset = withoutForbidden(session, given, notices);
     notices->append(leaveOutInvalid(*session, &preset));
-    const SessionState now = StateRestorer::stateOf(*session);
+    const SessionState now = session->state();
     SessionState wanted = now;
     QMap<QString, QString> all = queueOptions;
     all.insert(preset);
@@ -170,9 +170,11 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     wanted.savedKeywords.clear();
     wanted.instance.clear();
     wanted.destinationOptions = queueOptions;
-    wanted.general = GeneralSettings::from(all);
-    wanted.general.pages = now.general.pages;
-    wanted.general.takePart(now.general);
+    const GeneralSettings general = GeneralSettings::from(all);
+    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+        if (name != pagesName)
+            wanted.general.set(name, general.value(name));
+    }
     for (auto it = all.begin(); it != all.end(); ++it) {
         const bool isUsers = preset.contains(it.key()) || locked.contains(it.key());
         if (preset.contains(it.key()) && session->ppd() && !session->ppd()->takesOption(it.key()) &&
@@ -196,7 +198,7 @@ void applyPreset(DialogSession *session, const QMap<QString, QString> &queueOpti
 {
     QStringList notices;
     const SessionState wanted = stateWithPreset(session, queueOptions, preset, &notices);
-    StateRestorer(session).restoreTo(StateRestorer::stateOf(*session), wanted);
+    session->restoreTo(session->state(), wanted);
     for (const QString &notice : std::as_const(notices))
         session->addNotice(notice);
 }

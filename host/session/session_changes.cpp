@@ -34,26 +34,14 @@ SettingChange markChange(const DialogSession &session, const QString &key, const
     return {key, now.optionText, then.choiceText, now.choiceText};
 }
 
-// Uses the texts of the summary, which contains all of these settings. Collation is only reported for several
-// copies.
+// Collation is only reported for several copies.
 void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &after,
                        QList<SettingChange> *changes)
 {
-    QList<SettingChange> all;
-    for (const auto &[key, name, value] : generalWords(after, true))
-        all.append({key, name, {}, value});
-    for (const auto &[key, name, value] : generalWords(before, true)) {
-        const auto known = std::find_if(all.begin(), all.end(),
-                                        [name = name](const SettingChange &c) { return c.name == name; });
-        if (known == all.end())
-            all.append({key, name, value, {}});
-        else
-            known->before = value;
-    }
-    for (const SettingChange &change : all) {
-        const bool isCollating = change.key == QLatin1String("multiple-document-handling");
-        if (change.before != change.after && !(isCollating && before.collate == after.collate))
-            changes->append(change);
+    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+        const QString then = before.valueText(name), now = after.valueText(name);
+        if (before.value(name) != after.value(name) && then != now)
+            changes->append({name, GeneralSettings::textOf(name), then, now});
     }
 }
 
@@ -115,7 +103,7 @@ QStringList keysOfControl(const DialogSession &session, int panel, const QString
 
 void putBack(DialogSession *session, const SessionState &base, const QStringList &keys)
 {
-    const SessionState now = StateRestorer::stateOf(*session);
+    const SessionState now = session->state();
     SessionState wanted = now;
     for (const QString &key : keys) {
         if (base.marks.contains(key))
@@ -123,10 +111,10 @@ void putBack(DialogSession *session, const SessionState &base, const QStringList
         else if (base.panelValues.contains(key))
             wanted.panelValues.insert(key, base.panelValues.value(key));
         else if (!jobSettingNames().contains(key))
-            wanted.general = withGeneralValue(wanted.general, key, base.general);
+            wanted.general.set(key, base.general.value(key));
     }
     wanted.chosen.takeBack(keys, base.chosen);
-    StateRestorer(session).restoreTo(now, wanted);
+    session->restoreTo(now, wanted);
 }
 
 } // namespace host

@@ -85,8 +85,7 @@ private:
 };
 
 SessionHistory::SessionHistory(DialogSession *session)
-    : m_session(session),
-      m_now(StateRestorer::stateOf(*session)), m_base{m_now, session->destination().instance},
+    : m_session(session), m_now(session->state()), m_base{m_now, session->destination().instance},
       m_startingPanelValues(m_now.panelValues)
 {
     m_steps.setUndoLimit(mostSteps);
@@ -97,7 +96,7 @@ void SessionHistory::note()
     if (m_isPaused)
         return;
     m_isQueued = false; // a queued call has nothing left to do
-    SessionState now = StateRestorer::stateOf(*m_session);
+    SessionState now = m_session->state();
     if (m_now.differencesTo(now).isEmpty()) {
         // No value differs, but a save of a panel may have recorded further choices.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
@@ -142,7 +141,7 @@ void SessionHistory::resync()
 
 void SessionHistory::recordState()
 {
-    m_now = StateRestorer::stateOf(*m_session);
+    m_now = m_session->state();
     recordInitialValues(m_now);
 }
 
@@ -184,17 +183,17 @@ void SessionHistory::renameInstance(const QString &from, const QString &to)
     if (m_session->destination().instance != from)
         return;
     const auto paused = pause();
-    const SessionState now = StateRestorer::stateOf(*m_session);
+    const SessionState now = m_session->state();
     SessionState wanted = now;
     wanted.instance = to;
-    StateRestorer(m_session).restoreTo(now, wanted);
+    m_session->restoreTo(now, wanted);
     recordState();
 }
 
 void SessionHistory::go(const SessionState &from, const SessionState &to, const Base &base)
 {
     const auto paused = pause();
-    StateRestorer(m_session).restoreTo(from, to);
+    m_session->restoreTo(from, to);
     m_base = base;
     recordState();
     m_sinceStep.invalidate();

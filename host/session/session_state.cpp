@@ -20,8 +20,6 @@ namespace {
 // in case two panels keep changing each other.
 constexpr int mostRounds = 3;
 
-const QString collatingName = QStringLiteral("multiple-document-handling");
-
 template <typename Map>
 void addDifferences(const Map &one, const Map &other, QStringList *keys)
 {
@@ -48,45 +46,35 @@ void dropAlike(Map *one, Map *other)
     }
 }
 
-QMap<QString, QString> byName(const GeneralSettings &general)
-{
-    QMap<QString, QString> values;
-    for (const JobOption &option : general.jobOptions())
-        values.insert(option.name, option.value);
-    // Collation is always compared, under one name. A job contains it only for several copies, under two
-    // names.
-    values.remove(QStringLiteral("Collate"));
-    values.insert(collatingName, GeneralSettings::handling(general.collate));
-    values.insert(general.layout.values());
-    return values;
-}
-
 std::pair<int, QString> placeOf(const QString &panelKey)
 {
     return {panelKey.section(QLatin1Char('/'), 0, 0).toInt(), panelKey.section(QLatin1Char('/'), 1)};
 }
 
-} // namespace
-
-GeneralSettings withGeneralValue(const GeneralSettings &general, const QString &name,
-                                 const GeneralSettings &other)
+// Device settings are only in the print settings until a panel has read them. Returns whether any was
+// changed.
+bool restorePrintSettings(const SessionState &from, const SessionState &to, platform::PrintSettings *settings)
 {
-    QMap<QString, QString> values = byName(general);
-    values.remove(name);
-    const QMap<QString, QString> others = byName(other);
-    if (others.contains(name))
-        values.insert(name, others.value(name));
-    GeneralSettings result = GeneralSettings::from(values);
-    result.takePart(name == QLatin1String("page-ranges") ? other : general);
-    return result;
+    bool isChanged = false;
+    const QStringList all = from.printSettings.keys() + to.printSettings.keys();
+    for (const QString &key : QSet<QString>(all.begin(), all.end())) {
+        const QVariant wanted = to.printSettings.value(key);
+        if (sameValue(from.printSettings.value(key), wanted) || sameValue(settings->value(key), wanted))
+            continue;
+        settings->setValue(key, wanted);
+        isChanged = true;
+    }
+    return isChanged;
 }
+
+} // namespace
 
 QStringList SessionState::differencesTo(const SessionState &other) const
 {
     QStringList keys;
     addDifferences(marks, other.marks, &keys);
     addDifferences(panelValues, other.panelValues, &keys);
-    const QMap<QString, QString> own = byName(general), others = byName(other.general);
+    const QMap<QString, QString> own = general.values(), others = other.general.values();
     addDifferences(own, others, &keys);
     for (const auto &[one, two] : {std::pair(own, others), std::pair(others, own)}) {
         for (auto it = one.begin(); it != one.end(); ++it) {
@@ -113,53 +101,51 @@ void SessionState::keepDifferences(SessionState *one, SessionState *other)
     dropAlike(&one->printSettings, &other->printSettings);
 }
 
-SessionState StateRestorer::stateOf(const DialogSession &session)
+SessionState DialogSession::state() const
 {
     SessionState state;
-    const PpdDocument *ppd = session.ppd();
-    for (const QString &keyword : ppd ? ppd->optionKeywords() : QStringList()) {
-        if (!ppd->isInstallable(keyword))
-            state.marks.insert(keyword, ppd->markedChoice(keyword));
+    for (const QString &keyword : m_ppd ? m_ppd->optionKeywords() : QStringList()) {
+        if (!m_ppd->isInstallable(keyword))
+            state.marks.insert(keyword, m_ppd->markedChoice(keyword));
     }
-    for (int i = 0; i < session.panels().count(); ++i) {
-        if (!session.panels().isRestored(i))
+    for (int i = 0; i < m_panels.count(); ++i) {
+        if (!m_panels.isRestored(i))
             continue;
-        platform::KeyValueObject *object = session.m_panels.objectOf(i);
-        for (const QString &keyword : session.panels().keywords(i)) {
+        platform::KeyValueObject *object = m_panels.objectOf(i);
+        for (const QString &keyword : m_panels.keywords(i)) {
             const QVariant choice = object->valueForKey(keyword);
             if (choice.isValid() && state.marks.contains(keyword))
                 state.marks.insert(keyword, choice.toString());
         }
-        for (const QString &key : session.panels().settableKeysOf(i)) {
+        for (const QString &key : m_panels.settableKeysOf(i)) {
             if (object->keysOfDependentKey(key).isEmpty()) // other properties represent options
                 state.panelValues.insert(QStringLiteral("%1/%2").arg(i).arg(key),
                                          object->valueForKeyPath(key));
         }
     }
-    state.printSettings = session.m_host.settings().values();
-    state.general = session.general();
-    state.chosen = session.chosen();
-    state.savedKeywords = session.m_savedKeywords;
-    state.instance = session.destination().instance;
-    state.destinationOptions = session.destination().options;
+    state.printSettings = m_host.settings().values();
+    state.general = m_general;
+    state.chosen = m_chosen;
+    state.savedKeywords = m_savedKeywords;
+    state.instance = m_destination.instance;
+    state.destinationOptions = m_destination.options;
     return state;
 }
 
 // One round; true if nothing was left to do.
-bool StateRestorer::restoreMarks(const SessionState &from, const SessionState &to)
+bool DialogSession::restoreMarks(const SessionState &from, const SessionState &to)
 {
-    const SessionState now = stateOf(*m_session);
-    SessionPanels &panels = m_session->m_panels;
+    const SessionState now = state();
     bool isThere = true;
     for (auto it = to.marks.begin(); it != to.marks.end(); ++it) {
         const bool differs = from.marks.value(it.key()) != it.value() && !it.value().isEmpty();
         const bool isMade =
-            now.marks.value(it.key()) == it.value() && m_session->ppd()->markedChoice(it.key()) == it.value();
+            now.marks.value(it.key()) == it.value() && m_ppd->markedChoice(it.key()) == it.value();
         ChosenSetting setting{it.key(), it.value()};
-        if (!differs || isMade || !m_session->mark(&setting))
+        if (!differs || isMade || !mark(&setting))
             continue;
         isThere = false;
-        panels.set(setting.key, setting.value);
+        m_panels.set(setting.key, setting.value);
     }
     for (auto it = to.panelValues.begin(); it != to.panelValues.end(); ++it) {
         const auto before = from.panelValues.constFind(it.key());
@@ -168,8 +154,8 @@ bool StateRestorer::restoreMarks(const SessionState &from, const SessionState &t
         isThere = false;
         const auto [panel, key] = placeOf(it.key());
         try {
-            if (panel < panels.count())
-                panels.objectOf(panel)->setValueForKeyPath(*it, key);
+            if (panel < m_panels.count())
+                m_panels.objectOf(panel)->setValueForKeyPath(*it, key);
         } catch (const platform::Exception &exception) {
             qCWarning(lcHost).noquote() << exception.name();
         }
@@ -177,45 +163,29 @@ bool StateRestorer::restoreMarks(const SessionState &from, const SessionState &t
     return isThere;
 }
 
-// Device settings are only in the print settings until a panel has read them.
-bool StateRestorer::restorePrintSettings(const SessionState &from, const SessionState &to)
+void DialogSession::restoreTo(const SessionState &from, const SessionState &to)
 {
-    platform::PrintSettings &settings = m_session->m_host.settings();
-    bool isChanged = false;
-    const QStringList all = from.printSettings.keys() + to.printSettings.keys();
-    for (const QString &key : QSet<QString>(all.begin(), all.end())) {
-        const QVariant wanted = to.printSettings.value(key);
-        if (sameValue(from.printSettings.value(key), wanted) || sameValue(settings.value(key), wanted))
-            continue;
-        settings.setValue(key, wanted);
-        isChanged = true;
-    }
-    return isChanged;
-}
-
-void StateRestorer::restoreTo(const SessionState &from, const SessionState &to)
-{
-    const QStringList notices = m_session->m_notices;
-    m_session->m_destination.instance = to.instance;
-    m_session->m_destination.options = to.destinationOptions;
+    const QStringList notices = m_notices;
+    m_destination.instance = to.instance;
+    m_destination.options = to.destinationOptions;
     for (int round = 0; round < mostRounds && !restoreMarks(from, to); ++round)
-        m_session->settle();
+        settle();
     QStringList keys;
     addDifferences(to.panelValues, from.panelValues, &keys);
-    const bool isReadAnew = restorePrintSettings(from, to) && keys.isEmpty();
-    m_session->settle();
-    m_session->m_notices = notices;
-    for (int i = 0; i < m_session->panels().count(); ++i) {
-        if (isReadAnew && m_session->panels().isRestored(i))
-            m_session->m_panels.restore(i);
+    const bool isReadAnew = restorePrintSettings(from, to, &m_host.settings()) && keys.isEmpty();
+    settle();
+    m_notices = notices;
+    for (int i = 0; i < m_panels.count(); ++i) {
+        if (isReadAnew && m_panels.isRestored(i))
+            m_panels.restore(i);
     }
-    const QStringList problems = m_session->m_notices;
-    m_session->save();
-    m_session->m_notices = problems;
-    m_session->m_general = to.general;
-    m_session->m_chosen = to.chosen;
-    m_session->m_savedKeywords = to.savedKeywords;
-    Q_EMIT m_session->changed();
+    const QStringList problems = m_notices;
+    save();
+    m_notices = problems;
+    m_general = to.general;
+    m_chosen = to.chosen;
+    m_savedKeywords = to.savedKeywords;
+    Q_EMIT changed();
 }
 
 } // namespace host

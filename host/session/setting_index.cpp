@@ -6,7 +6,6 @@
 #include "host/session/dialog_session.h"
 #include "host/session/job_settings.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -14,11 +13,6 @@
 namespace host {
 
 namespace {
-
-struct SettingText
-{
-    Q_DECLARE_TR_FUNCTIONS(SummaryText) // the words of the summary
-};
 
 constexpr int unmatched = 1000;
 
@@ -80,9 +74,8 @@ void SettingIndex::addOption(const DialogSession &session, const QString &page, 
 void SettingIndex::addSession(const DialogSession &session)
 {
     const QString general = QStringLiteral("general");
-    add({general, QStringLiteral("copies"), SettingText::tr("Copies"), {}, {}});
-    add({general, QStringLiteral("Collate"), SettingText::tr("Collate"), {}, {}});
-    add({general, QStringLiteral("page-ranges"), SettingText::tr("Pages"), {}, {}});
+    for (const QString &name : GeneralSettings::names())
+        add({general, name, GeneralSettings::textOf(name), {}, {}});
     for (const QString &name : jobSettingNames()) {
         if (!printModeNames().contains(name))
             add({QStringLiteral("job"), name, jobSettingText(name), {}, {}});

@@ -4,7 +4,6 @@
 #include "host/session/setting_keys.h"
 
 #include "host/printing/option_text.h"
-#include "host/printing/page_ranges.h"
 #include "host/printing/ppd_password.h"
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
@@ -55,84 +54,48 @@ QString canonicalName(const DialogSession &session, const QString &name)
                : name;
 }
 
-// Whether a key is a setting of the page layout. An option of the PPD with the same name takes precedence.
-bool isLayout(const DialogSession &session, const QString &key)
-{
-    return PageLayoutSettings::covers(key) && !(session.ppd() && session.ppd()->hasOption(key));
-}
+// The code that sets a setting.
+enum class Owner { None, General, Job, Ppd, Panel };
 
-bool isJobSetting(const DialogSession &session, const QString &key)
+// An option of the PPD takes precedence over a setting of the page layout or the job with the same name.
+Owner ownerOf(const DialogSession &session, const QString &key)
 {
-    return jobSettingNames().contains(key) && !(session.ppd() && session.ppd()->hasOption(key));
-}
-
-QString layoutProblem(const QString &key)
-{
-    return SettingText::tr("%1 takes %2.").arg(key, PageLayoutSettings::takes(key));
+    const bool isOption = session.ppd() && session.ppd()->hasOption(key);
+    if (GeneralSettings::covers(key) || (PageLayoutSettings::covers(key) && !isOption))
+        return Owner::General;
+    if (isOption)
+        return Owner::Ppd;
+    if (jobSettingNames().contains(key))
+        return Owner::Job;
+    return session.panels().ofSetting(key) >= 0 ? Owner::Panel : Owner::None;
 }
 
 // Selects short-edge binding if the key has switched a booklet on. While it is on, refuses other choices of
 // two-sided printing and restores short-edge binding.
-bool keepBooklet(DialogSession *session, const QString &key, PrintError *error)
+bool keepBooklet(DialogSession *session, const ChosenSetting &setting, PrintError *error)
 {
-    const bool isBooklet = key == QLatin1String("booklet");
-    if (!session->general().layout.isBooklet())
+    const bool isBooklet = setting.key == QLatin1String("booklet");
+    const auto sides =
+        session->general().layout.isBooklet() ? sidesForBooklet(*session) : std::optional<OptionChoice>();
+    if (!sides || (setting.kind == ChosenSetting::Kind::General && !isBooklet))
         return true;
-    const auto sides = sidesForBooklet(*session);
-    if (!sides)
+    if (!isBooklet && !areSidesWrongForBooklet(*session))
         return true;
-    const QString &keyword = sides->option;
-    const bool isWrong = areSidesWrongForBooklet(*session);
     const OptionChoice wrong =
-        isWrong ? session->ppd()->described(keyword, session->ppd()->markedChoice(keyword)) : OptionChoice();
-    if (isBooklet && !markSidesForBooklet(session)) {
-        session->general().layout.reset(QStringLiteral("booklet"));
-        *error = session->locks().refusal(session->ppd(), QStringLiteral("booklet"), QStringLiteral("true"));
-        return false;
-    }
-    if (!isWrong || isBooklet)
-        return true;
-    markSidesForBooklet(session);
-    return refuse(error, SettingText::tr("“%1” is not available for a booklet, whose sheets are turned on "
+        session->ppd()->described(sides->option, session->ppd()->markedChoice(sides->option));
+    session->markChoice(sides->option, sides->choice);
+    return isBooklet ||
+           refuse(error, SettingText::tr("“%1” is not available for a booklet, whose sheets are turned on "
                                          "the short edge.")
                              .arg(wrong.text()));
 }
 
-bool setCollate(DialogSession *session, bool collate, PrintError *error)
-{
-    *error = session->locks().refusal(session->ppd(), handlingName, GeneralSettings::handling(collate));
-    if (*error)
-        return false;
-    session->general().collate = collate;
-    return true;
-}
-
 bool setGeneral(DialogSession *session, const ChosenSetting &setting, PrintError *error)
 {
-    GeneralSettings &general = session->general();
-    if (setting.key == QLatin1String("copies")) {
-        bool ok = false;
-        const int copies = setting.value.toInt(&ok);
-        if (!ok || copies < 1 || copies > GeneralSettings::maxCopies)
-            return refuse(
-                error,
-                SettingText::tr("copies takes a number from 1 to %1.").arg(GeneralSettings::maxCopies));
-        general.copies = copies;
-        return true;
-    }
-    if (setting.key == QLatin1String("page-ranges")) {
-        QString problem;
-        const auto pages = normalizedPageRanges(setting.value, &problem);
-        if (!pages)
-            return refuse(error, setting.isSecret ? SettingText::tr("page-ranges does not take this value.")
-                                                  : problem);
-        general.pages = *pages;
-        return true;
-    }
-    const auto collate = switchValue(setting.value);
-    if (!collate)
-        return refuse(error, SettingText::tr("%1 takes True or False.").arg(setting.key));
-    return setCollate(session, *collate, error);
+    *error = session->setGeneral(setting.key, setting.value);
+    if (setting.isSecret && error->kind == PrintError::Kind::BadValue)
+        return refuse(error, SettingText::tr("%1 does not take this value.").arg(setting.key));
+    return !*error;
 }
 
 bool setOnPanel(DialogSession *session, int panel, const ChosenSetting &setting, PrintError *error)
@@ -265,27 +228,34 @@ bool setJobOption(DialogSession *session, ChosenSetting setting, PrintError *err
 
 bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError *error)
 {
+    using Kind = ChosenSetting::Kind;
     const QString &key = setting.key, &value = setting.value;
-    const bool isHandling = key == handlingName;
-    if (isHandling && (value == GeneralSettings::handling(true) || value == GeneralSettings::handling(false)))
-        return setCollate(session, value == GeneralSettings::handling(true), error);
-    if (isJobSetting(*session, key))
-        return setJobOption(session, setting, error);
-    // The print system may accept a value that the page layout does not.
-    if (setting.kind == ChosenSetting::Kind::JobOption &&
-        (isHandling || !hasSetting(*session, key) ||
-         (isLayout(*session, key) && !PageLayoutSettings().set(key, value) &&
-          !PageLayoutSettings::rangeOf(key))))
-        return setJobOption(session, setting, error);
-    if (GeneralSettings::covers(key) && !isHandling)
+    Owner owner = setting.kind == Kind::General ? Owner::General : ownerOf(*session, key);
+    // Other values also specify how documents are put together. The print system may accept a value that the
+    // page layout does not.
+    const bool isOther =
+        key == handlingName
+            ? value != GeneralSettings::handling(true) && value != GeneralSettings::handling(false)
+            : setting.kind == Kind::JobOption && PageLayoutSettings::covers(key) &&
+                  !PageLayoutSettings().set(key, value) && !PageLayoutSettings::rangeOf(key);
+    if (owner == Owner::General && isOther)
+        owner = Owner::None;
+    switch (owner) {
+    case Owner::General:
         return setGeneral(session, setting, error);
-    if (isLayout(*session, key))
-        return session->general().layout.set(key, value) || refuse(error, layoutProblem(key));
-    if (session->ppd() && session->ppd()->hasOption(key))
+    case Owner::Job:
+        return setJobOption(session, setting, error);
+    case Owner::Ppd:
         return setOption(session, setting, error);
-    if (const int panel = session->panels().ofSetting(key); panel >= 0)
-        return setOnPanel(session, panel, setting, error);
-    return refuse(error, SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
+    case Owner::Panel:
+        return setOnPanel(session, session->panels().ofSetting(key), setting, error);
+    case Owner::None:
+        break;
+    }
+    return setting.kind == Kind::JobOption
+               ? setJobOption(session, setting, error)
+               : refuse(error,
+                        SettingText::tr("This printer has no option or setting called “%1”.").arg(key));
 }
 
 } // namespace
@@ -293,16 +263,19 @@ bool chooseAny(DialogSession *session, const ChosenSetting &setting, PrintError 
 bool choose(DialogSession *session, const ChosenSetting &wanted, PrintError *error)
 {
     ChosenSetting setting = wanted;
-    setting.key = canonicalName(*session, wanted.key);
+    if (wanted.kind != ChosenSetting::Kind::General)
+        setting.key = canonicalName(*session, wanted.key);
     setting.isSecret |= session->isSecret(setting.key);
     if (jobSettingNames().contains(setting.key))
         setting.kind = ChosenSetting::Kind::JobOption;
-    return chooseAny(session, setting, error) && keepBooklet(session, setting.key, error);
+    return chooseAny(session, setting, error) && keepBooklet(session, setting, error);
 }
 
-bool mayCollate(const DialogSession &session, bool collate)
+void chooseGeneral(DialogSession *session, const QString &name, const QString &value)
 {
-    return !session.locks().refusal(session.ppd(), handlingName, GeneralSettings::handling(collate));
+    PrintError error;
+    if (!choose(session, {name, value, ChosenSetting::Kind::General}, &error))
+        session->addNotice(error.message);
 }
 
 QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options)
@@ -311,12 +284,12 @@ QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString>
     for (auto it = options->begin(); it != options->end();) {
         const QString &name = it.key();
         QString problem;
-        if (isJobSetting(session, name)) {
+        const Owner owner = ownerOf(session, name);
+        if (owner == Owner::Job) {
             *it = canonicalJobValue(name, *it);
             problem = jobSettingProblem(name, *it);
-        } else if (isLayout(session, name) && PageLayoutSettings::rangeOf(name) &&
-                   !PageLayoutSettings().set(name, *it)) {
-            problem = layoutProblem(name);
+        } else if (owner == Owner::General && PageLayoutSettings::rangeOf(name)) {
+            problem = GeneralSettings().set(name, *it);
         }
         if (problem.isNull() || session.locks().choices().contains(name)) {
             ++it;
@@ -330,17 +303,14 @@ QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString>
 
 bool hasSetting(const DialogSession &session, const QString &key)
 {
-    return GeneralSettings::covers(key) || isLayout(session, key) || isJobSetting(session, key) ||
-           (session.ppd() && session.ppd()->hasOption(key)) || session.panels().ofSetting(key) >= 0;
+    return ownerOf(session, key) != Owner::None;
 }
 
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
 {
     QList<std::pair<QString, QString>> keys;
-    const QStringList general{QStringLiteral("copies"), QStringLiteral("collate"),
-                              QStringLiteral("page-ranges")};
-    for (const QString &name : general + PageLayoutSettings::names())
-        keys.append({QStringLiteral("general"), name});
+    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names())
+        keys.append({QStringLiteral("general"), name == handlingName ? QStringLiteral("collate") : name});
     for (const QString &name : jobSettingNames()) {
         if (!printModeNames().contains(name))
             keys.append({QStringLiteral("job"), name});

@@ -24,8 +24,9 @@ namespace host {
 // code.
 bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *error);
 
-// Whether the policy allows that copies are collated, or that they are not.
-bool mayCollate(const DialogSession &session, bool collate);
+// Sets a general setting, by the name of its job option, even if the PPD has an option of the same name. An
+// error becomes a notice.
+void chooseGeneral(DialogSession *session, const QString &name, const QString &value);
 
 // Changes stored options of a destination or a preset as choose() would: times, priorities and numbers of the
 // page layout that it refuses are removed, times and priorities are changed to their canonical spelling. An

@@ -8,7 +8,6 @@
 #include "host/session/session_changes.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace host {
 
@@ -38,28 +37,11 @@ void addJobSetting(const DialogSession &session, const QString &name, SummarySec
 
 } // namespace
 
-QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual)
-{
-    const QString copies = QLocale().toString(general.copies);
-    QList<SettingWords> words{{QStringLiteral("copies"), SummaryText::tr("Copies"), copies}};
-    if (general.copies > 1)
-        words.append({QStringLiteral("multiple-document-handling"), SummaryText::tr("Collate"),
-                      general.collate ? SummaryText::tr("On") : SummaryText::tr("Off")});
-    QString pages = general.pages.isEmpty() ? SummaryText::tr("All") : general.pages;
-    if (general.part != GeneralSettings::Part::Pages)
-        pages = general.part == GeneralSettings::Part::CurrentPage ? SummaryText::tr("Current page")
-                                                                   : SummaryText::tr("Selection");
-    words.append({QStringLiteral("page-ranges"), SummaryText::tr("Pages"), pages});
-    return words + general.layout.inWords(withUsual);
-}
-
 QString keyOfGeneralEntry(const QString &name)
 {
-    GeneralSettings several;
-    several.copies = 2; // so that collation is listed
-    for (const SettingWords &words : generalWords(several, true)) {
-        if (name == words.name)
-            return words.key;
+    for (const QString &key : GeneralSettings::names() + PageLayoutSettings::names()) {
+        if (name == GeneralSettings::textOf(key))
+            return key;
     }
     return {};
 }
@@ -68,8 +50,7 @@ SummarySection generalSummary(const DialogSession &session)
 {
     SummarySection section{SummaryText::tr("General"), {}};
     section.entries.append({SummaryText::tr("Printer"), session.destination().displayName()});
-    for (const SettingWords &words : generalWords(session.general(), false))
-        section.entries.append({words.name, words.value});
+    section.entries += session.general().inWords();
     QStringList keywords = session.ppd() ? generalOptionKeywords(*session.ppd()) : QStringList();
     keywords.removeIf([&](const QString &keyword) { return session.panels().ofKeyword(keyword) >= 0; });
     addOptions(session, keywords, &section);

@@ -11,8 +11,6 @@
 namespace host {
 
 class DialogSession;
-struct GeneralSettings;
-struct SettingWords;
 
 using SummaryEntry = std::pair<QString, QString>; // name and value
 
@@ -32,8 +30,6 @@ SummarySection moreSummary(const DialogSession &session);
 SummarySection jobSummary(const DialogSession &session);
 // The settings of the Print Mode page, without their values. May be empty.
 SummarySection printModeSummary(const DialogSession &session);
-// The general settings that are not PPD options, localised.
-QList<SettingWords> generalWords(const GeneralSettings &general, bool withUsual);
 // The job option of a general setting, by its display name; empty if there is none.
 QString keyOfGeneralEntry(const QString &name);
 

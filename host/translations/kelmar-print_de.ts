@@ -1756,10 +1756,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>%1 wird nicht mit dem Auftrag gesendet: %2</translation>
     </message>
     <message>
-        <source>page-ranges does not take this value.</source>
-        <translation>page-ranges nimmt diesen Wert nicht an.</translation>
-    </message>
-    <message>
         <source>%1 takes %2.</source>
         <translation>%1 erwartet %2.</translation>
     </message>

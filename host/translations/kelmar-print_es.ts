@@ -1744,10 +1744,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>copies admite un número del 1 al %1.</translation>
     </message>
     <message>
-        <source>page-ranges does not take this value.</source>
-        <translation>page-ranges no admite este valor.</translation>
-    </message>
-    <message>
         <source>%1 takes True or False.</source>
         <translation>%1 admite True o False.</translation>
     </message>

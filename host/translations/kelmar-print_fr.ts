@@ -1756,10 +1756,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>%1 n’est pas envoyé avec la tâche&#xa0;: %2</translation>
     </message>
     <message>
-        <source>page-ranges does not take this value.</source>
-        <translation>page-ranges n’accepte pas cette valeur.</translation>
-    </message>
-    <message>
         <source>%1 takes %2.</source>
         <translation>%1 prend %2.</translation>
     </message>

@@ -1744,10 +1744,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>copies accetta un numero da 1 a %1.</translation>
     </message>
     <message>
-        <source>page-ranges does not take this value.</source>
-        <translation>page-ranges non accetta questo valore.</translation>
-    </message>
-    <message>
         <source>%1 takes True or False.</source>
         <translation>%1 accetta True o False.</translation>
     </message>

@@ -1756,10 +1756,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>%1 はジョブと一緒に送信されません: %2</translation>
     </message>
     <message>
-        <source>page-ranges does not take this value.</source>
-        <translation>page-ranges にこの値は指定できません。</translation>
-    </message>
-    <message>
         <source>%1 takes %2.</source>
         <translation>%1 には %2 を指定してください。</translation>
     </message>

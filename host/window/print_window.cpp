@@ -285,8 +285,8 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
     m_poller.setChosen(m_session->destination());
     showSession();
     // After the connection of the book, which shows the reason on its page before the sign paints the window.
-    connect(m_session->panelHost(), &PanelHost::blockingBegan, &m_wait, &PanelWait::begin);
-    connect(m_session->panelHost(), &PanelHost::blockingEnded, &m_wait, &PanelWait::end);
+    connect(m_session.get(), &DialogSession::blockingBegan, &m_wait, &PanelWait::begin);
+    connect(m_session.get(), &DialogSession::blockingEnded, &m_wait, &PanelWait::end);
     showState(State::Choosing);
     if (focusWidget() == m_cancel) // the waiting page had moved the focus to Cancel
         m_book->list()->setFocus(Qt::OtherFocusReason);

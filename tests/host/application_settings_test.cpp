@@ -4,6 +4,7 @@
 #include "host/portal/application_settings.h"
 #include "host/portal/stored_job.h"
 #include "host/session/protection_checks.h"
+#include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/paths.h"
 
@@ -104,7 +105,7 @@ void ApplicationSettingsTest::whatComesBack()
                                             {u"page-set"_s, u"odd"_s},
                                             {u"natural-scaling"_s, u"50"_s}}));
     beginWith(start, session.get());
-    session->general().pages = u"2-3,5-"_s;
+    chooseGeneral(session.get(), u"page-ranges"_s, u"2-3,5-"_s);
     session->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     session->markChoice(u"PageSize"_s, u"A3"_s);
     const QJsonObject back = settingsForApplication(sent, choiceForApplication(*session, {u"ps"_s}));
@@ -115,7 +116,8 @@ void ApplicationSettingsTest::whatComesBack()
     QCOMPARE(back.value("printer"_L1).toString(), u"office"_s);
     QCOMPARE(back.value("output-file-format"_L1).toString(), u"ps"_s);
     QCOMPARE(back.value("x-own"_L1).toString(), u"kept"_s);
-    session->general().part = GeneralSettings::Part::Selection; // produced by the application
+    session->setOfferedParts(false, true); // the application can produce it
+    chooseGeneral(session.get(), u"page-ranges"_s, u"selection"_s);
     const QJsonObject part = settingsForApplication(sent, choiceForApplication(*session, {}));
     QCOMPARE(part.value("print-pages"_L1).toString(), u"selection"_s);
     QVERIFY(!part.contains("page-ranges"_L1));
@@ -222,8 +224,8 @@ void ApplicationSettingsTest::madePagesAreAllPrinted()
     Destination printer = officePrinter();
     for (const char *wanted : {"", "1-2147483647"}) { // the second one overrides a default of the queue
         DialogSession session(printer, openPpd(officePpd()));
-        session.general().pages = u"2-3"_s;
-        QCOMPARE(sentValue(jobOptionsForMadePages(&session), u"page-ranges"_s), QLatin1String(wanted));
+        chooseGeneral(&session, u"page-ranges"_s, u"2-3"_s);
+        QCOMPARE(sentValue(jobOptionsForMadePages(session), u"page-ranges"_s), QLatin1String(wanted));
         QCOMPARE(session.general().pages, u"2-3"_s);
         printer.options.insert(u"page-ranges"_s, u"1-2"_s);
     }

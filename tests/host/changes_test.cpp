@@ -212,7 +212,7 @@ void ChangesTest::panelsControlsAreUndoneAndMarked()
     platform::Binding::bind(box, u"currentText"_s, panel, u"code"_s);
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(made));
-    window.session()->adoptPanels(std::move(panels));
+    adoptPanels(window.session(), std::move(panels));
     window.showSession();
     window.book()->showPage(1);
     panel->setValueForKey(u"2"_s, u"Cyan"_s);
@@ -243,7 +243,7 @@ void ChangesTest::presetIsOneStepHoweverLongItTakes()
     made->onSet = [session](const QString &, const QString &) { Q_EMIT session->changed(); };
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(made));
-    session->adoptPanels(std::move(panels));
+    adoptPanels(session, std::move(panels));
     window.showSession();
     window.book()->showPage(1);
     PrintError error;
@@ -260,7 +260,7 @@ void ChangesTest::summaryShowsChangesAndLeadsToThem()
 {
     PrintWindow &window = open();
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
-    window.session()->general().copies = 3;
+    chooseGeneral(window.session(), u"copies"_s, u"3"_s);
     window.book()->showPage(window.book()->pageNamed(u"summary"_s));
     QCheckBox *only = nullptr;
     for (auto *box : window.findChildren<QCheckBox *>()) {

@@ -4,6 +4,7 @@
 #include "host/extensions/extensions.h"
 #include "host/printing/loaded_media.h"
 #include "host/session/carry_over.h"
+#include "host/session/session_state.h"
 #include "host/session/setting_keys.h"
 #include "tests/host/host_fixture.h"
 #include "tests/support/test_bundle.h"
@@ -76,7 +77,7 @@ void DialogSessionTest::makeSession(const Destination &printer)
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(colour));
     panels.push_back(std::move(balance));
-    m_session->adoptPanels(std::move(panels));
+    adoptPanels(m_session.get(), std::move(panels));
 }
 
 void DialogSessionTest::panelsAreRestoredOnceWhenAsked()
@@ -166,7 +167,7 @@ void DialogSessionTest::resetReachesAPanelThatWasRestored()
 void DialogSessionTest::keywordAnnouncedTwiceKeepsItsFirstValue()
 {
     for (const char *choice : {"1", "2"}) { // the state between two saves of a panel does not matter
-        m_session->panelHost()->willChangePPDOptionKeyValuePpdChoice(u"Cyan"_s, QLatin1String(choice));
+        m_balance->announce(u"Cyan"_s, QLatin1String(choice));
         m_session->ppd()->mark(u"Cyan"_s, QLatin1String(choice));
         m_balance->setValueForKey(QLatin1String(choice), u"Cyan"_s);
     }
@@ -226,9 +227,9 @@ void DialogSessionTest::panelSettingsOfAPresetBecomePrintSettings()
     Destination printer = officePrinter();
     printer.options = {{u"com.example.profile"_s, u"3"_s}};
     makeSession(printer);
-    QCOMPARE(m_session->panelHost()->settings().value(u"com.example.profile"_s), QVariant(u"3"_s));
+    QCOMPARE(m_session->state().printSettings.value(u"com.example.profile"_s), QVariant(u"3"_s));
     QCOMPARE(sentValue(m_session->jobOptions(), u"com.example.profile"_s), u"3"_s);
-    PMPrintSettingsSetValue(m_session->panelHost()->printSettings(), u"com.example.profile"_s, {}, false);
+    PMPrintSettingsSetValue(m_colour->panelHost->printSettings(), u"com.example.profile"_s, {}, false);
     QVERIFY(sentValue(m_session->jobOptions(), u"com.example.profile"_s).isNull());
 }
 
@@ -394,10 +395,10 @@ void DialogSessionTest::secretSettings()
 
 void DialogSessionTest::blockingWorkIsAnnounced()
 {
-    QSignalSpy began(m_session->panelHost(), &PanelHost::blockingBegan);
-    QSignalSpy ended(m_session->panelHost(), &PanelHost::blockingEnded);
+    QSignalSpy began(m_session.get(), &DialogSession::blockingBegan);
+    QSignalSpy ended(m_session.get(), &DialogSession::blockingEnded);
     {
-        const platform::BlockingWork work(m_session->panelHost(), u"Asking the printer"_s);
+        const platform::BlockingWork work(m_colour->panelHost, u"Asking the printer"_s);
         QCOMPARE(began.size(), 1);
         QCOMPARE(began.first().first().toString(), u"Asking the printer"_s);
         QCOMPARE(ended.size(), 0);
@@ -423,8 +424,7 @@ void DialogSessionTest::brokenExtensionIsToldAndPassedOver()
 
 void DialogSessionTest::panelThatCannotBeMadeIsTold()
 {
-    platform::PrintDialogHost *const host = m_session->panelHost();
-    auto *problems = dynamic_cast<platform::PanelProblemHost *>(host); // like a plug-in
+    auto *problems = dynamic_cast<platform::PanelProblemHost *>(m_colour->panelHost); // like a plug-in
     QVERIFY(problems);
     problems->panelFailed(u"Fax"_s, u"Fax.ui is missing"_s);
     QCOMPARE(m_session->takeNotices(),

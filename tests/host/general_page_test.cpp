@@ -4,6 +4,7 @@
 #include "host/preview/page_counter.h"
 #include "host/session/booklet.h"
 #include "host/session/forced_choice.h"
+#include "host/session/setting_keys.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/general_page.h"
@@ -334,7 +335,7 @@ void GeneralPageTest::colorIsChosen()
         colour = panel.get();
         platform::PrintDialogPanels panels;
         panels.push_back(std::move(panel));
-        window.session()->adoptPanels(std::move(panels));
+        adoptPanels(window.session(), std::move(panels));
         window.showSession();
         window.book()->showPage(1); // restores it
         window.book()->showPage(0);
@@ -428,7 +429,7 @@ void GeneralPageTest::pdfIsWritten()
     openTask(task);
     // Reverse order of two-sided pages begins with the blank back of the last sheet.
     QVERIFY(m_window->session()->markChoice(u"Duplex"_s, u"DuplexNoTumble"_s));
-    m_window->session()->general().layout.set(u"outputorder"_s, u"reverse"_s);
+    chooseGeneral(m_window->session(), u"outputorder"_s, u"reverse"_s);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     button(u"Save as PDF…"_s)->click();
     QTRY_VERIFY(find<QFileDialog>());

@@ -102,6 +102,12 @@ void FakePanel::setValueForKey(const QVariant &value, const QString &key)
         onSet(key, value.toString());
 }
 
+void FakePanel::announce(const QString &keyword, const QString &choice)
+{
+    auto &resolver = dynamic_cast<platform::ConstraintResolvingHost &>(*panelHost);
+    resolver.willChangePPDOptionKeyValuePpdChoice(keyword, choice);
+}
+
 QMap<QString, QString> FakePanel::summaryInfo()
 {
     return {{m_name, m_session->ppd()->markedChoice(m_keywords.value(0))}};
@@ -122,7 +128,7 @@ bool FakePanel::saveValuesAndReturnError(QString *)
     ++saved;
     for (const QString &key : m_keywords) {
         const QString choice = valueForKey(key).toString();
-        m_session->panelHost()->willChangePPDOptionKeyValuePpdChoice(key, choice);
+        announce(key, choice);
         m_session->ppd()->mark(key, choice);
     }
     return true;
@@ -133,6 +139,17 @@ bool FakePrintSystem::refuses(PrintError *error) const
     if (serverError)
         *error = serverError;
     return static_cast<bool>(serverError);
+}
+
+void adoptPanels(DialogSession *session, platform::PrintDialogPanels panels)
+{
+    session->loadPanels([&](platform::PrintDialogHost *host) {
+        for (const auto &panel : panels) {
+            if (auto *fake = dynamic_cast<FakePanel *>(panel.get()))
+                fake->panelHost = host;
+        }
+        return std::move(panels);
+    });
 }
 
 std::optional<QList<Destination>> FakePrintSystem::destinations(PrintError *error)

@@ -39,6 +39,9 @@ public:
     // Raises a range exception for fewer than five characters, and truncates longer texts.
     void setCode(const QString &code);
 
+    // Notifies the host that the panel is about to change an option.
+    void announce(const QString &keyword, const QString &choice);
+
     QVariant valueForKey(const QString &key) override;
     void setValueForKey(const QVariant &value, const QString &key) override;
     QString panelName() override { return m_name; }
@@ -54,6 +57,7 @@ public:
     // Called after each set of an option, like an observing panel.
     std::function<void(const QString &key, const QString &choice)> onSet;
     std::function<void()> onRestore;
+    platform::PrintDialogHost *panelHost = nullptr; // of the session that has adopted the panel
     int restored = 0;
     int saved = 0;
     int shown = 0;
@@ -66,6 +70,9 @@ private:
     QString m_code = QStringLiteral("00000");
     std::unique_ptr<QWidget> m_view;
 };
+
+// Adds panels to a session as a bundle does, and passes its host to each FakePanel.
+void adoptPanels(host::DialogSession *session, platform::PrintDialogPanels panels);
 
 // A print system without a server.
 class FakePrintSystem : public host::PrintSystem

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/session/carry_over.h"
 #include "host/session/preset_settings.h"
+#include "host/session/setting_keys.h"
 #include "host/window/guide/search_bar.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
@@ -245,11 +247,14 @@ void PolicyTest::defaultsDoNotPassLocks()
     QVERIFY2(media.isEmpty() || media.section(u',', 0, 0) == u"A4"_s, qPrintable(media));
 }
 
-// Requests that set a session as a whole: a preset of the menu, a resolution of a conflict, an earlier state.
+// Requests that set a session as a whole: a preset of the menu, a resolution of a conflict, an earlier state,
+// the settings of another printer.
 void PolicyTest::nothingElsePassesLocks()
 {
     useFamily();
-    install(R"({"rules": [{"locked": {"PageSize": "A4"}, "lockedPanels": ["color-settings-2"]}]})");
+    m_system.ppds[u"office"_s] += ppdOption("Collate/Collate", {"True", "False"});
+    install(R"({"rules": [{"queues": ["office"], "lockedPanels": ["color-settings-2"],
+                           "locked": {"PageSize": "A4", "Duplex": "DuplexNoTumble", "Collate": "True"}}]})");
     Extensions extensions({m_bundle});
     PrintError error;
     DialogSession session(m_system.printers.first(), m_system.ppd(m_system.printers.first(), &error));
@@ -259,7 +264,7 @@ void PolicyTest::nothingElsePassesLocks()
                session.ppd()->markedChoice(u"ColorBalanceCyan"_s);
     };
     QCOMPARE(stands(), u"A40"_s);
-    const SessionState start = StateRestorer::stateOf(session);
+    const SessionState start = session.state();
     applyPreset(&session, {},
                 {{u"media"_s, u"A3"_s}, {u"ColorBalanceCyan"_s, u"2"_s}, {u"raw"_s, u"true"_s}});
     QCOMPARE(stands(), u"A40"_s);
@@ -269,10 +274,18 @@ void PolicyTest::nothingElsePassesLocks()
     QCOMPARE(session.takeNotices().size(), 1);
     SessionState other = start;
     other.marks.insert(u"PageSize"_s, u"A3"_s);
-    StateRestorer(&session).restoreTo(start, other);
+    session.restoreTo(start, other);
     QCOMPARE(stands(), u"A40"_s);
     for (const JobOption &option : session.jobOptions())
         QVERIFY2(option.name != u"raw"_s, qPrintable(option.name));
+    DialogSession free(m_system.printers.at(1), nullptr);
+    chooseGeneral(&free, u"booklet"_s, u"true"_s);
+    chooseGeneral(&free, u"multiple-document-handling"_s, GeneralSettings::handling(false));
+    chooseGeneral(&free, u"copies"_s, u"2"_s);
+    carryOver(free, &session);
+    QVERIFY(session.general().collate && !session.general().layout.isBooklet());
+    QCOMPARE(session.general().copies, 2);
+    QCOMPARE(session.takeNotices().size(), 2);
 }
 
 void PolicyTest::saysThatItOffersNone_data()

@@ -93,14 +93,13 @@ FakePanel *PrintRequestTest::addSlowPanel()
     auto made = std::make_unique<FakePanel>(u"Colour"_s, QStringList(u"ColorType"_s), session);
     FakePanel *panel = made.get();
     new QLineEdit(panel->panelView());
-    panel->onRestore = [session, release = m_release] {
-        session->panelHost()->willBlock(u"Asking the printer…"_s);
+    panel->onRestore = [panel, release = m_release] {
+        const platform::BlockingWork work(panel->panelHost, u"Asking the printer…"_s);
         platform::Background::call([release] { release->acquire(); });
-        session->panelHost()->didBlock();
     };
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(made));
-    session->adoptPanels(std::move(panels));
+    adoptPanels(session, std::move(panels));
     m_window->showSession();
     m_window->book()->showPage(0);
     return panel;

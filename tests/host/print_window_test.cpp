@@ -307,7 +307,7 @@ void PrintWindowTest::settingsAreTheAnswer()
     PrintTask task;
     task.settingsOnly = true;
     task.acceptLabel = u"&Continue"_s;
-    task.begin = [](DialogSession *session) { session->general().copies = 3; };
+    task.begin = [](DialogSession *session) { chooseGeneral(session, u"copies"_s, u"3"_s); };
     m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
     PrintError error;
     QVERIFY(m_window->open(&error));
@@ -342,7 +342,7 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(first));
     panels.push_back(std::move(second));
-    window.session()->adoptPanels(std::move(panels));
+    adoptPanels(window.session(), std::move(panels));
     window.showSession();
     window.book()->showPage(0);
     QCOMPARE(colour->restored, 0);

@@ -104,7 +104,7 @@ FakePanel *WindowKeyboardTest::showPanels(PrintWindow &window)
     platform::PrintDialogPanels panels;
     panels.push_back(std::move(first));
     panels.push_back(std::move(second));
-    window.session()->adoptPanels(std::move(panels));
+    adoptPanels(window.session(), std::move(panels));
     window.showSession();
     window.book()->showPage(0);
     return colour;

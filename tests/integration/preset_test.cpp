@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "host/printing/preset_store.h"
+#include "host/session/session_state.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
@@ -203,12 +204,12 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
             action->trigger();
     }
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Mono0"_s);
-    QCOMPARE(window.session()->panelHost()->settings().value(rgbSource).toString(), u"3"_s);
+    QCOMPARE(window.session()->state().printSettings.value(rgbSource).toString(), u"3"_s);
     QVERIFY2(window.messageBar()->text().contains(u"Staple"_s), qPrintable(window.messageBar()->text()));
     QTest::keyClick(window.book()->list(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Auto2"_s);
     QCOMPARE(balance->keyValueObject()->valueForKey(u"ColorBalanceCyan"_s).toString(), u"2"_s);
-    QVERIFY(!window.session()->panelHost()->settings().value(rgbSource).isValid());
+    QVERIFY(!window.session()->state().printSettings.value(rgbSource).isValid());
     QTest::keyClick(window.book()->list(), Qt::Key_Y, Qt::ControlModifier);
     window.print();
     QTRY_VERIFY(window.submission());

@@ -4,9 +4,9 @@
 #include "host/window/pages/change_marks.h"
 
 #include "host/session/dialog_session.h"
-#include "host/session/job_settings.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
+#include "host/session/setting_keys.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/look/foreign_text.h"
 #include "platform/binding.h"
@@ -107,10 +107,7 @@ void ChangeMarks::findControls()
         QStringList keys;
         if (m_panel >= 0) {
             keys = keysSetBy(widget);
-        } else if (const QString name = widget->objectName();
-                   GeneralSettings::covers(name) || PageLayoutSettings::covers(name) ||
-                   jobSettingNames().contains(name) ||
-                   (m_session->ppd() && m_session->ppd()->hasOption(name))) {
+        } else if (const QString name = widget->objectName(); hasSetting(*m_session, name)) {
             keys.append(name);
         }
         add(widget, keys);

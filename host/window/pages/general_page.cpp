@@ -174,10 +174,12 @@ void GeneralPage::addCopies(QGridLayout *grid)
     m_collate->setChecked(m_session->general().collate);
     enableCollate();
     connect(m_copies, &QSpinBox::valueChanged, this, [this](int copies) {
-        m_session->general().copies = copies;
+        chooseGeneral(m_session, m_copies->objectName(), QString::number(copies));
         enableCollate();
     });
-    connect(m_collate, &QCheckBox::toggled, this, [this](bool on) { m_session->general().collate = on; });
+    connect(m_collate, &QCheckBox::toggled, this, [this](bool on) {
+        chooseGeneral(m_session, m_collate->objectName(), GeneralSettings::handling(on));
+    });
 
     auto *label = new QLabel(tr("&Copies:"), this);
     label->setBuddy(m_copies);
@@ -194,7 +196,8 @@ void GeneralPage::addCopies(QGridLayout *grid)
 void GeneralPage::enableCollate()
 {
     const bool several = m_copies->value() > 1;
-    const bool isFixed = !mayCollate(*m_session, !m_session->general().collate);
+    const bool isFixed = static_cast<bool>(m_session->locks().refusal(
+        m_session->ppd(), m_collate->objectName(), GeneralSettings::handling(!m_session->general().collate)));
     m_collate->setEnabled(several && !isFixed);
     m_collate->setToolTip(isFixed   ? tooltipOf(Policy::current().attribution())
                           : several ? tr("Print each complete copy before the next one")
@@ -260,8 +263,7 @@ QRadioButton *GeneralPage::addPart(GeneralSettings::Part part, const QString &te
     auto *button = new QRadioButton(text, this);
     button->setChecked(m_session->general().part == part);
     m_parts.append({part, button});
-    connect(button, &QRadioButton::toggled, this, [this, part](bool on) {
-        m_session->general().part = on ? part : GeneralSettings::Part::Pages;
+    connect(button, &QRadioButton::toggled, this, [this] {
         enablePages(m_somePages->isChecked());
         pagesEdited();
     });
@@ -285,10 +287,14 @@ void GeneralPage::pagesEdited()
     const bool unfinished =
         m_pages->text().trimmed().endsWith(QLatin1Char(',')) || m_pages->text().trimmed().isEmpty();
     setProblemShown(!text.isEmpty() && !unfinished);
-    QString ignored;
-    m_session->general().pages = m_somePages->isChecked()
-                                     ? normalizedPageRanges(m_pages->text(), &ignored).value_or(QString())
-                                     : QString();
+    QString pages;
+    if (m_somePages->isChecked())
+        pages = normalizedPageRanges(m_pages->text(), nullptr).value_or(QString());
+    for (const auto &[part, button] : std::as_const(m_parts)) {
+        if (button->isChecked())
+            pages = GeneralSettings::partName(part);
+    }
+    chooseGeneral(m_session, m_pages->objectName(), pages);
     showSides();
     Q_EMIT pagesChanged();
 }
@@ -365,8 +371,7 @@ void GeneralPage::refresh()
 
 void GeneralPage::setRanges(const QString &ranges)
 {
-    m_session->general().part = GeneralSettings::Part::Pages;
-    m_session->general().pages = ranges;
+    chooseGeneral(m_session, m_pages->objectName(), ranges);
     showGeneral();
 }
 

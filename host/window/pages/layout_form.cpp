@@ -6,6 +6,7 @@
 #include "host/session/booklet.h"
 #include "host/session/dialog_session.h"
 #include "host/session/printed_pages.h"
+#include "host/session/setting_keys.h"
 #include "host/window/look/access_keys.h"
 #include "host/window/look/explanations.h"
 #include "host/window/pages/page_controls.h"
@@ -124,7 +125,7 @@ QHBoxLayout *LayoutForm::addScale(QWidget *page)
     m_scale->setAccelerated(true);
     platform::guardFromWheel(m_scale);
     connect(m_scale, &QSpinBox::valueChanged, this, [this, name](int number) {
-        m_session->general().layout.set(name, QString::number(number));
+        chooseGeneral(m_session, name, QString::number(number));
         Q_EMIT changed();
     });
     auto *row = new QHBoxLayout;
@@ -183,25 +184,23 @@ QCheckBox *LayoutForm::addSwitch(const QString &name, const QString &text, QWidg
 
 void LayoutForm::turn(const QString &name, bool on)
 {
-    const QStringList values = PageLayoutSettings::offered(name); // off and on
-    m_session->general().layout.set(name, values.value(on ? 1 : 0));
     if (name == booklet)
         fold(on);
+    else
+        chooseGeneral(m_session, name, PageLayoutSettings::offered(name).value(on ? 1 : 0));
     refresh();
     Q_EMIT changed();
 }
 
-// Selects two-sided printing if a booklet was switched on, and restores the earlier choice if it was switched
-// off.
+// Switches booklets on, which selects two-sided printing, or off, which restores the earlier choice.
 void LayoutForm::fold(bool on)
 {
     const auto sides = sidesForBooklet(*m_session);
-    if (sides && on) {
+    if (sides && on)
         m_sidesBefore = OptionChoice{sides->option, m_session->ppd()->markedChoice(sides->option), {}, {}};
-        markSidesForBooklet(m_session);
-    } else if (sides && m_sidesBefore && m_session->ppd()->markedChoice(sides->option) == sides->choice) {
+    chooseGeneral(m_session, booklet, bookletChoice(on).choice);
+    if (sides && !on && m_sidesBefore && m_session->ppd()->markedChoice(sides->option) == sides->choice)
         m_session->markChoice(m_sidesBefore->option, m_sidesBefore->choice);
-    }
     if (!on && m_stitched && m_stitched->isChecked())
         stitch(false);
     if (sides)
@@ -217,12 +216,7 @@ void LayoutForm::stitch(bool on)
 
 void LayoutForm::choose(const Row &row)
 {
-    PageLayoutSettings &layout = m_session->general().layout;
-    const QString value = row.box->currentData().toString();
-    if (value.isEmpty())
-        layout.reset(row.name);
-    else
-        layout.set(row.name, value);
+    chooseGeneral(m_session, row.name, row.box->currentData().toString());
     refresh();
     Q_EMIT changed();
 }
@@ -274,9 +268,9 @@ void LayoutForm::enable(QWidget *control, const QString &obstacle)
 // Why a booklet cannot be selected; null if it can be, or is already.
 QString LayoutForm::foldingObstacle() const
 {
-    const auto sides = sidesForBooklet(*m_session);
-    const bool isFixed = sides && !m_session->locks().allows(sides->option, sides->choice);
-    return isFixed && !m_session->general().layout.isBooklet() ? Policy::current().attribution() : QString();
+    const PrintError refusal =
+        m_session->locks().refusal(m_session->ppd(), booklet, bookletChoice(true).choice);
+    return refusal && !m_session->general().layout.isBooklet() ? Policy::current().attribution() : QString();
 }
 
 // Why saddle stitching cannot be selected; null if it can be, or is already.

@@ -164,8 +164,7 @@ void PageBook::setSession(DialogSession *session, SessionHistory *history)
     clear();
     m_session = session;
     m_history = history;
-    connect(session->panelHost(), &PanelHost::blockingBegan, this, &PageBook::showWaiting,
-            Qt::UniqueConnection);
+    connect(session, &DialogSession::blockingBegan, this, &PageBook::showWaiting, Qt::UniqueConnection);
     addPage(tr("General"), generalName);
     const Policy::Rule &rule = session->rule();
     const auto hidesAll = [&rule](const QStringList &keywords) {
@@ -381,7 +380,7 @@ void PageBook::refresh()
 void PageBook::showSummary()
 {
     m_summary->show(*m_session, m_session->summary(),
-                    changesBetween(*m_session, m_history->base().state, StateRestorer::stateOf(*m_session)));
+                    changesBetween(*m_session, m_history->base().state, m_session->state()));
 }
 
 int PageBook::rowOf(const QString &key) const

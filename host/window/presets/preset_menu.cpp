@@ -357,7 +357,7 @@ void PresetMenu::forget(const QString &name)
     QStringList ignored;
     SessionHistory::Base defaults{
         stateWithPreset(m_session, queueOptions(), optionsOf(ownDefaults), &ignored), {}};
-    const SessionState now = StateRestorer::stateOf(*m_session);
+    const SessionState now = m_session->state();
     defaults.state.panelValues = m_history->startingPanelValues();
     defaults.state.instance = now.instance;
     defaults.state.destinationOptions = now.destinationOptions;
