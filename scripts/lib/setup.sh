@@ -26,6 +26,8 @@ room_packages=(mmdebstrap git ccache iproute2)
 # scripts/package: building and checking Debian packages (debian/control names the build dependencies), and trying them.
 package_packages=(build-essential git devscripts equivs lintian ccache appstream desktop-file-utils python3)
 trial_packages=(autopkgtest dpkg-dev appstream desktop-file-utils cups)
+# What is installed, without tests and benchmarks.
+installed_targets=(kelmar-print kelmar-print-service kelmar-dialog kelmar-forms OrbM880 kelmar_ppds kelmar_queue_ppd)
 
 say() { printf '== %s\n' "$*"; }
 
