@@ -14,8 +14,8 @@ chmod 755 "$server"
 "$tree/scripts/lib/private-cupsd.sh" add-queue "$server" office "$build/ppds/kelm880.ppd" socket://127.0.0.1:9
 "$tree/scripts/lib/private-cupsd.sh" add-queue "$server" archive "$tree/demo/archive.ppd" socket://127.0.0.1:9
 mkdir "$server/home"
-export HOME=$server/home CUPS_SERVER=$server/cups.sock PATH=$build/bin:$PATH
-unset CUPS_SERVERROOT # the home folder of another test
+# libcups stores the presets of root in CUPS_SERVERROOT.
+export HOME=$server/home CUPS_SERVERROOT=$server/home CUPS_SERVER=$server/cups.sock PATH=$build/bin:$PATH
 kelmar-print -d office --save-preset Grey --set ColorType=Mono >/dev/null || exit 1
 . "$tree/packaging/completion/kelmar-print.bash"
 cd "$tree/demo" || exit 1
