@@ -161,15 +161,16 @@ void measureChanges(PrintWindow &window)
         platform::ChoiceBox *first = boxOf(window, pair.option1);
         platform::ChoiceBox *second = boxOf(window, pair.option2);
         free.push_back(millisecondsOf([&] { choose(first, pair.choice1); }));
-        if (window.messageBar()->isShowing())
+        if (window.findChild<MessageBar *>()->isShowing())
             qFatal("there is a conflict with defaults");
         conflicting.push_back(millisecondsOf([&] { choose(second, pair.choice2); }));
-        if (!window.messageBar()->isShowing())
+        if (!window.findChild<MessageBar *>()->isShowing())
             qFatal("no conflict is shown");
         undone.push_back(millisecondsOf([&] { undo(window); }));
         undo(window);
         paint();
-        if (window.session()->ppd()->markedChoice(pair.option1) != u"C00" || window.messageBar()->isShowing())
+        if (window.session()->ppd()->markedChoice(pair.option1) != u"C00" ||
+            window.findChild<MessageBar *>()->isShowing())
             qFatal("a change was not undone");
     }
     report("change without a conflict, 20,000 constraints", median(free), "ms", changeGoal);

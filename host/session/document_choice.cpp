@@ -3,6 +3,7 @@
 
 #include "host/session/document_choice.h"
 
+#include "host/printing/documents.h"
 #include "host/printing/file_name.h"
 
 #include <QFileInfo>
@@ -10,7 +11,8 @@
 namespace host {
 
 DocumentChoice::DocumentChoice(const QStringList &paths, QObject *parent)
-    : QObject(parent), m_paths(paths), m_included(paths.size(), true), m_current(paths.isEmpty() ? -1 : 0)
+    : QObject(parent), m_paths(paths), m_opened(std::make_shared<DocumentList>()),
+      m_included(paths.size(), true), m_current(paths.isEmpty() ? -1 : 0)
 {
 }
 

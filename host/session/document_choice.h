@@ -7,7 +7,11 @@
 #include <QObject>
 #include <QStringList>
 
+#include <memory>
+
 namespace host {
+
+class DocumentList;
 
 // The documents of a dialog: which of them are printed, and which one is shown. Paths are encoded as in
 // file_name.h; "-" is the standard input. If another program sends the document later, there are no paths,
@@ -19,6 +23,9 @@ public:
     explicit DocumentChoice(const QStringList &paths, QObject *parent = nullptr);
 
     const QStringList &paths() const { return m_paths; }
+    // Opens the documents for all jobs and files that the dialog makes of them, since data from a pipe can be
+    // read only once.
+    const std::shared_ptr<DocumentList> &opened() const { return m_opened; }
     QString name(int index) const; // for display
     bool isIncluded(int index) const { return m_included.at(index); }
     void setIncluded(int index, bool included);
@@ -35,6 +42,7 @@ Q_SIGNALS:
 
 private:
     QStringList m_paths;
+    std::shared_ptr<DocumentList> m_opened;
     QList<bool> m_included;
     int m_current;
     QString m_title;

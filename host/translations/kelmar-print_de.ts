@@ -2630,6 +2630,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <source>Document</source>
         <translation>Dokument</translation>
     </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Die PDF-Datei wurde geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>host::PdfWriter</name>
@@ -2954,10 +2958,6 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
     <message>
         <source>The print server has not responded yet.</source>
         <translation>Der Druckserver hat noch nicht geantwortet.</translation>
-    </message>
-    <message>
-        <source>The PDF file has been written</source>
-        <translation>Die PDF-Datei wurde geschrieben</translation>
     </message>
     <message>
         <source>The document will be printed when the printer has responded.</source>

@@ -2630,6 +2630,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <source>Document</source>
         <translation>Documento</translation>
     </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Se ha guardado el archivo PDF</translation>
+    </message>
 </context>
 <context>
     <name>host::PdfWriter</name>
@@ -2954,10 +2958,6 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
-        <source>The PDF file has been written</source>
-        <translation>Se ha guardado el archivo PDF</translation>
     </message>
     <message>
         <source>The document will be printed when the printer has responded.</source>

@@ -2630,6 +2630,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <source>Document</source>
         <translation>Document</translation>
     </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Le fichier PDF a été écrit</translation>
+    </message>
 </context>
 <context>
     <name>host::PdfWriter</name>
@@ -2954,10 +2958,6 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
     <message>
         <source>The print server has not responded yet.</source>
         <translation>Le serveur d’impression n’a pas encore répondu.</translation>
-    </message>
-    <message>
-        <source>The PDF file has been written</source>
-        <translation>Le fichier PDF a été écrit</translation>
     </message>
     <message>
         <source>The document will be printed when the printer has responded.</source>

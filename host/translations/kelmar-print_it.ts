@@ -2630,6 +2630,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <source>Document</source>
         <translation>Documento</translation>
     </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>Il file PDF è stato scritto</translation>
+    </message>
 </context>
 <context>
     <name>host::PdfWriter</name>
@@ -2954,10 +2958,6 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
-    </message>
-    <message>
-        <source>The PDF file has been written</source>
-        <translation>Il file PDF è stato scritto</translation>
     </message>
     <message>
         <source>The document will be printed when the printer has responded.</source>

@@ -2628,6 +2628,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <source>Document</source>
         <translation>文書</translation>
     </message>
+    <message>
+        <source>The PDF file has been written</source>
+        <translation>PDF ファイルを書き出しました</translation>
+    </message>
 </context>
 <context>
     <name>host::PdfWriter</name>
@@ -2952,10 +2956,6 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
     <message>
         <source>The print server has not responded yet.</source>
         <translation>プリントサーバーからまだ応答がありません。</translation>
-    </message>
-    <message>
-        <source>The PDF file has been written</source>
-        <translation>PDF ファイルを書き出しました</translation>
     </message>
     <message>
         <source>The document will be printed when the printer has responded.</source>

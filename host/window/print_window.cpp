@@ -8,22 +8,19 @@
 #include "host/session/printed_pages.h"
 #include "host/session/session_history.h"
 #include "host/window/guide/guide.h"
-#include "host/window/jobs/document_check.h"
+#include "host/window/jobs/pdf_saver.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/list_escape.h"
 #include "host/window/messages/greyed_choices.h"
-#include "host/window/pages/job_cost_label.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/preset_menu.h"
-#include "host/window/preview/pdf_saver.h"
 #include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/waiting/wait_sign.h"
 #include "host/window/waiting/waiting_page.h"
-#include "platform/key_value_object.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -43,27 +40,28 @@ bool canPrint(const PrintTask &task, const DialogSession *session)
 } // namespace
 
 PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask task)
-    : m_task(std::move(task)), m_documentChoice(m_task.settingsOnly ? QStringList() : m_task.files),
+    : m_task(std::move(task)), m_documents(m_task.settingsOnly ? QStringList() : m_task.files),
       m_opener(
           system, extensions, m_task, [this] { return m_wait.isUnderWay(); },
           [this](SessionOpener::Result result) { takeSession(std::move(result)); }),
       m_picker(new PrinterPicker(this)), m_poller(system, m_picker), m_presets(new PresetMenu(this)),
       m_queue(new MessageBar(this), [this] { return isSettled(); }),
       m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
-      m_book(new PageBook(&m_documentChoice, this)), m_unavailable(new UnavailablePage(this)),
+      m_book(new PageBook(&m_documents, this)), m_unavailable(new UnavailablePage(this)),
       m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cance&l"), this)),
       m_print(new DialogButton(tr("&Print"), this)), m_wait(this, {m_cancel, m_print}),
-      m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, this), m_pdf(new PdfSaver(this)),
-      m_guide(new Guide(m_book)), m_layout(this, {m_picker,
-                                                  m_book,
-                                                  {m_unavailable, m_waiting, m_result},
-                                                  m_queue.bar(),
-                                                  {m_wait.sign(), m_cancel, m_print},
-                                                  m_guide->finder()})
+      m_waiting(new WaitingPage(this)), m_jobs(system, m_waiting, m_result, &m_queue, this),
+      m_pdf(new PdfSaver(&m_documents, &m_wait, &m_queue, this)), m_guide(new Guide(m_book)),
+      m_layout(this, {m_picker,
+                      m_book,
+                      {m_unavailable, m_waiting, m_result},
+                      m_queue.bar(),
+                      {m_wait.sign(), m_cancel, m_print},
+                      m_guide->finder()})
 {
     if (m_task.settingsOnly)
-        m_documentChoice.setTitle(m_task.title);
-    const QString documents = m_task.namesOf(m_documentChoice.included());
+        m_documents.setTitle(m_task.title);
+    const QString documents = m_task.namesOf(m_documents.included());
     setWindowTitle(documents.isEmpty() ? tr("Print") : tr("Print %1").arg(documents));
     new FocusRing(this);
     new ListEscape(this);
@@ -96,11 +94,10 @@ void PrintWindow::connectParts()
     };
     connect(m_book, &PageBook::chosen, this, settingsChanged);
     connect(m_book, &PageBook::savePdfWanted, this, [this] {
-        if (!isSettled() || m_jobs.isSending() || !m_book->checkTyped())
+        if (!isReady())
             return;
-        m_session->save();
-        sessionChanged();
-        m_pdf->save(m_documents, m_documentChoice.included(), m_task.title, pageSettings(*m_session));
+        savePages();
+        m_pdf->save(*m_session, m_task.title);
     });
     connect(m_presets, &PresetMenu::changed, m_book, &PageBook::showChanges);
     connect(m_presets, &PresetMenu::applied, this, [this, settingsChanged] {
@@ -159,10 +156,7 @@ void PrintWindow::connectWork()
         showState(State::Sending);
         m_waiting->cancelButton()->setFocus();
     });
-    connect(&m_jobs, &JobDesk::rejected, this, [this](const PrintError &error) {
-        showState(State::Choosing);
-        showError(error);
-    });
+    connect(&m_jobs, &JobDesk::rejected, this, [this] { showState(State::Choosing); });
     connect(&m_jobs, &JobDesk::sent, this, [this] {
         showState(State::Done);
         m_cancel->setText(tr("&Close"));
@@ -184,17 +178,7 @@ void PrintWindow::connectWork()
         m_print->setDefault(true);
         deliver();
     });
-    connect(m_pdf, &PdfSaver::began, m_print, [this] { m_print->setEnabled(false); });
-    connect(m_pdf, &PdfSaver::delayed, this, [this] { m_wait.setActivity(PdfSaver::tr("Save as PDF")); });
-    connect(m_pdf, &PdfSaver::ended, this, [this](const PrintError &error, const QString &path) {
-        m_wait.setActivity({});
-        allowPrinting();
-        if (error)
-            m_queue.tell(MessageQueue::Subject::File, {StatusGlyph::Kind::Error, error.message, {}, {}});
-        else
-            m_queue.tell(MessageQueue::Subject::File,
-                         {StatusGlyph::Kind::Success, tr("The PDF file has been written"), {path}, {}});
-    });
+    connect(m_pdf, &PdfSaver::busyChanged, this, &PrintWindow::allowPrinting);
 }
 
 void PrintWindow::showState(State state)
@@ -295,9 +279,6 @@ void PrintWindow::adopt(std::unique_ptr<DialogSession> session)
 
 void PrintWindow::showSession()
 {
-    for (int i = 0; i < m_session->panels().count(); ++i)
-        connect(m_session->panels().panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange,
-                &m_messages, &SessionMessages::checkLater);
     m_presets->setSession(m_session.get());
     m_messages.setSession(m_session.get(), m_presets->history());
     m_book->setSession(m_session.get(), m_presets->history());
@@ -370,11 +351,23 @@ void PrintWindow::allowPrinting()
     m_print->setToolTip(can ? QString() : tr("There is no document or no printer to print it on"));
 }
 
-// Whether a job can be sent now. If the input is invalid, shows the field.
+// Whether nothing else is in progress and all input is valid; if it is not, shows the field.
+bool PrintWindow::isReady()
+{
+    return isSettled() && !isDismissed() && !m_jobs.isSending() && !m_pdf->isBusy() && m_book->checkTyped();
+}
+
+// Whether a job can be sent now.
 bool PrintWindow::mayPrint()
 {
-    return canPrint(m_task, m_session.get()) && isSettled() && !isDismissed() && !m_jobs.isSending() &&
-           !m_pdf->isBusy() && m_book->checkTyped();
+    return canPrint(m_task, m_session.get()) && isReady();
+}
+
+// Marks pending changes of the current page.
+void PrintWindow::savePages()
+{
+    m_session->save();
+    sessionChanged();
 }
 
 void PrintWindow::print()
@@ -388,8 +381,7 @@ void PrintWindow::print()
     }
     if (!mayPrint())
         return;
-    m_session->save();
-    sessionChanged();
+    savePages();
     if (!m_messages.checkToPrint())
         deliver();
 }
@@ -401,13 +393,14 @@ void PrintWindow::deliver()
         accept();
         return;
     }
-    m_jobs.send({m_documents,
-                 m_documentChoice.included(),
+    const QStringList files = m_documents.included();
+    m_jobs.send({m_documents.opened(),
+                 files,
                  m_task.documentName,
                  {m_session->destination(), {}, m_task.title, m_session->jobOptions()},
                  settingsForCheck(*m_session),
                  m_presets->rememberUse()},
-                m_task.namesOf(m_documentChoice.included()));
+                m_task.namesOf(files));
 }
 
 void PrintWindow::showError(const PrintError &error)
@@ -424,11 +417,7 @@ void PrintWindow::finishLater()
 {
     m_picker->offerToAdd();
     m_poller.loadList();
-    auto *check = new DocumentCheck(this);
-    connect(check, &DocumentCheck::failed, this, [this](const PrintError &error) {
-        m_queue.tell(MessageQueue::Subject::Document, {StatusGlyph::Kind::Error, error.message, {}, {}});
-    });
-    check->start(m_task.files);
+    m_jobs.checkDocuments(m_task.files);
     QList<std::pair<QWidget *, QString>> explained{{m_picker, QStringLiteral("printer")},
                                                    {m_presets->button(), QStringLiteral("presets")},
                                                    {m_book->list(), QStringLiteral("pages")},
@@ -436,13 +425,8 @@ void PrintWindow::finishLater()
     if (!m_task.settingsOnly)
         explained.append({m_print, QStringLiteral("print")});
     m_layout.addGuide(m_guide->addButtons(explained));
-    if (QWidget *preview = m_book->beginPreview())
-        m_guide->addNote(preview);
-    auto *cost = new JobCostLabel(
-        &m_documentChoice, [this] { return m_session.get(); }, this);
-    m_guide->addNote(cost);
-    connect(m_presets, &PresetMenu::changed, cost, &JobCostLabel::refresh);
-    connect(m_book, &PageBook::pageUpdated, cost, &JobCostLabel::refresh);
+    for (QWidget *note : m_book->addNotes())
+        m_guide->addNote(note);
     m_layout.arrange();
     QApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("kelmar-print"), QIcon::fromTheme(QStringLiteral("printer"))));

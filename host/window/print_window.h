@@ -45,11 +45,10 @@ public:
     // The last job that was accepted, or may have been; null if there was none.
     const std::optional<Submission> &submission() const { return m_jobs.submission(); }
     const PrintError &refusal() const { return m_refusal; } // of the task, if open() could not report it
-    const QString &jobTitle() const { return m_documentChoice.title(); } // null unless the user can choose it
+    const QString &jobTitle() const { return m_documents.title(); } // null unless the user can choose it
     // Whether the window shows its final state: no printer is being opened, and no panel queries its device.
     bool isSettled() const { return !m_opener.isBusy() && !m_wait.isUnderWay(); }
     bool isDismissed() const { return m_wait.isDismissed(); } // closed, possibly before open() returned
-    MessageBar *messageBar() const { return m_queue.bar(); }
     PageBook *book() const { return m_book; }
     // Shows the session's pages again, for example after its panels have changed.
     void showSession();
@@ -87,14 +86,15 @@ private:
     void stayWithPrinter();
     void stopWaiting();
     void sessionChanged();
+    bool isReady();
     bool mayPrint();
+    void savePages();
     void allowPrinting();
     void deliver();
     void showError(const PrintError &error);
 
     PrintTask m_task;
-    DocumentChoice m_documentChoice;
-    std::shared_ptr<DocumentList> m_documents = std::make_shared<DocumentList>();
+    DocumentChoice m_documents;
     std::unique_ptr<DialogSession> m_session;
     SessionOpener m_opener;
     PrintError m_refusal;

@@ -119,16 +119,16 @@ void ChangesTest::resolutionIsOneStep()
     choose(u"Cyan"_s, u"2"_s);
     settle();
     choose(u"ColorType"_s, u"Mono"_s);
-    QVERIFY(window.messageBar()->isShowing());
-    window.messageBar()->buttons().first()->click(); // apply
+    QVERIFY(window.findChild<MessageBar *>()->isShowing());
+    window.findChild<MessageBar *>()->buttons().first()->click(); // apply
     QVERIFY(window.session()->conflicts().isEmpty());
     const QString resolved = marked(u"Cyan"_s) + marked(u"ColorType"_s);
     undo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"2Mono"_s);
-    QVERIFY(window.messageBar()->isShowing()); // the conflict appears again
+    QVERIFY(window.findChild<MessageBar *>()->isShowing()); // the conflict appears again
     redo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), resolved);
-    QVERIFY(!window.messageBar()->isShowing());
+    QVERIFY(!window.findChild<MessageBar *>()->isShowing());
 }
 
 void ChangesTest::fieldKeepsItsOwnUndo()
@@ -369,7 +369,8 @@ void ChangesTest::presetIsCorrected()
     if (!stored.isNull())
         QVERIFY(PresetStore().save(u"office"_s, {u"p"_s, {{stored, value}}}, &error));
     trigger(stored.isNull() ? u"Printer’s Defaults"_s : u"p"_s);
-    QVERIFY2(window.messageBar()->text().contains(notice), qPrintable(window.messageBar()->text()));
+    QVERIFY2(window.findChild<MessageBar *>()->text().contains(notice),
+             qPrintable(window.findChild<MessageBar *>()->text()));
     if (!chosen.isNull()) {
         window.book()->showPage(window.book()->pageNamed(u"job"_s));
         choose(name, chosen);

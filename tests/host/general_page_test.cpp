@@ -163,7 +163,7 @@ void GeneralPageTest::unchangedDocumentIsNotScaled()
     find<QSpinBox>(naturalScalingName)->setValue(70);
     m_window->session()->noteChosen({u"raw"_s, u"true"_s, ChosenSetting::Kind::JobOption});
     printButton()->click();
-    QTRY_VERIFY(m_window->messageBar()->text().contains(u"They cannot be scaled."_s));
+    QTRY_VERIFY(m_window->findChild<MessageBar *>()->text().contains(u"They cannot be scaled."_s));
     QVERIFY(m_system.submitted.isEmpty());
 }
 
@@ -438,9 +438,9 @@ void GeneralPageTest::pdfIsWritten()
     dialog->setDirectory(folder.path());
     dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(folder.filePath(u"out"_s));
     QMetaObject::invokeMethod(dialog, "accept");
-    QTRY_VERIFY(m_window->messageBar()->isShowing());
-    QVERIFY2(m_window->messageBar()->kind() == MessageBar::Kind::Success,
-             qPrintable(m_window->messageBar()->text()));
+    QTRY_VERIFY(m_window->findChild<MessageBar *>()->isShowing());
+    QVERIFY2(m_window->findChild<MessageBar *>()->kind() == MessageBar::Kind::Success,
+             qPrintable(m_window->findChild<MessageBar *>()->text()));
     QFile file(folder.filePath(u"out.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly) && file.read(4) == "%PDF");
     QVERIFY(m_system.submitted.isEmpty() && printButton()->isEnabled());

@@ -142,7 +142,7 @@ void PrintRequestTest::everyWayToPrintIsChecked()
     if (anyway) {
         makeConflict();
         printButton()->click();
-        QVERIFY(m_window->messageBar()->isShowing());
+        QVERIFY(m_window->findChild<MessageBar *>()->isShowing());
     }
     if (range.isNull()) {
         auto *documents = find<DocumentBox>();
@@ -154,7 +154,7 @@ void PrintRequestTest::everyWayToPrintIsChecked()
         QTest::keyClicks(m_window->findChild<QLineEdit *>(u"page-ranges"_s), range);
     }
     if (anyway)
-        QVERIFY(pressIn(m_window->messageBar(), u"Print Anyway"_s));
+        QVERIFY(pressIn(m_window->findChild<MessageBar *>(), u"Print Anyway"_s));
     else
         printButton()->click();
     settle();
@@ -217,8 +217,8 @@ void PrintRequestTest::documentThatCannotBePrintedIsNotSent()
     printButton()->click();
     settle();
     QCOMPARE(m_system.submitted.size(), problem.isNull() ? 1 : 0);
-    QVERIFY2(problem.isNull() || m_window->messageBar()->text().contains(problem),
-             qPrintable(m_window->messageBar()->text()));
+    QVERIFY2(problem.isNull() || m_window->findChild<MessageBar *>()->text().contains(problem),
+             qPrintable(m_window->findChild<MessageBar *>()->text()));
     QCOMPARE(m_window->book()->isVisible(), !problem.isNull()); // to choose again
     writer.waitForFinished();
 }
@@ -246,7 +246,7 @@ void PrintRequestTest::nothingIsPrintedWhileAPdfIsSaved()
     makeConflict();
     printButton()->click();
     beginSaving(folder.filePath(u"saved.pdf"_s));
-    QVERIFY(pressIn(m_window->messageBar(), u"Print Anyway"_s));
+    QVERIFY(pressIn(m_window->findChild<MessageBar *>(), u"Print Anyway"_s));
     QVERIFY(m_window->book()->isVisible() && !find<WaitingPage>()->isVisible());
     QFile writer(pipe);
     QVERIFY(writer.open(QIODevice::WriteOnly) && writer.write("some text\n") > 0);
@@ -264,7 +264,7 @@ void PrintRequestTest::missingMediaIsMentionedOnce()
     m_system.ppds[u"office"_s] += sizes;
     m_system.report = DeviceReport{{}, {}, {{{}, {}, u"A4"_s, 210, 297}}, QDateTime::currentDateTime()};
     PrintWindow &window = open();
-    MessageBar *bar = window.messageBar();
+    MessageBar *bar = window.findChild<MessageBar *>();
     QVERIFY(!bar->isShowing());
     choose(u"PageSize"_s, u"A3"_s);
     QCOMPARE(bar->text(), u"Paper not loaded in the printer\n“A3” is not loaded in any tray."_s);
@@ -369,10 +369,10 @@ void PrintRequestTest::escapeLeavesThingsAsTheyAre()
         makeConflict();
         printButton()->click();
     }
-    QVERIFY(window.messageBar()->isShowing());
+    QVERIFY(window.findChild<MessageBar *>()->isShowing());
     const auto conflicts = window.session()->conflicts().size();
     QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
-    QVERIFY(window.isVisible() && !window.messageBar()->isShowing());
+    QVERIFY(window.isVisible() && !window.findChild<MessageBar *>()->isShowing());
     QCOMPARE(window.session()->conflicts().size(), conflicts);
     QVERIFY(!greyed || window.session()->ppd()->markedChoice(u"MediaType"_s) == u"Thick"_s);
     QVERIFY(m_system.submitted.isEmpty());
@@ -389,7 +389,7 @@ void PrintRequestTest::earlierJobCounts()
     m_system.serverError = {PrintError::Kind::ServerAway, u"the server is away"_s};
     Q_EMIT find<ResultPage>()->printAgainWanted();
     settle();
-    QCOMPARE(window.messageBar()->text(), u"the server is away"_s);
+    QCOMPARE(window.findChild<MessageBar *>()->text(), u"the server is away"_s);
     window.reject();
     QVERIFY(window.submission() && window.submission()->isAccepted());
     QCOMPARE(window.submission()->job.id, 1);
@@ -420,8 +420,8 @@ void PrintRequestTest::pdfResultWaitsForThePages()
     system.gate.release();
     settle();
     QCOMPARE(m_window->session()->destination().queue, u"office"_s);
-    QVERIFY2(m_window->messageBar()->text().contains(u"missing.txt"_s),
-             qPrintable(m_window->messageBar()->text()));
+    QVERIFY2(m_window->findChild<MessageBar *>()->text().contains(u"missing.txt"_s),
+             qPrintable(m_window->findChild<MessageBar *>()->text()));
     m_window.reset();
     settle();
 }

@@ -120,18 +120,18 @@ void PrintWindowTest::conflictIsExplainedAndResolved()
     printButton()->click();
     settle();
     QVERIFY(m_system.submitted.isEmpty());
-    const QString text = window.messageBar()->text();
+    const QString text = window.findChild<MessageBar *>()->text();
     QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
                  text.contains(u"Suggestion: Colour Mode: Automatic"_s),
              qPrintable(text));
-    QCOMPARE(window.messageBar()->buttons().size(), 3);
-    window.messageBar()->buttons().last()->click(); // keep and review
+    QCOMPARE(window.findChild<MessageBar *>()->buttons().size(), 3);
+    window.findChild<MessageBar *>()->buttons().last()->click(); // keep and review
     QCOMPARE(window.session()->conflicts().size(), 1);
     printButton()->click();
     settle();
-    window.messageBar()->buttons().first()->click(); // apply
+    window.findChild<MessageBar *>()->buttons().first()->click(); // apply
     QVERIFY(window.session()->conflicts().isEmpty());
-    QVERIFY(!window.messageBar()->isShowing());
+    QVERIFY(!window.findChild<MessageBar *>()->isShowing());
     printButton()->click();
     settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Cyan"_s), u"2"_s);
@@ -148,7 +148,7 @@ void PrintWindowTest::noticesOutliveAQuestion()
     window.session()->addNotice(u"second"_s);
     printButton()->click();
     settle();
-    MessageBar *bar = window.messageBar();
+    MessageBar *bar = window.findChild<MessageBar *>();
     QCOMPARE(bar->kind(), MessageBar::Kind::Question);
     bar->buttons().last()->click(); // keep and review
     QCOMPARE(bar->kind(), MessageBar::Kind::Notice);
@@ -181,7 +181,8 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     QTRY_VERIFY(m_window->session());
     Q_EMIT picker->picked(u"raw"_s); // only has the standard name
     QTRY_COMPARE(m_window->session()->destination().queue, u"raw"_s);
-    QVERIFY2(!m_window->messageBar()->isShowing(), qPrintable(m_window->messageBar()->text()));
+    QVERIFY2(!m_window->findChild<MessageBar *>()->isShowing(),
+             qPrintable(m_window->findChild<MessageBar *>()->text()));
     m_window->print();
     settle();
     QCOMPARE(sentValue(m_system.submitted.value(0).options, u"sides"_s), u"two-sided-long-edge"_s);
@@ -276,7 +277,7 @@ void PrintWindowTest::pipeThatBringsNothingIsLeft()
     QTRY_COMPARE(waiting->text(), u"Reading the document…"_s);
     waiting->cancelButton()->click();
     QVERIFY(!waiting->isVisible() && printButton()->isEnabled());
-    QCOMPARE(m_window->messageBar()->text(), u"Printing was canceled."_s);
+    QCOMPARE(m_window->findChild<MessageBar *>()->text(), u"Printing was canceled."_s);
     settle();
     printButton()->click();
     QFile writer(pipe);
@@ -327,7 +328,7 @@ void PrintWindowTest::brokenPpdStillPrints()
 {
     m_system.ppds.insert(u"office"_s, "no PPD at all\n");
     PrintWindow &window = open();
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Notice);
+    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Notice);
     printButton()->click();
     settle();
     QCOMPARE(m_system.submitted.size(), 1);

@@ -172,7 +172,7 @@ void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
     const QPoint before = box->mapTo(&window, QPoint());
     QTest::keyClick(box, Qt::Key_P, Qt::ControlModifier);
     settle();
-    MessageBar *bar = window.messageBar();
+    MessageBar *bar = window.findChild<MessageBar *>();
     QCOMPARE(window.focusWidget(), bar->buttons().first());
     // A screen reader announces the texts, and does not repeat them with the buttons.
     const auto parts = bar->findChildren<QWidget *>();
@@ -202,9 +202,9 @@ void WindowKeyboardTest::conflictGoesWithItsCause()
         pageSettings(*window.session()).isMonochrome); // the preview does not wait until the panel is saved
     window.print();
     settle();
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Question);
+    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Question);
     colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // like its control
-    QTRY_VERIFY(!window.messageBar()->isShowing());
+    QTRY_VERIFY(!window.findChild<MessageBar *>()->isShowing());
 }
 
 void WindowKeyboardTest::secondClickDoesNotCloseTheResult()

@@ -142,13 +142,13 @@ void ChosenSettingsTest::privateJobStaysPrivateOnAnotherPrinter()
                                                                               u"SharpnessVRN"_s); // a slider
     pick(u"small"_s);
     QCOMPARE(window.book()->currentName().section(u'.', -1), u"color-settings-2"_s);
-    const QString text = window.messageBar()->text();
+    const QString text = window.findChild<MessageBar *>()->text();
     QVERIFY2(text.startsWith(u"Please note\nThis printer does not have “Print Mode: Private”"_s),
              qPrintable(text));
     QVERIFY2(!text.contains(u"12345"_s), qPrintable(text));
     pick(u"second"_s); // has the option again
     window.print();
-    QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY2(window.submission(), qPrintable(window.findChild<MessageBar *>()->text()));
     const auto job = printed();
     QVERIFY(job);
     for (const QString &option :
@@ -175,7 +175,7 @@ void ChosenSettingsTest::defaultThatAppearsLaterIsTold()
     PrintWindow &window = open(u"second"_s);
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"two-sided-long-edge"_s));
     window.print(); // as "Off", which is shown to the user
-    QTRY_VERIFY2(window.submission(), qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY2(window.submission(), qPrintable(window.findChild<MessageBar *>()->text()));
     QVERIFY(m_server.setJobDefault(u"second"_s, u"sides"_s, u"one-sided"_s));
     QVERIFY2(window.submission()->job.differences.join(u' ').contains(u"sides"_s),
              qPrintable(window.submission()->job.differences.join(u' ')));
@@ -201,9 +201,9 @@ void ChosenSettingsTest::waysOutKeepPrivatePrinting()
     if (code == ExitConflict) {
         QVERIFY2(notices().contains(u"keeps “Print Mode: Private”"_s), qPrintable(notices()));
         open(printer, {{u"PrintMode"_s, u"Private"_s}, {u"privatePassword"_s, u"12345"_s}});
-        QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
-        QCOMPARE(m_window->messageBar()->buttons().size(), 1); // no changes to apply
-        QVERIFY(m_window->messageBar()->text().contains(u"keeps “Print Mode: Private”"_s));
+        QCOMPARE(m_window->findChild<MessageBar *>()->kind(), MessageBar::Kind::Question);
+        QCOMPARE(m_window->findChild<MessageBar *>()->buttons().size(), 1); // no changes to apply
+        QVERIFY(m_window->findChild<MessageBar *>()->text().contains(u"keeps “Print Mode: Private”"_s));
         return;
     }
     const auto job = printed();
@@ -254,7 +254,7 @@ void ChosenSettingsTest::windowAsksForAMissingCode()
         for (int i = 0; i < 2; ++i) { // each time
             window.print();
             QVERIFY(!window.submission());
-            const MessageBar *bar = window.messageBar();
+            const MessageBar *bar = window.findChild<MessageBar *>();
             QVERIFY2(bar->text().contains((choice == u"Private" ? u"no password has been given"_s
                                                                 : u"no code has been given"_s)),
                      qPrintable(bar->text()));
@@ -270,7 +270,7 @@ void ChosenSettingsTest::windowAsksForAMissingCode()
             QTest::keyClicks(field, u"12345"_s);
             window.print();
         } else {
-            window.messageBar()->buttons().first()->click();
+            window.findChild<MessageBar *>()->buttons().first()->click();
         }
         QTRY_VERIFY(window.submission());
     }

@@ -161,8 +161,8 @@ void ColorDialogTest::resolve(const QString &keyword, const QString &choice, con
     QVERIFY(m_window->session()->markChoice(keyword, choice));
     QVERIFY(m_window->session()->markChoice(other, otherChoice));
     m_window->print();
-    QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
-    m_window->messageBar()->buttons().first()->click();
+    QCOMPARE(m_window->findChild<MessageBar *>()->kind(), MessageBar::Kind::Question);
+    m_window->findChild<MessageBar *>()->buttons().first()->click();
     QVERIFY(m_window->session()->conflicts().isEmpty());
 }
 
@@ -171,7 +171,7 @@ std::optional<CapturedJob> ColorDialogTest::printedJob()
     m_window->print();
     if (QTest::qWaitFor([this] { return m_window->submission().has_value(); }, 15000))
         return m_server.waitForJob(m_window->submission()->job.id);
-    qWarning() << m_window->messageBar()->text();
+    qWarning() << m_window->findChild<MessageBar *>()->text();
     return std::nullopt;
 }
 
@@ -186,13 +186,13 @@ void ColorDialogTest::monochromeResetsTheBalance()
         QTest::keyClick(cyan, Qt::Key_Right);
     showPage("color-settings-1");
     QCOMPARE(window.session()->ppd()->markedChoice(balances.first()), u"3"_s);
-    QVERIFY(!window.messageBar()->isShowing());
+    QVERIFY(!window.findChild<MessageBar *>()->isShowing());
 
     chooseWithKeys(find<QComboBox>("colorType"), u"Black and White"_s);
-    QTRY_VERIFY(window.messageBar()->isVisible());
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Notice);
-    QVERIFY2(window.messageBar()->text().contains(u"Cyan Balance"_s),
-             qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY(window.findChild<MessageBar *>()->isVisible());
+    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Notice);
+    QVERIFY2(window.findChild<MessageBar *>()->text().contains(u"Cyan Balance"_s),
+             qPrintable(window.findChild<MessageBar *>()->text()));
     for (const QString &balance : balances)
         QCOMPARE(window.session()->ppd()->markedChoice(balance), u"0"_s);
     showPage("color-settings-2");

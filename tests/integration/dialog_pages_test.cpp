@@ -137,7 +137,7 @@ void DialogPagesTest::everyPage()
     QCoreApplication::processEvents();
     const QHash<QWidget *, QString> before = keyed();
     m_window->print();
-    QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Question);
+    QCOMPARE(m_window->findChild<MessageBar *>()->kind(), MessageBar::Kind::Question);
     const QHash<QWidget *, QString> after = keyed();
     for (auto [widget, text] : before.asKeyValueRange()) { // a message changes no key that the user knows
         QVERIFY2(QKeySequence::mnemonic(after.value(widget)) == QKeySequence::mnemonic(text),
@@ -151,7 +151,7 @@ void DialogPagesTest::everyPage()
             QTest::keyClick(m_window.get(), Qt::Key_PageDown, Qt::ControlModifier);
         }
         QCOMPARE(m_window->book()->currentRow(), page);
-        QVERIFY(m_window->messageBar()->isShowing());
+        QVERIFY(m_window->findChild<MessageBar *>()->isShowing());
         QCoreApplication::processEvents();
         checkKeys();
         checkInside(room);
@@ -204,7 +204,7 @@ void DialogPagesTest::checkKeys()
         // there may not be enough letters for disabled ones
         const QWidget *control = label ? label->buddy() : widget;
         if (key.isEmpty() && hasLetters && control->isEnabled())
-            (m_window->messageBar()->isAncestorOf(widget) ? answers : without).append(text);
+            (m_window->findChild<MessageBar *>()->isAncestorOf(widget) ? answers : without).append(text);
         QVERIFY2(key.isEmpty() || !owners.contains(key),
                  qPrintable(key + u": "_s + text + u" and "_s + owners.value(key)));
         owners.insert(key, text);
@@ -242,7 +242,7 @@ void DialogPagesTest::checkInside(const QSize &room)
         const QRect place(button->mapTo(m_window.get(), QPoint()), button->size());
         const bool isPickers = button->parentWidget() == picker;
         if (!isPickers && button->parentWidget() != m_window.get() &&
-            button->parentWidget() != m_window->messageBar())
+            button->parentWidget() != m_window->findChild<MessageBar *>())
             continue;
         ++seen;
         const int text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
@@ -262,7 +262,7 @@ int DialogPagesTest::partOf(const QWidget *widget) const
 {
     const auto *picker = m_window->findChild<PrinterPicker *>();
     const QList<const QWidget *> parts{picker, m_window->book()->list(), m_window->book()->pages(),
-                                       m_window->messageBar()};
+                                       m_window->findChild<MessageBar *>()};
     for (int i = 0; i < parts.size(); ++i) {
         if (parts[i] == widget || parts[i]->isAncestorOf(widget))
             return i;

@@ -112,7 +112,7 @@ private:
     platform::ChoiceBox *box(const QString &keyword) const;
     // Opens the list of a box and selects an item with the keyboard.
     void pick(const QString &keyword, const QString &choice);
-    QString barText() const { return m_window->messageBar()->text(); }
+    QString barText() const { return m_window->findChild<MessageBar *>()->text(); }
 
     FamilyPrintSystem m_system;
     Extensions m_extensions{Extensions::installedBundles(buildPath("/bin"))};
@@ -301,7 +301,7 @@ void FindSettingTest::greyedChoiceIsOffered()
              qPrintable(barText()));
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Return);
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
-    QVERIFY(m_window->session()->conflicts().isEmpty() && !m_window->messageBar()->isShowing());
+    QVERIFY(m_window->session()->conflicts().isEmpty() && !m_window->findChild<MessageBar *>()->isShowing());
     QCOMPARE(box(u"Duplex"_s)->choiceKeyword(box(u"Duplex"_s)->currentIndex()), u"DuplexNoTumble"_s);
 
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier); // one step
@@ -310,7 +310,7 @@ void FindSettingTest::greyedChoiceIsOffered()
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
 
     pick(u"MediaType"_s, u"Thick2"_s); // and this time everything stays unchanged
-    m_window->messageBar()->buttons().last()->click();
+    m_window->findChild<MessageBar *>()->buttons().last()->click();
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"DuplexNoTumble"_s);
 }
 
@@ -333,7 +333,7 @@ void FindSettingTest::protectionIsNotGivenUpSilently()
     m_window->book()->showPage(m_window->book()->pageNamed(u"more"_s));
     pick(u"JobRetention"_s, u"Week"_s);
     QVERIFY2(barText().contains(u"This gives up “Print Mode: Private”"_s), qPrintable(barText()));
-    m_window->messageBar()->buttons().last()->click();
+    m_window->findChild<MessageBar *>()->buttons().last()->click();
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"PrintMode"_s), u"Private"_s);
     m_window->session()->markChoice(u"JobRetention"_s, u"Week"_s);
     m_window->print();
@@ -346,8 +346,8 @@ void FindSettingTest::printsDespiteAConflict()
     m_window->session()->markChoice(u"Duplex"_s, u"DuplexTumble"_s);
     m_window->print();
     QVERIFY(m_system.submitted.isEmpty());
-    QCOMPARE(m_window->messageBar()->buttons().size(), 3);
-    m_window->messageBar()->buttons().at(1)->click();
+    QCOMPARE(m_window->findChild<MessageBar *>()->buttons().size(), 3);
+    m_window->findChild<MessageBar *>()->buttons().at(1)->click();
     QTRY_COMPARE(m_system.submitted.size(), 1);
     QCOMPARE(sentValue(m_system.submitted.first().options, u"MediaType"_s), u"Thick1"_s);
     QCOMPARE(sentValue(m_system.submitted.first().options, u"Duplex"_s), u"DuplexTumble"_s);

@@ -142,15 +142,16 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
 
     m_server.stop();
     window.print();
-    QTRY_VERIFY(window.messageBar()->isShowing());
-    QCOMPARE(window.messageBar()->kind(), MessageBar::Kind::Error);
-    QVERIFY2(window.messageBar()->text().contains(u"cannot be reached"_s),
-             qPrintable(window.messageBar()->text()));
+    QTRY_VERIFY(window.findChild<MessageBar *>()->isShowing());
+    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Error);
+    QVERIFY2(window.findChild<MessageBar *>()->text().contains(u"cannot be reached"_s),
+             qPrintable(window.findChild<MessageBar *>()->text()));
     QVERIFY(!window.submission());
 
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     window.print();
-    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.messageBar()->text()), 15000);
+    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.findChild<MessageBar *>()->text()),
+                              15000);
     const auto job = m_server.waitForJob(window.submission()->job.id);
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);
@@ -404,7 +405,8 @@ void JobEndTest::loginInTheWindow()
     QVERIFY(window.open(&error));
     QTRY_VERIFY(window.session() && window.session()->ppd());
     window.print();
-    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.messageBar()->text()), 15000);
+    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.findChild<MessageBar *>()->text()),
+                              15000);
     QVERIFY(m_server.waitForJob(window.submission()->job.id));
     QCOMPARE(asked, QList<bool>({false, true})); // once, and again after the wrong answer
     cupsSetUser(nullptr);

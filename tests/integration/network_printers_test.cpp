@@ -164,8 +164,8 @@ void NetworkPrintersTest::foundWhenTheListIsOpenedAndPrints()
         return;
     for (const char *line : {"Cyan 80 %", "Black 7 %", "Upper 40 %", "Tray 1: A4"})
         QTRY_VERIFY2(box->toolTip().contains(QLatin1String(line)), qPrintable(box->toolTip()));
-    QTRY_VERIFY(window.messageBar()->isShowing());
-    QCOMPARE(window.messageBar()->text(),
+    QTRY_VERIFY(window.findChild<MessageBar *>()->isShowing());
+    QCOMPARE(window.findChild<MessageBar *>()->text(),
              u"Paper not loaded in the printer\nNothing is loaded in “Bypass Tray”."_s);
     window.print();
     QTRY_VERIFY_WITH_TIMEOUT(window.submission() && window.submission()->isAccepted(), 15'000);

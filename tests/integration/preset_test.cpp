@@ -205,7 +205,8 @@ void PresetTest::panelsTakeAPresetAndGiveItBack()
     }
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Mono0"_s);
     QCOMPARE(window.session()->state().printSettings.value(rgbSource).toString(), u"3"_s);
-    QVERIFY2(window.messageBar()->text().contains(u"Staple"_s), qPrintable(window.messageBar()->text()));
+    QVERIFY2(window.findChild<MessageBar *>()->text().contains(u"Staple"_s),
+             qPrintable(window.findChild<MessageBar *>()->text()));
     QTest::keyClick(window.book()->list(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(ppd->markedChoice(u"ColorType"_s) + ppd->markedChoice(u"ColorBalanceCyan"_s), u"Auto2"_s);
     QCOMPARE(balance->keyValueObject()->valueForKey(u"ColorBalanceCyan"_s).toString(), u"2"_s);

@@ -189,7 +189,7 @@ void PseudoLocaleTest::everyPage()
     QTest::keyClick(m_window->focusWidget(), Qt::Key_Escape);
     QTest::keyClick(m_window.get(), Qt::Key_F1);
     takePicture(u"help"_s);
-    m_window->messageBar()->buttons().at(1)->click();
+    m_window->findChild<MessageBar *>()->buttons().at(1)->click();
     QTRY_VERIFY(m_window->submission());
     checkTexts();
     checkRoom();

@@ -131,7 +131,7 @@ void WindowAnswersTest::serverNeverAnswers()
     clickUntil(
         waiting->cancelButton(), [&] { return !waiting->cancelButton()->isEnabled(); }, "cancel printing");
     QTRY_VERIFY_WITH_TIMEOUT(!waiting->isVisible(), 10'000);
-    const QString text = m_window->messageBar()->text() + find<ResultPage>()->text();
+    const QString text = m_window->findChild<MessageBar *>()->text() + find<ResultPage>()->text();
     QVERIFY2(text.trimmed().endsWith(told), qPrintable(text));
 }
 
@@ -172,7 +172,7 @@ void WindowAnswersTest::serverStopsAnswering()
     if (told.isEmpty()) // only the list is missing
         return;
     const auto text = [this] {
-        return m_window->messageBar()->text() + find<UnavailablePage>()->reason() +
+        return m_window->findChild<MessageBar *>()->text() + find<UnavailablePage>()->reason() +
                find<ResultPage>()->text();
     };
     // The result is delivered after the work has ended.

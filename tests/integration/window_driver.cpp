@@ -40,6 +40,6 @@ int main(int argc, char **argv)
     settle();
     const auto &submission = window.submission();
     std::printf("%s %d %s\n", submission ? qPrintable(submission->code()) : "rejected",
-                submission ? submission->job.id : 0, qPrintable(window.messageBar()->text()));
+                submission ? submission->job.id : 0, qPrintable(window.findChild<MessageBar *>()->text()));
     return 0;
 }

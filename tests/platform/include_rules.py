@@ -40,7 +40,7 @@ HOST_FOLDERS = {
     "window/preview": {"window/preview", "window/look", "preview", "session", "printing"},
     "window/pages": {"window/pages", "window/preview", "window/look", "preview", "session", "policy", "printing"},
     "window/printers": {"window/printers", "window/look", "printing"},
-    "window/jobs": {"window/jobs", "window/waiting", "window/look", "preview", "session", "printing"},
+    "window/jobs": {"window/jobs", "window/messages", "window/waiting", "window/look", "preview", "session", "printing"},
     "window/messages": {"window/messages", "window/look", "session", "policy", "printing"},
     "window/presets": {"window/presets", "window/look", "session", "printing"},
     "window/guide": {"window/guide", "window/pages", "window/look", "session", "printing"},

@@ -14,9 +14,10 @@
 
 namespace host {
 
-JobDesk::JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QWidget *dialog)
+JobDesk::JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, MessageQueue *messages,
+                 QWidget *dialog)
     : QObject(dialog), m_system(system), m_dialog(dialog), m_waiting(waiting), m_result(result),
-      m_sender(system, this), m_follower(new JobFollower(this))
+      m_messages(messages), m_sender(system, this), m_follower(new JobFollower(this))
 {
     connectSender();
     connectResult();
@@ -35,6 +36,29 @@ void JobDesk::connectResult()
 {
     connect(m_follower, &JobFollower::changed, this, &JobDesk::noteStatus);
     connect(m_result, &ResultPage::actionWanted, this, &JobDesk::change);
+}
+
+void JobDesk::report(MessageQueue::Subject subject, const PrintError &error)
+{
+    m_messages->tell(subject, {StatusGlyph::Kind::Error, error.message, {}, {}});
+}
+
+void JobDesk::checkDocuments(const QStringList &paths)
+{
+    m_checking.start(
+        this,
+        [paths] {
+            PrintError error;
+            for (const QString &path : paths) {
+                if (path != QLatin1String("-") && !isStream(path) && !openDocument(path, &error))
+                    break;
+            }
+            return error;
+        },
+        [this](const PrintError &error) {
+            if (error)
+                report(MessageQueue::Subject::Document, error);
+        });
 }
 
 void JobDesk::send(const JobSender::Order &order, const QString &documents)
@@ -82,10 +106,12 @@ void JobDesk::take(const Submission &submission)
     m_sender.releaseSignals();
     if (m_isLeaving)
         return;
-    if (isRejected)
-        Q_EMIT rejected(submission.error);
-    else
+    if (isRejected) {
+        Q_EMIT rejected();
+        report(MessageQueue::Subject::Outcome, submission.error);
+    } else {
         showResult();
+    }
 }
 
 // Adds the current job to the earlier jobs.

@@ -6,6 +6,7 @@
 #include "host/printing/destination.h"
 #include "host/printing/job_follower.h"
 #include "host/window/jobs/job_sender.h"
+#include "host/window/messages/message_queue.h"
 
 #include <QObject>
 #include <QString>
@@ -21,14 +22,19 @@ class ResultPage;
 class WaitingPage;
 
 // Sends the jobs of a dialog, one at a time. Shows the progress on the waiting page until the print server
-// has the job, and then the state of the job on the result page. Follows earlier jobs until they end. Owned
-// by the dialog, as are the pages, which the dialog shows. The print system is borrowed and outlives this
-// object.
+// has the job, and then the state of the job on the result page; reports problems in the dialog's messages.
+// Follows earlier jobs until they end. Owned by the dialog, as are the messages and the pages, which the
+// dialog shows. The print system is borrowed and outlives this object.
 class JobDesk : public QObject
 {
     Q_OBJECT
 public:
-    JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, QWidget *dialog);
+    JobDesk(PrintSystem &system, WaitingPage *waiting, ResultPage *result, MessageQueue *messages,
+            QWidget *dialog);
+
+    // Checks on a worker thread whether the documents can be opened, while the user chooses settings, and
+    // reports the first one that cannot. Does not open streams, which can be read only once.
+    void checkDocuments(const QStringList &paths);
 
     // Sends a job. Waits for a nearby server, 50 ms at most. `documents` contains the names of the documents
     // for display; may be empty.
@@ -46,7 +52,8 @@ public:
 Q_SIGNALS:
     // Sending takes noticeably long.
     void delayed();
-    void rejected(const host::PrintError &error);
+    // The server has rejected the job; the reason is reported.
+    void rejected();
     // The server has the job, or may have it.
     void sent();
     // The job that was being sent when the dialog was closed has ended; it is `kept` if it was not canceled.
@@ -57,6 +64,7 @@ Q_SIGNALS:
 private:
     void connectSender();
     void connectResult();
+    void report(MessageQueue::Subject subject, const PrintError &error);
     void take(const Submission &submission);
     void moveToEarlierJobs();
     void showResult();
@@ -69,6 +77,7 @@ private:
     QWidget *m_dialog;
     WaitingPage *m_waiting;
     ResultPage *m_result;
+    MessageQueue *m_messages;
     JobSender m_sender;
     JobFollower *m_follower;
     EarlierJobs *m_earlier = nullptr; // null until there is one
@@ -76,6 +85,7 @@ private:
     QString m_documents;              // their names for display
     std::optional<Submission> m_submission;
     Destination m_submissionDestination;
+    platform::Awaited<PrintError> m_checking;
     platform::Awaited<PrintError> m_change;
     bool m_isAttentionNotified = false; // whether the user was notified that the job needs attention
     bool m_isLeaving = false;

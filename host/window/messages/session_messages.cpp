@@ -8,6 +8,7 @@
 #include "host/session/protection_checks.h"
 #include "host/session/session_history.h"
 #include "host/window/messages/message_queue.h"
+#include "platform/key_value_object.h"
 
 #include <utility>
 
@@ -29,6 +30,9 @@ void SessionMessages::setSession(DialogSession *session, SessionHistory *history
 {
     m_session = session;
     m_history = history;
+    for (int i = 0; session && i < session->panels().count(); ++i)
+        connect(session->panels().panel(i)->keyValueObject(), &platform::KeyValueObject::valueDidChange, this,
+                &SessionMessages::checkLater, Qt::UniqueConnection);
 }
 
 void SessionMessages::clear()
@@ -178,8 +182,8 @@ bool SessionMessages::isAsking() const
     return m_session && (m_messages->contains(Subject::Conflict) || m_messages->contains(Subject::Code));
 }
 
-// Checks again whether an open question still applies. Panels must be saved for that, since they mark their
-// changes only then.
+// A panel has changed a setting: checks again whether an open question still applies. Panels must be saved
+// for that, since they mark their changes only then.
 void SessionMessages::checkLater()
 {
     if (!isAsking() || std::exchange(m_isCheckQueued, true))

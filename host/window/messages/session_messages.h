@@ -48,10 +48,6 @@ public:
     // Performs the check that was due while `isDeferred` returned true.
     void resumeCheck();
 
-public Q_SLOTS:
-    // Call when a panel has changed a setting.
-    void checkLater();
-
 Q_SIGNALS:
     // The session's panels have been saved.
     void saved();
@@ -67,6 +63,7 @@ private:
     bool askForCode();
     bool reportGap();
     void tellMissingMedia();
+    void checkLater();
     void recheck();
     bool isAsking() const;
 

@@ -16,6 +16,7 @@
 #include "host/window/pages/change_marks.h"
 #include "host/window/pages/general_page.h"
 #include "host/window/pages/hidden_controls.h"
+#include "host/window/pages/job_cost_label.h"
 #include "host/window/pages/job_page.h"
 #include "host/window/pages/locked_controls.h"
 #include "host/window/pages/more_page.h"
@@ -114,9 +115,11 @@ PageBook::~PageBook()
     clear(); // panels own their views
 }
 
-QWidget *PageBook::beginPreview()
+QList<QWidget *> PageBook::addNotes()
 {
-    return m_preview ? m_preview->begin() : nullptr;
+    m_cost = new JobCostLabel(
+        m_documents, [this] { return m_session; }, this);
+    return m_preview ? QList<QWidget *>{m_preview->begin(), m_cost} : QList<QWidget *>{m_cost};
 }
 
 // The list has the width of its names, but leaves the larger part of a narrow window to the pages. The
@@ -417,6 +420,8 @@ void PageBook::showChanges()
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].marks)
         m_pages[static_cast<size_t>(m_current)].marks->refresh();
     updatePreview();
+    if (m_cost)
+        m_cost->refresh();
 }
 
 void PageBook::openViewOf(QWidget *control)

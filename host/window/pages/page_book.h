@@ -16,6 +16,7 @@ class DialogSession;
 class DocumentChoice;
 class ChangeMarks;
 class GeneralPage;
+class JobCostLabel;
 class JobPage;
 class MorePage;
 class PageFrame;
@@ -34,9 +35,9 @@ public:
     PageBook(DocumentChoice *documents, QWidget *parent);
     ~PageBook() override;
 
-    // Call when the window is visible. Returns the button of the preview, for the caller to place and own;
-    // null if there is nothing to print.
-    QWidget *beginPreview();
+    // Call when the window is visible. Creates the notes on the job that are shown with every page, for the
+    // caller to place and own: the button of the preview, if there is something to print, and the job's cost.
+    QList<QWidget *> addNotes();
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
@@ -110,6 +111,7 @@ private:
     QStackedWidget *m_stack;
     DocumentChoice *m_documents = nullptr;
     DialogPreview *m_preview = nullptr; // null if there is nothing to print
+    JobCostLabel *m_cost = nullptr;     // null before addNotes()
     GeneralPage *m_general = nullptr;
     MorePage *m_more = nullptr;
     JobPage *m_job = nullptr;

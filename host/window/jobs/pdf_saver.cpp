@@ -1,8 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "host/window/preview/pdf_saver.h"
+#include "host/window/jobs/pdf_saver.h"
 
+#include "host/session/document_choice.h"
+#include "host/session/printed_pages.h"
+#include "host/window/messages/message_queue.h"
+#include "host/window/waiting/panel_wait.h"
 #include "platform/background.h"
 
 #include <QFileDialog>
@@ -40,14 +44,18 @@ QString suggestedTitle(const QString &title, const QStringList &paths)
 
 } // namespace
 
-PdfSaver::PdfSaver(QWidget *window) : QObject(window), m_window(window) {}
+PdfSaver::PdfSaver(const DocumentChoice *documents, PanelWait *wait, MessageQueue *messages, QWidget *window)
+    : QObject(window), m_documents(documents), m_wait(wait), m_messages(messages), m_window(window)
+{
+}
 
-void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStringList &paths,
-                    const QString &title, const PageSettings &settings)
+PdfSaver::~PdfSaver() = default;
+
+void PdfSaver::save(const DialogSession &session, const QString &title)
 {
     if (m_isBusy)
         return;
-    m_documents = documents;
+    const QStringList paths = m_documents->included();
     auto *dialog = new QFileDialog(m_window, tr("Save as PDF"),
                                    QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                                    tr("PDF files (*.pdf)"));
@@ -56,7 +64,9 @@ void PdfSaver::save(const std::shared_ptr<DocumentList> &documents, const QStrin
     dialog->setDefaultSuffix(QStringLiteral("pdf"));
     dialog->selectFile(fileNameFor(suggestedTitle(title, paths)));
     connect(dialog, &QFileDialog::fileSelected, this,
-            [this, paths, settings](const QString &path) { write(paths, settings, path); });
+            [this, paths, settings = pageSettings(session)](const QString &path) {
+                write(paths, settings, path);
+            });
     dialog->open();
 }
 
@@ -65,14 +75,14 @@ void PdfSaver::write(const QStringList &paths, const PageSettings &settings, con
     if (m_isBusy)
         return;
     m_isBusy = true;
-    Q_EMIT began();
+    Q_EMIT busyChanged();
     QTimer::singleShot(noticeable, this, [this] {
         if (m_isBusy)
-            Q_EMIT delayed();
+            m_wait->setActivity(tr("Save as PDF"));
     });
     platform::startOnWorker(
         this,
-        [documents = m_documents, paths] {
+        [documents = m_documents->opened(), paths] {
             PrintError error;
             (void)documents->open(paths, nullptr, &error);
             return error;
@@ -85,7 +95,7 @@ void PdfSaver::write(const QStringList &paths, const PageSettings &settings, con
             m_writer = std::make_unique<PdfWriter>(PageTools::installed());
             connect(m_writer.get(), &PdfWriter::ended, this,
                     [this, path](const PrintError &problem) { end(problem, path); });
-            m_writer->write(m_documents->documents(), settings, path);
+            m_writer->write(m_documents->opened()->documents(), settings, path);
         });
 }
 
@@ -94,7 +104,12 @@ void PdfSaver::end(const PrintError &error, const QString &path)
     m_isBusy = false;
     if (m_writer)
         m_writer.release()->deleteLater(); // the writer is the caller
-    Q_EMIT ended(error, path);
+    m_wait->setActivity({});
+    m_messages->tell(
+        MessageQueue::Subject::File,
+        error ? Message{StatusGlyph::Kind::Error, error.message, {}, {}}
+              : Message{StatusGlyph::Kind::Success, tr("The PDF file has been written"), {path}, {}});
+    Q_EMIT busyChanged();
 }
 
 } // namespace host
