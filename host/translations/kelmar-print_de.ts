@@ -320,7 +320,7 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>ControlText</name>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <source>Not available while “%1” is “%2”.</source>
         <translation>Nicht verfügbar, solange „%1“ auf „%2“ steht.</translation>
     </message>
 </context>

@@ -320,7 +320,7 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>ControlText</name>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <source>Not available while “%1” is “%2”.</source>
         <translation>No disponible mientras «%1» esté en «%2».</translation>
     </message>
 </context>

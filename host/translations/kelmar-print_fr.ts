@@ -320,7 +320,7 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>ControlText</name>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <source>Not available while “%1” is “%2”.</source>
         <translation>Non disponible tant que «&#xa0;%1&#xa0;» est réglé sur «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>

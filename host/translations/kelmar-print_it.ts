@@ -320,7 +320,7 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>ControlText</name>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <source>Not available while “%1” is “%2”.</source>
         <translation>Non disponibile quando «%1» è impostato su «%2».</translation>
     </message>
 </context>

@@ -320,7 +320,7 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>ControlText</name>
     <message>
-        <source>Not available while &quot;%1&quot; is &quot;%2&quot;.</source>
+        <source>Not available while “%1” is “%2”.</source>
         <translation>「%1」が「%2」のときは使用できません。</translation>
     </message>
 </context>

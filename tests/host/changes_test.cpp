@@ -136,7 +136,7 @@ void ChangesTest::fieldKeepsItsOwnUndo()
     PrintWindow &window = open();
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);
     auto *pages = find<QLineEdit>(u"page-ranges"_s);
-    QCOMPARE(pages->accessibleDescription(), u"Not available while \"Pages\" is \"All\"."_s);
+    QCOMPARE(pages->accessibleDescription(), u"Not available while “Pages” is “All”."_s);
     for (auto *radio : window.findChildren<QRadioButton *>()) {
         if (!radio->isChecked())
             radio->click();

@@ -196,7 +196,7 @@ void PrintWindowTest::forbiddenChoiceIsGreyed()
     auto *item =
         qobject_cast<QStandardItemModel *>(duplex->model())->item(duplex->findData(u"DuplexNoTumble"_s));
     QVERIFY(!item->isEnabled());
-    QCOMPARE(item->accessibleDescription(), u"Not available while \"Paper Type\" is \"Heavy Paper\"."_s);
+    QCOMPARE(item->accessibleDescription(), u"Not available while “Paper Type” is “Heavy Paper”."_s);
     choose(u"MediaType"_s, u"Plain"_s);
     QVERIFY(item->isEnabled());
     choose(u"Duplex"_s, u"DuplexNoTumble"_s);

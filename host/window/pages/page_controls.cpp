@@ -97,7 +97,7 @@ private:
 
 QString notAvailableWhile(const QString &option, const QString &choice)
 {
-    return ControlText::tr("Not available while \"%1\" is \"%2\".").arg(option, choice);
+    return ControlText::tr("Not available while “%1” is “%2”.").arg(option, choice);
 }
 
 QString bareText(QString text)
