@@ -301,15 +301,17 @@ void WindowKeyboardTest::waitingIsReadOut()
     WaitSign sign;
     sign.begin(u"Asking the printer…"_s);
     sign.offerStop();
-    for (const auto &[part, text] : {std::pair<QWidget *, QString>(&page, u"Asking the print server…"_s),
-                                     {&sign, u"Asking the printer…"_s}}) {
+    sign.addNote(u"It will be printed."_s);
+    for (const auto &[part, texts] :
+         {std::pair<QWidget *, QStringList>(&page, {u"Asking the print server…"_s}),
+          {&sign, {u"Asking the printer…"_s, u"It will be printed."_s}}}) {
         QStringList announced;
         for (QWidget *widget : part->findChildren<QWidget *>()) {
             const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(widget);
             if (reader->role() == QAccessible::Notification)
                 announced.append(reader->text(QAccessible::Name));
         }
-        QCOMPARE(announced, QStringList(text));
+        QCOMPARE(announced, texts);
         // It would be repeated when its button gets the focus.
         QVERIFY(QAccessible::queryAccessibleInterface(part)->text(QAccessible::Name).isEmpty());
     }

@@ -20,16 +20,22 @@ namespace {
 
 constexpr int barWidth = 72; // pixels
 
+// The labels are announced, not the sign, whose name a screen reader repeats when its button gets the focus.
+QLabel *announcedLabel(QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    makeAnnounced(label);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
 }
 
+} // namespace
+
 WaitSign::WaitSign(QWidget *parent)
-    : QWidget(parent), m_text(new QLabel(this)), m_bar(new QProgressBar(this)),
-      m_stop(new DialogButton(tr("Do &Not Wait"), this))
+    : QWidget(parent), m_text(announcedLabel(this)), m_note(announcedLabel(this)),
+      m_bar(new QProgressBar(this)), m_stop(new DialogButton(tr("Do &Not Wait"), this))
 {
-    // Not the sign, whose name a screen reader repeats when its button gets the focus.
-    makeAnnounced(m_text);
-    m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
     m_bar->setRange(0, 0); // indeterminate
     m_bar->setTextVisible(false);
     m_bar->setFixedWidth(barWidth);
@@ -37,9 +43,14 @@ WaitSign::WaitSign(QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);
-    row->addWidget(m_text, 1);
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(m_text);
+    texts->addWidget(m_note);
+    row->addLayout(texts, 1);
     row->addWidget(m_bar);
     row->addWidget(m_stop);
+    m_note->hide();
     m_bar->hide();
     m_stop->hide();
     connect(m_stop, &QPushButton::clicked, this, &WaitSign::stopped);
@@ -76,8 +87,9 @@ void WaitSign::offerStop()
 
 void WaitSign::addNote(const QString &note)
 {
-    m_text->setText(m_text->text() + QLatin1Char('\n') + note);
-    announce(m_text, note);
+    m_note->setText(note);
+    announce(m_note, note);
+    m_note->show();
 }
 
 void WaitSign::end()
@@ -86,6 +98,7 @@ void WaitSign::end()
         QApplication::restoreOverrideCursor();
     m_text->clear();
     m_text->setAccessibleName(QString());
+    m_note->hide();
     m_bar->hide();
     m_stop->hide();
 }

@@ -23,7 +23,7 @@ public:
     // Replaces the previous text until the next end().
     void begin(const QString &what);
     void end();
-    // Adds a text until end().
+    // Adds a text, which is announced, until end().
     void addNote(const QString &note);
     // Shows the progress bar, and announces the text.
     void showMoving();
@@ -36,6 +36,7 @@ Q_SIGNALS:
 
 private:
     QLabel *m_text;
+    QLabel *m_note;
     QProgressBar *m_bar;
     DialogButton *m_stop;
     bool m_isShowing = false;
