@@ -4,6 +4,7 @@
 #include "host/session/carry_over.h"
 
 #include "host/session/dialog_session.h"
+#include "host/session/job_settings.h"
 #include "host/session/setting_keys.h"
 
 #include <QCoreApplication>
@@ -37,6 +38,13 @@ void carryOver(const DialogSession &from, DialogSession *to)
         PrintError error;
         if (choose(to, setting, &error))
             continue;
+        if (setting.key == passwordName && takesPrintMode(to->destination(), passwordName)) {
+            // A job with a password that cannot be entered at the printer could not be released there.
+            to->addNotice(
+                CarryOverText::tr("The password has been removed: the job will not be protected. %1")
+                    .arg(error.message));
+            continue;
+        }
         to->noteChosen(setting);
         QStringList &missed = setting.protects ? protections : others;
         if (!missed.contains(setting.text))

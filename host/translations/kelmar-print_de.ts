@@ -273,6 +273,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
 <context>
     <name>CarryOverText</name>
     <message>
+        <source>The password has been removed: the job will not be protected. %1</source>
+        <translation>Das Passwort wurde entfernt: Der Auftrag wird nicht geschützt. %1</translation>
+    </message>
+    <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
         <translation>Dieser Drucker kennt „%1“ nicht: Der Auftrag wird nicht geschützt.</translation>
     </message>

@@ -273,6 +273,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
 <context>
     <name>CarryOverText</name>
     <message>
+        <source>The password has been removed: the job will not be protected. %1</source>
+        <translation>La contraseña se ha quitado: el trabajo no estará protegido. %1</translation>
+    </message>
+    <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
         <translation>Esta impresora no tiene «%1»: el trabajo no estará protegido.</translation>
     </message>

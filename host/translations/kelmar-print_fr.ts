@@ -273,6 +273,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
 <context>
     <name>CarryOverText</name>
     <message>
+        <source>The password has been removed: the job will not be protected. %1</source>
+        <translation>Le mot de passe a été supprimé&#xa0;: la tâche ne sera pas protégée. %1</translation>
+    </message>
+    <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
         <translation>Cette imprimante ne connaît pas «&#xa0;%1&#xa0;»&#xa0;: la tâche ne sera pas protégée.</translation>
     </message>

@@ -273,6 +273,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
 <context>
     <name>CarryOverText</name>
     <message>
+        <source>The password has been removed: the job will not be protected. %1</source>
+        <translation>La password è stata rimossa: il lavoro non sarà protetto. %1</translation>
+    </message>
+    <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
         <translation>Questa stampante non dispone di «%1»: il lavoro non sarà protetto.</translation>
     </message>

@@ -273,6 +273,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
 <context>
     <name>CarryOverText</name>
     <message>
+        <source>The password has been removed: the job will not be protected. %1</source>
+        <translation>パスワードを削除しました。ジョブは保護されません。%1</translation>
+    </message>
+    <message>
         <source>This printer does not have “%1”: the job will not be protected.</source>
         <translation>このプリンターには「%1」がありません。ジョブは保護されません。</translation>
     </message>

@@ -13,6 +13,7 @@
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
+#include "host/window/printers/printer_picker.h"
 #include "host/window/waiting/wait_sign.h"
 #include "host/window/waiting/waiting_page.h"
 #include "platform/text_field.h"
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void waitingIsReadOut();
     void passwordFitsTheFormat_data();
     void passwordFitsTheFormat();
+    void passwordIsCheckedByTheNextPrinter();
     void errorBelongsToItsField();
     void colorsStandOut_data();
     void colorsStandOut();
@@ -366,6 +368,27 @@ void WindowKeyboardTest::passwordFitsTheFormat()
     }
     const QString expected = u"Character %1 of the password has to be %2."_s.arg(typed.size()).arg(allowed);
     QCOMPARE(said, allowed.isEmpty() ? QStringList() : QStringList(expected));
+}
+
+// It could not be entered at that printer, which would keep the job.
+void WindowKeyboardTest::passwordIsCheckedByTheNextPrinter()
+{
+    for (Destination &printer : m_system.printers)
+        printer.passwordLength = 8;
+    m_system.ppds[u"attic"_s] += "*cupsJobPassword: \"1111\"\n";
+    PrintWindow &window = open();
+    window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
+    QTest::keyClicks(find<QLineEdit>(u"job-password"_s), u"12a"_s);
+    Q_EMIT find<PrinterPicker>()->picked(u"attic"_s);
+    QTRY_COMPARE(window.session()->destination().queue, u"attic"_s);
+    const QString text = find<MessageBar>()->text();
+    QVERIFY2(text.contains(u"removed: the job will not be protected. Character 3 of the password"_s),
+             qPrintable(text));
+    printButton()->click();
+    settle();
+    QCOMPARE(m_system.submitted.size(), 1);
+    for (const JobOption &option : m_system.submitted.first().options)
+        QVERIFY(option.name != u"job-password"_s);
 }
 
 void WindowKeyboardTest::errorBelongsToItsField()
