@@ -4,6 +4,7 @@
 #include "host/batch/batch_run.h"
 
 #include "host/preview/pdf_writer.h"
+#include "host/preview/process_thread.h"
 #include "host/printing/opened_printer.h"
 #include "host/printing/preset_store.h"
 #include "host/session/preset_settings.h"
@@ -27,6 +28,24 @@ struct BatchText
 
 // Accepting a proposal may cause another conflict. The number of attempts is limited in case they never end.
 constexpr int mostProposals = 8;
+
+// While documents are examined or converted, holds signals that end the program, so that the programs that do
+// this are ended, and their folders removed, first.
+class ConversionScope
+{
+public:
+    ConversionScope() = default;
+    ~ConversionScope()
+    {
+        if (HeldSignals::isPending())
+            ProcessThread::instance().endProcesses();
+    }
+    ConversionScope(const ConversionScope &) = delete;
+    ConversionScope &operator=(const ConversionScope &) = delete;
+
+private:
+    HeldSignals m_signals; // destroyed after the processes have ended
+};
 
 // An option for --list-options. If its value is a code, no choice is marked as current or default.
 PpdOption listed(const DialogSession &session, const QString &keyword)
@@ -175,7 +194,8 @@ bool BatchRun::checkDocuments(PrintError *error)
         settings->percent = PageSettings::naturalSize; // writing the file scales the pages
     if (*error || !settings)
         return !*error;
-    m_pages = checkPages(PageTools::installed(), m_pages.documents, *settings);
+    const ConversionScope scope;
+    m_pages = checkPages(PageTools::installed(), m_pages.documents, *settings, HeldSignals::isPending);
     if (!m_pages.message.isNull())
         *error = {PrintError::Kind::BadValue, m_pages.message};
     return m_pages.message.isNull();
@@ -293,6 +313,7 @@ ExitCode BatchRun::submit()
 
 ExitCode BatchRun::writePdf()
 {
+    const ConversionScope scope;
     PdfWriter writer(PageTools::installed());
     QEventLoop untilWritten;
     bool isEnded = false;
@@ -303,8 +324,8 @@ ExitCode BatchRun::writePdf()
     });
     writer.write(m_documents.documents(), pageSettings(*m_session), m_arguments.output);
     if (!isEnded)
-        untilWritten.exec();
-    if (m_result.error)
+        execUnless(&untilWritten, HeldSignals::isPending);
+    if (!isEnded || m_result.error)
         return ExitFailure;
     m_result.output = m_arguments.output;
     return ExitSuccess;

@@ -29,7 +29,8 @@ public:
     // Sets the source of "-"; the standard input by default.
     void setInput(QIODevice *input) { m_input = input; }
     // Runs, writes the results to the writer, and returns the exit code. Call once. A signal that arrives
-    // during the submission ends the program after the result was written.
+    // during the submission ends the program after the result was written; while documents are examined or
+    // converted, it ends the program when the temporary files have been removed.
     int run(ResultWriter *writer);
 
 private:

@@ -3,9 +3,9 @@
 
 #include "host/preview/limited_process.h"
 
-#include <QCoreApplication>
+#include "host/preview/process_thread.h"
+
 #include <QFile>
-#include <QThread>
 
 #include <cerrno>
 #include <cstring>
@@ -16,48 +16,6 @@
 #include <unistd.h>
 
 namespace host {
-
-namespace {
-
-// The thread on which confined processes are started and waited for. On a busy machine it is blocked for tens
-// of milliseconds while namespaces are created, until the program is executed, and while a folder on which a
-// file system was mounted is removed. It runs until the application object is destroyed, since the kernel
-// ends the processes with it.
-class ProcessThread
-{
-public:
-    static ProcessThread &instance()
-    {
-        static auto *const thread = new ProcessThread; // worker threads may outlive static objects
-        return *thread;
-    }
-    void take(QObject *process) { process->moveToThread(&m_thread); }
-    // Takes ownership of a process. Call on this thread.
-    void own(QObject *process) { process->setParent(&m_owner); }
-
-private:
-    ProcessThread()
-    {
-        m_owner.moveToThread(&m_thread);
-        QObject::connect(
-            &m_thread, &QThread::finished, &m_owner,
-            [this] {
-                const QObjectList left = m_owner.children(); // each deletion changes the list of the owner
-                qDeleteAll(left);
-            },
-            Qt::DirectConnection);
-        m_thread.start();
-        qAddPostRoutine([] {
-            instance().m_thread.quit();
-            instance().m_thread.wait();
-        });
-    }
-
-    QThread m_thread;
-    QObject m_owner;
-};
-
-} // namespace
 
 FileView::FileView(const SharedFile &file)
 {

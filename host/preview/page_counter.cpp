@@ -11,7 +11,6 @@
 #include <QEventLoop>
 #include <QRegularExpression>
 #include <QSizeF>
-#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -314,20 +313,6 @@ void PageCounter::finish()
 
 namespace {
 
-// Runs the loop until it is quit, or `stop` has returned true. `stop` may be null.
-void wait(QEventLoop *loop, const StopWanted &stop)
-{
-    constexpr std::chrono::milliseconds pollInterval(50);
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, loop, [&] {
-        if (stop())
-            loop->quit();
-    });
-    if (stop)
-        poll.start(pollInterval);
-    loop->exec();
-}
-
 // Replaces a document of the verdict by a scaled PDF file. If it cannot be scaled, returns false and makes
 // the verdict Unreadable; if `stop` has returned true, returns false and makes it Pending.
 bool scale(PageMaker *maker, Document *document, const PageSettings &settings, const StopWanted &stop,
@@ -349,7 +334,7 @@ bool scale(PageMaker *maker, Document *document, const PageSettings &settings, c
     else
         problem = qt_error_string(errno);
     if (!scaled && !problem)
-        wait(&untilDone, stop);
+        execUnless(&untilDone, stop);
     PrintError error;
     const auto made = scaled ? openDocument(LimitedProcess::pathFor(scaled), &error) : std::nullopt;
     if (made) {
@@ -382,7 +367,7 @@ PageVerdict checkPages(const PageTools &tools, const QList<Document> &documents,
     });
     counter.check(paths, settings);
     if (counter.verdict().kind == PageVerdict::Kind::Pending)
-        wait(&untilKnown, stop);
+        execUnless(&untilKnown, stop);
     PageVerdict verdict = counter.verdict();
     verdict.documents = documents;
     for (const Document &document : documents) { // a file from a pipe has no name

@@ -7,8 +7,12 @@
 #include "platform/descriptor_io.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QTimer>
+
+#include <chrono>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -59,6 +63,19 @@ SharedFile openFile(const QString &path)
     if (file && !isReadConfined(file))
         file = platform::privateCopy(file.get(), QDir::tempPath().toStdString(), platform::longestDocument);
     return file ? std::make_shared<const platform::UniqueFd>(std::move(file)) : nullptr;
+}
+
+void execUnless(QEventLoop *loop, const std::function<bool()> &stop)
+{
+    constexpr std::chrono::milliseconds pollInterval(50);
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, loop, [&] {
+        if (stop())
+            loop->quit();
+    });
+    if (stop)
+        poll.start(pollInterval);
+    loop->exec();
 }
 
 } // namespace host

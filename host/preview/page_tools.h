@@ -8,6 +8,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
+class QEventLoop;
+
 namespace host {
 
 // The locations of the programs that convert and render pages: filters of the print system, Poppler and
@@ -26,5 +30,8 @@ SharedFile inMemory(const QByteArray &content);
 // Opens a file for reading; null with errno. For root, a file that only another user may read is copied to an
 // unlinked file, since programs that read documents only have a user's permissions.
 SharedFile openFile(const QString &path);
+
+// Runs the loop, while programs run, until it is quit or soon after `stop` returns true. `stop` may be null.
+void execUnless(QEventLoop *loop, const std::function<bool()> &stop);
 
 } // namespace host

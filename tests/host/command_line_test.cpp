@@ -6,6 +6,7 @@
 #include "tests/support/test_bundle.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void bundleOfOthersIsNotLoaded();
     void documentsAreConfined_data();
     void documentsAreConfined();
+    void interruptedConversionLeavesNothing_data();
+    void interruptedConversionLeavesNothing();
     void nothingReachesTheTerminalRaw();
     void policyIsObeyed_data();
     void policyIsObeyed();
@@ -290,6 +293,45 @@ void CommandLineTest::documentsAreConfined()
     counter.start(u"qpdf"_s, {u"--show-npages"_s, target});
     QVERIFY(counter.waitForFinished());
     QCOMPARE(counter.readAllStandardOutput().trimmed(), "1"); // more if any attempt succeeded
+}
+
+void CommandLineTest::interruptedConversionLeavesNothing_data()
+{
+    QTest::addColumn<QString>("stuck");
+    QTest::newRow("while pages are counted") << u"pdfinfo"_s;
+    QTest::newRow("while the file is made") << u"qpdf"_s;
+}
+
+void CommandLineTest::interruptedConversionLeavesNothing()
+{
+    QFETCH(const QString, stuck);
+    const QTemporaryDir folder;
+    const QString temporary = folder.filePath(u"tmp"_s);
+    QVERIFY(QDir().mkdir(temporary));
+    QFile standIn(folder.filePath(stuck));
+    QVERIFY(standIn.open(QIODevice::WriteOnly) && standIn.write("#!/bin/sh\nexec sleep 100\n") > 0);
+    standIn.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    standIn.close();
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"TMPDIR"_s, temporary);
+    environment.insert(u"PATH"_s, folder.path() + u':' + environment.value(u"PATH"_s));
+    process.setProcessEnvironment(environment);
+    process.start(program, {u"--batch"_s, u"--ppd"_s, ppds + u"kelm880.ppd"_s, u"-P"_s, u"1"_s, u"--output"_s,
+                            folder.filePath(u"out.pdf"_s), sourcePath("/demo/note.txt")});
+    const auto folders = [&] { return QDir(temporary).entryList({u"kelmar-print-*"_s}, QDir::Dirs); };
+    QStringList known;
+    QElapsedTimer unchanged;
+    const auto isStuck = [&] {
+        if (std::exchange(known, folders()) != known)
+            unchanged.start();
+        return !known.isEmpty() && unchanged.hasExpired(300);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isStuck(), 20000);
+    process.terminate();
+    QVERIFY(process.waitForFinished(10000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit); // ended by the signal
+    QCOMPARE(folders(), QStringList());
 }
 
 void CommandLineTest::nothingReachesTheTerminalRaw()
