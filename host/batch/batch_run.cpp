@@ -230,11 +230,8 @@ bool BatchRun::savePreset(const QString &name, PrintError *error)
     const auto known = store.list(destination.queue, error);
     if (!known)
         return false;
-    QMap<QString, QString> inUse;
-    for (const Preset &preset : *known) {
-        if (isSamePreset(preset.name, destination.instance))
-            inUse = preset.options;
-    }
+    const Preset *used = presetNamed(*known, destination.instance);
+    const QMap<QString, QString> inUse = used ? used->options : QMap<QString, QString>();
     if (!store.save(destination.queue, {name, presetOptions(*m_session, inUse, false)}, error))
         return false;
     m_result.savedPreset = name;

@@ -141,9 +141,7 @@ PrintError noSuchPreset(const QString &name)
 
 bool holds(const QByteArray &content, const QString &queue, const QString &name)
 {
-    const QList<Preset> presets = presetsIn(content, queue);
-    return std::any_of(presets.begin(), presets.end(),
-                       [&](const Preset &preset) { return isSamePreset(preset.name, name); });
+    return presetNamed(presetsIn(content, queue), name) != nullptr;
 }
 
 // Whether another preset than `from` has the name `to`, in any letter case.
@@ -160,6 +158,13 @@ bool isTaken(const QByteArray &content, const QString &queue, const QString &fro
 bool isSamePreset(const QString &name, const QString &other)
 {
     return fileNameToBytes(name).compare(fileNameToBytes(other), Qt::CaseInsensitive) == 0;
+}
+
+const Preset *presetNamed(const QList<Preset> &presets, const QString &name)
+{
+    const auto known = std::find_if(presets.begin(), presets.end(),
+                                    [&](const Preset &preset) { return isSamePreset(preset.name, name); });
+    return known == presets.end() ? nullptr : &*known;
 }
 
 PresetStore::Files PresetStore::filesOfCups()
@@ -324,9 +329,7 @@ bool PresetStore::remove(const QString &queue, const QString &name, PrintError *
         return false;
     if (!holds(file->content, queue, name)) {
         const auto all = list(queue, error);
-        const bool isOfAllUsers = all && std::any_of(all->begin(), all->end(), [&](const Preset &preset) {
-                                      return isSamePreset(preset.name, name);
-                                  });
+        const bool isOfAllUsers = all && presetNamed(*all, name);
         *error = isOfAllUsers ? PrintError{PrintError::Kind::NoPermission,
                                            StoreText::tr("“%1” is available to all users of this computer; "
                                                          "only an administrator can change it.")

@@ -27,6 +27,8 @@ struct Preset
 
 // Whether two names denote the same preset. Like libcups, ignores the case of ASCII letters only.
 bool isSamePreset(const QString &name, const QString &other);
+// The preset with this name; null if there is none.
+const Preset *presetNamed(const QList<Preset> &presets, const QString &name);
 
 // Reads and writes the presets in libcups's files: one file for all users and one of the user, which takes
 // precedence for options in both. Each call reads the files, and blocks; calls may be made on any thread, and

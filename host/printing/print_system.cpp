@@ -87,10 +87,7 @@ bool takePreset(Destination *destination, PrintError *error)
     }
     if (!presets)
         return false;
-    const bool isThere = destination->instance.isEmpty() ||
-                         std::any_of(presets->begin(), presets->end(), [&](const Preset &preset) {
-                             return isSamePreset(preset.name, destination->instance);
-                         });
+    const bool isThere = destination->instance.isEmpty() || presetNamed(*presets, destination->instance);
     for (const Preset &preset : *presets) {
         const bool isUsed = preset.name.isEmpty() || isSamePreset(preset.name, destination->instance);
         // libcups ignores letter case

@@ -211,8 +211,7 @@ void PresetMenu::openMenu()
 
 bool PresetMenu::hasOwnDefaults() const
 {
-    return std::any_of(m_lists.presets.begin(), m_lists.presets.end(),
-                       [](const Preset &preset) { return preset.name.isEmpty(); });
+    return presetNamed(m_lists.presets, QString()) != nullptr;
 }
 
 void PresetMenu::addChoice(const QString &text, const QString &name)
@@ -290,10 +289,8 @@ QMap<QString, QString> PresetMenu::optionsOf(const QString &name) const
         return m_lists.lastUsed->options;
     if (name.startsWith(QLatin1Char('/')) && name != ownDefaults)
         return {};
-    const QString wanted = name == ownDefaults ? QString() : name;
-    const auto preset = std::find_if(m_lists.presets.begin(), m_lists.presets.end(),
-                                     [&](const Preset &p) { return isSamePreset(p.name, wanted); });
-    return preset == m_lists.presets.end() ? QMap<QString, QString>() : preset->options;
+    const Preset *preset = presetNamed(m_lists.presets, name == ownDefaults ? QString() : name);
+    return preset ? preset->options : QMap<QString, QString>();
 }
 
 // The options of the queue itself. The print system returns them together with those of the user, which are
