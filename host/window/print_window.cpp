@@ -10,6 +10,7 @@
 #include "host/window/guide/guide.h"
 #include "host/window/jobs/pdf_saver.h"
 #include "host/window/jobs/result_page.h"
+#include "host/window/look/access_keys.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/list_escape.h"
@@ -69,6 +70,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
         m_print->setText(m_task.acceptLabel);
     m_picker->addBeside(m_presets->button());
     m_print->setDefault(true);
+    m_cancel->setProperty(AccessKeys::otherKeyProperty, true);
     connectParts();
     connectWork();
     showState(State::Unavailable);

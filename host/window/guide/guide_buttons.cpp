@@ -3,6 +3,7 @@
 
 #include "host/window/guide/guide_buttons.h"
 
+#include "host/window/look/access_keys.h"
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/explanations.h"
 
@@ -19,6 +20,7 @@ QPushButton *guideButton(const QString &text, const QString &name, QKeySequence:
     auto *button = new DialogButton(text, parent);
     button->setMinimumWidth(0);
     button->setFocusPolicy(Qt::TabFocus);
+    button->setProperty(AccessKeys::otherKeyProperty, true);
     button->setAccessibleName(name);
     button->setToolTip(GuideButtons::tr("%1 (%2)", "what a button does, and its key")
                            .arg(name, QKeySequence(key).toString(QKeySequence::NativeText)));

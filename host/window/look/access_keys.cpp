@@ -107,7 +107,7 @@ void AccessKeys::assign()
 {
     m_queued = false;
     QHash<QWidget *, Texts> texts;
-    QList<QWidget *> usable, yielding, unusable, passing;
+    QList<QWidget *> usable, yielding, withOtherKey, unusable, passing;
     for (QWidget *part : std::as_const(m_parts)) {
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
@@ -120,31 +120,23 @@ void AccessKeys::assign()
             const bool isShown = widget->isVisibleTo(m_window);
             known.shown = isShown ? known.own : textOf(widget);
             texts.insert(widget, known);
-            const bool yields = isMarked(widget, yieldingProperty);
             if (isShown)
-                (part == m_parts.last() ? passing
-                 : !isUsable(widget)    ? unusable
-                 : yields               ? yielding
-                                        : usable)
+                (part == m_parts.last()               ? passing
+                 : !isUsable(widget)                  ? unusable
+                 : isMarked(widget, otherKeyProperty) ? withOtherKey
+                 : isMarked(widget, yieldingProperty) ? yielding
+                                                      : usable)
                     .append(widget);
         }
     }
     Mnemonics keys;
-    bool isKnown = true; // whether all earlier groups have the texts of the previous call
-    for (Group *group = m_groups.data();
-         const QList<QWidget *> &widgets : {usable, yielding, unusable, passing}) {
+    for (const QList<QWidget *> &widgets : {usable + yielding, withOtherKey, unusable, passing}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);
-        isKnown = isKnown && group->own == own;
-        if (!isKnown) {
-            const QStringList shown = keys.assign(own);
-            *group = {own, shown, keys};
-        }
-        keys = group->keys;
-        for (qsizetype i = 0; i < own.size(); ++i)
-            texts[widgets.at(i)].shown = group->shown.at(i);
-        ++group;
+        const QStringList shown = keys.assign(own);
+        for (qsizetype i = 0; i < shown.size(); ++i)
+            texts[widgets.at(i)].shown = shown.at(i);
     }
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {
@@ -173,6 +165,7 @@ bool AccessKeys::reserveWidth(QWidget *widget, Texts *texts)
     return texts->isReserved;
 }
 
+// Assigns the keys when control returns to the event loop, once for any number of calls.
 void AccessKeys::assignLater()
 {
     if (!std::exchange(m_queued, true))

@@ -3,17 +3,12 @@
 
 #pragma once
 
-#include "host/window/look/mnemonics.h"
-
 #include <QFont>
 #include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QStringList>
-
-#include <array>
 
 class QWidget;
 
@@ -21,10 +16,10 @@ namespace host {
 
 // Assigns unique access keys to the visible buttons and labels of fields of the host and the panels. A text
 // gets the key that it requests. If another text has that key, or it requests none, it gets another one. Keys
-// are assigned in the order of the parts, then to widgets with yieldingProperty, then to disabled widgets.
-// The last part, which is shown and hidden while the others stay, gets only keys that are left, so that the
-// keys of the others do not change. Updated when widgets are shown, hidden, enabled and disabled. A child of
-// its window.
+// are assigned in the order of the parts, then to widgets with yieldingProperty, then to those with
+// otherKeyProperty, then to disabled widgets. The last part, which is shown and hidden while the others stay,
+// gets only keys that are left, so that the keys of the others do not change. Updated when widgets are shown,
+// hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
@@ -34,6 +29,9 @@ public:
     // Set to true on one that gets its key after the others, since there may be fewer letters than texts.
     static constexpr const char *yieldingProperty = "yieldsKey";
 
+    // Set to true on a button with a standard key, such as Escape, which is the last to need an access key.
+    static constexpr const char *otherKeyProperty = "hasOtherKey";
+
     // The parts are owned by the window and outlive this object.
     AccessKeys(QWidget *window, const QList<QWidget *> &parts);
 
@@ -42,8 +40,6 @@ public:
 
     // Assigns access keys to the visible texts.
     void assign();
-    // The same when control returns to the event loop, once for any number of calls.
-    void assignLater();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -57,18 +53,13 @@ private:
         QFont font;
         bool isReserved = false; // this class has set the minimum width
     };
-    struct Group
-    {
-        QStringList own, shown;
-        Mnemonics keys; // taken by this group and the groups before it
-    };
+    void assignLater();
     QString ownText(QWidget *widget) const;
     static bool reserveWidth(QWidget *widget, Texts *texts);
 
     QWidget *m_window;
     QList<QWidget *> m_parts;
     QHash<QWidget *, Texts> m_texts; // of the widgets found last
-    std::array<Group, 4> m_groups;   // in the order in which they get keys; of the last call
     bool m_queued = false;
 };
 
