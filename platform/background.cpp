@@ -65,34 +65,14 @@ struct Waiter::Installed
 
 namespace {
 
-// State shared by a caller and its work. Outlives a caller that stops waiting.
+// State shared by a caller and its work. Outlives a caller that stops waiting or returns at its time limit.
 struct CallState
-{
-    std::atomic<bool> ended{false};
-    std::exception_ptr thrown; // written before `ended`
-};
-
-// State shared by a call with a time limit and its work. Outlives a caller that returns at the limit.
-struct LimitedCall
 {
     std::mutex mutex;
     std::condition_variable change;
-    bool ended = false;
-    std::exception_ptr thrown; // written before `ended`
+    std::atomic<bool> ended{false}; // changes while the mutex is locked
+    std::exception_ptr thrown;      // written before `ended`
 };
-
-// The work, with an exception stored in the state.
-template <typename State>
-std::function<void()> keepingException(std::shared_ptr<State> state, std::function<void()> work)
-{
-    return [state = std::move(state), work = std::move(work)] {
-        try {
-            work();
-        } catch (...) {
-            state->thrown = std::current_exception();
-        }
-    };
-}
 
 // Runs `work` on a new thread. `work` and everything it holds is destroyed before `afterwards` runs.
 void runDetached(std::function<void()> work, std::function<void()> afterwards)
@@ -105,6 +85,36 @@ void runDetached(std::function<void()> work, std::function<void()> afterwards)
         afterwards = nullptr;
         --worksUnderWay;
     }).detach();
+}
+
+// Runs `work` on a new thread; then calls `wake` there.
+std::shared_ptr<CallState> startCall(std::function<void()> work, std::function<void()> wake)
+{
+    auto state = std::make_shared<CallState>();
+    auto keepingException = [state, work = std::move(work)] {
+        try {
+            work();
+        } catch (...) {
+            state->thrown = std::current_exception();
+        }
+    };
+    runDetached(std::move(keepingException), [state, wake = std::move(wake)] {
+        {
+            const std::lock_guard lock(state->mutex);
+            state->ended = true;
+            state->change.notify_all();
+        }
+        wake();
+    });
+    return state;
+}
+
+// The result of a call, whose work has ended or not. Throws the exception of the work.
+bool resultOf(const CallState &state, bool ended)
+{
+    if (ended && state.thrown)
+        std::rethrow_exception(state.thrown);
+    return ended;
 }
 
 } // namespace
@@ -131,38 +141,22 @@ bool Background::call(std::function<void()> work)
     }
     if (installed->waiter->isGivenUp())
         return false;
-    auto state = std::make_shared<CallState>();
-    runDetached(keepingException(state, std::move(work)), [state, wakeHandle = installed->wakeHandle] {
-        state->ended = true;
-        wakeHandle->wake();
-    });
-    if (!installed->waiter->wait([state] { return state->ended.load(); }))
-        return false;
-    if (state->thrown)
-        std::rethrow_exception(state->thrown);
-    return true;
+    const auto state =
+        startCall(std::move(work), [wakeHandle = installed->wakeHandle] { wakeHandle->wake(); });
+    return resultOf(*state, installed->waiter->wait([state] { return state->ended.load(); }));
 }
 
 bool Background::call(std::function<void()> work, std::chrono::milliseconds limit)
 {
     if (isGivenUp())
         return false;
-    auto state = std::make_shared<LimitedCall>();
-    runDetached(keepingException(state, std::move(work)), [state] {
-        const std::lock_guard lock(state->mutex);
-        state->ended = true;
-        state->change.notify_all();
-    });
+    const auto state = startCall(std::move(work), [] {});
     // On a worker thread if this thread must not block.
     const auto ended = callOnWorker([state, until = std::chrono::steady_clock::now() + limit] {
         std::unique_lock lock(state->mutex);
-        return state->change.wait_until(lock, until, [&] { return state->ended; });
+        return state->change.wait_until(lock, until, [&] { return state->ended.load(); });
     });
-    if (!ended.value_or(false))
-        return false;
-    if (state->thrown)
-        std::rethrow_exception(state->thrown);
-    return true;
+    return resultOf(*state, ended.value_or(false));
 }
 
 bool Background::isGivenUp()
