@@ -18,7 +18,6 @@ public:
     explicit UnavailablePage(QWidget *parent = nullptr);
     void setReason(const QString &reason);
     QString reason() const;
-    QPushButton *retryButton() const { return m_retry; }
 
 Q_SIGNALS:
     void retryWanted();

@@ -109,6 +109,8 @@ QString Finder::line(const FoundSetting &setting) const
     return parts.join(mark + QStringLiteral("  \u203a  ") + mark);
 }
 
+// Opens the page of a setting, scrolls to its control, gives it the focus and highlights it briefly. If the
+// control does not exist yet, waits until it does.
 void Finder::showSetting(const FoundSetting &setting)
 {
     const int row = m_book->pageNamed(setting.page);
@@ -129,11 +131,9 @@ void Finder::seek()
     QWidget *control = findControl(page, m_sought->keyword, m_sought->option);
     if (control) {
         m_sought.reset();
-        m_book->openViewOf(control);
         control->show(); // a new row is hidden until it is laid out
     }
-    QWidget *const wanted = control && control->isEnabled() ? control : m_book->list();
-    wanted->setFocus(Qt::OtherFocusReason);
+    m_book->focusOn(control);
     m_bar->close();
     if (!control)
         return; // perhaps found when the page has grown

@@ -28,9 +28,6 @@ public:
     void open();
     // The widgets of the search in the window, for the tab order; none before it is first opened.
     QList<QWidget *> parts() const;
-    // Opens the page of a setting, scrolls to its control, gives it the focus and highlights it briefly. If
-    // the control does not exist yet, waits until it does.
-    void showSetting(const FoundSetting &setting);
 
 Q_SIGNALS:
     // The result of parts() has changed.
@@ -42,6 +39,7 @@ private:
     void addPages(SettingIndex *index) const;
     QStringList search(const QString &query);
     QString line(const FoundSetting &setting) const;
+    void showSetting(const FoundSetting &setting);
     void seek();
 
     PageBook *m_book;

@@ -424,13 +424,15 @@ void PageBook::showChanges()
         m_cost->refresh();
 }
 
-void PageBook::openViewOf(QWidget *control)
+void PageBook::focusOn(QWidget *control)
 {
     const int panel = pageAt(m_current) ? pageAt(m_current)->panel : -1;
     auto *views =
         panel < 0 ? nullptr : dynamic_cast<platform::PanelViews *>(m_session->panels().panel(panel));
-    if (views && views->offersViewOf(control))
+    if (views && control && views->offersViewOf(control))
         views->showViewOf(control);
+    QWidget *const wanted = control && control->isEnabled() && !control->isHidden() ? control : m_list;
+    wanted->setFocus(Qt::ShortcutFocusReason);
 }
 
 void PageBook::leadTo(const QString &key)
@@ -441,13 +443,7 @@ void PageBook::leadTo(const QString &key)
     showPage(row);
     if (m_current != row || !m_pages[static_cast<size_t>(row)].marks)
         return;
-    QWidget *control = m_pages[static_cast<size_t>(row)].marks->controlOf(key);
-    if (control)
-        openViewOf(control);
-    if (control && control->isEnabled() && !control->isHidden())
-        control->setFocus(Qt::ShortcutFocusReason);
-    else
-        m_list->setFocus();
+    focusOn(m_pages[static_cast<size_t>(row)].marks->controlOf(key));
 }
 
 void PageBook::turn(int steps)

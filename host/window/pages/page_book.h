@@ -55,8 +55,9 @@ public:
     void turn(int steps); // shows the page that many rows further, or the last one in that direction
     void refresh();       // updates all pages from the session
     void showChanges();   // updates the marks of changed settings
-    // Opens the view of the current panel that contains a control.
-    void openViewOf(QWidget *control);
+    // Gives a control of the current page the focus, after opening the view of the panel that contains it;
+    // the list gets the focus if the control is null or cannot have it.
+    void focusOn(QWidget *control);
     // Shows the control of a setting, or at least its page, and gives it the focus.
     void leadTo(const QString &key);
     QSize wantedSize() const; // in pixels, to show the current page without scrolling; 0 × 0 without a page
