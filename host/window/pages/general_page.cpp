@@ -35,7 +35,7 @@
 namespace host {
 
 GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWidget *parent)
-    : QWidget(parent), m_session(session), m_documents(documents), m_copies(new QSpinBox(this)),
+    : HostPage(parent), m_session(session), m_documents(documents), m_copies(new QSpinBox(this)),
       m_collate(new QCheckBox(tr("C&ollate"), this)), m_allPages(new QRadioButton(tr("&All"), this)),
       m_somePages(new QRadioButton(tr("&Range:"), this)), m_pages(new QLineEdit(this)),
       m_problem(new QLabel(this)), m_sides(new QLabel(this))
@@ -68,7 +68,7 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
 // The lower part is created after the page is visible.
 void GeneralPage::paintEvent(QPaintEvent *event)
 {
-    QWidget::paintEvent(event);
+    HostPage::paintEvent(event);
     if (!std::exchange(m_isPainted, true))
         QMetaObject::invokeMethod(this, &GeneralPage::addLayout, Qt::QueuedConnection);
 }
@@ -355,7 +355,7 @@ void GeneralPage::paintProblem()
 
 void GeneralPage::changeEvent(QEvent *event)
 {
-    QWidget::changeEvent(event);
+    HostPage::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && m_problem)
         paintProblem();
 }

@@ -4,9 +4,9 @@
 #pragma once
 
 #include "host/session/general_settings.h"
+#include "host/window/pages/host_page.h"
 
 #include <QString>
-#include <QWidget>
 
 class QCheckBox;
 class QGridLayout;
@@ -27,7 +27,7 @@ class RangeCheck;
 // The general settings of every printer: copies, pages, and paper, tray and two-sided printing as far as its
 // PPD has them. Writes to the session and the choice of documents immediately; both are borrowed and outlive
 // the page.
-class GeneralPage : public QWidget
+class GeneralPage : public HostPage
 {
     Q_OBJECT
 public:
@@ -35,16 +35,13 @@ public:
     explicit GeneralPage(DialogSession *session, DocumentChoice *documents = nullptr,
                          QWidget *parent = nullptr);
 
-    // A null string if all input is valid.
-    QString problem() const;
-    // Places the cursor at the problem.
-    void showProblem();
-    void refresh();
+    QString problem() const override;
+    void showProblem() override;
+    void refresh() override;
     // Selects pages to print, given as normalized ranges; an empty string selects all.
     void setRanges(const QString &ranges);
 
 Q_SIGNALS:
-    void chosen(const QString &keyword);
     // The pages to print, or their layout, have changed.
     void pagesChanged();
     void savePdfWanted();

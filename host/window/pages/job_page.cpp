@@ -29,7 +29,7 @@ const QString atATime = QStringLiteral("time"); // the entry for a time of day
 
 } // namespace
 
-JobPage::JobPage(DialogSession *session, QWidget *parent) : QWidget(parent), m_session(session)
+JobPage::JobPage(DialogSession *session, QWidget *parent) : HostPage(parent), m_session(session)
 {
     auto *grid = contentGrid(this);
     addHold(grid);

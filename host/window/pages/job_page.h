@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QWidget>
+#include "host/window/pages/host_page.h"
 
 class QGridLayout;
 class QLineEdit;
@@ -19,17 +19,13 @@ class DialogSession;
 
 // The page for the handling of the job by the print server: when it is printed, its priority, cover sheets
 // and billing information. Writes to the session immediately, which is borrowed and outlives the page.
-class JobPage : public QWidget
+class JobPage : public HostPage
 {
     Q_OBJECT
 public:
     explicit JobPage(DialogSession *session, QWidget *parent = nullptr);
 
-    // Shows the current settings of the session.
-    void refresh();
-
-Q_SIGNALS:
-    void chosen(const QString &name); // name of the job option
+    void refresh() override;
 
 private:
     platform::ChoiceBox *addBox(const QString &name, const QString &label, const QStringList &values,

@@ -27,7 +27,7 @@ constexpr int titleWidth = 440;      // pixels
 } // namespace
 
 MorePage::MorePage(DialogSession *session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_grid(contentGrid(this)), m_toBuild(partsOf(*session))
+    : HostPage(parent), m_session(session), m_grid(contentGrid(this)), m_toBuild(partsOf(*session))
 {
     setWhatsThis(explanationOf(QStringLiteral("more")));
     while (!m_toBuild.isEmpty() && m_grid->rowCount() < rowsAtOnce)
@@ -83,7 +83,7 @@ void MorePage::buildNext()
 
 void MorePage::paintEvent(QPaintEvent *event)
 {
-    QWidget::paintEvent(event);
+    HostPage::paintEvent(event);
     if (!std::exchange(m_painted, true) && !m_toBuild.isEmpty())
         QTimer::singleShot(0, this, &MorePage::buildNext);
 }

@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "host/window/pages/host_page.h"
+
 #include <QStringList>
-#include <QWidget>
 
 class QGridLayout;
 
@@ -16,19 +17,16 @@ class OptionForm;
 // The options of the PPD that no other page shows, such as finishing, in groups. Creates the rows that fit on
 // a screen immediately, and the others in parts after the first paint. The session is borrowed and outlives
 // the page.
-class MorePage : public QWidget
+class MorePage : public HostPage
 {
     Q_OBJECT
 public:
     explicit MorePage(DialogSession *session, QWidget *parent = nullptr);
-    void refresh();
-    // A null string if all input is valid.
-    QString problem() const;
-    // Places the cursor at the problem.
-    void showProblem();
+    void refresh() override;
+    QString problem() const override;
+    void showProblem() override;
 
 Q_SIGNALS:
-    void chosen(const QString &keyword);
     // Rows have been added.
     void grown();
 

@@ -198,14 +198,14 @@ void PageBook::resizeEvent(QResizeEvent *event)
 
 void PageBook::addPage(const QString &title, const QString &name, int panel)
 {
-    m_pages.push_back({title, name, panel, nullptr, nullptr});
+    m_pages.push_back({title, name, panel});
     const QSignalBlocker quiet(m_list); // pages are built on first use
     m_list->addPage(title);
 }
 
 void PageBook::makeFrame(Page *page)
 {
-    QWidget *content = contentOf(*page);
+    QWidget *content = contentOf(page);
     content->setEnabled(page->panel < 0 || !m_session->isPanelLocked(page->panel));
     page->frame = new PageFrame(page->title, policyNote(*m_session, page->panel), content, m_stack);
     connect(page->frame, &PageFrame::laidOut, this, &PageBook::fitParts);
@@ -216,41 +216,40 @@ void PageBook::makeFrame(Page *page)
     m_stack->addWidget(page->frame);
 }
 
-QWidget *PageBook::contentOf(const Page &page)
+QWidget *PageBook::contentOf(Page *page)
 {
-    if (page.panel >= 0)
-        return m_session->panels().panel(page.panel)->panelView();
-    if (page.name == generalName) {
-        m_general = new GeneralPage(m_session, m_documents);
-        connect(m_general, &GeneralPage::chosen, this, &PageBook::chosen);
-        connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
-        connect(m_general, &GeneralPage::grown, this, [this] {
-            Q_EMIT pageUpdated();
-            showChanges();
-        });
-        connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
-        return m_general;
+    if (page->panel >= 0)
+        return m_session->panels().panel(page->panel)->panelView();
+    if (page->name == summaryName) {
+        m_summary = new SummaryPage;
+        connect(m_summary, &SummaryPage::followed, this, &PageBook::leadTo, Qt::QueuedConnection);
+        showSummary();
+        return m_summary;
     }
-    if (page.name == moreName) {
-        m_more = new MorePage(m_session);
-        connect(m_more, &MorePage::chosen, this, &PageBook::chosen);
-        connect(m_more, &MorePage::grown, this, &PageBook::grown);
-        return m_more;
+    page->own = makeOwn(page->name);
+    connect(page->own, &HostPage::chosen, this, &PageBook::chosen);
+    return page->own;
+}
+
+HostPage *PageBook::makeOwn(const QString &name)
+{
+    if (name == printModeName)
+        return new PrintModePage(m_session);
+    if (name == jobName)
+        return new JobPage(m_session);
+    if (name == moreName) {
+        auto *more = new MorePage(m_session);
+        connect(more, &MorePage::grown, this, &PageBook::grown);
+        return more;
     }
-    if (page.name == printModeName && page.panel < 0) {
-        m_printMode = new PrintModePage(m_session);
-        connect(m_printMode, &PrintModePage::chosen, this, &PageBook::chosen);
-        return m_printMode;
-    }
-    if (page.name == jobName) {
-        m_job = new JobPage(m_session);
-        connect(m_job, &JobPage::chosen, this, &PageBook::chosen);
-        return m_job;
-    }
-    m_summary = new SummaryPage;
-    connect(m_summary, &SummaryPage::followed, this, &PageBook::leadTo, Qt::QueuedConnection);
-    showSummary();
-    return m_summary;
+    m_general = new GeneralPage(m_session, m_documents);
+    connect(m_general, &GeneralPage::pagesChanged, this, &PageBook::updatePreview);
+    connect(m_general, &GeneralPage::grown, this, [this] {
+        Q_EMIT pageUpdated();
+        showChanges();
+    });
+    connect(m_general, &GeneralPage::savePdfWanted, this, &PageBook::savePdfWanted);
+    return m_general;
 }
 
 // Forgets all pages before it removes them: removing one makes another one current and updates the layout.
@@ -261,9 +260,6 @@ void PageBook::clear()
     m_history = nullptr;
     m_current = -1;
     m_general = nullptr;
-    m_more = nullptr;
-    m_job = nullptr;
-    m_printMode = nullptr;
     m_summary = nullptr;
     const QSignalBlocker quiet(m_list);
     m_list->clear();
@@ -367,14 +363,10 @@ bool PageBook::leave()
 
 void PageBook::refresh()
 {
-    if (m_general)
-        m_general->refresh();
-    if (m_more)
-        m_more->refresh();
-    if (m_job)
-        m_job->refresh();
-    if (m_printMode)
-        m_printMode->refresh();
+    for (const Page &page : m_pages) {
+        if (page.own)
+            page.own->refresh();
+    }
     if (m_current >= 0 && m_pages[static_cast<size_t>(m_current)].name == summaryName)
         showSummary();
     updatePreview();
@@ -468,15 +460,13 @@ void PageBook::followFocus(QWidget *now)
 
 bool PageBook::checkTyped()
 {
-    if (m_general && !m_general->problem().isEmpty()) {
-        showPage(pageNamed(generalName));
-        m_general->showProblem();
-        return false;
-    }
-    if (m_more && !m_more->problem().isEmpty()) {
-        showPage(pageNamed(moreName));
-        m_more->showProblem();
-        return false;
+    for (size_t row = 0; row < m_pages.size(); ++row) {
+        HostPage *page = m_pages[row].own;
+        if (page && !page->problem().isEmpty()) {
+            showPage(static_cast<int>(row));
+            page->showProblem();
+            return false;
+        }
     }
     return true;
 }

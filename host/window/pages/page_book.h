@@ -16,12 +16,10 @@ class DialogSession;
 class DocumentChoice;
 class ChangeMarks;
 class GeneralPage;
+class HostPage;
 class JobCostLabel;
-class JobPage;
-class MorePage;
 class PageFrame;
 class PageList;
-class PrintModePage;
 class SessionHistory;
 class SummaryPage;
 
@@ -86,10 +84,12 @@ private:
         int panel = -1;
         PageFrame *frame = nullptr;   // null until the page is first shown
         ChangeMarks *marks = nullptr; // null until then, and for the summary
+        HostPage *own = nullptr;      // null until then, and for panels and the summary
     };
     void addPage(const QString &title, const QString &name, int panel = -1);
     void makeFrame(Page *page);
-    QWidget *contentOf(const Page &page);
+    QWidget *contentOf(Page *page);
+    HostPage *makeOwn(const QString &name);
     const Page *pageAt(int row) const;
     bool leave();
     void prepare(const Page &page);
@@ -114,9 +114,6 @@ private:
     DialogPreview *m_preview = nullptr; // null if there is nothing to print
     JobCostLabel *m_cost = nullptr;     // null before addNotes()
     GeneralPage *m_general = nullptr;
-    MorePage *m_more = nullptr;
-    JobPage *m_job = nullptr;
-    PrintModePage *m_printMode = nullptr;
     SummaryPage *m_summary = nullptr;
 };
 

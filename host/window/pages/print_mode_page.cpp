@@ -24,7 +24,7 @@ constexpr int longestAccount = 63; // characters; fits the limit of the print pr
 } // namespace
 
 PrintModePage::PrintModePage(DialogSession *session, QWidget *parent)
-    : QWidget(parent), m_session(session), m_problem(new QLabel(this))
+    : HostPage(parent), m_session(session), m_problem(new QLabel(this))
 {
     auto *grid = contentGrid(this);
     for (const QString &name : offeredPrintModes(*session)) {
@@ -60,12 +60,12 @@ void PrintModePage::addField(const QString &name, const QString &label, QGridLay
     connect(field, &QLineEdit::textEdited, this, [this, name](const QString &value) {
         const PrintError refusal = setJobSetting(m_session, name, value);
         refresh(); // it may have been refused
-        showProblem(refusal.message);
+        setProblem(refusal.message);
         Q_EMIT chosen(name);
     });
 }
 
-void PrintModePage::showProblem(const QString &text)
+void PrintModePage::setProblem(const QString &text)
 {
     m_problem->setPalette(errorPalette(palette()));
     m_problem->setText(wrappable(text));

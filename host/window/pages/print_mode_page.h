@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "host/window/pages/host_page.h"
+
 #include <QList>
-#include <QWidget>
 
 class QGridLayout;
 class QLabel;
@@ -17,21 +18,17 @@ class DialogSession;
 // The page for private printing with a printer that has no panel for it: the password and the account of the
 // job, as far as the queue accepts them. Writes to the session immediately, which is borrowed and outlives
 // the page.
-class PrintModePage : public QWidget
+class PrintModePage : public HostPage
 {
     Q_OBJECT
 public:
     explicit PrintModePage(DialogSession *session, QWidget *parent = nullptr);
 
-    // Shows the current settings of the session.
-    void refresh();
-
-Q_SIGNALS:
-    void chosen(const QString &name); // name of the job option
+    void refresh() override;
 
 private:
     void addField(const QString &name, const QString &label, QGridLayout *grid);
-    void showProblem(const QString &text); // hides the label if the text is empty
+    void setProblem(const QString &text); // hides the label if the text is empty
 
     DialogSession *m_session;
     QList<QLineEdit *> m_fields; // their object names are those of the job options
