@@ -14,7 +14,6 @@
 #include "host/window/look/dialog_button.h"
 #include "host/window/look/focus_ring.h"
 #include "host/window/look/list_escape.h"
-#include "host/window/messages/greyed_choices.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/presets/preset_menu.h"
@@ -47,7 +46,8 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
           [this](SessionOpener::Result result) { takeSession(std::move(result)); }),
       m_picker(new PrinterPicker(this)), m_poller(system, m_picker), m_presets(new PresetMenu(this)),
       m_queue(new MessageBar(this), [this] { return isSettled(); }),
-      m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
+      m_messages(
+          &m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }, this),
       m_book(new PageBook(&m_documents, this)), m_unavailable(new UnavailablePage(this)),
       m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cance&l"), this)),
       m_print(new DialogButton(tr("&Print"), this)), m_wait(this, {m_cancel, m_print}),
@@ -111,20 +111,13 @@ void PrintWindow::connectParts()
         m_poller.loadList();
     });
     connect(m_presets, &PresetMenu::failed, this, &PrintWindow::showError);
-    auto *greyed = new GreyedChoices(
-        &m_queue, [this] { return m_session.get(); }, this);
-    // Selecting a greyed choice and the changes that it requires are one undo step.
-    connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_presets->history()->endGesture(); });
-    connect(greyed, &GreyedChoices::chosen, this, [this, settingsChanged] {
-        m_presets->history()->endGesture();
-        settingsChanged();
-    });
     connect(&m_poller, &PrinterStatusPoller::reported, &m_messages,
             [this](const DeviceReport &report) { m_messages.setLoaded(report.trays); });
     connect(&m_messages, &SessionMessages::saved, this, &PrintWindow::sessionChanged);
+    connect(&m_messages, &SessionMessages::chosen, this, settingsChanged);
     connect(&m_messages, &SessionMessages::codeWanted, m_book, &PageBook::leadTo);
     connect(&m_messages, &SessionMessages::printWanted, this, [this] {
-        if (mayPrint())
+        if (isReady())
             deliver();
     });
     connect(m_queue.bar(), &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrange);
@@ -174,7 +167,7 @@ void PrintWindow::connectWork()
     connect(m_result, &ResultPage::focusReleased, m_cancel, qOverload<>(&QWidget::setFocus));
     // Prints the same documents with the same settings again.
     connect(m_result, &ResultPage::printAgainWanted, this, [this] {
-        if (!mayPrint())
+        if (!isReady())
             return;
         m_cancel->setText(tr("Cance&l"));
         m_print->setDefault(true);
@@ -359,12 +352,6 @@ bool PrintWindow::isReady()
     return isSettled() && !isDismissed() && !m_jobs.isSending() && !m_pdf->isBusy() && m_book->checkTyped();
 }
 
-// Whether a job can be sent now.
-bool PrintWindow::mayPrint()
-{
-    return canPrint(m_task, m_session.get()) && isReady();
-}
-
 // Marks pending changes of the current page.
 void PrintWindow::savePages()
 {
@@ -381,7 +368,7 @@ void PrintWindow::print()
                              [this] { print(); });
         return;
     }
-    if (!mayPrint())
+    if (!isReady())
         return;
     savePages();
     if (!m_messages.checkToPrint())

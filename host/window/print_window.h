@@ -52,8 +52,6 @@ public:
     PageBook *book() const { return m_book; }
     // Shows the session's pages again, for example after its panels have changed.
     void showSession();
-    // Limits the size of the window, instead of the available space of its screen.
-    void setRoom(const QSize &room) { m_layout.setRoom(room); }
 
 public Q_SLOTS:
     // Prints, or asks questions that must be settled first. If a panel is querying its device, this happens
@@ -61,7 +59,6 @@ public Q_SLOTS:
     void print();
     void reject() override;
     void done(int result) override;
-    void loadPrinterList() { m_poller.loadList(); }
     void finishLater(); // the work that can wait until the window is visible
 
 protected:
@@ -87,7 +84,6 @@ private:
     void stopWaiting();
     void sessionChanged();
     bool isReady();
-    bool mayPrint();
     void savePages();
     void allowPrinting();
     void deliver();

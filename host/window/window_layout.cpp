@@ -53,7 +53,7 @@ QList<QWidget *> inOrderOfKeys(const WindowLayout::Parts &parts)
 } // namespace
 
 WindowLayout::WindowLayout(QWidget *window, const Parts &parts)
-    : m_window(window), m_parts(parts), m_keys(new AccessKeys(window, inOrderOfKeys(parts))),
+    : QObject(window), m_window(window), m_parts(parts), m_keys(new AccessKeys(window, inOrderOfKeys(parts))),
       m_footer(new QHBoxLayout), m_barRow(new QHBoxLayout)
 {
     build();

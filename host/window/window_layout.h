@@ -19,7 +19,7 @@ class PageBook;
 class PrinterPicker;
 
 // Arranges the parts of the print dialog in its window, distributes the available space, and defines the tab
-// order. Owned by the window, as are the parts.
+// order. A child of the window, as are the parts.
 class WindowLayout : public QObject
 {
     Q_OBJECT

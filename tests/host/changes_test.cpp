@@ -119,16 +119,16 @@ void ChangesTest::resolutionIsOneStep()
     choose(u"Cyan"_s, u"2"_s);
     settle();
     choose(u"ColorType"_s, u"Mono"_s);
-    QVERIFY(window.findChild<MessageBar *>()->isShowing());
-    window.findChild<MessageBar *>()->buttons().first()->click(); // apply
+    QVERIFY(find<MessageBar>()->isShowing());
+    find<MessageBar>()->buttons().first()->click(); // apply
     QVERIFY(window.session()->conflicts().isEmpty());
     const QString resolved = marked(u"Cyan"_s) + marked(u"ColorType"_s);
     undo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), u"2Mono"_s);
-    QVERIFY(window.findChild<MessageBar *>()->isShowing()); // the conflict appears again
+    QVERIFY(find<MessageBar>()->isShowing()); // the conflict appears again
     redo();
     QCOMPARE(marked(u"Cyan"_s) + marked(u"ColorType"_s), resolved);
-    QVERIFY(!window.findChild<MessageBar *>()->isShowing());
+    QVERIFY(!find<MessageBar>()->isShowing());
 }
 
 void ChangesTest::fieldKeepsItsOwnUndo()
@@ -369,8 +369,7 @@ void ChangesTest::presetIsCorrected()
     if (!stored.isNull())
         QVERIFY(PresetStore().save(u"office"_s, {u"p"_s, {{stored, value}}}, &error));
     trigger(stored.isNull() ? u"Printer’s Defaults"_s : u"p"_s);
-    QVERIFY2(window.findChild<MessageBar *>()->text().contains(notice),
-             qPrintable(window.findChild<MessageBar *>()->text()));
+    QVERIFY2(find<MessageBar>()->text().contains(notice), qPrintable(find<MessageBar>()->text()));
     if (!chosen.isNull()) {
         window.book()->showPage(window.book()->pageNamed(u"job"_s));
         choose(name, chosen);

@@ -171,8 +171,8 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     PrintError error;
     QVERIFY(m_window->open(&error));
     settle();
-    m_window->loadPrinterList();
     auto *picker = find<PrinterPicker>();
+    Q_EMIT picker->listOutdated();
     Q_EMIT picker->picked(u"raw"_s);
     settle();
     QVERIFY(!m_window->session());

@@ -5,6 +5,7 @@
 
 #include "host/preview/page_tools.h"
 #include "host/window/print_window.h"
+#include "host/window/printers/printer_picker.h"
 #include "platform/background.h"
 #include "tests/host/host_fixture.h"
 
@@ -42,17 +43,16 @@ protected:
             m_document.flush();
         }
     }
-    host::PrintWindow &show(const host::PrintTask &task, const QSize &room,
-                            void (host::PrintWindow::*whenVisible)())
+    host::PrintWindow &show(const host::PrintTask &task, const QSize &room, bool finishes)
     {
         m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);
         if (room.isValid())
-            m_window->setRoom(room);
+            m_window->findChild<host::WindowLayout *>()->setRoom(room);
         host::PrintError error;
         if (!m_window->open(&error))
             qFatal("%s", qPrintable(error.message));
         m_window->show();
-        ((*m_window).*whenVisible)();
+        finishes ? m_window->finishLater() : find<host::PrinterPicker>()->listOutdated();
         if (!QTest::qWaitForWindowActive(m_window.get()))
             qFatal("the window does not appear");
         settle();
@@ -63,11 +63,11 @@ protected:
         host::PrintTask task;
         task.files = {m_document.fileName()};
         task.printer = printer;
-        return show(task, {}, &host::PrintWindow::loadPrinterList);
+        return show(task, {}, false);
     }
     host::PrintWindow &openTask(const host::PrintTask &task, const QSize &room = {1200, 900})
     {
-        return show(task, room, &host::PrintWindow::finishLater);
+        return show(task, room, true);
     }
     host::PrintWindow &openWith(const QStringList &files, const QSize &room = {1200, 900})
     {

@@ -174,7 +174,7 @@ void WindowKeyboardTest::questionTakesTheFocusAndGivesItBack()
     const QPoint before = box->mapTo(&window, QPoint());
     QTest::keyClick(box, Qt::Key_P, Qt::ControlModifier);
     settle();
-    MessageBar *bar = window.findChild<MessageBar *>();
+    MessageBar *bar = find<MessageBar>();
     QCOMPARE(window.focusWidget(), bar->buttons().first());
     // A screen reader announces the texts, and does not repeat them with the buttons.
     const auto parts = bar->findChildren<QWidget *>();
@@ -204,9 +204,9 @@ void WindowKeyboardTest::conflictGoesWithItsCause()
         pageSettings(*window.session()).isMonochrome); // the preview does not wait until the panel is saved
     window.print();
     settle();
-    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Question);
+    QCOMPARE(find<MessageBar>()->kind(), MessageBar::Kind::Question);
     colour->setValueForKey(u"Auto"_s, u"ColorType"_s); // like its control
-    QTRY_VERIFY(!window.findChild<MessageBar *>()->isShowing());
+    QTRY_VERIFY(!find<MessageBar>()->isShowing());
 }
 
 void WindowKeyboardTest::secondClickDoesNotCloseTheResult()
@@ -370,20 +370,16 @@ void WindowKeyboardTest::passwordFitsTheFormat()
     QCOMPARE(said, allowed.isEmpty() ? QStringList() : QStringList(expected));
 }
 
-// It could not be entered at that printer, which would keep the job.
 void WindowKeyboardTest::passwordIsCheckedByTheNextPrinter()
 {
-    for (Destination &printer : m_system.printers)
-        printer.passwordLength = 8;
+    m_system.printers[0].passwordLength = m_system.printers[1].passwordLength = 8;
     m_system.ppds[u"attic"_s] += "*cupsJobPassword: \"1111\"\n";
     PrintWindow &window = open();
     window.book()->showPage(window.book()->pageNamed(u"print-mode"_s));
     QTest::keyClicks(find<QLineEdit>(u"job-password"_s), u"12a"_s);
     Q_EMIT find<PrinterPicker>()->picked(u"attic"_s);
     QTRY_COMPARE(window.session()->destination().queue, u"attic"_s);
-    const QString text = find<MessageBar>()->text();
-    QVERIFY2(text.contains(u"removed: the job will not be protected. Character 3 of the password"_s),
-             qPrintable(text));
+    QVERIFY(find<MessageBar>()->text().contains(u"removed: the job will not be protected. Character 3"_s));
     printButton()->click();
     settle();
     QCOMPARE(m_system.submitted.size(), 1);

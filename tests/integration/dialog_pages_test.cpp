@@ -116,7 +116,7 @@ void DialogPagesTest::everyPage()
     PrintTask task;
     task.files = {document};
     m_window = std::make_unique<PrintWindow>(m_system, extensions, task);
-    m_window->setRoom(room);
+    m_window->findChild<WindowLayout *>()->setRoom(room);
     PrintError error;
     QVERIFY(m_window->open(&error));
     // It may be painted before the size of its frame is known.

@@ -142,16 +142,15 @@ void JobEndTest::serverStoppedBehindAnOpenDialog()
 
     m_server.stop();
     window.print();
-    QTRY_VERIFY(window.findChild<MessageBar *>()->isShowing());
-    QCOMPARE(window.findChild<MessageBar *>()->kind(), MessageBar::Kind::Error);
-    QVERIFY2(window.findChild<MessageBar *>()->text().contains(u"cannot be reached"_s),
-             qPrintable(window.findChild<MessageBar *>()->text()));
+    const auto *bar = window.findChild<MessageBar *>();
+    QTRY_VERIFY(bar->isShowing());
+    QCOMPARE(bar->kind(), MessageBar::Kind::Error);
+    QVERIFY2(bar->text().contains(u"cannot be reached"_s), qPrintable(bar->text()));
     QVERIFY(!window.submission());
 
     QVERIFY2(m_server.start(), qPrintable(m_server.problem()));
     window.print();
-    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(window.findChild<MessageBar *>()->text()),
-                              15000);
+    QTRY_VERIFY2_WITH_TIMEOUT(window.submission(), qPrintable(bar->text()), 15000);
     const auto job = m_server.waitForJob(window.submission()->job.id);
     QVERIFY(job);
     QCOMPARE(job->options.value(u"Duplex"_s), u"DuplexNoTumble"_s);

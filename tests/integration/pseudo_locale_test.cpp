@@ -160,7 +160,7 @@ void PseudoLocaleTest::everyPage()
     PrintTask task;
     task.files = {sourcePath("/demo/report.pdf")};
     m_window = std::make_unique<PrintWindow>(m_system, extensions, task);
-    m_window->setRoom(room);
+    m_window->findChild<WindowLayout *>()->setRoom(room);
     PrintError error;
     QVERIFY(m_window->open(&error));
     m_window->show();

@@ -7,6 +7,7 @@
 #include "host/session/printed_pages.h"
 #include "host/session/protection_checks.h"
 #include "host/session/session_history.h"
+#include "host/window/messages/greyed_choices.h"
 #include "host/window/messages/message_queue.h"
 #include "platform/key_value_object.h"
 
@@ -21,9 +22,18 @@ using Purpose = ConflictQuestion::Purpose;
 
 } // namespace
 
-SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred)
+SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred,
+                                 QWidget *window)
     : m_messages(messages), m_settingsOnly(settingsOnly), m_isDeferred(std::move(isDeferred))
 {
+    auto *greyed = new GreyedChoices(
+        messages, [this] { return m_session; }, window);
+    // Selecting a greyed choice and the changes that it requires are one undo step.
+    connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_history->endGesture(); });
+    connect(greyed, &GreyedChoices::chosen, this, [this] {
+        m_history->endGesture();
+        Q_EMIT chosen();
+    });
 }
 
 void SessionMessages::setSession(DialogSession *session, SessionHistory *history)

@@ -13,21 +13,24 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace host {
 
 class DialogSession;
 class MessageQueue;
 class SessionHistory;
 
-// The messages of a session: conflicts, a missing code, paper that is not loaded, and notices, which stay
-// until the user has closed them. Owned by its window; the queue is borrowed.
+// The messages of a session: conflicts, greyed choices, a missing code, paper that is not loaded, and
+// notices, which stay until the user has closed them. Owned by its window; the queue is borrowed.
 class SessionMessages : public QObject
 {
     Q_OBJECT
 public:
     // `settingsOnly` is set if an application prints. While `isDeferred` returns true, for example while a
     // panel waits, no panel is saved for a question.
-    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred);
+    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred,
+                    QWidget *window);
 
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
@@ -51,6 +54,8 @@ public:
 Q_SIGNALS:
     // The session's panels have been saved.
     void saved();
+    // The user has selected a greyed choice, which was made with the changes that it requires.
+    void chosen();
     // The user wants to print anyway.
     void printWanted();
     // A code is missing; `key` is one of the settings of its field, which should get the focus.
