@@ -4,8 +4,8 @@
 #include "host/portal/application_settings.h"
 
 #include "host/printing/option_text.h"
-#include "host/session/job_options.h"
 #include "host/printing/page_ranges.h"
+#include "host/session/job_options.h"
 #include "host/session/session_state.h"
 #include "host/session/setting_keys.h"
 

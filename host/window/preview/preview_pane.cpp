@@ -4,8 +4,8 @@
 #include "host/window/preview/preview_pane.h"
 
 #include "host/preview/preview.h"
-#include "host/session/document_choice.h"
 #include "host/printing/page_ranges.h"
+#include "host/session/document_choice.h"
 #include "host/window/look/announced.h"
 #include "host/window/look/explanations.h"
 #include "host/window/look/foreign_text.h"
