@@ -33,6 +33,7 @@ void carryGeneral(const DialogSession &from, DialogSession *to)
 
 void carryOver(const DialogSession &from, DialogSession *to)
 {
+    carryGeneral(from, to); // before the sides, which a booklet changes
     QStringList protections, others;
     for (const ChosenSetting &setting : from.chosen().inOrder()) {
         PrintError error;
@@ -50,7 +51,6 @@ void carryOver(const DialogSession &from, DialogSession *to)
         if (!missed.contains(setting.text))
             missed.append(setting.text);
     }
-    carryGeneral(from, to);
     const QString separator = QStringLiteral(", ");
     if (!protections.isEmpty())
         to->addNotice(CarryOverText::tr("This printer does not have “%1”: the job will not be protected.")

@@ -250,6 +250,13 @@ void GeneralPageTest::bookletIsFolded()
     QCOMPARE(sides->currentData().toString(), u"DuplexNoTumble"_s);
     QVERIFY(!stitched->isChecked() && perSide->isEnabled());
     QCOMPARE(m_window->session()->ppd()->markedChoice(u"Staple"_s), u"Off"_s);
+    booklet->click();
+    choose(u"Duplex"_s, u"None"_s);
+    settle();
+    Q_EMIT find<PrinterPicker>()->picked(u"attic"_s);
+    QTRY_COMPARE(m_window->session()->destination().queue, u"attic"_s);
+    QVERIFY(m_window->session()->general().layout.isBooklet());
+    QCOMPARE(m_window->session()->ppd()->markedChoice(u"Duplex"_s), u"None"_s); // the later choice
 }
 
 void GeneralPageTest::documentIsLeftOut()
