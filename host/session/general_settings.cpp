@@ -214,7 +214,8 @@ QString GeneralSettings::set(const QString &name, const QString &value)
 {
     if (const Setting *setting = settingNamed(name))
         return setting->write(this, value);
-    if (value.isEmpty() && PageLayoutSettings().value(name).isEmpty() && PageLayoutSettings::covers(name))
+    if (value.isEmpty() && PageLayoutSettings().value(name).isEmpty() &&
+        PageLayoutSettings::names().contains(name))
         layout.reset(name);
     else if (!layout.set(name, value))
         return SettingText::tr("%1 takes %2.").arg(name, PageLayoutSettings::takes(name));

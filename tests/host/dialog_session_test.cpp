@@ -249,6 +249,8 @@ void DialogSessionTest::keys_data()
     QTest::newRow("code too long") << u"code"_s << u"123456"_s << u"code takes 5 digits."_s;
     QTest::newRow("copies") << u"copies"_s << u"0"_s << u"1 to 9999"_s;
     QTest::newRow("pages") << u"page-ranges"_s << u"3-1"_s << u"3-1"_s;
+    QTest::newRow("back to the default") << u"print-scaling"_s << QString() << QString();
+    QTest::newRow("older name without a value") << u"landscape"_s << QString() << u"landscape takes"_s;
     QTest::newRow("key that cannot be set")
         << u"supportedPPDOptionKeys"_s << u"x"_s << u"supportedPPDOptionKeys"_s;
 }
