@@ -30,7 +30,7 @@ public:
     void setInput(QIODevice *input) { m_input = input; }
     // Runs, writes the results to the writer, and returns the exit code. Call once. A signal that arrives
     // during the submission ends the program after the result was written; while documents are examined or
-    // converted, it ends the program when the temporary files have been removed.
+    // converted, it ends the program when the temporary folders have been removed.
     int run(ResultWriter *writer);
 
 private:

@@ -16,10 +16,10 @@ namespace host {
 
 // Assigns unique access keys to the visible buttons and labels of fields of the host and the panels. A text
 // gets the key that it requests. If another text has that key, or it requests none, it gets another one. Keys
-// are assigned in the order of the parts, then to widgets with yieldingProperty, then to those with
-// otherKeyProperty, then to disabled widgets. The last part, which is shown and hidden while the others stay,
-// gets only keys that are left, so that the keys of the others do not change. Updated when widgets are shown,
-// hidden, enabled and disabled. A child of its window.
+// are assigned in the order of the parts; texts with yieldingProperty come after the others. Then follow
+// widgets with otherKeyProperty, and disabled widgets. The last part, which is shown and hidden while the
+// others stay, gets only keys that are left, so that the keys of the others do not change. Updated when
+// widgets are shown, hidden, enabled and disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT

@@ -107,7 +107,8 @@ void ChangeMarks::findControls()
         QStringList keys;
         if (m_panel >= 0) {
             keys = keysSetBy(widget);
-        } else if (const QString name = widget->objectName(); hasSetting(*m_session, name)) {
+        } else if (const QString name = widget->objectName();
+                   !name.isEmpty() && hasSetting(*m_session, name)) {
             keys.append(name);
         }
         add(widget, keys);
