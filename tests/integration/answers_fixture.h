@@ -5,6 +5,7 @@
 
 #include "host/window/print_window.h"
 #include "platform/background.h"
+#include "tests/support/delayed_rows.h"
 #include "tests/support/heartbeat.h"
 #include "tests/support/paths.h"
 #include "tests/support/private_cupsd.h"
@@ -46,9 +47,7 @@ protected:
         const ThreadClock clock;
         QTest::mouseClick(target, Qt::LeftButton);
         QVERIFY2(QTest::qWaitFor(done, 10'000), what);
-        const qint64 reaction = clock.milliseconds();
-        QVERIFY2(reaction < longestReaction,
-                 qPrintable(QStringLiteral("%1: %2 ms").arg(QLatin1String(what)).arg(reaction)));
+        DelayedRows::check(clock.milliseconds(), longestReaction, what);
     }
     template <typename W>
     W *find(const char *name = "") const
