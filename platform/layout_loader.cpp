@@ -149,7 +149,7 @@ TopLevelObjects LayoutLoading::run()
 
 bool LayoutLoading::isCompiled(QFile *file) const
 {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
+    QCryptographicHash hash(QCryptographicHash::Md5);
     const bool isRead = m_compiled.make && hash.addData(file);
     file->seek(0);
     return isRead && hash.result().toHex() == m_compiled.digest;

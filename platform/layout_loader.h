@@ -62,8 +62,8 @@ using TopLevelObjects = std::vector<std::unique_ptr<QObject>>;
 KELMAR_PLATFORM_EXPORT TopLevelObjects loadLayout(const Bundle &bundle, const QString &name,
                                                   LayoutOwner *owner);
 
-// A form that uic has compiled into the code of its bundle, and the SHA-256 of its file in hexadecimal
-// digits.
+// A form that uic has compiled into the code of its bundle, and the MD5 of its file in hexadecimal digits.
+// The hash detects a file that was edited; it protects nothing, and is computed at each start.
 struct CompiledForm
 {
     std::unique_ptr<QWidget> (*make)() = nullptr;
