@@ -220,8 +220,8 @@ void PageCounter::opened(const Opened &opened)
     m_isReadable = false;
     m_result.isPostScript = !m_isPdf && isA(document, QStringLiteral("application/postscript"));
     m_result.usesSettings = !m_isPdf && !m_result.isPostScript;
-    m_result.wasSkipped = !m_isPdf && !m_isEachCounted;
-    if (m_result.wasSkipped) {
+    m_result.wasSkipped = !m_isEachCounted;
+    if (m_result.wasSkipped && !m_isPdf) {
         finish();
         return;
     }
@@ -230,7 +230,7 @@ void PageCounter::opened(const Opened &opened)
 }
 
 // A PDF file is also checked with the filter that prints it, which rejects files that other programs can
-// still read. Its pages are counted meanwhile.
+// still read. If its pages are needed, they are counted meanwhile.
 void PageCounter::documentMade(const SharedFile &pdf)
 {
     if (m_step != Step::Making)
@@ -238,7 +238,8 @@ void PageCounter::documentMade(const SharedFile &pdf)
     m_pdf = pdf;
     if (!m_isPdf)
         m_maker.stop();
-    run(m_isPdf ? Step::Making : Step::Counting, counter, countArguments);
+    if (!m_result.wasSkipped)
+        run(m_isPdf ? Step::Making : Step::Counting, counter, countArguments);
 }
 
 void PageCounter::made(bool asPrinted)
@@ -247,7 +248,9 @@ void PageCounter::made(bool asPrinted)
         return;
     m_isReadable = asPrinted;
     m_step = Step::Counting;
-    if (!m_process.isRunning())
+    if (m_result.wasSkipped && !m_isReadable) // counting shows whether it can be read
+        run(m_step, counter, countArguments);
+    else if (!m_process.isRunning())
         ended(m_count);
 }
 
