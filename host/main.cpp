@@ -39,13 +39,17 @@ struct MainText
 };
 
 // Selects a Qt platform without a display, before Qt starts, if there is no display or no window will be
-// shown. False if there is no display, in which case Qt would end the program.
+// shown. The minimal platform also has no fonts, which saves a third of a batch run's processor time. False
+// if there is no display, in which case Qt would end the program.
 bool choosePlatform(int argc, char **argv)
 {
     const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
     const bool hasDisplay =
         isChosen || qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (!hasDisplay || runsWithoutWindow(argc, argv)) // opening a display takes long
+    if (runsWithoutWindow(argc, argv)) { // opening a display takes long
+        qputenv("QT_QPA_PLATFORM", "minimal;offscreen");
+        QApplication::setStyle(QStringLiteral("Fusion")); // instead of the first style that is installed
+    } else if (!hasDisplay)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     return hasDisplay;
 }
