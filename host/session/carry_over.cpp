@@ -23,7 +23,7 @@ void carryGeneral(const DialogSession &from, DialogSession *to)
 {
     const GeneralSettings &chosen = from.general();
     to->setOfferedParts(chosen.offersCurrentPage, chosen.offersSelection);
-    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+    for (const QString &name : GeneralSettings::allNames()) {
         if (chosen.value(name) != from.startingGeneral().value(name))
             chooseGeneral(to, name, chosen.value(name));
     }

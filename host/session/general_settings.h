@@ -50,8 +50,9 @@ struct GeneralSettings
     // The value of "page-ranges" for a part that another program offers. It is not sent with a job.
     static QString partName(Part part);
 
-    // The names of the settings without the layout, in the order of display.
+    // The names of the settings without the layout, in the order of display; then with the layout.
     static QStringList names();
+    static QStringList allNames() { return names() + PageLayoutSettings::names(); }
     // Whether these settings, without the layout, determine a job option of this name, or a PPD option.
     static bool covers(const QString &name);
     // The name of the job option for another name of a setting; other names are unchanged.

@@ -171,7 +171,7 @@ SessionState stateWithPreset(DialogSession *session, const QMap<QString, QString
     wanted.instance.clear();
     wanted.destinationOptions = queueOptions;
     const GeneralSettings general = GeneralSettings::from(all);
-    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+    for (const QString &name : GeneralSettings::allNames()) {
         if (name != pagesName)
             wanted.general.set(name, general.value(name));
     }

@@ -38,7 +38,7 @@ SettingChange markChange(const DialogSession &session, const QString &key, const
 void addGeneralChanges(const GeneralSettings &before, const GeneralSettings &after,
                        QList<SettingChange> *changes)
 {
-    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names()) {
+    for (const QString &name : GeneralSettings::allNames()) {
         const QString then = before.valueText(name), now = after.valueText(name);
         if (before.value(name) != after.value(name) && then != now)
             changes->append({name, GeneralSettings::textOf(name), then, now});

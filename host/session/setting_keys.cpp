@@ -309,7 +309,7 @@ bool hasSetting(const DialogSession &session, const QString &key)
 QList<std::pair<QString, QString>> settingKeys(const DialogSession &session)
 {
     QList<std::pair<QString, QString>> keys;
-    for (const QString &name : GeneralSettings::names() + PageLayoutSettings::names())
+    for (const QString &name : GeneralSettings::allNames())
         keys.append({QStringLiteral("general"), name == handlingName ? QStringLiteral("collate") : name});
     for (const QString &name : jobSettingNames()) {
         if (!printModeNames().contains(name))

@@ -39,7 +39,7 @@ void addJobSetting(const DialogSession &session, const QString &name, SummarySec
 
 QString keyOfGeneralEntry(const QString &name)
 {
-    for (const QString &key : GeneralSettings::names() + PageLayoutSettings::names()) {
+    for (const QString &key : GeneralSettings::allNames()) {
         if (name == GeneralSettings::textOf(key))
             return key;
     }
