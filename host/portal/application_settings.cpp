@@ -5,8 +5,6 @@
 
 #include "host/printing/option_text.h"
 #include "host/printing/page_ranges.h"
-#include "host/session/job_options.h"
-#include "host/session/session_state.h"
 #include "host/session/setting_keys.h"
 
 #include <algorithm>
@@ -103,11 +101,9 @@ ApplicationChoice choiceForApplication(const DialogSession &session, const QStri
 
 QList<JobOption> jobOptionsForMadePages(const DialogSession &session)
 {
-    const SessionState state = session.state();
-    GeneralSettings general = state.general;
+    GeneralSettings general = session.general();
     general.pages.clear();
-    return jobOptions({session.destination(), session.ppd(), state.chosen, state.savedKeywords,
-                       state.printSettings, general});
+    return session.jobOptions(&general);
 }
 
 int percentOf(const QList<JobOption> &options)

@@ -390,10 +390,10 @@ QList<SummarySection> DialogSession::summary()
     return sections;
 }
 
-QList<JobOption> DialogSession::jobOptions() const
+QList<JobOption> DialogSession::jobOptions(const GeneralSettings *general) const
 {
-    return host::jobOptions(
-        {m_destination, m_ppd.get(), m_chosen, m_savedKeywords, m_host.settings().values(), m_general});
+    return host::jobOptions({m_destination, m_ppd.get(), m_chosen, m_savedKeywords,
+                             m_host.settings().values(), general ? *general : m_general});
 }
 
 } // namespace host

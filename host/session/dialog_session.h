@@ -76,9 +76,9 @@ public:
     void apply(const Resolution &resolution);
     QStringList takeNotices(); // unrequested changes, and errors, since the last call; localised
     void addNotice(const QString &notice);
-    QList<SummarySection> summary();     // first announces the choices of options to panels
-    QList<JobOption> jobOptions() const; // sent with the job; see host/session/job_options.h
-    SessionState state() const;          // includes changes that panels have not saved
+    QList<SummarySection> summary(); // first announces the choices of options to panels
+    QList<JobOption> jobOptions(const GeneralSettings *general = nullptr) const; // null: the session's own
+    SessionState state() const; // includes changes that panels have not saved
     // Sets all differences between two states to their values in `to`, also on the panels, without notices.
     // Locked options keep their choices. General settings are not checked: they were in force before.
     void restoreTo(const SessionState &from, const SessionState &to);
