@@ -6,7 +6,6 @@
 #include "host/session/dialog_session.h"
 #include "host/session/session_changes.h"
 #include "host/session/session_history.h"
-#include "host/session/setting_keys.h"
 #include "host/window/look/change_mark.h"
 #include "host/window/look/foreign_text.h"
 #include "platform/binding.h"
@@ -104,14 +103,8 @@ void ChangeMarks::findControls()
     for (QWidget *widget : m_page->findChildren<QWidget *>()) {
         if (m_watched.contains(widget) || !isControl(widget))
             continue;
-        QStringList keys;
-        if (m_panel >= 0) {
-            keys = keysSetBy(widget);
-        } else if (const QString name = widget->objectName();
-                   !name.isEmpty() && hasSetting(*m_session, name)) {
-            keys.append(name);
-        }
-        add(widget, keys);
+        const QString name = widget->objectName();
+        add(widget, m_panel >= 0 ? keysSetBy(widget) : name.isEmpty() ? QStringList() : QStringList(name));
     }
 }
 
