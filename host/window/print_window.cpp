@@ -46,8 +46,7 @@ PrintWindow::PrintWindow(PrintSystem &system, Extensions &extensions, PrintTask 
           [this](SessionOpener::Result result) { takeSession(std::move(result)); }),
       m_picker(new PrinterPicker(this)), m_poller(system, m_picker), m_presets(new PresetMenu(this)),
       m_queue(new MessageBar(this), [this] { return isSettled(); }),
-      m_messages(
-          &m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }, this),
+      m_messages(&m_queue, m_task.settingsOnly, [this] { return m_wait.isUnderWay(); }),
       m_book(new PageBook(&m_documents, this)), m_unavailable(new UnavailablePage(this)),
       m_result(new ResultPage(this)), m_cancel(new DialogButton(tr("Cance&l"), this)),
       m_print(new DialogButton(tr("&Print"), this)), m_wait(this, {m_cancel, m_print}),

@@ -51,8 +51,8 @@ Message messageOf(const ForcedChoice &forced)
 } // namespace
 
 GreyedChoices::GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session,
-                             QWidget *window)
-    : QObject(window), m_messages(messages), m_session(std::move(session)), m_window(window)
+                             QObject *parent)
+    : QObject(parent), m_messages(messages), m_session(std::move(session))
 {
     // A box gets the focus before its list is opened.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { watch(now); });
@@ -61,7 +61,7 @@ GreyedChoices::GreyedChoices(MessageQueue *messages, std::function<DialogSession
 void GreyedChoices::watch(QWidget *now)
 {
     auto *box = qobject_cast<platform::ChoiceBox *>(now);
-    if (!box || !m_window->isAncestorOf(box) || box->optionKeyword().isEmpty())
+    if (!box || box->window() != m_messages->bar()->window() || box->optionKeyword().isEmpty())
         return;
     disconnect(box, &platform::ChoiceBox::greyedPicked, this, nullptr);
     connect(box, &platform::ChoiceBox::greyedPicked, this,

@@ -18,14 +18,13 @@ class DialogSession;
 class MessageQueue;
 
 // Lets the user select a greyed item of a choice list on the pages of the host and of panels: a question
-// describes the required changes, which are made when the user agrees. A child of its window; the queue is
-// borrowed.
+// describes the required changes, which are made when the user agrees. The queue is borrowed.
 class GreyedChoices : public QObject
 {
     Q_OBJECT
 public:
     // `session` returns the current session; null if there is none.
-    GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session, QWidget *window);
+    GreyedChoices(MessageQueue *messages, std::function<DialogSession *()> session, QObject *parent);
 
 Q_SIGNALS:
     // A greyed choice and the required changes are about to be applied.
@@ -40,7 +39,6 @@ private:
 
     MessageQueue *m_messages;
     std::function<DialogSession *()> m_session;
-    QWidget *m_window;
 };
 
 } // namespace host

@@ -22,12 +22,11 @@ using Purpose = ConflictQuestion::Purpose;
 
 } // namespace
 
-SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred,
-                                 QWidget *window)
+SessionMessages::SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred)
     : m_messages(messages), m_settingsOnly(settingsOnly), m_isDeferred(std::move(isDeferred))
 {
     auto *greyed = new GreyedChoices(
-        messages, [this] { return m_session; }, window);
+        messages, [this] { return m_session; }, this);
     // Selecting a greyed choice and the changes that it requires are one undo step.
     connect(greyed, &GreyedChoices::aboutToChoose, this, [this] { m_history->endGesture(); });
     connect(greyed, &GreyedChoices::chosen, this, [this] {

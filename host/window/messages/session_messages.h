@@ -13,8 +13,6 @@
 
 #include <functional>
 
-class QWidget;
-
 namespace host {
 
 class DialogSession;
@@ -29,8 +27,7 @@ class SessionMessages : public QObject
 public:
     // `settingsOnly` is set if an application prints. While `isDeferred` returns true, for example while a
     // panel waits, no panel is saved for a question.
-    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred,
-                    QWidget *window);
+    SessionMessages(MessageQueue *messages, bool settingsOnly, std::function<bool()> isDeferred);
 
     // Both are borrowed.
     void setSession(DialogSession *session, SessionHistory *history);
