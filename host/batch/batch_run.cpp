@@ -314,12 +314,13 @@ ExitCode BatchRun::writePdf()
     PdfWriter writer(PageTools::installed());
     QEventLoop untilWritten;
     bool isEnded = false;
-    QObject::connect(&writer, &PdfWriter::ended, &untilWritten, [&](const PrintError &error) {
-        m_result.error = error;
-        isEnded = true;
-        untilWritten.quit();
-    });
-    writer.write(m_documents.documents(), pageSettings(*m_session), m_arguments.output);
+    QObject::connect(&writer, &PdfWriter::ended, &untilWritten,
+                     [&](const SharedFile &pdf, const PrintError &error) {
+                         m_result.error = pdf ? replaceFile(m_arguments.output, pdf) : error;
+                         isEnded = true;
+                         untilWritten.quit();
+                     });
+    writer.write(m_documents.documents(), pageSettings(*m_session));
     if (!isEnded)
         execUnless(&untilWritten, HeldSignals::isPending);
     if (!isEnded || m_result.error)

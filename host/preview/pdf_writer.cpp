@@ -5,7 +5,6 @@
 
 #include "host/printing/file_name.h"
 #include "host/printing/new_file.h"
-#include "platform/background.h"
 
 #include <cerrno>
 
@@ -51,17 +50,16 @@ PdfWriter::PdfWriter(const PageTools &tools, QObject *parent)
     });
     connect(&m_joiner, &LimitedProcess::ended, this, [this](const SharedFile &joined) {
         if (joined)
-            store(joined);
+            Q_EMIT ended(joined, {});
         else
             fail(tr("%1 cannot read the document").arg(joiner));
     });
 }
 
-void PdfWriter::write(const QList<Document> &documents, const PageSettings &settings, const QString &path)
+void PdfWriter::write(const QList<Document> &documents, const PageSettings &settings)
 {
     m_documents = documents;
     m_settings = settings;
-    m_path = path;
     if (m_tools.path(QStringLiteral("pdftopdf")).isEmpty())
         fail(tr("%1 is not installed").arg(QStringLiteral("pdftopdf")));
     else
@@ -112,19 +110,12 @@ void PdfWriter::join()
     m_joiner.start({path, arguments, m_parts.first(), m_parts});
 }
 
-void PdfWriter::store(const SharedFile &pdf)
-{
-    platform::startOnWorker(
-        this, [path = m_path, pdf] { return replaceFile(path, pdf); },
-        [this](const PrintError &error) { Q_EMIT ended(error); });
-}
-
 void PdfWriter::fail(const QString &reason)
 {
     const QString name = m_documents.isEmpty() ? QString() : m_documents.first().name;
-    Q_EMIT ended({PrintError::Kind::Other,
-                  name.isEmpty() ? tr("The PDF file cannot be created: %1.").arg(reason)
-                                 : tr("“%1” cannot be converted to PDF: %2.").arg(name, reason)});
+    Q_EMIT ended(nullptr, {PrintError::Kind::Other,
+                           name.isEmpty() ? tr("The PDF file cannot be created: %1.").arg(reason)
+                                          : tr("“%1” cannot be converted to PDF: %2.").arg(name, reason)});
 }
 
 } // namespace host

@@ -11,22 +11,19 @@
 
 namespace host {
 
-// Writes documents, as they would be printed, to one PDF file, completely or not at all. Does not block. Used
-// for one file.
+// Converts documents, as they would be printed, to one PDF file in memory. Does not block. Used for one file.
 class PdfWriter : public QObject
 {
     Q_OBJECT
 public:
     explicit PdfWriter(const PageTools &tools, QObject *parent = nullptr);
 
-    // Starts writing. There must be at least one document; documents are opened by their paths. An existing
-    // file is replaced; a link, or a path that is not a regular file, is refused. Names are encoded as in
-    // file_name.h.
-    void write(const QList<Document> &documents, const PageSettings &settings, const QString &path);
+    // Starts the conversion. There must be at least one document; documents are opened by their paths.
+    void write(const QList<Document> &documents, const PageSettings &settings);
 
 Q_SIGNALS:
-    // The error is empty if the file was written.
-    void ended(const host::PrintError &error);
+    // The file is null if there is an error.
+    void ended(const host::SharedFile &pdf, const host::PrintError &error);
 
 private:
     void makeNext();
@@ -34,7 +31,6 @@ private:
     // Continues with the next document; `problem` is set if the last one had no page.
     void proceed(const QString &problem);
     void join();
-    void store(const SharedFile &pdf);
     void fail(const QString &reason);
 
     PageTools m_tools;
@@ -42,11 +38,11 @@ private:
     LimitedProcess m_joiner;
     QList<Document> m_documents; // remaining documents; the first is being converted
     PageSettings m_settings;
-    QString m_path;
     QList<SharedFile> m_parts;
 };
 
-// Atomically replaces the contents of the file with `content`. Blocks. An error contains the file name.
+// Atomically creates a file with this content or replaces it; refuses a link, and a path that is not a
+// regular file. Blocks. The name is encoded as in file_name.h; an error contains it.
 PrintError replaceFile(const QString &path, const SharedFile &content);
 
 } // namespace host

@@ -3,17 +3,39 @@
 
 #include "host/batch/batch_run.h"
 #include "host/policy/policy.h"
+#include "host/preview/page_tools.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/paths.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSemaphore>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTest>
+#include <QThread>
+
+#include <csignal>
 
 using namespace host;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+std::function<void()> onSync;
+
+} // namespace
+
+// In place of the function of the C library.
+extern "C" int fsync(int)
+{
+    if (onSync)
+        onSync();
+    return 0;
+}
 
 class BatchRunTest : public QObject
 {
@@ -39,6 +61,7 @@ private Q_SLOTS:
     void conflictIsExplainedInJson();
     void resolveAcceptsTheProposal();
     void optionsAreListed();
+    void signalLeavesNoUnfinishedFile();
 
 private:
     int run(const QStringList &words);
@@ -69,6 +92,27 @@ void BatchRunTest::init()
         m_document.write(QByteArray("some text\n").repeated(300)); // five pages
         m_document.flush();
     }
+}
+
+void BatchRunTest::signalLeavesNoUnfinishedFile()
+{
+    const PageTools tools = PageTools::installed();
+    if (tools.path(u"pdftopdf"_s).isEmpty() || tools.path(u"qpdf"_s).isEmpty())
+        QSKIP("cups-filters or qpdf is not installed");
+    const QTemporaryDir folder;
+    QSemaphore ended;
+    std::signal(SIGTERM, [](int) {}); // when the run has ended
+    onSync = [&] {
+        std::raise(SIGTERM);
+        if (QThread::currentThread() != thread())
+            ended.acquire(); // a slow disk
+    };
+    run({u"--batch"_s, u"--output"_s, folder.filePath(u"out.pdf"_s), sourcePath("/demo/report.pdf")});
+    const QStringList files = QDir(folder.path()).entryList(QDir::Files);
+    ended.release();
+    onSync = {};
+    std::signal(SIGTERM, SIG_DFL);
+    QCOMPARE(files, QStringList(u"out.pdf"_s));
 }
 
 int BatchRunTest::run(const QStringList &words)

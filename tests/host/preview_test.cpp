@@ -438,8 +438,10 @@ PrintError PreviewTest::write(const PageTools &tools, const QStringList &paths, 
         return error;
     PdfWriter writer(tools);
     QSignalSpy ended(&writer, &PdfWriter::ended);
-    connect(&writer, &PdfWriter::ended, this, [&](const PrintError &told) { error = told; });
-    writer.write(documents.documents(), {{{u"number-up"_s, u"2"_s}}, {}}, target);
+    connect(&writer, &PdfWriter::ended, this, [&](const SharedFile &pdf, const PrintError &told) {
+        error = pdf ? replaceFile(target, pdf) : told;
+    });
+    writer.write(documents.documents(), {{{u"number-up"_s, u"2"_s}}, {}});
     if (ended.isEmpty() && !ended.wait(20'000))
         qFatal("nothing has been written");
     return error;

@@ -94,16 +94,19 @@ void PdfSaver::write(const QStringList &paths, const PageSettings &settings, con
             }
             m_writer = std::make_unique<PdfWriter>(PageTools::installed());
             connect(m_writer.get(), &PdfWriter::ended, this,
-                    [this, path](const PrintError &problem) { end(problem, path); });
-            m_writer->write(m_documents->opened()->documents(), settings, path);
+                    [this, path](const SharedFile &pdf, const PrintError &problem) {
+                        platform::startOnWorker(
+                            this, [path, pdf, problem] { return pdf ? replaceFile(path, pdf) : problem; },
+                            [this, path](const PrintError &outcome) { end(outcome, path); });
+                    });
+            m_writer->write(m_documents->opened()->documents(), settings);
         });
 }
 
 void PdfSaver::end(const PrintError &error, const QString &path)
 {
     m_isBusy = false;
-    if (m_writer)
-        m_writer.release()->deleteLater(); // the writer is the caller
+    m_writer.reset();
     m_wait->setActivity({});
     m_messages->tell(
         MessageQueue::Subject::File,
