@@ -288,7 +288,8 @@ QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString>
         if (owner == Owner::Job) {
             *it = canonicalJobValue(name, *it);
             problem = jobSettingProblem(name, *it);
-        } else if (owner == Owner::General && PageLayoutSettings::rangeOf(name)) {
+        } else if (owner == Owner::General &&
+                   (name == QLatin1String("copies") || PageLayoutSettings::rangeOf(name))) {
             problem = GeneralSettings().set(name, *it);
         }
         if (problem.isNull() || session.locks().choices().contains(name)) {

@@ -28,9 +28,10 @@ bool choose(DialogSession *session, const ChosenSetting &setting, PrintError *er
 // error becomes a notice.
 void chooseGeneral(DialogSession *session, const QString &name, const QString &value);
 
-// Changes stored options of a destination or a preset as choose() would: times, priorities and numbers of the
-// page layout that it refuses are removed, times and priorities are changed to their canonical spelling. An
-// option that the policy has fixed is kept. Returns a localised notice for each option that is removed.
+// Changes stored options of a destination or a preset as choose() would: times, priorities, copies and
+// numbers of the page layout that it refuses are removed, times and priorities are changed to their canonical
+// spelling. An option that the policy has fixed is kept. Returns a localised notice for each option that is
+// removed.
 QStringList leaveOutInvalid(const DialogSession &session, QMap<QString, QString> *options);
 
 // Whether choose() accepts this key, whatever the value.

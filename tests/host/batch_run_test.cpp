@@ -335,6 +335,7 @@ void BatchRunTest::defaultsOfTheUser_data()
     QTest::newRow("no pages") << u"page-ranges"_s << u"all"_s << u"page-ranges"_s << QString();
     QTest::newRow("no priority") << u"job-priority"_s << u"900"_s << u"job-priority"_s << QString();
     QTest::newRow("no time") << u"job-hold-until"_s << u"frob"_s << u"job-hold-until"_s << QString();
+    QTest::newRow("no number of copies") << u"copies"_s << u"10000"_s << u"copies"_s << u"1"_s;
     QTest::newRow("no scale") << u"natural-scaling"_s << u"900"_s << u"natural-scaling"_s << QString();
     QTest::newRow("backs of a booklet") << u"booklet"_s << u"true"_s << u"Duplex"_s << u"DuplexTumble"_s;
 }
