@@ -35,7 +35,6 @@ class ChangesTest : public PresetFixture
     Q_OBJECT
 private Q_SLOTS:
     void init();
-    void cleanup() { m_window.reset(); }
     void changesAreUndoneAndRedone();
     void resolutionIsOneStep();
     void fieldKeepsItsOwnUndo();
@@ -78,7 +77,7 @@ private:
 
 void ChangesTest::init()
 {
-    reset();
+    WindowFixture::init();
     m_folder = std::make_unique<QTemporaryDir>();
     qputenv("HOME", m_folder->path().toLocal8Bit());
     qputenv("CUPS_SERVERROOT", m_folder->path().toLocal8Bit());

@@ -43,8 +43,6 @@ class GeneralPageTest : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { reset(); }
-    void cleanup() { m_window.reset(); }
     void layoutIsSent_data();
     void layoutIsSent();
     void scaledDocumentIsSent();

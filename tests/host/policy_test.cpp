@@ -23,7 +23,6 @@ class PolicyTest : public PolicyFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { reset(); }
     void cleanup()
     {
         m_window.reset();

@@ -39,8 +39,6 @@ class PreviewPaneTest : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { reset(); }
-    void cleanup() { m_window.reset(); }
     void smallPagesAppear();
     void pagesAreLeftOut();
     void pageIsEnlarged();

@@ -54,10 +54,9 @@ class PrintRequestTest : public WindowFixture
 private Q_SLOTS:
     void init()
     {
-        reset();
+        WindowFixture::init();
         m_release = std::make_shared<QSemaphore>();
     }
-    void cleanup() { m_window.reset(); }
     void everyWayToPrintIsChecked_data();
     void everyWayToPrintIsChecked();
     void documentThatCannotBePrintedIsNotSent_data();
@@ -134,11 +133,7 @@ void PrintRequestTest::everyWayToPrintIsChecked()
     QFETCH(QString, range);
     PrintTask task;
     task.files = {m_document.fileName(), m_document.fileName()};
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
-    settle();
+    show(task, {}, false);
     if (anyway) {
         makeConflict();
         printButton()->click();
@@ -207,10 +202,8 @@ void PrintRequestTest::documentThatCannotBePrintedIsNotSent()
     }
     PrintTask task;
     task.files = {path};
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
+    show(task, {}, false);
     PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
     if (raw)
         QVERIFY(::host::choose(m_window->session(), {u"raw"_s, u"true"_s, ChosenSetting::Kind::JobOption},
                                &error));
@@ -239,10 +232,7 @@ void PrintRequestTest::nothingIsPrintedWhileAPdfIsSaved()
     QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
     PrintTask task;
     task.files = {pipe};
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
+    show(task, {}, false);
     makeConflict();
     printButton()->click();
     beginSaving(folder.filePath(u"saved.pdf"_s));

@@ -34,8 +34,6 @@ class PrintWindowTest : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { reset(); }
-    void cleanup() { m_window.reset(); }
     void printsWithTheGeneralPane();
     void documentOfAnotherProgramHasItsTitle();
     void nonsensicalPagesStopPrinting();
@@ -268,10 +266,7 @@ void PrintWindowTest::pipeThatBringsNothingIsLeft()
     QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
     PrintTask task;
     task.files = {pipe};
-    m_window = std::make_unique<PrintWindow>(m_system, m_none, task);
-    PrintError error;
-    QVERIFY(m_window->open(&error));
-    m_window->show();
+    show(task, {}, false);
     printButton()->click();
     auto *waiting = find<WaitingPage>();
     QTRY_COMPARE(waiting->text(), u"Reading the document…"_s);

@@ -10,7 +10,6 @@
 #include "tests/host/host_fixture.h"
 
 #include <QComboBox>
-#include <QFileInfo>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -22,12 +21,11 @@
 class WindowFixture : public QObject
 {
     Q_OBJECT
-protected:
-    void reset()
+protected Q_SLOTS:
+    void cleanup() { m_window.reset(); }
+    void init()
     {
         QCoreApplication::setOrganizationName(QStringLiteral("kelmar-test"));
-        // Each test program has a separate settings file, since several run at once.
-        QCoreApplication::setApplicationName(QFileInfo(QCoreApplication::applicationFilePath()).baseName());
         QSettings().clear();
         m_system = FakePrintSystem();
         host::Destination office = officePrinter();
@@ -43,6 +41,8 @@ protected:
             m_document.flush();
         }
     }
+
+protected:
     host::PrintWindow &show(const host::PrintTask &task, const QSize &room, bool finishes)
     {
         m_window = std::make_unique<host::PrintWindow>(m_system, m_none, task);

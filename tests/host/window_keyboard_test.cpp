@@ -69,8 +69,6 @@ class WindowKeyboardTest : public WindowFixture
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init() { reset(); }
-    void cleanup() { m_window.reset(); }
     void savingAPanelLeavesTheFocus();
     void returnPressesTheButtonWithTheFocus();
     void escapeClosesAnOpenListAlone();
