@@ -45,9 +45,4 @@ void UnavailablePage::setReason(const QString &reason)
     m_retry->setWhatsThis(explanationOf(QStringLiteral("try-again")));
 }
 
-QString UnavailablePage::reason() const
-{
-    return m_reason->text();
-}
-
 } // namespace host

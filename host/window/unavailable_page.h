@@ -17,7 +17,6 @@ class UnavailablePage : public QWidget
 public:
     explicit UnavailablePage(QWidget *parent = nullptr);
     void setReason(const QString &reason);
-    QString reason() const;
 
 Q_SIGNALS:
     void retryWanted();

@@ -8,7 +8,7 @@
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
-#include "host/window/printers/printer_picker.h"
+#include "host/window/printers/printer_box.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/waiting/waiting_page.h"
 #include "tests/host/window_fixture.h"
@@ -174,7 +174,7 @@ void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()
     Q_EMIT picker->picked(u"raw"_s);
     settle();
     QVERIFY(!m_window->session());
-    QVERIFY(find<UnavailablePage>()->reason().contains(u"“Duplex”"_s));
+    QVERIFY(find<UnavailablePage>()->accessibleName().contains(u"“Duplex”"_s));
     Q_EMIT picker->picked(u"attic"_s);
     QTRY_VERIFY(m_window->session());
     Q_EMIT picker->picked(u"raw"_s); // only has the standard name
@@ -212,7 +212,7 @@ void PrintWindowTest::opensWithoutServer()
     QVERIFY(!printButton()->isEnabled());
     auto *page = find<UnavailablePage>();
     QVERIFY(page->isVisible());
-    QCOMPARE(page->reason(), u"the server is away"_s);
+    QCOMPARE(page->accessibleName(), u"the server is away"_s);
     QTest::mouseClick(page->findChild<QPushButton *>(), Qt::LeftButton); // still unreachable
     settle();
     QVERIFY(page->isVisible());
@@ -221,7 +221,7 @@ void PrintWindowTest::opensWithoutServer()
     QTest::mouseClick(page->findChild<QPushButton *>(), Qt::LeftButton);
     settle();
     QVERIFY(window.session() && printButton()->isEnabled() && !page->isVisible());
-    QCOMPARE(find<PrinterPicker>()->box()->count(), 3);
+    QCOMPARE(find<PrinterBox>()->count(), 3);
 }
 
 void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
@@ -229,7 +229,7 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
     PrintWindow &window = open();
     find<QSpinBox>()->setValue(4);
     choose(u"PageSize"_s, u"A3"_s);
-    auto *picker = find<PrinterPicker>()->box();
+    auto *picker = find<PrinterBox>();
     QCOMPARE(picker->count(), 3);
     picker->setCurrentIndex(1);
     Q_EMIT picker->activated(1);
@@ -249,7 +249,7 @@ void PrintWindowTest::otherPrinterTakesTheGeneralChoicesAlong()
 void PrintWindowTest::printerThatIsPickedAgainStays()
 {
     PrintWindow &window = open();
-    auto *box = find<PrinterPicker>()->box();
+    auto *box = find<PrinterBox>();
     for (const int row : {1, 0}) {
         box->setCurrentIndex(row);
         Q_EMIT box->activated(row);

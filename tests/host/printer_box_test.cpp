@@ -155,13 +155,14 @@ void PrinterBoxTest::printerThatIsGoneLeaves()
 void PrinterBoxTest::printerOutlivesItsPreset()
 {
     PrinterPicker picker;
+    const auto *box = picker.findChild<QComboBox *>();
     Destination preset = officePrinter();
     preset.instance = QStringLiteral("draft");
     picker.setCurrent(preset);
     picker.setPrinters({officePrinter(), officePrinter(QStringLiteral("other"))});
     picker.putPrinter(preset); // a reply to an earlier request
-    QCOMPARE(picker.box()->count(), 2);
-    QCOMPARE(picker.box()->currentText(), officePrinter().displayName());
+    QCOMPARE(box->count(), 2);
+    QCOMPARE(box->currentText(), officePrinter().displayName());
 }
 
 void PrinterBoxTest::chosenPrinterIsShown_data()
@@ -194,17 +195,19 @@ void PrinterBoxTest::chosenPrinterIsShown()
 {
     QFETCH(QList<std::function<void(PrinterPicker *)>>, steps);
     PrinterPicker picker;
+    const auto *box = picker.findChild<QComboBox *>();
     for (const auto &step : steps)
         step(&picker);
-    QTEST(picker.box()->currentText(), "name");
+    QTEST(box->currentText(), "name");
     QFETCH(QString, detail);
-    const QString shown = picker.box()->currentData(PrinterList::DetailRole).toString();
+    const QString shown = box->currentData(PrinterList::DetailRole).toString();
     QVERIFY2(shown.startsWith(detail), qPrintable(shown));
 }
 
 void PrinterBoxTest::reportsAreShown()
 {
     PrinterPicker picker;
+    const auto *box = picker.findChild<QComboBox *>();
     Destination printer = officePrinter();
     printer.isStateKnown = true;
     printer.problem = QStringLiteral("The toner is running low.");
@@ -215,19 +218,19 @@ void PrinterBoxTest::reportsAreShown()
                       {{QStringLiteral("tray-1"), {}, QStringLiteral("A4"), 210, 297}, {}},
                       QDateTime(QDate(2026, 5, 4), QTime(13, 5))};
     picker.setCurrent(printer);
-    const QString said = picker.box()->accessibleDescription();
+    const QString said = box->accessibleDescription();
     QVERIFY2(said.startsWith(QStringLiteral("Ready · The toner is running low. · Black 7 %")),
              qPrintable(said));
     for (const char *line : {"Cyan 80 %", "Black 7 %", "Drum: level not known", "Upper tray 40 %",
                              "Tray 1: A4", "Reported by the printer at 13:05"})
-        QVERIFY2(picker.box()->toolTip().contains(QLatin1String(line)), qPrintable(picker.box()->toolTip()));
+        QVERIFY2(box->toolTip().contains(QLatin1String(line)), qPrintable(box->toolTip()));
     for (const char *part : {"Cyan 80 %", "Drum: level not known", "Upper tray 40 %", "Tray 1: A4"})
         QVERIFY2(said.contains(QLatin1String(part)), qPrintable(said));
     printer.report.time = printer.report.time.addSecs(60); // is no news for a screen reader
     picker.putPrinter(printer);
-    QCOMPARE(picker.box()->accessibleDescription(), said);
+    QCOMPARE(box->accessibleDescription(), said);
     picker.putPrinter(printer.withoutState());
-    QVERIFY(!picker.box()->toolTip().contains(QStringLiteral("Black")));
+    QVERIFY(!box->toolTip().contains(QStringLiteral("Black")));
 }
 
 void PrinterBoxTest::printersAreAddedInTheDesktopsSettings_data()

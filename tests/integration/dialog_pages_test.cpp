@@ -9,13 +9,13 @@
 #include "host/window/pages/page_frame.h"
 #include "host/window/pages/page_list.h"
 #include "host/window/print_window.h"
+#include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_picker.h"
 #include "tests/host/family_printer.h"
 #include "tests/support/paths.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QKeySequence>
 #include <QLabel>
@@ -278,7 +278,7 @@ int DialogPagesTest::partOf(const QWidget *widget) const
 
 QList<QWidget *> DialogPagesTest::walk()
 {
-    QWidget *first = m_window->findChild<PrinterPicker *>()->box();
+    QWidget *first = m_window->findChild<PrinterBox *>();
     first->setFocus();
     QList<QWidget *> stops;
     do {

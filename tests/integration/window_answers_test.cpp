@@ -5,6 +5,7 @@
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
 #include "host/window/pages/page_list.h"
+#include "host/window/printers/printer_box.h"
 #include "host/window/printers/printer_picker.h"
 #include "host/window/unavailable_page.h"
 #include "host/window/waiting/wait_sign.h"
@@ -172,7 +173,7 @@ void WindowAnswersTest::serverStopsAnswering()
     if (told.isEmpty()) // only the list is missing
         return;
     const auto text = [this] {
-        return m_window->findChild<MessageBar *>()->text() + find<UnavailablePage>()->reason() +
+        return m_window->findChild<MessageBar *>()->text() + find<UnavailablePage>()->accessibleName() +
                find<ResultPage>()->text();
     };
     // The result is delivered after the work has ended.
@@ -209,7 +210,7 @@ void WindowAnswersTest::settingsFileNeverAnswers()
 
     QVERIFY(::mkfifo(QFile::encodeName(path).constData(), 0600) == 0);
     open(u"office"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 20'000);
+    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterBox>()->count() > manyQueues, 20'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY(m_window->submission() && m_window->submission()->isAccepted());
     release();
@@ -222,7 +223,7 @@ void WindowAnswersTest::serverAnswersLate()
     open();
     QTRY_VERIFY_WITH_TIMEOUT(m_window->session(), 10'000);
     QCOMPARE(m_window->focusWidget(), m_window->book()->list());
-    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterPicker>()->box()->count() > manyQueues, 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(find<PrinterBox>()->count() > manyQueues, 10'000);
     QTest::mouseClick(button(u"Print"_s), Qt::LeftButton);
     QTRY_VERIFY_WITH_TIMEOUT(m_window->submission() && m_window->submission()->isAccepted(), 10'000);
     QTRY_VERIFY_WITH_TIMEOUT(find<ResultPage>()->text().contains(u"done"_s), 10'000);
@@ -353,7 +354,7 @@ void WindowAnswersTest::manyQueuesLoad()
 {
     open();
     QTRY_VERIFY(m_window->session());
-    QComboBox *box = find<PrinterPicker>()->box();
+    QComboBox *box = find<PrinterBox>();
     QTRY_VERIFY_WITH_TIMEOUT(box->count() > manyQueues, 20'000);
     clickUntil(
         box, [] { return QApplication::activePopupWidget() != nullptr; }, "printer list");

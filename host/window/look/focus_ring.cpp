@@ -95,20 +95,14 @@ FocusRing::~FocusRing()
     delete m_frame;
 }
 
-QWidget *FocusRing::target() const
-{
-    return m_frame && m_frame->isVisible() ? m_target : nullptr;
-}
-
 void FocusRing::follow(QWidget *, QWidget *now)
 {
     const bool ours = now && now != m_window && now->window() == m_window;
     if (!ours && now && now->window() != m_window && now->windowType() == Qt::Popup)
         return;
     delete m_frame;
-    m_target = ours && !marksItself(now) ? now : nullptr;
-    if (m_target)
-        m_frame = new Frame(m_target);
+    if (ours && !marksItself(now))
+        m_frame = new Frame(now);
 }
 
 } // namespace host

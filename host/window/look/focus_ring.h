@@ -19,14 +19,10 @@ public:
     explicit FocusRing(QWidget *window);
     ~FocusRing() override;
 
-    // The control that is framed; null if there is none.
-    QWidget *target() const;
-
 private:
     void follow(QWidget *old, QWidget *now);
 
     QWidget *m_window;
-    QPointer<QWidget> m_target;
     QPointer<QFocusFrame> m_frame; // destroyed with the page that it is on
 };
 

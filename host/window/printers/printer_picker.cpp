@@ -142,11 +142,6 @@ void PrinterPicker::addBeside(QWidget *widget)
     static_cast<QGridLayout *>(layout())->addWidget(widget, 0, 3, Qt::AlignVCenter);
 }
 
-QComboBox *PrinterPicker::box() const
-{
-    return m_box;
-}
-
 void PrinterPicker::putPrinter(const Destination &news)
 {
     if (m_isFixed)

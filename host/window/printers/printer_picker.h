@@ -11,8 +11,6 @@
 
 #include <optional>
 
-class QComboBox;
-
 namespace host {
 
 class PrinterBox;
@@ -47,7 +45,6 @@ public:
     void setAwaited(const QString &name);
     // No printer can be selected from now on, as for a PPD without a queue; shows `text` instead.
     void setFixedText(const QString &text);
-    QComboBox *box() const;
     // Offers to add a printer, if the desktop has settings for printers. Call when the window is visible.
     void offerToAdd();
     // Adds a widget at the end of the state line.
