@@ -17,7 +17,6 @@
 #include <netinet/in.h>
 
 #include <array>
-#include <cerrno>
 #include <limits>
 #include <optional>
 #include <vector>

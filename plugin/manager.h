@@ -6,7 +6,6 @@
 #include "platform/notification_center.h"
 #include "platform/printing_manager.h"
 
-#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVariant>

@@ -85,11 +85,6 @@ QVariantMap QVPPDChoice_M880::toMap() const
     return {{QVPPDChoiceKey, choice}, {QVPPDTextKey, text}};
 }
 
-QVPPDChoice_M880 QVPPDChoice_M880::fromMap(const QVariantMap &map)
-{
-    return {map.value(QVPPDChoiceKey).toString(), map.value(QVPPDTextKey).toString()};
-}
-
 std::shared_ptr<QVPPD_M880> QVPPD_M880::ppdWithHost(platform::PrintDialogHost *host)
 {
     std::shared_ptr<QVPPD_M880> ppd(new QVPPD_M880);

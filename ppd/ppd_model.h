@@ -35,7 +35,6 @@ struct QVPPDChoice_M880
 
     // The choice dictionary, with exactly the keys QVPPDChoiceKey and QVPPDTextKey.
     QVariantMap toMap() const;
-    static QVPPDChoice_M880 fromMap(const QVariantMap &map);
     bool operator==(const QVPPDChoice_M880 &) const = default;
 };
 

@@ -4,8 +4,6 @@
 // Writes the benchmarks' large PPD to standard output. Usage: large_ppd_file CONSTRAINTS
 #include "bench/large_ppd.h"
 
-#include <cstdio>
-
 int main(int argc, char **argv)
 {
     const QByteArray file = largePpdFile(argc > 1 ? QByteArray(argv[1]).toInt() : largePpdConstraints);

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QLocale>
 
-#include <algorithm>
 #include <exception>
 #include <iterator>
 #include <optional>

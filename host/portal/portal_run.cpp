@@ -20,7 +20,6 @@
 #include "host/window/waiting/login_dialog.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QJsonArray>
 #include <QMessageBox>
 #include <QTimer>

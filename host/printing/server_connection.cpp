@@ -7,7 +7,6 @@
 #include <QIODevice>
 
 #include <algorithm>
-#include <cerrno>
 #include <utility>
 
 #include <sys/socket.h>

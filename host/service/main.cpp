@@ -11,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
 #include <link.h>
 #include <span>
 #include <sys/mman.h>

@@ -13,7 +13,6 @@
 #include "tests/support/udp_responder.h"
 
 #include <QSignalSpy>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;

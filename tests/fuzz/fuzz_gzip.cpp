@@ -4,7 +4,6 @@
 // A file that may be compressed, read in pieces to its end, twice.
 
 #include "host/printing/gzip_file.h"
-#include "platform/unique_fd.h"
 #include "tests/fuzz/fuzz_support.h"
 
 #include <algorithm>

@@ -13,7 +13,6 @@
 
 #include <dlfcn.h>
 
-#include <algorithm>
 #include <array>
 
 namespace {

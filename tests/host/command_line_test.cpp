@@ -3,7 +3,6 @@
 
 #include "tests/support/hostile_program.h"
 #include "tests/support/paths.h"
-#include "tests/support/test_bundle.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -7,7 +7,6 @@
 
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDir>
 #include <QElapsedTimer>

@@ -10,7 +10,6 @@
 #include "tests/integration/batch_call.h"
 #include "tests/support/paths.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QLineEdit>
 #include <QPushButton>

@@ -7,7 +7,6 @@
 #include "tests/panelkit/sample_panel.h"
 #include "tests/support/test_bundle.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

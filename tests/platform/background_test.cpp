@@ -6,7 +6,6 @@
 #include "tests/support/loop_waiter.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>

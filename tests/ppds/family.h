@@ -5,7 +5,6 @@
 
 #include "tests/support/paths.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <cups/ppd.h>

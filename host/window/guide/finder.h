@@ -9,8 +9,6 @@
 
 #include <optional>
 
-class QVBoxLayout;
-
 namespace host {
 
 class PageBook;

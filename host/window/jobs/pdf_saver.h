@@ -13,7 +13,6 @@ namespace host {
 
 class DialogSession;
 class DocumentChoice;
-class DocumentList;
 class MessageQueue;
 class PanelWait;
 

@@ -7,7 +7,6 @@
 
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOption>
 
 namespace host {
 

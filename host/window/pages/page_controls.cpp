@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
-#include <QTimer>
 #include <QVariantAnimation>
 
 #include <chrono>
