@@ -63,8 +63,7 @@ FirstPaint::FirstPaint(QWidget *window) : QObject(window)
 
 bool FirstPaint::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Paint && !m_seen) {
-        m_seen = true;
+    if (event->type() == QEvent::Paint) {
         watched->removeEventFilter(this);
         // The window is painted after this filter has returned, and flushed before the queued call.
         QMetaObject::invokeMethod(this, &FirstPaint::done, Qt::QueuedConnection);

@@ -23,9 +23,6 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    bool m_seen = false;
 };
 
 // Emits done() when nothing has been painted for a short time, so that animations have ended. Then deletes
