@@ -23,10 +23,6 @@ struct JobSettingText
     Q_DECLARE_TR_FUNCTIONS(JobSettingText)
 };
 
-const QString holdName = QStringLiteral("job-hold-until");
-const QString priorityName = QStringLiteral("job-priority");
-const QString sheetsName = QStringLiteral("job-sheets");
-const QString billingName = QStringLiteral("job-billing");
 const QString noSheet = QStringLiteral("none");
 constexpr int maxPriority = 100;
 

@@ -25,7 +25,6 @@ struct SettingText
 };
 
 constexpr qsizetype maxAccount = 255; // bytes; the limit of names in the print protocol
-const QString sheetsName = QStringLiteral("job-sheets");
 const QString handlingName = QStringLiteral("multiple-document-handling");
 
 bool refuse(PrintError *error, const QString &message)

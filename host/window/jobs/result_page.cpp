@@ -189,9 +189,8 @@ QString ResultPage::sentence(const JobStatus &status) const
                                     .arg(status.printedPages);
     const bool isHeld = status.state == JobStatus::State::Held;
     if (isHeld && !status.heldUntil.isEmpty())
-        sentence +=
-            QLatin1Char('\n') + tr("Print: %1", "a time of day, or words such as: at night")
-                                    .arg(jobValueText(QStringLiteral("job-hold-until"), status.heldUntil));
+        sentence += QLatin1Char('\n') + tr("Print: %1", "a time of day, or words such as: at night")
+                                            .arg(jobValueText(holdName, status.heldUntil));
     else if (isHeld && !status.isHeldByUser)
         sentence +=
             QLatin1Char('\n') +

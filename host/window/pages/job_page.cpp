@@ -21,10 +21,6 @@ namespace {
 
 constexpr int longestBilling = 255; // bytes; the limit of names in the print protocol
 
-const QString holdName = QStringLiteral("job-hold-until");
-const QString priorityName = QStringLiteral("job-priority");
-const QString sheetsName = QStringLiteral("job-sheets");
-const QString billingName = QStringLiteral("job-billing");
 const QString atATime = QStringLiteral("time"); // the entry for a time of day
 
 } // namespace
