@@ -37,8 +37,6 @@ private Q_SLOTS:
     void printsWithTheGeneralPane();
     void documentOfAnotherProgramHasItsTitle();
     void nonsensicalPagesStopPrinting();
-    void conflictIsExplainedAndResolved();
-    void noticesOutliveAQuestion();
     void settingsOfTheTaskReachThePickedPrinter();
     void forbiddenChoiceIsGreyed();
     void opensWithoutServer();
@@ -107,52 +105,6 @@ void PrintWindowTest::nonsensicalPagesStopPrinting()
     settle();
     QVERIFY(m_system.submitted.isEmpty());
     QVERIFY(window.findChild<QLineEdit *>(u"page-ranges"_s)->hasFocus());
-}
-
-void PrintWindowTest::conflictIsExplainedAndResolved()
-{
-    PrintWindow &window = open();
-    // The list greys this pair out; a preset or a command line may still set it.
-    window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
-    window.session()->markChoice(u"Cyan"_s, u"2"_s);
-    printButton()->click();
-    settle();
-    QVERIFY(m_system.submitted.isEmpty());
-    const QString text = window.findChild<MessageBar *>()->text();
-    QVERIFY2(text.contains(u"Colour Mode: Black and White"_s) && text.contains(u"Cyan Balance: Plus 2"_s) &&
-                 text.contains(u"Suggestion: Colour Mode: Automatic"_s),
-             qPrintable(text));
-    QCOMPARE(window.findChild<MessageBar *>()->buttons().size(), 3);
-    window.findChild<MessageBar *>()->buttons().last()->click(); // keep and review
-    QCOMPARE(window.session()->conflicts().size(), 1);
-    printButton()->click();
-    settle();
-    window.findChild<MessageBar *>()->buttons().first()->click(); // apply
-    QVERIFY(window.session()->conflicts().isEmpty());
-    QVERIFY(!window.findChild<MessageBar *>()->isShowing());
-    printButton()->click();
-    settle();
-    QCOMPARE(sentValue(m_system.submitted.value(0).options, u"Cyan"_s), u"2"_s);
-}
-
-void PrintWindowTest::noticesOutliveAQuestion()
-{
-    PrintWindow &window = open();
-    window.session()->markChoice(u"ColorType"_s, u"Mono"_s);
-    window.session()->markChoice(u"Cyan"_s, u"2"_s);
-    window.session()->addNotice(u"first"_s);
-    printButton()->click();
-    settle();
-    window.session()->addNotice(u"second"_s);
-    printButton()->click();
-    settle();
-    MessageBar *bar = window.findChild<MessageBar *>();
-    QCOMPARE(bar->kind(), MessageBar::Kind::Question);
-    bar->buttons().last()->click(); // keep and review
-    QCOMPARE(bar->kind(), MessageBar::Kind::Notice);
-    QVERIFY2(bar->text().endsWith(u"first\nsecond"_s), qPrintable(bar->text()));
-    bar->buttons().first()->click();
-    QVERIFY(!bar->isShowing());
 }
 
 void PrintWindowTest::settingsOfTheTaskReachThePickedPrinter()

@@ -22,15 +22,36 @@ namespace {
 constexpr int iconSize = 20; // pixels
 constexpr int buttonGap = 8; // pixels
 
-QLabel *plainLabel(QWidget *parent)
+// A plain text that can be selected. Its height for a width is kept, since Qt lays out such a text again for
+// every measurement. For the same reason, the preferred width is the current one.
+class SelectableLabel : public QLabel
 {
-    auto *label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setFocusPolicy(Qt::NoFocus);
-    return label;
-}
+public:
+    SelectableLabel()
+    {
+        setTextFormat(Qt::PlainText);
+        setWordWrap(true);
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        setFocusPolicy(Qt::NoFocus);
+    }
+    QSize sizeHint() const override { return {width(), fontMetrics().height()}; }
+    QSize minimumSizeHint() const override { return {0, fontMetrics().height()}; }
+    int heightForWidth(int width) const override
+    {
+        if (width != m_width || text() != m_text || font() != m_font) {
+            m_width = width;
+            m_text = text();
+            m_font = font();
+            m_height = QLabel::heightForWidth(width);
+        }
+        return m_height;
+    }
+
+private:
+    mutable int m_width = -1, m_height = 0; // pixels, of m_text in m_font
+    mutable QString m_text;
+    mutable QFont m_font;
+};
 
 } // namespace
 
@@ -45,8 +66,8 @@ void MessageBar::build()
 {
     m_glyph = new StatusGlyph(iconSize, this);
     m_scroll = new QScrollArea(this);
-    m_title = plainLabel(nullptr);
-    m_lines = plainLabel(nullptr);
+    m_title = new SelectableLabel;
+    m_lines = new SelectableLabel;
     m_row = new QBoxLayout(QBoxLayout::TopToBottom);
     m_buttonRows = new QVBoxLayout;
     QFont bold = m_title->font();
@@ -110,9 +131,9 @@ void MessageBar::showMessage(const Message &message)
     if (message.answers.isEmpty())
         addButton(tr("C&lose"), -1);
     announce(m_sheet, text());
-    show();
     fitButtons();
     fitTexts();
+    show();
     update();
     Q_EMIT buttonsChanged();
     if (!hadFocus)
@@ -186,16 +207,21 @@ void MessageBar::clearRows()
     }
 }
 
+// The width for texts and buttons.
+int MessageBar::room() const
+{
+    const QMargins margins = layout()->contentsMargins();
+    return width() - margins.left() - margins.right() - iconSize - layout()->spacing();
+}
+
 // Places as many buttons side by side as fit, since in a low window each row reduces the page.
 void MessageBar::fitButtons()
 {
-    const QMargins margins = layout()->contentsMargins();
-    const int room = width() - margins.left() - margins.right() - iconSize - layout()->spacing();
     QList<int> sizes;
     int used = 0;
     for (const QPushButton *button : std::as_const(m_buttons)) {
         const int wanted = button->sizeHint().width() + buttonGap;
-        if (sizes.isEmpty() || used + wanted - buttonGap > room) {
+        if (sizes.isEmpty() || used + wanted - buttonGap > room()) {
             sizes.append(0);
             used = 0;
         }
@@ -221,14 +247,19 @@ void MessageBar::fitButtons()
 
 void MessageBar::fitTexts()
 {
-    const int width = m_scroll->viewport()->width();
+    // Buttons next to the texts are not laid out before the bar is shown.
+    const bool isNext = m_row->direction() == QBoxLayout::LeftToRight && !m_buttons.isEmpty();
+    const int button = isNext ? m_buttons.first()->sizeHint().width() + m_row->spacing() : 0;
+    const int width = qMax(m_scroll->minimumWidth(), room() - button);
     const int wanted = m_scroll->widget()->layout()->totalHeightForWidth(width);
     const int line = m_title->fontMetrics().height();
     // complete lines
     const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing();
     m_scroll->setFixedHeight(qBound(line, wanted, most));
-    // Scrolling texts can also be reached with the keyboard.
+    // Scrolling texts can also be reached with the keyboard. Other texts are not measured next to a scroll
+    // bar.
     m_scroll->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
+    m_scroll->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
 void MessageBar::resizeEvent(QResizeEvent *event)

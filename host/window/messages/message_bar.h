@@ -66,6 +66,7 @@ private:
     void addButton(const QString &text, int index);
     void removeButtons();
     void clearRows();
+    int room() const;
     void fitButtons();
     void fitTexts();
     void noteFocus(QWidget *old, QWidget *now);
