@@ -13,23 +13,6 @@
 
 namespace constraints {
 
-namespace {
-
-// The lines in libcups's list, which leaves out a pair that is followed by the same pair in reverse order.
-std::vector<Line> linesInLibcups(const Engine &engine)
-{
-    std::vector<Line> lines;
-    for (Line line = 0; line < engine.lineCount(); ++line) {
-        const auto terms = engine.terms(line);
-        const auto next = line + 1 < engine.lineCount() ? engine.terms(line + 1) : std::span<const Choice>();
-        if (!std::equal(terms.rbegin(), terms.rend(), next.begin(), next.end()))
-            lines.push_back(line);
-    }
-    return lines;
-}
-
-} // namespace
-
 void PpdEvaluation::Free::operator()(_cups_array_s *array) const
 {
     cupsArrayDelete(array);
@@ -46,15 +29,17 @@ PpdEvaluation::PpdEvaluation(ppd_file_s *ppd)
 PpdEvaluation::PpdEvaluation(ppd_file_s *ppd, const PpdRules &rules)
     : m_ppd(ppd), m_all(ppd->cups_uiconstraints)
 {
-    const std::vector<Line> lines = linesInLibcups(rules.engine());
-    if (int(lines.size()) != cupsArrayCount(m_all) || ppdFindAttr(ppd, "cupsUIConstraints", nullptr))
+    const std::vector<Line> &leftOut = rules.linesNotInLibcups();
+    if (int(rules.engine().lineCount() - leftOut.size()) != cupsArrayCount(m_all) ||
+        ppdFindAttr(ppd, "cupsUIConstraints", nullptr))
         return;
     m_limited.reset(cupsArrayNew(nullptr, nullptr));
-    const std::vector<bool> isNear = rules.linesNearConflicts();
-    void *entry = cupsArrayFirst(m_all);
-    for (auto line = lines.begin(); entry && line != lines.end(); ++line, entry = cupsArrayNext(m_all)) {
-        if (isNear[*line])
-            cupsArrayAdd(m_limited.get(), entry);
+    for (const Line line : rules.linesNearConflicts()) {
+        const auto next = std::ranges::lower_bound(leftOut, line);
+        if (next != leftOut.end() && *next == line)
+            continue;
+        const auto position = int(line) - int(next - leftOut.begin());
+        cupsArrayAdd(m_limited.get(), cupsArrayIndex(m_all, position));
     }
     ppd->cups_uiconstraints = m_limited.get();
 }

@@ -109,11 +109,25 @@ void PpdRules::setMarks(Option option, std::span<const Mark> marks)
     m_state.touch(option);
 }
 
+const std::vector<Line> &PpdRules::linesNotInLibcups() const
+{
+    if (m_notInLibcups)
+        return *m_notInLibcups;
+    m_notInLibcups.emplace();
+    for (Line next = 1; next < m_engine.lineCount(); ++next) {
+        const auto terms = m_engine.terms(next - 1), nextTerms = m_engine.terms(next);
+        if (std::equal(terms.rbegin(), terms.rend(), nextTerms.begin(), nextTerms.end()))
+            m_notInLibcups->push_back(next - 1);
+    }
+    return *m_notInLibcups;
+}
+
 // Starts with the violated lines, and adds each line that changes to options of these lines can violate.
 // Every line that is left out has a term of another option that does not hold, so no such change violates it.
-std::vector<bool> PpdRules::linesNearConflicts() const
+std::vector<Line> PpdRules::linesNearConflicts() const
 {
     std::vector<bool> isNamed(m_engine.optionCount()), isNear(m_engine.lineCount());
+    std::vector<Line> near;
     std::vector<Option> toVisit;
     const auto name = [&](Option option) {
         if (option == none || isNamed[option])
@@ -123,6 +137,7 @@ std::vector<bool> PpdRules::linesNearConflicts() const
     };
     const auto add = [&](Line line) {
         isNear[line] = true;
+        near.push_back(line);
         for (const Choice term : m_engine.terms(line))
             name(m_engine.optionOf(term));
     };
@@ -143,7 +158,8 @@ std::vector<bool> PpdRules::linesNearConflicts() const
             }
         }
     }
-    return isNear;
+    std::ranges::sort(near);
+    return near;
 }
 
 std::vector<PpdRules::Forbidden> PpdRules::forbiddenChoices(std::string_view option) const

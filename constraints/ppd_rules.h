@@ -7,6 +7,7 @@
 #include "constraints/engine.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -41,8 +42,11 @@ public:
     const Engine &engine() const { return m_engine; }
     // The violated lines, as ppdConflicts() counts them.
     std::vector<Line> brokenLines() const { return m_state.activeLines(); }
-    // By line: whether it is violated, or could be while the violated ones are resolved.
-    std::vector<bool> linesNearConflicts() const;
+    // The lines that libcups's list leaves out, in ascending order: pairs that are followed by the same pair
+    // in reverse order. Determined by the first call.
+    const std::vector<Line> &linesNotInLibcups() const;
+    // The violated lines and those that could be while these are resolved, in ascending order.
+    std::vector<Line> linesNearConflicts() const;
     // The choices of an option that are forbidden together with the marks of other options, in the order of
     // the PPD.
     std::vector<Forbidden> forbiddenChoices(std::string_view option) const;
@@ -64,6 +68,7 @@ private:
     std::vector<const ppd_choice_s *> m_marked;
     std::vector<Mark> m_marks; // by option
     const ppd_size_s *m_size = nullptr;
+    mutable std::optional<std::vector<Line>> m_notInLibcups;
 };
 
 } // namespace constraints
