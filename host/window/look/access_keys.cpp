@@ -3,8 +3,6 @@
 
 #include "host/window/look/access_keys.h"
 
-#include "host/window/look/mnemonics.h"
-
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEvent>
@@ -107,6 +105,7 @@ void AccessKeys::assign()
 {
     m_queued = false;
     QHash<QWidget *, Texts> texts;
+    texts.reserve(m_texts.size());
     QList<QWidget *> usable, yielding, withOtherKey, unusable, passing;
     for (QWidget *part : std::as_const(m_parts)) {
         for (QWidget *widget : keyedWidgets(part)) {
@@ -130,13 +129,21 @@ void AccessKeys::assign()
         }
     }
     Mnemonics keys;
+    bool isKnown = true; // so far the texts are those of the last call, as usual when a message appears
+    auto group = m_groups.begin();
     for (const QList<QWidget *> &widgets : {usable + yielding, withOtherKey, unusable, passing}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);
-        const QStringList shown = keys.assign(own);
-        for (qsizetype i = 0; i < shown.size(); ++i)
-            texts[widgets.at(i)].shown = shown.at(i);
+        isKnown = isKnown && own == group->own;
+        if (!isKnown) {
+            const QStringList shown = keys.assign(own);
+            *group = {own, shown, keys};
+        }
+        keys = group->keys;
+        for (qsizetype i = 0; i < widgets.size(); ++i)
+            texts[widgets.at(i)].shown = group->shown.at(i);
+        ++group;
     }
     bool isWider = false;
     for (auto it = texts.begin(); it != texts.end(); ++it) {

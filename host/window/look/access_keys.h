@@ -3,11 +3,16 @@
 
 #pragma once
 
+#include "host/window/look/mnemonics.h"
+
 #include <QFont>
 #include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+
+#include <array>
 
 class QWidget;
 
@@ -52,6 +57,12 @@ private:
         QFont font;
         bool isReserved = false; // this class has set the minimum width
     };
+    // Texts that get their keys together, after the previous group.
+    struct Group
+    {
+        QStringList own, shown;
+        Mnemonics keys; // those that are assigned, including those of the previous groups
+    };
     void assignLater();
     QString ownText(QWidget *widget) const;
     static bool reserveWidth(QWidget *widget, Texts *texts);
@@ -59,6 +70,7 @@ private:
     QWidget *m_window;
     QList<QWidget *> m_parts;
     QHash<QWidget *, Texts> m_texts; // of the widgets found last
+    std::array<Group, 4> m_groups;
     bool m_queued = false;
 };
 
