@@ -98,6 +98,8 @@ PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content
     content->setAutoFillBackground(false);
     content->show();
     sheet->installEventFilter(this);
+    for (QWidget *part : QList<QWidget *>{this, m_scroll, m_scroll->viewport()}) // as in PageBook
+        part->setAttribute(Qt::WA_StaticContents);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

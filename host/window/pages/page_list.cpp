@@ -95,6 +95,9 @@ PageList::PageList(QWidget *parent) : QuietList(parent)
     setUniformItemSizes(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setAccessibleName(tr("Pages of the dialog"));
+    // The rows depend on the width, which changes only with the window or the names.
+    setAttribute(Qt::WA_StaticContents);
+    viewport()->setAttribute(Qt::WA_StaticContents);
     takePalette();
 }
 
