@@ -157,7 +157,8 @@ void WindowLayout::setCompact(bool compact)
     m_footer->setContentsMargins(footerSide, compact ? 6 : 12, footerSide, compact ? 8 : 14);
     m_footer->setSpacing(compact ? 6 : 10);
     const int side = compact ? 10 : 16;
-    m_barRow->setContentsMargins(side, m_parts.bar->isShowing() ? (compact ? 4 : 10) : 0, side, 0);
+    m_barRow->setContentsMargins(side, 0, side, 0);
+    m_parts.bar->setContentsMargins(0, compact ? 4 : 10, 0, 0); // takes no space while the bar is hidden
 }
 
 } // namespace host

@@ -279,7 +279,7 @@ void MessageBar::paintEvent(QPaintEvent *)
     const QColor ground = palette().color(QPalette::Window);
     painter.setPen(mixed(ground, accent, 0.55F));
     painter.setBrush(mixed(ground, accent, 0.14F));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+    painter.drawRoundedRect(QRectF(contentsRect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 }
 
 } // namespace host

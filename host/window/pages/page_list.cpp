@@ -105,6 +105,7 @@ void PageList::addPage(const QString &title)
 {
     addItem(title);
     item(count() - 1)->setToolTip(title);
+    m_width = 0;
     updateGeometry();
 }
 
@@ -120,12 +121,15 @@ void PageList::setChanged(int row, bool changed)
 
 QSize PageList::sizeHint() const
 {
-    return {qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin + 4), 240};
+    if (m_width == 0)
+        m_width = qMax(narrowest, sizeHintForColumn(0) + 2 * sideMargin + 4);
+    return {m_width, 240};
 }
 
 void PageList::changeEvent(QEvent *event)
 {
     QListWidget::changeEvent(event);
+    m_width = 0;
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::ApplicationPaletteChange)
         takePalette();
 }

@@ -27,6 +27,8 @@ protected:
 
 private:
     void takePalette();
+
+    mutable int m_width = 0; // in pixels, for the longest name in this font; 0 until it is asked for
 };
 
 } // namespace host
