@@ -59,30 +59,6 @@ void onChange(QWidget *widget, SessionHistory *history)
         QObject::connect(slider, &QAbstractSlider::valueChanged, history, note);
 }
 
-// Widgets on a page that a mark must not cover.
-QList<QWidget *> obstaclesOn(const QWidget *sheet)
-{
-    QList<QWidget *> obstacles;
-    for (QWidget *widget : sheet->findChildren<QWidget *>()) {
-        const bool holdsOthers =
-            !widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
-        if (widget->isVisibleTo(sheet) && !qobject_cast<const ChangeMark *>(widget) &&
-            (isControl(widget) || !holdsOthers))
-            obstacles.append(widget);
-    }
-    return obstacles;
-}
-
-bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
-            const QList<QWidget *> &obstacles)
-{
-    return sheet->rect().contains(place) &&
-           std::none_of(obstacles.begin(), obstacles.end(), [&](const QWidget *other) {
-               return other != control && !control->isAncestorOf(other) &&
-                      QRect(other->mapTo(sheet, QPoint()), other->size()).intersects(place);
-           });
-}
-
 } // namespace
 
 ChangeMarks::ChangeMarks(QWidget *page, int panel, DialogSession *session, SessionHistory *history)
@@ -210,10 +186,40 @@ void ChangeMarks::describe(Control *control, const QString &change)
     control->widget->setAccessibleDescription(control->description);
 }
 
+// A widget on a page that a mark must not cover.
+struct ChangeMarks::Obstacle
+{
+    const QWidget *widget;
+    QRect place; // on the page
+};
+
+QList<ChangeMarks::Obstacle> ChangeMarks::obstaclesOn(const QWidget *sheet)
+{
+    QList<Obstacle> obstacles;
+    for (QWidget *widget : sheet->findChildren<QWidget *>()) {
+        const bool holdsOthers =
+            !widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
+        if (widget->isVisibleTo(sheet) && !qobject_cast<const ChangeMark *>(widget) &&
+            (isControl(widget) || !holdsOthers))
+            obstacles.append({widget, QRect(widget->mapTo(sheet, QPoint()), widget->size())});
+    }
+    return obstacles;
+}
+
+bool ChangeMarks::isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
+                         const QList<Obstacle> &obstacles)
+{
+    return sheet->rect().contains(place) &&
+           std::none_of(obstacles.begin(), obstacles.end(), [&](const Obstacle &other) {
+               return other.place.intersects(place) && other.widget != control &&
+                      !control->isAncestorOf(other.widget);
+           });
+}
+
 void ChangeMarks::placeAll()
 {
     m_isPlaceQueued = false;
-    QList<QWidget *> obstacles;
+    QList<Obstacle> obstacles;
     for (const Control &control : std::as_const(m_controls)) {
         if (!control.mark || !control.widget)
             continue;
@@ -225,7 +231,7 @@ void ChangeMarks::placeAll()
 
 // Places a mark after its control, or before it if another widget is there. If neither place is free, moves
 // it along the line to the next free one.
-void ChangeMarks::place(const Control &control, const QList<QWidget *> &obstacles)
+void ChangeMarks::place(const Control &control, const QList<Obstacle> &obstacles)
 {
     QWidget *sheet = m_page->parentWidget();
     ChangeMark *mark = control.mark;

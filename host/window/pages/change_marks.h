@@ -49,6 +49,7 @@ private:
         QString ownDescription;    // for a screen reader, without the change
         QString description;       // the description that was set
     };
+    struct Obstacle;
     void findControls();
     QStringList keysSetBy(const QWidget *control) const;
     void add(QWidget *widget, const QStringList &keys);
@@ -56,7 +57,10 @@ private:
     void describe(Control *control, const QString &change);
     void show(Control *control, bool isChanged, const QList<SettingChange> &changes);
     void placeAll();
-    void place(const Control &control, const QList<QWidget *> &obstacles);
+    static QList<Obstacle> obstaclesOn(const QWidget *sheet);
+    static bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
+                       const QList<Obstacle> &obstacles);
+    void place(const Control &control, const QList<Obstacle> &obstacles);
     void takeBack(const Control &control);
     bool showMenu(const Control &control, QWidget *widget, const QPoint &place);
 
