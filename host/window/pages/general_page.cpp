@@ -56,7 +56,8 @@ GeneralPage::GeneralPage(DialogSession *session, DocumentChoice *documents, QWid
     addPages(grid);
     if (session->ppd()) {
         grid->setRowMinimumHeight(grid->rowCount(), 8);
-        m_form = new OptionForm(session, generalOptionKeywords(*session->ppd()), grid, this);
+        m_form = new OptionForm(session, grid, this);
+        m_form->add(generalOptionKeywords(*session->ppd()));
         connect(m_form, &OptionForm::chosen, this, &GeneralPage::chosen);
     }
     grid->setRowStretch(grid->rowCount(), 1);

@@ -27,8 +27,10 @@ constexpr int titleWidth = 440;      // pixels
 } // namespace
 
 MorePage::MorePage(DialogSession *session, QWidget *parent)
-    : HostPage(parent), m_session(session), m_grid(contentGrid(this)), m_toBuild(partsOf(*session))
+    : HostPage(parent), m_session(session), m_grid(contentGrid(this)), m_toBuild(partsOf(*session)),
+      m_form(new OptionForm(session, m_grid, this))
 {
+    connect(m_form, &OptionForm::chosen, this, &MorePage::chosen);
     setWhatsThis(explanationOf(QStringLiteral("more")));
     while (!m_toBuild.isEmpty() && m_grid->rowCount() < rowsAtOnce)
         buildNext();
@@ -62,13 +64,11 @@ void MorePage::build(const Part &part)
         bold.setBold(true);
         title->setFont(bold);
         title->setText(elided(part.title, title, titleWidth));
-        if (!m_forms.isEmpty())
+        if (m_grid->rowCount() > 1)
             title->setContentsMargins(0, 12, 0, 0);
         m_grid->addWidget(title, m_grid->rowCount(), 0, 1, 3);
     }
-    auto *form = new OptionForm(m_session, part.keywords, m_grid, this);
-    connect(form, &OptionForm::chosen, this, &MorePage::chosen);
-    m_forms.append(form);
+    m_form->add(part.keywords);
 }
 
 void MorePage::buildNext()
@@ -90,27 +90,17 @@ void MorePage::paintEvent(QPaintEvent *event)
 
 QString MorePage::problem() const
 {
-    for (const OptionForm *form : m_forms) {
-        if (const QString problem = form->problem(); !problem.isEmpty())
-            return problem;
-    }
-    return {};
+    return m_form->problem();
 }
 
 void MorePage::showProblem()
 {
-    for (OptionForm *form : std::as_const(m_forms)) {
-        if (!form->problem().isEmpty()) {
-            form->showProblem();
-            return;
-        }
-    }
+    m_form->showProblem();
 }
 
 void MorePage::refresh()
 {
-    for (OptionForm *form : m_forms)
-        form->refresh();
+    m_form->refresh();
 }
 
 } // namespace host

@@ -47,7 +47,7 @@ private:
     DialogSession *m_session;
     QGridLayout *m_grid;
     QList<Part> m_toBuild;
-    QList<OptionForm *> m_forms;
+    OptionForm *m_form;
     bool m_painted = false;
 };
 

@@ -30,16 +30,20 @@ const QString customItem = QStringLiteral("Custom");
 
 } // namespace
 
-OptionForm::OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid,
-                       QObject *parent)
-    : QObject(parent), m_session(session)
+OptionForm::OptionForm(DialogSession *session, QGridLayout *grid, QObject *parent)
+    : QObject(parent), m_session(session), m_grid(grid)
 {
-    for (const QString &keyword : keywords)
-        addRow(keyword, grid);
-    refresh();
 }
 
-void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
+void OptionForm::add(const QStringList &keywords)
+{
+    const qsizetype first = m_rows.size();
+    for (const QString &keyword : keywords)
+        addRow(keyword);
+    refreshFrom(first);
+}
+
+void OptionForm::addRow(const QString &keyword)
 {
     const auto option = m_session->ppd()->option(keyword);
     const int panel = m_session->panels().ofKeyword(keyword);
@@ -47,7 +51,7 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
         m_session->rule().hiddenOptions.contains(keyword) ||
         (panel >= 0 && m_session->rule().hidesPanel(m_session->panels().panel(panel)->panelKind())))
         return;
-    auto *box = new platform::ChoiceBox(grid->parentWidget());
+    auto *box = new platform::ChoiceBox(m_grid->parentWidget());
     box->setMinimumWidth(boxWidth);
     box->setMaximumWidth(mostWidth);
     box->setObjectName(option->keyword);
@@ -63,38 +67,38 @@ void OptionForm::addRow(const QString &keyword, QGridLayout *grid)
     if (option->custom)
         box->addItem(tr("%1…", "Custom, whose values are asked for").arg(oneLine(option->custom->text)),
                      customItem);
-    auto *label = new QLabel(grid->parentWidget());
+    auto *label = new QLabel(m_grid->parentWidget());
     label->setTextFormat(Qt::PlainText);
     label->setText(
         tr("%1:", "label of a field").arg(Mnemonics::escaped(elided(option->text, label, labelWidth))));
     label->setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     label->setBuddy(box);
-    const int row = grid->rowCount();
-    grid->addWidget(label, row, 0);
-    grid->addWidget(box, row, 1);
+    const int row = m_grid->rowCount();
+    m_grid->addWidget(label, row, 0);
+    m_grid->addWidget(box, row, 1);
     m_rows.append({.keyword = option->keyword, .box = box});
     const qsizetype index = m_rows.size() - 1;
     if (option->custom) {
-        CustomEditor *editor = new CustomEditor(*option->custom, option->text, grid->parentWidget());
+        CustomEditor *editor = new CustomEditor(*option->custom, option->text, m_grid->parentWidget());
         m_rows.last().editor = editor;
-        grid->addWidget(editor, row + 1, 1);
+        m_grid->addWidget(editor, row + 1, 1);
         connect(editor, &CustomEditor::edited, this, [this, index] { markCustom(index); });
         connect(editor, &CustomEditor::editingFinished, this, [this, index] { finishCustom(index); });
     }
     if (!box->isEnabled() || !m_session->rule().lockedChoice(m_session->ppd(), keyword).isNull())
-        addAttribution(box, grid, row + 2);
+        addAttribution(box, row + 2);
     connect(box, &QComboBox::activated, this, [this, index] { choose(index); });
 }
 
-void OptionForm::addAttribution(QWidget *box, QGridLayout *grid, int row)
+void OptionForm::addAttribution(QWidget *box, int row)
 {
     const QString text = Policy::current().attribution();
-    auto *note = new QLabel(grid->parentWidget());
+    auto *note = new QLabel(m_grid->parentWidget());
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     note->setText(text);
     box->setAccessibleDescription(text);
-    grid->addWidget(note, row, 1);
+    m_grid->addWidget(note, row, 1);
 }
 
 void OptionForm::choose(qsizetype index)
@@ -111,7 +115,6 @@ void OptionForm::choose(qsizetype index)
         return;
     }
     m_session->markChoice(row.keyword, choice);
-    refresh();
     Q_EMIT chosen(row.keyword);
 }
 
@@ -167,12 +170,17 @@ void OptionForm::showProblem()
 
 void OptionForm::refresh()
 {
+    refreshFrom(0);
+}
+
+void OptionForm::refreshFrom(qsizetype first)
+{
     QStringList keywords;
-    for (const Row &row : std::as_const(m_rows))
-        keywords.append(row.keyword);
+    for (qsizetype i = first; i < m_rows.size(); ++i)
+        keywords.append(m_rows.at(i).keyword);
     const QList<quint32> revisions = m_session->ppd()->forbiddenRevisions(keywords);
-    for (qsizetype i = 0; i < m_rows.size(); ++i)
-        refreshRow(m_rows[i], revisions.at(i));
+    for (qsizetype i = first; i < m_rows.size(); ++i)
+        refreshRow(m_rows[i], revisions.at(i - first));
 }
 
 void OptionForm::refreshRow(Row &row, quint32 revision)

@@ -26,8 +26,10 @@ class OptionForm : public QObject
 {
     Q_OBJECT
 public:
-    OptionForm(DialogSession *session, const QStringList &keywords, QGridLayout *grid, QObject *parent);
+    OptionForm(DialogSession *session, QGridLayout *grid, QObject *parent);
 
+    // Adds a row for each of these options at the end of the grid.
+    void add(const QStringList &keywords);
     platform::ChoiceBox *box(const QString &keyword) const;
     // Why an incomplete custom choice cannot be marked; null if there is none.
     QString problem() const;
@@ -39,7 +41,7 @@ public Q_SLOTS:
     void refresh();
 
 Q_SIGNALS:
-    // The user has made a choice, and it is marked.
+    // The user has made a choice, and it is marked. The form does not show its effects until refresh().
     void chosen(const QString &keyword);
 
 private:
@@ -59,15 +61,17 @@ private:
         bool isBooklet = false;
         bool isDecided = false;
     };
-    void addRow(const QString &keyword, QGridLayout *grid);
-    static void addAttribution(QWidget *box, QGridLayout *grid, int row);
+    void addRow(const QString &keyword);
+    void addAttribution(QWidget *box, int row);
     void choose(qsizetype index);
     void markCustom(qsizetype index);
     void finishCustom(qsizetype index);
+    void refreshFrom(qsizetype first);
     void refreshRow(Row &row, quint32 revision);
     void greyOut(const Row &row);
 
     DialogSession *m_session;
+    QGridLayout *m_grid;
     QList<Row> m_rows;
 };
 
