@@ -52,6 +52,8 @@ ChoiceBox::~ChoiceBox() = default;
 void ChoiceBox::setObstacle(int index, const QString &reason)
 {
     auto *item = static_cast<QStandardItemModel *>(model())->item(index);
+    if (item->isEnabled() == reason.isEmpty() && item->accessibleDescription() == reason)
+        return;
     item->setEnabled(reason.isEmpty());
     item->setAccessibleDescription(reason);
     // Tooltips detect markup heuristically, so pass the plain text as markup with the same meaning.
