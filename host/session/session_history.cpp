@@ -22,9 +22,9 @@ constexpr int mergeable = 1;        // id() of all steps; mergeWith() decides wh
 class SessionHistory::Step : public QUndoCommand
 {
 public:
-    Step(SessionHistory *history, SessionState before, SessionState after)
-        : m_history(history), m_keys(before.differencesTo(after)), m_before(std::move(before)),
-          m_after(std::move(after))
+    // `keys` are the differences of the two states.
+    Step(SessionHistory *history, QStringList keys, SessionState before, SessionState after)
+        : m_history(history), m_keys(std::move(keys)), m_before(std::move(before)), m_after(std::move(after))
     {
         SessionState::keepDifferences(&m_before, &m_after);
     }
@@ -97,7 +97,8 @@ void SessionHistory::note()
         return;
     m_isQueued = false; // a queued call has nothing left to do
     SessionState now = m_session->state();
-    if (m_now.differencesTo(now).isEmpty()) {
+    const QStringList keys = m_now.differencesTo(now);
+    if (keys.isEmpty()) {
         // No value differs, but a save of a panel may have recorded further choices.
         if (const auto *last = m_steps.command(m_steps.index() - 1))
             const_cast<Step *>(static_cast<const Step *>(last))->setChosen(now);
@@ -107,7 +108,7 @@ void SessionHistory::note()
         return;
     }
     recordInitialValues(now);
-    auto *step = new Step(this, m_now, now);
+    auto *step = new Step(this, keys, m_now, now);
     step->setFollows(m_sinceStep.isValid() && m_sinceStep.elapsed() < oneGesture);
     m_sinceStep.start();
     if (m_nextBase) {

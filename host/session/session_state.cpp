@@ -33,17 +33,23 @@ void addDifferences(const Map &one, const Map &other, QStringList *keys)
 }
 
 template <typename Map>
+Map entriesNotIn(const Map &other, const Map &map)
+{
+    Map entries;
+    for (auto it = map.begin(); it != map.end(); ++it) {
+        const auto same = other.constFind(it.key());
+        if (same == other.constEnd() || *same != *it)
+            entries.insert(it.key(), *it);
+    }
+    return entries;
+}
+
+template <typename Map>
 void dropAlike(Map *one, Map *other)
 {
-    for (auto it = one->begin(); it != one->end();) {
-        const auto same = other->find(it.key());
-        if (same == other->end() || *same != *it) {
-            ++it;
-            continue;
-        }
-        other->erase(same);
-        it = one->erase(it);
-    }
+    Map ones = entriesNotIn(*other, *one);
+    *other = entriesNotIn(*one, *other);
+    *one = std::move(ones);
 }
 
 std::pair<int, QString> placeOf(const QString &panelKey)

@@ -107,10 +107,7 @@ void PresetMenu::setSession(DialogSession *session)
         m_startInstance = session->destination().instance;
         m_history = std::make_unique<SessionHistory>(session);
         connect(m_history->steps(), &QUndoStack::indexChanged, this, &PresetMenu::showName);
-        connect(m_history.get(), &SessionHistory::changed, this, [this] {
-            showName();
-            Q_EMIT changed();
-        });
+        connect(m_history.get(), &SessionHistory::changed, this, &PresetMenu::changed);
     }
     m_button->setEnabled(session && !session->destination().queue.isEmpty());
     showName();
