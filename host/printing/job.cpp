@@ -9,6 +9,11 @@
 
 namespace host {
 
+const QString passwordName = QStringLiteral("job-password");
+const QString passwordEncryptionName = QStringLiteral("job-password-encryption");
+const QString accountName = QStringLiteral("job-account-id");
+const QString accountUserName = QStringLiteral("job-accounting-user-id");
+
 namespace {
 
 struct JobText

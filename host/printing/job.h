@@ -35,10 +35,10 @@ struct JobOption
 
 // The names of the job options for private printing with any printer (PWG 5100.11). The password is sent as
 // an operation attribute, which the server does not return.
-inline const QString passwordName = QStringLiteral("job-password");
-inline const QString passwordEncryptionName = QStringLiteral("job-password-encryption");
-inline const QString accountName = QStringLiteral("job-account-id");
-inline const QString accountUserName = QStringLiteral("job-accounting-user-id");
+extern const QString passwordName;           // job-password
+extern const QString passwordEncryptionName; // job-password-encryption
+extern const QString accountName;            // job-account-id
+extern const QString accountUserName;        // job-accounting-user-id
 
 // All data of a job.
 struct JobRequest

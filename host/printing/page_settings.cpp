@@ -7,6 +7,8 @@
 
 namespace host {
 
+const QString naturalScalingName = QStringLiteral("natural-scaling");
+
 namespace {
 
 constexpr double a4Width = 210, a4Height = 297; // millimetres

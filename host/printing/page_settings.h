@@ -16,7 +16,7 @@ namespace host {
 // The job option for the size of the pages in percent. Filters of the print system ignore it for PDF and
 // apply it to images in a different way. Documents are therefore scaled before they are sent, and the option
 // is not sent.
-inline const QString naturalScalingName = QStringLiteral("natural-scaling");
+extern const QString naturalScalingName; // natural-scaling
 
 // Settings that affect the pages of a document. Contains only page layout options, since they become
 // command-line arguments, which every user of the machine can read. A value.

@@ -12,6 +12,9 @@
 
 namespace host {
 
+const QString highContrast = QStringLiteral("high-contrast");
+const QString highContrastDark = QStringLiteral("high-contrast-dark");
+
 namespace {
 
 // Disabled texts have a contrast of at least 3 on windows, buttons and fields; texts to be read, such as

@@ -7,8 +7,8 @@
 
 namespace host {
 
-inline const QString highContrast = QStringLiteral("high-contrast");
-inline const QString highContrastDark = QStringLiteral("high-contrast-dark");
+extern const QString highContrast;     // high-contrast
+extern const QString highContrastDark; // high-contrast-dark
 
 // Replaces the desktop's style and colors in the whole program: "light", "dark", or one of the high-contrast
 // schemes, whose text and outlines are black on white or white on black. Any other name has no effect. May be
