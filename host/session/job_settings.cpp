@@ -16,6 +16,11 @@
 
 namespace host {
 
+const QString holdName = QStringLiteral("job-hold-until");
+const QString priorityName = QStringLiteral("job-priority");
+const QString sheetsName = QStringLiteral("job-sheets");
+const QString billingName = QStringLiteral("job-billing");
+
 namespace {
 
 struct JobSettingText

@@ -19,10 +19,10 @@ struct PrintError;
 // The settings of the Job page: how the print server handles the job. They are job options and are stored
 // among the chosen settings of a session; without a choice the defaults of the destination apply.
 
-inline const QString holdName = QStringLiteral("job-hold-until");
-inline const QString priorityName = QStringLiteral("job-priority");
-inline const QString sheetsName = QStringLiteral("job-sheets");
-inline const QString billingName = QStringLiteral("job-billing");
+extern const QString holdName;     // job-hold-until
+extern const QString priorityName; // job-priority
+extern const QString sheetsName;   // job-sheets
+extern const QString billingName;  // job-billing
 // The names above, in display order, then those of the Print Mode page.
 const QStringList &jobSettingNames();
 // The settings of the Print Mode page for printers without a panel for it: the password and the account of
