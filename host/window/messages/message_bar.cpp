@@ -256,8 +256,8 @@ void MessageBar::fitTexts()
     // complete lines
     const int most = qMax(1, m_limit / line) * line + m_scroll->widget()->layout()->spacing();
     m_scroll->setFixedHeight(qBound(line, wanted, most));
-    // Scrolling texts can also be reached with the keyboard. Other texts are not measured next to a scroll
-    // bar.
+    // Scrolling texts can also be reached with the keyboard. Without a scroll bar, the viewport has the width
+    // that was measured.
     m_scroll->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
     m_scroll->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
@@ -269,6 +269,20 @@ void MessageBar::resizeEvent(QResizeEvent *event)
         return;
     fitButtons();
     fitTexts();
+}
+
+void MessageBar::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (!m_scroll || (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] { // when the texts have the new font
+            fitButtons();
+            fitTexts();
+        },
+        Qt::QueuedConnection);
 }
 
 void MessageBar::paintEvent(QPaintEvent *)
