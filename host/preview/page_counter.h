@@ -42,7 +42,7 @@ public:
     // encoded as in file_name.h. The settings matter only if the number of pages depends on them, as with
     // text.
     void count(const QStringList &paths, const PageSettings &settings);
-    // 0 if it is not known yet, or cannot be determined.
+    // 0 if it is not known yet, cannot be determined, or was not needed for the verdict.
     int pagesOf(const QString &path) const { return isKnown(path) ? m_known.value(path).pages : 0; }
 
     // Whether its pages have different sizes, as far as the first 200 pages are concerned.
@@ -51,8 +51,8 @@ public:
         return isKnown(path) && m_known.value(path).hasSeveralSizes;
     }
 
-    // Like count(), but examines only what verdict() needs: PDF always, other documents only if the settings
-    // select pages.
+    // Like count(), but examines only what verdict() needs: PDF files are always read, but documents are
+    // counted only if the settings select pages.
     void check(const QStringList &paths, const PageSettings &settings);
     // The verdict on the documents and settings of the last call of check() or count(). Never refuses a
     // document that cannot be examined because a program is missing or takes too long.

@@ -50,8 +50,9 @@ struct GeneralSettings
     // The value of "page-ranges" for a part that another program offers. It is not sent with a job.
     static QString partName(Part part);
 
-    // The names of the settings without the layout, in the order of display; then with the layout.
+    // The names of the settings without the layout, in the order of display.
     static QStringList names();
+    // The same, followed by the names of the layout settings.
     static QStringList allNames() { return names() + PageLayoutSettings::names(); }
     // Whether these settings, without the layout, determine a job option of this name, or a PPD option.
     static bool covers(const QString &name);

@@ -103,7 +103,8 @@ PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
         connect(m_preview, &DialogPreview::opened, this, &PageBook::updatePreview);
         connect(m_preview, &DialogPreview::rangesPicked, this, &PageBook::setRanges);
     }
-    // Without a picture of their own; the page is not painted again when the message bar appears below it.
+    // These widgets paint nothing themselves, so the page need not be painted again when the message bar
+    // appears below it.
     for (QWidget *part : QList<QWidget *>{this, m_area, m_stack})
         part->setAttribute(Qt::WA_StaticContents);
     connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);

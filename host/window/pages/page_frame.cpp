@@ -98,7 +98,8 @@ PageFrame::PageFrame(const QString &title, const QString &note, QWidget *content
     content->setAutoFillBackground(false);
     content->show();
     sheet->installEventFilter(this);
-    for (QWidget *part : QList<QWidget *>{this, m_scroll, m_scroll->viewport()}) // as in PageBook
+    // These widgets paint nothing themselves; PageBook does the same for its own.
+    for (QWidget *part : QList<QWidget *>{this, m_scroll, m_scroll->viewport()})
         part->setAttribute(Qt::WA_StaticContents);
 
     auto *column = new QVBoxLayout(this);

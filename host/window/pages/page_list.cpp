@@ -95,7 +95,8 @@ PageList::PageList(QWidget *parent) : QuietList(parent)
     setUniformItemSizes(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setAccessibleName(tr("Pages of the dialog"));
-    // The rows depend on the width, which changes only with the window or the names.
+    // The rows depend on the width. It changes only with the names, or with the size of the window, and Qt
+    // then paints the whole window.
     setAttribute(Qt::WA_StaticContents);
     viewport()->setAttribute(Qt::WA_StaticContents);
     takePalette();
