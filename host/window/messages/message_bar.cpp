@@ -131,8 +131,7 @@ void MessageBar::showMessage(const Message &message)
     if (message.answers.isEmpty())
         addButton(tr("C&lose"), -1);
     announce(m_sheet, text());
-    fitButtons();
-    fitTexts();
+    fit();
     show();
     update();
     Q_EMIT buttonsChanged();
@@ -262,27 +261,26 @@ void MessageBar::fitTexts()
     m_scroll->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
-void MessageBar::resizeEvent(QResizeEvent *event)
+void MessageBar::fit()
 {
-    QFrame::resizeEvent(event);
     if (!m_scroll)
         return;
     fitButtons();
     fitTexts();
 }
 
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QFrame::resizeEvent(event);
+    fit();
+}
+
 void MessageBar::changeEvent(QEvent *event)
 {
     QFrame::changeEvent(event);
-    if (!m_scroll || (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange))
-        return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] { // when the texts have the new font
-            fitButtons();
-            fitTexts();
-        },
-        Qt::QueuedConnection);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &MessageBar::fit,
+                                  Qt::QueuedConnection); // the texts then have the font
 }
 
 void MessageBar::paintEvent(QPaintEvent *)

@@ -68,6 +68,7 @@ private:
     void removeButtons();
     void clearRows();
     int room() const;
+    void fit();
     void fitButtons();
     void fitTexts();
     void noteFocus(QWidget *old, QWidget *now);
