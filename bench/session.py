@@ -52,9 +52,11 @@ class Session:
         self._folder.cleanup()
 
     def _start_display(self):
+        # With -noreset, since the server of a desktop does not restart either when its last client has ended. The next program
+        # would wait for that.
         reading, writing = os.pipe()
         self._xvfb = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as stream:
