@@ -24,7 +24,7 @@ def shows(d, label, value):
 
 
 def go_to(d, page):
-    d.click(d.get("list item", page))
+    d.click(d.get("page tab", page))
     wait("the page “%s”" % page, lambda: d.now("label", page))
 
 

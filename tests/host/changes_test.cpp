@@ -174,7 +174,7 @@ void ChangesTest::markTakesTheChangeBack()
     window.book()->showChanges();
     QVERIFY(box->accessibleDescription().contains(u"“Off”"_s));
     QVERIFY(box->accessibleDescription().endsWith(u"Both sides"_s));
-    QVERIFY(find<PageList>()->item(0)->toolTip().contains(u"changed"_s));
+    QVERIFY(find<PageList>()->tabToolTip(0).contains(u"changed"_s));
     QTest::mouseClick(marks().first(), Qt::LeftButton);
     settle();
     QCOMPARE(marked(u"Duplex"_s), u"None"_s);
@@ -318,7 +318,8 @@ void ChangesTest::jobSettingsAreSentUndoneAndSummed()
     QCOMPARE(summary.title, u"Job"_s);
     QCOMPARE(summary.entries.size(), 4);
     QVERIFY(summary.entries.contains(SummaryEntry(u"Cover sheets"_s, u"Standard before, Secret after"_s)));
-    QVERIFY(window.book()->list()->currentItem()->toolTip().contains(u"changed"_s));
+    const PageList *list = window.book()->list();
+    QVERIFY(list->tabToolTip(list->currentIndex()).contains(u"changed"_s));
     while (window.session()->chosen().contains(u"job-billing"_s))
         undo();
     undo();

@@ -115,7 +115,7 @@ void MessageBarTest::screenShowsEveryChange()
                                                [&] { window.resize(520, 480); },
                                                addNotice,
                                                [&] { window.resize(900, 700); },
-                                               [&] { find<PageList>()->setCurrentRow(1); },
+                                               [&] { find<PageList>()->setCurrentIndex(1); },
                                                closeBar};
     for (qsizetype step = 0; step < changes.size(); ++step) {
         changes.at(step)();

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void settingsAreTheAnswer();
     void brokenPpdStillPrints();
     void panelsAreRestoredWhenShown();
+    void keysSelectAPage_data();
+    void keysSelectAPage();
     void escapeCancels();
     void customSizeIsTyped();
     void unfinishedPasswordStopsPrinting();
@@ -306,6 +308,31 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
     const auto labels = window.findChildren<QLabel *>();
     QVERIFY(std::any_of(labels.begin(), labels.end(),
                         [](QLabel *label) { return label->text() == u"Balance"_s; }));
+}
+
+void PrintWindowTest::keysSelectAPage_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QString>("page");
+    QTest::newRow("next") << Qt::Key_Down << u"Job"_s;
+    QTest::newRow("previous") << Qt::Key_Up << u"General"_s;
+    QTest::newRow("last") << Qt::Key_End << u"Summary"_s;
+    QTest::newRow("letter") << Qt::Key_S << u"Summary"_s;
+    QTest::newRow("letter of an earlier page") << Qt::Key_G << u"General"_s;
+    QTest::newRow("letter of no page") << Qt::Key_X << u"More Options"_s;
+}
+
+void PrintWindowTest::keysSelectAPage()
+{
+    QFETCH(const Qt::Key, key);
+    QFETCH(const QString, page);
+    PrintWindow &window = open();
+    window.book()->showPage(window.book()->pageNamed(u"more"_s));
+    auto *list = find<PageList>();
+    list->setFocus();
+    QTest::keyClick(list, key);
+    QCOMPARE(window.book()->titleOf(window.book()->currentRow()), page);
+    QCOMPARE(list->currentIndex(), window.book()->currentRow());
 }
 
 void PrintWindowTest::escapeCancels()

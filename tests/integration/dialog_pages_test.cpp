@@ -316,7 +316,8 @@ void DialogPagesTest::checkTabOrder()
     }
     QCOMPARE(part, 5);
     if (qEnvironmentVariableIsSet("KELMAR_PICTURES"))
-        qInfo().noquote() << m_window->book()->list()->currentItem()->text() + u": "_s + names.join(u" > "_s);
+        qInfo().noquote() << m_window->book()->titleOf(m_window->book()->currentRow()) + u": "_s +
+                                 names.join(u" > "_s);
 }
 
 void DialogPagesTest::takePicture(const QString &page) const

@@ -23,6 +23,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSlider>
+#include <QTabBar>
 #include <QTest>
 #include <QTextDocumentFragment>
 
@@ -70,6 +71,10 @@ QStringList textsOf(const QWidget *widget)
     if (const auto *list = qobject_cast<const QListWidget *>(widget)) {
         for (int i = 0; i < list->count(); ++i)
             texts += list->item(i)->text();
+    }
+    if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+        for (int i = 0; i < tabs->count(); ++i)
+            texts += tabs->accessibleTabName(i);
     }
     return texts;
 }

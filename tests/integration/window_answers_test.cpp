@@ -309,7 +309,7 @@ void WindowAnswersTest::deviceIsSilent()
         QVERIFY(!button(u"Do Not Wait"_s));
     };
     m_heart->start();
-    clickAndGiveUp(list->viewport(), list->visualItemRect(list->item(row)).center());
+    clickAndGiveUp(list, list->tabRect(row).center());
     QCOMPARE(m_window->book()->currentRow(), row);
     QVERIFY(!find<QPushButton>("presets")->text().contains(u"changed"_s)); // not by the user
     QVERIFY(m_window->session()->markChoice(u"ImageType"_s, u"Advanced"_s));
@@ -339,7 +339,7 @@ void WindowAnswersTest::printerArrivesWhileAPanelWaits()
     });
     giveUp.start(1500); // long after the answers
     Q_EMIT find<PrinterPicker>()->picked(u"halted"_s);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+    QTest::mouseClick(list, Qt::LeftButton, {}, list->tabRect(row).center());
     QVERIFY(!giveUp.isActive());
     QTRY_COMPARE(m_window->session()->destination().queue, u"halted"_s);
     QVERIFY(m_proxy->command("delay 300"));

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QListView>
 #include <QPainter>
+#include <QTabBar>
 
 namespace host {
 
@@ -19,7 +20,7 @@ constexpr int margin = 3; // pixels around the control
 
 bool marksItself(const QWidget *widget)
 {
-    return qobject_cast<const QListView *>(widget);
+    return qobject_cast<const QListView *>(widget) || qobject_cast<const QTabBar *>(widget);
 }
 
 // The outermost parent that scrolls together with the control; a nearer parent would clip the frame.

@@ -107,7 +107,7 @@ PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
     // appears below it.
     for (QWidget *part : QList<QWidget *>{this, m_area, m_stack})
         part->setAttribute(Qt::WA_StaticContents);
-    connect(m_list, &QListWidget::currentRowChanged, this, &PageBook::showPage);
+    connect(m_list, &QTabBar::currentChanged, this, &PageBook::showPage);
     for (const auto &[key, steps] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}})
         connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, this,
                 [this, steps = steps] { turn(steps); });
@@ -318,7 +318,7 @@ void PageBook::showPage(int row)
     if (allowed && wasOnPage) // the focus would move to the next widget
         m_list->setFocus();
     const QSignalBlocker quiet(m_list);
-    m_list->setCurrentRow(allowed ? row : m_current);
+    m_list->setCurrentIndex(allowed ? row : m_current);
     if (!allowed)
         return;
     Page &page = m_pages[static_cast<size_t>(row)];

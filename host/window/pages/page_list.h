@@ -3,29 +3,37 @@
 
 #pragma once
 
-#include "host/window/look/quiet_list.h"
-
-#include <QListWidget>
+#include <QTabBar>
 
 namespace host {
 
-// The list of pages at the side of the dialog. As wide as its longest name if there is space.
-class PageList : public QuietList<QListWidget>
+// The list of pages at the side of the dialog: a tab bar with a row for each page, which takes half a
+// megabyte less than a list widget. As wide as its longest name if there is space.
+class PageList : public QTabBar
 {
     Q_OBJECT
 public:
     explicit PageList(QWidget *parent = nullptr);
 
     void addPage(const QString &title);
+    void clear();
     // Sets whether the page has changed settings.
     void setChanged(int row, bool changed);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {120, 0}; }
 
 protected:
+    QSize tabSizeHint(int row) const override;
+    QSize minimumTabSizeHint(int row) const override { return tabSizeHint(row); }
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
+    QRect placeOf(int row) const;
+    int rowStartingWith(const QString &text) const;
+    void paintRow(QPainter *painter, const QStyleOptionTab &option, int row) const;
     void takePalette();
 
     mutable int m_width = 0; // in pixels, for the longest name in this font; 0 until it is asked for
