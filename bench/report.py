@@ -111,7 +111,7 @@ def main():
     later = list(after_start.figures(build))
 
     rows = [[name, f"{figures[name, startup.FAMILY][0]:.1f} ms", f"{figures[name, startup.FAMILY][1] / 1024:.1f} MB"]
-            for name in SERIES if (name, startup.FAMILY) in figures]
+            for name in (*SERIES, startup.BARE_CUPS) if (name, startup.FAMILY) in figures]
     text = f"""# Performance
 
 This page and its plots are written by `bench/report.py`. {machine()}
