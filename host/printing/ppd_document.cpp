@@ -114,12 +114,13 @@ QString PpdOption::spelled(const QString &choice) const
 PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd)
 {
     forEachOption(ppd->groups, ppd->num_groups, [this](const ppd_group_t &group, const ppd_option_t &option) {
-        if (!isShadowOfPageSize(option.keyword))
-            m_keywords.append(text(option.keyword));
-        if (qstrcmp(group.name, "InstallableOptions") == 0)
-            m_installable.push_back(&option);
+        if (isShadowOfPageSize(option.keyword))
+            return;
+        const QString keyword = text(option.keyword);
+        m_keywords.append(keyword);
+        const bool isInstallable = qstrcmp(group.name, "InstallableOptions") == 0;
+        (isInstallable ? m_installable : m_settable).append(keyword);
     });
-    std::ranges::sort(m_installable);
 }
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
@@ -163,6 +164,7 @@ std::unique_ptr<PpdDocument> PpdDocument::ofQueue(const QString &queue, const QB
     return adopt(ppdOpenFd(fcntl(fd, F_DUPFD_CLOEXEC, 0)), name, error);
 }
 
+// `name` is the name of the PPD in errors.
 std::unique_ptr<PpdDocument> PpdDocument::adopt(ppd_file_s *ppd, const QString &name, PrintError *error)
 {
     if (!ppd) {
@@ -221,14 +223,19 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 
 QString PpdDocument::markedChoice(const QString &keyword) const
 {
+    auto &[known, name] = m_known[keyword];
+    if (known && known->marked) // most marks stay
+        return name;
     const ppd_choice_t *choice = marked(m_ppd, keyword);
     if (!choice)
         return {};
-    const QString name = text(choice->choice);
     const auto custom =
-        name == QLatin1String("Custom") ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
-    if (!custom)
+        qstrcmp(choice->choice, "Custom") == 0 ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
+    if (!custom) {
+        known = choice;
+        name = text(choice->choice);
         return name;
+    }
     // Panels also mark choices in the record.
     const Written written = m_written.value(text(choice->option->keyword));
     return written.inRecord == custom->current() ? written.choice : custom->current();
@@ -308,21 +315,15 @@ std::optional<PaperSize> PpdDocument::paperSize(const QString &choice) const
 bool PpdDocument::isInstallable(const QString &keyword) const
 {
     const ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
-    return option && isInstallableOption(option);
-}
-
-bool PpdDocument::isInstallableOption(const ppd_option_s *option) const
-{
-    return std::ranges::binary_search(m_installable, option);
+    return option && m_installable.contains(text(option->keyword));
 }
 
 QList<OptionChoice> PpdDocument::changedChoices() const
 {
     QList<OptionChoice> changed;
-    for (const QString &keyword : optionKeywords()) {
-        const ppd_option_t *option = ppdFindOption(m_ppd, keyword.toUtf8().constData());
+    for (const QString &keyword : m_settable) {
         const QString choice = markedChoice(keyword);
-        if (!choice.isEmpty() && choice != text(option->defchoice) && !isInstallableOption(option))
+        if (!choice.isEmpty() && choice != defaultChoice(keyword))
             changed.append(described(keyword, choice));
     }
     return changed;

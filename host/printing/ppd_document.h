@@ -7,6 +7,7 @@
 #include "host/printing/print_error.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -14,10 +15,10 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
+#include <utility>
 
+struct ppd_choice_s;
 struct ppd_file_s;
-struct ppd_option_s;
 
 namespace host {
 
@@ -50,7 +51,8 @@ public:
     ppd_file_s *record() const { return m_ppd; }
     QString modelName() const;
 
-    QStringList optionKeywords() const { return m_keywords; } // in PPD order
+    const QStringList &optionKeywords() const { return m_keywords; }   // in PPD order
+    const QStringList &settableKeywords() const { return m_settable; } // those without installable options
     bool hasOption(const QString &keyword) const;
     std::optional<PpdOption> option(const QString &keyword) const;
     QString markedChoice(const QString &keyword) const;
@@ -94,19 +96,17 @@ public:
 
 private:
     explicit PpdDocument(ppd_file_s *ppd);
-    // `name` is the name of the PPD in errors.
     static std::unique_ptr<PpdDocument> adopt(ppd_file_s *ppd, const QString &name, PrintError *error);
 
     PpdConstraints &constraints() const; // read on first use
     QMap<QString, QString> choicesMarkedBy(const QString &name, const QString &value);
     QMap<QString, QString> monochromeChoice() const;
     QMap<QString, QString> choicesNamed(const QString &name, const QStringList &options) const;
-    bool isInstallableOption(const ppd_option_s *option) const;
     void replaceBadCustomDefaults();
 
     ppd_file_s *m_ppd = nullptr;
-    QStringList m_keywords;
-    std::vector<const ppd_option_s *> m_installable; // sorted
+    QStringList m_keywords, m_settable, m_installable;
+    mutable QHash<QString, std::pair<const ppd_choice_s *, QString>> m_known; // marks read last, by option
     mutable std::unique_ptr<PpdConstraints> m_constraints;
     // A custom choice as it was given, in the user's unit, and as stored in the record.
     struct Written

@@ -67,10 +67,9 @@ void turnSidesForBooklet(const DialogSession &session)
 
 std::optional<OptionChoice> saddleStitching(const DialogSession &session)
 {
-    const QStringList keywords = session.ppd() ? session.ppd()->optionKeywords() : QStringList();
+    const QStringList keywords = session.ppd() ? session.ppd()->settableKeywords() : QStringList();
     for (const QString &keyword : keywords) {
-        if (!keyword.contains(QLatin1String("staple"), Qt::CaseInsensitive) ||
-            session.ppd()->isInstallable(keyword))
+        if (!keyword.contains(QLatin1String("staple"), Qt::CaseInsensitive))
             continue;
         const auto option = session.ppd()->option(keyword);
         for (const PpdOption::Choice &choice : option->choices) {

@@ -234,9 +234,9 @@ QStringList DialogSession::otherKeywords() const
     if (!m_ppd)
         return others;
     const QStringList general = generalOptionKeywords(*m_ppd);
-    for (const QString &keyword : m_ppd->optionKeywords()) {
+    for (const QString &keyword : m_ppd->settableKeywords()) {
         const bool shown = general.contains(keyword) || m_panels.ofKeyword(keyword) >= 0;
-        if (!shown && !m_ppd->isInstallable(keyword) && keyword != QLatin1String("Collate"))
+        if (!shown && keyword != QLatin1String("Collate"))
             others.append(keyword);
     }
     return others;

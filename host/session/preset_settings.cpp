@@ -59,9 +59,7 @@ QMap<QString, QString> marksOf(const DialogSession &session, const QMap<QString,
 {
     PpdDocument *ppd = session.ppd();
     QMap<QString, QString> now, marks;
-    for (const QString &keyword : ppd->optionKeywords()) {
-        if (ppd->isInstallable(keyword))
-            continue;
+    for (const QString &keyword : ppd->settableKeywords()) {
         now.insert(keyword, ppd->markedChoice(keyword));
         ppd->mark(keyword, ppd->defaultChoice(keyword));
     }

@@ -110,10 +110,8 @@ void SessionState::keepDifferences(SessionState *one, SessionState *other)
 SessionState DialogSession::state() const
 {
     SessionState state;
-    for (const QString &keyword : m_ppd ? m_ppd->optionKeywords() : QStringList()) {
-        if (!m_ppd->isInstallable(keyword))
-            state.marks.insert(keyword, m_ppd->markedChoice(keyword));
-    }
+    for (const QString &keyword : m_ppd ? m_ppd->settableKeywords() : QStringList())
+        state.marks.insert(keyword, m_ppd->markedChoice(keyword));
     for (int i = 0; i < m_panels.count(); ++i) {
         if (!m_panels.isRestored(i))
             continue;

@@ -95,9 +95,7 @@ SheetFinish sheetFinish(const DialogSession &session)
     else if (sides.startsWith(QLatin1String("two-sided")))
         finish.binding = SheetFinish::Binding::LongEdge;
     finish.isFolded = layoutAsPrinted(session).isBooklet();
-    for (const QString &keyword : session.ppd()->optionKeywords()) {
-        if (session.ppd()->isInstallable(keyword))
-            continue;
+    for (const QString &keyword : session.ppd()->settableKeywords()) {
         const QString choice = session.ppd()->markedChoice(keyword).toLower();
         if (keyword.contains(QLatin1String("staple"), Qt::CaseInsensitive))
             addStaples(choice, &finish);
