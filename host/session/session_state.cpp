@@ -20,36 +20,45 @@ namespace {
 // in case two panels keep changing each other.
 constexpr int mostRounds = 3;
 
-template <typename Map>
-void addDifferences(const Map &one, const Map &other, QStringList *keys)
+// Calls a function with each key whose entries differ, and pointers to the two values. A pointer is null if
+// that map has no entry.
+template <typename Map, typename Visit>
+void forEachDifference(const Map &one, const Map &other, const Visit &visit)
 {
-    auto same = other.begin();
-    for (auto it = one.begin(); it != one.end(); ++it) {
-        while (same != other.end() && same.key() < it.key())
-            ++same;
-        if (same != other.end() && same.key() == it.key() && *same != *it)
-            keys->append(it.key());
+    auto a = one.begin(), b = other.begin();
+    while (a != one.end() || b != other.end()) {
+        const int order = a == one.end() ? 1 : b == other.end() ? -1 : a.key().compare(b.key());
+        if (order != 0 || *a != *b)
+            visit(order <= 0 ? a.key() : b.key(), order <= 0 ? &*a : nullptr, order >= 0 ? &*b : nullptr);
+        if (order <= 0)
+            ++a;
+        if (order >= 0)
+            ++b;
     }
 }
 
+// Adds the keys with different values in both maps.
 template <typename Map>
-Map entriesNotIn(const Map &other, const Map &map)
+void addDifferences(const Map &one, const Map &other, QStringList *keys)
 {
-    Map entries;
-    for (auto it = map.begin(); it != map.end(); ++it) {
-        const auto same = other.constFind(it.key());
-        if (same == other.constEnd() || *same != *it)
-            entries.insert(it.key(), *it);
-    }
-    return entries;
+    forEachDifference(one, other, [keys](const QString &key, const auto *value, const auto *another) {
+        if (value && another)
+            keys->append(key);
+    });
 }
 
 template <typename Map>
 void dropAlike(Map *one, Map *other)
 {
-    Map ones = entriesNotIn(*other, *one);
-    *other = entriesNotIn(*one, *other);
+    Map ones, others;
+    forEachDifference(*one, *other, [&](const QString &key, const auto *value, const auto *another) {
+        if (value)
+            ones.insert(key, *value);
+        if (another)
+            others.insert(key, *another);
+    });
     *one = std::move(ones);
+    *other = std::move(others);
 }
 
 std::pair<int, QString> placeOf(const QString &panelKey)
@@ -80,13 +89,11 @@ QStringList SessionState::differencesTo(const SessionState &other) const
     QStringList keys;
     addDifferences(marks, other.marks, &keys);
     addDifferences(panelValues, other.panelValues, &keys);
-    const QMap<QString, QString> own = general.values(), others = other.general.values();
-    addDifferences(own, others, &keys);
-    for (const auto &[one, two] : {std::pair(own, others), std::pair(others, own)}) {
-        for (auto it = one.begin(); it != one.end(); ++it) {
-            if (!two.contains(it.key()) && !keys.contains(it.key()))
-                keys.append(it.key());
-        }
+    if (general != other.general) {
+        forEachDifference(general.values(), other.general.values(), [&keys](const QString &key, auto, auto) {
+            if (!keys.contains(key))
+                keys.append(key);
+        });
     }
     for (const QString &name : jobSettingNames()) {
         if (jobSettingValue(chosen, destinationOptions, name) !=
