@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -45,6 +46,7 @@ PpdRules::PpdRules(ppd_file_s *ppd)
 std::vector<const ppd_choice_s *> PpdRules::markedChoices() const
 {
     std::vector<const ppd_choice_s *> marked;
+    marked.reserve(std::size_t(cupsArrayCount(m_ppd->marked)));
     cupsArraySave(m_ppd->marked);
     for (void *choice = cupsArrayFirst(m_ppd->marked); choice; choice = cupsArrayNext(m_ppd->marked))
         marked.push_back(static_cast<const ppd_choice_t *>(choice));
@@ -73,26 +75,21 @@ void PpdRules::refresh()
     if (marked == m_marked && size == m_size)
         return;
     auto marks = marksOf(marked);
-    const auto ofOption = [](const std::vector<Mark> &all, Option option) {
-        const auto first = std::ranges::lower_bound(all, option, {}, &Mark::first);
-        return std::span<const Mark>(first,
-                                     std::ranges::upper_bound(first, all.end(), option, {}, &Mark::first));
-    };
-    const bool sizeChanged = std::exchange(m_size, size) != size;
-    for (Option option = 0; option < m_engine.optionCount(); ++option) {
-        const auto now = ofOption(marks, option);
-        if (!std::ranges::equal(now, ofOption(m_marks, option)) || (sizeChanged && option == m_pageSize))
-            setMarks(option, now);
-    }
+    std::vector<Mark> changed;
+    std::ranges::set_symmetric_difference(marks, m_marks, std::back_inserter(changed));
     m_marked = std::move(marked);
     m_marks = std::move(marks);
+    if (std::exchange(m_size, size) != size && m_pageSize != none)
+        changed.emplace_back(m_pageSize, nullptr);
+    for (const Mark &mark : changed)
+        readMarks(mark.first);
 }
 
-void PpdRules::setMarks(Option option, std::span<const Mark> marks)
+void PpdRules::readMarks(Option option)
 {
     std::vector<Choice> chosen;
     bool isOn = false;
-    for (const Mark &mark : marks) {
+    for (const Mark &mark : std::ranges::equal_range(m_marks, option, {}, &Mark::first)) {
         isOn |= !isOffName(mark.second->choice);
         if (option != m_pageSize)
             chosen.push_back(m_engine.findChoice(option, mark.second->choice));
@@ -176,12 +173,6 @@ std::vector<PpdRules::Forbidden> PpdRules::forbiddenChoices(std::string_view opt
             forbidden.push_back({name, line});
     }
     return forbidden;
-}
-
-std::uint32_t PpdRules::revision(std::string_view option) const
-{
-    const Option number = m_engine.findOption(option);
-    return number == none ? 0 : m_state.revision(number);
 }
 
 } // namespace constraints

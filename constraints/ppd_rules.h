@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -51,14 +50,14 @@ public:
     // the PPD.
     std::vector<Forbidden> forbiddenChoices(std::string_view option) const;
     // A number that changes whenever the result of forbiddenChoices() for the option may have changed.
-    std::uint32_t revision(std::string_view option) const;
+    std::uint32_t revision(Option option) const { return option == none ? 0 : m_state.revision(option); }
 
 private:
     using Mark = std::pair<Option, const ppd_choice_s *>;
 
     std::vector<const ppd_choice_s *> markedChoices() const;
     std::vector<Mark> marksOf(const std::vector<const ppd_choice_s *> &marked) const;
-    void setMarks(Option option, std::span<const Mark> marks);
+    void readMarks(Option option);
 
     ppd_file_s *m_ppd;
     Engine m_engine;

@@ -3,7 +3,6 @@
 
 #include "host/printing/ppd_constraints.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -22,6 +21,9 @@ QString text(std::string_view utf8)
 PpdConstraints::PpdConstraints(const PpdDocument *document)
     : m_document(document), m_rules(document->record())
 {
+    const constraints::Engine &engine = m_rules.engine();
+    for (constraints::Option option = 0; option < engine.optionCount(); ++option)
+        m_numbers.insert(text(engine.optionName(option)), option);
 }
 
 OptionChoice PpdConstraints::side(constraints::Choice term) const
@@ -45,9 +47,6 @@ QList<Conflict> PpdConstraints::conflicts()
     const auto broken = rules().brokenLines();
     if (broken.empty())
         return {};
-    QHash<QString, qsizetype> places; // positions of options in the PPD
-    for (const QString &keyword : m_document->optionKeywords())
-        places.insert(keyword, places.size());
     QHash<constraints::Choice, std::pair<qsizetype, OptionChoice>> sides;
     QSet<QList<qsizetype>> known;
     QList<Conflict> result;
@@ -57,7 +56,8 @@ QList<Conflict> PpdConstraints::conflicts()
             auto described = sides.find(term);
             if (described == sides.end()) {
                 const OptionChoice subject = side(term);
-                described = sides.insert(term, {places.value(subject.option, -1), subject});
+                const qsizetype place = m_document->optionKeywords().indexOf(subject.option);
+                described = sides.insert(term, {place, subject});
             }
             inOrder.insert(described->first, described->second);
         }
@@ -92,7 +92,7 @@ QList<quint32> PpdConstraints::revisions(const QStringList &keywords)
     m_rules.refresh();
     QList<quint32> result;
     for (const QString &keyword : keywords)
-        result.append(m_rules.revision(keyword.toStdString()));
+        result.append(m_rules.revision(m_numbers.value(keyword, constraints::none)));
     return result;
 }
 

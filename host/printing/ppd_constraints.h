@@ -7,6 +7,8 @@
 
 #include "constraints/ppd_rules.h"
 
+#include <QHash>
+
 namespace host {
 
 // The constraints of a document's PPD for its current marks, described with the texts of the document, which
@@ -30,6 +32,7 @@ private:
 
     const PpdDocument *m_document;
     constraints::PpdRules m_rules;
+    QHash<QString, constraints::Option> m_numbers; // by keyword
 };
 
 } // namespace host

@@ -299,7 +299,7 @@ void AgreeWithLibcupsTest::onAnyPpd()
             const Forbidden forbidden = forbiddenBy(rules, options);
             QMap<QByteArray, quint32> revisions;
             for (const ppd_option_t *option : options)
-                revisions[option->keyword] = rules.revision(option->keyword);
+                revisions[option->keyword] = rules.revision(rules.engine().findOption(option->keyword));
             ppd_option_t *option = options[random() % options.size()];
             const QByteArray keyword = option->keyword;
             compareChoices(ppd, rules, option, forbidden[keyword], &conflicts);
@@ -317,7 +317,7 @@ void AgreeWithLibcupsTest::onAnyPpd()
                 compareResolutions(ppd, rules, keep, &spared);
             const Forbidden after = forbiddenBy(rules, options);
             for (auto it = revisions.begin(); it != revisions.end(); ++it) {
-                if (rules.revision(it.key().toStdString()) == it.value())
+                if (rules.revision(rules.engine().findOption(it.key().toStdString())) == it.value())
                     QCOMPARE(after.value(it.key()), forbidden.value(it.key()));
             }
         }
