@@ -52,7 +52,8 @@ ChoiceBox::~ChoiceBox() = default;
 void ChoiceBox::setObstacle(int index, const QString &reason)
 {
     auto *item = static_cast<QStandardItemModel *>(model())->item(index);
-    if (item->isEnabled() == reason.isEmpty() && item->accessibleDescription() == reason)
+    if (item->isEnabled() == reason.isEmpty() &&
+        (reason.isEmpty() || item->accessibleDescription() == reason))
         return;
     item->setEnabled(reason.isEmpty());
     item->setAccessibleDescription(reason);

@@ -179,11 +179,12 @@ void OptionForm::refreshFrom(qsizetype first)
     for (qsizetype i = first; i < m_rows.size(); ++i)
         keywords.append(m_rows.at(i).keyword);
     const QList<quint32> revisions = m_session->ppd()->forbiddenRevisions(keywords);
+    const bool isBooklet = m_session->general().layout.isBooklet();
     for (qsizetype i = first; i < m_rows.size(); ++i)
-        refreshRow(m_rows[i], revisions.at(i - first));
+        refreshRow(m_rows[i], revisions.at(i - first), isBooklet);
 }
 
-void OptionForm::refreshRow(Row &row, quint32 revision)
+void OptionForm::refreshRow(Row &row, quint32 revision, bool isBooklet)
 {
     const QString marked = m_session->ppd()->markedChoice(row.keyword);
     if (row.isTyped && marked != row.marked) { // set elsewhere, for example by undo
@@ -197,7 +198,6 @@ void OptionForm::refreshRow(Row &row, quint32 revision)
         if (isCustom && !row.awaitsValues)
             row.editor->setChoice(marked);
     }
-    const bool isBooklet = m_session->general().layout.isBooklet();
     if (row.isDecided && row.current == current && row.revision == revision && row.isBooklet == isBooklet) {
         row.box->setCurrentIndex(row.index);
         return;
@@ -224,10 +224,10 @@ void OptionForm::greyOut(const Row &row)
         forbidden.insert(upsideDown, bookletChoice(true));
     for (int i = 0; i < row.box->count(); ++i) {
         const QString choice = row.box->itemData(i).toString();
-        const bool free = choice == row.current || !forbidden.contains(choice);
-        const OptionChoice obstacle = forbidden.value(choice);
-        row.box->setObstacle(i,
-                             free ? QString() : notAvailableWhile(obstacle.optionText, obstacle.choiceText));
+        const auto obstacle = choice == row.current ? forbidden.cend() : forbidden.constFind(choice);
+        row.box->setObstacle(i, obstacle == forbidden.cend()
+                                    ? QString()
+                                    : notAvailableWhile(obstacle->optionText, obstacle->choiceText));
     }
 }
 

@@ -67,7 +67,7 @@ private:
     void markCustom(qsizetype index);
     void finishCustom(qsizetype index);
     void refreshFrom(qsizetype first);
-    void refreshRow(Row &row, quint32 revision);
+    void refreshRow(Row &row, quint32 revision, bool isBooklet);
     void greyOut(const Row &row);
 
     DialogSession *m_session;
