@@ -193,17 +193,24 @@ struct ChangeMarks::Obstacle
     QRect place; // on the page
 };
 
-QList<ChangeMarks::Obstacle> ChangeMarks::obstaclesOn(const QWidget *sheet)
+// Adds the obstacles inside a widget that reach into a strip of the page. `origin` is the place of the
+// widget.
+void ChangeMarks::addObstacles(const QWidget *outer, const QPoint &origin, const QRect &strip,
+                               QList<Obstacle> *obstacles)
 {
-    QList<Obstacle> obstacles;
-    for (QWidget *widget : sheet->findChildren<QWidget *>()) {
-        const bool holdsOthers =
-            !widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).isEmpty();
-        if (widget->isVisibleTo(sheet) && !qobject_cast<const ChangeMark *>(widget) &&
-            (isControl(widget) || !holdsOthers))
-            obstacles.append({widget, QRect(widget->mapTo(sheet, QPoint()), widget->size())});
+    for (const QObject *child : outer->children()) {
+        const auto *widget = child->isWidgetType() ? static_cast<const QWidget *>(child) : nullptr;
+        if (!widget || widget->isHidden() || widget->isWindow())
+            continue;
+        const QRect place = widget->geometry().translated(origin);
+        if (!place.intersects(strip) || qobject_cast<const ChangeMark *>(widget))
+            continue;
+        const bool holdsOthers = std::any_of(widget->children().begin(), widget->children().end(),
+                                             [](const QObject *inner) { return inner->isWidgetType(); });
+        if (isControl(widget) || !holdsOthers)
+            obstacles->append({widget, place});
+        addObstacles(widget, place.topLeft(), strip, obstacles);
     }
-    return obstacles;
 }
 
 bool ChangeMarks::isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
@@ -219,19 +226,15 @@ bool ChangeMarks::isFree(const QRect &place, const QWidget *control, const QWidg
 void ChangeMarks::placeAll()
 {
     m_isPlaceQueued = false;
-    QList<Obstacle> obstacles;
     for (const Control &control : std::as_const(m_controls)) {
-        if (!control.mark || !control.widget)
-            continue;
-        if (obstacles.isEmpty())
-            obstacles = obstaclesOn(m_page->parentWidget());
-        place(control, obstacles);
+        if (control.mark && control.widget)
+            place(control);
     }
 }
 
 // Places a mark after its control, or before it if another widget is there. If neither place is free, moves
 // it along the line to the next free one.
-void ChangeMarks::place(const Control &control, const QList<Obstacle> &obstacles)
+void ChangeMarks::place(const Control &control)
 {
     QWidget *sheet = m_page->parentWidget();
     ChangeMark *mark = control.mark;
@@ -247,6 +250,8 @@ void ChangeMarks::place(const Control &control, const QList<Obstacle> &obstacles
     }
     const int top = around.center().y() - mark->height() / 2;
     const QPoint after(around.right() + gap, top), before(around.left() - gap - mark->width(), top);
+    QList<Obstacle> obstacles;
+    addObstacles(sheet, {}, QRect(0, top, sheet->width(), mark->height()), &obstacles);
     const bool isRightToLeft = sheet->isRightToLeft();
     const QPoint first = isRightToLeft ? before : after, second = isRightToLeft ? after : before;
     const auto fits = [&](const QPoint &at) { return isFree({at, mark->size()}, widget, sheet, obstacles); };

@@ -57,10 +57,11 @@ private:
     void describe(Control *control, const QString &change);
     void show(Control *control, bool isChanged, const QList<SettingChange> &changes);
     void placeAll();
-    static QList<Obstacle> obstaclesOn(const QWidget *sheet);
+    static void addObstacles(const QWidget *outer, const QPoint &origin, const QRect &strip,
+                             QList<Obstacle> *obstacles);
     static bool isFree(const QRect &place, const QWidget *control, const QWidget *sheet,
                        const QList<Obstacle> &obstacles);
-    void place(const Control &control, const QList<Obstacle> &obstacles);
+    void place(const Control &control);
     void takeBack(const Control &control);
     bool showMenu(const Control &control, QWidget *widget, const QPoint &place);
 
