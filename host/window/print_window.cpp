@@ -119,7 +119,7 @@ void PrintWindow::connectParts()
         if (isReady())
             deliver();
     });
-    connect(m_queue.bar(), &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrange);
+    connect(m_queue.bar(), &MessageBar::buttonsChanged, &m_layout, &WindowLayout::arrangeBar);
     connect(m_guide, &Guide::partsChanged, &m_layout, &WindowLayout::arrange);
 }
 

@@ -47,14 +47,15 @@ QList<QWidget *> inOrderOfKeys(const WindowLayout::Parts &parts)
 {
     QList<QWidget *> order(parts.footer.crbegin(), parts.footer.crend());
     order.insert(1, parts.picker);
-    return order + QList<QWidget *>{parts.book->pages()} + parts.otherPages + QList<QWidget *>{parts.bar};
+    return order + QList<QWidget *>{parts.book->pages()} + parts.otherPages;
 }
 
 } // namespace
 
 WindowLayout::WindowLayout(QWidget *window, const Parts &parts)
     : QObject(window), m_window(window), m_parts(parts), m_keys(new AccessKeys(window, inOrderOfKeys(parts))),
-      m_footer(new QHBoxLayout), m_barRow(new QHBoxLayout)
+      m_barKeys(new AccessKeys(window, {parts.bar}, m_keys)), m_footer(new QHBoxLayout),
+      m_barRow(new QHBoxLayout)
 {
     build();
 }
@@ -95,7 +96,22 @@ void WindowLayout::arrange()
     fit();
 }
 
+void WindowLayout::arrangeBar()
+{
+    chainTabs();
+    m_barKeys->assign();
+    keepLabelsAligned(m_window);
+    fit();
+}
+
 void WindowLayout::arrangeKeys()
+{
+    chainTabs();
+    m_keys->assign();
+    keepLabelsAligned(m_window);
+}
+
+void WindowLayout::chainTabs()
 {
     QList<QWidget *> order = QList<QWidget *>{m_parts.picker} + m_parts.finder->parts();
     order.append({m_parts.book->list(), m_parts.book->stack(), m_parts.book->pages()}); // the preview last
@@ -104,8 +120,6 @@ void WindowLayout::arrangeKeys()
     if (m_guide)
         order.append(m_guide);
     chainTabOrder(order + m_parts.footer);
-    m_keys->assign();
-    keepLabelsAligned(m_window);
 }
 
 void WindowLayout::setRoom(const QSize &room)

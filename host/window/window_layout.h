@@ -48,11 +48,14 @@ public:
 public Q_SLOTS:
     // Call when other parts are shown, to update tab order, access keys and size.
     void arrange();
+    // The message bar shows other buttons, or none.
+    void arrangeBar();
     // The page has additional controls: updates tab order and access keys.
     void arrangeKeys();
 
 private:
     void build();
+    void chainTabs();
     void setCompact(bool compact);
     QSize wantedSize(const QSize &room, bool mayGrow) const;
     int initialHeight() const;
@@ -60,6 +63,7 @@ private:
     QWidget *m_window;
     Parts m_parts;
     AccessKeys *m_keys;
+    AccessKeys *m_barKeys; // the bar is shown and hidden while the other parts stay
     QHBoxLayout *m_footer;
     QHBoxLayout *m_barRow;
     QWidget *m_guide = nullptr;

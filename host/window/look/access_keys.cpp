@@ -89,9 +89,11 @@ int lostKerning(const QFontMetrics &metrics, const QString &shown)
 
 } // namespace
 
-AccessKeys::AccessKeys(QWidget *window, const QList<QWidget *> &parts)
-    : QObject(window), m_window(window), m_parts(parts)
+AccessKeys::AccessKeys(QWidget *window, const QList<QWidget *> &parts, AccessKeys *others)
+    : QObject(window), m_window(window), m_parts(parts), m_others(others)
 {
+    if (m_others)
+        m_others->m_follower = this;
 }
 
 QString AccessKeys::ownText(QWidget *widget) const
@@ -106,7 +108,7 @@ void AccessKeys::assign()
     m_queued = false;
     QHash<QWidget *, Texts> texts;
     texts.reserve(m_texts.size());
-    QList<QWidget *> usable, yielding, withOtherKey, unusable, passing;
+    QList<QWidget *> usable, yielding, withOtherKey, unusable;
     for (QWidget *part : std::as_const(m_parts)) {
         for (QWidget *widget : keyedWidgets(part)) {
             if (texts.contains(widget))
@@ -120,18 +122,17 @@ void AccessKeys::assign()
             known.shown = isShown ? known.own : textOf(widget);
             texts.insert(widget, known);
             if (isShown)
-                (part == m_parts.last()               ? passing
-                 : !isUsable(widget)                  ? unusable
+                (!isUsable(widget)                    ? unusable
                  : isMarked(widget, otherKeyProperty) ? withOtherKey
                  : isMarked(widget, yieldingProperty) ? yielding
                                                       : usable)
                     .append(widget);
         }
     }
-    Mnemonics keys;
-    bool isKnown = true; // so far the texts are those of the last call, as usual when a message appears
+    Mnemonics keys = m_others ? m_others->m_groups.back().keys : Mnemonics();
+    bool isKnown = !std::exchange(m_isOutdated, false); // so far the texts are those of the last call
     auto group = m_groups.begin();
-    for (const QList<QWidget *> &widgets : {usable + yielding, withOtherKey, unusable, passing}) {
+    for (const QList<QWidget *> &widgets : {usable + yielding, withOtherKey, unusable}) {
         QStringList own;
         for (QWidget *widget : widgets)
             own.append(texts[widget].own);
@@ -154,6 +155,10 @@ void AccessKeys::assign()
     m_texts = texts;
     if (isWider && m_window->isVisible()) // so that nothing moves after the first paint
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (m_follower) {
+        m_follower->m_isOutdated |= !isKnown;
+        m_follower->assign();
+    }
 }
 
 // A label without a fixed width gets the width in which its text is drawn. True if the width has changed.

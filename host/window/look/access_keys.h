@@ -21,9 +21,8 @@ namespace host {
 // Assigns unique access keys to the visible buttons and labels of fields of the host and the panels. A text
 // gets the key that it requests. If another text has that key, or it requests none, it gets another one. Keys
 // are assigned in the order of the parts; texts with yieldingProperty come after the others. Then follow
-// widgets with otherKeyProperty, and disabled widgets. The last part, which is shown and hidden while the
-// others stay, gets only keys that are left, so that the keys of the others do not change. Updated when
-// widgets are shown, hidden, enabled and disabled. A child of its window.
+// widgets with otherKeyProperty, and disabled widgets. Updated when widgets are shown, hidden, enabled and
+// disabled. A child of its window.
 class AccessKeys : public QObject
 {
     Q_OBJECT
@@ -36,13 +35,14 @@ public:
     // Set to true on a button with a standard key, such as Escape, which is the last to need an access key.
     static constexpr const char *otherKeyProperty = "hasOtherKey";
 
-    // The parts are owned by the window and outlive this object.
-    AccessKeys(QWidget *window, const QList<QWidget *> &parts);
+    // The parts are owned by the window and outlive this object. Parts that are shown and hidden while the
+    // others stay get only the keys that `others` has left, so that the keys of the others do not change.
+    AccessKeys(QWidget *window, const QList<QWidget *> &parts, AccessKeys *others = nullptr);
 
     // Adds a part with the highest precedence, since it is shown with every page.
     void addPart(QWidget *part) { m_parts.prepend(part); }
 
-    // Assigns access keys to the visible texts.
+    // Assigns access keys to the visible texts, and then to those that get only the keys that are left.
     void assign();
 
 protected:
@@ -70,7 +70,10 @@ private:
     QWidget *m_window;
     QList<QWidget *> m_parts;
     QHash<QWidget *, Texts> m_texts; // of the widgets found last
-    std::array<Group, 4> m_groups;
+    std::array<Group, 3> m_groups;
+    AccessKeys *m_others;             // may be null
+    AccessKeys *m_follower = nullptr; // gets only the keys that are left; may be null
+    bool m_isOutdated = true;         // the keys that `m_others` has left may have changed
     bool m_queued = false;
 };
 
