@@ -22,17 +22,24 @@ namespace {
 constexpr int iconSize = 20; // pixels
 constexpr int buttonGap = 8; // pixels
 
-// A plain text that can be selected. Its height for a width is kept, since Qt lays out such a text again for
-// every measurement. For the same reason, the preferred width is the current one.
-class SelectableLabel : public QLabel
+} // namespace
+
+// A plain text that can be selected. It is made selectable when the mouse reaches it, since Qt lays out a
+// selectable text six times before it paints it. The height for a width is kept, since Qt lays out the text
+// again for every measurement. For the same reason, the preferred width is the current one.
+class MessageBar::Text : public QLabel
 {
 public:
-    SelectableLabel()
+    Text()
     {
         setTextFormat(Qt::PlainText);
         setWordWrap(true);
-        setTextInteractionFlags(Qt::TextSelectableByMouse);
-        setFocusPolicy(Qt::NoFocus);
+    }
+    void showText(const QString &text)
+    {
+        if (!underMouse())
+            setTextInteractionFlags(Qt::NoTextInteraction);
+        setText(text);
     }
     QSize sizeHint() const override { return {width(), fontMetrics().height()}; }
     QSize minimumSizeHint() const override { return {0, fontMetrics().height()}; }
@@ -47,13 +54,19 @@ public:
         return m_height;
     }
 
+protected:
+    void enterEvent(QEnterEvent *event) override
+    {
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        setFocusPolicy(Qt::NoFocus);
+        QLabel::enterEvent(event);
+    }
+
 private:
     mutable int m_width = -1, m_height = 0; // pixels, of m_text in m_font
     mutable QString m_text;
     mutable QFont m_font;
 };
-
-} // namespace
 
 MessageBar::MessageBar(QWidget *parent) : QFrame(parent)
 {
@@ -66,8 +79,8 @@ void MessageBar::build()
 {
     m_glyph = new StatusGlyph(iconSize, this);
     m_scroll = new QScrollArea(this);
-    m_title = new SelectableLabel;
-    m_lines = new SelectableLabel;
+    m_title = new Text;
+    m_lines = new Text;
     m_row = new QBoxLayout(QBoxLayout::TopToBottom);
     m_buttonRows = new QVBoxLayout;
     QFont bold = m_title->font();
@@ -117,8 +130,8 @@ void MessageBar::showMessage(const Message &message)
     m_message = message;
     m_glyph->setKind(message.kind);
     const QString lines = message.lines.join(QLatin1Char('\n'));
-    m_title->setText(wrappable(message.title));
-    m_lines->setText(wrappable(lines));
+    m_title->showText(wrappable(message.title));
+    m_lines->showText(wrappable(lines));
     m_lines->setToolTip(tooltipOf(lines));
     m_lines->setVisible(!lines.isEmpty());
     const bool hadFocus = isAncestorOf(QApplication::focusWidget());

@@ -12,7 +12,6 @@
 
 class QBoxLayout;
 class QVBoxLayout;
-class QLabel;
 class QPushButton;
 class QScrollArea;
 
@@ -63,6 +62,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    class Text;
     void build();
     void addButton(const QString &text, int index);
     void removeButtons();
@@ -79,8 +79,8 @@ private:
     StatusGlyph *m_glyph = nullptr;
     QScrollArea *m_scroll = nullptr;
     QWidget *m_sheet = nullptr; // contains the texts, and is announced to screen readers
-    QLabel *m_title = nullptr;
-    QLabel *m_lines = nullptr;
+    Text *m_title = nullptr;
+    Text *m_lines = nullptr;
     QBoxLayout *m_row = nullptr;
     QVBoxLayout *m_buttonRows = nullptr;
     QList<QPushButton *> m_buttons;
