@@ -6,6 +6,7 @@
 #include "host/window/pages/page_list.h"
 #include "tests/host/window_fixture.h"
 
+#include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTest>
@@ -22,6 +23,7 @@ class MessageBarTest : public WindowFixture
 private Q_SLOTS:
     void conflictIsExplainedAndResolved();
     void noticesOutliveAQuestion();
+    void textsCanBeSelected();
     void screenShowsEveryChange_data();
     void screenShowsEveryChange();
 };
@@ -83,6 +85,27 @@ void MessageBarTest::noticesOutliveAQuestion()
     QVERIFY(areShown());
     bar->buttons().first()->click();
     QVERIFY(!bar->isShowing());
+}
+
+void MessageBarTest::textsCanBeSelected()
+{
+    PrintWindow &window = open();
+    for (const QString &notice : {u"first"_s, u"second"_s}) { // the second one replaces a selectable text
+        window.session()->addNotice(notice);
+        Q_EMIT window.session()->changed();
+        QCoreApplication::processEvents();
+        QLabel *text = nullptr;
+        for (auto *label : find<MessageBar>()->findChildren<QLabel *>())
+            text = label->text().endsWith(notice) ? label : text;
+        QVERIFY(text);
+        const QPoint word(4, text->height() - 4);
+        QTest::mouseMove(text, word);
+        QCoreApplication::processEvents();
+        QTest::mouseDClick(text, Qt::LeftButton, {}, word);
+        QCOMPARE(text->selectedText(), notice);
+        QTest::mouseMove(&window, QPoint(1, 1));
+        QCoreApplication::processEvents();
+    }
 }
 
 void MessageBarTest::screenShowsEveryChange_data()
