@@ -12,22 +12,27 @@ EarlyPrinter::EarlyPrinter(const QString &name)
 {
     struct Promises
     {
-        std::promise<Answer> answer;
+        std::promise<QString> name;
+        std::promise<std::optional<Destination>> destination;
         std::promise<std::unique_ptr<PpdDocument>> ppd;
     };
     auto promises = std::make_shared<Promises>();
-    m_answer = promises->answer.get_future();
+    m_name = promises->name.get_future();
+    m_destination = promises->destination.get_future();
     m_ppd = promises->ppd.get_future();
+    if (!name.isEmpty())
+        promises->name.set_value(name);
     platform::Background::start(
         [promises, name] {
             CupsPrintSystem system;
             PrintError ignored;
-            Answer answer{name.isEmpty() ? RememberedPrinter().name() : name, {}};
-            answer.destination = system.destination(answer.name, &ignored);
-            if (answer.destination && !answer.destination->optionsProblem.isNull())
-                answer.destination.reset(); // to be reported later in the user's language
-            const auto destination = answer.destination;
-            promises->answer.set_value(std::move(answer));
+            const QString wanted = name.isEmpty() ? RememberedPrinter().name() : name;
+            if (name.isEmpty())
+                promises->name.set_value(wanted);
+            auto destination = system.destination(wanted, &ignored);
+            if (destination && !destination->optionsProblem.isNull())
+                destination.reset(); // to be reported later in the user's language
+            promises->destination.set_value(destination);
             auto ppd = destination ? system.ppd(*destination, &ignored) : nullptr;
             if (ppd)
                 ppd->readConstraints();
@@ -38,22 +43,31 @@ EarlyPrinter::EarlyPrinter(const QString &name)
 
 std::optional<Destination> EarlyPrinter::takeDestination(const QString &name)
 {
-    const std::lock_guard lock(m_mutex);
-    if (!m_answer.valid())
-        return std::nullopt;
-    const Answer answer = m_answer.get();
-    if (answer.name != name || !answer.destination) {
-        m_ppd = {};
-        return std::nullopt;
+    std::future<std::optional<Destination>> awaited;
+    {
+        const std::lock_guard lock(m_mutex);
+        const bool isNameKnown = m_name.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+        if (isNameKnown && m_name.get() == name)
+            awaited = std::move(m_destination);
+        m_destination = {};
     }
-    m_queue = answer.destination->queue;
-    return answer.destination;
+    const auto destination = awaited.valid() ? awaited.get() : std::nullopt;
+    if (destination) {
+        const std::lock_guard lock(m_mutex);
+        m_queue = destination->queue;
+    }
+    return destination;
 }
 
 std::unique_ptr<PpdDocument> EarlyPrinter::takePpd(const QString &queue)
 {
-    const std::lock_guard lock(m_mutex);
-    return m_ppd.valid() && queue == m_queue ? m_ppd.get() : nullptr;
+    std::future<std::unique_ptr<PpdDocument>> awaited;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (queue == m_queue)
+            awaited = std::move(m_ppd);
+    }
+    return awaited.valid() ? awaited.get() : nullptr;
 }
 
 } // namespace host

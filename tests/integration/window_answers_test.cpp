@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The kelmar-print authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "host/printing/early_printer.h"
 #include "host/window/jobs/result_page.h"
 #include "host/window/messages/message_bar.h"
 #include "host/window/pages/page_book.h"
@@ -48,6 +49,8 @@ private Q_SLOTS:
     void serverNeverAnswers();
     void serverStopsAnswering_data();
     void serverStopsAnswering();
+    void earlyRequestNeverAnswers_data();
+    void earlyRequestNeverAnswers();
     void settingsFileNeverAnswers();
     void serverAnswersLate();
     void windowGoesBeforeTheAnswer_data();
@@ -72,6 +75,7 @@ void WindowAnswersTest::serverNeverAnswers_data()
     };
     const char *canceled = "Printing was canceled.";
     bothWays("anything", Stage::Opening, "all");
+    bothWays("destination", Stage::Opening, "000b");
     bothWays("PPD", Stage::Opening, "ppd");
     QTest::newRow("printer list") << Stage::Listing << QByteArray("4002") << Way::Close << QString();
     bothWays("queue", Stage::Sending, "000b", canceled);
@@ -183,6 +187,40 @@ void WindowAnswersTest::serverStopsAnswering()
             submission ? QString(told).replace(u"%1"_s, QString::number(submission->job.id)) : told);
     };
     QTRY_VERIFY2(isTold(), qPrintable(text()));
+}
+
+void WindowAnswersTest::earlyRequestNeverAnswers_data()
+{
+    QTest::addColumn<QByteArray>("request"); // in the proxy's naming
+    QTest::addColumn<QString>("next");
+    QTest::newRow("destination, then the same printer") << QByteArray("all") << u"office"_s;
+    QTest::newRow("destination, then another printer") << QByteArray("all") << u"halted"_s;
+    QTest::newRow("PPD, then the same printer") << QByteArray("ppd") << u"office"_s;
+    QTest::newRow("PPD, then another printer") << QByteArray("ppd") << u"halted"_s;
+}
+
+// Requests of the program's start that hang must not delay later ones.
+void WindowAnswersTest::earlyRequestNeverAnswers()
+{
+    QFETCH(QByteArray, request);
+    QFETCH(QString, next);
+    QVERIFY(m_proxy->command("stall " + request));
+    CupsPrintSystem system;
+    system.setEarlyPrinter(std::make_shared<EarlyPrinter>(u"office"_s));
+    m_heart->start();
+    open(u"office"_s, &system);
+    QTRY_VERIFY(m_proxy->hasStalled());
+    auto *waiting = find<WaitingPage>();
+    QTRY_VERIFY(waiting->isVisible());
+    clickUntil(
+        waiting->cancelButton(), [&] { return find<UnavailablePage>()->isVisible(); }, "do not wait");
+    QVERIFY(m_proxy->command("stall nothing")); // else; the first request still waits
+    Q_EMIT find<PrinterPicker>()->picked(next);
+    QTRY_VERIFY(m_window->session());
+    QCOMPARE(m_window->session()->destination().queue, next);
+    m_window.reset();
+    QVERIFY(m_proxy->command("pass"));
+    QTRY_VERIFY(!platform::Background::isUnderWay()); // before the print system is destroyed
 }
 
 // As with a home folder that is temporarily unavailable.
