@@ -52,8 +52,8 @@ class Session:
         self._folder.cleanup()
 
     def _start_display(self):
-        # With -noreset, since the server of a desktop does not restart either when its last client has ended. The next program
-        # would wait for that.
+        # -noreset: like the server of a desktop, it does not restart when its last client ends. The next program would wait for
+        # the restart.
         reading, writing = os.pipe()
         self._xvfb = subprocess.Popen(
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],

@@ -22,7 +22,7 @@ RESIDENT_GOAL = 1.0  # of Qt's print dialog, with a PPD of the family
 LARGE_RESIDENT_GOAL = 0.75
 FAMILY, FEW, MANY = "family", 1000, 20000  # a PPD of the family; numbers of constraints
 BARE, OURS, QT, GTK, LIBCUPS = "bare Qt dialog", "kelmar-print", "Qt print dialog", "GTK print dialog", "libcups alone"
-BARE_CUPS = "bare Qt dialog with libcups loaded"
+OURS_GENERAL, BARE_CUPS = "kelmar-print, page \"General\"", "bare Qt dialog with libcups loaded"
 
 
 def dialogs(build, queue, panel):
@@ -42,7 +42,9 @@ def measure(build, counts, repetitions, peers=(QT, LIBCUPS)):
             is_family = count == FAMILY
             queue = "office" if is_family else session.add_large_queue(build, count)
             commands = dialogs(build, queue, "print-mode" if is_family else "more")
-            if not is_family:
+            if is_family:
+                programs[OURS_GENERAL, count] = dialogs(build, queue, "general")[OURS]
+            else:
                 commands[LIBCUPS] = [str(build / "bench/libcups_open"), queue]
             programs |= {(name, count): command for name, command in commands.items() if name == OURS or name in peers}
         return session.measure(programs, repetitions)
@@ -60,11 +62,11 @@ def goals(figures):
     def growth(of):
         return of[MANY][0] - of[FEW][0]
     yield "Own share of the start, family PPD", share(FAMILY), SHARE_GOAL
-    yield f"Own share of the start, {MANY} constraints", share(MANY), LARGE_SHARE_GOAL
-    yield f"Growth from {FEW} constraints, of Qt's", growth(own) / growth(peer), GROWTH_GOAL
-    yield f"Growth from {FEW} constraints, times libcups's", growth(own) / growth(libcups), LIBCUPS_GROWTH_GOAL
-    yield "Resident memory, of Qt's, family PPD", own[FAMILY][1] / peer[FAMILY][1], RESIDENT_GOAL
-    yield f"Resident memory, of Qt's, {MANY} constraints", own[MANY][1] / peer[MANY][1], LARGE_RESIDENT_GOAL
+    yield f"Own share of the start, {MANY:,} constraints", share(MANY), LARGE_SHARE_GOAL
+    yield f"Growth from {FEW:,} constraints, relative to Qt's", growth(own) / growth(peer), GROWTH_GOAL
+    yield f"Growth from {FEW:,} constraints, relative to libcups", growth(own) / growth(libcups), LIBCUPS_GROWTH_GOAL
+    yield "Resident memory, relative to Qt's, family PPD", own[FAMILY][1] / peer[FAMILY][1], RESIDENT_GOAL
+    yield f"Resident memory, relative to Qt's, {MANY:,} constraints", own[MANY][1] / peer[MANY][1], LARGE_RESIDENT_GOAL
 
 
 def main():
