@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -75,14 +76,17 @@ void PpdRules::refresh()
     if (marked == m_marked && size == m_size)
         return;
     auto marks = marksOf(marked);
-    std::vector<Mark> changed;
-    std::ranges::set_symmetric_difference(marks, m_marks, std::back_inserter(changed));
+    std::vector<Mark> different;
+    std::ranges::set_symmetric_difference(marks, m_marks, std::back_inserter(different));
+    std::set<Option> changed;
+    for (const Mark &mark : different)
+        changed.insert(mark.first);
+    if (std::exchange(m_size, size) != size && m_pageSize != none)
+        changed.insert(m_pageSize);
     m_marked = std::move(marked);
     m_marks = std::move(marks);
-    if (std::exchange(m_size, size) != size && m_pageSize != none)
-        changed.emplace_back(m_pageSize, nullptr);
-    for (const Mark &mark : changed)
-        readMarks(mark.first);
+    for (const Option option : changed)
+        readMarks(option);
 }
 
 void PpdRules::readMarks(Option option)

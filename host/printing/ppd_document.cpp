@@ -116,11 +116,13 @@ PpdDocument::PpdDocument(ppd_file_s *ppd) : m_ppd(ppd)
     forEachOption(ppd->groups, ppd->num_groups, [this](const ppd_group_t &group, const ppd_option_t &option) {
         if (isShadowOfPageSize(option.keyword))
             return;
-        const QString keyword = text(option.keyword);
-        m_keywords.append(keyword);
-        const bool isInstallable = qstrcmp(group.name, "InstallableOptions") == 0;
-        (isInstallable ? m_installable : m_settable).append(keyword);
+        m_keywords.append(text(option.keyword));
+        // A keyword may be in several groups.
+        if (ppdFindOption(m_ppd, option.keyword) == &option && qstrcmp(group.name, "InstallableOptions") == 0)
+            m_installable.append(m_keywords.last());
     });
+    m_settable = m_keywords;
+    m_settable.removeIf([this](const QString &keyword) { return m_installable.contains(keyword); });
 }
 
 std::unique_ptr<PpdDocument> PpdDocument::open(const QString &path, PrintError *error)
@@ -224,7 +226,7 @@ std::optional<PpdOption> PpdDocument::option(const QString &keyword) const
 QString PpdDocument::markedChoice(const QString &keyword) const
 {
     auto &[known, name] = m_known[keyword];
-    if (known && known->marked) // most marks stay
+    if (known && known->marked) // libcups clears this when another choice is marked
         return name;
     const ppd_choice_t *choice = marked(m_ppd, keyword);
     if (!choice)
@@ -232,7 +234,7 @@ QString PpdDocument::markedChoice(const QString &keyword) const
     const auto custom =
         qstrcmp(choice->choice, "Custom") == 0 ? customChoiceOf(m_ppd, choice->option) : std::nullopt;
     if (!custom) {
-        known = choice;
+        known = choice->option->ui == PPD_UI_PICKMANY ? nullptr : choice;
         name = text(choice->choice);
         return name;
     }

@@ -41,8 +41,8 @@ void forEachDifference(const Map &one, const Map &other, const Visit &visit)
 template <typename Map>
 void addDifferences(const Map &one, const Map &other, QStringList *keys)
 {
-    forEachDifference(one, other, [keys](const QString &key, const auto *value, const auto *another) {
-        if (value && another)
+    forEachDifference(one, other, [keys](const QString &key, const auto *value, const auto *otherValue) {
+        if (value && otherValue)
             keys->append(key);
     });
 }
@@ -51,11 +51,11 @@ template <typename Map>
 void dropAlike(Map *one, Map *other)
 {
     Map ones, others;
-    forEachDifference(*one, *other, [&](const QString &key, const auto *value, const auto *another) {
+    forEachDifference(*one, *other, [&](const QString &key, const auto *value, const auto *otherValue) {
         if (value)
             ones.insert(key, *value);
-        if (another)
-            others.insert(key, *another);
+        if (otherValue)
+            others.insert(key, *otherValue);
     });
     *one = std::move(ones);
     *other = std::move(others);
