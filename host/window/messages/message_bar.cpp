@@ -57,12 +57,22 @@ public:
 protected:
     void enterEvent(QEnterEvent *event) override
     {
-        setTextInteractionFlags(Qt::TextSelectableByMouse);
-        setFocusPolicy(Qt::NoFocus);
+        makeSelectable();
         QLabel::enterEvent(event);
+    }
+    void mousePressEvent(QMouseEvent *event) override // also sent for a touch
+    {
+        makeSelectable();
+        QLabel::mousePressEvent(event);
     }
 
 private:
+    void makeSelectable()
+    {
+        setTextInteractionFlags(Qt::TextSelectableByMouse);
+        setFocusPolicy(Qt::NoFocus);
+    }
+
     mutable int m_width = -1, m_height = 0; // pixels, of m_text in m_font
     mutable QString m_text;
     mutable QFont m_font;
