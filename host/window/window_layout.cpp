@@ -98,20 +98,16 @@ void WindowLayout::arrange()
 
 void WindowLayout::arrangeBar()
 {
-    chainTabs();
-    m_barKeys->assign();
-    keepLabelsAligned(m_window);
+    assignKeys(m_barKeys);
     fit();
 }
 
 void WindowLayout::arrangeKeys()
 {
-    chainTabs();
-    m_keys->assign();
-    keepLabelsAligned(m_window);
+    assignKeys(m_keys);
 }
 
-void WindowLayout::chainTabs()
+void WindowLayout::assignKeys(AccessKeys *keys)
 {
     QList<QWidget *> order = QList<QWidget *>{m_parts.picker} + m_parts.finder->parts();
     order.append({m_parts.book->list(), m_parts.book->stack(), m_parts.book->pages()}); // the preview last
@@ -120,6 +116,8 @@ void WindowLayout::chainTabs()
     if (m_guide)
         order.append(m_guide);
     chainTabOrder(order + m_parts.footer);
+    keys->assign();
+    keepLabelsAligned(m_window);
 }
 
 void WindowLayout::setRoom(const QSize &room)

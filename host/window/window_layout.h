@@ -48,14 +48,14 @@ public:
 public Q_SLOTS:
     // Call when other parts are shown, to update tab order, access keys and size.
     void arrange();
-    // The message bar shows other buttons, or none.
+    // Call when the message bar shows other buttons, or none.
     void arrangeBar();
     // The page has additional controls: updates tab order and access keys.
     void arrangeKeys();
 
 private:
     void build();
-    void chainTabs();
+    void assignKeys(AccessKeys *keys);
     void setCompact(bool compact);
     QSize wantedSize(const QSize &room, bool mayGrow) const;
     int initialHeight() const;
