@@ -2584,6 +2584,10 @@ Rückgabewerte: 0 Erfolg, 1 Fehler, 2 falscher Aufruf, 3 Einstellungen, die nich
         <translation>Seiten des Dialogs</translation>
     </message>
     <message>
+        <source>has changed settings</source>
+        <translation>enthält geänderte Einstellungen</translation>
+    </message>
+    <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
         <translation>%1: enthält geänderte Einstellungen</translation>

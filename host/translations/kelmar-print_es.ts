@@ -2584,6 +2584,10 @@ Códigos de salida: 0 éxito, 1 error, 2 uso incorrecto, 3 ajustes que no se pue
         <translation>Páginas del diálogo</translation>
     </message>
     <message>
+        <source>has changed settings</source>
+        <translation>tiene ajustes cambiados</translation>
+    </message>
+    <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
         <translation>%1: tiene ajustes cambiados</translation>

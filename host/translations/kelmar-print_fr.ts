@@ -2584,6 +2584,10 @@ Codes de retour&#xa0;: 0 succès, 1 échec, 2 usage incorrect, 3 réglages incom
         <translation>Pages de la boîte de dialogue</translation>
     </message>
     <message>
+        <source>has changed settings</source>
+        <translation>contient des réglages modifiés</translation>
+    </message>
+    <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
         <translation>%1&#xa0;: contient des réglages modifiés</translation>

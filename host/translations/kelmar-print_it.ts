@@ -2584,6 +2584,10 @@ Codici di uscita: 0 successo, 1 errore, 2 uso scorretto, 3 impostazioni che non 
         <translation>Pagine della finestra di dialogo</translation>
     </message>
     <message>
+        <source>has changed settings</source>
+        <translation>contiene impostazioni modificate</translation>
+    </message>
+    <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
         <translation>%1: contiene impostazioni modificate</translation>

@@ -2582,6 +2582,10 @@ Exit codes: 0 success, 1 failure, 2 wrong usage, 3 settings that cannot be used 
         <translation>ダイアログのページ</translation>
     </message>
     <message>
+        <source>has changed settings</source>
+        <translation>変更された設定があります</translation>
+    </message>
+    <message>
         <source>%1: has changed settings</source>
         <comment>a page</comment>
         <translation>%1: 変更された設定があります</translation>

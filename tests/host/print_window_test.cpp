@@ -49,6 +49,7 @@ private Q_SLOTS:
     void panelsAreRestoredWhenShown();
     void keysSelectAPage_data();
     void keysSelectAPage();
+    void selectedRowIsVisible();
     void escapeCancels();
     void customSizeIsTyped();
     void unfinishedPasswordStopsPrinting();
@@ -312,27 +313,42 @@ void PrintWindowTest::panelsAreRestoredWhenShown()
 
 void PrintWindowTest::keysSelectAPage_data()
 {
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("next") << Qt::Key_Down << u"Job"_s;
-    QTest::newRow("previous") << Qt::Key_Up << u"General"_s;
-    QTest::newRow("last") << Qt::Key_End << u"Summary"_s;
-    QTest::newRow("letter") << Qt::Key_S << u"Summary"_s;
-    QTest::newRow("letter of an earlier page") << Qt::Key_G << u"General"_s;
-    QTest::newRow("letter of no page") << Qt::Key_X << u"More Options"_s;
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<int>("row");
+    QTest::newRow("next") << QStringList{u"Down"_s} << 2;
+    QTest::newRow("previous") << QStringList{u"Up"_s} << 0;
+    QTest::newRow("first") << QStringList{u"Home"_s} << 0;
+    QTest::newRow("last") << QStringList{u"End"_s} << 3;
+    QTest::newRow("letter") << QStringList{u"S"_s} << 2;
+    QTest::newRow("same letter again") << QStringList{u"S"_s, u"S"_s} << 3;
+    QTest::newRow("several letters") << QStringList{u"S"_s, u"U"_s} << 3;
+    QTest::newRow("letter of no page") << QStringList{u"S"_s, u"X"_s} << 2;
+    QTest::newRow("access key") << QStringList{u"Alt+S"_s} << 1;
 }
 
 void PrintWindowTest::keysSelectAPage()
 {
-    QFETCH(const Qt::Key, key);
-    QFETCH(const QString, page);
+    QFETCH(const QStringList, keys);
+    QFETCH(const int, row);
+    PageList list;
+    for (const QString &title : {u"General"_s, u"Paper & Tray"_s, u"Security"_s, u"Summary"_s})
+        list.addPage(title);
+    list.setCurrentIndex(1);
+    for (const QString &key : keys)
+        QTest::keySequence(&list, QKeySequence(key));
+    QCOMPARE(list.currentIndex(), row);
+}
+
+void PrintWindowTest::selectedRowIsVisible()
+{
     PrintWindow &window = open();
-    window.book()->showPage(window.book()->pageNamed(u"more"_s));
+    window.book()->setFixedHeight(80); // lower than its rows
+    QCoreApplication::processEvents();
     auto *list = find<PageList>();
-    list->setFocus();
-    QTest::keyClick(list, key);
-    QCOMPARE(window.book()->titleOf(window.book()->currentRow()), page);
-    QCOMPARE(list->currentIndex(), window.book()->currentRow());
+    for (const int row : {list->count() - 1, 0}) {
+        window.book()->showPage(row);
+        QVERIFY(list->visibleRegion().contains(list->tabRect(row)));
+    }
 }
 
 void PrintWindowTest::escapeCancels()

@@ -10,7 +10,6 @@
 #include <QEvent>
 #include <QListView>
 #include <QPainter>
-#include <QTabBar>
 
 namespace host {
 
@@ -20,7 +19,7 @@ constexpr int margin = 3; // pixels around the control
 
 bool marksItself(const QWidget *widget)
 {
-    return qobject_cast<const QListView *>(widget) || qobject_cast<const QTabBar *>(widget);
+    return qobject_cast<const QListView *>(widget) || widget->property(FocusRing::ownMarkProperty).toBool();
 }
 
 // The outermost parent that scrolls together with the control; a nearer parent would clip the frame.

@@ -16,6 +16,9 @@ class FocusRing : public QObject
 {
     Q_OBJECT
 public:
+    // Set to true on another widget that has its own mark.
+    static constexpr const char *ownMarkProperty = "marksFocus";
+
     explicit FocusRing(QWidget *window);
     ~FocusRing() override;
 

@@ -30,6 +30,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 
@@ -82,16 +83,28 @@ void lockControls(const DialogSession &session, int panel, ChangeMarks *marks, P
         new HiddenControls(hidden, frame, frame);
 }
 
+// An area that scrolls the list if its rows do not fit.
+QScrollArea *scrolling(PageList *list)
+{
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(list);
+    return area;
+}
+
 } // namespace
 
 PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
-    : QWidget(parent), m_list(new PageList(this)), m_area(new QWidget(this)),
+    : QWidget(parent), m_list(new PageList), m_side(scrolling(m_list)), m_area(new QWidget(this)),
       m_stack(new QStackedWidget(m_area)), m_documents(documents)
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(m_list);
+    row->addWidget(m_side);
     row->addWidget(new Separator(Qt::Vertical, this));
     row->addWidget(m_area, 1);
     auto *pages = new QHBoxLayout(m_area);
@@ -105,7 +118,7 @@ PageBook::PageBook(DocumentChoice *documents, QWidget *parent)
     }
     // These widgets paint nothing themselves, so the page need not be painted again when the message bar
     // appears below it.
-    for (QWidget *part : QList<QWidget *>{this, m_area, m_stack})
+    for (QWidget *part : QList<QWidget *>{this, m_area, m_stack, m_side, m_side->viewport()})
         part->setAttribute(Qt::WA_StaticContents);
     connect(m_list, &QTabBar::currentChanged, this, &PageBook::showPage);
     for (const auto &[key, steps] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, -1}})
@@ -131,7 +144,7 @@ QList<QWidget *> PageBook::addNotes()
 void PageBook::fitParts()
 {
     const int least = m_list->minimumSizeHint().width();
-    m_list->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
+    m_side->setFixedWidth(qBound(least, m_list->sizeHint().width(), qMax(least, width() * 2 / 5)));
     if (!m_preview)
         return;
     // On other pages the size of the window does not include the preview. The spare width lets a label become
@@ -319,6 +332,8 @@ void PageBook::showPage(int row)
         m_list->setFocus();
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentIndex(allowed ? row : m_current);
+    const QRect place = m_list->tabRect(m_list->currentIndex());
+    m_side->ensureVisible(place.left(), place.center().y(), 0, place.height());
     if (!allowed)
         return;
     Page &page = m_pages[static_cast<size_t>(row)];

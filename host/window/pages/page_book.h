@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class QScrollArea;
 class QStackedWidget;
 
 namespace host {
@@ -39,7 +40,6 @@ public:
     DialogSession *session() const { return m_session; } // null before setSession() and after clear()
     void setSession(DialogSession *session, SessionHistory *history);
     void clear();
-
     // The row of a page by name: "general", "print-mode", "more", "job", "summary", a panel's kind, its last
     // part, or its title; -1 if there is none.
     int pageNamed(const QString &name) const;
@@ -62,7 +62,6 @@ public:
     PageList *list() const { return m_list; }
     QStackedWidget *stack() const { return m_stack; } // shows one page at a time
     QWidget *pages() const { return m_area; }         // contains the stack, and the preview next to it
-
     // Whether all input is valid; if not, shows the invalid field.
     bool checkTyped();
 
@@ -108,6 +107,7 @@ private:
     int m_current = -1;
     bool m_isPreparing = false;
     PageList *m_list;
+    QScrollArea *m_side; // contains the list
     QWidget *m_area;
     QStackedWidget *m_stack;
     DocumentChoice *m_documents = nullptr;

@@ -4,10 +4,14 @@
 #include "host/window/pages/page_list.h"
 
 #include "host/window/look/contrast.h"
+#include "host/window/look/focus_ring.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace host {
@@ -17,7 +21,9 @@ namespace {
 constexpr int sideMargin = 10; // pixels around the rows
 constexpr int textMargin = 12;
 constexpr int markRoom = 10; // for the mark of a change, after the longest name
-constexpr int narrowest = 170;
+constexpr int spareWidth = 4;
+constexpr int narrowest = 170; // the least preferred width
+constexpr int leastWidth = 120;
 
 // A small diamond in the margin after the name.
 void paintChanged(QPainter *painter, const QRect &row, const QColor &ink, Qt::LayoutDirection direction)
@@ -36,6 +42,8 @@ PageList::PageList(QWidget *parent) : QTabBar(parent)
 {
     setShape(QTabBar::RoundedWest);
     setExpanding(false);
+    setUsesScrollButtons(false);
+    setProperty(FocusRing::ownMarkProperty, true);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
@@ -50,15 +58,17 @@ void PageList::addPage(const QString &title)
 {
     const int row = addTab(QString(title).replace(QLatin1Char('&'), QLatin1String("&&")));
     setAccessibleTabName(row, title);
-    setTabToolTip(row, title);
     m_width = 0;
     updateGeometry();
 }
 
 void PageList::clear()
 {
-    while (count() > 0)
-        removeTab(count() - 1);
+    for (int row = count() - 1; row >= 0; --row) { // removing the current row makes another one current
+        if (row != currentIndex())
+            removeTab(row);
+    }
+    removeTab(currentIndex());
 }
 
 void PageList::setChanged(int row, bool changed)
@@ -66,8 +76,7 @@ void PageList::setChanged(int row, bool changed)
     if (tabData(row).toBool() == changed)
         return;
     setTabData(row, changed);
-    const QString title = accessibleTabName(row);
-    setTabToolTip(row, changed ? tr("%1: has changed settings", "a page").arg(title) : title);
+    setTabToolTip(row, changed ? tr("has changed settings") : QString()); // its accessible description
     update(placeOf(row));
 }
 
@@ -77,9 +86,31 @@ QSize PageList::sizeHint() const
         m_width = narrowest;
         for (int row = 0; row < count(); ++row)
             m_width = qMax(m_width, fontMetrics().horizontalAdvance(accessibleTabName(row)) + 2 * textMargin +
-                                        markRoom + 2 * sideMargin + 4);
+                                        markRoom + 2 * sideMargin + spareWidth);
     }
-    return {m_width, 240};
+    return {m_width, minimumSizeHint().height()};
+}
+
+QSize PageList::minimumSizeHint() const
+{
+    int height = sideMargin;
+    for (int row = 0; row < count(); ++row)
+        height += tabSizeHint(row).height();
+    return {leastWidth, height};
+}
+
+// The tool tip contains the name, which may be elided.
+bool PageList::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTabBar::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const int row = tabAt(help->pos());
+    const QString title = accessibleTabName(row);
+    const bool isChanged = tabData(row).toBool();
+    QToolTip::showText(help->globalPos(),
+                       isChanged ? tr("%1: has changed settings", "a page").arg(title) : title, this);
+    return true;
 }
 
 // The first row includes the margin above the rows.
@@ -105,7 +136,7 @@ void PageList::paintEvent(QPaintEvent *)
     }
 }
 
-// Draws rows with spacing, the current one on a rounded background.
+// Draws a row, the current one on a rounded background.
 void PageList::paintRow(QPainter *painter, const QStyleOptionTab &option, int row) const
 {
     const bool selected = option.state & QStyle::State_Selected;
@@ -139,12 +170,21 @@ void PageList::paintRow(QPainter *painter, const QStyleOptionTab &option, int ro
         paintChanged(painter, option.rect, ink, option.direction);
 }
 
-// The next row whose name starts with a typed letter; -1 if there is none.
-int PageList::rowStartingWith(const QString &text) const
+// The row whose name starts with the letters that are typed in quick succession; -1 if there is none. The
+// same letter again selects the next row with this letter.
+int PageList::rowNamed(const QString &typed)
 {
-    for (int step = 1; step <= count() && !text.isEmpty(); ++step) {
+    if (typed.isEmpty() || !typed.at(0).isPrint())
+        return -1;
+    if (!m_sinceTyped.isValid() || m_sinceTyped.hasExpired(QApplication::keyboardInputInterval()))
+        m_typed.clear();
+    m_sinceTyped.start();
+    m_typed += typed;
+    const bool isOneLetter = m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
+    const QString wanted = isOneLetter ? m_typed.left(1) : m_typed;
+    for (int step = isOneLetter ? 1 : 0; step <= count(); ++step) {
         const int row = (currentIndex() + step) % count();
-        if (accessibleTabName(row).startsWith(text, Qt::CaseInsensitive))
+        if (accessibleTabName(row).startsWith(wanted, Qt::CaseInsensitive))
             return row;
     }
     return -1;
@@ -169,7 +209,8 @@ void PageList::keyPressEvent(QKeyEvent *event)
         row = count() - 1;
         break;
     default:
-        row = rowStartingWith(event->text());
+        if (!(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
+            row = rowNamed(event->text());
     }
     if (row < 0)
         event->ignore();
@@ -177,7 +218,7 @@ void PageList::keyPressEvent(QKeyEvent *event)
         setCurrentIndex(row);
 }
 
-// Rolling the wheel must not turn the pages.
+// Scrolls instead of turning the pages.
 void PageList::wheelEvent(QWheelEvent *event)
 {
     event->ignore();
@@ -191,7 +232,7 @@ void PageList::changeEvent(QEvent *event)
         takePalette();
 }
 
-// Gives the list and the margin around its rows the same color.
+// The background of a list.
 void PageList::takePalette()
 {
     setBackgroundRole(QPalette::Base);
