@@ -93,10 +93,11 @@ void PpdRules::readMarks(Option option)
 {
     std::vector<Choice> chosen;
     bool isOn = false;
-    for (const Mark &mark : std::ranges::equal_range(m_marks, option, {}, &Mark::first)) {
-        isOn |= !isOffName(mark.second->choice);
+    auto mark = std::ranges::lower_bound(m_marks, option, {}, &Mark::first);
+    for (; mark != m_marks.end() && mark->first == option; ++mark) {
+        isOn |= !isOffName(mark->second->choice);
         if (option != m_pageSize)
-            chosen.push_back(m_engine.findChoice(option, mark.second->choice));
+            chosen.push_back(m_engine.findChoice(option, mark->second->choice));
     }
     // libcups stores the size separately from the marks: marking PageRegion removes the mark of PageSize.
     if (option == m_pageSize && m_size) {
